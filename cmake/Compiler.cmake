@@ -1,0 +1,30 @@
+# Warnings, sanitizers and the compiler cache, for every target of this tree.
+
+add_library(folioforge_compiler INTERFACE)
+
+target_compile_options(folioforge_compiler INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wcast-qual
+    -Wduplicated-cond -Wlogical-op)
+if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    target_compile_options(folioforge_compiler INTERFACE -Wno-unknown-warning-option)
+endif()
+if(FOLIOFORGE_WERROR)
+    target_compile_options(folioforge_compiler INTERFACE -Werror)
+endif()
+
+if(FOLIOFORGE_SANITIZE)
+    target_compile_options(folioforge_compiler INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(folioforge_compiler INTERFACE -fsanitize=address,undefined)
+endif()
+
+# Qt's implicit casts from bytes to text hide encoding mistakes.
+target_compile_definitions(folioforge_compiler INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
+    QT_STRICT_ITERATORS)
+
+find_program(FOLIOFORGE_CCACHE ccache)
+if(FOLIOFORGE_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${FOLIOFORGE_CCACHE}")
+endif()

@@ -1,0 +1,17 @@
+# The libraries the product stands on; docs/architecture.md says why each was taken.
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg Test)
+find_package(Threads REQUIRED)
+find_package(PkgConfig REQUIRED)
+
+pkg_check_modules(QPDF REQUIRED IMPORTED_TARGET libqpdf>=11.3)
+pkg_check_modules(HARFBUZZ REQUIRED IMPORTED_TARGET harfbuzz>=6 harfbuzz-subset>=6)
+pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
+pkg_check_modules(JPEG REQUIRED IMPORTED_TARGET libjpeg)
+pkg_check_modules(PNG REQUIRED IMPORTED_TARGET libpng)
+pkg_check_modules(TIFF REQUIRED IMPORTED_TARGET libtiff-4)
+pkg_check_modules(OPENJPEG REQUIRED IMPORTED_TARGET libopenjp2)
+pkg_check_modules(OPENEXR REQUIRED IMPORTED_TARGET OpenEXR)
+pkg_check_modules(LCMS REQUIRED IMPORTED_TARGET lcms2)
+pkg_check_modules(DEFLATE REQUIRED IMPORTED_TARGET libdeflate)
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)

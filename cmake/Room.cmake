@@ -1,0 +1,29 @@
+# folioforge_room(NAME [WIDGETS] SOURCES ... LINKS ... PRIVATE_LINKS ...): the static library of one folder
+# of src/, named folioforge_NAME. Headers are included as "room/Header.h", and each room's include
+# path holds that room alone, so a room sees only the rooms it links to: an arrow that points the
+# wrong way does not compile. WIDGETS marks a room of the window: it links Qt Widgets and runs moc
+# and uic.
+function(folioforge_room name)
+    cmake_parse_arguments(ROOM "WIDGETS" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+    set(target folioforge_${name})
+
+    set(view "${CMAKE_BINARY_DIR}/rooms/${name}")
+    file(MAKE_DIRECTORY "${view}")
+    file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}" "${view}/${name}" SYMBOLIC)
+
+    if(ROOM_SOURCES)
+        add_library(${target} STATIC ${ROOM_SOURCES})
+        if(ROOM_WIDGETS)
+            set_target_properties(${target} PROPERTIES AUTOMOC ON AUTOUIC ON)
+            target_link_libraries(${target} PUBLIC Qt6::Widgets)
+        endif()
+        target_include_directories(${target} PUBLIC "${view}")
+        target_link_libraries(${target}
+            PUBLIC ${ROOM_LINKS} Qt6::Core
+            PRIVATE ${ROOM_PRIVATE_LINKS} folioforge_compiler)
+    else()
+        add_library(${target} INTERFACE)
+        target_include_directories(${target} INTERFACE "${view}")
+        target_link_libraries(${target} INTERFACE ${ROOM_LINKS} Qt6::Core)
+    endif()
+endfunction()

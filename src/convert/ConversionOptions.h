@@ -1,0 +1,23 @@
+#pragma once
+
+#include "pdf/PDFContext.h"
+#include "text/PageSetup.h"
+
+#include <QString>
+
+namespace folioforge {
+
+/// Everything one run reads from the options panel or the arguments, copied when the run starts.
+struct ConversionOptions {
+    QString outputFolder;
+    bool merge = false;
+    QString outputName; ///< Name of the merged file; merge mode only.
+    DocumentInfo info;
+    SecuritySettings security;
+    PageSetup textPage{TextPageA4, 0, 0, {72, 72, 72, 72}};
+    PageSetup imagePage;
+    int compressIndex = 0; ///< 0 none, 1 "150m", 2 "96m", 3 "72l".
+    Flush flush = Flush::Always;
+};
+
+} // namespace folioforge

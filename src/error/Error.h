@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+#include <utility>
+
+namespace folioforge {
+
+/// What went wrong while one file was read, decoded or written, in words for the user.
+///
+/// The exceptions and codes of the libraries become an Error at the border of text/, image/ and
+/// pdf/; the conversion driver catches it for each entry, so nothing above the driver sees one.
+class Error : public std::exception {
+  public:
+    explicit Error(QString reason)
+        : m_reason(std::move(reason))
+        , m_bytes(m_reason.toUtf8()) {}
+
+    /// The reason as a sentence without the file's name and without a full stop.
+    [[nodiscard]] const QString &reason() const noexcept { return m_reason; }
+    [[nodiscard]] const char *what() const noexcept override { return m_bytes.constData(); }
+
+  private:
+    QString m_reason;
+    QByteArray m_bytes;
+};
+
+} // namespace folioforge

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace folioforge {
+
+enum class FileKind { Text, Image, Pdf, Other };
+
+/// The kind of a file, by the lower-cased extension of its path alone.
+FileKind fileKind(const QString &path);
+
+/// The recognised extensions of a kind, lower-cased, in the order in which file panels list them;
+/// none for Other.
+const QStringList &extensionsOf(FileKind kind);
+
+/// Path extension as the last component's text after its last full stop; empty when there is none
+/// or nothing stands before the full stop.
+QString pathExtension(const QString &path);
+
+/// `path` without its extension and the full stop before it; the same where it has none.
+QString withoutExtension(const QString &path);
+
+/// The text after the last slash of `path`, ignoring slashes at its end.
+QString lastPathComponent(const QString &path);
+
+} // namespace folioforge

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "image/ImageHeader.h"
+
+#include <QColor>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+
+namespace folioforge {
+
+/// States of an entry; the numbers are the state codes.
+enum EntryState { Waiting = 1, Converting = 2, FinishedAsLink = 3, Finished = 4, Failed = 5 };
+
+/// A text with the look in which the list shows it.
+struct RichText {
+    QString text;
+    bool underlined = false;
+    QColor color; ///< Invalid for the default text colour.
+
+    bool operator==(const RichText &) const = default;
+};
+
+/// A source image known by its header; its pixels are decoded only when its page is written.
+struct SourceImage {
+    QString path;
+    ImageHeader header;
+
+    [[nodiscard]] QSizeF sizeInPoints() const { return header.sizeInPoints(); }
+};
+
+/// One row of the file list: an input file, what the list shows of it and where its output went.
+class PDFFileInfo {
+  public:
+    PDFFileInfo() = default;
+    explicit PDFFileInfo(const QString &path) {
+        setFilePathName(path);
+        setStateIndex(Waiting);
+    }
+
+    [[nodiscard]] const QString &filePathName() const { return m_filePathName; }
+    [[nodiscard]] const QString &fileName() const { return m_fileName; }
+    [[nodiscard]] const QString &destFilePathName() const { return m_destFilePathName; }
+    [[nodiscard]] const QString &destFileName() const { return m_destFileName; }
+    [[nodiscard]] int pageCount() const { return m_pageCount; }
+    [[nodiscard]] const QString &fileSize() const { return m_fileSize; }
+    [[nodiscard]] int index() const { return m_index; }
+    [[nodiscard]] int stateIndex() const { return m_stateIndex; }
+    /// Nothing until setStateIndex() or setState() is called.
+    [[nodiscard]] const std::optional<RichText> &state() const { return m_state; }
+    [[nodiscard]] const std::optional<SourceImage> &getSrcImage() const { return m_srcImage; }
+    /// The decoded text of a text entry; a null string when it could not be read as UTF-8.
+    [[nodiscard]] const QString &getFileString() const { return m_fileString; }
+    /// Why the source could not be read; empty when it could.
+    [[nodiscard]] const QString &readError() const { return m_readError; }
+
+    void setPageCount(int count) { m_pageCount = count; }
+    void setFileSize(const QString &text) { m_fileSize = text; }
+    void setIndex(int index) { m_index = index; }
+    void setState(const RichText &state) { m_state = state; }
+    void setFileName(const QString &name) { m_fileName = name; }
+    void setDestFileName(const QString &name) { m_destFileName = name; }
+
+    /// Sets the source path and the file name, and reads the file as far as the list needs it: a
+    /// text's contents, an image's header and its size text.
+    void setFilePathName(const QString &path);
+    /// Sets the destination path and its last component as the destination name.
+    void setDestFilePathName(const QString &path);
+    /// Stores the state code and rebuilds the state text.
+    void setStateIndex(int code);
+
+    /// The destination name, shortened in its middle for lists: whole up to 18 - `shrink`
+    /// characters, else 8 - `shrink` characters, "..." and the last 10.
+    [[nodiscard]] QString getShortDestFileName(int shrink) const;
+    /// Width of `name` in "Lucida Grande" at 11 points, truncated to whole points.
+    [[nodiscard]] static float GetWidthOfName(const QString &name);
+    /// The values of file metadata keys (kMDItemFSName, ...Size, ...CreationDate,
+    /// ...ContentChangeDate), read afresh; an invalid variant for any other key.
+    [[nodiscard]] QVariant valueForUndefinedKey(const QString &key) const;
+
+  private:
+    QString m_filePathName = QStringLiteral("");
+    QString m_fileName;
+    QString m_destFilePathName;
+    QString m_destFileName;
+    int m_pageCount = 0;
+    QString m_fileSize = QStringLiteral("");
+    int m_index = 0;
+    int m_stateIndex = Waiting;
+    std::optional<RichText> m_state;
+    std::optional<SourceImage> m_srcImage;
+    QString m_fileString;
+    QString m_readError;
+};
+
+} // namespace folioforge

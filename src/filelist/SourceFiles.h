@@ -1,0 +1,29 @@
+#pragma once
+
+#include "filelist/FileKind.h"
+#include "text/Notice.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace folioforge {
+
+/// Appends to `files` the paths ("folder/name") of the text and image files of `folder`: one
+/// level, in the file system's order, hidden ones too. PDF files inside a folder are not taken. A
+/// folder that cannot be listed adds nothing.
+void addDirectorie(const QString &folder, QStringList &files);
+
+/// Size text of a file of `bytes` bytes, taken as a signed 32-bit number and rounded up to whole
+/// blocks of 4096: "4 KB", "%d KB" or "%0.1f MB".
+QString sizeText(qint64 bytes);
+
+/// Whether the PDF at `path` may enter the list: it opens as a PDF and is not encrypted. The reason
+/// of a refusal goes to `reason` where that is given.
+bool isAcceptablePdf(const QString &path, QString *reason = nullptr);
+
+/// The one alert for the PDF files that were refused, in order.
+Notice badFilesNotice(const QStringList &paths);
+
+} // namespace folioforge

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "image/ImageHeader.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace folioforge {
+
+/// A run of bytes of a source file that goes into the PDF as it is.
+struct FileSlice {
+    qint64 offset = 0; ///< Bytes from the start of the file.
+    qint64 length = 0; ///< Bytes.
+};
+
+/// Filter of an encoded image's data, in the PDF's terms (ISO 32000-1, 7.4).
+enum class ImageFilter { Flate, Dct, Jpx, CcittFax };
+
+enum class ImageColor { Gray, Rgb, Cmyk, Lab, Indexed, FromJpx };
+
+/// How a source image reaches the PDF, for the report.
+enum class EmbeddedAs { OwnBytes, Recompressed };
+
+/// An image in the form in which a PDF holds it: compressed samples and what is needed to read
+/// them.
+struct EncodedImage {
+    int width = 0;            ///< Pixels.
+    int height = 0;           ///< Pixels.
+    int bitsPerComponent = 8; ///< 1, 2, 4, 8 or 16; not written for JPX.
+    ImageColor color = ImageColor::Rgb;
+    ImageFilter filter = ImageFilter::Flate;
+    EmbeddedAs embeddedAs = EmbeddedAs::Recompressed;
+
+    QByteArray iccProfile;      ///< ICC profile of the samples, or of the palette; empty for none.
+    QByteArray palette;         ///< RGB triples for ImageColor::Indexed.
+    std::vector<double> decode; ///< The Decode array; empty for the default.
+
+    int predictor = 1;          ///< Flate: 1 none, 15 PNG rows (with colors and bitsPerComponent).
+    int ccittK = -1;            ///< CCITT: K parameter.
+    bool ccittBlackIs1 = false; ///< CCITT: BlackIs1 parameter.
+
+    /// The compressed data: either in `data`, or slices of the file `sourcePath` in this order.
+    QByteArray data;
+    QString sourcePath;
+    std::vector<FileSlice> slices;
+    /// Size of the source file when it was examined; a different size later is an error.
+    qint64 sourceSize = 0;
+
+    /// Opacity of each pixel as a grey image; none for an opaque image.
+    std::unique_ptr<EncodedImage> softMask;
+};
+
+/// Reads the image at `path` and puts it into the form in which a PDF holds it: the file's own
+/// compressed bytes where a PDF can hold them, else decoded and compressed losslessly. Throws
+/// Error when the file cannot be read or decoded.
+EncodedImage encodeImage(const QString &path);
+
+} // namespace folioforge

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QSizeF>
+#include <QString>
+
+namespace folioforge {
+
+enum class ImageFormat { Jpeg, Jpeg2000, Png, Tiff, Bmp, Gif, Ico, Icns, Exr, Tga, Psd };
+
+/// Images above this many pixels are refused, so that a small file cannot claim the machine's
+/// memory.
+inline constexpr qint64 kMaxImagePixels = 500'000'000;
+
+/// What the header of an image file says; no pixel is decoded to learn it.
+struct ImageHeader {
+    ImageFormat format = ImageFormat::Png;
+    int width = 0;       ///< Stored pixels, before orientation.
+    int height = 0;      ///< Stored pixels, before orientation.
+    int orientation = 1; ///< EXIF orientation 1 to 8; anything else in the file counts as 1.
+    double horizontalDpi =
+        72; ///< Pixels per inch along the stored rows; 72 where absent or absurd.
+    double verticalDpi = 72;
+
+    /// Size in points (1/72 inch) as displayed: orientations 5 to 8 exchange the sides.
+    [[nodiscard]] QSizeF sizeInPoints() const;
+};
+
+/// Reads the header of the image file at `path`; the kind is chosen by content where the bytes are
+/// plain about it, by extension otherwise. Throws Error when the file is no image that can be read
+/// or exceeds kMaxImagePixels.
+ImageHeader readImageHeader(const QString &path);
+
+} // namespace folioforge

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace folioforge {
+
+/// One notice for the user, as a value: the window shows it as a sheet, the command line prints it.
+struct Notice {
+    QString title;   ///< The message text, "Notice" for most.
+    QString message; ///< The informative text under it.
+
+    bool operator==(const Notice &) const = default;
+};
+
+/// A notice with the usual title "Notice".
+inline Notice notice(const QString &message) {
+    return {QStringLiteral("Notice"), message};
+}
+
+} // namespace folioforge

@@ -1,0 +1,133 @@
+#include "text/PageSetup.h"
+
+#include <array>
+#include <limits>
+
+namespace folioforge {
+namespace {
+
+enum class Target { Text, Image };
+enum class Axis { Width, Height };
+
+constexpr quint64 kLargestMargin = 256;
+
+Notice alertInvalidPageMargin(Target target) {
+    const QString head = QStringLiteral("Invalid page margin value ");
+    return notice(head + (target == Target::Text ? QStringLiteral("in text output setting.")
+                                                 : QStringLiteral("in image output setting.")));
+}
+
+Notice alertInvalidPageSize(Target target, Axis axis) {
+    const QString head = QStringLiteral("The value of page margin is larger than page ");
+    const QString middle =
+        axis == Axis::Width ? QStringLiteral("width, ") : QStringLiteral("height, ");
+    const QString tail = target == Target::Text
+                             ? QStringLiteral("please modify your text output setting.")
+                             : QStringLiteral("please modify your image output setting.");
+    return notice(head + middle + tail);
+}
+
+/// Negative margins wrap to large unsigned numbers and fail with the same test.
+bool isValidMargin(qint64 margin) {
+    return static_cast<quint64>(margin) <= kLargestMargin;
+}
+
+std::optional<Notice> checkMargins(const PageMargins &margins, Target target) {
+    for (const qint64 margin :
+         std::array{margins.top, margins.left, margins.bottom, margins.right}) {
+        if (!isValidMargin(margin)) {
+            return alertInvalidPageMargin(target);
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<Notice> checkRoomBetweenMargins(const PageMargins &margins, QSizeF size,
+                                              Target target) {
+    if (static_cast<double>(margins.left + margins.right) >= size.width()) {
+        return alertInvalidPageSize(target, Axis::Width);
+    }
+    if (static_cast<double>(margins.top + margins.bottom) >= size.height()) {
+        return alertInvalidPageSize(target, Axis::Height);
+    }
+    return std::nullopt;
+}
+
+QSizeF customSize(const PageSetup &setup) {
+    return {static_cast<double>(setup.customWidth), static_cast<double>(setup.customHeight)};
+}
+
+} // namespace
+
+qint64 integerValue(QStringView text) {
+    text = text.trimmed();
+    const bool negative = text.startsWith(u'-');
+    if (negative || text.startsWith(u'+')) {
+        text = text.sliced(1);
+    }
+    constexpr quint64 kMax = std::numeric_limits<qint64>::max();
+    const quint64 limit = negative ? kMax + 1 : kMax;
+    quint64 value = 0;
+    for (const QChar unit : text) {
+        if (unit < u'0' || unit > u'9') {
+            break;
+        }
+        const quint64 digit = unit.unicode() - u'0';
+        value = value > (limit - digit) / 10 ? limit : value * 10 + digit;
+    }
+    return static_cast<qint64>(negative ? 0 - value : value);
+}
+
+QSizeF getTextPageSize(const PageSetup &setup) {
+    switch (setup.sizeMode) {
+    case TextPageA3:
+        return {842, 1191};
+    case TextPageA4:
+        return {595, 842};
+    case TextPageA5:
+        return {420, 595};
+    case TextPageCustom:
+        return customSize(setup);
+    default:
+        return {0, 0};
+    }
+}
+
+QSizeF getImagePageSize(const PageSetup &setup) {
+    return setup.sizeMode == ImagePageCustom ? customSize(setup) : QSizeF(0, 0);
+}
+
+std::optional<Notice> checkTextPageSizeSettings(const PageSetup &setup) {
+    if (auto invalid = checkMargins(setup.margins, Target::Text)) {
+        return invalid;
+    }
+    return checkRoomBetweenMargins(setup.margins, getTextPageSize(setup), Target::Text);
+}
+
+std::optional<Notice> checkImagePageSizeSettings(const PageSetup &setup) {
+    if (auto invalid = checkMargins(setup.margins, Target::Image)) {
+        return invalid;
+    }
+    if (setup.sizeMode != ImagePageCustom) {
+        return std::nullopt;
+    }
+    return checkRoomBetweenMargins(setup.margins, getImagePageSize(setup), Target::Image);
+}
+
+std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings) {
+    if (settings.useUserPassword && settings.userPassword.isEmpty()) {
+        return notice(QStringLiteral("Please input user password."));
+    }
+    if (!settings.useOwnerPassword) {
+        return std::nullopt;
+    }
+    if (settings.ownerPassword.isEmpty()) {
+        return notice(QStringLiteral("Please input owner password."));
+    }
+    if (settings.useUserPassword && settings.userPassword == settings.ownerPassword) {
+        return notice(QStringLiteral("The passwords can not be the same."));
+    }
+    return std::nullopt;
+}
+
+} // namespace folioforge

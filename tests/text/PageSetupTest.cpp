@@ -1,0 +1,199 @@
+#include "text/PageSetup.h"
+
+#include <QTest>
+
+#include <limits>
+
+using namespace folioforge;
+
+namespace {
+
+const QString kTextMargin = QStringLiteral("Invalid page margin value in text output setting.");
+const QString kImageMargin = QStringLiteral("Invalid page margin value in image output setting.");
+const QString kTextWidth = QStringLiteral("The value of page margin is larger than page width, "
+                                          "please modify your text output setting.");
+const QString kTextHeight = QStringLiteral("The value of page margin is larger than page height, "
+                                           "please modify your text output setting.");
+const QString kImageWidth = QStringLiteral("The value of page margin is larger than page width, "
+                                           "please modify your image output setting.");
+const QString kImageHeight = QStringLiteral("The value of page margin is larger than page height, "
+                                            "please modify your image output setting.");
+const QString kNoUserPassword = QStringLiteral("Please input user password.");
+const QString kNoOwnerPassword = QStringLiteral("Please input owner password.");
+const QString kSamePasswords = QStringLiteral("The passwords can not be the same.");
+
+/// The message of a notice; empty when the check passed.
+QString messageOf(const std::optional<Notice> &result) {
+    return result ? result->message : QString();
+}
+
+PageMargins margins(qint64 left, qint64 right, qint64 top, qint64 bottom) {
+    return {left, right, top, bottom};
+}
+
+} // namespace
+
+class PageSetupTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void numbersAreTheLeadingInteger_data() {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<qint64>("value");
+        QTest::newRow("plain") << QStringLiteral("72") << qint64(72);
+        QTest::newRow("empty") << QString() << qint64(0);
+        QTest::newRow("words") << QStringLiteral("wide") << qint64(0);
+        QTest::newRow("unit behind") << QStringLiteral("12pt") << qint64(12);
+        QTest::newRow("fraction") << QStringLiteral("36.9") << qint64(36);
+        QTest::newRow("blanks in front") << QStringLiteral("  5") << qint64(5);
+        QTest::newRow("minus") << QStringLiteral("-1") << qint64(-1);
+        QTest::newRow("plus") << QStringLiteral("+8") << qint64(8);
+        QTest::newRow("sign alone") << QStringLiteral("-") << qint64(0);
+        QTest::newRow("largest") << QStringLiteral("9223372036854775807")
+                                 << std::numeric_limits<qint64>::max();
+        QTest::newRow("too large")
+            << QStringLiteral("99999999999999999999") << std::numeric_limits<qint64>::max();
+        QTest::newRow("too small")
+            << QStringLiteral("-99999999999999999999") << std::numeric_limits<qint64>::min();
+    }
+
+    void numbersAreTheLeadingInteger() {
+        QFETCH(const QString, text);
+        QFETCH(const qint64, value);
+        QCOMPARE(integerValue(text), value);
+    }
+
+    void textPageSizesAreIsoSizesInWholePoints() {
+        PageSetup setup;
+        setup.customWidth = 300;
+        setup.customHeight = -4;
+        const QList<std::pair<int, QSizeF>> sizes{{0, {842, 1191}}, {1, {595, 842}},
+                                                  {2, {420, 595}},  {3, {300, -4}},
+                                                  {4, {0, 0}},      {-1, {0, 0}}};
+        for (const auto &[row, size] : sizes) {
+            setup.sizeMode = row;
+            QCOMPARE(getTextPageSize(setup), size);
+        }
+    }
+
+    void imagePageSizeIsZeroUnlessCustom() {
+        PageSetup setup;
+        setup.customWidth = 300;
+        setup.customHeight = 200;
+        const QList<std::pair<int, QSizeF>> sizes{
+            {0, {0, 0}}, {1, {300, 200}}, {2, {0, 0}}, {-1, {0, 0}}};
+        for (const auto &[row, size] : sizes) {
+            setup.sizeMode = row;
+            QCOMPARE(getImagePageSize(setup), size);
+        }
+    }
+
+    void textMarginsUpTo256AreAccepted() {
+        QCOMPARE(messageOf(checkTextPageSizeSettings({TextPageA4, 0, 0, margins(256, 0, 0, 0)})),
+                 QString());
+    }
+
+    void textMarginsOutOfRangeAreRefused_data() {
+        QTest::addColumn<qint64>("value");
+        QTest::newRow("257") << qint64(257);
+        QTest::newRow("-1") << qint64(-1);
+        QTest::newRow("smallest") << std::numeric_limits<qint64>::min();
+    }
+
+    void textMarginsOutOfRangeAreRefused() {
+        QFETCH(const qint64, value);
+        for (const PageMargins &bad : {margins(value, 0, 0, 0), margins(0, value, 0, 0),
+                                       margins(0, 0, value, 0), margins(0, 0, 0, value)}) {
+            QCOMPARE(messageOf(checkTextPageSizeSettings({TextPageA4, 0, 0, bad})), kTextMargin);
+        }
+    }
+
+    void theNoticeIsTitledNotice() {
+        const auto result = checkTextPageSizeSettings({TextPageA4, 0, 0, margins(257, 0, 0, 0)});
+        QVERIFY(result);
+        QCOMPARE(result->title, QStringLiteral("Notice"));
+    }
+
+    void twoBadMarginsGiveOneNotice() {
+        QCOMPARE(messageOf(checkTextPageSizeSettings({TextPageA4, 0, 0, margins(300, 0, 300, 0)})),
+                 kTextMargin);
+    }
+
+    void marginsAreCheckedBeforeThePageSize() {
+        QCOMPARE(messageOf(checkTextPageSizeSettings({TextPageCustom, 0, 0, margins(0, 0, 0, -1)})),
+                 kTextMargin);
+    }
+
+    void textMarginsAsWideAsThePageAreRefused() {
+        QCOMPARE(
+            messageOf(checkTextPageSizeSettings({TextPageCustom, 100, 500, margins(50, 50, 0, 0)})),
+            kTextWidth);
+        QCOMPARE(
+            messageOf(checkTextPageSizeSettings({TextPageCustom, 101, 500, margins(50, 50, 0, 0)})),
+            QString());
+    }
+
+    void textMarginsAsHighAsThePageAreRefused() {
+        QCOMPARE(
+            messageOf(checkTextPageSizeSettings({TextPageCustom, 500, 100, margins(0, 0, 50, 50)})),
+            kTextHeight);
+    }
+
+    void aCustomSizeOfZeroFailsByWidthFirst() {
+        QCOMPARE(messageOf(checkTextPageSizeSettings({TextPageCustom, 0, 0, {}})), kTextWidth);
+        QCOMPARE(messageOf(checkTextPageSizeSettings({TextPageCustom, 9, -7, {}})), kTextHeight);
+    }
+
+    void anImagePageThatFollowsTheImageHasNoSizeToCheck() {
+        QCOMPARE(messageOf(checkImagePageSizeSettings(
+                     {ImagePageFollowsImage, -5, 0, margins(256, 256, 256, 256)})),
+                 QString());
+    }
+
+    void imageMarginsAreCheckedInEveryMode() {
+        QCOMPARE(messageOf(checkImagePageSizeSettings(
+                     {ImagePageFollowsImage, 0, 0, margins(0, 257, 0, 0)})),
+                 kImageMargin);
+    }
+
+    void customImagePagesNeedRoomBetweenTheMargins() {
+        QCOMPARE(messageOf(
+                     checkImagePageSizeSettings({ImagePageCustom, 20, 100, margins(10, 10, 0, 0)})),
+                 kImageWidth);
+        QCOMPARE(messageOf(
+                     checkImagePageSizeSettings({ImagePageCustom, 100, 20, margins(0, 0, 10, 10)})),
+                 kImageHeight);
+        QCOMPARE(messageOf(checkImagePageSizeSettings(
+                     {ImagePageCustom, 21, 21, margins(10, 10, 10, 10)})),
+                 QString());
+    }
+
+    void anEmptyUserPasswordIsReportedFirst() {
+        QCOMPARE(messageOf(checkSecuritySettings({true, QString(), true, QString(), false, false})),
+                 kNoUserPassword);
+    }
+
+    void anEmptyOwnerPasswordIsRefused() {
+        QCOMPARE(
+            messageOf(checkSecuritySettings({false, QString(), true, QString(), false, false})),
+            kNoOwnerPassword);
+    }
+
+    void equalPasswordsAreRefusedByCase() {
+        const QString lower = QStringLiteral("abc");
+        QCOMPARE(messageOf(checkSecuritySettings({true, lower, true, lower, false, false})),
+                 kSamePasswords);
+        QCOMPARE(
+            messageOf(checkSecuritySettings({true, lower, true, lower.toUpper(), false, false})),
+            QString());
+    }
+
+    void aUserPasswordThatIsOffIsNotCompared() {
+        const QString same = QStringLiteral("abc");
+        QCOMPARE(messageOf(checkSecuritySettings({false, same, true, same, false, false})),
+                 QString());
+    }
+};
+
+QTEST_GUILESS_MAIN(PageSetupTest)
+#include "PageSetupTest.moc"
