@@ -5,10 +5,9 @@ add_library(folioforge_compiler INTERFACE)
 target_compile_options(folioforge_compiler INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
     -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wcast-qual
-    -Wduplicated-cond -Wlogical-op)
-if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-    target_compile_options(folioforge_compiler INTERFACE -Wno-unknown-warning-option)
-endif()
+    -Wduplicated-cond -Wlogical-op
+    # Clang and its tools read the same command lines and lack the two above.
+    -Wno-unknown-warning-option)
 if(FOLIOFORGE_WERROR)
     target_compile_options(folioforge_compiler INTERFACE -Werror)
 endif()
