@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+namespace folioforge {
+
+/// What one filter file says about reducing the images of a document.
+struct QuartzFilter {
+    double resolution = 150; ///< Pixels per inch of printed size that an image is sampled down to.
+    int jpegQuality = 60;    ///< 1 to 100, on the scale of libjpeg.
+    double tolerance = 1.2;  ///< Images up to this many times `resolution` keep their pixels.
+    qint64 smallestImage = 64; ///< Images with fewer pixels are left alone.
+    bool keepLineArt = true;   ///< Lossless drawings and screenshots stay lossless.
+};
+
+/// The filter's name at row `index` of the compress methods: "150m", "96m", "72l"; empty for 0,
+/// which compresses nothing, and for any other row.
+QString quartzFilterName(int index);
+
+/// The filter file of that name in the bundle: BUNDLE/Contents/Resources/NAME.qfilter.
+QString quartzFilterPath(const QString &bundlePath, const QString &name);
+
+/// Reads a filter file, an XML or binary property list. Throws Error when it cannot be read, lacks
+/// a key or holds a value out of range.
+QuartzFilter readQuartzFilter(const QString &path);
+
+} // namespace folioforge
