@@ -1,56 +1,88 @@
 #pragma once
 
+#include "text/FontCatalog.h"
+#include "text/FontFace.h"
 #include "text/Glyph.h"
 
-#include <QByteArray>
 #include <QString>
-#include <QStringView>
 
+#include <array>
 #include <cstddef>
 #include <memory>
+#include <mutex>
 #include <vector>
-
-struct hb_face_t;
 
 namespace folioforge {
 
-/// One font file opened for measuring and embedding.
-class FontFace {
-  public:
-    virtual ~FontFace() = default;
-
-    /// The HarfBuzz face; owned by this object and valid as long as it.
-    [[nodiscard]] virtual hb_face_t *hbFace() const = 0;
-    [[nodiscard]] virtual QString family() const = 0;
-    /// PostScript name, fit for a PDF font name.
-    [[nodiscard]] virtual QByteArray postScriptName() const = 0;
-    [[nodiscard]] virtual unsigned unitsPerEm() const = 0;
-};
-
-/// The text font: the named family where the system has it, else a cascade of free fonts that
-/// together cover its scripts. The first face gives the row height.
+/// The text font: the named family where the system has it, then a cascade of free fonts that
+/// together cover the scripts of the world. The first face gives the row height. A face behind the
+/// first is opened only when a character needs it; glyphs once found are remembered. May be used
+/// from any thread.
 class FontCascade {
   public:
-    /// Opens the faces for `family` at `size` points. Never fails: with no font at all, glyphs
-    /// measure and draw as nothing.
+    /// The faces for `family` at `size` points. Never fails: with no font at all, glyphs measure
+    /// and draw as nothing.
     static std::shared_ptr<const FontCascade> load(const QString &family, double size);
 
-    virtual ~FontCascade() = default;
-
-    [[nodiscard]] virtual double size() const = 0;
-    [[nodiscard]] virtual double ascent() const = 0;  ///< Points, of the first face.
-    [[nodiscard]] virtual double descent() const = 0; ///< Points, positive, of the first face.
-    [[nodiscard]] virtual double leading() const = 0; ///< Points, of the first face.
+    /// Points.
+    [[nodiscard]] double size() const { return m_size; }
+    [[nodiscard]] double ascent() const;  ///< Points, of the first face.
+    [[nodiscard]] double descent() const; ///< Points, positive, of the first face.
+    [[nodiscard]] double leading() const; ///< Points, of the first face.
     /// Ascent + descent + leading, summed in double precision and stored as a 32-bit float.
     [[nodiscard]] float rowHeight() const {
         return static_cast<float>(ascent() + descent() + leading());
     }
 
-    [[nodiscard]] virtual std::size_t faceCount() const = 0;
-    [[nodiscard]] virtual const FontFace &face(std::size_t index) const = 0;
+    /// The number of faces a glyph may name, opened or not; 0 on a system without fonts.
+    [[nodiscard]] std::size_t faceCount() const { return m_faces.size(); }
+    /// A face that a glyph of this cascade names. Throws Error when its file has become unreadable.
+    [[nodiscard]] const FontFace &face(std::size_t index) const;
 
     /// The glyph of one character: from the first face that covers it, else glyph 0 of the first.
-    [[nodiscard]] virtual Glyph glyph(char32_t character) const = 0;
+    [[nodiscard]] Glyph glyph(char32_t character) const {
+        const char32_t ascii = character - kFirstAscii;
+        return ascii < m_ascii.size() ? m_ascii[ascii] : rememberedGlyph(character);
+    }
+    /// The missing-glyph box that half of a surrogate pair draws.
+    [[nodiscard]] Glyph missingGlyph() const { return m_missing; }
+
+  private:
+    struct Face {
+        explicit Face(CatalogFont entry)
+            : font(std::move(entry)) {}
+        CatalogFont font;
+        std::unique_ptr<const FontFace> opened;
+        bool unreadable = false;
+    };
+    static constexpr std::size_t kPageSize = 256;
+    struct Page {
+        std::array<Glyph, kPageSize> glyphs;
+        std::array<bool, kPageSize> known{};
+    };
+    static constexpr char32_t kFirstAscii = 0x20;
+    static constexpr char32_t kLastAscii = 0x7E;
+
+    FontCascade(const QString &family, double size);
+
+    const FontFace *openFace(std::size_t index) const;
+    [[nodiscard]] Glyph rememberedGlyph(char32_t character) const;
+    [[nodiscard]] Glyph findGlyph(char32_t character) const;
+    [[nodiscard]] Glyph glyphOf(std::size_t face, std::uint32_t id, char32_t character) const;
+    [[nodiscard]] double points(int fontUnits) const;
+
+    double m_size = 0;
+    const FontFace *m_first = nullptr;
+    Glyph m_missing;
+    std::array<Glyph, kLastAscii - kFirstAscii + 1> m_ascii;
+
+    mutable std::mutex m_mutex; ///< Guards what is opened and remembered on the way.
+    mutable std::vector<Face> m_faces;
+    mutable std::vector<std::unique_ptr<Page>> m_pages;
 };
+
+/// The one font of text pages, "Arial Unicode MS" at 14 points. Opened at first use and kept for
+/// the life of the program, so that a thousand small documents pay for it once.
+std::shared_ptr<const FontCascade> textFont();
 
 } // namespace folioforge

@@ -1,0 +1,117 @@
+#include "text/FontCascade.h"
+
+#include "error/Error.h"
+
+#include <QFile>
+
+namespace folioforge {
+
+namespace {
+constexpr std::size_t kUnicodePages = 0x1100;
+} // namespace
+
+std::shared_ptr<const FontCascade> FontCascade::load(const QString &family, double size) {
+    return std::shared_ptr<const FontCascade>(new FontCascade(family, size));
+}
+
+FontCascade::FontCascade(const QString &family, double size)
+    : m_size(size)
+    , m_pages(kUnicodePages) {
+    for (CatalogFont &font : findTextFonts(family)) {
+        // The first face gives the row height, so it must be one that opens.
+        if (Face face(std::move(font));
+            !m_faces.empty() ||
+            (face.opened = FontFace::open(face.font.path(), face.font.index()))) {
+            m_faces.push_back(std::move(face));
+        }
+    }
+    if (!m_faces.empty()) {
+        m_first = m_faces.front().opened.get();
+        m_missing = glyphOf(0, 0, kNoCharacter);
+    }
+    for (char32_t character = kFirstAscii; character <= kLastAscii; ++character) {
+        m_ascii[character - kFirstAscii] = findGlyph(character);
+    }
+}
+
+double FontCascade::points(int fontUnits) const {
+    return fontUnits * m_size / m_first->unitsPerEm();
+}
+
+double FontCascade::ascent() const {
+    return m_first ? points(m_first->extents().ascent) : 0;
+}
+
+double FontCascade::descent() const {
+    return m_first ? points(m_first->extents().descent) : 0;
+}
+
+double FontCascade::leading() const {
+    return m_first ? points(m_first->extents().leading) : 0;
+}
+
+const FontFace &FontCascade::face(std::size_t index) const {
+    const std::lock_guard lock(m_mutex);
+    if (const FontFace *face = openFace(index)) {
+        return *face;
+    }
+    throw Error(QStringLiteral("the font %1 cannot be read")
+                    .arg(QFile::decodeName(m_faces.at(index).font.path())));
+}
+
+const FontFace *FontCascade::openFace(std::size_t index) const {
+    Face &face = m_faces.at(index);
+    if (!face.opened && !face.unreadable) {
+        face.opened = FontFace::open(face.font.path(), face.font.index());
+        face.unreadable = !face.opened;
+    }
+    return face.opened.get();
+}
+
+Glyph FontCascade::rememberedGlyph(char32_t character) const {
+    const std::size_t number = character / kPageSize;
+    if (number >= m_pages.size()) {
+        return m_missing;
+    }
+    const std::lock_guard lock(m_mutex);
+    auto &page = m_pages[number];
+    if (!page) {
+        page = std::make_unique<Page>();
+    }
+    const std::size_t slot = character % kPageSize;
+    if (!page->known[slot]) {
+        page->glyphs[slot] = findGlyph(character);
+        page->known[slot] = true;
+    }
+    return page->glyphs[slot];
+}
+
+Glyph FontCascade::findGlyph(char32_t character) const {
+    for (std::size_t i = 0; i < m_faces.size(); ++i) {
+        // The catalog leaves control characters out, so the first face, open anyway, is asked.
+        if (i > 0 && !m_faces[i].font.covers(character)) {
+            continue;
+        }
+        const FontFace *face = openFace(i);
+        if (const auto id = face ? face->glyph(character) : std::nullopt) {
+            return glyphOf(i, *id, character);
+        }
+    }
+    Glyph missing = m_missing;
+    missing.character = character;
+    return missing;
+}
+
+Glyph FontCascade::glyphOf(std::size_t face, std::uint32_t id, char32_t character) const {
+    const FontFace &opened = *m_faces[face].opened;
+    return {id, static_cast<std::uint16_t>(face), character,
+            opened.advance(id) * m_size / opened.unitsPerEm()};
+}
+
+std::shared_ptr<const FontCascade> textFont() {
+    constexpr double kPoints = 14;
+    static const auto font = FontCascade::load(QStringLiteral("Arial Unicode MS"), kPoints);
+    return font;
+}
+
+} // namespace folioforge

@@ -1,0 +1,89 @@
+#include "text/FontFace.h"
+
+#include <hb-ot.h>
+#include <hb.h>
+
+#include <array>
+
+namespace folioforge {
+namespace {
+
+bool hasTable(hb_face_t *face, hb_tag_t tag) {
+    hb_blob_t *blob = hb_face_reference_table(face, tag);
+    const bool present = hb_blob_get_length(blob) > 0;
+    hb_blob_destroy(blob);
+    return present;
+}
+
+/// PDF names are bytes; keeping letters, digits, hyphens and underscores spares every reader the
+/// question of escapes.
+QByteArray readPostScriptName(hb_face_t *face) {
+    std::array<char, 128> name{};
+    auto length = static_cast<unsigned>(name.size());
+    hb_ot_name_get_utf8(face, HB_OT_NAME_ID_POSTSCRIPT_NAME, HB_LANGUAGE_INVALID, &length,
+                        name.data());
+    QByteArray fit;
+    for (const char byte : QByteArrayView(name.data(), static_cast<qsizetype>(length))) {
+        const bool letter = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z');
+        if (letter || (byte >= '0' && byte <= '9') || byte == '-' || byte == '_') {
+            fit += byte;
+        }
+    }
+    return fit.isEmpty() ? QByteArrayLiteral("Font") : fit;
+}
+
+} // namespace
+
+void FontFace::Release::operator()(hb_face_t *face) const {
+    hb_face_destroy(face);
+}
+
+void FontFace::Release::operator()(hb_font_t *font) const {
+    hb_font_destroy(font);
+}
+
+FontFace::FontFace(Face face, Font font)
+    : m_face(std::move(face))
+    , m_font(std::move(font))
+    , m_postScriptName(readPostScriptName(m_face.get())) {}
+
+std::unique_ptr<const FontFace> FontFace::open(const QByteArray &path, unsigned index) {
+    hb_blob_t *blob = hb_blob_create_from_file_or_fail(path.constData());
+    if (!blob) {
+        return nullptr;
+    }
+    Face face(hb_face_create(blob, index));
+    hb_blob_destroy(blob);
+    if (hb_face_get_glyph_count(face.get()) == 0 ||
+        !(hasTable(face.get(), HB_TAG('g', 'l', 'y', 'f')) ||
+          hasTable(face.get(), HB_TAG('C', 'F', 'F', ' ')))) {
+        return nullptr;
+    }
+    hb_face_make_immutable(face.get());
+    Font font(hb_font_create(face.get()));
+    return std::unique_ptr<const FontFace>(new FontFace(std::move(face), std::move(font)));
+}
+
+unsigned FontFace::unitsPerEm() const {
+    return hb_face_get_upem(m_face.get());
+}
+
+FontExtents FontFace::extents() const {
+    hb_font_extents_t extents{};
+    hb_font_get_h_extents(m_font.get(), &extents);
+    return {extents.ascender, -extents.descender, extents.line_gap};
+}
+
+std::optional<std::uint32_t> FontFace::glyph(char32_t character) const {
+    hb_codepoint_t id = 0;
+    if (hb_font_get_nominal_glyph(m_font.get(), character, &id) && id != 0) {
+        return id;
+    }
+    return std::nullopt;
+}
+
+int FontFace::advance(std::uint32_t glyph) const {
+    return hb_font_get_glyph_h_advance(m_font.get(), glyph);
+}
+
+} // namespace folioforge

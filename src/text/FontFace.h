@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+struct hb_face_t;
+struct hb_font_t;
+
+namespace folioforge {
+
+/// Vertical measures of a face in font units; the descent is positive.
+struct FontExtents {
+    int ascent = 0;
+    int descent = 0;
+    int leading = 0;
+};
+
+/// One font file opened for measuring and embedding. Everything is in font units; unitsPerEm()
+/// of them make one em.
+class FontFace {
+  public:
+    /// Opens face `index` of the collection or font file `path`. Null when it cannot be read or
+    /// holds no outlines that a PDF can embed ("glyf" or "CFF ").
+    static std::unique_ptr<const FontFace> open(const QByteArray &path, unsigned index);
+
+    /// The HarfBuzz face; owned by this object and valid as long as it.
+    [[nodiscard]] hb_face_t *hbFace() const { return m_face.get(); }
+    /// PostScript name, fit for a PDF font name.
+    [[nodiscard]] const QByteArray &postScriptName() const { return m_postScriptName; }
+    [[nodiscard]] unsigned unitsPerEm() const;
+    [[nodiscard]] FontExtents extents() const;
+    /// The glyph of `character`, or nothing when the face does not cover it.
+    [[nodiscard]] std::optional<std::uint32_t> glyph(char32_t character) const;
+    /// Horizontal advance of a glyph.
+    [[nodiscard]] int advance(std::uint32_t glyph) const;
+
+  private:
+    struct Release {
+        void operator()(hb_face_t *face) const;
+        void operator()(hb_font_t *font) const;
+    };
+    using Face = std::unique_ptr<hb_face_t, Release>;
+    using Font = std::unique_ptr<hb_font_t, Release>;
+
+    FontFace(Face face, Font font);
+
+    Face m_face;
+    Font m_font;
+    QByteArray m_postScriptName;
+};
+
+} // namespace folioforge

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+namespace folioforge {
+
+/// The text of a file's bytes, read strictly as UTF-8; a byte order mark at the start is not part
+/// of it. A null string when the bytes are not UTF-8, an empty one when there is no text.
+QString decodeText(QByteArrayView bytes);
+
+} // namespace folioforge

@@ -1,0 +1,138 @@
+#include "text/TextPageLayout.h"
+
+#include <vector>
+
+namespace folioforge {
+namespace {
+
+/// The characters that end a line, each by itself.
+bool isNewline(QChar unit) {
+    const char16_t code = unit.unicode();
+    constexpr char16_t kLineFeed = 0x0A;
+    constexpr char16_t kCarriageReturn = 0x0D;
+    constexpr char16_t kNextLine = 0x85;
+    constexpr char16_t kLineSeparator = 0x2028;
+    constexpr char16_t kParagraphSeparator = 0x2029;
+    return (code >= kLineFeed && code <= kCarriageReturn) || code == kNextLine ||
+           code == kLineSeparator || code == kParagraphSeparator;
+}
+
+bool startsWithPair(QStringView text) {
+    return text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
+}
+
+/// The glyph of the first character of `text`: a pair has one, half a pair the missing glyph.
+Glyph firstGlyph(QStringView text, const FontCascade &font) {
+    if (startsWithPair(text)) {
+        return font.glyph(QChar::surrogateToUcs4(text[0], text[1]));
+    }
+    return text[0].isSurrogate() ? font.missingGlyph() : font.glyph(text[0].unicode());
+}
+
+/// Breaks lines into rows of measured width.
+class RowBreaker {
+  public:
+    RowBreaker(const FontCascade &font, double usableWidth)
+        : m_font(font)
+        , m_usableWidth(usableWidth) {}
+
+    /// Takes the first row off `line`, which is not empty. The glyphs live until the next call.
+    std::span<const Glyph> takeRow(QStringView &line) {
+        m_row.clear();
+        double width = 0;
+        qsizetype taken = 0;
+        const qsizetype length = line.size();
+        while (taken < length && width <= m_usableWidth) {
+            const QStringView rest = line.sliced(taken);
+            // A prefix may end between the halves of a pair; there the half counts as it would
+            // be drawn, and where that is too wide the row ends with it.
+            if (startsWithPair(rest) && width + m_font.missingGlyph().advance <= m_usableWidth) {
+                width += append(firstGlyph(rest, m_font));
+                taken += 2;
+            } else {
+                width += append(firstGlyph(rest.first(1), m_font));
+                taken += 1;
+            }
+        }
+        line = line.sliced(taken);
+        return m_row;
+    }
+
+  private:
+    double append(const Glyph &glyph) {
+        m_row.push_back(glyph);
+        return glyph.advance;
+    }
+
+    const FontCascade &m_font;
+    double m_usableWidth = 0;
+    std::vector<Glyph> m_row;
+};
+
+/// Puts rows under each other and begins a page where the next row would pass the lower limit.
+class PageFiller {
+  public:
+    PageFiller(TextPageSink &sink, QSizeF pageSize, const PageMargins &margins, float rowHeight)
+        : m_sink(sink)
+        , m_height(pageSize.height())
+        , m_left(static_cast<double>(margins.left))
+        , m_top(static_cast<double>(margins.top))
+        , m_rowHeight(rowHeight)
+        , m_y(static_cast<float>(m_top)) {
+        m_sink.beginPage();
+    }
+
+    void addRow(std::span<const Glyph> row) {
+        // Asked before every row, so a row taller than the page still gets a page of its own.
+        if (m_height - m_top < m_y + m_rowHeight) {
+            m_sink.endPage();
+            m_sink.beginPage();
+            m_y = static_cast<float>(m_top);
+        }
+        m_sink.showRow(m_left, m_height - (m_rowHeight + m_y), row);
+        m_y = static_cast<float>(m_y + m_rowHeight);
+    }
+
+    void finish() { m_sink.endPage(); }
+
+  private:
+    TextPageSink &m_sink;
+    double m_height = 0;
+    double m_left = 0;
+    double m_top = 0;
+    double m_rowHeight = 0;
+    float m_y = 0; ///< From the page's top edge to the top of the next row; 32 bits by contract.
+};
+
+} // namespace
+
+QSizeF getStringSize(QStringView text, const FontCascade &font) {
+    double width = 0;
+    while (!text.isEmpty()) {
+        width += firstGlyph(text, font).advance;
+        text = text.sliced(startsWithPair(text) ? 2 : 1);
+    }
+    return {width, font.rowHeight()};
+}
+
+void layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
+                const FontCascade &font, TextPageSink &sink) {
+    const auto left = static_cast<double>(margins.left);
+    const auto right = static_cast<double>(margins.right);
+    RowBreaker breaker(font, pageSize.width() - left - right);
+    PageFiller pages(sink, pageSize, margins, font.rowHeight());
+    while (!text.isEmpty()) {
+        qsizetype length = 0;
+        while (length < text.size() && !isNewline(text[length])) {
+            ++length;
+        }
+        QStringView line = text.first(length);
+        while (!line.isEmpty()) {
+            pages.addRow(breaker.takeRow(line));
+        }
+        text = text.sliced(std::min(length + 1, text.size()));
+    }
+    pages.finish();
+}
+
+} // namespace folioforge

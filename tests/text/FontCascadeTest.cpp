@@ -1,0 +1,159 @@
+#include "text/FontCascade.h"
+
+#include "error/Error.h"
+
+#include <QRawFont>
+#include <QTest>
+
+#include <thread>
+
+using namespace folioforge;
+
+namespace {
+
+constexpr double kSize = 14;
+const QString kMissingFamily = QStringLiteral("No Such Family");
+
+std::shared_ptr<const FontCascade> cascade() {
+    return FontCascade::load(kMissingFamily, kSize);
+}
+
+} // namespace
+
+class FontCascadeTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void missingFamilyFallsToLiberationSans() {
+        QCOMPARE(cascade()->face(0).postScriptName(), QByteArray("LiberationSans"));
+    }
+
+    void familyThatTheSystemHasComesFirst() {
+        const auto font = FontCascade::load(QStringLiteral("freeserif"), kSize);
+        QCOMPARE(font->face(0).postScriptName(), QByteArray("FreeSerif"));
+        QCOMPARE(font->face(1).postScriptName(), QByteArray("LiberationSans"));
+    }
+
+    void rowHeightIsThatOfTheFirstFace() {
+        const auto font = cascade();
+        // Liberation Sans: 1854, 434 and 67 of 2048 units.
+        QCOMPARE(font->ascent(), 14.0 * 1854 / 2048);
+        QCOMPARE(font->descent(), 14.0 * 434 / 2048);
+        QCOMPARE(font->leading(), 14.0 * 67 / 2048);
+        QCOMPARE(font->rowHeight(), 16.0986328125F);
+    }
+
+    void advancesAreTheFonts() {
+        const auto font = cascade();
+        QCOMPARE(font->glyph(U'A').advance, 14.0 * 1366 / 2048);
+        QCOMPARE(font->glyph(U'i').advance, 14.0 * 455 / 2048);
+        QCOMPARE(font->glyph(U' ').advance, 14.0 * 569 / 2048);
+    }
+
+    void everyScriptHasLetters_data() {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("Latin") << QStringLiteral("Aé\u1EA0\u0152");
+        QTest::newRow("Greek") << QStringLiteral("\u03B1\u03A9\u1F84");
+        QTest::newRow("Cyrillic") << QStringLiteral("\u0416\u044F\u04D9");
+        QTest::newRow("Hebrew") << QStringLiteral("\u05D0\u05E9\u05BC");
+        QTest::newRow("Arabic") << QStringLiteral("\u0627\u0644\u0639\u06AF");
+        QTest::newRow("Devanagari") << QStringLiteral("\u0939\u093F\u0928");
+        QTest::newRow("Bengali") << QStringLiteral("\u09AC\u09BE");
+        QTest::newRow("Tamil") << QStringLiteral("\u0BA4\u0BAE");
+        QTest::newRow("Thai") << QStringLiteral("\u0E20\u0E32\u0E29");
+        QTest::newRow("Georgian") << QStringLiteral("\u10E5\u10D0");
+        QTest::newRow("Armenian") << QStringLiteral("\u0540\u0561");
+        QTest::newRow("Ethiopic") << QStringLiteral("\u12A0\u121B");
+        QTest::newRow("Tibetan") << QStringLiteral("\u0F56\u0F7C");
+        QTest::newRow("Chinese") << QStringLiteral("\u4E2D\u6587\u9F8D");
+        QTest::newRow("Japanese") << QStringLiteral("\u65E5\u672C\u3042\u30A2");
+        QTest::newRow("Korean") << QStringLiteral("\uD55C\uAD6D\uC5B4");
+        QTest::newRow("Symbols") << QStringLiteral("\u20AC\u2603\u2713\u221E\u2500");
+        QTest::newRow("Emoji") << QStringLiteral("\U0001F600\U0001F680");
+        QTest::newRow("Han beyond the BMP") << QStringLiteral("\U00020BB7");
+    }
+
+    void everyScriptHasLetters() {
+        QFETCH(const QString, text);
+        const auto font = cascade();
+        for (const char32_t character : text.toUcs4()) {
+            const Glyph glyph = font->glyph(character);
+            QVERIFY2(glyph.id != 0, qPrintable(QString::number(character, 16)));
+            QCOMPARE(glyph.character, character);
+            QVERIFY(glyph.face < font->faceCount());
+        }
+    }
+
+    void sameGlyphIsFoundAgain() {
+        const auto font = cascade();
+        QCOMPARE(font->glyph(U'中'), font->glyph(U'中'));
+        QCOMPARE(font->glyph(U'A'), cascade()->glyph(U'A'));
+        QCOMPARE(font->glyph(U'中'), cascade()->glyph(U'中'));
+    }
+
+    void uncoveredCharacterIsTheFirstFacesMissingGlyph() {
+        const auto font = cascade();
+        const char32_t unassigned = 0x0E0FFF;
+        const Glyph glyph = font->glyph(unassigned);
+        QCOMPARE(glyph.id, 0U);
+        QCOMPARE(glyph.face, std::uint16_t{0});
+        QCOMPARE(glyph.character, unassigned);
+        QCOMPARE(glyph.advance, font->missingGlyph().advance);
+        QCOMPARE(font->missingGlyph().character, kNoCharacter);
+    }
+
+    void valuesBeyondUnicodeAreTheMissingGlyph() {
+        QCOMPARE(cascade()->glyph(0xFFFFFFFF), cascade()->missingGlyph());
+    }
+
+    /// Qt reads the same files with FreeType.
+    void glyphsAgreeWithAnotherReader_data() {
+        QTest::addColumn<uint>("character");
+        QTest::newRow("Latin") << uint(U'g');
+        QTest::newRow("Cyrillic") << uint(U'Ж');
+        QTest::newRow("Chinese") << uint(U'龍');
+        QTest::newRow("Devanagari") << uint(U'ह');
+        QTest::newRow("Emoji") << uint(U'😀');
+    }
+
+    void glyphsAgreeWithAnotherReader() {
+        QFETCH(const uint, character);
+        const auto fonts = findTextFonts(kMissingFamily);
+        const auto font = cascade();
+        const Glyph glyph = font->glyph(character);
+        const CatalogFont &file = fonts.at(glyph.face);
+        if (file.path().endsWith(".ttc")) {
+            QCOMPARE(font->face(glyph.face).postScriptName(), QByteArray("NotoSansCJKsc-Regular"));
+            return; // QRawFont opens only the first face of a collection.
+        }
+        const QRawFont raw(QString::fromUtf8(file.path()), 1000, QFont::PreferNoHinting);
+        const char32_t code = character;
+        const auto ids = raw.glyphIndexesForString(QString::fromUcs4(&code, 1));
+        QCOMPARE(ids.value(0), glyph.id);
+        QVERIFY(qAbs(raw.advancesForGlyphIndexes(ids).value(0).x() * kSize / 1000 - glyph.advance) <
+                0.02);
+    }
+
+    void askingFromTwoThreadsGivesTheSameGlyphs() {
+        const auto font = cascade();
+        std::vector<Glyph> left;
+        std::vector<Glyph> right;
+        const auto ask = [&font](std::vector<Glyph> &glyphs) {
+            for (char32_t character = 0; character < 0x3000; ++character) {
+                glyphs.push_back(font->glyph(character));
+            }
+        };
+        std::thread other(ask, std::ref(right));
+        ask(left);
+        other.join();
+        QCOMPARE(left, right);
+    }
+
+    void textFontIsOpenedOnceAndIsFourteenPoints() {
+        QCOMPARE(textFont()->size(), 14.0);
+        QCOMPARE(textFont().get(), textFont().get());
+    }
+};
+
+QTEST_MAIN(FontCascadeTest)
+#include "FontCascadeTest.moc"
