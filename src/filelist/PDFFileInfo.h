@@ -13,6 +13,12 @@ namespace folioforge {
 /// States of an entry; the numbers are the state codes.
 enum EntryState { Waiting = 1, Converting = 2, FinishedAsLink = 3, Finished = 4, Failed = 5 };
 
+/// File metadata keys that an entry answers although they are no fields of its own.
+inline constexpr QLatin1StringView kMDItemFSName{"kMDItemFSName"};
+inline constexpr QLatin1StringView kMDItemFSSize{"kMDItemFSSize"};
+inline constexpr QLatin1StringView kMDItemFSCreationDate{"kMDItemFSCreationDate"};
+inline constexpr QLatin1StringView kMDItemFSContentChangeDate{"kMDItemFSContentChangeDate"};
+
 /// A text with the look in which the list shows it.
 struct RichText {
     QString text;
@@ -47,13 +53,17 @@ class PDFFileInfo {
     [[nodiscard]] const QString &fileSize() const { return m_fileSize; }
     [[nodiscard]] int index() const { return m_index; }
     [[nodiscard]] int stateIndex() const { return m_stateIndex; }
-    /// Nothing until setStateIndex() or setState() is called.
+    /// Nothing until setStateIndex() or setState() is called, and for an unknown state code.
     [[nodiscard]] const std::optional<RichText> &state() const { return m_state; }
+    /// Nothing for other kinds and for an image whose header cannot be read.
     [[nodiscard]] const std::optional<SourceImage> &getSrcImage() const { return m_srcImage; }
     /// The decoded text of a text entry; a null string when it could not be read as UTF-8.
     [[nodiscard]] const QString &getFileString() const { return m_fileString; }
     /// Why the source could not be read; empty when it could.
     [[nodiscard]] const QString &readError() const { return m_readError; }
+    /// What was lost in reading a source that is converted all the same: a text that is not valid
+    /// UTF-8 gives a blank page. Empty for none.
+    [[nodiscard]] const QString &readWarning() const { return m_readWarning; }
 
     void setPageCount(int count) { m_pageCount = count; }
     void setFileSize(const QString &text) { m_fileSize = text; }
@@ -63,7 +73,7 @@ class PDFFileInfo {
     void setDestFileName(const QString &name) { m_destFileName = name; }
 
     /// Sets the source path and the file name, and reads the file as far as the list needs it: a
-    /// text's contents, an image's header and its size text.
+    /// text's contents, an image's header and its size text ("0 × 0" when it cannot be read).
     void setFilePathName(const QString &path);
     /// Sets the destination path and its last component as the destination name.
     void setDestFilePathName(const QString &path);
@@ -71,15 +81,21 @@ class PDFFileInfo {
     void setStateIndex(int code);
 
     /// The destination name, shortened in its middle for lists: whole up to 18 - `shrink`
-    /// characters, else 8 - `shrink` characters, "..." and the last 10.
+    /// characters, else 8 - `shrink` characters (not below none), "..." and the last 10. A
+    /// character is a UTF-16 unit.
     [[nodiscard]] QString getShortDestFileName(int shrink) const;
     /// Width of `name` in "Lucida Grande" at 11 points, truncated to whole points.
     [[nodiscard]] static float GetWidthOfName(const QString &name);
-    /// The values of file metadata keys (kMDItemFSName, ...Size, ...CreationDate,
-    /// ...ContentChangeDate), read afresh; an invalid variant for any other key.
+    /// The value of a file metadata key, the file's attributes read afresh: the lower-cased name
+    /// (QString), the size in bytes (qint64), the two dates (QDateTime). An invalid variant for any
+    /// other key, and for an attribute that the file or its file system lacks.
     [[nodiscard]] QVariant valueForUndefinedKey(const QString &key) const;
 
   private:
+    void readText();
+    void readImage();
+    [[nodiscard]] RichText linkText() const;
+
     QString m_filePathName = QStringLiteral("");
     QString m_fileName;
     QString m_destFilePathName;
@@ -92,6 +108,7 @@ class PDFFileInfo {
     std::optional<SourceImage> m_srcImage;
     QString m_fileString;
     QString m_readError;
+    QString m_readWarning;
 };
 
 } // namespace folioforge

@@ -3,6 +3,7 @@
 #include "filelist/FileKind.h"
 #include "text/Notice.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -10,9 +11,13 @@
 
 namespace folioforge {
 
-/// Appends to `files` the paths ("folder/name") of the text and image files of `folder`: one
-/// level, in the file system's order, hidden ones too. PDF files inside a folder are not taken. A
-/// folder that cannot be listed adds nothing.
+/// The names of the text and image files of `folder`, as the file system's own bytes: one level, in
+/// the file system's order, hidden ones too. PDF files inside a folder are not taken, and neither
+/// is a folder that bears a file's name. A folder that cannot be listed has none.
+std::vector<QByteArray> recognisedNames(const QByteArray &folder);
+
+/// Appends to `files` the paths ("folder/name") of the text and image files of `folder`
+/// that recognisedNames() gives.
 void addDirectorie(const QString &folder, QStringList &files);
 
 /// Size text of a file of `bytes` bytes, taken as a signed 32-bit number and rounded up to whole
@@ -23,7 +28,9 @@ QString sizeText(qint64 bytes);
 /// of a refusal goes to `reason` where that is given.
 bool isAcceptablePdf(const QString &path, QString *reason = nullptr);
 
-/// The one alert for the PDF files that were refused, in order.
+/// The one alert for the PDF files that were refused, in order, one a line. The paths are read as a
+/// format string that has no arguments: "%%" becomes "%", and a conversion, finding no argument,
+/// stays as it stands.
 Notice badFilesNotice(const QStringList &paths);
 
 } // namespace folioforge

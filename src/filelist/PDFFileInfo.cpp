@@ -1,0 +1,150 @@
+#include "filelist/PDFFileInfo.h"
+
+#include "error/Error.h"
+#include "filelist/FileKind.h"
+#include "filelist/NameWidth.h"
+#include "filelist/TextSource.h"
+
+#include <QDateTime>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace folioforge {
+namespace {
+
+constexpr int kHeadLength = 8;
+constexpr int kTailLength = 10;
+
+/// Whole points of a length, cut off; a length beyond 32 bits counts as the largest number.
+int wholePoints(double length) {
+    return static_cast<int>(std::min<double>(length, std::numeric_limits<int>::max()));
+}
+
+QString dimensionsText(QSizeF size) {
+    return QStringLiteral("%1 \u00d7 %2")
+        .arg(wholePoints(size.width()))
+        .arg(wholePoints(size.height()));
+}
+
+QVariant dateOrNothing(const QDateTime &date) {
+    return date.isValid() ? QVariant(date) : QVariant();
+}
+
+} // namespace
+
+void PDFFileInfo::setFilePathName(const QString &path) {
+    m_filePathName = path;
+    m_fileName = lastPathComponent(path);
+    m_fileString = QString();
+    m_srcImage.reset();
+    m_readError.clear();
+    m_readWarning.clear();
+    switch (fileKind(path)) {
+    case FileKind::Text:
+        readText();
+        break;
+    case FileKind::Pdf:
+        break;
+    case FileKind::Image:
+    case FileKind::Other:
+        readImage();
+        break;
+    }
+}
+
+void PDFFileInfo::readText() {
+    try {
+        if (auto text = readTextFile(m_filePathName)) {
+            m_fileString = std::move(*text);
+        } else {
+            m_readWarning = QStringLiteral("The text is not valid UTF-8; its page is left blank");
+        }
+    } catch (const Error &error) {
+        m_readError = error.reason();
+    }
+}
+
+void PDFFileInfo::readImage() {
+    try {
+        requireReadableFile(m_filePathName);
+        m_srcImage = SourceImage{m_filePathName, readImageHeader(m_filePathName)};
+    } catch (const Error &error) {
+        m_readError = error.reason();
+    }
+    m_fileSize = dimensionsText(m_srcImage ? m_srcImage->sizeInPoints() : QSizeF(0, 0));
+}
+
+void PDFFileInfo::setDestFilePathName(const QString &path) {
+    m_destFilePathName = path;
+    m_destFileName = lastPathComponent(path);
+}
+
+void PDFFileInfo::setStateIndex(int code) {
+    m_stateIndex = code;
+    switch (code) {
+    case Waiting:
+        m_state = RichText{QStringLiteral("Waiting..."), false, {}};
+        break;
+    case Converting:
+        m_state = RichText{QStringLiteral("Converting..."), false, {}};
+        break;
+    case FinishedAsLink:
+        m_state = linkText();
+        break;
+    case Finished:
+        m_state = RichText{QStringLiteral("Finished"), false, {}};
+        break;
+    case Failed:
+        m_state = RichText{QStringLiteral("Failed"), false, {}};
+        break;
+    default:
+        m_state.reset();
+    }
+}
+
+/// A name whose last ten characters are wider than the column keeps them once its head is gone.
+RichText PDFFileInfo::linkText() const {
+    constexpr float kColumnWidth = 100;
+    int shrink = 0;
+    while (shrink < kHeadLength && GetWidthOfName(getShortDestFileName(shrink)) > kColumnWidth) {
+        ++shrink;
+    }
+    return {getShortDestFileName(shrink), true, QColor(Qt::blue)};
+}
+
+QString PDFFileInfo::getShortDestFileName(int shrink) const {
+    if (m_destFileName.size() <= kHeadLength + kTailLength - shrink) {
+        return m_destFileName;
+    }
+    return m_destFileName.first(std::clamp<qsizetype>(kHeadLength - shrink, 0, kHeadLength)) +
+           QStringLiteral("...") + m_destFileName.right(kTailLength);
+}
+
+float PDFFileInfo::GetWidthOfName(const QString &name) {
+    return static_cast<float>(std::trunc(nameWidth(name)));
+}
+
+QVariant PDFFileInfo::valueForUndefinedKey(const QString &key) const {
+    if (key == kMDItemFSName) {
+        return m_fileName.toLower();
+    }
+    const QFileInfo info(m_filePathName);
+    if (!info.exists()) {
+        return {};
+    }
+    if (key == kMDItemFSSize) {
+        return info.size();
+    }
+    if (key == kMDItemFSCreationDate) {
+        return dateOrNothing(info.birthTime());
+    }
+    if (key == kMDItemFSContentChangeDate) {
+        return dateOrNothing(info.lastModified());
+    }
+    return {};
+}
+
+} // namespace folioforge

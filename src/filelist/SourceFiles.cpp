@@ -1,0 +1,67 @@
+#include "filelist/SourceFiles.h"
+
+#include <QFile>
+
+#include <filesystem>
+#include <limits>
+
+namespace folioforge {
+namespace {
+
+bool isTakenFromFolders(const QString &name) {
+    const FileKind kind = fileKind(name);
+    return kind == FileKind::Text || kind == FileKind::Image;
+}
+
+} // namespace
+
+std::vector<QByteArray> recognisedNames(const QByteArray &folder) {
+    std::vector<QByteArray> names;
+    std::error_code failure;
+    std::filesystem::directory_iterator entry(folder.toStdString(), failure);
+    while (!failure && entry != std::filesystem::directory_iterator()) {
+        const std::string name = entry->path().filename().string();
+        std::error_code unknown;
+        if (isTakenFromFolders(QFile::decodeName(name.c_str())) && !entry->is_directory(unknown)) {
+            names.push_back(QByteArray::fromStdString(name));
+        }
+        entry.increment(failure);
+    }
+    return names;
+}
+
+void addDirectorie(const QString &folder, QStringList &files) {
+    for (const QByteArray &name : recognisedNames(QFile::encodeName(folder))) {
+        files += folder + u'/' + QFile::decodeName(name);
+    }
+}
+
+QString sizeText(qint64 bytes) {
+    constexpr qint64 kBlock = 4096;
+    constexpr qint64 kKilobyte = 1024;
+    constexpr qint64 kLargestInKilobytes = 1048575;
+    constexpr double kMegabyte = 1048576.0;
+    const auto counted = static_cast<qint32>(bytes);
+    // The sum wraps as 32-bit numbers do: files of 2 GB and more get the text of what is left.
+    const auto padded = static_cast<qint32>(static_cast<quint32>(counted) + (kBlock - 1));
+    const auto rounded = static_cast<qint32>(padded / kBlock * kBlock);
+    if (rounded <= kKilobyte) {
+        return QStringLiteral("4 KB");
+    }
+    if (rounded <= kLargestInKilobytes) {
+        return QStringLiteral("%1 KB").arg(rounded / kKilobyte);
+    }
+    return QStringLiteral("%1 MB").arg(QString::number(rounded / kMegabyte, 'f', 1));
+}
+
+Notice badFilesNotice(const QStringList &paths) {
+    QStringList lines;
+    for (const QString &path : paths) {
+        lines += QStringLiteral("    ") + path;
+    }
+    return {QStringLiteral("Fail to import following files. They are encrypted or not normal PDF "
+                           "files:"),
+            lines.join(QStringLiteral("\r\n")).replace(QStringLiteral("%%"), QStringLiteral("%"))};
+}
+
+} // namespace folioforge

@@ -1,0 +1,51 @@
+#include "filelist/TextSource.h"
+
+#include "error/Error.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringDecoder>
+
+#include <limits>
+
+namespace folioforge {
+namespace {
+
+void openForReading(QFile &file) {
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw Error(file.errorString());
+    }
+}
+
+} // namespace
+
+void requireReadableFile(const QString &path) {
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        throw Error(QStringLiteral("No such file or directory"));
+    }
+    if (!info.isFile()) {
+        throw Error(QStringLiteral("It is not a regular file"));
+    }
+    QFile file(path);
+    openForReading(file);
+}
+
+std::optional<QString> readTextFile(const QString &path) {
+    requireReadableFile(path);
+    QFile file(path);
+    openForReading(file);
+    if (file.size() > std::numeric_limits<int>::max()) {
+        throw Error(QStringLiteral("The text is larger than 2 GB"));
+    }
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        throw Error(file.errorString());
+    }
+    // Stateless, so that a character cut off by the end of the file counts as invalid.
+    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QString text = QStringLiteral("") + decode(bytes);
+    return decode.hasError() ? std::nullopt : std::optional(std::move(text));
+}
+
+} // namespace folioforge
