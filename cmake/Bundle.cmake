@@ -38,17 +38,3 @@ function(folioforge_resource file)
     install(FILES "${file}"
         DESTINATION "${FOLIOFORGE_INSTALL_BUNDLE}/Resources/${RESOURCE_FOLDER}")
 endfunction()
-
-# Keeps a copy of the files in the bundle's resources; the target is named folioforge_resources_NAME.
-function(folioforge_resources name)
-    set(copies)
-    foreach(file IN LISTS ARGN)
-        get_filename_component(base "${file}" NAME)
-        set(copy "${FOLIOFORGE_BUNDLE_RESOURCES}/${base}")
-        add_custom_command(OUTPUT "${copy}"
-            COMMAND ${CMAKE_COMMAND} -E copy "${file}" "${copy}"
-            DEPENDS "${file}")
-        list(APPEND copies "${copy}")
-    endforeach()
-    add_custom_target(folioforge_resources_${name} ALL DEPENDS ${copies})
-endfunction()
