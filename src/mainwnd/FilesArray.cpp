@@ -1,0 +1,255 @@
+#include "mainwnd/FilesArray.h"
+
+#include <QFont>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+namespace folioforge {
+namespace {
+
+QString textOf(const PDFFileInfo &entry, int column) {
+    switch (column) {
+    case FilesArray::NumberColumn:
+        return QString::number(entry.index());
+    case FilesArray::NameColumn:
+        return entry.fileName();
+    case FilesArray::SizeColumn:
+        return entry.fileSize();
+    default:
+        return entry.state() ? entry.state()->text : QString();
+    }
+}
+
+bool isLink(const PDFFileInfo &entry, int column) {
+    return column == FilesArray::DestinationColumn && entry.stateIndex() == FinishedAsLink;
+}
+
+QVariant toolTipOf(const PDFFileInfo &entry, int column) {
+    if (column == FilesArray::NameColumn) {
+        return entry.filePathName();
+    }
+    return isLink(entry, column) ? QVariant(entry.destFilePathName()) : QVariant();
+}
+
+QVariant fontOf(const RichText &text) {
+    if (!text.underlined) {
+        return {};
+    }
+    QFont font;
+    font.setUnderline(true);
+    return font;
+}
+
+QVariant colorOf(const RichText &text) {
+    return text.color.isValid() ? QVariant(text.color) : QVariant();
+}
+
+QVariant alignmentOf(int column) {
+    const Qt::Alignment horizontal =
+        column == FilesArray::NameColumn ? Qt::AlignLeft : Qt::AlignHCenter;
+    return QVariant::fromValue(Qt::Alignment(horizontal | Qt::AlignVCenter));
+}
+
+} // namespace
+
+FilesArray::FilesArray(QObject *parent)
+    : QAbstractTableModel(parent)
+    , m_selection(this) {}
+
+std::vector<const PDFFileInfo *> FilesArray::arrangedObjects() const {
+    std::vector<const PDFFileInfo *> entries;
+    entries.reserve(m_entries.size());
+    for (const PDFFileInfo &entry : m_entries) {
+        entries.push_back(&entry);
+    }
+    return entries;
+}
+
+void FilesArray::insert(int row, std::vector<PDFFileInfo> entries) {
+    if (entries.empty()) {
+        return;
+    }
+    const int first = row < 0 || row > count() ? count() : row;
+    beginInsertRows({}, first, first + static_cast<int>(entries.size()) - 1);
+    m_entries.insert(m_entries.begin() + first, std::make_move_iterator(entries.begin()),
+                     std::make_move_iterator(entries.end()));
+    endInsertRows();
+}
+
+void FilesArray::removeRowsAt(std::span<const int> rows) {
+    if (rows.empty()) {
+        return;
+    }
+    // Views select the neighbour of a removed current row, and the next press of Delete would take
+    // a file that nobody chose: the selection goes first, and the neighbour becomes current alone.
+    const int gap = rows.front();
+    m_selection.clear();
+    const int removed = static_cast<int>(rows.size());
+    int first = rows.front();
+    if (rows.back() - first + 1 != removed) {
+        moveToEnd(rows);
+        first = count() - removed;
+    }
+    beginRemoveRows({}, first, first + removed - 1);
+    m_entries.erase(m_entries.begin() + first, m_entries.begin() + first + removed);
+    endRemoveRows();
+    m_selection.setCurrentIndex(index(std::min(gap, count() - 1), NameColumn),
+                                QItemSelectionModel::NoUpdate);
+}
+
+/// One removal signal a scattered row would cost quadratic time in every listener; the rows are
+/// gathered at the end first, where they go as one block.
+void FilesArray::moveToEnd(std::span<const int> rows) {
+    std::vector<std::size_t> order;
+    order.reserve(m_entries.size());
+    auto next = rows.begin();
+    for (int row = 0; row < count(); ++row) {
+        if (next != rows.end() && *next == row) {
+            ++next;
+        } else {
+            order.push_back(std::size_t(row));
+        }
+    }
+    order.insert(order.end(), rows.begin(), rows.end());
+    rearrange(order);
+}
+
+void FilesArray::clear() {
+    if (isEmpty()) {
+        return;
+    }
+    beginRemoveRows({}, 0, count() - 1);
+    m_entries.clear();
+    endRemoveRows();
+}
+
+void FilesArray::rearrange(std::span<const std::size_t> order) {
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    std::vector<PDFFileInfo> arranged;
+    arranged.reserve(m_entries.size());
+    std::vector<int> newRow(m_entries.size());
+    for (const std::size_t row : order) {
+        newRow[row] = static_cast<int>(arranged.size());
+        arranged.push_back(std::move(m_entries[row]));
+    }
+    m_entries = std::move(arranged);
+
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (const QModelIndex &old : before) {
+        after.append(index(newRow[std::size_t(old.row())], old.column()));
+    }
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+void FilesArray::move(int from, int to) {
+    if (from == to) {
+        return;
+    }
+    beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
+    const auto first = m_entries.begin() + std::min(from, to);
+    const auto last = m_entries.begin() + std::max(from, to) + 1;
+    std::rotate(first, to > from ? first + 1 : last - 1, last);
+    endMoveRows();
+}
+
+void FilesArray::reindex() {
+    int position = 0;
+    for (PDFFileInfo &entry : m_entries) {
+        entry.setIndex(++position);
+    }
+    if (!isEmpty()) {
+        Q_EMIT dataChanged(index(0, NumberColumn), index(count() - 1, NumberColumn));
+    }
+}
+
+void FilesArray::setIndex(int row, int index) {
+    m_entries.at(std::size_t(row)).setIndex(index);
+    rowChanged(row);
+}
+
+void FilesArray::setStateIndex(int row, int state) {
+    m_entries.at(std::size_t(row)).setStateIndex(state);
+    rowChanged(row);
+}
+
+void FilesArray::setStateIndexOfAll(int state) {
+    for (PDFFileInfo &entry : m_entries) {
+        entry.setStateIndex(state);
+    }
+    if (!isEmpty()) {
+        Q_EMIT dataChanged(index(0, DestinationColumn), index(count() - 1, DestinationColumn));
+    }
+}
+
+void FilesArray::setDestFilePathName(int row, const QString &path) {
+    m_entries.at(std::size_t(row)).setDestFilePathName(path);
+    rowChanged(row);
+}
+
+std::vector<int> FilesArray::selectedRows() const {
+    std::vector<int> rows;
+    for (const QItemSelectionRange &range : m_selection.selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            rows.push_back(row);
+        }
+    }
+    std::ranges::sort(rows);
+    const auto repeated = std::ranges::unique(rows);
+    rows.erase(repeated.begin(), repeated.end());
+    return rows;
+}
+
+int FilesArray::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : count();
+}
+
+int FilesArray::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant FilesArray::data(const QModelIndex &index, int role) const {
+    if (!index.isValid() || index.row() >= count()) {
+        return {};
+    }
+    const PDFFileInfo &entry = at(index.row());
+    const bool hasLook = index.column() == DestinationColumn && entry.state();
+    switch (role) {
+    case Qt::DisplayRole:
+        return textOf(entry, index.column());
+    case Qt::ToolTipRole:
+        return toolTipOf(entry, index.column());
+    case Qt::TextAlignmentRole:
+        return alignmentOf(index.column());
+    case Qt::FontRole:
+        return hasLook ? fontOf(*entry.state()) : QVariant();
+    case Qt::ForegroundRole:
+        return hasLook ? colorOf(*entry.state()) : QVariant();
+    case LinkRole:
+        return isLink(entry, index.column());
+    default:
+        return {};
+    }
+}
+
+QVariant FilesArray::headerData(int section, Qt::Orientation orientation, int role) const {
+    static const std::array<QString, ColumnCount> titles{
+        QStringLiteral("No."), QStringLiteral("Name"), QStringLiteral("Size"),
+        QStringLiteral("Destination")};
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
+        section >= ColumnCount) {
+        return {};
+    }
+    return titles.at(std::size_t(section));
+}
+
+void FilesArray::rowChanged(int row) {
+    Q_EMIT dataChanged(index(row, 0), index(row, ColumnCount - 1));
+}
+
+} // namespace folioforge

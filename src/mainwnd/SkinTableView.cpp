@@ -1,0 +1,306 @@
+#include "mainwnd/SkinTableView.h"
+
+#include "mainwnd/FilesArray.h"
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDragEnterEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace folioforge {
+namespace {
+
+constexpr int kRowHeight = 26;
+constexpr int kNumberWidth = 52;
+constexpr int kSizeWidth = 110;
+constexpr int kDestinationWidth = 160;
+constexpr int kSmallestNameWidth = 120;
+constexpr int kDropLineWidth = 2;
+
+} // namespace
+
+SkinTableView::SkinTableView(QWidget *parent)
+    : QTableView(parent) {
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setVerticalScrollMode(ScrollPerPixel);
+    setTextElideMode(Qt::ElideMiddle);
+    setWordWrap(false);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setCornerButtonEnabled(false);
+    setTabKeyNavigation(false);
+    setMouseTracking(true);
+    setDragDropMode(DropOnly);
+    setDropIndicatorShown(false);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(kRowHeight);
+
+    using Delegate = SkinTableViewDelegate;
+    addKey(QKeySequence::Delete, &Delegate::canRemoveClear, &SkinTableView::clickMenuRemove);
+    addKey(QKeySequence::SelectAll, &Delegate::canRemoveClear, &SkinTableView::selectAll);
+    addKey(Qt::ALT | Qt::Key_Up, &Delegate::canMoveUp, &SkinTableView::clickMenuMoveUp);
+    addKey(Qt::ALT | Qt::Key_Down, &Delegate::canMoveDown, &SkinTableView::clickMenuMoveDown);
+}
+
+void SkinTableView::setTableDelegate(SkinTableViewDelegate *delegate) {
+    m_delegate = delegate;
+}
+
+int SkinTableView::selectedRow() const {
+    if (!selectionModel() || !selectionModel()->hasSelection()) {
+        return -1;
+    }
+    const QItemSelection selection = selectionModel()->selection();
+    return std::ranges::min(selection, {}, &QItemSelectionRange::top).top();
+}
+
+void SkinTableView::addKey(const QKeySequence &keys,
+                           bool (SkinTableViewDelegate::*isPossible)() const, Command command) {
+    const auto run = [this, isPossible, command] {
+        if (m_delegate && m_delegate->canEditList() && (m_delegate->*isPossible)()) {
+            (this->*command)();
+        }
+    };
+    new QShortcut(keys, this, run, Qt::WindowShortcut);
+}
+
+void SkinTableView::clickMenuRemove() {
+    m_delegate->clickMenuRemove();
+}
+
+void SkinTableView::clickMenuClear() {
+    m_delegate->clickMenuClear();
+}
+
+void SkinTableView::clickMenuResortByName() {
+    m_delegate->clickMenuResortByName();
+}
+
+void SkinTableView::clickMenuResortBySize() {
+    m_delegate->clickMenuResortBySize();
+}
+
+void SkinTableView::clickMenuResortByDataCreated() {
+    m_delegate->clickMenuResortByDataCreated();
+}
+
+void SkinTableView::clickMenuResortByDataModified() {
+    m_delegate->clickMenuResortByDataModified();
+}
+
+void SkinTableView::clickMenuMoveUp() {
+    m_delegate->clickMenuMoveUp();
+}
+
+void SkinTableView::clickMenuMoveDown() {
+    m_delegate->clickMenuMoveDown();
+}
+
+QMenu *SkinTableView::buildContextMenu() {
+    auto *menu = new QMenu(QStringLiteral("Contextual Menu"), this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const bool canEdit = m_delegate->canEditList();
+    const auto add = [&](const QString &title, bool enabled, Command command) {
+        QAction *item = menu->addAction(title, this, command);
+        item->setEnabled(canEdit && enabled);
+    };
+    const bool canRemoveClear = m_delegate->canRemoveClear();
+    const bool canResort = m_delegate->canResort();
+    add(QStringLiteral("Remove"), canRemoveClear, &SkinTableView::clickMenuRemove);
+    add(QStringLiteral("Clear"), canRemoveClear, &SkinTableView::clickMenuClear);
+    menu->addSeparator();
+    add(canResort ? QStringLiteral("Sort By Name") : QStringLiteral("Resort By Name"), canResort,
+        &SkinTableView::clickMenuResortByName);
+    add(canResort ? QStringLiteral("Sort By Size") : QStringLiteral("Resort By Size"), canResort,
+        &SkinTableView::clickMenuResortBySize);
+    add(QStringLiteral("Sort By Data Created"), canResort,
+        &SkinTableView::clickMenuResortByDataCreated);
+    add(QStringLiteral("Sort By Data Modified"), canResort,
+        &SkinTableView::clickMenuResortByDataModified);
+    menu->addSeparator();
+    add(QStringLiteral("Move Up"), m_delegate->canMoveUp(), &SkinTableView::clickMenuMoveUp);
+    add(QStringLiteral("Move Down"), m_delegate->canMoveDown(), &SkinTableView::clickMenuMoveDown);
+    return menu;
+}
+
+void SkinTableView::contextMenuEvent(QContextMenuEvent *event) {
+    // Some window systems send the Menu key and a menu request after it.
+    if (m_delegate && !QApplication::activePopupWidget()) {
+        buildContextMenu()->popup(contextMenuPosition(*event));
+        event->accept();
+    }
+}
+
+void SkinTableView::keyPressEvent(QKeyEvent *event) {
+    const bool asksForMenu =
+        event->key() == Qt::Key_Menu ||
+        (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
+    if (asksForMenu) {
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, {}, {});
+        contextMenuEvent(&menu);
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+/// From the keyboard the menu opens at what it acts on, where that can be seen.
+QPoint SkinTableView::contextMenuPosition(const QContextMenuEvent &event) const {
+    if (event.reason() != QContextMenuEvent::Keyboard) {
+        return event.globalPos();
+    }
+    const int row = selectedRow();
+    const QRect cell = row < 0 ? QRect() : visualRect(model()->index(row, 1));
+    const QPoint spot =
+        viewport()->rect().intersects(cell) ? cell.center() : viewport()->rect().center();
+    return viewport()->mapToGlobal(spot);
+}
+
+void SkinTableView::mousePressEvent(QMouseEvent *event) {
+    // The commands of the context menu act on the selection as it stood before the click.
+    if (event->button() == Qt::RightButton) {
+        event->accept();
+        return;
+    }
+    const QModelIndex cell = indexAt(event->position().toPoint());
+    if (m_delegate && event->button() == Qt::LeftButton && cell.isValid() &&
+        cell.column() == FilesArray::DestinationColumn) {
+        m_delegate->clickedDest(cell.row());
+    }
+    QTableView::mousePressEvent(event);
+}
+
+void SkinTableView::mouseReleaseEvent(QMouseEvent *event) {
+    if (event->button() == Qt::RightButton) {
+        event->accept();
+        return;
+    }
+    QTableView::mouseReleaseEvent(event);
+}
+
+void SkinTableView::mouseMoveEvent(QMouseEvent *event) {
+    const QModelIndex cell = indexAt(event->position().toPoint());
+    if (cell.data(FilesArray::LinkRole).toBool()) {
+        viewport()->setCursor(Qt::PointingHandCursor);
+    } else {
+        viewport()->unsetCursor();
+    }
+    QTableView::mouseMoveEvent(event);
+}
+
+/// The gap that a drop at `position` goes into: above the row that is hit, unless the pointer is in
+/// its lowest quarter, and at the end below the last row.
+int SkinTableView::dropRowAt(const QPoint &position) const {
+    const int row = rowAt(position.y());
+    if (row < 0) {
+        return model() ? model()->rowCount() : 0;
+    }
+    const int intoRow = position.y() - rowViewportPosition(row);
+    return intoRow >= rowHeight(row) * 3 / 4 ? row + 1 : row;
+}
+
+/// Every drag is answered with a copy between two rows; what it carries is looked at when it drops.
+void SkinTableView::validateDrop(QDropEvent &event) {
+    if (!m_delegate || !m_delegate->canEditList()) {
+        setDropRow(std::nullopt);
+        event.ignore();
+        return;
+    }
+    setDropRow(dropRowAt(event.position().toPoint()));
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
+void SkinTableView::dragEnterEvent(QDragEnterEvent *event) {
+    validateDrop(*event);
+}
+
+void SkinTableView::dragMoveEvent(QDragMoveEvent *event) {
+    validateDrop(*event);
+    const QRect calm =
+        viewport()->rect().marginsRemoved({0, autoScrollMargin(), 0, autoScrollMargin()});
+    if (event->isAccepted() && !calm.contains(event->position().toPoint())) {
+        startAutoScroll();
+    }
+}
+
+void SkinTableView::dragLeaveEvent(QDragLeaveEvent *event) {
+    stopAutoScroll();
+    setDropRow(std::nullopt);
+    event->accept();
+}
+
+void SkinTableView::dropEvent(QDropEvent *event) {
+    stopAutoScroll();
+    validateDrop(*event);
+    if (!event->isAccepted()) {
+        return;
+    }
+    const int row = *m_dropRow;
+    setDropRow(std::nullopt);
+    if (!m_delegate->acceptDrop(*event->mimeData(), row)) {
+        event->setDropAction(Qt::IgnoreAction);
+        event->ignore();
+    }
+}
+
+void SkinTableView::setDropRow(std::optional<int> row) {
+    if (m_dropRow != row) {
+        m_dropRow = row;
+        viewport()->update();
+    }
+}
+
+void SkinTableView::paintEvent(QPaintEvent *event) {
+    QTableView::paintEvent(event);
+    QPainter painter(viewport());
+    if (!model() || model()->rowCount() == 0) {
+        paintHint(painter);
+    }
+    if (m_dropRow) {
+        paintDropLine(painter);
+    }
+}
+
+void SkinTableView::paintHint(QPainter &painter) const {
+    QFont large = font();
+    large.setPixelSize(18);
+    painter.setFont(large);
+    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
+                     QStringLiteral("Drop files here, or add them with the buttons above"));
+}
+
+void SkinTableView::paintDropLine(QPainter &painter) const {
+    const int rows = model() ? model()->rowCount() : 0;
+    const int y = rows == 0           ? 0
+                  : *m_dropRow < rows ? rowViewportPosition(*m_dropRow)
+                                      : rowViewportPosition(rows - 1) + rowHeight(rows - 1);
+    painter.fillRect(0, std::max(0, y - kDropLineWidth / 2), viewport()->width(), kDropLineWidth,
+                     palette().highlight());
+}
+
+void SkinTableView::resizeEvent(QResizeEvent *event) {
+    QTableView::resizeEvent(event);
+    layOutColumns();
+}
+
+void SkinTableView::layOutColumns() {
+    setColumnWidth(FilesArray::NumberColumn, kNumberWidth);
+    setColumnWidth(FilesArray::SizeColumn, kSizeWidth);
+    setColumnWidth(FilesArray::DestinationColumn, kDestinationWidth);
+    const int rest = viewport()->width() - kNumberWidth - kSizeWidth - kDestinationWidth;
+    setColumnWidth(FilesArray::NameColumn, std::max(rest, kSmallestNameWidth));
+}
+
+} // namespace folioforge
