@@ -1,0 +1,193 @@
+#include "mainwnd/MainWndCtrl.h"
+
+#include "mainwnd/FilesArray.h"
+#include "mainwnd/Notices.h"
+#include "mainwnd/NotificationCenter.h"
+#include "skin/VesprinTableHeaderView.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <array>
+
+namespace folioforge {
+namespace {
+
+constexpr int kHeaderHeight = 34;
+
+/// The layout's size, made smaller where the screen is: with the options panel shown the window
+/// still fits.
+void fitIntoScreen(QMainWindow &window) {
+    if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+        window.resize(
+            window.size().boundedTo(screen->availableSize()).expandedTo(window.minimumSizeHint()));
+    }
+}
+
+} // namespace
+
+MainWndCtrl::MainWndCtrl(Surroundings surroundings)
+    : m_surroundings(std::move(surroundings))
+    , m_filesArray(std::make_unique<FilesArray>()) {}
+
+MainWndCtrl::~MainWndCtrl() = default;
+
+QMainWindow *MainWndCtrl::window() {
+    if (!m_window) {
+        loadWindow();
+    }
+    return m_window.get();
+}
+
+void MainWndCtrl::setDelegateObject(MainWndDelegate *delegate) {
+    m_delegate = delegate;
+}
+
+void MainWndCtrl::loadWindow() {
+    m_window = std::make_unique<QMainWindow>();
+    setupUi(m_window.get());
+    m_window->installEventFilter(this);
+    m_tableview->setHorizontalHeader(new VesprinTableHeaderView(m_tableview));
+    m_tableview->setModel(m_filesArray.get());
+    m_tableview->setSelectionModel(m_filesArray->selectionModel());
+    m_tableview->setTableDelegate(this);
+    fitIntoScreen(*m_window);
+    awakeFromNib();
+    windowDidLoad();
+}
+
+void MainWndCtrl::awakeFromNib() {
+    m_tableview->horizontalHeader()->setFixedHeight(kHeaderHeight);
+}
+
+void MainWndCtrl::windowDidLoad() {
+    m_optionsWidthInFrame = m_optionsDrawer->openWidth();
+    setOptionsWidth(0);
+    initCtrl();
+    showSettingsView(m_imagePageSizeView);
+    m_tableview->setAcceptDrops(true);
+    m_prgCreate->setTextVisible(false);
+
+    m_cffontRef = m_fontName.toUtf8();
+    m_ctFont = FontCascade::load(QString::fromUtf8(m_cffontRef), m_fontSize);
+    m_cgFont = m_ctFont->faceCount() > 0 ? &m_ctFont->face(0) : nullptr;
+    m_fHeight = m_ctFont->rowHeight();
+
+    m_mtxTextPageSizeMode->buttons().at(TextPageA4)->setChecked(true);
+    m_mtxImagePageSizeMode->buttons().at(ImagePageFollowsImage)->setChecked(true);
+    m_comboCompressMethod->setCurrentIndex(0);
+    observeNotifications();
+
+    m_convertInfoDict.reset();
+    m_pdfDoc.reset();
+    m_destFilePathName.clear();
+    readOutputFolder();
+    m_tfOutputFolder->setText(m_outputFolderPath);
+}
+
+void MainWndCtrl::initCtrl() {
+    const QString programs = QStringLiteral("%1/Contents/MacOS/").arg(m_surroundings.bundlePath);
+    const QString folder = QStringLiteral("%1/image").arg(programs);
+    const std::array<std::pair<SkinButton *, QString>, 12> skins{{
+        {m_btnAddImage, QStringLiteral("add-image")},
+        {m_btnAddTxt, QStringLiteral("add-txt")},
+        {m_btnAddPDF, QStringLiteral("add-pdf")},
+        {m_btnRemove, QStringLiteral("remove")},
+        {m_btnCreate, QStringLiteral("convert")},
+        {m_btnExpand, QStringLiteral("show-option")},
+        {m_btnElapse, QStringLiteral("hide-option")},
+        {m_btnOpen, QStringLiteral("open")},
+        {m_btnBrowse, QStringLiteral("browse")},
+        {m_btnSecuritySetting, QStringLiteral("security-setting")},
+        {m_btnImageSetting, QStringLiteral("image-setting")},
+        {m_btnTxtSetting, QStringLiteral("text-setting")},
+    }};
+    for (const auto &[button, name] : skins) {
+        skinButton(folder, name, button);
+    }
+    // The list starts empty. Disabled only now, when there are looks to show it with.
+    m_btnCreate->setEnabled(false);
+    m_btnRemove->setEnabled(false);
+    connectControls();
+}
+
+void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name, SkinButton *button) {
+    const QString resources =
+        QStringLiteral("%1/Contents/Resources").arg(m_surroundings.bundlePath);
+    const auto look = [&](const QString &suffix, const SkinImage &otherwise) {
+        const SkinImage image = SkinImage::named(resources, name + suffix);
+        return image.isNull() ? otherwise : image;
+    };
+    const SkinImage normal = look(QString(), {});
+    const SkinImage hover = look(QStringLiteral("-hover"), normal);
+    if (!normal.isNull()) {
+        button->setFixedSize(normal.size());
+    }
+    button->setNormalImage(normal);
+    button->setMouseOnImage(hover);
+    button->setMouseDownImage(hover);
+    button->setDisableImage(look(QStringLiteral("-disable"), normal));
+}
+
+void MainWndCtrl::connectControls() {
+    using Self = MainWndCtrl;
+    const auto on = [this](QAbstractButton *button, void (Self::*action)()) {
+        connect(button, &QAbstractButton::clicked, this, action);
+    };
+    on(m_btnAddFile, &Self::clickBtnAddFile);
+    on(m_btnAddFolder, &Self::clickBtnAddFolder);
+    on(m_btnAddImage, &Self::clickBtnAddImage);
+    on(m_btnAddTxt, &Self::clickBtnAddTxt);
+    on(m_btnAddPDF, &Self::clickBtnAddPDF);
+    on(m_btnRemove, &Self::clickBtnRemove);
+    on(m_btnClear, &Self::clickBtnClear);
+    on(m_btnCreate, &Self::clickBtnCreate);
+    on(m_btnOpen, &Self::clickBtnOpen);
+    on(m_btnBrowse, &Self::clickBtnBrowse);
+    on(m_btnExpand, &Self::clickBtnExpand);
+    on(m_btnElapse, &Self::clickBtnElapse);
+    on(m_btnSave, &Self::clickBtnSave);
+    on(m_btnSecuritySetting, &Self::clickBtnSecurity);
+    on(m_btnImageSetting, &Self::clickBtnImagePageSize);
+    on(m_btnTxtSetting, &Self::clickBtnTextPageSize);
+    on(m_btnCheckUserPassword, &Self::clickBtnCheckUserPassword);
+    on(m_btnCheckOwnerPassword, &Self::clickBtnCheckOwnerPassword);
+    // A row is chosen by the mouse or by the arrow keys; only the latter are not clicks.
+    connect(m_mtxTextPageSizeMode, &QButtonGroup::buttonToggled, this, &Self::clickMtxTextPageSize);
+    connect(m_mtxImagePageSizeMode, &QButtonGroup::buttonToggled, this,
+            &Self::clickMtxImagePageSize);
+    connect(&m_optionsSlide, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant &width) { setOptionsWidth(width.toInt()); });
+}
+
+void MainWndCtrl::observeNotifications() {
+    connect(&m_surroundings.notifications, &NotificationCenter::posted, this,
+            [this](const QString &name, const QVariantMap &userInfo) {
+                if (name == NotificationCenter::didEndPageWrite()) {
+                    endPageWrite(userInfo.value(NotificationCenter::pageIndexKey()).toInt());
+                } else if (name == NotificationCenter::compressionCompleted()) {
+                    compressCompleted();
+                }
+            });
+}
+
+bool MainWndCtrl::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::WindowStateChange) {
+        fitWindowToOptions();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void MainWndCtrl::showNotice(const Notice &notice) {
+    m_surroundings.notices.showSheet(m_window.get(), notice);
+}
+
+bool MainWndCtrl::passes(const std::optional<Notice> &problem) {
+    if (problem) {
+        showNotice(*problem);
+    }
+    return !problem;
+}
+
+} // namespace folioforge

@@ -1,0 +1,196 @@
+#pragma once
+
+#include "convert/Conversion.h"
+#include "convert/ConversionOptions.h"
+#include "mainwnd/SkinTableView.h"
+#include "mainwnd/Surroundings.h"
+#include "text/FontCascade.h"
+#include "ui_MainWnd.h"
+
+#include <QMainWindow>
+#include <QVariantAnimation>
+
+#include <memory>
+#include <optional>
+
+namespace folioforge {
+
+class FilesArray;
+
+/// Hears from the window whether the file list holds files.
+class MainWndDelegate {
+  public:
+    MainWndDelegate() = default;
+    MainWndDelegate(const MainWndDelegate &) = delete;
+    MainWndDelegate &operator=(const MainWndDelegate &) = delete;
+    virtual ~MainWndDelegate() = default;
+    virtual void hasFileOpened(bool opened) = 0;
+};
+
+/// What one compression pass hands over: the compressed copy and the file that it replaces.
+struct ConvertInfo {
+    QString tempFilePathName;
+    QString destFilePathName;
+};
+
+/// The document that the compression pass is rewriting.
+struct PDFDocument {
+    int pageCount = 0;
+};
+
+/// The controller of the one main window: owns the file list, the controls and the state of a run.
+///
+/// The controls (m_btn…, m_tf…, m_lb…, m_mtx… and the views) are the fields of Ui::MainWnd, made
+/// from the layout file MainWnd.ui; they belong to the window. Each operation reads controls into a
+/// plain record, calls the engine's function of the same words and shows the result. It is declared
+/// here once and defined by topic: MainWndCtrl.cpp (life of the window), MainWndCtrlOptions.cpp
+/// (options panel, output folder), MainWndCtrlFiles.cpp (file list), MainWndCtrlConvert.cpp (runs).
+class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::MainWnd {
+    Q_OBJECT
+
+  public:
+    // ---- Life of the window (MainWndCtrl.cpp) ------------------------------------------------
+
+    /// Keeps what it is handed; the window is loaded on the first call of window().
+    explicit MainWndCtrl(Surroundings surroundings);
+    ~MainWndCtrl() override;
+
+    /// The main window, loaded on the first call.
+    QMainWindow *window();
+    /// Who hears whether the list holds files; not owned.
+    void setDelegateObject(MainWndDelegate *delegate);
+    /// Whether a run is on, so that the list and the settings are not to change.
+    [[nodiscard]] bool isConverting() const { return m_bConverting; }
+    [[nodiscard]] const FilesArray &filesArray() const { return *m_filesArray; }
+
+    /// Skins `button` with the images `name`, `name`-hover and `name`-disable among the
+    /// application's resources; a missing one of the latter two gives way to the first. Images are
+    /// looked up by name alone, so `folder` plays no part.
+    void skinButton(const QString &folder, const QString &name, SkinButton *button);
+
+    // ---- Options panel and output folder (MainWndCtrlOptions.cpp) ----------------------------
+
+    void clickBtnExpand();
+    void clickBtnElapse();
+    void clickBtnTextPageSize();
+    void clickBtnImagePageSize();
+    void clickBtnSecurity();
+    /// Does nothing, on purpose: settings hold from the moment they are entered.
+    void clickBtnSave() {}
+    /// Enables the document properties and security controls; those of a password only while its
+    /// box is ticked.
+    void EnableSettings(bool enable);
+
+    void clickMtxTextPageSize();
+    void clickMtxImagePageSize();
+    void clickBtnCheckUserPassword();
+    void clickBtnCheckOwnerPassword();
+
+    /// Page sizes in points, as the controls stand now.
+    [[nodiscard]] QSizeF getTextPageSize() const;
+    [[nodiscard]] QSizeF getImagePageSize() const;
+    /// Each shows its notice and answers no where the settings are invalid.
+    bool checkTextPageSizeSettings();
+    bool checkImagePageSizeSettings();
+    bool checkSecuritySettings();
+
+    void clickBtnBrowse();
+    void showInvalidOutputPathWarning();
+    void endShowInvalidOutputFolder();
+    void clickBtnOpen();
+    /// Opens the PDF of the entry at `row` when it is finished as a link.
+    void clickedDest(int row) override;
+
+    // ---- File list (MainWndCtrlFiles.cpp) ----------------------------------------------------
+
+    void clickBtnAddFile();
+    void clickBtnAddFolder();
+    void clickBtnAddImage();
+    void clickBtnAddTxt();
+    void clickBtnAddPDF();
+    /// Makes entries of `paths` and puts them in at `row`, or at the end where `row` is negative.
+    void addFiles(const QStringList &paths, int row);
+    void reindexFiles();
+    void hasFileOpened(bool opened);
+    void showBadFiles(const QStringList &paths);
+
+    void clickBtnRemove();
+    void clickBtnClear();
+    [[nodiscard]] bool canEditList() const override;
+    [[nodiscard]] bool canRemoveClear() const override;
+    [[nodiscard]] bool canResort() const override;
+    [[nodiscard]] bool canMoveUp() const override;
+    [[nodiscard]] bool canMoveDown() const override;
+    void clickMenuRemove() override;
+    void clickMenuClear() override;
+    void clickMenuResortByName() override;
+    void clickMenuResortBySize() override;
+    void clickMenuResortByDataCreated() override;
+    void clickMenuResortByDataModified() override;
+    void clickMenuMoveUp() override;
+    void clickMenuMoveDown() override;
+    bool acceptDrop(const QMimeData &data, int row) override;
+
+    // ---- Runs (MainWndCtrlConvert.cpp) -------------------------------------------------------
+
+    void clickBtnCreate();
+    void createSingleFile();
+    /// Writes the PDF of the given rows to m_destFilePathName on a worker thread.
+    void createPDF(const std::vector<int> &rows);
+    void compress(const QString &path);
+    void compressCompleted();
+    /// A page of the compressed file is written; `pageIndex` counts from 0.
+    void endPageWrite(int pageIndex);
+    void showAlertView();
+    void hideAlertView();
+
+  private:
+    // Life of the window.
+    void loadWindow();
+    void awakeFromNib();
+    void windowDidLoad();
+    void initCtrl();
+    void connectControls();
+    void observeNotifications();
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showNotice(const Notice &notice);
+    bool passes(const std::optional<Notice> &problem);
+
+    // Options panel and output folder.
+    void slideOptionsTo(double width);
+    void setOptionsWidth(int width);
+    void fitWindowToOptions();
+    void showSettingsView(QWidget *view);
+    [[nodiscard]] PageSetup textPageSetup() const;
+    [[nodiscard]] PageSetup imagePageSetup() const;
+    [[nodiscard]] SecuritySettings securitySettings() const;
+    [[nodiscard]] ConversionOptions conversionOptions() const;
+    void readOutputFolder();
+    [[nodiscard]] QString makeDefaultOutputFolder();
+    void outputFolderChosen(const QStringList &paths);
+
+    Surroundings m_surroundings;
+    std::unique_ptr<QMainWindow> m_window;
+    MainWndDelegate *m_delegate = nullptr;
+    std::unique_ptr<FilesArray> m_filesArray;
+
+    QWidget *m_currentSettingsView = nullptr;
+    QVariantAnimation m_optionsSlide;
+    int m_optionsWidthInFrame = 0; ///< How much of the window's own width is the options panel's.
+    QString m_outputFolderPath;
+
+    QString m_destFilePathName; ///< The PDF being written.
+    bool m_bLoading = false;    ///< Files are being added.
+    QString m_fontName = QStringLiteral("Arial Unicode MS");
+    int m_fontSize = 14; ///< Points.
+    QByteArray m_cffontRef;
+    std::shared_ptr<const FontCascade> m_ctFont;
+    const FontFace *m_cgFont = nullptr; ///< The first face of m_ctFont.
+    float m_fHeight = 0;                ///< Row height of the text font in points.
+    std::optional<PDFDocument> m_pdfDoc;
+    bool m_bConverting = false;
+    std::optional<ConvertInfo> m_convertInfoDict;
+    int m_fileIndex = 0; ///< The entry being converted.
+};
+
+} // namespace folioforge

@@ -1,0 +1,302 @@
+#include "mainwnd/MainWndCtrl.h"
+
+#include "mainwnd/Desktop.h"
+#include "mainwnd/FilesArray.h"
+#include "mainwnd/Notices.h"
+#include "mainwnd/OpenCommand.h"
+#include "mainwnd/ProductPages.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStyle>
+#include <QTimer>
+
+namespace folioforge {
+namespace {
+
+/// The settings key of the output folder.
+QString outputFolderKey() {
+    return QStringLiteral("CustomizeOutputDir");
+}
+
+/// Row of the radio matrix; -1 when none is selected.
+int selectedRow(const QButtonGroup &matrix) {
+    return static_cast<int>(matrix.buttons().indexOf(matrix.checkedButton()));
+}
+
+qint64 numberIn(const QLineEdit &field) {
+    return integerValue(field.text());
+}
+
+/// As "chmod 777" would, without a shell that could read the path's characters as its own.
+void makeWorldWritable(const QString &folder) {
+    using P = QFileDevice::Permission;
+    QFile::setPermissions(folder, P::ReadOwner | P::WriteOwner | P::ExeOwner | P::ReadGroup |
+                                      P::WriteGroup | P::ExeGroup | P::ReadOther | P::WriteOther |
+                                      P::ExeOther);
+}
+
+} // namespace
+
+void MainWndCtrl::clickBtnExpand() {
+    slideOptionsTo(OptionsDrawer::kFullWidth);
+    m_btnExpand->setVisible(false);
+    m_btnElapse->setVisible(true);
+    m_labelOptions->setText(tr("Hide Options"));
+    // It appears under the pointer and must not keep a stale hover look.
+    QTimer::singleShot(0, m_btnElapse, &SkinButton::showNormalImage);
+}
+
+void MainWndCtrl::clickBtnElapse() {
+    slideOptionsTo(0.0);
+    m_btnElapse->setVisible(false);
+    m_btnExpand->setVisible(true);
+    m_labelOptions->setText(tr("Show Options"));
+    QTimer::singleShot(0, m_btnExpand, &SkinButton::showNormalImage);
+}
+
+void MainWndCtrl::slideOptionsTo(double width) {
+    const int duration = m_window->style()->styleHint(QStyle::SH_Widget_Animation_Duration);
+    m_optionsSlide.stop();
+    if (duration <= 0) {
+        setOptionsWidth(static_cast<int>(width));
+        return;
+    }
+    m_optionsSlide.setDuration(duration);
+    m_optionsSlide.setEasingCurve(QEasingCurve::OutCubic);
+    m_optionsSlide.setStartValue(m_optionsDrawer->openWidth());
+    m_optionsSlide.setEndValue(static_cast<int>(width));
+    m_optionsSlide.start();
+}
+
+void MainWndCtrl::setOptionsWidth(int width) {
+    m_optionsDrawer->setOpenWidth(width);
+    fitWindowToOptions();
+}
+
+/// The window grows and shrinks with the panel. A window that fills the screen shows the panel
+/// inside, and takes the panel's width on when it is restored.
+void MainWndCtrl::fitWindowToOptions() {
+    if (m_window->isMaximized() || m_window->isFullScreen()) {
+        return;
+    }
+    const int change = m_optionsDrawer->openWidth() - m_optionsWidthInFrame;
+    m_optionsWidthInFrame += change;
+    if (change != 0) {
+        m_window->resize(m_window->width() + change, m_window->height());
+    }
+}
+
+void MainWndCtrl::clickBtnTextPageSize() {
+    showSettingsView(m_textPageSizeView);
+}
+
+void MainWndCtrl::clickBtnImagePageSize() {
+    showSettingsView(m_imagePageSizeView);
+}
+
+void MainWndCtrl::clickBtnSecurity() {
+    showSettingsView(m_securityView);
+}
+
+void MainWndCtrl::showSettingsView(QWidget *view) {
+    if (view == m_currentSettingsView) {
+        return;
+    }
+    for (QWidget *other : {m_textPageSizeView, m_imagePageSizeView, m_securityView}) {
+        if (other != view) {
+            m_settingsViewContainer->layout()->removeWidget(other);
+            other->setParent(m_settingsViewStore);
+        }
+    }
+    m_currentSettingsView = view;
+    m_settingsViewContainer->layout()->addWidget(view);
+    view->show();
+}
+
+void MainWndCtrl::EnableSettings(bool enable) {
+    for (QLineEdit *field : {m_tfTitle, m_tfAuthor, m_tfSubject, m_tfKeywords}) {
+        field->setEnabled(enable);
+    }
+    m_btnCheckUserPassword->setEnabled(enable);
+    m_btnCheckOwnerPassword->setEnabled(enable);
+    m_tfUserPassword->setEnabled(enable && m_btnCheckUserPassword->isChecked());
+    const bool owner = enable && m_btnCheckOwnerPassword->isChecked();
+    m_btnCheckAllowPrint->setEnabled(owner);
+    m_btnCheckAllowCopy->setEnabled(owner);
+    m_tfOwnerPassword->setEnabled(owner);
+    m_btnSave->setEnabled(enable);
+}
+
+void MainWndCtrl::clickMtxTextPageSize() {
+    const bool custom = selectedRow(*m_mtxTextPageSizeMode) == TextPageCustom;
+    m_tfTextCustomizedPageWidth->setEnabled(custom);
+    m_tfTextCustomizedPageHeight->setEnabled(custom);
+}
+
+void MainWndCtrl::clickMtxImagePageSize() {
+    const bool custom = selectedRow(*m_mtxImagePageSizeMode) != ImagePageFollowsImage;
+    m_tfImageCustomizedPageWidth->setEnabled(custom);
+    m_tfImageCustomizedPageHeight->setEnabled(custom);
+}
+
+void MainWndCtrl::clickBtnCheckUserPassword() {
+    m_tfUserPassword->setEnabled(m_btnCheckUserPassword->isChecked());
+    m_tfUserPassword->clear();
+}
+
+void MainWndCtrl::clickBtnCheckOwnerPassword() {
+    const bool wanted = m_btnCheckOwnerPassword->isChecked();
+    m_btnCheckAllowPrint->setEnabled(wanted);
+    m_btnCheckAllowCopy->setEnabled(wanted);
+    m_tfOwnerPassword->setEnabled(wanted);
+    m_tfOwnerPassword->clear();
+}
+
+PageSetup MainWndCtrl::textPageSetup() const {
+    return {selectedRow(*m_mtxTextPageSizeMode),
+            numberIn(*m_tfTextCustomizedPageWidth),
+            numberIn(*m_tfTextCustomizedPageHeight),
+            {numberIn(*m_tfTextPageMarginLeft), numberIn(*m_tfTextPageMarginRight),
+             numberIn(*m_tfTextPageMarginTop), numberIn(*m_tfTextPageMarginBottom)}};
+}
+
+PageSetup MainWndCtrl::imagePageSetup() const {
+    return {selectedRow(*m_mtxImagePageSizeMode),
+            numberIn(*m_tfImageCustomizedPageWidth),
+            numberIn(*m_tfImageCustomizedPageHeight),
+            {numberIn(*m_tfImagePageMarginLeft), numberIn(*m_tfImagePageMarginRight),
+             numberIn(*m_tfImagePageMarginTop), numberIn(*m_tfImagePageMarginBottom)}};
+}
+
+SecuritySettings MainWndCtrl::securitySettings() const {
+    SecuritySettings settings;
+    settings.useUserPassword = m_btnCheckUserPassword->isChecked();
+    settings.userPassword = m_tfUserPassword->text();
+    settings.useOwnerPassword = m_btnCheckOwnerPassword->isChecked();
+    settings.ownerPassword = m_tfOwnerPassword->text();
+    settings.allowPrint = m_btnCheckAllowPrint->isChecked();
+    settings.allowCopy = m_btnCheckAllowCopy->isChecked();
+    return settings;
+}
+
+ConversionOptions MainWndCtrl::conversionOptions() const {
+    ConversionOptions options;
+    options.outputFolder = m_tfOutputFolder->text();
+    options.merge = m_btnMerge->isChecked();
+    options.outputName = m_tfOutputName->text();
+    options.info.title = m_tfTitle->text();
+    options.info.author = m_tfAuthor->text();
+    options.info.subject = m_tfSubject->text();
+    options.info.keywords = m_tfKeywords->text();
+    options.security = securitySettings();
+    options.textPage = textPageSetup();
+    options.imagePage = imagePageSetup();
+    options.compressIndex = m_comboCompressMethod->currentIndex();
+    return options;
+}
+
+QSizeF MainWndCtrl::getTextPageSize() const {
+    return folioforge::getTextPageSize(textPageSetup());
+}
+
+QSizeF MainWndCtrl::getImagePageSize() const {
+    return folioforge::getImagePageSize(imagePageSetup());
+}
+
+bool MainWndCtrl::checkTextPageSizeSettings() {
+    return passes(folioforge::checkTextPageSizeSettings(textPageSetup()));
+}
+
+bool MainWndCtrl::checkImagePageSizeSettings() {
+    return passes(folioforge::checkImagePageSizeSettings(imagePageSetup()));
+}
+
+bool MainWndCtrl::checkSecuritySettings() {
+    return passes(folioforge::checkSecuritySettings(securitySettings()));
+}
+
+void MainWndCtrl::readOutputFolder() {
+    QSettings &settings = m_surroundings.settings;
+    m_outputFolderPath = settings.value(outputFolderKey()).toString();
+    if (!m_outputFolderPath.isEmpty()) {
+        return;
+    }
+    m_outputFolderPath = makeDefaultOutputFolder();
+    m_surroundings.desktop.openURL(tutorialPage(m_surroundings.bundlePath));
+    settings.setValue(outputFolderKey(), m_outputFolderPath);
+    settings.sync();
+}
+
+QString MainWndCtrl::makeDefaultOutputFolder() {
+    const QString folder = m_surroundings.homeFolder + QStringLiteral("/Documents/Folioforge");
+    if (QFileInfo::exists(folder)) {
+        return folder;
+    }
+    if (!QDir().mkpath(folder)) {
+        return m_surroundings.homeFolder + QStringLiteral("/Documents");
+    }
+    makeWorldWritable(folder);
+    return folder;
+}
+
+void MainWndCtrl::clickBtnBrowse() {
+    FilePanel panel;
+    panel.title = tr("Output Folder");
+    panel.acceptLabel = tr("Save");
+    panel.chooses = FilePanel::Chooses::Folders;
+    panel.multiple = false;
+    panel.startFolder = m_outputFolderPath;
+    m_surroundings.notices.showFilePanel(
+        m_window.get(), panel, [this](const QStringList &paths) { outputFolderChosen(paths); });
+}
+
+void MainWndCtrl::outputFolderChosen(const QStringList &paths) {
+    if (paths.isEmpty()) {
+        return;
+    }
+    if (!QFileInfo(paths.first()).isWritable()) {
+        QTimer::singleShot(0, this, &MainWndCtrl::showInvalidOutputPathWarning);
+        return;
+    }
+    m_outputFolderPath = paths.first();
+    m_tfOutputFolder->setText(m_outputFolderPath);
+    m_surroundings.settings.setValue(outputFolderKey(), m_outputFolderPath);
+}
+
+void MainWndCtrl::showInvalidOutputPathWarning() {
+    m_surroundings.notices.showSheet(
+        m_window.get(),
+        notice(
+            tr("Selected output folder is not writable. Click \"OK\" to select another folder.")),
+        [this] { endShowInvalidOutputFolder(); });
+}
+
+void MainWndCtrl::endShowInvalidOutputFolder() {
+    QTimer::singleShot(0, this, &MainWndCtrl::clickBtnBrowse);
+}
+
+void MainWndCtrl::clickBtnOpen() {
+    if (!QFileInfo::exists(m_outputFolderPath)) {
+        m_surroundings.notices.showPanel(
+            {tr("Error"), tr("Output folder does not exist, please select another one.")});
+        return;
+    }
+    m_surroundings.desktop.openFile(m_outputFolderPath);
+}
+
+void MainWndCtrl::clickedDest(int row) {
+    const PDFFileInfo &entry = m_filesArray->at(row);
+    if (entry.stateIndex() != FinishedAsLink) {
+        return;
+    }
+    const QString &path = entry.destFilePathName();
+    if (isSafeInShell(path)) {
+        m_surroundings.desktop.runInShell(openCommand(openVerb(), path));
+    } else {
+        m_surroundings.desktop.openFile(path);
+    }
+}
+
+} // namespace folioforge

@@ -1,0 +1,109 @@
+#include "mainwnd/Notices.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTimer>
+
+namespace folioforge {
+namespace {
+
+/// A file panel in which "Open" takes a marked folder rather than entering it.
+class FilesAndFoldersDialog : public QFileDialog {
+  public:
+    using QFileDialog::QFileDialog;
+
+  protected:
+    void accept() override { QDialog::accept(); }
+};
+
+QString nameFilter(const QStringList &extensions) {
+    if (extensions.isEmpty()) {
+        return {};
+    }
+    QStringList patterns;
+    for (const QString &extension : extensions) {
+        patterns << QStringLiteral("*.") + extension;
+    }
+    return QFileDialog::tr("Files (%1)").arg(patterns.join(u' '));
+}
+
+QFileDialog *makeFileDialog(QWidget *window, const FilePanel &panel) {
+    using Chooses = FilePanel::Chooses;
+    QFileDialog *dialog = panel.chooses == Chooses::FilesAndFolders
+                              ? new FilesAndFoldersDialog(window)
+                              : new QFileDialog(window);
+    dialog->setWindowTitle(panel.title);
+    dialog->setOption(QFileDialog::DontResolveSymlinks);
+    // Only Qt's own panel can choose files and folders at once, or several folders.
+    if (panel.chooses == Chooses::FilesAndFolders ||
+        (panel.chooses == Chooses::Folders && panel.multiple)) {
+        dialog->setOption(QFileDialog::DontUseNativeDialog);
+    }
+    if (panel.chooses == Chooses::Folders) {
+        dialog->setFileMode(QFileDialog::Directory);
+        dialog->setOption(QFileDialog::ShowDirsOnly);
+    } else {
+        dialog->setFileMode(panel.multiple ? QFileDialog::ExistingFiles
+                                           : QFileDialog::ExistingFile);
+        if (const QString filter = nameFilter(panel.extensions); !filter.isEmpty()) {
+            dialog->setNameFilter(filter);
+        }
+    }
+    if (!panel.startFolder.isEmpty()) {
+        dialog->setDirectory(panel.startFolder);
+    }
+    if (!panel.acceptLabel.isEmpty()) {
+        dialog->setLabelText(QFileDialog::Accept, panel.acceptLabel);
+    }
+    return dialog;
+}
+
+} // namespace
+
+void Notices::showSheet(QWidget *window, const Notice &notice, Ended ended) {
+    show(window, notice, Kind::Sheet, std::move(ended));
+}
+
+void Notices::showPanel(const Notice &notice) {
+    show(nullptr, notice, Kind::Panel, {});
+}
+
+void Notices::show(QWidget *window, const Notice &notice, Kind kind, Ended ended) {
+    m_shown.push_back({notice, kind});
+    if (m_answersAtOnce) {
+        if (ended) {
+            QTimer::singleShot(0, this, std::move(ended));
+        }
+        return;
+    }
+    auto *box = new QMessageBox(QMessageBox::NoIcon, notice.title, notice.title, QMessageBox::Ok,
+                                window, Qt::Sheet);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText);
+    box->setInformativeText(notice.message);
+    box->setWindowModality(kind == Kind::Sheet ? Qt::WindowModal : Qt::ApplicationModal);
+    if (ended) {
+        // Queued, so that this sheet has gone before the next one comes.
+        connect(
+            box, &QDialog::finished, this, [ended] { ended(); }, Qt::QueuedConnection);
+    }
+    box->show();
+}
+
+void Notices::showFilePanel(QWidget *window, const FilePanel &panel, Chosen chosen) {
+    m_filePanels.push_back(panel);
+    if (!m_nextFiles.empty()) {
+        QTimer::singleShot(0, this, [chosen, paths = m_nextFiles.front()] { chosen(paths); });
+        m_nextFiles.pop_front();
+        return;
+    }
+    QFileDialog *dialog = makeFileDialog(window, panel);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowModality(Qt::WindowModal);
+    connect(dialog, &QDialog::accepted, this,
+            [dialog, chosen] { chosen(dialog->selectedFiles()); });
+    connect(dialog, &QDialog::rejected, this, [chosen] { chosen({}); });
+    dialog->show();
+}
+
+} // namespace folioforge

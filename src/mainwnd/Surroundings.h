@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+class QSettings;
+
+namespace folioforge {
+
+class Desktop;
+class NotificationCenter;
+class Notices;
+
+/// The world around the main window; tests hand in their own. Everything outlives the window.
+struct Surroundings {
+    QSettings &settings;
+    Desktop &desktop;
+    Notices &notices;
+    NotificationCenter &notifications;
+    QString homeFolder; ///< Without a slash at its end.
+    QString bundlePath; ///< "…/Folioforge.app", without a slash at its end.
+};
+
+} // namespace folioforge

@@ -1,0 +1,151 @@
+#include "skin/SkinButton.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace folioforge {
+namespace {
+
+constexpr double kHoverOpacity = 1.0;
+constexpr double kPressedOpacity = 0.7;
+constexpr double kDisabledOpacity = 0.4;
+
+void drawFocusRing(QPainter &painter, const QRectF &bounds, const QColor &color) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(bounds.adjusted(1, 1, -1, -1), 6, 6);
+}
+
+} // namespace
+
+SkinButton::SkinButton(QWidget *parent)
+    : QPushButton(parent)
+    , m_tracking(rect()) {}
+
+void SkinButton::setImage(const SkinImage &image) {
+    m_imageOn = image.atOpacity(kHoverOpacity);
+    m_imageDown = image.atOpacity(kPressedOpacity);
+    m_imageDisable = image.atOpacity(kDisabledOpacity);
+    setNormalImage(image);
+}
+
+void SkinButton::setNormalImage(const SkinImage &image) {
+    m_imageNormal = image;
+    updateGeometry();
+    show(image);
+}
+
+void SkinButton::showNormalImage() {
+    if (isEnabled()) {
+        show(m_imageNormal);
+    }
+}
+
+QSize SkinButton::sizeHint() const {
+    return isSkinned() ? m_imageNormal.size() : QPushButton::sizeHint();
+}
+
+QSize SkinButton::minimumSizeHint() const {
+    return isSkinned() ? m_imageNormal.size() : QPushButton::minimumSizeHint();
+}
+
+void SkinButton::enterEvent(QEnterEvent *event) {
+    QPushButton::enterEvent(event);
+    if (isEnabled()) {
+        show(m_imageOn);
+    }
+}
+
+/// The hover look stays after leaving, as on entering; showNormalImage() or the next drag ends it.
+void SkinButton::leaveEvent(QEvent *event) {
+    QPushButton::leaveEvent(event);
+    if (isEnabled()) {
+        show(m_imageOn);
+    }
+}
+
+void SkinButton::mousePressEvent(QMouseEvent *event) {
+    if (!isSkinned()) {
+        QPushButton::mousePressEvent(event);
+        return;
+    }
+    event->setAccepted(event->button() == Qt::LeftButton);
+    if (event->isAccepted() && !m_imageDown.isNull()) {
+        show(m_imageDown);
+    }
+}
+
+void SkinButton::mouseMoveEvent(QMouseEvent *event) {
+    if (!isSkinned()) {
+        QPushButton::mouseMoveEvent(event);
+        return;
+    }
+    if (event->buttons().testFlag(Qt::LeftButton)) {
+        show(m_tracking.contains(event->position().toPoint()) ? m_imageDown : m_imageNormal);
+    }
+}
+
+void SkinButton::mouseReleaseEvent(QMouseEvent *event) {
+    if (!isSkinned()) {
+        QPushButton::mouseReleaseEvent(event);
+        return;
+    }
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    if (!m_imageOn.isNull()) {
+        show(m_imageOn);
+    }
+    const bool inside = m_tracking.contains(event->position().toPoint());
+    if (!inside && m_shown != m_imageNormal) {
+        show(m_imageNormal);
+        return;
+    }
+    show(m_imageOn);
+    Q_EMIT clicked();
+}
+
+void SkinButton::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        click();
+        return;
+    }
+    QPushButton::keyPressEvent(event);
+}
+
+void SkinButton::resizeEvent(QResizeEvent *event) {
+    QPushButton::resizeEvent(event);
+    m_tracking = rect();
+}
+
+void SkinButton::changeEvent(QEvent *event) {
+    QPushButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange) {
+        show(isEnabled() ? m_imageNormal : m_imageDisable);
+    }
+}
+
+void SkinButton::paintEvent(QPaintEvent *event) {
+    if (!isSkinned()) {
+        QPushButton::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    // Only the keyboard presses the button through its base class.
+    const SkinImage &look = isDown() && !m_imageDown.isNull() ? m_imageDown : m_shown;
+    look.draw(painter, rect());
+    if (hasFocus()) {
+        drawFocusRing(painter, rect(), palette().color(QPalette::Highlight));
+    }
+}
+
+void SkinButton::show(const SkinImage &image) {
+    if (m_shown != image) {
+        m_shown = image;
+        update();
+    }
+}
+
+} // namespace folioforge

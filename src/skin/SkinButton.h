@@ -1,0 +1,69 @@
+#pragma once
+
+#include "skin/SkinImage.h"
+
+#include <QPushButton>
+#include <QRect>
+
+namespace folioforge {
+
+/// A push button drawn from images: normal, hover, pressed and disabled looks.
+///
+/// It follows the mouse itself and fires only when the mouse is released inside it; from the
+/// keyboard it is an ordinary button, pressed by Space, Return and Enter. A button without images
+/// looks and works like any push button with its text.
+class SkinButton : public QPushButton {
+    Q_OBJECT
+
+  public:
+    explicit SkinButton(QWidget *parent = nullptr);
+
+    /// Takes `image` as the normal look and derives the others: hover at full opacity, pressed at
+    /// 0.7 and disabled at 0.4 of it. An empty image empties all looks.
+    void setImage(const SkinImage &image);
+    /// Keeps `image` as the normal look and shows it.
+    void setNormalImage(const SkinImage &image);
+    /// Keep a look; what is shown does not change.
+    void setMouseOnImage(const SkinImage &image) { m_imageOn = image; }
+    void setMouseDownImage(const SkinImage &image) { m_imageDown = image; }
+    void setDisableImage(const SkinImage &image) { m_imageDisable = image; }
+
+    /// Shows the normal look of an enabled button.
+    void showNormalImage();
+
+    /// The look that the button shows now.
+    [[nodiscard]] const SkinImage &image() const { return m_shown; }
+    [[nodiscard]] const SkinImage &mouseOnImage() const { return m_imageOn; }
+    [[nodiscard]] const SkinImage &mouseDownImage() const { return m_imageDown; }
+    [[nodiscard]] const SkinImage &normalImage() const { return m_imageNormal; }
+    [[nodiscard]] const SkinImage &disableImage() const { return m_imageDisable; }
+    /// Where the button follows the pointer: always its bounds.
+    [[nodiscard]] QRect tracking() const { return m_tracking; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+  protected:
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+  private:
+    [[nodiscard]] bool isSkinned() const { return !m_imageNormal.isNull(); }
+    void show(const SkinImage &image);
+
+    SkinImage m_imageOn;
+    SkinImage m_imageDown;
+    SkinImage m_imageNormal;
+    SkinImage m_imageDisable;
+    QRect m_tracking;
+    SkinImage m_shown;
+};
+
+} // namespace folioforge
