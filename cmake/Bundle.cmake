@@ -11,7 +11,7 @@ set(FOLIOFORGE_BUNDLE_RESOURCES "${FOLIOFORGE_BUNDLE}/Resources")
 if(APPLE)
     set(FOLIOFORGE_INSTALL_BUNDLE "Folioforge.app/Contents")
 else()
-    set(FOLIOFORGE_INSTALL_BUNDLE "${CMAKE_INSTALL_LIBDIR}/folioforge/Folioforge.app/Contents")
+    set(FOLIOFORGE_INSTALL_BUNDLE "lib/folioforge/Folioforge.app/Contents")
 endif()
 
 # Puts the program `target` into the bundle.
