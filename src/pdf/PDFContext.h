@@ -1,11 +1,11 @@
 #pragma once
 
+#include "pdf/Flush.h"
 #include "text/FontCascade.h"
 
 #include <QDateTime>
 #include <QRectF>
 #include <QString>
-#include <QTransform>
 
 #include <functional>
 #include <memory>
@@ -22,6 +22,7 @@ struct DocumentInfo {
     QString author;
     QString subject;
     QString keywords;
+    QDateTime created; ///< The creation date; documentDate() where it is invalid.
 };
 
 /// Encryption of a document: AES-256, revision 6. Everything not refused stays allowed.
@@ -31,8 +32,6 @@ struct Encryption {
     bool refusePrint = false;
     bool refuseCopy = false;
 };
-
-enum class Flush { Always, Never };
 
 /// How the writing of a document ended.
 struct CloseResult {

@@ -1,0 +1,29 @@
+#include "pdf/ContentNumber.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace folioforge {
+
+void appendNumber(std::string &content, double value) {
+    constexpr int kDecimals = 5;
+    // Readers keep numbers in single precision; what exceeds this can only be a mistake, and its
+    // digits would not fit the buffer.
+    constexpr double kLimit = 1e15;
+    const double bounded = std::isfinite(value) ? std::clamp(value, -kLimit, kLimit) : 0.0;
+
+    std::array<char, 32> buffer{};
+    const auto written = std::to_chars(buffer.data(), buffer.data() + buffer.size(), bounded,
+                                       std::chars_format::fixed, kDecimals);
+    std::string digits(buffer.data(), written.ptr);
+    digits.erase(digits.find_last_not_of('0') + 1);
+    if (digits.back() == '.') {
+        digits.pop_back();
+    }
+    content += digits == "-0" ? "0" : digits;
+    content += ' ';
+}
+
+} // namespace folioforge

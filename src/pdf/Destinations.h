@@ -1,0 +1,30 @@
+#pragma once
+
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <map>
+#include <optional>
+#include <string>
+
+class QPDF;
+
+namespace folioforge {
+
+/// The named destinations of a source document (ISO 32000-1, 12.3.2.3), read when first asked for.
+class Destinations {
+  public:
+    explicit Destinations(QPDF &source);
+
+    /// The explicit destination, an array, that `destination` stands for: a name, a string, a
+    /// dictionary with /D, or the array itself. Null where it leads nowhere.
+    QPDFObjectHandle resolve(const QPDFObjectHandle &destination);
+
+  private:
+    QPDFObjectHandle find(const std::string &name);
+    void readNames();
+
+    QPDF &m_source;
+    std::optional<std::map<std::string, QPDFObjectHandle>> m_names;
+};
+
+} // namespace folioforge

@@ -1,0 +1,134 @@
+#include "pdf/DocumentWriter.h"
+
+#include "pdf/PDFContext.h"
+#include "pdf/Password.h"
+#include "pdf/QpdfBorder.h"
+
+#include <qpdf/Pipeline.hh>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <QCryptographicHash>
+
+#include <libdeflate.h>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace folioforge {
+
+namespace {
+
+/// Brings the library's bytes to the output file. The library also writes while it unwinds, where
+/// throwing would end the program: a failure is kept until it can be thrown.
+class OutputPipeline final : public Pipeline {
+  public:
+    explicit OutputPipeline(OutputFile &file)
+        : Pipeline("output", nullptr)
+        , m_file(file) {}
+
+    void write(unsigned char const *data, size_t length) override {
+        if (m_failure) {
+            return;
+        }
+        m_checksum = libdeflate_crc32(m_checksum, data, length);
+        try {
+            m_file.write({reinterpret_cast<const char *>(data), length});
+        } catch (const Error &error) {
+            m_failure = error;
+        }
+    }
+    void finish() override {}
+
+    void throwFailure() const {
+        if (m_failure) {
+            throw Error(*m_failure);
+        }
+    }
+    [[nodiscard]] std::uint32_t checksum() const { return m_checksum; }
+
+  private:
+    OutputFile &m_file;
+    std::optional<Error> m_failure;
+    std::uint32_t m_checksum = 0;
+};
+
+void encrypt(QPDFWriter &writer, const Encryption &encryption) {
+    const QByteArray user = preparedPassword(encryption.userPassword);
+    QByteArray owner = preparedPassword(encryption.ownerPassword);
+    if (owner.isEmpty()) {
+        // Without one everybody would be the owner.
+        owner = user;
+    }
+    const bool allowed = true;
+    writer.setR6EncryptionParameters(
+        user.constData(), owner.constData(), allowed, !encryption.refuseCopy, allowed, allowed,
+        allowed, allowed, encryption.refusePrint ? qpdf_r3p_none : qpdf_r3p_full, allowed);
+}
+
+/// The identifier that the library writes when it is told to write a fixed one.
+constexpr std::string_view kPlaceholder = "31415926535897932384626433832795";
+
+qint64 lastXrefOffset(OutputFile &file) {
+    constexpr qint64 kTail = 64;
+    const qint64 tailSize = std::min(kTail, file.size());
+    const QByteArray tail = file.read(file.size() - tailSize, tailSize);
+    const QByteArray keyword("startxref\n");
+    const auto found = tail.lastIndexOf(keyword);
+    const auto digits = found < 0 ? QByteArray() : tail.sliced(found + keyword.size());
+    return digits.left(digits.indexOf('\n')).toLongLong();
+}
+
+/// Replaces the placeholders in the trailer by `id`, 16 bytes in hexadecimal.
+void replaceId(OutputFile &file, const QByteArray &id) {
+    constexpr qint64 kDictionaryLimit = 4096;
+    const qint64 start = lastXrefOffset(file);
+    const QByteArray trailer = file.read(start, std::min(kDictionaryLimit, file.size() - start));
+    const QByteArray placeholder(kPlaceholder.data(), kPlaceholder.size());
+    const auto first = trailer.indexOf("<" + placeholder + ">");
+    const auto second = first < 0 ? -1 : trailer.indexOf("<" + placeholder + ">", first + 1);
+    if (second < 0) {
+        throw Error(QStringLiteral("The document's identifier cannot be written"));
+    }
+    file.overwrite(start + first + 1, id);
+    file.overwrite(start + second + 1, id);
+}
+
+std::string infoText(QPDF &document) {
+    return document.getTrailer().getKey("/Info").unparseResolved();
+}
+
+/// A checksum instead of the library's MD5 over all bytes: reading a disk is no faster than that.
+QByteArray makeId(QPDF &document, const OutputFile &file, std::uint32_t checksum) {
+    QCryptographicHash hash(QCryptographicHash::Md5);
+    hash.addData(QByteArray::fromStdString(infoText(document)));
+    hash.addData(QByteArray::number(file.size()) + ' ' + QByteArray::number(checksum));
+    return hash.result().toHex();
+}
+
+} // namespace
+
+void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
+                   const std::string &minimumVersion) {
+    OutputPipeline pipeline(file);
+    atQpdfBorder([&] {
+        QPDFWriter writer(document);
+        writer.setOutputPipeline(&pipeline);
+        writer.setObjectStreamMode(qpdf_o_generate);
+        writer.setCompressStreams(true);
+        writer.setDecodeLevel(qpdf_dl_none);
+        writer.setStaticID(true);
+        writer.setMinimumPDFVersion(minimumVersion);
+        if (encryption) {
+            encrypt(writer, *encryption);
+        }
+        writer.registerProgressReporter(std::make_shared<QPDFWriter::FunctionProgressReporter>(
+            [&](int) { pipeline.throwFailure(); }));
+        writer.write();
+    });
+    pipeline.throwFailure();
+    replaceId(file, makeId(document, file, pipeline.checksum()));
+}
+
+} // namespace folioforge

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "pdf/OutputFile.h"
+
+#include <functional>
+#include <string>
+
+class QPDF;
+
+namespace folioforge {
+
+struct Encryption;
+
+/// Writes `document` to `file`: object streams, compressed, with an /ID that follows from the
+/// bytes, so that the same document is written the same. Throws Error.
+void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
+                   const std::string &minimumVersion);
+
+} // namespace folioforge

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "pdf/ImportedDocument.h"
+
+#include <map>
+#include <set>
+#include <string>
+
+class QPDF;
+
+namespace folioforge {
+
+/// Makes one interactive form (ISO 32000-1, 12.7) of the forms of several documents: fields of the
+/// same name stay different fields, and each keeps the resources it is drawn with.
+class FormMerger {
+  public:
+    void add(const ImportedForm &form);
+    /// Writes the form into the catalog, when there is any field.
+    void finish(QPDF &document);
+
+  private:
+    using Renames = std::map<std::string, std::string>;
+
+    void keepApart(QPDFObjectHandle field, Renames &renames);
+    Renames addResources(QPDFObjectHandle resources);
+
+    ImportedForm m_form;
+    std::set<std::string> m_names;
+    std::map<std::string, std::map<std::string, QPDFObjectHandle>> m_resources;
+};
+
+} // namespace folioforge

@@ -1,0 +1,188 @@
+#include "pdf/ImageEmbedder.h"
+
+#include "error/Error.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <QCryptographicHash>
+
+namespace folioforge {
+
+namespace {
+
+const char *filterName(ImageFilter filter) {
+    switch (filter) {
+    case ImageFilter::Dct:
+        return "/DCTDecode";
+    case ImageFilter::Jpx:
+        return "/JPXDecode";
+    case ImageFilter::CcittFax:
+        return "/CCITTFaxDecode";
+    case ImageFilter::Flate:
+        break;
+    }
+    return "/FlateDecode";
+}
+
+int componentsOf(ImageColor color) {
+    switch (color) {
+    case ImageColor::Rgb:
+    case ImageColor::Lab:
+        return 3;
+    case ImageColor::Cmyk:
+        return 4;
+    default:
+        return 1;
+    }
+}
+
+/// The colour space that an ICC profile says it is for, at byte 16 (ICC.1:2010, 7.2).
+bool profileFits(const QByteArray &profile, const char *signature) {
+    constexpr qsizetype kHeaderSize = 128;
+    constexpr qsizetype kSpaceOffset = 16;
+    return profile.size() > kHeaderSize && profile.sliced(kSpaceOffset, 4) == signature;
+}
+
+void addDecodeParms(QPDFObjectHandle &dictionary, const EncodedImage &image) {
+    auto parms = QPDFObjectHandle::newDictionary();
+    if (image.filter == ImageFilter::CcittFax) {
+        parms.replaceKey("/K", QPDFObjectHandle::newInteger(image.ccittK));
+        parms.replaceKey("/Columns", QPDFObjectHandle::newInteger(image.width));
+        parms.replaceKey("/Rows", QPDFObjectHandle::newInteger(image.height));
+        parms.replaceKey("/BlackIs1", QPDFObjectHandle::newBool(image.ccittBlackIs1));
+    } else if (image.filter == ImageFilter::Flate && image.predictor > 1) {
+        parms.replaceKey("/Predictor", QPDFObjectHandle::newInteger(image.predictor));
+        parms.replaceKey("/Colors", QPDFObjectHandle::newInteger(componentsOf(image.color)));
+        parms.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(image.bitsPerComponent));
+        parms.replaceKey("/Columns", QPDFObjectHandle::newInteger(image.width));
+    } else {
+        return;
+    }
+    dictionary.replaceKey("/DecodeParms", parms);
+}
+
+QPDFObjectHandle labSpace() {
+    // The white point of ICC's connection space, D50, and the range of signed eight-bit samples.
+    return QPDFObjectHandle::parse(
+        "[/Lab << /WhitePoint [0.9642 1 0.8249] /Range [-128 127 -128 127] >>]");
+}
+
+std::string sourceKey(const SourceFile &file, const EncodedImage &image) {
+    std::string key = file.path.toStdString() + '\0' + std::to_string(file.size) + ' ' +
+                      std::to_string(file.modifiedNanos);
+    for (const FileSlice &slice : image.slices) {
+        key += ' ' + std::to_string(slice.offset) + '+' + std::to_string(slice.length);
+    }
+    return key;
+}
+
+SourceFile examinedSource(const EncodedImage &image) {
+    SourceFile file = SourceFile::examine(image.sourcePath);
+    if (file.size != image.sourceSize) {
+        throw Error(QStringLiteral("The file was changed while it was being converted"));
+    }
+    return file;
+}
+
+} // namespace
+
+ImageEmbedder::ImageEmbedder(QPDF &document, StreamData &streams)
+    : m_document(document)
+    , m_streams(streams) {}
+
+QPDFObjectHandle ImageEmbedder::profiled(const EncodedImage &image, int components,
+                                         const char *alternate) {
+    const QByteArray digest =
+        QCryptographicHash::hash(image.iccProfile, QCryptographicHash::Sha256);
+    auto known = m_profileIndex.constFind(digest);
+    if (known == m_profileIndex.constEnd()) {
+        auto dictionary = QPDFObjectHandle::newDictionary();
+        dictionary.replaceKey("/N", QPDFObjectHandle::newInteger(components));
+        dictionary.replaceKey("/Alternate", QPDFObjectHandle::newName(alternate));
+        auto space = QPDFObjectHandle::newArray();
+        space.appendItem(QPDFObjectHandle::newName("/ICCBased"));
+        space.appendItem(m_streams.deflated(dictionary, image.iccProfile));
+        m_profiles.push_back(m_document.makeIndirectObject(space));
+        known = m_profileIndex.insert(digest, m_profiles.size() - 1);
+    }
+    return m_profiles[known.value()];
+}
+
+QPDFObjectHandle ImageEmbedder::colorSpace(const EncodedImage &image) {
+    switch (image.color) {
+    case ImageColor::Gray:
+        return profileFits(image.iccProfile, "GRAY") ? profiled(image, 1, "/DeviceGray")
+                                                     : QPDFObjectHandle::newName("/DeviceGray");
+    case ImageColor::Cmyk:
+        return profileFits(image.iccProfile, "CMYK") ? profiled(image, 4, "/DeviceCMYK")
+                                                     : QPDFObjectHandle::newName("/DeviceCMYK");
+    case ImageColor::Lab:
+        return labSpace();
+    case ImageColor::FromJpx:
+        return QPDFObjectHandle::newNull();
+    case ImageColor::Rgb:
+    case ImageColor::Indexed:
+        break;
+    }
+    auto rgb = profileFits(image.iccProfile, "RGB ") ? profiled(image, 3, "/DeviceRGB")
+                                                     : QPDFObjectHandle::newName("/DeviceRGB");
+    if (image.color == ImageColor::Rgb) {
+        return rgb;
+    }
+    auto indexed = QPDFObjectHandle::newArray();
+    indexed.appendItem(QPDFObjectHandle::newName("/Indexed"));
+    indexed.appendItem(rgb);
+    indexed.appendItem(QPDFObjectHandle::newInteger(image.palette.size() / 3 - 1));
+    indexed.appendItem(QPDFObjectHandle::newString(image.palette.toStdString()));
+    return indexed;
+}
+
+QPDFObjectHandle ImageEmbedder::makeStream(QPDFObjectHandle dictionary, const EncodedImage &image) {
+    if (image.slices.empty()) {
+        return m_streams.fromBytes(dictionary, image.data);
+    }
+    return m_streams.fromFile(dictionary, examinedSource(image), image.slices);
+}
+
+QPDFObjectHandle ImageEmbedder::makeImage(const EncodedImage &image) {
+    auto dictionary = QPDFObjectHandle::newDictionary();
+    dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
+    dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Image"));
+    dictionary.replaceKey("/Width", QPDFObjectHandle::newInteger(image.width));
+    dictionary.replaceKey("/Height", QPDFObjectHandle::newInteger(image.height));
+    dictionary.replaceKey("/Filter", QPDFObjectHandle::newName(filterName(image.filter)));
+    if (image.filter != ImageFilter::Jpx) {
+        dictionary.replaceKey("/BitsPerComponent",
+                              QPDFObjectHandle::newInteger(image.bitsPerComponent));
+    }
+    auto space = colorSpace(image);
+    if (!space.isNull()) {
+        dictionary.replaceKey("/ColorSpace", space);
+    }
+    if (!image.decode.empty()) {
+        auto decode = QPDFObjectHandle::newArray();
+        for (const double value : image.decode) {
+            decode.appendItem(QPDFObjectHandle::newReal(value));
+        }
+        dictionary.replaceKey("/Decode", decode);
+    }
+    addDecodeParms(dictionary, image);
+    if (image.softMask) {
+        dictionary.replaceKey("/SMask", makeImage(*image.softMask));
+    }
+    return makeStream(dictionary, image);
+}
+
+QPDFObjectHandle ImageEmbedder::embed(const EncodedImage &image) {
+    if (image.slices.empty()) {
+        return makeImage(image);
+    }
+    const std::string key = sourceKey(examinedSource(image), image);
+    const auto known = m_embedded.find(key);
+    if (known != m_embedded.end()) {
+        return known->second;
+    }
+    return m_embedded.emplace(key, makeImage(image)).first->second;
+}
+
+} // namespace folioforge

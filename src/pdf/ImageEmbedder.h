@@ -1,0 +1,36 @@
+#pragma once
+
+#include "image/EncodedImage.h"
+#include "pdf/StreamData.h"
+
+#include <QByteArray>
+#include <QHash>
+
+#include <map>
+#include <string>
+
+namespace folioforge {
+
+/// Makes image XObjects (ISO 32000-1, 8.9.5) of encoded images.
+class ImageEmbedder {
+  public:
+    ImageEmbedder(QPDF &document, StreamData &streams);
+
+    /// The XObject of `image`; a part of a source file that was embedded before is used again.
+    /// Throws Error when the source is not what it was when it was examined.
+    QPDFObjectHandle embed(const EncodedImage &image);
+
+  private:
+    QPDFObjectHandle makeStream(QPDFObjectHandle dictionary, const EncodedImage &image);
+    QPDFObjectHandle makeImage(const EncodedImage &image);
+    QPDFObjectHandle colorSpace(const EncodedImage &image);
+    QPDFObjectHandle profiled(const EncodedImage &image, int components, const char *alternate);
+
+    QPDF &m_document;
+    StreamData &m_streams;
+    QHash<QByteArray, std::size_t> m_profileIndex; ///< By the profile's digest.
+    std::vector<QPDFObjectHandle> m_profiles;
+    std::map<std::string, QPDFObjectHandle> m_embedded; ///< By source file and slices.
+};
+
+} // namespace folioforge

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace folioforge {
+
+/// The interactive form of a source document, copied.
+struct ImportedForm {
+    std::vector<QPDFObjectHandle> fields;           ///< The roots of the field tree.
+    std::vector<QPDFObjectHandle> calculationOrder; ///< Fields in the order of their calculation.
+    QPDFObjectHandle resources;                     ///< Default resources; null where none.
+    bool needsAppearances = false;
+    bool hasSignatures = false;
+};
+
+/// The optional content (layers) of a source document, copied.
+struct ImportedLayers {
+    std::vector<QPDFObjectHandle> groups;
+    std::vector<QPDFObjectHandle> off;
+    std::vector<QPDFObjectHandle> locked;
+    std::vector<QPDFObjectHandle> order;
+    std::vector<QPDFObjectHandle> radioGroups;
+    std::vector<QPDFObjectHandle> automaticStates;
+};
+
+/// All that one source document brings, copied into the target but not yet part of it.
+struct ImportedDocument {
+    std::vector<QPDFObjectHandle> pages;
+    std::vector<QPDFObjectHandle> bookmarks; ///< The items of the first level.
+    /// Page labels: index of the first page counted from this document's first, label dictionary.
+    std::vector<std::pair<long long, QPDFObjectHandle>> pageLabels;
+    ImportedForm form;
+    ImportedLayers layers;
+    std::string pdfVersion;
+};
+
+} // namespace folioforge

@@ -1,0 +1,235 @@
+#include "pdf/PDFContext.h"
+
+#include "image/EncodedImage.h"
+#include "pdf/ContentNumber.h"
+#include "pdf/DocumentCatalog.h"
+#include "pdf/DocumentImport.h"
+#include "pdf/DocumentInfo.h"
+#include "pdf/DocumentWriter.h"
+#include "pdf/ImageEmbedder.h"
+#include "pdf/OrientedMatrix.h"
+#include "pdf/OutputFile.h"
+#include "pdf/QpdfBorder.h"
+#include "pdf/SourceDocument.h"
+#include "pdf/StreamData.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <map>
+#include <string>
+
+namespace folioforge {
+
+namespace {
+
+using Resources = std::map<std::string, QPDFObjectHandle>;
+
+/// The page that is being drawn.
+struct OpenPage {
+    QRectF mediaBox;
+    std::string content;
+    Resources fonts;
+    Resources images;
+};
+
+QPDFObjectHandle boxArray(const QRectF &box) {
+    std::string text = "[";
+    for (const double value : {box.left(), box.top(), box.right(), box.bottom()}) {
+        appendNumber(text, value);
+    }
+    return QPDFObjectHandle::parse(text + "]");
+}
+
+} // namespace
+
+class PDFContext::Impl {
+  public:
+    Impl(QString path, Settings settings);
+
+    void endPage();
+    void drawImage(const QRectF &rect, const EncodedImage &image, int orientation);
+    int addDocument(const QString &sourcePath);
+    CloseResult close(const std::function<QString()> &nextPath);
+
+    OpenPage page;
+    std::shared_ptr<const FontCascade> font;
+    double fontSize = 0;
+    DocumentCatalog catalog;
+
+  private:
+    QPDFObjectHandle resources();
+    void finishDocument();
+    CloseResult publish(OutputFile &file, const std::function<QString()> &nextPath);
+
+    QString m_path;
+    Settings m_settings;
+    QPDF m_document;
+    std::shared_ptr<SourceReader> m_reader = std::make_shared<SourceReader>();
+    StreamData m_streams{m_document, m_reader};
+    ImageEmbedder m_images{m_document, m_streams};
+    std::map<Resources, QPDFObjectHandle, bool (*)(const Resources &, const Resources &)>
+        m_fontResources;
+    std::map<std::string, ObjectCopier::Streams> m_sourceStreams; ///< By source file.
+};
+
+namespace {
+
+bool sameNamesFirst(const Resources &left, const Resources &right) {
+    return std::ranges::lexicographical_compare(
+        left, right, {}, [](const auto &member) { return member.first; },
+        [](const auto &member) { return member.first; });
+}
+
+} // namespace
+
+PDFContext::Impl::Impl(QString path, Settings settings)
+    : m_path(std::move(path))
+    , m_settings(std::move(settings))
+    , m_fontResources(&sameNamesFirst) {
+    m_document.emptyPDF();
+    m_document.setSuppressWarnings(true);
+}
+
+QPDFObjectHandle PDFContext::Impl::resources() {
+    if (page.images.empty()) {
+        // Pages of text use the same few fonts over and over.
+        auto &shared = m_fontResources[page.fonts];
+        if (!shared.isInitialized()) {
+            auto dictionary = QPDFObjectHandle::newDictionary();
+            if (!page.fonts.empty()) {
+                dictionary.replaceKey("/Font", QPDFObjectHandle::newDictionary(page.fonts));
+            }
+            shared = m_document.makeIndirectObject(dictionary);
+        }
+        return shared;
+    }
+    auto dictionary = QPDFObjectHandle::newDictionary();
+    dictionary.replaceKey("/XObject", QPDFObjectHandle::newDictionary(page.images));
+    if (!page.fonts.empty()) {
+        dictionary.replaceKey("/Font", QPDFObjectHandle::newDictionary(page.fonts));
+    }
+    return dictionary;
+}
+
+void PDFContext::Impl::endPage() {
+    auto dictionary = QPDFObjectHandle::newDictionary();
+    dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+    dictionary.replaceKey("/MediaBox", boxArray(page.mediaBox));
+    dictionary.replaceKey("/Resources", resources());
+    if (!page.content.empty()) {
+        dictionary.replaceKey("/Contents",
+                              m_streams.deflated(QPDFObjectHandle::newDictionary(), page.content));
+    }
+    catalog.addPage(m_document.makeIndirectObject(dictionary));
+    page = {};
+}
+
+void PDFContext::Impl::drawImage(const QRectF &rect, const EncodedImage &image, int orientation) {
+    const std::string name = "/Im" + std::to_string(page.images.size());
+    page.images[name] = m_images.embed(image);
+    const QTransform matrix = orientedMatrix(rect, orientation);
+    page.content += "q ";
+    for (const double value :
+         {matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), matrix.dx(), matrix.dy()}) {
+        appendNumber(page.content, value);
+    }
+    page.content += "cm " + name + " Do Q\n";
+}
+
+int PDFContext::Impl::addDocument(const QString &sourcePath) {
+    return atQpdfBorder([&] {
+        const SourceFile file = SourceFile::examine(sourcePath);
+        const std::string key = sourcePath.toStdString() + '\0' + std::to_string(file.size) + ' ' +
+                                std::to_string(file.modifiedNanos);
+        const auto source = openSourceDocument(file, m_reader);
+        // Only what a whole copy brought may be used by the next one.
+        ObjectCopier::Streams streams = m_sourceStreams[key];
+        const ImportedDocument imported = importDocument(*source, m_document, streams);
+        catalog.addDocument(imported);
+        m_sourceStreams[key] = std::move(streams);
+        return static_cast<int>(imported.pages.size());
+    });
+}
+
+void PDFContext::Impl::finishDocument() {
+    atQpdfBorder([&] {
+        writeDocumentInfo(m_document, m_settings.info);
+        catalog.finish(m_document);
+    });
+}
+
+CloseResult PDFContext::Impl::publish(OutputFile &file, const std::function<QString()> &nextPath) {
+    QString path = m_path;
+    while (file.publish(path, m_settings.flush) == OutputFile::Published::NameTaken) {
+        const QString next = nextPath ? nextPath() : QString();
+        if (next.isEmpty() || next == path) {
+            return {CloseResult::Status::NameTaken, path, {}};
+        }
+        path = next;
+    }
+    return {CloseResult::Status::Written, path, {}};
+}
+
+CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
+    try {
+        finishDocument();
+        m_reader->clearFailure();
+        OutputFile file(m_path);
+        writeDocument(m_document, file, m_settings.encryption.get(), catalog.pdfVersion());
+        if (m_reader->failure()) {
+            throw Error(*m_reader->failure());
+        }
+        file.finish(m_settings.flush);
+        return publish(file, nextPath);
+    } catch (const Error &error) {
+        return {CloseResult::Status::Failed, m_path, error.reason()};
+    }
+}
+
+PDFContext::PDFContext(QString path, Settings settings)
+    : m_impl(std::make_unique<Impl>(std::move(path), std::move(settings))) {}
+
+PDFContext::~PDFContext() = default;
+
+void PDFContext::beginPage(const QRectF &mediaBox) {
+    m_impl->page = {};
+    m_impl->page.mediaBox = mediaBox;
+}
+
+void PDFContext::setRGBFillColor(double red, double green, double blue) {
+    std::string &content = m_impl->page.content;
+    for (const double value : {red, green, blue}) {
+        appendNumber(content, value);
+    }
+    content += "rg\n";
+}
+
+void PDFContext::setFont(std::shared_ptr<const FontCascade> font, double size) {
+    m_impl->font = std::move(font);
+    m_impl->fontSize = size;
+}
+
+void PDFContext::showGlyphsAtPoint([[maybe_unused]] double x, [[maybe_unused]] double y,
+                                   [[maybe_unused]] std::span<const Glyph> glyphs) {}
+
+void PDFContext::drawImage(const QRectF &rect, EncodedImage image, int orientation) {
+    atQpdfBorder([&] { m_impl->drawImage(rect, image, orientation); });
+}
+
+void PDFContext::endPage() {
+    atQpdfBorder([&] { m_impl->endPage(); });
+}
+
+int PDFContext::addDocument(const QString &sourcePath) {
+    return m_impl->addDocument(sourcePath);
+}
+
+int PDFContext::pageCount() const {
+    return m_impl->catalog.pageCount();
+}
+
+CloseResult PDFContext::close(const std::function<QString()> &nextPath) {
+    return m_impl->close(nextPath);
+}
+
+} // namespace folioforge

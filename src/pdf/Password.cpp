@@ -1,0 +1,65 @@
+#include "pdf/Password.h"
+
+#include "error/Error.h"
+
+#include <stringprep.h>
+
+#include <cstdlib>
+#include <memory>
+#include <variant>
+
+namespace folioforge {
+
+namespace {
+
+struct FreeDeleter {
+    void operator()(char *text) const { std::free(text); }
+};
+
+std::variant<QByteArray, QString> prepare(const QString &password) {
+    if (!password.isValidUtf16()) {
+        return QStringLiteral("The password contains half a character");
+    }
+    if (password.contains(QChar(u'\0'))) {
+        return QStringLiteral("The password contains a character that passwords cannot have");
+    }
+    char *raw = nullptr;
+    // Characters newer than the profile's Unicode 3.2 pass as they are, or no recent one could be
+    // typed.
+    const int status = stringprep_profile(password.toUtf8().constData(), &raw, "SASLprep", {});
+    const std::unique_ptr<char, FreeDeleter> prepared(raw);
+    if (status == STRINGPREP_BIDI_BOTH_L_AND_RAL || status == STRINGPREP_BIDI_LEADTRAIL_NOT_RAL) {
+        return QStringLiteral(
+            "The password mixes characters written from right to left with others "
+            "in a way that passwords cannot have");
+    }
+    if (status != STRINGPREP_OK) {
+        return QStringLiteral("The password contains a character that passwords cannot have");
+    }
+    QByteArray bytes(prepared.get());
+    if (bytes.isEmpty() && !password.isEmpty()) {
+        return QStringLiteral("The password contains no visible character");
+    }
+    if (bytes.size() > kMaxPasswordBytes) {
+        return QStringLiteral("The password is longer than %1 bytes").arg(kMaxPasswordBytes);
+    }
+    return bytes;
+}
+
+} // namespace
+
+std::optional<QString> passwordProblem(const QString &password) {
+    const auto result = prepare(password);
+    const auto *problem = std::get_if<QString>(&result);
+    return problem ? std::optional(*problem) : std::nullopt;
+}
+
+QByteArray preparedPassword(const QString &password) {
+    auto result = prepare(password);
+    if (const auto *problem = std::get_if<QString>(&result)) {
+        throw Error(*problem);
+    }
+    return std::get<QByteArray>(result);
+}
+
+} // namespace folioforge

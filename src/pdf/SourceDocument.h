@@ -1,0 +1,28 @@
+#pragma once
+
+#include "pdf/SourceReader.h"
+
+#include <QString>
+
+#include <memory>
+
+class QPDF;
+
+namespace folioforge {
+
+/// What the file list asks of a PDF.
+struct PDFSummary {
+    bool encrypted = false; ///< Also with an empty user password or an unknown security handler.
+    int pageCount = 0;      ///< 0 where it is encrypted.
+};
+
+/// Opens the PDF at `path` as far as needed to say this; a damaged file that can be repaired counts
+/// as readable. Throws Error when it is no PDF or beyond repair.
+PDFSummary summarizePDF(const QString &path);
+
+/// Opens a source PDF for copying through `reader`. Throws Error when it is no PDF, encrypted or
+/// beyond repair.
+std::unique_ptr<QPDF> openSourceDocument(const SourceFile &file,
+                                         const std::shared_ptr<SourceReader> &reader);
+
+} // namespace folioforge

@@ -1,0 +1,139 @@
+#include "pdf/SourceReader.h"
+
+#include "error/Error.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace folioforge {
+
+namespace {
+
+constexpr qint64 kWindowSize = 64 << 10;
+constexpr qint64 kWindowAlignment = 16 << 10;
+
+[[noreturn]] void failToRead() {
+    throw Error(QStringLiteral("Cannot read the file: %1")
+                    .arg(QString::fromLocal8Bit(std::strerror(errno))));
+}
+
+qint64 modifiedNanos(const struct stat &status) {
+#ifdef __APPLE__
+    const timespec &time = status.st_mtimespec;
+#else
+    const timespec &time = status.st_mtim;
+#endif
+    constexpr qint64 kNanosPerSecond = 1'000'000'000;
+    return qint64{time.tv_sec} * kNanosPerSecond + qint64{time.tv_nsec};
+}
+
+} // namespace
+
+SourceFile SourceFile::examine(const QString &path) {
+    struct stat status {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
+        failToRead();
+    }
+    if (!S_ISREG(status.st_mode)) {
+        throw Error(QStringLiteral("This is not a regular file"));
+    }
+    return {path, status.st_size, folioforge::modifiedNanos(status)};
+}
+
+SourceReader::~SourceReader() {
+    closeFile();
+}
+
+void SourceReader::closeFile() {
+    if (m_fd >= 0) {
+        ::close(m_fd);
+        m_fd = -1;
+    }
+    m_window = {};
+}
+
+void SourceReader::openFile(const SourceFile &file) {
+    if (m_fd >= 0 && m_file == file) {
+        return;
+    }
+    closeFile();
+    // Without O_NONBLOCK a pipe that took the file's place would make the program wait for ever.
+    m_fd = ::open(QFile::encodeName(file.path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (m_fd < 0) {
+        failToRead();
+    }
+    struct stat status {};
+    if (::fstat(m_fd, &status) != 0) {
+        failToRead();
+    }
+    if (!S_ISREG(status.st_mode) || status.st_size != file.size ||
+        modifiedNanos(status) != file.modifiedNanos) {
+        closeFile();
+        throw Error(
+            QStringLiteral("The file %1 was changed while it was being converted").arg(file.path));
+    }
+    m_file = file;
+}
+
+std::size_t SourceReader::readFromDisk(qint64 offset, std::span<char> target) const {
+    std::size_t done = 0;
+    while (done < target.size()) {
+        const ssize_t got = ::pread(m_fd, target.data() + done, target.size() - done,
+                                    offset + static_cast<qint64>(done));
+        if (got < 0 && errno == EINTR) {
+            continue;
+        }
+        if (got < 0) {
+            failToRead();
+        }
+        if (got == 0) {
+            break;
+        }
+        done += static_cast<std::size_t>(got);
+    }
+    return done;
+}
+
+std::size_t SourceReader::readThroughWindow(qint64 offset, std::span<char> target) {
+    const auto wanted = std::min(static_cast<qint64>(target.size()), m_file.size - offset);
+    if (wanted <= 0) {
+        return 0;
+    }
+    if (offset < m_windowStart || offset + wanted > m_windowStart + m_window.size()) {
+        m_windowStart = offset / kWindowAlignment * kWindowAlignment;
+        m_window.resize(kWindowSize);
+        const auto got =
+            readFromDisk(m_windowStart, {m_window.data(), static_cast<std::size_t>(kWindowSize)});
+        m_window.truncate(static_cast<qsizetype>(got));
+    }
+    const qint64 available = std::min(wanted, m_windowStart + m_window.size() - offset);
+    if (available <= 0) {
+        return 0;
+    }
+    std::memcpy(target.data(), m_window.constData() + (offset - m_windowStart),
+                static_cast<std::size_t>(available));
+    return static_cast<std::size_t>(available);
+}
+
+std::size_t SourceReader::read(const SourceFile &file, qint64 offset, std::span<char> target) {
+    try {
+        openFile(file);
+        constexpr std::size_t kLargeRead = kWindowSize - kWindowAlignment;
+        return target.size() >= kLargeRead ? readFromDisk(offset, target)
+                                           : readThroughWindow(offset, target);
+    } catch (const Error &error) {
+        if (!m_failure) {
+            m_failure = error.reason();
+        }
+        throw;
+    }
+}
+
+} // namespace folioforge

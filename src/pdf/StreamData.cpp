@@ -1,0 +1,127 @@
+#include "pdf/StreamData.h"
+
+#include "error/Error.h"
+#include "image/EncodedImage.h"
+
+#include <qpdf/Pipeline.hh>
+#include <qpdf/QPDF.hh>
+
+#include <libdeflate.h>
+
+#include <algorithm>
+#include <map>
+
+namespace folioforge {
+
+namespace {
+
+struct CompressorDeleter {
+    void operator()(libdeflate_compressor *compressor) const {
+        libdeflate_free_compressor(compressor);
+    }
+};
+using Compressor = std::unique_ptr<libdeflate_compressor, CompressorDeleter>;
+
+} // namespace
+
+QByteArray zlibCompressed(QByteArrayView data) {
+    constexpr int kLevel = 6;
+    // Making a compressor costs more than compressing a page of text.
+    thread_local const Compressor compressor(libdeflate_alloc_compressor(kLevel));
+    if (!compressor) {
+        throw Error(QStringLiteral("There is not enough memory"));
+    }
+    const auto size = static_cast<std::size_t>(data.size());
+    const auto bound = libdeflate_zlib_compress_bound(compressor.get(), size);
+    QByteArray compressed(static_cast<qsizetype>(bound), Qt::Uninitialized);
+    const auto length =
+        libdeflate_zlib_compress(compressor.get(), data.data(), size, compressed.data(), bound);
+    compressed.truncate(static_cast<qsizetype>(length));
+    return compressed;
+}
+
+/// One provider for all spooled streams: it knows the place of each by its object number.
+class StreamData::SpooledData final : public QPDFObjectHandle::StreamDataProvider {
+  public:
+    explicit SpooledData(std::shared_ptr<Spool> spool)
+        : m_spool(std::move(spool)) {}
+
+    void remember(const QPDFObjGen &object, Spool::Place place) { m_places[object] = place; }
+
+    void provideStreamData(QPDFObjGen const &object, Pipeline *pipeline) override {
+        const QByteArray data = m_spool->at(m_places.at(object));
+        pipeline->write(data.constData(), static_cast<std::size_t>(data.size()));
+        pipeline->finish();
+    }
+
+  private:
+    std::shared_ptr<Spool> m_spool;
+    std::map<QPDFObjGen, Spool::Place> m_places;
+};
+
+class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider {
+  public:
+    SlicedData(std::shared_ptr<SourceReader> reader, SourceFile file, std::vector<FileSlice> slices)
+        : m_reader(std::move(reader))
+        , m_file(std::move(file))
+        , m_slices(std::move(slices)) {}
+
+    void provideStreamData([[maybe_unused]] QPDFObjGen const &object, Pipeline *pipeline) override {
+        constexpr qint64 kChunk = 1 << 20;
+        std::vector<char> buffer;
+        for (const FileSlice &slice : m_slices) {
+            for (qint64 done = 0; done < slice.length; done += kChunk) {
+                buffer.resize(static_cast<std::size_t>(std::min(kChunk, slice.length - done)));
+                if (m_reader->read(m_file, slice.offset + done, buffer) != buffer.size()) {
+                    throw Error(
+                        QStringLiteral("The file %1 ended before its image did").arg(m_file.path));
+                }
+                pipeline->write(buffer.data(), buffer.size());
+            }
+        }
+        pipeline->finish();
+    }
+
+  private:
+    std::shared_ptr<SourceReader> m_reader;
+    SourceFile m_file;
+    std::vector<FileSlice> m_slices;
+};
+
+StreamData::StreamData(QPDF &document, std::shared_ptr<SourceReader> reader)
+    : m_document(document)
+    , m_reader(std::move(reader))
+    , m_spool(std::make_shared<Spool>())
+    , m_spooled(std::make_shared<SpooledData>(m_spool)) {}
+
+QPDFObjectHandle
+StreamData::make(QPDFObjectHandle dictionary,
+                 const std::shared_ptr<QPDFObjectHandle::StreamDataProvider> &provider) {
+    QPDFObjectHandle stream = m_document.newStream();
+    stream.replaceDict(dictionary);
+    stream.replaceStreamData(provider, dictionary.getKey("/Filter"),
+                             dictionary.getKey("/DecodeParms"));
+    // Otherwise the library decodes and encodes again what is compressed best already.
+    stream.setFilterOnWrite(false);
+    return stream;
+}
+
+QPDFObjectHandle StreamData::fromBytes(QPDFObjectHandle dictionary, QByteArrayView data) {
+    const auto place = m_spool->add(data);
+    QPDFObjectHandle stream = make(dictionary, m_spooled);
+    m_spooled->remember(stream.getObjGen(), place);
+    return stream;
+}
+
+QPDFObjectHandle StreamData::deflated(QPDFObjectHandle dictionary, QByteArrayView data) {
+    dictionary.replaceKey("/Filter", QPDFObjectHandle::newName("/FlateDecode"));
+    return fromBytes(dictionary, zlibCompressed(data));
+}
+
+QPDFObjectHandle StreamData::fromFile(QPDFObjectHandle dictionary, SourceFile file,
+                                      std::vector<FileSlice> slices) {
+    return make(dictionary,
+                std::make_shared<SlicedData>(m_reader, std::move(file), std::move(slices)));
+}
+
+} // namespace folioforge

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "pdf/SourceReader.h"
+#include "pdf/Spool.h"
+
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <QByteArrayView>
+
+#include <memory>
+#include <vector>
+
+class QPDF;
+
+namespace folioforge {
+
+struct FileSlice;
+
+/// Makes the streams of a document whose data is read only while the document is written, already
+/// compressed: from the spool, or from where it lies in a source file.
+class StreamData {
+  public:
+    StreamData(QPDF &document, std::shared_ptr<SourceReader> reader);
+
+    /// A stream with `data`, which is compressed as `dictionary` says.
+    QPDFObjectHandle fromBytes(QPDFObjectHandle dictionary, QByteArrayView data);
+    /// A stream with `data`, compressed here.
+    QPDFObjectHandle deflated(QPDFObjectHandle dictionary, QByteArrayView data);
+    /// A stream with slices of a source file, one after another.
+    QPDFObjectHandle fromFile(QPDFObjectHandle dictionary, SourceFile file,
+                              std::vector<FileSlice> slices);
+
+  private:
+    class SpooledData;
+    class SlicedData;
+
+    QPDFObjectHandle make(QPDFObjectHandle dictionary,
+                          const std::shared_ptr<QPDFObjectHandle::StreamDataProvider> &provider);
+
+    QPDF &m_document;
+    std::shared_ptr<SourceReader> m_reader;
+    std::shared_ptr<Spool> m_spool;
+    std::shared_ptr<SpooledData> m_spooled;
+};
+
+/// `data` compressed in the zlib format (RFC 1950), as FlateDecode reads it.
+QByteArray zlibCompressed(QByteArrayView data);
+
+} // namespace folioforge

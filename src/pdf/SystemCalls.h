@@ -1,0 +1,37 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <cstddef>
+
+namespace folioforge {
+
+/// The system calls through which output files are made: one seam where tests let them fail. Each
+/// behaves like the call of its name: -1 and errno on failure.
+class SystemCalls {
+  public:
+    virtual ~SystemCalls() = default;
+
+    virtual int open(const char *path, int flags, mode_t mode);
+    /// A file without a name in `folder`; EOPNOTSUPP where the system or file system has none.
+    virtual int openAnonymous(const char *folder, mode_t mode);
+    virtual ssize_t write(int fd, const void *data, std::size_t size);
+    virtual ssize_t pread(int fd, void *data, std::size_t size, off_t offset);
+    virtual ssize_t pwrite(int fd, const void *data, std::size_t size, off_t offset);
+    virtual int fsync(int fd);
+    virtual int fchmod(int fd, mode_t mode);
+    virtual int close(int fd);
+    /// Gives the file behind `fd` the name `path`; EEXIST when the name is taken.
+    virtual int linkAnonymous(int fd, const char *path);
+    /// Renames without replacing; EEXIST when the name is taken, ENOSYS, EINVAL or EOPNOTSUPP where
+    /// that cannot be asked for.
+    virtual int renameExclusive(const char *from, const char *to);
+    virtual int link(const char *from, const char *to);
+    virtual int rename(const char *from, const char *to);
+    virtual int unlink(const char *path);
+
+    /// The calls of the running system.
+    static SystemCalls &system();
+};
+
+} // namespace folioforge
