@@ -1,5 +1,8 @@
 #include "filelist/SourceFiles.h"
 
+#include "error/Error.h"
+#include "pdf/SourceDocument.h"
+
 #include <QFile>
 
 #include <filesystem>
@@ -52,6 +55,21 @@ QString sizeText(qint64 bytes) {
         return QStringLiteral("%1 KB").arg(rounded / kKilobyte);
     }
     return QStringLiteral("%1 MB").arg(QString::number(rounded / kMegabyte, 'f', 1));
+}
+
+bool isAcceptablePdf(const QString &path, QString *reason) {
+    QString refusal;
+    try {
+        if (summarizePDF(path).encrypted) {
+            refusal = QStringLiteral("The document is encrypted");
+        }
+    } catch (const Error &error) {
+        refusal = error.reason();
+    }
+    if (reason) {
+        *reason = refusal;
+    }
+    return refusal.isEmpty();
 }
 
 Notice badFilesNotice(const QStringList &paths) {

@@ -1,10 +1,10 @@
 #include "filelist/TextSource.h"
 
 #include "error/Error.h"
+#include "text/TextDecoder.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QStringDecoder>
 
 #include <limits>
 
@@ -42,10 +42,8 @@ std::optional<QString> readTextFile(const QString &path) {
     if (file.error() != QFileDevice::NoError) {
         throw Error(file.errorString());
     }
-    // Stateless, so that a character cut off by the end of the file counts as invalid.
-    QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    QString text = QStringLiteral("") + decode(bytes);
-    return decode.hasError() ? std::nullopt : std::optional(std::move(text));
+    QString text = decodeText(bytes);
+    return text.isNull() ? std::nullopt : std::optional(std::move(text));
 }
 
 } // namespace folioforge

@@ -1,0 +1,121 @@
+#include "convert/Conversion.h"
+
+#include "convert/PageWriters.h"
+#include "error/Error.h"
+#include "filelist/FileKind.h"
+
+#include <new>
+
+namespace folioforge {
+namespace {
+
+/// The progress bar's value when every page is written; the compression pass fills the rest.
+constexpr float kPagesShare = 50;
+
+/// The one place where what the engine throws becomes words.
+template<typename Step> QString reasonOfFailure(Step &&step) {
+    try {
+        step();
+        return {};
+    } catch (const Error &error) {
+        return error.reason();
+    } catch (const std::bad_alloc &) {
+        return QStringLiteral("There is not enough memory");
+    } catch (const std::exception &failure) {
+        return QString::fromLocal8Bit(failure.what());
+    }
+}
+
+void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
+              const std::stop_token &stop, EntryOutcome &outcome) {
+    switch (fileKind(entry.filePathName())) {
+    case FileKind::Text:
+        addTextPage(entry, context, options.textPage, stop);
+        outcome.message = entry.readError() + entry.readWarning();
+        break;
+    case FileKind::Pdf:
+        if (addPDFFile(entry, context) == 0) {
+            outcome.message = QStringLiteral("The document has no pages");
+        }
+        break;
+    case FileKind::Image:
+    case FileKind::Other:
+        outcome.embeddedAs = addImagePage(entry, context, options.imagePage);
+        break;
+    }
+}
+
+EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
+                        const ConversionOptions &options, const std::stop_token &stop) {
+    EntryOutcome outcome;
+    const int pagesBefore = context.pageCount();
+    const QString failure =
+        reasonOfFailure([&] { addPages(entry, context, options, stop, outcome); });
+    outcome.written = failure.isEmpty();
+    outcome.pages = context.pageCount() - pagesBefore;
+    if (!outcome.written) {
+        outcome.message = failure;
+    }
+    return outcome;
+}
+
+CloseResult notWritten(const QString &reason) {
+    return {CloseResult::Status::Failed, {}, reason};
+}
+
+CloseResult closeContext(PDFContext &context, const QString &fileName,
+                         const ConversionOptions &options) {
+    if (context.pageCount() == 0) {
+        return notWritten(QStringLiteral("There is no page to write"));
+    }
+    std::function<QString()> nextPath;
+    if (!options.merge) {
+        nextPath = [&] { return singleFilePath(options.outputFolder, fileName); };
+    }
+    CloseResult result;
+    const QString failure = reasonOfFailure([&] { result = context.close(nextPath); });
+    return failure.isEmpty() ? result : notWritten(failure);
+}
+
+} // namespace
+
+std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security) {
+    if (!security.useUserPassword && !security.useOwnerPassword) {
+        return nullptr;
+    }
+    auto encryption = std::make_unique<Encryption>();
+    if (security.useUserPassword) {
+        encryption->userPassword = security.userPassword;
+        encryption->ownerPassword = security.userPassword;
+    }
+    if (security.useOwnerPassword) {
+        encryption->ownerPassword = security.ownerPassword;
+        encryption->refusePrint = security.allowPrint;
+        encryption->refuseCopy = security.allowCopy;
+    }
+    return encryption;
+}
+
+PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
+                     const ConversionOptions &options, ConversionObserver *observer,
+                     const std::stop_token &stop) {
+    PDFContext context(path, {options.info, encryptionFor(options.security), options.flush});
+    PDFOutcome outcome;
+    for (std::size_t i = 0; i < entries.size() && !stop.stop_requested(); ++i) {
+        outcome.entries.push_back(writeEntry(*entries[i], context, options, stop));
+        if (observer) {
+            const auto done = static_cast<float>(i + 1);
+            observer->progressChanged(done / static_cast<float>(entries.size()) * kPagesShare);
+            observer->entryDone(i, outcome.entries.back().written);
+        }
+    }
+    if (stop.stop_requested()) {
+        outcome.close = notWritten(QStringLiteral("The conversion was stopped"));
+    } else {
+        const QString fileName = entries.empty() ? QString() : entries.front()->fileName();
+        outcome.close = closeContext(context, fileName, options);
+    }
+    return outcome;
+}
+
+} // namespace folioforge

@@ -1,0 +1,27 @@
+#include "convert/ImagePlacement.h"
+
+#include <algorithm>
+
+namespace folioforge {
+
+ImagePlacement placeImage(QSizeF imageSize, const PageSetup &setup) {
+    const PageMargins &margins = setup.margins;
+    const auto across = static_cast<double>(margins.left + margins.right);
+    const auto upright = static_cast<double>(margins.top + margins.bottom);
+
+    QSizeF page = imageSize + QSizeF(across, upright);
+    float scale = 1;
+    if (setup.sizeMode == ImagePageCustom) {
+        page = getImagePageSize(setup);
+        scale = std::min(static_cast<float>((page.width() - across) / imageSize.width()),
+                         static_cast<float>((page.height() - upright) / imageSize.height()));
+    }
+    const float width = static_cast<float>(imageSize.width()) * scale;
+    const float height = static_cast<float>(imageSize.height()) * scale;
+    const QPointF corner((page.width() - across - width) * 0.5 + static_cast<double>(margins.left),
+                         (page.height() - upright - height) * 0.5 +
+                             static_cast<double>(margins.bottom));
+    return {page, QRectF(corner, QSizeF(width, height))};
+}
+
+} // namespace folioforge
