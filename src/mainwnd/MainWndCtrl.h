@@ -16,6 +16,9 @@
 namespace folioforge {
 
 class FilesArray;
+struct FilePanel;
+enum class FileKind;
+enum class SortOrder;
 
 /// Hears from the window whether the file list holds files.
 class MainWndDelegate {
@@ -168,6 +171,14 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void readOutputFolder();
     [[nodiscard]] QString makeDefaultOutputFolder();
     void outputFolderChosen(const QStringList &paths);
+
+    // File list.
+    [[nodiscard]] QString documentsFolder() const;
+    void addFromPanel(const FilePanel &panel);
+    void addKindFromPanel(const QString &title, FileKind kind);
+    void insertEntries(std::vector<PDFFileInfo> entries, int row);
+    void resort(SortOrder order);
+    void exchangeWithRow(int row);
 
     Surroundings m_surroundings;
     std::unique_ptr<QMainWindow> m_window;

@@ -1,52 +1,279 @@
 #include "mainwnd/MainWndCtrl.h"
 
+#include "filelist/EntryReader.h"
+#include "filelist/FileKind.h"
+#include "filelist/Orders.h"
+#include "filelist/SourceFiles.h"
 #include "mainwnd/FilesArray.h"
+#include "mainwnd/Notices.h"
+
+#include <QFileInfo>
+#include <QMimeData>
+#include <QTimer>
+
+#include <optional>
 
 namespace folioforge {
+namespace {
 
-void MainWndCtrl::clickBtnAddFile() {}
-void MainWndCtrl::clickBtnAddFolder() {}
-void MainWndCtrl::clickBtnAddImage() {}
-void MainWndCtrl::clickBtnAddTxt() {}
-void MainWndCtrl::clickBtnAddPDF() {}
-void MainWndCtrl::addFiles(const QStringList & /*paths*/, int /*row*/) {}
-void MainWndCtrl::reindexFiles() {}
+/// The extensions of every kind, in the order in which panels list them.
+QStringList recognisedExtensions() {
+    return extensionsOf(FileKind::Text) + extensionsOf(FileKind::Image) +
+           extensionsOf(FileKind::Pdf);
+}
+
+/// The chosen files, and for a chosen folder the files that it holds.
+QStringList filesOf(const QStringList &chosen) {
+    QStringList files;
+    for (const QString &path : chosen) {
+        const QFileInfo info(path);
+        if (info.isDir()) {
+            addDirectorie(path, files);
+        } else if (info.exists()) {
+            files += path;
+        }
+    }
+    return files;
+}
+
+/// The file names that a drag carries; nothing when it carries none by its kind.
+std::optional<QStringList> draggedPaths(const QMimeData &data) {
+    if (!data.hasUrls()) {
+        return std::nullopt;
+    }
+    QStringList paths;
+    for (const QUrl &url : data.urls()) {
+        if (url.isLocalFile()) {
+            paths += url.toLocalFile();
+        }
+    }
+    return paths;
+}
+
+bool isDroppable(const QString &path) {
+    const QFileInfo info(path);
+    return info.exists() && !info.isDir() && fileKind(path) != FileKind::Other;
+}
+
+} // namespace
+
+void MainWndCtrl::clickBtnAddFile() {
+    addFromPanel({tr("Add Files"),
+                  {},
+                  FilePanel::Chooses::FilesAndFolders,
+                  true,
+                  recognisedExtensions(),
+                  {}});
+}
+
+void MainWndCtrl::clickBtnAddFolder() {
+    addFromPanel({tr("Add Folders"),
+                  {},
+                  FilePanel::Chooses::Folders,
+                  true,
+                  recognisedExtensions(),
+                  documentsFolder()});
+    hasFileOpened(!m_filesArray->isEmpty());
+}
+
+void MainWndCtrl::clickBtnAddImage() {
+    addKindFromPanel(tr("Add Images"), FileKind::Image);
+}
+
+void MainWndCtrl::clickBtnAddTxt() {
+    addKindFromPanel(tr("Add Text Files"), FileKind::Text);
+}
+
+void MainWndCtrl::clickBtnAddPDF() {
+    addKindFromPanel(tr("Add PDF Files"), FileKind::Pdf);
+}
+
+QString MainWndCtrl::documentsFolder() const {
+    return m_surroundings.homeFolder + QStringLiteral("/Documents");
+}
+
+void MainWndCtrl::addFromPanel(const FilePanel &panel) {
+    m_surroundings.notices.showFilePanel(m_window.get(), panel, [this](const QStringList &chosen) {
+        if (!chosen.isEmpty()) {
+            addFiles(filesOf(chosen), -1);
+        }
+    });
+}
+
+void MainWndCtrl::addKindFromPanel(const QString &title, FileKind kind) {
+    const FilePanel panel{
+        title, {}, FilePanel::Chooses::Files, true, extensionsOf(kind), documentsFolder()};
+    m_surroundings.notices.showFilePanel(m_window.get(), panel, [this](const QStringList &chosen) {
+        if (!chosen.isEmpty()) {
+            addFiles(chosen, -1);
+        }
+    });
+}
+
+void MainWndCtrl::addFiles(const QStringList &paths, int row) {
+    if (!canEditList()) {
+        return;
+    }
+    m_bLoading = true;
+    ReadEntries read = readEntries(paths);
+    const QString firstName = read.entries.empty() ? QString() : read.entries.front().fileName();
+    insertEntries(std::move(read.entries), row);
+    m_bLoading = false;
+
+    if (!m_filesArray->isEmpty()) {
+        hasFileOpened(true);
+    }
+    if (!read.badFiles.isEmpty()) {
+        QTimer::singleShot(0, this, [this, bad = read.badFiles] { showBadFiles(bad); });
+    }
+    if (m_tfOutputName->text().isEmpty()) {
+        m_tfOutputName->setText(withoutExtension(firstName));
+    }
+}
+
+/// Numbers the new entries as if they were appended; who inserts them elsewhere reindexes.
+void MainWndCtrl::insertEntries(std::vector<PDFFileInfo> entries, int row) {
+    int index = m_filesArray->count();
+    for (PDFFileInfo &entry : entries) {
+        entry.setIndex(++index);
+    }
+    m_filesArray->insert(row, std::move(entries));
+}
+
+void MainWndCtrl::reindexFiles() {
+    m_filesArray->reindex();
+}
+
 void MainWndCtrl::hasFileOpened(bool opened) {
     m_btnCreate->setEnabled(opened);
     m_btnRemove->setEnabled(opened);
+    if (!opened) {
+        m_tfOutputName->clear();
+    }
     EnableSettings(opened);
     if (m_delegate) {
         m_delegate->hasFileOpened(opened);
     }
 }
-void MainWndCtrl::showBadFiles(const QStringList & /*paths*/) {}
-void MainWndCtrl::clickBtnRemove() {}
-void MainWndCtrl::clickBtnClear() {}
+
+void MainWndCtrl::showBadFiles(const QStringList &paths) {
+    if (!paths.isEmpty()) {
+        showNotice(badFilesNotice(paths));
+    }
+}
+
+void MainWndCtrl::clickBtnRemove() {
+    if (!canEditList()) {
+        return;
+    }
+    m_filesArray->removeRowsAt(m_filesArray->selectedRows());
+    m_tableview->setFocus();
+    if (!m_filesArray->isEmpty()) {
+        reindexFiles();
+    }
+    hasFileOpened(!m_filesArray->isEmpty());
+}
+
+void MainWndCtrl::clickBtnClear() {
+    if (!canEditList()) {
+        return;
+    }
+    m_filesArray->clear();
+    hasFileOpened(false);
+}
+
 bool MainWndCtrl::canEditList() const {
     return !m_bConverting;
 }
+
 bool MainWndCtrl::canRemoveClear() const {
     return !m_filesArray->isEmpty();
 }
+
 bool MainWndCtrl::canResort() const {
     return m_filesArray->count() > 1;
 }
+
 bool MainWndCtrl::canMoveUp() const {
-    return false;
+    return m_filesArray->selectedRows().size() == 1 && m_tableview->selectedRow() > 0;
 }
+
 bool MainWndCtrl::canMoveDown() const {
-    return false;
+    return m_filesArray->selectedRows().size() == 1 &&
+           m_tableview->selectedRow() < m_filesArray->count() - 1;
 }
-void MainWndCtrl::clickMenuRemove() {}
-void MainWndCtrl::clickMenuClear() {}
-void MainWndCtrl::clickMenuResortByName() {}
-void MainWndCtrl::clickMenuResortBySize() {}
-void MainWndCtrl::clickMenuResortByDataCreated() {}
-void MainWndCtrl::clickMenuResortByDataModified() {}
-void MainWndCtrl::clickMenuMoveUp() {}
-void MainWndCtrl::clickMenuMoveDown() {}
-bool MainWndCtrl::acceptDrop(const QMimeData & /*data*/, int /*row*/) {
-    return false;
+
+void MainWndCtrl::clickMenuRemove() {
+    clickBtnRemove();
+}
+
+void MainWndCtrl::clickMenuClear() {
+    clickBtnClear();
+}
+
+void MainWndCtrl::clickMenuResortByName() {
+    resort(SortOrder::Name);
+}
+
+void MainWndCtrl::clickMenuResortBySize() {
+    resort(SortOrder::Size);
+}
+
+void MainWndCtrl::clickMenuResortByDataCreated() {
+    resort(SortOrder::Created);
+}
+
+void MainWndCtrl::clickMenuResortByDataModified() {
+    resort(SortOrder::Modified);
+}
+
+void MainWndCtrl::resort(SortOrder order) {
+    if (!canEditList()) {
+        return;
+    }
+    m_filesArray->rearrange(arrangedOrder(m_filesArray->arrangedObjects(), order));
+    reindexFiles();
+}
+
+void MainWndCtrl::clickMenuMoveUp() {
+    if (canEditList() && canMoveUp()) {
+        exchangeWithRow(m_tableview->selectedRow() - 1);
+    }
+}
+
+void MainWndCtrl::clickMenuMoveDown() {
+    if (canEditList() && canMoveDown()) {
+        exchangeWithRow(m_tableview->selectedRow() + 1);
+    }
+}
+
+/// Puts the selected entry at the neighbouring `row`; the two exchange their numbers.
+void MainWndCtrl::exchangeWithRow(int row) {
+    const int selected = m_tableview->selectedRow();
+    const int step = row - selected;
+    m_filesArray->setIndex(selected, m_filesArray->at(selected).index() + step);
+    m_filesArray->setIndex(row, m_filesArray->at(row).index() - step);
+    m_filesArray->move(selected, row);
+    m_tableview->scrollTo(m_filesArray->index(row, FilesArray::NameColumn));
+}
+
+bool MainWndCtrl::acceptDrop(const QMimeData &data, int row) {
+    const std::optional<QStringList> dragged = draggedPaths(data);
+    if (!dragged) {
+        return true;
+    }
+    QStringList paths;
+    for (const QString &path : *dragged) {
+        if (isDroppable(path)) {
+            paths += path;
+        }
+    }
+    if (paths.isEmpty() || !canEditList()) {
+        return false;
+    }
+    addFiles(paths, row);
+    reindexFiles();
+    return true;
 }
 
 } // namespace folioforge
