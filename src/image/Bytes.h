@@ -1,0 +1,28 @@
+#pragma once
+
+#include "error/Error.h"
+
+#include <QByteArrayView>
+#include <QtEndian>
+
+#include <type_traits>
+
+namespace folioforge {
+
+/// The big-endian number of type T at byte `at`; throws Error when the bytes end before it.
+template<typename T> T bigEndianAt(QByteArrayView bytes, qsizetype at) {
+    if (at < 0 || at > bytes.size() - static_cast<qsizetype>(sizeof(T))) {
+        throw Error(QStringLiteral("The file ends too early"));
+    }
+    return qFromBigEndian<T>(bytes.data() + at);
+}
+
+/// The little-endian number of type T at byte `at`; throws Error when the bytes end before it.
+template<typename T> T littleEndianAt(QByteArrayView bytes, qsizetype at) {
+    if (at < 0 || at > bytes.size() - static_cast<qsizetype>(sizeof(T))) {
+        throw Error(QStringLiteral("The file ends too early"));
+    }
+    return qFromLittleEndian<T>(bytes.data() + at);
+}
+
+} // namespace folioforge

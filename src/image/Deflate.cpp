@@ -1,0 +1,87 @@
+#include "image/Deflate.h"
+
+#include "error/Error.h"
+
+#include <libdeflate.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace folioforge {
+
+namespace {
+
+/// Above this level the compressor takes twice the time for a few percent.
+constexpr int kLevel = 4;
+
+struct FreeCompressor {
+    void operator()(libdeflate_compressor *compressor) const {
+        libdeflate_free_compressor(compressor);
+    }
+};
+struct FreeDecompressor {
+    void operator()(libdeflate_decompressor *decompressor) const {
+        libdeflate_free_decompressor(decompressor);
+    }
+};
+using Compressor = std::unique_ptr<libdeflate_compressor, FreeCompressor>;
+using Decompressor = std::unique_ptr<libdeflate_decompressor, FreeDecompressor>;
+
+[[noreturn]] void throwNoMemory() {
+    throw Error(QStringLiteral("There is not enough memory for the image"));
+}
+
+libdeflate_result inflateInto(QByteArrayView bytes, QByteArray &target, size_t &written) {
+    const Decompressor decompressor(libdeflate_alloc_decompressor());
+    if (!decompressor) {
+        throwNoMemory();
+    }
+    return libdeflate_zlib_decompress(decompressor.get(), bytes.data(),
+                                      static_cast<size_t>(bytes.size()), target.data(),
+                                      static_cast<size_t>(target.size()), &written);
+}
+
+} // namespace
+
+QByteArray deflateBytes(QByteArrayView bytes) {
+    const Compressor compressor(libdeflate_alloc_compressor(kLevel));
+    if (!compressor) {
+        throwNoMemory();
+    }
+    const auto size = static_cast<size_t>(bytes.size());
+    QByteArray out(static_cast<qsizetype>(libdeflate_zlib_compress_bound(compressor.get(), size)),
+                   Qt::Uninitialized);
+    const size_t written = libdeflate_zlib_compress(compressor.get(), bytes.data(), size,
+                                                    out.data(), static_cast<size_t>(out.size()));
+    out.truncate(static_cast<qsizetype>(written));
+    out.squeeze();
+    return out;
+}
+
+QByteArray inflateBytes(QByteArrayView bytes, qsizetype size) {
+    QByteArray out(size, Qt::Uninitialized);
+    size_t written = 0;
+    const libdeflate_result result = inflateInto(bytes, out, written);
+    if (result != LIBDEFLATE_SUCCESS || written != static_cast<size_t>(size)) {
+        throw Error(QStringLiteral("The compressed data is damaged"));
+    }
+    return out;
+}
+
+QByteArray inflateUpTo(QByteArrayView bytes, qsizetype limit) {
+    for (qsizetype size = std::min<qsizetype>(std::max<qsizetype>(bytes.size() * 4, 4096), limit);;
+         size = std::min(size * 4, limit)) {
+        QByteArray out(size, Qt::Uninitialized);
+        size_t written = 0;
+        const libdeflate_result result = inflateInto(bytes, out, written);
+        if (result == LIBDEFLATE_SUCCESS) {
+            out.truncate(static_cast<qsizetype>(written));
+            return out;
+        }
+        if (result != LIBDEFLATE_INSUFFICIENT_SPACE || size == limit) {
+            throw Error(QStringLiteral("The compressed data is damaged"));
+        }
+    }
+}
+
+} // namespace folioforge

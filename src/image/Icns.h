@@ -1,0 +1,10 @@
+#pragma once
+
+#include "image/Decoder.h"
+
+namespace folioforge {
+
+/// The decoder of Apple icon files: the largest entry.
+Decoder icnsDecoder();
+
+} // namespace folioforge

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace folioforge {
+
+/// An image in the seven passes of Adam7 (ISO 15948, 8.2).
+struct InterlacedShape {
+    int width = 0;
+    int height = 0;
+    int pixelBits = 8; ///< Of all channels together.
+};
+
+/// Bytes of all passes, with the filter number before each row.
+qsizetype interlacedBytes(const InterlacedShape &shape);
+
+/// Undoes the filters of the passes and gives the rows of the whole image, each after the number 0
+/// (no filter). `filtered` has interlacedBytes() bytes. Throws Error on a damaged row.
+QByteArray straightenInterlaced(const QByteArray &filtered, const InterlacedShape &shape);
+
+} // namespace folioforge

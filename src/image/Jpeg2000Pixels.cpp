@@ -1,0 +1,232 @@
+#include "image/Jpeg2000Pixels.h"
+
+#include "error/Error.h"
+
+#include <QtEndian>
+
+#include <openjpeg.h>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+namespace folioforge {
+
+namespace {
+
+struct DestroyCodec {
+    void operator()(opj_codec_t *codec) const { opj_destroy_codec(codec); }
+};
+struct DestroyStream {
+    void operator()(opj_stream_t *stream) const { opj_stream_destroy(stream); }
+};
+struct DestroyImage {
+    void operator()(opj_image_t *image) const { opj_image_destroy(image); }
+};
+using Codec = std::unique_ptr<opj_codec_t, DestroyCodec>;
+using Stream = std::unique_ptr<opj_stream_t, DestroyStream>;
+using Image = std::unique_ptr<opj_image_t, DestroyImage>;
+
+struct Cursor {
+    FileView file;
+    qint64 at = 0;
+};
+
+constexpr OPJ_SIZE_T kEnd = static_cast<OPJ_SIZE_T>(-1);
+
+OPJ_SIZE_T readBytes(void *target, OPJ_SIZE_T size, void *data) {
+    auto &cursor = *static_cast<Cursor *>(data);
+    try {
+        const qint64 got = cursor.file.readInto(cursor.at, {static_cast<uchar *>(target), size});
+        cursor.at += got;
+        return got == 0 ? kEnd : static_cast<OPJ_SIZE_T>(got);
+    } catch (const Error &) {
+        return kEnd; // No exception may pass through the library.
+    }
+}
+
+OPJ_OFF_T skipBytes(OPJ_OFF_T size, void *data) {
+    static_cast<Cursor *>(data)->at += size;
+    return size;
+}
+
+OPJ_BOOL seekTo(OPJ_OFF_T at, void *data) {
+    static_cast<Cursor *>(data)->at = at;
+    return OPJ_TRUE;
+}
+
+void ignoreMessage(const char * /*message*/, void * /*data*/) {}
+
+Stream openStream(Cursor &cursor) {
+    Stream stream(opj_stream_default_create(OPJ_TRUE));
+    opj_stream_set_user_data(stream.get(), &cursor, nullptr);
+    opj_stream_set_user_data_length(stream.get(), static_cast<OPJ_UINT64>(cursor.file.size()));
+    opj_stream_set_read_function(stream.get(), readBytes);
+    opj_stream_set_skip_function(stream.get(), skipBytes);
+    opj_stream_set_seek_function(stream.get(), seekTo);
+    return stream;
+}
+
+Codec openCodec(const Jpeg2000Facts &facts) {
+    Codec codec(opj_create_decompress(facts.isCodestream ? OPJ_CODEC_J2K : OPJ_CODEC_JP2));
+    opj_set_info_handler(codec.get(), ignoreMessage, nullptr);
+    opj_set_warning_handler(codec.get(), ignoreMessage, nullptr);
+    opj_set_error_handler(codec.get(), ignoreMessage, nullptr);
+    opj_dparameters_t parameters;
+    opj_set_default_decoder_parameters(&parameters);
+    opj_setup_decoder(codec.get(), &parameters);
+    if (opj_has_thread_support() == OPJ_TRUE) {
+        opj_codec_set_threads(codec.get(), std::min(opj_get_num_cpus(), 8));
+    }
+    return codec;
+}
+
+Image decode(const FileView &file, const Jpeg2000Facts &facts) {
+    const Error damaged(QStringLiteral("The JPEG 2000 file is damaged"));
+    Cursor cursor{file};
+    const Stream stream = openStream(cursor);
+    const Codec codec = openCodec(facts);
+    opj_image_t *raw = nullptr;
+    const bool headerRead = opj_read_header(stream.get(), codec.get(), &raw) == OPJ_TRUE;
+    Image image(raw);
+    // The codestream may claim another size than the box that was checked.
+    if (!headerRead || image->x1 - image->x0 != static_cast<OPJ_UINT32>(facts.header.width) ||
+        image->y1 - image->y0 != static_cast<OPJ_UINT32>(facts.header.height)) {
+        throw damaged;
+    }
+    if (opj_decode(codec.get(), stream.get(), image.get()) != OPJ_TRUE) {
+        throw damaged;
+    }
+    for (OPJ_UINT32 c = 0; c < image->numcomps; ++c) {
+        if (image->comps[c].data == nullptr || image->comps[c].w == 0 || image->comps[c].h == 0) {
+            throw damaged;
+        }
+    }
+    return image;
+}
+
+/// A decoded component as samples of 8 or 16 bits.
+class Component {
+  public:
+    Component(const opj_image_comp_t &component, int bits, int width, int height)
+        : m_component(component)
+        , m_offset(component.sgnd != 0 ? 1LL << (component.prec - 1) : 0)
+        , m_most((1LL << component.prec) - 1)
+        , m_scale((1LL << bits) - 1)
+        , m_width(width)
+        , m_height(height) {}
+
+    /// The sample at a pixel of the whole image; a smaller component is stretched.
+    [[nodiscard]] int at(int x, int y) const {
+        const auto column = qint64(x) * m_component.w / m_width;
+        const auto row = qint64(y) * m_component.h / m_height;
+        const qint64 value = std::clamp<qint64>(
+            m_component.data[row * m_component.w + column] + m_offset, 0, m_most);
+        return static_cast<int>((value * m_scale + m_most / 2) / m_most);
+    }
+
+  private:
+    const opj_image_comp_t &m_component;
+    qint64 m_offset;
+    qint64 m_most;
+    qint64 m_scale;
+    int m_width;
+    int m_height;
+};
+
+void store(QByteArray &samples, qsizetype index, int value, int bits) {
+    auto *bytes = reinterpret_cast<uchar *>(samples.data());
+    if (bits == 16) {
+        qToBigEndian(static_cast<quint16>(value), bytes + 2 * index);
+    } else {
+        bytes[index] = static_cast<uchar>(value);
+    }
+}
+
+/// sYCC (IEC 61966-2-1, annex F) to RGB.
+void convertFromYcc(std::array<int, 4> &pixel, int most) {
+    const double y = pixel[0];
+    const double cb = pixel[1] - (most + 1) / 2;
+    const double cr = pixel[2] - (most + 1) / 2;
+    const auto cut = [most](double v) {
+        return std::clamp(static_cast<int>(std::lround(v)), 0, most);
+    };
+    pixel = {cut(y + 1.402 * cr), cut(y - 0.344136 * cb - 0.714136 * cr), cut(y + 1.772 * cb),
+             pixel[3]};
+}
+
+/// Which components are colour, in order, and how many of them a PDF shows.
+std::vector<int> colorComponents(const opj_image_t &image, const Jpeg2000Facts &facts) {
+    std::vector<int> colors;
+    for (int c = 0; c < static_cast<int>(image.numcomps); ++c) {
+        if (c != facts.alphaChannel) {
+            colors.push_back(c);
+        }
+    }
+    constexpr int kCmyk = 12;
+    const size_t most = facts.enumeratedColor == kCmyk ? 4 : 3;
+    colors.resize(colors.size() >= most ? most : 1);
+    return colors;
+}
+
+} // namespace
+
+Raster decodeJpeg2000(const FileView &file, const Jpeg2000Facts &facts) {
+    // The library holds four bytes for every sample: a short file must not cost gigabytes.
+    const qint64 pixels = qint64(facts.header.width) * facts.header.height;
+    requirePlausible(pixels * facts.components, file.size(), 4000);
+    const Image image = decode(file, facts);
+    const std::vector<int> colors = colorComponents(*image, facts);
+    OPJ_UINT32 precision = 0;
+    for (const int c : colors) {
+        precision = std::max(precision, image->comps[c].prec);
+    }
+    Raster raster;
+    raster.width = facts.header.width;
+    raster.height = facts.header.height;
+    raster.bits = precision > 8 ? 16 : 8;
+    raster.color = colors.size() == 1   ? ImageColor::Gray
+                   : colors.size() == 3 ? ImageColor::Rgb
+                                        : ImageColor::Cmyk;
+    raster.iccProfile = facts.iccProfile;
+    raster.samples = allocateRows(raster.height, raster.stride());
+    const bool hasAlpha =
+        facts.alphaChannel >= 0 && facts.alphaChannel < static_cast<int>(image->numcomps);
+    if (hasAlpha) {
+        raster.alpha = AlphaPlane{
+            raster.bits, allocateRows(raster.height, rowBytes(raster.width, 1, raster.bits))};
+    }
+    std::vector<Component> sources;
+    for (const int c : colors) {
+        sources.emplace_back(image->comps[c], raster.bits, raster.width, raster.height);
+    }
+    if (hasAlpha) {
+        sources.emplace_back(image->comps[facts.alphaChannel], raster.bits, raster.width,
+                             raster.height);
+    }
+    const auto count = static_cast<qsizetype>(colors.size());
+    qsizetype pixel = 0;
+    for (int y = 0; y < raster.height; ++y) {
+        for (int x = 0; x < raster.width; ++x, ++pixel) {
+            std::array<int, 4> values = {};
+            for (size_t c = 0; c < colors.size(); ++c) {
+                values[c] = sources[c].at(x, y);
+            }
+            if (facts.isYcc && count == 3) {
+                convertFromYcc(values, (1 << raster.bits) - 1);
+            }
+            for (qsizetype c = 0; c < count; ++c) {
+                store(raster.samples, pixel * count + c, values[size_t(c)], raster.bits);
+            }
+            if (hasAlpha) {
+                store(raster.alpha->samples, pixel, sources.back().at(x, y), raster.bits);
+            }
+        }
+    }
+    if (facts.isPremultiplied) {
+        unpremultiply(raster);
+    }
+    return raster;
+}
+
+} // namespace folioforge

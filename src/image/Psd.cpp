@@ -1,0 +1,214 @@
+#include "image/Psd.h"
+
+#include "image/Bytes.h"
+#include "image/LinearLight.h"
+#include "image/PsdFacts.h"
+#include "image/Raster.h"
+
+#include <bit>
+#include <cstring>
+
+namespace folioforge {
+
+namespace {
+
+/// Reads the rows of the merged image's planes one after the other.
+class PlaneReader {
+  public:
+    PlaneReader(const FileView &file, const PsdFacts &facts)
+        : m_file(file)
+        , m_facts(facts)
+        , m_rowBytes(rowBytes(facts.header.width, 1, facts.depth))
+        , m_at(facts.pixelsOffset) {
+        const auto compression = bigEndianAt<quint16>(file.readExactly(m_at, 2), 0);
+        m_at += 2;
+        if (compression > 1) {
+            throw Error(QStringLiteral("The Photoshop file's compression is unknown"));
+        }
+        const qint64 rows = qint64(facts.channels) * facts.header.height;
+        m_packed = compression == 1;
+        if (m_packed) {
+            const int width = facts.isBig ? 4 : 2;
+            m_counts = file.readExactly(m_at, rows * width);
+            m_at += m_counts.size();
+        }
+        // PackBits makes 128 bytes of two.
+        requirePlausible(rows * m_rowBytes, file.size() - m_at, m_packed ? 64 : 1);
+    }
+
+    QByteArray nextRow() {
+        if (!m_packed) {
+            const QByteArray row = m_file.readExactly(m_at, m_rowBytes);
+            m_at += m_rowBytes;
+            return row;
+        }
+        const qint64 length = m_facts.isBig ? qint64(bigEndianAt<quint32>(m_counts, 4 * m_row))
+                                            : qint64(bigEndianAt<quint16>(m_counts, 2 * m_row));
+        ++m_row;
+        const QByteArray packed = m_file.readExactly(m_at, length);
+        m_at += length;
+        return unpackBits(packed);
+    }
+
+  private:
+    [[nodiscard]] QByteArray unpackBits(QByteArrayView packed) const {
+        QByteArray row;
+        row.reserve(m_rowBytes);
+        for (qsizetype at = 0; at < packed.size() && row.size() < m_rowBytes;) {
+            const int count = static_cast<signed char>(packed[at++]);
+            if (count >= 0) {
+                const auto length = std::min<qsizetype>(count + 1, packed.size() - at);
+                row.append(packed.sliced(at, length));
+                at += length;
+            } else if (count != -128 && at < packed.size()) {
+                row.append(1 - count, packed[at++]);
+            }
+        }
+        row.resize(m_rowBytes, '\0');
+        return row;
+    }
+
+    const FileView &m_file;
+    const PsdFacts &m_facts;
+    qsizetype m_rowBytes;
+    qint64 m_at;
+    qint64 m_row = 0;
+    bool m_packed = false;
+    QByteArray m_counts;
+};
+
+/// Where one plane's samples go in interleaved rows.
+struct PlaneTarget {
+    QByteArray *samples;
+    int channel;
+    int channels;
+    bool isLight; ///< Linear light where the file has 32 bits, not a share such as opacity.
+};
+
+void placeRow(const QByteArray &row, int y, const PsdFacts &facts, const PlaneTarget &target) {
+    const int width = facts.header.width;
+    const int bytes = facts.sampleBits() / 8;
+    const qsizetype step = qsizetype(target.channels) * bytes;
+    auto *out = reinterpret_cast<uchar *>(target.samples->data()) + y * width * step +
+                target.channel * bytes;
+    const auto *in = reinterpret_cast<const uchar *>(row.constData());
+    for (int x = 0; x < width; ++x, out += step) {
+        if (facts.depth == 32) {
+            const auto value = std::bit_cast<float>(qFromBigEndian<quint32>(in + 4 * x));
+            qToBigEndian(target.isLight ? srgbFromLinear(value) : sampleFromShare(value), out);
+        } else {
+            std::memcpy(out, in + qsizetype(x) * bytes, static_cast<size_t>(bytes));
+        }
+    }
+}
+
+void readPlane(PlaneReader &reader, const PsdFacts &facts, const PlaneTarget &target) {
+    for (int y = 0; y < facts.header.height; ++y) {
+        placeRow(reader.nextRow(), y, facts, target);
+    }
+}
+
+/// Photoshop lays the merged image on white before it writes it; taking the white away again
+/// leaves the colour that the soft mask expects.
+template<typename Sample> void removeWhiteMatte(Raster &raster) {
+    constexpr int full = std::numeric_limits<Sample>::max();
+    const int channels = channelCount(raster.color);
+    auto *color = reinterpret_cast<uchar *>(raster.samples.data());
+    const auto *alpha = reinterpret_cast<const uchar *>(raster.alpha->samples.constData());
+    for (qint64 i = 0; i < qint64(raster.width) * raster.height; ++i) {
+        const qint64 opacity = qFromBigEndian<Sample>(alpha + i * qint64(sizeof(Sample)));
+        for (int c = 0; opacity > 0 && opacity < full && c < channels; ++c) {
+            uchar *sample = color + (i * channels + c) * qint64(sizeof(Sample));
+            const qint64 ink = full - qint64(qFromBigEndian<Sample>(sample));
+            const qint64 straight = std::max<qint64>(full - ink * full / opacity, 0);
+            qToBigEndian(static_cast<Sample>(straight), sample);
+        }
+    }
+}
+
+void readSamples(const FileView &file, const PsdFacts &facts, Raster &raster) {
+    PlaneReader reader(file, facts);
+    if (facts.depth == 1) {
+        for (int y = 0; y < raster.height; ++y) {
+            raster.samples.replace(y * raster.stride(), raster.stride(), reader.nextRow());
+        }
+        return;
+    }
+    const int channels = channelCount(raster.color);
+    for (int c = 0; c < channels; ++c) {
+        readPlane(reader, facts, {&raster.samples, c, channels, true});
+    }
+    if (facts.alpha != PsdAlpha::None) {
+        raster.alpha = AlphaPlane{
+            raster.bits, allocateRows(raster.height, rowBytes(raster.width, 1, raster.bits))};
+        readPlane(reader, facts, {&raster.alpha->samples, 0, 1, false});
+    }
+}
+
+/// Palettes hold all reds, then all greens, then all blues.
+QByteArray interleavedPalette(const QByteArray &planes) {
+    constexpr int kColors = 256;
+    if (planes.size() < 3 * kColors) {
+        throw Error(QStringLiteral("The Photoshop file has no palette"));
+    }
+    QByteArray palette;
+    for (int i = 0; i < kColors; ++i) {
+        for (int plane = 0; plane < 3; ++plane) {
+            palette.append(planes.at(plane * kColors + i));
+        }
+    }
+    return palette;
+}
+
+void applyTransparentIndex(const PsdFacts &facts, Raster &raster) {
+    if (facts.transparentIndex < 0) {
+        return;
+    }
+    raster.alpha = AlphaPlane{8, raster.samples};
+    for (char &value : raster.alpha->samples) {
+        value = static_cast<uchar>(value) == facts.transparentIndex ? '\0' : '\xFF';
+    }
+}
+
+bool recognises(QByteArrayView head) {
+    return head.startsWith(QByteArrayView("8BPS\0", 5));
+}
+
+ImageHeader readHeader(const FileView &file) {
+    return readPsdFacts(file).header;
+}
+
+EncodedImage encode(const FileView &file) {
+    const PsdFacts facts = readPsdFacts(file);
+    Raster raster;
+    raster.width = facts.header.width;
+    raster.height = facts.header.height;
+    raster.bits = facts.sampleBits();
+    raster.color = facts.color;
+    if (facts.depth != 32) {
+        raster.iccProfile = facts.iccProfile; // Linear light becomes sRGB above.
+    }
+    if (facts.color == ImageColor::Cmyk) {
+        raster.decode = {1, 0, 1, 0, 1, 0, 1, 0}; // Full ink is stored as 0.
+    } else if (facts.depth == 1) {
+        raster.decode = {1, 0}; // 1 is black.
+    } else if (facts.color == ImageColor::Indexed) {
+        raster.palette = interleavedPalette(facts.colorModeData);
+    }
+    raster.samples = allocateRows(raster.height, raster.stride());
+    readSamples(file, facts, raster);
+    if (facts.alpha == PsdAlpha::OnWhite && facts.color != ImageColor::Cmyk &&
+        facts.color != ImageColor::Lab) {
+        raster.bits == 16 ? removeWhiteMatte<quint16>(raster) : removeWhiteMatte<uchar>(raster);
+    }
+    applyTransparentIndex(facts, raster);
+    return encodeRaster(std::move(raster));
+}
+
+} // namespace
+
+Decoder psdDecoder() {
+    return {ImageFormat::Psd, {QLatin1StringView("psd")}, recognises, readHeader, encode};
+}
+
+} // namespace folioforge

@@ -1,0 +1,317 @@
+#include "image/QtImage.h"
+
+#include "image/Bytes.h"
+
+#include <QBuffer>
+#include <QHash>
+#include <QImageReader>
+
+#include <algorithm>
+#include <array>
+
+namespace folioforge {
+
+namespace {
+
+constexpr double kMetresPerInch = 0.0254;
+
+/// Qt refuses images over 128 MB unless told: the bound on pixels is this project's, four bytes
+/// for each.
+void setAllocationLimit() {
+    constexpr qint64 kMegabyte = 1 << 20;
+    QImageReader::setAllocationLimit(static_cast<int>(kMaxImagePixels * 4 / kMegabyte) + 1);
+}
+
+bool isBitmap(QByteArrayView head) {
+    // Two letters are a weak signature: the sizes of the known headers make it plain.
+    constexpr std::array<quint32, 8> kHeaderSizes = {12, 16, 40, 52, 56, 64, 108, 124};
+    return head.size() >= 26 && head.startsWith("BM") &&
+           std::ranges::find(kHeaderSizes, littleEndianAt<quint32>(head, 14)) != kHeaderSizes.end();
+}
+
+ImageHeader readBitmapHeader(const FileView &file) {
+    constexpr quint32 kOldHeader = 12;
+    const QByteArray head = file.read(0, 54);
+    ImageHeader header;
+    if (!head.startsWith("BM")) {
+        throw Error(QStringLiteral("The file is no bitmap"));
+    }
+    if (littleEndianAt<quint32>(head, 14) == kOldHeader) {
+        header.width = littleEndianAt<quint16>(head, 18);
+        header.height = littleEndianAt<quint16>(head, 20);
+        return header;
+    }
+    header.width = littleEndianAt<qint32>(head, 18);
+    // A negative height means rows from the top.
+    header.height = static_cast<int>(
+        std::min<qint64>(std::abs(qint64(littleEndianAt<qint32>(head, 22))), 0x7FFFFFFF));
+    header.horizontalDpi = littleEndianAt<qint32>(head, 38) * kMetresPerInch;
+    header.verticalDpi = littleEndianAt<qint32>(head, 42) * kMetresPerInch;
+    return header;
+}
+
+bool isGif(QByteArrayView head) {
+    return head.startsWith("GIF87a") || head.startsWith("GIF89a");
+}
+
+ImageHeader readGifHeader(const FileView &file) {
+    const QByteArray head = file.readExactly(0, 10);
+    ImageHeader header;
+    header.width = littleEndianAt<quint16>(head, 6);
+    header.height = littleEndianAt<quint16>(head, 8);
+    return header;
+}
+
+bool isIcon(QByteArrayView head) {
+    // Cursors begin with 0 0 2 0, but so do TGA files, which are no less plain about it.
+    return head.startsWith(QByteArrayView("\0\0\1\0", 4));
+}
+
+struct IconFrame {
+    int index = 0;
+    int width = 0;
+    int height = 0;
+};
+
+/// The size of a frame: its entry's, or that of the PNG file inside, which may be larger than an
+/// entry can say.
+IconFrame frameAt(const FileView &file, int index) {
+    constexpr qint64 kDirectory = 6;
+    constexpr qint64 kEntryBytes = 16;
+    const QByteArray entry = file.readExactly(kDirectory + index * kEntryBytes, kEntryBytes);
+    const auto side = [&](int at) {
+        const int stated = bigEndianAt<uchar>(entry, at);
+        return stated == 0 ? 256 : stated;
+    };
+    const QByteArray frame = file.read(littleEndianAt<quint32>(entry, 12), 24);
+    if (frame.size() == 24 && frame.startsWith("\x89PNG")) {
+        return {index, bigEndianAt<qint32>(frame, 16), bigEndianAt<qint32>(frame, 20)};
+    }
+    return {index, side(0), side(1)};
+}
+
+IconFrame largestFrame(const FileView &file) {
+    const int count = littleEndianAt<quint16>(file.readExactly(0, 6), 4);
+    IconFrame largest;
+    int mostBits = -1;
+    for (int i = 0; i < count; ++i) {
+        const IconFrame frame = frameAt(file, i);
+        const int bits = littleEndianAt<quint16>(file.readExactly(6 + i * 16, 16), 6);
+        const qint64 area = qint64(frame.width) * frame.height;
+        const qint64 best = qint64(largest.width) * largest.height;
+        if (area > best || (area == best && bits > mostBits)) {
+            largest = frame;
+            mostBits = bits;
+        }
+    }
+    return largest;
+}
+
+ImageHeader readIconHeader(const FileView &file) {
+    const IconFrame frame = largestFrame(file);
+    ImageHeader header;
+    header.width = frame.width;
+    header.height = frame.height;
+    return header;
+}
+
+EncodedImage encodeBitmap(const FileView &file) {
+    return encodeRaster(rasterOf(readWithQt(file, "bmp", 0)));
+}
+
+EncodedImage encodeGif(const FileView &file) {
+    return encodeRaster(rasterOf(readWithQt(file, "gif", 0)));
+}
+
+EncodedImage encodeIcon(const FileView &file) {
+    return encodeRaster(rasterOf(readWithQt(file, "ico", largestFrame(file).index)));
+}
+
+/// Rows of a QImage are padded to four bytes; a PDF's are not.
+QByteArray packedRows(const QImage &image, qsizetype stride) {
+    QByteArray rows(image.height() * stride, Qt::Uninitialized);
+    for (int y = 0; y < image.height(); ++y) {
+        std::copy_n(image.constScanLine(y), stride, rows.data() + y * stride);
+    }
+    return rows;
+}
+
+bool isOpaque(const QList<QRgb> &colors) {
+    return std::ranges::all_of(colors, [](QRgb color) { return qAlpha(color) == 0xFF; });
+}
+
+bool isGray(const QList<QRgb> &colors) {
+    return std::ranges::all_of(colors, [](QRgb color) {
+        return qRed(color) == qGreen(color) && qGreen(color) == qBlue(color);
+    });
+}
+
+AlphaPlane paletteAlpha(const QByteArray &indexes, const QList<QRgb> &colors) {
+    AlphaPlane plane{8, indexes};
+    for (char &value : plane.samples) {
+        const auto index = static_cast<uchar>(value);
+        value = static_cast<char>(index < colors.size() ? qAlpha(colors.at(index)) : 0xFF);
+    }
+    return plane;
+}
+
+void takeIndexed(const QImage &image, Raster &raster) {
+    const QList<QRgb> colors = image.colorTable();
+    raster.samples = packedRows(image, image.width());
+    if (!isOpaque(colors)) {
+        raster.alpha = paletteAlpha(raster.samples, colors);
+    }
+    if (isGray(colors)) {
+        raster.color = ImageColor::Gray;
+        for (char &value : raster.samples) {
+            const auto index = static_cast<uchar>(value);
+            value = static_cast<char>(index < colors.size() ? qRed(colors.at(index)) : 0);
+        }
+        return;
+    }
+    raster.color = ImageColor::Indexed;
+    for (const QRgb color : colors) {
+        raster.palette.append(static_cast<char>(qRed(color)));
+        raster.palette.append(static_cast<char>(qGreen(color)));
+        raster.palette.append(static_cast<char>(qBlue(color)));
+    }
+}
+
+/// One bit where it is black and white; false where the two colours are others.
+bool takeBilevel(const QImage &image, Raster &raster) {
+    const QImage mono = image.convertToFormat(QImage::Format_Mono);
+    const QList<QRgb> colors = mono.colorTable();
+    constexpr QRgb kBlack = qRgb(0, 0, 0);
+    constexpr QRgb kWhite = qRgb(255, 255, 255);
+    const bool blackFirst = colors == QList<QRgb>{kBlack, kWhite};
+    if (!blackFirst && colors != QList<QRgb>{kWhite, kBlack}) {
+        return false;
+    }
+    raster.bits = 1;
+    raster.color = ImageColor::Gray;
+    raster.samples = packedRows(mono, rowBytes(mono.width(), 1, 1));
+    if (!blackFirst) {
+        raster.decode = {1, 0};
+    }
+    return true;
+}
+
+void takeGray(const QImage &image, Raster &raster) {
+    const bool deep = image.format() == QImage::Format_Grayscale16;
+    raster.color = ImageColor::Gray;
+    raster.bits = deep ? 16 : 8;
+    raster.samples = packedRows(image, raster.stride());
+    if (deep) {
+        auto *samples = reinterpret_cast<quint16 *>(raster.samples.data());
+        qToBigEndian<quint16>(samples, raster.samples.size() / 2, samples);
+    }
+}
+
+/// The image with a palette where it has no more than 256 colours: Qt reads some files that have
+/// one (GIF, icons) into full colour. Null where there are more.
+QImage withPalette(const QImage &image) {
+    const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
+    QImage indexed(argb.size(), QImage::Format_Indexed8);
+    QHash<QRgb, uchar> numbers;
+    QList<QRgb> colors;
+    for (int y = 0; y < argb.height(); ++y) {
+        const auto *source = reinterpret_cast<const QRgb *>(argb.constScanLine(y));
+        uchar *target = indexed.scanLine(y);
+        for (int x = 0; x < argb.width(); ++x) {
+            if (x > 0 && source[x] == source[x - 1]) {
+                target[x] = target[x - 1];
+                continue;
+            }
+            auto number = numbers.constFind(source[x]);
+            if (number == numbers.constEnd()) {
+                if (colors.size() == 256) {
+                    return {};
+                }
+                number = numbers.insert(source[x], static_cast<uchar>(colors.size()));
+                colors.append(source[x]);
+            }
+            target[x] = *number;
+        }
+    }
+    indexed.setColorTable(colors);
+    return indexed;
+}
+
+void takeColor(const QImage &image, Raster &raster) {
+    if (const QImage indexed = withPalette(image); !indexed.isNull()) {
+        takeIndexed(indexed, raster);
+        return;
+    }
+    raster.color = ImageColor::Rgb;
+    if (!image.hasAlphaChannel()) {
+        raster.samples = packedRows(image.convertToFormat(QImage::Format_RGB888), raster.stride());
+        return;
+    }
+    const QImage rgba = image.convertToFormat(QImage::Format_RGBA8888);
+    raster.samples = allocateRows(raster.height, raster.stride());
+    raster.alpha = AlphaPlane{8, allocateRows(raster.height, raster.width)};
+    char *color = raster.samples.data();
+    char *alpha = raster.alpha->samples.data();
+    for (int y = 0; y < rgba.height(); ++y) {
+        const uchar *source = rgba.constScanLine(y);
+        for (int x = 0; x < rgba.width(); ++x, source += 4) {
+            color = std::copy_n(source, 3, color);
+            *alpha++ = static_cast<char>(source[3]);
+        }
+    }
+}
+
+} // namespace
+
+QImage readWithQt(const FileView &file, const char *format, int index) {
+    setAllocationLimit();
+    QByteArray bytes = file.readExactly(0, file.size());
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, format);
+    reader.setAutoTransform(false);
+    if (index > 0 && !reader.jumpToImage(index)) {
+        throw Error(QStringLiteral("The image cannot be read: %1").arg(reader.errorString()));
+    }
+    QImage image = reader.read();
+    if (image.isNull()) {
+        throw Error(QStringLiteral("The image cannot be read: %1").arg(reader.errorString()));
+    }
+    return image;
+}
+
+Raster rasterOf(const QImage &image) {
+    Raster raster;
+    raster.width = image.width();
+    raster.height = image.height();
+    const bool mono =
+        image.format() == QImage::Format_Mono || image.format() == QImage::Format_MonoLSB;
+    if (mono && takeBilevel(image, raster)) {
+        return raster;
+    }
+    if (mono) {
+        takeIndexed(image.convertToFormat(QImage::Format_Indexed8), raster);
+    } else if (image.format() == QImage::Format_Indexed8) {
+        takeIndexed(image, raster);
+    } else if (image.format() == QImage::Format_Grayscale8 ||
+               image.format() == QImage::Format_Grayscale16) {
+        takeGray(image, raster);
+    } else {
+        takeColor(image, raster);
+    }
+    return raster;
+}
+
+Decoder bmpDecoder() {
+    return {ImageFormat::Bmp, {QLatin1StringView("bmp")}, isBitmap, readBitmapHeader, encodeBitmap};
+}
+
+Decoder gifDecoder() {
+    return {ImageFormat::Gif, {QLatin1StringView("gif")}, isGif, readGifHeader, encodeGif};
+}
+
+Decoder icoDecoder() {
+    return {ImageFormat::Ico, {QLatin1StringView("ico")}, isIcon, readIconHeader, encodeIcon};
+}
+
+} // namespace folioforge

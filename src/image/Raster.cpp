@@ -1,0 +1,184 @@
+#include "image/Raster.h"
+
+#include "error/Error.h"
+#include "image/CcittFax.h"
+#include "image/Deflate.h"
+#include "image/IccProfile.h"
+#include "image/RowFilter.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <future>
+#include <new>
+
+namespace folioforge {
+
+namespace {
+
+/// Unfiltered samples below eight bits, and palette numbers, compress better as they are: their
+/// neighbours are no guess at their value.
+bool gainsFromFilters(const Raster &raster) {
+    return raster.bits >= 8 && raster.color != ImageColor::Indexed;
+}
+
+void compressSamples(const Raster &raster, EncodedImage &image) {
+    if (gainsFromFilters(raster)) {
+        const int pixelBytes = channelCount(raster.color) * raster.bits / 8;
+        image.predictor = 15;
+        image.data = deflateBytes(filterRows(raster.samples, raster.stride(), pixelBytes));
+        return;
+    }
+    image.data = deflateBytes(raster.samples);
+    if (raster.bits == 1) {
+        QByteArray fax = encodeGroup4(raster.samples, raster.width, raster.height);
+        if (!fax.isEmpty() && fax.size() < image.data.size()) {
+            image.data = std::move(fax);
+            image.filter = ImageFilter::CcittFax;
+            image.ccittK = -1;
+            image.ccittBlackIs1 = true;
+        }
+    }
+}
+
+template<typename Sample> bool isEither(const QByteArray &samples, bool transparentToo) {
+    constexpr auto full = std::numeric_limits<Sample>::max();
+    const auto *values = reinterpret_cast<const Sample *>(samples.constData());
+    return std::all_of(
+        values, values + samples.size() / qsizetype(sizeof(Sample)),
+        [&](Sample value) { return value == full || (transparentToo && value == 0); });
+}
+
+bool isEither(const AlphaPlane &alpha, bool transparentToo) {
+    return alpha.bits == 16 ? isEither<quint16>(alpha.samples, transparentToo)
+                            : isEither<uchar>(alpha.samples, transparentToo);
+}
+
+/// Opacity that is all or nothing, one bit a pixel.
+QByteArray packedAlpha(const AlphaPlane &alpha, int width, int height) {
+    const qsizetype stride = rowBytes(width, 1, 1);
+    QByteArray packed = allocateRows(height, stride);
+    const int step = alpha.bits / 8;
+    const char *source = alpha.samples.constData();
+    for (int y = 0; y < height; ++y) {
+        auto *row = reinterpret_cast<uchar *>(packed.data()) + y * stride;
+        for (int x = 0; x < width; ++x, source += step) {
+            if (*source != 0) {
+                row[x / 8] |= static_cast<uchar>(0x80U >> (x % 8));
+            }
+        }
+    }
+    return packed;
+}
+
+template<typename Sample> void divideByAlpha(Raster &raster) {
+    constexpr quint32 full = std::numeric_limits<Sample>::max();
+    const int channels = channelCount(raster.color);
+    auto *color = reinterpret_cast<uchar *>(raster.samples.data());
+    const auto *alpha = reinterpret_cast<const uchar *>(raster.alpha->samples.constData());
+    const qint64 pixels = qint64(raster.width) * raster.height;
+    for (qint64 i = 0; i < pixels; ++i) {
+        const quint32 opacity = qFromBigEndian<Sample>(alpha + i * qint64(sizeof(Sample)));
+        if (opacity == 0 || opacity == full) {
+            continue;
+        }
+        uchar *pixel = color + i * channels * qint64(sizeof(Sample));
+        for (int c = 0; c < channels; ++c) {
+            uchar *sample = pixel + c * qint64(sizeof(Sample));
+            const quint32 value = qFromBigEndian<Sample>(sample);
+            const quint32 straight = std::min((value * full + opacity / 2) / opacity, full);
+            qToBigEndian<Sample>(static_cast<Sample>(straight), sample);
+        }
+    }
+}
+
+} // namespace
+
+int channelCount(ImageColor color) {
+    switch (color) {
+    case ImageColor::Gray:
+    case ImageColor::Indexed:
+        return 1;
+    case ImageColor::Cmyk:
+        return 4;
+    default:
+        return 3;
+    }
+}
+
+qsizetype rowBytes(int width, int channels, int bits) {
+    return (qsizetype(width) * channels * bits + 7) / 8;
+}
+
+qsizetype Raster::stride() const {
+    return rowBytes(width, channelCount(color), bits);
+}
+
+QByteArray allocateRows(int height, qsizetype stride) {
+    try {
+        return QByteArray(height * stride, '\0');
+    } catch (const std::bad_alloc &) {
+        throw Error(QStringLiteral("There is not enough memory for the image"));
+    }
+}
+
+void requirePlausible(qint64 raw, qint64 compressed, qint64 ratio) {
+    // Small images may be all header: the ratio counts only where memory is at stake.
+    constexpr qint64 kNoMatter = 1 << 20;
+    if (raw > kNoMatter && compressed < raw / ratio) {
+        throw Error(QStringLiteral("The file is too short for the image its header describes"));
+    }
+}
+
+void unpremultiply(Raster &raster) {
+    if (!raster.alpha || raster.alpha->bits != raster.bits) {
+        return;
+    }
+    if (raster.bits == 16) {
+        divideByAlpha<quint16>(raster);
+    } else if (raster.bits == 8) {
+        divideByAlpha<uchar>(raster);
+    }
+}
+
+std::unique_ptr<EncodedImage> encodeAlpha(const AlphaPlane &alpha, int width, int height) {
+    if (isEither(alpha, false)) {
+        return nullptr;
+    }
+    Raster plane;
+    plane.width = width;
+    plane.height = height;
+    plane.color = ImageColor::Gray;
+    if (isEither(alpha, true)) {
+        plane.bits = 1;
+        plane.samples = packedAlpha(alpha, width, height);
+    } else {
+        plane.bits = alpha.bits;
+        plane.samples = alpha.samples;
+    }
+    return std::make_unique<EncodedImage>(encodeRaster(std::move(plane)));
+}
+
+EncodedImage encodeRaster(Raster raster) {
+    std::future<std::unique_ptr<EncodedImage>> mask;
+    if (raster.alpha) {
+        mask = std::async(std::launch::async, [&raster] {
+            return encodeAlpha(*raster.alpha, raster.width, raster.height);
+        });
+    }
+    EncodedImage image;
+    image.width = raster.width;
+    image.height = raster.height;
+    image.bitsPerComponent = raster.bits;
+    image.color = raster.color;
+    image.iccProfile = fittingProfile(raster.iccProfile, raster.color);
+    image.palette = raster.palette;
+    image.decode = raster.decode;
+    compressSamples(raster, image);
+    if (mask.valid()) {
+        image.softMask = mask.get();
+    }
+    return image;
+}
+
+} // namespace folioforge

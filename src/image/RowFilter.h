@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace folioforge {
+
+/// Rows with the PNG filter that suits each best (ISO 15948, 9.2), its number before each row: the
+/// input of the compressor for a PDF's Predictor 15. `pixelBytes` is the distance in bytes to the
+/// sample on the left.
+QByteArray filterRows(const QByteArray &rows, qsizetype stride, int pixelBytes);
+
+/// The opposite, in place: undoes the filters of `height` rows of 1 + `stride` bytes and returns
+/// the rows without the filter numbers. Throws Error on a filter number that does not exist.
+QByteArray unfilterRows(QByteArray filtered, int height, qsizetype stride, int pixelBytes);
+
+} // namespace folioforge

@@ -1,0 +1,53 @@
+#include "image/Sniffer.h"
+
+#include "error/Error.h"
+#include "image/Exr.h"
+#include "image/Icns.h"
+#include "image/Jpeg.h"
+#include "image/Jpeg2000.h"
+#include "image/Png.h"
+#include "image/Psd.h"
+#include "image/QtImage.h"
+#include "image/Tga.h"
+#include "image/Tiff.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace folioforge {
+
+namespace {
+
+const std::vector<Decoder> &decoders() {
+    static const std::vector<Decoder> table = {
+        jpegDecoder(), pngDecoder(), tiffDecoder(), jpeg2000Decoder(), bmpDecoder(), gifDecoder(),
+        psdDecoder(),  exrDecoder(), icnsDecoder(), icoDecoder(),      tgaDecoder(),
+    };
+    return table;
+}
+
+} // namespace
+
+const Decoder &decoderFor(const FileView &file) {
+    const QByteArray head = file.read(0, kSniffedBytes);
+    if (head.isEmpty()) {
+        throw Error(QStringLiteral("The file is empty"));
+    }
+    const auto &table = decoders();
+    auto found = std::ranges::find_if(table, [&](const Decoder &decoder) {
+        return decoder.recognises != nullptr && decoder.recognises(head);
+    });
+    if (found == table.end()) {
+        const QString extension = QFileInfo(file.path()).suffix().toLower();
+        found = std::ranges::find_if(table, [&](const Decoder &decoder) {
+            return std::ranges::find(decoder.extensions, extension) != decoder.extensions.end();
+        });
+    }
+    if (found == table.end()) {
+        throw Error(QStringLiteral("The file is no image of a known format"));
+    }
+    return *found;
+}
+
+} // namespace folioforge

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <span>
+
+namespace folioforge {
+
+class FileView;
+
+/// A regular file open for reading, never for writing. Pipes, devices and folders are refused
+/// before they are opened, because opening or reading one may wait for ever.
+class SourceFile {
+  public:
+    /// Opens the file at `path`; throws Error when it is no regular file or cannot be opened.
+    static SourceFile open(const QString &path);
+
+    SourceFile(SourceFile &&other) noexcept;
+    SourceFile &operator=(SourceFile &&) = delete;
+    SourceFile(const SourceFile &) = delete;
+    SourceFile &operator=(const SourceFile &) = delete;
+    ~SourceFile();
+
+    /// The path that was opened.
+    [[nodiscard]] const QString &path() const { return m_path; }
+    /// Bytes in the file when it was opened.
+    [[nodiscard]] qint64 size() const { return m_size; }
+    /// Fills `target` from byte `at` on; returns the bytes read, fewer at the end of the file.
+    /// Throws Error when the system cannot read. Safe to call from several threads at once.
+    [[nodiscard]] qint64 readInto(qint64 at, std::span<uchar> target) const;
+    /// The whole file as a view.
+    [[nodiscard]] FileView view() const;
+
+  private:
+    SourceFile(QString path, int descriptor, qint64 size);
+
+    QString m_path;
+    int m_descriptor;
+    qint64 m_size;
+};
+
+/// A run of bytes of a source file, read piece by piece as a decoder asks for it. A decoder sees
+/// only a view, so an image inside a container (an entry of an icon file) is read as a file is.
+class FileView {
+  public:
+    FileView(const SourceFile &file, qint64 offset, qint64 size);
+
+    [[nodiscard]] const QString &path() const { return m_file->path(); }
+    /// Bytes from the start of the file to the start of this view.
+    [[nodiscard]] qint64 offset() const { return m_offset; }
+    /// Bytes in this view.
+    [[nodiscard]] qint64 size() const { return m_size; }
+    /// Up to `length` bytes from byte `at` of the view on; fewer at its end.
+    [[nodiscard]] QByteArray read(qint64 at, qint64 length) const;
+    /// Exactly `length` bytes from byte `at` of the view on; throws Error when the view ends first.
+    [[nodiscard]] QByteArray readExactly(qint64 at, qint64 length) const;
+    /// Fills `target` from byte `at` of the view on; returns the bytes read, fewer at its end.
+    [[nodiscard]] qint64 readInto(qint64 at, std::span<uchar> target) const;
+    /// The `length` bytes from byte `at` on as a view; throws Error when they are not all there.
+    [[nodiscard]] FileView part(qint64 at, qint64 length) const;
+
+  private:
+    const SourceFile *m_file;
+    qint64 m_offset;
+    qint64 m_size;
+};
+
+} // namespace folioforge

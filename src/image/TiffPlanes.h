@@ -1,0 +1,18 @@
+#pragma once
+
+#include "image/TiffPixels.h"
+
+namespace folioforge {
+
+/// The decompressed rows of one plane, of all samples where they are interleaved. 16-bit samples
+/// and wider are in the machine's byte order, as libtiff gives them.
+struct TiffPlane {
+    QByteArray rows;
+    qsizetype stride = 0;
+};
+
+/// Decompresses all planes, strips on several threads. Throws Error, before it allocates anything
+/// where the file is too short for its pixels.
+std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape);
+
+} // namespace folioforge
