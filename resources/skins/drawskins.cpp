@@ -138,7 +138,7 @@ std::span<const Look> looksOf(Ground ground) {
 
 QPainterPath outlineOf(const Skin &skin) {
     const bool primary = skin.ground == Ground::Primary;
-    QFont font(u"Liberation Sans"_s);
+    QFont font(u"Noto Sans"_s);
     font.setPixelSize(primary ? 17 : 13);
     font.setWeight(primary ? QFont::DemiBold : QFont::Normal);
     font.setHintingPreference(QFont::PreferNoHinting);

@@ -1,0 +1,96 @@
+# Times candidates side by side; sourced by bench/run.
+#
+# A comparison is a title, candidates (a name and a shell command that writes "$out" or into the
+# folder "$dir"), a run and the limits that hold between them. Candidates take turns, so that
+# whatever else the machine does meets all of them alike; the fastest of each candidate's rounds
+# counts, and the highest of its peak memory.
+
+ROUNDS=${ROUNDS:-3}
+
+describe_machine() {
+    echo "$(nproc) × $(sed -n 's/^model name[^:]*: //p' /proc/cpuinfo | head -n 1)," \
+        "$(awk '/^MemTotal/ { printf "%.0f GB", $2 / 1e6 }' /proc/meminfo) memory," \
+        "Linux $(uname -r), $(date -u +%Y-%m-%d). Fastest of $ROUNDS rounds."
+}
+
+begin() { # TITLE
+    printf '\n## %s\n\n' "$1"
+    rm -rf "$scratch/candidates" "$scratch/results"
+    mkdir -p "$scratch/candidates"
+    count=0
+}
+
+candidate() { # NAME COMMAND
+    count=$((count + 1))
+    file=$scratch/candidates/$(printf %02d $count)
+    printf '%s\n' "$2" >"$file.sh"
+    printf '%s\n' "$1" >"$file.name"
+}
+
+seconds_of_day() { date +%s.%N; }
+
+# Runs one candidate once and notes: name, wall and processor seconds, peak memory in KB, output
+# bytes.
+run_once() { # SCRIPT NAME
+    out=$scratch/out.pdf
+    dir=$scratch/out
+    export out dir
+    rm -rf "$out" "$dir"
+    mkdir "$dir"
+    sync
+    start=$(seconds_of_day)
+    /usr/bin/time -q -o "$scratch/time" -f '%U %S %M' sh -eu "$1" >"$scratch/log" 2>&1 || {
+        echo "bench: \"$2\" failed:" >&2
+        cat "$scratch/log" >&2
+        return 0
+    }
+    end=$(seconds_of_day)
+    bytes=$(du -scb "$out" "$dir" 2>/dev/null | tail -n 1 | cut -f 1)
+    awk -v name="$2" -v wall="$(echo "$end $start" | awk '{ print $1 - $2 }')" -v bytes="$bytes" \
+        '{ printf "%s\t%.4f\t%.4f\t%d\t%d\n", name, wall, $1 + $2, $3, bytes }' \
+        "$scratch/time" >>"$scratch/results"
+}
+
+# Runs the candidates and prints their table, each beside "folioforge".
+run_all() {
+    round=0
+    while [ $round -lt "$ROUNDS" ]; do
+        for script in "$scratch"/candidates/*.sh; do
+            run_once "$script" "$(cat "${script%.sh}.name")"
+        done
+        round=$((round + 1))
+    done
+    echo "| | wall s | processor s | peak MB | output MB | wall beside ours |"
+    echo "|---|--:|--:|--:|--:|--:|"
+    for script in "$scratch"/candidates/*.sh; do
+        name=$(cat "${script%.sh}.name")
+        [ -n "$(best wall "$name")" ] || continue
+        printf '| %s | %.2f | %.2f | %.0f | %.1f | %.2f × |\n' "$name" \
+            "$(best wall "$name")" "$(best cpu "$name")" \
+            "$(awk -v x="$(best memory "$name")" 'BEGIN { print x / 1e3 }')" \
+            "$(awk -v x="$(best size "$name")" 'BEGIN { print x / 1e6 }')" \
+            "$(ratio "$(best wall "$name")" "$(best wall folioforge)")"
+    done
+    echo
+}
+
+best() { # wall|cpu|memory|size NAME
+    awk -F '\t' -v what="$1" -v name="$2" '
+        BEGIN { column["wall"] = 2; column["cpu"] = 3; column["memory"] = 4; column["size"] = 5 }
+        $1 == name {
+            x = $column[what]
+            if (!n++ || (what == "memory" ? x > found : x < found)) found = x
+        }
+        END { if (n) print found }' "$scratch/results"
+}
+
+ratio() { awk -v a="$1" -v b="${2:-0}" 'BEGIN { print b > 0 ? a / b : 0 }'; }
+
+# Prints whether VALUE stands to LIMIT as TEXT says; TEXT names value and limit itself.
+limit() { # TEXT VALUE at-most|at-least LIMIT UNIT
+    awk -v text="$1" -v value="$2" -v how="$3" -v bound="$4" -v unit="${5:-}" 'BEGIN {
+        if (value == "") { printf "- %s: not measured\n", text; exit }
+        met = how == "at-most" ? value + 0 <= bound + 0 : value + 0 >= bound + 0
+        printf "- %s: %.2f%s, %s\n", text, value, unit, met ? "met" : "**missed**"
+    }'
+}

@@ -1,0 +1,48 @@
+# 200 photos in one PDF, plain, flushed and encrypted; 40 photos, a PDF each.
+make_set photos photos
+export photos="$inputs/photos"
+
+# mutool takes a description of each page.
+mkdir -p "$scratch/pages"
+for photo in "$photos"/*.jpg; do
+    printf '%%%%MediaBox 0 0 960 720\n%%%%Image I %s\nq 960 0 0 720 0 0 cm /I Do Q\n' "$photo" \
+        >"$scratch/pages/$(basename "$photo" .jpg).txt"
+done
+
+begin "200 photos of 12 megapixels in one PDF"
+candidate "cat" 'cat "$photos"/*.jpg >"$out"'
+candidate "cat, sync" 'cat "$photos"/*.jpg >"$out"; sync "$out"'
+candidate "folioforge" '"$cli" --quiet --flush never --merge "$out" "$photos"/*.jpg'
+candidate "folioforge, flushed" '"$cli" --quiet --merge "$out" "$photos"/*.jpg'
+candidate "folioforge, a quarter of them" '"$cli" --quiet --flush never --merge "$out" "$photos"/photo[12]-*.jpg'
+candidate "mutool create" 'mutool create -o "$out" "$scratch"/pages/*.txt'
+candidate "img2pdf" 'img2pdf -o "$out" "$photos"/*.jpg'
+run_all
+limit "times the wall time of cat, at most 1.6" \
+    "$(ratio "$(best wall folioforge)" "$(best wall cat)")" at-most 1.6
+limit "flushed, times the wall time of cat and sync, at most 1.6" \
+    "$(ratio "$(best wall "folioforge, flushed")" "$(best wall "cat, sync")")" at-most 1.6
+limit "mutool create's wall time beside ours, above 1" \
+    "$(ratio "$(best wall "mutool create")" "$(best wall folioforge)")" at-least 1
+limit "img2pdf's wall time beside ours, above 1" \
+    "$(ratio "$(best wall img2pdf)" "$(best wall folioforge)")" at-least 1
+limit "peak memory, under 60 MB" "$(ratio "$(best memory folioforge)" 1000)" at-most 60 " MB"
+limit "peak memory of 200 beside that of 50, flat" \
+    "$(ratio "$(best memory folioforge)" "$(best memory "folioforge, a quarter of them")")" at-most 1.1
+
+begin "200 photos in one PDF with AES-256"
+candidate "folioforge" \
+    'FOLIOFORGE_USER_PASSWORD=quay "$cli" --quiet --flush never --merge "$out" "$photos"/*.jpg'
+candidate "mutool create" 'mutool create -o "$out" \
+    -O encrypt=aes-256,user-password=quay,owner-password=quay "$scratch"/pages/*.txt'
+run_all
+limit "mutool create's wall time beside ours, at least 1.5" \
+    "$(ratio "$(best wall "mutool create")" "$(best wall folioforge)")" at-least 1.5
+
+begin "40 photos, a PDF each"
+candidate "cp" 'cp "$photos"/photo[12]-[01]*.jpg "$photos"/photo[12]-20.jpg "$dir"'
+candidate "folioforge" '"$cli" --quiet --flush never --output-folder "$dir" \
+    "$photos"/photo[12]-[01]*.jpg "$photos"/photo[12]-20.jpg'
+run_all
+limit "times the wall time of cp, at most 3" \
+    "$(ratio "$(best wall folioforge)" "$(best wall cp)")" at-most 3

@@ -1,0 +1,10 @@
+# 40 TIFF scans in one PDF.
+make_set scans scans
+export scans="$inputs/scans"
+
+begin "40 TIFF scans of A4 at 300 per inch, LZW colour and Group 4, in one PDF"
+candidate "folioforge" '"$cli" --quiet --flush never --merge "$out" "$scans"/*.tif'
+candidate "img2pdf" 'img2pdf -o "$out" "$scans"/*.tif'
+run_all
+limit "img2pdf's wall time beside ours, at least 5" \
+    "$(ratio "$(best wall img2pdf)" "$(best wall folioforge)")" at-least 5

@@ -1,0 +1,162 @@
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QRegularExpression>
+#include <QSvgRenderer>
+#include <QTest>
+#include <QXmlStreamReader>
+
+namespace {
+
+const QString kContents = QStringLiteral(FOLIOFORGE_BUNDLE);
+const QString kResources = kContents + QStringLiteral("/Resources");
+const QString kPages = kResources + QStringLiteral("/pages");
+
+QByteArray contentsOf(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The string that follows `key` in a property list; empty where there is none.
+QString stringOf(const QString &key) {
+    QXmlStreamReader xml(contentsOf(kContents + QStringLiteral("/Info.plist")));
+    bool found = false;
+    while (!xml.atEnd()) {
+        if (!xml.readNextStartElement())
+            continue;
+        if (xml.name() == u"key")
+            found = xml.readElementText() == key;
+        else if (found)
+            return xml.name() == u"string" ? xml.readElementText() : QString();
+    }
+    return {};
+}
+
+/// What the links, styles and pictures of a page point to.
+QStringList targetsOf(const QString &page) {
+    static const QRegularExpression kTarget(QStringLiteral("(?:href|src)=\"([^\"]*)\""));
+    QStringList targets;
+    auto match = kTarget.globalMatch(QString::fromUtf8(contentsOf(page)));
+    while (match.hasNext())
+        targets.append(match.next().captured(1));
+    return targets;
+}
+
+} // namespace
+
+class BundleTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void eachSkinHasThreeLooksOfOneSize_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("add-image") << QSize(92, 40);
+        QTest::newRow("add-txt") << QSize(82, 40);
+        QTest::newRow("add-pdf") << QSize(82, 40);
+        QTest::newRow("remove") << QSize(92, 40);
+        QTest::newRow("convert") << QSize(150, 44);
+        QTest::newRow("show-option") << QSize(36, 26);
+        QTest::newRow("hide-option") << QSize(36, 26);
+        QTest::newRow("open") << QSize(76, 28);
+        QTest::newRow("browse") << QSize(96, 28);
+        QTest::newRow("security-setting") << QSize(100, 32);
+        QTest::newRow("image-setting") << QSize(100, 32);
+        QTest::newRow("text-setting") << QSize(100, 32);
+    }
+
+    void eachSkinHasThreeLooksOfOneSize() {
+        QFETCH(QSize, size);
+        QList<QByteArray> looks;
+        for (const auto *look : {"", "-hover", "-disable"}) {
+            const auto file = QStringLiteral("%1/%2%3.svg")
+                                  .arg(kResources, QLatin1StringView(QTest::currentDataTag()),
+                                       QLatin1StringView(look));
+            QVERIFY2(QSvgRenderer(file).isValid(), qPrintable(file));
+            QCOMPARE(QSvgRenderer(file).defaultSize(), size);
+            looks.append(contentsOf(file));
+        }
+        QVERIFY(looks[0] != looks[1] && looks[1] != looks[2] && looks[2] != looks[0]);
+    }
+
+    void skinsNeedNoFont() {
+        for (const auto &skin : QDir(kResources).entryInfoList({QStringLiteral("*.svg")}))
+            QVERIFY2(!contentsOf(skin.filePath()).contains("<text"), qPrintable(skin.fileName()));
+    }
+
+    void propertyListNamesAnIconWithoutItsExtension() {
+        const auto icon = stringOf(QStringLiteral("CFBundleIconFile"));
+        QCOMPARE(icon, QStringLiteral("Folioforge"));
+        QVERIFY(QFileInfo::exists(QStringLiteral("%1/%2.icns").arg(kResources, icon)));
+    }
+
+    void propertyListNamesTheProgram() {
+        QCOMPARE(stringOf(QStringLiteral("CFBundleName")), QStringLiteral("Folioforge"));
+        QCOMPARE(stringOf(QStringLiteral("CFBundleExecutable")), QStringLiteral("folioforge"));
+        QCOMPARE(stringOf(QStringLiteral("CFBundlePackageType")), QStringLiteral("APPL"));
+    }
+
+    void iconIsReadInEverySize() {
+        QImageReader reader(kResources + QStringLiteral("/Folioforge.icns"));
+        QList<int> sizes;
+        for (int i = 0; i < reader.imageCount(); ++i) {
+            reader.jumpToImage(i);
+            const auto image = reader.read();
+            QVERIFY(image.hasAlphaChannel());
+            QCOMPARE(qAlpha(image.pixel(0, 0)), 0);
+            QCOMPARE(qAlpha(image.pixel(image.rect().center())), 255);
+            sizes.append(image.width());
+        }
+        QCOMPARE(sizes, QList<int>({512, 1024, 256, 128, 64, 32, 16}));
+    }
+
+    void filtersAreInPlace() {
+        for (const auto *name : {"150m", "96m", "72l"}) {
+            const auto file =
+                QStringLiteral("%1/%2.qfilter").arg(kResources, QLatin1StringView(name));
+            QVERIFY2(QFileInfo(file).size() > 0, qPrintable(file));
+        }
+    }
+
+    void pagesPointOnlyToWhatComesWithThem_data() {
+        QTest::addColumn<QString>("page");
+        QTest::newRow("tutorial") << kPages + QStringLiteral("/tutorial.html");
+        QTest::newRow("product") << kPages + QStringLiteral("/product.html");
+    }
+
+    void pagesPointOnlyToWhatComesWithThem() {
+        QFETCH(QString, page);
+        const auto targets = targetsOf(page);
+        QVERIFY(targets.size() > 4);
+        for (const auto &target : targets) {
+            const auto file = target.section(u'#', 0, 0);
+            const auto anchor = target.section(u'#', 1);
+            const auto path = file.isEmpty() ? page : kPages + u'/' + file;
+            QVERIFY2(QFileInfo::exists(path), qPrintable(target));
+            QVERIFY2(anchor.isEmpty() || contentsOf(path).contains("id=\"" + anchor.toUtf8() + '"'),
+                     qPrintable(target));
+        }
+    }
+
+    void productPageHasADownloadSection() {
+        QVERIFY(
+            contentsOf(kPages + QStringLiteral("/product.html")).contains("<h2 id=\"download\">"));
+    }
+
+    void thereIsAnExampleOfEachKindAndAllAreSmall() {
+        QStringList kinds;
+        qint64 bytes = 0;
+        for (const auto &file :
+             QDir(QStringLiteral(FOLIOFORGE_EXAMPLES)).entryInfoList(QDir::Files)) {
+            kinds.append(file.suffix());
+            bytes += file.size();
+        }
+        kinds.removeDuplicates();
+        kinds.sort();
+        QCOMPARE(kinds.join(u' '),
+                 QStringLiteral("bmp exr gif icns ico jp2 jpg pdf png psd tga tif txt"));
+        QVERIFY2(bytes < 400'000, qPrintable(QString::number(bytes)));
+    }
+};
+
+QTEST_MAIN(BundleTest)
+#include "BundleTest.moc"
