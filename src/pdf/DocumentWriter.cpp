@@ -16,6 +16,10 @@
 #include <array>
 #include <optional>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace folioforge {
 
 namespace {
@@ -107,10 +111,21 @@ QByteArray makeId(QPDF &document, const OutputFile &file, std::uint32_t checksum
     return hash.result().toHex();
 }
 
+/// The library takes and frees blocks of a stream's size several times a stream. Given back to the
+/// system each time, their pages cost more than everything else the writing of photos does.
+void keepFreedBlocks() {
+#ifdef __GLIBC__
+    constexpr int kLargestKept = 32 << 20;
+    ::mallopt(M_MMAP_THRESHOLD, kLargestKept);
+    ::mallopt(M_TRIM_THRESHOLD, 2 * kLargestKept);
+#endif
+}
+
 } // namespace
 
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
                    const std::string &minimumVersion) {
+    keepFreedBlocks();
     OutputPipeline pipeline(file);
     atQpdfBorder([&] {
         QPDFWriter writer(document);

@@ -40,7 +40,7 @@ int componentsOf(ImageColor color) {
 bool profileFits(const QByteArray &profile, const char *signature) {
     constexpr qsizetype kHeaderSize = 128;
     constexpr qsizetype kSpaceOffset = 16;
-    return profile.size() > kHeaderSize && profile.sliced(kSpaceOffset, 4) == signature;
+    return profile.size() > kHeaderSize && profile.indexOf(signature, kSpaceOffset) == kSpaceOffset;
 }
 
 void addDecodeParms(QPDFObjectHandle &dictionary, const EncodedImage &image) {

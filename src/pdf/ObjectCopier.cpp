@@ -110,7 +110,8 @@ QPDFObjectHandle ObjectCopier::copyIndirect(QPDFObjectHandle object) {
     } else if (object.isNull() || staysBehind(object)) {
         target = QPDFObjectHandle::newNull();
     } else {
-        target = m_target.makeIndirectObject(QPDFObjectHandle::newNull());
+        // A null would be taken for an absent entry by every dictionary that refers to it.
+        target = QPDFObjectHandle::newReserved(&m_target);
         m_pending.emplace_back(object, target);
     }
     m_copies[object.getObjGen()] = target;
@@ -166,7 +167,7 @@ QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
         }
         const bool destination = key == "/Dest" || (goTo && key == "/D");
         auto copied = destination ? copyDestination(value) : copy(value);
-        if (copied.isIndirect() || !copied.isNull()) {
+        if (!copied.isNull()) {
             target.replaceKey(key, copied);
         }
     }
@@ -205,7 +206,7 @@ void ObjectCopier::run() {
         if (!m_pending.empty()) {
             const auto [source, target] = m_pending.front();
             m_pending.pop_front();
-            m_target.replaceObject(target.getObjGen(), copyValue(source));
+            m_target.replaceReserved(target, copyValue(source));
         } else {
             auto stream = m_pendingStreams.front();
             m_pendingStreams.pop_front();

@@ -136,4 +136,16 @@ std::size_t SourceReader::read(const SourceFile &file, qint64 offset, std::span<
     }
 }
 
+std::span<const char> SourceReader::view(const SourceFile &file, qint64 offset, qint64 size) {
+    if (m_view.size() < size) {
+        m_view = QByteArray(size, Qt::Uninitialized);
+    }
+    const std::span<char> target(m_view.data(), static_cast<std::size_t>(size));
+    if (read(file, offset, target) != target.size()) {
+        m_failure = QStringLiteral("The file %1 ended too early").arg(file.path);
+        throw Error(*m_failure);
+    }
+    return target;
+}
+
 } // namespace folioforge

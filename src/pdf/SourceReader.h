@@ -35,6 +35,10 @@ class SourceReader {
     /// Throws Error when the file cannot be read or is not the one that was examined.
     std::size_t read(const SourceFile &file, qint64 offset, std::span<char> target);
 
+    /// The `size` bytes at `offset`, valid until the next call. Throws Error, also when the file
+    /// ends before them.
+    std::span<const char> view(const SourceFile &file, qint64 offset, qint64 size);
+
     /// The first Error of read(), which a library on the way may have taken for damage.
     [[nodiscard]] const std::optional<QString> &failure() const { return m_failure; }
     void clearFailure() { m_failure.reset(); }
@@ -51,6 +55,7 @@ class SourceReader {
     int m_fd = -1;
     QByteArray m_window; ///< Bytes of the open file from m_windowStart on.
     qint64 m_windowStart = 0;
+    QByteArray m_view; ///< Kept for the next view(): large blocks are dear to get from the system.
     std::optional<QString> m_failure;
 };
 

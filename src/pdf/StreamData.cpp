@@ -67,16 +67,13 @@ class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider
         , m_slices(std::move(slices)) {}
 
     void provideStreamData([[maybe_unused]] QPDFObjGen const &object, Pipeline *pipeline) override {
-        constexpr qint64 kChunk = 1 << 20;
-        std::vector<char> buffer;
+        // Whole in one piece where it is not huge: the library's buffer then need not grow.
+        constexpr qint64 kPiece = 16 << 20;
         for (const FileSlice &slice : m_slices) {
-            for (qint64 done = 0; done < slice.length; done += kChunk) {
-                buffer.resize(static_cast<std::size_t>(std::min(kChunk, slice.length - done)));
-                if (m_reader->read(m_file, slice.offset + done, buffer) != buffer.size()) {
-                    throw Error(
-                        QStringLiteral("The file %1 ended before its image did").arg(m_file.path));
-                }
-                pipeline->write(buffer.data(), buffer.size());
+            for (qint64 done = 0; done < slice.length; done += kPiece) {
+                const auto size = std::min(kPiece, slice.length - done);
+                const auto bytes = m_reader->view(m_file, slice.offset + done, size);
+                pipeline->write(bytes.data(), bytes.size());
             }
         }
         pipeline->finish();

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <map>
+
+namespace folioforge::test {
+
+/// A PDF file written by hand, object by object: what a test says is what stands in the file.
+class PdfFixture {
+  public:
+    /// `root` is the number of the catalog.
+    explicit PdfFixture(int root = 1)
+        : m_root(root) {}
+
+    /// Object `number` with `body` between "obj" and "endobj".
+    PdfFixture &object(int number, const QByteArray &body);
+    /// A stream object; /Length is added to `dictionary`, the keys without "<<" and ">>".
+    PdfFixture &stream(int number, const QByteArray &dictionary, const QByteArray &data);
+    /// `count` pages as objects `first`, `first` + 1, ... under the page tree 2; each shows its
+    /// number in Helvetica (object 3) from objects `first` + `count` on.
+    PdfFixture &pages(int first, int count);
+
+    [[nodiscard]] QByteArray bytes() const;
+    /// Writes the file; false when that fails.
+    [[nodiscard]] bool write(const QString &path) const;
+
+  private:
+    int m_root;
+    std::map<int, QByteArray> m_objects;
+};
+
+} // namespace folioforge::test
