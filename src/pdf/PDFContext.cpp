@@ -6,23 +6,27 @@
 #include "pdf/DocumentImport.h"
 #include "pdf/DocumentInfo.h"
 #include "pdf/DocumentWriter.h"
+#include "pdf/FontEmbedder.h"
 #include "pdf/ImageEmbedder.h"
 #include "pdf/OrientedMatrix.h"
 #include "pdf/OutputFile.h"
 #include "pdf/QpdfBorder.h"
 #include "pdf/SourceDocument.h"
 #include "pdf/StreamData.h"
+#include "pdf/TextContent.h"
 
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace folioforge {
 
 namespace {
 
-using Resources = std::map<std::string, QPDFObjectHandle>;
+using Resources = TextContent::Resources;
 
 /// The page that is being drawn.
 struct OpenPage {
@@ -30,6 +34,14 @@ struct OpenPage {
     std::string content;
     Resources fonts;
     Resources images;
+    std::optional<TextContent> text; ///< Writes to `content` and `fonts`.
+
+    /// What is drawn next is no text.
+    void endText() {
+        if (text) {
+            text->end();
+        }
+    }
 };
 
 QPDFObjectHandle boxArray(const QRectF &box) {
@@ -50,6 +62,8 @@ class PDFContext::Impl {
     void drawImage(const QRectF &rect, const EncodedImage &image, int orientation);
     int addDocument(const QString &sourcePath);
     CloseResult close(const std::function<QString()> &nextPath);
+    void beginPage(const QRectF &mediaBox);
+    void showGlyphs(double x, double y, std::span<const Glyph> glyphs);
 
     OpenPage page;
     std::shared_ptr<const FontCascade> font;
@@ -58,6 +72,7 @@ class PDFContext::Impl {
 
   private:
     QPDFObjectHandle resources();
+    FontEmbedder &embedder();
     void finishDocument();
     CloseResult publish(OutputFile &file, const std::function<QString()> &nextPath);
 
@@ -67,6 +82,7 @@ class PDFContext::Impl {
     std::shared_ptr<SourceReader> m_reader = std::make_shared<SourceReader>();
     StreamData m_streams{m_document, m_reader};
     ImageEmbedder m_images{m_document, m_streams};
+    std::vector<std::unique_ptr<FontEmbedder>> m_fonts; ///< One for each cascade.
     std::map<Resources, QPDFObjectHandle, bool (*)(const Resources &, const Resources &)>
         m_fontResources;
     std::map<std::string, ObjectCopier::Streams> m_sourceStreams; ///< By source file.
@@ -111,7 +127,36 @@ QPDFObjectHandle PDFContext::Impl::resources() {
     return dictionary;
 }
 
+void PDFContext::Impl::beginPage(const QRectF &mediaBox) {
+    page.text.reset();
+    page.content.clear();
+    page.fonts.clear();
+    page.images.clear();
+    page.mediaBox = mediaBox;
+}
+
+FontEmbedder &PDFContext::Impl::embedder() {
+    const auto known = std::ranges::find_if(
+        m_fonts, [this](const auto &fonts) { return &fonts->cascade() == font.get(); });
+    if (known != m_fonts.end()) {
+        return **known;
+    }
+    return *m_fonts.emplace_back(std::make_unique<FontEmbedder>(
+        m_document, m_streams, font, std::string(m_fonts.size() + 1, 'F')));
+}
+
+void PDFContext::Impl::showGlyphs(double x, double y, std::span<const Glyph> glyphs) {
+    if (!font) {
+        return;
+    }
+    if (!page.text) {
+        page.text.emplace(page.content, page.fonts, embedder(), fontSize);
+    }
+    page.text->showGlyphs(x, y, glyphs);
+}
+
 void PDFContext::Impl::endPage() {
+    page.endText();
     auto dictionary = QPDFObjectHandle::newDictionary();
     dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
     dictionary.replaceKey("/MediaBox", boxArray(page.mediaBox));
@@ -121,10 +166,11 @@ void PDFContext::Impl::endPage() {
                               m_streams.deflated(QPDFObjectHandle::newDictionary(), page.content));
     }
     catalog.addPage(m_document.makeIndirectObject(dictionary));
-    page = {};
+    beginPage({});
 }
 
 void PDFContext::Impl::drawImage(const QRectF &rect, const EncodedImage &image, int orientation) {
+    page.endText();
     const std::string name = "/Im" + std::to_string(page.images.size());
     page.images[name] = m_images.embed(image);
     const QTransform matrix = orientedMatrix(rect, orientation);
@@ -153,6 +199,9 @@ int PDFContext::Impl::addDocument(const QString &sourcePath) {
 
 void PDFContext::Impl::finishDocument() {
     atQpdfBorder([&] {
+        for (const auto &fonts : m_fonts) {
+            fonts->embed();
+        }
         writeDocumentInfo(m_document, m_settings.info);
         catalog.finish(m_document);
     });
@@ -192,8 +241,7 @@ PDFContext::PDFContext(QString path, Settings settings)
 PDFContext::~PDFContext() = default;
 
 void PDFContext::beginPage(const QRectF &mediaBox) {
-    m_impl->page = {};
-    m_impl->page.mediaBox = mediaBox;
+    m_impl->beginPage(mediaBox);
 }
 
 void PDFContext::setRGBFillColor(double red, double green, double blue) {
@@ -205,12 +253,15 @@ void PDFContext::setRGBFillColor(double red, double green, double blue) {
 }
 
 void PDFContext::setFont(std::shared_ptr<const FontCascade> font, double size) {
+    m_impl->page.endText();
+    m_impl->page.text.reset();
     m_impl->font = std::move(font);
     m_impl->fontSize = size;
 }
 
-void PDFContext::showGlyphsAtPoint([[maybe_unused]] double x, [[maybe_unused]] double y,
-                                   [[maybe_unused]] std::span<const Glyph> glyphs) {}
+void PDFContext::showGlyphsAtPoint(double x, double y, std::span<const Glyph> glyphs) {
+    atQpdfBorder([&] { m_impl->showGlyphs(x, y, glyphs); });
+}
 
 void PDFContext::drawImage(const QRectF &rect, EncodedImage image, int orientation) {
     atQpdfBorder([&] { m_impl->drawImage(rect, image, orientation); });

@@ -1,5 +1,7 @@
 #include "text/FontFace.h"
 
+#include <QtEndian>
+
 #include <hb-ot.h>
 #include <hb.h>
 
@@ -72,6 +74,22 @@ FontExtents FontFace::extents() const {
     hb_font_extents_t extents{};
     hb_font_get_h_extents(m_font.get(), &extents);
     return {extents.ascender, -extents.descender, extents.line_gap};
+}
+
+FontBox FontFace::box() const {
+    constexpr unsigned kFirstField = 36; // xMin of "head", then yMin, xMax, yMax
+    constexpr unsigned kFields = 4;
+    std::array<int, kFields> fields{};
+    hb_blob_t *head = hb_face_reference_table(m_face.get(), HB_TAG('h', 'e', 'a', 'd'));
+    unsigned length = 0;
+    const char *bytes = hb_blob_get_data(head, &length);
+    if (length >= kFirstField + 2 * kFields) {
+        for (unsigned i = 0; i < kFields; ++i) {
+            fields[i] = qFromBigEndian<qint16>(bytes + kFirstField + 2 * i);
+        }
+    }
+    hb_blob_destroy(head);
+    return {fields[0], fields[1], fields[2], fields[3]};
 }
 
 std::optional<std::uint32_t> FontFace::glyph(char32_t character) const {

@@ -18,6 +18,14 @@ struct FontExtents {
     int leading = 0;
 };
 
+/// The box that holds every glyph of a face, in font units.
+struct FontBox {
+    int left = 0;
+    int bottom = 0;
+    int right = 0;
+    int top = 0;
+};
+
 /// One font file opened for measuring and embedding. Everything is in font units; unitsPerEm()
 /// of them make one em.
 class FontFace {
@@ -32,6 +40,7 @@ class FontFace {
     [[nodiscard]] const QByteArray &postScriptName() const { return m_postScriptName; }
     [[nodiscard]] unsigned unitsPerEm() const;
     [[nodiscard]] FontExtents extents() const;
+    [[nodiscard]] FontBox box() const;
     /// The glyph of `character`, or nothing when the face does not cover it.
     [[nodiscard]] std::optional<std::uint32_t> glyph(char32_t character) const;
     /// Horizontal advance of a glyph.

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace folioforge {
+
+/// A character code of a composite font. Codes are CIDs: readers differ in whether they look up
+/// the text of a glyph by its code or by its CID, and this way all agree.
+struct CodeEntry {
+    std::uint16_t code = 0;
+    std::uint32_t glyph = 0;
+    char32_t character = 0;
+};
+
+/// Gives the glyphs of one font their codes.
+class CodeTable {
+  public:
+    enum class Form {
+        /// Codes of the table's own choice. ASCII characters keep their own, so that a row of them
+        /// is nearly the text itself; enough others for an alphabet get one byte; all after them
+        /// two, told apart by the first.
+        Mixed,
+        /// Two bytes, given by the font program.
+        TwoByte
+    };
+    static constexpr std::uint16_t kLastOneByte = 0xBF;
+    static constexpr std::uint16_t kFirstTwoByte = 0xC000;
+    static constexpr std::uint16_t kLastTwoByte = 0xFFFF;
+
+    explicit CodeTable(Form form)
+        : m_form(form) {}
+
+    /// A new code for a glyph of a Mixed table; nothing when the table is full. Each character may
+    /// be added once.
+    std::optional<std::uint16_t> add(std::uint32_t glyph, char32_t character);
+    /// Adds a glyph under `code` to a TwoByte table; false when another character has the code.
+    bool addAt(std::uint16_t code, std::uint32_t glyph, char32_t character);
+
+    [[nodiscard]] Form form() const { return m_form; }
+    /// In the order they were added.
+    [[nodiscard]] const std::vector<CodeEntry> &entries() const { return m_entries; }
+    /// Whether a code of a Mixed table has two bytes.
+    [[nodiscard]] bool hasTwoByteCodes() const { return m_nextTwoByte > kFirstTwoByte; }
+
+  private:
+    std::optional<std::uint16_t> nextCode(char32_t character);
+
+    Form m_form;
+    std::vector<CodeEntry> m_entries;
+    std::set<std::uint16_t> m_taken; ///< Codes of a TwoByte table.
+    std::uint16_t m_nextOneByte = 0x80;
+    std::uint32_t m_nextTwoByte = kFirstTwoByte;
+};
+
+} // namespace folioforge

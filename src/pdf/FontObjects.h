@@ -1,0 +1,42 @@
+#pragma once
+
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <string>
+
+class QPDF;
+
+namespace folioforge {
+
+class CodeTable;
+class FontFace;
+class StreamData;
+struct FontSubset;
+
+/// The PDF objects of one embedded face: its program and descriptor, shared by the composite fonts
+/// over it (ISO 32000-1, 9.7 and 9.9).
+class FaceObjects {
+  public:
+    /// Adds the descriptor and the font program. `subset` was cut from `face`; both must outlive
+    /// this object.
+    FaceObjects(QPDF &document, StreamData &streams, const FontFace &face,
+                const FontSubset &subset);
+
+    /// Makes the dictionary `font` a composite font that reads the codes of `table`.
+    void fillFont(QPDFObjectHandle font, const CodeTable &table);
+
+  private:
+    QPDFObjectHandle makeProgram();
+    QPDFObjectHandle makeDescriptor();
+    QPDFObjectHandle makeCidFont(const CodeTable &table);
+    QPDFObjectHandle makeEncoding(const CodeTable &table);
+
+    QPDF &m_document;
+    StreamData &m_streams;
+    const FontFace &m_face;
+    const FontSubset &m_subset;
+    std::string m_baseName;
+    QPDFObjectHandle m_descriptor;
+};
+
+} // namespace folioforge

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "text/Glyph.h"
+
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <cstdint>
+#include <map>
+#include <span>
+#include <string>
+
+namespace folioforge {
+
+class FontEmbedder;
+
+/// Writes the rows of one page into its content stream, as one text object with relative moves.
+/// Call end() before anything else is drawn and when the page ends.
+class TextContent {
+  public:
+    using Resources = std::map<std::string, QPDFObjectHandle>;
+
+    /// `content` receives the operators and `resources` the fonts in use; `size` is in points.
+    TextContent(std::string &content, Resources &resources, FontEmbedder &fonts, double size);
+
+    /// Draws `glyphs` from the baseline point on.
+    void showGlyphs(double x, double y, std::span<const Glyph> glyphs);
+    /// Ends the text object, if one is open.
+    void end();
+
+  private:
+    enum class Operator { Show, NextLineAndShow };
+    Operator moveTo(double x, double y);
+    void selectFont(std::uint16_t font);
+    void show(Operator how);
+
+    std::string &m_content;
+    Resources &m_resources;
+    FontEmbedder &m_fonts;
+    double m_size = 0;
+    bool m_open = false;
+    std::uint16_t m_font = 0; ///< The font in force; 0 for none.
+    double m_x = 0;           ///< Start of the current line as a reader has it.
+    double m_y = 0;
+    double m_leading = 0; ///< The leading in force, upwards as the y axis goes.
+    std::string m_run;    ///< Codes of one font, escaped.
+};
+
+} // namespace folioforge

@@ -1,0 +1,315 @@
+#include "pdf/PDFContext.h"
+#include "support/PdfProbe.h"
+#include "text/TextPageLayout.h"
+
+#include <QFile>
+#include <QFont>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRawFont>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+constexpr double kPageWidth = 595;
+constexpr double kPageHeight = 842;
+constexpr double kLeft = 72;
+constexpr int kDpi = 144;
+
+std::shared_ptr<const FontCascade> font() {
+    static const auto kept = FontCascade::load(QStringLiteral("Liberation Sans"), 14);
+    return kept;
+}
+
+/// Draws laid-out pages into a context and remembers where the rows are.
+class Pages : public TextPageSink {
+  public:
+    explicit Pages(PDFContext &context)
+        : m_context(context) {}
+    void beginPage() override {
+        m_context.beginPage({0, 0, kPageWidth, kPageHeight});
+        m_context.setRGBFillColor(0, 0, 0);
+        m_context.setFont(font(), font()->size());
+    }
+    void showRow(double x, double y, std::span<const Glyph> glyphs) override {
+        baselines += y;
+        m_context.showGlyphsAtPoint(x, y, glyphs);
+    }
+    void endPage() override { m_context.endPage(); }
+
+    QList<double> baselines;
+
+  private:
+    PDFContext &m_context;
+};
+
+/// The part of a page around its first row, white on black, as ink from 0 to 255.
+QImage firstRow(const QImage &page) {
+    const double scale = kDpi / 72.0;
+    const QRect row(int((kLeft - 10) * scale), int(60 * scale), int(200 * scale), int(40 * scale));
+    QImage ink = page.copy(row).convertToFormat(QImage::Format_Grayscale8);
+    ink.invertPixels();
+    return ink;
+}
+
+/// What `paths` look like when Qt draws them where the first row stands.
+QImage drawnByQt(const QPainterPath &path) {
+    const double scale = kDpi / 72.0;
+    QImage page(int(kPageWidth * scale), int(kPageHeight * scale), QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(kLeft * scale, (72 + 16.0986328125) * scale);
+    painter.fillPath(path, Qt::black);
+    painter.end();
+    return firstRow(page);
+}
+
+double sumOf(const QImage &ink) {
+    double sum = 0;
+    for (int y = 0; y < ink.height(); ++y) {
+        for (int x = 0; x < ink.width(); ++x) {
+            sum += qGray(ink.pixel(x, y));
+        }
+    }
+    return sum;
+}
+
+/// Ink that only one of two drawings has, of all ink: 0 for the same drawing, 1 for two that do not
+/// touch.
+double difference(const QImage &left, const QImage &right) {
+    double apart = 0;
+    for (int y = 0; y < left.height(); ++y) {
+        for (int x = 0; x < left.width(); ++x) {
+            apart += std::abs(qGray(left.pixel(x, y)) - qGray(right.pixel(x, y)));
+        }
+    }
+    return apart / (sumOf(left) + sumOf(right));
+}
+
+/// The text that mutool finds in a file, in the order of the content.
+QString textByMutool(const QString &path) {
+    const ToolRun run =
+        runTool(QStringLiteral("mutool"), {QStringLiteral("draw"), QStringLiteral("-q"),
+                                           QStringLiteral("-F"), QStringLiteral("txt"), path});
+    return QString::fromUtf8(run.out);
+}
+
+QString textByPoppler(const QString &path) {
+    const ToolRun run =
+        runTool(QStringLiteral("pdftotext"), {QStringLiteral("-raw"), path, QStringLiteral("-")});
+    return QString::fromUtf8(run.out);
+}
+
+QString withoutSpace(QString text) {
+    return text.remove(QRegularExpression(QStringLiteral("[\\s\\f]")));
+}
+
+/// The attribute `name` of every <char> that mutool finds.
+QList<double> characterPlaces(const QString &path, const QString &name) {
+    const ToolRun run =
+        runTool(QStringLiteral("mutool"), {QStringLiteral("draw"), QStringLiteral("-q"),
+                                           QStringLiteral("-F"), QStringLiteral("stext"), path});
+    const QRegularExpression character(QStringLiteral("<char [^>]* %1=\"([-0-9.]+)\"").arg(name));
+    QList<double> places;
+    for (const auto &match : character.globalMatch(QString::fromUtf8(run.out))) {
+        places += match.captured(1).toDouble();
+    }
+    return places;
+}
+
+} // namespace
+
+class FontEmbedderTest : public QObject {
+    Q_OBJECT
+
+  private:
+    QTemporaryDir m_folder;
+    QList<double> m_baselines;
+
+    [[nodiscard]] QString write(const QString &text,
+                                const QString &name = QStringLiteral("text.pdf")) {
+        const QString path = m_folder.filePath(name);
+        QFile::remove(path);
+        PDFContext context(path, {{}, nullptr, Flush::Never});
+        Pages pages(context);
+        layOutText(text, {kPageWidth, kPageHeight}, {72, 72, 72, 72}, *font(), pages);
+        m_baselines = pages.baselines;
+        const CloseResult result = context.close();
+        return result.status == CloseResult::Status::Written ? path : result.reason;
+    }
+
+  private Q_SLOTS:
+    void everyScriptIsReadBack_data() {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("ASCII") << QStringLiteral("The quick (brown) \\fox\\ ))((");
+        QTest::newRow("Latin") << QStringLiteral("Žluťoučký kůň, façade, naïve, Ærø");
+        QTest::newRow("Greek") << QStringLiteral("Ξεσκεπάζω τὴν ψυχοφθόρα");
+        QTest::newRow("Cyrillic") << QStringLiteral("Съешь же ещё этих мягких булок");
+        QTest::newRow("Chinese") << QStringLiteral("天地玄黃宇宙洪荒 天地玄黄");
+        QTest::newRow("Japanese") << QStringLiteral("いろはにほへと チリヌルヲ 日本語");
+        QTest::newRow("Korean") << QStringLiteral("키스의 고유조건은 입술끼리");
+        QTest::newRow("Thai") << QStringLiteral("เป็นมนุษย์สุดประเสริฐ");
+        QTest::newRow("Devanagari") << QStringLiteral("ऋषियों को सताने वाले");
+        QTest::newRow("Beyond the BMP") << QStringLiteral("😀🚀🎉 𠮷 𝔘");
+        QTest::newRow("Mixed") << QStringLiteral("a中bжc😀dक");
+    }
+
+    void everyScriptIsReadBack() {
+        QFETCH(const QString, text);
+        const QString path = write(text);
+        QString log;
+        QVERIFY2(PdfProbe(path).isValid(&log), qPrintable(log));
+        QCOMPARE(withoutSpace(textByPoppler(path)), withoutSpace(text));
+        QCOMPARE(withoutSpace(textByMutool(path)), withoutSpace(text));
+    }
+
+    void rightToLeftTextStaysInLogicalOrder() {
+        const QString text = QStringLiteral("שלום עולם السلام عليكم");
+        QCOMPARE(withoutSpace(textByMutool(write(text))), withoutSpace(text));
+    }
+
+    void charactersThatShareAGlyphReadAsThemselves_data() {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("mu") << QStringLiteral("\u00B5\u03BC");
+        QTest::newRow("ohm") << QStringLiteral("\u2126\u03A9");
+        QTest::newRow("radical") << QStringLiteral("\u2F00\u4E00");
+        QTest::newRow("hyphen") << QStringLiteral("a\u2010b-c");
+    }
+
+    void charactersThatShareAGlyphReadAsThemselves() {
+        QFETCH(const QString, text);
+        QCOMPARE(textByPoppler(write(text)).trimmed(), text);
+    }
+
+    void uncoveredCharacterIsABoxThatReadsAsItself() {
+        const QString path = write(QStringLiteral("\U000E0FFF"));
+        QRawFont raw(QString::fromUtf8(findTextFonts(QStringLiteral("Liberation Sans"))[0].path()),
+                     14.0 * kDpi / 72, QFont::PreferNoHinting);
+        const QImage box = drawnByQt(raw.pathForGlyph(0));
+        QVERIFY(sumOf(box) > 0);
+        QVERIFY(difference(firstRow(PdfProbe(path).render(1, kDpi)), box) < 0.2);
+        QVERIFY(difference(firstRow(PdfProbe(path).renderWithMutool(1, kDpi)), box) < 0.2);
+        QCOMPARE(textByMutool(path).trimmed(), QStringLiteral("\U000E0FFF"));
+    }
+
+    void halfASurrogatePairIsABoxAndNoText() {
+        const QString path = write(QStringLiteral("a") + QChar(u'\xD83D') + QStringLiteral("b"));
+        QString log;
+        QVERIFY2(PdfProbe(path).isValid(&log), qPrintable(log));
+        QVERIFY(textByPoppler(path).startsWith(u'a'));
+    }
+
+    /// The glyph that is drawn is the one that Qt draws with the face of that family.
+    void glyphsAreDrawnAsTheFontHasThem_data() {
+        QTest::addColumn<QString>("family");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("Latin") << QStringLiteral("Liberation Sans") << QStringLiteral("Qg&é");
+        QTest::newRow("Cyrillic") << QStringLiteral("Liberation Sans") << QStringLiteral("Жщя");
+        QTest::newRow("Hebrew") << QStringLiteral("Liberation Sans") << QStringLiteral("ש");
+        QTest::newRow("Arabic") << QStringLiteral("DejaVu Sans") << QStringLiteral("ع");
+        QTest::newRow("Emoji") << QStringLiteral("DejaVu Sans") << QStringLiteral("😀");
+        QTest::newRow("Chinese") << QStringLiteral("Noto Sans CJK SC") << QStringLiteral("龍门");
+        QTest::newRow("Japanese") << QStringLiteral("Noto Sans CJK SC") << QStringLiteral("あ日");
+        QTest::newRow("Korean") << QStringLiteral("Noto Sans CJK SC") << QStringLiteral("한국");
+        QTest::newRow("Han beyond the BMP")
+            << QStringLiteral("Noto Sans CJK SC") << QStringLiteral("𠮷");
+        QTest::newRow("Thai") << QStringLiteral("FreeSerif") << QStringLiteral("ภษ");
+        QTest::newRow("Devanagari") << QStringLiteral("FreeSans") << QStringLiteral("ह");
+        QTest::newRow("Rocket") << QStringLiteral("Unifont Upper") << QStringLiteral("🚀");
+    }
+
+    void glyphsAreDrawnAsTheFontHasThem() {
+        QFETCH(const QString, family);
+        QFETCH(const QString, text);
+        QFont qtFont(family);
+        qtFont.setPixelSize(int(14 * kDpi / 72));
+        qtFont.setHintingPreference(QFont::PreferNoHinting);
+        qtFont.setKerning(false);
+        QPainterPath outline;
+        outline.addText(0, 0, qtFont, text);
+        const QImage expected = drawnByQt(outline);
+        QVERIFY(sumOf(expected) > 0);
+
+        const PdfProbe probe(write(text));
+        const double byPoppler = difference(firstRow(probe.render(1, kDpi)), expected);
+        const double byMutool = difference(firstRow(probe.renderWithMutool(1, kDpi)), expected);
+        QVERIFY2(byPoppler < 0.2, qPrintable(QString::number(byPoppler)));
+        QVERIFY2(byMutool < 0.2, qPrintable(QString::number(byMutool)));
+    }
+
+    void glyphsAdvanceAsMeasured() {
+        const QString text = QStringLiteral("Wide iiii 中 ж 😀 end");
+        const auto places = characterPlaces(write(text), QStringLiteral("x"));
+        const auto characters = text.toUcs4();
+        QCOMPARE(places.size(), characters.size());
+        double expected = kLeft;
+        // mutool keeps widths in whole thousandths of an em.
+        const double rounding = 14 * 0.5 / 1000;
+        for (qsizetype i = 0; i < places.size(); ++i) {
+            QVERIFY2(
+                qAbs(places[i] - expected) < rounding * double(i + 1),
+                qPrintable(QStringLiteral("%1 at %2, not %3").arg(i).arg(places[i]).arg(expected)));
+            expected += font()->glyph(characters[i]).advance;
+        }
+    }
+
+    void rowsStandWhereTheLayoutPutThem() {
+        const auto places =
+            characterPlaces(write(QStringLiteral("x\n").repeated(43)), QStringLiteral("y"));
+        QCOMPARE(places.size(), 43);
+        QCOMPARE(m_baselines.size(), 43);
+        for (qsizetype i = 0; i < places.size(); ++i) {
+            QVERIFY(qAbs(kPageHeight - places[i] - m_baselines[i]) < 0.001);
+        }
+    }
+
+    void alphabetsBeyondOneByteAreReadBack() {
+        QString text;
+        for (char32_t character = 0x0400; character < 0x0500; ++character) {
+            text += QChar(static_cast<char16_t>(character));
+        }
+        const QString path = write(text + QStringLiteral("abc") + text);
+        QCOMPARE(withoutSpace(textByPoppler(path)), text + QStringLiteral("abc") + text);
+        QCOMPARE(withoutSpace(textByMutool(path)), text + QStringLiteral("abc") + text);
+    }
+
+    void thousandsOfHanCharactersAreReadBack() {
+        QString text;
+        for (char32_t character = 0x4E00; character < 0x4E00 + 3000; ++character) {
+            text += QChar(static_cast<char16_t>(character));
+        }
+        QCOMPARE(withoutSpace(textByPoppler(write(text))), text);
+    }
+
+    void eachFaceIsEmbeddedOnceWithUsedGlyphsAlone() {
+        const QString path = write(QStringLiteral("abc 中文\nж 字\n").repeated(200));
+        const ToolRun run = runTool(QStringLiteral("pdffonts"), {path});
+        const auto rows = QString::fromUtf8(run.out).trimmed().split(u'\n').mid(2);
+        QCOMPARE(rows.size(), 2);
+        for (const QString &row : rows) {
+            QVERIFY2(row.contains(QStringLiteral("yes yes yes")), qPrintable(row));
+        }
+        QVERIFY(QFile(path).size() < 20'000);
+    }
+
+    void sameTextGivesTheSameBytes() {
+        qputenv("SOURCE_DATE_EPOCH", "1700000000");
+        const auto bytes = [this](const QString &name) {
+            QFile file(write(QStringLiteral("abc 中文 😀 ж"), name));
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+        const QByteArray first = bytes(QStringLiteral("first.pdf"));
+        QVERIFY(!first.isEmpty());
+        QCOMPARE(bytes(QStringLiteral("second.pdf")), first);
+        qunsetenv("SOURCE_DATE_EPOCH");
+    }
+};
+
+QTEST_MAIN(FontEmbedderTest)
+#include "FontEmbedderTest.moc"
