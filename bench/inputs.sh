@@ -19,8 +19,8 @@ photos() {
     for seed in 1 2 3 4 5 6 7 8; do
         base=$folder/base.jpg
         convert -seed $seed -size 1000x750 plasma:fractal -resize 4000x3000! \
-            -attenuate 0.14 +noise Gaussian -density 300 -units PixelsPerInch \
-            -sampling-factor 4:2:0 -quality 86 "$base"
+            -attenuate 0.25 +noise Gaussian -density 300 -units PixelsPerInch \
+            -sampling-factor 4:2:0 -quality 90 "$base"
         copy=1
         while [ $copy -le 25 ]; do
             {
