@@ -6,6 +6,7 @@
 # counts, and the highest of its peak memory.
 
 ROUNDS=${ROUNDS:-3}
+failures=0
 
 describe_machine() {
     echo "$(nproc) × $(sed -n 's/^model name[^:]*: //p' /proc/cpuinfo | head -n 1)," \
@@ -42,6 +43,7 @@ run_once() { # SCRIPT NAME
     /usr/bin/time -q -o "$scratch/time" -f '%U %S %M' sh -eu "$1" >"$scratch/log" 2>&1 || {
         echo "bench: \"$2\" failed:" >&2
         cat "$scratch/log" >&2
+        failures=$((failures + 1))
         return 0
     }
     end=$(seconds_of_day)
@@ -84,7 +86,10 @@ best() { # wall|cpu|memory|size NAME
         END { if (n) print found }' "$scratch/results"
 }
 
-ratio() { awk -v a="$1" -v b="${2:-0}" 'BEGIN { print b > 0 ? a / b : 0 }'; }
+# A / B; empty where one of them was not measured.
+ratio() { # A B
+    awk -v a="$1" -v b="${2:-0}" 'BEGIN { if (a != "" && b > 0) print a / b }'
+}
 
 # Prints whether VALUE stands to LIMIT as TEXT says; TEXT names value and limit itself.
 limit() { # TEXT VALUE at-most|at-least LIMIT UNIT
