@@ -1,5 +1,5 @@
+#include "app/FolioforgeAppDelegate.h"
 #include "mainwnd/Desktop.h"
-#include "mainwnd/MainWndCtrl.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
 #include "skin/LightLook.h"
@@ -8,16 +8,30 @@
 #include <QDir>
 #include <QSettings>
 
+namespace {
+
+/// The program lies in Contents/MacOS of the bundle, on every system.
+QString bundlePath() {
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../.."));
+}
+
+} // namespace
+
 int main(int argc, char *argv[]) {
+    using namespace folioforge;
     QApplication application(argc, argv);
-    folioforge::applyLightLook(application);
+    QApplication::setApplicationName(QStringLiteral("Folioforge"));
+    QApplication::setDesktopFileName(QStringLiteral("folioforge"));
+    QApplication::setQuitOnLastWindowClosed(
+        FolioforgeAppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+    applyLightLook(application);
+
     QSettings settings(QStringLiteral("Vesprin"), QStringLiteral("Folioforge"));
-    folioforge::SystemDesktop desktop;
-    folioforge::Notices notices;
-    folioforge::NotificationCenter notifications;
-    folioforge::MainWndCtrl controller(
-        {settings, desktop, notices, notifications, QDir::homePath(),
-         QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/../..")).canonicalPath()});
-    controller.window()->show();
+    SystemDesktop desktop;
+    Notices notices;
+    NotificationCenter notifications;
+    FolioforgeAppDelegate delegate(
+        {settings, desktop, notices, notifications, QDir::homePath(), bundlePath()});
+    delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

@@ -84,6 +84,7 @@ void MainWndCtrl::windowDidLoad() {
     m_destFilePathName.clear();
     readOutputFolder();
     m_tfOutputFolder->setText(m_outputFolderPath);
+    m_tableview->setFocus();
 }
 
 void MainWndCtrl::initCtrl() {

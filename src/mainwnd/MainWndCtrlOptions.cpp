@@ -12,6 +12,8 @@
 #include <QStyle>
 #include <QTimer>
 
+#include <array>
+
 namespace folioforge {
 namespace {
 
@@ -111,6 +113,16 @@ void MainWndCtrl::showSettingsView(QWidget *view) {
         }
     }
     m_currentSettingsView = view;
+    const std::array<std::pair<SkinButton *, QWidget *>, 3> choices{
+        {{m_btnTxtSetting, m_textPageSizeView},
+         {m_btnImageSetting, m_imagePageSizeView},
+         {m_btnSecuritySetting, m_securityView}}};
+    for (const auto &[button, choice] : choices) {
+        button->setChecked(choice == view);
+        if (choice != view) {
+            button->showNormalImage();
+        }
+    }
     m_settingsViewContainer->layout()->addWidget(view);
     view->show();
 }

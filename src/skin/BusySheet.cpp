@@ -113,7 +113,7 @@ bool BusySheet::focusNextPrevChild(bool /*next*/) {
 
 void BusySheet::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
-    painter.fillRect(rect(), QColor(255, 255, 255, 150));
+    painter.fillRect(rect(), QColor(255, 255, 255, 120));
 }
 
 } // namespace folioforge

@@ -30,12 +30,53 @@ QPalette lightPalette() {
     return palette;
 }
 
+/// Fields, buttons and bars of one family with the skins: corners of the same radius, thin grey
+/// edges, the accent colour for what has the focus.
+QString lightStyleSheet() {
+    return QStringLiteral(R"(
+        QLineEdit, QComboBox {
+            border: 1px solid #c2c8d0; border-radius: 5px; padding: 3px 7px; min-height: 18px;
+            background: #ffffff; selection-background-color: #2f7de1; selection-color: #ffffff;
+        }
+        QLineEdit:focus, QComboBox:focus { border: 2px solid #2f7de1; padding: 2px 6px; }
+        QLineEdit:disabled, QComboBox:disabled {
+            border-color: #e0e4e9; background: #f6f7f9; color: #8a9098;
+        }
+        QLineEdit[readOnly="true"] { background: #f8f9fb; }
+        QPushButton {
+            border: 1px solid #bfc4cb; border-radius: 6px; padding: 5px 16px; min-height: 18px;
+            background: #f7f8fa;
+        }
+        QPushButton:hover { background: #ffffff; border-color: #8fb4e8; }
+        QPushButton:pressed { background: #e6edf7; }
+        QPushButton:focus { border: 2px solid #2f7de1; padding: 4px 15px; }
+        QPushButton:disabled { border-color: #e0e4e9; color: #9aa0a8; }
+        #band QPushButton {
+            border: 1px solid #5e5e5e; padding: 5px 13px; min-height: 28px;
+            background: #4a4a4a; color: #f4f4f4;
+        }
+        #band QPushButton:hover { background: #5b5b5b; border-color: #7d7d7d; }
+        #band QPushButton:pressed { background: #6a6a6a; }
+        #band QPushButton:focus { border: 2px solid #6fb0ff; padding: 4px 12px; }
+        #foot { border-top: 1px solid #dfe2e7; background: #ffffff; }
+        #optionsPanel { border-left: 1px solid #dfe2e7; background: #ffffff; }
+        #m_settingsViewContainer { border: 1px solid #d5dae1; border-radius: 6px; }
+        QLabel[role="heading"] { color: #59616b; font-weight: 600; }
+        QLabel[role="title"] { font-size: 20px; font-weight: 600; }
+        QProgressBar { border: none; border-radius: 4px; background: #e4e7eb; }
+        QProgressBar::chunk { border-radius: 4px; background: #2f7de1; }
+        #busyCard { border: 1px solid #cfd4db; border-radius: 10px; background: #ffffff; }
+        #busyTitle { font-size: 16px; font-weight: 600; }
+        #busyCount { color: #59616b; }
+    )");
+}
+
 } // namespace
 
 void applyLightLook(QApplication &application) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(lightPalette());
-    application.setEffectEnabled(Qt::UI_AnimateCombo, false);
+    application.setStyleSheet(lightStyleSheet());
 }
 
 } // namespace folioforge

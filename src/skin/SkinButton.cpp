@@ -11,11 +11,17 @@ constexpr double kHoverOpacity = 1.0;
 constexpr double kPressedOpacity = 0.7;
 constexpr double kDisabledOpacity = 0.4;
 
-void drawFocusRing(QPainter &painter, const QRectF &bounds, const QColor &color) {
+constexpr double kCornerRadius = 6.0;
+
+/// A ring just inside the skins' plates, over a breath of its own colour.
+void drawRing(QPainter &painter, const QRectF &bounds, QColor color, double width, double tint) {
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, 2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(bounds.adjusted(1, 1, -1, -1), 6, 6);
+    painter.setPen(QPen(color, width));
+    color.setAlphaF(static_cast<float>(tint));
+    painter.setBrush(color);
+    const double inset = width / 2;
+    painter.drawRoundedRect(bounds.adjusted(inset, inset, -inset, -inset), kCornerRadius,
+                            kCornerRadius);
 }
 
 } // namespace
@@ -136,8 +142,12 @@ void SkinButton::paintEvent(QPaintEvent *event) {
     // Only the keyboard presses the button through its base class.
     const SkinImage &look = isDown() && !m_imageDown.isNull() ? m_imageDown : m_shown;
     look.draw(painter, rect());
-    if (hasFocus()) {
-        drawFocusRing(painter, rect(), palette().color(QPalette::Highlight));
+    const QColor accent = palette().color(QPalette::Highlight);
+    if (isChecked()) {
+        drawRing(painter, rect(), accent, 1.5, 0.10);
+    }
+    if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
+        drawRing(painter, rect(), accent.lighter(130), 2.5, 0.0);
     }
 }
 

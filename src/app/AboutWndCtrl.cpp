@@ -1,0 +1,78 @@
+#include "app/AboutWndCtrl.h"
+
+#include "convert/PropertyList.h"
+#include "error/Error.h"
+#include "ui_AboutWnd.h"
+
+#include <QImageReader>
+
+namespace folioforge {
+namespace {
+
+constexpr int kIconSize = 128;
+
+/// The bundle's property list; empty when it cannot be read.
+QVariantMap bundleInfo(const QString &bundlePath) {
+    try {
+        return readPropertyList(QStringLiteral("%1/Contents/Info.plist").arg(bundlePath));
+    } catch (const Error &) {
+        return {};
+    }
+}
+
+/// The largest picture of an icon file.
+QImage largestImage(const QString &path) {
+    QImageReader reader(path);
+    QImage largest = reader.read();
+    for (int i = 1; i < reader.imageCount(); ++i) {
+        if (!reader.jumpToImage(i)) {
+            break;
+        }
+        if (const QImage image = reader.read(); image.width() > largest.width()) {
+            largest = image;
+        }
+    }
+    return largest;
+}
+
+QPixmap iconPixmap(const QImage &image, double scale) {
+    const int pixels = qRound(kIconSize * scale);
+    QPixmap pixmap = QPixmap::fromImage(
+        image.scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    pixmap.setDevicePixelRatio(scale);
+    return pixmap;
+}
+
+} // namespace
+
+AboutWndCtrl::AboutWndCtrl(const QString &bundlePath)
+    : m_window(std::make_unique<QDialog>()) {
+    Ui::AboutWnd layout;
+    layout.setupUi(m_window.get());
+    m_imageView = layout.m_imageView;
+    const QVariant version =
+        bundleInfo(bundlePath).value(QStringLiteral("CFBundleShortVersionString"));
+    layout.versionLabel->setText(QDialog::tr("Version %1").arg(version.toString()));
+    layout.versionLabel->setVisible(version.isValid());
+    awakeFromNib(bundlePath);
+}
+
+AboutWndCtrl::~AboutWndCtrl() = default;
+
+void AboutWndCtrl::awakeFromNib(const QString &bundlePath) {
+    const QString icon =
+        bundleInfo(bundlePath).value(QStringLiteral("CFBundleIconFile")).toString();
+    m_image = largestImage(QStringLiteral("%1/Contents/Resources/%2.icns").arg(bundlePath, icon));
+    if (!m_image.isNull()) {
+        m_imageView->setPixmap(iconPixmap(m_image, m_window->devicePixelRatioF()));
+    }
+}
+
+void AboutWndCtrl::showWindow(QWidget *parent) {
+    m_window->setParent(parent, Qt::Dialog);
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+}
+
+} // namespace folioforge

@@ -1,0 +1,117 @@
+#include "app/FolioforgeAppDelegate.h"
+
+#include "mainwnd/Desktop.h"
+#include "mainwnd/ProductPages.h"
+
+#include <QCoreApplication>
+#include <QScreen>
+
+#include <algorithm>
+
+namespace folioforge {
+namespace {
+
+/// The item of `menu` titled `title`; null when there is none.
+QAction *itemWithTitle(const QMenu &menu, const QString &title) {
+    const QList<QAction *> items = menu.actions();
+    const auto found = std::ranges::find(items, title, &QAction::text);
+    return found == items.end() ? nullptr : *found;
+}
+
+void center(QWidget &window) {
+    QRect frame = window.frameGeometry();
+    frame.moveCenter(window.screen()->availableGeometry().center());
+    window.move(frame.topLeft());
+}
+
+} // namespace
+
+FolioforgeAppDelegate::FolioforgeAppDelegate(const Surroundings &surroundings)
+    : m_surroundings(surroundings)
+    , m_menuBar(std::make_unique<QMenuBar>()) {
+    setupUi(m_menuBar.get());
+    connectItems();
+    awakeFromNib();
+}
+
+FolioforgeAppDelegate::~FolioforgeAppDelegate() = default;
+
+void FolioforgeAppDelegate::awakeFromNib() {
+    m_mainWndCtrl = std::make_unique<MainWndCtrl>(m_surroundings);
+    m_mainWndCtrl->setDelegateObject(this);
+    if (QAction *update = itemWithTitle(*m_programMenu, tr("Check for Update..."))) {
+        update->setVisible(true);
+    }
+}
+
+void FolioforgeAppDelegate::applicationDidFinishLaunching() {
+    m_mainWndCtrl->setDelegateObject(this);
+    m_mainWndCtrl->window()->setMenuBar(m_menuBar.release());
+    showMainWindow();
+}
+
+void FolioforgeAppDelegate::showMainWindow() {
+    QMainWindow *window = m_mainWndCtrl->window();
+    window->show();
+    window->raise();
+    window->activateWindow();
+    center(*window);
+}
+
+void FolioforgeAppDelegate::connectItems() {
+    using Self = FolioforgeAppDelegate;
+    connect(m_addFilesItem, &QAction::triggered, this, &Self::clickMenuItemAddFiles);
+    connect(m_startItem, &QAction::triggered, this, &Self::clickMenuItemStart);
+    connect(m_quitItem, &QAction::triggered, this, &Self::clickMenuItemQuit);
+    connect(m_supportItem, &QAction::triggered, this, &Self::clickMenuItemSupport);
+    connect(m_productItem, &QAction::triggered, this, &Self::clickMenuItemProduct);
+    connect(m_updateItem, &QAction::triggered, this, &Self::clickMenuItemUpdate);
+    connect(m_aboutItem, &QAction::triggered, this, &Self::clickMenuItemAbout);
+}
+
+// A menu outside the window is not covered by the busy sheet, so the two commands that touch the
+// list keep away from a run themselves.
+
+void FolioforgeAppDelegate::clickMenuItemAddFiles() {
+    if (!m_mainWndCtrl->isConverting()) {
+        m_mainWndCtrl->clickBtnAddFile();
+    }
+}
+
+void FolioforgeAppDelegate::clickMenuItemStart() {
+    if (!m_mainWndCtrl->isConverting()) {
+        m_mainWndCtrl->clickBtnCreate();
+    }
+}
+
+void FolioforgeAppDelegate::clickMenuItemAbout() {
+    if (!m_aboutWndCtrl) {
+        m_aboutWndCtrl = std::make_unique<AboutWndCtrl>(m_surroundings.bundlePath);
+    }
+    m_aboutWndCtrl->showWindow(m_mainWndCtrl->window());
+}
+
+/// There is no updater here: the product page tells what is new and where to get it.
+void FolioforgeAppDelegate::clickMenuItemUpdate() {
+    m_surroundings.desktop.openURL(downloadPage(m_surroundings.bundlePath));
+}
+
+void FolioforgeAppDelegate::clickMenuItemSupport() {
+    m_surroundings.desktop.openURL(tutorialPage(m_surroundings.bundlePath));
+}
+
+void FolioforgeAppDelegate::clickMenuItemProduct() {
+    m_surroundings.desktop.openURL(productPage(m_surroundings.bundlePath));
+}
+
+void FolioforgeAppDelegate::clickMenuItemQuit() {
+    if (applicationShouldTerminate()) {
+        QCoreApplication::quit();
+    }
+}
+
+void FolioforgeAppDelegate::hasFileOpened(bool opened) {
+    m_startItem->setEnabled(opened);
+}
+
+} // namespace folioforge

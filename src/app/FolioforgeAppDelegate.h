@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/AboutWndCtrl.h"
+#include "mainwnd/MainWndCtrl.h"
+#include "mainwnd/Surroundings.h"
+#include "ui_MainMenu.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace folioforge {
+
+/// The application's delegate: makes the main window, carries the menu's commands to it and keeps
+/// the menu's start item in step with the file list.
+///
+/// The menu's items and m_programMenu are the fields of Ui::MainMenu, made from MainMenu.ui.
+class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui::MainMenu {
+    Q_OBJECT
+
+  public:
+    explicit FolioforgeAppDelegate(const Surroundings &surroundings);
+    ~FolioforgeAppDelegate() override;
+
+    /// Makes the controller of the main window and shows the item for updates.
+    void awakeFromNib();
+    /// Loads the main window with its menu and shows it.
+    void applicationDidFinishLaunching();
+    /// Brings the main window to the front and centres it on its screen.
+    void showMainWindow();
+    [[nodiscard]] static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
+    /// Ends the application at once: nothing is saved or asked.
+    [[nodiscard]] static bool applicationShouldTerminate() { return true; }
+
+    void clickMenuItemAddFiles();
+    void clickMenuItemStart();
+    void clickMenuItemAbout();
+    void clickMenuItemUpdate();
+    void clickMenuItemSupport();
+    void clickMenuItemProduct();
+    void clickMenuItemQuit();
+
+    void hasFileOpened(bool opened) override;
+
+    [[nodiscard]] MainWndCtrl &mainWndCtrl() { return *m_mainWndCtrl; }
+
+  private:
+    void connectItems();
+
+    Surroundings m_surroundings;
+    std::unique_ptr<QMenuBar> m_menuBar; ///< The window's from the moment it is loaded.
+    std::unique_ptr<MainWndCtrl> m_mainWndCtrl;
+    std::unique_ptr<AboutWndCtrl> m_aboutWndCtrl;
+};
+
+} // namespace folioforge

@@ -1,0 +1,89 @@
+// Takes the pictures of the window that the documentation shows.
+//
+//   screenshots FOLDER SUFFIX EXAMPLE...   writes FOLDER/<picture>SUFFIX.png
+
+#include "mainwnd/Desktop.h"
+#include "mainwnd/MainWndCtrl.h"
+#include "mainwnd/Notices.h"
+#include "mainwnd/NotificationCenter.h"
+#include "skin/LightLook.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+using namespace folioforge;
+
+/// A desktop that does nothing: taking pictures opens no pages.
+class StillDesktop : public Desktop {
+  public:
+    void runInShell(const QByteArray & /*command*/) override {}
+    void openURL(const QUrl & /*url*/) override {}
+    void openFile(const QString & /*path*/) override {}
+};
+
+class Photographer {
+  public:
+    Photographer(QMainWindow &window, const QString &folder, const QString &suffix)
+        : m_window(window)
+        , m_folder(folder)
+        , m_suffix(suffix) {}
+
+    void take(const QString &name) {
+        QTest::qWait(300); // The options panel slides open and shut.
+        m_window.grab().save(m_folder + u'/' + name + m_suffix + QStringLiteral(".png"));
+    }
+    void press(const char *button) {
+        QTest::mouseClick(m_window.findChild<QWidget *>(QLatin1StringView(button)), Qt::LeftButton);
+    }
+
+  private:
+    QMainWindow &m_window;
+    QString m_folder;
+    QString m_suffix;
+};
+
+void takeAll(MainWndCtrl &controller, Photographer &photographer, const QStringList &examples) {
+    photographer.take(QStringLiteral("window-empty"));
+    controller.addFiles(examples, -1);
+    photographer.take(QStringLiteral("window-files"));
+    photographer.press("m_btnExpand");
+    photographer.take(QStringLiteral("options-image"));
+    photographer.press("m_btnTxtSetting");
+    photographer.take(QStringLiteral("options-text"));
+    photographer.press("m_btnSecuritySetting");
+    photographer.take(QStringLiteral("options-security"));
+    photographer.press("m_btnElapse");
+    controller.window()->findChild<QWidget *>(QStringLiteral("m_prgCreate"))->show();
+    controller.window()->findChild<QWidget *>(QStringLiteral("m_lbProgress"))->show();
+    controller.showAlertView();
+    photographer.take(QStringLiteral("window-busy"));
+    controller.hideAlertView();
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    QApplication application(argc, argv);
+    applyLightLook(application);
+    const QStringList arguments = QApplication::arguments();
+    const QTemporaryDir home;
+    QSettings settings(home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    settings.setValue(QStringLiteral("CustomizeOutputDir"),
+                      QStringLiteral("/home/you/Documents/Folioforge"));
+    StillDesktop desktop;
+    Notices notices;
+    NotificationCenter notifications;
+    MainWndCtrl controller({settings, desktop, notices, notifications, home.path(),
+                            QStringLiteral(FOLIOFORGE_BUNDLE_PATH)});
+    QMainWindow *window = controller.window();
+    window->resize(1000, 660);
+    window->show();
+    Photographer photographer(*window, arguments.value(1), arguments.value(2));
+    takeAll(controller, photographer, arguments.mid(3));
+    return 0;
+}
