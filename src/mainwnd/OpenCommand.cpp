@@ -4,6 +4,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <array>
 
 namespace folioforge {
 
@@ -21,9 +22,10 @@ QByteArray openCommand(const QString &verb, const QString &path) {
 }
 
 bool isSafeInShell(const QString &path) {
-    constexpr QStringView kUnsafe = u"\"`\\\n\r\0\u2028\u2029";
-    return std::none_of(path.begin(), path.end(),
-                        [kUnsafe](QChar unit) { return kUnsafe.contains(unit); });
+    constexpr std::array kUnsafe{u'"', u'`', u'\\', u'\n', u'\r', u'\0'};
+    return std::none_of(path.begin(), path.end(), [&kUnsafe](QChar unit) {
+        return std::ranges::find(kUnsafe, unit) != kUnsafe.end();
+    });
 }
 
 QString openVerb() {

@@ -4,6 +4,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace folioforge {
 namespace {
 
@@ -40,12 +42,12 @@ void SkinButton::setImage(const SkinImage &image) {
 void SkinButton::setNormalImage(const SkinImage &image) {
     m_imageNormal = image;
     updateGeometry();
-    show(image);
+    showImage(image);
 }
 
 void SkinButton::showNormalImage() {
     if (isEnabled()) {
-        show(m_imageNormal);
+        showImage(m_imageNormal);
     }
 }
 
@@ -60,15 +62,15 @@ QSize SkinButton::minimumSizeHint() const {
 void SkinButton::enterEvent(QEnterEvent *event) {
     QPushButton::enterEvent(event);
     if (isEnabled()) {
-        show(m_imageOn);
+        showImage(m_imageOn);
     }
 }
 
 /// The hover look stays after leaving, as on entering; showNormalImage() or the next drag ends it.
 void SkinButton::leaveEvent(QEvent *event) {
     QPushButton::leaveEvent(event);
-    if (isEnabled()) {
-        show(m_imageOn);
+    if (isEnabled() && !std::exchange(m_leftInDrag, false)) {
+        showImage(m_imageOn);
     }
 }
 
@@ -79,7 +81,7 @@ void SkinButton::mousePressEvent(QMouseEvent *event) {
     }
     event->setAccepted(event->button() == Qt::LeftButton);
     if (event->isAccepted() && !m_imageDown.isNull()) {
-        show(m_imageDown);
+        showImage(m_imageDown);
     }
 }
 
@@ -89,7 +91,8 @@ void SkinButton::mouseMoveEvent(QMouseEvent *event) {
         return;
     }
     if (event->buttons().testFlag(Qt::LeftButton)) {
-        show(m_tracking.contains(event->position().toPoint()) ? m_imageDown : m_imageNormal);
+        m_leftInDrag = !m_tracking.contains(event->position().toPoint());
+        showImage(m_leftInDrag ? m_imageNormal : m_imageDown);
     }
 }
 
@@ -102,14 +105,14 @@ void SkinButton::mouseReleaseEvent(QMouseEvent *event) {
         return;
     }
     if (!m_imageOn.isNull()) {
-        show(m_imageOn);
+        showImage(m_imageOn);
     }
     const bool inside = m_tracking.contains(event->position().toPoint());
     if (!inside && m_shown != m_imageNormal) {
-        show(m_imageNormal);
+        showImage(m_imageNormal);
         return;
     }
-    show(m_imageOn);
+    showImage(m_imageOn);
     Q_EMIT clicked();
 }
 
@@ -129,7 +132,7 @@ void SkinButton::resizeEvent(QResizeEvent *event) {
 void SkinButton::changeEvent(QEvent *event) {
     QPushButton::changeEvent(event);
     if (event->type() == QEvent::EnabledChange) {
-        show(isEnabled() ? m_imageNormal : m_imageDisable);
+        showImage(isEnabled() ? m_imageNormal : m_imageDisable);
     }
 }
 
@@ -151,7 +154,7 @@ void SkinButton::paintEvent(QPaintEvent *event) {
     }
 }
 
-void SkinButton::show(const SkinImage &image) {
+void SkinButton::showImage(const SkinImage &image) {
     if (m_shown != image) {
         m_shown = image;
         update();

@@ -56,7 +56,7 @@ class SkinButton : public QPushButton {
 
   private:
     [[nodiscard]] bool isSkinned() const { return !m_imageNormal.isNull(); }
-    void show(const SkinImage &image);
+    void showImage(const SkinImage &image);
 
     SkinImage m_imageOn;
     SkinImage m_imageDown;
@@ -64,6 +64,9 @@ class SkinButton : public QPushButton {
     SkinImage m_imageDisable;
     QRect m_tracking;
     SkinImage m_shown;
+    /// The pointer left during a drag, which has shown that already; the system tells only when the
+    /// mouse is released.
+    bool m_leftInDrag = false;
 };
 
 } // namespace folioforge
