@@ -1,8 +1,8 @@
 #pragma once
 
 #include "image/EncodedImage.h"
+#include "image/ImageFile.h"
 #include "image/ImageHeader.h"
-#include "image/SourceFile.h"
 
 #include <QByteArrayView>
 #include <QLatin1StringView>

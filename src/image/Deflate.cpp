@@ -11,8 +11,8 @@ namespace folioforge {
 
 namespace {
 
-/// Above this level the compressor takes twice the time for a few percent.
-constexpr int kLevel = 4;
+/// Above this level the compressor takes twice the time for less than a percent.
+constexpr int kLevel = 6;
 
 struct FreeCompressor {
     void operator()(libdeflate_compressor *compressor) const {

@@ -49,13 +49,13 @@ QSizeF ImageHeader::sizeInPoints() const {
 }
 
 ImageHeader readImageHeader(const QString &path) {
-    const SourceFile file = SourceFile::open(path);
+    const ImageFile file = ImageFile::open(path);
     const Decoder &decoder = decoderFor(file.view());
     return checked(decoder.readHeader(file.view()), decoder.format);
 }
 
 EncodedImage encodeImage(const QString &path) {
-    const SourceFile file = SourceFile::open(path);
+    const ImageFile file = ImageFile::open(path);
     const Decoder &decoder = decoderFor(file.view());
     checked(decoder.readHeader(file.view()), decoder.format);
     try {

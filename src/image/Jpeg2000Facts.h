@@ -1,7 +1,7 @@
 #pragma once
 
+#include "image/ImageFile.h"
 #include "image/ImageHeader.h"
-#include "image/SourceFile.h"
 
 #include <QByteArray>
 

@@ -108,21 +108,58 @@ void readPlane(PlaneReader &reader, const PsdFacts &facts, const PlaneTarget &ta
     }
 }
 
-/// Photoshop lays the merged image on white before it writes it; taking the white away again
-/// leaves the colour that the soft mask expects.
-template<typename Sample> void removeWhiteMatte(Raster &raster) {
-    constexpr int full = std::numeric_limits<Sample>::max();
-    const int channels = channelCount(raster.color);
-    auto *color = reinterpret_cast<uchar *>(raster.samples.data());
-    const auto *alpha = reinterpret_cast<const uchar *>(raster.alpha->samples.constData());
-    for (qint64 i = 0; i < qint64(raster.width) * raster.height; ++i) {
-        const qint64 opacity = qFromBigEndian<Sample>(alpha + i * qint64(sizeof(Sample)));
-        for (int c = 0; opacity > 0 && opacity < full && c < channels; ++c) {
-            uchar *sample = color + (i * channels + c) * qint64(sizeof(Sample));
-            const qint64 ink = full - qint64(qFromBigEndian<Sample>(sample));
-            const qint64 straight = std::max<qint64>(full - ink * full / opacity, 0);
-            qToBigEndian(static_cast<Sample>(straight), sample);
+/// The merged image's pixels, with what white would have to be taken from them.
+template<typename Sample> class WhiteMatte {
+  public:
+    explicit WhiteMatte(Raster &raster)
+        : m_color(reinterpret_cast<uchar *>(raster.samples.data()))
+        , m_alpha(reinterpret_cast<const uchar *>(raster.alpha->samples.constData()))
+        , m_samples(qint64(raster.width) * raster.height * channelCount(raster.color))
+        , m_channels(channelCount(raster.color)) {}
+
+    /// Whether every colour could be one laid on white: a pixel of little opacity is then bright.
+    [[nodiscard]] bool isThere() const {
+        constexpr qint64 kRounding = kFull / 100;
+        for (qint64 i = 0; i < m_samples; ++i) {
+            if (ink(i) > opacity(i) + kRounding) {
+                return false;
+            }
         }
+        return true;
+    }
+
+    void remove() {
+        for (qint64 i = 0; i < m_samples; ++i) {
+            if (opacity(i) > 0 && opacity(i) < kFull) {
+                const qint64 straight = std::max<qint64>(kFull - ink(i) * kFull / opacity(i), 0);
+                qToBigEndian(static_cast<Sample>(straight), m_color + i * kBytes);
+            }
+        }
+    }
+
+  private:
+    static constexpr qint64 kFull = std::numeric_limits<Sample>::max();
+    static constexpr qint64 kBytes = sizeof(Sample);
+
+    [[nodiscard]] qint64 ink(qint64 i) const {
+        return kFull - qFromBigEndian<Sample>(m_color + i * kBytes);
+    }
+    [[nodiscard]] qint64 opacity(qint64 i) const {
+        return qFromBigEndian<Sample>(m_alpha + i / m_channels * kBytes);
+    }
+
+    uchar *m_color;
+    const uchar *m_alpha;
+    qint64 m_samples;
+    int m_channels;
+};
+
+/// Photoshop lays the merged image on white before it writes it; taking the white away again
+/// leaves the colour that the soft mask expects. Other programs write the colours as they are.
+template<typename Sample> void removeWhiteMatte(Raster &raster) {
+    WhiteMatte<Sample> matte(raster);
+    if (matte.isThere()) {
+        matte.remove();
     }
 }
 

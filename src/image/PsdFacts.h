@@ -1,7 +1,7 @@
 #pragma once
 
 #include "image/EncodedImage.h"
-#include "image/SourceFile.h"
+#include "image/ImageFile.h"
 
 #include <QByteArray>
 

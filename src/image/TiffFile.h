@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/SourceFile.h"
+#include "image/ImageFile.h"
 
 #include <tiffio.h>
 

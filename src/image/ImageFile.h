@@ -12,16 +12,16 @@ class FileView;
 
 /// A regular file open for reading, never for writing. Pipes, devices and folders are refused
 /// before they are opened, because opening or reading one may wait for ever.
-class SourceFile {
+class ImageFile {
   public:
     /// Opens the file at `path`; throws Error when it is no regular file or cannot be opened.
-    static SourceFile open(const QString &path);
+    static ImageFile open(const QString &path);
 
-    SourceFile(SourceFile &&other) noexcept;
-    SourceFile &operator=(SourceFile &&) = delete;
-    SourceFile(const SourceFile &) = delete;
-    SourceFile &operator=(const SourceFile &) = delete;
-    ~SourceFile();
+    ImageFile(ImageFile &&other) noexcept;
+    ImageFile &operator=(ImageFile &&) = delete;
+    ImageFile(const ImageFile &) = delete;
+    ImageFile &operator=(const ImageFile &) = delete;
+    ~ImageFile();
 
     /// The path that was opened.
     [[nodiscard]] const QString &path() const { return m_path; }
@@ -34,7 +34,7 @@ class SourceFile {
     [[nodiscard]] FileView view() const;
 
   private:
-    SourceFile(QString path, int descriptor, qint64 size);
+    ImageFile(QString path, int descriptor, qint64 size);
 
     QString m_path;
     int m_descriptor;
@@ -45,7 +45,7 @@ class SourceFile {
 /// only a view, so an image inside a container (an entry of an icon file) is read as a file is.
 class FileView {
   public:
-    FileView(const SourceFile &file, qint64 offset, qint64 size);
+    FileView(const ImageFile &file, qint64 offset, qint64 size);
 
     [[nodiscard]] const QString &path() const { return m_file->path(); }
     /// Bytes from the start of the file to the start of this view.
@@ -62,7 +62,7 @@ class FileView {
     [[nodiscard]] FileView part(qint64 at, qint64 length) const;
 
   private:
-    const SourceFile *m_file;
+    const ImageFile *m_file;
     qint64 m_offset;
     qint64 m_size;
 };

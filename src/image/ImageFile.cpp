@@ -1,4 +1,4 @@
-#include "image/SourceFile.h"
+#include "image/ImageFile.h"
 
 #include "error/Error.h"
 
@@ -31,23 +31,23 @@ void requireRegularFile(const struct stat &status) {
 
 } // namespace
 
-SourceFile::SourceFile(QString path, int descriptor, qint64 size)
+ImageFile::ImageFile(QString path, int descriptor, qint64 size)
     : m_path(std::move(path))
     , m_descriptor(descriptor)
     , m_size(size) {}
 
-SourceFile::SourceFile(SourceFile &&other) noexcept
+ImageFile::ImageFile(ImageFile &&other) noexcept
     : m_path(std::move(other.m_path))
     , m_descriptor(std::exchange(other.m_descriptor, -1))
     , m_size(other.m_size) {}
 
-SourceFile::~SourceFile() {
+ImageFile::~ImageFile() {
     if (m_descriptor >= 0) {
         ::close(m_descriptor);
     }
 }
 
-SourceFile SourceFile::open(const QString &path) {
+ImageFile ImageFile::open(const QString &path) {
     const QString failed = QStringLiteral("The file cannot be opened");
     const QByteArray name = QFile::encodeName(path);
     struct stat status = {};
@@ -60,7 +60,7 @@ SourceFile SourceFile::open(const QString &path) {
     if (descriptor < 0) {
         throwSystemError(failed, errno);
     }
-    SourceFile file(path, descriptor, 0);
+    ImageFile file(path, descriptor, 0);
     if (::fstat(descriptor, &status) != 0) {
         throwSystemError(failed, errno);
     }
@@ -69,7 +69,7 @@ SourceFile SourceFile::open(const QString &path) {
     return file;
 }
 
-qint64 SourceFile::readInto(qint64 at, std::span<uchar> target) const {
+qint64 ImageFile::readInto(qint64 at, std::span<uchar> target) const {
     size_t done = 0;
     while (done < target.size()) {
         const ssize_t got = ::pread(m_descriptor, target.data() + done, target.size() - done,
@@ -88,11 +88,11 @@ qint64 SourceFile::readInto(qint64 at, std::span<uchar> target) const {
     return static_cast<qint64>(done);
 }
 
-FileView SourceFile::view() const {
+FileView ImageFile::view() const {
     return {*this, 0, m_size};
 }
 
-FileView::FileView(const SourceFile &file, qint64 offset, qint64 size)
+FileView::FileView(const ImageFile &file, qint64 offset, qint64 size)
     : m_file(&file)
     , m_offset(offset)
     , m_size(size) {}
