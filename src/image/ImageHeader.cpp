@@ -3,6 +3,7 @@
 #include "error/Error.h"
 #include "image/Sniffer.h"
 
+#include <cmath>
 #include <new>
 
 namespace folioforge {
@@ -17,6 +18,14 @@ constexpr double kDefaultDpi = 72;
 
 bool isSaneDensity(double dpi) {
     return dpi >= kLeastDpi && dpi <= kMostDpi; // False for NaN.
+}
+
+/// PNG and BMP count in whole pixels per metre, which no usual density is: 72 per inch is stored as
+/// 2835 and read back as 72.009. A density as near to a whole number as that unit can come is it.
+double wholeWhereMeant(double dpi) {
+    constexpr double kHalfPixelPerMetre = 0.5 * 0.0254;
+    const double whole = std::round(dpi);
+    return std::abs(dpi - whole) <= kHalfPixelPerMetre ? whole : dpi;
 }
 
 ImageHeader checked(ImageHeader header, ImageFormat format) {
@@ -36,6 +45,8 @@ ImageHeader checked(ImageHeader header, ImageFormat format) {
         header.horizontalDpi = kDefaultDpi;
         header.verticalDpi = kDefaultDpi;
     }
+    header.horizontalDpi = wholeWhereMeant(header.horizontalDpi);
+    header.verticalDpi = wholeWhereMeant(header.verticalDpi);
     return header;
 }
 
