@@ -1,0 +1,46 @@
+#pragma once
+
+#include "convert/ConversionOptions.h"
+#include "filelist/Orders.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <span>
+#include <variant>
+#include <vector>
+
+namespace folioforge {
+
+enum class ProgressMode { Auto, Always, Never };
+
+/// What the program is asked to do.
+enum class Request { Convert, ShowVersion, ShowHelp };
+
+/// The arguments of one call, read but not checked.
+struct Arguments {
+    Request request = Request::Convert;
+    ConversionOptions options; ///< Without the passwords, which no argument holds.
+    /// Files whose first line is a password; "-" for standard input.
+    std::optional<QByteArray> userPasswordFile;
+    std::optional<QByteArray> ownerPasswordFile;
+    std::optional<SortOrder> sort; ///< Nothing: as given.
+    ProgressMode progress = ProgressMode::Auto;
+    bool json = false;
+    bool quiet = false;
+    std::vector<QByteArray> inputs; ///< Paths in the system's own bytes.
+};
+
+/// A fault in the arguments, as a sentence without a full stop.
+struct UsageError {
+    QString message;
+};
+
+/// Reads the arguments behind the program's name.
+std::variant<Arguments, UsageError> parseArguments(std::span<const QByteArray> arguments);
+
+/// The text of --help.
+QByteArray helpText();
+
+} // namespace folioforge

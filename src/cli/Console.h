@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace folioforge {
+
+/// `text` fit for a terminal: control characters, which could move the cursor or hide a name, are
+/// written as \xNN or \u{NNNN}.
+QString printable(const QString &text);
+
+/// The terminal or the pipes behind it: standard output for results, standard error for messages
+/// and the progress line, which gives way to each message.
+class Console {
+  public:
+    /// Writes one line to standard output.
+    void result(const QByteArray &line);
+    /// Writes "folioforge-cli: `message`" to standard error, made printable.
+    void complain(const QString &message);
+    /// Writes one more line of the same message to standard error, made printable.
+    void addLine(const QString &line);
+    /// Replaces the progress line; an empty text takes it away.
+    void showProgress(const QString &text);
+    /// Whether everything given to result() has arrived.
+    [[nodiscard]] bool resultsArrived() const { return m_resultsArrived; }
+
+  private:
+    void eraseProgress();
+
+    bool m_progressShown = false;
+    bool m_resultsArrived = true;
+};
+
+} // namespace folioforge

@@ -1,0 +1,51 @@
+#include "cli/Arguments.h"
+
+namespace folioforge {
+
+QByteArray helpText() {
+    return R"(Usage: folioforge-cli [options] FILE|FOLDER...
+
+Turns text files, pictures and PDFs into PDF documents, one for each or all in one.
+Of a folder its text files and pictures are taken, one level deep.
+
+Output
+  --output-folder DIR          a PDF for each input, here (default: the current folder)
+  --merge PATH                 one PDF of all, in the order given; ".pdf" is added where it
+                               is missing, and a file that exists is never replaced
+  --flush always|never         whether a PDF is flushed to disk before it gets its name
+                               (default always; never suits scratch disks)
+  --compress none|150m|96m|72l images reduced, from mildest to strongest (default none)
+
+Document
+  --title TEXT  --author TEXT  --subject TEXT  --keywords TEXT
+  --user-password-file FILE    the password to open the PDF: first line of FILE, "-" for
+                               standard input; or in FOLIOFORGE_USER_PASSWORD
+  --owner-password-file FILE   the password to change permissions; or in
+                               FOLIOFORGE_OWNER_PASSWORD. With "-" for both, the user
+                               password is the first line and this one the second
+  --refuse-print --refuse-copy what readers may not do (count only with an owner password)
+
+Pages, in points of 1/72 inch
+  --text-page-size A3|A4|A5|WxH    (default A4)
+  --text-margins T,R,B,L           (default 72,72,72,72; one number serves for all four)
+  --image-page-size image|WxH      (default image: the page takes the picture's size)
+  --image-margins T,R,B,L          (default 0,0,0,0)
+
+Order
+  --sort name|natural|size|created|modified    (default: as given)
+
+Report
+  --progress auto|always|never     a progress line on standard error (default auto: on a
+                                   terminal)
+  --json                           one object a line on standard output for each input
+  --quiet                          nothing but errors
+  --version  --help
+
+"--" ends the options: what follows is a file even where it starts with "-".
+
+Exit status: 0 all converted; 1 some inputs failed or were rejected, the rest converted;
+2 wrong arguments or settings, nothing written.
+)";
+}
+
+} // namespace folioforge

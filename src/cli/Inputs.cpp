@@ -1,0 +1,81 @@
+#include "cli/Inputs.h"
+
+#include "error/Error.h"
+#include "filelist/FileKind.h"
+#include "filelist/SourceFiles.h"
+#include "filelist/TextSource.h"
+
+#include <filesystem>
+
+namespace folioforge {
+namespace {
+
+/// Makes the entry of a file of a recognised type; throws Error when it cannot be converted.
+PDFFileInfo readEntry(const QString &path, Input &input) {
+    requireReadableFile(path);
+    const FileKind kind = fileKind(path);
+    if (kind == FileKind::Other) {
+        throw Error(QStringLiteral("It is not a recognised type"));
+    }
+    if (QString reason; kind == FileKind::Pdf && !isAcceptablePdf(path, &reason)) {
+        input.refusedPdf = true;
+        throw Error(reason);
+    }
+    PDFFileInfo entry(path);
+    if (!entry.readError().isEmpty()) {
+        throw Error(entry.readError());
+    }
+    return entry;
+}
+
+Input collectFile(const QByteArray &path, StandIns &standIns) {
+    Input input;
+    input.shown = QString::fromUtf8(path);
+    try {
+        input.entry = readEntry(standIns.pathFor(path), input);
+    } catch (const Error &error) {
+        input.rejection = error.reason();
+    }
+    return input;
+}
+
+QByteArray withoutSlashesAtEnd(QByteArray path) {
+    while (path.size() > 1 && path.endsWith('/')) {
+        path.chop(1);
+    }
+    return path;
+}
+
+} // namespace
+
+std::vector<Input> collectInputs(std::span<const QByteArray> paths, StandIns &standIns) {
+    std::vector<Input> inputs;
+    for (const QByteArray &path : paths) {
+        std::error_code unknown;
+        if (!std::filesystem::is_directory(path.toStdString(), unknown)) {
+            inputs.push_back(collectFile(path, standIns));
+            continue;
+        }
+        const QByteArray folder = withoutSlashesAtEnd(path);
+        for (const QByteArray &name : recognisedNames(folder)) {
+            inputs.push_back(collectFile(folder + '/' + name, standIns));
+        }
+    }
+    return inputs;
+}
+
+void sortInputs(std::vector<Input> &inputs, SortOrder order) {
+    std::vector<const PDFFileInfo *> entries;
+    entries.reserve(inputs.size());
+    for (const Input &input : inputs) {
+        entries.push_back(&input.entry);
+    }
+    std::vector<Input> sorted;
+    sorted.reserve(inputs.size());
+    for (const std::size_t position : arrangedOrder(entries, order)) {
+        sorted.push_back(std::move(inputs[position]));
+    }
+    inputs = std::move(sorted);
+}
+
+} // namespace folioforge

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "cli/StandIns.h"
+#include "filelist/Orders.h"
+#include "filelist/PDFFileInfo.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace folioforge {
+
+/// One input as it was named or found in a folder.
+struct Input {
+    QString shown; ///< The path as it was given, for reports.
+    PDFFileInfo entry;
+    QString rejection;       ///< Why it cannot be converted; empty when it can.
+    bool refusedPdf = false; ///< Rejected as a PDF that is encrypted or no normal one.
+};
+
+/// The inputs that `paths` name, in that order. A folder stands for its text and image files. A
+/// file that is missing, of no recognised type or unreadable is rejected with its reason.
+std::vector<Input> collectInputs(std::span<const QByteArray> paths, StandIns &standIns);
+
+/// Brings the inputs into `order`.
+void sortInputs(std::vector<Input> &inputs, SortOrder order);
+
+} // namespace folioforge

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "text/PageSetup.h"
+
+#include <QByteArray>
+#include <QLatin1StringView>
+#include <QString>
+#include <QStringList>
+
+#include <exception>
+#include <initializer_list>
+#include <utility>
+
+namespace folioforge {
+
+/// What is wrong with an argument, as a sentence without a full stop; caught by parseArguments().
+class ArgumentFault : public std::exception {
+  public:
+    explicit ArgumentFault(QString text)
+        : m_text(std::move(text)) {}
+    [[nodiscard]] const QString &text() const { return m_text; }
+
+  private:
+    QString m_text;
+};
+
+/// `bytes` as text. Throws ArgumentFault when they are not valid UTF-8.
+QString textOf(const QByteArray &bytes);
+
+/// The value of the word `text` among `words`. Throws ArgumentFault when it is none of them.
+template<typename Value>
+Value chosen(const QString &text,
+             std::initializer_list<std::pair<QLatin1StringView, Value>> words) {
+    QStringList known;
+    for (const auto &[word, value] : words) {
+        if (text == word) {
+            return value;
+        }
+        known += word;
+    }
+    throw ArgumentFault(
+        QStringLiteral("\"%1\" is none of %2").arg(text, known.join(QStringLiteral(", "))));
+}
+
+/// Margins from "T,R,B,L", or from one number for all four. Throws ArgumentFault.
+PageMargins parseMargins(const QString &text);
+
+/// Puts the page size "A3", "A4", "A5" or "WxH" into `setup`. Throws ArgumentFault.
+void parseTextPageSize(const QString &text, PageSetup &setup);
+
+/// Puts the page size "image" or "WxH" into `setup`. Throws ArgumentFault.
+void parseImagePageSize(const QString &text, PageSetup &setup);
+
+} // namespace folioforge

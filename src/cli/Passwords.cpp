@@ -1,0 +1,78 @@
+#include "cli/Passwords.h"
+
+#include "cli/OptionValues.h"
+
+#include <QFile>
+
+#include <cstdio>
+
+namespace folioforge {
+namespace {
+
+constexpr qint64 kLongestLine = 65536;
+
+/// The first line of `file` without its line ending.
+QByteArray readLine(QFile &file, const QByteArray &name) {
+    QByteArray line = file.readLine(kLongestLine);
+    if (file.error() != QFileDevice::NoError) {
+        throw ArgumentFault(QStringLiteral("The password file \"%1\" cannot be read: %2")
+                                .arg(QString::fromUtf8(name), file.errorString()));
+    }
+    while (line.endsWith('\n') || line.endsWith('\r')) {
+        line.chop(1);
+    }
+    return line;
+}
+
+/// Reads passwords one after another; standard input is opened once and goes on where the last
+/// line ended.
+class PasswordReader {
+  public:
+    std::optional<QString> read(const std::optional<QByteArray> &name, const char *variable) {
+        const QByteArray ambient = qgetenv(variable);
+        if (!name && ambient.isEmpty()) {
+            return std::nullopt;
+        }
+        const QByteArray bytes = name ? firstLine(*name) : ambient;
+        try {
+            return textOf(bytes);
+        } catch (const ArgumentFault &) {
+            // The usual words would print the password.
+            throw ArgumentFault(QStringLiteral("A password is not valid UTF-8"));
+        }
+    }
+
+  private:
+    QByteArray firstLine(const QByteArray &name) {
+        if (name == "-") {
+            if (!m_input.isOpen() && !m_input.open(stdin, QIODevice::ReadOnly)) {
+                throw ArgumentFault(QStringLiteral("Standard input cannot be read"));
+            }
+            return readLine(m_input, name);
+        }
+        QFile file(QFile::decodeName(name));
+        if (!file.open(QIODevice::ReadOnly)) {
+            throw ArgumentFault(QStringLiteral("The password file \"%1\" cannot be read: %2")
+                                    .arg(QString::fromUtf8(name), file.errorString()));
+        }
+        return readLine(file, name);
+    }
+
+    QFile m_input;
+};
+
+} // namespace
+
+void readPasswords(const Arguments &arguments, SecuritySettings &security) {
+    PasswordReader reader;
+    if (const auto user = reader.read(arguments.userPasswordFile, "FOLIOFORGE_USER_PASSWORD")) {
+        security.useUserPassword = true;
+        security.userPassword = *user;
+    }
+    if (const auto owner = reader.read(arguments.ownerPasswordFile, "FOLIOFORGE_OWNER_PASSWORD")) {
+        security.useOwnerPassword = true;
+        security.ownerPassword = *owner;
+    }
+}
+
+} // namespace folioforge

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "image/EncodedImage.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace folioforge {
+
+/// How one input went.
+struct InputResult {
+    enum class State {
+        Finished, ///< Its pages stand in `output`.
+        Failed,   ///< It was accepted, but its pages or its PDF could not be written.
+        Rejected  ///< It did not enter the list.
+    };
+    QString input;
+    QString output; ///< Path of its PDF; empty where there is none.
+    int pages = 0;
+    State state = State::Finished;
+    QString message; ///< The reason of a failure, or a warning.
+    std::optional<EmbeddedAs> embedded;
+    std::optional<qint64> bytesBefore; ///< Size of the PDF before the compression pass.
+    std::optional<qint64> bytesAfter;  ///< And after it.
+};
+
+/// The result as one JSON object on one line, without a line ending.
+QByteArray toJson(const InputResult &result);
+
+/// The message on standard error for a failure or a warning; empty when there is nothing to say.
+QString toMessage(const InputResult &result);
+
+} // namespace folioforge

@@ -1,0 +1,35 @@
+#include "cli/Arguments.h"
+#include "cli/Console.h"
+#include "cli/Interruption.h"
+#include "cli/Locale.h"
+#include "cli/Run.h"
+
+#include <QCoreApplication>
+
+using namespace folioforge;
+
+int main(int argc, char *argv[]) {
+    useUtf8FileNames();
+    const std::vector<QByteArray> words(argv + 1, argv + argc);
+    const auto parsed = parseArguments(words);
+    Console console;
+    if (const auto *fault = std::get_if<UsageError>(&parsed)) {
+        console.complain(fault->message);
+        console.complain(QStringLiteral("Try \"folioforge-cli --help\"."));
+        return WrongUsage;
+    }
+    const auto &arguments = std::get<Arguments>(parsed);
+    switch (arguments.request) {
+    case Request::ShowVersion:
+        console.result("folioforge-cli " FOLIOFORGE_VERSION);
+        return AllConverted;
+    case Request::ShowHelp:
+        console.result(helpText());
+        return AllConverted;
+    case Request::Convert:
+        break;
+    }
+    const QCoreApplication application(argc, argv);
+    prepareForSignals();
+    return runConversion(arguments);
+}

@@ -1,0 +1,351 @@
+#include "convert/Conversion.h"
+
+#include "convert/PageWriters.h"
+#include "support/Files.h"
+#include "support/PdfProbe.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace folioforge;
+using test::PdfProbe;
+
+namespace {
+
+/// Writes down what it hears.
+class Recorder : public ConversionObserver {
+  public:
+    void progressChanged(float value) override { values += value; }
+    void entryDone(std::size_t index, bool written) override {
+        entries += QString::number(index) + (written ? u'+' : u'-');
+    }
+
+    QList<float> values;
+    QStringList entries;
+};
+
+/// Stops the run as soon as one entry is done.
+class Stopper : public ConversionObserver {
+  public:
+    void progressChanged(float) override { source.request_stop(); }
+    void entryDone(std::size_t, bool) override {}
+
+    std::stop_source source;
+};
+
+const QString kOwner = QStringLiteral("owner");
+const QString kUser = QStringLiteral("user");
+
+/// What `qpdf --show-encryption` says about the PDF at `path` when opened with `password`.
+QString encryptionOf(const QString &path, const QString &password) {
+    return QString::fromUtf8(
+        test::runTool(QStringLiteral("qpdf"), {QStringLiteral("--password=") + password,
+                                               QStringLiteral("--show-encryption"), path})
+            .out);
+}
+
+} // namespace
+
+class ConversionTest : public QObject {
+    Q_OBJECT
+
+  private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::vector<std::unique_ptr<PDFFileInfo>> m_list;
+    ConversionOptions m_options;
+
+    QString path(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
+    void addFile(const QString &file) { m_list.push_back(std::make_unique<PDFFileInfo>(file)); }
+    void addText(const char *name, const QByteArray &bytes) {
+        addFile(test::writeFile(path(name), bytes));
+    }
+    PDFOutcome convertTo(const QString &target, ConversionObserver *observer = nullptr,
+                         const std::stop_token &stop = {}) const {
+        std::vector<const PDFFileInfo *> entries;
+        for (const auto &entry : m_list) {
+            entries.push_back(entry.get());
+        }
+        return createPDF(entries, target, m_options, observer, stop);
+    }
+    QStringList outputs() const {
+        return QDir(m_options.outputFolder).entryList(QDir::Files | QDir::Hidden);
+    }
+
+  private Q_SLOTS:
+    void init() {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("out")));
+        m_list.clear();
+        m_options = {};
+        m_options.outputFolder = path("out");
+        m_options.flush = Flush::Never;
+    }
+
+    void entriesOfEveryKindMergeInTheirOrder() {
+        addText("a.txt", "first words");
+        addFile(test::writePng(path("b.png"), 300, 150));
+        addFile(test::writePdf(path("c.pdf"), 2));
+        m_options.merge = true;
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"));
+        QCOMPARE(outcome.close.status, CloseResult::Status::Written);
+        QCOMPARE(outcome.close.path, path("out/all.pdf"));
+        const PdfProbe probe(outcome.close.path);
+        QVERIFY(probe.isValid());
+        QCOMPARE(probe.pageCount(), 4);
+        QVERIFY(probe.text(1).contains(QStringLiteral("first words")));
+        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 595, 842));
+        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 2), QRectF(0, 0, 300, 150));
+        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 3), QRectF(0, 0, 200, 100));
+        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 4), QRectF(0, 0, 210, 100));
+        QCOMPARE(outcome.entries.size(), 3);
+        QCOMPARE(outcome.entries[2].pages, 2);
+        QVERIFY(outcome.entries[1].embeddedAs);
+        QVERIFY(!outcome.entries[0].embeddedAs);
+    }
+
+    void fivePagesArriveWithABoxEach() {
+        addFile(test::writePdf(path("five.pdf"), 5));
+        const PDFOutcome outcome = convertTo(path("out/five.pdf"));
+        QCOMPARE(outcome.entries[0].pages, 5);
+        const PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.pageCount(), 5);
+        for (int page = 1; page <= 5; ++page) {
+            QCOMPARE(probe.box(QStringLiteral("MediaBox"), page),
+                     QRectF(0, 0, 190 + 10 * page, 100));
+        }
+    }
+
+    void anImageFillsTheFixedPage() {
+        addFile(test::writePng(path("a.png"), 100, 50));
+        m_options.imagePage = {ImagePageCustom, 612, 792, {36, 36, 36, 36}};
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        const PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 612, 792));
+        // Drawn from (36, 261) to (576, 531) from below: rows 261 to 531 from above, too.
+        const QImage page = probe.render(1);
+        QCOMPARE(page.size(), QSize(612, 792));
+        QCOMPARE(page.pixelColor(40, 265), QColor(Qt::red));
+        QCOMPARE(page.pixelColor(570, 527), QColor(Qt::red));
+        QCOMPARE(page.pixelColor(30, 400), QColor(Qt::white));
+        QCOMPARE(page.pixelColor(300, 256), QColor(Qt::white));
+        QCOMPARE(page.pixelColor(300, 536), QColor(Qt::white));
+    }
+
+    void theDocumentSaysWhatItIsAndWhoMadeIt() {
+        addText("a.txt", "x");
+        m_options.info.title = QStringLiteral("Títle 标题");
+        m_options.info.author = QStringLiteral("A. Uthor");
+        m_options.info.subject = QStringLiteral("Sub");
+        m_options.info.keywords = QStringLiteral("k, w");
+        const PdfProbe probe(convertTo(path("out/a.pdf")).close.path);
+        QCOMPARE(probe.info(QStringLiteral("Title")), m_options.info.title);
+        QCOMPARE(probe.info(QStringLiteral("Author")), m_options.info.author);
+        QCOMPARE(probe.info(QStringLiteral("Subject")), m_options.info.subject);
+        QCOMPARE(probe.info(QStringLiteral("Keywords")), m_options.info.keywords);
+        QCOMPARE(probe.info(QStringLiteral("Creator")), QStringLiteral("Vesprin-Folioforge"));
+    }
+
+    void aUserPasswordAloneIsTheOwnersTooAndRefusesNothing() {
+        addText("a.txt", "x");
+        m_options.security = {true, kUser, false, kOwner, true, true};
+        const QString file = convertTo(path("out/a.pdf")).close.path;
+        QCOMPARE(PdfProbe(file).pageCount(), 0);
+        const QString facts = encryptionOf(file, kUser);
+        QVERIFY2(facts.contains(QStringLiteral("R = 6")), qPrintable(facts));
+        QVERIFY2(facts.contains(QStringLiteral("Supplied password is owner password")),
+                 qPrintable(facts));
+        QVERIFY2(facts.contains(QStringLiteral("Supplied password is user password")),
+                 qPrintable(facts));
+        QVERIFY2(!facts.contains(QStringLiteral("not allowed")), qPrintable(facts));
+    }
+
+    void aTickedBoxRefusesItsPermission_data() {
+        QTest::addColumn<bool>("print");
+        QTest::addColumn<bool>("copy");
+        QTest::newRow("none") << false << false;
+        QTest::newRow("print") << true << false;
+        QTest::newRow("copy") << false << true;
+        QTest::newRow("both") << true << true;
+    }
+
+    void aTickedBoxRefusesItsPermission() {
+        QFETCH(const bool, print);
+        QFETCH(const bool, copy);
+        addText("a.txt", "x");
+        m_options.security = {true, kUser, true, kOwner, print, copy};
+        const QString facts = encryptionOf(convertTo(path("out/a.pdf")).close.path, kUser);
+        const auto isAllowed = [&facts](const char *what) {
+            return facts.contains(QString::fromLatin1(what) + QStringLiteral(": allowed"));
+        };
+        QCOMPARE(isAllowed("print low resolution"), !print);
+        QCOMPARE(isAllowed("print high resolution"), !print);
+        QCOMPARE(isAllowed("extract for any purpose"), !copy);
+        QVERIFY2(isAllowed("modify annotations"), qPrintable(facts));
+        QVERIFY(isAllowed("modify forms"));
+        QVERIFY(isAllowed("modify document assembly"));
+        QVERIFY(!facts.contains(QStringLiteral("Supplied password is owner password")));
+    }
+
+    void anOwnerPasswordAloneLetsEveryoneRead() {
+        addText("a.txt", "x");
+        m_options.security = {false, kUser, true, kOwner, false, true};
+        const QString file = convertTo(path("out/a.pdf")).close.path;
+        QCOMPARE(PdfProbe(file).pageCount(), 1);
+        QVERIFY(encryptionOf(file, kOwner)
+                    .contains(QStringLiteral("Supplied password is owner password")));
+    }
+
+    void noPasswordMeansNoEncryption() {
+        QVERIFY(!encryptionFor({false, kUser, false, kOwner, true, true}));
+    }
+
+    void progressFillsTheFirstHalfOfTheBar() {
+        for (const char *name : {"a.txt", "b.txt", "c.txt"}) {
+            addText(name, "x");
+        }
+        m_options.merge = true;
+        Recorder recorder;
+        convertTo(path("out/all.pdf"), &recorder);
+        QCOMPARE(recorder.values, (QList<float>{1.0F / 3 * 50, 2.0F / 3 * 50, 50.0F}));
+        QCOMPARE(recorder.entries.join(u' '), QStringLiteral("0+ 1+ 2+"));
+    }
+
+    void aSingleEntryReachesFifty() {
+        addText("a.txt", "x");
+        Recorder recorder;
+        convertTo(path("out/a.pdf"), &recorder);
+        QCOMPARE(recorder.values, QList<float>{50.0F});
+    }
+
+    void anEntryThatFailsIsLeftOutAndTheOthersGoOn() {
+        addText("a.txt", "x");
+        addFile(test::writeFile(path("broken.png"), "no image"));
+        addFile(test::writeFile(path("broken.pdf"), "no document"));
+        addFile(path("missing.jpg"));
+        addFile(path("missing.pdf"));
+        addText("b.txt", "x");
+        m_options.merge = true;
+        Recorder recorder;
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"), &recorder);
+        QCOMPARE(outcome.close.status, CloseResult::Status::Written);
+        QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 2);
+        QCOMPARE(recorder.entries.join(u' '), QStringLiteral("0+ 1- 2- 3- 4- 5+"));
+        for (const std::size_t failed : {1U, 2U, 3U, 4U}) {
+            QVERIFY(!outcome.entries[failed].message.isEmpty());
+            QCOMPARE(outcome.entries[failed].pages, 0);
+        }
+    }
+
+    void aProtectedSourceAddsNoPages() {
+        const QString plain = test::writePdf(path("plain.pdf"), 1);
+        addFile(test::encryptPdf(plain, path("locked.pdf"), kUser));
+        addText("a.txt", "x");
+        m_options.merge = true;
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"));
+        QVERIFY(!outcome.entries[0].written);
+        QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 1);
+    }
+
+    void withoutASinglePageNoFileIsWritten() {
+        addFile(test::writeFile(path("broken.png"), "no image"));
+        const PDFOutcome outcome = convertTo(path("out/broken.pdf"));
+        QCOMPARE(outcome.close.status, CloseResult::Status::Failed);
+        QVERIFY(!outcome.close.reason.isEmpty());
+        QVERIFY(outputs().isEmpty());
+    }
+
+    void aTextThatIsNotUtf8GivesOneBlankPageAndAWarning() {
+        addText("a.txt", "caf\xE9 au lait");
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QVERIFY(outcome.entries[0].written);
+        QVERIFY(outcome.entries[0].message.contains(QStringLiteral("UTF-8")));
+        QCOMPARE(outcome.entries[0].pages, 1);
+        const PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.pageCount(), 1);
+        QCOMPARE(probe.text().trimmed(), QString());
+    }
+
+    void anEmptyTextGivesOneBlankPageAndNoWarning() {
+        addText("a.txt", {});
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QVERIFY(outcome.entries[0].message.isEmpty());
+        QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 1);
+    }
+
+    void aNameTakenMeanwhileGivesWayInSingleMode() {
+        addText("a.txt", "x");
+        const QString foreign = test::writeFile(path("out/a.pdf"), "someone else's");
+        const PDFOutcome outcome = convertTo(foreign);
+        QCOMPARE(outcome.close.status, CloseResult::Status::Written);
+        QCOMPARE(outcome.close.path, path("out/a(1).pdf"));
+        QCOMPARE(test::readFile(foreign), QByteArray("someone else's"));
+    }
+
+    void aNameTakenMeanwhileEndsTheMerge() {
+        addText("a.txt", "x");
+        m_options.merge = true;
+        const QString foreign = test::writeFile(path("out/all.pdf"), "someone else's");
+        QCOMPARE(convertTo(foreign).close.status, CloseResult::Status::NameTaken);
+        QCOMPARE(test::readFile(foreign), QByteArray("someone else's"));
+        QCOMPARE(outputs(), QStringList{QStringLiteral("all.pdf")});
+    }
+
+    void aFolderThatVanishedIsAFailureWithAReason() {
+        addText("a.txt", "x");
+        const PDFOutcome outcome = convertTo(path("gone/a.pdf"));
+        QCOMPARE(outcome.close.status, CloseResult::Status::Failed);
+        QVERIFY(!outcome.close.reason.isEmpty());
+    }
+
+    void aStoppedRunLeavesNothing() {
+        for (const char *name : {"a.txt", "b.txt", "c.txt"}) {
+            addText(name, "x");
+        }
+        m_options.merge = true;
+        Stopper stopper;
+        const PDFOutcome outcome =
+            convertTo(path("out/all.pdf"), &stopper, stopper.source.get_token());
+        QCOMPARE(outcome.close.status, CloseResult::Status::Failed);
+        QCOMPARE(outcome.entries.size(), 1);
+        QVERIFY(outputs().isEmpty());
+    }
+
+    void aTextIsStoppedAtItsNextPage() {
+        addText("a.txt", QByteArray("line\n").repeated(100'000));
+        std::stop_source source;
+        source.request_stop();
+        PDFContext context(path("out/a.pdf"), {});
+        addTextPage(*m_list.front(), context, m_options.textPage, source.get_token());
+        QCOMPARE(context.pageCount(), 0);
+    }
+
+    void sourcesAreNeverChanged() {
+        const QByteArray text("kept as it is");
+        addText("a.txt", text);
+        const QString pdf = test::writePdf(path("b.pdf"), 1);
+        const QByteArray bytes = test::readFile(pdf);
+        addFile(pdf);
+        m_options.merge = true;
+        convertTo(path("out/all.pdf"));
+        QCOMPARE(test::readFile(path("a.txt")), text);
+        QCOMPARE(test::readFile(pdf), bytes);
+    }
+
+    void anImageThatChangedSinceItWasListedIsPlacedAsItIs() {
+        addFile(test::writePng(path("a.png"), 100, 50));
+        test::writePng(path("a.png"), 40, 80);
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QCOMPARE(PdfProbe(outcome.close.path).box(QStringLiteral("MediaBox"), 1),
+                 QRectF(0, 0, 40, 80));
+    }
+};
+
+QTEST_GUILESS_MAIN(ConversionTest)
+#include "ConversionTest.moc"

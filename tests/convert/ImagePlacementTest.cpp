@@ -1,0 +1,68 @@
+#include "convert/ImagePlacement.h"
+
+#include <QTest>
+
+using namespace folioforge;
+
+namespace {
+
+PageSetup fixedPage(qint64 width, qint64 height, PageMargins margins) {
+    return {ImagePageCustom, width, height, margins};
+}
+
+} // namespace
+
+class ImagePlacementTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void aSmallImageFillsAFixedPageBetweenItsMargins() {
+        const ImagePlacement placed = placeImage({100, 50}, fixedPage(612, 792, {36, 36, 36, 36}));
+        // The scale 540/100 in single precision is 5.400000095; 100 and 50 times it round back.
+        QCOMPARE(placed.page, QSizeF(612, 792));
+        QCOMPARE(placed.image, QRectF(36, 261, 540, 270));
+    }
+
+    void aLargeImageIsReducedAndCentred() {
+        const ImagePlacement placed = placeImage({2000, 1000}, fixedPage(500, 600, {}));
+        QCOMPARE(placed.image, QRectF(0, 175, 500, 250));
+    }
+
+    void unequalMarginsMoveTheImage() {
+        const ImagePlacement placed = placeImage(
+            {100, 100}, fixedPage(300, 300, {.left = 10, .right = 50, .top = 20, .bottom = 60}));
+        // 240 by 220 points are free: the height decides, 20 points of width are spare.
+        QCOMPARE(placed.image, QRectF(20, 60, 220, 220));
+    }
+
+    void otherPagesTakeTheImagesSizeAndTheMargins() {
+        const PageSetup setup{ImagePageFollowsImage, 999, 999, {10, 10, 10, 10}};
+        const ImagePlacement placed = placeImage({200, 100}, setup);
+        QCOMPARE(placed.page, QSizeF(220, 120));
+        QCOMPARE(placed.image, QRectF(10, 10, 200, 100));
+    }
+
+    void unequalMarginsAroundTheImageKeepItUnscaled() {
+        const PageSetup setup{
+            ImagePageFollowsImage, 0, 0, {.left = 1, .right = 2, .top = 4, .bottom = 8}};
+        const ImagePlacement placed = placeImage({200, 100}, setup);
+        QCOMPARE(placed.page, QSizeF(203, 112));
+        QCOMPARE(placed.image, QRectF(1, 8, 200, 100));
+    }
+
+    void anyOtherRowFollowsTheImage() {
+        const PageSetup setup{7, 50, 50, {}};
+        QCOMPARE(placeImage({200, 100}, setup).page, QSizeF(200, 100));
+    }
+
+    void theScaleIsASinglePrecisionNumber() {
+        // 100/3 as a 32-bit float is 33.33333206176758; three times that rounds to 100 exactly,
+        // while 7/3 of it shows the float: 7 * 33.33333206176758 = 233.3333282470703 in 32 bits.
+        const ImagePlacement placed = placeImage({3, 7}, fixedPage(100, 1000, {}));
+        QCOMPARE(placed.image.width(), 100.0);
+        QVERIFY(placed.image.height() == 233.3333282470703125);
+    }
+};
+
+QTEST_GUILESS_MAIN(ImagePlacementTest)
+#include "ImagePlacementTest.moc"

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace folioforge::test {
+
+/// Writes `bytes` to a new file at `path` and returns the path.
+QString writeFile(const QString &path, const QByteArray &bytes);
+
+/// The bytes of the file at `path`; empty when it cannot be read.
+QByteArray readFile(const QString &path);
+
+/// Writes a PNG of `width` x `height` pixels in one colour, at `dpi` pixels per inch, and returns
+/// its path.
+QString writePng(const QString &path, int width, int height, int dpi = 72);
+
+/// Writes a PDF of `pages` blank pages and returns its path. The first measures 200 x 100 points,
+/// each further one 10 more in width.
+QString writePdf(const QString &path, int pages);
+
+/// Copies the PDF at `from` to `to`, protected with `userPassword` by qpdf; returns `to`.
+QString encryptPdf(const QString &from, const QString &to, const QString &userPassword);
+
+} // namespace folioforge::test
