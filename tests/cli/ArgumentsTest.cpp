@@ -1,0 +1,214 @@
+#include "cli/Arguments.h"
+
+#include <QTest>
+
+#include <array>
+
+using namespace folioforge;
+
+namespace {
+
+std::variant<Arguments, UsageError> parse(std::initializer_list<const char *> words) {
+    const std::vector<QByteArray> arguments(words.begin(), words.end());
+    return parseArguments(arguments);
+}
+
+/// The arguments, which must be right.
+Arguments good(std::initializer_list<const char *> words) {
+    auto result = parse(words);
+    if (const auto *fault = std::get_if<UsageError>(&result)) {
+        qFatal("%s", qPrintable(fault->message));
+    }
+    return std::get<Arguments>(std::move(result));
+}
+
+std::array<qint64, 4> topRightBottomLeft(const PageMargins &margins) {
+    return {margins.top, margins.right, margins.bottom, margins.left};
+}
+
+} // namespace
+
+class ArgumentsTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void withoutOptionsEachFileBecomesAPdfInTheCurrentFolder() {
+        const Arguments arguments = good({"a.txt", "b"});
+        QCOMPARE(arguments.inputs, (std::vector<QByteArray>{"a.txt", "b"}));
+        const ConversionOptions &options = arguments.options;
+        QCOMPARE(options.outputFolder, QStringLiteral("."));
+        QVERIFY(!options.merge);
+        QCOMPARE(getTextPageSize(options.textPage), QSizeF(595, 842));
+        QCOMPARE(topRightBottomLeft(options.textPage.margins),
+                 (std::array<qint64, 4>{72, 72, 72, 72}));
+        QCOMPARE(options.imagePage.sizeMode, int(ImagePageFollowsImage));
+        QCOMPARE(topRightBottomLeft(options.imagePage.margins),
+                 (std::array<qint64, 4>{0, 0, 0, 0}));
+        QCOMPARE(options.compressIndex, 0);
+        QCOMPARE(options.flush, Flush::Always);
+        QVERIFY(!arguments.sort);
+        QVERIFY(arguments.progress == ProgressMode::Auto);
+        QVERIFY(!arguments.json && !arguments.quiet);
+    }
+
+    void anOptionsValueFollowsItOrAnEqualsSign() {
+        QCOMPARE(good({"--title", "T", "a"}).options.info.title, QStringLiteral("T"));
+        QCOMPARE(good({"--title=T=1", "a"}).options.info.title, QStringLiteral("T=1"));
+        QCOMPARE(good({"--title=", "a"}).options.info.title, QString());
+        QCOMPARE(good({"a", "--title", "--quiet"}).options.info.title, QStringLiteral("--quiet"));
+    }
+
+    void documentInformationIsTaken() {
+        const DocumentInfo info =
+            good({"--title", "é", "--author", "b", "--subject", "c", "--keywords", "d", "a"})
+                .options.info;
+        QCOMPARE(info.title, QStringLiteral("é"));
+        QCOMPARE(info.author, QStringLiteral("b"));
+        QCOMPARE(info.subject, QStringLiteral("c"));
+        QCOMPARE(info.keywords, QStringLiteral("d"));
+    }
+
+    void aMergePathIsAFolderAndAName_data() {
+        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("name") << QByteArray("all") << QStringLiteral(".") << QStringLiteral("all");
+        QTest::newRow("below") << QByteArray("x/y/all.pdf") << QStringLiteral("x/y")
+                               << QStringLiteral("all.pdf");
+        QTest::newRow("root") << QByteArray("/all") << QStringLiteral("/") << QStringLiteral("all");
+        QTest::newRow("no name") << QByteArray("x/") << QStringLiteral("x") << QString();
+    }
+
+    void aMergePathIsAFolderAndAName() {
+        QFETCH(const QByteArray, path);
+        const ConversionOptions options = good({"--merge", path.constData(), "a"}).options;
+        QVERIFY(options.merge);
+        QTEST(options.outputFolder, "folder");
+        QTEST(options.outputName, "name");
+    }
+
+    void pageSizesAreNamesOrNumbers() {
+        const auto text = [](const char *size) {
+            return getTextPageSize(good({"--text-page-size", size, "a"}).options.textPage);
+        };
+        QCOMPARE(text("A3"), QSizeF(842, 1191));
+        QCOMPARE(text("a5"), QSizeF(420, 595));
+        QCOMPARE(text("300x400"), QSizeF(300, 400));
+        QCOMPARE(text("300X0"), QSizeF(300, 0));
+        const auto image = [](const char *size) {
+            return getImagePageSize(good({"--image-page-size", size, "a"}).options.imagePage);
+        };
+        QCOMPARE(image("image"), QSizeF(0, 0));
+        QCOMPARE(image("612x792"), QSizeF(612, 792));
+        QCOMPARE(image("-1x5"), QSizeF(-1, 5));
+    }
+
+    void marginsAreFourNumbersOrOneForAll() {
+        const auto margins = [](const char *text) {
+            return topRightBottomLeft(
+                good({"--image-margins", text, "a"}).options.imagePage.margins);
+        };
+        QCOMPARE(margins("1,2,3,4"), (std::array<qint64, 4>{1, 2, 3, 4}));
+        QCOMPARE(margins("9"), (std::array<qint64, 4>{9, 9, 9, 9}));
+        QCOMPARE(margins("-1"), (std::array<qint64, 4>{-1, -1, -1, -1}));
+        QCOMPARE(
+            topRightBottomLeft(good({"--text-margins", "5,6,7,8", "a"}).options.textPage.margins),
+            (std::array<qint64, 4>{5, 6, 7, 8}));
+    }
+
+    void choicesAreTakenByTheirWords() {
+        QCOMPARE(good({"--compress", "none", "a"}).options.compressIndex, 0);
+        QCOMPARE(good({"--compress", "150m", "a"}).options.compressIndex, 1);
+        QCOMPARE(good({"--compress", "96m", "a"}).options.compressIndex, 2);
+        QCOMPARE(good({"--compress", "72l", "a"}).options.compressIndex, 3);
+        QCOMPARE(good({"--flush", "never", "a"}).options.flush, Flush::Never);
+        QVERIFY(good({"--sort", "name", "a"}).sort == SortOrder::Name);
+        QVERIFY(good({"--sort", "natural", "a"}).sort == SortOrder::Natural);
+        QVERIFY(good({"--sort", "size", "a"}).sort == SortOrder::Size);
+        QVERIFY(good({"--sort", "created", "a"}).sort == SortOrder::Created);
+        QVERIFY(good({"--sort", "modified", "a"}).sort == SortOrder::Modified);
+        QVERIFY(good({"--progress", "always", "a"}).progress == ProgressMode::Always);
+        QVERIFY(good({"--progress", "never", "a"}).progress == ProgressMode::Never);
+    }
+
+    void theTwoBoxesAreTicked() {
+        const SecuritySettings security =
+            good({"--refuse-print", "--refuse-copy", "a"}).options.security;
+        QVERIFY(security.allowPrint && security.allowCopy);
+        QVERIFY(!security.useUserPassword && !security.useOwnerPassword);
+    }
+
+    void behindTwoDashesEverythingIsAFile() {
+        QCOMPARE(good({"--quiet", "--", "-a.txt", "--json", "--"}).inputs,
+                 (std::vector<QByteArray>{"-a.txt", "--json", "--"}));
+        QCOMPARE(good({"-"}).inputs, std::vector<QByteArray>{"-"});
+    }
+
+    void versionAndHelpNeedNoFile() {
+        QVERIFY(good({"--version"}).request == Request::ShowVersion);
+        QVERIFY(good({"--help"}).request == Request::ShowHelp);
+    }
+
+    void faultsNameTheArgument_data() {
+        QTest::addColumn<QByteArrayList>("words");
+        QTest::addColumn<QString>("named");
+        const auto row = [](const char *name, const QByteArrayList &words, const char *named) {
+            QTest::newRow(name) << words << QString::fromUtf8(named);
+        };
+        row("nothing", {}, "no file");
+        row("unknown", {"--colour", "a"}, "--colour");
+        row("unknown short", {"-x", "a"}, "-x");
+        row("password as an argument", {"--user-password=secret", "a"}, "--user-password");
+        row("value missing", {"a", "--title"}, "--title");
+        row("value too many", {"--json=yes", "a"}, "--json");
+        row("word", {"--compress", "300m", "a"}, "300m");
+        row("page size", {"--text-page-size", "A6", "a"}, "A6");
+        row("half a size", {"--image-page-size", "100x", "a"}, "100x");
+        row("size with unit", {"--image-page-size", "100x200pt", "a"}, "100x200pt");
+        row("three margins", {"--text-margins", "1,2,3", "a"}, "1,2,3");
+        row("fraction", {"--text-margins", "1.5", "a"}, "1.5");
+        row("two outputs", {"--merge", "x", "--output-folder", "y", "a"}, "--merge");
+        row("not UTF-8", {"--title", "caf\xE9", "a"}, "--title");
+    }
+
+    void faultsNameTheArgument() {
+        QFETCH(const QByteArrayList, words);
+        QFETCH(const QString, named);
+        const std::vector<QByteArray> arguments(words.begin(), words.end());
+        const auto result = parseArguments(arguments);
+        const auto *fault = std::get_if<UsageError>(&result);
+        QVERIFY(fault);
+        QVERIFY2(fault->message.contains(named), qPrintable(fault->message));
+        QVERIFY(!fault->message.contains(QStringLiteral("secret")));
+    }
+
+    void helpNamesEveryOption() {
+        for (const char *option : {"--output-folder",
+                                   "--merge",
+                                   "--title",
+                                   "--author",
+                                   "--subject",
+                                   "--keywords",
+                                   "--user-password-file",
+                                   "--owner-password-file",
+                                   "--refuse-print",
+                                   "--refuse-copy",
+                                   "--text-page-size",
+                                   "--text-margins",
+                                   "--image-page-size",
+                                   "--image-margins",
+                                   "--compress",
+                                   "--sort",
+                                   "--flush",
+                                   "--progress",
+                                   "--json",
+                                   "--quiet",
+                                   "--version",
+                                   "--help"}) {
+            QVERIFY2(helpText().contains(option), option);
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(ArgumentsTest)
+#include "ArgumentsTest.moc"

@@ -1,0 +1,69 @@
+#include "cli/Console.h"
+#include "cli/Report.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+
+using namespace folioforge;
+
+class ConsoleTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void ordinaryNamesArePrintedAsTheyAre() {
+        const QString name = QStringLiteral("Büro 标题 \U0001F600 (1).txt");
+        QCOMPARE(printable(name), name);
+    }
+
+    void charactersThatMoveTheCursorAreSpelledOut() {
+        QCOMPARE(printable(QStringLiteral("a\x1b[2Jb\nc\td\x7f")),
+                 QStringLiteral("a\\x1b[2Jb\\x0ac\\x09d\\x7f"));
+        QCOMPARE(printable(QStringLiteral("\u0085\u2028\u202Etxt")),
+                 QStringLiteral("\\u{85}\\u{2028}\\u{202e}txt"));
+    }
+
+    void aResultIsOneJsonObjectOnOneLine() {
+        InputResult result;
+        result.input = QStringLiteral("a \"b\"\n.png");
+        result.output = QStringLiteral("a.pdf");
+        result.pages = 2;
+        result.embedded = EmbeddedAs::OwnBytes;
+        result.bytesBefore = 5'000'000'000;
+        result.bytesAfter = 7;
+        const QByteArray line = toJson(result);
+        QVERIFY(!line.contains('\n'));
+        const QJsonObject object = QJsonDocument::fromJson(line).object();
+        QCOMPARE(object[QStringLiteral("input")].toString(), result.input);
+        QCOMPARE(object[QStringLiteral("output")].toString(), result.output);
+        QCOMPARE(object[QStringLiteral("pages")].toInt(), 2);
+        QCOMPARE(object[QStringLiteral("state")].toString(), QStringLiteral("finished"));
+        QCOMPARE(object[QStringLiteral("embedded")].toString(), QStringLiteral("own bytes"));
+        QCOMPARE(object[QStringLiteral("bytesBefore")].toInteger(), qint64(5'000'000'000));
+        QCOMPARE(object[QStringLiteral("bytesAfter")].toInt(), 7);
+        QVERIFY(!object.contains(QStringLiteral("message")));
+    }
+
+    void aFailureHasItsReasonAndNoOutput() {
+        InputResult result;
+        result.input = QStringLiteral("a.png");
+        result.state = InputResult::State::Failed;
+        result.message = QStringLiteral("It broke");
+        const QJsonObject object = QJsonDocument::fromJson(toJson(result)).object();
+        QCOMPARE(object[QStringLiteral("state")].toString(), QStringLiteral("failed"));
+        QCOMPARE(object[QStringLiteral("message")].toString(), QStringLiteral("It broke"));
+        QVERIFY(object[QStringLiteral("output")].isNull());
+        QCOMPARE(toMessage(result), QStringLiteral("a.png: It broke"));
+    }
+
+    void aWarningIsCalledOne() {
+        InputResult result;
+        result.input = QStringLiteral("a.txt");
+        QCOMPARE(toMessage(result), QString());
+        result.message = QStringLiteral("blank");
+        QCOMPARE(toMessage(result), QStringLiteral("a.txt: warning: blank"));
+    }
+};
+
+QTEST_GUILESS_MAIN(ConsoleTest)
+#include "ConsoleTest.moc"
