@@ -47,18 +47,20 @@ screenshots() {
     done
 }
 
-# A window with text on a ground, the number $i of its set.
+# A window with text and a photo on a ground, the number $i of its set.
 screenshot() { # FORM GROUND...
     form=$1
     shift
     x=$((40 + i * 37 % 600))
     y=$((40 + i * 53 % 300))
-    convert -size 1920x1080 "$@" \
+    convert -seed "$i" -size 1920x1080 "$@" \
         -fill white -stroke '#9aa7b8' \
         -draw "roundrectangle $x,$y $((x + 1100)),$((y + 640)) 12,12" \
         -stroke none -fill '#383838' -draw "rectangle $x,$y $((x + 1100)),$((y + 58))" \
         -fill '#20242a' -font Liberation-Sans -pointsize 18 \
-        -annotate "+$((x + 30))+$((y + 110))" "$(words "$i" 1700)" \
+        -annotate "+$((x + 30))+$((y + 110))" "$(words "$i" 1300)" \
+        \( -size 480x360 plasma:fractal -attenuate 0.1 +noise Gaussian \) \
+        -geometry "+$((x + 560))+$((y + 250))" -composite -depth 8 \
         "$form:$folder/screen$(printf %03d "$i").png"
 }
 
@@ -86,7 +88,7 @@ scans() {
 scan() { # HOW...
     convert -seed "$i" -size 2480x3508 xc:#f4efe4 -fill '#202020' -font Liberation-Serif \
         -pointsize 44 -annotate +250+300 "$(words $((i + 500)) 4200)" \
-        "$@" -density 300 -units PixelsPerInch "$folder/scan$(printf %02d "$i").tif"
+        "$@" -alpha off -density 300 -units PixelsPerInch "$folder/scan$(printf %02d "$i").tif"
 }
 
 # About BYTES bytes of ASCII words in lines of up to 90 characters, drawn from SEED.
