@@ -222,6 +222,8 @@ CloseResult PDFContext::Impl::publish(OutputFile &file, const std::function<QStr
 CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
     try {
         finishDocument();
+        // What is read from now on must come from files that are still what they were.
+        m_reader->closeFile();
         m_reader->clearFailure();
         OutputFile file(m_path);
         writeDocument(m_document, file, m_settings.encryption.get(), catalog.pdfVersion());
