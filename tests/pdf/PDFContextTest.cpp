@@ -11,6 +11,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/resource.h>
+
+#include <csignal>
+#include <cstdlib>
+
 using namespace folioforge;
 using test::PdfProbe;
 
@@ -43,18 +48,38 @@ EncodedImage jpegInPlace(const QString &path) {
     return image;
 }
 
+bool isNear(const QColor &shown, const QColor &wanted) {
+    constexpr int kTolerance = 12;
+    return std::abs(shown.red() - wanted.red()) <= kTolerance &&
+           std::abs(shown.green() - wanted.green()) <= kTolerance &&
+           std::abs(shown.blue() - wanted.blue()) <= kTolerance;
+}
+
+QByteArray contentOf(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray identifierOf(const QByteArray &pdf) {
+    return pdf.mid(pdf.lastIndexOf("/ID ["), 72);
+}
+
 } // namespace
 
 class PDFContextTest : public QObject {
     Q_OBJECT
 
     QTemporaryDir m_folder;
+    int m_number = 0;
 
     QString file(const QString &name) const { return m_folder.filePath(name); }
     QString jpeg(const QString &name) const {
         const QString path = file(name);
         quarters(64).save(path, "JPEG", 95);
         return path;
+    }
+    QString newFile(const QString &extension) {
+        return file(QStringLiteral("new%1.%2").arg(++m_number).arg(extension));
     }
     static PDFContext::Settings settings() {
         PDFContext::Settings settings;
@@ -114,6 +139,291 @@ class PDFContextTest : public QObject {
         QVERIFY2(probe.isValid(&log), qPrintable(log));
         QCOMPARE(probe.pageCount(), 4);
         QVERIFY(probe.render(4).pixelColor(10, 10).red() > 200);
+    }
+
+    void everyOrientationShowsThePictureUpright_data() {
+        QTest::addColumn<int>("orientation");
+        QTest::addColumn<QTransform>("stored"); // turns the picture into what the file stores
+        QTest::newRow("1") << 1 << QTransform();
+        QTest::newRow("2") << 2 << QTransform(-1, 0, 0, 1, 0, 0);
+        QTest::newRow("3") << 3 << QTransform(-1, 0, 0, -1, 0, 0);
+        QTest::newRow("4") << 4 << QTransform(1, 0, 0, -1, 0, 0);
+        QTest::newRow("5") << 5 << QTransform(0, 1, 1, 0, 0, 0);
+        QTest::newRow("6") << 6 << QTransform(0, -1, 1, 0, 0, 0);
+        QTest::newRow("7") << 7 << QTransform(0, -1, -1, 0, 0, 0);
+        QTest::newRow("8") << 8 << QTransform(0, 1, -1, 0, 0, 0);
+    }
+    void everyOrientationShowsThePictureUpright() {
+        QFETCH(int, orientation);
+        QFETCH(QTransform, stored);
+        const QString source = newFile(QStringLiteral("jpg"));
+        QVERIFY(quarters(64).transformed(stored).save(source, "JPEG", 95));
+        const QString path = newFile(QStringLiteral("pdf"));
+        PDFContext context(path, settings());
+        context.beginPage({0, 0, 80, 80});
+        context.drawImage({0, 0, 80, 80}, jpegInPlace(source), orientation);
+        context.endPage();
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        const QImage page = PdfProbe(path).render(1);
+        QVERIFY(isNear(page.pixelColor(15, 15), Qt::red));
+        QVERIFY(isNear(page.pixelColor(65, 15), Qt::green));
+        QVERIFY(isNear(page.pixelColor(15, 65), Qt::blue));
+        QVERIFY(isNear(page.pixelColor(65, 65), Qt::white));
+    }
+
+    void anImageUsedTwiceIsEmbeddedOnce() {
+        const QString source = jpeg(QStringLiteral("twice.jpg"));
+        const QString path = newFile(QStringLiteral("pdf"));
+        writeImages(path, {source, source});
+        const QList<QStringList> images = PdfProbe(path).images();
+        QCOMPARE(images.size(), 2);
+        constexpr int kObjectColumn = 10;
+        QCOMPARE(images[0][kObjectColumn], images[1][kObjectColumn]);
+    }
+
+    void samplesAreShownInTheirColours_data() {
+        QTest::addColumn<int>("color");
+        QTest::addColumn<int>("bits");
+        QTest::addColumn<QByteArray>("samples"); // one row of two pixels
+        QTest::addColumn<QByteArray>("palette");
+        QTest::addColumn<QColor>("left");
+        QTest::addColumn<QColor>("right");
+        const auto hex = [](const char *text) { return QByteArray::fromHex(text); };
+        QTest::newRow("grey") << int(ImageColor::Gray) << 8 << hex("40c0") << QByteArray()
+                              << QColor(0x40, 0x40, 0x40) << QColor(0xC0, 0xC0, 0xC0);
+        QTest::newRow("bilevel") << int(ImageColor::Gray) << 1 << hex("40") << QByteArray()
+                                 << QColor(Qt::black) << QColor(Qt::white);
+        QTest::newRow("16 bits") << int(ImageColor::Gray) << 16 << hex("4000c000") << QByteArray()
+                                 << QColor(0x40, 0x40, 0x40) << QColor(0xC0, 0xC0, 0xC0);
+        QTest::newRow("rgb") << int(ImageColor::Rgb) << 8 << hex("ff000000ff00") << QByteArray()
+                             << QColor(Qt::red) << QColor(Qt::green);
+        QTest::newRow("indexed") << int(ImageColor::Indexed) << 4 << hex("10")
+                                 << hex("0000ff00ff00") << QColor(Qt::green) << QColor(Qt::blue);
+        QTest::newRow("lab") << int(ImageColor::Lab) << 8 << hex("008080ff8080") << QByteArray()
+                             << QColor(Qt::black) << QColor(Qt::white);
+    }
+    void samplesAreShownInTheirColours() {
+        QFETCH(int, color);
+        QFETCH(int, bits);
+        QFETCH(QByteArray, samples);
+        QFETCH(QByteArray, palette);
+        EncodedImage image;
+        image.width = 2;
+        image.height = 1;
+        image.color = static_cast<ImageColor>(color);
+        image.bitsPerComponent = bits;
+        image.palette = palette;
+        // QByteArray::mid(4) leaves out the length that qCompress() puts first.
+        image.data = qCompress(samples).mid(4);
+        const QString path = newFile(QStringLiteral("pdf"));
+        PDFContext context(path, settings());
+        context.beginPage({0, 0, 40, 20});
+        context.drawImage({0, 0, 40, 20}, std::move(image), 1);
+        context.endPage();
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        QString log;
+        QVERIFY2(PdfProbe(path).isValid(&log), qPrintable(log));
+        QList<QImage> pages{PdfProbe(path).render(1)};
+        if (color != static_cast<int>(ImageColor::Lab)) {
+            // MuPDF 1.21 shows Lab images in wrong colours.
+            pages += PdfProbe(path).renderWithMutool(1);
+        }
+        for (const QImage &page : pages) {
+            QFETCH(QColor, left);
+            QFETCH(QColor, right);
+            const QString shown = page.pixelColor(5, 10).name() + page.pixelColor(35, 10).name();
+            QVERIFY2(isNear(page.pixelColor(5, 10), left), qPrintable(shown));
+            QVERIFY2(isNear(page.pixelColor(35, 10), right), qPrintable(shown));
+        }
+    }
+
+    void aSoftMaskLetsThePageShow() {
+        EncodedImage image;
+        image.width = 2;
+        image.height = 1;
+        image.data = qCompress(QByteArray::fromHex("ff0000ff0000")).mid(4);
+        image.softMask = std::make_unique<EncodedImage>();
+        image.softMask->width = 2;
+        image.softMask->height = 1;
+        image.softMask->color = ImageColor::Gray;
+        image.softMask->data = qCompress(QByteArray::fromHex("ff00")).mid(4);
+        const QString path = newFile(QStringLiteral("pdf"));
+        PDFContext context(path, settings());
+        context.beginPage({0, 0, 40, 20});
+        context.drawImage({0, 0, 40, 20}, std::move(image), 1);
+        context.endPage();
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        const QImage page = PdfProbe(path).render(1);
+        QVERIFY(isNear(page.pixelColor(5, 10), Qt::red));
+        QVERIFY(isNear(page.pixelColor(35, 10), Qt::white));
+    }
+
+    void aProfileIsEmbeddedOnceForAllImages() {
+        QByteArray profile(200, '\0');
+        profile.replace(16, 4, "GRAY");
+        const QString path = newFile(QStringLiteral("pdf"));
+        PDFContext context(path, settings());
+        for (int i = 0; i < 3; ++i) {
+            EncodedImage image;
+            image.width = 1;
+            image.height = 1;
+            image.color = ImageColor::Gray;
+            image.iccProfile = profile;
+            image.data = qCompress(QByteArray(1, static_cast<char>(i))).mid(4);
+            context.beginPage({0, 0, 10, 10});
+            context.drawImage({0, 0, 10, 10}, std::move(image), 1);
+            context.endPage();
+        }
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        QCOMPARE(PdfProbe(path).json().count("/Alternate"), 1);
+        QCOMPARE(PdfProbe(path).json().count("/ICCBased"), 1);
+    }
+
+    void theDocumentInformationIsAlwaysThere() {
+        const QString path = newFile(QStringLiteral("pdf"));
+        PDFContext::Settings given = settings();
+        given.info.title = QStringLiteral("Gr\u00FC\u00DFe (\u4F60\u597D)");
+        given.info.keywords = QStringLiteral("a, b");
+        PDFContext context(path, std::move(given));
+        context.beginPage({0, 0, 10, 10});
+        context.endPage();
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        const PdfProbe probe(path);
+        QCOMPARE(probe.info(QStringLiteral("Title")),
+                 QStringLiteral("Gr\u00FC\u00DFe (\u4F60\u597D)"));
+        QCOMPARE(probe.info(QStringLiteral("Keywords")), QStringLiteral("a, b"));
+        QCOMPARE(probe.info(QStringLiteral("Creator")), QStringLiteral("Vesprin-Folioforge"));
+        QVERIFY(probe.info(QStringLiteral("Producer")).startsWith(QStringLiteral("Folioforge 1.")));
+        QVERIFY(probe.info(QStringLiteral("CreationDate")).contains(QStringLiteral("2023")));
+        const QByteArray json = probe.json();
+        for (const char *key : {"/Author", "/Subject"}) {
+            QVERIFY(json.contains(QByteArray("\"") + key + "\": \"u:\""));
+        }
+    }
+
+    void theSameInputsGiveTheSameBytes() {
+        const QString source = jpeg(QStringLiteral("same.jpg"));
+        qputenv("SOURCE_DATE_EPOCH", "1700000000");
+        QList<QByteArray> files;
+        for (const QString &title :
+             {QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("b")}) {
+            const QString path = newFile(QStringLiteral("pdf"));
+            PDFContext::Settings given;
+            given.info.title = title;
+            PDFContext context(path, std::move(given));
+            context.beginPage({0, 0, 10, 10});
+            context.drawImage({0, 0, 10, 10}, jpegInPlace(source), 1);
+            context.endPage();
+            QCOMPARE(context.close().status, CloseResult::Status::Written);
+            files += contentOf(path);
+        }
+        qunsetenv("SOURCE_DATE_EPOCH");
+        QCOMPARE(files[0], files[1]);
+        QVERIFY(identifierOf(files[0]) != identifierOf(files[2]));
+        QVERIFY(!files[0].contains("31415926535897932384626433832795"));
+    }
+
+    void theCreationDateFollowsSourceDateEpoch() {
+        qputenv("SOURCE_DATE_EPOCH", "86400");
+        const QString path = newFile(QStringLiteral("pdf"));
+        PDFContext context(path, {});
+        context.beginPage({0, 0, 10, 10});
+        context.endPage();
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        qunsetenv("SOURCE_DATE_EPOCH");
+        QVERIFY(PdfProbe(path).json().contains("D:19700102000000Z"));
+    }
+
+    void contextsDestroyedUnclosedLeaveNothing() {
+        const QString path = newFile(QStringLiteral("pdf"));
+        {
+            PDFContext context(path, settings());
+            context.beginPage({0, 0, 10, 10});
+            context.endPage();
+        }
+        QVERIFY(!QFile::exists(path));
+    }
+
+    void aTakenNameGivesWayToTheNext() {
+        const QString taken = jpeg(QStringLiteral("taken.pdf"));
+        const QByteArray before = contentOf(taken);
+        const QString source = jpeg(QStringLiteral("d.jpg"));
+        QCOMPARE(writeImages(taken, {source}).status, CloseResult::Status::NameTaken);
+        PDFContext context(taken, settings());
+        context.beginPage({0, 0, 10, 10});
+        context.endPage();
+        const QString next = newFile(QStringLiteral("pdf"));
+        const CloseResult result = context.close([&] { return next; });
+        QCOMPARE(result.status, CloseResult::Status::Written);
+        QCOMPARE(result.path, next);
+        QVERIFY(PdfProbe(next).isValid());
+        QCOMPARE(contentOf(taken), before);
+    }
+
+    void aFullDiskFailsWithItsReasonAndLeavesNothing() {
+        QTemporaryDir folder;
+        const QString source = newFile(QStringLiteral("jpg"));
+        QFile big(source);
+        QVERIFY(big.open(QIODevice::WriteOnly));
+        big.write(QByteArray(4 << 20, 'x'));
+        big.close();
+        PDFContext context(folder.filePath(QStringLiteral("full.pdf")), settings());
+        EncodedImage image;
+        image.width = image.height = 1;
+        image.filter = ImageFilter::Dct;
+        image.sourcePath = source;
+        image.sourceSize = big.size();
+        image.slices = {{0, image.sourceSize}};
+        context.beginPage({0, 0, 10, 10});
+        context.drawImage({0, 0, 10, 10}, std::move(image), 1);
+        context.endPage();
+        rlimit before{};
+        getrlimit(RLIMIT_FSIZE, &before);
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit small{1 << 20, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+        const CloseResult result = context.close();
+        setrlimit(RLIMIT_FSIZE, &before);
+        std::signal(SIGXFSZ, handler);
+        QCOMPARE(result.status, CloseResult::Status::Failed);
+        QVERIFY2(result.reason.contains(QStringLiteral("File too large")),
+                 qPrintable(result.reason));
+        QVERIFY(
+            QDir(folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    }
+
+    void anImageThatChangedFailsTheDocument() {
+        const QString source = jpeg(QStringLiteral("changing.jpg"));
+        const QString path = newFile(QStringLiteral("pdf"));
+        PDFContext context(path, settings());
+        context.beginPage({0, 0, 10, 10});
+        context.drawImage({0, 0, 10, 10}, jpegInPlace(source), 1);
+        context.endPage();
+        QVERIFY(quarters(32).save(source, "JPEG", 95));
+        const CloseResult result = context.close();
+        QCOMPARE(result.status, CloseResult::Status::Failed);
+        QVERIFY2(result.reason.contains(source), qPrintable(result.reason));
+        QVERIFY(!QFile::exists(path));
+    }
+
+    void thousandsOfSourcesNeedFewDescriptors() {
+        QStringList sources;
+        const QByteArray bytes = contentOf(jpeg(QStringLiteral("e.jpg")));
+        for (int i = 0; i < 300; ++i) {
+            sources += file(QStringLiteral("many%1.jpg").arg(i));
+            QFile copy(sources.last());
+            QVERIFY(copy.open(QIODevice::WriteOnly));
+            copy.write(bytes);
+        }
+        const QString first = newFile(QStringLiteral("pdf"));
+        rlimit before{};
+        getrlimit(RLIMIT_NOFILE, &before);
+        const rlimit few{32, before.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &few);
+        const CloseResult result = writeImages(first, sources);
+        setrlimit(RLIMIT_NOFILE, &before);
+        QVERIFY2(result.status == CloseResult::Status::Written, qPrintable(result.reason));
+        QCOMPARE(PdfProbe(first).pageCount(), 300);
     }
 };
 
