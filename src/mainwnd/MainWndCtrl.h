@@ -10,8 +10,10 @@
 #include <QMainWindow>
 #include <QVariantAnimation>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <thread>
 
 namespace folioforge {
 
@@ -138,9 +140,12 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
 
     void clickBtnCreate();
     void createSingleFile();
-    /// Writes the PDF of the given rows to m_destFilePathName on a worker thread.
-    void createPDF(const std::vector<int> &rows);
+    /// Writes the PDF of `count` entries to m_destFilePathName on a worker thread.
+    void createPDF(int firstRow, int count);
+    /// Rewrites the finished PDF at `path` on a worker thread, where the run asks for it.
     void compress(const QString &path);
+    /// Puts the file of the pass in place and goes on to the next entry, or ends the run. Nothing
+    /// happens while a file is being written.
     void compressCompleted();
     /// A page of the compressed file is written; `pageIndex` counts from 0.
     void endPageWrite(int pageIndex);
@@ -180,6 +185,20 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void resort(SortOrder order);
     void exchangeWithRow(int row);
 
+    // Runs.
+    class RunObserver;
+    void beginFile();
+    void showFileBeingWritten(int done);
+    void showProgress(float value);
+    void entryDone(int row, bool written);
+    void PDFCreated(const PDFOutcome &outcome);
+    void endRun();
+    void startWorker(std::function<void(const std::stop_token &)> work);
+    /// Queues `work` without waiting; it is dropped when the controller goes first.
+    template<typename Work> void runOnMainThread(Work work) {
+        QMetaObject::invokeMethod(this, std::move(work), Qt::QueuedConnection);
+    }
+
     Surroundings m_surroundings;
     std::unique_ptr<QMainWindow> m_window;
     MainWndDelegate *m_delegate = nullptr;
@@ -201,7 +220,10 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     std::optional<PDFDocument> m_pdfDoc;
     bool m_bConverting = false;
     std::optional<ConvertInfo> m_convertInfoDict;
-    int m_fileIndex = 0; ///< The entry being converted.
+    int m_fileIndex = 0;            ///< The entry being converted.
+    ConversionOptions m_runOptions; ///< As they stood when the run began.
+    bool m_bWorking = false;        ///< The worker has not yet handed over what it makes.
+    std::jthread m_worker;          ///< The last member: it is stopped before anything goes.
 };
 
 } // namespace folioforge

@@ -1,16 +1,170 @@
 #include "mainwnd/MainWndCtrl.h"
 
+#include "mainwnd/FilesArray.h"
+
+#include <QFileInfo>
+
+#include <numeric>
+
 namespace folioforge {
 
-void MainWndCtrl::clickBtnCreate() {}
-void MainWndCtrl::createSingleFile() {}
-void MainWndCtrl::createPDF(const std::vector<int> & /*rows*/) {}
-void MainWndCtrl::compress(const QString & /*path*/) {}
-void MainWndCtrl::compressCompleted() {}
-void MainWndCtrl::endPageWrite(int /*pageIndex*/) {}
+/// Brings what a worker tells to the main thread, without waiting.
+class MainWndCtrl::RunObserver : public ConversionObserver {
+  public:
+    RunObserver(MainWndCtrl &ctrl, int firstRow)
+        : m_ctrl(ctrl)
+        , m_firstRow(firstRow) {}
+
+    void progressChanged(float value) override {
+        m_ctrl.runOnMainThread([ctrl = &m_ctrl, value] { ctrl->showProgress(value); });
+    }
+
+    void entryDone(std::size_t index, bool written) override {
+        const int row = m_firstRow + static_cast<int>(index);
+        m_ctrl.runOnMainThread([ctrl = &m_ctrl, row, written] { ctrl->entryDone(row, written); });
+    }
+
+  private:
+    MainWndCtrl &m_ctrl;
+    int m_firstRow;
+};
+
+void MainWndCtrl::clickBtnCreate() {
+    if (m_bConverting || m_filesArray->isEmpty()) {
+        return;
+    }
+    m_runOptions = conversionOptions();
+    if (!passes(checkConversion(m_runOptions))) {
+        return;
+    }
+    m_fileIndex = 0;
+    m_filesArray->setStateIndexOfAll(Waiting);
+    m_bConverting = true;
+    showAlertView();
+    if (m_runOptions.merge) {
+        m_destFilePathName = mergedFilePath(m_runOptions);
+        beginFile();
+        createPDF(0, m_filesArray->count());
+    } else {
+        createSingleFile();
+    }
+}
+
+void MainWndCtrl::createSingleFile() {
+    m_destFilePathName =
+        singleFilePath(m_runOptions.outputFolder, m_filesArray->at(m_fileIndex).fileName());
+    beginFile();
+    createPDF(m_fileIndex, 1);
+}
+
+void MainWndCtrl::beginFile() {
+    showProgress(0);
+    m_lbProgress->show();
+    showFileBeingWritten(m_fileIndex);
+}
+
+void MainWndCtrl::showFileBeingWritten(int done) {
+    m_alertWnd->setFile(QFileInfo(m_destFilePathName).fileName(), done, m_filesArray->count());
+}
+
+void MainWndCtrl::showProgress(float value) {
+    m_prgCreate->show();
+    m_prgCreate->setValue(static_cast<int>(value));
+}
+
+void MainWndCtrl::createPDF(int firstRow, int count) {
+    std::vector<PDFFileInfo> entries;
+    entries.reserve(std::size_t(count));
+    for (int row = firstRow; row < firstRow + count; ++row) {
+        entries.push_back(m_filesArray->at(row));
+    }
+    startWorker([this, firstRow, entries = std::move(entries), path = m_destFilePathName,
+                 options = m_runOptions](const std::stop_token &stop) {
+        std::vector<const PDFFileInfo *> list(entries.size());
+        std::iota(list.begin(), list.end(), entries.data());
+        RunObserver observer(*this, firstRow);
+        runOnMainThread([this, outcome = folioforge::createPDF(list, path, options, &observer,
+                                                               stop)] { PDFCreated(outcome); });
+    });
+}
+
+void MainWndCtrl::entryDone(int row, bool written) {
+    if (written) {
+        m_filesArray->setStateIndex(row, Finished);
+    }
+    showFileBeingWritten(row + 1);
+}
+
+/// An entry whose PDF did not come about is as if it had not been tried.
+void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
+    m_bWorking = false;
+    m_destFilePathName = outcome.close.path;
+    if (outcome.close.status == CloseResult::Status::Written) {
+        compress(m_destFilePathName);
+        return;
+    }
+    if (m_runOptions.merge) {
+        m_filesArray->setStateIndexOfAll(Waiting);
+    } else {
+        m_filesArray->setStateIndex(m_fileIndex, Waiting);
+    }
+    if (outcome.close.status == CloseResult::Status::NameTaken) {
+        showNotice(nameExistsNotice());
+    }
+    m_destFilePathName.clear();
+    compressCompleted();
+}
+
+void MainWndCtrl::compress(const QString & /*path*/) {
+    m_convertInfoDict.reset();
+    runOnMainThread([this] { compressCompleted(); });
+}
+
+void MainWndCtrl::compressCompleted() {
+    // Others may announce the end of a pass too; a file that is still being written has not ended.
+    if (!m_bConverting || m_bWorking) {
+        return;
+    }
+    m_pdfDoc.reset();
+    if (m_runOptions.merge) {
+        endRun();
+        return;
+    }
+    if (!m_destFilePathName.isEmpty()) {
+        m_filesArray->setDestFilePathName(m_fileIndex, m_destFilePathName);
+        m_filesArray->setStateIndex(m_fileIndex, FinishedAsLink);
+    }
+    ++m_fileIndex;
+    if (m_fileIndex < m_filesArray->count()) {
+        createSingleFile();
+    } else {
+        endRun();
+    }
+}
+
+void MainWndCtrl::endRun() {
+    m_bConverting = false;
+    m_prgCreate->hide();
+    m_lbProgress->hide();
+    hideAlertView();
+}
+
+void MainWndCtrl::endPageWrite(int pageIndex) {
+    if (m_pdfDoc && m_pdfDoc->pageCount > 0) {
+        const auto written = static_cast<float>(pageIndex + 1);
+        showProgress(written / static_cast<float>(m_pdfDoc->pageCount) * 50.0F + 50.0F);
+    }
+}
+
+void MainWndCtrl::startWorker(std::function<void(const std::stop_token &)> work) {
+    m_bWorking = true;
+    m_worker = std::jthread(std::move(work));
+}
+
 void MainWndCtrl::showAlertView() {
     m_alertWnd->beginSheet();
 }
+
 void MainWndCtrl::hideAlertView() {
     m_alertWnd->endSheet();
 }

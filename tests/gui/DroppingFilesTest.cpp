@@ -1,0 +1,222 @@
+#include "gui/TestWindow.h"
+
+#include <QDragEnterEvent>
+#include <QMenu>
+#include <QMimeData>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+/// Drags `data` over the row `row` of the list (below the last for -1) and drops it there; whether
+/// the drop was taken.
+bool drop(TestWindow &w, const QMimeData &data, int row) {
+    QWidget *viewport = w.table()->viewport();
+    const QPoint position = row < 0
+                                ? QPoint(40, viewport->height() - 4)
+                                : w.table()->visualRect(w.ctrl.filesArray().index(row, 1)).center();
+    const auto actions = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(position, actions, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(viewport, &enter);
+    QDragMoveEvent move(position, actions, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(viewport, &move);
+    QDropEvent end(position, actions, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(viewport, &end);
+    return enter.isAccepted() && move.isAccepted() && end.isAccepted();
+}
+
+bool dropFiles(TestWindow &w, const QStringList &paths, int row) {
+    QList<QUrl> urls;
+    for (const QString &path : paths) {
+        urls += QUrl::fromLocalFile(path);
+    }
+    QMimeData data;
+    data.setUrls(urls);
+    return drop(w, data, row);
+}
+
+void addFour(TestWindow &w) {
+    QStringList paths;
+    for (const QChar letter : QStringLiteral("abcd")) {
+        paths += w.file(letter + QStringLiteral(".txt"));
+    }
+    w.ctrl.addFiles(paths, -1);
+}
+
+QMenu *openMenu(TestWindow &w, int row) {
+    const QPoint spot = w.table()->visualRect(w.ctrl.filesArray().index(row, 1)).center();
+    QTest::mouseClick(w.ctrl.window()->windowHandle(), Qt::RightButton, {},
+                      w.table()->viewport()->mapTo(w.ctrl.window(), spot));
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+}
+
+QString enabledOf(const QMenu &menu) {
+    QStringList titles;
+    for (const QAction *item : menu.actions()) {
+        if (item->isEnabled() && !item->isSeparator()) {
+            titles += item->text();
+        }
+    }
+    return titles.join(u'|');
+}
+
+void choose(QMenu &menu, const QString &title) {
+    for (QAction *item : menu.actions()) {
+        if (item->text() == title) {
+            QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(item).center());
+            return;
+        }
+    }
+    qFatal("the menu has no %s", qPrintable(title));
+}
+
+} // namespace
+
+class DroppingFilesTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void filesGoInWhereTheyAreDroppedInDragOrder() {
+        TestWindow w;
+        addFour(w);
+        QVERIFY(dropFiles(w,
+                          {w.file(QStringLiteral("z.txt")), w.file(QStringLiteral("x.txt")),
+                           w.file(QStringLiteral("y.txt"))},
+                          2));
+        QCOMPARE(w.names(), QStringLiteral("a.txt b.txt z.txt x.txt y.txt c.txt d.txt"));
+        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5 6 7"));
+    }
+
+    void filesDroppedBelowTheLastRowAreAppended() {
+        TestWindow w;
+        addFour(w);
+        QVERIFY(dropFiles(w, {w.file(QStringLiteral("z.txt"))}, -1));
+        QCOMPARE(w.names(), QStringLiteral("a.txt b.txt c.txt d.txt z.txt"));
+    }
+
+    void filesDroppedOnAnEmptyListEnableTheWindow() {
+        TestWindow w;
+        QVERIFY(dropFiles(w, {w.file(QStringLiteral("z.txt"))}, -1));
+        QCOMPARE(w.names(), QStringLiteral("z.txt"));
+        QCOMPARE(w.delegate.told, QList{true});
+    }
+
+    void onlyRecognisedExtensionsAreTaken() {
+        TestWindow w;
+        addFour(w);
+        QVERIFY(
+            dropFiles(w, {w.file(QStringLiteral("x.TIFF")), w.file(QStringLiteral("y.doc"))}, 1));
+        QCOMPARE(w.names(), QStringLiteral("a.txt x.TIFF b.txt c.txt d.txt"));
+    }
+
+    void aDroppedFolderIsNotScannedAndRefusedAlone() {
+        TestWindow w;
+        QDir(w.home.path()).mkdir(QStringLiteral("folder.txt"));
+        w.file(QStringLiteral("folder.txt/inside.txt"));
+        const QString folder = w.path(QStringLiteral("folder.txt"));
+        QVERIFY(!dropFiles(w, {folder}, -1));
+        QVERIFY(w.ctrl.filesArray().isEmpty());
+        QVERIFY(dropFiles(w, {folder, w.file(QStringLiteral("a.txt"))}, -1));
+        QCOMPARE(w.names(), QStringLiteral("a.txt"));
+    }
+
+    void whatDoesNotExistOrIsNotRecognisedIsRefused() {
+        TestWindow w;
+        QVERIFY(!dropFiles(w, {w.path(QStringLiteral("gone.txt"))}, -1));
+        QVERIFY(!dropFiles(w, {w.file(QStringLiteral("y.doc"))}, -1));
+        QVERIFY(w.ctrl.filesArray().isEmpty());
+        QCOMPARE(w.delegate.told, QList<bool>());
+    }
+
+    void anEmptyListOfFilesIsRefused() {
+        TestWindow w;
+        QMimeData nothing;
+        nothing.setData(QStringLiteral("text/uri-list"), QByteArray());
+        QVERIFY(!drop(w, nothing, -1));
+        QMimeData page;
+        page.setUrls({QUrl(QStringLiteral("https://example.org/a.txt"))});
+        QVERIFY(!drop(w, page, -1));
+    }
+
+    void foreignDragsAreSwallowed() {
+        TestWindow w;
+        QMimeData words;
+        words.setText(QStringLiteral("words"));
+        QVERIFY(drop(w, words, -1));
+        QVERIFY(w.ctrl.filesArray().isEmpty());
+    }
+
+    void aDroppedPdfThatIsNoneIsReported() {
+        TestWindow w;
+        QVERIFY(dropFiles(w, {w.file(QStringLiteral("bad.pdf"), "none")}, -1));
+        QVERIFY(w.ctrl.filesArray().isEmpty());
+        QCoreApplication::processEvents();
+        QCOMPARE(w.messages().size(), 1);
+    }
+
+    void namesWithBlanksAndForeignLettersAreTaken() {
+        TestWindow w;
+        const QString name = QString::fromUtf8("größe 100% #1 日本.txt");
+        QVERIFY(dropFiles(w, {w.file(name)}, -1));
+        QCOMPARE(w.names(), name);
+    }
+
+    void theContextMenuFollowsTheListAndTheSelection() {
+        TestWindow w;
+        addFour(w);
+        w.select({1, 2});
+        QMenu *menu = openMenu(w, 3);
+        QCOMPARE(enabledOf(*menu),
+                 QStringLiteral("Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
+                                "Sort By Data Modified"));
+        menu->close();
+        w.select({3});
+        menu = openMenu(w, 0);
+        QCOMPARE(enabledOf(*menu),
+                 QStringLiteral("Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
+                                "Sort By Data Modified|Move Up"));
+        menu->close();
+    }
+
+    void theContextMenuOfAnEmptyListOffersNothing() {
+        TestWindow w;
+        QTest::mouseClick(w.ctrl.window()->windowHandle(), Qt::RightButton, {},
+                          w.table()->viewport()->mapTo(w.ctrl.window(), QPoint(60, 60)));
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QCOMPARE(enabledOf(*menu), QString());
+        QCOMPARE(menu->actions().at(3)->text(), QStringLiteral("Resort By Name"));
+        menu->close();
+    }
+
+    void theContextMenusCommandsActOnTheList() {
+        TestWindow w;
+        addFour(w);
+        w.select({1});
+        choose(*openMenu(w, 3), QStringLiteral("Move Up"));
+        QCOMPARE(w.names(), QStringLiteral("b.txt a.txt c.txt d.txt"));
+        choose(*openMenu(w, 3), QStringLiteral("Move Down"));
+        choose(*openMenu(w, 3), QStringLiteral("Move Down"));
+        QCOMPARE(w.names(), QStringLiteral("a.txt c.txt b.txt d.txt"));
+        choose(*openMenu(w, 0), QStringLiteral("Sort By Name"));
+        QCOMPARE(w.names(), QStringLiteral("a.txt b.txt c.txt d.txt"));
+        choose(*openMenu(w, 3), QStringLiteral("Remove"));
+        QCOMPARE(w.names(), QStringLiteral("a.txt c.txt d.txt"));
+        choose(*openMenu(w, 0), QStringLiteral("Clear"));
+        QVERIFY(w.ctrl.filesArray().isEmpty());
+    }
+
+    void aClickOnAWaitingDestinationOnlySelects() {
+        TestWindow w;
+        addFour(w);
+        const QPoint cell = w.table()->visualRect(w.ctrl.filesArray().index(0, 3)).center();
+        QTest::mouseClick(w.table()->viewport(), Qt::LeftButton, {}, cell);
+        QCOMPARE(w.table()->selectedRow(), 0);
+        QCOMPARE(w.desktop.commands, QList<QByteArray>());
+        QCOMPARE(w.desktop.files, QStringList());
+    }
+};
+
+QTEST_MAIN(DroppingFilesTest)
+#include "DroppingFilesTest.moc"

@@ -1,0 +1,248 @@
+#include "gui/TestWindow.h"
+
+#include <QLineEdit>
+#include <QScrollBar>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+/// A window whose list holds the files a.txt to e.txt.
+struct FiveFiles : TestWindow {
+    FiveFiles() {
+        QStringList paths;
+        for (const QChar letter : QStringLiteral("abcde")) {
+            paths += file(letter + QStringLiteral(".txt"));
+        }
+        ctrl.addFiles(paths, -1);
+    }
+};
+
+void setModified(const QString &path, const QDate &date) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite) ||
+        !file.setFileTime(QDateTime(date, QTime(12, 0)), QFileDevice::FileModificationTime)) {
+        qFatal("cannot set the date of %s", qPrintable(path));
+    }
+}
+
+} // namespace
+
+class OrderingFilesTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void removeTakesEverySelectedFileAndRenumbers() {
+        FiveFiles w;
+        w.select({0, 2, 3});
+        w.press("m_btnRemove");
+        QCOMPARE(w.names(), QStringLiteral("b.txt e.txt"));
+        QCOMPARE(w.numbers(), QStringLiteral("1 2"));
+        QCOMPARE(w.delegate.told.last(), true);
+    }
+
+    void removeGivesTheTableTheKeyboard() {
+        FiveFiles w;
+        w.control<QLineEdit>("m_tfTitle")->setFocus();
+        w.select({1});
+        w.press("m_btnRemove");
+        QCOMPARE(QApplication::focusWidget(), w.table());
+    }
+
+    void removeWithNothingSelectedOnlyRenumbers() {
+        FiveFiles w;
+        w.ctrl.addFiles({w.path(QStringLiteral("a.txt"))}, 0);
+        QCOMPARE(w.numbers(), QStringLiteral("6 1 2 3 4 5"));
+        w.select({});
+        w.press("m_btnRemove");
+        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5 6"));
+    }
+
+    void removingTheOnlyFileEmptiesTheWindowAsClearDoes_data() {
+        QTest::addColumn<QByteArray>("button");
+        QTest::newRow("remove") << QByteArray("m_btnRemove");
+        QTest::newRow("clear") << QByteArray("m_btnClear");
+    }
+
+    void removingTheOnlyFileEmptiesTheWindowAsClearDoes() {
+        QFETCH(const QByteArray, button);
+        TestWindow w;
+        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"))}, -1);
+        QCOMPARE(w.control<QLineEdit>("m_tfOutputName")->text(), QStringLiteral("a"));
+        w.select({0});
+        w.press(button);
+        QVERIFY(w.ctrl.filesArray().isEmpty());
+        QVERIFY(!w.control<QWidget>("m_btnCreate")->isEnabled());
+        QVERIFY(!w.control<QWidget>("m_btnRemove")->isEnabled());
+        QVERIFY(!w.control<QWidget>("m_tfTitle")->isEnabled());
+        QCOMPARE(w.control<QLineEdit>("m_tfOutputName")->text(), QString());
+        QCOMPARE(w.delegate.told.last(), false);
+    }
+
+    void clearTakesEverything() {
+        FiveFiles w;
+        w.select({1});
+        w.press("m_btnClear");
+        QVERIFY(w.ctrl.filesArray().isEmpty());
+        QVERIFY(!w.ctrl.canRemoveClear());
+    }
+
+    void namesSortWithoutRegardToCase() {
+        TestWindow w;
+        w.ctrl.addFiles({w.file(QStringLiteral("b.txt")), w.file(QStringLiteral("A.txt")),
+                         w.file(QStringLiteral("a.png"))},
+                        -1);
+        w.ctrl.clickMenuResortByName();
+        QCOMPARE(w.names(), QStringLiteral("a.png A.txt b.txt"));
+        QCOMPARE(w.numbers(), QStringLiteral("1 2 3"));
+        w.ctrl.clickMenuResortByName();
+        QCOMPARE(w.names(), QStringLiteral("a.png A.txt b.txt"));
+    }
+
+    void sizesSortByBytesOnDiskNotByTheirText() {
+        TestWindow w;
+        const QString ten = w.file(QStringLiteral("ten.txt"), QByteArray(10 * 1024, 'x'));
+        const QString nine = w.file(QStringLiteral("nine.txt"), QByteArray(9 * 1024, 'x'));
+        const QString small = w.file(QStringLiteral("small.txt"), "x");
+        w.ctrl.addFiles({ten, nine, small}, -1);
+        w.ctrl.clickMenuResortBySize();
+        QCOMPARE(w.names(), QStringLiteral("small.txt nine.txt ten.txt"));
+        w.file(QStringLiteral("small.txt"), QByteArray(20 * 1024, 'x'));
+        w.ctrl.clickMenuResortBySize();
+        QCOMPARE(w.names(), QStringLiteral("nine.txt ten.txt small.txt"));
+    }
+
+    void modificationDatesSortOldestFirst() {
+        FiveFiles w;
+        setModified(w.path(QStringLiteral("c.txt")), QDate(2001, 1, 1));
+        setModified(w.path(QStringLiteral("a.txt")), QDate(2003, 1, 1));
+        setModified(w.path(QStringLiteral("b.txt")), QDate(2002, 1, 1));
+        setModified(w.path(QStringLiteral("e.txt")), QDate(2004, 1, 1));
+        setModified(w.path(QStringLiteral("d.txt")), QDate(2005, 1, 1));
+        w.ctrl.clickMenuResortByDataModified();
+        QCOMPARE(w.names(), QStringLiteral("c.txt b.txt a.txt e.txt d.txt"));
+    }
+
+    void creationDatesSortOldestFirst() {
+        FiveFiles w;
+        w.ctrl.clickMenuResortByName();
+        w.select({0});
+        w.ctrl.clickMenuMoveDown();
+        QCOMPARE(w.names(), QStringLiteral("b.txt a.txt c.txt d.txt e.txt"));
+        w.ctrl.clickMenuResortByDataCreated();
+        // The files were made in this order; a file system without creation dates keeps what is.
+        const bool known = QFileInfo(w.path(QStringLiteral("a.txt"))).birthTime().isValid() &&
+                           QFileInfo(w.path(QStringLiteral("a.txt"))).birthTime() !=
+                               QFileInfo(w.path(QStringLiteral("b.txt"))).birthTime();
+        QCOMPARE(w.names(), known ? QStringLiteral("a.txt b.txt c.txt d.txt e.txt")
+                                  : QStringLiteral("b.txt a.txt c.txt d.txt e.txt"));
+        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5"));
+    }
+
+    void vanishedFilesComeFirstBySize() {
+        FiveFiles w;
+        QFile::remove(w.path(QStringLiteral("d.txt")));
+        w.ctrl.clickMenuResortBySize();
+        QCOMPARE(w.names(), QStringLiteral("d.txt a.txt b.txt c.txt e.txt"));
+    }
+
+    void filesAddedAfterASortStayWhereTheyWereAdded() {
+        TestWindow w;
+        w.ctrl.addFiles({w.file(QStringLiteral("c.txt")), w.file(QStringLiteral("b.txt"))}, -1);
+        w.ctrl.clickMenuResortByName();
+        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"))}, -1);
+        QCOMPARE(w.names(), QStringLiteral("b.txt c.txt a.txt"));
+    }
+
+    void aSortKeepsTheSelectedFilesSelected() {
+        TestWindow w;
+        w.ctrl.addFiles({w.file(QStringLiteral("c.txt")), w.file(QStringLiteral("b.txt")),
+                         w.file(QStringLiteral("a.txt"))},
+                        -1);
+        w.select({0});
+        w.ctrl.clickMenuResortByName();
+        QCOMPARE(w.table()->selectedRow(), 2);
+    }
+
+    void moveUpExchangesWithTheOneAbove() {
+        FiveFiles w;
+        w.select({2});
+        w.ctrl.clickMenuMoveUp();
+        QCOMPARE(w.names(), QStringLiteral("a.txt c.txt b.txt d.txt e.txt"));
+        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5"));
+        QCOMPARE(w.table()->selectedRow(), 1);
+    }
+
+    void moveDownExchangesWithTheOneBelow() {
+        FiveFiles w;
+        w.select({2});
+        w.ctrl.clickMenuMoveDown();
+        QCOMPARE(w.names(), QStringLiteral("a.txt b.txt d.txt c.txt e.txt"));
+        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5"));
+        QCOMPARE(w.table()->selectedRow(), 3);
+    }
+
+    void aMovedFileCanBeFollowedAcrossTheWholeList() {
+        TestWindow w;
+        QStringList paths;
+        for (int i = 0; i < 60; ++i) {
+            paths += w.file(QStringLiteral("%1.txt").arg(i));
+        }
+        w.ctrl.addFiles(paths, -1);
+        w.select({0});
+        for (int i = 0; i < 59; ++i) {
+            w.key(Qt::Key_Down, Qt::AltModifier);
+        }
+        QCOMPARE(w.ctrl.filesArray().at(59).fileName(), QStringLiteral("0.txt"));
+        QCOMPARE(w.table()->selectedRow(), 59);
+        const QRect row = w.table()->visualRect(w.ctrl.filesArray().index(59, 1));
+        QVERIFY(w.table()->viewport()->rect().contains(row));
+        w.key(Qt::Key_Down, Qt::AltModifier);
+        QCOMPARE(w.table()->selectedRow(), 59);
+    }
+
+    void theEndsCannotBeMovedBeyond() {
+        FiveFiles w;
+        w.select({0});
+        QVERIFY(!w.ctrl.canMoveUp());
+        QVERIFY(w.ctrl.canMoveDown());
+        w.select({4});
+        QVERIFY(w.ctrl.canMoveUp());
+        QVERIFY(!w.ctrl.canMoveDown());
+        w.ctrl.clickMenuMoveDown();
+        QCOMPARE(w.names(), QStringLiteral("a.txt b.txt c.txt d.txt e.txt"));
+    }
+
+    void onlyOneSelectedFileCanBeMoved() {
+        FiveFiles w;
+        for (const QList<int> &rows : {QList<int>{}, QList{1, 2}, QList{1, 3}}) {
+            w.select(rows);
+            QVERIFY(!w.ctrl.canMoveUp());
+            QVERIFY(!w.ctrl.canMoveDown());
+        }
+    }
+
+    void sortingNeedsTwoFilesAndRemovingOne() {
+        TestWindow w;
+        QVERIFY(!w.ctrl.canRemoveClear());
+        QVERIFY(!w.ctrl.canResort());
+        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"))}, -1);
+        QVERIFY(w.ctrl.canRemoveClear());
+        QVERIFY(!w.ctrl.canResort());
+        w.ctrl.addFiles({w.file(QStringLiteral("b.txt"))}, -1);
+        QVERIFY(w.ctrl.canResort());
+    }
+
+    void theKeyboardSelectsAllAndRemovesThem() {
+        FiveFiles w;
+        w.table()->setFocus();
+        w.key(Qt::Key_A, Qt::ControlModifier);
+        w.key(Qt::Key_Delete);
+        QVERIFY(w.ctrl.filesArray().isEmpty());
+        QCOMPARE(w.delegate.told.last(), false);
+    }
+};
+
+QTEST_MAIN(OrderingFilesTest)
+#include "OrderingFilesTest.moc"
