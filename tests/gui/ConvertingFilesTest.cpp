@@ -1,0 +1,373 @@
+#include "gui/TestWindow.h"
+#include "support/PdfProbe.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QImage>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QSignalSpy>
+
+#include <memory>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+QString picture(const TestWindow &w, const QString &name) {
+    QImage image(300, 200, QImage::Format_RGB32);
+    image.fill(QColor(200, 30, 30));
+    image.save(w.path(name), "PNG");
+    return w.path(name);
+}
+
+void addTexts(TestWindow &w, int count) {
+    QStringList paths;
+    for (int i = 0; i < count; ++i) {
+        paths += w.file(QStringLiteral("%1.txt").arg(i, 3, 10, QLatin1Char('0')),
+                        QByteArray("number ") + QByteArray::number(i) + "\n");
+    }
+    w.ctrl.addFiles(paths, -1);
+}
+
+/// Presses Create and waits for the end of the run.
+void run(TestWindow &w) {
+    w.press("m_btnCreate");
+    QTRY_VERIFY_WITH_TIMEOUT(!w.ctrl.isConverting(), 60'000);
+}
+
+void mergeInto(TestWindow &w, const QString &name) {
+    w.control<QCheckBox>("m_btnMerge")->setChecked(true);
+    w.control<QLineEdit>("m_tfOutputName")->setText(name);
+}
+
+QString outPath(const TestWindow &w, const QString &name) {
+    return w.path(QStringLiteral("out/") + name);
+}
+
+/// Everything in the output folder, hidden files too.
+QString outNames(const TestWindow &w) {
+    return QDir(w.path(QStringLiteral("out")))
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                   QDir::Name)
+        .join(u' ');
+}
+
+QString textOf(const TestWindow &w, const QString &name) {
+    return PdfProbe(outPath(w, name)).text().simplified();
+}
+
+} // namespace
+
+class ConvertingFilesTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void eachFileBecomesAPdfOfItsOwnWithALinkToIt() {
+        TestWindow w;
+        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"), "first text\n"),
+                         picture(w, QStringLiteral("p.png")),
+                         w.file(QStringLiteral("b.txt"), "second text\n")},
+                        -1);
+        run(w);
+        QCOMPARE(outNames(w), QStringLiteral("a.pdf b.pdf p.pdf"));
+        QCOMPARE(w.states(), QStringLiteral("a.pdf p.pdf b.pdf"));
+        QCOMPARE(textOf(w, QStringLiteral("a.pdf")), QStringLiteral("first text"));
+        QCOMPARE(textOf(w, QStringLiteral("b.pdf")), QStringLiteral("second text"));
+        QCOMPARE(PdfProbe(outPath(w, QStringLiteral("p.pdf"))).images().size(), 1);
+        for (int row = 0; row < 3; ++row) {
+            QCOMPARE(w.ctrl.filesArray().at(row).stateIndex(), int(FinishedAsLink));
+        }
+        QCOMPARE(w.messages(), QStringList());
+    }
+
+    void clickingAFinishedDestinationOpensItsPdf() {
+        TestWindow w;
+        addTexts(w, 1);
+        run(w);
+        const QPoint cell = w.table()->visualRect(w.ctrl.filesArray().index(0, 3)).center();
+        QTest::mouseClick(w.table()->viewport(), Qt::LeftButton, {}, cell);
+        QCOMPARE(w.desktop.commands.size(), 1);
+        QVERIFY(w.desktop.commands.front().contains("/out/000.pdf\""));
+        QCOMPARE(w.table()->selectedRow(), 0);
+    }
+
+    void takenNamesGetNumbers() {
+        TestWindow w;
+        w.file(QStringLiteral("out/000.pdf"), "mine");
+        addTexts(w, 1);
+        w.ctrl.addFiles({w.path(QStringLiteral("000.txt"))}, -1);
+        run(w);
+        QCOMPARE(outNames(w), QStringLiteral("000(1).pdf 000(2).pdf 000.pdf"));
+        QCOMPARE(w.states(), QStringLiteral("000(1).pdf 000(2).pdf"));
+        QFile mine(outPath(w, QStringLiteral("000.pdf")));
+        QVERIFY(mine.open(QIODevice::ReadOnly));
+        QCOMPARE(mine.readAll(), QByteArray("mine"));
+    }
+
+    void mergingWritesOnePdfInListOrder() {
+        TestWindow w;
+        addTexts(w, 3);
+        w.select({2});
+        w.ctrl.clickMenuMoveUp();
+        mergeInto(w, QStringLiteral("report"));
+        run(w);
+        QCOMPARE(outNames(w), QStringLiteral("report.pdf"));
+        QCOMPARE(textOf(w, QStringLiteral("report.pdf")),
+                 QStringLiteral("number 0 number 2 number 1"));
+        QCOMPARE(w.states(), QStringLiteral("Finished Finished Finished"));
+    }
+
+    void anExtensionInCapitalsIsKept() {
+        TestWindow w;
+        addTexts(w, 1);
+        mergeInto(w, QStringLiteral("report.PDF"));
+        run(w);
+        QCOMPARE(outNames(w), QStringLiteral("report.PDF"));
+    }
+
+    void aMergedNameThatIsTakenIsRefused() {
+        TestWindow w;
+        addTexts(w, 1);
+        w.file(QStringLiteral("out/report.pdf"), "mine");
+        mergeInto(w, QStringLiteral("report"));
+        w.press("m_btnCreate");
+        QVERIFY(!w.ctrl.isConverting());
+        QCOMPARE(w.messages(),
+                 QStringList(QStringLiteral("File name already exists in output folder, please "
+                                            "input another name.")));
+    }
+
+    void aMergedNameThatIsTakenMeanwhileIsNeverReplaced() {
+        TestWindow w;
+        addTexts(w, 2);
+        mergeInto(w, QStringLiteral("report"));
+        // The states are set after the checks and before the file is begun.
+        connect(&w.ctrl.filesArray(), &QAbstractItemModel::dataChanged, this,
+                [&w] { w.file(QStringLiteral("out/report.pdf"), "someone else's"); });
+        run(w);
+        QCOMPARE(w.messages(),
+                 QStringList(QStringLiteral("File name already exists in output folder, please "
+                                            "input another name.")));
+        QCOMPARE(outNames(w), QStringLiteral("report.pdf"));
+        QCOMPARE(QFileInfo(outPath(w, QStringLiteral("report.pdf"))).size(), 14);
+        QCOMPARE(w.states(), QStringLiteral("Waiting... Waiting..."));
+    }
+
+    void whatIsMissingIsAskedForInItsOrder() {
+        TestWindow w;
+        addTexts(w, 1);
+        mergeInto(w, QString());
+        w.control<QCheckBox>("m_btnCheckUserPassword")->setChecked(true);
+        w.control<QLineEdit>("m_tfOutputFolder")->clear();
+        w.press("m_btnCreate");
+        w.control<QLineEdit>("m_tfOutputFolder")->setText(w.path(QStringLiteral("missing")));
+        w.press("m_btnCreate");
+        w.control<QLineEdit>("m_tfOutputFolder")->setText(w.path(QStringLiteral("out")));
+        w.press("m_btnCreate");
+        w.control<QCheckBox>("m_btnCheckUserPassword")->setChecked(false);
+        w.press("m_btnCreate");
+        QCOMPARE(
+            w.messages(),
+            (QStringList{
+                QStringLiteral("Please select an output folder to store the output documents."),
+                QStringLiteral("Selected output folder does not exist or is not writable. "
+                               "Click \"OK\" to select another folder."),
+                QStringLiteral("Please input user password."),
+                QStringLiteral("Please input output file name.")}));
+        QCOMPARE(outNames(w), QString());
+    }
+
+    void aFileThatFailsKeepsWaitingAndTheOthersGoOn_data() {
+        QTest::addColumn<bool>("merge");
+        QTest::addColumn<QString>("states");
+        QTest::newRow("single") << false << QStringLiteral("000.pdf Waiting... 001.pdf");
+        QTest::newRow("merge") << true << QStringLiteral("Finished Waiting... Finished");
+    }
+
+    void aFileThatFailsKeepsWaitingAndTheOthersGoOn() {
+        QFETCH(const bool, merge);
+        QFETCH(const QString, states);
+        TestWindow w;
+        addTexts(w, 2);
+        w.ctrl.addFiles({w.file(QStringLiteral("broken.png"), "no picture")}, 1);
+        if (merge) {
+            mergeInto(w, QStringLiteral("all"));
+        }
+        run(w);
+        QCOMPARE(w.states(), states);
+        QCOMPARE(outNames(w),
+                 merge ? QStringLiteral("all.pdf") : QStringLiteral("000.pdf 001.pdf"));
+        QCOMPARE(w.messages(), QStringList());
+    }
+
+    void aSecondRunStartsFromWaiting() {
+        TestWindow w;
+        addTexts(w, 2);
+        run(w);
+        w.press("m_btnCreate");
+        QCOMPARE(w.states(), QStringLiteral("Waiting... Waiting..."));
+        QTRY_VERIFY(!w.ctrl.isConverting());
+        QCOMPARE(w.states(), QStringLiteral("000(1).pdf 001(1).pdf"));
+    }
+
+    void theBusySheetCoversTheWindowForTheWholeRun() {
+        TestWindow w;
+        addTexts(w, 3);
+        const auto *sheet = w.control<BusySheet>("m_alertWnd");
+        QVERIFY(!sheet->isVisible());
+        QStringList said;
+        connect(&w.ctrl.filesArray(), &QAbstractItemModel::dataChanged, this, [&] {
+            if (sheet->isVisible()) {
+                said += sheet->findChild<QLabel *>(QStringLiteral("busyFile"))->text() + u' ' +
+                        sheet->findChild<QLabel *>(QStringLiteral("busyCount"))->text();
+            }
+        });
+        w.press("m_btnCreate");
+        QVERIFY(sheet->isVisible());
+        QVERIFY(w.control<QWidget>("m_lbProgress")->isVisible());
+        QTRY_VERIFY(!w.ctrl.isConverting());
+        QVERIFY(!sheet->isVisible());
+        QVERIFY(!w.control<QWidget>("m_lbProgress")->isVisible());
+        QVERIFY(!w.control<QWidget>("m_prgCreate")->isVisible());
+        for (const QString &line :
+             {QStringLiteral("000.pdf 0 of 3 done"), QStringLiteral("000.pdf 1 of 3 done"),
+              QStringLiteral("002.pdf 3 of 3 done")}) {
+            QVERIFY2(said.contains(line), qPrintable(said.join(u'\n')));
+        }
+    }
+
+    void theListIsLockedDuringARun() {
+        TestWindow w;
+        addTexts(w, 3);
+        w.select({0});
+        w.press("m_btnCreate");
+        QVERIFY(!w.ctrl.canEditList());
+        w.key(Qt::Key_Delete);
+        w.key(Qt::Key_Down, Qt::AltModifier);
+        w.key(Qt::Key_A, Qt::ControlModifier);
+        w.ctrl.clickBtnRemove();
+        w.ctrl.clickBtnClear();
+        w.ctrl.clickMenuMoveDown();
+        w.ctrl.addFiles({w.path(QStringLiteral("000.txt"))}, -1);
+        w.ctrl.clickBtnCreate();
+        QTRY_VERIFY(!w.ctrl.isConverting());
+        QCOMPARE(w.names(), QStringLiteral("000.txt 001.txt 002.txt"));
+        QCOMPARE(w.ctrl.filesArray().selectedRows(), std::vector<int>{0});
+        QCOMPARE(outNames(w), QStringLiteral("000.pdf 001.pdf 002.pdf"));
+        QVERIFY(w.ctrl.canEditList());
+    }
+
+    void settingsChangedDuringARunDoNotReachIt() {
+        TestWindow w;
+        addTexts(w, 3);
+        w.control<QLineEdit>("m_tfTitle")->setText(QStringLiteral("before"));
+        w.press("m_btnCreate");
+        w.control<QLineEdit>("m_tfTitle")->setText(QStringLiteral("after"));
+        w.control<QCheckBox>("m_btnMerge")->setChecked(true);
+        QTRY_VERIFY(!w.ctrl.isConverting());
+        QCOMPARE(outNames(w), QStringLiteral("000.pdf 001.pdf 002.pdf"));
+        for (const char *name : {"000.pdf", "001.pdf", "002.pdf"}) {
+            const PdfProbe pdf(outPath(w, QString::fromLatin1(name)));
+            QCOMPARE(pdf.info(QStringLiteral("Title")), QStringLiteral("before"));
+        }
+    }
+
+    void pagesFillTheFirstHalfOfTheBar() {
+        TestWindow w;
+        addTexts(w, 4);
+        mergeInto(w, QStringLiteral("all"));
+        auto *bar = w.control<QProgressBar>("m_prgCreate");
+        bar->setValue(99);
+        const QSignalSpy values(bar, &QProgressBar::valueChanged);
+        run(w);
+        QList<int> shown;
+        for (const auto &value : values) {
+            shown += value.front().toInt();
+        }
+        QCOMPARE(shown, (QList<int>{0, 12, 25, 37, 50}));
+    }
+
+    void pageNotificationsOutsideAPassAreIgnored() {
+        TestWindow w;
+        addTexts(w, 1);
+        auto *bar = w.control<QProgressBar>("m_prgCreate");
+        const int before = bar->value();
+        w.notifications.post(NotificationCenter::didEndPageWrite(),
+                             {{NotificationCenter::pageIndexKey(), 3}});
+        w.notifications.post(NotificationCenter::compressionCompleted());
+        QCOMPARE(bar->value(), before);
+        QCOMPARE(w.states(), QStringLiteral("Waiting..."));
+    }
+
+    void anEndAnnouncedByOthersDoesNotEndAFileBeingWritten() {
+        TestWindow w;
+        addTexts(w, 3);
+        w.press("m_btnCreate");
+        w.notifications.post(NotificationCenter::compressionCompleted());
+        w.notifications.post(NotificationCenter::compressionCompleted());
+        QVERIFY(w.ctrl.isConverting());
+        QTRY_VERIFY(!w.ctrl.isConverting());
+        QCOMPARE(w.states(), QStringLiteral("000.pdf 001.pdf 002.pdf"));
+    }
+
+    void nothingHappensWithoutFiles() {
+        TestWindow w;
+        w.ctrl.clickBtnCreate();
+        QVERIFY(!w.ctrl.isConverting());
+        QCOMPARE(w.messages(), QStringList());
+    }
+
+    void closingDuringARunLeavesOnlyWholeFiles_data() {
+        QTest::addColumn<bool>("merge");
+        QTest::addColumn<int>("finishedBefore");
+        QTest::newRow("single at once") << false << 0;
+        QTest::newRow("single after three") << false << 3;
+        QTest::newRow("merge at once") << true << 0;
+        QTest::newRow("merge after three") << true << 3;
+    }
+
+    void closingDuringARunLeavesOnlyWholeFiles() {
+        QFETCH(const bool, merge);
+        QFETCH(const int, finishedBefore);
+        constexpr int kFiles = 400;
+        TestWindow w;
+        QSettings settings(w.path(QStringLiteral("other.ini")), QSettings::IniFormat);
+        settings.setValue(QStringLiteral("CustomizeOutputDir"), w.path(QStringLiteral("out")));
+        auto ctrl = std::make_unique<MainWndCtrl>(
+            Surroundings{settings, w.desktop, w.notices, w.notifications, w.home.path(),
+                         w.path(QStringLiteral("Folioforge.app"))});
+        QWidget *window = ctrl->window();
+        window->show();
+        QStringList paths;
+        for (int i = 0; i < kFiles; ++i) {
+            paths += w.file(QStringLiteral("%1.txt").arg(i), QByteArray(4000, 'x'));
+        }
+        ctrl->addFiles(paths, -1);
+        window->findChild<QCheckBox *>(QStringLiteral("m_btnMerge"))->setChecked(merge);
+
+        int finished = 0;
+        connect(&ctrl->filesArray(), &QAbstractItemModel::dataChanged, this, [&] {
+            finished =
+                ctrl->filesArray().at(finished).stateIndex() == Waiting ? finished : finished + 1;
+        });
+        ctrl->clickBtnCreate();
+        QTRY_VERIFY_WITH_TIMEOUT(finished >= finishedBefore, 60'000);
+        window->close();
+        ctrl.reset();
+
+        const QStringList names = outNames(w).split(u' ', Qt::SkipEmptyParts);
+        QVERIFY2(names.size() < kFiles, qPrintable(QString::number(names.size())));
+        for (const QString &name : names) {
+            QVERIFY2(PdfProbe(outPath(w, name)).isValid(), qPrintable(name));
+        }
+        QVERIFY(names.size() >= (merge ? 0 : finishedBefore - 1));
+        for (const QString &path : paths) {
+            QCOMPARE(QFileInfo(path).size(), 4000);
+        }
+    }
+};
+
+QTEST_MAIN(ConvertingFilesTest)
+#include "ConvertingFilesTest.moc"
