@@ -85,7 +85,7 @@ void DocumentCatalog::finishBookmarks(QPDF &document) {
     document.getRoot().replaceKey("/Outlines", outline);
 }
 
-void DocumentCatalog::finishLayers(QPDF &document) {
+void DocumentCatalog::finishLayers(QPDF &document) const {
     if (m_layers.groups.empty()) {
         return;
     }
@@ -101,7 +101,7 @@ void DocumentCatalog::finishLayers(QPDF &document) {
     document.getRoot().replaceKey("/OCProperties", document.makeIndirectObject(layers));
 }
 
-void DocumentCatalog::finishPageLabels(QPDF &document) {
+void DocumentCatalog::finishPageLabels(QPDF &document) const {
     if (!m_hasPageLabels) {
         return;
     }

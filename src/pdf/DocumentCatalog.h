@@ -28,8 +28,8 @@ class DocumentCatalog {
   private:
     void addPageLabels(const ImportedDocument &imported);
     void finishBookmarks(QPDF &document);
-    void finishLayers(QPDF &document);
-    void finishPageLabels(QPDF &document);
+    void finishLayers(QPDF &document) const;
+    void finishPageLabels(QPDF &document) const;
 
     std::vector<QPDFObjectHandle> m_pages;
     std::vector<QPDFObjectHandle> m_bookmarks;

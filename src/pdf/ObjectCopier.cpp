@@ -95,7 +95,7 @@ void ObjectCopier::copyInherited(QPDFObjectHandle source, QPDFObjectHandle targe
     }
 }
 
-QPDFObjectHandle ObjectCopier::copy(QPDFObjectHandle object) {
+QPDFObjectHandle ObjectCopier::copy(const QPDFObjectHandle &object) {
     return object.isIndirect() ? copyIndirect(object) : copyValue(object);
 }
 

@@ -27,7 +27,7 @@ class ObjectCopier {
     /// Copies all pages; call it before anything else. They are filled by run().
     std::vector<QPDFObjectHandle> copyPages();
     /// The copy of `object`; indirect ones are filled by run().
-    QPDFObjectHandle copy(QPDFObjectHandle object);
+    QPDFObjectHandle copy(const QPDFObjectHandle &object);
     /// Fills everything that copy() has promised.
     void run();
 
