@@ -17,7 +17,7 @@ std::optional<std::uint16_t> CodeTable::nextCode(char32_t character) {
     return std::nullopt;
 }
 
-std::optional<std::uint16_t> CodeTable::add(std::uint32_t glyph, char32_t character) {
+std::optional<std::uint16_t> CodeTable::add(std::uint16_t glyph, char32_t character) {
     const auto code = nextCode(character);
     if (code) {
         m_entries.push_back({*code, glyph, character});
@@ -25,7 +25,7 @@ std::optional<std::uint16_t> CodeTable::add(std::uint32_t glyph, char32_t charac
     return code;
 }
 
-bool CodeTable::addAt(std::uint16_t code, std::uint32_t glyph, char32_t character) {
+bool CodeTable::addAt(std::uint16_t code, std::uint16_t glyph, char32_t character) {
     if (!m_taken.insert(code).second) {
         return false;
     }

@@ -11,7 +11,7 @@ namespace folioforge {
 /// the text of a glyph by its code or by its CID, and this way all agree.
 struct CodeEntry {
     std::uint16_t code = 0;
-    std::uint32_t glyph = 0;
+    std::uint16_t glyph = 0;
     char32_t character = 0;
 };
 
@@ -35,9 +35,9 @@ class CodeTable {
 
     /// A new code for a glyph of a Mixed table; nothing when the table is full. Each character may
     /// be added once.
-    std::optional<std::uint16_t> add(std::uint32_t glyph, char32_t character);
+    std::optional<std::uint16_t> add(std::uint16_t glyph, char32_t character);
     /// Adds a glyph under `code` to a TwoByte table; false when another character has the code.
-    bool addAt(std::uint16_t code, std::uint32_t glyph, char32_t character);
+    bool addAt(std::uint16_t code, std::uint16_t glyph, char32_t character);
 
     [[nodiscard]] Form form() const { return m_form; }
     /// In the order they were added.

@@ -11,6 +11,28 @@ namespace folioforge {
 namespace {
 /// All of Unicode, and a page for kNoCharacter.
 constexpr std::size_t kUnicodePages = 0x1101;
+
+void appendByte(GlyphCode &code, unsigned byte) {
+    auto letter = static_cast<char>(byte);
+    if (letter == '(' || letter == ')' || letter == '\\') {
+        code.bytes[code.length++] = '\\';
+    } else if (letter == '\r') { // A bare carriage return in a string reads as a line feed.
+        code.bytes[code.length++] = '\\';
+        letter = 'r';
+    }
+    code.bytes[code.length++] = letter;
+}
+
+GlyphCode escapedCode(std::uint16_t font, std::uint16_t code, bool twoBytes) {
+    constexpr unsigned kByte = 0xFF;
+    GlyphCode escaped{font, 0, {}};
+    if (twoBytes) {
+        appendByte(escaped, code >> 8U);
+    }
+    appendByte(escaped, code & kByte);
+    return escaped;
+}
+
 } // namespace
 
 FontEmbedder::FontEmbedder(QPDF &document, StreamData &streams,
@@ -39,11 +61,11 @@ std::optional<GlyphCode> FontEmbedder::addCode(std::uint16_t font, const Face &f
     if (face.cids) {
         const std::uint16_t cid = face.cids->of(glyph.id);
         return table.addAt(cid, glyph.id, glyph.character)
-                   ? std::optional(GlyphCode{font, cid, true})
+                   ? std::optional(escapedCode(font, cid, true))
                    : std::nullopt;
     }
     const auto code = table.add(glyph.id, glyph.character);
-    return code ? std::optional(GlyphCode{font, *code, *code > CodeTable::kLastOneByte})
+    return code ? std::optional(escapedCode(font, *code, *code > CodeTable::kLastOneByte))
                 : std::nullopt;
 }
 
@@ -70,7 +92,7 @@ GlyphCode FontEmbedder::addCode(const Glyph &glyph) {
 
 void FontEmbedder::embed() {
     for (const auto &[number, face] : m_faces) {
-        std::set<std::uint32_t> glyphs;
+        std::set<std::uint16_t> glyphs;
         for (const std::uint16_t font : face.fonts) {
             for (const CodeEntry &entry : m_fonts[font - 1U].table.entries()) {
                 glyphs.insert(entry.glyph);

@@ -20,11 +20,13 @@ namespace folioforge {
 
 class StreamData;
 
-/// Where a glyph is found in a document: the number of its font and its code there.
+/// A glyph as a content stream shows it.
 struct GlyphCode {
-    std::uint16_t font = 0; ///< Fonts are numbered from 1.
-    std::uint16_t code = 0;
-    bool twoBytes = false;
+    static constexpr std::size_t kLongest = 4; ///< Two bytes, both escaped.
+
+    std::uint16_t font = 0;           ///< Fonts are numbered from 1.
+    std::uint16_t length = 0;         ///< Of `bytes`.
+    std::array<char, kLongest> bytes; ///< The code, escaped for a literal string.
 };
 
 /// The fonts of one document: gives the glyphs of a cascade their codes while pages are drawn, and
@@ -38,8 +40,13 @@ class FontEmbedder {
     /// The code of a glyph of the cascade, which has at least one face.
     GlyphCode codeOf(const Glyph &glyph) {
         const auto &page = m_codes[glyph.character / kPageSize];
-        const GlyphCode known = page ? (*page)[glyph.character % kPageSize] : GlyphCode{};
-        return known.font != 0 ? known : addCode(glyph);
+        if (page) {
+            const GlyphCode known = (*page)[glyph.character % kPageSize];
+            if (known.font != 0) {
+                return known;
+            }
+        }
+        return addCode(glyph);
     }
     [[nodiscard]] const FontCascade &cascade() const { return *m_cascade; }
 

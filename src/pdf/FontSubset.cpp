@@ -34,13 +34,13 @@ constexpr hb_tag_t kDropped[] = {
     HB_TAG('m', 'e', 't', 'a'),
 };
 
-Owned<hb_subset_input_t> makeInput(const FontFace &face, const std::set<std::uint32_t> &glyphs) {
+Owned<hb_subset_input_t> makeInput(const FontFace &face, const std::set<std::uint16_t> &glyphs) {
     Owned<hb_subset_input_t> input(hb_subset_input_create_or_fail());
     if (!input) {
         throw std::bad_alloc();
     }
     hb_set_t *wanted = hb_subset_input_glyph_set(input.get());
-    for (const std::uint32_t glyph : glyphs) {
+    for (const std::uint16_t glyph : glyphs) {
         hb_set_add(wanted, glyph);
     }
     hb_set_t *dropped = hb_subset_input_set(input.get(), HB_SUBSET_SETS_DROP_TABLE_TAG);
@@ -81,7 +81,7 @@ std::optional<GlyphCids> GlyphCids::read(const FontFace &face) {
     return cids;
 }
 
-FontSubset makeFontSubset(const FontFace &face, const std::set<std::uint32_t> &glyphs) {
+FontSubset makeFontSubset(const FontFace &face, const std::set<std::uint16_t> &glyphs) {
     const auto input = makeInput(face, glyphs);
     const Owned<hb_subset_plan_t> plan(hb_subset_plan_create_or_fail(face.hbFace(), input.get()));
     const Owned<hb_face_t> cut(plan ? hb_subset_plan_execute_or_fail(plan.get()) : nullptr);
@@ -97,7 +97,7 @@ FontSubset makeFontSubset(const FontFace &face, const std::set<std::uint32_t> &g
     }
     subset.program = bytesOf(Owned<hb_blob_t>(hb_face_reference_blob(cut.get())));
     const hb_map_t *places = hb_subset_plan_old_to_new_glyph_mapping(plan.get());
-    for (const std::uint32_t glyph : glyphs) {
+    for (const std::uint16_t glyph : glyphs) {
         subset.places[glyph] = static_cast<std::uint16_t>(hb_map_get(places, glyph));
     }
     return subset;

@@ -22,7 +22,7 @@ struct FontSubset {
     QByteArray program;
     /// Of a TrueType subset, where the wanted glyphs went, by their ids in the face. Those of a CFF
     /// keep the CIDs that GlyphCids gives.
-    std::map<std::uint32_t, std::uint16_t> places;
+    std::map<std::uint16_t, std::uint16_t> places;
 };
 
 /// The CIDs by which a PDF names the glyphs of a face with CFF outlines.
@@ -31,8 +31,8 @@ class GlyphCids {
     /// Nothing for a TrueType face, whose glyphs may get any CID.
     static std::optional<GlyphCids> read(const FontFace &face);
 
-    [[nodiscard]] std::uint16_t of(std::uint32_t glyph) const {
-        return m_own && glyph < m_own->size() ? (*m_own)[glyph] : static_cast<std::uint16_t>(glyph);
+    [[nodiscard]] std::uint16_t of(std::uint16_t glyph) const {
+        return m_own && glyph < m_own->size() ? (*m_own)[glyph] : glyph;
     }
     /// Whether the font itself names its glyphs by CIDs rather than by their order.
     [[nodiscard]] bool areTheFonts() const { return m_own.has_value(); }
@@ -42,6 +42,6 @@ class GlyphCids {
 };
 
 /// Cuts `face` down to `glyphs` and the missing-glyph box. Throws Error when the font is damaged.
-FontSubset makeFontSubset(const FontFace &face, const std::set<std::uint32_t> &glyphs);
+FontSubset makeFontSubset(const FontFace &face, const std::set<std::uint16_t> &glyphs);
 
 } // namespace folioforge

@@ -5,31 +5,10 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <cstring>
 
 namespace folioforge {
 namespace {
-
-/// Longest form of a code: two bytes, both escaped.
-constexpr std::size_t kLongestCode = 4;
-
-char *writeByte(char *out, std::uint8_t byte) {
-    if (byte == '(' || byte == ')' || byte == '\\') {
-        *out++ = '\\';
-    } else if (byte == '\r') { // A bare carriage return in a string reads as a line feed.
-        *out++ = '\\';
-        byte = 'r';
-    }
-    *out++ = static_cast<char>(byte);
-    return out;
-}
-
-char *writeCode(char *out, GlyphCode code) {
-    constexpr std::uint16_t kByte = 0xFF;
-    if (code.twoBytes) {
-        out = writeByte(out, static_cast<std::uint8_t>(code.code >> 8));
-    }
-    return writeByte(out, static_cast<std::uint8_t>(code.code & kByte));
-}
 
 /// A length as appendNumber writes it, so that what is added up is what a reader adds up.
 double written(double value) {
@@ -90,25 +69,31 @@ void TextContent::showGlyphs(double x, double y, std::span<const Glyph> glyphs) 
     }
     Operator how = moveTo(x, y);
     while (!glyphs.empty()) {
-        const std::uint16_t font = m_fonts.codeOf(glyphs.front()).font;
-        m_run.resize(glyphs.size() * kLongestCode);
-        char *out = m_run.data();
-        std::size_t taken = 0;
-        for (; taken < glyphs.size(); ++taken) {
-            const GlyphCode place = m_fonts.codeOf(glyphs[taken]);
-            if (place.font != font) {
-                break;
-            }
-            out = writeCode(out, place);
-        }
-        m_run.resize(static_cast<std::size_t>(out - m_run.data()));
-        if (font != m_font) {
-            selectFont(font);
-        }
+        glyphs = takeRun(glyphs);
         show(how);
         how = Operator::Show;
-        glyphs = glyphs.subspan(taken);
     }
+}
+
+std::span<const Glyph> TextContent::takeRun(std::span<const Glyph> glyphs) {
+    const std::uint16_t font = m_fonts.codeOf(glyphs.front()).font;
+    if (font != m_font) {
+        selectFont(font);
+    }
+    m_run.resize(glyphs.size() * GlyphCode::kLongest);
+    char *out = m_run.data();
+    std::size_t taken = 0;
+    for (; taken < glyphs.size(); ++taken) {
+        const GlyphCode code = m_fonts.codeOf(glyphs[taken]);
+        if (code.font != font) {
+            break;
+        }
+        // Always the whole array, which is one store: what is too much is overwritten.
+        std::memcpy(out, code.bytes.data(), GlyphCode::kLongest);
+        out += code.length;
+    }
+    m_run.resize(static_cast<std::size_t>(out - m_run.data()));
+    return glyphs.subspan(taken);
 }
 
 void TextContent::end() {

@@ -30,6 +30,8 @@ class TextContent {
   private:
     enum class Operator { Show, NextLineAndShow };
     Operator moveTo(double x, double y);
+    /// Puts the glyphs that one font shows into `m_run`; gives those that are left.
+    std::span<const Glyph> takeRun(std::span<const Glyph> glyphs);
     void selectFont(std::uint16_t font);
     void show(Operator how);
 

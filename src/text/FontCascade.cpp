@@ -102,7 +102,7 @@ Glyph FontCascade::findGlyph(char32_t character) const {
     return missing;
 }
 
-Glyph FontCascade::glyphOf(std::size_t face, std::uint32_t id, char32_t character) const {
+Glyph FontCascade::glyphOf(std::size_t face, std::uint16_t id, char32_t character) const {
     const FontFace &opened = *m_faces[face].opened;
     return {id, static_cast<std::uint16_t>(face), character,
             opened.advance(id) * m_size / opened.unitsPerEm()};

@@ -68,7 +68,7 @@ class FontCascade {
     const FontFace *openFace(std::size_t index) const;
     [[nodiscard]] Glyph rememberedGlyph(char32_t character) const;
     [[nodiscard]] Glyph findGlyph(char32_t character) const;
-    [[nodiscard]] Glyph glyphOf(std::size_t face, std::uint32_t id, char32_t character) const;
+    [[nodiscard]] Glyph glyphOf(std::size_t face, std::uint16_t id, char32_t character) const;
     [[nodiscard]] double points(int fontUnits) const;
 
     double m_size = 0;

@@ -92,15 +92,15 @@ FontBox FontFace::box() const {
     return {fields[0], fields[1], fields[2], fields[3]};
 }
 
-std::optional<std::uint32_t> FontFace::glyph(char32_t character) const {
+std::optional<std::uint16_t> FontFace::glyph(char32_t character) const {
     hb_codepoint_t id = 0;
     if (hb_font_get_nominal_glyph(m_font.get(), character, &id) && id != 0) {
-        return id;
+        return static_cast<std::uint16_t>(id);
     }
     return std::nullopt;
 }
 
-int FontFace::advance(std::uint32_t glyph) const {
+int FontFace::advance(std::uint16_t glyph) const {
     return hb_font_get_glyph_h_advance(m_font.get(), glyph);
 }
 

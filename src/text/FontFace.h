@@ -42,9 +42,9 @@ class FontFace {
     [[nodiscard]] FontExtents extents() const;
     [[nodiscard]] FontBox box() const;
     /// The glyph of `character`, or nothing when the face does not cover it.
-    [[nodiscard]] std::optional<std::uint32_t> glyph(char32_t character) const;
+    [[nodiscard]] std::optional<std::uint16_t> glyph(char32_t character) const;
     /// Horizontal advance of a glyph.
-    [[nodiscard]] int advance(std::uint32_t glyph) const;
+    [[nodiscard]] int advance(std::uint16_t glyph) const;
 
   private:
     struct Release {

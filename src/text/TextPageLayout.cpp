@@ -1,5 +1,6 @@
 #include "text/TextPageLayout.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace folioforge {
@@ -43,16 +44,19 @@ class RowBreaker {
         qsizetype taken = 0;
         const qsizetype length = line.size();
         while (taken < length && width <= m_usableWidth) {
-            const QStringView rest = line.sliced(taken);
+            const QChar unit = line[taken];
+            if (!unit.isSurrogate()) {
+                width += append(m_font.glyph(unit.unicode()));
+                ++taken;
+                continue;
+            }
             // A prefix may end between the halves of a pair; there the half counts as it would
             // be drawn, and where that is too wide the row ends with it.
-            if (startsWithPair(rest) && width + m_font.missingGlyph().advance <= m_usableWidth) {
-                width += append(firstGlyph(rest, m_font));
-                taken += 2;
-            } else {
-                width += append(firstGlyph(rest.first(1), m_font));
-                taken += 1;
-            }
+            const bool fitsHalf = width + m_font.missingGlyph().advance <= m_usableWidth;
+            const QStringView rest =
+                line.sliced(taken, fitsHalf ? std::min<qsizetype>(2, length - taken) : 1);
+            width += append(firstGlyph(rest, m_font));
+            taken += startsWithPair(rest) ? 2 : 1;
         }
         line = line.sliced(taken);
         return m_row;

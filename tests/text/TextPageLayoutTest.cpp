@@ -291,7 +291,8 @@ class TextPageLayoutTest : public QObject {
     void measuredWidthIsTheSumOfWhatIsDrawn() {
         const QString text = QStringLiteral("Row \u4E2D\U0001F600");
         double drawn = 0;
-        for (const Glyph &glyph : layOut(text).front().front().glyphs) {
+        const auto pages = layOut(text);
+        for (const Glyph &glyph : pages.front().front().glyphs) {
             drawn += glyph.advance;
         }
         QCOMPARE(getStringSize(text, *font()).width(), drawn);
