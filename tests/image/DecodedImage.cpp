@@ -1,0 +1,177 @@
+#include "DecodedImage.h"
+
+#include "error/Error.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtEndian>
+
+#include <tiffio.h>
+
+#include <array>
+
+namespace folioforge::test {
+
+namespace {
+
+quint32 crcOf(const QByteArray &bytes) {
+    quint32 crc = 0xFFFFFFFF;
+    for (const char byte : bytes) {
+        crc ^= static_cast<uchar>(byte);
+        for (int bit = 0; bit < 8; ++bit) {
+            crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xEDB88320 : 0);
+        }
+    }
+    return ~crc;
+}
+
+QByteArray bigEndian(quint32 number) {
+    QByteArray bytes(4, '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+QByteArray chunk(const char *type, const QByteArray &content) {
+    const QByteArray body = type + content;
+    return bigEndian(static_cast<quint32>(content.size())) + body + bigEndian(crcOf(body));
+}
+
+/// Rows without filters get the number of no filter before each, as PNG has it.
+QByteArray withFilterNumbers(const QByteArray &rows, qsizetype stride) {
+    QByteArray out;
+    for (qsizetype at = 0; at + stride <= rows.size(); at += stride) {
+        out += '\0' + rows.mid(at, stride);
+    }
+    return qCompress(out).mid(4);
+}
+
+QImage decodedFlate(const EncodedImage &image) {
+    const int channels = image.color == ImageColor::Rgb ? 3 : 1;
+    const char type = image.color == ImageColor::Rgb       ? '\x02'
+                      : image.color == ImageColor::Indexed ? '\x03'
+                                                           : '\0';
+    QByteArray rows = dataOf(image);
+    if (image.predictor == 1) {
+        const qsizetype stride =
+            (qsizetype(image.width) * channels * image.bitsPerComponent + 7) / 8;
+        rows = withFilterNumbers(unzipped(rows), stride);
+    }
+    QByteArray header = bigEndian(static_cast<quint32>(image.width)) +
+                        bigEndian(static_cast<quint32>(image.height));
+    header.append(static_cast<char>(image.bitsPerComponent)).append(type).append(3, '\0');
+    QByteArray png("\x89PNG\r\n\x1A\n", 8);
+    png += chunk("IHDR", header);
+    if (image.color == ImageColor::Indexed) {
+        png += chunk("PLTE", image.palette);
+    }
+    png += chunk("IDAT", rows) + chunk("IEND", {});
+    return QImage::fromData(png, "png");
+}
+
+/// A TIFF file of one strip by hand, read back with libtiff.
+QImage decodedFax(const EncodedImage &image) {
+    const QTemporaryDir folder;
+    const QByteArray data = dataOf(image);
+    struct Entry {
+        quint16 tag;
+        quint16 type;
+        quint32 value;
+    };
+    const std::array<Entry, 8> entries = {{{256, 4, quint32(image.width)},
+                                           {257, 4, quint32(image.height)},
+                                           {258, 3, 1},
+                                           {259, 3, COMPRESSION_CCITTFAX4},
+                                           {262, 3, image.ccittBlackIs1 ? 1U : 0U},
+                                           {273, 4, 8},
+                                           {278, 4, quint32(image.height)},
+                                           {279, 4, quint32(data.size())}}};
+    const auto append = [](QByteArray &bytes, auto number) {
+        const auto little = qToLittleEndian(number);
+        bytes.append(reinterpret_cast<const char *>(&little), sizeof little);
+    };
+    QByteArray tiff("II*\0", 4);
+    append(tiff, quint32(8 + data.size() + data.size() % 2));
+    tiff += data + QByteArray(data.size() % 2, '\0');
+    append(tiff, quint16(entries.size()));
+    for (const Entry &entry : entries) {
+        append(tiff, entry.tag);
+        append(tiff, entry.type);
+        append(tiff, quint32(1));
+        append(tiff, entry.value);
+    }
+    append(tiff, quint32(0));
+    const QString path = writeFile(folder.filePath(QStringLiteral("fax.tif")), tiff);
+    QImage picture(image.width, image.height, QImage::Format_RGB32);
+    TIFF *tif = TIFFOpen(QFile::encodeName(path).constData(), "r");
+    const bool read =
+        tif != nullptr && TIFFReadRGBAImageOriented(tif, static_cast<uint32_t>(image.width),
+                                                    static_cast<uint32_t>(image.height),
+                                                    reinterpret_cast<uint32_t *>(picture.bits()),
+                                                    ORIENTATION_TOPLEFT, 1) == 1;
+    if (tif != nullptr) {
+        TIFFClose(tif);
+    }
+    return read ? picture.rgbSwapped() : QImage();
+}
+
+} // namespace
+
+QString imageFile(const QString &name) {
+    return QStringLiteral(FOLIOFORGE_TEST_DATA "/image/") + name;
+}
+
+QByteArray bytesOf(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString writeFile(const QString &path, const QByteArray &bytes) {
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(bytes);
+    }
+    return path;
+}
+
+QByteArray dataOf(const EncodedImage &image) {
+    if (image.slices.empty()) {
+        return image.data;
+    }
+    const QByteArray file = bytesOf(image.sourcePath);
+    QByteArray data;
+    for (const FileSlice &slice : image.slices) {
+        data += file.mid(slice.offset, slice.length);
+    }
+    return data;
+}
+
+QByteArray unzipped(const QByteArray &bytes) {
+    constexpr quint32 kEnough = 1 << 22;
+    return qUncompress(bigEndian(kEnough) + bytes);
+}
+
+QImage decoded(const EncodedImage &image) {
+    QImage picture;
+    if (image.filter == ImageFilter::Dct) {
+        picture = QImage::fromData(dataOf(image), "jpeg");
+    } else if (image.filter == ImageFilter::CcittFax) {
+        picture = decodedFax(image);
+    } else {
+        picture = decodedFlate(image);
+    }
+    if (!image.decode.empty() && image.decode.front() == 1.0) {
+        picture.invertPixels();
+    }
+    return picture;
+}
+
+QString refusalOf(const QString &path) {
+    try {
+        encodeImage(path);
+        return {};
+    } catch (const Error &error) {
+        return error.reason();
+    }
+}
+
+} // namespace folioforge::test

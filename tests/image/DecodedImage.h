@@ -1,0 +1,33 @@
+#pragma once
+
+#include "image/EncodedImage.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QString>
+
+namespace folioforge::test {
+
+/// A small image file of tests/data/image.
+QString imageFile(const QString &name);
+
+/// The bytes of a file.
+QByteArray bytesOf(const QString &path);
+
+/// Writes `bytes` to a file and returns its path.
+QString writeFile(const QString &path, const QByteArray &bytes);
+
+/// The compressed data of an encoded image, its slices read from the file.
+QByteArray dataOf(const EncodedImage &image);
+
+/// The picture that an encoded image's data holds, read with Qt's PNG and JPEG readers and libtiff
+/// after it has been put into files of these formats by hand. Grey, RGB and palette only.
+QImage decoded(const EncodedImage &image);
+
+/// The zlib stream `bytes` unpacked by Qt.
+QByteArray unzipped(const QByteArray &bytes);
+
+/// The reason with which encodeImage() refuses the file; empty where it does not.
+QString refusalOf(const QString &path);
+
+} // namespace folioforge::test

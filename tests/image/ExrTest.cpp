@@ -1,0 +1,143 @@
+#include "DecodedImage.h"
+
+#include <ImfArray.h>
+#include <ImfChannelList.h>
+#include <ImfFrameBuffer.h>
+#include <ImfHeader.h>
+#include <ImfOutputFile.h>
+#include <ImfRgbaFile.h>
+#include <ImfStandardAttributes.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <limits>
+#include <vector>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// EXR files that OpenEXR writes.
+class ExrTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void lightBecomesSrgbOfSixteenBits();
+    void brighterThanWhiteIsWhiteAndNoNumberIsBlack();
+    void opacityIsTakenOutOfTheColour();
+    void brightnessAloneStaysGrey();
+    void windowMayBeginAnywhere();
+    void densityIsRead();
+    void cutFileIsRefused();
+
+  private:
+    QTemporaryDir m_folder;
+
+    /// A row of pixels as an EXR file with these channels.
+    QString exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels, Imf::Header header);
+    QString exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels = Imf::WRITE_RGB) {
+        return exr(row, channels, Imf::Header(static_cast<int>(row.size()), 1));
+    }
+};
+
+namespace {
+
+struct Deep {
+    int red;
+    int green;
+    int blue;
+};
+
+Deep deepPixel(const EncodedImage &image, int x) {
+    const QRgba64 pixel = decoded(image).pixelColor(x, 0).rgba64();
+    return {pixel.red(), pixel.green(), pixel.blue()};
+}
+
+} // namespace
+
+QString ExrTest::exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels,
+                     Imf::Header header) {
+    const QString path = m_folder.filePath(QStringLiteral("light.exr"));
+    Imf::RgbaOutputFile file(QFile::encodeName(path).constData(), header, channels);
+    file.setFrameBuffer(row.data() - header.dataWindow().min.x, 1, 0);
+    file.writePixels(1);
+    return path;
+}
+
+void ExrTest::lightBecomesSrgbOfSixteenBits() {
+    const EncodedImage image = encodeImage(exr({{0.0F, 0.5F, 1.0F}, {0.25F, 0.002F, 0.0F}}));
+    QCOMPARE(image.bitsPerComponent, 16);
+    QVERIFY(image.softMask == nullptr);
+    const Deep first = deepPixel(image, 0);
+    QCOMPARE(first.red, 0);
+    QVERIFY(qAbs(first.green - 48192) < 3); // 0.73536
+    QCOMPARE(first.blue, 65535);
+    const Deep second = deepPixel(image, 1);
+    QVERIFY(qAbs(second.red - 35199) < 3);  // 0.53710
+    QVERIFY(qAbs(second.green - 1693) < 3); // 0.002 is 12.92 times as much.
+}
+
+void ExrTest::brighterThanWhiteIsWhiteAndNoNumberIsBlack() {
+    const float nothing = std::numeric_limits<float>::quiet_NaN();
+    const EncodedImage image = encodeImage(exr({{9.0F, nothing, -3.0F}}));
+    const Deep pixel = deepPixel(image, 0);
+    QCOMPARE(pixel.red, 65535);
+    QCOMPARE(pixel.green, 0);
+    QCOMPARE(pixel.blue, 0);
+}
+
+void ExrTest::opacityIsTakenOutOfTheColour() {
+    const EncodedImage image =
+        encodeImage(exr({{0.25F, 0.0F, 0.5F, 0.5F}, {0.5F, 0.5F, 0.5F, 1.0F}}, Imf::WRITE_RGBA));
+    QVERIFY(image.softMask != nullptr);
+    QVERIFY(qAbs(deepPixel(*image.softMask, 0).red - 32768) <= 1);
+    QCOMPARE(deepPixel(*image.softMask, 1).red, 65535);
+    QVERIFY(qAbs(deepPixel(image, 0).red - 48192) < 3); // 0.25 of half opacity is 0.5 of light.
+    QCOMPARE(deepPixel(image, 0).blue, 65535);
+}
+
+void ExrTest::brightnessAloneStaysGrey() {
+    const QString path = m_folder.filePath(QStringLiteral("grey.exr"));
+    {
+        Imf::Header header(2, 1);
+        header.channels().insert("Y", Imf::Channel(Imf::FLOAT));
+        Imf::OutputFile file(QFile::encodeName(path).constData(), header);
+        std::vector<float> row = {0.5F, 1.0F};
+        Imf::FrameBuffer buffer;
+        buffer.insert(
+            "Y", Imf::Slice(Imf::FLOAT, reinterpret_cast<char *>(row.data()), sizeof(float), 0));
+        file.setFrameBuffer(buffer);
+        file.writePixels(1);
+    }
+    const EncodedImage image = encodeImage(path);
+    QCOMPARE(image.color, ImageColor::Gray);
+    QVERIFY(qAbs(deepPixel(image, 0).red - 48192) < 3);
+}
+
+void ExrTest::windowMayBeginAnywhere() {
+    Imf::Header header(2, 1);
+    header.dataWindow() = Imath::Box2i({-7, 3}, {-6, 3});
+    const EncodedImage image =
+        encodeImage(exr({{1.0F, 0.0F, 0.0F}, {0.0F, 1.0F, 0.0F}}, Imf::WRITE_RGB, header));
+    QCOMPARE(deepPixel(image, 0).red, 65535);
+    QCOMPARE(deepPixel(image, 1).green, 65535);
+}
+
+void ExrTest::densityIsRead() {
+    Imf::Header header(1, 1);
+    Imf::addXDensity(header, 300);
+    const ImageHeader read = readImageHeader(exr({{1.0F, 0.0F, 0.0F}}, Imf::WRITE_RGB, header));
+    QCOMPARE(read.horizontalDpi, 300.0);
+    QCOMPARE(read.verticalDpi, 300.0);
+}
+
+void ExrTest::cutFileIsRefused() {
+    const QByteArray bytes = bytesOf(exr({{1.0F, 0.0F, 0.0F}}));
+    const QString path =
+        writeFile(m_folder.filePath(QStringLiteral("cut.exr")), bytes.first(bytes.size() / 2));
+    QVERIFY(!refusalOf(path).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(ExrTest)
+#include "ExrTest.moc"

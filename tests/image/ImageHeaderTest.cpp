@@ -1,0 +1,196 @@
+#include "image/ImageHeader.h"
+
+#include "DecodedImage.h"
+#include "error/Error.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+#include <sys/stat.h>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+class ImageHeaderTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void headerStatesFormatAndPixels_data();
+    void headerStatesFormatAndPixels();
+    void contentCountsMoreThanExtension();
+    void extensionDecidesWhereBytesDoNot();
+    void unknownContentIsRefused();
+    void densityOfABitmapIsPerMetre();
+    void densityOfAPngIsPerMetre();
+    void absurdDensityMeansSeventyTwo_data();
+    void absurdDensityMeansSeventyTwo();
+    void sidewaysOrientationExchangesTheSides();
+    void tooManyPixelsAreRefused();
+    void pipeIsRefusedWithoutWaiting();
+    void folderIsRefused();
+    void missingFileIsRefused();
+    void emptyFileIsRefused();
+
+  private:
+    QTemporaryDir m_folder;
+
+    QString write(const char *name, const QByteArray &bytes) {
+        return writeFile(m_folder.filePath(QString::fromLatin1(name)), bytes);
+    }
+    static QString headerRefusal(const QString &path);
+    QString bitmapWithDensity(int perMetre);
+};
+
+QString ImageHeaderTest::headerRefusal(const QString &path) {
+    try {
+        readImageHeader(path);
+        return {};
+    } catch (const Error &error) {
+        return error.reason();
+    }
+}
+
+QString ImageHeaderTest::bitmapWithDensity(int perMetre) {
+    QImage picture(30, 20, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    picture.setDotsPerMeterX(perMetre);
+    picture.setDotsPerMeterY(perMetre);
+    const QString path = m_folder.filePath(QStringLiteral("density.bmp"));
+    picture.save(path);
+    return path;
+}
+
+void ImageHeaderTest::headerStatesFormatAndPixels_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<ImageFormat>("format");
+    QTest::addColumn<QSize>("size");
+    const auto add = [](const char *name, ImageFormat format, QSize size = QSize(24, 16)) {
+        QTest::newRow(name) << QString::fromLatin1(name) << format << size;
+    };
+    add("photo.jpg", ImageFormat::Jpeg);
+    add("progressive.jpg", ImageFormat::Jpeg);
+    add("colour.jp2", ImageFormat::Jpeg2000);
+    add("codestream.jp2", ImageFormat::Jpeg2000);
+    add("colour.png", ImageFormat::Png);
+    add("colour-LZW.tif", ImageFormat::Tiff);
+    add("colour-bigendian.tif", ImageFormat::Tiff);
+    add("palette.gif", ImageFormat::Gif);
+    add("icon.ico", ImageFormat::Ico, QSize(48, 48));
+    add("png.icns", ImageFormat::Icns);
+    add("jp2.icns", ImageFormat::Icns);
+    add("classic.icns", ImageFormat::Icns, QSize(16, 16));
+    add("colour.psd", ImageFormat::Psd);
+}
+
+void ImageHeaderTest::headerStatesFormatAndPixels() {
+    QFETCH(QString, name);
+    QFETCH(ImageFormat, format);
+    QFETCH(QSize, size);
+    const ImageHeader header = readImageHeader(imageFile(name));
+    QCOMPARE(header.format, format);
+    QCOMPARE(QSize(header.width, header.height), size);
+    QCOMPARE(header.orientation, 1);
+    QCOMPARE(header.horizontalDpi, 72.0);
+    const EncodedImage image = encodeImage(imageFile(name));
+    QCOMPARE(QSize(image.width, image.height), size);
+}
+
+void ImageHeaderTest::contentCountsMoreThanExtension() {
+    const QByteArray png = bytesOf(imageFile(QStringLiteral("colour.png")));
+    QCOMPARE(readImageHeader(write("really-png.tga", png)).format, ImageFormat::Png);
+    QCOMPARE(readImageHeader(write("really-png.jpg", png)).format, ImageFormat::Png);
+}
+
+void ImageHeaderTest::extensionDecidesWhereBytesDoNot() {
+    const QByteArray tga = QByteArray::fromHex("000002000000000000000000020001001800") +
+                           QByteArray::fromHex("0102030405060000");
+    QCOMPARE(readImageHeader(write("plain.TGA", tga)).format, ImageFormat::Tga);
+}
+
+void ImageHeaderTest::unknownContentIsRefused() {
+    QCOMPARE(headerRefusal(write("letter.txt", "Dear reader, this is no picture at all.")),
+             QStringLiteral("The file is no image of a known format"));
+}
+
+void ImageHeaderTest::densityOfABitmapIsPerMetre() {
+    const ImageHeader header = readImageHeader(bitmapWithDensity(11811)); // 300 per inch.
+    QVERIFY(qAbs(header.horizontalDpi - 299.9994) < 0.001);
+    QVERIFY(qAbs(header.sizeInPoints().width() - 30 * 72 / 299.9994) < 0.001);
+}
+
+void ImageHeaderTest::densityOfAPngIsPerMetre() {
+    QImage picture(10, 10, QImage::Format_RGB32);
+    picture.fill(Qt::blue);
+    picture.setDotsPerMeterX(5906);
+    picture.setDotsPerMeterY(2953);
+    const QString path = m_folder.filePath(QStringLiteral("density.png"));
+    QVERIFY(picture.save(path));
+    const ImageHeader header = readImageHeader(path);
+    QVERIFY(qAbs(header.horizontalDpi - 150.0124) < 0.001);
+    QVERIFY(qAbs(header.verticalDpi - 75.0062) < 0.001);
+}
+
+void ImageHeaderTest::absurdDensityMeansSeventyTwo_data() {
+    QTest::addColumn<int>("perMetre");
+    QTest::newRow("none") << 0;
+    QTest::newRow("one pixel a metre") << 1;
+    QTest::newRow("negative") << -2835;
+    QTest::newRow("atoms") << 2'000'000'000;
+}
+
+void ImageHeaderTest::absurdDensityMeansSeventyTwo() {
+    QFETCH(int, perMetre);
+    QByteArray bytes = bytesOf(bitmapWithDensity(2835));
+    qToLittleEndian(qint32(perMetre), bytes.data() + 38);
+    const ImageHeader header = readImageHeader(write("absurd.bmp", bytes));
+    QCOMPARE(header.horizontalDpi, 72.0);
+    QCOMPARE(header.verticalDpi, 72.0);
+    QCOMPARE(header.sizeInPoints(), QSizeF(30, 20));
+}
+
+void ImageHeaderTest::sidewaysOrientationExchangesTheSides() {
+    ImageHeader header;
+    header.width = 300;
+    header.height = 100;
+    header.horizontalDpi = 150;
+    header.verticalDpi = 50;
+    header.orientation = 4;
+    QCOMPARE(header.sizeInPoints(), QSizeF(144, 144));
+    header.verticalDpi = 100;
+    header.orientation = 5;
+    QCOMPARE(header.sizeInPoints(), QSizeF(72, 144));
+}
+
+void ImageHeaderTest::tooManyPixelsAreRefused() {
+    QByteArray png = bytesOf(imageFile(QStringLiteral("colour.png")));
+    qToBigEndian(quint32(100'000), png.data() + 16);
+    qToBigEndian(quint32(50'000), png.data() + 20);
+    const QString path = write("bomb.png", png);
+    const QString reason = QStringLiteral("The image is too large (100000 x 50000 pixels)");
+    QCOMPARE(headerRefusal(path), reason);
+    QCOMPARE(refusalOf(path), reason);
+}
+
+void ImageHeaderTest::pipeIsRefusedWithoutWaiting() {
+    const QString path = m_folder.filePath(QStringLiteral("pipe.png"));
+    QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    QCOMPARE(headerRefusal(path), QStringLiteral("It is not a regular file"));
+}
+
+void ImageHeaderTest::folderIsRefused() {
+    QCOMPARE(headerRefusal(m_folder.path()), QStringLiteral("It is a folder, not an image file"));
+}
+
+void ImageHeaderTest::missingFileIsRefused() {
+    QVERIFY(headerRefusal(m_folder.filePath(QStringLiteral("absent.png")))
+                .startsWith(QStringLiteral("The file cannot be opened: ")));
+}
+
+void ImageHeaderTest::emptyFileIsRefused() {
+    QCOMPARE(headerRefusal(write("empty.jpg", {})), QStringLiteral("The file is empty"));
+}
+
+QTEST_GUILESS_MAIN(ImageHeaderTest)
+#include "ImageHeaderTest.moc"

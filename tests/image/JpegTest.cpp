@@ -1,0 +1,177 @@
+#include "DecodedImage.h"
+
+#include "error/Error.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+class JpegTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void adobeInkIsInverted();
+    void inkWithoutAdobesMarkIsNot();
+    void jfifDensityPerInchAndPerCentimetre();
+    void exifGivesOrientationAndDensity_data();
+    void exifGivesOrientationAndDensity();
+    void profileInSeveralPartsIsJoined();
+    void profileOfAnotherColourIsDropped();
+    void fillBytesBeforeAMarkerAreSkipped();
+    void fileCutBeforeItsPictureIsRefused();
+    void fileCutInItsPictureGoesIn();
+    void losslessProcessIsRefused();
+
+  private:
+    QTemporaryDir m_folder;
+
+    QString write(const QByteArray &bytes) {
+        return writeFile(m_folder.filePath(QStringLiteral("photo.jpg")), bytes);
+    }
+    /// The test photo with segments put in after its start, and its own JFIF segment left out.
+    static QByteArray photoWith(const QByteArray &segments);
+    static QByteArray segment(uchar marker, const QByteArray &content);
+};
+
+namespace {
+
+QByteArray profileFor(const char *space, qsizetype size) {
+    QByteArray profile(size, '\0');
+    qToBigEndian(quint32(size), profile.data());
+    profile.replace(12, 4, "mntr").replace(16, 4, space).replace(36, 4, "acsp");
+    return profile;
+}
+
+QByteArray exifBlock(int orientation, quint32 dpi, bool littleEndian) {
+    QByteArray block = littleEndian ? QByteArray("II*\0", 4) : QByteArray("MM\0*", 4);
+    const auto half = [&](int value) {
+        QByteArray bytes(2, '\0');
+        littleEndian ? qToLittleEndian(quint16(value), bytes.data())
+                     : qToBigEndian(quint16(value), bytes.data());
+        block += bytes;
+    };
+    const auto word = [&](quint32 value) {
+        QByteArray bytes(4, '\0');
+        littleEndian ? qToLittleEndian(value, bytes.data()) : qToBigEndian(value, bytes.data());
+        block += bytes;
+    };
+    word(8);
+    half(3);
+    half(274), half(3), word(1), half(orientation), half(0);
+    half(282), half(5), word(1), word(50);
+    half(283), half(5), word(1), word(50);
+    word(0);
+    word(dpi), word(1);
+    return QByteArray("Exif\0\0", 6) + block;
+}
+
+} // namespace
+
+QByteArray JpegTest::segment(uchar marker, const QByteArray &content) {
+    QByteArray length(2, '\0');
+    qToBigEndian(quint16(content.size() + 2), length.data());
+    return QByteArray(1, '\xFF') + char(marker) + length + content;
+}
+
+QByteArray JpegTest::photoWith(const QByteArray &segments) {
+    const QByteArray photo = bytesOf(imageFile(QStringLiteral("photo.jpg")));
+    const qsizetype jfif = 2 + 2 + qFromBigEndian<quint16>(photo.constData() + 4);
+    return photo.first(2) + segments + photo.mid(jfif);
+}
+
+void JpegTest::adobeInkIsInverted() {
+    QVERIFY(bytesOf(imageFile(QStringLiteral("ink.jpg"))).contains("Adobe"));
+    const std::vector<double> inverted = {1, 0, 1, 0, 1, 0, 1, 0};
+    QCOMPARE(encodeImage(imageFile(QStringLiteral("ink.jpg"))).decode, inverted);
+}
+
+void JpegTest::inkWithoutAdobesMarkIsNot() {
+    QByteArray bytes = bytesOf(imageFile(QStringLiteral("ink.jpg")));
+    bytes.replace("Adobe", "Other");
+    QVERIFY(encodeImage(write(bytes)).decode.empty());
+}
+
+void JpegTest::jfifDensityPerInchAndPerCentimetre() {
+    QByteArray bytes = bytesOf(imageFile(QStringLiteral("photo.jpg")));
+    QCOMPARE(bytes.mid(6, 4), QByteArray("JFIF"));
+    bytes[13] = 1;
+    qToBigEndian(quint16(300), bytes.data() + 14);
+    qToBigEndian(quint16(150), bytes.data() + 16);
+    QCOMPARE(readImageHeader(write(bytes)).horizontalDpi, 300.0);
+    QCOMPARE(readImageHeader(write(bytes)).verticalDpi, 150.0);
+    bytes[13] = 2;
+    QCOMPARE(readImageHeader(write(bytes)).horizontalDpi, 762.0);
+    bytes[13] = 0; // A proportion, no density.
+    QCOMPARE(readImageHeader(write(bytes)).horizontalDpi, 72.0);
+}
+
+void JpegTest::exifGivesOrientationAndDensity_data() {
+    QTest::addColumn<int>("stated");
+    QTest::addColumn<int>("meant");
+    for (int i = 1; i <= 8; ++i) {
+        QTest::newRow(qPrintable(QString::number(i))) << i << i;
+    }
+    QTest::newRow("zero") << 0 << 1;
+    QTest::newRow("nine") << 9 << 1;
+    QTest::newRow("huge") << 65535 << 1;
+}
+
+void JpegTest::exifGivesOrientationAndDensity() {
+    QFETCH(int, stated);
+    QFETCH(int, meant);
+    for (const bool littleEndian : {true, false}) {
+        const QByteArray exif = segment(0xE1, exifBlock(stated, 240, littleEndian));
+        const ImageHeader header = readImageHeader(write(photoWith(exif)));
+        QCOMPARE(header.orientation, meant);
+        QCOMPARE(header.horizontalDpi, 240.0);
+        QCOMPARE(header.verticalDpi, 240.0);
+        QCOMPARE(header.width, 24); // Stored pixels, whatever way up.
+    }
+}
+
+void JpegTest::profileInSeveralPartsIsJoined() {
+    const QByteArray profile = profileFor("RGB ", 300);
+    const QByteArray lead("ICC_PROFILE\0", 12);
+    const QByteArray second = segment(0xE2, lead + "\2\2" + profile.mid(200));
+    const QByteArray first = segment(0xE2, lead + "\1\2" + profile.first(200));
+    QCOMPARE(encodeImage(write(photoWith(second + first))).iccProfile, profile);
+}
+
+void JpegTest::profileOfAnotherColourIsDropped() {
+    const QByteArray lead("ICC_PROFILE\0\1\1", 14);
+    QVERIFY(encodeImage(write(photoWith(segment(0xE2, lead + profileFor("GRAY", 200)))))
+                .iccProfile.isEmpty());
+    QVERIFY(encodeImage(write(photoWith(segment(0xE2, lead + "no profile")))).iccProfile.isEmpty());
+}
+
+void JpegTest::fillBytesBeforeAMarkerAreSkipped() {
+    const QByteArray filled = photoWith(QByteArray(5, '\xFF'));
+    QCOMPARE(readImageHeader(write(filled)).width, 24);
+}
+
+void JpegTest::fileCutBeforeItsPictureIsRefused() {
+    const QByteArray photo = bytesOf(imageFile(QStringLiteral("photo.jpg")));
+    for (const qsizetype length : {qsizetype(3), qsizetype(20), qsizetype(100)}) {
+        QCOMPARE(refusalOf(write(photo.first(length))),
+                 QStringLiteral("The JPEG file ends before its picture begins"));
+    }
+}
+
+void JpegTest::fileCutInItsPictureGoesIn() {
+    const QByteArray photo = bytesOf(imageFile(QStringLiteral("photo.jpg")));
+    const EncodedImage image = encodeImage(write(photo.chopped(30)));
+    QCOMPARE(image.filter, ImageFilter::Dct);
+    QCOMPARE(dataOf(image), photo.chopped(30));
+}
+
+void JpegTest::losslessProcessIsRefused() {
+    QByteArray photo = bytesOf(imageFile(QStringLiteral("photo.jpg")));
+    photo[photo.indexOf("\xFF\xC0") + 1] = '\xC3';
+    QVERIFY(refusalOf(write(photo)).contains(QStringLiteral("no PDF can hold")));
+}
+
+QTEST_GUILESS_MAIN(JpegTest)
+#include "JpegTest.moc"

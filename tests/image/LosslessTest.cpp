@@ -1,0 +1,234 @@
+#include "DecodedImage.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// Files of one picture in many forms, made with other programs: what is encoded, read back, is
+/// the picture.
+class LosslessTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void fileComesOutPixelForPixel_data();
+    void fileComesOutPixelForPixel();
+    void opacityBecomesASoftMask_data();
+    void opacityBecomesASoftMask();
+    void sixteenBitsStaySixteenBits_data();
+    void sixteenBitsStaySixteenBits();
+    void greyStaysGrey_data();
+    void greyStaysGrey();
+    void bilevelStaysOneBit_data();
+    void bilevelStaysOneBit();
+    void fullOpacityIsDropped();
+    void opacityOfAllOrNothingTakesOneBit();
+    void bitmapsOfQtComeOutPixelForPixel_data();
+    void bitmapsOfQtComeOutPixelForPixel();
+    void labKeepsItsAxes();
+    void inkOfATiffKeepsFourComponents();
+};
+
+namespace {
+
+QImage reference(const QString &name, QImage::Format format) {
+    return QImage(imageFile(name)).convertToFormat(format);
+}
+
+void addRows(const char *column, const QStringList &names) {
+    QTest::addColumn<QString>(column);
+    for (const QString &name : names) {
+        QTest::newRow(qPrintable(name)) << name;
+    }
+}
+
+} // namespace
+
+void LosslessTest::fileComesOutPixelForPixel_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("like");
+    const auto add = [](const char *name, const char *like) {
+        QTest::newRow(name) << QString::fromLatin1(name) << QString::fromLatin1(like);
+    };
+    for (const char *name :
+         {"colour.png", "colour-interlaced.png", "colour-LZW.tif", "colour-None.tif",
+          "colour-RLE.tif", "colour-Zip.tif", "colour-predictor.tif", "colour-planes.tif",
+          "colour-tiles.tif", "colour-bigendian.tif", "colour.psd", "colour-raw.psd", "png.icns"}) {
+        add(name, "colour.png");
+    }
+    for (const char *name : {"palette.png", "palette.tif", "palette.gif", "palette.psd"}) {
+        add(name, "palette.png");
+    }
+    add("two.gif", "palette.png"); // The second frame is the negative of the first.
+    add("photo.jpg", "photo.jpg");
+    add("progressive.jpg", "progressive.jpg");
+}
+
+void LosslessTest::fileComesOutPixelForPixel() {
+    QFETCH(QString, name);
+    QFETCH(QString, like);
+    const EncodedImage image = encodeImage(imageFile(name));
+    QCOMPARE(image.sourceSize, bytesOf(imageFile(name)).size());
+    QVERIFY(image.softMask == nullptr);
+    QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
+             reference(like, QImage::Format_RGB32));
+}
+
+void LosslessTest::opacityBecomesASoftMask_data() {
+    addRows("name",
+            {QStringLiteral("translucent.png"), QStringLiteral("translucent-interlaced.png"),
+             QStringLiteral("translucent.tif"), QStringLiteral("translucent.psd"),
+             QStringLiteral("translucent.jp2"), QStringLiteral("jp2.icns")});
+}
+
+void LosslessTest::opacityBecomesASoftMask() {
+    QFETCH(QString, name);
+    const EncodedImage image = encodeImage(imageFile(name));
+    QVERIFY(image.softMask != nullptr);
+    const QImage color = decoded(image);
+    const QImage alpha = decoded(*image.softMask);
+    const QImage expected = reference(QStringLiteral("translucent.png"), QImage::Format_ARGB32);
+    QCOMPARE(color.size(), expected.size());
+    QCOMPARE(alpha.size(), expected.size());
+    for (int y = 0; y < expected.height(); ++y) {
+        for (int x = 0; x < expected.width(); ++x) {
+            const QRgb pixel = expected.pixel(x, y);
+            QCOMPARE(qGray(alpha.pixel(x, y)), qAlpha(pixel));
+            if (qAlpha(pixel) != 0) {
+                QCOMPARE(color.pixel(x, y) & 0xFFFFFF, pixel & 0xFFFFFF);
+            }
+        }
+    }
+}
+
+void LosslessTest::sixteenBitsStaySixteenBits_data() {
+    addRows("name", {QStringLiteral("deep.png"), QStringLiteral("deep.tif"),
+                     QStringLiteral("deep-bigendian.tif"), QStringLiteral("deep.psd")});
+}
+
+void LosslessTest::sixteenBitsStaySixteenBits() {
+    QFETCH(QString, name);
+    const EncodedImage image = encodeImage(imageFile(name));
+    QCOMPARE(image.bitsPerComponent, 16);
+    QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGBX64),
+             reference(QStringLiteral("deep.png"), QImage::Format_RGBX64));
+}
+
+void LosslessTest::greyStaysGrey_data() {
+    addRows("name",
+            {QStringLiteral("grey.png"), QStringLiteral("grey.tif"), QStringLiteral("grey.psd")});
+}
+
+void LosslessTest::greyStaysGrey() {
+    QFETCH(QString, name);
+    const EncodedImage image = encodeImage(imageFile(name));
+    QCOMPARE(image.color, ImageColor::Gray);
+    QCOMPARE(decoded(image).convertToFormat(QImage::Format_Grayscale8),
+             reference(QStringLiteral("grey.png"), QImage::Format_Grayscale8));
+}
+
+void LosslessTest::bilevelStaysOneBit_data() {
+    addRows("name", {QStringLiteral("bilevel.png"), QStringLiteral("bilevel-g4.tif"),
+                     QStringLiteral("bilevel-strips.tif"), QStringLiteral("bilevel-g3.tif"),
+                     QStringLiteral("bilevel-lsb.tif"), QStringLiteral("bilevel-minisblack.tif")});
+}
+
+void LosslessTest::bilevelStaysOneBit() {
+    QFETCH(QString, name);
+    const EncodedImage image = encodeImage(imageFile(name));
+    QCOMPARE(image.bitsPerComponent, 1);
+    QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
+             reference(QStringLiteral("bilevel.png"), QImage::Format_RGB32));
+}
+
+void LosslessTest::fullOpacityIsDropped() {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("opaque.png"));
+    QVERIFY(reference(QStringLiteral("colour.png"), QImage::Format_RGBA8888).save(path));
+    QCOMPARE(bytesOf(path).at(25), '\x06'); // The file does hold an alpha channel.
+    const EncodedImage image = encodeImage(path);
+    QVERIFY(image.softMask == nullptr);
+    QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
+             reference(QStringLiteral("colour.png"), QImage::Format_RGB32));
+}
+
+void LosslessTest::opacityOfAllOrNothingTakesOneBit() {
+    const QTemporaryDir folder;
+    QImage picture = reference(QStringLiteral("colour.png"), QImage::Format_ARGB32);
+    picture.setPixel(3, 4, 0);
+    const QString path = folder.filePath(QStringLiteral("hole.png"));
+    QVERIFY(picture.save(path));
+    const EncodedImage image = encodeImage(path);
+    QVERIFY(image.softMask != nullptr);
+    QCOMPARE(image.softMask->bitsPerComponent, 1);
+    const QImage mask = decoded(*image.softMask);
+    QCOMPARE(qGray(mask.pixel(3, 4)), 0);
+    QCOMPARE(qGray(mask.pixel(4, 3)), 255);
+}
+
+void LosslessTest::bitmapsOfQtComeOutPixelForPixel_data() {
+    QTest::addColumn<QImage::Format>("format");
+    QTest::addColumn<int>("bits");
+    QTest::newRow("one bit") << QImage::Format_Mono << 1;
+    QTest::newRow("palette") << QImage::Format_Indexed8 << 8;
+    QTest::newRow("grey") << QImage::Format_Grayscale8 << 8;
+    QTest::newRow("colour") << QImage::Format_RGB32 << 8;
+}
+
+void LosslessTest::bitmapsOfQtComeOutPixelForPixel() {
+    QFETCH(QImage::Format, format);
+    QFETCH(int, bits);
+    const QTemporaryDir folder;
+    const QImage picture = reference(QStringLiteral("colour.png"), format);
+    const QString path = folder.filePath(QStringLiteral("picture.bmp"));
+    QVERIFY(picture.save(path));
+    const EncodedImage image = encodeImage(path);
+    QCOMPARE(image.bitsPerComponent, bits);
+    QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
+             picture.convertToFormat(QImage::Format_RGB32));
+}
+
+void LosslessTest::labKeepsItsAxes() {
+    // White, by hand: L 255, a and b 0 in two's complement, which a PDF counts from -128.
+    const QTemporaryDir folder;
+    QByteArray tiff = QByteArray::fromHex("49492a000b000000" // Header, directory at 11.
+                                          "ff00fb"           // One pixel: L 100, a 0, b -5.
+                                          "0900");
+    const auto entry = [&](quint16 tag, quint16 value, quint16 count = 1) {
+        QByteArray bytes(12, '\0');
+        qToLittleEndian(tag, bytes.data());
+        qToLittleEndian<quint16>(3, bytes.data() + 2);
+        qToLittleEndian<quint32>(count, bytes.data() + 4);
+        qToLittleEndian(value, bytes.data() + 8);
+        tiff += bytes;
+    };
+    entry(256, 1);
+    entry(257, 1);
+    const qsizetype bitsEntry = tiff.size();
+    entry(258, 0, 3);
+    entry(259, 1);
+    entry(262, 8);
+    entry(273, 8);
+    entry(277, 3);
+    entry(278, 1);
+    entry(279, 3);
+    tiff += QByteArray(4, '\0');
+    qToLittleEndian(quint32(tiff.size()), tiff.data() + bitsEntry + 8);
+    tiff += QByteArray::fromHex("080008000800");
+    const EncodedImage image =
+        encodeImage(writeFile(folder.filePath(QStringLiteral("lab.tif")), tiff));
+    QCOMPARE(image.color, ImageColor::Lab);
+    QCOMPARE(unzipped(image.data).last(3), QByteArray::fromHex("ff807b"));
+}
+
+void LosslessTest::inkOfATiffKeepsFourComponents() {
+    const EncodedImage image = encodeImage(imageFile(QStringLiteral("ink.tif")));
+    QCOMPARE(image.color, ImageColor::Cmyk);
+    QVERIFY(image.decode.empty());
+    QCOMPARE(unzipped(image.data).size(), qsizetype(16 * (1 + 24 * 4)));
+}
+
+QTEST_GUILESS_MAIN(LosslessTest)
+#include "LosslessTest.moc"

@@ -1,0 +1,102 @@
+#include "DecodedImage.h"
+
+#include <QTest>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// Compressed data that a PDF can hold goes in as it is in the file.
+class OwnBytesTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void wholeFileGoesIn_data();
+    void wholeFileGoesIn();
+    void pngRowsGoInWithTheirPredictor();
+    void oneStripOfGroup4GoesIn();
+    void reversedBitsOfGroup4AreTurned();
+    void manyStripsAreEncodedAgain();
+    void codestreamGetsTheBoxesOfAFile();
+    void jpeg2000InsideAnIconIsSplit();
+};
+
+void OwnBytesTest::wholeFileGoesIn_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<ImageFilter>("filter");
+    QTest::addColumn<ImageColor>("color");
+    const auto add = [](const char *name, ImageFilter filter, ImageColor color) {
+        QTest::newRow(name) << QString::fromLatin1(name) << filter << color;
+    };
+    add("photo.jpg", ImageFilter::Dct, ImageColor::Rgb);
+    add("progressive.jpg", ImageFilter::Dct, ImageColor::Rgb);
+    add("grey.jpg", ImageFilter::Dct, ImageColor::Gray);
+    add("ink.jpg", ImageFilter::Dct, ImageColor::Cmyk);
+    add("colour.jp2", ImageFilter::Jpx, ImageColor::FromJpx);
+}
+
+void OwnBytesTest::wholeFileGoesIn() {
+    QFETCH(QString, name);
+    QFETCH(ImageFilter, filter);
+    QFETCH(ImageColor, color);
+    const EncodedImage image = encodeImage(imageFile(name));
+    QCOMPARE(image.filter, filter);
+    QCOMPARE(image.color, color);
+    QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
+    QVERIFY(image.data.isEmpty());
+    QCOMPARE(dataOf(image), bytesOf(imageFile(name)));
+}
+
+void OwnBytesTest::pngRowsGoInWithTheirPredictor() {
+    for (const char *name : {"colour.png", "grey.png", "bilevel.png", "palette.png", "deep.png"}) {
+        const EncodedImage image = encodeImage(imageFile(QString::fromLatin1(name)));
+        QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
+        QCOMPARE(image.predictor, 15);
+        QVERIFY(bytesOf(image.sourcePath).contains("IDAT" + dataOf(image)));
+    }
+}
+
+void OwnBytesTest::oneStripOfGroup4GoesIn() {
+    const EncodedImage image = encodeImage(imageFile(QStringLiteral("bilevel-g4.tif")));
+    QCOMPARE(image.filter, ImageFilter::CcittFax);
+    QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
+    QCOMPARE(image.ccittK, -1);
+    QVERIFY(!image.ccittBlackIs1);
+    QCOMPARE(image.slices.size(), size_t(1));
+    QVERIFY(encodeImage(imageFile(QStringLiteral("bilevel-minisblack.tif"))).ccittBlackIs1);
+}
+
+void OwnBytesTest::reversedBitsOfGroup4AreTurned() {
+    const EncodedImage turned = encodeImage(imageFile(QStringLiteral("bilevel-lsb.tif")));
+    const EncodedImage plain = encodeImage(imageFile(QStringLiteral("bilevel-g4.tif")));
+    QCOMPARE(turned.data, dataOf(plain));
+}
+
+void OwnBytesTest::manyStripsAreEncodedAgain() {
+    const EncodedImage image = encodeImage(imageFile(QStringLiteral("bilevel-strips.tif")));
+    QCOMPARE(image.embeddedAs, EmbeddedAs::Recompressed);
+    QVERIFY(image.slices.empty());
+}
+
+void OwnBytesTest::codestreamGetsTheBoxesOfAFile() {
+    const QByteArray codestream = bytesOf(imageFile(QStringLiteral("codestream.jp2")));
+    QVERIFY(codestream.startsWith("\xFF\x4F"));
+    const EncodedImage image = encodeImage(imageFile(QStringLiteral("codestream.jp2")));
+    QCOMPARE(image.filter, ImageFilter::Jpx);
+    QVERIFY(image.data.endsWith(codestream));
+    // Colour space 16 is sRGB; what another program wrote around the same picture says the same.
+    const QByteArray file = bytesOf(imageFile(QStringLiteral("colour.jp2")));
+    const QByteArray colorBox = QByteArray("colr\1\0\0\0\0\0\x10", 11);
+    QVERIFY(file.contains(colorBox));
+    QVERIFY(image.data.contains(colorBox));
+    const auto header = file.mid(file.indexOf("ihdr"), 18);
+    QCOMPARE(image.data.mid(image.data.indexOf("ihdr"), 18), header);
+}
+
+void OwnBytesTest::jpeg2000InsideAnIconIsSplit() {
+    const EncodedImage image = encodeImage(imageFile(QStringLiteral("jp2.icns")));
+    QCOMPARE(image.filter, ImageFilter::Flate);
+    QVERIFY(image.softMask != nullptr);
+}
+
+QTEST_GUILESS_MAIN(OwnBytesTest)
+#include "OwnBytesTest.moc"

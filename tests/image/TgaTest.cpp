@@ -1,0 +1,109 @@
+#include "DecodedImage.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// TGA files of 3 x 2 pixels, byte by byte.
+class TgaTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void rowsOfEveryOriginComeOutUpright_data();
+    void rowsOfEveryOriginComeOutUpright();
+    void runsMayCrossRows();
+    void colorMapGivesColours();
+    void greyStaysGrey();
+    void fiveBitColoursAreWidened();
+    void opacityCountsOnlyWhereItIsDeclared();
+    void cutFileIsRefused();
+
+  private:
+    QTemporaryDir m_folder;
+
+    /// An image of 3 x 2 pixels.
+    QString tga(const char *typeBytes, int bits, int descriptor, const QByteArray &rest) {
+        QByteArray bytes("\0", 1);
+        bytes += QByteArray::fromHex(typeBytes) + QByteArray::fromHex("0000000003000200");
+        bytes.append(static_cast<char>(bits)).append(static_cast<char>(descriptor));
+        return writeFile(m_folder.filePath(QStringLiteral("picture.tga")), bytes + rest);
+    }
+    static QByteArray rgbRows(const EncodedImage &image);
+};
+
+QByteArray TgaTest::rgbRows(const EncodedImage &image) {
+    const QImage picture = decoded(image).convertToFormat(QImage::Format_RGB888);
+    QByteArray rows;
+    for (int y = 0; y < picture.height(); ++y) {
+        rows.append(reinterpret_cast<const char *>(picture.constScanLine(y)), picture.width() * 3);
+    }
+    return rows;
+}
+
+void TgaTest::rowsOfEveryOriginComeOutUpright_data() {
+    QTest::addColumn<int>("descriptor");
+    QTest::addColumn<QByteArray>("pixels");
+    // Blue, green, red of each pixel; the picture's blues are 1 2 3 over 4 5 6.
+    QTest::newRow("top left") << 0x20 << QByteArray("\1\0\0\2\0\0\3\0\0\4\0\0\5\0\0\6\0\0", 18);
+    QTest::newRow("bottom left") << 0 << QByteArray("\4\0\0\5\0\0\6\0\0\1\0\0\2\0\0\3\0\0", 18);
+    QTest::newRow("top right") << 0x30 << QByteArray("\3\0\0\2\0\0\1\0\0\6\0\0\5\0\0\4\0\0", 18);
+    QTest::newRow("bottom right") << 0x10 << QByteArray("\6\0\0\5\0\0\4\0\0\3\0\0\2\0\0\1\0\0", 18);
+}
+
+void TgaTest::rowsOfEveryOriginComeOutUpright() {
+    QFETCH(int, descriptor);
+    QFETCH(QByteArray, pixels);
+    const EncodedImage image = encodeImage(tga("00020000000000", 24, descriptor, pixels));
+    QCOMPARE(rgbRows(image), QByteArray("\0\0\1\0\0\2\0\0\3\0\0\4\0\0\5\0\0\6", 18));
+    QVERIFY(image.softMask == nullptr);
+}
+
+void TgaTest::runsMayCrossRows() {
+    const QByteArray runs = QByteArray::fromHex("84010203"   // Five of one colour,
+                                                "00040506"); // one of another.
+    const EncodedImage image = encodeImage(tga("000a0000000000", 24, 0x20, runs));
+    QCOMPARE(rgbRows(image), QByteArray::fromHex("030201030201030201030201030201060504"));
+}
+
+void TgaTest::colorMapGivesColours() {
+    // Two entries, the first being number 1.
+    const QByteArray rest = QByteArray::fromHex("0000ff00ff00") + QByteArray("\1\2\1\2\1\2", 6);
+    const EncodedImage image = encodeImage(tga("01010100020018", 8, 0x20, rest));
+    QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff00ff000000ff00ff000000ff00"));
+}
+
+void TgaTest::greyStaysGrey() {
+    const EncodedImage image =
+        encodeImage(tga("00030000000000", 8, 0x20, QByteArray::fromHex("000a141e28ff")));
+    QCOMPARE(image.color, ImageColor::Gray);
+    QCOMPARE(qGray(decoded(image).pixel(2, 1)), 255);
+    QCOMPARE(qGray(decoded(image).pixel(1, 0)), 10);
+}
+
+void TgaTest::fiveBitColoursAreWidened() {
+    const EncodedImage image = encodeImage(
+        tga("00020000000000", 16, 0x20, QByteArray::fromHex("007ce0031f00ff7f00000042")));
+    QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff000000ffffffff000000848400"));
+}
+
+void TgaTest::opacityCountsOnlyWhereItIsDeclared() {
+    const QByteArray pixels =
+        QByteArray::fromHex("010203ff0102038001020300010203ff010203ff010203ff");
+    QVERIFY(encodeImage(tga("00020000000000", 32, 0x20, pixels)).softMask == nullptr);
+    const EncodedImage image = encodeImage(tga("00020000000000", 32, 0x28, pixels));
+    QVERIFY(image.softMask != nullptr);
+    QCOMPARE(qGray(decoded(*image.softMask).pixel(1, 0)), 0x80);
+    QCOMPARE(qGray(decoded(*image.softMask).pixel(2, 0)), 0);
+}
+
+void TgaTest::cutFileIsRefused() {
+    QCOMPARE(refusalOf(tga("00020000000000", 24, 0x20, QByteArray(17, '\1'))),
+             QStringLiteral("The file ends too early"));
+    QCOMPARE(refusalOf(tga("000a0000000000", 24, 0x20, QByteArray::fromHex("84010203"))),
+             QStringLiteral("The file ends too early"));
+}
+
+QTEST_GUILESS_MAIN(TgaTest)
+#include "TgaTest.moc"
