@@ -22,7 +22,7 @@ class AboutWndCtrl {
 
     /// Shows the window in front of `parent`.
     void showWindow(QWidget *parent);
-    [[nodiscard]] const QDialog &window() const { return *m_window; }
+    [[nodiscard]] QDialog &window() const { return *m_window; }
     /// The loaded icon; empty when it could not be read.
     [[nodiscard]] const QImage &image() const { return m_image; }
 

@@ -169,6 +169,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void setOptionsWidth(int width);
     void fitWindowToOptions();
     void showSettingsView(QWidget *view);
+    void markSettingsButton(const QWidget *view);
     [[nodiscard]] PageSetup textPageSetup() const;
     [[nodiscard]] PageSetup imagePageSetup() const;
     [[nodiscard]] SecuritySettings securitySettings() const;

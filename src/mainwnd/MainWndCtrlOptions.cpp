@@ -102,17 +102,7 @@ void MainWndCtrl::clickBtnSecurity() {
     showSettingsView(m_securityView);
 }
 
-void MainWndCtrl::showSettingsView(QWidget *view) {
-    if (view == m_currentSettingsView) {
-        return;
-    }
-    for (QWidget *other : {m_textPageSizeView, m_imagePageSizeView, m_securityView}) {
-        if (other != view) {
-            m_settingsViewContainer->layout()->removeWidget(other);
-            other->setParent(m_settingsViewStore);
-        }
-    }
-    m_currentSettingsView = view;
+void MainWndCtrl::markSettingsButton(const QWidget *view) {
     const std::array<std::pair<SkinButton *, QWidget *>, 3> choices{
         {{m_btnTxtSetting, m_textPageSizeView},
          {m_btnImageSetting, m_imagePageSizeView},
@@ -123,6 +113,20 @@ void MainWndCtrl::showSettingsView(QWidget *view) {
             button->showNormalImage();
         }
     }
+}
+
+void MainWndCtrl::showSettingsView(QWidget *view) {
+    markSettingsButton(view);
+    if (view == m_currentSettingsView) {
+        return;
+    }
+    for (QWidget *other : {m_textPageSizeView, m_imagePageSizeView, m_securityView}) {
+        if (other != view) {
+            m_settingsViewContainer->layout()->removeWidget(other);
+            other->setParent(m_settingsViewStore);
+        }
+    }
+    m_currentSettingsView = view;
     m_settingsViewContainer->layout()->addWidget(view);
     view->show();
 }

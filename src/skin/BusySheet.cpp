@@ -14,7 +14,8 @@ constexpr int kCardTop = 120;
 
 /// Closing and quitting stay possible while the sheet is up.
 bool leavesTheProgram(const QKeyEvent &key) {
-    return key.matches(QKeySequence::Quit) || key.matches(QKeySequence::Close);
+    return key.keyCombination() == QKeyCombination(Qt::ControlModifier, Qt::Key_Q) ||
+           key.matches(QKeySequence::Quit) || key.matches(QKeySequence::Close);
 }
 
 QFrame *makeCard(QWidget *parent) {

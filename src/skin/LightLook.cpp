@@ -34,12 +34,12 @@ QPalette lightPalette() {
 /// edges, the accent colour for what has the focus.
 QString lightStyleSheet() {
     return QStringLiteral(R"(
-        QLineEdit, QComboBox {
+        QLineEdit {
             border: 1px solid #c2c8d0; border-radius: 5px; padding: 3px 7px; min-height: 18px;
             background: #ffffff; selection-background-color: #2f7de1; selection-color: #ffffff;
         }
-        QLineEdit:focus, QComboBox:focus { border: 2px solid #2f7de1; padding: 2px 6px; }
-        QLineEdit:disabled, QComboBox:disabled {
+        QLineEdit:focus { border: 2px solid #2f7de1; padding: 2px 6px; }
+        QLineEdit:disabled {
             border-color: #e0e4e9; background: #f6f7f9; color: #8a9098;
         }
         QLineEdit[readOnly="true"] { background: #f8f9fb; }
@@ -65,6 +65,12 @@ QString lightStyleSheet() {
         QLabel[role="title"] { font-size: 20px; font-weight: 600; }
         QProgressBar { border: none; border-radius: 4px; background: #e4e7eb; }
         QProgressBar::chunk { border-radius: 4px; background: #2f7de1; }
+        QScrollBar:vertical { width: 12px; background: #ffffff; }
+        QScrollBar::handle:vertical {
+            min-height: 32px; margin: 2px; border-radius: 4px; background: #c9ced6;
+        }
+        QScrollBar::handle:vertical:hover { background: #a9b0ba; }
+        QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }
         #busyCard { border: 1px solid #cfd4db; border-radius: 10px; background: #ffffff; }
         #busyTitle { font-size: 16px; font-weight: 600; }
         #busyCount { color: #59616b; }

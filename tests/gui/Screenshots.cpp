@@ -6,10 +6,12 @@
 #include "mainwnd/MainWndCtrl.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
+#include "skin/BusySheet.h"
 #include "skin/LightLook.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QProgressBar>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -58,9 +60,11 @@ void takeAll(MainWndCtrl &controller, Photographer &photographer, const QStringL
     photographer.press("m_btnSecuritySetting");
     photographer.take(QStringLiteral("options-security"));
     photographer.press("m_btnElapse");
-    controller.window()->findChild<QWidget *>(QStringLiteral("m_prgCreate"))->show();
+    controller.window()->findChild<QProgressBar *>()->show();
+    controller.window()->findChild<QProgressBar *>()->setValue(35);
     controller.window()->findChild<QWidget *>(QStringLiteral("m_lbProgress"))->show();
     controller.showAlertView();
+    controller.window()->findChild<BusySheet *>()->setFile(QStringLiteral("report.pdf"), 12, 17);
     photographer.take(QStringLiteral("window-busy"));
     controller.hideAlertView();
 }

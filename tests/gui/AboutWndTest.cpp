@@ -1,0 +1,90 @@
+#include "app/AboutWndCtrl.h"
+
+#include <QDir>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace folioforge;
+
+namespace {
+
+QString realBundle() {
+    return QStringLiteral(FOLIOFORGE_BUNDLE_PATH);
+}
+
+/// A bundle whose property list names its icon `icon`, with the real icon under `file`.
+struct Bundle {
+    Bundle(const QByteArray &icon, const QString &file) {
+        const QString resources = folder.filePath(QStringLiteral("Contents/Resources"));
+        if (!QDir().mkpath(resources) ||
+            !QFile::copy(realBundle() + QStringLiteral("/Contents/Resources/Folioforge.icns"),
+                         resources + u'/' + file)) {
+            qFatal("cannot make the bundle");
+        }
+        QFile info(folder.filePath(QStringLiteral("Contents/Info.plist")));
+        if (!info.open(QIODevice::WriteOnly)) {
+            qFatal("cannot write the property list");
+        }
+        info.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>"
+                   "<key>CFBundleIconFile</key><string>" +
+                   icon + "</string></dict></plist>\n");
+    }
+    QTemporaryDir folder;
+};
+
+QPixmap shownIcon(const AboutWndCtrl &about) {
+    return about.window().findChild<QLabel *>(QStringLiteral("m_imageView"))->pixmap();
+}
+
+} // namespace
+
+class AboutWndTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void theApplicationsOwnIconIsShown() {
+        const AboutWndCtrl about(realBundle());
+        QVERIFY(about.image().width() >= 512);
+        QCOMPARE(shownIcon(about).deviceIndependentSize(), QSizeF(128, 128));
+    }
+
+    void theIconIsTheOneThePropertyListNames() {
+        const Bundle bundle("Other", QStringLiteral("Other.icns"));
+        QVERIFY(!AboutWndCtrl(bundle.folder.path()).image().isNull());
+    }
+
+    void aNameThatHasTheExtensionAlreadyDoesNotLoad() {
+        const Bundle bundle("Other.icns", QStringLiteral("Other.icns"));
+        const AboutWndCtrl about(bundle.folder.path());
+        QVERIFY(about.image().isNull());
+        QVERIFY(shownIcon(about).isNull());
+    }
+
+    void aMissingBundleLeavesTheIconBlank() {
+        const AboutWndCtrl about(QStringLiteral("/nowhere"));
+        QVERIFY(about.image().isNull());
+        QVERIFY(shownIcon(about).isNull());
+    }
+
+    void theVersionAndTheLicencesAreShown() {
+        const AboutWndCtrl about(realBundle());
+        QCOMPARE(about.window().findChild<QLabel *>(QStringLiteral("versionLabel"))->text(),
+                 QStringLiteral("Version " FOLIOFORGE_VERSION));
+        const QString licences = about.window().findChild<QPlainTextEdit *>()->toPlainText();
+        QVERIFY(licences.contains(QStringLiteral("qpdf")));
+    }
+
+    void escapeClosesTheWindow() {
+        QWidget parent;
+        AboutWndCtrl about(realBundle());
+        about.showWindow(&parent);
+        QVERIFY(about.window().isVisible());
+        QTest::keyClick(&about.window(), Qt::Key_Escape);
+        QVERIFY(!about.window().isVisible());
+    }
+};
+
+QTEST_MAIN(AboutWndTest)
+#include "AboutWndTest.moc"

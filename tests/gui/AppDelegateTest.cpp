@@ -1,0 +1,166 @@
+#include "WindowWorld.h"
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QTimer>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+struct Application {
+    Application() {
+        world.storeFolder(world.home.path());
+        world.notices.answerNoticesAtOnce();
+        delegate.applicationDidFinishLaunching();
+    }
+
+    QMainWindow &window() { return *delegate.mainWndCtrl().window(); }
+    QAction &item(const QString &title) {
+        for (QAction *action : window().menuBar()->findChildren<QAction *>()) {
+            if (action->text().remove(u'&') == title) {
+                return *action;
+            }
+        }
+        qFatal("no item %s", qPrintable(title));
+    }
+    QString textFile(const QString &name) {
+        QFile file(world.homePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write("text\n") != 5) {
+            qFatal("cannot write");
+        }
+        return file.fileName();
+    }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(window().windowHandle(), key, modifiers);
+    }
+
+    /// Runs the application, in which the user closes the main window; 0 when that ends it.
+    int runUntilClosed() {
+        QTimer::singleShot(0, &window(), [this] { window().close(); });
+        QTimer::singleShot(10000, &window(), [] { QCoreApplication::exit(1); });
+        return QApplication::exec();
+    }
+
+    WindowWorld world;
+    FolioforgeAppDelegate delegate{world.surroundings()};
+};
+
+} // namespace
+
+class AppDelegateTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void launchingShowsTheMainWindowAloneAndCentresIt() {
+        Application application;
+        QVERIFY(application.window().isVisible());
+        const QPoint center = application.window().frameGeometry().center();
+        const QPoint middle = application.window().screen()->availableGeometry().center();
+        QVERIFY((center - middle).manhattanLength() <= 2);
+        int visible = 0;
+        for (const QWidget *widget : QApplication::topLevelWidgets()) {
+            visible += widget->isVisible() ? 1 : 0;
+        }
+        QCOMPARE(visible, 1);
+    }
+
+    void theListStartsEmptyAndTheStartItemDisabled() {
+        Application application;
+        QVERIFY(application.delegate.mainWndCtrl().filesArray().isEmpty());
+        QVERIFY(!application.item(QStringLiteral("Start")).isEnabled());
+    }
+
+    void theStartItemFollowsTheCreateButton() {
+        Application application;
+        MainWndCtrl &ctrl = application.delegate.mainWndCtrl();
+        auto &create = controlOf<QWidget>(application.window(), "m_btnCreate");
+        ctrl.addFiles({application.textFile(QStringLiteral("a.txt"))}, -1);
+        QTRY_VERIFY(application.item(QStringLiteral("Start")).isEnabled());
+        QVERIFY(create.isEnabled());
+        ctrl.clickBtnClear();
+        QVERIFY(!application.item(QStringLiteral("Start")).isEnabled());
+        QVERIFY(!create.isEnabled());
+    }
+
+    void controlOAddsFiles() {
+        Application application;
+        application.world.notices.setNextFiles({application.textFile(QStringLiteral("a.txt"))});
+        application.window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&application.window()));
+        application.key(Qt::Key_O, Qt::ControlModifier);
+        QTRY_COMPARE(application.delegate.mainWndCtrl().filesArray().count(), 1);
+        QVERIFY(application.world.notices.filePanels().front().chooses ==
+                FilePanel::Chooses::FilesAndFolders);
+    }
+
+    /// A refused run shows the same notice, whichever way it is started.
+    void theStartItemDoesWhatTheCreateButtonDoes() {
+        Application application;
+        application.world.notices.answerNoticesAtOnce();
+        MainWndCtrl &ctrl = application.delegate.mainWndCtrl();
+        ctrl.addFiles({application.textFile(QStringLiteral("a.txt"))}, -1);
+        QTRY_VERIFY(application.item(QStringLiteral("Start")).isEnabled());
+        controlOf<QLineEdit>(application.window(), "m_tfOutputFolder").clear();
+        application.window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&application.window()));
+        application.key(Qt::Key_Return, Qt::ControlModifier);
+        QTest::mouseClick(&controlOf<QWidget>(application.window(), "m_btnCreate"), Qt::LeftButton);
+        QCOMPARE(application.world.notices.shown().size(), std::size_t(2));
+        QCOMPARE(application.world.notices.shown().at(0).notice,
+                 application.world.notices.shown().at(1).notice);
+        QCOMPARE(application.world.notices.shown().at(0).notice.message,
+                 QStringLiteral("Please select an output folder to store the output documents."));
+    }
+
+    void supportOpensTheTutorialAndProductTheProductPage() {
+        Application application;
+        application.window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&application.window()));
+        application.key(Qt::Key_F1);
+        application.item(QStringLiteral("Product Page")).trigger();
+        const QList<QUrl> &urls = application.world.desktop.urls;
+        QCOMPARE(urls.size(), 2);
+        QCOMPARE(urls.at(0).fileName(), QStringLiteral("tutorial.html"));
+        QCOMPARE(urls.at(1).fileName(), QStringLiteral("product.html"));
+        for (const QUrl &url : urls) {
+            QVERIFY(QFileInfo(url.toLocalFile()).isFile());
+        }
+    }
+
+    void theUpdateItemIsVisibleAndLeadsToTheDownloads() {
+        Application application;
+        QAction &update = application.item(QStringLiteral("Check for Update..."));
+        QVERIFY(update.isVisible());
+        update.trigger();
+        QCOMPARE(application.world.desktop.urls.size(), 1);
+        QCOMPARE(application.world.desktop.urls.first().fragment(), QStringLiteral("download"));
+        QFile page(application.world.desktop.urls.first().toLocalFile());
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        QVERIFY(page.readAll().contains("id=\"download\""));
+    }
+
+    void quittingNeedsNoAnswer() {
+        QVERIFY(FolioforgeAppDelegate::applicationShouldTerminate());
+        QVERIFY(FolioforgeAppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+    }
+
+    void closingTheMainWindowQuitsThoughAboutIsOpen() {
+        Application application;
+        application.item(QStringLiteral("About Folioforge")).trigger();
+        QCOMPARE(application.runUntilClosed(), 0);
+    }
+
+    void closingDuringABusySheetAsksNothing() {
+        Application application;
+        application.delegate.mainWndCtrl().showAlertView();
+        QCOMPARE(application.runUntilClosed(), 0);
+        QVERIFY(application.world.notices.shown().empty());
+    }
+};
+
+QTEST_MAIN(AppDelegateTest)
+#include "AppDelegateTest.moc"

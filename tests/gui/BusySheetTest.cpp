@@ -1,0 +1,132 @@
+#include "skin/BusySheet.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace folioforge;
+
+namespace {
+
+/// A window with a field, a button and a shortcut, and the sheet over them.
+struct Covered {
+    Covered() {
+        window.resize(600, 400);
+        window.setCentralWidget(&center);
+        field.setGeometry(20, 20, 200, 30);
+        button.setGeometry(20, 300, 100, 30);
+        action.setShortcut(QKeySequence(QStringLiteral("Ctrl+O")));
+        quit.setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
+        window.addAction(&action);
+        window.addAction(&quit);
+        window.show();
+        window.activateWindow();
+        field.setFocus();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+    }
+    ~Covered() { window.takeCentralWidget(); }
+    Covered(const Covered &) = delete;
+    Covered &operator=(const Covered &) = delete;
+
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(window.windowHandle(), key, modifiers);
+    }
+
+    QMainWindow window;
+    QWidget center;
+    QLineEdit field{&center};
+    QPushButton button{&center};
+    BusySheet sheet{&center};
+    QAction action;
+    QAction quit;
+};
+
+} // namespace
+
+class BusySheetTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void itIsHiddenUntilItBegins() {
+        Covered covered;
+        QVERIFY(!covered.sheet.isVisible());
+        covered.sheet.beginSheet();
+        QVERIFY(covered.sheet.isVisible());
+        QCOMPARE(covered.sheet.geometry(), covered.window.rect());
+        covered.sheet.endSheet();
+        QVERIFY(!covered.sheet.isVisible());
+    }
+
+    void itFollowsTheWindowsSize() {
+        Covered covered;
+        covered.sheet.beginSheet();
+        covered.window.resize(700, 500);
+        QTRY_COMPARE(covered.sheet.size(), QSize(700, 500));
+    }
+
+    void theMouseReachesNothingUnderIt() {
+        Covered covered;
+        const QSignalSpy fired(&covered.button, &QAbstractButton::clicked);
+        const QPoint at = covered.button.mapTo(&covered.window, QPoint(50, 15));
+        QTest::mouseClick(covered.window.windowHandle(), Qt::LeftButton, {}, at);
+        QCOMPARE(fired.count(), 1);
+        covered.sheet.beginSheet();
+        QTest::mouseClick(covered.window.windowHandle(), Qt::LeftButton, {}, at);
+        QCOMPARE(fired.count(), 1);
+    }
+
+    void theKeyboardReachesNothingUnderIt() {
+        Covered covered;
+        covered.sheet.beginSheet();
+        covered.key(Qt::Key_A);
+        covered.key(Qt::Key_Tab);
+        covered.key(Qt::Key_A);
+        QCOMPARE(covered.field.text(), QString());
+        QVERIFY(covered.sheet.hasFocus());
+    }
+
+    void shortcutsRestButForQuitting() {
+        Covered covered;
+        const QSignalSpy opened(&covered.action, &QAction::triggered);
+        const QSignalSpy quitted(&covered.quit, &QAction::triggered);
+        covered.key(Qt::Key_O, Qt::ControlModifier);
+        QCOMPARE(opened.count(), 1);
+        covered.sheet.beginSheet();
+        covered.key(Qt::Key_O, Qt::ControlModifier);
+        covered.key(Qt::Key_Q, Qt::ControlModifier);
+        QCOMPARE(opened.count(), 1);
+        QCOMPARE(quitted.count(), 1);
+    }
+
+    void theWindowCanStillBeClosed() {
+        Covered covered;
+        covered.sheet.beginSheet();
+        QVERIFY(covered.window.close());
+        QVERIFY(!covered.window.isVisible());
+    }
+
+    void theFocusComesBackWhenItEnds() {
+        Covered covered;
+        covered.sheet.beginSheet();
+        covered.sheet.endSheet();
+        QVERIFY(covered.field.hasFocus());
+    }
+
+    void itSaysWhichFileIsWrittenAndHowManyAreDone() {
+        Covered covered;
+        covered.sheet.setFile(QStringLiteral("a<b>.txt"), 2, 5);
+        QCOMPARE(covered.sheet.findChild<QLabel *>(QStringLiteral("busyFile"))->text(),
+                 QStringLiteral("a<b>.txt"));
+        QCOMPARE(covered.sheet.findChild<QLabel *>(QStringLiteral("busyCount"))->text(),
+                 QStringLiteral("2 of 5 done"));
+    }
+};
+
+QTEST_MAIN(BusySheetTest)
+#include "BusySheetTest.moc"

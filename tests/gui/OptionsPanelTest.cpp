@@ -1,0 +1,337 @@
+#include "WindowWorld.h"
+
+#include "skin/OptionsDrawer.h"
+#include "skin/SkinButton.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+/// A loaded and shown window with the real skins.
+struct Panel {
+    Panel() {
+        world.storeFolder(world.home.path());
+        world.notices.answerNoticesAtOnce();
+        ctrl.window()->show();
+    }
+
+    template<typename Control> Control &control(const char *name) {
+        return controlOf<Control>(*ctrl.window(), name);
+    }
+    QLineEdit &field(const char *name) { return control<QLineEdit>(name); }
+    void press(const char *name) { QTest::mouseClick(&control<QWidget>(name), Qt::LeftButton); }
+    /// A click on a check box or radio button, whose own ground is larger than what it shows.
+    void tick(const char *name) {
+        auto &box = control<QAbstractButton>(name);
+        QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
+    }
+    void type(const char *name, const QString &text) {
+        field(name).selectAll();
+        QTest::keyClicks(&field(name), text);
+    }
+    void openPanel() {
+        press("m_btnExpand");
+        QTRY_COMPARE(control<OptionsDrawer>("m_optionsDrawer").openWidth(), 342);
+    }
+    [[nodiscard]] QString lastMessage() const {
+        return world.notices.shown().empty() ? QString()
+                                             : world.notices.shown().back().notice.message;
+    }
+    QStringList enabledAmong(const QStringList &names) {
+        QStringList enabled;
+        for (const QString &name : names) {
+            if (control<QWidget>(qPrintable(name)).isEnabled()) {
+                enabled << name;
+            }
+        }
+        return enabled;
+    }
+
+    WindowWorld world;
+    MainWndCtrl ctrl{world.surroundings()};
+};
+
+const QStringList kProperties{QStringLiteral("m_tfTitle"), QStringLiteral("m_tfAuthor"),
+                              QStringLiteral("m_tfSubject"), QStringLiteral("m_tfKeywords")};
+const QStringList kPasswordBoxes{QStringLiteral("m_btnCheckUserPassword"),
+                                 QStringLiteral("m_btnCheckOwnerPassword")};
+const QStringList kOwnerControls{QStringLiteral("m_btnCheckAllowPrint"),
+                                 QStringLiteral("m_btnCheckAllowCopy"),
+                                 QStringLiteral("m_tfOwnerPassword")};
+const QStringList kUserControls{QStringLiteral("m_tfUserPassword")};
+const QStringList kSave{QStringLiteral("m_btnSave")};
+const QStringList kAll = kProperties + kPasswordBoxes + kUserControls + kOwnerControls + kSave;
+
+} // namespace
+
+class OptionsPanelTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void theWindowStartsWithoutThePanelAndItsWidth() {
+        Panel panel;
+        QVERIFY(!panel.control<QWidget>("m_optionsDrawer").isVisible());
+        QVERIFY(panel.control<QWidget>("m_btnExpand").isVisible());
+        QVERIFY(!panel.control<QWidget>("m_btnElapse").isVisible());
+        QCOMPARE(panel.control<QLabel>("m_labelOptions").text(), QStringLiteral("Show Options"));
+    }
+
+    void showingThePanelWidensTheWindowToTheRight() {
+        Panel panel;
+        const QRect before = panel.ctrl.window()->geometry();
+        panel.openPanel();
+        QCOMPARE(panel.ctrl.window()->geometry(), before.adjusted(0, 0, 342, 0));
+        QVERIFY(!panel.control<QWidget>("m_btnExpand").isVisible());
+        QVERIFY(panel.control<QWidget>("m_btnElapse").isVisible());
+        QCOMPARE(panel.control<QLabel>("m_labelOptions").text(), QStringLiteral("Hide Options"));
+        QCOMPARE(panel.control<QWidget>("optionsPanel").width(), 342);
+    }
+
+    void showingAndHidingRestoresTheExactGeometry() {
+        Panel panel;
+        const QRect before = panel.ctrl.window()->geometry();
+        panel.openPanel();
+        panel.press("m_btnElapse");
+        QTRY_COMPARE(panel.control<OptionsDrawer>("m_optionsDrawer").openWidth(), 0);
+        QCOMPARE(panel.ctrl.window()->geometry(), before);
+        QVERIFY(panel.control<QWidget>("m_btnExpand").isVisible());
+        QCOMPARE(panel.control<QLabel>("m_labelOptions").text(), QStringLiteral("Show Options"));
+    }
+
+    void hidingHalfWayThroughShowingRestoresTheWidthToo() {
+        Panel panel;
+        const QRect before = panel.ctrl.window()->geometry();
+        panel.press("m_btnExpand");
+        panel.press("m_btnElapse");
+        QTRY_COMPARE(panel.control<OptionsDrawer>("m_optionsDrawer").openWidth(), 0);
+        QCOMPARE(panel.ctrl.window()->geometry(), before);
+    }
+
+    void theButtonThatAppearsShowsItsNormalLook() {
+        Panel panel;
+        panel.openPanel();
+        QCoreApplication::processEvents();
+        auto &hide = panel.control<SkinButton>("m_btnElapse");
+        QVERIFY(hide.image() == hide.normalImage());
+    }
+
+    void aMaximisedWindowShowsThePanelInside() {
+        Panel panel;
+        QMainWindow &window = *panel.ctrl.window();
+        const int narrow = window.width();
+        window.showMaximized();
+        QVERIFY(window.isMaximized());
+        QTRY_VERIFY(window.height() > 720);
+        const int full = window.width();
+        panel.openPanel();
+        // The screen of the tests is narrow: the window may not become narrower than its contents.
+        QCOMPARE(window.width(), qMax(full, window.minimumSizeHint().width()));
+        QVERIFY(panel.control<QWidget>("optionsPanel").isVisible());
+        window.showNormal();
+        QTRY_COMPARE(window.width(), narrow + 342);
+    }
+
+    void theDefaultsAreA4FollowTheImageAndNoCompression() {
+        Panel panel;
+        QVERIFY(panel.control<QRadioButton>("textA4").isChecked());
+        QVERIFY(panel.control<QRadioButton>("imageFollows").isChecked());
+        QCOMPARE(panel.control<QComboBox>("m_comboCompressMethod").currentIndex(), 0);
+        QCOMPARE(panel.ctrl.getTextPageSize(), QSizeF(595, 842));
+        QCOMPARE(panel.ctrl.getImagePageSize(), QSizeF(0, 0));
+    }
+
+    void theImageSettingsComeFirst() {
+        Panel panel;
+        panel.openPanel();
+        QVERIFY(panel.control<QWidget>("m_imagePageSizeView").isVisible());
+        QVERIFY(!panel.control<QWidget>("m_textPageSizeView").isVisible());
+        QVERIFY(!panel.control<QWidget>("m_securityView").isVisible());
+    }
+
+    void eachButtonPutsItsViewAloneIntoTheContainer_data() {
+        QTest::addColumn<QByteArray>("button");
+        QTest::addColumn<QByteArray>("view");
+        QTest::newRow("text") << QByteArray("m_btnTxtSetting") << QByteArray("m_textPageSizeView");
+        QTest::newRow("security") << QByteArray("m_btnSecuritySetting")
+                                  << QByteArray("m_securityView");
+        QTest::newRow("image") << QByteArray("m_btnImageSetting")
+                               << QByteArray("m_imagePageSizeView");
+    }
+
+    void eachButtonPutsItsViewAloneIntoTheContainer() {
+        QFETCH(const QByteArray, button);
+        QFETCH(const QByteArray, view);
+        Panel panel;
+        panel.openPanel();
+        panel.press(button.constData());
+        panel.press(button.constData());
+        const auto views = panel.control<QWidget>("m_settingsViewContainer")
+                               .findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        QCOMPARE(views.size(), 1);
+        QCOMPARE(views.first()->objectName(), QString::fromLatin1(view));
+        QVERIFY(views.first()->isVisible());
+        QVERIFY(panel.control<SkinButton>(button.constData()).isChecked());
+    }
+
+    void theValuesOfHiddenViewsAreKept() {
+        Panel panel;
+        panel.openPanel();
+        panel.type("m_tfImagePageMarginLeft", QStringLiteral("31"));
+        panel.press("m_btnTxtSetting");
+        panel.press("m_btnImageSetting");
+        QCOMPARE(panel.field("m_tfImagePageMarginLeft").text(), QStringLiteral("31"));
+    }
+
+    void withAnEmptyListPropertiesSecurityAndSaveAreDisabled() {
+        Panel panel;
+        QCOMPARE(panel.enabledAmong(kAll), QStringList());
+    }
+
+    void withFilesThePropertiesAndTheTwoBoxesAreEnabled() {
+        Panel panel;
+        panel.ctrl.EnableSettings(true);
+        QCOMPARE(panel.enabledAmong(kAll), kProperties + kPasswordBoxes + kSave);
+    }
+
+    void tickedBoxesEnableTheirControlsAndStayTickedWhenDisabled() {
+        Panel panel;
+        panel.ctrl.EnableSettings(true);
+        panel.openPanel();
+        panel.press("m_btnSecuritySetting");
+        panel.tick("m_btnCheckUserPassword");
+        panel.tick("m_btnCheckOwnerPassword");
+        QCOMPARE(panel.enabledAmong(kAll), kAll);
+        panel.ctrl.EnableSettings(false);
+        QCOMPARE(panel.enabledAmong(kAll), QStringList());
+        QVERIFY(panel.control<QCheckBox>("m_btnCheckUserPassword").isChecked());
+        panel.ctrl.EnableSettings(true);
+        QCOMPARE(panel.enabledAmong(kAll), kAll);
+    }
+
+    void tickingTheUserPasswordOffAndOnEmptiesItsField() {
+        Panel panel;
+        panel.ctrl.EnableSettings(true);
+        panel.openPanel();
+        panel.press("m_btnSecuritySetting");
+        panel.tick("m_btnCheckUserPassword");
+        panel.type("m_tfUserPassword", QStringLiteral("secret"));
+        QCOMPARE(panel.field("m_tfUserPassword").text(), QStringLiteral("secret"));
+        panel.tick("m_btnCheckUserPassword");
+        QVERIFY(!panel.field("m_tfUserPassword").isEnabled());
+        QCOMPARE(panel.field("m_tfUserPassword").text(), QString());
+        panel.tick("m_btnCheckUserPassword");
+        QCOMPARE(panel.field("m_tfUserPassword").text(), QString());
+    }
+
+    void theOwnerBoxLeavesThePermissionBoxesAsTheyAre() {
+        Panel panel;
+        panel.ctrl.EnableSettings(true);
+        panel.openPanel();
+        panel.press("m_btnSecuritySetting");
+        panel.tick("m_btnCheckOwnerPassword");
+        panel.tick("m_btnCheckAllowPrint");
+        panel.type("m_tfOwnerPassword", QStringLiteral("secret"));
+        panel.tick("m_btnCheckOwnerPassword");
+        QVERIFY(panel.control<QCheckBox>("m_btnCheckAllowPrint").isChecked());
+        QVERIFY(!panel.control<QCheckBox>("m_btnCheckAllowPrint").isEnabled());
+        QCOMPARE(panel.field("m_tfOwnerPassword").text(), QString());
+    }
+
+    void thePermissionBoxesSayWhatATickDoes() {
+        Panel panel;
+        QCOMPARE(panel.control<QCheckBox>("m_btnCheckAllowPrint").accessibleName(),
+                 QStringLiteral("Refuse printing"));
+        QCOMPARE(panel.control<QCheckBox>("m_btnCheckAllowCopy").accessibleName(),
+                 QStringLiteral("Refuse copying"));
+    }
+
+    void onlyTheCustomRowsEnableTheCustomSizes() {
+        Panel panel;
+        panel.openPanel();
+        QVERIFY(!panel.field("m_tfImageCustomizedPageWidth").isEnabled());
+        panel.tick("imageCustom");
+        QVERIFY(panel.field("m_tfImageCustomizedPageWidth").isEnabled());
+        QVERIFY(panel.field("m_tfImageCustomizedPageHeight").isEnabled());
+        panel.type("m_tfImageCustomizedPageWidth", QStringLiteral("300"));
+        panel.tick("imageFollows");
+        QVERIFY(!panel.field("m_tfImageCustomizedPageWidth").isEnabled());
+        QCOMPARE(panel.field("m_tfImageCustomizedPageWidth").text(), QStringLiteral("300"));
+
+        panel.press("m_btnTxtSetting");
+        QVERIFY(!panel.field("m_tfTextCustomizedPageWidth").isEnabled());
+        panel.tick("textCustom");
+        QVERIFY(panel.field("m_tfTextCustomizedPageWidth").isEnabled());
+        QVERIFY(panel.field("m_tfTextCustomizedPageHeight").isEnabled());
+        panel.tick("textA3");
+        QVERIFY(!panel.field("m_tfTextCustomizedPageWidth").isEnabled());
+        QCOMPARE(panel.ctrl.getTextPageSize(), QSizeF(842, 1191));
+    }
+
+    void theArrowKeysChooseARowAsTheMouseDoes() {
+        Panel panel;
+        panel.openPanel();
+        auto &follows = panel.control<QRadioButton>("imageFollows");
+        follows.setFocus();
+        QTest::keyClick(&follows, Qt::Key_Down);
+        QVERIFY(panel.control<QRadioButton>("imageCustom").isChecked());
+        QVERIFY(panel.field("m_tfImageCustomizedPageWidth").isEnabled());
+    }
+
+    void numberFieldsTakeTheirLeadingInteger() {
+        Panel panel;
+        panel.openPanel();
+        panel.tick("imageCustom");
+        panel.type("m_tfImageCustomizedPageWidth", QStringLiteral("300.7 points"));
+        panel.type("m_tfImageCustomizedPageHeight", QStringLiteral("tall"));
+        QCOMPARE(panel.ctrl.getImagePageSize(), QSizeF(300, 0));
+    }
+
+    void aBadMarginShowsOneNoticeAndAnswersNo() {
+        Panel panel;
+        panel.openPanel();
+        panel.press("m_btnTxtSetting");
+        panel.type("m_tfTextPageMarginTop", QStringLiteral("300"));
+        panel.type("m_tfTextPageMarginLeft", QStringLiteral("300"));
+        QVERIFY(!panel.ctrl.checkTextPageSizeSettings());
+        QCOMPARE(panel.world.notices.shown().size(), std::size_t(1));
+        QCOMPARE(panel.lastMessage(),
+                 QStringLiteral("Invalid page margin value in text output setting."));
+        panel.type("m_tfTextPageMarginTop", QStringLiteral("256"));
+        panel.type("m_tfTextPageMarginLeft", QStringLiteral("0"));
+        QVERIFY(panel.ctrl.checkTextPageSizeSettings());
+        QVERIFY(panel.ctrl.checkImagePageSizeSettings());
+        QCOMPARE(panel.world.notices.shown().size(), std::size_t(1));
+    }
+
+    void emptyPasswordsShowOnlyTheFirstNotice() {
+        Panel panel;
+        panel.ctrl.EnableSettings(true);
+        panel.openPanel();
+        panel.press("m_btnSecuritySetting");
+        panel.tick("m_btnCheckUserPassword");
+        panel.tick("m_btnCheckOwnerPassword");
+        QVERIFY(!panel.ctrl.checkSecuritySettings());
+        QCOMPARE(panel.world.notices.shown().size(), std::size_t(1));
+        QCOMPARE(panel.lastMessage(), QStringLiteral("Please input user password."));
+    }
+
+    void savingDoesNothing() {
+        Panel panel;
+        panel.ctrl.EnableSettings(true);
+        panel.openPanel();
+        panel.type("m_tfTitle", QStringLiteral("A title"));
+        panel.press("m_btnSave");
+        QCOMPARE(panel.field("m_tfTitle").text(), QStringLiteral("A title"));
+        QVERIFY(panel.world.notices.shown().empty());
+    }
+};
+
+QTEST_MAIN(OptionsPanelTest)
+#include "OptionsPanelTest.moc"
