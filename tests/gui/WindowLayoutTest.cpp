@@ -218,6 +218,7 @@ class WindowLayoutTest : public QObject {
         const auto place = [&window] {
             return window.control<QWidget>("m_btnBrowse").mapTo(window.ctrl.window(), QPoint());
         };
+        QCoreApplication::processEvents();
         const QPoint before = place();
         window.control<QProgressBar>("m_prgCreate").show();
         window.control<QLabel>("m_lbProgress").show();
