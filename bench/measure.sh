@@ -62,16 +62,17 @@ run_all() {
         done
         round=$((round + 1))
     done
-    echo "| | wall s | processor s | peak MB | output MB | wall beside ours |"
-    echo "|---|--:|--:|--:|--:|--:|"
+    echo "| | wall s | processor s | peak MB | output MB | wall beside ours | processor beside ours |"
+    echo "|---|--:|--:|--:|--:|--:|--:|"
     for script in "$scratch"/candidates/*.sh; do
         name=$(cat "${script%.sh}.name")
         [ -n "$(best wall "$name")" ] || continue
-        printf '| %s | %.2f | %.2f | %.0f | %.1f | %.2f × |\n' "$name" \
+        printf '| %s | %.2f | %.2f | %.0f | %.1f | %.2f × | %.2f × |\n' "$name" \
             "$(best wall "$name")" "$(best cpu "$name")" \
             "$(awk -v x="$(best memory "$name")" 'BEGIN { print x / 1e3 }')" \
             "$(awk -v x="$(best size "$name")" 'BEGIN { print x / 1e6 }')" \
-            "$(ratio "$(best wall "$name")" "$(best wall folioforge)")"
+            "$(ratio "$(best wall "$name")" "$(best wall folioforge)")" \
+            "$(ratio "$(best cpu "$name")" "$(best cpu folioforge)")"
     done
     echo
 }
