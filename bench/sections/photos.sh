@@ -27,8 +27,9 @@ limit "mutool create's wall time beside ours, above 1" \
 limit "img2pdf's wall time beside ours, above 1" \
     "$(ratio "$(best wall img2pdf)" "$(best wall folioforge)")" at-least 1
 limit "peak memory, under 60 MB" "$(ratio "$(best memory folioforge)" 1000)" at-most 60 " MB"
-limit "peak memory of 200 beside that of 50, flat" \
-    "$(ratio "$(best memory folioforge)" "$(best memory "folioforge, a quarter of them")")" at-most 1.1
+limit "peak memory that each photo after the fiftieth adds, flat: at most 0.05 MB" \
+    "$(awk -v all="$(best memory folioforge)" -v quarter="$(best memory "folioforge, a quarter of them")" \
+        'BEGIN { if (all != "" && quarter != "") print (all - quarter) / 150 / 1e3 }')" at-most 0.05 " MB"
 
 begin "200 photos in one PDF with AES-256"
 candidate "folioforge" \
