@@ -72,23 +72,27 @@ opaque_screenshots() {
     done
 }
 
-# 40 scans of A4 at 300 per inch: 20 in colour with LZW, 20 bilevel with Group 4.
+# 40 scans of A4: 20 in colour at 150 per inch with LZW, 20 bilevel at 300 with Group 4.
 scans() {
     i=0
     while [ $i -lt 40 ]; do
         if [ $((i % 2)) -eq 0 ]; then
-            scan -attenuate 0.05 +noise Gaussian -depth 8 -compress LZW
+            scan 150 -attenuate 0.05 +noise Gaussian -depth 8 -compress LZW
         else
-            scan -colorspace Gray -threshold 60% -type Bilevel -compress Group4
+            scan 300 -colorspace Gray -threshold 60% -type Bilevel -compress Group4
         fi
         i=$((i + 1))
     done
 }
 
-scan() { # HOW...
-    convert -seed "$i" -size 2480x3508 xc:#f4efe4 -fill '#202020' -font Liberation-Serif \
-        -pointsize 44 -annotate +250+300 "$(words $((i + 500)) 4200)" \
-        "$@" -alpha off -density 300 -units PixelsPerInch "$folder/scan$(printf %02d "$i").tif"
+scan() { # DENSITY HOW...
+    density=$1
+    shift
+    convert -seed "$i" -size $((density * 2480 / 300))x$((density * 3508 / 300)) xc:#f4efe4 \
+        -fill '#202020' -font Liberation-Serif -pointsize $((density * 44 / 300)) \
+        -annotate +$((density * 250 / 300))+$((density * 300 / 300)) "$(words $((i + 500)) 4200)" \
+        "$@" -alpha off -density "$density" -units PixelsPerInch \
+        "$folder/scan$(printf %02d "$i").tif"
 }
 
 # About BYTES bytes of ASCII words in lines of up to 90 characters, drawn from SEED.

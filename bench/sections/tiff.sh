@@ -2,7 +2,7 @@
 make_set scans scans
 export scans="$inputs/scans"
 
-begin "40 TIFF scans of A4 at 300 per inch, LZW colour and Group 4, in one PDF"
+begin "40 TIFF scans of A4, LZW colour at 150 per inch and Group 4 at 300, in one PDF"
 candidate "folioforge" '"$cli" --quiet --flush never --merge "$out" "$scans"/*.tif'
 candidate "img2pdf" 'img2pdf -o "$out" "$scans"/*.tif'
 run_all
