@@ -59,6 +59,14 @@ ImportedForm importForm(QPDF &source, ObjectCopier &copier) {
     return imported;
 }
 
+/// In a damaged source anything may stand where a bookmark, a field or a layer should; a page must
+/// not be made one of them.
+void keepOnlyEntries(std::vector<QPDFObjectHandle> &objects) {
+    std::erase_if(objects, [](QPDFObjectHandle object) {
+        return !object.isDictionary() || object.isDictionaryOfType("/Page");
+    });
+}
+
 /// The form's defaults hold for the fields of this source alone once several forms are one.
 void keepFormDefaults(QPDF &source, const ImportedForm &form, ObjectCopier &copier) {
     const auto defaults = source.getRoot().getKey("/AcroForm");
@@ -137,6 +145,10 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, ObjectCopier::Stream
         imported.pageLabels = importPageLabels(source, copier);
     }
     copier.run();
+    for (auto *objects : {&imported.bookmarks, &imported.form.fields, &imported.layers.groups,
+                          &imported.layers.off}) {
+        keepOnlyEntries(*objects);
+    }
     keepFormDefaults(source, imported.form, copier);
     imported.pdfVersion = source.getPDFVersion();
     return imported;

@@ -340,6 +340,20 @@ class MergeTest : public QObject {
         QVERIFY(PdfProbe(merged({path})).text(2).contains(QStringLiteral("Page 2")));
     }
 
+    void misplacedObjectsInASourceCostOnlyThemselves() {
+        PdfFixture source;
+        source.object(1, "<< /Type /Catalog /Pages 2 0 R /Outlines << /First 4 0 R >> /AcroForm << "
+                         "/Fields [2 0 R 5 0 R 3 0 R 99 0 R] >> /OCProperties << /OCGs [1 0 R 4 0 "
+                         "R] /D << /OFF [2 0 R] >> >> >>");
+        source.pages(4, 2);
+        PdfFixture tree = source;
+        tree.object(1, "<< /Type /Catalog /Pages 2 0 R /Outlines << /First 2 0 R >> >>");
+        const QString result = merged({saved(source), saved(tree)});
+        QCOMPARE(PdfProbe(result).pageCount(), 4);
+        QVERIFY(PdfProbe(result).text(4).contains(QStringLiteral("Page 2")));
+        QVERIFY(!opened(result)->getRoot().hasKey("/Outlines"));
+    }
+
     void aSourceThatCannotBeReadLeavesNothing() {
         PdfFixture good;
         good.object(1, kCatalog).pages(4, 1);
