@@ -18,6 +18,11 @@ if(FOLIOFORGE_SANITIZE)
     target_link_options(folioforge_compiler INTERFACE -fsanitize=address,undefined)
 endif()
 
+# Coverage for the fuzzer in all code; the targets of tests/fuzz link the fuzzer itself.
+if(FOLIOFORGE_FUZZ)
+    target_compile_options(folioforge_compiler INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 # Qt's implicit casts from bytes to text hide encoding mistakes.
 target_compile_definitions(folioforge_compiler INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS

@@ -6,8 +6,7 @@
 #include <memory>
 #include <vector>
 
-struct _FcConfig;
-struct _FcCharSet;
+struct _FcCharSet; // NOLINT(bugprone-reserved-identifier): the name is fontconfig's
 
 namespace folioforge {
 

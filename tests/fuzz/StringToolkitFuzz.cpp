@@ -1,0 +1,80 @@
+// The string toolkit with any bytes: nothing crashes, and what converts survives the way back.
+
+#include "text/StringToolkit.h"
+
+#include <algorithm>
+#include <clocale>
+#include <cstdlib>
+#include <cstring>
+#include <vector>
+
+using namespace folioforge;
+
+namespace {
+
+void require(bool held) {
+    if (!held) {
+        std::abort();
+    }
+}
+
+void convertAsUtf8(const std::string &bytes) {
+    std::wstring wide = L"unchanged";
+    utf8string_to_wstring(bytes, wide);
+    const QString text = string_to_nsstring(bytes);
+    require(text.isNull() == (wide == L"unchanged"));
+    if (text.isNull()) {
+        return;
+    }
+    std::string back;
+    wstring_to_utf8string(wide, back);
+    require(back == bytes);
+    require(wstring_to_nsstring(wide) == text);
+    std::string upToZero;
+    NSStringToSTLString(text, upToZero);
+    require(upToZero == bytes.c_str());
+}
+
+void convertAsWide(const std::wstring &wide) {
+    std::string bytes = "unchanged";
+    wstring_to_utf8string(wide, bytes);
+    if (bytes != "unchanged") {
+        std::wstring back;
+        utf8string_to_wstring(bytes, back);
+        require(back == wide);
+    }
+    const std::int32_t needed = WideCharToMultiBytes(wide.c_str(), nullptr, 0);
+    std::vector<char> buffer(static_cast<std::size_t>(std::max(needed, 1)));
+    WideCharToMultiBytes(wide.c_str(), buffer.data(), needed - 1);
+    WideStringToMultiBytesString(wide, bytes);
+    require(bytes.size() <= 2 * wide.size() + 1);
+}
+
+void convertInTheLocale(const std::string &bytes) {
+    std::wstring wide;
+    MultiBytesToWideChar(bytes.c_str(), wide, static_cast<std::int32_t>(bytes.size()));
+    MultiBytesStringToWideString(bytes, wide);
+    require(std::strcmp(std::setlocale(LC_ALL, nullptr), "C") == 0);
+    std::string name = bytes.c_str();
+    _strupr(name.data());
+    require(FindBoldString(name.c_str()) == FindBoldString(bytes.c_str()));
+    require(FindItalicString(name.c_str()) == FindItalicString(bytes.c_str()));
+}
+
+} // namespace
+
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    const std::string bytes(data, data + size);
+    std::wstring wide(size / sizeof(wchar_t), L'\0');
+    if (!wide.empty()) {
+        std::memcpy(wide.data(), data, wide.size() * sizeof(wchar_t));
+    }
+    for (const char *locale : {"C", "C.UTF-8"}) {
+        std::setlocale(LC_ALL, locale);
+        convertAsUtf8(bytes);
+        convertAsWide(wide);
+        convertInTheLocale(bytes);
+    }
+    return 0;
+}
