@@ -1,7 +1,10 @@
 #include "cli/Report.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <map>
 
 namespace folioforge {
 namespace {
@@ -23,6 +26,19 @@ QString nameOf(EmbeddedAs embedded) {
                                             : QStringLiteral("recompressed");
 }
 
+void addTo(QJsonObject &object, const CompressionOutcome &compression) {
+    QJsonArray left;
+    for (const KeptImage &image : compression.imagesKept) {
+        left.append(QJsonObject{{QStringLiteral("page"), image.page},
+                                {QStringLiteral("object"), image.object},
+                                {QStringLiteral("reason"), image.reason}});
+    }
+    object.insert(QStringLiteral("bytesBefore"), compression.bytesBefore);
+    object.insert(QStringLiteral("bytesAfter"), compression.bytesAfter);
+    object.insert(QStringLiteral("imagesReduced"), compression.imagesReduced);
+    object.insert(QStringLiteral("imagesLeft"), left);
+}
+
 } // namespace
 
 QByteArray toJson(const InputResult &result) {
@@ -37,13 +53,25 @@ QByteArray toJson(const InputResult &result) {
     if (result.embedded) {
         object.insert(QStringLiteral("embedded"), nameOf(*result.embedded));
     }
-    if (result.bytesBefore) {
-        object.insert(QStringLiteral("bytesBefore"), *result.bytesBefore);
-    }
-    if (result.bytesAfter) {
-        object.insert(QStringLiteral("bytesAfter"), *result.bytesAfter);
+    if (result.compression && result.compression->error.isEmpty()) {
+        addTo(object, *result.compression);
     }
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+QString toWords(const CompressionOutcome &compression) {
+    QString words = QStringLiteral("%1 -> %2 bytes, images reduced: %3")
+                        .arg(compression.bytesBefore)
+                        .arg(compression.bytesAfter)
+                        .arg(compression.imagesReduced);
+    std::map<QString, int> reasons;
+    for (const KeptImage &image : compression.imagesKept) {
+        ++reasons[image.reason];
+    }
+    for (const auto &[reason, count] : reasons) {
+        words += QStringLiteral(", left: %1 (%2)").arg(count).arg(reason);
+    }
+    return words;
 }
 
 QString toMessage(const InputResult &result) {

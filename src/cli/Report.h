@@ -1,5 +1,6 @@
 #pragma once
 
+#include "convert/CompressionPass.h"
 #include "image/EncodedImage.h"
 
 #include <QByteArray>
@@ -22,12 +23,14 @@ struct InputResult {
     State state = State::Finished;
     QString message; ///< The reason of a failure, or a warning.
     std::optional<EmbeddedAs> embedded;
-    std::optional<qint64> bytesBefore; ///< Size of the PDF before the compression pass.
-    std::optional<qint64> bytesAfter;  ///< And after it.
+    std::optional<CompressionOutcome> compression; ///< What the compression pass did to its PDF.
 };
 
 /// The result as one JSON object on one line, without a line ending.
 QByteArray toJson(const InputResult &result);
+
+/// What a compression pass saved, in words: bytes, images reduced, images left and why.
+QString toWords(const CompressionOutcome &compression);
 
 /// The message on standard error for a failure or a warning; empty when there is nothing to say.
 QString toMessage(const InputResult &result);

@@ -6,7 +6,9 @@
 #include "cli/Passwords.h"
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
+#include "convert/CompressionPass.h"
 #include "convert/Conversion.h"
+#include "error/Error.h"
 #include "filelist/SourceFiles.h"
 
 #include <utility>
@@ -112,14 +114,43 @@ class Run {
             entries.push_back(&input.entry);
         }
         const PDFOutcome outcome = createPDF(entries, path, m_options, &progress);
+        std::optional<CompressionOutcome> compression;
+        if (outcome.close.status == CloseResult::Status::Written && m_options.compressIndex != 0) {
+            compression = compressWritten(outcome.close.path, progress);
+        }
         for (std::size_t i = 0; i < inputs.size(); ++i) {
-            report(resultOf(inputs[i], outcome.entries[i], outcome.close));
+            InputResult result = resultOf(inputs[i], outcome.entries[i], outcome.close);
+            if (compression && result.state == InputResult::State::Finished) {
+                result.compression = compression;
+            }
+            report(result);
         }
         if (outcome.close.status == CloseResult::Status::Written && !m_arguments.quiet &&
             !m_arguments.json) {
             m_console.result(printable(outcome.close.path).toUtf8());
+            if (compression && compression->error.isEmpty()) {
+                m_console.result("  " + toWords(*compression).toUtf8());
+            }
         }
         return outcome.close.status;
+    }
+
+    /// Where the pass fails, the PDF stays as it was and the exit status tells.
+    CompressionOutcome compressWritten(const QString &path, ProgressLine &progress) {
+        CompressionOutcome compression = compress(path, m_options, &progress);
+        if (compression.error.isEmpty()) {
+            try {
+                putInPlace(*compression.convertInfo, m_options.flush);
+            } catch (const Error &error) {
+                compression.error = error.reason();
+            }
+        }
+        if (!compression.error.isEmpty()) {
+            m_someFailed = true;
+            m_console.complain(
+                QStringLiteral("%1: not compressed: %2").arg(printable(path), compression.error));
+        }
+        return compression;
     }
 
     static InputResult resultOf(const Input &input, const EntryOutcome &entry,

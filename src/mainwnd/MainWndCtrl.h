@@ -1,5 +1,6 @@
 #pragma once
 
+#include "convert/CompressionPass.h"
 #include "convert/Conversion.h"
 #include "convert/ConversionOptions.h"
 #include "mainwnd/SkinTableView.h"
@@ -30,12 +31,6 @@ class MainWndDelegate {
     MainWndDelegate &operator=(const MainWndDelegate &) = delete;
     virtual ~MainWndDelegate() = default;
     virtual void hasFileOpened(bool opened) = 0;
-};
-
-/// What one compression pass hands over: the compressed copy and the file that it replaces.
-struct ConvertInfo {
-    QString tempFilePathName;
-    QString destFilePathName;
 };
 
 /// The document that the compression pass is rewriting.

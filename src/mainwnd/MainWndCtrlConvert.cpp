@@ -115,9 +115,16 @@ void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
     compressCompleted();
 }
 
-void MainWndCtrl::compress(const QString & /*path*/) {
-    m_convertInfoDict.reset();
-    runOnMainThread([this] { compressCompleted(); });
+void MainWndCtrl::compress(const QString &path) {
+    startWorker([this, path, row = m_fileIndex, options = m_runOptions](const std::stop_token &) {
+        RunObserver observer(*this, row);
+        auto outcome = folioforge::compress(path, options, &observer);
+        runOnMainThread([this, convertInfo = std::move(outcome.convertInfo)] {
+            m_bWorking = false;
+            m_convertInfoDict = convertInfo;
+            compressCompleted();
+        });
+    });
 }
 
 void MainWndCtrl::compressCompleted() {
@@ -126,6 +133,10 @@ void MainWndCtrl::compressCompleted() {
         return;
     }
     m_pdfDoc.reset();
+    if (m_convertInfoDict) {
+        folioforge::compressCompleted(*m_convertInfoDict);
+        m_convertInfoDict.reset();
+    }
     if (m_runOptions.merge) {
         endRun();
         return;

@@ -58,19 +58,6 @@ class OutputPipeline final : public Pipeline {
     std::uint32_t m_checksum = 0;
 };
 
-void encrypt(QPDFWriter &writer, const Encryption &encryption) {
-    const QByteArray user = preparedPassword(encryption.userPassword);
-    QByteArray owner = preparedPassword(encryption.ownerPassword);
-    if (owner.isEmpty()) {
-        // Without one everybody would be the owner.
-        owner = user;
-    }
-    const bool allowed = true;
-    writer.setR6EncryptionParameters(
-        user.constData(), owner.constData(), allowed, !encryption.refuseCopy, allowed, allowed,
-        allowed, allowed, encryption.refusePrint ? qpdf_r3p_none : qpdf_r3p_full, allowed);
-}
-
 /// The identifier that the library writes when it is told to write a fixed one.
 constexpr std::string_view kPlaceholder = "31415926535897932384626433832795";
 
@@ -123,6 +110,19 @@ void keepFreedBlocks() {
 
 } // namespace
 
+void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
+    const QByteArray user = preparedPassword(encryption.userPassword);
+    QByteArray owner = preparedPassword(encryption.ownerPassword);
+    if (owner.isEmpty()) {
+        // Without one everybody would be the owner.
+        owner = user;
+    }
+    const bool allowed = true;
+    writer.setR6EncryptionParameters(
+        user.constData(), owner.constData(), allowed, !encryption.refuseCopy, allowed, allowed,
+        allowed, allowed, encryption.refusePrint ? qpdf_r3p_none : qpdf_r3p_full, allowed);
+}
+
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
                    const std::string &minimumVersion) {
     keepFreedBlocks();
@@ -136,7 +136,7 @@ void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryptio
         writer.setStaticID(true);
         writer.setMinimumPDFVersion(minimumVersion);
         if (encryption) {
-            encrypt(writer, *encryption);
+            applyEncryption(writer, *encryption);
         }
         writer.registerProgressReporter(std::make_shared<QPDFWriter::FunctionProgressReporter>(
             [&](int) { pipeline.throwFailure(); }));

@@ -1,6 +1,7 @@
 #include "cli/Console.h"
 #include "cli/Report.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
@@ -29,8 +30,12 @@ class ConsoleTest : public QObject {
         result.output = QStringLiteral("a.pdf");
         result.pages = 2;
         result.embedded = EmbeddedAs::OwnBytes;
-        result.bytesBefore = 5'000'000'000;
-        result.bytesAfter = 7;
+        CompressionOutcome compression;
+        compression.bytesBefore = 5'000'000'000;
+        compression.bytesAfter = 7;
+        compression.imagesReduced = 1;
+        compression.imagesKept.push_back({2, 9, QStringLiteral("line art")});
+        result.compression = compression;
         const QByteArray line = toJson(result);
         QVERIFY(!line.contains('\n'));
         const QJsonObject object = QJsonDocument::fromJson(line).object();
@@ -41,6 +46,11 @@ class ConsoleTest : public QObject {
         QCOMPARE(object[QStringLiteral("embedded")].toString(), QStringLiteral("own bytes"));
         QCOMPARE(object[QStringLiteral("bytesBefore")].toInteger(), qint64(5'000'000'000));
         QCOMPARE(object[QStringLiteral("bytesAfter")].toInt(), 7);
+        QCOMPARE(object[QStringLiteral("imagesReduced")].toInt(), 1);
+        const QJsonObject left = object[QStringLiteral("imagesLeft")].toArray().at(0).toObject();
+        QCOMPARE(left[QStringLiteral("page")].toInt(), 2);
+        QCOMPARE(left[QStringLiteral("object")].toInt(), 9);
+        QCOMPARE(left[QStringLiteral("reason")].toString(), QStringLiteral("line art"));
         QVERIFY(!object.contains(QStringLiteral("message")));
     }
 

@@ -1,0 +1,477 @@
+#include "convert/CompressionPass.h"
+
+#include "convert/Conversion.h"
+#include "convert/QuartzFilter.h"
+#include "error/Error.h"
+#include "support/Files.h"
+#include "support/PdfFixture.h"
+#include "support/PdfProbe.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+#include <memory>
+
+using namespace folioforge;
+using test::PdfFixture;
+using test::PdfProbe;
+
+namespace {
+
+/// A picture with soft shapes and grain, as a camera gives it; the same on every call.
+QImage photo(int width, int height, QImage::Format format = QImage::Format_RGB888) {
+    QImage image(width, height, QImage::Format_RGB888);
+    quint32 seed = 1;
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            seed = seed * 1664525 + 1013904223;
+            const int grain = static_cast<int>(seed >> 28) - 8;
+            const auto wave = [&](double fx, double fy) {
+                return qBound(
+                    0, static_cast<int>(128 + 90 * std::sin(x * fx) * std::cos(y * fy)) + grain,
+                    255);
+            };
+            image.setPixelColor(x, y, QColor(wave(.02, .03), wave(.03, .01), wave(.01, .02)));
+        }
+    }
+    return image.convertToFormat(format);
+}
+
+QByteArray jpeg(const QImage &image, int quality = 92) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "JPEG", quality);
+    return bytes;
+}
+
+/// The samples as Flate data: qCompress() puts four bytes of length in front.
+QByteArray flate(const QByteArray &samples) {
+    return qCompress(samples).sliced(4);
+}
+
+QByteArray samplesOf(const QImage &image, int components) {
+    QByteArray samples;
+    for (int y = 0; y < image.height(); ++y) {
+        samples.append(reinterpret_cast<const char *>(image.constScanLine(y)),
+                       qsizetype(image.width()) * components);
+    }
+    return samples;
+}
+
+QByteArray imageKeys(int width, int height, const QByteArray &rest) {
+    return "/Type /XObject /Subtype /Image /Width " + QByteArray::number(width) + " /Height " +
+           QByteArray::number(height) + " " + rest;
+}
+
+const QByteArray kJpegRgb("/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /DCTDecode");
+
+/// A page of 400 x 300 points whose content is `content`, with /Im0 as object 5 and /Fm0 as 6.
+PdfFixture page(const QByteArray &content, const QByteArray &pageKeys = {}) {
+    PdfFixture fixture;
+    fixture.object(1, "<< /Type /Catalog /Pages 2 0 R >>")
+        .object(2, "<< /Type /Pages /Kids [3 0 R] /Count 1 >>")
+        .object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 4 0 R "
+                   "/Resources << /XObject << /Im0 5 0 R /Fm0 6 0 R >> /Font << /F 7 0 R >> >> " +
+                       pageKeys + " >>")
+        .stream(4, "", content)
+        .object(6, "null")
+        .object(7, "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>");
+    return fixture;
+}
+
+/// How far two pages are apart: the mean difference of their grey values.
+double difference(const QImage &one, const QImage &other) {
+    if (one.isNull() || one.size() != other.size()) {
+        return 255;
+    }
+    double sum = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x) {
+            sum += std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y)));
+        }
+    }
+    return sum / (double(one.width()) * one.height());
+}
+
+class Recorder : public ConversionObserver {
+  public:
+    void progressChanged(float value) override { values += value; }
+    void entryDone(std::size_t, bool) override {}
+    QList<float> values;
+};
+
+constexpr int kWidthColumn = 3;
+constexpr int kHeightColumn = 4;
+constexpr int kColourColumn = 5;
+constexpr int kEncodingColumn = 8;
+
+} // namespace
+
+class CompressionPassTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    CompressionPlaces m_places;
+    QString m_path;
+
+    CompressionOutcome run(int index, const SecuritySettings &security = {},
+                           ConversionObserver *observer = nullptr) {
+        ConversionOptions options;
+        options.compressIndex = index;
+        options.security = security;
+        return compress(m_path, options, observer, m_places);
+    }
+
+    /// Compresses through "150m" and says where the copy stands; fails the test on an error.
+    QString compressed(CompressionOutcome *outcome = nullptr) {
+        CompressionOutcome own = run(1);
+        if (!own.error.isEmpty() || !own.convertInfo) {
+            QTest::qFail(qPrintable(own.error), __FILE__, __LINE__);
+            return {};
+        }
+        const QString path = own.convertInfo->tempFilePathName;
+        if (outcome) {
+            *outcome = std::move(own);
+        }
+        return path;
+    }
+
+    void writeJpegPage(const QByteArray &content, const QByteArray &pageKeys = {}) const {
+        QVERIFY(page(content, pageKeys)
+                    .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
+                    .write(m_path));
+    }
+
+  private Q_SLOTS:
+    void init() {
+        m_folder = std::make_unique<QTemporaryDir>();
+        const QDir folder(m_folder->path());
+        QVERIFY(folder.mkpath(QStringLiteral("bundle/Contents/Resources")));
+        QVERIFY(folder.mkpath(QStringLiteral("temporary")));
+        m_places = {folder.filePath(QStringLiteral("bundle")),
+                    folder.filePath(QStringLiteral("temporary"))};
+        for (int index = 1; index <= 3; ++index) {
+            const QString name = quartzFilterName(index);
+            QVERIFY(QFile::copy(QStringLiteral(FOLIOFORGE_FILTERS "/%1.qfilter").arg(name),
+                                quartzFilterPath(m_places.bundlePath, name)));
+        }
+        m_path = folder.filePath(QStringLiteral("document.pdf"));
+    }
+
+    void indexZeroHandsNothingOver() {
+        test::writePdf(m_path, 1);
+        QVERIFY(!run(0).convertInfo);
+    }
+
+    void aPhotoIsSampledDownToItsPrintedSizeAndLooksAlike() {
+        writeJpegPage("BT /F 12 Tf 20 250 Td (Caption) Tj ET q 288 0 0 216 50 20 cm /Im0 Do Q");
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        const auto images = PdfProbe(copy).images();
+        QCOMPARE(images.size(), 1);
+        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+        QCOMPARE(images[0][kHeightColumn], QStringLiteral("450"));
+        QCOMPARE(images[0][kEncodingColumn], QStringLiteral("jpeg"));
+        QCOMPARE(outcome.imagesReduced, 1);
+        QCOMPARE(outcome.bytesBefore, QFileInfo(m_path).size());
+        QCOMPARE(outcome.bytesAfter, QFileInfo(copy).size());
+        QVERIFY(outcome.bytesAfter < outcome.bytesBefore / 2);
+        QVERIFY(difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100)) < 5);
+        QVERIFY(PdfProbe(copy).text().contains(QStringLiteral("Caption")));
+        QString log;
+        QVERIFY2(PdfProbe(copy).isValid(&log), qPrintable(log));
+    }
+
+    void eachFilterMakesItSmaller() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        qint64 before = QFileInfo(m_path).size();
+        for (int index = 1; index <= 3; ++index) {
+            const qint64 after = run(index).bytesAfter;
+            QVERIFY2(after < before, qPrintable(QStringLiteral("%1: %2").arg(index).arg(after)));
+            before = after;
+        }
+    }
+
+    void theLargestUseCountsThroughNestedForms() {
+        QVERIFY(page("q 72 0 0 54 0 0 cm /Im0 Do Q q 2 0 0 2 0 0 cm /Fm0 Do Q")
+                    .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
+                    .stream(6,
+                            "/Type /XObject /Subtype /Form /BBox [0 0 400 300] /Matrix [2 0 0 2 0 "
+                            "0] /Resources << /XObject << /A 5 0 R >> >>",
+                            "q 72 0 0 54 0 0 cm /A Do Q")
+                    .write(m_path));
+        const auto images = PdfProbe(compressed()).images();
+        // 72 points, four times enlarged, at 150 per inch.
+        QVERIFY(!images.isEmpty());
+        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+    }
+
+    void anImageUsedManyTimesIsDoneOnce() {
+        writeJpegPage("q 288 0 0 216 0 0 cm /Im0 Do Q q 200 0 0 150 9 9 cm /Im0 Do /Im0 Do Q");
+        CompressionOutcome outcome;
+        compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 1);
+    }
+
+    void coloursKeepTheirSpaces_data() {
+        QTest::addColumn<QByteArray>("keys");
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<QString>("colour");
+        const QImage grey = photo(1200, 900, QImage::Format_Grayscale8);
+        const QByteArray rgb = samplesOf(photo(1200, 900), 3);
+        QTest::newRow("grey jpeg")
+            << QByteArray("/ColorSpace /DeviceGray /BitsPerComponent 8 /Filter /DCTDecode")
+            << jpeg(grey) << QStringLiteral("gray");
+        QTest::newRow("flate photo")
+            << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode")
+            << flate(rgb) << QStringLiteral("rgb");
+        QTest::newRow("plain photo") << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8")
+                                     << rgb << QStringLiteral("rgb");
+        QTest::newRow("cmyk")
+            << QByteArray("/ColorSpace /DeviceCMYK /BitsPerComponent 8 /Filter /FlateDecode")
+            << flate(samplesOf(photo(1200, 900, QImage::Format_RGBA8888), 4))
+            << QStringLiteral("cmyk");
+        QByteArray ramp;
+        for (int i = 0; i < 256; ++i) {
+            ramp += QByteArray(3, static_cast<char>(i)).toHex();
+        }
+        QTest::newRow("indexed") << "/ColorSpace [/Indexed /DeviceRGB 255 <" + ramp +
+                                        ">] /BitsPerComponent 8 /Filter /FlateDecode"
+                                 << flate(samplesOf(grey, 1)) << QStringLiteral("rgb");
+    }
+
+    void coloursKeepTheirSpaces() {
+        QFETCH(const QByteArray, keys);
+        QFETCH(const QByteArray, data);
+        QFETCH(const QString, colour);
+        QVERIFY(page("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                    .stream(5, imageKeys(1200, 900, keys), data)
+                    .write(m_path));
+        const QString copy = compressed();
+        const auto images = PdfProbe(copy).images();
+        QCOMPARE(images.size(), 1);
+        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+        QCOMPARE(images[0][kColourColumn], colour);
+        QVERIFY(difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100)) < 5);
+    }
+
+    void whatIsNoPhotoStaysAndSaysWhy_data() {
+        QTest::addColumn<QByteArray>("keys");
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<QString>("reason");
+        QByteArray drawing(1200 * 900 * 3, '\xff');
+        for (int i = 0; i < drawing.size(); i += 90) {
+            drawing[i] = 0;
+        }
+        QTest::newRow("line art")
+            << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode")
+            << flate(drawing) << QStringLiteral("line art");
+        QTest::newRow("bilevel")
+            << QByteArray("/ColorSpace /DeviceGray /BitsPerComponent 1 /Filter /FlateDecode")
+            << flate(QByteArray(150 * 900, '\x5a')) << QStringLiteral("bilevel");
+        QTest::newRow("stencil") << QByteArray(
+                                        "/ImageMask true /BitsPerComponent 1 /Filter /FlateDecode")
+                                 << flate(QByteArray(150 * 900, '\x5a'))
+                                 << QStringLiteral("a mask");
+        QTest::newRow("colour key") << kJpegRgb + " /Mask [0 1 0 1 0 1]" << jpeg(photo(1200, 900))
+                                    << QStringLiteral("masked by colour");
+        QTest::newRow("other size than said")
+            << kJpegRgb << jpeg(photo(600, 450))
+            << QStringLiteral("the data is of another size than the image says");
+    }
+
+    void whatIsNoPhotoStaysAndSaysWhy() {
+        QFETCH(const QByteArray, keys);
+        QFETCH(const QByteArray, data);
+        QFETCH(const QString, reason);
+        QVERIFY(page("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                    .stream(5, imageKeys(1200, 900, keys), data)
+                    .write(m_path));
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 0);
+        QCOMPARE(outcome.imagesKept.size(), std::size_t(1));
+        QCOMPARE(outcome.imagesKept[0].reason, reason);
+        QCOMPARE(PdfProbe(copy).render(1, 100), PdfProbe(m_path).render(1, 100));
+    }
+
+    void aDamagedImageStaysAndIsNamed() {
+        const QByteArray whole = jpeg(photo(1200, 900));
+        QVERIFY(page("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                    .stream(5, imageKeys(1200, 900, kJpegRgb), whole.first(whole.size() / 2))
+                    .write(m_path));
+        CompressionOutcome outcome;
+        compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 0);
+        QCOMPARE(outcome.imagesKept.size(), std::size_t(1));
+        QCOMPARE(outcome.imagesKept[0].page, 1);
+        QCOMPARE(outcome.imagesKept[0].object, 5);
+        QVERIFY(outcome.imagesKept[0].reason.startsWith(QStringLiteral("damaged")));
+    }
+
+    void aSoftMaskIsScaledWithItsImage() {
+        QVERIFY(
+            page("0 0 1 rg 0 0 400 300 re f q 288 0 0 216 50 20 cm /Im0 Do Q")
+                .stream(5, imageKeys(1200, 900, kJpegRgb + " /SMask 8 0 R"), jpeg(photo(1200, 900)))
+                .stream(8,
+                        imageKeys(1200, 900,
+                                  "/ColorSpace /DeviceGray /BitsPerComponent 8 /Filter "
+                                  "/FlateDecode"),
+                        flate(samplesOf(photo(1200, 900, QImage::Format_Grayscale8), 1)))
+                .write(m_path));
+        const QString copy = compressed();
+        const auto images = PdfProbe(copy).images();
+        QCOMPARE(images.size(), 2);
+        for (const QStringList &image : images) {
+            QCOMPARE(image[kWidthColumn], QStringLiteral("600"));
+        }
+        QVERIFY(difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100)) < 5);
+    }
+
+    void aDocumentWithoutImagesNeverGrows() {
+        test::writePdf(m_path, 3);
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QVERIFY(QFileInfo(copy).size() <= QFileInfo(m_path).size());
+        QCOMPARE(PdfProbe(copy).pageCount(), 3);
+    }
+
+    void linksAndBoxesStay() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q",
+                      "/CropBox [10 10 390 290] /Annots [<< /Type /Annot /Subtype /Link /Rect [0 0 "
+                      "50 50] /A << /S /URI /URI (https://example.org/) >> >>]");
+        const QString copy = compressed();
+        QVERIFY(PdfProbe(copy).json().contains("https://example.org/"));
+        QCOMPARE(PdfProbe(copy).box(QStringLiteral("CropBox"), 1),
+                 PdfProbe(m_path).box(QStringLiteral("CropBox"), 1));
+    }
+
+    void passwordsAreAskedAgainAndTheCopyIsPrivate() {
+        const QString plain = m_folder->filePath(QStringLiteral("plain.pdf"));
+        QVERIFY(page("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                    .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
+                    .write(plain));
+        const auto made = test::runTool(QStringLiteral("qpdf"),
+                                        {QStringLiteral("--encrypt"), QStringLiteral("user"),
+                                         QStringLiteral("owner"), QStringLiteral("256"),
+                                         QStringLiteral("--"), plain, m_path});
+        QCOMPARE(made.exitCode, 0);
+        SecuritySettings security;
+        security.useUserPassword = true;
+        security.userPassword = QStringLiteral("user");
+        security.useOwnerPassword = true;
+        security.ownerPassword = QStringLiteral("owner");
+        security.allowPrint = true;
+        const CompressionOutcome outcome = run(1, security);
+        QCOMPARE(outcome.error, QString());
+        QCOMPARE(outcome.imagesReduced, 1);
+        const QString copy = outcome.convertInfo->tempFilePathName;
+        QCOMPARE(PdfProbe(copy).pageCount(), 0);
+        QCOMPARE(PdfProbe(copy, QStringLiteral("user")).pageCount(), 1);
+        const QString allowed =
+            PdfProbe(copy, QStringLiteral("user")).info(QStringLiteral("Encrypted"));
+        QVERIFY2(allowed.contains(QStringLiteral("print:no")), qPrintable(allowed));
+        QVERIFY2(allowed.contains(QStringLiteral("copy:yes")), qPrintable(allowed));
+        QVERIFY2(allowed.contains(QStringLiteral("AES-256")), qPrintable(allowed));
+        QCOMPARE(QFile::permissions(copy) &
+                     (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+                 QFile::Permissions());
+    }
+
+    void theTemporaryNameGivesWayToFilesThatExist() {
+        test::writePdf(m_path, 1);
+        const QDir folder(m_places.temporaryFolder);
+        test::writeFile(folder.filePath(QStringLiteral("document.pdf")), "mine");
+        test::writeFile(folder.filePath(QStringLiteral("document(1).pdf")), "mine too");
+        QCOMPARE(compressed(), folder.filePath(QStringLiteral("document(2).pdf")));
+        QCOMPARE(test::readFile(folder.filePath(QStringLiteral("document.pdf"))),
+                 QByteArray("mine"));
+    }
+
+    void progressRunsFromFiftyToHundredPageByPage() {
+        test::writePdf(m_path, 4);
+        Recorder recorder;
+        run(1, {}, &recorder);
+        QCOMPARE(recorder.values, (QList<float>{62.5F, 75.0F, 87.5F, 100.0F}));
+    }
+
+    void aMissingFilterIsAnErrorAndNothingIsHandedOver() {
+        test::writePdf(m_path, 1);
+        const QString filter = quartzFilterPath(m_places.bundlePath, quartzFilterName(1));
+        QVERIFY(QFile::remove(filter));
+        const CompressionOutcome outcome = run(1);
+        QVERIFY(outcome.error.contains(filter));
+        QVERIFY(!outcome.convertInfo);
+    }
+
+    void aBrokenFilterNamesTheKey() {
+        test::writePdf(m_path, 1);
+        const QString filter = quartzFilterPath(m_places.bundlePath, quartzFilterName(1));
+        QByteArray text = test::readFile(filter);
+        text.replace("<integer>150</integer>", "<integer>0</integer>");
+        QVERIFY(QFile::remove(filter));
+        test::writeFile(filter, text);
+        QVERIFY(run(1).error.contains(QStringLiteral("\"Resolution\"")));
+    }
+
+    void afterAFailedPassTheDestinationIsGone() {
+        test::writeFile(m_path, "no document at all");
+        const CompressionOutcome outcome = run(1);
+        QVERIFY(!outcome.error.isEmpty());
+        QVERIFY(outcome.convertInfo.has_value());
+        QVERIFY(!QFile::exists(outcome.convertInfo->tempFilePathName));
+        compressCompleted(*outcome.convertInfo);
+        QVERIFY(!QFile::exists(m_path));
+    }
+
+    void theCommandLineKeepsTheDocumentOfAFailedPass() {
+        test::writeFile(m_path, "no document at all");
+        const CompressionOutcome outcome = run(1);
+        QVERIFY_EXCEPTION_THROWN(putInPlace(*outcome.convertInfo, Flush::Never), Error);
+        QCOMPARE(test::readFile(m_path), QByteArray("no document at all"));
+    }
+
+    void theCopyTakesThePlaceOfTheDocument_data() {
+        QTest::addColumn<bool>("window");
+        QTest::newRow("window") << true;
+        QTest::newRow("command line") << false;
+    }
+
+    void theCopyTakesThePlaceOfTheDocument() {
+        QFETCH(const bool, window);
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const auto permissions = QFile::permissions(m_path);
+        const QString copy = compressed();
+        const QByteArray bytes = test::readFile(copy);
+        if (window) {
+            compressCompleted({copy, m_path});
+        } else {
+            putInPlace({copy, m_path}, Flush::Never);
+        }
+        QCOMPARE(test::readFile(m_path), bytes);
+        QCOMPARE(QFile::permissions(m_path), permissions);
+        QVERIFY(!QFile::exists(copy));
+    }
+
+    void duplicateImagesBecomeOne() {
+        const QByteArray data = jpeg(photo(600, 450));
+        QVERIFY(page("q 288 0 0 216 50 20 cm /Im0 Do /Fm0 Do Q")
+                    .stream(5, imageKeys(600, 450, kJpegRgb), data)
+                    .stream(6, imageKeys(600, 450, kJpegRgb), data)
+                    .write(m_path));
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 1);
+        QVERIFY(difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100)) < 5);
+    }
+};
+
+QTEST_GUILESS_MAIN(CompressionPassTest)
+#include "CompressionPassTest.moc"
