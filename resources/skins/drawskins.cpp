@@ -159,14 +159,15 @@ QString pathData(const QPainterPath &path) {
     out.setRealNumberPrecision(2);
     for (int i = 0; i < path.elementCount(); ++i) {
         const auto element = path.elementAt(i);
-        if (element.isMoveTo())
+        if (element.isMoveTo()) {
             out << (i == 0 ? "M" : "zM");
-        else if (element.isLineTo())
+        } else if (element.isLineTo()) {
             out << "L";
-        else if (element.type == QPainterPath::CurveToElement)
+        } else if (element.type == QPainterPath::CurveToElement) {
             out << "C";
-        else
+        } else {
             out << " ";
+        }
         out << element.x << " " << element.y;
     }
     out << "z";
@@ -206,14 +207,16 @@ QString svg(const Skin &skin, const Look &look) {
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication app(argc, argv);
-    if (argc != 2)
+    if (argc != 2) {
         qFatal("usage: drawskins FOLDER");
+    }
     for (const auto &skin : kSkins) {
         for (const auto &look : looksOf(skin.ground)) {
             QFile file(
                 u"%1/%2%3.svg"_s.arg(QString::fromLocal8Bit(argv[1]), skin.name, look.suffix));
-            if (!file.open(QIODevice::WriteOnly))
+            if (!file.open(QIODevice::WriteOnly)) {
                 qFatal("cannot write %s", qPrintable(file.fileName()));
+            }
             file.write(svg(skin, look).toUtf8());
         }
     }

@@ -22,12 +22,14 @@ QString stringOf(const QString &key) {
     QXmlStreamReader xml(contentsOf(kContents + QStringLiteral("/Info.plist")));
     bool found = false;
     while (!xml.atEnd()) {
-        if (!xml.readNextStartElement())
+        if (!xml.readNextStartElement()) {
             continue;
-        if (xml.name() == u"key")
+        }
+        if (xml.name() == u"key") {
             found = xml.readElementText() == key;
-        else if (found)
+        } else if (found) {
             return xml.name() == u"string" ? xml.readElementText() : QString();
+        }
     }
     return {};
 }
@@ -37,8 +39,9 @@ QStringList targetsOf(const QString &page) {
     static const QRegularExpression kTarget(QStringLiteral("(?:href|src)=\"([^\"]*)\""));
     QStringList targets;
     auto match = kTarget.globalMatch(QString::fromUtf8(contentsOf(page)));
-    while (match.hasNext())
+    while (match.hasNext()) {
         targets.append(match.next().captured(1));
+    }
     return targets;
 }
 
@@ -79,8 +82,9 @@ class BundleTest : public QObject {
     }
 
     void skinsNeedNoFont() {
-        for (const auto &skin : QDir(kResources).entryInfoList({QStringLiteral("*.svg")}))
+        for (const auto &skin : QDir(kResources).entryInfoList({QStringLiteral("*.svg")})) {
             QVERIFY2(!contentsOf(skin.filePath()).contains("<text"), qPrintable(skin.fileName()));
+        }
     }
 
     void propertyListNamesAnIconWithoutItsExtension() {
