@@ -199,9 +199,8 @@ std::vector<int> FilesArray::selectedRows() const {
             rows.push_back(row);
         }
     }
-    std::ranges::sort(rows);
-    const auto repeated = std::ranges::unique(rows);
-    rows.erase(repeated.begin(), repeated.end());
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
     return rows;
 }
 

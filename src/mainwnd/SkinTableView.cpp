@@ -62,7 +62,10 @@ int SkinTableView::selectedRow() const {
         return -1;
     }
     const QItemSelection selection = selectionModel()->selection();
-    return std::ranges::min(selection, {}, &QItemSelectionRange::top).top();
+    const auto topmost = std::min_element(
+        selection.begin(), selection.end(),
+        [](const auto &one, const auto &other) { return one.top() < other.top(); });
+    return topmost->top();
 }
 
 void SkinTableView::addKey(const QKeySequence &keys,
