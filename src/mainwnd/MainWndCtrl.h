@@ -183,6 +183,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
 
     // Runs.
     class RunObserver;
+    class PassObserver;
     void beginFile();
     void showFileBeingWritten(int done);
     void showProgress(float value);

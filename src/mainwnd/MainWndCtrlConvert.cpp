@@ -1,12 +1,45 @@
 #include "mainwnd/MainWndCtrl.h"
 
+#include "error/Error.h"
 #include "mainwnd/FilesArray.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 #include <numeric>
+#include <utility>
 
 namespace folioforge {
+namespace {
+
+/// A compressed copy on its way to the main thread; it is deleted when nobody takes it.
+class PendingCopy {
+  public:
+    explicit PendingCopy(std::optional<ConvertInfo> info)
+        : m_info(std::move(info)) {}
+    PendingCopy(PendingCopy &&other) noexcept
+        : m_info(other.take()) {}
+    PendingCopy(const PendingCopy &) = delete;
+    PendingCopy &operator=(const PendingCopy &) = delete;
+    PendingCopy &operator=(PendingCopy &&) = delete;
+    ~PendingCopy() {
+        if (m_info) {
+            deleteFile(m_info->tempFilePathName);
+        }
+    }
+
+    std::optional<ConvertInfo> take() noexcept { return std::exchange(m_info, std::nullopt); }
+
+  private:
+    std::optional<ConvertInfo> m_info;
+};
+
+int pagesOf(const PDFOutcome &outcome) {
+    return std::accumulate(outcome.entries.begin(), outcome.entries.end(), 0,
+                           [](int sum, const EntryOutcome &entry) { return sum + entry.pages; });
+}
+
+} // namespace
 
 /// Brings what a worker tells to the main thread, without waiting.
 class MainWndCtrl::RunObserver : public ConversionObserver {
@@ -27,6 +60,24 @@ class MainWndCtrl::RunObserver : public ConversionObserver {
   private:
     MainWndCtrl &m_ctrl;
     int m_firstRow;
+};
+
+/// Ends the pass when the run is stopped; a pass that is left by an error leaves nothing behind.
+class MainWndCtrl::PassObserver : public RunObserver {
+  public:
+    PassObserver(MainWndCtrl &ctrl, std::stop_token stop)
+        : RunObserver(ctrl, 0)
+        , m_stop(std::move(stop)) {}
+
+    void progressChanged(float value) override {
+        if (m_stop.stop_requested()) {
+            throw Error(QStringLiteral("The conversion was stopped"));
+        }
+        RunObserver::progressChanged(value);
+    }
+
+  private:
+    std::stop_token m_stop;
 };
 
 void MainWndCtrl::clickBtnCreate() {
@@ -100,6 +151,7 @@ void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
     m_bWorking = false;
     m_destFilePathName = outcome.close.path;
     if (outcome.close.status == CloseResult::Status::Written) {
+        m_pdfDoc = PDFDocument{pagesOf(outcome)};
         compress(m_destFilePathName);
         return;
     }
@@ -116,12 +168,18 @@ void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
 }
 
 void MainWndCtrl::compress(const QString &path) {
-    startWorker([this, path, row = m_fileIndex, options = m_runOptions](const std::stop_token &) {
-        RunObserver observer(*this, row);
-        auto outcome = folioforge::compress(path, options, &observer);
-        runOnMainThread([this, convertInfo = std::move(outcome.convertInfo)] {
+    m_convertInfoDict.reset();
+    if (m_runOptions.compressIndex == 0) {
+        runOnMainThread([this] { compressCompleted(); });
+        return;
+    }
+    const CompressionPlaces places{m_surroundings.bundlePath, QDir::tempPath()};
+    startWorker([this, path, places, options = m_runOptions](const std::stop_token &stop) {
+        PassObserver observer(*this, stop);
+        PendingCopy copy(folioforge::compress(path, options, &observer, places).convertInfo);
+        runOnMainThread([this, copy = std::move(copy)]() mutable {
             m_bWorking = false;
-            m_convertInfoDict = convertInfo;
+            m_convertInfoDict = copy.take();
             compressCompleted();
         });
     });

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QRandomGenerator>
 #include <QSignalSpy>
 
 #include <memory>
@@ -19,6 +20,21 @@ QString picture(const TestWindow &w, const QString &name) {
     QImage image(300, 200, QImage::Format_RGB32);
     image.fill(QColor(200, 30, 30));
     image.save(w.path(name), "PNG");
+    return w.path(name);
+}
+
+/// Four megapixels of noise at 600 per inch.
+QString photo(const TestWindow &w, const QString &name) {
+    constexpr int kSide = 2000;
+    QImage image(kSide, kSide, QImage::Format_RGB32);
+    auto random = QRandomGenerator(7);
+    for (int y = 0; y < kSide; ++y) {
+        random.fillRange(reinterpret_cast<quint32 *>(image.scanLine(y)), kSide);
+    }
+    constexpr int kDotsPerMeter = 23622;
+    image.setDotsPerMeterX(kDotsPerMeter);
+    image.setDotsPerMeterY(kDotsPerMeter);
+    image.save(w.path(name), "JPG", 95);
     return w.path(name);
 }
 
@@ -63,7 +79,12 @@ QString textOf(const TestWindow &w, const QString &name) {
 class ConvertingFilesTest : public QObject {
     Q_OBJECT
 
+  private:
+    QTemporaryDir m_temporaryFolder;
+
   private Q_SLOTS:
+    void initTestCase() { qputenv("TMPDIR", QFile::encodeName(m_temporaryFolder.path())); }
+
     void eachFileBecomesAPdfOfItsOwnWithALinkToIt() {
         TestWindow w;
         w.ctrl.addFiles({w.file(QStringLiteral("a.txt"), "first text\n"),
@@ -287,6 +308,56 @@ class ConvertingFilesTest : public QObject {
             shown += value.front().toInt();
         }
         QCOMPARE(shown, (QList<int>{0, 12, 25, 37, 50}));
+    }
+
+    void theCompressMethodShrinksThePicturesOfTheFinishedPdf_data() {
+        QTest::addColumn<bool>("merge");
+        QTest::newRow("single") << false;
+        QTest::newRow("merge") << true;
+    }
+
+    void theCompressMethodShrinksThePicturesOfTheFinishedPdf() {
+        QFETCH(const bool, merge);
+        TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
+        w.ctrl.addFiles({photo(w, QStringLiteral("photo.jpg"))}, -1);
+        mergeInto(w, QStringLiteral("all"));
+        w.control<QCheckBox>("m_btnMerge")->setChecked(merge);
+        const QString plain = merge ? QStringLiteral("all.pdf") : QStringLiteral("photo.pdf");
+        const QString small = merge ? QStringLiteral("small.pdf") : QStringLiteral("photo(1).pdf");
+        run(w);
+        const qint64 before = QFileInfo(outPath(w, plain)).size();
+
+        w.control<QLineEdit>("m_tfOutputName")->setText(QStringLiteral("small"));
+        w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(1);
+        const QSignalSpy values(w.control<QProgressBar>("m_prgCreate"),
+                                &QProgressBar::valueChanged);
+        run(w);
+        QVERIFY(QFileInfo(outPath(w, small)).size() < before / 2);
+        const PdfProbe pdf(outPath(w, small));
+        QVERIFY(pdf.isValid());
+        QCOMPARE(pdf.images().size(), 1);
+        QCOMPARE(values.last().front().toInt(), 100);
+        QCOMPARE(w.states(), merge ? QStringLiteral("Finished") : QStringLiteral("photo(1).pdf"));
+        QCOMPARE(QDir(m_temporaryFolder.path()).entryList(QDir::Files), QStringList());
+    }
+
+    void pageNotificationsDuringAPassFillTheSecondHalfOfTheBar() {
+        TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
+        addTexts(w, 4);
+        mergeInto(w, QStringLiteral("all"));
+        w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(3);
+        auto *bar = w.control<QProgressBar>("m_prgCreate");
+        QList<int> shown;
+        connect(bar, &QProgressBar::valueChanged, this, [&](int value) {
+            shown += value;
+            if (value == 100) {
+                w.notifications.post(NotificationCenter::didEndPageWrite(),
+                                     {{NotificationCenter::pageIndexKey(), 1}});
+            }
+        });
+        run(w);
+        QVERIFY(shown.contains(100));
+        QCOMPARE(shown.last(), 75);
     }
 
     void pageNotificationsOutsideAPassAreIgnored() {

@@ -38,7 +38,9 @@ class RecordingDelegate : public MainWndDelegate {
 /// output folder is "out" in that home.
 class TestWindow {
   public:
-    TestWindow() {
+    /// A window of the application at `bundle`; without one the window has no resources.
+    explicit TestWindow(const QString &bundle = {})
+        : m_bundle(bundle.isEmpty() ? home.filePath(QStringLiteral("Folioforge.app")) : bundle) {
         QDir().mkpath(path(QStringLiteral("out")));
         m_settings.setValue(QStringLiteral("CustomizeOutputDir"), path(QStringLiteral("out")));
         notices.answerNoticesAtOnce();
@@ -120,11 +122,11 @@ class TestWindow {
         return texts.join(u' ');
     }
 
+    QString m_bundle;
     QSettings m_settings{home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
 
   public:
-    MainWndCtrl ctrl{{m_settings, desktop, notices, notifications, home.path(),
-                      home.filePath(QStringLiteral("Folioforge.app"))}};
+    MainWndCtrl ctrl{{m_settings, desktop, notices, notifications, home.path(), m_bundle}};
 };
 
 } // namespace folioforge::test
