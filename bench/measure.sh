@@ -36,6 +36,8 @@ run_once() { # SCRIPT NAME
     out=$scratch/out.pdf
     dir=$scratch/out
     export out dir
+    # The output before goes to the disk first, so that every candidate follows equal work.
+    sync
     rm -rf "$out" "$dir"
     mkdir "$dir"
     sync
