@@ -2,6 +2,8 @@
 #include "support/PdfProbe.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -96,6 +98,31 @@ class CommandLineTest : public QObject {
         const QString file = text("a.txt");
         QCOMPARE(convert({file, file}).exitCode, 0);
         QCOMPARE(outputs().join(u' '), QStringLiteral("a(1).pdf a.pdf"));
+    }
+
+    void aPhotoIsCompressedAndTheSavingsAreReported() {
+        QImage grain(900, 700, QImage::Format_RGB888);
+        quint32 seed = 7;
+        for (int y = 0; y < grain.height(); ++y) {
+            for (int x = 0; x < grain.width(); ++x) {
+                seed = seed * 1664525 + 1013904223;
+                grain.setPixel(x, y, qRgb(x / 4, y / 3, static_cast<int>(seed >> 26) + 90));
+            }
+        }
+        constexpr int kDotsPerMeter = 11811; // 300 per inch
+        grain.setDotsPerMeterX(kDotsPerMeter);
+        grain.setDotsPerMeterY(kDotsPerMeter);
+        const QString photo = path("photo.jpg");
+        QVERIFY(grain.save(photo, "JPEG", 92));
+        const ToolRun run = convert(
+            {QStringLiteral("--json"), QStringLiteral("--compress"), QStringLiteral("96m"), photo});
+        QCOMPARE(run.exitCode, 0);
+        const QJsonObject result = QJsonDocument::fromJson(run.out).object();
+        const qint64 after = result[QStringLiteral("bytesAfter")].toInteger();
+        QCOMPARE(after, QFileInfo(path("out/photo.pdf")).size());
+        QVERIFY(after < result[QStringLiteral("bytesBefore")].toInteger() / 2);
+        QCOMPARE(result[QStringLiteral("imagesReduced")].toInt(), 1);
+        QCOMPARE(result[QStringLiteral("imagesLeft")].toArray().size(), 0);
     }
 
     void aMergedPdfHoldsAllInTheOrderGiven() {

@@ -1,0 +1,60 @@
+# The compression pass beside Ghostscript's pdfwrite at the same resolutions.
+# A document of 50 photos at 300 per inch, one of 40 scanned CCITT pages with 10 photos between.
+compress_inputs() {
+    # shellcheck disable=SC2012 # names without blanks, made by this bench
+    img2pdf $(ls "$inputs"/photos/*.jpg | awk 'NR % 4 == 1') -o "$folder/photos.pdf"
+    page=1
+    while [ $page -le 40 ]; do
+        convert -size 2480x3508 xc:white -font Liberation-Serif -pointsize 46 -annotate +200+300 \
+            "$(yes "Scanned page $page with a line of words that goes on" | head -n 48)" \
+            -threshold 50% -density 300 -units PixelsPerInch -compress Group4 \
+            "$folder/$(printf 'scan%02d.tif' $page)"
+        page=$((page + 1))
+    done
+    # shellcheck disable=SC2012
+    img2pdf "$folder"/scan*.tif $(ls "$inputs"/photos/*.jpg | head -n 10) -o "$folder/scans.pdf"
+    rm "$folder"/scan*.tif
+}
+
+make_set photos photos
+make_set compress compress_inputs
+export compressed="$inputs/compress"
+
+make_set photos photos
+make_set compress compress_inputs
+export compressed="$inputs/compress"
+c++ -std=c++20 -O2 "$bench/ssim.cpp" -o "$scratch/ssim"
+
+# The structural similarity of three pages drawn at 100 per inch, 1 for equal ones.
+similarity() { # ORIGINAL COPY
+    for page in 1 20 50; do
+        pdftoppm -gray -r 100 -f $page -l $page -singlefile "$1" "$scratch/original"
+        pdftoppm -gray -r 100 -f $page -l $page -singlefile "$2" "$scratch/copy"
+        "$scratch/ssim" "$scratch/original.pgm" "$scratch/copy.pgm"
+    done | awk '{ sum += $1; n++ } END { if (n) printf "%.4f", sum / n }'
+}
+
+ghostscript() { # RESOLUTION
+    echo "gs -q -dBATCH -dNOPAUSE -sDEVICE=pdfwrite -dPDFSETTINGS=/ebook" \
+        "-dColorImageResolution=$1 -dGrayImageResolution=$1 -o \"\$out\" \"\$source\""
+}
+
+for document in photos scans; do
+    [ $document = photos ] && part=6 || part=4
+    export source="$compressed/$document.pdf"
+    for method in 150m 96m 72l; do
+        begin "50 pages of $document compressed by $method"
+        candidate "folioforge" \
+            "\"\$cli\" --quiet --flush never --compress $method --merge \"\$out\" \"\$source\"; cp \"\$out\" \"\$scratch/ours.pdf\""
+        candidate "Ghostscript" \
+            "$(ghostscript "${method%?}"); cp \"\$out\" \"\$scratch/theirs.pdf\""
+        run_all
+        limit "Ghostscript's wall time beside ours" \
+            "$(ratio "$(best wall Ghostscript)" "$(best wall folioforge)")" at-least $part
+        limit "output beside Ghostscript's" \
+            "$(ratio "$(best size folioforge)" "$(best size Ghostscript)")" at-most 1
+        ours=$(similarity "$source" "$scratch/ours.pdf")
+        theirs=$(similarity "$source" "$scratch/theirs.pdf")
+        limit "SSIM $ours beside Ghostscript's $theirs" "$(ratio "$ours" "$theirs")" at-least 1
+    done
+done

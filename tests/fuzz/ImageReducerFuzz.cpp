@@ -1,0 +1,64 @@
+// One image stream with any bytes: it is reduced or left with a reason, and what is made is
+// smaller.
+
+#include "convert/compress/ImageReducer.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+
+using namespace folioforge;
+
+namespace {
+
+constexpr std::size_t kHeadBytes = 8;
+
+/// The first bytes say what the document would say about the image, the others are its stream.
+ImageJob jobOf(const std::uint8_t *data, std::size_t size) {
+    static const std::array<std::string, 4> filters{"", "[/FlateDecode]", "[/LZWDecode]",
+                                                    "[/ASCII85Decode /RunLengthDecode]"};
+    ImageJob job;
+    job.codec = static_cast<ImageCodec>(data[0] % 3);
+    job.filter = filters[data[0] / 3 % filters.size()];
+    job.parameters = job.filter.empty() ? std::string()
+                     : data[1] & 8      ? "[<< /Predictor 15 /Colors 3 /Columns 16 >> null]"
+                                        : "[null null]";
+    job.width = data[2] + 1;
+    job.height = data[3] + 1;
+    job.components = std::array{1, 3, 4, 0}[data[1] & 3];
+    if (job.codec != ImageCodec::Jpx) {
+        job.components = std::max(job.components, 1);
+    }
+    job.bitsPerComponent = data[1] & 4 ? 16 : 8;
+    if (data[1] & 16 && job.codec == ImageCodec::Samples) {
+        job.palette = std::string(static_cast<std::size_t>(job.components) * (data[6] + 1), 'p');
+        job.bitsPerComponent = 8;
+    }
+    if (data[1] & 32) {
+        job.colorTransform = data[1] >> 6 & 1;
+    }
+    job.scale = std::max(1, static_cast<int>(data[4])) / 255.0;
+    job.jpegQuality = data[5] % 100 + 1;
+    job.purpose = data[7] & 1 && job.components == 1 ? ImagePurpose::SoftMask : ImagePurpose::Photo;
+    job.lineArt = data[7] & 2 ? LineArt::Keep : LineArt::Reduce;
+    job.data.assign(data + kHeadBytes, data + size);
+    return job;
+}
+
+} // namespace
+
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    if (size < kHeadBytes) {
+        return 0;
+    }
+    const ImageJob job = jobOf(data, size);
+    const Reduction reduction = reduceImage(job);
+    const bool held = reduction.image ? reduction.image->data.size() < job.data.size()
+                                      : !reduction.reason.isEmpty();
+    if (!held) {
+        std::abort();
+    }
+    return 0;
+}
