@@ -7,6 +7,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace folioforge {
 namespace {
@@ -26,8 +27,8 @@ void center(QWidget &window) {
 
 } // namespace
 
-FolioforgeAppDelegate::FolioforgeAppDelegate(const Surroundings &surroundings)
-    : m_surroundings(surroundings)
+FolioforgeAppDelegate::FolioforgeAppDelegate(Surroundings surroundings)
+    : m_surroundings(std::move(surroundings))
     , m_menuBar(std::make_unique<QMenuBar>()) {
     setupUi(m_menuBar.get());
     connectItems();

@@ -19,7 +19,7 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
     Q_OBJECT
 
   public:
-    explicit FolioforgeAppDelegate(const Surroundings &surroundings);
+    explicit FolioforgeAppDelegate(Surroundings surroundings);
     ~FolioforgeAppDelegate() override;
 
     /// Makes the controller of the main window and shows the item for updates.

@@ -113,7 +113,8 @@ void MainWndCtrl::initCtrl() {
     connectControls();
 }
 
-void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name, SkinButton *button) {
+void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
+                             SkinButton *button) const {
     const QString resources =
         QStringLiteral("%1/Contents/Resources").arg(m_surroundings.bundlePath);
     const auto look = [&](const QString &suffix, const SkinImage &otherwise) {

@@ -66,7 +66,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     /// Skins `button` with the images `name`, `name`-hover and `name`-disable among the
     /// application's resources; a missing one of the latter two gives way to the first. Images are
     /// looked up by name alone, so `folder` plays no part.
-    void skinButton(const QString &folder, const QString &name, SkinButton *button);
+    void skinButton(const QString &folder, const QString &name, SkinButton *button) const;
 
     // ---- Options panel and output folder (MainWndCtrlOptions.cpp) ----------------------------
 
@@ -170,7 +170,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     [[nodiscard]] SecuritySettings securitySettings() const;
     [[nodiscard]] ConversionOptions conversionOptions() const;
     void readOutputFolder();
-    [[nodiscard]] QString makeDefaultOutputFolder();
+    [[nodiscard]] QString makeDefaultOutputFolder() const;
     void outputFolderChosen(const QStringList &paths);
 
     // File list.

@@ -10,7 +10,6 @@
 #include <QFileInfo>
 #include <QSettings>
 #include <QStyle>
-#include <QTimer>
 
 #include <array>
 
@@ -47,7 +46,7 @@ void MainWndCtrl::clickBtnExpand() {
     m_btnElapse->setVisible(true);
     m_labelOptions->setText(tr("Hide Options"));
     // It appears under the pointer and must not keep a stale hover look.
-    QTimer::singleShot(0, m_btnElapse, &SkinButton::showNormalImage);
+    QMetaObject::invokeMethod(m_btnElapse, &SkinButton::showNormalImage, Qt::QueuedConnection);
 }
 
 void MainWndCtrl::clickBtnElapse() {
@@ -55,7 +54,7 @@ void MainWndCtrl::clickBtnElapse() {
     m_btnElapse->setVisible(false);
     m_btnExpand->setVisible(true);
     m_labelOptions->setText(tr("Show Options"));
-    QTimer::singleShot(0, m_btnExpand, &SkinButton::showNormalImage);
+    QMetaObject::invokeMethod(m_btnExpand, &SkinButton::showNormalImage, Qt::QueuedConnection);
 }
 
 void MainWndCtrl::slideOptionsTo(double width) {
@@ -245,8 +244,8 @@ void MainWndCtrl::readOutputFolder() {
     settings.sync();
 }
 
-QString MainWndCtrl::makeDefaultOutputFolder() {
-    const QString folder = m_surroundings.homeFolder + QStringLiteral("/Documents/Folioforge");
+QString MainWndCtrl::makeDefaultOutputFolder() const {
+    QString folder = m_surroundings.homeFolder + QStringLiteral("/Documents/Folioforge");
     if (QFileInfo::exists(folder)) {
         return folder;
     }
@@ -273,7 +272,8 @@ void MainWndCtrl::outputFolderChosen(const QStringList &paths) {
         return;
     }
     if (!QFileInfo(paths.first()).isWritable()) {
-        QTimer::singleShot(0, this, &MainWndCtrl::showInvalidOutputPathWarning);
+        QMetaObject::invokeMethod(this, &MainWndCtrl::showInvalidOutputPathWarning,
+                                  Qt::QueuedConnection);
         return;
     }
     m_outputFolderPath = paths.first();
@@ -289,8 +289,9 @@ void MainWndCtrl::showInvalidOutputPathWarning() {
         [this] { endShowInvalidOutputFolder(); });
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): what it starts changes the window.
 void MainWndCtrl::endShowInvalidOutputFolder() {
-    QTimer::singleShot(0, this, &MainWndCtrl::clickBtnBrowse);
+    QMetaObject::invokeMethod(this, &MainWndCtrl::clickBtnBrowse, Qt::QueuedConnection);
 }
 
 void MainWndCtrl::clickBtnOpen() {

@@ -2,7 +2,6 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QTimer>
 
 namespace folioforge {
 namespace {
@@ -13,6 +12,7 @@ class FilesAndFoldersDialog : public QFileDialog {
     using QFileDialog::QFileDialog;
 
   protected:
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): QFileDialog's own would enter the folder.
     void accept() override { QDialog::accept(); }
 };
 
@@ -72,7 +72,7 @@ void Notices::show(QWidget *window, const Notice &notice, Kind kind, Ended ended
     m_shown.push_back({notice, kind});
     if (m_answersAtOnce) {
         if (ended) {
-            QTimer::singleShot(0, this, std::move(ended));
+            QMetaObject::invokeMethod(this, std::move(ended), Qt::QueuedConnection);
         }
         return;
     }
@@ -90,10 +90,11 @@ void Notices::show(QWidget *window, const Notice &notice, Kind kind, Ended ended
     box->show();
 }
 
-void Notices::showFilePanel(QWidget *window, const FilePanel &panel, Chosen chosen) {
+void Notices::showFilePanel(QWidget *window, const FilePanel &panel, const Chosen &chosen) {
     m_filePanels.push_back(panel);
     if (!m_nextFiles.empty()) {
-        QTimer::singleShot(0, this, [chosen, paths = m_nextFiles.front()] { chosen(paths); });
+        QMetaObject::invokeMethod(
+            this, [chosen, paths = m_nextFiles.front()] { chosen(paths); }, Qt::QueuedConnection);
         m_nextFiles.pop_front();
         return;
     }

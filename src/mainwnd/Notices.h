@@ -53,7 +53,7 @@ class Notices : public QObject {
     /// Shows `notice` with the button "OK" as an application-modal panel.
     void showPanel(const Notice &notice);
     /// Shows a file panel as a sheet attached to `window`.
-    void showFilePanel(QWidget *window, const FilePanel &panel, Chosen chosen);
+    void showFilePanel(QWidget *window, const FilePanel &panel, const Chosen &chosen);
 
     /// Every notice shown so far, oldest first.
     [[nodiscard]] const std::vector<Shown> &shown() const { return m_shown; }
