@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <csetjmp>
 #include <cstdio>
 #include <cstdlib>
@@ -191,7 +192,7 @@ int JpegReader::quality() const {
     }
     const double percent = 100 * sum / kStandardSum;
     const double quality = percent > 100 ? 5000 / percent : (200 - percent) / 2;
-    return std::clamp(static_cast<int>(quality + 0.5), 1, 100);
+    return std::clamp(static_cast<int>(std::lround(quality)), 1, 100);
 }
 
 Raster JpegReader::decode(int eighths) {
@@ -246,6 +247,7 @@ struct Encoder {
         jpeg_start_compress(&codec, TRUE);
         while (codec.next_scanline < codec.image_height) {
             // libjpeg only reads the row but takes it without const.
+            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
             JSAMPROW row = const_cast<JSAMPROW>(raster.row(static_cast<int>(codec.next_scanline)));
             jpeg_write_scanlines(&codec, &row, 1);
         }
