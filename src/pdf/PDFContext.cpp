@@ -45,11 +45,14 @@ struct OpenPage {
 };
 
 QPDFObjectHandle boxArray(const QRectF &box) {
-    std::string text = "[";
+    auto array = QPDFObjectHandle::newArray();
     for (const double value : {box.left(), box.top(), box.right(), box.bottom()}) {
-        appendNumber(text, value);
+        std::string number;
+        appendNumber(number, value);
+        number.pop_back();
+        array.appendItem(QPDFObjectHandle::newReal(number));
     }
-    return QPDFObjectHandle::parse(text + "]");
+    return array;
 }
 
 } // namespace
@@ -72,6 +75,7 @@ class PDFContext::Impl {
 
   private:
     QPDFObjectHandle resources();
+    QPDFObjectHandle mediaBox();
     FontEmbedder &embedder();
     void finishDocument();
     CloseResult publish(OutputFile &file, const std::function<QString()> &nextPath);
@@ -83,6 +87,9 @@ class PDFContext::Impl {
     StreamData m_streams{m_document, m_reader};
     ImageEmbedder m_images{m_document, m_streams};
     std::vector<std::unique_ptr<FontEmbedder>> m_fonts; ///< One for each cascade.
+    QPDFObjectHandle m_pageType = QPDFObjectHandle::newName("/Page");
+    QRectF m_lastBox;
+    QPDFObjectHandle m_lastBoxArray; ///< Of m_lastBox.
     std::map<Resources, QPDFObjectHandle, bool (*)(const Resources &, const Resources &)>
         m_fontResources;
     std::map<std::string, ObjectCopier::Streams> m_sourceStreams; ///< By source file.
@@ -127,6 +134,15 @@ QPDFObjectHandle PDFContext::Impl::resources() {
     return dictionary;
 }
 
+/// Pages that follow each other mostly have the same box.
+QPDFObjectHandle PDFContext::Impl::mediaBox() {
+    if (!m_lastBoxArray.isInitialized() || page.mediaBox != m_lastBox) {
+        m_lastBox = page.mediaBox;
+        m_lastBoxArray = boxArray(m_lastBox);
+    }
+    return m_lastBoxArray;
+}
+
 void PDFContext::Impl::beginPage(const QRectF &mediaBox) {
     page.text.reset();
     page.content.clear();
@@ -158,12 +174,12 @@ void PDFContext::Impl::showGlyphs(double x, double y, std::span<const Glyph> gly
 void PDFContext::Impl::endPage() {
     page.endText();
     auto dictionary = QPDFObjectHandle::newDictionary();
-    dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
-    dictionary.replaceKey("/MediaBox", boxArray(page.mediaBox));
+    dictionary.replaceKey("/Type", m_pageType);
+    dictionary.replaceKey("/MediaBox", mediaBox());
     dictionary.replaceKey("/Resources", resources());
     if (!page.content.empty()) {
-        dictionary.replaceKey("/Contents",
-                              m_streams.deflated(QPDFObjectHandle::newDictionary(), page.content));
+        dictionary.replaceKey("/Contents", m_streams.deflated(QPDFObjectHandle::newDictionary(),
+                                                              page.content, Effort::Quick));
     }
     catalog.addPage(m_document.makeIndirectObject(dictionary));
     beginPage({});

@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -18,6 +19,7 @@ namespace folioforge {
 namespace {
 
 constexpr qint64 kMemoryLimit = qint64{8} << 20;
+constexpr qint64 kWindowSize = qint64{256} << 10;
 
 [[noreturn]] void fail(const QString &what) {
     throw Error(QStringLiteral("%1: %2").arg(what, QString::fromLocal8Bit(std::strerror(errno))));
@@ -47,10 +49,16 @@ Spool::~Spool() {
     }
 }
 
-void Spool::writeAt(qint64 offset, QByteArrayView data) {
+void Spool::moveToFile(QByteArrayView data) {
+    if (m_fd < 0) {
+        m_fd = openNameless(QFile::encodeName(QDir::tempPath()));
+    }
+    if (m_fd < 0) {
+        fail(QStringLiteral("Cannot create a temporary file"));
+    }
     while (!data.isEmpty()) {
         const ssize_t written =
-            ::pwrite(m_fd, data.data(), static_cast<std::size_t>(data.size()), offset);
+            ::pwrite(m_fd, data.data(), static_cast<std::size_t>(data.size()), m_fileSize);
         if (written < 0 && errno == EINTR) {
             continue;
         }
@@ -58,52 +66,54 @@ void Spool::writeAt(qint64 offset, QByteArrayView data) {
             fail(QStringLiteral("Cannot write a temporary file"));
         }
         data = data.sliced(written);
-        offset += written;
+        m_fileSize += written;
     }
-}
-
-void Spool::moveToFile() {
-    m_fd = openNameless(QFile::encodeName(QDir::tempPath()));
-    if (m_fd < 0) {
-        fail(QStringLiteral("Cannot create a temporary file"));
-    }
-    writeAt(0, m_memory);
-    m_memory = {};
 }
 
 Spool::Place Spool::add(QByteArrayView data) {
-    if (m_fd < 0 && m_size + data.size() > kMemoryLimit) {
-        moveToFile();
+    if (m_memory.size() + data.size() > kMemoryLimit) {
+        moveToFile(m_memory);
+        m_memory.resize(0); // Which keeps the block for what follows.
     }
-    if (m_fd >= 0) {
-        writeAt(m_size, data);
+    const Place place{m_fileSize + m_memory.size(), data.size()};
+    if (data.size() > kMemoryLimit) {
+        moveToFile(data);
     } else {
         m_memory.append(data);
     }
-    const Place place{m_size, data.size()};
-    m_size += data.size();
     return place;
 }
 
-QByteArray Spool::at(Place place) const {
-    if (m_fd < 0) {
-        return m_memory.sliced(place.offset, place.length);
-    }
-    QByteArray data(place.length, Qt::Uninitialized);
+void Spool::readWindow(Place place) {
+    // Streams are asked for mostly in the order in which they came, many small ones in a row.
+    const qint64 size = std::max(place.length, std::min(kWindowSize, m_fileSize - place.offset));
+    m_window.resize(0);
+    m_window.resize(size);
+    m_windowStart = place.offset;
     qint64 done = 0;
-    while (done < place.length) {
-        const ssize_t got =
-            ::pread(m_fd, data.data() + done, static_cast<std::size_t>(place.length - done),
-                    place.offset + done);
+    while (done < size) {
+        const ssize_t got = ::pread(m_fd, m_window.data() + done,
+                                    static_cast<std::size_t>(size - done), place.offset + done);
         if (got < 0 && errno == EINTR) {
             continue;
         }
         if (got <= 0) {
+            m_window.clear();
             fail(QStringLiteral("Cannot read a temporary file"));
         }
         done += got;
     }
-    return data;
+}
+
+QByteArrayView Spool::at(Place place) {
+    if (place.offset >= m_fileSize) {
+        return QByteArrayView(m_memory).sliced(place.offset - m_fileSize, place.length);
+    }
+    if (place.offset < m_windowStart ||
+        place.offset + place.length > m_windowStart + m_window.size()) {
+        readWindow(place);
+    }
+    return QByteArrayView(m_window).sliced(place.offset - m_windowStart, place.length);
 }
 
 } // namespace folioforge

@@ -5,8 +5,8 @@
 
 namespace folioforge {
 
-/// Holds made data until the document is written: in memory while there is little of it, then in
-/// an anonymous file that no one else can open and that is gone when this object is.
+/// Holds made data until the document is written: in memory while there is little of it, the older
+/// part then in an anonymous file that no one else can open and that is gone when this object is.
 class Spool {
   public:
     /// A place in the spool, in bytes.
@@ -22,16 +22,18 @@ class Spool {
 
     /// Keeps a copy of `data`. Throws Error when the temporary file cannot take it.
     Place add(QByteArrayView data);
-    /// The data at `place`. Throws Error when it cannot be read back.
-    [[nodiscard]] QByteArray at(Place place) const;
+    /// The data at `place`, valid until the next call. Throws Error when it cannot be read back.
+    [[nodiscard]] QByteArrayView at(Place place);
 
   private:
-    void moveToFile();
-    void writeAt(qint64 offset, QByteArrayView data);
+    void moveToFile(QByteArrayView data);
+    void readWindow(Place place);
 
-    QByteArray m_memory;
-    qint64 m_size = 0;
+    QByteArray m_memory;   ///< What came after the part in the file.
+    qint64 m_fileSize = 0; ///< Bytes of the spool that are in the file.
     int m_fd = -1;
+    QByteArray m_window; ///< Bytes of the file from m_windowStart on.
+    qint64 m_windowStart = 0;
 };
 
 } // namespace folioforge

@@ -22,20 +22,27 @@ struct CompressorDeleter {
 };
 using Compressor = std::unique_ptr<libdeflate_compressor, CompressorDeleter>;
 
+/// Making a compressor costs more than compressing a page of text, so each thread keeps its own.
+libdeflate_compressor *compressorFor(Effort effort) {
+    constexpr int kQuickLevel = 1;
+    constexpr int kThoroughLevel = 6;
+    thread_local const Compressor quick(libdeflate_alloc_compressor(kQuickLevel));
+    thread_local const Compressor thorough(libdeflate_alloc_compressor(kThoroughLevel));
+    return effort == Effort::Quick ? quick.get() : thorough.get();
+}
+
 } // namespace
 
-QByteArray zlibCompressed(QByteArrayView data) {
-    constexpr int kLevel = 6;
-    // Making a compressor costs more than compressing a page of text.
-    thread_local const Compressor compressor(libdeflate_alloc_compressor(kLevel));
+QByteArray zlibCompressed(QByteArrayView data, Effort effort) {
+    libdeflate_compressor *compressor = compressorFor(effort);
     if (!compressor) {
         throw Error(QStringLiteral("There is not enough memory"));
     }
     const auto size = static_cast<std::size_t>(data.size());
-    const auto bound = libdeflate_zlib_compress_bound(compressor.get(), size);
+    const auto bound = libdeflate_zlib_compress_bound(compressor, size);
     QByteArray compressed(static_cast<qsizetype>(bound), Qt::Uninitialized);
     const auto length =
-        libdeflate_zlib_compress(compressor.get(), data.data(), size, compressed.data(), bound);
+        libdeflate_zlib_compress(compressor, data.data(), size, compressed.data(), bound);
     compressed.truncate(static_cast<qsizetype>(length));
     return compressed;
 }
@@ -46,11 +53,13 @@ class StreamData::SpooledData final : public QPDFObjectHandle::StreamDataProvide
     explicit SpooledData(std::shared_ptr<Spool> spool)
         : m_spool(std::move(spool)) {}
 
-    void remember(const QPDFObjGen &object, Spool::Place place) { m_places[object] = place; }
+    void remember(const QPDFObjGen &object, Spool::Place place) {
+        m_places.insert_or_assign(m_places.end(), object, place);
+    }
 
     void provideStreamData(QPDFObjGen const &object, Pipeline *pipeline) override {
-        const QByteArray data = m_spool->at(m_places.at(object));
-        pipeline->write(data.constData(), static_cast<std::size_t>(data.size()));
+        const QByteArrayView data = m_spool->at(m_places.at(object));
+        pipeline->write(data.data(), static_cast<std::size_t>(data.size()));
         pipeline->finish();
     }
 
@@ -89,15 +98,16 @@ StreamData::StreamData(QPDF &document, std::shared_ptr<SourceReader> reader)
     : m_document(document)
     , m_reader(std::move(reader))
     , m_spool(std::make_shared<Spool>())
-    , m_spooled(std::make_shared<SpooledData>(m_spool)) {}
+    , m_spooled(std::make_shared<SpooledData>(m_spool))
+    , m_flateName(QPDFObjectHandle::newName("/FlateDecode")) {}
 
 QPDFObjectHandle
 StreamData::make(QPDFObjectHandle dictionary,
                  const std::shared_ptr<QPDFObjectHandle::StreamDataProvider> &provider) {
     QPDFObjectHandle stream = m_document.newStream();
     stream.replaceDict(dictionary);
-    stream.replaceStreamData(provider, dictionary.getKey("/Filter"),
-                             dictionary.getKey("/DecodeParms"));
+    // The dictionary has the filter and its parameters already.
+    stream.replaceStreamData(provider, QPDFObjectHandle(), QPDFObjectHandle());
     // Otherwise the library decodes and encodes again what is compressed best already.
     stream.setFilterOnWrite(false);
     return stream;
@@ -110,9 +120,10 @@ QPDFObjectHandle StreamData::fromBytes(QPDFObjectHandle dictionary, QByteArrayVi
     return stream;
 }
 
-QPDFObjectHandle StreamData::deflated(QPDFObjectHandle dictionary, QByteArrayView data) {
-    dictionary.replaceKey("/Filter", QPDFObjectHandle::newName("/FlateDecode"));
-    return fromBytes(dictionary, zlibCompressed(data));
+QPDFObjectHandle StreamData::deflated(QPDFObjectHandle dictionary, QByteArrayView data,
+                                      Effort effort) {
+    dictionary.replaceKey("/Filter", m_flateName);
+    return fromBytes(dictionary, zlibCompressed(data, effort));
 }
 
 QPDFObjectHandle StreamData::fromFile(QPDFObjectHandle dictionary, SourceFile file,

@@ -76,7 +76,8 @@ void TextContent::showGlyphs(double x, double y, std::span<const Glyph> glyphs) 
 }
 
 std::span<const Glyph> TextContent::takeRun(std::span<const Glyph> glyphs) {
-    const std::uint16_t font = m_fonts.codeOf(glyphs.front()).font;
+    FontEmbedder &fonts = m_fonts;
+    const std::uint16_t font = fonts.codeOf(glyphs.front()).font;
     if (font != m_font) {
         selectFont(font);
     }
@@ -84,7 +85,7 @@ std::span<const Glyph> TextContent::takeRun(std::span<const Glyph> glyphs) {
     char *out = m_run.data();
     std::size_t taken = 0;
     for (; taken < glyphs.size(); ++taken) {
-        const GlyphCode code = m_fonts.codeOf(glyphs[taken]);
+        const GlyphCode code = fonts.codeOf(glyphs[taken]);
         if (code.font != font) {
             break;
         }

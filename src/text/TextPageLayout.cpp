@@ -7,13 +7,15 @@ namespace folioforge {
 namespace {
 
 /// The characters that end a line, each by itself.
-bool isNewline(QChar unit) {
-    const char16_t code = unit.unicode();
+bool isNewline(char16_t code) {
     constexpr char16_t kLineFeed = 0x0A;
     constexpr char16_t kCarriageReturn = 0x0D;
     constexpr char16_t kNextLine = 0x85;
     constexpr char16_t kLineSeparator = 0x2028;
     constexpr char16_t kParagraphSeparator = 0x2029;
+    if (code > kCarriageReturn && code < kNextLine) {
+        return false; // Nearly every unit of a large text.
+    }
     return (code >= kLineFeed && code <= kCarriageReturn) || code == kNextLine ||
            code == kLineSeparator || code == kParagraphSeparator;
 }
@@ -39,14 +41,20 @@ class RowBreaker {
 
     /// Takes the first row off `line`, which is not empty. The glyphs live until the next call.
     std::span<const Glyph> takeRow(QStringView &line) {
-        m_row.clear();
+        std::size_t count = 0;
         double width = 0;
         qsizetype taken = 0;
         const qsizetype length = line.size();
+        const char16_t *const units = line.utf16();
         while (taken < length && width <= m_usableWidth) {
-            const QChar unit = line[taken];
-            if (!unit.isSurrogate()) {
-                width += append(m_font.glyph(unit.unicode()));
+            if (count == m_row.size()) {
+                m_row.resize(2 * count);
+            }
+            Glyph &glyph = m_row[count++];
+            const char16_t unit = units[taken];
+            if (!QChar::isSurrogate(unit)) {
+                glyph = m_font.glyph(unit);
+                width += glyph.advance;
                 ++taken;
                 continue;
             }
@@ -55,22 +63,21 @@ class RowBreaker {
             const bool fitsHalf = width + m_font.missingGlyph().advance <= m_usableWidth;
             const QStringView rest =
                 line.sliced(taken, fitsHalf ? std::min<qsizetype>(2, length - taken) : 1);
-            width += append(firstGlyph(rest, m_font));
+            glyph = firstGlyph(rest, m_font);
+            width += glyph.advance;
             taken += startsWithPair(rest) ? 2 : 1;
         }
         line = line.sliced(taken);
-        return m_row;
+        return std::span(m_row).first(count);
     }
 
   private:
-    double append(const Glyph &glyph) {
-        m_row.push_back(glyph);
-        return glyph.advance;
-    }
+    static constexpr std::size_t kUsualRow = 256;
 
     const FontCascade &m_font;
     double m_usableWidth = 0;
-    std::vector<Glyph> m_row;
+    std::vector<Glyph> m_row =
+        std::vector<Glyph>(kUsualRow); ///< Grows where zero-width glyphs make a row long.
 };
 
 /// Puts rows under each other and begins a page where the next row would pass the lower limit.
@@ -126,10 +133,8 @@ void layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
     RowBreaker breaker(font, pageSize.width() - left - right);
     PageFiller pages(sink, pageSize, margins, font.rowHeight());
     while (!text.isEmpty()) {
-        qsizetype length = 0;
-        while (length < text.size() && !isNewline(text[length])) {
-            ++length;
-        }
+        const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), isNewline);
+        const qsizetype length = end - text.utf16();
         QStringView line = text.first(length);
         while (!line.isEmpty()) {
             pages.addRow(breaker.takeRow(line));
