@@ -35,7 +35,7 @@ void takeCustomSize(const QString &text, int customMode, const QString &fault, P
 } // namespace
 
 QString textOf(const QByteArray &bytes) {
-    const QString text = decodeText(bytes);
+    QString text = decodeText(bytes);
     if (text.isNull()) {
         throw ArgumentFault(
             QStringLiteral("\"%1\" is not valid UTF-8").arg(QString::fromUtf8(bytes)));

@@ -11,7 +11,7 @@
 namespace folioforge {
 
 QString StandIns::pathFor(const QByteArray &path) {
-    const QString readable = QString::fromUtf8(path);
+    QString readable = QString::fromUtf8(path);
     if (!decodeText(path).isNull()) {
         return readable;
     }

@@ -52,10 +52,11 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
     const QString failure =
         reasonOfFailure([&] { addPages(entry, context, options, stop, outcome); });
     outcome.written = failure.isEmpty();
-    outcome.pages = context.pageCount() - pagesBefore;
     if (!outcome.written) {
+        context.keepPages(pagesBefore);
         outcome.message = failure;
     }
+    outcome.pages = context.pageCount() - pagesBefore;
     return outcome;
 }
 

@@ -37,6 +37,11 @@ void DocumentCatalog::addPage(const QPDFObjectHandle &page) {
     }
 }
 
+void DocumentCatalog::keepPages(int count) {
+    m_pages.resize(static_cast<std::size_t>(std::min(count, pageCount())));
+    std::erase_if(m_pageLabels, [this](const auto &label) { return label.first >= pageCount(); });
+}
+
 void DocumentCatalog::addPageLabels(const ImportedDocument &imported) {
     if (imported.pageLabels.empty()) {
         m_pageLabels.emplace_back(pageCount(), QPDFObjectHandle::newNull());

@@ -18,6 +18,9 @@ class DocumentCatalog {
     void addPage(const QPDFObjectHandle &page);
     void addDocument(const ImportedDocument &imported);
 
+    /// Forgets the pages added by addPage() after the first `count`.
+    void keepPages(int count);
+
     [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
     /// The highest PDF version of the sources, at least 1.7.
     [[nodiscard]] const std::string &pdfVersion() const { return m_pdfVersion; }

@@ -297,6 +297,10 @@ int PDFContext::pageCount() const {
     return m_impl->catalog.pageCount();
 }
 
+void PDFContext::keepPages(int count) {
+    m_impl->catalog.keepPages(count);
+}
+
 CloseResult PDFContext::close(const std::function<QString()> &nextPath) {
     return m_impl->close(nextPath);
 }

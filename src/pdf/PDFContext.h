@@ -78,6 +78,8 @@ class PDFContext {
     int addDocument(const QString &sourcePath);
 
     [[nodiscard]] int pageCount() const;
+    /// Takes back the drawn pages after the first `count`; for what failed in its midst.
+    void keepPages(int count);
 
     /// Writes the document whole and gives it its name without ever replacing another file. When
     /// the name is taken meanwhile, `nextPath` gives the next one to try; without it the result is

@@ -26,6 +26,10 @@ constexpr qint64 kWindowSize = qint64{256} << 10;
 }
 
 int openNameless(const QByteArray &folder) {
+    if (folder.isEmpty()) { // TMPDIR names a folder that does not exist.
+        errno = ENOENT;
+        return -1;
+    }
 #ifdef O_TMPFILE
     const int fd =
         ::open(folder.constData(), O_TMPFILE | O_EXCL | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);

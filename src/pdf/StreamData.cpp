@@ -102,7 +102,7 @@ StreamData::StreamData(QPDF &document, std::shared_ptr<SourceReader> reader)
     , m_flateName(QPDFObjectHandle::newName("/FlateDecode")) {}
 
 QPDFObjectHandle
-StreamData::make(QPDFObjectHandle dictionary,
+StreamData::make(const QPDFObjectHandle &dictionary,
                  const std::shared_ptr<QPDFObjectHandle::StreamDataProvider> &provider) {
     QPDFObjectHandle stream = m_document.newStream();
     stream.replaceDict(dictionary);
@@ -113,7 +113,7 @@ StreamData::make(QPDFObjectHandle dictionary,
     return stream;
 }
 
-QPDFObjectHandle StreamData::fromBytes(QPDFObjectHandle dictionary, QByteArrayView data) {
+QPDFObjectHandle StreamData::fromBytes(const QPDFObjectHandle &dictionary, QByteArrayView data) {
     const auto place = m_spool->add(data);
     QPDFObjectHandle stream = make(dictionary, m_spooled);
     m_spooled->remember(stream.getObjGen(), place);
@@ -126,7 +126,7 @@ QPDFObjectHandle StreamData::deflated(QPDFObjectHandle dictionary, QByteArrayVie
     return fromBytes(dictionary, zlibCompressed(data, effort));
 }
 
-QPDFObjectHandle StreamData::fromFile(QPDFObjectHandle dictionary, SourceFile file,
+QPDFObjectHandle StreamData::fromFile(const QPDFObjectHandle &dictionary, SourceFile file,
                                       std::vector<FileSlice> slices) {
     return make(dictionary,
                 std::make_shared<SlicedData>(m_reader, std::move(file), std::move(slices)));

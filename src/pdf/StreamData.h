@@ -29,19 +29,19 @@ class StreamData {
     StreamData(QPDF &document, std::shared_ptr<SourceReader> reader);
 
     /// A stream with `data`, which is compressed as `dictionary` says.
-    QPDFObjectHandle fromBytes(QPDFObjectHandle dictionary, QByteArrayView data);
+    QPDFObjectHandle fromBytes(const QPDFObjectHandle &dictionary, QByteArrayView data);
     /// A stream with `data`, compressed here.
     QPDFObjectHandle deflated(QPDFObjectHandle dictionary, QByteArrayView data,
                               Effort effort = Effort::Thorough);
     /// A stream with slices of a source file, one after another.
-    QPDFObjectHandle fromFile(QPDFObjectHandle dictionary, SourceFile file,
+    QPDFObjectHandle fromFile(const QPDFObjectHandle &dictionary, SourceFile file,
                               std::vector<FileSlice> slices);
 
   private:
     class SpooledData;
     class SlicedData;
 
-    QPDFObjectHandle make(QPDFObjectHandle dictionary,
+    QPDFObjectHandle make(const QPDFObjectHandle &dictionary,
                           const std::shared_ptr<QPDFObjectHandle::StreamDataProvider> &provider);
 
     QPDF &m_document;

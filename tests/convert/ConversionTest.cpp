@@ -6,12 +6,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
 using namespace folioforge;
@@ -38,6 +41,22 @@ class Stopper : public ConversionObserver {
     void entryDone(std::size_t, bool) override {}
 
     std::stop_source source;
+};
+
+/// Does something as soon as an entry has failed.
+class OnFailure : public ConversionObserver {
+  public:
+    explicit OnFailure(std::function<void()> action)
+        : m_action(std::move(action)) {}
+    void progressChanged(float) override {}
+    void entryDone(std::size_t, bool written) override {
+        if (!written) {
+            m_action();
+        }
+    }
+
+  private:
+    std::function<void()> m_action;
 };
 
 const QString kOwner = QStringLiteral("owner");
@@ -241,6 +260,41 @@ class ConversionTest : public QObject {
             QVERIFY(!outcome.entries[failed].message.isEmpty());
             QCOMPARE(outcome.entries[failed].pages, 0);
         }
+    }
+
+    void aTextThatFailsInItsMidstLeavesNoneOfItsPages() {
+        // Made data beyond 8 MB goes into a temporary file, and there is no folder for one.
+        QRandomGenerator random(1);
+        QImage noise(1600, 1600, QImage::Format_RGB888);
+        for (int y = 0; y < noise.height(); ++y) {
+            for (int x = 0; x < noise.width(); ++x) {
+                noise.setPixel(x, y, random.generate());
+            }
+        }
+        QVERIFY(noise.save(path("noise.bmp")));
+        QByteArray text;
+        while (text.size() < 1'500'000) {
+            text += static_cast<char>(random.bounded(0x21, 0x7F));
+        }
+        addFile(path("noise.bmp"));
+        addText("long.txt", text);
+        addText("after.txt", "the words after");
+        m_options.merge = true;
+        const QByteArray before = qgetenv("TMPDIR");
+        qputenv("TMPDIR", QFile::encodeName(path("nowhere")));
+        OnFailure restorer(
+            [&] { before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before); });
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"), &restorer);
+        QCOMPARE(outcome.close.status, CloseResult::Status::Written);
+        QVERIFY(outcome.entries[0].written);
+        QVERIFY(!outcome.entries[1].written);
+        QVERIFY2(outcome.entries[1].message.contains(QStringLiteral("temporary file")),
+                 qPrintable(outcome.entries[1].message));
+        QCOMPARE(outcome.entries[1].pages, 0);
+        const PdfProbe probe(outcome.close.path);
+        QVERIFY(probe.isValid());
+        QCOMPARE(probe.pageCount(), 2);
+        QVERIFY(probe.text(2).contains(QStringLiteral("the words after")));
     }
 
     void aProtectedSourceAddsNoPages() {
