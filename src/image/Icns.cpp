@@ -1,90 +1,82 @@
 #include "image/Icns.h"
 
 #include "image/Bytes.h"
+#include "image/IcnsPixels.h"
 #include "image/Jpeg2000.h"
 #include "image/Png.h"
-#include "image/QtImage.h"
 
-#include <QBuffer>
-#include <QImageReader>
-
-#include <array>
 #include <optional>
+#include <tuple>
 
 namespace folioforge {
 
 namespace {
 
-/// Entries whose content is no file of its own, by type, with the side of the square they fill.
-struct ClassicEntry {
-    const char *type;
-    int side;
-};
-constexpr std::array<ClassicEntry, 14> kClassicEntries = {{{"it32", 128},
-                                                           {"ih32", 48},
-                                                           {"ich8", 48},
-                                                           {"ich4", 48},
-                                                           {"ich#", 48},
-                                                           {"il32", 32},
-                                                           {"icl8", 32},
-                                                           {"icl4", 32},
-                                                           {"ICN#", 32},
-                                                           {"is32", 16},
-                                                           {"ics8", 16},
-                                                           {"ics4", 16},
-                                                           {"ics#", 16},
-                                                           {"icm#", 16}}};
-
-/// The largest entry: a PNG or JPEG 2000 file with its decoder, or a classic entry for Qt.
-struct Entry {
+/// An entry that can be shown: a PNG or JPEG 2000 file with its decoder, or a classic icon.
+struct Candidate {
     ImageHeader header;
-    std::optional<FileView> file;
+    int bits = 0;
+    FileView content;
     std::optional<Decoder> decoder;
+    std::optional<ClassicIcon> classic;
 
-    [[nodiscard]] qint64 area() const { return qint64(header.width) * header.height; }
+    /// Larger is better, then deeper.
+    [[nodiscard]] std::tuple<qint64, int> rank() const {
+        return {qint64(header.width) * header.height, bits};
+    }
 };
 
-std::optional<Entry> entryOf(const QByteArray &type, const FileView &content) {
-    const QByteArray head = content.read(0, kSniffedBytes);
-    for (const Decoder &decoder : {pngDecoder(), jpeg2000Decoder()}) {
-        if (decoder.recognises(head)) {
-            return Entry{decoder.readHeader(content), content, decoder};
-        }
-    }
-    for (const ClassicEntry &known : kClassicEntries) {
-        if (type == known.type) {
-            Entry entry;
-            entry.header.width = known.side;
-            entry.header.height = known.side;
-            return entry;
-        }
-    }
-    return std::nullopt;
-}
-
-Entry largestEntry(const FileView &file) {
+std::vector<IcnsEntry> entriesOf(const FileView &file) {
     constexpr qint64 kLead = 8;
-    Entry largest;
-    for (qint64 at = kLead; at + kLead <= file.size();) {
+    constexpr size_t kMostEntries = 1000; // There are about 40 types.
+    std::vector<IcnsEntry> entries;
+    for (qint64 at = kLead; at + kLead <= file.size() && entries.size() < kMostEntries;) {
         const QByteArray lead = file.readExactly(at, kLead);
         const qint64 length = bigEndianAt<quint32>(lead, 4);
         if (length < kLead || length > file.size() - at) {
             break; // What came before a damaged entry can still be shown.
         }
+        entries.push_back({lead.first(4), file.part(at + kLead, length - kLead)});
+        at += length;
+    }
+    return entries;
+}
+
+std::optional<Candidate> candidateOf(const IcnsEntry &entry) {
+    const QByteArray head = entry.content.read(0, kSniffedBytes);
+    for (const Decoder &decoder : {pngDecoder(), jpeg2000Decoder()}) {
+        if (decoder.recognises(head)) {
+            constexpr int kDeeperThanClassic = 64;
+            return Candidate{decoder.readHeader(entry.content), kDeeperThanClassic, entry.content,
+                             decoder, std::nullopt};
+        }
+    }
+    const auto classic = classicIconOf(entry.type);
+    if (!classic) {
+        return std::nullopt;
+    }
+    Candidate candidate{{}, classic->bits, entry.content, std::nullopt, classic};
+    candidate.header.width = classic->width;
+    candidate.header.height = classic->height;
+    return candidate;
+}
+
+Candidate largestOf(const std::vector<IcnsEntry> &entries) {
+    std::optional<Candidate> largest;
+    for (const IcnsEntry &entry : entries) {
         try {
-            const auto entry = entryOf(lead.first(4), file.part(at + kLead, length - kLead));
-            if (entry && entry->area() > largest.area()) {
-                largest = *entry;
+            const auto candidate = candidateOf(entry);
+            if (candidate && (!largest || candidate->rank() > largest->rank())) {
+                largest = candidate;
             }
         } catch (const Error &) {
             // A damaged entry leaves the others.
         }
-        at += length;
     }
-    if (largest.area() == 0) {
+    if (!largest) {
         throw Error(QStringLiteral("The icon file holds no picture that can be read"));
     }
-    return largest;
+    return *largest;
 }
 
 bool recognises(QByteArrayView head) {
@@ -92,34 +84,16 @@ bool recognises(QByteArrayView head) {
 }
 
 ImageHeader readHeader(const FileView &file) {
-    return largestEntry(file).header;
-}
-
-/// The largest frame of the classic entries, which Qt joins with their masks.
-EncodedImage encodeClassic(const FileView &file) {
-    QByteArray bytes = file.readExactly(0, file.size());
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer, "icns");
-    QImage largest;
-    for (int i = 0; i < reader.imageCount(); ++i) {
-        const QImage frame = reader.jumpToImage(i) ? reader.read() : QImage();
-        const auto area = [](const QImage &image) {
-            return qint64(image.width()) * image.height();
-        };
-        if (area(frame) > area(largest)) {
-            largest = frame;
-        }
-    }
-    if (largest.isNull()) {
-        throw Error(QStringLiteral("The icon file holds no picture that can be read"));
-    }
-    return encodeRaster(rasterOf(largest));
+    return largestOf(entriesOf(file)).header;
 }
 
 EncodedImage encode(const FileView &file) {
-    const Entry entry = largestEntry(file);
-    return entry.decoder ? entry.decoder->encode(*entry.file) : encodeClassic(file);
+    const std::vector<IcnsEntry> entries = entriesOf(file);
+    const Candidate largest = largestOf(entries);
+    if (largest.decoder) {
+        return largest.decoder->encode(largest.content);
+    }
+    return encodeRaster(decodeClassicIcon(*largest.classic, largest.content, entries));
 }
 
 } // namespace

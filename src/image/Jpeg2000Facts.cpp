@@ -94,11 +94,11 @@ void readExifBox(const FileView &content, Jpeg2000Facts &facts) {
     }
 }
 
-void readBoxes(const FileView &file, Jpeg2000Facts &facts);
+void readBoxes(const FileView &file, int depth, Jpeg2000Facts &facts);
 
-void readBox(const Box &box, Jpeg2000Facts &facts) {
+void readBox(const Box &box, int depth, Jpeg2000Facts &facts) {
     if (box.type == "jp2h" || box.type == "res ") {
-        readBoxes(box.content, facts);
+        readBoxes(box.content, depth + 1, facts);
     } else if (box.type == "ihdr") {
         readImageHeaderBox(box.content, facts);
     } else if (box.type == "colr") {
@@ -114,10 +114,14 @@ void readBox(const Box &box, Jpeg2000Facts &facts) {
     }
 }
 
-void readBoxes(const FileView &file, Jpeg2000Facts &facts) {
+void readBoxes(const FileView &file, int depth, Jpeg2000Facts &facts) {
+    constexpr int kDeepest = 2; // Boxes in boxes without end would exhaust the stack.
+    if (depth > kDeepest) {
+        return;
+    }
     for (qint64 at = 0; at + 8 <= file.size();) {
         const Box box = boxAt(file, at);
-        readBox(box, facts);
+        readBox(box, depth, facts);
         at = box.next;
     }
 }
@@ -157,7 +161,7 @@ Jpeg2000Facts readJpeg2000Facts(const FileView &file) {
     if (file.read(0, 2) == "\xFF\x4F") {
         readSizeMarker(file, facts);
     } else {
-        readBoxes(file, facts);
+        readBoxes(file, 0, facts);
     }
     if (facts.components == 0) {
         throw Error(QStringLiteral("The JPEG 2000 file holds no picture"));

@@ -62,69 +62,33 @@ ImageHeader readGifHeader(const FileView &file) {
     return header;
 }
 
-bool isIcon(QByteArrayView head) {
-    // Cursors begin with 0 0 2 0, but so do TGA files, which are no less plain about it.
-    return head.startsWith(QByteArrayView("\0\0\1\0", 4));
-}
-
-struct IconFrame {
-    int index = 0;
-    int width = 0;
-    int height = 0;
-};
-
-/// The size of a frame: its entry's, or that of the PNG file inside, which may be larger than an
-/// entry can say.
-IconFrame frameAt(const FileView &file, int index) {
-    constexpr qint64 kDirectory = 6;
-    constexpr qint64 kEntryBytes = 16;
-    const QByteArray entry = file.readExactly(kDirectory + index * kEntryBytes, kEntryBytes);
-    const auto side = [&](int at) {
-        const int stated = bigEndianAt<uchar>(entry, at);
-        return stated == 0 ? 256 : stated;
-    };
-    const QByteArray frame = file.read(littleEndianAt<quint32>(entry, 12), 24);
-    if (frame.size() == 24 && frame.startsWith("\x89PNG")) {
-        return {index, bigEndianAt<qint32>(frame, 16), bigEndianAt<qint32>(frame, 20)};
+/// The first frame of an image file that Qt reads.
+QImage readWithQt(const FileView &file, const char *format) {
+    setAllocationLimit();
+    QByteArray bytes = file.readExactly(0, file.size());
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, format);
+    reader.setAutoTransform(false);
+    QImage image = reader.read();
+    if (image.isNull()) {
+        throw Error(QStringLiteral("The image cannot be read: %1").arg(reader.errorString()));
     }
-    return {index, side(0), side(1)};
-}
-
-IconFrame largestFrame(const FileView &file) {
-    const int count = littleEndianAt<quint16>(file.readExactly(0, 6), 4);
-    IconFrame largest;
-    int mostBits = -1;
-    for (int i = 0; i < count; ++i) {
-        const IconFrame frame = frameAt(file, i);
-        const int bits = littleEndianAt<quint16>(file.readExactly(6 + i * 16, 16), 6);
-        const qint64 area = qint64(frame.width) * frame.height;
-        const qint64 best = qint64(largest.width) * largest.height;
-        if (area > best || (area == best && bits > mostBits)) {
-            largest = frame;
-            mostBits = bits;
-        }
-    }
-    return largest;
-}
-
-ImageHeader readIconHeader(const FileView &file) {
-    const IconFrame frame = largestFrame(file);
-    ImageHeader header;
-    header.width = frame.width;
-    header.height = frame.height;
-    return header;
+    return image;
 }
 
 EncodedImage encodeBitmap(const FileView &file) {
-    return encodeRaster(rasterOf(readWithQt(file, "bmp", 0)));
+    constexpr qint64 kRunRatio = 2040; // A bit a pixel packed, or 255 pixels for two bytes.
+    const ImageHeader header = readBitmapHeader(file);
+    requirePlausible(qint64(header.width) * header.height, file.size(), kRunRatio);
+    return encodeRaster(rasterOf(readWithQt(file, "bmp")));
 }
 
 EncodedImage encodeGif(const FileView &file) {
-    return encodeRaster(rasterOf(readWithQt(file, "gif", 0)));
-}
-
-EncodedImage encodeIcon(const FileView &file) {
-    return encodeRaster(rasterOf(readWithQt(file, "ico", largestFrame(file).index)));
+    constexpr qint64 kLzwRatio = 3000;
+    const ImageHeader header = readGifHeader(file);
+    requirePlausible(qint64(header.width) * header.height, file.size(), kLzwRatio);
+    return encodeRaster(rasterOf(readWithQt(file, "gif")));
 }
 
 /// Rows of a QImage are padded to four bytes; a PDF's are not.
@@ -263,23 +227,6 @@ void takeColor(const QImage &image, Raster &raster) {
 
 } // namespace
 
-QImage readWithQt(const FileView &file, const char *format, int index) {
-    setAllocationLimit();
-    QByteArray bytes = file.readExactly(0, file.size());
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer, format);
-    reader.setAutoTransform(false);
-    if (index > 0 && !reader.jumpToImage(index)) {
-        throw Error(QStringLiteral("The image cannot be read: %1").arg(reader.errorString()));
-    }
-    QImage image = reader.read();
-    if (image.isNull()) {
-        throw Error(QStringLiteral("The image cannot be read: %1").arg(reader.errorString()));
-    }
-    return image;
-}
-
 Raster rasterOf(const QImage &image) {
     Raster raster;
     raster.width = image.width();
@@ -308,10 +255,6 @@ Decoder bmpDecoder() {
 
 Decoder gifDecoder() {
     return {ImageFormat::Gif, {QLatin1StringView("gif")}, isGif, readGifHeader, encodeGif};
-}
-
-Decoder icoDecoder() {
-    return {ImageFormat::Ico, {QLatin1StringView("ico")}, isIcon, readIconHeader, encodeIcon};
 }
 
 } // namespace folioforge

@@ -11,11 +11,6 @@ namespace folioforge {
 Decoder bmpDecoder();
 /// The decoder of GIF (89a): the first frame.
 Decoder gifDecoder();
-/// The decoder of Windows icons and cursors: the largest frame.
-Decoder icoDecoder();
-
-/// The frame `index` of an image file that Qt reads; throws Error when Qt cannot.
-QImage readWithQt(const FileView &file, const char *format, int index);
 
 /// The pixels of a Qt image in the fewest bits that hold them all: one bit, palette, grey or
 /// colour, with its transparency.

@@ -3,6 +3,7 @@
 #include "error/Error.h"
 #include "image/Exr.h"
 #include "image/Icns.h"
+#include "image/Ico.h"
 #include "image/Jpeg.h"
 #include "image/Jpeg2000.h"
 #include "image/Png.h"
