@@ -43,6 +43,7 @@ struct EncodedImage {
     int predictor = 1;          ///< Flate: 1 none, 15 PNG rows (with colors and bitsPerComponent).
     int ccittK = -1;            ///< CCITT: K parameter.
     bool ccittBlackIs1 = false; ///< CCITT: BlackIs1 parameter.
+    bool isPlainRgb = false;    ///< DCT: the samples are RGB though the data does not say so.
 
     /// The compressed data: either in `data`, or slices of the file `sourcePath` in this order.
     QByteArray data;

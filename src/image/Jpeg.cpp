@@ -34,6 +34,8 @@ struct JpegFacts {
     uchar process = 0; ///< The marker of the frame header.
     int precision = 0; ///< Bits per sample.
     int components = 0;
+    QByteArray componentIds;
+    bool hasJfif = false;
     bool hasJfifDensity = false;
     bool hasAdobe = false;
     bool hasScan = false;
@@ -86,12 +88,16 @@ void readFrameHeader(QByteArrayView segment, uchar marker, JpegFacts &facts) {
     facts.header.height = bigEndianAt<quint16>(segment, 1);
     facts.header.width = bigEndianAt<quint16>(segment, 3);
     facts.components = bigEndianAt<uchar>(segment, 5);
+    for (qsizetype at = 6; at < segment.size(); at += 3) {
+        facts.componentIds.append(segment[at]);
+    }
 }
 
 void readJfif(QByteArrayView segment, JpegFacts &facts) {
     if (!segment.startsWith(QByteArrayView("JFIF\0", 5)) || segment.size() < 12) {
         return;
     }
+    facts.hasJfif = true;
     const auto unit = bigEndianAt<uchar>(segment, 7);
     if (unit != 1 && unit != 2) {
         return;
@@ -213,6 +219,8 @@ EncodedImage encode(const FileView &file) {
     if (image.color == ImageColor::Cmyk && facts.hasAdobe) {
         image.decode = {1, 0, 1, 0, 1, 0, 1, 0}; // Adobe's programs store ink inverted.
     }
+    // Readers take three components for YCbCr unless Adobe's mark or the PDF says otherwise.
+    image.isPlainRgb = !facts.hasAdobe && !facts.hasJfif && facts.componentIds == "RGB";
     image.slices = {{file.offset(), file.size()}};
     return image;
 }

@@ -55,6 +55,8 @@ void addDecodeParms(QPDFObjectHandle &dictionary, const EncodedImage &image) {
         parms.replaceKey("/Colors", QPDFObjectHandle::newInteger(componentsOf(image.color)));
         parms.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(image.bitsPerComponent));
         parms.replaceKey("/Columns", QPDFObjectHandle::newInteger(image.width));
+    } else if (image.filter == ImageFilter::Dct && image.isPlainRgb) {
+        parms.replaceKey("/ColorTransform", QPDFObjectHandle::newInteger(0));
     } else {
         return;
     }
