@@ -50,6 +50,14 @@ ImageHeader checked(ImageHeader header, ImageFormat format) {
     return header;
 }
 
+template<typename Work> auto withinMemory(const Work &work) {
+    try {
+        return work();
+    } catch (const std::bad_alloc &) {
+        throw Error(QStringLiteral("There is not enough memory for the image"));
+    }
+}
+
 } // namespace
 
 QSizeF ImageHeader::sizeInPoints() const {
@@ -60,23 +68,23 @@ QSizeF ImageHeader::sizeInPoints() const {
 }
 
 ImageHeader readImageHeader(const QString &path) {
-    const ImageFile file = ImageFile::open(path);
-    const Decoder &decoder = decoderFor(file.view());
-    return checked(decoder.readHeader(file.view()), decoder.format);
+    return withinMemory([&] {
+        const ImageFile file = ImageFile::open(path);
+        const Decoder &decoder = decoderFor(file.view());
+        return checked(decoder.readHeader(file.view()), decoder.format);
+    });
 }
 
 EncodedImage encodeImage(const QString &path) {
-    const ImageFile file = ImageFile::open(path);
-    const Decoder &decoder = decoderFor(file.view());
-    checked(decoder.readHeader(file.view()), decoder.format);
-    try {
+    return withinMemory([&] {
+        const ImageFile file = ImageFile::open(path);
+        const Decoder &decoder = decoderFor(file.view());
+        checked(decoder.readHeader(file.view()), decoder.format);
         EncodedImage image = decoder.encode(file.view());
         image.sourcePath = path;
         image.sourceSize = file.size();
         return image;
-    } catch (const std::bad_alloc &) {
-        throw Error(QStringLiteral("There is not enough memory for the image"));
-    }
+    });
 }
 
 } // namespace folioforge

@@ -1,6 +1,7 @@
 #include "image/Jpeg2000Pixels.h"
 
 #include "error/Error.h"
+#include "image/Parallel.h"
 
 #include <QtEndian>
 
@@ -75,7 +76,8 @@ Codec openCodec(const Jpeg2000Facts &facts) {
     opj_dparameters_t parameters;
     opj_set_default_decoder_parameters(&parameters);
     opj_setup_decoder(codec.get(), &parameters);
-    if (opj_has_thread_support() == OPJ_TRUE) {
+    const qint64 bytes = qint64(facts.header.width) * facts.header.height * facts.components;
+    if (bytes >= kWorthAThread && opj_has_thread_support() == OPJ_TRUE) {
         opj_codec_set_threads(codec.get(), std::min(opj_get_num_cpus(), 8));
     }
     return codec;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 #include <algorithm>
 #include <future>
 #include <thread>
@@ -7,15 +9,24 @@
 
 namespace folioforge {
 
-/// Calls work(first, end) for bands that together cover rows 0 to `rows`, on as many threads as
-/// the machine has cores, and returns when all are done. Bands have at least `least` rows. An
-/// exception of a band is thrown on after all have ended.
-template<typename Work> void forEachBand(int rows, int least, const Work &work) {
-    const int cores = std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, 8);
-    const int bands = std::clamp(rows / std::max(least, 1), 1, cores);
-    const auto edge = [&](int band) {
-        return static_cast<int>(static_cast<long long>(rows) * band / bands);
-    };
+/// Bytes of work below which a thread costs more than it saves.
+inline constexpr qint64 kWorthAThread = 1 << 18;
+
+/// How std::async() runs a piece of work over so many bytes: beside the caller, or when the caller
+/// asks for its result.
+inline std::launch launchFor(qint64 bytes) {
+    return bytes >= kWorthAThread ? std::launch::async : std::launch::deferred;
+}
+
+/// Calls work(first, end) for bands that together cover rows 0 to `rows` of `rowBytes` bytes each,
+/// on as many threads as the machine has cores and the work is worth, and returns when all are
+/// done. An exception of a band is thrown on after all have ended.
+template<typename Work> void forEachBand(int rows, qint64 rowBytes, const Work &work) {
+    constexpr qint64 kMostBands = 8;
+    const qint64 cores = std::clamp<qint64>(std::thread::hardware_concurrency(), 1, kMostBands);
+    const auto bands = static_cast<int>(
+        std::clamp<qint64>(std::min<qint64>(rows, rows * rowBytes / kWorthAThread), 1, cores));
+    const auto edge = [&](int band) { return static_cast<int>(qint64(rows) * band / bands); };
     std::vector<std::future<void>> others;
     for (int band = 1; band < bands; ++band) {
         others.push_back(

@@ -5,6 +5,7 @@
 #include "image/Exif.h"
 #include "image/IccProfile.h"
 #include "image/Interlaced.h"
+#include "image/Parallel.h"
 #include "image/Raster.h"
 #include "image/RowFilter.h"
 
@@ -22,6 +23,7 @@ constexpr qint64 kSignatureBytes = 8;
 constexpr double kMetresPerInch = 0.0254;
 /// The most that deflate shrinks anything.
 constexpr qint64 kDeflateRatio = 1040;
+constexpr qsizetype kMostPaletteBytes = 3 * 256;
 
 struct PngFacts {
     ImageHeader header;
@@ -164,7 +166,8 @@ PngFacts readFacts(const FileView &file, Reading reading) {
     if (facts.bits == 0 || facts.data.empty()) {
         throw Error(QStringLiteral("The PNG file holds no picture"));
     }
-    if (facts.colorType == Palette && (facts.palette.isEmpty() || facts.palette.size() % 3 != 0)) {
+    if (facts.colorType == Palette && (facts.palette.isEmpty() || facts.palette.size() % 3 != 0 ||
+                                       facts.palette.size() > kMostPaletteBytes)) {
         throw Error(QStringLiteral("The PNG file has no palette"));
     }
     return facts;
@@ -316,7 +319,7 @@ EncodedImage withDealtRows(const FileView &file, const PngFacts &facts) {
     EncodedImage image = describe(facts);
     DealtRows dealt =
         dealRows(inflateRows(file, facts, facts.header.height * (facts.stride() + 1)), facts);
-    auto mask = std::async(std::launch::async, [&] {
+    auto mask = std::async(launchFor(dealt.color.size()), [&] {
         AlphaPlane plane{facts.bits, {}};
         plane.samples = unfilterRows(std::move(dealt.alpha), image.height,
                                      rowBytes(image.width, 1, facts.bits), facts.bits / 8);

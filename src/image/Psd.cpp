@@ -38,7 +38,7 @@ class PlaneReader {
 
     QByteArray nextRow() {
         if (!m_packed) {
-            const QByteArray row = m_file.readExactly(m_at, m_rowBytes);
+            QByteArray row = m_file.readExactly(m_at, m_rowBytes);
             m_at += m_rowBytes;
             return row;
         }
@@ -55,13 +55,14 @@ class PlaneReader {
         QByteArray row;
         row.reserve(m_rowBytes);
         for (qsizetype at = 0; at < packed.size() && row.size() < m_rowBytes;) {
-            const int count = static_cast<signed char>(packed[at++]);
-            if (count >= 0) {
-                const auto length = std::min<qsizetype>(count + 1, packed.size() - at);
+            constexpr int kNothing = 0x80; // Below it bytes as they are, above it one repeated.
+            const int lead = bigEndianAt<uchar>(packed, at++);
+            if (lead < kNothing) {
+                const auto length = std::min<qsizetype>(lead + 1, packed.size() - at);
                 row.append(packed.sliced(at, length));
                 at += length;
-            } else if (count != -128 && at < packed.size()) {
-                row.append(1 - count, packed[at++]);
+            } else if (lead > kNothing && at < packed.size()) {
+                row.append(257 - lead, packed[at++]);
             }
         }
         row.resize(m_rowBytes, '\0');
@@ -86,18 +87,18 @@ struct PlaneTarget {
 };
 
 void placeRow(const QByteArray &row, int y, const PsdFacts &facts, const PlaneTarget &target) {
-    const int width = facts.header.width;
-    const int bytes = facts.sampleBits() / 8;
-    const qsizetype step = qsizetype(target.channels) * bytes;
+    const qsizetype width = facts.header.width;
+    const qsizetype bytes = facts.sampleBits() / 8;
+    const qsizetype step = target.channels * bytes;
     auto *out = reinterpret_cast<uchar *>(target.samples->data()) + y * width * step +
                 target.channel * bytes;
     const auto *in = reinterpret_cast<const uchar *>(row.constData());
-    for (int x = 0; x < width; ++x, out += step) {
+    for (qsizetype x = 0; x < width; ++x, out += step) {
         if (facts.depth == 32) {
             const auto value = std::bit_cast<float>(qFromBigEndian<quint32>(in + 4 * x));
             qToBigEndian(target.isLight ? srgbFromLinear(value) : sampleFromShare(value), out);
         } else {
-            std::memcpy(out, in + qsizetype(x) * bytes, static_cast<size_t>(bytes));
+            std::memcpy(out, in + x * bytes, static_cast<size_t>(bytes));
         }
     }
 }
@@ -164,7 +165,8 @@ template<typename Sample> void removeWhiteMatte(Raster &raster) {
 }
 
 void readSamples(const FileView &file, const PsdFacts &facts, Raster &raster) {
-    PlaneReader reader(file, facts);
+    PlaneReader reader(file, facts); // Which refuses a short file before there is memory for it.
+    raster.samples = allocateRows(raster.height, raster.stride());
     if (facts.depth == 1) {
         for (int y = 0; y < raster.height; ++y) {
             raster.samples.replace(y * raster.stride(), raster.stride(), reader.nextRow());
@@ -172,8 +174,9 @@ void readSamples(const FileView &file, const PsdFacts &facts, Raster &raster) {
         return;
     }
     const int channels = channelCount(raster.color);
+    const bool isLight = raster.color == ImageColor::Gray || raster.color == ImageColor::Rgb;
     for (int c = 0; c < channels; ++c) {
-        readPlane(reader, facts, {&raster.samples, c, channels, true});
+        readPlane(reader, facts, {&raster.samples, c, channels, isLight});
     }
     if (facts.alpha != PsdAlpha::None) {
         raster.alpha = AlphaPlane{
@@ -184,13 +187,13 @@ void readSamples(const FileView &file, const PsdFacts &facts, Raster &raster) {
 
 /// Palettes hold all reds, then all greens, then all blues.
 QByteArray interleavedPalette(const QByteArray &planes) {
-    constexpr int kColors = 256;
+    constexpr qsizetype kColors = 256;
     if (planes.size() < 3 * kColors) {
         throw Error(QStringLiteral("The Photoshop file has no palette"));
     }
     QByteArray palette;
-    for (int i = 0; i < kColors; ++i) {
-        for (int plane = 0; plane < 3; ++plane) {
+    for (qsizetype i = 0; i < kColors; ++i) {
+        for (qsizetype plane = 0; plane < 3; ++plane) {
             palette.append(planes.at(plane * kColors + i));
         }
     }
@@ -232,7 +235,6 @@ EncodedImage encode(const FileView &file) {
     } else if (facts.color == ImageColor::Indexed) {
         raster.palette = interleavedPalette(facts.colorModeData);
     }
-    raster.samples = allocateRows(raster.height, raster.stride());
     readSamples(file, facts, raster);
     if (facts.alpha == PsdAlpha::OnWhite && facts.color != ImageColor::Cmyk &&
         facts.color != ImageColor::Lab) {

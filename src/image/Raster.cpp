@@ -4,6 +4,7 @@
 #include "image/CcittFax.h"
 #include "image/Deflate.h"
 #include "image/IccProfile.h"
+#include "image/Parallel.h"
 #include "image/RowFilter.h"
 
 #include <QtEndian>
@@ -162,7 +163,7 @@ std::unique_ptr<EncodedImage> encodeAlpha(const AlphaPlane &alpha, int width, in
 EncodedImage encodeRaster(Raster raster) {
     std::future<std::unique_ptr<EncodedImage>> mask;
     if (raster.alpha) {
-        mask = std::async(std::launch::async, [&raster] {
+        mask = std::async(launchFor(raster.samples.size()), [&raster] {
             return encodeAlpha(*raster.alpha, raster.width, raster.height);
         });
     }

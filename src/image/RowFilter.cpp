@@ -157,8 +157,7 @@ QByteArray filterRows(const QByteArray &rows, qsizetype stride, int pixelBytes) 
     QByteArray out(height * (stride + 1), Qt::Uninitialized);
     const auto *source = reinterpret_cast<const uchar *>(rows.constData());
     auto *target = reinterpret_cast<uchar *>(out.data());
-    constexpr int kLeastRows = 64;
-    forEachBand(height, kLeastRows, [&](int first, int end) {
+    forEachBand(height, stride, [&](int first, int end) {
         RowFilterer filterer(stride, pixelBytes);
         if (first > 0) {
             filterer.setAbove(source + (first - 1) * stride);

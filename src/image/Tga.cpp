@@ -122,10 +122,11 @@ Rgba colorAt(const uchar *bytes, int bits, int alphaBits) {
 std::vector<Rgba> readColorMap(const FileView &file, const TgaFacts &facts) {
     const int step = facts.mapEntryBytes();
     const QByteArray bytes = file.readExactly(facts.mapOffset, qint64(facts.mapLength) * step);
-    std::vector<Rgba> map;
-    for (int i = 0; i < facts.mapLength; ++i) {
-        map.push_back(colorAt(reinterpret_cast<const uchar *>(bytes.constData()) + i * step,
-                              facts.mapEntryBits, facts.alphaBits));
+    const auto *entry = reinterpret_cast<const uchar *>(bytes.constData());
+    std::vector<Rgba> map(static_cast<size_t>(facts.mapLength));
+    for (Rgba &color : map) {
+        color = colorAt(entry, facts.mapEntryBits, facts.alphaBits);
+        entry += step;
     }
     return map;
 }

@@ -34,14 +34,16 @@ ImageColor colorOf(const TiffShape &shape) {
 /// Whether the samples are those of a PDF once they are unpacked; the rest (subsampled or
 /// logarithmic colour) goes through libtiff's own conversion to RGB.
 bool hasSamplesOfPdf(const TiffFile &tiff, const TiffShape &shape) {
-    if (shape.samples < channelCount(colorOf(shape))) {
+    if (shape.samples < channelCount(colorOf(shape)) || shape.bits < 1) {
         return false;
     }
+    const bool isDepthOfNumbers = shape.bits <= 16 || shape.bits == 32 ||
+                                  (shape.bits == 64 && shape.sampleFormat == SAMPLEFORMAT_IEEEFP);
     switch (shape.photometric) {
     case PHOTOMETRIC_PALETTE:
         return shape.bits <= 8;
     case PHOTOMETRIC_SEPARATED:
-        return tiff.number(TIFFTAG_INKSET, INKSET_CMYK) == INKSET_CMYK;
+        return isDepthOfNumbers && tiff.number(TIFFTAG_INKSET, INKSET_CMYK) == INKSET_CMYK;
     case PHOTOMETRIC_CIELAB:
     case PHOTOMETRIC_ICCLAB:
         return shape.bits == 8 || shape.bits == 16;
@@ -50,8 +52,7 @@ bool hasSamplesOfPdf(const TiffFile &tiff, const TiffShape &shape) {
     case PHOTOMETRIC_MINISWHITE:
     case PHOTOMETRIC_MINISBLACK:
     case PHOTOMETRIC_RGB:
-        return shape.bits <= 16 || shape.bits == 32 ||
-               (shape.bits == 64 && shape.sampleFormat == SAMPLEFORMAT_IEEEFP);
+        return isDepthOfNumbers;
     default:
         return false;
     }
@@ -218,7 +219,7 @@ QByteArray paletteOf(const TiffFile &tiff, int bits) {
 
 /// TIFF counts a and b from zero in two's complement, a PDF from -128 up.
 void shiftLabAxes(Raster &raster) {
-    const int bytes = raster.bits / 8;
+    const qsizetype bytes = raster.bits / 8;
     for (qsizetype at = 0; at + 3 * bytes <= raster.samples.size(); at += 3 * bytes) {
         for (const int axis : {1, 2}) {
             char &high = raster.samples.data()[at + axis * bytes];
@@ -241,7 +242,8 @@ struct EndRgbaImage {
 };
 
 /// libtiff's own conversion to eight-bit RGB.
-void readAsRgb(const TiffFile &tiff, Raster &raster) {
+void readAsRgb(const TiffFile &tiff, const TiffShape &shape, Raster &raster) {
+    requireEnoughData(tiff, shape, qint64(raster.width) * raster.height);
     char message[1024] = "";
     TIFFRGBAImage image = {};
     if (TIFFRGBAImageOK(tiff.handle(), message) == 0 ||
@@ -292,6 +294,11 @@ void readSamples(const TiffFile &tiff, const TiffShape &shape, Raster &raster) {
         raster.decode = {1, 0};
     } else if (shape.photometric == PHOTOMETRIC_CIELAB) {
         shiftLabAxes(raster);
+        if (raster.bits == 16) {
+            // The axes count in 256ths: full is a little short of 128, not 127.
+            constexpr double kMost = 127 + 255.0 / 256;
+            raster.decode = {0, 100, -128, kMost, -128, kMost};
+        }
     }
 }
 
@@ -329,7 +336,7 @@ Raster decodeTiff(const TiffFile &tiff) {
     if (hasSamplesOfPdf(tiff, shape)) {
         readSamples(tiff, shape, raster);
     } else {
-        readAsRgb(tiff, raster);
+        readAsRgb(tiff, shape, raster);
     }
     return raster;
 }

@@ -26,18 +26,6 @@ qint64 greatestRatio(int compression) {
     }
 }
 
-void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw) {
-    const bool tiled = TIFFIsTiled(tiff.handle()) != 0;
-    const uint32_t count =
-        tiled ? TIFFNumberOfTiles(tiff.handle()) : TIFFNumberOfStrips(tiff.handle());
-    quint64 compressed = 0;
-    for (uint32_t i = 0; i < count; ++i) {
-        const auto bytes = TIFFGetStrileByteCount(tiff.handle(), i);
-        compressed += std::min<quint64>(bytes, static_cast<quint64>(tiff.file().size()));
-    }
-    requirePlausible(raw, static_cast<qint64>(compressed), greatestRatio(shape.compression));
-}
-
 /// JPEG data comes out as RGB rather than YCbCr; a setting of each handle.
 void chooseJpegColor(const TiffFile &tiff, const TiffShape &shape) {
     if (shape.compression == COMPRESSION_JPEG && shape.photometric == PHOTOMETRIC_YCBCR) {
@@ -51,7 +39,7 @@ void readStrips(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPla
     const int step = static_cast<int>(std::clamp<uint32_t>(rowsPerStrip, 1, shape.height));
     const int strips = (shape.height + step - 1) / step;
     char *rows = target.rows.data();
-    forEachBand(strips, 1, [&](int first, int end) {
+    forEachBand(strips, step * target.stride, [&](int first, int end) {
         // A handle holds the state of one decoder: each thread has its own.
         const TiffFile own(tiff.file());
         chooseJpegColor(own, shape);
@@ -101,6 +89,20 @@ void readTiles(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlan
 }
 
 } // namespace
+
+void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw) {
+    const bool tiled = TIFFIsTiled(tiff.handle()) != 0;
+    const uint32_t count =
+        tiled ? TIFFNumberOfTiles(tiff.handle()) : TIFFNumberOfStrips(tiff.handle());
+    const qint64 most = tiff.file().size();
+    qint64 compressed = 0;
+    // A file has room for no more strips than it has bytes.
+    for (uint32_t i = 0; i < std::min<qint64>(count, most); ++i) {
+        const auto bytes = TIFFGetStrileByteCount(tiff.handle(), i);
+        compressed += static_cast<qint64>(std::min<quint64>(bytes, static_cast<quint64>(most)));
+    }
+    requirePlausible(raw, compressed, greatestRatio(shape.compression));
+}
 
 std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape) {
     const bool separate = shape.planar == PLANARCONFIG_SEPARATE;

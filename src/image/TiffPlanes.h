@@ -11,6 +11,9 @@ struct TiffPlane {
     qsizetype stride = 0;
 };
 
+/// Throws Error where the file's strips or tiles are too short for `raw` bytes of pixels.
+void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw);
+
 /// Decompresses all planes, strips on several threads. Throws Error, before it allocates anything
 /// where the file is too short for its pixels.
 std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape);

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -23,6 +24,7 @@ class DamageTest : public QObject {
 
   private:
     QTemporaryDir m_folder;
+    int m_files = 0;
 
     static void addFiles();
     /// Writes the bytes under the name's extension and reads them; whether what came is in order.
@@ -38,8 +40,11 @@ void DamageTest::addFiles() {
 }
 
 bool DamageTest::isInOrder(const QString &name, const QByteArray &bytes) {
-    const QString path =
-        writeFile(m_folder.filePath(QStringLiteral("damaged.") + QFileInfo(name).suffix()), bytes);
+    // A new file each time: some file systems flush one that is cut and written again.
+    const QString path = writeFile(
+        m_folder.filePath(QStringLiteral("%1.%2").arg(++m_files).arg(QFileInfo(name).suffix())),
+        bytes);
+    const auto remove = qScopeGuard([&] { QFile::remove(path); });
     const QString reason = refusalOf(path);
     if (!reason.isEmpty()) {
         return true;

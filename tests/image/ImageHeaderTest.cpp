@@ -116,8 +116,8 @@ void ImageHeaderTest::unknownContentIsRefused() {
 
 void ImageHeaderTest::densityOfABitmapIsPerMetre() {
     const ImageHeader header = readImageHeader(bitmapWithDensity(11811)); // 300 per inch.
-    QVERIFY(qAbs(header.horizontalDpi - 299.9994) < 0.001);
-    QVERIFY(qAbs(header.sizeInPoints().width() - 30 * 72 / 299.9994) < 0.001);
+    QCOMPARE(header.horizontalDpi, 300.0); // 299.9994, which no writer meant.
+    QCOMPARE(header.sizeInPoints().width(), 7.2);
 }
 
 void ImageHeaderTest::densityOfAPngIsPerMetre() {
@@ -128,8 +128,14 @@ void ImageHeaderTest::densityOfAPngIsPerMetre() {
     const QString path = m_folder.filePath(QStringLiteral("density.png"));
     QVERIFY(picture.save(path));
     const ImageHeader header = readImageHeader(path);
-    QVERIFY(qAbs(header.horizontalDpi - 150.0124) < 0.001);
-    QVERIFY(qAbs(header.verticalDpi - 75.0062) < 0.001);
+    // As near to 150 and to 75 as whole pixels per metre come.
+    QCOMPARE(header.horizontalDpi, 150.0);
+    QCOMPARE(header.verticalDpi, 75.0);
+    picture.setDotsPerMeterX(5000);
+    picture.setDotsPerMeterY(2000);
+    QVERIFY(picture.save(path));
+    QCOMPARE(readImageHeader(path).horizontalDpi, 127.0);
+    QCOMPARE(readImageHeader(path).verticalDpi, 50.8);
 }
 
 void ImageHeaderTest::absurdDensityMeansSeventyTwo_data() {
