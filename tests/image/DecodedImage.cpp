@@ -31,11 +31,6 @@ QByteArray bigEndian(quint32 number) {
     return bytes;
 }
 
-QByteArray chunk(const char *type, const QByteArray &content) {
-    const QByteArray body = type + content;
-    return bigEndian(static_cast<quint32>(content.size())) + body + bigEndian(crcOf(body));
-}
-
 /// Rows without filters get the number of no filter before each, as PNG has it.
 QByteArray withFilterNumbers(const QByteArray &rows, qsizetype stride) {
     QByteArray out;
@@ -60,11 +55,11 @@ QImage decodedFlate(const EncodedImage &image) {
                         bigEndian(static_cast<quint32>(image.height));
     header.append(static_cast<char>(image.bitsPerComponent)).append(type).append(3, '\0');
     QByteArray png("\x89PNG\r\n\x1A\n", 8);
-    png += chunk("IHDR", header);
+    png += pngChunk("IHDR", header);
     if (image.color == ImageColor::Indexed) {
-        png += chunk("PLTE", image.palette);
+        png += pngChunk("PLTE", image.palette);
     }
-    png += chunk("IDAT", rows) + chunk("IEND", {});
+    png += pngChunk("IDAT", rows) + pngChunk("IEND", {});
     return QImage::fromData(png, "png");
 }
 
@@ -115,6 +110,11 @@ QImage decodedFax(const EncodedImage &image) {
 }
 
 } // namespace
+
+QByteArray pngChunk(const char *type, const QByteArray &content) {
+    const QByteArray body = type + content;
+    return bigEndian(static_cast<quint32>(content.size())) + body + bigEndian(crcOf(body));
+}
 
 QString imageFile(const QString &name) {
     return QStringLiteral(FOLIOFORGE_TEST_DATA "/image/") + name;

@@ -7,6 +7,7 @@
 #include <ImfOutputFile.h>
 #include <ImfRgbaFile.h>
 #include <ImfStandardAttributes.h>
+#include <ImfTiledRgbaFile.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -27,6 +28,8 @@ class ExrTest : public QObject {
     void brighterThanWhiteIsWhiteAndNoNumberIsBlack();
     void opacityIsTakenOutOfTheColour();
     void brightnessAloneStaysGrey();
+    void brightnessWithHalvedColourBecomesRgb();
+    void tilesComeOutInTheirPlaces();
     void windowMayBeginAnywhere();
     void densityIsRead();
     void cutFileIsRefused();
@@ -113,6 +116,39 @@ void ExrTest::brightnessAloneStaysGrey() {
     const EncodedImage image = encodeImage(path);
     QCOMPARE(image.color, ImageColor::Gray);
     QVERIFY(qAbs(deepPixel(image, 0).red - 48192) < 3);
+}
+
+void ExrTest::brightnessWithHalvedColourBecomesRgb() {
+    const QString path = m_folder.filePath(QStringLiteral("chroma.exr"));
+    {
+        const std::vector<Imf::Rgba> pixels(8 * 4, Imf::Rgba(0.5F, 0.25F, 0.0F));
+        Imf::RgbaOutputFile file(QFile::encodeName(path).constData(), Imf::Header(8, 4),
+                                 Imf::WRITE_YC);
+        file.setFrameBuffer(pixels.data(), 1, 8);
+        file.writePixels(4);
+    }
+    const EncodedImage image = encodeImage(path);
+    QCOMPARE(image.color, ImageColor::Rgb);
+    const Deep pixel = deepPixel(image, 3);
+    QVERIFY(qAbs(pixel.red - 48192) < 300); // Brightness and colour are rounded apart.
+    QVERIFY(qAbs(pixel.green - 35199) < 300);
+    QVERIFY(pixel.blue < 1000);
+}
+
+void ExrTest::tilesComeOutInTheirPlaces() {
+    const QString path = m_folder.filePath(QStringLiteral("tiles.exr"));
+    {
+        std::vector<Imf::Rgba> pixels(40 * 20);
+        pixels[39] = Imf::Rgba(1.0F, 0.0F, 0.0F);
+        Imf::TiledRgbaOutputFile file(QFile::encodeName(path).constData(), 40, 20, 16, 16,
+                                      Imf::ONE_LEVEL, Imf::ROUND_DOWN, Imf::WRITE_RGB);
+        file.setFrameBuffer(pixels.data(), 1, 40);
+        file.writeTiles(0, file.numXTiles() - 1, 0, file.numYTiles() - 1);
+    }
+    const EncodedImage image = encodeImage(path);
+    QCOMPARE(QSize(image.width, image.height), QSize(40, 20));
+    QCOMPARE(deepPixel(image, 39).red, 65535);
+    QCOMPARE(deepPixel(image, 38).red, 0);
 }
 
 void ExrTest::windowMayBeginAnywhere() {

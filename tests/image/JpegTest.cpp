@@ -24,6 +24,7 @@ class JpegTest : public QObject {
     void fileCutBeforeItsPictureIsRefused();
     void fileCutInItsPictureGoesIn();
     void losslessProcessIsRefused();
+    void componentsNamedForRgbAreRgb();
 
   private:
     QTemporaryDir m_folder;
@@ -171,6 +172,25 @@ void JpegTest::losslessProcessIsRefused() {
     QByteArray photo = bytesOf(imageFile(QStringLiteral("photo.jpg")));
     photo[photo.indexOf("\xFF\xC0") + 1] = '\xC3';
     QVERIFY(refusalOf(write(photo)).contains(QStringLiteral("no PDF can hold")));
+}
+
+void JpegTest::componentsNamedForRgbAreRgb() {
+    const auto named = [](QByteArray photo) {
+        const qsizetype frame = photo.indexOf("\xFF\xC0");
+        const qsizetype scan = photo.indexOf("\xFF\xDA");
+        for (int i = 0; i < 3; ++i) {
+            photo[frame + 10 + 3 * i] = "RGB"[i];
+            photo[scan + 5 + 2 * i] = "RGB"[i];
+        }
+        return photo;
+    };
+    const QByteArray bare = photoWith({});
+    QVERIFY(!encodeImage(write(bare)).isPlainRgb);
+    QVERIFY(encodeImage(write(named(bare))).isPlainRgb);
+    // JFIF says YCbCr whatever the names, and Adobe's mark says which of the two.
+    QVERIFY(!encodeImage(write(named(bytesOf(imageFile(QStringLiteral("photo.jpg")))))).isPlainRgb);
+    const QByteArray adobe = segment(0xEE, QByteArray("Adobe\0\x64\0\0\0\0\1", 12));
+    QVERIFY(!encodeImage(write(named(photoWith(adobe)))).isPlainRgb);
 }
 
 QTEST_GUILESS_MAIN(JpegTest)

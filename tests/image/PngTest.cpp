@@ -14,6 +14,9 @@ class PngTest : public QObject {
     void filteredRowsAreDealtOutForEachChannel();
     void damagedRowsAreRefused();
     void cutFileIsRefused();
+    void profileIsInflatedAndKept();
+    void orientationAfterTheRowsIsRead();
+    void paletteOfTooManyColoursIsRefused();
     void claimOfManyPixelsInFewBytesIsRefused();
 
   private:
@@ -78,6 +81,39 @@ void PngTest::damagedRowsAreRefused() {
 void PngTest::cutFileIsRefused() {
     const QByteArray bytes = bytesOf(imageFile(QStringLiteral("colour.png")));
     QCOMPARE(refusalOf(write(bytes.chopped(100))), QStringLiteral("The file ends too early"));
+}
+
+void PngTest::profileIsInflatedAndKept() {
+    QByteArray profile(200, '\0');
+    profile[3] = char(200);
+    profile.replace(12, 4, "mntr").replace(16, 4, "RGB ").replace(36, 4, "acsp");
+    const QByteArray zipped = qCompress(profile).mid(4);
+    QByteArray bytes = bytesOf(imageFile(QStringLiteral("colour.png")));
+    bytes.insert(33, pngChunk("iCCP", QByteArray("name\0\0", 6) + zipped)); // After IHDR.
+    const EncodedImage image = encodeImage(write(bytes));
+    QCOMPARE(image.iccProfile, profile);
+    QVERIFY(encodeImage(imageFile(QStringLiteral("colour.png"))).iccProfile.isEmpty());
+    bytes = bytesOf(imageFile(QStringLiteral("colour.png")));
+    bytes.insert(33, pngChunk("iCCP", QByteArray("name\0\0", 6) + zipped.first(10)));
+    QVERIFY(encodeImage(write(bytes)).iccProfile.isEmpty()); // Damaged, but the picture is not.
+}
+
+void PngTest::orientationAfterTheRowsIsRead() {
+    const QByteArray exif = QByteArray::fromHex("4d4d002a00000008" // Big-endian, directory at 8.
+                                                "0001"
+                                                "011200030000000100080000"
+                                                "00000000");
+    QByteArray bytes = bytesOf(imageFile(QStringLiteral("colour.png")));
+    bytes.insert(bytes.size() - 12, pngChunk("eXIf", exif));
+    const ImageHeader header = readImageHeader(write(bytes));
+    QCOMPARE(header.orientation, 8);
+    QCOMPARE(header.sizeInPoints(), QSizeF(16, 24));
+}
+
+void PngTest::paletteOfTooManyColoursIsRefused() {
+    QByteArray bytes = bytesOf(imageFile(QStringLiteral("palette.png")));
+    bytes.insert(bytes.indexOf("IDAT") - 4, pngChunk("PLTE", QByteArray(3 * 257, '\1')));
+    QCOMPARE(refusalOf(write(bytes)), QStringLiteral("The PNG file has no palette"));
 }
 
 void PngTest::claimOfManyPixelsInFewBytesIsRefused() {
