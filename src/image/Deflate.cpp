@@ -11,8 +11,20 @@ namespace folioforge {
 
 namespace {
 
-/// Above this level the compressor takes twice the time for less than a percent.
-constexpr int kLevel = 6;
+/// Measured on a noisy scan of 6.5 MB: level 4 takes 97 ms for 3.03 MB, level 5 137 ms for 3.01,
+/// level 6 214 ms for 2.98 and level 7 374 ms for 2.96. On screens and drawings 6 gains more over
+/// 4 than that, and 7 no more.
+constexpr int levelOf(DeflateEffort effort) {
+    switch (effort) {
+    case DeflateEffort::Little:
+        return 4;
+    case DeflateEffort::Less:
+        return 5;
+    case DeflateEffort::Full:
+        break;
+    }
+    return 6;
+}
 
 struct FreeCompressor {
     void operator()(libdeflate_compressor *compressor) const {
@@ -43,8 +55,8 @@ libdeflate_result inflateInto(QByteArrayView bytes, QByteArray &target, size_t &
 
 } // namespace
 
-QByteArray deflateBytes(QByteArrayView bytes) {
-    const Compressor compressor(libdeflate_alloc_compressor(kLevel));
+QByteArray deflateBytes(QByteArrayView bytes, DeflateEffort effort) {
+    const Compressor compressor(libdeflate_alloc_compressor(levelOf(effort)));
     if (!compressor) {
         throwNoMemory();
     }

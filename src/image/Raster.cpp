@@ -17,20 +17,64 @@ namespace folioforge {
 
 namespace {
 
-/// Unfiltered samples below eight bits, and palette numbers, compress better as they are: their
-/// neighbours are no guess at their value.
-bool gainsFromFilters(const Raster &raster) {
-    return raster.bits >= 8 && raster.color != ImageColor::Indexed;
+/// How the samples are best compressed.
+struct CompressionPlan {
+    bool filtered = false;
+    DeflateEffort effort = DeflateEffort::Full;
+};
+
+/// Some rows from all over the picture, in runs, because filters look at the row above.
+QByteArray sampleRows(const Raster &raster) {
+    constexpr int kRuns = 4;
+    constexpr qsizetype kRunBytes = 1 << 16;
+    const qsizetype stride = raster.stride();
+    const qsizetype rows = std::clamp<qsizetype>(kRunBytes / stride, 2, raster.height);
+    QByteArray sample;
+    for (int run = 0; run < kRuns; ++run) {
+        const qsizetype first = (raster.height - rows) * (2 * run + 1) / (2 * kRuns);
+        sample += QByteArrayView(raster.samples).sliced(first * stride, rows * stride);
+    }
+    return sample;
+}
+
+int pixelBytesOf(const Raster &raster) {
+    return channelCount(raster.color) * raster.bits / 8;
+}
+
+/// Samples below eight bits and palette numbers compress better as they are: their neighbours are
+/// no guess at their value. Nor are they where a scanner's noise lies over flat paper, which a
+/// trial on some rows shows.
+CompressionPlan planFor(const Raster &raster) {
+    if (raster.bits < 8 || raster.color == ImageColor::Indexed) {
+        return {};
+    }
+    constexpr qsizetype kWorthATrial = 1 << 20;
+    if (raster.samples.size() < kWorthATrial) {
+        return {true, DeflateEffort::Full};
+    }
+    const QByteArray sample = sampleRows(raster);
+    const qsizetype plain = deflateBytes(sample, DeflateEffort::Little).size();
+    const qsizetype filtered =
+        deflateBytes(filterRows(sample, raster.stride(), pixelBytesOf(raster)),
+                     DeflateEffort::Little)
+            .size();
+    constexpr double kNoisyRatio = 0.4; // Of the compressed size to the whole.
+    const bool isFiltered = filtered < plain;
+    if (double(std::min(plain, filtered)) <= kNoisyRatio * double(sample.size())) {
+        return {isFiltered, DeflateEffort::Full};
+    }
+    return {isFiltered, isFiltered ? DeflateEffort::Less : DeflateEffort::Little};
 }
 
 void compressSamples(const Raster &raster, EncodedImage &image) {
-    if (gainsFromFilters(raster)) {
-        const int pixelBytes = channelCount(raster.color) * raster.bits / 8;
+    const CompressionPlan plan = planFor(raster);
+    if (plan.filtered) {
         image.predictor = 15;
-        image.data = deflateBytes(filterRows(raster.samples, raster.stride(), pixelBytes));
+        image.data = deflateBytes(filterRows(raster.samples, raster.stride(), pixelBytesOf(raster)),
+                                  plan.effort);
         return;
     }
-    image.data = deflateBytes(raster.samples);
+    image.data = deflateBytes(raster.samples, plan.effort);
     if (raster.bits == 1) {
         QByteArray fax = encodeGroup4(raster.samples, raster.width, raster.height);
         if (!fax.isEmpty() && fax.size() < image.data.size()) {

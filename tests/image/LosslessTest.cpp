@@ -4,6 +4,8 @@
 #include <QTest>
 #include <QtEndian>
 
+#include <random>
+
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -27,6 +29,8 @@ class LosslessTest : public QObject {
     void opacityOfAllOrNothingTakesOneBit();
     void bitmapsOfQtComeOutPixelForPixel_data();
     void bitmapsOfQtComeOutPixelForPixel();
+    void largePictureIsFilteredWhereThatPays_data();
+    void largePictureIsFilteredWhereThatPays();
     void labKeepsItsAxes();
     void inkOfATiffKeepsFourComponents();
 };
@@ -188,6 +192,36 @@ void LosslessTest::bitmapsOfQtComeOutPixelForPixel() {
     QCOMPARE(image.bitsPerComponent, bits);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
              picture.convertToFormat(QImage::Format_RGB32));
+}
+
+void LosslessTest::largePictureIsFilteredWhereThatPays_data() {
+    QTest::addColumn<int>("slope");
+    QTest::addColumn<int>("noise");
+    QTest::addColumn<int>("predictor");
+    QTest::newRow("noise on flat paper") << 0 << 8 << 1;
+    QTest::newRow("light falling off") << 1 << 1 << 15;
+    QTest::newRow("noise on light falling off") << 3 << 12 << 15;
+}
+
+void LosslessTest::largePictureIsFilteredWhereThatPays() {
+    QFETCH(int, slope);
+    QFETCH(int, noise);
+    QFETCH(int, predictor);
+    QImage picture(701, 523, QImage::Format_RGB888);
+    std::mt19937 random(11);
+    for (int y = 0; y < picture.height(); ++y) {
+        uchar *row = picture.scanLine(y);
+        for (int i = 0; i < picture.width() * 3; ++i) {
+            const int light = 100 + slope * (i / 3 + y) / 8;
+            row[i] = static_cast<uchar>(light + static_cast<int>(random() % quint32(noise)));
+        }
+    }
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("large.bmp"));
+    QVERIFY(picture.save(path));
+    const EncodedImage image = encodeImage(path);
+    QCOMPARE(image.predictor, predictor);
+    QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB888), picture);
 }
 
 void LosslessTest::labKeepsItsAxes() {
