@@ -28,7 +28,8 @@ QByteArray sampleRows(const Raster &raster) {
     constexpr int kRuns = 4;
     constexpr qsizetype kRunBytes = 1 << 16;
     const qsizetype stride = raster.stride();
-    const qsizetype rows = std::clamp<qsizetype>(kRunBytes / stride, 2, raster.height);
+    const qsizetype rows =
+        std::min<qsizetype>(std::max<qsizetype>(kRunBytes / stride, 2), raster.height);
     QByteArray sample;
     for (int run = 0; run < kRuns; ++run) {
         const qsizetype first = (raster.height - rows) * (2 * run + 1) / (2 * kRuns);

@@ -31,6 +31,7 @@ class LosslessTest : public QObject {
     void bitmapsOfQtComeOutPixelForPixel();
     void largePictureIsFilteredWhereThatPays_data();
     void largePictureIsFilteredWhereThatPays();
+    void singleRowOfManyPixelsComesOut();
     void labKeepsItsAxes();
     void inkOfATiffKeepsFourComponents();
 };
@@ -222,6 +223,17 @@ void LosslessTest::largePictureIsFilteredWhereThatPays() {
     const EncodedImage image = encodeImage(path);
     QCOMPARE(image.predictor, predictor);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB888), picture);
+}
+
+void LosslessTest::singleRowOfManyPixelsComesOut() {
+    QImage picture(400'000, 1, QImage::Format_RGB888);
+    for (int x = 0; x < picture.width(); ++x) {
+        picture.setPixel(x, 0, qRgb(x % 251, x % 83, x / 2000));
+    }
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("row.bmp"));
+    QVERIFY(picture.save(path));
+    QCOMPARE(decoded(encodeImage(path)).convertToFormat(QImage::Format_RGB888), picture);
 }
 
 void LosslessTest::labKeepsItsAxes() {
