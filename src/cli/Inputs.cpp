@@ -6,6 +6,7 @@
 #include "filelist/TextSource.h"
 
 #include <filesystem>
+#include <new>
 
 namespace folioforge {
 namespace {
@@ -35,6 +36,8 @@ Input collectFile(const QByteArray &path, StandIns &standIns) {
         input.entry = readEntry(standIns.pathFor(path), input);
     } catch (const Error &error) {
         input.rejection = error.reason();
+    } catch (const std::bad_alloc &) {
+        input.rejection = QStringLiteral("There is not enough memory");
     }
     return input;
 }

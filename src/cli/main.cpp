@@ -6,9 +6,14 @@
 
 #include <QCoreApplication>
 
+#include <cstdio>
+#include <exception>
+
 using namespace folioforge;
 
-int main(int argc, char *argv[]) {
+namespace {
+
+int run(int argc, char *argv[]) {
     useUtf8FileNames();
     const std::vector<QByteArray> words(argv + 1, argv + argc);
     const auto parsed = parseArguments(words);
@@ -32,4 +37,16 @@ int main(int argc, char *argv[]) {
     const QCoreApplication application(argc, argv);
     prepareForSignals();
     return runConversion(arguments);
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    try {
+        return run(argc, argv);
+    } catch (const std::exception &failure) {
+        // Only what nobody can do anything about, such as no memory for the list itself.
+        std::fprintf(stderr, "folioforge-cli: %s\n", failure.what());
+        return SomeFailed;
+    }
 }
