@@ -1,104 +1,22 @@
 #include "convert/CompressionPass.h"
 
+#include "CompressionCase.h"
 #include "convert/Conversion.h"
 #include "convert/QuartzFilter.h"
 #include "error/Error.h"
 #include "support/Files.h"
-#include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
+#include "support/PhotoPage.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QImage>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <cmath>
-#include <memory>
-
 using namespace folioforge;
-using test::PdfFixture;
-using test::PdfProbe;
+using namespace folioforge::test;
 
 namespace {
-
-/// A picture with soft shapes and grain, as a camera gives it; the same on every call.
-QImage photo(int width, int height, QImage::Format format = QImage::Format_RGB888) {
-    QImage image(width, height, QImage::Format_RGB888);
-    quint32 seed = 1;
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            seed = seed * 1664525 + 1013904223;
-            const int grain = static_cast<int>(seed >> 28) - 8;
-            const auto wave = [&](double fx, double fy) {
-                return qBound(
-                    0, static_cast<int>(128 + 90 * std::sin(x * fx) * std::cos(y * fy)) + grain,
-                    255);
-            };
-            image.setPixelColor(x, y, QColor(wave(.02, .03), wave(.03, .01), wave(.01, .02)));
-        }
-    }
-    return image.convertToFormat(format);
-}
-
-QByteArray jpeg(const QImage &image, int quality = 92) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "JPEG", quality);
-    return bytes;
-}
-
-/// The samples as Flate data: qCompress() puts four bytes of length in front.
-QByteArray flate(const QByteArray &samples) {
-    return qCompress(samples).sliced(4);
-}
-
-QByteArray samplesOf(const QImage &image, int components) {
-    QByteArray samples;
-    for (int y = 0; y < image.height(); ++y) {
-        samples.append(reinterpret_cast<const char *>(image.constScanLine(y)),
-                       qsizetype(image.width()) * components);
-    }
-    return samples;
-}
-
-QByteArray imageKeys(int width, int height, const QByteArray &rest) {
-    return "/Type /XObject /Subtype /Image /Width " + QByteArray::number(width) + " /Height " +
-           QByteArray::number(height) + " " + rest;
-}
-
-const QByteArray kJpegRgb("/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /DCTDecode");
-
-/// A page of 400 x 300 points whose content is `content`, with /Im0 as object 5 and /Fm0 as 6.
-PdfFixture page(const QByteArray &content, const QByteArray &pageKeys = {}) {
-    PdfFixture fixture;
-    fixture.object(1, "<< /Type /Catalog /Pages 2 0 R >>")
-        .object(2, "<< /Type /Pages /Kids [3 0 R] /Count 1 >>")
-        .object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 4 0 R "
-                   "/Resources << /XObject << /Im0 5 0 R /Fm0 6 0 R >> /Font << /F 7 0 R >> >> " +
-                       pageKeys + " >>")
-        .stream(4, "", content)
-        .object(6, "null")
-        .object(7, "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>");
-    return fixture;
-}
-
-/// How far two pages are apart: the mean difference of their grey values.
-double difference(const QImage &one, const QImage &other) {
-    if (one.isNull() || one.size() != other.size()) {
-        return 255;
-    }
-    double sum = 0;
-    for (int y = 0; y < one.height(); ++y) {
-        for (int x = 0; x < one.width(); ++x) {
-            sum += std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y)));
-        }
-    }
-    return sum / (double(one.width()) * one.height());
-}
 
 class Recorder : public ConversionObserver {
   public:
@@ -107,63 +25,13 @@ class Recorder : public ConversionObserver {
     QList<float> values;
 };
 
-constexpr int kWidthColumn = 3;
-constexpr int kHeightColumn = 4;
-constexpr int kColourColumn = 5;
-constexpr int kEncodingColumn = 8;
-
 } // namespace
 
-class CompressionPassTest : public QObject {
+class CompressionPassTest : public QObject, protected CompressionCase {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    CompressionPlaces m_places;
-    QString m_path;
-
-    CompressionOutcome run(int index, const SecuritySettings &security = {},
-                           ConversionObserver *observer = nullptr) {
-        ConversionOptions options;
-        options.compressIndex = index;
-        options.security = security;
-        return compress(m_path, options, observer, m_places);
-    }
-
-    /// Compresses through "150m" and says where the copy stands; fails the test on an error.
-    QString compressed(CompressionOutcome *outcome = nullptr) {
-        CompressionOutcome own = run(1);
-        if (!own.error.isEmpty() || !own.convertInfo) {
-            QTest::qFail(qPrintable(own.error), __FILE__, __LINE__);
-            return {};
-        }
-        const QString path = own.convertInfo->tempFilePathName;
-        if (outcome) {
-            *outcome = std::move(own);
-        }
-        return path;
-    }
-
-    void writeJpegPage(const QByteArray &content, const QByteArray &pageKeys = {}) const {
-        QVERIFY(page(content, pageKeys)
-                    .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
-                    .write(m_path));
-    }
-
   private Q_SLOTS:
-    void init() {
-        m_folder = std::make_unique<QTemporaryDir>();
-        const QDir folder(m_folder->path());
-        QVERIFY(folder.mkpath(QStringLiteral("bundle/Contents/Resources")));
-        QVERIFY(folder.mkpath(QStringLiteral("temporary")));
-        m_places = {folder.filePath(QStringLiteral("bundle")),
-                    folder.filePath(QStringLiteral("temporary"))};
-        for (int index = 1; index <= 3; ++index) {
-            const QString name = quartzFilterName(index);
-            QVERIFY(QFile::copy(QStringLiteral(FOLIOFORGE_FILTERS "/%1.qfilter").arg(name),
-                                quartzFilterPath(m_places.bundlePath, name)));
-        }
-        m_path = folder.filePath(QStringLiteral("document.pdf"));
-    }
+    void init() { setUp(); }
 
     void indexZeroHandsNothingOver() {
         test::writePdf(m_path, 1);
@@ -200,7 +68,7 @@ class CompressionPassTest : public QObject {
     }
 
     void theLargestUseCountsThroughNestedForms() {
-        QVERIFY(page("q 72 0 0 54 0 0 cm /Im0 Do Q q 2 0 0 2 0 0 cm /Fm0 Do Q")
+        QVERIFY(photoPage("q 72 0 0 54 0 0 cm /Im0 Do Q q 2 0 0 2 0 0 cm /Fm0 Do Q")
                     .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
                     .stream(6,
                             "/Type /XObject /Subtype /Form /BBox [0 0 400 300] /Matrix [2 0 0 2 0 "
@@ -251,7 +119,7 @@ class CompressionPassTest : public QObject {
         QFETCH(const QByteArray, keys);
         QFETCH(const QByteArray, data);
         QFETCH(const QString, colour);
-        QVERIFY(page("q 288 0 0 216 50 20 cm /Im0 Do Q")
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
                     .stream(5, imageKeys(1200, 900, keys), data)
                     .write(m_path));
         const QString copy = compressed();
@@ -291,7 +159,7 @@ class CompressionPassTest : public QObject {
         QFETCH(const QByteArray, keys);
         QFETCH(const QByteArray, data);
         QFETCH(const QString, reason);
-        QVERIFY(page("q 288 0 0 216 50 20 cm /Im0 Do Q")
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
                     .stream(5, imageKeys(1200, 900, keys), data)
                     .write(m_path));
         CompressionOutcome outcome;
@@ -304,7 +172,7 @@ class CompressionPassTest : public QObject {
 
     void aDamagedImageStaysAndIsNamed() {
         const QByteArray whole = jpeg(photo(1200, 900));
-        QVERIFY(page("q 288 0 0 216 50 20 cm /Im0 Do Q")
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
                     .stream(5, imageKeys(1200, 900, kJpegRgb), whole.first(whole.size() / 2))
                     .write(m_path));
         CompressionOutcome outcome;
@@ -318,7 +186,7 @@ class CompressionPassTest : public QObject {
 
     void aSoftMaskIsScaledWithItsImage() {
         QVERIFY(
-            page("0 0 1 rg 0 0 400 300 re f q 288 0 0 216 50 20 cm /Im0 Do Q")
+            photoPage("0 0 1 rg 0 0 400 300 re f q 288 0 0 216 50 20 cm /Im0 Do Q")
                 .stream(5, imageKeys(1200, 900, kJpegRgb + " /SMask 8 0 R"), jpeg(photo(1200, 900)))
                 .stream(8,
                         imageKeys(1200, 900,
@@ -355,7 +223,7 @@ class CompressionPassTest : public QObject {
 
     void passwordsAreAskedAgainAndTheCopyIsPrivate() {
         const QString plain = m_folder->filePath(QStringLiteral("plain.pdf"));
-        QVERIFY(page("q 288 0 0 216 50 20 cm /Im0 Do Q")
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
                     .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
                     .write(plain));
         const auto made = test::runTool(QStringLiteral("qpdf"),
@@ -462,7 +330,7 @@ class CompressionPassTest : public QObject {
 
     void duplicateImagesBecomeOne() {
         const QByteArray data = jpeg(photo(600, 450));
-        QVERIFY(page("q 288 0 0 216 50 20 cm /Im0 Do /Fm0 Do Q")
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do /Fm0 Do Q")
                     .stream(5, imageKeys(600, 450, kJpegRgb), data)
                     .stream(6, imageKeys(600, 450, kJpegRgb), data)
                     .write(m_path));

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include <qpdf/Pl_QPDFTokenizer.hh>
+#include <qpdf/QPDF.hh>
 
 namespace folioforge {
 
@@ -49,6 +50,27 @@ bool canDrawImages(QPDFObjectHandle resources) {
         }
     }
     return false;
+}
+
+/// Appends the text of a form or of a page's contents, and says whether all of it could be read.
+bool readText(QPDFObjectHandle content, std::string &text) {
+    BoundedText target(text, kMostContentBytes);
+    const QPDF *document = content.getOwningQPDF();
+    const std::size_t warnings = document ? document->numWarnings() : 0;
+    try {
+        const auto streams = content.isStream() ? std::vector{content} : content.getPageContents();
+        for (QPDFObjectHandle stream : streams) {
+            bool filtered = false;
+            if (!stream.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized)) {
+                return false;
+            }
+            target.writeCStr("\n");
+        }
+    } catch (const std::exception &) {
+        return false;
+    }
+    // Compressed data that ends too early counts for no failure, it only warns.
+    return !document || document->numWarnings() == warnings;
 }
 
 } // namespace
@@ -227,27 +249,33 @@ ContentDraws ContentReader::readContent(QPDFObjectHandle content, QPDFObjectHand
     if (canDrawImages(resources)) {
         Scanner scanner(*this, resources);
         std::string text;
-        BoundedText target(text, kMostContentBytes);
-        bool whole = true;
-        try {
-            if (content.isStream()) {
-                whole = content.pipeStreamData(&target, 0, qpdf_dl_specialized, true);
-            } else {
-                content.pipePageContents(&target);
-            }
-        } catch (const std::exception &) {
-            whole = false;
-        }
+        const bool isWhole = readText(content, text);
         Pl_QPDFTokenizer tokenizer("content", &scanner);
         tokenizer.writeString(text);
         tokenizer.finish();
         draws = scanner.draws();
-        if (!whole) {
-            draws.addUnclear(draws);
+        if (!isWhole) {
+            addAllUnclear(resources, draws);
         }
     }
     readFonts(resources, draws);
     return draws;
+}
+
+/// What cannot be read may draw any image of its resources at any size.
+void ContentReader::addAllUnclear(QPDFObjectHandle resources, ContentDraws &draws) {
+    draws.addUnclear(ContentDraws(draws));
+    QPDFObjectHandle objects = resources.getKey("/XObject");
+    if (!objects.isDictionary()) {
+        return;
+    }
+    for (auto &[name, object] : objects.ditems()) {
+        if (isImage(object)) {
+            draws.unclear.insert(object.getObjGen());
+        } else {
+            draws.addUnclear(readForm(object, resources));
+        }
+    }
 }
 
 ContentDraws ContentReader::readPage(QPDFObjectHandle page, QPDFObjectHandle resources) {

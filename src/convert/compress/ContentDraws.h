@@ -52,6 +52,7 @@ class ContentReader {
     class Scanner;
 
     ContentDraws readContent(QPDFObjectHandle content, QPDFObjectHandle resources);
+    void addAllUnclear(QPDFObjectHandle resources, ContentDraws &draws);
     void readFonts(QPDFObjectHandle resources, ContentDraws &draws);
 
     std::map<QPDFObjGen, ContentDraws> m_forms;

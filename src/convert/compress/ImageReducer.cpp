@@ -3,8 +3,8 @@
 #include "convert/compress/JpegCodec.h"
 #include "convert/compress/JpxReader.h"
 #include "convert/compress/LosslessCodec.h"
-#include "convert/compress/Raster.h"
 #include "convert/compress/Resampler.h"
+#include "convert/compress/SampleGrid.h"
 #include "error/Error.h"
 
 #include <algorithm>
@@ -44,7 +44,7 @@ int eighthsFor(double scale) {
     return std::clamp(static_cast<int>(std::ceil(scale * 8 / kCloseEnough)), 1, 8);
 }
 
-Raster decodeJpeg(const ImageJob &job, const std::string &data) {
+SampleGrid decodeJpeg(const ImageJob &job, const std::string &data) {
     JpegReader reader(data, job.colorTransform);
     if (reader.width() != job.width || reader.height() != job.height ||
         reader.components() != job.components) {
@@ -56,44 +56,44 @@ Raster decodeJpeg(const ImageJob &job, const std::string &data) {
     return reader.decode(eighthsFor(job.scale));
 }
 
-Raster unpackSamples(const ImageJob &job, const std::string &data) {
+SampleGrid unpackSamples(const ImageJob &job, const std::string &data) {
     const std::size_t stored = job.palette.empty() ? static_cast<std::size_t>(job.components) : 1;
     const std::size_t bytes = static_cast<std::size_t>(job.bitsPerComponent) / 8;
     const std::size_t pixels = static_cast<std::size_t>(job.width) * job.height;
     if (data.size() < pixels * stored * bytes) {
         throw Error(QStringLiteral("less data than the image's size needs"));
     }
-    Raster raster{job.width, job.height, plainKind(job.components), {}};
-    raster.allocate();
+    SampleGrid grid{job.width, job.height, plainKind(job.components), {}};
+    grid.allocate();
     if (!job.palette.empty()) {
-        const std::size_t colours = job.palette.size() / raster.components();
-        std::uint8_t *out = raster.samples.data();
-        for (std::size_t i = 0; i < pixels; ++i, out += raster.components()) {
+        const std::size_t colours = job.palette.size() / grid.components();
+        std::uint8_t *out = grid.samples.data();
+        for (std::size_t i = 0; i < pixels; ++i, out += grid.components()) {
             const std::size_t index =
                 std::min<std::size_t>(static_cast<unsigned char>(data[i]), colours - 1);
-            std::memcpy(out, job.palette.data() + index * raster.components(), raster.components());
+            std::memcpy(out, job.palette.data() + index * grid.components(), grid.components());
         }
     } else if (bytes == 1) {
-        std::memcpy(raster.samples.data(), data.data(), raster.samples.size());
+        std::memcpy(grid.samples.data(), data.data(), grid.samples.size());
     } else {
-        for (std::size_t i = 0; i < raster.samples.size(); ++i) {
-            raster.samples[i] = static_cast<std::uint8_t>(data[i * bytes]);
+        for (std::size_t i = 0; i < grid.samples.size(); ++i) {
+            grid.samples[i] = static_cast<std::uint8_t>(data[i * bytes]);
         }
     }
-    return raster;
+    return grid;
 }
 
 /// Whether most pixels equal both their left and their upper neighbour, which the noise of a photo
 /// never allows.
-bool looksDrawn(const Raster &raster) {
-    const std::size_t pixel = raster.components();
+bool looksDrawn(const SampleGrid &grid) {
+    const std::size_t pixel = grid.components();
     std::size_t seen = 0;
     std::size_t equal = 0;
     constexpr int kRowStep = 4;
-    for (int y = 1; y < raster.height; y += kRowStep) {
-        const std::uint8_t *row = raster.row(y);
-        const std::uint8_t *above = raster.row(y - 1);
-        for (std::size_t i = pixel; i < raster.rowBytes(); i += pixel) {
+    for (int y = 1; y < grid.height; y += kRowStep) {
+        const std::uint8_t *row = grid.row(y);
+        const std::uint8_t *above = grid.row(y - 1);
+        for (std::size_t i = pixel; i < grid.rowBytes(); i += pixel) {
             ++seen;
             equal += std::memcmp(row + i, row + i - pixel, pixel) == 0 &&
                      std::memcmp(row + i, above + i, pixel) == 0;
@@ -102,7 +102,7 @@ bool looksDrawn(const Raster &raster) {
     return equal * 2 > seen;
 }
 
-Raster decode(const ImageJob &job) {
+SampleGrid decode(const ImageJob &job) {
     constexpr std::size_t kSlack = 4096;
     const std::size_t samples = static_cast<std::size_t>(job.width) * job.height *
                                 static_cast<std::size_t>(job.components) *
@@ -114,36 +114,36 @@ Raster decode(const ImageJob &job) {
         return decodeJpeg(job, data);
     case ImageCodec::Jpx: {
         const auto colour = job.components == 0 ? JpxColour::OfData : JpxColour::OfDocument;
-        Raster raster = decodeJpx(data, job.width, job.height, job.scale, colour);
-        if (job.components != 0 && raster.components() != job.components) {
+        SampleGrid grid = decodeJpx(data, job.width, job.height, job.scale, colour);
+        if (job.components != 0 && grid.components() != job.components) {
             throw wrongSize();
         }
-        return raster;
+        return grid;
     }
     default:
         break;
     }
-    Raster raster = unpackSamples(job, data);
-    if (job.purpose == ImagePurpose::Photo && job.lineArt == LineArt::Keep && looksDrawn(raster)) {
+    SampleGrid grid = unpackSamples(job, data);
+    if (job.purpose == ImagePurpose::Photo && job.lineArt == LineArt::Keep && looksDrawn(grid)) {
         throw Error(QStringLiteral("line art"));
     }
-    return raster;
+    return grid;
 }
 
-/// Whether the raster, as decoded, is near enough to the wanted size.
-bool closeEnough(const Raster &raster, Size wanted) {
-    return raster.width <= wanted.width * kCloseEnough + 1;
+/// Whether the grid, as decoded, is near enough to the wanted size.
+bool closeEnough(const SampleGrid &grid, Size wanted) {
+    return grid.width <= wanted.width * kCloseEnough + 1;
 }
 
 Reduction reduce(const ImageJob &job) {
-    Raster raster = decode(job);
+    SampleGrid grid = decode(job);
     const Size wanted = scaled(job);
-    if (!closeEnough(raster, wanted)) {
-        raster = resample(raster, wanted.width, wanted.height);
+    if (!closeEnough(grid, wanted)) {
+        grid = resample(grid, wanted.width, wanted.height);
     }
     const bool asFlate = job.purpose == ImagePurpose::SoftMask && job.codec == ImageCodec::Samples;
-    ReducedImage image{asFlate ? encodeFlate(raster) : encodeJpeg(raster, job.jpegQuality),
-                       raster.width, raster.height, raster.components(),
+    ReducedImage image{asFlate ? encodeFlate(grid) : encodeJpeg(grid, job.jpegQuality), grid.width,
+                       grid.height, grid.components(),
                        asFlate ? ReducedForm::Flate : ReducedForm::Jpeg};
     if (image.data.size() >= job.data.size()) {
         return {std::nullopt, QStringLiteral("would not get smaller")};

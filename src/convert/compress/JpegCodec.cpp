@@ -138,12 +138,12 @@ struct JpegReader::State {
         return true;
     }
 
-    bool readRows(Raster &raster) {
+    bool readRows(SampleGrid &grid) {
         if (setjmp(escape.target)) {
             return false;
         }
         while (codec.output_scanline < codec.output_height) {
-            JSAMPROW row = raster.row(static_cast<int>(codec.output_scanline));
+            JSAMPROW row = grid.row(static_cast<int>(codec.output_scanline));
             jpeg_read_scanlines(&codec, &row, 1);
         }
         jpeg_finish_decompress(&codec);
@@ -195,19 +195,19 @@ int JpegReader::quality() const {
     return std::clamp(static_cast<int>(std::lround(quality)), 1, 100);
 }
 
-Raster JpegReader::decode(int eighths) {
+SampleGrid JpegReader::decode(int eighths) {
     if (!m_state->start(eighths)) {
         throw damaged(m_state->escape);
     }
-    Raster raster{static_cast<int>(m_state->codec.output_width),
-                  static_cast<int>(m_state->codec.output_height),
-                  kindOf(m_state->codec.out_color_space),
-                  {}};
-    raster.allocate();
-    if (!m_state->readRows(raster)) {
+    SampleGrid grid{static_cast<int>(m_state->codec.output_width),
+                    static_cast<int>(m_state->codec.output_height),
+                    kindOf(m_state->codec.out_color_space),
+                    {}};
+    grid.allocate();
+    if (!m_state->readRows(grid)) {
         throw damaged(m_state->escape);
     }
-    return raster;
+    return grid;
 }
 
 namespace {
@@ -229,15 +229,15 @@ struct Encoder {
     Encoder(const Encoder &) = delete;
     Encoder &operator=(const Encoder &) = delete;
 
-    bool encode(const Raster &raster, int quality) {
+    bool encode(const SampleGrid &grid, int quality) {
         if (setjmp(escape.target)) {
             return false;
         }
         jpeg_mem_dest(&codec, &bytes, &size);
-        codec.image_width = static_cast<JDIMENSION>(raster.width);
-        codec.image_height = static_cast<JDIMENSION>(raster.height);
-        codec.input_components = raster.components();
-        codec.in_color_space = spaceOf(raster.kind);
+        codec.image_width = static_cast<JDIMENSION>(grid.width);
+        codec.image_height = static_cast<JDIMENSION>(grid.height);
+        codec.input_components = grid.components();
+        codec.in_color_space = spaceOf(grid.kind);
         jpeg_set_defaults(&codec);
         if (codec.in_color_space == JCS_CMYK) {
             jpeg_set_colorspace(&codec, JCS_YCCK);
@@ -248,7 +248,7 @@ struct Encoder {
         while (codec.next_scanline < codec.image_height) {
             // libjpeg only reads the row but takes it without const.
             // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
-            JSAMPROW row = const_cast<JSAMPROW>(raster.row(static_cast<int>(codec.next_scanline)));
+            JSAMPROW row = const_cast<JSAMPROW>(grid.row(static_cast<int>(codec.next_scanline)));
             jpeg_write_scanlines(&codec, &row, 1);
         }
         jpeg_finish_compress(&codec);
@@ -258,9 +258,9 @@ struct Encoder {
 
 } // namespace
 
-std::string encodeJpeg(const Raster &raster, int quality) {
+std::string encodeJpeg(const SampleGrid &grid, int quality) {
     Encoder encoder;
-    if (!encoder.encode(raster, quality)) {
+    if (!encoder.encode(grid, quality)) {
         throw damaged(encoder.escape);
     }
     return {reinterpret_cast<const char *>(encoder.bytes), encoder.size};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "convert/compress/Raster.h"
+#include "convert/compress/SampleGrid.h"
 
 #include <memory>
 #include <optional>
@@ -26,15 +26,15 @@ class JpegReader {
     /// The quality, 1 to 100 on libjpeg's scale, whose luminance table is nearest to the file's.
     [[nodiscard]] int quality() const;
     /// Decodes to eighths/8 of the size (1 to 8), each side rounded up.
-    [[nodiscard]] Raster decode(int eighths);
+    [[nodiscard]] SampleGrid decode(int eighths);
 
   private:
     struct State;
     std::unique_ptr<State> m_state;
 };
 
-/// The raster as a JPEG file of that quality, 1 to 100: Huffman tables made for it, colour at half
+/// The grid as a JPEG file of that quality, 1 to 100: Huffman tables made for it, colour at half
 /// the resolution.
-std::string encodeJpeg(const Raster &raster, int quality);
+std::string encodeJpeg(const SampleGrid &grid, int quality);
 
 } // namespace folioforge

@@ -104,30 +104,30 @@ bool isPlainColour(const opj_image_t &image) {
     return plain && image.icc_profile_len == 0;
 }
 
-Raster interleave(const opj_image_t &image) {
-    Raster raster{static_cast<int>(image.comps[0].w),
-                  static_cast<int>(image.comps[0].h),
-                  plainKind(static_cast<int>(image.numcomps)),
-                  {}};
-    raster.allocate();
-    const std::size_t pixels = static_cast<std::size_t>(raster.width) * raster.height;
+SampleGrid interleave(const opj_image_t &image) {
+    SampleGrid grid{static_cast<int>(image.comps[0].w),
+                    static_cast<int>(image.comps[0].h),
+                    plainKind(static_cast<int>(image.numcomps)),
+                    {}};
+    grid.allocate();
+    const std::size_t pixels = static_cast<std::size_t>(grid.width) * grid.height;
     for (unsigned c = 0; c < image.numcomps; ++c) {
         const int *in = image.comps[c].data;
         const int shift = static_cast<int>(image.comps[c].prec) - 8;
         if (!in) {
             throw damaged();
         }
-        std::uint8_t *out = raster.samples.data() + c;
+        std::uint8_t *out = grid.samples.data() + c;
         for (std::size_t i = 0; i < pixels; ++i, out += image.numcomps) {
             *out = static_cast<std::uint8_t>(std::clamp(in[i] >> shift, 0, 255));
         }
     }
-    return raster;
+    return grid;
 }
 
 } // namespace
 
-Raster decodeJpx(std::string_view data, int width, int height, double scale, JpxColour colour) {
+SampleGrid decodeJpx(std::string_view data, int width, int height, double scale, JpxColour colour) {
     Cursor cursor{data};
     const std::unique_ptr<opj_stream_t, CloseStream> stream(opj_stream_default_create(OPJ_TRUE));
     const std::unique_ptr<opj_codec_t, CloseCodec> codec(

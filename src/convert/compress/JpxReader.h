@@ -1,6 +1,6 @@
 #pragma once
 
-#include "convert/compress/Raster.h"
+#include "convert/compress/SampleGrid.h"
 
 #include <string_view>
 
@@ -13,6 +13,6 @@ enum class JpxColour { OfDocument, OfData };
 /// width x height by leaving out its finest resolutions. Throws Error when the data is damaged or
 /// of a kind that is not handled: opacity, components of different sizes, more than 16 bits, other
 /// than 1, 3 or 4 components, and under JpxColour::OfData all but plain grey and sRGB.
-Raster decodeJpx(std::string_view data, int width, int height, double scale, JpxColour colour);
+SampleGrid decodeJpx(std::string_view data, int width, int height, double scale, JpxColour colour);
 
 } // namespace folioforge

@@ -65,7 +65,7 @@ std::vector<Taps> tapsFor(int from, int to) {
     return taps;
 }
 
-void mixRows(const Raster &source, const Taps &taps, std::vector<std::int32_t> &sums,
+void mixRows(const SampleGrid &source, const Taps &taps, std::vector<std::int32_t> &sums,
              std::vector<std::uint8_t> &mixed) {
     std::fill(sums.begin(), sums.end(), 0);
     for (std::size_t i = 0; i < taps.weights.size(); ++i) {
@@ -96,8 +96,8 @@ void mixColumns(const std::vector<std::uint8_t> &row, const std::vector<Taps> &t
     }
 }
 
-Raster lanczosTo(const Raster &source, int width, int height) {
-    Raster target{width, height, source.kind, {}};
+SampleGrid lanczosTo(const SampleGrid &source, int width, int height) {
+    SampleGrid target{width, height, source.kind, {}};
     target.allocate();
     const std::vector<Taps> columns = tapsFor(source.width, width);
     const std::vector<Taps> rows = tapsFor(source.height, height);
@@ -121,11 +121,11 @@ Raster lanczosTo(const Raster &source, int width, int height) {
 
 /// Averages squares of factor x factor pixels; a rest at the right and lower edge joins the last
 /// square's row or column of its own.
-Raster averaged(const Raster &source, int factor) {
-    Raster target{(source.width + factor - 1) / factor,
-                  (source.height + factor - 1) / factor,
-                  source.kind,
-                  {}};
+SampleGrid averaged(const SampleGrid &source, int factor) {
+    SampleGrid target{(source.width + factor - 1) / factor,
+                      (source.height + factor - 1) / factor,
+                      source.kind,
+                      {}};
     target.allocate();
     const int components = source.components();
     std::vector<std::uint32_t> sums(target.rowBytes());
@@ -157,7 +157,7 @@ Raster averaged(const Raster &source, int factor) {
 
 } // namespace
 
-Raster resample(const Raster &source, int width, int height) {
+SampleGrid resample(const SampleGrid &source, int width, int height) {
     if (width == source.width && height == source.height) {
         return source;
     }

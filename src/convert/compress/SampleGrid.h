@@ -6,12 +6,12 @@
 
 namespace folioforge {
 
-/// What the components of a raster mean; the last two are JPEG's own forms of RGB and CMYK, kept
+/// What the components of a grid mean; the last two are JPEG's own forms of RGB and CMYK, kept
 /// because converting there and back would only cost time and exactness.
 enum class SampleKind { Gray, Rgb, Cmyk, YCbCr, Ycck };
 
 /// Decoded samples of 8 bits, components interleaved, rows without padding, top row first.
-struct Raster {
+struct SampleGrid {
     int width = 0;  ///< Pixels.
     int height = 0; ///< Pixels.
     SampleKind kind = SampleKind::Gray;

@@ -1,0 +1,248 @@
+#include "CompressionCase.h"
+#include "support/Files.h"
+
+#include <QColorSpace>
+#include <QFileInfo>
+
+#include <bitset>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+/// `height` rows of any width with a black bar at the left, packed by ITU-T T.6.
+QByteArray group4(int height) {
+    // Eight pixels white, eight black, white to the end; then rows like the one above, and the end.
+    std::string bits = "001100110001011";
+    for (int row = 1; row < height; ++row) {
+        bits += "111";
+    }
+    bits += "000000000001000000000001";
+    bits.resize((bits.size() + 7) / 8 * 8, '0');
+    QByteArray bytes;
+    for (std::size_t at = 0; at < bits.size(); at += 8) {
+        bytes += static_cast<char>(std::bitset<8>(bits, at, 8).to_ulong());
+    }
+    return bytes;
+}
+
+QByteArray bigEndian(quint32 value) {
+    return {QByteArray::fromHex(QByteArray::number(value, 16).rightJustified(8, '0'))};
+}
+
+/// The same as JBIG2: a page information segment and one region under T.6 (ITU-T T.88, 7.4).
+QByteArray jbig2(int width, int height) {
+    const QByteArray size =
+        bigEndian(static_cast<quint32>(width)) + bigEndian(static_cast<quint32>(height));
+    const QByteArray packed = group4(height);
+    return bigEndian(0) + QByteArray::fromHex("300001") + bigEndian(19) + size +
+           QByteArray(11, '\0') + bigEndian(1) + QByteArray::fromHex("260001") +
+           bigEndian(static_cast<quint32>(18 + packed.size())) + size + QByteArray(9, '\0') +
+           QByteArray::fromHex("01") + packed;
+}
+
+QByteArray everySampleTwice(const QByteArray &samples) {
+    QByteArray wide;
+    wide.reserve(2 * samples.size());
+    for (const char sample : samples) {
+        wide.append(2, sample);
+    }
+    return wide;
+}
+
+/// The rows as PNG rows without prediction.
+QByteArray unpredictedRows(const QByteArray &samples, qsizetype rowBytes) {
+    QByteArray rows;
+    for (qsizetype at = 0; at < samples.size(); at += rowBytes) {
+        rows += '\0' + samples.mid(at, rowBytes);
+    }
+    return rows;
+}
+
+const QByteArray kDrawn("q 288 0 0 216 50 20 cm /Im0 Do Q");
+
+} // namespace
+
+/// What becomes of images of each kind.
+class CompressionImagesTest : public QObject, protected CompressionCase {
+    Q_OBJECT
+
+    /// The picture as JPEG 2000, made by OpenJPEG's own program.
+    QByteArray jpeg2000(const QImage &image) const {
+        const QString from = m_folder->filePath(QStringLiteral("photo.png"));
+        const QString to = m_folder->filePath(QStringLiteral("photo.jp2"));
+        if (!image.save(from) || runTool(QStringLiteral("opj_compress"),
+                                         {QStringLiteral("-i"), from, QStringLiteral("-o"), to})
+                                         .exitCode != 0) {
+            return {};
+        }
+        return readFile(to);
+    }
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void photosOfEachKindAreReduced_data() {
+        QTest::addColumn<QByteArray>("keys");
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<QString>("colour");
+        const QByteArray rgb = samplesOf(photo(1200, 900), 3);
+        const QByteArray flateRgb(
+            "/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode ");
+        QTest::newRow("16 bits")
+            << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 16 /Filter /FlateDecode")
+            << flate(everySampleTwice(rgb)) << QStringLiteral("rgb");
+        QTest::newRow("predictor")
+            << flateRgb + "/DecodeParms << /Predictor 15 /Colors 3 /Columns 1200 >>"
+            << flate(unpredictedRows(rgb, 3600)) << QStringLiteral("rgb");
+        QTest::newRow("jpeg in flate")
+            << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter [/FlateDecode "
+                          "/DCTDecode]")
+            << flate(jpeg(photo(1200, 900))) << QStringLiteral("rgb");
+        QTest::newRow("icc") << QByteArray("/ColorSpace [/ICCBased 8 0 R] /BitsPerComponent 8 "
+                                           "/Filter /DCTDecode")
+                             << jpeg(photo(1200, 900)) << QStringLiteral("icc");
+        QTest::newRow("negative") << kJpegRgb + " /Decode [1 0 1 0 1 0]" << jpeg(photo(1200, 900))
+                                  << QStringLiteral("rgb");
+    }
+
+    void photosOfEachKindAreReduced() {
+        QFETCH(const QByteArray, keys);
+        QFETCH(const QByteArray, data);
+        QFETCH(const QString, colour);
+        QVERIFY(photoPage(kDrawn)
+                    .stream(5, imageKeys(1200, 900, keys), data)
+                    .stream(8, "/N 3", QColorSpace(QColorSpace::AdobeRgb).iccProfile())
+                    .write(m_path));
+        const QString copy = compressed();
+        const auto images = PdfProbe(copy).images();
+        QCOMPARE(images.size(), 1);
+        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+        QCOMPARE(images[0][kColourColumn], colour);
+        QVERIFY(changeOf(copy) < 5);
+    }
+
+    void jpeg2000IsReduced_data() {
+        QTest::addColumn<QImage::Format>("format");
+        QTest::addColumn<QByteArray>("space");
+        QTest::addColumn<QString>("colour");
+        QTest::newRow("rgb") << QImage::Format_RGB888 << QByteArray("/ColorSpace /DeviceRGB")
+                             << QStringLiteral("rgb");
+        QTest::newRow("its own colours")
+            << QImage::Format_RGB888 << QByteArray() << QStringLiteral("rgb");
+        QTest::newRow("grey") << QImage::Format_Grayscale8 << QByteArray("/ColorSpace /DeviceGray")
+                              << QStringLiteral("gray");
+    }
+
+    void jpeg2000IsReduced() {
+        QFETCH(const QImage::Format, format);
+        QFETCH(const QByteArray, space);
+        QFETCH(const QString, colour);
+        const QByteArray data = jpeg2000(photo(1200, 900, format));
+        QVERIFY(!data.isEmpty());
+        QVERIFY(photoPage(kDrawn)
+                    .stream(5, imageKeys(1200, 900, space + " /Filter /JPXDecode"), data)
+                    .write(m_path));
+        const QString copy = compressed();
+        const auto images = PdfProbe(copy).images();
+        QCOMPARE(images.size(), 1);
+        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+        QCOMPARE(images[0][kColourColumn], colour);
+        QCOMPARE(images[0][kEncodingColumn], QStringLiteral("jpeg"));
+        QVERIFY(changeOf(copy) < 5);
+    }
+
+    void damagedJpeg2000Stays() {
+        const QByteArray data = jpeg2000(photo(1200, 900));
+        const QByteArray half = data.first(data.size() / 2);
+        QVERIFY(
+            photoPage(kDrawn)
+                .stream(5, imageKeys(1200, 900, "/ColorSpace /DeviceRGB /Filter /JPXDecode"), half)
+                .write(m_path));
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 0);
+        QVERIFY(readFile(copy).contains(half));
+    }
+
+    void scannedPagesStayByteForByteBesidePhotosThatShrink() {
+        const QByteArray fax = group4(900);
+        const QByteArray jbig = jbig2(1200, 900);
+        QVERIFY(photoPage("q 100 0 0 75 0 0 cm /C Do 1 0 0 1 1 0 cm /J Do Q " + kDrawn)
+                    .object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 4 0 "
+                               "R /Resources << /XObject << /C 8 0 R /J 9 0 R /Im0 5 0 R >> >> >>")
+                    .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
+                    .stream(8,
+                            imageKeys(1200, 900,
+                                      "/ColorSpace /DeviceGray /BitsPerComponent 1 /Filter "
+                                      "/CCITTFaxDecode /DecodeParms << /K -1 /Columns 1200 /Rows "
+                                      "900 >>"),
+                            fax)
+                    .stream(9,
+                            imageKeys(1200, 900,
+                                      "/ColorSpace /DeviceGray /BitsPerComponent 1 /Filter "
+                                      "/JBIG2Decode"),
+                            jbig)
+                    .write(m_path));
+        qint64 before = QFileInfo(m_path).size();
+        for (int index = 1; index <= 3; ++index) {
+            const CompressionOutcome outcome = run(index);
+            QCOMPARE(outcome.error, QString());
+            QCOMPARE(outcome.imagesReduced, 1);
+            QCOMPARE(outcome.imagesKept.size(), std::size_t(2));
+            QCOMPARE(outcome.imagesKept[0].reason, QStringLiteral("bilevel"));
+            QCOMPARE(outcome.imagesKept[1].reason, QStringLiteral("bilevel"));
+            const QByteArray copy = readFile(outcome.convertInfo->tempFilePathName);
+            QVERIFY(copy.contains("stream\n" + fax + "endstream"));
+            QVERIFY(copy.contains("stream\n" + jbig + "endstream"));
+            QVERIFY(changeOf(outcome.convertInfo->tempFilePathName) < 8);
+            QVERIFY(outcome.bytesAfter < before);
+            before = outcome.bytesAfter;
+        }
+    }
+
+    void aCoarserSoftMaskKeepsItsPixels() {
+        const QByteArray opacity = samplesOf(photo(600, 450, QImage::Format_Grayscale8), 1);
+        QVERIFY(
+            photoPage("0 0 1 rg 0 0 400 300 re f " + kDrawn)
+                .stream(5, imageKeys(1200, 900, kJpegRgb + " /SMask 8 0 R"), jpeg(photo(1200, 900)))
+                .stream(8,
+                        imageKeys(600, 450,
+                                  "/ColorSpace /DeviceGray /BitsPerComponent 8 /Filter "
+                                  "/FlateDecode"),
+                        flate(opacity))
+                .write(m_path));
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 1);
+        QVERIFY(readFile(copy).contains(flate(opacity)));
+        QVERIFY(changeOf(copy) < 5);
+    }
+
+    void aSoftMaskSharedByTwoImagesFollowsTheLarger() {
+        const QByteArray masked = imageKeys(1200, 900, kJpegRgb + " /SMask 8 0 R");
+        QVERIFY(photoPage("q 288 0 0 216 0 0 cm /Im0 Do Q q 72 0 0 54 300 0 cm /Fm0 Do Q")
+                    .stream(5, masked, jpeg(photo(1200, 900)))
+                    .stream(6, masked, jpeg(photo(1200, 900), 80))
+                    .stream(8,
+                            imageKeys(1200, 900,
+                                      "/ColorSpace /DeviceGray /BitsPerComponent 8 /Filter "
+                                      "/FlateDecode"),
+                            flate(samplesOf(photo(1200, 900, QImage::Format_Grayscale8), 1)))
+                    .write(m_path));
+        const QString copy = compressed();
+        QStringList widths;
+        for (const QStringList &image : PdfProbe(copy).images()) {
+            widths += image[2] + image[kWidthColumn];
+        }
+        widths.sort();
+        widths.removeDuplicates();
+        QCOMPARE(widths, (QStringList{QStringLiteral("image150"), QStringLiteral("image600"),
+                                      QStringLiteral("smask600")}));
+        QVERIFY(changeOf(copy) < 5);
+    }
+};
+
+QTEST_GUILESS_MAIN(CompressionImagesTest)
+#include "CompressionImagesTest.moc"

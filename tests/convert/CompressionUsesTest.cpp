@@ -1,0 +1,228 @@
+#include "CompressionCase.h"
+#include "error/Error.h"
+#include "support/Files.h"
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+const QByteArray kDrawn("288 0 0 216 0 0 cm /Im0 Do");
+const QByteArray kXObjects("/Resources << /XObject << /Im0 5 0 R >> >> ");
+
+/// Lets no file of this process grow above `bytes` while it lives, as a full disk does.
+class FullDisk {
+  public:
+    explicit FullDisk(rlim_t bytes)
+        : m_handler(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+  private:
+    void (*m_handler)(int);
+    rlimit m_before = {};
+};
+
+} // namespace
+
+/// Where the pass finds the images of a document, and what it leaves alone.
+class CompressionUsesTest : public QObject, protected CompressionCase {
+    Q_OBJECT
+
+    /// The width in pixels of the only image of the copy.
+    QString widthOfTheImage() const {
+        const auto images = PdfProbe(compressed()).images();
+        return images.size() == 1 ? images[0][kWidthColumn] : QStringLiteral("no single image");
+    }
+
+    /// The pixels of the image in the copy's own words, where no tool lists it.
+    bool copyHoldsWidth(const QByteArray &width) const {
+        return PdfProbe(compressed()).json().contains("\"/Width\": " + width);
+    }
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void aUserUnitEnlargesTheImage() {
+        writeJpegPage("q 144 0 0 108 0 0 cm /Im0 Do Q", "/UserUnit 2");
+        QCOMPARE(widthOfTheImage(), QStringLiteral("600"));
+    }
+
+    void anAppearanceIsStretchedToItsAnnotation() {
+        auto page = photoPage("", "/Annots [<< /Type /Annot /Subtype /Stamp /F 4 /Rect [50 20 338 "
+                                  "236] /AP << /N 6 0 R >> >>]");
+        page.stream(6, "/Type /XObject /Subtype /Form /BBox [0 0 100 75] " + kXObjects,
+                    "100 0 0 75 0 0 cm /Im0 Do");
+        writePage(page);
+        QVERIFY(copyHoldsWidth("600"));
+        QVERIFY(changeOf(compressed()) < 5);
+    }
+
+    void anAppearanceOfOneOfSeveralStatesCounts() {
+        auto page = photoPage("", "/Annots [<< /Type /Annot /Subtype /Stamp /AS "
+                                  "/Off /Rect [50 20 338 236] /AP << /N << /On 6 0 R >> >> >>]");
+        page.stream(6, "/Type /XObject /Subtype /Form /BBox [0 0 288 216] " + kXObjects, kDrawn);
+        writePage(page);
+        QVERIFY(copyHoldsWidth("600"));
+    }
+
+    void aPatternIsFollowed() {
+        auto page = photoPage("/Pattern cs /P scn 0 0 300 220 re f", {}, "/Pattern << /P 6 0 R >>");
+        page.stream(6,
+                    "/Type /Pattern /PatternType 1 /PaintType 1 /TilingType 1 /BBox [0 0 288 216] "
+                    "/XStep 288 /YStep 216 /Matrix [.5 0 0 .5 0 0] " +
+                        kXObjects,
+                    kDrawn);
+        writePage(page);
+        QVERIFY(copyHoldsWidth("300"));
+        QVERIFY(changeOf(compressed()) < 5);
+    }
+
+    void theGroupOfASoftMaskIsFollowed() {
+        auto page = photoPage("/G gs 1 0 0 rg 0 0 400 300 re f", {},
+                              "/ExtGState << /G << /SMask << /S /Luminosity /G 6 0 R >> >> >>");
+        page.stream(6,
+                    "/Type /XObject /Subtype /Form /BBox [0 0 400 300] /Group << /S /Transparency "
+                    "/CS /DeviceRGB >> " +
+                        kXObjects,
+                    kDrawn);
+        writePage(page);
+        QVERIFY(copyHoldsWidth("600"));
+        QVERIFY(changeOf(compressed()) < 5);
+    }
+
+    void anImageInAGlyphStaysBecauseItsSizeCannotBeTold() {
+        auto page = photoPage("BT /T 100 Tf 20 20 Td (a) Tj ET q 72 0 0 54 0 0 cm /Im0 Do Q");
+        page.object(7, "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>")
+            .object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 4 0 R "
+                       "/Resources << /XObject << /Im0 5 0 R >> /Font << /T 8 0 R >> >> >>")
+            .object(8, "<< /Type /Font /Subtype /Type3 /FontBBox [0 0 1 1] /FontMatrix [1 0 0 1 0 "
+                       "0] /CharProcs << /a 9 0 R >> /Encoding << /Differences [97 /a] >> "
+                       "/FirstChar 97 /LastChar 97 /Widths [1] " +
+                           kXObjects + ">>")
+            .stream(9, {}, "1 0 0 0 1 1 d1 q 2.88 0 0 2.16 0 0 cm /Im0 Do Q");
+        writePage(page);
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesKept.size(), std::size_t(1));
+        QCOMPARE(outcome.imagesKept[0].reason,
+                 QStringLiteral("drawn at a size that cannot be told"));
+        QVERIFY(readFile(copy).contains(jpeg(photo(1200, 900))));
+    }
+
+    void whatStandsBehindDamagedContentKeepsItsSize() {
+        // Drawn small before the break; how large behind it nobody can read.
+        const QByteArray packed =
+            flate("q 72 0 0 54 0 0 cm /Im0 Do Q " + QByteArray(200000, ' ') + kDrawn);
+        auto page = photoPage({});
+        page.stream(4, "/Filter /FlateDecode", packed.first(packed.size() - 40));
+        writePage(page);
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 0);
+        QVERIFY(readFile(copy).contains(jpeg(photo(1200, 900))));
+    }
+
+    void whatOnlyDamagedContentDrawsLargeKeepsItsSize() {
+        const QByteArray packed = flate(QByteArray(200000, ' ') + kDrawn);
+        PdfFixture page = photoPage({});
+        page.object(2, "<< /Type /Pages /Kids [3 0 R 8 0 R] /Count 2 >>")
+            .stream(4, "/Filter /FlateDecode", packed.first(packed.size() - 40))
+            .object(8, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 9 0 R " +
+                           kXObjects + ">>")
+            .stream(9, {}, "72 0 0 54 0 0 cm /Im0 Do");
+        writePage(page);
+        CompressionOutcome outcome;
+        compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 0);
+    }
+
+    void aFormThatDrawsItselfEnds() {
+        auto page = photoPage("/Fm0 Do");
+        page.stream(6,
+                    "/Type /XObject /Subtype /Form /BBox [0 0 400 300] /Resources << /XObject << "
+                    "/Im0 5 0 R /Fm0 6 0 R >> >>",
+                    kDrawn + " /Fm0 Do");
+        writePage(page);
+        QVERIFY(copyHoldsWidth("600"));
+    }
+
+    void formFieldsBookmarksAndTheTitleStay() {
+        auto page = photoPage("q " + kDrawn + " Q", "/Annots [8 0 R]");
+        page.object(1, "<< /Type /Catalog /Pages 2 0 R /AcroForm << /Fields [8 0 R] /DA (/F 9 Tf) "
+                       ">> /Outlines 9 0 R /Metadata 11 0 R >>")
+            .object(8, "<< /Type /Annot /Subtype /Widget /FT /Tx /T (Name) /V (Ada) /Rect [10 240 "
+                       "90 260] /P 3 0 R >>")
+            .object(9, "<< /Type /Outlines /First 10 0 R /Last 10 0 R /Count 1 >>")
+            .object(10, "<< /Title (Chapter one) /Parent 9 0 R /Dest [3 0 R /Fit] >>")
+            .stream(11, "/Type /Metadata /Subtype /XML", "<x:xmpmeta xmlns:x='adobe:ns:meta/'/>");
+        writePage(page);
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 1);
+        const auto outline = [](const QString &path) {
+            return runTool(QStringLiteral("mutool"),
+                           {QStringLiteral("show"), path, QStringLiteral("outline")})
+                .out;
+        };
+        QVERIFY(outline(copy).contains("Chapter one"));
+        QCOMPARE(outline(copy), outline(m_path));
+        const QByteArray json = PdfProbe(copy).json();
+        QVERIFY(json.contains("\"fullname\": \"Name\""));
+        QVERIFY(json.contains("\"value\": \"Ada\"") || json.contains("\"value\": \"u:Ada\""));
+        QCOMPARE(PdfProbe(copy).info(QStringLiteral("Metadata Stream")), QStringLiteral("yes"));
+        QCOMPARE(PdfProbe(copy).info(QStringLiteral("Form")),
+                 PdfProbe(m_path).info(QStringLiteral("Form")));
+    }
+
+    void aFullDiskIsAnErrorAndLeavesNoTemporaryFile() {
+        writeJpegPage("q " + kDrawn + " Q");
+        const QByteArray before = readFile(m_path);
+        CompressionOutcome outcome;
+        {
+            const FullDisk disk(8192);
+            outcome = run(1);
+        }
+        QVERIFY2(outcome.error.contains(m_places.temporaryFolder), qPrintable(outcome.error));
+        QVERIFY(outcome.convertInfo.has_value());
+        QVERIFY(!QFile::exists(outcome.convertInfo->tempFilePathName));
+        QCOMPARE(readFile(m_path), before);
+    }
+
+    void aDiskThatFillsUpWhileTheCopyIsPutInPlaceKeepsTheDocument() {
+        writeJpegPage("q " + kDrawn + " Q");
+        const QByteArray before = readFile(m_path);
+        const QString copy = compressed();
+        {
+            const FullDisk disk(8192);
+            QVERIFY_EXCEPTION_THROWN(putInPlace({copy, m_path}, Flush::Never), Error);
+        }
+        QCOMPARE(readFile(m_path), before);
+        QVERIFY(!QFile::exists(copy));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{QStringLiteral("document.pdf")});
+    }
+
+    void aMissingTemporaryFolderIsAnError() {
+        writeJpegPage("q " + kDrawn + " Q");
+        QVERIFY(QDir(m_places.temporaryFolder).removeRecursively());
+        const QByteArray before = readFile(m_path);
+        QVERIFY(run(1).error.startsWith(QStringLiteral("Cannot create the temporary file")));
+        QCOMPARE(readFile(m_path), before);
+    }
+};
+
+QTEST_GUILESS_MAIN(CompressionUsesTest)
+#include "CompressionUsesTest.moc"
