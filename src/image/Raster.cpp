@@ -25,13 +25,13 @@ struct CompressionPlan {
 
 /// Some rows from all over the picture, in runs, because filters look at the row above.
 QByteArray sampleRows(const Raster &raster) {
-    constexpr int kRuns = 4;
+    constexpr qsizetype kRuns = 4;
     constexpr qsizetype kRunBytes = 1 << 16;
     const qsizetype stride = raster.stride();
     const qsizetype rows =
         std::min<qsizetype>(std::max<qsizetype>(kRunBytes / stride, 2), raster.height);
     QByteArray sample;
-    for (int run = 0; run < kRuns; ++run) {
+    for (qsizetype run = 0; run < kRuns; ++run) {
         const qsizetype first = (raster.height - rows) * (2 * run + 1) / (2 * kRuns);
         sample += QByteArrayView(raster.samples).sliced(first * stride, rows * stride);
     }

@@ -60,7 +60,10 @@ QByteArray runs(qsizetype size, char seed) {
     qsizetype told = 0;
     while (size - told >= 104) {
         packed.append(static_cast<char>(100 - 3 + 0x80)).append(seed);
-        packed.append(3).append(seed + 1).append(seed + 2).append(seed + 3).append(seed + 4);
+        packed.append('\3');
+        for (int i = 1; i <= 4; ++i) {
+            packed.append(static_cast<char>(seed + i));
+        }
         told += 104;
     }
     for (; told < size; ++told) {

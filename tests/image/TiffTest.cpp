@@ -54,7 +54,7 @@ template<typename T> QByteArray bytesOfValues(const std::vector<T> &values) {
 
 template<typename SetUp>
 QString TiffTest::tiff(int width, int height, QByteArray data, const SetUp &setUp) {
-    const QString path = m_folder.filePath(QStringLiteral("picture.tif"));
+    QString path = m_folder.filePath(QStringLiteral("picture.tif"));
     const std::unique_ptr<TIFF, Close> tif(TIFFOpen(QFile::encodeName(path).constData(), "w"));
     TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, width);
     TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, height);
