@@ -27,6 +27,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
     requirePdfHeader(file, *reader);
     auto document = std::make_unique<QPDF>();
     document->setSuppressWarnings(true);
+    document->setAttemptRecovery(file.size <= kMaxRepairedBytes);
     try {
         document->processInputSource(std::make_shared<SourceInput>(file, reader));
     } catch (const QPDFExc &error) {

@@ -16,6 +16,10 @@ struct PDFSummary {
     int pageCount = 0;      ///< 0 where it is encrypted.
 };
 
+/// A damaged file up to this many bytes is repaired, which means searching all of it for objects:
+/// some seconds at this size, minutes at many times that.
+inline constexpr qint64 kMaxRepairedBytes = 256LL << 20;
+
 /// Opens the PDF at `path` as far as needed to say this; a damaged file that can be repaired counts
 /// as readable. Throws Error when it is no PDF or beyond repair.
 PDFSummary summarizePDF(const QString &path);

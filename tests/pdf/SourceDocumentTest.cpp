@@ -111,6 +111,15 @@ class SourceDocumentTest : public QObject {
         QVERIFY(!refusal(saved(QStringLiteral("nocatalog.pdf"), noCatalog)).isEmpty());
     }
 
+    void aHugeDamagedDocumentIsRefusedRatherThanSearched() {
+        QFile file(saved(QStringLiteral("huge.pdf"), threePages().bytes()));
+        QVERIFY(file.resize(1 << 20));
+        QCOMPARE(summarizePDF(file.fileName()).pageCount, 3);
+        // Sparse, so it costs no disk; the table of objects is not where a reader looks for it.
+        QVERIFY(file.resize(kMaxRepairedBytes + 1));
+        QVERIFY(!refusal(file.fileName()).isEmpty());
+    }
+
     void aPageTreeThatBitesItsTailEnds() {
         PdfFixture fixture = threePages();
         fixture.object(2, "<< /Type /Pages /Count 3 /Kids [4 0 R 2 0 R 5 0 R] >>");
