@@ -1,5 +1,6 @@
 # The compression pass beside Ghostscript's pdfwrite at the same resolutions.
-# A document of 50 photos at 300 per inch, one of 40 scanned CCITT pages with 10 photos between.
+# A document of 50 photos at 300 per inch, one of 40 scanned pages, CCITT and JBIG2 by turns, and 10
+# photos, one of 40 pages of text with 10 pictures between.
 # Each photo is another cut: Ghostscript makes photos of equal pixels one.
 compress_inputs() {
     photo=1
@@ -17,22 +18,27 @@ compress_inputs() {
             "$folder/$(printf 'scan%02d.tif' $page)"
         page=$((page + 1))
     done
-    img2pdf "$folder"/scan*.tif "$folder"/photo0*.jpg "$folder/photo10.jpg" -o "$folder/scans.pdf"
-    rm "$folder"/scan*.tif "$folder"/photo*.jpg
+    img2pdf "$folder"/scan*.tif "$folder"/photo0*.jpg "$folder/photo10.jpg" -o "$folder/fax.pdf"
+    mutool run "$bench/jbig2.js" "$folder/fax.pdf" "$folder/scans.pdf"
+    words 3 260000 >"$folder/letter.txt"
+    enscript -q -B -f Times-Roman12 -p - "$folder/letter.txt" | ps2pdf - "$folder/letter.pdf"
+    mogrify -resize 1600x1200 "$folder"/photo*.jpg
+    img2pdf --imgsize 150mmx112mm --pagesize A4 "$folder"/photo0*.jpg "$folder/photo10.jpg" \
+        -o "$folder/pictures.pdf"
+    qpdf --empty --collate=4 --pages "$folder/letter.pdf" 1-40 "$folder/pictures.pdf" -- \
+        "$folder/office.pdf"
+    rm "$folder"/scan*.tif "$folder"/photo*.jpg "$folder/fax.pdf" "$folder"/letter.* \
+        "$folder/pictures.pdf"
 }
-
-make_set photos photos
-make_set compress compress_inputs
-export compressed="$inputs/compress"
 
 make_set photos photos
 make_set compress compress_inputs
 export compressed="$inputs/compress"
 c++ -std=c++20 -O2 "$bench/ssim.cpp" -o "$scratch/ssim"
 
-# The structural similarity of three pages drawn at 100 per inch, 1 for equal ones.
+# The structural similarity of four pages drawn at 100 per inch, 1 for equal ones.
 similarity() { # ORIGINAL COPY
-    for page in 1 20 50; do
+    for page in 1 5 20 50; do
         pdftoppm -gray -r 100 -f $page -l $page -singlefile "$1" "$scratch/original"
         pdftoppm -gray -r 100 -f $page -l $page -singlefile "$2" "$scratch/copy"
         "$scratch/ssim" "$scratch/original.pgm" "$scratch/copy.pgm"
@@ -44,7 +50,7 @@ ghostscript() { # RESOLUTION
         "-dColorImageResolution=$1 -dGrayImageResolution=$1 -o \"\$out\" \"\$source\""
 }
 
-for document in photos scans; do
+for document in photos scans office; do
     [ $document = photos ] && part=6 || part=4
     export source="$compressed/$document.pdf"
     for method in 150m 96m 72l; do
