@@ -21,7 +21,7 @@ int main(int argc, char *argv[]) {
     using namespace folioforge;
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Folioforge"));
-    QApplication::setDesktopFileName(QStringLiteral("folioforge"));
+    QApplication::setDesktopFileName(QStringLiteral("com.vesprin.folioforge"));
     QApplication::setQuitOnLastWindowClosed(
         FolioforgeAppDelegate::applicationShouldTerminateAfterLastWindowClosed());
     applyLightLook(application);
