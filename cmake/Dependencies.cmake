@@ -1,6 +1,9 @@
 # The libraries the product stands on; docs/architecture.md says why each was taken.
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg Test)
+if(UNIX AND NOT APPLE)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS DBus) # The end-to-end test speaks to the screen.
+endif()
 find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 

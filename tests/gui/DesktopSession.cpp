@@ -1,0 +1,264 @@
+#include "DesktopSession.h"
+
+#include "support/Files.h"
+
+#include <QDBusArgument>
+#include <QDBusInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+namespace folioforge::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kPatience = 30'000; ///< Milliseconds that a busy machine may take for anything.
+constexpr auto kAtSpi = "org.a11y.atspi.";
+
+QString atSpi(const char *interface) {
+    return QLatin1StringView(kAtSpi) + QLatin1StringView(interface);
+}
+
+/// The first line that `process` prints; empty when none comes.
+QByteArray firstLine(QProcess &process) {
+    while (!process.canReadLine()) {
+        if (!process.waitForReadyRead(kPatience)) {
+            return {};
+        }
+    }
+    return process.readLine().trimmed();
+}
+
+void end(QProcess &process) {
+    if (process.state() != QProcess::NotRunning) {
+        process.terminate();
+        if (!process.waitForFinished(kPatience)) {
+            process.kill();
+            process.waitForFinished();
+        }
+    }
+}
+
+QDBusMessage callTo(const DesktopSession::Element &element, const char *interface,
+                    const char *method, const QVariantList &arguments = {}) {
+    QDBusMessage call = QDBusMessage::createMethodCall(element.service, element.path.path(),
+                                                       atSpi(interface), QLatin1StringView(method));
+    call.setArguments(arguments);
+    return call;
+}
+
+} // namespace
+
+DesktopSession::~DesktopSession() {
+    end(m_application);
+    if (!m_accessibilityBus.isEmpty()) {
+        QDBusConnection::disconnectFromBus(m_accessibilityBus);
+    }
+    end(m_bus);
+    end(m_screen);
+}
+
+bool DesktopSession::begin() {
+    m_screen.start(QStringLiteral("Xvfb"),
+                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                    QStringLiteral("0"), QStringLiteral("1600x1000x24"),
+                    QStringLiteral("-noreset")});
+    const QByteArray display = firstLine(m_screen);
+    QDir(m_home.path()).mkpath(QStringLiteral("bin"));
+    QDir().mkpath(temporaryFolder());
+    makeOpener();
+
+    m_environment = QProcessEnvironment::systemEnvironment();
+    const auto set = [this](const char *name, const QString &value) {
+        m_environment.insert(QLatin1StringView(name), value);
+    };
+    set("DISPLAY", u':' + QString::fromLatin1(display));
+    set("HOME", m_home.path());
+    set("XDG_CONFIG_HOME", path(QStringLiteral("config")));
+    set("XDG_RUNTIME_DIR", m_home.path());
+    set("TMPDIR", temporaryFolder());
+    set("PATH", path(QStringLiteral("bin")) + u':' + qEnvironmentVariable("PATH"));
+    set("QT_QPA_PLATFORM", QStringLiteral("xcb"));
+    set("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", QStringLiteral("1"));
+
+    m_bus.setProcessEnvironment(m_environment);
+    m_bus.start(QStringLiteral("dbus-daemon"),
+                {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                 QStringLiteral("--print-address=1")});
+    const QString address = QString::fromLatin1(firstLine(m_bus));
+    set("DBUS_SESSION_BUS_ADDRESS", address);
+
+    const QString session = QStringLiteral("session of %1").arg(m_home.path());
+    QDBusInterface launcher(QStringLiteral("org.a11y.Bus"), QStringLiteral("/org/a11y/bus"),
+                            QStringLiteral("org.a11y.Bus"),
+                            QDBusConnection::connectToBus(address, session));
+    const QDBusReply<QString> bus = launcher.call(QStringLiteral("GetAddress"));
+    QDBusConnection::disconnectFromBus(session);
+    m_accessibilityBus = QStringLiteral("accessibility of %1").arg(m_home.path());
+    return !display.isEmpty() && bus.isValid() &&
+           QDBusConnection::connectToBus(bus.value(), m_accessibilityBus).isConnected();
+}
+
+/// Both verbs, so that the test does not hang on what the machine has.
+void DesktopSession::makeOpener() const {
+    for (const auto *verb : {"bin/open", "bin/xdg-open"}) {
+        const QString program = path(QLatin1StringView(verb));
+        writeFile(program, "#!/bin/sh\nprintf '%s\\n' \"$@\" >>\"$HOME/opened\"\n");
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+}
+
+bool DesktopSession::start(const QString &program, const QString &outputFolder) {
+    QDir().mkpath(outputFolder);
+    QDir().mkpath(path(QStringLiteral("config/Vesprin")));
+    writeFile(path(QStringLiteral("config/Vesprin/Folioforge.conf")),
+              "[General]\nCustomizeOutputDir=" + QFile::encodeName(outputFolder) + '\n');
+    m_application.setProcessEnvironment(m_environment);
+    m_application.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    m_application.start(program, QStringList());
+    return m_application.waitForStarted(kPatience) && find(QStringLiteral("Create")).has_value();
+}
+
+QByteArray DesktopSession::opened() const {
+    return readFile(path(QStringLiteral("opened")));
+}
+
+QList<DesktopSession::Element> DesktopSession::children(const Element &parent) const {
+    const QDBusMessage reply =
+        QDBusConnection(m_accessibilityBus).call(callTo(parent, "Accessible", "GetChildren"));
+    QList<Element> list;
+    if (reply.type() != QDBusMessage::ReplyMessage) {
+        return list;
+    }
+    const auto argument = reply.arguments().constFirst().value<QDBusArgument>();
+    argument.beginArray();
+    while (!argument.atEnd()) {
+        Element child;
+        argument.beginStructure();
+        argument >> child.service >> child.path;
+        argument.endStructure();
+        list += child;
+    }
+    argument.endArray();
+    return list;
+}
+
+QString DesktopSession::nameOf(const Element &element) const {
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        element.service, element.path.path(), QStringLiteral("org.freedesktop.DBus.Properties"),
+        QStringLiteral("Get"));
+    call.setArguments({atSpi("Accessible"), QStringLiteral("Name")});
+    const QDBusReply<QDBusVariant> reply = QDBusConnection(m_accessibilityBus).call(call);
+    return reply.value().variant().toString();
+}
+
+bool DesktopSession::canBeSeen(const Element &element) const {
+    constexpr unsigned kShowing = 25; // ATSPI_STATE_SHOWING
+    const QDBusReply<QList<unsigned>> states =
+        QDBusConnection(m_accessibilityBus).call(callTo(element, "Accessible", "GetState"));
+    return !states.value().isEmpty() && (states.value().constFirst() >> kShowing & 1U) != 0;
+}
+
+std::optional<DesktopSession::Element> DesktopSession::search(const Element &root,
+                                                              const QString &name) const {
+    for (const Element &child : children(root)) {
+        if (nameOf(child) == name && canBeSeen(child)) {
+            return child;
+        }
+        if (auto found = search(child, name)) {
+            return found;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<DesktopSession::Element> DesktopSession::lookUp(const QString &name) const {
+    return search({QStringLiteral("org.a11y.atspi.Registry"),
+                   QDBusObjectPath(QStringLiteral("/org/a11y/atspi/accessible/root"))},
+                  name);
+}
+
+bool DesktopSession::shows(const QString &name) {
+    return lookUp(name).has_value();
+}
+
+std::optional<DesktopSession::Element> DesktopSession::find(const QString &name) {
+    std::optional<Element> found;
+    const bool came = QTest::qWaitFor(
+        [&] {
+            found = lookUp(name);
+            return found.has_value() || m_application.state() == QProcess::NotRunning;
+        },
+        kPatience);
+    if (!came || !found) {
+        qWarning("nothing on the screen is called \"%s\"", qUtf8Printable(name));
+    }
+    return found;
+}
+
+bool DesktopSession::press(const QString &name) {
+    const auto element = find(name);
+    if (!element) {
+        return false;
+    }
+    const QDBusReply<bool> done =
+        QDBusConnection(m_accessibilityBus).call(callTo(*element, "Action", "DoAction", {0}));
+    return done.value();
+}
+
+bool DesktopSession::enter(const QString &name, const QString &text) {
+    const auto element = find(name);
+    if (!element) {
+        return false;
+    }
+    const QDBusReply<bool> done =
+        QDBusConnection(m_accessibilityBus)
+            .call(callTo(*element, "EditableText", "SetTextContents", {text}));
+    return done.value();
+}
+
+bool DesktopSession::click(const QString &name) {
+    const auto element = find(name);
+    if (!element) {
+        return false;
+    }
+    constexpr unsigned kOnScreen = 0;
+    const QDBusMessage reply = QDBusConnection(m_accessibilityBus)
+                                   .call(callTo(*element, "Component", "GetExtents", {kOnScreen}));
+    if (reply.type() != QDBusMessage::ReplyMessage) {
+        return false;
+    }
+    const auto argument = reply.arguments().constFirst().value<QDBusArgument>();
+    QRect place;
+    argument >> place;
+    const QPoint middle = place.center();
+    return runOnScreen({QStringLiteral("mousemove"), QString::number(middle.x()),
+                        QString::number(middle.y()), QStringLiteral("click"), QStringLiteral("1")});
+}
+
+bool DesktopSession::key(const QString &window, const QString &keys) {
+    return runIn(window, {QStringLiteral("key"), keys});
+}
+
+bool DesktopSession::type(const QString &window, const QString &text) {
+    return runIn(window, {QStringLiteral("type"), text});
+}
+
+bool DesktopSession::runIn(const QString &window, const QStringList &arguments) const {
+    const QStringList focus = {QStringLiteral("search"),           QStringLiteral("--sync"),
+                               QStringLiteral("--onlyvisible"),    QStringLiteral("--name"),
+                               QStringLiteral("^%1$").arg(window), QStringLiteral("windowfocus")};
+    return runOnScreen(focus) && runOnScreen(arguments);
+}
+
+bool DesktopSession::runOnScreen(const QStringList &arguments) const {
+    QProcess tool;
+    tool.setProcessEnvironment(m_environment);
+    tool.start(QStringLiteral("xdotool"), arguments);
+    return tool.waitForFinished(kPatience) && tool.exitCode() == 0;
+}
+
+} // namespace folioforge::test

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QProcess>
+#include <QRect>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <optional>
+
+namespace folioforge::test {
+
+/// A screen, a session bus and a home folder of its own in which the real application runs. It is
+/// worked through the accessibility bus, as a screen reader does, and with the mouse and the keys
+/// of the screen.
+class DesktopSession {
+  public:
+    /// An object of the application on the accessibility bus.
+    struct Element {
+        QString service;
+        QDBusObjectPath path;
+    };
+
+    DesktopSession() = default;
+    ~DesktopSession();
+    DesktopSession(const DesktopSession &) = delete;
+    DesktopSession &operator=(const DesktopSession &) = delete;
+
+    /// Starts the screen and the bus; whether both came up.
+    bool begin();
+    /// Starts `program` with `outputFolder` as its stored output folder and waits for its window.
+    bool start(const QString &program, const QString &outputFolder);
+    [[nodiscard]] QProcess &application() { return m_application; }
+
+    /// A path under the folder that is the application's home.
+    [[nodiscard]] QString path(const QString &name) const { return m_home.filePath(name); }
+    /// The folder in which the application puts temporary files.
+    [[nodiscard]] QString temporaryFolder() const { return path(QStringLiteral("tmp")); }
+    /// What the program that opens files was given, one argument a line.
+    [[nodiscard]] QByteArray opened() const;
+
+    /// The element called `name` that can be seen; waits for it.
+    [[nodiscard]] std::optional<Element> find(const QString &name);
+    /// Whether an element called `name` can be seen now.
+    [[nodiscard]] bool shows(const QString &name);
+    /// Does the first action of the element called `name`, such as pressing it.
+    bool press(const QString &name);
+    /// Replaces the text of the element called `name`.
+    bool enter(const QString &name, const QString &text);
+    /// Clicks in the middle of the element called `name` with the mouse.
+    bool click(const QString &name);
+    /// Types a key, such as "ctrl+q", into the window titled `window`.
+    bool key(const QString &window, const QString &keys);
+    /// Types `text` into the window titled `window`.
+    bool type(const QString &window, const QString &text);
+
+  private:
+    [[nodiscard]] QList<Element> children(const Element &parent) const;
+    [[nodiscard]] QString nameOf(const Element &element) const;
+    [[nodiscard]] bool canBeSeen(const Element &element) const;
+    [[nodiscard]] std::optional<Element> search(const Element &root, const QString &name) const;
+    [[nodiscard]] std::optional<Element> lookUp(const QString &name) const;
+    [[nodiscard]] bool runOnScreen(const QStringList &arguments) const;
+    [[nodiscard]] bool runIn(const QString &window, const QStringList &arguments) const;
+    void makeOpener() const;
+
+    QTemporaryDir m_home;
+    QProcessEnvironment m_environment;
+    QProcess m_screen;
+    QProcess m_bus;
+    QProcess m_application;
+    QString m_accessibilityBus;
+};
+
+} // namespace folioforge::test
