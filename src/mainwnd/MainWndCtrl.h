@@ -63,6 +63,11 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     [[nodiscard]] bool isConverting() const { return m_bConverting; }
     [[nodiscard]] const FilesArray &filesArray() const { return *m_filesArray; }
 
+    /// Does nothing, on purpose: a sheet blocks the window by itself.
+    void windowWillBeginSheet() {}
+    /// Does nothing, on purpose: a sheet gives the window free by itself.
+    void windowDidEndSheet() {}
+
     /// Skins `button` with the images `name`, `name`-hover and `name`-disable among the
     /// application's resources; a missing one of the latter two gives way to the first. Images are
     /// looked up by name alone, so `folder` plays no part.
@@ -163,6 +168,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void slideOptionsTo(double width);
     void setOptionsWidth(int width);
     void fitWindowToOptions();
+    int leftWithOptions(const QRect &frame);
     void showSettingsView(QWidget *view);
     void markSettingsButton(const QWidget *view);
     [[nodiscard]] PageSetup textPageSetup() const;
@@ -204,6 +210,8 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     QWidget *m_currentSettingsView = nullptr;
     QVariantAnimation m_optionsSlide;
     int m_optionsWidthInFrame = 0; ///< How much of the window's own width is the options panel's.
+    int m_optionsShift = 0;        ///< How far to the left the panel has moved the window.
+    int m_shiftedLeft = 0;         ///< Where that put the window's left edge.
     QString m_outputFolderPath;
 
     QString m_destFilePathName; ///< The PDF being written.

@@ -8,9 +8,11 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScreen>
 #include <QSettings>
 #include <QStyle>
 
+#include <algorithm>
 #include <array>
 
 namespace folioforge {
@@ -84,9 +86,31 @@ void MainWndCtrl::fitWindowToOptions() {
     }
     const int change = m_optionsDrawer->openWidth() - m_optionsWidthInFrame;
     m_optionsWidthInFrame += change;
-    if (change != 0) {
-        m_window->resize(m_window->width() + change, m_window->height());
+    if (change == 0) {
+        return;
     }
+    const QSize size = m_window->size() + QSize(change, 0);
+    const int left = leftWithOptions(m_window->frameGeometry().adjusted(0, 0, change, 0));
+    if (left == m_window->x()) {
+        m_window->resize(size);
+    } else {
+        const QPoint origin = m_window->geometry().topLeft();
+        m_window->setGeometry({origin + QPoint(left - m_window->x(), 0), size});
+    }
+}
+
+/// Where the left edge of `frame` belongs. The panel opens to the right; what of it the screen has
+/// no room for there moves the window to the left, and back again as the panel closes. A window
+/// that was moved meanwhile stays where it was put.
+int MainWndCtrl::leftWithOptions(const QRect &frame) {
+    const QRect screen = m_window->screen()->availableGeometry();
+    const int shift = frame.left() == m_shiftedLeft ? m_optionsShift : 0;
+    const int home = frame.left() + shift;
+    const int beyond = home + frame.width() - (screen.left() + screen.width());
+    const int room = std::clamp(home - screen.left(), 0, m_optionsWidthInFrame);
+    m_optionsShift = std::clamp(beyond, 0, room);
+    m_shiftedLeft = home - m_optionsShift;
+    return m_shiftedLeft;
 }
 
 void MainWndCtrl::clickBtnTextPageSize() {
