@@ -114,6 +114,17 @@ class ConvertingFilesTest : public QObject {
         QCOMPARE(w.table()->selectedRow(), 0);
     }
 
+    void aDestinationThatAShellWouldMisreadOpensWithoutOne() {
+        TestWindow w;
+        const QString name = QStringLiteral("a \"quoted\" name");
+        w.ctrl.addFiles({w.file(name + QStringLiteral(".txt"))}, -1);
+        run(w);
+        QCOMPARE(outNames(w), name + QStringLiteral(".pdf"));
+        w.ctrl.clickedDest(0);
+        QCOMPARE(w.desktop.files, QStringList(outPath(w, name + QStringLiteral(".pdf"))));
+        QCOMPARE(w.desktop.commands, QList<QByteArray>());
+    }
+
     void takenNamesGetNumbers() {
         TestWindow w;
         w.file(QStringLiteral("out/000.pdf"), "mine");
