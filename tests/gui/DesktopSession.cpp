@@ -13,8 +13,6 @@
 namespace folioforge::test {
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr int kPatience = 30'000; ///< Milliseconds that a busy machine may take for anything.
 constexpr auto kAtSpi = "org.a11y.atspi.";
 

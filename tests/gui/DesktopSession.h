@@ -6,7 +6,6 @@
 #include <QRect>
 #include <QTemporaryDir>
 
-#include <functional>
 #include <optional>
 
 namespace folioforge::test {

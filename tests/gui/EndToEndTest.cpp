@@ -16,6 +16,14 @@ QString program() {
     return QStringLiteral(FOLIOFORGE_BUNDLE_PATH "/Contents/MacOS/folioforge");
 }
 
+QString sourceFolder(const DesktopSession &desktop) {
+    return desktop.path(QStringLiteral("in"));
+}
+
+QString outputFolder(const DesktopSession &desktop) {
+    return desktop.path(QStringLiteral("out"));
+}
+
 QStringList filesIn(const QString &folder) {
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
 }
@@ -55,10 +63,47 @@ void writeNoise(const QString &path, quint32 seed) {
     image.save(path, "PNG");
 }
 
+/// Starts the application and lists, after what the source folder holds, a letter in it and a PDF
+/// of two pages.
+bool listLetterAndPages(DesktopSession &desktop, const QByteArray &letter) {
+    const QString in = sourceFolder(desktop);
+    QDir().mkpath(in);
+    writeFile(in + QStringLiteral("/letter.txt"), letter);
+    const QString pages = writePdf(desktop.path(QStringLiteral("pages.pdf")), 2);
+    return desktop.start(program(), outputFolder(desktop)) &&
+           add(desktop, in, QStringLiteral("letter.txt")) &&
+           add(desktop, pages, QStringLiteral("pages.pdf"));
+}
+
+/// Presses Create and waits until the output folder holds `count` files and the run is over.
+bool create(DesktopSession &desktop, int count) {
+    return desktop.press(QStringLiteral("Create")) &&
+           QTest::qWaitFor([&] { return filesIn(outputFolder(desktop)).size() == count; },
+                           60'000) &&
+           QTest::qWaitFor([&] { return !desktop.shows(QStringLiteral("Creating PDF documents")); },
+                           60'000);
+}
+
+/// Lists the pictures of the source folder, starts a run, waits and quits in the midst of it.
+bool quitsDuringARun(DesktopSession &desktop, const QString &out, int milliseconds) {
+    if (!desktop.start(program(), out) ||
+        !add(desktop, sourceFolder(desktop), QStringLiteral("noise0.png")) ||
+        !desktop.press(QStringLiteral("Create"))) {
+        return false;
+    }
+    QTest::qWait(milliseconds);
+    return quits(desktop);
+}
+
 } // namespace
 
 class EndToEndTest : public QObject {
     Q_OBJECT
+
+  private:
+    void checkDocuments(const QString &out);
+    void checkThatALinkOpens(DesktopSession &desktop, const QString &name);
+    void checkThatOnlyWholeFilesAreLeft(const DesktopSession &desktop, const QString &out);
 
   private Q_SLOTS:
     void filesOfEveryKindBecomeDocumentsThatALinkOpens();
@@ -69,23 +114,18 @@ class EndToEndTest : public QObject {
 void EndToEndTest::filesOfEveryKindBecomeDocumentsThatALinkOpens() {
     DesktopSession desktop;
     QVERIFY(desktop.begin());
-    const QString in = desktop.path(QStringLiteral("in"));
-    const QString out = desktop.path(QStringLiteral("out"));
-    QVERIFY(QDir().mkpath(in));
-    writeFile(in + QStringLiteral("/letter.txt"), "Good morning from the window\n");
-    writePng(in + QStringLiteral("/picture.png"), 300, 200);
-    const QString pages = writePdf(desktop.path(QStringLiteral("pages.pdf")), 2);
-    QVERIFY(desktop.start(program(), out));
-    QVERIFY(add(desktop, in, QStringLiteral("letter.txt")));
-    QVERIFY(add(desktop, pages, QStringLiteral("pages.pdf")));
-
+    QVERIFY(QDir().mkpath(sourceFolder(desktop)));
+    writePng(sourceFolder(desktop) + QStringLiteral("/picture.png"), 300, 200);
+    QVERIFY(listLetterAndPages(desktop, "Good morning from the window\n"));
     QVERIFY(desktop.press(QStringLiteral("Show options")));
     QVERIFY(desktop.enter(QStringLiteral("Title"), QStringLiteral("Morning")));
-    QVERIFY(desktop.press(QStringLiteral("Create")));
-    QVERIFY(QTest::qWaitFor([&] { return filesIn(out).size() == 3; }, 60'000));
-    QVERIFY(QTest::qWaitFor(
-        [&] { return !desktop.shows(QStringLiteral("Creating PDF documents")); }, 60'000));
+    QVERIFY(create(desktop, 3));
+    checkDocuments(outputFolder(desktop));
+    checkThatALinkOpens(desktop, QStringLiteral("letter.pdf"));
+    QVERIFY(quits(desktop));
+}
 
+void EndToEndTest::checkDocuments(const QString &out) {
     QCOMPARE(filesIn(out), QStringList({QStringLiteral("letter.pdf"), QStringLiteral("pages.pdf"),
                                         QStringLiteral("picture.pdf")}));
     const PdfProbe letter(out + QStringLiteral("/letter.pdf"));
@@ -95,33 +135,24 @@ void EndToEndTest::filesOfEveryKindBecomeDocumentsThatALinkOpens() {
     const PdfProbe picture(out + QStringLiteral("/picture.pdf"));
     QCOMPARE(picture.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 300, 200));
     QCOMPARE(PdfProbe(out + QStringLiteral("/pages.pdf")).pageCount(), 2);
+}
 
+void EndToEndTest::checkThatALinkOpens(DesktopSession &desktop, const QString &name) {
     QCOMPARE(desktop.opened(), QByteArray());
-    QVERIFY(desktop.click(QStringLiteral("letter.pdf")));
+    QVERIFY(desktop.click(name));
     QVERIFY(QTest::qWaitFor([&] { return !desktop.opened().isEmpty(); }, 30'000));
-    QCOMPARE(desktop.opened().trimmed(), QFile::encodeName(out + QStringLiteral("/letter.pdf")));
-
-    QVERIFY(quits(desktop));
+    QCOMPARE(desktop.opened().trimmed(), QFile::encodeName(outputFolder(desktop) + u'/' + name));
 }
 
 void EndToEndTest::mergedFilesBecomeOneDocument() {
     DesktopSession desktop;
     QVERIFY(desktop.begin());
-    const QString in = desktop.path(QStringLiteral("in"));
-    const QString out = desktop.path(QStringLiteral("out"));
-    QVERIFY(QDir().mkpath(in));
-    writeFile(in + QStringLiteral("/letter.txt"), "Good evening\n");
-    const QString pages = writePdf(desktop.path(QStringLiteral("pages.pdf")), 2);
-    QVERIFY(desktop.start(program(), out));
-    QVERIFY(add(desktop, in, QStringLiteral("letter.txt")));
-    QVERIFY(add(desktop, pages, QStringLiteral("pages.pdf")));
-
+    QVERIFY(listLetterAndPages(desktop, "Good evening\n"));
     QVERIFY(desktop.press(QStringLiteral("Merge into one PDF")));
     QVERIFY(desktop.enter(QStringLiteral("Name of the merged PDF"), QStringLiteral("all")));
-    QVERIFY(desktop.press(QStringLiteral("Create")));
-    QVERIFY(QTest::qWaitFor([&] { return filesIn(out) == QStringList{QStringLiteral("all.pdf")}; },
-                            60'000));
-    const PdfProbe merged(out + QStringLiteral("/all.pdf"));
+    QVERIFY(create(desktop, 1));
+    QCOMPARE(filesIn(outputFolder(desktop)), QStringList{QStringLiteral("all.pdf")});
+    const PdfProbe merged(outputFolder(desktop) + QStringLiteral("/all.pdf"));
     QVERIFY(merged.isValid());
     QCOMPARE(merged.pageCount(), 3);
 }
@@ -134,7 +165,7 @@ void EndToEndTest::closingInTheMidstOfARunLeavesOnlyWholeFiles() {
     QRandomGenerator random(kSeed);
     DesktopSession desktop;
     QVERIFY(desktop.begin());
-    const QString in = desktop.path(QStringLiteral("in"));
+    const QString in = sourceFolder(desktop);
     QVERIFY(QDir().mkpath(in));
     for (int i = 0; i < kPictures; ++i) {
         writeNoise(QStringLiteral("%1/noise%2.png").arg(in).arg(i), quint32(i));
@@ -143,23 +174,23 @@ void EndToEndTest::closingInTheMidstOfARunLeavesOnlyWholeFiles() {
     int cutShort = 0;
     for (int time = 0; time < kTimes; ++time) {
         const QString out = desktop.path(QStringLiteral("out%1").arg(time));
-        QVERIFY(desktop.start(program(), out));
-        QVERIFY(add(desktop, in, QStringLiteral("noise0.png")));
-        QVERIFY(desktop.press(QStringLiteral("Create")));
         // The moment is the point: any of them, the same ones on every run of the test.
-        QTest::qWait(random.bounded(300));
-        QVERIFY(quits(desktop));
-
-        for (const QString &name : filesIn(out)) {
-            QVERIFY2(PdfProbe(out + u'/' + name).isValid(), qUtf8Printable(name));
-        }
-        QVERIFY2(filesIn(desktop.temporaryFolder()).isEmpty(),
-                 qUtf8Printable(filesIn(desktop.temporaryFolder()).join(u' ')));
+        QVERIFY(quitsDuringARun(desktop, out, random.bounded(300)));
+        checkThatOnlyWholeFilesAreLeft(desktop, out);
         QCOMPARE(bytesIn(in), sources);
         cutShort += filesIn(out).size() < kPictures ? 1 : 0;
     }
     qInfo("%d of %d runs were cut short", cutShort, kTimes);
     QVERIFY(cutShort > 0);
+}
+
+void EndToEndTest::checkThatOnlyWholeFilesAreLeft(const DesktopSession &desktop,
+                                                  const QString &out) {
+    for (const QString &name : filesIn(out)) {
+        QVERIFY2(PdfProbe(out + u'/' + name).isValid(), qUtf8Printable(name));
+    }
+    const QStringList temporary = filesIn(desktop.temporaryFolder());
+    QVERIFY2(temporary.isEmpty(), qUtf8Printable(temporary.join(u' ')));
 }
 
 QTEST_GUILESS_MAIN(EndToEndTest)
