@@ -3,7 +3,8 @@
 #include "mainwnd/Desktop.h"
 #include "mainwnd/ProductPages.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QIcon>
 #include <QScreen>
 
 #include <algorithm>
@@ -46,6 +47,8 @@ void FolioforgeAppDelegate::awakeFromNib() {
 }
 
 void FolioforgeAppDelegate::applicationDidFinishLaunching() {
+    QApplication::setWindowIcon(QIcon(
+        QStringLiteral("%1/Contents/Resources/folioforge-256.png").arg(m_surroundings.bundlePath)));
     m_mainWndCtrl->setDelegateObject(this);
     m_mainWndCtrl->window()->setMenuBar(m_menuBar.release());
     showMainWindow();

@@ -24,7 +24,7 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
 
     /// Makes the controller of the main window and shows the item for updates.
     void awakeFromNib();
-    /// Loads the main window with its menu and shows it.
+    /// Loads the main window with its menu and icon and shows it.
     void applicationDidFinishLaunching();
     /// Brings the main window to the front and centres it on its screen.
     void showMainWindow();

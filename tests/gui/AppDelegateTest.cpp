@@ -1,5 +1,6 @@
 #include "WindowWorld.h"
 
+#include <QIcon>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -66,6 +67,11 @@ class AppDelegateTest : public QObject {
             visible += widget->isVisible() ? 1 : 0;
         }
         QCOMPARE(visible, 1);
+    }
+
+    void theWindowCarriesTheApplicationsIcon() {
+        Application application;
+        QCOMPARE(application.window().windowIcon().availableSizes(), QList{QSize(256, 256)});
     }
 
     void theListStartsEmptyAndTheStartItemDisabled() {
