@@ -11,6 +11,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -19,6 +20,9 @@ namespace folioforge {
 namespace {
 
 constexpr std::size_t kBufferSize = 1 << 20;
+/// Larger writes make the kernel look for large runs of memory for its cache. On a virtual machine
+/// those are often not backed yet, and the same bytes then take three times as long.
+constexpr std::size_t kWriteSize = 128 << 10;
 
 [[noreturn]] void fail(const QString &what) {
     throw Error(QStringLiteral("%1: %2").arg(what, QString::fromLocal8Bit(std::strerror(errno))));
@@ -113,7 +117,7 @@ void OutputFile::openNamed(const QByteArray &fileName) {
 
 void OutputFile::writeAll(const char *data, std::size_t size) {
     while (size > 0) {
-        const ssize_t written = m_calls.write(m_fd, data, size);
+        const ssize_t written = m_calls.write(m_fd, data, std::min(size, kWriteSize));
         if (written < 0 && errno == EINTR) {
             continue;
         }
