@@ -1,8 +1,8 @@
 #pragma once
 
-#include "cli/StandIns.h"
 #include "filelist/Orders.h"
 #include "filelist/PDFFileInfo.h"
+#include "filelist/StandIns.h"
 
 #include <QByteArray>
 #include <QString>

@@ -10,6 +10,8 @@
 #include "convert/Conversion.h"
 #include "error/Error.h"
 #include "filelist/SourceFiles.h"
+#include "pdf/PartFiles.h"
+#include "pdf/TemporaryFolder.h"
 
 #include <utility>
 
@@ -25,6 +27,7 @@ class Run {
         , m_console(console) {}
 
     ExitStatus convertAll() {
+        removeAbandonedParts(m_options.outputFolder);
         collect();
         if (m_inputs.empty()) {
             if (!m_someFailed) {
@@ -137,10 +140,11 @@ class Run {
 
     /// Where the pass fails, the PDF stays as it was and the exit status tells.
     CompressionOutcome compressWritten(const QString &path, ProgressLine &progress) {
-        CompressionOutcome compression = compress(path, m_options, &progress);
+        CompressionOutcome compression = compress(
+            path, m_options, CompressionPlaces::ofApplication(m_temporaryFolder.path()), &progress);
         if (compression.error.isEmpty()) {
             try {
-                putInPlace(*compression.convertInfo, m_options.flush);
+                putInPlace(*compression.convertInfo, m_options.flush, m_options.calls);
             } catch (const Error &error) {
                 compression.error = error.reason();
             }
@@ -186,7 +190,8 @@ class Run {
     const Arguments &m_arguments;
     const ConversionOptions &m_options;
     Console &m_console;
-    StandIns m_standIns; ///< Outlives the inputs that lead through it.
+    TemporaryFolder m_temporaryFolder;
+    StandIns m_standIns{m_temporaryFolder}; ///< Outlives the inputs that lead through it.
     std::vector<Input> m_inputs;
     bool m_someFailed = false;
 };

@@ -19,7 +19,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <array>
+#include <optional>
+#include <utility>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -31,13 +32,13 @@ namespace {
 /// Turns the writer's percentage into the pages written and reports each page.
 class PageProgress : public QPDFWriter::ProgressReporter {
   public:
-    PageProgress(ConversionObserver *observer, int pages, const TemporaryCopy &copy)
+    PageProgress(ConversionObserver *observer, int pages, const OutputPipeline &output)
         : m_observer(observer)
         , m_pages(pages)
-        , m_copy(copy) {}
+        , m_output(output) {}
 
     void reportProgress(int percent) override {
-        m_copy.throwFailure();
+        m_output.throwFailure();
         const int written = percent * m_pages / 100;
         while (m_observer && m_written < written) {
             ++m_written;
@@ -49,7 +50,7 @@ class PageProgress : public QPDFWriter::ProgressReporter {
   private:
     ConversionObserver *m_observer;
     int m_pages;
-    const TemporaryCopy &m_copy;
+    const OutputPipeline &m_output;
     int m_written = 0;
 };
 
@@ -64,20 +65,22 @@ void unlock(QPDF &document, const QString &path, const Encryption *encryption) {
                          password.isEmpty() ? nullptr : password.constData());
 }
 
-void write(QPDF &document, TemporaryCopy &copy, const Encryption *encryption,
+void write(QPDF &document, OutputPipeline &output, const Encryption *encryption,
            ConversionObserver *observer) {
     QPDFWriter writer(document);
-    writer.setOutputPipeline(&copy.pipeline());
+    writer.setOutputPipeline(&output);
     writer.setObjectStreamMode(qpdf_o_generate);
     writer.setCompressStreams(true);
     writer.setDecodeLevel(qpdf_dl_generalized);
     if (encryption) {
         applyEncryption(writer, *encryption);
+    } else {
+        writer.setDeterministicID(true); // The same document is compressed the same.
     }
     const auto pages = static_cast<int>(document.getAllPages().size());
-    writer.registerProgressReporter(std::make_shared<PageProgress>(observer, pages, copy));
+    writer.registerProgressReporter(std::make_shared<PageProgress>(observer, pages, output));
     writer.write();
-    copy.throwFailure();
+    output.throwFailure();
 }
 
 void report(std::vector<LeftImage> left, CompressionOutcome &outcome) {
@@ -89,13 +92,13 @@ void report(std::vector<LeftImage> left, CompressionOutcome &outcome) {
 }
 
 void runPass(const QString &path, const QuartzFilter &filter, const Encryption *encryption,
-             TemporaryCopy &copy, ConversionObserver *observer, CompressionOutcome &outcome) {
+             OutputPipeline &output, ConversionObserver *observer, CompressionOutcome &outcome) {
     QPDF document;
     unlock(document, path, encryption);
     mergeDuplicateStreams(document);
     ImagePlan plan = planImages(document, findImageUses(document), filter);
     const auto streams = ReducedStreams::install(std::move(plan.planned));
-    write(document, copy, encryption, observer);
+    write(document, output, encryption, observer);
     outcome.imagesReduced = streams->done();
     plan.left.insert(plan.left.end(), streams->left().begin(), streams->left().end());
     report(std::move(plan.left), outcome);
@@ -109,61 +112,50 @@ QString filterFile(const ConversionOptions &options, const CompressionPlaces &pl
     return quartzFilterPath(places.bundlePath, name);
 }
 
+/// Makes the copy of the document at `path`; returns where it stands.
+QString makeCopy(const QString &path, const QuartzFilter &filter, const ConversionOptions &options,
+                 ConversionObserver *observer, const QString &folder, CompressionOutcome &outcome) {
+    const auto encryption = encryptionFor(options.security);
+    std::optional<TemporaryCopy> copy(std::in_place, folder, path, options.calls);
+    runPass(path, filter, encryption.get(), copy->pipeline(), observer, outcome);
+    if (copy->size() >= outcome.bytesBefore) {
+        copy.emplace(folder, path, options.calls);
+        copy->takeSource();
+        outcome.imagesReduced = 0;
+    }
+    QString place = copy->finish();
+    outcome.bytesAfter = copy->size();
+    return place;
+}
+
 void compressInto(const QString &path, const ConversionOptions &options,
                   ConversionObserver *observer, const CompressionPlaces &places,
                   CompressionOutcome &outcome) {
     const QuartzFilter filter = readQuartzFilter(filterFile(options, places));
     // From here on there is something to hand over, even where no copy comes of it.
-    outcome.convertInfo = ConvertInfo{
-        QStringLiteral("%1/%2").arg(places.temporaryFolder, QFileInfo(path).fileName()), path};
-    TemporaryCopy copy(places.temporaryFolder, path);
-    outcome.convertInfo->tempFilePathName = copy.path();
-    const auto encryption = encryptionFor(options.security);
-    runPass(path, filter, encryption.get(), copy, observer, outcome);
-    if (copy.size() >= outcome.bytesBefore) {
-        copy.becomeCopyOf(path);
-        outcome.imagesReduced = 0;
-    }
-    copy.finish();
-    outcome.bytesAfter = copy.size();
+    outcome.convertInfo = ConvertInfo{{}, path};
+    outcome.convertInfo->tempFilePathName =
+        makeCopy(path, filter, options, observer, places.temporaryFolder, outcome);
 }
 
 /// The copy of `source` for `destination`, whole but without its name.
-std::unique_ptr<OutputFile> copyFor(const QString &destination, const QString &source,
-                                    Flush flush) {
-    QFile from(source);
-    if (!from.open(QIODevice::ReadOnly)) {
-        throw Error(QStringLiteral("Cannot read %1: %2").arg(source, from.errorString()));
-    }
-    auto file = std::make_unique<OutputFile>(destination);
-    constexpr std::size_t kBlock = 1 << 16;
-    std::array<char, kBlock> block{};
-    qint64 count = 0;
-    while ((count = from.read(block.data(), block.size())) > 0) {
-        file->write({block.data(), static_cast<std::size_t>(count)});
-    }
-    if (count < 0) {
-        throw Error(QStringLiteral("Cannot read %1: %2").arg(source, from.errorString()));
-    }
+std::unique_ptr<OutputFile> copyFor(const QString &destination, const QString &source, Flush flush,
+                                    SystemCalls &calls) {
+    auto file = std::make_unique<OutputFile>(destination, calls);
+    appendFile(*file, source);
     file->finish(flush);
     return file;
 }
 
-void publish(OutputFile &file, const QString &destination, Flush flush) {
-    if (file.publish(destination, flush) == OutputFile::Published::NameTaken) {
-        throw Error(QStringLiteral("Cannot replace %1").arg(destination));
-    }
-}
-
 } // namespace
 
-CompressionPlaces CompressionPlaces::ofApplication() {
+CompressionPlaces CompressionPlaces::ofApplication(const QString &temporaryFolder) {
     const QDir programs(QCoreApplication::applicationDirPath());
-    return {QDir::cleanPath(programs.filePath(QStringLiteral("../.."))), QDir::tempPath()};
+    return {QDir::cleanPath(programs.filePath(QStringLiteral("../.."))), temporaryFolder};
 }
 
 CompressionOutcome compress(const QString &path, const ConversionOptions &options,
-                            ConversionObserver *observer, const CompressionPlaces &places) {
+                            const CompressionPlaces &places, ConversionObserver *observer) {
     CompressionOutcome outcome;
     if (options.compressIndex == 0) {
         return outcome;
@@ -178,32 +170,36 @@ CompressionOutcome compress(const QString &path, const ConversionOptions &option
     return outcome;
 }
 
-void compressCompleted(const ConvertInfo &convertInfo) {
-    deleteFile(convertInfo.destFilePathName);
-    copyDestFile(convertInfo.destFilePathName, convertInfo.tempFilePathName);
-    deleteFile(convertInfo.tempFilePathName);
+void compressCompleted(const ConvertInfo &convertInfo, SystemCalls &calls) {
+    deleteFile(convertInfo.destFilePathName, calls);
+    if (!convertInfo.tempFilePathName.isEmpty()) {
+        copyDestFile(convertInfo.destFilePathName, convertInfo.tempFilePathName, calls);
+        deleteFile(convertInfo.tempFilePathName, calls);
+    }
 }
 
-void putInPlace(const ConvertInfo &convertInfo, Flush flush) {
+void putInPlace(const ConvertInfo &convertInfo, Flush flush, SystemCalls &calls) {
     const QString &destination = convertInfo.destFilePathName;
+    const QString &copy = convertInfo.tempFilePathName;
+    if (copy.isEmpty()) {
+        throw Error(QStringLiteral("There is no compressed copy"));
+    }
     try {
-        const auto file = copyFor(destination, convertInfo.tempFilePathName, flush);
-        deleteFile(destination);
-        publish(*file, destination, flush);
+        copyFor(destination, copy, flush, calls)->replace(destination, flush);
     } catch (const Error &) {
-        deleteFile(convertInfo.tempFilePathName);
+        deleteFile(copy, calls);
         throw;
     }
-    deleteFile(convertInfo.tempFilePathName);
+    deleteFile(copy, calls);
 }
 
-void deleteFile(const QString &path) {
-    QFile::remove(path);
+void deleteFile(const QString &path, SystemCalls &calls) {
+    calls.unlink(QFile::encodeName(path).constData());
 }
 
-void copyDestFile(const QString &destination, const QString &source) {
+void copyDestFile(const QString &destination, const QString &source, SystemCalls &calls) {
     try {
-        publish(*copyFor(destination, source, Flush::Always), destination, Flush::Always);
+        copyFor(destination, source, Flush::Always, calls)->publish(destination, Flush::Always);
     } catch (const Error &) {
         return; // Nobody hears of it: the window's run goes on whatever happens to one file.
     }

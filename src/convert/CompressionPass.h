@@ -13,7 +13,7 @@ class ConversionObserver;
 
 /// The hand-over record of the compression pass: the compressed copy and the file it replaces.
 struct ConvertInfo {
-    QString tempFilePathName; ///< "Temp File Path Name": in the temporary folder.
+    QString tempFilePathName; ///< "Temp File Path Name": in the temporary folder; empty for none.
     QString destFilePathName; ///< "Dest File Path Name": the PDF that was compressed.
 };
 
@@ -40,8 +40,8 @@ struct CompressionPlaces {
     QString bundlePath;      ///< Holds Contents/Resources with the filter files.
     QString temporaryFolder; ///< Gets the compressed copy.
 
-    /// The running application's bundle and the system's temporary folder.
-    static CompressionPlaces ofApplication();
+    /// The running application's bundle, and a folder for the copy.
+    static CompressionPlaces ofApplication(const QString &temporaryFolder);
 };
 
 /// Rewrites the finished PDF at `path` into the temporary folder through the filter of
@@ -50,21 +50,23 @@ struct CompressionPlaces {
 /// alone and has its passwords from its first byte on. Reports progress from 50 to 100, page by
 /// page. Never throws; when the pass fails there is no temporary file. Index 0 does nothing.
 CompressionOutcome compress(const QString &path, const ConversionOptions &options,
-                            ConversionObserver *observer = nullptr,
-                            const CompressionPlaces &places = CompressionPlaces::ofApplication());
+                            const CompressionPlaces &places,
+                            ConversionObserver *observer = nullptr);
 
 /// What the window does with the hand-over record: the destination gives way to the temporary
 /// file. Errors are ignored, so after a failed pass the destination is gone.
-void compressCompleted(const ConvertInfo &convertInfo);
+void compressCompleted(const ConvertInfo &convertInfo, SystemCalls &calls = SystemCalls::system());
 
-/// What the command line does with it: the destination gives way only when the whole copy stands
-/// on its disk. Throws Error when it cannot; the destination is then as it was.
-void putInPlace(const ConvertInfo &convertInfo, Flush flush);
+/// What the command line does with it: the destination gives way to the copy in one step, once that
+/// stands whole on its disk. Throws Error when it cannot; the destination is then as it was.
+void putInPlace(const ConvertInfo &convertInfo, Flush flush,
+                SystemCalls &calls = SystemCalls::system());
 
 /// Deletes a file; errors are ignored.
-void deleteFile(const QString &path);
+void deleteFile(const QString &path, SystemCalls &calls = SystemCalls::system());
 
 /// Copies `source` to `destination`, which must not exist; errors are ignored.
-void copyDestFile(const QString &destination, const QString &source);
+void copyDestFile(const QString &destination, const QString &source,
+                  SystemCalls &calls = SystemCalls::system());
 
 } // namespace folioforge

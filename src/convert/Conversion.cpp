@@ -100,7 +100,8 @@ std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security) {
 PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
                      const ConversionOptions &options, ConversionObserver *observer,
                      const std::stop_token &stop) {
-    PDFContext context(path, {options.info, encryptionFor(options.security), options.flush});
+    PDFContext context(
+        path, {options.info, encryptionFor(options.security), options.flush, options.calls});
     PDFOutcome outcome;
     for (std::size_t i = 0; i < entries.size() && !stop.stop_requested(); ++i) {
         outcome.entries.push_back(writeEntry(*entries[i], context, options, stop));

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace folioforge {
 
 /// Everything one run reads from the options panel or the arguments, copied when the run starts.
@@ -18,6 +20,8 @@ struct ConversionOptions {
     PageSetup imagePage;
     int compressIndex = 0; ///< 0 none, 1 "150m", 2 "96m", 3 "72l".
     Flush flush = Flush::Always;
+    /// What every file of the run is written through.
+    std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
 };
 
 } // namespace folioforge

@@ -1,6 +1,7 @@
 #include "filelist/SourceFiles.h"
 
 #include "error/Error.h"
+#include "filelist/StandIns.h"
 #include "pdf/SourceDocument.h"
 
 #include <QFile>
@@ -33,9 +34,10 @@ std::vector<QByteArray> recognisedNames(const QByteArray &folder) {
     return names;
 }
 
-void addDirectorie(const QString &folder, QStringList &files) {
-    for (const QByteArray &name : recognisedNames(QFile::encodeName(folder))) {
-        files += folder + u'/' + QFile::decodeName(name);
+void addDirectorie(const QString &folder, QStringList &files, StandIns &standIns) {
+    const QByteArray place = QFile::encodeName(folder);
+    for (const QByteArray &name : recognisedNames(place)) {
+        files += standIns.pathFor(place + '/' + name);
     }
 }
 

@@ -3,8 +3,10 @@
 #include "convert/CompressionPass.h"
 #include "convert/Conversion.h"
 #include "convert/ConversionOptions.h"
+#include "filelist/StandIns.h"
 #include "mainwnd/SkinTableView.h"
 #include "mainwnd/Surroundings.h"
+#include "pdf/TemporaryFolder.h"
 #include "text/FontCascade.h"
 #include "ui_MainWnd.h"
 
@@ -228,7 +230,9 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     int m_fileIndex = 0;            ///< The entry being converted.
     ConversionOptions m_runOptions; ///< As they stood when the run began.
     bool m_bWorking = false;        ///< The worker has not yet handed over what it makes.
-    std::jthread m_worker;          ///< The last member: it is stopped before anything goes.
+    TemporaryFolder m_temporaryFolder;
+    StandIns m_standIns{m_temporaryFolder};
+    std::jthread m_worker; ///< The last member: it is stopped before anything goes.
 };
 
 } // namespace folioforge

@@ -2,8 +2,8 @@
 
 #include "error/Error.h"
 #include "mainwnd/FilesArray.h"
+#include "pdf/PartFiles.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <numeric>
@@ -88,6 +88,7 @@ void MainWndCtrl::clickBtnCreate() {
     if (!passes(checkConversion(m_runOptions))) {
         return;
     }
+    removeAbandonedParts(m_runOptions.outputFolder);
     m_fileIndex = 0;
     m_filesArray->setStateIndexOfAll(Waiting);
     m_bConverting = true;
@@ -173,10 +174,10 @@ void MainWndCtrl::compress(const QString &path) {
         runOnMainThread([this] { compressCompleted(); });
         return;
     }
-    const CompressionPlaces places{m_surroundings.bundlePath, QDir::tempPath()};
+    const CompressionPlaces places{m_surroundings.bundlePath, m_temporaryFolder.path()};
     startWorker([this, path, places, options = m_runOptions](const std::stop_token &stop) {
         PassObserver observer(*this, stop);
-        PendingCopy copy(folioforge::compress(path, options, &observer, places).convertInfo);
+        PendingCopy copy(folioforge::compress(path, options, places, &observer).convertInfo);
         runOnMainThread([this, copy = std::move(copy)]() mutable {
             m_bWorking = false;
             m_convertInfoDict = copy.take();

@@ -23,12 +23,12 @@ QStringList recognisedExtensions() {
 }
 
 /// The chosen files, and for a chosen folder the files that it holds.
-QStringList filesOf(const QStringList &chosen) {
+QStringList filesOf(const QStringList &chosen, StandIns &standIns) {
     QStringList files;
-    for (const QString &path : chosen) {
+    for (const QString &path : standIns.pathsForReadable(chosen)) {
         const QFileInfo info(path);
         if (info.isDir()) {
-            addDirectorie(path, files);
+            addDirectorie(path, files, standIns);
         } else if (info.exists()) {
             files += path;
         }
@@ -95,7 +95,7 @@ QString MainWndCtrl::documentsFolder() const {
 void MainWndCtrl::addFromPanel(const FilePanel &panel) {
     m_surroundings.notices.showFilePanel(m_window.get(), panel, [this](const QStringList &chosen) {
         if (!chosen.isEmpty()) {
-            addFiles(filesOf(chosen), -1);
+            addFiles(filesOf(chosen, m_standIns), -1);
         }
     });
 }
@@ -105,7 +105,7 @@ void MainWndCtrl::addKindFromPanel(const QString &title, FileKind kind) {
         title, {}, FilePanel::Chooses::Files, true, extensionsOf(kind), documentsFolder()};
     m_surroundings.notices.showFilePanel(m_window.get(), panel, [this](const QStringList &chosen) {
         if (!chosen.isEmpty()) {
-            addFiles(chosen, -1);
+            addFiles(m_standIns.pathsForReadable(chosen), -1);
         }
     });
 }
@@ -263,7 +263,7 @@ bool MainWndCtrl::acceptDrop(const QMimeData &data, int row) {
         return true;
     }
     QStringList paths;
-    for (const QString &path : *dragged) {
+    for (const QString &path : m_standIns.pathsForReadable(*dragged)) {
         if (isDroppable(path)) {
             paths += path;
         }

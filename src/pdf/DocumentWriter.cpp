@@ -1,20 +1,17 @@
 #include "pdf/DocumentWriter.h"
 
+#include "pdf/OutputPipeline.h"
 #include "pdf/PDFContext.h"
 #include "pdf/Password.h"
 #include "pdf/QpdfBorder.h"
 
-#include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
 #include <QCryptographicHash>
 
-#include <libdeflate.h>
-
 #include <algorithm>
 #include <array>
-#include <optional>
 
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -23,40 +20,6 @@
 namespace folioforge {
 
 namespace {
-
-/// Brings the library's bytes to the output file. The library also writes while it unwinds, where
-/// throwing would end the program: a failure is kept until it can be thrown.
-class OutputPipeline final : public Pipeline {
-  public:
-    explicit OutputPipeline(OutputFile &file)
-        : Pipeline("output", nullptr)
-        , m_file(file) {}
-
-    void write(unsigned char const *data, size_t length) override {
-        if (m_failure) {
-            return;
-        }
-        m_checksum = libdeflate_crc32(m_checksum, data, length);
-        try {
-            m_file.write({reinterpret_cast<const char *>(data), length});
-        } catch (const Error &error) {
-            m_failure = error;
-        }
-    }
-    void finish() override {}
-
-    void throwFailure() const {
-        if (m_failure) {
-            throw Error(*m_failure);
-        }
-    }
-    [[nodiscard]] std::uint32_t checksum() const { return m_checksum; }
-
-  private:
-    OutputFile &m_file;
-    std::optional<Error> m_failure;
-    std::uint32_t m_checksum = 0;
-};
 
 /// The identifier that the library writes when it is told to write a fixed one.
 constexpr std::string_view kPlaceholder = "31415926535897932384626433832795";

@@ -5,7 +5,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -14,6 +13,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 namespace folioforge {
 
@@ -24,9 +24,25 @@ constexpr std::size_t kBufferSize = 1 << 20;
 /// those are often not backed yet, and the same bytes then take three times as long.
 constexpr std::size_t kWriteSize = 128 << 10;
 
-[[noreturn]] void fail(const QString &what) {
-    throw Error(QStringLiteral("%1: %2").arg(what, QString::fromLocal8Bit(std::strerror(errno))));
-}
+constexpr mode_t kNewFileMode = 0666;
+constexpr mode_t kOwnerMode = S_IRUSR | S_IWUSR;
+
+/// Closes its descriptor at the end.
+class Descriptor {
+  public:
+    explicit Descriptor(int fd)
+        : m_fd(fd) {}
+    ~Descriptor() {
+        if (m_fd >= 0) {
+            ::close(m_fd);
+        }
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+
+  private:
+    int m_fd;
+};
 
 bool isNoNamelessFile(int error) {
     return error == EOPNOTSUPP || error == EISDIR || error == EINVAL || error == ENOENT ||
@@ -38,32 +54,23 @@ bool canLinkByDescriptor(int fd) {
     return ::access(path.c_str(), F_OK) == 0;
 }
 
-/// ".NAME.RANDOM.folioforge-part", with the name cut at a character so that the whole fits the 255
-/// bytes of a file name.
-QByteArray partName(const QByteArray &fileName) {
-    constexpr qsizetype kMaxName = 255;
-    QByteArray ending = QByteArray::number(QRandomGenerator::system()->generate64(), 36);
-    ending = "." + ending + ".folioforge-part";
-    QByteArray stem = fileName.left(kMaxName - 1 - ending.size());
-    if (stem.size() < fileName.size()) {
-        const auto isContinuation = [](char byte) {
-            return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-        };
-        while (!stem.isEmpty() && isContinuation(fileName.at(stem.size()))) {
-            stem.chop(1);
-        }
+/// The result of `call`, which is made again as long as a signal interrupts it.
+template<typename Call> auto uninterrupted(const Call &call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) {
+        result = call();
     }
-    return "." + stem + ending;
+    return result;
 }
 
 } // namespace
 
-OutputFile::OutputFile(const QString &path, SystemCalls &calls)
-    : m_calls(calls) {
+OutputFile::OutputFile(const QString &path, SystemCalls &calls, Readers readers)
+    : m_calls(calls)
+    , m_newMode(readers == Readers::OwnerAlone ? kOwnerMode : kNewFileMode) {
     const QFileInfo info(path);
     m_folder = QFile::encodeName(info.path()).toStdString();
-    constexpr mode_t kNewFileMode = 0666;
-    m_fd = m_calls.openAnonymous(m_folder.c_str(), kNewFileMode);
+    m_fd = uninterrupted([&] { return m_calls.openAnonymous(m_folder.c_str(), m_newMode); });
     if (m_fd >= 0 && !canLinkByDescriptor(m_fd)) {
         m_calls.close(m_fd);
         m_fd = -1;
@@ -71,7 +78,7 @@ OutputFile::OutputFile(const QString &path, SystemCalls &calls)
     }
     if (m_fd < 0) {
         if (!isNoNamelessFile(errno)) {
-            fail(QStringLiteral("Cannot create the output file"));
+            fail("create");
         }
         openNamed(QFile::encodeName(info.fileName()));
     }
@@ -87,45 +94,60 @@ OutputFile::~OutputFile() {
     }
 }
 
+void OutputFile::fail(const char *doing) const {
+    const int reason = errno;
+    throw Error(QStringLiteral("Cannot %1 a file in %2: %3")
+                    .arg(QString::fromLatin1(doing), QFile::decodeName(m_folder.c_str()),
+                         QString::fromLocal8Bit(std::strerror(reason))));
+}
+
 void OutputFile::openNamed(const QByteArray &fileName) {
     constexpr int kAttempts = 16;
-    constexpr mode_t kNewFileMode = 0666;
-    constexpr mode_t kPermissionBits = 07777;
-    for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        auto part = std::make_unique<PartFile>(m_folder + "/" + partName(fileName).toStdString());
-        m_fd = m_calls.open(part->path().c_str(),
-                            O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC, kNewFileMode);
-        if (m_fd < 0 && errno == EEXIST) {
-            continue;
-        }
-        if (m_fd < 0) {
-            fail(QStringLiteral("Cannot create the output file"));
-        }
-        m_part = std::move(part);
-        // The empty file tells which mode the umask leaves; until it is whole it is the owner's.
-        struct stat status {};
-        if (::fstat(m_fd, &status) != 0) {
-            fail(QStringLiteral("Cannot create the output file"));
-        }
-        m_mode = status.st_mode & kPermissionBits;
-        // File systems without permissions refuse; their files have the mount's mode then as now.
-        m_calls.fchmod(m_fd, S_IRUSR | S_IWUSR);
-        return;
+    bool opened = false;
+    for (int attempt = 0; !opened && attempt < kAttempts; ++attempt) {
+        opened = openPart(partPath(m_folder, fileName));
     }
-    fail(QStringLiteral("Cannot create the output file"));
+    if (!opened) {
+        fail("create");
+    }
+    // The empty file tells which mode the umask leaves; until it is whole it is the owner's.
+    struct stat status {};
+    constexpr mode_t kPermissionBits = 07777;
+    m_mode = ::fstat(m_fd, &status) == 0 ? status.st_mode & kPermissionBits : kOwnerMode;
+    // File systems without permissions refuse; their files have the mount's mode then as now.
+    m_calls.fchmod(m_fd, kOwnerMode);
+}
+
+/// False when another name is to be tried: this one is taken, or the file was taken for abandoned
+/// before it was locked.
+bool OutputFile::openPart(const std::string &path) {
+    auto part = std::make_unique<PartFile>(path);
+    constexpr int kFlags = O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC;
+    m_fd = uninterrupted([&] { return m_calls.open(path.c_str(), kFlags, m_newMode); });
+    if (m_fd < 0 && errno == EEXIST) {
+        return false;
+    }
+    if (m_fd < 0) {
+        fail("create");
+    }
+    if (!lockPart(m_fd) || isRemoved(m_fd)) {
+        m_calls.close(std::exchange(m_fd, -1));
+        errno = EBUSY;
+        return false;
+    }
+    m_part = std::move(part);
+    return true;
 }
 
 void OutputFile::writeAll(const char *data, std::size_t size) {
     while (size > 0) {
-        const ssize_t written = m_calls.write(m_fd, data, std::min(size, kWriteSize));
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t written =
+            uninterrupted([&] { return m_calls.write(m_fd, data, std::min(size, kWriteSize)); });
         if (written == 0) {
             errno = ENOSPC;
         }
         if (written <= 0) {
-            fail(QStringLiteral("Cannot write the output file"));
+            fail("write");
         }
         data += written;
         size -= static_cast<std::size_t>(written);
@@ -152,29 +174,49 @@ void OutputFile::write(std::span<const char> bytes) {
 QByteArray OutputFile::read(qint64 offset, qint64 size) {
     drain();
     QByteArray bytes(size, Qt::Uninitialized);
-    const ssize_t got = m_calls.pread(m_fd, bytes.data(), static_cast<std::size_t>(size), offset);
-    if (got < 0) {
-        fail(QStringLiteral("Cannot read the output file back"));
+    qint64 done = 0;
+    while (done < size) {
+        const ssize_t got = uninterrupted([&] {
+            return m_calls.pread(m_fd, bytes.data() + done, static_cast<std::size_t>(size - done),
+                                 offset + done);
+        });
+        if (got < 0) {
+            fail("read back");
+        }
+        if (got == 0) {
+            break;
+        }
+        done += got;
     }
-    bytes.truncate(got);
+    bytes.truncate(done);
     return bytes;
 }
 
 void OutputFile::overwrite(qint64 offset, const QByteArray &bytes) {
     drain();
-    const auto size = static_cast<std::size_t>(bytes.size());
-    if (m_calls.pwrite(m_fd, bytes.constData(), size, offset) != bytes.size()) {
-        fail(QStringLiteral("Cannot write the output file"));
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const ssize_t written = uninterrupted([&] {
+            return m_calls.pwrite(m_fd, bytes.constData() + done,
+                                  static_cast<std::size_t>(bytes.size() - done), offset + done);
+        });
+        if (written == 0) {
+            errno = ENOSPC;
+        }
+        if (written <= 0) {
+            fail("write");
+        }
+        done += written;
     }
 }
 
 void OutputFile::finish(Flush flush) {
     drain();
     if (m_part && m_calls.fchmod(m_fd, m_mode) != 0 && errno != EPERM && errno != ENOTSUP) {
-        fail(QStringLiteral("Cannot write the output file"));
+        fail("write");
     }
-    if (flush == Flush::Always && m_calls.fsync(m_fd) != 0) {
-        fail(QStringLiteral("Cannot write the output file to the disk"));
+    if (flush == Flush::Always && uninterrupted([&] { return m_calls.fsync(m_fd); }) != 0) {
+        fail("flush");
     }
 }
 
@@ -195,7 +237,7 @@ bool OutputFile::renamePart(const char *path) {
     }
     // Neither is known here: hold the name with a file of our own, then replace that one.
     const int held =
-        m_calls.open(path, O_CREAT | O_EXCL | O_NOFOLLOW | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+        m_calls.open(path, O_CREAT | O_EXCL | O_NOFOLLOW | O_WRONLY | O_CLOEXEC, kOwnerMode);
     if (held < 0) {
         return false;
     }
@@ -219,20 +261,50 @@ OutputFile::Published OutputFile::publish(const QString &path, Flush flush) {
         if (errno == EEXIST) {
             return Published::NameTaken;
         }
-        fail(QStringLiteral("Cannot give the output file its name"));
+        fail("name");
     }
     m_part.reset();
-    const int fd = std::exchange(m_fd, -1);
-    if (m_calls.close(fd) != 0 && errno != EINTR) {
-        const int reason = errno;
+    try {
+        closeFile();
+    } catch (const Error &) {
         m_calls.unlink(name.constData());
-        errno = reason;
-        fail(QStringLiteral("Cannot write the output file"));
+        throw;
     }
     if (flush == Flush::Always) {
         syncFolder();
     }
     return Published::Yes;
+}
+
+void OutputFile::linkAsPart(const QByteArray &fileName) {
+    auto part = std::make_unique<PartFile>(partPath(m_folder, fileName));
+    lockPart(m_fd);
+    if (m_calls.linkAnonymous(m_fd, part->path().c_str()) != 0) {
+        fail("name");
+    }
+    m_part = std::move(part);
+}
+
+void OutputFile::replace(const QString &path, Flush flush) {
+    if (!m_part) {
+        linkAsPart(QFile::encodeName(QFileInfo(path).fileName()));
+    }
+    // Some file systems tell only now that not all was written; the lock has to outlast that.
+    const Descriptor lock(::fcntl(m_fd, F_DUPFD_CLOEXEC, 0));
+    closeFile();
+    if (m_calls.rename(m_part->path().c_str(), QFile::encodeName(path).constData()) != 0) {
+        fail("name");
+    }
+    m_part.reset();
+    if (flush == Flush::Always) {
+        syncFolder();
+    }
+}
+
+void OutputFile::closeFile() {
+    if (m_calls.close(std::exchange(m_fd, -1)) != 0 && errno != EINTR) {
+        fail("write");
+    }
 }
 
 void OutputFile::syncFolder() {

@@ -84,7 +84,7 @@ class PDFContext::Impl {
     Settings m_settings;
     QPDF m_document;
     std::shared_ptr<SourceReader> m_reader = std::make_shared<SourceReader>();
-    StreamData m_streams{m_document, m_reader};
+    StreamData m_streams{m_document, m_reader, m_settings.calls};
     ImageEmbedder m_images{m_document, m_streams};
     std::vector<std::unique_ptr<FontEmbedder>> m_fonts; ///< One for each cascade.
     QPDFObjectHandle m_pageType = QPDFObjectHandle::newName("/Page");
@@ -241,7 +241,7 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         // What is read from now on must come from files that are still what they were.
         m_reader->closeFile();
         m_reader->clearFailure();
-        OutputFile file(m_path);
+        OutputFile file(m_path, m_settings.calls);
         writeDocument(m_document, file, m_settings.encryption.get(), catalog.pdfVersion());
         if (m_reader->failure()) {
             throw Error(*m_reader->failure());

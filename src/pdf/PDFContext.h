@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pdf/Flush.h"
+#include "pdf/SystemCalls.h"
 #include "text/FontCascade.h"
 
 #include <QDateTime>
@@ -55,6 +56,8 @@ class PDFContext {
         DocumentInfo info;
         std::unique_ptr<Encryption> encryption; ///< Null for an unprotected document.
         Flush flush = Flush::Always;
+        /// What every file is written through.
+        std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
     };
 
     /// A context that will write to `path`.

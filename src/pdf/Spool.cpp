@@ -1,18 +1,18 @@
 #include "pdf/Spool.h"
 
 #include "error/Error.h"
+#include "pdf/PartFiles.h"
 
 #include <QDir>
 #include <QFile>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
+#include <string>
 
 namespace folioforge {
 
@@ -25,46 +25,43 @@ constexpr qint64 kWindowSize = qint64{256} << 10;
     throw Error(QStringLiteral("%1: %2").arg(what, QString::fromLocal8Bit(std::strerror(errno))));
 }
 
-int openNameless(const QByteArray &folder) {
-    if (folder.isEmpty()) { // TMPDIR names a folder that does not exist.
-        errno = ENOENT;
-        return -1;
-    }
-#ifdef O_TMPFILE
-    const int fd =
-        ::open(folder.constData(), O_TMPFILE | O_EXCL | O_RDWR | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (fd >= 0) {
-        return fd;
-    }
-#endif
-    QByteArray name = folder + "/folioforge-XXXXXX";
-    const int named = ::mkostemp(name.data(), O_CLOEXEC);
-    if (named >= 0) {
-        ::unlink(name.constData());
-    }
-    return named;
-}
-
 } // namespace
 
 Spool::~Spool() {
     if (m_fd >= 0) {
-        ::close(m_fd);
+        m_calls.close(m_fd);
+    }
+}
+
+void Spool::openFile() {
+    constexpr mode_t kOwnerMode = S_IRUSR | S_IWUSR;
+    const std::string folder = QFile::encodeName(QDir::tempPath()).toStdString();
+    m_fd = m_calls.openAnonymous(folder.c_str(), kOwnerMode);
+    if (m_fd < 0 && !folder.empty()) { // Empty where TMPDIR names a folder that does not exist.
+        const std::string path = partPath(folder, "spool");
+        m_fd = m_calls.open(path.c_str(), O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC,
+                            kOwnerMode);
+        if (m_fd >= 0) {
+            m_calls.unlink(path.c_str());
+        }
+    }
+    if (m_fd < 0) {
+        fail(QStringLiteral("Cannot create a temporary file"));
     }
 }
 
 void Spool::moveToFile(QByteArrayView data) {
     if (m_fd < 0) {
-        m_fd = openNameless(QFile::encodeName(QDir::tempPath()));
-    }
-    if (m_fd < 0) {
-        fail(QStringLiteral("Cannot create a temporary file"));
+        openFile();
     }
     while (!data.isEmpty()) {
         const ssize_t written =
-            ::pwrite(m_fd, data.data(), static_cast<std::size_t>(data.size()), m_fileSize);
+            m_calls.pwrite(m_fd, data.data(), static_cast<std::size_t>(data.size()), m_fileSize);
         if (written < 0 && errno == EINTR) {
             continue;
+        }
+        if (written == 0) {
+            errno = ENOSPC;
         }
         if (written <= 0) {
             fail(QStringLiteral("Cannot write a temporary file"));
@@ -96,10 +93,14 @@ void Spool::readWindow(Place place) {
     m_windowStart = place.offset;
     qint64 done = 0;
     while (done < size) {
-        const ssize_t got = ::pread(m_fd, m_window.data() + done,
-                                    static_cast<std::size_t>(size - done), place.offset + done);
+        const ssize_t got =
+            m_calls.pread(m_fd, m_window.data() + done, static_cast<std::size_t>(size - done),
+                          place.offset + done);
         if (got < 0 && errno == EINTR) {
             continue;
+        }
+        if (got == 0) {
+            errno = EIO;
         }
         if (got <= 0) {
             m_window.clear();

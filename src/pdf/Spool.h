@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pdf/SystemCalls.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
 
@@ -15,7 +17,8 @@ class Spool {
         qint64 length = 0;
     };
 
-    Spool() = default;
+    explicit Spool(SystemCalls &calls = SystemCalls::system())
+        : m_calls(calls) {}
     ~Spool();
     Spool(const Spool &) = delete;
     Spool &operator=(const Spool &) = delete;
@@ -26,9 +29,11 @@ class Spool {
     [[nodiscard]] QByteArrayView at(Place place);
 
   private:
+    void openFile();
     void moveToFile(QByteArrayView data);
     void readWindow(Place place);
 
+    SystemCalls &m_calls;
     QByteArray m_memory;   ///< What came after the part in the file.
     qint64 m_fileSize = 0; ///< Bytes of the spool that are in the file.
     int m_fd = -1;

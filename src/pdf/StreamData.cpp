@@ -94,10 +94,10 @@ class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider
     std::vector<FileSlice> m_slices;
 };
 
-StreamData::StreamData(QPDF &document, std::shared_ptr<SourceReader> reader)
+StreamData::StreamData(QPDF &document, std::shared_ptr<SourceReader> reader, SystemCalls &calls)
     : m_document(document)
     , m_reader(std::move(reader))
-    , m_spool(std::make_shared<Spool>())
+    , m_spool(std::make_shared<Spool>(calls))
     , m_spooled(std::make_shared<SpooledData>(m_spool))
     , m_flateName(QPDFObjectHandle::newName("/FlateDecode")) {}
 

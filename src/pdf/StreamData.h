@@ -26,7 +26,9 @@ enum class Effort {
 /// compressed: from the spool, or from where it lies in a source file.
 class StreamData {
   public:
-    StreamData(QPDF &document, std::shared_ptr<SourceReader> reader);
+    /// `calls` write what does not fit into memory.
+    StreamData(QPDF &document, std::shared_ptr<SourceReader> reader,
+               SystemCalls &calls = SystemCalls::system());
 
     /// A stream with `data`, which is compressed as `dictionary` says.
     QPDFObjectHandle fromBytes(const QPDFObjectHandle &dictionary, QByteArrayView data);

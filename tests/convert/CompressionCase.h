@@ -43,7 +43,7 @@ class CompressionCase {
         ConversionOptions options;
         options.compressIndex = index;
         options.security = security;
-        return compress(m_path, options, observer, m_places);
+        return compress(m_path, options, m_places, observer);
     }
 
     /// Compresses through "150m" and says where the copy stands; fails the test on an error.

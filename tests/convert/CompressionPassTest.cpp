@@ -294,8 +294,17 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         const CompressionOutcome outcome = run(1);
         QVERIFY(!outcome.error.isEmpty());
         QVERIFY(outcome.convertInfo.has_value());
-        QVERIFY(!QFile::exists(outcome.convertInfo->tempFilePathName));
+        QCOMPARE(outcome.convertInfo->tempFilePathName, QString());
         compressCompleted(*outcome.convertInfo);
+        QVERIFY(!QFile::exists(m_path));
+    }
+
+    void afterAFailedPassAForeignFileOfTheSameNameStays() {
+        const QString foreign = m_places.temporaryFolder + QStringLiteral("/document.pdf");
+        test::writeFile(foreign, "someone else's");
+        test::writeFile(m_path, "no document at all");
+        compressCompleted(*run(1).convertInfo);
+        QCOMPARE(test::readFile(foreign), QByteArray("someone else's"));
         QVERIFY(!QFile::exists(m_path));
     }
 

@@ -1,5 +1,7 @@
 #include "filelist/SourceFiles.h"
 
+#include "filelist/StandIns.h"
+#include "pdf/TemporaryFolder.h"
 #include "support/Files.h"
 
 #include <QDir>
@@ -15,6 +17,9 @@ using namespace folioforge;
 class SourceFilesTest : public QObject {
     Q_OBJECT
 
+    TemporaryFolder m_temporaryFolder;
+    StandIns m_standIns{m_temporaryFolder};
+
   private Q_SLOTS:
     void aFolderGivesItsTextsAndImagesButNoPdf() {
         const QTemporaryDir folder;
@@ -25,7 +30,7 @@ class SourceFilesTest : public QObject {
         QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("sub")));
         test::writeFile(folder.filePath(QStringLiteral("sub/deep.txt")), "x");
         QStringList files{QStringLiteral("before")};
-        addDirectorie(folder.path(), files);
+        addDirectorie(folder.path(), files, m_standIns);
         QCOMPARE(files.takeFirst(), QStringLiteral("before"));
         files.sort();
         QCOMPARE(files, (QStringList{folder.path() + QStringLiteral("/.hidden.txt"),
@@ -37,7 +42,7 @@ class SourceFilesTest : public QObject {
         const QTemporaryDir folder;
         QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("notes.txt")));
         QStringList files;
-        addDirectorie(folder.path(), files);
+        addDirectorie(folder.path(), files, m_standIns);
         QVERIFY(files.isEmpty());
     }
 
@@ -52,7 +57,7 @@ class SourceFilesTest : public QObject {
             expected += folder.path() + u'/' + name;
         }
         QStringList files;
-        addDirectorie(folder.path(), files);
+        addDirectorie(folder.path(), files, m_standIns);
         QCOMPARE(files.size(), 50);
         QCOMPARE(files, expected);
     }
@@ -60,8 +65,9 @@ class SourceFilesTest : public QObject {
     void aFolderThatCannotBeListedAddsNothing() {
         const QTemporaryDir folder;
         QStringList files;
-        addDirectorie(folder.filePath(QStringLiteral("missing")), files);
-        addDirectorie(test::writeFile(folder.filePath(QStringLiteral("file")), "x"), files);
+        addDirectorie(folder.filePath(QStringLiteral("missing")), files, m_standIns);
+        addDirectorie(test::writeFile(folder.filePath(QStringLiteral("file")), "x"), files,
+                      m_standIns);
         QVERIFY(files.isEmpty());
     }
 

@@ -2,6 +2,9 @@
 
 #include "error/Error.h"
 #include "pdf/PartFiles.h"
+#include "pdf/TemporaryFolder.h"
+#include "support/FaultyCalls.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,54 +16,12 @@
 #include <cerrno>
 #include <cstring>
 #include <memory>
-#include <set>
 #include <string>
 
 using namespace folioforge;
+using test::FaultyCalls;
 
 namespace {
-
-/// The running system, save for the calls that a test lets fail.
-class FaultyCalls final : public SystemCalls {
-  public:
-    int failWith = 0; ///< errno of the failing calls.
-    std::set<std::string> failing;
-    bool hasNameless = true;
-
-    int openAnonymous(const char *folder, mode_t mode) override {
-        if (!hasNameless) {
-            errno = EOPNOTSUPP;
-            return -1;
-        }
-        return fails("openAnonymous") ? -1 : SystemCalls::openAnonymous(folder, mode);
-    }
-    ssize_t write(int fd, const void *data, std::size_t size) override {
-        return fails("write") ? -1 : SystemCalls::write(fd, data, size);
-    }
-    int fsync(int fd) override { return fails("fsync") ? -1 : SystemCalls::fsync(fd); }
-    int close(int fd) override {
-        const int result = SystemCalls::close(fd);
-        return fails("close") ? -1 : result;
-    }
-    int linkAnonymous(int fd, const char *path) override {
-        return fails("linkAnonymous") ? -1 : SystemCalls::linkAnonymous(fd, path);
-    }
-    int renameExclusive(const char *from, const char *to) override {
-        return fails("renameExclusive") ? -1 : SystemCalls::renameExclusive(from, to);
-    }
-    int link(const char *from, const char *to) override {
-        return fails("link") ? -1 : SystemCalls::link(from, to);
-    }
-
-  private:
-    bool fails(const char *call) const {
-        if (!failing.contains(call)) {
-            return false;
-        }
-        errno = failWith;
-        return true;
-    }
-};
 
 const QByteArray kContent("content");
 
@@ -82,6 +43,11 @@ class OutputFileTest : public QObject {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
     }
+    static unsigned modeOf(const QString &path) {
+        struct stat status {};
+        ::stat(QFile::encodeName(path).constData(), &status);
+        return status.st_mode & 0777U;
+    }
     static OutputFile::Published writeTo(const QString &path, SystemCalls &calls,
                                          Flush flush = Flush::Always) {
         OutputFile file(path, calls);
@@ -102,9 +68,8 @@ class OutputFileTest : public QObject {
     }
     static FaultyCalls without(const QStringList &missing) {
         FaultyCalls calls;
-        calls.failWith = EOPNOTSUPP;
         for (const QString &call : missing) {
-            calls.failing.insert(call.toStdString());
+            calls.failing[call.toStdString()] = EOPNOTSUPP;
         }
         return calls;
     }
@@ -165,9 +130,7 @@ class OutputFileTest : public QObject {
         const mode_t before = ::umask(027);
         writeTo(target(), calls);
         ::umask(before);
-        struct stat status {};
-        QCOMPARE(::stat(target().toLocal8Bit().constData(), &status), 0);
-        QCOMPARE(status.st_mode & 0777U, 0640U);
+        QCOMPARE(modeOf(target()), 0640U);
     }
 
     void theUnfinishedFileIsItsOwnersAlone() {
@@ -175,9 +138,7 @@ class OutputFileTest : public QObject {
         const OutputFile file(target(), calls);
         QCOMPARE(names().size(), 1);
         QVERIFY(names().first().endsWith(QStringLiteral(".folioforge-part")));
-        struct stat status {};
-        QCOMPARE(::stat(target(names().first()).toLocal8Bit().constData(), &status), 0);
-        QCOMPARE(status.st_mode & 0777U, 0600U);
+        QCOMPARE(modeOf(target(names().first())), 0600U);
     }
 
     void anUnpublishedFileLeavesNothing_data() { addWays(); }
@@ -189,6 +150,99 @@ class OutputFileTest : public QObject {
             file.write(kContent);
             file.finish(Flush::Never);
         }
+        QCOMPARE(names(), QStringList());
+    }
+
+    void aFileIsReplacedInOneStep_data() { addWays(); }
+    void aFileIsReplacedInOneStep() {
+        QFETCH(QStringList, missing);
+        FaultyCalls calls = without(missing);
+        test::writeFile(target(), "the old one");
+        OutputFile file(target(), calls);
+        file.write(kContent);
+        file.finish(Flush::Always);
+        QCOMPARE(contentOf(target()), QByteArray("the old one"));
+        file.replace(target(), Flush::Always);
+        QCOMPARE(contentOf(target()), kContent);
+        QCOMPARE(names(), QStringList{QStringLiteral("a.pdf")});
+    }
+
+    void aLinkIsReplacedAndNotFollowed() {
+        const QString victim = test::writeFile(target(QStringLiteral("victim")), "mine");
+        QVERIFY(QFile::link(victim, target()));
+        OutputFile file(target());
+        file.write(kContent);
+        file.finish(Flush::Never);
+        file.replace(target(), Flush::Never);
+        QCOMPARE(contentOf(victim), QByteArray("mine"));
+        QVERIFY(!QFileInfo(target()).isSymLink());
+        QCOMPARE(contentOf(target()), kContent);
+    }
+
+    void aFileCanBeItsOwnersAlone_data() { addWays(); }
+    void aFileCanBeItsOwnersAlone() {
+        QFETCH(QStringList, missing);
+        FaultyCalls calls = without(missing);
+        OutputFile file(target(), calls, OutputFile::Readers::OwnerAlone);
+        file.finish(Flush::Never);
+        file.publish(target(), Flush::Never);
+        QCOMPARE(modeOf(target()), 0600U);
+    }
+
+    void whatAKilledProgramLeftIsRemoved() {
+        const QString part =
+            test::writeFile(target(QStringLiteral(".a.x.folioforge-part")), "half");
+        const QString folder = target(QStringLiteral(".folder.x.folioforge-part"));
+        QVERIFY(QDir().mkpath(folder + QStringLiteral("/0")));
+        test::writeFile(folder + QStringLiteral("/0/a.pdf"), "a copy");
+        const QString other = test::writeFile(target(QStringLiteral(".a.x.other-part")), "mine");
+        const QString visible =
+            test::writeFile(target(QStringLiteral("a.folioforge-part")), "mine");
+        removeAbandonedParts(m_folder->path());
+        QVERIFY(!QFile::exists(part));
+        QVERIFY(!QFile::exists(folder));
+        QVERIFY(QFile::exists(other));
+        QVERIFY(QFile::exists(visible));
+    }
+
+    void whatIsInUseIsNotRemoved() {
+        FaultyCalls calls = without({QStringLiteral("openAnonymous")});
+        OutputFile file(target(), calls);
+        TemporaryFolder folder(m_folder->path());
+        const QString path = folder.path();
+        removeAbandonedParts(m_folder->path());
+        QCOMPARE(names().size(), 2);
+        QVERIFY(QDir(path).exists());
+        QCOMPARE(file.publish(target(), Flush::Never), OutputFile::Published::Yes);
+    }
+
+    void aPlantedPartIsNotFollowed() {
+        const QString victim = test::writeFile(target(QStringLiteral("victim")), "mine");
+        QVERIFY(QFile::link(victim, target(QStringLiteral(".a.x.folioforge-part"))));
+        removeAbandonedParts(m_folder->path());
+        QCOMPARE(contentOf(victim), QByteArray("mine"));
+    }
+
+    void aTemporaryFolderIsItsOwnersAloneAndGoesWithItsFiles() {
+        {
+            TemporaryFolder folder(m_folder->path());
+            QCOMPARE(names(), QStringList());
+            test::writeFile(folder.path() + QStringLiteral("/a.pdf"), "a copy");
+            QCOMPARE(modeOf(folder.path()), 0700U);
+        }
+        QCOMPARE(names(), QStringList());
+    }
+
+    void aTemporaryFolderThatCannotBeMadeIsItsParent() {
+        TemporaryFolder folder(target(QStringLiteral("missing")));
+        QCOMPARE(folder.path(), target(QStringLiteral("missing")));
+    }
+
+    void anInterruptedProgramRemovesItsTemporaryFolder() {
+        TemporaryFolder folder(m_folder->path());
+        FaultyCalls calls = without({QStringLiteral("openAnonymous")});
+        OutputFile file(folder.path() + QStringLiteral("/a.pdf"), calls);
+        removePartFiles();
         QCOMPARE(names(), QStringList());
     }
 
@@ -218,10 +272,9 @@ class OutputFileTest : public QObject {
         QFETCH(QString, call);
         QFETCH(int, error);
         QFETCH(bool, nameless);
-        FaultyCalls calls;
-        calls.failWith = error;
-        calls.failing.insert(call.toStdString());
-        calls.hasNameless = nameless;
+        FaultyCalls calls =
+            without(nameless ? QStringList() : QStringList{QStringLiteral("openAnonymous")});
+        calls.failing[call.toStdString()] = error;
         try {
             writeTo(target(), calls);
             QFAIL("the fault went unnoticed");

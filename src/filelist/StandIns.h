@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace folioforge {
+
+class TemporaryFolder;
+
+/// Paths as text for files whose names are not valid UTF-8, which no text can name: such a file
+/// gets a symbolic link of a readable name, which lives as long as the temporary folder.
+class StandIns {
+  public:
+    explicit StandIns(TemporaryFolder &folder)
+        : m_folder(folder) {}
+
+    /// A path in text that leads to `path`: the same path where its bytes are valid UTF-8. A file
+    /// for which no link can be made gets the readable form of its path, which does not exist.
+    QString pathFor(const QByteArray &path);
+
+    /// The same for readable forms of paths, as file panels and drops give them: where nothing
+    /// stands under one, the file of its folder whose name reads like that is meant.
+    QStringList pathsForReadable(QStringList paths);
+
+  private:
+    QString pathForReadable(const QString &path);
+
+    TemporaryFolder &m_folder;
+    int m_count = 0;
+};
+
+} // namespace folioforge
