@@ -51,6 +51,11 @@ void SkinButton::showNormalImage() {
     }
 }
 
+void SkinButton::setEnabled(bool enabled) {
+    QPushButton::setEnabled(enabled);
+    showEnabledLook();
+}
+
 QSize SkinButton::sizeHint() const {
     return isSkinned() ? m_imageNormal.size() : QPushButton::sizeHint();
 }
@@ -132,7 +137,7 @@ void SkinButton::resizeEvent(QResizeEvent *event) {
 void SkinButton::changeEvent(QEvent *event) {
     QPushButton::changeEvent(event);
     if (event->type() == QEvent::EnabledChange) {
-        showImage(isEnabled() ? m_imageNormal : m_imageDisable);
+        showEnabledLook();
     }
 }
 
@@ -152,6 +157,10 @@ void SkinButton::paintEvent(QPaintEvent *event) {
     if (hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
         drawRing(painter, rect(), accent.lighter(130), 2.5, 0.0);
     }
+}
+
+void SkinButton::showEnabledLook() {
+    showImage(isEnabled() ? m_imageNormal : m_imageDisable);
 }
 
 void SkinButton::showImage(const SkinImage &image) {

@@ -30,6 +30,9 @@ class SkinButton : public QPushButton {
 
     /// Shows the normal look of an enabled button.
     void showNormalImage();
+    /// Enables or disables the button and shows the normal or the disabled look, even where it was
+    /// enabled or disabled before: a stale hover look ends.
+    void setEnabled(bool enabled);
 
     /// The look that the button shows now.
     [[nodiscard]] const SkinImage &image() const { return m_shown; }
@@ -57,6 +60,7 @@ class SkinButton : public QPushButton {
   private:
     [[nodiscard]] bool isSkinned() const { return !m_imageNormal.isNull(); }
     void showImage(const SkinImage &image);
+    void showEnabledLook();
 
     SkinImage m_imageOn;
     SkinImage m_imageDown;

@@ -200,6 +200,14 @@ class SkinButtonTest : public QObject {
         QVERIFY(skinned.button.image() == skinned.normal);
     }
 
+    void enablingAnEnabledButtonEndsAStaleHoverLook() {
+        Skinned skinned;
+        skinned.moveTo(skinned.inside);
+        skinned.moveTo(skinned.outside);
+        skinned.button.setEnabled(true);
+        QVERIFY(skinned.button.image() == skinned.normal);
+    }
+
     void resizingMovesTheTrackingRectangle() {
         Skinned skinned;
         QCOMPARE(skinned.button.tracking(), QRect(0, 0, 60, 30));
