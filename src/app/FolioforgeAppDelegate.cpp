@@ -28,8 +28,10 @@ void center(QWidget &window) {
 
 } // namespace
 
-FolioforgeAppDelegate::FolioforgeAppDelegate(Surroundings surroundings)
+FolioforgeAppDelegate::FolioforgeAppDelegate(Surroundings surroundings,
+                                             std::unique_ptr<Updater> updater)
     : m_surroundings(std::move(surroundings))
+    , m_updater(std::move(updater))
     , m_menuBar(std::make_unique<QMenuBar>()) {
     setupUi(m_menuBar.get());
     connectItems();
@@ -95,9 +97,12 @@ void FolioforgeAppDelegate::clickMenuItemAbout() {
     m_aboutWndCtrl->showWindow(m_mainWndCtrl->window());
 }
 
-/// There is no updater here: the product page tells what is new and where to get it.
 void FolioforgeAppDelegate::clickMenuItemUpdate() {
-    m_surroundings.desktop.openURL(downloadPage(m_surroundings.bundlePath));
+    if (m_updater) {
+        m_updater->checkForUpdates();
+    } else {
+        m_surroundings.desktop.openURL(downloadPage(m_surroundings.bundlePath));
+    }
 }
 
 void FolioforgeAppDelegate::clickMenuItemSupport() {

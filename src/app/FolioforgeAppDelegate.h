@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AboutWndCtrl.h"
+#include "app/Updater.h"
 #include "mainwnd/MainWndCtrl.h"
 #include "mainwnd/Surroundings.h"
 #include "ui_MainMenu.h"
@@ -19,7 +20,9 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
     Q_OBJECT
 
   public:
-    explicit FolioforgeAppDelegate(Surroundings surroundings);
+    /// Without an `updater`, "Check for Update..." opens the product page at its downloads.
+    explicit FolioforgeAppDelegate(Surroundings surroundings,
+                                   std::unique_ptr<Updater> updater = nullptr);
     ~FolioforgeAppDelegate() override;
 
     /// Makes the controller of the main window and shows the item for updates.
@@ -48,6 +51,7 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
     void connectItems();
 
     Surroundings m_surroundings;
+    std::unique_ptr<Updater> m_updater;
     std::unique_ptr<QMenuBar> m_menuBar; ///< The window's from the moment it is loaded.
     std::unique_ptr<MainWndCtrl> m_mainWndCtrl;
     std::unique_ptr<AboutWndCtrl> m_aboutWndCtrl;

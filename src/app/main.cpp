@@ -31,7 +31,7 @@ int main(int argc, char *argv[]) {
     Notices notices;
     NotificationCenter notifications;
     FolioforgeAppDelegate delegate(
-        {settings, desktop, notices, notifications, QDir::homePath(), bundlePath()});
+        {settings, desktop, notices, notifications, QDir::homePath(), bundlePath()}, makeUpdater());
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

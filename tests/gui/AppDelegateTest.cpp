@@ -12,8 +12,20 @@ using namespace folioforge::test;
 
 namespace {
 
+/// Counts how often it is asked.
+class CountingUpdater : public Updater {
+  public:
+    explicit CountingUpdater(int &checks)
+        : m_checks(checks) {}
+    void checkForUpdates() override { ++m_checks; }
+
+  private:
+    int &m_checks;
+};
+
 struct Application {
-    Application() {
+    explicit Application(std::unique_ptr<Updater> updater = nullptr)
+        : delegate(world.surroundings(), std::move(updater)) {
         world.storeFolder(world.home.path());
         world.notices.answerNoticesAtOnce();
         delegate.applicationDidFinishLaunching();
@@ -47,7 +59,7 @@ struct Application {
     }
 
     WindowWorld world;
-    FolioforgeAppDelegate delegate{world.surroundings()};
+    FolioforgeAppDelegate delegate;
 };
 
 } // namespace
@@ -147,6 +159,14 @@ class AppDelegateTest : public QObject {
         QFile page(application.world.desktop.urls.first().toLocalFile());
         QVERIFY(page.open(QIODevice::ReadOnly));
         QVERIFY(page.readAll().contains("id=\"download\""));
+    }
+
+    void anUpdateFrameworkTakesTheUpdateItem() {
+        int checks = 0;
+        Application application(std::make_unique<CountingUpdater>(checks));
+        application.item(QStringLiteral("Check for Update...")).trigger();
+        QCOMPARE(checks, 1);
+        QVERIFY(application.world.desktop.urls.isEmpty());
     }
 
     void quittingNeedsNoAnswer() {
