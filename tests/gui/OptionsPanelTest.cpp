@@ -40,6 +40,12 @@ struct Panel {
         press("m_btnExpand");
         QTRY_COMPARE(control<OptionsDrawer>("m_optionsDrawer").openWidth(), 342);
     }
+    /// Opens the panel at the security settings, enabled as with files in the list.
+    void openSecurity() {
+        ctrl.EnableSettings(true);
+        openPanel();
+        press("m_btnSecuritySetting");
+    }
     [[nodiscard]] QString lastMessage() const {
         return world.notices.shown().empty() ? QString()
                                              : world.notices.shown().back().notice.message;
@@ -202,9 +208,7 @@ class OptionsPanelTest : public QObject {
 
     void tickedBoxesEnableTheirControlsAndStayTickedWhenDisabled() {
         Panel panel;
-        panel.ctrl.EnableSettings(true);
-        panel.openPanel();
-        panel.press("m_btnSecuritySetting");
+        panel.openSecurity();
         panel.tick("m_btnCheckUserPassword");
         panel.tick("m_btnCheckOwnerPassword");
         QCOMPARE(panel.enabledAmong(kAll), kAll);
@@ -217,9 +221,7 @@ class OptionsPanelTest : public QObject {
 
     void tickingTheUserPasswordOffAndOnEmptiesItsField() {
         Panel panel;
-        panel.ctrl.EnableSettings(true);
-        panel.openPanel();
-        panel.press("m_btnSecuritySetting");
+        panel.openSecurity();
         panel.tick("m_btnCheckUserPassword");
         panel.type("m_tfUserPassword", QStringLiteral("secret"));
         QCOMPARE(panel.field("m_tfUserPassword").text(), QStringLiteral("secret"));
@@ -232,9 +234,7 @@ class OptionsPanelTest : public QObject {
 
     void theOwnerBoxLeavesThePermissionBoxesAsTheyAre() {
         Panel panel;
-        panel.ctrl.EnableSettings(true);
-        panel.openPanel();
-        panel.press("m_btnSecuritySetting");
+        panel.openSecurity();
         panel.tick("m_btnCheckOwnerPassword");
         panel.tick("m_btnCheckAllowPrint");
         panel.type("m_tfOwnerPassword", QStringLiteral("secret"));
@@ -312,9 +312,7 @@ class OptionsPanelTest : public QObject {
 
     void emptyPasswordsShowOnlyTheFirstNotice() {
         Panel panel;
-        panel.ctrl.EnableSettings(true);
-        panel.openPanel();
-        panel.press("m_btnSecuritySetting");
+        panel.openSecurity();
         panel.tick("m_btnCheckUserPassword");
         panel.tick("m_btnCheckOwnerPassword");
         QVERIFY(!panel.ctrl.checkSecuritySettings());
