@@ -1,0 +1,125 @@
+#include "gui/TestWindow.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QTimer>
+
+#include <filesystem>
+#include <iterator>
+
+#include <malloc.h>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/allocator_interface.h>
+#endif
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+constexpr int kEntries = 1000;
+
+/// Bytes of the heap that are in use.
+qint64 heapInUse() {
+#ifdef __SANITIZE_ADDRESS__
+    return qint64(__sanitizer_get_current_allocated_bytes());
+#else
+    const struct mallinfo2 info = mallinfo2();
+    return qint64(info.uordblks + info.hblkhd);
+#endif
+}
+
+/// Open files, by the kernel's count.
+qint64 openHandles() {
+    const std::filesystem::directory_iterator handles("/proc/self/fd");
+    return std::distance(begin(handles), end(handles));
+}
+
+/// What the process holds at this moment.
+struct Holdings {
+    qint64 heap = heapInUse();
+    qint64 handles = openHandles();
+};
+
+/// Resident memory in KB, for the log: it depends on the allocator as well.
+qint64 residentMemory() {
+    QFile status(QStringLiteral("/proc/self/statm"));
+    constexpr int kPageKilobytes = 4;
+    return status.open(QIODevice::ReadOnly)
+               ? status.readAll().split(' ').value(1).toLongLong() * kPageKilobytes
+               : -1;
+}
+
+/// A window with kEntries short texts in its list.
+struct LongList {
+    LongList() {
+        QStringList paths;
+        for (int i = 0; i < kEntries; ++i) {
+            paths += w.file(QStringLiteral("%1.txt").arg(i), "one line of text\n");
+        }
+        w.ctrl.addFiles(paths, -1);
+    }
+
+    /// Runs once into a folder of its own; what is held afterwards.
+    Holdings run() {
+        const QString folder = w.path(QStringLiteral("run%1").arg(++runs));
+        QDir().mkpath(folder);
+        w.control<QLineEdit>("m_tfOutputFolder")->setText(folder);
+        w.press("m_btnCreate");
+        QTimer::singleShot(120'000, &w.ctrl, [] { qFatal("the run does not end"); });
+        while (w.ctrl.isConverting()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        written = QDir(folder).entryList(QDir::Files).size();
+        qInfo("run %d: %lld KB resident", runs, residentMemory());
+        return {};
+    }
+
+    TestWindow w{QStringLiteral(FOLIOFORGE_BUNDLE_PATH)};
+    int runs = 0;
+    qsizetype written = 0;
+};
+
+} // namespace
+
+class LongRunsTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    /// In memory where the system has such a folder: bringing each PDF to the disk takes long.
+    void initTestCase() {
+        const QFileInfo memory(QStringLiteral("/dev/shm"));
+        if (memory.isWritable()) {
+            qputenv("TMPDIR", QFile::encodeName(memory.filePath()));
+        }
+    }
+
+    void runsOfAThousandEntriesHoldNothingAfterwards_data() {
+        QTest::addColumn<bool>("merge");
+        QTest::addColumn<int>("compression");
+        QTest::newRow("a PDF each") << false << 0;
+        QTest::newRow("one PDF, compressed") << true << 3;
+    }
+
+    void runsOfAThousandEntriesHoldNothingAfterwards() {
+        QFETCH(const bool, merge);
+        QFETCH(const int, compression);
+        constexpr qint64 kAllowance = 32'000; // Less than the smallest object an entry could leave.
+        LongList list;
+        list.w.control<QCheckBox>("m_btnMerge")->setChecked(merge);
+        list.w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(compression);
+        // The first run fills what is kept on purpose, such as fonts.
+        const Holdings before = list.run();
+        const Holdings after = list.run();
+        QCOMPARE(list.written, merge ? 1 : kEntries);
+        QCOMPARE(after.handles, before.handles);
+        qInfo("the heap grew by %lld bytes", after.heap - before.heap);
+        QVERIFY(after.heap - before.heap < kAllowance);
+    }
+};
+
+QTEST_MAIN(LongRunsTest)
+#include "LongRunsTest.moc"
