@@ -81,6 +81,8 @@ bool DesktopSession::begin() {
     set("PATH", path(QStringLiteral("bin")) + u':' + qEnvironmentVariable("PATH"));
     set("QT_QPA_PLATFORM", QStringLiteral("xcb"));
     set("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", QStringLiteral("1"));
+    // Qt warns of each element that is asked for while its dialog closes.
+    set("QT_LOGGING_RULES", QStringLiteral("qt.accessibility.atspi.warning=false"));
 
     m_bus.setProcessEnvironment(m_environment);
     m_bus.start(QStringLiteral("dbus-daemon"),
@@ -115,6 +117,7 @@ bool DesktopSession::start(const QString &program, const QString &outputFolder) 
     writeFile(path(QStringLiteral("config/Vesprin/Folioforge.conf")),
               "[General]\nCustomizeOutputDir=" + QFile::encodeName(outputFolder) + '\n');
     m_application.setProcessEnvironment(m_environment);
+    m_application.setWorkingDirectory(m_home.path());
     m_application.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_application.start(program, QStringList());
     return m_application.waitForStarted(kPatience) && find(QStringLiteral("Create")).has_value();
@@ -160,10 +163,21 @@ bool DesktopSession::canBeSeen(const Element &element) const {
     return !states.value().isEmpty() && (states.value().constFirst() >> kShowing & 1U) != 0;
 }
 
+/// A label has the name of the field beside it.
+bool DesktopSession::isLabel(const Element &element) const {
+    constexpr unsigned kLabel = 29; // ATSPI_ROLE_LABEL
+    const QDBusReply<unsigned> role =
+        QDBusConnection(m_accessibilityBus).call(callTo(element, "Accessible", "GetRole"));
+    return role.value() == kLabel;
+}
+
 std::optional<DesktopSession::Element> DesktopSession::search(const Element &root,
                                                               const QString &name) const {
     for (const Element &child : children(root)) {
-        if (nameOf(child) == name && canBeSeen(child)) {
+        if (!canBeSeen(child)) {
+            continue;
+        }
+        if (nameOf(child) == name && !isLabel(child)) {
             return child;
         }
         if (auto found = search(child, name)) {
@@ -197,35 +211,31 @@ std::optional<DesktopSession::Element> DesktopSession::find(const QString &name)
     return found;
 }
 
-bool DesktopSession::press(const QString &name) {
+/// The answer of the element called `name`, which is waited for, to `method`.
+QDBusMessage DesktopSession::call(const QString &name, const char *interface, const char *method,
+                                  const QVariantList &arguments) {
     const auto element = find(name);
-    if (!element) {
-        return false;
-    }
-    const QDBusReply<bool> done =
-        QDBusConnection(m_accessibilityBus).call(callTo(*element, "Action", "DoAction", {0}));
-    return done.value();
+    return element ? QDBusConnection(m_accessibilityBus)
+                         .call(callTo(*element, interface, method, arguments))
+                   : QDBusMessage();
+}
+
+bool DesktopSession::does(const QString &name, const char *interface, const char *method,
+                          const QVariantList &arguments) {
+    return QDBusReply<bool>(call(name, interface, method, arguments)).value();
+}
+
+bool DesktopSession::press(const QString &name) {
+    return does(name, "Action", "DoAction", {0});
 }
 
 bool DesktopSession::enter(const QString &name, const QString &text) {
-    const auto element = find(name);
-    if (!element) {
-        return false;
-    }
-    const QDBusReply<bool> done =
-        QDBusConnection(m_accessibilityBus)
-            .call(callTo(*element, "EditableText", "SetTextContents", {text}));
-    return done.value();
+    return does(name, "EditableText", "SetTextContents", {text});
 }
 
 bool DesktopSession::click(const QString &name) {
-    const auto element = find(name);
-    if (!element) {
-        return false;
-    }
     constexpr unsigned kOnScreen = 0;
-    const QDBusMessage reply = QDBusConnection(m_accessibilityBus)
-                                   .call(callTo(*element, "Component", "GetExtents", {kOnScreen}));
+    const QDBusMessage reply = call(name, "Component", "GetExtents", {kOnScreen});
     if (reply.type() != QDBusMessage::ReplyMessage) {
         return false;
     }
@@ -237,19 +247,13 @@ bool DesktopSession::click(const QString &name) {
                         QString::number(middle.y()), QStringLiteral("click"), QStringLiteral("1")});
 }
 
+/// A window that the accessibility bus knows may not be on the screen yet.
 bool DesktopSession::key(const QString &window, const QString &keys) {
-    return runIn(window, {QStringLiteral("key"), keys});
-}
-
-bool DesktopSession::type(const QString &window, const QString &text) {
-    return runIn(window, {QStringLiteral("type"), text});
-}
-
-bool DesktopSession::runIn(const QString &window, const QStringList &arguments) const {
-    const QStringList focus = {QStringLiteral("search"),           QStringLiteral("--sync"),
-                               QStringLiteral("--onlyvisible"),    QStringLiteral("--name"),
-                               QStringLiteral("^%1$").arg(window), QStringLiteral("windowfocus")};
-    return runOnScreen(focus) && runOnScreen(arguments);
+    const QStringList focus = {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
+                               QStringLiteral("--name"), QStringLiteral("^%1$").arg(window),
+                               QStringLiteral("windowfocus")};
+    return QTest::qWaitFor([&] { return runOnScreen(focus); }, kPatience) &&
+           runOnScreen({QStringLiteral("key"), keys});
 }
 
 bool DesktopSession::runOnScreen(const QStringList &arguments) const {

@@ -39,7 +39,7 @@ class DesktopSession {
     /// What the program that opens files was given, one argument a line.
     [[nodiscard]] QByteArray opened() const;
 
-    /// The element called `name` that can be seen; waits for it.
+    /// The element called `name` that can be seen and is no label; waits for it.
     [[nodiscard]] std::optional<Element> find(const QString &name);
     /// Whether an element called `name` can be seen now.
     [[nodiscard]] bool shows(const QString &name);
@@ -49,19 +49,21 @@ class DesktopSession {
     bool enter(const QString &name, const QString &text);
     /// Clicks in the middle of the element called `name` with the mouse.
     bool click(const QString &name);
-    /// Types a key, such as "ctrl+q", into the window titled `window`.
+    /// Presses a key of the keyboard, such as "ctrl+q", in the window titled `window`.
     bool key(const QString &window, const QString &keys);
-    /// Types `text` into the window titled `window`.
-    bool type(const QString &window, const QString &text);
 
   private:
     [[nodiscard]] QList<Element> children(const Element &parent) const;
     [[nodiscard]] QString nameOf(const Element &element) const;
     [[nodiscard]] bool canBeSeen(const Element &element) const;
+    [[nodiscard]] bool isLabel(const Element &element) const;
     [[nodiscard]] std::optional<Element> search(const Element &root, const QString &name) const;
     [[nodiscard]] std::optional<Element> lookUp(const QString &name) const;
+    [[nodiscard]] QDBusMessage call(const QString &name, const char *interface, const char *method,
+                                    const QVariantList &arguments = {});
+    [[nodiscard]] bool does(const QString &name, const char *interface, const char *method,
+                            const QVariantList &arguments = {});
     [[nodiscard]] bool runOnScreen(const QStringList &arguments) const;
-    [[nodiscard]] bool runIn(const QString &window, const QStringList &arguments) const;
     void makeOpener() const;
 
     QTemporaryDir m_home;
