@@ -167,6 +167,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     bool passes(const std::optional<Notice> &problem);
 
     // Options panel and output folder.
+    static void exchangeButtons(SkinButton *pressed, SkinButton *other);
     void slideOptionsTo(double width);
     void setOptionsWidth(int width);
     void fitWindowToOptions();

@@ -44,19 +44,25 @@ void makeWorldWritable(const QString &folder) {
 
 void MainWndCtrl::clickBtnExpand() {
     slideOptionsTo(OptionsDrawer::kFullWidth);
-    m_btnExpand->setVisible(false);
-    m_btnElapse->setVisible(true);
+    exchangeButtons(m_btnExpand, m_btnElapse);
     m_labelOptions->setText(tr("Hide Options"));
-    // It appears under the pointer and must not keep a stale hover look.
-    QMetaObject::invokeMethod(m_btnElapse, &SkinButton::showNormalImage, Qt::QueuedConnection);
 }
 
 void MainWndCtrl::clickBtnElapse() {
     slideOptionsTo(0.0);
-    m_btnElapse->setVisible(false);
-    m_btnExpand->setVisible(true);
+    exchangeButtons(m_btnElapse, m_btnExpand);
     m_labelOptions->setText(tr("Show Options"));
-    QMetaObject::invokeMethod(m_btnExpand, &SkinButton::showNormalImage, Qt::QueuedConnection);
+}
+
+/// Hides the button that was pressed and shows the other in its place, with the keyboard's focus.
+void MainWndCtrl::exchangeButtons(SkinButton *pressed, SkinButton *other) {
+    other->setVisible(true);
+    if (pressed->hasFocus()) {
+        other->setFocus();
+    }
+    pressed->setVisible(false);
+    // It appears under the pointer and must not keep a stale hover look.
+    QMetaObject::invokeMethod(other, &SkinButton::showNormalImage, Qt::QueuedConnection);
 }
 
 void MainWndCtrl::slideOptionsTo(double width) {

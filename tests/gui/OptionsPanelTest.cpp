@@ -128,6 +128,19 @@ class OptionsPanelTest : public QObject {
         QVERIFY(hide.image() == hide.normalImage());
     }
 
+    void theButtonThatAppearsTakesOverTheKeyboard() {
+        Panel panel;
+        panel.ctrl.window()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(panel.ctrl.window()));
+        auto &show = panel.control<SkinButton>("m_btnExpand");
+        auto &hide = panel.control<SkinButton>("m_btnElapse");
+        show.setFocus();
+        QTest::keyClick(&show, Qt::Key_Space);
+        QVERIFY(hide.hasFocus());
+        QTest::keyClick(&hide, Qt::Key_Space);
+        QVERIFY(show.hasFocus());
+    }
+
     void aMaximisedWindowShowsThePanelInside() {
         Panel panel;
         QMainWindow &window = *panel.ctrl.window();
