@@ -43,6 +43,14 @@ QString lightStyleSheet() {
             border-color: #e0e4e9; background: #f6f7f9; color: #8a9098;
         }
         QLineEdit[readOnly="true"] { background: #f8f9fb; }
+        QComboBox {
+            border: 1px solid #c2c8d0; border-radius: 5px; padding: 3px 7px; min-height: 18px;
+            background: #ffffff;
+        }
+        QComboBox:hover { border-color: #8fb4e8; }
+        QComboBox:focus { border: 2px solid #2f7de1; padding: 2px 6px; }
+        QComboBox::drop-down { border: none; width: 26px; }
+        QComboBox::down-arrow { image: url(:/skin/down-arrow.svg); width: 12px; height: 12px; }
         QPushButton {
             border: 1px solid #bfc4cb; border-radius: 6px; padding: 5px 16px; min-height: 18px;
             background: #f7f8fa;

@@ -305,6 +305,17 @@ class WindowLayoutTest : public QObject {
         QCOMPARE(window.world.notices.filePanels().size(), std::size_t(1));
     }
 
+    void theCompressionListShowsItsArrow() {
+        Window window;
+        window.openPanel();
+        const QImage picture = window.control<QComboBox>("m_comboCompressMethod").grab().toImage();
+        int ink = 0;
+        for (int x = picture.width() - 26; x < picture.width() - 2; ++x) {
+            ink += picture.pixelColor(x, picture.height() / 2).lightness() < 200 ? 1 : 0;
+        }
+        QVERIFY(ink > 0);
+    }
+
     void theColoursStayLightUnderADarkTheme() {
         Window window;
         QPalette dark(QColor(30, 30, 30), QColor(20, 20, 20));
