@@ -32,9 +32,11 @@ struct Skinned {
         button.showNormalImage();
     }
 
-    void moveTo(QPoint position) { QTest::mouseMove(window.windowHandle(), position); }
-    void press() { QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, inside); }
-    void release(QPoint at) { QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, at); }
+    void moveTo(QPoint position) const { QTest::mouseMove(window.windowHandle(), position); }
+    void press() const { QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, inside); }
+    void release(QPoint at) const {
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, at);
+    }
 
     const QPoint inside{120, 95};
     const QPoint outside{20, 20};
