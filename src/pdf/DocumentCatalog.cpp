@@ -5,6 +5,8 @@
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 
 namespace folioforge {
 
@@ -21,10 +23,14 @@ void putArray(QPDFObjectHandle &dictionary, const std::string &key,
     }
 }
 
+/// The largest integer that every reader takes (ISO 32000-1, annex C); a source that counts more
+/// lines in its outline lies.
+constexpr long long kMostLines = std::numeric_limits<std::int32_t>::max();
+
 /// How many lines of the outline an item shows: itself and, when it is open, what is under it.
 long long visibleLines(QPDFObjectHandle item) {
     auto count = item.getKey("/Count");
-    return 1 + (count.isInteger() ? std::max(0LL, count.getIntValue()) : 0);
+    return 1 + (count.isInteger() ? std::clamp(count.getIntValue(), 0LL, kMostLines) : 0);
 }
 
 } // namespace
@@ -86,7 +92,7 @@ void DocumentCatalog::finishBookmarks(QPDF &document) {
     }
     outline.replaceKey("/First", m_bookmarks.front());
     outline.replaceKey("/Last", m_bookmarks.back());
-    outline.replaceKey("/Count", QPDFObjectHandle::newInteger(lines));
+    outline.replaceKey("/Count", QPDFObjectHandle::newInteger(std::min(lines, kMostLines)));
     document.getRoot().replaceKey("/Outlines", outline);
 }
 

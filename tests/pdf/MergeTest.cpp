@@ -207,6 +207,18 @@ class MergeTest : public QObject {
         QCOMPARE(document->getRoot().getKey("/Outlines").getKey("/Count").getIntValue(), 6LL);
     }
 
+    void bookmarksThatCountTooManyLinesStayReadable() {
+        PdfFixture source;
+        source.object(1, "<< /Type /Catalog /Pages 2 0 R /Outlines 20 0 R >>").pages(4, 1);
+        source.object(20, "<< /Type /Outlines /First 21 0 R /Last 21 0 R /Count 1 >>");
+        source.object(21, "<< /Title (Lie) /Parent 20 0 R /Count 9223372036854775807 >>");
+        const QString path = saved(source);
+        const auto document = opened(merged({path, path}));
+        auto outline = document->getRoot().getKey("/Outlines");
+        QCOMPARE(outline.getKey("/Count").getIntValue(), 2147483647LL);
+        QCOMPARE(QPDFOutlineDocumentHelper(*document).getTopLevelOutlines().size(), 2U);
+    }
+
     void formFieldsOfTheSameNameStayApart() {
         PdfFixture source;
         source.object(1, "<< /Type /Catalog /Pages 2 0 R /AcroForm << /Fields [20 0 R] /DA (/Helv "
