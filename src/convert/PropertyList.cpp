@@ -17,7 +17,9 @@ namespace folioforge {
 
 namespace {
 
-constexpr qint64 kMaxBytes = 16 << 20;
+/// More than any list of the bundle has, and so few that libplist, which calls itself for each
+/// level, can only be led so deep.
+constexpr qint64 kMaxBytes = 16 << 10;
 constexpr int kMaxDepth = 64;
 
 struct FreePlist {
@@ -31,6 +33,26 @@ struct FreeMemory {
 
 Error noPropertyList(const QString &path) {
     return Error(QStringLiteral("%1 is no valid property list").arg(path));
+}
+
+/// Null where the bytes are no list.
+Plist parsed(const char *bytes, qint64 size) {
+    plist_t root = nullptr;
+    plist_from_memory(bytes, static_cast<quint32>(size), &root);
+    return Plist(root);
+}
+
+/// The list as XML has it. Binary keys may hold a zero, and libplist ends the program when it is
+/// asked for such a one.
+Plist withoutZeros(const Plist &list) {
+    if (!list) {
+        return {};
+    }
+    char *xml = nullptr;
+    quint32 size = 0;
+    plist_to_xml(list.get(), &xml, &size);
+    const std::unique_ptr<char, FreeMemory> owner(xml);
+    return xml ? parsed(xml, size) : Plist();
 }
 
 QVariant toVariant(plist_t node, int depth);
@@ -127,13 +149,11 @@ QVariantMap readPropertyList(const QString &path) {
         throw noPropertyList(path);
     }
     const QByteArray bytes = file.readAll();
-    plist_t root = nullptr;
-    plist_from_memory(bytes.constData(), static_cast<quint32>(bytes.size()), &root);
-    const Plist owner(root);
-    if (!root || plist_get_node_type(root) != PLIST_DICT) {
+    const Plist root = withoutZeros(parsed(bytes.constData(), bytes.size()));
+    if (!root || plist_get_node_type(root.get()) != PLIST_DICT) {
         throw noPropertyList(path);
     }
-    return mapOf(root, 0);
+    return mapOf(root.get(), 0);
 }
 
 } // namespace folioforge

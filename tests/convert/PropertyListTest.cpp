@@ -75,6 +75,28 @@ class PropertyListTest : public QObject {
         QCOMPARE(map, (QVariantMap{{QStringLiteral("Icon"), QStringLiteral("app")}}));
     }
 
+    void aZeroInABinaryKeyEndsTheKey() {
+        const QByteArray list = binaryList().replace("Icon", QByteArray("Ic\0n", 4));
+        QCOMPARE(readPropertyList(write(list)),
+                 (QVariantMap{{QStringLiteral("Ic"), QStringLiteral("app")}}));
+    }
+
+    void listsDeepWithinListsAreSurvived() {
+        constexpr qsizetype kLevels = 1000;
+        const QByteArray open =
+            kHead + "<dict><key>a</key>" + QByteArray("<array>").repeated(kLevels);
+        const QByteArray closed =
+            open + QByteArray("</array>").repeated(kLevels) + "</dict></plist>";
+        QVERIFY_EXCEPTION_THROWN(readPropertyList(write(open)), Error);
+        QVERIFY(readPropertyList(write(closed)).contains(QStringLiteral("a")));
+    }
+
+    void listsLargerThanAnyOfTheBundleAreRefused() {
+        const QByteArray list = kHead + "<dict><key>a</key><string>" + QByteArray(17000, 'a') +
+                                "</string></dict></plist>";
+        QVERIFY_EXCEPTION_THROWN(readPropertyList(write(list)), Error);
+    }
+
     void refusesWhatIsNoDictionary_data() {
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("empty") << QByteArray();
