@@ -130,6 +130,22 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         QVERIFY(difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100)) < 5);
     }
 
+    void anImageWithFarTooLargeAColourTableStays() {
+        const QByteArray table(1 << 20, 'p');
+        auto page = photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        page.stream(5,
+                    imageKeys(1200, 900,
+                              "/ColorSpace [/Indexed /DeviceRGB 255 8 0 R] /BitsPerComponent 8 "
+                              "/Filter /FlateDecode"),
+                    flate(samplesOf(photo(1200, 900, QImage::Format_Grayscale8), 1)))
+            .stream(8, "/Filter /FlateDecode", flate(table));
+        QVERIFY(page.write(m_path));
+        CompressionOutcome outcome;
+        compressed(&outcome);
+        QCOMPARE(outcome.imagesKept.size(), std::size_t(1));
+        QCOMPARE(outcome.imagesKept[0].reason, QStringLiteral("an unusual colour space"));
+    }
+
     void whatIsNoPhotoStaysAndSaysWhy_data() {
         QTest::addColumn<QByteArray>("keys");
         QTest::addColumn<QByteArray>("data");

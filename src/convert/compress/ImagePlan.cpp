@@ -1,5 +1,6 @@
 #include "convert/compress/ImagePlan.h"
 
+#include "convert/compress/BoundedText.h"
 #include "error/Error.h"
 
 #include <algorithm>
@@ -100,14 +101,26 @@ bool isIndexed(QPDFObjectHandle space) {
            space.getArrayItem(0).isNameAndEquals("/Indexed");
 }
 
+/// The data of a colour table, which take 1024 bytes and, of some writers, padding.
+std::string paletteData(QPDFObjectHandle table) {
+    constexpr std::size_t kMostBytes = 64 << 10;
+    std::string data;
+    BoundedText target(data, kMostBytes);
+    bool filtered = false;
+    table.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized);
+    if (!filtered) {
+        throw left("an unusual colour space");
+    }
+    return data;
+}
+
 void describePalette(QPDFObjectHandle space, ImageJob &job) {
     job.components = plainComponents(space.getArrayItem(1));
     QPDFObjectHandle table = space.getArrayItem(3);
     if (table.isString()) {
         job.palette = table.getStringValue();
     } else if (table.isStream()) {
-        const auto data = table.getStreamData(qpdf_dl_specialized);
-        job.palette.assign(reinterpret_cast<const char *>(data->getBuffer()), data->getSize());
+        job.palette = paletteData(table);
     }
     constexpr std::size_t kMostColours = 256;
     if (job.components == 0 || job.palette.size() < static_cast<std::size_t>(job.components)) {
