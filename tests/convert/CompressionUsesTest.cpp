@@ -13,6 +13,7 @@ namespace {
 
 const QByteArray kDrawn("288 0 0 216 0 0 cm /Im0 Do");
 const QByteArray kXObjects("/Resources << /XObject << /Im0 5 0 R >> >> ");
+const QByteArray kFormKeys("/Type /XObject /Subtype /Form /BBox [0 0 400 300] ");
 
 /// Lets no file of this process grow above `bytes` while it lives, as a full disk does.
 class FullDisk {
@@ -157,6 +158,49 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
                     kDrawn + " /Fm0 Do");
         writePage(page);
         QVERIFY(copyHoldsWidth("600"));
+    }
+
+    void formsThatAllDrawEachOtherEnd() {
+        // Without resources of their own; followed along every path they would take years.
+        auto page = photoPage("/Fm0 Do");
+        QByteArray names("/Im0 5 0 R /Fm0 6 0 R");
+        QByteArray content = "q " + kDrawn + " Q";
+        for (int number = 10; number < 40; ++number) {
+            const QByteArray name = "/Fm" + QByteArray::number(number);
+            names += " " + name + " " + QByteArray::number(number) + " 0 R";
+            content += " " + name + " Do";
+        }
+        page.object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 4 0 R "
+                       "/Resources << /XObject << " +
+                           names + " >> >> >>");
+        page.stream(6, kFormKeys, content);
+        for (int number = 10; number < 40; ++number) {
+            // Each of its own, or they would be one.
+            page.stream(number, kFormKeys, content + "%" + QByteArray::number(number));
+        }
+        writePage(page);
+        QVERIFY(copyHoldsWidth("600"));
+    }
+
+    void aFormWithoutResourcesDrawsWhatEachOfItsHoldersNames() {
+        auto page = photoPage("/Fm0 Do /Fm1 Do");
+        page.object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 4 0 R "
+                       "/Resources << /XObject << /Im0 5 0 R /Fm0 6 0 R /Fm1 8 0 R >> >> >>")
+            .stream(6, kFormKeys, kDrawn)
+            .stream(8, kFormKeys + "/Resources << /XObject << /Im0 9 0 R /Fm0 6 0 R >> >>",
+                    "/Fm0 Do")
+            .stream(9, imageKeys(1000, 750, kJpegRgb), jpeg(photo(1000, 750)));
+        writePage(page);
+        CompressionOutcome outcome;
+        compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 2);
+    }
+
+    void anImageDrawnBeyondAllNumbersKeepsItsSize() {
+        const QByteArray huge(400, '9');
+        writeJpegPage("q 72 0 0 54 0 0 cm /Im0 Do Q " + huge + " 0 0 " + huge +
+                      " 0 0 cm 0 0 0 0 0 0 cm /Im0 Do");
+        QVERIFY(copyHoldsWidth("1200"));
     }
 
     void formFieldsBookmarksAndTheTitleStay() {

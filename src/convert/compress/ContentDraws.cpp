@@ -3,7 +3,9 @@
 #include "convert/compress/BoundedText.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -75,6 +77,14 @@ bool readText(QPDFObjectHandle content, std::string &text) {
 
 } // namespace
 
+Linear Linear::then(const Linear &next) const {
+    const Linear product{a * next.a + b * next.c, a * next.b + b * next.d, c * next.a + d * next.c,
+                         c * next.b + d * next.d};
+    const double sum = product.a + product.b + product.c + product.d;
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    return std::isnan(sum) ? Linear{kInfinity, 0, 0, kInfinity} : product;
+}
+
 Linear linearOf(QPDFObjectHandle array) {
     Linear linear;
     if (!array.isArray() || array.getArrayNItems() != 6) {
@@ -119,9 +129,9 @@ void ContentDraws::addUnclear(const ContentDraws &inner) {
 /// Runs over the tokens of one content stream, keeping the transformation matrix alone.
 class ContentReader::Scanner : public QPDFObjectHandle::TokenFilter {
   public:
-    Scanner(ContentReader &reader, QPDFObjectHandle resources)
+    Scanner(ContentReader &reader, ContentScope &scope)
         : m_reader(reader)
-        , m_resources(resources) {}
+        , m_scope(scope) {}
 
     void handleToken(const QPDFTokenizer::Token &token) override {
         switch (token.getType()) {
@@ -173,14 +183,14 @@ class ContentReader::Scanner : public QPDFObjectHandle::TokenFilter {
             m_matrix =
                 Linear{m_numbers[0], m_numbers[1], m_numbers[2], m_numbers[3]}.then(m_matrix);
         } else if (word == "Do") {
-            use(entry(m_resources, "/XObject", m_name), m_matrix);
+            use(entry(m_scope.resources, "/XObject", m_name), m_matrix);
         } else if (word == "gs") {
-            QPDFObjectHandle state = entry(m_resources, "/ExtGState", m_name);
+            QPDFObjectHandle state = entry(m_scope.resources, "/ExtGState", m_name);
             if (state.isDictionary() && state.getKey("/SMask").isDictionary()) {
                 use(state.getKey("/SMask").getKey("/G"), m_matrix);
             }
         } else if (word == "scn" || word == "SCN") {
-            usePattern(entry(m_resources, "/Pattern", m_name));
+            usePattern(entry(m_scope.resources, "/Pattern", m_name));
         }
     }
 
@@ -223,7 +233,7 @@ class ContentReader::Scanner : public QPDFObjectHandle::TokenFilter {
             }
             return;
         }
-        const ContentDraws inner = m_reader.readForm(use.object, m_resources);
+        const ContentDraws inner = m_reader.readForm(use.object, m_scope);
         if (use.sizes.size() > kMostSizes) {
             m_draws.addUnclear(inner);
         }
@@ -233,7 +243,7 @@ class ContentReader::Scanner : public QPDFObjectHandle::TokenFilter {
     }
 
     ContentReader &m_reader;
-    QPDFObjectHandle m_resources;
+    ContentScope &m_scope;
     Linear m_matrix;
     std::vector<Linear> m_saved;
     std::size_t m_unsaved = 0;
@@ -244,10 +254,10 @@ class ContentReader::Scanner : public QPDFObjectHandle::TokenFilter {
     ContentDraws m_draws;
 };
 
-ContentDraws ContentReader::readContent(QPDFObjectHandle content, QPDFObjectHandle resources) {
+ContentDraws ContentReader::readContent(const QPDFObjectHandle &content, ContentScope &scope) {
     ContentDraws draws;
-    if (canDrawImages(resources)) {
-        Scanner scanner(*this, resources);
+    if (canDrawImages(scope.resources)) {
+        Scanner scanner(*this, scope);
         std::string text;
         const bool isWhole = readText(content, text);
         Pl_QPDFTokenizer tokenizer("content", &scanner);
@@ -255,17 +265,17 @@ ContentDraws ContentReader::readContent(QPDFObjectHandle content, QPDFObjectHand
         tokenizer.finish();
         draws = scanner.draws();
         if (!isWhole) {
-            addAllUnclear(resources, draws);
+            addAllUnclear(scope, draws);
         }
     }
-    readFonts(resources, draws);
+    readFonts(scope, draws);
     return draws;
 }
 
 /// What cannot be read may draw any image of its resources at any size.
-void ContentReader::addAllUnclear(QPDFObjectHandle resources, ContentDraws &draws) {
+void ContentReader::addAllUnclear(ContentScope &scope, ContentDraws &draws) {
     draws.addUnclear(ContentDraws(draws));
-    QPDFObjectHandle objects = resources.getKey("/XObject");
+    QPDFObjectHandle objects = scope.resources.getKey("/XObject");
     if (!objects.isDictionary()) {
         return;
     }
@@ -273,44 +283,43 @@ void ContentReader::addAllUnclear(QPDFObjectHandle resources, ContentDraws &draw
         if (isImage(object)) {
             draws.unclear.insert(object.getObjGen());
         } else {
-            draws.addUnclear(readForm(object, resources));
+            draws.addUnclear(readForm(object, scope));
         }
     }
 }
 
-ContentDraws ContentReader::readPage(QPDFObjectHandle page, QPDFObjectHandle resources) {
-    return readContent(page, resources);
+ContentDraws ContentReader::readPage(const QPDFObjectHandle &page, ContentScope &scope) {
+    return readContent(page, scope);
 }
 
-ContentDraws ContentReader::readForm(QPDFObjectHandle form, QPDFObjectHandle outerResources) {
+ContentDraws ContentReader::readForm(QPDFObjectHandle form, ContentScope &outer) {
     if (!form.isStream() || isImage(form)) {
         return {};
     }
     const QPDFObjGen id = form.getObjGen();
-    QPDFObjectHandle resources = form.getDict().getKey("/Resources");
-    const bool hasOwn = resources.isDictionary();
-    if (hasOwn && m_forms.contains(id)) {
-        return m_forms[id];
+    ContentScope own{form.getDict().getKey("/Resources"), {}};
+    const bool hasOwn = own.resources.isDictionary();
+    auto &known = hasOwn ? m_forms : outer.forms;
+    if (const auto found = known.find(id); found != known.end()) {
+        return found->second;
     }
     if (m_open.contains(id) || m_open.size() >= kDeepestForms) {
         return {};
     }
     m_open.insert(id);
-    const ContentDraws inner = readContent(form, hasOwn ? resources : outerResources);
+    const ContentDraws inner = readContent(form, hasOwn ? own : outer);
     m_open.erase(id);
     ContentDraws draws;
     draws.add(inner, linearOf(form.getDict().getKey("/Matrix")));
-    if (hasOwn) {
-        m_forms[id] = draws;
-    }
+    known[id] = draws;
     return draws;
 }
 
 /// The size of a glyph follows the text that shows it, which is not read: images in the glyphs of
 /// Type 3 fonts are unclear.
-void ContentReader::readFonts(QPDFObjectHandle resources, ContentDraws &draws) {
-    QPDFObjectHandle fonts =
-        resources.isDictionary() ? resources.getKey("/Font") : QPDFObjectHandle::newNull();
+void ContentReader::readFonts(ContentScope &scope, ContentDraws &draws) {
+    QPDFObjectHandle fonts = scope.resources.isDictionary() ? scope.resources.getKey("/Font")
+                                                            : QPDFObjectHandle::newNull();
     if (!fonts.isDictionary()) {
         return;
     }
@@ -320,9 +329,9 @@ void ContentReader::readFonts(QPDFObjectHandle resources, ContentDraws &draws) {
             !m_fontsRead.insert(font.getObjGen()).second) {
             continue;
         }
-        QPDFObjectHandle own = font.getKey("/Resources");
+        ContentScope own{font.getKey("/Resources"), {}};
         for (auto &[glyph, procedure] : font.getKey("/CharProcs").ditems()) {
-            draws.addUnclear(readForm(procedure, own.isDictionary() ? own : resources));
+            draws.addUnclear(readForm(procedure, own.resources.isDictionary() ? own : scope));
         }
     }
 }

@@ -17,11 +17,8 @@ struct Linear {
     double c = 0;
     double d = 1;
 
-    /// This transformation, then `next`.
-    [[nodiscard]] Linear then(const Linear &next) const {
-        return {a * next.a + b * next.c, a * next.b + b * next.d, c * next.a + d * next.c,
-                c * next.b + d * next.d};
-    }
+    /// This transformation, then `next`. What multiplies to no number is infinitely large.
+    [[nodiscard]] Linear then(const Linear &next) const;
     auto operator<=>(const Linear &) const = default;
 };
 
@@ -40,22 +37,29 @@ struct ContentDraws {
     void addUnclear(const ContentDraws &inner);
 };
 
-/// Follows content streams down to the images they draw. Each form is read once.
+/// The resources of a page, form or font, and what the forms that lack their own draw with them.
+struct ContentScope {
+    QPDFObjectHandle resources;
+    std::map<QPDFObjGen, ContentDraws> forms;
+};
+
+/// Follows content streams down to the images they draw. Each form is read once; one without
+/// resources of its own, once in each scope.
 class ContentReader {
   public:
     /// What the contents of a page draw, in points.
-    ContentDraws readPage(QPDFObjectHandle page, QPDFObjectHandle resources);
+    ContentDraws readPage(const QPDFObjectHandle &page, ContentScope &scope);
     /// What a form draws in the space it is painted into, that is with its Matrix applied.
-    ContentDraws readForm(QPDFObjectHandle form, QPDFObjectHandle outerResources);
+    ContentDraws readForm(QPDFObjectHandle form, ContentScope &outer);
 
   private:
     class Scanner;
 
-    ContentDraws readContent(QPDFObjectHandle content, QPDFObjectHandle resources);
-    void addAllUnclear(QPDFObjectHandle resources, ContentDraws &draws);
-    void readFonts(QPDFObjectHandle resources, ContentDraws &draws);
+    ContentDraws readContent(const QPDFObjectHandle &content, ContentScope &scope);
+    void addAllUnclear(ContentScope &scope, ContentDraws &draws);
+    void readFonts(ContentScope &scope, ContentDraws &draws);
 
-    std::map<QPDFObjGen, ContentDraws> m_forms;
+    std::map<QPDFObjGen, ContentDraws> m_forms; ///< With resources of their own.
     std::set<QPDFObjGen> m_open; ///< Forms being read: one that draws itself is not followed.
     std::set<QPDFObjGen> m_fontsRead;
 };

@@ -17,9 +17,9 @@ class UseCollector {
     void addPage(QPDFObjectHandle page, int number) {
         QPDFPageObjectHelper helper(page);
         // Resources may be inherited from the page tree.
-        QPDFObjectHandle resources = helper.getAttribute("/Resources", false);
-        ContentDraws draws = m_reader.readPage(page, resources);
-        addAnnotations(page, resources, draws);
+        ContentScope scope{helper.getAttribute("/Resources", false), {}};
+        ContentDraws draws = m_reader.readPage(page, scope);
+        addAnnotations(page, scope, draws);
         QPDFObjectHandle unit = page.getKey("/UserUnit");
         const double points = unit.isNumber() ? unit.getNumericValue() : 1;
         addDraws(draws, points, number);
@@ -28,7 +28,7 @@ class UseCollector {
     std::vector<ImageUse> uses;
 
   private:
-    void addAnnotations(QPDFObjectHandle page, QPDFObjectHandle resources, ContentDraws &draws) {
+    void addAnnotations(QPDFObjectHandle page, ContentScope &scope, ContentDraws &draws) {
         QPDFObjectHandle annotations = page.getKey("/Annots");
         if (!annotations.isArray()) {
             return;
@@ -40,10 +40,10 @@ class UseCollector {
                 continue;
             }
             for (auto &[kind, appearance] : states.ditems()) {
-                addAppearance(annotation, appearance, resources, draws);
+                addAppearance(annotation, appearance, scope, draws);
                 if (appearance.isDictionary()) {
                     for (auto &[state, form] : appearance.ditems()) {
-                        addAppearance(annotation, form, resources, draws);
+                        addAppearance(annotation, form, scope, draws);
                     }
                 }
             }
@@ -52,12 +52,12 @@ class UseCollector {
 
     /// An appearance is stretched from its transformed BBox to the annotation's Rect
     /// (ISO 32000-1, 12.5.5).
-    void addAppearance(QPDFObjectHandle annotation, QPDFObjectHandle form,
-                       QPDFObjectHandle resources, ContentDraws &draws) {
+    void addAppearance(QPDFObjectHandle annotation, QPDFObjectHandle form, ContentScope &scope,
+                       ContentDraws &draws) {
         if (!form.isStream()) {
             return;
         }
-        const ContentDraws inner = m_reader.readForm(form, resources);
+        const ContentDraws inner = m_reader.readForm(form, scope);
         QPDFObjectHandle box = form.getDict().getKey("/BBox");
         QPDFObjectHandle rect = annotation.getKey("/Rect");
         if (!box.isRectangle() || !rect.isRectangle()) {
