@@ -10,6 +10,10 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(QPDF REQUIRED IMPORTED_TARGET libqpdf>=11.3)
 # The library asks which pointer type its users write; standard ones only.
 target_compile_definitions(PkgConfig::QPDF INTERFACE POINTERHOLDER_TRANSITION=4)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    target_compile_options(PkgConfig::QPDF INTERFACE
+        -include "${CMAKE_CURRENT_LIST_DIR}/QpdfJsonForClang.h")
+endif()
 pkg_check_modules(HARFBUZZ REQUIRED IMPORTED_TARGET harfbuzz>=6 harfbuzz-subset>=6)
 pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
 pkg_check_modules(JPEG REQUIRED IMPORTED_TARGET libjpeg)

@@ -1,61 +1,19 @@
-// The image readers with any bytes: an image in order or a reason, and not a word printed.
+// The readers of one image format, FOLIOFORGE_FUZZED_FORMAT, with any bytes: an image in order or a
+// reason, and not a word printed.
 
-#include "error/Error.h"
+#include "FuzzSupport.h"
 #include "image/EncodedImage.h"
-
-#include <QByteArray>
-#include <QLatin1StringView>
-#include <QtGlobal>
+#include "image/ImageHeader.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-
-#include <sys/mman.h>
-#include <unistd.h>
 
 using namespace folioforge;
+using namespace folioforge::fuzz;
 
 namespace {
 
-void require(bool held) {
-    if (!held) {
-        std::abort();
-    }
-}
-
-void refuseMessage(QtMsgType /*type*/, const QMessageLogContext & /*context*/,
-                   const QString &message) {
-    std::fprintf(stderr, "printed: %s\n", qPrintable(message));
-    std::abort();
-}
-
-/// A file in memory whose name ends as wanted.
-class MemoryFile {
-  public:
-    MemoryFile(const char *name, const std::uint8_t *data, std::size_t size)
-        : m_descriptor(::memfd_create(name, MFD_CLOEXEC))
-        , m_link(QStringLiteral("/tmp/folioforge-fuzz-%1.%2")
-                     .arg(::getpid())
-                     .arg(QLatin1StringView(name))) {
-        require(::write(m_descriptor, data, size) == static_cast<ssize_t>(size));
-        const QByteArray target = "/proc/self/fd/" + QByteArray::number(m_descriptor);
-        ::unlink(qPrintable(m_link));
-        require(::symlink(target.constData(), qPrintable(m_link)) == 0);
-    }
-    MemoryFile(const MemoryFile &) = delete;
-    MemoryFile &operator=(const MemoryFile &) = delete;
-    ~MemoryFile() {
-        ::unlink(qPrintable(m_link));
-        ::close(m_descriptor);
-    }
-
-    [[nodiscard]] const QString &path() const { return m_link; }
-
-  private:
-    int m_descriptor;
-    QString m_link;
-};
+constexpr ImageFormat kFormat = ImageFormat::FOLIOFORGE_FUZZED_FORMAT;
+constexpr qint64 kMostPixels = 1 << 22; // Enough to find faults, few enough to go on.
 
 void requireInOrder(const EncodedImage &image, qint64 fileSize) {
     require(image.width > 0 && image.height > 0);
@@ -75,19 +33,14 @@ void requireInOrder(const EncodedImage &image, qint64 fileSize) {
 
 // NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    qInstallMessageHandler(refuseMessage);
-    // Only these two have no signature that is plain in itself.
-    const bool isBitmap = size > 0 && data[0] == 'B';
-    const MemoryFile file(isBitmap ? "bmp" : "tga", data, size);
-    try {
+    refuseMessages();
+    // The name decides where the bytes are not plain about their format.
+    const MemoryFile file(QStringLiteral(FOLIOFORGE_FUZZED_EXTENSION), {data, size});
+    refuses([&] {
         const ImageHeader header = readImageHeader(file.path());
-        constexpr qint64 kPixels = 1 << 22; // Enough to find faults, few enough to go on.
-        if (qint64(header.width) * header.height <= kPixels) {
-            const EncodedImage image = encodeImage(file.path());
-            requireInOrder(image, static_cast<qint64>(size));
+        if (header.format == kFormat && qint64(header.width) * header.height <= kMostPixels) {
+            requireInOrder(encodeImage(file.path()), static_cast<qint64>(size));
         }
-    } catch (const Error &error) {
-        require(!error.reason().isEmpty());
-    }
+    });
     return 0;
 }

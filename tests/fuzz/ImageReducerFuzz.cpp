@@ -1,14 +1,14 @@
 // One image stream with any bytes: it is reduced or left with a reason, and what is made is
 // smaller.
 
+#include "FuzzSupport.h"
 #include "convert/compress/ImageReducer.h"
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
-#include <cstdlib>
 
 using namespace folioforge;
+using namespace folioforge::fuzz;
 
 namespace {
 
@@ -55,10 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     const ImageJob job = jobOf(data, size);
     const Reduction reduction = reduceImage(job);
-    const bool held = reduction.image ? reduction.image->data.size() < job.data.size()
-                                      : !reduction.reason.isEmpty();
-    if (!held) {
-        std::abort();
-    }
+    require(reduction.image ? reduction.image->data.size() < job.data.size()
+                            : !reduction.reason.isEmpty());
     return 0;
 }

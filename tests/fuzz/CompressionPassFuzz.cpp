@@ -1,0 +1,45 @@
+// The compression pass on a PDF of any bytes: a copy that is no larger and has the same pages, or a
+// reason and no file.
+
+#include "FuzzSupport.h"
+#include "convert/CompressionPass.h"
+#include "pdf/SourceDocument.h"
+
+#include <QFileInfo>
+
+using namespace folioforge;
+using namespace folioforge::fuzz;
+
+namespace {
+
+void compressOnce(const QString &source, int pages) {
+    ConversionOptions options;
+    options.compressIndex = 3;
+    const CompressionPlaces places{QStringLiteral(FOLIOFORGE_FUZZED_BUNDLE),
+                                   QFileInfo(source).path()};
+    const CompressionOutcome outcome = compress(source, options, places);
+    require(outcome.convertInfo.has_value());
+    const QString copy = outcome.convertInfo->tempFilePathName;
+    if (!outcome.error.isEmpty()) {
+        require(copy.isEmpty());
+        throw Error(outcome.error);
+    }
+    require(outcome.bytesAfter <= outcome.bytesBefore);
+    require(summarizePDF(copy).pageCount == pages);
+    deleteFile(copy);
+}
+
+} // namespace
+
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    refuseMessages();
+    const MemoryFile source(QStringLiteral("pdf"), {data, size});
+    refuses([&] {
+        const PDFSummary summary = summarizePDF(source.path());
+        if (summary.pageCount > 0) {
+            compressOnce(source.path(), summary.pageCount);
+        }
+    });
+    return 0;
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "error/Error.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace folioforge::fuzz {
+
+/// Ends the program, which the fuzzer counts as a finding, unless `held`.
+void require(bool held);
+
+/// From now on every message that Qt would print is a finding: files of strangers must not fill
+/// anybody's log.
+void refuseMessages();
+
+/// Runs `work`; whether it threw Error, which must give a reason.
+template<typename Work> bool refuses(const Work &work) {
+    try {
+        work();
+        return false;
+    } catch (const Error &error) {
+        require(!error.reason().isEmpty());
+        return true;
+    }
+}
+
+/// A file of these bytes that never touches the disk, under a name of its own with `extension`.
+class MemoryFile {
+  public:
+    MemoryFile(const QString &extension, std::span<const std::uint8_t> bytes);
+    ~MemoryFile();
+    MemoryFile(const MemoryFile &) = delete;
+    MemoryFile &operator=(const MemoryFile &) = delete;
+
+    [[nodiscard]] const QString &path() const { return m_path; }
+
+  private:
+    int m_descriptor;
+    QString m_path;
+};
+
+/// The path of NAME in a folder that is this process's alone, where no file of that name stands.
+QString freshPath(const QString &name);
+
+/// Reads numbers off the front of an input, zeros behind its end.
+class InputReader {
+  public:
+    explicit InputReader(std::span<const std::uint8_t> bytes)
+        : m_rest(bytes) {}
+
+    std::uint8_t byte();
+    std::uint16_t word();
+    [[nodiscard]] QByteArray rest() const;
+
+  private:
+    std::span<const std::uint8_t> m_rest;
+};
+
+} // namespace folioforge::fuzz

@@ -1,0 +1,59 @@
+// A PDF of any bytes: its pages are copied twice into a document that other readers need not
+// repair, or there is a reason.
+
+#include "FuzzSupport.h"
+#include "pdf/PDFContext.h"
+#include "pdf/SourceDocument.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+#include <qpdf/QPDF.hh>
+
+using namespace folioforge;
+using namespace folioforge::fuzz;
+
+namespace {
+
+/// Names are copied as they stand, so one that is wrong in the source is as wrong in the copy.
+bool isOfTheSource(const QPDFExc &warning) {
+    return warning.getMessageDetail().starts_with("name with stray #");
+}
+
+void requireInOrder(const QString &path, int pages) {
+    QPDF document;
+    document.setSuppressWarnings(true);
+    document.setAttemptRecovery(false);
+    document.processFile(QFile::encodeName(path).constData());
+    require(document.getAllPages().size() == static_cast<std::size_t>(pages));
+    require(std::ranges::all_of(document.getWarnings(), isOfTheSource));
+}
+
+void mergeTwice(const QString &source, const PDFSummary &summary) {
+    const QString path = freshPath(QStringLiteral("merged.pdf"));
+    PDFContext context(path, {.info = {}, .encryption = nullptr, .flush = Flush::Never});
+    require(context.addDocument(source) == summary.pageCount);
+    require(context.addDocument(source) == summary.pageCount);
+    const CloseResult closed = context.close();
+    if (closed.status == CloseResult::Status::Failed) {
+        throw Error(closed.reason);
+    }
+    require(closed.status == CloseResult::Status::Written);
+    requireInOrder(path, 2 * summary.pageCount);
+}
+
+} // namespace
+
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    refuseMessages();
+    const MemoryFile source(QStringLiteral("pdf"), {data, size});
+    refuses([&] {
+        const PDFSummary summary = summarizePDF(source.path());
+        if (!summary.encrypted) {
+            mergeTwice(source.path(), summary);
+        }
+    });
+    return 0;
+}
