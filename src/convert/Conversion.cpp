@@ -43,6 +43,8 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
         outcome.embeddedAs = addImagePage(entry, context, options.imagePage);
         break;
     }
+    // What goes wrong with these pages must be told of this entry.
+    context.settlePages();
 }
 
 EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,

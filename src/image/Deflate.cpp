@@ -20,27 +20,23 @@ constexpr int levelOf(DeflateEffort effort) {
         return 4;
     case DeflateEffort::Less:
         return 5;
+    case DeflateEffort::Least:
+        return 1;
     case DeflateEffort::Full:
         break;
     }
     return 6;
 }
 
-struct FreeCompressor {
-    void operator()(libdeflate_compressor *compressor) const {
-        libdeflate_free_compressor(compressor);
-    }
-};
 struct FreeDecompressor {
     void operator()(libdeflate_decompressor *decompressor) const {
         libdeflate_free_decompressor(decompressor);
     }
 };
-using Compressor = std::unique_ptr<libdeflate_compressor, FreeCompressor>;
 using Decompressor = std::unique_ptr<libdeflate_decompressor, FreeDecompressor>;
 
 [[noreturn]] void throwNoMemory() {
-    throw Error(QStringLiteral("There is not enough memory for the image"));
+    throw Error(QStringLiteral("There is not enough memory"));
 }
 
 libdeflate_result inflateInto(QByteArrayView bytes, QByteArray &target, size_t &written) {
@@ -55,17 +51,30 @@ libdeflate_result inflateInto(QByteArrayView bytes, QByteArray &target, size_t &
 
 } // namespace
 
-QByteArray deflateBytes(QByteArrayView bytes, DeflateEffort effort) {
-    const Compressor compressor(libdeflate_alloc_compressor(levelOf(effort)));
-    if (!compressor) {
+void Deflater::Free::operator()(libdeflate_compressor *compressor) const {
+    libdeflate_free_compressor(compressor);
+}
+
+Deflater::Deflater(DeflateEffort effort)
+    : m_compressor(libdeflate_alloc_compressor(levelOf(effort))) {
+    if (!m_compressor) {
         throwNoMemory();
     }
+}
+
+void Deflater::append(QByteArray &out, QByteArrayView bytes) {
     const auto size = static_cast<size_t>(bytes.size());
-    QByteArray out(static_cast<qsizetype>(libdeflate_zlib_compress_bound(compressor.get(), size)),
-                   Qt::Uninitialized);
-    const size_t written = libdeflate_zlib_compress(compressor.get(), bytes.data(), size,
-                                                    out.data(), static_cast<size_t>(out.size()));
-    out.truncate(static_cast<qsizetype>(written));
+    const size_t bound = libdeflate_zlib_compress_bound(m_compressor.get(), size);
+    const qsizetype start = out.size();
+    out.resize(start + static_cast<qsizetype>(bound));
+    const size_t written =
+        libdeflate_zlib_compress(m_compressor.get(), bytes.data(), size, out.data() + start, bound);
+    out.truncate(start + static_cast<qsizetype>(written));
+}
+
+QByteArray deflateBytes(QByteArrayView bytes, DeflateEffort effort) {
+    QByteArray out;
+    Deflater(effort).append(out, bytes);
     out.squeeze();
     return out;
 }

@@ -18,6 +18,7 @@
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <optional>
 #include <string>
@@ -34,8 +35,19 @@ struct OpenPage {
     std::string content;
     Resources fonts;
     Resources images;
-    std::optional<TextContent> text; ///< Writes to `content` and `fonts`.
+    std::optional<TextContent> text;   ///< Writes to `content` and `fonts`.
+    std::array<double, 3> fillColor{}; ///< Black, as a page begins.
 
+    void fill(const std::array<double, 3> &color) {
+        if (color == fillColor) {
+            return;
+        }
+        fillColor = color;
+        for (const double value : color) {
+            appendNumber(content, value);
+        }
+        content += "rg ";
+    }
     /// What is drawn next is no text.
     void endText() {
         if (text) {
@@ -65,13 +77,15 @@ class PDFContext::Impl {
     void drawImage(const QRectF &rect, const EncodedImage &image, int orientation);
     int addDocument(const QString &sourcePath);
     CloseResult close(const std::function<QString()> &nextPath);
+    void settlePages() { m_streams.settlePages(); }
+    void keepPages(int count) { m_catalog.keepPages(count); }
     void beginPage(const QRectF &mediaBox);
     void showGlyphs(double x, double y, std::span<const Glyph> glyphs);
 
     OpenPage page;
     std::shared_ptr<const FontCascade> font;
     double fontSize = 0;
-    DocumentCatalog catalog;
+    [[nodiscard]] int pageCount() const { return m_catalog.pageCount(); }
 
   private:
     QPDFObjectHandle resources();
@@ -85,6 +99,7 @@ class PDFContext::Impl {
     QPDF m_document;
     std::shared_ptr<SourceReader> m_reader = std::make_shared<SourceReader>();
     StreamData m_streams{m_document, m_reader, m_settings.calls};
+    DocumentCatalog m_catalog;
     ImageEmbedder m_images{m_document, m_streams};
     std::vector<std::unique_ptr<FontEmbedder>> m_fonts; ///< One for each cascade.
     QPDFObjectHandle m_pageType = QPDFObjectHandle::newName("/Page");
@@ -148,6 +163,7 @@ void PDFContext::Impl::beginPage(const QRectF &mediaBox) {
     page.content.clear();
     page.fonts.clear();
     page.images.clear();
+    page.fillColor = {};
     page.mediaBox = mediaBox;
 }
 
@@ -178,10 +194,9 @@ void PDFContext::Impl::endPage() {
     dictionary.replaceKey("/MediaBox", mediaBox());
     dictionary.replaceKey("/Resources", resources());
     if (!page.content.empty()) {
-        dictionary.replaceKey("/Contents", m_streams.deflated(QPDFObjectHandle::newDictionary(),
-                                                              page.content, Effort::Quick));
+        dictionary.replaceKey("/Contents", m_streams.pageContent(page.content));
     }
-    catalog.addPage(m_document.makeIndirectObject(dictionary));
+    m_catalog.addPage(m_document.makeIndirectObject(dictionary));
     beginPage({});
 }
 
@@ -207,7 +222,7 @@ int PDFContext::Impl::addDocument(const QString &sourcePath) {
         // Only what a whole copy brought may be used by the next one.
         ObjectCopier::Streams streams = m_sourceStreams[key];
         const ImportedDocument imported = importDocument(*source, m_document, streams);
-        catalog.addDocument(imported);
+        m_catalog.addDocument(imported);
         m_sourceStreams[key] = std::move(streams);
         return static_cast<int>(imported.pages.size());
     });
@@ -219,7 +234,7 @@ void PDFContext::Impl::finishDocument() {
             fonts->embed();
         }
         writeDocumentInfo(m_document, m_settings.info);
-        catalog.finish(m_document);
+        m_catalog.finish(m_document);
     });
 }
 
@@ -237,12 +252,13 @@ CloseResult PDFContext::Impl::publish(OutputFile &file, const std::function<QStr
 
 CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
     try {
+        settlePages();
         finishDocument();
         // What is read from now on must come from files that are still what they were.
         m_reader->closeFile();
         m_reader->clearFailure();
         OutputFile file(m_path, m_settings.calls);
-        writeDocument(m_document, file, m_settings.encryption.get(), catalog.pdfVersion());
+        writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.pdfVersion());
         if (m_reader->failure()) {
             throw Error(*m_reader->failure());
         }
@@ -263,11 +279,7 @@ void PDFContext::beginPage(const QRectF &mediaBox) {
 }
 
 void PDFContext::setRGBFillColor(double red, double green, double blue) {
-    std::string &content = m_impl->page.content;
-    for (const double value : {red, green, blue}) {
-        appendNumber(content, value);
-    }
-    content += "rg\n";
+    m_impl->page.fill({red, green, blue});
 }
 
 void PDFContext::setFont(std::shared_ptr<const FontCascade> font, double size) {
@@ -294,11 +306,15 @@ int PDFContext::addDocument(const QString &sourcePath) {
 }
 
 int PDFContext::pageCount() const {
-    return m_impl->catalog.pageCount();
+    return m_impl->pageCount();
+}
+
+void PDFContext::settlePages() {
+    atQpdfBorder([&] { m_impl->settlePages(); });
 }
 
 void PDFContext::keepPages(int count) {
-    m_impl->catalog.keepPages(count);
+    m_impl->keepPages(count);
 }
 
 CloseResult PDFContext::close(const std::function<QString()> &nextPath) {

@@ -81,6 +81,9 @@ class PDFContext {
     int addDocument(const QString &sourcePath);
 
     [[nodiscard]] int pageCount() const;
+    /// Returns when the pages drawn so far are safe: they are compressed beside the drawing. Throws
+    /// Error when they cannot be kept, which is then to be followed by keepPages().
+    void settlePages();
     /// Takes back the drawn pages after the first `count`; for what failed in its midst.
     void keepPages(int count);
 

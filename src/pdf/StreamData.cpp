@@ -1,70 +1,34 @@
 #include "pdf/StreamData.h"
 
-#include "error/Error.h"
+#include "image/Deflate.h"
 #include "image/EncodedImage.h"
 
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
-
-#include <libdeflate.h>
 
 #include <algorithm>
 #include <map>
 
 namespace folioforge {
 
-namespace {
-
-struct CompressorDeleter {
-    void operator()(libdeflate_compressor *compressor) const {
-        libdeflate_free_compressor(compressor);
-    }
-};
-using Compressor = std::unique_ptr<libdeflate_compressor, CompressorDeleter>;
-
-/// Making a compressor costs more than compressing a page of text, so each thread keeps its own.
-libdeflate_compressor *compressorFor(Effort effort) {
-    constexpr int kQuickLevel = 1;
-    constexpr int kThoroughLevel = 6;
-    thread_local const Compressor quick(libdeflate_alloc_compressor(kQuickLevel));
-    thread_local const Compressor thorough(libdeflate_alloc_compressor(kThoroughLevel));
-    return effort == Effort::Quick ? quick.get() : thorough.get();
-}
-
-} // namespace
-
-QByteArray zlibCompressed(QByteArrayView data, Effort effort) {
-    libdeflate_compressor *compressor = compressorFor(effort);
-    if (!compressor) {
-        throw Error(QStringLiteral("There is not enough memory"));
-    }
-    const auto size = static_cast<std::size_t>(data.size());
-    const auto bound = libdeflate_zlib_compress_bound(compressor, size);
-    QByteArray compressed(static_cast<qsizetype>(bound), Qt::Uninitialized);
-    const auto length =
-        libdeflate_zlib_compress(compressor, data.data(), size, compressed.data(), bound);
-    compressed.truncate(static_cast<qsizetype>(length));
-    return compressed;
-}
-
 /// One provider for all spooled streams: it knows the place of each by its object number.
 class StreamData::SpooledData final : public QPDFObjectHandle::StreamDataProvider {
   public:
-    explicit SpooledData(std::shared_ptr<Spool> spool)
-        : m_spool(std::move(spool)) {}
+    explicit SpooledData(SystemCalls &calls)
+        : m_spool(calls) {}
 
-    void remember(const QPDFObjGen &object, Spool::Place place) {
-        m_places.insert_or_assign(m_places.end(), object, place);
+    void keep(const QPDFObjGen &object, QByteArrayView data) {
+        m_places.insert_or_assign(m_places.end(), object, m_spool.add(data));
     }
 
     void provideStreamData(QPDFObjGen const &object, Pipeline *pipeline) override {
-        const QByteArrayView data = m_spool->at(m_places.at(object));
+        const QByteArrayView data = m_spool.at(m_places.at(object));
         pipeline->write(data.data(), static_cast<std::size_t>(data.size()));
         pipeline->finish();
     }
 
   private:
-    std::shared_ptr<Spool> m_spool;
+    Spool m_spool;
     std::map<QPDFObjGen, Spool::Place> m_places;
 };
 
@@ -97,8 +61,10 @@ class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider
 StreamData::StreamData(QPDF &document, std::shared_ptr<SourceReader> reader, SystemCalls &calls)
     : m_document(document)
     , m_reader(std::move(reader))
-    , m_spool(std::make_shared<Spool>(calls))
-    , m_spooled(std::make_shared<SpooledData>(m_spool))
+    , m_spooled(std::make_shared<SpooledData>(calls))
+    , m_pages([spooled = m_spooled](const QPDFObjGen &stream, QByteArrayView compressed) {
+        spooled->keep(stream, compressed);
+    })
     , m_flateName(QPDFObjectHandle::newName("/FlateDecode")) {}
 
 QPDFObjectHandle
@@ -114,16 +80,22 @@ StreamData::make(const QPDFObjectHandle &dictionary,
 }
 
 QPDFObjectHandle StreamData::fromBytes(const QPDFObjectHandle &dictionary, QByteArrayView data) {
-    const auto place = m_spool->add(data);
     QPDFObjectHandle stream = make(dictionary, m_spooled);
-    m_spooled->remember(stream.getObjGen(), place);
+    m_spooled->keep(stream.getObjGen(), data);
     return stream;
 }
 
-QPDFObjectHandle StreamData::deflated(QPDFObjectHandle dictionary, QByteArrayView data,
-                                      Effort effort) {
+QPDFObjectHandle StreamData::deflated(QPDFObjectHandle dictionary, QByteArrayView data) {
     dictionary.replaceKey("/Filter", m_flateName);
-    return fromBytes(dictionary, zlibCompressed(data, effort));
+    return fromBytes(dictionary, deflateBytes(data));
+}
+
+QPDFObjectHandle StreamData::pageContent(QByteArrayView content) {
+    auto dictionary = QPDFObjectHandle::newDictionary();
+    dictionary.replaceKey("/Filter", m_flateName);
+    QPDFObjectHandle stream = make(dictionary, m_spooled);
+    m_pages.add(stream.getObjGen(), content);
+    return stream;
 }
 
 QPDFObjectHandle StreamData::fromFile(const QPDFObjectHandle &dictionary, SourceFile file,

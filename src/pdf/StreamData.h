@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pdf/DeflateBatches.h"
 #include "pdf/SourceReader.h"
 #include "pdf/Spool.h"
 
@@ -16,12 +17,6 @@ namespace folioforge {
 
 struct FileSlice;
 
-/// How hard to compress.
-enum class Effort {
-    Quick,   ///< For pages of text: half the time for one per cent more bytes.
-    Thorough ///< For what a document has once.
-};
-
 /// Makes the streams of a document whose data is read only while the document is written, already
 /// compressed: from the spool, or from where it lies in a source file.
 class StreamData {
@@ -33,8 +28,12 @@ class StreamData {
     /// A stream with `data`, which is compressed as `dictionary` says.
     QPDFObjectHandle fromBytes(const QPDFObjectHandle &dictionary, QByteArrayView data);
     /// A stream with `data`, compressed here.
-    QPDFObjectHandle deflated(QPDFObjectHandle dictionary, QByteArrayView data,
-                              Effort effort = Effort::Thorough);
+    QPDFObjectHandle deflated(QPDFObjectHandle dictionary, QByteArrayView data);
+    /// A stream with a page's `content`, compressed beside what the caller does next. Throws Error
+    /// when an earlier one cannot be kept.
+    QPDFObjectHandle pageContent(QByteArrayView content);
+    /// Returns when all page contents are kept; throws Error when they cannot be.
+    void settlePages() { m_pages.settle(); }
     /// A stream with slices of a source file, one after another.
     QPDFObjectHandle fromFile(const QPDFObjectHandle &dictionary, SourceFile file,
                               std::vector<FileSlice> slices);
@@ -48,12 +47,9 @@ class StreamData {
 
     QPDF &m_document;
     std::shared_ptr<SourceReader> m_reader;
-    std::shared_ptr<Spool> m_spool;
     std::shared_ptr<SpooledData> m_spooled;
+    DeflateBatches m_pages;
     QPDFObjectHandle m_flateName; ///< One for all streams: a document of pages has many.
 };
-
-/// `data` compressed in the zlib format (RFC 1950), as FlateDecode reads it.
-QByteArray zlibCompressed(QByteArrayView data, Effort effort = Effort::Thorough);
 
 } // namespace folioforge

@@ -1,0 +1,55 @@
+#include "pdf/DeflateBatches.h"
+
+#include <utility>
+
+namespace folioforge {
+
+void DeflateBatches::add(const QPDFObjGen &stream, QByteArrayView bytes) {
+    // So much work that starting a thread for it costs nothing beside.
+    constexpr qsizetype kBatchBytes = 1 << 18;
+    m_batch.bytes.append(bytes);
+    m_batch.pieces.push_back({stream, bytes.size()});
+    if (m_batch.bytes.size() < kBatchBytes) {
+        return;
+    }
+    keepRunning();
+    // Deferred is for a system that gives no further thread: the batch then waits for its turn.
+    m_running = std::async(
+        std::launch::async | std::launch::deferred,
+        [this, batch = std::exchange(m_batch, {})] { return compressed(batch, m_deflater); });
+}
+
+void DeflateBatches::settle() {
+    keepRunning();
+    keep(compressed(std::exchange(m_batch, {}), m_deflater));
+}
+
+DeflateBatches::Batch DeflateBatches::compressed(const Batch &batch, Deflater &deflater) {
+    Batch result;
+    result.bytes.reserve(batch.bytes.size());
+    result.pieces.reserve(batch.pieces.size());
+    QByteArrayView rest = batch.bytes;
+    for (const Piece &piece : batch.pieces) {
+        const qsizetype start = result.bytes.size();
+        deflater.append(result.bytes, rest.first(piece.length));
+        result.pieces.push_back({piece.stream, result.bytes.size() - start});
+        rest = rest.sliced(piece.length);
+    }
+    return result;
+}
+
+void DeflateBatches::keepRunning() {
+    if (m_running.valid()) {
+        keep(m_running.get());
+    }
+}
+
+void DeflateBatches::keep(const Batch &batch) {
+    QByteArrayView rest = batch.bytes;
+    for (const Piece &piece : batch.pieces) {
+        m_keep(piece.stream, rest.first(piece.length));
+        rest = rest.sliced(piece.length);
+    }
+}
+
+} // namespace folioforge
