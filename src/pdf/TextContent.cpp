@@ -25,6 +25,19 @@ TextContent::TextContent(std::string &content, Resources &resources, FontEmbedde
     , m_fonts(fonts)
     , m_size(size) {}
 
+void TextContent::open(double x, double y) {
+    m_open = true;
+    m_leading = written(-static_cast<double>(m_fonts.cascade().rowHeight()));
+    m_x = written(x);
+    m_y = written(y - m_leading);
+    m_content += "BT ";
+    appendNumber(m_content, -m_leading);
+    m_content += "TL ";
+    appendNumber(m_content, m_x);
+    appendNumber(m_content, m_y);
+    m_content += "Td ";
+}
+
 TextContent::Operator TextContent::moveTo(double x, double y) {
     // Far below what a reader can show; it only keeps rounding from piling up down the page.
     constexpr double kTolerance = 0.0005;
@@ -37,7 +50,7 @@ TextContent::Operator TextContent::moveTo(double x, double y) {
     if (right != 0 || up != 0) {
         appendNumber(m_content, right);
         appendNumber(m_content, up);
-        m_content += "TD\n";
+        m_content += "TD ";
         m_leading = up;
     }
     m_x += right;
@@ -51,11 +64,11 @@ void TextContent::selectFont(std::uint16_t font) {
     m_resources[name] = m_fonts.object(font);
     m_content.append(name).append(" ");
     appendNumber(m_content, m_size);
-    m_content += "Tf\n";
+    m_content += "Tf ";
 }
 
 void TextContent::show(Operator how) {
-    m_content.append("(").append(m_run).append(how == Operator::Show ? ")Tj\n" : ")'\n");
+    m_content.append("(").append(m_run).append(how == Operator::Show ? ")Tj" : ")'");
 }
 
 void TextContent::showGlyphs(double x, double y, std::span<const Glyph> glyphs) {
@@ -63,9 +76,7 @@ void TextContent::showGlyphs(double x, double y, std::span<const Glyph> glyphs) 
         return;
     }
     if (!m_open) {
-        m_content += "BT\n";
-        m_open = true;
-        m_x = m_y = m_leading = 0;
+        open(x, y);
     }
     Operator how = moveTo(x, y);
     while (!glyphs.empty()) {
@@ -99,7 +110,7 @@ std::span<const Glyph> TextContent::takeRun(std::span<const Glyph> glyphs) {
 
 void TextContent::end() {
     if (m_open) {
-        m_content += "ET\n";
+        m_content += " ET ";
         m_open = false;
     }
 }

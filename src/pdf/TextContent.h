@@ -14,6 +14,7 @@ namespace folioforge {
 class FontEmbedder;
 
 /// Writes the rows of one page into its content stream, as one text object with relative moves.
+/// A page is a small stream that is compressed alone: each byte that is not text counts.
 /// Call end() before anything else is drawn and when the page ends.
 class TextContent {
   public:
@@ -29,6 +30,8 @@ class TextContent {
 
   private:
     enum class Operator { Show, NextLineAndShow };
+    /// Begins a text object one row above the point, so that its first row is shown as all others.
+    void open(double x, double y);
     Operator moveTo(double x, double y);
     /// Puts the glyphs that one font shows into `m_run`; gives those that are left.
     std::span<const Glyph> takeRun(std::span<const Glyph> glyphs);
