@@ -1,6 +1,7 @@
 #include "filelist/TextSource.h"
 
 #include "error/Error.h"
+#include "pdf/SourceReader.h"
 #include "text/TextDecoder.h"
 
 #include <QFile>
@@ -33,6 +34,7 @@ void requireReadableFile(const QString &path) {
 
 std::optional<QString> readTextFile(const QString &path) {
     requireReadableFile(path);
+    const SourceFile examined = SourceFile::examine(path);
     QFile file(path);
     openForReading(file);
     if (file.size() > std::numeric_limits<int>::max()) {
@@ -41,6 +43,9 @@ std::optional<QString> readTextFile(const QString &path) {
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         throw Error(file.errorString());
+    }
+    if (SourceFile::examine(path) != examined) {
+        throw Error(QStringLiteral("The file was changed while it was being read"));
     }
     QString text = decodeText(bytes);
     return text.isNull() ? std::nullopt : std::optional(std::move(text));

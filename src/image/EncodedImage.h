@@ -49,8 +49,10 @@ struct EncodedImage {
     QByteArray data;
     QString sourcePath;
     std::vector<FileSlice> slices;
-    /// Size of the source file when it was examined; a different size later is an error.
+    /// Size of the source file and time of its last change, in nanoseconds since 1970, when it was
+    /// read; others later are an error.
     qint64 sourceSize = 0;
+    qint64 sourceModifiedNanos = 0;
 
     /// Opacity of each pixel as a grey image; none for an opaque image.
     std::unique_ptr<EncodedImage> softMask;

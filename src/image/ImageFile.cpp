@@ -31,15 +31,25 @@ void requireRegularFile(const struct stat &status) {
 
 } // namespace
 
-ImageFile::ImageFile(QString path, int descriptor, qint64 size)
+qint64 modifiedNanos(const struct stat &status) {
+#ifdef __APPLE__
+    const timespec &time = status.st_mtimespec;
+#else
+    const timespec &time = status.st_mtim;
+#endif
+    constexpr qint64 kNanosPerSecond = 1'000'000'000;
+    return qint64{time.tv_sec} * kNanosPerSecond + qint64{time.tv_nsec};
+}
+
+ImageFile::ImageFile(QString path, int descriptor)
     : m_path(std::move(path))
-    , m_descriptor(descriptor)
-    , m_size(size) {}
+    , m_descriptor(descriptor) {}
 
 ImageFile::ImageFile(ImageFile &&other) noexcept
     : m_path(std::move(other.m_path))
     , m_descriptor(std::exchange(other.m_descriptor, -1))
-    , m_size(other.m_size) {}
+    , m_size(other.m_size)
+    , m_modifiedNanos(other.m_modifiedNanos) {}
 
 ImageFile::~ImageFile() {
     if (m_descriptor >= 0) {
@@ -60,13 +70,22 @@ ImageFile ImageFile::open(const QString &path) {
     if (descriptor < 0) {
         throwSystemError(failed, errno);
     }
-    ImageFile file(path, descriptor, 0);
+    ImageFile file(path, descriptor);
     if (::fstat(descriptor, &status) != 0) {
         throwSystemError(failed, errno);
     }
     requireRegularFile(status);
     file.m_size = status.st_size;
+    file.m_modifiedNanos = folioforge::modifiedNanos(status);
     return file;
+}
+
+void ImageFile::requireUnchanged() const {
+    struct stat status = {};
+    if (::fstat(m_descriptor, &status) != 0 || status.st_size != m_size ||
+        folioforge::modifiedNanos(status) != m_modifiedNanos) {
+        throw Error(QStringLiteral("The file was changed while it was being converted"));
+    }
 }
 
 qint64 ImageFile::readInto(qint64 at, std::span<uchar> target) const {

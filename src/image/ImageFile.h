@@ -6,9 +6,14 @@
 #include <cstdint>
 #include <span>
 
+#include <sys/stat.h>
+
 namespace folioforge {
 
 class FileView;
+
+/// Time of the last change, in nanoseconds since 1970.
+qint64 modifiedNanos(const struct stat &status);
 
 /// A regular file open for reading, never for writing. Pipes, devices and folders are refused
 /// before they are opened, because opening or reading one may wait for ever.
@@ -27,6 +32,10 @@ class ImageFile {
     [[nodiscard]] const QString &path() const { return m_path; }
     /// Bytes in the file when it was opened.
     [[nodiscard]] qint64 size() const { return m_size; }
+    /// Time of the last change before it was opened, in nanoseconds since 1970.
+    [[nodiscard]] qint64 modifiedNanos() const { return m_modifiedNanos; }
+    /// Throws Error when the file has changed since it was opened.
+    void requireUnchanged() const;
     /// Fills `target` from byte `at` on; returns the bytes read, fewer at the end of the file.
     /// Throws Error when the system cannot read. Safe to call from several threads at once.
     [[nodiscard]] qint64 readInto(qint64 at, std::span<uchar> target) const;
@@ -34,11 +43,12 @@ class ImageFile {
     [[nodiscard]] FileView view() const;
 
   private:
-    ImageFile(QString path, int descriptor, qint64 size);
+    ImageFile(QString path, int descriptor);
 
     QString m_path;
     int m_descriptor;
-    qint64 m_size;
+    qint64 m_size = 0;
+    qint64 m_modifiedNanos = 0;
 };
 
 /// A run of bytes of a source file, read piece by piece as a decoder asks for it. A decoder sees

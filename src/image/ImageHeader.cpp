@@ -81,8 +81,10 @@ EncodedImage encodeImage(const QString &path) {
         const Decoder &decoder = decoderFor(file.view());
         checked(decoder.readHeader(file.view()), decoder.format);
         EncodedImage image = decoder.encode(file.view());
+        file.requireUnchanged();
         image.sourcePath = path;
         image.sourceSize = file.size();
+        image.sourceModifiedNanos = file.modifiedNanos();
         return image;
     });
 }

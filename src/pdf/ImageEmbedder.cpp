@@ -1,7 +1,5 @@
 #include "pdf/ImageEmbedder.h"
 
-#include "error/Error.h"
-
 #include <qpdf/QPDF.hh>
 
 #include <QCryptographicHash>
@@ -78,12 +76,9 @@ std::string sourceKey(const SourceFile &file, const EncodedImage &image) {
     return key;
 }
 
-SourceFile examinedSource(const EncodedImage &image) {
-    SourceFile file = SourceFile::examine(image.sourcePath);
-    if (file.size != image.sourceSize) {
-        throw Error(QStringLiteral("The file was changed while it was being converted"));
-    }
-    return file;
+/// The source as the decoder saw it: reading another one is an error.
+SourceFile sourceOf(const EncodedImage &image) {
+    return {image.sourcePath, image.sourceSize, image.sourceModifiedNanos};
 }
 
 } // namespace
@@ -143,7 +138,7 @@ QPDFObjectHandle ImageEmbedder::makeStream(QPDFObjectHandle dictionary, const En
     if (image.slices.empty()) {
         return m_streams.fromBytes(dictionary, image.data);
     }
-    return m_streams.fromFile(dictionary, examinedSource(image), image.slices);
+    return m_streams.fromFile(dictionary, sourceOf(image), image.slices);
 }
 
 QPDFObjectHandle ImageEmbedder::makeImage(const EncodedImage &image) {
@@ -179,7 +174,7 @@ QPDFObjectHandle ImageEmbedder::embed(const EncodedImage &image) {
     if (image.slices.empty()) {
         return makeImage(image);
     }
-    const std::string key = sourceKey(examinedSource(image), image);
+    const std::string key = sourceKey(sourceOf(image), image);
     const auto known = m_embedded.find(key);
     if (known != m_embedded.end()) {
         return known->second;

@@ -54,15 +54,6 @@ bool canLinkByDescriptor(int fd) {
     return ::access(path.c_str(), F_OK) == 0;
 }
 
-/// The result of `call`, which is made again as long as a signal interrupts it.
-template<typename Call> auto uninterrupted(const Call &call) {
-    auto result = call();
-    while (result < 0 && errno == EINTR) {
-        result = call();
-    }
-    return result;
-}
-
 } // namespace
 
 OutputFile::OutputFile(const QString &path, SystemCalls &calls, Readers readers)

@@ -215,6 +215,7 @@ void PDFContext::Impl::drawImage(const QRectF &rect, const EncodedImage &image, 
 
 int PDFContext::Impl::addDocument(const QString &sourcePath) {
     return atQpdfBorder([&] {
+        m_reader->closeFile(); // A source that failed may have left it open.
         const SourceFile file = SourceFile::examine(sourcePath);
         const std::string key = sourcePath.toStdString() + '\0' + std::to_string(file.size) + ' ' +
                                 std::to_string(file.modifiedNanos);
@@ -222,6 +223,7 @@ int PDFContext::Impl::addDocument(const QString &sourcePath) {
         // Only what a whole copy brought may be used by the next one.
         ObjectCopier::Streams streams = m_sourceStreams[key];
         const ImportedDocument imported = importDocument(*source, m_document, streams);
+        m_reader->finish();
         m_catalog.addDocument(imported);
         m_sourceStreams[key] = std::move(streams);
         return static_cast<int>(imported.pages.size());
@@ -239,15 +241,19 @@ void PDFContext::Impl::finishDocument() {
 }
 
 CloseResult PDFContext::Impl::publish(OutputFile &file, const std::function<QString()> &nextPath) {
+    // Each name that is lost was taken by somebody who went on with it, so the next may be had.
+    constexpr int kAttempts = 1000;
     QString path = m_path;
-    while (file.publish(path, m_settings.flush) == OutputFile::Published::NameTaken) {
-        const QString next = nextPath ? nextPath() : QString();
-        if (next.isEmpty() || next == path) {
-            return {CloseResult::Status::NameTaken, path, {}};
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        if (file.publish(path, m_settings.flush) == OutputFile::Published::Yes) {
+            return {CloseResult::Status::Written, path, {}};
         }
-        path = next;
+        if (!nextPath) {
+            break;
+        }
+        path = nextPath();
     }
-    return {CloseResult::Status::Written, path, {}};
+    return {CloseResult::Status::NameTaken, path, {}};
 }
 
 CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
@@ -259,6 +265,7 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         m_reader->clearFailure();
         OutputFile file(m_path, m_settings.calls);
         writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.pdfVersion());
+        m_reader->finish();
         if (m_reader->failure()) {
             throw Error(*m_reader->failure());
         }

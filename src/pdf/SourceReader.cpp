@@ -1,6 +1,7 @@
 #include "pdf/SourceReader.h"
 
 #include "error/Error.h"
+#include "image/ImageFile.h"
 
 #include <QFile>
 
@@ -22,16 +23,6 @@ constexpr qint64 kWindowAlignment = 16 << 10;
 [[noreturn]] void failToRead() {
     throw Error(QStringLiteral("Cannot read the file: %1")
                     .arg(QString::fromLocal8Bit(std::strerror(errno))));
-}
-
-qint64 modifiedNanos(const struct stat &status) {
-#ifdef __APPLE__
-    const timespec &time = status.st_mtimespec;
-#else
-    const timespec &time = status.st_mtim;
-#endif
-    constexpr qint64 kNanosPerSecond = 1'000'000'000;
-    return qint64{time.tv_sec} * kNanosPerSecond + qint64{time.tv_nsec};
 }
 
 } // namespace
@@ -59,27 +50,33 @@ void SourceReader::closeFile() {
     m_window = {};
 }
 
+void SourceReader::requireUnchanged() const {
+    struct stat status {};
+    if (::fstat(m_fd, &status) != 0) {
+        failToRead();
+    }
+    if (!S_ISREG(status.st_mode) || status.st_size != m_file.size ||
+        modifiedNanos(status) != m_file.modifiedNanos) {
+        throw Error(QStringLiteral("The file %1 was changed while it was being converted")
+                        .arg(m_file.path));
+    }
+}
+
 void SourceReader::openFile(const SourceFile &file) {
     if (m_fd >= 0 && m_file == file) {
         return;
     }
+    if (m_fd >= 0) {
+        requireUnchanged();
+    }
     closeFile();
+    m_file = file;
     // Without O_NONBLOCK a pipe that took the file's place would make the program wait for ever.
     m_fd = ::open(QFile::encodeName(file.path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (m_fd < 0) {
         failToRead();
     }
-    struct stat status {};
-    if (::fstat(m_fd, &status) != 0) {
-        failToRead();
-    }
-    if (!S_ISREG(status.st_mode) || status.st_size != file.size ||
-        modifiedNanos(status) != file.modifiedNanos) {
-        closeFile();
-        throw Error(
-            QStringLiteral("The file %1 was changed while it was being converted").arg(file.path));
-    }
-    m_file = file;
+    requireUnchanged();
 }
 
 std::size_t SourceReader::readFromDisk(qint64 offset, std::span<char> target) const {
@@ -122,18 +119,34 @@ std::size_t SourceReader::readThroughWindow(qint64 offset, std::span<char> targe
     return static_cast<std::size_t>(available);
 }
 
-std::size_t SourceReader::read(const SourceFile &file, qint64 offset, std::span<char> target) {
+template<typename Step> auto SourceReader::keepingFailure(const Step &step) {
     try {
-        openFile(file);
-        constexpr std::size_t kLargeRead = kWindowSize - kWindowAlignment;
-        return target.size() >= kLargeRead ? readFromDisk(offset, target)
-                                           : readThroughWindow(offset, target);
+        return step();
     } catch (const Error &error) {
+        closeFile();
         if (!m_failure) {
             m_failure = error.reason();
         }
         throw;
     }
+}
+
+std::size_t SourceReader::read(const SourceFile &file, qint64 offset, std::span<char> target) {
+    return keepingFailure([&] {
+        openFile(file);
+        constexpr std::size_t kLargeRead = kWindowSize - kWindowAlignment;
+        return target.size() >= kLargeRead ? readFromDisk(offset, target)
+                                           : readThroughWindow(offset, target);
+    });
+}
+
+void SourceReader::finish() {
+    keepingFailure([&] {
+        if (m_fd >= 0) {
+            requireUnchanged();
+            closeFile();
+        }
+    });
 }
 
 std::span<const char> SourceReader::view(const SourceFile &file, qint64 offset, qint64 size) {

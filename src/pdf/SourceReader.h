@@ -43,11 +43,16 @@ class SourceReader {
     [[nodiscard]] const std::optional<QString> &failure() const { return m_failure; }
     void clearFailure() { m_failure.reset(); }
 
-    /// Closes the open file, if any.
+    /// Closes the open file, if any. Throws Error when it changed while it was read.
+    void finish();
+    /// Closes the open file, if any, whatever became of it.
     void closeFile();
 
   private:
     void openFile(const SourceFile &file);
+    void requireUnchanged() const;
+    /// Does `step`, and keeps the Error that it throws.
+    template<typename Step> auto keepingFailure(const Step &step);
     std::size_t readFromDisk(qint64 offset, std::span<char> target) const;
     std::size_t readThroughWindow(qint64 offset, std::span<char> target);
 

@@ -36,11 +36,11 @@ Spool::~Spool() {
 void Spool::openFile() {
     constexpr mode_t kOwnerMode = S_IRUSR | S_IWUSR;
     const std::string folder = QFile::encodeName(QDir::tempPath()).toStdString();
-    m_fd = m_calls.openAnonymous(folder.c_str(), kOwnerMode);
+    m_fd = uninterrupted([&] { return m_calls.openAnonymous(folder.c_str(), kOwnerMode); });
     if (m_fd < 0 && !folder.empty()) { // Empty where TMPDIR names a folder that does not exist.
         const std::string path = partPath(folder, "spool");
-        m_fd = m_calls.open(path.c_str(), O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC,
-                            kOwnerMode);
+        constexpr int kFlags = O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC;
+        m_fd = uninterrupted([&] { return m_calls.open(path.c_str(), kFlags, kOwnerMode); });
         if (m_fd >= 0) {
             m_calls.unlink(path.c_str());
         }
@@ -55,11 +55,10 @@ void Spool::moveToFile(QByteArrayView data) {
         openFile();
     }
     while (!data.isEmpty()) {
-        const ssize_t written =
-            m_calls.pwrite(m_fd, data.data(), static_cast<std::size_t>(data.size()), m_fileSize);
-        if (written < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t written = uninterrupted([&] {
+            return m_calls.pwrite(m_fd, data.data(), static_cast<std::size_t>(data.size()),
+                                  m_fileSize);
+        });
         if (written == 0) {
             errno = ENOSPC;
         }
@@ -93,12 +92,10 @@ void Spool::readWindow(Place place) {
     m_windowStart = place.offset;
     qint64 done = 0;
     while (done < size) {
-        const ssize_t got =
-            m_calls.pread(m_fd, m_window.data() + done, static_cast<std::size_t>(size - done),
-                          place.offset + done);
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t got = uninterrupted([&] {
+            return m_calls.pread(m_fd, m_window.data() + done,
+                                 static_cast<std::size_t>(size - done), place.offset + done);
+        });
         if (got == 0) {
             errno = EIO;
         }

@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <cerrno>
 #include <cstddef>
 
 namespace folioforge {
@@ -33,5 +34,14 @@ class SystemCalls {
     /// The calls of the running system.
     static SystemCalls &system();
 };
+
+/// The result of `call`, which is made again as long as a signal interrupts it.
+template<typename Call> auto uninterrupted(const Call &call) {
+    auto result = call();
+    while (result < 0 && errno == EINTR) {
+        result = call();
+    }
+    return result;
+}
 
 } // namespace folioforge

@@ -10,6 +10,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <stop_token>
+#include <thread>
+
 #include <sys/stat.h>
 
 using namespace folioforge;
@@ -36,6 +39,24 @@ class PDFFileInfoTest : public QObject {
     }
 
   private Q_SLOTS:
+    void aTextThatGrowsWhileItIsReadIsAnError() {
+        const QTemporaryDir folder;
+        const QString path = test::writeFile(folder.filePath(QStringLiteral("log.txt")), "first\n");
+        constexpr qint64 kLarge = 64 << 20; // Takes many times as long to read as to append to.
+        QVERIFY(QFile::resize(path, kLarge));
+        const std::jthread writer([&path](const std::stop_token &stop) {
+            QFile log(path);
+            while (!stop.stop_requested() && log.open(QIODevice::Append)) {
+                log.write("more\n");
+                log.close();
+            }
+        });
+        const PDFFileInfo entry(path);
+        QVERIFY2(entry.readError().contains(QStringLiteral("changed")),
+                 qPrintable(entry.readError()));
+        QVERIFY(entry.getFileString().isEmpty());
+    }
+
     void aNewEntryWaitsWithoutAStateText() {
         const PDFFileInfo entry;
         QCOMPARE(entry.filePathName(), QStringLiteral(""));

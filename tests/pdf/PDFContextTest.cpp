@@ -2,6 +2,7 @@
 
 #include "error/Error.h"
 #include "image/EncodedImage.h"
+#include "pdf/SourceReader.h"
 #include "support/PdfProbe.h"
 
 #include <QDir>
@@ -43,7 +44,9 @@ EncodedImage jpegInPlace(const QString &path) {
     image.filter = ImageFilter::Dct;
     image.embeddedAs = EmbeddedAs::OwnBytes;
     image.sourcePath = path;
-    image.sourceSize = QFileInfo(path).size();
+    const SourceFile source = SourceFile::examine(path);
+    image.sourceSize = source.size;
+    image.sourceModifiedNanos = source.modifiedNanos;
     image.slices = {{0, image.sourceSize}};
     return image;
 }
@@ -373,6 +376,7 @@ class PDFContextTest : public QObject {
         image.filter = ImageFilter::Dct;
         image.sourcePath = source;
         image.sourceSize = big.size();
+        image.sourceModifiedNanos = SourceFile::examine(source).modifiedNanos;
         image.slices = {{0, image.sourceSize}};
         context.beginPage({0, 0, 10, 10});
         context.drawImage({0, 0, 10, 10}, std::move(image), 1);

@@ -1,14 +1,43 @@
 #include "pdf/Spool.h"
 
+#include "error/Error.h"
+#include "pdf/PartFiles.h"
+#include "support/FaultyCalls.h"
+
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <array>
+#include <cstring>
 
 using namespace folioforge;
 
 class SpoolTest : public QObject {
     Q_OBJECT
+
+    /// Puts 12 MB through a spool; the reason of what failed. Other data than was kept fails the
+    /// test.
+    static QString keepAndGiveBack(SystemCalls &calls) {
+        constexpr int kPieces = 3;
+        constexpr qsizetype kPiece = 4 << 20;
+        try {
+            Spool spool(calls);
+            std::vector<Spool::Place> places;
+            for (char piece = 0; piece < kPieces; ++piece) {
+                places.push_back(spool.add(QByteArray(kPiece, piece)));
+            }
+            for (char piece = 0; piece < kPieces; ++piece) {
+                const auto data = spool.at(places.at(static_cast<std::size_t>(piece)));
+                if (data.toByteArray() != QByteArray(kPiece, piece)) {
+                    return QStringLiteral("other data came back");
+                }
+            }
+        } catch (const Error &error) {
+            return error.reason();
+        }
+        return {};
+    }
 
   private Q_SLOTS:
     void givesBackWhatItGot() {
@@ -38,6 +67,45 @@ class SpoolTest : public QObject {
             QCOMPARE(data.toByteArray(), QByteArray(1 << 20, c));
         }
         qputenv("TMPDIR", before);
+    }
+
+    void aFaultOfTheDiskIsAnErrorAndNeverWrongData_data() {
+        QTest::addColumn<bool>("nameless");
+        QTest::newRow("nameless file") << true;
+        QTest::newRow("removed file") << false;
+    }
+    void aFaultOfTheDiskIsAnErrorAndNeverWrongData() {
+        QFETCH(bool, nameless);
+        const QTemporaryDir folder;
+        const QByteArray before = qgetenv("TMPDIR");
+        qputenv("TMPDIR", folder.path().toLocal8Bit());
+        const auto restore = qScopeGuard([&] { qputenv("TMPDIR", before); });
+        const std::map<std::string, int> missing =
+            nameless ? std::map<std::string, int>()
+                     : std::map<std::string, int>{{"openAnonymous", EOPNOTSUPP}};
+        test::FaultyCalls counted;
+        counted.failing = missing;
+        QCOMPARE(keepAndGiveBack(counted), QString());
+        int tried = 0;
+        for (int call = 1; call <= counted.count(); ++call) {
+            for (const int error : {ENOSPC, EIO, EACCES, EINTR, 0}) {
+                test::FaultyCalls calls;
+                calls.failing = missing;
+                calls.fault = {call, error, false, {}};
+                const QString reason = keepAndGiveBack(calls);
+                const bool goesOn = error == EINTR || error == 0;
+                QVERIFY(reason.isEmpty() || !goesOn);
+                QVERIFY2(reason.isEmpty() ||
+                             reason.contains(QString::fromLocal8Bit(std::strerror(error))),
+                         qPrintable(reason));
+                QVERIFY(calls.keptFiles() ||
+                        QDir(folder.path())
+                            .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+                removeAbandonedParts(folder.path());
+                ++tried;
+            }
+        }
+        qInfo("%d faults tried", tried);
     }
 
     void givesBackSmallAndHugePiecesInAnyOrder() {
