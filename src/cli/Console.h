@@ -5,15 +5,11 @@
 
 namespace folioforge {
 
-/// `text` fit for a terminal: control characters, which could move the cursor or hide a name, are
-/// written as \xNN or \u{NNNN}.
-QString printable(const QString &text);
-
 /// The terminal or the pipes behind it: standard output for results, standard error for messages
 /// and the progress line, which gives way to each message.
 class Console {
   public:
-    /// Writes one line to standard output.
+    /// Writes one line to standard output, as it is.
     void result(const QByteArray &line);
     /// Writes "folioforge-cli: `message`" to standard error, made printable.
     void complain(const QString &message);

@@ -1,8 +1,11 @@
 #include "cli/Report.h"
 
+#include "text/Printable.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QList>
 
 #include <map>
 
@@ -39,6 +42,28 @@ void addTo(QJsonObject &object, const CompressionOutcome &compression) {
     object.insert(QStringLiteral("imagesLeft"), left);
 }
 
+QByteArray escapedUnits(const QString &text) {
+    QByteArray result;
+    for (const QChar unit : text) {
+        constexpr int kDigits = 4;
+        constexpr int kHexadecimal = 16;
+        const QByteArray digits = QByteArray::number(unit.unicode(), kHexadecimal);
+        result += "\\u" + digits.rightJustified(kDigits, '0');
+    }
+    return result;
+}
+
+/// What a terminal could take for a command is escaped, though JSON allows most of it in strings.
+QByteArray escaped(const QString &json) {
+    QByteArray result;
+    const auto characters = json.toUcs4();
+    for (const char32_t character : characters) {
+        const QString text = QString::fromUcs4(&character, 1);
+        result += isPrintable(character) ? text.toUtf8() : escapedUnits(text);
+    }
+    return result;
+}
+
 } // namespace
 
 QByteArray toJson(const InputResult &result) {
@@ -56,7 +81,7 @@ QByteArray toJson(const InputResult &result) {
     if (result.compression && result.compression->error.isEmpty()) {
         addTo(object, *result.compression);
     }
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+    return escaped(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }
 
 QString toWords(const CompressionOutcome &compression) {

@@ -12,6 +12,7 @@
 #include "filelist/SourceFiles.h"
 #include "pdf/PartFiles.h"
 #include "pdf/TemporaryFolder.h"
+#include "text/Printable.h"
 
 #include <utility>
 
@@ -132,7 +133,7 @@ class Run {
             !m_arguments.json) {
             m_console.result(printable(outcome.close.path).toUtf8());
             if (compression && compression->error.isEmpty()) {
-                m_console.result("  " + toWords(*compression).toUtf8());
+                m_console.result("  " + printable(toWords(*compression)).toUtf8());
             }
         }
         return outcome.close.status;

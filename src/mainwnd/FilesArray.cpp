@@ -1,6 +1,9 @@
 #include "mainwnd/FilesArray.h"
 
+#include "text/Printable.h"
+
 #include <QFont>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <array>
@@ -15,11 +18,11 @@ QString textOf(const PDFFileInfo &entry, int column) {
     case FilesArray::NumberColumn:
         return QString::number(entry.index());
     case FilesArray::NameColumn:
-        return entry.fileName();
+        return printable(entry.fileName());
     case FilesArray::SizeColumn:
         return entry.fileSize();
     default:
-        return entry.state() ? entry.state()->text : QString();
+        return entry.state() ? printable(entry.state()->text) : QString();
     }
 }
 
@@ -27,11 +30,17 @@ bool isLink(const PDFFileInfo &entry, int column) {
     return column == FilesArray::DestinationColumn && entry.stateIndex() == FinishedAsLink;
 }
 
+/// Tool tips take a text that looks like HTML for HTML.
+QString plainToolTip(const QString &path) {
+    const QString text = printable(path);
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+}
+
 QVariant toolTipOf(const PDFFileInfo &entry, int column) {
     if (column == FilesArray::NameColumn) {
-        return entry.filePathName();
+        return plainToolTip(entry.filePathName());
     }
-    return isLink(entry, column) ? QVariant(entry.destFilePathName()) : QVariant();
+    return isLink(entry, column) ? QVariant(plainToolTip(entry.destFilePathName())) : QVariant();
 }
 
 QVariant fontOf(const RichText &text) {

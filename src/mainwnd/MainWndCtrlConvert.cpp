@@ -3,6 +3,7 @@
 #include "error/Error.h"
 #include "mainwnd/FilesArray.h"
 #include "pdf/PartFiles.h"
+#include "text/Printable.h"
 
 #include <QFileInfo>
 
@@ -116,7 +117,8 @@ void MainWndCtrl::beginFile() {
 }
 
 void MainWndCtrl::showFileBeingWritten(int done) {
-    m_alertWnd->setFile(QFileInfo(m_destFilePathName).fileName(), done, m_filesArray->count());
+    m_alertWnd->setFile(printable(QFileInfo(m_destFilePathName).fileName()), done,
+                        m_filesArray->count());
 }
 
 void MainWndCtrl::showProgress(float value) {

@@ -1,6 +1,7 @@
 #include "mainwnd/Notices.h"
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QMessageBox>
 
 namespace folioforge {
@@ -58,6 +59,13 @@ QFileDialog *makeFileDialog(QWidget *window, const FilePanel &panel) {
     return dialog;
 }
 
+/// File names that look like HTML are shown as they are; the box itself knows only its first text.
+void showAsPlainText(QMessageBox &box) {
+    for (QLabel *label : box.findChildren<QLabel *>()) {
+        label->setTextFormat(Qt::PlainText);
+    }
+}
+
 } // namespace
 
 void Notices::showSheet(QWidget *window, const Notice &notice, Ended ended) {
@@ -79,8 +87,8 @@ void Notices::show(QWidget *window, const Notice &notice, Kind kind, Ended ended
     auto *box = new QMessageBox(QMessageBox::NoIcon, notice.title, notice.title, QMessageBox::Ok,
                                 window, Qt::Sheet);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
     box->setInformativeText(notice.message);
+    showAsPlainText(*box);
     box->setWindowModality(kind == Kind::Sheet ? Qt::WindowModal : Qt::ApplicationModal);
     if (ended) {
         // Queued, so that this sheet has gone before the next one comes.

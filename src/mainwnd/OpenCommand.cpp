@@ -23,9 +23,9 @@ QByteArray openCommand(const QString &verb, const QString &path) {
 
 bool isSafeInShell(const QString &path) {
     constexpr std::array kUnsafe{u'"', u'`', u'\\', u'\n', u'\r', u'\0'};
-    return std::none_of(path.begin(), path.end(), [&kUnsafe](QChar unit) {
-        return std::ranges::find(kUnsafe, unit) != kUnsafe.end();
-    });
+    return path.startsWith(u'/') && std::none_of(path.begin(), path.end(), [&kUnsafe](QChar unit) {
+               return std::ranges::find(kUnsafe, unit) != kUnsafe.end();
+           });
 }
 
 QString openVerb() {

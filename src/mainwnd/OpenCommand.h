@@ -11,7 +11,7 @@ QByteArray openCommand(const QString &verb, const QString &path);
 
 /// Whether openCommand() of `path` can do nothing but open it: false where the path holds a
 /// character that ends or escapes the quotes (a double quote, a backquote, a backslash, a line
-/// break or a null character).
+/// break or a null character), and where it is relative and might be taken for an option.
 bool isSafeInShell(const QString &path);
 
 /// The command that opens files here: "open", or "xdg-open" where the system has no "open".

@@ -1,5 +1,6 @@
 #include "cli/Console.h"
 #include "cli/Report.h"
+#include "text/Printable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -22,6 +23,26 @@ class ConsoleTest : public QObject {
                  QStringLiteral("a\\x1b[2Jb\\x0ac\\x09d\\x7f"));
         QCOMPARE(printable(QStringLiteral("\u0085\u2028\u202Etxt")),
                  QStringLiteral("\\u{85}\\u{2028}\\u{202e}txt"));
+    }
+
+    void joinersOfLettersAndEmojiStay() {
+        const QString name =
+            QStringLiteral("\u0646\u0645\u06CC\u200C\u062E\u0648\u0627\u0647\u0645 "
+                           "\U0001F469\u200D\U0001F680");
+        QCOMPARE(printable(name), name);
+    }
+
+    void halvesOfCharactersAreReplaced() {
+        QCOMPARE(printable(QString(QChar(0xDE00)) + u'a'), QStringLiteral("\uFFFDa"));
+    }
+
+    void jsonEscapesWhatATerminalObeys() {
+        InputResult result;
+        result.input = QStringLiteral("\u009b2J\u202E\U000E0001\x7f");
+        const QByteArray line = toJson(result);
+        QVERIFY(line.contains("\\u009b2J\\u202e\\udb40\\udc01\\u007f"));
+        QCOMPARE(QJsonDocument::fromJson(line).object()[QStringLiteral("input")].toString(),
+                 result.input);
     }
 
     void aResultIsOneJsonObjectOnOneLine() {

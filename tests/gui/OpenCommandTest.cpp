@@ -42,6 +42,7 @@ class OpenCommandTest : public QObject {
         QTest::newRow("backslash") << QStringLiteral("/a/\\.pdf") << false;
         QTest::newRow("line feed") << QStringLiteral("/a/\n.pdf") << false;
         QTest::newRow("carriage return") << QStringLiteral("/a/\r.pdf") << false;
+        QTest::newRow("relative") << QStringLiteral("--version/a.pdf") << false;
         QTest::newRow("null") << QString(QChar(u'\0')) << false;
     }
 

@@ -1,0 +1,162 @@
+#include "gui/TestWindow.h"
+#include "mainwnd/OpenCommand.h"
+#include "support/HostileNames.h"
+#include "support/PdfProbe.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QProcess>
+#include <QTextDocument>
+#include <QUrl>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+/// The path that the real shell hands to the program that opens files, when it is given `command`.
+QString openedBy(const QByteArray &command, const QString &folder) {
+    const QString opener = folder + u'/' + openVerb();
+    QFile script(opener);
+    if (!script.open(QIODevice::WriteOnly) ||
+        script.write("#!/bin/sh\nprintf '%s<' \"$@\"\n") < 0) {
+        return {};
+    }
+    script.close();
+    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QProcess shell;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("PATH"),
+                       folder + u':' + environment.value(QStringLiteral("PATH")));
+    shell.setProcessEnvironment(environment);
+    shell.setWorkingDirectory(folder);
+    shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QFile::decodeName(command)});
+    return shell.waitForFinished() ? QFile::decodeName(shell.readAllStandardOutput()) : QString();
+}
+
+void writeInputs(const TestWindow &w) {
+    QVERIFY(QDir().mkpath(w.path(QStringLiteral("in"))));
+    for (const QByteArray &name : hostileNames()) {
+        writeFileNamed(QFile::encodeName(w.path(QStringLiteral("in"))) + '/' + name, "words\n");
+    }
+}
+
+void run(TestWindow &w) {
+    w.press("m_btnCreate");
+    QTRY_VERIFY_WITH_TIMEOUT(!w.ctrl.isConverting(), 60'000);
+}
+
+void removeInputs(const TestWindow &w) {
+    // Qt cannot name all of them, nor remove them.
+    runTool(QStringLiteral("rm"), {QStringLiteral("-rf"), w.path(QStringLiteral("in"))});
+}
+
+} // namespace
+
+/// File names that are made to be misread are converted, shown and opened rightly.
+class NamesTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void eachFileOfAFolderIsConvertedAndOpened() {
+        TestWindow w;
+        writeInputs(w);
+        w.notices.setNextFiles({w.path(QStringLiteral("in"))});
+        w.ctrl.clickBtnAddFolder();
+        QTRY_COMPARE(w.ctrl.filesArray().count(), int(hostileNames().size()));
+        run(w);
+        for (int row = 0; row < w.ctrl.filesArray().count(); ++row) {
+            checkThatItOpens(w, row);
+        }
+        for (const QByteArray &name : hostileNames()) {
+            QVERIFY(QFile::exists(w.path(QStringLiteral("out/")) + readableBase(name) +
+                                  QStringLiteral(".pdf")));
+        }
+        QVERIFY(!QFile::exists(w.path(QStringLiteral("pwned"))));
+        removeInputs(w);
+    }
+
+    void theTableShowsThemAsPlainTextOnOneLine() {
+        TestWindow w;
+        writeInputs(w);
+        w.notices.setNextFiles({w.path(QStringLiteral("in"))});
+        w.ctrl.clickBtnAddFolder();
+        QTRY_VERIFY(w.ctrl.filesArray().count() > 0);
+        run(w);
+        const FilesArray &files = w.ctrl.filesArray();
+        for (int row = 0; row < files.count(); ++row) {
+            for (const int column : {FilesArray::NameColumn, FilesArray::DestinationColumn}) {
+                const QModelIndex cell = files.index(row, column);
+                const QString shown = cell.data().toString();
+                QVERIFY(isHarmlessForTerminals(shown.toUtf8()) && !shown.contains(u'\n'));
+                checkToolTip(cell.data(Qt::ToolTipRole).toString());
+            }
+        }
+        removeInputs(w);
+    }
+
+    void aDroppedFileWhoseNameIsNoTextIsConverted() {
+        TestWindow w;
+        writeFileNamed(QFile::encodeName(w.path(QStringLiteral("caf"))) + "\xe9.txt", "words\n");
+        QMimeData data;
+        data.setUrls(
+            {QUrl::fromEncoded("file://" + QFile::encodeName(w.home.path()) + "/caf%E9.txt")});
+        QVERIFY(w.ctrl.acceptDrop(data, 0));
+        QCOMPARE(w.names(), QStringLiteral("caf\uFFFD.txt"));
+        run(w);
+        const QString output = w.path(QStringLiteral("out/caf\uFFFD.pdf"));
+        QCOMPARE(PdfProbe(output).text().trimmed(), QStringLiteral("words"));
+        runTool(QStringLiteral("sh"),
+                {QStringLiteral("-c"), QStringLiteral("rm \"$0\"/caf*.txt"), w.home.path()});
+    }
+
+    void noticesShowThemAsPlainText() {
+        QWidget window;
+        Notices notices;
+        window.show();
+        notices.showSheet(&window, badNotice(QStringLiteral("/<b>bold<b> <img src=x>.pdf")));
+        const auto *box = window.findChild<QMessageBox *>();
+        QVERIFY(box);
+        const auto labels = box->findChildren<QLabel *>();
+        int naming = 0;
+        for (const QLabel *label : labels) {
+            if (label->text().contains(QStringLiteral("<img"))) {
+                QCOMPARE(label->textFormat(), Qt::PlainText);
+                ++naming;
+            }
+        }
+        QCOMPARE(naming, 1);
+    }
+
+  private:
+    static Notice badNotice(const QString &path) {
+        return {QStringLiteral("Fail to import"), QStringLiteral("    ") + path};
+    }
+
+    static void checkToolTip(const QString &tip) {
+        if (Qt::mightBeRichText(tip)) {
+            QTextDocument document;
+            document.setHtml(tip);
+            QVERIFY(document.toPlainText().contains(QStringLiteral("<b>")));
+        }
+    }
+
+    /// A click opens the destination, through the shell or past it.
+    static void checkThatItOpens(TestWindow &w, int row) {
+        const QString destination = w.ctrl.filesArray().at(row).destFilePathName();
+        QVERIFY(QFile::exists(destination));
+        w.desktop.commands.clear();
+        w.desktop.files.clear();
+        w.ctrl.clickedDest(row);
+        QCOMPARE(w.desktop.commands.size() + w.desktop.files.size(), 1);
+        if (!w.desktop.commands.isEmpty()) {
+            QCOMPARE(openedBy(w.desktop.commands.front(), w.home.path()), destination + u'<');
+        } else {
+            QCOMPARE(w.desktop.files.front(), destination);
+        }
+    }
+};
+
+QTEST_MAIN(NamesTest)
+#include "NamesTest.moc"
