@@ -2,6 +2,7 @@
 #include "mainwnd/Desktop.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
+#include "pdf/Password.h"
 #include "skin/LightLook.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@ QString bundlePath() {
 
 int main(int argc, char *argv[]) {
     using namespace folioforge;
+    forbidCoreDumps();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Folioforge"));
     QApplication::setDesktopFileName(QStringLiteral("com.vesprin.folioforge"));

@@ -1,6 +1,7 @@
 #include "cli/Passwords.h"
 
 #include "cli/OptionValues.h"
+#include "pdf/Password.h"
 
 #include <QFile>
 
@@ -64,6 +65,7 @@ class PasswordReader {
 } // namespace
 
 void readPasswords(const Arguments &arguments, SecuritySettings &security) {
+    forbidCoreDumps();
     PasswordReader reader;
     if (const auto user = reader.read(arguments.userPasswordFile, "FOLIOFORGE_USER_PASSWORD")) {
         security.useUserPassword = true;

@@ -112,9 +112,11 @@ QString filterFile(const ConversionOptions &options, const CompressionPlaces &pl
     return quartzFilterPath(places.bundlePath, name);
 }
 
-/// Makes the copy of the document at `path`; returns where it stands.
-QString makeCopy(const QString &path, const QuartzFilter &filter, const ConversionOptions &options,
-                 ConversionObserver *observer, const QString &folder, CompressionOutcome &outcome) {
+/// Makes the copy of the document at `path`.
+std::shared_ptr<const PartFile> makeCopy(const QString &path, const QuartzFilter &filter,
+                                         const ConversionOptions &options,
+                                         ConversionObserver *observer, const QString &folder,
+                                         CompressionOutcome &outcome) {
     const auto encryption = encryptionFor(options.security);
     std::optional<TemporaryCopy> copy(std::in_place, folder, path, options.calls);
     runPass(path, filter, encryption.get(), copy->pipeline(), observer, outcome);
@@ -123,9 +125,9 @@ QString makeCopy(const QString &path, const QuartzFilter &filter, const Conversi
         copy->takeSource();
         outcome.imagesReduced = 0;
     }
-    QString place = copy->finish();
+    auto part = copy->finish();
     outcome.bytesAfter = copy->size();
-    return place;
+    return part;
 }
 
 void compressInto(const QString &path, const ConversionOptions &options,
@@ -134,8 +136,9 @@ void compressInto(const QString &path, const ConversionOptions &options,
     const QuartzFilter filter = readQuartzFilter(filterFile(options, places));
     // From here on there is something to hand over, even where no copy comes of it.
     outcome.convertInfo = ConvertInfo{{}, path};
-    outcome.convertInfo->tempFilePathName =
-        makeCopy(path, filter, options, observer, places.temporaryFolder, outcome);
+    auto part = makeCopy(path, filter, options, observer, places.temporaryFolder, outcome);
+    outcome.convertInfo->tempFilePathName = QFile::decodeName(part->path().c_str());
+    outcome.convertInfo->part = std::move(part);
 }
 
 /// The copy of `source` for `destination`, whole but without its name.

@@ -4,17 +4,20 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
 namespace folioforge {
 
 class ConversionObserver;
+class PartFile;
 
 /// The hand-over record of the compression pass: the compressed copy and the file it replaces.
 struct ConvertInfo {
     QString tempFilePathName; ///< "Temp File Path Name": in the temporary folder; empty for none.
     QString destFilePathName; ///< "Dest File Path Name": the PDF that was compressed.
+    std::shared_ptr<const PartFile> part = {}; ///< Lets a signal handler find the copy.
 };
 
 /// An image of the document that stays as it is.

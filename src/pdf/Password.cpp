@@ -3,6 +3,7 @@
 #include "error/Error.h"
 
 #include <stringprep.h>
+#include <sys/resource.h>
 
 #include <cstdlib>
 #include <memory>
@@ -60,6 +61,14 @@ QByteArray preparedPassword(const QString &password) {
         throw Error(*problem);
     }
     return std::get<QByteArray>(result);
+}
+
+void forbidCoreDumps() {
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_CORE, &limit) == 0) {
+        limit.rlim_cur = 0;
+        ::setrlimit(RLIMIT_CORE, &limit);
+    }
 }
 
 } // namespace folioforge

@@ -19,4 +19,7 @@ std::optional<QString> passwordProblem(const QString &password);
 /// Throws Error with the text of passwordProblem() where there is one.
 QByteArray preparedPassword(const QString &password);
 
+/// From now on a crash of this process leaves no image of its memory, which holds passwords.
+void forbidCoreDumps();
+
 } // namespace folioforge

@@ -11,6 +11,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -188,6 +189,7 @@ class FaultsTest : public QObject {
         FaultyCalls counted;
         counted.failing = missing;
         QCOMPARE(run(kind, counted).reason, QString());
+        QVERIFY(counted.count() > 0);
         const QList<QByteArray> whole = wholeOutputs(kind);
         for (int call = 1; call <= counted.count(); ++call) {
             for (Fault fault : faults) {
@@ -255,6 +257,29 @@ class FaultsTest : public QObject {
             QVERIFY(sourcesAreUntouched());
             ++m_tried;
         }
+    }
+
+    static QStringList filesIn(const QString &folder) {
+        QStringList files;
+        QDirIterator all(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (all.hasNext()) {
+            files += all.next();
+        }
+        return files;
+    }
+
+    static bool contains(const QString &folder, const QByteArray &bytes) {
+        const QStringList files = filesIn(folder);
+        return std::any_of(files.begin(), files.end(), [&bytes](const QString &file) {
+            return test::readFile(file).contains(bytes);
+        });
+    }
+
+    static bool isReadableByOthers(const QString &folder) {
+        const QStringList files = filesIn(folder);
+        return std::any_of(files.begin(), files.end(), [](const QString &file) {
+            return (QFile::permissions(file) & (QFile::ReadGroup | QFile::ReadOther)) != 0;
+        });
     }
 
     void clear() const {
@@ -385,6 +410,32 @@ class FaultsTest : public QObject {
         }
     }
 
+    /// What a protected document is made of never lies open on the disk, and its temporary copy is
+    /// its owner's alone, whenever one looks.
+    void aProtectedDocumentNeverLiesOpenOnTheDisk_data() { addWays(); }
+    void aProtectedDocumentNeverLiesOpenOnTheDisk() {
+        QFETCH(QStringList, missing);
+        const Kind kind{false, true, 1};
+        const QByteArray secret = m_sources.front().bytes.last(64);
+        FaultyCalls counted;
+        counted.failing = lacking(missing);
+        QCOMPARE(run(kind, counted).reason, QString());
+        int looks = 0;
+        for (int call = 1; call <= counted.count(); ++call) {
+            clear();
+            FaultyCalls calls;
+            calls.failing = lacking(missing);
+            calls.fault = {call, 0, false, [&] {
+                               looks += filesIn(path("temporary")).empty() ? 0 : 1;
+                               QVERIFY(!isReadableByOthers(path("temporary")));
+                               QVERIFY(!contains(path("temporary"), secret));
+                               QVERIFY(!contains(path("out"), secret));
+                           }};
+            QVERIFY(run(kind, calls).written);
+        }
+        QVERIFY(looks > 0);
+    }
+
     void aKilledRunLeavesAtMostOnePartThatTheNextRunClears_data() {
         QTest::addColumn<QStringList>("missing");
         QTest::newRow("nameless file") << QStringList();
@@ -414,10 +465,7 @@ class FaultsTest : public QObject {
         qInfo("%d runs killed, %d parts left and cleared", kKills, left);
     }
 
-    void cleanupTestCase() {
-        qInfo("%d faults tried", m_tried);
-        QVERIFY(m_tried > 0);
-    }
+    void cleanupTestCase() const { qInfo("%d faults tried", m_tried); }
 };
 
 QTEST_GUILESS_MAIN(FaultsTest)

@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDirIterator>
 #include <QImage>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -209,6 +210,48 @@ class ConvertingFilesTest : public QObject {
                 QStringLiteral("Please input user password."),
                 QStringLiteral("Please input output file name.")}));
         QCOMPARE(outNames(w), QString());
+    }
+
+    void aPasswordThatNoDocumentCanHaveIsRefused_data() {
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("128 bytes")
+            << QString(128, u'x') << QStringLiteral("The password is longer than 127 bytes.");
+        QTest::newRow("private use")
+            << QStringLiteral("a\uE000")
+            << QStringLiteral("The password contains a character that passwords cannot have.");
+    }
+
+    void aPasswordThatNoDocumentCanHaveIsRefused() {
+        QFETCH(const QString, password);
+        QFETCH(const QString, message);
+        TestWindow w;
+        addTexts(w, 1);
+        w.control<QCheckBox>("m_btnCheckOwnerPassword")->setChecked(true);
+        w.control<QLineEdit>("m_tfOwnerPassword")->setText(password);
+        w.press("m_btnCreate");
+        QVERIFY(!w.ctrl.isConverting());
+        QCOMPARE(w.messages(), QStringList(message));
+        QCOMPARE(outNames(w), QString());
+    }
+
+    void aPasswordProtectsTheDocumentAndStaysInMemory() {
+        TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
+        const QString password = QStringLiteral("correct horse battery");
+        w.ctrl.addFiles({photo(w, QStringLiteral("photo.jpg"))}, -1);
+        w.control<QCheckBox>("m_btnCheckUserPassword")->setChecked(true);
+        w.control<QLineEdit>("m_tfUserPassword")->setText(password);
+        w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(3);
+        run(w);
+        QVERIFY(PdfProbe(outPath(w, QStringLiteral("photo.pdf")), password).isValid());
+        QVERIFY(!PdfProbe(outPath(w, QStringLiteral("photo.pdf"))).isValid());
+        w.syncSettings();
+        QDirIterator files(w.home.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile file(files.next());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QVERIFY(!file.readAll().contains(password.toUtf8()));
+        }
     }
 
     void aFileThatFailsKeepsWaitingAndTheOthersGoOn_data() {

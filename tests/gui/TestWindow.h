@@ -86,6 +86,9 @@ class TestWindow {
         }
     }
 
+    /// Brings the settings to their file, in the home folder.
+    void syncSettings() { m_settings.sync(); }
+
     /// The names in the list, in order, with a blank between two.
     [[nodiscard]] QString names() const {
         QStringList names;

@@ -19,14 +19,22 @@ void TemporaryCopy::takeSource() {
     appendFile(m_file, m_source);
 }
 
-QString TemporaryCopy::finish() {
+/// Null where the name is taken.
+std::shared_ptr<const PartFile> TemporaryCopy::publishedAs(const QString &name) {
+    const QString path = m_folder + u'/' + name;
+    auto part = std::make_shared<const PartFile>(QFile::encodeName(path).toStdString());
+    const auto published = m_file.publish(path, Flush::Never);
+    return published == OutputFile::Published::Yes ? part : nullptr;
+}
+
+std::shared_ptr<const PartFile> TemporaryCopy::finish() {
     m_file.finish(Flush::Never);
     const QFileInfo source(m_source);
-    QString path = m_folder + u'/' + source.fileName();
-    for (int n = 1; m_file.publish(path, Flush::Never) == OutputFile::Published::NameTaken; ++n) {
-        path = m_folder + u'/' + source.completeBaseName() + QStringLiteral("(%1).pdf").arg(n);
+    auto part = publishedAs(source.fileName());
+    for (int n = 1; !part; ++n) {
+        part = publishedAs(source.completeBaseName() + QStringLiteral("(%1).pdf").arg(n));
     }
-    return path;
+    return part;
 }
 
 void appendFile(OutputFile &target, const QString &path) {

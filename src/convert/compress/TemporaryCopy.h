@@ -1,8 +1,11 @@
 #pragma once
 
 #include "pdf/OutputPipeline.h"
+#include "pdf/PartFiles.h"
 
 #include <QString>
+
+#include <memory>
 
 namespace folioforge {
 
@@ -20,10 +23,13 @@ class TemporaryCopy {
     /// Writes the bytes of the source. Throws Error.
     void takeSource();
     /// Gives the copy its name, the source's, or with a number behind it, "(1).pdf" and upwards,
-    /// where that is taken. Returns its path. Throws Error.
-    QString finish();
+    /// where that is taken. As long as the result lives, a signal that ends the program removes the
+    /// copy. Throws Error.
+    std::shared_ptr<const PartFile> finish();
 
   private:
+    std::shared_ptr<const PartFile> publishedAs(const QString &name);
+
     QString m_folder;
     QString m_source;
     OutputFile m_file;

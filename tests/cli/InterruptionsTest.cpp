@@ -1,0 +1,102 @@
+#include "support/Files.h"
+#include "support/PdfProbe.h"
+#include "support/PhotoPage.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+
+#include <csignal>
+#include <memory>
+
+using namespace folioforge;
+using test::PdfProbe;
+
+/// Runs that are ended at any moment leave whole documents and next to nothing else.
+class InterruptionsTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
+    QStringList hiddenIn(const char *folder) const {
+        return QDir(path(folder))
+            .entryList({QStringLiteral(".*")},
+                       QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+    QStringList arguments() const {
+        return {QStringLiteral("--output-folder"),
+                path("out"),
+                QStringLiteral("--compress"),
+                QStringLiteral("72l"),
+                path("photo.jpg"),
+                path("photo.jpg")};
+    }
+    /// Milliseconds of a whole run.
+    int wholeRun() const {
+        QElapsedTimer timer;
+        timer.start();
+        const auto run = test::runTool(QStringLiteral(FOLIOFORGE_CLI), arguments());
+        return run.exitCode == 0 ? static_cast<int>(timer.elapsed()) : 0;
+    }
+    void endARun(int signal, int milliseconds) const {
+        QProcess process;
+        process.start(QStringLiteral(FOLIOFORGE_CLI), arguments());
+        QVERIFY(process.waitForStarted());
+        QThread::msleep(static_cast<unsigned long>(milliseconds));
+        ::kill(static_cast<pid_t>(process.processId()), signal);
+        QVERIFY(process.waitForFinished());
+    }
+
+  private Q_SLOTS:
+    void init() {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir().mkpath(path("out")));
+        QVERIFY(QDir().mkpath(path("temporary")));
+        qputenv("TMPDIR", QFile::encodeName(path("temporary")));
+        QImage photo = test::photo(1200, 900);
+        constexpr int kDotsPerMeter = 23622; // 600 per inch
+        photo.setDotsPerMeterX(kDotsPerMeter);
+        photo.setDotsPerMeterY(kDotsPerMeter);
+        QVERIFY(photo.save(path("photo.jpg"), "JPG", 95));
+    }
+    void cleanup() { qunsetenv("TMPDIR"); }
+
+    void atAnyMomentOnlyWholeDocumentsAreLeft_data() {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<int>("mostLeft");
+        QTest::newRow("killed") << SIGKILL << 1;
+        QTest::newRow("terminated") << SIGTERM << 0;
+        QTest::newRow("interrupted") << SIGINT << 0;
+    }
+    void atAnyMomentOnlyWholeDocumentsAreLeft() {
+        QFETCH(const int, signal);
+        QFETCH(const int, mostLeft);
+        const int longest = wholeRun();
+        QVERIFY(longest > 0);
+        constexpr int kRuns = 12;
+        int left = 0;
+        for (int run = 0; run < kRuns; ++run) {
+            endARun(signal, QRandomGenerator::global()->bounded(longest + 1));
+            QVERIFY(hiddenIn("out").size() <= mostLeft);
+            QVERIFY(hiddenIn("temporary").size() <= mostLeft);
+            left += static_cast<int>(hiddenIn("out").size() + hiddenIn("temporary").size());
+        }
+        QVERIFY(wholeRun() > 0);
+        QCOMPARE(hiddenIn("out") + hiddenIn("temporary"), QStringList());
+        QCOMPARE(QDir(path("temporary")).entryList(QDir::Files), QStringList());
+        const QStringList documents = QDir(path("out")).entryList(QDir::Files);
+        for (const QString &name : documents) {
+            QVERIFY(PdfProbe(path("out/") + name).isValid());
+        }
+        qInfo("%d runs ended, %d parts left and cleared, %d documents whole", kRuns, left,
+              static_cast<int>(documents.size()));
+    }
+};
+
+QTEST_GUILESS_MAIN(InterruptionsTest)
+#include "InterruptionsTest.moc"

@@ -1,0 +1,143 @@
+#include "support/Files.h"
+#include "support/PdfProbe.h"
+#include "support/PhotoPage.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace folioforge;
+using test::PdfProbe;
+using test::ToolRun;
+
+namespace {
+
+const QString kProgram = QStringLiteral(FOLIOFORGE_CLI);
+const QByteArray kPassword = "correct horse battery";
+
+} // namespace
+
+/// Passwords leave no trace, and those that no document can have are refused.
+class PasswordsTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
+    QStringList outputArguments() const { return {QStringLiteral("--output-folder"), path("out")}; }
+
+  private Q_SLOTS:
+    void init() {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir().mkpath(path("out")));
+        QVERIFY(QDir().mkpath(path("temporary")));
+        qputenv("TMPDIR", QFile::encodeName(path("temporary")));
+    }
+    void cleanup() { qunsetenv("TMPDIR"); }
+
+    void neitherReportNorFilesHoldThePassword() {
+        QVERIFY(test::photo(300, 200).save(path("photo.jpg"), "JPG", 95));
+        const ToolRun run = test::runTool(
+            kProgram,
+            outputArguments() +
+                QStringList{QStringLiteral("--user-password-file=-"), QStringLiteral("--json"),
+                            QStringLiteral("--progress=always"), QStringLiteral("--compress=72l"),
+                            path("photo.jpg"), path("missing.txt")},
+            kPassword + '\n');
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(PdfProbe(path("out/photo.pdf"), QString::fromLatin1(kPassword)).isValid());
+        QVERIFY(!run.out.contains(kPassword) && !run.err.contains(kPassword));
+        QDirIterator files(m_folder->path(), QDir::Files | QDir::Hidden,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QVERIFY(!test::readFile(files.next()).contains(kPassword));
+        }
+        QVERIFY(QDir(path("temporary"))
+                    .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    }
+
+    void thereIsNoOptionForAPassword_data() {
+        QTest::addColumn<QString>("option");
+        QTest::newRow("user") << QStringLiteral("--user-password");
+        QTest::newRow("owner") << QStringLiteral("--owner-password");
+        QTest::newRow("short") << QStringLiteral("--password");
+    }
+    void thereIsNoOptionForAPassword() {
+        QFETCH(const QString, option);
+        const ToolRun run = test::runTool(
+            kProgram, {option + u'=' + QString::fromLatin1(kPassword), path("missing.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY(!run.err.contains(kPassword));
+    }
+
+    void aPasswordThatNoDocumentCanHaveIsRefused_data() {
+        QTest::addColumn<QByteArray>("password");
+        QTest::addColumn<QByteArray>("notice");
+        const QByteArray prohibited = "The password contains a character that passwords cannot "
+                                      "have.";
+        QTest::newRow("128 bytes")
+            << QByteArray(128, 'x') << QByteArray("The password is longer than 127 bytes.");
+        QTest::newRow("64 letters of two bytes")
+            << QByteArray("\xc3\xa9").repeated(64)
+            << QByteArray("The password is longer than 127 bytes.");
+        QTest::newRow("a megabyte")
+            << QByteArray(1 << 20, 'x') << QByteArray("The password is longer than 127 bytes.");
+        QTest::newRow("control character") << QByteArray("a\x07z") << prohibited;
+        QTest::newRow("private use") << QByteArray("a\xee\x80\x80") << prohibited;
+        QTest::newRow("null") << QByteArray("a\0b", 3) << prohibited;
+        QTest::newRow("nothing visible")
+            << QByteArray("\xc2\xad") << QByteArray("The password contains no visible character.");
+        QTest::newRow("digit after Arabic")
+            << QByteArray("\xd8\xa7\x31")
+            << QByteArray("The password mixes characters written from right to left with others "
+                          "in a way that passwords cannot have.");
+        QTest::newRow("no UTF-8") << QByteArray("caf\xe9")
+                                  << QByteArray("A password is not valid UTF-8");
+    }
+    void aPasswordThatNoDocumentCanHaveIsRefused() {
+        QFETCH(const QByteArray, password);
+        QFETCH(const QByteArray, notice);
+        const QString file = test::writeFile(path("password"), password + "\n");
+        const QString source = test::writeFile(path("a.txt"), "words");
+        for (const char *option : {"--user-password-file", "--owner-password-file"}) {
+            const ToolRun run =
+                test::runTool(kProgram, outputArguments() +
+                                            QStringList{QString::fromLatin1(option), file, source});
+            QCOMPARE(run.exitCode, 2);
+            QCOMPARE(run.err, "folioforge-cli: " + notice + '\n');
+            QVERIFY(QDir(path("out")).isEmpty());
+        }
+    }
+
+#ifdef Q_OS_LINUX
+    void aCrashLeavesNoImageOfTheMemory() {
+        QProcess process;
+        process.start(kProgram,
+                      outputArguments() + QStringList{QStringLiteral("--user-password-file=-"),
+                                                      QStringLiteral("--owner-password-file=-"),
+                                                      path("missing.txt")});
+        QVERIFY(process.waitForStarted());
+        process.write(kPassword + '\n');
+        QVERIFY(process.waitForBytesWritten());
+        const QString limits = QStringLiteral("/proc/%1/limits").arg(process.processId());
+        const auto softLimit = [&] {
+            for (const QByteArray &line : test::readFile(limits).split('\n')) {
+                if (line.startsWith("Max core file size")) {
+                    return line.simplified().split(' ').at(4);
+                }
+            }
+            return QByteArray();
+        };
+        QTRY_COMPARE(softLimit(), QByteArray("0")); // It waits for the second password.
+        process.closeWriteChannel();
+        QVERIFY(process.waitForFinished());
+    }
+#endif
+};
+
+QTEST_GUILESS_MAIN(PasswordsTest)
+#include "PasswordsTest.moc"
