@@ -434,6 +434,7 @@ class FaultsTest : public QObject {
             QVERIFY(run(kind, calls).written);
         }
         QVERIFY(looks > 0);
+        qInfo("looked before %d calls, at temporary files %d times", counted.count(), looks);
     }
 
     void aKilledRunLeavesAtMostOnePartThatTheNextRunClears_data() {
