@@ -1,0 +1,172 @@
+#pragma once
+
+#include "convert/CompressionPass.h"
+#include "convert/Conversion.h"
+#include "convert/QuartzFilter.h"
+#include "error/Error.h"
+#include "pdf/PartFiles.h"
+#include "pdf/TemporaryFolder.h"
+#include "support/FaultyCalls.h"
+#include "support/Files.h"
+#include "support/PhotoPage.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace folioforge::test {
+
+/// A photo and a PDF in a folder, and runs that make a document of them as the command line does,
+/// through system calls that may fail.
+class WholeRun {
+  protected:
+    /// What a run makes of the sources.
+    struct Kind {
+        bool merge = false;
+        bool isProtected = false;
+        int compressIndex = 0;
+    };
+
+    struct Outcome {
+        bool written = false; ///< The document got its name, whatever became of its compression.
+        QString reason;       ///< Why not all went well.
+    };
+
+    struct Source {
+        QString path;
+        QByteArray bytes;
+        QDateTime modified;
+    };
+
+    static inline const QString kPassword = QStringLiteral("open sesame");
+
+    void setUp() {
+        qputenv("SOURCE_DATE_EPOCH", "1700000000");
+        for (const char *name : {"in", "out", "temporary", "bundle/Contents/Resources"}) {
+            QVERIFY(QDir().mkpath(path(name)));
+        }
+        QVERIFY(QFile::copy(QStringLiteral(FOLIOFORGE_FILTERS "/150m.qfilter"),
+                            quartzFilterPath(path("bundle"), quartzFilterName(1))));
+        QImage picture = photo(120, 80);
+        constexpr int kDotsPerMeter = 23622; // 600 per inch
+        picture.setDotsPerMeterX(kDotsPerMeter);
+        picture.setDotsPerMeterY(kDotsPerMeter);
+        QVERIFY(picture.save(path("in/photo.jpg"), "JPG", 95));
+        addSource(path("in/photo.jpg"));
+        addSource(writePdf(path("in/pages.pdf"), 2));
+    }
+
+    QString path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
+    QString output() const { return path("out/photo.pdf"); }
+
+    void addSource(const QString &file) {
+        m_sources.push_back({file, readFile(file), QFileInfo(file).lastModified()});
+        m_entries.emplace_back(file);
+    }
+
+    ConversionOptions optionsOf(const Kind &kind, SystemCalls &calls) const {
+        ConversionOptions options;
+        options.outputFolder = path("out");
+        options.merge = kind.merge;
+        options.compressIndex = kind.compressIndex;
+        options.security.useUserPassword = kind.isProtected;
+        options.security.userPassword = kPassword;
+        options.calls = calls;
+        return options;
+    }
+
+    /// A run as the command line makes it.
+    Outcome run(const Kind &kind, SystemCalls &calls) const {
+        const ConversionOptions options = optionsOf(kind, calls);
+        removeAbandonedParts(options.outputFolder);
+        std::vector<const PDFFileInfo *> entries{&m_entries.front()};
+        if (kind.merge) {
+            entries.push_back(&m_entries.back());
+        }
+        const PDFOutcome made = createPDF(entries, output(), options);
+        Outcome outcome{made.close.status == CloseResult::Status::Written, made.close.reason};
+        if (outcome.written && kind.compressIndex != 0) {
+            outcome.reason = compressed(options);
+        }
+        return outcome;
+    }
+
+    /// The reason why the output could not be compressed.
+    QString compressed(const ConversionOptions &options) const {
+        TemporaryFolder temporary(path("temporary"));
+        const CompressionOutcome pass =
+            compress(output(), options, {path("bundle"), temporary.path()});
+        if (!pass.error.isEmpty()) {
+            return pass.error;
+        }
+        try {
+            putInPlace(*pass.convertInfo, options.flush, options.calls);
+        } catch (const Error &error) {
+            return error.reason();
+        }
+        return {};
+    }
+
+    bool sourcesAreUntouched() const {
+        return std::all_of(m_sources.begin(), m_sources.end(), [](const Source &source) {
+            return readFile(source.path) == source.bytes &&
+                   QFileInfo(source.path).lastModified() == source.modified;
+        });
+    }
+
+    /// The output that stands there, and what it was before it was compressed.
+    QList<QByteArray> wholeOutputs(const Kind &kind) const {
+        QList<QByteArray> whole{readFile(output())};
+        if (kind.compressIndex != 0) {
+            QFile::remove(output());
+            Kind plain = kind;
+            plain.compressIndex = 0;
+            run(plain, SystemCalls::system());
+            whole += readFile(output());
+        }
+        return whole;
+    }
+
+    /// The ways in which a file gets its name, from the best to the last.
+    static void addWays() {
+        QTest::addColumn<QStringList>("missing");
+        const QString nameless = QStringLiteral("openAnonymous");
+        const QString exclusive = QStringLiteral("renameExclusive");
+        QTest::newRow("nameless file") << QStringList();
+        QTest::newRow("rename") << QStringList{nameless};
+        QTest::newRow("link") << QStringList{nameless, exclusive};
+        QTest::newRow("held name") << QStringList{nameless, exclusive, QStringLiteral("link")};
+    }
+
+    static std::map<std::string, int> lacking(const QStringList &missing) {
+        std::map<std::string, int> failing;
+        for (const QString &call : missing) {
+            failing[call.toStdString()] = EOPNOTSUPP;
+        }
+        return failing;
+    }
+
+    void clear() const {
+        for (const QString &name : namesIn(path("out"))) {
+            QFile::remove(path("out/") + name);
+        }
+    }
+
+    static QStringList namesIn(const QString &folder) {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                      QDir::NoDotAndDotDot);
+    }
+
+    QTemporaryDir m_folder;
+    std::vector<Source> m_sources;
+    std::vector<PDFFileInfo> m_entries;
+};
+
+} // namespace folioforge::test
