@@ -94,8 +94,8 @@ QByteArray encodeGroup4(const QByteArray &rows, int width, int height) {
     TIFFSetField(tif.get(), TIFFTAG_COMPRESSION, COMPRESSION_CCITTFAX4);
     TIFFSetField(tif.get(), TIFFTAG_ROWSPERSTRIP, static_cast<uint32_t>(height));
     QByteArray copy = rows; // The encoder's interface takes a mutable pointer.
-    if (TIFFWriteEncodedStrip(tif.get(), 0, copy.data(), copy.size()) < 0 ||
-        TIFFFlush(tif.get()) == 0) {
+    // The strip is in the file now; writing the directory too would forget where.
+    if (TIFFWriteEncodedStrip(tif.get(), 0, copy.data(), copy.size()) < 0) {
         return {};
     }
     const auto offset = static_cast<qsizetype>(TIFFGetStrileOffset(tif.get(), 0));

@@ -75,6 +75,7 @@ void OwnBytesTest::manyStripsAreEncodedAgain() {
     const EncodedImage image = encodeImage(imageFile(QStringLiteral("bilevel-strips.tif")));
     QCOMPARE(image.embeddedAs, EmbeddedAs::Recompressed);
     QVERIFY(image.slices.empty());
+    QCOMPARE(image.filter, ImageFilter::CcittFax);
 }
 
 void OwnBytesTest::codestreamGetsTheBoxesOfAFile() {
