@@ -1,7 +1,8 @@
 #include "pdf/Destinations.h"
 
+#include "pdf/TreeEntries.h"
+
 #include <qpdf/QPDF.hh>
-#include <qpdf/QPDFNameTreeObjectHelper.hh>
 
 namespace folioforge {
 
@@ -18,18 +19,13 @@ void Destinations::readNames() {
         }
     }
     auto names = root.getKey("/Names");
-    auto tree = names.isDictionary() ? names.getKey("/Dests") : QPDFObjectHandle::newNull();
-    if (!tree.isDictionary()) {
+    if (!names.isDictionary()) {
         return;
     }
-    try {
-        QPDFNameTreeObjectHelper helper(tree, m_source, false);
-        for (const auto &[name, destination] : helper) {
-            m_names->emplace(name, destination);
+    for (auto &[name, destination] : readTreeEntries(names.getKey("/Dests"), "/Names")) {
+        if (name.isString()) {
+            m_names->emplace(name.getUTF8Value(), destination);
         }
-    } catch (const std::exception &) {
-        // A damaged name tree costs the links that need it, not the document.
-        return;
     }
 }
 

@@ -1,7 +1,10 @@
 #include "pdf/DocumentImport.h"
 
+#include "pdf/TreeEntries.h"
+
 #include <qpdf/QPDF.hh>
-#include <qpdf/QPDFPageLabelDocumentHelper.hh>
+
+#include <map>
 
 #include <set>
 
@@ -116,18 +119,19 @@ ImportedLayers importLayers(QPDF &source, ObjectCopier &copier) {
     return imported;
 }
 
-std::vector<std::pair<long long, QPDFObjectHandle>> importPageLabels(QPDF &source,
-                                                                     ObjectCopier &copier) {
-    std::vector<std::pair<long long, QPDFObjectHandle>> labels;
-    QPDFPageLabelDocumentHelper helper(source);
-    if (!helper.hasPageLabels()) {
-        return labels;
+/// Pages before the first label count as unlabelled.
+std::map<long long, QPDFObjectHandle> importPageLabels(QPDF &source, long long pages,
+                                                       ObjectCopier &copier) {
+    std::map<long long, QPDFObjectHandle> labels;
+    const auto tree = source.getRoot().getKey("/PageLabels");
+    for (auto &[index, label] : readTreeEntries(tree, "/Nums")) {
+        const auto page = index.isInteger() ? index.getIntValue() : -1;
+        if (page >= 0 && page < pages && label.isDictionary()) {
+            labels.emplace(page, copier.copy(label));
+        }
     }
-    std::vector<QPDFObjectHandle> pairs;
-    const auto last = static_cast<long long>(source.getAllPages().size()) - 1;
-    helper.getLabelsForPageRange(0, last, 0, pairs);
-    for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {
-        labels.emplace_back(pairs[i].getIntValue(), copier.copy(pairs[i + 1]));
+    if (!labels.empty()) {
+        labels.emplace(0, QPDFObjectHandle::newNull());
     }
     return labels;
 }
@@ -141,9 +145,8 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, ObjectCopier::Stream
     imported.bookmarks = importBookmarks(source, copier);
     imported.form = importForm(source, copier);
     imported.layers = importLayers(source, copier);
-    if (!imported.pages.empty()) {
-        imported.pageLabels = importPageLabels(source, copier);
-    }
+    const auto pages = static_cast<long long>(imported.pages.size());
+    imported.pageLabels = importPageLabels(source, pages, copier);
     copier.run();
     for (auto *objects : {&imported.bookmarks, &imported.form.fields, &imported.layers.groups,
                           &imported.layers.off}) {

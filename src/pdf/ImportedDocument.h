@@ -2,8 +2,8 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <map>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace folioforge {
@@ -31,8 +31,9 @@ struct ImportedLayers {
 struct ImportedDocument {
     std::vector<QPDFObjectHandle> pages;
     std::vector<QPDFObjectHandle> bookmarks; ///< The items of the first level.
-    /// Page labels: index of the first page counted from this document's first, label dictionary.
-    std::vector<std::pair<long long, QPDFObjectHandle>> pageLabels;
+    /// Page labels by the index of their first page, counted from this document's first; null for
+    /// pages without one.
+    std::map<long long, QPDFObjectHandle> pageLabels;
     ImportedForm form;
     ImportedLayers layers;
     std::string pdfVersion;

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
 
 namespace folioforge {
 
@@ -41,20 +40,26 @@ ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, Streams &known)
     , m_destinations(source) {}
 
 std::vector<QPDFObjectHandle> ObjectCopier::copyPages() {
-    m_sourcePages = m_source.getAllPages();
-    m_targetPages.reserve(m_sourcePages.size());
-    for (const auto &page : m_sourcePages) {
+    const auto pages = readSourcePages(m_source);
+    // The library walks the tree again at every stream, and its recursion follows how deep it is.
+    m_source.getRoot().replaceKey(
+        "/Pages", QPDFObjectHandle::parse("<< /Type /Pages /Kids [] /Count 0 >>"));
+    m_targetPages.reserve(pages.size());
+    for (const auto &[page, inherited] : pages) {
         m_targetPages.push_back(m_target.makeIndirectObject(QPDFObjectHandle::newDictionary()));
-        m_copies[page.getObjGen()] = m_targetPages.back();
+        if (page.isIndirect()) {
+            // References to a page that stands in the tree twice lead to its first place.
+            m_copies.try_emplace(page.getObjGen(), m_targetPages.back());
+        }
     }
-    for (std::size_t i = 0; i < m_sourcePages.size(); ++i) {
-        fillPage(m_sourcePages[i], m_targetPages[i]);
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        fillPage(pages[i], m_targetPages[i]);
     }
     return m_targetPages;
 }
 
-void ObjectCopier::fillPage(QPDFObjectHandle source, QPDFObjectHandle target) {
-    auto entries = source.getDictAsMap();
+void ObjectCopier::fillPage(const SourcePage &source, QPDFObjectHandle target) {
+    auto entries = QPDFObjectHandle(source.page).getDictAsMap();
     entries.erase("/Parent");
     entries.erase("/Type");
     auto copied = copyDictionary(entries);
@@ -62,9 +67,9 @@ void ObjectCopier::fillPage(QPDFObjectHandle source, QPDFObjectHandle target) {
         target.replaceKey(key, value);
     }
     target.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
-    for (const char *key : {"/Resources", "/MediaBox", "/CropBox", "/Rotate"}) {
-        if (!source.hasKey(key)) {
-            copyInherited(source, target, key);
+    for (const auto &[key, inherited] : *source.inherited) {
+        if (!target.hasKey(key)) {
+            target.replaceKey(key, copyInherited(inherited));
         }
     }
     if (!target.hasKey("/MediaBox")) {
@@ -73,26 +78,16 @@ void ObjectCopier::fillPage(QPDFObjectHandle source, QPDFObjectHandle target) {
     }
 }
 
-void ObjectCopier::copyInherited(QPDFObjectHandle source, QPDFObjectHandle target,
-                                 const std::string &key) {
-    std::set<QPDFObjGen> visited;
-    auto node = source.getKey("/Parent");
-    while (node.isDictionary() && visited.insert(node.getObjGen()).second) {
-        auto value = node.getKey(key);
-        if (!value.isNull()) {
-            auto &copied = m_inherited[{node.getObjGen(), key}];
-            if (!copied.isInitialized()) {
-                copied = copy(value);
-                // Pages share the resources of their node; they go on sharing one object.
-                if (copied.isDictionary() && !copied.isIndirect()) {
-                    copied = m_target.makeIndirectObject(copied);
-                }
-            }
-            target.replaceKey(key, copied.isIndirect() ? copied : copied.shallowCopy());
-            return;
+/// Pages share the resources of their node; they go on sharing one object.
+QPDFObjectHandle ObjectCopier::copyInherited(const InheritedValue &inherited) {
+    auto &copied = m_inherited[inherited.number];
+    if (!copied.isInitialized()) {
+        copied = copy(inherited.value);
+        if (copied.isDictionary() && !copied.isIndirect()) {
+            copied = m_target.makeIndirectObject(copied);
         }
-        node = node.getKey("/Parent");
     }
+    return copied.isIndirect() ? copied : copied.shallowCopy();
 }
 
 QPDFObjectHandle ObjectCopier::copy(const QPDFObjectHandle &object) {

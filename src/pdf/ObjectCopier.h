@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pdf/Destinations.h"
+#include "pdf/SourcePages.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
 
@@ -39,8 +40,8 @@ class ObjectCopier {
         Dictionary dictionary;
     };
 
-    void fillPage(QPDFObjectHandle source, QPDFObjectHandle target);
-    void copyInherited(QPDFObjectHandle source, QPDFObjectHandle target, const std::string &key);
+    void fillPage(const SourcePage &source, QPDFObjectHandle target);
+    QPDFObjectHandle copyInherited(const InheritedValue &inherited);
     QPDFObjectHandle copyIndirect(QPDFObjectHandle object);
     QPDFObjectHandle reserveStream(QPDFObjectHandle object);
     QPDFObjectHandle copyValue(QPDFObjectHandle source);
@@ -54,8 +55,7 @@ class ObjectCopier {
     Streams &m_streams;
     Destinations m_destinations;
     std::map<QPDFObjGen, QPDFObjectHandle> m_copies;
-    std::map<std::pair<QPDFObjGen, std::string>, QPDFObjectHandle> m_inherited;
-    std::vector<QPDFObjectHandle> m_sourcePages;
+    std::map<int, QPDFObjectHandle> m_inherited; ///< By InheritedValue::number.
     std::vector<QPDFObjectHandle> m_targetPages;
     std::deque<std::pair<QPDFObjectHandle, QPDFObjectHandle>> m_pending; ///< Source and target.
     std::deque<PendingStream> m_pendingStreams;

@@ -2,6 +2,7 @@
 
 #include "pdf/QpdfBorder.h"
 #include "pdf/SourceInput.h"
+#include "pdf/SourcePages.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -48,7 +49,7 @@ PDFSummary summarizePDF(const QString &path) {
         if (!document || document->isEncrypted()) {
             return PDFSummary{true, 0};
         }
-        return PDFSummary{false, static_cast<int>(document->getAllPages().size())};
+        return PDFSummary{false, static_cast<int>(readSourcePages(*document).size())};
     });
 }
 

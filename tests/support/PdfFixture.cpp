@@ -30,8 +30,18 @@ PdfFixture &PdfFixture::pages(int first, int count) {
                          "] >>");
 }
 
+PdfFixture &PdfFixture::header(const QByteArray &line) {
+    m_header = line;
+    return *this;
+}
+
+PdfFixture &PdfFixture::trailer(const QByteArray &keys) {
+    m_trailerKeys = keys;
+    return *this;
+}
+
 QByteArray PdfFixture::bytes() const {
-    QByteArray file = "%PDF-1.7\n";
+    QByteArray file = m_header;
     std::map<int, qsizetype> offsets;
     for (const auto &[number, body] : m_objects) {
         offsets[number] = file.size();
@@ -47,8 +57,8 @@ QByteArray PdfFixture::bytes() const {
                 (used ? " 00000 n \n" : " 65535 f \n");
     }
     return file + "trailer << /Size " + QByteArray::number(size) + " /Root " +
-           QByteArray::number(m_root) + " 0 R >>\nstartxref\n" + QByteArray::number(table) +
-           "\n%%EOF\n";
+           QByteArray::number(m_root) + " 0 R " + m_trailerKeys + " >>\nstartxref\n" +
+           QByteArray::number(table) + "\n%%EOF\n";
 }
 
 bool PdfFixture::write(const QString &path) const {

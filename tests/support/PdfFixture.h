@@ -21,13 +21,21 @@ class PdfFixture {
     /// `count` pages as objects `first`, `first` + 1, ... under the page tree 2; each shows its
     /// number in Helvetica (object 3) from objects `first` + `count` on.
     PdfFixture &pages(int first, int count);
+    /// The first line instead of "%PDF-1.7", with its line end.
+    PdfFixture &header(const QByteArray &line);
+    /// Entries of the trailer beside /Size and /Root.
+    PdfFixture &trailer(const QByteArray &keys);
 
+    /// What stands between "obj" and "endobj", by object number.
+    [[nodiscard]] std::map<int, QByteArray> objects() const { return m_objects; }
     [[nodiscard]] QByteArray bytes() const;
     /// Writes the file; false when that fails.
     [[nodiscard]] bool write(const QString &path) const;
 
   private:
     int m_root;
+    QByteArray m_header = "%PDF-1.7\n";
+    QByteArray m_trailerKeys;
     std::map<int, QByteArray> m_objects;
 };
 

@@ -4,6 +4,9 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <algorithm>
+#include <limits>
+
 namespace folioforge::test {
 
 namespace {
@@ -15,6 +18,19 @@ QStringList popplerPassword(const QString &password) {
 QStringList pageRange(int page) {
     const QString number = QString::number(page);
     return {QStringLiteral("-f"), number, QStringLiteral("-l"), number};
+}
+
+/// The length of the PPM picture at the start of `bytes`; -1 where there is none.
+qsizetype lengthOfPpm(QByteArrayView bytes) {
+    static const QRegularExpression header(QStringLiteral("^P6\\s+(\\d+)\\s+(\\d+)\\s+255\\s"));
+    constexpr qsizetype kLongestHeader = 32;
+    const auto match =
+        header.match(QString::fromLatin1(bytes.first(std::min(bytes.size(), kLongestHeader))));
+    if (!match.hasMatch()) {
+        return -1;
+    }
+    const qsizetype samples = match.captured(1).toLongLong() * match.captured(2).toLongLong() * 3;
+    return match.capturedLength() + samples;
 }
 
 } // namespace
@@ -94,6 +110,40 @@ QImage PdfProbe::render(int page, int dpi) const {
         popplerPassword(m_password) + pageRange(page) +
         QStringList{QStringLiteral("-r"), QString::number(dpi), QStringLiteral("-png"), m_path};
     return QImage::fromData(runTool(QStringLiteral("pdftoppm"), arguments).out);
+}
+
+QList<QImage> PdfProbe::renderAll(int side) const {
+    const QStringList arguments =
+        popplerPassword(m_password) +
+        QStringList{QStringLiteral("-scale-to"), QString::number(side), m_path};
+    const QByteArray pictures = runTool(QStringLiteral("pdftoppm"), arguments).out;
+    QList<QImage> pages;
+    QByteArrayView rest(pictures);
+    for (auto length = lengthOfPpm(rest); length > 0 && length <= rest.size();
+         length = lengthOfPpm(rest)) {
+        pages += QImage::fromData(rest.first(length), "PPM");
+        rest = rest.sliced(length);
+    }
+    return pages;
+}
+
+QList<QByteArray> PdfProbe::geometry() const {
+    const QString everyPage = QString::number(std::numeric_limits<int>::max());
+    const ToolRun run =
+        runTool(QStringLiteral("pdfinfo"),
+                popplerPassword(m_password) +
+                    QStringList{QStringLiteral("-box"), QStringLiteral("-l"), everyPage, m_path});
+    static const QRegularExpression line(QStringLiteral("^Page +(\\d+) +(.*)$"),
+                                         QRegularExpression::MultilineOption);
+    QList<QByteArray> pages;
+    auto match = line.globalMatch(QString::fromLatin1(run.out));
+    while (match.hasNext()) {
+        const auto found = match.next();
+        const auto page = found.captured(1).toLongLong();
+        pages.resize(std::max<qsizetype>(pages.size(), page));
+        pages[page - 1] += found.captured(2).toLatin1() + '\n';
+    }
+    return pages;
 }
 
 QImage PdfProbe::renderWithMutool(int page, int dpi) const {

@@ -36,6 +36,10 @@ class PdfProbe {
     [[nodiscard]] QString text(int page = 0) const;
     /// A page drawn by pdftoppm at `dpi`; pages from 1.
     [[nodiscard]] QImage render(int page, int dpi = 72) const;
+    /// Every page drawn by pdftoppm, each so that its longer side has `side` pixels.
+    [[nodiscard]] QList<QImage> renderAll(int side) const;
+    /// The size, the turn and the boxes of every page, in the words of pdfinfo.
+    [[nodiscard]] QList<QByteArray> geometry() const;
     /// A page drawn by mutool at `dpi`; pages from 1.
     [[nodiscard]] QImage renderWithMutool(int page, int dpi = 72) const;
     /// The document as `qpdf --json` gives it.
