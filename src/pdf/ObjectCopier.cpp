@@ -42,8 +42,8 @@ ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, Streams &known)
 std::vector<QPDFObjectHandle> ObjectCopier::copyPages() {
     const auto pages = readSourcePages(m_source);
     // The library walks the tree again at every stream, and its recursion follows how deep it is.
-    m_source.getRoot().replaceKey(
-        "/Pages", QPDFObjectHandle::parse("<< /Type /Pages /Kids [] /Count 0 >>"));
+    m_source.getRoot().replaceKey("/Pages",
+                                  QPDFObjectHandle::parse("<< /Type /Pages /Kids [] /Count 0 >>"));
     m_targetPages.reserve(pages.size());
     for (const auto &[page, inherited] : pages) {
         m_targetPages.push_back(m_target.makeIndirectObject(QPDFObjectHandle::newDictionary()));

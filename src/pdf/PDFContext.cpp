@@ -222,7 +222,8 @@ int PDFContext::Impl::addDocument(const QString &sourcePath) {
         const auto source = openSourceDocument(file, m_reader);
         // Only what a whole copy brought may be used by the next one.
         ObjectCopier::Streams streams = m_sourceStreams[key];
-        const ImportedDocument imported = importDocument(*source, m_document, streams);
+        const ImportedDocument imported =
+            withEnoughMemory(*source, [&] { return importDocument(*source, m_document, streams); });
         m_reader->finish();
         m_catalog.addDocument(imported);
         m_sourceStreams[key] = std::move(streams);

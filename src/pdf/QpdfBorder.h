@@ -2,6 +2,7 @@
 
 #include "error/Error.h"
 
+#include <qpdf/QPDF.hh>
 #include <qpdf/QPDFExc.hh>
 
 #include <stdexcept>
@@ -20,6 +21,28 @@ template<typename Work> auto atQpdfBorder(Work &&work) -> decltype(work()) {
         throw Error(QStringLiteral("There is not enough memory"));
     } catch (const std::exception &error) {
         throw Error(QString::fromUtf8(error.what()));
+    }
+}
+
+/// Throws where the document's warnings tell of a lack of memory.
+inline void requireEnoughMemory(QPDF &document) {
+    for (const QPDFExc &warning : document.getWarnings()) {
+        if (warning.getMessageDetail().find(std::bad_alloc().what()) != std::string::npos) {
+            throw std::bad_alloc();
+        }
+    }
+}
+
+/// Runs `work` over `document`. Where memory is short the library only warns and goes on with null
+/// in an object's place: whatever comes of that is not the document.
+template<typename Work> auto withEnoughMemory(QPDF &document, Work &&work) -> decltype(work()) {
+    try {
+        auto result = work();
+        requireEnoughMemory(document);
+        return result;
+    } catch (const std::exception &) {
+        requireEnoughMemory(document);
+        throw;
     }
 }
 

@@ -32,6 +32,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
     try {
         document->processInputSource(std::make_shared<SourceInput>(file, reader));
     } catch (const QPDFExc &error) {
+        requireEnoughMemory(*document);
         if (error.getErrorCode() == qpdf_e_password || error.getErrorCode() == qpdf_e_unsupported) {
             return nullptr;
         }
@@ -49,7 +50,9 @@ PDFSummary summarizePDF(const QString &path) {
         if (!document || document->isEncrypted()) {
             return PDFSummary{true, 0};
         }
-        return PDFSummary{false, static_cast<int>(readSourcePages(*document).size())};
+        const auto pages =
+            withEnoughMemory(*document, [&] { return readSourcePages(*document).size(); });
+        return PDFSummary{false, static_cast<int>(pages)};
     });
 }
 

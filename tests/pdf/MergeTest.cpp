@@ -399,6 +399,32 @@ class MergeTest : public QObject {
         QVERIFY(!QFile::exists(path));
     }
 
+    void aPageThatStandsInTheTreeTwiceIsTwoPages() {
+        PdfFixture source;
+        source.object(1, "<< /Type /Catalog /Pages 2 0 R /Outlines << /First 20 0 R >> >>");
+        source.pages(4, 2);
+        source.object(2, "<< /Type /Pages /Count 3 /Kids [4 0 R 5 0 R 4 0 R] >>");
+        source.object(20, "<< /Title (First) /Dest [4 0 R /Fit] >>");
+        const QString result = merged({saved(source)});
+        QCOMPARE(PdfProbe(result).pageCount(), 3);
+        QVERIFY(PdfProbe(result).text(3).contains(QStringLiteral("Page 1")));
+        const auto document = opened(result);
+        QPDFOutlineDocumentHelper outlines(*document);
+        QCOMPARE(pageOf(*document, outlines.getTopLevelOutlines().at(0).getDest()), 0);
+    }
+
+    void pagesBeforeTheFirstLabelAreNumbered() {
+        PdfFixture source;
+        source.object(1, "<< /Type /Catalog /Pages 2 0 R /PageLabels << /Nums [-1 << >> 1 << /S /r "
+                         ">> (x) << >> 9 << /S /a >>] >> >>");
+        source.pages(4, 3);
+        const auto document = opened(merged({saved(source)}));
+        QPDFPageLabelDocumentHelper labels(*document);
+        QCOMPARE(labels.getLabelForPage(0).getKey("/S").getName(), std::string("/D"));
+        QCOMPARE(labels.getLabelForPage(1).getKey("/S").getName(), std::string("/r"));
+        QCOMPARE(labels.getLabelForPage(2).getKey("/S").getName(), std::string("/r"));
+    }
+
     void aDocumentWithoutPagesAddsNothing() {
         PdfFixture source;
         source.object(1, kCatalog).object(2, "<< /Type /Pages /Count 0 /Kids [] >>");
