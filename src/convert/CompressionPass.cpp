@@ -3,6 +3,7 @@
 #include "convert/Conversion.h"
 #include "convert/QuartzFilter.h"
 #include "convert/compress/DuplicateStreams.h"
+#include "convert/compress/FilterChains.h"
 #include "convert/compress/ImagePlan.h"
 #include "convert/compress/ImageUses.h"
 #include "convert/compress/ReducedStreams.h"
@@ -67,6 +68,7 @@ void unlock(QPDF &document, const QString &path, const Encryption *encryption) {
 
 void write(QPDF &document, OutputPipeline &output, const Encryption *encryption,
            ConversionObserver *observer) {
+    keepFilterChains(document);
     QPDFWriter writer(document);
     writer.setOutputPipeline(&output);
     writer.setObjectStreamMode(qpdf_o_generate);

@@ -146,6 +146,20 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         QCOMPARE(outcome.imagesKept[0].reason, QStringLiteral("an unusual colour space"));
     }
 
+    void aStreamCompressedTwiceKeepsItsBytes() {
+        QVERIFY(photoPage({})
+                    .stream(4, "/Filter [/FlateDecode /FlateDecode]",
+                            flate(flate("q 288 0 0 216 50 20 cm /Im0 Do Q")))
+                    .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
+                    .write(m_path));
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 1);
+        QVERIFY(PdfProbe(copy).json().simplified().contains(
+            "\"/Filter\": [ \"/FlateDecode\", \"/FlateDecode\" ]"));
+        QVERIFY(difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100)) < 5);
+    }
+
     void whatIsNoPhotoStaysAndSaysWhy_data() {
         QTest::addColumn<QByteArray>("keys");
         QTest::addColumn<QByteArray>("data");

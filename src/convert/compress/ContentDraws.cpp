@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t kMostSizes = 64;
 constexpr std::size_t kDeepestNesting = 2000;
 constexpr std::size_t kDeepestForms = 32;
-constexpr std::size_t kMostContentBytes = 256 << 20;
+constexpr std::size_t kMostContentBytes = 64 << 20;
 
 bool isImage(QPDFObjectHandle object) {
     return object.isStream() && object.getDict().getKey("/Subtype").isNameAndEquals("/Image");
