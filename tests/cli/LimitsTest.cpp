@@ -1,0 +1,219 @@
+#include "hostile/HostileImages.h"
+#include "hostile/HostilePdfs.h"
+#include "support/Files.h"
+#include "support/LimitedRun.h"
+#include "support/PdfProbe.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+/// Whether the sizes of the promises are tried; else they are cut down so that the test is quick.
+bool isFull() {
+    return qEnvironmentVariableIsSet("FOLIOFORGE_FULL_LIMITS");
+}
+
+template<typename Number> Number sized(Number full, Number quick) {
+    return isFull() ? full : quick;
+}
+
+/// Makes a file of a size: what the size counts is the function's to say.
+using Maker = QByteArray (*)(qint64);
+
+/// Columns and rows of files that a function makes, so that no more than one is in memory.
+void addColumns() {
+    QTest::addColumn<Maker>("maker");
+    QTest::addColumn<qint64>("size");
+}
+
+void addRow(const char *name, Maker maker, qint64 full, qint64 quick) {
+    QTest::newRow(name) << maker << sized(full, quick);
+}
+
+QByteArray fetched() {
+    QFETCH(Maker, maker);
+    QFETCH(qint64, size);
+    return maker(size);
+}
+
+QString written() {
+    return QStringLiteral("a PDF");
+}
+
+QString valid() {
+    return QStringLiteral("a right PDF");
+}
+
+QString noMemory() {
+    return QStringLiteral("There is not enough memory");
+}
+
+} // namespace
+
+/// The finished program, given files made to exhaust it, ends soon and within 2 GiB of addresses:
+/// with a right PDF or with words.
+class LimitsTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QString target() const { return path(QStringLiteral("out.pdf")); }
+    QString saved(const QString &name, const QByteArray &bytes) const {
+        return writeFile(path(name), bytes);
+    }
+    QString savedPdf(const QByteArray &bytes) const {
+        return saved(QStringLiteral("hostile.pdf"), bytes);
+    }
+    QStringList mergeOf(const QStringList &arguments) const {
+        return QStringList{QStringLiteral("--flush"), QStringLiteral("never"),
+                           QStringLiteral("--merge"), target()} +
+               arguments;
+    }
+    /// Merges and says how it ended: written(), or the reason on standard error.
+    QString endingOf(const QStringList &arguments, const Limits &limits = {}) const {
+        QFile::remove(target());
+        const LimitedRun run =
+            runLimited(QStringLiteral(FOLIOFORGE_CLI), mergeOf(arguments), limits);
+        QString answer = QString::fromUtf8(run.err.left(run.err.indexOf('\n')));
+        answer = answer.sliced(answer.lastIndexOf(QStringLiteral(": ")) + 1).trimmed();
+        if (run.exitCode == 0) {
+            answer = written();
+        } else if (run.exitCode != 1) {
+            answer.clear(); // A signal, or a fault of this test.
+        }
+        qInfo("| %s%s%s | %.1f s | %lld MB | %s |", QTest::currentTestFunction(),
+              QTest::currentDataTag() ? ": " : "",
+              QTest::currentDataTag() ? QTest::currentDataTag() : "", run.processorSeconds,
+              run.peakBytes >> 20, qPrintable(answer));
+        return answer;
+    }
+    /// The same, or valid() where qpdf finds what was written in order.
+    QString answerTo(const QStringList &arguments, const Limits &limits = {}) const {
+        const QString ending = endingOf(arguments, limits);
+        return ending == written() && PdfProbe(target()).isValid() ? valid() : ending;
+    }
+
+  private Q_SLOTS:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void imagesOverThePixelBoundAreRefused_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        constexpr quint32 kSide = 30'000; // 900 million pixels.
+        for (const auto &[extension, bytes] : imageHeaders(kSide)) {
+            QTest::newRow(extension) << bytes;
+        }
+    }
+    void imagesOverThePixelBoundAreRefused() {
+        QFETCH(QByteArray, bytes);
+        const QString name = QStringLiteral("claim.") + QLatin1StringView(QTest::currentDataTag());
+        QCOMPARE(answerTo({saved(name, bytes)}),
+                 QStringLiteral("The image is too large (30000 x 30000 pixels)"));
+    }
+
+    void imagesThatUnfoldAreConverted_data() {
+        addColumns();
+        addRow("transparent PNG", transparentPng, 10'000, 1000);
+        addRow("TIFF", deflatedTiff, 20'000, 2000);
+        addRow("profile", pngWithProfile, 1LL << 30, 64 << 20);
+    }
+    void imagesThatUnfoldAreConverted() {
+        QCOMPARE(answerTo({saved(QStringLiteral("image.png"), fetched())}), valid());
+    }
+
+    void aPageTreeOfAnyDepthIsRead() {
+        const int depth = sized(100'000, 20'000);
+        QCOMPARE(answerTo({savedPdf(deepPageTree(depth))}), valid());
+        QCOMPARE(PdfProbe(target()).pageCount(), depth);
+    }
+
+    void treesOfAnyDepthAreRead() {
+        QCOMPARE(answerTo({savedPdf(deepTrees(sized(100'000, 20'000)))}), valid());
+    }
+
+    void circlesEnd_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        for (const auto &[name, bytes] : circles()) {
+            QTest::newRow(name) << bytes;
+        }
+        QTest::newRow("names reached in 2^60 ways") << doublingNames(60);
+    }
+    void circlesEnd() {
+        QFETCH(QByteArray, bytes);
+        const bool tree = qstrcmp(QTest::currentDataTag(), "a page tree") == 0;
+        QCOMPARE(answerTo({savedPdf(bytes), QStringLiteral("--compress=72l")}),
+                 tree ? QStringLiteral("The page tree contains itself") : valid());
+    }
+
+    void manyObjectsAreReadOrRefused_data() {
+        addColumns();
+        addRow("objects", manyObjects, 10'000'000, 50'000);
+        addRow("entries", manyEntries, 10'000'000, 200'000);
+    }
+    void manyObjectsAreReadOrRefused() {
+        const QString answer = answerTo({savedPdf(fetched())});
+        QVERIFY(answer == valid() || answer == noMemory());
+    }
+
+    void pdfsThatUnfoldAreConvertedOrRefused_data() {
+        addColumns();
+        addRow("content", unfoldingContent, 4LL << 30, 64 << 20);
+        addRow("image", unfoldingImage, 4LL << 30, 64 << 20);
+        addRow("objects", unfoldingObjects, 4LL << 30, 64 << 20);
+    }
+    void pdfsThatUnfoldAreConvertedOrRefused() {
+        const QString file = savedPdf(fetched());
+        const bool refused = qstrcmp(QTest::currentDataTag(), "objects") == 0;
+        for (const char *method : {"none", "72l"}) {
+            const QString answer =
+                endingOf({file, QStringLiteral("--compress=") + QLatin1StringView(method)});
+            QCOMPARE(answer == written(), !refused);
+            QCOMPARE(PdfProbe(target()).pageCount(), refused ? 0 : 1);
+            QVERIFY(!answer.isEmpty());
+        }
+    }
+
+    void aLineOfAHundredMegabytesIsLaidOut_data() {
+        QTest::addColumn<QByteArray>("text");
+        const int size = sized(100'000'000, 2'000'000);
+        QTest::newRow("letters") << QByteArray(size, 'x');
+        QTest::newRow("of no width") << QByteArray("\xE2\x80\x8B").repeated(size / 3);
+        QTest::newRow("no newline but carriage returns") << QByteArray(size, '\r');
+    }
+    void aLineOfAHundredMegabytesIsLaidOut() {
+        QFETCH(QByteArray, text);
+        const QString answer = answerTo({saved(QStringLiteral("line.txt"), text)});
+        QVERIFY(answer == valid() || answer == noMemory());
+    }
+
+    void tenThousandInputsNeedFewDescriptors() {
+        const int count = sized(10'000, 300);
+        const QString picture = writePng(path(QStringLiteral("a.png")), 20, 10);
+        const QString document = writePdf(path(QStringLiteral("a.pdf")), 1);
+        QStringList inputs;
+        for (int i = 0; i < count; ++i) {
+            const QString name = path(QString::number(i));
+            inputs += i % 3 == 0   ? writeFile(name + QStringLiteral(".txt"), "words")
+                      : i % 3 == 1 ? name + QStringLiteral(".png")
+                                   : name + QStringLiteral(".pdf");
+            if (i % 3 != 0) {
+                QVERIFY(QFile::copy(i % 3 == 1 ? picture : document, inputs.last()));
+            }
+        }
+        Limits limits;
+        limits.descriptors = 64;
+        QCOMPARE(answerTo(inputs, limits), valid());
+        QCOMPARE(PdfProbe(target()).pageCount(), count);
+    }
+};
+
+QTEST_GUILESS_MAIN(LimitsTest)
+#include "LimitsTest.moc"

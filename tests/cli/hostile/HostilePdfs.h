@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+#include <utility>
+
+namespace folioforge::test {
+
+/// A page tree of `depth` nodes, each with a page and the next node.
+QByteArray deepPageTree(qint64 depth);
+/// Bookmarks, fields and names nested `depth` deep, one in the other.
+QByteArray deepTrees(qint64 depth);
+/// One page that refers to each of `count` numbers in object streams.
+QByteArray manyObjects(qint64 count);
+/// A cross-reference stream of `count` free entries beside a document of one page.
+QByteArray manyEntries(qint64 count);
+/// Documents of one page whose parts lead in circles, by name.
+QList<std::pair<const char *, QByteArray>> circles();
+/// A name tree of `depth` nodes, each of which stands twice in the one above: 2^depth ways down.
+QByteArray doublingNames(qint64 depth);
+
+/// A page whose content unfolds to `count` bytes, through Flate and once more through Flate.
+QByteArray unfoldingContent(qint64 count);
+/// A page with an image whose samples do.
+QByteArray unfoldingImage(qint64 count);
+/// A page that stands in an object stream that does.
+QByteArray unfoldingObjects(qint64 count);
+
+} // namespace folioforge::test
