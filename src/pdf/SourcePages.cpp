@@ -4,8 +4,8 @@
 
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
 #include <array>
-#include <ranges>
 #include <set>
 
 namespace folioforge {
@@ -17,7 +17,7 @@ constexpr std::array kInheritedKeys{"/Resources", "/MediaBox", "/CropBox", "/Rot
 /// Walks a page tree with a stack of its own: a tree may be deeper than a thread's stack.
 class PageTreeWalk {
   public:
-    explicit PageTreeWalk(QPDFObjectHandle root) { expand(root, InheritedValues()); }
+    explicit PageTreeWalk(const QPDFObjectHandle &root) { expand(root, InheritedValues()); }
 
     std::vector<SourcePage> pages() {
         while (!m_pending.empty()) {
@@ -48,11 +48,11 @@ class PageTreeWalk {
         auto kids = node.getKey("/Kids");
         const auto items =
             kids.isArray() ? kids.getArrayAsVector() : std::vector<QPDFObjectHandle>();
-        for (QPDFObjectHandle kid : std::views::reverse(items)) {
+        std::for_each(items.rbegin(), items.rend(), [&](QPDFObjectHandle kid) {
             if (kid.isDictionary()) {
                 m_pending.push_back({kid, inherited});
             }
-        }
+        });
         // Whatever refers to the node now knows it for a part of the tree.
         node.replaceKey("/Type", QPDFObjectHandle::newName("/Pages"));
     }

@@ -1,6 +1,5 @@
 #include "pdf/TreeEntries.h"
 
-#include <ranges>
 #include <set>
 
 namespace folioforge {
@@ -30,9 +29,8 @@ readTreeEntries(const QPDFObjectHandle &root, const char *leafKey) {
         for (std::size_t i = 0; i + 1 < leaf.size(); i += 2) {
             entries.emplace_back(leaf[i], leaf[i + 1]);
         }
-        for (const auto &kid : std::views::reverse(itemsOf(node, "/Kids"))) {
-            pending.push_back(kid);
-        }
+        const auto kids = itemsOf(node, "/Kids");
+        pending.insert(pending.end(), kids.rbegin(), kids.rend());
     }
     return entries;
 }
