@@ -113,7 +113,6 @@ class PasswordsTest : public QObject {
         }
     }
 
-#ifdef Q_OS_LINUX
     void aCrashLeavesNoImageOfTheMemory() {
         QProcess process;
         process.start(kProgram,
@@ -136,7 +135,6 @@ class PasswordsTest : public QObject {
         process.closeWriteChannel();
         QVERIFY(process.waitForFinished());
     }
-#endif
 };
 
 QTEST_GUILESS_MAIN(PasswordsTest)
