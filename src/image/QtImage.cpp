@@ -77,10 +77,23 @@ QImage readWithQt(const FileView &file, const char *format) {
     return image;
 }
 
+/// Qt takes the pixels from wherever it stands when they, or the header before them, should lie
+/// behind the end of the file.
+void requirePixelsInside(const FileView &file) {
+    constexpr qint64 kFileHeaderBytes = 14;
+    const QByteArray head = file.readExactly(0, kFileHeaderBytes + 4);
+    const qint64 headersEnd = kFileHeaderBytes + littleEndianAt<quint32>(head, kFileHeaderBytes);
+    const qint64 pixels = littleEndianAt<qint32>(head, 10);
+    if (std::max(headersEnd, pixels) >= file.size()) {
+        throw Error(QStringLiteral("The file ends too early"));
+    }
+}
+
 EncodedImage encodeBitmap(const FileView &file) {
     constexpr qint64 kRunRatio = 2040; // A bit a pixel packed, or 255 pixels for two bytes.
     const ImageHeader header = readBitmapHeader(file);
     requirePlausible(qint64(header.width) * header.height, file.size(), kRunRatio);
+    requirePixelsInside(file);
     return encodeRaster(rasterOf(readWithQt(file, "bmp")));
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
@@ -21,6 +22,7 @@ class DamageTest : public QObject {
     void cutFilesGiveAnImageOrAReason();
     void changedBytesGiveAnImageOrAReason_data();
     void changedBytesGiveAnImageOrAReason();
+    void pixelsBehindTheEndAreRefusedWithoutAWord();
 
   private:
     QTemporaryDir m_folder;
@@ -89,6 +91,18 @@ void DamageTest::changedBytesGiveAnImageOrAReason() {
         }
         QVERIFY2(isInOrder(name, changed), qPrintable(QString::number(round)));
     }
+}
+
+void DamageTest::pixelsBehindTheEndAreRefusedWithoutAWord() {
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    // A bitmap of 4 x 4 pixels whose first stands at 1000, where the file has ended.
+    const QByteArray bitmap =
+        "BM" +
+        QByteArray::fromHex("6600000000000000e803000028000000040000000400000001001800"
+                            "00000000300000000000000000000000000000000000000000") +
+        QByteArray(48, '\x7f');
+    const QString path = writeFile(m_folder.filePath(QStringLiteral("behind.bmp")), bitmap);
+    QVERIFY(!refusalOf(path).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(DamageTest)
