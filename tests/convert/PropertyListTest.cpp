@@ -35,7 +35,7 @@ class PropertyListTest : public QObject {
     QTemporaryDir m_folder;
 
     QString write(const QByteArray &bytes) const {
-        const QString path = m_folder.filePath(QStringLiteral("list.plist"));
+        QString path = m_folder.filePath(QStringLiteral("list.plist"));
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
             qFatal("cannot write %s", qPrintable(path));

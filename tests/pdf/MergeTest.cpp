@@ -219,6 +219,15 @@ class MergeTest : public QObject {
         QCOMPARE(QPDFOutlineDocumentHelper(*document).getTopLevelOutlines().size(), 2U);
     }
 
+    void damagedPageLabelsCostNothingElse() {
+        PdfFixture source;
+        source.object(1, "<< /Type /Catalog /Pages 2 0 R /PageLabels << /Nums [0] >> >>")
+            .pages(4, 2);
+        const PdfProbe probe(merged({saved(source)}));
+        QCOMPARE(probe.pageCount(), 2);
+        QVERIFY(probe.text(2).contains(QStringLiteral("Page 2")));
+    }
+
     void formFieldsOfTheSameNameStayApart() {
         PdfFixture source;
         source.object(1, "<< /Type /Catalog /Pages 2 0 R /AcroForm << /Fields [20 0 R] /DA (/Helv "
