@@ -1,6 +1,6 @@
 #include "convert/compress/ImageUses.h"
 
-#include "convert/compress/ContentDraws.h"
+#include "convert/compress/ContentReader.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,7 +17,7 @@ class UseCollector {
     void addPage(QPDFObjectHandle page, int number) {
         QPDFPageObjectHelper helper(page);
         // Resources may be inherited from the page tree.
-        ContentScope scope{helper.getAttribute("/Resources", false), {}};
+        ContentScope scope{helper.getAttribute("/Resources", false)};
         ContentDraws draws = m_reader.readPage(page, scope);
         addAnnotations(page, scope, draws);
         QPDFObjectHandle unit = page.getKey("/UserUnit");
