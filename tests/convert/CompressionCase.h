@@ -23,6 +23,9 @@ class CompressionCase {
     static constexpr int kColourColumn = 5;
     static constexpr int kEncodingColumn = 8;
 
+    inline static const QByteArray kFlateGrey{
+        "/ColorSpace /DeviceGray /BitsPerComponent 8 /Filter /FlateDecode"};
+
     void setUp() {
         m_folder = std::make_unique<QTemporaryDir>();
         const QDir folder(m_folder->path());
@@ -67,6 +70,21 @@ class CompressionCase {
     void writePage(PdfFixture page) const {
         QVERIFY(
             page.stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900))).write(m_path));
+    }
+
+    /// A photo of 1200 x 900 pixels as /Im0 of photoPage(), with the data of a grey picture of
+    /// width x height pixels as its soft mask.
+    void writeMaskedPage(const QByteArray &content, int width, int height,
+                         const QByteArray &opacity) const {
+        QVERIFY(
+            photoPage(content)
+                .stream(5, imageKeys(1200, 900, kJpegRgb + " /SMask 8 0 R"), jpeg(photo(1200, 900)))
+                .stream(8, imageKeys(width, height, kFlateGrey), opacity)
+                .write(m_path));
+    }
+    /// The data of such a soft mask.
+    static QByteArray opacity(int width, int height) {
+        return flate(samplesOf(photo(width, height, QImage::Format_Grayscale8), 1));
     }
 
     /// How far the first page of the copy looks from the document's.

@@ -1,4 +1,5 @@
 #include "CompressionCase.h"
+#include "support/CmykJpeg.h"
 #include "support/Files.h"
 
 #include <QColorSpace>
@@ -123,6 +124,36 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
         QVERIFY(changeOf(copy) < 5);
     }
 
+    void inksOfAJpegStayInks_data() {
+        QTest::addColumn<CmykForm>("form");
+        QTest::addColumn<QByteArray>("decode");
+        QTest::newRow("plain") << CmykForm::Plain << QByteArray();
+        const QByteArray inverted("/Decode [1 0 1 0 1 0 1 0]");
+        QTest::newRow("Adobe's CMYK") << CmykForm::AdobeCmyk << inverted;
+        QTest::newRow("Adobe's YCCK") << CmykForm::AdobeYcck << inverted;
+    }
+
+    void inksOfAJpegStayInks() {
+        QFETCH(const CmykForm, form);
+        QFETCH(const QByteArray, decode);
+        QVERIFY(photoPage(kDrawn)
+                    .stream(5,
+                            imageKeys(1200, 900,
+                                      "/ColorSpace /DeviceCMYK /BitsPerComponent 8 /Filter "
+                                      "/DCTDecode " +
+                                          decode),
+                            cmykJpeg(photo(1200, 900), form))
+                    .write(m_path));
+        const QString copy = compressed();
+        const auto images = PdfProbe(copy).images();
+        QCOMPARE(images.size(), 1);
+        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+        QCOMPARE(images[0][kColourColumn], QStringLiteral("cmyk"));
+        QVERIFY(changeOf(copy) < 5);
+        QVERIFY(difference(PdfProbe(m_path).renderWithMutool(1, 100),
+                           PdfProbe(copy).renderWithMutool(1, 100)) < 5);
+    }
+
     void jpeg2000IsReduced_data() {
         QTest::addColumn<QImage::Format>("format");
         QTest::addColumn<QByteArray>("space");
@@ -203,20 +234,12 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
     }
 
     void aCoarserSoftMaskKeepsItsPixels() {
-        const QByteArray opacity = samplesOf(photo(600, 450, QImage::Format_Grayscale8), 1);
-        QVERIFY(
-            photoPage("0 0 1 rg 0 0 400 300 re f " + kDrawn)
-                .stream(5, imageKeys(1200, 900, kJpegRgb + " /SMask 8 0 R"), jpeg(photo(1200, 900)))
-                .stream(8,
-                        imageKeys(600, 450,
-                                  "/ColorSpace /DeviceGray /BitsPerComponent 8 /Filter "
-                                  "/FlateDecode"),
-                        flate(opacity))
-                .write(m_path));
+        const QByteArray mask = opacity(600, 450);
+        writeMaskedPage("0 0 1 rg 0 0 400 300 re f " + kDrawn, 600, 450, mask);
         CompressionOutcome outcome;
         const QString copy = compressed(&outcome);
         QCOMPARE(outcome.imagesReduced, 1);
-        QVERIFY(readFile(copy).contains(flate(opacity)));
+        QVERIFY(readFile(copy).contains(mask));
         QVERIFY(changeOf(copy) < 5);
     }
 
@@ -225,11 +248,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
         QVERIFY(photoPage("q 288 0 0 216 0 0 cm /Im0 Do Q q 72 0 0 54 300 0 cm /Fm0 Do Q")
                     .stream(5, masked, jpeg(photo(1200, 900)))
                     .stream(6, masked, jpeg(photo(1200, 900), 80))
-                    .stream(8,
-                            imageKeys(1200, 900,
-                                      "/ColorSpace /DeviceGray /BitsPerComponent 8 /Filter "
-                                      "/FlateDecode"),
-                            flate(samplesOf(photo(1200, 900, QImage::Format_Grayscale8), 1)))
+                    .stream(8, imageKeys(1200, 900, kFlateGrey), opacity(1200, 900))
                     .write(m_path));
         const QString copy = compressed();
         QStringList widths;

@@ -1,5 +1,8 @@
 #include "convert/compress/DuplicateStreams.h"
 
+#include "convert/compress/Containers.h"
+#include "convert/compress/SharableStreams.h"
+
 #include <QCryptographicHash>
 
 #include <map>
@@ -13,18 +16,6 @@ namespace {
 
 using Replacements = std::map<QPDFObjGen, QPDFObjectHandle>;
 
-/// What is shared between pages by reference; metadata or content streams are not.
-bool isShared(QPDFObjectHandle stream) {
-    QPDFObjectHandle dictionary = stream.getDict();
-    return dictionary.getKey("/Type").isNameAndEquals("/XObject") ||
-           dictionary.getKey("/Subtype").isNameAndEquals("/Image") ||
-           dictionary.getKey("/Subtype").isNameAndEquals("/Form") ||
-           dictionary.hasKey("/Length1") || dictionary.hasKey("/N") ||
-           dictionary.getKey("/Subtype").isNameAndEquals("/CIDFontType0C") ||
-           dictionary.getKey("/Subtype").isNameAndEquals("/Type1C") ||
-           dictionary.getKey("/Subtype").isNameAndEquals("/OpenType");
-}
-
 QByteArray digest(QPDFObjectHandle stream) {
     const auto data = stream.getRawStreamData();
     QCryptographicHash hash(QCryptographicHash::Blake2b_256);
@@ -35,10 +26,8 @@ QByteArray digest(QPDFObjectHandle stream) {
 /// Streams whose dictionaries, the length included, are written alike; only these are read.
 std::vector<std::vector<QPDFObjectHandle>> candidates(QPDF &document) {
     std::map<std::string, std::vector<QPDFObjectHandle>> groups;
-    for (QPDFObjectHandle &object : document.getAllObjects()) {
-        if (object.isStream() && isShared(object)) {
-            groups[object.getDict().unparseResolved()].push_back(object);
-        }
+    for (QPDFObjectHandle &stream : sharableStreams(document)) {
+        groups[stream.getDict().unparseResolved()].push_back(stream);
     }
     std::vector<std::vector<QPDFObjectHandle>> several;
     for (auto &[text, group] : groups) {
@@ -67,44 +56,22 @@ Replacements findDuplicates(QPDF &document) {
     return replacements;
 }
 
-/// The stream that stands for `item` where it is a duplicate, else nothing.
-const QPDFObjectHandle *replacementOf(QPDFObjectHandle item, const Replacements &replacements) {
-    if (!item.isIndirect()) {
-        return nullptr;
-    }
-    const auto found = replacements.find(item.getObjGen());
-    return found == replacements.end() ? nullptr : &found->second;
-}
-
-void redirect(QPDFObjectHandle container, const Replacements &replacements);
-
-void redirectInner(QPDFObjectHandle item, const Replacements &replacements) {
-    if (!item.isIndirect() && (item.isArray() || item.isDictionary())) {
-        redirect(item, replacements);
-    }
-}
-
 void redirect(QPDFObjectHandle container, const Replacements &replacements) {
+    const auto replacementOf = [&replacements](const QPDFObjectHandle &item) {
+        return item.isIndirect() ? replacements.find(item.getObjGen()) : replacements.end();
+    };
     if (container.isArray()) {
         for (int i = 0; i < container.getArrayNItems(); ++i) {
-            QPDFObjectHandle item = container.getArrayItem(i);
-            if (const QPDFObjectHandle *other = replacementOf(item, replacements)) {
-                container.setArrayItem(i, *other);
-            } else {
-                redirectInner(item, replacements);
+            const auto found = replacementOf(container.getArrayItem(i));
+            if (found != replacements.end()) {
+                container.setArrayItem(i, found->second);
             }
         }
         return;
     }
-    QPDFObjectHandle dictionary = container.isStream() ? container.getDict() : container;
-    if (!dictionary.isDictionary()) {
-        return;
-    }
-    for (auto &[key, item] : dictionary.getDictAsMap()) {
-        if (const QPDFObjectHandle *other = replacementOf(item, replacements)) {
-            dictionary.replaceKey(key, *other);
-        } else {
-            redirectInner(item, replacements);
+    for (const auto &[key, item] : container.getDictAsMap()) {
+        if (const auto found = replacementOf(item); found != replacements.end()) {
+            container.replaceKey(key, found->second);
         }
     }
 }
@@ -119,9 +86,9 @@ void mergeDuplicateStreams(QPDF &document) {
         if (replacements.empty()) {
             return;
         }
-        for (const QPDFObjectHandle &object : document.getAllObjects()) {
-            redirect(object, replacements);
-        }
+        visitContainers(document, [&replacements](const QPDFObjectHandle &container) {
+            redirect(container, replacements);
+        });
     }
 }
 
