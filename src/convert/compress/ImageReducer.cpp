@@ -1,16 +1,18 @@
 #include "convert/compress/ImageReducer.h"
 
 #include "convert/compress/JpegCodec.h"
+#include "convert/compress/JpegColour.h"
 #include "convert/compress/JpxReader.h"
 #include "convert/compress/LosslessCodec.h"
+#include "convert/compress/PlanarImage.h"
 #include "convert/compress/Resampler.h"
-#include "convert/compress/SampleGrid.h"
 #include "error/Error.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <new>
+#include <numeric>
+#include <vector>
 
 namespace folioforge {
 
@@ -44,7 +46,7 @@ int eighthsFor(double scale) {
     return std::clamp(static_cast<int>(std::ceil(scale * 8 / kCloseEnough)), 1, 8);
 }
 
-SampleGrid decodeJpeg(const ImageJob &job, const std::string &data) {
+PlanarImage decodeJpeg(const ImageJob &job, const std::string &data) {
     JpegReader reader(data, job.colorTransform);
     if (reader.width() != job.width || reader.height() != job.height ||
         reader.components() != job.components) {
@@ -56,53 +58,90 @@ SampleGrid decodeJpeg(const ImageJob &job, const std::string &data) {
     return reader.decode(eighthsFor(job.scale));
 }
 
-SampleGrid unpackSamples(const ImageJob &job, const std::string &data) {
-    const std::size_t stored = job.palette.empty() ? static_cast<std::size_t>(job.components) : 1;
-    const std::size_t bytes = static_cast<std::size_t>(job.bitsPerComponent) / 8;
-    const std::size_t pixels = static_cast<std::size_t>(job.width) * job.height;
-    if (data.size() < pixels * stored * bytes) {
-        throw Error(QStringLiteral("less data than the image's size needs"));
+PlanarImage decodeJpx(const ImageJob &job, const std::string &data) {
+    const auto colour = job.components == 0 ? JpxColour::OfData : JpxColour::OfDocument;
+    PlanarImage image = decodeJpx(data, job.width, job.height, job.scale, colour);
+    if (job.components != 0 && image.components() != job.components) {
+        throw wrongSize();
     }
-    SampleGrid grid{job.width, job.height, plainKind(job.components), {}};
-    grid.allocate();
-    if (!job.palette.empty()) {
-        const std::size_t colours = job.palette.size() / grid.components();
-        std::uint8_t *out = grid.samples.data();
-        for (std::size_t i = 0; i < pixels; ++i, out += grid.components()) {
+    toJpegColour(image);
+    return image;
+}
+
+void unpackPalette(const ImageJob &job, const std::string &data, PlanarImage &image) {
+    const std::size_t components = image.planes.size();
+    const std::size_t colours = job.palette.size() / components;
+    for (std::size_t c = 0; c < components; ++c) {
+        std::uint8_t *out = image.planes[c].row(0);
+        for (std::size_t i = 0; i < image.planes[c].size(); ++i) {
             const std::size_t index =
                 std::min<std::size_t>(static_cast<unsigned char>(data[i]), colours - 1);
-            std::memcpy(out, job.palette.data() + index * grid.components(), grid.components());
-        }
-    } else if (bytes == 1) {
-        std::memcpy(grid.samples.data(), data.data(), grid.samples.size());
-    } else {
-        for (std::size_t i = 0; i < grid.samples.size(); ++i) {
-            grid.samples[i] = static_cast<std::uint8_t>(data[i * bytes]);
+            out[i] = static_cast<std::uint8_t>(job.palette[index * components + c]);
         }
     }
-    return grid;
+}
+
+PlanarImage unpackSamples(const ImageJob &job, const std::string &data) {
+    const std::size_t stored = job.palette.empty() ? static_cast<std::size_t>(job.components) : 1;
+    // Of 16 bits the upper eight come first.
+    const std::size_t step = stored * static_cast<std::size_t>(job.bitsPerComponent) / 8;
+    PlanarImage image(job.width, job.height);
+    if (data.size() / step < static_cast<std::size_t>(job.width) * job.height) {
+        throw Error(QStringLiteral("less data than the image's size needs"));
+    }
+    image.addPlanes(job.components);
+    if (!job.palette.empty()) {
+        unpackPalette(job, data, image);
+        return image;
+    }
+    for (std::size_t c = 0; c < stored; ++c) {
+        std::uint8_t *out = image.planes[c].row(0);
+        const char *in = data.data() + c * step / stored;
+        for (std::size_t i = 0; i < image.planes[c].size(); ++i) {
+            out[i] = static_cast<std::uint8_t>(in[i * step]);
+        }
+    }
+    return image;
+}
+
+/// How many pixels of a row equal both their left and their upper neighbour.
+int equalNeighbours(const PlanarImage &image, int y, std::vector<std::uint8_t> &isEqual) {
+    std::fill(isEqual.begin(), isEqual.end(), 1);
+    for (const Plane &plane : image.planes) {
+        const std::uint8_t *row = plane.row(y);
+        const std::uint8_t *above = plane.row(y - 1);
+        for (std::size_t x = 1; x < isEqual.size(); ++x) {
+            isEqual[x] &= static_cast<std::uint8_t>((row[x] == row[x - 1]) & (row[x] == above[x]));
+        }
+    }
+    return std::accumulate(isEqual.begin() + 1, isEqual.end(), 0);
 }
 
 /// Whether most pixels equal both their left and their upper neighbour, which the noise of a photo
 /// never allows.
-bool looksDrawn(const SampleGrid &grid) {
-    const std::size_t pixel = grid.components();
-    std::size_t seen = 0;
-    std::size_t equal = 0;
+bool looksDrawn(const PlanarImage &image) {
+    qint64 seen = 0;
+    qint64 equal = 0;
     constexpr int kRowStep = 4;
-    for (int y = 1; y < grid.height; y += kRowStep) {
-        const std::uint8_t *row = grid.row(y);
-        const std::uint8_t *above = grid.row(y - 1);
-        for (std::size_t i = pixel; i < grid.rowBytes(); i += pixel) {
-            ++seen;
-            equal += std::memcmp(row + i, row + i - pixel, pixel) == 0 &&
-                     std::memcmp(row + i, above + i, pixel) == 0;
-        }
+    std::vector<std::uint8_t> isEqual(static_cast<std::size_t>(image.width));
+    for (int y = 1; y < image.height; y += kRowStep) {
+        seen += image.width - 1;
+        equal += equalNeighbours(image, y, isEqual);
     }
     return equal * 2 > seen;
 }
 
-SampleGrid decode(const ImageJob &job) {
+PlanarImage decodeSamples(const ImageJob &job, const std::string &data) {
+    PlanarImage image = unpackSamples(job, data);
+    if (job.purpose == ImagePurpose::Photo && job.lineArt == LineArt::Keep && looksDrawn(image)) {
+        throw Error(QStringLiteral("line art"));
+    }
+    toJpegColour(image);
+    return image;
+}
+
+/// The image in JPEG's own form, at the wanted size or above.
+PlanarImage decode(const ImageJob &job) {
     constexpr std::size_t kSlack = 4096;
     const std::size_t samples = static_cast<std::size_t>(job.width) * job.height *
                                 static_cast<std::size_t>(job.components) *
@@ -112,43 +151,32 @@ SampleGrid decode(const ImageJob &job) {
     switch (job.codec) {
     case ImageCodec::Jpeg:
         return decodeJpeg(job, data);
-    case ImageCodec::Jpx: {
-        const auto colour = job.components == 0 ? JpxColour::OfData : JpxColour::OfDocument;
-        SampleGrid grid = decodeJpx(data, job.width, job.height, job.scale, colour);
-        if (job.components != 0 && grid.components() != job.components) {
-            throw wrongSize();
-        }
-        return grid;
-    }
-    default:
+    case ImageCodec::Jpx:
+        return decodeJpx(job, data);
+    case ImageCodec::Samples:
         break;
     }
-    SampleGrid grid = unpackSamples(job, data);
-    if (job.purpose == ImagePurpose::Photo && job.lineArt == LineArt::Keep && looksDrawn(grid)) {
-        throw Error(QStringLiteral("line art"));
-    }
-    return grid;
+    return decodeSamples(job, data);
 }
 
-/// Whether the grid, as decoded, is near enough to the wanted size.
-bool closeEnough(const SampleGrid &grid, Size wanted) {
-    return grid.width <= wanted.width * kCloseEnough + 1;
+/// Brought to the wanted size, or left at that of the decoder where this is near enough.
+PlanarImage sampledDown(PlanarImage image, Size wanted) {
+    if (image.width <= wanted.width * kCloseEnough + 1) {
+        wanted = {image.width, image.height};
+    }
+    return resample(std::move(image), wanted.width, wanted.height);
 }
 
 Reduction reduce(const ImageJob &job) {
-    SampleGrid grid = decode(job);
-    const Size wanted = scaled(job);
-    if (!closeEnough(grid, wanted)) {
-        grid = resample(grid, wanted.width, wanted.height);
-    }
+    const PlanarImage image = sampledDown(decode(job), scaled(job));
     const bool asFlate = job.purpose == ImagePurpose::SoftMask && job.codec == ImageCodec::Samples;
-    ReducedImage image{asFlate ? encodeFlate(grid) : encodeJpeg(grid, job.jpegQuality), grid.width,
-                       grid.height, grid.components(),
-                       asFlate ? ReducedForm::Flate : ReducedForm::Jpeg};
-    if (image.data.size() >= job.data.size()) {
+    ReducedImage reduced{
+        asFlate ? encodeFlate(image.planes[0]) : encodeJpeg(image, job.jpegQuality), image.width,
+        image.height, image.components(), asFlate ? ReducedForm::Flate : ReducedForm::Jpeg};
+    if (reduced.data.size() >= job.data.size()) {
         return {std::nullopt, QStringLiteral("would not get smaller")};
     }
-    return {std::move(image), {}};
+    return {std::move(reduced), {}};
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "convert/compress/SampleGrid.h"
+#include "convert/compress/PlanarImage.h"
 
 #include <memory>
 #include <optional>
@@ -25,16 +25,16 @@ class JpegReader {
     [[nodiscard]] int components() const;
     /// The quality, 1 to 100 on libjpeg's scale, whose luminance table is nearest to the file's.
     [[nodiscard]] int quality() const;
-    /// Decodes to eighths/8 of the size (1 to 8), each side rounded up.
-    [[nodiscard]] SampleGrid decode(int eighths);
+    /// Decodes to eighths/8 of the size (1 to 8), each side rounded up, in JPEG's own form.
+    [[nodiscard]] PlanarImage decode(int eighths);
 
   private:
     struct State;
     std::unique_ptr<State> m_state;
 };
 
-/// The grid as a JPEG file of that quality, 1 to 100: Huffman tables made for it, colour at half
-/// the resolution.
-std::string encodeJpeg(const SampleGrid &grid, int quality);
+/// A picture in JPEG's own form, with its planes of colour at half the size, as a JPEG file of that
+/// quality, 1 to 100, with Huffman tables made for it.
+std::string encodeJpeg(const PlanarImage &image, int quality);
 
 } // namespace folioforge

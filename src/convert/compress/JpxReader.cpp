@@ -104,30 +104,28 @@ bool isPlainColour(const opj_image_t &image) {
     return plain && image.icc_profile_len == 0;
 }
 
-SampleGrid interleave(const opj_image_t &image) {
-    SampleGrid grid{static_cast<int>(image.comps[0].w),
-                    static_cast<int>(image.comps[0].h),
-                    plainKind(static_cast<int>(image.numcomps)),
-                    {}};
-    grid.allocate();
-    const std::size_t pixels = static_cast<std::size_t>(grid.width) * grid.height;
+PlanarImage toBytes(const opj_image_t &image) {
+    PlanarImage target(static_cast<int>(image.comps[0].w), static_cast<int>(image.comps[0].h));
+    target.addPlanes(static_cast<int>(image.numcomps));
     for (unsigned c = 0; c < image.numcomps; ++c) {
         const int *in = image.comps[c].data;
         const int shift = static_cast<int>(image.comps[c].prec) - 8;
         if (!in) {
             throw damaged();
         }
-        std::uint8_t *out = grid.samples.data() + c;
-        for (std::size_t i = 0; i < pixels; ++i, out += image.numcomps) {
-            *out = static_cast<std::uint8_t>(std::clamp(in[i] >> shift, 0, 255));
+        const std::size_t pixels = target.planes[c].size();
+        std::uint8_t *out = target.planes[c].row(0);
+        for (std::size_t i = 0; i < pixels; ++i) {
+            out[i] = static_cast<std::uint8_t>(std::clamp(in[i] >> shift, 0, 255));
         }
     }
-    return grid;
+    return target;
 }
 
 } // namespace
 
-SampleGrid decodeJpx(std::string_view data, int width, int height, double scale, JpxColour colour) {
+PlanarImage decodeJpx(std::string_view data, int width, int height, double scale,
+                      JpxColour colour) {
     Cursor cursor{data};
     const std::unique_ptr<opj_stream_t, CloseStream> stream(opj_stream_default_create(OPJ_TRUE));
     const std::unique_ptr<opj_codec_t, CloseCodec> codec(
@@ -164,7 +162,7 @@ SampleGrid decodeJpx(std::string_view data, int width, int height, double scale,
         (colour == JpxColour::OfData && !isPlainColour(*image))) {
         throw Error(QStringLiteral("JPEG 2000 data of an unusual colour space"));
     }
-    return interleave(*image);
+    return toBytes(*image);
 }
 
 } // namespace folioforge

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "convert/compress/SampleGrid.h"
+#include "convert/compress/PlanarImage.h"
 
 #include <string_view>
 
@@ -10,9 +10,10 @@ namespace folioforge {
 enum class JpxColour { OfDocument, OfData };
 
 /// Decodes a JPEG 2000 image, a file or a bare codestream, to no less than `scale` (0 to 1) of its
-/// width x height by leaving out its finest resolutions. Throws Error when the data is damaged or
-/// of a kind that is not handled: opacity, components of different sizes, more than 16 bits, other
-/// than 1, 3 or 4 components, and under JpxColour::OfData all but plain grey and sRGB.
-SampleGrid decodeJpx(std::string_view data, int width, int height, double scale, JpxColour colour);
+/// width x height by leaving out its finest resolutions. The planes are of one size. Throws Error
+/// when the data is damaged or of a kind that is not handled: opacity, components of different
+/// sizes, more than 16 bits, other than 1, 3 or 4 components, and under JpxColour::OfData all but
+/// plain grey and sRGB.
+PlanarImage decodeJpx(std::string_view data, int width, int height, double scale, JpxColour colour);
 
 } // namespace folioforge

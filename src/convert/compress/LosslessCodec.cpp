@@ -42,12 +42,10 @@ std::string decodeLossless(const std::string &data, const std::string &filter,
     return decoded;
 }
 
-std::string encodeFlate(const SampleGrid &grid) {
-    const auto rows = QByteArray::fromRawData(reinterpret_cast<const char *>(grid.samples.data()),
-                                              static_cast<qsizetype>(grid.samples.size()));
-    return deflateBytes(
-               filterRows(rows, static_cast<qsizetype>(grid.rowBytes()), grid.components()))
-        .toStdString();
+std::string encodeFlate(const Plane &plane) {
+    const auto rows = QByteArray::fromRawData(reinterpret_cast<const char *>(plane.row(0)),
+                                              static_cast<qsizetype>(plane.size()));
+    return deflateBytes(filterRows(rows, plane.width(), 1)).toStdString();
 }
 
 } // namespace folioforge

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "convert/compress/SampleGrid.h"
+#include "convert/compress/PlanarImage.h"
 
 #include <cstddef>
 #include <string>
@@ -13,7 +13,7 @@ namespace folioforge {
 std::string decodeLossless(const std::string &data, const std::string &filter,
                            const std::string &parameters, std::size_t mostBytes);
 
-/// The grid as Flate data whose rows carry PNG predictors (Predictor 15).
-std::string encodeFlate(const SampleGrid &grid);
+/// The plane as Flate data whose rows carry PNG predictors (Predictor 15).
+std::string encodeFlate(const Plane &plane);
 
 } // namespace folioforge

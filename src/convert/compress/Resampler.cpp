@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace folioforge {
 
@@ -10,6 +11,8 @@ namespace {
 
 constexpr int kWeightBits = 14;
 constexpr double kLobes = 3;
+/// Weights come in groups of so many, for the sake of vector units.
+constexpr int kGroup = 8;
 
 double lanczos(double x) {
     if (std::abs(x) < 1e-9) {
@@ -27,145 +30,182 @@ std::uint8_t toByte(std::int32_t sum) {
     return static_cast<std::uint8_t>(std::clamp(value, 0, 255));
 }
 
-/// Where one target position takes its samples from: `weights` from the position `first` on.
-struct Taps {
-    int first = 0;
-    std::vector<std::int32_t> weights;
+/// Where the positions of a target row or column take their samples from.
+class Kernel {
+  public:
+    Kernel(int from, int to)
+        : m_ratio(static_cast<double>(from) / to)
+        , m_stretch(std::max(1.0, m_ratio))
+        , m_from(from)
+        , m_taps((2 * static_cast<int>(std::ceil(kLobes * m_stretch)) + kGroup) / kGroup * kGroup)
+        , m_weights(static_cast<std::size_t>(to) * static_cast<std::size_t>(m_taps)) {
+        for (int target = 0; target < to; ++target) {
+            m_first.push_back(firstOf(target));
+            setWeights(target);
+        }
+    }
+
+    /// Weights of each position, a multiple of kGroup; those too many are 0.
+    [[nodiscard]] int taps() const { return m_taps; }
+    [[nodiscard]] int first(int target) const { return m_first[static_cast<std::size_t>(target)]; }
+    [[nodiscard]] const std::int16_t *weights(int target) const {
+        return m_weights.data() + static_cast<std::ptrdiff_t>(target) * m_taps;
+    }
+
+  private:
+    [[nodiscard]] double centreOf(int target) const { return (target + 0.5) * m_ratio - 0.5; }
+    [[nodiscard]] int firstOf(int target) const {
+        return std::max(0, static_cast<int>(std::ceil(centreOf(target) - kLobes * m_stretch)));
+    }
+
+    void setWeights(int target) {
+        const double centre = centreOf(target);
+        const int first = firstOf(target);
+        const int count = std::min(m_from - first, m_taps);
+        std::vector<double> shares;
+        double sum = 0;
+        for (int i = 0; i < count; ++i) {
+            shares.push_back(lanczos((first + i - centre) / m_stretch));
+            sum += shares.back();
+        }
+        std::int16_t *weights = m_weights.data() + static_cast<std::ptrdiff_t>(target) * m_taps;
+        int left = 1 << kWeightBits;
+        for (int i = 0; i < count; ++i) {
+            const double share = shares[static_cast<std::size_t>(i)] / sum;
+            weights[i] = static_cast<std::int16_t>(std::lround(share * (1 << kWeightBits)));
+            left -= weights[i];
+        }
+        // What rounding lost goes to the largest, so that flat areas keep their value.
+        *std::max_element(weights, weights + count) += static_cast<std::int16_t>(left);
+    }
+
+    double m_ratio;   ///< Source samples for one of the target.
+    double m_stretch; ///< How much wider the kernel is than a source sample.
+    int m_from;
+    int m_taps;
+    std::vector<int> m_first;
+    std::vector<std::int16_t> m_weights;
 };
 
-Taps tapsAt(int target, int from, double ratio) {
-    const double centre = (target + 0.5) * ratio - 0.5;
-    const double reach = kLobes * ratio;
-    const int first = std::max(0, static_cast<int>(std::ceil(centre - reach)));
-    const int last = std::min(from - 1, static_cast<int>(std::floor(centre + reach)));
-    std::vector<double> weights;
-    double sum = 0;
-    for (int i = first; i <= last; ++i) {
-        weights.push_back(lanczos((i - centre) / ratio));
-        sum += weights.back();
-    }
-    Taps taps{first, {}};
-    std::int32_t left = 1 << kWeightBits;
-    for (const double weight : weights) {
-        taps.weights.push_back(
-            static_cast<std::int32_t>(std::lround(weight / sum * (1 << kWeightBits))));
-        left -= taps.weights.back();
-    }
-    // What rounding lost goes to the middle, so that flat areas keep their value.
-    taps.weights[taps.weights.size() / 2] += left;
-    return taps;
-}
-
-std::vector<Taps> tapsFor(int from, int to) {
-    std::vector<Taps> taps;
-    taps.reserve(static_cast<std::size_t>(to));
-    for (int i = 0; i < to; ++i) {
-        taps.push_back(tapsAt(i, from, static_cast<double>(from) / to));
-    }
-    return taps;
-}
-
-void mixRows(const SampleGrid &source, const Taps &taps, std::vector<std::int32_t> &sums,
-             std::vector<std::uint8_t> &mixed) {
-    std::fill(sums.begin(), sums.end(), 0);
-    for (std::size_t i = 0; i < taps.weights.size(); ++i) {
-        const std::uint8_t *row = source.row(taps.first + static_cast<int>(i));
-        const std::int32_t weight = taps.weights[i];
-        for (std::size_t x = 0; x < sums.size(); ++x) {
-            sums[x] += weight * row[x];
-        }
-    }
-    std::transform(sums.begin(), sums.end(), mixed.begin(), toByte);
-}
-
-template<int Components>
-void mixColumns(const std::vector<std::uint8_t> &row, const std::vector<Taps> &taps,
-                std::uint8_t *out) {
-    for (const Taps &tap : taps) {
-        std::int32_t sums[Components] = {};
-        const std::uint8_t *in = row.data() + static_cast<std::size_t>(tap.first) * Components;
-        for (const std::int32_t weight : tap.weights) {
-            for (int c = 0; c < Components; ++c) {
-                sums[c] += weight * in[c];
+/// Mixes the rows that count for row `y` of the target.
+void mixRows(const Plane &source, const Kernel &kernel, int y, std::vector<std::int32_t> &sums,
+             std::vector<std::int16_t> &mixed) {
+    std::fill(sums.begin(), sums.end(), 1 << (kWeightBits - 1));
+    const int first = kernel.first(y);
+    const std::size_t width = sums.size();
+    for (int i = 0; i < std::min(kernel.taps(), source.height() - first); ++i) {
+        const std::int16_t weight = kernel.weights(y)[i];
+        const std::uint8_t *row = source.row(first + i);
+        if (weight != 0) {
+            for (std::size_t x = 0; x < width; ++x) {
+                sums[x] += weight * static_cast<std::int16_t>(row[x]);
             }
-            in += Components;
         }
-        for (int c = 0; c < Components; ++c) {
-            *out++ = toByte(sums[c]);
-        }
+    }
+    for (std::size_t x = 0; x < width; ++x) {
+        mixed[x] = static_cast<std::int16_t>(std::clamp(sums[x] >> kWeightBits, 0, 255));
     }
 }
 
-SampleGrid lanczosTo(const SampleGrid &source, int width, int height) {
-    SampleGrid target{width, height, source.kind, {}};
-    target.allocate();
-    const std::vector<Taps> columns = tapsFor(source.width, width);
-    const std::vector<Taps> rows = tapsFor(source.height, height);
-    std::vector<std::int32_t> sums(source.rowBytes());
-    std::vector<std::uint8_t> mixed(source.rowBytes());
-    for (int y = 0; y < height; ++y) {
-        mixRows(source, rows[static_cast<std::size_t>(y)], sums, mixed);
-        switch (source.components()) {
-        case 1:
-            mixColumns<1>(mixed, columns, target.row(y));
-            break;
-        case 3:
-            mixColumns<3>(mixed, columns, target.row(y));
-            break;
-        default:
-            mixColumns<4>(mixed, columns, target.row(y));
+void mixColumns(const std::vector<std::int16_t> &mixed, const Kernel &kernel, Plane &target,
+                int y) {
+    std::uint8_t *out = target.row(y);
+    const int groups = kernel.taps() / kGroup;
+    for (int x = 0; x < target.width(); ++x) {
+        const std::int16_t *weights = kernel.weights(x);
+        const std::int16_t *in = mixed.data() + kernel.first(x);
+        std::int32_t sum = 0;
+        for (int i = 0; i < groups * kGroup; ++i) {
+            sum += weights[i] * in[i];
         }
+        out[x] = toByte(sum);
+    }
+}
+
+Plane lanczosTo(const Plane &source, int width, int height) {
+    Plane target(width, height);
+    const Kernel columns(source.width(), width);
+    const Kernel rows(source.height(), height);
+    std::vector<std::int32_t> sums(static_cast<std::size_t>(source.width()));
+    std::vector<std::int16_t> mixed(sums.size() + static_cast<std::size_t>(columns.taps()));
+    for (int y = 0; y < height; ++y) {
+        mixRows(source, rows, y, sums, mixed);
+        mixColumns(mixed, columns, target, y);
     }
     return target;
 }
 
-/// Averages squares of factor x factor pixels; a rest at the right and lower edge joins the last
-/// square's row or column of its own.
-SampleGrid averaged(const SampleGrid &source, int factor) {
-    SampleGrid target{(source.width + factor - 1) / factor,
-                      (source.height + factor - 1) / factor,
-                      source.kind,
-                      {}};
-    target.allocate();
-    const int components = source.components();
-    std::vector<std::uint32_t> sums(target.rowBytes());
-    for (int y = 0; y < target.height; ++y) {
+/// Averages squares of factor x factor samples; a rest at the right and lower edge makes smaller
+/// ones.
+Plane averaged(const Plane &source, int factor) {
+    Plane target((source.width() + factor - 1) / factor, (source.height() + factor - 1) / factor);
+    std::vector<std::uint32_t> sums(static_cast<std::size_t>(target.width()));
+    for (int y = 0; y < target.height(); ++y) {
         const int top = y * factor;
-        const int rows = std::min(factor, source.height - top);
+        const int rows = std::min(factor, source.height() - top);
         std::fill(sums.begin(), sums.end(), 0);
         for (int line = top; line < top + rows; ++line) {
             const std::uint8_t *in = source.row(line);
-            for (int x = 0; x < source.width; ++x) {
-                std::uint32_t *sum =
-                    sums.data() + static_cast<std::ptrdiff_t>(x / factor) * components;
-                for (int c = 0; c < components; ++c) {
-                    sum[c] += *in++;
-                }
+            for (int x = 0; x < source.width(); ++x) {
+                sums[static_cast<std::size_t>(x / factor)] += in[x];
             }
         }
         std::uint8_t *out = target.row(y);
-        for (int x = 0; x < target.width; ++x) {
+        for (int x = 0; x < target.width(); ++x) {
             const auto area =
-                static_cast<std::uint32_t>(std::min(factor, source.width - x * factor) * rows);
-            for (int c = 0; c < components; ++c, ++out) {
-                *out = static_cast<std::uint8_t>((sums[out - target.row(y)] + area / 2) / area);
-            }
+                static_cast<std::uint32_t>(std::min(factor, source.width() - x * factor) * rows);
+            out[x] =
+                static_cast<std::uint8_t>((sums[static_cast<std::size_t>(x)] + area / 2) / area);
         }
     }
     return target;
+}
+
+/// The same for squares of two, which every picture with colour needs; an edge counts twice.
+Plane halved(const Plane &source) {
+    Plane target((source.width() + 1) / 2, (source.height() + 1) / 2);
+    const int pairs = source.width() / 2;
+    for (int y = 0; y < target.height(); ++y) {
+        const std::uint8_t *upper = source.row(2 * y);
+        const std::uint8_t *lower = source.row(std::min(2 * y + 1, source.height() - 1));
+        std::uint8_t *out = target.row(y);
+        for (int x = 0; x < pairs; ++x) {
+            out[x] = static_cast<std::uint8_t>(
+                (upper[2 * x] + upper[2 * x + 1] + lower[2 * x] + lower[2 * x + 1] + 2) >> 2);
+        }
+        if (pairs < target.width()) {
+            out[pairs] = static_cast<std::uint8_t>((upper[2 * pairs] + lower[2 * pairs] + 1) >> 1);
+        }
+    }
+    return target;
+}
+
+Plane planeTo(Plane plane, int width, int height) {
+    if (plane.width() == width && plane.height() == height) {
+        return plane;
+    }
+    const int factor = std::min(plane.width() / width, plane.height() / height) / 2;
+    return factor > 1 ? lanczosTo(averaged(plane, factor), width, height)
+                      : lanczosTo(plane, width, height);
+}
+
+/// Colour needs no sharpness: on the way to half and less averages will do.
+Plane colourTo(Plane plane, int width, int height) {
+    const bool isTwice = (plane.width() + 1) / 2 >= width && (plane.height() + 1) / 2 >= height;
+    return planeTo(isTwice ? halved(plane) : std::move(plane), width, height);
 }
 
 } // namespace
 
-SampleGrid resample(const SampleGrid &source, int width, int height) {
-    if (width == source.width && height == source.height) {
-        return source;
+PlanarImage resample(PlanarImage image, int width, int height) {
+    PlanarImage target(width, height);
+    for (int i = 0; i < image.components(); ++i) {
+        Plane &plane = image.planes[static_cast<std::size_t>(i)];
+        target.planes.push_back(isColour(i, image.components())
+                                    ? colourTo(std::move(plane), (width + 1) / 2, (height + 1) / 2)
+                                    : planeTo(std::move(plane), width, height));
     }
-    const int factor = std::min(source.width / width, source.height / height) / 2;
-    if (factor > 1) {
-        return lanczosTo(averaged(source, factor), width, height);
-    }
-    return lanczosTo(source, width, height);
+    return target;
 }
 
 } // namespace folioforge

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "convert/compress/SampleGrid.h"
+#include "convert/compress/PlanarImage.h"
 
 namespace folioforge {
 
-/// `source` sampled down to width x height pixels, neither above its own: averaged by whole factors
-/// while more than twice too large, then brought to the exact size by a Lanczos kernel.
-SampleGrid resample(const SampleGrid &source, int width, int height);
+/// A picture in JPEG's own form brought to width x height pixels, neither above its own, with its
+/// planes of colour at half of that, rounded up: averaged by whole factors while more than twice
+/// too large, then brought to the exact size by a Lanczos kernel.
+PlanarImage resample(PlanarImage image, int width, int height);
 
 } // namespace folioforge
