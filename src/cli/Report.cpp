@@ -7,7 +7,9 @@
 #include <QJsonObject>
 #include <QList>
 
+#include <algorithm>
 #include <map>
+#include <vector>
 
 namespace folioforge {
 namespace {
@@ -64,6 +66,22 @@ QByteArray escaped(const QString &json) {
     return result;
 }
 
+/// The pages, each once, and no more than a line has room for.
+QString pagesInWords(std::vector<int> pages) {
+    constexpr std::size_t kMost = 10;
+    std::sort(pages.begin(), pages.end());
+    pages.erase(std::unique(pages.begin(), pages.end()), pages.end());
+    QStringList numbers;
+    for (std::size_t i = 0; i < std::min(pages.size(), kMost); ++i) {
+        numbers += QString::number(pages[i]);
+    }
+    if (pages.size() > kMost) {
+        numbers += QStringLiteral("...");
+    }
+    return (pages.size() == 1 ? QStringLiteral("page ") : QStringLiteral("pages ")) +
+           numbers.join(QStringLiteral(", "));
+}
+
 } // namespace
 
 QByteArray toJson(const InputResult &result) {
@@ -80,6 +98,8 @@ QByteArray toJson(const InputResult &result) {
     }
     if (result.compression && result.compression->error.isEmpty()) {
         addTo(object, *result.compression);
+    } else if (result.compression) {
+        object.insert(QStringLiteral("notCompressed"), result.compression->error);
     }
     return escaped(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }
@@ -89,12 +109,14 @@ QString toWords(const CompressionOutcome &compression) {
                         .arg(compression.bytesBefore)
                         .arg(compression.bytesAfter)
                         .arg(compression.imagesReduced);
-    std::map<QString, int> reasons;
+    std::map<QString, std::vector<int>> pagesByReason;
     for (const KeptImage &image : compression.imagesKept) {
-        ++reasons[image.reason];
+        pagesByReason[image.reason].push_back(image.page);
     }
-    for (const auto &[reason, count] : reasons) {
-        words += QStringLiteral(", left: %1 (%2)").arg(count).arg(reason);
+    for (const auto &[reason, pages] : pagesByReason) {
+        words += QStringLiteral(", left: %1 (%2; %3)")
+                     .arg(pages.size())
+                     .arg(reason, pagesInWords(pages));
     }
     return words;
 }

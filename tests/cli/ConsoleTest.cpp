@@ -75,6 +75,30 @@ class ConsoleTest : public QObject {
         QVERIFY(!object.contains(QStringLiteral("message")));
     }
 
+    void aPdfThatCouldNotBeCompressedSaysWhy() {
+        InputResult result;
+        result.compression.emplace().error = QStringLiteral("no filter");
+        const QJsonObject object = QJsonDocument::fromJson(toJson(result)).object();
+        QCOMPARE(object[QStringLiteral("notCompressed")].toString(), QStringLiteral("no filter"));
+        QVERIFY(!object.contains(QStringLiteral("bytesAfter")));
+    }
+
+    void imagesLeftAreNamedInWordsByReasonAndPage() {
+        CompressionOutcome compression;
+        compression.bytesBefore = 90;
+        compression.bytesAfter = 40;
+        compression.imagesReduced = 1;
+        compression.imagesKept.push_back({7, 9, QStringLiteral("damaged JPEG data: no end")});
+        for (int page = 12; page > 0; --page) {
+            compression.imagesKept.push_back({page, page, QStringLiteral("line art")});
+            compression.imagesKept.push_back({page, 20 + page, QStringLiteral("line art")});
+        }
+        QCOMPARE(toWords(compression),
+                 QStringLiteral("90 -> 40 bytes, images reduced: 1, left: 1 (damaged JPEG data: no "
+                                "end; page 7), left: 24 (line art; pages 1, 2, 3, 4, 5, 6, 7, 8, "
+                                "9, 10, ...)"));
+    }
+
     void aFailureHasItsReasonAndNoOutput() {
         InputResult result;
         result.input = QStringLiteral("a.png");
