@@ -57,8 +57,18 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         QVERIFY2(PdfProbe(copy).isValid(&log), qPrintable(log));
     }
 
+    void eachFilterMakesItSmaller_data() {
+        QTest::addColumn<int>("width");
+        QTest::newRow("300 per inch") << 1200;
+        QTest::newRow("below all resolutions") << 280;
+    }
+
     void eachFilterMakesItSmaller() {
-        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        QFETCH(const int, width);
+        const int height = width * 3 / 4;
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                    .stream(5, imageKeys(width, height, kJpegRgb), jpeg(photo(width, height)))
+                    .write(m_path));
         qint64 before = QFileInfo(m_path).size();
         for (int index = 1; index <= 3; ++index) {
             const qint64 after = run(index).bytesAfter;
