@@ -1,11 +1,12 @@
 #include "convert/compress/ImageReducer.h"
 
-#include "convert/compress/JpegCodec.h"
-#include "convert/compress/JpegColour.h"
 #include "convert/compress/JpxReader.h"
 #include "convert/compress/LosslessCodec.h"
 #include "convert/compress/PlanarImage.h"
 #include "convert/compress/Resampler.h"
+#include "convert/compress/jpeg/JpegColour.h"
+#include "convert/compress/jpeg/JpegReader.h"
+#include "convert/compress/jpeg/JpegWriter.h"
 #include "error/Error.h"
 
 #include <algorithm>
