@@ -244,6 +244,22 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         QCOMPARE(PdfProbe(copy).pageCount(), 3);
     }
 
+    void plainStreamsAreCompressedAndUnusedOnesGo() {
+        QByteArray content("BT /F 12 Tf 20 250 Td (Words that stay) Tj ET\n");
+        content += QByteArray("0 0 m 400 300 l S\n").repeated(1000);
+        auto page = photoPage(content);
+        page.stream(5, "/Unused true", QByteArray(20000, 'u'));
+        QVERIFY(page.object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 4 0 "
+                               "R /Resources << /Font << /F 7 0 R >> >> >>")
+                    .write(m_path));
+        const QString copy = compressed();
+        const QByteArray bytes = readFile(copy);
+        QVERIFY(bytes.size() < 2000);
+        QVERIFY(!bytes.contains("/Unused"));
+        QVERIFY(PdfProbe(copy).text().contains(QStringLiteral("Words that stay")));
+        QCOMPARE(PdfProbe(copy).render(1, 100), PdfProbe(m_path).render(1, 100));
+    }
+
     void linksAndBoxesStay() {
         writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q",
                       "/CropBox [10 10 390 290] /Annots [<< /Type /Annot /Subtype /Link /Rect [0 0 "
