@@ -24,21 +24,37 @@ void requirePdfHeader(const SourceFile &file, SourceReader &reader) {
 
 /// Null for a document that needs a password or an unknown security handler.
 std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
-                                       const std::shared_ptr<SourceReader> &reader) {
-    requirePdfHeader(file, *reader);
+                                       const std::shared_ptr<SourceReader> &reader,
+                                       SourceInput::Table table) {
     auto document = std::make_unique<QPDF>();
     document->setSuppressWarnings(true);
     document->setAttemptRecovery(file.size <= kMaxRepairedBytes);
     try {
-        document->processInputSource(std::make_shared<SourceInput>(file, reader));
+        withEnoughMemory(*document, [&] {
+            document->processInputSource(std::make_shared<SourceInput>(file, reader, table));
+            return document->getRoot(); // Throws where the table leads to no catalog.
+        });
     } catch (const QPDFExc &error) {
-        requireEnoughMemory(*document);
         if (error.getErrorCode() == qpdf_e_password || error.getErrorCode() == qpdf_e_unsupported) {
             return nullptr;
         }
         throw;
     }
     return document;
+}
+
+/// Repairs what the library does by itself, and files whose table looks right and is not.
+std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
+                                       const std::shared_ptr<SourceReader> &reader) {
+    requirePdfHeader(file, *reader);
+    try {
+        return openUnlessLocked(file, reader, SourceInput::Table::Shown);
+    } catch (const QPDFExc &) {
+        if (file.size > kMaxRepairedBytes) {
+            throw;
+        }
+        return openUnlessLocked(file, reader, SourceInput::Table::Hidden);
+    }
 }
 
 } // namespace

@@ -8,9 +8,17 @@
 
 namespace folioforge {
 
-SourceInput::SourceInput(SourceFile file, std::shared_ptr<SourceReader> reader)
+namespace {
+
+/// More than the bytes at the end in which the library looks for the table's place.
+constexpr qint64 kBlanksThatHideTheTable = 2048;
+
+} // namespace
+
+SourceInput::SourceInput(SourceFile file, std::shared_ptr<SourceReader> reader, Table table)
     : m_file(std::move(file))
     , m_reader(std::move(reader))
+    , m_end(m_file.size + (table == Table::Hidden ? kBlanksThatHideTheTable : 0))
     , m_name(m_file.path.toStdString()) {}
 
 qpdf_offset_t SourceInput::findAndSkipNextEOL() {
@@ -20,7 +28,8 @@ qpdf_offset_t SourceInput::findAndSkipNextEOL() {
         const auto got = m_reader->read(m_file, m_position, chunk);
         const std::string_view text(chunk.data(), got);
         if (text.empty()) {
-            return tell();
+            m_position = std::max(m_position, m_end);
+            return m_position;
         }
         const auto found = text.find_first_of(kLineEnds);
         if (found == std::string_view::npos) {
@@ -47,7 +56,7 @@ qpdf_offset_t SourceInput::tell() {
 }
 
 void SourceInput::seek(qpdf_offset_t offset, int whence) {
-    const qint64 base = whence == SEEK_SET ? 0 : whence == SEEK_END ? m_file.size : m_position;
+    const qint64 base = whence == SEEK_SET ? 0 : whence == SEEK_END ? m_end : m_position;
     if (base + offset < 0) {
         throw std::runtime_error("seek before the beginning of the file");
     }
@@ -60,11 +69,14 @@ void SourceInput::rewind() {
 
 size_t SourceInput::read(char *target, size_t length) {
     last_offset = m_position;
-    const size_t got = m_reader->read(m_file, m_position, {target, length});
+    size_t got = m_reader->read(m_file, m_position, {target, length});
     m_position += static_cast<qint64>(got);
+    for (; got < length && m_position < m_end; ++got, ++m_position) {
+        target[got] = ' ';
+    }
     if (got == 0 && length > 0) {
         // The library takes the place where the file ended from here.
-        last_offset = std::min(m_position, m_file.size);
+        last_offset = std::min(m_position, m_end);
     }
     return got;
 }

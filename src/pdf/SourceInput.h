@@ -12,7 +12,11 @@ namespace folioforge {
 /// thousands of them may wait until their streams are written.
 class SourceInput final : public InputSource {
   public:
-    SourceInput(SourceFile file, std::shared_ptr<SourceReader> reader);
+    /// Whether the library is to find the table of objects. Where it does not, it searches the
+    /// file for them.
+    enum class Table { Shown, Hidden };
+
+    SourceInput(SourceFile file, std::shared_ptr<SourceReader> reader, Table table);
 
     qpdf_offset_t findAndSkipNextEOL() override;
     std::string const &getName() const override;
@@ -25,6 +29,7 @@ class SourceInput final : public InputSource {
   private:
     SourceFile m_file;
     std::shared_ptr<SourceReader> m_reader;
+    qint64 m_end; ///< Behind the file stand blanks up to here.
     std::string m_name;
     qint64 m_position = 0;
 };

@@ -41,7 +41,7 @@ QList<DamagedDocument> damagedDocuments() {
          meant.first(meant.indexOf("xref\n")) + meant.sliced(meant.indexOf("trailer")), meant},
         {"the table and the trailer are missing", cutBefore("xref\n0"), {}},
         {"the table counts one too many", replaced("xref\n0 7", "xref\n0 8"), meant},
-        {"the table begins at 1", replaced("xref\n0 7", "xref\n1 7"), {}},
+        {"the table begins at 1", replaced("xref\n0 7", "xref\n1 7"), meant},
         {"every offset is wrong",
          replaced("%PDF-1.7\n", "%PDF-1.7\n" + QByteArray("%junk\n").repeated(9)), meant},
         {"the line ends were converted", QByteArray(meant).replace('\n', "\r\n"), meant},
