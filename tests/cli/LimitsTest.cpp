@@ -136,7 +136,7 @@ class LimitsTest : public QObject {
     }
 
     void treesOfAnyDepthAreRead() {
-        QCOMPARE(answerTo({savedPdf(deepTrees(sized(100'000, 20'000)))}), valid());
+        QCOMPARE(answerTo({savedPdf(deepTrees(sized(100'000, 5'000)))}), valid());
     }
 
     void circlesEnd_data() {

@@ -73,7 +73,7 @@ class OddDocumentsTest : public QObject {
     }
     /// Writes the PDF of all `sources` and returns its path; qpdf finds it in order.
     QString merged(const QStringList &sources) const {
-        const QString target = path(QStringLiteral("merged.pdf"));
+        QString target = path(QStringLiteral("merged.pdf"));
         QFile::remove(target);
         PDFContext::Settings settings;
         settings.flush = Flush::Never;

@@ -43,8 +43,8 @@ template<typename Section> std::vector<std::pair<int, int>> runsOf(const Section
 
 } // namespace
 
-FileWriter::FileWriter(const QByteArray &beginning, qsizetype offsetOfHeader)
-    : m_bytes(beginning)
+FileWriter::FileWriter(QByteArray beginning, qsizetype offsetOfHeader)
+    : m_bytes(std::move(beginning))
     , m_base(offsetOfHeader) {}
 
 FileWriter &FileWriter::raw(const QByteArray &bytes) {

@@ -23,7 +23,7 @@ struct XrefStreamForm {
 class FileWriter {
   public:
     /// `offsetOfHeader` bytes of the beginning do not count in offsets.
-    explicit FileWriter(const QByteArray &beginning = "%PDF-1.7\n", qsizetype offsetOfHeader = 0);
+    explicit FileWriter(QByteArray beginning = "%PDF-1.7\n", qsizetype offsetOfHeader = 0);
 
     FileWriter &raw(const QByteArray &bytes);
     FileWriter &object(int number, const QByteArray &body, int generation = 0);

@@ -5,6 +5,7 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include <algorithm>
 #include <functional>
 
 namespace folioforge::test {
@@ -104,9 +105,8 @@ QByteArray sparseNumbers() {
 QByteArray backToFront() {
     FileWriter file;
     const auto objects = onePage().objects();
-    for (auto object = objects.rbegin(); object != objects.rend(); ++object) {
-        file.object(object->first, object->second);
-    }
+    std::for_each(objects.rbegin(), objects.rend(),
+                  [&](const auto &object) { file.object(object.first, object.second); });
     return file.table().bytes();
 }
 
