@@ -54,10 +54,15 @@ void renameInAppearances(const QPDFObjectHandle &root, const Renames &renames) {
     }
 }
 
-template<typename Taken> std::string freeName(const std::string &name, const Taken &isTaken) {
+/// `name`, or where that is taken the name with the next number. Thousands of forms may have the
+/// same names, so counting goes on where it was.
+template<typename Taken>
+std::string freeName(const std::string &name, std::map<std::string, int> &numbers,
+                     const Taken &isTaken) {
     std::string candidate = name;
-    for (int number = 2; isTaken(candidate); ++number) {
-        candidate = name + "_" + std::to_string(number);
+    while (isTaken(candidate)) {
+        int &number = numbers.try_emplace(name, 1).first->second;
+        candidate = name + "_" + std::to_string(++number);
     }
     return candidate;
 }
@@ -73,8 +78,9 @@ void FormMerger::keepApart(QPDFObjectHandle field, Renames &renames) {
     // Two fields of one name in one source are one field to its readers, and stay so.
     auto renamed = renames.find(text);
     if (renamed == renames.end()) {
-        const auto unique = freeName(
-            text, [&](const std::string &candidate) { return m_names.contains(candidate); });
+        const auto unique = freeName(text, m_nameNumbers, [&](const std::string &candidate) {
+            return m_names.contains(candidate);
+        });
         renamed = renames.emplace(text, unique).first;
     }
     if (renamed->second != text) {
@@ -92,13 +98,15 @@ FormMerger::Renames FormMerger::addResources(QPDFObjectHandle resources) {
             continue;
         }
         auto &known = m_resources[category];
+        auto &numbers = m_resourceNumbers[category];
         QPDFObjectHandle dictionary = members;
         for (const auto &[name, object] : dictionary.getDictAsMap()) {
-            const auto unique = freeName(name, [&, &member = object](const std::string &candidate) {
-                const auto taken = known.find(candidate);
-                return taken != known.end() &&
-                       !(member.isIndirect() && taken->second.isSameObjectAs(member));
-            });
+            const auto unique =
+                freeName(name, numbers, [&, &member = object](const std::string &candidate) {
+                    const auto taken = known.find(candidate);
+                    return taken != known.end() &&
+                           !(member.isIndirect() && taken->second.isSameObjectAs(member));
+                });
             known.emplace(unique, object);
             if (unique != name) {
                 renames.emplace(name, unique);

@@ -20,13 +20,16 @@ class FormMerger {
 
   private:
     using Renames = std::map<std::string, std::string>;
+    using Numbers = std::map<std::string, int>; ///< The last one given to each name.
 
     void keepApart(QPDFObjectHandle field, Renames &renames);
     Renames addResources(QPDFObjectHandle resources);
 
     ImportedForm m_form;
     std::set<std::string> m_names;
+    Numbers m_nameNumbers;
     std::map<std::string, std::map<std::string, QPDFObjectHandle>> m_resources;
+    std::map<std::string, Numbers> m_resourceNumbers; ///< As m_resources, by category.
 };
 
 } // namespace folioforge

@@ -194,6 +194,13 @@ class LimitsTest : public QObject {
         QVERIFY(answer == valid() || answer == noMemory());
     }
 
+    void tenThousandFormsOfTheSameNamesStayApart() {
+        const int count = sized(10'000, 500);
+        const QString file = savedPdf(formOfOneField());
+        QCOMPARE(answerTo(QStringList(count, file)), valid());
+        QCOMPARE(PdfProbe(target()).pageCount(), count);
+    }
+
     void tenThousandInputsNeedFewDescriptors() {
         const int count = sized(10'000, 300);
         const QString picture = writePng(path(QStringLiteral("a.png")), 20, 10);

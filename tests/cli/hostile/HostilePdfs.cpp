@@ -98,6 +98,14 @@ QByteArray deepTrees(qint64 nodes) {
     return fixture.bytes();
 }
 
+QByteArray formOfOneField() {
+    return onePage("/Annots [4 0 R]", "/AcroForm << /Fields [4 0 R] /DR << /Font << /F 5 0 R >> >> "
+                                      "/DA (/F 9 Tf) >>")
+        .object(4, "<< /Type /Annot /Subtype /Widget /Rect [0 0 99 20] /FT /Tx /T (a) /V (b) >>")
+        .object(5, "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica >>")
+        .bytes();
+}
+
 QByteArray manyObjects(qint64 objects) {
     const auto count = static_cast<int>(objects);
     constexpr int kInOneStream = 10'000;
@@ -124,7 +132,7 @@ QByteArray manyObjects(qint64 objects) {
     for (int start = 0, self = kFirst + count; start < count; start += kInOneStream, ++self) {
         QByteArray offsets;
         for (int i = 0; i < kInOneStream; ++i) {
-            offsets += number(kFirst + start + i) + ' ' + number(2 * i) + ' ';
+            offsets += number(kFirst + start + i) + ' ' + number(2LL * i) + ' ';
         }
         const QByteArray data = flate(offsets + QByteArray("7 ").repeated(kInOneStream));
         add(self, "<< /Type /ObjStm /N " + number(kInOneStream) + " /First " +

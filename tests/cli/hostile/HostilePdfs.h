@@ -11,6 +11,8 @@ namespace folioforge::test {
 QByteArray deepPageTree(qint64 depth);
 /// Bookmarks, fields and names nested `depth` deep, one in the other.
 QByteArray deepTrees(qint64 depth);
+/// A page with a field whose name and font every other such document has too.
+QByteArray formOfOneField();
 /// One page that refers to each of `count` numbers in object streams.
 QByteArray manyObjects(qint64 count);
 /// A cross-reference stream of `count` free entries beside a document of one page.
