@@ -38,7 +38,7 @@ void describe(QPDFObjectHandle dictionary, const ImageJob &job, const ReducedIma
 } // namespace
 
 std::shared_ptr<ReducedStreams> ReducedStreams::install(std::vector<PlannedImage> planned) {
-    const auto streams = std::make_shared<ReducedStreams>(std::move(planned));
+    auto streams = std::make_shared<ReducedStreams>(std::move(planned));
     for (Image &image : streams->m_images) {
         QPDFObjectHandle dictionary = image.plan.stream.getDict();
         image.plan.stream.replaceStreamData(streams, dictionary.getKey("/Filter"),

@@ -76,7 +76,8 @@ class Kernel {
             left -= weights[i];
         }
         // What rounding lost goes to the largest, so that flat areas keep their value.
-        *std::max_element(weights, weights + count) += static_cast<std::int16_t>(left);
+        std::int16_t &largest = *std::max_element(weights, weights + count);
+        largest = static_cast<std::int16_t>(largest + left);
     }
 
     double m_ratio;   ///< Source samples for one of the target.
@@ -169,12 +170,12 @@ Plane halved(const Plane &source) {
         const std::uint8_t *upper = source.row(2 * y);
         const std::uint8_t *lower = source.row(std::min(2 * y + 1, source.height() - 1));
         std::uint8_t *out = target.row(y);
-        for (int x = 0; x < pairs; ++x) {
-            out[x] = static_cast<std::uint8_t>(
-                (upper[2 * x] + upper[2 * x + 1] + lower[2 * x] + lower[2 * x + 1] + 2) >> 2);
+        for (int x = 0; x < pairs; ++x, upper += 2, lower += 2) {
+            out[x] =
+                static_cast<std::uint8_t>((upper[0] + upper[1] + lower[0] + lower[1] + 2) >> 2);
         }
         if (pairs < target.width()) {
-            out[pairs] = static_cast<std::uint8_t>((upper[2 * pairs] + lower[2 * pairs] + 1) >> 1);
+            out[pairs] = static_cast<std::uint8_t>((*upper + *lower + 1) >> 1);
         }
     }
     return target;
