@@ -213,8 +213,9 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     QWidget *m_currentSettingsView = nullptr;
     QVariantAnimation m_optionsSlide;
     int m_optionsWidthInFrame = 0; ///< How much of the window's own width is the options panel's.
-    int m_optionsShift = 0;        ///< How far to the left the panel has moved the window.
-    int m_shiftedLeft = 0;         ///< Where that put the window's left edge.
+    std::optional<QRect> m_restoredGeometry; ///< Of a window that fills the screen.
+    int m_optionsShift = 0; ///< How far to the left the panel has moved the window.
+    int m_shiftedLeft = 0;  ///< Where that put the window's left edge.
     QString m_outputFolderPath;
 
     QString m_destFilePathName; ///< The PDF being written.

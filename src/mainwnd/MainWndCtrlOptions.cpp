@@ -8,12 +8,14 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QMargins>
 #include <QScreen>
 #include <QSettings>
 #include <QStyle>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace folioforge {
 namespace {
@@ -88,20 +90,25 @@ void MainWndCtrl::setOptionsWidth(int width) {
 /// inside, and takes the panel's width on when it is restored.
 void MainWndCtrl::fitWindowToOptions() {
     if (m_window->isMaximized() || m_window->isFullScreen()) {
+        m_restoredGeometry = m_window->normalGeometry();
         return;
     }
+    // A window that has just been restored may still have the size of the screen.
+    const QRect now = m_window->geometry();
+    const QRect before = std::exchange(m_restoredGeometry, std::nullopt).value_or(now);
     const int change = m_optionsDrawer->openWidth() - m_optionsWidthInFrame;
-    m_optionsWidthInFrame += change;
     if (change == 0) {
         return;
     }
-    const QSize size = m_window->size() + QSize(change, 0);
-    const int left = leftWithOptions(m_window->frameGeometry().adjusted(0, 0, change, 0));
-    if (left == m_window->x()) {
-        m_window->resize(size);
+    m_optionsWidthInFrame += change;
+    const QRect after = before.adjusted(0, 0, change, 0);
+    const QMargins frame(now.left() - m_window->frameGeometry().left(), 0,
+                         m_window->frameGeometry().right() - now.right(), 0);
+    const int shift = leftWithOptions(after.marginsAdded(frame)) + frame.left() - after.left();
+    if (shift == 0) {
+        m_window->resize(after.size());
     } else {
-        const QPoint origin = m_window->geometry().topLeft();
-        m_window->setGeometry({origin + QPoint(left - m_window->x(), 0), size});
+        m_window->setGeometry(after.translated(shift, 0));
     }
 }
 

@@ -1,8 +1,11 @@
 #include "WindowWorld.h"
 
+#include "mainwnd/MainWndCtrl.h"
 #include "skin/OptionsDrawer.h"
 
+#include <QFile>
 #include <QScreen>
+#include <QTest>
 
 using namespace folioforge;
 using namespace folioforge::test;
@@ -64,6 +67,19 @@ class OptionsOnScreenTest : public QObject {
         const QRect before = placed.window.geometry();
         placed.show(true);
         QCOMPARE(placed.window.geometry(), before.adjusted(0, 0, 342, 0));
+    }
+
+    void aMaximisedWindowShowsThePanelInsideAndTakesItsWidthOnWhenRestored() {
+        PlacedWindow placed(342);
+        const QRect before = placed.window.geometry();
+        placed.window.showMaximized();
+        QVERIFY(QTest::qWaitFor([&] { return placed.window.height() > before.height(); }));
+        const QRect full = placed.window.geometry();
+        placed.show(true);
+        QCOMPARE(placed.window.geometry(), full);
+        placed.window.showNormal();
+        const QRect after = before.adjusted(0, 0, 342, 0);
+        QVERIFY(QTest::qWaitFor([&] { return placed.window.geometry() == after; }));
     }
 
     void aPanelThatDoesNotFitMovesTheWindowByWhatIsMissing() {

@@ -1,5 +1,6 @@
 #include "WindowWorld.h"
 
+#include "mainwnd/MainWndCtrl.h"
 #include "skin/OptionsDrawer.h"
 #include "skin/SkinButton.h"
 
@@ -8,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QTest>
 
 using namespace folioforge;
 using namespace folioforge::test;
@@ -139,22 +141,6 @@ class OptionsPanelTest : public QObject {
         QVERIFY(hide.hasFocus());
         QTest::keyClick(&hide, Qt::Key_Space);
         QVERIFY(show.hasFocus());
-    }
-
-    void aMaximisedWindowShowsThePanelInside() {
-        Panel panel;
-        QMainWindow &window = *panel.ctrl.window();
-        const int narrow = window.width();
-        window.showMaximized();
-        QVERIFY(window.isMaximized());
-        QTRY_VERIFY(window.height() > 720);
-        const int full = window.width();
-        panel.openPanel();
-        // The screen of the tests is narrow: the window may not become narrower than its contents.
-        QCOMPARE(window.width(), qMax(full, window.minimumSizeHint().width()));
-        QVERIFY(panel.control<QWidget>("optionsPanel").isVisible());
-        window.showNormal();
-        QTRY_COMPARE(window.width(), narrow + 342);
     }
 
     void theDefaultsAreA4FollowTheImageAndNoCompression() {
