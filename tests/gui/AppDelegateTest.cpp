@@ -1,11 +1,16 @@
 #include "WindowWorld.h"
-#include "support/Files.h"
 
+#include "app/FolioforgeAppDelegate.h"
+#include "mainwnd/FilesArray.h"
+
+#include <QApplication>
+#include <QFileInfo>
 #include <QIcon>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
+#include <QTest>
 #include <QTimer>
 
 using namespace folioforge;
@@ -40,9 +45,6 @@ struct Application {
             }
         }
         qFatal("no item %s", qPrintable(title));
-    }
-    [[nodiscard]] QString textFile(const QString &name) const {
-        return writeFile(world.homePath(name), "text\n");
     }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(window().windowHandle(), key, modifiers);
@@ -93,7 +95,7 @@ class AppDelegateTest : public QObject {
         Application application;
         MainWndCtrl &ctrl = application.delegate.mainWndCtrl();
         auto &create = controlOf<QWidget>(application.window(), "m_btnCreate");
-        ctrl.addFiles({application.textFile(QStringLiteral("a.txt"))}, -1);
+        ctrl.addFiles({application.world.file(QStringLiteral("a.txt"))}, -1);
         QTRY_VERIFY(application.item(QStringLiteral("Start")).isEnabled());
         QVERIFY(create.isEnabled());
         ctrl.clickBtnClear();
@@ -103,7 +105,7 @@ class AppDelegateTest : public QObject {
 
     void controlOAddsFiles() {
         Application application;
-        application.world.notices.setNextFiles({application.textFile(QStringLiteral("a.txt"))});
+        application.world.notices.setNextFiles({application.world.file(QStringLiteral("a.txt"))});
         application.window().activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&application.window()));
         application.key(Qt::Key_O, Qt::ControlModifier);
@@ -116,7 +118,7 @@ class AppDelegateTest : public QObject {
     void theStartItemDoesWhatTheCreateButtonDoes() {
         Application application;
         MainWndCtrl &ctrl = application.delegate.mainWndCtrl();
-        ctrl.addFiles({application.textFile(QStringLiteral("a.txt"))}, -1);
+        ctrl.addFiles({application.world.file(QStringLiteral("a.txt"))}, -1);
         controlOf<QLineEdit>(application.window(), "m_tfOutputFolder").clear();
         application.window().activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&application.window()));

@@ -1,8 +1,13 @@
 #include "WindowWorld.h"
 
+#include "mainwnd/MainWndCtrl.h"
+
+#include <QDir>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSignalSpy>
+#include <QTest>
 
 using namespace folioforge;
 using namespace folioforge::test;
@@ -30,13 +35,13 @@ class OutputFolderTest : public QObject {
     void theFirstRunMakesTheFolderWorldWritableAndStoresIt() {
         WindowWorld world;
         MainWndCtrl ctrl(world.surroundings());
-        const QString folder = world.homePath(QStringLiteral("Documents/Folioforge"));
+        const QString folder = world.path(QStringLiteral("Documents/Folioforge"));
         QCOMPARE(shownFolder(ctrl), folder);
         QVERIFY(QFileInfo(folder).isDir());
         QCOMPARE(int(QFile::permissions(folder)) & 0x7077, 0x7077);
         QCOMPARE(world.storedFolder(), folder);
         // Written to disk at once: another reader of the file sees it.
-        const QSettings other(world.homePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+        const QSettings other(world.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
         QCOMPARE(other.value(QStringLiteral("CustomizeOutputDir")).toString(), folder);
     }
 
@@ -55,7 +60,7 @@ class OutputFolderTest : public QObject {
 
     void aFolderThatIsThereAlreadyKeepsItsMode() {
         WindowWorld world;
-        const QString folder = world.homePath(QStringLiteral("Documents/Folioforge"));
+        const QString folder = world.path(QStringLiteral("Documents/Folioforge"));
         QVERIFY(QDir().mkpath(folder));
         const auto own = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
         QVERIFY(QFile::setPermissions(folder, own));
@@ -67,11 +72,11 @@ class OutputFolderTest : public QObject {
     void aFolderThatCannotBeMadeGivesWayToDocuments() {
         WindowWorld world;
         // A file stands where the folder's parent should be.
-        QFile blocker(world.homePath(QStringLiteral("Documents")));
+        QFile blocker(world.path(QStringLiteral("Documents")));
         QVERIFY(blocker.open(QIODevice::WriteOnly));
         MainWndCtrl ctrl(world.surroundings());
-        QCOMPARE(shownFolder(ctrl), world.homePath(QStringLiteral("Documents")));
-        QCOMPARE(world.storedFolder(), world.homePath(QStringLiteral("Documents")));
+        QCOMPARE(shownFolder(ctrl), world.path(QStringLiteral("Documents")));
+        QCOMPARE(world.storedFolder(), world.path(QStringLiteral("Documents")));
         QVERIFY(world.notices.shown().empty());
     }
 
@@ -81,14 +86,14 @@ class OutputFolderTest : public QObject {
         MainWndCtrl ctrl(world.surroundings());
         QCOMPARE(shownFolder(ctrl), QStringLiteral("/nowhere/at all"));
         QVERIFY(world.desktop.urls.isEmpty());
-        QVERIFY(!QFileInfo::exists(world.homePath(QStringLiteral("Documents"))));
+        QVERIFY(!QFileInfo::exists(world.path(QStringLiteral("Documents"))));
     }
 
     void aStoredEmptyStringCountsAsMissing() {
         WindowWorld world;
         world.storeFolder(QString());
         MainWndCtrl ctrl(world.surroundings());
-        QCOMPARE(shownFolder(ctrl), world.homePath(QStringLiteral("Documents/Folioforge")));
+        QCOMPARE(shownFolder(ctrl), world.path(QStringLiteral("Documents/Folioforge")));
         QCOMPARE(world.desktop.urls.size(), 1);
     }
 
@@ -97,7 +102,7 @@ class OutputFolderTest : public QObject {
         QSettings nowhere(QStringLiteral("/proc/none/settings.ini"), QSettings::IniFormat);
         MainWndCtrl ctrl({nowhere, world.desktop, world.notices, world.notifications,
                           world.home.path(), WindowWorld::realBundle()});
-        QCOMPARE(shownFolder(ctrl), world.homePath(QStringLiteral("Documents/Folioforge")));
+        QCOMPARE(shownFolder(ctrl), world.path(QStringLiteral("Documents/Folioforge")));
     }
 
     void browsingAsksForOneFolder() {
@@ -141,7 +146,7 @@ class OutputFolderTest : public QObject {
         world.storeFolder(world.home.path());
         MainWndCtrl ctrl(world.surroundings());
         ctrl.window();
-        const QString good = world.homePath(QStringLiteral("good"));
+        const QString good = world.path(QStringLiteral("good"));
         QVERIFY(QDir().mkpath(good));
         world.notices.answerNoticesAtOnce();
         world.notices.setNextFiles({QStringLiteral("/nowhere/a")});

@@ -1,31 +1,14 @@
 #pragma once
 
-#include "mainwnd/Desktop.h"
+#include "WindowWorld.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/MainWndCtrl.h"
-#include "mainwnd/Notices.h"
-#include "mainwnd/NotificationCenter.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QFile>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
 
 namespace folioforge::test {
-
-/// Writes down what it is asked to open.
-class RecordingDesktop : public Desktop {
-  public:
-    void runInShell(const QByteArray &command) override { commands += command; }
-    void openURL(const QUrl &url) override { urls += url; }
-    void openFile(const QString &path) override { files += path; }
-
-    QList<QByteArray> commands;
-    QList<QUrl> urls;
-    QStringList files;
-};
 
 /// Writes down what the window tells its delegate.
 class RecordingDelegate : public MainWndDelegate {
@@ -36,13 +19,13 @@ class RecordingDelegate : public MainWndDelegate {
 
 /// The main window in a home folder of its own, with notices and panels answered at once. The
 /// output folder is "out" in that home.
-class TestWindow {
+class TestWindow : public WindowWorld {
   public:
     /// A window of the application at `bundle`; without one the window has no resources.
     explicit TestWindow(const QString &bundle = {})
-        : m_bundle(bundle.isEmpty() ? home.filePath(QStringLiteral("Folioforge.app")) : bundle) {
+        : ctrl(surroundings(bundle.isEmpty() ? path(QStringLiteral("Folioforge.app")) : bundle)) {
         QDir().mkpath(path(QStringLiteral("out")));
-        m_settings.setValue(QStringLiteral("CustomizeOutputDir"), path(QStringLiteral("out")));
+        storeFolder(path(QStringLiteral("out")));
         notices.answerNoticesAtOnce();
         ctrl.setDelegateObject(&delegate);
         ctrl.window()->show();
@@ -50,25 +33,9 @@ class TestWindow {
         QVERIFY(QTest::qWaitForWindowActive(ctrl.window()));
     }
 
-    /// A path in the home folder.
-    [[nodiscard]] QString path(const QString &name) const { return home.filePath(name); }
-
-    /// Writes a file into the home folder; its path.
-    QString file(const QString &name, const QByteArray &bytes = "text\n") const {
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-        }
-        return file.fileName();
-    }
-
     /// A control of the window by its name.
     template<typename Control> [[nodiscard]] Control *control(const char *name) {
-        auto *found = ctrl.window()->findChild<Control *>(QString::fromLatin1(name));
-        if (!found) {
-            qFatal("the window has no %s", name);
-        }
-        return found;
+        return &controlOf<Control>(*ctrl.window(), name);
     }
     [[nodiscard]] SkinTableView *table() { return control<SkinTableView>("m_tableview"); }
     void press(const char *button) {
@@ -87,7 +54,7 @@ class TestWindow {
     }
 
     /// Brings the settings to their file, in the home folder.
-    void syncSettings() { m_settings.sync(); }
+    void syncSettings() { settings.sync(); }
 
     /// The names in the list, in order, with a blank between two.
     [[nodiscard]] QString names() const {
@@ -110,11 +77,8 @@ class TestWindow {
         return messages;
     }
 
-    QTemporaryDir home;
-    RecordingDesktop desktop;
     RecordingDelegate delegate;
-    Notices notices;
-    NotificationCenter notifications;
+    MainWndCtrl ctrl;
 
   private:
     [[nodiscard]] QString column(int column) const {
@@ -124,12 +88,6 @@ class TestWindow {
         }
         return texts.join(u' ');
     }
-
-    QString m_bundle;
-    QSettings m_settings{home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat};
-
-  public:
-    MainWndCtrl ctrl{{m_settings, desktop, notices, notifications, home.path(), m_bundle}};
 };
 
 } // namespace folioforge::test

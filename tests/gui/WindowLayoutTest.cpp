@@ -1,5 +1,6 @@
 #include "WindowWorld.h"
 
+#include "mainwnd/MainWndCtrl.h"
 #include "skin/CycleSkinedView.h"
 #include "skin/LightLook.h"
 #include "skin/OptionsDrawer.h"
@@ -7,11 +8,14 @@
 #include "skin/VesprinTableHeaderView.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QTest>
 
 using namespace folioforge;
 using namespace folioforge::test;

@@ -1,12 +1,29 @@
 #pragma once
 
-#include "TestWindow.h"
+#include "mainwnd/Desktop.h"
+#include "mainwnd/Notices.h"
+#include "mainwnd/NotificationCenter.h"
+#include "mainwnd/Surroundings.h"
+#include "support/Files.h"
 
-#include "app/FolioforgeAppDelegate.h"
-
-#include <QFileInfo>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QUrl>
+#include <QWidget>
 
 namespace folioforge::test {
+
+/// Writes down what it is asked to open.
+class RecordingDesktop : public Desktop {
+  public:
+    void runInShell(const QByteArray &command) override { commands += command; }
+    void openURL(const QUrl &url) override { urls += url; }
+    void openFile(const QString &path) override { files += path; }
+
+    QList<QByteArray> commands;
+    QList<QUrl> urls;
+    QStringList files;
+};
 
 /// A home folder of its own with a settings file and everything a window asks for, before any
 /// window is loaded.
@@ -14,15 +31,20 @@ struct WindowWorld {
     /// The bundle of this build, with the real skins.
     static QString realBundle() { return QStringLiteral(FOLIOFORGE_BUNDLE_PATH); }
 
-    [[nodiscard]] QString homePath(const QString &name) const { return home.filePath(name); }
+    /// A path in the home folder.
+    [[nodiscard]] QString path(const QString &name) const { return home.filePath(name); }
+    /// Writes a file into the home folder; its path.
+    QString file(const QString &name, const QByteArray &bytes = "text\n") const {
+        return writeFile(path(name), bytes);
+    }
     [[nodiscard]] QString storedFolder() const {
         return settings.value(QStringLiteral("CustomizeOutputDir")).toString();
     }
     void storeFolder(const QString &folder) {
         settings.setValue(QStringLiteral("CustomizeOutputDir"), folder);
     }
-    [[nodiscard]] Surroundings surroundings() {
-        return {settings, desktop, notices, notifications, home.path(), realBundle()};
+    [[nodiscard]] Surroundings surroundings(const QString &bundle = realBundle()) {
+        return {settings, desktop, notices, notifications, home.path(), bundle};
     }
 
     QTemporaryDir home;
