@@ -10,6 +10,7 @@
 #include <QRandomGenerator>
 #include <QSignalSpy>
 
+#include <algorithm>
 #include <memory>
 
 using namespace folioforge;
@@ -48,10 +49,28 @@ void addTexts(TestWindow &w, int count) {
     w.ctrl.addFiles(paths, -1);
 }
 
+void waitForTheEnd(const TestWindow &w) {
+    QTRY_VERIFY_WITH_TIMEOUT(!w.ctrl.isConverting(), 60'000);
+}
+
 /// Presses Create and waits for the end of the run.
 void run(TestWindow &w) {
     w.press("m_btnCreate");
-    QTRY_VERIFY_WITH_TIMEOUT(!w.ctrl.isConverting(), 60'000);
+    waitForTheEnd(w);
+}
+
+/// The entries that a run has done so far.
+qsizetype doneEntries(const MainWndCtrl &ctrl) {
+    const std::vector<const PDFFileInfo *> entries = ctrl.filesArray().arrangedObjects();
+    return std::ranges::count_if(
+        entries, [](const PDFFileInfo *entry) { return entry->stateIndex() != Waiting; });
+}
+
+/// Starts a run, waits until `count` entries are done and closes the window.
+void closeDuringARun(MainWndCtrl &ctrl, int count) {
+    ctrl.clickBtnCreate();
+    QTRY_VERIFY_WITH_TIMEOUT(doneEntries(ctrl) >= count, 60'000);
+    ctrl.window()->close();
 }
 
 void mergeInto(TestWindow &w, const QString &name) {
@@ -283,7 +302,7 @@ class ConvertingFilesTest : public QObject {
         run(w);
         w.press("m_btnCreate");
         QCOMPARE(w.states(), QStringLiteral("Waiting... Waiting..."));
-        QTRY_VERIFY(!w.ctrl.isConverting());
+        waitForTheEnd(w);
         QCOMPARE(w.states(), QStringLiteral("000(1).pdf 001(1).pdf"));
     }
 
@@ -302,7 +321,7 @@ class ConvertingFilesTest : public QObject {
         w.press("m_btnCreate");
         QVERIFY(sheet->isVisible());
         QVERIFY(w.control<QWidget>("m_lbProgress")->isVisible());
-        QTRY_VERIFY(!w.ctrl.isConverting());
+        waitForTheEnd(w);
         QVERIFY(!sheet->isVisible());
         QVERIFY(!w.control<QWidget>("m_lbProgress")->isVisible());
         QVERIFY(!w.control<QWidget>("m_prgCreate")->isVisible());
@@ -327,7 +346,7 @@ class ConvertingFilesTest : public QObject {
         w.ctrl.clickMenuMoveDown();
         w.ctrl.addFiles({w.path(QStringLiteral("000.txt"))}, -1);
         w.ctrl.clickBtnCreate();
-        QTRY_VERIFY(!w.ctrl.isConverting());
+        waitForTheEnd(w);
         QCOMPARE(w.names(), QStringLiteral("000.txt 001.txt 002.txt"));
         QCOMPARE(w.ctrl.filesArray().selectedRows(), std::vector<int>{0});
         QCOMPARE(outNames(w), QStringLiteral("000.pdf 001.pdf 002.pdf"));
@@ -341,7 +360,7 @@ class ConvertingFilesTest : public QObject {
         w.press("m_btnCreate");
         w.control<QLineEdit>("m_tfTitle")->setText(QStringLiteral("after"));
         w.control<QCheckBox>("m_btnMerge")->setChecked(true);
-        QTRY_VERIFY(!w.ctrl.isConverting());
+        waitForTheEnd(w);
         QCOMPARE(outNames(w), QStringLiteral("000.pdf 001.pdf 002.pdf"));
         for (const char *name : {"000.pdf", "001.pdf", "002.pdf"}) {
             const PdfProbe pdf(outPath(w, QString::fromLatin1(name)));
@@ -433,7 +452,7 @@ class ConvertingFilesTest : public QObject {
         w.notifications.post(NotificationCenter::compressionCompleted());
         w.notifications.post(NotificationCenter::compressionCompleted());
         QVERIFY(w.ctrl.isConverting());
-        QTRY_VERIFY(!w.ctrl.isConverting());
+        waitForTheEnd(w);
         QCOMPARE(w.states(), QStringLiteral("000.pdf 001.pdf 002.pdf"));
     }
 
@@ -458,28 +477,15 @@ class ConvertingFilesTest : public QObject {
         QFETCH(const int, finishedBefore);
         constexpr int kFiles = 400;
         TestWindow w;
-        QSettings settings(w.path(QStringLiteral("other.ini")), QSettings::IniFormat);
-        settings.setValue(QStringLiteral("CustomizeOutputDir"), w.path(QStringLiteral("out")));
-        auto ctrl = std::make_unique<MainWndCtrl>(
-            Surroundings{settings, w.desktop, w.notices, w.notifications, w.home.path(),
-                         w.path(QStringLiteral("Folioforge.app"))});
-        QWidget *window = ctrl->window();
-        window->show();
         QStringList paths;
         for (int i = 0; i < kFiles; ++i) {
             paths += w.file(QStringLiteral("%1.txt").arg(i), QByteArray(4000, 'x'));
         }
+        auto ctrl = std::make_unique<MainWndCtrl>(w.surroundings());
+        ctrl->window()->show();
         ctrl->addFiles(paths, -1);
-        window->findChild<QCheckBox *>(QStringLiteral("m_btnMerge"))->setChecked(merge);
-
-        int finished = 0;
-        connect(&ctrl->filesArray(), &QAbstractItemModel::dataChanged, this, [&] {
-            finished =
-                ctrl->filesArray().at(finished).stateIndex() == Waiting ? finished : finished + 1;
-        });
-        ctrl->clickBtnCreate();
-        QTRY_VERIFY_WITH_TIMEOUT(finished >= finishedBefore, 60'000);
-        window->close();
+        controlOf<QCheckBox>(*ctrl->window(), "m_btnMerge").setChecked(merge);
+        closeDuringARun(*ctrl, finishedBefore);
         ctrl.reset();
 
         const QStringList names = outNames(w).split(u' ', Qt::SkipEmptyParts);

@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <utility>
+
 namespace {
 
 using namespace folioforge;
@@ -30,10 +32,10 @@ class StillDesktop : public Desktop {
 
 class Photographer {
   public:
-    Photographer(QMainWindow &window, const QString &folder, const QString &suffix)
+    Photographer(QMainWindow &window, QString folder, QString suffix)
         : m_window(window)
-        , m_folder(folder)
-        , m_suffix(suffix) {}
+        , m_folder(std::move(folder))
+        , m_suffix(std::move(suffix)) {}
 
     void take(const QString &name) {
         QTest::qWait(300); // The options panel slides open and shut.
