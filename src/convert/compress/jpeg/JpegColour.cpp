@@ -6,8 +6,10 @@ namespace {
 
 constexpr int kBits = 16;
 
+/// A factor in units of 2^-kBits, rounded.
 constexpr int fixed(double value) {
-    return static_cast<int>(value * (1 << kBits) + .5);
+    constexpr int kTwice = 2 << kBits;
+    return (static_cast<int>(value * kTwice) + 1) / 2;
 }
 
 /// `inversion` is 255 for inks and 0 for light.
