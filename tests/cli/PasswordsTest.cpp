@@ -19,6 +19,17 @@ namespace {
 const QString kProgram = QStringLiteral(FOLIOFORGE_CLI);
 const QByteArray kPassword = "correct horse battery";
 
+/// How large an image of its memory `process` may leave.
+QByteArray coreLimitOf(const QProcess &process) {
+    const QString limits = QStringLiteral("/proc/%1/limits").arg(process.processId());
+    for (const QByteArray &line : test::readFile(limits).split('\n')) {
+        if (line.startsWith("Max core file size")) {
+            return line.simplified().split(' ').at(4);
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 /// Passwords leave no trace, and those that no document can have are refused.
@@ -122,16 +133,7 @@ class PasswordsTest : public QObject {
         QVERIFY(process.waitForStarted());
         process.write(kPassword + '\n');
         QVERIFY(process.waitForBytesWritten());
-        const QString limits = QStringLiteral("/proc/%1/limits").arg(process.processId());
-        const auto softLimit = [&] {
-            for (const QByteArray &line : test::readFile(limits).split('\n')) {
-                if (line.startsWith("Max core file size")) {
-                    return line.simplified().split(' ').at(4);
-                }
-            }
-            return QByteArray();
-        };
-        QTRY_COMPARE(softLimit(), QByteArray("0")); // It waits for the second password.
+        QTRY_COMPARE(coreLimitOf(process), QByteArray("0")); // It waits for the second password.
         process.closeWriteChannel();
         QVERIFY(process.waitForFinished());
     }
