@@ -89,11 +89,24 @@ void requirePixelsInside(const FileView &file) {
     }
 }
 
+/// Qt prints a warning for each colour of a table that is too long.
+void requirePlausibleColors(const FileView &file) {
+    constexpr quint32 kNewHeader = 40;
+    constexpr int kMostTableBits = 8;
+    const QByteArray head = file.read(0, 54);
+    const int bits = littleEndianAt<quint16>(head, 28);
+    if (littleEndianAt<quint32>(head, 14) >= kNewHeader && bits <= kMostTableBits &&
+        littleEndianAt<quint32>(head, 46) > 1U << bits) {
+        throw Error(QStringLiteral("The bitmap has more colours than its pixels can name"));
+    }
+}
+
 EncodedImage encodeBitmap(const FileView &file) {
     constexpr qint64 kRunRatio = 2040; // A bit a pixel packed, or 255 pixels for two bytes.
     const ImageHeader header = readBitmapHeader(file);
     requirePlausible(qint64(header.width) * header.height, file.size(), kRunRatio);
     requirePixelsInside(file);
+    requirePlausibleColors(file);
     return encodeRaster(rasterOf(readWithQt(file, "bmp")));
 }
 
