@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QTimer>
 
+#include <algorithm>
 #include <filesystem>
 #include <iterator>
 
@@ -113,12 +114,19 @@ class LongRunsTest : public QObject {
         list.w.control<QCheckBox>("m_btnMerge")->setChecked(merge);
         list.w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(compression);
         // The first run fills what is kept on purpose, such as fonts.
-        const Holdings before = list.run();
-        const Holdings after = list.run();
-        QCOMPARE(list.written, merge ? 1 : kEntries);
-        QCOMPARE(after.handles, before.handles);
-        qInfo("the heap grew by %lld bytes", after.heap - before.heap);
-        QVERIFY(after.heap - before.heap < kAllowance);
+        Holdings before = list.run();
+        qint64 growth = kAllowance;
+        // A thread that is only just ending holds some kilobytes; what an entry leaves, every run
+        // adds to.
+        for (int i = 0; i < 3; ++i) {
+            const Holdings after = list.run();
+            QCOMPARE(list.written, merge ? 1 : kEntries);
+            QCOMPARE(after.handles, before.handles);
+            growth = std::min(growth, after.heap - before.heap);
+            before = after;
+        }
+        qInfo("the heap grew by %lld bytes", growth);
+        QVERIFY(growth < kAllowance);
     }
 };
 
