@@ -56,7 +56,7 @@ class CompressionCase {
             QTest::qFail(qPrintable(own.error), __FILE__, __LINE__);
             return {};
         }
-        const QString path = own.convertInfo->tempFilePathName;
+        QString path = own.convertInfo->tempFilePathName;
         if (outcome) {
             *outcome = std::move(own);
         }

@@ -174,7 +174,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         QTest::addColumn<QByteArray>("keys");
         QTest::addColumn<QByteArray>("data");
         QTest::addColumn<QString>("reason");
-        QByteArray drawing(1200 * 900 * 3, '\xff');
+        QByteArray drawing(qsizetype(1200) * 900 * 3, '\xff');
         for (int i = 0; i < drawing.size(); i += 90) {
             drawing[i] = 0;
         }
@@ -183,10 +183,10 @@ class CompressionPassTest : public QObject, protected CompressionCase {
             << flate(drawing) << QStringLiteral("line art");
         QTest::newRow("bilevel")
             << QByteArray("/ColorSpace /DeviceGray /BitsPerComponent 1 /Filter /FlateDecode")
-            << flate(QByteArray(150 * 900, '\x5a')) << QStringLiteral("bilevel");
+            << flate(QByteArray(qsizetype(150) * 900, '\x5a')) << QStringLiteral("bilevel");
         QTest::newRow("stencil") << QByteArray(
                                         "/ImageMask true /BitsPerComponent 1 /Filter /FlateDecode")
-                                 << flate(QByteArray(150 * 900, '\x5a'))
+                                 << flate(QByteArray(qsizetype(150) * 900, '\x5a'))
                                  << QStringLiteral("a mask");
         QTest::newRow("colour key") << kJpegRgb + " /Mask [0 1 0 1 0 1]" << jpeg(photo(1200, 900))
                                     << QStringLiteral("masked by colour");

@@ -153,7 +153,7 @@ class OutputFolderTest : public QObject {
         world.notices.setNextFiles({QStringLiteral("/nowhere/b")});
         world.notices.setNextFiles({good});
         press(ctrl, "m_btnBrowse");
-        QTRY_COMPARE(shownFolder(ctrl), good);
+        QVERIFY(QTest::qWaitFor([&] { return shownFolder(ctrl) == good; }));
         QCOMPARE(world.notices.filePanels().size(), std::size_t(3));
         QCOMPARE(world.notices.shown().size(), std::size_t(2));
         QCOMPARE(world.notices.shown().front().notice, notice(kNotWritable));
@@ -167,12 +167,12 @@ class OutputFolderTest : public QObject {
         world.notices.setNextFiles({QStringLiteral("/nowhere/a")});
         world.notices.setNextFiles({});
         press(ctrl, "m_btnBrowse");
-        QTRY_VERIFY(ctrl.window()->findChild<QMessageBox *>());
+        QVERIFY(QTest::qWaitFor([&] { return ctrl.window()->findChild<QMessageBox *>(); }));
         auto *box = ctrl.window()->findChild<QMessageBox *>();
         QCOMPARE(world.notices.filePanels().size(), std::size_t(1));
         const QSignalSpy gone(box, &QObject::destroyed);
         QTest::keyClick(box, Qt::Key_Return);
-        QTRY_COMPARE(world.notices.filePanels().size(), std::size_t(2));
+        QVERIFY(QTest::qWaitFor([&] { return world.notices.filePanels().size() == 2; }));
         QCOMPARE(shownFolder(ctrl), world.home.path());
     }
 

@@ -78,7 +78,7 @@ struct Window {
         QTest::mouseClick(window.windowHandle(), button, {},
                           table->viewport()->mapTo(&window, inViewport));
     }
-    void key(Qt::Key code, Qt::KeyboardModifiers modifiers = {}) {
+    void key(Qt::Key code, Qt::KeyboardModifiers modifiers = {}) const {
         QTest::keyClick(window.windowHandle(), code, modifiers);
     }
     void select(int first, int last) {

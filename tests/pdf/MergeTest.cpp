@@ -62,7 +62,7 @@ class MergeTest : public QObject {
     }
     /// The PDF of all of `sources`, which qpdf finds in order.
     QString merged(const QStringList &sources) {
-        const QString path = newPath();
+        QString path = newPath();
         PDFContext::Settings settings;
         settings.flush = Flush::Never;
         PDFContext context(path, std::move(settings));
