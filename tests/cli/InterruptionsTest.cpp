@@ -1,17 +1,17 @@
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
+#include "support/RunFolders.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
 
 #include <csignal>
-#include <memory>
+#include <optional>
 
 using namespace folioforge;
 using test::PdfProbe;
@@ -20,9 +20,9 @@ using test::PdfProbe;
 class InterruptionsTest : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<test::RunFolders> m_folders;
 
-    QString path(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
+    QString path(const char *name) const { return m_folders->path(name); }
     QStringList hiddenIn(const char *folder) const {
         return QDir(path(folder))
             .entryList({QStringLiteral(".*")},
@@ -54,17 +54,14 @@ class InterruptionsTest : public QObject {
 
   private Q_SLOTS:
     void init() {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir().mkpath(path("out")));
-        QVERIFY(QDir().mkpath(path("temporary")));
-        qputenv("TMPDIR", QFile::encodeName(path("temporary")));
+        m_folders.emplace();
         QImage photo = test::photo(1200, 900);
         constexpr int kDotsPerMeter = 23622; // 600 per inch
         photo.setDotsPerMeterX(kDotsPerMeter);
         photo.setDotsPerMeterY(kDotsPerMeter);
         QVERIFY(photo.save(path("photo.jpg"), "JPG", 95));
     }
-    void cleanup() { qunsetenv("TMPDIR"); }
+    void cleanup() { m_folders.reset(); }
 
     void atAnyMomentOnlyWholeDocumentsAreLeft_data() {
         QTest::addColumn<int>("signal");

@@ -1,14 +1,14 @@
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
+#include "support/RunFolders.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <memory>
+#include <optional>
 
 using namespace folioforge;
 using test::PdfProbe;
@@ -36,19 +36,14 @@ QByteArray coreLimitOf(const QProcess &process) {
 class PasswordsTest : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<test::RunFolders> m_folders;
 
-    QString path(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
+    QString path(const char *name) const { return m_folders->path(name); }
     QStringList outputArguments() const { return {QStringLiteral("--output-folder"), path("out")}; }
 
   private Q_SLOTS:
-    void init() {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir().mkpath(path("out")));
-        QVERIFY(QDir().mkpath(path("temporary")));
-        qputenv("TMPDIR", QFile::encodeName(path("temporary")));
-    }
-    void cleanup() { qunsetenv("TMPDIR"); }
+    void init() { m_folders.emplace(); }
+    void cleanup() { m_folders.reset(); }
 
     void neitherReportNorFilesHoldThePassword() {
         QVERIFY(test::photo(300, 200).save(path("photo.jpg"), "JPG", 95));
@@ -62,7 +57,7 @@ class PasswordsTest : public QObject {
         QCOMPARE(run.exitCode, 1);
         QVERIFY(PdfProbe(path("out/photo.pdf"), QString::fromLatin1(kPassword)).isValid());
         QVERIFY(!run.out.contains(kPassword) && !run.err.contains(kPassword));
-        QDirIterator files(m_folder->path(), QDir::Files | QDir::Hidden,
+        QDirIterator files(m_folders->path(), QDir::Files | QDir::Hidden,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
             QVERIFY(!test::readFile(files.next()).contains(kPassword));

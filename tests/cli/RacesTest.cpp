@@ -1,15 +1,15 @@
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
+#include "support/RunFolders.h"
 
 #include <QDir>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
 #include <array>
-#include <memory>
+#include <optional>
 
 using namespace folioforge;
 using test::PdfProbe;
@@ -44,9 +44,9 @@ std::vector<Ended> runAtOnce(const QStringList &arguments) {
 class RacesTest : public QObject {
     Q_OBJECT
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::optional<test::RunFolders> m_folders;
 
-    QString path(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
+    QString path(const char *name) const { return m_folders->path(name); }
     QStringList namesIn(const char *folder) const {
         return QDir(path(folder))
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
@@ -66,15 +66,10 @@ class RacesTest : public QObject {
 
   private Q_SLOTS:
     void initTestCase() { qputenv("SOURCE_DATE_EPOCH", "1700000000"); }
-    void init() {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir().mkpath(path("out")));
-        QVERIFY(QDir().mkpath(path("temporary")));
-        qputenv("TMPDIR", QFile::encodeName(path("temporary")));
-    }
+    void init() { m_folders.emplace(); }
     void cleanup() {
         QCOMPARE(namesIn("temporary"), QStringList());
-        qunsetenv("TMPDIR");
+        m_folders.reset();
     }
 
     void eachProcessKeepsEachOfItsPdfs() {
