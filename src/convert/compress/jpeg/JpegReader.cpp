@@ -1,11 +1,14 @@
 #include "convert/compress/jpeg/JpegReader.h"
 
+#include "convert/compress/jpeg/BlockTransform.h"
 #include "convert/compress/jpeg/JpegBands.h"
 #include "convert/compress/jpeg/JpegColour.h"
 #include "convert/compress/jpeg/JpegErrors.h"
+#include "convert/compress/jpeg/ReducedScan.h"
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace folioforge {
 
@@ -94,6 +97,11 @@ struct JpegReader::State {
     }
 
     PlanarImage decode(int eighths) {
+        if (eighths <= BlockTransform::kMostEighths) {
+            if (auto image = readReducedScan(codec, eighths)) {
+                return std::move(*image);
+            }
+        }
         if (!start(eighths)) {
             throw damagedJpeg(escape);
         }
