@@ -1,10 +1,11 @@
-# folioforge_room(NAME [WIDGETS] SOURCES ... LINKS ... PRIVATE_LINKS ...): the static library of one folder
-# of src/, named folioforge_NAME. Headers are included as "room/Header.h", and each room's include
+# folioforge_room(NAME [WIDGETS] SOURCES ... LINKS ... PRIVATE_LINKS ... HEADERS ...): the static
+# library of one folder of src/, named folioforge_NAME. Headers are included as "room/Header.h", and each room's include
 # path holds that room alone, so a room sees only the rooms it links to: an arrow that points the
 # wrong way does not compile. WIDGETS marks a room of the window: it links Qt Widgets and runs moc
-# and uic.
+# and uic. HEADERS are those outside the tree that take long and are included by many: where a preset
+# compiles headers ahead, see CMakePresets.json, they are compiled once for the room.
 function(folioforge_room name)
-    cmake_parse_arguments(ROOM "WIDGETS" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+    cmake_parse_arguments(ROOM "WIDGETS" "" "SOURCES;LINKS;PRIVATE_LINKS;HEADERS" ${ARGN})
     set(target folioforge_${name})
 
     set(view "${CMAKE_BINARY_DIR}/rooms/${name}")
@@ -16,11 +17,14 @@ function(folioforge_room name)
         if(ROOM_WIDGETS)
             set_target_properties(${target} PROPERTIES AUTOMOC ON AUTOUIC ON)
             target_link_libraries(${target} PUBLIC Qt6::Widgets)
+            list(APPEND ROOM_HEADERS <QApplication> <QWidget>)
         endif()
         target_include_directories(${target} PUBLIC "${view}")
         target_link_libraries(${target}
             PUBLIC ${ROOM_LINKS} Qt6::Core
             PRIVATE ${ROOM_PRIVATE_LINKS} folioforge_compiler)
+        target_precompile_headers(${target} PRIVATE
+            <QFile> <QString> <algorithm> <memory> <string> <vector> ${ROOM_HEADERS})
     else()
         add_library(${target} INTERFACE)
         target_include_directories(${target} INTERFACE "${view}")

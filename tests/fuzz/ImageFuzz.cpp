@@ -1,19 +1,38 @@
-// The readers of one image format, FOLIOFORGE_FUZZED_FORMAT, with any bytes: an image in order or a
-// reason, and not a word printed.
+// The readers of one image format with any bytes: an image in order or a reason, and not a word
+// printed.
 
 #include "FuzzSupport.h"
+#include "FuzzedFormat.h"
 #include "image/EncodedImage.h"
 #include "image/ImageHeader.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
 
 using namespace folioforge;
 using namespace folioforge::fuzz;
 
 namespace {
 
-constexpr ImageFormat kFormat = ImageFormat::FOLIOFORGE_FUZZED_FORMAT;
+constexpr std::array kFormats{
+    std::pair("bmp", ImageFormat::Bmp),           std::pair("exr", ImageFormat::Exr),
+    std::pair("gif", ImageFormat::Gif),           std::pair("icns", ImageFormat::Icns),
+    std::pair("ico", ImageFormat::Ico),           std::pair("jpeg", ImageFormat::Jpeg),
+    std::pair("jpeg2000", ImageFormat::Jpeg2000), std::pair("png", ImageFormat::Png),
+    std::pair("psd", ImageFormat::Psd),           std::pair("tga", ImageFormat::Tga),
+    std::pair("tiff", ImageFormat::Tiff)};
+
 constexpr qint64 kMostPixels = 1 << 22; // Enough to find faults, few enough to go on.
+
+ImageFormat fuzzedFormat() {
+    const auto found = std::ranges::find_if(kFormats, [](const auto &format) {
+        return format.first == std::string_view(kFuzzedExtension);
+    });
+    require(found != kFormats.end());
+    return found->second;
+}
 
 void requireInOrder(const EncodedImage &image, qint64 fileSize) {
     require(image.width > 0 && image.height > 0);
@@ -33,12 +52,13 @@ void requireInOrder(const EncodedImage &image, qint64 fileSize) {
 
 // NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    static const ImageFormat format = fuzzedFormat();
     refuseMessages();
     // The name decides where the bytes are not plain about their format.
-    const MemoryFile file(QStringLiteral(FOLIOFORGE_FUZZED_EXTENSION), {data, size});
+    const MemoryFile file(QString::fromLatin1(kFuzzedExtension), {data, size});
     refuses([&] {
         const ImageHeader header = readImageHeader(file.path());
-        if (header.format == kFormat && qint64(header.width) * header.height <= kMostPixels) {
+        if (header.format == format && qint64(header.width) * header.height <= kMostPixels) {
             requireInOrder(encodeImage(file.path()), static_cast<qint64>(size));
         }
     });

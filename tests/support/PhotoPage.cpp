@@ -2,26 +2,47 @@
 
 #include <QBuffer>
 
+#include <array>
 #include <cmath>
+#include <vector>
 
 namespace folioforge::test {
 
+namespace {
+
+/// The wave of one colour: a row and a column whose products are its values.
+struct Wave {
+    std::vector<double> row;
+    std::vector<double> column;
+
+    Wave(QSize size, double across, double down) {
+        for (int x = 0; x < size.width(); ++x) {
+            row.push_back(std::sin(x * across));
+        }
+        for (int y = 0; y < size.height(); ++y) {
+            column.push_back(std::cos(y * down));
+        }
+    }
+    [[nodiscard]] int at(std::size_t x, std::size_t y) const {
+        return static_cast<int>(128 + 90 * row[x] * column[y]);
+    }
+};
+
+} // namespace
+
 QImage photo(int width, int height, QImage::Format format) {
     QImage image(width, height, QImage::Format_RGB888);
+    const QSize size = image.size();
+    const std::array waves{Wave(size, .02, .03), Wave(size, .03, .01), Wave(size, .01, .02)};
     quint32 seed = 1;
     for (int y = 0; y < height; ++y) {
         uchar *pixel = image.scanLine(y);
         for (int x = 0; x < width; ++x) {
             seed = seed * 1664525 + 1013904223;
             const int grain = static_cast<int>(seed >> 28) - 8;
-            const auto wave = [&](double fx, double fy) {
-                return static_cast<uchar>(qBound(
-                    0, static_cast<int>(128 + 90 * std::sin(x * fx) * std::cos(y * fy)) + grain,
-                    255));
-            };
-            *pixel++ = wave(.02, .03);
-            *pixel++ = wave(.03, .01);
-            *pixel++ = wave(.01, .02);
+            for (const Wave &wave : waves) {
+                *pixel++ = static_cast<uchar>(qBound(0, wave.at(x, y) + grain, 255));
+            }
         }
     }
     return image.convertToFormat(format);
