@@ -42,9 +42,9 @@ QString TemporaryFolder::path() {
     if (!m_part) {
         removeAbandonedParts(m_parent);
         const std::string parent = QFile::encodeName(m_parent).toStdString();
-        constexpr int kAttempts = 16;
-        for (int attempt = 0; attempt < kAttempts && !make(partPath(parent, "folder"));) {
-            ++attempt;
+        int attempts = 16;
+        while (attempts > 0 && !make(partPath(parent, "folder"))) {
+            --attempts;
         }
     }
     return m_part ? QFile::decodeName(m_part->path().c_str()) : m_parent;

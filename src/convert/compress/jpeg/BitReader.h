@@ -16,13 +16,15 @@ class BitReader {
     explicit BitReader(const std::uint8_t *data)
         : m_next(data) {}
 
-    /// Sees to it that at least 56 bits can be looked at.
+    /// Sees to it that at least 56 bits can be looked at. Without a branch: bits below the count
+    /// are already the true next ones, so that the same ones may be put over them, and setting the
+    /// count's upper bits adds as many whole bytes as were taken.
     void fill() {
         m_bits |= qFromBigEndian<std::uint64_t>(m_next) >> m_count;
         m_next += (63 - m_count) >> 3;
         m_count |= 56;
     }
-    /// The next bits from the top; those after the ones that fill() gave are undefined.
+    /// The next bits from the top, as many as fill() gave and were not skipped since.
     [[nodiscard]] std::uint64_t bits() const { return m_bits; }
     void skip(int count) {
         m_bits <<= count;

@@ -23,7 +23,8 @@ float basis(std::size_t sample, std::size_t frequency, int points) {
 
 } // namespace
 
-BlockTransform::BlockTransform(const JQUANT_TBL &steps, int eighths) {
+BlockTransform::BlockTransform(const JQUANT_TBL &steps, int eighths)
+    : m_eighths(eighths) {
     // JPEG's coefficients belong to a basis whose first function is 1/8.
     constexpr float kScale = 1.0F / DCTSIZE;
     const auto points = static_cast<std::size_t>(eighths);
@@ -40,7 +41,8 @@ BlockTransform::BlockTransform(const JQUANT_TBL &steps, int eighths) {
 BlockTransform::Square BlockTransform::transformed(const Square &values) const {
     Square sums;
     for (std::size_t sample = 0; sample < kSide; ++sample) {
-        std::copy_n(values.begin(), kSide, sums.begin() + sample * kSide); // Its basis is 1.
+        // The lowest frequency counts alike for every sample.
+        std::copy_n(values.begin(), kSide, sums.begin() + sample * kSide);
         for (std::size_t frequency = 1; frequency < kSide; ++frequency) {
             for (std::size_t column = 0; column < kSide; ++column) {
                 sums[sample * kSide + column] +=

@@ -16,13 +16,14 @@ namespace folioforge {
 class BlockTransform {
   public:
     static constexpr int kMostEighths = 4;
-    /// Rows of kMostEighths samples; those beyond `eighths` mean nothing.
+    /// Rows of kMostEighths samples; those beyond eighths() mean nothing.
     using Samples = std::array<std::uint8_t, kMostEighths * kMostEighths>;
 
     /// Steps of quantization are 255 at most, as in all baseline files.
     static constexpr int kMostStep = 255;
 
     BlockTransform(const JQUANT_TBL &steps, int eighths);
+    [[nodiscard]] int eighths() const { return m_eighths; }
     [[nodiscard]] Samples samples(const CoefficientBlock &block) const;
 
   private:
@@ -30,6 +31,7 @@ class BlockTransform {
 
     [[nodiscard]] Square transformed(const Square &values) const;
 
+    int m_eighths;
     Square m_steps{}; ///< 0 for the frequencies left out.
     Square m_basis{}; ///< A row for each sample.
 };

@@ -11,6 +11,10 @@ constexpr int kSizeMask = 15; ///< The lower half of a symbol; the upper is the 
 constexpr unsigned kZerosRun = 15;
 constexpr unsigned kEndOfBlock = 128; ///< A run that leads beyond every block.
 
+/// What comes next where nothing does.
+constexpr unsigned kDone = DCTSIZE2;
+constexpr unsigned kWrong = DCTSIZE2 + 1;
+
 /// Where the coefficients of the zigzag sequence (ITU-T T.81, figure A.6) stand in a block; those
 /// beyond its end, in the place that nobody reads.
 constexpr auto kPlaces = [] {
@@ -46,7 +50,7 @@ CoefficientCode::CoefficientCode(HuffmanCode code)
 
 /// What the bits of `index` give; nothing where they do not hold the first coefficient to its end.
 CoefficientCode::Step CoefficientCode::stepFor(unsigned index) const {
-    constexpr int kLargestSize = 7; ///< Of values that fit into eight bits.
+    constexpr int kLargestSmall = 7; ///< The size of values that fit into eight bits.
     Step step;
     std::size_t found = 0;
     int used = 0;
@@ -56,7 +60,7 @@ CoefficientCode::Step CoefficientCode::stepFor(unsigned index) const {
         const HuffmanSymbol symbol = m_code.symbol(bits);
         const int size = symbol.value & kSizeMask;
         const unsigned run = runOf(symbol);
-        if (symbol.bits == 0 || used + symbol.bits + size > kStepBits || size > kLargestSize ||
+        if (symbol.bits == 0 || used + symbol.bits + size > kStepBits || size > kLargestSmall ||
             (size != 0 && found == step.coefficients.size()) ||
             (run < kEndOfBlock && next + run + 1 >= DCTSIZE2)) {
             break;
@@ -77,17 +81,17 @@ CoefficientCode::Step CoefficientCode::stepFor(unsigned index) const {
     return step;
 }
 
-/// Reads one coefficient; returns the number of the next one, 64 at the end of the block, more than
-/// that where something is wrong.
+/// Reads one coefficient and returns the number of the next, or kDone, or more where something is
+/// wrong.
 unsigned CoefficientCode::readOne(BitReader &in, unsigned next, CoefficientBlock &block) const {
     const HuffmanSymbol symbol = m_code.symbol(in.bits());
-    const unsigned place = next + runOf(symbol);
     if (symbol.bits == 0) {
-        return DCTSIZE2 + 1;
+        return kWrong;
     }
     in.skip(symbol.bits);
+    const unsigned place = next + runOf(symbol);
     if (place >= kEndOfBlock) {
-        return DCTSIZE2;
+        return kDone;
     }
     const int size = symbol.value & kSizeMask;
     block[kPlaces[place]] = static_cast<std::int16_t>(signedValue(in.bits(), size));
@@ -98,19 +102,18 @@ unsigned CoefficientCode::readOne(BitReader &in, unsigned next, CoefficientBlock
 bool CoefficientCode::read(BitReader &in, CoefficientBlock &block) const {
     constexpr int kStepsOfOneFill = 4;
     unsigned next = 1;
-    while (next < DCTSIZE2) {
+    while (next < kDone) {
         in.fill();
         for (int i = 0; i < kStepsOfOneFill; ++i) {
             const Step step = m_steps[in.bits() >> (64 - kStepBits)];
             // At the end of a block, what follows in the step may be the next block's.
-            if (next + step.advance >= DCTSIZE2) {
+            if (next + step.advance >= kDone) {
                 in.fill();
                 next = readOne(in, next, block);
                 break;
             }
             for (const Step::Coefficient &coefficient : step.coefficients) {
-                block[kPlaces[next + coefficient.offset]] =
-                    coefficient.value;
+                block[kPlaces[next + coefficient.offset]] = coefficient.value;
             }
             in.skip(step.bits);
             if (step.endsBlock) {
@@ -119,7 +122,7 @@ bool CoefficientCode::read(BitReader &in, CoefficientBlock &block) const {
             next += step.advance;
         }
     }
-    return next == DCTSIZE2;
+    return next == kDone;
 }
 
 } // namespace folioforge

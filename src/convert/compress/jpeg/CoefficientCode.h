@@ -20,9 +20,9 @@ class CoefficientCode {
     explicit CoefficientCode(HuffmanCode code);
 
     /// Reads the coefficients from the second on into `block`, whose other places must be 0. Fills
-    /// `source` as needed, takes 31 bits at most for each coefficient. False where a code is none
+    /// `in` as needed, takes 31 bits at most for each coefficient. False where a code is none
     /// or leads beyond the block.
-    bool read(BitReader &source, CoefficientBlock &block) const;
+    bool read(BitReader &in, CoefficientBlock &block) const;
 
   private:
     /// Coefficients that one look gives. There is room for three; those that are not there have a

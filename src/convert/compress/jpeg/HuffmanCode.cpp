@@ -1,25 +1,28 @@
 #include "convert/compress/jpeg/HuffmanCode.h"
 
 #include <algorithm>
-#include <numeric>
+#include <span>
 
 namespace folioforge {
 
-std::optional<HuffmanCode> HuffmanCode::of(const JHUFF_TBL *table) {
+std::optional<HuffmanCode> HuffmanCode::of(const JHUFF_TBL *table, int largest) {
     if (!table) {
         return std::nullopt;
     }
-    constexpr unsigned kMostValues = 256;
     unsigned room = 1;
-    unsigned count = 0;
+    std::size_t count = 0;
     for (int length = 1; length <= kLongestCode; ++length) {
-        if (table->bits[length] > 2 * room) {
+        if (table->bits[length] >= 2 * room) {
             return std::nullopt;
         }
         room = 2 * room - table->bits[length];
         count += table->bits[length];
     }
-    return count <= kMostValues ? std::optional(HuffmanCode(*table)) : std::nullopt;
+    const std::span values(table->huffval);
+    const bool isInOrder =
+        count <= values.size() &&
+        std::ranges::all_of(values.first(count), [&](int value) { return value <= largest; });
+    return isInOrder ? std::optional(HuffmanCode(*table)) : std::nullopt;
 }
 
 HuffmanCode::HuffmanCode(const JHUFF_TBL &table)

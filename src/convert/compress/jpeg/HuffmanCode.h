@@ -22,8 +22,11 @@ class HuffmanCode {
     /// Symbols of so many bits at most are found by one look.
     static constexpr int kShortBits = 11;
 
-    /// Nothing where there is no table or it has more codes than its lengths allow.
-    static std::optional<HuffmanCode> of(const JHUFF_TBL *table);
+    static constexpr int kLongestCode = 16;
+
+    /// Nothing where there is no table, where it has more codes than their lengths allow (one of
+    /// ones alone is never allowed) or a value above `largest`.
+    static std::optional<HuffmanCode> of(const JHUFF_TBL *table, int largest);
 
     /// The symbol whose code `bits` begin with at the top.
     [[nodiscard]] HuffmanSymbol symbol(std::uint64_t bits) const {
@@ -32,8 +35,6 @@ class HuffmanCode {
     }
 
   private:
-    static constexpr int kLongestCode = 16;
-
     explicit HuffmanCode(const JHUFF_TBL &table);
     [[nodiscard]] HuffmanSymbol longSymbol(std::uint64_t bits) const;
     void add(unsigned code, HuffmanSymbol symbol);
@@ -46,8 +47,13 @@ class HuffmanCode {
     std::array<unsigned, kLongestCode + 1> m_distance{};
 };
 
-/// The signed value that the `size` bits at the top of `bits` stand for (ITU-T T.81, F.2.2.1), for
-/// sizes of 0 to 15.
+/// Bits of a coefficient's value at most.
+constexpr int kLargestSize = 15;
+
+/// Bits that a coefficient takes at most: its code and its value.
+constexpr int kMostCoefficientBits = HuffmanCode::kLongestCode + kLargestSize;
+
+/// The signed value that the `size` bits at the top of `bits` stand for (ITU-T T.81, F.2.2.1).
 inline int signedValue(std::uint64_t bits, int size) {
     const int value = static_cast<int>(bits >> 1 >> (63 - size));
     const int ifNegative = ~static_cast<int>(static_cast<std::int64_t>(bits) >> 63);

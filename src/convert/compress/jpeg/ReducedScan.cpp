@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstring>
 #include <iterator>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -16,15 +17,17 @@ namespace folioforge {
 
 namespace {
 
-/// Blocks of a group at most (ITU-T T.81, B.2.3), and what their coefficients take, four bytes
-/// each.
+/// Blocks of a group at most (ITU-T T.81, B.2.3).
 constexpr std::size_t kMostBlocks = D_MAX_BLOCKS_IN_MCU;
-constexpr std::size_t kMostGroupBytes = kMostBlocks * DCTSIZE2 * 4;
 
-/// One component.
-struct Part {
-    HuffmanCode firstCode;       ///< Of the first coefficient of a block.
-    CoefficientCode furtherCode; ///< Of the others.
+/// What one group can take behind the end of the data before that is noticed.
+constexpr std::size_t kMostGroupBytes = kMostBlocks * DCTSIZE2 * kMostCoefficientBits / 8 + 1;
+
+/// A component of the picture, with the names that libjpeg has for its codes: DC for the first
+/// coefficient of a block, AC for the others.
+struct Component {
+    HuffmanCode dcCode;
+    CoefficientCode acCode;
     BlockTransform transform;
     std::size_t plane = 0;
     int columns = 1; ///< Blocks side by side in a group.
@@ -34,7 +37,7 @@ struct Part {
 
 /// The place of a block in a group, the blocks of all components that stand together (an MCU).
 struct BlockPlace {
-    std::size_t part = 0;
+    std::size_t component = 0;
     int column = 0;
     int row = 0;
 };
@@ -43,10 +46,25 @@ int quotientUp(long dividend, long divisor) {
     return static_cast<int>((dividend + divisor - 1) / divisor);
 }
 
+/// A component alone in its scan has groups of one block, whatever its sampling says.
+bool isAlone(const jpeg_decompress_struct &codec) {
+    return codec.comps_in_scan == 1;
+}
+
+bool isSampledAtHalfOrMore(const jpeg_decompress_struct &codec) {
+    const std::span components(codec.comp_info, static_cast<std::size_t>(codec.num_components));
+    return std::ranges::all_of(components, [&codec](const jpeg_component_info &info) {
+        return 2 * info.h_samp_factor >= codec.max_h_samp_factor &&
+               2 * info.v_samp_factor >= codec.max_v_samp_factor;
+    });
+}
+
+/// libjpeg has seen to it that the scan names no component twice.
 bool isCommon(const jpeg_decompress_struct &codec) {
     return !codec.progressive_mode && !codec.arith_code &&
            codec.data_precision == BITS_IN_JSAMPLE && codec.comps_in_scan == codec.num_components &&
-           codec.Ss == 0 && codec.Se == DCTSIZE2 - 1 && codec.Ah == 0 && codec.Al == 0;
+           codec.Ss == 0 && codec.Se == DCTSIZE2 - 1 && codec.Ah == 0 && codec.Al == 0 &&
+           isSampledAtHalfOrMore(codec);
 }
 
 /// The table of a component where it has one for baseline files.
@@ -58,25 +76,49 @@ const JQUANT_TBL *stepsOf(const jpeg_decompress_struct &codec, int number) {
     return isBaseline ? table : nullptr;
 }
 
-std::optional<Part> partOf(const jpeg_decompress_struct &codec, const jpeg_component_info &info,
-                           int eighths) {
+std::optional<Component> componentOf(const jpeg_decompress_struct &codec,
+                                     const jpeg_component_info &info, int eighths) {
+    constexpr int kAnyByte = 255;
     const JQUANT_TBL *steps = stepsOf(codec, info.quant_tbl_no);
     if (!steps || std::max(info.dc_tbl_no, info.ac_tbl_no) >= NUM_HUFF_TBLS) {
         return std::nullopt;
     }
-    auto firstCode = HuffmanCode::of(codec.dc_huff_tbl_ptrs[info.dc_tbl_no]);
-    auto furtherCode = HuffmanCode::of(codec.ac_huff_tbl_ptrs[info.ac_tbl_no]);
-    if (!firstCode || !furtherCode) {
+    auto dcCode = HuffmanCode::of(codec.dc_huff_tbl_ptrs[info.dc_tbl_no], kLargestSize);
+    auto acCode = HuffmanCode::of(codec.ac_huff_tbl_ptrs[info.ac_tbl_no], kAnyByte);
+    if (!dcCode || !acCode) {
         return std::nullopt;
     }
-    // A component alone in its scan has groups of one block, whatever its sampling says.
-    const bool isAlone = codec.comps_in_scan == 1;
-    return Part{std::move(*firstCode),
-                CoefficientCode(std::move(*furtherCode)),
-                BlockTransform(*steps, eighths),
-                static_cast<std::size_t>(info.component_index),
-                isAlone ? 1 : info.h_samp_factor,
-                isAlone ? 1 : info.v_samp_factor};
+    return Component{std::move(*dcCode),
+                     CoefficientCode(std::move(*acCode)),
+                     BlockTransform(*steps, eighths),
+                     static_cast<std::size_t>(info.component_index),
+                     isAlone(codec) ? 1 : info.h_samp_factor,
+                     isAlone(codec) ? 1 : info.v_samp_factor};
+}
+
+/// The components of the scan in its order; none where one of them is not common.
+std::vector<Component> componentsOf(const jpeg_decompress_struct &codec, int eighths) {
+    std::vector<Component> components;
+    for (int i = 0; i < codec.comps_in_scan; ++i) {
+        auto component = componentOf(codec, *codec.cur_comp_info[i], eighths);
+        if (!component) {
+            return {};
+        }
+        components.push_back(std::move(*component));
+    }
+    return components;
+}
+
+std::vector<BlockPlace> placesOf(const std::vector<Component> &components) {
+    std::vector<BlockPlace> places;
+    for (std::size_t i = 0; i < components.size(); ++i) {
+        for (int row = 0; row < components[i].rows; ++row) {
+            for (int column = 0; column < components[i].columns; ++column) {
+                places.push_back({i, column, row});
+            }
+        }
+    }
+    return places;
 }
 
 PlanarImage roomFor(const jpeg_decompress_struct &codec, int eighths) {
@@ -93,11 +135,15 @@ PlanarImage roomFor(const jpeg_decompress_struct &codec, int eighths) {
     return image;
 }
 
-/// Puts a block's samples into `plane` as far as they are not beyond its edges. Those too many at
-/// the right give way to the next block's.
-void put(const BlockTransform::Samples &samples, Plane &plane, int left, int top, int eighths) {
+/// Draws a block whose place among those of its component is (column, row), as far as it is not
+/// beyond the edges of `plane`. The samples too many at its right give way to the next block's.
+void draw(const CoefficientBlock &block, const BlockTransform &transform, int column, int row,
+          Plane &plane) {
     constexpr int kStride = BlockTransform::kMostEighths;
-    const int rows = std::min(eighths, plane.height() - top);
+    const BlockTransform::Samples samples = transform.samples(block);
+    const int left = column * transform.eighths();
+    const int top = row * transform.eighths();
+    const int rows = std::min(transform.eighths(), plane.height() - top);
     const int columns = std::min(kStride, plane.width() - left);
     for (int y = 0; y < rows && columns > 0; ++y) {
         const std::uint8_t *from = samples.data() + static_cast<std::ptrdiff_t>(y) * kStride;
@@ -111,70 +157,44 @@ void put(const BlockTransform::Samples &samples, Plane &plane, int left, int top
 
 class ScanReader {
   public:
-    ScanReader(const jpeg_decompress_struct &codec, int eighths)
-        : m_codec(codec)
-        , m_eighths(eighths)
-        , m_image(roomFor(codec, eighths)) {}
+    ScanReader(const jpeg_decompress_struct &codec, std::vector<Component> components)
+        : m_across(quotientUp(codec.image_width,
+                              DCTSIZE * (isAlone(codec) ? 1L : codec.max_h_samp_factor)))
+        , m_down(quotientUp(codec.image_height,
+                            DCTSIZE * (isAlone(codec) ? 1L : codec.max_v_samp_factor)))
+        , m_interval(static_cast<int>(codec.restart_interval))
+        , m_components(std::move(components))
+        , m_places(placesOf(m_components))
+        , m_blocks(m_places.size()) {}
 
-    std::optional<PlanarImage> read() {
-        if (!addParts()) {
-            return std::nullopt;
-        }
-        EntropyCoded coded({m_codec.src->next_input_byte, m_codec.src->bytes_in_buffer},
-                           kMostGroupBytes + BitReader::kPadding);
+    /// Reads the whole of `coded` into `image`. False where something is not in order.
+    bool read(EntropyCoded coded, PlanarImage &image) {
         const int groups = m_across * m_down;
-        const int interval =
-            m_codec.restart_interval != 0 ? static_cast<int>(m_codec.restart_interval) : groups;
+        const int interval = m_interval != 0 ? m_interval : groups;
         int restarts = 0;
         for (int first = 0; first < groups; first += interval) {
             const int end = std::min(groups, first + interval);
             const int marker = end == groups ? JPEG_EOI : JPEG_RST0 + restarts++ % 8;
-            if (!coded.next() || coded.marker() != marker || !readInterval(coded, first, end)) {
-                return std::nullopt;
+            if (!coded.next() || coded.marker() != marker ||
+                !readInterval(coded, first, end, image)) {
+                return false;
             }
         }
-        return std::move(m_image);
+        return true;
     }
 
   private:
-    bool addParts() {
-        int acrossOne = 1;
-        int downOne = 1;
-        for (int i = 0; i < m_codec.comps_in_scan; ++i) {
-            auto part = partOf(m_codec, *m_codec.cur_comp_info[i], m_eighths);
-            if (!part) {
-                return false;
-            }
-            acrossOne = std::max(acrossOne, part->columns);
-            downOne = std::max(downOne, part->rows);
-            addPlaces(*part);
-            m_parts.push_back(std::move(*part));
-        }
-        m_across = quotientUp(m_codec.image_width, long(acrossOne) * DCTSIZE);
-        m_down = quotientUp(m_codec.image_height, long(downOne) * DCTSIZE);
-        m_blocks.resize(m_places.size());
-        return m_places.size() <= kMostBlocks;
-    }
-
-    void addPlaces(const Part &part) {
-        for (int row = 0; row < part.rows; ++row) {
-            for (int column = 0; column < part.columns; ++column) {
-                m_places.push_back({m_parts.size(), column, row});
-            }
-        }
-    }
-
     /// Reads the groups from `first` up to `end`, which must take the interval to its last byte.
-    bool readInterval(const EntropyCoded &coded, int first, int end) {
+    bool readInterval(const EntropyCoded &coded, int first, int end, PlanarImage &image) {
         BitReader in(coded.begin());
-        for (Part &part : m_parts) {
-            part.predictor = 0;
+        for (Component &component : m_components) {
+            component.predictor = 0;
         }
         for (int group = first; group < end; ++group) {
             if (!readGroup(in) || in.position() > coded.end()) {
                 return false;
             }
-            drawGroup(group % m_across, group / m_across);
+            drawGroup(group % m_across, group / m_across, image);
         }
         return in.position() == coded.end();
     }
@@ -182,53 +202,61 @@ class ScanReader {
     bool readGroup(BitReader &in) {
         std::memset(m_blocks.data(), 0, m_blocks.size() * sizeof(CoefficientBlock));
         for (std::size_t i = 0; i < m_places.size(); ++i) {
-            if (!readBlock(in, m_parts[m_places[i].part], m_blocks[i])) {
+            if (!readBlock(in, m_components[m_places[i].component], m_blocks[i])) {
                 return false;
             }
         }
         return true;
     }
 
-    static bool readBlock(BitReader &in, Part &part, CoefficientBlock &block) {
-        constexpr int kLargestSize = 15;
+    static bool readBlock(BitReader &in, Component &component, CoefficientBlock &block) {
         in.fill();
-        const HuffmanSymbol size = part.firstCode.symbol(in.bits());
-        if (size.bits == 0 || size.value > kLargestSize) {
+        const HuffmanSymbol size = component.dcCode.symbol(in.bits());
+        if (size.bits == 0) {
             return false;
         }
         in.skip(size.bits);
-        block[0] = static_cast<std::int16_t>(part.predictor + signedValue(in.bits(), size.value));
-        part.predictor = block[0];
+        block[0] =
+            static_cast<std::int16_t>(component.predictor + signedValue(in.bits(), size.value));
+        component.predictor = block[0];
         in.skip(size.value);
-        return part.furtherCode.read(in, block);
+        return component.acCode.read(in, block);
     }
 
     /// Apart from readGroup(), as a processor waits where it reads at once, many bytes together,
     /// what it has just written one by one.
-    void drawGroup(int across, int down) {
+    void drawGroup(int across, int down, PlanarImage &image) {
         for (std::size_t i = 0; i < m_places.size(); ++i) {
-            const BlockPlace &place = m_places[i];
-            const Part &part = m_parts[place.part];
-            put(part.transform.samples(m_blocks[i]), m_image.planes[part.plane],
-                (across * part.columns + place.column) * m_eighths,
-                (down * part.rows + place.row) * m_eighths, m_eighths);
+            const Component &component = m_components[m_places[i].component];
+            draw(m_blocks[i], component.transform, across * component.columns + m_places[i].column,
+                 down * component.rows + m_places[i].row, image.planes[component.plane]);
         }
     }
 
-    const jpeg_decompress_struct &m_codec;
-    int m_eighths;
-    PlanarImage m_image;
-    std::vector<Part> m_parts;
+    int m_across; ///< Groups side by side.
+    int m_down;
+    int m_interval; ///< Groups between restarts; 0 for none.
+    std::vector<Component> m_components;
     std::vector<BlockPlace> m_places;
     std::vector<CoefficientBlock> m_blocks; ///< One for each place.
-    int m_across = 0;                       ///< Groups side by side.
-    int m_down = 0;
 };
 
 } // namespace
 
 std::optional<PlanarImage> readReducedScan(const jpeg_decompress_struct &codec, int eighths) {
-    return isCommon(codec) ? ScanReader(codec, eighths).read() : std::nullopt;
+    if (eighths > BlockTransform::kMostEighths || !isCommon(codec)) {
+        return std::nullopt;
+    }
+    std::vector<Component> components = componentsOf(codec, eighths);
+    if (components.empty() || placesOf(components).size() > kMostBlocks) {
+        return std::nullopt;
+    }
+    PlanarImage image = roomFor(codec, eighths);
+    ScanReader reader(codec, std::move(components));
+    const bool isWhole = reader.read({{codec.src->next_input_byte, codec.src->bytes_in_buffer},
+                                      kMostGroupBytes + BitReader::kPadding},
+                                     image);
+    return isWhole ? std::optional(std::move(image)) : std::nullopt;
 }
 
 } // namespace folioforge
