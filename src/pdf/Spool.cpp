@@ -54,10 +54,11 @@ void Spool::moveToFile(QByteArrayView data) {
     if (m_fd < 0) {
         openFile();
     }
+    // Where this fails half way, what it was to move must still be found in memory.
+    qint64 end = m_fileSize;
     while (!data.isEmpty()) {
         const ssize_t written = uninterrupted([&] {
-            return m_calls.pwrite(m_fd, data.data(), static_cast<std::size_t>(data.size()),
-                                  m_fileSize);
+            return m_calls.pwrite(m_fd, data.data(), static_cast<std::size_t>(data.size()), end);
         });
         if (written == 0) {
             errno = ENOSPC;
@@ -66,8 +67,9 @@ void Spool::moveToFile(QByteArrayView data) {
             fail(QStringLiteral("Cannot write a temporary file"));
         }
         data = data.sliced(written);
-        m_fileSize += written;
+        end += written;
     }
+    m_fileSize = end;
 }
 
 Spool::Place Spool::add(QByteArrayView data) {

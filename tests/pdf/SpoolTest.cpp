@@ -108,6 +108,24 @@ class SpoolTest : public QObject {
         qInfo("%d faults tried", tried);
     }
 
+    void whatWasKeptIsThereWhenTheDiskFillsUpHalfWay() {
+        test::FaultyCalls calls;
+        constexpr int kFirstWrite = 2; // After the file was made.
+        calls.fault = {kFirstWrite, ENOSPC, true, {}, true};
+        Spool spool(calls);
+        const auto first = spool.add(QByteArray(4 << 20, 'a'));
+        const auto second = spool.add(QByteArray(4 << 20, 'b'));
+        QVERIFY_THROWS_EXCEPTION(Error, spool.add(QByteArray(4 << 20, 'c')));
+        QCOMPARE(calls.count(), kFirstWrite + 1);
+        QVERIFY(spool.at(first) == QByteArray(4 << 20, 'a'));
+        QVERIFY(spool.at(second) == QByteArray(4 << 20, 'b'));
+        calls.fault = {};
+        const auto third = spool.add(QByteArray(4 << 20, 'd'));
+        QVERIFY(spool.at(first) == QByteArray(4 << 20, 'a'));
+        QVERIFY(spool.at(second) == QByteArray(4 << 20, 'b'));
+        QVERIFY(spool.at(third) == QByteArray(4 << 20, 'd'));
+    }
+
     void givesBackSmallAndHugePiecesInAnyOrder() {
         constexpr std::array<qsizetype, 5> kSizes{900, 300'000, 9 << 20, 0, 1};
         Spool spool;

@@ -19,6 +19,7 @@ class FaultyCalls final : public SystemCalls {
         int error = 0; ///< Its errno; 0 for a call that moves fewer bytes than it was asked to.
         bool lasting = false;        ///< All later calls fail too, as on a disk that was unplugged.
         std::function<void()> first; ///< Done before the call, which then does what it can.
+        bool filling = false;        ///< The call itself still moves some bytes.
     };
 
     std::map<std::string, int> failing; ///< The errno of calls that always fail, by name.
@@ -89,7 +90,7 @@ class FaultyCalls final : public SystemCalls {
             return false;
         }
         const bool fails = befalls && !fault.first;
-        m_isShort = fails && fault.error == 0;
+        m_isShort = fails && (fault.error == 0 || (fault.filling && m_count == fault.call));
         errno = fails ? fault.error : 0;
         return !fails || m_isShort;
     }
