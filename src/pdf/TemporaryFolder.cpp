@@ -61,9 +61,10 @@ bool TemporaryFolder::make(const std::string &path) {
         m_part = std::move(part);
         return true;
     }
-    // Another process took it for abandoned before it was locked.
-    if (fd >= 0) {
-        ::close(fd);
+    if (fd < 0) {
+        ::rmdir(path.c_str());
+    } else {
+        ::close(fd); // Another process took it for abandoned before it was locked.
     }
     return false;
 }

@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <cerrno>
@@ -236,6 +237,18 @@ class OutputFileTest : public QObject {
     void aTemporaryFolderThatCannotBeMadeIsItsParent() {
         TemporaryFolder folder(target(QStringLiteral("missing")));
         QCOMPARE(folder.path(), target(QStringLiteral("missing")));
+    }
+
+    void aTemporaryFolderThatCannotBeOpenedLeavesNothing() {
+        struct rlimit before {};
+        QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
+        const struct rlimit none { 0, before.rlim_max };
+        TemporaryFolder folder(m_folder->path());
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+        const QString path = folder.path();
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &before), 0);
+        QCOMPARE(path, m_folder->path());
+        QCOMPARE(names(), QStringList());
     }
 
     void anInterruptedProgramRemovesItsTemporaryFolder() {
