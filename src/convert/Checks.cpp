@@ -33,6 +33,17 @@ std::optional<Notice> checkPasswordsFit(const SecuritySettings &security) {
     return found ? std::optional(notice(*found + u'.')) : std::nullopt;
 }
 
+/// Passwords that differ as typed can be one in the document, where the user password would then
+/// lift every restriction.
+std::optional<Notice> checkPasswordsStayTwo(const SecuritySettings &security) {
+    const bool both = security.useUserPassword && security.useOwnerPassword;
+    if (both &&
+        preparedPassword(security.userPassword) == preparedPassword(security.ownerPassword)) {
+        return equalPasswordsNotice();
+    }
+    return std::nullopt;
+}
+
 std::optional<Notice> checkMergedFile(const ConversionOptions &options) {
     if (!options.merge) {
         return std::nullopt;
@@ -56,6 +67,9 @@ std::optional<Notice> checkConversion(const ConversionOptions &options) {
         return found;
     }
     if (auto found = checkPasswordsFit(options.security)) {
+        return found;
+    }
+    if (auto found = checkPasswordsStayTwo(options.security)) {
         return found;
     }
     if (auto found = checkTextPageSizeSettings(options.textPage)) {

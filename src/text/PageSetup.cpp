@@ -125,9 +125,13 @@ std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings) {
         return notice(QStringLiteral("Please input owner password."));
     }
     if (settings.useUserPassword && settings.userPassword == settings.ownerPassword) {
-        return notice(QStringLiteral("The passwords can not be the same."));
+        return equalPasswordsNotice();
     }
     return std::nullopt;
+}
+
+Notice equalPasswordsNotice() {
+    return notice(QStringLiteral("The passwords can not be the same."));
 }
 
 } // namespace folioforge

@@ -61,4 +61,7 @@ std::optional<Notice> checkImagePageSizeSettings(const PageSetup &setup);
 /// Nothing when the passwords are usable, else the one notice to show.
 std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings);
 
+/// The notice that both passwords are the same.
+Notice equalPasswordsNotice();
+
 } // namespace folioforge

@@ -94,6 +94,29 @@ class ChecksTest : public QObject {
         QVERIFY(messageOf(checkConversion(options)).startsWith(QStringLiteral("The password")));
     }
 
+    void passwordsThatBecomeOneInTheDocumentAreTheSame_data() {
+        QTest::addColumn<QString>("user");
+        QTest::addColumn<QString>("owner");
+        QTest::newRow("composed and decomposed")
+            << QStringLiteral("caf\u00E9") << QStringLiteral("cafe\u0301");
+        QTest::newRow("with a soft hyphen")
+            << QStringLiteral("sec\u00ADret") << QStringLiteral("secret");
+    }
+    void passwordsThatBecomeOneInTheDocumentAreTheSame() {
+        QFETCH(const QString, user);
+        QFETCH(const QString, owner);
+        ConversionOptions options = goodOptions();
+        options.security = {true, user, true, owner, false, false};
+        QCOMPARE(messageOf(checkConversion(options)),
+                 QStringLiteral("The passwords can not be the same."));
+    }
+
+    void passwordsThatStayTwoPass() {
+        ConversionOptions options = goodOptions();
+        options.security = {true, QStringLiteral("abc"), true, QStringLiteral("ABC"), false, false};
+        QVERIFY(!checkConversion(options));
+    }
+
     void anUnusedPasswordIsNotLookedAt() {
         ConversionOptions options = goodOptions();
         options.security.ownerPassword = QString(500, u'x');
