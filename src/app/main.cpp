@@ -1,4 +1,5 @@
 #include "app/FolioforgeAppDelegate.h"
+#include "convert/QuartzFilter.h"
 #include "mainwnd/Desktop.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
@@ -8,15 +9,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QSettings>
-
-namespace {
-
-/// The program lies in Contents/MacOS of the bundle, on every system.
-QString bundlePath() {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../.."));
-}
-
-} // namespace
 
 int main(int argc, char *argv[]) {
     using namespace folioforge;
@@ -33,7 +25,8 @@ int main(int argc, char *argv[]) {
     Notices notices;
     NotificationCenter notifications;
     FolioforgeAppDelegate delegate(
-        {settings, desktop, notices, notifications, QDir::homePath(), bundlePath()}, makeUpdater());
+        {settings, desktop, notices, notifications, QDir::homePath(), applicationBundlePath()},
+        makeUpdater());
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

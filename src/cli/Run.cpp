@@ -8,6 +8,7 @@
 #include "cli/Report.h"
 #include "convert/CompressionPass.h"
 #include "convert/Conversion.h"
+#include "convert/QuartzFilter.h"
 #include "error/Error.h"
 #include "filelist/SourceFiles.h"
 #include "pdf/PartFiles.h"
@@ -142,7 +143,7 @@ class Run {
     /// Where the pass fails, the PDF stays as it was and the exit status tells.
     CompressionOutcome compressWritten(const QString &path, ProgressLine &progress) {
         CompressionOutcome compression = compress(
-            path, m_options, CompressionPlaces::ofApplication(m_temporaryFolder.path()), &progress);
+            path, m_options, {applicationBundlePath(), m_temporaryFolder.path()}, &progress);
         if (compression.error.isEmpty()) {
             try {
                 putInPlace(*compression.convertInfo, m_options.flush, m_options.calls);

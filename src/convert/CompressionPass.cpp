@@ -14,8 +14,6 @@
 #include "pdf/Password.h"
 #include "pdf/QpdfBorder.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -153,11 +151,6 @@ std::unique_ptr<OutputFile> copyFor(const QString &destination, const QString &s
 }
 
 } // namespace
-
-CompressionPlaces CompressionPlaces::ofApplication(const QString &temporaryFolder) {
-    const QDir programs(QCoreApplication::applicationDirPath());
-    return {QDir::cleanPath(programs.filePath(QStringLiteral("../.."))), temporaryFolder};
-}
 
 CompressionOutcome compress(const QString &path, const ConversionOptions &options,
                             const CompressionPlaces &places, ConversionObserver *observer) {

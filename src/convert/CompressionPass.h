@@ -42,9 +42,6 @@ struct CompressionOutcome {
 struct CompressionPlaces {
     QString bundlePath;      ///< Holds Contents/Resources with the filter files.
     QString temporaryFolder; ///< Gets the compressed copy.
-
-    /// The running application's bundle, and a folder for the copy.
-    static CompressionPlaces ofApplication(const QString &temporaryFolder);
 };
 
 /// Rewrites the finished PDF at `path` into the temporary folder through the filter of

@@ -11,8 +11,8 @@ class NotificationCenter : public QObject {
     Q_OBJECT
 
   public:
-    /// Posted for each page that the compression pass writes; its index, counted from 0, stands
-    /// under pageIndexKey().
+    /// Says that a page was written; its index, counted from 0, stands under pageIndexKey(). A way
+    /// in for other senders: the compression pass here tells its observer.
     static QString didEndPageWrite() {
         return QStringLiteral("PDFDocumentDidEndPageWriteNotification");
     }
