@@ -170,13 +170,20 @@ class Run {
             result.embedded = entry.embeddedAs;
         } else {
             result.state = InputResult::State::Failed;
-            if (entry.written && result.message.isEmpty()) {
-                result.message = close.status == CloseResult::Status::NameTaken
-                                     ? nameExistsNotice().message
-                                     : close.reason;
+            if (entry.written) {
+                result.message = afterWarning(entry.message, reasonOf(close));
             }
         }
         return result;
+    }
+
+    static QString reasonOf(const CloseResult &close) {
+        return close.status == CloseResult::Status::NameTaken ? nameExistsNotice().message
+                                                              : close.reason;
+    }
+
+    static QString afterWarning(const QString &warning, const QString &reason) {
+        return warning.isEmpty() ? reason : warning + QStringLiteral(". ") + reason;
     }
 
     void report(const InputResult &result) {

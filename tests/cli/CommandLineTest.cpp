@@ -272,6 +272,19 @@ class CommandLineTest : public QObject {
         QCOMPARE(PdfProbe(path("out/a.pdf")).pageCount(), 1);
     }
 
+    void aFailureIsSaidBesideAWarning() {
+        const QString script =
+            QStringLiteral("trap '' XFSZ; ulimit -f 0; exec \"$0\" --json --merge \"$1\" \"$2\"");
+        const ToolRun run =
+            test::runTool(QStringLiteral("sh"), {QStringLiteral("-c"), script, kProgram,
+                                                 path("out/all"), text("a.txt", "caf\xE9")});
+        QCOMPARE(run.exitCode, 1);
+        const QString message = member(objectsOf(run.out).value(0), "message");
+        QVERIFY2(message.contains(QStringLiteral("not valid UTF-8")), qPrintable(message));
+        QVERIFY2(message.contains(QStringLiteral("File too large")), qPrintable(message));
+        QVERIFY2(run.err.contains(message.toUtf8()), run.err.constData());
+    }
+
     void nothingToConvertIsAFailure() {
         QCOMPARE(convert({path("missing.txt")}).exitCode, 1);
         QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("empty")));
