@@ -8,19 +8,26 @@
 namespace folioforge {
 namespace {
 
-void write(std::FILE *stream, const QByteArray &bytes) {
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+bool write(std::FILE *stream, const QByteArray &bytes) {
+    const auto size = static_cast<std::size_t>(bytes.size());
+    return std::fwrite(bytes.constData(), 1, size, stream) == size;
 }
 
 } // namespace
 
 void Console::result(const QByteArray &line) {
     eraseProgress();
-    write(stdout, line + '\n');
     // A reader that went away has what it wanted; the documents are written all the same.
-    if (std::fflush(stdout) != 0 && errno != EPIPE) {
+    if ((!write(stdout, line + '\n') || std::fflush(stdout) != 0) && errno != EPIPE) {
         m_resultsArrived = false;
     }
+}
+
+bool Console::finishResults() {
+    if (!m_resultsArrived) {
+        complain(QStringLiteral("Standard output cannot be written"));
+    }
+    return m_resultsArrived;
 }
 
 void Console::complain(const QString &message) {

@@ -17,8 +17,9 @@ class Console {
     void addLine(const QString &line);
     /// Replaces the progress line; an empty text takes it away.
     void showProgress(const QString &text);
-    /// Whether everything given to result() has arrived.
-    [[nodiscard]] bool resultsArrived() const { return m_resultsArrived; }
+    /// Whether everything given to result() has arrived, or its reader went away; complains of a
+    /// loss.
+    [[nodiscard]] bool finishResults();
 
   private:
     void eraseProgress();

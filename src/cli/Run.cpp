@@ -31,25 +31,9 @@ class Run {
     ExitStatus convertAll() {
         removeAbandonedParts(m_options.outputFolder);
         collect();
-        if (m_inputs.empty()) {
-            if (!m_someFailed) {
-                m_console.complain(QStringLiteral("There is no file to convert"));
-            }
-            return SomeFailed;
-        }
-        ProgressLine progress(m_console,
-                              m_arguments.quiet ? ProgressMode::Never : m_arguments.progress,
-                              namesOfInputs());
-        const bool done = m_options.merge ? mergeInto(progress) : convertEach(progress);
-        progress.finish();
-        if (!done) {
-            return WrongUsage;
-        }
-        if (!m_console.resultsArrived()) {
-            m_console.complain(QStringLiteral("Standard output cannot be written"));
-            m_someFailed = true;
-        }
-        return m_someFailed ? SomeFailed : AllConverted;
+        const ExitStatus status = m_inputs.empty() ? complainOfNoInput() : convertInputs();
+        const bool arrived = m_console.finishResults();
+        return status == AllConverted && !arrived ? SomeFailed : status;
     }
 
   private:
@@ -75,6 +59,25 @@ class Run {
         if (m_arguments.sort) {
             sortInputs(m_inputs, *m_arguments.sort);
         }
+    }
+
+    ExitStatus complainOfNoInput() {
+        if (!m_someFailed) {
+            m_console.complain(QStringLiteral("There is no file to convert"));
+        }
+        return SomeFailed;
+    }
+
+    ExitStatus convertInputs() {
+        ProgressLine progress(m_console,
+                              m_arguments.quiet ? ProgressMode::Never : m_arguments.progress,
+                              namesOfInputs());
+        const bool done = m_options.merge ? mergeInto(progress) : convertEach(progress);
+        progress.finish();
+        if (!done) {
+            return WrongUsage;
+        }
+        return m_someFailed ? SomeFailed : AllConverted;
     }
 
     void complainOfRefused(const Notice &notice) {

@@ -13,6 +13,11 @@ using namespace folioforge;
 
 namespace {
 
+int show(Console &console, const QByteArray &text) {
+    console.result(text);
+    return console.finishResults() ? AllConverted : SomeFailed;
+}
+
 int run(int argc, char *argv[]) {
     useUtf8FileNames();
     const std::vector<QByteArray> words(argv + 1, argv + argc);
@@ -26,11 +31,9 @@ int run(int argc, char *argv[]) {
     const auto &arguments = std::get<Arguments>(parsed);
     switch (arguments.request) {
     case Request::ShowVersion:
-        console.result("folioforge-cli " FOLIOFORGE_VERSION);
-        return AllConverted;
+        return show(console, "folioforge-cli " FOLIOFORGE_VERSION);
     case Request::ShowHelp:
-        console.result(helpText());
-        return AllConverted;
+        return show(console, helpText());
     case Request::Convert:
         break;
     }

@@ -81,6 +81,28 @@ class CommandLineTest : public QObject {
         QVERIFY(help.err.isEmpty());
     }
 
+    void resultsThatCannotBeWrittenAreAFailure_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("version") << QStringList{QStringLiteral("--version")};
+        QTest::newRow("help") << QStringList{QStringLiteral("--help")};
+        QTest::newRow("names of documents") << QStringList{QStringLiteral("a.txt")};
+        // Longer than any buffer, so that nothing is left to flush.
+        QTest::newRow("a long line")
+            << QStringList{QStringLiteral("--json"), QString(100'000, u'x')};
+    }
+    void resultsThatCannotBeWrittenAreAFailure() {
+        QFETCH(const QStringList, arguments);
+        text("a.txt");
+        QProcess process;
+        process.setWorkingDirectory(m_folder->path());
+        process.setStandardOutputFile(QStringLiteral("/dev/full"));
+        process.start(kProgram, arguments);
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 1);
+        QVERIFY(process.readAllStandardError().contains("Standard output cannot be written"));
+    }
+
     void eachInputBecomesAPdf() {
         const ToolRun run = convert({text("a.txt"), test::writePng(path("b.png"), 30, 20),
                                      test::writePdf(path("c.pdf"), 3)});
