@@ -2,26 +2,13 @@
 
 #include "filelist/FileKind.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace folioforge {
 namespace {
 
-/// Longest file name in bytes on the file systems in use (NAME_MAX).
-constexpr qsizetype kLongestName = 255;
-
 QString join(const QString &folder, const QString &name) {
     return folder + u'/' + name;
-}
-
-/// `base` followed by `ending`, whole characters of the base cut off where the name is too long.
-QString fittingName(QString base, const QString &ending) {
-    while (!base.isEmpty() && QFile::encodeName(base + ending).size() > kLongestName) {
-        const bool pair = base.size() > 1 && base.back().isLowSurrogate();
-        base.chop(pair ? 2 : 1);
-    }
-    return base + ending;
 }
 
 } // namespace

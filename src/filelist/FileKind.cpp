@@ -1,5 +1,7 @@
 #include "filelist/FileKind.h"
 
+#include <QFile>
+
 #include <array>
 
 namespace folioforge {
@@ -49,6 +51,20 @@ QString withoutExtension(const QString &path) {
         return path;
     }
     return path.first(path.lastIndexOf(u'.'));
+}
+
+QString fittingName(QString base, const QString &ending) {
+    constexpr qsizetype kLongestName = 255; // Bytes, NAME_MAX.
+    while (!base.isEmpty() && QFile::encodeName(base + ending).size() > kLongestName) {
+        const bool pair = base.size() > 1 && base.back().isLowSurrogate();
+        base.chop(pair ? 2 : 1);
+    }
+    return base + ending;
+}
+
+QString fittingName(const QString &name) {
+    const QString base = withoutExtension(name);
+    return fittingName(base, name.sliced(base.size()));
 }
 
 QString lastPathComponent(const QString &path) {

@@ -19,7 +19,7 @@ QString StandIns::pathFor(const QByteArray &path) {
     }
     // A folder for each, so that the link can bear the file's own name.
     const QString folder = m_folder.path() + u'/' + QString::number(m_count++);
-    const QString link = folder + u'/' + lastPathComponent(readable);
+    const QString link = folder + u'/' + fittingName(lastPathComponent(readable));
     std::error_code failure;
     const auto target = std::filesystem::absolute(path.toStdString(), failure);
     if (failure || !QDir().mkpath(folder)) {

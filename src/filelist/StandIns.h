@@ -15,8 +15,9 @@ class StandIns {
     explicit StandIns(TemporaryFolder &folder)
         : m_folder(folder) {}
 
-    /// A path in text that leads to `path`: the same path where its bytes are valid UTF-8. A file
-    /// for which no link can be made gets the readable form of its path, which does not exist.
+    /// A path in text that leads to `path`: the same path where its bytes are valid UTF-8. A link's
+    /// name is cut where the readable form has no room. A file for which no link can be made gets
+    /// the readable form of its path, which does not exist.
     QString pathFor(const QByteArray &path);
 
     /// The same for readable forms of paths, as file panels and drops give them: where nothing

@@ -98,6 +98,19 @@ class NamesTest : public QObject {
         QVERIFY(outputs().isEmpty());
     }
 
+    void aNameThatIsLongerOnceReadableIsCut() {
+        // In KOI8-R; each byte that is no text becomes three.
+        test::writeFileNamed(QFile::encodeName(path("in")) + '/' +
+                                 QByteArray("\xcb").repeated(120) + ".TXT",
+                             "words");
+        const ToolRun run = convert({path("in")});
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+        const QString kept = QString((255 - 4) / 3, QChar::ReplacementCharacter);
+        QCOMPARE(outputs(), QStringList{kept + QStringLiteral(".pdf")});
+        QCOMPARE(PdfProbe(path("out/") + outputs().first()).text().trimmed(),
+                 QStringLiteral("words"));
+    }
+
     void aWrongArgumentIsRepeatedHarmlessly() {
         for (const QByteArray &name : test::hostileNames()) {
             const QString argument = QString::fromUtf8(name);
