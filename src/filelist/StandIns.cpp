@@ -4,29 +4,54 @@
 #include "pdf/TemporaryFolder.h"
 #include "text/TextDecoder.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <filesystem>
 
 namespace folioforge {
+
+StandIns::~StandIns() {
+    for (const PartFile &part : m_parts) {
+        std::error_code failure;
+        std::filesystem::remove(part.path(), failure);
+    }
+}
 
 QString StandIns::pathFor(const QByteArray &path) {
     QString readable = QString::fromUtf8(path);
     if (!decodeText(path).isNull()) {
         return readable;
     }
+    std::error_code failure;
+    const auto target = std::filesystem::absolute(path.toStdString(), failure);
     // A folder for each, so that the link can bear the file's own name.
     const QString folder = m_folder.path() + u'/' + QString::number(m_count++);
     const QString link = folder + u'/' + fittingName(lastPathComponent(readable));
-    std::error_code failure;
-    const auto target = std::filesystem::absolute(path.toStdString(), failure);
-    if (failure || !QDir().mkpath(folder)) {
-        return readable;
+    const bool made = !failure && makeFolder(folder) && makeLink(link, target);
+    return made ? link : readable;
+}
+
+// The path is known to a signal handler before there is anything to remove.
+
+bool StandIns::makeFolder(const QString &path) {
+    const PartFile &part = m_parts.emplace_front(QFile::encodeName(path).toStdString());
+    return keepIf(::mkdir(part.path().c_str(), S_IRWXU) == 0);
+}
+
+bool StandIns::makeLink(const QString &path, const std::string &target) {
+    const PartFile &part = m_parts.emplace_front(QFile::encodeName(path).toStdString());
+    return keepIf(::symlink(target.c_str(), part.path().c_str()) == 0);
+}
+
+bool StandIns::keepIf(bool made) {
+    if (!made) {
+        m_parts.pop_front();
     }
-    std::filesystem::create_symlink(target, QFile::encodeName(link).toStdString(), failure);
-    return failure ? readable : link;
+    return made;
 }
 
 QString StandIns::pathForReadable(const QString &path) {

@@ -8,10 +8,11 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <atomic>
 #include <cerrno>
 #include <filesystem>
+#include <mutex>
+#include <string_view>
 #include <utility>
 
 namespace folioforge {
@@ -20,10 +21,11 @@ namespace {
 
 constexpr std::string_view kEnding = ".folioforge-part";
 
-// One file is written at a time; the room to spare is for programs that run several engines. A
-// signal handler may only touch lock-free atomics, so this cannot be a container.
-std::array<std::atomic<const char *>, 16> partPaths{};
-static_assert(std::atomic<const char *>::is_always_lock_free);
+// The parts of this process, the newest first. Writers take turns; a signal handler, which may wait
+// for nobody, finds the list whole at any moment.
+std::atomic<PartFile *> newestPart{nullptr};
+static_assert(std::atomic<PartFile *>::is_always_lock_free);
+std::mutex turnToWrite;
 
 bool isPartName(const std::string &name) {
     return name.starts_with('.') && name.ends_with(kEnding);
@@ -97,31 +99,25 @@ void removeAbandonedParts(const QString &folder) {
 
 PartFile::PartFile(std::string path)
     : m_path(std::move(path)) {
-    for (auto &slot : partPaths) {
-        const char *expected = nullptr;
-        if (slot.compare_exchange_strong(expected, m_path.c_str())) {
-            return;
-        }
-    }
+    const std::scoped_lock turn(turnToWrite);
+    m_older = newestPart.load();
+    newestPart = this;
 }
 
 PartFile::~PartFile() {
-    for (auto &slot : partPaths) {
-        const char *expected = m_path.c_str();
-        if (slot.compare_exchange_strong(expected, nullptr)) {
-            return;
-        }
+    const std::scoped_lock turn(turnToWrite);
+    std::atomic<PartFile *> *place = &newestPart;
+    while (*place != this) {
+        place = &place->load()->m_older;
     }
+    *place = m_older.load();
 }
 
 void removePartFiles() noexcept {
-    for (auto &slot : partPaths) {
-        if (const char *path = slot.load()) {
-            ::unlink(path);
-        }
-    }
-    for (auto &slot : partPaths) {
-        if (const char *path = slot.load()) {
+    // What a folder holds is newer than the folder, which is empty when its turn comes.
+    for (const PartFile *part = newestPart; part; part = part->m_older) {
+        const char *path = part->m_path.c_str();
+        if (::unlink(path) != 0) {
             ::rmdir(path);
         }
     }

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <atomic>
 #include <string>
 
 namespace folioforge {
@@ -37,7 +38,10 @@ class PartFile {
     [[nodiscard]] const std::string &path() const { return m_path; }
 
   private:
+    friend void removePartFiles() noexcept;
+
     std::string m_path;
+    std::atomic<PartFile *> m_older{nullptr}; ///< The one registered before, of those that live.
 };
 
 /// Removes every part of this process, folders as far as they are empty then. Safe to call in a

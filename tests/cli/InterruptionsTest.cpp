@@ -1,4 +1,5 @@
 #include "support/Files.h"
+#include "support/HostileNames.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
 #include "support/RunFolders.h"
@@ -9,6 +10,8 @@
 #include <QRandomGenerator>
 #include <QTest>
 #include <QThread>
+
+#include <unistd.h>
 
 #include <csignal>
 #include <optional>
@@ -28,13 +31,15 @@ class InterruptionsTest : public QObject {
             .entryList({QStringLiteral(".*")},
                        QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
+    /// A file whose name no text can hold; a link in the temporary folder stands for it.
+    QByteArray notText() const { return QFile::encodeName(path("in")) + "/caf\xe9.jpg"; }
     QStringList arguments() const {
         return {QStringLiteral("--output-folder"),
                 path("out"),
                 QStringLiteral("--compress"),
                 QStringLiteral("72l"),
                 path("photo.jpg"),
-                path("photo.jpg")};
+                path("in")};
     }
     /// Milliseconds of a whole run.
     int wholeRun() const {
@@ -60,8 +65,13 @@ class InterruptionsTest : public QObject {
         photo.setDotsPerMeterX(kDotsPerMeter);
         photo.setDotsPerMeterY(kDotsPerMeter);
         QVERIFY(photo.save(path("photo.jpg"), "JPG", 95));
+        QVERIFY(QDir().mkpath(path("in")));
+        test::writeFileNamed(notText(), test::readFile(path("photo.jpg")));
     }
-    void cleanup() { m_folders.reset(); }
+    void cleanup() {
+        QCOMPARE(::unlink(notText().constData()), 0);
+        m_folders.reset();
+    }
 
     void atAnyMomentOnlyWholeDocumentsAreLeft_data() {
         QTest::addColumn<int>("signal");

@@ -1,10 +1,12 @@
 #include "filelist/SourceFiles.h"
 
 #include "filelist/StandIns.h"
+#include "pdf/PartFiles.h"
 #include "pdf/TemporaryFolder.h"
 #include "support/Files.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -69,6 +71,27 @@ class SourceFilesTest : public QObject {
         addDirectorie(test::writeFile(folder.filePath(QStringLiteral("file")), "x"), files,
                       m_standIns);
         QVERIFY(files.isEmpty());
+    }
+
+    void anInterruptedProgramRemovesEveryStandIn() {
+        const QTemporaryDir parent;
+        TemporaryFolder folder(parent.path());
+        StandIns standIns(folder);
+        for (int i = 0; i < 100; ++i) {
+            const QString link = standIns.pathFor(QByteArray::number(i) + "\xe9.txt");
+            QVERIFY2(QFileInfo(link).isSymLink(), qPrintable(link));
+        }
+        removePartFiles();
+        QVERIFY(
+            QDir(parent.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    }
+
+    void standInsGoWithTheirObject() {
+        const QTemporaryDir parent;
+        TemporaryFolder folder(parent.path());
+        const QString link = StandIns(folder).pathFor("caf\xe9.txt");
+        QVERIFY(link.startsWith(folder.path()));
+        QVERIFY(QDir(folder.path()).isEmpty());
     }
 
     void sizesAreRoundedUpToBlocks_data() {
