@@ -6,7 +6,7 @@ QByteArray helpText() {
     return R"(Usage: folioforge-cli [options] FILE|FOLDER...
 
 Turns text files, pictures and PDFs into PDF documents, one for each or all in one.
-Of a folder its text files and pictures are taken, one level deep.
+Of a folder its text files and pictures are taken, one level deep, ordered by name.
 
 Output
   --output-folder DIR          a PDF for each input, here (default: the current folder)

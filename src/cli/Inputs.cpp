@@ -5,6 +5,7 @@
 #include "filelist/SourceFiles.h"
 #include "filelist/TextSource.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <new>
 
@@ -49,19 +50,36 @@ QByteArray withoutSlashesAtEnd(QByteArray path) {
     return path;
 }
 
+/// The order of the names is the same on every file system.
+std::vector<QByteArray> sortedNames(const QByteArray &folder) {
+    std::vector<QByteArray> names = recognisedNames(folder);
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+void collectFolder(const QByteArray &path, StandIns &standIns, std::vector<Input> &inputs) {
+    const QByteArray folder = withoutSlashesAtEnd(path);
+    try {
+        for (const QByteArray &name : sortedNames(folder)) {
+            inputs.push_back(collectFile(folder + '/' + name, standIns));
+        }
+    } catch (const Error &error) {
+        Input &input = inputs.emplace_back();
+        input.shown = QString::fromUtf8(path);
+        input.rejection = error.reason();
+    }
+}
+
 } // namespace
 
 std::vector<Input> collectInputs(std::span<const QByteArray> paths, StandIns &standIns) {
     std::vector<Input> inputs;
     for (const QByteArray &path : paths) {
         std::error_code unknown;
-        if (!std::filesystem::is_directory(path.toStdString(), unknown)) {
+        if (std::filesystem::is_directory(path.toStdString(), unknown)) {
+            collectFolder(path, standIns, inputs);
+        } else {
             inputs.push_back(collectFile(path, standIns));
-            continue;
-        }
-        const QByteArray folder = withoutSlashesAtEnd(path);
-        for (const QByteArray &name : recognisedNames(folder)) {
-            inputs.push_back(collectFile(folder + '/' + name, standIns));
         }
     }
     return inputs;

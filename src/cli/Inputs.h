@@ -21,8 +21,9 @@ struct Input {
     bool refusedPdf = false; ///< Rejected as a PDF that is encrypted or no normal one.
 };
 
-/// The inputs that `paths` name, in that order. A folder stands for its text and image files. A
-/// file that is missing, of no recognised type or unreadable is rejected with its reason.
+/// The inputs that `paths` name, in that order. A folder stands for its text and image files in
+/// the order of their names' bytes. A file that is missing, of no recognised type or unreadable,
+/// and a folder that cannot be listed, is rejected with its reason.
 std::vector<Input> collectInputs(std::span<const QByteArray> paths, StandIns &standIns);
 
 /// Brings the inputs into `order`.

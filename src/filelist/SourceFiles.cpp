@@ -7,7 +7,7 @@
 #include <QFile>
 
 #include <filesystem>
-#include <limits>
+#include <system_error>
 
 namespace folioforge {
 namespace {
@@ -31,13 +31,21 @@ std::vector<QByteArray> recognisedNames(const QByteArray &folder) {
         }
         entry.increment(failure);
     }
+    if (failure) {
+        throw Error(QStringLiteral("The folder cannot be listed: %1")
+                        .arg(QString::fromLocal8Bit(failure.message().c_str())));
+    }
     return names;
 }
 
 void addDirectorie(const QString &folder, QStringList &files, StandIns &standIns) {
     const QByteArray place = QFile::encodeName(folder);
-    for (const QByteArray &name : recognisedNames(place)) {
-        files += standIns.pathFor(place + '/' + name);
+    try {
+        for (const QByteArray &name : recognisedNames(place)) {
+            files += standIns.pathFor(place + '/' + name);
+        }
+    } catch (const Error &) {
+        return; // Such a folder adds nothing.
     }
 }
 

@@ -15,11 +15,11 @@ class StandIns;
 
 /// The names of the text and image files of `folder`, as the file system's own bytes: one level, in
 /// the file system's order, hidden ones too. PDF files inside a folder are not taken, and neither
-/// is a folder that bears a file's name. A folder that cannot be listed has none.
+/// is a folder that bears a file's name. Throws Error where the folder cannot be listed to its end.
 std::vector<QByteArray> recognisedNames(const QByteArray &folder);
 
 /// Appends to `files` the paths ("folder/name", or their stand-ins) of the text and image files of
-/// `folder` that recognisedNames() gives.
+/// `folder` that recognisedNames() gives; nothing where it cannot be listed.
 void addDirectorie(const QString &folder, QStringList &files, StandIns &standIns);
 
 /// Size text of a file of `bytes` bytes, taken as a signed 32-bit number and rounded up to whole

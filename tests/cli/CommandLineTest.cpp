@@ -16,6 +16,10 @@
 #include <memory>
 
 #include <sys/stat.h>
+#ifdef __linux__
+#include <linux/capability.h>
+#include <sys/prctl.h>
+#endif
 
 using namespace folioforge;
 using test::PdfProbe;
@@ -33,6 +37,14 @@ QList<QJsonObject> objectsOf(const QByteArray &output) {
         }
     }
     return objects;
+}
+
+/// The program run next may read no more than its owner, whoever that is.
+void giveUpRightsOfRoot() {
+#ifdef __linux__
+    ::prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
+    ::prctl(PR_CAPBSET_DROP, CAP_DAC_READ_SEARCH);
+#endif
 }
 
 QString member(const QJsonObject &object, const char *name) {
@@ -185,6 +197,41 @@ class CommandLineTest : public QObject {
         const ToolRun run = convert({path("in/")});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(outputs().join(u' '), QStringLiteral("b.pdf c.pdf"));
+    }
+
+    void theFilesOfAFolderComeInTheOrderOfTheirNames() {
+        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("in")));
+        for (const char *name : {"in/a.txt", "in/10.txt", "in/é.txt", "in/9.txt", "in/B.txt"}) {
+            text(name);
+        }
+        const ToolRun run = convert({QStringLiteral("--json"), path("in")});
+        QStringList inputs;
+        for (const QJsonObject &object : objectsOf(run.out)) {
+            inputs += member(object, "input");
+        }
+        QCOMPARE(inputs, (QStringList{path("in/10.txt"), path("in/9.txt"), path("in/B.txt"),
+                                      path("in/a.txt"), path("in/é.txt")}));
+    }
+
+    void aFolderThatCannotBeListedIsNamedAndTheRestConverted() {
+        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("in")));
+        text("in/a.txt");
+        QVERIFY(QFile::setPermissions(path("in"), {}));
+        QProcess process;
+        process.setChildProcessModifier(giveUpRightsOfRoot);
+        process.start(kProgram, {QStringLiteral("--json"), QStringLiteral("--output-folder"),
+                                 path("out"), path("in/"), text("good.txt")});
+        QVERIFY(process.waitForFinished());
+        QVERIFY(QFile::setPermissions(path("in"),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QCOMPARE(process.exitCode(), 1);
+        const auto objects = objectsOf(process.readAllStandardOutput());
+        QCOMPARE(objects.size(), 2);
+        QCOMPARE(member(objects[0], "input"), path("in/"));
+        QCOMPARE(member(objects[0], "state"), QStringLiteral("rejected"));
+        QVERIFY(member(objects[0], "message").endsWith(QStringLiteral("Permission denied")));
+        QVERIFY(process.readAllStandardError().contains(path("in/").toUtf8() + ": "));
+        QCOMPARE(outputs(), QStringList{QStringLiteral("good.pdf")});
     }
 
     void wrongSettingsGetTheWindowsNoticeAndNothingIsWritten_data() {
