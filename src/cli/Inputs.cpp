@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <new>
 
 namespace folioforge {
 namespace {
@@ -37,8 +36,6 @@ Input collectFile(const QByteArray &path, StandIns &standIns) {
         input.entry = readEntry(standIns.pathFor(path), input);
     } catch (const Error &error) {
         input.rejection = error.reason();
-    } catch (const std::bad_alloc &) {
-        input.rejection = QStringLiteral("There is not enough memory");
     }
     return input;
 }

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <limits>
+#include <new>
 
 namespace folioforge {
 namespace {
@@ -16,6 +17,25 @@ void openForReading(QFile &file) {
     if (!file.open(QIODevice::ReadOnly)) {
         throw Error(file.errorString());
     }
+}
+
+std::optional<QString> readWholeText(const QString &path) {
+    requireReadableFile(path);
+    const SourceFile examined = SourceFile::examine(path);
+    QFile file(path);
+    openForReading(file);
+    if (file.size() > std::numeric_limits<int>::max()) {
+        throw Error(QStringLiteral("The text is larger than 2 GB"));
+    }
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        throw Error(file.errorString());
+    }
+    if (SourceFile::examine(path) != examined) {
+        throw Error(QStringLiteral("The file was changed while it was being read"));
+    }
+    QString text = decodeText(bytes);
+    return text.isNull() ? std::nullopt : std::optional(std::move(text));
 }
 
 } // namespace
@@ -33,22 +53,11 @@ void requireReadableFile(const QString &path) {
 }
 
 std::optional<QString> readTextFile(const QString &path) {
-    requireReadableFile(path);
-    const SourceFile examined = SourceFile::examine(path);
-    QFile file(path);
-    openForReading(file);
-    if (file.size() > std::numeric_limits<int>::max()) {
-        throw Error(QStringLiteral("The text is larger than 2 GB"));
+    try {
+        return readWholeText(path);
+    } catch (const std::bad_alloc &) {
+        throw Error(QStringLiteral("There is not enough memory"));
     }
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        throw Error(file.errorString());
-    }
-    if (SourceFile::examine(path) != examined) {
-        throw Error(QStringLiteral("The file was changed while it was being read"));
-    }
-    QString text = decodeText(bytes);
-    return text.isNull() ? std::nullopt : std::optional(std::move(text));
 }
 
 } // namespace folioforge

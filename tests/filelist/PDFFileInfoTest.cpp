@@ -1,5 +1,6 @@
 #include "filelist/PDFFileInfo.h"
 
+#include "filelist/EntryReader.h"
 #include "support/Files.h"
 
 #include <QDateTime>
@@ -13,6 +14,7 @@
 #include <stop_token>
 #include <thread>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 using namespace folioforge;
@@ -25,7 +27,38 @@ PDFFileInfo withDestination(const QString &name) {
     return entry;
 }
 
+/// Leaves this process 1 GiB of addresses while it lives. AddressSanitizer, which takes far more
+/// for itself, refuses blocks of that size instead.
+class ShortMemory {
+  public:
+    ShortMemory() {
+#ifndef __SANITIZE_ADDRESS__
+        ::getrlimit(RLIMIT_AS, &m_before);
+        rlimit limit = m_before;
+        limit.rlim_cur = 1 << 30;
+        ::setrlimit(RLIMIT_AS, &limit);
+#endif
+    }
+    ~ShortMemory() {
+#ifndef __SANITIZE_ADDRESS__
+        ::setrlimit(RLIMIT_AS, &m_before);
+#endif
+    }
+    ShortMemory(const ShortMemory &) = delete;
+    ShortMemory &operator=(const ShortMemory &) = delete;
+
+  private:
+    [[maybe_unused]] rlimit m_before{};
+};
+
 } // namespace
+
+#ifdef __SANITIZE_ADDRESS__
+// The sanitizer asks for this name. NOLINTNEXTLINE(bugprone-reserved-identifier,cert-dcl37-c)
+extern "C" const char *__asan_default_options() {
+    return "allocator_may_return_null=1:max_allocation_size_mb=1024";
+}
+#endif
 
 class PDFFileInfoTest : public QObject {
     Q_OBJECT
@@ -55,6 +88,21 @@ class PDFFileInfoTest : public QObject {
         QVERIFY2(entry.readError().contains(QStringLiteral("changed")),
                  qPrintable(entry.readError()));
         QVERIFY(entry.getFileString().isEmpty());
+    }
+
+    void textsThatDoNotFitIntoMemorySaySoOnEveryThread() {
+        const QString large = test::writeFile(path("large.txt"), {});
+        constexpr qint64 kLarge = 3LL << 29; // Takes no room on the disk.
+        QVERIFY(QFile::resize(large, kLarge));
+        QStringList paths(15, large); // Enough for several threads.
+        paths += test::writeFile(path("small.txt"), "words");
+        const ShortMemory shortMemory;
+        const ReadEntries read = readEntries(paths);
+        QCOMPARE(read.entries.size(), std::size_t{16});
+        for (std::size_t i = 0; i < 15; ++i) {
+            QCOMPARE(read.entries[i].readError(), QStringLiteral("There is not enough memory"));
+        }
+        QCOMPARE(read.entries.back().getFileString(), QStringLiteral("words"));
     }
 
     void aNewEntryWaitsWithoutAStateText() {
