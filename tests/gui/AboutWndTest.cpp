@@ -74,8 +74,8 @@ class AboutWndTest : public QObject {
                  QStringLiteral("Version " FOLIOFORGE_VERSION));
         const QString licences = about.window().findChild<QPlainTextEdit *>()->toPlainText();
         for (const char *library :
-             {"Qt 6", "qpdf", "HarfBuzz", "fontconfig", "libjpeg-turbo", "LibTIFF",
-              "OpenJPEG", "OpenEXR", "libdeflate", "libidn", "libplist"}) {
+             {"Qt 6", "qpdf", "HarfBuzz", "fontconfig", "libjpeg-turbo", "LibTIFF", "OpenJPEG",
+              "OpenEXR", "libdeflate", "libidn", "libplist"}) {
             QVERIFY2(licences.contains(QLatin1StringView(library)), library);
         }
     }
