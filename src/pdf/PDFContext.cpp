@@ -97,7 +97,7 @@ class PDFContext::Impl {
     QString m_path;
     Settings m_settings;
     QPDF m_document;
-    std::shared_ptr<SourceReader> m_reader = std::make_shared<SourceReader>();
+    std::shared_ptr<SourceReader> m_reader = std::make_shared<SourceReader>(m_settings.calls);
     StreamData m_streams{m_document, m_reader, m_settings.calls};
     DocumentCatalog m_catalog;
     ImageEmbedder m_images{m_document, m_streams};
@@ -215,15 +215,15 @@ void PDFContext::Impl::drawImage(const QRectF &rect, const EncodedImage &image, 
 
 int PDFContext::Impl::addDocument(const QString &sourcePath) {
     return atQpdfBorder([&] {
-        m_reader->closeFile(); // A source that failed may have left it open.
+        m_reader->beginAnew(); // A source that failed may have left its file open.
         const SourceFile file = SourceFile::examine(sourcePath);
         const std::string key = sourcePath.toStdString() + '\0' + std::to_string(file.size) + ' ' +
                                 std::to_string(file.modifiedNanos);
         const auto source = openSourceDocument(file, m_reader);
         // Only what a whole copy brought may be used by the next one.
         ObjectCopier::Streams streams = m_sourceStreams[key];
-        const ImportedDocument imported =
-            withEnoughMemory(*source, [&] { return importDocument(*source, m_document, streams); });
+        const ImportedDocument imported = withAllObjects(
+            *source, *m_reader, [&] { return importDocument(*source, m_document, streams); });
         m_reader->finish();
         m_catalog.addDocument(imported);
         m_sourceStreams[key] = std::move(streams);
@@ -262,14 +262,11 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         settlePages();
         finishDocument();
         // What is read from now on must come from files that are still what they were.
-        m_reader->closeFile();
-        m_reader->clearFailure();
+        m_reader->beginAnew();
         OutputFile file(m_path, m_settings.calls);
         writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.pdfVersion());
         m_reader->finish();
-        if (m_reader->failure()) {
-            throw Error(*m_reader->failure());
-        }
+        m_reader->requireNoFailure();
         file.finish(m_settings.flush);
         return publish(file, nextPath);
     } catch (const Error &error) {

@@ -56,7 +56,7 @@ class PDFContext {
         DocumentInfo info;
         std::unique_ptr<Encryption> encryption; ///< Null for an unprotected document.
         Flush flush = Flush::Always;
-        /// What every file is written through.
+        /// What every file is written through, and sources of the document are read through.
         std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
     };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "error/Error.h"
+#include "pdf/SourceReader.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFExc.hh>
@@ -24,8 +25,9 @@ template<typename Work> auto atQpdfBorder(Work &&work) -> decltype(work()) {
     }
 }
 
-/// Throws where the document's warnings tell of a lack of memory.
-inline void requireEnoughMemory(QPDF &document) {
+/// Throws where a read failed or the document's warnings tell of a lack of memory.
+inline void requireAllObjects(QPDF &document, const SourceReader &reader) {
+    reader.requireNoFailure();
     for (const QPDFExc &warning : document.getWarnings()) {
         if (warning.getMessageDetail().find(std::bad_alloc().what()) != std::string::npos) {
             throw std::bad_alloc();
@@ -33,15 +35,17 @@ inline void requireEnoughMemory(QPDF &document) {
     }
 }
 
-/// Runs `work` over `document`. Where memory is short the library only warns and goes on with null
-/// in an object's place: whatever comes of that is not the document.
-template<typename Work> auto withEnoughMemory(QPDF &document, Work &&work) -> decltype(work()) {
+/// Runs `work` over `document`, which is read through `reader`. Where memory is short or the file
+/// cannot be read, the library only warns and goes on with null in an object's place: whatever
+/// comes of that is not the document.
+template<typename Work>
+auto withAllObjects(QPDF &document, const SourceReader &reader, Work &&work) -> decltype(work()) {
     try {
         auto result = work();
-        requireEnoughMemory(document);
+        requireAllObjects(document, reader);
         return result;
     } catch (const std::exception &) {
-        requireEnoughMemory(document);
+        requireAllObjects(document, reader);
         throw;
     }
 }

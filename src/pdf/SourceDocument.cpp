@@ -30,7 +30,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
     document->setSuppressWarnings(true);
     document->setAttemptRecovery(file.size <= kMaxRepairedBytes);
     try {
-        withEnoughMemory(*document, [&] {
+        withAllObjects(*document, *reader, [&] {
             document->processInputSource(std::make_shared<SourceInput>(file, reader, table));
             return document->getRoot(); // Throws where the table leads to no catalog.
         });
@@ -59,15 +59,15 @@ std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
 
 } // namespace
 
-PDFSummary summarizePDF(const QString &path) {
+PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
     return atQpdfBorder([&] {
-        const auto reader = std::make_shared<SourceReader>();
+        const auto reader = std::make_shared<SourceReader>(calls);
         const auto document = openUnlessLocked(SourceFile::examine(path), reader);
         if (!document || document->isEncrypted()) {
             return PDFSummary{true, 0};
         }
         const auto pages =
-            withEnoughMemory(*document, [&] { return readSourcePages(*document).size(); });
+            withAllObjects(*document, *reader, [&] { return readSourcePages(*document).size(); });
         return PDFSummary{false, static_cast<int>(pages)};
     });
 }

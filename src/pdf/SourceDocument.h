@@ -21,8 +21,8 @@ struct PDFSummary {
 inline constexpr qint64 kMaxRepairedBytes = 256LL << 20;
 
 /// Opens the PDF at `path` as far as needed to say this; a damaged file that can be repaired counts
-/// as readable. Throws Error when it is no PDF or beyond repair.
-PDFSummary summarizePDF(const QString &path);
+/// as readable. Throws Error when it is no PDF, beyond repair or cannot be read.
+PDFSummary summarizePDF(const QString &path, SystemCalls &calls = SystemCalls::system());
 
 /// Opens a source PDF for copying through `reader`. Throws Error when it is no PDF, encrypted or
 /// beyond repair.

@@ -50,6 +50,17 @@ void SourceReader::closeFile() {
     m_window = {};
 }
 
+void SourceReader::beginAnew() {
+    closeFile();
+    m_failure.reset();
+}
+
+void SourceReader::requireNoFailure() const {
+    if (m_failure) {
+        throw Error(*m_failure);
+    }
+}
+
 void SourceReader::requireUnchanged() const {
     struct stat status {};
     if (::fstat(m_fd, &status) != 0) {
@@ -82,11 +93,10 @@ void SourceReader::openFile(const SourceFile &file) {
 std::size_t SourceReader::readFromDisk(qint64 offset, std::span<char> target) const {
     std::size_t done = 0;
     while (done < target.size()) {
-        const ssize_t got = ::pread(m_fd, target.data() + done, target.size() - done,
-                                    offset + static_cast<qint64>(done));
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
+        const ssize_t got = uninterrupted([&] {
+            return m_calls.pread(m_fd, target.data() + done, target.size() - done,
+                                 offset + static_cast<qint64>(done));
+        });
         if (got < 0) {
             failToRead();
         }

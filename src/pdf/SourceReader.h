@@ -1,5 +1,7 @@
 #pragma once
 
+#include "pdf/SystemCalls.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -26,7 +28,8 @@ struct SourceFile {
 /// another one is asked for.
 class SourceReader {
   public:
-    SourceReader() = default;
+    explicit SourceReader(SystemCalls &calls = SystemCalls::system())
+        : m_calls(calls) {}
     ~SourceReader();
     SourceReader(const SourceReader &) = delete;
     SourceReader &operator=(const SourceReader &) = delete;
@@ -39,10 +42,14 @@ class SourceReader {
     /// ends before them.
     std::span<const char> view(const SourceFile &file, qint64 offset, qint64 size);
 
-    /// The first Error of read(), which a library on the way may have taken for damage.
+    /// The first Error of read() since beginAnew(), which a library on the way may have taken for
+    /// damage.
     [[nodiscard]] const std::optional<QString> &failure() const { return m_failure; }
-    void clearFailure() { m_failure.reset(); }
+    /// Throws that Error where there was one.
+    void requireNoFailure() const;
 
+    /// Closes the open file, if any, and forgets what failed.
+    void beginAnew();
     /// Closes the open file, if any. Throws Error when it changed while it was read.
     void finish();
     /// Closes the open file, if any, whatever became of it.
@@ -56,6 +63,7 @@ class SourceReader {
     std::size_t readFromDisk(qint64 offset, std::span<char> target) const;
     std::size_t readThroughWindow(qint64 offset, std::span<char> target);
 
+    SystemCalls &m_calls;
     SourceFile m_file;
     int m_fd = -1;
     QByteArray m_window; ///< Bytes of the open file from m_windowStart on.

@@ -7,8 +7,8 @@
 
 namespace folioforge {
 
-/// The system calls through which output files are made: one seam where tests let them fail. Each
-/// behaves like the call of its name: -1 and errno on failure.
+/// The system calls through which output files are made and what goes into them is read: one seam
+/// where tests let them fail. Each behaves like the call of its name: -1 and errno on failure.
 class SystemCalls {
   public:
     virtual ~SystemCalls() = default;

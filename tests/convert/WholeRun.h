@@ -84,14 +84,22 @@ class WholeRun {
 
     /// A run as the command line makes it.
     Outcome run(const Kind &kind, SystemCalls &calls) const {
-        const ConversionOptions options = optionsOf(kind, calls);
-        removeAbandonedParts(options.outputFolder);
         std::vector<const PDFFileInfo *> entries{&m_entries.front()};
         if (kind.merge) {
             entries.push_back(&m_entries.back());
         }
+        return run(entries, kind, calls);
+    }
+
+    Outcome run(const std::vector<const PDFFileInfo *> &entries, const Kind &kind,
+                SystemCalls &calls) const {
+        const ConversionOptions options = optionsOf(kind, calls);
+        removeAbandonedParts(options.outputFolder);
         const PDFOutcome made = createPDF(entries, output(), options);
         Outcome outcome{made.close.status == CloseResult::Status::Written, made.close.reason};
+        for (const EntryOutcome &entry : made.entries) {
+            outcome.reason += entry.message;
+        }
         if (outcome.written && kind.compressIndex != 0) {
             outcome.reason = compressed(options);
         }
@@ -121,7 +129,8 @@ class WholeRun {
         });
     }
 
-    /// The output that stands there, and what it was before it was compressed.
+    /// The output that stands there, what it was before it was compressed, and what it is without
+    /// the PDF.
     QList<QByteArray> wholeOutputs(const Kind &kind) const {
         QList<QByteArray> whole{readFile(output())};
         if (kind.compressIndex != 0) {
@@ -129,6 +138,11 @@ class WholeRun {
             Kind plain = kind;
             plain.compressIndex = 0;
             run(plain, SystemCalls::system());
+            whole += readFile(output());
+        }
+        if (kind.merge) {
+            QFile::remove(output());
+            run({&m_entries.front()}, kind, SystemCalls::system());
             whole += readFile(output());
         }
         return whole;

@@ -1,5 +1,6 @@
 #include "error/Error.h"
 #include "pdf/PDFContext.h"
+#include "support/FaultyCalls.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
 
@@ -12,6 +13,8 @@
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <cstring>
 
 using namespace folioforge;
 using test::PdfFixture;
@@ -75,6 +78,22 @@ class MergeTest : public QObject {
             QTest::qFail(qPrintable(log), __FILE__, __LINE__);
         }
         return path;
+    }
+
+    static PDFContext::Settings through(SystemCalls &calls) {
+        PDFContext::Settings settings;
+        settings.flush = Flush::Never;
+        settings.calls = calls;
+        return settings;
+    }
+    /// The reason why `context` does not take `source`; empty where it does.
+    static QString refusal(PDFContext &context, const QString &source) {
+        try {
+            context.addDocument(source);
+            return {};
+        } catch (const Error &error) {
+            return error.reason();
+        }
     }
 
   private Q_SLOTS:
@@ -392,6 +411,27 @@ class MergeTest : public QObject {
         QCOMPARE(context.close().status, CloseResult::Status::Written);
         QVERIFY(PdfProbe(path).isValid());
         QCOMPARE(PdfProbe(path).pageCount(), 1);
+    }
+
+    void aReadThatFailsIsItsSourcesErrorAndNeverAMissingObject() {
+        PdfFixture source;
+        source.object(1, kCatalog).pages(4, 2).spread();
+        const QString input = saved(source);
+        test::FaultyCalls counted;
+        QCOMPARE(PDFContext(newPath(), through(counted)).addDocument(input), 2);
+        for (int call = 1; call <= counted.count(); ++call) {
+            test::FaultyCalls calls;
+            calls.fault = {call, EIO, false, {}};
+            const QString path = newPath();
+            PDFContext context(path, through(calls));
+            QCOMPARE(refusal(context, input), QStringLiteral("Cannot read the file: %1")
+                                                  .arg(QString::fromLocal8Bit(std::strerror(EIO))));
+            QCOMPARE(context.pageCount(), 0);
+            QCOMPARE(refusal(context, input), QString()); // The disk is well again.
+            QCOMPARE(context.close().status, CloseResult::Status::Written);
+            QVERIFY(PdfProbe(path).text(1).contains(QStringLiteral("Page 1")));
+            QVERIFY(PdfProbe(path).text(2).contains(QStringLiteral("Page 2")));
+        }
     }
 
     void aSourceThatChangesBeforeItsStreamsAreReadFailsTheDocument() {

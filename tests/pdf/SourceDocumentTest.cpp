@@ -1,6 +1,7 @@
 #include "pdf/SourceDocument.h"
 
 #include "error/Error.h"
+#include "support/FaultyCalls.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
 
@@ -11,6 +12,8 @@
 #include <QTest>
 
 #include <sys/stat.h>
+
+#include <cstring>
 
 using namespace folioforge;
 using test::PdfFixture;
@@ -40,9 +43,9 @@ class SourceDocumentTest : public QObject {
                     options + QStringList{QStringLiteral("--"), plain, result});
         return result;
     }
-    static QString refusal(const QString &file) {
+    static QString refusal(const QString &file, SystemCalls &calls = SystemCalls::system()) {
         try {
-            summarizePDF(file);
+            summarizePDF(file, calls);
             return {};
         } catch (const Error &error) {
             return error.reason();
@@ -138,6 +141,19 @@ class SourceDocumentTest : public QObject {
 
     void aMissingFileIsAnError() {
         QVERIFY(refusal(path(QStringLiteral("missing.pdf"))).contains(QStringLiteral("No such")));
+    }
+
+    void aReadThatFailsIsAnErrorAndNeverFewerPages() {
+        const QString file = saved(QStringLiteral("spread.pdf"), threePages().spread().bytes());
+        test::FaultyCalls counted;
+        QCOMPARE(refusal(file, counted), QString());
+        QVERIFY(counted.count() > 5); // The start, the end, the catalog, the tree and its pages.
+        for (int call = 1; call <= counted.count(); ++call) {
+            test::FaultyCalls calls;
+            calls.fault = {call, EIO, false, {}};
+            QCOMPARE(refusal(file, calls), QStringLiteral("Cannot read the file: %1")
+                                               .arg(QString::fromLocal8Bit(std::strerror(EIO))));
+        }
     }
 
     void cutAnywhereADocumentEitherReadsOrFails() {

@@ -30,6 +30,12 @@ PdfFixture &PdfFixture::pages(int first, int count) {
                          "] >>");
 }
 
+PdfFixture &PdfFixture::spread() {
+    constexpr qsizetype kLargerThanBuffers = 70'000;
+    m_comment = '%' + QByteArray(kLargerThanBuffers, '-') + '\n';
+    return *this;
+}
+
 PdfFixture &PdfFixture::header(const QByteArray &line) {
     m_header = line;
     return *this;
@@ -44,6 +50,7 @@ QByteArray PdfFixture::bytes() const {
     QByteArray file = m_header;
     std::map<int, qsizetype> offsets;
     for (const auto &[number, body] : m_objects) {
+        file += m_comment;
         offsets[number] = file.size();
         file += QByteArray::number(number) + " 0 obj\n" + body + "\nendobj\n";
     }

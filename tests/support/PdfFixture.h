@@ -21,6 +21,8 @@ class PdfFixture {
     /// `count` pages as objects `first`, `first` + 1, ... under the page tree 2; each shows its
     /// number in Helvetica (object 3) from objects `first` + `count` on.
     PdfFixture &pages(int first, int count);
+    /// A long comment before each object, so that a reader finds no two in one buffer.
+    PdfFixture &spread();
     /// The first line instead of "%PDF-1.7", with its line end.
     PdfFixture &header(const QByteArray &line);
     /// Entries of the trailer beside /Size and /Root.
@@ -36,6 +38,7 @@ class PdfFixture {
     int m_root;
     QByteArray m_header = "%PDF-1.7\n";
     QByteArray m_trailerKeys;
+    QByteArray m_comment;
     std::map<int, QByteArray> m_objects;
 };
 
