@@ -235,6 +235,26 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         QCOMPARE(outcome.imagesReduced, 2);
     }
 
+    void whatIsDrawnWithinTooManySavedStatesStays() {
+        writeJpegPage("q 72 0 0 54 0 0 cm /Im0 Do Q " + QByteArray("q ").repeated(2001) + kDrawn +
+                      QByteArray(" Q").repeated(2001));
+        QVERIFY(staysUnclear());
+    }
+
+    void whatAFormDrawsWithinTooManySavedStatesStays() {
+        auto page = photoPage(QByteArray("q ").repeated(2001) + "/Fm0 Do");
+        page.stream(6, kFormKeys + kXObjects, kDrawn);
+        writePage(page);
+        QVERIFY(staysUnclear());
+    }
+
+    void theInnermostOfManySavedStatesIsRestored() {
+        // Were the first "cm" still to count behind its "Q", the image would be drawn a tenth as
+        // large.
+        writeJpegPage(QByteArray("q ").repeated(2001) + ".1 0 0 .1 0 0 cm Q " + kDrawn);
+        QCOMPARE(widthOfTheImage(), QStringLiteral("600"));
+    }
+
     void anImageDrawnBeyondAllNumbersKeepsItsSize() {
         const QByteArray huge(400, '9');
         writeJpegPage("q 72 0 0 54 0 0 cm /Im0 Do Q " + huge + " 0 0 " + huge +

@@ -94,10 +94,13 @@ ContentDraws ContentReader::drawsOf(const std::string &text, ContentScope &scope
             for (const Linear &size : drawn.sizes) {
                 draws.add(id, size);
             }
+            if (drawn.unclear) {
+                draws.unclear.insert(id);
+            }
             continue;
         }
         const ContentDraws inner = readForm(drawn.object, scope);
-        if (drawn.sizes.size() > ContentDraws::kMostSizes) {
+        if (drawn.unclear || drawn.sizes.size() > ContentDraws::kMostSizes) {
             draws.addUnclear(inner);
             continue;
         }

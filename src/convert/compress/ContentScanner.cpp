@@ -57,7 +57,7 @@ class Scanner : public QPDFObjectHandle::TokenFilter {
             save();
         } else if (word == "Q") {
             restore();
-        } else if (word == "cm" && m_count == m_numbers.size()) {
+        } else if (word == "cm" && m_count == m_numbers.size() && m_unsaved == 0) {
             m_matrix =
                 Linear{m_numbers[0], m_numbers[1], m_numbers[2], m_numbers[3]}.then(m_matrix);
         } else if (word == "Do") {
@@ -72,7 +72,8 @@ class Scanner : public QPDFObjectHandle::TokenFilter {
     }
 
     void save() {
-        // Deeper levels are counted alone, so that "q" over and over claims no memory.
+        // Deeper levels are counted alone, so that "q" over and over claims no memory. What changes
+        // within them is not followed, and so undone with the last of them.
         if (m_saved.size() < kDeepestNesting) {
             m_saved.push_back(m_matrix);
         } else {
@@ -101,7 +102,9 @@ class Scanner : public QPDFObjectHandle::TokenFilter {
         }
         DrawnStream &stream = drawn[object.getObjGen()];
         stream.object = object;
-        if (stream.sizes.size() <= ContentDraws::kMostSizes) {
+        if (m_unsaved > 0) {
+            stream.unclear = true;
+        } else if (stream.sizes.size() <= ContentDraws::kMostSizes) {
             stream.sizes.insert(matrix);
         }
     }

@@ -16,6 +16,7 @@ namespace folioforge {
 struct DrawnStream {
     QPDFObjectHandle object;
     std::set<Linear> sizes;
+    bool unclear = false; ///< Also drawn under some that cannot be told.
 };
 
 /// The XObjects, tiling patterns and soft mask groups that the content stream `text` draws. A
