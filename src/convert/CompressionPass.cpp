@@ -13,6 +13,7 @@
 #include "pdf/OutputFile.h"
 #include "pdf/Password.h"
 #include "pdf/QpdfBorder.h"
+#include "pdf/SourceInput.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -53,15 +54,15 @@ class PageProgress : public QPDFWriter::ProgressReporter {
     int m_written = 0;
 };
 
-void unlock(QPDF &document, const QString &path, const Encryption *encryption) {
+void unlock(QPDF &document, const std::shared_ptr<SourceInput> &input,
+            const Encryption *encryption) {
     // A user password alone is the owner's too, so the owner's always opens.
     const QByteArray password = encryption ? preparedPassword(encryption->ownerPassword.isEmpty()
                                                                   ? encryption->userPassword
                                                                   : encryption->ownerPassword)
                                            : QByteArray();
     document.setSuppressWarnings(true);
-    document.processFile(QFile::encodeName(path).constData(),
-                         password.isEmpty() ? nullptr : password.constData());
+    document.processInputSource(input, password.isEmpty() ? nullptr : password.constData());
 }
 
 void write(QPDF &document, OutputPipeline &output, const Encryption *encryption,
@@ -91,17 +92,24 @@ void report(std::vector<LeftImage> left, CompressionOutcome &outcome) {
     }
 }
 
-void runPass(const QString &path, const QuartzFilter &filter, const Encryption *encryption,
+void runPass(const QString &path, const QuartzFilter &filter, const ConversionOptions &options,
              OutputPipeline &output, ConversionObserver *observer, CompressionOutcome &outcome) {
+    const auto encryption = encryptionFor(options.security);
+    const auto reader = std::make_shared<SourceReader>(options.calls);
+    const auto input =
+        std::make_shared<SourceInput>(SourceFile::examine(path), reader, SourceInput::Table::Shown);
     QPDF document;
-    unlock(document, path, encryption);
-    mergeDuplicateStreams(document);
-    ImagePlan plan = planImages(document, findImageUses(document), filter);
-    const auto streams = ReducedStreams::install(std::move(plan.planned));
-    write(document, output, encryption, observer);
-    outcome.imagesReduced = streams->done();
-    plan.left.insert(plan.left.end(), streams->left().begin(), streams->left().end());
-    report(std::move(plan.left), outcome);
+    outcome.imagesReduced = withAllObjects(document, *reader, [&] {
+        unlock(document, input, encryption.get());
+        mergeDuplicateStreams(document);
+        ImagePlan plan = planImages(document, findImageUses(document), filter);
+        const auto streams = ReducedStreams::install(std::move(plan.planned));
+        write(document, output, encryption.get(), observer);
+        plan.left.insert(plan.left.end(), streams->left().begin(), streams->left().end());
+        report(std::move(plan.left), outcome);
+        return streams->done();
+    });
+    reader->finish();
 }
 
 QString filterFile(const ConversionOptions &options, const CompressionPlaces &places) {
@@ -117,9 +125,8 @@ std::shared_ptr<const PartFile> makeCopy(const QString &path, const QuartzFilter
                                          const ConversionOptions &options,
                                          ConversionObserver *observer, const QString &folder,
                                          CompressionOutcome &outcome) {
-    const auto encryption = encryptionFor(options.security);
     std::optional<TemporaryCopy> copy(std::in_place, folder, path, options.calls);
-    runPass(path, filter, encryption.get(), copy->pipeline(), observer, outcome);
+    runPass(path, filter, options, copy->pipeline(), observer, outcome);
     if (copy->size() >= outcome.bytesBefore) {
         copy.emplace(folder, path, options.calls);
         copy->takeSource();

@@ -42,8 +42,10 @@ class CompressionCase {
     }
 
     CompressionOutcome run(int index, const SecuritySettings &security = {},
-                           ConversionObserver *observer = nullptr) const {
+                           ConversionObserver *observer = nullptr,
+                           SystemCalls &calls = SystemCalls::system()) const {
         ConversionOptions options;
+        options.calls = calls;
         options.compressIndex = index;
         options.security = security;
         return compress(m_path, options, m_places, observer);

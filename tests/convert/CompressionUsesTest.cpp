@@ -1,8 +1,10 @@
 #include "CompressionCase.h"
 #include "error/Error.h"
+#include "support/FaultyCalls.h"
 #include "support/Files.h"
 
 #include <csignal>
+#include <cstring>
 
 #include <sys/resource.h>
 
@@ -288,6 +290,24 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         QCOMPARE(PdfProbe(copy).info(QStringLiteral("Metadata Stream")), QStringLiteral("yes"));
         QCOMPARE(PdfProbe(copy).info(QStringLiteral("Form")),
                  PdfProbe(m_path).info(QStringLiteral("Form")));
+    }
+
+    void aCallThatFailsIsAnErrorAndNeverAMissingObject() {
+        PdfFixture document;
+        document.object(1, "<< /Type /Catalog /Pages 2 0 R >>").pages(4, 2).spread();
+        QVERIFY(document.write(m_path));
+        FaultyCalls counted;
+        const QString copy = run(1, {}, nullptr, counted).convertInfo->tempFilePathName;
+        QCOMPARE(PdfProbe(copy).pageCount(), 2);
+        for (int call = 1; call <= counted.count(); ++call) {
+            FaultyCalls calls;
+            calls.fault = {call, EIO, false, {}};
+            const CompressionOutcome outcome = run(1, {}, nullptr, calls);
+            QVERIFY2(outcome.error.isEmpty()
+                         ? readFile(outcome.convertInfo->tempFilePathName) == readFile(copy)
+                         : outcome.error.contains(QString::fromLocal8Bit(std::strerror(EIO))),
+                     qPrintable(outcome.error));
+        }
     }
 
     void aFullDiskIsAnErrorAndLeavesNoTemporaryFile() {
