@@ -50,7 +50,11 @@ Frame frameOf(const FileView &content) {
 Frame largestFrame(const FileView &file) {
     constexpr qint64 kDirectory = 6;
     constexpr qint64 kEntryBytes = 16;
-    const int count = littleEndianAt<quint16>(file.readExactly(0, kDirectory), 4);
+    // The largest icons hold some 30 frames. All of a hostile one's may lie in one another, and
+    // each is read to its end.
+    constexpr int kMostFrames = 100;
+    const int stated = littleEndianAt<quint16>(file.readExactly(0, kDirectory), 4);
+    const int count = std::min(stated, kMostFrames);
     const QByteArray entries = file.read(kDirectory, count * kEntryBytes);
     std::optional<Frame> largest;
     for (qsizetype at = 0; at + kEntryBytes <= entries.size(); at += kEntryBytes) {

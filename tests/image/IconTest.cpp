@@ -28,6 +28,7 @@ class IconTest : public QObject {
     void bitsBelowABitmapFrameAreItsOpacity();
     void largestFrameIsTakenThoughOthersAreDamaged();
     void pngFrameKeepsItsOwnRows();
+    void framesBehindTheHundredthAreNotLookedAt();
 
   private:
     QTemporaryDir m_folder;
@@ -236,6 +237,16 @@ void IconTest::pngFrameKeepsItsOwnRows() {
     const EncodedImage image = encodeImage(write("png.ico", ico({small, png})));
     QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
     QVERIFY(png.contains("IDAT" + dataOf(image)));
+}
+
+void IconTest::framesBehindTheHundredthAreNotLookedAt() {
+    const QByteArray small = bitmapFrame(24, QByteArray(96 + 16, '\0'));
+    const QByteArray large = bytesOf(imageFile(QStringLiteral("colour.png")));
+    QList<QByteArray> frames(99, small);
+    const ImageHeader header = readImageHeader(write("hundred.ico", ico(frames + QList{large})));
+    QCOMPARE(header.width, 24);
+    frames.append(small);
+    QCOMPARE(readImageHeader(write("more.ico", ico(frames + QList{large}))).width, 8);
 }
 
 QTEST_GUILESS_MAIN(IconTest)
