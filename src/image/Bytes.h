@@ -25,4 +25,12 @@ template<typename T> T littleEndianAt(QByteArrayView bytes, qsizetype at) {
     return qFromLittleEndian<T>(bytes.data() + at);
 }
 
+/// The sample at `index` of a row of samples of `bits` bits each, 8 at most, the first in the high
+/// bits.
+inline int packedSample(const uchar *row, qsizetype index, int bits) {
+    const qsizetype bit = index * bits;
+    const auto shift = static_cast<int>(8 - bits - bit % 8);
+    return (row[bit / 8] >> shift) & ((1 << bits) - 1);
+}
+
 } // namespace folioforge

@@ -125,11 +125,8 @@ QRgb colorAt(const uchar *row, int x, int bits, const QList<QRgb> &palette) {
         const auto wide = [](int five) { return five << 3 | five >> 2; };
         return qRgb(wide(value >> 10 & 31), wide(value >> 5 & 31), wide(value & 31));
     }
-    default: {
-        const qsizetype bit = qsizetype(x) * bits;
-        const auto shift = static_cast<int>(8 - bits - bit % 8);
-        return palette.value((row[bit / 8] >> shift) & ((1 << bits) - 1), qRgb(0, 0, 0));
-    }
+    default:
+        return palette.value(packedSample(row, x, bits), qRgb(0, 0, 0));
     }
 }
 

@@ -189,7 +189,7 @@ QByteArray inflateRows(const FileView &file, const PngFacts &facts, qsizetype si
 }
 
 /// Colour and opacity of filtered rows, taken apart. PNG's filters work on each channel alone, so
-/// the filtered bytes can be dealt out as they are: neither half has to be filtered again.
+/// the filtered bytes can be dealt out as they are, and the colour keeps its filters.
 struct DealtRows {
     QByteArray color;
     QByteArray alpha;
@@ -259,12 +259,8 @@ class TransparencyTable {
 
   private:
     [[nodiscard]] int sample(const uchar *row, int index) const {
-        if (m_facts.bits == 16) {
-            return qFromBigEndian<quint16>(row + 2 * qsizetype(index));
-        }
-        const int bit = index * m_facts.bits;
-        const int shift = 8 - m_facts.bits - bit % 8;
-        return (row[bit / 8] >> shift) & ((1 << m_facts.bits) - 1);
+        return m_facts.bits == 16 ? qFromBigEndian<quint16>(row + 2 * qsizetype(index))
+                                  : packedSample(row, index, m_facts.bits);
     }
 
     const PngFacts &m_facts;

@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "image/Bytes.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -18,6 +19,7 @@ class PngTest : public QObject {
     void orientationAfterTheRowsIsRead();
     void paletteOfTooManyColoursIsRefused();
     void claimOfManyPixelsInFewBytesIsRefused();
+    void sampleBehindMoreBitsThanAnIntCountsIsFound();
 
   private:
     QTemporaryDir m_folder;
@@ -121,6 +123,15 @@ void PngTest::claimOfManyPixelsInFewBytesIsRefused() {
     bytes.replace(16, 8, QByteArray::fromHex("0000520800005208")); // 21,000 x 21,000.
     QCOMPARE(refusalOf(write(bytes)),
              QStringLiteral("The file is too short for the image its header describes"));
+}
+
+void PngTest::sampleBehindMoreBitsThanAnIntCountsIsFound() {
+    // A picture of so wide a row takes seconds and gigabytes; of these bytes only the end is used.
+    QByteArray row((1 << 28) + 1, Qt::Uninitialized);
+    row.back() = '\x2A';
+    const auto *bytes = reinterpret_cast<const uchar *>(row.constData());
+    QCOMPARE(packedSample(bytes, row.size() - 1, 8), 0x2A);
+    QCOMPARE(packedSample(bytes, 4 * row.size() - 2, 2), 2);
 }
 
 QTEST_GUILESS_MAIN(PngTest)
