@@ -2,6 +2,7 @@
 
 #include "image/Bytes.h"
 #include "image/Exif.h"
+#include "image/IccProfile.h"
 
 #include <algorithm>
 #include <cmath>
@@ -147,11 +148,14 @@ void readSizeMarker(const FileView &file, Jpeg2000Facts &facts) {
 
 } // namespace
 
-bool Jpeg2000Facts::needsDecoding() const {
+int Jpeg2000Facts::mostColors() const {
     constexpr int kCmyk = 12;
-    const int most =
-        enumeratedColor == kCmyk || (enumeratedColor == 0 && !iccProfile.isEmpty()) ? 4 : 3;
-    return alphaChannel >= 0 || components == 2 || components > most;
+    const bool hasInkProfile = !fittingProfile(iccProfile, ImageColor::Cmyk).isEmpty();
+    return enumeratedColor == kCmyk || (enumeratedColor == 0 && hasInkProfile) ? 4 : 3;
+}
+
+bool Jpeg2000Facts::needsDecoding() const {
+    return alphaChannel >= 0 || components == 2 || components > mostColors();
 }
 
 Jpeg2000Facts readJpeg2000Facts(const FileView &file) {

@@ -17,10 +17,12 @@ struct Jpeg2000Facts {
     bool hasPalette = false;
     bool isYcc = false;      ///< Enumerated colour space sYCC.
     int enumeratedColor = 0; ///< 16 sRGB, 17 grey, 18 sYCC, 12 CMYK; 0 for none.
-    int alphaChannel = -1;   ///< The channel that holds the opacity; -1 for none.
+    int alphaChannel = -1;   ///< The decoded channel that holds the opacity; -1 for none.
     bool isPremultiplied = false;
     QByteArray iccProfile;
 
+    /// How many channels of colour there can be: four where there are inks, else three.
+    [[nodiscard]] int mostColors() const;
     /// Whether a PDF cannot show the file as it is, because of a channel that is no colour.
     [[nodiscard]] bool needsDecoding() const;
 };

@@ -165,23 +165,17 @@ std::vector<int> colorComponents(const opj_image_t &image, const Jpeg2000Facts &
             colors.push_back(c);
         }
     }
-    constexpr int kCmyk = 12;
-    const size_t most = facts.enumeratedColor == kCmyk ? 4 : 3;
+    const auto most = static_cast<size_t>(facts.mostColors());
     colors.resize(colors.size() >= most ? most : 1);
     return colors;
 }
 
-} // namespace
-
-Raster decodeJpeg2000(const FileView &file, const Jpeg2000Facts &facts) {
-    // The library holds four bytes for every sample: a short file must not cost gigabytes.
-    const qint64 pixels = qint64(facts.header.width) * facts.header.height;
-    requirePlausible(pixels * facts.components, file.size(), 4000);
-    const Image image = decode(file, facts);
-    const std::vector<int> colors = colorComponents(*image, facts);
+/// A raster for these components, without its pixels.
+Raster rasterFor(const opj_image_t &image, const Jpeg2000Facts &facts,
+                 const std::vector<int> &colors) {
     OPJ_UINT32 precision = 0;
     for (const int c : colors) {
-        precision = std::max(precision, image->comps[c].prec);
+        precision = std::max(precision, image.comps[c].prec);
     }
     Raster raster;
     raster.width = facts.header.width;
@@ -192,39 +186,54 @@ Raster decodeJpeg2000(const FileView &file, const Jpeg2000Facts &facts) {
                                         : ImageColor::Cmyk;
     raster.iccProfile = facts.iccProfile;
     raster.samples = allocateRows(raster.height, raster.stride());
-    const bool hasAlpha =
-        facts.alphaChannel >= 0 && facts.alphaChannel < static_cast<int>(image->numcomps);
-    if (hasAlpha) {
+    if (facts.alphaChannel >= 0 && facts.alphaChannel < static_cast<int>(image.numcomps)) {
         raster.alpha = AlphaPlane{
             raster.bits, allocateRows(raster.height, rowBytes(raster.width, 1, raster.bits))};
     }
-    std::vector<Component> sources;
-    for (const int c : colors) {
-        sources.emplace_back(image->comps[c], raster.bits, raster.width, raster.height);
-    }
-    if (hasAlpha) {
-        sources.emplace_back(image->comps[facts.alphaChannel], raster.bits, raster.width,
-                             raster.height);
-    }
-    const auto count = static_cast<qsizetype>(colors.size());
+    return raster;
+}
+
+/// Fills the pixels from `sources`: the colours, then the opacity where the raster has one.
+void fillPixels(Raster &raster, const std::vector<Component> &sources, bool isYcc) {
+    const size_t count = sources.size() - (raster.alpha ? 1 : 0);
     qsizetype pixel = 0;
     for (int y = 0; y < raster.height; ++y) {
         for (int x = 0; x < raster.width; ++x, ++pixel) {
             std::array<int, 4> values = {};
-            for (size_t c = 0; c < colors.size(); ++c) {
+            for (size_t c = 0; c < count; ++c) {
                 values[c] = sources[c].at(x, y);
             }
-            if (facts.isYcc && count == 3) {
+            if (isYcc && count == 3) {
                 convertFromYcc(values, (1 << raster.bits) - 1);
             }
-            for (qsizetype c = 0; c < count; ++c) {
-                store(raster.samples, pixel * count + c, values[size_t(c)], raster.bits);
+            for (size_t c = 0; c < count; ++c) {
+                store(raster.samples, pixel * qsizetype(count) + qsizetype(c), values[c],
+                      raster.bits);
             }
-            if (hasAlpha) {
+            if (raster.alpha) {
                 store(raster.alpha->samples, pixel, sources.back().at(x, y), raster.bits);
             }
         }
     }
+}
+
+} // namespace
+
+Raster decodeJpeg2000(const FileView &file, const Jpeg2000Facts &facts) {
+    // The library holds four bytes for every sample: a short file must not cost gigabytes.
+    const qint64 pixels = qint64(facts.header.width) * facts.header.height;
+    requirePlausible(pixels * facts.components, file.size(), 4000);
+    const Image image = decode(file, facts);
+    std::vector<int> components = colorComponents(*image, facts);
+    Raster raster = rasterFor(*image, facts, components);
+    if (raster.alpha) {
+        components.push_back(facts.alphaChannel);
+    }
+    std::vector<Component> sources;
+    for (const int c : components) {
+        sources.emplace_back(image->comps[c], raster.bits, raster.width, raster.height);
+    }
+    fillPixels(raster, sources, facts.isYcc);
     if (facts.isPremultiplied) {
         unpremultiply(raster);
     }

@@ -1,8 +1,13 @@
 #include "DecodedImage.h"
+#include "image/Jpeg2000Pixels.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
+
+#include <openjpeg.h>
+
+#include <memory>
 
 using namespace folioforge;
 using namespace folioforge::test;
@@ -14,12 +19,16 @@ class Jpeg2000Test : public QObject {
     void resolutionBoxIsPixelsAMetre();
     void shownResolutionCountsMoreThanCaptured();
     void boxesInBoxesWithoutEndAreNoPicture();
+    void opacityIsTakenFromAmongTheColours_data();
+    void opacityIsTakenFromAmongTheColours();
 
   private:
     QTemporaryDir m_folder;
 
     /// The test picture with this box at the end of its header.
     QString withHeaderBox(const QByteArray &box);
+    /// The codestream of a row of pixels: the samples of each of its components.
+    QByteArray codestream(const QList<QByteArray> &components);
 };
 
 namespace {
@@ -30,7 +39,76 @@ QByteArray box(const char *type, const QByteArray &content) {
     return length + type + content;
 }
 
+QByteArray big16(int number) {
+    QByteArray bytes(2, '\0');
+    qToBigEndian(static_cast<quint16>(number), bytes.data());
+    return bytes;
+}
+
+QByteArray big32(qsizetype number) {
+    QByteArray bytes(4, '\0');
+    qToBigEndian(static_cast<quint32>(number), bytes.data());
+    return bytes;
+}
+
+/// The beginning of a profile, which is what tells its colour space.
+QByteArray profileOf(const char *colorSpace) {
+    QByteArray profile(200, '\0');
+    return profile.replace(0, 4, big32(200))
+        .replace(12, 4, "prtr")
+        .replace(16, 4, colorSpace)
+        .replace(36, 4, "acsp");
+}
+
+/// The boxes of a picture whose channel `alpha` is its opacity and the others colours in order.
+QByteArray headerOf(const QList<QByteArray> &components, int alpha, const QByteArray &profile) {
+    const auto count = static_cast<int>(components.size());
+    QByteArray channels = big16(count);
+    for (int channel = 0, color = 0; channel < count; ++channel) {
+        const bool isAlpha = channel == alpha;
+        channels += big16(channel) + big16(isAlpha ? 1 : 0) + big16(isAlpha ? 0 : ++color);
+    }
+    return box("ihdr", big32(1) + big32(components[0].size()) + big16(count) +
+                           QByteArray::fromHex("07070000")) +
+           box("colr", QByteArray::fromHex("020000") + profile) + box("cdef", channels);
+}
+
 } // namespace
+
+QByteArray Jpeg2000Test::codestream(const QList<QByteArray> &components) {
+    const auto width = static_cast<OPJ_UINT32>(components[0].size());
+    std::vector<opj_image_cmptparm_t> shapes(static_cast<size_t>(components.size()));
+    for (opj_image_cmptparm_t &shape : shapes) {
+        shape = {1, 1, width, 1, 0, 0, 8, 8, 0};
+    }
+    const std::unique_ptr<opj_image_t, decltype(&opj_image_destroy)> image(
+        opj_image_create(static_cast<OPJ_UINT32>(shapes.size()), shapes.data(),
+                         OPJ_CLRSPC_UNSPECIFIED),
+        opj_image_destroy);
+    image->x1 = width;
+    image->y1 = 1;
+    for (qsizetype c = 0; c < components.size(); ++c) {
+        std::transform(components[c].begin(), components[c].end(), image->comps[c].data,
+                       [](char sample) { return static_cast<uchar>(sample); });
+    }
+    opj_cparameters_t parameters;
+    opj_set_default_encoder_parameters(&parameters); // Without loss.
+    parameters.tcp_numlayers = 1;
+    parameters.cp_disto_alloc = 1;
+    parameters.numresolution = 1;
+    const std::unique_ptr<opj_codec_t, decltype(&opj_destroy_codec)> codec(
+        opj_create_compress(OPJ_CODEC_J2K), opj_destroy_codec);
+    const QString path = m_folder.filePath(QStringLiteral("codestream"));
+    std::unique_ptr<opj_stream_t, decltype(&opj_stream_destroy)> stream(
+        opj_stream_create_default_file_stream(path.toLocal8Bit().constData(), OPJ_FALSE),
+        opj_stream_destroy);
+    const bool written = opj_setup_encoder(codec.get(), &parameters, image.get()) != OPJ_FALSE &&
+                         opj_start_compress(codec.get(), image.get(), stream.get()) != OPJ_FALSE &&
+                         opj_encode(codec.get(), stream.get()) != OPJ_FALSE &&
+                         opj_end_compress(codec.get(), stream.get()) != OPJ_FALSE;
+    stream.reset(); // Which writes the rest.
+    return written ? bytesOf(path) : QByteArray();
+}
 
 QString Jpeg2000Test::withHeaderBox(const QByteArray &box) {
     QByteArray bytes = bytesOf(imageFile(QStringLiteral("colour.jp2")));
@@ -79,6 +157,42 @@ void Jpeg2000Test::boxesInBoxesWithoutEndAreNoPicture() {
     }
     QCOMPARE(refusalOf(writeFile(m_folder.filePath(QStringLiteral("deep.jp2")), bytes)),
              QStringLiteral("The JPEG 2000 file holds no picture"));
+}
+
+void Jpeg2000Test::opacityIsTakenFromAmongTheColours_data() {
+    QTest::addColumn<QByteArray>("colorSpace");
+    QTest::addColumn<int>("colors");
+    QTest::addColumn<int>("alpha");
+    QTest::newRow("behind four inks") << QByteArray("CMYK") << 4 << 4;
+    QTest::newRow("behind three colours") << QByteArray("RGB ") << 3 << 3;
+    QTest::newRow("behind a grey") << QByteArray("GRAY") << 1 << 1;
+}
+
+void Jpeg2000Test::opacityIsTakenFromAmongTheColours() {
+    QFETCH(QByteArray, colorSpace);
+    QFETCH(int, colors);
+    QFETCH(int, alpha);
+    const QByteArray opacity("\x01\x80\xFF");
+    const QList<QByteArray> inks{"\x10\x11\x12", "\x20\x21\x22", "\x30\x31\x32", "\x40\x41\x42"};
+    QList<QByteArray> components = inks.first(colors);
+    components.insert(alpha, opacity);
+    const QByteArray bytes =
+        bytesOf(imageFile(QStringLiteral("colour.jp2"))).first(12) +
+        box("ftyp", QByteArray("jp2 \0\0\0\0jp2 ", 12)) +
+        box("jp2h", headerOf(components, alpha, profileOf(colorSpace.constData()))) +
+        box("jp2c", codestream(components));
+    const ImageFile file =
+        ImageFile::open(writeFile(m_folder.filePath(QStringLiteral("opacity.jp2")), bytes));
+    const Raster raster = decodeJpeg2000(file.view(), readJpeg2000Facts(file.view()));
+    QByteArray pixels;
+    for (int x = 0; x < 3; ++x) {
+        for (int c = 0; c < colors; ++c) {
+            pixels += inks[c][x];
+        }
+    }
+    QCOMPARE(raster.samples.toHex(), pixels.toHex());
+    QVERIFY(raster.alpha.has_value());
+    QCOMPARE(raster.alpha->samples.toHex(), opacity.toHex());
 }
 
 QTEST_GUILESS_MAIN(Jpeg2000Test)
