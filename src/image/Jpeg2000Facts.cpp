@@ -65,12 +65,18 @@ void readColorBox(const FileView &content, Jpeg2000Facts &facts) {
 void readChannelBox(const FileView &content, Jpeg2000Facts &facts) {
     const QByteArray bytes = content.readExactly(0, content.size());
     const int count = bigEndianAt<quint16>(bytes, 0);
+    int colors = 0;
     for (int i = 0; i < count; ++i) {
         const auto type = bigEndianAt<quint16>(bytes, 2 + 6 * i + 2);
+        const auto color = bigEndianAt<quint16>(bytes, 2 + 6 * i + 4);
+        colors += type == 0 && color > 0 && color < count ? 1 : 0;
         if ((type == 1 || type == 2) && facts.alphaChannel < 0) {
             facts.alphaChannel = bigEndianAt<quint16>(bytes, 2 + 6 * i);
             facts.isPremultiplied = type == 2;
         }
+    }
+    if (facts.alphaChannel >= 0 && colors == count - 1) {
+        facts.alphaChannel = colors; // The decoder brings the colours to the front.
     }
 }
 

@@ -164,7 +164,9 @@ void Jpeg2000Test::opacityIsTakenFromAmongTheColours_data() {
     QTest::addColumn<int>("colors");
     QTest::addColumn<int>("alpha");
     QTest::newRow("behind four inks") << QByteArray("CMYK") << 4 << 4;
+    QTest::newRow("before four inks") << QByteArray("CMYK") << 4 << 0;
     QTest::newRow("behind three colours") << QByteArray("RGB ") << 3 << 3;
+    QTest::newRow("before three colours") << QByteArray("RGB ") << 3 << 0;
     QTest::newRow("behind a grey") << QByteArray("GRAY") << 1 << 1;
 }
 
