@@ -147,9 +147,10 @@ void store(QByteArray &samples, qsizetype index, int value, int bits) {
 
 /// sYCC (IEC 61966-2-1, annex F) to RGB.
 void convertFromYcc(std::array<int, 4> &pixel, int most) {
+    const int middle = (most + 1) / 2;
     const double y = pixel[0];
-    const double cb = pixel[1] - (most + 1) / 2;
-    const double cr = pixel[2] - (most + 1) / 2;
+    const double cb = pixel[1] - middle;
+    const double cr = pixel[2] - middle;
     const auto cut = [most](double v) {
         return std::clamp(static_cast<int>(std::lround(v)), 0, most);
     };
@@ -230,6 +231,7 @@ Raster decodeJpeg2000(const FileView &file, const Jpeg2000Facts &facts) {
         components.push_back(facts.alphaChannel);
     }
     std::vector<Component> sources;
+    sources.reserve(components.size());
     for (const int c : components) {
         sources.emplace_back(image->comps[c], raster.bits, raster.width, raster.height);
     }

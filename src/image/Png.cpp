@@ -23,7 +23,7 @@ constexpr qint64 kSignatureBytes = 8;
 constexpr double kMetresPerInch = 0.0254;
 /// The most that deflate shrinks anything.
 constexpr qint64 kDeflateRatio = 1040;
-constexpr qsizetype kMostPaletteBytes = 3 * 256;
+constexpr qsizetype kMostPaletteBytes = qsizetype{3} * 256;
 
 struct PngFacts {
     ImageHeader header;

@@ -114,7 +114,7 @@ void PngTest::orientationAfterTheRowsIsRead() {
 
 void PngTest::paletteOfTooManyColoursIsRefused() {
     QByteArray bytes = bytesOf(imageFile(QStringLiteral("palette.png")));
-    bytes.insert(bytes.indexOf("IDAT") - 4, pngChunk("PLTE", QByteArray(3 * 257, '\1')));
+    bytes.insert(bytes.indexOf("IDAT") - 4, pngChunk("PLTE", QByteArray(qsizetype{3} * 257, '\1')));
     QCOMPARE(refusalOf(write(bytes)), QStringLiteral("The PNG file has no palette"));
 }
 

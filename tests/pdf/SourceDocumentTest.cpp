@@ -36,7 +36,7 @@ class SourceDocumentTest : public QObject {
     /// Three pages encrypted by qpdf.
     QString encrypted(const QString &user, const QStringList &options) const {
         const QString plain = saved(QStringLiteral("plain.pdf"), threePages().bytes());
-        const QString result = path(QStringLiteral("encrypted.pdf"));
+        QString result = path(QStringLiteral("encrypted.pdf"));
         runTool(QStringLiteral("qpdf"),
                 QStringList{QStringLiteral("--allow-weak-crypto"), QStringLiteral("--encrypt"),
                             user, QStringLiteral("owner")} +
