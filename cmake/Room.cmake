@@ -2,8 +2,8 @@
 # library of one folder of src/, named folioforge_NAME. Headers are included as "room/Header.h", and each room's include
 # path holds that room alone, so a room sees only the rooms it links to: an arrow that points the
 # wrong way does not compile. WIDGETS marks a room of the window: it links Qt Widgets and runs moc
-# and uic. HEADERS are those outside the tree that take long and are included by many: where a preset
-# compiles headers ahead, see CMakePresets.json, they are compiled once for the room.
+# and uic. HEADERS are those outside the tree that take long and are included by many: for the sanitizers,
+# they are compiled once for the room. In the other builds a file that lacks an include fails.
 function(folioforge_room name)
     cmake_parse_arguments(ROOM "WIDGETS" "" "SOURCES;LINKS;PRIVATE_LINKS;HEADERS" ${ARGN})
     set(target folioforge_${name})
@@ -23,8 +23,10 @@ function(folioforge_room name)
         target_link_libraries(${target}
             PUBLIC ${ROOM_LINKS} Qt6::Core
             PRIVATE ${ROOM_PRIVATE_LINKS} folioforge_compiler)
-        target_precompile_headers(${target} PRIVATE
-            <QFile> <QString> <algorithm> <memory> <string> <vector> ${ROOM_HEADERS})
+        if(FOLIOFORGE_SANITIZE AND NOT FOLIOFORGE_FUZZ)
+            target_precompile_headers(${target} PRIVATE
+                <QFile> <QString> <algorithm> <memory> <string> <vector> ${ROOM_HEADERS})
+        endif()
     else()
         add_library(${target} INTERFACE)
         target_include_directories(${target} INTERFACE "${view}")

@@ -68,10 +68,10 @@ std::string jpegFile(int width, int height, const Kind &kind) {
     jpeg_start_compress(&codec, TRUE);
     std::minstd_rand random(1);
     for (int y = 0; y < height; ++y) {
-        std::vector<JSAMPLE> row;
+        std::vector<JSAMPLE> row(static_cast<std::size_t>(width) * kind.components);
         for (int x = 0; x < width * kind.components; ++x) {
-            row.push_back(static_cast<JSAMPLE>(
-                sampleAt(x / kind.components, y, x % kind.components, random)));
+            row[static_cast<std::size_t>(x)] =
+                static_cast<JSAMPLE>(sampleAt(x / kind.components, y, x % kind.components, random));
         }
         JSAMPROW rows = row.data();
         jpeg_write_scanlines(&codec, &rows, 1);
