@@ -36,15 +36,24 @@ QStringList filesOf(const QStringList &chosen, StandIns &standIns) {
     return files;
 }
 
-/// The file names that a drag carries; nothing when it carries none by its kind.
-std::optional<QStringList> draggedPaths(const QMimeData &data) {
+/// The file that `url` names to the byte: of names that are no text, several read alike.
+QString fileOf(const QUrl &url, StandIns &standIns) {
+    const QString path = url.toLocalFile();
+    return path.contains(QChar::ReplacementCharacter)
+               ? standIns.pathFor(
+                     QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()))
+               : path;
+}
+
+/// The files that a drag carries; nothing when it carries none by its kind.
+std::optional<QStringList> draggedPaths(const QMimeData &data, StandIns &standIns) {
     if (!data.hasUrls()) {
         return std::nullopt;
     }
     QStringList paths;
     for (const QUrl &url : data.urls()) {
         if (url.isLocalFile()) {
-            paths += url.toLocalFile();
+            paths += fileOf(url, standIns);
         }
     }
     return paths;
@@ -258,12 +267,12 @@ void MainWndCtrl::exchangeWithRow(int row) {
 }
 
 bool MainWndCtrl::acceptDrop(const QMimeData &data, int row) {
-    const std::optional<QStringList> dragged = draggedPaths(data);
+    const std::optional<QStringList> dragged = draggedPaths(data, m_standIns);
     if (!dragged) {
         return true;
     }
     QStringList paths;
-    for (const QString &path : m_standIns.pathsForReadable(*dragged)) {
+    for (const QString &path : *dragged) {
         if (isDroppable(path)) {
             paths += path;
         }

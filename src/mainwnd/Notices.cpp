@@ -2,7 +2,14 @@
 
 #include <QFileDialog>
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <memory>
 
 namespace folioforge {
 namespace {
@@ -66,6 +73,23 @@ void showAsPlainText(QMessageBox &box) {
     }
 }
 
+/// A notice may name thousands of files: what half the screen has no room for scrolls, so that the
+/// button stays within reach.
+void letLongTextScroll(QMessageBox &box) {
+    auto *text = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
+    const QSize most = box.screen()->availableGeometry().size() / 2;
+    if (!text || text->sizeHint().height() <= most.height()) {
+        return;
+    }
+    auto *area = new QScrollArea(&box);
+    const std::unique_ptr<QLayoutItem> place(box.layout()->replaceWidget(text, area));
+    area->setWidget(text);
+    area->setFrameShape(QFrame::NoFrame);
+    const int bar = area->verticalScrollBar()->sizeHint().width();
+    area->setMinimumWidth(std::min(text->sizeHint().width() + bar, most.width()));
+    area->setFixedHeight(most.height());
+}
+
 } // namespace
 
 void Notices::showSheet(QWidget *window, const Notice &notice, Ended ended) {
@@ -89,6 +113,7 @@ void Notices::show(QWidget *window, const Notice &notice, Kind kind, Ended ended
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setInformativeText(notice.message);
     showAsPlainText(*box);
+    letLongTextScroll(*box);
     box->setWindowModality(kind == Kind::Sheet ? Qt::WindowModal : Qt::ApplicationModal);
     if (ended) {
         // Queued, so that this sheet has gone before the next one comes.

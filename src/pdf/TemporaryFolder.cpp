@@ -39,6 +39,11 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 QString TemporaryFolder::path() {
+    // A long life outlasts those who clean the system's temporary folder.
+    if (m_part && isRemoved(m_fd)) {
+        ::close(m_fd);
+        m_part.reset();
+    }
     if (!m_part) {
         removeAbandonedParts(m_parent);
         const std::string parent = QFile::encodeName(m_parent).toStdString();

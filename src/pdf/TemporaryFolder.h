@@ -21,8 +21,8 @@ class TemporaryFolder {
     TemporaryFolder(const TemporaryFolder &) = delete;
     TemporaryFolder &operator=(const TemporaryFolder &) = delete;
 
-    /// The path of the folder. Where none can be made it is the parent's, in which making a file
-    /// then tells the reason.
+    /// The path of the folder, of a new one where somebody removed it. Where none can be made it is
+    /// the parent's, in which making a file then tells the reason.
     [[nodiscard]] QString path();
 
   private:

@@ -111,6 +111,25 @@ class NamesTest : public QObject {
                 {QStringLiteral("-c"), QStringLiteral("rm \"$0\"/caf*.txt"), w.home.path()});
     }
 
+    void droppedFilesWhoseNamesReadAlikeStayDifferentFiles() {
+        TestWindow w;
+        const QByteArray folder = QFile::encodeName(w.home.path());
+        writeFileNamed(folder + "/caf\xe8.txt", "grave\n");
+        writeFileNamed(folder + "/caf\xe9.txt", "acute\n");
+        QMimeData data;
+        data.setUrls({QUrl::fromEncoded("file://" + folder + "/caf%E9.txt"),
+                      QUrl::fromEncoded("file://" + folder + "/caf%E8.txt")});
+        QVERIFY(w.ctrl.acceptDrop(data, 0));
+        QCOMPARE(w.ctrl.filesArray().count(), 2);
+        run(w);
+        QCOMPARE(PdfProbe(w.path(QStringLiteral("out/caf\uFFFD.pdf"))).text().trimmed(),
+                 QStringLiteral("acute"));
+        QCOMPARE(PdfProbe(w.path(QStringLiteral("out/caf\uFFFD(1).pdf"))).text().trimmed(),
+                 QStringLiteral("grave"));
+        runTool(QStringLiteral("sh"),
+                {QStringLiteral("-c"), QStringLiteral("rm \"$0\"/caf*.txt"), w.home.path()});
+    }
+
     void noticesShowThemAsPlainText() {
         QWidget window;
         Notices notices;

@@ -4,6 +4,9 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 
 using namespace folioforge;
@@ -43,6 +46,23 @@ class NoticesTest : public QObject {
         Notices notices;
         notices.showSheet(&window, {QStringLiteral("Notice"), QStringLiteral("<b>a</b>.pdf")});
         QCOMPARE(boxOf(window)->textFormat(), Qt::PlainText);
+    }
+
+    void theButtonOfANoticeThatNamesThousandsOfFilesIsOnTheScreen() {
+        QWidget window;
+        window.show();
+        Notices notices;
+        const QString names = QStringLiteral("/a/damaged.pdf\n").repeated(3000);
+        notices.showSheet(&window, {QStringLiteral("Notice"), names});
+        QMessageBox *box = boxOf(window);
+        QVERIFY(box && QTest::qWaitForWindowExposed(box));
+        QCOMPARE(box->informativeText(), names);
+        const QRect screen = box->screen()->availableGeometry();
+        QVERIFY(box->height() < screen.height());
+        const auto *area = box->findChild<QScrollArea *>();
+        QVERIFY(area && area->verticalScrollBar()->maximum() > 10 * screen.height());
+        QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+        QTRY_VERIFY(!boxOf(window));
     }
 
     void whatFollowsASheetComesWhenItHasGone() {

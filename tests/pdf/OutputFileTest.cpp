@@ -234,6 +234,16 @@ class OutputFileTest : public QObject {
         QCOMPARE(names(), QStringList());
     }
 
+    void aTemporaryFolderThatSomebodyRemovedIsMadeAgain() {
+        {
+            TemporaryFolder folder(m_folder->path());
+            QVERIFY(QDir(folder.path()).removeRecursively());
+            QVERIFY(QFileInfo(folder.path()).isDir());
+            QCOMPARE(QFileInfo(folder.path()).path(), m_folder->path());
+        }
+        QCOMPARE(names(), QStringList());
+    }
+
     void aTemporaryFolderThatCannotBeMadeIsItsParent() {
         TemporaryFolder folder(target(QStringLiteral("missing")));
         QCOMPARE(folder.path(), target(QStringLiteral("missing")));
