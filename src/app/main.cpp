@@ -1,5 +1,5 @@
 #include "app/FolioforgeAppDelegate.h"
-#include "convert/QuartzFilter.h"
+#include "convert/Bundle.h"
 #include "mainwnd/Desktop.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"

@@ -3,9 +3,6 @@
 #include "convert/PropertyList.h"
 #include "error/Error.h"
 
-#include <QCoreApplication>
-#include <QDir>
-
 #include <array>
 
 namespace folioforge {
@@ -62,10 +59,6 @@ QString quartzFilterName(int index) {
     static const std::array<QString, 4> names{QString(), QStringLiteral("150m"),
                                               QStringLiteral("96m"), QStringLiteral("72l")};
     return index >= 0 && index < static_cast<int>(names.size()) ? names[index] : QString();
-}
-
-QString applicationBundlePath() {
-    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../.."));
 }
 
 QString quartzFilterPath(const QString &bundlePath, const QString &name) {

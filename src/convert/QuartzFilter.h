@@ -17,9 +17,6 @@ struct QuartzFilter {
 /// which compresses nothing, and for any other row.
 QString quartzFilterName(int index);
 
-/// The running application's bundle: its programs lie in Contents/MacOS of it, on every system.
-QString applicationBundlePath();
-
 /// The filter file of that name in the bundle: BUNDLE/Contents/Resources/NAME.qfilter.
 QString quartzFilterPath(const QString &bundlePath, const QString &name);
 

@@ -28,7 +28,7 @@ class StandIns {
     /// the readable form of its path, which does not exist.
     QString pathFor(const QByteArray &path);
 
-    /// The same for readable forms of paths, as file panels and drops give them: where nothing
+    /// The same for readable forms of paths, as file panels give them: where nothing
     /// stands under one, the file of its folder whose name reads like that is meant.
     QStringList pathsForReadable(QStringList paths);
 

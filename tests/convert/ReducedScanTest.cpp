@@ -3,12 +3,12 @@
 #include "convert/compress/jpeg/JpegErrors.h"
 #include "convert/compress/jpeg/JpegReader.h"
 #include "error/Error.h"
+#include "support/JpegFile.h"
 
 #include <QTest>
 
 #include <array>
 #include <cmath>
-#include <cstdlib>
 #include <numbers>
 #include <random>
 #include <string>
@@ -38,49 +38,33 @@ int sampleAt(int x, int y, int component, std::minstd_rand &random) {
 }
 
 std::string jpegFile(int width, int height, const Kind &kind) {
-    jpeg_compress_struct codec = {};
-    jpeg_error_mgr errors = {};
-    codec.err = jpeg_std_error(&errors);
-    jpeg_create_compress(&codec);
-    unsigned char *bytes = nullptr;
-    unsigned long size = 0;
-    jpeg_mem_dest(&codec, &bytes, &size);
-    codec.image_width = static_cast<JDIMENSION>(width);
-    codec.image_height = static_cast<JDIMENSION>(height);
-    codec.input_components = kind.components;
-    codec.in_color_space = kind.components == 1     ? JCS_GRAYSCALE
-                           : kind.components == 4   ? JCS_CMYK
-                           : kind.stored == JCS_RGB ? JCS_RGB
-                                                    : JCS_YCbCr;
-    jpeg_set_defaults(&codec);
-    if (kind.stored != JCS_UNKNOWN) {
-        jpeg_set_colorspace(&codec, kind.stored);
-    }
-    jpeg_set_quality(&codec, kind.quality, TRUE);
-    codec.comp_info[0].h_samp_factor = kind.across;
-    codec.comp_info[0].v_samp_factor = kind.down;
-    codec.restart_in_rows = kind.restartRows;
-    codec.arith_code = static_cast<boolean>(kind.arithmetic);
-    codec.optimize_coding = static_cast<boolean>(kind.optimized);
-    if (kind.progressive) {
-        jpeg_simple_progression(&codec);
-    }
-    jpeg_start_compress(&codec, TRUE);
-    std::minstd_rand random(1);
-    for (int y = 0; y < height; ++y) {
-        std::vector<JSAMPLE> row(static_cast<std::size_t>(width) * kind.components);
-        for (int x = 0; x < width * kind.components; ++x) {
-            row[static_cast<std::size_t>(x)] =
-                static_cast<JSAMPLE>(sampleAt(x / kind.components, y, x % kind.components, random));
+    const J_COLOR_SPACE given = kind.components == 1     ? JCS_GRAYSCALE
+                                : kind.components == 4   ? JCS_CMYK
+                                : kind.stored == JCS_RGB ? JCS_RGB
+                                                         : JCS_YCbCr;
+    const auto configure = [&kind](jpeg_compress_struct &codec) {
+        if (kind.stored != JCS_UNKNOWN) {
+            jpeg_set_colorspace(&codec, kind.stored);
         }
-        JSAMPROW rows = row.data();
-        jpeg_write_scanlines(&codec, &rows, 1);
-    }
-    jpeg_finish_compress(&codec);
-    std::string file(reinterpret_cast<const char *>(bytes), size);
-    jpeg_destroy_compress(&codec);
-    std::free(bytes);
-    return file;
+        jpeg_set_quality(&codec, kind.quality, TRUE);
+        codec.comp_info[0].h_samp_factor = kind.across;
+        codec.comp_info[0].v_samp_factor = kind.down;
+        codec.restart_in_rows = kind.restartRows;
+        codec.arith_code = static_cast<boolean>(kind.arithmetic);
+        codec.optimize_coding = static_cast<boolean>(kind.optimized);
+        if (kind.progressive) {
+            jpeg_simple_progression(&codec);
+        }
+    };
+    std::minstd_rand random(1);
+    const auto appendRow = [&](int y, std::vector<JSAMPLE> &row) {
+        for (int x = 0; x < width * kind.components; ++x) {
+            row.push_back(static_cast<JSAMPLE>(
+                sampleAt(x / kind.components, y, x % kind.components, random)));
+        }
+    };
+    return test::jpegFile({width, height}, kind.components, given, configure, appendRow)
+        .toStdString();
 }
 
 /// A grey picture of one block with these codes (how many of each length, and their values) for the

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <span>
 #include <utility>
 
 namespace folioforge {
@@ -41,19 +40,6 @@ JDIMENSION bandRows(const jpeg_decompress_struct &codec) {
     const int side = codec.min_DCT_scaled_size;
 #endif
     return static_cast<JDIMENSION>(codec.max_v_samp_factor * side);
-}
-
-/// Whether the components are light or inks, which JPEG can keep as well.
-bool isPlain(J_COLOR_SPACE space) {
-    return space == JCS_RGB || space == JCS_CMYK;
-}
-
-bool isSampledAlike(const jpeg_decompress_struct &codec) {
-    const std::span components(codec.comp_info, static_cast<std::size_t>(codec.num_components));
-    return std::ranges::all_of(components, [&codec](const jpeg_component_info &info) {
-        return info.h_samp_factor == codec.max_h_samp_factor &&
-               info.v_samp_factor == codec.max_v_samp_factor;
-    });
 }
 
 /// Plain components kept at different sizes are possible but have no use.
@@ -105,11 +91,8 @@ struct JpegReader::State {
     }
 
     PlanarImage decode(int eighths) {
-        // libjpeg brings components of one kind to one size, whatever their sampling.
-        if (!isPlain(codec.jpeg_color_space) || isSampledAlike(codec)) {
-            if (auto image = readReducedScan(codec, eighths)) {
-                return std::move(*image);
-            }
+        if (auto image = readReducedScan(codec, eighths)) {
+            return std::move(*image);
         }
         if (!start(eighths)) {
             throw damagedJpeg(escape);

@@ -5,6 +5,7 @@
 #include "convert/compress/jpeg/CoefficientCode.h"
 #include "convert/compress/jpeg/EntropyCoded.h"
 #include "convert/compress/jpeg/HuffmanCode.h"
+#include "convert/compress/jpeg/JpegColour.h"
 
 #include <algorithm>
 #include <cstring>
@@ -51,11 +52,14 @@ bool isAlone(const jpeg_decompress_struct &codec) {
     return codec.comps_in_scan == 1;
 }
 
-bool isSampledAtHalfOrMore(const jpeg_decompress_struct &codec) {
+/// Colour may be kept at half the size of brightness, as it will be again. Light and inks are of
+/// one size, to which only libjpeg brings them.
+bool isSampledWellEnough(const jpeg_decompress_struct &codec) {
+    const int most = isPlain(codec.jpeg_color_space) ? 1 : 2;
     const std::span components(codec.comp_info, static_cast<std::size_t>(codec.num_components));
-    return std::ranges::all_of(components, [&codec](const jpeg_component_info &info) {
-        return 2 * info.h_samp_factor >= codec.max_h_samp_factor &&
-               2 * info.v_samp_factor >= codec.max_v_samp_factor;
+    return std::ranges::all_of(components, [&](const jpeg_component_info &info) {
+        return most * info.h_samp_factor >= codec.max_h_samp_factor &&
+               most * info.v_samp_factor >= codec.max_v_samp_factor;
     });
 }
 
@@ -64,7 +68,7 @@ bool isCommon(const jpeg_decompress_struct &codec) {
     return !codec.progressive_mode && !codec.arith_code &&
            codec.data_precision == BITS_IN_JSAMPLE && codec.comps_in_scan == codec.num_components &&
            codec.Ss == 0 && codec.Se == DCTSIZE2 - 1 && codec.Ah == 0 && codec.Al == 0 &&
-           isSampledAtHalfOrMore(codec);
+           isSampledWellEnough(codec);
 }
 
 /// The table of a component where it has one for baseline files.
@@ -157,14 +161,15 @@ void draw(const CoefficientBlock &block, const BlockTransform &transform, int co
 
 class ScanReader {
   public:
-    ScanReader(const jpeg_decompress_struct &codec, std::vector<Component> components)
+    ScanReader(const jpeg_decompress_struct &codec, std::vector<Component> components,
+               std::vector<BlockPlace> places)
         : m_across(quotientUp(codec.image_width,
                               DCTSIZE * (isAlone(codec) ? 1L : codec.max_h_samp_factor)))
         , m_down(quotientUp(codec.image_height,
                             DCTSIZE * (isAlone(codec) ? 1L : codec.max_v_samp_factor)))
         , m_interval(static_cast<int>(codec.restart_interval))
         , m_components(std::move(components))
-        , m_places(placesOf(m_components))
+        , m_places(std::move(places))
         , m_blocks(m_places.size()) {}
 
     /// Reads the whole of `coded` into `image`. False where something is not in order.
@@ -248,11 +253,12 @@ std::optional<PlanarImage> readReducedScan(const jpeg_decompress_struct &codec, 
         return std::nullopt;
     }
     std::vector<Component> components = componentsOf(codec, eighths);
-    if (components.empty() || placesOf(components).size() > kMostBlocks) {
+    std::vector<BlockPlace> places = placesOf(components);
+    if (places.empty() || places.size() > kMostBlocks) {
         return std::nullopt;
     }
     PlanarImage image = roomFor(codec, eighths);
-    ScanReader reader(codec, std::move(components));
+    ScanReader reader(codec, std::move(components), std::move(places));
     const bool isWhole = reader.read({{codec.src->next_input_byte, codec.src->bytes_in_buffer},
                                       kMostGroupBytes + BitReader::kPadding},
                                      image);
