@@ -13,6 +13,7 @@
 #include <filesystem>
 #include <mutex>
 #include <string_view>
+#include <thread>
 #include <utility>
 
 namespace folioforge {
@@ -26,6 +27,10 @@ constexpr std::string_view kEnding = ".folioforge-part";
 std::atomic<PartFile *> newestPart{nullptr};
 static_assert(std::atomic<PartFile *>::is_always_lock_free);
 std::mutex turnToWrite;
+
+// The handlers that walk the list now, on any thread: what one of them may be at must not go yet.
+std::atomic<int> walkers{0};
+static_assert(std::atomic<int>::is_always_lock_free);
 
 bool isPartName(const std::string &name) {
     return name.starts_with('.') && name.ends_with(kEnding);
@@ -111,9 +116,13 @@ PartFile::~PartFile() {
         place = &place->load()->m_older;
     }
     *place = m_older.load();
+    while (walkers != 0) {
+        std::this_thread::yield();
+    }
 }
 
 void removePartFiles() noexcept {
+    ++walkers;
     // What a folder holds is newer than the folder, which is empty when its turn comes.
     for (const PartFile *part = newestPart; part; part = part->m_older) {
         const char *path = part->m_path.c_str();
@@ -121,6 +130,7 @@ void removePartFiles() noexcept {
             ::rmdir(path);
         }
     }
+    --walkers;
 }
 
 } // namespace folioforge

@@ -11,13 +11,17 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
 #include <memory>
+#include <stop_token>
 #include <string>
+#include <thread>
 
 using namespace folioforge;
 using test::FaultyCalls;
@@ -275,6 +279,22 @@ class OutputFileTest : public QObject {
         QCOMPARE(names().size(), 1);
         removePartFiles();
         QCOMPARE(names(), QStringList());
+    }
+
+    void anInterruptionOnAnotherThreadRemovesNothingThatIsNoLongerTemporary() {
+        const std::string path = QFile::encodeName(target()).toStdString();
+        const std::jthread interrupted([](const std::stop_token &stop) {
+            while (!stop.stop_requested()) {
+                removePartFiles();
+            }
+        });
+        for (int i = 0; i < 20'000; ++i) {
+            { const PartFile part(path); }
+            const int fd = ::open(path.c_str(), O_CREAT | O_WRONLY, 0600);
+            QVERIFY(fd >= 0);
+            ::close(fd);
+            QCOMPARE(::unlink(path.c_str()), 0);
+        }
     }
 
     void aFaultLeavesNothingAndSaysWhy_data() {
