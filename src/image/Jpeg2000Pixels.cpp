@@ -1,81 +1,20 @@
 #include "image/Jpeg2000Pixels.h"
 
 #include "error/Error.h"
+#include "image/OpenJpeg.h"
 #include "image/Parallel.h"
 
 #include <QtEndian>
 
-#include <openjpeg.h>
-
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
 namespace folioforge {
 
 namespace {
 
-struct DestroyCodec {
-    void operator()(opj_codec_t *codec) const { opj_destroy_codec(codec); }
-};
-struct DestroyStream {
-    void operator()(opj_stream_t *stream) const { opj_stream_destroy(stream); }
-};
-struct DestroyImage {
-    void operator()(opj_image_t *image) const { opj_image_destroy(image); }
-};
-using Codec = std::unique_ptr<opj_codec_t, DestroyCodec>;
-using Stream = std::unique_ptr<opj_stream_t, DestroyStream>;
-using Image = std::unique_ptr<opj_image_t, DestroyImage>;
-
-struct Cursor {
-    FileView file;
-    qint64 at = 0;
-};
-
-constexpr OPJ_SIZE_T kEnd = static_cast<OPJ_SIZE_T>(-1);
-
-OPJ_SIZE_T readBytes(void *target, OPJ_SIZE_T size, void *data) {
-    auto &cursor = *static_cast<Cursor *>(data);
-    try {
-        const qint64 got = cursor.file.readInto(cursor.at, {static_cast<uchar *>(target), size});
-        cursor.at += got;
-        return got == 0 ? kEnd : static_cast<OPJ_SIZE_T>(got);
-    } catch (const Error &) {
-        return kEnd; // No exception may pass through the library.
-    }
-}
-
-OPJ_OFF_T skipBytes(OPJ_OFF_T size, void *data) {
-    static_cast<Cursor *>(data)->at += size;
-    return size;
-}
-
-OPJ_BOOL seekTo(OPJ_OFF_T at, void *data) {
-    static_cast<Cursor *>(data)->at = at;
-    return OPJ_TRUE;
-}
-
-void ignoreMessage(const char * /*message*/, void * /*data*/) {}
-
-Stream openStream(Cursor &cursor) {
-    Stream stream(opj_stream_default_create(OPJ_TRUE));
-    opj_stream_set_user_data(stream.get(), &cursor, nullptr);
-    opj_stream_set_user_data_length(stream.get(), static_cast<OPJ_UINT64>(cursor.file.size()));
-    opj_stream_set_read_function(stream.get(), readBytes);
-    opj_stream_set_skip_function(stream.get(), skipBytes);
-    opj_stream_set_seek_function(stream.get(), seekTo);
-    return stream;
-}
-
-Codec openCodec(const Jpeg2000Facts &facts) {
-    Codec codec(opj_create_decompress(facts.isCodestream ? OPJ_CODEC_J2K : OPJ_CODEC_JP2));
-    opj_set_info_handler(codec.get(), ignoreMessage, nullptr);
-    opj_set_warning_handler(codec.get(), ignoreMessage, nullptr);
-    opj_set_error_handler(codec.get(), ignoreMessage, nullptr);
-    opj_dparameters_t parameters;
-    opj_set_default_decoder_parameters(&parameters);
-    opj_setup_decoder(codec.get(), &parameters);
+OpenJpegCodec openCodec(const Jpeg2000Facts &facts) {
+    OpenJpegCodec codec = openJpegCodec(facts.isCodestream);
     const qint64 bytes = qint64(facts.header.width) * facts.header.height * facts.components;
     if (bytes >= kWorthAThread && opj_has_thread_support() == OPJ_TRUE) {
         opj_codec_set_threads(codec.get(), std::min(opj_get_num_cpus(), 8));
@@ -83,14 +22,16 @@ Codec openCodec(const Jpeg2000Facts &facts) {
     return codec;
 }
 
-Image decode(const FileView &file, const Jpeg2000Facts &facts) {
+OpenJpegImage decode(const FileView &file, const Jpeg2000Facts &facts) {
     const Error damaged(QStringLiteral("The JPEG 2000 file is damaged"));
-    Cursor cursor{file};
-    const Stream stream = openStream(cursor);
-    const Codec codec = openCodec(facts);
+    OpenJpegSource source{
+        [&file](qint64 at, std::span<uchar> target) { return file.readInto(at, target); },
+        file.size()};
+    const OpenJpegStream stream = openJpegStream(source);
+    const OpenJpegCodec codec = openCodec(facts);
     opj_image_t *raw = nullptr;
     const bool headerRead = opj_read_header(stream.get(), codec.get(), &raw) == OPJ_TRUE;
-    Image image(raw);
+    OpenJpegImage image(raw);
     // The codestream may claim another size than the box that was checked.
     if (!headerRead || image->x1 - image->x0 != static_cast<OPJ_UINT32>(facts.header.width) ||
         image->y1 - image->y0 != static_cast<OPJ_UINT32>(facts.header.height)) {
@@ -224,7 +165,7 @@ Raster decodeJpeg2000(const FileView &file, const Jpeg2000Facts &facts) {
     // The library holds four bytes for every sample: a short file must not cost gigabytes.
     const qint64 pixels = qint64(facts.header.width) * facts.header.height;
     requirePlausible(pixels * facts.components, file.size(), 4000);
-    const Image image = decode(file, facts);
+    const OpenJpegImage image = decode(file, facts);
     std::vector<int> components = colorComponents(*image, facts);
     Raster raster = rasterFor(*image, facts, components);
     if (raster.alpha) {

@@ -1,67 +1,28 @@
 #include "convert/compress/JpxReader.h"
 
 #include "error/Error.h"
+#include "image/OpenJpeg.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <memory>
-
-#include <openjpeg.h>
+#include <span>
 
 namespace folioforge {
 
 namespace {
 
-struct CloseStream {
-    void operator()(opj_stream_t *stream) const { opj_stream_destroy(stream); }
-};
-struct CloseCodec {
-    void operator()(opj_codec_t *codec) const { opj_destroy_codec(codec); }
-};
-struct CloseImage {
-    void operator()(opj_image_t *image) const { opj_image_destroy(image); }
-};
-struct CloseInfo {
+struct DestroyInfo {
     void operator()(opj_codestream_info_v2_t *info) const { opj_destroy_cstr_info(&info); }
 };
 
-/// A read position in memory, as OpenJPEG's stream callbacks want it.
-struct Cursor {
-    std::string_view data;
-    std::size_t at = 0;
-};
-
-OPJ_SIZE_T readSome(void *buffer, OPJ_SIZE_T size, void *user) {
-    auto *cursor = static_cast<Cursor *>(user);
-    const std::size_t left = cursor->data.size() - cursor->at;
-    if (left == 0) {
-        return static_cast<OPJ_SIZE_T>(-1);
-    }
-    const std::size_t count = std::min<std::size_t>(size, left);
-    std::memcpy(buffer, cursor->data.data() + cursor->at, count);
-    cursor->at += count;
-    return count;
-}
-
-OPJ_OFF_T skip(OPJ_OFF_T count, void *user) {
-    auto *cursor = static_cast<Cursor *>(user);
-    const auto left = static_cast<OPJ_OFF_T>(cursor->data.size() - cursor->at);
-    if (count < 0 || left == 0) {
-        return -1;
-    }
-    const OPJ_OFF_T step = std::min(count, left);
-    cursor->at += static_cast<std::size_t>(step);
-    return step;
-}
-
-OPJ_BOOL seek(OPJ_OFF_T position, void *user) {
-    auto *cursor = static_cast<Cursor *>(user);
-    if (position < 0 || static_cast<std::size_t>(position) > cursor->data.size()) {
-        return OPJ_FALSE;
-    }
-    cursor->at = static_cast<std::size_t>(position);
-    return OPJ_TRUE;
+/// The bytes of `data`, as a decoder reads them.
+OpenJpegSource sourceOf(std::string_view data) {
+    const auto read = [data](qint64 at, std::span<uchar> target) {
+        return static_cast<qint64>(data.copy(reinterpret_cast<char *>(target.data()), target.size(),
+                                             static_cast<std::size_t>(at)));
+    };
+    return {read, static_cast<qint64>(data.size())};
 }
 
 Error damaged() {
@@ -74,7 +35,7 @@ bool isBareCodestream(std::string_view data) {
 
 /// How many halvings keep the image at or above `scale`.
 unsigned halvings(opj_codec_t *codec, double scale) {
-    const std::unique_ptr<opj_codestream_info_v2_t, CloseInfo> info(opj_get_cstr_info(codec));
+    const std::unique_ptr<opj_codestream_info_v2_t, DestroyInfo> info(opj_get_cstr_info(codec));
     if (!info || !info->m_default_tile_info.tccp_info || scale >= 1) {
         return 0;
     }
@@ -126,26 +87,14 @@ PlanarImage toBytes(const opj_image_t &image) {
 
 PlanarImage decodeJpx(std::string_view data, int width, int height, double scale,
                       JpxColour colour) {
-    Cursor cursor{data};
-    const std::unique_ptr<opj_stream_t, CloseStream> stream(opj_stream_default_create(OPJ_TRUE));
-    const std::unique_ptr<opj_codec_t, CloseCodec> codec(
-        opj_create_decompress(isBareCodestream(data) ? OPJ_CODEC_J2K : OPJ_CODEC_JP2));
-    if (!stream || !codec) {
-        throw damaged();
-    }
-    opj_stream_set_read_function(stream.get(), readSome);
-    opj_stream_set_skip_function(stream.get(), skip);
-    opj_stream_set_seek_function(stream.get(), seek);
-    opj_stream_set_user_data(stream.get(), &cursor, nullptr);
-    opj_stream_set_user_data_length(stream.get(), data.size());
-    opj_dparameters_t parameters;
-    opj_set_default_decoder_parameters(&parameters);
+    OpenJpegSource source = sourceOf(data);
+    const OpenJpegStream stream = openJpegStream(source);
+    const OpenJpegCodec codec = openJpegCodec(isBareCodestream(data));
     opj_image_t *header = nullptr;
-    if (!opj_setup_decoder(codec.get(), &parameters) ||
-        !opj_read_header(stream.get(), codec.get(), &header)) {
+    if (!opj_read_header(stream.get(), codec.get(), &header)) {
         throw damaged();
     }
-    const std::unique_ptr<opj_image_t, CloseImage> image(header);
+    const OpenJpegImage image(header);
     requireHandled(*image);
     if (static_cast<qint64>(image->x1) - image->x0 != width ||
         static_cast<qint64>(image->y1) - image->y0 != height) {
