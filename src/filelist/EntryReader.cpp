@@ -2,11 +2,13 @@
 
 #include "filelist/FileKind.h"
 #include "filelist/SourceFiles.h"
+#include "image/Parallel.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
 #include <atomic>
+#include <future>
 #include <optional>
 #include <thread>
 
@@ -39,11 +41,12 @@ std::vector<std::optional<PDFFileInfo>> readAll(const QStringList &paths) {
     constexpr std::size_t kFilesPerThread = 8;
     const std::size_t threads =
         std::min<std::size_t>(std::thread::hardware_concurrency(), count / kFilesPerThread);
-    std::vector<std::jthread> others;
+    std::vector<std::future<void>> others;
     while (others.size() + 1 < threads) {
-        others.emplace_back(work);
+        others.push_back(beside(work));
     }
     work();
+    std::ranges::for_each(others, &std::future<void>::get);
     return read;
 }
 

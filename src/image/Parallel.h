@@ -12,10 +12,16 @@ namespace folioforge {
 /// Bytes of work below which a thread costs more than it saves.
 inline constexpr qint64 kWorthAThread = 1 << 18;
 
-/// How std::async() runs a piece of work over so many bytes: beside the caller, or when the caller
-/// asks for its result.
-inline std::launch launchFor(qint64 bytes) {
-    return bytes >= kWorthAThread ? std::launch::async : std::launch::deferred;
+/// Does `work` on another thread, or, where the system gives none, when its result is asked for.
+template<typename Work> auto beside(const Work &work) {
+    // A copy: what is moved into a thread that then cannot be had is gone.
+    return std::async(std::launch::async | std::launch::deferred, work);
+}
+
+/// The same for work over so many bytes; when they are few, it is done when its result is asked
+/// for.
+template<typename Work> auto beside(qint64 bytes, const Work &work) {
+    return bytes >= kWorthAThread ? beside(work) : std::async(std::launch::deferred, work);
 }
 
 /// Calls work(first, end) for bands that together cover rows 0 to `rows` of `rowBytes` bytes each,
@@ -30,8 +36,7 @@ template<typename Work> void forEachBand(int rows, qint64 rowBytes, const Work &
     std::vector<std::future<void>> others;
     for (int band = 1; band < bands; ++band) {
         others.push_back(
-            std::async(std::launch::async,
-                       [&work, first = edge(band), end = edge(band + 1)] { work(first, end); }));
+            beside([&work, first = edge(band), end = edge(band + 1)] { work(first, end); }));
     }
     work(0, edge(1));
     for (auto &other : others) {

@@ -315,7 +315,7 @@ EncodedImage withDealtRows(const FileView &file, const PngFacts &facts) {
     EncodedImage image = describe(facts);
     DealtRows dealt =
         dealRows(inflateRows(file, facts, facts.header.height * (facts.stride() + 1)), facts);
-    auto mask = std::async(launchFor(dealt.color.size()), [&] {
+    auto mask = beside(dealt.color.size(), [&] {
         AlphaPlane plane{facts.bits, {}};
         plane.samples = unfilterRows(std::move(dealt.alpha), image.height,
                                      rowBytes(image.width, 1, facts.bits), facts.bits / 8);

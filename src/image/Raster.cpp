@@ -208,7 +208,7 @@ std::unique_ptr<EncodedImage> encodeAlpha(const AlphaPlane &alpha, int width, in
 EncodedImage encodeRaster(Raster raster) {
     std::future<std::unique_ptr<EncodedImage>> mask;
     if (raster.alpha) {
-        mask = std::async(launchFor(raster.samples.size()), [&raster] {
+        mask = beside(raster.samples.size(), [&raster] {
             return encodeAlpha(*raster.alpha, raster.width, raster.height);
         });
     }

@@ -7,7 +7,9 @@
 
 #include <QFileInfo>
 
+#include <memory>
 #include <numeric>
+#include <system_error>
 #include <utility>
 
 namespace folioforge {
@@ -230,7 +232,12 @@ void MainWndCtrl::endPageWrite(int pageIndex) {
 
 void MainWndCtrl::startWorker(std::function<void(const std::stop_token &)> work) {
     m_bWorking = true;
-    m_worker = std::jthread(std::move(work));
+    const auto shared = std::make_shared<decltype(work)>(std::move(work));
+    try {
+        m_worker = std::jthread([shared](const std::stop_token &stop) { (*shared)(stop); });
+    } catch (const std::system_error &) {
+        (*shared)({}); // The system gives no thread: better a window that waits than no document.
+    }
 }
 
 void MainWndCtrl::showAlertView() {

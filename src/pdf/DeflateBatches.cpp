@@ -1,5 +1,8 @@
 #include "pdf/DeflateBatches.h"
 
+#include "image/Parallel.h"
+
+#include <memory>
 #include <utility>
 
 namespace folioforge {
@@ -13,10 +16,9 @@ void DeflateBatches::add(const QPDFObjGen &stream, QByteArrayView bytes) {
         return;
     }
     keepRunning();
-    // Deferred is for a system that gives no further thread: the batch then waits for its turn.
-    m_running = std::async(
-        std::launch::async | std::launch::deferred,
-        [this, batch = std::exchange(m_batch, {})] { return compressed(batch, m_deflater); });
+    m_running = beside([this, batch = std::make_shared<Batch>(std::exchange(m_batch, {}))] {
+        return compressed(*batch, m_deflater);
+    });
 }
 
 void DeflateBatches::settle() {

@@ -1,4 +1,5 @@
 #include "gui/TestWindow.h"
+#include "support/NoThreads.h"
 #include "support/PdfProbe.h"
 
 #include <QCheckBox>
@@ -454,6 +455,16 @@ class ConvertingFilesTest : public QObject {
         QVERIFY(w.ctrl.isConverting());
         waitForTheEnd(w);
         QCOMPARE(w.states(), QStringLiteral("000.pdf 001.pdf 002.pdf"));
+    }
+
+    void aRunWithoutAFurtherThreadWritesEveryFile() {
+        TestWindow w;
+        addTexts(w, 3);
+        const NoThreads none;
+        run(w);
+        QVERIFY(none.refused() > 0);
+        QCOMPARE(w.states(), QStringLiteral("000.pdf 001.pdf 002.pdf"));
+        QVERIFY(PdfProbe(w.path(QStringLiteral("out/002.pdf"))).isValid());
     }
 
     void nothingHappensWithoutFiles() {

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <memory>
 
-#include <QThread>
-
 namespace folioforge {
 
 namespace {
@@ -23,14 +21,7 @@ std::size_t estimate(const ImageJob &job) {
 ReductionQueue::ReductionQueue(std::size_t count, Load load)
     : m_load(std::move(load))
     , m_images(count)
-    , m_taken(count, false) {
-    m_pool.setMaxThreadCount(QThread::idealThreadCount());
-}
-
-ReductionQueue::~ReductionQueue() {
-    m_pool.clear();
-    m_pool.waitForDone();
-}
+    , m_taken(count, false) {}
 
 void ReductionQueue::start(std::size_t index) {
     const auto promise = std::make_shared<std::promise<Reduction>>();
@@ -46,11 +37,11 @@ void ReductionQueue::start(std::size_t index) {
     m_images[index] = Ahead{estimate(*job), promise->get_future()};
     m_bytes += m_images[index]->bytes;
     ++m_started;
-    m_pool.start([job = std::move(job), promise] { promise->set_value(reduceImage(*job)); });
+    m_workers.start([job = std::move(job), promise] { promise->set_value(reduceImage(*job)); });
 }
 
 void ReductionQueue::workAhead(std::size_t from) {
-    const std::size_t most = 2 * static_cast<std::size_t>(m_pool.maxThreadCount()) + 1;
+    const std::size_t most = 2 * m_workers.most() + 1;
     for (std::size_t i = from; i < m_images.size() && m_started < most && m_bytes < kMemoryAhead;
          ++i) {
         if (!m_images[i] && !m_taken[i]) {

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "convert/compress/ImageReducer.h"
+#include "convert/compress/Workers.h"
 
 #include <cstddef>
 #include <functional>
 #include <future>
 #include <optional>
 #include <vector>
-
-#include <QThreadPool>
 
 namespace folioforge {
 
@@ -20,9 +19,6 @@ class ReductionQueue {
     using Load = std::function<ImageJob(std::size_t index)>;
 
     ReductionQueue(std::size_t count, Load load);
-    ~ReductionQueue();
-    ReductionQueue(const ReductionQueue &) = delete;
-    ReductionQueue &operator=(const ReductionQueue &) = delete;
 
     /// The result for the image at `index`, waiting for it where needed. The images that follow
     /// are worked on meanwhile, since they are likely to be taken next. An image taken again is
@@ -39,11 +35,11 @@ class ReductionQueue {
     void workAhead(std::size_t from);
 
     Load m_load;
-    QThreadPool m_pool;
     std::vector<std::optional<Ahead>> m_images;
     std::vector<bool> m_taken;
     std::size_t m_bytes = 0;
     std::size_t m_started = 0; ///< Started and not yet taken.
+    Workers m_workers;         ///< The last member: its tasks end before anything goes.
 };
 
 } // namespace folioforge

@@ -1,0 +1,85 @@
+#include "support/NoThreads.h"
+#include "convert/CompressionCase.h"
+#include "convert/Conversion.h"
+#include "filelist/EntryReader.h"
+#include "support/Files.h"
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+class NoThreadsTest : public QObject, CompressionCase {
+    Q_OBJECT
+
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    /// The PDF of the file at `source`, made while threads cannot be had.
+    PdfProbe converted(const QString &source) const {
+        const PDFFileInfo entry(source);
+        const std::vector<const PDFFileInfo *> entries{&entry};
+        ConversionOptions options;
+        options.outputFolder = m_folder->path();
+        const NoThreads none;
+        const PDFOutcome outcome = createPDF(entries, m_path, options);
+        if (outcome.close.status != CloseResult::Status::Written || none.refused() == 0) {
+            QTest::qFail(qPrintable(outcome.close.reason), __FILE__, __LINE__);
+        }
+        return PdfProbe(m_path);
+    }
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void aLongTextIsWritten() {
+        QByteArray lines;
+        for (int i = 0; i < 50'000; ++i) {
+            lines += "line number " + QByteArray::number(i) + "\n";
+        }
+        const PdfProbe probe = converted(writeFile(path(QStringLiteral("long.txt")), lines));
+        QVERIFY(probe.isValid());
+        QVERIFY(probe.text(1).startsWith(QStringLiteral("line number 0\n")));
+        QVERIFY(probe.text(probe.pageCount()).contains(QStringLiteral("line number 49999\n")));
+    }
+
+    void aPictureAndItsOpacityAreWritten() {
+        constexpr int kSide = 700;
+        QImage picture = photo(kSide, kSide, QImage::Format_RGBA8888);
+        picture.setPixelColor(0, 0, Qt::transparent);
+        QVERIFY(picture.save(path(QStringLiteral("picture.png"))));
+        const PdfProbe probe = converted(path(QStringLiteral("picture.png")));
+        QVERIFY(probe.isValid());
+        const QList<QStringList> images = probe.images();
+        QCOMPARE(images.size(), 2);
+        QCOMPARE(images.at(0).at(2), QStringLiteral("image"));
+        QCOMPARE(images.at(1).at(2), QStringLiteral("smask"));
+    }
+
+    void theImagesOfADocumentAreReduced() {
+        writeJpegPage("q 72 0 0 54 0 0 cm /Im0 Do Q");
+        QString copy;
+        {
+            const NoThreads none;
+            copy = compressed();
+            QVERIFY(none.refused() > 0);
+        }
+        const PdfProbe probe(copy);
+        QVERIFY(probe.isValid());
+        QCOMPARE(probe.images().size(), 1);
+        QCOMPARE(probe.images().at(0).at(kWidthColumn), QStringLiteral("150"));
+    }
+
+    void filesEnterTheListInTheirOrder() {
+        QStringList paths;
+        for (int i = 0; i < 100; ++i) {
+            paths += writeFile(path(QStringLiteral("%1.txt").arg(i)), "text");
+        }
+        const NoThreads none;
+        const ReadEntries read = readEntries(paths);
+        QCOMPARE(read.entries.size(), std::size_t{100});
+        for (int i = 0; i < 100; ++i) {
+            QCOMPARE(read.entries.at(i).filePathName(), paths.at(i));
+        }
+    }
+};
+
+QTEST_MAIN(NoThreadsTest)
+#include "NoThreadsTest.moc"
