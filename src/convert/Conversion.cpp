@@ -3,6 +3,7 @@
 #include "convert/PageWriters.h"
 #include "error/Error.h"
 #include "filelist/FileKind.h"
+#include "pdf/StoppableCalls.h"
 
 #include <new>
 
@@ -102,8 +103,8 @@ std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security) {
 PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
                      const ConversionOptions &options, ConversionObserver *observer,
                      const std::stop_token &stop) {
-    PDFContext context(
-        path, {options.info, encryptionFor(options.security), options.flush, options.calls});
+    StoppableCalls calls(options.calls, stop);
+    PDFContext context(path, {options.info, encryptionFor(options.security), options.flush, calls});
     PDFOutcome outcome;
     for (std::size_t i = 0; i < entries.size() && !stop.stop_requested(); ++i) {
         outcome.entries.push_back(writeEntry(*entries[i], context, options, stop));
@@ -113,11 +114,12 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
             observer->entryDone(i, outcome.entries.back().written);
         }
     }
-    if (stop.stop_requested()) {
-        outcome.close = notWritten(QStringLiteral("The conversion was stopped"));
-    } else {
+    if (!stop.stop_requested()) {
         const QString fileName = entries.empty() ? QString() : entries.front()->fileName();
         outcome.close = closeContext(context, fileName, options);
+    }
+    if (stop.stop_requested() && outcome.close.status != CloseResult::Status::Written) {
+        outcome.close = notWritten(QStringLiteral("The conversion was stopped"));
     }
     return outcome;
 }

@@ -3,6 +3,7 @@
 #include "error/Error.h"
 #include "mainwnd/FilesArray.h"
 #include "pdf/PartFiles.h"
+#include "pdf/StoppableCalls.h"
 #include "text/Printable.h"
 
 #include <QFileInfo>
@@ -179,7 +180,9 @@ void MainWndCtrl::compress(const QString &path) {
         return;
     }
     const CompressionPlaces places{m_surroundings.bundlePath, m_temporaryFolder.path()};
-    startWorker([this, path, places, options = m_runOptions](const std::stop_token &stop) {
+    startWorker([this, path, places, options = m_runOptions](const std::stop_token &stop) mutable {
+        StoppableCalls calls(options.calls, stop);
+        options.calls = calls;
         PassObserver observer(*this, stop);
         PendingCopy copy(folioforge::compress(path, options, places, &observer).convertInfo);
         runOnMainThread([this, copy = std::move(copy)]() mutable {

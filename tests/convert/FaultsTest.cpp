@@ -165,6 +165,35 @@ class FaultsTest : public QObject, private WholeRun {
         }
     }
 
+    void aStopAtAnyCallMovesNoFurtherByteAndLeavesNothing_data() { addWays(); }
+    void aStopAtAnyCallMovesNoFurtherByteAndLeavesNothing() {
+        QFETCH(QStringList, missing);
+        const Kind merged{true, false, 0};
+        FaultyCalls counted;
+        counted.failing = lacking(missing);
+        QVERIFY(run(merged, counted).written);
+        const QByteArray whole = readFile(output());
+        int stopped = 0;
+        for (int call = 1; call <= counted.count(); ++call) {
+            QFile::remove(output());
+            std::stop_source stop;
+            int movesBefore = 0;
+            FaultyCalls calls;
+            calls.failing = lacking(missing);
+            calls.fault = {call, 0, false, [&] {
+                               movesBefore = calls.moves();
+                               stop.request_stop();
+                           }};
+            const Outcome outcome = run(merged, calls, stop.get_token());
+            QVERIFY(calls.moves() <= movesBefore + 1);
+            QCOMPARE(readFile(output()), outcome.written ? whole : QByteArray());
+            QCOMPARE(namesIn(path("out")).size(), outcome.written ? 1 : 0);
+            QVERIFY(sourcesAreUntouched());
+            stopped += outcome.written ? 0 : 1;
+        }
+        QVERIFY(stopped > 0);
+    }
+
     void cleanupTestCase() const { qInfo("%d faults tried", m_tried); }
 };
 

@@ -83,19 +83,19 @@ class WholeRun {
     }
 
     /// A run as the command line makes it.
-    Outcome run(const Kind &kind, SystemCalls &calls) const {
+    Outcome run(const Kind &kind, SystemCalls &calls, const std::stop_token &stop = {}) const {
         std::vector<const PDFFileInfo *> entries{&m_entries.front()};
         if (kind.merge) {
             entries.push_back(&m_entries.back());
         }
-        return run(entries, kind, calls);
+        return run(entries, kind, calls, stop);
     }
 
     Outcome run(const std::vector<const PDFFileInfo *> &entries, const Kind &kind,
-                SystemCalls &calls) const {
+                SystemCalls &calls, const std::stop_token &stop = {}) const {
         const ConversionOptions options = optionsOf(kind, calls);
         removeAbandonedParts(options.outputFolder);
-        const PDFOutcome made = createPDF(entries, output(), options);
+        const PDFOutcome made = createPDF(entries, output(), options, nullptr, stop);
         Outcome outcome{made.close.status == CloseResult::Status::Written, made.close.reason};
         for (const EntryOutcome &entry : made.entries) {
             outcome.reason += entry.message;

@@ -27,6 +27,8 @@ class FaultyCalls final : public SystemCalls {
 
     /// The calls so far.
     [[nodiscard]] int count() const { return m_count; }
+    /// Those of them that moved bytes.
+    [[nodiscard]] int moves() const { return m_moves; }
     /// Whether the fault befell a call that removes a file, which then has to stay.
     [[nodiscard]] bool keptFiles() const { return m_keptFiles; }
 
@@ -94,11 +96,13 @@ class FaultyCalls final : public SystemCalls {
         errno = fails ? fault.error : 0;
         return !fails || m_isShort;
     }
-    std::size_t moved(std::size_t size) const {
+    std::size_t moved(std::size_t size) {
+        ++m_moves;
         return m_isShort ? std::max<std::size_t>(size / 2, 1) : size;
     }
 
     int m_count = 0;
+    int m_moves = 0;
     bool m_isShort = false;
     bool m_keptFiles = false;
 };
