@@ -4,6 +4,7 @@
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
 #include "pdf/Password.h"
+#include "pdf/StandardDescriptors.h"
 #include "skin/LightLook.h"
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 
 int main(int argc, char *argv[]) {
     using namespace folioforge;
+    fillStandardDescriptors();
     forbidCoreDumps();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Folioforge"));

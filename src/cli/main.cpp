@@ -3,6 +3,7 @@
 #include "cli/Interruption.h"
 #include "cli/Locale.h"
 #include "cli/Run.h"
+#include "pdf/StandardDescriptors.h"
 
 #include <QCoreApplication>
 
@@ -45,6 +46,7 @@ int run(int argc, char *argv[]) {
 } // namespace
 
 int main(int argc, char *argv[]) {
+    fillStandardDescriptors();
     try {
         return run(argc, argv);
     } catch (const std::exception &failure) {

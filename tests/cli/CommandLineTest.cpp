@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -16,6 +17,7 @@
 #include <memory>
 
 #include <sys/stat.h>
+#include <unistd.h>
 #ifdef __linux__
 #include <linux/capability.h>
 #include <sys/prctl.h>
@@ -47,6 +49,18 @@ void giveUpRightsOfRoot() {
 #endif
 }
 
+/// A picture that nothing makes smaller; returns its path.
+QString writeNoise(const QString &path) {
+    constexpr int kSide = 1200;
+    QImage image(kSide, kSide, QImage::Format_RGB888);
+    for (int y = 0; y < kSide; ++y) {
+        QRandomGenerator random(static_cast<quint32>(y));
+        std::generate_n(image.scanLine(y), kSide * 3,
+                        [&random] { return static_cast<uchar>(random.generate()); });
+    }
+    return image.save(path, "BMP") ? path : QString();
+}
+
 QString member(const QJsonObject &object, const char *name) {
     return object[QLatin1StringView(name)].toString();
 }
@@ -72,6 +86,23 @@ class CommandLineTest : public QObject {
     ToolRun merge(const char *target, const QStringList &arguments) const {
         return test::runTool(kProgram,
                              QStringList{QStringLiteral("--merge"), path(target)} + arguments);
+    }
+    /// The bytes of the document that `arguments` merged into while the descriptors `closed` were;
+    /// empty where the program did not end with `exitCode`.
+    QByteArray merged(const char *target, const QStringList &arguments, const QList<int> &closed,
+                      int exitCode) const {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("SOURCE_DATE_EPOCH"), QStringLiteral("1700000000"));
+        process.setProcessEnvironment(environment);
+        process.setChildProcessModifier([&closed] {
+            for (const int descriptor : closed) {
+                ::close(descriptor);
+            }
+        });
+        process.start(kProgram, QStringList{QStringLiteral("--merge"), path(target)} + arguments);
+        const bool ended = process.waitForFinished() && process.exitCode() == exitCode;
+        return ended ? test::readFile(path(target)) : QByteArray();
     }
     QStringList outputs() const {
         return QDir(path("out")).entryList(QDir::Files | QDir::Hidden, QDir::Name);
@@ -113,6 +144,43 @@ class CommandLineTest : public QObject {
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 1);
         QVERIFY(process.readAllStandardError().contains("Standard output cannot be written"));
+    }
+
+    void aClosedDescriptorIsTakenByNoFile_data() {
+        QTest::addColumn<QList<int>>("closed");
+        QTest::addColumn<int>("exitCode");
+        QTest::newRow("none") << QList<int>{} << 0;
+        QTest::newRow("input") << QList{STDIN_FILENO} << 0;
+        QTest::newRow("output") << QList{STDOUT_FILENO} << 1;
+        QTest::newRow("error") << QList{STDERR_FILENO} << 0;
+        QTest::newRow("input and error") << QList{STDIN_FILENO, STDERR_FILENO} << 0;
+        QTest::newRow("output and error") << QList{STDOUT_FILENO, STDERR_FILENO} << 1;
+        QTest::newRow("all") << QList{STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO} << 1;
+    }
+    void aClosedDescriptorIsTakenByNoFile() {
+        QFETCH(const QList<int>, closed);
+        QFETCH(const int, exitCode);
+        // More than is kept in memory, so that descriptors are opened while progress is shown.
+        QStringList noise;
+        for (const char *name : {"1.bmp", "2.bmp", "3.bmp"}) {
+            noise += writeNoise(path(name));
+        }
+        const QStringList arguments = QStringList{QStringLiteral("--progress=always")} + noise;
+        const QByteArray expected = merged("expected.pdf", arguments, {}, 0);
+        QVERIFY(expected.size() > 12'000'000);
+        QVERIFY(merged("written.pdf", arguments, closed, exitCode) == expected);
+        QString log;
+        QVERIFY2(PdfProbe(path("written.pdf")).isValid(&log), qPrintable(log));
+    }
+
+    void aPasswordIsNotTakenFromAClosedDescriptor() {
+        QProcess process;
+        process.setChildProcessModifier([] { ::close(STDIN_FILENO); });
+        process.start(kProgram, {QStringLiteral("--user-password-file=-"),
+                                 QStringLiteral("--output-folder"), path("out"), text("a.txt")});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 2);
+        QVERIFY(outputs().isEmpty());
     }
 
     void eachInputBecomesAPdf() {

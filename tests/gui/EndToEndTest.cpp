@@ -8,6 +8,8 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <unistd.h>
+
 #include <algorithm>
 
 using namespace folioforge::test;
@@ -146,6 +148,7 @@ class EndToEndTest : public QObject {
   private Q_SLOTS:
     void filesOfEveryKindBecomeDocumentsThatALinkOpens();
     void mergedFilesBecomeOneDocument();
+    void closedDescriptorsAreTakenByNoFile();
     void closingInTheMidstOfARunLeavesOnlyWholeFiles();
     void closingDuringTheCompressionPassLeavesTheWholeFile();
 };
@@ -194,6 +197,24 @@ void EndToEndTest::mergedFilesBecomeOneDocument() {
     const PdfProbe merged(outputFolder(desktop) + QStringLiteral("/all.pdf"));
     QVERIFY(merged.isValid());
     QCOMPARE(merged.pageCount(), 3);
+}
+
+void EndToEndTest::closedDescriptorsAreTakenByNoFile() {
+    DesktopSession desktop;
+    QVERIFY(desktop.begin());
+    desktop.application().setChildProcessModifier([] {
+        ::close(STDIN_FILENO);
+        ::close(STDOUT_FILENO);
+        ::close(STDERR_FILENO);
+    });
+    QVERIFY(desktop.start(program(), outputFolder(desktop)));
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        QCOMPARE(QFile::symLinkTarget(QStringLiteral("/proc/%1/fd/%2")
+                                          .arg(desktop.application().processId())
+                                          .arg(descriptor)),
+                 QStringLiteral("/dev/null"));
+    }
+    QVERIFY(quits(desktop));
 }
 
 void EndToEndTest::closingInTheMidstOfARunLeavesOnlyWholeFiles() {
