@@ -2,6 +2,7 @@
 
 #include "convert/PageWriters.h"
 #include "error/Error.h"
+#include "error/Memory.h"
 #include "filelist/FileKind.h"
 #include "pdf/StoppableCalls.h"
 
@@ -21,7 +22,7 @@ template<typename Step> QString reasonOfFailure(Step &&step) {
     } catch (const Error &error) {
         return error.reason();
     } catch (const std::bad_alloc &) {
-        return QStringLiteral("There is not enough memory");
+        return notEnoughMemory().reason();
     } catch (const std::exception &failure) {
         return QString::fromLocal8Bit(failure.what());
     }

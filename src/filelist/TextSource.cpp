@@ -1,6 +1,7 @@
 #include "filelist/TextSource.h"
 
 #include "error/Error.h"
+#include "error/Memory.h"
 #include "pdf/SourceReader.h"
 #include "text/TextDecoder.h"
 
@@ -56,7 +57,7 @@ std::optional<QString> readTextFile(const QString &path) {
     try {
         return readWholeText(path);
     } catch (const std::bad_alloc &) {
-        throw Error(QStringLiteral("There is not enough memory"));
+        throw notEnoughMemory();
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
 
 namespace folioforge {
 
@@ -35,14 +36,10 @@ struct FreeDecompressor {
 };
 using Decompressor = std::unique_ptr<libdeflate_decompressor, FreeDecompressor>;
 
-[[noreturn]] void throwNoMemory() {
-    throw Error(QStringLiteral("There is not enough memory"));
-}
-
 libdeflate_result inflateInto(QByteArrayView bytes, QByteArray &target, size_t &written) {
     const Decompressor decompressor(libdeflate_alloc_decompressor());
     if (!decompressor) {
-        throwNoMemory();
+        throw std::bad_alloc();
     }
     return libdeflate_zlib_decompress(decompressor.get(), bytes.data(),
                                       static_cast<size_t>(bytes.size()), target.data(),
@@ -58,7 +55,7 @@ void Deflater::Free::operator()(libdeflate_compressor *compressor) const {
 Deflater::Deflater(DeflateEffort effort)
     : m_compressor(libdeflate_alloc_compressor(levelOf(effort))) {
     if (!m_compressor) {
-        throwNoMemory();
+        throw std::bad_alloc();
     }
 }
 

@@ -20,7 +20,7 @@ enum class DeflateEffort {
 /// Compresses one piece of bytes after another. Making one costs more than a page of text does.
 class Deflater {
   public:
-    /// Throws Error when there is no memory.
+    /// Throws std::bad_alloc when there is no memory.
     explicit Deflater(DeflateEffort effort = DeflateEffort::Full);
 
     /// Appends `bytes` to `out` as a zlib stream (RFC 1950), the form of the PDF's FlateDecode.
@@ -33,7 +33,7 @@ class Deflater {
     std::unique_ptr<libdeflate_compressor, Free> m_compressor;
 };
 
-/// `bytes` as a zlib stream. Throws Error when there is no memory.
+/// `bytes` as a zlib stream. Throws std::bad_alloc when there is no memory.
 QByteArray deflateBytes(QByteArrayView bytes, DeflateEffort effort = DeflateEffort::Full);
 
 /// The `size` bytes that the zlib stream `bytes` holds; throws Error when it is damaged or holds

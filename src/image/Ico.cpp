@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 #include <optional>
 #include <tuple>
 
@@ -162,7 +163,7 @@ QImage readBitmap(const Frame &frame) {
     }
     QImage picture(frame.header.width, frame.header.height, QImage::Format_ARGB32);
     if (picture.isNull()) {
-        throw Error(QStringLiteral("There is not enough memory for the image"));
+        throw std::bad_alloc();
     }
     for (int y = 0; y < picture.height(); ++y) {
         auto *target = reinterpret_cast<QRgb *>(picture.scanLine(y));

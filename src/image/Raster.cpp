@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <future>
-#include <new>
 
 namespace folioforge {
 
@@ -161,11 +160,7 @@ qsizetype Raster::stride() const {
 }
 
 QByteArray allocateRows(int height, qsizetype stride) {
-    try {
-        return QByteArray(height * stride, '\0');
-    } catch (const std::bad_alloc &) {
-        throw Error(QStringLiteral("There is not enough memory for the image"));
-    }
+    return QByteArray(height * stride, '\0');
 }
 
 void requirePlausible(qint64 raw, qint64 compressed, qint64 ratio) {

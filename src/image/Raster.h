@@ -38,8 +38,8 @@ int channelCount(ImageColor color);
 /// Bytes of a row of `width` pixels with `channels` samples of `bits` each.
 qsizetype rowBytes(int width, int channels, int bits);
 
-/// Bytes for `height` rows of `stride` bytes, filled with zero; throws Error when there is no
-/// memory for them.
+/// Bytes for `height` rows of `stride` bytes, filled with zero; throws std::bad_alloc when
+/// there is no memory for them.
 QByteArray allocateRows(int height, qsizetype stride);
 
 /// Throws Error where `compressed` bytes cannot hold `raw` bytes even at `ratio` to one: the file

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "error/Error.h"
+#include "error/Memory.h"
 #include "pdf/SourceReader.h"
 
 #include <qpdf/QPDF.hh>
@@ -19,7 +19,7 @@ template<typename Work> auto atQpdfBorder(Work &&work) -> decltype(work()) {
     } catch (const QPDFExc &error) {
         throw Error(QString::fromStdString(error.getMessageDetail()));
     } catch (const std::bad_alloc &) {
-        throw Error(QStringLiteral("There is not enough memory"));
+        throw notEnoughMemory();
     } catch (const std::exception &error) {
         throw Error(QString::fromUtf8(error.what()));
     }
