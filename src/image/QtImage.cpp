@@ -14,6 +14,9 @@ namespace folioforge {
 namespace {
 
 constexpr double kMetresPerInch = 0.0254;
+constexpr qint64 kPixelsAt = 10; ///< Where a bitmap says where its pixels begin.
+constexpr qint64 kFileHeaderBytes = 14;
+constexpr quint32 kNewHeader = 40; ///< The first of a bitmap's headers to know of density.
 
 /// Qt refuses images over 128 MB unless told: the bound on pixels is this project's, four bytes
 /// for each.
@@ -26,7 +29,8 @@ bool isBitmap(QByteArrayView head) {
     // Two letters are a weak signature: the sizes of the known headers make it plain.
     constexpr std::array<quint32, 8> kHeaderSizes = {12, 16, 40, 52, 56, 64, 108, 124};
     return head.size() >= 26 && head.startsWith("BM") &&
-           std::ranges::find(kHeaderSizes, littleEndianAt<quint32>(head, 14)) != kHeaderSizes.end();
+           std::ranges::find(kHeaderSizes, littleEndianAt<quint32>(head, kFileHeaderBytes)) !=
+               kHeaderSizes.end();
 }
 
 ImageHeader readBitmapHeader(const FileView &file) {
@@ -36,7 +40,8 @@ ImageHeader readBitmapHeader(const FileView &file) {
     if (!head.startsWith("BM")) {
         throw Error(QStringLiteral("The file is no bitmap"));
     }
-    if (littleEndianAt<quint32>(head, 14) == kOldHeader) {
+    const auto headerSize = littleEndianAt<quint32>(head, kFileHeaderBytes);
+    if (headerSize == kOldHeader) {
         header.width = littleEndianAt<quint16>(head, 18);
         header.height = littleEndianAt<quint16>(head, 20);
         return header;
@@ -45,8 +50,10 @@ ImageHeader readBitmapHeader(const FileView &file) {
     // A negative height means rows from the top.
     header.height = static_cast<int>(
         std::min<qint64>(std::abs(qint64(littleEndianAt<qint32>(head, 22))), 0x7FFFFFFF));
-    header.horizontalDpi = littleEndianAt<qint32>(head, 38) * kMetresPerInch;
-    header.verticalDpi = littleEndianAt<qint32>(head, 42) * kMetresPerInch;
+    if (headerSize >= kNewHeader) {
+        header.horizontalDpi = littleEndianAt<qint32>(head, 38) * kMetresPerInch;
+        header.verticalDpi = littleEndianAt<qint32>(head, 42) * kMetresPerInch;
+    }
     return header;
 }
 
@@ -62,10 +69,9 @@ ImageHeader readGifHeader(const FileView &file) {
     return header;
 }
 
-/// The first frame of an image file that Qt reads.
-QImage readWithQt(const FileView &file, const char *format) {
+/// The first frame of the image file `bytes`.
+QImage readWithQt(QByteArray bytes, const char *format) {
     setAllocationLimit();
-    QByteArray bytes = file.readExactly(0, file.size());
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format);
@@ -77,13 +83,27 @@ QImage readWithQt(const FileView &file, const char *format) {
     return image;
 }
 
+/// Zeros make a header that Qt does not know one that it knows: it reads neither the shortest of
+/// OS/2 nor those that end with the masks of the colours.
+void makeHeaderKnown(QByteArray &bitmap) {
+    constexpr std::array<quint32, 3> kUnknown = {16, 52, 56};
+    constexpr quint32 kKnown = 108;
+    const auto size = littleEndianAt<quint32>(bitmap, kFileHeaderBytes);
+    if (std::ranges::find(kUnknown, size) == kUnknown.end()) {
+        return;
+    }
+    const quint32 pixels = littleEndianAt<quint32>(bitmap, kPixelsAt) + kKnown - size;
+    bitmap.insert(kFileHeaderBytes + size, kKnown - size, '\0');
+    qToLittleEndian(kKnown, bitmap.data() + kFileHeaderBytes);
+    qToLittleEndian(pixels, bitmap.data() + kPixelsAt);
+}
+
 /// Qt takes the pixels from wherever it stands when they, or the header before them, should lie
 /// behind the end of the file.
 void requirePixelsInside(const FileView &file) {
-    constexpr qint64 kFileHeaderBytes = 14;
     const QByteArray head = file.readExactly(0, kFileHeaderBytes + 4);
     const qint64 headersEnd = kFileHeaderBytes + littleEndianAt<quint32>(head, kFileHeaderBytes);
-    const qint64 pixels = littleEndianAt<qint32>(head, 10);
+    const qint64 pixels = littleEndianAt<qint32>(head, kPixelsAt);
     if (std::max(headersEnd, pixels) >= file.size()) {
         throw Error(QStringLiteral("The file ends too early"));
     }
@@ -91,11 +111,10 @@ void requirePixelsInside(const FileView &file) {
 
 /// Qt prints a warning for each colour of a table that is too long.
 void requirePlausibleColors(const FileView &file) {
-    constexpr quint32 kNewHeader = 40;
     constexpr int kMostTableBits = 8;
     const QByteArray head = file.read(0, 54);
     const int bits = littleEndianAt<quint16>(head, 28);
-    if (littleEndianAt<quint32>(head, 14) >= kNewHeader && bits <= kMostTableBits &&
+    if (littleEndianAt<quint32>(head, kFileHeaderBytes) >= kNewHeader && bits <= kMostTableBits &&
         littleEndianAt<quint32>(head, 46) > 1U << bits) {
         throw Error(QStringLiteral("The bitmap has more colours than its pixels can name"));
     }
@@ -107,14 +126,16 @@ EncodedImage encodeBitmap(const FileView &file) {
     requirePlausible(qint64(header.width) * header.height, file.size(), kRunRatio);
     requirePixelsInside(file);
     requirePlausibleColors(file);
-    return encodeRaster(rasterOf(readWithQt(file, "bmp")));
+    QByteArray bytes = file.readExactly(0, file.size());
+    makeHeaderKnown(bytes);
+    return encodeRaster(rasterOf(readWithQt(std::move(bytes), "bmp")));
 }
 
 EncodedImage encodeGif(const FileView &file) {
     constexpr qint64 kLzwRatio = 3000;
     const ImageHeader header = readGifHeader(file);
     requirePlausible(qint64(header.width) * header.height, file.size(), kLzwRatio);
-    return encodeRaster(rasterOf(readWithQt(file, "gif")));
+    return encodeRaster(rasterOf(readWithQt(file.readExactly(0, file.size()), "gif")));
 }
 
 /// Rows of a QImage are padded to four bytes; a PDF's are not.

@@ -1,0 +1,165 @@
+#include "DecodedImage.h"
+
+#include "image/ImageHeader.h"
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QtEndian>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+constexpr quint32 kPlain = 0;
+constexpr quint32 kMasks = 3;
+
+QByteArray little(quint32 number) {
+    QByteArray bytes(4, '\0');
+    qToLittleEndian(number, bytes.data());
+    return bytes;
+}
+
+/// A bitmap of 2 x 2 pixels, whose header of `headerSize` bytes ends with `masks`; `pixels` are its
+/// rows from the bottom, as it stores them.
+QByteArray bitmap(qsizetype headerSize, char bits, quint32 compression, const QByteArray &masks,
+                  const QByteArray &pixels) {
+    constexpr quint32 kPerMetre = 11811; // 300 per inch
+    QByteArray header = little(quint32(headerSize)) + little(2) + little(2) +
+                        QByteArray::fromHex("0100") + bits + '\0' + little(compression) +
+                        little(0) + little(kPerMetre) + little(kPerMetre) + little(0) + little(0) +
+                        masks;
+    header.resize(headerSize, '\0');
+    const qsizetype start = 14 + headerSize;
+    return "BM" + little(quint32(start + pixels.size())) + little(0) + little(quint32(start)) +
+           header + pixels;
+}
+
+/// Red, green and blue of each pixel, the rows from the top.
+QByteArray rgbRows(const EncodedImage &image) {
+    const QImage picture = decoded(image).convertToFormat(QImage::Format_RGB888);
+    QByteArray rows;
+    for (int y = 0; y < picture.height(); ++y) {
+        rows.append(reinterpret_cast<const char *>(picture.constScanLine(y)), picture.width() * 3);
+    }
+    return rows;
+}
+
+} // namespace
+
+/// Bitmaps of 2 x 2 pixels, byte by byte.
+class BitmapTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void headersOfEveryLengthGiveTheirPixels_data();
+    void headersOfEveryLengthGiveTheirPixels();
+    void opacityCountsWhereTheHeaderHasAMaskForIt();
+    void densityIsReadOnlyWhereTheHeaderHasIt();
+    void cutFileIsRefused_data();
+    void cutFileIsRefused();
+
+  private:
+    QString file(const QByteArray &bytes) const {
+        return writeFile(m_folder.filePath(QStringLiteral("picture.bmp")), bytes);
+    }
+
+    QTemporaryDir m_folder;
+};
+
+void BitmapTest::headersOfEveryLengthGiveTheirPixels_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("rgb");
+    // Red 2, green 5, blue 1 of 31, 63 and 31, then each alone.
+    const QByteArray pixels16 = QByteArray::fromHex("a110"
+                                                    "0010"
+                                                    "a000"
+                                                    "0100");
+    const QByteArray rgb16 = QByteArray::fromHex("001400"
+                                                 "000008"
+                                                 "101408"
+                                                 "100000");
+    const QByteArray masks565 = little(0xF800) + little(0x07E0) + little(0x001F);
+    // Red first: the other way round than without masks.
+    const QByteArray pixels32 = QByteArray::fromHex("01020300"
+                                                    "04050600"
+                                                    "07080900"
+                                                    "ff00fe00");
+    const QByteArray rgb32 = QByteArray::fromHex("070809"
+                                                 "ff00fe"
+                                                 "010203"
+                                                 "040506");
+    const QByteArray masks888 = little(0x0000FF) + little(0x00FF00) + little(0xFF0000);
+    const QByteArray pixels24 = QByteArray::fromHex("0102030405060000"
+                                                    "070809ff00fe0000");
+    const QByteArray rgb24 = QByteArray::fromHex("090807"
+                                                 "fe00ff"
+                                                 "030201"
+                                                 "060504");
+    for (const int size : {52, 56, 108, 124}) {
+        QTest::addRow("16 bits, %d", size) << bitmap(size, 16, kMasks, masks565, pixels16) << rgb16;
+        QTest::addRow("32 bits, %d", size) << bitmap(size, 32, kMasks, masks888, pixels32) << rgb32;
+    }
+    for (const int size : {16, 40, 52, 56, 64, 108, 124}) {
+        QTest::addRow("24 bits, %d", size) << bitmap(size, 24, kPlain, {}, pixels24) << rgb24;
+    }
+    // Without masks, green has 5 bits of 15.
+    QTest::addRow("16 bits without masks") << bitmap(56, 16, kPlain, {},
+                                                     QByteArray::fromHex("4108"
+                                                                         "0008"
+                                                                         "4000"
+                                                                         "0100"))
+                                           << QByteArray::fromHex("001000"
+                                                                  "000008"
+                                                                  "101008"
+                                                                  "100000");
+}
+
+void BitmapTest::headersOfEveryLengthGiveTheirPixels() {
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QByteArray, rgb);
+    const QString path = file(bytes);
+    QCOMPARE(readImageHeader(path).format, ImageFormat::Bmp);
+    const EncodedImage image = encodeImage(path);
+    QCOMPARE(rgbRows(image).toHex(), rgb.toHex());
+    QVERIFY(image.softMask == nullptr);
+}
+
+void BitmapTest::opacityCountsWhereTheHeaderHasAMaskForIt() {
+    const QByteArray masks =
+        little(0x0000FF) + little(0x00FF00) + little(0xFF0000) + little(0xFF000000);
+    const EncodedImage image = encodeImage(file(bitmap(56, 32, kMasks, masks,
+                                                       QByteArray::fromHex("01020300"
+                                                                           "04050640"
+                                                                           "07080980"
+                                                                           "0a0b0cff"))));
+    QCOMPARE(rgbRows(image).toHex(), QByteArray("0708090a0b0c010203040506"));
+    QVERIFY(image.softMask != nullptr);
+    QCOMPARE(rgbRows(*image.softMask).toHex(), QByteArray("808080ffffff000000404040"));
+}
+
+void BitmapTest::densityIsReadOnlyWhereTheHeaderHasIt() {
+    const QByteArray pixels(16, '\x7f');
+    QCOMPARE(readImageHeader(file(bitmap(56, 24, kPlain, {}, pixels))).horizontalDpi, 300.0);
+    QCOMPARE(readImageHeader(file(bitmap(16, 24, kPlain, {}, pixels))).horizontalDpi, 72.0);
+}
+
+void BitmapTest::cutFileIsRefused_data() {
+    QTest::addColumn<qsizetype>("headerSize");
+    QTest::addColumn<qsizetype>("left");
+    QTest::newRow("in the masks") << qsizetype{52} << qsizetype{60};
+    QTest::newRow("after the masks") << qsizetype{56} << qsizetype{70};
+    QTest::newRow("in the shortest header") << qsizetype{16} << qsizetype{29};
+}
+
+void BitmapTest::cutFileIsRefused() {
+    QFETCH(const qsizetype, headerSize);
+    QFETCH(const qsizetype, left);
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    const QByteArray whole = bitmap(headerSize, 32, kMasks, {}, QByteArray(16, '\x7f'));
+    QCOMPARE(refusalOf(file(whole.first(left))), QStringLiteral("The file ends too early"));
+}
+
+QTEST_GUILESS_MAIN(BitmapTest)
+#include "BitmapTest.moc"
