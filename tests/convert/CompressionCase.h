@@ -94,6 +94,16 @@ class CompressionCase {
         return difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100));
     }
 
+    /// The one image of the copy is in `colour` and has half its 1200 columns, and the page looks
+    /// as it did.
+    void isHalved(const QString &copy, const QString &colour) const {
+        const auto images = PdfProbe(copy).images();
+        QCOMPARE(images.size(), 1);
+        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+        QCOMPARE(images[0][kColourColumn], colour);
+        QVERIFY(changeOf(copy) < 5);
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
     CompressionPlaces m_places;
     QString m_path;

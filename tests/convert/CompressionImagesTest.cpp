@@ -116,12 +116,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
                     .stream(5, imageKeys(1200, 900, keys), data)
                     .stream(8, "/N 3", QColorSpace(QColorSpace::AdobeRgb).iccProfile())
                     .write(m_path));
-        const QString copy = compressed();
-        const auto images = PdfProbe(copy).images();
-        QCOMPARE(images.size(), 1);
-        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
-        QCOMPARE(images[0][kColourColumn], colour);
-        QVERIFY(changeOf(copy) < 5);
+        isHalved(compressed(), colour);
     }
 
     void inksOfAJpegStayInks_data() {
@@ -145,11 +140,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
                             cmykJpeg(photo(1200, 900), form))
                     .write(m_path));
         const QString copy = compressed();
-        const auto images = PdfProbe(copy).images();
-        QCOMPARE(images.size(), 1);
-        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
-        QCOMPARE(images[0][kColourColumn], QStringLiteral("cmyk"));
-        QVERIFY(changeOf(copy) < 5);
+        isHalved(copy, QStringLiteral("cmyk"));
         QVERIFY(difference(PdfProbe(m_path).renderWithMutool(1, 100),
                            PdfProbe(copy).renderWithMutool(1, 100)) < 5);
     }
