@@ -1,5 +1,6 @@
 #include "mainwnd/Notices.h"
 
+#include <QAbstractItemView>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLayout>
@@ -35,6 +36,15 @@ QString nameFilter(const QStringList &extensions) {
     return QFileDialog::tr("Files (%1)").arg(patterns.join(u' '));
 }
 
+/// Of folders Qt's panel lets one alone be marked, though it returns as many as are.
+void letSeveralBeMarked(const QFileDialog &dialog) {
+    for (const char *view : {"listView", "treeView"}) {
+        if (auto *list = dialog.findChild<QAbstractItemView *>(QLatin1StringView(view))) {
+            list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        }
+    }
+}
+
 QFileDialog *makeFileDialog(QWidget *window, const FilePanel &panel) {
     using Chooses = FilePanel::Chooses;
     QFileDialog *dialog = panel.chooses == Chooses::FilesAndFolders
@@ -50,6 +60,9 @@ QFileDialog *makeFileDialog(QWidget *window, const FilePanel &panel) {
     if (panel.chooses == Chooses::Folders) {
         dialog->setFileMode(QFileDialog::Directory);
         dialog->setOption(QFileDialog::ShowDirsOnly);
+        if (panel.multiple) {
+            letSeveralBeMarked(*dialog);
+        }
     } else {
         dialog->setFileMode(panel.multiple ? QFileDialog::ExistingFiles
                                            : QFileDialog::ExistingFile);

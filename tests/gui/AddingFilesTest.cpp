@@ -1,7 +1,10 @@
 #include "gui/TestWindow.h"
 #include "support/PdfProbe.h"
 
+#include <QAbstractItemView>
 #include <QBuffer>
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QImage>
 #include <QLineEdit>
@@ -58,6 +61,16 @@ QByteArray picture(const char *format, int width = 40, int height = 30) {
 
 QString sizeShown(const TestWindow &w, int row) {
     return w.ctrl.filesArray().index(row, FilesArray::SizeColumn).data().toString();
+}
+
+/// Clicks the row called `name` of a file panel's view, which fills itself as time allows.
+void clickRow(QAbstractItemView &view, const QString &name, Qt::KeyboardModifiers modifiers = {}) {
+    const auto row = [&view, &name] {
+        const QModelIndex first = view.model()->index(0, 0, view.rootIndex());
+        return view.model()->match(first, Qt::DisplayRole, name, 1, Qt::MatchExactly).value(0);
+    };
+    QTRY_VERIFY(!view.visualRect(row()).isEmpty());
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, view.visualRect(row()).center());
 }
 
 } // namespace
@@ -139,6 +152,33 @@ class AddingFilesTest : public QObject {
         w.delegate.told.clear();
         choose(w, "m_btnAddFolder", {});
         QCOMPARE(w.delegate.told, QList{true});
+    }
+
+    void severalFoldersAreChosenInOnePanel_data() {
+        QTest::addColumn<QFileDialog::ViewMode>("mode");
+        QTest::addColumn<QByteArray>("viewName");
+        QTest::newRow("list") << QFileDialog::List << QByteArray("listView");
+        QTest::newRow("details") << QFileDialog::Detail << QByteArray("treeView");
+    }
+
+    void severalFoldersAreChosenInOnePanel() {
+        QFETCH(const QFileDialog::ViewMode, mode);
+        QFETCH(const QByteArray, viewName);
+        TestWindow w;
+        for (const QChar folder : QStringLiteral("abc")) {
+            QDir(w.home.path()).mkpath(QStringLiteral("Documents/") + folder);
+            w.file(QStringLiteral("Documents/%1/%1.txt").arg(folder));
+        }
+        w.press("m_btnAddFolder");
+        auto *dialog = w.ctrl.window()->findChild<QFileDialog *>();
+        QVERIFY(dialog && dialog->isVisible());
+        dialog->setViewMode(mode);
+        auto &view = controlOf<QAbstractItemView>(*dialog, viewName);
+        clickRow(view, QStringLiteral("a"));
+        clickRow(view, QStringLiteral("c"), Qt::ControlModifier);
+        QTest::mouseClick(dialog->findChild<QDialogButtonBox *>()->buttons().first(),
+                          Qt::LeftButton);
+        QTRY_COMPARE(w.names(), QStringLiteral("a.txt c.txt"));
     }
 
     void aChosenFolderGivesItsFilesOneLevelDeepWithoutPdfs() {
