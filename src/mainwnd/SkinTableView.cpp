@@ -75,7 +75,9 @@ void SkinTableView::addKey(const QKeySequence &keys,
             (this->*command)();
         }
     };
-    new QShortcut(keys, this, run, Qt::WindowShortcut);
+    // Elsewhere in the window these keys mean something else: Alt+Down opens the list of a combo
+    // box.
+    new QShortcut(keys, this, run, Qt::WidgetWithChildrenShortcut);
 }
 
 void SkinTableView::clickMenuRemove() {

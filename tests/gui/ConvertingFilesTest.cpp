@@ -339,6 +339,7 @@ class ConvertingFilesTest : public QObject {
         w.select({0});
         w.press("m_btnCreate");
         QVERIFY(!w.ctrl.canEditList());
+        w.table()->setFocus();
         w.key(Qt::Key_Delete);
         w.key(Qt::Key_Down, Qt::AltModifier);
         w.key(Qt::Key_A, Qt::ControlModifier);

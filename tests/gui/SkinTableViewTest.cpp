@@ -2,6 +2,7 @@
 #include "mainwnd/FilesArray.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QHeaderView>
@@ -52,7 +53,7 @@ class RecordingDelegate : public SkinTableViewDelegate {
     bool takesDrops = true;
 };
 
-/// A window with the table over a list of `rows` entries and a text field.
+/// A window with the table over a list of `rows` entries, a text field and a combo box.
 struct Window {
     explicit Window(int rows) {
         delegate.table = table;
@@ -63,6 +64,8 @@ struct Window {
         auto *column = new QVBoxLayout(&window);
         column->addWidget(table);
         column->addWidget(field);
+        column->addWidget(combo);
+        combo->addItems({QStringLiteral("None"), QStringLiteral("72 dpi")});
         window.resize(700, 300);
         window.show();
         table->setFocus();
@@ -91,6 +94,7 @@ struct Window {
     QWidget window;
     SkinTableView *table = new SkinTableView;
     QLineEdit *field = new QLineEdit;
+    QComboBox *combo = new QComboBox;
 };
 
 /// What the menu says from top to bottom, with the two titles that change.
@@ -301,6 +305,18 @@ class SkinTableViewTest : public QObject {
         QVERIFY(!w.files.selectionModel()->hasSelection());
         w.key(Qt::Key_Delete);
         QCOMPARE(w.field->text(), QString());
+        QCOMPARE(w.delegate.calls, QStringList());
+    }
+
+    void theComboBoxBesideKeepsItsOwnKeys() {
+        Window w(3);
+        w.select(0, 0);
+        w.combo->setFocus();
+        w.key(Qt::Key_Delete);
+        w.key(Qt::Key_Down, Qt::AltModifier);
+        QVERIFY(w.combo->view()->isVisible());
+        w.combo->hidePopup();
+        w.key(Qt::Key_Up, Qt::AltModifier);
         QCOMPARE(w.delegate.calls, QStringList());
     }
 
