@@ -25,6 +25,16 @@ constexpr int kDestinationWidth = 160;
 constexpr int kSmallestNameWidth = 120;
 constexpr int kDropLineWidth = 2;
 
+bool asksForMenu(const QKeyEvent &key) {
+    return key.key() == Qt::Key_Menu ||
+           (key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier);
+}
+
+bool asksToOpen(const QKeyEvent &key) {
+    const bool isAlone = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    return isAlone && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+}
+
 } // namespace
 
 SkinTableView::SkinTableView(QWidget *parent)
@@ -68,6 +78,10 @@ int SkinTableView::selectedRow() const {
     return topmost->top();
 }
 
+bool SkinTableView::selectsOneRow() const {
+    return selectionModel() && selectionModel()->selectedRows().size() == 1;
+}
+
 void SkinTableView::addKey(const QKeySequence &keys,
                            bool (SkinTableViewDelegate::*isPossible)() const, Command command) {
     const auto run = [this, isPossible, command] {
@@ -75,8 +89,7 @@ void SkinTableView::addKey(const QKeySequence &keys,
             (this->*command)();
         }
     };
-    // Elsewhere in the window these keys mean something else: Alt+Down opens the list of a combo
-    // box.
+    // Elsewhere these keys mean something else: Alt+Down opens a combo box.
     new QShortcut(keys, this, run, Qt::WidgetWithChildrenShortcut);
 }
 
@@ -148,15 +161,14 @@ void SkinTableView::contextMenuEvent(QContextMenuEvent *event) {
 }
 
 void SkinTableView::keyPressEvent(QKeyEvent *event) {
-    const bool asksForMenu =
-        event->key() == Qt::Key_Menu ||
-        (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier);
-    if (asksForMenu) {
+    if (asksForMenu(*event)) {
         QContextMenuEvent menu(QContextMenuEvent::Keyboard, {}, {});
         contextMenuEvent(&menu);
-        return;
+    } else if (asksToOpen(*event) && m_delegate && selectsOneRow()) {
+        m_delegate->clickedDest(selectedRow());
+    } else {
+        QTableView::keyPressEvent(event);
     }
-    QTableView::keyPressEvent(event);
 }
 
 /// From the keyboard the menu opens at what it acts on, where that can be seen.

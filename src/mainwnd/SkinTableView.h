@@ -33,14 +33,14 @@ class SkinTableViewDelegate {
     virtual void clickMenuMoveUp() = 0;
     virtual void clickMenuMoveDown() = 0;
 
-    /// The destination column of `row` was clicked.
+    /// The destination column of `row` was clicked, or Return pressed on that row.
     virtual void clickedDest(int row) = 0;
     /// Takes what was dropped above `row`, a row or the number of rows; false refuses it.
     virtual bool acceptDrop(const QMimeData &data, int row) = 0;
 };
 
-/// The table of files: takes drops between rows, opens the context menu and hands its commands, and
-/// the clicks in the destination column, to its delegate.
+/// The table of files: takes drops between rows, opens the context menu and hands its commands, the
+/// clicks in the destination column and Return on a row to its delegate.
 class SkinTableView : public QTableView {
     Q_OBJECT
 
@@ -78,6 +78,7 @@ class SkinTableView : public QTableView {
 
     void addKey(const QKeySequence &keys, bool (SkinTableViewDelegate::*isPossible)() const,
                 Command command);
+    [[nodiscard]] bool selectsOneRow() const;
     [[nodiscard]] QMenu *buildContextMenu();
     [[nodiscard]] QPoint contextMenuPosition(const QContextMenuEvent &event) const;
     [[nodiscard]] int dropRowAt(const QPoint &position) const;

@@ -135,6 +135,20 @@ class ConvertingFilesTest : public QObject {
         QCOMPARE(w.table()->selectedRow(), 0);
     }
 
+    void returnOnAFinishedEntryOpensItsPdf() {
+        TestWindow w;
+        addTexts(w, 2);
+        const QPoint cell = w.table()->visualRect(w.ctrl.filesArray().index(1, 1)).center();
+        QTest::mouseClick(w.table()->viewport(), Qt::LeftButton, {}, cell);
+        w.key(Qt::Key_Return);
+        QCOMPARE(w.desktop.commands, QList<QByteArray>());
+        run(w);
+        w.table()->setFocus();
+        w.key(Qt::Key_Return);
+        QCOMPARE(w.desktop.commands.size(), 1);
+        QVERIFY(w.desktop.commands.front().contains("/out/001.pdf\""));
+    }
+
     void aDestinationThatAShellWouldMisreadOpensWithoutOne() {
         TestWindow w;
         const QString name = QStringLiteral("a \"quoted\" name");

@@ -182,6 +182,36 @@ class SkinTableViewTest : public QObject {
         QCOMPARE(w.delegate.calls, QStringList());
     }
 
+    void returnActsOnTheDestinationOfTheOneSelectedRow_data() {
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::newRow("return") << Qt::Key_Return << Qt::KeyboardModifiers();
+        QTest::newRow("enter") << Qt::Key_Enter << Qt::KeyboardModifiers(Qt::KeypadModifier);
+    }
+
+    void returnActsOnTheDestinationOfTheOneSelectedRow() {
+        QFETCH(const Qt::Key, key);
+        QFETCH(const Qt::KeyboardModifiers, modifiers);
+        Window w(3);
+        w.key(key, modifiers);
+        w.select(0, 1);
+        w.key(key, modifiers);
+        QCOMPARE(w.delegate.calls, QStringList());
+        w.click(Qt::LeftButton, w.middleOf(0, 1));
+        w.key(Qt::Key_Down);
+        w.key(key, modifiers);
+        QCOMPARE(w.delegate.calls, QStringList(QStringLiteral("dest 1 selected 1")));
+    }
+
+    void returnWithAnotherKeyHeldActsOnNothing() {
+        Window w(3);
+        w.select(1, 1);
+        for (const auto held : {Qt::ControlModifier, Qt::ShiftModifier, Qt::AltModifier}) {
+            w.key(Qt::Key_Return, held);
+        }
+        QCOMPARE(w.delegate.calls, QStringList());
+    }
+
     void theRightButtonNeverActsOnADestination() {
         Window w(3);
         w.click(Qt::RightButton, w.middleOf(0, 3));
