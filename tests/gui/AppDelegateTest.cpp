@@ -2,10 +2,12 @@
 
 #include "app/FolioforgeAppDelegate.h"
 #include "mainwnd/FilesArray.h"
+#include "skin/OptionsDrawer.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -46,6 +48,15 @@ struct Application {
         }
         qFatal("no item %s", qPrintable(title));
     }
+    /// Shows the options panel and, in it, the settings that `button` stands for.
+    void showSettings(const char *button) {
+        QTest::mouseClick(&controlOf<QWidget>(window(), "m_btnExpand"), Qt::LeftButton);
+        auto &drawer = controlOf<OptionsDrawer>(window(), "m_optionsDrawer");
+        QTRY_COMPARE(drawer.openWidth(), 342);
+        QTest::mouseClick(&controlOf<QWidget>(window(), button), Qt::LeftButton);
+        window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window()));
+    }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(window().windowHandle(), key, modifiers);
     }
@@ -60,6 +71,33 @@ struct Application {
     WindowWorld world;
     FolioforgeAppDelegate delegate;
 };
+
+/// The keys, such as Alt+F, that the texts in sight of `window` and its menu bar give.
+QStringList mnemonicsOf(const QMainWindow &window) {
+    QStringList texts;
+    for (const QAction *menu : window.menuBar()->actions()) {
+        texts += menu->text();
+    }
+    for (const auto *label : window.findChildren<QLabel *>()) {
+        texts += label->isVisible() && label->buddy() ? label->text() : QString();
+    }
+    for (const auto *button : window.findChildren<QAbstractButton *>()) {
+        texts += button->isVisible() ? button->text() : QString();
+    }
+    QStringList keys;
+    for (const QString &text : texts) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        keys += key.isEmpty() ? QStringList() : QStringList(key.toString());
+    }
+    return keys;
+}
+
+void addSettings() {
+    QTest::addColumn<QByteArray>("settings");
+    QTest::newRow("text") << QByteArray("m_btnTxtSetting");
+    QTest::newRow("images") << QByteArray("m_btnImageSetting");
+    QTest::newRow("security") << QByteArray("m_btnSecuritySetting");
+}
 
 } // namespace
 
@@ -129,6 +167,37 @@ class AppDelegateTest : public QObject {
         QCOMPARE(shown.at(0).notice, shown.at(1).notice);
         QCOMPARE(shown.at(0).notice.message,
                  QStringLiteral("Please select an output folder to store the output documents."));
+    }
+
+    void noTwoMnemonicsInSightAreEqual_data() { addSettings(); }
+
+    void noTwoMnemonicsInSightAreEqual() {
+        QFETCH(const QByteArray, settings);
+        Application application;
+        application.showSettings(settings);
+        QStringList mnemonics = mnemonicsOf(application.window());
+        QVERIFY(mnemonics.size() >= 14);
+        mnemonics.sort();
+        QStringList distinct = mnemonics;
+        distinct.removeDuplicates();
+        QCOMPARE(mnemonics, distinct);
+    }
+
+    void theMenusOpenByTheirMnemonics_data() { addSettings(); }
+
+    void theMenusOpenByTheirMnemonics() {
+        QFETCH(const QByteArray, settings);
+        Application application;
+        application.showSettings(settings);
+        for (const auto &[key, title] : {std::pair(Qt::Key_F, QStringLiteral("&File")),
+                                         std::pair(Qt::Key_H, QStringLiteral("&Help"))}) {
+            application.key(key, Qt::AltModifier);
+            auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+            QVERIFY(menu);
+            QCOMPARE(menu->title(), title);
+            QTest::keyClick(menu, Qt::Key_Escape);
+            QTRY_VERIFY(!QApplication::activePopupWidget());
+        }
     }
 
     void supportOpensTheTutorialAndProductTheProductPage() {
