@@ -1,10 +1,46 @@
 #include "cli/ProgressLine.h"
 
+#include "text/Printable.h"
+
+#include <QList>
+
 #include <algorithm>
 
 #include <unistd.h>
+#include <wchar.h>
 
 namespace folioforge {
+namespace {
+
+/// The columns that `character` takes on a terminal. The C library is asked because the shell and
+/// most terminals ask it, too; what it does not know may be as wide as any.
+int columnsOf(char32_t character) {
+    constexpr int kMost = 2;
+    const int columns = ::wcwidth(static_cast<wchar_t>(character));
+    return columns < 0 ? kMost : columns;
+}
+
+/// The end of `text` that has room in `most` columns.
+QString lastColumns(const QString &text, int most) {
+    const auto characters = text.toUcs4();
+    qsizetype units = 0;
+    qsizetype kept = 0;
+    int columns = 0;
+    for (qsizetype at = characters.size() - 1; at >= 0; --at) {
+        const int wide = columnsOf(characters[at]);
+        columns += wide;
+        if (columns > most) {
+            break;
+        }
+        units += QChar::requiresSurrogates(characters[at]) ? 2 : 1;
+        if (wide > 0) { // Marks stay with the character that they stand on.
+            kept = units;
+        }
+    }
+    return text.right(kept);
+}
+
+} // namespace
 
 ProgressLine::ProgressLine(Console &console, ProgressMode mode, std::vector<QString> names)
     : m_console(console)
@@ -39,12 +75,12 @@ void ProgressLine::show() {
         return;
     }
     // The line must not wrap, or it could not be taken away again.
-    constexpr qsizetype kLongestName = 48;
+    constexpr int kLongestName = 48;
     m_console.showProgress(QStringLiteral("%1 of %2  %3 %  %4")
                                .arg(m_current + 1)
                                .arg(m_names.size())
                                .arg(static_cast<int>(m_value))
-                               .arg(m_names[m_current].right(kLongestName)));
+                               .arg(lastColumns(printable(m_names[m_current]), kLongestName)));
 }
 
 } // namespace folioforge

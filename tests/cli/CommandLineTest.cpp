@@ -474,6 +474,34 @@ class CommandLineTest : public QObject {
         QVERIFY(run.err.endsWith("\r\033[K"));
     }
 
+    void aLongNameInProgressIsCutToItsLastColumns_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("shown"); // 48 columns.
+        const auto row = [](const char *tag, const QString &character, int count, int shown) {
+            const QString end = QStringLiteral(".txt");
+            QTest::newRow(tag) << character.repeated(count) + end
+                               << character.repeated(shown) + end;
+        };
+        row("letters", QStringLiteral("a"), 60, 44);
+        row("wide", QStringLiteral("\u3042"), 60, 22);
+        row("wide, of two code units", QStringLiteral("\U0001F600"), 40, 22);
+        row("with a mark on each", QStringLiteral("e\u0301"), 60, 44);
+        row("spelled out", QStringLiteral("\x1b"), 60, 11);
+        QTest::newRow("wide across the edge") << QString(60, u'\u3042') + QStringLiteral("x.txt")
+                                              << QString(21, u'\u3042') + QStringLiteral("x.txt");
+        QTest::newRow("a mark at the edge") << QString(9, u'b') + QStringLiteral("e\u0301") +
+                                                   QString(44, u'a') + QStringLiteral(".txt")
+                                            << QString(44, u'a') + QStringLiteral(".txt");
+    }
+    void aLongNameInProgressIsCutToItsLastColumns() {
+        QFETCH(QString, name);
+        QFETCH(QString, shown);
+        const QString file = test::writeFile(m_folder->filePath(name), "words");
+        const ToolRun run = convert({QStringLiteral("--progress=always"), file});
+        shown.replace(u'\x1b', QStringLiteral("\\x1b"));
+        QVERIFY2(run.err.startsWith("1 of 1  0 %  " + shown.toUtf8() + "\r"), run.err.constData());
+    }
+
     void namesThatMoveTheCursorArePrintedHarmlessly() {
         const ToolRun run = convert({path("\x1b[2Jevil.txt")});
         QCOMPARE(run.exitCode, 1);
