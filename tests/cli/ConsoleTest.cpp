@@ -1,5 +1,6 @@
 #include "cli/Console.h"
 #include "cli/Report.h"
+#include "support/Files.h"
 #include "text/Printable.h"
 
 #include <QJsonArray>
@@ -73,6 +74,27 @@ class ConsoleTest : public QObject {
         QCOMPARE(left[QStringLiteral("object")].toInt(), 9);
         QCOMPARE(left[QStringLiteral("reason")].toString(), QStringLiteral("line art"));
         QVERIFY(!object.contains(QStringLiteral("message")));
+    }
+
+    void theManualNamesEveryKey() {
+        InputResult result;
+        result.message = QStringLiteral("blank");
+        result.embedded = EmbeddedAs::OwnBytes;
+        result.compression.emplace().imagesKept.emplace_back();
+        InputResult failure;
+        failure.compression.emplace().error = QStringLiteral("no filter");
+        const QJsonObject object = QJsonDocument::fromJson(toJson(result)).object();
+        const QStringList keys =
+            object.keys() + object[QStringLiteral("imagesLeft")].toArray().at(0).toObject().keys() +
+            QJsonDocument::fromJson(toJson(failure)).object().keys();
+        const QByteArray manual =
+            test::readFile(QStringLiteral(FOLIOFORGE_PACKAGING "/folioforge-cli.1"));
+        QVERIFY(keys.size() > 12);
+        for (const QString &key : keys) {
+            QVERIFY2(manual.contains("Li " + key.toUtf8() + ' ') ||
+                         manual.contains("Li " + key.toUtf8() + '\n'),
+                     qPrintable(key));
+        }
     }
 
     void aPdfThatCouldNotBeCompressedSaysWhy() {
