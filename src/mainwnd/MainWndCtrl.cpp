@@ -17,11 +17,10 @@ namespace {
 constexpr int kHeaderHeight = 34;
 
 /// The layout's size, made smaller where the screen is: with the options panel shown the window
-/// still fits.
+/// still fits, as far as its controls allow. How far that is shows when the window does.
 void fitIntoScreen(QMainWindow &window) {
     if (const QScreen *screen = QGuiApplication::primaryScreen()) {
-        window.resize(
-            window.size().boundedTo(screen->availableSize()).expandedTo(window.minimumSizeHint()));
+        window.resize(window.size().boundedTo(screen->availableSize()));
     }
 }
 
@@ -176,7 +175,7 @@ void MainWndCtrl::observeNotifications() {
 
 bool MainWndCtrl::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::WindowStateChange) {
-        fitWindowToOptions();
+        fitWindowToOptions(m_window->geometry());
     }
     return QObject::eventFilter(watched, event);
 }

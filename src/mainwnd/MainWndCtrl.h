@@ -170,7 +170,8 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     static void exchangeButtons(SkinButton *pressed, SkinButton *other);
     void slideOptionsTo(double width);
     void setOptionsWidth(int width);
-    void fitWindowToOptions();
+    void fitWindowToOptions(const QRect &before);
+    void takeOnLeastSize();
     int leftWithOptions(const QRect &frame);
     void showSettingsView(QWidget *view);
     void markSettingsButton(const QWidget *view);

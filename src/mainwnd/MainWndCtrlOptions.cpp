@@ -11,6 +11,7 @@
 #include <QMargins>
 #include <QScreen>
 #include <QSettings>
+#include <QSignalBlocker>
 #include <QStyle>
 
 #include <algorithm>
@@ -74,34 +75,40 @@ void MainWndCtrl::slideOptionsTo(double width) {
         setOptionsWidth(static_cast<int>(width));
         return;
     }
+    // A slide that has run before would show its new end at once.
+    QSignalBlocker silence(m_optionsSlide);
     m_optionsSlide.setDuration(duration);
     m_optionsSlide.setEasingCurve(QEasingCurve::OutCubic);
     m_optionsSlide.setStartValue(m_optionsDrawer->openWidth());
     m_optionsSlide.setEndValue(static_cast<int>(width));
+    silence.unblock();
     m_optionsSlide.start();
 }
 
 void MainWndCtrl::setOptionsWidth(int width) {
+    // A drawer that appears may itself push the window out to its least width.
+    const QRect before = m_window->geometry();
     m_optionsDrawer->setOpenWidth(width);
-    fitWindowToOptions();
+    fitWindowToOptions(before);
 }
 
-/// The window grows and shrinks with the panel. A window that fills the screen shows the panel
-/// inside, and takes the panel's width on when it is restored.
-void MainWndCtrl::fitWindowToOptions() {
+/// The window grows and shrinks with the panel, from the geometry `before`. A window that fills the
+/// screen shows the panel inside, and takes the panel's width on when it is restored.
+void MainWndCtrl::fitWindowToOptions(const QRect &before) {
     if (m_window->isMaximized() || m_window->isFullScreen()) {
         m_restoredGeometry = m_window->normalGeometry();
         return;
     }
     // A window that has just been restored may still have the size of the screen.
-    const QRect now = m_window->geometry();
-    const QRect before = std::exchange(m_restoredGeometry, std::nullopt).value_or(now);
+    const QRect own = std::exchange(m_restoredGeometry, std::nullopt).value_or(before);
     const int change = m_optionsDrawer->openWidth() - m_optionsWidthInFrame;
     if (change == 0) {
         return;
     }
     m_optionsWidthInFrame += change;
-    const QRect after = before.adjusted(0, 0, change, 0);
+    takeOnLeastSize();
+    const QRect after = own.adjusted(0, 0, change, 0);
+    const QRect now = m_window->geometry();
     const QMargins frame(now.left() - m_window->frameGeometry().left(), 0,
                          m_window->frameGeometry().right() - now.right(), 0);
     const int shift = leftWithOptions(after.marginsAdded(frame)) + frame.left() - after.left();
@@ -109,6 +116,15 @@ void MainWndCtrl::fitWindowToOptions() {
         m_window->resize(after.size());
     } else {
         m_window->setGeometry(after.translated(shift, 0));
+    }
+}
+
+/// Gives a window on the screen the least size of what it shows now, at once: with the next event
+/// would be too late for a window that is about to shrink.
+void MainWndCtrl::takeOnLeastSize() {
+    if (m_window->isVisible()) {
+        m_skinedBackView->layout()->activate();
+        m_window->layout()->activate();
     }
 }
 

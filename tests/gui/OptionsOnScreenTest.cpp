@@ -1,22 +1,23 @@
+#include "OffscreenScreen.h"
 #include "WindowWorld.h"
 
 #include "mainwnd/MainWndCtrl.h"
 #include "skin/OptionsDrawer.h"
 
-#include <QFile>
+#include <QProxyStyle>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace folioforge;
 using namespace folioforge::test;
 
 namespace {
 
+/// Of a screen on which the window fits with the options panel, but not everywhere.
 constexpr int kScreenWidth = 1500;
-
-/// A screen on which the window fits with the options panel, but not everywhere.
-constexpr auto kScreen = R"({"screens": [{"name": "test", "x": 0, "y": 0, "width": 1500,
-    "height": 900, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
 
 struct PlacedWindow {
     /// A window with `points` left between its frame and the right edge of the screen.
@@ -41,21 +42,37 @@ struct PlacedWindow {
     QMainWindow &window = *ctrl.window();
 };
 
+/// A style in which nothing slides.
+class StillStyle : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override {
+        return hint == SH_Widget_Animation_Duration
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
+/// Writes down every width that a widget gets.
+class WidthRecorder : public QObject {
+  public:
+    explicit WidthRecorder(QWidget &widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (event->type() == QEvent::Resize) {
+            widths += static_cast<QResizeEvent *>(event)->size().width();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+    QList<int> widths;
+};
+
 } // namespace
 
 class OptionsOnScreenTest : public QObject {
     Q_OBJECT
 
   public:
-    /// The screen is made with the application.
-    static void initMain() {
-        static const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("screen.json")));
-        if (!file.open(QIODevice::WriteOnly) || file.write(kScreen) < 0) {
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-        }
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(file.fileName()));
-    }
+    static void initMain() { useScreenOf({kScreenWidth, 900}); }
 
   private Q_SLOTS:
     void initTestCase() {
@@ -90,6 +107,40 @@ class OptionsOnScreenTest : public QObject {
         QCOMPARE(placed.window.frameGeometry().right(), kScreenWidth - 1);
         placed.show(false);
         QCOMPARE(placed.window.geometry(), before);
+    }
+
+    void aWindowAsNarrowAsItGetsTakesTheExactWidthOnAndOff_data() {
+        QTest::addColumn<bool>("slides");
+        QTest::newRow("sliding") << true;
+        QTest::newRow("at once") << false;
+    }
+
+    void aWindowAsNarrowAsItGetsTakesTheExactWidthOnAndOff() {
+        QFETCH(const bool, slides);
+        StillStyle still;
+        PlacedWindow placed(342);
+        if (!slides) {
+            placed.window.setStyle(&still);
+        }
+        placed.window.resize(placed.window.minimumSizeHint());
+        const QRect before = placed.window.geometry();
+        for (int i = 0; i < 2; ++i) {
+            placed.show(true);
+            QCOMPARE(placed.window.geometry(), before.adjusted(0, 0, 342, 0));
+            // The panel and the list beside it need more than the list alone.
+            QVERIFY(placed.window.minimumWidth() > before.width());
+            placed.show(false);
+            QCOMPARE(placed.window.geometry(), before);
+        }
+    }
+
+    void theWindowOnlyShrinksWhileThePanelSlidesShut() {
+        PlacedWindow placed(342);
+        placed.show(true);
+        const WidthRecorder recorder(placed.window);
+        placed.show(false);
+        QVERIFY(!recorder.widths.isEmpty());
+        QVERIFY(std::is_sorted(recorder.widths.rbegin(), recorder.widths.rend()));
     }
 
     void thePanelNeverMovesTheWindowPastTheLeftEdge() {
