@@ -328,9 +328,36 @@ class ConversionTest : public QObject {
 
     void anEmptyTextGivesOneBlankPageAndNoWarning() {
         addText("a.txt", {});
+        m_options.textPage.sizeMode = TextPageA5;
         const PDFOutcome outcome = convertTo(path("out/a.pdf"));
         QVERIFY(outcome.entries[0].message.isEmpty());
-        QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 1);
+        const PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.pageCount(), 1);
+        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 420, 595));
+        QImage white(420, 595, QImage::Format_RGB32);
+        white.fill(Qt::white);
+        QCOMPARE(probe.render(1).convertToFormat(QImage::Format_RGB32), white);
+    }
+
+    void textPagesHaveTheSizeChosen_data() {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QSizeF>("size");
+        QTest::newRow("A3") << int{TextPageA3} << QSizeF(842, 1191);
+        QTest::newRow("A4") << int{TextPageA4} << QSizeF(595, 842);
+        QTest::newRow("A5") << int{TextPageA5} << QSizeF(420, 595);
+        QTest::newRow("custom") << int{TextPageCustom} << QSizeF(300, 250);
+    }
+    void textPagesHaveTheSizeChosen() {
+        QFETCH(const int, mode);
+        QFETCH(const QSizeF, size);
+        addText("a.txt", "words");
+        m_options.textPage.sizeMode = mode;
+        m_options.textPage.customWidth = 300;
+        m_options.textPage.customHeight = 250;
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        const PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 1), QRectF(QPointF(0, 0), size));
+        QCOMPARE(probe.text(1).trimmed(), QStringLiteral("words"));
     }
 
     void aNameTakenMeanwhileGivesWayInSingleMode() {

@@ -177,6 +177,12 @@ class TextPageLayoutTest : public QObject {
         QCOMPARE(rowTexts(layOutInWidth(QStringLiteral("AAAAAAA"), width)).size(), 1);
     }
 
+    void rowOfExactlyTheUsableWidthIsNotFull() {
+        const double width = 7 * advance(U'A');
+        QCOMPARE(rowTexts(layOutInWidth(QStringLiteral("AAAAAAABC"), width)),
+                 QStringList({QStringLiteral("AAAAAAAB"), QStringLiteral("C")}));
+    }
+
     void lineJustWiderThanTheUsableWidthKeepsItsLastUnit() {
         const double width = 7 * advance(U'A') - 0.001;
         QCOMPARE(rowTexts(layOutInWidth(QStringLiteral("AAAAAAA"), width)).size(), 1);
