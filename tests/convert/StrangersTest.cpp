@@ -18,6 +18,7 @@ class StrangersTest : public QObject, private WholeRun {
         counted.failing = missing;
         clear();
         QVERIFY(run(kind, counted).written);
+        int plantedHere = 0;
         for (int call = 1; call <= counted.count(); ++call) {
             clear();
             bool planted = false;
@@ -29,8 +30,10 @@ class StrangersTest : public QObject, private WholeRun {
             QCOMPARE(outcome.written, !planted || !kind.merge);
             QCOMPARE(namesIn(path("out")).size(), planted && !kind.merge ? 2 : 1);
             QVERIFY(sourcesAreUntouched());
-            m_planted += planted ? 1 : 0;
+            plantedHere += planted ? 1 : 0;
         }
+        QVERIFY(plantedHere > 0);
+        m_planted += plantedHere;
     }
 
     bool plant(bool link) const {
