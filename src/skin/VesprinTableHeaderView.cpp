@@ -55,6 +55,9 @@ void VesprinTableHeaderView::drawColumnCell(QPainter &painter, const QRectF &cel
 
 void VesprinTableHeaderView::drawColumn(QPainter &painter, int column, const QRectF &cell,
                                         const QString &title) {
+    if (cell.isNull()) {
+        return; // Its separator would still stand out, at the top of the header.
+    }
     drawColumnCell(painter, cell, title);
     if (column < kColumns - 1) {
         painter.setPen(linePen(1.0));

@@ -14,7 +14,7 @@ class VesprinTableHeaderView : public QHeaderView {
     /// Draws the background and the centred title of one column; `cell` in points.
     static void drawColumnCell(QPainter &painter, const QRectF &cell, const QString &title);
     /// Draws the header of `column` (0 to 3): its cell, the separator on its right and the line
-    /// along its bottom.
+    /// along its bottom. A zero rectangle, that of a missing column, shows nothing.
     static void drawColumn(QPainter &painter, int column, const QRectF &cell, const QString &title);
 
   protected:

@@ -150,9 +150,9 @@ class HeaderViewTest : public QObject {
         VesprinTableHeaderView header;
         header.resize(100, 34);
         const QImage picture = header.grab().toImage();
-        for (int y = 3; y < picture.height(); ++y) {
-            QCOMPARE(picture.pixelColor(50, y), picture.pixelColor(90, 20));
-        }
+        QImage even = picture;
+        even.fill(picture.pixelColor(90, 20));
+        QCOMPARE(picture, even);
     }
 
     void theWidgetDrawsTheTitlesOfItsTable() {
