@@ -123,6 +123,7 @@ void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
     const SkinImage normal = look(QString(), {});
     const SkinImage hover = look(QStringLiteral("-hover"), normal);
     if (!normal.isNull()) {
+        button->ensurePolished(); // Else the style sheet's least size would replace this one later.
         button->setFixedSize(normal.size());
     }
     button->setNormalImage(normal);
