@@ -1,10 +1,35 @@
 #include "skin/OptionsDrawer.h"
 
+#include <QApplication>
+#include <QComboBox>
+#include <QEvent>
+#include <QScrollArea>
+#include <QScrollBar>
+
 namespace folioforge {
 
 OptionsDrawer::OptionsDrawer(QWidget *parent)
-    : QWidget(parent) {
+    : QWidget(parent)
+    , m_area(new QScrollArea(this)) {
     setFixedWidth(m_openWidth);
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area->setWidgetResizable(true);
+    // The vertical bar lies on the panel's margin, which is nothing to scroll to.
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QScrollBar *sideways = m_area->horizontalScrollBar();
+    connect(sideways, &QScrollBar::rangeChanged, sideways,
+            [sideways] { sideways->setRange(0, 0); });
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget * /*before*/, QWidget *now) { showFocused(now); });
+}
+
+void OptionsDrawer::setPanel(QWidget *panel) {
+    panel->setFixedWidth(static_cast<int>(kFullWidth));
+    m_area->setWidget(panel);
+    for (QComboBox *list : panel->findChildren<QComboBox *>()) {
+        list->installEventFilter(this);
+    }
 }
 
 void OptionsDrawer::setOpenWidth(int width) {
@@ -15,12 +40,22 @@ void OptionsDrawer::setOpenWidth(int width) {
 
 void OptionsDrawer::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
-    placeChild();
+    m_area->setGeometry(0, 0, static_cast<int>(kFullWidth), height());
 }
 
-void OptionsDrawer::placeChild() {
-    if (auto *panel = findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
-        panel->setGeometry(0, 0, static_cast<int>(kFullWidth), height());
+/// A wheel that turns to scroll the panel must not choose from the list that comes to lie under it.
+bool OptionsDrawer::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::Wheel && m_area->verticalScrollBar()->maximum() > 0) {
+        event->ignore();
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+/// Scrolls to what the keyboard has come to. What is being clicked must not move away.
+void OptionsDrawer::showFocused(QWidget *focused) {
+    if (m_area->isAncestorOf(focused) && QGuiApplication::mouseButtons() == Qt::NoButton) {
+        m_area->ensureWidgetVisible(focused);
     }
 }
 

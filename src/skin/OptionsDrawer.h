@@ -2,10 +2,12 @@
 
 #include <QWidget>
 
+class QScrollArea;
+
 namespace folioforge {
 
-/// A drawer at the right of a window: shows the left part of its one child, which keeps its full
-/// width while the drawer opens and closes.
+/// A drawer at the right of a window: shows the left part of its one panel, which keeps its full
+/// width while the drawer opens and closes. In a drawer too low for it the panel scrolls.
 class OptionsDrawer : public QWidget {
     Q_OBJECT
 
@@ -15,16 +17,20 @@ class OptionsDrawer : public QWidget {
     /// Width of the open drawer in points.
     static constexpr double kFullWidth = 342.0;
 
+    /// Puts `panel` into the drawer, once. Its right margin must have room for a scroll bar.
+    void setPanel(QWidget *panel);
     /// Opens the drawer to `width` points; at 0 it is hidden and takes no focus.
     void setOpenWidth(int width);
     [[nodiscard]] int openWidth() const { return m_openWidth; }
 
   protected:
     void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
-    void placeChild();
+    void showFocused(QWidget *focused);
 
+    QScrollArea *m_area;
     int m_openWidth = static_cast<int>(kFullWidth);
 };
 
