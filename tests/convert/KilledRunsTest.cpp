@@ -58,6 +58,13 @@ class KilledRunsTest : public QObject, private WholeRun {
         return namesIn(folder).filter(QStringLiteral(".folioforge-part"));
     }
 
+    void checkThatTheNextRunClears(const Kind &kind) {
+        QFile::remove(output());
+        QVERIFY(run(kind, SystemCalls::system()).written);
+        QCOMPARE(namesIn(path("out")).size(), 1);
+        QCOMPARE(namesIn(path("temporary")), QStringList());
+    }
+
   private Q_SLOTS:
     void initTestCase() { setUp(); }
     void init() { clear(); }
@@ -89,10 +96,7 @@ class KilledRunsTest : public QObject, private WholeRun {
             left += static_cast<int>(partsIn(path(qPrintable(partsAppearIn))).size());
             QVERIFY2(partsIn(path("out")).size() <= 1 && partsIn(path("temporary")).size() <= 1,
                      qPrintable(parts.join(u' ')));
-            QFile::remove(output());
-            QVERIFY(run(kind, SystemCalls::system()).written);
-            QCOMPARE(namesIn(path("out")).size(), 1);
-            QCOMPARE(namesIn(path("temporary")), QStringList());
+            checkThatTheNextRunClears(kind);
         }
         qInfo("%d runs killed, %d parts left and cleared", kills, left);
         QVERIFY(left > 0);

@@ -36,16 +36,6 @@ QByteArray bitmap(qsizetype headerSize, char bits, quint32 compression, const QB
            header + pixels;
 }
 
-/// Red, green and blue of each pixel, the rows from the top.
-QByteArray rgbRows(const EncodedImage &image) {
-    const QImage picture = decoded(image).convertToFormat(QImage::Format_RGB888);
-    QByteArray rows;
-    for (int y = 0; y < picture.height(); ++y) {
-        rows.append(reinterpret_cast<const char *>(picture.constScanLine(y)), picture.width() * 3);
-    }
-    return rows;
-}
-
 } // namespace
 
 /// Bitmaps of 2 x 2 pixels, byte by byte.

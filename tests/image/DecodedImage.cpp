@@ -111,6 +111,16 @@ QImage decodedFax(const EncodedImage &image) {
 
 } // namespace
 
+QByteArray rgbRows(const EncodedImage &image) {
+    const QImage picture = decoded(image).convertToFormat(QImage::Format_RGB888);
+    const qsizetype stride = qsizetype{3} * picture.width();
+    QByteArray rows;
+    for (int y = 0; y < picture.height(); ++y) {
+        rows.append(reinterpret_cast<const char *>(picture.constScanLine(y)), stride);
+    }
+    return rows;
+}
+
 QByteArray pngChunk(const char *type, const QByteArray &content) {
     const QByteArray body = type + content;
     return bigEndian(static_cast<quint32>(content.size())) + body + bigEndian(crcOf(body));

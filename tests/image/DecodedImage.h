@@ -24,6 +24,9 @@ QByteArray dataOf(const EncodedImage &image);
 /// after it has been put into files of these formats by hand. Grey, RGB and palette only.
 QImage decoded(const EncodedImage &image);
 
+/// Red, green and blue of each pixel of decoded(), the rows from the top.
+QByteArray rgbRows(const EncodedImage &image);
+
 /// A chunk of a PNG file with its length and checksum.
 QByteArray pngChunk(const char *type, const QByteArray &content);
 

@@ -30,17 +30,7 @@ class TgaTest : public QObject {
         bytes.append(static_cast<char>(bits)).append(static_cast<char>(descriptor));
         return writeFile(m_folder.filePath(QStringLiteral("picture.tga")), bytes + rest);
     }
-    static QByteArray rgbRows(const EncodedImage &image);
 };
-
-QByteArray TgaTest::rgbRows(const EncodedImage &image) {
-    const QImage picture = decoded(image).convertToFormat(QImage::Format_RGB888);
-    QByteArray rows;
-    for (int y = 0; y < picture.height(); ++y) {
-        rows.append(reinterpret_cast<const char *>(picture.constScanLine(y)), picture.width() * 3);
-    }
-    return rows;
-}
 
 void TgaTest::rowsOfEveryOriginComeOutUpright_data() {
     QTest::addColumn<int>("descriptor");
