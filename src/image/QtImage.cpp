@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 
 namespace folioforge {
 
@@ -147,6 +148,55 @@ void requirePlausibleColors(const FileView &file) {
     }
 }
 
+/// The bits that pixels have of red, green, blue and opacity; 8 or none where they are whole bytes.
+std::array<int, 4> channelBits(QByteArrayView bitmap) {
+    constexpr quint32 kWithOpacity = 56;
+    constexpr qsizetype kMasksAt = 54;
+    const auto bits = littleEndianAt<quint16>(bitmap, 28);
+    const auto headerSize = littleEndianAt<quint32>(bitmap, kFileHeaderBytes);
+    if (headerSize < kNewHeader || bits < 16) {
+        return {};
+    }
+    if (littleEndianAt<quint32>(bitmap, 30) == 0) {
+        return bits == 16 ? std::array{5, 5, 5, 0} : std::array<int, 4>();
+    }
+    std::array<int, 4> counts = {};
+    for (qsizetype i = 0; i < (headerSize < kWithOpacity ? 3 : 4); ++i) {
+        counts[i] = std::popcount(littleEndianAt<quint32>(bitmap, kMasksAt + 4 * i));
+    }
+    return counts;
+}
+
+/// Each value of a byte whose low bits Qt left zero, spread over the whole range.
+std::array<uchar, 256> widened(int bits) {
+    std::array<uchar, 256> values = {};
+    const int most = (1 << bits) - 1;
+    for (int value = 0; value < 256; ++value) {
+        const int stored = value >> (8 - bits);
+        values[value] = static_cast<uchar>((stored * 255 + most / 2) / most);
+    }
+    return values;
+}
+
+/// Fills the low bits of channels of fewer than eight: Qt leaves them zero, which makes white grey.
+void widenChannels(QImage &image, const std::array<int, 4> &channels) {
+    constexpr std::array<int, 4> kShifts = {16, 8, 0, 24};
+    for (std::size_t channel = 0; channel < channels.size(); ++channel) {
+        if (channels[channel] == 0 || channels[channel] >= 8) {
+            continue;
+        }
+        const auto values = widened(channels[channel]);
+        const int shift = kShifts[channel];
+        for (int y = 0; y < image.height(); ++y) {
+            auto *row = reinterpret_cast<QRgb *>(image.scanLine(y));
+            for (int x = 0; x < image.width(); ++x) {
+                const QRgb wide = values[(row[x] >> shift) & 0xFF];
+                row[x] = (row[x] & ~(0xFFU << shift)) | (wide << shift);
+            }
+        }
+    }
+}
+
 EncodedImage encodeBitmap(const FileView &file) {
     constexpr qint64 kRunRatio = 2040; // A bit a pixel packed, or 255 pixels for two bytes.
     const ImageHeader header = readBitmapHeader(file);
@@ -155,7 +205,10 @@ EncodedImage encodeBitmap(const FileView &file) {
     requirePlausibleColors(file);
     QByteArray bytes = file.readExactly(0, file.size());
     makeHeaderKnown(bytes);
-    return encodeRaster(rasterOf(readWithQt(std::move(bytes), "bmp")));
+    const auto channels = channelBits(bytes);
+    QImage image = readWithQt(std::move(bytes), "bmp");
+    widenChannels(image, channels);
+    return encodeRaster(rasterOf(image));
 }
 
 EncodedImage encodeGif(const FileView &file) {

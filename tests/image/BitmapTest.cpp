@@ -45,6 +45,9 @@ class BitmapTest : public QObject {
   private Q_SLOTS:
     void headersOfEveryLengthGiveTheirPixels_data();
     void headersOfEveryLengthGiveTheirPixels();
+    void coloursOfFewBitsAreWidened_data();
+    void coloursOfFewBitsAreWidened();
+    void oneBitOfOpacityIsAllOrNothing();
     void opacityCountsWhereTheHeaderHasAMaskForIt();
     void densityIsReadOnlyWhereTheHeaderHasIt();
     void cutFileIsRefused_data();
@@ -114,6 +117,59 @@ void BitmapTest::headersOfEveryLengthGiveTheirPixels() {
     const EncodedImage image = encodeImage(path);
     QCOMPARE(rgbRows(image).toHex(), rgb.toHex());
     QVERIFY(image.softMask == nullptr);
+}
+
+void BitmapTest::coloursOfFewBitsAreWidened_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("rgb");
+    const QByteArray masks565 = little(0xF800) + little(0x07E0) + little(0x001F);
+    // White and half of each: 16, 32 and 16 of 31, 63 and 31 are 131.6, 129.5 and 131.6 of 255.
+    const QByteArray pixels565 = QByteArray::fromHex("ffff"
+                                                     "1084"
+                                                     "00f8"
+                                                     "0000");
+    const QByteArray rgb565 = QByteArray::fromHex("ff0000"
+                                                  "000000"
+                                                  "ffffff"
+                                                  "848284");
+    for (const int size : {52, 56, 108}) {
+        QTest::addRow("5, 6 and 5 bits, %d", size)
+            << bitmap(size, 16, kMasks, masks565, pixels565) << rgb565;
+    }
+    QByteArray masksBehind = bitmap(52, 16, kMasks, masks565, pixels565);
+    masksBehind[14] = 40; // The same bytes: masks come between a header of 40 and the pixels.
+    QTest::newRow("5, 6 and 5 bits, 40") << masksBehind << rgb565;
+    QTest::newRow("5 bits each") << bitmap(40, 16, kPlain, {},
+                                           QByteArray::fromHex("ff7f"
+                                                               "1042"
+                                                               "007c"
+                                                               "0000"))
+                                 << QByteArray::fromHex("ff0000"
+                                                        "000000"
+                                                        "ffffff"
+                                                        "848484");
+    // 1, 8 and 15 of 15.
+    QTest::newRow("4 bits each of 32")
+        << bitmap(56, 32, kMasks, little(0xF00) + little(0xF0) + little(0xF),
+                  little(0x18F) + little(0xFFF) + little(0) + little(0x00F))
+        << QByteArray::fromHex("000000"
+                               "0000ff"
+                               "1188ff"
+                               "ffffff");
+}
+
+void BitmapTest::coloursOfFewBitsAreWidened() {
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QByteArray, rgb);
+    QCOMPARE(rgbRows(encodeImage(file(bytes))).toHex(), rgb.toHex());
+}
+
+void BitmapTest::oneBitOfOpacityIsAllOrNothing() {
+    const QByteArray masks = little(0x7C00) + little(0x03E0) + little(0x001F) + little(0x8000);
+    const EncodedImage image =
+        encodeImage(file(bitmap(56, 16, kMasks, masks, QByteArray::fromHex("ffff007cff7f00fc"))));
+    QVERIFY(image.softMask != nullptr);
+    QCOMPARE(rgbRows(*image.softMask).toHex(), QByteArray("000000ffffffffffff000000"));
 }
 
 void BitmapTest::opacityCountsWhereTheHeaderHasAMaskForIt() {
