@@ -141,7 +141,12 @@ std::int32_t WideCharToMultiBytes(const wchar_t *text, char *buffer, std::int32_
     if (!buffer || size < need || count == kInvalid) {
         return need + 1;
     }
-    return std::wcstombs(buffer, text, count) != 0 ? 0 : need + 1;
+    // With room for the whole text and its end: where all that fits has no bytes, as tags have none
+    // in ASCII, glibc looks at the byte before the room and may end the program.
+    std::string bytes(std::max(count, std::wcslen(text)) + 1, '\0');
+    const std::size_t written = std::wcstombs(bytes.data(), text, bytes.size());
+    std::copy_n(bytes.data(), written, buffer);
+    return written != 0 ? 0 : need + 1;
 }
 
 void utf8string_to_wstring(const std::string &text, std::wstring &output) {

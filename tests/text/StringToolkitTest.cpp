@@ -273,6 +273,15 @@ class StringToolkitTest : public QObject {
         QCOMPARE(QByteArray(buffer.data(), 8), QByteArray("########"));
     }
 
+    void wideTextThatBeginsWithTagsIsWrittenWithoutThem() {
+        // ASCII has no bytes for tags, and the byte before the buffer is nobody's business.
+        std::array<char, 4> buffer{};
+        QCOMPARE(WideCharToMultiBytes(L"\U000E0041\U000E0041x", nullptr, 0), 2);
+        QCOMPARE(WideCharToMultiBytes(L"\U000E0041\U000E0041x", buffer.data() + 1, 1), 0);
+        QCOMPARE(QByteArray(buffer.data(), 4), QByteArray("\0x\0\0", 4));
+        QCOMPARE(WideCharToMultiBytes(L"\U000E0041", buffer.data() + 1, 1), 1);
+    }
+
     void wideTextIsWrittenInALatin1Locale() {
         qputenv("LOCPATH", m_locales.path().toUtf8());
         const LocaleGuard locale(kLatin1Locale);
