@@ -1,14 +1,15 @@
 #include "image/Sniffer.h"
 
 #include "error/Error.h"
+#include "image/Bmp.h"
 #include "image/Exr.h"
+#include "image/Gif.h"
 #include "image/Icns.h"
 #include "image/Ico.h"
 #include "image/Jpeg.h"
 #include "image/Jpeg2000.h"
 #include "image/Png.h"
 #include "image/Psd.h"
-#include "image/QtImage.h"
 #include "image/Tga.h"
 #include "image/Tiff.h"
 

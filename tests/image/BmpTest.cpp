@@ -39,7 +39,7 @@ QByteArray bitmap(qsizetype headerSize, char bits, quint32 compression, const QB
 } // namespace
 
 /// Bitmaps of 2 x 2 pixels, byte by byte.
-class BitmapTest : public QObject {
+class BmpTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
@@ -61,7 +61,7 @@ class BitmapTest : public QObject {
     QTemporaryDir m_folder;
 };
 
-void BitmapTest::headersOfEveryLengthGiveTheirPixels_data() {
+void BmpTest::headersOfEveryLengthGiveTheirPixels_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("rgb");
     // Red 2, green 5, blue 1 of 31, 63 and 31, then each alone.
@@ -109,7 +109,7 @@ void BitmapTest::headersOfEveryLengthGiveTheirPixels_data() {
                                                                   "100000");
 }
 
-void BitmapTest::headersOfEveryLengthGiveTheirPixels() {
+void BmpTest::headersOfEveryLengthGiveTheirPixels() {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QByteArray, rgb);
     const QString path = file(bytes);
@@ -119,7 +119,7 @@ void BitmapTest::headersOfEveryLengthGiveTheirPixels() {
     QVERIFY(image.softMask == nullptr);
 }
 
-void BitmapTest::coloursOfFewBitsAreWidened_data() {
+void BmpTest::coloursOfFewBitsAreWidened_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("rgb");
     const QByteArray masks565 = little(0xF800) + little(0x07E0) + little(0x001F);
@@ -158,13 +158,13 @@ void BitmapTest::coloursOfFewBitsAreWidened_data() {
                                "ffffff");
 }
 
-void BitmapTest::coloursOfFewBitsAreWidened() {
+void BmpTest::coloursOfFewBitsAreWidened() {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QByteArray, rgb);
     QCOMPARE(rgbRows(encodeImage(file(bytes))).toHex(), rgb.toHex());
 }
 
-void BitmapTest::oneBitOfOpacityIsAllOrNothing() {
+void BmpTest::oneBitOfOpacityIsAllOrNothing() {
     const QByteArray masks = little(0x7C00) + little(0x03E0) + little(0x001F) + little(0x8000);
     const EncodedImage image =
         encodeImage(file(bitmap(56, 16, kMasks, masks, QByteArray::fromHex("ffff007cff7f00fc"))));
@@ -172,7 +172,7 @@ void BitmapTest::oneBitOfOpacityIsAllOrNothing() {
     QCOMPARE(rgbRows(*image.softMask).toHex(), QByteArray("000000ffffffffffff000000"));
 }
 
-void BitmapTest::opacityCountsWhereTheHeaderHasAMaskForIt() {
+void BmpTest::opacityCountsWhereTheHeaderHasAMaskForIt() {
     const QByteArray masks =
         little(0x0000FF) + little(0x00FF00) + little(0xFF0000) + little(0xFF000000);
     const EncodedImage image = encodeImage(file(bitmap(56, 32, kMasks, masks,
@@ -185,13 +185,13 @@ void BitmapTest::opacityCountsWhereTheHeaderHasAMaskForIt() {
     QCOMPARE(rgbRows(*image.softMask).toHex(), QByteArray("808080ffffff000000404040"));
 }
 
-void BitmapTest::densityIsReadOnlyWhereTheHeaderHasIt() {
+void BmpTest::densityIsReadOnlyWhereTheHeaderHasIt() {
     const QByteArray pixels(16, '\x7f');
     QCOMPARE(readImageHeader(file(bitmap(56, 24, kPlain, {}, pixels))).horizontalDpi, 300.0);
     QCOMPARE(readImageHeader(file(bitmap(16, 24, kPlain, {}, pixels))).horizontalDpi, 72.0);
 }
 
-void BitmapTest::cutFileIsRefused_data() {
+void BmpTest::cutFileIsRefused_data() {
     QTest::addColumn<qsizetype>("headerSize");
     QTest::addColumn<qsizetype>("left");
     QTest::newRow("in the masks") << qsizetype{52} << qsizetype{60};
@@ -199,7 +199,7 @@ void BitmapTest::cutFileIsRefused_data() {
     QTest::newRow("in the shortest header") << qsizetype{16} << qsizetype{29};
 }
 
-void BitmapTest::cutFileIsRefused() {
+void BmpTest::cutFileIsRefused() {
     QFETCH(const qsizetype, headerSize);
     QFETCH(const qsizetype, left);
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
@@ -207,5 +207,5 @@ void BitmapTest::cutFileIsRefused() {
     QCOMPARE(refusalOf(file(whole.first(left))), QStringLiteral("The file ends too early"));
 }
 
-QTEST_GUILESS_MAIN(BitmapTest)
-#include "BitmapTest.moc"
+QTEST_GUILESS_MAIN(BmpTest)
+#include "BmpTest.moc"
