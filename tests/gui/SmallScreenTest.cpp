@@ -35,11 +35,11 @@ struct SmallWindow {
     void openLowPanel() {
         ctrl.EnableSettings(true);
         ctrl.clickBtnExpand();
-        QTRY_COMPARE(drawer.openWidth(), 342);
-        window.resize(window.width(), window.minimumSizeHint().height());
         window.activateWindow();
+        QVERIFY(QTest::qWaitFor([&] { return drawer.openWidth() == 342; }));
+        window.resize(window.width(), window.minimumSizeHint().height());
+        QVERIFY(QTest::qWaitFor([&] { return bar().isVisible(); }));
         QVERIFY(QTest::qWaitForWindowActive(&window));
-        QTRY_VERIFY(bar().isVisible());
     }
     QScrollBar &bar() { return *drawer.findChild<QScrollArea *>()->verticalScrollBar(); }
     /// Where the panel's visible fields, buttons and labels are in it.
