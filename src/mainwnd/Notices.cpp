@@ -6,10 +6,11 @@
 #include <QLayout>
 #include <QMessageBox>
 #include <QScreen>
-#include <QScrollArea>
 #include <QScrollBar>
+#include <QTextEdit>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 namespace folioforge {
@@ -86,21 +87,45 @@ void showAsPlainText(QMessageBox &box) {
     }
 }
 
-/// A notice may name thousands of files: what half the screen has no room for scrolls, so that the
-/// button stays within reach.
-void letLongTextScroll(QMessageBox &box) {
+/// `text` as one that can be selected and scrolls, and whose words break where there is no room for
+/// them whole; no larger than `most`.
+QTextEdit *scrollingText(const QLabel &text, const QSize &most) {
+    auto *view = new QTextEdit(text.parentWidget());
+    view->setReadOnly(true);
+    view->setFrameShape(QFrame::NoFrame);
+    view->viewport()->setAutoFillBackground(false);
+    view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    view->setFont(text.font());
+    view->setPlainText(text.text());
+    const int bar = view->verticalScrollBar()->sizeHint().width();
+    const int width = std::min(text.sizeHint().width() + bar, most.width());
+    view->document()->setDocumentMargin(0);
+    view->setLineWrapMode(QTextEdit::FixedPixelWidth);
+    view->setLineWrapColumnOrWidth(width - bar);
+    const int height = static_cast<int>(std::ceil(view->document()->size().height()));
+    view->setFixedSize(width, std::min(height, most.height()));
+    return view;
+}
+
+/// How large the text of a notice may be: a box takes part of the screen, and is never wider than
+/// 1000 points.
+QSize mostOfText(const QScreen &screen) {
+    const QSize size = screen.availableGeometry().size();
+    return {std::min(size.width() * 2 / 5, 800), size.height() / 2};
+}
+
+/// A notice may name thousands of files, or one by a single endless word: text without room for it
+/// scrolls and breaks, so that all of it and the button stay within reach.
+void fitLongText(QMessageBox &box) {
     auto *text = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
-    const QSize most = box.screen()->availableGeometry().size() / 2;
-    if (!text || text->sizeHint().height() <= most.height()) {
+    const QSize most = mostOfText(*box.screen());
+    if (!text || (text->sizeHint().height() <= most.height() &&
+                  text->minimumSizeHint().width() <= most.width())) {
         return;
     }
-    auto *area = new QScrollArea(&box);
-    const std::unique_ptr<QLayoutItem> place(box.layout()->replaceWidget(text, area));
-    area->setWidget(text);
-    area->setFrameShape(QFrame::NoFrame);
-    const int bar = area->verticalScrollBar()->sizeHint().width();
-    area->setMinimumWidth(std::min(text->sizeHint().width() + bar, most.width()));
-    area->setFixedHeight(most.height());
+    const std::unique_ptr<QLayoutItem> place(
+        box.layout()->replaceWidget(text, scrollingText(*text, most)));
+    text->hide();
 }
 
 } // namespace
@@ -126,7 +151,7 @@ void Notices::show(QWidget *window, const Notice &notice, Kind kind, Ended ended
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setInformativeText(notice.message);
     showAsPlainText(*box);
-    letLongTextScroll(*box);
+    fitLongText(*box);
     box->setWindowModality(kind == Kind::Sheet ? Qt::WindowModal : Qt::ApplicationModal);
     if (ended) {
         // Queued, so that this sheet has gone before the next one comes.

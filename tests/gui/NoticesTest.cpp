@@ -1,3 +1,5 @@
+#include "OffscreenScreen.h"
+
 #include "mainwnd/Notices.h"
 
 #include <QAbstractButton>
@@ -5,11 +7,14 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QScreen>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextEdit>
+#include <QTextLayout>
 
 using namespace folioforge;
+using namespace folioforge::test;
 
 namespace {
 
@@ -19,10 +24,22 @@ QMessageBox *boxOf(QWidget &window) {
     return window.findChild<QMessageBox *>();
 }
 
+/// The box with `message`, on the screen; null if it does not come.
+QMessageBox *exposedBox(Notices &notices, QWidget &window, const QString &message) {
+    window.show();
+    notices.showSheet(&window, notice(message));
+    QMessageBox *box = boxOf(window);
+    return box && QTest::qWaitForWindowExposed(box) ? box : nullptr;
+}
+
 } // namespace
 
 class NoticesTest : public QObject {
     Q_OBJECT
+
+  public:
+    /// A box may never be as wide as this screen has room for.
+    static void initMain() { useScreenOf({2560, 1440}); }
 
   private Q_SLOTS:
     void aSheetIsModalToItsWindowWithOneButton() {
@@ -50,19 +67,42 @@ class NoticesTest : public QObject {
 
     void theButtonOfANoticeThatNamesThousandsOfFilesIsOnTheScreen() {
         QWidget window;
-        window.show();
         Notices notices;
         const QString names = QStringLiteral("/a/damaged.pdf\n").repeated(3000);
-        notices.showSheet(&window, {QStringLiteral("Notice"), names});
-        QMessageBox *box = boxOf(window);
-        QVERIFY(box && QTest::qWaitForWindowExposed(box));
-        QCOMPARE(box->informativeText(), names);
-        const QRect screen = box->screen()->availableGeometry();
-        QVERIFY(box->height() < screen.height());
-        const auto *area = box->findChild<QScrollArea *>();
-        QVERIFY(area && area->verticalScrollBar()->maximum() > 10 * screen.height());
+        QMessageBox *box = exposedBox(notices, window, names);
+        QVERIFY(box && box->informativeText() == names);
+        const int screen = box->screen()->availableGeometry().height();
+        QVERIFY(box->height() < screen);
+        const auto *text = box->findChild<QTextEdit *>();
+        QVERIFY(text && text->verticalScrollBar()->maximum() > 10 * screen);
         QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
         QTRY_VERIFY(!boxOf(window));
+    }
+
+    void aNameWithoutAnyBreakIsReadableWhole() {
+        QWidget window;
+        Notices notices;
+        const QString message = QStringLiteral("Damaged:\n%1.pdf").arg(QString(240, u'W'));
+        const QMessageBox *box = exposedBox(notices, window, message);
+        QVERIFY(box);
+        const auto *text = box->findChild<QTextEdit *>();
+        QVERIFY(text);
+        QVERIFY(text->isVisible() && text->toPlainText() == message);
+        QVERIFY(box->rect().contains(text->geometry()));
+        const QTextLayout &name = *text->document()->lastBlock().layout();
+        QVERIFY(name.lineCount() > 1);
+        for (int i = 0; i < name.lineCount(); ++i) {
+            QVERIFY(name.lineAt(i).naturalTextWidth() <= text->viewport()->width());
+        }
+        QCOMPARE(text->verticalScrollBar()->maximum(), 0);
+    }
+
+    void anOrdinaryNoticeNeedsNoScrolling() {
+        QWidget window;
+        window.show();
+        Notices notices;
+        notices.showSheet(&window, notice(QStringLiteral("Many short words. ").repeated(20)));
+        QVERIFY(!boxOf(window)->findChild<QTextEdit *>());
     }
 
     void whatFollowsASheetComesWhenItHasGone() {
