@@ -3,8 +3,10 @@
 #include "app/FolioforgeAppDelegate.h"
 #include "mainwnd/FilesArray.h"
 #include "skin/OptionsDrawer.h"
+#include "support/PdfProbe.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QIcon>
 #include <QLabel>
@@ -14,6 +16,8 @@
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
+
+#include <algorithm>
 
 using namespace folioforge;
 using namespace folioforge::test;
@@ -48,14 +52,34 @@ struct Application {
         }
         qFatal("no item %s", qPrintable(title));
     }
+    /// Gives the main window the keyboard.
+    void activate() {
+        window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window()));
+    }
+    void addTexts(int count) {
+        QStringList paths;
+        for (int i = 0; i < count; ++i) {
+            paths += world.file(QStringLiteral("%1.txt").arg(i));
+        }
+        delegate.mainWndCtrl().addFiles(paths, -1);
+    }
+    /// What the output folder holds, which is the home folder.
+    [[nodiscard]] QStringList documents() const {
+        QStringList paths;
+        for (const QFileInfo &file :
+             QDir(world.home.path()).entryInfoList({QStringLiteral("*.pdf")})) {
+            paths += file.filePath();
+        }
+        return paths;
+    }
     /// Shows the options panel and, in it, the settings that `button` stands for.
     void showSettings(const char *button) {
         QTest::mouseClick(&controlOf<QWidget>(window(), "m_btnExpand"), Qt::LeftButton);
         auto &drawer = controlOf<OptionsDrawer>(window(), "m_optionsDrawer");
         QTRY_COMPARE(drawer.openWidth(), 342);
         QTest::mouseClick(&controlOf<QWidget>(window(), button), Qt::LeftButton);
-        window().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window()));
+        activate();
     }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(window().windowHandle(), key, modifiers);
@@ -144,22 +168,19 @@ class AppDelegateTest : public QObject {
     void controlOAddsFiles() {
         Application application;
         application.world.notices.setNextFiles({application.world.file(QStringLiteral("a.txt"))});
-        application.window().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&application.window()));
+        application.activate();
         application.key(Qt::Key_O, Qt::ControlModifier);
         QTRY_COMPARE(application.delegate.mainWndCtrl().filesArray().count(), 1);
         QVERIFY(application.world.notices.filePanels().front().chooses ==
                 FilePanel::Chooses::FilesAndFolders);
     }
 
-    /// A refused run shows the same notice, whichever way it is started.
-    void theStartItemDoesWhatTheCreateButtonDoes() {
+    void theStartItemIsRefusedAsTheCreateButtonIs() {
         Application application;
         MainWndCtrl &ctrl = application.delegate.mainWndCtrl();
         ctrl.addFiles({application.world.file(QStringLiteral("a.txt"))}, -1);
         controlOf<QLineEdit>(application.window(), "m_tfOutputFolder").clear();
-        application.window().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&application.window()));
+        application.activate();
         application.key(Qt::Key_Return, Qt::ControlModifier);
         QTest::mouseClick(&controlOf<QWidget>(application.window(), "m_btnCreate"), Qt::LeftButton);
         const std::vector<Notices::Shown> &shown = application.world.notices.shown();
@@ -200,10 +221,22 @@ class AppDelegateTest : public QObject {
         }
     }
 
+    void theStartItemRunsAsTheCreateButtonDoes() {
+        Application application;
+        application.addTexts(1);
+        application.activate();
+        application.key(Qt::Key_Return, Qt::ControlModifier);
+        const FilesArray &files = application.delegate.mainWndCtrl().filesArray();
+        QTRY_COMPARE(files.at(0).stateIndex(), 3);
+        QCOMPARE(application.documents(),
+                 QStringList(application.world.path(QStringLiteral("0.pdf"))));
+        QCOMPARE(PdfProbe(application.documents().first()).text().trimmed(),
+                 QStringLiteral("text"));
+    }
+
     void supportOpensTheTutorialAndProductTheProductPage() {
         Application application;
-        application.window().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&application.window()));
+        application.activate();
         application.key(Qt::Key_F1);
         application.item(QStringLiteral("Product Page")).trigger();
         const QList<QUrl> &urls = application.world.desktop.urls;
@@ -246,11 +279,18 @@ class AppDelegateTest : public QObject {
         QCOMPARE(application.runUntilClosed(), 0);
     }
 
-    void closingDuringABusySheetAsksNothing() {
+    void closingDuringARunAsksNothingAndLeavesWholeFiles() {
+        constexpr int kFiles = 400;
         Application application;
-        application.delegate.mainWndCtrl().showAlertView();
+        application.addTexts(kFiles);
+        application.delegate.mainWndCtrl().clickBtnCreate();
+        QTRY_VERIFY(!application.documents().isEmpty());
         QCOMPARE(application.runUntilClosed(), 0);
         QVERIFY(application.world.notices.shown().empty());
+        const QStringList documents = application.documents();
+        QVERIFY(documents.size() < kFiles);
+        QVERIFY(std::ranges::all_of(
+            documents, [](const QString &document) { return PdfProbe(document).isValid(); }));
     }
 };
 

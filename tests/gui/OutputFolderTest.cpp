@@ -52,7 +52,9 @@ class OutputFolderTest : public QObject {
             ctrl.window();
         }
         QCOMPARE(world.desktop.urls.size(), 1);
-        QVERIFY(QFileInfo(world.desktop.urls.first().toLocalFile()).isFile());
+        const QUrl page = world.desktop.urls.first();
+        QCOMPARE(page.fileName(), QStringLiteral("tutorial.html"));
+        QVERIFY(QFileInfo(page.toLocalFile()).isFile());
         MainWndCtrl next(world.surroundings());
         next.window();
         QCOMPARE(world.desktop.urls.size(), 1);
