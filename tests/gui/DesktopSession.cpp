@@ -10,6 +10,12 @@
 #include <QFile>
 #include <QTest>
 
+#include <xcb/xcb.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+
 namespace folioforge::test {
 namespace {
 
@@ -46,6 +52,41 @@ QDBusMessage callTo(const DesktopSession::Element &element, const char *interfac
                                                        atSpi(interface), QLatin1StringView(method));
     call.setArguments(arguments);
     return call;
+}
+
+/// What takes the title of a visible window and gives its number.
+QStringList searchFor(const QString &window) {
+    return {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
+            QStringLiteral("^%1$").arg(window)};
+}
+
+struct Free {
+    void operator()(void *memory) const { std::free(memory); }
+    void operator()(xcb_connection_t *connection) const { xcb_disconnect(connection); }
+};
+
+xcb_atom_t atom(xcb_connection_t *connection, const QByteArray &name) {
+    const auto request =
+        xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.constData());
+    const std::unique_ptr<xcb_intern_atom_reply_t, Free> reply(
+        xcb_intern_atom_reply(connection, request, nullptr));
+    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+}
+
+/// Sends the window with the number `window` what a window manager sends when it is to close.
+bool askToClose(const QByteArray &display, xcb_window_t window) {
+    const std::unique_ptr<xcb_connection_t, Free> screen(xcb_connect(display.constData(), nullptr));
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = atom(screen.get(), "WM_PROTOCOLS");
+    message.data.data32[0] = atom(screen.get(), "WM_DELETE_WINDOW");
+    // The check waits for the screen, which forgets what it has not read when the sender leaves.
+    const std::unique_ptr<xcb_generic_error_t, Free> error(xcb_request_check(
+        screen.get(), xcb_send_event_checked(screen.get(), 0, window, XCB_EVENT_MASK_NO_EVENT,
+                                             reinterpret_cast<const char *>(&message))));
+    return !error && xcb_connection_has_error(screen.get()) == 0;
 }
 
 } // namespace
@@ -244,23 +285,29 @@ bool DesktopSession::click(const QString &name) {
     argument >> place;
     const QPoint middle = place.center();
     return runOnScreen({QStringLiteral("mousemove"), QString::number(middle.x()),
-                        QString::number(middle.y()), QStringLiteral("click"), QStringLiteral("1")});
+                        QString::number(middle.y()), QStringLiteral("click"), QStringLiteral("1")})
+        .has_value();
 }
 
 /// A window that the accessibility bus knows may not be on the screen yet.
 bool DesktopSession::key(const QString &window, const QString &keys) {
-    const QStringList focus = {QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                               QStringLiteral("--name"), QStringLiteral("^%1$").arg(window),
-                               QStringLiteral("windowfocus")};
-    return QTest::qWaitFor([&] { return runOnScreen(focus); }, kPatience) &&
-           runOnScreen({QStringLiteral("key"), keys});
+    const QStringList focus = searchFor(window) + QStringList{QStringLiteral("windowfocus")};
+    return QTest::qWaitFor([&] { return runOnScreen(focus).has_value(); }, kPatience) &&
+           runOnScreen({QStringLiteral("key"), keys}).has_value();
 }
 
-bool DesktopSession::runOnScreen(const QStringList &arguments) const {
+bool DesktopSession::close(const QString &window) {
+    const QByteArray number = runOnScreen(searchFor(window)).value_or(QByteArray()).trimmed();
+    return askToClose(m_environment.value(QStringLiteral("DISPLAY")).toLatin1(), number.toUInt());
+}
+
+/// What xdotool prints; nothing where it fails.
+std::optional<QByteArray> DesktopSession::runOnScreen(const QStringList &arguments) const {
     QProcess tool;
     tool.setProcessEnvironment(m_environment);
     tool.start(QStringLiteral("xdotool"), arguments);
-    return tool.waitForFinished(kPatience) && tool.exitCode() == 0;
+    const bool worked = tool.waitForFinished(kPatience) && tool.exitCode() == 0;
+    return worked ? std::optional(tool.readAllStandardOutput()) : std::nullopt;
 }
 
 } // namespace folioforge::test

@@ -51,6 +51,8 @@ class DesktopSession {
     bool click(const QString &name);
     /// Presses a key of the keyboard, such as "ctrl+q", in the window titled `window`.
     bool key(const QString &window, const QString &keys);
+    /// Asks the window titled `window` to close, as the button of its frame does.
+    bool close(const QString &window);
 
   private:
     [[nodiscard]] QList<Element> children(const Element &parent) const;
@@ -63,7 +65,7 @@ class DesktopSession {
                                     const QVariantList &arguments = {});
     [[nodiscard]] bool does(const QString &name, const char *interface, const char *method,
                             const QVariantList &arguments = {});
-    [[nodiscard]] bool runOnScreen(const QStringList &arguments) const;
+    [[nodiscard]] std::optional<QByteArray> runOnScreen(const QStringList &arguments) const;
     void makeOpener() const;
 
     QTemporaryDir m_home;

@@ -40,12 +40,15 @@ bool add(DesktopSession &desktop, const QString &path, const QString &name) {
            desktop.press(QStringLiteral("Open")) && desktop.find(name).has_value();
 }
 
-/// Whether the application ends well, and soon, when it is told to quit.
-bool quits(DesktopSession &desktop) {
+/// Whether the application ends well, and soon.
+bool ends(DesktopSession &desktop) {
     QProcess &application = desktop.application();
-    return desktop.key(QStringLiteral("Folioforge"), QStringLiteral("ctrl+q")) &&
-           application.waitForFinished(10'000) &&
+    return application.waitForFinished(10'000) &&
            application.exitStatus() == QProcess::NormalExit && application.exitCode() == 0;
+}
+
+bool quits(DesktopSession &desktop) {
+    return desktop.key(QStringLiteral("Folioforge"), QStringLiteral("ctrl+q")) && ends(desktop);
 }
 
 QList<QByteArray> bytesIn(const QString &folder) {
@@ -151,6 +154,7 @@ class EndToEndTest : public QObject {
     void closedDescriptorsAreTakenByNoFile();
     void closingInTheMidstOfARunLeavesOnlyWholeFiles();
     void closingDuringTheCompressionPassLeavesTheWholeFile();
+    void closingTheWindowDuringARunEndsTheApplication();
 };
 
 void EndToEndTest::filesOfEveryKindBecomeDocumentsThatALinkOpens() {
@@ -257,6 +261,21 @@ void EndToEndTest::closingDuringTheCompressionPassLeavesTheWholeFile() {
     }
     qInfo("%d of %d passes were cut short", cutShort, kTimes);
     QVERIFY(cutShort > 0);
+}
+
+void EndToEndTest::closingTheWindowDuringARunEndsTheApplication() {
+    constexpr int kPictures = 12;
+    DesktopSession desktop;
+    QVERIFY(desktop.begin());
+    writePictures(desktop, kPictures);
+    const QString out = outputFolder(desktop);
+    QVERIFY(listPictures(desktop, out));
+    QVERIFY(desktop.press(QStringLiteral("Create")));
+    QVERIFY(QTest::qWaitFor([&] { return !filesIn(out).isEmpty(); }, 60'000));
+    QVERIFY(desktop.close(QStringLiteral("Folioforge")));
+    QVERIFY(ends(desktop));
+    QVERIFY(filesIn(out).size() < kPictures);
+    checkThatOnlyWholeFilesAreLeft(desktop, out);
 }
 
 void EndToEndTest::checkThatOnlyWholeFilesAreLeft(const DesktopSession &desktop,
