@@ -17,9 +17,10 @@ class OrderedFiles {
     QString add(const QString &name, const QByteArray &bytes = "x") {
         const QString path = m_folder.filePath(name);
         test::writeFile(path, bytes);
-        m_entries.emplace_back(path);
+        list(path);
         return path;
     }
+    void list(const QString &path) { m_entries.emplace_back(path); }
 
     QStringList names(SortOrder order) const {
         std::vector<const PDFFileInfo *> pointers;
@@ -101,14 +102,20 @@ class OrdersTest : public QObject {
     }
 
     void creationDatesAreNotThoseOfTheLastChange() {
-        OrderedFiles files;
-        const QString first = files.add(QStringLiteral("first.txt"));
-        const QString second = files.add(QStringLiteral("second.txt"));
+        const QTemporaryDir folder;
+        const QString older = test::writeFile(folder.filePath(QStringLiteral("older.txt")), "x");
+        const QString newer = folder.filePath(QStringLiteral("newer.txt"));
+        if (!test::writeFileAfter(older, newer)) {
+            QSKIP("the file system keeps no dates of creation");
+        }
         const QDateTime noon(QDate(2020, 5, 1), QTime(12, 0));
-        setModified(first, noon);
-        setModified(second, noon.addSecs(-60));
-        QCOMPARE(files.names(SortOrder::Modified), words("second.txt first.txt"));
-        QCOMPARE(files.names(SortOrder::Created), words("first.txt second.txt"));
+        setModified(older, noon);
+        setModified(newer, noon.addSecs(-60));
+        OrderedFiles files;
+        files.list(newer);
+        files.list(older);
+        QCOMPARE(files.names(SortOrder::Created), words("older.txt newer.txt"));
+        QCOMPARE(files.names(SortOrder::Modified), words("newer.txt older.txt"));
     }
 
     void entriesOfEqualValueKeepTheirOrder() {

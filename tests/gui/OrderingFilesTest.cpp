@@ -101,14 +101,15 @@ class OrderingFilesTest : public QObject {
     }
 
     void sizesSortByBytesOnDiskNotByTheirText() {
+        constexpr qsizetype kKilobyte = 1024;
         TestWindow w;
-        const QString ten = w.file(QStringLiteral("ten.txt"), QByteArray(10 * 1024, 'x'));
-        const QString nine = w.file(QStringLiteral("nine.txt"), QByteArray(9 * 1024, 'x'));
+        const QString ten = w.file(QStringLiteral("ten.txt"), QByteArray(10 * kKilobyte, 'x'));
+        const QString nine = w.file(QStringLiteral("nine.txt"), QByteArray(9 * kKilobyte, 'x'));
         const QString small = w.file(QStringLiteral("small.txt"), "x");
         w.ctrl.addFiles({ten, nine, small}, -1);
         w.ctrl.clickMenuResortBySize();
         QCOMPARE(w.names(), QStringLiteral("small.txt nine.txt ten.txt"));
-        w.file(QStringLiteral("small.txt"), QByteArray(20 * 1024, 'x'));
+        w.file(QStringLiteral("small.txt"), QByteArray(20 * kKilobyte, 'x'));
         w.ctrl.clickMenuResortBySize();
         QCOMPARE(w.names(), QStringLiteral("nine.txt ten.txt small.txt"));
     }
@@ -125,19 +126,17 @@ class OrderingFilesTest : public QObject {
     }
 
     void creationDatesSortOldestFirst() {
-        FiveFiles w;
-        w.ctrl.clickMenuResortByName();
-        w.select({0});
-        w.ctrl.clickMenuMoveDown();
-        QCOMPARE(w.names(), QStringLiteral("b.txt a.txt c.txt d.txt e.txt"));
+        TestWindow w;
+        const QString oldest = w.file(QStringLiteral("b.txt"));
+        const QString middle = w.path(QStringLiteral("a.txt"));
+        const QString newest = w.path(QStringLiteral("c.txt"));
+        if (!writeFileAfter(oldest, middle) || !writeFileAfter(middle, newest)) {
+            QSKIP("the file system keeps no dates of creation");
+        }
+        w.ctrl.addFiles({newest, oldest, middle}, -1);
         w.ctrl.clickMenuResortByDataCreated();
-        // The files were made in this order; a file system without creation dates keeps what is.
-        const bool known = QFileInfo(w.path(QStringLiteral("a.txt"))).birthTime().isValid() &&
-                           QFileInfo(w.path(QStringLiteral("a.txt"))).birthTime() !=
-                               QFileInfo(w.path(QStringLiteral("b.txt"))).birthTime();
-        QCOMPARE(w.names(), known ? QStringLiteral("a.txt b.txt c.txt d.txt e.txt")
-                                  : QStringLiteral("b.txt a.txt c.txt d.txt e.txt"));
-        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5"));
+        QCOMPARE(w.names(), QStringLiteral("b.txt a.txt c.txt"));
+        QCOMPARE(w.numbers(), QStringLiteral("1 2 3"));
     }
 
     void vanishedFilesComeFirstBySize() {

@@ -2,8 +2,12 @@
 
 #include "support/PdfProbe.h"
 
+#include <QDateTime>
+#include <QDeadlineTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
+#include <QThread>
 
 namespace folioforge::test {
 namespace {
@@ -42,6 +46,20 @@ QString writeFile(const QString &path, const QByteArray &bytes) {
         qFatal("cannot write %s", qPrintable(path));
     }
     return path;
+}
+
+bool writeFileAfter(const QString &older, const QString &path) {
+    const QDateTime before = QFileInfo(older).birthTime();
+    // The clock of a file system stands still for some milliseconds at a time.
+    const QDeadlineTimer patience(5000);
+    while (before.isValid() && !patience.hasExpired()) {
+        QFile::remove(path);
+        if (QFileInfo(writeFile(path, "x")).birthTime() > before) {
+            return true;
+        }
+        QThread::msleep(1);
+    }
+    return false;
 }
 
 QByteArray readFile(const QString &path) {

@@ -8,6 +8,10 @@ namespace folioforge::test {
 /// Writes `bytes` to a new file at `path` and returns the path.
 QString writeFile(const QString &path, const QByteArray &bytes);
 
+/// Writes a file at `path` whose date of creation is later than that of `older`; false where the
+/// file system keeps no such dates.
+bool writeFileAfter(const QString &older, const QString &path);
+
 /// The bytes of the file at `path`; empty when it cannot be read.
 QByteArray readFile(const QString &path);
 
