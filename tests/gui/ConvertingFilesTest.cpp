@@ -1,4 +1,5 @@
 #include "gui/TestWindow.h"
+#include "support/Files.h"
 #include "support/NoThreads.h"
 #include "support/PdfProbe.h"
 
@@ -9,6 +10,7 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QRadioButton>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTimer>
@@ -91,6 +93,34 @@ void mergeInto(TestWindow &w, const QString &name) {
     w.control<QLineEdit>("m_tfOutputName")->setText(name);
 }
 
+/// Pages of 300 x 400 and 500 x 700 points, each with four margins of its own.
+void setPages(TestWindow &w) {
+    const std::pair<const char *, const char *> fields[] = {
+        {"m_tfTextCustomizedPageWidth", "300"},  {"m_tfTextCustomizedPageHeight", "400"},
+        {"m_tfTextPageMarginLeft", "20"},        {"m_tfTextPageMarginRight", "50"},
+        {"m_tfTextPageMarginTop", "35"},         {"m_tfTextPageMarginBottom", "80"},
+        {"m_tfImageCustomizedPageWidth", "500"}, {"m_tfImageCustomizedPageHeight", "700"},
+        {"m_tfImagePageMarginLeft", "25"},       {"m_tfImagePageMarginRight", "55"},
+        {"m_tfImagePageMarginTop", "45"},        {"m_tfImagePageMarginBottom", "105"}};
+    for (const auto &[field, number] : fields) {
+        w.control<QLineEdit>(field)->setText(QString::fromLatin1(number));
+    }
+    w.control<QRadioButton>("textCustom")->click();
+    w.control<QRadioButton>("imageCustom")->click();
+}
+
+/// The smallest rectangle that holds every red pixel.
+QRect redPart(const QImage &picture) {
+    QRect part;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QColor color = picture.pixelColor(x, y);
+            part |= color.red() > 200 && color.green() < 50 ? QRect(x, y, 1, 1) : QRect();
+        }
+    }
+    return part;
+}
+
 QString outPath(const TestWindow &w, const QString &name) {
     return w.path(QStringLiteral("out/") + name);
 }
@@ -170,6 +200,51 @@ class ConvertingFilesTest : public QObject {
         w.ctrl.clickedDest(0);
         QCOMPARE(w.desktop.files, QStringList(outPath(w, name + QStringLiteral(".pdf"))));
         QCOMPARE(w.desktop.commands, QList<QByteArray>());
+    }
+
+    void thePageOfATextIsAsItsFieldsSay() {
+        TestWindow w;
+        setPages(w);
+        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"), QByteArray(4000, 'x'))}, -1);
+        run(w);
+        const PdfProbe pdf(outPath(w, QStringLiteral("a.pdf")));
+        QCOMPARE(pdf.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 300, 400));
+        const QList<QPointF> places = pdf.characterOrigins(1);
+        QVERIFY(places.size() > 100);
+        const auto nextRow = std::ranges::find_if(
+            places, [&](const QPointF &place) { return place.y() > places.first().y(); });
+        const double height = nextRow->y() - places.first().y();
+        const double width = places.at(1).x() - places.first().x();
+        QCOMPARE(places.first().x(), 20.0);
+        QVERIFY(qAbs(places.first().y() - height - 35) < 0.01);
+        // A row passes the right margin by up to one character.
+        const double last = std::prev(nextRow)->x();
+        QVERIFY2(last <= 300 - 50 && last + width > 300 - 50, qPrintable(QString::number(last)));
+        // The upper margin stands for the lower one, which is but checked.
+        const double lowest = places.last().y();
+        QVERIFY2(lowest <= 400 - 35 && lowest + height > 400 - 35,
+                 qPrintable(QString::number(lowest)));
+    }
+
+    void theLowerMarginOfATextIsChecked() {
+        TestWindow w;
+        setPages(w);
+        addTexts(w, 1);
+        w.control<QLineEdit>("m_tfTextPageMarginBottom")->setText(QStringLiteral("257"));
+        w.press("m_btnCreate");
+        QCOMPARE(w.messages(),
+                 QStringList(QStringLiteral("Invalid page margin value in text output setting.")));
+    }
+
+    void thePageOfAPictureIsAsItsFieldsSay() {
+        TestWindow w;
+        setPages(w);
+        w.ctrl.addFiles({writePng(w.path(QStringLiteral("p.png")), 300, 200)}, -1);
+        run(w);
+        const PdfProbe pdf(outPath(w, QStringLiteral("p.pdf")));
+        QCOMPARE(pdf.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 500, 700));
+        // As wide as the 420 points between the margins; of the 550 in height 270 are left over.
+        QCOMPARE(redPart(pdf.renderWithMutool(1)), QRect(25, 45 + 135, 420, 280));
     }
 
     void takenNamesGetNumbers() {

@@ -15,6 +15,10 @@ QStringList popplerPassword(const QString &password) {
     return password.isEmpty() ? QStringList() : QStringList{QStringLiteral("-upw"), password};
 }
 
+QStringList mutoolPassword(const QString &password) {
+    return password.isEmpty() ? QStringList() : QStringList{QStringLiteral("-p"), password};
+}
+
 QStringList pageRange(int page) {
     const QString number = QString::number(page);
     return {QStringLiteral("-f"), number, QStringLiteral("-l"), number};
@@ -105,6 +109,21 @@ QString PdfProbe::text(int page) const {
     return QString::fromUtf8(runTool(QStringLiteral("pdftotext"), arguments).out);
 }
 
+QList<QPointF> PdfProbe::characterOrigins(int page) const {
+    const ToolRun run = runTool(QStringLiteral("mutool"),
+                                QStringList{QStringLiteral("draw"), QStringLiteral("-q")} +
+                                    mutoolPassword(m_password) +
+                                    QStringList{QStringLiteral("-F"), QStringLiteral("stext"),
+                                                m_path, QString::number(page)});
+    static const QRegularExpression character(
+        QStringLiteral("<char [^>]* x=\"([-0-9.]+)\" y=\"([-0-9.]+)\""));
+    QList<QPointF> origins;
+    for (const auto &match : character.globalMatch(QString::fromUtf8(run.out))) {
+        origins += {match.captured(1).toDouble(), match.captured(2).toDouble()};
+    }
+    return origins;
+}
+
 QImage PdfProbe::render(int page, int dpi) const {
     const QStringList arguments =
         popplerPassword(m_password) + pageRange(page) +
@@ -151,10 +170,7 @@ QImage PdfProbe::renderWithMutool(int page, int dpi) const {
     const QString target = folder.filePath(QStringLiteral("page.png"));
     QStringList arguments{QStringLiteral("draw"), QStringLiteral("-q"), QStringLiteral("-r"),
                           QString::number(dpi),   QStringLiteral("-o"), target};
-    if (!m_password.isEmpty()) {
-        arguments += {QStringLiteral("-p"), m_password};
-    }
-    arguments += {m_path, QString::number(page)};
+    arguments += mutoolPassword(m_password) + QStringList{m_path, QString::number(page)};
     runTool(QStringLiteral("mutool"), arguments);
     return QImage(target);
 }

@@ -34,6 +34,9 @@ class PdfProbe {
     [[nodiscard]] QRectF box(const QString &name, int page) const;
     /// The text of one page, or of the document for page 0, by pdftotext in reading order.
     [[nodiscard]] QString text(int page = 0) const;
+    /// Where mutool finds the origin of each character of a page, in points from its upper left
+    /// corner; pages from 1.
+    [[nodiscard]] QList<QPointF> characterOrigins(int page) const;
     /// A page drawn by pdftoppm at `dpi`; pages from 1.
     [[nodiscard]] QImage render(int page, int dpi = 72) const;
     /// Every page drawn by pdftoppm, each so that its longer side has `side` pixels.
