@@ -15,7 +15,7 @@ namespace {
 class OrderedFiles {
   public:
     QString add(const QString &name, const QByteArray &bytes = "x") {
-        const QString path = m_folder.filePath(name);
+        QString path = m_folder.filePath(name);
         test::writeFile(path, bytes);
         list(path);
         return path;
@@ -83,12 +83,13 @@ class OrdersTest : public QObject {
     }
 
     void sizesAreCountedInBytesAndReadAfresh() {
+        constexpr qsizetype kKilobyte = 1024;
         OrderedFiles files;
         const QString grown = files.add(QStringLiteral("grown.txt"), QByteArray(10, 'x'));
-        files.add(QStringLiteral("ten.txt"), QByteArray(10 * 1024, 'x'));
-        files.add(QStringLiteral("nine.txt"), QByteArray(9 * 1024, 'x'));
+        files.add(QStringLiteral("ten.txt"), QByteArray(10 * kKilobyte, 'x'));
+        files.add(QStringLiteral("nine.txt"), QByteArray(9 * kKilobyte, 'x'));
         QCOMPARE(files.names(SortOrder::Size), words("grown.txt nine.txt ten.txt"));
-        test::writeFile(grown, QByteArray(20 * 1024, 'x'));
+        test::writeFile(grown, QByteArray(20 * kKilobyte, 'x'));
         QCOMPARE(files.names(SortOrder::Size), words("nine.txt ten.txt grown.txt"));
     }
 
