@@ -126,6 +126,9 @@ void MainWndCtrl::addFiles(const QStringList &paths, int row) {
     m_bLoading = true;
     ReadEntries read = readEntries(paths);
     const QString firstName = read.entries.empty() ? QString() : read.entries.front().fileName();
+    if (!read.entries.empty()) {
+        m_tableview->setFocus(); // So that the keys of the list are at hand.
+    }
     insertEntries(std::move(read.entries), row);
     m_bLoading = false;
 

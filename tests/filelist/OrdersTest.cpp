@@ -106,16 +106,16 @@ class OrdersTest : public QObject {
         const QTemporaryDir folder;
         const QString older = test::writeFile(folder.filePath(QStringLiteral("older.txt")), "x");
         const QString newer = folder.filePath(QStringLiteral("newer.txt"));
-        if (!test::writeFileAfter(older, newer)) {
-            QSKIP("the file system keeps no dates of creation");
-        }
+        const bool hasDates = test::writeFileAfter(older, newer);
         const QDateTime noon(QDate(2020, 5, 1), QTime(12, 0));
         setModified(older, noon);
         setModified(newer, noon.addSecs(-60));
         OrderedFiles files;
         files.list(newer);
         files.list(older);
-        QCOMPARE(files.names(SortOrder::Created), words("older.txt newer.txt"));
+        // Where the file system keeps no dates of creation the order stays.
+        QCOMPARE(files.names(SortOrder::Created),
+                 words(hasDates ? "older.txt newer.txt" : "newer.txt older.txt"));
         QCOMPARE(files.names(SortOrder::Modified), words("newer.txt older.txt"));
     }
 

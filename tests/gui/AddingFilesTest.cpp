@@ -135,6 +135,15 @@ class AddingFilesTest : public QObject {
         QCOMPARE(w.states(), QStringLiteral("Waiting... Waiting... Waiting..."));
     }
 
+    void theKeysOfTheListAreAtHandForWhatWasAdded() {
+        TestWindow w;
+        choose(w, "m_btnAddFile",
+               {w.file(QStringLiteral("a.txt")), w.file(QStringLiteral("b.txt"))});
+        w.key(Qt::Key_A, Qt::ControlModifier);
+        w.key(Qt::Key_Delete);
+        QCOMPARE(w.names(), QString());
+    }
+
     void aCancelledPanelChangesNothing() {
         TestWindow w;
         for (const char *button : {"m_btnAddFile", "m_btnAddImage", "m_btnAddTxt", "m_btnAddPDF"}) {

@@ -130,12 +130,13 @@ class OrderingFilesTest : public QObject {
         const QString oldest = w.file(QStringLiteral("b.txt"));
         const QString middle = w.path(QStringLiteral("a.txt"));
         const QString newest = w.path(QStringLiteral("c.txt"));
-        if (!writeFileAfter(oldest, middle) || !writeFileAfter(middle, newest)) {
-            QSKIP("the file system keeps no dates of creation");
-        }
+        const bool middleHasDate = writeFileAfter(oldest, middle);
+        const bool hasDates = writeFileAfter(middle, newest) && middleHasDate;
         w.ctrl.addFiles({newest, oldest, middle}, -1);
         w.ctrl.clickMenuResortByDataCreated();
-        QCOMPARE(w.names(), QStringLiteral("b.txt a.txt c.txt"));
+        // Where the file system keeps no dates of creation the order stays.
+        QCOMPARE(w.names(), hasDates ? QStringLiteral("b.txt a.txt c.txt")
+                                     : QStringLiteral("c.txt b.txt a.txt"));
         QCOMPARE(w.numbers(), QStringLiteral("1 2 3"));
     }
 

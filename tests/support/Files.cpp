@@ -52,13 +52,13 @@ bool writeFileAfter(const QString &older, const QString &path) {
     const QDateTime before = QFileInfo(older).birthTime();
     // The clock of a file system stands still for some milliseconds at a time.
     const QDeadlineTimer patience(5000);
-    while (before.isValid() && !patience.hasExpired()) {
+    do {
         QFile::remove(path);
         if (QFileInfo(writeFile(path, "x")).birthTime() > before) {
             return true;
         }
         QThread::msleep(1);
-    }
+    } while (before.isValid() && !patience.hasExpired());
     return false;
 }
 
