@@ -65,6 +65,17 @@ void unlock(QPDF &document, const std::shared_ptr<SourceInput> &input,
     document.processInputSource(input, password.isEmpty() ? nullptr : password.constData());
 }
 
+/// For each stream of a document of `size` bytes, beyond which none can be.
+void requireRoomForStreams(QPDF &document, qsizetype size) {
+    qsizetype longest = 0;
+    for (QPDFObjectHandle &object : document.getAllObjects()) {
+        QPDFObjectHandle length =
+            object.isStream() ? object.getDict().getKey("/Length") : QPDFObjectHandle::newNull();
+        longest = std::max<qsizetype>(longest, length.isInteger() ? length.getIntValue() : 0);
+    }
+    requireRoomForStream(std::min(longest, size));
+}
+
 void write(QPDF &document, OutputPipeline &output, const Encryption *encryption,
            ConversionObserver *observer) {
     keepFilterChains(document);
@@ -104,6 +115,7 @@ void runPass(const QString &path, const QuartzFilter &filter, const ConversionOp
         mergeDuplicateStreams(document);
         ImagePlan plan = planImages(document, findImageUses(document), filter);
         const auto streams = ReducedStreams::install(std::move(plan.planned));
+        requireRoomForStreams(document, QFileInfo(path).size());
         write(document, output, encryption.get(), observer);
         plan.left.insert(plan.left.end(), streams->left().begin(), streams->left().end());
         report(std::move(plan.left), outcome);

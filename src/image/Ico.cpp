@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <new>
 #include <optional>
 #include <tuple>
 
@@ -161,10 +160,8 @@ QImage readBitmap(const Frame &frame) {
     if (!rows.areThere()) {
         throw Error(QStringLiteral("The file ends too early"));
     }
-    QImage picture(frame.header.width, frame.header.height, QImage::Format_ARGB32);
-    if (picture.isNull()) {
-        throw std::bad_alloc();
-    }
+    QImage picture =
+        granted(QImage(frame.header.width, frame.header.height, QImage::Format_ARGB32));
     for (int y = 0; y < picture.height(); ++y) {
         auto *target = reinterpret_cast<QRgb *>(picture.scanLine(y));
         for (int x = 0; x < picture.width(); ++x) {

@@ -7,9 +7,10 @@
 #include <QHash>
 #include <QImageReader>
 
-#include <QtEndian>
-
 #include <algorithm>
+#include <new>
+#include <optional>
+#include <utility>
 
 namespace folioforge {
 
@@ -31,6 +32,12 @@ QByteArray packedRows(const QImage &image, qsizetype stride) {
     return rows;
 }
 
+/// Pixels as indexes, a byte each, of colours.
+struct Paletted {
+    QByteArray indexes;
+    QList<QRgb> colors;
+};
+
 bool isOpaque(const QList<QRgb> &colors) {
     return std::ranges::all_of(colors, [](QRgb color) { return qAlpha(color) == 0xFF; });
 }
@@ -50,9 +57,9 @@ AlphaPlane paletteAlpha(const QByteArray &indexes, const QList<QRgb> &colors) {
     return plane;
 }
 
-void takeIndexed(const QImage &image, Raster &raster) {
-    const QList<QRgb> colors = image.colorTable();
-    raster.samples = packedRows(image, image.width());
+void takeIndexed(Paletted &&picture, Raster &raster) {
+    const QList<QRgb> &colors = picture.colors;
+    raster.samples = std::move(picture.indexes);
     if (!isOpaque(colors)) {
         raster.alpha = paletteAlpha(raster.samples, colors);
     }
@@ -74,7 +81,7 @@ void takeIndexed(const QImage &image, Raster &raster) {
 
 /// One bit where it is black and white; false where the two colours are others.
 bool takeBilevel(const QImage &image, Raster &raster) {
-    const QImage mono = image.convertToFormat(QImage::Format_Mono);
+    const QImage mono = granted(image.convertToFormat(QImage::Format_Mono));
     const QList<QRgb> colors = mono.colorTable();
     constexpr QRgb kBlack = qRgb(0, 0, 0);
     constexpr QRgb kWhite = qRgb(255, 255, 255);
@@ -91,72 +98,71 @@ bool takeBilevel(const QImage &image, Raster &raster) {
     return true;
 }
 
-void takeGray(const QImage &image, Raster &raster) {
-    const bool deep = image.format() == QImage::Format_Grayscale16;
-    raster.color = ImageColor::Gray;
-    raster.bits = deep ? 16 : 8;
-    raster.samples = packedRows(image, raster.stride());
-    if (deep) {
-        auto *samples = reinterpret_cast<quint16 *>(raster.samples.data());
-        qToBigEndian<quint16>(samples, raster.samples.size() / 2, samples);
-    }
-}
-
 /// The image with a palette where it has no more than 256 colours: Qt reads some files that have
-/// one (GIF, icons) into full colour. Null where there are more.
-QImage withPalette(const QImage &image) {
-    const QImage argb = image.convertToFormat(QImage::Format_ARGB32);
-    QImage indexed(argb.size(), QImage::Format_Indexed8);
+/// one (GIF, icons) into full colour. Nothing where there are more.
+std::optional<Paletted> withPalette(const QImage &image) {
+    const QRgb opacity = image.hasAlphaChannel() ? 0 : 0xFF000000U;
+    Paletted paletted{allocateRows(image.height(), image.width()), {}};
     QHash<QRgb, uchar> numbers;
-    QList<QRgb> colors;
-    for (int y = 0; y < argb.height(); ++y) {
-        const auto *source = reinterpret_cast<const QRgb *>(argb.constScanLine(y));
-        uchar *target = indexed.scanLine(y);
-        for (int x = 0; x < argb.width(); ++x) {
+    auto *target = reinterpret_cast<uchar *>(paletted.indexes.data());
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *source = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x, ++target) {
             if (x > 0 && source[x] == source[x - 1]) {
-                target[x] = target[x - 1];
+                *target = target[-1];
                 continue;
             }
-            auto number = numbers.constFind(source[x]);
+            const QRgb color = source[x] | opacity;
+            auto number = numbers.constFind(color);
             if (number == numbers.constEnd()) {
-                if (colors.size() == 256) {
-                    return {};
+                if (paletted.colors.size() == 256) {
+                    return std::nullopt;
                 }
-                number = numbers.insert(source[x], static_cast<uchar>(colors.size()));
-                colors.append(source[x]);
+                number = numbers.insert(color, static_cast<uchar>(paletted.colors.size()));
+                paletted.colors.append(color);
             }
-            target[x] = *number;
+            *target = *number;
         }
     }
-    indexed.setColorTable(colors);
-    return indexed;
+    return paletted;
 }
 
+/// From 32 bits a pixel, by hand: Qt shares the work of converting a large image among threads, and
+/// waits for ever where the system gives it none.
 void takeColor(const QImage &image, Raster &raster) {
-    if (const QImage indexed = withPalette(image); !indexed.isNull()) {
-        takeIndexed(indexed, raster);
+    if (auto paletted = withPalette(image)) {
+        takeIndexed(std::move(*paletted), raster);
         return;
     }
     raster.color = ImageColor::Rgb;
-    if (!image.hasAlphaChannel()) {
-        raster.samples = packedRows(image.convertToFormat(QImage::Format_RGB888), raster.stride());
-        return;
-    }
-    const QImage rgba = image.convertToFormat(QImage::Format_RGBA8888);
     raster.samples = allocateRows(raster.height, raster.stride());
-    raster.alpha = AlphaPlane{8, allocateRows(raster.height, raster.width)};
     char *color = raster.samples.data();
-    char *alpha = raster.alpha->samples.data();
-    for (int y = 0; y < rgba.height(); ++y) {
-        const uchar *source = rgba.constScanLine(y);
-        for (int x = 0; x < rgba.width(); ++x, source += 4) {
-            color = std::copy_n(source, 3, color);
-            *alpha++ = static_cast<char>(source[3]);
+    char *alpha = nullptr;
+    if (image.hasAlphaChannel()) {
+        raster.alpha = AlphaPlane{8, allocateRows(raster.height, raster.width)};
+        alpha = raster.alpha->samples.data();
+    }
+    for (int y = 0; y < raster.height; ++y) {
+        const auto *source = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < raster.width; ++x) {
+            *color++ = static_cast<char>(qRed(source[x]));
+            *color++ = static_cast<char>(qGreen(source[x]));
+            *color++ = static_cast<char>(qBlue(source[x]));
+            if (alpha) {
+                *alpha++ = static_cast<char>(qAlpha(source[x]));
+            }
         }
     }
 }
 
 } // namespace
+
+QImage granted(QImage image) {
+    if (image.isNull()) {
+        throw std::bad_alloc();
+    }
+    return image;
+}
 
 QImage readWithQt(QByteArray bytes, const char *format) {
     setAllocationLimit();
@@ -164,8 +170,13 @@ QImage readWithQt(QByteArray bytes, const char *format) {
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, format);
     reader.setAutoTransform(false);
+    const QSize size = reader.size();
     QImage image = reader.read();
     if (image.isNull()) {
+        // Qt calls it damage, too, when it gets no memory.
+        if (!size.isEmpty()) {
+            granted(QImage(size, QImage::Format_RGB32));
+        }
         throw Error(QStringLiteral("The image cannot be read: %1").arg(reader.errorString()));
     }
     return image;
@@ -180,15 +191,14 @@ Raster rasterOf(const QImage &image) {
     if (mono && takeBilevel(image, raster)) {
         return raster;
     }
-    if (mono) {
-        takeIndexed(image.convertToFormat(QImage::Format_Indexed8), raster);
-    } else if (image.format() == QImage::Format_Indexed8) {
-        takeIndexed(image, raster);
-    } else if (image.format() == QImage::Format_Grayscale8 ||
-               image.format() == QImage::Format_Grayscale16) {
-        takeGray(image, raster);
+    if (mono || image.format() == QImage::Format_Indexed8) {
+        const QImage indexed = granted(image.convertToFormat(QImage::Format_Indexed8));
+        takeIndexed({packedRows(indexed, indexed.width()), indexed.colorTable()}, raster);
     } else {
-        takeColor(image, raster);
+        const bool hasOpacity = image.hasAlphaChannel();
+        takeColor(granted(image.convertToFormat(hasOpacity ? QImage::Format_ARGB32
+                                                           : QImage::Format_RGB32)),
+                  raster);
     }
     return raster;
 }

@@ -10,6 +10,9 @@ namespace folioforge {
 /// when it cannot be read.
 QImage readWithQt(QByteArray bytes, const char *format);
 
+/// `image`; throws std::bad_alloc where it is null, as Qt makes it when it gets no memory.
+QImage granted(QImage image);
+
 /// The pixels of a Qt image in the fewest bits that hold them all: one bit, palette, grey or
 /// colour, with its transparency.
 Raster rasterOf(const QImage &image);

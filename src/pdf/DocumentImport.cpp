@@ -148,6 +148,7 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, ObjectCopier::Stream
     const auto pages = static_cast<long long>(imported.pages.size());
     imported.pageLabels = importPageLabels(source, pages, copier);
     copier.run();
+    imported.longestStream = copier.longestStream();
     for (auto *objects : {&imported.bookmarks, &imported.form.fields, &imported.layers.groups,
                           &imported.layers.off}) {
         keepOnlyEntries(*objects);

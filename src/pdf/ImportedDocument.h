@@ -2,6 +2,8 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <QtGlobal>
+
 #include <map>
 #include <string>
 #include <vector>
@@ -37,6 +39,7 @@ struct ImportedDocument {
     ImportedForm form;
     ImportedLayers layers;
     std::string pdfVersion;
+    qsizetype longestStream = 0; ///< Bytes, as the document says.
 };
 
 } // namespace folioforge

@@ -189,6 +189,10 @@ QPDFObjectHandle ObjectCopier::copyDestination(const QPDFObjectHandle &destinati
 }
 
 void ObjectCopier::fillStream(PendingStream &stream) {
+    QPDFObjectHandle length = stream.dictionary["/Length"];
+    if (length.isInteger()) {
+        m_longestStream = std::max<qsizetype>(m_longestStream, length.getIntValue());
+    }
     stream.dictionary.erase("/Length");
     auto target = stream.target.getDict();
     for (const auto &[key, value] : copyDictionary(stream.dictionary).getDictAsMap()) {

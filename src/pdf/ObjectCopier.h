@@ -5,6 +5,8 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <QtGlobal>
+
 #include <deque>
 #include <map>
 #include <string>
@@ -31,6 +33,8 @@ class ObjectCopier {
     QPDFObjectHandle copy(const QPDFObjectHandle &object);
     /// Fills everything that copy() has promised.
     void run();
+    /// Bytes of the longest stream that run() copied, as the source says.
+    [[nodiscard]] qsizetype longestStream() const { return m_longestStream; }
 
   private:
     using Dictionary = std::map<std::string, QPDFObjectHandle>;
@@ -59,6 +63,7 @@ class ObjectCopier {
     std::vector<QPDFObjectHandle> m_targetPages;
     std::deque<std::pair<QPDFObjectHandle, QPDFObjectHandle>> m_pending; ///< Source and target.
     std::deque<PendingStream> m_pendingStreams;
+    qsizetype m_longestStream = 0;
 };
 
 } // namespace folioforge

@@ -108,6 +108,7 @@ class PDFContext::Impl {
     std::map<Resources, QPDFObjectHandle, bool (*)(const Resources &, const Resources &)>
         m_fontResources;
     std::map<std::string, ObjectCopier::Streams> m_sourceStreams; ///< By source file.
+    qsizetype m_longestStream = 0; ///< Bytes, of those that the library copies by itself.
 };
 
 namespace {
@@ -226,6 +227,8 @@ int PDFContext::Impl::addDocument(const QString &sourcePath) {
             *source, *m_reader, [&] { return importDocument(*source, m_document, streams); });
         m_reader->finish();
         m_catalog.addDocument(imported);
+        m_longestStream =
+            std::max(m_longestStream, std::min<qsizetype>(imported.longestStream, file.size));
         m_sourceStreams[key] = std::move(streams);
         return static_cast<int>(imported.pages.size());
     });
@@ -264,9 +267,10 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         // What is read from now on must come from files that are still what they were.
         m_reader->beginAnew();
         OutputFile file(m_path, m_settings.calls);
+        atQpdfBorder([&] { requireRoomForStream(m_longestStream); });
         writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.pdfVersion());
         m_reader->finish();
-        m_reader->requireNoFailure();
+        atQpdfBorder([&] { requireAllObjects(m_document, *m_reader); });
         file.finish(m_settings.flush);
         return publish(file, nextPath);
     } catch (const Error &error) {

@@ -6,6 +6,8 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFExc.hh>
 
+#include <QByteArray>
+
 #include <stdexcept>
 
 namespace folioforge {
@@ -23,6 +25,16 @@ template<typename Work> auto atQpdfBorder(Work &&work) -> decltype(work()) {
     } catch (const std::exception &error) {
         throw Error(QString::fromUtf8(error.what()));
     }
+}
+
+/// Throws std::bad_alloc where there is no memory for the library to write a stream of `bytes`. It
+/// takes a copy of its growing buffer at the stream's end, in a destructor: to run out of memory
+/// there ends the program.
+inline void requireRoomForStream(qsizetype bytes) {
+    // What it reads from, that buffer, as large again while it grows and up to twice, and the copy.
+    constexpr qsizetype kCopies = 5;
+    constexpr qsizetype kRest = 1 << 20;
+    static_cast<void>(QByteArray(kCopies * bytes + kRest, Qt::Uninitialized));
 }
 
 /// Throws where a read failed or the document's warnings tell of a lack of memory.

@@ -2,12 +2,15 @@
 
 #include "image/Deflate.h"
 #include "image/EncodedImage.h"
+#include "pdf/QpdfBorder.h"
 
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
+#include <functional>
 #include <map>
+#include <numeric>
 
 namespace folioforge {
 
@@ -22,7 +25,9 @@ class StreamData::SpooledData final : public QPDFObjectHandle::StreamDataProvide
     }
 
     void provideStreamData(QPDFObjGen const &object, Pipeline *pipeline) override {
-        const QByteArrayView data = m_spool.at(m_places.at(object));
+        const Spool::Place place = m_places.at(object);
+        requireRoomForStream(place.length);
+        const QByteArrayView data = m_spool.at(place);
         pipeline->write(data.data(), static_cast<std::size_t>(data.size()));
         pipeline->finish();
     }
@@ -42,6 +47,7 @@ class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider
     void provideStreamData([[maybe_unused]] QPDFObjGen const &object, Pipeline *pipeline) override {
         // Whole in one piece where it is not huge: the library's buffer then need not grow.
         constexpr qint64 kPiece = 16 << 20;
+        requireRoomForStream(length());
         for (const FileSlice &slice : m_slices) {
             for (qint64 done = 0; done < slice.length; done += kPiece) {
                 const auto size = std::min(kPiece, slice.length - done);
@@ -53,6 +59,11 @@ class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider
     }
 
   private:
+    [[nodiscard]] qint64 length() const {
+        return std::transform_reduce(m_slices.begin(), m_slices.end(), qint64(0), std::plus<>(),
+                                     [](const FileSlice &slice) { return slice.length; });
+    }
+
     std::shared_ptr<SourceReader> m_reader;
     SourceFile m_file;
     std::vector<FileSlice> m_slices;

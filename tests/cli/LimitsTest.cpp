@@ -6,6 +6,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -102,6 +104,31 @@ class LimitsTest : public QObject {
         return ending == written() && PdfProbe(target()).isValid() ? valid() : ending;
     }
 
+    /// The addresses to try: from the least with which the program starts at all.
+    static std::vector<qint64> littleMemory() {
+        if (!limitsAddresses()) {
+            return {0};
+        }
+        constexpr qint64 kMegabyte = 1 << 20;
+        const qint64 step = sized(1, 8) * kMegabyte;
+        std::vector<qint64> sizes;
+        for (qint64 size = 64 * kMegabyte; size < 190 * kMegabyte; size += step) {
+            if (runLimited(QStringLiteral(FOLIOFORGE_CLI), {QStringLiteral("--version")}, {size})
+                    .exitCode == 0) {
+                sizes.push_back(size);
+            }
+        }
+        return sizes;
+    }
+    /// A picture that cannot be compressed.
+    QString noise(const QString &name, QImage::Format format) const {
+        constexpr int kSide = 1200;
+        QImage image(kSide, kSide, format);
+        QRandomGenerator(11).generate(reinterpret_cast<quint32 *>(image.bits()),
+                                      reinterpret_cast<quint32 *>(image.bits()) + kSide * kSide);
+        return image.save(path(name)) ? path(name) : QString();
+    }
+
   private Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
 
@@ -127,6 +154,34 @@ class LimitsTest : public QObject {
     }
     void imagesThatUnfoldAreConverted() {
         QCOMPARE(answerTo({saved(QStringLiteral("image.png"), fetched())}), valid());
+    }
+
+    void littleMemoryGivesARightDocumentOrWords_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QStringList>("options");
+        QTest::newRow("bitmap") << QStringLiteral("noise.bmp") << QStringList();
+        QTest::newRow("PNG") << QStringLiteral("noise.png") << QStringList();
+        QTest::newRow("PDF") << QStringLiteral("noise.pdf") << QStringList();
+        QTest::newRow("compressed PDF")
+            << QStringLiteral("noise.pdf")
+            << QStringList{QStringLiteral("--compress"), QStringLiteral("72l")};
+    }
+    void littleMemoryGivesARightDocumentOrWords() {
+        QFETCH(const QString, name);
+        QFETCH(const QStringList, options);
+        QString source = noise(name, QImage::Format_RGB32);
+        if (source.isEmpty()) {
+            QCOMPARE(answerTo({noise(QStringLiteral("noise.png"), QImage::Format_ARGB32),
+                               noise(QStringLiteral("noise.jpg"), QImage::Format_RGB32)}),
+                     valid());
+            source = path(name);
+            QVERIFY(QFile::rename(target(), source));
+        }
+        for (const qint64 size : littleMemory()) {
+            const QString answer = answerTo(options + QStringList{source}, {size});
+            QVERIFY2(answer == valid() || answer.contains(QStringLiteral("memory")),
+                     qPrintable(QStringLiteral("%1 MB: %2").arg(size >> 20).arg(answer)));
+        }
     }
 
     void aPageTreeOfAnyDepthIsRead() {

@@ -1,8 +1,10 @@
 #include "support/NoThreads.h"
+
 #include "convert/CompressionCase.h"
 #include "convert/Conversion.h"
 #include "filelist/EntryReader.h"
 #include "support/Files.h"
+#include <thread>
 
 using namespace folioforge;
 using namespace folioforge::test;
@@ -12,15 +14,18 @@ class NoThreadsTest : public QObject, CompressionCase {
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
 
+    int m_refused = 0;
+
     /// The PDF of the file at `source`, made while threads cannot be had.
-    PdfProbe converted(const QString &source) const {
+    PdfProbe converted(const QString &source) {
         const PDFFileInfo entry(source);
         const std::vector<const PDFFileInfo *> entries{&entry};
         ConversionOptions options;
         options.outputFolder = m_folder->path();
         const NoThreads none;
         const PDFOutcome outcome = createPDF(entries, m_path, options);
-        if (outcome.close.status != CloseResult::Status::Written || none.refused() == 0) {
+        m_refused = none.refused();
+        if (outcome.close.status != CloseResult::Status::Written) {
             QTest::qFail(qPrintable(outcome.close.reason), __FILE__, __LINE__);
         }
         return PdfProbe(m_path);
@@ -35,6 +40,7 @@ class NoThreadsTest : public QObject, CompressionCase {
             lines += "line number " + QByteArray::number(i) + "\n";
         }
         const PdfProbe probe = converted(writeFile(path(QStringLiteral("long.txt")), lines));
+        QVERIFY(m_refused > 0);
         QVERIFY(probe.isValid());
         QVERIFY(probe.text(1).startsWith(QStringLiteral("line number 0\n")));
         QVERIFY(probe.text(probe.pageCount()).contains(QStringLiteral("line number 49999\n")));
@@ -46,11 +52,20 @@ class NoThreadsTest : public QObject, CompressionCase {
         picture.setPixelColor(0, 0, Qt::transparent);
         QVERIFY(picture.save(path(QStringLiteral("picture.png"))));
         const PdfProbe probe = converted(path(QStringLiteral("picture.png")));
+        QVERIFY(m_refused > 0);
         QVERIFY(probe.isValid());
         const QList<QStringList> images = probe.images();
         QCOMPARE(images.size(), 2);
         QCOMPARE(images.at(0).at(2), QStringLiteral("image"));
         QCOMPARE(images.at(1).at(2), QStringLiteral("smask"));
+    }
+
+    void aBitmapIsWritten() {
+        // So large that Qt would convert it on threads of its own.
+        QVERIFY(photo(900, 600, QImage::Format_RGB32).save(path(QStringLiteral("picture.bmp"))));
+        const PdfProbe probe = converted(path(QStringLiteral("picture.bmp")));
+        QVERIFY(probe.isValid());
+        QCOMPARE(probe.images().size(), 1);
     }
 
     void theImagesOfADocumentAreReduced() {
@@ -74,6 +89,7 @@ class NoThreadsTest : public QObject, CompressionCase {
         }
         const NoThreads none;
         const ReadEntries read = readEntries(paths);
+        QVERIFY(none.refused() > 0 || std::thread::hardware_concurrency() == 1);
         QCOMPARE(read.entries.size(), std::size_t{100});
         for (int i = 0; i < 100; ++i) {
             QCOMPARE(read.entries.at(i).filePathName(), paths.at(i));

@@ -562,7 +562,7 @@ class ConvertingFilesTest : public QObject {
     void aRunWithoutAFurtherThreadWritesEveryFile() {
         TestWindow w;
         addTexts(w, 3);
-        const NoThreads none;
+        const NoThreads none(NoThreads::From::AllButQt);
         run(w);
         QVERIFY(none.refused() > 0);
         QCOMPARE(w.states(), QStringLiteral("000.pdf 001.pdf 002.pdf"));

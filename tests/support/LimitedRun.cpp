@@ -21,9 +21,7 @@ void limit(int resource, qint64 amount) {
 }
 
 void apply(const Limits &limits) {
-#ifndef __SANITIZE_ADDRESS__
-    limit(RLIMIT_AS, limits.addressSpace);
-#endif
+    limit(RLIMIT_AS, limitsAddresses() ? limits.addressSpace : 0);
     limit(RLIMIT_NOFILE, limits.descriptors);
     limit(RLIMIT_CPU, limits.processorSeconds);
 }
@@ -83,6 +81,14 @@ QByteArray contentOf(QTemporaryFile &file) {
 }
 
 } // namespace
+
+bool limitsAddresses() {
+#ifdef __SANITIZE_ADDRESS__
+    return false;
+#else
+    return true;
+#endif
+}
 
 LimitedRun runLimited(const QString &program, const QStringList &arguments, const Limits &limits) {
     QList<QByteArray> texts{QFile::encodeName(program)};

@@ -9,6 +9,7 @@
 namespace {
 
 std::atomic<bool> refusing{false};
+std::atomic<bool> sparingQt{false};
 std::atomic<int> refusals{0};
 
 } // namespace
@@ -16,8 +17,8 @@ std::atomic<int> refusals{0};
 // Hides the C library's own, for every library of the program.
 extern "C" int pthread_create(pthread_t *thread, const pthread_attr_t *attributes,
                               void *(*work)(void *), void *data) {
-    // Qt's threads are let through: they alone have attributes, and its painting waits for them.
-    if (refusing && !attributes) {
+    const bool isQts = attributes != nullptr; // The C++ library's threads have none.
+    if (refusing && !(sparingQt && isQts)) {
         ++refusals;
         return EAGAIN;
     }
@@ -28,8 +29,9 @@ extern "C" int pthread_create(pthread_t *thread, const pthread_attr_t *attribute
 
 namespace folioforge::test {
 
-NoThreads::NoThreads() {
+NoThreads::NoThreads(From from) {
     refusals = 0;
+    sparingQt = from == From::AllButQt;
     refusing = true;
 }
 

@@ -2,11 +2,17 @@
 
 namespace folioforge::test {
 
-/// While it lives, the system gives the C++ library no further thread: the program that uses this
+/// While it lives, the system gives this process no further thread: the program that uses this
 /// stands before the C library where threads are made.
 class NoThreads {
   public:
-    NoThreads();
+    /// Of whom threads are kept.
+    enum class From {
+        Everybody,
+        AllButQt, ///< Whose painting waits for threads for ever.
+    };
+
+    explicit NoThreads(From from = From::Everybody);
     ~NoThreads();
     NoThreads(const NoThreads &) = delete;
     NoThreads &operator=(const NoThreads &) = delete;

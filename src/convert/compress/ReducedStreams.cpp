@@ -1,5 +1,7 @@
 #include "convert/compress/ReducedStreams.h"
 
+#include "pdf/QpdfBorder.h"
+
 #include <memory>
 #include <string>
 
@@ -67,7 +69,10 @@ ImageJob ReducedStreams::load(std::size_t index) const {
 }
 
 void ReducedStreams::keep(Image &image, const QString &reason, Pipeline *pipeline) {
-    image.original.pipeStreamData(pipeline, 0, qpdf_dl_none);
+    const auto data = image.original.getRawStreamData();
+    requireRoomForStream(static_cast<qsizetype>(data->getSize()));
+    pipeline->write(data->getBuffer(), data->getSize());
+    pipeline->finish();
     if (!image.isReported) {
         m_left.push_back({image.plan.page, image.plan.stream.getObjectID(), reason});
         image.isReported = true;
@@ -81,6 +86,7 @@ void ReducedStreams::replace(Image &image, const ReducedImage &reduced, Pipeline
         ++m_done;
         image.isReported = true;
     }
+    requireRoomForStream(static_cast<qsizetype>(reduced.data.size()));
     pipeline->writeString(reduced.data);
     pipeline->finish();
 }
