@@ -53,8 +53,8 @@ std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security);
 /// to the next free one; the path used is in the outcome.
 ///
 /// Without a single page no file is written. Once `stop` is requested the run ends at the next page
-/// or entry, or where bytes that go into the PDF as they are would be read or written, and leaves no
-/// file, save for one that was whole already. Never throws: whatever fails is in the outcome.
+/// or entry, or where bytes that go into the PDF as they are would be read or written, and leaves
+/// no file, save for one that was whole already. Never throws: whatever fails is in the outcome.
 PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
                      const ConversionOptions &options, ConversionObserver *observer = nullptr,
                      const std::stop_token &stop = {});
