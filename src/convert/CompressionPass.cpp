@@ -69,9 +69,9 @@ void unlock(QPDF &document, const std::shared_ptr<SourceInput> &input,
 void requireRoomForStreams(QPDF &document, qsizetype size) {
     qsizetype longest = 0;
     for (QPDFObjectHandle &object : document.getAllObjects()) {
-        QPDFObjectHandle length =
-            object.isStream() ? object.getDict().getKey("/Length") : QPDFObjectHandle::newNull();
-        longest = std::max<qsizetype>(longest, length.isInteger() ? length.getIntValue() : 0);
+        if (object.isStream()) {
+            longest = std::max(longest, statedLength(object.getDict().getKey("/Length")));
+        }
     }
     requireRoomForStream(std::min(longest, size));
 }

@@ -1,5 +1,7 @@
 #include "pdf/ObjectCopier.h"
 
+#include "pdf/QpdfBorder.h"
+
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
@@ -189,10 +191,7 @@ QPDFObjectHandle ObjectCopier::copyDestination(const QPDFObjectHandle &destinati
 }
 
 void ObjectCopier::fillStream(PendingStream &stream) {
-    QPDFObjectHandle length = stream.dictionary["/Length"];
-    if (length.isInteger()) {
-        m_longestStream = std::max<qsizetype>(m_longestStream, length.getIntValue());
-    }
+    m_longestStream = std::max(m_longestStream, statedLength(stream.dictionary["/Length"]));
     stream.dictionary.erase("/Length");
     auto target = stream.target.getDict();
     for (const auto &[key, value] : copyDictionary(stream.dictionary).getDictAsMap()) {

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace folioforge {
@@ -31,10 +32,18 @@ template<typename Work> auto atQpdfBorder(Work &&work) -> decltype(work()) {
 /// takes a copy of its growing buffer at the stream's end, in a destructor: to run out of memory
 /// there ends the program.
 inline void requireRoomForStream(qsizetype bytes) {
-    // What it reads from, that buffer, as large again while it grows and up to twice, and the copy.
-    constexpr qsizetype kCopies = 5;
+    // The buffer, up to twice as long as the stream, with what it grew from or with the copy; and
+    // what stands between blocks, which are kept up to some size, and a piece of the source.
+    constexpr qsizetype kCopies = 3;
+    constexpr qsizetype kMostBetween = 32 << 20;
     constexpr qsizetype kRest = 1 << 20;
-    static_cast<void>(QByteArray(kCopies * bytes + kRest, Qt::Uninitialized));
+    const qsizetype between = std::min(2 * bytes, kMostBetween);
+    static_cast<void>(QByteArray(kCopies * bytes + between + kRest, Qt::Uninitialized));
+}
+
+/// The bytes of a stream by the value of its /Length; 0 where that is no number.
+inline qsizetype statedLength(QPDFObjectHandle length) {
+    return length.isInteger() ? length.getIntValue() : 0;
 }
 
 /// Throws where a read failed or the document's warnings tell of a lack of memory.
