@@ -1,6 +1,6 @@
 #include "app/AboutWndCtrl.h"
 
-#include "convert/PropertyList.h"
+#include "compress/PropertyList.h"
 #include "error/Error.h"
 #include "ui_AboutWnd.h"
 

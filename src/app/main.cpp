@@ -1,10 +1,10 @@
 #include "app/FolioforgeAppDelegate.h"
 #include "convert/Bundle.h"
+#include "files/StandardDescriptors.h"
 #include "mainwnd/Desktop.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
 #include "pdf/Password.h"
-#include "pdf/StandardDescriptors.h"
 #include "skin/LightLook.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "cli/Console.h"
 
-#include "text/Printable.h"
+#include "files/Printable.h"
 
 #include <cerrno>
 #include <cstdio>

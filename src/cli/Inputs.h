@@ -2,7 +2,7 @@
 
 #include "filelist/Orders.h"
 #include "filelist/PDFFileInfo.h"
-#include "filelist/StandIns.h"
+#include "files/StandIns.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,6 +1,6 @@
 #include "cli/Interruption.h"
 
-#include "pdf/PartFiles.h"
+#include "files/PartFiles.h"
 
 #include <csignal>
 

@@ -1,6 +1,6 @@
 #include "cli/ProgressLine.h"
 
-#include "text/Printable.h"
+#include "files/Printable.h"
 
 #include <QList>
 

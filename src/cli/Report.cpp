@@ -1,6 +1,6 @@
 #include "cli/Report.h"
 
-#include "text/Printable.h"
+#include "files/Printable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -11,9 +11,9 @@
 #include "convert/Conversion.h"
 #include "error/Error.h"
 #include "filelist/SourceFiles.h"
-#include "pdf/PartFiles.h"
-#include "pdf/TemporaryFolder.h"
-#include "text/Printable.h"
+#include "files/PartFiles.h"
+#include "files/Printable.h"
+#include "files/TemporaryFolder.h"
 
 #include <utility>
 

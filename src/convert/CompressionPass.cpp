@@ -1,19 +1,19 @@
 #include "convert/CompressionPass.h"
 
+#include "compress/DuplicateStreams.h"
+#include "compress/FilterChains.h"
+#include "compress/ImagePlan.h"
+#include "compress/ImageUses.h"
+#include "compress/QuartzFilter.h"
+#include "compress/ReducedStreams.h"
+#include "compress/TemporaryCopy.h"
 #include "convert/Conversion.h"
-#include "convert/QuartzFilter.h"
-#include "convert/compress/DuplicateStreams.h"
-#include "convert/compress/FilterChains.h"
-#include "convert/compress/ImagePlan.h"
-#include "convert/compress/ImageUses.h"
-#include "convert/compress/ReducedStreams.h"
-#include "convert/compress/TemporaryCopy.h"
 #include "error/Error.h"
+#include "files/OutputFile.h"
 #include "pdf/DocumentWriter.h"
-#include "pdf/OutputFile.h"
 #include "pdf/Password.h"
 #include "pdf/QpdfBorder.h"
-#include "pdf/SourceInput.h"
+#include "pdf/import/SourceInput.h"
 
 #include <QFile>
 #include <QFileInfo>

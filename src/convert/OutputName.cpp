@@ -1,6 +1,7 @@
 #include "convert/OutputName.h"
 
 #include "filelist/FileKind.h"
+#include "files/PathNames.h"
 
 #include <QFileInfo>
 

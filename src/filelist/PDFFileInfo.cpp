@@ -4,6 +4,7 @@
 #include "filelist/FileKind.h"
 #include "filelist/NameWidth.h"
 #include "filelist/TextSource.h"
+#include "files/PathNames.h"
 
 #include <QDateTime>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #include "filelist/SourceFiles.h"
 
 #include "error/Error.h"
-#include "filelist/StandIns.h"
-#include "pdf/SourceDocument.h"
+#include "files/StandIns.h"
+#include "pdf/import/SourceDocument.h"
 
 #include <QFile>
 

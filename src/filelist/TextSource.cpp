@@ -2,7 +2,7 @@
 
 #include "error/Error.h"
 #include "error/Memory.h"
-#include "pdf/SourceReader.h"
+#include "files/SourceReader.h"
 #include "text/TextDecoder.h"
 
 #include <QFile>

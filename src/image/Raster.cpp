@@ -1,11 +1,11 @@
 #include "image/Raster.h"
 
 #include "error/Error.h"
-#include "image/CcittFax.h"
 #include "image/Deflate.h"
 #include "image/IccProfile.h"
 #include "image/Parallel.h"
 #include "image/RowFilter.h"
+#include "image/formats/CcittFax.h"
 
 #include <QtEndian>
 

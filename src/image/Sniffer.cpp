@@ -1,17 +1,17 @@
 #include "image/Sniffer.h"
 
 #include "error/Error.h"
-#include "image/Bmp.h"
-#include "image/Exr.h"
-#include "image/Gif.h"
-#include "image/Icns.h"
-#include "image/Ico.h"
-#include "image/Jpeg.h"
-#include "image/Jpeg2000.h"
-#include "image/Png.h"
-#include "image/Psd.h"
-#include "image/Tga.h"
-#include "image/Tiff.h"
+#include "image/formats/Bmp.h"
+#include "image/formats/Exr.h"
+#include "image/formats/Gif.h"
+#include "image/formats/Icns.h"
+#include "image/formats/Ico.h"
+#include "image/formats/Jpeg.h"
+#include "image/formats/Jpeg2000.h"
+#include "image/formats/Png.h"
+#include "image/formats/Psd.h"
+#include "image/formats/Tga.h"
+#include "image/formats/Tiff.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
 #include "mainwnd/FilesArray.h"
 
-#include "text/Printable.h"
+#include "files/Printable.h"
 
 #include <QFont>
 #include <QTextDocument>

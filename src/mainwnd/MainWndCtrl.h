@@ -3,10 +3,10 @@
 #include "convert/CompressionPass.h"
 #include "convert/Conversion.h"
 #include "convert/ConversionOptions.h"
-#include "filelist/StandIns.h"
+#include "files/StandIns.h"
+#include "files/TemporaryFolder.h"
 #include "mainwnd/SkinTableView.h"
 #include "mainwnd/Surroundings.h"
-#include "pdf/TemporaryFolder.h"
 #include "text/FontCascade.h"
 #include "ui_MainWnd.h"
 

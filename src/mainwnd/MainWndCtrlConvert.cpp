@@ -1,10 +1,10 @@
 #include "mainwnd/MainWndCtrl.h"
 
 #include "error/Error.h"
+#include "files/PartFiles.h"
+#include "files/Printable.h"
+#include "files/StoppableCalls.h"
 #include "mainwnd/FilesArray.h"
-#include "pdf/PartFiles.h"
-#include "pdf/StoppableCalls.h"
-#include "text/Printable.h"
 
 #include <QFileInfo>
 

@@ -4,6 +4,7 @@
 #include "filelist/FileKind.h"
 #include "filelist/Orders.h"
 #include "filelist/SourceFiles.h"
+#include "files/PathNames.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/Notices.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pdf/OutputFile.h"
+#include "files/OutputFile.h"
 
 #include <functional>
 #include <string>

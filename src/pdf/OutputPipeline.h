@@ -1,7 +1,7 @@
 #pragma once
 
 #include "error/Error.h"
-#include "pdf/OutputFile.h"
+#include "files/OutputFile.h"
 
 #include <qpdf/Pipeline.hh>
 

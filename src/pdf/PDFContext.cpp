@@ -1,19 +1,19 @@
 #include "pdf/PDFContext.h"
 
+#include "files/OutputFile.h"
 #include "image/EncodedImage.h"
 #include "pdf/ContentNumber.h"
-#include "pdf/DocumentCatalog.h"
-#include "pdf/DocumentImport.h"
 #include "pdf/DocumentInfo.h"
 #include "pdf/DocumentWriter.h"
-#include "pdf/FontEmbedder.h"
 #include "pdf/ImageEmbedder.h"
 #include "pdf/OrientedMatrix.h"
-#include "pdf/OutputFile.h"
 #include "pdf/QpdfBorder.h"
-#include "pdf/SourceDocument.h"
 #include "pdf/StreamData.h"
 #include "pdf/TextContent.h"
+#include "pdf/fonts/FontEmbedder.h"
+#include "pdf/import/DocumentCatalog.h"
+#include "pdf/import/DocumentImport.h"
+#include "pdf/import/SourceDocument.h"
 
 #include <qpdf/QPDF.hh>
 

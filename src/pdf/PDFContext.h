@@ -1,7 +1,7 @@
 #pragma once
 
-#include "pdf/Flush.h"
-#include "pdf/SystemCalls.h"
+#include "files/Flush.h"
+#include "files/SystemCalls.h"
 #include "text/FontCascade.h"
 
 #include <QDateTime>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "error/Memory.h"
-#include "pdf/SourceReader.h"
+#include "files/SourceReader.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFExc.hh>

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "files/SourceReader.h"
+#include "files/Spool.h"
 #include "pdf/DeflateBatches.h"
-#include "pdf/SourceReader.h"
-#include "pdf/Spool.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
 

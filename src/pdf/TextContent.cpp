@@ -1,7 +1,7 @@
 #include "pdf/TextContent.h"
 
 #include "pdf/ContentNumber.h"
-#include "pdf/FontEmbedder.h"
+#include "pdf/fonts/FontEmbedder.h"
 
 #include <cmath>
 #include <cstdlib>

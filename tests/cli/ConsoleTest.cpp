@@ -1,7 +1,7 @@
 #include "cli/Console.h"
 #include "cli/Report.h"
+#include "files/Printable.h"
 #include "support/Files.h"
-#include "text/Printable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -1,6 +1,6 @@
 #include "support/NoThreads.h"
 
-#include "convert/CompressionCase.h"
+#include "compress/CompressionCase.h"
 #include "convert/Conversion.h"
 #include "filelist/EntryReader.h"
 #include "support/Files.h"

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "compress/QuartzFilter.h"
 #include "convert/CompressionPass.h"
 #include "convert/Conversion.h"
-#include "convert/QuartzFilter.h"
 #include "error/Error.h"
-#include "pdf/PartFiles.h"
-#include "pdf/TemporaryFolder.h"
+#include "files/PartFiles.h"
+#include "files/TemporaryFolder.h"
 #include "support/FaultyCalls.h"
 #include "support/Files.h"
 #include "support/PhotoPage.h"

@@ -1,4 +1,5 @@
 #include "filelist/FileKind.h"
+#include "files/PathNames.h"
 
 #include <QTest>
 

@@ -1,8 +1,8 @@
 #include "filelist/SourceFiles.h"
 
-#include "filelist/StandIns.h"
-#include "pdf/PartFiles.h"
-#include "pdf/TemporaryFolder.h"
+#include "files/PartFiles.h"
+#include "files/StandIns.h"
+#include "files/TemporaryFolder.h"
 #include "support/Files.h"
 
 #include <QDir>

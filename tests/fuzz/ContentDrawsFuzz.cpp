@@ -2,7 +2,7 @@
 // once and its size is a size.
 
 #include "FuzzSupport.h"
-#include "convert/compress/ImageUses.h"
+#include "compress/ImageUses.h"
 
 #include <set>
 #include <string>

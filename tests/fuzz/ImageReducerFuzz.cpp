@@ -2,7 +2,7 @@
 // smaller.
 
 #include "FuzzSupport.h"
-#include "convert/compress/ImageReducer.h"
+#include "compress/ImageReducer.h"
 
 #include <algorithm>
 #include <array>

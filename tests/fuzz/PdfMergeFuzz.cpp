@@ -3,7 +3,7 @@
 
 #include "FuzzSupport.h"
 #include "pdf/PDFContext.h"
-#include "pdf/SourceDocument.h"
+#include "pdf/import/SourceDocument.h"
 
 #include <QFile>
 

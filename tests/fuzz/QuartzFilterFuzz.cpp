@@ -1,7 +1,7 @@
 // A filter file of any bytes, XML or binary: every value in its range, or a reason.
 
 #include "FuzzSupport.h"
-#include "convert/QuartzFilter.h"
+#include "compress/QuartzFilter.h"
 
 using namespace folioforge;
 using namespace folioforge::fuzz;

@@ -1,7 +1,7 @@
 // The string toolkit with any bytes: nothing crashes, and what converts survives the way back.
 
 #include "FuzzSupport.h"
-#include "text/StringToolkit.h"
+#include "strings/StringToolkit.h"
 
 #include <algorithm>
 #include <clocale>

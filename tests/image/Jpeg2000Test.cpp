@@ -1,5 +1,5 @@
 #include "DecodedImage.h"
-#include "image/Jpeg2000Pixels.h"
+#include "image/formats/Jpeg2000Pixels.h"
 
 #include <QTemporaryDir>
 #include <QTest>

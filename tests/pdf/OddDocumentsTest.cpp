@@ -1,7 +1,7 @@
 #include "odd/OddDocuments.h"
 #include "error/Error.h"
 #include "pdf/PDFContext.h"
-#include "pdf/SourceDocument.h"
+#include "pdf/import/SourceDocument.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 

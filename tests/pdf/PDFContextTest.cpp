@@ -1,8 +1,8 @@
 #include "pdf/PDFContext.h"
 
 #include "error/Error.h"
+#include "files/SourceReader.h"
 #include "image/EncodedImage.h"
-#include "pdf/SourceReader.h"
 #include "support/PdfProbe.h"
 
 #include <QDir>

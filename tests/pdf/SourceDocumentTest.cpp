@@ -1,4 +1,4 @@
-#include "pdf/SourceDocument.h"
+#include "pdf/import/SourceDocument.h"
 
 #include "error/Error.h"
 #include "support/FaultyCalls.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pdf/SystemCalls.h"
+#include "files/SystemCalls.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,0 +1,132 @@
+#include "compress/ContentReader.h"
+
+#include "compress/BoundedText.h"
+#include "compress/ContentScanner.h"
+#include "compress/Resources.h"
+
+#include <string>
+#include <vector>
+
+#include <qpdf/QPDF.hh>
+
+namespace folioforge {
+
+namespace {
+
+constexpr std::size_t kDeepestForms = 32;
+constexpr std::size_t kMostContentBytes = 64 << 20;
+
+/// Appends the text of a form or of a page's contents, and says whether all of it could be read.
+bool readText(QPDFObjectHandle content, std::string &text) {
+    BoundedText target(text, kMostContentBytes);
+    const QPDF *document = content.getOwningQPDF();
+    const std::size_t warnings = document ? document->numWarnings() : 0;
+    try {
+        const auto streams = content.isStream() ? std::vector{content} : content.getPageContents();
+        for (QPDFObjectHandle stream : streams) {
+            bool filtered = false;
+            if (!stream.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized)) {
+                return false;
+            }
+            target.writeCStr("\n");
+        }
+    } catch (const std::exception &) {
+        return false;
+    }
+    // Compressed data that ends too early counts for no failure, it only warns.
+    return !document || document->numWarnings() == warnings;
+}
+
+} // namespace
+
+ContentDraws ContentReader::readPage(const QPDFObjectHandle &page, ContentScope &scope) {
+    return readContent(page, scope);
+}
+
+ContentDraws ContentReader::readForm(QPDFObjectHandle form, ContentScope &outer) {
+    if (!form.isStream() || isImage(form)) {
+        return {};
+    }
+    ContentScope own{form.getDict().getKey("/Resources")};
+    const bool hasOwn = own.resources.isDictionary();
+    ContentScope &scope = hasOwn ? own : outer;
+    KnownForms &known = hasOwn ? m_forms : outer.forms;
+    const QPDFObjGen id = form.getObjGen();
+    if (const auto found = known.draws.find(id); found != known.draws.end()) {
+        return found->second;
+    }
+    if (m_open.contains(id) || m_open.size() >= kDeepestForms) {
+        // Found once only: forms that draw each other ask for it many times.
+        const auto [place, isNew] = known.unclear.try_emplace(id);
+        if (isNew) {
+            place->second.unclear = imagesBehind(scope.resources);
+        }
+        return place->second;
+    }
+    m_open.insert(id);
+    const ContentDraws inner = readContent(form, scope);
+    m_open.erase(id);
+    ContentDraws draws;
+    draws.add(inner, linearOf(form.getDict().getKey("/Matrix")));
+    return known.draws[id] = std::move(draws);
+}
+
+ContentDraws ContentReader::readContent(const QPDFObjectHandle &content, ContentScope &scope) {
+    ContentDraws draws = readFonts(scope);
+    // Text alone needs no reading.
+    if (drawableStreams(scope.resources).empty()) {
+        return draws;
+    }
+    std::string text;
+    if (readText(content, text)) {
+        draws.add(drawsOf(text, scope), Linear());
+    } else {
+        // What cannot be read may draw any image of its resources at any size.
+        draws.unclear.merge(imagesBehind(scope.resources));
+    }
+    return draws;
+}
+
+ContentDraws ContentReader::drawsOf(const std::string &text, ContentScope &scope) {
+    ContentDraws draws;
+    for (const auto &[id, drawn] : scanContent(text, scope.resources)) {
+        if (isImage(drawn.object)) {
+            for (const Linear &size : drawn.sizes) {
+                draws.add(id, size);
+            }
+            if (drawn.unclear) {
+                draws.unclear.insert(id);
+            }
+            continue;
+        }
+        const ContentDraws inner = readForm(drawn.object, scope);
+        if (drawn.unclear || drawn.sizes.size() > ContentDraws::kMostSizes) {
+            draws.addUnclear(inner);
+            continue;
+        }
+        for (const Linear &size : drawn.sizes) {
+            draws.add(inner, size);
+        }
+    }
+    return draws;
+}
+
+/// The size of a glyph follows the text that shows it, which is not read: images in the glyphs of
+/// Type 3 fonts are unclear.
+ContentDraws ContentReader::readFonts(ContentScope &scope) {
+    ContentDraws draws;
+    for (QPDFObjectHandle font : type3Fonts(scope.resources)) {
+        QPDFObjectHandle glyphs = font.getKey("/CharProcs");
+        if (!glyphs.isDictionary() ||
+            (font.isIndirect() && !m_fontsRead.insert(font.getObjGen()).second)) {
+            continue;
+        }
+        ContentScope own{font.getKey("/Resources")};
+        for (auto &[name, glyph] : glyphs.ditems()) {
+            draws.addUnclear(readForm(glyph, own.resources.isDictionary() ? own : scope));
+        }
+    }
+    return draws;
+}
+
+} // namespace folioforge

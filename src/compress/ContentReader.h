@@ -1,0 +1,45 @@
+#pragma once
+
+#include "compress/ContentDraws.h"
+
+#include <map>
+#include <set>
+
+#include <qpdf/QPDFObjGen.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+namespace folioforge {
+
+/// What forms draw, by their object.
+struct KnownForms {
+    std::map<QPDFObjGen, ContentDraws> draws;
+    std::map<QPDFObjGen, ContentDraws> unclear; ///< What those might draw that were not followed.
+};
+
+/// The resources of a page, form or font, and what the forms that lack their own draw with them.
+struct ContentScope {
+    QPDFObjectHandle resources;
+    KnownForms forms = {};
+};
+
+/// Follows content streams down to the images they draw. Each form is read once; one without
+/// resources of its own, once in each scope. What cannot be followed to its end, because it is
+/// damaged, nested too deeply or draws itself, makes all images behind it unclear.
+class ContentReader {
+  public:
+    /// What the contents of a page draw, in points.
+    ContentDraws readPage(const QPDFObjectHandle &page, ContentScope &scope);
+    /// What a form draws in the space it is painted into, that is with its Matrix applied.
+    ContentDraws readForm(QPDFObjectHandle form, ContentScope &outer);
+
+  private:
+    ContentDraws readContent(const QPDFObjectHandle &content, ContentScope &scope);
+    ContentDraws drawsOf(const std::string &text, ContentScope &scope);
+    ContentDraws readFonts(ContentScope &scope);
+
+    KnownForms m_forms; ///< Those with resources of their own.
+    std::set<QPDFObjGen> m_open;
+    std::set<QPDFObjGen> m_fontsRead;
+};
+
+} // namespace folioforge

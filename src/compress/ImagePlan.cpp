@@ -1,0 +1,299 @@
+#include "compress/ImagePlan.h"
+
+#include "compress/BoundedText.h"
+#include "error/Error.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <string_view>
+
+namespace folioforge {
+
+namespace {
+
+/// An image whose samples need more memory than this is left alone.
+constexpr double kMostSampleBytes = 512e6;
+
+Error left(const char *reason) {
+    return Error(QString::fromLatin1(reason));
+}
+
+int integer(QPDFObjectHandle dictionary, const char *key) {
+    QPDFObjectHandle value = dictionary.getKey(key);
+    return value.isInteger() ? value.getIntValueAsInt() : 0;
+}
+
+/// Sets the filters before the image codec, and the codec, from Filter and DecodeParms.
+void describeFilters(QPDFObjectHandle dictionary, ImageJob &job) {
+    QPDFObjectHandle filter = dictionary.getKey("/Filter");
+    QPDFObjectHandle parameters = dictionary.getKey("/DecodeParms");
+    auto names =
+        filter.isNull() ? std::vector<QPDFObjectHandle>() : filter.wrapInArray().getArrayAsVector();
+    auto details = parameters.isNull() ? std::vector<QPDFObjectHandle>()
+                                       : parameters.wrapInArray().getArrayAsVector();
+    details.resize(names.size(), QPDFObjectHandle::newNull());
+    if (names.empty()) {
+        return;
+    }
+    const std::string last = names.back().isName() ? names.back().getName() : std::string();
+    if (last == "/CCITTFaxDecode" || last == "/JBIG2Decode") {
+        throw left("bilevel");
+    }
+    if (last == "/DCTDecode" || last == "/JPXDecode") {
+        job.codec = last == "/DCTDecode" ? ImageCodec::Jpeg : ImageCodec::Jpx;
+        if (details.back().isDictionary() && details.back().getKey("/ColorTransform").isInteger()) {
+            job.colorTransform = integer(details.back(), "/ColorTransform");
+        }
+        names.pop_back();
+        details.pop_back();
+    }
+    constexpr std::array<std::string_view, 5> kLossless{
+        "/FlateDecode", "/LZWDecode", "/RunLengthDecode", "/ASCII85Decode", "/ASCIIHexDecode"};
+    for (const QPDFObjectHandle &name : names) {
+        QPDFObjectHandle checked = name;
+        if (!checked.isName() ||
+            std::find(kLossless.begin(), kLossless.end(), checked.getName()) == kLossless.end()) {
+            throw left("an unusual filter");
+        }
+    }
+    if (!names.empty()) {
+        job.filter = QPDFObjectHandle::newArray(names).unparseResolved();
+        for (QPDFObjectHandle &detail : details) {
+            // References mean nothing outside the document.
+            detail = detail.isDictionary() ? QPDFObjectHandle::parse(detail.unparseResolved())
+                                           : QPDFObjectHandle::newNull();
+        }
+        job.parameters = QPDFObjectHandle::newArray(details).unparseResolved();
+    }
+}
+
+/// Components of a colour space whose samples may be averaged; 0 for others.
+int plainComponents(QPDFObjectHandle space) {
+    QPDFObjectHandle family = space;
+    if (space.isArray() && space.getArrayNItems() > 0) {
+        family = space.getArrayItem(0);
+    }
+    if (!family.isName()) {
+        return 0;
+    }
+    const std::string name = family.getName();
+    if (name == "/DeviceGray" || name == "/CalGray") {
+        return 1;
+    }
+    if (name == "/DeviceRGB" || name == "/CalRGB") {
+        return 3;
+    }
+    if (name == "/DeviceCMYK") {
+        return 4;
+    }
+    if (name == "/ICCBased" && space.isArray() && space.getArrayNItems() > 1 &&
+        space.getArrayItem(1).isStream()) {
+        const int components = integer(space.getArrayItem(1).getDict(), "/N");
+        return components == 1 || components == 3 || components == 4 ? components : 0;
+    }
+    return 0;
+}
+
+bool isIndexed(QPDFObjectHandle space) {
+    return space.isArray() && space.getArrayNItems() == 4 &&
+           space.getArrayItem(0).isNameAndEquals("/Indexed");
+}
+
+/// The data of a colour table, which take 1024 bytes and, of some writers, padding.
+std::string paletteData(QPDFObjectHandle table) {
+    constexpr std::size_t kMostBytes = 64 << 10;
+    std::string data;
+    BoundedText target(data, kMostBytes);
+    bool filtered = false;
+    table.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized);
+    if (!filtered) {
+        throw left("an unusual colour space");
+    }
+    return data;
+}
+
+void describePalette(QPDFObjectHandle space, ImageJob &job) {
+    job.components = plainComponents(space.getArrayItem(1));
+    QPDFObjectHandle table = space.getArrayItem(3);
+    if (table.isString()) {
+        job.palette = table.getStringValue();
+    } else if (table.isStream()) {
+        job.palette = paletteData(table);
+    }
+    constexpr std::size_t kMostColours = 256;
+    if (job.components == 0 || job.palette.size() < static_cast<std::size_t>(job.components)) {
+        throw left("an unusual colour space");
+    }
+    job.palette.resize(
+        std::min(job.palette.size(), kMostColours * static_cast<std::size_t>(job.components)));
+}
+
+void describeColour(QPDFObjectHandle dictionary, ImageJob &job) {
+    QPDFObjectHandle space = dictionary.getKey("/ColorSpace");
+    if (space.isNull() && job.codec == ImageCodec::Jpx) {
+        job.components = 0;
+        return;
+    }
+    if (isIndexed(space) && job.codec == ImageCodec::Samples) {
+        if (job.bitsPerComponent < 8 || dictionary.hasKey("/Decode")) {
+            throw left("few colours");
+        }
+        describePalette(space, job);
+        return;
+    }
+    job.components = plainComponents(space);
+    if (job.components == 0) {
+        throw left("an unusual colour space");
+    }
+}
+
+void describeSamples(QPDFObjectHandle dictionary, ImageJob &job) {
+    if (job.codec != ImageCodec::Samples) {
+        return;
+    }
+    job.bitsPerComponent = integer(dictionary, "/BitsPerComponent");
+    if (job.bitsPerComponent == 1) {
+        throw left("bilevel");
+    }
+    if (job.bitsPerComponent != 8 && job.bitsPerComponent != 16 &&
+        !isIndexed(dictionary.getKey("/ColorSpace"))) {
+        throw left("few shades");
+    }
+}
+
+void refuseUnusual(QPDFObjectHandle dictionary) {
+    QPDFObjectHandle stencil = dictionary.getKey("/ImageMask");
+    if (stencil.isBool() && stencil.getBoolValue()) {
+        throw left("a mask");
+    }
+    if (dictionary.getKey("/Mask").isArray()) {
+        throw left("masked by colour");
+    }
+    if (integer(dictionary, "/SMaskInData") != 0) {
+        throw left("opacity inside its JPEG 2000 data");
+    }
+    QPDFObjectHandle softMask = dictionary.getKey("/SMask");
+    if (softMask.isStream() && softMask.getDict().hasKey("/Matte")) {
+        throw left("blended with its soft mask");
+    }
+    if (dictionary.hasKey("/Matte")) {
+        throw left("blended into its image");
+    }
+}
+
+/// The wanted size divided by the image's own, so that its largest use has the filter's resolution.
+double scaleFor(const ImageJob &job, const ImageUse &use, const QuartzFilter &filter) {
+    constexpr double kPointsPerInch = 72;
+    const double width = use.width / kPointsPerInch * filter.resolution;
+    const double height = use.height / kPointsPerInch * filter.resolution;
+    const double scale = std::max(width / job.width, height / job.height);
+    if (!(scale * filter.tolerance < 1)) {
+        return 1;
+    }
+    return std::max(scale, 1.0 / std::max(job.width, job.height));
+}
+
+ImageJob describe(QPDFObjectHandle image, const ImageUse &use, const QuartzFilter &filter,
+                  ImagePurpose purpose) {
+    QPDFObjectHandle dictionary = image.getDict();
+    if (use.isUnclear) {
+        throw left("drawn at a size that cannot be told");
+    }
+    refuseUnusual(dictionary);
+    ImageJob job;
+    job.purpose = purpose;
+    job.lineArt = filter.keepLineArt ? LineArt::Keep : LineArt::Reduce;
+    job.jpegQuality = filter.jpegQuality;
+    job.width = integer(dictionary, "/Width");
+    job.height = integer(dictionary, "/Height");
+    if (job.width <= 0 || job.height <= 0) {
+        throw left("damaged: it has no size");
+    }
+    if (static_cast<qint64>(job.width) * job.height < filter.smallestImage) {
+        throw left("small");
+    }
+    describeFilters(dictionary, job);
+    describeSamples(dictionary, job);
+    describeColour(dictionary, job);
+    const double bytes = static_cast<double>(job.width) * job.height * std::max(job.components, 3) *
+                         job.bitsPerComponent / 8;
+    if (bytes > kMostSampleBytes) {
+        throw left("too large");
+    }
+    job.scale = scaleFor(job, use, filter);
+    if (purpose == ImagePurpose::SoftMask && job.components != 1) {
+        throw left("an unusual colour space");
+    }
+    if (purpose == ImagePurpose::SoftMask && job.codec == ImageCodec::Samples && job.scale >= 1) {
+        throw left("already at the resolution");
+    }
+    return job;
+}
+
+ImageUse mergedUse(const ImageUse &one, const ImageUse &other) {
+    return {one.image, one.page, std::max(one.width, other.width),
+            std::max(one.height, other.height), one.isUnclear || other.isUnclear};
+}
+
+/// The soft masks of the images drawn, each with the largest use of its images.
+std::vector<ImageUse> softMaskUses(QPDF &document, const std::vector<ImageUse> &uses) {
+    std::vector<ImageUse> masks;
+    std::map<QPDFObjGen, std::size_t> index;
+    for (const ImageUse &use : uses) {
+        QPDFObjectHandle mask = document.getObjectByObjGen(use.image).getDict().getKey("/SMask");
+        if (!mask.isStream()) {
+            continue;
+        }
+        ImageUse own = use;
+        own.image = mask.getObjGen();
+        const auto [place, isNew] = index.try_emplace(own.image, masks.size());
+        if (isNew) {
+            masks.push_back(own);
+        } else {
+            masks[place->second] = mergedUse(masks[place->second], own);
+        }
+    }
+    return masks;
+}
+
+void planUse(QPDF &document, const ImageUse &use, const QuartzFilter &filter, ImagePurpose purpose,
+             ImagePlan &plan) {
+    QPDFObjectHandle image = document.getObjectByObjGen(use.image);
+    try {
+        plan.planned.push_back({image, use.page, describe(image, use, filter, purpose)});
+    } catch (const Error &error) {
+        plan.left.push_back({use.page, use.image.getObj(), error.reason()});
+    } catch (const std::exception &) {
+        plan.left.push_back(
+            {use.page, use.image.getObj(), QStringLiteral("damaged: its description is wrong")});
+    }
+}
+
+} // namespace
+
+ImagePlan planImages(QPDF &document, const std::vector<ImageUse> &uses,
+                     const QuartzFilter &filter) {
+    std::map<QPDFObjGen, ImageUse> masks;
+    for (const ImageUse &mask : softMaskUses(document, uses)) {
+        masks.emplace(mask.image, mask);
+    }
+    ImagePlan plan;
+    for (const ImageUse &use : uses) {
+        // A soft mask that is drawn as an image as well is both at its largest.
+        if (const auto mask = masks.find(use.image); mask != masks.end()) {
+            mask->second = mergedUse(mask->second, use);
+            continue;
+        }
+        planUse(document, use, filter, ImagePurpose::Photo, plan);
+    }
+    for (const auto &[id, use] : masks) {
+        planUse(document, use, filter, ImagePurpose::SoftMask, plan);
+    }
+    std::stable_sort(plan.planned.begin(), plan.planned.end(),
+                     [](const auto &one, const auto &other) { return one.page < other.page; });
+    return plan;
+}
+
+} // namespace folioforge

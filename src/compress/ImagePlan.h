@@ -1,0 +1,37 @@
+#pragma once
+
+#include "compress/ImageReducer.h"
+#include "compress/ImageUses.h"
+#include "compress/QuartzFilter.h"
+
+#include <vector>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+namespace folioforge {
+
+/// An image of the document that is to be reduced; `job.data` is still empty.
+struct PlannedImage {
+    QPDFObjectHandle stream;
+    int page = 0; ///< The first page that draws it, from 1.
+    ImageJob job;
+};
+
+/// An image that stays as it is.
+struct LeftImage {
+    int page = 0;   ///< The first page that draws it, from 1.
+    int object = 0; ///< Its object number in the document.
+    QString reason; ///< A few words without a full stop.
+};
+
+struct ImagePlan {
+    std::vector<PlannedImage> planned; ///< In the order of the pages.
+    std::vector<LeftImage> left;
+};
+
+/// Decides for each image from its dictionary and its largest use whether to reduce it and to what
+/// size. A soft mask is planned with its image, by the image's use.
+ImagePlan planImages(QPDF &document, const std::vector<ImageUse> &uses, const QuartzFilter &filter);
+
+} // namespace folioforge

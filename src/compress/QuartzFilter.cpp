@@ -1,0 +1,81 @@
+#include "compress/QuartzFilter.h"
+
+#include "compress/PropertyList.h"
+#include "error/Error.h"
+
+#include <array>
+
+namespace folioforge {
+
+namespace {
+
+/// Reads typed values out of a filter file's dictionary and names the key that is wrong.
+class FilterReader {
+  public:
+    FilterReader(QString path, QVariantMap values)
+        : m_path(std::move(path))
+        , m_values(std::move(values)) {}
+
+    [[nodiscard]] double number(const QString &key, double least, double most) const {
+        const QVariant value = m_values.value(key);
+        const bool isNumber =
+            value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Double;
+        const double number = value.toDouble();
+        if (!isNumber || !(number >= least && number <= most)) {
+            throw wrong(key);
+        }
+        return number;
+    }
+
+    [[nodiscard]] bool boolean(const QString &key) const {
+        const QVariant value = m_values.value(key);
+        if (value.typeId() != QMetaType::Bool) {
+            throw wrong(key);
+        }
+        return value.toBool();
+    }
+
+    [[nodiscard]] FilterReader dictionary(const QString &key) const {
+        const QVariant value = m_values.value(key);
+        if (value.typeId() != QMetaType::QVariantMap) {
+            throw wrong(key);
+        }
+        return {m_path, value.toMap()};
+    }
+
+  private:
+    [[nodiscard]] Error wrong(const QString &key) const {
+        return Error(
+            QStringLiteral("The filter file %1 lacks a valid value for \"%2\"").arg(m_path, key));
+    }
+
+    QString m_path;
+    QVariantMap m_values;
+};
+
+} // namespace
+
+QString quartzFilterName(int index) {
+    static const std::array<QString, 4> names{QString(), QStringLiteral("150m"),
+                                              QStringLiteral("96m"), QStringLiteral("72l")};
+    return index >= 0 && index < static_cast<int>(names.size()) ? names[index] : QString();
+}
+
+QString quartzFilterPath(const QString &bundlePath, const QString &name) {
+    return QStringLiteral("%1/Contents/Resources/%2.qfilter").arg(bundlePath, name);
+}
+
+QuartzFilter readQuartzFilter(const QString &path) {
+    const FilterReader file(path, readPropertyList(path));
+    QuartzFilter filter;
+    filter.resolution = file.number(QStringLiteral("Resolution"), 9, 2400);
+    filter.jpegQuality = static_cast<int>(file.number(QStringLiteral("JPEGQuality"), 1, 100));
+    const FilterReader left = file.dictionary(QStringLiteral("LeaveAlone"));
+    filter.tolerance = left.number(QStringLiteral("ResolutionTolerance"), 1, 10);
+    filter.smallestImage =
+        static_cast<qint64>(left.number(QStringLiteral("FewerPixelsThan"), 0, 1e9));
+    filter.keepLineArt = left.boolean(QStringLiteral("LineArt"));
+    return filter;
+}
+
+} // namespace folioforge

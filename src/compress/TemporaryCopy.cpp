@@ -1,0 +1,56 @@
+#include "compress/TemporaryCopy.h"
+
+#include "error/Error.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <array>
+
+namespace folioforge {
+
+TemporaryCopy::TemporaryCopy(const QString &folder, const QString &source, SystemCalls &calls)
+    : m_folder(folder)
+    , m_source(source)
+    , m_file(folder + u'/' + QFileInfo(source).fileName(), calls, OutputFile::Readers::OwnerAlone)
+    , m_pipeline(m_file) {}
+
+void TemporaryCopy::takeSource() {
+    appendFile(m_file, m_source);
+}
+
+/// Null where the name is taken.
+std::shared_ptr<const PartFile> TemporaryCopy::publishedAs(const QString &name) {
+    const QString path = m_folder + u'/' + name;
+    auto part = std::make_shared<const PartFile>(QFile::encodeName(path).toStdString());
+    const auto published = m_file.publish(path, Flush::Never);
+    return published == OutputFile::Published::Yes ? part : nullptr;
+}
+
+std::shared_ptr<const PartFile> TemporaryCopy::finish() {
+    m_file.finish(Flush::Never);
+    const QFileInfo source(m_source);
+    auto part = publishedAs(source.fileName());
+    for (int n = 1; !part; ++n) {
+        part = publishedAs(source.completeBaseName() + QStringLiteral("(%1).pdf").arg(n));
+    }
+    return part;
+}
+
+void appendFile(OutputFile &target, const QString &path) {
+    QFile source(path);
+    if (!source.open(QIODevice::ReadOnly)) {
+        throw Error(QStringLiteral("Cannot read %1: %2").arg(path, source.errorString()));
+    }
+    constexpr std::size_t kBlock = 1 << 16;
+    std::array<char, kBlock> block{};
+    qint64 count = 0;
+    while ((count = source.read(block.data(), block.size())) > 0) {
+        target.write({block.data(), static_cast<std::size_t>(count)});
+    }
+    if (count < 0) {
+        throw Error(QStringLiteral("Cannot read %1: %2").arg(path, source.errorString()));
+    }
+}
+
+} // namespace folioforge

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "files/PartFiles.h"
+#include "pdf/OutputPipeline.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace folioforge {
+
+/// The compressed copy of a document while it is written: a new file that its owner alone can read.
+/// Without finish() it is gone with this object.
+class TemporaryCopy {
+  public:
+    /// A copy of the document at `source`, in `folder`. Throws Error.
+    TemporaryCopy(const QString &folder, const QString &source, SystemCalls &calls);
+
+    /// Where the document's bytes go.
+    [[nodiscard]] OutputPipeline &pipeline() { return m_pipeline; }
+    /// Bytes written so far.
+    [[nodiscard]] qint64 size() const { return m_file.size(); }
+    /// Writes the bytes of the source. Throws Error.
+    void takeSource();
+    /// Gives the copy its name, the source's, or with a number behind it, "(1).pdf" and upwards,
+    /// where that is taken. As long as the result lives, a signal that ends the program removes the
+    /// copy. Throws Error.
+    std::shared_ptr<const PartFile> finish();
+
+  private:
+    std::shared_ptr<const PartFile> publishedAs(const QString &name);
+
+    QString m_folder;
+    QString m_source;
+    OutputFile m_file;
+    OutputPipeline m_pipeline;
+};
+
+/// Appends the bytes of the file at `path` to `target`. Throws Error.
+void appendFile(OutputFile &target, const QString &path);
+
+} // namespace folioforge

@@ -1,0 +1,311 @@
+#include "files/OutputFile.h"
+
+#include "error/Error.h"
+#include "files/PartFiles.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+namespace folioforge {
+
+namespace {
+
+constexpr std::size_t kBufferSize = 1 << 20;
+/// Larger writes make the kernel look for large runs of memory for its cache. On a virtual machine
+/// those are often not backed yet, and the same bytes then take three times as long.
+constexpr std::size_t kWriteSize = 128 << 10;
+
+constexpr mode_t kNewFileMode = 0666;
+constexpr mode_t kOwnerMode = S_IRUSR | S_IWUSR;
+
+/// Closes its descriptor at the end.
+class Descriptor {
+  public:
+    explicit Descriptor(int fd)
+        : m_fd(fd) {}
+    ~Descriptor() {
+        if (m_fd >= 0) {
+            ::close(m_fd);
+        }
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+
+  private:
+    int m_fd;
+};
+
+bool isNoNamelessFile(int error) {
+    return error == EOPNOTSUPP || error == EISDIR || error == EINVAL || error == ENOENT ||
+           error == ENOSYS;
+}
+
+bool canLinkByDescriptor(int fd) {
+    const std::string path = "/proc/self/fd/" + std::to_string(fd);
+    return ::access(path.c_str(), F_OK) == 0;
+}
+
+} // namespace
+
+OutputFile::OutputFile(const QString &path, SystemCalls &calls, Readers readers)
+    : m_calls(calls)
+    , m_newMode(readers == Readers::OwnerAlone ? kOwnerMode : kNewFileMode) {
+    const QFileInfo info(path);
+    m_folder = QFile::encodeName(info.path()).toStdString();
+    m_fd = uninterrupted([&] { return m_calls.openAnonymous(m_folder.c_str(), m_newMode); });
+    if (m_fd >= 0 && !canLinkByDescriptor(m_fd)) {
+        m_calls.close(m_fd);
+        m_fd = -1;
+        errno = EOPNOTSUPP;
+    }
+    if (m_fd < 0) {
+        if (!isNoNamelessFile(errno)) {
+            fail("create");
+        }
+        openNamed(QFile::encodeName(info.fileName()));
+    }
+    m_buffer.reserve(kBufferSize);
+}
+
+OutputFile::~OutputFile() {
+    if (m_fd >= 0) {
+        m_calls.close(m_fd);
+    }
+    if (m_part) {
+        m_calls.unlink(m_part->path().c_str());
+    }
+}
+
+void OutputFile::fail(const char *doing) const {
+    const int reason = errno;
+    throw Error(QStringLiteral("Cannot %1 a file in %2: %3")
+                    .arg(QString::fromLatin1(doing), QFile::decodeName(m_folder.c_str()),
+                         QString::fromLocal8Bit(std::strerror(reason))));
+}
+
+void OutputFile::openNamed(const QByteArray &fileName) {
+    constexpr int kAttempts = 16;
+    bool opened = false;
+    for (int attempt = 0; !opened && attempt < kAttempts; ++attempt) {
+        opened = openPart(partPath(m_folder, fileName));
+    }
+    if (!opened) {
+        fail("create");
+    }
+    // The empty file tells which mode the umask leaves; until it is whole it is the owner's.
+    struct stat status {};
+    constexpr mode_t kPermissionBits = 07777;
+    m_mode = ::fstat(m_fd, &status) == 0 ? status.st_mode & kPermissionBits : kOwnerMode;
+    // File systems without permissions refuse; their files have the mount's mode then as now.
+    m_calls.fchmod(m_fd, kOwnerMode);
+}
+
+/// False when another name is to be tried: this one is taken, or the file was taken for abandoned
+/// before it was locked.
+bool OutputFile::openPart(const std::string &path) {
+    auto part = std::make_unique<PartFile>(path);
+    constexpr int kFlags = O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC;
+    m_fd = uninterrupted([&] { return m_calls.open(path.c_str(), kFlags, m_newMode); });
+    if (m_fd < 0 && errno == EEXIST) {
+        return false;
+    }
+    if (m_fd < 0) {
+        fail("create");
+    }
+    if (!lockPart(m_fd) || isRemoved(m_fd)) {
+        m_calls.close(std::exchange(m_fd, -1));
+        errno = EBUSY;
+        return false;
+    }
+    m_part = std::move(part);
+    return true;
+}
+
+void OutputFile::writeAll(const char *data, std::size_t size) {
+    while (size > 0) {
+        const ssize_t written =
+            uninterrupted([&] { return m_calls.write(m_fd, data, std::min(size, kWriteSize)); });
+        if (written == 0) {
+            errno = ENOSPC;
+        }
+        if (written <= 0) {
+            fail("write");
+        }
+        data += written;
+        size -= static_cast<std::size_t>(written);
+    }
+}
+
+void OutputFile::drain() {
+    writeAll(m_buffer.data(), m_buffer.size());
+    m_buffer.clear();
+}
+
+void OutputFile::write(std::span<const char> bytes) {
+    if (m_buffer.size() + bytes.size() > kBufferSize) {
+        drain();
+    }
+    if (bytes.size() >= kBufferSize) {
+        writeAll(bytes.data(), bytes.size());
+    } else {
+        m_buffer.append(bytes.data(), bytes.size());
+    }
+    m_size += static_cast<qint64>(bytes.size());
+}
+
+QByteArray OutputFile::read(qint64 offset, qint64 size) {
+    drain();
+    QByteArray bytes(size, Qt::Uninitialized);
+    qint64 done = 0;
+    while (done < size) {
+        const ssize_t got = uninterrupted([&] {
+            return m_calls.pread(m_fd, bytes.data() + done, static_cast<std::size_t>(size - done),
+                                 offset + done);
+        });
+        if (got < 0) {
+            fail("read back");
+        }
+        if (got == 0) {
+            break;
+        }
+        done += got;
+    }
+    bytes.truncate(done);
+    return bytes;
+}
+
+void OutputFile::overwrite(qint64 offset, const QByteArray &bytes) {
+    drain();
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const ssize_t written = uninterrupted([&] {
+            return m_calls.pwrite(m_fd, bytes.constData() + done,
+                                  static_cast<std::size_t>(bytes.size() - done), offset + done);
+        });
+        if (written == 0) {
+            errno = ENOSPC;
+        }
+        if (written <= 0) {
+            fail("write");
+        }
+        done += written;
+    }
+}
+
+void OutputFile::finish(Flush flush) {
+    drain();
+    if (m_part && m_calls.fchmod(m_fd, m_mode) != 0 && errno != EPERM && errno != ENOTSUP) {
+        fail("write");
+    }
+    if (flush == Flush::Always && uninterrupted([&] { return m_calls.fsync(m_fd); }) != 0) {
+        fail("flush");
+    }
+}
+
+bool OutputFile::renamePart(const char *path) {
+    const char *part = m_part->path().c_str();
+    if (m_calls.renameExclusive(part, path) == 0) {
+        return true;
+    }
+    if (errno != ENOSYS && errno != EINVAL && errno != EOPNOTSUPP) {
+        return false;
+    }
+    if (m_calls.link(part, path) == 0) {
+        m_calls.unlink(part);
+        return true;
+    }
+    if (errno == EEXIST) {
+        return false;
+    }
+    // Neither is known here: hold the name with a file of our own, then replace that one.
+    const int held =
+        m_calls.open(path, O_CREAT | O_EXCL | O_NOFOLLOW | O_WRONLY | O_CLOEXEC, kOwnerMode);
+    if (held < 0) {
+        return false;
+    }
+    m_calls.close(held);
+    if (m_calls.rename(part, path) == 0) {
+        return true;
+    }
+    const int reason = errno;
+    m_calls.unlink(path);
+    errno = reason;
+    return false;
+}
+
+bool OutputFile::givePublicName(const char *path) {
+    return m_part ? renamePart(path) : m_calls.linkAnonymous(m_fd, path) == 0;
+}
+
+OutputFile::Published OutputFile::publish(const QString &path, Flush flush) {
+    const QByteArray name = QFile::encodeName(path);
+    if (!givePublicName(name.constData())) {
+        if (errno == EEXIST) {
+            return Published::NameTaken;
+        }
+        fail("name");
+    }
+    m_part.reset();
+    try {
+        closeFile();
+    } catch (const Error &) {
+        m_calls.unlink(name.constData());
+        throw;
+    }
+    if (flush == Flush::Always) {
+        syncFolder();
+    }
+    return Published::Yes;
+}
+
+void OutputFile::linkAsPart(const QByteArray &fileName) {
+    auto part = std::make_unique<PartFile>(partPath(m_folder, fileName));
+    lockPart(m_fd);
+    if (m_calls.linkAnonymous(m_fd, part->path().c_str()) != 0) {
+        fail("name");
+    }
+    m_part = std::move(part);
+}
+
+void OutputFile::replace(const QString &path, Flush flush) {
+    if (!m_part) {
+        linkAsPart(QFile::encodeName(QFileInfo(path).fileName()));
+    }
+    // Some file systems tell only now that not all was written; the lock has to outlast that.
+    const Descriptor lock(::fcntl(m_fd, F_DUPFD_CLOEXEC, 0));
+    closeFile();
+    if (m_calls.rename(m_part->path().c_str(), QFile::encodeName(path).constData()) != 0) {
+        fail("name");
+    }
+    m_part.reset();
+    if (flush == Flush::Always) {
+        syncFolder();
+    }
+}
+
+void OutputFile::closeFile() {
+    if (m_calls.close(std::exchange(m_fd, -1)) != 0 && errno != EINTR) {
+        fail("write");
+    }
+}
+
+void OutputFile::syncFolder() {
+    // The document stands whole under its name by now; where a folder cannot be flushed (many
+    // network file systems) nothing better can be done.
+    const int folder = m_calls.open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
+    if (folder >= 0) {
+        m_calls.fsync(folder);
+        m_calls.close(folder);
+    }
+}
+
+} // namespace folioforge

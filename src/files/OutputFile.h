@@ -1,0 +1,77 @@
+#pragma once
+
+#include "files/Flush.h"
+#include "files/SystemCalls.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+#include <span>
+#include <string>
+
+namespace folioforge {
+
+class PartFile;
+
+/// A file that appears under its name only when it is whole, and never in place of another.
+///
+/// While it is written it has no name at all where the file system can do that, so that nothing is
+/// left even when the process is killed; elsewhere it is a part file beside the target, readable by
+/// its owner alone. Destroyed unpublished, it is gone.
+class OutputFile {
+  public:
+    enum class Published { Yes, NameTaken };
+    /// Who may read the finished file.
+    enum class Readers { AsUmaskSays, OwnerAlone };
+
+    /// A file to be published in the folder of `path`. Throws Error when it cannot be created.
+    explicit OutputFile(const QString &path, SystemCalls &calls = SystemCalls::system(),
+                        Readers readers = Readers::AsUmaskSays);
+    ~OutputFile();
+    OutputFile(const OutputFile &) = delete;
+    OutputFile &operator=(const OutputFile &) = delete;
+
+    /// Appends bytes. Throws Error when they cannot be written.
+    void write(std::span<const char> bytes);
+    /// Reads up to `size` bytes at `offset`, written ones only. Throws Error.
+    QByteArray read(qint64 offset, qint64 size);
+    /// Replaces bytes already written. Throws Error.
+    void overwrite(qint64 offset, const QByteArray &bytes);
+    /// Bytes appended so far.
+    [[nodiscard]] qint64 size() const { return m_size; }
+
+    /// Brings the bytes to the file, and with Flush::Always to the disk. Throws Error.
+    void finish(Flush flush);
+    /// Gives the finished file its name `path`, in the folder it was made for. Throws Error when
+    /// that fails for another reason than the name being taken.
+    Published publish(const QString &path, Flush flush);
+    /// Puts the finished file in the place of the file `path`, in the folder it was made for, in
+    /// one step: at every moment one of the two stands there whole. Throws Error; the old file is
+    /// then as it was.
+    void replace(const QString &path, Flush flush);
+
+  private:
+    void openNamed(const QByteArray &fileName);
+    bool openPart(const std::string &path);
+    void linkAsPart(const QByteArray &fileName);
+    void writeAll(const char *data, std::size_t size);
+    void drain();
+    bool givePublicName(const char *path);
+    bool renamePart(const char *path);
+    void closeFile();
+    void syncFolder();
+    /// Throws Error with the reason in errno.
+    [[noreturn]] void fail(const char *doing) const;
+
+    SystemCalls &m_calls;
+    std::string m_folder;
+    int m_fd = -1;
+    mode_t m_newMode;  ///< The mode asked for, before the user's umask.
+    mode_t m_mode = 0; ///< The mode of the finished part file.
+    std::unique_ptr<PartFile> m_part;
+    std::string m_buffer;
+    qint64 m_size = 0;
+};
+
+} // namespace folioforge

@@ -1,0 +1,136 @@
+#include "files/PartFiles.h"
+
+#include <QFile>
+#include <QRandomGenerator>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <filesystem>
+#include <mutex>
+#include <string_view>
+#include <thread>
+#include <utility>
+
+namespace folioforge {
+
+namespace {
+
+constexpr std::string_view kEnding = ".folioforge-part";
+
+// The parts of this process, the newest first. Writers take turns; a signal handler, which may wait
+// for nobody, finds the list whole at any moment.
+std::atomic<PartFile *> newestPart{nullptr};
+static_assert(std::atomic<PartFile *>::is_always_lock_free);
+std::mutex turnToWrite;
+
+// The handlers that walk the list now, on any thread: what one of them may be at must not go yet.
+std::atomic<int> walkers{0};
+static_assert(std::atomic<int>::is_always_lock_free);
+
+bool isPartName(const std::string &name) {
+    return name.starts_with('.') && name.ends_with(kEnding);
+}
+
+/// A descriptor of the part at `path`; -1 where that cannot be had. Some network file systems lock
+/// only what is open for writing, which a folder never is.
+int openPart(const char *path) {
+    constexpr int kFlags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    const int fd = ::open(path, O_RDWR | kFlags);
+    return fd >= 0 || errno != EISDIR ? fd : ::open(path, O_RDONLY | O_DIRECTORY | kFlags);
+}
+
+/// Unlike lockPart(), sure of it: where locks are unknown nothing counts as abandoned.
+bool isAbandoned(int fd) {
+    struct stat status {};
+    return ::fstat(fd, &status) == 0 && status.st_uid == ::geteuid() &&
+           (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)) &&
+           ::flock(fd, LOCK_EX | LOCK_NB) == 0;
+}
+
+void removeIfAbandoned(const std::filesystem::path &path) {
+    const int fd = openPart(path.c_str());
+    if (fd < 0) {
+        return;
+    }
+    if (isAbandoned(fd)) {
+        std::error_code failure;
+        std::filesystem::remove_all(path, failure);
+    }
+    ::close(fd);
+}
+
+} // namespace
+
+std::string partPath(const std::string &folder, const QByteArray &name) {
+    constexpr qsizetype kMaxName = 255;
+    QByteArray ending = QByteArray::number(QRandomGenerator::system()->generate64(), 36);
+    ending = "." + ending + QByteArray(kEnding.data(), kEnding.size());
+    QByteArray stem = name.left(kMaxName - 1 - ending.size());
+    if (stem.size() < name.size()) {
+        const auto isContinuation = [](char byte) {
+            return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+        };
+        while (!stem.isEmpty() && isContinuation(name.at(stem.size()))) {
+            stem.chop(1);
+        }
+    }
+    return folder + "/." + (stem + ending).toStdString();
+}
+
+bool lockPart(int fd) {
+    return ::flock(fd, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+bool isRemoved(int fd) {
+    struct stat status {};
+    return ::fstat(fd, &status) == 0 && status.st_nlink == 0;
+}
+
+void removeAbandonedParts(const QString &folder) {
+    std::error_code failure;
+    std::filesystem::directory_iterator entry(QFile::encodeName(folder).toStdString(), failure);
+    while (!failure && entry != std::filesystem::directory_iterator()) {
+        if (isPartName(entry->path().filename().string())) {
+            removeIfAbandoned(entry->path());
+        }
+        entry.increment(failure);
+    }
+}
+
+PartFile::PartFile(std::string path)
+    : m_path(std::move(path)) {
+    const std::scoped_lock turn(turnToWrite);
+    m_older = newestPart.load();
+    newestPart = this;
+}
+
+PartFile::~PartFile() {
+    const std::scoped_lock turn(turnToWrite);
+    std::atomic<PartFile *> *place = &newestPart;
+    while (*place != this) {
+        place = &place->load()->m_older;
+    }
+    *place = m_older.load();
+    while (walkers != 0) {
+        std::this_thread::yield();
+    }
+}
+
+void removePartFiles() noexcept {
+    ++walkers;
+    // What a folder holds is newer than the folder, which is empty when its turn comes.
+    for (const PartFile *part = newestPart; part; part = part->m_older) {
+        const char *path = part->m_path.c_str();
+        if (::unlink(path) != 0) {
+            ::rmdir(path);
+        }
+    }
+    --walkers;
+}
+
+} // namespace folioforge

@@ -1,0 +1,123 @@
+#include "files/Spool.h"
+
+#include "error/Error.h"
+#include "files/PartFiles.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <string>
+
+namespace folioforge {
+
+namespace {
+
+constexpr qint64 kMemoryLimit = qint64{8} << 20;
+constexpr qint64 kWindowSize = qint64{256} << 10;
+
+[[noreturn]] void fail(const QString &what) {
+    throw Error(QStringLiteral("%1: %2").arg(what, QString::fromLocal8Bit(std::strerror(errno))));
+}
+
+} // namespace
+
+Spool::~Spool() {
+    if (m_fd >= 0) {
+        m_calls.close(m_fd);
+    }
+}
+
+void Spool::openFile() {
+    constexpr mode_t kOwnerMode = S_IRUSR | S_IWUSR;
+    const std::string folder = QFile::encodeName(QDir::tempPath()).toStdString();
+    m_fd = uninterrupted([&] { return m_calls.openAnonymous(folder.c_str(), kOwnerMode); });
+    if (m_fd < 0 && !folder.empty()) { // Empty where TMPDIR names a folder that does not exist.
+        const std::string path = partPath(folder, "spool");
+        constexpr int kFlags = O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC;
+        m_fd = uninterrupted([&] { return m_calls.open(path.c_str(), kFlags, kOwnerMode); });
+        if (m_fd >= 0) {
+            m_calls.unlink(path.c_str());
+        }
+    }
+    if (m_fd < 0) {
+        fail(QStringLiteral("Cannot create a temporary file"));
+    }
+}
+
+void Spool::moveToFile(QByteArrayView data) {
+    if (m_fd < 0) {
+        openFile();
+    }
+    // Where this fails half way, what it was to move must still be found in memory.
+    qint64 end = m_fileSize;
+    while (!data.isEmpty()) {
+        const ssize_t written = uninterrupted([&] {
+            return m_calls.pwrite(m_fd, data.data(), static_cast<std::size_t>(data.size()), end);
+        });
+        if (written == 0) {
+            errno = ENOSPC;
+        }
+        if (written <= 0) {
+            fail(QStringLiteral("Cannot write a temporary file"));
+        }
+        data = data.sliced(written);
+        end += written;
+    }
+    m_fileSize = end;
+}
+
+Spool::Place Spool::add(QByteArrayView data) {
+    if (m_memory.size() + data.size() > kMemoryLimit) {
+        moveToFile(m_memory);
+        m_memory.resize(0); // Which keeps the block for what follows.
+    }
+    const Place place{m_fileSize + m_memory.size(), data.size()};
+    if (data.size() > kMemoryLimit) {
+        moveToFile(data);
+    } else {
+        m_memory.append(data);
+    }
+    return place;
+}
+
+void Spool::readWindow(Place place) {
+    // Streams are asked for mostly in the order in which they came, many small ones in a row.
+    const qint64 size = std::max(place.length, std::min(kWindowSize, m_fileSize - place.offset));
+    m_window.resize(0);
+    m_window.resize(size);
+    m_windowStart = place.offset;
+    qint64 done = 0;
+    while (done < size) {
+        const ssize_t got = uninterrupted([&] {
+            return m_calls.pread(m_fd, m_window.data() + done,
+                                 static_cast<std::size_t>(size - done), place.offset + done);
+        });
+        if (got == 0) {
+            errno = EIO;
+        }
+        if (got <= 0) {
+            m_window.clear();
+            fail(QStringLiteral("Cannot read a temporary file"));
+        }
+        done += got;
+    }
+}
+
+QByteArrayView Spool::at(Place place) {
+    if (place.offset >= m_fileSize) {
+        return QByteArrayView(m_memory).sliced(place.offset - m_fileSize, place.length);
+    }
+    if (place.offset < m_windowStart ||
+        place.offset + place.length > m_windowStart + m_window.size()) {
+        readWindow(place);
+    }
+    return QByteArrayView(m_window).sliced(place.offset - m_windowStart, place.length);
+}
+
+} // namespace folioforge

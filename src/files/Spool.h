@@ -1,0 +1,44 @@
+#pragma once
+
+#include "files/SystemCalls.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+namespace folioforge {
+
+/// Holds made data until the document is written: in memory while there is little of it, the older
+/// part then in an anonymous file that no one else can open and that is gone when this object is.
+class Spool {
+  public:
+    /// A place in the spool, in bytes.
+    struct Place {
+        qint64 offset = 0;
+        qint64 length = 0;
+    };
+
+    explicit Spool(SystemCalls &calls = SystemCalls::system())
+        : m_calls(calls) {}
+    ~Spool();
+    Spool(const Spool &) = delete;
+    Spool &operator=(const Spool &) = delete;
+
+    /// Keeps a copy of `data`. Throws Error when the temporary file cannot take it.
+    Place add(QByteArrayView data);
+    /// The data at `place`, valid until the next call. Throws Error when it cannot be read back.
+    [[nodiscard]] QByteArrayView at(Place place);
+
+  private:
+    void openFile();
+    void moveToFile(QByteArrayView data);
+    void readWindow(Place place);
+
+    SystemCalls &m_calls;
+    QByteArray m_memory;   ///< What came after the part in the file.
+    qint64 m_fileSize = 0; ///< Bytes of the spool that are in the file.
+    int m_fd = -1;
+    QByteArray m_window; ///< Bytes of the file from m_windowStart on.
+    qint64 m_windowStart = 0;
+};
+
+} // namespace folioforge

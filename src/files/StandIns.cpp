@@ -1,0 +1,81 @@
+#include "files/StandIns.h"
+
+#include "files/PathNames.h"
+#include "files/TemporaryFolder.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+namespace folioforge {
+
+StandIns::~StandIns() {
+    for (const PartFile &part : m_parts) {
+        std::error_code failure;
+        std::filesystem::remove(part.path(), failure);
+    }
+}
+
+QString StandIns::pathFor(const QByteArray &path) {
+    QString readable = QString::fromUtf8(path);
+    if (path.isValidUtf8()) {
+        return readable;
+    }
+    std::error_code failure;
+    const auto target = std::filesystem::absolute(path.toStdString(), failure);
+    // A folder for each, so that the link can bear the file's own name.
+    const QString folder = m_folder.path() + u'/' + QString::number(m_count++);
+    const QString link = folder + u'/' + fittingName(lastPathComponent(readable));
+    const bool made = !failure && makeFolder(folder) && makeLink(link, target);
+    return made ? link : readable;
+}
+
+// The path is known to a signal handler before there is anything to remove.
+
+bool StandIns::makeFolder(const QString &path) {
+    const PartFile &part = m_parts.emplace_front(QFile::encodeName(path).toStdString());
+    return keepIf(::mkdir(part.path().c_str(), S_IRWXU) == 0);
+}
+
+bool StandIns::makeLink(const QString &path, const std::string &target) {
+    const PartFile &part = m_parts.emplace_front(QFile::encodeName(path).toStdString());
+    return keepIf(::symlink(target.c_str(), part.path().c_str()) == 0);
+}
+
+bool StandIns::keepIf(bool made) {
+    if (!made) {
+        m_parts.pop_front();
+    }
+    return made;
+}
+
+QString StandIns::pathForReadable(const QString &path) {
+    if (!path.contains(QChar::ReplacementCharacter) || QFileInfo::exists(path)) {
+        return path;
+    }
+    const QString wanted = lastPathComponent(path);
+    const QByteArray folder = QFile::encodeName(QFileInfo(path).path());
+    std::error_code failure;
+    std::filesystem::directory_iterator entry(folder.toStdString(), failure);
+    while (!failure && entry != std::filesystem::directory_iterator()) {
+        const std::string found = entry->path().string();
+        if (lastPathComponent(QString::fromUtf8(found)) == wanted) {
+            return pathFor(QByteArray::fromStdString(found));
+        }
+        entry.increment(failure);
+    }
+    return path;
+}
+
+QStringList StandIns::pathsForReadable(QStringList paths) {
+    for (QString &path : paths) {
+        path = pathForReadable(path);
+    }
+    return paths;
+}
+
+} // namespace folioforge

@@ -1,0 +1,77 @@
+#include "files/TemporaryFolder.h"
+
+#include "files/PartFiles.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <utility>
+
+namespace folioforge {
+
+namespace {
+
+/// Qt names none where TMPDIR leads nowhere; files must not be made in the root folder then.
+QString systemsTemporaryFolder() {
+    const QString folder = QDir::tempPath();
+    return folder.isEmpty() ? QFile::decodeName(qgetenv("TMPDIR")) : folder;
+}
+
+} // namespace
+
+TemporaryFolder::TemporaryFolder()
+    : TemporaryFolder(systemsTemporaryFolder()) {}
+
+TemporaryFolder::TemporaryFolder(QString parent)
+    : m_parent(std::move(parent)) {}
+
+TemporaryFolder::~TemporaryFolder() {
+    if (m_part) {
+        std::error_code failure;
+        std::filesystem::remove_all(m_part->path(), failure);
+        ::close(m_fd);
+    }
+}
+
+QString TemporaryFolder::path() {
+    // A long life outlasts those who clean the system's temporary folder.
+    if (m_part && isRemoved(m_fd)) {
+        ::close(m_fd);
+        m_part.reset();
+    }
+    if (!m_part) {
+        removeAbandonedParts(m_parent);
+        const std::string parent = QFile::encodeName(m_parent).toStdString();
+        int attempts = 16;
+        while (attempts > 0 && !make(partPath(parent, "folder"))) {
+            --attempts;
+        }
+    }
+    return m_part ? QFile::decodeName(m_part->path().c_str()) : m_parent;
+}
+
+bool TemporaryFolder::make(const std::string &path) {
+    auto part = std::make_unique<PartFile>(path);
+    if (::mkdir(path.c_str(), S_IRWXU) != 0) {
+        return false;
+    }
+    const int fd = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    if (fd >= 0 && lockPart(fd) && !isRemoved(fd)) {
+        m_fd = fd;
+        m_part = std::move(part);
+        return true;
+    }
+    if (fd < 0) {
+        ::rmdir(path.c_str());
+    } else {
+        ::close(fd); // Another process took it for abandoned before it was locked.
+    }
+    return false;
+}
+
+} // namespace folioforge

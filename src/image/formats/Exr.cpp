@@ -1,0 +1,219 @@
+#include "image/formats/Exr.h"
+
+#include "error/Error.h"
+#include "image/Raster.h"
+#include "image/formats/LinearLight.h"
+
+#include <ImfChannelList.h>
+#include <ImfFrameBuffer.h>
+#include <ImfHeader.h>
+#include <ImfIO.h>
+#include <ImfInputFile.h>
+#include <ImfRgbaFile.h>
+#include <ImfStandardAttributes.h>
+
+#include <QtEndian>
+
+#include <cstring>
+#include <stdexcept>
+
+namespace folioforge {
+
+namespace {
+
+/// A view as OpenEXR reads files. What it throws passes through OpenEXR, which is C++.
+class ExrStream : public Imf::IStream {
+  public:
+    explicit ExrStream(const FileView &file)
+        : Imf::IStream("image")
+        , m_file(file) {}
+
+    bool read(char target[], int size) override {
+        const qint64 got = m_file.readInto(
+            m_at, {reinterpret_cast<uchar *>(target), static_cast<size_t>(std::max(size, 0))});
+        if (got != size) {
+            throw Error(QStringLiteral("The file ends too early"));
+        }
+        m_at += got;
+        return m_at < m_file.size();
+    }
+    uint64_t tellg() override { return static_cast<uint64_t>(m_at); }
+    void seekg(uint64_t at) override { m_at = static_cast<qint64>(at); }
+
+  private:
+    FileView m_file;
+    qint64 m_at = 0;
+};
+
+/// Runs `work`, the exceptions of OpenEXR becoming Error.
+template<typename Work> auto reading(const Work &work) {
+    try {
+        return work();
+    } catch (const Error &) {
+        throw;
+    } catch (const std::bad_alloc &) {
+        throw;
+    } catch (const std::exception &failure) {
+        throw Error(QStringLiteral("The EXR file cannot be read: %1")
+                        .arg(QString::fromUtf8(failure.what()).simplified()));
+    }
+}
+
+ImageHeader headerOf(const Imf::Header &exr) {
+    const Imath::Box2i window = exr.dataWindow();
+    ImageHeader header;
+    const auto extent = [](int least, int most) {
+        return static_cast<int>(std::min<qint64>(qint64(most) - least + 1, 0x7FFFFFFF));
+    };
+    header.width = extent(window.min.x, window.max.x);
+    header.height = extent(window.min.y, window.max.y);
+    header.horizontalDpi = 0;
+    header.verticalDpi = 0;
+    if (Imf::hasXDensity(exr)) {
+        header.horizontalDpi = double(Imf::xDensity(exr));
+        // Tall pixels lie closer together along a row than the rows do to each other.
+        header.verticalDpi = header.horizontalDpi * double(exr.pixelAspectRatio());
+    }
+    return header;
+}
+
+ImageHeader readHeader(const FileView &file) {
+    return reading([&] {
+        ExrStream stream(file);
+        const Imf::InputFile input(stream);
+        return headerOf(input.header());
+    });
+}
+
+/// Rows of floating-point samples, interleaved: grey or three colours, then opacity.
+struct LightRows {
+    std::vector<float> samples;
+    int channels = 0;
+};
+
+constexpr int kRowsAtOnce = 64;
+
+/// Light becomes samples of sRGB, the opacity that multiplies it in the file taken out first.
+void storeRows(const LightRows &light, int first, int count, Raster &raster) {
+    const int colors = channelCount(raster.color);
+    auto *color = reinterpret_cast<uchar *>(raster.samples.data()) + first * raster.stride();
+    auto *alpha = raster.alpha ? reinterpret_cast<uchar *>(raster.alpha->samples.data()) +
+                                     2 * qsizetype(first) * raster.width
+                               : nullptr;
+    const float *source = light.samples.data();
+    for (qsizetype i = 0; i < qsizetype(count) * raster.width; ++i, source += light.channels) {
+        const float opacity = alpha != nullptr ? source[colors] : 1.0F;
+        const float scale = opacity > 0 && opacity < 1 ? 1 / opacity : 1.0F;
+        for (int c = 0; c < colors; ++c, color += 2) {
+            qToBigEndian(srgbFromLinear(source[c] * scale), color);
+        }
+        if (alpha != nullptr) {
+            qToBigEndian(sampleFromShare(opacity), alpha);
+            alpha += 2;
+        }
+    }
+}
+
+Imf::Slice sliceOf(LightRows &light, int channel, const Imath::Box2i &window, int firstRow) {
+    const size_t pixel = sizeof(float) * static_cast<size_t>(light.channels);
+    const size_t row = pixel * static_cast<size_t>(window.max.x - window.min.x + 1);
+    // OpenEXR counts from the origin of its coordinates, wherever the window lies.
+    char *base = reinterpret_cast<char *>(light.samples.data() + channel) -
+                 window.min.x * static_cast<ptrdiff_t>(pixel) -
+                 firstRow * static_cast<ptrdiff_t>(row);
+    return {Imf::FLOAT, base, pixel, row, 1, 1, channel == light.channels - 1 ? 1.0 : 0.0};
+}
+
+void readPlainChannels(Imf::InputFile &input, const std::vector<const char *> &names,
+                       Raster &raster) {
+    const Imath::Box2i window = input.header().dataWindow();
+    LightRows light;
+    light.channels = static_cast<int>(names.size());
+    light.samples.resize(static_cast<size_t>(raster.width) * names.size() * kRowsAtOnce);
+    for (int first = 0; first < raster.height; first += kRowsAtOnce) {
+        const int count = std::min(kRowsAtOnce, raster.height - first);
+        Imf::FrameBuffer buffer;
+        for (int c = 0; c < light.channels; ++c) {
+            buffer.insert(names[static_cast<size_t>(c)],
+                          sliceOf(light, c, window, window.min.y + first));
+        }
+        input.setFrameBuffer(buffer);
+        input.readPixels(window.min.y + first, window.min.y + first + count - 1);
+        storeRows(light, first, count, raster);
+    }
+}
+
+/// Luminance with chroma at half the resolution, which only OpenEXR's own interface puts together.
+void readLuminanceChroma(const FileView &file, Raster &raster) {
+    ExrStream stream(file);
+    Imf::RgbaInputFile input(stream);
+    const Imath::Box2i window = input.dataWindow();
+    std::vector<Imf::Rgba> row(static_cast<size_t>(raster.width));
+    LightRows light;
+    light.channels = raster.alpha ? 4 : 3;
+    light.samples.resize(row.size() * static_cast<size_t>(light.channels));
+    for (int y = 0; y < raster.height; ++y) {
+        input.setFrameBuffer(row.data() - window.min.x, 1, 0); // Every row into the same place.
+        input.readPixels(window.min.y + y);
+        float *target = light.samples.data();
+        for (const Imf::Rgba &pixel : row) {
+            *target++ = pixel.r;
+            *target++ = pixel.g;
+            *target++ = pixel.b;
+            if (raster.alpha) {
+                *target++ = pixel.a;
+            }
+        }
+        storeRows(light, y, 1, raster);
+    }
+}
+
+Raster readPixels(const FileView &file) {
+    ExrStream stream(file);
+    Imf::InputFile input(stream);
+    const ImageHeader header = headerOf(input.header());
+    const Imf::ChannelList &channels = input.header().channels();
+    const auto has = [&](const char *name) { return channels.findChannel(name) != nullptr; };
+    const bool isChroma = has("RY") && has("BY");
+    const bool isColor = isChroma || has("R") || has("G") || has("B");
+    if (!isColor && !has("Y")) {
+        throw Error(QStringLiteral("The EXR file has no channels of colour or brightness"));
+    }
+    Raster raster;
+    raster.width = header.width;
+    raster.height = header.height;
+    raster.bits = 16;
+    raster.color = isColor ? ImageColor::Rgb : ImageColor::Gray;
+    // A block of flat colour shrinks to a few hundredths of a percent.
+    requirePlausible(qint64(raster.height) * raster.stride(), file.size(), 4000);
+    raster.samples = allocateRows(raster.height, raster.stride());
+    if (has("A")) {
+        raster.alpha = AlphaPlane{16, allocateRows(raster.height, rowBytes(raster.width, 1, 16))};
+    }
+    if (isChroma) {
+        readLuminanceChroma(file, raster);
+        return raster;
+    }
+    std::vector<const char *> names = isColor ? std::vector{"R", "G", "B"} : std::vector{"Y"};
+    if (raster.alpha) {
+        names.push_back("A");
+    }
+    readPlainChannels(input, names, raster);
+    return raster;
+}
+
+bool recognises(QByteArrayView head) {
+    return head.startsWith("\x76\x2F\x31\x01");
+}
+
+EncodedImage encode(const FileView &file) {
+    return encodeRaster(reading([&] { return readPixels(file); }));
+}
+
+} // namespace
+
+Decoder exrDecoder() {
+    return {ImageFormat::Exr, {QLatin1StringView("exr")}, recognises, readHeader, encode};
+}
+
+} // namespace folioforge

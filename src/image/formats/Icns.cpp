@@ -1,0 +1,105 @@
+#include "image/formats/Icns.h"
+
+#include "image/Bytes.h"
+#include "image/formats/IcnsPixels.h"
+#include "image/formats/Jpeg2000.h"
+#include "image/formats/Png.h"
+
+#include <optional>
+#include <tuple>
+
+namespace folioforge {
+
+namespace {
+
+/// An entry that can be shown: a PNG or JPEG 2000 file with its decoder, or a classic icon.
+struct Candidate {
+    ImageHeader header;
+    int bits = 0;
+    FileView content;
+    std::optional<Decoder> decoder;
+    std::optional<ClassicIcon> classic;
+
+    /// Larger is better, then deeper.
+    [[nodiscard]] std::tuple<qint64, int> rank() const {
+        return {qint64(header.width) * header.height, bits};
+    }
+};
+
+std::vector<IcnsEntry> entriesOf(const FileView &file) {
+    constexpr qint64 kLead = 8;
+    constexpr size_t kMostEntries = 1000; // There are about 40 types.
+    std::vector<IcnsEntry> entries;
+    for (qint64 at = kLead; at + kLead <= file.size() && entries.size() < kMostEntries;) {
+        const QByteArray lead = file.readExactly(at, kLead);
+        const qint64 length = bigEndianAt<quint32>(lead, 4);
+        if (length < kLead || length > file.size() - at) {
+            break; // What came before a damaged entry can still be shown.
+        }
+        entries.push_back({lead.first(4), file.part(at + kLead, length - kLead)});
+        at += length;
+    }
+    return entries;
+}
+
+std::optional<Candidate> candidateOf(const IcnsEntry &entry) {
+    const QByteArray head = entry.content.read(0, kSniffedBytes);
+    for (const Decoder &decoder : {pngDecoder(), jpeg2000Decoder()}) {
+        if (decoder.recognises(head)) {
+            constexpr int kDeeperThanClassic = 64;
+            return Candidate{decoder.readHeader(entry.content), kDeeperThanClassic, entry.content,
+                             decoder, std::nullopt};
+        }
+    }
+    const auto classic = classicIconOf(entry.type);
+    if (!classic) {
+        return std::nullopt;
+    }
+    Candidate candidate{{}, classic->bits, entry.content, std::nullopt, classic};
+    candidate.header.width = classic->width;
+    candidate.header.height = classic->height;
+    return candidate;
+}
+
+Candidate largestOf(const std::vector<IcnsEntry> &entries) {
+    std::optional<Candidate> largest;
+    for (const IcnsEntry &entry : entries) {
+        try {
+            const auto candidate = candidateOf(entry);
+            if (candidate && (!largest || candidate->rank() > largest->rank())) {
+                largest = candidate;
+            }
+        } catch (const Error &) {
+            // A damaged entry leaves the others.
+        }
+    }
+    if (!largest) {
+        throw Error(QStringLiteral("The icon file holds no picture that can be read"));
+    }
+    return *largest;
+}
+
+bool recognises(QByteArrayView head) {
+    return head.startsWith("icns");
+}
+
+ImageHeader readHeader(const FileView &file) {
+    return largestOf(entriesOf(file)).header;
+}
+
+EncodedImage encode(const FileView &file) {
+    const std::vector<IcnsEntry> entries = entriesOf(file);
+    const Candidate largest = largestOf(entries);
+    if (largest.decoder) {
+        return largest.decoder->encode(largest.content);
+    }
+    return encodeRaster(decodeClassicIcon(*largest.classic, largest.content, entries));
+}
+
+} // namespace
+
+Decoder icnsDecoder() {
+    return {ImageFormat::Icns, {QLatin1StringView("icns")}, recognises, readHeader, encode};
+}
+
+} // namespace folioforge

@@ -1,0 +1,96 @@
+#include "image/formats/Jpeg2000.h"
+
+#include "image/Bytes.h"
+#include "image/IccProfile.h"
+#include "image/formats/Jpeg2000Facts.h"
+#include "image/formats/Jpeg2000Pixels.h"
+
+#include <QtEndian>
+
+namespace folioforge {
+
+namespace {
+
+constexpr QByteArrayView kFileSignature("\0\0\0\x0CjP  \r\n\x87\n", 12);
+constexpr QByteArrayView kCodestreamSignature("\xFF\x4F\xFF\x51", 4);
+
+void append(QByteArray &bytes, quint32 number) {
+    const quint32 big = qToBigEndian(number);
+    bytes.append(reinterpret_cast<const char *>(&big), sizeof big);
+}
+
+QByteArray box(const char *type, const QByteArray &content) {
+    QByteArray bytes;
+    append(bytes, static_cast<quint32>(content.size() + 8));
+    return bytes + type + content;
+}
+
+/// The boxes that make a JP2 file of a bare codestream, which a PDF may not hold (ISO 32000-1,
+/// 7.4.9).
+QByteArray fileHeaderFor(const Jpeg2000Facts &facts, qint64 codestreamBytes) {
+    constexpr quint32 kSrgb = 16;
+    constexpr quint32 kGray = 17;
+    QByteArray imageHeader;
+    append(imageHeader, static_cast<quint32>(facts.header.height));
+    append(imageHeader, static_cast<quint32>(facts.header.width));
+    imageHeader.append('\0').append(static_cast<char>(facts.components));
+    imageHeader.append(static_cast<char>(facts.bitsField));
+    imageHeader.append("\x07\0\0", 3);
+    QByteArray color("\x01\0\0", 3);
+    append(color, facts.components == 1 ? kGray : kSrgb);
+    QByteArray bytes = kFileSignature.toByteArray();
+    bytes += box("ftyp", QByteArray("jp2 \0\0\0\0jp2 ", 12));
+    bytes += box("jp2h", box("ihdr", imageHeader) + box("colr", color));
+    append(bytes, static_cast<quint32>(codestreamBytes + 8));
+    return bytes + "jp2c";
+}
+
+ImageColor colorOf(int channels) {
+    return channels == 1 ? ImageColor::Gray : channels == 3 ? ImageColor::Rgb : ImageColor::Cmyk;
+}
+
+/// A profile of the file is named in the PDF too, because viewers look for it there; without one
+/// they take the colour space from the image's own boxes.
+void describeColor(const Jpeg2000Facts &facts, EncodedImage &image) {
+    image.color = ImageColor::FromJpx;
+    const QByteArray profile = fittingProfile(facts.iccProfile, colorOf(facts.components));
+    if (!profile.isEmpty() && !facts.hasPalette) {
+        image.color = colorOf(facts.components);
+        image.iccProfile = profile;
+    }
+}
+
+bool recognises(QByteArrayView head) {
+    return head.startsWith(kFileSignature) || head.startsWith(kCodestreamSignature);
+}
+
+ImageHeader readHeader(const FileView &file) {
+    return readJpeg2000Facts(file).header;
+}
+
+EncodedImage encode(const FileView &file) {
+    const Jpeg2000Facts facts = readJpeg2000Facts(file);
+    if (facts.needsDecoding()) {
+        return encodeRaster(decodeJpeg2000(file, facts));
+    }
+    EncodedImage image;
+    image.width = facts.header.width;
+    image.height = facts.header.height;
+    image.filter = ImageFilter::Jpx;
+    image.embeddedAs = EmbeddedAs::OwnBytes;
+    describeColor(facts, image);
+    if (facts.isCodestream) {
+        image.data = fileHeaderFor(facts, file.size()) + file.readExactly(0, file.size());
+    } else {
+        image.slices = {{file.offset(), file.size()}};
+    }
+    return image;
+}
+
+} // namespace
+
+Decoder jpeg2000Decoder() {
+    return {ImageFormat::Jpeg2000, {QLatin1StringView("jp2")}, recognises, readHeader, encode};
+}
+
+} // namespace folioforge

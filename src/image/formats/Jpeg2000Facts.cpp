@@ -1,0 +1,182 @@
+#include "image/formats/Jpeg2000Facts.h"
+
+#include "image/Bytes.h"
+#include "image/Exif.h"
+#include "image/IccProfile.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace folioforge {
+
+namespace {
+
+constexpr double kMetresPerInch = 0.0254;
+constexpr quint32 kMostPixels = 0x7FFFFFFF;
+
+struct Box {
+    QByteArray type;
+    FileView content;
+    qint64 next; ///< Where the box after it begins.
+};
+
+Box boxAt(const FileView &file, qint64 at) {
+    const QByteArray lead = file.readExactly(at, 8);
+    qint64 length = bigEndianAt<quint32>(lead, 0);
+    qint64 header = 8;
+    if (length == 1) {
+        header = 16;
+        length = static_cast<qint64>(
+            std::min<quint64>(bigEndianAt<quint64>(file.readExactly(at + 8, 8), 0),
+                              std::numeric_limits<qint64>::max() / 2));
+    } else if (length == 0) {
+        length = file.size() - at; // The last box may leave its length to the file.
+    }
+    if (length < header) {
+        throw Error(QStringLiteral("The JPEG 2000 file is damaged"));
+    }
+    // A codestream that was cut short still shows what is there.
+    length = std::min(length, file.size() - at);
+    return {lead.sliced(4), file.part(at + header, std::max<qint64>(length - header, 0)),
+            at + length};
+}
+
+void readImageHeaderBox(const FileView &content, Jpeg2000Facts &facts) {
+    const QByteArray bytes = content.readExactly(0, 14);
+    facts.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 0), kMostPixels));
+    facts.header.width = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 4), kMostPixels));
+    facts.components = bigEndianAt<quint16>(bytes, 8);
+    facts.bitsField = bigEndianAt<uchar>(bytes, 10);
+}
+
+void readColorBox(const FileView &content, Jpeg2000Facts &facts) {
+    const QByteArray bytes = content.readExactly(0, content.size());
+    const auto method = bigEndianAt<uchar>(bytes, 0);
+    if (method == 1 && facts.enumeratedColor == 0) {
+        constexpr quint32 kYcc = 18;
+        const auto color = bigEndianAt<quint32>(bytes, 3);
+        facts.enumeratedColor = static_cast<int>(std::min(color, kMostPixels));
+        facts.isYcc = color == kYcc;
+    } else if (method == 2 || method == 3) {
+        facts.iccProfile = bytes.mid(3);
+    }
+}
+
+void readChannelBox(const FileView &content, Jpeg2000Facts &facts) {
+    const QByteArray bytes = content.readExactly(0, content.size());
+    const int count = bigEndianAt<quint16>(bytes, 0);
+    int colors = 0;
+    for (int i = 0; i < count; ++i) {
+        const auto type = bigEndianAt<quint16>(bytes, 2 + 6 * i + 2);
+        const auto color = bigEndianAt<quint16>(bytes, 2 + 6 * i + 4);
+        colors += type == 0 && color > 0 && color < count ? 1 : 0;
+        if ((type == 1 || type == 2) && facts.alphaChannel < 0) {
+            facts.alphaChannel = bigEndianAt<quint16>(bytes, 2 + 6 * i);
+            facts.isPremultiplied = type == 2;
+        }
+    }
+    if (facts.alphaChannel >= 0 && colors == count - 1) {
+        facts.alphaChannel = colors; // The decoder brings the colours to the front.
+    }
+}
+
+/// A resolution box: numerators, denominators and powers of ten of pixels a metre.
+void readResolutionBox(const FileView &content, Jpeg2000Facts &facts) {
+    const QByteArray bytes = content.readExactly(0, 10);
+    const auto dpi = [&](int fraction, int exponent) {
+        const auto denominator = bigEndianAt<quint16>(bytes, fraction + 2);
+        return denominator == 0
+                   ? 0.0
+                   : bigEndianAt<quint16>(bytes, fraction) / double(denominator) *
+                         std::pow(10.0, bigEndianAt<qint8>(bytes, exponent)) * kMetresPerInch;
+    };
+    facts.header.verticalDpi = dpi(0, 8);
+    facts.header.horizontalDpi = dpi(4, 9);
+}
+
+void readExifBox(const FileView &content, Jpeg2000Facts &facts) {
+    constexpr qint64 kMostExifBytes = 1 << 20;
+    if (content.read(0, 16) == "JpgTiffExif->JP2") {
+        facts.header.orientation = readExif(content.read(16, kMostExifBytes)).orientation;
+    }
+}
+
+void readBoxes(const FileView &file, int depth, Jpeg2000Facts &facts);
+
+void readBox(const Box &box, int depth, Jpeg2000Facts &facts) {
+    if (box.type == "jp2h" || box.type == "res ") {
+        readBoxes(box.content, depth + 1, facts);
+    } else if (box.type == "ihdr") {
+        readImageHeaderBox(box.content, facts);
+    } else if (box.type == "colr") {
+        readColorBox(box.content, facts);
+    } else if (box.type == "cdef") {
+        readChannelBox(box.content, facts);
+    } else if (box.type == "pclr") {
+        facts.hasPalette = true;
+    } else if (box.type == "resd" || (box.type == "resc" && facts.header.horizontalDpi == 0)) {
+        readResolutionBox(box.content, facts); // How it is meant to be shown counts more.
+    } else if (box.type == "uuid") {
+        readExifBox(box.content, facts);
+    }
+}
+
+void readBoxes(const FileView &file, int depth, Jpeg2000Facts &facts) {
+    constexpr int kDeepest = 2; // Boxes in boxes without end would exhaust the stack.
+    if (depth > kDeepest) {
+        return;
+    }
+    for (qint64 at = 0; at + 8 <= file.size();) {
+        const Box box = boxAt(file, at);
+        readBox(box, depth, facts);
+        at = box.next;
+    }
+}
+
+/// The size marker, which is the first after the start of a codestream.
+void readSizeMarker(const FileView &file, Jpeg2000Facts &facts) {
+    constexpr qint64 kMarkerBytes = 42;
+    const QByteArray bytes = file.readExactly(0, kMarkerBytes + 1);
+    const auto extent = [&](int end, int start) {
+        const qint64 size =
+            qint64(bigEndianAt<quint32>(bytes, end)) - qint64(bigEndianAt<quint32>(bytes, start));
+        return static_cast<int>(std::clamp<qint64>(size, 0, kMostPixels));
+    };
+    facts.isCodestream = true;
+    facts.header.width = extent(8, 16);
+    facts.header.height = extent(12, 20);
+    facts.components = bigEndianAt<quint16>(bytes, 40);
+    facts.bitsField = bigEndianAt<uchar>(bytes, 42);
+    if (facts.components == 2 || facts.components == 4) {
+        facts.alphaChannel = facts.components - 1;
+    }
+}
+
+} // namespace
+
+int Jpeg2000Facts::mostColors() const {
+    constexpr int kCmyk = 12;
+    const bool hasInkProfile = !fittingProfile(iccProfile, ImageColor::Cmyk).isEmpty();
+    return enumeratedColor == kCmyk || (enumeratedColor == 0 && hasInkProfile) ? 4 : 3;
+}
+
+bool Jpeg2000Facts::needsDecoding() const {
+    return alphaChannel >= 0 || components == 2 || components > mostColors();
+}
+
+Jpeg2000Facts readJpeg2000Facts(const FileView &file) {
+    Jpeg2000Facts facts;
+    facts.header.horizontalDpi = 0;
+    facts.header.verticalDpi = 0;
+    if (file.read(0, 2) == "\xFF\x4F") {
+        readSizeMarker(file, facts);
+    } else {
+        readBoxes(file, 0, facts);
+    }
+    if (facts.components == 0) {
+        throw Error(QStringLiteral("The JPEG 2000 file holds no picture"));
+    }
+    return facts;
+}
+
+} // namespace folioforge

@@ -1,0 +1,186 @@
+#include "image/formats/Jpeg2000Pixels.h"
+
+#include "error/Error.h"
+#include "image/Parallel.h"
+#include "image/formats/OpenJpeg.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cmath>
+
+namespace folioforge {
+
+namespace {
+
+OpenJpegCodec openCodec(const Jpeg2000Facts &facts) {
+    OpenJpegCodec codec = openJpegCodec(facts.isCodestream);
+    const qint64 bytes = qint64(facts.header.width) * facts.header.height * facts.components;
+    if (bytes >= kWorthAThread && opj_has_thread_support() == OPJ_TRUE) {
+        opj_codec_set_threads(codec.get(), std::min(opj_get_num_cpus(), 8));
+    }
+    return codec;
+}
+
+OpenJpegImage decode(const FileView &file, const Jpeg2000Facts &facts) {
+    const Error damaged(QStringLiteral("The JPEG 2000 file is damaged"));
+    OpenJpegSource source{
+        [&file](qint64 at, std::span<uchar> target) { return file.readInto(at, target); },
+        file.size()};
+    const OpenJpegStream stream = openJpegStream(source);
+    const OpenJpegCodec codec = openCodec(facts);
+    opj_image_t *raw = nullptr;
+    const bool headerRead = opj_read_header(stream.get(), codec.get(), &raw) == OPJ_TRUE;
+    OpenJpegImage image(raw);
+    // The codestream may claim another size than the box that was checked.
+    if (!headerRead || image->x1 - image->x0 != static_cast<OPJ_UINT32>(facts.header.width) ||
+        image->y1 - image->y0 != static_cast<OPJ_UINT32>(facts.header.height)) {
+        throw damaged;
+    }
+    if (opj_decode(codec.get(), stream.get(), image.get()) != OPJ_TRUE) {
+        throw damaged;
+    }
+    for (OPJ_UINT32 c = 0; c < image->numcomps; ++c) {
+        if (image->comps[c].data == nullptr || image->comps[c].w == 0 || image->comps[c].h == 0) {
+            throw damaged;
+        }
+    }
+    return image;
+}
+
+/// A decoded component as samples of 8 or 16 bits.
+class Component {
+  public:
+    Component(const opj_image_comp_t &component, int bits, int width, int height)
+        : m_component(component)
+        , m_offset(component.sgnd != 0 ? 1LL << (component.prec - 1) : 0)
+        , m_most((1LL << component.prec) - 1)
+        , m_scale((1LL << bits) - 1)
+        , m_width(width)
+        , m_height(height) {}
+
+    /// The sample at a pixel of the whole image; a smaller component is stretched.
+    [[nodiscard]] int at(int x, int y) const {
+        const auto column = qint64(x) * m_component.w / m_width;
+        const auto row = qint64(y) * m_component.h / m_height;
+        const qint64 value = std::clamp<qint64>(
+            m_component.data[row * m_component.w + column] + m_offset, 0, m_most);
+        return static_cast<int>((value * m_scale + m_most / 2) / m_most);
+    }
+
+  private:
+    const opj_image_comp_t &m_component;
+    qint64 m_offset;
+    qint64 m_most;
+    qint64 m_scale;
+    int m_width;
+    int m_height;
+};
+
+void store(QByteArray &samples, qsizetype index, int value, int bits) {
+    auto *bytes = reinterpret_cast<uchar *>(samples.data());
+    if (bits == 16) {
+        qToBigEndian(static_cast<quint16>(value), bytes + 2 * index);
+    } else {
+        bytes[index] = static_cast<uchar>(value);
+    }
+}
+
+/// sYCC (IEC 61966-2-1, annex F) to RGB.
+void convertFromYcc(std::array<int, 4> &pixel, int most) {
+    const int middle = (most + 1) / 2;
+    const double y = pixel[0];
+    const double cb = pixel[1] - middle;
+    const double cr = pixel[2] - middle;
+    const auto cut = [most](double v) {
+        return std::clamp(static_cast<int>(std::lround(v)), 0, most);
+    };
+    pixel = {cut(y + 1.402 * cr), cut(y - 0.344136 * cb - 0.714136 * cr), cut(y + 1.772 * cb),
+             pixel[3]};
+}
+
+/// Which components are colour, in order, and how many of them a PDF shows.
+std::vector<int> colorComponents(const opj_image_t &image, const Jpeg2000Facts &facts) {
+    std::vector<int> colors;
+    for (int c = 0; c < static_cast<int>(image.numcomps); ++c) {
+        if (c != facts.alphaChannel) {
+            colors.push_back(c);
+        }
+    }
+    const auto most = static_cast<size_t>(facts.mostColors());
+    colors.resize(colors.size() >= most ? most : 1);
+    return colors;
+}
+
+/// A raster for these components, without its pixels.
+Raster rasterFor(const opj_image_t &image, const Jpeg2000Facts &facts,
+                 const std::vector<int> &colors) {
+    OPJ_UINT32 precision = 0;
+    for (const int c : colors) {
+        precision = std::max(precision, image.comps[c].prec);
+    }
+    Raster raster;
+    raster.width = facts.header.width;
+    raster.height = facts.header.height;
+    raster.bits = precision > 8 ? 16 : 8;
+    raster.color = colors.size() == 1   ? ImageColor::Gray
+                   : colors.size() == 3 ? ImageColor::Rgb
+                                        : ImageColor::Cmyk;
+    raster.iccProfile = facts.iccProfile;
+    raster.samples = allocateRows(raster.height, raster.stride());
+    if (facts.alphaChannel >= 0 && facts.alphaChannel < static_cast<int>(image.numcomps)) {
+        raster.alpha = AlphaPlane{
+            raster.bits, allocateRows(raster.height, rowBytes(raster.width, 1, raster.bits))};
+    }
+    return raster;
+}
+
+/// Fills the pixels from `sources`: the colours, then the opacity where the raster has one.
+void fillPixels(Raster &raster, const std::vector<Component> &sources, bool isYcc) {
+    const size_t count = sources.size() - (raster.alpha ? 1 : 0);
+    qsizetype pixel = 0;
+    for (int y = 0; y < raster.height; ++y) {
+        for (int x = 0; x < raster.width; ++x, ++pixel) {
+            std::array<int, 4> values = {};
+            for (size_t c = 0; c < count; ++c) {
+                values[c] = sources[c].at(x, y);
+            }
+            if (isYcc && count == 3) {
+                convertFromYcc(values, (1 << raster.bits) - 1);
+            }
+            for (size_t c = 0; c < count; ++c) {
+                store(raster.samples, pixel * qsizetype(count) + qsizetype(c), values[c],
+                      raster.bits);
+            }
+            if (raster.alpha) {
+                store(raster.alpha->samples, pixel, sources.back().at(x, y), raster.bits);
+            }
+        }
+    }
+}
+
+} // namespace
+
+Raster decodeJpeg2000(const FileView &file, const Jpeg2000Facts &facts) {
+    // The library holds four bytes for every sample: a short file must not cost gigabytes.
+    const qint64 pixels = qint64(facts.header.width) * facts.header.height;
+    requirePlausible(pixels * facts.components, file.size(), 4000);
+    const OpenJpegImage image = decode(file, facts);
+    std::vector<int> components = colorComponents(*image, facts);
+    Raster raster = rasterFor(*image, facts, components);
+    if (raster.alpha) {
+        components.push_back(facts.alphaChannel);
+    }
+    std::vector<Component> sources;
+    sources.reserve(components.size());
+    for (const int c : components) {
+        sources.emplace_back(image->comps[c], raster.bits, raster.width, raster.height);
+    }
+    fillPixels(raster, sources, facts.isYcc);
+    if (facts.isPremultiplied) {
+        unpremultiply(raster);
+    }
+    return raster;
+}
+
+} // namespace folioforge

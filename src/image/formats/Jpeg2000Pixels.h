@@ -1,0 +1,11 @@
+#pragma once
+
+#include "image/Raster.h"
+#include "image/formats/Jpeg2000Facts.h"
+
+namespace folioforge {
+
+/// Decodes a JPEG 2000 file, its opacity apart from its colour. Throws Error.
+Raster decodeJpeg2000(const FileView &file, const Jpeg2000Facts &facts);
+
+} // namespace folioforge

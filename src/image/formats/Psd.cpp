@@ -1,0 +1,253 @@
+#include "image/formats/Psd.h"
+
+#include "image/Bytes.h"
+#include "image/Raster.h"
+#include "image/formats/LinearLight.h"
+#include "image/formats/PsdFacts.h"
+
+#include <bit>
+#include <cstring>
+
+namespace folioforge {
+
+namespace {
+
+/// Reads the rows of the merged image's planes one after the other.
+class PlaneReader {
+  public:
+    PlaneReader(const FileView &file, const PsdFacts &facts)
+        : m_file(file)
+        , m_facts(facts)
+        , m_rowBytes(rowBytes(facts.header.width, 1, facts.depth))
+        , m_at(facts.pixelsOffset) {
+        const auto compression = bigEndianAt<quint16>(file.readExactly(m_at, 2), 0);
+        m_at += 2;
+        if (compression > 1) {
+            throw Error(QStringLiteral("The Photoshop file's compression is unknown"));
+        }
+        const qint64 rows = qint64(facts.channels) * facts.header.height;
+        m_packed = compression == 1;
+        if (m_packed) {
+            const int width = facts.isBig ? 4 : 2;
+            m_counts = file.readExactly(m_at, rows * width);
+            m_at += m_counts.size();
+        }
+        // PackBits makes 128 bytes of two.
+        requirePlausible(rows * m_rowBytes, file.size() - m_at, m_packed ? 64 : 1);
+    }
+
+    QByteArray nextRow() {
+        if (!m_packed) {
+            QByteArray row = m_file.readExactly(m_at, m_rowBytes);
+            m_at += m_rowBytes;
+            return row;
+        }
+        const qint64 length = m_facts.isBig ? qint64(bigEndianAt<quint32>(m_counts, 4 * m_row))
+                                            : qint64(bigEndianAt<quint16>(m_counts, 2 * m_row));
+        ++m_row;
+        const QByteArray packed = m_file.readExactly(m_at, length);
+        m_at += length;
+        return unpackBits(packed);
+    }
+
+  private:
+    [[nodiscard]] QByteArray unpackBits(QByteArrayView packed) const {
+        QByteArray row;
+        row.reserve(m_rowBytes);
+        for (qsizetype at = 0; at < packed.size() && row.size() < m_rowBytes;) {
+            constexpr int kNothing = 0x80; // Below it bytes as they are, above it one repeated.
+            const int lead = bigEndianAt<uchar>(packed, at++);
+            if (lead < kNothing) {
+                const auto length = std::min<qsizetype>(lead + 1, packed.size() - at);
+                row.append(packed.sliced(at, length));
+                at += length;
+            } else if (lead > kNothing && at < packed.size()) {
+                row.append(257 - lead, packed[at++]);
+            }
+        }
+        row.resize(m_rowBytes, '\0');
+        return row;
+    }
+
+    const FileView &m_file;
+    const PsdFacts &m_facts;
+    qsizetype m_rowBytes;
+    qint64 m_at;
+    qint64 m_row = 0;
+    bool m_packed = false;
+    QByteArray m_counts;
+};
+
+/// Where one plane's samples go in interleaved rows.
+struct PlaneTarget {
+    QByteArray *samples;
+    int channel;
+    int channels;
+    bool isLight; ///< Linear light where the file has 32 bits, not a share such as opacity.
+};
+
+void placeRow(const QByteArray &row, int y, const PsdFacts &facts, const PlaneTarget &target) {
+    const qsizetype width = facts.header.width;
+    const qsizetype bytes = facts.sampleBits() / 8;
+    const qsizetype step = target.channels * bytes;
+    auto *out = reinterpret_cast<uchar *>(target.samples->data()) + y * width * step +
+                target.channel * bytes;
+    const auto *in = reinterpret_cast<const uchar *>(row.constData());
+    for (qsizetype x = 0; x < width; ++x, out += step) {
+        if (facts.depth == 32) {
+            const auto value = std::bit_cast<float>(qFromBigEndian<quint32>(in + 4 * x));
+            qToBigEndian(target.isLight ? srgbFromLinear(value) : sampleFromShare(value), out);
+        } else {
+            std::memcpy(out, in + x * bytes, static_cast<size_t>(bytes));
+        }
+    }
+}
+
+void readPlane(PlaneReader &reader, const PsdFacts &facts, const PlaneTarget &target) {
+    for (int y = 0; y < facts.header.height; ++y) {
+        placeRow(reader.nextRow(), y, facts, target);
+    }
+}
+
+/// The merged image's pixels, with what white would have to be taken from them.
+template<typename Sample> class WhiteMatte {
+  public:
+    explicit WhiteMatte(Raster &raster)
+        : m_color(reinterpret_cast<uchar *>(raster.samples.data()))
+        , m_alpha(reinterpret_cast<const uchar *>(raster.alpha->samples.constData()))
+        , m_samples(qint64(raster.width) * raster.height * channelCount(raster.color))
+        , m_channels(channelCount(raster.color)) {}
+
+    /// Whether every colour could be one laid on white: a pixel of little opacity is then bright.
+    [[nodiscard]] bool isThere() const {
+        constexpr qint64 kRounding = kFull / 100;
+        for (qint64 i = 0; i < m_samples; ++i) {
+            if (ink(i) > opacity(i) + kRounding) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    void remove() {
+        for (qint64 i = 0; i < m_samples; ++i) {
+            if (opacity(i) > 0 && opacity(i) < kFull) {
+                const qint64 straight = std::max<qint64>(kFull - ink(i) * kFull / opacity(i), 0);
+                qToBigEndian(static_cast<Sample>(straight), m_color + i * kBytes);
+            }
+        }
+    }
+
+  private:
+    static constexpr qint64 kFull = std::numeric_limits<Sample>::max();
+    static constexpr qint64 kBytes = sizeof(Sample);
+
+    [[nodiscard]] qint64 ink(qint64 i) const {
+        return kFull - qFromBigEndian<Sample>(m_color + i * kBytes);
+    }
+    [[nodiscard]] qint64 opacity(qint64 i) const {
+        return qFromBigEndian<Sample>(m_alpha + i / m_channels * kBytes);
+    }
+
+    uchar *m_color;
+    const uchar *m_alpha;
+    qint64 m_samples;
+    int m_channels;
+};
+
+/// Photoshop lays the merged image on white before it writes it; taking the white away again
+/// leaves the colour that the soft mask expects. Other programs write the colours as they are.
+template<typename Sample> void removeWhiteMatte(Raster &raster) {
+    WhiteMatte<Sample> matte(raster);
+    if (matte.isThere()) {
+        matte.remove();
+    }
+}
+
+void readSamples(const FileView &file, const PsdFacts &facts, Raster &raster) {
+    PlaneReader reader(file, facts); // Which refuses a short file before there is memory for it.
+    raster.samples = allocateRows(raster.height, raster.stride());
+    if (facts.depth == 1) {
+        for (int y = 0; y < raster.height; ++y) {
+            raster.samples.replace(y * raster.stride(), raster.stride(), reader.nextRow());
+        }
+        return;
+    }
+    const int channels = channelCount(raster.color);
+    const bool isLight = raster.color == ImageColor::Gray || raster.color == ImageColor::Rgb;
+    for (int c = 0; c < channels; ++c) {
+        readPlane(reader, facts, {&raster.samples, c, channels, isLight});
+    }
+    if (facts.alpha != PsdAlpha::None) {
+        raster.alpha = AlphaPlane{
+            raster.bits, allocateRows(raster.height, rowBytes(raster.width, 1, raster.bits))};
+        readPlane(reader, facts, {&raster.alpha->samples, 0, 1, false});
+    }
+}
+
+/// Palettes hold all reds, then all greens, then all blues.
+QByteArray interleavedPalette(const QByteArray &planes) {
+    constexpr qsizetype kColors = 256;
+    if (planes.size() < 3 * kColors) {
+        throw Error(QStringLiteral("The Photoshop file has no palette"));
+    }
+    QByteArray palette;
+    for (qsizetype i = 0; i < kColors; ++i) {
+        for (qsizetype plane = 0; plane < 3; ++plane) {
+            palette.append(planes.at(plane * kColors + i));
+        }
+    }
+    return palette;
+}
+
+void applyTransparentIndex(const PsdFacts &facts, Raster &raster) {
+    if (facts.transparentIndex < 0) {
+        return;
+    }
+    raster.alpha = AlphaPlane{8, raster.samples};
+    for (char &value : raster.alpha->samples) {
+        value = static_cast<uchar>(value) == facts.transparentIndex ? '\0' : '\xFF';
+    }
+}
+
+bool recognises(QByteArrayView head) {
+    return head.startsWith(QByteArrayView("8BPS\0", 5));
+}
+
+ImageHeader readHeader(const FileView &file) {
+    return readPsdFacts(file).header;
+}
+
+EncodedImage encode(const FileView &file) {
+    const PsdFacts facts = readPsdFacts(file);
+    Raster raster;
+    raster.width = facts.header.width;
+    raster.height = facts.header.height;
+    raster.bits = facts.sampleBits();
+    raster.color = facts.color;
+    if (facts.depth != 32) {
+        raster.iccProfile = facts.iccProfile; // Linear light becomes sRGB above.
+    }
+    if (facts.color == ImageColor::Cmyk) {
+        raster.decode = {1, 0, 1, 0, 1, 0, 1, 0}; // Full ink is stored as 0.
+    } else if (facts.depth == 1) {
+        raster.decode = {1, 0}; // 1 is black.
+    } else if (facts.color == ImageColor::Indexed) {
+        raster.palette = interleavedPalette(facts.colorModeData);
+    }
+    readSamples(file, facts, raster);
+    if (facts.alpha == PsdAlpha::OnWhite && facts.color != ImageColor::Cmyk &&
+        facts.color != ImageColor::Lab) {
+        raster.bits == 16 ? removeWhiteMatte<quint16>(raster) : removeWhiteMatte<uchar>(raster);
+    }
+    applyTransparentIndex(facts, raster);
+    return encodeRaster(std::move(raster));
+}
+
+} // namespace
+
+Decoder psdDecoder() {
+    return {ImageFormat::Psd, {QLatin1StringView("psd")}, recognises, readHeader, encode};
+}
+
+} // namespace folioforge

@@ -1,0 +1,151 @@
+#include "image/formats/PsdFacts.h"
+
+#include "image/Bytes.h"
+#include "image/Raster.h"
+
+namespace folioforge {
+
+namespace {
+
+enum ColorMode : quint16 {
+    BitmapMode = 0,
+    GrayMode = 1,
+    IndexedMode = 2,
+    RgbMode = 3,
+    CmykMode = 4,
+    MultichannelMode = 7,
+    DuotoneMode = 8,
+    LabMode = 9,
+};
+
+enum Resource : quint16 {
+    ResolutionInfo = 1005,
+    AlphaNames = 1006,
+    IccProfile = 1039,
+    UnicodeAlphaNames = 1045,
+    TransparentIndex = 1047,
+};
+
+constexpr qint64 kHeaderBytes = 26;
+
+ImageColor colorOf(quint16 mode) {
+    switch (mode) {
+    case BitmapMode:
+    case GrayMode:
+    case DuotoneMode: // A duotone's data is grey; its inks are private to Photoshop.
+    case MultichannelMode:
+        return ImageColor::Gray;
+    case IndexedMode:
+        return ImageColor::Indexed;
+    case RgbMode:
+        return ImageColor::Rgb;
+    case CmykMode:
+        return ImageColor::Cmyk;
+    case LabMode:
+        return ImageColor::Lab;
+    default:
+        throw Error(QStringLiteral("The Photoshop file's colour mode is unknown"));
+    }
+}
+
+void readFileHeader(QByteArrayView head, PsdFacts &facts) {
+    constexpr quint32 kMost = 0x7FFFFFFF;
+    facts.isBig = bigEndianAt<quint16>(head, 4) == 2;
+    facts.channels = bigEndianAt<quint16>(head, 12);
+    facts.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(head, 14), kMost));
+    facts.header.width = static_cast<int>(std::min(bigEndianAt<quint32>(head, 18), kMost));
+    facts.depth = bigEndianAt<quint16>(head, 22);
+    const auto mode = bigEndianAt<quint16>(head, 24);
+    facts.color = colorOf(mode);
+    const bool knownDepth = mode == BitmapMode ? facts.depth == 1
+                            : mode == IndexedMode
+                                ? facts.depth == 8
+                                : facts.depth == 8 || facts.depth == 16 || facts.depth == 32;
+    constexpr int kMostChannels = 56;
+    if (!knownDepth || facts.channels < channelCount(facts.color) ||
+        facts.channels > kMostChannels) {
+        throw Error(QStringLiteral("The Photoshop file is damaged"));
+    }
+}
+
+void readResource(quint16 id, QByteArrayView data, PsdFacts &facts, bool &namesChannels) {
+    constexpr double kFixedOne = 65536; // 16.16 fixed point, always per inch.
+    if (id == ResolutionInfo && data.size() >= 16) {
+        facts.header.horizontalDpi = bigEndianAt<quint32>(data, 0) / kFixedOne;
+        facts.header.verticalDpi = bigEndianAt<quint32>(data, 8) / kFixedOne;
+    } else if (id == IccProfile) {
+        facts.iccProfile = data.toByteArray();
+    } else if (id == TransparentIndex && data.size() >= 2) {
+        facts.transparentIndex = bigEndianAt<quint16>(data, 0);
+    } else if (id == AlphaNames || id == UnicodeAlphaNames) {
+        namesChannels = namesChannels || !data.isEmpty();
+    }
+}
+
+/// Whether the resources name channels of their own, which then are no opacity.
+bool readResources(QByteArrayView resources, PsdFacts &facts) {
+    bool namesChannels = false;
+    const auto even = [](qsizetype length) { return length + length % 2; };
+    constexpr qsizetype kLeastBytes = 12;
+    for (qsizetype at = 0; at + kLeastBytes <= resources.size();) {
+        const auto id = bigEndianAt<quint16>(resources, at + 4);
+        at += 6 + even(1 + bigEndianAt<uchar>(resources, at + 6));
+        if (at + 4 > resources.size()) {
+            break;
+        }
+        const qsizetype length = bigEndianAt<quint32>(resources, at);
+        at += 4;
+        if (length > resources.size() - at) {
+            break;
+        }
+        readResource(id, resources.sliced(at, length), facts, namesChannels);
+        at += even(length);
+    }
+    return namesChannels;
+}
+
+/// Opacity is the first channel after the colours where the number of layers is negative, or where
+/// a file without layers names no such channel.
+PsdAlpha alphaOf(const FileView &file, qint64 layers, qint64 layersLength, const PsdFacts &facts,
+                 bool namesChannels) {
+    if (facts.channels <= channelCount(facts.color) || facts.depth == 1 ||
+        facts.color == ImageColor::Indexed) {
+        return PsdAlpha::None;
+    }
+    const int lengthBytes = facts.isBig ? 8 : 4;
+    const QByteArray info = file.read(layers, lengthBytes + 2);
+    if (layersLength >= lengthBytes + 2 && info.size() == lengthBytes + 2 &&
+        info.first(lengthBytes).count('\0') < lengthBytes) {
+        const auto count = static_cast<qint16>(bigEndianAt<quint16>(info, lengthBytes));
+        return count < 0 ? PsdAlpha::OnWhite : PsdAlpha::None;
+    }
+    return namesChannels ? PsdAlpha::None : PsdAlpha::Straight;
+}
+
+} // namespace
+
+PsdFacts readPsdFacts(const FileView &file) {
+    PsdFacts facts;
+    facts.header.horizontalDpi = 0;
+    facts.header.verticalDpi = 0;
+    readFileHeader(file.readExactly(0, kHeaderBytes), facts);
+    qint64 at = kHeaderBytes;
+    const auto nextSection = [&] {
+        const QByteArray length = file.readExactly(at, 4);
+        at += 4;
+        const FileView section = file.part(at, bigEndianAt<quint32>(length, 0));
+        at += section.size();
+        return section.read(0, section.size());
+    };
+    facts.colorModeData = nextSection();
+    const bool namesChannels = readResources(nextSection(), facts);
+    const QByteArray length = file.readExactly(at, facts.isBig ? 8 : 4);
+    at += length.size();
+    const qint64 layersLength = facts.isBig ? static_cast<qint64>(bigEndianAt<quint64>(length, 0))
+                                            : qint64(bigEndianAt<quint32>(length, 0));
+    facts.alpha = alphaOf(file, at, layersLength, facts, namesChannels);
+    facts.pixelsOffset = at + file.part(at, layersLength).size();
+    return facts;
+}
+
+} // namespace folioforge

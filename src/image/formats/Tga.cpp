@@ -1,0 +1,227 @@
+#include "image/formats/Tga.h"
+
+#include "image/Bytes.h"
+#include "image/Raster.h"
+
+#include <array>
+
+namespace folioforge {
+
+namespace {
+
+enum ImageType : uchar { Mapped = 1, TrueColor = 2, BlackAndWhite = 3, RunLength = 8 };
+
+constexpr qint64 kHeaderBytes = 18;
+constexpr int kRightToLeft = 0x10;
+constexpr int kTopToBottom = 0x20;
+
+/// The header (Truevision TGA 2.0, field numbers 1 to 5).
+struct TgaFacts {
+    int width = 0;
+    int height = 0;
+    int type = 0; ///< Without the run-length bit.
+    bool runLength = false;
+    int pixelBits = 0;
+    int alphaBits = 0;
+    int descriptor = 0;
+    int mapFirst = 0;
+    int mapLength = 0;
+    int mapEntryBits = 0;
+    qint64 mapOffset = 0;
+    qint64 dataOffset = 0;
+
+    [[nodiscard]] int pixelBytes() const { return (pixelBits + 7) / 8; }
+    [[nodiscard]] int mapEntryBytes() const { return (mapEntryBits + 7) / 8; }
+};
+
+bool isColorDepth(int bits) {
+    return bits == 15 || bits == 16 || bits == 24 || bits == 32;
+}
+
+void requireKnown(const TgaFacts &facts) {
+    const bool known =
+        facts.type == Mapped ? (facts.pixelBits == 8 || facts.pixelBits == 16) &&
+                                   isColorDepth(facts.mapEntryBits) && facts.mapLength > 0
+        : facts.type == TrueColor
+            ? isColorDepth(facts.pixelBits)
+            : facts.type == BlackAndWhite && (facts.pixelBits == 8 || facts.pixelBits == 16);
+    if (!known || facts.width == 0 || facts.height == 0) {
+        throw Error(QStringLiteral("The file is no TGA image that can be read"));
+    }
+}
+
+TgaFacts readFacts(const FileView &file) {
+    const QByteArray head = file.readExactly(0, kHeaderBytes);
+    TgaFacts facts;
+    const auto byteAt = [&](int at) { return int(bigEndianAt<uchar>(head, at)); };
+    facts.type = byteAt(2) & ~RunLength;
+    facts.runLength = (byteAt(2) & RunLength) != 0;
+    facts.mapFirst = littleEndianAt<quint16>(head, 3);
+    facts.mapLength = byteAt(1) == 1 ? littleEndianAt<quint16>(head, 5) : 0;
+    facts.mapEntryBits = byteAt(7);
+    facts.width = littleEndianAt<quint16>(head, 12);
+    facts.height = littleEndianAt<quint16>(head, 14);
+    facts.pixelBits = byteAt(16);
+    facts.descriptor = byteAt(17);
+    facts.alphaBits = facts.descriptor & 0x0F;
+    facts.mapOffset = kHeaderBytes + byteAt(0);
+    facts.dataOffset = facts.mapOffset + qint64(facts.mapLength) * facts.mapEntryBytes();
+    requireKnown(facts);
+    return facts;
+}
+
+/// Run-length packets: a count byte, high bit for one pixel repeated. A packet may run over the end
+/// of a row. Missing pixels at the end of the file are an error.
+QByteArray expandRuns(QByteArrayView packed, qsizetype size, int pixelBytes) {
+    QByteArray out(size, Qt::Uninitialized);
+    qsizetype done = 0;
+    qsizetype at = 0;
+    while (done < size) {
+        const int count = bigEndianAt<uchar>(packed, at++);
+        const qsizetype pixels = (count & 0x7F) + 1;
+        const bool repeated = (count & 0x80) != 0;
+        const qsizetype source = repeated ? pixelBytes : pixels * pixelBytes;
+        if (at + source > packed.size()) {
+            throw Error(QStringLiteral("The file ends too early"));
+        }
+        const qsizetype wanted = std::min(pixels * pixelBytes, size - done);
+        for (qsizetype i = 0; i < wanted; ++i) {
+            out[done + i] = packed[at + (repeated ? i % pixelBytes : i)];
+        }
+        at += source;
+        done += wanted;
+    }
+    return out;
+}
+
+QByteArray readPixels(const FileView &file, const TgaFacts &facts) {
+    const qint64 size = qint64(facts.width) * facts.height * facts.pixelBytes();
+    if (!facts.runLength) {
+        return file.readExactly(facts.dataOffset, size);
+    }
+    // 128 pixels of a run take one byte and a pixel.
+    requirePlausible(size, file.size(), 128);
+    return expandRuns(file.read(facts.dataOffset, file.size()), size, facts.pixelBytes());
+}
+
+using Rgba = std::array<uchar, 4>;
+
+/// A colour as the file stores it: blue, green, red and opacity, or five bits of each.
+Rgba colorAt(const uchar *bytes, int bits, int alphaBits) {
+    if (bits == 15 || bits == 16) {
+        const int value = bytes[0] | (bytes[1] << 8);
+        const auto wide = [](int five) { return static_cast<uchar>((five << 3) | (five >> 2)); };
+        const bool opaque = alphaBits == 0 || bits == 15 || (value & 0x8000) != 0;
+        return {wide((value >> 10) & 31), wide((value >> 5) & 31), wide(value & 31),
+                static_cast<uchar>(opaque ? 0xFF : 0)};
+    }
+    return {bytes[2], bytes[1], bytes[0],
+            bits == 32 && alphaBits > 0 ? bytes[3] : static_cast<uchar>(0xFF)};
+}
+
+std::vector<Rgba> readColorMap(const FileView &file, const TgaFacts &facts) {
+    const int step = facts.mapEntryBytes();
+    const QByteArray bytes = file.readExactly(facts.mapOffset, qint64(facts.mapLength) * step);
+    const auto *entry = reinterpret_cast<const uchar *>(bytes.constData());
+    std::vector<Rgba> map(static_cast<size_t>(facts.mapLength));
+    for (Rgba &color : map) {
+        color = colorAt(entry, facts.mapEntryBits, facts.alphaBits);
+        entry += step;
+    }
+    return map;
+}
+
+/// Where the file's pixel number `index` stands in rows from the top, left to right.
+qint64 placeOf(qint64 index, const TgaFacts &facts) {
+    qint64 y = index / facts.width;
+    qint64 x = index % facts.width;
+    if ((facts.descriptor & kTopToBottom) == 0) {
+        y = facts.height - 1 - y;
+    }
+    if ((facts.descriptor & kRightToLeft) != 0) {
+        x = facts.width - 1 - x;
+    }
+    return y * facts.width + x;
+}
+
+void fillGray(Raster &raster, const QByteArray &pixels, const TgaFacts &facts) {
+    const int step = facts.pixelBytes();
+    auto *gray = reinterpret_cast<uchar *>(raster.samples.data());
+    char *alpha = raster.alpha ? raster.alpha->samples.data() : nullptr;
+    for (qint64 i = 0; i < qint64(facts.width) * facts.height; ++i) {
+        const qint64 place = placeOf(i, facts);
+        gray[place] = static_cast<uchar>(pixels.at(i * step));
+        if (alpha != nullptr) {
+            alpha[place] = pixels.at(i * step + 1);
+        }
+    }
+}
+
+void fillColor(Raster &raster, const QByteArray &pixels, const TgaFacts &facts,
+               const std::vector<Rgba> &map) {
+    const int step = facts.pixelBytes();
+    const auto *source = reinterpret_cast<const uchar *>(pixels.constData());
+    auto *color = reinterpret_cast<uchar *>(raster.samples.data());
+    auto *alpha = reinterpret_cast<uchar *>(raster.alpha->samples.data());
+    for (qint64 i = 0; i < qint64(facts.width) * facts.height; ++i, source += step) {
+        Rgba rgba = {0, 0, 0, 0xFF};
+        if (facts.type == Mapped) {
+            const int index =
+                (step == 1 ? source[0] : source[0] | (source[1] << 8)) - facts.mapFirst;
+            if (index >= 0 && index < int(map.size())) {
+                rgba = map[static_cast<size_t>(index)];
+            }
+        } else {
+            rgba = colorAt(source, facts.pixelBits, facts.alphaBits);
+        }
+        const qint64 place = placeOf(i, facts);
+        std::copy_n(rgba.begin(), 3, color + place * 3);
+        alpha[place] = rgba[3];
+    }
+}
+
+/// Writers that leave the opacity at zero everywhere while claiming to have one mean no picture of
+/// nothing: it counts as opaque.
+void dropEmptyAlpha(Raster &raster) {
+    if (raster.alpha && raster.alpha->samples.count('\0') == raster.alpha->samples.size()) {
+        raster.alpha.reset();
+    }
+}
+
+ImageHeader readHeader(const FileView &file) {
+    const TgaFacts facts = readFacts(file);
+    ImageHeader header;
+    header.width = facts.width;
+    header.height = facts.height;
+    return header; // The format has no density.
+}
+
+EncodedImage encode(const FileView &file) {
+    const TgaFacts facts = readFacts(file);
+    const QByteArray pixels = readPixels(file, facts);
+    Raster raster;
+    raster.width = facts.width;
+    raster.height = facts.height;
+    raster.color = facts.type == BlackAndWhite ? ImageColor::Gray : ImageColor::Rgb;
+    raster.samples = allocateRows(raster.height, raster.stride());
+    if (facts.type != BlackAndWhite || facts.pixelBits == 16) {
+        raster.alpha = AlphaPlane{8, allocateRows(raster.height, raster.width)};
+    }
+    if (facts.type == BlackAndWhite) {
+        fillGray(raster, pixels, facts);
+    } else {
+        fillColor(raster, pixels, facts,
+                  facts.type == Mapped ? readColorMap(file, facts) : std::vector<Rgba>());
+    }
+    dropEmptyAlpha(raster);
+    return encodeRaster(std::move(raster));
+}
+
+} // namespace
+
+Decoder tgaDecoder() {
+    // The signature of version 2 stands at the end of the file, and version 1 has none.
+    return {ImageFormat::Tga, {QLatin1StringView("tga")}, nullptr, readHeader, encode};
+}
+
+} // namespace folioforge

@@ -1,0 +1,96 @@
+#include "image/formats/TiffFile.h"
+
+#include "error/Error.h"
+#include "image/ImageHeader.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace folioforge {
+
+namespace {
+
+struct FreeOptions {
+    void operator()(TIFFOpenOptions *options) const { TIFFOpenOptionsFree(options); }
+};
+
+} // namespace
+
+TiffFile::TiffFile(const FileView &file)
+    : m_state(new State{file, 0, {}}) {
+    const std::unique_ptr<TIFFOpenOptions, FreeOptions> options(TIFFOpenOptionsAlloc());
+    TIFFOpenOptionsSetErrorHandlerExtR(options.get(), keepMessage, m_state.get());
+    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), ignoreMessage, nullptr);
+    constexpr tmsize_t kMostBytesAtOnce = kMaxImagePixels * 8;
+    TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), kMostBytesAtOnce);
+    // m: no mapping, since a file that shrinks while mapped ends the process.
+    m_handle.reset(TIFFClientOpenExt("image", "rm", m_state.get(), read, refuseWrite, seek, close,
+                                     size, nullptr, nullptr, options.get()));
+    if (!m_handle) {
+        fail();
+    }
+}
+
+int TiffFile::number(uint32_t tag, int missing) const {
+    uint16_t value = 0;
+    return TIFFGetFieldDefaulted(handle(), tag, &value) == 1 ? value : missing;
+}
+
+void TiffFile::fail() const {
+    const QString &message = m_state->message;
+    throw Error(message.isEmpty()
+                    ? QStringLiteral("The TIFF file is damaged")
+                    : QStringLiteral("The TIFF file cannot be read: %1").arg(message));
+}
+
+tmsize_t TiffFile::read(thandle_t handle, void *target, tmsize_t size) {
+    auto &state = *static_cast<State *>(handle);
+    try {
+        const qint64 got = state.file.readInto(
+            state.at, {static_cast<uchar *>(target), static_cast<size_t>(size)});
+        state.at += got;
+        return got;
+    } catch (const Error &) {
+        return -1; // No exception may pass through the library.
+    }
+}
+
+tmsize_t TiffFile::refuseWrite(thandle_t /*handle*/, void * /*source*/, tmsize_t /*size*/) {
+    return -1;
+}
+
+toff_t TiffFile::seek(thandle_t handle, toff_t offset, int whence) {
+    auto &state = *static_cast<State *>(handle);
+    const qint64 base = whence == SEEK_END ? state.file.size() : whence == SEEK_CUR ? state.at : 0;
+    state.at = base + static_cast<qint64>(offset);
+    return static_cast<toff_t>(state.at);
+}
+
+int TiffFile::close(thandle_t /*handle*/) {
+    return 0;
+}
+
+toff_t TiffFile::size(thandle_t handle) {
+    return static_cast<toff_t>(static_cast<State *>(handle)->file.size());
+}
+
+int TiffFile::keepMessage(TIFF * /*tif*/, void *data, const char * /*module*/, const char *format,
+                          va_list arguments) {
+    auto &state = *static_cast<State *>(data);
+    if (state.message.isEmpty()) {
+        char text[256];
+        std::vsnprintf(text, sizeof text, format, arguments);
+        state.message = QString::fromUtf8(text).simplified();
+        while (state.message.endsWith(u'.')) {
+            state.message.chop(1);
+        }
+    }
+    return 1;
+}
+
+int TiffFile::ignoreMessage(TIFF * /*tif*/, void * /*data*/, const char * /*module*/,
+                            const char * /*format*/, va_list /*arguments*/) {
+    return 1;
+}
+
+} // namespace folioforge

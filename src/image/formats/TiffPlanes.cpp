@@ -1,0 +1,129 @@
+#include "image/formats/TiffPlanes.h"
+
+#include "image/Parallel.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace folioforge {
+
+namespace {
+
+/// The most that a compression can shrink anything.
+qint64 greatestRatio(int compression) {
+    switch (compression) {
+    case COMPRESSION_NONE:
+        return 1;
+    case COMPRESSION_PACKBITS:
+        return 64;
+    case COMPRESSION_ADOBE_DEFLATE:
+    case COMPRESSION_DEFLATE:
+        return 1040;
+    case COMPRESSION_LZW:
+        return 3000;
+    default: // Fax data may give a whole row for a bit, but has one bit a pixel.
+        return 100'000;
+    }
+}
+
+/// JPEG data comes out as RGB rather than YCbCr; a setting of each handle.
+void chooseJpegColor(const TiffFile &tiff, const TiffShape &shape) {
+    if (shape.compression == COMPRESSION_JPEG && shape.photometric == PHOTOMETRIC_YCBCR) {
+        TIFFSetField(tiff.handle(), TIFFTAG_JPEGCOLORMODE, JPEGCOLORMODE_RGB);
+    }
+}
+
+void readStrips(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlane &target) {
+    uint32_t rowsPerStrip = 0;
+    TIFFGetFieldDefaulted(tiff.handle(), TIFFTAG_ROWSPERSTRIP, &rowsPerStrip);
+    const int step = static_cast<int>(std::clamp<uint32_t>(rowsPerStrip, 1, shape.height));
+    const int strips = (shape.height + step - 1) / step;
+    char *rows = target.rows.data();
+    forEachBand(strips, step * target.stride, [&](int first, int end) {
+        // A handle holds the state of one decoder: each thread has its own.
+        const TiffFile own(tiff.file());
+        chooseJpegColor(own, shape);
+        for (int strip = first; strip < end; ++strip) {
+            const int y = strip * step;
+            const tmsize_t size = std::min(step, shape.height - y) * target.stride;
+            const uint32_t number = TIFFComputeStrip(own.handle(), static_cast<uint32_t>(y),
+                                                     static_cast<uint16_t>(plane));
+            if (TIFFReadEncodedStrip(own.handle(), number, rows + y * target.stride, size) < 0) {
+                own.fail();
+            }
+        }
+    });
+}
+
+void readTiles(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlane &target) {
+    chooseJpegColor(tiff, shape);
+    TIFF *tif = tiff.handle();
+    uint32_t tileWidth = 0;
+    uint32_t tileHeight = 0;
+    TIFFGetField(tif, TIFFTAG_TILEWIDTH, &tileWidth);
+    TIFFGetField(tif, TIFFTAG_TILELENGTH, &tileHeight);
+    const tmsize_t tileRow = TIFFTileRowSize(tif);
+    const tmsize_t tileSize = TIFFTileSize(tif);
+    if (tileWidth == 0 || tileHeight == 0 || tileRow <= 0 || tileSize <= 0 ||
+        tileSize > qint64(kMaxImagePixels) * 8) {
+        tiff.fail();
+    }
+    QByteArray tile = allocateRows(1, tileSize);
+    for (qint64 y = 0; y < shape.height; y += tileHeight) {
+        for (qint64 x = 0; x < shape.width; x += tileWidth) {
+            const uint32_t number =
+                TIFFComputeTile(tif, static_cast<uint32_t>(x), static_cast<uint32_t>(y), 0,
+                                static_cast<uint16_t>(plane));
+            if (TIFFReadEncodedTile(tif, number, tile.data(), tileSize) < 0) {
+                tiff.fail();
+            }
+            const qsizetype left = x / tileWidth * tileRow;
+            const qsizetype bytes = std::min<qsizetype>(tileRow, target.stride - left);
+            const qint64 rows = std::min<qint64>(tileHeight, shape.height - y);
+            for (qint64 row = 0; bytes > 0 && row < rows; ++row) {
+                std::memcpy(target.rows.data() + (y + row) * target.stride + left,
+                            tile.constData() + row * tileRow, static_cast<size_t>(bytes));
+            }
+        }
+    }
+}
+
+} // namespace
+
+void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw) {
+    const bool tiled = TIFFIsTiled(tiff.handle()) != 0;
+    const uint32_t count =
+        tiled ? TIFFNumberOfTiles(tiff.handle()) : TIFFNumberOfStrips(tiff.handle());
+    const qint64 most = tiff.file().size();
+    qint64 compressed = 0;
+    // A file has room for no more strips than it has bytes.
+    for (uint32_t i = 0; i < std::min<qint64>(count, most); ++i) {
+        const auto bytes = TIFFGetStrileByteCount(tiff.handle(), i);
+        compressed += static_cast<qint64>(std::min<quint64>(bytes, static_cast<quint64>(most)));
+    }
+    requirePlausible(raw, compressed, greatestRatio(shape.compression));
+}
+
+std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape) {
+    const bool separate = shape.planar == PLANARCONFIG_SEPARATE;
+    const int planes = separate ? shape.samples : 1;
+    const qsizetype stride = rowBytes(shape.width, separate ? 1 : shape.samples, shape.bits);
+    requireEnoughData(tiff, shape, qint64(planes) * stride * shape.height);
+    chooseJpegColor(tiff, shape);
+    if (TIFFIsTiled(tiff.handle()) == 0 && TIFFScanlineSize(tiff.handle()) != stride) {
+        tiff.fail(); // Subsampled rows have another form, which decodeTiff() keeps from here.
+    }
+    std::vector<TiffPlane> result;
+    for (int plane = 0; plane < planes; ++plane) {
+        TiffPlane target{allocateRows(shape.height, stride), stride};
+        if (TIFFIsTiled(tiff.handle()) != 0) {
+            readTiles(tiff, shape, plane, target);
+        } else {
+            readStrips(tiff, shape, plane, target);
+        }
+        result.push_back(std::move(target));
+    }
+    return result;
+}
+
+} // namespace folioforge

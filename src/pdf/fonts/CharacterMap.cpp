@@ -1,0 +1,95 @@
+#include "pdf/fonts/CharacterMap.h"
+
+#include "pdf/fonts/CodeTable.h"
+#include "text/Glyph.h"
+
+#include <QChar>
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+#include <vector>
+
+namespace folioforge {
+namespace {
+
+std::string hex(std::uint32_t value, int digits) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string text(static_cast<std::size_t>(digits), '0');
+    for (auto digit = text.rbegin(); digit != text.rend(); ++digit) {
+        *digit = kDigits[value & 0xFU];
+        value >>= 4;
+    }
+    return text;
+}
+
+std::string codeText(const CodeTable &table, std::uint16_t code) {
+    const bool twoBytes =
+        table.form() == CodeTable::Form::TwoByte || code > CodeTable::kLastOneByte;
+    return '<' + hex(code, twoBytes ? 4 : 2) + '>';
+}
+
+std::string utf16Text(char32_t character) {
+    if (QChar::requiresSurrogates(character)) {
+        return '<' + hex(QChar::highSurrogate(character), 4) +
+               hex(QChar::lowSurrogate(character), 4) + '>';
+    }
+    return '<' + hex(character, 4) + '>';
+}
+
+std::string head(std::string_view ordering, std::string_view name, int type,
+                 const CodeTable &table) {
+    std::string map = "/CIDInit/ProcSet findresource begin\n12 dict begin\nbegincmap\n"
+                      "/CIDSystemInfo<</Registry(Adobe)/Ordering(";
+    map.append(ordering).append(")/Supplement 0>>def\n/CMapName/").append(name);
+    map.append(" def\n/CMapType ").append(std::to_string(type)).append(" def\n");
+    if (table.form() == CodeTable::Form::TwoByte) {
+        map.append("1 begincodespacerange\n<0000><FFFF>\n");
+    } else if (table.hasTwoByteCodes()) {
+        map.append("2 begincodespacerange\n<00><BF>\n<C000><FFFF>\n");
+    } else {
+        map.append("1 begincodespacerange\n<00><FF>\n");
+    }
+    return map.append("endcodespacerange\n");
+}
+
+constexpr std::string_view kTail =
+    "endcmap\nCMapName currentdict/CMap defineresource pop\nend\nend\n";
+
+} // namespace
+
+std::string encodingMapName(const CodeTable &table) {
+    return table.hasTwoByteCodes() ? "Folioforge-Mixed" : "Folioforge-Bytes";
+}
+
+std::string makeEncodingMap(const CodeTable &table) {
+    std::string map = head("Identity", encodingMapName(table), 1, table);
+    if (table.hasTwoByteCodes()) {
+        map.append("2 begincidrange\n<00><BF> 0\n<C000><FFFF> 49152\nendcidrange\n");
+    } else {
+        map.append("1 begincidrange\n<00><FF> 0\nendcidrange\n");
+    }
+    return map.append(kTail);
+}
+
+std::string makeUnicodeMap(const CodeTable &table) {
+    std::vector<CodeEntry> entries;
+    std::ranges::copy_if(table.entries(), std::back_inserter(entries),
+                         [](const CodeEntry &entry) { return entry.character < kNoCharacter; });
+    std::ranges::sort(entries, {}, &CodeEntry::code);
+    std::string map = head("UCS", "Adobe-Identity-UCS", 2, table);
+    // Single characters, though ranges would be shorter: Ghostscript 10.0 misreads ranges.
+    constexpr std::size_t kMostInASection = 100;
+    for (std::size_t from = 0; from < entries.size(); from += kMostInASection) {
+        const std::size_t to = std::min(from + kMostInASection, entries.size());
+        map.append(std::to_string(to - from)).append(" beginbfchar\n");
+        for (std::size_t i = from; i < to; ++i) {
+            map.append(codeText(table, entries[i].code));
+            map.append(utf16Text(entries[i].character)).append("\n");
+        }
+        map.append("endbfchar\n");
+    }
+    return map.append(kTail);
+}
+
+} // namespace folioforge

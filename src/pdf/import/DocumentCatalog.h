@@ -1,0 +1,47 @@
+#pragma once
+
+#include "pdf/import/FormMerger.h"
+#include "pdf/import/ImportedDocument.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+class QPDF;
+
+namespace folioforge {
+
+/// What a document holds beside its objects, gathered page by page and source by source and
+/// written into its catalog at the end.
+class DocumentCatalog {
+  public:
+    void addPage(const QPDFObjectHandle &page);
+    void addDocument(const ImportedDocument &imported);
+
+    /// Forgets the pages added by addPage() after the first `count`.
+    void keepPages(int count);
+
+    [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
+    /// The highest PDF version of the sources, at least 1.7.
+    [[nodiscard]] const std::string &pdfVersion() const { return m_pdfVersion; }
+
+    /// Writes page tree, bookmarks, form, layers and page labels. Call it once.
+    void finish(QPDF &document);
+
+  private:
+    void addPageLabels(const ImportedDocument &imported);
+    void finishBookmarks(QPDF &document);
+    void finishLayers(QPDF &document) const;
+    void finishPageLabels(QPDF &document) const;
+
+    std::vector<QPDFObjectHandle> m_pages;
+    std::vector<QPDFObjectHandle> m_bookmarks;
+    /// Index of a page, and the label dictionary that holds from it on; null for plain numbers.
+    std::vector<std::pair<long long, QPDFObjectHandle>> m_pageLabels;
+    bool m_hasPageLabels = false;
+    FormMerger m_forms;
+    ImportedLayers m_layers;
+    std::string m_pdfVersion = "1.7";
+};
+
+} // namespace folioforge

@@ -1,0 +1,163 @@
+#include "pdf/import/FormMerger.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <vector>
+
+namespace folioforge {
+
+namespace {
+
+using Renames = std::map<std::string, std::string>;
+
+/// A default appearance, such as "/Helv 12 Tf 0 g", with its names as they are called now.
+std::string renamedAppearance(const std::string &appearance, const Renames &renames) {
+    constexpr std::string_view kDelimiters = " \t\r\n\f()<>[]{}/%";
+    std::string result;
+    std::size_t position = 0;
+    while (position < appearance.size()) {
+        if (appearance[position] != '/') {
+            result += appearance[position++];
+            continue;
+        }
+        const auto end =
+            std::min(appearance.find_first_of(kDelimiters, position + 1), appearance.size());
+        const std::string name = appearance.substr(position, end - position);
+        const auto renamed = renames.find(name);
+        result += renamed == renames.end() ? name : renamed->second;
+        position = end;
+    }
+    return result;
+}
+
+/// Renames in a field and all under it.
+void renameInAppearances(const QPDFObjectHandle &root, const Renames &renames) {
+    std::vector<QPDFObjectHandle> pending{root};
+    std::set<QPDFObjGen> visited;
+    while (!pending.empty()) {
+        auto field = pending.back();
+        pending.pop_back();
+        if (!field.isDictionary() || !visited.insert(field.getObjGen()).second) {
+            continue;
+        }
+        auto appearance = field.getKey("/DA");
+        if (appearance.isString()) {
+            field.replaceKey("/DA", QPDFObjectHandle::newString(
+                                        renamedAppearance(appearance.getStringValue(), renames)));
+        }
+        auto kids = field.getKey("/Kids");
+        if (kids.isArray()) {
+            for (const auto &kid : kids.getArrayAsVector()) {
+                pending.push_back(kid);
+            }
+        }
+    }
+}
+
+/// `name`, or where that is taken the name with the next number. Thousands of forms may have the
+/// same names, so counting goes on where it was.
+template<typename Taken>
+std::string freeName(const std::string &name, std::map<std::string, int> &numbers,
+                     const Taken &isTaken) {
+    std::string candidate = name;
+    while (isTaken(candidate)) {
+        int &number = numbers.try_emplace(name, 1).first->second;
+        candidate = name + "_" + std::to_string(++number);
+    }
+    return candidate;
+}
+
+} // namespace
+
+void FormMerger::keepApart(QPDFObjectHandle field, Renames &renames) {
+    auto name = field.getKey("/T");
+    if (!name.isString()) {
+        return;
+    }
+    const std::string text = name.getUTF8Value();
+    // Two fields of one name in one source are one field to its readers, and stay so.
+    auto renamed = renames.find(text);
+    if (renamed == renames.end()) {
+        const auto unique = freeName(text, m_nameNumbers, [&](const std::string &candidate) {
+            return m_names.contains(candidate);
+        });
+        renamed = renames.emplace(text, unique).first;
+    }
+    if (renamed->second != text) {
+        field.replaceKey("/T", QPDFObjectHandle::newUnicodeString(renamed->second));
+    }
+}
+
+FormMerger::Renames FormMerger::addResources(QPDFObjectHandle resources) {
+    Renames renames;
+    if (!resources.isDictionary()) {
+        return renames;
+    }
+    for (auto &[category, members] : resources.getDictAsMap()) {
+        if (!members.isDictionary()) {
+            continue;
+        }
+        auto &known = m_resources[category];
+        auto &numbers = m_resourceNumbers[category];
+        QPDFObjectHandle dictionary = members;
+        for (const auto &[name, object] : dictionary.getDictAsMap()) {
+            const auto unique =
+                freeName(name, numbers, [&, &member = object](const std::string &candidate) {
+                    const auto taken = known.find(candidate);
+                    return taken != known.end() &&
+                           !(member.isIndirect() && taken->second.isSameObjectAs(member));
+                });
+            known.emplace(unique, object);
+            if (unique != name) {
+                renames.emplace(name, unique);
+            }
+        }
+    }
+    return renames;
+}
+
+void FormMerger::add(const ImportedForm &form) {
+    Renames names;
+    const Renames resources = addResources(form.resources);
+    for (const auto &field : form.fields) {
+        keepApart(field, names);
+        if (!resources.empty()) {
+            renameInAppearances(field, resources);
+        }
+    }
+    for (const auto &[name, unique] : names) {
+        m_names.insert(unique);
+    }
+    m_form.fields.insert(m_form.fields.end(), form.fields.begin(), form.fields.end());
+    m_form.calculationOrder.insert(m_form.calculationOrder.end(), form.calculationOrder.begin(),
+                                   form.calculationOrder.end());
+    m_form.needsAppearances |= form.needsAppearances;
+    m_form.hasSignatures |= form.hasSignatures;
+}
+
+void FormMerger::finish(QPDF &document) {
+    if (m_form.fields.empty()) {
+        return;
+    }
+    auto form = QPDFObjectHandle::newDictionary();
+    form.replaceKey("/Fields", QPDFObjectHandle::newArray(m_form.fields));
+    if (!m_form.calculationOrder.empty()) {
+        form.replaceKey("/CO", QPDFObjectHandle::newArray(m_form.calculationOrder));
+    }
+    if (m_form.needsAppearances) {
+        form.replaceKey("/NeedAppearances", QPDFObjectHandle::newBool(true));
+    }
+    if (m_form.hasSignatures) {
+        form.replaceKey("/SigFlags", QPDFObjectHandle::newInteger(1));
+    }
+    if (!m_resources.empty()) {
+        auto resources = QPDFObjectHandle::newDictionary();
+        for (const auto &[category, members] : m_resources) {
+            resources.replaceKey(category, QPDFObjectHandle::newDictionary(members));
+        }
+        form.replaceKey("/DR", resources);
+    }
+    document.getRoot().replaceKey("/AcroForm", document.makeIndirectObject(form));
+}
+
+} // namespace folioforge

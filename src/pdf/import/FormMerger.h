@@ -1,0 +1,35 @@
+#pragma once
+
+#include "pdf/import/ImportedDocument.h"
+
+#include <map>
+#include <set>
+#include <string>
+
+class QPDF;
+
+namespace folioforge {
+
+/// Makes one interactive form (ISO 32000-1, 12.7) of the forms of several documents: fields of the
+/// same name stay different fields, and each keeps the resources it is drawn with.
+class FormMerger {
+  public:
+    void add(const ImportedForm &form);
+    /// Writes the form into the catalog, when there is any field.
+    void finish(QPDF &document);
+
+  private:
+    using Renames = std::map<std::string, std::string>;
+    using Numbers = std::map<std::string, int>; ///< The last one given to each name.
+
+    void keepApart(QPDFObjectHandle field, Renames &renames);
+    Renames addResources(QPDFObjectHandle resources);
+
+    ImportedForm m_form;
+    std::set<std::string> m_names;
+    Numbers m_nameNumbers;
+    std::map<std::string, std::map<std::string, QPDFObjectHandle>> m_resources;
+    std::map<std::string, Numbers> m_resourceNumbers; ///< As m_resources, by category.
+};
+
+} // namespace folioforge

@@ -1,0 +1,216 @@
+#include "pdf/import/ObjectCopier.h"
+
+#include "pdf/QpdfBorder.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <algorithm>
+#include <array>
+
+namespace folioforge {
+
+namespace {
+
+/// Keys that point into the structure tree, which stays behind.
+bool pointsIntoStructure(const std::string &key) {
+    return key == "/StructParent" || key == "/StructParents" || key == "/SE" || key == "/SD";
+}
+
+/// Parts of the source document that must not follow a reference into the copy.
+bool staysBehind(QPDFObjectHandle object) {
+    if (!object.isDictionary()) {
+        return false;
+    }
+    static constexpr std::array kTypes{"/Pages", "/Page", "/Catalog", "/StructTreeRoot",
+                                       "/StructElem"};
+    auto type = object.getKey("/Type");
+    return type.isName() &&
+           std::ranges::any_of(kTypes, [&](const char *name) { return type.getName() == name; });
+}
+
+bool isGoTo(const std::map<std::string, QPDFObjectHandle> &dictionary) {
+    const auto kind = dictionary.find("/S");
+    return kind != dictionary.end() && QPDFObjectHandle(kind->second).isNameAndEquals("/GoTo");
+}
+
+} // namespace
+
+ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, Streams &known)
+    : m_source(source)
+    , m_target(target)
+    , m_streams(known)
+    , m_destinations(source) {}
+
+std::vector<QPDFObjectHandle> ObjectCopier::copyPages() {
+    const auto pages = readSourcePages(m_source);
+    // The library walks the tree again at every stream, and its recursion follows how deep it is.
+    m_source.getRoot().replaceKey("/Pages",
+                                  QPDFObjectHandle::parse("<< /Type /Pages /Kids [] /Count 0 >>"));
+    m_targetPages.reserve(pages.size());
+    for (const auto &[page, inherited] : pages) {
+        m_targetPages.push_back(m_target.makeIndirectObject(QPDFObjectHandle::newDictionary()));
+        if (page.isIndirect()) {
+            // References to a page that stands in the tree twice lead to its first place.
+            m_copies.try_emplace(page.getObjGen(), m_targetPages.back());
+        }
+    }
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        fillPage(pages[i], m_targetPages[i]);
+    }
+    return m_targetPages;
+}
+
+void ObjectCopier::fillPage(const SourcePage &source, QPDFObjectHandle target) {
+    auto entries = QPDFObjectHandle(source.page).getDictAsMap();
+    entries.erase("/Parent");
+    entries.erase("/Type");
+    auto copied = copyDictionary(entries);
+    for (const auto &[key, value] : copied.getDictAsMap()) {
+        target.replaceKey(key, value);
+    }
+    target.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
+    for (const auto &[key, inherited] : *source.inherited) {
+        if (!target.hasKey(key)) {
+            target.replaceKey(key, copyInherited(inherited));
+        }
+    }
+    if (!target.hasKey("/MediaBox")) {
+        // Readers show such a page in US letter size.
+        target.replaceKey("/MediaBox", QPDFObjectHandle::parse("[0 0 612 792]"));
+    }
+}
+
+/// Pages share the resources of their node; they go on sharing one object.
+QPDFObjectHandle ObjectCopier::copyInherited(const InheritedValue &inherited) {
+    auto &copied = m_inherited[inherited.number];
+    if (!copied.isInitialized()) {
+        copied = copy(inherited.value);
+        if (copied.isDictionary() && !copied.isIndirect()) {
+            copied = m_target.makeIndirectObject(copied);
+        }
+    }
+    return copied.isIndirect() ? copied : copied.shallowCopy();
+}
+
+QPDFObjectHandle ObjectCopier::copy(const QPDFObjectHandle &object) {
+    return object.isIndirect() ? copyIndirect(object) : copyValue(object);
+}
+
+QPDFObjectHandle ObjectCopier::copyIndirect(QPDFObjectHandle object) {
+    const auto known = m_copies.find(object.getObjGen());
+    if (known != m_copies.end()) {
+        return known->second;
+    }
+    QPDFObjectHandle target;
+    if (object.isStream()) {
+        target = reserveStream(object);
+    } else if (object.isNull() || staysBehind(object)) {
+        target = QPDFObjectHandle::newNull();
+    } else {
+        // A null would be taken for an absent entry by every dictionary that refers to it.
+        target = QPDFObjectHandle::newReserved(&m_target);
+        m_pending.emplace_back(object, target);
+    }
+    m_copies[object.getObjGen()] = target;
+    return target;
+}
+
+QPDFObjectHandle ObjectCopier::reserveStream(QPDFObjectHandle object) {
+    const auto known = m_streams.find(object.getObjGen());
+    if (known != m_streams.end()) {
+        return known->second;
+    }
+    // The library copies a stream's data lazily but its dictionary at once and with all that it
+    // refers to; emptied first, the dictionary can be copied here, by the rules of this class.
+    auto dictionary = object.getDict();
+    PendingStream pending{{}, dictionary.getDictAsMap()};
+    for (const auto &[key, value] : pending.dictionary) {
+        dictionary.removeKey(key);
+    }
+    pending.target = m_target.copyForeignObject(object);
+    if (pending.dictionary.contains("/Filter")) {
+        // Its bytes go into the copy as they are.
+        pending.target.setFilterOnWrite(false);
+    }
+    m_streams[object.getObjGen()] = pending.target;
+    m_pendingStreams.push_back(pending);
+    return pending.target;
+}
+
+QPDFObjectHandle ObjectCopier::copyValue(QPDFObjectHandle source) {
+    if (source.isDictionary()) {
+        return copyDictionary(source.getDictAsMap());
+    }
+    if (source.isArray()) {
+        return copyArray(source);
+    }
+    return source.shallowCopy();
+}
+
+QPDFObjectHandle ObjectCopier::copyArray(QPDFObjectHandle array) {
+    std::vector<QPDFObjectHandle> items = array.getArrayAsVector();
+    for (auto &item : items) {
+        item = copy(item);
+    }
+    return QPDFObjectHandle::newArray(items);
+}
+
+QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
+    const bool goTo = isGoTo(dictionary);
+    auto target = QPDFObjectHandle::newDictionary();
+    for (const auto &[key, value] : dictionary) {
+        if (pointsIntoStructure(key)) {
+            continue;
+        }
+        const bool destination = key == "/Dest" || (goTo && key == "/D");
+        auto copied = destination ? copyDestination(value) : copy(value);
+        if (!copied.isNull()) {
+            target.replaceKey(key, copied);
+        }
+    }
+    return target;
+}
+
+QPDFObjectHandle ObjectCopier::copyDestination(const QPDFObjectHandle &destination) {
+    auto explicitOne = m_destinations.resolve(destination);
+    if (explicitOne.isNull()) {
+        return copy(destination);
+    }
+    auto items = explicitOne.getArrayAsVector();
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        // Some writers give the page by its number, which means another page in the copy.
+        const bool number = i == 0 && items[i].isInteger();
+        const auto page = number ? items[i].getIntValue() : -1;
+        if (page >= 0 && page < static_cast<long long>(m_targetPages.size())) {
+            items[i] = m_targetPages[static_cast<std::size_t>(page)];
+        } else {
+            items[i] = copy(items[i]);
+        }
+    }
+    return QPDFObjectHandle::newArray(items);
+}
+
+void ObjectCopier::fillStream(PendingStream &stream) {
+    m_longestStream = std::max(m_longestStream, statedLength(stream.dictionary["/Length"]));
+    stream.dictionary.erase("/Length");
+    auto target = stream.target.getDict();
+    for (const auto &[key, value] : copyDictionary(stream.dictionary).getDictAsMap()) {
+        target.replaceKey(key, value);
+    }
+}
+
+void ObjectCopier::run() {
+    while (!m_pending.empty() || !m_pendingStreams.empty()) {
+        if (!m_pending.empty()) {
+            const auto [source, target] = m_pending.front();
+            m_pending.pop_front();
+            m_target.replaceReserved(target, copyValue(source));
+        } else {
+            auto stream = m_pendingStreams.front();
+            m_pendingStreams.pop_front();
+            fillStream(stream);
+        }
+    }
+}
+
+} // namespace folioforge

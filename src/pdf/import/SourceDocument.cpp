@@ -1,0 +1,86 @@
+#include "pdf/import/SourceDocument.h"
+
+#include "pdf/QpdfBorder.h"
+#include "pdf/import/SourceInput.h"
+#include "pdf/import/SourcePages.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <array>
+#include <string_view>
+
+namespace folioforge {
+
+namespace {
+
+/// Without this the library searches a whole foreign file for objects before it gives up.
+void requirePdfHeader(const SourceFile &file, SourceReader &reader) {
+    std::array<char, 1024> start{};
+    const auto got = reader.read(file, 0, start);
+    if (std::string_view(start.data(), got).find("%PDF-") == std::string_view::npos) {
+        throw Error(QStringLiteral("This is not a PDF file"));
+    }
+}
+
+/// Null for a document that needs a password or an unknown security handler.
+std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
+                                       const std::shared_ptr<SourceReader> &reader,
+                                       SourceInput::Table table) {
+    auto document = std::make_unique<QPDF>();
+    document->setSuppressWarnings(true);
+    document->setAttemptRecovery(file.size <= kMaxRepairedBytes);
+    try {
+        withAllObjects(*document, *reader, [&] {
+            document->processInputSource(std::make_shared<SourceInput>(file, reader, table));
+            return document->getRoot(); // Throws where the table leads to no catalog.
+        });
+    } catch (const QPDFExc &error) {
+        if (error.getErrorCode() == qpdf_e_password || error.getErrorCode() == qpdf_e_unsupported) {
+            return nullptr;
+        }
+        throw;
+    }
+    return document;
+}
+
+/// Repairs what the library does by itself, and files whose table looks right and is not.
+std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
+                                       const std::shared_ptr<SourceReader> &reader) {
+    requirePdfHeader(file, *reader);
+    try {
+        return openUnlessLocked(file, reader, SourceInput::Table::Shown);
+    } catch (const QPDFExc &) {
+        if (file.size > kMaxRepairedBytes) {
+            throw;
+        }
+        return openUnlessLocked(file, reader, SourceInput::Table::Hidden);
+    }
+}
+
+} // namespace
+
+PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
+    return atQpdfBorder([&] {
+        const auto reader = std::make_shared<SourceReader>(calls);
+        const auto document = openUnlessLocked(SourceFile::examine(path), reader);
+        if (!document || document->isEncrypted()) {
+            return PDFSummary{true, 0};
+        }
+        const auto pages =
+            withAllObjects(*document, *reader, [&] { return readSourcePages(*document).size(); });
+        return PDFSummary{false, static_cast<int>(pages)};
+    });
+}
+
+std::unique_ptr<QPDF> openSourceDocument(const SourceFile &file,
+                                         const std::shared_ptr<SourceReader> &reader) {
+    return atQpdfBorder([&] {
+        auto document = openUnlessLocked(file, reader);
+        if (!document || document->isEncrypted()) {
+            throw Error(QStringLiteral("The document is encrypted"));
+        }
+        return document;
+    });
+}
+
+} // namespace folioforge

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "compress/QuartzFilter.h"
+#include "convert/CompressionPass.h"
+#include "support/PdfProbe.h"
+#include "support/PhotoPage.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <utility>
+
+namespace folioforge::test {
+
+/// A folder with the filters of the application, a document at m_path and a place for the copy.
+class CompressionCase {
+  protected:
+    static constexpr int kWidthColumn = 3;
+    static constexpr int kHeightColumn = 4;
+    static constexpr int kColourColumn = 5;
+    static constexpr int kEncodingColumn = 8;
+
+    inline static const QByteArray kFlateGrey{
+        "/ColorSpace /DeviceGray /BitsPerComponent 8 /Filter /FlateDecode"};
+
+    void setUp() {
+        m_folder = std::make_unique<QTemporaryDir>();
+        const QDir folder(m_folder->path());
+        QVERIFY(folder.mkpath(QStringLiteral("bundle/Contents/Resources")));
+        QVERIFY(folder.mkpath(QStringLiteral("temporary")));
+        m_places = {folder.filePath(QStringLiteral("bundle")),
+                    folder.filePath(QStringLiteral("temporary"))};
+        for (int index = 1; index <= 3; ++index) {
+            const QString name = quartzFilterName(index);
+            QVERIFY(QFile::copy(QStringLiteral(FOLIOFORGE_FILTERS "/%1.qfilter").arg(name),
+                                quartzFilterPath(m_places.bundlePath, name)));
+        }
+        m_path = folder.filePath(QStringLiteral("document.pdf"));
+    }
+
+    CompressionOutcome run(int index, const SecuritySettings &security = {},
+                           ConversionObserver *observer = nullptr,
+                           SystemCalls &calls = SystemCalls::system()) const {
+        ConversionOptions options;
+        options.calls = calls;
+        options.compressIndex = index;
+        options.security = security;
+        return compress(m_path, options, m_places, observer);
+    }
+
+    /// Compresses through "150m" and says where the copy stands; fails the test on an error.
+    QString compressed(CompressionOutcome *outcome = nullptr) const {
+        CompressionOutcome own = run(1);
+        if (!own.error.isEmpty() || !own.convertInfo) {
+            QTest::qFail(qPrintable(own.error), __FILE__, __LINE__);
+            return {};
+        }
+        QString path = own.convertInfo->tempFilePathName;
+        if (outcome) {
+            *outcome = std::move(own);
+        }
+        return path;
+    }
+
+    /// A photo of 1200 x 900 pixels in an RGB JPEG as /Im0 of photoPage().
+    void writeJpegPage(const QByteArray &content, const QByteArray &pageKeys = {}) const {
+        writePage(photoPage(content, pageKeys));
+    }
+    void writePage(PdfFixture page) const {
+        QVERIFY(
+            page.stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900))).write(m_path));
+    }
+
+    /// A photo of 1200 x 900 pixels as /Im0 of photoPage(), with the data of a grey picture of
+    /// width x height pixels as its soft mask.
+    void writeMaskedPage(const QByteArray &content, int width, int height,
+                         const QByteArray &opacity) const {
+        QVERIFY(
+            photoPage(content)
+                .stream(5, imageKeys(1200, 900, kJpegRgb + " /SMask 8 0 R"), jpeg(photo(1200, 900)))
+                .stream(8, imageKeys(width, height, kFlateGrey), opacity)
+                .write(m_path));
+    }
+    /// The data of such a soft mask.
+    static QByteArray opacity(int width, int height) {
+        return flate(samplesOf(photo(width, height, QImage::Format_Grayscale8), 1));
+    }
+
+    /// How far the first page of the copy looks from the document's.
+    [[nodiscard]] double changeOf(const QString &copy) const {
+        return difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100));
+    }
+
+    /// The one image of the copy is in `colour` and has half its 1200 columns, and the page looks
+    /// as it did.
+    void isHalved(const QString &copy, const QString &colour) const {
+        const auto images = PdfProbe(copy).images();
+        QCOMPARE(images.size(), 1);
+        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+        QCOMPARE(images[0][kColourColumn], colour);
+        QVERIFY(changeOf(copy) < 5);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    CompressionPlaces m_places;
+    QString m_path;
+};
+
+} // namespace folioforge::test

@@ -1,0 +1,401 @@
+#include "convert/CompressionPass.h"
+
+#include "CompressionCase.h"
+#include "compress/QuartzFilter.h"
+#include "convert/Conversion.h"
+#include "error/Error.h"
+#include "support/Files.h"
+#include "support/PdfProbe.h"
+#include "support/PhotoPage.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+class Recorder : public ConversionObserver {
+  public:
+    void progressChanged(float value) override { values += value; }
+    void entryDone(std::size_t, bool) override {}
+    QList<float> values;
+};
+
+} // namespace
+
+class CompressionPassTest : public QObject, protected CompressionCase {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void indexZeroHandsNothingOver() {
+        test::writePdf(m_path, 1);
+        QVERIFY(!run(0).convertInfo);
+    }
+
+    void aPhotoIsSampledDownToItsPrintedSizeAndLooksAlike() {
+        writeJpegPage("BT /F 12 Tf 20 250 Td (Caption) Tj ET q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const QString copy = compressed();
+        const auto images = PdfProbe(copy).images();
+        QCOMPARE(images.size(), 1);
+        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+        QCOMPARE(images[0][kHeightColumn], QStringLiteral("450"));
+        QCOMPARE(images[0][kEncodingColumn], QStringLiteral("jpeg"));
+        QVERIFY(changeOf(copy) < 5);
+        QVERIFY(PdfProbe(copy).text().contains(QStringLiteral("Caption")));
+        QString log;
+        QVERIFY2(PdfProbe(copy).isValid(&log), qPrintable(log));
+    }
+
+    void theOutcomeSaysWhatWasSaved() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 1);
+        QCOMPARE(outcome.bytesBefore, QFileInfo(m_path).size());
+        QCOMPARE(outcome.bytesAfter, QFileInfo(copy).size());
+        QVERIFY(outcome.bytesAfter < outcome.bytesBefore / 2);
+    }
+
+    void eachFilterMakesItSmaller_data() {
+        QTest::addColumn<int>("width");
+        QTest::newRow("300 per inch") << 1200;
+        QTest::newRow("below all resolutions") << 280;
+    }
+
+    void eachFilterMakesItSmaller() {
+        QFETCH(const int, width);
+        const int height = width * 3 / 4;
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                    .stream(5, imageKeys(width, height, kJpegRgb), jpeg(photo(width, height)))
+                    .write(m_path));
+        qint64 before = QFileInfo(m_path).size();
+        for (int index = 1; index <= 3; ++index) {
+            const qint64 after = run(index).bytesAfter;
+            QVERIFY2(after < before, qPrintable(QStringLiteral("%1: %2").arg(index).arg(after)));
+            before = after;
+        }
+    }
+
+    void theLargestUseCountsThroughNestedForms() {
+        QVERIFY(photoPage("q 72 0 0 54 0 0 cm /Im0 Do Q q 2 0 0 2 0 0 cm /Fm0 Do Q")
+                    .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
+                    .stream(6,
+                            "/Type /XObject /Subtype /Form /BBox [0 0 400 300] /Matrix [2 0 0 2 0 "
+                            "0] /Resources << /XObject << /A 5 0 R >> >>",
+                            "q 72 0 0 54 0 0 cm /A Do Q")
+                    .write(m_path));
+        const auto images = PdfProbe(compressed()).images();
+        // 72 points, four times enlarged, at 150 per inch.
+        QVERIFY(!images.isEmpty());
+        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+    }
+
+    void anImageUsedManyTimesIsDoneOnce() {
+        writeJpegPage("q 288 0 0 216 0 0 cm /Im0 Do Q q 200 0 0 150 9 9 cm /Im0 Do /Im0 Do Q");
+        CompressionOutcome outcome;
+        compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 1);
+    }
+
+    void coloursKeepTheirSpaces_data() {
+        QTest::addColumn<QByteArray>("keys");
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<QString>("colour");
+        const QImage grey = photo(1200, 900, QImage::Format_Grayscale8);
+        const QByteArray rgb = samplesOf(photo(1200, 900), 3);
+        QTest::newRow("grey jpeg")
+            << QByteArray("/ColorSpace /DeviceGray /BitsPerComponent 8 /Filter /DCTDecode")
+            << jpeg(grey) << QStringLiteral("gray");
+        QTest::newRow("flate photo")
+            << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode")
+            << flate(rgb) << QStringLiteral("rgb");
+        QTest::newRow("plain photo") << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8")
+                                     << rgb << QStringLiteral("rgb");
+        QTest::newRow("cmyk")
+            << QByteArray("/ColorSpace /DeviceCMYK /BitsPerComponent 8 /Filter /FlateDecode")
+            << flate(samplesOf(photo(1200, 900, QImage::Format_RGBA8888), 4))
+            << QStringLiteral("cmyk");
+        QByteArray ramp;
+        for (int i = 0; i < 256; ++i) {
+            ramp += QByteArray(3, static_cast<char>(i)).toHex();
+        }
+        QTest::newRow("indexed") << "/ColorSpace [/Indexed /DeviceRGB 255 <" + ramp +
+                                        ">] /BitsPerComponent 8 /Filter /FlateDecode"
+                                 << flate(samplesOf(grey, 1)) << QStringLiteral("rgb");
+    }
+
+    void coloursKeepTheirSpaces() {
+        QFETCH(const QByteArray, keys);
+        QFETCH(const QByteArray, data);
+        QFETCH(const QString, colour);
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                    .stream(5, imageKeys(1200, 900, keys), data)
+                    .write(m_path));
+        isHalved(compressed(), colour);
+    }
+
+    void anImageWithFarTooLargeAColourTableStays() {
+        const QByteArray table(1 << 20, 'p');
+        auto page = photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        page.stream(5,
+                    imageKeys(1200, 900,
+                              "/ColorSpace [/Indexed /DeviceRGB 255 8 0 R] /BitsPerComponent 8 "
+                              "/Filter /FlateDecode"),
+                    flate(samplesOf(photo(1200, 900, QImage::Format_Grayscale8), 1)))
+            .stream(8, "/Filter /FlateDecode", flate(table));
+        QVERIFY(page.write(m_path));
+        CompressionOutcome outcome;
+        compressed(&outcome);
+        QCOMPARE(outcome.imagesKept.size(), std::size_t(1));
+        QCOMPARE(outcome.imagesKept[0].reason, QStringLiteral("an unusual colour space"));
+    }
+
+    void aStreamCompressedTwiceKeepsItsBytes() {
+        QVERIFY(photoPage({})
+                    .stream(4, "/Filter [/FlateDecode /FlateDecode]",
+                            flate(flate("q 288 0 0 216 50 20 cm /Im0 Do Q")))
+                    .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
+                    .write(m_path));
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 1);
+        QVERIFY(PdfProbe(copy).json().simplified().contains(
+            "\"/Filter\": [ \"/FlateDecode\", \"/FlateDecode\" ]"));
+        QVERIFY(difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100)) < 5);
+    }
+
+    void whatIsNoPhotoStaysAndSaysWhy_data() {
+        QTest::addColumn<QByteArray>("keys");
+        QTest::addColumn<QByteArray>("data");
+        QTest::addColumn<QString>("reason");
+        QByteArray drawing(qsizetype(1200) * 900 * 3, '\xff');
+        for (int i = 0; i < drawing.size(); i += 90) {
+            drawing[i] = 0;
+        }
+        QTest::newRow("line art")
+            << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode")
+            << flate(drawing) << QStringLiteral("line art");
+        QTest::newRow("bilevel")
+            << QByteArray("/ColorSpace /DeviceGray /BitsPerComponent 1 /Filter /FlateDecode")
+            << flate(QByteArray(qsizetype(150) * 900, '\x5a')) << QStringLiteral("bilevel");
+        QTest::newRow("stencil") << QByteArray(
+                                        "/ImageMask true /BitsPerComponent 1 /Filter /FlateDecode")
+                                 << flate(QByteArray(qsizetype(150) * 900, '\x5a'))
+                                 << QStringLiteral("a mask");
+        QTest::newRow("colour key") << kJpegRgb + " /Mask [0 1 0 1 0 1]" << jpeg(photo(1200, 900))
+                                    << QStringLiteral("masked by colour");
+        QTest::newRow("other size than said")
+            << kJpegRgb << jpeg(photo(600, 450))
+            << QStringLiteral("the data is of another size than the image says");
+    }
+
+    void whatIsNoPhotoStaysAndSaysWhy() {
+        QFETCH(const QByteArray, keys);
+        QFETCH(const QByteArray, data);
+        QFETCH(const QString, reason);
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                    .stream(5, imageKeys(1200, 900, keys), data)
+                    .write(m_path));
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 0);
+        QCOMPARE(outcome.imagesKept.size(), std::size_t(1));
+        QCOMPARE(outcome.imagesKept[0].reason, reason);
+        QCOMPARE(PdfProbe(copy).render(1, 100), PdfProbe(m_path).render(1, 100));
+    }
+
+    void aDamagedImageStaysAndIsNamed() {
+        const QByteArray whole = jpeg(photo(1200, 900));
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                    .stream(5, imageKeys(1200, 900, kJpegRgb), whole.first(whole.size() / 2))
+                    .write(m_path));
+        CompressionOutcome outcome;
+        compressed(&outcome);
+        QCOMPARE(outcome.imagesReduced, 0);
+        QCOMPARE(outcome.imagesKept.size(), std::size_t(1));
+        QCOMPARE(outcome.imagesKept[0].page, 1);
+        QCOMPARE(outcome.imagesKept[0].object, 5);
+        QVERIFY(outcome.imagesKept[0].reason.startsWith(QStringLiteral("damaged")));
+    }
+
+    void aSoftMaskIsScaledWithItsImage() {
+        writeMaskedPage("0 0 1 rg 0 0 400 300 re f q 288 0 0 216 50 20 cm /Im0 Do Q", 1200, 900,
+                        opacity(1200, 900));
+        const QString copy = compressed();
+        const auto images = PdfProbe(copy).images();
+        QCOMPARE(images.size(), 2);
+        for (const QStringList &image : images) {
+            QCOMPARE(image[kWidthColumn], QStringLiteral("600"));
+        }
+        QVERIFY(changeOf(copy) < 5);
+    }
+
+    void aDocumentWithoutImagesNeverGrows() {
+        test::writePdf(m_path, 3);
+        CompressionOutcome outcome;
+        const QString copy = compressed(&outcome);
+        QVERIFY(QFileInfo(copy).size() <= QFileInfo(m_path).size());
+        QCOMPARE(PdfProbe(copy).pageCount(), 3);
+    }
+
+    void plainStreamsAreCompressedAndUnusedOnesGo() {
+        QByteArray content("BT /F 12 Tf 20 250 Td (Words that stay) Tj ET\n");
+        content += QByteArray("0 0 m 400 300 l S\n").repeated(1000);
+        auto page = photoPage(content);
+        page.stream(5, "/Unused true", QByteArray(20000, 'u'));
+        QVERIFY(page.object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 4 0 "
+                               "R /Resources << /Font << /F 7 0 R >> >> >>")
+                    .write(m_path));
+        const QString copy = compressed();
+        const QByteArray bytes = readFile(copy);
+        QVERIFY(bytes.size() < 2000);
+        QVERIFY(!bytes.contains("/Unused"));
+        QVERIFY(PdfProbe(copy).text().contains(QStringLiteral("Words that stay")));
+        QCOMPARE(PdfProbe(copy).render(1, 100), PdfProbe(m_path).render(1, 100));
+    }
+
+    void linksAndBoxesStay() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q",
+                      "/CropBox [10 10 390 290] /Annots [<< /Type /Annot /Subtype /Link /Rect [0 0 "
+                      "50 50] /A << /S /URI /URI (https://example.org/) >> >>]");
+        const QString copy = compressed();
+        QVERIFY(PdfProbe(copy).json().contains("https://example.org/"));
+        QCOMPARE(PdfProbe(copy).box(QStringLiteral("CropBox"), 1),
+                 PdfProbe(m_path).box(QStringLiteral("CropBox"), 1));
+    }
+
+    void passwordsAreAskedAgain() {
+        const QString copy = protectedCopy();
+        QCOMPARE(PdfProbe(copy).pageCount(), 0);
+        const PdfProbe opened(copy, QStringLiteral("user"));
+        QCOMPARE(opened.pageCount(), 1);
+        const QString allowed = opened.info(QStringLiteral("Encrypted"));
+        QVERIFY2(allowed.contains(QStringLiteral("print:no")), qPrintable(allowed));
+        QVERIFY2(allowed.contains(QStringLiteral("copy:yes")), qPrintable(allowed));
+        QVERIFY2(allowed.contains(QStringLiteral("AES-256")), qPrintable(allowed));
+    }
+
+    void theCopyOfAProtectedDocumentIsPrivate() {
+        const QString copy = protectedCopy();
+        QVERIFY(QFile::exists(copy));
+        QCOMPARE(QFile::permissions(copy) &
+                     (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+                 QFile::Permissions());
+    }
+
+    void theTemporaryNameGivesWayToFilesThatExist() {
+        test::writePdf(m_path, 1);
+        const QDir folder(m_places.temporaryFolder);
+        test::writeFile(folder.filePath(QStringLiteral("document.pdf")), "mine");
+        test::writeFile(folder.filePath(QStringLiteral("document(1).pdf")), "mine too");
+        QCOMPARE(compressed(), folder.filePath(QStringLiteral("document(2).pdf")));
+        QCOMPARE(test::readFile(folder.filePath(QStringLiteral("document.pdf"))),
+                 QByteArray("mine"));
+    }
+
+    void progressRunsFromFiftyToHundredPageByPage() {
+        test::writePdf(m_path, 4);
+        Recorder recorder;
+        run(1, {}, &recorder);
+        QCOMPARE(recorder.values, (QList<float>{62.5F, 75.0F, 87.5F, 100.0F}));
+    }
+
+    void aMissingFilterIsAnErrorAndNothingIsHandedOver() {
+        test::writePdf(m_path, 1);
+        const QString filter = quartzFilterPath(m_places.bundlePath, quartzFilterName(1));
+        QVERIFY(QFile::remove(filter));
+        const CompressionOutcome outcome = run(1);
+        QVERIFY(outcome.error.contains(filter));
+        QVERIFY(!outcome.convertInfo);
+    }
+
+    void aBrokenFilterNamesTheKey() {
+        test::writePdf(m_path, 1);
+        const QString filter = quartzFilterPath(m_places.bundlePath, quartzFilterName(1));
+        QByteArray text = test::readFile(filter);
+        text.replace("<integer>150</integer>", "<integer>0</integer>");
+        QVERIFY(QFile::remove(filter));
+        test::writeFile(filter, text);
+        QVERIFY(run(1).error.contains(QStringLiteral("\"Resolution\"")));
+    }
+
+    void afterAFailedPassTheDestinationIsGone() {
+        test::writeFile(m_path, "no document at all");
+        const CompressionOutcome outcome = run(1);
+        QVERIFY(!outcome.error.isEmpty());
+        QVERIFY(outcome.convertInfo.has_value());
+        QCOMPARE(outcome.convertInfo->tempFilePathName, QString());
+        compressCompleted(*outcome.convertInfo);
+        QVERIFY(!QFile::exists(m_path));
+    }
+
+    void afterAFailedPassAForeignFileOfTheSameNameStays() {
+        const QString foreign = m_places.temporaryFolder + QStringLiteral("/document.pdf");
+        test::writeFile(foreign, "someone else's");
+        test::writeFile(m_path, "no document at all");
+        compressCompleted(*run(1).convertInfo);
+        QCOMPARE(test::readFile(foreign), QByteArray("someone else's"));
+        QVERIFY(!QFile::exists(m_path));
+    }
+
+    void theCommandLineKeepsTheDocumentOfAFailedPass() {
+        test::writeFile(m_path, "no document at all");
+        const CompressionOutcome outcome = run(1);
+        QVERIFY_EXCEPTION_THROWN(putInPlace(*outcome.convertInfo, Flush::Never), Error);
+        QCOMPARE(test::readFile(m_path), QByteArray("no document at all"));
+    }
+
+    void theCopyTakesThePlaceOfTheDocument_data() {
+        QTest::addColumn<bool>("window");
+        QTest::newRow("window") << true;
+        QTest::newRow("command line") << false;
+    }
+
+    void theCopyTakesThePlaceOfTheDocument() {
+        QFETCH(const bool, window);
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const auto permissions = QFile::permissions(m_path);
+        const QString copy = compressed();
+        const QByteArray bytes = test::readFile(copy);
+        if (window) {
+            compressCompleted({copy, m_path});
+        } else {
+            putInPlace({copy, m_path}, Flush::Never);
+        }
+        QCOMPARE(test::readFile(m_path), bytes);
+        QCOMPARE(QFile::permissions(m_path), permissions);
+        QVERIFY(!QFile::exists(copy));
+    }
+
+  private:
+    /// The compressed copy of a document with the passwords "user" and "owner".
+    QString protectedCopy() const {
+        const QString plain = m_folder->filePath(QStringLiteral("plain.pdf"));
+        const PdfFixture page =
+            photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)));
+        if (!page.write(plain)) {
+            return {};
+        }
+        test::runTool(QStringLiteral("qpdf"),
+                      {QStringLiteral("--encrypt"), QStringLiteral("user"), QStringLiteral("owner"),
+                       QStringLiteral("256"), QStringLiteral("--"), plain, m_path});
+        SecuritySettings security;
+        security.useUserPassword = true;
+        security.userPassword = QStringLiteral("user");
+        security.useOwnerPassword = true;
+        security.ownerPassword = QStringLiteral("owner");
+        security.allowPrint = true;
+        const CompressionOutcome outcome = run(1, security);
+        return outcome.error.isEmpty() ? outcome.convertInfo->tempFilePathName : QString();
+    }
+};
+
+QTEST_GUILESS_MAIN(CompressionPassTest)
+#include "CompressionPassTest.moc"

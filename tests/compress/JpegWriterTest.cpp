@@ -1,0 +1,102 @@
+#include "compress/jpeg/JpegWriter.h"
+
+#include "compress/jpeg/JpegColour.h"
+
+#include <QImage>
+#include <QTest>
+
+#include <array>
+
+using namespace folioforge;
+
+namespace {
+
+QImage decoded(const std::string &file) {
+    return QImage::fromData(QByteArray::fromStdString(file), "JPEG");
+}
+
+/// A grey picture of one value but for noise in the rows from `top` to `bottom`.
+PlanarImage greyWithNoise(int width, int height, int top, int bottom) {
+    PlanarImage image(width, height);
+    image.addPlanes(1);
+    quint32 seed = 1;
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            seed = seed * 1664525 + 1013904223;
+            image.planes[0].row(y)[x] =
+                y >= top && y < bottom ? static_cast<std::uint8_t>(seed >> 24) : 100;
+        }
+    }
+    return image;
+}
+
+int largestDifference(const PlanarImage &image, const QImage &other) {
+    int largest = 0;
+    for (int y = 0; y < image.height; ++y) {
+        for (int x = 0; x < image.width; ++x) {
+            largest =
+                std::max(largest, std::abs(image.planes[0].row(y)[x] - qGray(other.pixel(x, y))));
+        }
+    }
+    return largest;
+}
+
+} // namespace
+
+/// JPEG files as Qt reads them.
+class JpegWriterTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void everySizeComesBack_data() {
+        QTest::addColumn<int>("width");
+        QTest::addColumn<int>("height");
+        QTest::newRow("one pixel") << 1 << 1;
+        QTest::newRow("a block and one") << 9 << 17;
+        QTest::newRow("large") << 33 << 1030;
+    }
+
+    void everySizeComesBack() {
+        QFETCH(const int, width);
+        QFETCH(const int, height);
+        const PlanarImage image = greyWithNoise(width, height, 0, height);
+        const QImage back = decoded(encodeJpeg(image, 100));
+        QCOMPARE(back.size(), QSize(width, height));
+        QVERIFY(largestDifference(image, back) <= 3);
+    }
+
+    void whatTheSampleOfALargePictureDidNotShowIsThere() {
+        // Only the first of every eight bands is sampled; the noise fills the fifth.
+        const PlanarImage image = greyWithNoise(64, 1040, 4 * 8, 5 * 8);
+        const QImage back = decoded(encodeJpeg(image, 100));
+        QVERIFY(largestDifference(image, back) <= 3);
+    }
+
+    void coloursComeBack() {
+        constexpr std::array<QRgb, 6> kColours{0xffff0000, 0xff00ff00, 0xff0000ff,
+                                               0xffffffff, 0xff000000, 0xff6496c8};
+        for (const QRgb colour : kColours) {
+            PlanarImage image(32, 32);
+            image.addPlanes(3);
+            const std::array parts{qRed(colour), qGreen(colour), qBlue(colour)};
+            for (std::size_t i = 0; i < parts.size(); ++i) {
+                std::fill_n(image.planes[i].row(0), image.planes[i].size(),
+                            static_cast<std::uint8_t>(parts[i]));
+            }
+            toJpegColour(image);
+            for (std::size_t i = 1; i < image.planes.size(); ++i) {
+                Plane half(16, 16);
+                std::fill_n(half.row(0), half.size(), image.planes[i].row(0)[0]);
+                image.planes[i] = std::move(half);
+            }
+            const QRgb back = decoded(encodeJpeg(image, 100)).pixel(16, 16);
+            QVERIFY2(std::abs(qRed(back) - qRed(colour)) <= 2 &&
+                         std::abs(qGreen(back) - qGreen(colour)) <= 2 &&
+                         std::abs(qBlue(back) - qBlue(colour)) <= 2,
+                     qPrintable(QString::number(back, 16)));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(JpegWriterTest)
+#include "JpegWriterTest.moc"

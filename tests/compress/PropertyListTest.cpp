@@ -1,0 +1,127 @@
+#include "compress/PropertyList.h"
+
+#include "error/Error.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimeZone>
+
+using namespace folioforge;
+
+namespace {
+
+const QByteArray kHead = R"(<?xml version="1.0" encoding="UTF-8"?><plist version="1.0">)";
+
+/// The smallest binary property list by hand: {"Icon": "app"}.
+QByteArray binaryList() {
+    QByteArray bytes("bplist00");
+    bytes += QByteArray::fromHex("d10102");           // one key, objects 1 and 2
+    bytes += QByteArray::fromHex("54") + "Icon";      // at 11
+    bytes += QByteArray::fromHex("53") + "app";       // at 16
+    bytes += QByteArray::fromHex("080b10");           // offsets of the objects
+    bytes += QByteArray::fromHex("0000000000000101"); // sizes of offsets and references
+    bytes += QByteArray::fromHex("0000000000000003"); // objects
+    bytes += QByteArray::fromHex("00000000000000000000000000000014"); // root, offset table at 20
+    return bytes;
+}
+
+} // namespace
+
+class PropertyListTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+    QString write(const QByteArray &bytes) const {
+        QString path = m_folder.filePath(QStringLiteral("list.plist"));
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
+            qFatal("cannot write %s", qPrintable(path));
+        }
+        return path;
+    }
+
+  private Q_SLOTS:
+    void readsEveryKindOfValue() {
+        const QString path = write(kHead + R"(<dict>
+            <key>CFBundleIconFile</key><string>Folioforge &amp; Söhne</string>
+            <key>yes</key><true/><key>no</key><false/>
+            <key>whole</key><integer>-7</integer><key>real</key><real>1.25</real>
+            <key>data</key><data>AQID</data>
+            <key>date</key><date>2024-02-29T12:30:00Z</date>
+            <key>list</key><array><integer>1</integer><string>two</string></array>
+            <key>inner</key><dict><key>deep</key><string>down</string></dict>
+            </dict></plist>)");
+        const QVariantMap map = readPropertyList(path);
+        QCOMPARE(map.value(QStringLiteral("CFBundleIconFile")).toString(),
+                 QStringLiteral("Folioforge & S\u00f6hne"));
+        QCOMPARE(map.value(QStringLiteral("yes")), QVariant(true));
+        QCOMPARE(map.value(QStringLiteral("no")), QVariant(false));
+        QCOMPARE(map.value(QStringLiteral("whole")), QVariant(qint64(-7)));
+        QCOMPARE(map.value(QStringLiteral("real")), QVariant(1.25));
+        QCOMPARE(map.value(QStringLiteral("data")), QVariant(QByteArray("\x01\x02\x03")));
+        QCOMPARE(map.value(QStringLiteral("date")).toDateTime(),
+                 QDateTime(QDate(2024, 2, 29), QTime(12, 30), QTimeZone::utc()));
+        QCOMPARE(map.value(QStringLiteral("list")),
+                 QVariant(QVariantList{qint64(1), QStringLiteral("two")}));
+        QCOMPARE(map.value(QStringLiteral("inner")).toMap().value(QStringLiteral("deep")),
+                 QVariant(QStringLiteral("down")));
+    }
+
+    void readsTheBinaryForm() {
+        const QVariantMap map = readPropertyList(write(binaryList()));
+        QCOMPARE(map, (QVariantMap{{QStringLiteral("Icon"), QStringLiteral("app")}}));
+    }
+
+    void aZeroInABinaryKeyEndsTheKey() {
+        const QByteArray list = binaryList().replace("Icon", QByteArray("Ic\0n", 4));
+        QCOMPARE(readPropertyList(write(list)),
+                 (QVariantMap{{QStringLiteral("Ic"), QStringLiteral("app")}}));
+    }
+
+    void listsDeepWithinListsAreSurvived() {
+        constexpr qsizetype kLevels = 1000;
+        const QByteArray open =
+            kHead + "<dict><key>a</key>" + QByteArray("<array>").repeated(kLevels);
+        const QByteArray closed =
+            open + QByteArray("</array>").repeated(kLevels) + "</dict></plist>";
+        QVERIFY_EXCEPTION_THROWN(readPropertyList(write(open)), Error);
+        QVERIFY(readPropertyList(write(closed)).contains(QStringLiteral("a")));
+    }
+
+    void listsLargerThanAnyOfTheBundleAreRefused() {
+        const QByteArray list = kHead + "<dict><key>a</key><string>" + QByteArray(17000, 'a') +
+                                "</string></dict></plist>";
+        QVERIFY_EXCEPTION_THROWN(readPropertyList(write(list)), Error);
+    }
+
+    void refusesWhatIsNoDictionary_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("words") << QByteArray("no list at all");
+        QTest::newRow("array") << kHead + "<array><true/></array></plist>";
+        QTest::newRow("cut short") << kHead + "<dict><key>a</key><str";
+        QTest::newRow("binary cut short") << binaryList().first(20);
+    }
+
+    void refusesWhatIsNoDictionary() {
+        QFETCH(const QByteArray, bytes);
+        const QString path = write(bytes);
+        QVERIFY_EXCEPTION_THROWN(readPropertyList(path), Error);
+    }
+
+    void aMissingFileIsNamed() {
+        const QString path = m_folder.filePath(QStringLiteral("absent.plist"));
+        try {
+            readPropertyList(path);
+            QFAIL("no error");
+        } catch (const Error &error) {
+            QVERIFY(error.reason().contains(path));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(PropertyListTest)
+#include "PropertyListTest.moc"

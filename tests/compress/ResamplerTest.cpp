@@ -1,0 +1,113 @@
+#include "compress/Resampler.h"
+
+#include <QTest>
+
+using namespace folioforge;
+
+namespace {
+
+/// A picture whose planes hold value(x, y) at the centre of each sample, x and y from 0 to 1.
+template<typename Value>
+PlanarImage drawn(int width, int height, int components, const Value &value) {
+    PlanarImage image(width, height);
+    image.addPlanes(components);
+    for (Plane &plane : image.planes) {
+        for (int y = 0; y < plane.height(); ++y) {
+            for (int x = 0; x < plane.width(); ++x) {
+                plane.row(y)[x] = static_cast<std::uint8_t>(
+                    std::lround(value((x + .5) / plane.width(), (y + .5) / plane.height())));
+            }
+        }
+    }
+    return image;
+}
+
+} // namespace
+
+class ResamplerTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void sizesAndColoursHalfOfThem_data() {
+        QTest::addColumn<int>("components");
+        QTest::newRow("grey") << 1;
+        QTest::newRow("colour") << 3;
+        QTest::newRow("inks") << 4;
+    }
+
+    void sizesAndColoursHalfOfThem() {
+        QFETCH(const int, components);
+        const PlanarImage image =
+            resample(drawn(100, 60, components, [](double, double) { return 7; }), 33, 21);
+        QCOMPARE(image.components(), components);
+        for (int i = 0; i < components; ++i) {
+            const bool isHalf = components > 1 && (i == 1 || i == 2);
+            const Plane &plane = image.planes[static_cast<std::size_t>(i)];
+            QCOMPARE(plane.width(), isHalf ? 17 : 33);
+            QCOMPARE(plane.height(), isHalf ? 11 : 21);
+        }
+    }
+
+    void flatAreasKeepTheirValue_data() {
+        QTest::addColumn<int>("to");
+        for (const int to : {1, 7, 50, 99, 199, 200}) {
+            QTest::addRow("%d", to) << to;
+        }
+    }
+
+    void flatAreasKeepTheirValue() {
+        QFETCH(const int, to);
+        for (const int value : {0, 1, 128, 254, 255}) {
+            const PlanarImage image =
+                resample(drawn(200, 200, 3, [value](double, double) { return value; }), to, to);
+            for (const Plane &plane : image.planes) {
+                QVERIFY(std::all_of(plane.row(0), plane.row(0) + plane.size(),
+                                    [value](std::uint8_t sample) { return sample == value; }));
+            }
+        }
+    }
+
+    void aRampStaysInItsPlace_data() {
+        QTest::addColumn<int>("to");
+        for (const int to : {21, 64, 100, 130, 255}) {
+            QTest::addRow("%d", to) << to;
+        }
+    }
+
+    void aRampStaysInItsPlace() {
+        QFETCH(const int, to);
+        const auto ramp = [](double x, double y) { return 40 + 100 * x + 60 * y; };
+        const PlanarImage image = resample(drawn(256, 256, 3, ramp), to, to);
+        for (const Plane &plane : image.planes) {
+            // At the edges the kernel has nothing to lean on.
+            const int edge = plane.width() / 10 + 1;
+            for (int y = edge; y < plane.height() - edge; ++y) {
+                for (int x = edge; x < plane.width() - edge; ++x) {
+                    const double wanted = ramp((x + .5) / plane.width(), (y + .5) / plane.height());
+                    QVERIFY2(std::abs(plane.row(y)[x] - wanted) < 2.5,
+                             qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+                }
+            }
+        }
+    }
+
+    void smallerPlanesOfColourAreBroughtToHalf() {
+        PlanarImage image(80, 80);
+        image.planes.emplace_back(80, 80);
+        image.planes.emplace_back(20, 80);
+        image.planes.emplace_back(40, 40);
+        for (Plane &plane : image.planes) {
+            std::fill_n(plane.row(0), plane.size(), std::uint8_t{90});
+        }
+        const PlanarImage target = resample(std::move(image), 80, 80);
+        for (std::size_t i = 1; i < 3; ++i) {
+            const Plane &plane = target.planes[i];
+            QCOMPARE(QSize(plane.width(), plane.height()), QSize(40, 40));
+            QVERIFY(std::all_of(plane.row(0), plane.row(0) + plane.size(),
+                                [](std::uint8_t sample) { return sample == 90; }));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(ResamplerTest)
+#include "ResamplerTest.moc"

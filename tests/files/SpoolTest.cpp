@@ -1,0 +1,147 @@
+#include "files/Spool.h"
+
+#include "error/Error.h"
+#include "files/PartFiles.h"
+#include "support/FaultyCalls.h"
+
+#include <QScopeGuard>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <array>
+#include <cstring>
+
+using namespace folioforge;
+
+class SpoolTest : public QObject {
+    Q_OBJECT
+
+    /// Puts 12 MB through a spool; the reason of what failed. Other data than was kept fails the
+    /// test.
+    static QString keepAndGiveBack(SystemCalls &calls) {
+        constexpr int kPieces = 3;
+        constexpr qsizetype kPiece = 4 << 20;
+        try {
+            Spool spool(calls);
+            std::vector<Spool::Place> places;
+            for (char piece = 0; piece < kPieces; ++piece) {
+                places.push_back(spool.add(QByteArray(kPiece, piece)));
+            }
+            for (char piece = 0; piece < kPieces; ++piece) {
+                const auto data = spool.at(places.at(static_cast<std::size_t>(piece)));
+                if (data.toByteArray() != QByteArray(kPiece, piece)) {
+                    return QStringLiteral("other data came back");
+                }
+            }
+        } catch (const Error &error) {
+            return error.reason();
+        }
+        return {};
+    }
+
+  private Q_SLOTS:
+    void givesBackWhatItGot() {
+        Spool spool;
+        const auto first = spool.add(QByteArray("first"));
+        const auto empty = spool.add(QByteArray());
+        const auto second = spool.add(QByteArray("second"));
+        QCOMPARE(spool.at(first).toByteArray(), QByteArray("first"));
+        QCOMPARE(spool.at(empty).toByteArray(), QByteArray());
+        QCOMPARE(spool.at(second).toByteArray(), QByteArray("second"));
+    }
+
+    void givesBackWhatNoLongerFitsIntoMemoryAndShowsNoFile() {
+        const QTemporaryDir folder;
+        const QByteArray before = qgetenv("TMPDIR");
+        qputenv("TMPDIR", folder.path().toLocal8Bit());
+        Spool spool;
+        std::vector<Spool::Place> places;
+        for (char c = 'a'; c <= 'z'; ++c) {
+            places.push_back(spool.add(QByteArray(1 << 20, c)));
+        }
+        QCOMPARE(
+            QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+            QStringList());
+        for (char c = 'a'; c <= 'z'; ++c) {
+            const auto data = spool.at(places.at(static_cast<std::size_t>(c - 'a')));
+            QCOMPARE(data.toByteArray(), QByteArray(1 << 20, c));
+        }
+        qputenv("TMPDIR", before);
+    }
+
+    void aFaultOfTheDiskIsAnErrorAndNeverWrongData_data() {
+        QTest::addColumn<bool>("nameless");
+        QTest::newRow("nameless file") << true;
+        QTest::newRow("removed file") << false;
+    }
+    void aFaultOfTheDiskIsAnErrorAndNeverWrongData() {
+        QFETCH(bool, nameless);
+        const QTemporaryDir folder;
+        const QByteArray before = qgetenv("TMPDIR");
+        qputenv("TMPDIR", folder.path().toLocal8Bit());
+        const auto restore = qScopeGuard([&] { qputenv("TMPDIR", before); });
+        const std::map<std::string, int> missing =
+            nameless ? std::map<std::string, int>()
+                     : std::map<std::string, int>{{"openAnonymous", EOPNOTSUPP}};
+        test::FaultyCalls counted;
+        counted.failing = missing;
+        QCOMPARE(keepAndGiveBack(counted), QString());
+        int tried = 0;
+        for (int call = 1; call <= counted.count(); ++call) {
+            for (const int error : {ENOSPC, EIO, EACCES, EINTR, 0}) {
+                test::FaultyCalls calls;
+                calls.failing = missing;
+                calls.fault = {call, error, false, {}};
+                const QString reason = keepAndGiveBack(calls);
+                const bool goesOn = error == EINTR || error == 0;
+                QVERIFY(reason.isEmpty() || !goesOn);
+                QVERIFY2(reason.isEmpty() ||
+                             reason.contains(QString::fromLocal8Bit(std::strerror(error))),
+                         qPrintable(reason));
+                QVERIFY(calls.keptFiles() ||
+                        QDir(folder.path())
+                            .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+                removeAbandonedParts(folder.path());
+                ++tried;
+            }
+        }
+        qInfo("%d faults tried", tried);
+    }
+
+    void whatWasKeptIsThereWhenTheDiskFillsUpHalfWay() {
+        test::FaultyCalls calls;
+        constexpr int kFirstWrite = 2; // After the file was made.
+        calls.fault = {kFirstWrite, ENOSPC, true, {}, true};
+        Spool spool(calls);
+        const auto first = spool.add(QByteArray(4 << 20, 'a'));
+        const auto second = spool.add(QByteArray(4 << 20, 'b'));
+        QVERIFY_THROWS_EXCEPTION(Error, spool.add(QByteArray(4 << 20, 'c')));
+        QCOMPARE(calls.count(), kFirstWrite + 1);
+        QVERIFY(spool.at(first) == QByteArray(4 << 20, 'a'));
+        QVERIFY(spool.at(second) == QByteArray(4 << 20, 'b'));
+        calls.fault = {};
+        const auto third = spool.add(QByteArray(4 << 20, 'd'));
+        QVERIFY(spool.at(first) == QByteArray(4 << 20, 'a'));
+        QVERIFY(spool.at(second) == QByteArray(4 << 20, 'b'));
+        QVERIFY(spool.at(third) == QByteArray(4 << 20, 'd'));
+    }
+
+    void givesBackSmallAndHugePiecesInAnyOrder() {
+        constexpr std::array<qsizetype, 5> kSizes{900, 300'000, 9 << 20, 0, 1};
+        Spool spool;
+        std::vector<Spool::Place> places;
+        for (int i = 0; i < 60; ++i) {
+            const auto size = kSizes.at(static_cast<std::size_t>(i) % kSizes.size());
+            places.push_back(spool.add(QByteArray(size, static_cast<char>(i))));
+        }
+        for (int i = 0; i < 60; ++i) {
+            const int other = i * 37 % 60;
+            const auto data = spool.at(places.at(static_cast<std::size_t>(other)));
+            QCOMPARE(data.size(), kSizes.at(static_cast<std::size_t>(other) % kSizes.size()));
+            QVERIFY(data.toByteArray().count(static_cast<char>(other)) == data.size());
+        }
+    }
+};
+
+QTEST_APPLESS_MAIN(SpoolTest)
+#include "SpoolTest.moc"
