@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <functional>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -26,7 +27,7 @@ constexpr int kEntries = 100'000;
 /// Resident memory in bytes, of Linux; 0 elsewhere.
 qint64 residentBytes() {
     constexpr qint64 kPage = 4096;
-    QFile memory(QStringLiteral("/proc/self/statm"));
+    QFile memory(u"/proc/self/statm"_s);
     return memory.open(QIODevice::ReadOnly)
                ? memory.readAll().split(' ').value(1).toLongLong() * kPage
                : 0;
@@ -36,16 +37,16 @@ void timed(const QString &what, const std::function<void()> &work) {
     QElapsedTimer timer;
     timer.start();
     work();
-    QTextStream(stdout) << QStringLiteral("%1 ms  %2\n").arg(timer.elapsed(), 6).arg(what);
+    QTextStream(stdout) << u"%1 ms  %2\n"_s.arg(timer.elapsed(), 6).arg(what);
 }
 
 QStringList makeImages(const QTemporaryDir &folder) {
     QImage image(400, 300, QImage::Format_RGB32);
     image.fill(Qt::darkGreen);
-    image.save(folder.filePath(QStringLiteral("0.png")));
+    image.save(folder.filePath(u"0.png"_s));
     QStringList paths;
     for (int i = 0; i < kFiles; ++i) {
-        paths += folder.filePath(QStringLiteral("%1.png").arg(i));
+        paths += folder.filePath(u"%1.png"_s.arg(i));
         QFile::copy(paths.front(), paths.back());
     }
     return paths;
@@ -73,8 +74,7 @@ int main(int argc, char *argv[]) {
     table.show();
 
     const qint64 before = residentBytes();
-    timed(QStringLiteral("add 10,000 images"),
-          [&] { files.insert(-1, readEntries(paths).entries); });
+    timed(u"add 10,000 images"_s, [&] { files.insert(-1, readEntries(paths).entries); });
     while (files.count() < kEntries) {
         files.insert(-1, readEntries(paths).entries);
     }
@@ -83,12 +83,12 @@ int main(int argc, char *argv[]) {
         files.rearrange(arrangedOrder(files.arrangedObjects(), order));
         files.reindex();
     };
-    timed(QStringLiteral("sort by name"), [&] { sort(SortOrder::Name); });
-    timed(QStringLiteral("sort by size"), [&] { sort(SortOrder::Size); });
-    timed(QStringLiteral("draw 101 places of the list"), [&] { scrollThrough(table); });
+    timed(u"sort by name"_s, [&] { sort(SortOrder::Name); });
+    timed(u"sort by size"_s, [&] { sort(SortOrder::Size); });
+    timed(u"draw 101 places of the list"_s, [&] { scrollThrough(table); });
     std::vector<int> everySecond(kEntries / 2);
     std::generate(everySecond.begin(), everySecond.end(),
                   [row = -2]() mutable { return row += 2; });
-    timed(QStringLiteral("remove every second entry"), [&] { files.removeRowsAt(everySecond); });
+    timed(u"remove every second entry"_s, [&] { files.removeRowsAt(everySecond); });
     return 0;
 }

@@ -3,9 +3,11 @@
 #include <QApplication>
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char *argv[]) {
     QApplication application(argc, argv);
-    QLabel label(QStringLiteral("A window with a label"));
+    QLabel label(u"A window with a label"_s);
     label.resize(1000, 720);
     label.show();
     return QApplication::exec();

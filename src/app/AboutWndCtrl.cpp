@@ -6,6 +6,8 @@
 
 #include <QImageReader>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -14,7 +16,7 @@ constexpr int kIconSize = 128;
 /// The bundle's property list; empty when it cannot be read.
 QVariantMap bundleInfo(const QString &bundlePath) {
     try {
-        return readPropertyList(QStringLiteral("%1/Contents/Info.plist").arg(bundlePath));
+        return readPropertyList(u"%1/Contents/Info.plist"_s.arg(bundlePath));
     } catch (const Error &) {
         return {};
     }
@@ -50,8 +52,7 @@ AboutWndCtrl::AboutWndCtrl(const QString &bundlePath)
     Ui::AboutWnd layout;
     layout.setupUi(m_window.get());
     m_imageView = layout.m_imageView;
-    const QVariant version =
-        bundleInfo(bundlePath).value(QStringLiteral("CFBundleShortVersionString"));
+    const QVariant version = bundleInfo(bundlePath).value(u"CFBundleShortVersionString"_s);
     layout.versionLabel->setText(QDialog::tr("Version %1").arg(version.toString()));
     layout.versionLabel->setVisible(version.isValid());
     awakeFromNib(bundlePath);
@@ -60,9 +61,8 @@ AboutWndCtrl::AboutWndCtrl(const QString &bundlePath)
 AboutWndCtrl::~AboutWndCtrl() = default;
 
 void AboutWndCtrl::awakeFromNib(const QString &bundlePath) {
-    const QString icon =
-        bundleInfo(bundlePath).value(QStringLiteral("CFBundleIconFile")).toString();
-    m_image = largestImage(QStringLiteral("%1/Contents/Resources/%2.icns").arg(bundlePath, icon));
+    const QString icon = bundleInfo(bundlePath).value(u"CFBundleIconFile"_s).toString();
+    m_image = largestImage(u"%1/Contents/Resources/%2.icns"_s.arg(bundlePath, icon));
     if (!m_image.isNull()) {
         m_imageView->setPixmap(iconPixmap(m_image, m_window->devicePixelRatioF()));
     }

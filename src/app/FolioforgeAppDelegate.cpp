@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -49,8 +51,8 @@ void FolioforgeAppDelegate::awakeFromNib() {
 }
 
 void FolioforgeAppDelegate::applicationDidFinishLaunching() {
-    QApplication::setWindowIcon(QIcon(
-        QStringLiteral("%1/Contents/Resources/folioforge-256.png").arg(m_surroundings.bundlePath)));
+    QApplication::setWindowIcon(
+        QIcon(u"%1/Contents/Resources/folioforge-256.png"_s.arg(m_surroundings.bundlePath)));
     m_mainWndCtrl->setDelegateObject(this);
     m_mainWndCtrl->window()->setMenuBar(m_menuBar.release());
     showMainWindow();

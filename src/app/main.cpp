@@ -11,18 +11,20 @@
 #include <QDir>
 #include <QSettings>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char *argv[]) {
     using namespace folioforge;
     fillStandardDescriptors();
     forbidCoreDumps();
     QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Folioforge"));
-    QApplication::setDesktopFileName(QStringLiteral("com.vesprin.folioforge"));
+    QApplication::setApplicationName(u"Folioforge"_s);
+    QApplication::setDesktopFileName(u"com.vesprin.folioforge"_s);
     QApplication::setQuitOnLastWindowClosed(
         FolioforgeAppDelegate::applicationShouldTerminateAfterLastWindowClosed());
     applyLightLook(application);
 
-    QSettings settings(QStringLiteral("Vesprin"), QStringLiteral("Folioforge"));
+    QSettings settings(u"Vesprin"_s, u"Folioforge"_s);
     SystemDesktop desktop;
     Notices notices;
     NotificationCenter notifications;

@@ -6,6 +6,8 @@
 #include <functional>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -21,8 +23,7 @@ void takeMergePath(const QString &path, ConversionOptions &options) {
     const qsizetype slash = path.lastIndexOf(u'/');
     options.merge = true;
     options.outputName = path.sliced(slash + 1);
-    options.outputFolder =
-        slash < 0 ? QStringLiteral(".") : path.first(std::max<qsizetype>(slash, 1));
+    options.outputFolder = slash < 0 ? u"."_s : path.first(std::max<qsizetype>(slash, 1));
 }
 
 const std::vector<Option> &outputOptions() {
@@ -131,7 +132,7 @@ const Option &findOption(const QByteArray &name) {
             }
         }
     }
-    throw ArgumentFault(QStringLiteral("There is no option \"%1\"").arg(QString::fromUtf8(name)));
+    throw ArgumentFault(u"There is no option \"%1\""_s.arg(QString::fromUtf8(name)));
 }
 
 /// Takes arguments one by one off the front.
@@ -170,8 +171,8 @@ class ArgumentReader {
         const Option &option = findOption(name);
         if (option.kind == Option::Switch ? equals >= 0 : equals < 0 && m_rest.empty()) {
             throw ArgumentFault((option.kind == Option::Switch
-                                     ? QStringLiteral("The option \"%1\" takes no value")
-                                     : QStringLiteral("The option \"%1\" needs a value"))
+                                     ? u"The option \"%1\" takes no value"_s
+                                     : u"The option \"%1\" needs a value"_s)
                                     .arg(QString::fromUtf8(name)));
         }
         QByteArray value;
@@ -181,7 +182,7 @@ class ArgumentReader {
         try {
             option.apply(m_result, value);
         } catch (const ArgumentFault &fault) {
-            throw ArgumentFault(QString::fromUtf8(name) + QStringLiteral(": ") + fault.text());
+            throw ArgumentFault(QString::fromUtf8(name) + u": "_s + fault.text());
         }
         m_folderGiven |= name == "--output-folder";
     }
@@ -190,14 +191,13 @@ class ArgumentReader {
     void completeOutput() {
         ConversionOptions &options = m_result.options;
         if (m_folderGiven && options.merge) {
-            throw ArgumentFault(
-                QStringLiteral("--output-folder and --merge cannot be used together"));
+            throw ArgumentFault(u"--output-folder and --merge cannot be used together"_s);
         }
         if (!m_folderGiven && options.outputFolder.isEmpty()) {
-            options.outputFolder = QStringLiteral(".");
+            options.outputFolder = u"."_s;
         }
         if (m_result.request == Request::Convert && m_result.inputs.empty()) {
-            throw ArgumentFault(QStringLiteral("There is no file to convert"));
+            throw ArgumentFault(u"There is no file to convert"_s);
         }
     }
 

@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -25,13 +27,13 @@ void Console::result(const QByteArray &line) {
 
 bool Console::finishResults() {
     if (!m_resultsArrived) {
-        complain(QStringLiteral("Standard output cannot be written"));
+        complain(u"Standard output cannot be written"_s);
     }
     return m_resultsArrived;
 }
 
 void Console::complain(const QString &message) {
-    addLine(QStringLiteral("folioforge-cli: ") + message);
+    addLine(u"folioforge-cli: "_s + message);
 }
 
 void Console::addLine(const QString &line) {

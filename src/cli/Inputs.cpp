@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <filesystem>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -16,7 +18,7 @@ PDFFileInfo readEntry(const QString &path, Input &input) {
     requireReadableFile(path);
     const FileKind kind = fileKind(path);
     if (kind == FileKind::Other) {
-        throw Error(QStringLiteral("It is not a recognised type"));
+        throw Error(u"It is not a recognised type"_s);
     }
     if (QString reason; kind == FileKind::Pdf && !isAcceptablePdf(path, &reason)) {
         input.refusedPdf = true;

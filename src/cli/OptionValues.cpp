@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -37,15 +39,13 @@ void takeCustomSize(const QString &text, int customMode, const QString &fault, P
 QString textOf(const QByteArray &bytes) {
     QString text = decodeText(bytes);
     if (text.isNull()) {
-        throw ArgumentFault(
-            QStringLiteral("\"%1\" is not valid UTF-8").arg(QString::fromUtf8(bytes)));
+        throw ArgumentFault(u"\"%1\" is not valid UTF-8"_s.arg(QString::fromUtf8(bytes)));
     }
     return text;
 }
 
 PageMargins parseMargins(const QString &text) {
-    const QString fault =
-        QStringLiteral("\"%1\" is neither one whole number nor four as T,R,B,L").arg(text);
+    const QString fault = u"\"%1\" is neither one whole number nor four as T,R,B,L"_s.arg(text);
     const QStringList numbers = text.split(u',');
     if (numbers.size() == 1) {
         const qint64 all = wholeNumber(text, fault);
@@ -73,8 +73,7 @@ void parseTextPageSize(const QString &text, PageSetup &setup) {
         }
     }
     takeCustomSize(text, TextPageCustom,
-                   QStringLiteral("\"%1\" is none of A3, A4, A5 and no size as WxH").arg(text),
-                   setup);
+                   u"\"%1\" is none of A3, A4, A5 and no size as WxH"_s.arg(text), setup);
 }
 
 void parseImagePageSize(const QString &text, PageSetup &setup) {
@@ -83,8 +82,7 @@ void parseImagePageSize(const QString &text, PageSetup &setup) {
         return;
     }
     takeCustomSize(text, ImagePageCustom,
-                   QStringLiteral("\"%1\" is neither \"image\" nor a size as WxH").arg(text),
-                   setup);
+                   u"\"%1\" is neither \"image\" nor a size as WxH"_s.arg(text), setup);
 }
 
 } // namespace folioforge

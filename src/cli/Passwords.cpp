@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -16,8 +18,8 @@ constexpr qint64 kLongestLine = 65536;
 QByteArray readLine(QFile &file, const QByteArray &name) {
     QByteArray line = file.readLine(kLongestLine);
     if (file.error() != QFileDevice::NoError) {
-        throw ArgumentFault(QStringLiteral("The password file \"%1\" cannot be read: %2")
-                                .arg(QString::fromUtf8(name), file.errorString()));
+        throw ArgumentFault(u"The password file \"%1\" cannot be read: %2"_s.arg(
+            QString::fromUtf8(name), file.errorString()));
     }
     while (line.endsWith('\n') || line.endsWith('\r')) {
         line.chop(1);
@@ -39,7 +41,7 @@ class PasswordReader {
             return textOf(bytes);
         } catch (const ArgumentFault &) {
             // The usual words would print the password.
-            throw ArgumentFault(QStringLiteral("A password is not valid UTF-8"));
+            throw ArgumentFault(u"A password is not valid UTF-8"_s);
         }
     }
 
@@ -47,14 +49,14 @@ class PasswordReader {
     QByteArray firstLine(const QByteArray &name) {
         if (name == "-") {
             if (!m_input.isOpen() && !m_input.open(stdin, QIODevice::ReadOnly)) {
-                throw ArgumentFault(QStringLiteral("Standard input cannot be read"));
+                throw ArgumentFault(u"Standard input cannot be read"_s);
             }
             return readLine(m_input, name);
         }
         QFile file(QFile::decodeName(name));
         if (!file.open(QIODevice::ReadOnly)) {
-            throw ArgumentFault(QStringLiteral("The password file \"%1\" cannot be read: %2")
-                                    .arg(QString::fromUtf8(name), file.errorString()));
+            throw ArgumentFault(u"The password file \"%1\" cannot be read: %2"_s.arg(
+                QString::fromUtf8(name), file.errorString()));
         }
         return readLine(file, name);
     }

@@ -9,6 +9,8 @@
 #include <unistd.h>
 #include <wchar.h>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -76,8 +78,7 @@ void ProgressLine::show() {
     }
     // The line must not wrap, or it could not be taken away again.
     constexpr int kLongestName = 48;
-    m_console.showProgress(QStringLiteral("%1 of %2  %3 %  %4")
-                               .arg(m_current + 1)
+    m_console.showProgress(u"%1 of %2  %3 %  %4"_s.arg(m_current + 1)
                                .arg(m_names.size())
                                .arg(static_cast<int>(m_value))
                                .arg(lastColumns(printable(m_names[m_current]), kLongestName)));

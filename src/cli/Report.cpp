@@ -11,37 +11,37 @@
 #include <map>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
 QString nameOf(InputResult::State state) {
     switch (state) {
     case InputResult::State::Finished:
-        return QStringLiteral("finished");
+        return u"finished"_s;
     case InputResult::State::Failed:
-        return QStringLiteral("failed");
+        return u"failed"_s;
     case InputResult::State::Rejected:
         break;
     }
-    return QStringLiteral("rejected");
+    return u"rejected"_s;
 }
 
 QString nameOf(EmbeddedAs embedded) {
-    return embedded == EmbeddedAs::OwnBytes ? QStringLiteral("own bytes")
-                                            : QStringLiteral("recompressed");
+    return embedded == EmbeddedAs::OwnBytes ? u"own bytes"_s : u"recompressed"_s;
 }
 
 void addTo(QJsonObject &object, const CompressionOutcome &compression) {
     QJsonArray left;
     for (const KeptImage &image : compression.imagesKept) {
-        left.append(QJsonObject{{QStringLiteral("page"), image.page},
-                                {QStringLiteral("object"), image.object},
-                                {QStringLiteral("reason"), image.reason}});
+        left.append(QJsonObject{
+            {u"page"_s, image.page}, {u"object"_s, image.object}, {u"reason"_s, image.reason}});
     }
-    object.insert(QStringLiteral("bytesBefore"), compression.bytesBefore);
-    object.insert(QStringLiteral("bytesAfter"), compression.bytesAfter);
-    object.insert(QStringLiteral("imagesReduced"), compression.imagesReduced);
-    object.insert(QStringLiteral("imagesLeft"), left);
+    object.insert(u"bytesBefore"_s, compression.bytesBefore);
+    object.insert(u"bytesAfter"_s, compression.bytesAfter);
+    object.insert(u"imagesReduced"_s, compression.imagesReduced);
+    object.insert(u"imagesLeft"_s, left);
 }
 
 QByteArray escapedUnits(const QString &text) {
@@ -76,37 +76,35 @@ QString pagesInWords(std::vector<int> pages) {
         numbers += QString::number(pages[i]);
     }
     if (pages.size() > kMost) {
-        numbers += QStringLiteral("...");
+        numbers += u"..."_s;
     }
-    return (pages.size() == 1 ? QStringLiteral("page ") : QStringLiteral("pages ")) +
-           numbers.join(QStringLiteral(", "));
+    return (pages.size() == 1 ? u"page "_s : u"pages "_s) + numbers.join(u", "_s);
 }
 
 } // namespace
 
 QByteArray toJson(const InputResult &result) {
-    QJsonObject object{{QStringLiteral("input"), result.input},
-                       {QStringLiteral("output"),
-                        result.output.isEmpty() ? QJsonValue() : QJsonValue(result.output)},
-                       {QStringLiteral("pages"), result.pages},
-                       {QStringLiteral("state"), nameOf(result.state)}};
+    QJsonObject object{
+        {u"input"_s, result.input},
+        {u"output"_s, result.output.isEmpty() ? QJsonValue() : QJsonValue(result.output)},
+        {u"pages"_s, result.pages},
+        {u"state"_s, nameOf(result.state)}};
     if (!result.message.isEmpty()) {
-        object.insert(QStringLiteral("message"), result.message);
+        object.insert(u"message"_s, result.message);
     }
     if (result.embedded) {
-        object.insert(QStringLiteral("embedded"), nameOf(*result.embedded));
+        object.insert(u"embedded"_s, nameOf(*result.embedded));
     }
     if (result.compression && result.compression->error.isEmpty()) {
         addTo(object, *result.compression);
     } else if (result.compression) {
-        object.insert(QStringLiteral("notCompressed"), result.compression->error);
+        object.insert(u"notCompressed"_s, result.compression->error);
     }
     return escaped(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }
 
 QString toWords(const CompressionOutcome &compression) {
-    QString words = QStringLiteral("%1 -> %2 bytes, images reduced: %3")
-                        .arg(compression.bytesBefore)
+    QString words = u"%1 -> %2 bytes, images reduced: %3"_s.arg(compression.bytesBefore)
                         .arg(compression.bytesAfter)
                         .arg(compression.imagesReduced);
     std::map<QString, std::vector<int>> pagesByReason;
@@ -114,9 +112,7 @@ QString toWords(const CompressionOutcome &compression) {
         pagesByReason[image.reason].push_back(image.page);
     }
     for (const auto &[reason, pages] : pagesByReason) {
-        words += QStringLiteral(", left: %1 (%2; %3)")
-                     .arg(pages.size())
-                     .arg(reason, pagesInWords(pages));
+        words += u", left: %1 (%2; %3)"_s.arg(pages.size()).arg(reason, pagesInWords(pages));
     }
     return words;
 }
@@ -126,8 +122,7 @@ QString toMessage(const InputResult &result) {
         return {};
     }
     const bool warning = result.state == InputResult::State::Finished;
-    return result.input + (warning ? QStringLiteral(": warning: ") : QStringLiteral(": ")) +
-           result.message;
+    return result.input + (warning ? u": warning: "_s : u": "_s) + result.message;
 }
 
 } // namespace folioforge

@@ -17,6 +17,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -63,7 +65,7 @@ class Run {
 
     ExitStatus complainOfNoInput() {
         if (!m_someFailed) {
-            m_console.complain(QStringLiteral("There is no file to convert"));
+            m_console.complain(u"There is no file to convert"_s);
         }
         return SomeFailed;
     }
@@ -82,7 +84,7 @@ class Run {
 
     void complainOfRefused(const Notice &notice) {
         m_console.complain(notice.title);
-        for (const QString &line : notice.message.split(QStringLiteral("\r\n"))) {
+        for (const QString &line : notice.message.split(u"\r\n"_s)) {
             m_console.addLine(line);
         }
     }
@@ -156,8 +158,7 @@ class Run {
         }
         if (!compression.error.isEmpty()) {
             m_someFailed = true;
-            m_console.complain(
-                QStringLiteral("%1: not compressed: %2").arg(printable(path), compression.error));
+            m_console.complain(u"%1: not compressed: %2"_s.arg(printable(path), compression.error));
         }
         return compression;
     }
@@ -186,7 +187,7 @@ class Run {
     }
 
     static QString afterWarning(const QString &warning, const QString &reason) {
-        return warning.isEmpty() ? reason : warning + QStringLiteral(". ") + reason;
+        return warning.isEmpty() ? reason : warning + u". "_s + reason;
     }
 
     void report(const InputResult &result) {

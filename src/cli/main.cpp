@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <exception>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -26,7 +27,7 @@ int run(int argc, char *argv[]) {
     Console console;
     if (const auto *fault = std::get_if<UsageError>(&parsed)) {
         console.complain(fault->message);
-        console.complain(QStringLiteral("Try \"folioforge-cli --help\"."));
+        console.complain(u"Try \"folioforge-cli --help\"."_s);
         return WrongUsage;
     }
     const auto &arguments = std::get<Arguments>(parsed);

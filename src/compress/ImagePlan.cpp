@@ -9,6 +9,8 @@
 #include <limits>
 #include <string_view>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -266,8 +268,7 @@ void planUse(QPDF &document, const ImageUse &use, const QuartzFilter &filter, Im
     } catch (const Error &error) {
         plan.left.push_back({use.page, use.image.getObj(), error.reason()});
     } catch (const std::exception &) {
-        plan.left.push_back(
-            {use.page, use.image.getObj(), QStringLiteral("damaged: its description is wrong")});
+        plan.left.push_back({use.page, use.image.getObj(), u"damaged: its description is wrong"_s});
     }
 }
 

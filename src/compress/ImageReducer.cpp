@@ -15,6 +15,8 @@
 #include <numeric>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -40,7 +42,7 @@ Size scaled(const ImageJob &job) {
 }
 
 Error wrongSize() {
-    return Error(QStringLiteral("the data is of another size than the image says"));
+    return Error(u"the data is of another size than the image says"_s);
 }
 
 int eighthsFor(double scale) {
@@ -54,7 +56,7 @@ PlanarImage decodeJpeg(const ImageJob &job, const std::string &data) {
         throw wrongSize();
     }
     if (job.scale >= 1 && reader.quality() < job.jpegQuality + kQualityGain) {
-        throw Error(QStringLiteral("already a JPEG of no higher quality"));
+        throw Error(u"already a JPEG of no higher quality"_s);
     }
     return reader.decode(eighthsFor(job.scale));
 }
@@ -88,7 +90,7 @@ PlanarImage unpackSamples(const ImageJob &job, const std::string &data) {
     const std::size_t step = stored * static_cast<std::size_t>(job.bitsPerComponent) / 8;
     PlanarImage image(job.width, job.height);
     if (data.size() / step < static_cast<std::size_t>(job.width) * job.height) {
-        throw Error(QStringLiteral("less data than the image's size needs"));
+        throw Error(u"less data than the image's size needs"_s);
     }
     image.addPlanes(job.components);
     if (!job.palette.empty()) {
@@ -135,7 +137,7 @@ bool looksDrawn(const PlanarImage &image) {
 PlanarImage decodeSamples(const ImageJob &job, const std::string &data) {
     PlanarImage image = unpackSamples(job, data);
     if (job.purpose == ImagePurpose::Photo && job.lineArt == LineArt::Keep && looksDrawn(image)) {
-        throw Error(QStringLiteral("line art"));
+        throw Error(u"line art"_s);
     }
     toJpegColour(image);
     return image;
@@ -175,7 +177,7 @@ Reduction reduce(const ImageJob &job) {
         asFlate ? encodeFlate(image.planes[0]) : encodeJpeg(image, job.jpegQuality), image.width,
         image.height, image.components(), asFlate ? ReducedForm::Flate : ReducedForm::Jpeg};
     if (reduced.data.size() >= job.data.size()) {
-        return {std::nullopt, QStringLiteral("would not get smaller")};
+        return {std::nullopt, u"would not get smaller"_s};
     }
     return {std::move(reduced), {}};
 }
@@ -188,7 +190,7 @@ Reduction reduceImage(const ImageJob &job) noexcept {
     } catch (const Error &error) {
         return {std::nullopt, error.reason()};
     } catch (const std::bad_alloc &) {
-        return {std::nullopt, QStringLiteral("too large for the memory")};
+        return {std::nullopt, u"too large for the memory"_s};
     } catch (const std::exception &error) {
         return {std::nullopt, QString::fromUtf8(error.what())};
     }

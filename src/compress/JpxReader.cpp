@@ -8,6 +8,8 @@
 #include <memory>
 #include <span>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -26,7 +28,7 @@ OpenJpegSource sourceOf(std::string_view data) {
 }
 
 Error damaged() {
-    return Error(QStringLiteral("damaged JPEG 2000 data"));
+    return Error(u"damaged JPEG 2000 data"_s);
 }
 
 bool isBareCodestream(std::string_view data) {
@@ -46,13 +48,13 @@ unsigned halvings(opj_codec_t *codec, double scale) {
 
 void requireHandled(const opj_image_t &image) {
     if (image.numcomps != 1 && image.numcomps != 3 && image.numcomps != 4) {
-        throw Error(QStringLiteral("JPEG 2000 data with %1 components").arg(image.numcomps));
+        throw Error(u"JPEG 2000 data with %1 components"_s.arg(image.numcomps));
     }
     for (unsigned i = 0; i < image.numcomps; ++i) {
         const opj_image_comp_t &part = image.comps[i];
         if (part.w != image.comps[0].w || part.h != image.comps[0].h || part.dx != 1 ||
             part.dy != 1 || part.sgnd || part.prec < 8 || part.prec > 16 || part.alpha != 0) {
-            throw Error(QStringLiteral("JPEG 2000 data of an unusual layout"));
+            throw Error(u"JPEG 2000 data of an unusual layout"_s);
         }
     }
 }
@@ -98,7 +100,7 @@ PlanarImage decodeJpx(std::string_view data, int width, int height, double scale
     requireHandled(*image);
     if (static_cast<qint64>(image->x1) - image->x0 != width ||
         static_cast<qint64>(image->y1) - image->y0 != height) {
-        throw Error(QStringLiteral("JPEG 2000 data of another size than the image says"));
+        throw Error(u"JPEG 2000 data of another size than the image says"_s);
     }
     if (!opj_set_decoded_resolution_factor(codec.get(), halvings(codec.get(), scale)) ||
         !opj_decode(codec.get(), stream.get(), image.get()) ||
@@ -109,7 +111,7 @@ PlanarImage decodeJpx(std::string_view data, int width, int height, double scale
     requireHandled(*image);
     if (image->color_space == OPJ_CLRSPC_SYCC ||
         (colour == JpxColour::OfData && !isPlainColour(*image))) {
-        throw Error(QStringLiteral("JPEG 2000 data of an unusual colour space"));
+        throw Error(u"JPEG 2000 data of an unusual colour space"_s);
     }
     return toBytes(*image);
 }

@@ -8,6 +8,8 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 std::string decodeLossless(const std::string &data, const std::string &filter,
@@ -30,14 +32,14 @@ std::string decodeLossless(const std::string &data, const std::string &filter,
         bool filtered = false;
         const bool whole = stream.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized, true);
         if (!filtered || !whole || scratch.anyWarnings()) {
-            throw Error(QStringLiteral("damaged compressed data"));
+            throw Error(u"damaged compressed data"_s);
         }
     } catch (const TooLong &) {
-        throw Error(QStringLiteral("more data than the image's size allows"));
+        throw Error(u"more data than the image's size allows"_s);
     } catch (const Error &) {
         throw;
     } catch (const std::exception &) {
-        throw Error(QStringLiteral("damaged compressed data"));
+        throw Error(u"damaged compressed data"_s);
     }
     return decoded;
 }

@@ -13,6 +13,8 @@
 #include <memory>
 #include <type_traits>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -32,7 +34,7 @@ struct FreeMemory {
 };
 
 Error noPropertyList(const QString &path) {
-    return Error(QStringLiteral("%1 is no valid property list").arg(path));
+    return Error(u"%1 is no valid property list"_s.arg(path));
 }
 
 /// Null where the bytes are no list.
@@ -143,7 +145,7 @@ QVariant toVariant(plist_t node, int depth) {
 QVariantMap readPropertyList(const QString &path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        throw Error(QStringLiteral("%1 cannot be read: %2").arg(path, file.errorString()));
+        throw Error(u"%1 cannot be read: %2"_s.arg(path, file.errorString()));
     }
     if (file.size() > kMaxBytes) {
         throw noPropertyList(path);

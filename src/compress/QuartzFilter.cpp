@@ -5,6 +5,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -45,8 +47,7 @@ class FilterReader {
 
   private:
     [[nodiscard]] Error wrong(const QString &key) const {
-        return Error(
-            QStringLiteral("The filter file %1 lacks a valid value for \"%2\"").arg(m_path, key));
+        return Error(u"The filter file %1 lacks a valid value for \"%2\""_s.arg(m_path, key));
     }
 
     QString m_path;
@@ -56,25 +57,23 @@ class FilterReader {
 } // namespace
 
 QString quartzFilterName(int index) {
-    static const std::array<QString, 4> names{QString(), QStringLiteral("150m"),
-                                              QStringLiteral("96m"), QStringLiteral("72l")};
+    static const std::array<QString, 4> names{QString(), u"150m"_s, u"96m"_s, u"72l"_s};
     return index >= 0 && index < static_cast<int>(names.size()) ? names[index] : QString();
 }
 
 QString quartzFilterPath(const QString &bundlePath, const QString &name) {
-    return QStringLiteral("%1/Contents/Resources/%2.qfilter").arg(bundlePath, name);
+    return u"%1/Contents/Resources/%2.qfilter"_s.arg(bundlePath, name);
 }
 
 QuartzFilter readQuartzFilter(const QString &path) {
     const FilterReader file(path, readPropertyList(path));
     QuartzFilter filter;
-    filter.resolution = file.number(QStringLiteral("Resolution"), 9, 2400);
-    filter.jpegQuality = static_cast<int>(file.number(QStringLiteral("JPEGQuality"), 1, 100));
-    const FilterReader left = file.dictionary(QStringLiteral("LeaveAlone"));
-    filter.tolerance = left.number(QStringLiteral("ResolutionTolerance"), 1, 10);
-    filter.smallestImage =
-        static_cast<qint64>(left.number(QStringLiteral("FewerPixelsThan"), 0, 1e9));
-    filter.keepLineArt = left.boolean(QStringLiteral("LineArt"));
+    filter.resolution = file.number(u"Resolution"_s, 9, 2400);
+    filter.jpegQuality = static_cast<int>(file.number(u"JPEGQuality"_s, 1, 100));
+    const FilterReader left = file.dictionary(u"LeaveAlone"_s);
+    filter.tolerance = left.number(u"ResolutionTolerance"_s, 1, 10);
+    filter.smallestImage = static_cast<qint64>(left.number(u"FewerPixelsThan"_s, 0, 1e9));
+    filter.keepLineArt = left.boolean(u"LineArt"_s);
     return filter;
 }
 

@@ -5,6 +5,8 @@
 #include <memory>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -95,7 +97,7 @@ Reduction ReducedStreams::reduce(std::size_t index) {
     try {
         return m_queue.take(index);
     } catch (const std::exception &) {
-        return {std::nullopt, QStringLiteral("damaged: its data cannot be read")};
+        return {std::nullopt, u"damaged: its data cannot be read"_s};
     }
 }
 

@@ -7,6 +7,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 TemporaryCopy::TemporaryCopy(const QString &folder, const QString &source, SystemCalls &calls)
@@ -32,7 +34,7 @@ std::shared_ptr<const PartFile> TemporaryCopy::finish() {
     const QFileInfo source(m_source);
     auto part = publishedAs(source.fileName());
     for (int n = 1; !part; ++n) {
-        part = publishedAs(source.completeBaseName() + QStringLiteral("(%1).pdf").arg(n));
+        part = publishedAs(source.completeBaseName() + u"(%1).pdf"_s.arg(n));
     }
     return part;
 }
@@ -40,7 +42,7 @@ std::shared_ptr<const PartFile> TemporaryCopy::finish() {
 void appendFile(OutputFile &target, const QString &path) {
     QFile source(path);
     if (!source.open(QIODevice::ReadOnly)) {
-        throw Error(QStringLiteral("Cannot read %1: %2").arg(path, source.errorString()));
+        throw Error(u"Cannot read %1: %2"_s.arg(path, source.errorString()));
     }
     constexpr std::size_t kBlock = 1 << 16;
     std::array<char, kBlock> block{};
@@ -49,7 +51,7 @@ void appendFile(OutputFile &target, const QString &path) {
         target.write({block.data(), static_cast<std::size_t>(count)});
     }
     if (count < 0) {
-        throw Error(QStringLiteral("Cannot read %1: %2").arg(path, source.errorString()));
+        throw Error(u"Cannot read %1: %2"_s.arg(path, source.errorString()));
     }
 }
 

@@ -5,18 +5,19 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
 std::optional<Notice> checkOutputFolder(const QString &folder) {
     if (folder.isEmpty()) {
-        return notice(
-            QStringLiteral("Please select an output folder to store the output documents."));
+        return notice(u"Please select an output folder to store the output documents."_s);
     }
     const QFileInfo info(folder);
     if (!info.isDir() || !info.isWritable()) {
-        return notice(QStringLiteral("Selected output folder does not exist or is not writable. "
-                                     "Click \"OK\" to select another folder."));
+        return notice(u"Selected output folder does not exist or is not writable. "
+                      "Click \"OK\" to select another folder."_s);
     }
     return std::nullopt;
 }
@@ -49,7 +50,7 @@ std::optional<Notice> checkMergedFile(const ConversionOptions &options) {
         return std::nullopt;
     }
     if (options.outputName.isEmpty()) {
-        return notice(QStringLiteral("Please input output file name."));
+        return notice(u"Please input output file name."_s);
     }
     if (isNameTaken(mergedFilePath(options))) {
         return nameExistsNotice();
@@ -82,8 +83,7 @@ std::optional<Notice> checkConversion(const ConversionOptions &options) {
 }
 
 Notice nameExistsNotice() {
-    return notice(
-        QStringLiteral("File name already exists in output folder, please input another name."));
+    return notice(u"File name already exists in output folder, please input another name."_s);
 }
 
 } // namespace folioforge

@@ -25,6 +25,8 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -127,7 +129,7 @@ void runPass(const QString &path, const QuartzFilter &filter, const ConversionOp
 QString filterFile(const ConversionOptions &options, const CompressionPlaces &places) {
     const QString name = quartzFilterName(options.compressIndex);
     if (name.isEmpty()) {
-        throw Error(QStringLiteral("There is no compress method %1").arg(options.compressIndex));
+        throw Error(u"There is no compress method %1"_s.arg(options.compressIndex));
     }
     return quartzFilterPath(places.bundlePath, name);
 }
@@ -199,7 +201,7 @@ void putInPlace(const ConvertInfo &convertInfo, Flush flush, SystemCalls &calls)
     const QString &destination = convertInfo.destFilePathName;
     const QString &copy = convertInfo.tempFilePathName;
     if (copy.isEmpty()) {
-        throw Error(QStringLiteral("There is no compressed copy"));
+        throw Error(u"There is no compressed copy"_s);
     }
     try {
         copyFor(destination, copy, flush, calls)->replace(destination, flush);

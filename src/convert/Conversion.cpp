@@ -8,6 +8,8 @@
 
 #include <new>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -37,7 +39,7 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
         break;
     case FileKind::Pdf:
         if (addPDFFile(entry, context) == 0) {
-            outcome.message = QStringLiteral("The document has no pages");
+            outcome.message = u"The document has no pages"_s;
         }
         break;
     case FileKind::Image:
@@ -71,7 +73,7 @@ CloseResult notWritten(const QString &reason) {
 CloseResult closeContext(PDFContext &context, const QString &fileName,
                          const ConversionOptions &options) {
     if (context.pageCount() == 0) {
-        return notWritten(QStringLiteral("There is no page to write"));
+        return notWritten(u"There is no page to write"_s);
     }
     std::function<QString()> nextPath;
     if (!options.merge) {
@@ -120,7 +122,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
         outcome.close = closeContext(context, fileName, options);
     }
     if (stop.stop_requested() && outcome.close.status != CloseResult::Status::Written) {
-        outcome.close = notWritten(QStringLiteral("The conversion was stopped"));
+        outcome.close = notWritten(u"The conversion was stopped"_s);
     }
     return outcome;
 }

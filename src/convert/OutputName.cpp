@@ -5,6 +5,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -16,15 +18,14 @@ QString join(const QString &folder, const QString &name) {
 
 QString mergedFilePath(const ConversionOptions &options) {
     const bool named = pathExtension(options.outputName).toLower() == u"pdf";
-    return join(options.outputFolder,
-                named ? options.outputName : options.outputName + QStringLiteral(".pdf"));
+    return join(options.outputFolder, named ? options.outputName : options.outputName + u".pdf"_s);
 }
 
 QString singleFilePath(const QString &folder, const QString &fileName) {
     const QString base = withoutExtension(fileName);
-    QString path = join(folder, fittingName(base, QStringLiteral(".pdf")));
+    QString path = join(folder, fittingName(base, u".pdf"_s));
     for (int number = 1; isNameTaken(path); ++number) {
-        path = join(folder, fittingName(base, QStringLiteral("(%1).pdf").arg(number)));
+        path = join(folder, fittingName(base, u"(%1).pdf"_s.arg(number)));
     }
     return path;
 }

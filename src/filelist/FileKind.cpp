@@ -4,6 +4,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 FileKind fileKind(const QString &path) {
@@ -17,14 +19,11 @@ FileKind fileKind(const QString &path) {
 }
 
 const QStringList &extensionsOf(FileKind kind) {
-    static const QStringList text{QStringLiteral("txt")};
-    static const QStringList image{
-        QStringLiteral("png"), QStringLiteral("bmp"),  QStringLiteral("gif"),
-        QStringLiteral("jpg"), QStringLiteral("jpeg"), QStringLiteral("icns"),
-        QStringLiteral("ico"), QStringLiteral("exr"),  QStringLiteral("jp2"),
-        QStringLiteral("tif"), QStringLiteral("tiff"), QStringLiteral("tga"),
-        QStringLiteral("psd")};
-    static const QStringList pdf{QStringLiteral("pdf")};
+    static const QStringList text{u"txt"_s};
+    static const QStringList image{u"png"_s,  u"bmp"_s, u"gif"_s, u"jpg"_s, u"jpeg"_s,
+                                   u"icns"_s, u"ico"_s, u"exr"_s, u"jp2"_s, u"tif"_s,
+                                   u"tiff"_s, u"tga"_s, u"psd"_s};
+    static const QStringList pdf{u"pdf"_s};
     static const QStringList none;
     switch (kind) {
     case FileKind::Text:

@@ -13,6 +13,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -25,9 +27,7 @@ int wholePoints(double length) {
 }
 
 QString dimensionsText(QSizeF size) {
-    return QStringLiteral("%1 \u00d7 %2")
-        .arg(wholePoints(size.width()))
-        .arg(wholePoints(size.height()));
+    return u"%1 \u00d7 %2"_s.arg(wholePoints(size.width())).arg(wholePoints(size.height()));
 }
 
 QVariant dateOrNothing(const QDateTime &date) {
@@ -61,7 +61,7 @@ void PDFFileInfo::readText() {
         if (auto text = readTextFile(m_filePathName)) {
             m_fileString = std::move(*text);
         } else {
-            m_readWarning = QStringLiteral("The text is not valid UTF-8; its page is left blank");
+            m_readWarning = u"The text is not valid UTF-8; its page is left blank"_s;
         }
     } catch (const Error &error) {
         m_readError = error.reason();
@@ -87,19 +87,19 @@ void PDFFileInfo::setStateIndex(int code) {
     m_stateIndex = code;
     switch (code) {
     case Waiting:
-        m_state = RichText{QStringLiteral("Waiting..."), false, {}};
+        m_state = RichText{u"Waiting..."_s, false, {}};
         break;
     case Converting:
-        m_state = RichText{QStringLiteral("Converting..."), false, {}};
+        m_state = RichText{u"Converting..."_s, false, {}};
         break;
     case FinishedAsLink:
         m_state = linkText();
         break;
     case Finished:
-        m_state = RichText{QStringLiteral("Finished"), false, {}};
+        m_state = RichText{u"Finished"_s, false, {}};
         break;
     case Failed:
-        m_state = RichText{QStringLiteral("Failed"), false, {}};
+        m_state = RichText{u"Failed"_s, false, {}};
         break;
     default:
         m_state.reset();
@@ -121,7 +121,7 @@ QString PDFFileInfo::getShortDestFileName(int shrink) const {
         return m_destFileName;
     }
     return m_destFileName.first(std::clamp<qsizetype>(kHeadLength - shrink, 0, kHeadLength)) +
-           QStringLiteral("...") + m_destFileName.right(kTailLength);
+           u"..."_s + m_destFileName.right(kTailLength);
 }
 
 float PDFFileInfo::GetWidthOfName(const QString &name) {

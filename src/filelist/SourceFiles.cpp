@@ -9,6 +9,8 @@
 #include <filesystem>
 #include <system_error>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -32,8 +34,8 @@ std::vector<QByteArray> recognisedNames(const QByteArray &folder) {
         entry.increment(failure);
     }
     if (failure) {
-        throw Error(QStringLiteral("The folder cannot be listed: %1")
-                        .arg(QString::fromLocal8Bit(failure.message().c_str())));
+        throw Error(u"The folder cannot be listed: %1"_s.arg(
+            QString::fromLocal8Bit(failure.message().c_str())));
     }
     return names;
 }
@@ -59,19 +61,19 @@ QString sizeText(qint64 bytes) {
     const auto padded = static_cast<qint32>(static_cast<quint32>(counted) + (kBlock - 1));
     const auto rounded = static_cast<qint32>(padded / kBlock * kBlock);
     if (rounded <= kKilobyte) {
-        return QStringLiteral("4 KB");
+        return u"4 KB"_s;
     }
     if (rounded <= kLargestInKilobytes) {
-        return QStringLiteral("%1 KB").arg(rounded / kKilobyte);
+        return u"%1 KB"_s.arg(rounded / kKilobyte);
     }
-    return QStringLiteral("%1 MB").arg(QString::number(rounded / kMegabyte, 'f', 1));
+    return u"%1 MB"_s.arg(QString::number(rounded / kMegabyte, 'f', 1));
 }
 
 bool isAcceptablePdf(const QString &path, QString *reason) {
     QString refusal;
     try {
         if (summarizePDF(path).encrypted) {
-            refusal = QStringLiteral("The document is encrypted");
+            refusal = u"The document is encrypted"_s;
         }
     } catch (const Error &error) {
         refusal = error.reason();
@@ -85,11 +87,11 @@ bool isAcceptablePdf(const QString &path, QString *reason) {
 Notice badFilesNotice(const QStringList &paths) {
     QStringList lines;
     for (const QString &path : paths) {
-        lines += QStringLiteral("    ") + path;
+        lines += u"    "_s + path;
     }
-    return {QStringLiteral("Fail to import following files. They are encrypted or not normal PDF "
-                           "files:"),
-            lines.join(QStringLiteral("\r\n")).replace(QStringLiteral("%%"), QStringLiteral("%"))};
+    return {u"Fail to import following files. They are encrypted or not normal PDF "
+            "files:"_s,
+            lines.join(u"\r\n"_s).replace(u"%%"_s, u"%"_s)};
 }
 
 } // namespace folioforge

@@ -11,6 +11,8 @@
 #include <limits>
 #include <new>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -26,14 +28,14 @@ std::optional<QString> readWholeText(const QString &path) {
     QFile file(path);
     openForReading(file);
     if (file.size() > std::numeric_limits<int>::max()) {
-        throw Error(QStringLiteral("The text is larger than 2 GB"));
+        throw Error(u"The text is larger than 2 GB"_s);
     }
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         throw Error(file.errorString());
     }
     if (SourceFile::examine(path) != examined) {
-        throw Error(QStringLiteral("The file was changed while it was being read"));
+        throw Error(u"The file was changed while it was being read"_s);
     }
     QString text = decodeText(bytes);
     return text.isNull() ? std::nullopt : std::optional(std::move(text));
@@ -44,10 +46,10 @@ std::optional<QString> readWholeText(const QString &path) {
 void requireReadableFile(const QString &path) {
     const QFileInfo info(path);
     if (!info.exists()) {
-        throw Error(QStringLiteral("No such file or directory"));
+        throw Error(u"No such file or directory"_s);
     }
     if (!info.isFile()) {
-        throw Error(QStringLiteral("It is not a regular file"));
+        throw Error(u"It is not a regular file"_s);
     }
     QFile file(path);
     openForReading(file);

@@ -12,20 +12,22 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
 
 [[noreturn]] void throwSystemError(const QString &what, int code) {
-    throw Error(what + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(code)));
+    throw Error(what + u": "_s + QString::fromLocal8Bit(std::strerror(code)));
 }
 
 void requireRegularFile(const struct stat &status) {
     if (S_ISDIR(status.st_mode)) {
-        throw Error(QStringLiteral("It is a folder, not an image file"));
+        throw Error(u"It is a folder, not an image file"_s);
     }
     if (!S_ISREG(status.st_mode)) {
-        throw Error(QStringLiteral("It is not a regular file"));
+        throw Error(u"It is not a regular file"_s);
     }
 }
 
@@ -58,7 +60,7 @@ ImageFile::~ImageFile() {
 }
 
 ImageFile ImageFile::open(const QString &path) {
-    const QString failed = QStringLiteral("The file cannot be opened");
+    const QString failed = u"The file cannot be opened"_s;
     const QByteArray name = QFile::encodeName(path);
     struct stat status = {};
     if (::stat(name.constData(), &status) != 0) {
@@ -84,7 +86,7 @@ void ImageFile::requireUnchanged() const {
     struct stat status = {};
     if (::fstat(m_descriptor, &status) != 0 || status.st_size != m_size ||
         folioforge::modifiedNanos(status) != m_modifiedNanos) {
-        throw Error(QStringLiteral("The file was changed while it was being converted"));
+        throw Error(u"The file was changed while it was being converted"_s);
     }
 }
 
@@ -97,7 +99,7 @@ qint64 ImageFile::readInto(qint64 at, std::span<uchar> target) const {
             continue;
         }
         if (got < 0) {
-            throwSystemError(QStringLiteral("The file cannot be read"), errno);
+            throwSystemError(u"The file cannot be read"_s, errno);
         }
         if (got == 0) {
             break;
@@ -138,14 +140,14 @@ QByteArray FileView::read(qint64 at, qint64 length) const {
 QByteArray FileView::readExactly(qint64 at, qint64 length) const {
     QByteArray bytes = read(at, length);
     if (bytes.size() != length) {
-        throw Error(QStringLiteral("The file ends too early"));
+        throw Error(u"The file ends too early"_s);
     }
     return bytes;
 }
 
 FileView FileView::part(qint64 at, qint64 length) const {
     if (at < 0 || length < 0 || at > m_size || length > m_size - at) {
-        throw Error(QStringLiteral("The file ends too early"));
+        throw Error(u"The file ends too early"_s);
     }
     return {*m_file, m_offset + at, length};
 }

@@ -15,6 +15,8 @@
 #include <cstring>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -87,9 +89,9 @@ OutputFile::~OutputFile() {
 
 void OutputFile::fail(const char *doing) const {
     const int reason = errno;
-    throw Error(QStringLiteral("Cannot %1 a file in %2: %3")
-                    .arg(QString::fromLatin1(doing), QFile::decodeName(m_folder.c_str()),
-                         QString::fromLocal8Bit(std::strerror(reason))));
+    throw Error(u"Cannot %1 a file in %2: %3"_s.arg(QString::fromLatin1(doing),
+                                                    QFile::decodeName(m_folder.c_str()),
+                                                    QString::fromLocal8Bit(std::strerror(reason))));
 }
 
 void OutputFile::openNamed(const QByteArray &fileName) {

@@ -2,6 +2,8 @@
 
 #include <QList>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -15,8 +17,7 @@ QString spelledOut(char32_t character) {
     constexpr int kHexadecimal = 16;
     constexpr char32_t kLastAscii = 0x7F;
     const QString digits = QString::number(character, kHexadecimal).rightJustified(2, u'0');
-    return character <= kLastAscii ? QStringLiteral("\\x") + digits
-                                   : QStringLiteral("\\u{") + digits + u'}';
+    return character <= kLastAscii ? u"\\x"_s + digits : u"\\u{"_s + digits + u'}';
 }
 
 } // namespace

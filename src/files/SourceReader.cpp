@@ -13,6 +13,8 @@
 #include <cerrno>
 #include <cstring>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -21,8 +23,7 @@ constexpr qint64 kWindowSize = 64 << 10;
 constexpr qint64 kWindowAlignment = 16 << 10;
 
 [[noreturn]] void failToRead() {
-    throw Error(QStringLiteral("Cannot read the file: %1")
-                    .arg(QString::fromLocal8Bit(std::strerror(errno))));
+    throw Error(u"Cannot read the file: %1"_s.arg(QString::fromLocal8Bit(std::strerror(errno))));
 }
 
 } // namespace
@@ -33,7 +34,7 @@ SourceFile SourceFile::examine(const QString &path) {
         failToRead();
     }
     if (!S_ISREG(status.st_mode)) {
-        throw Error(QStringLiteral("This is not a regular file"));
+        throw Error(u"This is not a regular file"_s);
     }
     return {path, status.st_size, folioforge::modifiedNanos(status)};
 }
@@ -68,8 +69,7 @@ void SourceReader::requireUnchanged() const {
     }
     if (!S_ISREG(status.st_mode) || status.st_size != m_file.size ||
         modifiedNanos(status) != m_file.modifiedNanos) {
-        throw Error(QStringLiteral("The file %1 was changed while it was being converted")
-                        .arg(m_file.path));
+        throw Error(u"The file %1 was changed while it was being converted"_s.arg(m_file.path));
     }
 }
 
@@ -165,7 +165,7 @@ std::span<const char> SourceReader::view(const SourceFile &file, qint64 offset, 
     }
     const std::span<char> target(m_view.data(), static_cast<std::size_t>(size));
     if (read(file, offset, target) != target.size()) {
-        m_failure = QStringLiteral("The file %1 ended too early").arg(file.path);
+        m_failure = u"The file %1 ended too early"_s.arg(file.path);
         throw Error(*m_failure);
     }
     return target;

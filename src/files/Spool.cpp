@@ -14,6 +14,8 @@
 #include <cstring>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -22,7 +24,7 @@ constexpr qint64 kMemoryLimit = qint64{8} << 20;
 constexpr qint64 kWindowSize = qint64{256} << 10;
 
 [[noreturn]] void fail(const QString &what) {
-    throw Error(QStringLiteral("%1: %2").arg(what, QString::fromLocal8Bit(std::strerror(errno))));
+    throw Error(u"%1: %2"_s.arg(what, QString::fromLocal8Bit(std::strerror(errno))));
 }
 
 } // namespace
@@ -46,7 +48,7 @@ void Spool::openFile() {
         }
     }
     if (m_fd < 0) {
-        fail(QStringLiteral("Cannot create a temporary file"));
+        fail(u"Cannot create a temporary file"_s);
     }
 }
 
@@ -64,7 +66,7 @@ void Spool::moveToFile(QByteArrayView data) {
             errno = ENOSPC;
         }
         if (written <= 0) {
-            fail(QStringLiteral("Cannot write a temporary file"));
+            fail(u"Cannot write a temporary file"_s);
         }
         data = data.sliced(written);
         end += written;
@@ -103,7 +105,7 @@ void Spool::readWindow(Place place) {
         }
         if (got <= 0) {
             m_window.clear();
-            fail(QStringLiteral("Cannot read a temporary file"));
+            fail(u"Cannot read a temporary file"_s);
         }
         done += got;
     }

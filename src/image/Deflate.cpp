@@ -8,6 +8,8 @@
 #include <memory>
 #include <new>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -81,7 +83,7 @@ QByteArray inflateBytes(QByteArrayView bytes, qsizetype size) {
     size_t written = 0;
     const libdeflate_result result = inflateInto(bytes, out, written);
     if (result != LIBDEFLATE_SUCCESS || written != static_cast<size_t>(size)) {
-        throw Error(QStringLiteral("The compressed data is damaged"));
+        throw Error(u"The compressed data is damaged"_s);
     }
     return out;
 }
@@ -97,7 +99,7 @@ QByteArray inflateUpTo(QByteArrayView bytes, qsizetype limit) {
             return out;
         }
         if (result != LIBDEFLATE_INSUFFICIENT_SPACE || size == limit) {
-            throw Error(QStringLiteral("The compressed data is damaged"));
+            throw Error(u"The compressed data is damaged"_s);
         }
     }
 }

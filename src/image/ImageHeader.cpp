@@ -6,6 +6,8 @@
 #include <cmath>
 #include <new>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -31,12 +33,11 @@ double wholeWhereMeant(double dpi) {
 ImageHeader checked(ImageHeader header, ImageFormat format) {
     header.format = format;
     if (header.width <= 0 || header.height <= 0) {
-        throw Error(QStringLiteral("The image has no pixels"));
+        throw Error(u"The image has no pixels"_s);
     }
     if (qint64(header.width) * header.height > kMaxImagePixels) {
-        throw Error(QStringLiteral("The image is too large (%1 x %2 pixels)")
-                        .arg(header.width)
-                        .arg(header.height));
+        throw Error(
+            u"The image is too large (%1 x %2 pixels)"_s.arg(header.width).arg(header.height));
     }
     if (header.orientation < 1 || header.orientation > 8) {
         header.orientation = 1;
@@ -54,7 +55,7 @@ template<typename Work> auto withinMemory(const Work &work) {
     try {
         return work();
     } catch (const std::bad_alloc &) {
-        throw Error(QStringLiteral("There is not enough memory for the image"));
+        throw Error(u"There is not enough memory for the image"_s);
     }
 }
 

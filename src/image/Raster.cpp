@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <future>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -167,7 +169,7 @@ void requirePlausible(qint64 raw, qint64 compressed, qint64 ratio) {
     // Small images may be all header: the ratio counts only where memory is at stake.
     constexpr qint64 kNoMatter = 1 << 20;
     if (raw > kNoMatter && compressed < raw / ratio) {
-        throw Error(QStringLiteral("The file is too short for the image its header describes"));
+        throw Error(u"The file is too short for the image its header describes"_s);
     }
 }
 

@@ -9,6 +9,8 @@
 #include <limits>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -146,7 +148,7 @@ void unfilterRow(uchar filter, uchar *row, const uchar *above, qsizetype size, i
         unfilterWith(row, above, size, pixel, paethPredictor);
         break;
     default:
-        throw Error(QStringLiteral("The image's rows are damaged"));
+        throw Error(u"The image's rows are damaged"_s);
     }
 }
 
@@ -171,7 +173,7 @@ QByteArray filterRows(const QByteArray &rows, qsizetype stride, int pixelBytes) 
 
 QByteArray unfilterRows(QByteArray filtered, int height, qsizetype stride, int pixelBytes) {
     if (filtered.size() < height * (stride + 1)) {
-        throw Error(QStringLiteral("The image has fewer rows than its header says"));
+        throw Error(u"The image has fewer rows than its header says"_s);
     }
     auto *bytes = reinterpret_cast<uchar *>(filtered.data());
     const std::vector<uchar> zeros(static_cast<size_t>(stride));

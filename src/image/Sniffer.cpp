@@ -17,6 +17,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -34,7 +36,7 @@ const std::vector<Decoder> &decoders() {
 const Decoder &decoderFor(const FileView &file) {
     const QByteArray head = file.read(0, kSniffedBytes);
     if (head.isEmpty()) {
-        throw Error(QStringLiteral("The file is empty"));
+        throw Error(u"The file is empty"_s);
     }
     const auto &table = decoders();
     auto found = std::ranges::find_if(table, [&](const Decoder &decoder) {
@@ -47,7 +49,7 @@ const Decoder &decoderFor(const FileView &file) {
         });
     }
     if (found == table.end()) {
-        throw Error(QStringLiteral("The file is no image of a known format"));
+        throw Error(u"The file is no image of a known format"_s);
     }
     return *found;
 }

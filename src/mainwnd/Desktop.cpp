@@ -4,11 +4,12 @@
 #include <QFile>
 #include <QProcess>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 void SystemDesktop::runInShell(const QByteArray &command) {
-    QProcess::startDetached(QStringLiteral("/bin/sh"),
-                            {QStringLiteral("-c"), QFile::decodeName(command)});
+    QProcess::startDetached(u"/bin/sh"_s, {u"-c"_s, QFile::decodeName(command)});
 }
 
 void SystemDesktop::openURL(const QUrl &url) {

@@ -10,6 +10,8 @@
 #include <iterator>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -246,9 +248,8 @@ QVariant FilesArray::data(const QModelIndex &index, int role) const {
 }
 
 QVariant FilesArray::headerData(int section, Qt::Orientation orientation, int role) const {
-    static const std::array<QString, ColumnCount> titles{
-        QStringLiteral("No."), QStringLiteral("Name"), QStringLiteral("Size"),
-        QStringLiteral("Destination")};
+    static const std::array<QString, ColumnCount> titles{u"No."_s, u"Name"_s, u"Size"_s,
+                                                         u"Destination"_s};
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
         section >= ColumnCount) {
         return {};

@@ -11,6 +11,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -87,21 +89,21 @@ void MainWndCtrl::windowDidLoad() {
 }
 
 void MainWndCtrl::initCtrl() {
-    const QString programs = QStringLiteral("%1/Contents/MacOS/").arg(m_surroundings.bundlePath);
-    const QString folder = QStringLiteral("%1/image").arg(programs);
+    const QString programs = u"%1/Contents/MacOS/"_s.arg(m_surroundings.bundlePath);
+    const QString folder = u"%1/image"_s.arg(programs);
     const std::array<std::pair<SkinButton *, QString>, 12> skins{{
-        {m_btnAddImage, QStringLiteral("add-image")},
-        {m_btnAddTxt, QStringLiteral("add-txt")},
-        {m_btnAddPDF, QStringLiteral("add-pdf")},
-        {m_btnRemove, QStringLiteral("remove")},
-        {m_btnCreate, QStringLiteral("convert")},
-        {m_btnExpand, QStringLiteral("show-option")},
-        {m_btnElapse, QStringLiteral("hide-option")},
-        {m_btnOpen, QStringLiteral("open")},
-        {m_btnBrowse, QStringLiteral("browse")},
-        {m_btnSecuritySetting, QStringLiteral("security-setting")},
-        {m_btnImageSetting, QStringLiteral("image-setting")},
-        {m_btnTxtSetting, QStringLiteral("text-setting")},
+        {m_btnAddImage, u"add-image"_s},
+        {m_btnAddTxt, u"add-txt"_s},
+        {m_btnAddPDF, u"add-pdf"_s},
+        {m_btnRemove, u"remove"_s},
+        {m_btnCreate, u"convert"_s},
+        {m_btnExpand, u"show-option"_s},
+        {m_btnElapse, u"hide-option"_s},
+        {m_btnOpen, u"open"_s},
+        {m_btnBrowse, u"browse"_s},
+        {m_btnSecuritySetting, u"security-setting"_s},
+        {m_btnImageSetting, u"image-setting"_s},
+        {m_btnTxtSetting, u"text-setting"_s},
     }};
     for (const auto &[button, name] : skins) {
         skinButton(folder, name, button);
@@ -114,14 +116,13 @@ void MainWndCtrl::initCtrl() {
 
 void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
                              SkinButton *button) const {
-    const QString resources =
-        QStringLiteral("%1/Contents/Resources").arg(m_surroundings.bundlePath);
+    const QString resources = u"%1/Contents/Resources"_s.arg(m_surroundings.bundlePath);
     const auto look = [&](const QString &suffix, const SkinImage &otherwise) {
         const SkinImage image = SkinImage::named(resources, name + suffix);
         return image.isNull() ? otherwise : image;
     };
     const SkinImage normal = look(QString(), {});
-    const SkinImage hover = look(QStringLiteral("-hover"), normal);
+    const SkinImage hover = look(u"-hover"_s, normal);
     if (!normal.isNull()) {
         button->ensurePolished(); // Else the style sheet's least size would replace this one later.
         button->setFixedSize(normal.size());
@@ -129,7 +130,7 @@ void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
     button->setNormalImage(normal);
     button->setMouseOnImage(hover);
     button->setMouseDownImage(hover);
-    button->setDisableImage(look(QStringLiteral("-disable"), normal));
+    button->setDisableImage(look(u"-disable"_s, normal));
 }
 
 void MainWndCtrl::connectControls() {

@@ -13,6 +13,8 @@
 #include <system_error>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -75,7 +77,7 @@ class MainWndCtrl::PassObserver : public RunObserver {
 
     void progressChanged(float value) override {
         if (m_stop.stop_requested()) {
-            throw Error(QStringLiteral("The conversion was stopped"));
+            throw Error(u"The conversion was stopped"_s);
         }
         RunObserver::progressChanged(value);
     }

@@ -14,6 +14,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -99,7 +101,7 @@ void MainWndCtrl::clickBtnAddPDF() {
 }
 
 QString MainWndCtrl::documentsFolder() const {
-    return m_surroundings.homeFolder + QStringLiteral("/Documents");
+    return m_surroundings.homeFolder + u"/Documents"_s;
 }
 
 void MainWndCtrl::addFromPanel(const FilePanel &panel) {

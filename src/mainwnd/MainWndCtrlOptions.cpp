@@ -18,12 +18,14 @@
 #include <array>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
 /// The settings key of the output folder.
 QString outputFolderKey() {
-    return QStringLiteral("CustomizeOutputDir");
+    return u"CustomizeOutputDir"_s;
 }
 
 /// Row of the radio matrix; -1 when none is selected.
@@ -298,12 +300,12 @@ void MainWndCtrl::readOutputFolder() {
 }
 
 QString MainWndCtrl::makeDefaultOutputFolder() const {
-    QString folder = m_surroundings.homeFolder + QStringLiteral("/Documents/Folioforge");
+    QString folder = m_surroundings.homeFolder + u"/Documents/Folioforge"_s;
     if (QFileInfo::exists(folder)) {
         return folder;
     }
     if (!QDir().mkpath(folder)) {
-        return m_surroundings.homeFolder + QStringLiteral("/Documents");
+        return m_surroundings.homeFolder + u"/Documents"_s;
     }
     makeWorldWritable(folder);
     return folder;

@@ -13,6 +13,8 @@
 #include <cmath>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -32,7 +34,7 @@ QString nameFilter(const QStringList &extensions) {
     }
     QStringList patterns;
     for (const QString &extension : extensions) {
-        patterns << QStringLiteral("*.") + extension;
+        patterns << u"*."_s + extension;
     }
     return QFileDialog::tr("Files (%1)").arg(patterns.join(u' '));
 }
@@ -117,7 +119,7 @@ QSize mostOfText(const QScreen &screen) {
 /// A notice may name thousands of files, or one by a single endless word: text without room for it
 /// scrolls and breaks, so that all of it and the button stay within reach.
 void fitLongText(QMessageBox &box) {
-    auto *text = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
+    auto *text = box.findChild<QLabel *>(u"qt_msgbox_informativelabel"_s);
     const QSize most = mostOfText(*box.screen());
     if (!text || (text->sizeHint().height() <= most.height() &&
                   text->minimumSizeHint().width() <= most.width())) {

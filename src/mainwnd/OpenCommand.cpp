@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 QByteArray openCommand(const QString &verb, const QString &path) {
@@ -29,8 +31,8 @@ bool isSafeInShell(const QString &path) {
 }
 
 QString openVerb() {
-    const QString verb = QStringLiteral("open");
-    return QStandardPaths::findExecutable(verb).isEmpty() ? QStringLiteral("xdg-open") : verb;
+    const QString verb = u"open"_s;
+    return QStandardPaths::findExecutable(verb).isEmpty() ? u"xdg-open"_s : verb;
 }
 
 } // namespace folioforge

@@ -1,26 +1,27 @@
 #include "mainwnd/ProductPages.h"
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
 QUrl page(const QString &bundlePath, const QString &name) {
-    return QUrl::fromLocalFile(
-        QStringLiteral("%1/Contents/Resources/pages/%2").arg(bundlePath, name));
+    return QUrl::fromLocalFile(u"%1/Contents/Resources/pages/%2"_s.arg(bundlePath, name));
 }
 
 } // namespace
 
 QUrl tutorialPage(const QString &bundlePath) {
-    return page(bundlePath, QStringLiteral("tutorial.html"));
+    return page(bundlePath, u"tutorial.html"_s);
 }
 
 QUrl productPage(const QString &bundlePath) {
-    return page(bundlePath, QStringLiteral("product.html"));
+    return page(bundlePath, u"product.html"_s);
 }
 
 QUrl downloadPage(const QString &bundlePath) {
     QUrl url = productPage(bundlePath);
-    url.setFragment(QStringLiteral("download"));
+    url.setFragment(u"download"_s);
     return url;
 }
 

@@ -15,6 +15,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -126,7 +128,7 @@ void SkinTableView::clickMenuMoveDown() {
 }
 
 QMenu *SkinTableView::buildContextMenu() {
-    auto *menu = new QMenu(QStringLiteral("Contextual Menu"), this);
+    auto *menu = new QMenu(u"Contextual Menu"_s, this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const bool canEdit = m_delegate->canEditList();
     const auto add = [&](const QString &title, bool enabled, Command command) {
@@ -135,20 +137,18 @@ QMenu *SkinTableView::buildContextMenu() {
     };
     const bool canRemoveClear = m_delegate->canRemoveClear();
     const bool canResort = m_delegate->canResort();
-    add(QStringLiteral("Remove"), canRemoveClear, &SkinTableView::clickMenuRemove);
-    add(QStringLiteral("Clear"), canRemoveClear, &SkinTableView::clickMenuClear);
+    add(u"Remove"_s, canRemoveClear, &SkinTableView::clickMenuRemove);
+    add(u"Clear"_s, canRemoveClear, &SkinTableView::clickMenuClear);
     menu->addSeparator();
-    add(canResort ? QStringLiteral("Sort By Name") : QStringLiteral("Resort By Name"), canResort,
+    add(canResort ? u"Sort By Name"_s : u"Resort By Name"_s, canResort,
         &SkinTableView::clickMenuResortByName);
-    add(canResort ? QStringLiteral("Sort By Size") : QStringLiteral("Resort By Size"), canResort,
+    add(canResort ? u"Sort By Size"_s : u"Resort By Size"_s, canResort,
         &SkinTableView::clickMenuResortBySize);
-    add(QStringLiteral("Sort By Data Created"), canResort,
-        &SkinTableView::clickMenuResortByDataCreated);
-    add(QStringLiteral("Sort By Data Modified"), canResort,
-        &SkinTableView::clickMenuResortByDataModified);
+    add(u"Sort By Data Created"_s, canResort, &SkinTableView::clickMenuResortByDataCreated);
+    add(u"Sort By Data Modified"_s, canResort, &SkinTableView::clickMenuResortByDataModified);
     menu->addSeparator();
-    add(QStringLiteral("Move Up"), m_delegate->canMoveUp(), &SkinTableView::clickMenuMoveUp);
-    add(QStringLiteral("Move Down"), m_delegate->canMoveDown(), &SkinTableView::clickMenuMoveDown);
+    add(u"Move Up"_s, m_delegate->canMoveUp(), &SkinTableView::clickMenuMoveUp);
+    add(u"Move Down"_s, m_delegate->canMoveDown(), &SkinTableView::clickMenuMoveDown);
     return menu;
 }
 
@@ -295,7 +295,7 @@ void SkinTableView::paintHint(QPainter &painter) const {
     painter.setFont(large);
     painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                     QStringLiteral("Drop files here, or add them with the buttons above"));
+                     u"Drop files here, or add them with the buttons above"_s);
 }
 
 void SkinTableView::paintDropLine(QPainter &painter) const {

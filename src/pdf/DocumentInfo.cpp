@@ -8,21 +8,22 @@
 
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
 
 /// "D:20240131120000+01'00'" (ISO 32000-1, 7.9.4).
 QString pdfDate(const QDateTime &date) {
-    const QString local = date.toString(QStringLiteral("'D:'yyyyMMddHHmmss"));
+    const QString local = date.toString(u"'D:'yyyyMMddHHmmss"_s);
     const int offset = date.offsetFromUtc();
     if (offset == 0) {
         return local + u'Z';
     }
     constexpr int kSecondsPerMinute = 60;
     const int minutes = std::abs(offset) / kSecondsPerMinute;
-    return QStringLiteral("%1%2%3'%4'")
-        .arg(local, offset < 0 ? QStringLiteral("-") : QStringLiteral("+"))
+    return u"%1%2%3'%4'"_s.arg(local, offset < 0 ? u"-"_s : u"+"_s)
         .arg(minutes / 60, 2, 10, QLatin1Char('0'))
         .arg(minutes % 60, 2, 10, QLatin1Char('0'));
 }
@@ -44,7 +45,7 @@ void writeDocumentInfo(QPDF &document, const DocumentInfo &info) {
     put("/Author", info.author);
     put("/Subject", info.subject);
     put("/Keywords", info.keywords);
-    put("/Creator", QStringLiteral("Vesprin-Folioforge"));
+    put("/Creator", u"Vesprin-Folioforge"_s);
     put("/Producer", QStringLiteral("Folioforge " FOLIOFORGE_VERSION));
     put("/CreationDate", pdfDate(info.created.isValid() ? info.created : documentDate()));
     document.getTrailer().replaceKey("/Info", document.makeIndirectObject(dictionary));

@@ -17,6 +17,8 @@
 #include <malloc.h>
 #endif
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -43,7 +45,7 @@ void replaceId(OutputFile &file, const QByteArray &id) {
     const auto first = trailer.indexOf("<" + placeholder + ">");
     const auto second = first < 0 ? -1 : trailer.indexOf("<" + placeholder + ">", first + 1);
     if (second < 0) {
-        throw Error(QStringLiteral("The document's identifier cannot be written"));
+        throw Error(u"The document's identifier cannot be written"_s);
     }
     file.overwrite(start + first + 1, id);
     file.overwrite(start + second + 1, id);

@@ -9,6 +9,8 @@
 #include <memory>
 #include <variant>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -19,10 +21,10 @@ struct FreeDeleter {
 
 std::variant<QByteArray, QString> prepare(const QString &password) {
     if (!password.isValidUtf16()) {
-        return QStringLiteral("The password contains half a character");
+        return u"The password contains half a character"_s;
     }
     if (password.contains(QChar(u'\0'))) {
-        return QStringLiteral("The password contains a character that passwords cannot have");
+        return u"The password contains a character that passwords cannot have"_s;
     }
     char *raw = nullptr;
     // Characters newer than the profile's Unicode 3.2 pass as they are, or no recent one could be
@@ -30,19 +32,18 @@ std::variant<QByteArray, QString> prepare(const QString &password) {
     const int status = stringprep_profile(password.toUtf8().constData(), &raw, "SASLprep", {});
     const std::unique_ptr<char, FreeDeleter> prepared(raw);
     if (status == STRINGPREP_BIDI_BOTH_L_AND_RAL || status == STRINGPREP_BIDI_LEADTRAIL_NOT_RAL) {
-        return QStringLiteral(
-            "The password mixes characters written from right to left with others "
-            "in a way that passwords cannot have");
+        return u"The password mixes characters written from right to left with others "
+               "in a way that passwords cannot have"_s;
     }
     if (status != STRINGPREP_OK) {
-        return QStringLiteral("The password contains a character that passwords cannot have");
+        return u"The password contains a character that passwords cannot have"_s;
     }
     QByteArray bytes(prepared.get());
     if (bytes.isEmpty() && !password.isEmpty()) {
-        return QStringLiteral("The password contains no visible character");
+        return u"The password contains no visible character"_s;
     }
     if (bytes.size() > kMaxPasswordBytes) {
-        return QStringLiteral("The password is longer than %1 bytes").arg(kMaxPasswordBytes);
+        return u"The password is longer than %1 bytes"_s.arg(kMaxPasswordBytes);
     }
     return bytes;
 }

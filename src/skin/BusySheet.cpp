@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -20,7 +22,7 @@ bool leavesTheProgram(const QKeyEvent &key) {
 
 QFrame *makeCard(QWidget *parent) {
     auto *card = new QFrame(parent);
-    card->setObjectName(QStringLiteral("busyCard"));
+    card->setObjectName(u"busyCard"_s);
     card->setFixedWidth(kCardWidth);
     return card;
 }
@@ -37,10 +39,10 @@ BusySheet::BusySheet(QWidget *parent)
     setVisible(false);
 
     auto *title = new QLabel(tr("Creating PDF documents…"));
-    title->setObjectName(QStringLiteral("busyTitle"));
-    m_fileLabel->setObjectName(QStringLiteral("busyFile"));
+    title->setObjectName(u"busyTitle"_s);
+    m_fileLabel->setObjectName(u"busyFile"_s);
     m_fileLabel->setTextFormat(Qt::PlainText);
-    m_countLabel->setObjectName(QStringLiteral("busyCount"));
+    m_countLabel->setObjectName(u"busyCount"_s);
 
     auto *card = makeCard(this);
     auto *lines = new QVBoxLayout(card);

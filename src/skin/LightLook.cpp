@@ -4,6 +4,8 @@
 #include <QPalette>
 #include <QStyleFactory>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -33,7 +35,7 @@ QPalette lightPalette() {
 /// Fields, buttons and bars of one family with the skins: corners of the same radius, thin grey
 /// edges, the accent colour for what has the focus.
 QString lightStyleSheet() {
-    return QStringLiteral(R"(
+    return uR"(
         QLineEdit {
             border: 1px solid #c2c8d0; border-radius: 5px; padding: 3px 7px; min-height: 18px;
             background: #ffffff; selection-background-color: #2f7de1; selection-color: #ffffff;
@@ -82,13 +84,13 @@ QString lightStyleSheet() {
         #busyCard { border: 1px solid #cfd4db; border-radius: 10px; background: #ffffff; }
         #busyTitle { font-size: 16px; font-weight: 600; }
         #busyCount { color: #59616b; }
-    )");
+    )"_s;
 }
 
 } // namespace
 
 void applyLightLook(QApplication &application) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setPalette(lightPalette());
     application.setStyleSheet(lightStyleSheet());
 }

@@ -6,6 +6,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 struct SkinImage::Data : QSharedData {
@@ -30,15 +32,14 @@ SkinImage::SkinImage(const QImage &picture) {
 SkinImage SkinImage::named(const QString &folder, const QString &name) {
     const QString base = QDir(folder).filePath(name);
     auto drawing = std::make_shared<QSvgRenderer>();
-    if (const QString path = base + QStringLiteral(".svg");
-        QFile::exists(path) && drawing->load(path)) {
+    if (const QString path = base + u".svg"_s; QFile::exists(path) && drawing->load(path)) {
         auto *data = new Data;
         data->drawing = std::move(drawing);
         SkinImage image;
         image.m_data = data;
         return image;
     }
-    return SkinImage(QImage(base + QStringLiteral(".png")));
+    return SkinImage(QImage(base + u".png"_s));
 }
 
 bool SkinImage::isNull() const {

@@ -11,6 +11,8 @@
 #include <iconv.h>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -93,7 +95,7 @@ QString string_to_nsstring(const std::string &text) {
     if (decode.hasError()) {
         return {};
     }
-    return decoded.isNull() ? QStringLiteral("") : decoded;
+    return decoded.isNull() ? u""_s : decoded;
 }
 
 void NSStringToSTLString(const QString &text, std::string &output) {

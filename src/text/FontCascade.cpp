@@ -4,6 +4,8 @@
 
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -55,8 +57,8 @@ const FontFace &FontCascade::face(std::size_t index) const {
     if (const FontFace *face = openFace(index)) {
         return *face;
     }
-    throw Error(QStringLiteral("the font %1 cannot be read")
-                    .arg(QFile::decodeName(m_faces.at(index).font.path())));
+    throw Error(
+        u"the font %1 cannot be read"_s.arg(QFile::decodeName(m_faces.at(index).font.path())));
 }
 
 const FontFace *FontCascade::openFace(std::size_t index) const {
@@ -110,7 +112,7 @@ Glyph FontCascade::glyphOf(std::size_t face, std::uint16_t id, char32_t characte
 
 std::shared_ptr<const FontCascade> textFont() {
     constexpr double kPoints = 14;
-    static const auto font = FontCascade::load(QStringLiteral("Arial Unicode MS"), kPoints);
+    static const auto font = FontCascade::load(u"Arial Unicode MS"_s, kPoints);
     return font;
 }
 

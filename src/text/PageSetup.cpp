@@ -3,6 +3,8 @@
 #include <array>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -12,18 +14,16 @@ enum class Axis { Width, Height };
 constexpr quint64 kLargestMargin = 256;
 
 Notice alertInvalidPageMargin(Target target) {
-    const QString head = QStringLiteral("Invalid page margin value ");
-    return notice(head + (target == Target::Text ? QStringLiteral("in text output setting.")
-                                                 : QStringLiteral("in image output setting.")));
+    const QString head = u"Invalid page margin value "_s;
+    return notice(head + (target == Target::Text ? u"in text output setting."_s
+                                                 : u"in image output setting."_s));
 }
 
 Notice alertInvalidPageSize(Target target, Axis axis) {
-    const QString head = QStringLiteral("The value of page margin is larger than page ");
-    const QString middle =
-        axis == Axis::Width ? QStringLiteral("width, ") : QStringLiteral("height, ");
-    const QString tail = target == Target::Text
-                             ? QStringLiteral("please modify your text output setting.")
-                             : QStringLiteral("please modify your image output setting.");
+    const QString head = u"The value of page margin is larger than page "_s;
+    const QString middle = axis == Axis::Width ? u"width, "_s : u"height, "_s;
+    const QString tail = target == Target::Text ? u"please modify your text output setting."_s
+                                                : u"please modify your image output setting."_s;
     return notice(head + middle + tail);
 }
 
@@ -116,13 +116,13 @@ std::optional<Notice> checkImagePageSizeSettings(const PageSetup &setup) {
 
 std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings) {
     if (settings.useUserPassword && settings.userPassword.isEmpty()) {
-        return notice(QStringLiteral("Please input user password."));
+        return notice(u"Please input user password."_s);
     }
     if (!settings.useOwnerPassword) {
         return std::nullopt;
     }
     if (settings.ownerPassword.isEmpty()) {
-        return notice(QStringLiteral("Please input owner password."));
+        return notice(u"Please input owner password."_s);
     }
     if (settings.useUserPassword && settings.userPassword == settings.ownerPassword) {
         return equalPasswordsNotice();
@@ -131,7 +131,7 @@ std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings) {
 }
 
 Notice equalPasswordsNotice() {
-    return notice(QStringLiteral("The passwords can not be the same."));
+    return notice(u"The passwords can not be the same."_s);
 }
 
 } // namespace folioforge

@@ -2,6 +2,8 @@
 
 #include <QStringDecoder>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 QString decodeText(QByteArrayView bytes) {
@@ -11,7 +13,7 @@ QString decodeText(QByteArrayView bytes) {
     if (decode.hasError()) {
         return {};
     }
-    return text.isNull() ? QStringLiteral("") : text;
+    return text.isNull() ? u""_s : text;
 }
 
 } // namespace folioforge

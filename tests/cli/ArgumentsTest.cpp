@@ -4,6 +4,7 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -36,7 +37,7 @@ class ArgumentsTest : public QObject {
         const Arguments arguments = good({"a.txt", "b"});
         QCOMPARE(arguments.inputs, (std::vector<QByteArray>{"a.txt", "b"}));
         const ConversionOptions &options = arguments.options;
-        QCOMPARE(options.outputFolder, QStringLiteral("."));
+        QCOMPARE(options.outputFolder, u"."_s);
         QVERIFY(!options.merge);
         QCOMPARE(getTextPageSize(options.textPage), QSizeF(595, 842));
         QCOMPARE(topRightBottomLeft(options.textPage.margins),
@@ -52,31 +53,30 @@ class ArgumentsTest : public QObject {
     }
 
     void anOptionsValueFollowsItOrAnEqualsSign() {
-        QCOMPARE(good({"--title", "T", "a"}).options.info.title, QStringLiteral("T"));
-        QCOMPARE(good({"--title=T=1", "a"}).options.info.title, QStringLiteral("T=1"));
+        QCOMPARE(good({"--title", "T", "a"}).options.info.title, u"T"_s);
+        QCOMPARE(good({"--title=T=1", "a"}).options.info.title, u"T=1"_s);
         QCOMPARE(good({"--title=", "a"}).options.info.title, QString());
-        QCOMPARE(good({"a", "--title", "--quiet"}).options.info.title, QStringLiteral("--quiet"));
+        QCOMPARE(good({"a", "--title", "--quiet"}).options.info.title, u"--quiet"_s);
     }
 
     void documentInformationIsTaken() {
         const DocumentInfo info =
             good({"--title", "é", "--author", "b", "--subject", "c", "--keywords", "d", "a"})
                 .options.info;
-        QCOMPARE(info.title, QStringLiteral("é"));
-        QCOMPARE(info.author, QStringLiteral("b"));
-        QCOMPARE(info.subject, QStringLiteral("c"));
-        QCOMPARE(info.keywords, QStringLiteral("d"));
+        QCOMPARE(info.title, u"é"_s);
+        QCOMPARE(info.author, u"b"_s);
+        QCOMPARE(info.subject, u"c"_s);
+        QCOMPARE(info.keywords, u"d"_s);
     }
 
     void aMergePathIsAFolderAndAName_data() {
         QTest::addColumn<QByteArray>("path");
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("name");
-        QTest::newRow("name") << QByteArray("all") << QStringLiteral(".") << QStringLiteral("all");
-        QTest::newRow("below") << QByteArray("x/y/all.pdf") << QStringLiteral("x/y")
-                               << QStringLiteral("all.pdf");
-        QTest::newRow("root") << QByteArray("/all") << QStringLiteral("/") << QStringLiteral("all");
-        QTest::newRow("no name") << QByteArray("x/") << QStringLiteral("x") << QString();
+        QTest::newRow("name") << QByteArray("all") << u"."_s << u"all"_s;
+        QTest::newRow("below") << QByteArray("x/y/all.pdf") << u"x/y"_s << u"all.pdf"_s;
+        QTest::newRow("root") << QByteArray("/all") << u"/"_s << u"all"_s;
+        QTest::newRow("no name") << QByteArray("x/") << u"x"_s << QString();
     }
 
     void aMergePathIsAFolderAndAName() {
@@ -179,7 +179,7 @@ class ArgumentsTest : public QObject {
         const auto *fault = std::get_if<UsageError>(&result);
         QVERIFY(fault);
         QVERIFY2(fault->message.contains(named), qPrintable(fault->message));
-        QVERIFY(!fault->message.contains(QStringLiteral("secret")));
+        QVERIFY(!fault->message.contains(u"secret"_s));
     }
 
     void helpNamesEveryOption() {

@@ -23,6 +23,7 @@
 #include <sys/prctl.h>
 #endif
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
 using test::ToolRun;
@@ -79,13 +80,11 @@ class CommandLineTest : public QObject {
     }
     /// Runs the program with its output folder set to "out" of the test's folder.
     ToolRun convert(const QStringList &arguments, const QByteArray &input = {}) const {
-        return test::runTool(
-            kProgram, QStringList{QStringLiteral("--output-folder"), path("out")} + arguments,
-            input);
+        return test::runTool(kProgram, QStringList{u"--output-folder"_s, path("out")} + arguments,
+                             input);
     }
     ToolRun merge(const char *target, const QStringList &arguments) const {
-        return test::runTool(kProgram,
-                             QStringList{QStringLiteral("--merge"), path(target)} + arguments);
+        return test::runTool(kProgram, QStringList{u"--merge"_s, path(target)} + arguments);
     }
     /// The bytes of the document that `arguments` merged into while the descriptors `closed` were;
     /// empty where the program did not end with `exitCode`.
@@ -93,14 +92,14 @@ class CommandLineTest : public QObject {
                       int exitCode) const {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("SOURCE_DATE_EPOCH"), QStringLiteral("1700000000"));
+        environment.insert(u"SOURCE_DATE_EPOCH"_s, u"1700000000"_s);
         process.setProcessEnvironment(environment);
         process.setChildProcessModifier([&closed] {
             for (const int descriptor : closed) {
                 ::close(descriptor);
             }
         });
-        process.start(kProgram, QStringList{QStringLiteral("--merge"), path(target)} + arguments);
+        process.start(kProgram, QStringList{u"--merge"_s, path(target)} + arguments);
         const bool ended = process.waitForFinished() && process.exitCode() == exitCode;
         return ended ? test::readFile(path(target)) : QByteArray();
     }
@@ -111,14 +110,14 @@ class CommandLineTest : public QObject {
   private Q_SLOTS:
     void init() {
         m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("out")));
+        QVERIFY(QDir(m_folder->path()).mkpath(u"out"_s));
     }
 
     void versionAndHelpAreShown() {
-        const ToolRun version = test::runTool(kProgram, {QStringLiteral("--version")});
+        const ToolRun version = test::runTool(kProgram, {u"--version"_s});
         QCOMPARE(version.exitCode, 0);
         QVERIFY(version.out.startsWith("folioforge-cli 1."));
-        const ToolRun help = test::runTool(kProgram, {QStringLiteral("--help")});
+        const ToolRun help = test::runTool(kProgram, {u"--help"_s});
         QCOMPARE(help.exitCode, 0);
         QVERIFY(help.out.startsWith("Usage: folioforge-cli"));
         QVERIFY(help.err.isEmpty());
@@ -126,19 +125,18 @@ class CommandLineTest : public QObject {
 
     void resultsThatCannotBeWrittenAreAFailure_data() {
         QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("version") << QStringList{QStringLiteral("--version")};
-        QTest::newRow("help") << QStringList{QStringLiteral("--help")};
-        QTest::newRow("names of documents") << QStringList{QStringLiteral("a.txt")};
+        QTest::newRow("version") << QStringList{u"--version"_s};
+        QTest::newRow("help") << QStringList{u"--help"_s};
+        QTest::newRow("names of documents") << QStringList{u"a.txt"_s};
         // Longer than any buffer, so that nothing is left to flush.
-        QTest::newRow("a long line")
-            << QStringList{QStringLiteral("--json"), QString(100'000, u'x')};
+        QTest::newRow("a long line") << QStringList{u"--json"_s, QString(100'000, u'x')};
     }
     void resultsThatCannotBeWrittenAreAFailure() {
         QFETCH(const QStringList, arguments);
         text("a.txt");
         QProcess process;
         process.setWorkingDirectory(m_folder->path());
-        process.setStandardOutputFile(QStringLiteral("/dev/full"));
+        process.setStandardOutputFile(u"/dev/full"_s);
         process.start(kProgram, arguments);
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
@@ -165,7 +163,7 @@ class CommandLineTest : public QObject {
         for (const char *name : {"1.bmp", "2.bmp", "3.bmp"}) {
             noise += writeNoise(path(name));
         }
-        const QStringList arguments = QStringList{QStringLiteral("--progress=always")} + noise;
+        const QStringList arguments = QStringList{u"--progress=always"_s} + noise;
         const QByteArray expected = merged("expected.pdf", arguments, {}, 0);
         QVERIFY(expected.size() > 12'000'000);
         QVERIFY(merged("written.pdf", arguments, closed, exitCode) == expected);
@@ -176,8 +174,8 @@ class CommandLineTest : public QObject {
     void aPasswordIsNotTakenFromAClosedDescriptor() {
         QProcess process;
         process.setChildProcessModifier([] { ::close(STDIN_FILENO); });
-        process.start(kProgram, {QStringLiteral("--user-password-file=-"),
-                                 QStringLiteral("--output-folder"), path("out"), text("a.txt")});
+        process.start(kProgram, {u"--user-password-file=-"_s, u"--output-folder"_s, path("out"),
+                                 text("a.txt")});
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitCode(), 2);
         QVERIFY(outputs().isEmpty());
@@ -188,18 +186,18 @@ class CommandLineTest : public QObject {
                                      test::writePdf(path("c.pdf"), 3)});
         QCOMPARE(run.exitCode, 0);
         QVERIFY2(run.err.isEmpty(), run.err.constData());
-        QCOMPARE(outputs().join(u' '), QStringLiteral("a.pdf b.pdf c.pdf"));
+        QCOMPARE(outputs().join(u' '), u"a.pdf b.pdf c.pdf"_s);
         QCOMPARE(run.out,
                  (path("out/a.pdf") + u'\n' + path("out/b.pdf") + u'\n' + path("out/c.pdf") + u'\n')
                      .toUtf8());
-        QVERIFY(PdfProbe(path("out/a.pdf")).text().contains(QStringLiteral("words")));
+        QVERIFY(PdfProbe(path("out/a.pdf")).text().contains(u"words"_s));
         QCOMPARE(PdfProbe(path("out/c.pdf")).pageCount(), 3);
     }
 
     void theSameInputTwiceGivesTwoPdfs() {
         const QString file = text("a.txt");
         QCOMPARE(convert({file, file}).exitCode, 0);
-        QCOMPARE(outputs().join(u' '), QStringLiteral("a(1).pdf a.pdf"));
+        QCOMPARE(outputs().join(u' '), u"a(1).pdf a.pdf"_s);
     }
 
     void aPhotoIsCompressedAndTheSavingsAreReported() {
@@ -216,35 +214,33 @@ class CommandLineTest : public QObject {
         grain.setDotsPerMeterY(kDotsPerMeter);
         const QString photo = path("photo.jpg");
         QVERIFY(grain.save(photo, "JPEG", 92));
-        const ToolRun run = convert(
-            {QStringLiteral("--json"), QStringLiteral("--compress"), QStringLiteral("96m"), photo});
+        const ToolRun run = convert({u"--json"_s, u"--compress"_s, u"96m"_s, photo});
         QCOMPARE(run.exitCode, 0);
         const QJsonObject result = QJsonDocument::fromJson(run.out).object();
-        const qint64 after = result[QStringLiteral("bytesAfter")].toInteger();
+        const qint64 after = result[u"bytesAfter"_s].toInteger();
         QCOMPARE(after, QFileInfo(path("out/photo.pdf")).size());
-        QVERIFY(after < result[QStringLiteral("bytesBefore")].toInteger() / 2);
-        QCOMPARE(result[QStringLiteral("imagesReduced")].toInt(), 1);
-        QCOMPARE(result[QStringLiteral("imagesLeft")].toArray().size(), 0);
+        QVERIFY(after < result[u"bytesBefore"_s].toInteger() / 2);
+        QCOMPARE(result[u"imagesReduced"_s].toInt(), 1);
+        QCOMPARE(result[u"imagesLeft"_s].toArray().size(), 0);
     }
 
     void aMergedPdfHoldsAllInTheOrderGiven() {
         const ToolRun run = merge("out/all", {text("b.txt", "second"), text("a.txt", "first")});
         QCOMPARE(run.exitCode, 0);
-        QCOMPARE(outputs(), QStringList{QStringLiteral("all.pdf")});
+        QCOMPARE(outputs(), QStringList{u"all.pdf"_s});
         const PdfProbe probe(path("out/all.pdf"));
         QVERIFY(probe.isValid());
-        QVERIFY(probe.text(1).contains(QStringLiteral("second")));
-        QVERIFY(probe.text(2).contains(QStringLiteral("first")));
+        QVERIFY(probe.text(1).contains(u"second"_s));
+        QVERIFY(probe.text(2).contains(u"first"_s));
     }
 
     void inputsAreSortedOnRequest() {
         const QStringList files{text("p10.txt", "ten"), text("P9.txt", "nine"),
                                 text("p1.txt", "one and more")};
-        QCOMPARE(merge("natural", QStringList{QStringLiteral("--sort=natural")} + files).exitCode,
-                 0);
-        QVERIFY(PdfProbe(path("natural.pdf")).text(2).contains(QStringLiteral("nine")));
-        QCOMPARE(merge("size", QStringList{QStringLiteral("--sort=size")} + files).exitCode, 0);
-        QVERIFY(PdfProbe(path("size.pdf")).text(3).contains(QStringLiteral("one and more")));
+        QCOMPARE(merge("natural", QStringList{u"--sort=natural"_s} + files).exitCode, 0);
+        QVERIFY(PdfProbe(path("natural.pdf")).text(2).contains(u"nine"_s));
+        QCOMPARE(merge("size", QStringList{u"--sort=size"_s} + files).exitCode, 0);
+        QVERIFY(PdfProbe(path("size.pdf")).text(3).contains(u"one and more"_s));
     }
 
     void aMergedNameIsNeverReplaced() {
@@ -257,22 +253,22 @@ class CommandLineTest : public QObject {
     }
 
     void aFolderStandsForItsTextsAndImages() {
-        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("in/sub")));
+        QVERIFY(QDir(m_folder->path()).mkpath(u"in/sub"_s));
         text("in/b.TXT");
         test::writePdf(path("in/a.PDF"), 1);
         test::writePng(path("in/c.png"), 3, 3);
         text("in/sub/deep.txt");
         const ToolRun run = convert({path("in/")});
         QCOMPARE(run.exitCode, 0);
-        QCOMPARE(outputs().join(u' '), QStringLiteral("b.pdf c.pdf"));
+        QCOMPARE(outputs().join(u' '), u"b.pdf c.pdf"_s);
     }
 
     void theFilesOfAFolderComeInTheOrderOfTheirNames() {
-        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("in")));
+        QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
         for (const char *name : {"in/a.txt", "in/10.txt", "in/é.txt", "in/9.txt", "in/B.txt"}) {
             text(name);
         }
-        const ToolRun run = convert({QStringLiteral("--json"), path("in")});
+        const ToolRun run = convert({u"--json"_s, path("in")});
         QStringList inputs;
         for (const QJsonObject &object : objectsOf(run.out)) {
             inputs += member(object, "input");
@@ -282,13 +278,13 @@ class CommandLineTest : public QObject {
     }
 
     void aFolderThatCannotBeListedIsNamedAndTheRestConverted() {
-        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("in")));
+        QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
         text("in/a.txt");
         QVERIFY(QFile::setPermissions(path("in"), {}));
         QProcess process;
         process.setChildProcessModifier(giveUpRightsOfRoot);
-        process.start(kProgram, {QStringLiteral("--json"), QStringLiteral("--output-folder"),
-                                 path("out"), path("in/"), text("good.txt")});
+        process.start(kProgram, {u"--json"_s, u"--output-folder"_s, path("out"), path("in/"),
+                                 text("good.txt")});
         QVERIFY(process.waitForFinished());
         QVERIFY(QFile::setPermissions(path("in"),
                                       QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
@@ -296,10 +292,10 @@ class CommandLineTest : public QObject {
         const auto objects = objectsOf(process.readAllStandardOutput());
         QCOMPARE(objects.size(), 2);
         QCOMPARE(member(objects[0], "input"), path("in/"));
-        QCOMPARE(member(objects[0], "state"), QStringLiteral("rejected"));
-        QVERIFY(member(objects[0], "message").endsWith(QStringLiteral("Permission denied")));
+        QCOMPARE(member(objects[0], "state"), u"rejected"_s);
+        QVERIFY(member(objects[0], "message").endsWith(u"Permission denied"_s));
         QVERIFY(process.readAllStandardError().contains(path("in/").toUtf8() + ": "));
-        QCOMPARE(outputs(), QStringList{QStringLiteral("good.pdf")});
+        QCOMPARE(outputs(), QStringList{u"good.pdf"_s});
     }
 
     void wrongSettingsGetTheWindowsNoticeAndNothingIsWritten_data() {
@@ -343,7 +339,7 @@ class CommandLineTest : public QObject {
     }
 
     void anUnknownOptionGetsAHint() {
-        const ToolRun run = convert({QStringLiteral("--colour"), text("a.txt")});
+        const ToolRun run = convert({u"--colour"_s, text("a.txt")});
         QCOMPARE(run.exitCode, 2);
         QVERIFY(run.err.contains("--colour") && run.err.contains("--help"));
         QVERIFY(outputs().isEmpty());
@@ -351,24 +347,22 @@ class CommandLineTest : public QObject {
 
     void namesWithDashesFollowTwoDashes() {
         text("-a.txt");
-        const ToolRun run =
-            test::runTool(QStringLiteral("sh"),
-                          {QStringLiteral("-c"),
-                           QStringLiteral("cd \"$1\" && exec \"$0\" --output-folder out -- -a.txt"),
-                           kProgram, m_folder->path()});
+        const ToolRun run = test::runTool(
+            u"sh"_s, {u"-c"_s, u"cd \"$1\" && exec \"$0\" --output-folder out -- -a.txt"_s,
+                      kProgram, m_folder->path()});
         QCOMPARE(run.exitCode, 0);
-        QCOMPARE(outputs(), QStringList{QStringLiteral("-a.pdf")});
+        QCOMPARE(outputs(), QStringList{u"-a.pdf"_s});
     }
 
     void everyBadInputIsNamedWithItsReasonAndTheRestConverted() {
-        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("folder.png")));
+        QVERIFY(QDir(m_folder->path()).mkpath(u"folder.png"_s));
         QCOMPARE(::mkfifo(qPrintable(path("pipe.txt")), 0600), 0);
         QCOMPARE(::mkfifo(qPrintable(path("pipe.pdf")), 0600), 0);
         const QString png = test::writePng(path("whole.png"), 50, 50);
         const QStringList bad{path("missing.txt"),
                               path("pipe.txt"),
                               path("pipe.pdf"),
-                              QStringLiteral("/dev/zero"),
+                              u"/dev/zero"_s,
                               text("a.docx"),
                               text("noextension"),
                               text("empty.png", {}),
@@ -385,13 +379,12 @@ class CommandLineTest : public QObject {
             };
             QVERIFY2(std::any_of(lines.begin(), lines.end(), names), qPrintable(file));
         }
-        QCOMPARE(outputs(), QStringList{QStringLiteral("good.pdf")});
+        QCOMPARE(outputs(), QStringList{u"good.pdf"_s});
     }
 
     void refusedPdfsAreListedInTheWindowsWords() {
         const QString plain = test::writePdf(path("plain.pdf"), 1);
-        const QString locked =
-            test::encryptPdf(plain, path("locked.pdf"), QStringLiteral("secret"));
+        const QString locked = test::encryptPdf(plain, path("locked.pdf"), u"secret"_s);
         const QString broken = text("broken.pdf", "no document");
         const ToolRun run = convert({locked, plain, broken});
         QCOMPARE(run.exitCode, 1);
@@ -399,7 +392,7 @@ class CommandLineTest : public QObject {
                                  "PDF files:\n    " +
                                  locked.toUtf8() + "\n    " + broken.toUtf8() + '\n'));
         QVERIFY(run.err.contains(locked.toUtf8() + ": "));
-        QCOMPARE(outputs(), QStringList{QStringLiteral("plain.pdf")});
+        QCOMPARE(outputs(), QStringList{u"plain.pdf"_s});
     }
 
     void aTextThatIsNotUtf8IsConvertedWithAWarning() {
@@ -411,20 +404,19 @@ class CommandLineTest : public QObject {
 
     void aFailureIsSaidBesideAWarning() {
         const QString script =
-            QStringLiteral("trap '' XFSZ; ulimit -f 0; exec \"$0\" --json --merge \"$1\" \"$2\"");
-        const ToolRun run =
-            test::runTool(QStringLiteral("sh"), {QStringLiteral("-c"), script, kProgram,
-                                                 path("out/all"), text("a.txt", "caf\xE9")});
+            u"trap '' XFSZ; ulimit -f 0; exec \"$0\" --json --merge \"$1\" \"$2\""_s;
+        const ToolRun run = test::runTool(
+            u"sh"_s, {u"-c"_s, script, kProgram, path("out/all"), text("a.txt", "caf\xE9")});
         QCOMPARE(run.exitCode, 1);
         const QString message = member(objectsOf(run.out).value(0), "message");
-        QVERIFY2(message.contains(QStringLiteral("not valid UTF-8")), qPrintable(message));
-        QVERIFY2(message.contains(QStringLiteral("File too large")), qPrintable(message));
+        QVERIFY2(message.contains(u"not valid UTF-8"_s), qPrintable(message));
+        QVERIFY2(message.contains(u"File too large"_s), qPrintable(message));
         QVERIFY2(run.err.contains(message.toUtf8()), run.err.constData());
     }
 
     void nothingToConvertIsAFailure() {
         QCOMPARE(convert({path("missing.txt")}).exitCode, 1);
-        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("empty")));
+        QVERIFY(QDir(m_folder->path()).mkpath(u"empty"_s));
         const ToolRun run = convert({path("empty")});
         QCOMPARE(run.exitCode, 1);
         QVERIFY(!run.err.isEmpty());
@@ -432,25 +424,25 @@ class CommandLineTest : public QObject {
 
     void jsonTellsHowEachInputWent() {
         const ToolRun run =
-            convert({QStringLiteral("--json"), text("a.txt"), path("missing.png"),
+            convert({u"--json"_s, text("a.txt"), path("missing.png"),
                      test::writePng(path("b.png"), 30, 20), test::writePdf(path("c.pdf"), 2)});
         QCOMPARE(run.exitCode, 1);
         const auto objects = objectsOf(run.out);
         QCOMPARE(objects.size(), 4);
         QCOMPARE(member(objects[0], "input"), path("missing.png"));
-        QCOMPARE(member(objects[0], "state"), QStringLiteral("rejected"));
+        QCOMPARE(member(objects[0], "state"), u"rejected"_s);
         QVERIFY(!member(objects[0], "message").isEmpty());
         QCOMPARE(member(objects[1], "output"), path("out/a.pdf"));
-        QCOMPARE(member(objects[1], "state"), QStringLiteral("finished"));
-        QVERIFY(!objects[1].contains(QStringLiteral("message")));
-        QVERIFY(!objects[1].contains(QStringLiteral("embedded")));
+        QCOMPARE(member(objects[1], "state"), u"finished"_s);
+        QVERIFY(!objects[1].contains(u"message"_s));
+        QVERIFY(!objects[1].contains(u"embedded"_s));
         QVERIFY(!member(objects[2], "embedded").isEmpty());
-        QCOMPARE(objects[3][QStringLiteral("pages")].toInt(), 2);
+        QCOMPARE(objects[3][u"pages"_s].toInt(), 2);
     }
 
     void jsonOfAMergeNamesTheOnePdfForEach() {
-        const ToolRun run = merge("out/all", {QStringLiteral("--json"), text("a.txt"),
-                                              text("b.txt"), text("c.png", "x")});
+        const ToolRun run =
+            merge("out/all", {u"--json"_s, text("a.txt"), text("b.txt"), text("c.png", "x")});
         QCOMPARE(run.exitCode, 1);
         const auto objects = objectsOf(run.out);
         QCOMPARE(objects.size(), 3);
@@ -459,8 +451,8 @@ class CommandLineTest : public QObject {
     }
 
     void quietLeavesOnlyErrors() {
-        const ToolRun run = convert({QStringLiteral("--quiet"), QStringLiteral("--progress=always"),
-                                     text("a.txt"), path("missing.txt")});
+        const ToolRun run =
+            convert({u"--quiet"_s, u"--progress=always"_s, text("a.txt"), path("missing.txt")});
         QVERIFY(run.out.isEmpty());
         QCOMPARE(run.err.count('\n'), 1);
         QVERIFY(run.err.contains("missing.txt"));
@@ -469,7 +461,7 @@ class CommandLineTest : public QObject {
     void progressIsShownOnRequestAndTakenAwayAtTheEnd() {
         const ToolRun quiet = convert({text("a.txt")});
         QVERIFY(quiet.err.isEmpty());
-        const ToolRun run = convert({QStringLiteral("--progress=always"), text("b.txt")});
+        const ToolRun run = convert({u"--progress=always"_s, text("b.txt")});
         QVERIFY(run.err.contains("1 of 1  50 %"));
         QVERIFY(run.err.endsWith("\r\033[K"));
     }
@@ -478,27 +470,27 @@ class CommandLineTest : public QObject {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("shown"); // 48 columns.
         const auto row = [](const char *tag, const QString &character, int count, int shown) {
-            const QString end = QStringLiteral(".txt");
+            const QString end = u".txt"_s;
             QTest::newRow(tag) << character.repeated(count) + end
                                << character.repeated(shown) + end;
         };
-        row("letters", QStringLiteral("a"), 60, 44);
-        row("wide", QStringLiteral("\u3042"), 60, 22);
-        row("wide, of two code units", QStringLiteral("\U0001F600"), 40, 22);
-        row("with a mark on each", QStringLiteral("e\u0301"), 60, 44);
-        row("spelled out", QStringLiteral("\x1b"), 60, 11);
-        QTest::newRow("wide across the edge") << QString(60, u'\u3042') + QStringLiteral("x.txt")
-                                              << QString(21, u'\u3042') + QStringLiteral("x.txt");
-        QTest::newRow("a mark at the edge") << QString(9, u'b') + QStringLiteral("e\u0301") +
-                                                   QString(44, u'a') + QStringLiteral(".txt")
-                                            << QString(44, u'a') + QStringLiteral(".txt");
+        row("letters", u"a"_s, 60, 44);
+        row("wide", u"\u3042"_s, 60, 22);
+        row("wide, of two code units", u"\U0001F600"_s, 40, 22);
+        row("with a mark on each", u"e\u0301"_s, 60, 44);
+        row("spelled out", u"\x1b"_s, 60, 11);
+        QTest::newRow("wide across the edge")
+            << QString(60, u'\u3042') + u"x.txt"_s << QString(21, u'\u3042') + u"x.txt"_s;
+        QTest::newRow("a mark at the edge")
+            << QString(9, u'b') + u"e\u0301"_s + QString(44, u'a') + u".txt"_s
+            << QString(44, u'a') + u".txt"_s;
     }
     void aLongNameInProgressIsCutToItsLastColumns() {
         QFETCH(QString, name);
         QFETCH(QString, shown);
         const QString file = test::writeFile(m_folder->filePath(name), "words");
-        const ToolRun run = convert({QStringLiteral("--progress=always"), file});
-        shown.replace(u'\x1b', QStringLiteral("\\x1b"));
+        const ToolRun run = convert({u"--progress=always"_s, file});
+        shown.replace(u'\x1b', u"\\x1b"_s);
         QVERIFY2(run.err.startsWith("1 of 1  0 %  " + shown.toUtf8() + "\r"), run.err.constData());
     }
 
@@ -510,99 +502,86 @@ class CommandLineTest : public QObject {
     }
 
     void documentPropertiesArriveInThePdf() {
-        QCOMPARE(convert({QStringLiteral("--title"), QStringLiteral("Große Titel"),
-                          QStringLiteral("--keywords=k"), text("a.txt")})
-                     .exitCode,
-                 0);
-        QCOMPARE(PdfProbe(path("out/a.pdf")).info(QStringLiteral("Title")),
-                 QStringLiteral("Große Titel"));
+        QCOMPARE(
+            convert({u"--title"_s, u"Große Titel"_s, u"--keywords=k"_s, text("a.txt")}).exitCode,
+            0);
+        QCOMPARE(PdfProbe(path("out/a.pdf")).info(u"Title"_s), u"Große Titel"_s);
     }
 
     void aPasswordComesFromTheFirstLineOfAFile() {
         const QString file = text("password", "sécret\r\nnot this\n");
-        QCOMPARE(convert({QStringLiteral("--user-password-file"), file, text("a.txt")}).exitCode,
-                 0);
+        QCOMPARE(convert({u"--user-password-file"_s, file, text("a.txt")}).exitCode, 0);
         QCOMPARE(PdfProbe(path("out/a.pdf")).pageCount(), 0);
-        QCOMPARE(PdfProbe(path("out/a.pdf"), QStringLiteral("sécret")).pageCount(), 1);
+        QCOMPARE(PdfProbe(path("out/a.pdf"), u"sécret"_s).pageCount(), 1);
     }
 
     void aPasswordComesFromStandardInput() {
-        QCOMPARE(
-            convert({QStringLiteral("--user-password-file=-"), text("a.txt")}, "secret\n").exitCode,
-            0);
-        QCOMPARE(PdfProbe(path("out/a.pdf"), QStringLiteral("secret")).pageCount(), 1);
+        QCOMPARE(convert({u"--user-password-file=-"_s, text("a.txt")}, "secret\n").exitCode, 0);
+        QCOMPARE(PdfProbe(path("out/a.pdf"), u"secret"_s).pageCount(), 1);
     }
 
     void bothPasswordsComeFromTwoLinesOfStandardInput() {
-        QCOMPARE(convert({QStringLiteral("--owner-password-file=-"),
-                          QStringLiteral("--user-password-file=-"),
-                          QStringLiteral("--refuse-print"), text("a.txt")},
+        QCOMPARE(convert({u"--owner-password-file=-"_s, u"--user-password-file=-"_s,
+                          u"--refuse-print"_s, text("a.txt")},
                          "user\nowner\n")
                      .exitCode,
                  0);
-        const PdfProbe probe(path("out/a.pdf"), QStringLiteral("user"));
-        QVERIFY2(
-            probe.info(QStringLiteral("Encrypted")).contains(QStringLiteral("print:no copy:yes")),
-            qPrintable(probe.info(QStringLiteral("Encrypted"))));
+        const PdfProbe probe(path("out/a.pdf"), u"user"_s);
+        QVERIFY2(probe.info(u"Encrypted"_s).contains(u"print:no copy:yes"_s),
+                 qPrintable(probe.info(u"Encrypted"_s)));
     }
 
     void passwordsComeFromTheEnvironment() {
-        const ToolRun run = test::runTool(
-            QStringLiteral("env"), {QStringLiteral("FOLIOFORGE_USER_PASSWORD=user"),
-                                    QStringLiteral("FOLIOFORGE_OWNER_PASSWORD=owner"), kProgram,
-                                    QStringLiteral("--refuse-copy"),
-                                    QStringLiteral("--output-folder"), path("out"), text("a.txt")});
+        const ToolRun run = test::runTool(u"env"_s, {u"FOLIOFORGE_USER_PASSWORD=user"_s,
+                                                     u"FOLIOFORGE_OWNER_PASSWORD=owner"_s, kProgram,
+                                                     u"--refuse-copy"_s, u"--output-folder"_s,
+                                                     path("out"), text("a.txt")});
         QCOMPARE(run.exitCode, 0);
-        const PdfProbe probe(path("out/a.pdf"), QStringLiteral("user"));
-        QVERIFY(probe.info(QStringLiteral("Encrypted")).contains(QStringLiteral("copy:no")));
+        const PdfProbe probe(path("out/a.pdf"), u"user"_s);
+        QVERIFY(probe.info(u"Encrypted"_s).contains(u"copy:no"_s));
     }
 
     void equalPasswordsGetTheirNotice() {
         const QString file = text("password", "same");
-        const ToolRun run = convert({QStringLiteral("--user-password-file"), file,
-                                     QStringLiteral("--owner-password-file"), file, text("a.txt")});
+        const ToolRun run = convert(
+            {u"--user-password-file"_s, file, u"--owner-password-file"_s, file, text("a.txt")});
         QCOMPARE(run.exitCode, 2);
         QVERIFY(run.err.contains("The passwords can not be the same."));
         QVERIFY(outputs().isEmpty());
     }
 
     void aPasswordFileThatCannotBeReadStopsTheRun() {
-        const ToolRun run =
-            convert({QStringLiteral("--user-password-file"), path("missing"), text("a.txt")});
+        const ToolRun run = convert({u"--user-password-file"_s, path("missing"), text("a.txt")});
         QCOMPARE(run.exitCode, 2);
         QVERIFY(run.err.contains(path("missing").toUtf8()));
         QVERIFY(outputs().isEmpty());
     }
 
     void filesWhoseNamesAreNotUtf8AreConverted() {
-        const QString script = QStringLiteral(
-            "cd \"$1\" && mkdir in && name=$(printf 'caf\\351.txt') && echo words >\"in/$name\" && "
-            "exec \"$0\" --json --output-folder out \"in/$name\" in");
-        const ToolRun run = test::runTool(
-            QStringLiteral("sh"), {QStringLiteral("-c"), script, kProgram, m_folder->path()});
+        const QString script = u"cd \"$1\" && mkdir in && name=$(printf 'caf\\351.txt') && echo "
+                               u"words >\"in/$name\" && "
+                               "exec \"$0\" --json --output-folder out \"in/$name\" in"_s;
+        const ToolRun run = test::runTool(u"sh"_s, {u"-c"_s, script, kProgram, m_folder->path()});
         QVERIFY2(run.exitCode == 0, run.err.constData());
         QCOMPARE(objectsOf(run.out).size(), 2);
         QCOMPARE(outputs().size(), 2);
         for (const QString &name : outputs()) {
-            QVERIFY(PdfProbe(path("out/") + name).text().contains(QStringLiteral("words")));
+            QVERIFY(PdfProbe(path("out/") + name).text().contains(u"words"_s));
         }
     }
 
     void anotherLocaleChangesNothing() {
-        const ToolRun run =
-            test::runTool(QStringLiteral("env"),
-                          {QStringLiteral("LC_ALL=C"), kProgram, QStringLiteral("--output-folder"),
-                           path("out"), text("größe.txt")});
+        const ToolRun run = test::runTool(u"env"_s, {u"LC_ALL=C"_s, kProgram, u"--output-folder"_s,
+                                                     path("out"), text("größe.txt")});
         QCOMPARE(run.exitCode, 0);
         QVERIFY2(run.err.isEmpty(), run.err.constData());
-        QCOMPARE(outputs(), QStringList{QStringLiteral("größe.pdf")});
+        QCOMPARE(outputs(), QStringList{u"größe.pdf"_s});
     }
 
     void aReaderThatGoesAwayStopsNothing() {
         const QString script =
-            QStringLiteral("\"$0\" --json --output-folder \"$1\" \"$2\" \"$2\" \"$2\" | true");
-        test::runTool(QStringLiteral("sh"),
-                      {QStringLiteral("-c"), script, kProgram, path("out"), text("a.txt")});
+            u"\"$0\" --json --output-folder \"$1\" \"$2\" \"$2\" \"$2\" | true"_s;
+        test::runTool(u"sh"_s, {u"-c"_s, script, kProgram, path("out"), text("a.txt")});
         QCOMPARE(outputs().size(), 3);
     }
 
@@ -610,8 +589,7 @@ class CommandLineTest : public QObject {
         const QString large =
             text("large.txt", QByteArray("many words on a line\n").repeated(1'500'000));
         QProcess process;
-        process.start(kProgram, {QStringLiteral("--progress=always"), QStringLiteral("--merge"),
-                                 path("out/large"), large});
+        process.start(kProgram, {u"--progress=always"_s, u"--merge"_s, path("out/large"), large});
         QVERIFY(process.waitForStarted());
         process.setReadChannel(QProcess::StandardError);
         QVERIFY(process.waitForReadyRead()); // The first progress line: pages are being made.

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 class ConsoleTest : public QObject {
@@ -15,78 +16,74 @@ class ConsoleTest : public QObject {
 
   private Q_SLOTS:
     void ordinaryNamesArePrintedAsTheyAre() {
-        const QString name = QStringLiteral("Büro 标题 \U0001F600 (1).txt");
+        const QString name = u"Büro 标题 \U0001F600 (1).txt"_s;
         QCOMPARE(printable(name), name);
     }
 
     void charactersThatMoveTheCursorAreSpelledOut() {
-        QCOMPARE(printable(QStringLiteral("a\x1b[2Jb\nc\td\x7f")),
-                 QStringLiteral("a\\x1b[2Jb\\x0ac\\x09d\\x7f"));
-        QCOMPARE(printable(QStringLiteral("\u0085\u2028\u202Etxt")),
-                 QStringLiteral("\\u{85}\\u{2028}\\u{202e}txt"));
+        QCOMPARE(printable(u"a\x1b[2Jb\nc\td\x7f"_s), u"a\\x1b[2Jb\\x0ac\\x09d\\x7f"_s);
+        QCOMPARE(printable(u"\u0085\u2028\u202Etxt"_s), u"\\u{85}\\u{2028}\\u{202e}txt"_s);
     }
 
     void joinersOfLettersAndEmojiStay() {
-        const QString name =
-            QStringLiteral("\u0646\u0645\u06CC\u200C\u062E\u0648\u0627\u0647\u0645 "
-                           "\U0001F469\u200D\U0001F680");
+        const QString name = u"\u0646\u0645\u06CC\u200C\u062E\u0648\u0627\u0647\u0645 "
+                             "\U0001F469\u200D\U0001F680"_s;
         QCOMPARE(printable(name), name);
     }
 
     void halvesOfCharactersAreReplaced() {
-        QCOMPARE(printable(QString(QChar(0xDE00)) + u'a'), QStringLiteral("\uFFFDa"));
+        QCOMPARE(printable(QString(QChar(0xDE00)) + u'a'), u"\uFFFDa"_s);
     }
 
     void jsonEscapesWhatATerminalObeys() {
         InputResult result;
-        result.input = QStringLiteral("\u009b2J\u202E\U000E0001\x7f");
+        result.input = u"\u009b2J\u202E\U000E0001\x7f"_s;
         const QByteArray line = toJson(result);
         QVERIFY(line.contains("\\u009b2J\\u202e\\udb40\\udc01\\u007f"));
-        QCOMPARE(QJsonDocument::fromJson(line).object()[QStringLiteral("input")].toString(),
-                 result.input);
+        QCOMPARE(QJsonDocument::fromJson(line).object()[u"input"_s].toString(), result.input);
     }
 
     void aResultIsOneJsonObjectOnOneLine() {
         InputResult result;
-        result.input = QStringLiteral("a \"b\"\n.png");
-        result.output = QStringLiteral("a.pdf");
+        result.input = u"a \"b\"\n.png"_s;
+        result.output = u"a.pdf"_s;
         result.pages = 2;
         result.embedded = EmbeddedAs::OwnBytes;
         CompressionOutcome compression;
         compression.bytesBefore = 5'000'000'000;
         compression.bytesAfter = 7;
         compression.imagesReduced = 1;
-        compression.imagesKept.push_back({2, 9, QStringLiteral("line art")});
+        compression.imagesKept.push_back({2, 9, u"line art"_s});
         result.compression = compression;
         const QByteArray line = toJson(result);
         QVERIFY(!line.contains('\n'));
         const QJsonObject object = QJsonDocument::fromJson(line).object();
-        QCOMPARE(object[QStringLiteral("input")].toString(), result.input);
-        QCOMPARE(object[QStringLiteral("output")].toString(), result.output);
-        QCOMPARE(object[QStringLiteral("pages")].toInt(), 2);
-        QCOMPARE(object[QStringLiteral("state")].toString(), QStringLiteral("finished"));
-        QCOMPARE(object[QStringLiteral("embedded")].toString(), QStringLiteral("own bytes"));
-        QCOMPARE(object[QStringLiteral("bytesBefore")].toInteger(), qint64(5'000'000'000));
-        QCOMPARE(object[QStringLiteral("bytesAfter")].toInt(), 7);
-        QCOMPARE(object[QStringLiteral("imagesReduced")].toInt(), 1);
-        const QJsonObject left = object[QStringLiteral("imagesLeft")].toArray().at(0).toObject();
-        QCOMPARE(left[QStringLiteral("page")].toInt(), 2);
-        QCOMPARE(left[QStringLiteral("object")].toInt(), 9);
-        QCOMPARE(left[QStringLiteral("reason")].toString(), QStringLiteral("line art"));
-        QVERIFY(!object.contains(QStringLiteral("message")));
+        QCOMPARE(object[u"input"_s].toString(), result.input);
+        QCOMPARE(object[u"output"_s].toString(), result.output);
+        QCOMPARE(object[u"pages"_s].toInt(), 2);
+        QCOMPARE(object[u"state"_s].toString(), u"finished"_s);
+        QCOMPARE(object[u"embedded"_s].toString(), u"own bytes"_s);
+        QCOMPARE(object[u"bytesBefore"_s].toInteger(), qint64(5'000'000'000));
+        QCOMPARE(object[u"bytesAfter"_s].toInt(), 7);
+        QCOMPARE(object[u"imagesReduced"_s].toInt(), 1);
+        const QJsonObject left = object[u"imagesLeft"_s].toArray().at(0).toObject();
+        QCOMPARE(left[u"page"_s].toInt(), 2);
+        QCOMPARE(left[u"object"_s].toInt(), 9);
+        QCOMPARE(left[u"reason"_s].toString(), u"line art"_s);
+        QVERIFY(!object.contains(u"message"_s));
     }
 
     void theManualNamesEveryKey() {
         InputResult result;
-        result.message = QStringLiteral("blank");
+        result.message = u"blank"_s;
         result.embedded = EmbeddedAs::OwnBytes;
         result.compression.emplace().imagesKept.emplace_back();
         InputResult failure;
-        failure.compression.emplace().error = QStringLiteral("no filter");
+        failure.compression.emplace().error = u"no filter"_s;
         const QJsonObject object = QJsonDocument::fromJson(toJson(result)).object();
-        const QStringList keys =
-            object.keys() + object[QStringLiteral("imagesLeft")].toArray().at(0).toObject().keys() +
-            QJsonDocument::fromJson(toJson(failure)).object().keys();
+        const QStringList keys = object.keys() +
+                                 object[u"imagesLeft"_s].toArray().at(0).toObject().keys() +
+                                 QJsonDocument::fromJson(toJson(failure)).object().keys();
         const QByteArray manual =
             test::readFile(QStringLiteral(FOLIOFORGE_PACKAGING "/folioforge-cli.1"));
         QVERIFY(keys.size() > 12);
@@ -99,10 +96,10 @@ class ConsoleTest : public QObject {
 
     void aPdfThatCouldNotBeCompressedSaysWhy() {
         InputResult result;
-        result.compression.emplace().error = QStringLiteral("no filter");
+        result.compression.emplace().error = u"no filter"_s;
         const QJsonObject object = QJsonDocument::fromJson(toJson(result)).object();
-        QCOMPARE(object[QStringLiteral("notCompressed")].toString(), QStringLiteral("no filter"));
-        QVERIFY(!object.contains(QStringLiteral("bytesAfter")));
+        QCOMPARE(object[u"notCompressed"_s].toString(), u"no filter"_s);
+        QVERIFY(!object.contains(u"bytesAfter"_s));
     }
 
     void imagesLeftAreNamedInWordsByReasonAndPage() {
@@ -110,35 +107,35 @@ class ConsoleTest : public QObject {
         compression.bytesBefore = 90;
         compression.bytesAfter = 40;
         compression.imagesReduced = 1;
-        compression.imagesKept.push_back({7, 9, QStringLiteral("damaged JPEG data: no end")});
+        compression.imagesKept.push_back({7, 9, u"damaged JPEG data: no end"_s});
         for (int page = 12; page > 0; --page) {
-            compression.imagesKept.push_back({page, page, QStringLiteral("line art")});
-            compression.imagesKept.push_back({page, 20 + page, QStringLiteral("line art")});
+            compression.imagesKept.push_back({page, page, u"line art"_s});
+            compression.imagesKept.push_back({page, 20 + page, u"line art"_s});
         }
         QCOMPARE(toWords(compression),
-                 QStringLiteral("90 -> 40 bytes, images reduced: 1, left: 1 (damaged JPEG data: no "
-                                "end; page 7), left: 24 (line art; pages 1, 2, 3, 4, 5, 6, 7, 8, "
-                                "9, 10, ...)"));
+                 u"90 -> 40 bytes, images reduced: 1, left: 1 (damaged JPEG data: no "
+                 "end; page 7), left: 24 (line art; pages 1, 2, 3, 4, 5, 6, 7, 8, "
+                 "9, 10, ...)"_s);
     }
 
     void aFailureHasItsReasonAndNoOutput() {
         InputResult result;
-        result.input = QStringLiteral("a.png");
+        result.input = u"a.png"_s;
         result.state = InputResult::State::Failed;
-        result.message = QStringLiteral("It broke");
+        result.message = u"It broke"_s;
         const QJsonObject object = QJsonDocument::fromJson(toJson(result)).object();
-        QCOMPARE(object[QStringLiteral("state")].toString(), QStringLiteral("failed"));
-        QCOMPARE(object[QStringLiteral("message")].toString(), QStringLiteral("It broke"));
-        QVERIFY(object[QStringLiteral("output")].isNull());
-        QCOMPARE(toMessage(result), QStringLiteral("a.png: It broke"));
+        QCOMPARE(object[u"state"_s].toString(), u"failed"_s);
+        QCOMPARE(object[u"message"_s].toString(), u"It broke"_s);
+        QVERIFY(object[u"output"_s].isNull());
+        QCOMPARE(toMessage(result), u"a.png: It broke"_s);
     }
 
     void aWarningIsCalledOne() {
         InputResult result;
-        result.input = QStringLiteral("a.txt");
+        result.input = u"a.txt"_s;
         QCOMPARE(toMessage(result), QString());
-        result.message = QStringLiteral("blank");
-        QCOMPARE(toMessage(result), QStringLiteral("a.txt: warning: blank"));
+        result.message = u"blank"_s;
+        QCOMPARE(toMessage(result), u"a.txt: warning: blank"_s);
     }
 };
 

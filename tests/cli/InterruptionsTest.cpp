@@ -16,6 +16,7 @@
 #include <csignal>
 #include <optional>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
 
@@ -28,18 +29,13 @@ class InterruptionsTest : public QObject {
     QString path(const char *name) const { return m_folders->path(name); }
     QStringList hiddenIn(const char *folder) const {
         return QDir(path(folder))
-            .entryList({QStringLiteral(".*")},
-                       QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+            .entryList({u".*"_s}, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
     /// A file whose name no text can hold; a link in the temporary folder stands for it.
     QByteArray notText() const { return QFile::encodeName(path("in")) + "/caf\xe9.jpg"; }
     QStringList arguments() const {
-        return {QStringLiteral("--output-folder"),
-                path("out"),
-                QStringLiteral("--compress"),
-                QStringLiteral("72l"),
-                path("photo.jpg"),
-                path("in")};
+        return {u"--output-folder"_s, path("out"), u"--compress"_s, u"72l"_s,
+                path("photo.jpg"),    path("in")};
     }
     /// Milliseconds of a whole run.
     int wholeRun() const {

@@ -13,6 +13,7 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -47,15 +48,15 @@ QByteArray fetched() {
 }
 
 QString written() {
-    return QStringLiteral("a PDF");
+    return u"a PDF"_s;
 }
 
 QString valid() {
-    return QStringLiteral("a right PDF");
+    return u"a right PDF"_s;
 }
 
 QString noMemory() {
-    return QStringLiteral("There is not enough memory");
+    return u"There is not enough memory"_s;
 }
 
 } // namespace
@@ -68,17 +69,13 @@ class LimitsTest : public QObject {
     std::unique_ptr<QTemporaryDir> m_folder;
 
     QString path(const QString &name) const { return m_folder->filePath(name); }
-    QString target() const { return path(QStringLiteral("out.pdf")); }
+    QString target() const { return path(u"out.pdf"_s); }
     QString saved(const QString &name, const QByteArray &bytes) const {
         return writeFile(path(name), bytes);
     }
-    QString savedPdf(const QByteArray &bytes) const {
-        return saved(QStringLiteral("hostile.pdf"), bytes);
-    }
+    QString savedPdf(const QByteArray &bytes) const { return saved(u"hostile.pdf"_s, bytes); }
     QStringList mergeOf(const QStringList &arguments) const {
-        return QStringList{QStringLiteral("--flush"), QStringLiteral("never"),
-                           QStringLiteral("--merge"), target()} +
-               arguments;
+        return QStringList{u"--flush"_s, u"never"_s, u"--merge"_s, target()} + arguments;
     }
     /// Merges and says how it ended: written(), or the reason on standard error.
     QString endingOf(const QStringList &arguments, const Limits &limits = {}) const {
@@ -86,7 +83,7 @@ class LimitsTest : public QObject {
         const LimitedRun run =
             runLimited(QStringLiteral(FOLIOFORGE_CLI), mergeOf(arguments), limits);
         QString answer = QString::fromUtf8(run.err.left(run.err.indexOf('\n')));
-        answer = answer.sliced(answer.lastIndexOf(QStringLiteral(": ")) + 1).trimmed();
+        answer = answer.sliced(answer.lastIndexOf(u": "_s) + 1).trimmed();
         if (run.exitCode == 0) {
             answer = written();
         } else if (run.exitCode != 1) {
@@ -113,8 +110,8 @@ class LimitsTest : public QObject {
         const qint64 step = sized(1, 8) * kMegabyte;
         std::vector<qint64> sizes;
         for (qint64 size = 64 * kMegabyte; size < 190 * kMegabyte; size += step) {
-            if (runLimited(QStringLiteral(FOLIOFORGE_CLI), {QStringLiteral("--version")}, {size})
-                    .exitCode == 0) {
+            if (runLimited(QStringLiteral(FOLIOFORGE_CLI), {u"--version"_s}, {size}).exitCode ==
+                0) {
                 sizes.push_back(size);
             }
         }
@@ -141,9 +138,9 @@ class LimitsTest : public QObject {
     }
     void imagesOverThePixelBoundAreRefused() {
         QFETCH(QByteArray, bytes);
-        const QString name = QStringLiteral("claim.") + QLatin1StringView(QTest::currentDataTag());
+        const QString name = u"claim."_s + QLatin1StringView(QTest::currentDataTag());
         QCOMPARE(answerTo({saved(name, bytes)}),
-                 QStringLiteral("The image is too large (30000 x 30000 pixels)"));
+                 u"The image is too large (30000 x 30000 pixels)"_s);
     }
 
     void imagesThatUnfoldAreConverted_data() {
@@ -153,34 +150,32 @@ class LimitsTest : public QObject {
         addRow("profile", pngWithProfile, 1LL << 30, 64 << 20);
     }
     void imagesThatUnfoldAreConverted() {
-        QCOMPARE(answerTo({saved(QStringLiteral("image.png"), fetched())}), valid());
+        QCOMPARE(answerTo({saved(u"image.png"_s, fetched())}), valid());
     }
 
     void littleMemoryGivesARightDocumentOrWords_data() {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QStringList>("options");
-        QTest::newRow("bitmap") << QStringLiteral("noise.bmp") << QStringList();
-        QTest::newRow("PNG") << QStringLiteral("noise.png") << QStringList();
-        QTest::newRow("PDF") << QStringLiteral("noise.pdf") << QStringList();
-        QTest::newRow("compressed PDF")
-            << QStringLiteral("noise.pdf")
-            << QStringList{QStringLiteral("--compress"), QStringLiteral("72l")};
+        QTest::newRow("bitmap") << u"noise.bmp"_s << QStringList();
+        QTest::newRow("PNG") << u"noise.png"_s << QStringList();
+        QTest::newRow("PDF") << u"noise.pdf"_s << QStringList();
+        QTest::newRow("compressed PDF") << u"noise.pdf"_s << QStringList{u"--compress"_s, u"72l"_s};
     }
     void littleMemoryGivesARightDocumentOrWords() {
         QFETCH(const QString, name);
         QFETCH(const QStringList, options);
         QString source = noise(name, QImage::Format_RGB32);
         if (source.isEmpty()) {
-            QCOMPARE(answerTo({noise(QStringLiteral("noise.png"), QImage::Format_ARGB32),
-                               noise(QStringLiteral("noise.jpg"), QImage::Format_RGB32)}),
+            QCOMPARE(answerTo({noise(u"noise.png"_s, QImage::Format_ARGB32),
+                               noise(u"noise.jpg"_s, QImage::Format_RGB32)}),
                      valid());
             source = path(name);
             QVERIFY(QFile::rename(target(), source));
         }
         for (const qint64 size : littleMemory()) {
             const QString answer = answerTo(options + QStringList{source}, {size});
-            QVERIFY2(answer == valid() || answer.contains(QStringLiteral("memory")),
-                     qPrintable(QStringLiteral("%1 MB: %2").arg(size >> 20).arg(answer)));
+            QVERIFY2(answer == valid() || answer.contains(u"memory"_s),
+                     qPrintable(u"%1 MB: %2"_s.arg(size >> 20).arg(answer)));
         }
     }
 
@@ -204,8 +199,8 @@ class LimitsTest : public QObject {
     void circlesEnd() {
         QFETCH(QByteArray, bytes);
         const bool tree = qstrcmp(QTest::currentDataTag(), "a page tree") == 0;
-        QCOMPARE(answerTo({savedPdf(bytes), QStringLiteral("--compress=72l")}),
-                 tree ? QStringLiteral("The page tree contains itself") : valid());
+        QCOMPARE(answerTo({savedPdf(bytes), u"--compress=72l"_s}),
+                 tree ? u"The page tree contains itself"_s : valid());
     }
 
     void manyObjectsAreReadOrRefused_data() {
@@ -228,8 +223,7 @@ class LimitsTest : public QObject {
         const QString file = savedPdf(fetched());
         const bool refused = qstrcmp(QTest::currentDataTag(), "objects") == 0;
         for (const char *method : {"none", "72l"}) {
-            const QString answer =
-                endingOf({file, QStringLiteral("--compress=") + QLatin1StringView(method)});
+            const QString answer = endingOf({file, u"--compress="_s + QLatin1StringView(method)});
             QCOMPARE(answer == written(), !refused);
             QCOMPARE(PdfProbe(target()).pageCount(), refused ? 0 : 1);
             QVERIFY(!answer.isEmpty());
@@ -245,7 +239,7 @@ class LimitsTest : public QObject {
     }
     void aLineOfAHundredMegabytesIsLaidOut() {
         QFETCH(QByteArray, text);
-        const QString answer = answerTo({saved(QStringLiteral("line.txt"), text)});
+        const QString answer = answerTo({saved(u"line.txt"_s, text)});
         QVERIFY(answer == valid() || answer == noMemory());
     }
 
@@ -258,14 +252,14 @@ class LimitsTest : public QObject {
 
     void tenThousandInputsNeedFewDescriptors() {
         const int count = sized(10'000, 300);
-        const QString picture = writePng(path(QStringLiteral("a.png")), 20, 10);
-        const QString document = writePdf(path(QStringLiteral("a.pdf")), 1);
+        const QString picture = writePng(path(u"a.png"_s), 20, 10);
+        const QString document = writePdf(path(u"a.pdf"_s), 1);
         QStringList inputs;
         for (int i = 0; i < count; ++i) {
             const QString name = path(QString::number(i));
-            inputs += i % 3 == 0   ? writeFile(name + QStringLiteral(".txt"), "words")
-                      : i % 3 == 1 ? name + QStringLiteral(".png")
-                                   : name + QStringLiteral(".pdf");
+            inputs += i % 3 == 0   ? writeFile(name + u".txt"_s, "words")
+                      : i % 3 == 1 ? name + u".png"_s
+                                   : name + u".pdf"_s;
             if (i % 3 != 0) {
                 QVERIFY(QFile::copy(i % 3 == 1 ? picture : document, inputs.last()));
             }

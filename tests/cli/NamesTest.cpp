@@ -11,6 +11,7 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
 using test::ToolRun;
@@ -41,8 +42,7 @@ class NamesTest : public QObject {
         }
     }
     ToolRun convert(const QStringList &arguments) const {
-        return test::runTool(kProgram, QStringList{QStringLiteral("--output-folder"), path("out")} +
-                                           arguments);
+        return test::runTool(kProgram, QStringList{u"--output-folder"_s, path("out")} + arguments);
     }
 
   private Q_SLOTS:
@@ -53,7 +53,7 @@ class NamesTest : public QObject {
     }
     void cleanup() {
         // Qt cannot name all of them, nor remove them.
-        test::runTool(QStringLiteral("rm"), {QStringLiteral("-rf"), path("in")});
+        test::runTool(u"rm"_s, {u"-rf"_s, path("in")});
     }
 
     void eachIsConvertedUnderItsName() {
@@ -64,23 +64,23 @@ class NamesTest : public QObject {
         QCOMPARE(outputs().size(), test::hostileNames().size());
         int number = 0;
         for (const QByteArray &name : test::hostileNames()) {
-            const QString output = path("out/") + test::readableBase(name) + QStringLiteral(".pdf");
+            const QString output = path("out/") + test::readableBase(name) + u".pdf"_s;
             QVERIFY2(QFile::exists(output), qPrintable(output));
-            QCOMPARE(PdfProbe(output).text().trimmed(), QStringLiteral("number%1").arg(++number));
+            QCOMPARE(PdfProbe(output).text().trimmed(), u"number%1"_s.arg(++number));
         }
-        QVERIFY(!QFile::exists(path("pwned")) && !QFile::exists(QStringLiteral("pwned")));
+        QVERIFY(!QFile::exists(path("pwned")) && !QFile::exists(u"pwned"_s));
     }
 
     void jsonHoldsEachNameAndNothingThatATerminalObeys() {
         writeInputs(".txt", "number");
-        const ToolRun run = convert({QStringLiteral("--json"), path("in")});
+        const ToolRun run = convert({u"--json"_s, path("in")});
         QCOMPARE(run.exitCode, 0);
         QVERIFY(test::isHarmlessForTerminals(run.out));
         QStringList shown;
         for (const QByteArray &line : run.out.trimmed().split('\n')) {
             const QJsonObject object = QJsonDocument::fromJson(line).object();
-            shown += object[QStringLiteral("input")].toString();
-            QVERIFY(QFile::exists(object[QStringLiteral("output")].toString()));
+            shown += object[u"input"_s].toString();
+            QVERIFY(QFile::exists(object[u"output"_s].toString()));
         }
         for (const QByteArray &name : test::hostileNames()) {
             QVERIFY(shown.contains(path("in/") + QString::fromUtf8(name)));
@@ -89,7 +89,7 @@ class NamesTest : public QObject {
 
     void failuresAndProgressNameThemHarmlessly() {
         writeInputs(".png", "no picture ");
-        const ToolRun run = convert({QStringLiteral("--progress=always"), path("in")});
+        const ToolRun run = convert({u"--progress=always"_s, path("in")});
         QCOMPARE(run.exitCode, 1);
         QByteArray shown = run.err;
         shown.replace("\r\033[K", ""); // The progress line's own.
@@ -106,15 +106,14 @@ class NamesTest : public QObject {
         const ToolRun run = convert({path("in")});
         QVERIFY2(run.exitCode == 0, run.err.constData());
         const QString kept = QString((255 - 4) / 3, QChar::ReplacementCharacter);
-        QCOMPARE(outputs(), QStringList{kept + QStringLiteral(".pdf")});
-        QCOMPARE(PdfProbe(path("out/") + outputs().first()).text().trimmed(),
-                 QStringLiteral("words"));
+        QCOMPARE(outputs(), QStringList{kept + u".pdf"_s});
+        QCOMPARE(PdfProbe(path("out/") + outputs().first()).text().trimmed(), u"words"_s);
     }
 
     void aWrongArgumentIsRepeatedHarmlessly() {
         for (const QByteArray &name : test::hostileNames()) {
             const QString argument = QString::fromUtf8(name);
-            const ToolRun run = convert({QStringLiteral("--") + argument, argument});
+            const ToolRun run = convert({u"--"_s + argument, argument});
             QCOMPARE(run.exitCode, 2);
             QVERIFY2(test::isHarmlessForTerminals(run.err), run.err.constData());
         }
@@ -124,11 +123,11 @@ class NamesTest : public QObject {
         writeInputs(".txt", "number");
         QProcess process;
         process.setWorkingDirectory(path("in"));
-        process.start(kProgram, {QStringLiteral("--output-folder=../out"), QStringLiteral("--"),
-                                 QStringLiteral("-rf.txt"), QStringLiteral("--json.txt")});
+        process.start(kProgram,
+                      {u"--output-folder=../out"_s, u"--"_s, u"-rf.txt"_s, u"--json.txt"_s});
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitCode(), 0);
-        QCOMPARE(outputs(), (QStringList{QStringLiteral("--json.pdf"), QStringLiteral("-rf.pdf")}));
+        QCOMPARE(outputs(), (QStringList{u"--json.pdf"_s, u"-rf.pdf"_s}));
     }
 
     void aMergedPdfCanHaveAnyNameThatIsText() {
@@ -139,9 +138,8 @@ class NamesTest : public QObject {
             if (readable.toUtf8() != name) {
                 continue;
             }
-            const QString target = path("out/") + test::readableBase(name) + QStringLiteral(".pdf");
-            const ToolRun run =
-                test::runTool(kProgram, {QStringLiteral("--merge"), target, source});
+            const QString target = path("out/") + test::readableBase(name) + u".pdf"_s;
+            const ToolRun run = test::runTool(kProgram, {u"--merge"_s, target, source});
             QCOMPARE(run.exitCode, 0);
             QVERIFY(test::isHarmlessForTerminals(run.out));
             QVERIFY(QFile::exists(target));

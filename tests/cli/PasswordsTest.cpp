@@ -10,6 +10,7 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
 using test::ToolRun;
@@ -21,7 +22,7 @@ const QByteArray kPassword = "correct horse battery";
 
 /// How large an image of its memory `process` may leave.
 QByteArray coreLimitOf(const QProcess &process) {
-    const QString limits = QStringLiteral("/proc/%1/limits").arg(process.processId());
+    const QString limits = u"/proc/%1/limits"_s.arg(process.processId());
     for (const QByteArray &line : test::readFile(limits).split('\n')) {
         if (line.startsWith("Max core file size")) {
             return line.simplified().split(' ').at(4);
@@ -39,7 +40,7 @@ class PasswordsTest : public QObject {
     std::optional<test::RunFolders> m_folders;
 
     QString path(const char *name) const { return m_folders->path(name); }
-    QStringList outputArguments() const { return {QStringLiteral("--output-folder"), path("out")}; }
+    QStringList outputArguments() const { return {u"--output-folder"_s, path("out")}; }
 
   private Q_SLOTS:
     void init() { m_folders.emplace(); }
@@ -49,10 +50,9 @@ class PasswordsTest : public QObject {
         QVERIFY(test::photo(300, 200).save(path("photo.jpg"), "JPG", 95));
         const ToolRun run = test::runTool(
             kProgram,
-            outputArguments() +
-                QStringList{QStringLiteral("--user-password-file=-"), QStringLiteral("--json"),
-                            QStringLiteral("--progress=always"), QStringLiteral("--compress=72l"),
-                            path("photo.jpg"), path("missing.txt")},
+            outputArguments() + QStringList{u"--user-password-file=-"_s, u"--json"_s,
+                                            u"--progress=always"_s, u"--compress=72l"_s,
+                                            path("photo.jpg"), path("missing.txt")},
             kPassword + '\n');
         QCOMPARE(run.exitCode, 1);
         QVERIFY(PdfProbe(path("out/photo.pdf"), QString::fromLatin1(kPassword)).isValid());
@@ -68,9 +68,9 @@ class PasswordsTest : public QObject {
 
     void thereIsNoOptionForAPassword_data() {
         QTest::addColumn<QString>("option");
-        QTest::newRow("user") << QStringLiteral("--user-password");
-        QTest::newRow("owner") << QStringLiteral("--owner-password");
-        QTest::newRow("short") << QStringLiteral("--password");
+        QTest::newRow("user") << u"--user-password"_s;
+        QTest::newRow("owner") << u"--owner-password"_s;
+        QTest::newRow("short") << u"--password"_s;
     }
     void thereIsNoOptionForAPassword() {
         QFETCH(const QString, option);
@@ -121,10 +121,9 @@ class PasswordsTest : public QObject {
 
     void aCrashLeavesNoImageOfTheMemory() {
         QProcess process;
-        process.start(kProgram,
-                      outputArguments() + QStringList{QStringLiteral("--user-password-file=-"),
-                                                      QStringLiteral("--owner-password-file=-"),
-                                                      path("missing.txt")});
+        process.start(kProgram, outputArguments() + QStringList{u"--user-password-file=-"_s,
+                                                                u"--owner-password-file=-"_s,
+                                                                path("missing.txt")});
         QVERIFY(process.waitForStarted());
         process.write(kPassword + '\n');
         QVERIFY(process.waitForBytesWritten());

@@ -11,6 +11,7 @@
 #include <array>
 #include <optional>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
 
@@ -73,8 +74,7 @@ class RacesTest : public QObject {
     }
 
     void eachProcessKeepsEachOfItsPdfs() {
-        const auto ended =
-            runAtOnce(QStringList{QStringLiteral("--output-folder"), path("out")} + sources());
+        const auto ended = runAtOnce(QStringList{u"--output-folder"_s, path("out")} + sources());
         for (const Ended &one : ended) {
             QVERIFY2(one.exitCode == 0, one.err.constData());
         }
@@ -88,9 +88,8 @@ class RacesTest : public QObject {
         photo.setDotsPerMeterX(kDotsPerMeter);
         photo.setDotsPerMeterY(kDotsPerMeter);
         QVERIFY(photo.save(path("photo.jpg"), "JPG", 95));
-        const auto ended =
-            runAtOnce({QStringLiteral("--output-folder"), path("out"), QStringLiteral("--compress"),
-                       QStringLiteral("96m"), path("photo.jpg"), path("photo.jpg")});
+        const auto ended = runAtOnce({u"--output-folder"_s, path("out"), u"--compress"_s, u"96m"_s,
+                                      path("photo.jpg"), path("photo.jpg")});
         for (const Ended &one : ended) {
             QVERIFY2(one.exitCode == 0, one.err.constData());
         }
@@ -104,8 +103,7 @@ class RacesTest : public QObject {
     }
 
     void exactlyOneProcessMerges() {
-        const auto ended =
-            runAtOnce(QStringList{QStringLiteral("--merge"), path("out/all.pdf")} + sources());
+        const auto ended = runAtOnce(QStringList{u"--merge"_s, path("out/all.pdf")} + sources());
         QCOMPARE(std::count_if(ended.begin(), ended.end(),
                                [](const Ended &one) { return one.exitCode == 0; }),
                  1);
@@ -115,8 +113,8 @@ class RacesTest : public QObject {
                      one.err.contains("File name already exists in output folder, please input "
                                       "another name.")));
         }
-        QCOMPARE(namesIn("out"), QStringList{QStringLiteral("all.pdf")});
-        checkThatAllAreValid(QStringLiteral("words"));
+        QCOMPARE(namesIn("out"), QStringList{u"all.pdf"_s});
+        checkThatAllAreValid(u"words"_s);
     }
 
     void aPlantedLinkIsNotFollowed() {
@@ -124,14 +122,14 @@ class RacesTest : public QObject {
         QVERIFY(QFile::link(path("stranger"), path("out/all.pdf")));
         const QString source = test::writeFile(path("same.txt"), "words");
         QCOMPARE(test::runTool(QStringLiteral(FOLIOFORGE_CLI),
-                               {QStringLiteral("--output-folder"), path("out"), source})
+                               {u"--output-folder"_s, path("out"), source})
                      .exitCode,
                  0);
         QCOMPARE(test::runTool(QStringLiteral(FOLIOFORGE_CLI),
-                               {QStringLiteral("--merge"), path("out/all.pdf"), source})
+                               {u"--merge"_s, path("out/all.pdf"), source})
                      .exitCode,
                  2);
-        QCOMPARE(namesIn("out").join(u' '), QStringLiteral("all.pdf same(1).pdf same.pdf"));
+        QCOMPARE(namesIn("out").join(u' '), u"all.pdf same(1).pdf same.pdf"_s);
         QVERIFY(!QFile::exists(path("stranger")));
     }
 };

@@ -7,6 +7,7 @@
 
 #include <bitset>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -71,11 +72,10 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
 
     /// The picture as JPEG 2000, made by OpenJPEG's own program.
     QByteArray jpeg2000(const QImage &image) const {
-        const QString from = m_folder->filePath(QStringLiteral("photo.png"));
-        const QString to = m_folder->filePath(QStringLiteral("photo.jp2"));
-        if (!image.save(from) || runTool(QStringLiteral("opj_compress"),
-                                         {QStringLiteral("-i"), from, QStringLiteral("-o"), to})
-                                         .exitCode != 0) {
+        const QString from = m_folder->filePath(u"photo.png"_s);
+        const QString to = m_folder->filePath(u"photo.jp2"_s);
+        if (!image.save(from) ||
+            runTool(u"opj_compress"_s, {u"-i"_s, from, u"-o"_s, to}).exitCode != 0) {
             return {};
         }
         return readFile(to);
@@ -93,19 +93,19 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
             "/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode ");
         QTest::newRow("16 bits")
             << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 16 /Filter /FlateDecode")
-            << flate(everySampleTwice(rgb)) << QStringLiteral("rgb");
+            << flate(everySampleTwice(rgb)) << u"rgb"_s;
         QTest::newRow("predictor")
             << flateRgb + "/DecodeParms << /Predictor 15 /Colors 3 /Columns 1200 >>"
-            << flate(unpredictedRows(rgb, 3600)) << QStringLiteral("rgb");
+            << flate(unpredictedRows(rgb, 3600)) << u"rgb"_s;
         QTest::newRow("jpeg in flate")
             << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter [/FlateDecode "
                           "/DCTDecode]")
-            << flate(jpeg(photo(1200, 900))) << QStringLiteral("rgb");
+            << flate(jpeg(photo(1200, 900))) << u"rgb"_s;
         QTest::newRow("icc") << QByteArray("/ColorSpace [/ICCBased 8 0 R] /BitsPerComponent 8 "
                                            "/Filter /DCTDecode")
-                             << jpeg(photo(1200, 900)) << QStringLiteral("icc");
+                             << jpeg(photo(1200, 900)) << u"icc"_s;
         QTest::newRow("negative") << kJpegRgb + " /Decode [1 0 1 0 1 0]" << jpeg(photo(1200, 900))
-                                  << QStringLiteral("rgb");
+                                  << u"rgb"_s;
     }
 
     void photosOfEachKindAreReduced() {
@@ -140,7 +140,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
                             cmykJpeg(photo(1200, 900), form))
                     .write(m_path));
         const QString copy = compressed();
-        isHalved(copy, QStringLiteral("cmyk"));
+        isHalved(copy, u"cmyk"_s);
         QVERIFY(difference(PdfProbe(m_path).renderWithMutool(1, 100),
                            PdfProbe(copy).renderWithMutool(1, 100)) < 5);
     }
@@ -150,11 +150,10 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
         QTest::addColumn<QByteArray>("space");
         QTest::addColumn<QString>("colour");
         QTest::newRow("rgb") << QImage::Format_RGB888 << QByteArray("/ColorSpace /DeviceRGB")
-                             << QStringLiteral("rgb");
-        QTest::newRow("its own colours")
-            << QImage::Format_RGB888 << QByteArray() << QStringLiteral("rgb");
+                             << u"rgb"_s;
+        QTest::newRow("its own colours") << QImage::Format_RGB888 << QByteArray() << u"rgb"_s;
         QTest::newRow("grey") << QImage::Format_Grayscale8 << QByteArray("/ColorSpace /DeviceGray")
-                              << QStringLiteral("gray");
+                              << u"gray"_s;
     }
 
     void jpeg2000IsReduced() {
@@ -169,9 +168,9 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
         const QString copy = compressed();
         const auto images = PdfProbe(copy).images();
         QCOMPARE(images.size(), 1);
-        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+        QCOMPARE(images[0][kWidthColumn], u"600"_s);
         QCOMPARE(images[0][kColourColumn], colour);
-        QCOMPARE(images[0][kEncodingColumn], QStringLiteral("jpeg"));
+        QCOMPARE(images[0][kEncodingColumn], u"jpeg"_s);
         QVERIFY(changeOf(copy) < 5);
     }
 
@@ -213,8 +212,8 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
             QCOMPARE(outcome.error, QString());
             QCOMPARE(outcome.imagesReduced, 1);
             QCOMPARE(outcome.imagesKept.size(), std::size_t(2));
-            QCOMPARE(outcome.imagesKept[0].reason, QStringLiteral("bilevel"));
-            QCOMPARE(outcome.imagesKept[1].reason, QStringLiteral("bilevel"));
+            QCOMPARE(outcome.imagesKept[0].reason, u"bilevel"_s);
+            QCOMPARE(outcome.imagesKept[1].reason, u"bilevel"_s);
             const QByteArray copy = readFile(outcome.convertInfo->tempFilePathName);
             QVERIFY(copy.contains("stream\n" + fax + "endstream"));
             QVERIFY(copy.contains("stream\n" + jbig + "endstream"));
@@ -248,8 +247,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
         }
         widths.sort();
         widths.removeDuplicates();
-        QCOMPARE(widths, (QStringList{QStringLiteral("image150"), QStringLiteral("image600"),
-                                      QStringLiteral("smask600")}));
+        QCOMPARE(widths, (QStringList{u"image150"_s, u"image600"_s, u"smask600"_s}));
         QVERIFY(changeOf(copy) < 5);
     }
 };

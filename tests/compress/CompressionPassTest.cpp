@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -43,11 +44,11 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         const QString copy = compressed();
         const auto images = PdfProbe(copy).images();
         QCOMPARE(images.size(), 1);
-        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
-        QCOMPARE(images[0][kHeightColumn], QStringLiteral("450"));
-        QCOMPARE(images[0][kEncodingColumn], QStringLiteral("jpeg"));
+        QCOMPARE(images[0][kWidthColumn], u"600"_s);
+        QCOMPARE(images[0][kHeightColumn], u"450"_s);
+        QCOMPARE(images[0][kEncodingColumn], u"jpeg"_s);
         QVERIFY(changeOf(copy) < 5);
-        QVERIFY(PdfProbe(copy).text().contains(QStringLiteral("Caption")));
+        QVERIFY(PdfProbe(copy).text().contains(u"Caption"_s));
         QString log;
         QVERIFY2(PdfProbe(copy).isValid(&log), qPrintable(log));
     }
@@ -77,7 +78,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         qint64 before = QFileInfo(m_path).size();
         for (int index = 1; index <= 3; ++index) {
             const qint64 after = run(index).bytesAfter;
-            QVERIFY2(after < before, qPrintable(QStringLiteral("%1: %2").arg(index).arg(after)));
+            QVERIFY2(after < before, qPrintable(u"%1: %2"_s.arg(index).arg(after)));
             before = after;
         }
     }
@@ -93,7 +94,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         const auto images = PdfProbe(compressed()).images();
         // 72 points, four times enlarged, at 150 per inch.
         QVERIFY(!images.isEmpty());
-        QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
+        QCOMPARE(images[0][kWidthColumn], u"600"_s);
     }
 
     void anImageUsedManyTimesIsDoneOnce() {
@@ -111,23 +112,22 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         const QByteArray rgb = samplesOf(photo(1200, 900), 3);
         QTest::newRow("grey jpeg")
             << QByteArray("/ColorSpace /DeviceGray /BitsPerComponent 8 /Filter /DCTDecode")
-            << jpeg(grey) << QStringLiteral("gray");
+            << jpeg(grey) << u"gray"_s;
         QTest::newRow("flate photo")
             << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode")
-            << flate(rgb) << QStringLiteral("rgb");
-        QTest::newRow("plain photo") << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8")
-                                     << rgb << QStringLiteral("rgb");
+            << flate(rgb) << u"rgb"_s;
+        QTest::newRow("plain photo")
+            << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8") << rgb << u"rgb"_s;
         QTest::newRow("cmyk")
             << QByteArray("/ColorSpace /DeviceCMYK /BitsPerComponent 8 /Filter /FlateDecode")
-            << flate(samplesOf(photo(1200, 900, QImage::Format_RGBA8888), 4))
-            << QStringLiteral("cmyk");
+            << flate(samplesOf(photo(1200, 900, QImage::Format_RGBA8888), 4)) << u"cmyk"_s;
         QByteArray ramp;
         for (int i = 0; i < 256; ++i) {
             ramp += QByteArray(3, static_cast<char>(i)).toHex();
         }
         QTest::newRow("indexed") << "/ColorSpace [/Indexed /DeviceRGB 255 <" + ramp +
                                         ">] /BitsPerComponent 8 /Filter /FlateDecode"
-                                 << flate(samplesOf(grey, 1)) << QStringLiteral("rgb");
+                                 << flate(samplesOf(grey, 1)) << u"rgb"_s;
     }
 
     void coloursKeepTheirSpaces() {
@@ -153,7 +153,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         CompressionOutcome outcome;
         compressed(&outcome);
         QCOMPARE(outcome.imagesKept.size(), std::size_t(1));
-        QCOMPARE(outcome.imagesKept[0].reason, QStringLiteral("an unusual colour space"));
+        QCOMPARE(outcome.imagesKept[0].reason, u"an unusual colour space"_s);
     }
 
     void aStreamCompressedTwiceKeepsItsBytes() {
@@ -180,19 +180,18 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         }
         QTest::newRow("line art")
             << QByteArray("/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode")
-            << flate(drawing) << QStringLiteral("line art");
+            << flate(drawing) << u"line art"_s;
         QTest::newRow("bilevel")
             << QByteArray("/ColorSpace /DeviceGray /BitsPerComponent 1 /Filter /FlateDecode")
-            << flate(QByteArray(qsizetype(150) * 900, '\x5a')) << QStringLiteral("bilevel");
+            << flate(QByteArray(qsizetype(150) * 900, '\x5a')) << u"bilevel"_s;
         QTest::newRow("stencil") << QByteArray(
                                         "/ImageMask true /BitsPerComponent 1 /Filter /FlateDecode")
-                                 << flate(QByteArray(qsizetype(150) * 900, '\x5a'))
-                                 << QStringLiteral("a mask");
-        QTest::newRow("colour key") << kJpegRgb + " /Mask [0 1 0 1 0 1]" << jpeg(photo(1200, 900))
-                                    << QStringLiteral("masked by colour");
+                                 << flate(QByteArray(qsizetype(150) * 900, '\x5a')) << u"a mask"_s;
+        QTest::newRow("colour key")
+            << kJpegRgb + " /Mask [0 1 0 1 0 1]" << jpeg(photo(1200, 900)) << u"masked by colour"_s;
         QTest::newRow("other size than said")
             << kJpegRgb << jpeg(photo(600, 450))
-            << QStringLiteral("the data is of another size than the image says");
+            << u"the data is of another size than the image says"_s;
     }
 
     void whatIsNoPhotoStaysAndSaysWhy() {
@@ -221,7 +220,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         QCOMPARE(outcome.imagesKept.size(), std::size_t(1));
         QCOMPARE(outcome.imagesKept[0].page, 1);
         QCOMPARE(outcome.imagesKept[0].object, 5);
-        QVERIFY(outcome.imagesKept[0].reason.startsWith(QStringLiteral("damaged")));
+        QVERIFY(outcome.imagesKept[0].reason.startsWith(u"damaged"_s));
     }
 
     void aSoftMaskIsScaledWithItsImage() {
@@ -231,7 +230,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         const auto images = PdfProbe(copy).images();
         QCOMPARE(images.size(), 2);
         for (const QStringList &image : images) {
-            QCOMPARE(image[kWidthColumn], QStringLiteral("600"));
+            QCOMPARE(image[kWidthColumn], u"600"_s);
         }
         QVERIFY(changeOf(copy) < 5);
     }
@@ -256,7 +255,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         const QByteArray bytes = readFile(copy);
         QVERIFY(bytes.size() < 2000);
         QVERIFY(!bytes.contains("/Unused"));
-        QVERIFY(PdfProbe(copy).text().contains(QStringLiteral("Words that stay")));
+        QVERIFY(PdfProbe(copy).text().contains(u"Words that stay"_s));
         QCOMPARE(PdfProbe(copy).render(1, 100), PdfProbe(m_path).render(1, 100));
     }
 
@@ -266,19 +265,18 @@ class CompressionPassTest : public QObject, protected CompressionCase {
                       "50 50] /A << /S /URI /URI (https://example.org/) >> >>]");
         const QString copy = compressed();
         QVERIFY(PdfProbe(copy).json().contains("https://example.org/"));
-        QCOMPARE(PdfProbe(copy).box(QStringLiteral("CropBox"), 1),
-                 PdfProbe(m_path).box(QStringLiteral("CropBox"), 1));
+        QCOMPARE(PdfProbe(copy).box(u"CropBox"_s, 1), PdfProbe(m_path).box(u"CropBox"_s, 1));
     }
 
     void passwordsAreAskedAgain() {
         const QString copy = protectedCopy();
         QCOMPARE(PdfProbe(copy).pageCount(), 0);
-        const PdfProbe opened(copy, QStringLiteral("user"));
+        const PdfProbe opened(copy, u"user"_s);
         QCOMPARE(opened.pageCount(), 1);
-        const QString allowed = opened.info(QStringLiteral("Encrypted"));
-        QVERIFY2(allowed.contains(QStringLiteral("print:no")), qPrintable(allowed));
-        QVERIFY2(allowed.contains(QStringLiteral("copy:yes")), qPrintable(allowed));
-        QVERIFY2(allowed.contains(QStringLiteral("AES-256")), qPrintable(allowed));
+        const QString allowed = opened.info(u"Encrypted"_s);
+        QVERIFY2(allowed.contains(u"print:no"_s), qPrintable(allowed));
+        QVERIFY2(allowed.contains(u"copy:yes"_s), qPrintable(allowed));
+        QVERIFY2(allowed.contains(u"AES-256"_s), qPrintable(allowed));
     }
 
     void theCopyOfAProtectedDocumentIsPrivate() {
@@ -292,11 +290,10 @@ class CompressionPassTest : public QObject, protected CompressionCase {
     void theTemporaryNameGivesWayToFilesThatExist() {
         test::writePdf(m_path, 1);
         const QDir folder(m_places.temporaryFolder);
-        test::writeFile(folder.filePath(QStringLiteral("document.pdf")), "mine");
-        test::writeFile(folder.filePath(QStringLiteral("document(1).pdf")), "mine too");
-        QCOMPARE(compressed(), folder.filePath(QStringLiteral("document(2).pdf")));
-        QCOMPARE(test::readFile(folder.filePath(QStringLiteral("document.pdf"))),
-                 QByteArray("mine"));
+        test::writeFile(folder.filePath(u"document.pdf"_s), "mine");
+        test::writeFile(folder.filePath(u"document(1).pdf"_s), "mine too");
+        QCOMPARE(compressed(), folder.filePath(u"document(2).pdf"_s));
+        QCOMPARE(test::readFile(folder.filePath(u"document.pdf"_s)), QByteArray("mine"));
     }
 
     void progressRunsFromFiftyToHundredPageByPage() {
@@ -322,7 +319,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         text.replace("<integer>150</integer>", "<integer>0</integer>");
         QVERIFY(QFile::remove(filter));
         test::writeFile(filter, text);
-        QVERIFY(run(1).error.contains(QStringLiteral("\"Resolution\"")));
+        QVERIFY(run(1).error.contains(u"\"Resolution\""_s));
     }
 
     void afterAFailedPassTheDestinationIsGone() {
@@ -336,7 +333,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
     }
 
     void afterAFailedPassAForeignFileOfTheSameNameStays() {
-        const QString foreign = m_places.temporaryFolder + QStringLiteral("/document.pdf");
+        const QString foreign = m_places.temporaryFolder + u"/document.pdf"_s;
         test::writeFile(foreign, "someone else's");
         test::writeFile(m_path, "no document at all");
         compressCompleted(*run(1).convertInfo);
@@ -376,21 +373,20 @@ class CompressionPassTest : public QObject, protected CompressionCase {
   private:
     /// The compressed copy of a document with the passwords "user" and "owner".
     QString protectedCopy() const {
-        const QString plain = m_folder->filePath(QStringLiteral("plain.pdf"));
+        const QString plain = m_folder->filePath(u"plain.pdf"_s);
         const PdfFixture page =
             photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
                 .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)));
         if (!page.write(plain)) {
             return {};
         }
-        test::runTool(QStringLiteral("qpdf"),
-                      {QStringLiteral("--encrypt"), QStringLiteral("user"), QStringLiteral("owner"),
-                       QStringLiteral("256"), QStringLiteral("--"), plain, m_path});
+        test::runTool(u"qpdf"_s,
+                      {u"--encrypt"_s, u"user"_s, u"owner"_s, u"256"_s, u"--"_s, plain, m_path});
         SecuritySettings security;
         security.useUserPassword = true;
-        security.userPassword = QStringLiteral("user");
+        security.userPassword = u"user"_s;
         security.useOwnerPassword = true;
-        security.ownerPassword = QStringLiteral("owner");
+        security.ownerPassword = u"owner"_s;
         security.allowPrint = true;
         const CompressionOutcome outcome = run(1, security);
         return outcome.error.isEmpty() ? outcome.convertInfo->tempFilePathName : QString();

@@ -8,6 +8,7 @@
 
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -47,7 +48,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     /// The width in pixels of the only image of the copy.
     QString widthOfTheImage() const {
         const auto images = PdfProbe(compressed()).images();
-        return images.size() == 1 ? images[0][kWidthColumn] : QStringLiteral("no single image");
+        return images.size() == 1 ? images[0][kWidthColumn] : u"no single image"_s;
     }
 
     /// The pixels of the image in the copy's own words, where no tool lists it.
@@ -60,8 +61,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         CompressionOutcome outcome;
         const QString copy = compressed(&outcome);
         return outcome.imagesReduced == 0 && outcome.imagesKept.size() == 1 &&
-               outcome.imagesKept[0].reason ==
-                   QStringLiteral("drawn at a size that cannot be told") &&
+               outcome.imagesKept[0].reason == u"drawn at a size that cannot be told"_s &&
                readFile(copy).contains(jpeg(photo(1200, 900)));
     }
 
@@ -70,7 +70,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
 
     void aUserUnitEnlargesTheImage() {
         writeJpegPage("q 144 0 0 108 0 0 cm /Im0 Do Q", "/UserUnit 2");
-        QCOMPARE(widthOfTheImage(), QStringLiteral("600"));
+        QCOMPARE(widthOfTheImage(), u"600"_s);
     }
 
     void anAppearanceIsStretchedToItsAnnotation() {
@@ -254,7 +254,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         // Were the first "cm" still to count behind its "Q", the image would be drawn a tenth as
         // large.
         writeJpegPage(QByteArray("q ").repeated(2001) + ".1 0 0 .1 0 0 cm Q " + kDrawn);
-        QCOMPARE(widthOfTheImage(), QStringLiteral("600"));
+        QCOMPARE(widthOfTheImage(), u"600"_s);
     }
 
     void anImageDrawnBeyondAllNumbersKeepsItsSize() {
@@ -278,18 +278,15 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         const QString copy = compressed(&outcome);
         QCOMPARE(outcome.imagesReduced, 1);
         const auto outline = [](const QString &path) {
-            return runTool(QStringLiteral("mutool"),
-                           {QStringLiteral("show"), path, QStringLiteral("outline")})
-                .out;
+            return runTool(u"mutool"_s, {u"show"_s, path, u"outline"_s}).out;
         };
         QVERIFY(outline(copy).contains("Chapter one"));
         QCOMPARE(outline(copy), outline(m_path));
         const QByteArray json = PdfProbe(copy).json();
         QVERIFY(json.contains("\"fullname\": \"Name\""));
         QVERIFY(json.contains("\"value\": \"Ada\"") || json.contains("\"value\": \"u:Ada\""));
-        QCOMPARE(PdfProbe(copy).info(QStringLiteral("Metadata Stream")), QStringLiteral("yes"));
-        QCOMPARE(PdfProbe(copy).info(QStringLiteral("Form")),
-                 PdfProbe(m_path).info(QStringLiteral("Form")));
+        QCOMPARE(PdfProbe(copy).info(u"Metadata Stream"_s), u"yes"_s);
+        QCOMPARE(PdfProbe(copy).info(u"Form"_s), PdfProbe(m_path).info(u"Form"_s));
     }
 
     void aCallThatFailsIsAnErrorAndNeverAMissingObject() {
@@ -337,15 +334,14 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         QCOMPARE(readFile(m_path), before);
         QVERIFY(!QFile::exists(copy));
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
-                 QStringList{QStringLiteral("document.pdf")});
+                 QStringList{u"document.pdf"_s});
     }
 
     void aMissingTemporaryFolderIsAnError() {
         writeJpegPage("q " + kDrawn + " Q");
         QVERIFY(QDir(m_places.temporaryFolder).removeRecursively());
         const QByteArray before = readFile(m_path);
-        QVERIFY(run(1).error.startsWith(QStringLiteral("Cannot create a file in ") +
-                                        m_places.temporaryFolder));
+        QVERIFY(run(1).error.startsWith(u"Cannot create a file in "_s + m_places.temporaryFolder));
         QCOMPARE(readFile(m_path), before);
     }
 };

@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTimeZone>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -35,7 +36,7 @@ class PropertyListTest : public QObject {
     QTemporaryDir m_folder;
 
     QString write(const QByteArray &bytes) const {
-        QString path = m_folder.filePath(QStringLiteral("list.plist"));
+        QString path = m_folder.filePath(u"list.plist"_s);
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
             qFatal("cannot write %s", qPrintable(path));
@@ -55,30 +56,26 @@ class PropertyListTest : public QObject {
             <key>inner</key><dict><key>deep</key><string>down</string></dict>
             </dict></plist>)");
         const QVariantMap map = readPropertyList(path);
-        QCOMPARE(map.value(QStringLiteral("CFBundleIconFile")).toString(),
-                 QStringLiteral("Folioforge & S\u00f6hne"));
-        QCOMPARE(map.value(QStringLiteral("yes")), QVariant(true));
-        QCOMPARE(map.value(QStringLiteral("no")), QVariant(false));
-        QCOMPARE(map.value(QStringLiteral("whole")), QVariant(qint64(-7)));
-        QCOMPARE(map.value(QStringLiteral("real")), QVariant(1.25));
-        QCOMPARE(map.value(QStringLiteral("data")), QVariant(QByteArray("\x01\x02\x03")));
-        QCOMPARE(map.value(QStringLiteral("date")).toDateTime(),
+        QCOMPARE(map.value(u"CFBundleIconFile"_s).toString(), u"Folioforge & S\u00f6hne"_s);
+        QCOMPARE(map.value(u"yes"_s), QVariant(true));
+        QCOMPARE(map.value(u"no"_s), QVariant(false));
+        QCOMPARE(map.value(u"whole"_s), QVariant(qint64(-7)));
+        QCOMPARE(map.value(u"real"_s), QVariant(1.25));
+        QCOMPARE(map.value(u"data"_s), QVariant(QByteArray("\x01\x02\x03")));
+        QCOMPARE(map.value(u"date"_s).toDateTime(),
                  QDateTime(QDate(2024, 2, 29), QTime(12, 30), QTimeZone::utc()));
-        QCOMPARE(map.value(QStringLiteral("list")),
-                 QVariant(QVariantList{qint64(1), QStringLiteral("two")}));
-        QCOMPARE(map.value(QStringLiteral("inner")).toMap().value(QStringLiteral("deep")),
-                 QVariant(QStringLiteral("down")));
+        QCOMPARE(map.value(u"list"_s), QVariant(QVariantList{qint64(1), u"two"_s}));
+        QCOMPARE(map.value(u"inner"_s).toMap().value(u"deep"_s), QVariant(u"down"_s));
     }
 
     void readsTheBinaryForm() {
         const QVariantMap map = readPropertyList(write(binaryList()));
-        QCOMPARE(map, (QVariantMap{{QStringLiteral("Icon"), QStringLiteral("app")}}));
+        QCOMPARE(map, (QVariantMap{{u"Icon"_s, u"app"_s}}));
     }
 
     void aZeroInABinaryKeyEndsTheKey() {
         const QByteArray list = binaryList().replace("Icon", QByteArray("Ic\0n", 4));
-        QCOMPARE(readPropertyList(write(list)),
-                 (QVariantMap{{QStringLiteral("Ic"), QStringLiteral("app")}}));
+        QCOMPARE(readPropertyList(write(list)), (QVariantMap{{u"Ic"_s, u"app"_s}}));
     }
 
     void listsDeepWithinListsAreSurvived() {
@@ -88,7 +85,7 @@ class PropertyListTest : public QObject {
         const QByteArray closed =
             open + QByteArray("</array>").repeated(kLevels) + "</dict></plist>";
         QVERIFY_EXCEPTION_THROWN(readPropertyList(write(open)), Error);
-        QVERIFY(readPropertyList(write(closed)).contains(QStringLiteral("a")));
+        QVERIFY(readPropertyList(write(closed)).contains(u"a"_s));
     }
 
     void listsLargerThanAnyOfTheBundleAreRefused() {
@@ -113,7 +110,7 @@ class PropertyListTest : public QObject {
     }
 
     void aMissingFileIsNamed() {
-        const QString path = m_folder.filePath(QStringLiteral("absent.plist"));
+        const QString path = m_folder.filePath(u"absent.plist"_s);
         try {
             readPropertyList(path);
             QFAIL("no error");

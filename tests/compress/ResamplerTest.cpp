@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -85,7 +86,7 @@ class ResamplerTest : public QObject {
                 for (int x = edge; x < plane.width() - edge; ++x) {
                     const double wanted = ramp((x + .5) / plane.width(), (y + .5) / plane.height());
                     QVERIFY2(std::abs(plane.row(y)[x] - wanted) < 2.5,
-                             qPrintable(QStringLiteral("%1,%2").arg(x).arg(y)));
+                             qPrintable(u"%1,%2"_s.arg(x).arg(y)));
                 }
             }
         }

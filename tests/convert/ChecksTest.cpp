@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -41,38 +42,35 @@ class ChecksTest : public QObject {
     void goodSettingsPass() { QVERIFY(!checkConversion(goodOptions())); }
 
     void noticesBearTheUsualTitle() {
-        QCOMPARE(checkConversion(hopelessOptions())->title, QStringLiteral("Notice"));
+        QCOMPARE(checkConversion(hopelessOptions())->title, u"Notice"_s);
     }
 
     void theFirstFaultIsTheOneReported() {
         ConversionOptions options = hopelessOptions();
         QCOMPARE(messageOf(checkConversion(options)),
-                 QStringLiteral("Please select an output folder to store the output documents."));
-        options.outputFolder = m_folder.filePath(QStringLiteral("missing"));
-        const QString noFolder =
-            QStringLiteral("Selected output folder does not exist or is not writable. Click "
-                           "\"OK\" to select another folder.");
+                 u"Please select an output folder to store the output documents."_s);
+        options.outputFolder = m_folder.filePath(u"missing"_s);
+        const QString noFolder = u"Selected output folder does not exist or is not writable. Click "
+                                 "\"OK\" to select another folder."_s;
         QCOMPARE(messageOf(checkConversion(options)), noFolder);
-        options.outputFolder = test::writeFile(m_folder.filePath(QStringLiteral("file")), "x");
+        options.outputFolder = test::writeFile(m_folder.filePath(u"file"_s), "x");
         QCOMPARE(messageOf(checkConversion(options)), noFolder);
         options.outputFolder = m_folder.path();
+        QCOMPARE(messageOf(checkConversion(options)), u"Please input user password."_s);
+        options.security.userPassword = u"secret"_s;
         QCOMPARE(messageOf(checkConversion(options)),
-                 QStringLiteral("Please input user password."));
-        options.security.userPassword = QStringLiteral("secret");
-        QCOMPARE(messageOf(checkConversion(options)),
-                 QStringLiteral("Invalid page margin value in text output setting."));
+                 u"Invalid page margin value in text output setting."_s);
         options.textPage.margins.top = 72;
         QCOMPARE(messageOf(checkConversion(options)),
-                 QStringLiteral("Invalid page margin value in image output setting."));
+                 u"Invalid page margin value in image output setting."_s);
         options.imagePage.margins.left = 0;
+        QCOMPARE(messageOf(checkConversion(options)), u"Please input output file name."_s);
+        options.outputName = u"taken"_s;
+        test::writeFile(m_folder.filePath(u"taken.pdf"_s), "x");
         QCOMPARE(messageOf(checkConversion(options)),
-                 QStringLiteral("Please input output file name."));
-        options.outputName = QStringLiteral("taken");
-        test::writeFile(m_folder.filePath(QStringLiteral("taken.pdf")), "x");
-        QCOMPARE(messageOf(checkConversion(options)),
-                 QStringLiteral("File name already exists in output folder, please input another "
-                                "name."));
-        options.outputName = QStringLiteral("free");
+                 u"File name already exists in output folder, please input another "
+                 "name."_s);
+        options.outputName = u"free"_s;
         QCOMPARE(messageOf(checkConversion(options)), QString());
     }
 
@@ -87,33 +85,30 @@ class ChecksTest : public QObject {
         options.textPage.margins.top = 300;
         options.security.useOwnerPassword = true;
         options.security.ownerPassword = QString(128, u'x');
-        QVERIFY2(messageOf(checkConversion(options)).contains(QStringLiteral("127 bytes")),
+        QVERIFY2(messageOf(checkConversion(options)).contains(u"127 bytes"_s),
                  qPrintable(messageOf(checkConversion(options))));
         options.security.useUserPassword = true;
-        options.security.userPassword = QStringLiteral("a\tb");
-        QVERIFY(messageOf(checkConversion(options)).startsWith(QStringLiteral("The password")));
+        options.security.userPassword = u"a\tb"_s;
+        QVERIFY(messageOf(checkConversion(options)).startsWith(u"The password"_s));
     }
 
     void passwordsThatBecomeOneInTheDocumentAreTheSame_data() {
         QTest::addColumn<QString>("user");
         QTest::addColumn<QString>("owner");
-        QTest::newRow("composed and decomposed")
-            << QStringLiteral("caf\u00E9") << QStringLiteral("cafe\u0301");
-        QTest::newRow("with a soft hyphen")
-            << QStringLiteral("sec\u00ADret") << QStringLiteral("secret");
+        QTest::newRow("composed and decomposed") << u"caf\u00E9"_s << u"cafe\u0301"_s;
+        QTest::newRow("with a soft hyphen") << u"sec\u00ADret"_s << u"secret"_s;
     }
     void passwordsThatBecomeOneInTheDocumentAreTheSame() {
         QFETCH(const QString, user);
         QFETCH(const QString, owner);
         ConversionOptions options = goodOptions();
         options.security = {true, user, true, owner, false, false};
-        QCOMPARE(messageOf(checkConversion(options)),
-                 QStringLiteral("The passwords can not be the same."));
+        QCOMPARE(messageOf(checkConversion(options)), u"The passwords can not be the same."_s);
     }
 
     void passwordsThatStayTwoPass() {
         ConversionOptions options = goodOptions();
-        options.security = {true, QStringLiteral("abc"), true, QStringLiteral("ABC"), false, false};
+        options.security = {true, u"abc"_s, true, u"ABC"_s, false, false};
         QVERIFY(!checkConversion(options));
     }
 

@@ -17,6 +17,7 @@
 #include <functional>
 #include <memory>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
 
@@ -59,15 +60,13 @@ class OnFailure : public ConversionObserver {
     std::function<void()> m_action;
 };
 
-const QString kOwner = QStringLiteral("owner");
-const QString kUser = QStringLiteral("user");
+const QString kOwner = u"owner"_s;
+const QString kUser = u"user"_s;
 
 /// What `qpdf --show-encryption` says about the PDF at `path` when opened with `password`.
 QString encryptionOf(const QString &path, const QString &password) {
     return QString::fromUtf8(
-        test::runTool(QStringLiteral("qpdf"), {QStringLiteral("--password=") + password,
-                                               QStringLiteral("--show-encryption"), path})
-            .out);
+        test::runTool(u"qpdf"_s, {u"--password="_s + password, u"--show-encryption"_s, path}).out);
 }
 
 } // namespace
@@ -100,7 +99,7 @@ class ConversionTest : public QObject {
   private Q_SLOTS:
     void init() {
         m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("out")));
+        QVERIFY(QDir(m_folder->path()).mkpath(u"out"_s));
         m_list.clear();
         m_options = {};
         m_options.outputFolder = path("out");
@@ -118,11 +117,11 @@ class ConversionTest : public QObject {
         const PdfProbe probe(outcome.close.path);
         QVERIFY(probe.isValid());
         QCOMPARE(probe.pageCount(), 4);
-        QVERIFY(probe.text(1).contains(QStringLiteral("first words")));
-        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 595, 842));
-        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 2), QRectF(0, 0, 300, 150));
-        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 3), QRectF(0, 0, 200, 100));
-        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 4), QRectF(0, 0, 210, 100));
+        QVERIFY(probe.text(1).contains(u"first words"_s));
+        QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(0, 0, 595, 842));
+        QCOMPARE(probe.box(u"MediaBox"_s, 2), QRectF(0, 0, 300, 150));
+        QCOMPARE(probe.box(u"MediaBox"_s, 3), QRectF(0, 0, 200, 100));
+        QCOMPARE(probe.box(u"MediaBox"_s, 4), QRectF(0, 0, 210, 100));
         QCOMPARE(outcome.entries.size(), 3);
         QCOMPARE(outcome.entries[2].pages, 2);
         QVERIFY(outcome.entries[1].embeddedAs);
@@ -136,8 +135,7 @@ class ConversionTest : public QObject {
         const PdfProbe probe(outcome.close.path);
         QCOMPARE(probe.pageCount(), 5);
         for (int page = 1; page <= 5; ++page) {
-            QCOMPARE(probe.box(QStringLiteral("MediaBox"), page),
-                     QRectF(0, 0, 190 + 10 * page, 100));
+            QCOMPARE(probe.box(u"MediaBox"_s, page), QRectF(0, 0, 190 + 10 * page, 100));
         }
     }
 
@@ -146,7 +144,7 @@ class ConversionTest : public QObject {
         m_options.imagePage = {ImagePageCustom, 612, 792, {36, 36, 36, 36}};
         const PDFOutcome outcome = convertTo(path("out/a.pdf"));
         const PdfProbe probe(outcome.close.path);
-        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 612, 792));
+        QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(0, 0, 612, 792));
         // Drawn from (36, 261) to (576, 531) from below: rows 261 to 531 from above, too.
         const QImage page = probe.render(1);
         QCOMPARE(page.size(), QSize(612, 792));
@@ -159,16 +157,16 @@ class ConversionTest : public QObject {
 
     void theDocumentSaysWhatItIsAndWhoMadeIt() {
         addText("a.txt", "x");
-        m_options.info.title = QStringLiteral("Títle 标题");
-        m_options.info.author = QStringLiteral("A. Uthor");
-        m_options.info.subject = QStringLiteral("Sub");
-        m_options.info.keywords = QStringLiteral("k, w");
+        m_options.info.title = u"Títle 标题"_s;
+        m_options.info.author = u"A. Uthor"_s;
+        m_options.info.subject = u"Sub"_s;
+        m_options.info.keywords = u"k, w"_s;
         const PdfProbe probe(convertTo(path("out/a.pdf")).close.path);
-        QCOMPARE(probe.info(QStringLiteral("Title")), m_options.info.title);
-        QCOMPARE(probe.info(QStringLiteral("Author")), m_options.info.author);
-        QCOMPARE(probe.info(QStringLiteral("Subject")), m_options.info.subject);
-        QCOMPARE(probe.info(QStringLiteral("Keywords")), m_options.info.keywords);
-        QCOMPARE(probe.info(QStringLiteral("Creator")), QStringLiteral("Vesprin-Folioforge"));
+        QCOMPARE(probe.info(u"Title"_s), m_options.info.title);
+        QCOMPARE(probe.info(u"Author"_s), m_options.info.author);
+        QCOMPARE(probe.info(u"Subject"_s), m_options.info.subject);
+        QCOMPARE(probe.info(u"Keywords"_s), m_options.info.keywords);
+        QCOMPARE(probe.info(u"Creator"_s), u"Vesprin-Folioforge"_s);
     }
 
     void aUserPasswordAloneIsTheOwnersTooAndRefusesNothing() {
@@ -177,12 +175,10 @@ class ConversionTest : public QObject {
         const QString file = convertTo(path("out/a.pdf")).close.path;
         QCOMPARE(PdfProbe(file).pageCount(), 0);
         const QString facts = encryptionOf(file, kUser);
-        QVERIFY2(facts.contains(QStringLiteral("R = 6")), qPrintable(facts));
-        QVERIFY2(facts.contains(QStringLiteral("Supplied password is owner password")),
-                 qPrintable(facts));
-        QVERIFY2(facts.contains(QStringLiteral("Supplied password is user password")),
-                 qPrintable(facts));
-        QVERIFY2(!facts.contains(QStringLiteral("not allowed")), qPrintable(facts));
+        QVERIFY2(facts.contains(u"R = 6"_s), qPrintable(facts));
+        QVERIFY2(facts.contains(u"Supplied password is owner password"_s), qPrintable(facts));
+        QVERIFY2(facts.contains(u"Supplied password is user password"_s), qPrintable(facts));
+        QVERIFY2(!facts.contains(u"not allowed"_s), qPrintable(facts));
     }
 
     void aTickedBoxRefusesItsPermission_data() {
@@ -201,7 +197,7 @@ class ConversionTest : public QObject {
         m_options.security = {true, kUser, true, kOwner, print, copy};
         const QString facts = encryptionOf(convertTo(path("out/a.pdf")).close.path, kUser);
         const auto isAllowed = [&facts](const char *what) {
-            return facts.contains(QString::fromLatin1(what) + QStringLiteral(": allowed"));
+            return facts.contains(QString::fromLatin1(what) + u": allowed"_s);
         };
         QCOMPARE(isAllowed("print low resolution"), !print);
         QCOMPARE(isAllowed("print high resolution"), !print);
@@ -209,7 +205,7 @@ class ConversionTest : public QObject {
         QVERIFY2(isAllowed("modify annotations"), qPrintable(facts));
         QVERIFY(isAllowed("modify forms"));
         QVERIFY(isAllowed("modify document assembly"));
-        QVERIFY(!facts.contains(QStringLiteral("Supplied password is owner password")));
+        QVERIFY(!facts.contains(u"Supplied password is owner password"_s));
     }
 
     void anOwnerPasswordAloneLetsEveryoneRead() {
@@ -217,8 +213,7 @@ class ConversionTest : public QObject {
         m_options.security = {false, kUser, true, kOwner, false, true};
         const QString file = convertTo(path("out/a.pdf")).close.path;
         QCOMPARE(PdfProbe(file).pageCount(), 1);
-        QVERIFY(encryptionOf(file, kOwner)
-                    .contains(QStringLiteral("Supplied password is owner password")));
+        QVERIFY(encryptionOf(file, kOwner).contains(u"Supplied password is owner password"_s));
     }
 
     void noPasswordMeansNoEncryption() {
@@ -233,7 +228,7 @@ class ConversionTest : public QObject {
         Recorder recorder;
         convertTo(path("out/all.pdf"), &recorder);
         QCOMPARE(recorder.values, (QList<float>{1.0F / 3 * 50, 2.0F / 3 * 50, 50.0F}));
-        QCOMPARE(recorder.entries.join(u' '), QStringLiteral("0+ 1+ 2+"));
+        QCOMPARE(recorder.entries.join(u' '), u"0+ 1+ 2+"_s);
     }
 
     void aSingleEntryReachesFifty() {
@@ -255,7 +250,7 @@ class ConversionTest : public QObject {
         const PDFOutcome outcome = convertTo(path("out/all.pdf"), &recorder);
         QCOMPARE(outcome.close.status, CloseResult::Status::Written);
         QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 2);
-        QCOMPARE(recorder.entries.join(u' '), QStringLiteral("0+ 1- 2- 3- 4- 5+"));
+        QCOMPARE(recorder.entries.join(u' '), u"0+ 1- 2- 3- 4- 5+"_s);
         for (const std::size_t failed : {1U, 2U, 3U, 4U}) {
             QVERIFY(!outcome.entries[failed].message.isEmpty());
             QCOMPARE(outcome.entries[failed].pages, 0);
@@ -288,13 +283,13 @@ class ConversionTest : public QObject {
         QCOMPARE(outcome.close.status, CloseResult::Status::Written);
         QVERIFY(outcome.entries[0].written);
         QVERIFY(!outcome.entries[1].written);
-        QVERIFY2(outcome.entries[1].message.contains(QStringLiteral("temporary file")),
+        QVERIFY2(outcome.entries[1].message.contains(u"temporary file"_s),
                  qPrintable(outcome.entries[1].message));
         QCOMPARE(outcome.entries[1].pages, 0);
         const PdfProbe probe(outcome.close.path);
         QVERIFY(probe.isValid());
         QCOMPARE(probe.pageCount(), 2);
-        QVERIFY(probe.text(2).contains(QStringLiteral("the words after")));
+        QVERIFY(probe.text(2).contains(u"the words after"_s));
     }
 
     void aProtectedSourceAddsNoPages() {
@@ -319,7 +314,7 @@ class ConversionTest : public QObject {
         addText("a.txt", "caf\xE9 au lait");
         const PDFOutcome outcome = convertTo(path("out/a.pdf"));
         QVERIFY(outcome.entries[0].written);
-        QVERIFY(outcome.entries[0].message.contains(QStringLiteral("UTF-8")));
+        QVERIFY(outcome.entries[0].message.contains(u"UTF-8"_s));
         QCOMPARE(outcome.entries[0].pages, 1);
         const PdfProbe probe(outcome.close.path);
         QCOMPARE(probe.pageCount(), 1);
@@ -333,7 +328,7 @@ class ConversionTest : public QObject {
         QVERIFY(outcome.entries[0].message.isEmpty());
         const PdfProbe probe(outcome.close.path);
         QCOMPARE(probe.pageCount(), 1);
-        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 420, 595));
+        QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(0, 0, 420, 595));
         QImage white(420, 595, QImage::Format_RGB32);
         white.fill(Qt::white);
         QCOMPARE(probe.render(1).convertToFormat(QImage::Format_RGB32), white);
@@ -356,8 +351,8 @@ class ConversionTest : public QObject {
         m_options.textPage.customHeight = 250;
         const PDFOutcome outcome = convertTo(path("out/a.pdf"));
         const PdfProbe probe(outcome.close.path);
-        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 1), QRectF(QPointF(0, 0), size));
-        QCOMPARE(probe.text(1).trimmed(), QStringLiteral("words"));
+        QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(QPointF(0, 0), size));
+        QCOMPARE(probe.text(1).trimmed(), u"words"_s);
     }
 
     void aNameTakenMeanwhileGivesWayInSingleMode() {
@@ -375,7 +370,7 @@ class ConversionTest : public QObject {
         const QString foreign = test::writeFile(path("out/all.pdf"), "someone else's");
         QCOMPARE(convertTo(foreign).close.status, CloseResult::Status::NameTaken);
         QCOMPARE(test::readFile(foreign), QByteArray("someone else's"));
-        QCOMPARE(outputs(), QStringList{QStringLiteral("all.pdf")});
+        QCOMPARE(outputs(), QStringList{u"all.pdf"_s});
     }
 
     void aFolderThatVanishedIsAFailureWithAReason() {
@@ -423,8 +418,7 @@ class ConversionTest : public QObject {
         addFile(test::writePng(path("a.png"), 100, 50));
         test::writePng(path("a.png"), 40, 80);
         const PDFOutcome outcome = convertTo(path("out/a.pdf"));
-        QCOMPARE(PdfProbe(outcome.close.path).box(QStringLiteral("MediaBox"), 1),
-                 QRectF(0, 0, 40, 80));
+        QCOMPARE(PdfProbe(outcome.close.path).box(u"MediaBox"_s, 1), QRectF(0, 0, 40, 80));
     }
 };
 

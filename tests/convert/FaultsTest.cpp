@@ -4,6 +4,7 @@
 
 #include <cstring>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -55,24 +56,24 @@ class FaultsTest : public QObject, private WholeRun {
     QString faultOf(const Outcome &outcome, const Kind &kind, const Fault &fault,
                     const QList<QByteArray> &whole, bool keptFiles) const {
         if (!sourcesAreUntouched()) {
-            return QStringLiteral("a source was changed");
+            return u"a source was changed"_s;
         }
         if (QFile::exists(output()) ? !outputIsWhole(kind, whole) : outcome.written) {
-            return QStringLiteral("the output is not whole");
+            return u"the output is not whole"_s;
         }
         if (!outcome.written && outcome.reason.isEmpty()) {
-            return QStringLiteral("no reason is said");
+            return u"no reason is said"_s;
         }
         if (!outcome.reason.isEmpty() &&
             !outcome.reason.contains(QString::fromLocal8Bit(std::strerror(fault.error)))) {
-            return QStringLiteral("another reason is said: ") + outcome.reason;
+            return u"another reason is said: "_s + outcome.reason;
         }
         if (keptFiles) {
             removeAbandonedParts(path("out"));
         }
         if (namesIn(path("out")).size() > (QFile::exists(output()) ? 1 : 0) ||
             !namesIn(path("temporary")).isEmpty()) {
-            return QStringLiteral("a temporary file is left");
+            return u"a temporary file is left"_s;
         }
         return {};
     }
@@ -116,8 +117,8 @@ class FaultsTest : public QObject, private WholeRun {
                                                                {"merged", {true, false, 0}},
                                                                {"protected", {true, true, 0}},
                                                                {"compressed", {false, false, 1}}};
-        const QString nameless = QStringLiteral("openAnonymous");
-        const QString exclusive = QStringLiteral("renameExclusive");
+        const QString nameless = u"openAnonymous"_s;
+        const QString exclusive = u"renameExclusive"_s;
         for (const auto &[name, kind] : kinds) {
             QTest::addRow("%s, nameless file", name) << kind << QStringList() << true << true;
             QTest::addRow("%s, rename", name) << kind << QStringList{nameless} << true << true;
@@ -129,7 +130,7 @@ class FaultsTest : public QObject, private WholeRun {
         QTest::newRow("merged, link") << merged << QStringList{nameless, exclusive} << true << true;
         // The name is held by an empty file for a moment, which a disk that is gone keeps.
         QTest::newRow("merged, held name")
-            << merged << QStringList{nameless, exclusive, QStringLiteral("link")} << true << false;
+            << merged << QStringList{nameless, exclusive, u"link"_s} << true << false;
     }
     void eachCallFailsInItsTurn() {
         QFETCH(Kind, kind);

@@ -8,6 +8,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -55,7 +56,7 @@ class KilledRunsTest : public QObject, private WholeRun {
     }
 
     static QStringList partsIn(const QString &folder) {
-        return namesIn(folder).filter(QStringLiteral(".folioforge-part"));
+        return namesIn(folder).filter(u".folioforge-part"_s);
     }
 
     void checkThatTheNextRunClears(const Kind &kind) {
@@ -72,9 +73,8 @@ class KilledRunsTest : public QObject, private WholeRun {
     void aKilledRunLeavesAtMostOnePartThatTheNextRunClears_data() {
         QTest::addColumn<QStringList>("missing");
         QTest::addColumn<QString>("partsAppearIn");
-        QTest::newRow("nameless file") << QStringList() << QStringLiteral("temporary");
-        QTest::newRow("part file")
-            << QStringList{QStringLiteral("openAnonymous")} << QStringLiteral("out");
+        QTest::newRow("nameless file") << QStringList() << u"temporary"_s;
+        QTest::newRow("part file") << QStringList{u"openAnonymous"_s} << u"out"_s;
     }
     void aKilledRunLeavesAtMostOnePartThatTheNextRunClears() {
         QFETCH(QStringList, missing);

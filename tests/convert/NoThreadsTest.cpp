@@ -6,6 +6,7 @@
 #include "support/Files.h"
 #include <thread>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -39,31 +40,31 @@ class NoThreadsTest : public QObject, CompressionCase {
         for (int i = 0; i < 50'000; ++i) {
             lines += "line number " + QByteArray::number(i) + "\n";
         }
-        const PdfProbe probe = converted(writeFile(path(QStringLiteral("long.txt")), lines));
+        const PdfProbe probe = converted(writeFile(path(u"long.txt"_s), lines));
         QVERIFY(m_refused > 0);
         QVERIFY(probe.isValid());
-        QVERIFY(probe.text(1).startsWith(QStringLiteral("line number 0\n")));
-        QVERIFY(probe.text(probe.pageCount()).contains(QStringLiteral("line number 49999\n")));
+        QVERIFY(probe.text(1).startsWith(u"line number 0\n"_s));
+        QVERIFY(probe.text(probe.pageCount()).contains(u"line number 49999\n"_s));
     }
 
     void aPictureAndItsOpacityAreWritten() {
         constexpr int kSide = 700;
         QImage picture = photo(kSide, kSide, QImage::Format_RGBA8888);
         picture.setPixelColor(0, 0, Qt::transparent);
-        QVERIFY(picture.save(path(QStringLiteral("picture.png"))));
-        const PdfProbe probe = converted(path(QStringLiteral("picture.png")));
+        QVERIFY(picture.save(path(u"picture.png"_s)));
+        const PdfProbe probe = converted(path(u"picture.png"_s));
         QVERIFY(m_refused > 0);
         QVERIFY(probe.isValid());
         const QList<QStringList> images = probe.images();
         QCOMPARE(images.size(), 2);
-        QCOMPARE(images.at(0).at(2), QStringLiteral("image"));
-        QCOMPARE(images.at(1).at(2), QStringLiteral("smask"));
+        QCOMPARE(images.at(0).at(2), u"image"_s);
+        QCOMPARE(images.at(1).at(2), u"smask"_s);
     }
 
     void aBitmapIsWritten() {
         // So large that Qt would convert it on threads of its own.
-        QVERIFY(photo(900, 600, QImage::Format_RGB32).save(path(QStringLiteral("picture.bmp"))));
-        const PdfProbe probe = converted(path(QStringLiteral("picture.bmp")));
+        QVERIFY(photo(900, 600, QImage::Format_RGB32).save(path(u"picture.bmp"_s)));
+        const PdfProbe probe = converted(path(u"picture.bmp"_s));
         QVERIFY(probe.isValid());
         QCOMPARE(probe.images().size(), 1);
     }
@@ -79,13 +80,13 @@ class NoThreadsTest : public QObject, CompressionCase {
         const PdfProbe probe(copy);
         QVERIFY(probe.isValid());
         QCOMPARE(probe.images().size(), 1);
-        QCOMPARE(probe.images().at(0).at(kWidthColumn), QStringLiteral("150"));
+        QCOMPARE(probe.images().at(0).at(kWidthColumn), u"150"_s);
     }
 
     void filesEnterTheListInTheirOrder() {
         QStringList paths;
         for (int i = 0; i < 100; ++i) {
-            paths += writeFile(path(QStringLiteral("%1.txt").arg(i)), "text");
+            paths += writeFile(path(u"%1.txt"_s.arg(i)), "text");
         }
         const NoThreads none;
         const ReadEntries read = readEntries(paths);

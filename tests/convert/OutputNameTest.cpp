@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 class OutputNameTest : public QObject {
@@ -15,22 +16,22 @@ class OutputNameTest : public QObject {
   private:
     static QString merged(const char *name) {
         ConversionOptions options;
-        options.outputFolder = QStringLiteral("/out");
+        options.outputFolder = u"/out"_s;
         options.outputName = QString::fromUtf8(name);
         return mergedFilePath(options);
     }
 
   private Q_SLOTS:
     void aMergedNameGetsItsExtension() {
-        QCOMPARE(merged("report"), QStringLiteral("/out/report.pdf"));
-        QCOMPARE(merged("report.txt"), QStringLiteral("/out/report.txt.pdf"));
-        QCOMPARE(merged("report."), QStringLiteral("/out/report..pdf"));
-        QCOMPARE(merged(".pdf"), QStringLiteral("/out/.pdf.pdf"));
+        QCOMPARE(merged("report"), u"/out/report.pdf"_s);
+        QCOMPARE(merged("report.txt"), u"/out/report.txt.pdf"_s);
+        QCOMPARE(merged("report."), u"/out/report..pdf"_s);
+        QCOMPARE(merged(".pdf"), u"/out/.pdf.pdf"_s);
     }
 
     void aMergedNameKeepsTheExtensionItHas() {
-        QCOMPARE(merged("report.pdf"), QStringLiteral("/out/report.pdf"));
-        QCOMPARE(merged("report.PDF"), QStringLiteral("/out/report.PDF"));
+        QCOMPARE(merged("report.pdf"), u"/out/report.pdf"_s);
+        QCOMPARE(merged("report.PDF"), u"/out/report.PDF"_s);
     }
 
     void aSingleNameIsTheSourcesWithAnotherExtension() {
@@ -38,15 +39,15 @@ class OutputNameTest : public QObject {
         const auto name = [&folder](const char *source) {
             return QFileInfo(singleFilePath(folder.path(), QString::fromUtf8(source))).fileName();
         };
-        QCOMPARE(name("a.txt"), QStringLiteral("a.pdf"));
-        QCOMPARE(name("a.b.JPG"), QStringLiteral("a.b.pdf"));
-        QCOMPARE(name("a.PDF"), QStringLiteral("a.pdf"));
-        QCOMPARE(name("plain"), QStringLiteral("plain.pdf"));
+        QCOMPARE(name("a.txt"), u"a.pdf"_s);
+        QCOMPARE(name("a.b.JPG"), u"a.b.pdf"_s);
+        QCOMPARE(name("a.PDF"), u"a.pdf"_s);
+        QCOMPARE(name("plain"), u"plain.pdf"_s);
     }
 
     void takenNamesAreNumbered() {
         const QTemporaryDir folder;
-        const QString source = QStringLiteral("a.txt");
+        const QString source = u"a.txt"_s;
         for (const char *expected : {"a.pdf", "a(1).pdf", "a(2).pdf", "a(3).pdf"}) {
             const QString path = singleFilePath(folder.path(), source);
             QCOMPARE(path, folder.filePath(QString::fromLatin1(expected)));
@@ -56,45 +57,42 @@ class OutputNameTest : public QObject {
 
     void theFirstFreeNumberWins() {
         const QTemporaryDir folder;
-        test::writeFile(folder.filePath(QStringLiteral("a.pdf")), "x");
-        test::writeFile(folder.filePath(QStringLiteral("a(2).pdf")), "x");
-        QCOMPARE(singleFilePath(folder.path(), QStringLiteral("a.txt")),
-                 folder.filePath(QStringLiteral("a(1).pdf")));
+        test::writeFile(folder.filePath(u"a.pdf"_s), "x");
+        test::writeFile(folder.filePath(u"a(2).pdf"_s), "x");
+        QCOMPARE(singleFilePath(folder.path(), u"a.txt"_s), folder.filePath(u"a(1).pdf"_s));
     }
 
     void aLinkThatLeadsNowhereTakesItsName() {
         const QTemporaryDir folder;
-        QVERIFY(QFile::link(QStringLiteral("missing"), folder.filePath(QStringLiteral("a.pdf"))));
-        QCOMPARE(singleFilePath(folder.path(), QStringLiteral("a.txt")),
-                 folder.filePath(QStringLiteral("a(1).pdf")));
+        QVERIFY(QFile::link(u"missing"_s, folder.filePath(u"a.pdf"_s)));
+        QCOMPARE(singleFilePath(folder.path(), u"a.txt"_s), folder.filePath(u"a(1).pdf"_s));
     }
 
     void theLongestNamesLoseCharactersToTheNumber() {
         const QTemporaryDir folder;
         const QString base(251, u'x');
-        const QString first = singleFilePath(folder.path(), base + QStringLiteral(".txt"));
-        QCOMPARE(first, folder.filePath(base + QStringLiteral(".pdf")));
+        const QString first = singleFilePath(folder.path(), base + u".txt"_s);
+        QCOMPARE(first, folder.filePath(base + u".pdf"_s));
         test::writeFile(first, "x");
-        const QString second = singleFilePath(folder.path(), base + QStringLiteral(".txt"));
-        QCOMPARE(second, folder.filePath(QString(248, u'x') + QStringLiteral("(1).pdf")));
+        const QString second = singleFilePath(folder.path(), base + u".txt"_s);
+        QCOMPARE(second, folder.filePath(QString(248, u'x') + u"(1).pdf"_s));
         test::writeFile(second, "x");
     }
 
     void aLongNameIsCutBetweenCharacters() {
         const QTemporaryDir folder;
         // 62 characters of four bytes and ".txt" are 252 bytes; "(1).pdf" asks for three less.
-        const QString face = QStringLiteral("\U0001F600");
-        const QString source = face.repeated(62) + QStringLiteral("x.txt");
+        const QString face = u"\U0001F600"_s;
+        const QString source = face.repeated(62) + u"x.txt"_s;
         const QString base = face.repeated(62);
-        test::writeFile(folder.filePath(base + QStringLiteral("x.pdf")), "x");
-        QCOMPARE(singleFilePath(folder.path(), source),
-                 folder.filePath(base + QStringLiteral("(1).pdf")));
-        test::writeFile(folder.filePath(base + QStringLiteral("(1).pdf")), "x");
+        test::writeFile(folder.filePath(base + u"x.pdf"_s), "x");
+        QCOMPARE(singleFilePath(folder.path(), source), folder.filePath(base + u"(1).pdf"_s));
+        test::writeFile(folder.filePath(base + u"(1).pdf"_s), "x");
         for (int number = 2; number <= 9; ++number) {
-            test::writeFile(folder.filePath(base + QStringLiteral("(%1).pdf").arg(number)), "x");
+            test::writeFile(folder.filePath(base + u"(%1).pdf"_s.arg(number)), "x");
         }
         QCOMPARE(singleFilePath(folder.path(), source),
-                 folder.filePath(face.repeated(61) + QStringLiteral("(10).pdf")));
+                 folder.filePath(face.repeated(61) + u"(10).pdf"_s));
     }
 };
 

@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 class FileKindTest : public QObject {
@@ -12,20 +13,18 @@ class FileKindTest : public QObject {
     void kindIsDecidedByTheExtensionAlone_data() {
         QTest::addColumn<QString>("path");
         QTest::addColumn<FileKind>("kind");
-        QTest::newRow("text") << QStringLiteral("/a/b.txt") << FileKind::Text;
-        QTest::newRow("capitals") << QStringLiteral("/a/B.TXT") << FileKind::Text;
-        QTest::newRow("pdf") << QStringLiteral("b.Pdf") << FileKind::Pdf;
+        QTest::newRow("text") << u"/a/b.txt"_s << FileKind::Text;
+        QTest::newRow("capitals") << u"/a/B.TXT"_s << FileKind::Text;
+        QTest::newRow("pdf") << u"b.Pdf"_s << FileKind::Pdf;
         for (const char *extension : {"png", "bmp", "gif", "jpg", "jpeg", "icns", "ico", "exr",
                                       "jp2", "tif", "tiff", "tga", "psd"}) {
-            QTest::newRow(extension)
-                << QStringLiteral("x.") + QString::fromLatin1(extension) << FileKind::Image;
+            QTest::newRow(extension) << u"x."_s + QString::fromLatin1(extension) << FileKind::Image;
         }
-        QTest::newRow("document") << QStringLiteral("x.docx") << FileKind::Other;
-        QTest::newRow("none") << QStringLiteral("txt") << FileKind::Other;
-        QTest::newRow("hidden, named like an extension")
-            << QStringLiteral(".txt") << FileKind::Other;
-        QTest::newRow("last one counts") << QStringLiteral("x.txt.gz") << FileKind::Other;
-        QTest::newRow("folder's extension") << QStringLiteral("a.txt/b") << FileKind::Other;
+        QTest::newRow("document") << u"x.docx"_s << FileKind::Other;
+        QTest::newRow("none") << u"txt"_s << FileKind::Other;
+        QTest::newRow("hidden, named like an extension") << u".txt"_s << FileKind::Other;
+        QTest::newRow("last one counts") << u"x.txt.gz"_s << FileKind::Other;
+        QTest::newRow("folder's extension") << u"a.txt/b"_s << FileKind::Other;
     }
 
     void kindIsDecidedByTheExtensionAlone() {
@@ -35,30 +34,30 @@ class FileKindTest : public QObject {
     }
 
     void extensionsAreInTheOrderOfFilePanels() {
-        QCOMPARE(extensionsOf(FileKind::Text), QStringList{QStringLiteral("txt")});
-        QCOMPARE(extensionsOf(FileKind::Pdf), QStringList{QStringLiteral("pdf")});
+        QCOMPARE(extensionsOf(FileKind::Text), QStringList{u"txt"_s});
+        QCOMPARE(extensionsOf(FileKind::Pdf), QStringList{u"pdf"_s});
         QCOMPARE(extensionsOf(FileKind::Image).join(u' '),
-                 QStringLiteral("png bmp gif jpg jpeg icns ico exr jp2 tif tiff tga psd"));
+                 u"png bmp gif jpg jpeg icns ico exr jp2 tif tiff tga psd"_s);
         QVERIFY(extensionsOf(FileKind::Other).isEmpty());
     }
 
     void theExtensionIsWhatFollowsTheLastFullStop() {
-        QCOMPARE(pathExtension(QStringLiteral("/a.b/c.tar.gz")), QStringLiteral("gz"));
-        QCOMPARE(pathExtension(QStringLiteral("/a.b/c")), QString());
-        QCOMPARE(pathExtension(QStringLiteral("/a/.hidden")), QString());
-        QCOMPARE(pathExtension(QStringLiteral("c.")), QString());
+        QCOMPARE(pathExtension(u"/a.b/c.tar.gz"_s), u"gz"_s);
+        QCOMPARE(pathExtension(u"/a.b/c"_s), QString());
+        QCOMPARE(pathExtension(u"/a/.hidden"_s), QString());
+        QCOMPARE(pathExtension(u"c."_s), QString());
     }
 
     void aNameLosesItsLastExtensionOnly() {
-        QCOMPARE(withoutExtension(QStringLiteral("c.tar.gz")), QStringLiteral("c.tar"));
-        QCOMPARE(withoutExtension(QStringLiteral("/a.b/c")), QStringLiteral("/a.b/c"));
-        QCOMPARE(withoutExtension(QStringLiteral(".hidden")), QStringLiteral(".hidden"));
+        QCOMPARE(withoutExtension(u"c.tar.gz"_s), u"c.tar"_s);
+        QCOMPARE(withoutExtension(u"/a.b/c"_s), u"/a.b/c"_s);
+        QCOMPARE(withoutExtension(u".hidden"_s), u".hidden"_s);
     }
 
     void theLastComponentIgnoresSlashesAtTheEnd() {
-        QCOMPARE(lastPathComponent(QStringLiteral("/a/b.txt")), QStringLiteral("b.txt"));
-        QCOMPARE(lastPathComponent(QStringLiteral("b.txt")), QStringLiteral("b.txt"));
-        QCOMPARE(lastPathComponent(QStringLiteral("/a/b//")), QStringLiteral("b"));
+        QCOMPARE(lastPathComponent(u"/a/b.txt"_s), u"b.txt"_s);
+        QCOMPARE(lastPathComponent(u"b.txt"_s), u"b.txt"_s);
+        QCOMPARE(lastPathComponent(u"/a/b//"_s), u"b"_s);
         QCOMPARE(lastPathComponent(QString()), QString());
     }
 };

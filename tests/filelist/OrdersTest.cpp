@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -85,9 +86,9 @@ class OrdersTest : public QObject {
     void sizesAreCountedInBytesAndReadAfresh() {
         constexpr qsizetype kKilobyte = 1024;
         OrderedFiles files;
-        const QString grown = files.add(QStringLiteral("grown.txt"), QByteArray(10, 'x'));
-        files.add(QStringLiteral("ten.txt"), QByteArray(10 * kKilobyte, 'x'));
-        files.add(QStringLiteral("nine.txt"), QByteArray(9 * kKilobyte, 'x'));
+        const QString grown = files.add(u"grown.txt"_s, QByteArray(10, 'x'));
+        files.add(u"ten.txt"_s, QByteArray(10 * kKilobyte, 'x'));
+        files.add(u"nine.txt"_s, QByteArray(9 * kKilobyte, 'x'));
         QCOMPARE(files.names(SortOrder::Size), words("grown.txt nine.txt ten.txt"));
         test::writeFile(grown, QByteArray(20 * kKilobyte, 'x'));
         QCOMPARE(files.names(SortOrder::Size), words("nine.txt ten.txt grown.txt"));
@@ -96,16 +97,16 @@ class OrdersTest : public QObject {
     void datesAreThoseOfTheLastChange() {
         OrderedFiles files;
         const QDateTime noon(QDate(2020, 5, 1), QTime(12, 0));
-        setModified(files.add(QStringLiteral("late.txt")), noon.addSecs(60));
-        setModified(files.add(QStringLiteral("early.txt")), noon.addSecs(-60));
-        setModified(files.add(QStringLiteral("noon.txt")), noon);
+        setModified(files.add(u"late.txt"_s), noon.addSecs(60));
+        setModified(files.add(u"early.txt"_s), noon.addSecs(-60));
+        setModified(files.add(u"noon.txt"_s), noon);
         QCOMPARE(files.names(SortOrder::Modified), words("early.txt noon.txt late.txt"));
     }
 
     void creationDatesAreNotThoseOfTheLastChange() {
         const QTemporaryDir folder;
-        const QString older = test::writeFile(folder.filePath(QStringLiteral("older.txt")), "x");
-        const QString newer = folder.filePath(QStringLiteral("newer.txt"));
+        const QString older = test::writeFile(folder.filePath(u"older.txt"_s), "x");
+        const QString newer = folder.filePath(u"newer.txt"_s);
         const bool hasDates = test::writeFileAfter(older, newer);
         const QDateTime noon(QDate(2020, 5, 1), QTime(12, 0));
         setModified(older, noon);
@@ -129,8 +130,8 @@ class OrdersTest : public QObject {
 
     void vanishedFilesComeFirst() {
         OrderedFiles files;
-        files.add(QStringLiteral("there.txt"));
-        QVERIFY(QFile::remove(files.add(QStringLiteral("gone.txt"))));
+        files.add(u"there.txt"_s);
+        QVERIFY(QFile::remove(files.add(u"gone.txt"_s)));
         for (const SortOrder order : {SortOrder::Size, SortOrder::Created, SortOrder::Modified}) {
             QCOMPARE(files.names(order), words("gone.txt there.txt"));
         }

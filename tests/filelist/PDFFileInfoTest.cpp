@@ -17,13 +17,14 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
 
 PDFFileInfo withDestination(const QString &name) {
     PDFFileInfo entry;
-    entry.setDestFilePathName(QStringLiteral("/out/") + name);
+    entry.setDestFilePathName(u"/out/"_s + name);
     return entry;
 }
 
@@ -74,7 +75,7 @@ class PDFFileInfoTest : public QObject {
   private Q_SLOTS:
     void aTextThatGrowsWhileItIsReadIsAnError() {
         const QTemporaryDir folder;
-        const QString path = test::writeFile(folder.filePath(QStringLiteral("log.txt")), "first\n");
+        const QString path = test::writeFile(folder.filePath(u"log.txt"_s), "first\n");
         constexpr qint64 kLarge = 64 << 20; // Takes many times as long to read as to append to.
         QVERIFY(QFile::resize(path, kLarge));
         const std::jthread writer([&path](const std::stop_token &stop) {
@@ -85,8 +86,7 @@ class PDFFileInfoTest : public QObject {
             }
         });
         const PDFFileInfo entry(path);
-        QVERIFY2(entry.readError().contains(QStringLiteral("changed")),
-                 qPrintable(entry.readError()));
+        QVERIFY2(entry.readError().contains(u"changed"_s), qPrintable(entry.readError()));
         QVERIFY(entry.getFileString().isEmpty());
     }
 
@@ -100,20 +100,20 @@ class PDFFileInfoTest : public QObject {
         const ReadEntries read = readEntries(paths);
         QCOMPARE(read.entries.size(), std::size_t{16});
         for (std::size_t i = 0; i < 15; ++i) {
-            QCOMPARE(read.entries[i].readError(), QStringLiteral("There is not enough memory"));
+            QCOMPARE(read.entries[i].readError(), u"There is not enough memory"_s);
         }
-        QCOMPARE(read.entries.back().getFileString(), QStringLiteral("words"));
+        QCOMPARE(read.entries.back().getFileString(), u"words"_s);
     }
 
     void aNewEntryWaitsWithoutAStateText() {
         const PDFFileInfo entry;
-        QCOMPARE(entry.filePathName(), QStringLiteral(""));
+        QCOMPARE(entry.filePathName(), u""_s);
         QVERIFY(!entry.filePathName().isNull());
         QVERIFY(entry.fileName().isNull());
         QVERIFY(entry.destFilePathName().isNull());
         QVERIFY(entry.destFileName().isNull());
         QCOMPARE(entry.pageCount(), 0);
-        QCOMPARE(entry.fileSize(), QStringLiteral(""));
+        QCOMPARE(entry.fileSize(), u""_s);
         QCOMPARE(entry.index(), 0);
         QCOMPARE(entry.stateIndex(), 1);
         QVERIFY(!entry.state());
@@ -124,35 +124,35 @@ class PDFFileInfoTest : public QObject {
     void plainFieldsAreKept() {
         PDFFileInfo entry;
         entry.setPageCount(3);
-        entry.setFileSize(QStringLiteral("4 KB"));
+        entry.setFileSize(u"4 KB"_s);
         entry.setIndex(7);
-        entry.setFileName(QStringLiteral("n"));
-        entry.setDestFileName(QStringLiteral("d"));
-        const RichText text{QStringLiteral("t"), true, Qt::red};
+        entry.setFileName(u"n"_s);
+        entry.setDestFileName(u"d"_s);
+        const RichText text{u"t"_s, true, Qt::red};
         entry.setState(text);
         QCOMPARE(entry.pageCount(), 3);
-        QCOMPARE(entry.fileSize(), QStringLiteral("4 KB"));
+        QCOMPARE(entry.fileSize(), u"4 KB"_s);
         QCOMPARE(entry.index(), 7);
-        QCOMPARE(entry.fileName(), QStringLiteral("n"));
-        QCOMPARE(entry.destFileName(), QStringLiteral("d"));
+        QCOMPARE(entry.fileName(), u"n"_s);
+        QCOMPARE(entry.destFileName(), u"d"_s);
         QCOMPARE(entry.state(), std::optional(text));
     }
 
     void aTextIsReadWhole() {
         const PDFFileInfo entry = entryOf("a.txt", "one\r\ntwo \xE2\x82\xAC");
-        QCOMPARE(entry.fileName(), QStringLiteral("a.txt"));
-        QCOMPARE(entry.getFileString(), QStringLiteral("one\r\ntwo \u20ac"));
+        QCOMPARE(entry.fileName(), u"a.txt"_s);
+        QCOMPARE(entry.getFileString(), u"one\r\ntwo \u20ac"_s);
         QVERIFY(entry.readError().isEmpty());
         QVERIFY(entry.readWarning().isEmpty());
-        QCOMPARE(entry.fileSize(), QStringLiteral(""));
+        QCOMPARE(entry.fileSize(), u""_s);
     }
 
     void anExtensionInCapitalsCountsAsText() {
-        QCOMPARE(entryOf("b.TXT", "text").getFileString(), QStringLiteral("text"));
+        QCOMPARE(entryOf("b.TXT", "text").getFileString(), u"text"_s);
     }
 
     void aByteOrderMarkIsNoText() {
-        QCOMPARE(entryOf("bom.txt", "\xEF\xBB\xBFtext").getFileString(), QStringLiteral("text"));
+        QCOMPARE(entryOf("bom.txt", "\xEF\xBB\xBFtext").getFileString(), u"text"_s);
     }
 
     void anEmptyTextIsEmptyNotAbsent() {
@@ -175,14 +175,14 @@ class PDFFileInfoTest : public QObject {
         QFETCH(const QByteArray, bytes);
         const PDFFileInfo entry = entryOf("bad.txt", bytes);
         QVERIFY(entry.getFileString().isNull());
-        QVERIFY(entry.readWarning().contains(QStringLiteral("UTF-8")));
+        QVERIFY(entry.readWarning().contains(u"UTF-8"_s));
         QVERIFY(entry.readError().isEmpty());
     }
 
     void sourcesThatCannotBeReadSayWhy() {
         QCOMPARE(::mkfifo(qPrintable(path("pipe.txt")), 0600), 0);
         QCOMPARE(::mkfifo(qPrintable(path("pipe.png")), 0600), 0);
-        QVERIFY(QDir(m_folder.path()).mkpath(QStringLiteral("folder.png")));
+        QVERIFY(QDir(m_folder.path()).mkpath(u"folder.png"_s));
         for (const char *name :
              {"pipe.txt", "pipe.png", "folder.png", "missing.txt", "missing.png"}) {
             const PDFFileInfo entry(path(name));
@@ -200,7 +200,7 @@ class PDFFileInfoTest : public QObject {
         image.setDotsPerMeterY(28346);
         QVERIFY(image.save(path("scan.png")));
         const PDFFileInfo entry(path("scan.png"));
-        QCOMPARE(entry.fileSize(), QStringLiteral("612 \u00d7 400"));
+        QCOMPARE(entry.fileSize(), u"612 \u00d7 400"_s);
         QVERIFY(entry.getSrcImage());
         QCOMPARE(entry.getSrcImage()->path, path("scan.png"));
         QCOMPARE(qRound(entry.getSrcImage()->sizeInPoints().width() * 10), 6127);
@@ -208,13 +208,13 @@ class PDFFileInfoTest : public QObject {
 
     void aBrokenImageHasNoSizeAndSaysWhy() {
         const PDFFileInfo entry = entryOf("broken.png", "no image at all");
-        QCOMPARE(entry.fileSize(), QStringLiteral("0 \u00d7 0"));
+        QCOMPARE(entry.fileSize(), u"0 \u00d7 0"_s);
         QVERIFY(!entry.readError().isEmpty());
     }
 
     void aPdfIsNotReadByTheEntry() {
         const PDFFileInfo entry = entryOf("not-even.pdf", "x");
-        QCOMPARE(entry.fileSize(), QStringLiteral(""));
+        QCOMPARE(entry.fileSize(), u""_s);
         QVERIFY(entry.readError().isEmpty());
         QVERIFY(!entry.getSrcImage());
     }
@@ -223,42 +223,42 @@ class PDFFileInfoTest : public QObject {
         PDFFileInfo entry = entryOf("first.txt", "text");
         entry.setFilePathName(test::writePng(path("second.png"), 10, 20));
         QVERIFY(entry.getFileString().isNull());
-        QCOMPARE(entry.fileSize(), QStringLiteral("10 \u00d7 20"));
+        QCOMPARE(entry.fileSize(), u"10 \u00d7 20"_s);
         entry.setFilePathName(path("first.txt"));
         QVERIFY(!entry.getSrcImage());
     }
 
     void theDestinationsNameIsItsLastComponent() {
-        const PDFFileInfo entry = withDestination(QStringLiteral("a(1).pdf"));
-        QCOMPARE(entry.destFilePathName(), QStringLiteral("/out/a(1).pdf"));
-        QCOMPARE(entry.destFileName(), QStringLiteral("a(1).pdf"));
+        const PDFFileInfo entry = withDestination(u"a(1).pdf"_s);
+        QCOMPARE(entry.destFilePathName(), u"/out/a(1).pdf"_s);
+        QCOMPARE(entry.destFileName(), u"a(1).pdf"_s);
     }
 
     void eighteenCharactersAreShownWhole() {
-        const QString name = QStringLiteral("abcdefghijklmn.pdf");
+        const QString name = u"abcdefghijklmn.pdf"_s;
         QCOMPARE(name.size(), 18);
         QCOMPARE(withDestination(name).getShortDestFileName(0), name);
     }
 
     void nineteenCharactersLoseTheirMiddle() {
-        const PDFFileInfo entry = withDestination(QStringLiteral("abcdefghijklmno.pdf"));
-        QCOMPARE(entry.getShortDestFileName(0), QStringLiteral("abcdefgh...jklmno.pdf"));
+        const PDFFileInfo entry = withDestination(u"abcdefghijklmno.pdf"_s);
+        QCOMPARE(entry.getShortDestFileName(0), u"abcdefgh...jklmno.pdf"_s);
     }
 
     void shrinkingTakesFromTheHeadAlone() {
-        const PDFFileInfo entry = withDestination(QStringLiteral("abcdefghijklmno.pdf"));
-        QCOMPARE(entry.getShortDestFileName(3), QStringLiteral("abcde...jklmno.pdf"));
-        QCOMPARE(entry.getShortDestFileName(8), QStringLiteral("...jklmno.pdf"));
-        QCOMPARE(entry.getShortDestFileName(20), QStringLiteral("...jklmno.pdf"));
-        const PDFFileInfo sixteen = withDestination(QStringLiteral("abcdefghijkl.pdf"));
-        QCOMPARE(sixteen.getShortDestFileName(2), QStringLiteral("abcdefghijkl.pdf"));
-        QCOMPARE(sixteen.getShortDestFileName(3), QStringLiteral("abcde...ghijkl.pdf"));
+        const PDFFileInfo entry = withDestination(u"abcdefghijklmno.pdf"_s);
+        QCOMPARE(entry.getShortDestFileName(3), u"abcde...jklmno.pdf"_s);
+        QCOMPARE(entry.getShortDestFileName(8), u"...jklmno.pdf"_s);
+        QCOMPARE(entry.getShortDestFileName(20), u"...jklmno.pdf"_s);
+        const PDFFileInfo sixteen = withDestination(u"abcdefghijkl.pdf"_s);
+        QCOMPARE(sixteen.getShortDestFileName(2), u"abcdefghijkl.pdf"_s);
+        QCOMPARE(sixteen.getShortDestFileName(3), u"abcde...ghijkl.pdf"_s);
     }
 
     void widthsAreWholePoints() {
         QCOMPARE(PDFFileInfo::GetWidthOfName(QString()), 0.0F);
-        const float wide = PDFFileInfo::GetWidthOfName(QStringLiteral("WWWWWWWWWW"));
-        const float narrow = PDFFileInfo::GetWidthOfName(QStringLiteral("iiiiiiiiii"));
+        const float wide = PDFFileInfo::GetWidthOfName(u"WWWWWWWWWW"_s);
+        const float narrow = PDFFileInfo::GetWidthOfName(u"iiiiiiiiii"_s);
         QCOMPARE(wide, std::trunc(wide));
         QVERIFY2(wide > 90 && wide < 130, qPrintable(QString::number(wide)));
         QVERIFY2(narrow > 20 && narrow < 40, qPrintable(QString::number(narrow)));
@@ -268,29 +268,29 @@ class PDFFileInfoTest : public QObject {
         PDFFileInfo entry;
         const auto textOf = [&entry](int code) {
             entry.setStateIndex(code);
-            return entry.state().value_or(RichText{QStringLiteral("none"), false, {}});
+            return entry.state().value_or(RichText{u"none"_s, false, {}});
         };
-        QCOMPARE(textOf(1), (RichText{QStringLiteral("Waiting..."), false, {}}));
-        QCOMPARE(textOf(2), (RichText{QStringLiteral("Converting..."), false, {}}));
-        QCOMPARE(textOf(4), (RichText{QStringLiteral("Finished"), false, {}}));
-        QCOMPARE(textOf(5), (RichText{QStringLiteral("Failed"), false, {}}));
-        QCOMPARE(textOf(6).text, QStringLiteral("none"));
+        QCOMPARE(textOf(1), (RichText{u"Waiting..."_s, false, {}}));
+        QCOMPARE(textOf(2), (RichText{u"Converting..."_s, false, {}}));
+        QCOMPARE(textOf(4), (RichText{u"Finished"_s, false, {}}));
+        QCOMPARE(textOf(5), (RichText{u"Failed"_s, false, {}}));
+        QCOMPARE(textOf(6).text, u"none"_s);
         QCOMPARE(entry.stateIndex(), 6);
     }
 
     void aFinishedEntryShowsItsDestinationAsALink() {
-        PDFFileInfo entry = withDestination(QStringLiteral("a.pdf"));
+        PDFFileInfo entry = withDestination(u"a.pdf"_s);
         entry.setStateIndex(FinishedAsLink);
-        QCOMPARE(entry.state(), std::optional(RichText{QStringLiteral("a.pdf"), true, Qt::blue}));
+        QCOMPARE(entry.state(), std::optional(RichText{u"a.pdf"_s, true, Qt::blue}));
     }
 
     void aLinkIsShortenedUntilItFits() {
-        PDFFileInfo entry = withDestination(QStringLiteral("WWWWWWWWWWWWWWWWWWWWii.pdf"));
+        PDFFileInfo entry = withDestination(u"WWWWWWWWWWWWWWWWWWWWii.pdf"_s);
         entry.setStateIndex(FinishedAsLink);
         const QString text = entry.state()->text;
         QVERIFY(PDFFileInfo::GetWidthOfName(text) <= 100);
-        QVERIFY2(text.startsWith(QStringLiteral("W")), qPrintable(text));
-        QVERIFY(text.endsWith(QStringLiteral("...WWWWii.pdf")));
+        QVERIFY2(text.startsWith(u"W"_s), qPrintable(text));
+        QVERIFY(text.endsWith(u"...WWWWii.pdf"_s));
         const auto head = text.size() - 13;
         QVERIFY(PDFFileInfo::GetWidthOfName(
                     entry.getShortDestFileName(static_cast<int>(7 - head))) > 100);
@@ -299,21 +299,19 @@ class PDFFileInfoTest : public QObject {
     void aLinkTooWideForTheColumnStillEnds() {
         PDFFileInfo entry = withDestination(QString(40, u'\u4e2d'));
         entry.setStateIndex(FinishedAsLink);
-        QCOMPARE(entry.state()->text, QStringLiteral("...") + QString(10, u'\u4e2d'));
+        QCOMPARE(entry.state()->text, u"..."_s + QString(10, u'\u4e2d'));
     }
 
     void metadataKeysGiveTheFilesAttributes() {
         const PDFFileInfo entry = entryOf("Meta.TXT", "12345");
         const QFileInfo file(entry.filePathName());
-        QCOMPARE(entry.valueForUndefinedKey(QStringLiteral("kMDItemFSName")),
-                 QVariant(QStringLiteral("meta.txt")));
-        QCOMPARE(entry.valueForUndefinedKey(QStringLiteral("kMDItemFSSize")).toLongLong(), 5);
-        QCOMPARE(
-            entry.valueForUndefinedKey(QStringLiteral("kMDItemFSContentChangeDate")).toDateTime(),
-            file.lastModified());
-        QCOMPARE(entry.valueForUndefinedKey(QStringLiteral("kMDItemFSCreationDate")).toDateTime(),
+        QCOMPARE(entry.valueForUndefinedKey(u"kMDItemFSName"_s), QVariant(u"meta.txt"_s));
+        QCOMPARE(entry.valueForUndefinedKey(u"kMDItemFSSize"_s).toLongLong(), 5);
+        QCOMPARE(entry.valueForUndefinedKey(u"kMDItemFSContentChangeDate"_s).toDateTime(),
+                 file.lastModified());
+        QCOMPARE(entry.valueForUndefinedKey(u"kMDItemFSCreationDate"_s).toDateTime(),
                  file.birthTime());
-        QVERIFY(!entry.valueForUndefinedKey(QStringLiteral("kMDItemPixelHeight")).isValid());
+        QVERIFY(!entry.valueForUndefinedKey(u"kMDItemPixelHeight"_s).isValid());
     }
 
     void attributesAreReadAfreshOnEachCall() {
@@ -322,7 +320,7 @@ class PDFFileInfoTest : public QObject {
         QCOMPARE(entry.valueForUndefinedKey(kMDItemFSSize).toLongLong(), 4);
         QVERIFY(QFile::remove(entry.filePathName()));
         QVERIFY(!entry.valueForUndefinedKey(kMDItemFSSize).isValid());
-        QCOMPARE(entry.valueForUndefinedKey(kMDItemFSName), QVariant(QStringLiteral("fresh.txt")));
+        QCOMPARE(entry.valueForUndefinedKey(kMDItemFSName), QVariant(u"fresh.txt"_s));
     }
 };
 

@@ -14,6 +14,7 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 class SourceFilesTest : public QObject {
@@ -29,20 +30,19 @@ class SourceFilesTest : public QObject {
              {"a.PDF", "b.TXT", "c.png", "d.docx", ".hidden.txt", "noextension"}) {
             test::writeFile(folder.filePath(QString::fromLatin1(name)), "x");
         }
-        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("sub")));
-        test::writeFile(folder.filePath(QStringLiteral("sub/deep.txt")), "x");
-        QStringList files{QStringLiteral("before")};
+        QVERIFY(QDir(folder.path()).mkpath(u"sub"_s));
+        test::writeFile(folder.filePath(u"sub/deep.txt"_s), "x");
+        QStringList files{u"before"_s};
         addDirectorie(folder.path(), files, m_standIns);
-        QCOMPARE(files.takeFirst(), QStringLiteral("before"));
+        QCOMPARE(files.takeFirst(), u"before"_s);
         files.sort();
-        QCOMPARE(files, (QStringList{folder.path() + QStringLiteral("/.hidden.txt"),
-                                     folder.path() + QStringLiteral("/b.TXT"),
-                                     folder.path() + QStringLiteral("/c.png")}));
+        QCOMPARE(files, (QStringList{folder.path() + u"/.hidden.txt"_s, folder.path() + u"/b.TXT"_s,
+                                     folder.path() + u"/c.png"_s}));
     }
 
     void aFolderNamedLikeATextIsNoFile() {
         const QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("notes.txt")));
+        QVERIFY(QDir(folder.path()).mkpath(u"notes.txt"_s));
         QStringList files;
         addDirectorie(folder.path(), files, m_standIns);
         QVERIFY(files.isEmpty());
@@ -51,7 +51,7 @@ class SourceFilesTest : public QObject {
     void filesComeInTheFileSystemsOrder() {
         const QTemporaryDir folder;
         for (int i = 0; i < 50; ++i) {
-            test::writeFile(folder.filePath(QStringLiteral("%1.txt").arg(i * 7919 % 50)), "x");
+            test::writeFile(folder.filePath(u"%1.txt"_s.arg(i * 7919 % 50)), "x");
         }
         const QDir listing(folder.path(), QString(), QDir::NoSort, QDir::Files);
         QStringList expected;
@@ -67,9 +67,8 @@ class SourceFilesTest : public QObject {
     void aFolderThatCannotBeListedAddsNothing() {
         const QTemporaryDir folder;
         QStringList files;
-        addDirectorie(folder.filePath(QStringLiteral("missing")), files, m_standIns);
-        addDirectorie(test::writeFile(folder.filePath(QStringLiteral("file")), "x"), files,
-                      m_standIns);
+        addDirectorie(folder.filePath(u"missing"_s), files, m_standIns);
+        addDirectorie(test::writeFile(folder.filePath(u"file"_s), "x"), files, m_standIns);
         QVERIFY(files.isEmpty());
     }
 
@@ -97,17 +96,17 @@ class SourceFilesTest : public QObject {
     void sizesAreRoundedUpToBlocks_data() {
         QTest::addColumn<qint64>("bytes");
         QTest::addColumn<QString>("text");
-        QTest::newRow("empty") << qint64(0) << QStringLiteral("4 KB");
-        QTest::newRow("one byte") << qint64(1) << QStringLiteral("4 KB");
-        QTest::newRow("one block") << qint64(4096) << QStringLiteral("4 KB");
-        QTest::newRow("one more") << qint64(4097) << QStringLiteral("8 KB");
-        QTest::newRow("last in KB") << qint64(1044480) << QStringLiteral("1020 KB");
-        QTest::newRow("first in MB") << qint64(1044481) << QStringLiteral("1.0 MB");
-        QTest::newRow("megabytes") << qint64(1600000) << QStringLiteral("1.5 MB");
-        QTest::newRow("largest") << qint64(2147483647 - 4095) << QStringLiteral("2048.0 MB");
-        QTest::newRow("past 32 bits by rounding") << qint64(2147483647) << QStringLiteral("4 KB");
-        QTest::newRow("negative in 32 bits") << qint64(3000000000) << QStringLiteral("4 KB");
-        QTest::newRow("once around") << qint64(4294967296 + 8192) << QStringLiteral("8 KB");
+        QTest::newRow("empty") << qint64(0) << u"4 KB"_s;
+        QTest::newRow("one byte") << qint64(1) << u"4 KB"_s;
+        QTest::newRow("one block") << qint64(4096) << u"4 KB"_s;
+        QTest::newRow("one more") << qint64(4097) << u"8 KB"_s;
+        QTest::newRow("last in KB") << qint64(1044480) << u"1020 KB"_s;
+        QTest::newRow("first in MB") << qint64(1044481) << u"1.0 MB"_s;
+        QTest::newRow("megabytes") << qint64(1600000) << u"1.5 MB"_s;
+        QTest::newRow("largest") << qint64(2147483647 - 4095) << u"2048.0 MB"_s;
+        QTest::newRow("past 32 bits by rounding") << qint64(2147483647) << u"4 KB"_s;
+        QTest::newRow("negative in 32 bits") << qint64(3000000000) << u"4 KB"_s;
+        QTest::newRow("once around") << qint64(4294967296 + 8192) << u"8 KB"_s;
     }
 
     void sizesAreRoundedUpToBlocks() {
@@ -118,21 +117,20 @@ class SourceFilesTest : public QObject {
 
     void aPlainPdfIsAccepted() {
         const QTemporaryDir folder;
-        QString reason = QStringLiteral("stale");
-        QVERIFY(
-            isAcceptablePdf(test::writePdf(folder.filePath(QStringLiteral("a.pdf")), 2), &reason));
+        QString reason = u"stale"_s;
+        QVERIFY(isAcceptablePdf(test::writePdf(folder.filePath(u"a.pdf"_s), 2), &reason));
         QVERIFY(reason.isEmpty());
     }
 
     void anEncryptedPdfIsRefused() {
         const QTemporaryDir folder;
-        const QString plain = test::writePdf(folder.filePath(QStringLiteral("a.pdf")), 1);
-        for (const QString &password : {QStringLiteral("secret"), QString()}) {
-            const QString locked = test::encryptPdf(
-                plain, folder.filePath(QStringLiteral("locked%1.pdf").arg(password)), password);
+        const QString plain = test::writePdf(folder.filePath(u"a.pdf"_s), 1);
+        for (const QString &password : {u"secret"_s, QString()}) {
+            const QString locked =
+                test::encryptPdf(plain, folder.filePath(u"locked%1.pdf"_s.arg(password)), password);
             QString reason;
             QVERIFY(!isAcceptablePdf(locked, &reason));
-            QVERIFY2(reason.contains(QStringLiteral("encrypted")), qPrintable(reason));
+            QVERIFY2(reason.contains(u"encrypted"_s), qPrintable(reason));
         }
     }
 
@@ -141,7 +139,7 @@ class SourceFilesTest : public QObject {
         const auto path = [&folder](const char *name) {
             return folder.filePath(QString::fromLatin1(name));
         };
-        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("folder.pdf")));
+        QVERIFY(QDir(folder.path()).mkpath(u"folder.pdf"_s));
         QCOMPARE(::mkfifo(qPrintable(path("pipe.pdf")), 0600), 0);
         const QByteArray whole = test::readFile(test::writePdf(path("whole.pdf"), 1));
         const QStringList broken{test::writeFile(path("empty.pdf"), {}),
@@ -150,8 +148,8 @@ class SourceFilesTest : public QObject {
                                  path("missing.pdf"),
                                  path("folder.pdf"),
                                  path("pipe.pdf"),
-                                 QStringLiteral("/dev/null"),
-                                 QStringLiteral("/dev/zero")};
+                                 u"/dev/null"_s,
+                                 u"/dev/zero"_s};
         for (const QString &file : broken) {
             QString reason;
             QVERIFY2(!isAcceptablePdf(file, &reason), qPrintable(file));
@@ -160,24 +158,20 @@ class SourceFilesTest : public QObject {
     }
 
     void refusedFilesAreListedOnALineEach() {
-        const Notice alert =
-            badFilesNotice({QStringLiteral("/a/one.pdf"), QStringLiteral("/b/two.pdf"),
-                            QStringLiteral("/c/three.pdf")});
-        QCOMPARE(alert.title,
-                 QStringLiteral("Fail to import following files. They are encrypted or not normal "
-                                "PDF files:"));
-        QCOMPARE(alert.message,
-                 QStringLiteral("    /a/one.pdf\r\n    /b/two.pdf\r\n    /c/three.pdf"));
+        const Notice alert = badFilesNotice({u"/a/one.pdf"_s, u"/b/two.pdf"_s, u"/c/three.pdf"_s});
+        QCOMPARE(alert.title, u"Fail to import following files. They are encrypted or not normal "
+                              "PDF files:"_s);
+        QCOMPARE(alert.message, u"    /a/one.pdf\r\n    /b/two.pdf\r\n    /c/three.pdf"_s);
     }
 
     void pathsOfRefusedFilesAreReadAsAFormat() {
         const auto message = [](const char *path) {
             return badFilesNotice({QString::fromLatin1(path)}).message;
         };
-        QCOMPARE(message("/a/100%%.pdf"), QStringLiteral("    /a/100%.pdf"));
-        QCOMPARE(message("/a/%%%%.pdf"), QStringLiteral("    /a/%%.pdf"));
-        QCOMPARE(message("/a/%s%@%n%1.pdf"), QStringLiteral("    /a/%s%@%n%1.pdf"));
-        QCOMPARE(message("/a/100%"), QStringLiteral("    /a/100%"));
+        QCOMPARE(message("/a/100%%.pdf"), u"    /a/100%.pdf"_s);
+        QCOMPARE(message("/a/%%%%.pdf"), u"    /a/%%.pdf"_s);
+        QCOMPARE(message("/a/%s%@%n%1.pdf"), u"    /a/%s%@%n%1.pdf"_s);
+        QCOMPARE(message("/a/100%"), u"    /a/100%"_s);
     }
 };
 

@@ -23,6 +23,7 @@
 #include <string>
 #include <thread>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::FaultyCalls;
 
@@ -37,9 +38,7 @@ class OutputFileTest : public QObject {
 
     std::unique_ptr<QTemporaryDir> m_folder;
 
-    QString target(const QString &name = QStringLiteral("a.pdf")) const {
-        return m_folder->filePath(name);
-    }
+    QString target(const QString &name = u"a.pdf"_s) const { return m_folder->filePath(name); }
     QStringList names() const {
         return QDir(m_folder->path())
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
@@ -64,12 +63,10 @@ class OutputFileTest : public QObject {
     static void addWays() {
         QTest::addColumn<QStringList>("missing");
         QTest::newRow("nameless file") << QStringList();
-        QTest::newRow("rename") << QStringList{QStringLiteral("openAnonymous")};
-        QTest::newRow("link") << QStringList{QStringLiteral("openAnonymous"),
-                                             QStringLiteral("renameExclusive")};
+        QTest::newRow("rename") << QStringList{u"openAnonymous"_s};
+        QTest::newRow("link") << QStringList{u"openAnonymous"_s, u"renameExclusive"_s};
         QTest::newRow("held name")
-            << QStringList{QStringLiteral("openAnonymous"), QStringLiteral("renameExclusive"),
-                           QStringLiteral("link")};
+            << QStringList{u"openAnonymous"_s, u"renameExclusive"_s, u"link"_s};
     }
     static FaultyCalls without(const QStringList &missing) {
         FaultyCalls calls;
@@ -88,7 +85,7 @@ class OutputFileTest : public QObject {
         FaultyCalls calls = without(missing);
         QCOMPARE(writeTo(target(), calls), OutputFile::Published::Yes);
         QCOMPARE(contentOf(target()), kContent);
-        QCOMPARE(names(), QStringList{QStringLiteral("a.pdf")});
+        QCOMPARE(names(), QStringList{u"a.pdf"_s});
     }
 
     void aFileThatIsThereIsNeverReplaced_data() { addWays(); }
@@ -101,14 +98,14 @@ class OutputFileTest : public QObject {
         other.close();
         QCOMPARE(writeTo(target(), calls), OutputFile::Published::NameTaken);
         QCOMPARE(contentOf(target()), QByteArray("someone else's"));
-        QCOMPARE(names(), QStringList{QStringLiteral("a.pdf")});
+        QCOMPARE(names(), QStringList{u"a.pdf"_s});
     }
 
     void aPlantedLinkIsNotFollowed_data() { addWays(); }
     void aPlantedLinkIsNotFollowed() {
         QFETCH(QStringList, missing);
         FaultyCalls calls = without(missing);
-        const QString victim = target(QStringLiteral("victim"));
+        const QString victim = target(u"victim"_s);
         QVERIFY(QFile::link(victim, target()));
         QCOMPARE(writeTo(target(), calls), OutputFile::Published::NameTaken);
         QVERIFY(!QFile::exists(victim));
@@ -123,7 +120,7 @@ class OutputFileTest : public QObject {
         file.write(kContent);
         file.finish(Flush::Never);
         QCOMPARE(file.publish(target(), Flush::Never), OutputFile::Published::NameTaken);
-        const QString next = target(QStringLiteral("a(1).pdf"));
+        const QString next = target(u"a(1).pdf"_s);
         QCOMPARE(file.publish(next, Flush::Never), OutputFile::Published::Yes);
         QCOMPARE(contentOf(next), kContent);
     }
@@ -139,10 +136,10 @@ class OutputFileTest : public QObject {
     }
 
     void theUnfinishedFileIsItsOwnersAlone() {
-        FaultyCalls calls = without({QStringLiteral("openAnonymous")});
+        FaultyCalls calls = without({u"openAnonymous"_s});
         const OutputFile file(target(), calls);
         QCOMPARE(names().size(), 1);
-        QVERIFY(names().first().endsWith(QStringLiteral(".folioforge-part")));
+        QVERIFY(names().first().endsWith(u".folioforge-part"_s));
         QCOMPARE(modeOf(target(names().first())), 0600U);
     }
 
@@ -169,11 +166,11 @@ class OutputFileTest : public QObject {
         QCOMPARE(contentOf(target()), QByteArray("the old one"));
         file.replace(target(), Flush::Always);
         QCOMPARE(contentOf(target()), kContent);
-        QCOMPARE(names(), QStringList{QStringLiteral("a.pdf")});
+        QCOMPARE(names(), QStringList{u"a.pdf"_s});
     }
 
     void aLinkIsReplacedAndNotFollowed() {
-        const QString victim = test::writeFile(target(QStringLiteral("victim")), "mine");
+        const QString victim = test::writeFile(target(u"victim"_s), "mine");
         QVERIFY(QFile::link(victim, target()));
         OutputFile file(target());
         file.write(kContent);
@@ -195,14 +192,12 @@ class OutputFileTest : public QObject {
     }
 
     void whatAKilledProgramLeftIsRemoved() {
-        const QString part =
-            test::writeFile(target(QStringLiteral(".a.x.folioforge-part")), "half");
-        const QString folder = target(QStringLiteral(".folder.x.folioforge-part"));
-        QVERIFY(QDir().mkpath(folder + QStringLiteral("/0")));
-        test::writeFile(folder + QStringLiteral("/0/a.pdf"), "a copy");
-        const QString other = test::writeFile(target(QStringLiteral(".a.x.other-part")), "mine");
-        const QString visible =
-            test::writeFile(target(QStringLiteral("a.folioforge-part")), "mine");
+        const QString part = test::writeFile(target(u".a.x.folioforge-part"_s), "half");
+        const QString folder = target(u".folder.x.folioforge-part"_s);
+        QVERIFY(QDir().mkpath(folder + u"/0"_s));
+        test::writeFile(folder + u"/0/a.pdf"_s, "a copy");
+        const QString other = test::writeFile(target(u".a.x.other-part"_s), "mine");
+        const QString visible = test::writeFile(target(u"a.folioforge-part"_s), "mine");
         removeAbandonedParts(m_folder->path());
         QVERIFY(!QFile::exists(part));
         QVERIFY(!QFile::exists(folder));
@@ -211,7 +206,7 @@ class OutputFileTest : public QObject {
     }
 
     void whatIsInUseIsNotRemoved() {
-        FaultyCalls calls = without({QStringLiteral("openAnonymous")});
+        FaultyCalls calls = without({u"openAnonymous"_s});
         OutputFile file(target(), calls);
         TemporaryFolder folder(m_folder->path());
         const QString path = folder.path();
@@ -222,8 +217,8 @@ class OutputFileTest : public QObject {
     }
 
     void aPlantedPartIsNotFollowed() {
-        const QString victim = test::writeFile(target(QStringLiteral("victim")), "mine");
-        QVERIFY(QFile::link(victim, target(QStringLiteral(".a.x.folioforge-part"))));
+        const QString victim = test::writeFile(target(u"victim"_s), "mine");
+        QVERIFY(QFile::link(victim, target(u".a.x.folioforge-part"_s)));
         removeAbandonedParts(m_folder->path());
         QCOMPARE(contentOf(victim), QByteArray("mine"));
     }
@@ -232,7 +227,7 @@ class OutputFileTest : public QObject {
         {
             TemporaryFolder folder(m_folder->path());
             QCOMPARE(names(), QStringList());
-            test::writeFile(folder.path() + QStringLiteral("/a.pdf"), "a copy");
+            test::writeFile(folder.path() + u"/a.pdf"_s, "a copy");
             QCOMPARE(modeOf(folder.path()), 0700U);
         }
         QCOMPARE(names(), QStringList());
@@ -249,8 +244,8 @@ class OutputFileTest : public QObject {
     }
 
     void aTemporaryFolderThatCannotBeMadeIsItsParent() {
-        TemporaryFolder folder(target(QStringLiteral("missing")));
-        QCOMPARE(folder.path(), target(QStringLiteral("missing")));
+        TemporaryFolder folder(target(u"missing"_s));
+        QCOMPARE(folder.path(), target(u"missing"_s));
     }
 
     void aTemporaryFolderThatCannotBeOpenedLeavesNothing() {
@@ -267,14 +262,14 @@ class OutputFileTest : public QObject {
 
     void anInterruptedProgramRemovesItsTemporaryFolder() {
         TemporaryFolder folder(m_folder->path());
-        FaultyCalls calls = without({QStringLiteral("openAnonymous")});
-        OutputFile file(folder.path() + QStringLiteral("/a.pdf"), calls);
+        FaultyCalls calls = without({u"openAnonymous"_s});
+        OutputFile file(folder.path() + u"/a.pdf"_s, calls);
         removePartFiles();
         QCOMPARE(names(), QStringList());
     }
 
     void anInterruptedProgramRemovesTheUnfinishedFile() {
-        FaultyCalls calls = without({QStringLiteral("openAnonymous")});
+        FaultyCalls calls = without({u"openAnonymous"_s});
         OutputFile file(target(), calls);
         QCOMPARE(names().size(), 1);
         removePartFiles();
@@ -303,20 +298,19 @@ class OutputFileTest : public QObject {
         QTest::addColumn<bool>("nameless");
         for (const bool nameless : {true, false}) {
             const char *kind = nameless ? "nameless" : "named";
-            QTest::addRow("disk full, %s", kind) << QStringLiteral("write") << ENOSPC << nameless;
-            QTest::addRow("flush fails, %s", kind) << QStringLiteral("fsync") << EIO << nameless;
-            QTest::addRow("close fails, %s", kind) << QStringLiteral("close") << EIO << nameless;
+            QTest::addRow("disk full, %s", kind) << u"write"_s << ENOSPC << nameless;
+            QTest::addRow("flush fails, %s", kind) << u"fsync"_s << EIO << nameless;
+            QTest::addRow("close fails, %s", kind) << u"close"_s << EIO << nameless;
         }
-        QTest::addRow("link fails") << QStringLiteral("linkAnonymous") << EACCES << true;
-        QTest::addRow("rename fails") << QStringLiteral("renameExclusive") << EACCES << false;
-        QTest::addRow("no permission") << QStringLiteral("openAnonymous") << EACCES << true;
+        QTest::addRow("link fails") << u"linkAnonymous"_s << EACCES << true;
+        QTest::addRow("rename fails") << u"renameExclusive"_s << EACCES << false;
+        QTest::addRow("no permission") << u"openAnonymous"_s << EACCES << true;
     }
     void aFaultLeavesNothingAndSaysWhy() {
         QFETCH(QString, call);
         QFETCH(int, error);
         QFETCH(bool, nameless);
-        FaultyCalls calls =
-            without(nameless ? QStringList() : QStringList{QStringLiteral("openAnonymous")});
+        FaultyCalls calls = without(nameless ? QStringList() : QStringList{u"openAnonymous"_s});
         calls.failing[call.toStdString()] = error;
         try {
             writeTo(target(), calls);
@@ -333,14 +327,14 @@ class OutputFileTest : public QObject {
         QFETCH(QStringList, missing);
         FaultyCalls calls = without(missing);
         // 255 bytes: 125 letters of two bytes, one of one byte, and the extension.
-        const QString name = QString(125, QChar(0xE9)) + u'a' + QStringLiteral(".pdf");
+        const QString name = QString(125, QChar(0xE9)) + u'a' + u".pdf"_s;
         QCOMPARE(name.toUtf8().size(), 255);
         QCOMPARE(writeTo(target(name), calls), OutputFile::Published::Yes);
         QCOMPARE(names(), QStringList{name});
     }
 
     void aMissingFolderIsAnError() {
-        QVERIFY_THROWS_EXCEPTION(Error, OutputFile(target(QStringLiteral("none/a.pdf"))));
+        QVERIFY_THROWS_EXCEPTION(Error, OutputFile(target(u"none/a.pdf"_s)));
     }
 
     void writtenBytesCanBeReadBackAndReplaced() {

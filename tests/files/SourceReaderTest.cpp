@@ -13,6 +13,7 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -58,7 +59,7 @@ class SourceReaderTest : public QObject {
 
   private Q_SLOTS:
     void init() {
-        m_path = m_folder.filePath(QStringLiteral("source"));
+        m_path = m_folder.filePath(u"source"_s);
         test::writeFile(m_path, QByteArray(kSize, 'x'));
     }
 
@@ -88,7 +89,7 @@ class SourceReaderTest : public QObject {
         SourceReader reader;
         const SourceFile file = SourceFile::examine(m_path);
         const SourceFile next =
-            SourceFile::examine(test::writeFile(m_folder.filePath(QStringLiteral("next")), "next"));
+            SourceFile::examine(test::writeFile(m_folder.filePath(u"next"_s), "next"));
         QCOMPARE(reader.view(file, 0, 4).size(), std::size_t(4));
         change(QFile::encodeName(m_path));
         QVERIFY_THROWS_EXCEPTION(Error, static_cast<void>(reader.view(next, 0, 4)));

@@ -11,6 +11,7 @@
 #include <array>
 #include <cstring>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 class SpoolTest : public QObject {
@@ -30,7 +31,7 @@ class SpoolTest : public QObject {
             for (char piece = 0; piece < kPieces; ++piece) {
                 const auto data = spool.at(places.at(static_cast<std::size_t>(piece)));
                 if (data.toByteArray() != QByteArray(kPiece, piece)) {
-                    return QStringLiteral("other data came back");
+                    return u"other data came back"_s;
                 }
             }
         } catch (const Error &error) {

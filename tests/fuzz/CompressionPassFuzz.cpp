@@ -7,6 +7,7 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::fuzz;
 
@@ -34,7 +35,7 @@ void compressOnce(const QString &source, int pages) {
 // NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     refuseMessages();
-    const MemoryFile source(QStringLiteral("pdf"), {data, size});
+    const MemoryFile source(u"pdf"_s, {data, size});
     refuses([&] {
         const PDFSummary summary = summarizePDF(source.path());
         if (summary.pageCount > 0) {

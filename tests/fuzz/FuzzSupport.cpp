@@ -9,6 +9,8 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge::fuzz {
 
 namespace {
@@ -33,7 +35,7 @@ void refuseMessages() {
 
 MemoryFile::MemoryFile(const QString &extension, std::span<const std::uint8_t> bytes)
     : m_descriptor(::memfd_create("input", MFD_CLOEXEC))
-    , m_path(freshPath(QStringLiteral("input.") + extension)) {
+    , m_path(freshPath(u"input."_s + extension)) {
     require(::write(m_descriptor, bytes.data(), bytes.size()) ==
             static_cast<ssize_t>(bytes.size()));
     const QByteArray target = "/proc/self/fd/" + QByteArray::number(m_descriptor);

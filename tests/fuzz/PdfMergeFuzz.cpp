@@ -11,6 +11,7 @@
 
 #include <qpdf/QPDF.hh>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::fuzz;
 
@@ -31,7 +32,7 @@ void requireInOrder(const QString &path, int pages) {
 }
 
 void mergeTwice(const QString &source, const PDFSummary &summary) {
-    const QString path = freshPath(QStringLiteral("merged.pdf"));
+    const QString path = freshPath(u"merged.pdf"_s);
     PDFContext context(path, {.info = {}, .encryption = nullptr, .flush = Flush::Never});
     require(context.addDocument(source) == summary.pageCount);
     require(context.addDocument(source) == summary.pageCount);
@@ -48,7 +49,7 @@ void mergeTwice(const QString &source, const PDFSummary &summary) {
 // NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     refuseMessages();
-    const MemoryFile source(QStringLiteral("pdf"), {data, size});
+    const MemoryFile source(u"pdf"_s, {data, size});
     refuses([&] {
         const PDFSummary summary = summarizePDF(source.path());
         if (!summary.encrypted) {

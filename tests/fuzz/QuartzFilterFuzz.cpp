@@ -3,13 +3,14 @@
 #include "FuzzSupport.h"
 #include "compress/QuartzFilter.h"
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::fuzz;
 
 // NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     refuseMessages();
-    const MemoryFile file(QStringLiteral("qfilter"), {data, size});
+    const MemoryFile file(u"qfilter"_s, {data, size});
     refuses([&] {
         const QuartzFilter filter = readQuartzFilter(file.path());
         require(filter.resolution > 0 && filter.tolerance >= 1 && filter.smallestImage >= 0);

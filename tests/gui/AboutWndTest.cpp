@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -17,13 +18,13 @@ QString realBundle() {
 /// A bundle whose property list names its icon `icon`, with the real icon under `file`.
 struct Bundle {
     Bundle(const QByteArray &icon, const QString &file) {
-        const QString resources = folder.filePath(QStringLiteral("Contents/Resources"));
+        const QString resources = folder.filePath(u"Contents/Resources"_s);
         if (!QDir().mkpath(resources) ||
-            !QFile::copy(realBundle() + QStringLiteral("/Contents/Resources/Folioforge.icns"),
+            !QFile::copy(realBundle() + u"/Contents/Resources/Folioforge.icns"_s,
                          resources + u'/' + file)) {
             qFatal("cannot make the bundle");
         }
-        QFile info(folder.filePath(QStringLiteral("Contents/Info.plist")));
+        QFile info(folder.filePath(u"Contents/Info.plist"_s));
         if (!info.open(QIODevice::WriteOnly)) {
             qFatal("cannot write the property list");
         }
@@ -35,7 +36,7 @@ struct Bundle {
 };
 
 QPixmap shownIcon(const AboutWndCtrl &about) {
-    return about.window().findChild<QLabel *>(QStringLiteral("m_imageView"))->pixmap();
+    return about.window().findChild<QLabel *>(u"m_imageView"_s)->pixmap();
 }
 
 } // namespace
@@ -51,26 +52,26 @@ class AboutWndTest : public QObject {
     }
 
     void theIconIsTheOneThePropertyListNames() {
-        const Bundle bundle("Other", QStringLiteral("Other.icns"));
+        const Bundle bundle("Other", u"Other.icns"_s);
         QVERIFY(!AboutWndCtrl(bundle.folder.path()).image().isNull());
     }
 
     void aNameThatHasTheExtensionAlreadyDoesNotLoad() {
-        const Bundle bundle("Other.icns", QStringLiteral("Other.icns"));
+        const Bundle bundle("Other.icns", u"Other.icns"_s);
         const AboutWndCtrl about(bundle.folder.path());
         QVERIFY(about.image().isNull());
         QVERIFY(shownIcon(about).isNull());
     }
 
     void aMissingBundleLeavesTheIconBlank() {
-        const AboutWndCtrl about(QStringLiteral("/nowhere"));
+        const AboutWndCtrl about(u"/nowhere"_s);
         QVERIFY(about.image().isNull());
         QVERIFY(shownIcon(about).isNull());
     }
 
     void theVersionAndTheLicencesAreShown() {
         const AboutWndCtrl about(realBundle());
-        QCOMPARE(about.window().findChild<QLabel *>(QStringLiteral("versionLabel"))->text(),
+        QCOMPARE(about.window().findChild<QLabel *>(u"versionLabel"_s)->text(),
                  QStringLiteral("Version " FOLIOFORGE_VERSION));
         const QString licences = about.window().findChild<QPlainTextEdit *>()->toPlainText();
         for (const char *library :

@@ -14,15 +14,15 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
 namespace {
 
-const QStringList kImages =
-    QStringLiteral("png bmp gif jpg jpeg icns ico exr jp2 tif tiff tga psd").split(u' ');
-const QStringList kText{QStringLiteral("txt")};
-const QStringList kPdf{QStringLiteral("pdf")};
+const QStringList kImages = u"png bmp gif jpg jpeg icns ico exr jp2 tif tiff tga psd"_s.split(u' ');
+const QStringList kText{u"txt"_s};
+const QStringList kPdf{u"pdf"_s};
 
 /// A document of one empty page, by Qt's writer.
 QByteArray smallPdf() {
@@ -37,10 +37,9 @@ QByteArray smallPdf() {
 
 /// Such a document, encrypted by qpdf under the empty user password.
 QString encryptedPdf(const TestWindow &w, const QString &name) {
-    const QString plain = w.file(QStringLiteral("plain.bin"), smallPdf());
-    const ToolRun run = runTool(QStringLiteral("qpdf"),
-                                {QStringLiteral("--encrypt"), QString(), QStringLiteral("owner"),
-                                 QStringLiteral("256"), QStringLiteral("--"), plain, w.path(name)});
+    const QString plain = w.file(u"plain.bin"_s, smallPdf());
+    const ToolRun run = runTool(
+        u"qpdf"_s, {u"--encrypt"_s, QString(), u"owner"_s, u"256"_s, u"--"_s, plain, w.path(name)});
     if (run.exitCode != 0) {
         qFatal("qpdf: %s", run.err.constData());
     }
@@ -115,7 +114,7 @@ class AddingFilesTest : public QObject {
         QCOMPARE(panel.extensions, types);
         QVERIFY(panel.multiple);
         QCOMPARE(panel.startFolder,
-                 startsInDocuments ? w.home.path() + QStringLiteral("/Documents") : QString());
+                 startsInDocuments ? w.home.path() + u"/Documents"_s : QString());
     }
 
     void eachButtonAppendsWhatWasChosen_data() {
@@ -128,17 +127,16 @@ class AddingFilesTest : public QObject {
     void eachButtonAppendsWhatWasChosen() {
         QFETCH(const QByteArray, button);
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("first.txt"))}, -1);
-        choose(w, button, {w.file(QStringLiteral("b.txt")), w.file(QStringLiteral("a.txt"))});
-        QCOMPARE(w.names(), QStringLiteral("first.txt b.txt a.txt"));
-        QCOMPARE(w.numbers(), QStringLiteral("1 2 3"));
-        QCOMPARE(w.states(), QStringLiteral("Waiting... Waiting... Waiting..."));
+        w.ctrl.addFiles({w.file(u"first.txt"_s)}, -1);
+        choose(w, button, {w.file(u"b.txt"_s), w.file(u"a.txt"_s)});
+        QCOMPARE(w.names(), u"first.txt b.txt a.txt"_s);
+        QCOMPARE(w.numbers(), u"1 2 3"_s);
+        QCOMPARE(w.states(), u"Waiting... Waiting... Waiting..."_s);
     }
 
     void theKeysOfTheListAreAtHandForWhatWasAdded() {
         TestWindow w;
-        choose(w, "m_btnAddFile",
-               {w.file(QStringLiteral("a.txt")), w.file(QStringLiteral("b.txt"))});
+        choose(w, "m_btnAddFile", {w.file(u"a.txt"_s), w.file(u"b.txt"_s)});
         w.key(Qt::Key_A, Qt::ControlModifier);
         w.key(Qt::Key_Delete);
         QCOMPARE(w.names(), QString());
@@ -157,7 +155,7 @@ class AddingFilesTest : public QObject {
         TestWindow w;
         choose(w, "m_btnAddFolder", {});
         QCOMPARE(w.delegate.told, QList{false});
-        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"))}, -1);
+        w.ctrl.addFiles({w.file(u"a.txt"_s)}, -1);
         w.delegate.told.clear();
         choose(w, "m_btnAddFolder", {});
         QCOMPARE(w.delegate.told, QList{true});
@@ -174,143 +172,142 @@ class AddingFilesTest : public QObject {
         QFETCH(const QFileDialog::ViewMode, mode);
         QFETCH(const QByteArray, viewName);
         TestWindow w;
-        for (const QChar folder : QStringLiteral("abc")) {
-            QDir(w.home.path()).mkpath(QStringLiteral("Documents/") + folder);
-            w.file(QStringLiteral("Documents/%1/%1.txt").arg(folder));
+        for (const QChar folder : u"abc"_s) {
+            QDir(w.home.path()).mkpath(u"Documents/"_s + folder);
+            w.file(u"Documents/%1/%1.txt"_s.arg(folder));
         }
         w.press("m_btnAddFolder");
         auto *dialog = w.ctrl.window()->findChild<QFileDialog *>();
         QVERIFY(dialog && dialog->isVisible());
         dialog->setViewMode(mode);
         auto &view = controlOf<QAbstractItemView>(*dialog, viewName);
-        clickRow(view, QStringLiteral("a"));
-        clickRow(view, QStringLiteral("c"), Qt::ControlModifier);
+        clickRow(view, u"a"_s);
+        clickRow(view, u"c"_s, Qt::ControlModifier);
         QTest::mouseClick(dialog->findChild<QDialogButtonBox *>()->buttons().first(),
                           Qt::LeftButton);
-        QTRY_COMPARE(w.names(), QStringLiteral("a.txt c.txt"));
+        QTRY_COMPARE(w.names(), u"a.txt c.txt"_s);
     }
 
     void aChosenFolderGivesItsFilesOneLevelDeepWithoutPdfs() {
         TestWindow w;
-        QDir(w.home.path()).mkpath(QStringLiteral("folder/below"));
-        w.file(QStringLiteral("folder/a.PDF"), smallPdf());
-        w.file(QStringLiteral("folder/b.TXT"));
-        w.file(QStringLiteral("folder/c.png"), picture("PNG"));
-        w.file(QStringLiteral("folder/below/d.txt"));
+        QDir(w.home.path()).mkpath(u"folder/below"_s);
+        w.file(u"folder/a.PDF"_s, smallPdf());
+        w.file(u"folder/b.TXT"_s);
+        w.file(u"folder/c.png"_s, picture("PNG"));
+        w.file(u"folder/below/d.txt"_s);
         for (const char *button : {"m_btnAddFile", "m_btnAddFolder"}) {
             TestWindow other;
-            choose(other, button, {w.path(QStringLiteral("folder"))});
+            choose(other, button, {w.path(u"folder"_s)});
             QStringList names = other.names().split(u' ');
             names.sort();
-            QCOMPARE(names.join(u' '), QStringLiteral("b.TXT c.png"));
+            QCOMPARE(names.join(u' '), u"b.TXT c.png"_s);
         }
     }
 
     void vanishedFilesAndDanglingLinksAreSkippedByTheFilePanel() {
         TestWindow w;
-        QFile::link(w.path(QStringLiteral("nowhere")), w.path(QStringLiteral("dangling.txt")));
-        QFile::link(w.path(QStringLiteral("loop.txt")), w.path(QStringLiteral("loop.txt")));
+        QFile::link(w.path(u"nowhere"_s), w.path(u"dangling.txt"_s));
+        QFile::link(w.path(u"loop.txt"_s), w.path(u"loop.txt"_s));
         choose(w, "m_btnAddFile",
-               {w.path(QStringLiteral("gone.txt")), w.path(QStringLiteral("dangling.txt")),
-                w.path(QStringLiteral("loop.txt")), w.file(QStringLiteral("a.txt"))});
-        QCOMPARE(w.names(), QStringLiteral("a.txt"));
+               {w.path(u"gone.txt"_s), w.path(u"dangling.txt"_s), w.path(u"loop.txt"_s),
+                w.file(u"a.txt"_s)});
+        QCOMPARE(w.names(), u"a.txt"_s);
     }
 
     void aFolderThatCannotBeListedAddsNothing() {
         TestWindow w;
-        choose(w, "m_btnAddFolder", {w.path(QStringLiteral("missing"))});
+        choose(w, "m_btnAddFolder", {w.path(u"missing"_s)});
         QVERIFY(w.ctrl.filesArray().isEmpty());
         QCOMPARE(w.messages(), QStringList());
     }
 
     void theSameFileMayBeAddedTwice() {
         TestWindow w;
-        const QString path = w.file(QStringLiteral("a.txt"));
+        const QString path = w.file(u"a.txt"_s);
         w.ctrl.addFiles({path}, -1);
         w.ctrl.addFiles({path, path}, -1);
-        QCOMPARE(w.names(), QStringLiteral("a.txt a.txt a.txt"));
+        QCOMPARE(w.names(), u"a.txt a.txt a.txt"_s);
     }
 
     void filesGoInAtARowInTheirOrder() {
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("a.txt")), w.file(QStringLiteral("b.txt"))}, -1);
-        w.ctrl.addFiles({w.file(QStringLiteral("x.txt")), w.file(QStringLiteral("y.txt"))}, 1);
-        QCOMPARE(w.names(), QStringLiteral("a.txt x.txt y.txt b.txt"));
-        QCOMPARE(w.numbers(), QStringLiteral("1 3 4 2"));
+        w.ctrl.addFiles({w.file(u"a.txt"_s), w.file(u"b.txt"_s)}, -1);
+        w.ctrl.addFiles({w.file(u"x.txt"_s), w.file(u"y.txt"_s)}, 1);
+        QCOMPARE(w.names(), u"a.txt x.txt y.txt b.txt"_s);
+        QCOMPARE(w.numbers(), u"1 3 4 2"_s);
         w.ctrl.reindexFiles();
-        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4"));
+        QCOMPARE(w.numbers(), u"1 2 3 4"_s);
     }
 
     void textSizesAreWholeBlocks_data() {
         QTest::addColumn<int>("bytes");
         QTest::addColumn<QString>("text");
-        QTest::newRow("empty") << 0 << QStringLiteral("4 KB");
-        QTest::newRow("one byte") << 1 << QStringLiteral("4 KB");
-        QTest::newRow("one block") << 4096 << QStringLiteral("4 KB");
-        QTest::newRow("over a block") << 4097 << QStringLiteral("8 KB");
-        QTest::newRow("largest in KB") << 1044480 << QStringLiteral("1020 KB");
-        QTest::newRow("smallest in MB") << 1044481 << QStringLiteral("1.0 MB");
+        QTest::newRow("empty") << 0 << u"4 KB"_s;
+        QTest::newRow("one byte") << 1 << u"4 KB"_s;
+        QTest::newRow("one block") << 4096 << u"4 KB"_s;
+        QTest::newRow("over a block") << 4097 << u"8 KB"_s;
+        QTest::newRow("largest in KB") << 1044480 << u"1020 KB"_s;
+        QTest::newRow("smallest in MB") << 1044481 << u"1.0 MB"_s;
     }
 
     void textSizesAreWholeBlocks() {
         QFETCH(const int, bytes);
         QFETCH(const QString, text);
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"), QByteArray(bytes, 'x'))}, -1);
+        w.ctrl.addFiles({w.file(u"a.txt"_s, QByteArray(bytes, 'x'))}, -1);
         QCOMPARE(sizeShown(w, 0), text);
     }
 
     void anImageShowsItsDimensionsAndNoBytes() {
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("a.png"), picture("PNG", 612, 400))}, -1);
-        QCOMPARE(sizeShown(w, 0), QStringLiteral("612 \u00d7 400"));
+        w.ctrl.addFiles({w.file(u"a.png"_s, picture("PNG", 612, 400))}, -1);
+        QCOMPARE(sizeShown(w, 0), u"612 \u00d7 400"_s);
     }
 
     void aTextFileThatVanishedCountsAsEmpty() {
         TestWindow w;
-        w.ctrl.addFiles({w.path(QStringLiteral("gone.txt"))}, -1);
-        QCOMPARE(w.names(), QStringLiteral("gone.txt"));
-        QCOMPARE(sizeShown(w, 0), QStringLiteral("4 KB"));
+        w.ctrl.addFiles({w.path(u"gone.txt"_s)}, -1);
+        QCOMPARE(w.names(), u"gone.txt"_s);
+        QCOMPARE(sizeShown(w, 0), u"4 KB"_s);
     }
 
     void refusedPdfsGiveOneAlertWithTheirPaths() {
         TestWindow w;
-        const QString one = encryptedPdf(w, QStringLiteral("one.pdf"));
-        const QString two = w.file(QStringLiteral("two.pdf"), "no PDF at all");
-        const QString three = w.path(QStringLiteral("gone.pdf"));
+        const QString one = encryptedPdf(w, u"one.pdf"_s);
+        const QString two = w.file(u"two.pdf"_s, "no PDF at all");
+        const QString three = w.path(u"gone.pdf"_s);
         QStringList paths;
         for (int i = 0; i < 6; ++i) {
-            paths += w.file(QStringLiteral("%1.txt").arg(i));
+            paths += w.file(u"%1.txt"_s.arg(i));
         }
         paths.insert(0, one);
         paths.insert(4, two);
-        paths += w.file(QStringLiteral("good.pdf"), smallPdf());
+        paths += w.file(u"good.pdf"_s, smallPdf());
         paths += three;
         w.ctrl.addFiles(paths, -1);
-        QCOMPARE(w.names(), QStringLiteral("0.txt 1.txt 2.txt 3.txt 4.txt 5.txt good.pdf"));
-        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5 6 7"));
+        QCOMPARE(w.names(), u"0.txt 1.txt 2.txt 3.txt 4.txt 5.txt good.pdf"_s);
+        QCOMPARE(w.numbers(), u"1 2 3 4 5 6 7"_s);
 
         QCOMPARE(w.messages(), QStringList());
         QCoreApplication::processEvents();
-        QCOMPARE(w.messages(),
-                 QStringList(QStringLiteral("    %1\r\n    %2\r\n    %3").arg(one, two, three)));
+        QCOMPARE(w.messages(), QStringList(u"    %1\r\n    %2\r\n    %3"_s.arg(one, two, three)));
         QCOMPARE(w.notices.shown().front().notice.title,
-                 QStringLiteral("Fail to import following files. They are encrypted or not normal "
-                                "PDF files:"));
+                 u"Fail to import following files. They are encrypted or not normal "
+                 "PDF files:"_s);
     }
 
     void aPercentInARefusedPathIsReadAsAFormatAndHarmsNothing() {
         TestWindow w;
-        const QString path = w.file(QStringLiteral("50%% off %s %n %@.pdf"), "none");
+        const QString path = w.file(u"50%% off %s %n %@.pdf"_s, "none");
         w.ctrl.addFiles({path}, -1);
         QCoreApplication::processEvents();
         QCOMPARE(w.messages().size(), 1);
-        QVERIFY(w.messages().front().contains(QStringLiteral("/50% off ")));
+        QVERIFY(w.messages().front().contains(u"/50% off "_s));
     }
 
     void badFilesAloneLeaveTheListAndTheControlsAsTheyWere() {
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("x.pdf"), "none")}, -1);
+        w.ctrl.addFiles({w.file(u"x.pdf"_s, "none")}, -1);
         QVERIFY(w.ctrl.filesArray().isEmpty());
         QCOMPARE(w.delegate.told, QList<bool>());
         QCOMPARE(w.control<QLineEdit>("m_tfOutputName")->text(), QString());
@@ -318,17 +315,16 @@ class AddingFilesTest : public QObject {
 
     void theFirstAcceptedFileNamesTheOutput() {
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("bad.pdf"), "none"),
-                         w.file(QStringLiteral("my.report.txt")), w.file(QStringLiteral("z.txt"))},
-                        -1);
-        QCOMPARE(w.control<QLineEdit>("m_tfOutputName")->text(), QStringLiteral("my.report"));
+        w.ctrl.addFiles(
+            {w.file(u"bad.pdf"_s, "none"), w.file(u"my.report.txt"_s), w.file(u"z.txt"_s)}, -1);
+        QCOMPARE(w.control<QLineEdit>("m_tfOutputName")->text(), u"my.report"_s);
     }
 
     void anOutputNameThatStandsIsKept() {
         TestWindow w;
-        w.control<QLineEdit>("m_tfOutputName")->setText(QStringLiteral("mine"));
-        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"))}, -1);
-        QCOMPARE(w.control<QLineEdit>("m_tfOutputName")->text(), QStringLiteral("mine"));
+        w.control<QLineEdit>("m_tfOutputName")->setText(u"mine"_s);
+        w.ctrl.addFiles({w.file(u"a.txt"_s)}, -1);
+        QCOMPARE(w.control<QLineEdit>("m_tfOutputName")->text(), u"mine"_s);
     }
 
     void aListWithFilesEnablesTheControls() {
@@ -337,7 +333,7 @@ class AddingFilesTest : public QObject {
         QVERIFY(!w.control<QWidget>("m_btnCreate")->isEnabled());
         QVERIFY(!w.control<QWidget>("m_btnRemove")->isEnabled());
         QVERIFY(!w.control<QWidget>("m_tfTitle")->isEnabled());
-        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"))}, -1);
+        w.ctrl.addFiles({w.file(u"a.txt"_s)}, -1);
         QVERIFY(w.control<QWidget>("m_btnCreate")->isEnabled());
         QVERIFY(w.control<QWidget>("m_btnRemove")->isEnabled());
         QVERIFY(w.control<QWidget>("m_tfTitle")->isEnabled());
@@ -346,43 +342,42 @@ class AddingFilesTest : public QObject {
 
     void anEmptyListEmptiesTheOutputName() {
         TestWindow w;
-        w.control<QLineEdit>("m_tfOutputName")->setText(QStringLiteral("mine"));
+        w.control<QLineEdit>("m_tfOutputName")->setText(u"mine"_s);
         w.ctrl.hasFileOpened(false);
         QCOMPARE(w.control<QLineEdit>("m_tfOutputName")->text(), QString());
     }
 
     void pipesDevicesAndFoldersWithAFilesNameAreTakenInWithoutWaiting() {
         TestWindow w;
-        const QString pipe = w.path(QStringLiteral("pipe.txt"));
+        const QString pipe = w.path(u"pipe.txt"_s);
         QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-        QFile::link(QStringLiteral("/dev/zero"), w.path(QStringLiteral("endless.png")));
-        QDir(w.home.path()).mkdir(QStringLiteral("folder.pdf"));
-        w.ctrl.addFiles({pipe, w.path(QStringLiteral("endless.png")),
-                         w.path(QStringLiteral("folder.pdf")), w.file(QStringLiteral("a.txt"))},
-                        -1);
-        QCOMPARE(w.names(), QStringLiteral("pipe.txt endless.png a.txt"));
+        QFile::link(u"/dev/zero"_s, w.path(u"endless.png"_s));
+        QDir(w.home.path()).mkdir(u"folder.pdf"_s);
+        w.ctrl.addFiles(
+            {pipe, w.path(u"endless.png"_s), w.path(u"folder.pdf"_s), w.file(u"a.txt"_s)}, -1);
+        QCOMPARE(w.names(), u"pipe.txt endless.png a.txt"_s);
     }
 
     void filesOfMoreThanTwoGigabytesAreNotReadWhole() {
         TestWindow w;
-        const QString text = w.file(QStringLiteral("huge.txt"));
-        const QString other = w.file(QStringLiteral("huge.pdf"));
+        const QString text = w.file(u"huge.txt"_s);
+        const QString other = w.file(u"huge.pdf"_s);
         QVERIFY(QFile::resize(text, 2'500'000'000));
         QVERIFY(QFile::resize(other, 2'500'000'000));
-        w.ctrl.addFiles({text, other, w.file(QStringLiteral("a.txt"))}, -1);
-        QCOMPARE(w.names(), QStringLiteral("huge.txt a.txt"));
+        w.ctrl.addFiles({text, other, w.file(u"a.txt"_s)}, -1);
+        QCOMPARE(w.names(), u"huge.txt a.txt"_s);
     }
 
     void thousandsOfFilesAreAnnouncedOnceAndInOrder() {
         TestWindow w;
         QStringList paths;
         for (int i = 0; i < 3000; ++i) {
-            paths += w.file(QStringLiteral("%1.txt").arg(i, 4, 10, QLatin1Char('0')));
+            paths += w.file(u"%1.txt"_s.arg(i, 4, 10, QLatin1Char('0')));
         }
         const QSignalSpy inserted(&w.ctrl.filesArray(), &QAbstractItemModel::rowsInserted);
         w.ctrl.addFiles(paths, -1);
         QCOMPARE(inserted.count(), 1);
-        QCOMPARE(w.names().remove(QStringLiteral(".txt")).split(u' '), [&] {
+        QCOMPARE(w.names().remove(u".txt"_s).split(u' '), [&] {
             QStringList names;
             for (const QString &path : paths) {
                 names += QFileInfo(path).baseName();

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -60,15 +61,14 @@ struct Application {
     void addTexts(int count) {
         QStringList paths;
         for (int i = 0; i < count; ++i) {
-            paths += world.file(QStringLiteral("%1.txt").arg(i));
+            paths += world.file(u"%1.txt"_s.arg(i));
         }
         delegate.mainWndCtrl().addFiles(paths, -1);
     }
     /// What the output folder holds, which is the home folder.
     [[nodiscard]] QStringList documents() const {
         QStringList paths;
-        for (const QFileInfo &file :
-             QDir(world.home.path()).entryInfoList({QStringLiteral("*.pdf")})) {
+        for (const QFileInfo &file : QDir(world.home.path()).entryInfoList({u"*.pdf"_s})) {
             paths += file.filePath();
         }
         return paths;
@@ -150,24 +150,24 @@ class AppDelegateTest : public QObject {
     void theListStartsEmptyAndTheStartItemDisabled() {
         Application application;
         QVERIFY(application.delegate.mainWndCtrl().filesArray().isEmpty());
-        QVERIFY(!application.item(QStringLiteral("Start")).isEnabled());
+        QVERIFY(!application.item(u"Start"_s).isEnabled());
     }
 
     void theStartItemFollowsTheCreateButton() {
         Application application;
         MainWndCtrl &ctrl = application.delegate.mainWndCtrl();
         auto &create = controlOf<QWidget>(application.window(), "m_btnCreate");
-        ctrl.addFiles({application.world.file(QStringLiteral("a.txt"))}, -1);
-        QTRY_VERIFY(application.item(QStringLiteral("Start")).isEnabled());
+        ctrl.addFiles({application.world.file(u"a.txt"_s)}, -1);
+        QTRY_VERIFY(application.item(u"Start"_s).isEnabled());
         QVERIFY(create.isEnabled());
         ctrl.clickBtnClear();
-        QVERIFY(!application.item(QStringLiteral("Start")).isEnabled());
+        QVERIFY(!application.item(u"Start"_s).isEnabled());
         QVERIFY(!create.isEnabled());
     }
 
     void controlOAddsFiles() {
         Application application;
-        application.world.notices.setNextFiles({application.world.file(QStringLiteral("a.txt"))});
+        application.world.notices.setNextFiles({application.world.file(u"a.txt"_s)});
         application.activate();
         application.key(Qt::Key_O, Qt::ControlModifier);
         QTRY_COMPARE(application.delegate.mainWndCtrl().filesArray().count(), 1);
@@ -178,7 +178,7 @@ class AppDelegateTest : public QObject {
     void theStartItemIsRefusedAsTheCreateButtonIs() {
         Application application;
         MainWndCtrl &ctrl = application.delegate.mainWndCtrl();
-        ctrl.addFiles({application.world.file(QStringLiteral("a.txt"))}, -1);
+        ctrl.addFiles({application.world.file(u"a.txt"_s)}, -1);
         controlOf<QLineEdit>(application.window(), "m_tfOutputFolder").clear();
         application.activate();
         application.key(Qt::Key_Return, Qt::ControlModifier);
@@ -187,7 +187,7 @@ class AppDelegateTest : public QObject {
         QCOMPARE(shown.size(), std::size_t(2));
         QCOMPARE(shown.at(0).notice, shown.at(1).notice);
         QCOMPARE(shown.at(0).notice.message,
-                 QStringLiteral("Please select an output folder to store the output documents."));
+                 u"Please select an output folder to store the output documents."_s);
     }
 
     void noTwoMnemonicsInSightAreEqual_data() { addSettings(); }
@@ -210,8 +210,8 @@ class AppDelegateTest : public QObject {
         QFETCH(const QByteArray, settings);
         Application application;
         application.showSettings(settings);
-        for (const auto &[key, title] : {std::pair(Qt::Key_F, QStringLiteral("&File")),
-                                         std::pair(Qt::Key_H, QStringLiteral("&Help"))}) {
+        for (const auto &[key, title] :
+             {std::pair(Qt::Key_F, u"&File"_s), std::pair(Qt::Key_H, u"&Help"_s)}) {
             application.key(key, Qt::AltModifier);
             auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
             QVERIFY(menu);
@@ -228,21 +228,19 @@ class AppDelegateTest : public QObject {
         application.key(Qt::Key_Return, Qt::ControlModifier);
         const FilesArray &files = application.delegate.mainWndCtrl().filesArray();
         QTRY_COMPARE(files.at(0).stateIndex(), 3);
-        QCOMPARE(application.documents(),
-                 QStringList(application.world.path(QStringLiteral("0.pdf"))));
-        QCOMPARE(PdfProbe(application.documents().first()).text().trimmed(),
-                 QStringLiteral("text"));
+        QCOMPARE(application.documents(), QStringList(application.world.path(u"0.pdf"_s)));
+        QCOMPARE(PdfProbe(application.documents().first()).text().trimmed(), u"text"_s);
     }
 
     void supportOpensTheTutorialAndProductTheProductPage() {
         Application application;
         application.activate();
         application.key(Qt::Key_F1);
-        application.item(QStringLiteral("Product Page")).trigger();
+        application.item(u"Product Page"_s).trigger();
         const QList<QUrl> &urls = application.world.desktop.urls;
         QCOMPARE(urls.size(), 2);
-        QCOMPARE(urls.at(0).fileName(), QStringLiteral("tutorial.html"));
-        QCOMPARE(urls.at(1).fileName(), QStringLiteral("product.html"));
+        QCOMPARE(urls.at(0).fileName(), u"tutorial.html"_s);
+        QCOMPARE(urls.at(1).fileName(), u"product.html"_s);
         for (const QUrl &url : urls) {
             QVERIFY(QFileInfo(url.toLocalFile()).isFile());
         }
@@ -250,11 +248,11 @@ class AppDelegateTest : public QObject {
 
     void theUpdateItemIsVisibleAndLeadsToTheDownloads() {
         Application application;
-        QAction &update = application.item(QStringLiteral("Check for Update..."));
+        QAction &update = application.item(u"Check for Update..."_s);
         QVERIFY(update.isVisible());
         update.trigger();
         QCOMPARE(application.world.desktop.urls.size(), 1);
-        QCOMPARE(application.world.desktop.urls.first().fragment(), QStringLiteral("download"));
+        QCOMPARE(application.world.desktop.urls.first().fragment(), u"download"_s);
         QFile page(application.world.desktop.urls.first().toLocalFile());
         QVERIFY(page.open(QIODevice::ReadOnly));
         QVERIFY(page.readAll().contains("id=\"download\""));
@@ -263,7 +261,7 @@ class AppDelegateTest : public QObject {
     void anUpdateFrameworkTakesTheUpdateItem() {
         int checks = 0;
         Application application(std::make_unique<CountingUpdater>(checks));
-        application.item(QStringLiteral("Check for Update...")).trigger();
+        application.item(u"Check for Update..."_s).trigger();
         QCOMPARE(checks, 1);
         QVERIFY(application.world.desktop.urls.isEmpty());
     }
@@ -275,7 +273,7 @@ class AppDelegateTest : public QObject {
 
     void closingTheMainWindowQuitsThoughAboutIsOpen() {
         Application application;
-        application.item(QStringLiteral("About Folioforge")).trigger();
+        application.item(u"About Folioforge"_s).trigger();
         QCOMPARE(application.runUntilClosed(), 0);
     }
 

@@ -10,6 +10,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -21,8 +22,8 @@ struct Covered {
         window.setCentralWidget(&center);
         field.setGeometry(20, 20, 200, 30);
         button.setGeometry(20, 300, 100, 30);
-        action.setShortcut(QKeySequence(QStringLiteral("Ctrl+O")));
-        quit.setShortcut(QKeySequence(QStringLiteral("Ctrl+Q")));
+        action.setShortcut(QKeySequence(u"Ctrl+O"_s));
+        quit.setShortcut(QKeySequence(u"Ctrl+Q"_s));
         window.addAction(&action);
         window.addAction(&quit);
         window.show();
@@ -120,11 +121,9 @@ class BusySheetTest : public QObject {
 
     void itSaysWhichFileIsWrittenAndHowManyAreDone() {
         Covered covered;
-        covered.sheet.setFile(QStringLiteral("a<b>.txt"), 2, 5);
-        QCOMPARE(covered.sheet.findChild<QLabel *>(QStringLiteral("busyFile"))->text(),
-                 QStringLiteral("a<b>.txt"));
-        QCOMPARE(covered.sheet.findChild<QLabel *>(QStringLiteral("busyCount"))->text(),
-                 QStringLiteral("2 of 5 done"));
+        covered.sheet.setFile(u"a<b>.txt"_s, 2, 5);
+        QCOMPARE(covered.sheet.findChild<QLabel *>(u"busyFile"_s)->text(), u"a<b>.txt"_s);
+        QCOMPARE(covered.sheet.findChild<QLabel *>(u"busyCount"_s)->text(), u"2 of 5 done"_s);
     }
 };
 

@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <memory>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -48,7 +49,7 @@ QString photo(const TestWindow &w, const QString &name) {
 void addTexts(TestWindow &w, int count) {
     QStringList paths;
     for (int i = 0; i < count; ++i) {
-        paths += w.file(QStringLiteral("%1.txt").arg(i, 3, 10, QLatin1Char('0')),
+        paths += w.file(u"%1.txt"_s.arg(i, 3, 10, QLatin1Char('0')),
                         QByteArray("number ") + QByteArray::number(i) + "\n");
     }
     w.ctrl.addFiles(paths, -1);
@@ -122,12 +123,12 @@ QRect redPart(const QImage &picture) {
 }
 
 QString outPath(const TestWindow &w, const QString &name) {
-    return w.path(QStringLiteral("out/") + name);
+    return w.path(u"out/"_s + name);
 }
 
 /// Everything in the output folder, hidden files too.
 QString outNames(const TestWindow &w) {
-    return QDir(w.path(QStringLiteral("out")))
+    return QDir(w.path(u"out"_s))
         .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                    QDir::Name)
         .join(u' ');
@@ -150,16 +151,15 @@ class ConvertingFilesTest : public QObject {
 
     void eachFileBecomesAPdfOfItsOwnWithALinkToIt() {
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"), "first text\n"),
-                         picture(w, QStringLiteral("p.png")),
-                         w.file(QStringLiteral("b.txt"), "second text\n")},
+        w.ctrl.addFiles({w.file(u"a.txt"_s, "first text\n"), picture(w, u"p.png"_s),
+                         w.file(u"b.txt"_s, "second text\n")},
                         -1);
         run(w);
-        QCOMPARE(outNames(w), QStringLiteral("a.pdf b.pdf p.pdf"));
-        QCOMPARE(w.states(), QStringLiteral("a.pdf p.pdf b.pdf"));
-        QCOMPARE(textOf(w, QStringLiteral("a.pdf")), QStringLiteral("first text"));
-        QCOMPARE(textOf(w, QStringLiteral("b.pdf")), QStringLiteral("second text"));
-        QCOMPARE(PdfProbe(outPath(w, QStringLiteral("p.pdf"))).images().size(), 1);
+        QCOMPARE(outNames(w), u"a.pdf b.pdf p.pdf"_s);
+        QCOMPARE(w.states(), u"a.pdf p.pdf b.pdf"_s);
+        QCOMPARE(textOf(w, u"a.pdf"_s), u"first text"_s);
+        QCOMPARE(textOf(w, u"b.pdf"_s), u"second text"_s);
+        QCOMPARE(PdfProbe(outPath(w, u"p.pdf"_s)).images().size(), 1);
         for (int row = 0; row < 3; ++row) {
             QCOMPARE(w.ctrl.filesArray().at(row).stateIndex(), int(FinishedAsLink));
         }
@@ -193,22 +193,22 @@ class ConvertingFilesTest : public QObject {
 
     void aDestinationThatAShellWouldMisreadOpensWithoutOne() {
         TestWindow w;
-        const QString name = QStringLiteral("a \"quoted\" name");
-        w.ctrl.addFiles({w.file(name + QStringLiteral(".txt"))}, -1);
+        const QString name = u"a \"quoted\" name"_s;
+        w.ctrl.addFiles({w.file(name + u".txt"_s)}, -1);
         run(w);
-        QCOMPARE(outNames(w), name + QStringLiteral(".pdf"));
+        QCOMPARE(outNames(w), name + u".pdf"_s);
         w.ctrl.clickedDest(0);
-        QCOMPARE(w.desktop.files, QStringList(outPath(w, name + QStringLiteral(".pdf"))));
+        QCOMPARE(w.desktop.files, QStringList(outPath(w, name + u".pdf"_s)));
         QCOMPARE(w.desktop.commands, QList<QByteArray>());
     }
 
     void thePageOfATextIsAsItsFieldsSay() {
         TestWindow w;
         setPages(w);
-        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"), QByteArray(4000, 'x'))}, -1);
+        w.ctrl.addFiles({w.file(u"a.txt"_s, QByteArray(4000, 'x'))}, -1);
         run(w);
-        const PdfProbe pdf(outPath(w, QStringLiteral("a.pdf")));
-        QCOMPARE(pdf.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 300, 400));
+        const PdfProbe pdf(outPath(w, u"a.pdf"_s));
+        QCOMPARE(pdf.box(u"MediaBox"_s, 1), QRectF(0, 0, 300, 400));
         const QList<QPointF> places = pdf.characterOrigins(1);
         QVERIFY(places.size() > 100);
         const auto nextRow = std::ranges::find_if(
@@ -230,32 +230,31 @@ class ConvertingFilesTest : public QObject {
         TestWindow w;
         setPages(w);
         addTexts(w, 1);
-        w.control<QLineEdit>("m_tfTextPageMarginBottom")->setText(QStringLiteral("257"));
+        w.control<QLineEdit>("m_tfTextPageMarginBottom")->setText(u"257"_s);
         w.press("m_btnCreate");
-        QCOMPARE(w.messages(),
-                 QStringList(QStringLiteral("Invalid page margin value in text output setting.")));
+        QCOMPARE(w.messages(), QStringList(u"Invalid page margin value in text output setting."_s));
     }
 
     void thePageOfAPictureIsAsItsFieldsSay() {
         TestWindow w;
         setPages(w);
-        w.ctrl.addFiles({writePng(w.path(QStringLiteral("p.png")), 300, 200)}, -1);
+        w.ctrl.addFiles({writePng(w.path(u"p.png"_s), 300, 200)}, -1);
         run(w);
-        const PdfProbe pdf(outPath(w, QStringLiteral("p.pdf")));
-        QCOMPARE(pdf.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 500, 700));
+        const PdfProbe pdf(outPath(w, u"p.pdf"_s));
+        QCOMPARE(pdf.box(u"MediaBox"_s, 1), QRectF(0, 0, 500, 700));
         // As wide as the 420 points between the margins; of the 550 in height 270 are left over.
         QCOMPARE(redPart(pdf.renderWithMutool(1)), QRect(25, 45 + 135, 420, 280));
     }
 
     void takenNamesGetNumbers() {
         TestWindow w;
-        w.file(QStringLiteral("out/000.pdf"), "mine");
+        w.file(u"out/000.pdf"_s, "mine");
         addTexts(w, 1);
-        w.ctrl.addFiles({w.path(QStringLiteral("000.txt"))}, -1);
+        w.ctrl.addFiles({w.path(u"000.txt"_s)}, -1);
         run(w);
-        QCOMPARE(outNames(w), QStringLiteral("000(1).pdf 000(2).pdf 000.pdf"));
-        QCOMPARE(w.states(), QStringLiteral("000(1).pdf 000(2).pdf"));
-        QFile mine(outPath(w, QStringLiteral("000.pdf")));
+        QCOMPARE(outNames(w), u"000(1).pdf 000(2).pdf 000.pdf"_s);
+        QCOMPARE(w.states(), u"000(1).pdf 000(2).pdf"_s);
+        QFile mine(outPath(w, u"000.pdf"_s));
         QVERIFY(mine.open(QIODevice::ReadOnly));
         QCOMPARE(mine.readAll(), QByteArray("mine"));
     }
@@ -265,48 +264,45 @@ class ConvertingFilesTest : public QObject {
         addTexts(w, 3);
         w.select({2});
         w.ctrl.clickMenuMoveUp();
-        mergeInto(w, QStringLiteral("report"));
+        mergeInto(w, u"report"_s);
         run(w);
-        QCOMPARE(outNames(w), QStringLiteral("report.pdf"));
-        QCOMPARE(textOf(w, QStringLiteral("report.pdf")),
-                 QStringLiteral("number 0 number 2 number 1"));
-        QCOMPARE(w.states(), QStringLiteral("Finished Finished Finished"));
+        QCOMPARE(outNames(w), u"report.pdf"_s);
+        QCOMPARE(textOf(w, u"report.pdf"_s), u"number 0 number 2 number 1"_s);
+        QCOMPARE(w.states(), u"Finished Finished Finished"_s);
     }
 
     void anExtensionInCapitalsIsKept() {
         TestWindow w;
         addTexts(w, 1);
-        mergeInto(w, QStringLiteral("report.PDF"));
+        mergeInto(w, u"report.PDF"_s);
         run(w);
-        QCOMPARE(outNames(w), QStringLiteral("report.PDF"));
+        QCOMPARE(outNames(w), u"report.PDF"_s);
     }
 
     void aMergedNameThatIsTakenIsRefused() {
         TestWindow w;
         addTexts(w, 1);
-        w.file(QStringLiteral("out/report.pdf"), "mine");
-        mergeInto(w, QStringLiteral("report"));
+        w.file(u"out/report.pdf"_s, "mine");
+        mergeInto(w, u"report"_s);
         w.press("m_btnCreate");
         QVERIFY(!w.ctrl.isConverting());
-        QCOMPARE(w.messages(),
-                 QStringList(QStringLiteral("File name already exists in output folder, please "
-                                            "input another name.")));
+        QCOMPARE(w.messages(), QStringList(u"File name already exists in output folder, please "
+                                           "input another name."_s));
     }
 
     void aMergedNameThatIsTakenMeanwhileIsNeverReplaced() {
         TestWindow w;
         addTexts(w, 2);
-        mergeInto(w, QStringLiteral("report"));
+        mergeInto(w, u"report"_s);
         // The states are set after the checks and before the file is begun.
         connect(&w.ctrl.filesArray(), &QAbstractItemModel::dataChanged, this,
-                [&w] { w.file(QStringLiteral("out/report.pdf"), "someone else's"); });
+                [&w] { w.file(u"out/report.pdf"_s, "someone else's"); });
         run(w);
-        QCOMPARE(w.messages(),
-                 QStringList(QStringLiteral("File name already exists in output folder, please "
-                                            "input another name.")));
-        QCOMPARE(outNames(w), QStringLiteral("report.pdf"));
-        QCOMPARE(QFileInfo(outPath(w, QStringLiteral("report.pdf"))).size(), 14);
-        QCOMPARE(w.states(), QStringLiteral("Waiting... Waiting..."));
+        QCOMPARE(w.messages(), QStringList(u"File name already exists in output folder, please "
+                                           "input another name."_s));
+        QCOMPARE(outNames(w), u"report.pdf"_s);
+        QCOMPARE(QFileInfo(outPath(w, u"report.pdf"_s)).size(), 14);
+        QCOMPARE(w.states(), u"Waiting... Waiting..."_s);
     }
 
     void whatIsMissingIsAskedForInItsOrder() {
@@ -316,20 +312,18 @@ class ConvertingFilesTest : public QObject {
         w.control<QCheckBox>("m_btnCheckUserPassword")->setChecked(true);
         w.control<QLineEdit>("m_tfOutputFolder")->clear();
         w.press("m_btnCreate");
-        w.control<QLineEdit>("m_tfOutputFolder")->setText(w.path(QStringLiteral("missing")));
+        w.control<QLineEdit>("m_tfOutputFolder")->setText(w.path(u"missing"_s));
         w.press("m_btnCreate");
-        w.control<QLineEdit>("m_tfOutputFolder")->setText(w.path(QStringLiteral("out")));
+        w.control<QLineEdit>("m_tfOutputFolder")->setText(w.path(u"out"_s));
         w.press("m_btnCreate");
         w.control<QCheckBox>("m_btnCheckUserPassword")->setChecked(false);
         w.press("m_btnCreate");
         QCOMPARE(
             w.messages(),
-            (QStringList{
-                QStringLiteral("Please select an output folder to store the output documents."),
-                QStringLiteral("Selected output folder does not exist or is not writable. "
-                               "Click \"OK\" to select another folder."),
-                QStringLiteral("Please input user password."),
-                QStringLiteral("Please input output file name.")}));
+            (QStringList{u"Please select an output folder to store the output documents."_s,
+                         u"Selected output folder does not exist or is not writable. "
+                         "Click \"OK\" to select another folder."_s,
+                         u"Please input user password."_s, u"Please input output file name."_s}));
         QCOMPARE(outNames(w), QString());
     }
 
@@ -337,10 +331,9 @@ class ConvertingFilesTest : public QObject {
         QTest::addColumn<QString>("password");
         QTest::addColumn<QString>("message");
         QTest::newRow("128 bytes")
-            << QString(128, u'x') << QStringLiteral("The password is longer than 127 bytes.");
+            << QString(128, u'x') << u"The password is longer than 127 bytes."_s;
         QTest::newRow("private use")
-            << QStringLiteral("a\uE000")
-            << QStringLiteral("The password contains a character that passwords cannot have.");
+            << u"a\uE000"_s << u"The password contains a character that passwords cannot have."_s;
     }
 
     void aPasswordThatNoDocumentCanHaveIsRefused() {
@@ -358,14 +351,14 @@ class ConvertingFilesTest : public QObject {
 
     void aPasswordProtectsTheDocumentAndStaysInMemory() {
         TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
-        const QString password = QStringLiteral("correct horse battery");
-        w.ctrl.addFiles({photo(w, QStringLiteral("photo.jpg"))}, -1);
+        const QString password = u"correct horse battery"_s;
+        w.ctrl.addFiles({photo(w, u"photo.jpg"_s)}, -1);
         w.control<QCheckBox>("m_btnCheckUserPassword")->setChecked(true);
         w.control<QLineEdit>("m_tfUserPassword")->setText(password);
         w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(3);
         run(w);
-        QVERIFY(PdfProbe(outPath(w, QStringLiteral("photo.pdf")), password).isValid());
-        QVERIFY(!PdfProbe(outPath(w, QStringLiteral("photo.pdf"))).isValid());
+        QVERIFY(PdfProbe(outPath(w, u"photo.pdf"_s), password).isValid());
+        QVERIFY(!PdfProbe(outPath(w, u"photo.pdf"_s)).isValid());
         w.syncSettings();
         QDirIterator files(w.home.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         while (files.hasNext()) {
@@ -378,8 +371,8 @@ class ConvertingFilesTest : public QObject {
     void aFileThatFailsKeepsWaitingAndTheOthersGoOn_data() {
         QTest::addColumn<bool>("merge");
         QTest::addColumn<QString>("states");
-        QTest::newRow("single") << false << QStringLiteral("000.pdf Waiting... 001.pdf");
-        QTest::newRow("merge") << true << QStringLiteral("Finished Waiting... Finished");
+        QTest::newRow("single") << false << u"000.pdf Waiting... 001.pdf"_s;
+        QTest::newRow("merge") << true << u"Finished Waiting... Finished"_s;
     }
 
     void aFileThatFailsKeepsWaitingAndTheOthersGoOn() {
@@ -387,14 +380,13 @@ class ConvertingFilesTest : public QObject {
         QFETCH(const QString, states);
         TestWindow w;
         addTexts(w, 2);
-        w.ctrl.addFiles({w.file(QStringLiteral("broken.png"), "no picture")}, 1);
+        w.ctrl.addFiles({w.file(u"broken.png"_s, "no picture")}, 1);
         if (merge) {
-            mergeInto(w, QStringLiteral("all"));
+            mergeInto(w, u"all"_s);
         }
         run(w);
         QCOMPARE(w.states(), states);
-        QCOMPARE(outNames(w),
-                 merge ? QStringLiteral("all.pdf") : QStringLiteral("000.pdf 001.pdf"));
+        QCOMPARE(outNames(w), merge ? u"all.pdf"_s : u"000.pdf 001.pdf"_s);
         QCOMPARE(w.messages(), QStringList());
     }
 
@@ -403,9 +395,9 @@ class ConvertingFilesTest : public QObject {
         addTexts(w, 2);
         run(w);
         w.press("m_btnCreate");
-        QCOMPARE(w.states(), QStringLiteral("Waiting... Waiting..."));
+        QCOMPARE(w.states(), u"Waiting... Waiting..."_s);
         waitForTheEnd(w);
-        QCOMPARE(w.states(), QStringLiteral("000(1).pdf 001(1).pdf"));
+        QCOMPARE(w.states(), u"000(1).pdf 001(1).pdf"_s);
     }
 
     void theBusySheetCoversTheWindowForTheWholeRun() {
@@ -416,8 +408,8 @@ class ConvertingFilesTest : public QObject {
         QStringList said;
         connect(&w.ctrl.filesArray(), &QAbstractItemModel::dataChanged, this, [&] {
             if (sheet->isVisible()) {
-                said += sheet->findChild<QLabel *>(QStringLiteral("busyFile"))->text() + u' ' +
-                        sheet->findChild<QLabel *>(QStringLiteral("busyCount"))->text();
+                said += sheet->findChild<QLabel *>(u"busyFile"_s)->text() + u' ' +
+                        sheet->findChild<QLabel *>(u"busyCount"_s)->text();
             }
         });
         w.press("m_btnCreate");
@@ -428,8 +420,7 @@ class ConvertingFilesTest : public QObject {
         QVERIFY(!w.control<QWidget>("m_lbProgress")->isVisible());
         QVERIFY(!w.control<QWidget>("m_prgCreate")->isVisible());
         for (const QString &line :
-             {QStringLiteral("000.pdf 0 of 3 done"), QStringLiteral("000.pdf 1 of 3 done"),
-              QStringLiteral("002.pdf 3 of 3 done")}) {
+             {u"000.pdf 0 of 3 done"_s, u"000.pdf 1 of 3 done"_s, u"002.pdf 3 of 3 done"_s}) {
             QVERIFY2(said.contains(line), qPrintable(said.join(u'\n')));
         }
     }
@@ -447,34 +438,34 @@ class ConvertingFilesTest : public QObject {
         w.ctrl.clickBtnRemove();
         w.ctrl.clickBtnClear();
         w.ctrl.clickMenuMoveDown();
-        w.ctrl.addFiles({w.path(QStringLiteral("000.txt"))}, -1);
+        w.ctrl.addFiles({w.path(u"000.txt"_s)}, -1);
         w.ctrl.clickBtnCreate();
         waitForTheEnd(w);
-        QCOMPARE(w.names(), QStringLiteral("000.txt 001.txt 002.txt"));
+        QCOMPARE(w.names(), u"000.txt 001.txt 002.txt"_s);
         QCOMPARE(w.ctrl.filesArray().selectedRows(), std::vector<int>{0});
-        QCOMPARE(outNames(w), QStringLiteral("000.pdf 001.pdf 002.pdf"));
+        QCOMPARE(outNames(w), u"000.pdf 001.pdf 002.pdf"_s);
         QVERIFY(w.ctrl.canEditList());
     }
 
     void settingsChangedDuringARunDoNotReachIt() {
         TestWindow w;
         addTexts(w, 3);
-        w.control<QLineEdit>("m_tfTitle")->setText(QStringLiteral("before"));
+        w.control<QLineEdit>("m_tfTitle")->setText(u"before"_s);
         w.press("m_btnCreate");
-        w.control<QLineEdit>("m_tfTitle")->setText(QStringLiteral("after"));
+        w.control<QLineEdit>("m_tfTitle")->setText(u"after"_s);
         w.control<QCheckBox>("m_btnMerge")->setChecked(true);
         waitForTheEnd(w);
-        QCOMPARE(outNames(w), QStringLiteral("000.pdf 001.pdf 002.pdf"));
+        QCOMPARE(outNames(w), u"000.pdf 001.pdf 002.pdf"_s);
         for (const char *name : {"000.pdf", "001.pdf", "002.pdf"}) {
             const PdfProbe pdf(outPath(w, QString::fromLatin1(name)));
-            QCOMPARE(pdf.info(QStringLiteral("Title")), QStringLiteral("before"));
+            QCOMPARE(pdf.info(u"Title"_s), u"before"_s);
         }
     }
 
     void pagesFillTheFirstHalfOfTheBar() {
         TestWindow w;
         addTexts(w, 4);
-        mergeInto(w, QStringLiteral("all"));
+        mergeInto(w, u"all"_s);
         auto *bar = w.control<QProgressBar>("m_prgCreate");
         bar->setValue(99);
         const QSignalSpy values(bar, &QProgressBar::valueChanged);
@@ -495,15 +486,15 @@ class ConvertingFilesTest : public QObject {
     void theCompressMethodShrinksThePicturesOfTheFinishedPdf() {
         QFETCH(const bool, merge);
         TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
-        w.ctrl.addFiles({photo(w, QStringLiteral("photo.jpg"))}, -1);
-        mergeInto(w, QStringLiteral("all"));
+        w.ctrl.addFiles({photo(w, u"photo.jpg"_s)}, -1);
+        mergeInto(w, u"all"_s);
         w.control<QCheckBox>("m_btnMerge")->setChecked(merge);
-        const QString plain = merge ? QStringLiteral("all.pdf") : QStringLiteral("photo.pdf");
-        const QString small = merge ? QStringLiteral("small.pdf") : QStringLiteral("photo(1).pdf");
+        const QString plain = merge ? u"all.pdf"_s : u"photo.pdf"_s;
+        const QString small = merge ? u"small.pdf"_s : u"photo(1).pdf"_s;
         run(w);
         const qint64 before = QFileInfo(outPath(w, plain)).size();
 
-        w.control<QLineEdit>("m_tfOutputName")->setText(QStringLiteral("small"));
+        w.control<QLineEdit>("m_tfOutputName")->setText(u"small"_s);
         w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(1);
         const QSignalSpy values(w.control<QProgressBar>("m_prgCreate"),
                                 &QProgressBar::valueChanged);
@@ -513,14 +504,14 @@ class ConvertingFilesTest : public QObject {
         QVERIFY(pdf.isValid());
         QCOMPARE(pdf.images().size(), 1);
         QCOMPARE(values.last().front().toInt(), 100);
-        QCOMPARE(w.states(), merge ? QStringLiteral("Finished") : QStringLiteral("photo(1).pdf"));
+        QCOMPARE(w.states(), merge ? u"Finished"_s : u"photo(1).pdf"_s);
         QCOMPARE(QDir(m_temporaryFolder.path()).entryList(QDir::Files), QStringList());
     }
 
     void pageNotificationsDuringAPassFillTheSecondHalfOfTheBar() {
         TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
         addTexts(w, 4);
-        mergeInto(w, QStringLiteral("all"));
+        mergeInto(w, u"all"_s);
         w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(3);
         auto *bar = w.control<QProgressBar>("m_prgCreate");
         QList<int> shown;
@@ -545,7 +536,7 @@ class ConvertingFilesTest : public QObject {
                              {{NotificationCenter::pageIndexKey(), 3}});
         w.notifications.post(NotificationCenter::compressionCompleted());
         QCOMPARE(bar->value(), before);
-        QCOMPARE(w.states(), QStringLiteral("Waiting..."));
+        QCOMPARE(w.states(), u"Waiting..."_s);
     }
 
     void anEndAnnouncedByOthersDoesNotEndAFileBeingWritten() {
@@ -556,7 +547,7 @@ class ConvertingFilesTest : public QObject {
         w.notifications.post(NotificationCenter::compressionCompleted());
         QVERIFY(w.ctrl.isConverting());
         waitForTheEnd(w);
-        QCOMPARE(w.states(), QStringLiteral("000.pdf 001.pdf 002.pdf"));
+        QCOMPARE(w.states(), u"000.pdf 001.pdf 002.pdf"_s);
     }
 
     void aRunWithoutAFurtherThreadWritesEveryFile() {
@@ -565,8 +556,8 @@ class ConvertingFilesTest : public QObject {
         const NoThreads none(NoThreads::From::AllButQt);
         run(w);
         QVERIFY(none.refused() > 0);
-        QCOMPARE(w.states(), QStringLiteral("000.pdf 001.pdf 002.pdf"));
-        QVERIFY(PdfProbe(w.path(QStringLiteral("out/002.pdf"))).isValid());
+        QCOMPARE(w.states(), u"000.pdf 001.pdf 002.pdf"_s);
+        QVERIFY(PdfProbe(w.path(u"out/002.pdf"_s)).isValid());
     }
 
     void nothingHappensWithoutFiles() {
@@ -593,7 +584,7 @@ class ConvertingFilesTest : public QObject {
         TestWindow w;
         QStringList paths;
         for (int i = 0; i < kFiles; ++i) {
-            paths += w.file(QStringLiteral("%1.txt").arg(i), QByteArray(kBytes, 'x'));
+            paths += w.file(u"%1.txt"_s.arg(i), QByteArray(kBytes, 'x'));
         }
         auto ctrl = std::make_unique<MainWndCtrl>(w.surroundings());
         ctrl->window()->show();

@@ -16,6 +16,8 @@
 #include <cstdlib>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge::test {
 namespace {
 
@@ -56,8 +58,7 @@ QDBusMessage callTo(const DesktopSession::Element &element, const char *interfac
 
 /// What takes the title of a visible window and gives its number.
 QStringList searchFor(const QString &window) {
-    return {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
-            QStringLiteral("^%1$").arg(window)};
+    return {u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"^%1$"_s.arg(window)};
 }
 
 struct Free {
@@ -101,12 +102,10 @@ DesktopSession::~DesktopSession() {
 }
 
 bool DesktopSession::begin() {
-    m_screen.start(QStringLiteral("Xvfb"),
-                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                    QStringLiteral("0"), QStringLiteral("1600x1000x24"),
-                    QStringLiteral("-noreset")});
+    m_screen.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1600x1000x24"_s,
+                               u"-noreset"_s});
     const QByteArray display = firstLine(m_screen);
-    QDir(m_home.path()).mkpath(QStringLiteral("bin"));
+    QDir(m_home.path()).mkpath(u"bin"_s);
     QDir().mkpath(temporaryFolder());
     makeOpener();
 
@@ -116,29 +115,26 @@ bool DesktopSession::begin() {
     };
     set("DISPLAY", u':' + QString::fromLatin1(display));
     set("HOME", m_home.path());
-    set("XDG_CONFIG_HOME", path(QStringLiteral("config")));
+    set("XDG_CONFIG_HOME", path(u"config"_s));
     set("XDG_RUNTIME_DIR", m_home.path());
     set("TMPDIR", temporaryFolder());
-    set("PATH", path(QStringLiteral("bin")) + u':' + qEnvironmentVariable("PATH"));
-    set("QT_QPA_PLATFORM", QStringLiteral("xcb"));
-    set("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", QStringLiteral("1"));
+    set("PATH", path(u"bin"_s) + u':' + qEnvironmentVariable("PATH"));
+    set("QT_QPA_PLATFORM", u"xcb"_s);
+    set("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", u"1"_s);
     // Qt warns of each element that is asked for while its dialog closes.
-    set("QT_LOGGING_RULES", QStringLiteral("qt.accessibility.atspi.warning=false"));
+    set("QT_LOGGING_RULES", u"qt.accessibility.atspi.warning=false"_s);
 
     m_bus.setProcessEnvironment(m_environment);
-    m_bus.start(QStringLiteral("dbus-daemon"),
-                {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                 QStringLiteral("--print-address=1")});
+    m_bus.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
     const QString address = QString::fromLatin1(firstLine(m_bus));
     set("DBUS_SESSION_BUS_ADDRESS", address);
 
-    const QString session = QStringLiteral("session of %1").arg(m_home.path());
-    QDBusInterface launcher(QStringLiteral("org.a11y.Bus"), QStringLiteral("/org/a11y/bus"),
-                            QStringLiteral("org.a11y.Bus"),
+    const QString session = u"session of %1"_s.arg(m_home.path());
+    QDBusInterface launcher(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus"_s,
                             QDBusConnection::connectToBus(address, session));
-    const QDBusReply<QString> bus = launcher.call(QStringLiteral("GetAddress"));
+    const QDBusReply<QString> bus = launcher.call(u"GetAddress"_s);
     QDBusConnection::disconnectFromBus(session);
-    m_accessibilityBus = QStringLiteral("accessibility of %1").arg(m_home.path());
+    m_accessibilityBus = u"accessibility of %1"_s.arg(m_home.path());
     return !display.isEmpty() && bus.isValid() &&
            QDBusConnection::connectToBus(bus.value(), m_accessibilityBus).isConnected();
 }
@@ -154,18 +150,18 @@ void DesktopSession::makeOpener() const {
 
 bool DesktopSession::start(const QString &program, const QString &outputFolder) {
     QDir().mkpath(outputFolder);
-    QDir().mkpath(path(QStringLiteral("config/Vesprin")));
-    writeFile(path(QStringLiteral("config/Vesprin/Folioforge.conf")),
+    QDir().mkpath(path(u"config/Vesprin"_s));
+    writeFile(path(u"config/Vesprin/Folioforge.conf"_s),
               "[General]\nCustomizeOutputDir=" + QFile::encodeName(outputFolder) + '\n');
     m_application.setProcessEnvironment(m_environment);
     m_application.setWorkingDirectory(m_home.path());
     m_application.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_application.start(program, QStringList());
-    return m_application.waitForStarted(kPatience) && find(QStringLiteral("Create")).has_value();
+    return m_application.waitForStarted(kPatience) && find(u"Create"_s).has_value();
 }
 
 QByteArray DesktopSession::opened() const {
-    return readFile(path(QStringLiteral("opened")));
+    return readFile(path(u"opened"_s));
 }
 
 QList<DesktopSession::Element> DesktopSession::children(const Element &parent) const {
@@ -190,9 +186,8 @@ QList<DesktopSession::Element> DesktopSession::children(const Element &parent) c
 
 QString DesktopSession::nameOf(const Element &element) const {
     QDBusMessage call = QDBusMessage::createMethodCall(
-        element.service, element.path.path(), QStringLiteral("org.freedesktop.DBus.Properties"),
-        QStringLiteral("Get"));
-    call.setArguments({atSpi("Accessible"), QStringLiteral("Name")});
+        element.service, element.path.path(), u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    call.setArguments({atSpi("Accessible"), u"Name"_s});
     const QDBusReply<QDBusVariant> reply = QDBusConnection(m_accessibilityBus).call(call);
     return reply.value().variant().toString();
 }
@@ -229,9 +224,9 @@ std::optional<DesktopSession::Element> DesktopSession::search(const Element &roo
 }
 
 std::optional<DesktopSession::Element> DesktopSession::lookUp(const QString &name) const {
-    return search({QStringLiteral("org.a11y.atspi.Registry"),
-                   QDBusObjectPath(QStringLiteral("/org/a11y/atspi/accessible/root"))},
-                  name);
+    return search(
+        {u"org.a11y.atspi.Registry"_s, QDBusObjectPath(u"/org/a11y/atspi/accessible/root"_s)},
+        name);
 }
 
 bool DesktopSession::shows(const QString &name) {
@@ -284,28 +279,28 @@ bool DesktopSession::click(const QString &name) {
     QRect place;
     argument >> place;
     const QPoint middle = place.center();
-    return runOnScreen({QStringLiteral("mousemove"), QString::number(middle.x()),
-                        QString::number(middle.y()), QStringLiteral("click"), QStringLiteral("1")})
+    return runOnScreen({u"mousemove"_s, QString::number(middle.x()), QString::number(middle.y()),
+                        u"click"_s, u"1"_s})
         .has_value();
 }
 
 /// A window that the accessibility bus knows may not be on the screen yet.
 bool DesktopSession::key(const QString &window, const QString &keys) {
-    const QStringList focus = searchFor(window) + QStringList{QStringLiteral("windowfocus")};
+    const QStringList focus = searchFor(window) + QStringList{u"windowfocus"_s};
     return QTest::qWaitFor([&] { return runOnScreen(focus).has_value(); }, kPatience) &&
-           runOnScreen({QStringLiteral("key"), keys}).has_value();
+           runOnScreen({u"key"_s, keys}).has_value();
 }
 
 bool DesktopSession::close(const QString &window) {
     const QByteArray number = runOnScreen(searchFor(window)).value_or(QByteArray()).trimmed();
-    return askToClose(m_environment.value(QStringLiteral("DISPLAY")).toLatin1(), number.toUInt());
+    return askToClose(m_environment.value(u"DISPLAY"_s).toLatin1(), number.toUInt());
 }
 
 /// What xdotool prints; nothing where it fails.
 std::optional<QByteArray> DesktopSession::runOnScreen(const QStringList &arguments) const {
     QProcess tool;
     tool.setProcessEnvironment(m_environment);
-    tool.start(QStringLiteral("xdotool"), arguments);
+    tool.start(u"xdotool"_s, arguments);
     const bool worked = tool.waitForFinished(kPatience) && tool.exitCode() == 0;
     return worked ? std::optional(tool.readAllStandardOutput()) : std::nullopt;
 }

@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMimeData>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -38,8 +39,8 @@ bool dropFiles(TestWindow &w, const QStringList &paths, int row) {
 
 void addFour(TestWindow &w) {
     QStringList paths;
-    for (const QChar letter : QStringLiteral("abcd")) {
-        paths += w.file(letter + QStringLiteral(".txt"));
+    for (const QChar letter : u"abcd"_s) {
+        paths += w.file(letter + u".txt"_s);
     }
     w.ctrl.addFiles(paths, -1);
 }
@@ -80,51 +81,47 @@ class DroppingFilesTest : public QObject {
     void filesGoInWhereTheyAreDroppedInDragOrder() {
         TestWindow w;
         addFour(w);
-        QVERIFY(dropFiles(w,
-                          {w.file(QStringLiteral("z.txt")), w.file(QStringLiteral("x.txt")),
-                           w.file(QStringLiteral("y.txt"))},
-                          2));
-        QCOMPARE(w.names(), QStringLiteral("a.txt b.txt z.txt x.txt y.txt c.txt d.txt"));
-        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5 6 7"));
+        QVERIFY(dropFiles(w, {w.file(u"z.txt"_s), w.file(u"x.txt"_s), w.file(u"y.txt"_s)}, 2));
+        QCOMPARE(w.names(), u"a.txt b.txt z.txt x.txt y.txt c.txt d.txt"_s);
+        QCOMPARE(w.numbers(), u"1 2 3 4 5 6 7"_s);
     }
 
     void filesDroppedBelowTheLastRowAreAppended() {
         TestWindow w;
         addFour(w);
-        QVERIFY(dropFiles(w, {w.file(QStringLiteral("z.txt"))}, -1));
-        QCOMPARE(w.names(), QStringLiteral("a.txt b.txt c.txt d.txt z.txt"));
+        QVERIFY(dropFiles(w, {w.file(u"z.txt"_s)}, -1));
+        QCOMPARE(w.names(), u"a.txt b.txt c.txt d.txt z.txt"_s);
     }
 
     void filesDroppedOnAnEmptyListEnableTheWindow() {
         TestWindow w;
-        QVERIFY(dropFiles(w, {w.file(QStringLiteral("z.txt"))}, -1));
-        QCOMPARE(w.names(), QStringLiteral("z.txt"));
+        QVERIFY(dropFiles(w, {w.file(u"z.txt"_s)}, -1));
+        QCOMPARE(w.names(), u"z.txt"_s);
         QCOMPARE(w.delegate.told, QList{true});
     }
 
     void onlyRecognisedExtensionsAreTaken() {
         TestWindow w;
         addFour(w);
-        QVERIFY(
-            dropFiles(w, {w.file(QStringLiteral("x.TIFF")), w.file(QStringLiteral("y.doc"))}, 1));
-        QCOMPARE(w.names(), QStringLiteral("a.txt x.TIFF b.txt c.txt d.txt"));
+        QVERIFY(dropFiles(w, {w.file(u"x.TIFF"_s), w.file(u"y.doc"_s)}, 1));
+        QCOMPARE(w.names(), u"a.txt x.TIFF b.txt c.txt d.txt"_s);
     }
 
     void aDroppedFolderIsNotScannedAndRefusedAlone() {
         TestWindow w;
-        QDir(w.home.path()).mkdir(QStringLiteral("folder.txt"));
-        w.file(QStringLiteral("folder.txt/inside.txt"));
-        const QString folder = w.path(QStringLiteral("folder.txt"));
+        QDir(w.home.path()).mkdir(u"folder.txt"_s);
+        w.file(u"folder.txt/inside.txt"_s);
+        const QString folder = w.path(u"folder.txt"_s);
         QVERIFY(!dropFiles(w, {folder}, -1));
         QVERIFY(w.ctrl.filesArray().isEmpty());
-        QVERIFY(dropFiles(w, {folder, w.file(QStringLiteral("a.txt"))}, -1));
-        QCOMPARE(w.names(), QStringLiteral("a.txt"));
+        QVERIFY(dropFiles(w, {folder, w.file(u"a.txt"_s)}, -1));
+        QCOMPARE(w.names(), u"a.txt"_s);
     }
 
     void whatDoesNotExistOrIsNotRecognisedIsRefused() {
         TestWindow w;
-        QVERIFY(!dropFiles(w, {w.path(QStringLiteral("gone.txt"))}, -1));
-        QVERIFY(!dropFiles(w, {w.file(QStringLiteral("y.doc"))}, -1));
+        QVERIFY(!dropFiles(w, {w.path(u"gone.txt"_s)}, -1));
+        QVERIFY(!dropFiles(w, {w.file(u"y.doc"_s)}, -1));
         QVERIFY(w.ctrl.filesArray().isEmpty());
         QCOMPARE(w.delegate.told, QList<bool>());
     }
@@ -132,24 +129,24 @@ class DroppingFilesTest : public QObject {
     void anEmptyListOfFilesIsRefused() {
         TestWindow w;
         QMimeData nothing;
-        nothing.setData(QStringLiteral("text/uri-list"), QByteArray());
+        nothing.setData(u"text/uri-list"_s, QByteArray());
         QVERIFY(!drop(w, nothing, -1));
         QMimeData page;
-        page.setUrls({QUrl(QStringLiteral("https://example.org/a.txt"))});
+        page.setUrls({QUrl(u"https://example.org/a.txt"_s)});
         QVERIFY(!drop(w, page, -1));
     }
 
     void foreignDragsAreSwallowed() {
         TestWindow w;
         QMimeData words;
-        words.setText(QStringLiteral("words"));
+        words.setText(u"words"_s);
         QVERIFY(drop(w, words, -1));
         QVERIFY(w.ctrl.filesArray().isEmpty());
     }
 
     void aDroppedPdfThatIsNoneIsReported() {
         TestWindow w;
-        QVERIFY(dropFiles(w, {w.file(QStringLiteral("bad.pdf"), "none")}, -1));
+        QVERIFY(dropFiles(w, {w.file(u"bad.pdf"_s, "none")}, -1));
         QVERIFY(w.ctrl.filesArray().isEmpty());
         QCoreApplication::processEvents();
         QCOMPARE(w.messages().size(), 1);
@@ -167,15 +164,13 @@ class DroppingFilesTest : public QObject {
         addFour(w);
         w.select({1, 2});
         QMenu *menu = openMenu(w, 3);
-        QCOMPARE(enabledOf(*menu),
-                 QStringLiteral("Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
-                                "Sort By Data Modified"));
+        QCOMPARE(enabledOf(*menu), u"Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
+                                   "Sort By Data Modified"_s);
         menu->close();
         w.select({3});
         menu = openMenu(w, 0);
-        QCOMPARE(enabledOf(*menu),
-                 QStringLiteral("Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
-                                "Sort By Data Modified|Move Up"));
+        QCOMPARE(enabledOf(*menu), u"Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
+                                   "Sort By Data Modified|Move Up"_s);
         menu->close();
     }
 
@@ -186,7 +181,7 @@ class DroppingFilesTest : public QObject {
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         QVERIFY(menu);
         QCOMPARE(enabledOf(*menu), QString());
-        QCOMPARE(menu->actions().at(3)->text(), QStringLiteral("Resort By Name"));
+        QCOMPARE(menu->actions().at(3)->text(), u"Resort By Name"_s);
         menu->close();
     }
 
@@ -194,16 +189,16 @@ class DroppingFilesTest : public QObject {
         TestWindow w;
         addFour(w);
         w.select({1});
-        choose(*openMenu(w, 3), QStringLiteral("Move Up"));
-        QCOMPARE(w.names(), QStringLiteral("b.txt a.txt c.txt d.txt"));
-        choose(*openMenu(w, 3), QStringLiteral("Move Down"));
-        choose(*openMenu(w, 3), QStringLiteral("Move Down"));
-        QCOMPARE(w.names(), QStringLiteral("a.txt c.txt b.txt d.txt"));
-        choose(*openMenu(w, 0), QStringLiteral("Sort By Name"));
-        QCOMPARE(w.names(), QStringLiteral("a.txt b.txt c.txt d.txt"));
-        choose(*openMenu(w, 3), QStringLiteral("Remove"));
-        QCOMPARE(w.names(), QStringLiteral("a.txt c.txt d.txt"));
-        choose(*openMenu(w, 0), QStringLiteral("Clear"));
+        choose(*openMenu(w, 3), u"Move Up"_s);
+        QCOMPARE(w.names(), u"b.txt a.txt c.txt d.txt"_s);
+        choose(*openMenu(w, 3), u"Move Down"_s);
+        choose(*openMenu(w, 3), u"Move Down"_s);
+        QCOMPARE(w.names(), u"a.txt c.txt b.txt d.txt"_s);
+        choose(*openMenu(w, 0), u"Sort By Name"_s);
+        QCOMPARE(w.names(), u"a.txt b.txt c.txt d.txt"_s);
+        choose(*openMenu(w, 3), u"Remove"_s);
+        QCOMPARE(w.names(), u"a.txt c.txt d.txt"_s);
+        choose(*openMenu(w, 0), u"Clear"_s);
         QVERIFY(w.ctrl.filesArray().isEmpty());
     }
 

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 using namespace folioforge::test;
 
 namespace {
@@ -21,11 +23,11 @@ QString program() {
 }
 
 QString sourceFolder(const DesktopSession &desktop) {
-    return desktop.path(QStringLiteral("in"));
+    return desktop.path(u"in"_s);
 }
 
 QString outputFolder(const DesktopSession &desktop) {
-    return desktop.path(QStringLiteral("out"));
+    return desktop.path(u"out"_s);
 }
 
 QStringList filesIn(const QString &folder) {
@@ -35,9 +37,8 @@ QStringList filesIn(const QString &folder) {
 /// Adds the file or the folder at `path` through the panel of "Add Files…", and waits until the
 /// list shows `name`.
 bool add(DesktopSession &desktop, const QString &path, const QString &name) {
-    return desktop.press(QStringLiteral("Add Files…")) &&
-           desktop.enter(QStringLiteral("File name:"), path) &&
-           desktop.press(QStringLiteral("Open")) && desktop.find(name).has_value();
+    return desktop.press(u"Add Files…"_s) && desktop.enter(u"File name:"_s, path) &&
+           desktop.press(u"Open"_s) && desktop.find(name).has_value();
 }
 
 /// Whether the application ends well, and soon.
@@ -48,7 +49,7 @@ bool ends(DesktopSession &desktop) {
 }
 
 bool quits(DesktopSession &desktop) {
-    return desktop.key(QStringLiteral("Folioforge"), QStringLiteral("ctrl+q")) && ends(desktop);
+    return desktop.key(u"Folioforge"_s, u"ctrl+q"_s) && ends(desktop);
 }
 
 QList<QByteArray> bytesIn(const QString &folder) {
@@ -75,39 +76,36 @@ void writeNoise(const QString &path, quint32 seed) {
 bool listLetterAndPages(DesktopSession &desktop, const QByteArray &letter) {
     const QString in = sourceFolder(desktop);
     QDir().mkpath(in);
-    writeFile(in + QStringLiteral("/letter.txt"), letter);
-    const QString pages = writePdf(desktop.path(QStringLiteral("pages.pdf")), 2);
-    return desktop.start(program(), outputFolder(desktop)) &&
-           add(desktop, in, QStringLiteral("letter.txt")) &&
-           add(desktop, pages, QStringLiteral("pages.pdf"));
+    writeFile(in + u"/letter.txt"_s, letter);
+    const QString pages = writePdf(desktop.path(u"pages.pdf"_s), 2);
+    return desktop.start(program(), outputFolder(desktop)) && add(desktop, in, u"letter.txt"_s) &&
+           add(desktop, pages, u"pages.pdf"_s);
 }
 
 /// Presses Create and waits until the output folder holds `count` files and the run is over.
 bool create(DesktopSession &desktop, int count) {
-    return desktop.press(QStringLiteral("Create")) &&
+    return desktop.press(u"Create"_s) &&
            QTest::qWaitFor([&] { return filesIn(outputFolder(desktop)).size() == count; },
                            60'000) &&
-           QTest::qWaitFor([&] { return !desktop.shows(QStringLiteral("Creating PDF documents")); },
-                           60'000);
+           QTest::qWaitFor([&] { return !desktop.shows(u"Creating PDF documents"_s); }, 60'000);
 }
 
 /// Fills the source folder with `count` pictures of noise.
 void writePictures(const DesktopSession &desktop, int count) {
     QDir().mkpath(sourceFolder(desktop));
     for (int i = 0; i < count; ++i) {
-        writeNoise(QStringLiteral("%1/noise%2.png").arg(sourceFolder(desktop)).arg(i), quint32(i));
+        writeNoise(u"%1/noise%2.png"_s.arg(sourceFolder(desktop)).arg(i), quint32(i));
     }
 }
 
 /// Starts the application with the pictures of the source folder in its list.
 bool listPictures(DesktopSession &desktop, const QString &out) {
-    return desktop.start(program(), out) &&
-           add(desktop, sourceFolder(desktop), QStringLiteral("noise0.png"));
+    return desktop.start(program(), out) && add(desktop, sourceFolder(desktop), u"noise0.png"_s);
 }
 
 /// Starts a run, waits and quits in the midst of it.
 bool quitsDuringARun(DesktopSession &desktop, const QString &out, int milliseconds) {
-    if (!listPictures(desktop, out) || !desktop.press(QStringLiteral("Create"))) {
+    if (!listPictures(desktop, out) || !desktop.press(u"Create"_s)) {
         return false;
     }
     QTest::qWait(milliseconds);
@@ -117,11 +115,10 @@ bool quitsDuringARun(DesktopSession &desktop, const QString &out, int millisecon
 /// Starts a run into one PDF with the strongest compression. A PDF has its name when it is written
 /// and before the pass begins: waits for that, then for `milliseconds`, and quits.
 bool quitsDuringThePass(DesktopSession &desktop, const QString &out, int milliseconds) {
-    if (!listPictures(desktop, out) || !desktop.press(QStringLiteral("Merge into one PDF")) ||
-        !desktop.press(QStringLiteral("Show options")) ||
-        !desktop.press(QStringLiteral("None")) || // Qt calls a list by its choice here.
-        !desktop.click(QStringLiteral("72 dpi, smallest")) ||
-        !desktop.press(QStringLiteral("Create")) ||
+    if (!listPictures(desktop, out) || !desktop.press(u"Merge into one PDF"_s) ||
+        !desktop.press(u"Show options"_s) ||
+        !desktop.press(u"None"_s) || // Qt calls a list by its choice here.
+        !desktop.click(u"72 dpi, smallest"_s) || !desktop.press(u"Create"_s) ||
         !QTest::qWaitFor([&] { return !filesIn(out).isEmpty(); }, 60'000)) {
         return false;
     }
@@ -161,26 +158,25 @@ void EndToEndTest::filesOfEveryKindBecomeDocumentsThatALinkOpens() {
     DesktopSession desktop;
     QVERIFY(desktop.begin());
     QVERIFY(QDir().mkpath(sourceFolder(desktop)));
-    writePng(sourceFolder(desktop) + QStringLiteral("/picture.png"), 300, 200);
+    writePng(sourceFolder(desktop) + u"/picture.png"_s, 300, 200);
     QVERIFY(listLetterAndPages(desktop, "Good morning from the window\n"));
-    QVERIFY(desktop.press(QStringLiteral("Show options")));
-    QVERIFY(desktop.enter(QStringLiteral("Title"), QStringLiteral("Morning")));
+    QVERIFY(desktop.press(u"Show options"_s));
+    QVERIFY(desktop.enter(u"Title"_s, u"Morning"_s));
     QVERIFY(create(desktop, 3));
     checkDocuments(outputFolder(desktop));
-    checkThatALinkOpens(desktop, QStringLiteral("letter.pdf"));
+    checkThatALinkOpens(desktop, u"letter.pdf"_s);
     QVERIFY(quits(desktop));
 }
 
 void EndToEndTest::checkDocuments(const QString &out) {
-    QCOMPARE(filesIn(out), QStringList({QStringLiteral("letter.pdf"), QStringLiteral("pages.pdf"),
-                                        QStringLiteral("picture.pdf")}));
-    const PdfProbe letter(out + QStringLiteral("/letter.pdf"));
+    QCOMPARE(filesIn(out), QStringList({u"letter.pdf"_s, u"pages.pdf"_s, u"picture.pdf"_s}));
+    const PdfProbe letter(out + u"/letter.pdf"_s);
     QVERIFY(letter.isValid());
-    QCOMPARE(letter.text().trimmed(), QStringLiteral("Good morning from the window"));
-    QCOMPARE(letter.info(QStringLiteral("Title")), QStringLiteral("Morning"));
-    const PdfProbe picture(out + QStringLiteral("/picture.pdf"));
-    QCOMPARE(picture.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 300, 200));
-    QCOMPARE(PdfProbe(out + QStringLiteral("/pages.pdf")).pageCount(), 2);
+    QCOMPARE(letter.text().trimmed(), u"Good morning from the window"_s);
+    QCOMPARE(letter.info(u"Title"_s), u"Morning"_s);
+    const PdfProbe picture(out + u"/picture.pdf"_s);
+    QCOMPARE(picture.box(u"MediaBox"_s, 1), QRectF(0, 0, 300, 200));
+    QCOMPARE(PdfProbe(out + u"/pages.pdf"_s).pageCount(), 2);
 }
 
 void EndToEndTest::checkThatALinkOpens(DesktopSession &desktop, const QString &name) {
@@ -194,11 +190,11 @@ void EndToEndTest::mergedFilesBecomeOneDocument() {
     DesktopSession desktop;
     QVERIFY(desktop.begin());
     QVERIFY(listLetterAndPages(desktop, "Good evening\n"));
-    QVERIFY(desktop.press(QStringLiteral("Merge into one PDF")));
-    QVERIFY(desktop.enter(QStringLiteral("Name of the merged PDF"), QStringLiteral("all")));
+    QVERIFY(desktop.press(u"Merge into one PDF"_s));
+    QVERIFY(desktop.enter(u"Name of the merged PDF"_s, u"all"_s));
     QVERIFY(create(desktop, 1));
-    QCOMPARE(filesIn(outputFolder(desktop)), QStringList{QStringLiteral("all.pdf")});
-    const PdfProbe merged(outputFolder(desktop) + QStringLiteral("/all.pdf"));
+    QCOMPARE(filesIn(outputFolder(desktop)), QStringList{u"all.pdf"_s});
+    const PdfProbe merged(outputFolder(desktop) + u"/all.pdf"_s);
     QVERIFY(merged.isValid());
     QCOMPARE(merged.pageCount(), 3);
 }
@@ -213,10 +209,9 @@ void EndToEndTest::closedDescriptorsAreTakenByNoFile() {
     });
     QVERIFY(desktop.start(program(), outputFolder(desktop)));
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        QCOMPARE(QFile::symLinkTarget(QStringLiteral("/proc/%1/fd/%2")
-                                          .arg(desktop.application().processId())
-                                          .arg(descriptor)),
-                 QStringLiteral("/dev/null"));
+        QCOMPARE(QFile::symLinkTarget(
+                     u"/proc/%1/fd/%2"_s.arg(desktop.application().processId()).arg(descriptor)),
+                 u"/dev/null"_s);
     }
     QVERIFY(quits(desktop));
 }
@@ -233,7 +228,7 @@ void EndToEndTest::closingInTheMidstOfARunLeavesOnlyWholeFiles() {
     const QList<QByteArray> sources = bytesIn(sourceFolder(desktop));
     int cutShort = 0;
     for (int time = 0; time < kTimes; ++time) {
-        const QString out = desktop.path(QStringLiteral("out%1").arg(time));
+        const QString out = desktop.path(u"out%1"_s.arg(time));
         // The moment is the point: any of them, the same ones on every run of the test.
         QVERIFY(quitsDuringARun(desktop, out, random.bounded(300)));
         checkThatOnlyWholeFilesAreLeft(desktop, out);
@@ -252,7 +247,7 @@ void EndToEndTest::closingDuringTheCompressionPassLeavesTheWholeFile() {
     writePictures(desktop, kPictures);
     int cutShort = 0;
     for (int time = 0; time < kTimes; ++time) {
-        const QString out = desktop.path(QStringLiteral("out%1").arg(time));
+        const QString out = desktop.path(u"out%1"_s.arg(time));
         QVERIFY(quitsDuringThePass(desktop, out, 50 * time));
         checkThatOnlyWholeFilesAreLeft(desktop, out);
         const QStringList names = filesIn(out);
@@ -270,9 +265,9 @@ void EndToEndTest::closingTheWindowDuringARunEndsTheApplication() {
     writePictures(desktop, kPictures);
     const QString out = outputFolder(desktop);
     QVERIFY(listPictures(desktop, out));
-    QVERIFY(desktop.press(QStringLiteral("Create")));
+    QVERIFY(desktop.press(u"Create"_s));
     QVERIFY(QTest::qWaitFor([&] { return !filesIn(out).isEmpty(); }, 60'000));
-    QVERIFY(desktop.close(QStringLiteral("Folioforge")));
+    QVERIFY(desktop.close(u"Folioforge"_s));
     QVERIFY(ends(desktop));
     QVERIFY(filesIn(out).size() < kPictures);
     checkThatOnlyWholeFilesAreLeft(desktop, out);

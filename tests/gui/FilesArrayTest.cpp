@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <numeric>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -72,21 +73,21 @@ class FilesArrayTest : public QObject {
         FilesArray files;
         QAbstractItemModelTester tester{&files,
                                         QAbstractItemModelTester::FailureReportingMode::QtTest};
-        FiveFiles() { files.insert(-1, entriesNamed(QStringLiteral("a b c d e").split(u' '))); }
+        FiveFiles() { files.insert(-1, entriesNamed(u"a b c d e"_s.split(u' '))); }
     };
 
   private Q_SLOTS:
     void negativeRowsAppendAndOthersInsertInOrder() {
         FiveFiles list;
-        list.files.insert(-1, entriesNamed({QStringLiteral("f"), QStringLiteral("g")}));
-        list.files.insert(2, entriesNamed({QStringLiteral("x"), QStringLiteral("y")}));
-        QCOMPARE(namesOf(list.files), QStringLiteral("a b x y c d e f g"));
+        list.files.insert(-1, entriesNamed({u"f"_s, u"g"_s}));
+        list.files.insert(2, entriesNamed({u"x"_s, u"y"_s}));
+        QCOMPARE(namesOf(list.files), u"a b x y c d e f g"_s);
     }
 
     void aRowBehindTheEndAppends() {
         FiveFiles list;
-        list.files.insert(99, entriesNamed({QStringLiteral("x")}));
-        QCOMPARE(namesOf(list.files), QStringLiteral("a b c d e x"));
+        list.files.insert(99, entriesNamed({u"x"_s}));
+        QCOMPARE(namesOf(list.files), u"a b c d e x"_s);
     }
 
     void anInsertionOfManyIsAnnouncedOnce() {
@@ -109,14 +110,14 @@ class FilesArrayTest : public QObject {
     void neighboursAreRemovedTogether() {
         FiveFiles list;
         list.files.removeRowsAt(std::vector<int>{1, 2, 3});
-        QCOMPARE(namesOf(list.files), QStringLiteral("a e"));
+        QCOMPARE(namesOf(list.files), u"a e"_s);
     }
 
     void scatteredRowsAreRemovedWithOneAnnouncement() {
         FiveFiles list;
         const QSignalSpy removed(&list.files, &QAbstractItemModel::rowsRemoved);
         list.files.removeRowsAt(std::vector<int>{0, 2, 4});
-        QCOMPARE(namesOf(list.files), QStringLiteral("b d"));
+        QCOMPARE(namesOf(list.files), u"b d"_s);
         QCOMPARE(removed.count(), 1);
     }
 
@@ -127,8 +128,8 @@ class FilesArrayTest : public QObject {
         std::ranges::generate(even, [row = -2]() mutable { return row += 2; });
         files.removeRowsAt(even);
         QCOMPARE(files.count(), 50'000);
-        QCOMPARE(files.at(0).fileName(), QStringLiteral("1"));
-        QCOMPARE(files.at(49'999).fileName(), QStringLiteral("99999"));
+        QCOMPARE(files.at(0).fileName(), u"1"_s);
+        QCOMPARE(files.at(49'999).fileName(), u"99999"_s);
     }
 
     void removalLeavesNothingSelectedAndTheNeighbourCurrent() {
@@ -159,7 +160,7 @@ class FilesArrayTest : public QObject {
         FiveFiles list;
         select(list.files, {0, 3});
         list.files.rearrange(std::vector<std::size_t>{4, 3, 2, 1, 0});
-        QCOMPARE(namesOf(list.files), QStringLiteral("e d c b a"));
+        QCOMPARE(namesOf(list.files), u"e d c b a"_s);
         QCOMPARE(list.files.selectedRows(), (std::vector<int>{1, 4}));
     }
 
@@ -167,11 +168,11 @@ class FilesArrayTest : public QObject {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("to");
         QTest::addColumn<QString>("names");
-        QTest::newRow("up") << 2 << 1 << QStringLiteral("a c b d e");
-        QTest::newRow("down") << 2 << 3 << QStringLiteral("a b d c e");
-        QTest::newRow("to the front") << 4 << 0 << QStringLiteral("e a b c d");
-        QTest::newRow("to the end") << 0 << 4 << QStringLiteral("b c d e a");
-        QTest::newRow("nowhere") << 2 << 2 << QStringLiteral("a b c d e");
+        QTest::newRow("up") << 2 << 1 << u"a c b d e"_s;
+        QTest::newRow("down") << 2 << 3 << u"a b d c e"_s;
+        QTest::newRow("to the front") << 4 << 0 << u"e a b c d"_s;
+        QTest::newRow("to the end") << 0 << 4 << u"b c d e a"_s;
+        QTest::newRow("nowhere") << 2 << 2 << u"a b c d e"_s;
     }
 
     void aMovedEntryStaysSelected() {
@@ -190,7 +191,7 @@ class FilesArrayTest : public QObject {
         list.files.move(4, 0);
         list.files.reindex();
         QCOMPARE(indexesOf(list.files), (QList<int>{1, 2, 3, 4, 5}));
-        QCOMPARE(cell(list.files, 4, FilesArray::NumberColumn).toString(), QStringLiteral("5"));
+        QCOMPARE(cell(list.files, 4, FilesArray::NumberColumn).toString(), u"5"_s);
     }
 
     void selectedRowsAscendWhateverTheOrderOfSelecting() {
@@ -201,16 +202,15 @@ class FilesArrayTest : public QObject {
 
     void cellsShowNumberNameSizeAndState() {
         FilesArray files;
-        PDFFileInfo entry = named(QStringLiteral("report.txt"));
+        PDFFileInfo entry = named(u"report.txt"_s);
         entry.setIndex(7);
-        entry.setFileSize(QStringLiteral("12 KB"));
+        entry.setFileSize(u"12 KB"_s);
         entry.setStateIndex(Waiting);
         files.insert(-1, {entry});
-        QCOMPARE(cell(files, 0, FilesArray::NumberColumn).toString(), QStringLiteral("7"));
-        QCOMPARE(cell(files, 0, FilesArray::NameColumn).toString(), QStringLiteral("report.txt"));
-        QCOMPARE(cell(files, 0, FilesArray::SizeColumn).toString(), QStringLiteral("12 KB"));
-        QCOMPARE(cell(files, 0, FilesArray::DestinationColumn).toString(),
-                 QStringLiteral("Waiting..."));
+        QCOMPARE(cell(files, 0, FilesArray::NumberColumn).toString(), u"7"_s);
+        QCOMPARE(cell(files, 0, FilesArray::NameColumn).toString(), u"report.txt"_s);
+        QCOMPARE(cell(files, 0, FilesArray::SizeColumn).toString(), u"12 KB"_s);
+        QCOMPARE(cell(files, 0, FilesArray::DestinationColumn).toString(), u"Waiting..."_s);
         QVERIFY(!cell(files, 0, FilesArray::DestinationColumn, Qt::FontRole).isValid());
         QVERIFY(!cell(files, 0, FilesArray::DestinationColumn, Qt::ToolTipRole).isValid());
         QVERIFY(!cell(files, 0, FilesArray::DestinationColumn, FilesArray::LinkRole).toBool());
@@ -218,20 +218,19 @@ class FilesArrayTest : public QObject {
 
     void anEntryWithoutStateTextShowsNone() {
         FilesArray files;
-        files.insert(-1, {named(QStringLiteral("a"))});
+        files.insert(-1, {named(u"a"_s)});
         QCOMPARE(cell(files, 0, FilesArray::DestinationColumn).toString(), QString());
     }
 
     void aFinishedEntryIsALinkToItsPdf() {
         FiveFiles list;
-        list.files.setDestFilePathName(1, QStringLiteral("/out/report.pdf"));
+        list.files.setDestFilePathName(1, u"/out/report.pdf"_s);
         list.files.setStateIndex(1, FinishedAsLink);
         const int column = FilesArray::DestinationColumn;
-        QCOMPARE(cell(list.files, 1, column).toString(), QStringLiteral("report.pdf"));
+        QCOMPARE(cell(list.files, 1, column).toString(), u"report.pdf"_s);
         QVERIFY(cell(list.files, 1, column, Qt::FontRole).value<QFont>().underline());
         QCOMPARE(cell(list.files, 1, column, Qt::ForegroundRole).value<QColor>(), QColor(Qt::blue));
-        QCOMPARE(cell(list.files, 1, column, Qt::ToolTipRole).toString(),
-                 QStringLiteral("/out/report.pdf"));
+        QCOMPARE(cell(list.files, 1, column, Qt::ToolTipRole).toString(), u"/out/report.pdf"_s);
         QVERIFY(cell(list.files, 1, column, FilesArray::LinkRole).toBool());
         QVERIFY(!cell(list.files, 1, FilesArray::NameColumn, FilesArray::LinkRole).toBool());
     }
@@ -243,7 +242,7 @@ class FilesArrayTest : public QObject {
         QCOMPARE(changed.count(), 1);
         for (int row = 0; row < 5; ++row) {
             QCOMPARE(cell(list.files, row, FilesArray::DestinationColumn).toString(),
-                     QStringLiteral("Finished"));
+                     u"Finished"_s);
         }
     }
 
@@ -254,7 +253,7 @@ class FilesArrayTest : public QObject {
         for (int column = -1; column <= 4; ++column) {
             titles += files.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
         }
-        QCOMPARE(titles.join(u'|'), QStringLiteral("|No.|Name|Size|Destination|"));
+        QCOMPARE(titles.join(u'|'), u"|No.|Name|Size|Destination|"_s);
     }
 
     void cellsOutsideTheListAreEmpty() {

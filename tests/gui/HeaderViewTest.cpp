@@ -7,6 +7,7 @@
 #include <QTableView>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -124,7 +125,7 @@ class HeaderViewTest : public QObject {
     }
 
     void theTitleIsCentredAndRaisedByFour() {
-        const QString title = QStringLiteral("HHH");
+        const QString title = u"HHH"_s;
         const QImage picture = drawn(3, QRectF(0, 0, 200, 34), title);
         QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
         font.setPixelSize(13);
@@ -139,7 +140,7 @@ class HeaderViewTest : public QObject {
     }
 
     void aTitleWiderThanItsColumnIsCentredWhole() {
-        const QImage picture = drawn(3, QRectF(80, 0, 40, 34), QStringLiteral("HHHHHHHHHHHHHH"));
+        const QImage picture = drawn(3, QRectF(80, 0, 40, 34), u"HHHHHHHHHHHHHH"_s);
         const QRect ink = inkOf(picture);
         QVERIFY(ink.left() < 78);
         QVERIFY(ink.right() > 122);
@@ -157,7 +158,7 @@ class HeaderViewTest : public QObject {
 
     void theWidgetDrawsTheTitlesOfItsTable() {
         QStandardItemModel model(0, 4);
-        model.setHorizontalHeaderLabels({QStringLiteral("HHHH"), {}, {}, {}});
+        model.setHorizontalHeaderLabels({u"HHHH"_s, {}, {}, {}});
         QTableView table;
         table.setHorizontalHeader(new VesprinTableHeaderView(&table));
         table.setModel(&model);

@@ -17,6 +17,7 @@
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -48,7 +49,7 @@ struct Holdings {
 
 /// Resident memory in KB, for the log: it depends on the allocator as well.
 qint64 residentMemory() {
-    QFile status(QStringLiteral("/proc/self/statm"));
+    QFile status(u"/proc/self/statm"_s);
     constexpr int kPageKilobytes = 4;
     return status.open(QIODevice::ReadOnly)
                ? status.readAll().split(' ').value(1).toLongLong() * kPageKilobytes
@@ -60,14 +61,14 @@ struct LongList {
     LongList() {
         QStringList paths;
         for (int i = 0; i < kEntries; ++i) {
-            paths += w.file(QStringLiteral("%1.txt").arg(i), "one line of text\n");
+            paths += w.file(u"%1.txt"_s.arg(i), "one line of text\n");
         }
         w.ctrl.addFiles(paths, -1);
     }
 
     /// Runs once into a folder of its own; what is held afterwards.
     Holdings run() {
-        const QString folder = w.path(QStringLiteral("run%1").arg(++runs));
+        const QString folder = w.path(u"run%1"_s.arg(++runs));
         QDir().mkpath(folder);
         w.control<QLineEdit>("m_tfOutputFolder")->setText(folder);
         w.press("m_btnCreate");
@@ -93,7 +94,7 @@ class LongRunsTest : public QObject {
   private Q_SLOTS:
     /// In memory where the system has such a folder: bringing each PDF to the disk takes long.
     void initTestCase() {
-        const QFileInfo memory(QStringLiteral("/dev/shm"));
+        const QFileInfo memory(u"/dev/shm"_s);
         if (memory.isWritable()) {
             qputenv("TMPDIR", QFile::encodeName(memory.filePath()));
         }

@@ -10,6 +10,7 @@
 #include <QTextDocument>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -27,18 +28,17 @@ QString openedBy(const QByteArray &command, const QString &folder) {
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QProcess shell;
     auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("PATH"),
-                       folder + u':' + environment.value(QStringLiteral("PATH")));
+    environment.insert(u"PATH"_s, folder + u':' + environment.value(u"PATH"_s));
     shell.setProcessEnvironment(environment);
     shell.setWorkingDirectory(folder);
-    shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QFile::decodeName(command)});
+    shell.start(u"/bin/sh"_s, {u"-c"_s, QFile::decodeName(command)});
     return shell.waitForFinished() ? QFile::decodeName(shell.readAllStandardOutput()) : QString();
 }
 
 void writeInputs(const TestWindow &w) {
-    QVERIFY(QDir().mkpath(w.path(QStringLiteral("in"))));
+    QVERIFY(QDir().mkpath(w.path(u"in"_s)));
     for (const QByteArray &name : hostileNames()) {
-        writeFileNamed(QFile::encodeName(w.path(QStringLiteral("in"))) + '/' + name, "words\n");
+        writeFileNamed(QFile::encodeName(w.path(u"in"_s)) + '/' + name, "words\n");
     }
 }
 
@@ -49,7 +49,7 @@ void run(TestWindow &w) {
 
 void removeInputs(const TestWindow &w) {
     // Qt cannot name all of them, nor remove them.
-    runTool(QStringLiteral("rm"), {QStringLiteral("-rf"), w.path(QStringLiteral("in"))});
+    runTool(u"rm"_s, {u"-rf"_s, w.path(u"in"_s)});
 }
 
 } // namespace
@@ -62,7 +62,7 @@ class NamesTest : public QObject {
     void eachFileOfAFolderIsConvertedAndOpened() {
         TestWindow w;
         writeInputs(w);
-        w.notices.setNextFiles({w.path(QStringLiteral("in"))});
+        w.notices.setNextFiles({w.path(u"in"_s)});
         w.ctrl.clickBtnAddFolder();
         QTRY_COMPARE(w.ctrl.filesArray().count(), int(hostileNames().size()));
         run(w);
@@ -70,17 +70,16 @@ class NamesTest : public QObject {
             checkThatItOpens(w, row);
         }
         for (const QByteArray &name : hostileNames()) {
-            QVERIFY(QFile::exists(w.path(QStringLiteral("out/")) + readableBase(name) +
-                                  QStringLiteral(".pdf")));
+            QVERIFY(QFile::exists(w.path(u"out/"_s) + readableBase(name) + u".pdf"_s));
         }
-        QVERIFY(!QFile::exists(w.path(QStringLiteral("pwned"))));
+        QVERIFY(!QFile::exists(w.path(u"pwned"_s)));
         removeInputs(w);
     }
 
     void theTableShowsThemAsPlainTextOnOneLine() {
         TestWindow w;
         writeInputs(w);
-        w.notices.setNextFiles({w.path(QStringLiteral("in"))});
+        w.notices.setNextFiles({w.path(u"in"_s)});
         w.ctrl.clickBtnAddFolder();
         QTRY_VERIFY(w.ctrl.filesArray().count() > 0);
         run(w);
@@ -98,17 +97,16 @@ class NamesTest : public QObject {
 
     void aDroppedFileWhoseNameIsNoTextIsConverted() {
         TestWindow w;
-        writeFileNamed(QFile::encodeName(w.path(QStringLiteral("caf"))) + "\xe9.txt", "words\n");
+        writeFileNamed(QFile::encodeName(w.path(u"caf"_s)) + "\xe9.txt", "words\n");
         QMimeData data;
         data.setUrls(
             {QUrl::fromEncoded("file://" + QFile::encodeName(w.home.path()) + "/caf%E9.txt")});
         QVERIFY(w.ctrl.acceptDrop(data, 0));
-        QCOMPARE(w.names(), QStringLiteral("caf\uFFFD.txt"));
+        QCOMPARE(w.names(), u"caf\uFFFD.txt"_s);
         run(w);
-        const QString output = w.path(QStringLiteral("out/caf\uFFFD.pdf"));
-        QCOMPARE(PdfProbe(output).text().trimmed(), QStringLiteral("words"));
-        runTool(QStringLiteral("sh"),
-                {QStringLiteral("-c"), QStringLiteral("rm \"$0\"/caf*.txt"), w.home.path()});
+        const QString output = w.path(u"out/caf\uFFFD.pdf"_s);
+        QCOMPARE(PdfProbe(output).text().trimmed(), u"words"_s);
+        runTool(u"sh"_s, {u"-c"_s, u"rm \"$0\"/caf*.txt"_s, w.home.path()});
     }
 
     void droppedFilesWhoseNamesReadAlikeStayDifferentFiles() {
@@ -122,25 +120,22 @@ class NamesTest : public QObject {
         QVERIFY(w.ctrl.acceptDrop(data, 0));
         QCOMPARE(w.ctrl.filesArray().count(), 2);
         run(w);
-        QCOMPARE(PdfProbe(w.path(QStringLiteral("out/caf\uFFFD.pdf"))).text().trimmed(),
-                 QStringLiteral("acute"));
-        QCOMPARE(PdfProbe(w.path(QStringLiteral("out/caf\uFFFD(1).pdf"))).text().trimmed(),
-                 QStringLiteral("grave"));
-        runTool(QStringLiteral("sh"),
-                {QStringLiteral("-c"), QStringLiteral("rm \"$0\"/caf*.txt"), w.home.path()});
+        QCOMPARE(PdfProbe(w.path(u"out/caf\uFFFD.pdf"_s)).text().trimmed(), u"acute"_s);
+        QCOMPARE(PdfProbe(w.path(u"out/caf\uFFFD(1).pdf"_s)).text().trimmed(), u"grave"_s);
+        runTool(u"sh"_s, {u"-c"_s, u"rm \"$0\"/caf*.txt"_s, w.home.path()});
     }
 
     void noticesShowThemAsPlainText() {
         QWidget window;
         Notices notices;
         window.show();
-        notices.showSheet(&window, badNotice(QStringLiteral("/<b>bold<b> <img src=x>.pdf")));
+        notices.showSheet(&window, badNotice(u"/<b>bold<b> <img src=x>.pdf"_s));
         const auto *box = window.findChild<QMessageBox *>();
         QVERIFY(box);
         const auto labels = box->findChildren<QLabel *>();
         int naming = 0;
         for (const QLabel *label : labels) {
-            if (label->text().contains(QStringLiteral("<img"))) {
+            if (label->text().contains(u"<img"_s)) {
                 QCOMPARE(label->textFormat(), Qt::PlainText);
                 ++naming;
             }
@@ -149,15 +144,13 @@ class NamesTest : public QObject {
     }
 
   private:
-    static Notice badNotice(const QString &path) {
-        return {QStringLiteral("Fail to import"), QStringLiteral("    ") + path};
-    }
+    static Notice badNotice(const QString &path) { return {u"Fail to import"_s, u"    "_s + path}; }
 
     static void checkToolTip(const QString &tip) {
         if (Qt::mightBeRichText(tip)) {
             QTextDocument document;
             document.setHtml(tip);
-            QVERIFY(document.toPlainText().contains(QStringLiteral("<b>")));
+            QVERIFY(document.toPlainText().contains(u"<b>"_s));
         }
     }
 

@@ -13,12 +13,13 @@
 #include <QTextEdit>
 #include <QTextLayout>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
 namespace {
 
-const Notice kNotice = notice(QStringLiteral("Something to know."));
+const Notice kNotice = notice(u"Something to know."_s);
 
 QMessageBox *boxOf(QWidget &window) {
     return window.findChild<QMessageBox *>();
@@ -50,7 +51,7 @@ class NoticesTest : public QObject {
         QMessageBox *box = boxOf(window);
         QVERIFY(box && box->isVisible());
         QCOMPARE(box->windowModality(), Qt::WindowModal);
-        QCOMPARE(box->text(), QStringLiteral("Notice"));
+        QCOMPARE(box->text(), u"Notice"_s);
         QCOMPARE(box->informativeText(), kNotice.message);
         QCOMPARE(box->buttons().size(), 1);
         QVERIFY(box->button(QMessageBox::Ok));
@@ -61,14 +62,14 @@ class NoticesTest : public QObject {
     void theTextOfANoticeIsNeverReadAsMarkup() {
         QWidget window;
         Notices notices;
-        notices.showSheet(&window, {QStringLiteral("Notice"), QStringLiteral("<b>a</b>.pdf")});
+        notices.showSheet(&window, {u"Notice"_s, u"<b>a</b>.pdf"_s});
         QCOMPARE(boxOf(window)->textFormat(), Qt::PlainText);
     }
 
     void theButtonOfANoticeThatNamesThousandsOfFilesIsOnTheScreen() {
         QWidget window;
         Notices notices;
-        const QString names = QStringLiteral("/a/damaged.pdf\n").repeated(3000);
+        const QString names = u"/a/damaged.pdf\n"_s.repeated(3000);
         QMessageBox *box = exposedBox(notices, window, names);
         QVERIFY(box && box->informativeText() == names);
         const int screen = box->screen()->availableGeometry().height();
@@ -82,7 +83,7 @@ class NoticesTest : public QObject {
     void aNameWithoutAnyBreakIsReadableWhole() {
         QWidget window;
         Notices notices;
-        const QString message = QStringLiteral("Damaged:\n%1.pdf").arg(QString(240, u'W'));
+        const QString message = u"Damaged:\n%1.pdf"_s.arg(QString(240, u'W'));
         const QMessageBox *box = exposedBox(notices, window, message);
         QVERIFY(box);
         const auto *text = box->findChild<QTextEdit *>();
@@ -101,7 +102,7 @@ class NoticesTest : public QObject {
         QWidget window;
         window.show();
         Notices notices;
-        notices.showSheet(&window, notice(QStringLiteral("Many short words. ").repeated(20)));
+        notices.showSheet(&window, notice(u"Many short words. "_s.repeated(20)));
         QVERIFY(!boxOf(window)->findChild<QTextEdit *>());
     }
 
@@ -121,11 +122,11 @@ class NoticesTest : public QObject {
 
     void aPanelIsModalToTheApplication() {
         Notices notices;
-        notices.showPanel({QStringLiteral("Error"), QStringLiteral("Gone.")});
+        notices.showPanel({u"Error"_s, u"Gone."_s});
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         QVERIFY(box);
         QCOMPARE(box->windowModality(), Qt::ApplicationModal);
-        QCOMPARE(box->windowTitle(), QStringLiteral("Error"));
+        QCOMPARE(box->windowTitle(), u"Error"_s);
         QTest::keyClick(box, Qt::Key_Return);
         QTRY_VERIFY(!QApplication::activeModalWidget());
     }
@@ -133,7 +134,7 @@ class NoticesTest : public QObject {
     void aPanelAnsweredInAdvanceGivesItsFilesLater() {
         QWidget window;
         Notices notices;
-        const QStringList files{QStringLiteral("/a"), QStringLiteral("/b")};
+        const QStringList files{u"/a"_s, u"/b"_s};
         notices.setNextFiles(files);
         QStringList chosen;
         notices.showFilePanel(&window, {}, [&](const QStringList &paths) { chosen = paths; });

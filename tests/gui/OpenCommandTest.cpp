@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 class OpenCommandTest : public QObject {
@@ -12,37 +13,34 @@ class OpenCommandTest : public QObject {
 
   private Q_SLOTS:
     void theCommandQuotesThePath() {
-        QCOMPARE(openCommand(QStringLiteral("open"), QStringLiteral("/a b/c.pdf")),
-                 QByteArray("open \"/a b/c.pdf\""));
+        QCOMPARE(openCommand(u"open"_s, u"/a b/c.pdf"_s), QByteArray("open \"/a b/c.pdf\""));
     }
 
     void onlyTheDollarSignIsEscaped() {
-        QCOMPARE(openCommand(QStringLiteral("open"), QStringLiteral("/$HOME/$.pdf")),
+        QCOMPARE(openCommand(u"open"_s, u"/$HOME/$.pdf"_s),
                  QByteArray("open \"/\\$HOME/\\$.pdf\""));
     }
 
     void aDoubleQuoteIsPassedAsItIs() {
-        QCOMPARE(openCommand(QStringLiteral("open"), QStringLiteral("/a\"b.pdf")),
-                 QByteArray("open \"/a\"b.pdf\""));
+        QCOMPARE(openCommand(u"open"_s, u"/a\"b.pdf"_s), QByteArray("open \"/a\"b.pdf\""));
     }
 
     void namesOtherThanASCIIAreTheFileSystemsBytes() {
-        QCOMPARE(openCommand(QStringLiteral("open"), QStringLiteral("/会.pdf")),
-                 QByteArray("open \"/\xe4\xbc\x9a.pdf\""));
+        QCOMPARE(openCommand(u"open"_s, u"/会.pdf"_s), QByteArray("open \"/\xe4\xbc\x9a.pdf\""));
     }
 
     void whatEndsOrEscapesTheQuotesIsNotSafe_data() {
         QTest::addColumn<QString>("path");
         QTest::addColumn<bool>("safe");
-        QTest::newRow("plain") << QStringLiteral("/a/b c.pdf") << true;
-        QTest::newRow("dollar") << QStringLiteral("/a/$(x).pdf") << true;
-        QTest::newRow("single quote, semicolon") << QStringLiteral("/a/b';c.pdf") << true;
-        QTest::newRow("double quote") << QStringLiteral("/a/\".pdf") << false;
-        QTest::newRow("backquote") << QStringLiteral("/a/`x`.pdf") << false;
-        QTest::newRow("backslash") << QStringLiteral("/a/\\.pdf") << false;
-        QTest::newRow("line feed") << QStringLiteral("/a/\n.pdf") << false;
-        QTest::newRow("carriage return") << QStringLiteral("/a/\r.pdf") << false;
-        QTest::newRow("relative") << QStringLiteral("--version/a.pdf") << false;
+        QTest::newRow("plain") << u"/a/b c.pdf"_s << true;
+        QTest::newRow("dollar") << u"/a/$(x).pdf"_s << true;
+        QTest::newRow("single quote, semicolon") << u"/a/b';c.pdf"_s << true;
+        QTest::newRow("double quote") << u"/a/\".pdf"_s << false;
+        QTest::newRow("backquote") << u"/a/`x`.pdf"_s << false;
+        QTest::newRow("backslash") << u"/a/\\.pdf"_s << false;
+        QTest::newRow("line feed") << u"/a/\n.pdf"_s << false;
+        QTest::newRow("carriage return") << u"/a/\r.pdf"_s << false;
+        QTest::newRow("relative") << u"--version/a.pdf"_s << false;
         QTest::newRow("null") << QString(QChar(u'\0')) << false;
     }
 
@@ -55,11 +53,11 @@ class OpenCommandTest : public QObject {
     /// The real shell is the judge of what a path can do in it.
     void aSafePathReachesItsCommandAsOneUnchangedWord_data() {
         QTest::addColumn<QString>("path");
-        QTest::newRow("expansion") << QStringLiteral("/x/$HOME ${PATH}.pdf");
-        QTest::newRow("substitution") << QStringLiteral("/x/$(touch pwned).pdf");
-        QTest::newRow("separators") << QStringLiteral("/x/a; b & c | d > e.pdf");
-        QTest::newRow("patterns") << QStringLiteral("/x/* ? [a] ~ ! #.pdf");
-        QTest::newRow("other scripts") << QStringLiteral("/x/会議 é.pdf");
+        QTest::newRow("expansion") << u"/x/$HOME ${PATH}.pdf"_s;
+        QTest::newRow("substitution") << u"/x/$(touch pwned).pdf"_s;
+        QTest::newRow("separators") << u"/x/a; b & c | d > e.pdf"_s;
+        QTest::newRow("patterns") << u"/x/* ? [a] ~ ! #.pdf"_s;
+        QTest::newRow("other scripts") << u"/x/会議 é.pdf"_s;
     }
 
     void aSafePathReachesItsCommandAsOneUnchangedWord() {
@@ -68,16 +66,15 @@ class OpenCommandTest : public QObject {
         const QTemporaryDir folder;
         QProcess shell;
         shell.setWorkingDirectory(folder.path());
-        const QByteArray command = openCommand(QStringLiteral("printf '<%s>'"), path);
-        shell.start(QStringLiteral("/bin/sh"), {QStringLiteral("-c"), QFile::decodeName(command)});
+        const QByteArray command = openCommand(u"printf '<%s>'"_s, path);
+        shell.start(u"/bin/sh"_s, {u"-c"_s, QFile::decodeName(command)});
         QVERIFY(shell.waitForFinished());
         QCOMPARE(QFile::decodeName(shell.readAllStandardOutput()), u'<' + path + u'>');
         QVERIFY(QDir(folder.path()).isEmpty());
     }
 
     void theVerbIsOneOfTheTwo() {
-        QVERIFY(
-            QStringList({QStringLiteral("open"), QStringLiteral("xdg-open")}).contains(openVerb()));
+        QVERIFY(QStringList({u"open"_s, u"xdg-open"_s}).contains(openVerb()));
     }
 };
 

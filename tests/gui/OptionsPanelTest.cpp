@@ -11,6 +11,7 @@
 #include <QRadioButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -66,15 +67,12 @@ struct Panel {
     MainWndCtrl ctrl{world.surroundings()};
 };
 
-const QStringList kProperties{QStringLiteral("m_tfTitle"), QStringLiteral("m_tfAuthor"),
-                              QStringLiteral("m_tfSubject"), QStringLiteral("m_tfKeywords")};
-const QStringList kPasswordBoxes{QStringLiteral("m_btnCheckUserPassword"),
-                                 QStringLiteral("m_btnCheckOwnerPassword")};
-const QStringList kOwnerControls{QStringLiteral("m_btnCheckAllowPrint"),
-                                 QStringLiteral("m_btnCheckAllowCopy"),
-                                 QStringLiteral("m_tfOwnerPassword")};
-const QStringList kUserControls{QStringLiteral("m_tfUserPassword")};
-const QStringList kSave{QStringLiteral("m_btnSave")};
+const QStringList kProperties{u"m_tfTitle"_s, u"m_tfAuthor"_s, u"m_tfSubject"_s, u"m_tfKeywords"_s};
+const QStringList kPasswordBoxes{u"m_btnCheckUserPassword"_s, u"m_btnCheckOwnerPassword"_s};
+const QStringList kOwnerControls{u"m_btnCheckAllowPrint"_s, u"m_btnCheckAllowCopy"_s,
+                                 u"m_tfOwnerPassword"_s};
+const QStringList kUserControls{u"m_tfUserPassword"_s};
+const QStringList kSave{u"m_btnSave"_s};
 const QStringList kAll = kProperties + kPasswordBoxes + kUserControls + kOwnerControls + kSave;
 
 } // namespace
@@ -88,7 +86,7 @@ class OptionsPanelTest : public QObject {
         QVERIFY(!panel.control<QWidget>("m_optionsDrawer").isVisible());
         QVERIFY(panel.control<QWidget>("m_btnExpand").isVisible());
         QVERIFY(!panel.control<QWidget>("m_btnElapse").isVisible());
-        QCOMPARE(panel.control<QLabel>("m_labelOptions").text(), QStringLiteral("Show Options"));
+        QCOMPARE(panel.control<QLabel>("m_labelOptions").text(), u"Show Options"_s);
     }
 
     void showingThePanelWidensTheWindowToTheRight() {
@@ -98,7 +96,7 @@ class OptionsPanelTest : public QObject {
         QCOMPARE(panel.ctrl.window()->geometry(), before.adjusted(0, 0, 342, 0));
         QVERIFY(!panel.control<QWidget>("m_btnExpand").isVisible());
         QVERIFY(panel.control<QWidget>("m_btnElapse").isVisible());
-        QCOMPARE(panel.control<QLabel>("m_labelOptions").text(), QStringLiteral("Hide Options"));
+        QCOMPARE(panel.control<QLabel>("m_labelOptions").text(), u"Hide Options"_s);
         QCOMPARE(panel.control<QWidget>("optionsPanel").width(), 342);
     }
 
@@ -110,7 +108,7 @@ class OptionsPanelTest : public QObject {
         QTRY_COMPARE(panel.control<OptionsDrawer>("m_optionsDrawer").openWidth(), 0);
         QCOMPARE(panel.ctrl.window()->geometry(), before);
         QVERIFY(panel.control<QWidget>("m_btnExpand").isVisible());
-        QCOMPARE(panel.control<QLabel>("m_labelOptions").text(), QStringLiteral("Show Options"));
+        QCOMPARE(panel.control<QLabel>("m_labelOptions").text(), u"Show Options"_s);
     }
 
     void hidingHalfWayThroughShowingRestoresTheWidthToo() {
@@ -188,10 +186,10 @@ class OptionsPanelTest : public QObject {
     void theValuesOfHiddenViewsAreKept() {
         Panel panel;
         panel.openPanel();
-        panel.type("m_tfImagePageMarginLeft", QStringLiteral("31"));
+        panel.type("m_tfImagePageMarginLeft", u"31"_s);
         panel.press("m_btnTxtSetting");
         panel.press("m_btnImageSetting");
-        QCOMPARE(panel.field("m_tfImagePageMarginLeft").text(), QStringLiteral("31"));
+        QCOMPARE(panel.field("m_tfImagePageMarginLeft").text(), u"31"_s);
     }
 
     void withAnEmptyListPropertiesSecurityAndSaveAreDisabled() {
@@ -222,8 +220,8 @@ class OptionsPanelTest : public QObject {
         Panel panel;
         panel.openSecurity();
         panel.tick("m_btnCheckUserPassword");
-        panel.type("m_tfUserPassword", QStringLiteral("secret"));
-        QCOMPARE(panel.field("m_tfUserPassword").text(), QStringLiteral("secret"));
+        panel.type("m_tfUserPassword", u"secret"_s);
+        QCOMPARE(panel.field("m_tfUserPassword").text(), u"secret"_s);
         panel.tick("m_btnCheckUserPassword");
         QVERIFY(!panel.field("m_tfUserPassword").isEnabled());
         QCOMPARE(panel.field("m_tfUserPassword").text(), QString());
@@ -236,7 +234,7 @@ class OptionsPanelTest : public QObject {
         panel.openSecurity();
         panel.tick("m_btnCheckOwnerPassword");
         panel.tick("m_btnCheckAllowPrint");
-        panel.type("m_tfOwnerPassword", QStringLiteral("secret"));
+        panel.type("m_tfOwnerPassword", u"secret"_s);
         panel.tick("m_btnCheckOwnerPassword");
         QVERIFY(panel.control<QCheckBox>("m_btnCheckAllowPrint").isChecked());
         QVERIFY(!panel.control<QCheckBox>("m_btnCheckAllowPrint").isEnabled());
@@ -246,9 +244,9 @@ class OptionsPanelTest : public QObject {
     void thePermissionBoxesSayWhatATickDoes() {
         Panel panel;
         QCOMPARE(panel.control<QCheckBox>("m_btnCheckAllowPrint").accessibleName(),
-                 QStringLiteral("Refuse printing"));
+                 u"Refuse printing"_s);
         QCOMPARE(panel.control<QCheckBox>("m_btnCheckAllowCopy").accessibleName(),
-                 QStringLiteral("Refuse copying"));
+                 u"Refuse copying"_s);
     }
 
     void onlyTheCustomRowsEnableTheCustomSizes() {
@@ -258,10 +256,10 @@ class OptionsPanelTest : public QObject {
         panel.tick("imageCustom");
         QVERIFY(panel.field("m_tfImageCustomizedPageWidth").isEnabled());
         QVERIFY(panel.field("m_tfImageCustomizedPageHeight").isEnabled());
-        panel.type("m_tfImageCustomizedPageWidth", QStringLiteral("300"));
+        panel.type("m_tfImageCustomizedPageWidth", u"300"_s);
         panel.tick("imageFollows");
         QVERIFY(!panel.field("m_tfImageCustomizedPageWidth").isEnabled());
-        QCOMPARE(panel.field("m_tfImageCustomizedPageWidth").text(), QStringLiteral("300"));
+        QCOMPARE(panel.field("m_tfImageCustomizedPageWidth").text(), u"300"_s);
 
         panel.press("m_btnTxtSetting");
         QVERIFY(!panel.field("m_tfTextCustomizedPageWidth").isEnabled());
@@ -287,8 +285,8 @@ class OptionsPanelTest : public QObject {
         Panel panel;
         panel.openPanel();
         panel.tick("imageCustom");
-        panel.type("m_tfImageCustomizedPageWidth", QStringLiteral("300.7 points"));
-        panel.type("m_tfImageCustomizedPageHeight", QStringLiteral("tall"));
+        panel.type("m_tfImageCustomizedPageWidth", u"300.7 points"_s);
+        panel.type("m_tfImageCustomizedPageHeight", u"tall"_s);
         QCOMPARE(panel.ctrl.getImagePageSize(), QSizeF(300, 0));
     }
 
@@ -296,14 +294,13 @@ class OptionsPanelTest : public QObject {
         Panel panel;
         panel.openPanel();
         panel.press("m_btnTxtSetting");
-        panel.type("m_tfTextPageMarginTop", QStringLiteral("300"));
-        panel.type("m_tfTextPageMarginLeft", QStringLiteral("300"));
+        panel.type("m_tfTextPageMarginTop", u"300"_s);
+        panel.type("m_tfTextPageMarginLeft", u"300"_s);
         QVERIFY(!panel.ctrl.checkTextPageSizeSettings());
         QCOMPARE(panel.world.notices.shown().size(), std::size_t(1));
-        QCOMPARE(panel.lastMessage(),
-                 QStringLiteral("Invalid page margin value in text output setting."));
-        panel.type("m_tfTextPageMarginTop", QStringLiteral("256"));
-        panel.type("m_tfTextPageMarginLeft", QStringLiteral("0"));
+        QCOMPARE(panel.lastMessage(), u"Invalid page margin value in text output setting."_s);
+        panel.type("m_tfTextPageMarginTop", u"256"_s);
+        panel.type("m_tfTextPageMarginLeft", u"0"_s);
         QVERIFY(panel.ctrl.checkTextPageSizeSettings());
         QVERIFY(panel.ctrl.checkImagePageSizeSettings());
         QCOMPARE(panel.world.notices.shown().size(), std::size_t(1));
@@ -316,16 +313,16 @@ class OptionsPanelTest : public QObject {
         panel.tick("m_btnCheckOwnerPassword");
         QVERIFY(!panel.ctrl.checkSecuritySettings());
         QCOMPARE(panel.world.notices.shown().size(), std::size_t(1));
-        QCOMPARE(panel.lastMessage(), QStringLiteral("Please input user password."));
+        QCOMPARE(panel.lastMessage(), u"Please input user password."_s);
     }
 
     void savingDoesNothing() {
         Panel panel;
         panel.ctrl.EnableSettings(true);
         panel.openPanel();
-        panel.type("m_tfTitle", QStringLiteral("A title"));
+        panel.type("m_tfTitle", u"A title"_s);
         panel.press("m_btnSave");
-        QCOMPARE(panel.field("m_tfTitle").text(), QStringLiteral("A title"));
+        QCOMPARE(panel.field("m_tfTitle").text(), u"A title"_s);
         QVERIFY(panel.world.notices.shown().empty());
     }
 };

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -12,8 +13,8 @@ namespace {
 struct FiveFiles : TestWindow {
     FiveFiles() {
         QStringList paths;
-        for (const QChar letter : QStringLiteral("abcde")) {
-            paths += file(letter + QStringLiteral(".txt"));
+        for (const QChar letter : u"abcde"_s) {
+            paths += file(letter + u".txt"_s);
         }
         ctrl.addFiles(paths, -1);
     }
@@ -37,8 +38,8 @@ class OrderingFilesTest : public QObject {
         FiveFiles w;
         w.select({0, 2, 3});
         w.press("m_btnRemove");
-        QCOMPARE(w.names(), QStringLiteral("b.txt e.txt"));
-        QCOMPARE(w.numbers(), QStringLiteral("1 2"));
+        QCOMPARE(w.names(), u"b.txt e.txt"_s);
+        QCOMPARE(w.numbers(), u"1 2"_s);
         QCOMPARE(w.delegate.told.last(), true);
     }
 
@@ -52,11 +53,11 @@ class OrderingFilesTest : public QObject {
 
     void removeWithNothingSelectedOnlyRenumbers() {
         FiveFiles w;
-        w.ctrl.addFiles({w.path(QStringLiteral("a.txt"))}, 0);
-        QCOMPARE(w.numbers(), QStringLiteral("6 1 2 3 4 5"));
+        w.ctrl.addFiles({w.path(u"a.txt"_s)}, 0);
+        QCOMPARE(w.numbers(), u"6 1 2 3 4 5"_s);
         w.select({});
         w.press("m_btnRemove");
-        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5 6"));
+        QCOMPARE(w.numbers(), u"1 2 3 4 5 6"_s);
     }
 
     void removingTheOnlyFileEmptiesTheWindowAsClearDoes_data() {
@@ -68,8 +69,8 @@ class OrderingFilesTest : public QObject {
     void removingTheOnlyFileEmptiesTheWindowAsClearDoes() {
         QFETCH(const QByteArray, button);
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"))}, -1);
-        QCOMPARE(w.control<QLineEdit>("m_tfOutputName")->text(), QStringLiteral("a"));
+        w.ctrl.addFiles({w.file(u"a.txt"_s)}, -1);
+        QCOMPARE(w.control<QLineEdit>("m_tfOutputName")->text(), u"a"_s);
         w.select({0});
         w.press(button);
         QVERIFY(w.ctrl.filesArray().isEmpty());
@@ -90,76 +91,71 @@ class OrderingFilesTest : public QObject {
 
     void namesSortWithoutRegardToCase() {
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("b.txt")), w.file(QStringLiteral("A.txt")),
-                         w.file(QStringLiteral("a.png"))},
-                        -1);
+        w.ctrl.addFiles({w.file(u"b.txt"_s), w.file(u"A.txt"_s), w.file(u"a.png"_s)}, -1);
         w.ctrl.clickMenuResortByName();
-        QCOMPARE(w.names(), QStringLiteral("a.png A.txt b.txt"));
-        QCOMPARE(w.numbers(), QStringLiteral("1 2 3"));
+        QCOMPARE(w.names(), u"a.png A.txt b.txt"_s);
+        QCOMPARE(w.numbers(), u"1 2 3"_s);
         w.ctrl.clickMenuResortByName();
-        QCOMPARE(w.names(), QStringLiteral("a.png A.txt b.txt"));
+        QCOMPARE(w.names(), u"a.png A.txt b.txt"_s);
     }
 
     void sizesSortByBytesOnDiskNotByTheirText() {
         constexpr qsizetype kKilobyte = 1024;
         TestWindow w;
-        const QString ten = w.file(QStringLiteral("ten.txt"), QByteArray(10 * kKilobyte, 'x'));
-        const QString nine = w.file(QStringLiteral("nine.txt"), QByteArray(9 * kKilobyte, 'x'));
-        const QString small = w.file(QStringLiteral("small.txt"), "x");
+        const QString ten = w.file(u"ten.txt"_s, QByteArray(10 * kKilobyte, 'x'));
+        const QString nine = w.file(u"nine.txt"_s, QByteArray(9 * kKilobyte, 'x'));
+        const QString small = w.file(u"small.txt"_s, "x");
         w.ctrl.addFiles({ten, nine, small}, -1);
         w.ctrl.clickMenuResortBySize();
-        QCOMPARE(w.names(), QStringLiteral("small.txt nine.txt ten.txt"));
-        w.file(QStringLiteral("small.txt"), QByteArray(20 * kKilobyte, 'x'));
+        QCOMPARE(w.names(), u"small.txt nine.txt ten.txt"_s);
+        w.file(u"small.txt"_s, QByteArray(20 * kKilobyte, 'x'));
         w.ctrl.clickMenuResortBySize();
-        QCOMPARE(w.names(), QStringLiteral("nine.txt ten.txt small.txt"));
+        QCOMPARE(w.names(), u"nine.txt ten.txt small.txt"_s);
     }
 
     void modificationDatesSortOldestFirst() {
         FiveFiles w;
-        setModified(w.path(QStringLiteral("c.txt")), QDate(2001, 1, 1));
-        setModified(w.path(QStringLiteral("a.txt")), QDate(2003, 1, 1));
-        setModified(w.path(QStringLiteral("b.txt")), QDate(2002, 1, 1));
-        setModified(w.path(QStringLiteral("e.txt")), QDate(2004, 1, 1));
-        setModified(w.path(QStringLiteral("d.txt")), QDate(2005, 1, 1));
+        setModified(w.path(u"c.txt"_s), QDate(2001, 1, 1));
+        setModified(w.path(u"a.txt"_s), QDate(2003, 1, 1));
+        setModified(w.path(u"b.txt"_s), QDate(2002, 1, 1));
+        setModified(w.path(u"e.txt"_s), QDate(2004, 1, 1));
+        setModified(w.path(u"d.txt"_s), QDate(2005, 1, 1));
         w.ctrl.clickMenuResortByDataModified();
-        QCOMPARE(w.names(), QStringLiteral("c.txt b.txt a.txt e.txt d.txt"));
+        QCOMPARE(w.names(), u"c.txt b.txt a.txt e.txt d.txt"_s);
     }
 
     void creationDatesSortOldestFirst() {
         TestWindow w;
-        const QString oldest = w.file(QStringLiteral("b.txt"));
-        const QString middle = w.path(QStringLiteral("a.txt"));
-        const QString newest = w.path(QStringLiteral("c.txt"));
+        const QString oldest = w.file(u"b.txt"_s);
+        const QString middle = w.path(u"a.txt"_s);
+        const QString newest = w.path(u"c.txt"_s);
         const bool middleHasDate = writeFileAfter(oldest, middle);
         const bool hasDates = writeFileAfter(middle, newest) && middleHasDate;
         w.ctrl.addFiles({newest, oldest, middle}, -1);
         w.ctrl.clickMenuResortByDataCreated();
         // Where the file system keeps no dates of creation the order stays.
-        QCOMPARE(w.names(), hasDates ? QStringLiteral("b.txt a.txt c.txt")
-                                     : QStringLiteral("c.txt b.txt a.txt"));
-        QCOMPARE(w.numbers(), QStringLiteral("1 2 3"));
+        QCOMPARE(w.names(), hasDates ? u"b.txt a.txt c.txt"_s : u"c.txt b.txt a.txt"_s);
+        QCOMPARE(w.numbers(), u"1 2 3"_s);
     }
 
     void vanishedFilesComeFirstBySize() {
         FiveFiles w;
-        QFile::remove(w.path(QStringLiteral("d.txt")));
+        QFile::remove(w.path(u"d.txt"_s));
         w.ctrl.clickMenuResortBySize();
-        QCOMPARE(w.names(), QStringLiteral("d.txt a.txt b.txt c.txt e.txt"));
+        QCOMPARE(w.names(), u"d.txt a.txt b.txt c.txt e.txt"_s);
     }
 
     void filesAddedAfterASortStayWhereTheyWereAdded() {
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("c.txt")), w.file(QStringLiteral("b.txt"))}, -1);
+        w.ctrl.addFiles({w.file(u"c.txt"_s), w.file(u"b.txt"_s)}, -1);
         w.ctrl.clickMenuResortByName();
-        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"))}, -1);
-        QCOMPARE(w.names(), QStringLiteral("b.txt c.txt a.txt"));
+        w.ctrl.addFiles({w.file(u"a.txt"_s)}, -1);
+        QCOMPARE(w.names(), u"b.txt c.txt a.txt"_s);
     }
 
     void aSortKeepsTheSelectedFilesSelected() {
         TestWindow w;
-        w.ctrl.addFiles({w.file(QStringLiteral("c.txt")), w.file(QStringLiteral("b.txt")),
-                         w.file(QStringLiteral("a.txt"))},
-                        -1);
+        w.ctrl.addFiles({w.file(u"c.txt"_s), w.file(u"b.txt"_s), w.file(u"a.txt"_s)}, -1);
         w.select({0});
         w.ctrl.clickMenuResortByName();
         QCOMPARE(w.table()->selectedRow(), 2);
@@ -169,8 +165,8 @@ class OrderingFilesTest : public QObject {
         FiveFiles w;
         w.select({2});
         w.ctrl.clickMenuMoveUp();
-        QCOMPARE(w.names(), QStringLiteral("a.txt c.txt b.txt d.txt e.txt"));
-        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5"));
+        QCOMPARE(w.names(), u"a.txt c.txt b.txt d.txt e.txt"_s);
+        QCOMPARE(w.numbers(), u"1 2 3 4 5"_s);
         QCOMPARE(w.table()->selectedRow(), 1);
     }
 
@@ -178,8 +174,8 @@ class OrderingFilesTest : public QObject {
         FiveFiles w;
         w.select({2});
         w.ctrl.clickMenuMoveDown();
-        QCOMPARE(w.names(), QStringLiteral("a.txt b.txt d.txt c.txt e.txt"));
-        QCOMPARE(w.numbers(), QStringLiteral("1 2 3 4 5"));
+        QCOMPARE(w.names(), u"a.txt b.txt d.txt c.txt e.txt"_s);
+        QCOMPARE(w.numbers(), u"1 2 3 4 5"_s);
         QCOMPARE(w.table()->selectedRow(), 3);
     }
 
@@ -187,14 +183,14 @@ class OrderingFilesTest : public QObject {
         TestWindow w;
         QStringList paths;
         for (int i = 0; i < 60; ++i) {
-            paths += w.file(QStringLiteral("%1.txt").arg(i));
+            paths += w.file(u"%1.txt"_s.arg(i));
         }
         w.ctrl.addFiles(paths, -1);
         w.select({0});
         for (int i = 0; i < 59; ++i) {
             w.key(Qt::Key_Down, Qt::AltModifier);
         }
-        QCOMPARE(w.ctrl.filesArray().at(59).fileName(), QStringLiteral("0.txt"));
+        QCOMPARE(w.ctrl.filesArray().at(59).fileName(), u"0.txt"_s);
         QCOMPARE(w.table()->selectedRow(), 59);
         const QRect row = w.table()->visualRect(w.ctrl.filesArray().index(59, 1));
         QVERIFY(w.table()->viewport()->rect().contains(row));
@@ -211,7 +207,7 @@ class OrderingFilesTest : public QObject {
         QVERIFY(w.ctrl.canMoveUp());
         QVERIFY(!w.ctrl.canMoveDown());
         w.ctrl.clickMenuMoveDown();
-        QCOMPARE(w.names(), QStringLiteral("a.txt b.txt c.txt d.txt e.txt"));
+        QCOMPARE(w.names(), u"a.txt b.txt c.txt d.txt e.txt"_s);
     }
 
     void onlyOneSelectedFileCanBeMoved() {
@@ -227,10 +223,10 @@ class OrderingFilesTest : public QObject {
         TestWindow w;
         QVERIFY(!w.ctrl.canRemoveClear());
         QVERIFY(!w.ctrl.canResort());
-        w.ctrl.addFiles({w.file(QStringLiteral("a.txt"))}, -1);
+        w.ctrl.addFiles({w.file(u"a.txt"_s)}, -1);
         QVERIFY(w.ctrl.canRemoveClear());
         QVERIFY(!w.ctrl.canResort());
-        w.ctrl.addFiles({w.file(QStringLiteral("b.txt"))}, -1);
+        w.ctrl.addFiles({w.file(u"b.txt"_s)}, -1);
         QVERIFY(w.ctrl.canResort());
     }
 

@@ -9,13 +9,14 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
 namespace {
 
-const QString kNotWritable = QStringLiteral(
-    "Selected output folder is not writable. Click \"OK\" to select another folder.");
+const QString kNotWritable =
+    u"Selected output folder is not writable. Click \"OK\" to select another folder."_s;
 
 QString shownFolder(MainWndCtrl &ctrl) {
     return controlOf<QLineEdit>(*ctrl.window(), "m_tfOutputFolder").text();
@@ -35,14 +36,14 @@ class OutputFolderTest : public QObject {
     void theFirstRunMakesTheFolderWorldWritableAndStoresIt() {
         WindowWorld world;
         MainWndCtrl ctrl(world.surroundings());
-        const QString folder = world.path(QStringLiteral("Documents/Folioforge"));
+        const QString folder = world.path(u"Documents/Folioforge"_s);
         QCOMPARE(shownFolder(ctrl), folder);
         QVERIFY(QFileInfo(folder).isDir());
         QCOMPARE(int(QFile::permissions(folder)) & 0x7077, 0x7077);
         QCOMPARE(world.storedFolder(), folder);
         // Written to disk at once: another reader of the file sees it.
-        const QSettings other(world.path(QStringLiteral("settings.ini")), QSettings::IniFormat);
-        QCOMPARE(other.value(QStringLiteral("CustomizeOutputDir")).toString(), folder);
+        const QSettings other(world.path(u"settings.ini"_s), QSettings::IniFormat);
+        QCOMPARE(other.value(u"CustomizeOutputDir"_s).toString(), folder);
     }
 
     void theTutorialOpensOnTheFirstRunAlone() {
@@ -53,7 +54,7 @@ class OutputFolderTest : public QObject {
         }
         QCOMPARE(world.desktop.urls.size(), 1);
         const QUrl page = world.desktop.urls.first();
-        QCOMPARE(page.fileName(), QStringLiteral("tutorial.html"));
+        QCOMPARE(page.fileName(), u"tutorial.html"_s);
         QVERIFY(QFileInfo(page.toLocalFile()).isFile());
         MainWndCtrl next(world.surroundings());
         next.window();
@@ -62,7 +63,7 @@ class OutputFolderTest : public QObject {
 
     void aFolderThatIsThereAlreadyKeepsItsMode() {
         WindowWorld world;
-        const QString folder = world.path(QStringLiteral("Documents/Folioforge"));
+        const QString folder = world.path(u"Documents/Folioforge"_s);
         QVERIFY(QDir().mkpath(folder));
         const auto own = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
         QVERIFY(QFile::setPermissions(folder, own));
@@ -74,37 +75,37 @@ class OutputFolderTest : public QObject {
     void aFolderThatCannotBeMadeGivesWayToDocuments() {
         WindowWorld world;
         // A file stands where the folder's parent should be.
-        QFile blocker(world.path(QStringLiteral("Documents")));
+        QFile blocker(world.path(u"Documents"_s));
         QVERIFY(blocker.open(QIODevice::WriteOnly));
         MainWndCtrl ctrl(world.surroundings());
-        QCOMPARE(shownFolder(ctrl), world.path(QStringLiteral("Documents")));
-        QCOMPARE(world.storedFolder(), world.path(QStringLiteral("Documents")));
+        QCOMPARE(shownFolder(ctrl), world.path(u"Documents"_s));
+        QCOMPARE(world.storedFolder(), world.path(u"Documents"_s));
         QVERIFY(world.notices.shown().empty());
     }
 
     void aStoredFolderIsTakenAsItIs() {
         WindowWorld world;
-        world.storeFolder(QStringLiteral("/nowhere/at all"));
+        world.storeFolder(u"/nowhere/at all"_s);
         MainWndCtrl ctrl(world.surroundings());
-        QCOMPARE(shownFolder(ctrl), QStringLiteral("/nowhere/at all"));
+        QCOMPARE(shownFolder(ctrl), u"/nowhere/at all"_s);
         QVERIFY(world.desktop.urls.isEmpty());
-        QVERIFY(!QFileInfo::exists(world.path(QStringLiteral("Documents"))));
+        QVERIFY(!QFileInfo::exists(world.path(u"Documents"_s)));
     }
 
     void aStoredEmptyStringCountsAsMissing() {
         WindowWorld world;
         world.storeFolder(QString());
         MainWndCtrl ctrl(world.surroundings());
-        QCOMPARE(shownFolder(ctrl), world.path(QStringLiteral("Documents/Folioforge")));
+        QCOMPARE(shownFolder(ctrl), world.path(u"Documents/Folioforge"_s));
         QCOMPARE(world.desktop.urls.size(), 1);
     }
 
     void aSettingsFileThatCannotBeWrittenLeavesTheWindowWorking() {
         WindowWorld world;
-        QSettings nowhere(QStringLiteral("/proc/none/settings.ini"), QSettings::IniFormat);
+        QSettings nowhere(u"/proc/none/settings.ini"_s, QSettings::IniFormat);
         MainWndCtrl ctrl({nowhere, world.desktop, world.notices, world.notifications,
                           world.home.path(), WindowWorld::realBundle()});
-        QCOMPARE(shownFolder(ctrl), world.path(QStringLiteral("Documents/Folioforge")));
+        QCOMPARE(shownFolder(ctrl), world.path(u"Documents/Folioforge"_s));
     }
 
     void browsingAsksForOneFolder() {
@@ -117,7 +118,7 @@ class OutputFolderTest : public QObject {
         const FilePanel &panel = world.notices.filePanels().front();
         QVERIFY(panel.chooses == FilePanel::Chooses::Folders);
         QVERIFY(!panel.multiple);
-        QCOMPARE(panel.acceptLabel, QStringLiteral("Save"));
+        QCOMPARE(panel.acceptLabel, u"Save"_s);
     }
 
     void aChosenFolderIsShownAndStored() {
@@ -148,11 +149,11 @@ class OutputFolderTest : public QObject {
         world.storeFolder(world.home.path());
         MainWndCtrl ctrl(world.surroundings());
         ctrl.window();
-        const QString good = world.path(QStringLiteral("good"));
+        const QString good = world.path(u"good"_s);
         QVERIFY(QDir().mkpath(good));
         world.notices.answerNoticesAtOnce();
-        world.notices.setNextFiles({QStringLiteral("/nowhere/a")});
-        world.notices.setNextFiles({QStringLiteral("/nowhere/b")});
+        world.notices.setNextFiles({u"/nowhere/a"_s});
+        world.notices.setNextFiles({u"/nowhere/b"_s});
         world.notices.setNextFiles({good});
         press(ctrl, "m_btnBrowse");
         QVERIFY(QTest::qWaitFor([&] { return shownFolder(ctrl) == good; }));
@@ -166,7 +167,7 @@ class OutputFolderTest : public QObject {
         world.storeFolder(world.home.path());
         MainWndCtrl ctrl(world.surroundings());
         ctrl.window()->show();
-        world.notices.setNextFiles({QStringLiteral("/nowhere/a")});
+        world.notices.setNextFiles({u"/nowhere/a"_s});
         world.notices.setNextFiles({});
         press(ctrl, "m_btnBrowse");
         QVERIFY(QTest::qWaitFor([&] { return ctrl.window()->findChild<QMessageBox *>(); }));
@@ -189,7 +190,7 @@ class OutputFolderTest : public QObject {
 
     void openingAFolderThatIsGoneShowsTheErrorPanel() {
         WindowWorld world;
-        world.storeFolder(QStringLiteral("/nowhere/at all"));
+        world.storeFolder(u"/nowhere/at all"_s);
         world.notices.answerNoticesAtOnce();
         MainWndCtrl ctrl(world.surroundings());
         press(ctrl, "m_btnOpen");
@@ -199,9 +200,8 @@ class OutputFolderTest : public QObject {
         QVERIFY(shown.kind == Notices::Kind::Panel);
         QCOMPARE(
             shown.notice,
-            (Notice{QStringLiteral("Error"),
-                    QStringLiteral("Output folder does not exist, please select another one.")}));
-        QCOMPARE(world.storedFolder(), QStringLiteral("/nowhere/at all"));
+            (Notice{u"Error"_s, u"Output folder does not exist, please select another one."_s}));
+        QCOMPARE(world.storedFolder(), u"/nowhere/at all"_s);
     }
 };
 

@@ -20,6 +20,7 @@
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 /// A desktop that does nothing: taking pictures opens no pages.
@@ -39,7 +40,7 @@ class Photographer {
 
     void take(const QString &name) {
         QTest::qWait(300); // The options panel slides open and shut.
-        m_window.grab().save(m_folder + u'/' + name + m_suffix + QStringLiteral(".png"));
+        m_window.grab().save(m_folder + u'/' + name + m_suffix + u".png"_s);
     }
     void press(const char *button) {
         QTest::mouseClick(m_window.findChild<QWidget *>(QLatin1StringView(button)), Qt::LeftButton);
@@ -52,22 +53,22 @@ class Photographer {
 };
 
 void takeAll(MainWndCtrl &controller, Photographer &photographer, const QStringList &examples) {
-    photographer.take(QStringLiteral("window-empty"));
+    photographer.take(u"window-empty"_s);
     controller.addFiles(examples, -1);
-    photographer.take(QStringLiteral("window-files"));
+    photographer.take(u"window-files"_s);
     photographer.press("m_btnExpand");
-    photographer.take(QStringLiteral("options-image"));
+    photographer.take(u"options-image"_s);
     photographer.press("m_btnTxtSetting");
-    photographer.take(QStringLiteral("options-text"));
+    photographer.take(u"options-text"_s);
     photographer.press("m_btnSecuritySetting");
-    photographer.take(QStringLiteral("options-security"));
+    photographer.take(u"options-security"_s);
     photographer.press("m_btnElapse");
     controller.window()->findChild<QProgressBar *>()->show();
     controller.window()->findChild<QProgressBar *>()->setValue(35);
-    controller.window()->findChild<QWidget *>(QStringLiteral("m_lbProgress"))->show();
+    controller.window()->findChild<QWidget *>(u"m_lbProgress"_s)->show();
     controller.showAlertView();
-    controller.window()->findChild<BusySheet *>()->setFile(QStringLiteral("report.pdf"), 12, 17);
-    photographer.take(QStringLiteral("window-busy"));
+    controller.window()->findChild<BusySheet *>()->setFile(u"report.pdf"_s, 12, 17);
+    photographer.take(u"window-busy"_s);
     controller.hideAlertView();
 }
 
@@ -78,9 +79,8 @@ int main(int argc, char *argv[]) {
     applyLightLook(application);
     const QStringList arguments = QApplication::arguments();
     const QTemporaryDir home;
-    QSettings settings(home.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("CustomizeOutputDir"),
-                      QStringLiteral("/home/you/Documents/Folioforge"));
+    QSettings settings(home.filePath(u"settings.ini"_s), QSettings::IniFormat);
+    settings.setValue(u"CustomizeOutputDir"_s, u"/home/you/Documents/Folioforge"_s);
     StillDesktop desktop;
     Notices notices;
     NotificationCenter notifications;

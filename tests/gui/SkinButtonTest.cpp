@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -71,7 +72,7 @@ class SkinButtonTest : public QObject {
 
     void aButtonWithoutImagesStillFires() {
         SkinButton button;
-        button.setText(QStringLiteral("Plain"));
+        button.setText(u"Plain"_s);
         button.show();
         const QSignalSpy fired(&button, &QAbstractButton::clicked);
         QTest::mouseClick(&button, Qt::LeftButton);
@@ -256,12 +257,12 @@ class SkinButtonTest : public QObject {
 
     void aDrawingKeepsItsSizeAndIsSharpAtTwiceTheScale() {
         const QTemporaryDir folder;
-        QFile file(folder.filePath(QStringLiteral("line.svg")));
+        QFile file(folder.filePath(u"line.svg"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("<svg xmlns='http://www.w3.org/2000/svg' width='20' height='10' "
                    "viewBox='0 0 20 10'><rect x='0.5' width='0.5' height='10'/></svg>");
         file.close();
-        const SkinImage image = SkinImage::named(folder.path(), QStringLiteral("line"));
+        const SkinImage image = SkinImage::named(folder.path(), u"line"_s);
         QCOMPARE(image.size(), QSize(20, 10));
         QImage canvas(40, 20, QImage::Format_RGB32);
         canvas.fill(Qt::white);
@@ -277,13 +278,13 @@ class SkinButtonTest : public QObject {
 
     void aMissingOrDamagedSkinIsEmpty() {
         const QTemporaryDir folder;
-        QVERIFY(SkinImage::named(folder.path(), QStringLiteral("none")).isNull());
-        QFile file(folder.filePath(QStringLiteral("bad.svg")));
+        QVERIFY(SkinImage::named(folder.path(), u"none"_s).isNull());
+        QFile file(folder.filePath(u"bad.svg"_s));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("<svg");
         file.close();
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral(".*")));
-        QVERIFY(SkinImage::named(folder.path(), QStringLiteral("bad")).isNull());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u".*"_s));
+        QVERIFY(SkinImage::named(folder.path(), u"bad"_s).isNull());
     }
 };
 

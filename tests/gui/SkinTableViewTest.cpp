@@ -15,6 +15,7 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -27,19 +28,19 @@ class RecordingDelegate : public SkinTableViewDelegate {
     [[nodiscard]] bool canResort() const override { return resort; }
     [[nodiscard]] bool canMoveUp() const override { return up; }
     [[nodiscard]] bool canMoveDown() const override { return down; }
-    void clickMenuRemove() override { calls += QStringLiteral("remove"); }
-    void clickMenuClear() override { calls += QStringLiteral("clear"); }
-    void clickMenuResortByName() override { calls += QStringLiteral("name"); }
-    void clickMenuResortBySize() override { calls += QStringLiteral("size"); }
-    void clickMenuResortByDataCreated() override { calls += QStringLiteral("created"); }
-    void clickMenuResortByDataModified() override { calls += QStringLiteral("modified"); }
-    void clickMenuMoveUp() override { calls += QStringLiteral("up"); }
-    void clickMenuMoveDown() override { calls += QStringLiteral("down"); }
+    void clickMenuRemove() override { calls += u"remove"_s; }
+    void clickMenuClear() override { calls += u"clear"_s; }
+    void clickMenuResortByName() override { calls += u"name"_s; }
+    void clickMenuResortBySize() override { calls += u"size"_s; }
+    void clickMenuResortByDataCreated() override { calls += u"created"_s; }
+    void clickMenuResortByDataModified() override { calls += u"modified"_s; }
+    void clickMenuMoveUp() override { calls += u"up"_s; }
+    void clickMenuMoveDown() override { calls += u"down"_s; }
     void clickedDest(int row) override {
-        calls += QStringLiteral("dest %1 selected %2").arg(row).arg(table->selectedRow());
+        calls += u"dest %1 selected %2"_s.arg(row).arg(table->selectedRow());
     }
     bool acceptDrop(const QMimeData & /*data*/, int row) override {
-        calls += QStringLiteral("drop %1").arg(row);
+        calls += u"drop %1"_s.arg(row);
         return takesDrops;
     }
 
@@ -65,7 +66,7 @@ struct Window {
         column->addWidget(table);
         column->addWidget(field);
         column->addWidget(combo);
-        combo->addItems({QStringLiteral("None"), QStringLiteral("72 dpi")});
+        combo->addItems({u"None"_s, u"72 dpi"_s});
         window.resize(700, 300);
         window.show();
         table->setFocus();
@@ -99,22 +100,22 @@ struct Window {
 
 /// What the menu says from top to bottom, with the two titles that change.
 QStringList menuTitles(const QString &byName, const QString &bySize) {
-    return {QStringLiteral("Remove"),
-            QStringLiteral("Clear"),
-            QStringLiteral("-"),
+    return {u"Remove"_s,
+            u"Clear"_s,
+            u"-"_s,
             byName,
             bySize,
-            QStringLiteral("Sort By Data Created"),
-            QStringLiteral("Sort By Data Modified"),
-            QStringLiteral("-"),
-            QStringLiteral("Move Up"),
-            QStringLiteral("Move Down")};
+            u"Sort By Data Created"_s,
+            u"Sort By Data Modified"_s,
+            u"-"_s,
+            u"Move Up"_s,
+            u"Move Down"_s};
 }
 
 QStringList titlesOf(const QMenu &menu) {
     QStringList titles;
     for (const QAction *item : menu.actions()) {
-        titles += item->isSeparator() ? QStringLiteral("-") : item->text();
+        titles += item->isSeparator() ? u"-"_s : item->text();
     }
     return titles;
 }
@@ -134,7 +135,7 @@ QMenu *openMenu() {
 
 std::unique_ptr<QMimeData> oneFile() {
     auto data = std::make_unique<QMimeData>();
-    data->setUrls({QUrl::fromLocalFile(QStringLiteral("/a.txt"))});
+    data->setUrls({QUrl::fromLocalFile(u"/a.txt"_s)});
     return data;
 }
 
@@ -161,7 +162,7 @@ class SkinTableViewTest : public QObject {
     void aClickInTheDestinationColumnActsAndThenSelects() {
         Window w(3);
         w.click(Qt::LeftButton, w.middleOf(0, 3));
-        QCOMPARE(w.delegate.calls, QStringList(QStringLiteral("dest 0 selected -1")));
+        QCOMPARE(w.delegate.calls, QStringList(u"dest 0 selected -1"_s));
         QCOMPARE(w.table->selectedRow(), 0);
     }
 
@@ -200,7 +201,7 @@ class SkinTableViewTest : public QObject {
         w.click(Qt::LeftButton, w.middleOf(0, 1));
         w.key(Qt::Key_Down);
         w.key(key, modifiers);
-        QCOMPARE(w.delegate.calls, QStringList(QStringLiteral("dest 1 selected 1")));
+        QCOMPARE(w.delegate.calls, QStringList(u"dest 1 selected 1"_s));
     }
 
     void returnWithAnotherKeyHeldActsOnNothing() {
@@ -224,10 +225,9 @@ class SkinTableViewTest : public QObject {
         w.click(Qt::RightButton, w.middleOf(1, 1));
         const QMenu *menu = openMenu();
         QVERIFY(menu);
-        QCOMPARE(menu->title(), QStringLiteral("Contextual Menu"));
-        QCOMPARE(titlesOf(*menu),
-                 menuTitles(QStringLiteral("Sort By Name"), QStringLiteral("Sort By Size")));
-        QCOMPARE(enabledOf(*menu), QStringLiteral("11-1111-11"));
+        QCOMPARE(menu->title(), u"Contextual Menu"_s);
+        QCOMPARE(titlesOf(*menu), menuTitles(u"Sort By Name"_s, u"Sort By Size"_s));
+        QCOMPARE(enabledOf(*menu), u"11-1111-11"_s);
         for (const QAction *item : menu->actions()) {
             QVERIFY(item->shortcut().isEmpty());
         }
@@ -240,9 +240,8 @@ class SkinTableViewTest : public QObject {
         w.click(Qt::RightButton, QPoint(50, 50));
         const QMenu *menu = openMenu();
         QVERIFY(menu);
-        QCOMPARE(titlesOf(*menu),
-                 menuTitles(QStringLiteral("Resort By Name"), QStringLiteral("Resort By Size")));
-        QCOMPARE(enabledOf(*menu), QStringLiteral("00-0000-00"));
+        QCOMPARE(titlesOf(*menu), menuTitles(u"Resort By Name"_s, u"Resort By Size"_s));
+        QCOMPARE(enabledOf(*menu), u"00-0000-00"_s);
         openMenu()->close();
     }
 
@@ -251,7 +250,7 @@ class SkinTableViewTest : public QObject {
         w.delegate.up = false;
         w.delegate.removeClear = false;
         w.click(Qt::RightButton, w.middleOf(0, 1));
-        QCOMPARE(enabledOf(*openMenu()), QStringLiteral("00-1111-01"));
+        QCOMPARE(enabledOf(*openMenu()), u"00-1111-01"_s);
         openMenu()->close();
     }
 
@@ -262,7 +261,7 @@ class SkinTableViewTest : public QObject {
         first->close();
         w.delegate.resort = false;
         w.click(Qt::RightButton, w.middleOf(0, 1));
-        QCOMPARE(enabledOf(*openMenu()), QStringLiteral("11-0000-11"));
+        QCOMPARE(enabledOf(*openMenu()), u"11-0000-11"_s);
         openMenu()->close();
         QTRY_VERIFY(first.isNull());
     }
@@ -275,8 +274,7 @@ class SkinTableViewTest : public QObject {
             QTest::mouseClick(menu, Qt::LeftButton, {},
                               menu->actionGeometry(menu->actions().at(position)).center());
         }
-        QCOMPARE(w.delegate.calls.join(u' '),
-                 QStringLiteral("remove clear name size created modified up down"));
+        QCOMPARE(w.delegate.calls.join(u' '), u"remove clear name size created modified up down"_s);
     }
 
     void aRightClickKeepsTheSelection() {
@@ -312,7 +310,7 @@ class SkinTableViewTest : public QObject {
         w.key(Qt::Key_Delete);
         w.key(Qt::Key_Up, Qt::AltModifier);
         w.key(Qt::Key_Down, Qt::AltModifier);
-        QCOMPARE(w.delegate.calls.join(u' '), QStringLiteral("remove up down"));
+        QCOMPARE(w.delegate.calls.join(u' '), u"remove up down"_s);
         w.key(Qt::Key_A, Qt::ControlModifier);
         QCOMPARE(w.files.selectedRows(), (std::vector<int>{0, 1, 2}));
     }
@@ -328,10 +326,10 @@ class SkinTableViewTest : public QObject {
 
     void theFieldBesideKeepsItsOwnKeys() {
         Window w(3);
-        w.field->setText(QStringLiteral("name"));
+        w.field->setText(u"name"_s);
         w.field->setFocus();
         w.key(Qt::Key_A, Qt::ControlModifier);
-        QCOMPARE(w.field->selectedText(), QStringLiteral("name"));
+        QCOMPARE(w.field->selectedText(), u"name"_s);
         QVERIFY(!w.files.selectionModel()->hasSelection());
         w.key(Qt::Key_Delete);
         QCOMPARE(w.field->text(), QString());
@@ -362,7 +360,7 @@ class SkinTableViewTest : public QObject {
         QCOMPARE(w.delegate.calls, QStringList());
         QVERIFY(!w.files.selectionModel()->hasSelection());
         w.click(Qt::RightButton, w.middleOf(0, 1));
-        QCOMPARE(enabledOf(*openMenu()), QStringLiteral("00-0000-00"));
+        QCOMPARE(enabledOf(*openMenu()), u"00-0000-00"_s);
         openMenu()->close();
     }
 
@@ -372,19 +370,19 @@ class SkinTableViewTest : public QObject {
         const QRect row = w.table->visualRect(w.files.index(2, 1));
         drop(*w.table, *oneFile(), row.topLeft() + QPoint(5, 1));
         drop(*w.table, *oneFile(), row.bottomLeft() + QPoint(5, -1));
-        QCOMPARE(w.delegate.calls.join(u' '), QStringLiteral("drop 2 drop 2 drop 3"));
+        QCOMPARE(w.delegate.calls.join(u' '), u"drop 2 drop 2 drop 3"_s);
     }
 
     void dropsBelowTheLastRowGoToTheEnd() {
         Window w(2);
         drop(*w.table, *oneFile(), QPoint(20, w.table->viewport()->height() - 5));
-        QCOMPARE(w.delegate.calls, QStringList(QStringLiteral("drop 2")));
+        QCOMPARE(w.delegate.calls, QStringList(u"drop 2"_s));
     }
 
     void dropsOnAnEmptyTableGoToRowZero() {
         Window w(0);
         drop(*w.table, *oneFile(), QPoint(20, 50));
-        QCOMPARE(w.delegate.calls, QStringList(QStringLiteral("drop 0")));
+        QCOMPARE(w.delegate.calls, QStringList(u"drop 0"_s));
     }
 
     void dropsInAScrolledTableGoWhereTheyAreSeen() {
@@ -393,7 +391,7 @@ class SkinTableViewTest : public QObject {
         const int row = w.table->rowAt(60);
         QVERIFY(row > 30);
         drop(*w.table, *oneFile(), w.middleOf(row, 1));
-        QCOMPARE(w.delegate.calls, QStringList(QStringLiteral("drop %1").arg(row)));
+        QCOMPARE(w.delegate.calls, QStringList(u"drop %1"_s.arg(row)));
     }
 
     void aRefusedDropIsAnsweredSo() {
@@ -405,7 +403,7 @@ class SkinTableViewTest : public QObject {
     void dragsOfAnyContentAreAnsweredWithACopy() {
         Window w(2);
         QMimeData text;
-        text.setText(QStringLiteral("words"));
+        text.setText(u"words"_s);
         QCOMPARE(drop(*w.table, text, w.middleOf(0, 1)), (QList{true, true, true}));
     }
 
@@ -431,7 +429,7 @@ class SkinTableViewTest : public QObject {
 
     void onlyAFinishedDestinationShowsTheHand() {
         Window w(3);
-        w.files.setDestFilePathName(1, QStringLiteral("/out/b.pdf"));
+        w.files.setDestFilePathName(1, u"/out/b.pdf"_s);
         w.files.setStateIndex(1, FinishedAsLink);
         const auto cursorOver = [&](int row, int column) {
             QTest::mouseMove(w.window.windowHandle(),

@@ -17,6 +17,7 @@
 #include <QProgressBar>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -168,11 +169,10 @@ class WindowLayoutTest : public QObject {
 
     void missingSkinsFallBackToTheNormalOne() {
         const QTemporaryDir bundle;
-        const QString resources = bundle.filePath(QStringLiteral("Contents/Resources"));
+        const QString resources = bundle.filePath(u"Contents/Resources"_s);
         QVERIFY(QDir().mkpath(resources));
-        const QString source = WindowWorld::realBundle() + QStringLiteral("/Contents/Resources/");
-        QVERIFY(QFile::copy(source + QStringLiteral("open.svg"),
-                            resources + QStringLiteral("/open.svg")));
+        const QString source = WindowWorld::realBundle() + u"/Contents/Resources/"_s;
+        QVERIFY(QFile::copy(source + u"open.svg"_s, resources + u"/open.svg"_s));
         Window window(bundle.path());
         const auto &open = window.control<SkinButton>("m_btnOpen");
         QVERIFY(open.mouseOnImage() == open.normalImage());
@@ -182,10 +182,10 @@ class WindowLayoutTest : public QObject {
     }
 
     void aWindowWithoutAnySkinStillWorks() {
-        Window window(QStringLiteral("/nowhere"));
+        Window window(u"/nowhere"_s);
         QTest::mouseClick(&window.control<QWidget>("m_btnOpen"), Qt::LeftButton);
         QCOMPARE(window.world.desktop.files.size(), 1);
-        QCOMPARE(window.control<SkinButton>("m_btnOpen").text(), QStringLiteral("Open"));
+        QCOMPARE(window.control<SkinButton>("m_btnOpen").text(), u"Open"_s);
     }
 
     void createAndRemoveStartDisabledInTheirDisabledLook() {
@@ -202,7 +202,7 @@ class WindowLayoutTest : public QObject {
         window.openPanel();
         const QSize least = window.ctrl.window()->minimumSizeHint();
         QVERIFY2(least.width() <= 1024 && least.height() <= 680,
-                 qPrintable(QStringLiteral("%1x%2").arg(least.width()).arg(least.height())));
+                 qPrintable(u"%1x%2"_s.arg(least.width()).arg(least.height())));
     }
 
     void switchingTheSettingsMovesNothingElse() {
@@ -285,8 +285,8 @@ class WindowLayoutTest : public QObject {
             names << QApplication::focusWidget()->objectName();
         }
         QCOMPARE(names.join(u' '),
-                 QStringLiteral("m_btnAddFolder m_btnAddImage m_btnAddTxt m_btnAddPDF m_btnClear "
-                                "m_tableview m_tfOutputFolder m_btnBrowse m_btnOpen"));
+                 u"m_btnAddFolder m_btnAddImage m_btnAddTxt m_btnAddPDF m_btnClear "
+                 "m_tableview m_tfOutputFolder m_btnBrowse m_btnOpen"_s);
     }
 
     void theHiddenPanelIsOutOfTabsWay() {
@@ -296,7 +296,7 @@ class WindowLayoutTest : public QObject {
         QVERIFY(QTest::qWaitForWindowActive(window.ctrl.window()));
         for (int i = 0; i < 40; ++i) {
             QTest::keyClick(window.ctrl.window()->windowHandle(), Qt::Key_Tab);
-            QVERIFY(QApplication::focusWidget()->objectName() != QStringLiteral("m_tfTitle"));
+            QVERIFY(QApplication::focusWidget()->objectName() != u"m_tfTitle"_s);
         }
     }
 

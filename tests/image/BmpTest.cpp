@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QtEndian>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -55,7 +56,7 @@ class BmpTest : public QObject {
 
   private:
     QString file(const QByteArray &bytes) const {
-        return writeFile(m_folder.filePath(QStringLiteral("picture.bmp")), bytes);
+        return writeFile(m_folder.filePath(u"picture.bmp"_s), bytes);
     }
 
     QTemporaryDir m_folder;
@@ -202,9 +203,9 @@ void BmpTest::cutFileIsRefused_data() {
 void BmpTest::cutFileIsRefused() {
     QFETCH(const qsizetype, headerSize);
     QFETCH(const qsizetype, left);
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    QTest::failOnWarning(QRegularExpression(u".*"_s));
     const QByteArray whole = bitmap(headerSize, 32, kMasks, {}, QByteArray(16, '\x7f'));
-    QCOMPARE(refusalOf(file(whole.first(left))), QStringLiteral("The file ends too early"));
+    QCOMPARE(refusalOf(file(whole.first(left))), u"The file ends too early"_s);
 }
 
 QTEST_GUILESS_MAIN(BmpTest)

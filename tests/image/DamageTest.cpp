@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <random>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -44,8 +45,7 @@ void DamageTest::addFiles() {
 bool DamageTest::isInOrder(const QString &name, const QByteArray &bytes) {
     // A new file each time: some file systems flush one that is cut and written again.
     const QString path = writeFile(
-        m_folder.filePath(QStringLiteral("%1.%2").arg(++m_files).arg(QFileInfo(name).suffix())),
-        bytes);
+        m_folder.filePath(u"%1.%2"_s.arg(++m_files).arg(QFileInfo(name).suffix())), bytes);
     const auto remove = qScopeGuard([&] { QFile::remove(path); });
     const QString reason = refusalOf(path);
     if (!reason.isEmpty()) {
@@ -94,14 +94,14 @@ void DamageTest::changedBytesGiveAnImageOrAReason() {
 }
 
 void DamageTest::pixelsBehindTheEndAreRefusedWithoutAWord() {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    QTest::failOnWarning(QRegularExpression(u".*"_s));
     // A bitmap of 4 x 4 pixels whose first stands at 1000, where the file has ended.
     const QByteArray bitmap =
         "BM" +
         QByteArray::fromHex("6600000000000000e803000028000000040000000400000001001800"
                             "00000000300000000000000000000000000000000000000000") +
         QByteArray(48, '\x7f');
-    const QString path = writeFile(m_folder.filePath(QStringLiteral("behind.bmp")), bitmap);
+    const QString path = writeFile(m_folder.filePath(u"behind.bmp"_s), bitmap);
     QVERIFY(!refusalOf(path).isEmpty());
 }
 

@@ -10,6 +10,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge::test {
 
 namespace {
@@ -95,7 +97,7 @@ QImage decodedFax(const EncodedImage &image) {
         append(tiff, entry.value);
     }
     append(tiff, quint32(0));
-    const QString path = writeFile(folder.filePath(QStringLiteral("fax.tif")), tiff);
+    const QString path = writeFile(folder.filePath(u"fax.tif"_s), tiff);
     QImage picture(image.width, image.height, QImage::Format_RGB32);
     TIFF *tif = TIFFOpen(QFile::encodeName(path).constData(), "r");
     const bool read =

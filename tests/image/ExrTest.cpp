@@ -16,6 +16,7 @@
 #include <limits>
 #include <vector>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -61,7 +62,7 @@ Deep deepPixel(const EncodedImage &image, int x) {
 
 QString ExrTest::exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels,
                      Imf::Header header) {
-    const QString path = m_folder.filePath(QStringLiteral("light.exr"));
+    const QString path = m_folder.filePath(u"light.exr"_s);
     Imf::RgbaOutputFile file(QFile::encodeName(path).constData(), header, channels);
     file.setFrameBuffer(row.data() - header.dataWindow().min.x, 1, 0);
     file.writePixels(1);
@@ -101,7 +102,7 @@ void ExrTest::opacityIsTakenOutOfTheColour() {
 }
 
 void ExrTest::brightnessAloneStaysGrey() {
-    const QString path = m_folder.filePath(QStringLiteral("grey.exr"));
+    const QString path = m_folder.filePath(u"grey.exr"_s);
     {
         Imf::Header header(2, 1);
         header.channels().insert("Y", Imf::Channel(Imf::FLOAT));
@@ -119,7 +120,7 @@ void ExrTest::brightnessAloneStaysGrey() {
 }
 
 void ExrTest::brightnessWithHalvedColourBecomesRgb() {
-    const QString path = m_folder.filePath(QStringLiteral("chroma.exr"));
+    const QString path = m_folder.filePath(u"chroma.exr"_s);
     {
         const std::vector<Imf::Rgba> pixels(8 * 4, Imf::Rgba(0.5F, 0.25F, 0.0F));
         Imf::RgbaOutputFile file(QFile::encodeName(path).constData(), Imf::Header(8, 4),
@@ -136,7 +137,7 @@ void ExrTest::brightnessWithHalvedColourBecomesRgb() {
 }
 
 void ExrTest::tilesComeOutInTheirPlaces() {
-    const QString path = m_folder.filePath(QStringLiteral("tiles.exr"));
+    const QString path = m_folder.filePath(u"tiles.exr"_s);
     {
         std::vector<Imf::Rgba> pixels(40 * 20);
         pixels[39] = Imf::Rgba(1.0F, 0.0F, 0.0F);
@@ -170,8 +171,7 @@ void ExrTest::densityIsRead() {
 
 void ExrTest::cutFileIsRefused() {
     const QByteArray bytes = bytesOf(exr({{1.0F, 0.0F, 0.0F}}));
-    const QString path =
-        writeFile(m_folder.filePath(QStringLiteral("cut.exr")), bytes.first(bytes.size() / 2));
+    const QString path = writeFile(m_folder.filePath(u"cut.exr"_s), bytes.first(bytes.size() / 2));
     QVERIFY(!refusalOf(path).isEmpty());
 }
 

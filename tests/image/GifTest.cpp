@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -23,14 +24,14 @@ class GifTest : public QObject {
 
     /// A file with a screen of `screen` and a palette of red, green, blue and white.
     QString gif(const char *screen, const QByteArray &rest) const {
-        return writeFile(m_folder.filePath(QStringLiteral("picture.gif")),
-                         "GIF89a" + QByteArray::fromHex(screen) +
-                             QByteArray::fromHex("810000"
-                                                 "ff0000"
-                                                 "00ff00"
-                                                 "0000ff"
-                                                 "ffffff") +
-                             rest);
+        return writeFile(m_folder.filePath(u"picture.gif"_s), "GIF89a" +
+                                                                  QByteArray::fromHex(screen) +
+                                                                  QByteArray::fromHex("810000"
+                                                                                      "ff0000"
+                                                                                      "00ff00"
+                                                                                      "0000ff"
+                                                                                      "ffffff") +
+                                                                  rest);
     }
     static QByteArray comment() {
         return QByteArray::fromHex("21fe"

@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <random>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -125,7 +126,7 @@ QImage whole(const EncodedImage &image) {
 /// The first pixel that can be seen and differs, in words; empty where there is none.
 QString difference(const QImage &one, const QImage &other) {
     if (one.size() != other.size() || one.isNull()) {
-        return QStringLiteral("sizes differ");
+        return u"sizes differ"_s;
     }
     for (int y = 0; y < one.height(); ++y) {
         for (int x = 0; x < one.width(); ++x) {
@@ -135,7 +136,7 @@ QString difference(const QImage &one, const QImage &other) {
             const int most = qAlpha(a) == 0xFF ? 0 : 255 / std::max(qAlpha(a), 1);
             if (qAlpha(a) != qAlpha(b) || std::abs(qRed(a) - qRed(b)) > most ||
                 std::abs(qGreen(a) - qGreen(b)) > most || std::abs(qBlue(a) - qBlue(b)) > most) {
-                return QStringLiteral("%1 %2: %3 %4").arg(x).arg(y).arg(a, 0, 16).arg(b, 0, 16);
+                return u"%1 %2: %3 %4"_s.arg(x).arg(y).arg(a, 0, 16).arg(b, 0, 16);
             }
         }
     }
@@ -187,7 +188,7 @@ void IconTest::newerEntryHasItsOwnOpacity() {
 
 void IconTest::classicEntryThatEndsEarlyIsRefused() {
     const QByteArray bytes = icns(entry("is32", runs(256, 1)));
-    QCOMPARE(refusalOf(write("short.icns", bytes)), QStringLiteral("The file ends too early"));
+    QCOMPARE(refusalOf(write("short.icns", bytes)), u"The file ends too early"_s);
 }
 
 void IconTest::bitmapFrameLooksAsQtShowsIt_data() {
@@ -232,7 +233,7 @@ void IconTest::largestFrameIsTakenThoughOthersAreDamaged() {
 }
 
 void IconTest::pngFrameKeepsItsOwnRows() {
-    const QByteArray png = bytesOf(imageFile(QStringLiteral("colour.png")));
+    const QByteArray png = bytesOf(imageFile(u"colour.png"_s));
     const QByteArray small = bitmapFrame(24, QByteArray(96 + 16, '\0'));
     const EncodedImage image = encodeImage(write("png.ico", ico({small, png})));
     QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
@@ -241,7 +242,7 @@ void IconTest::pngFrameKeepsItsOwnRows() {
 
 void IconTest::framesBehindTheHundredthAreNotLookedAt() {
     const QByteArray small = bitmapFrame(24, QByteArray(96 + 16, '\0'));
-    const QByteArray large = bytesOf(imageFile(QStringLiteral("colour.png")));
+    const QByteArray large = bytesOf(imageFile(u"colour.png"_s));
     QList<QByteArray> frames(99, small);
     const ImageHeader header = readImageHeader(write("hundred.ico", ico(frames + QList{large})));
     QCOMPARE(header.width, 24);

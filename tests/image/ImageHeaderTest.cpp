@@ -10,6 +10,7 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -57,7 +58,7 @@ QString ImageHeaderTest::bitmapWithDensity(int perMetre) {
     picture.fill(Qt::red);
     picture.setDotsPerMeterX(perMetre);
     picture.setDotsPerMeterY(perMetre);
-    const QString path = m_folder.filePath(QStringLiteral("density.bmp"));
+    const QString path = m_folder.filePath(u"density.bmp"_s);
     picture.save(path);
     return path;
 }
@@ -98,7 +99,7 @@ void ImageHeaderTest::headerStatesFormatAndPixels() {
 }
 
 void ImageHeaderTest::contentCountsMoreThanExtension() {
-    const QByteArray png = bytesOf(imageFile(QStringLiteral("colour.png")));
+    const QByteArray png = bytesOf(imageFile(u"colour.png"_s));
     QCOMPARE(readImageHeader(write("really-png.tga", png)).format, ImageFormat::Png);
     QCOMPARE(readImageHeader(write("really-png.jpg", png)).format, ImageFormat::Png);
 }
@@ -111,7 +112,7 @@ void ImageHeaderTest::extensionDecidesWhereBytesDoNot() {
 
 void ImageHeaderTest::unknownContentIsRefused() {
     QCOMPARE(headerRefusal(write("letter.txt", "Dear reader, this is no picture at all.")),
-             QStringLiteral("The file is no image of a known format"));
+             u"The file is no image of a known format"_s);
 }
 
 void ImageHeaderTest::densityOfABitmapIsPerMetre() {
@@ -125,7 +126,7 @@ void ImageHeaderTest::densityOfAPngIsPerMetre() {
     picture.fill(Qt::blue);
     picture.setDotsPerMeterX(5906);
     picture.setDotsPerMeterY(2953);
-    const QString path = m_folder.filePath(QStringLiteral("density.png"));
+    const QString path = m_folder.filePath(u"density.png"_s);
     QVERIFY(picture.save(path));
     const ImageHeader header = readImageHeader(path);
     // As near to 150 and to 75 as whole pixels per metre come.
@@ -170,32 +171,32 @@ void ImageHeaderTest::sidewaysOrientationExchangesTheSides() {
 }
 
 void ImageHeaderTest::tooManyPixelsAreRefused() {
-    QByteArray png = bytesOf(imageFile(QStringLiteral("colour.png")));
+    QByteArray png = bytesOf(imageFile(u"colour.png"_s));
     qToBigEndian(quint32(100'000), png.data() + 16);
     qToBigEndian(quint32(50'000), png.data() + 20);
     const QString path = write("bomb.png", png);
-    const QString reason = QStringLiteral("The image is too large (100000 x 50000 pixels)");
+    const QString reason = u"The image is too large (100000 x 50000 pixels)"_s;
     QCOMPARE(headerRefusal(path), reason);
     QCOMPARE(refusalOf(path), reason);
 }
 
 void ImageHeaderTest::pipeIsRefusedWithoutWaiting() {
-    const QString path = m_folder.filePath(QStringLiteral("pipe.png"));
+    const QString path = m_folder.filePath(u"pipe.png"_s);
     QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
-    QCOMPARE(headerRefusal(path), QStringLiteral("It is not a regular file"));
+    QCOMPARE(headerRefusal(path), u"It is not a regular file"_s);
 }
 
 void ImageHeaderTest::folderIsRefused() {
-    QCOMPARE(headerRefusal(m_folder.path()), QStringLiteral("It is a folder, not an image file"));
+    QCOMPARE(headerRefusal(m_folder.path()), u"It is a folder, not an image file"_s);
 }
 
 void ImageHeaderTest::missingFileIsRefused() {
-    QVERIFY(headerRefusal(m_folder.filePath(QStringLiteral("absent.png")))
-                .startsWith(QStringLiteral("The file cannot be opened: ")));
+    QVERIFY(headerRefusal(m_folder.filePath(u"absent.png"_s))
+                .startsWith(u"The file cannot be opened: "_s));
 }
 
 void ImageHeaderTest::emptyFileIsRefused() {
-    QCOMPARE(headerRefusal(write("empty.jpg", {})), QStringLiteral("The file is empty"));
+    QCOMPARE(headerRefusal(write("empty.jpg", {})), u"The file is empty"_s);
 }
 
 QTEST_GUILESS_MAIN(ImageHeaderTest)

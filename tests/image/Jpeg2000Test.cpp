@@ -9,6 +9,7 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -98,7 +99,7 @@ QByteArray Jpeg2000Test::codestream(const QList<QByteArray> &components) {
     parameters.numresolution = 1;
     const std::unique_ptr<opj_codec_t, decltype(&opj_destroy_codec)> codec(
         opj_create_compress(OPJ_CODEC_J2K), opj_destroy_codec);
-    const QString path = m_folder.filePath(QStringLiteral("codestream"));
+    const QString path = m_folder.filePath(u"codestream"_s);
     std::unique_ptr<opj_stream_t, decltype(&opj_stream_destroy)> stream(
         opj_stream_create_default_file_stream(path.toLocal8Bit().constData(), OPJ_FALSE),
         opj_stream_destroy);
@@ -111,12 +112,12 @@ QByteArray Jpeg2000Test::codestream(const QList<QByteArray> &components) {
 }
 
 QString Jpeg2000Test::withHeaderBox(const QByteArray &box) {
-    QByteArray bytes = bytesOf(imageFile(QStringLiteral("colour.jp2")));
+    QByteArray bytes = bytesOf(imageFile(u"colour.jp2"_s));
     const qsizetype header = bytes.indexOf("jp2h") - 4;
     const auto length = qFromBigEndian<quint32>(bytes.constData() + header);
     bytes.insert(header + length, box);
     qToBigEndian(length + quint32(box.size()), bytes.data() + header);
-    return writeFile(m_folder.filePath(QStringLiteral("picture.jp2")), bytes);
+    return writeFile(m_folder.filePath(u"picture.jp2"_s), bytes);
 }
 
 void Jpeg2000Test::resolutionBoxIsPixelsAMetre() {
@@ -148,15 +149,15 @@ void Jpeg2000Test::shownResolutionCountsMoreThanCaptured() {
 }
 
 void Jpeg2000Test::boxesInBoxesWithoutEndAreNoPicture() {
-    QByteArray bytes = bytesOf(imageFile(QStringLiteral("colour.jp2"))).first(12);
+    QByteArray bytes = bytesOf(imageFile(u"colour.jp2"_s)).first(12);
     constexpr int kBoxes = 100'000;
     for (int i = kBoxes; i > 0; --i) {
         QByteArray length(4, '\0');
         qToBigEndian(quint32(8 * i), length.data());
         bytes += length + "jp2h";
     }
-    QCOMPARE(refusalOf(writeFile(m_folder.filePath(QStringLiteral("deep.jp2")), bytes)),
-             QStringLiteral("The JPEG 2000 file holds no picture"));
+    QCOMPARE(refusalOf(writeFile(m_folder.filePath(u"deep.jp2"_s), bytes)),
+             u"The JPEG 2000 file holds no picture"_s);
 }
 
 void Jpeg2000Test::opacityIsTakenFromAmongTheColours_data() {
@@ -179,12 +180,11 @@ void Jpeg2000Test::opacityIsTakenFromAmongTheColours() {
     QList<QByteArray> components = inks.first(colors);
     components.insert(alpha, opacity);
     const QByteArray bytes =
-        bytesOf(imageFile(QStringLiteral("colour.jp2"))).first(12) +
+        bytesOf(imageFile(u"colour.jp2"_s)).first(12) +
         box("ftyp", QByteArray("jp2 \0\0\0\0jp2 ", 12)) +
         box("jp2h", headerOf(components, alpha, profileOf(colorSpace.constData()))) +
         box("jp2c", codestream(components));
-    const ImageFile file =
-        ImageFile::open(writeFile(m_folder.filePath(QStringLiteral("opacity.jp2")), bytes));
+    const ImageFile file = ImageFile::open(writeFile(m_folder.filePath(u"opacity.jp2"_s), bytes));
     const Raster raster = decodeJpeg2000(file.view(), readJpeg2000Facts(file.view()));
     QByteArray pixels;
     for (int x = 0; x < 3; ++x) {

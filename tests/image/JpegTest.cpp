@@ -6,6 +6,7 @@
 #include <QTest>
 #include <QtEndian>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -30,7 +31,7 @@ class JpegTest : public QObject {
     QTemporaryDir m_folder;
 
     QString write(const QByteArray &bytes) {
-        return writeFile(m_folder.filePath(QStringLiteral("photo.jpg")), bytes);
+        return writeFile(m_folder.filePath(u"photo.jpg"_s), bytes);
     }
     /// The test photo with segments put in after its start, and its own JFIF segment left out.
     static QByteArray photoWith(const QByteArray &segments);
@@ -78,25 +79,25 @@ QByteArray JpegTest::segment(uchar marker, const QByteArray &content) {
 }
 
 QByteArray JpegTest::photoWith(const QByteArray &segments) {
-    const QByteArray photo = bytesOf(imageFile(QStringLiteral("photo.jpg")));
+    const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
     const qsizetype jfif = 2 + 2 + qFromBigEndian<quint16>(photo.constData() + 4);
     return photo.first(2) + segments + photo.mid(jfif);
 }
 
 void JpegTest::adobeInkIsInverted() {
-    QVERIFY(bytesOf(imageFile(QStringLiteral("ink.jpg"))).contains("Adobe"));
+    QVERIFY(bytesOf(imageFile(u"ink.jpg"_s)).contains("Adobe"));
     const std::vector<double> inverted = {1, 0, 1, 0, 1, 0, 1, 0};
-    QCOMPARE(encodeImage(imageFile(QStringLiteral("ink.jpg"))).decode, inverted);
+    QCOMPARE(encodeImage(imageFile(u"ink.jpg"_s)).decode, inverted);
 }
 
 void JpegTest::inkWithoutAdobesMarkIsNot() {
-    QByteArray bytes = bytesOf(imageFile(QStringLiteral("ink.jpg")));
+    QByteArray bytes = bytesOf(imageFile(u"ink.jpg"_s));
     bytes.replace("Adobe", "Other");
     QVERIFY(encodeImage(write(bytes)).decode.empty());
 }
 
 void JpegTest::jfifDensityPerInchAndPerCentimetre() {
-    QByteArray bytes = bytesOf(imageFile(QStringLiteral("photo.jpg")));
+    QByteArray bytes = bytesOf(imageFile(u"photo.jpg"_s));
     QCOMPARE(bytes.mid(6, 4), QByteArray("JFIF"));
     bytes[13] = 1;
     qToBigEndian(quint16(300), bytes.data() + 14);
@@ -154,24 +155,24 @@ void JpegTest::fillBytesBeforeAMarkerAreSkipped() {
 }
 
 void JpegTest::fileCutBeforeItsPictureIsRefused() {
-    const QByteArray photo = bytesOf(imageFile(QStringLiteral("photo.jpg")));
+    const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
     for (const qsizetype length : {qsizetype(3), qsizetype(20), qsizetype(100)}) {
         QCOMPARE(refusalOf(write(photo.first(length))),
-                 QStringLiteral("The JPEG file ends before its picture begins"));
+                 u"The JPEG file ends before its picture begins"_s);
     }
 }
 
 void JpegTest::fileCutInItsPictureGoesIn() {
-    const QByteArray photo = bytesOf(imageFile(QStringLiteral("photo.jpg")));
+    const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
     const EncodedImage image = encodeImage(write(photo.chopped(30)));
     QCOMPARE(image.filter, ImageFilter::Dct);
     QCOMPARE(dataOf(image), photo.chopped(30));
 }
 
 void JpegTest::losslessProcessIsRefused() {
-    QByteArray photo = bytesOf(imageFile(QStringLiteral("photo.jpg")));
+    QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
     photo[photo.indexOf("\xFF\xC0") + 1] = '\xC3';
-    QVERIFY(refusalOf(write(photo)).contains(QStringLiteral("no PDF can hold")));
+    QVERIFY(refusalOf(write(photo)).contains(u"no PDF can hold"_s));
 }
 
 void JpegTest::componentsNamedForRgbAreRgb() {
@@ -188,7 +189,7 @@ void JpegTest::componentsNamedForRgbAreRgb() {
     QVERIFY(!encodeImage(write(bare)).isPlainRgb);
     QVERIFY(encodeImage(write(named(bare))).isPlainRgb);
     // JFIF says YCbCr whatever the names, and Adobe's mark says which of the two.
-    QVERIFY(!encodeImage(write(named(bytesOf(imageFile(QStringLiteral("photo.jpg")))))).isPlainRgb);
+    QVERIFY(!encodeImage(write(named(bytesOf(imageFile(u"photo.jpg"_s))))).isPlainRgb);
     const QByteArray adobe = segment(0xEE, QByteArray("Adobe\0\x64\0\0\0\0\1", 12));
     QVERIFY(!encodeImage(write(named(photoWith(adobe)))).isPlainRgb);
 }

@@ -6,6 +6,7 @@
 
 #include <random>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -82,10 +83,8 @@ void LosslessTest::fileComesOutPixelForPixel() {
 }
 
 void LosslessTest::opacityBecomesASoftMask_data() {
-    addRows("name",
-            {QStringLiteral("translucent.png"), QStringLiteral("translucent-interlaced.png"),
-             QStringLiteral("translucent.tif"), QStringLiteral("translucent.psd"),
-             QStringLiteral("translucent.jp2"), QStringLiteral("jp2.icns")});
+    addRows("name", {u"translucent.png"_s, u"translucent-interlaced.png"_s, u"translucent.tif"_s,
+                     u"translucent.psd"_s, u"translucent.jp2"_s, u"jp2.icns"_s});
 }
 
 void LosslessTest::opacityBecomesASoftMask() {
@@ -94,7 +93,7 @@ void LosslessTest::opacityBecomesASoftMask() {
     QVERIFY(image.softMask != nullptr);
     const QImage color = decoded(image);
     const QImage alpha = decoded(*image.softMask);
-    const QImage expected = reference(QStringLiteral("translucent.png"), QImage::Format_ARGB32);
+    const QImage expected = reference(u"translucent.png"_s, QImage::Format_ARGB32);
     QCOMPARE(color.size(), expected.size());
     QCOMPARE(alpha.size(), expected.size());
     for (int y = 0; y < expected.height(); ++y) {
@@ -109,8 +108,7 @@ void LosslessTest::opacityBecomesASoftMask() {
 }
 
 void LosslessTest::sixteenBitsStaySixteenBits_data() {
-    addRows("name", {QStringLiteral("deep.png"), QStringLiteral("deep.tif"),
-                     QStringLiteral("deep-bigendian.tif"), QStringLiteral("deep.psd")});
+    addRows("name", {u"deep.png"_s, u"deep.tif"_s, u"deep-bigendian.tif"_s, u"deep.psd"_s});
 }
 
 void LosslessTest::sixteenBitsStaySixteenBits() {
@@ -118,12 +116,11 @@ void LosslessTest::sixteenBitsStaySixteenBits() {
     const EncodedImage image = encodeImage(imageFile(name));
     QCOMPARE(image.bitsPerComponent, 16);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGBX64),
-             reference(QStringLiteral("deep.png"), QImage::Format_RGBX64));
+             reference(u"deep.png"_s, QImage::Format_RGBX64));
 }
 
 void LosslessTest::greyStaysGrey_data() {
-    addRows("name",
-            {QStringLiteral("grey.png"), QStringLiteral("grey.tif"), QStringLiteral("grey.psd")});
+    addRows("name", {u"grey.png"_s, u"grey.tif"_s, u"grey.psd"_s});
 }
 
 void LosslessTest::greyStaysGrey() {
@@ -131,13 +128,12 @@ void LosslessTest::greyStaysGrey() {
     const EncodedImage image = encodeImage(imageFile(name));
     QCOMPARE(image.color, ImageColor::Gray);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_Grayscale8),
-             reference(QStringLiteral("grey.png"), QImage::Format_Grayscale8));
+             reference(u"grey.png"_s, QImage::Format_Grayscale8));
 }
 
 void LosslessTest::bilevelStaysOneBit_data() {
-    addRows("name", {QStringLiteral("bilevel.png"), QStringLiteral("bilevel-g4.tif"),
-                     QStringLiteral("bilevel-strips.tif"), QStringLiteral("bilevel-g3.tif"),
-                     QStringLiteral("bilevel-lsb.tif"), QStringLiteral("bilevel-minisblack.tif")});
+    addRows("name", {u"bilevel.png"_s, u"bilevel-g4.tif"_s, u"bilevel-strips.tif"_s,
+                     u"bilevel-g3.tif"_s, u"bilevel-lsb.tif"_s, u"bilevel-minisblack.tif"_s});
 }
 
 void LosslessTest::bilevelStaysOneBit() {
@@ -145,25 +141,25 @@ void LosslessTest::bilevelStaysOneBit() {
     const EncodedImage image = encodeImage(imageFile(name));
     QCOMPARE(image.bitsPerComponent, 1);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
-             reference(QStringLiteral("bilevel.png"), QImage::Format_RGB32));
+             reference(u"bilevel.png"_s, QImage::Format_RGB32));
 }
 
 void LosslessTest::fullOpacityIsDropped() {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("opaque.png"));
-    QVERIFY(reference(QStringLiteral("colour.png"), QImage::Format_RGBA8888).save(path));
+    const QString path = folder.filePath(u"opaque.png"_s);
+    QVERIFY(reference(u"colour.png"_s, QImage::Format_RGBA8888).save(path));
     QCOMPARE(bytesOf(path).at(25), '\x06'); // The file does hold an alpha channel.
     const EncodedImage image = encodeImage(path);
     QVERIFY(image.softMask == nullptr);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
-             reference(QStringLiteral("colour.png"), QImage::Format_RGB32));
+             reference(u"colour.png"_s, QImage::Format_RGB32));
 }
 
 void LosslessTest::opacityOfAllOrNothingTakesOneBit() {
     const QTemporaryDir folder;
-    QImage picture = reference(QStringLiteral("colour.png"), QImage::Format_ARGB32);
+    QImage picture = reference(u"colour.png"_s, QImage::Format_ARGB32);
     picture.setPixel(3, 4, 0);
-    const QString path = folder.filePath(QStringLiteral("hole.png"));
+    const QString path = folder.filePath(u"hole.png"_s);
     QVERIFY(picture.save(path));
     const EncodedImage image = encodeImage(path);
     QVERIFY(image.softMask != nullptr);
@@ -186,8 +182,8 @@ void LosslessTest::bitmapsOfQtComeOutPixelForPixel() {
     QFETCH(QImage::Format, format);
     QFETCH(int, bits);
     const QTemporaryDir folder;
-    const QImage picture = reference(QStringLiteral("colour.png"), format);
-    const QString path = folder.filePath(QStringLiteral("picture.bmp"));
+    const QImage picture = reference(u"colour.png"_s, format);
+    const QString path = folder.filePath(u"picture.bmp"_s);
     QVERIFY(picture.save(path));
     const EncodedImage image = encodeImage(path);
     QCOMPARE(image.bitsPerComponent, bits);
@@ -218,7 +214,7 @@ void LosslessTest::largePictureIsFilteredWhereThatPays() {
         }
     }
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("large.bmp"));
+    const QString path = folder.filePath(u"large.bmp"_s);
     QVERIFY(picture.save(path));
     const EncodedImage image = encodeImage(path);
     QCOMPARE(image.predictor, predictor);
@@ -231,7 +227,7 @@ void LosslessTest::singleRowOfManyPixelsComesOut() {
         picture.setPixel(x, 0, qRgb(x % 251, x % 83, x / 2000));
     }
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("row.bmp"));
+    const QString path = folder.filePath(u"row.bmp"_s);
     QVERIFY(picture.save(path));
     QCOMPARE(decoded(encodeImage(path)).convertToFormat(QImage::Format_RGB888), picture);
 }
@@ -263,14 +259,13 @@ void LosslessTest::labKeepsItsAxes() {
     tiff += QByteArray(4, '\0');
     qToLittleEndian(quint32(tiff.size()), tiff.data() + bitsEntry + 8);
     tiff += QByteArray::fromHex("080008000800");
-    const EncodedImage image =
-        encodeImage(writeFile(folder.filePath(QStringLiteral("lab.tif")), tiff));
+    const EncodedImage image = encodeImage(writeFile(folder.filePath(u"lab.tif"_s), tiff));
     QCOMPARE(image.color, ImageColor::Lab);
     QCOMPARE(unzipped(image.data).last(3), QByteArray::fromHex("ff807b"));
 }
 
 void LosslessTest::inkOfATiffKeepsFourComponents() {
-    const EncodedImage image = encodeImage(imageFile(QStringLiteral("ink.tif")));
+    const EncodedImage image = encodeImage(imageFile(u"ink.tif"_s));
     QCOMPARE(image.color, ImageColor::Cmyk);
     QVERIFY(image.decode.empty());
     QCOMPARE(unzipped(image.data).size(), qsizetype(16 * (1 + 24 * 4)));

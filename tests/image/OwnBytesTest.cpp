@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -56,36 +57,36 @@ void OwnBytesTest::pngRowsGoInWithTheirPredictor() {
 }
 
 void OwnBytesTest::oneStripOfGroup4GoesIn() {
-    const EncodedImage image = encodeImage(imageFile(QStringLiteral("bilevel-g4.tif")));
+    const EncodedImage image = encodeImage(imageFile(u"bilevel-g4.tif"_s));
     QCOMPARE(image.filter, ImageFilter::CcittFax);
     QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
     QCOMPARE(image.ccittK, -1);
     QVERIFY(!image.ccittBlackIs1);
     QCOMPARE(image.slices.size(), size_t(1));
-    QVERIFY(encodeImage(imageFile(QStringLiteral("bilevel-minisblack.tif"))).ccittBlackIs1);
+    QVERIFY(encodeImage(imageFile(u"bilevel-minisblack.tif"_s)).ccittBlackIs1);
 }
 
 void OwnBytesTest::reversedBitsOfGroup4AreTurned() {
-    const EncodedImage turned = encodeImage(imageFile(QStringLiteral("bilevel-lsb.tif")));
-    const EncodedImage plain = encodeImage(imageFile(QStringLiteral("bilevel-g4.tif")));
+    const EncodedImage turned = encodeImage(imageFile(u"bilevel-lsb.tif"_s));
+    const EncodedImage plain = encodeImage(imageFile(u"bilevel-g4.tif"_s));
     QCOMPARE(turned.data, dataOf(plain));
 }
 
 void OwnBytesTest::manyStripsAreEncodedAgain() {
-    const EncodedImage image = encodeImage(imageFile(QStringLiteral("bilevel-strips.tif")));
+    const EncodedImage image = encodeImage(imageFile(u"bilevel-strips.tif"_s));
     QCOMPARE(image.embeddedAs, EmbeddedAs::Recompressed);
     QVERIFY(image.slices.empty());
     QCOMPARE(image.filter, ImageFilter::CcittFax);
 }
 
 void OwnBytesTest::codestreamGetsTheBoxesOfAFile() {
-    const QByteArray codestream = bytesOf(imageFile(QStringLiteral("codestream.jp2")));
+    const QByteArray codestream = bytesOf(imageFile(u"codestream.jp2"_s));
     QVERIFY(codestream.startsWith("\xFF\x4F"));
-    const EncodedImage image = encodeImage(imageFile(QStringLiteral("codestream.jp2")));
+    const EncodedImage image = encodeImage(imageFile(u"codestream.jp2"_s));
     QCOMPARE(image.filter, ImageFilter::Jpx);
     QVERIFY(image.data.endsWith(codestream));
     // Colour space 16 is sRGB; what another program wrote around the same picture says the same.
-    const QByteArray file = bytesOf(imageFile(QStringLiteral("colour.jp2")));
+    const QByteArray file = bytesOf(imageFile(u"colour.jp2"_s));
     const QByteArray colorBox = QByteArray("colr\1\0\0\0\0\0\x10", 11);
     QVERIFY(file.contains(colorBox));
     QVERIFY(image.data.contains(colorBox));
@@ -94,7 +95,7 @@ void OwnBytesTest::codestreamGetsTheBoxesOfAFile() {
 }
 
 void OwnBytesTest::jpeg2000InsideAnIconIsSplit() {
-    const EncodedImage image = encodeImage(imageFile(QStringLiteral("jp2.icns")));
+    const EncodedImage image = encodeImage(imageFile(u"jp2.icns"_s));
     QCOMPARE(image.filter, ImageFilter::Flate);
     QVERIFY(image.softMask != nullptr);
 }

@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -25,7 +26,7 @@ class PngTest : public QObject {
     QTemporaryDir m_folder;
 
     QString write(const QByteArray &bytes) {
-        return writeFile(m_folder.filePath(QStringLiteral("picture.png")), bytes);
+        return writeFile(m_folder.filePath(u"picture.png"_s), bytes);
     }
 };
 
@@ -37,7 +38,7 @@ void PngTest::transparentPaletteKeepsItsRows() {
             picture.setPixel(x, y, static_cast<uint>((x + y) % 3));
         }
     }
-    const QString path = m_folder.filePath(QStringLiteral("palette.png"));
+    const QString path = m_folder.filePath(u"palette.png"_s);
     QVERIFY(picture.save(path));
     const EncodedImage image = encodeImage(path);
     QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
@@ -60,7 +61,7 @@ void PngTest::filteredRowsAreDealtOutForEachChannel() {
             picture.setPixel(x, y, qRgba(red, (x * y) % 256, (x + y) % 256, 255 - x * 2));
         }
     }
-    const QString path = m_folder.filePath(QStringLiteral("filters.png"));
+    const QString path = m_folder.filePath(u"filters.png"_s);
     QVERIFY(picture.save(path));
     const EncodedImage image = encodeImage(path);
     const QImage color = decoded(image);
@@ -74,15 +75,15 @@ void PngTest::filteredRowsAreDealtOutForEachChannel() {
 }
 
 void PngTest::damagedRowsAreRefused() {
-    QByteArray bytes = bytesOf(imageFile(QStringLiteral("colour.png")));
+    QByteArray bytes = bytesOf(imageFile(u"colour.png"_s));
     const qsizetype rows = bytes.indexOf("IDAT") + 20;
     bytes[rows] = static_cast<char>(bytes.at(rows) ^ 1);
-    QCOMPARE(refusalOf(write(bytes)), QStringLiteral("The PNG file is damaged"));
+    QCOMPARE(refusalOf(write(bytes)), u"The PNG file is damaged"_s);
 }
 
 void PngTest::cutFileIsRefused() {
-    const QByteArray bytes = bytesOf(imageFile(QStringLiteral("colour.png")));
-    QCOMPARE(refusalOf(write(bytes.chopped(100))), QStringLiteral("The file ends too early"));
+    const QByteArray bytes = bytesOf(imageFile(u"colour.png"_s));
+    QCOMPARE(refusalOf(write(bytes.chopped(100))), u"The file ends too early"_s);
 }
 
 void PngTest::profileIsInflatedAndKept() {
@@ -90,12 +91,12 @@ void PngTest::profileIsInflatedAndKept() {
     profile[3] = char(200);
     profile.replace(12, 4, "mntr").replace(16, 4, "RGB ").replace(36, 4, "acsp");
     const QByteArray zipped = qCompress(profile).mid(4);
-    QByteArray bytes = bytesOf(imageFile(QStringLiteral("colour.png")));
+    QByteArray bytes = bytesOf(imageFile(u"colour.png"_s));
     bytes.insert(33, pngChunk("iCCP", QByteArray("name\0\0", 6) + zipped)); // After IHDR.
     const EncodedImage image = encodeImage(write(bytes));
     QCOMPARE(image.iccProfile, profile);
-    QVERIFY(encodeImage(imageFile(QStringLiteral("colour.png"))).iccProfile.isEmpty());
-    bytes = bytesOf(imageFile(QStringLiteral("colour.png")));
+    QVERIFY(encodeImage(imageFile(u"colour.png"_s)).iccProfile.isEmpty());
+    bytes = bytesOf(imageFile(u"colour.png"_s));
     bytes.insert(33, pngChunk("iCCP", QByteArray("name\0\0", 6) + zipped.first(10)));
     QVERIFY(encodeImage(write(bytes)).iccProfile.isEmpty()); // Damaged, but the picture is not.
 }
@@ -105,7 +106,7 @@ void PngTest::orientationAfterTheRowsIsRead() {
                                                 "0001"
                                                 "011200030000000100080000"
                                                 "00000000");
-    QByteArray bytes = bytesOf(imageFile(QStringLiteral("colour.png")));
+    QByteArray bytes = bytesOf(imageFile(u"colour.png"_s));
     bytes.insert(bytes.size() - 12, pngChunk("eXIf", exif));
     const ImageHeader header = readImageHeader(write(bytes));
     QCOMPARE(header.orientation, 8);
@@ -113,16 +114,16 @@ void PngTest::orientationAfterTheRowsIsRead() {
 }
 
 void PngTest::paletteOfTooManyColoursIsRefused() {
-    QByteArray bytes = bytesOf(imageFile(QStringLiteral("palette.png")));
+    QByteArray bytes = bytesOf(imageFile(u"palette.png"_s));
     bytes.insert(bytes.indexOf("IDAT") - 4, pngChunk("PLTE", QByteArray(qsizetype{3} * 257, '\1')));
-    QCOMPARE(refusalOf(write(bytes)), QStringLiteral("The PNG file has no palette"));
+    QCOMPARE(refusalOf(write(bytes)), u"The PNG file has no palette"_s);
 }
 
 void PngTest::claimOfManyPixelsInFewBytesIsRefused() {
-    QByteArray bytes = bytesOf(imageFile(QStringLiteral("translucent.png")));
+    QByteArray bytes = bytesOf(imageFile(u"translucent.png"_s));
     bytes.replace(16, 8, QByteArray::fromHex("0000520800005208")); // 21,000 x 21,000.
     QCOMPARE(refusalOf(write(bytes)),
-             QStringLiteral("The file is too short for the image its header describes"));
+             u"The file is too short for the image its header describes"_s);
 }
 
 void PngTest::sampleBehindMoreBitsThanAnIntCountsIsFound() {

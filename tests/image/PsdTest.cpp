@@ -6,6 +6,7 @@
 
 #include <bit>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -55,7 +56,7 @@ QString PsdTest::psd(const Parts &parts) {
                        bigEndian(quint16(parts.mode)) + bigEndian(quint32(0));
     bytes += bigEndian(quint32(parts.resources.size())) + parts.resources;
     bytes += bigEndian(quint32(0)) + bigEndian(quint16(0)) + parts.pixels;
-    return writeFile(m_folder.filePath(QStringLiteral("picture.psd")), bytes);
+    return writeFile(m_folder.filePath(u"picture.psd"_s), bytes);
 }
 
 QByteArray PsdTest::resource(int id, const QByteArray &data) {

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -28,7 +29,7 @@ class TgaTest : public QObject {
         QByteArray bytes("\0", 1);
         bytes += QByteArray::fromHex(typeBytes) + QByteArray::fromHex("0000000003000200");
         bytes.append(static_cast<char>(bits)).append(static_cast<char>(descriptor));
-        return writeFile(m_folder.filePath(QStringLiteral("picture.tga")), bytes + rest);
+        return writeFile(m_folder.filePath(u"picture.tga"_s), bytes + rest);
     }
 };
 
@@ -90,9 +91,9 @@ void TgaTest::opacityCountsOnlyWhereItIsDeclared() {
 
 void TgaTest::cutFileIsRefused() {
     QCOMPARE(refusalOf(tga("00020000000000", 24, 0x20, QByteArray(17, '\1'))),
-             QStringLiteral("The file ends too early"));
+             u"The file ends too early"_s);
     QCOMPARE(refusalOf(tga("000a0000000000", 24, 0x20, QByteArray::fromHex("84010203"))),
-             QStringLiteral("The file ends too early"));
+             u"The file ends too early"_s);
 }
 
 QTEST_GUILESS_MAIN(TgaTest)

@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -54,7 +55,7 @@ template<typename T> QByteArray bytesOfValues(const std::vector<T> &values) {
 
 template<typename SetUp>
 QString TiffTest::tiff(int width, int height, QByteArray data, const SetUp &setUp) {
-    QString path = m_folder.filePath(QStringLiteral("picture.tif"));
+    QString path = m_folder.filePath(u"picture.tif"_s);
     const std::unique_ptr<TIFF, Close> tif(TIFFOpen(QFile::encodeName(path).constData(), "w"));
     TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, width);
     TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, height);
@@ -160,8 +161,7 @@ void TiffTest::labOfSixteenBitsCountsIn256ths() {
 void TiffTest::shortDataIsRefused() {
     const QString path = tiff(20000, 20000, QByteArray(2000, 'x'),
                               [](TIFF *tif) { setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR); });
-    QCOMPARE(refusalOf(path),
-             QStringLiteral("The file is too short for the image its header describes"));
+    QCOMPARE(refusalOf(path), u"The file is too short for the image its header describes"_s);
 }
 
 QTEST_GUILESS_MAIN(TiffTest)

@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -22,7 +23,7 @@ constexpr double kLeft = 72;
 constexpr int kDpi = 144;
 
 std::shared_ptr<const FontCascade> font() {
-    static const auto kept = FontCascade::load(QStringLiteral("Liberation Sans"), 14);
+    static const auto kept = FontCascade::load(u"Liberation Sans"_s, 14);
     return kept;
 }
 
@@ -94,20 +95,17 @@ double difference(const QImage &left, const QImage &right) {
 
 /// The text that mutool finds in a file, in the order of the content.
 QString textByMutool(const QString &path) {
-    const ToolRun run =
-        runTool(QStringLiteral("mutool"), {QStringLiteral("draw"), QStringLiteral("-q"),
-                                           QStringLiteral("-F"), QStringLiteral("txt"), path});
+    const ToolRun run = runTool(u"mutool"_s, {u"draw"_s, u"-q"_s, u"-F"_s, u"txt"_s, path});
     return QString::fromUtf8(run.out);
 }
 
 QString textByPoppler(const QString &path) {
-    const ToolRun run =
-        runTool(QStringLiteral("pdftotext"), {QStringLiteral("-raw"), path, QStringLiteral("-")});
+    const ToolRun run = runTool(u"pdftotext"_s, {u"-raw"_s, path, u"-"_s});
     return QString::fromUtf8(run.out);
 }
 
 QString withoutSpace(QString text) {
-    return text.remove(QRegularExpression(QStringLiteral("[\\s\\f]")));
+    return text.remove(QRegularExpression(u"[\\s\\f]"_s));
 }
 
 } // namespace
@@ -119,8 +117,7 @@ class FontEmbedderTest : public QObject {
     QTemporaryDir m_folder;
     QList<double> m_baselines;
 
-    [[nodiscard]] QString write(const QString &text,
-                                const QString &name = QStringLiteral("text.pdf")) {
+    [[nodiscard]] QString write(const QString &text, const QString &name = u"text.pdf"_s) {
         const QString path = m_folder.filePath(name);
         QFile::remove(path);
         PDFContext context(path, {{}, nullptr, Flush::Never});
@@ -134,17 +131,17 @@ class FontEmbedderTest : public QObject {
   private Q_SLOTS:
     void everyScriptIsReadBack_data() {
         QTest::addColumn<QString>("text");
-        QTest::newRow("ASCII") << QStringLiteral("The quick (brown) \\fox\\ ))((");
-        QTest::newRow("Latin") << QStringLiteral("Žluťoučký kůň, façade, naïve, Ærø");
-        QTest::newRow("Greek") << QStringLiteral("Ξεσκεπάζω τὴν ψυχοφθόρα");
-        QTest::newRow("Cyrillic") << QStringLiteral("Съешь же ещё этих мягких булок");
-        QTest::newRow("Chinese") << QStringLiteral("天地玄黃宇宙洪荒 天地玄黄");
-        QTest::newRow("Japanese") << QStringLiteral("いろはにほへと チリヌルヲ 日本語");
-        QTest::newRow("Korean") << QStringLiteral("키스의 고유조건은 입술끼리");
-        QTest::newRow("Thai") << QStringLiteral("เป็นมนุษย์สุดประเสริฐ");
-        QTest::newRow("Devanagari") << QStringLiteral("ऋषियों को सताने वाले");
-        QTest::newRow("Beyond the BMP") << QStringLiteral("😀🚀🎉 𠮷 𝔘");
-        QTest::newRow("Mixed") << QStringLiteral("a中bжc😀dक");
+        QTest::newRow("ASCII") << u"The quick (brown) \\fox\\ ))(("_s;
+        QTest::newRow("Latin") << u"Žluťoučký kůň, façade, naïve, Ærø"_s;
+        QTest::newRow("Greek") << u"Ξεσκεπάζω τὴν ψυχοφθόρα"_s;
+        QTest::newRow("Cyrillic") << u"Съешь же ещё этих мягких булок"_s;
+        QTest::newRow("Chinese") << u"天地玄黃宇宙洪荒 天地玄黄"_s;
+        QTest::newRow("Japanese") << u"いろはにほへと チリヌルヲ 日本語"_s;
+        QTest::newRow("Korean") << u"키스의 고유조건은 입술끼리"_s;
+        QTest::newRow("Thai") << u"เป็นมนุษย์สุดประเสริฐ"_s;
+        QTest::newRow("Devanagari") << u"ऋषियों को सताने वाले"_s;
+        QTest::newRow("Beyond the BMP") << u"😀🚀🎉 𠮷 𝔘"_s;
+        QTest::newRow("Mixed") << u"a中bжc😀dक"_s;
     }
 
     void everyScriptIsReadBack() {
@@ -157,16 +154,16 @@ class FontEmbedderTest : public QObject {
     }
 
     void rightToLeftTextStaysInLogicalOrder() {
-        const QString text = QStringLiteral("שלום עולם السلام عليكم");
+        const QString text = u"שלום עולם السلام عليكم"_s;
         QCOMPARE(withoutSpace(textByMutool(write(text))), withoutSpace(text));
     }
 
     void charactersThatShareAGlyphReadAsThemselves_data() {
         QTest::addColumn<QString>("text");
-        QTest::newRow("mu") << QStringLiteral("\u00B5\u03BC");
-        QTest::newRow("ohm") << QStringLiteral("\u2126\u03A9");
-        QTest::newRow("radical") << QStringLiteral("\u2F00\u4E00");
-        QTest::newRow("hyphen") << QStringLiteral("a\u2010b-c");
+        QTest::newRow("mu") << u"\u00B5\u03BC"_s;
+        QTest::newRow("ohm") << u"\u2126\u03A9"_s;
+        QTest::newRow("radical") << u"\u2F00\u4E00"_s;
+        QTest::newRow("hyphen") << u"a\u2010b-c"_s;
     }
 
     void charactersThatShareAGlyphReadAsThemselves() {
@@ -175,18 +172,18 @@ class FontEmbedderTest : public QObject {
     }
 
     void uncoveredCharacterIsABoxThatReadsAsItself() {
-        const QString path = write(QStringLiteral("\U000E0FFF"));
-        QRawFont raw(QString::fromUtf8(findTextFonts(QStringLiteral("Liberation Sans"))[0].path()),
+        const QString path = write(u"\U000E0FFF"_s);
+        QRawFont raw(QString::fromUtf8(findTextFonts(u"Liberation Sans"_s)[0].path()),
                      14.0 * kDpi / 72, QFont::PreferNoHinting);
         const QImage box = drawnByQt(raw.pathForGlyph(0));
         QVERIFY(sumOf(box) > 0);
         QVERIFY(difference(firstRow(PdfProbe(path).render(1, kDpi)), box) < 0.2);
         QVERIFY(difference(firstRow(PdfProbe(path).renderWithMutool(1, kDpi)), box) < 0.2);
-        QCOMPARE(textByMutool(path).trimmed(), QStringLiteral("\U000E0FFF"));
+        QCOMPARE(textByMutool(path).trimmed(), u"\U000E0FFF"_s);
     }
 
     void halfASurrogatePairIsABoxAndNoText() {
-        const QString path = write(QStringLiteral("a") + QChar(u'\xD83D') + QStringLiteral("b"));
+        const QString path = write(u"a"_s + QChar(u'\xD83D') + u"b"_s);
         QString log;
         QVERIFY2(PdfProbe(path).isValid(&log), qPrintable(log));
         QVERIFY(textByPoppler(path).startsWith(u'a'));
@@ -196,19 +193,18 @@ class FontEmbedderTest : public QObject {
     void glyphsAreDrawnAsTheFontHasThem_data() {
         QTest::addColumn<QString>("family");
         QTest::addColumn<QString>("text");
-        QTest::newRow("Latin") << QStringLiteral("Liberation Sans") << QStringLiteral("Qg&é");
-        QTest::newRow("Cyrillic") << QStringLiteral("Liberation Sans") << QStringLiteral("Жщя");
-        QTest::newRow("Hebrew") << QStringLiteral("Liberation Sans") << QStringLiteral("ש");
-        QTest::newRow("Arabic") << QStringLiteral("DejaVu Sans") << QStringLiteral("ع");
-        QTest::newRow("Emoji") << QStringLiteral("DejaVu Sans") << QStringLiteral("😀");
-        QTest::newRow("Chinese") << QStringLiteral("Noto Sans CJK SC") << QStringLiteral("龍门");
-        QTest::newRow("Japanese") << QStringLiteral("Noto Sans CJK SC") << QStringLiteral("あ日");
-        QTest::newRow("Korean") << QStringLiteral("Noto Sans CJK SC") << QStringLiteral("한국");
-        QTest::newRow("Han beyond the BMP")
-            << QStringLiteral("Noto Sans CJK SC") << QStringLiteral("𠮷");
-        QTest::newRow("Thai") << QStringLiteral("FreeSerif") << QStringLiteral("ภษ");
-        QTest::newRow("Devanagari") << QStringLiteral("FreeSans") << QStringLiteral("ह");
-        QTest::newRow("Rocket") << QStringLiteral("Unifont Upper") << QStringLiteral("🚀");
+        QTest::newRow("Latin") << u"Liberation Sans"_s << u"Qg&é"_s;
+        QTest::newRow("Cyrillic") << u"Liberation Sans"_s << u"Жщя"_s;
+        QTest::newRow("Hebrew") << u"Liberation Sans"_s << u"ש"_s;
+        QTest::newRow("Arabic") << u"DejaVu Sans"_s << u"ع"_s;
+        QTest::newRow("Emoji") << u"DejaVu Sans"_s << u"😀"_s;
+        QTest::newRow("Chinese") << u"Noto Sans CJK SC"_s << u"龍门"_s;
+        QTest::newRow("Japanese") << u"Noto Sans CJK SC"_s << u"あ日"_s;
+        QTest::newRow("Korean") << u"Noto Sans CJK SC"_s << u"한국"_s;
+        QTest::newRow("Han beyond the BMP") << u"Noto Sans CJK SC"_s << u"𠮷"_s;
+        QTest::newRow("Thai") << u"FreeSerif"_s << u"ภษ"_s;
+        QTest::newRow("Devanagari") << u"FreeSans"_s << u"ह"_s;
+        QTest::newRow("Rocket") << u"Unifont Upper"_s << u"🚀"_s;
     }
 
     void glyphsAreDrawnAsTheFontHasThem() {
@@ -231,7 +227,7 @@ class FontEmbedderTest : public QObject {
     }
 
     void glyphsAdvanceAsMeasured() {
-        const QString text = QStringLiteral("Wide iiii 中 ж 😀 end");
+        const QString text = u"Wide iiii 中 ж 😀 end"_s;
         const auto places = PdfProbe(write(text)).characterOrigins(1);
         const auto characters = text.toUcs4();
         QCOMPARE(places.size(), characters.size());
@@ -239,16 +235,14 @@ class FontEmbedderTest : public QObject {
         // mutool keeps widths in whole thousandths of an em.
         const double rounding = 14 * 0.5 / 1000;
         for (qsizetype i = 0; i < places.size(); ++i) {
-            QVERIFY2(
-                qAbs(places[i].x() - expected) < rounding * double(i + 1),
-                qPrintable(
-                    QStringLiteral("%1 at %2, not %3").arg(i).arg(places[i].x()).arg(expected)));
+            QVERIFY2(qAbs(places[i].x() - expected) < rounding * double(i + 1),
+                     qPrintable(u"%1 at %2, not %3"_s.arg(i).arg(places[i].x()).arg(expected)));
             expected += font()->glyph(characters[i]).advance;
         }
     }
 
     void rowsStandWhereTheLayoutPutThem() {
-        const auto places = PdfProbe(write(QStringLiteral("x\n").repeated(43))).characterOrigins(1);
+        const auto places = PdfProbe(write(u"x\n"_s.repeated(43))).characterOrigins(1);
         QCOMPARE(places.size(), 43);
         QCOMPARE(m_baselines.size(), 43);
         for (qsizetype i = 0; i < places.size(); ++i) {
@@ -261,9 +255,9 @@ class FontEmbedderTest : public QObject {
         for (char32_t character = 0x0400; character < 0x0500; ++character) {
             text += QChar(static_cast<char16_t>(character));
         }
-        const QString path = write(text + QStringLiteral("abc") + text);
-        QCOMPARE(withoutSpace(textByPoppler(path)), text + QStringLiteral("abc") + text);
-        QCOMPARE(withoutSpace(textByMutool(path)), text + QStringLiteral("abc") + text);
+        const QString path = write(text + u"abc"_s + text);
+        QCOMPARE(withoutSpace(textByPoppler(path)), text + u"abc"_s + text);
+        QCOMPARE(withoutSpace(textByMutool(path)), text + u"abc"_s + text);
     }
 
     void thousandsOfHanCharactersAreReadBack() {
@@ -275,12 +269,12 @@ class FontEmbedderTest : public QObject {
     }
 
     void eachFaceIsEmbeddedOnceWithUsedGlyphsAlone() {
-        const QString path = write(QStringLiteral("abc 中文\nж 字\n").repeated(200));
-        const ToolRun run = runTool(QStringLiteral("pdffonts"), {path});
+        const QString path = write(u"abc 中文\nж 字\n"_s.repeated(200));
+        const ToolRun run = runTool(u"pdffonts"_s, {path});
         const auto rows = QString::fromUtf8(run.out).trimmed().split(u'\n').mid(2);
         QCOMPARE(rows.size(), 2);
         for (const QString &row : rows) {
-            QVERIFY2(row.contains(QStringLiteral("yes yes yes")), qPrintable(row));
+            QVERIFY2(row.contains(u"yes yes yes"_s), qPrintable(row));
         }
         QVERIFY(QFile(path).size() < 20'000);
     }
@@ -288,12 +282,12 @@ class FontEmbedderTest : public QObject {
     void sameTextGivesTheSameBytes() {
         qputenv("SOURCE_DATE_EPOCH", "1700000000");
         const auto bytes = [this](const QString &name) {
-            QFile file(write(QStringLiteral("abc 中文 😀 ж"), name));
+            QFile file(write(u"abc 中文 😀 ж"_s, name));
             return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
         };
-        const QByteArray first = bytes(QStringLiteral("first.pdf"));
+        const QByteArray first = bytes(u"first.pdf"_s);
         QVERIFY(!first.isEmpty());
-        QCOMPARE(bytes(QStringLiteral("second.pdf")), first);
+        QCOMPARE(bytes(u"second.pdf"_s), first);
         qunsetenv("SOURCE_DATE_EPOCH");
     }
 };

@@ -16,6 +16,7 @@
 
 #include <cstring>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfFixture;
 using test::PdfProbe;
@@ -58,7 +59,7 @@ class MergeTest : public QObject {
     QTemporaryDir m_folder;
     int m_number = 0;
 
-    QString newPath() { return m_folder.filePath(QStringLiteral("%1.pdf").arg(++m_number)); }
+    QString newPath() { return m_folder.filePath(u"%1.pdf"_s.arg(++m_number)); }
     QString saved(const PdfFixture &fixture) {
         const QString path = newPath();
         return fixture.write(path) ? path : QString();
@@ -107,10 +108,9 @@ class MergeTest : public QObject {
                                      {10, 20, 150, 160}};
         for (int i = 0; i < boxes.size(); ++i) {
             const QRectF &box = boxes.at(i);
-            const QString text = QStringLiteral("<< /Type /Page /Parent 2 0 R /MediaBox [%1 %2 %3 "
-                                                "%4] /Resources << /Font << /F 3 0 R >> >> "
-                                                "/Contents %5 0 R >>")
-                                     .arg(box.left())
+            const QString text = u"<< /Type /Page /Parent 2 0 R /MediaBox [%1 %2 %3 "
+                                 "%4] /Resources << /Font << /F 3 0 R >> >> "
+                                 "/Contents %5 0 R >>"_s.arg(box.left())
                                      .arg(box.top())
                                      .arg(box.right())
                                      .arg(box.bottom())
@@ -120,8 +120,8 @@ class MergeTest : public QObject {
         const PdfProbe probe(merged({saved(source)}));
         QCOMPARE(probe.pageCount(), 5);
         for (int i = 0; i < boxes.size(); ++i) {
-            QCOMPARE(probe.box(QStringLiteral("MediaBox"), i + 1), boxes.at(i));
-            QVERIFY(probe.text(i + 1).contains(QStringLiteral("Page %1").arg(i + 1)));
+            QCOMPARE(probe.box(u"MediaBox"_s, i + 1), boxes.at(i));
+            QVERIFY(probe.text(i + 1).contains(u"Page %1"_s.arg(i + 1)));
         }
     }
 
@@ -155,8 +155,8 @@ class MergeTest : public QObject {
         source.object(5, "<< /Type /Page /Parent 2 0 R /Contents 7 0 R /Rotate 0 >>");
         const QString path = saved(source);
         const QString result = merged({path});
-        QCOMPARE(PdfProbe(result).box(QStringLiteral("MediaBox"), 2), QRectF(0, 0, 321, 123));
-        QCOMPARE(PdfProbe(result).box(QStringLiteral("CropBox"), 1), QRectF(1, 1, 299, 99));
+        QCOMPARE(PdfProbe(result).box(u"MediaBox"_s, 2), QRectF(0, 0, 321, 123));
+        QCOMPARE(PdfProbe(result).box(u"CropBox"_s, 1), QRectF(1, 1, 299, 99));
         QCOMPARE(PdfProbe(result).render(1), PdfProbe(path).render(1));
         QCOMPARE(PdfProbe(result).render(2), PdfProbe(path).render(2));
         const auto document = opened(result);
@@ -244,7 +244,7 @@ class MergeTest : public QObject {
             .pages(4, 2);
         const PdfProbe probe(merged({saved(source)}));
         QCOMPARE(probe.pageCount(), 2);
-        QVERIFY(probe.text(2).contains(QStringLiteral("Page 2")));
+        QVERIFY(probe.text(2).contains(u"Page 2"_s));
     }
 
     void formFieldsOfTheSameNameStayApart() {
@@ -377,7 +377,7 @@ class MergeTest : public QObject {
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(bytes);
         file.close();
-        QVERIFY(PdfProbe(merged({path})).text(2).contains(QStringLiteral("Page 2")));
+        QVERIFY(PdfProbe(merged({path})).text(2).contains(u"Page 2"_s));
     }
 
     void misplacedObjectsInASourceCostOnlyThemselves() {
@@ -390,7 +390,7 @@ class MergeTest : public QObject {
         tree.object(1, "<< /Type /Catalog /Pages 2 0 R /Outlines << /First 2 0 R >> >>");
         const QString result = merged({saved(source), saved(tree)});
         QCOMPARE(PdfProbe(result).pageCount(), 4);
-        QVERIFY(PdfProbe(result).text(4).contains(QStringLiteral("Page 2")));
+        QVERIFY(PdfProbe(result).text(4).contains(u"Page 2"_s));
         QVERIFY(!opened(result)->getRoot().hasKey("/Outlines"));
     }
 
@@ -424,13 +424,13 @@ class MergeTest : public QObject {
             calls.fault = {call, EIO, false, {}};
             const QString path = newPath();
             PDFContext context(path, through(calls));
-            QCOMPARE(refusal(context, input), QStringLiteral("Cannot read the file: %1")
-                                                  .arg(QString::fromLocal8Bit(std::strerror(EIO))));
+            QCOMPARE(refusal(context, input),
+                     u"Cannot read the file: %1"_s.arg(QString::fromLocal8Bit(std::strerror(EIO))));
             QCOMPARE(context.pageCount(), 0);
             QCOMPARE(refusal(context, input), QString()); // The disk is well again.
             QCOMPARE(context.close().status, CloseResult::Status::Written);
-            QVERIFY(PdfProbe(path).text(1).contains(QStringLiteral("Page 1")));
-            QVERIFY(PdfProbe(path).text(2).contains(QStringLiteral("Page 2")));
+            QVERIFY(PdfProbe(path).text(1).contains(u"Page 1"_s));
+            QVERIFY(PdfProbe(path).text(2).contains(u"Page 2"_s));
         }
     }
 
@@ -444,7 +444,7 @@ class MergeTest : public QObject {
         QVERIFY(source.pages(4, 2).write(input));
         const CloseResult result = context.close();
         QCOMPARE(result.status, CloseResult::Status::Failed);
-        QVERIFY2(result.reason.contains(QStringLiteral("was changed")), qPrintable(result.reason));
+        QVERIFY2(result.reason.contains(u"was changed"_s), qPrintable(result.reason));
         QVERIFY(!QFile::exists(path));
     }
 
@@ -456,7 +456,7 @@ class MergeTest : public QObject {
         source.object(20, "<< /Title (First) /Dest [4 0 R /Fit] >>");
         const QString result = merged({saved(source)});
         QCOMPARE(PdfProbe(result).pageCount(), 3);
-        QVERIFY(PdfProbe(result).text(3).contains(QStringLiteral("Page 1")));
+        QVERIFY(PdfProbe(result).text(3).contains(u"Page 1"_s));
         const auto document = opened(result);
         QPDFOutlineDocumentHelper outlines(*document);
         QCOMPARE(pageOf(*document, outlines.getTopLevelOutlines().at(0).getDest()), 0);
@@ -487,7 +487,7 @@ class MergeTest : public QObject {
         source.object(1, kCatalog).pages(4, 1100);
         const QString result = merged({saved(source)});
         QCOMPARE(PdfProbe(result).pageCount(), 1100);
-        QVERIFY(PdfProbe(result).text(1100).contains(QStringLiteral("Page 1100")));
+        QVERIFY(PdfProbe(result).text(1100).contains(u"Page 1100"_s));
         const auto document = opened(result);
         QVERIFY(document->getRoot().getKey("/Pages").getKey("/Kids").getArrayNItems() <= 32);
     }

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <map>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
@@ -59,12 +60,9 @@ class OddDocumentsTest : public QObject {
     std::map<qsizetype, Pages> m_read; ///< What was seen of the documents themselves.
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
-    QString saved(const QByteArray &bytes) const {
-        return writeFile(path(QStringLiteral("source.pdf")), bytes);
-    }
+    QString saved(const QByteArray &bytes) const { return writeFile(path(u"source.pdf"_s), bytes); }
     QString sourceOf(qsizetype index) const {
-        return writeFile(path(QStringLiteral("source%1.pdf").arg(index)),
-                         m_documents.at(index).bytes);
+        return writeFile(path(u"source%1.pdf"_s.arg(index)), m_documents.at(index).bytes);
     }
     const Pages &read(qsizetype index) {
         const auto known = m_read.find(index);
@@ -73,7 +71,7 @@ class OddDocumentsTest : public QObject {
     }
     /// Writes the PDF of all `sources` and returns its path; qpdf finds it in order.
     QString merged(const QStringList &sources) const {
-        QString target = path(QStringLiteral("merged.pdf"));
+        QString target = path(u"merged.pdf"_s);
         QFile::remove(target);
         PDFContext::Settings settings;
         settings.flush = Flush::Never;
@@ -177,12 +175,11 @@ class OddDocumentsTest : public QObject {
     }
     void anEncryptedDocumentIsRefused() {
         QFETCH(QStringList, options);
-        const QString encrypted = path(QStringLiteral("encrypted.pdf"));
+        const QString encrypted = path(u"encrypted.pdf"_s);
         QFile::remove(encrypted);
-        const ToolRun run = runTool(
-            QStringLiteral("qpdf"),
-            QStringList{QStringLiteral("--allow-weak-crypto"), QStringLiteral("--encrypt")} +
-                options + QStringList{QStringLiteral("--"), saved(onePage().bytes()), encrypted});
+        const ToolRun run =
+            runTool(u"qpdf"_s, QStringList{u"--allow-weak-crypto"_s, u"--encrypt"_s} + options +
+                                   QStringList{u"--"_s, saved(onePage().bytes()), encrypted});
         QVERIFY2(QFile::exists(encrypted), run.err.constData());
         QVERIFY(summarizePDF(encrypted).encrypted);
         QVERIFY_THROWS_EXCEPTION(Error, openSourceDocument(SourceFile::examine(encrypted),

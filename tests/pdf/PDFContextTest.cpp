@@ -17,6 +17,7 @@
 #include <csignal>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
 
@@ -82,7 +83,7 @@ class PDFContextTest : public QObject {
         return path;
     }
     QString newFile(const QString &extension) {
-        return file(QStringLiteral("new%1.%2").arg(++m_number).arg(extension));
+        return file(u"new%1.%2"_s.arg(++m_number).arg(extension));
     }
     static PDFContext::Settings settings() {
         PDFContext::Settings settings;
@@ -103,14 +104,14 @@ class PDFContextTest : public QObject {
 
   private Q_SLOTS:
     void drawsAnImageIntoItsRectangle() {
-        const QString path = file(QStringLiteral("image.pdf"));
-        const auto result = writeImages(path, {jpeg(QStringLiteral("a.jpg"))});
+        const QString path = file(u"image.pdf"_s);
+        const auto result = writeImages(path, {jpeg(u"a.jpg"_s)});
         QVERIFY2(result.status == CloseResult::Status::Written, qPrintable(result.reason));
         const PdfProbe probe(path);
         QString log;
         QVERIFY2(probe.isValid(&log), qPrintable(log));
         QCOMPARE(probe.pageCount(), 1);
-        QCOMPARE(probe.box(QStringLiteral("MediaBox"), 1), QRectF(0, 0, 100, 50));
+        QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(0, 0, 100, 50));
         const QImage page = probe.render(1);
         QVERIFY(page.pixelColor(10, 10).red() > 200);
         QVERIFY(page.pixelColor(10, 40).blue() > 200);
@@ -118,8 +119,8 @@ class PDFContextTest : public QObject {
     }
 
     void copiesTheBytesOfAJpegAsTheyAre() {
-        const QString source = jpeg(QStringLiteral("own.jpg"));
-        const QString path = file(QStringLiteral("own.pdf"));
+        const QString source = jpeg(u"own.jpg"_s);
+        const QString path = file(u"own.pdf"_s);
         writeImages(path, {source});
         QFile original(source);
         QVERIFY(original.open(QIODevice::ReadOnly));
@@ -129,9 +130,9 @@ class PDFContextTest : public QObject {
     }
 
     void takesOverThePagesOfAnotherDocument() {
-        const QString first = file(QStringLiteral("first.pdf"));
-        writeImages(first, {jpeg(QStringLiteral("b.jpg")), jpeg(QStringLiteral("c.jpg"))});
-        const QString path = file(QStringLiteral("merged.pdf"));
+        const QString first = file(u"first.pdf"_s);
+        writeImages(first, {jpeg(u"b.jpg"_s), jpeg(u"c.jpg"_s)});
+        const QString path = file(u"merged.pdf"_s);
         PDFContext context(path, settings());
         QCOMPARE(context.addDocument(first), 2);
         QCOMPARE(context.addDocument(first), 2);
@@ -159,9 +160,9 @@ class PDFContextTest : public QObject {
     void everyOrientationShowsThePictureUpright() {
         QFETCH(int, orientation);
         QFETCH(QTransform, stored);
-        const QString source = newFile(QStringLiteral("jpg"));
+        const QString source = newFile(u"jpg"_s);
         QVERIFY(quarters(64).transformed(stored).save(source, "JPEG", 95));
-        const QString path = newFile(QStringLiteral("pdf"));
+        const QString path = newFile(u"pdf"_s);
         PDFContext context(path, settings());
         context.beginPage({0, 0, 80, 80});
         context.drawImage({0, 0, 80, 80}, jpegInPlace(source), orientation);
@@ -175,8 +176,8 @@ class PDFContextTest : public QObject {
     }
 
     void anImageUsedTwiceIsEmbeddedOnce() {
-        const QString source = jpeg(QStringLiteral("twice.jpg"));
-        const QString path = newFile(QStringLiteral("pdf"));
+        const QString source = jpeg(u"twice.jpg"_s);
+        const QString path = newFile(u"pdf"_s);
         writeImages(path, {source, source});
         const QList<QStringList> images = PdfProbe(path).images();
         QCOMPARE(images.size(), 2);
@@ -218,7 +219,7 @@ class PDFContextTest : public QObject {
         image.palette = palette;
         // QByteArray::mid(4) leaves out the length that qCompress() puts first.
         image.data = qCompress(samples).mid(4);
-        const QString path = newFile(QStringLiteral("pdf"));
+        const QString path = newFile(u"pdf"_s);
         PDFContext context(path, settings());
         context.beginPage({0, 0, 40, 20});
         context.drawImage({0, 0, 40, 20}, std::move(image), 1);
@@ -250,7 +251,7 @@ class PDFContextTest : public QObject {
         image.softMask->height = 1;
         image.softMask->color = ImageColor::Gray;
         image.softMask->data = qCompress(QByteArray::fromHex("ff00")).mid(4);
-        const QString path = newFile(QStringLiteral("pdf"));
+        const QString path = newFile(u"pdf"_s);
         PDFContext context(path, settings());
         context.beginPage({0, 0, 40, 20});
         context.drawImage({0, 0, 40, 20}, std::move(image), 1);
@@ -264,7 +265,7 @@ class PDFContextTest : public QObject {
     void aProfileIsEmbeddedOnceForAllImages() {
         QByteArray profile(200, '\0');
         profile.replace(16, 4, "GRAY");
-        const QString path = newFile(QStringLiteral("pdf"));
+        const QString path = newFile(u"pdf"_s);
         PDFContext context(path, settings());
         for (int i = 0; i < 3; ++i) {
             EncodedImage image;
@@ -283,21 +284,20 @@ class PDFContextTest : public QObject {
     }
 
     void theDocumentInformationIsAlwaysThere() {
-        const QString path = newFile(QStringLiteral("pdf"));
+        const QString path = newFile(u"pdf"_s);
         PDFContext::Settings given = settings();
-        given.info.title = QStringLiteral("Gr\u00FC\u00DFe (\u4F60\u597D)");
-        given.info.keywords = QStringLiteral("a, b");
+        given.info.title = u"Gr\u00FC\u00DFe (\u4F60\u597D)"_s;
+        given.info.keywords = u"a, b"_s;
         PDFContext context(path, std::move(given));
         context.beginPage({0, 0, 10, 10});
         context.endPage();
         QCOMPARE(context.close().status, CloseResult::Status::Written);
         const PdfProbe probe(path);
-        QCOMPARE(probe.info(QStringLiteral("Title")),
-                 QStringLiteral("Gr\u00FC\u00DFe (\u4F60\u597D)"));
-        QCOMPARE(probe.info(QStringLiteral("Keywords")), QStringLiteral("a, b"));
-        QCOMPARE(probe.info(QStringLiteral("Creator")), QStringLiteral("Vesprin-Folioforge"));
-        QVERIFY(probe.info(QStringLiteral("Producer")).startsWith(QStringLiteral("Folioforge 1.")));
-        QVERIFY(probe.info(QStringLiteral("CreationDate")).contains(QStringLiteral("2023")));
+        QCOMPARE(probe.info(u"Title"_s), u"Gr\u00FC\u00DFe (\u4F60\u597D)"_s);
+        QCOMPARE(probe.info(u"Keywords"_s), u"a, b"_s);
+        QCOMPARE(probe.info(u"Creator"_s), u"Vesprin-Folioforge"_s);
+        QVERIFY(probe.info(u"Producer"_s).startsWith(u"Folioforge 1."_s));
+        QVERIFY(probe.info(u"CreationDate"_s).contains(u"2023"_s));
         const QByteArray json = probe.json();
         for (const char *key : {"/Author", "/Subject"}) {
             QVERIFY(json.contains(QByteArray("\"") + key + "\": \"u:\""));
@@ -305,12 +305,11 @@ class PDFContextTest : public QObject {
     }
 
     void theSameInputsGiveTheSameBytes() {
-        const QString source = jpeg(QStringLiteral("same.jpg"));
+        const QString source = jpeg(u"same.jpg"_s);
         qputenv("SOURCE_DATE_EPOCH", "1700000000");
         QList<QByteArray> files;
-        for (const QString &title :
-             {QStringLiteral("a"), QStringLiteral("a"), QStringLiteral("b")}) {
-            const QString path = newFile(QStringLiteral("pdf"));
+        for (const QString &title : {u"a"_s, u"a"_s, u"b"_s}) {
+            const QString path = newFile(u"pdf"_s);
             PDFContext::Settings given;
             given.info.title = title;
             PDFContext context(path, std::move(given));
@@ -328,7 +327,7 @@ class PDFContextTest : public QObject {
 
     void theCreationDateFollowsSourceDateEpoch() {
         qputenv("SOURCE_DATE_EPOCH", "86400");
-        const QString path = newFile(QStringLiteral("pdf"));
+        const QString path = newFile(u"pdf"_s);
         PDFContext context(path, {});
         context.beginPage({0, 0, 10, 10});
         context.endPage();
@@ -338,7 +337,7 @@ class PDFContextTest : public QObject {
     }
 
     void contextsDestroyedUnclosedLeaveNothing() {
-        const QString path = newFile(QStringLiteral("pdf"));
+        const QString path = newFile(u"pdf"_s);
         {
             PDFContext context(path, settings());
             context.beginPage({0, 0, 10, 10});
@@ -348,14 +347,14 @@ class PDFContextTest : public QObject {
     }
 
     void aTakenNameGivesWayToTheNext() {
-        const QString taken = jpeg(QStringLiteral("taken.pdf"));
+        const QString taken = jpeg(u"taken.pdf"_s);
         const QByteArray before = contentOf(taken);
-        const QString source = jpeg(QStringLiteral("d.jpg"));
+        const QString source = jpeg(u"d.jpg"_s);
         QCOMPARE(writeImages(taken, {source}).status, CloseResult::Status::NameTaken);
         PDFContext context(taken, settings());
         context.beginPage({0, 0, 10, 10});
         context.endPage();
-        const QString next = newFile(QStringLiteral("pdf"));
+        const QString next = newFile(u"pdf"_s);
         const CloseResult result = context.close([&] { return next; });
         QCOMPARE(result.status, CloseResult::Status::Written);
         QCOMPARE(result.path, next);
@@ -365,12 +364,12 @@ class PDFContextTest : public QObject {
 
     void aFullDiskFailsWithItsReasonAndLeavesNothing() {
         QTemporaryDir folder;
-        const QString source = newFile(QStringLiteral("jpg"));
+        const QString source = newFile(u"jpg"_s);
         QFile big(source);
         QVERIFY(big.open(QIODevice::WriteOnly));
         big.write(QByteArray(4 << 20, 'x'));
         big.close();
-        PDFContext context(folder.filePath(QStringLiteral("full.pdf")), settings());
+        PDFContext context(folder.filePath(u"full.pdf"_s), settings());
         EncodedImage image;
         image.width = image.height = 1;
         image.filter = ImageFilter::Dct;
@@ -390,15 +389,14 @@ class PDFContextTest : public QObject {
         setrlimit(RLIMIT_FSIZE, &before);
         std::signal(SIGXFSZ, handler);
         QCOMPARE(result.status, CloseResult::Status::Failed);
-        QVERIFY2(result.reason.contains(QStringLiteral("File too large")),
-                 qPrintable(result.reason));
+        QVERIFY2(result.reason.contains(u"File too large"_s), qPrintable(result.reason));
         QVERIFY(
             QDir(folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     }
 
     void anImageThatChangedFailsTheDocument() {
-        const QString source = jpeg(QStringLiteral("changing.jpg"));
-        const QString path = newFile(QStringLiteral("pdf"));
+        const QString source = jpeg(u"changing.jpg"_s);
+        const QString path = newFile(u"pdf"_s);
         PDFContext context(path, settings());
         context.beginPage({0, 0, 10, 10});
         context.drawImage({0, 0, 10, 10}, jpegInPlace(source), 1);
@@ -412,14 +410,14 @@ class PDFContextTest : public QObject {
 
     void thousandsOfSourcesNeedFewDescriptors() {
         QStringList sources;
-        const QByteArray bytes = contentOf(jpeg(QStringLiteral("e.jpg")));
+        const QByteArray bytes = contentOf(jpeg(u"e.jpg"_s));
         for (int i = 0; i < 300; ++i) {
-            sources += file(QStringLiteral("many%1.jpg").arg(i));
+            sources += file(u"many%1.jpg"_s.arg(i));
             QFile copy(sources.last());
             QVERIFY(copy.open(QIODevice::WriteOnly));
             copy.write(bytes);
         }
-        const QString first = newFile(QStringLiteral("pdf"));
+        const QString first = newFile(u"pdf"_s);
         rlimit before{};
         getrlimit(RLIMIT_NOFILE, &before);
         const rlimit few{32, before.rlim_max};

@@ -10,6 +10,7 @@
 
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
 using test::runTool;
@@ -20,11 +21,11 @@ class PasswordTest : public QObject {
     QTemporaryDir m_folder;
 
     QString protectedFile(const Encryption &encryption) const {
-        const QString path = m_folder.filePath(QStringLiteral("protected.pdf"));
+        const QString path = m_folder.filePath(u"protected.pdf"_s);
         QFile::remove(path);
         PDFContext::Settings settings;
         settings.flush = Flush::Never;
-        settings.info.title = QStringLiteral("Secret");
+        settings.info.title = u"Secret"_s;
         settings.encryption = std::make_unique<Encryption>(encryption);
         PDFContext context(path, std::move(settings));
         context.beginPage({0, 0, 100, 100});
@@ -36,20 +37,20 @@ class PasswordTest : public QObject {
   private Q_SLOTS:
     // The examples of RFC 4013, section 3.
     void passwordsAreMappedAndNormalized() {
-        QCOMPARE(preparedPassword(QStringLiteral("I\u00ADX")), QByteArray("IX"));
-        QCOMPARE(preparedPassword(QStringLiteral("user")), QByteArray("user"));
-        QCOMPARE(preparedPassword(QStringLiteral("USER")), QByteArray("USER"));
-        QCOMPARE(preparedPassword(QStringLiteral("\u00AA")), QByteArray("a"));
-        QCOMPARE(preparedPassword(QStringLiteral("\u2168")), QByteArray("IX"));
+        QCOMPARE(preparedPassword(u"I\u00ADX"_s), QByteArray("IX"));
+        QCOMPARE(preparedPassword(u"user"_s), QByteArray("user"));
+        QCOMPARE(preparedPassword(u"USER"_s), QByteArray("USER"));
+        QCOMPARE(preparedPassword(u"\u00AA"_s), QByteArray("a"));
+        QCOMPARE(preparedPassword(u"\u2168"_s), QByteArray("IX"));
     }
 
     void forbiddenCharactersAreRefused() {
-        QVERIFY(passwordProblem(QStringLiteral("\u0007")));
-        QVERIFY(passwordProblem(QStringLiteral("\u0627\u0031"))); // a digit last, right to left
+        QVERIFY(passwordProblem(u"\u0007"_s));
+        QVERIFY(passwordProblem(u"\u0627\u0031"_s)); // a digit last, right to left
         QVERIFY(passwordProblem(QString(QChar(0xD800))));
         QVERIFY(passwordProblem(QString(1, QChar(u'\0'))));
-        QVERIFY(passwordProblem(QStringLiteral("\u00AD")));
-        QVERIFY_THROWS_EXCEPTION(Error, preparedPassword(QStringLiteral("\u0007")));
+        QVERIFY(passwordProblem(u"\u00AD"_s));
+        QVERIFY_THROWS_EXCEPTION(Error, preparedPassword(u"\u0007"_s));
     }
 
     void theLimitIs127BytesOfUtf8() {
@@ -70,54 +71,51 @@ class PasswordTest : public QObject {
         const auto same = [&row](const char *name, const QString &password) {
             row(name, password, password);
         };
-        same("ASCII", QStringLiteral("open sesame"));
-        same("blanks", QStringLiteral(" open  sesame "));
-        same("punctuation", QStringLiteral("\"'`$\\%&;|<>*?~!#(){}[]"));
-        same("Latin", QStringLiteral("Gr\u00FC\u00DFe"));
-        same("Greek", QStringLiteral("\u039A\u03C9\u03B4\u03B9\u03BA\u03CC\u03C2"));
-        same("Cyrillic", QStringLiteral("\u041F\u0430\u0440\u043E\u043B\u044C"));
-        same("Hebrew", QStringLiteral("\u05E1\u05D9\u05E1\u05DE\u05D4"));
-        same("Arabic", QStringLiteral("\u0643\u0644\u0645\u0629"));
-        same("Arabic around a digit", QStringLiteral("\u0643\u0644\u06F1\u0645\u0629"));
-        same("Devanagari", QStringLiteral("\u092A\u093E\u0938\u0935\u0930\u094D\u0921"));
-        same("Thai", QStringLiteral("\u0E23\u0E2B\u0E31\u0E2A"));
-        same("Chinese", QStringLiteral("\u5BC6\u7801\u672C"));
-        same("beyond the first plane", QStringLiteral("\U00020000\U00020001"));
-        same("newer than Unicode 3.2", QStringLiteral("\u20BF\u1E9E"));
-        same("emoji", QStringLiteral("\U0001F511\U0001F600"));
+        same("ASCII", u"open sesame"_s);
+        same("blanks", u" open  sesame "_s);
+        same("punctuation", u"\"'`$\\%&;|<>*?~!#(){}[]"_s);
+        same("Latin", u"Gr\u00FC\u00DFe"_s);
+        same("Greek", u"\u039A\u03C9\u03B4\u03B9\u03BA\u03CC\u03C2"_s);
+        same("Cyrillic", u"\u041F\u0430\u0440\u043E\u043B\u044C"_s);
+        same("Hebrew", u"\u05E1\u05D9\u05E1\u05DE\u05D4"_s);
+        same("Arabic", u"\u0643\u0644\u0645\u0629"_s);
+        same("Arabic around a digit", u"\u0643\u0644\u06F1\u0645\u0629"_s);
+        same("Devanagari", u"\u092A\u093E\u0938\u0935\u0930\u094D\u0921"_s);
+        same("Thai", u"\u0E23\u0E2B\u0E31\u0E2A"_s);
+        same("Chinese", u"\u5BC6\u7801\u672C"_s);
+        same("beyond the first plane", u"\U00020000\U00020001"_s);
+        same("newer than Unicode 3.2", u"\u20BF\u1E9E"_s);
+        same("emoji", u"\U0001F511\U0001F600"_s);
         same("longest", QString(127, u'x'));
         same("longest in two bytes", QString(63, QChar(0xE9)) + u'x');
-        row("no-break space", QStringLiteral("a\u00A0b"), QStringLiteral("a b"));
-        row("accent apart", QStringLiteral("cafe\u0301"), QStringLiteral("caf\u00E9"));
-        row("accents in another order", QStringLiteral("a\u0308\u0323"),
-            QStringLiteral("\u1EA1\u0308"));
-        row("ligature", QStringLiteral("o\uFB03ce"), QStringLiteral("office"));
-        row("full width", QStringLiteral("\uFF21\uFF22\uFF13"), QStringLiteral("AB3"));
-        row("half-width kana", QStringLiteral("\uFF76\uFF9E"), QStringLiteral("\u30AC"));
-        row("Hangul letters", QStringLiteral("\u1112\u1161\u11AB"), QStringLiteral("\uD55C"));
-        row("superscript", QStringLiteral("x\u00B2"), QStringLiteral("x2"));
-        row("mathematical letters", QStringLiteral("\U0001D49C\U0001D4B7"), QStringLiteral("Ab"));
-        row("soft hyphen", QStringLiteral("I\u00ADX"), QStringLiteral("IX"));
-        row("joiner", QStringLiteral("\U0001F469\u200D\U0001F680"),
-            QStringLiteral("\U0001F469\U0001F680"));
+        row("no-break space", u"a\u00A0b"_s, u"a b"_s);
+        row("accent apart", u"cafe\u0301"_s, u"caf\u00E9"_s);
+        row("accents in another order", u"a\u0308\u0323"_s, u"\u1EA1\u0308"_s);
+        row("ligature", u"o\uFB03ce"_s, u"office"_s);
+        row("full width", u"\uFF21\uFF22\uFF13"_s, u"AB3"_s);
+        row("half-width kana", u"\uFF76\uFF9E"_s, u"\u30AC"_s);
+        row("Hangul letters", u"\u1112\u1161\u11AB"_s, u"\uD55C"_s);
+        row("superscript", u"x\u00B2"_s, u"x2"_s);
+        row("mathematical letters", u"\U0001D49C\U0001D4B7"_s, u"Ab"_s);
+        row("soft hyphen", u"I\u00ADX"_s, u"IX"_s);
+        row("joiner", u"\U0001F469\u200D\U0001F680"_s, u"\U0001F469\U0001F680"_s);
     }
     void everyReaderOpensWithThePassword() {
         QFETCH(QString, password);
         QFETCH(QString, prepared);
         QCOMPARE(preparedPassword(password), prepared.toUtf8());
-        const QString path = protectedFile({password, QStringLiteral("owner"), false, false});
+        const QString path = protectedFile({password, u"owner"_s, false, false});
         QVERIFY(!path.isEmpty());
         const PdfProbe probe(path, prepared);
         QString log;
         QVERIFY2(probe.isValid(&log), qPrintable(log));
         constexpr int kPopplerToolsLimit = 32;
         if (prepared.toUtf8().size() <= kPopplerToolsLimit) {
-            QCOMPARE(probe.info(QStringLiteral("Title")), QStringLiteral("Secret"));
+            QCOMPARE(probe.info(u"Title"_s), u"Secret"_s);
         }
-        QVERIFY(runTool(QStringLiteral("mutool"),
-                        {QStringLiteral("info"), QStringLiteral("-p"), prepared, path})
-                    .out.contains("Pages: 1"));
-        QVERIFY(!PdfProbe(path, QStringLiteral("wrong")).isValid());
+        QVERIFY(
+            runTool(u"mutool"_s, {u"info"_s, u"-p"_s, prepared, path}).out.contains("Pages: 1"));
+        QVERIFY(!PdfProbe(path, u"wrong"_s).isValid());
         QVERIFY(!PdfProbe(path).isValid());
     }
 
@@ -126,30 +124,27 @@ class PasswordTest : public QObject {
         QTest::addColumn<bool>("refuseCopy");
         QTest::addColumn<QString>("permissions");
         QTest::newRow("nothing") << false << false
-                                 << QStringLiteral("print:yes copy:yes change:yes addNotes:yes "
-                                                   "algorithm:AES-256");
+                                 << u"print:yes copy:yes change:yes addNotes:yes "
+                                    "algorithm:AES-256"_s;
         QTest::newRow("print") << true << false
-                               << QStringLiteral("print:no copy:yes change:yes addNotes:yes "
-                                                 "algorithm:AES-256");
+                               << u"print:no copy:yes change:yes addNotes:yes "
+                                  "algorithm:AES-256"_s;
         QTest::newRow("copy") << false << true
-                              << QStringLiteral("print:yes copy:no change:yes addNotes:yes "
-                                                "algorithm:AES-256");
+                              << u"print:yes copy:no change:yes addNotes:yes "
+                                 "algorithm:AES-256"_s;
         QTest::newRow("both") << true << true
-                              << QStringLiteral("print:no copy:no change:yes addNotes:yes "
-                                                "algorithm:AES-256");
+                              << u"print:no copy:no change:yes addNotes:yes "
+                                 "algorithm:AES-256"_s;
     }
     void onlyWhatIsRefusedIsRefused() {
         QFETCH(bool, refusePrint);
         QFETCH(bool, refuseCopy);
-        const QString path =
-            protectedFile({QStringLiteral("u"), QStringLiteral("o"), refusePrint, refuseCopy});
+        const QString path = protectedFile({u"u"_s, u"o"_s, refusePrint, refuseCopy});
         QFETCH(QString, permissions);
-        const QString shown = PdfProbe(path, QStringLiteral("u")).info(QStringLiteral("Encrypted"));
+        const QString shown = PdfProbe(path, u"u"_s).info(u"Encrypted"_s);
         QVERIFY2(shown.contains(permissions), qPrintable(shown));
         const QByteArray details =
-            runTool(QStringLiteral("qpdf"),
-                    {QStringLiteral("--password=u"), QStringLiteral("--show-encryption"), path})
-                .out;
+            runTool(u"qpdf"_s, {u"--password=u"_s, u"--show-encryption"_s, path}).out;
         QVERIFY(details.contains("R = 6"));
         QVERIFY(details.contains("modify forms: allowed"));
         QVERIFY(details.contains("extract for accessibility: allowed"));
@@ -161,12 +156,10 @@ class PasswordTest : public QObject {
     }
 
     void theOwnerPasswordAloneLeavesTheDocumentOpen() {
-        const QString path = protectedFile({{}, QStringLiteral("owner"), true, true});
+        const QString path = protectedFile({{}, u"owner"_s, true, true});
         QVERIFY(PdfProbe(path).isValid());
-        QVERIFY(
-            PdfProbe(path).info(QStringLiteral("Encrypted")).contains(QStringLiteral("print:no")));
-        const QByteArray details =
-            runTool(QStringLiteral("qpdf"), {QStringLiteral("--show-encryption"), path}).out;
+        QVERIFY(PdfProbe(path).info(u"Encrypted"_s).contains(u"print:no"_s));
+        const QByteArray details = runTool(u"qpdf"_s, {u"--show-encryption"_s, path}).out;
         QVERIFY(details.contains("Supplied password is user password"));
         QVERIFY(!details.contains("Supplied password is owner password"));
     }
@@ -182,9 +175,9 @@ class PasswordTest : public QObject {
     }
 
     void withoutAnOwnerPasswordNobodyIsOwnerByAnEmptyOne() {
-        const QString path = protectedFile({QStringLiteral("user"), {}, false, false});
+        const QString path = protectedFile({u"user"_s, {}, false, false});
         QVERIFY(!PdfProbe(path).isValid());
-        QVERIFY(PdfProbe(path, QStringLiteral("user")).isValid());
+        QVERIFY(PdfProbe(path, u"user"_s).isValid());
     }
 };
 

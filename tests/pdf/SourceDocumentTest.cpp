@@ -15,6 +15,7 @@
 
 #include <cstring>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfFixture;
 using test::runTool;
@@ -35,12 +36,10 @@ class SourceDocumentTest : public QObject {
     }
     /// Three pages encrypted by qpdf.
     QString encrypted(const QString &user, const QStringList &options) const {
-        const QString plain = saved(QStringLiteral("plain.pdf"), threePages().bytes());
-        QString result = path(QStringLiteral("encrypted.pdf"));
-        runTool(QStringLiteral("qpdf"),
-                QStringList{QStringLiteral("--allow-weak-crypto"), QStringLiteral("--encrypt"),
-                            user, QStringLiteral("owner")} +
-                    options + QStringList{QStringLiteral("--"), plain, result});
+        const QString plain = saved(u"plain.pdf"_s, threePages().bytes());
+        QString result = path(u"encrypted.pdf"_s);
+        runTool(u"qpdf"_s, QStringList{u"--allow-weak-crypto"_s, u"--encrypt"_s, user, u"owner"_s} +
+                               options + QStringList{u"--"_s, plain, result});
         return result;
     }
     static QString refusal(const QString &file, SystemCalls &calls = SystemCalls::system()) {
@@ -54,8 +53,7 @@ class SourceDocumentTest : public QObject {
 
   private Q_SLOTS:
     void countsPages() {
-        const PDFSummary summary =
-            summarizePDF(saved(QStringLiteral("a.pdf"), threePages().bytes()));
+        const PDFSummary summary = summarizePDF(saved(u"a.pdf"_s, threePages().bytes()));
         QVERIFY(!summary.encrypted);
         QCOMPARE(summary.pageCount, 3);
     }
@@ -63,9 +61,9 @@ class SourceDocumentTest : public QObject {
     void tellsAnEncryptedDocument_data() {
         QTest::addColumn<QString>("user");
         QTest::addColumn<QStringList>("options");
-        const QStringList weak{QStringLiteral("128"), QStringLiteral("--use-aes=n")};
-        QTest::newRow("AES-256") << QStringLiteral("secret") << QStringList{QStringLiteral("256")};
-        QTest::newRow("empty user password") << QString() << QStringList{QStringLiteral("256")};
+        const QStringList weak{u"128"_s, u"--use-aes=n"_s};
+        QTest::newRow("AES-256") << u"secret"_s << QStringList{u"256"_s};
+        QTest::newRow("empty user password") << QString() << QStringList{u"256"_s};
         QTest::newRow("RC4, empty user password") << QString() << weak;
     }
     void tellsAnEncryptedDocument() {
@@ -83,39 +81,36 @@ class SourceDocumentTest : public QObject {
         QByteArray bytes = threePages().bytes();
         bytes.replace("/Root 1 0 R", "/Root 1 0 R /ID [(a) (a)] /Encrypt << /Filter /Vendor.Own /V "
                                      "4 /R 4 >>");
-        QVERIFY(summarizePDF(saved(QStringLiteral("vendor.pdf"), bytes)).encrypted);
+        QVERIFY(summarizePDF(saved(u"vendor.pdf"_s, bytes)).encrypted);
     }
 
     void aFileWithoutThePdfMarkIsNoPdf() {
-        QCOMPARE(refusal(saved(QStringLiteral("text.pdf"), "just text")),
-                 QStringLiteral("This is not a PDF file"));
-        QCOMPARE(refusal(saved(QStringLiteral("empty.pdf"), {})),
-                 QStringLiteral("This is not a PDF file"));
+        QCOMPARE(refusal(saved(u"text.pdf"_s, "just text")), u"This is not a PDF file"_s);
+        QCOMPARE(refusal(saved(u"empty.pdf"_s, {})), u"This is not a PDF file"_s);
         const QByteArray late = QByteArray(1024, ' ') + threePages().bytes();
-        QCOMPARE(refusal(saved(QStringLiteral("late.pdf"), late)),
-                 QStringLiteral("This is not a PDF file"));
+        QCOMPARE(refusal(saved(u"late.pdf"_s, late)), u"This is not a PDF file"_s);
     }
 
     void bytesBeforeThePdfMarkAreTolerated() {
         const QByteArray bytes = QByteArray(500, '\n') + threePages().bytes();
-        QCOMPARE(summarizePDF(saved(QStringLiteral("shifted.pdf"), bytes)).pageCount, 3);
+        QCOMPARE(summarizePDF(saved(u"shifted.pdf"_s, bytes)).pageCount, 3);
     }
 
     void aDamagedDocumentIsRepaired() {
         QByteArray bytes = threePages().bytes();
         bytes.replace("startxref\n", "startxref\n9");
-        QCOMPARE(summarizePDF(saved(QStringLiteral("damaged.pdf"), bytes)).pageCount, 3);
+        QCOMPARE(summarizePDF(saved(u"damaged.pdf"_s, bytes)).pageCount, 3);
     }
 
     void aHopelessDocumentIsAnError() {
-        QVERIFY(!refusal(saved(QStringLiteral("hopeless.pdf"), "%PDF-1.4\nnothing")).isEmpty());
+        QVERIFY(!refusal(saved(u"hopeless.pdf"_s, "%PDF-1.4\nnothing")).isEmpty());
         QByteArray noCatalog = threePages().bytes();
         noCatalog.replace("/Root 1 0 R", "/Root 99 0 R");
-        QVERIFY(!refusal(saved(QStringLiteral("nocatalog.pdf"), noCatalog)).isEmpty());
+        QVERIFY(!refusal(saved(u"nocatalog.pdf"_s, noCatalog)).isEmpty());
     }
 
     void aHugeDamagedDocumentIsRefusedRatherThanSearched() {
-        QFile file(saved(QStringLiteral("huge.pdf"), threePages().bytes()));
+        QFile file(saved(u"huge.pdf"_s, threePages().bytes()));
         QVERIFY(file.resize(1 << 20));
         QCOMPARE(summarizePDF(file.fileName()).pageCount, 3);
         // Sparse, so it costs no disk; the table of objects is not where a reader looks for it.
@@ -126,40 +121,40 @@ class SourceDocumentTest : public QObject {
     void aPageTreeThatBitesItsTailEnds() {
         PdfFixture fixture = threePages();
         fixture.object(2, "<< /Type /Pages /Count 3 /Kids [4 0 R 2 0 R 5 0 R] >>");
-        const QString file = path(QStringLiteral("loop.pdf"));
+        const QString file = path(u"loop.pdf"_s);
         QVERIFY(fixture.write(file));
         // Either answer will do, as long as there is one.
         QVERIFY(!refusal(file).isEmpty() || summarizePDF(file).pageCount <= 3);
     }
 
     void aPipeOrAFolderIsRefusedAtOnce() {
-        const QString pipe = path(QStringLiteral("pipe.pdf"));
+        const QString pipe = path(u"pipe.pdf"_s);
         QCOMPARE(::mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
-        QCOMPARE(refusal(pipe), QStringLiteral("This is not a regular file"));
-        QCOMPARE(refusal(m_folder.path()), QStringLiteral("This is not a regular file"));
+        QCOMPARE(refusal(pipe), u"This is not a regular file"_s);
+        QCOMPARE(refusal(m_folder.path()), u"This is not a regular file"_s);
     }
 
     void aMissingFileIsAnError() {
-        QVERIFY(refusal(path(QStringLiteral("missing.pdf"))).contains(QStringLiteral("No such")));
+        QVERIFY(refusal(path(u"missing.pdf"_s)).contains(u"No such"_s));
     }
 
     void aReadThatFailsIsAnErrorAndNeverFewerPages() {
-        const QString file = saved(QStringLiteral("spread.pdf"), threePages().spread().bytes());
+        const QString file = saved(u"spread.pdf"_s, threePages().spread().bytes());
         test::FaultyCalls counted;
         QCOMPARE(refusal(file, counted), QString());
         QVERIFY(counted.count() > 5); // The start, the end, the catalog, the tree and its pages.
         for (int call = 1; call <= counted.count(); ++call) {
             test::FaultyCalls calls;
             calls.fault = {call, EIO, false, {}};
-            QCOMPARE(refusal(file, calls), QStringLiteral("Cannot read the file: %1")
-                                               .arg(QString::fromLocal8Bit(std::strerror(EIO))));
+            QCOMPARE(refusal(file, calls),
+                     u"Cannot read the file: %1"_s.arg(QString::fromLocal8Bit(std::strerror(EIO))));
         }
     }
 
     void cutAnywhereADocumentEitherReadsOrFails() {
         const QByteArray whole = threePages().bytes();
         for (qsizetype length = 0; length < whole.size(); length += 37) {
-            const QString file = saved(QStringLiteral("cut.pdf"), whole.left(length));
+            const QString file = saved(u"cut.pdf"_s, whole.left(length));
             QVERIFY(!refusal(file).isEmpty() || summarizePDF(file).pageCount <= 3);
         }
     }

@@ -6,11 +6,13 @@
 #include <QTest>
 #include <QXmlStreamReader>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QString kContents = QStringLiteral(FOLIOFORGE_BUNDLE);
-const QString kResources = kContents + QStringLiteral("/Resources");
-const QString kPages = kResources + QStringLiteral("/pages");
+const QString kResources = kContents + u"/Resources"_s;
+const QString kPages = kResources + u"/pages"_s;
 
 QByteArray contentsOf(const QString &path) {
     QFile file(path);
@@ -19,7 +21,7 @@ QByteArray contentsOf(const QString &path) {
 
 /// The string that follows `key` in a property list; empty where there is none.
 QString stringOf(const QString &key) {
-    QXmlStreamReader xml(contentsOf(kContents + QStringLiteral("/Info.plist")));
+    QXmlStreamReader xml(contentsOf(kContents + u"/Info.plist"_s));
     bool found = false;
     while (!xml.atEnd()) {
         if (!xml.readNextStartElement()) {
@@ -36,7 +38,7 @@ QString stringOf(const QString &key) {
 
 /// What the links, styles and pictures of a page point to.
 QStringList targetsOf(const QString &page) {
-    static const QRegularExpression kTarget(QStringLiteral("(?:href|src)=\"([^\"]*)\""));
+    static const QRegularExpression kTarget(u"(?:href|src)=\"([^\"]*)\""_s);
     QStringList targets;
     auto match = kTarget.globalMatch(QString::fromUtf8(contentsOf(page)));
     while (match.hasNext()) {
@@ -71,9 +73,8 @@ class BundleTest : public QObject {
         QFETCH(QSize, size);
         QList<QByteArray> looks;
         for (const auto *look : {"", "-hover", "-disable"}) {
-            const auto file = QStringLiteral("%1/%2%3.svg")
-                                  .arg(kResources, QLatin1StringView(QTest::currentDataTag()),
-                                       QLatin1StringView(look));
+            const auto file = u"%1/%2%3.svg"_s.arg(
+                kResources, QLatin1StringView(QTest::currentDataTag()), QLatin1StringView(look));
             QVERIFY2(QSvgRenderer(file).isValid(), qPrintable(file));
             QCOMPARE(QSvgRenderer(file).defaultSize(), size);
             looks.append(contentsOf(file));
@@ -82,25 +83,25 @@ class BundleTest : public QObject {
     }
 
     void skinsNeedNoFont() {
-        for (const auto &skin : QDir(kResources).entryInfoList({QStringLiteral("*.svg")})) {
+        for (const auto &skin : QDir(kResources).entryInfoList({u"*.svg"_s})) {
             QVERIFY2(!contentsOf(skin.filePath()).contains("<text"), qPrintable(skin.fileName()));
         }
     }
 
     void propertyListNamesAnIconWithoutItsExtension() {
-        const auto icon = stringOf(QStringLiteral("CFBundleIconFile"));
-        QCOMPARE(icon, QStringLiteral("Folioforge"));
-        QVERIFY(QFileInfo::exists(QStringLiteral("%1/%2.icns").arg(kResources, icon)));
+        const auto icon = stringOf(u"CFBundleIconFile"_s);
+        QCOMPARE(icon, u"Folioforge"_s);
+        QVERIFY(QFileInfo::exists(u"%1/%2.icns"_s.arg(kResources, icon)));
     }
 
     void propertyListNamesTheProgram() {
-        QCOMPARE(stringOf(QStringLiteral("CFBundleName")), QStringLiteral("Folioforge"));
-        QCOMPARE(stringOf(QStringLiteral("CFBundleExecutable")), QStringLiteral("folioforge"));
-        QCOMPARE(stringOf(QStringLiteral("CFBundlePackageType")), QStringLiteral("APPL"));
+        QCOMPARE(stringOf(u"CFBundleName"_s), u"Folioforge"_s);
+        QCOMPARE(stringOf(u"CFBundleExecutable"_s), u"folioforge"_s);
+        QCOMPARE(stringOf(u"CFBundlePackageType"_s), u"APPL"_s);
     }
 
     void iconIsReadInEverySize() {
-        QImageReader reader(kResources + QStringLiteral("/Folioforge.icns"));
+        QImageReader reader(kResources + u"/Folioforge.icns"_s);
         QList<int> sizes;
         for (int i = 0; i < reader.imageCount(); ++i) {
             reader.jumpToImage(i);
@@ -115,16 +116,15 @@ class BundleTest : public QObject {
 
     void filtersAreInPlace() {
         for (const auto *name : {"150m", "96m", "72l"}) {
-            const auto file =
-                QStringLiteral("%1/%2.qfilter").arg(kResources, QLatin1StringView(name));
+            const auto file = u"%1/%2.qfilter"_s.arg(kResources, QLatin1StringView(name));
             QVERIFY2(QFileInfo(file).size() > 0, qPrintable(file));
         }
     }
 
     void pagesPointOnlyToWhatComesWithThem_data() {
         QTest::addColumn<QString>("page");
-        QTest::newRow("tutorial") << kPages + QStringLiteral("/tutorial.html");
-        QTest::newRow("product") << kPages + QStringLiteral("/product.html");
+        QTest::newRow("tutorial") << kPages + u"/tutorial.html"_s;
+        QTest::newRow("product") << kPages + u"/product.html"_s;
     }
 
     void pagesPointOnlyToWhatComesWithThem() {
@@ -142,8 +142,7 @@ class BundleTest : public QObject {
     }
 
     void productPageHasADownloadSection() {
-        QVERIFY(
-            contentsOf(kPages + QStringLiteral("/product.html")).contains("<h2 id=\"download\">"));
+        QVERIFY(contentsOf(kPages + u"/product.html"_s).contains("<h2 id=\"download\">"));
     }
 
     void thereIsAnExampleOfEachKindAndAllAreSmall() {
@@ -156,8 +155,7 @@ class BundleTest : public QObject {
         }
         kinds.removeDuplicates();
         kinds.sort();
-        QCOMPARE(kinds.join(u' '),
-                 QStringLiteral("bmp exr gif icns ico jp2 jpg pdf png psd tga tif txt"));
+        QCOMPARE(kinds.join(u' '), u"bmp exr gif icns ico jp2 jpg pdf png psd tga tif txt"_s);
         QVERIFY2(bytes < 400'000, qPrintable(QString::number(bytes)));
     }
 };

@@ -11,6 +11,7 @@
 #include <clocale>
 #include <cstring>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -83,10 +84,10 @@ class StringToolkitTest : public QObject {
 
     /// Builds a locale for this test alone.
     bool makeLocale(const char *source, const char *charset, const char *name) const {
-        const auto run = test::runTool(QStringLiteral("localedef"),
-                                       {QStringLiteral("-i"), QString::fromLatin1(source),
-                                        QStringLiteral("-f"), QString::fromLatin1(charset),
-                                        m_locales.filePath(QString::fromLatin1(name))});
+        const auto run =
+            test::runTool(u"localedef"_s, {u"-i"_s, QString::fromLatin1(source), u"-f"_s,
+                                           QString::fromLatin1(charset),
+                                           m_locales.filePath(QString::fromLatin1(name))});
         return run.exitCode == 0 || run.exitCode == 1; // 1: made, with warnings
     }
 
@@ -104,8 +105,7 @@ class StringToolkitTest : public QObject {
     // wstring_to_nsstring, string_to_nsstring
 
     void wideStringBecomesAString() {
-        QCOMPARE(wstring_to_nsstring(L"a\u00E9\u20AC\U0001F600"),
-                 QStringLiteral("a\u00E9\u20AC\U0001F600"));
+        QCOMPARE(wstring_to_nsstring(L"a\u00E9\u20AC\U0001F600"), u"a\u00E9\u20AC\U0001F600"_s);
         QCOMPARE(wstring_to_nsstring(std::wstring(L"a\0b", 3)), QString::fromUtf16(u"a\0b", 3));
     }
 
@@ -120,9 +120,9 @@ class StringToolkitTest : public QObject {
 
     void byteStringBecomesAString() {
         QCOMPARE(string_to_nsstring("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80"),
-                 QStringLiteral("a\u00E9\u20AC\U0001F600"));
+                 u"a\u00E9\u20AC\U0001F600"_s);
         QCOMPARE(string_to_nsstring(std::string("a\0b", 3)), QString::fromUtf16(u"a\0b", 3));
-        QCOMPARE(string_to_nsstring("\xEF\xBB\xBFx"), QStringLiteral("\uFEFFx"));
+        QCOMPARE(string_to_nsstring("\xEF\xBB\xBFx"), u"\uFEFFx"_s);
         QVERIFY(!string_to_nsstring({}).isNull());
     }
 
@@ -136,7 +136,7 @@ class StringToolkitTest : public QObject {
 
     void stringBecomesUtf8UpToItsFirstZero() {
         std::string output = "before";
-        NSStringToSTLString(QStringLiteral("\u20ACuro"), output);
+        NSStringToSTLString(u"\u20ACuro"_s, output);
         QCOMPARE(output, std::string("\xE2\x82\xACuro"));
         NSStringToSTLString(QString::fromUtf16(u"ab\0cd", 5), output);
         QCOMPARE(output, std::string("ab"));
@@ -145,7 +145,7 @@ class StringToolkitTest : public QObject {
     }
 
     void stringWithHalfAPairBecomesNoBytes() {
-        const QString half = QStringLiteral("a") + QChar(u'\xD83D');
+        const QString half = u"a"_s + QChar(u'\xD83D');
         std::string bytes = "before";
         NSStringToSTLString(half, bytes);
         QCOMPARE(bytes, std::string());
@@ -159,15 +159,15 @@ class StringToolkitTest : public QObject {
         QVERIFY(locale.selected());
         std::wstring output;
         // Five UTF-16 units, eleven bytes: the count of units is no limit.
-        NSStringToSTLString(QStringLiteral("\u20AC\u20AC\u00E9\U0001F600"), output);
+        NSStringToSTLString(u"\u20AC\u20AC\u00E9\U0001F600"_s, output);
         QVERIFY(output == L"\u20AC\u20AC\u00E9\U0001F600");
     }
 
     void stringBeyondTheLocaleBecomesNoWideString() {
         std::wstring output = L"before";
-        NSStringToSTLString(QStringLiteral("\u20AC"), output);
+        NSStringToSTLString(u"\u20AC"_s, output);
         QVERIFY(output.empty());
-        NSStringToSTLString(QStringLiteral("plain"), output);
+        NSStringToSTLString(u"plain"_s, output);
         QVERIFY(output == L"plain");
     }
 

@@ -9,6 +9,8 @@
 #include <QImage>
 #include <QThread>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge::test {
 namespace {
 
@@ -96,9 +98,8 @@ QString writePdf(const QString &path, int pages) {
 }
 
 QString encryptPdf(const QString &from, const QString &to, const QString &userPassword) {
-    const ToolRun run = runTool(QStringLiteral("qpdf"),
-                                {QStringLiteral("--encrypt"), userPassword, QStringLiteral("owner"),
-                                 QStringLiteral("256"), QStringLiteral("--"), from, to});
+    const ToolRun run =
+        runTool(u"qpdf"_s, {u"--encrypt"_s, userPassword, u"owner"_s, u"256"_s, u"--"_s, from, to});
     if (run.exitCode != 0) {
         qFatal("qpdf: %s", run.err.constData());
     }

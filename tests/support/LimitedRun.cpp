@@ -9,6 +9,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge::test {
 
 namespace {
@@ -39,7 +41,7 @@ void apply(const Limits &limits) {
 /// The most memory that the running `program` had so far. What wait4() tells counts the memory of
 /// this process too, which the program began as a copy of.
 qint64 peakOf(pid_t program) {
-    QFile status(QStringLiteral("/proc/%1/status").arg(program));
+    QFile status(u"/proc/%1/status"_s.arg(program));
     if (!status.open(QIODevice::ReadOnly)) {
         return 0;
     }

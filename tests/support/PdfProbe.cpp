@@ -7,26 +7,28 @@
 #include <algorithm>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge::test {
 
 namespace {
 
 QStringList popplerPassword(const QString &password) {
-    return password.isEmpty() ? QStringList() : QStringList{QStringLiteral("-upw"), password};
+    return password.isEmpty() ? QStringList() : QStringList{u"-upw"_s, password};
 }
 
 QStringList mutoolPassword(const QString &password) {
-    return password.isEmpty() ? QStringList() : QStringList{QStringLiteral("-p"), password};
+    return password.isEmpty() ? QStringList() : QStringList{u"-p"_s, password};
 }
 
 QStringList pageRange(int page) {
     const QString number = QString::number(page);
-    return {QStringLiteral("-f"), number, QStringLiteral("-l"), number};
+    return {u"-f"_s, number, u"-l"_s, number};
 }
 
 /// The length of the PPM picture at the start of `bytes`; -1 where there is none.
 qsizetype lengthOfPpm(QByteArrayView bytes) {
-    static const QRegularExpression header(QStringLiteral("^P6\\s+(\\d+)\\s+(\\d+)\\s+255\\s"));
+    static const QRegularExpression header(u"^P6\\s+(\\d+)\\s+(\\d+)\\s+255\\s"_s);
     constexpr qsizetype kLongestHeader = 32;
     const auto match =
         header.match(QString::fromLatin1(bytes.first(std::min(bytes.size(), kLongestHeader))));
@@ -62,8 +64,7 @@ PdfProbe::PdfProbe(QString path, QString password)
     , m_password(std::move(password)) {}
 
 bool PdfProbe::isValid(QString *log) const {
-    const ToolRun run = runTool(QStringLiteral("qpdf"), {QStringLiteral("--password=") + m_password,
-                                                         QStringLiteral("--check"), m_path});
+    const ToolRun run = runTool(u"qpdf"_s, {u"--password="_s + m_password, u"--check"_s, m_path});
     if (log) {
         *log = QString::fromUtf8(run.out + run.err);
     }
@@ -71,12 +72,11 @@ bool PdfProbe::isValid(QString *log) const {
 }
 
 int PdfProbe::pageCount() const {
-    return info(QStringLiteral("Pages")).toInt();
+    return info(u"Pages"_s).toInt();
 }
 
 QString PdfProbe::info(const QString &key) const {
-    const ToolRun run =
-        runTool(QStringLiteral("pdfinfo"), popplerPassword(m_password) + QStringList{m_path});
+    const ToolRun run = runTool(u"pdfinfo"_s, popplerPassword(m_password) + QStringList{m_path});
     const auto lines = QString::fromUtf8(run.out).split(u'\n');
     for (const QString &line : lines) {
         if (line.startsWith(key + u':')) {
@@ -87,13 +87,10 @@ QString PdfProbe::info(const QString &key) const {
 }
 
 QRectF PdfProbe::box(const QString &name, int page) const {
-    const ToolRun run =
-        runTool(QStringLiteral("pdfinfo"), popplerPassword(m_password) + pageRange(page) +
-                                               QStringList{QStringLiteral("-box"), m_path});
+    const ToolRun run = runTool(u"pdfinfo"_s, popplerPassword(m_password) + pageRange(page) +
+                                                  QStringList{u"-box"_s, m_path});
     const QRegularExpression row(
-        QStringLiteral("Page\\s+%1\\s+%2:\\s+(\\S+)\\s+(\\S+)\\s+(\\S+)\\s+(\\S+)")
-            .arg(page)
-            .arg(name));
+        u"Page\\s+%1\\s+%2:\\s+(\\S+)\\s+(\\S+)\\s+(\\S+)\\s+(\\S+)"_s.arg(page).arg(name));
     const auto match = row.match(QString::fromUtf8(run.out));
     const auto number = [&match](int group) { return match.captured(group).toDouble(); };
     return match.hasMatch() ? QRectF(QPointF(number(1), number(2)), QPointF(number(3), number(4)))
@@ -105,18 +102,15 @@ QString PdfProbe::text(int page) const {
     if (page > 0) {
         arguments += pageRange(page);
     }
-    arguments += {QStringLiteral("-enc"), QStringLiteral("UTF-8"), m_path, QStringLiteral("-")};
-    return QString::fromUtf8(runTool(QStringLiteral("pdftotext"), arguments).out);
+    arguments += {u"-enc"_s, u"UTF-8"_s, m_path, u"-"_s};
+    return QString::fromUtf8(runTool(u"pdftotext"_s, arguments).out);
 }
 
 QList<QPointF> PdfProbe::characterOrigins(int page) const {
-    const ToolRun run = runTool(QStringLiteral("mutool"),
-                                QStringList{QStringLiteral("draw"), QStringLiteral("-q")} +
-                                    mutoolPassword(m_password) +
-                                    QStringList{QStringLiteral("-F"), QStringLiteral("stext"),
-                                                m_path, QString::number(page)});
-    static const QRegularExpression character(
-        QStringLiteral("<char [^>]* x=\"([-0-9.]+)\" y=\"([-0-9.]+)\""));
+    const ToolRun run =
+        runTool(u"mutool"_s, QStringList{u"draw"_s, u"-q"_s} + mutoolPassword(m_password) +
+                                 QStringList{u"-F"_s, u"stext"_s, m_path, QString::number(page)});
+    static const QRegularExpression character(u"<char [^>]* x=\"([-0-9.]+)\" y=\"([-0-9.]+)\""_s);
     QList<QPointF> origins;
     for (const auto &match : character.globalMatch(QString::fromUtf8(run.out))) {
         origins += {match.captured(1).toDouble(), match.captured(2).toDouble()};
@@ -125,17 +119,15 @@ QList<QPointF> PdfProbe::characterOrigins(int page) const {
 }
 
 QImage PdfProbe::render(int page, int dpi) const {
-    const QStringList arguments =
-        popplerPassword(m_password) + pageRange(page) +
-        QStringList{QStringLiteral("-r"), QString::number(dpi), QStringLiteral("-png"), m_path};
-    return QImage::fromData(runTool(QStringLiteral("pdftoppm"), arguments).out);
+    const QStringList arguments = popplerPassword(m_password) + pageRange(page) +
+                                  QStringList{u"-r"_s, QString::number(dpi), u"-png"_s, m_path};
+    return QImage::fromData(runTool(u"pdftoppm"_s, arguments).out);
 }
 
 QList<QImage> PdfProbe::renderAll(int side) const {
     const QStringList arguments =
-        popplerPassword(m_password) +
-        QStringList{QStringLiteral("-scale-to"), QString::number(side), m_path};
-    const QByteArray pictures = runTool(QStringLiteral("pdftoppm"), arguments).out;
+        popplerPassword(m_password) + QStringList{u"-scale-to"_s, QString::number(side), m_path};
+    const QByteArray pictures = runTool(u"pdftoppm"_s, arguments).out;
     QList<QImage> pages;
     QByteArrayView rest(pictures);
     for (auto length = lengthOfPpm(rest); length > 0 && length <= rest.size();
@@ -149,10 +141,9 @@ QList<QImage> PdfProbe::renderAll(int side) const {
 QList<QByteArray> PdfProbe::geometry() const {
     const QString everyPage = QString::number(std::numeric_limits<int>::max());
     const ToolRun run =
-        runTool(QStringLiteral("pdfinfo"),
-                popplerPassword(m_password) +
-                    QStringList{QStringLiteral("-box"), QStringLiteral("-l"), everyPage, m_path});
-    static const QRegularExpression line(QStringLiteral("^Page +(\\d+) +(.*)$"),
+        runTool(u"pdfinfo"_s,
+                popplerPassword(m_password) + QStringList{u"-box"_s, u"-l"_s, everyPage, m_path});
+    static const QRegularExpression line(u"^Page +(\\d+) +(.*)$"_s,
                                          QRegularExpression::MultilineOption);
     QList<QByteArray> pages;
     auto match = line.globalMatch(QString::fromLatin1(run.out));
@@ -167,24 +158,20 @@ QList<QByteArray> PdfProbe::geometry() const {
 
 QImage PdfProbe::renderWithMutool(int page, int dpi) const {
     const QTemporaryDir folder;
-    const QString target = folder.filePath(QStringLiteral("page.png"));
-    QStringList arguments{QStringLiteral("draw"), QStringLiteral("-q"), QStringLiteral("-r"),
-                          QString::number(dpi),   QStringLiteral("-o"), target};
+    const QString target = folder.filePath(u"page.png"_s);
+    QStringList arguments{u"draw"_s, u"-q"_s, u"-r"_s, QString::number(dpi), u"-o"_s, target};
     arguments += mutoolPassword(m_password) + QStringList{m_path, QString::number(page)};
-    runTool(QStringLiteral("mutool"), arguments);
+    runTool(u"mutool"_s, arguments);
     return QImage(target);
 }
 
 QByteArray PdfProbe::json() const {
-    return runTool(QStringLiteral("qpdf"),
-                   {QStringLiteral("--password=") + m_password, QStringLiteral("--json"), m_path})
-        .out;
+    return runTool(u"qpdf"_s, {u"--password="_s + m_password, u"--json"_s, m_path}).out;
 }
 
 QList<QStringList> PdfProbe::images() const {
     const ToolRun run =
-        runTool(QStringLiteral("pdfimages"),
-                popplerPassword(m_password) + QStringList{QStringLiteral("-list"), m_path});
+        runTool(u"pdfimages"_s, popplerPassword(m_password) + QStringList{u"-list"_s, m_path});
     const auto lines = QString::fromUtf8(run.out).split(u'\n', Qt::SkipEmptyParts);
     QList<QStringList> rows;
     for (const QString &line : lines.mid(2)) {

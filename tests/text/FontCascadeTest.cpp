@@ -10,12 +10,13 @@
 
 #include <thread>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
 
 constexpr double kSize = 14;
-const QString kMissingFamily = QStringLiteral("No Such Family");
+const QString kMissingFamily = u"No Such Family"_s;
 
 std::shared_ptr<const FontCascade> cascade() {
     return FontCascade::load(kMissingFamily, kSize);
@@ -46,7 +47,7 @@ class FontCascadeTest : public QObject {
     }
 
     void familyThatTheSystemHasComesFirst() {
-        const auto font = FontCascade::load(QStringLiteral("freeserif"), kSize);
+        const auto font = FontCascade::load(u"freeserif"_s, kSize);
         QCOMPARE(font->face(0).postScriptName(), QByteArray("FreeSerif"));
         QCOMPARE(font->face(1).postScriptName(), QByteArray("LiberationSans"));
     }
@@ -69,25 +70,25 @@ class FontCascadeTest : public QObject {
 
     void everyScriptHasLetters_data() {
         QTest::addColumn<QString>("text");
-        QTest::newRow("Latin") << QStringLiteral("Aé\u1EA0\u0152");
-        QTest::newRow("Greek") << QStringLiteral("\u03B1\u03A9\u1F84");
-        QTest::newRow("Cyrillic") << QStringLiteral("\u0416\u044F\u04D9");
-        QTest::newRow("Hebrew") << QStringLiteral("\u05D0\u05E9\u05BC");
-        QTest::newRow("Arabic") << QStringLiteral("\u0627\u0644\u0639\u06AF");
-        QTest::newRow("Devanagari") << QStringLiteral("\u0939\u093F\u0928");
-        QTest::newRow("Bengali") << QStringLiteral("\u09AC\u09BE");
-        QTest::newRow("Tamil") << QStringLiteral("\u0BA4\u0BAE");
-        QTest::newRow("Thai") << QStringLiteral("\u0E20\u0E32\u0E29");
-        QTest::newRow("Georgian") << QStringLiteral("\u10E5\u10D0");
-        QTest::newRow("Armenian") << QStringLiteral("\u0540\u0561");
-        QTest::newRow("Ethiopic") << QStringLiteral("\u12A0\u121B");
-        QTest::newRow("Tibetan") << QStringLiteral("\u0F56\u0F7C");
-        QTest::newRow("Chinese") << QStringLiteral("\u4E2D\u6587\u9F8D");
-        QTest::newRow("Japanese") << QStringLiteral("\u65E5\u672C\u3042\u30A2");
-        QTest::newRow("Korean") << QStringLiteral("\uD55C\uAD6D\uC5B4");
-        QTest::newRow("Symbols") << QStringLiteral("\u20AC\u2603\u2713\u221E\u2500");
-        QTest::newRow("Emoji") << QStringLiteral("\U0001F600\U0001F680");
-        QTest::newRow("Han beyond the BMP") << QStringLiteral("\U00020BB7");
+        QTest::newRow("Latin") << u"Aé\u1EA0\u0152"_s;
+        QTest::newRow("Greek") << u"\u03B1\u03A9\u1F84"_s;
+        QTest::newRow("Cyrillic") << u"\u0416\u044F\u04D9"_s;
+        QTest::newRow("Hebrew") << u"\u05D0\u05E9\u05BC"_s;
+        QTest::newRow("Arabic") << u"\u0627\u0644\u0639\u06AF"_s;
+        QTest::newRow("Devanagari") << u"\u0939\u093F\u0928"_s;
+        QTest::newRow("Bengali") << u"\u09AC\u09BE"_s;
+        QTest::newRow("Tamil") << u"\u0BA4\u0BAE"_s;
+        QTest::newRow("Thai") << u"\u0E20\u0E32\u0E29"_s;
+        QTest::newRow("Georgian") << u"\u10E5\u10D0"_s;
+        QTest::newRow("Armenian") << u"\u0540\u0561"_s;
+        QTest::newRow("Ethiopic") << u"\u12A0\u121B"_s;
+        QTest::newRow("Tibetan") << u"\u0F56\u0F7C"_s;
+        QTest::newRow("Chinese") << u"\u4E2D\u6587\u9F8D"_s;
+        QTest::newRow("Japanese") << u"\u65E5\u672C\u3042\u30A2"_s;
+        QTest::newRow("Korean") << u"\uD55C\uAD6D\uC5B4"_s;
+        QTest::newRow("Symbols") << u"\u20AC\u2603\u2713\u221E\u2500"_s;
+        QTest::newRow("Emoji") << u"\U0001F600\U0001F680"_s;
+        QTest::newRow("Han beyond the BMP") << u"\U00020BB7"_s;
     }
 
     void everyScriptHasLetters() {

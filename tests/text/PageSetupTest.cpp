@@ -4,23 +4,24 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
 
-const QString kTextMargin = QStringLiteral("Invalid page margin value in text output setting.");
-const QString kImageMargin = QStringLiteral("Invalid page margin value in image output setting.");
-const QString kTextWidth = QStringLiteral("The value of page margin is larger than page width, "
-                                          "please modify your text output setting.");
-const QString kTextHeight = QStringLiteral("The value of page margin is larger than page height, "
-                                           "please modify your text output setting.");
-const QString kImageWidth = QStringLiteral("The value of page margin is larger than page width, "
-                                           "please modify your image output setting.");
-const QString kImageHeight = QStringLiteral("The value of page margin is larger than page height, "
-                                            "please modify your image output setting.");
-const QString kNoUserPassword = QStringLiteral("Please input user password.");
-const QString kNoOwnerPassword = QStringLiteral("Please input owner password.");
-const QString kSamePasswords = QStringLiteral("The passwords can not be the same.");
+const QString kTextMargin = u"Invalid page margin value in text output setting."_s;
+const QString kImageMargin = u"Invalid page margin value in image output setting."_s;
+const QString kTextWidth = u"The value of page margin is larger than page width, "
+                           "please modify your text output setting."_s;
+const QString kTextHeight = u"The value of page margin is larger than page height, "
+                            "please modify your text output setting."_s;
+const QString kImageWidth = u"The value of page margin is larger than page width, "
+                            "please modify your image output setting."_s;
+const QString kImageHeight = u"The value of page margin is larger than page height, "
+                             "please modify your image output setting."_s;
+const QString kNoUserPassword = u"Please input user password."_s;
+const QString kNoOwnerPassword = u"Please input owner password."_s;
+const QString kSamePasswords = u"The passwords can not be the same."_s;
 
 /// The message of a notice; empty when the check passed.
 QString messageOf(const std::optional<Notice> &result) {
@@ -40,21 +41,20 @@ class PageSetupTest : public QObject {
     void numbersAreTheLeadingInteger_data() {
         QTest::addColumn<QString>("text");
         QTest::addColumn<qint64>("value");
-        QTest::newRow("plain") << QStringLiteral("72") << qint64(72);
+        QTest::newRow("plain") << u"72"_s << qint64(72);
         QTest::newRow("empty") << QString() << qint64(0);
-        QTest::newRow("words") << QStringLiteral("wide") << qint64(0);
-        QTest::newRow("unit behind") << QStringLiteral("12pt") << qint64(12);
-        QTest::newRow("fraction") << QStringLiteral("36.9") << qint64(36);
-        QTest::newRow("blanks in front") << QStringLiteral("  5") << qint64(5);
-        QTest::newRow("minus") << QStringLiteral("-1") << qint64(-1);
-        QTest::newRow("plus") << QStringLiteral("+8") << qint64(8);
-        QTest::newRow("sign alone") << QStringLiteral("-") << qint64(0);
-        QTest::newRow("largest") << QStringLiteral("9223372036854775807")
-                                 << std::numeric_limits<qint64>::max();
+        QTest::newRow("words") << u"wide"_s << qint64(0);
+        QTest::newRow("unit behind") << u"12pt"_s << qint64(12);
+        QTest::newRow("fraction") << u"36.9"_s << qint64(36);
+        QTest::newRow("blanks in front") << u"  5"_s << qint64(5);
+        QTest::newRow("minus") << u"-1"_s << qint64(-1);
+        QTest::newRow("plus") << u"+8"_s << qint64(8);
+        QTest::newRow("sign alone") << u"-"_s << qint64(0);
+        QTest::newRow("largest") << u"9223372036854775807"_s << std::numeric_limits<qint64>::max();
         QTest::newRow("too large")
-            << QStringLiteral("99999999999999999999") << std::numeric_limits<qint64>::max();
+            << u"99999999999999999999"_s << std::numeric_limits<qint64>::max();
         QTest::newRow("too small")
-            << QStringLiteral("-99999999999999999999") << std::numeric_limits<qint64>::min();
+            << u"-99999999999999999999"_s << std::numeric_limits<qint64>::min();
     }
 
     void numbersAreTheLeadingInteger() {
@@ -111,7 +111,7 @@ class PageSetupTest : public QObject {
     void theNoticeIsTitledNotice() {
         const auto result = checkTextPageSizeSettings({TextPageA4, 0, 0, margins(257, 0, 0, 0)});
         QVERIFY(result);
-        QCOMPARE(result->title, QStringLiteral("Notice"));
+        QCOMPARE(result->title, u"Notice"_s);
     }
 
     void twoBadMarginsGiveOneNotice() {
@@ -180,7 +180,7 @@ class PageSetupTest : public QObject {
     }
 
     void equalPasswordsAreRefusedByCase() {
-        const QString lower = QStringLiteral("abc");
+        const QString lower = u"abc"_s;
         QCOMPARE(messageOf(checkSecuritySettings({true, lower, true, lower, false, false})),
                  kSamePasswords);
         QCOMPARE(
@@ -189,7 +189,7 @@ class PageSetupTest : public QObject {
     }
 
     void aUserPasswordThatIsOffIsNotCompared() {
-        const QString same = QStringLiteral("abc");
+        const QString same = u"abc"_s;
         QCOMPARE(messageOf(checkSecuritySettings({false, same, true, same, false, false})),
                  QString());
     }

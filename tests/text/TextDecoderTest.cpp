@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 class TextDecoderTest : public QObject {
@@ -11,18 +12,15 @@ class TextDecoderTest : public QObject {
     void validTextIsRead_data() {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("text");
-        QTest::newRow("ascii") << QByteArray("abc") << QStringLiteral("abc");
-        QTest::newRow("two bytes") << QByteArray("\xC3\xA9") << QStringLiteral("\u00E9");
-        QTest::newRow("three bytes") << QByteArray("\xE2\x82\xAC") << QStringLiteral("\u20AC");
-        QTest::newRow("four bytes")
-            << QByteArray("\xF0\x9F\x98\x80") << QStringLiteral("\U0001F600");
+        QTest::newRow("ascii") << QByteArray("abc") << u"abc"_s;
+        QTest::newRow("two bytes") << QByteArray("\xC3\xA9") << u"\u00E9"_s;
+        QTest::newRow("three bytes") << QByteArray("\xE2\x82\xAC") << u"\u20AC"_s;
+        QTest::newRow("four bytes") << QByteArray("\xF0\x9F\x98\x80") << u"\U0001F600"_s;
         QTest::newRow("zero byte") << QByteArray("a\0b", 3) << QString::fromUtf16(u"a\0b", 3);
-        QTest::newRow("mark at the start") << QByteArray("\xEF\xBB\xBFx") << QStringLiteral("x");
-        QTest::newRow("mark inside") << QByteArray("x\xEF\xBB\xBFy") << QStringLiteral("x\uFEFFy");
-        QTest::newRow("second mark")
-            << QByteArray("\xEF\xBB\xBF\xEF\xBB\xBF") << QStringLiteral("\uFEFF");
-        QTest::newRow("last character")
-            << QByteArray("\xF4\x8F\xBF\xBF") << QStringLiteral("\U0010FFFF");
+        QTest::newRow("mark at the start") << QByteArray("\xEF\xBB\xBFx") << u"x"_s;
+        QTest::newRow("mark inside") << QByteArray("x\xEF\xBB\xBFy") << u"x\uFEFFy"_s;
+        QTest::newRow("second mark") << QByteArray("\xEF\xBB\xBF\xEF\xBB\xBF") << u"\uFEFF"_s;
+        QTest::newRow("last character") << QByteArray("\xF4\x8F\xBF\xBF") << u"\U0010FFFF"_s;
         QTest::newRow("noncharacter") << QByteArray("\xEF\xBF\xBE") << QString(QChar(u'\xFFFE'));
     }
 

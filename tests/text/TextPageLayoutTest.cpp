@@ -5,6 +5,7 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 
 namespace {
@@ -36,7 +37,7 @@ class Recorder : public TextPageSink {
 };
 
 std::shared_ptr<const FontCascade> font() {
-    static const auto kept = FontCascade::load(QStringLiteral("Liberation Sans"), 14);
+    static const auto kept = FontCascade::load(u"Liberation Sans"_s, 14);
     return kept;
 }
 
@@ -115,25 +116,23 @@ class TextPageLayoutTest : public QObject {
     void emptyTextIsOneBlankPage() {
         QCOMPARE(layOut(QString()).size(), std::size_t{1});
         QVERIFY(layOut(QString()).front().empty());
-        QCOMPARE(layOut(QStringLiteral("")).size(), std::size_t{1});
+        QCOMPARE(layOut(u""_s).size(), std::size_t{1});
     }
 
     void onlyLineEndsAreOneBlankPage() {
-        const auto pages = layOut(QStringLiteral("\n\r\n\u2028").repeated(500));
+        const auto pages = layOut(u"\n\r\n\u2028"_s.repeated(500));
         QCOMPARE(pages.size(), std::size_t{1});
         QVERIFY(pages.front().empty());
     }
 
     void blankLinesTakeNoRoom() {
-        const auto pages = layOut(QStringLiteral("A\n\nB"));
-        QCOMPARE(rowTexts(pages), QStringList({QStringLiteral("A"), QStringLiteral("B")}));
+        const auto pages = layOut(u"A\n\nB"_s);
+        QCOMPARE(rowTexts(pages), QStringList({u"A"_s, u"B"_s}));
         const Page &page = pages.front();
         QCOMPARE(page[0].y - page[1].y, double(font()->rowHeight()));
     }
 
-    void lineOfBlanksIsNotABlankLine() {
-        QCOMPARE(rowTexts(layOut(QStringLiteral("A\n \nB"))).size(), 3);
-    }
+    void lineOfBlanksIsNotABlankLine() { QCOMPARE(rowTexts(layOut(u"A\n \nB"_s)).size(), 3); }
 
     void everyNewlineCharacterEndsALine_data() {
         QTest::addColumn<QString>("separator");
@@ -141,13 +140,13 @@ class TextPageLayoutTest : public QObject {
              {u'\x0A', u'\x0B', u'\x0C', u'\x0D', u'\x85', u'\x2028', u'\x2029'}) {
             QTest::addRow("U+%04X", code) << QString(QChar(code));
         }
-        QTest::newRow("CR LF") << QStringLiteral("\r\n");
+        QTest::newRow("CR LF") << u"\r\n"_s;
     }
 
     void everyNewlineCharacterEndsALine() {
         QFETCH(const QString, separator);
-        QCOMPARE(rowTexts(layOut(QStringLiteral("one") + separator + QStringLiteral("two"))),
-                 QStringList({QStringLiteral("one"), QStringLiteral("two")}));
+        QCOMPARE(rowTexts(layOut(u"one"_s + separator + u"two"_s)),
+                 QStringList({u"one"_s, u"two"_s}));
     }
 
     void otherControlCharactersAreOrdinaryUnits_data() {
@@ -160,13 +159,13 @@ class TextPageLayoutTest : public QObject {
 
     void otherControlCharactersAreOrdinaryUnits() {
         QFETCH(const QString, unit);
-        const auto pages = layOut(QStringLiteral("a") + unit + QStringLiteral("b"));
+        const auto pages = layOut(u"a"_s + unit + u"b"_s);
         QCOMPARE(pages.front().size(), std::size_t{1});
         QCOMPARE(pages.front().front().glyphs.size(), std::size_t{3});
     }
 
     void firstBaselineIsBelowTheTopMarginByTheRowHeight() {
-        const auto pages = layOut(QStringLiteral("A"), kA4, {50, 60, 100, 7});
+        const auto pages = layOut(u"A"_s, kA4, {50, 60, 100, 7});
         const Row &row = pages.front().front();
         QCOMPARE(row.x, 50.0);
         QCOMPARE(row.y, 842 - (100 + 16.0986328125));
@@ -174,25 +173,24 @@ class TextPageLayoutTest : public QObject {
 
     void lineOfExactlyTheUsableWidthIsOneRow() {
         const double width = 7 * advance(U'A');
-        QCOMPARE(rowTexts(layOutInWidth(QStringLiteral("AAAAAAA"), width)).size(), 1);
+        QCOMPARE(rowTexts(layOutInWidth(u"AAAAAAA"_s, width)).size(), 1);
     }
 
     void rowOfExactlyTheUsableWidthIsNotFull() {
         const double width = 7 * advance(U'A');
-        QCOMPARE(rowTexts(layOutInWidth(QStringLiteral("AAAAAAABC"), width)),
-                 QStringList({QStringLiteral("AAAAAAAB"), QStringLiteral("C")}));
+        QCOMPARE(rowTexts(layOutInWidth(u"AAAAAAABC"_s, width)),
+                 QStringList({u"AAAAAAAB"_s, u"C"_s}));
     }
 
     void lineJustWiderThanTheUsableWidthKeepsItsLastUnit() {
         const double width = 7 * advance(U'A') - 0.001;
-        QCOMPARE(rowTexts(layOutInWidth(QStringLiteral("AAAAAAA"), width)).size(), 1);
-        QCOMPARE(rowTexts(layOutInWidth(QStringLiteral("AAAAAAAB"), width)),
-                 QStringList({QStringLiteral("AAAAAAA"), QStringLiteral("B")}));
+        QCOMPARE(rowTexts(layOutInWidth(u"AAAAAAA"_s, width)).size(), 1);
+        QCOMPARE(rowTexts(layOutInWidth(u"AAAAAAAB"_s, width)),
+                 QStringList({u"AAAAAAA"_s, u"B"_s}));
     }
 
     void unitsWiderThanTheRowStandAlone() {
-        QCOMPARE(rowTexts(layOutInWidth(QStringLiteral("WMW"), 2)),
-                 QStringList({QStringLiteral("W"), QStringLiteral("M"), QStringLiteral("W")}));
+        QCOMPARE(rowTexts(layOutInWidth(u"WMW"_s, 2)), QStringList({u"W"_s, u"M"_s, u"W"_s}));
     }
 
     void rowHoldsAsManyUnitsAsFitPlusOne() {
@@ -207,7 +205,7 @@ class TextPageLayoutTest : public QObject {
     }
 
     void rowsFollowEachOtherToTheTopMarginsMirror() {
-        const auto pages = layOut(QStringLiteral("x\n").repeated(100));
+        const auto pages = layOut(u"x\n"_s.repeated(100));
         // Tops at 72, 88.0986…: a row fits while its lower edge is at most 842 - 72 = 770.
         const int perPage = static_cast<int>((770 - 72) / 16.0986328125);
         QCOMPARE(perPage, 43);
@@ -223,36 +221,35 @@ class TextPageLayoutTest : public QObject {
     void rowThatEndsExactlyAtTheLimitStays() {
         // Two rows of 16.0986328125 between margins of 100.
         const double height = 200 + 2 * 16.0986328125;
-        const QString lines = QStringLiteral("x\nx\nx");
+        const QString lines = u"x\nx\nx"_s;
         QCOMPARE(layOut(lines, {300, height}, {0, 0, 100, 0})[0].size(), std::size_t{2});
         QCOMPARE(layOut(lines, {300, height - 0.001}, {0, 0, 100, 0})[0].size(), std::size_t{1});
     }
 
     void bottomMarginHasNoEffect() {
-        const QString lines = QStringLiteral("x\n").repeated(60);
+        const QString lines = u"x\n"_s.repeated(60);
         QCOMPARE(layOut(lines, kA4, {72, 72, 72, 0})[0].size(),
                  layOut(lines, kA4, {72, 72, 72, 256})[0].size());
     }
 
     void rowTallerThanThePageGetsAPageOfItsOwnAfterABlankOne() {
-        const auto pages = layOut(QStringLiteral("x\ny"), {300, 20}, {0, 0, 8, 0});
+        const auto pages = layOut(u"x\ny"_s, {300, 20}, {0, 0, 8, 0});
         QCOMPARE(pages.size(), std::size_t{3});
         QVERIFY(pages[0].empty());
-        QCOMPARE(textOf(pages[1].at(0)), QStringLiteral("x"));
-        QCOMPARE(textOf(pages[2].at(0)), QStringLiteral("y"));
+        QCOMPARE(textOf(pages[1].at(0)), u"x"_s);
+        QCOMPARE(textOf(pages[2].at(0)), u"y"_s);
     }
 
     void topOfRowsIsKeptInThirtyTwoBits() {
         // 16.0986328125 is exact in 32 bits, but not beside a million points.
-        const auto pages =
-            layOut(QStringLiteral("a\nb\nc"), {595, 3'000'000}, {0, 0, 1'000'000, 0});
+        const auto pages = layOut(u"a\nb\nc"_s, {595, 3'000'000}, {0, 0, 1'000'000, 0});
         const float second = static_cast<float>(1'000'000.0 + 16.0986328125);
         QCOMPARE(pages[0][1].y, 3'000'000 - (16.0986328125 + double(second)));
         QVERIFY(pages[0][1].y != 3'000'000 - (2 * 16.0986328125 + 1'000'000));
     }
 
     void intactPairIsOneGlyph() {
-        const auto pages = layOut(QStringLiteral("a\U0001F600b"));
+        const auto pages = layOut(u"a\U0001F600b"_s);
         const auto &glyphs = pages.front().front().glyphs;
         QCOMPARE(glyphs.size(), std::size_t{3});
         QCOMPARE(glyphs[1].character, U'\U0001F600');
@@ -260,7 +257,7 @@ class TextPageLayoutTest : public QObject {
     }
 
     void halvesOfAPairDrawTheMissingGlyph() {
-        const QString text = QString(QChar(u'\xDE00')) + QStringLiteral("a") + QChar(u'\xD83D');
+        const QString text = QString(QChar(u'\xDE00')) + u"a"_s + QChar(u'\xD83D');
         const auto pages = layOut(text);
         const auto &glyphs = pages.front().front().glyphs;
         QCOMPARE(glyphs.size(), std::size_t{3});
@@ -271,7 +268,7 @@ class TextPageLayoutTest : public QObject {
     void rowMayBreakInsideAPair() {
         // The pair's first half is measured as the missing glyph and passes the margin.
         const double usable = advance(U'a') + font()->missingGlyph().advance - 0.001;
-        const auto pages = layOutInWidth(QStringLiteral("a\U0001F600b"), usable);
+        const auto pages = layOutInWidth(u"a\U0001F600b"_s, usable);
         const Page &page = pages.front();
         QCOMPARE(page[0].glyphs.size(), std::size_t{2});
         QCOMPARE(page[0].glyphs[1], font()->missingGlyph());
@@ -281,9 +278,8 @@ class TextPageLayoutTest : public QObject {
 
     void rowsAreThoseOfMeasuringEveryPrefixAnew() {
         QRandomGenerator random(7);
-        const QString alphabet =
-            QStringLiteral("aiW. \u00E9\u0416\u05D0\u4E2D\u0301\U0001F600\U00020BB7\t") +
-            QChar(u'\xD83D') + QChar(u'\xDE00');
+        const QString alphabet = u"aiW. \u00E9\u0416\u05D0\u4E2D\u0301\U0001F600\U00020BB7\t"_s +
+                                 QChar(u'\xD83D') + QChar(u'\xDE00');
         for (int round = 0; round < 300; ++round) {
             QString line;
             for (int i = random.bounded(1, 120); i > 0; --i) {
@@ -295,7 +291,7 @@ class TextPageLayoutTest : public QObject {
     }
 
     void measuredWidthIsTheSumOfWhatIsDrawn() {
-        const QString text = QStringLiteral("Row \u4E2D\U0001F600");
+        const QString text = u"Row \u4E2D\U0001F600"_s;
         double drawn = 0;
         const auto pages = layOut(text);
         for (const Glyph &glyph : pages.front().front().glyphs) {

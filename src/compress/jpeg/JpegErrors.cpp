@@ -1,5 +1,7 @@
 #include "compress/jpeg/JpegErrors.h"
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -30,8 +32,7 @@ jpeg_error_mgr *install(JpegEscape &escape) {
 }
 
 Error damagedJpeg(const JpegEscape &escape) {
-    return Error(
-        QStringLiteral("damaged JPEG data: %1").arg(QString::fromLatin1(escape.message.data())));
+    return Error(u"damaged JPEG data: %1"_s.arg(QString::fromLatin1(escape.message.data())));
 }
 
 } // namespace folioforge

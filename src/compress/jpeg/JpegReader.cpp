@@ -9,6 +9,8 @@
 #include <cmath>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -46,7 +48,7 @@ JDIMENSION bandRows(const jpeg_decompress_struct &codec) {
 void requireEqualSizes(const PlanarImage &image) {
     for (const Plane &plane : image.planes) {
         if (plane.width() != image.width || plane.height() != image.height) {
-            throw Error(QStringLiteral("JPEG data of an unusual layout"));
+            throw Error(u"JPEG data of an unusual layout"_s);
         }
     }
 }
@@ -153,7 +155,7 @@ JpegReader::JpegReader(std::string_view data, std::optional<int> colorTransform)
     const int components = m_state->codec.num_components;
     if (m_state->codec.jpeg_color_space == JCS_UNKNOWN ||
         (components != 1 && components != 3 && components != 4)) {
-        throw Error(QStringLiteral("JPEG data with %1 components").arg(components));
+        throw Error(u"JPEG data with %1 components"_s.arg(components));
     }
 }
 

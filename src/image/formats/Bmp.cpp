@@ -10,6 +10,8 @@
 #include <bit>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -32,7 +34,7 @@ ImageHeader readBitmapHeader(const FileView &file) {
     const QByteArray head = file.read(0, 54);
     ImageHeader header;
     if (!head.startsWith("BM")) {
-        throw Error(QStringLiteral("The file is no bitmap"));
+        throw Error(u"The file is no bitmap"_s);
     }
     const auto headerSize = littleEndianAt<quint32>(head, kFileHeaderBytes);
     if (headerSize == kOldHeader) {
@@ -73,7 +75,7 @@ void requirePixelsInside(const FileView &file) {
     const qint64 headersEnd = kFileHeaderBytes + littleEndianAt<quint32>(head, kFileHeaderBytes);
     const qint64 pixels = littleEndianAt<qint32>(head, kPixelsAt);
     if (std::max(headersEnd, pixels) >= file.size()) {
-        throw Error(QStringLiteral("The file ends too early"));
+        throw Error(u"The file ends too early"_s);
     }
 }
 
@@ -84,7 +86,7 @@ void requirePlausibleColors(const FileView &file) {
     const int bits = littleEndianAt<quint16>(head, 28);
     if (littleEndianAt<quint32>(head, kFileHeaderBytes) >= kNewHeader && bits <= kMostTableBits &&
         littleEndianAt<quint32>(head, 46) > 1U << bits) {
-        throw Error(QStringLiteral("The bitmap has more colours than its pixels can name"));
+        throw Error(u"The bitmap has more colours than its pixels can name"_s);
     }
 }
 

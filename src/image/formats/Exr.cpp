@@ -17,6 +17,8 @@
 #include <cstring>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -32,7 +34,7 @@ class ExrStream : public Imf::IStream {
         const qint64 got = m_file.readInto(
             m_at, {reinterpret_cast<uchar *>(target), static_cast<size_t>(std::max(size, 0))});
         if (got != size) {
-            throw Error(QStringLiteral("The file ends too early"));
+            throw Error(u"The file ends too early"_s);
         }
         m_at += got;
         return m_at < m_file.size();
@@ -54,8 +56,8 @@ template<typename Work> auto reading(const Work &work) {
     } catch (const std::bad_alloc &) {
         throw;
     } catch (const std::exception &failure) {
-        throw Error(QStringLiteral("The EXR file cannot be read: %1")
-                        .arg(QString::fromUtf8(failure.what()).simplified()));
+        throw Error(u"The EXR file cannot be read: %1"_s.arg(
+            QString::fromUtf8(failure.what()).simplified()));
     }
 }
 
@@ -177,7 +179,7 @@ Raster readPixels(const FileView &file) {
     const bool isChroma = has("RY") && has("BY");
     const bool isColor = isChroma || has("R") || has("G") || has("B");
     if (!isColor && !has("Y")) {
-        throw Error(QStringLiteral("The EXR file has no channels of colour or brightness"));
+        throw Error(u"The EXR file has no channels of colour or brightness"_s);
     }
     Raster raster;
     raster.width = header.width;

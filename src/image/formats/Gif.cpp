@@ -3,6 +3,8 @@
 #include "image/Bytes.h"
 #include "image/formats/QtImage.h"
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -24,7 +26,7 @@ qsizetype firstFrameOf(QByteArrayView gif) {
         ++at;
     }
     if (byteAt(at) != ',') {
-        throw Error(QStringLiteral("The file holds no image"));
+        throw Error(u"The file holds no image"_s);
     }
     return at;
 }

@@ -8,6 +8,8 @@
 #include <optional>
 #include <tuple>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -74,7 +76,7 @@ Candidate largestOf(const std::vector<IcnsEntry> &entries) {
         }
     }
     if (!largest) {
-        throw Error(QStringLiteral("The icon file holds no picture that can be read"));
+        throw Error(u"The icon file holds no picture that can be read"_s);
     }
     return *largest;
 }

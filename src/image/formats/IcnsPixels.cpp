@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -84,7 +86,7 @@ QByteArray expandRuns(QByteArrayView packed, qsizetype size) {
             out.append(packed.sliced(at, count));
             at += count;
         } else {
-            throw Error(QStringLiteral("The file ends too early"));
+            throw Error(u"The file ends too early"_s);
         }
     }
     return out;
@@ -118,7 +120,7 @@ void readTrueColor(const ClassicIcon &icon, QByteArrayView content, Raster &rast
 void readWithOpacity(QByteArrayView content, Raster &raster) {
     constexpr QByteArrayView kSignature("ARGB");
     if (!content.startsWith(kSignature)) {
-        throw Error(QStringLiteral("The icon's pixels are of an unknown kind"));
+        throw Error(u"The icon's pixels are of an unknown kind"_s);
     }
     const qsizetype pixels = qsizetype(raster.width) * raster.height;
     const QByteArray planes = expandRuns(content.sliced(kSignature.size()), 4 * pixels);

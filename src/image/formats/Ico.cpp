@@ -9,6 +9,8 @@
 #include <optional>
 #include <tuple>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -42,7 +44,7 @@ Frame frameOf(const FileView &content) {
     constexpr std::array<int, 6> kDepths = {1, 4, 8, 16, 24, 32};
     if (!isPlain || std::ranges::find(kDepths, frame.bits) == kDepths.end() ||
         frame.header.width <= 0 || frame.header.height <= 0) {
-        throw Error(QStringLiteral("The icon's picture is of an unknown kind"));
+        throw Error(u"The icon's picture is of an unknown kind"_s);
     }
     return frame;
 }
@@ -69,7 +71,7 @@ Frame largestFrame(const FileView &file) {
         }
     }
     if (!largest) {
-        throw Error(QStringLiteral("The icon file holds no picture that can be read"));
+        throw Error(u"The icon file holds no picture that can be read"_s);
     }
     return *largest;
 }
@@ -158,7 +160,7 @@ QImage readBitmap(const Frame &frame) {
     const qint64 start = qint64(littleEndianAt<quint32>(head, 0)) + 4 * palette.size();
     const BottomUpRows rows(frame.content, start, frame.header, frame.bits);
     if (!rows.areThere()) {
-        throw Error(QStringLiteral("The file ends too early"));
+        throw Error(u"The file ends too early"_s);
     }
     QImage picture =
         granted(QImage(frame.header.width, frame.header.height, QImage::Format_ARGB32));

@@ -7,6 +7,8 @@
 #include <array>
 #include <map>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -153,11 +155,11 @@ JpegFacts readFacts(const FileView &file) {
     while (!facts.hasScan) {
         const QByteArrayView lead = reader.bytes(at, 4);
         if (lead.size() < 4) {
-            throw Error(QStringLiteral("The JPEG file ends before its picture begins"));
+            throw Error(u"The JPEG file ends before its picture begins"_s);
         }
         const auto marker = bigEndianAt<uchar>(lead, 1);
         if (bigEndianAt<uchar>(lead, 0) != 0xFF) {
-            throw Error(QStringLiteral("The JPEG file is damaged"));
+            throw Error(u"The JPEG file is damaged"_s);
         }
         if (marker == 0xFF || hasNoLength(marker)) {
             at += marker == 0xFF ? 1 : 2; // Any number of fill bytes may stand before a marker.
@@ -170,7 +172,7 @@ JpegFacts readFacts(const FileView &file) {
         at += 2 + std::max<qint64>(length, 2);
     }
     if (facts.process == 0 || at >= file.size()) {
-        throw Error(QStringLiteral("The JPEG file ends before its picture begins"));
+        throw Error(u"The JPEG file ends before its picture begins"_s);
     }
     return facts;
 }
@@ -184,17 +186,16 @@ ImageColor colorOf(const JpegFacts &facts) {
     case 4:
         return ImageColor::Cmyk;
     default:
-        throw Error(QStringLiteral("The JPEG file has %1 colour components, which is no colour "
-                                   "that a PDF can show")
-                        .arg(facts.components));
+        throw Error(u"The JPEG file has %1 colour components, which is no colour "
+                    "that a PDF can show"_s.arg(facts.components));
     }
 }
 
 void requireProcessOfPdf(const JpegFacts &facts) {
     // DCTDecode holds Huffman-coded baseline, extended and progressive frames of eight bits.
     if (facts.process > Sof2 || facts.precision != 8) {
-        throw Error(QStringLiteral("The JPEG file is of a kind that no PDF can hold (lossless, "
-                                   "arithmetic or more than 8 bits)"));
+        throw Error(u"The JPEG file is of a kind that no PDF can hold (lossless, "
+                    "arithmetic or more than 8 bits)"_s);
     }
 }
 

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -33,7 +35,7 @@ Box boxAt(const FileView &file, qint64 at) {
         length = file.size() - at; // The last box may leave its length to the file.
     }
     if (length < header) {
-        throw Error(QStringLiteral("The JPEG 2000 file is damaged"));
+        throw Error(u"The JPEG 2000 file is damaged"_s);
     }
     // A codestream that was cut short still shows what is there.
     length = std::min(length, file.size() - at);
@@ -174,7 +176,7 @@ Jpeg2000Facts readJpeg2000Facts(const FileView &file) {
         readBoxes(file, 0, facts);
     }
     if (facts.components == 0) {
-        throw Error(QStringLiteral("The JPEG 2000 file holds no picture"));
+        throw Error(u"The JPEG 2000 file holds no picture"_s);
     }
     return facts;
 }

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -23,7 +25,7 @@ OpenJpegCodec openCodec(const Jpeg2000Facts &facts) {
 }
 
 OpenJpegImage decode(const FileView &file, const Jpeg2000Facts &facts) {
-    const Error damaged(QStringLiteral("The JPEG 2000 file is damaged"));
+    const Error damaged(u"The JPEG 2000 file is damaged"_s);
     OpenJpegSource source{
         [&file](qint64 at, std::span<uchar> target) { return file.readInto(at, target); },
         file.size()};

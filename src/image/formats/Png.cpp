@@ -13,6 +13,8 @@
 
 #include <future>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -76,7 +78,7 @@ void readImageHeaderChunk(QByteArrayView chunk, PngFacts &facts) {
                            : (facts.colorType == Rgb || facts.hasAlphaChannel()) &&
                                  (facts.bits == 8 || facts.bits == 16);
     if (!valid) {
-        throw Error(QStringLiteral("The PNG file is damaged"));
+        throw Error(u"The PNG file is damaged"_s);
     }
 }
 
@@ -130,7 +132,7 @@ bool isOfUse(QByteArrayView type) {
 void requireIntact(QByteArrayView typeAndData, quint32 stated) {
     if (libdeflate_crc32(0, typeAndData.data(), static_cast<size_t>(typeAndData.size())) !=
         stated) {
-        throw Error(QStringLiteral("The PNG file is damaged"));
+        throw Error(u"The PNG file is damaged"_s);
     }
 }
 
@@ -164,11 +166,11 @@ PngFacts readFacts(const FileView &file, Reading reading) {
         at = readChunkAt(file, at, reading, facts);
     }
     if (facts.bits == 0 || facts.data.empty()) {
-        throw Error(QStringLiteral("The PNG file holds no picture"));
+        throw Error(u"The PNG file holds no picture"_s);
     }
     if (facts.colorType == Palette && (facts.palette.isEmpty() || facts.palette.size() % 3 != 0 ||
                                        facts.palette.size() > kMostPaletteBytes)) {
-        throw Error(QStringLiteral("The PNG file has no palette"));
+        throw Error(u"The PNG file has no palette"_s);
     }
     return facts;
 }

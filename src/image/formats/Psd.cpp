@@ -8,6 +8,8 @@
 #include <bit>
 #include <cstring>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -23,7 +25,7 @@ class PlaneReader {
         const auto compression = bigEndianAt<quint16>(file.readExactly(m_at, 2), 0);
         m_at += 2;
         if (compression > 1) {
-            throw Error(QStringLiteral("The Photoshop file's compression is unknown"));
+            throw Error(u"The Photoshop file's compression is unknown"_s);
         }
         const qint64 rows = qint64(facts.channels) * facts.header.height;
         m_packed = compression == 1;
@@ -189,7 +191,7 @@ void readSamples(const FileView &file, const PsdFacts &facts, Raster &raster) {
 QByteArray interleavedPalette(const QByteArray &planes) {
     constexpr qsizetype kColors = 256;
     if (planes.size() < 3 * kColors) {
-        throw Error(QStringLiteral("The Photoshop file has no palette"));
+        throw Error(u"The Photoshop file has no palette"_s);
     }
     QByteArray palette;
     for (qsizetype i = 0; i < kColors; ++i) {

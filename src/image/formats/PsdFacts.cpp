@@ -3,6 +3,8 @@
 #include "image/Bytes.h"
 #include "image/Raster.h"
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -44,7 +46,7 @@ ImageColor colorOf(quint16 mode) {
     case LabMode:
         return ImageColor::Lab;
     default:
-        throw Error(QStringLiteral("The Photoshop file's colour mode is unknown"));
+        throw Error(u"The Photoshop file's colour mode is unknown"_s);
     }
 }
 
@@ -64,7 +66,7 @@ void readFileHeader(QByteArrayView head, PsdFacts &facts) {
     constexpr int kMostChannels = 56;
     if (!knownDepth || facts.channels < channelCount(facts.color) ||
         facts.channels > kMostChannels) {
-        throw Error(QStringLiteral("The Photoshop file is damaged"));
+        throw Error(u"The Photoshop file is damaged"_s);
     }
 }
 

@@ -12,6 +12,8 @@
 #include <optional>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -177,7 +179,7 @@ QImage readWithQt(QByteArray bytes, const char *format) {
         if (!size.isEmpty()) {
             granted(QImage(size, QImage::Format_RGB32));
         }
-        throw Error(QStringLiteral("The image cannot be read: %1").arg(reader.errorString()));
+        throw Error(u"The image cannot be read: %1"_s.arg(reader.errorString()));
     }
     return image;
 }

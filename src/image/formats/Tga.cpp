@@ -5,6 +5,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -46,7 +48,7 @@ void requireKnown(const TgaFacts &facts) {
             ? isColorDepth(facts.pixelBits)
             : facts.type == BlackAndWhite && (facts.pixelBits == 8 || facts.pixelBits == 16);
     if (!known || facts.width == 0 || facts.height == 0) {
-        throw Error(QStringLiteral("The file is no TGA image that can be read"));
+        throw Error(u"The file is no TGA image that can be read"_s);
     }
 }
 
@@ -82,7 +84,7 @@ QByteArray expandRuns(QByteArrayView packed, qsizetype size, int pixelBytes) {
         const bool repeated = (count & 0x80) != 0;
         const qsizetype source = repeated ? pixelBytes : pixels * pixelBytes;
         if (at + source > packed.size()) {
-            throw Error(QStringLiteral("The file ends too early"));
+            throw Error(u"The file ends too early"_s);
         }
         const qsizetype wanted = std::min(pixels * pixelBytes, size - done);
         for (qsizetype i = 0; i < wanted; ++i) {

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -38,9 +40,8 @@ int TiffFile::number(uint32_t tag, int missing) const {
 
 void TiffFile::fail() const {
     const QString &message = m_state->message;
-    throw Error(message.isEmpty()
-                    ? QStringLiteral("The TIFF file is damaged")
-                    : QStringLiteral("The TIFF file cannot be read: %1").arg(message));
+    throw Error(message.isEmpty() ? u"The TIFF file is damaged"_s
+                                  : u"The TIFF file cannot be read: %1"_s.arg(message));
 }
 
 tmsize_t TiffFile::read(thandle_t handle, void *target, tmsize_t size) {

@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <cstring>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -201,7 +203,7 @@ void takeRows(TiffPlane &plane, const TiffShape &shape, Raster &raster) {
 QByteArray paletteOf(const TiffFile &tiff, int bits) {
     std::array<const uint16_t *, 3> maps = {};
     if (TIFFGetField(tiff.handle(), TIFFTAG_COLORMAP, &maps[0], &maps[1], &maps[2]) != 1) {
-        throw Error(QStringLiteral("The TIFF file has no palette"));
+        throw Error(u"The TIFF file has no palette"_s);
     }
     const int colors = 1 << bits;
     // Some writers put 8-bit colours where 16-bit ones belong.
@@ -248,8 +250,8 @@ void readAsRgb(const TiffFile &tiff, const TiffShape &shape, Raster &raster) {
     TIFFRGBAImage image = {};
     if (TIFFRGBAImageOK(tiff.handle(), message) == 0 ||
         TIFFRGBAImageBegin(&image, tiff.handle(), 1, message) == 0) {
-        throw Error(QStringLiteral("The TIFF file cannot be read: %1")
-                        .arg(QString::fromUtf8(message).simplified()));
+        throw Error(
+            u"The TIFF file cannot be read: %1"_s.arg(QString::fromUtf8(message).simplified()));
     }
     const std::unique_ptr<TIFFRGBAImage, EndRgbaImage> end(&image);
     image.req_orientation = image.orientation; // The page turns the picture, not the pixels.

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -86,8 +88,8 @@ FontSubset makeFontSubset(const FontFace &face, const std::set<std::uint16_t> &g
     const Owned<hb_subset_plan_t> plan(hb_subset_plan_create_or_fail(face.hbFace(), input.get()));
     const Owned<hb_face_t> cut(plan ? hb_subset_plan_execute_or_fail(plan.get()) : nullptr);
     if (!cut) {
-        throw Error(QStringLiteral("the font %1 cannot be embedded")
-                        .arg(QString::fromLatin1(face.postScriptName())));
+        throw Error(
+            u"the font %1 cannot be embedded"_s.arg(QString::fromLatin1(face.postScriptName())));
     }
     FontSubset subset;
     subset.program = bytesOf(cffTable(cut.get()));

@@ -9,6 +9,8 @@
 #include <array>
 #include <string_view>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -18,7 +20,7 @@ void requirePdfHeader(const SourceFile &file, SourceReader &reader) {
     std::array<char, 1024> start{};
     const auto got = reader.read(file, 0, start);
     if (std::string_view(start.data(), got).find("%PDF-") == std::string_view::npos) {
-        throw Error(QStringLiteral("This is not a PDF file"));
+        throw Error(u"This is not a PDF file"_s);
     }
 }
 
@@ -77,7 +79,7 @@ std::unique_ptr<QPDF> openSourceDocument(const SourceFile &file,
     return atQpdfBorder([&] {
         auto document = openUnlessLocked(file, reader);
         if (!document || document->isEncrypted()) {
-            throw Error(QStringLiteral("The document is encrypted"));
+            throw Error(u"The document is encrypted"_s);
         }
         return document;
     });

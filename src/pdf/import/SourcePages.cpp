@@ -8,6 +8,8 @@
 #include <array>
 #include <set>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -37,7 +39,7 @@ class PageTreeWalk {
     /// Puts the kids of `node` where they are taken from next, the first one first.
     void expand(QPDFObjectHandle node, const InheritedValues &fromAbove) {
         if (node.isIndirect() && !m_visited.insert(node.getObjGen()).second) {
-            throw Error(QStringLiteral("The page tree contains itself"));
+            throw Error(u"The page tree contains itself"_s);
         }
         const auto inherited = std::make_shared<InheritedValues>(fromAbove);
         for (const char *key : kInheritedKeys) {
@@ -77,7 +79,7 @@ QPDFObjectHandle topOf(QPDFObjectHandle node) {
 std::vector<SourcePage> readSourcePages(QPDF &source) {
     auto root = source.getRoot().getKey("/Pages");
     if (!root.isDictionary()) {
-        throw Error(QStringLiteral("The document has no page tree"));
+        throw Error(u"The document has no page tree"_s);
     }
     return PageTreeWalk(topOf(root)).pages();
 }

@@ -5,6 +5,8 @@
 
 #include <QtEndian>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge::test {
 
 namespace {
@@ -199,8 +201,8 @@ QList<OddDocument> oddFilters() {
         {"fax", fax("/Rows 16")},
         {"fax, black is one", fax("/BlackIs1 true /EndOfBlock true")},
         {"JBIG2", jbig2()},
-        {"JPEG 2000", jpx(QStringLiteral("colour.jp2"))},
-        {"a JPEG 2000 codestream", jpx(QStringLiteral("codestream.jp2"))},
+        {"JPEG 2000", jpx(u"colour.jp2"_s)},
+        {"a JPEG 2000 codestream", jpx(u"codestream.jp2"_s)},
     };
 }
 
