@@ -30,9 +30,9 @@ void center(QWidget &window) {
 
 } // namespace
 
-FolioforgeAppDelegate::FolioforgeAppDelegate(Surroundings surroundings,
+FolioforgeAppDelegate::FolioforgeAppDelegate(WindowServices services,
                                              std::unique_ptr<Updater> updater)
-    : m_surroundings(std::move(surroundings))
+    : m_services(std::move(services))
     , m_updater(std::move(updater))
     , m_menuBar(std::make_unique<QMenuBar>()) {
     setupUi(m_menuBar.get());
@@ -43,7 +43,7 @@ FolioforgeAppDelegate::FolioforgeAppDelegate(Surroundings surroundings,
 FolioforgeAppDelegate::~FolioforgeAppDelegate() = default;
 
 void FolioforgeAppDelegate::awakeFromNib() {
-    m_mainWndCtrl = std::make_unique<MainWndCtrl>(m_surroundings);
+    m_mainWndCtrl = std::make_unique<MainWndCtrl>(m_services);
     m_mainWndCtrl->setDelegateObject(this);
     if (QAction *update = itemWithTitle(*m_programMenu, tr("Check for Update..."))) {
         update->setVisible(true);
@@ -52,7 +52,7 @@ void FolioforgeAppDelegate::awakeFromNib() {
 
 void FolioforgeAppDelegate::applicationDidFinishLaunching() {
     QApplication::setWindowIcon(
-        QIcon(u"%1/Contents/Resources/folioforge-256.png"_s.arg(m_surroundings.bundlePath)));
+        QIcon(u"%1/Contents/Resources/folioforge-256.png"_s.arg(m_services.bundlePath)));
     m_mainWndCtrl->setDelegateObject(this);
     m_mainWndCtrl->window()->setMenuBar(m_menuBar.release());
     showMainWindow();
@@ -94,7 +94,7 @@ void FolioforgeAppDelegate::clickMenuItemStart() {
 
 void FolioforgeAppDelegate::clickMenuItemAbout() {
     if (!m_aboutWndCtrl) {
-        m_aboutWndCtrl = std::make_unique<AboutWndCtrl>(m_surroundings.bundlePath);
+        m_aboutWndCtrl = std::make_unique<AboutWndCtrl>(m_services.bundlePath);
     }
     m_aboutWndCtrl->showWindow(m_mainWndCtrl->window());
 }
@@ -103,16 +103,16 @@ void FolioforgeAppDelegate::clickMenuItemUpdate() {
     if (m_updater) {
         m_updater->checkForUpdates();
     } else {
-        m_surroundings.desktop.openURL(downloadPage(m_surroundings.bundlePath));
+        m_services.desktop.openURL(downloadPage(m_services.bundlePath));
     }
 }
 
 void FolioforgeAppDelegate::clickMenuItemSupport() {
-    m_surroundings.desktop.openURL(tutorialPage(m_surroundings.bundlePath));
+    m_services.desktop.openURL(tutorialPage(m_services.bundlePath));
 }
 
 void FolioforgeAppDelegate::clickMenuItemProduct() {
-    m_surroundings.desktop.openURL(productPage(m_surroundings.bundlePath));
+    m_services.desktop.openURL(productPage(m_services.bundlePath));
 }
 
 void FolioforgeAppDelegate::clickMenuItemQuit() {

@@ -3,7 +3,7 @@
 #include "app/AboutWndCtrl.h"
 #include "app/Updater.h"
 #include "mainwnd/MainWndCtrl.h"
-#include "mainwnd/Surroundings.h"
+#include "mainwnd/WindowServices.h"
 #include "ui_MainMenu.h"
 
 #include <QObject>
@@ -21,7 +21,7 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
 
   public:
     /// Without an `updater`, "Check for Update..." opens the product page at its downloads.
-    explicit FolioforgeAppDelegate(Surroundings surroundings,
+    explicit FolioforgeAppDelegate(WindowServices services,
                                    std::unique_ptr<Updater> updater = nullptr);
     ~FolioforgeAppDelegate() override;
 
@@ -50,7 +50,7 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
   private:
     void connectItems();
 
-    Surroundings m_surroundings;
+    WindowServices m_services;
     std::unique_ptr<Updater> m_updater;
     std::unique_ptr<QMenuBar> m_menuBar; ///< The window's from the moment it is loaded.
     std::unique_ptr<MainWndCtrl> m_mainWndCtrl;

@@ -66,9 +66,9 @@ const std::vector<Option> &documentOptions() {
         {"--owner-password-file", Option::Valued,
          [](Arguments &to, Value value) { to.ownerPasswordFile = value; }},
         {"--refuse-print", Option::Switch,
-         [](Arguments &to, Value) { to.options.security.allowPrint = true; }},
+         [](Arguments &to, Value) { to.options.security.refusePrint = true; }},
         {"--refuse-copy", Option::Switch,
-         [](Arguments &to, Value) { to.options.security.allowCopy = true; }},
+         [](Arguments &to, Value) { to.options.security.refuseCopy = true; }},
     };
     return options;
 }

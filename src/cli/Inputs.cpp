@@ -31,11 +31,11 @@ PDFFileInfo readEntry(const QString &path, Input &input) {
     return entry;
 }
 
-Input collectFile(const QByteArray &path, StandIns &standIns) {
+Input collectFile(const QByteArray &path, ReadableLinks &readableLinks) {
     Input input;
     input.shown = QString::fromUtf8(path);
     try {
-        input.entry = readEntry(standIns.pathFor(path), input);
+        input.entry = readEntry(readableLinks.pathFor(path), input);
     } catch (const Error &error) {
         input.rejection = error.reason();
     }
@@ -56,11 +56,12 @@ std::vector<QByteArray> sortedNames(const QByteArray &folder) {
     return names;
 }
 
-void collectFolder(const QByteArray &path, StandIns &standIns, std::vector<Input> &inputs) {
+void collectFolder(const QByteArray &path, ReadableLinks &readableLinks,
+                   std::vector<Input> &inputs) {
     const QByteArray folder = withoutSlashesAtEnd(path);
     try {
         for (const QByteArray &name : sortedNames(folder)) {
-            inputs.push_back(collectFile(folder + '/' + name, standIns));
+            inputs.push_back(collectFile(folder + '/' + name, readableLinks));
         }
     } catch (const Error &error) {
         Input &input = inputs.emplace_back();
@@ -71,14 +72,14 @@ void collectFolder(const QByteArray &path, StandIns &standIns, std::vector<Input
 
 } // namespace
 
-std::vector<Input> collectInputs(std::span<const QByteArray> paths, StandIns &standIns) {
+std::vector<Input> collectInputs(std::span<const QByteArray> paths, ReadableLinks &readableLinks) {
     std::vector<Input> inputs;
     for (const QByteArray &path : paths) {
         std::error_code unknown;
         if (std::filesystem::is_directory(path.toStdString(), unknown)) {
-            collectFolder(path, standIns, inputs);
+            collectFolder(path, readableLinks, inputs);
         } else {
-            inputs.push_back(collectFile(path, standIns));
+            inputs.push_back(collectFile(path, readableLinks));
         }
     }
     return inputs;

@@ -2,7 +2,7 @@
 
 #include "filelist/Orders.h"
 #include "filelist/PDFFileInfo.h"
-#include "files/StandIns.h"
+#include "files/ReadableLinks.h"
 
 #include <QByteArray>
 #include <QString>
@@ -24,7 +24,7 @@ struct Input {
 /// The inputs that `paths` name, in that order. A folder stands for its text and image files in
 /// the order of their names' bytes. A file that is missing, of no recognised type or unreadable,
 /// and a folder that cannot be listed, is rejected with its reason.
-std::vector<Input> collectInputs(std::span<const QByteArray> paths, StandIns &standIns);
+std::vector<Input> collectInputs(std::span<const QByteArray> paths, ReadableLinks &readableLinks);
 
 /// Brings the inputs into `order`.
 void sortInputs(std::vector<Input> &inputs, SortOrder order);

@@ -12,11 +12,11 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-constexpr qint64 kLongestLine = 65536;
+constexpr qint64 kMaxLineLength = 65536;
 
 /// The first line of `file` without its line ending.
 QByteArray readLine(QFile &file, const QByteArray &name) {
-    QByteArray line = file.readLine(kLongestLine);
+    QByteArray line = file.readLine(kMaxLineLength);
     if (file.error() != QFileDevice::NoError) {
         throw ArgumentFault(u"The password file \"%1\" cannot be read: %2"_s.arg(
             QString::fromUtf8(name), file.errorString()));

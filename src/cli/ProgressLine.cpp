@@ -17,9 +17,9 @@ namespace {
 /// The columns that `character` takes on a terminal. The C library is asked because the shell and
 /// most terminals ask it, too; what it does not know may be as wide as any.
 int columnsOf(char32_t character) {
-    constexpr int kMost = 2;
+    constexpr int kMax = 2;
     const int columns = ::wcwidth(static_cast<wchar_t>(character));
-    return columns < 0 ? kMost : columns;
+    return columns < 0 ? kMax : columns;
 }
 
 /// The end of `text` that has room in `most` columns.
@@ -77,11 +77,11 @@ void ProgressLine::show() {
         return;
     }
     // The line must not wrap, or it could not be taken away again.
-    constexpr int kLongestName = 48;
+    constexpr int kMaxNameLength = 48;
     m_console.showProgress(u"%1 of %2  %3 %  %4"_s.arg(m_current + 1)
                                .arg(m_names.size())
                                .arg(static_cast<int>(m_value))
-                               .arg(lastColumns(printable(m_names[m_current]), kLongestName)));
+                               .arg(lastColumns(printable(m_names[m_current]), kMaxNameLength)));
 }
 
 } // namespace folioforge

@@ -68,14 +68,14 @@ QByteArray escaped(const QString &json) {
 
 /// The pages, each once, and no more than a line has room for.
 QString pagesInWords(std::vector<int> pages) {
-    constexpr std::size_t kMost = 10;
+    constexpr std::size_t kMax = 10;
     std::sort(pages.begin(), pages.end());
     pages.erase(std::unique(pages.begin(), pages.end()), pages.end());
     QStringList numbers;
-    for (std::size_t i = 0; i < std::min(pages.size(), kMost); ++i) {
+    for (std::size_t i = 0; i < std::min(pages.size(), kMax); ++i) {
         numbers += QString::number(pages[i]);
     }
-    if (pages.size() > kMost) {
+    if (pages.size() > kMax) {
         numbers += u"..."_s;
     }
     return (pages.size() == 1 ? u"page "_s : u"pages "_s) + numbers.join(u", "_s);

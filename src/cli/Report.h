@@ -1,7 +1,7 @@
 #pragma once
 
 #include "convert/CompressionPass.h"
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 
 #include <QByteArray>
 #include <QString>

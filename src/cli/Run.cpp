@@ -41,7 +41,7 @@ class Run {
   private:
     void collect() {
         QStringList refusedPdfs;
-        for (Input &input : collectInputs(m_arguments.inputs, m_standIns)) {
+        for (Input &input : collectInputs(m_arguments.inputs, m_readableLinks)) {
             if (input.rejection.isEmpty()) {
                 m_inputs.push_back(std::move(input));
                 continue;
@@ -204,7 +204,7 @@ class Run {
     const ConversionOptions &m_options;
     Console &m_console;
     TemporaryFolder m_temporaryFolder;
-    StandIns m_standIns{m_temporaryFolder}; ///< Outlives the inputs that lead through it.
+    ReadableLinks m_readableLinks{m_temporaryFolder}; ///< Outlives the inputs that lead through it.
     std::vector<Input> m_inputs;
     bool m_someFailed = false;
 };

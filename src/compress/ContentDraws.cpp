@@ -4,7 +4,7 @@ namespace folioforge {
 
 void ContentDraws::add(QPDFObjGen image, const Linear &matrix) {
     std::set<Linear> &sizes = images[image];
-    if (sizes.size() < kMostSizes) {
+    if (sizes.size() < kMaxSizes) {
         sizes.insert(matrix);
     } else if (!sizes.contains(matrix)) {
         unclear.insert(image);

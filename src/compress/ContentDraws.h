@@ -13,7 +13,7 @@ namespace folioforge {
 /// What one piece of content draws: images under transformations into its own space.
 struct ContentDraws {
     /// More different sizes of one object than this are not followed.
-    static constexpr std::size_t kMostSizes = 64;
+    static constexpr std::size_t kMaxSizes = 64;
 
     std::map<QPDFObjGen, std::set<Linear>> images;
     std::set<QPDFObjGen> unclear; ///< Images whose size could not be followed.

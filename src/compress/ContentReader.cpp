@@ -13,12 +13,12 @@ namespace folioforge {
 
 namespace {
 
-constexpr std::size_t kDeepestForms = 32;
-constexpr std::size_t kMostContentBytes = 64 << 20;
+constexpr std::size_t kMaxFormDepth = 32;
+constexpr std::size_t kMaxContentBytes = 64 << 20;
 
 /// Appends the text of a form or of a page's contents, and says whether all of it could be read.
 bool readText(QPDFObjectHandle content, std::string &text) {
-    BoundedText target(text, kMostContentBytes);
+    BoundedText target(text, kMaxContentBytes);
     const QPDF *document = content.getOwningQPDF();
     const std::size_t warnings = document ? document->numWarnings() : 0;
     try {
@@ -55,7 +55,7 @@ ContentDraws ContentReader::readForm(QPDFObjectHandle form, ContentScope &outer)
     if (const auto found = known.draws.find(id); found != known.draws.end()) {
         return found->second;
     }
-    if (m_open.contains(id) || m_open.size() >= kDeepestForms) {
+    if (m_open.contains(id) || m_open.size() >= kMaxFormDepth) {
         // Found once only: forms that draw each other ask for it many times.
         const auto [place, isNew] = known.unclear.try_emplace(id);
         if (isNew) {
@@ -100,7 +100,7 @@ ContentDraws ContentReader::drawsOf(const std::string &text, ContentScope &scope
             continue;
         }
         const ContentDraws inner = readForm(drawn.object, scope);
-        if (drawn.unclear || drawn.sizes.size() > ContentDraws::kMostSizes) {
+        if (drawn.unclear || drawn.sizes.size() > ContentDraws::kMaxSizes) {
             draws.addUnclear(inner);
             continue;
         }

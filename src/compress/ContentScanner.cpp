@@ -14,7 +14,7 @@ namespace folioforge {
 
 namespace {
 
-constexpr std::size_t kDeepestNesting = 2000;
+constexpr std::size_t kMaxNestingDepth = 2000;
 
 /// Runs over the tokens of one content stream, keeping the transformation matrix alone.
 class Scanner : public QPDFObjectHandle::TokenFilter {
@@ -74,7 +74,7 @@ class Scanner : public QPDFObjectHandle::TokenFilter {
     void save() {
         // Deeper levels are counted alone, so that "q" over and over claims no memory. What changes
         // within them is not followed, and so undone with the last of them.
-        if (m_saved.size() < kDeepestNesting) {
+        if (m_saved.size() < kMaxNestingDepth) {
             m_saved.push_back(m_matrix);
         } else {
             ++m_unsaved;
@@ -104,7 +104,7 @@ class Scanner : public QPDFObjectHandle::TokenFilter {
         stream.object = object;
         if (m_unsaved > 0) {
             stream.unclear = true;
-        } else if (stream.sizes.size() <= ContentDraws::kMostSizes) {
+        } else if (stream.sizes.size() <= ContentDraws::kMaxSizes) {
             stream.sizes.insert(matrix);
         }
     }

@@ -12,7 +12,7 @@
 namespace folioforge {
 
 /// A stream that content draws by name, and the transformations it is drawn under, at most one
-/// more than ContentDraws::kMostSizes.
+/// more than ContentDraws::kMaxSizes.
 struct DrawnStream {
     QPDFObjectHandle object;
     std::set<Linear> sizes;

@@ -16,7 +16,7 @@ namespace folioforge {
 namespace {
 
 /// An image whose samples need more memory than this is left alone.
-constexpr double kMostSampleBytes = 512e6;
+constexpr double kMaxSampleBytes = 512e6;
 
 Error left(const char *reason) {
     return Error(QString::fromLatin1(reason));
@@ -105,9 +105,9 @@ bool isIndexed(QPDFObjectHandle space) {
 
 /// The data of a colour table, which take 1024 bytes and, of some writers, padding.
 std::string paletteData(QPDFObjectHandle table) {
-    constexpr std::size_t kMostBytes = 64 << 10;
+    constexpr std::size_t kMaxBytes = 64 << 10;
     std::string data;
-    BoundedText target(data, kMostBytes);
+    BoundedText target(data, kMaxBytes);
     bool filtered = false;
     table.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized);
     if (!filtered) {
@@ -124,15 +124,15 @@ void describePalette(QPDFObjectHandle space, ImageJob &job) {
     } else if (table.isStream()) {
         job.palette = paletteData(table);
     }
-    constexpr std::size_t kMostColours = 256;
+    constexpr std::size_t kMaxColors = 256;
     if (job.components == 0 || job.palette.size() < static_cast<std::size_t>(job.components)) {
         throw left("an unusual colour space");
     }
     job.palette.resize(
-        std::min(job.palette.size(), kMostColours * static_cast<std::size_t>(job.components)));
+        std::min(job.palette.size(), kMaxColors * static_cast<std::size_t>(job.components)));
 }
 
-void describeColour(QPDFObjectHandle dictionary, ImageJob &job) {
+void describeColor(QPDFObjectHandle dictionary, ImageJob &job) {
     QPDFObjectHandle space = dictionary.getKey("/ColorSpace");
     if (space.isNull() && job.codec == ImageCodec::Jpx) {
         job.components = 0;
@@ -218,10 +218,10 @@ ImageJob describe(QPDFObjectHandle image, const ImageUse &use, const QuartzFilte
     }
     describeFilters(dictionary, job);
     describeSamples(dictionary, job);
-    describeColour(dictionary, job);
+    describeColor(dictionary, job);
     const double bytes = static_cast<double>(job.width) * job.height * std::max(job.components, 3) *
                          job.bitsPerComponent / 8;
-    if (bytes > kMostSampleBytes) {
+    if (bytes > kMaxSampleBytes) {
         throw left("too large");
     }
     job.scale = scaleFor(job, use, filter);

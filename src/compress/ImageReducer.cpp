@@ -4,7 +4,7 @@
 #include "compress/LosslessCodec.h"
 #include "compress/PlanarImage.h"
 #include "compress/Resampler.h"
-#include "compress/jpeg/JpegColour.h"
+#include "compress/jpeg/JpegColor.h"
 #include "compress/jpeg/JpegReader.h"
 #include "compress/jpeg/JpegWriter.h"
 #include "error/Error.h"
@@ -62,23 +62,23 @@ PlanarImage decodeJpeg(const ImageJob &job, const std::string &data) {
 }
 
 PlanarImage decodeJpx(const ImageJob &job, const std::string &data) {
-    const auto colour = job.components == 0 ? JpxColour::OfData : JpxColour::OfDocument;
-    PlanarImage image = decodeJpx(data, job.width, job.height, job.scale, colour);
+    const auto color = job.components == 0 ? JpxColor::OfData : JpxColor::OfDocument;
+    PlanarImage image = decodeJpx(data, job.width, job.height, job.scale, color);
     if (job.components != 0 && image.components() != job.components) {
         throw wrongSize();
     }
-    toJpegColour(image);
+    toJpegColor(image);
     return image;
 }
 
 void unpackPalette(const ImageJob &job, const std::string &data, PlanarImage &image) {
     const std::size_t components = image.planes.size();
-    const std::size_t colours = job.palette.size() / components;
+    const std::size_t colors = job.palette.size() / components;
     for (std::size_t c = 0; c < components; ++c) {
         std::uint8_t *out = image.planes[c].row(0);
         for (std::size_t i = 0; i < image.planes[c].size(); ++i) {
             const std::size_t index =
-                std::min<std::size_t>(static_cast<unsigned char>(data[i]), colours - 1);
+                std::min<std::size_t>(static_cast<unsigned char>(data[i]), colors - 1);
             out[i] = static_cast<std::uint8_t>(job.palette[index * components + c]);
         }
     }
@@ -139,7 +139,7 @@ PlanarImage decodeSamples(const ImageJob &job, const std::string &data) {
     if (job.purpose == ImagePurpose::Photo && job.lineArt == LineArt::Keep && looksDrawn(image)) {
         throw Error(u"line art"_s);
     }
-    toJpegColour(image);
+    toJpegColor(image);
     return image;
 }
 

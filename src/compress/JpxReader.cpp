@@ -60,7 +60,7 @@ void requireHandled(const opj_image_t &image) {
 }
 
 /// The colours of the data itself are kept only where a device space says the same.
-bool isPlainColour(const opj_image_t &image) {
+bool isPlainColor(const opj_image_t &image) {
     const bool plain = image.color_space == OPJ_CLRSPC_SRGB
                            ? image.numcomps == 3
                            : image.color_space == OPJ_CLRSPC_GRAY && image.numcomps == 1;
@@ -87,8 +87,7 @@ PlanarImage toBytes(const opj_image_t &image) {
 
 } // namespace
 
-PlanarImage decodeJpx(std::string_view data, int width, int height, double scale,
-                      JpxColour colour) {
+PlanarImage decodeJpx(std::string_view data, int width, int height, double scale, JpxColor color) {
     OpenJpegSource source = sourceOf(data);
     const OpenJpegStream stream = openJpegStream(source);
     const OpenJpegCodec codec = openJpegCodec(isBareCodestream(data));
@@ -110,7 +109,7 @@ PlanarImage decodeJpx(std::string_view data, int width, int height, double scale
     // With the finest resolutions left out the components keep their first size until decoded.
     requireHandled(*image);
     if (image->color_space == OPJ_CLRSPC_SYCC ||
-        (colour == JpxColour::OfData && !isPlainColour(*image))) {
+        (color == JpxColor::OfData && !isPlainColor(*image))) {
         throw Error(u"JPEG 2000 data of an unusual colour space"_s);
     }
     return toBytes(*image);

@@ -191,7 +191,7 @@ Plane planeTo(Plane plane, int width, int height) {
 }
 
 /// Colour needs no sharpness: on the way to half and less averages will do.
-Plane colourTo(Plane plane, int width, int height) {
+Plane colorTo(Plane plane, int width, int height) {
     const bool isTwice = (plane.width() + 1) / 2 >= width && (plane.height() + 1) / 2 >= height;
     return planeTo(isTwice ? halved(plane) : std::move(plane), width, height);
 }
@@ -202,8 +202,8 @@ PlanarImage resample(PlanarImage image, int width, int height) {
     PlanarImage target(width, height);
     for (int i = 0; i < image.components(); ++i) {
         Plane &plane = image.planes[static_cast<std::size_t>(i)];
-        target.planes.push_back(isColour(i, image.components())
-                                    ? colourTo(std::move(plane), (width + 1) / 2, (height + 1) / 2)
+        target.planes.push_back(isColor(i, image.components())
+                                    ? colorTo(std::move(plane), (width + 1) / 2, (height + 1) / 2)
                                     : planeTo(std::move(plane), width, height));
     }
     return target;

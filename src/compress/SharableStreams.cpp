@@ -67,7 +67,7 @@ bool isFontProgram(QPDFObjectHandle dictionary) {
            kind.isNameAndEquals("/CIDFontType0C") || kind.isNameAndEquals("/OpenType");
 }
 
-bool isColourProfile(QPDFObjectHandle dictionary) {
+bool isColorProfile(QPDFObjectHandle dictionary) {
     return dictionary.getKey("/N").isInteger() && !dictionary.hasKey("/Type");
 }
 
@@ -85,7 +85,7 @@ std::vector<QPDFObjectHandle> sharableStreams(QPDF &document) {
             continue;
         }
         const QPDFObjectHandle dictionary = object.getDict();
-        if (isImage(object) || isFontProgram(dictionary) || isColourProfile(dictionary) ||
+        if (isImage(object) || isFontProgram(dictionary) || isColorProfile(dictionary) ||
             (isForm(dictionary) && !annotationForms.contains(object))) {
             streams.push_back(object);
         }

@@ -59,7 +59,7 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
         reasonOfFailure([&] { addPages(entry, context, options, stop, outcome); });
     outcome.written = failure.isEmpty();
     if (!outcome.written) {
-        context.keepPages(pagesBefore);
+        context.truncatePages(pagesBefore);
         outcome.message = failure;
     }
     outcome.pages = context.pageCount() - pagesBefore;
@@ -97,8 +97,8 @@ std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security) {
     }
     if (security.useOwnerPassword) {
         encryption->ownerPassword = security.ownerPassword;
-        encryption->refusePrint = security.allowPrint;
-        encryption->refuseCopy = security.allowCopy;
+        encryption->refusePrint = security.refusePrint;
+        encryption->refuseCopy = security.refuseCopy;
     }
     return encryption;
 }

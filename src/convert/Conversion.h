@@ -4,7 +4,7 @@
 #include "convert/ConversionOptions.h"
 #include "convert/OutputName.h"
 #include "filelist/PDFFileInfo.h"
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 
 #include <QString>
 

@@ -53,7 +53,7 @@ void addTextPage(const PDFFileInfo &entry, PDFContext &context, const PageSetup 
 // The header is read again, so that an image that changed since it was listed is placed as it is.
 EmbeddedAs addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup) {
     const ImageHeader header = readImageHeader(entry.filePathName());
-    EncodedImage image = encodeImage(entry.filePathName());
+    PdfImage image = toPdfImage(entry.filePathName());
     const EmbeddedAs embeddedAs = image.embeddedAs;
     const ImagePlacement placement = placeImage(header.sizeInPoints(), setup);
     context.beginPage(QRectF(QPointF(0, 0), placement.page));

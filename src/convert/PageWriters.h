@@ -1,7 +1,7 @@
 #pragma once
 
 #include "filelist/PDFFileInfo.h"
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 #include "pdf/PDFContext.h"
 #include "text/PageSetup.h"
 

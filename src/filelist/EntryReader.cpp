@@ -43,7 +43,7 @@ std::vector<std::optional<PDFFileInfo>> readAll(const QStringList &paths) {
         std::min<std::size_t>(std::thread::hardware_concurrency(), count / kFilesPerThread);
     std::vector<std::future<void>> others;
     while (others.size() + 1 < threads) {
-        others.push_back(beside(work));
+        others.push_back(runAsync(work));
     }
     work();
     std::ranges::for_each(others, &std::future<void>::get);

@@ -1,7 +1,7 @@
 #include "filelist/SourceFiles.h"
 
 #include "error/Error.h"
-#include "files/StandIns.h"
+#include "files/ReadableLinks.h"
 #include "pdf/import/SourceDocument.h"
 
 #include <QFile>
@@ -40,11 +40,11 @@ std::vector<QByteArray> recognisedNames(const QByteArray &folder) {
     return names;
 }
 
-void addDirectorie(const QString &folder, QStringList &files, StandIns &standIns) {
+void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &readableLinks) {
     const QByteArray place = QFile::encodeName(folder);
     try {
         for (const QByteArray &name : recognisedNames(place)) {
-            files += standIns.pathFor(place + '/' + name);
+            files += readableLinks.pathFor(place + '/' + name);
         }
     } catch (const Error &) {
         return; // Such a folder adds nothing.
@@ -54,7 +54,7 @@ void addDirectorie(const QString &folder, QStringList &files, StandIns &standIns
 QString sizeText(qint64 bytes) {
     constexpr qint64 kBlock = 4096;
     constexpr qint64 kKilobyte = 1024;
-    constexpr qint64 kLargestInKilobytes = 1048575;
+    constexpr qint64 kMaxInKilobytes = 1048575;
     constexpr double kMegabyte = 1048576.0;
     const auto counted = static_cast<qint32>(bytes);
     // The sum wraps as 32-bit numbers do: files of 2 GB and more get the text of what is left.
@@ -63,7 +63,7 @@ QString sizeText(qint64 bytes) {
     if (rounded <= kKilobyte) {
         return u"4 KB"_s;
     }
-    if (rounded <= kLargestInKilobytes) {
+    if (rounded <= kMaxInKilobytes) {
         return u"%1 KB"_s.arg(rounded / kKilobyte);
     }
     return u"%1 MB"_s.arg(QString::number(rounded / kMegabyte, 'f', 1));

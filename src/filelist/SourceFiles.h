@@ -11,7 +11,7 @@
 
 namespace folioforge {
 
-class StandIns;
+class ReadableLinks;
 
 /// The names of the text and image files of `folder`, as the file system's own bytes: one level, in
 /// the file system's order, hidden ones too. PDF files inside a folder are not taken, and neither
@@ -20,7 +20,7 @@ std::vector<QByteArray> recognisedNames(const QByteArray &folder);
 
 /// Appends to `files` the paths ("folder/name", or their stand-ins) of the text and image files of
 /// `folder` that recognisedNames() gives; nothing where it cannot be listed.
-void addDirectorie(const QString &folder, QStringList &files, StandIns &standIns);
+void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &readableLinks);
 
 /// Size text of a file of `bytes` bytes, taken as a signed 32-bit number and rounded up to whole
 /// blocks of 4096: "4 KB", "%d KB" or "%0.1f MB".

@@ -19,8 +19,8 @@ QString withoutExtension(const QString &path) {
 }
 
 QString fittingName(QString base, const QString &ending) {
-    constexpr qsizetype kLongestName = 255; // Bytes, NAME_MAX.
-    while (!base.isEmpty() && QFile::encodeName(base + ending).size() > kLongestName) {
+    constexpr qsizetype kMaxNameLength = 255; // Bytes, NAME_MAX.
+    while (!base.isEmpty() && QFile::encodeName(base + ending).size() > kMaxNameLength) {
         const bool pair = base.size() > 1 && base.back().isLowSurrogate();
         base.chop(pair ? 2 : 1);
     }

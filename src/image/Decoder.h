@@ -1,8 +1,8 @@
 #pragma once
 
 #include "files/ImageFile.h"
-#include "image/EncodedImage.h"
 #include "image/ImageHeader.h"
+#include "image/PdfImage.h"
 
 #include <QByteArrayView>
 #include <QLatin1StringView>
@@ -24,7 +24,7 @@ struct Decoder {
     /// where it states none); the caller puts them right. Throws Error.
     ImageHeader (*readHeader)(const FileView &file);
     /// Reads the image. Throws Error.
-    EncodedImage (*encode)(const FileView &file);
+    PdfImage (*encode)(const FileView &file);
 };
 
 /// Bytes at the start of a file from which its format is told.

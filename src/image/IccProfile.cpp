@@ -8,7 +8,7 @@ namespace {
 
 constexpr qsizetype kHeaderBytes = 128;
 
-QByteArrayView colourSpaceSignature(ImageColor color) {
+QByteArrayView colorSpaceSignature(ImageColor color) {
     switch (color) {
     case ImageColor::Gray:
         return "GRAY";
@@ -27,7 +27,7 @@ QByteArrayView colourSpaceSignature(ImageColor color) {
 } // namespace
 
 QByteArray fittingProfile(const QByteArray &profile, ImageColor color) {
-    const QByteArrayView expected = colourSpaceSignature(color);
+    const QByteArrayView expected = colorSpaceSignature(color);
     if (expected.isEmpty() || profile.size() < kHeaderBytes) {
         return {};
     }

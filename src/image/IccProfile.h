@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 
 #include <QByteArray>
 

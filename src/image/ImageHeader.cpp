@@ -14,12 +14,12 @@ namespace {
 
 /// Pixels per inch that a picture may have; the rest are mistakes of writers: 0, 1 for "unknown",
 /// 0.000015, units taken for one another.
-constexpr double kLeastDpi = 5;
-constexpr double kMostDpi = 25400;
+constexpr double kMinDpi = 5;
+constexpr double kMaxDpi = 25400;
 constexpr double kDefaultDpi = 72;
 
 bool isSaneDensity(double dpi) {
-    return dpi >= kLeastDpi && dpi <= kMostDpi; // False for NaN.
+    return dpi >= kMinDpi && dpi <= kMaxDpi; // False for NaN.
 }
 
 /// PNG and BMP count in whole pixels per metre, which no usual density is: 72 per inch is stored as
@@ -76,12 +76,12 @@ ImageHeader readImageHeader(const QString &path) {
     });
 }
 
-EncodedImage encodeImage(const QString &path) {
+PdfImage toPdfImage(const QString &path) {
     return withinMemory([&] {
         const ImageFile file = ImageFile::open(path);
         const Decoder &decoder = decoderFor(file.view());
         checked(decoder.readHeader(file.view()), decoder.format);
-        EncodedImage image = decoder.encode(file.view());
+        PdfImage image = decoder.encode(file.view());
         file.requireUnchanged();
         image.sourcePath = path;
         image.sourceSize = file.size();

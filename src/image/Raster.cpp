@@ -68,7 +68,7 @@ CompressionPlan planFor(const Raster &raster) {
     return {isFiltered, isFiltered ? DeflateEffort::Less : DeflateEffort::Little};
 }
 
-void compressSamples(const Raster &raster, EncodedImage &image) {
+void compressSamples(const Raster &raster, PdfImage &image) {
     const CompressionPlan plan = planFor(raster);
     if (plan.filtered) {
         image.predictor = 15;
@@ -184,7 +184,7 @@ void unpremultiply(Raster &raster) {
     }
 }
 
-std::unique_ptr<EncodedImage> encodeAlpha(const AlphaPlane &alpha, int width, int height) {
+std::unique_ptr<PdfImage> encodeAlpha(const AlphaPlane &alpha, int width, int height) {
     if (isEither(alpha, false)) {
         return nullptr;
     }
@@ -199,17 +199,17 @@ std::unique_ptr<EncodedImage> encodeAlpha(const AlphaPlane &alpha, int width, in
         plane.bits = alpha.bits;
         plane.samples = alpha.samples;
     }
-    return std::make_unique<EncodedImage>(encodeRaster(std::move(plane)));
+    return std::make_unique<PdfImage>(encodeRaster(std::move(plane)));
 }
 
-EncodedImage encodeRaster(Raster raster) {
-    std::future<std::unique_ptr<EncodedImage>> mask;
+PdfImage encodeRaster(Raster raster) {
+    std::future<std::unique_ptr<PdfImage>> mask;
     if (raster.alpha) {
-        mask = beside(raster.samples.size(), [&raster] {
+        mask = runAsync(raster.samples.size(), [&raster] {
             return encodeAlpha(*raster.alpha, raster.width, raster.height);
         });
     }
-    EncodedImage image;
+    PdfImage image;
     image.width = raster.width;
     image.height = raster.height;
     image.bitsPerComponent = raster.bits;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 
 #include <QByteArray>
 
@@ -53,9 +53,9 @@ void unpremultiply(Raster &raster);
 /// Compresses the pixels without loss, opacity as a soft mask. Opacity that is full everywhere is
 /// dropped, opacity that is all or nothing takes one bit. One-bit images take CCITT group 4 where
 /// that is smaller.
-EncodedImage encodeRaster(Raster raster);
+PdfImage encodeRaster(Raster raster);
 
 /// The soft mask of an opacity plane; null when it is full everywhere.
-std::unique_ptr<EncodedImage> encodeAlpha(const AlphaPlane &alpha, int width, int height);
+std::unique_ptr<PdfImage> encodeAlpha(const AlphaPlane &alpha, int width, int height);
 
 } // namespace folioforge

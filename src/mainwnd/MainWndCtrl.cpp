@@ -28,8 +28,8 @@ void fitIntoScreen(QMainWindow &window) {
 
 } // namespace
 
-MainWndCtrl::MainWndCtrl(Surroundings surroundings)
-    : m_surroundings(std::move(surroundings))
+MainWndCtrl::MainWndCtrl(WindowServices services)
+    : m_services(std::move(services))
     , m_filesArray(std::make_unique<FilesArray>()) {}
 
 MainWndCtrl::~MainWndCtrl() = default;
@@ -89,7 +89,7 @@ void MainWndCtrl::windowDidLoad() {
 }
 
 void MainWndCtrl::initCtrl() {
-    const QString programs = u"%1/Contents/MacOS/"_s.arg(m_surroundings.bundlePath);
+    const QString programs = u"%1/Contents/MacOS/"_s.arg(m_services.bundlePath);
     const QString folder = u"%1/image"_s.arg(programs);
     const std::array<std::pair<SkinButton *, QString>, 12> skins{{
         {m_btnAddImage, u"add-image"_s},
@@ -116,7 +116,7 @@ void MainWndCtrl::initCtrl() {
 
 void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
                              SkinButton *button) const {
-    const QString resources = u"%1/Contents/Resources"_s.arg(m_surroundings.bundlePath);
+    const QString resources = u"%1/Contents/Resources"_s.arg(m_services.bundlePath);
     const auto look = [&](const QString &suffix, const SkinImage &otherwise) {
         const SkinImage image = SkinImage::named(resources, name + suffix);
         return image.isNull() ? otherwise : image;
@@ -165,7 +165,7 @@ void MainWndCtrl::connectControls() {
 }
 
 void MainWndCtrl::observeNotifications() {
-    connect(&m_surroundings.notifications, &NotificationCenter::posted, this,
+    connect(&m_services.notifications, &NotificationCenter::posted, this,
             [this](const QString &name, const QVariantMap &userInfo) {
                 if (name == NotificationCenter::didEndPageWrite()) {
                     endPageWrite(userInfo.value(NotificationCenter::pageIndexKey()).toInt());
@@ -183,7 +183,7 @@ bool MainWndCtrl::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void MainWndCtrl::showNotice(const Notice &notice) {
-    m_surroundings.notices.showSheet(m_window.get(), notice);
+    m_services.notices.showSheet(m_window.get(), notice);
 }
 
 bool MainWndCtrl::passes(const std::optional<Notice> &problem) {

@@ -3,10 +3,10 @@
 #include "convert/CompressionPass.h"
 #include "convert/Conversion.h"
 #include "convert/ConversionOptions.h"
-#include "files/StandIns.h"
+#include "files/ReadableLinks.h"
 #include "files/TemporaryFolder.h"
 #include "mainwnd/SkinTableView.h"
-#include "mainwnd/Surroundings.h"
+#include "mainwnd/WindowServices.h"
 #include "text/FontCascade.h"
 #include "ui_MainWnd.h"
 
@@ -54,7 +54,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     // ---- Life of the window (MainWndCtrl.cpp) ------------------------------------------------
 
     /// Keeps what it is handed; the window is loaded on the first call of window().
-    explicit MainWndCtrl(Surroundings surroundings);
+    explicit MainWndCtrl(WindowServices services);
     ~MainWndCtrl() override;
 
     /// The main window, loaded on the first call.
@@ -206,7 +206,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
         QMetaObject::invokeMethod(this, std::move(work), Qt::QueuedConnection);
     }
 
-    Surroundings m_surroundings;
+    WindowServices m_services;
     std::unique_ptr<QMainWindow> m_window;
     MainWndDelegate *m_delegate = nullptr;
     std::unique_ptr<FilesArray> m_filesArray;
@@ -234,7 +234,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     ConversionOptions m_runOptions; ///< As they stood when the run began.
     bool m_bWorking = false;        ///< The worker has not yet handed over what it makes.
     TemporaryFolder m_temporaryFolder;
-    StandIns m_standIns{m_temporaryFolder};
+    ReadableLinks m_readableLinks{m_temporaryFolder};
     std::jthread m_worker; ///< The last member: it is stopped before anything goes.
 };
 

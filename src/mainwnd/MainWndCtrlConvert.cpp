@@ -181,7 +181,7 @@ void MainWndCtrl::compress(const QString &path) {
         runOnMainThread([this] { compressCompleted(); });
         return;
     }
-    const CompressionPlaces places{m_surroundings.bundlePath, m_temporaryFolder.path()};
+    const CompressionPlaces places{m_services.bundlePath, m_temporaryFolder.path()};
     startWorker([this, path, places, options = m_runOptions](const std::stop_token &stop) mutable {
         StoppableCalls calls(options.calls, stop);
         options.calls = calls;

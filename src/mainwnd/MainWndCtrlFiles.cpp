@@ -26,12 +26,12 @@ QStringList recognisedExtensions() {
 }
 
 /// The chosen files, and for a chosen folder the files that it holds.
-QStringList filesOf(const QStringList &chosen, StandIns &standIns) {
+QStringList filesOf(const QStringList &chosen, ReadableLinks &readableLinks) {
     QStringList files;
-    for (const QString &path : standIns.pathsForReadable(chosen)) {
+    for (const QString &path : readableLinks.pathsForReadable(chosen)) {
         const QFileInfo info(path);
         if (info.isDir()) {
-            addDirectorie(path, files, standIns);
+            addDirectorie(path, files, readableLinks);
         } else if (info.exists()) {
             files += path;
         }
@@ -40,23 +40,23 @@ QStringList filesOf(const QStringList &chosen, StandIns &standIns) {
 }
 
 /// The file that `url` names to the byte: of names that are no text, several read alike.
-QString fileOf(const QUrl &url, StandIns &standIns) {
+QString fileOf(const QUrl &url, ReadableLinks &readableLinks) {
     const QString path = url.toLocalFile();
     return path.contains(QChar::ReplacementCharacter)
-               ? standIns.pathFor(
+               ? readableLinks.pathFor(
                      QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()))
                : path;
 }
 
 /// The files that a drag carries; nothing when it carries none by its kind.
-std::optional<QStringList> draggedPaths(const QMimeData &data, StandIns &standIns) {
+std::optional<QStringList> draggedPaths(const QMimeData &data, ReadableLinks &readableLinks) {
     if (!data.hasUrls()) {
         return std::nullopt;
     }
     QStringList paths;
     for (const QUrl &url : data.urls()) {
         if (url.isLocalFile()) {
-            paths += fileOf(url, standIns);
+            paths += fileOf(url, readableLinks);
         }
     }
     return paths;
@@ -101,13 +101,13 @@ void MainWndCtrl::clickBtnAddPDF() {
 }
 
 QString MainWndCtrl::documentsFolder() const {
-    return m_surroundings.homeFolder + u"/Documents"_s;
+    return m_services.homeFolder + u"/Documents"_s;
 }
 
 void MainWndCtrl::addFromPanel(const FilePanel &panel) {
-    m_surroundings.notices.showFilePanel(m_window.get(), panel, [this](const QStringList &chosen) {
+    m_services.notices.showFilePanel(m_window.get(), panel, [this](const QStringList &chosen) {
         if (!chosen.isEmpty()) {
-            addFiles(filesOf(chosen, m_standIns), -1);
+            addFiles(filesOf(chosen, m_readableLinks), -1);
         }
     });
 }
@@ -115,9 +115,9 @@ void MainWndCtrl::addFromPanel(const FilePanel &panel) {
 void MainWndCtrl::addKindFromPanel(const QString &title, FileKind kind) {
     const FilePanel panel{
         title, {}, FilePanel::Chooses::Files, true, extensionsOf(kind), documentsFolder()};
-    m_surroundings.notices.showFilePanel(m_window.get(), panel, [this](const QStringList &chosen) {
+    m_services.notices.showFilePanel(m_window.get(), panel, [this](const QStringList &chosen) {
         if (!chosen.isEmpty()) {
-            addFiles(m_standIns.pathsForReadable(chosen), -1);
+            addFiles(m_readableLinks.pathsForReadable(chosen), -1);
         }
     });
 }
@@ -273,7 +273,7 @@ void MainWndCtrl::exchangeWithRow(int row) {
 }
 
 bool MainWndCtrl::acceptDrop(const QMimeData &data, int row) {
-    const std::optional<QStringList> dragged = draggedPaths(data, m_standIns);
+    const std::optional<QStringList> dragged = draggedPaths(data, m_readableLinks);
     if (!dragged) {
         return true;
     }

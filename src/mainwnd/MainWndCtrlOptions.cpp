@@ -246,8 +246,8 @@ SecuritySettings MainWndCtrl::securitySettings() const {
     settings.userPassword = m_tfUserPassword->text();
     settings.useOwnerPassword = m_btnCheckOwnerPassword->isChecked();
     settings.ownerPassword = m_tfOwnerPassword->text();
-    settings.allowPrint = m_btnCheckAllowPrint->isChecked();
-    settings.allowCopy = m_btnCheckAllowCopy->isChecked();
+    settings.refusePrint = m_btnCheckAllowPrint->isChecked();
+    settings.refuseCopy = m_btnCheckAllowCopy->isChecked();
     return settings;
 }
 
@@ -288,24 +288,24 @@ bool MainWndCtrl::checkSecuritySettings() {
 }
 
 void MainWndCtrl::readOutputFolder() {
-    QSettings &settings = m_surroundings.settings;
+    QSettings &settings = m_services.settings;
     m_outputFolderPath = settings.value(outputFolderKey()).toString();
     if (!m_outputFolderPath.isEmpty()) {
         return;
     }
     m_outputFolderPath = makeDefaultOutputFolder();
-    m_surroundings.desktop.openURL(tutorialPage(m_surroundings.bundlePath));
+    m_services.desktop.openURL(tutorialPage(m_services.bundlePath));
     settings.setValue(outputFolderKey(), m_outputFolderPath);
     settings.sync();
 }
 
 QString MainWndCtrl::makeDefaultOutputFolder() const {
-    QString folder = m_surroundings.homeFolder + u"/Documents/Folioforge"_s;
+    QString folder = m_services.homeFolder + u"/Documents/Folioforge"_s;
     if (QFileInfo::exists(folder)) {
         return folder;
     }
     if (!QDir().mkpath(folder)) {
-        return m_surroundings.homeFolder + u"/Documents"_s;
+        return m_services.homeFolder + u"/Documents"_s;
     }
     makeWorldWritable(folder);
     return folder;
@@ -318,7 +318,7 @@ void MainWndCtrl::clickBtnBrowse() {
     panel.chooses = FilePanel::Chooses::Folders;
     panel.multiple = false;
     panel.startFolder = m_outputFolderPath;
-    m_surroundings.notices.showFilePanel(
+    m_services.notices.showFilePanel(
         m_window.get(), panel, [this](const QStringList &paths) { outputFolderChosen(paths); });
 }
 
@@ -333,11 +333,11 @@ void MainWndCtrl::outputFolderChosen(const QStringList &paths) {
     }
     m_outputFolderPath = paths.first();
     m_tfOutputFolder->setText(m_outputFolderPath);
-    m_surroundings.settings.setValue(outputFolderKey(), m_outputFolderPath);
+    m_services.settings.setValue(outputFolderKey(), m_outputFolderPath);
 }
 
 void MainWndCtrl::showInvalidOutputPathWarning() {
-    m_surroundings.notices.showSheet(
+    m_services.notices.showSheet(
         m_window.get(),
         notice(
             tr("Selected output folder is not writable. Click \"OK\" to select another folder.")),
@@ -351,11 +351,11 @@ void MainWndCtrl::endShowInvalidOutputFolder() {
 
 void MainWndCtrl::clickBtnOpen() {
     if (!QFileInfo::exists(m_outputFolderPath)) {
-        m_surroundings.notices.showPanel(
+        m_services.notices.showPanel(
             {tr("Error"), tr("Output folder does not exist, please select another one.")});
         return;
     }
-    m_surroundings.desktop.openFile(m_outputFolderPath);
+    m_services.desktop.openFile(m_outputFolderPath);
 }
 
 void MainWndCtrl::clickedDest(int row) {
@@ -365,9 +365,9 @@ void MainWndCtrl::clickedDest(int row) {
     }
     const QString &path = entry.destFilePathName();
     if (isSafeInShell(path)) {
-        m_surroundings.desktop.runInShell(openCommand(openVerb(), path));
+        m_services.desktop.runInShell(openCommand(openVerb(), path));
     } else {
-        m_surroundings.desktop.openFile(path);
+        m_services.desktop.openFile(path);
     }
 }
 

@@ -24,7 +24,7 @@ constexpr int kRowHeight = 26;
 constexpr int kNumberWidth = 52;
 constexpr int kSizeWidth = 110;
 constexpr int kDestinationWidth = 160;
-constexpr int kSmallestNameWidth = 120;
+constexpr int kMinNameWidth = 120;
 constexpr int kDropLineWidth = 2;
 
 bool asksForMenu(const QKeyEvent &key) {
@@ -317,7 +317,7 @@ void SkinTableView::layOutColumns() {
     setColumnWidth(FilesArray::SizeColumn, kSizeWidth);
     setColumnWidth(FilesArray::DestinationColumn, kDestinationWidth);
     const int rest = viewport()->width() - kNumberWidth - kSizeWidth - kDestinationWidth;
-    setColumnWidth(FilesArray::NameColumn, std::max(rest, kSmallestNameWidth));
+    setColumnWidth(FilesArray::NameColumn, std::max(rest, kMinNameWidth));
 }
 
 } // namespace folioforge

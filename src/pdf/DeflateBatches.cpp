@@ -16,7 +16,7 @@ void DeflateBatches::add(const QPDFObjGen &stream, QByteArrayView bytes) {
         return;
     }
     keepRunning();
-    m_running = beside([this, batch = std::make_shared<Batch>(std::exchange(m_batch, {}))] {
+    m_running = runAsync([this, batch = std::make_shared<Batch>(std::exchange(m_batch, {}))] {
         return compressed(*batch, m_deflater);
     });
 }

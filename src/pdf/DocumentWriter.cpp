@@ -67,9 +67,9 @@ QByteArray makeId(QPDF &document, const OutputFile &file, std::uint32_t checksum
 /// system each time, their pages cost more than everything else the writing of photos does.
 void keepFreedBlocks() {
 #ifdef __GLIBC__
-    constexpr int kLargestKept = 32 << 20;
-    ::mallopt(M_MMAP_THRESHOLD, kLargestKept);
-    ::mallopt(M_TRIM_THRESHOLD, 2 * kLargestKept);
+    constexpr int kMaxKept = 32 << 20;
+    ::mallopt(M_MMAP_THRESHOLD, kMaxKept);
+    ::mallopt(M_TRIM_THRESHOLD, 2 * kMaxKept);
 #endif
 }
 

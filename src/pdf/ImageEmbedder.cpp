@@ -41,7 +41,7 @@ bool profileFits(const QByteArray &profile, const char *signature) {
     return profile.size() > kHeaderSize && profile.indexOf(signature, kSpaceOffset) == kSpaceOffset;
 }
 
-void addDecodeParms(QPDFObjectHandle &dictionary, const EncodedImage &image) {
+void addDecodeParms(QPDFObjectHandle &dictionary, const PdfImage &image) {
     auto parms = QPDFObjectHandle::newDictionary();
     if (image.filter == ImageFilter::CcittFax) {
         parms.replaceKey("/K", QPDFObjectHandle::newInteger(image.ccittK));
@@ -67,7 +67,7 @@ QPDFObjectHandle labSpace() {
         "[/Lab << /WhitePoint [0.9642 1 0.8249] /Range [-128 127 -128 127] >>]");
 }
 
-std::string sourceKey(const SourceFile &file, const EncodedImage &image) {
+std::string sourceKey(const SourceFile &file, const PdfImage &image) {
     std::string key = file.path.toStdString() + '\0' + std::to_string(file.size) + ' ' +
                       std::to_string(file.modifiedNanos);
     for (const FileSlice &slice : image.slices) {
@@ -77,7 +77,7 @@ std::string sourceKey(const SourceFile &file, const EncodedImage &image) {
 }
 
 /// The source as the decoder saw it: reading another one is an error.
-SourceFile sourceOf(const EncodedImage &image) {
+SourceFile sourceOf(const PdfImage &image) {
     return {image.sourcePath, image.sourceSize, image.sourceModifiedNanos};
 }
 
@@ -87,7 +87,7 @@ ImageEmbedder::ImageEmbedder(QPDF &document, StreamData &streams)
     : m_document(document)
     , m_streams(streams) {}
 
-QPDFObjectHandle ImageEmbedder::profiled(const EncodedImage &image, int components,
+QPDFObjectHandle ImageEmbedder::profiled(const PdfImage &image, int components,
                                          const char *alternate) {
     const QByteArray digest =
         QCryptographicHash::hash(image.iccProfile, QCryptographicHash::Sha256);
@@ -105,7 +105,7 @@ QPDFObjectHandle ImageEmbedder::profiled(const EncodedImage &image, int componen
     return m_profiles[known.value()];
 }
 
-QPDFObjectHandle ImageEmbedder::colorSpace(const EncodedImage &image) {
+QPDFObjectHandle ImageEmbedder::colorSpace(const PdfImage &image) {
     switch (image.color) {
     case ImageColor::Gray:
         return profileFits(image.iccProfile, "GRAY") ? profiled(image, 1, "/DeviceGray")
@@ -134,14 +134,14 @@ QPDFObjectHandle ImageEmbedder::colorSpace(const EncodedImage &image) {
     return indexed;
 }
 
-QPDFObjectHandle ImageEmbedder::makeStream(QPDFObjectHandle dictionary, const EncodedImage &image) {
+QPDFObjectHandle ImageEmbedder::makeStream(QPDFObjectHandle dictionary, const PdfImage &image) {
     if (image.slices.empty()) {
         return m_streams.fromBytes(dictionary, image.data);
     }
     return m_streams.fromFile(dictionary, sourceOf(image), image.slices);
 }
 
-QPDFObjectHandle ImageEmbedder::makeImage(const EncodedImage &image) {
+QPDFObjectHandle ImageEmbedder::makeImage(const PdfImage &image) {
     auto dictionary = QPDFObjectHandle::newDictionary();
     dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/XObject"));
     dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName("/Image"));
@@ -170,7 +170,7 @@ QPDFObjectHandle ImageEmbedder::makeImage(const EncodedImage &image) {
     return makeStream(dictionary, image);
 }
 
-QPDFObjectHandle ImageEmbedder::embed(const EncodedImage &image) {
+QPDFObjectHandle ImageEmbedder::embed(const PdfImage &image) {
     if (image.slices.empty()) {
         return makeImage(image);
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 #include "pdf/StreamData.h"
 
 #include <QByteArray>
@@ -18,13 +18,13 @@ class ImageEmbedder {
 
     /// The XObject of `image`; a part of a source file that was embedded before is used again.
     /// Throws Error when the source is not what it was when it was examined.
-    QPDFObjectHandle embed(const EncodedImage &image);
+    QPDFObjectHandle embed(const PdfImage &image);
 
   private:
-    QPDFObjectHandle makeStream(QPDFObjectHandle dictionary, const EncodedImage &image);
-    QPDFObjectHandle makeImage(const EncodedImage &image);
-    QPDFObjectHandle colorSpace(const EncodedImage &image);
-    QPDFObjectHandle profiled(const EncodedImage &image, int components, const char *alternate);
+    QPDFObjectHandle makeStream(QPDFObjectHandle dictionary, const PdfImage &image);
+    QPDFObjectHandle makeImage(const PdfImage &image);
+    QPDFObjectHandle colorSpace(const PdfImage &image);
+    QPDFObjectHandle profiled(const PdfImage &image, int components, const char *alternate);
 
     QPDF &m_document;
     StreamData &m_streams;

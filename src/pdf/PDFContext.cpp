@@ -1,7 +1,7 @@
 #include "pdf/PDFContext.h"
 
 #include "files/OutputFile.h"
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 #include "pdf/ContentNumber.h"
 #include "pdf/DocumentInfo.h"
 #include "pdf/DocumentWriter.h"
@@ -74,11 +74,11 @@ class PDFContext::Impl {
     Impl(QString path, Settings settings);
 
     void endPage();
-    void drawImage(const QRectF &rect, const EncodedImage &image, int orientation);
+    void drawImage(const QRectF &rect, const PdfImage &image, int orientation);
     int addDocument(const QString &sourcePath);
     CloseResult close(const std::function<QString()> &nextPath);
     void settlePages() { m_streams.settlePages(); }
-    void keepPages(int count) { m_catalog.keepPages(count); }
+    void truncatePages(int count) { m_catalog.truncatePages(count); }
     void beginPage(const QRectF &mediaBox);
     void showGlyphs(double x, double y, std::span<const Glyph> glyphs);
 
@@ -201,7 +201,7 @@ void PDFContext::Impl::endPage() {
     beginPage({});
 }
 
-void PDFContext::Impl::drawImage(const QRectF &rect, const EncodedImage &image, int orientation) {
+void PDFContext::Impl::drawImage(const QRectF &rect, const PdfImage &image, int orientation) {
     page.endText();
     const std::string name = "/Im" + std::to_string(page.images.size());
     page.images[name] = m_images.embed(image);
@@ -302,7 +302,7 @@ void PDFContext::showGlyphsAtPoint(double x, double y, std::span<const Glyph> gl
     atQpdfBorder([&] { m_impl->showGlyphs(x, y, glyphs); });
 }
 
-void PDFContext::drawImage(const QRectF &rect, EncodedImage image, int orientation) {
+void PDFContext::drawImage(const QRectF &rect, PdfImage image, int orientation) {
     atQpdfBorder([&] { m_impl->drawImage(rect, image, orientation); });
 }
 
@@ -322,8 +322,8 @@ void PDFContext::settlePages() {
     atQpdfBorder([&] { m_impl->settlePages(); });
 }
 
-void PDFContext::keepPages(int count) {
-    m_impl->keepPages(count);
+void PDFContext::truncatePages(int count) {
+    m_impl->truncatePages(count);
 }
 
 CloseResult PDFContext::close(const std::function<QString()> &nextPath) {

@@ -14,7 +14,7 @@
 
 namespace folioforge {
 
-struct EncodedImage;
+struct PdfImage;
 
 /// Document information; every field is written, empty or not. The creator is always
 /// "Vesprin-Folioforge".
@@ -73,7 +73,7 @@ class PDFContext {
     /// Draws `glyphs` from the baseline point on; each advances as measured.
     void showGlyphsAtPoint(double x, double y, std::span<const Glyph> glyphs);
     /// Draws the image into the rectangle; `orientation` (EXIF, 1 to 8) turns it inside.
-    void drawImage(const QRectF &rect, EncodedImage image, int orientation);
+    void drawImage(const QRectF &rect, PdfImage image, int orientation);
     void endPage();
 
     /// Adds every page of the PDF at `sourcePath` unchanged, with its links, form fields and
@@ -82,10 +82,10 @@ class PDFContext {
 
     [[nodiscard]] int pageCount() const;
     /// Returns when the pages drawn so far are safe: they are compressed beside the drawing. Throws
-    /// Error when they cannot be kept, which is then to be followed by keepPages().
+    /// Error when they cannot be kept, which is then to be followed by truncatePages().
     void settlePages();
     /// Takes back the drawn pages after the first `count`; for what failed in its midst.
-    void keepPages(int count);
+    void truncatePages(int count);
 
     /// Writes the document whole and gives it its name without ever replacing another file. When
     /// the name is taken meanwhile, `nextPath` gives the next one to try; without it the result is

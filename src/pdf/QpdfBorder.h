@@ -35,9 +35,9 @@ inline void requireRoomForStream(qsizetype bytes) {
     // The buffer, up to twice as long as the stream, with what it grew from or with the copy; and
     // what stands between blocks, which are kept up to some size, and a piece of the source.
     constexpr qsizetype kCopies = 3;
-    constexpr qsizetype kMostBetween = 32 << 20;
+    constexpr qsizetype kMaxBetween = 32 << 20;
     constexpr qsizetype kRest = 1 << 20;
-    const qsizetype between = std::min(2 * bytes, kMostBetween);
+    const qsizetype between = std::min(2 * bytes, kMaxBetween);
     static_cast<void>(QByteArray(kCopies * bytes + between + kRest, Qt::Uninitialized));
 }
 

@@ -1,7 +1,7 @@
 #include "pdf/StreamData.h"
 
 #include "image/Deflate.h"
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 #include "pdf/QpdfBorder.h"
 
 #include <qpdf/Pipeline.hh>

@@ -92,7 +92,7 @@ std::span<const Glyph> TextContent::takeRun(std::span<const Glyph> glyphs) {
     if (font != m_font) {
         selectFont(font);
     }
-    m_run.resize(glyphs.size() * GlyphCode::kLongest);
+    m_run.resize(glyphs.size() * GlyphCode::kMaxLength);
     char *out = m_run.data();
     std::size_t taken = 0;
     for (; taken < glyphs.size(); ++taken) {
@@ -101,7 +101,7 @@ std::span<const Glyph> TextContent::takeRun(std::span<const Glyph> glyphs) {
             break;
         }
         // Always the whole array, which is one store: what is too much is overwritten.
-        std::memcpy(out, code.bytes.data(), GlyphCode::kLongest);
+        std::memcpy(out, code.bytes.data(), GlyphCode::kMaxLength);
         out += code.length;
     }
     m_run.resize(static_cast<std::size_t>(out - m_run.data()));

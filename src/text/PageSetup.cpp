@@ -11,7 +11,7 @@ namespace {
 enum class Target { Text, Image };
 enum class Axis { Width, Height };
 
-constexpr quint64 kLargestMargin = 256;
+constexpr quint64 kMaxMargin = 256;
 
 Notice alertInvalidPageMargin(Target target) {
     const QString head = u"Invalid page margin value "_s;
@@ -29,7 +29,7 @@ Notice alertInvalidPageSize(Target target, Axis axis) {
 
 /// Negative margins wrap to large unsigned numbers and fail with the same test.
 bool isValidMargin(qint64 margin) {
-    return static_cast<quint64>(margin) <= kLargestMargin;
+    return static_cast<quint64>(margin) <= kMaxMargin;
 }
 
 std::optional<Notice> checkMargins(const PageMargins &margins, Target target) {

@@ -38,8 +38,8 @@ struct SecuritySettings {
     QString userPassword;
     bool useOwnerPassword = false;
     QString ownerPassword;
-    bool allowPrint = false; ///< State of the print box: ticked means printing is refused.
-    bool allowCopy = false;  ///< State of the copy box: ticked means copying is refused.
+    bool refusePrint = false; ///< State of the print box: ticked means printing is refused.
+    bool refuseCopy = false;  ///< State of the copy box: ticked means copying is refused.
 };
 
 /// The leading integer of `text` after white space, with an optional sign; 0 when there is none.

@@ -134,7 +134,7 @@ class ArgumentsTest : public QObject {
     void theTwoBoxesAreTicked() {
         const SecuritySettings security =
             good({"--refuse-print", "--refuse-copy", "a"}).options.security;
-        QVERIFY(security.allowPrint && security.allowCopy);
+        QVERIFY(security.refusePrint && security.refuseCopy);
         QVERIFY(!security.useUserPassword && !security.useOwnerPassword);
     }
 

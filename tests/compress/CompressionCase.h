@@ -20,7 +20,7 @@ class CompressionCase {
   protected:
     static constexpr int kWidthColumn = 3;
     static constexpr int kHeightColumn = 4;
-    static constexpr int kColourColumn = 5;
+    static constexpr int kColorColumn = 5;
     static constexpr int kEncodingColumn = 8;
 
     inline static const QByteArray kFlateGrey{
@@ -96,11 +96,11 @@ class CompressionCase {
 
     /// The one image of the copy is in `colour` and has half its 1200 columns, and the page looks
     /// as it did.
-    void isHalved(const QString &copy, const QString &colour) const {
+    void isHalved(const QString &copy, const QString &color) const {
         const auto images = PdfProbe(copy).images();
         QCOMPARE(images.size(), 1);
         QCOMPARE(images[0][kWidthColumn], QStringLiteral("600"));
-        QCOMPARE(images[0][kColourColumn], colour);
+        QCOMPARE(images[0][kColorColumn], color);
         QVERIFY(changeOf(copy) < 5);
     }
 

@@ -111,12 +111,12 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
     void photosOfEachKindAreReduced() {
         QFETCH(const QByteArray, keys);
         QFETCH(const QByteArray, data);
-        QFETCH(const QString, colour);
+        QFETCH(const QString, color);
         QVERIFY(photoPage(kDrawn)
                     .stream(5, imageKeys(1200, 900, keys), data)
                     .stream(8, "/N 3", QColorSpace(QColorSpace::AdobeRgb).iccProfile())
                     .write(m_path));
-        isHalved(compressed(), colour);
+        isHalved(compressed(), color);
     }
 
     void inksOfAJpegStayInks_data() {
@@ -159,7 +159,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
     void jpeg2000IsReduced() {
         QFETCH(const QImage::Format, format);
         QFETCH(const QByteArray, space);
-        QFETCH(const QString, colour);
+        QFETCH(const QString, color);
         const QByteArray data = jpeg2000(photo(1200, 900, format));
         QVERIFY(!data.isEmpty());
         QVERIFY(photoPage(kDrawn)
@@ -169,7 +169,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
         const auto images = PdfProbe(copy).images();
         QCOMPARE(images.size(), 1);
         QCOMPARE(images[0][kWidthColumn], u"600"_s);
-        QCOMPARE(images[0][kColourColumn], colour);
+        QCOMPARE(images[0][kColorColumn], color);
         QCOMPARE(images[0][kEncodingColumn], u"jpeg"_s);
         QVERIFY(changeOf(copy) < 5);
     }

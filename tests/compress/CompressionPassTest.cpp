@@ -104,7 +104,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         QCOMPARE(outcome.imagesReduced, 1);
     }
 
-    void coloursKeepTheirSpaces_data() {
+    void colorsKeepTheirSpaces_data() {
         QTest::addColumn<QByteArray>("keys");
         QTest::addColumn<QByteArray>("data");
         QTest::addColumn<QString>("colour");
@@ -130,17 +130,17 @@ class CompressionPassTest : public QObject, protected CompressionCase {
                                  << flate(samplesOf(grey, 1)) << u"rgb"_s;
     }
 
-    void coloursKeepTheirSpaces() {
+    void colorsKeepTheirSpaces() {
         QFETCH(const QByteArray, keys);
         QFETCH(const QByteArray, data);
-        QFETCH(const QString, colour);
+        QFETCH(const QString, color);
         QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
                     .stream(5, imageKeys(1200, 900, keys), data)
                     .write(m_path));
-        isHalved(compressed(), colour);
+        isHalved(compressed(), color);
     }
 
-    void anImageWithFarTooLargeAColourTableStays() {
+    void anImageWithFarTooLargeAColorTableStays() {
         const QByteArray table(1 << 20, 'p');
         auto page = photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
         page.stream(5,
@@ -387,7 +387,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         security.userPassword = u"user"_s;
         security.useOwnerPassword = true;
         security.ownerPassword = u"owner"_s;
-        security.allowPrint = true;
+        security.refusePrint = true;
         const CompressionOutcome outcome = run(1, security);
         return outcome.error.isEmpty() ? outcome.convertInfo->tempFilePathName : QString();
     }

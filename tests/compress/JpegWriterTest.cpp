@@ -1,6 +1,6 @@
 #include "compress/jpeg/JpegWriter.h"
 
-#include "compress/jpeg/JpegColour.h"
+#include "compress/jpeg/JpegColor.h"
 
 #include <QImage>
 #include <QTest>
@@ -72,27 +72,27 @@ class JpegWriterTest : public QObject {
         QVERIFY(largestDifference(image, back) <= 3);
     }
 
-    void coloursComeBack() {
-        constexpr std::array<QRgb, 6> kColours{0xffff0000, 0xff00ff00, 0xff0000ff,
-                                               0xffffffff, 0xff000000, 0xff6496c8};
-        for (const QRgb colour : kColours) {
+    void colorsComeBack() {
+        constexpr std::array<QRgb, 6> kColors{0xffff0000, 0xff00ff00, 0xff0000ff,
+                                              0xffffffff, 0xff000000, 0xff6496c8};
+        for (const QRgb color : kColors) {
             PlanarImage image(32, 32);
             image.addPlanes(3);
-            const std::array parts{qRed(colour), qGreen(colour), qBlue(colour)};
+            const std::array parts{qRed(color), qGreen(color), qBlue(color)};
             for (std::size_t i = 0; i < parts.size(); ++i) {
                 std::fill_n(image.planes[i].row(0), image.planes[i].size(),
                             static_cast<std::uint8_t>(parts[i]));
             }
-            toJpegColour(image);
+            toJpegColor(image);
             for (std::size_t i = 1; i < image.planes.size(); ++i) {
                 Plane half(16, 16);
                 std::fill_n(half.row(0), half.size(), image.planes[i].row(0)[0]);
                 image.planes[i] = std::move(half);
             }
             const QRgb back = decoded(encodeJpeg(image, 100)).pixel(16, 16);
-            QVERIFY2(std::abs(qRed(back) - qRed(colour)) <= 2 &&
-                         std::abs(qGreen(back) - qGreen(colour)) <= 2 &&
-                         std::abs(qBlue(back) - qBlue(colour)) <= 2,
+            QVERIFY2(std::abs(qRed(back) - qRed(color)) <= 2 &&
+                         std::abs(qGreen(back) - qGreen(color)) <= 2 &&
+                         std::abs(qBlue(back) - qBlue(color)) <= 2,
                      qPrintable(QString::number(back, 16)));
         }
     }

@@ -196,7 +196,7 @@ class ReducedScanTest : public QObject {
         }
     }
 
-    void colourPlanesAreAsMuchSmallerAsInTheFile() {
+    void colorPlanesAreAsMuchSmallerAsInTheFile() {
         const auto small = reduced(jpegFile(90, 67, {}), 3);
         QVERIFY(small);
         QCOMPARE(small->planes[0].width(), 34);  // 90 * 3/8 = 33.75

@@ -29,14 +29,14 @@ class ResamplerTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void sizesAndColoursHalfOfThem_data() {
+    void sizesAndColorsHalfOfThem_data() {
         QTest::addColumn<int>("components");
         QTest::newRow("grey") << 1;
         QTest::newRow("colour") << 3;
         QTest::newRow("inks") << 4;
     }
 
-    void sizesAndColoursHalfOfThem() {
+    void sizesAndColorsHalfOfThem() {
         QFETCH(const int, components);
         const PlanarImage image =
             resample(drawn(100, 60, components, [](double, double) { return 7; }), 33, 21);
@@ -92,7 +92,7 @@ class ResamplerTest : public QObject {
         }
     }
 
-    void smallerPlanesOfColourAreBroughtToHalf() {
+    void smallerPlanesOfColorAreBroughtToHalf() {
         PlanarImage image(80, 80);
         image.planes.emplace_back(80, 80);
         image.planes.emplace_back(20, 80);

@@ -84,10 +84,10 @@ class KilledRunsTest : public QObject, private WholeRun {
         QVERIFY(QFile::exists(output()));
         const QList<QByteArray> whole = wholeOutputs(kind);
         constexpr int kKills = 40;
-        constexpr int kMostKills = 400; // Until one befell a part.
+        constexpr int kMaxKills = 400; // Until one befell a part.
         int left = 0;
         int kills = 0;
-        for (; kills < kKills || (left == 0 && kills < kMostKills); ++kills) {
+        for (; kills < kKills || (left == 0 && kills < kMaxKills); ++kills) {
             QFile::remove(output());
             killInItsMidst(kind, lacking(missing), length);
             QVERIFY(!QFile::exists(output()) || whole.contains(readFile(output())));

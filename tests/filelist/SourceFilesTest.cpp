@@ -1,7 +1,7 @@
 #include "filelist/SourceFiles.h"
 
 #include "files/PartFiles.h"
-#include "files/StandIns.h"
+#include "files/ReadableLinks.h"
 #include "files/TemporaryFolder.h"
 #include "support/Files.h"
 
@@ -21,7 +21,7 @@ class SourceFilesTest : public QObject {
     Q_OBJECT
 
     TemporaryFolder m_temporaryFolder;
-    StandIns m_standIns{m_temporaryFolder};
+    ReadableLinks m_readableLinks{m_temporaryFolder};
 
   private Q_SLOTS:
     void aFolderGivesItsTextsAndImagesButNoPdf() {
@@ -33,7 +33,7 @@ class SourceFilesTest : public QObject {
         QVERIFY(QDir(folder.path()).mkpath(u"sub"_s));
         test::writeFile(folder.filePath(u"sub/deep.txt"_s), "x");
         QStringList files{u"before"_s};
-        addDirectorie(folder.path(), files, m_standIns);
+        addDirectorie(folder.path(), files, m_readableLinks);
         QCOMPARE(files.takeFirst(), u"before"_s);
         files.sort();
         QCOMPARE(files, (QStringList{folder.path() + u"/.hidden.txt"_s, folder.path() + u"/b.TXT"_s,
@@ -44,7 +44,7 @@ class SourceFilesTest : public QObject {
         const QTemporaryDir folder;
         QVERIFY(QDir(folder.path()).mkpath(u"notes.txt"_s));
         QStringList files;
-        addDirectorie(folder.path(), files, m_standIns);
+        addDirectorie(folder.path(), files, m_readableLinks);
         QVERIFY(files.isEmpty());
     }
 
@@ -59,7 +59,7 @@ class SourceFilesTest : public QObject {
             expected += folder.path() + u'/' + name;
         }
         QStringList files;
-        addDirectorie(folder.path(), files, m_standIns);
+        addDirectorie(folder.path(), files, m_readableLinks);
         QCOMPARE(files.size(), 50);
         QCOMPARE(files, expected);
     }
@@ -67,17 +67,17 @@ class SourceFilesTest : public QObject {
     void aFolderThatCannotBeListedAddsNothing() {
         const QTemporaryDir folder;
         QStringList files;
-        addDirectorie(folder.filePath(u"missing"_s), files, m_standIns);
-        addDirectorie(test::writeFile(folder.filePath(u"file"_s), "x"), files, m_standIns);
+        addDirectorie(folder.filePath(u"missing"_s), files, m_readableLinks);
+        addDirectorie(test::writeFile(folder.filePath(u"file"_s), "x"), files, m_readableLinks);
         QVERIFY(files.isEmpty());
     }
 
     void anInterruptedProgramRemovesEveryStandIn() {
         const QTemporaryDir parent;
         TemporaryFolder folder(parent.path());
-        StandIns standIns(folder);
+        ReadableLinks readableLinks(folder);
         for (int i = 0; i < 100; ++i) {
-            const QString link = standIns.pathFor(QByteArray::number(i) + "\xe9.txt");
+            const QString link = readableLinks.pathFor(QByteArray::number(i) + "\xe9.txt");
             QVERIFY2(QFileInfo(link).isSymLink(), qPrintable(link));
         }
         removePartFiles();
@@ -85,10 +85,10 @@ class SourceFilesTest : public QObject {
             QDir(parent.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     }
 
-    void standInsGoWithTheirObject() {
+    void linksGoWithTheirObject() {
         const QTemporaryDir parent;
         TemporaryFolder folder(parent.path());
-        const QString link = StandIns(folder).pathFor("caf\xe9.txt");
+        const QString link = ReadableLinks(folder).pathFor("caf\xe9.txt");
         QVERIFY(link.startsWith(folder.path()));
         QVERIFY(QDir(folder.path()).isEmpty());
     }

@@ -3,8 +3,8 @@
 
 #include "FuzzSupport.h"
 #include "FuzzedFormat.h"
-#include "image/EncodedImage.h"
 #include "image/ImageHeader.h"
+#include "image/PdfImage.h"
 
 #include <algorithm>
 #include <array>
@@ -24,7 +24,7 @@ constexpr std::array kFormats{
     std::pair("psd", ImageFormat::Psd),           std::pair("tga", ImageFormat::Tga),
     std::pair("tiff", ImageFormat::Tiff)};
 
-constexpr qint64 kMostPixels = 1 << 22; // Enough to find faults, few enough to go on.
+constexpr qint64 kMaxPixels = 1 << 22; // Enough to find faults, few enough to go on.
 
 ImageFormat fuzzedFormat() {
     const auto found = std::ranges::find_if(kFormats, [](const auto &format) {
@@ -34,7 +34,7 @@ ImageFormat fuzzedFormat() {
     return found->second;
 }
 
-void requireInOrder(const EncodedImage &image, qint64 fileSize) {
+void requireInOrder(const PdfImage &image, qint64 fileSize) {
     require(image.width > 0 && image.height > 0);
     require(image.data.isEmpty() != image.slices.empty());
     require(image.palette.size() <= 768 && image.palette.size() % 3 == 0);
@@ -58,8 +58,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const MemoryFile file(QString::fromLatin1(kFuzzedExtension), {data, size});
     refuses([&] {
         const ImageHeader header = readImageHeader(file.path());
-        if (header.format == format && qint64(header.width) * header.height <= kMostPixels) {
-            requireInOrder(encodeImage(file.path()), static_cast<qint64>(size));
+        if (header.format == format && qint64(header.width) * header.height <= kMaxPixels) {
+            requireInOrder(toPdfImage(file.path()), static_cast<qint64>(size));
         }
     });
     return 0;

@@ -38,7 +38,7 @@ class CountingUpdater : public Updater {
 
 struct Application {
     explicit Application(std::unique_ptr<Updater> updater = nullptr)
-        : delegate(world.surroundings(), std::move(updater)) {
+        : delegate(world.services(), std::move(updater)) {
         world.storeFolder(world.home.path());
         world.notices.answerNoticesAtOnce();
         delegate.applicationDidFinishLaunching();

@@ -586,7 +586,7 @@ class ConvertingFilesTest : public QObject {
         for (int i = 0; i < kFiles; ++i) {
             paths += w.file(u"%1.txt"_s.arg(i), QByteArray(kBytes, 'x'));
         }
-        auto ctrl = std::make_unique<MainWndCtrl>(w.surroundings());
+        auto ctrl = std::make_unique<MainWndCtrl>(w.services());
         ctrl->window()->show();
         ctrl->addFiles(paths, -1);
         controlOf<QCheckBox>(*ctrl->window(), "m_btnMerge").setChecked(merge);

@@ -38,7 +38,7 @@ struct PlacedWindow {
     }
 
     WindowWorld world;
-    MainWndCtrl ctrl{world.surroundings()};
+    MainWndCtrl ctrl{world.services()};
     QMainWindow &window = *ctrl.window();
 };
 

@@ -64,7 +64,7 @@ struct Panel {
     }
 
     WindowWorld world;
-    MainWndCtrl ctrl{world.surroundings()};
+    MainWndCtrl ctrl{world.services()};
 };
 
 const QStringList kProperties{u"m_tfTitle"_s, u"m_tfAuthor"_s, u"m_tfSubject"_s, u"m_tfKeywords"_s};

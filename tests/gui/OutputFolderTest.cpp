@@ -35,7 +35,7 @@ class OutputFolderTest : public QObject {
   private Q_SLOTS:
     void theFirstRunMakesTheFolderWorldWritableAndStoresIt() {
         WindowWorld world;
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         const QString folder = world.path(u"Documents/Folioforge"_s);
         QCOMPARE(shownFolder(ctrl), folder);
         QVERIFY(QFileInfo(folder).isDir());
@@ -49,14 +49,14 @@ class OutputFolderTest : public QObject {
     void theTutorialOpensOnTheFirstRunAlone() {
         WindowWorld world;
         {
-            MainWndCtrl ctrl(world.surroundings());
+            MainWndCtrl ctrl(world.services());
             ctrl.window();
         }
         QCOMPARE(world.desktop.urls.size(), 1);
         const QUrl page = world.desktop.urls.first();
         QCOMPARE(page.fileName(), u"tutorial.html"_s);
         QVERIFY(QFileInfo(page.toLocalFile()).isFile());
-        MainWndCtrl next(world.surroundings());
+        MainWndCtrl next(world.services());
         next.window();
         QCOMPARE(world.desktop.urls.size(), 1);
     }
@@ -67,7 +67,7 @@ class OutputFolderTest : public QObject {
         QVERIFY(QDir().mkpath(folder));
         const auto own = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
         QVERIFY(QFile::setPermissions(folder, own));
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         QCOMPARE(shownFolder(ctrl), folder);
         QCOMPARE(int(QFile::permissions(folder)) & 0x0077, 0);
     }
@@ -77,7 +77,7 @@ class OutputFolderTest : public QObject {
         // A file stands where the folder's parent should be.
         QFile blocker(world.path(u"Documents"_s));
         QVERIFY(blocker.open(QIODevice::WriteOnly));
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         QCOMPARE(shownFolder(ctrl), world.path(u"Documents"_s));
         QCOMPARE(world.storedFolder(), world.path(u"Documents"_s));
         QVERIFY(world.notices.shown().empty());
@@ -86,7 +86,7 @@ class OutputFolderTest : public QObject {
     void aStoredFolderIsTakenAsItIs() {
         WindowWorld world;
         world.storeFolder(u"/nowhere/at all"_s);
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         QCOMPARE(shownFolder(ctrl), u"/nowhere/at all"_s);
         QVERIFY(world.desktop.urls.isEmpty());
         QVERIFY(!QFileInfo::exists(world.path(u"Documents"_s)));
@@ -95,7 +95,7 @@ class OutputFolderTest : public QObject {
     void aStoredEmptyStringCountsAsMissing() {
         WindowWorld world;
         world.storeFolder(QString());
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         QCOMPARE(shownFolder(ctrl), world.path(u"Documents/Folioforge"_s));
         QCOMPARE(world.desktop.urls.size(), 1);
     }
@@ -110,7 +110,7 @@ class OutputFolderTest : public QObject {
 
     void browsingAsksForOneFolder() {
         WindowWorld world;
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         ctrl.window();
         world.notices.setNextFiles({});
         press(ctrl, "m_btnBrowse");
@@ -123,7 +123,7 @@ class OutputFolderTest : public QObject {
 
     void aChosenFolderIsShownAndStored() {
         WindowWorld world;
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         ctrl.window();
         world.notices.setNextFiles({world.home.path()});
         press(ctrl, "m_btnBrowse");
@@ -134,7 +134,7 @@ class OutputFolderTest : public QObject {
     void aCancelledChoiceChangesNothing() {
         WindowWorld world;
         world.storeFolder(world.home.path());
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         ctrl.window();
         world.notices.setNextFiles({});
         press(ctrl, "m_btnBrowse");
@@ -147,7 +147,7 @@ class OutputFolderTest : public QObject {
     void aFolderThatIsNotWritableWarnsAndAsksAgain() {
         WindowWorld world;
         world.storeFolder(world.home.path());
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         ctrl.window();
         const QString good = world.path(u"good"_s);
         QVERIFY(QDir().mkpath(good));
@@ -165,7 +165,7 @@ class OutputFolderTest : public QObject {
     void theWarningHasGoneBeforeThePanelComesAgain() {
         WindowWorld world;
         world.storeFolder(world.home.path());
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         ctrl.window()->show();
         world.notices.setNextFiles({u"/nowhere/a"_s});
         world.notices.setNextFiles({});
@@ -182,7 +182,7 @@ class OutputFolderTest : public QObject {
     void openingShowsTheFolderInTheFileBrowser() {
         WindowWorld world;
         world.storeFolder(world.home.path());
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         press(ctrl, "m_btnOpen");
         QCOMPARE(world.desktop.files, QStringList(world.home.path()));
         QVERIFY(world.notices.shown().empty());
@@ -192,7 +192,7 @@ class OutputFolderTest : public QObject {
         WindowWorld world;
         world.storeFolder(u"/nowhere/at all"_s);
         world.notices.answerNoticesAtOnce();
-        MainWndCtrl ctrl(world.surroundings());
+        MainWndCtrl ctrl(world.services());
         press(ctrl, "m_btnOpen");
         QVERIFY(world.desktop.files.isEmpty());
         QCOMPARE(world.notices.shown().size(), std::size_t(1));

@@ -69,7 +69,7 @@ struct SmallWindow {
     }
 
     WindowWorld world;
-    MainWndCtrl ctrl{world.surroundings()};
+    MainWndCtrl ctrl{world.services()};
     QMainWindow &window = *ctrl.window();
     OptionsDrawer &drawer = control<OptionsDrawer>("m_optionsDrawer");
     QWidget &panel = control<QWidget>("optionsPanel");

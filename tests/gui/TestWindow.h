@@ -23,7 +23,7 @@ class TestWindow : public WindowWorld {
   public:
     /// A window of the application at `bundle`; without one the window has no resources.
     explicit TestWindow(const QString &bundle = {})
-        : ctrl(surroundings(bundle.isEmpty() ? path(QStringLiteral("Folioforge.app")) : bundle)) {
+        : ctrl(services(bundle.isEmpty() ? path(QStringLiteral("Folioforge.app")) : bundle)) {
         QDir().mkpath(path(QStringLiteral("out")));
         storeFolder(path(QStringLiteral("out")));
         notices.answerNoticesAtOnce();

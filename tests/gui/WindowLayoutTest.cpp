@@ -320,7 +320,7 @@ class WindowLayoutTest : public QObject {
         QVERIFY(ink > 0);
     }
 
-    void theColoursStayLightUnderADarkTheme() {
+    void theColorsStayLightUnderADarkTheme() {
         Window window;
         QPalette dark(QColor(30, 30, 30), QColor(20, 20, 20));
         QApplication::setPalette(dark);

@@ -3,7 +3,7 @@
 #include "mainwnd/Desktop.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
-#include "mainwnd/Surroundings.h"
+#include "mainwnd/WindowServices.h"
 #include "support/Files.h"
 
 #include <QSettings>
@@ -43,7 +43,7 @@ struct WindowWorld {
     void storeFolder(const QString &folder) {
         settings.setValue(QStringLiteral("CustomizeOutputDir"), folder);
     }
-    [[nodiscard]] Surroundings surroundings(const QString &bundle = realBundle()) {
+    [[nodiscard]] WindowServices services(const QString &bundle = realBundle()) {
         return {settings, desktop, notices, notifications, home.path(), bundle};
     }
 

@@ -46,8 +46,8 @@ class BmpTest : public QObject {
   private Q_SLOTS:
     void headersOfEveryLengthGiveTheirPixels_data();
     void headersOfEveryLengthGiveTheirPixels();
-    void coloursOfFewBitsAreWidened_data();
-    void coloursOfFewBitsAreWidened();
+    void colorsOfFewBitsAreWidened_data();
+    void colorsOfFewBitsAreWidened();
     void oneBitOfOpacityIsAllOrNothing();
     void opacityCountsWhereTheHeaderHasAMaskForIt();
     void densityIsReadOnlyWhereTheHeaderHasIt();
@@ -115,12 +115,12 @@ void BmpTest::headersOfEveryLengthGiveTheirPixels() {
     QFETCH(const QByteArray, rgb);
     const QString path = file(bytes);
     QCOMPARE(readImageHeader(path).format, ImageFormat::Bmp);
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QCOMPARE(rgbRows(image).toHex(), rgb.toHex());
     QVERIFY(image.softMask == nullptr);
 }
 
-void BmpTest::coloursOfFewBitsAreWidened_data() {
+void BmpTest::colorsOfFewBitsAreWidened_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("rgb");
     const QByteArray masks565 = little(0xF800) + little(0x07E0) + little(0x001F);
@@ -159,16 +159,16 @@ void BmpTest::coloursOfFewBitsAreWidened_data() {
                                "ffffff");
 }
 
-void BmpTest::coloursOfFewBitsAreWidened() {
+void BmpTest::colorsOfFewBitsAreWidened() {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QByteArray, rgb);
-    QCOMPARE(rgbRows(encodeImage(file(bytes))).toHex(), rgb.toHex());
+    QCOMPARE(rgbRows(toPdfImage(file(bytes))).toHex(), rgb.toHex());
 }
 
 void BmpTest::oneBitOfOpacityIsAllOrNothing() {
     const QByteArray masks = little(0x7C00) + little(0x03E0) + little(0x001F) + little(0x8000);
-    const EncodedImage image =
-        encodeImage(file(bitmap(56, 16, kMasks, masks, QByteArray::fromHex("ffff007cff7f00fc"))));
+    const PdfImage image =
+        toPdfImage(file(bitmap(56, 16, kMasks, masks, QByteArray::fromHex("ffff007cff7f00fc"))));
     QVERIFY(image.softMask != nullptr);
     QCOMPARE(rgbRows(*image.softMask).toHex(), QByteArray("000000ffffffffffff000000"));
 }
@@ -176,11 +176,11 @@ void BmpTest::oneBitOfOpacityIsAllOrNothing() {
 void BmpTest::opacityCountsWhereTheHeaderHasAMaskForIt() {
     const QByteArray masks =
         little(0x0000FF) + little(0x00FF00) + little(0xFF0000) + little(0xFF000000);
-    const EncodedImage image = encodeImage(file(bitmap(56, 32, kMasks, masks,
-                                                       QByteArray::fromHex("01020300"
-                                                                           "04050640"
-                                                                           "07080980"
-                                                                           "0a0b0cff"))));
+    const PdfImage image = toPdfImage(file(bitmap(56, 32, kMasks, masks,
+                                                  QByteArray::fromHex("01020300"
+                                                                      "04050640"
+                                                                      "07080980"
+                                                                      "0a0b0cff"))));
     QCOMPARE(rgbRows(image).toHex(), QByteArray("0708090a0b0c010203040506"));
     QVERIFY(image.softMask != nullptr);
     QCOMPARE(rgbRows(*image.softMask).toHex(), QByteArray("808080ffffff000000404040"));

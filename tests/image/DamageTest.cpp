@@ -51,7 +51,7 @@ bool DamageTest::isInOrder(const QString &name, const QByteArray &bytes) {
     if (!reason.isEmpty()) {
         return true;
     }
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     const bool hasData = !image.data.isEmpty() || !image.slices.empty();
     return hasData && image.width > 0 && image.height > 0 &&
            std::ranges::all_of(image.slices, [&](const FileSlice &slice) {

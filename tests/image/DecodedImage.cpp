@@ -42,7 +42,7 @@ QByteArray withFilterNumbers(const QByteArray &rows, qsizetype stride) {
     return qCompress(out).mid(4);
 }
 
-QImage decodedFlate(const EncodedImage &image) {
+QImage decodedFlate(const PdfImage &image) {
     const int channels = image.color == ImageColor::Rgb ? 3 : 1;
     const char type = image.color == ImageColor::Rgb       ? '\x02'
                       : image.color == ImageColor::Indexed ? '\x03'
@@ -66,7 +66,7 @@ QImage decodedFlate(const EncodedImage &image) {
 }
 
 /// A TIFF file of one strip by hand, read back with libtiff.
-QImage decodedFax(const EncodedImage &image) {
+QImage decodedFax(const PdfImage &image) {
     const QTemporaryDir folder;
     const QByteArray data = dataOf(image);
     struct Entry {
@@ -113,7 +113,7 @@ QImage decodedFax(const EncodedImage &image) {
 
 } // namespace
 
-QByteArray rgbRows(const EncodedImage &image) {
+QByteArray rgbRows(const PdfImage &image) {
     const QImage picture = decoded(image).convertToFormat(QImage::Format_RGB888);
     const qsizetype stride = qsizetype{3} * picture.width();
     QByteArray rows;
@@ -145,7 +145,7 @@ QString writeFile(const QString &path, const QByteArray &bytes) {
     return path;
 }
 
-QByteArray dataOf(const EncodedImage &image) {
+QByteArray dataOf(const PdfImage &image) {
     if (image.slices.empty()) {
         return image.data;
     }
@@ -162,7 +162,7 @@ QByteArray unzipped(const QByteArray &bytes) {
     return qUncompress(bigEndian(kEnough) + bytes);
 }
 
-QImage decoded(const EncodedImage &image) {
+QImage decoded(const PdfImage &image) {
     QImage picture;
     if (image.filter == ImageFilter::Dct) {
         picture = QImage::fromData(dataOf(image), "jpeg");
@@ -179,7 +179,7 @@ QImage decoded(const EncodedImage &image) {
 
 QString refusalOf(const QString &path) {
     try {
-        encodeImage(path);
+        toPdfImage(path);
         return {};
     } catch (const Error &error) {
         return error.reason();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -18,14 +18,14 @@ QByteArray bytesOf(const QString &path);
 QString writeFile(const QString &path, const QByteArray &bytes);
 
 /// The compressed data of an encoded image, its slices read from the file.
-QByteArray dataOf(const EncodedImage &image);
+QByteArray dataOf(const PdfImage &image);
 
 /// The picture that an encoded image's data holds, read with Qt's PNG and JPEG readers and libtiff
 /// after it has been put into files of these formats by hand. Grey, RGB and palette only.
-QImage decoded(const EncodedImage &image);
+QImage decoded(const PdfImage &image);
 
 /// Red, green and blue of each pixel of decoded(), the rows from the top.
-QByteArray rgbRows(const EncodedImage &image);
+QByteArray rgbRows(const PdfImage &image);
 
 /// A chunk of a PNG file with its length and checksum.
 QByteArray pngChunk(const char *type, const QByteArray &content);
@@ -33,7 +33,7 @@ QByteArray pngChunk(const char *type, const QByteArray &content);
 /// The zlib stream `bytes` unpacked by Qt.
 QByteArray unzipped(const QByteArray &bytes);
 
-/// The reason with which encodeImage() refuses the file; empty where it does not.
+/// The reason with which toPdfImage() refuses the file; empty where it does not.
 QString refusalOf(const QString &path);
 
 } // namespace folioforge::test

@@ -27,9 +27,9 @@ class ExrTest : public QObject {
   private Q_SLOTS:
     void lightBecomesSrgbOfSixteenBits();
     void brighterThanWhiteIsWhiteAndNoNumberIsBlack();
-    void opacityIsTakenOutOfTheColour();
+    void opacityIsTakenOutOfTheColor();
     void brightnessAloneStaysGrey();
-    void brightnessWithHalvedColourBecomesRgb();
+    void brightnessWithHalvedColorBecomesRgb();
     void tilesComeOutInTheirPlaces();
     void windowMayBeginAnywhere();
     void densityIsRead();
@@ -53,7 +53,7 @@ struct Deep {
     int blue;
 };
 
-Deep deepPixel(const EncodedImage &image, int x) {
+Deep deepPixel(const PdfImage &image, int x) {
     const QRgba64 pixel = decoded(image).pixelColor(x, 0).rgba64();
     return {pixel.red(), pixel.green(), pixel.blue()};
 }
@@ -70,7 +70,7 @@ QString ExrTest::exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channe
 }
 
 void ExrTest::lightBecomesSrgbOfSixteenBits() {
-    const EncodedImage image = encodeImage(exr({{0.0F, 0.5F, 1.0F}, {0.25F, 0.002F, 0.0F}}));
+    const PdfImage image = toPdfImage(exr({{0.0F, 0.5F, 1.0F}, {0.25F, 0.002F, 0.0F}}));
     QCOMPARE(image.bitsPerComponent, 16);
     QVERIFY(image.softMask == nullptr);
     const Deep first = deepPixel(image, 0);
@@ -84,16 +84,16 @@ void ExrTest::lightBecomesSrgbOfSixteenBits() {
 
 void ExrTest::brighterThanWhiteIsWhiteAndNoNumberIsBlack() {
     const float nothing = std::numeric_limits<float>::quiet_NaN();
-    const EncodedImage image = encodeImage(exr({{9.0F, nothing, -3.0F}}));
+    const PdfImage image = toPdfImage(exr({{9.0F, nothing, -3.0F}}));
     const Deep pixel = deepPixel(image, 0);
     QCOMPARE(pixel.red, 65535);
     QCOMPARE(pixel.green, 0);
     QCOMPARE(pixel.blue, 0);
 }
 
-void ExrTest::opacityIsTakenOutOfTheColour() {
-    const EncodedImage image =
-        encodeImage(exr({{0.25F, 0.0F, 0.5F, 0.5F}, {0.5F, 0.5F, 0.5F, 1.0F}}, Imf::WRITE_RGBA));
+void ExrTest::opacityIsTakenOutOfTheColor() {
+    const PdfImage image =
+        toPdfImage(exr({{0.25F, 0.0F, 0.5F, 0.5F}, {0.5F, 0.5F, 0.5F, 1.0F}}, Imf::WRITE_RGBA));
     QVERIFY(image.softMask != nullptr);
     QVERIFY(qAbs(deepPixel(*image.softMask, 0).red - 32768) <= 1);
     QCOMPARE(deepPixel(*image.softMask, 1).red, 65535);
@@ -114,12 +114,12 @@ void ExrTest::brightnessAloneStaysGrey() {
         file.setFrameBuffer(buffer);
         file.writePixels(1);
     }
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QCOMPARE(image.color, ImageColor::Gray);
     QVERIFY(qAbs(deepPixel(image, 0).red - 48192) < 3);
 }
 
-void ExrTest::brightnessWithHalvedColourBecomesRgb() {
+void ExrTest::brightnessWithHalvedColorBecomesRgb() {
     const QString path = m_folder.filePath(u"chroma.exr"_s);
     {
         const std::vector<Imf::Rgba> pixels(8 * 4, Imf::Rgba(0.5F, 0.25F, 0.0F));
@@ -128,7 +128,7 @@ void ExrTest::brightnessWithHalvedColourBecomesRgb() {
         file.setFrameBuffer(pixels.data(), 1, 8);
         file.writePixels(4);
     }
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QCOMPARE(image.color, ImageColor::Rgb);
     const Deep pixel = deepPixel(image, 3);
     QVERIFY(qAbs(pixel.red - 48192) < 300); // Brightness and colour are rounded apart.
@@ -146,7 +146,7 @@ void ExrTest::tilesComeOutInTheirPlaces() {
         file.setFrameBuffer(pixels.data(), 1, 40);
         file.writeTiles(0, file.numXTiles() - 1, 0, file.numYTiles() - 1);
     }
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QCOMPARE(QSize(image.width, image.height), QSize(40, 20));
     QCOMPARE(deepPixel(image, 39).red, 65535);
     QCOMPARE(deepPixel(image, 38).red, 0);
@@ -155,8 +155,8 @@ void ExrTest::tilesComeOutInTheirPlaces() {
 void ExrTest::windowMayBeginAnywhere() {
     Imf::Header header(2, 1);
     header.dataWindow() = Imath::Box2i({-7, 3}, {-6, 3});
-    const EncodedImage image =
-        encodeImage(exr({{1.0F, 0.0F, 0.0F}, {0.0F, 1.0F, 0.0F}}, Imf::WRITE_RGB, header));
+    const PdfImage image =
+        toPdfImage(exr({{1.0F, 0.0F, 0.0F}, {0.0F, 1.0F, 0.0F}}, Imf::WRITE_RGB, header));
     QCOMPARE(deepPixel(image, 0).red, 65535);
     QCOMPARE(deepPixel(image, 1).green, 65535);
 }

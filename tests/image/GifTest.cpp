@@ -74,7 +74,7 @@ void GifTest::aScreenWithoutSizeIsAsLargeAsTheFirstImage() {
     const QString path = gif(screen.constData(), extension + frame());
     const ImageHeader header = readImageHeader(path);
     QCOMPARE(QSize(header.width, header.height), size);
-    const QImage picture = decoded(encodeImage(path));
+    const QImage picture = decoded(toPdfImage(path));
     QCOMPARE(picture.size(), size);
     QCOMPARE(picture.pixelColor(1, 2), QColor(Qt::red));
     QCOMPARE(picture.pixelColor(2, 2), QColor(Qt::green));

@@ -108,7 +108,7 @@ QImage shownByQt(const QByteArray &bytes, const char *format) {
 }
 
 /// Colour and opacity of an encoded image together.
-QImage whole(const EncodedImage &image) {
+QImage whole(const PdfImage &image) {
     QImage picture = decoded(image).convertToFormat(QImage::Format_ARGB32);
     if (image.softMask) {
         const QImage mask = decoded(*image.softMask);
@@ -166,7 +166,7 @@ void IconTest::classicEntryLooksAsQtShowsIt_data() {
 void IconTest::classicEntryLooksAsQtShowsIt() {
     QFETCH(QByteArray, entries);
     const QByteArray bytes = icns(entries);
-    QCOMPARE(difference(whole(encodeImage(write("classic.icns", bytes))), shownByQt(bytes, "icns")),
+    QCOMPARE(difference(whole(toPdfImage(write("classic.icns", bytes))), shownByQt(bytes, "icns")),
              QString());
 }
 
@@ -174,15 +174,14 @@ void IconTest::deepestOfEqualEntriesIsTaken() {
     const QByteArray grey = runs(256, 60) + runs(256, 60) + runs(256, 60);
     const QByteArray bytes = icns(entry("ics#", QByteArray(64, '\xFF')) +
                                   entry("ics8", QByteArray(256, '\x23')) + entry("is32", grey));
-    const EncodedImage image = encodeImage(write("depths.icns", bytes));
+    const PdfImage image = toPdfImage(write("depths.icns", bytes));
     QVERIFY(image.softMask == nullptr); // The outline is full.
     QCOMPARE(decoded(image).pixel(0, 0), qRgb(60, 60, 60));
 }
 
 void IconTest::newerEntryHasItsOwnOpacity() {
     const QByteArray planes = runs(256, 9) + runs(256, 10) + runs(256, 20) + runs(256, 30);
-    const EncodedImage image =
-        encodeImage(write("newer.icns", icns(entry("ic04", "ARGB" + planes))));
+    const PdfImage image = toPdfImage(write("newer.icns", icns(entry("ic04", "ARGB" + planes))));
     QCOMPARE(whole(image).pixel(0, 0), qRgba(10, 20, 30, 9));
 }
 
@@ -210,15 +209,14 @@ void IconTest::bitmapFrameLooksAsQtShowsIt_data() {
 void IconTest::bitmapFrameLooksAsQtShowsIt() {
     QFETCH(QByteArray, frame);
     const QByteArray bytes = ico({frame});
-    QCOMPARE(difference(whole(encodeImage(write("frame.ico", bytes))), shownByQt(bytes, "ico")),
+    QCOMPARE(difference(whole(toPdfImage(write("frame.ico", bytes))), shownByQt(bytes, "ico")),
              QString());
 }
 
 void IconTest::bitsBelowABitmapFrameAreItsOpacity() {
     QByteArray pixels(96, '\x40');
     const QByteArray mask = QByteArray::fromHex("00000000000000000000000080000000");
-    const QImage icon =
-        whole(encodeImage(write("mask.ico", ico({bitmapFrame(24, pixels + mask)}))));
+    const QImage icon = whole(toPdfImage(write("mask.ico", ico({bitmapFrame(24, pixels + mask)}))));
     QCOMPARE(qAlpha(icon.pixel(0, 0)), 0); // The last row of the file is the first.
     QCOMPARE(icon.pixel(1, 0), qRgb(64, 64, 64));
     QCOMPARE(icon.pixel(0, 1), qRgb(64, 64, 64));
@@ -229,13 +227,13 @@ void IconTest::largestFrameIsTakenThoughOthersAreDamaged() {
     const QByteArray bytes = ico({QByteArray(50, '\x55'), good});
     const ImageHeader header = readImageHeader(write("damaged.ico", bytes));
     QCOMPARE(QSize(header.width, header.height), QSize(8, 4));
-    QCOMPARE(encodeImage(write("damaged.ico", bytes)).width, 8);
+    QCOMPARE(toPdfImage(write("damaged.ico", bytes)).width, 8);
 }
 
 void IconTest::pngFrameKeepsItsOwnRows() {
     const QByteArray png = bytesOf(imageFile(u"colour.png"_s));
     const QByteArray small = bitmapFrame(24, QByteArray(96 + 16, '\0'));
-    const EncodedImage image = encodeImage(write("png.ico", ico({small, png})));
+    const PdfImage image = toPdfImage(write("png.ico", ico({small, png})));
     QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
     QVERIFY(png.contains("IDAT" + dataOf(image)));
 }

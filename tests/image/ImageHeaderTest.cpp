@@ -94,7 +94,7 @@ void ImageHeaderTest::headerStatesFormatAndPixels() {
     QCOMPARE(QSize(header.width, header.height), size);
     QCOMPARE(header.orientation, 1);
     QCOMPARE(header.horizontalDpi, 72.0);
-    const EncodedImage image = encodeImage(imageFile(name));
+    const PdfImage image = toPdfImage(imageFile(name));
     QCOMPARE(QSize(image.width, image.height), size);
 }
 

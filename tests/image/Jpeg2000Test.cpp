@@ -20,8 +20,8 @@ class Jpeg2000Test : public QObject {
     void resolutionBoxIsPixelsAMetre();
     void shownResolutionCountsMoreThanCaptured();
     void boxesInBoxesWithoutEndAreNoPicture();
-    void opacityIsTakenFromAmongTheColours_data();
-    void opacityIsTakenFromAmongTheColours();
+    void opacityIsTakenFromAmongTheColors_data();
+    void opacityIsTakenFromAmongTheColors();
 
   private:
     QTemporaryDir m_folder;
@@ -160,7 +160,7 @@ void Jpeg2000Test::boxesInBoxesWithoutEndAreNoPicture() {
              u"The JPEG 2000 file holds no picture"_s);
 }
 
-void Jpeg2000Test::opacityIsTakenFromAmongTheColours_data() {
+void Jpeg2000Test::opacityIsTakenFromAmongTheColors_data() {
     QTest::addColumn<QByteArray>("colorSpace");
     QTest::addColumn<int>("colors");
     QTest::addColumn<int>("alpha");
@@ -171,7 +171,7 @@ void Jpeg2000Test::opacityIsTakenFromAmongTheColours_data() {
     QTest::newRow("behind a grey") << QByteArray("GRAY") << 1 << 1;
 }
 
-void Jpeg2000Test::opacityIsTakenFromAmongTheColours() {
+void Jpeg2000Test::opacityIsTakenFromAmongTheColors() {
     QFETCH(QByteArray, colorSpace);
     QFETCH(int, colors);
     QFETCH(int, alpha);

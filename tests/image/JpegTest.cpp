@@ -20,7 +20,7 @@ class JpegTest : public QObject {
     void exifGivesOrientationAndDensity_data();
     void exifGivesOrientationAndDensity();
     void profileInSeveralPartsIsJoined();
-    void profileOfAnotherColourIsDropped();
+    void profileOfAnotherColorIsDropped();
     void fillBytesBeforeAMarkerAreSkipped();
     void fileCutBeforeItsPictureIsRefused();
     void fileCutInItsPictureGoesIn();
@@ -87,13 +87,13 @@ QByteArray JpegTest::photoWith(const QByteArray &segments) {
 void JpegTest::adobeInkIsInverted() {
     QVERIFY(bytesOf(imageFile(u"ink.jpg"_s)).contains("Adobe"));
     const std::vector<double> inverted = {1, 0, 1, 0, 1, 0, 1, 0};
-    QCOMPARE(encodeImage(imageFile(u"ink.jpg"_s)).decode, inverted);
+    QCOMPARE(toPdfImage(imageFile(u"ink.jpg"_s)).decode, inverted);
 }
 
 void JpegTest::inkWithoutAdobesMarkIsNot() {
     QByteArray bytes = bytesOf(imageFile(u"ink.jpg"_s));
     bytes.replace("Adobe", "Other");
-    QVERIFY(encodeImage(write(bytes)).decode.empty());
+    QVERIFY(toPdfImage(write(bytes)).decode.empty());
 }
 
 void JpegTest::jfifDensityPerInchAndPerCentimetre() {
@@ -139,14 +139,14 @@ void JpegTest::profileInSeveralPartsIsJoined() {
     const QByteArray lead("ICC_PROFILE\0", 12);
     const QByteArray second = segment(0xE2, lead + "\2\2" + profile.mid(200));
     const QByteArray first = segment(0xE2, lead + "\1\2" + profile.first(200));
-    QCOMPARE(encodeImage(write(photoWith(second + first))).iccProfile, profile);
+    QCOMPARE(toPdfImage(write(photoWith(second + first))).iccProfile, profile);
 }
 
-void JpegTest::profileOfAnotherColourIsDropped() {
+void JpegTest::profileOfAnotherColorIsDropped() {
     const QByteArray lead("ICC_PROFILE\0\1\1", 14);
-    QVERIFY(encodeImage(write(photoWith(segment(0xE2, lead + profileFor("GRAY", 200)))))
+    QVERIFY(toPdfImage(write(photoWith(segment(0xE2, lead + profileFor("GRAY", 200)))))
                 .iccProfile.isEmpty());
-    QVERIFY(encodeImage(write(photoWith(segment(0xE2, lead + "no profile")))).iccProfile.isEmpty());
+    QVERIFY(toPdfImage(write(photoWith(segment(0xE2, lead + "no profile")))).iccProfile.isEmpty());
 }
 
 void JpegTest::fillBytesBeforeAMarkerAreSkipped() {
@@ -164,7 +164,7 @@ void JpegTest::fileCutBeforeItsPictureIsRefused() {
 
 void JpegTest::fileCutInItsPictureGoesIn() {
     const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
-    const EncodedImage image = encodeImage(write(photo.chopped(30)));
+    const PdfImage image = toPdfImage(write(photo.chopped(30)));
     QCOMPARE(image.filter, ImageFilter::Dct);
     QCOMPARE(dataOf(image), photo.chopped(30));
 }
@@ -186,12 +186,12 @@ void JpegTest::componentsNamedForRgbAreRgb() {
         return photo;
     };
     const QByteArray bare = photoWith({});
-    QVERIFY(!encodeImage(write(bare)).isPlainRgb);
-    QVERIFY(encodeImage(write(named(bare))).isPlainRgb);
+    QVERIFY(!toPdfImage(write(bare)).isPlainRgb);
+    QVERIFY(toPdfImage(write(named(bare))).isPlainRgb);
     // JFIF says YCbCr whatever the names, and Adobe's mark says which of the two.
-    QVERIFY(!encodeImage(write(named(bytesOf(imageFile(u"photo.jpg"_s))))).isPlainRgb);
+    QVERIFY(!toPdfImage(write(named(bytesOf(imageFile(u"photo.jpg"_s))))).isPlainRgb);
     const QByteArray adobe = segment(0xEE, QByteArray("Adobe\0\x64\0\0\0\0\1", 12));
-    QVERIFY(!encodeImage(write(named(photoWith(adobe)))).isPlainRgb);
+    QVERIFY(!toPdfImage(write(named(photoWith(adobe)))).isPlainRgb);
 }
 
 QTEST_GUILESS_MAIN(JpegTest)

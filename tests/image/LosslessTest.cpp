@@ -75,7 +75,7 @@ void LosslessTest::fileComesOutPixelForPixel_data() {
 void LosslessTest::fileComesOutPixelForPixel() {
     QFETCH(QString, name);
     QFETCH(QString, like);
-    const EncodedImage image = encodeImage(imageFile(name));
+    const PdfImage image = toPdfImage(imageFile(name));
     QCOMPARE(image.sourceSize, bytesOf(imageFile(name)).size());
     QVERIFY(image.softMask == nullptr);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
@@ -89,7 +89,7 @@ void LosslessTest::opacityBecomesASoftMask_data() {
 
 void LosslessTest::opacityBecomesASoftMask() {
     QFETCH(QString, name);
-    const EncodedImage image = encodeImage(imageFile(name));
+    const PdfImage image = toPdfImage(imageFile(name));
     QVERIFY(image.softMask != nullptr);
     const QImage color = decoded(image);
     const QImage alpha = decoded(*image.softMask);
@@ -113,7 +113,7 @@ void LosslessTest::sixteenBitsStaySixteenBits_data() {
 
 void LosslessTest::sixteenBitsStaySixteenBits() {
     QFETCH(QString, name);
-    const EncodedImage image = encodeImage(imageFile(name));
+    const PdfImage image = toPdfImage(imageFile(name));
     QCOMPARE(image.bitsPerComponent, 16);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGBX64),
              reference(u"deep.png"_s, QImage::Format_RGBX64));
@@ -125,7 +125,7 @@ void LosslessTest::greyStaysGrey_data() {
 
 void LosslessTest::greyStaysGrey() {
     QFETCH(QString, name);
-    const EncodedImage image = encodeImage(imageFile(name));
+    const PdfImage image = toPdfImage(imageFile(name));
     QCOMPARE(image.color, ImageColor::Gray);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_Grayscale8),
              reference(u"grey.png"_s, QImage::Format_Grayscale8));
@@ -138,7 +138,7 @@ void LosslessTest::bilevelStaysOneBit_data() {
 
 void LosslessTest::bilevelStaysOneBit() {
     QFETCH(QString, name);
-    const EncodedImage image = encodeImage(imageFile(name));
+    const PdfImage image = toPdfImage(imageFile(name));
     QCOMPARE(image.bitsPerComponent, 1);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
              reference(u"bilevel.png"_s, QImage::Format_RGB32));
@@ -149,7 +149,7 @@ void LosslessTest::fullOpacityIsDropped() {
     const QString path = folder.filePath(u"opaque.png"_s);
     QVERIFY(reference(u"colour.png"_s, QImage::Format_RGBA8888).save(path));
     QCOMPARE(bytesOf(path).at(25), '\x06'); // The file does hold an alpha channel.
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QVERIFY(image.softMask == nullptr);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
              reference(u"colour.png"_s, QImage::Format_RGB32));
@@ -161,7 +161,7 @@ void LosslessTest::opacityOfAllOrNothingTakesOneBit() {
     picture.setPixel(3, 4, 0);
     const QString path = folder.filePath(u"hole.png"_s);
     QVERIFY(picture.save(path));
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QVERIFY(image.softMask != nullptr);
     QCOMPARE(image.softMask->bitsPerComponent, 1);
     const QImage mask = decoded(*image.softMask);
@@ -185,7 +185,7 @@ void LosslessTest::bitmapsOfQtComeOutPixelForPixel() {
     const QImage picture = reference(u"colour.png"_s, format);
     const QString path = folder.filePath(u"picture.bmp"_s);
     QVERIFY(picture.save(path));
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QCOMPARE(image.bitsPerComponent, bits);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
              picture.convertToFormat(QImage::Format_RGB32));
@@ -216,7 +216,7 @@ void LosslessTest::largePictureIsFilteredWhereThatPays() {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"large.bmp"_s);
     QVERIFY(picture.save(path));
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QCOMPARE(image.predictor, predictor);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB888), picture);
 }
@@ -229,7 +229,7 @@ void LosslessTest::singleRowOfManyPixelsComesOut() {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"row.bmp"_s);
     QVERIFY(picture.save(path));
-    QCOMPARE(decoded(encodeImage(path)).convertToFormat(QImage::Format_RGB888), picture);
+    QCOMPARE(decoded(toPdfImage(path)).convertToFormat(QImage::Format_RGB888), picture);
 }
 
 void LosslessTest::labKeepsItsAxes() {
@@ -259,13 +259,13 @@ void LosslessTest::labKeepsItsAxes() {
     tiff += QByteArray(4, '\0');
     qToLittleEndian(quint32(tiff.size()), tiff.data() + bitsEntry + 8);
     tiff += QByteArray::fromHex("080008000800");
-    const EncodedImage image = encodeImage(writeFile(folder.filePath(u"lab.tif"_s), tiff));
+    const PdfImage image = toPdfImage(writeFile(folder.filePath(u"lab.tif"_s), tiff));
     QCOMPARE(image.color, ImageColor::Lab);
     QCOMPARE(unzipped(image.data).last(3), QByteArray::fromHex("ff807b"));
 }
 
 void LosslessTest::inkOfATiffKeepsFourComponents() {
-    const EncodedImage image = encodeImage(imageFile(u"ink.tif"_s));
+    const PdfImage image = toPdfImage(imageFile(u"ink.tif"_s));
     QCOMPARE(image.color, ImageColor::Cmyk);
     QVERIFY(image.decode.empty());
     QCOMPARE(unzipped(image.data).size(), qsizetype(16 * (1 + 24 * 4)));

@@ -39,7 +39,7 @@ void OwnBytesTest::wholeFileGoesIn() {
     QFETCH(QString, name);
     QFETCH(ImageFilter, filter);
     QFETCH(ImageColor, color);
-    const EncodedImage image = encodeImage(imageFile(name));
+    const PdfImage image = toPdfImage(imageFile(name));
     QCOMPARE(image.filter, filter);
     QCOMPARE(image.color, color);
     QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
@@ -49,7 +49,7 @@ void OwnBytesTest::wholeFileGoesIn() {
 
 void OwnBytesTest::pngRowsGoInWithTheirPredictor() {
     for (const char *name : {"colour.png", "grey.png", "bilevel.png", "palette.png", "deep.png"}) {
-        const EncodedImage image = encodeImage(imageFile(QString::fromLatin1(name)));
+        const PdfImage image = toPdfImage(imageFile(QString::fromLatin1(name)));
         QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
         QCOMPARE(image.predictor, 15);
         QVERIFY(bytesOf(image.sourcePath).contains("IDAT" + dataOf(image)));
@@ -57,23 +57,23 @@ void OwnBytesTest::pngRowsGoInWithTheirPredictor() {
 }
 
 void OwnBytesTest::oneStripOfGroup4GoesIn() {
-    const EncodedImage image = encodeImage(imageFile(u"bilevel-g4.tif"_s));
+    const PdfImage image = toPdfImage(imageFile(u"bilevel-g4.tif"_s));
     QCOMPARE(image.filter, ImageFilter::CcittFax);
     QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
     QCOMPARE(image.ccittK, -1);
     QVERIFY(!image.ccittBlackIs1);
     QCOMPARE(image.slices.size(), size_t(1));
-    QVERIFY(encodeImage(imageFile(u"bilevel-minisblack.tif"_s)).ccittBlackIs1);
+    QVERIFY(toPdfImage(imageFile(u"bilevel-minisblack.tif"_s)).ccittBlackIs1);
 }
 
 void OwnBytesTest::reversedBitsOfGroup4AreTurned() {
-    const EncodedImage turned = encodeImage(imageFile(u"bilevel-lsb.tif"_s));
-    const EncodedImage plain = encodeImage(imageFile(u"bilevel-g4.tif"_s));
+    const PdfImage turned = toPdfImage(imageFile(u"bilevel-lsb.tif"_s));
+    const PdfImage plain = toPdfImage(imageFile(u"bilevel-g4.tif"_s));
     QCOMPARE(turned.data, dataOf(plain));
 }
 
 void OwnBytesTest::manyStripsAreEncodedAgain() {
-    const EncodedImage image = encodeImage(imageFile(u"bilevel-strips.tif"_s));
+    const PdfImage image = toPdfImage(imageFile(u"bilevel-strips.tif"_s));
     QCOMPARE(image.embeddedAs, EmbeddedAs::Recompressed);
     QVERIFY(image.slices.empty());
     QCOMPARE(image.filter, ImageFilter::CcittFax);
@@ -82,7 +82,7 @@ void OwnBytesTest::manyStripsAreEncodedAgain() {
 void OwnBytesTest::codestreamGetsTheBoxesOfAFile() {
     const QByteArray codestream = bytesOf(imageFile(u"codestream.jp2"_s));
     QVERIFY(codestream.startsWith("\xFF\x4F"));
-    const EncodedImage image = encodeImage(imageFile(u"codestream.jp2"_s));
+    const PdfImage image = toPdfImage(imageFile(u"codestream.jp2"_s));
     QCOMPARE(image.filter, ImageFilter::Jpx);
     QVERIFY(image.data.endsWith(codestream));
     // Colour space 16 is sRGB; what another program wrote around the same picture says the same.
@@ -95,7 +95,7 @@ void OwnBytesTest::codestreamGetsTheBoxesOfAFile() {
 }
 
 void OwnBytesTest::jpeg2000InsideAnIconIsSplit() {
-    const EncodedImage image = encodeImage(imageFile(u"jp2.icns"_s));
+    const PdfImage image = toPdfImage(imageFile(u"jp2.icns"_s));
     QCOMPARE(image.filter, ImageFilter::Flate);
     QVERIFY(image.softMask != nullptr);
 }

@@ -18,7 +18,7 @@ class PngTest : public QObject {
     void cutFileIsRefused();
     void profileIsInflatedAndKept();
     void orientationAfterTheRowsIsRead();
-    void paletteOfTooManyColoursIsRefused();
+    void paletteOfTooManyColorsIsRefused();
     void claimOfManyPixelsInFewBytesIsRefused();
     void sampleBehindMoreBitsThanAnIntCountsIsFound();
 
@@ -40,7 +40,7 @@ void PngTest::transparentPaletteKeepsItsRows() {
     }
     const QString path = m_folder.filePath(u"palette.png"_s);
     QVERIFY(picture.save(path));
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
     QCOMPARE(image.color, ImageColor::Indexed);
     QCOMPARE(image.palette.first(9), QByteArray::fromHex("ff000000ff000000ff"));
@@ -63,7 +63,7 @@ void PngTest::filteredRowsAreDealtOutForEachChannel() {
     }
     const QString path = m_folder.filePath(u"filters.png"_s);
     QVERIFY(picture.save(path));
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     const QImage color = decoded(image);
     const QImage alpha = decoded(*image.softMask);
     for (int y = 0; y < picture.height(); ++y) {
@@ -93,12 +93,12 @@ void PngTest::profileIsInflatedAndKept() {
     const QByteArray zipped = qCompress(profile).mid(4);
     QByteArray bytes = bytesOf(imageFile(u"colour.png"_s));
     bytes.insert(33, pngChunk("iCCP", QByteArray("name\0\0", 6) + zipped)); // After IHDR.
-    const EncodedImage image = encodeImage(write(bytes));
+    const PdfImage image = toPdfImage(write(bytes));
     QCOMPARE(image.iccProfile, profile);
-    QVERIFY(encodeImage(imageFile(u"colour.png"_s)).iccProfile.isEmpty());
+    QVERIFY(toPdfImage(imageFile(u"colour.png"_s)).iccProfile.isEmpty());
     bytes = bytesOf(imageFile(u"colour.png"_s));
     bytes.insert(33, pngChunk("iCCP", QByteArray("name\0\0", 6) + zipped.first(10)));
-    QVERIFY(encodeImage(write(bytes)).iccProfile.isEmpty()); // Damaged, but the picture is not.
+    QVERIFY(toPdfImage(write(bytes)).iccProfile.isEmpty()); // Damaged, but the picture is not.
 }
 
 void PngTest::orientationAfterTheRowsIsRead() {
@@ -113,7 +113,7 @@ void PngTest::orientationAfterTheRowsIsRead() {
     QCOMPARE(header.sizeInPoints(), QSizeF(16, 24));
 }
 
-void PngTest::paletteOfTooManyColoursIsRefused() {
+void PngTest::paletteOfTooManyColorsIsRefused() {
     QByteArray bytes = bytesOf(imageFile(u"palette.png"_s));
     bytes.insert(bytes.indexOf("IDAT") - 4, pngChunk("PLTE", QByteArray(qsizetype{3} * 257, '\1')));
     QCOMPARE(refusalOf(write(bytes)), u"The PNG file has no palette"_s);

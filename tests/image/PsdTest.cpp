@@ -65,8 +65,7 @@ QByteArray PsdTest::resource(int id, const QByteArray &data) {
 }
 
 void PsdTest::bitmapStaysOneBitAndBlackIsOne() {
-    const EncodedImage image =
-        encodeImage(psd({1, 9, 2, 1, 0, {}, QByteArray::fromHex("80004080")}));
+    const PdfImage image = toPdfImage(psd({1, 9, 2, 1, 0, {}, QByteArray::fromHex("80004080")}));
     QCOMPARE(image.bitsPerComponent, 1);
     const QImage picture = decoded(image);
     QCOMPARE(qGray(picture.pixel(0, 0)), 0);
@@ -76,8 +75,7 @@ void PsdTest::bitmapStaysOneBitAndBlackIsOne() {
 }
 
 void PsdTest::inkIsStoredInverted() {
-    const EncodedImage image =
-        encodeImage(psd({4, 1, 1, 8, 4, {}, QByteArray::fromHex("ff80ffff")}));
+    const PdfImage image = toPdfImage(psd({4, 1, 1, 8, 4, {}, QByteArray::fromHex("ff80ffff")}));
     QCOMPARE(image.color, ImageColor::Cmyk);
     QCOMPARE(image.decode, (std::vector<double>{1, 0, 1, 0, 1, 0, 1, 0}));
 }
@@ -93,19 +91,18 @@ void PsdTest::resolutionAndProfileAreRead() {
         psd({1, 2, 1, 8, 1, resource(1005, resolution) + resource(1039, profile), "\1\2"});
     QCOMPARE(readImageHeader(path).horizontalDpi, 300.0);
     QCOMPARE(readImageHeader(path).verticalDpi, 150.0);
-    QCOMPARE(encodeImage(path).iccProfile, profile);
+    QCOMPARE(toPdfImage(path).iccProfile, profile);
 }
 
 void PsdTest::labKeepsThreeComponents() {
-    const EncodedImage image = encodeImage(psd({3, 1, 1, 8, 9, {}, QByteArray::fromHex("ff807b")}));
+    const PdfImage image = toPdfImage(psd({3, 1, 1, 8, 9, {}, QByteArray::fromHex("ff807b")}));
     QCOMPARE(image.color, ImageColor::Lab);
     QCOMPARE(unzipped(image.data).last(3), QByteArray::fromHex("ff807b"));
 }
 
 void PsdTest::brightnessOf32BitsBecomes16() {
     const auto light = [](float value) { return bigEndian(std::bit_cast<quint32>(value)); };
-    const EncodedImage image =
-        encodeImage(psd({1, 3, 1, 32, 1, {}, light(0) + light(0.5F) + light(7)}));
+    const PdfImage image = toPdfImage(psd({1, 3, 1, 32, 1, {}, light(0) + light(0.5F) + light(7)}));
     QCOMPARE(image.bitsPerComponent, 16);
     const QImage picture = decoded(image).convertToFormat(QImage::Format_Grayscale16);
     const auto *samples = reinterpret_cast<const quint16 *>(picture.constScanLine(0));
@@ -117,7 +114,7 @@ void PsdTest::brightnessOf32BitsBecomes16() {
 
 void PsdTest::fourthChannelIsOpacity() {
     const QByteArray pixels = QByteArray::fromHex("0a0b141528296480");
-    const EncodedImage image = encodeImage(psd({4, 2, 1, 8, 3, {}, pixels}));
+    const PdfImage image = toPdfImage(psd({4, 2, 1, 8, 3, {}, pixels}));
     QVERIFY(image.softMask != nullptr);
     QCOMPARE(qGray(decoded(*image.softMask).pixel(1, 0)), 0x80);
     QCOMPARE(decoded(image).pixel(0, 0), qRgb(10, 20, 40));
@@ -125,7 +122,7 @@ void PsdTest::fourthChannelIsOpacity() {
 
 void PsdTest::namedChannelIsNoOpacity() {
     const QByteArray pixels = QByteArray::fromHex("0a0b141528296480");
-    QVERIFY(encodeImage(psd({4, 2, 1, 8, 3, resource(1006, "\5Spots"), pixels})).softMask ==
+    QVERIFY(toPdfImage(psd({4, 2, 1, 8, 3, resource(1006, "\5Spots"), pixels})).softMask ==
             nullptr);
 }
 

@@ -15,9 +15,9 @@ class TgaTest : public QObject {
     void rowsOfEveryOriginComeOutUpright_data();
     void rowsOfEveryOriginComeOutUpright();
     void runsMayCrossRows();
-    void colorMapGivesColours();
+    void colorMapGivesColors();
     void greyStaysGrey();
-    void fiveBitColoursAreWidened();
+    void fiveBitColorsAreWidened();
     void opacityCountsOnlyWhereItIsDeclared();
     void cutFileIsRefused();
 
@@ -46,7 +46,7 @@ void TgaTest::rowsOfEveryOriginComeOutUpright_data() {
 void TgaTest::rowsOfEveryOriginComeOutUpright() {
     QFETCH(int, descriptor);
     QFETCH(QByteArray, pixels);
-    const EncodedImage image = encodeImage(tga("00020000000000", 24, descriptor, pixels));
+    const PdfImage image = toPdfImage(tga("00020000000000", 24, descriptor, pixels));
     QCOMPARE(rgbRows(image), QByteArray("\0\0\1\0\0\2\0\0\3\0\0\4\0\0\5\0\0\6", 18));
     QVERIFY(image.softMask == nullptr);
 }
@@ -54,27 +54,27 @@ void TgaTest::rowsOfEveryOriginComeOutUpright() {
 void TgaTest::runsMayCrossRows() {
     const QByteArray runs = QByteArray::fromHex("84010203"   // Five of one colour,
                                                 "00040506"); // one of another.
-    const EncodedImage image = encodeImage(tga("000a0000000000", 24, 0x20, runs));
+    const PdfImage image = toPdfImage(tga("000a0000000000", 24, 0x20, runs));
     QCOMPARE(rgbRows(image), QByteArray::fromHex("030201030201030201030201030201060504"));
 }
 
-void TgaTest::colorMapGivesColours() {
+void TgaTest::colorMapGivesColors() {
     // Two entries, the first being number 1.
     const QByteArray rest = QByteArray::fromHex("0000ff00ff00") + QByteArray("\1\2\1\2\1\2", 6);
-    const EncodedImage image = encodeImage(tga("01010100020018", 8, 0x20, rest));
+    const PdfImage image = toPdfImage(tga("01010100020018", 8, 0x20, rest));
     QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff00ff000000ff00ff000000ff00"));
 }
 
 void TgaTest::greyStaysGrey() {
-    const EncodedImage image =
-        encodeImage(tga("00030000000000", 8, 0x20, QByteArray::fromHex("000a141e28ff")));
+    const PdfImage image =
+        toPdfImage(tga("00030000000000", 8, 0x20, QByteArray::fromHex("000a141e28ff")));
     QCOMPARE(image.color, ImageColor::Gray);
     QCOMPARE(qGray(decoded(image).pixel(2, 1)), 255);
     QCOMPARE(qGray(decoded(image).pixel(1, 0)), 10);
 }
 
-void TgaTest::fiveBitColoursAreWidened() {
-    const EncodedImage image = encodeImage(
+void TgaTest::fiveBitColorsAreWidened() {
+    const PdfImage image = toPdfImage(
         tga("00020000000000", 16, 0x20, QByteArray::fromHex("007ce0031f00ff7f00000042")));
     QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff000000ffffffff000000848400"));
 }
@@ -82,8 +82,8 @@ void TgaTest::fiveBitColoursAreWidened() {
 void TgaTest::opacityCountsOnlyWhereItIsDeclared() {
     const QByteArray pixels =
         QByteArray::fromHex("010203ff0102038001020300010203ff010203ff010203ff");
-    QVERIFY(encodeImage(tga("00020000000000", 32, 0x20, pixels)).softMask == nullptr);
-    const EncodedImage image = encodeImage(tga("00020000000000", 32, 0x28, pixels));
+    QVERIFY(toPdfImage(tga("00020000000000", 32, 0x20, pixels)).softMask == nullptr);
+    const PdfImage image = toPdfImage(tga("00020000000000", 32, 0x28, pixels));
     QVERIFY(image.softMask != nullptr);
     QCOMPARE(qGray(decoded(*image.softMask).pixel(1, 0)), 0x80);
     QCOMPARE(qGray(decoded(*image.softMask).pixel(2, 0)), 0);

@@ -19,8 +19,8 @@ class TiffTest : public QObject {
 
   private Q_SLOTS:
     void floatingPointBecomesSixteenBits();
-    void opacityIsTakenOutOfTheColoursItMultiplies();
-    void subsampledColourBecomesRgb();
+    void opacityIsTakenOutOfTheColorsItMultiplies();
+    void subsampledColorBecomesRgb();
     void orientationIsRead();
     void resolutionUnitsAreHeeded_data();
     void resolutionUnitsAreHeeded();
@@ -72,7 +72,7 @@ void TiffTest::floatingPointBecomesSixteenBits() {
         setSamples(tif, 1, 32, PHOTOMETRIC_MINISBLACK);
         TIFFSetField(tif, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_IEEEFP);
     });
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QCOMPARE(image.bitsPerComponent, 16);
     QCOMPARE(image.color, ImageColor::Gray);
     const QImage picture = decoded(image).convertToFormat(QImage::Format_Grayscale16);
@@ -83,7 +83,7 @@ void TiffTest::floatingPointBecomesSixteenBits() {
     QCOMPARE(samples[3], quint16(65535));
 }
 
-void TiffTest::opacityIsTakenOutOfTheColoursItMultiplies() {
+void TiffTest::opacityIsTakenOutOfTheColorsItMultiplies() {
     const QByteArray pixels = QByteArray::fromHex("40200080"
                                                   "ff8000ff");
     const QString path = tiff(2, 1, pixels, [](TIFF *tif) {
@@ -91,14 +91,14 @@ void TiffTest::opacityIsTakenOutOfTheColoursItMultiplies() {
         uint16_t kind = EXTRASAMPLE_ASSOCALPHA;
         TIFFSetField(tif, TIFFTAG_EXTRASAMPLES, 1, &kind);
     });
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QVERIFY(image.softMask != nullptr);
     QCOMPARE(qGray(decoded(*image.softMask).pixel(0, 0)), 128);
     QCOMPARE(decoded(image).pixel(0, 0), qRgb(128, 64, 0)); // 64 and 32 of 128.
     QCOMPARE(decoded(image).pixel(1, 0), qRgb(255, 128, 0));
 }
 
-void TiffTest::subsampledColourBecomesRgb() {
+void TiffTest::subsampledColorBecomesRgb() {
     // Two by two pixels share one colour: four brightnesses, then Cb and Cr. A red, by JFIF.
     const QByteArray block = QByteArray::fromHex("4c4c4c4c55ff");
     const QString path = tiff(2, 2, block, [](TIFF *tif) {
@@ -107,7 +107,7 @@ void TiffTest::subsampledColourBecomesRgb() {
         const float limits[6] = {0, 255, 128, 255, 128, 255};
         TIFFSetField(tif, TIFFTAG_REFERENCEBLACKWHITE, limits);
     });
-    const QRgb color = decoded(encodeImage(path)).pixel(1, 1);
+    const QRgb color = decoded(toPdfImage(path)).pixel(1, 1);
     QVERIFY2(qRed(color) >= 252 && qGreen(color) <= 3 && qBlue(color) <= 3,
              qPrintable(QString::number(color, 16)));
 }
@@ -149,7 +149,7 @@ void TiffTest::resolutionUnitsAreHeeded() {
 void TiffTest::labOfSixteenBitsCountsIn256ths() {
     const QString path = tiff(1, 1, bytesOfValues<quint16>({0xFFFF, 0, 0x8000}),
                               [](TIFF *tif) { setSamples(tif, 3, 16, PHOTOMETRIC_CIELAB); });
-    const EncodedImage image = encodeImage(path);
+    const PdfImage image = toPdfImage(path);
     QCOMPARE(unzipped(image.data).last(6), QByteArray::fromHex("ffff80000000"));
     // By the Decode array, a sample of 0x8000 is no colour at all and 0 is -128.
     QCOMPARE(image.decode.size(), size_t(6));

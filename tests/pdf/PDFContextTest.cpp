@@ -2,7 +2,7 @@
 
 #include "error/Error.h"
 #include "files/SourceReader.h"
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 #include "support/PdfProbe.h"
 
 #include <QDir>
@@ -37,8 +37,8 @@ QImage quarters(int side) {
     return image;
 }
 
-EncodedImage jpegInPlace(const QString &path) {
-    EncodedImage image;
+PdfImage jpegInPlace(const QString &path) {
+    PdfImage image;
     const QImage pixels(path);
     image.width = pixels.width();
     image.height = pixels.height();
@@ -185,7 +185,7 @@ class PDFContextTest : public QObject {
         QCOMPARE(images[0][kObjectColumn], images[1][kObjectColumn]);
     }
 
-    void samplesAreShownInTheirColours_data() {
+    void samplesAreShownInTheirColors_data() {
         QTest::addColumn<int>("color");
         QTest::addColumn<int>("bits");
         QTest::addColumn<QByteArray>("samples"); // one row of two pixels
@@ -206,12 +206,12 @@ class PDFContextTest : public QObject {
         QTest::newRow("lab") << int(ImageColor::Lab) << 8 << hex("008080ff8080") << QByteArray()
                              << QColor(Qt::black) << QColor(Qt::white);
     }
-    void samplesAreShownInTheirColours() {
+    void samplesAreShownInTheirColors() {
         QFETCH(int, color);
         QFETCH(int, bits);
         QFETCH(QByteArray, samples);
         QFETCH(QByteArray, palette);
-        EncodedImage image;
+        PdfImage image;
         image.width = 2;
         image.height = 1;
         image.color = static_cast<ImageColor>(color);
@@ -242,11 +242,11 @@ class PDFContextTest : public QObject {
     }
 
     void aSoftMaskLetsThePageShow() {
-        EncodedImage image;
+        PdfImage image;
         image.width = 2;
         image.height = 1;
         image.data = qCompress(QByteArray::fromHex("ff0000ff0000")).mid(4);
-        image.softMask = std::make_unique<EncodedImage>();
+        image.softMask = std::make_unique<PdfImage>();
         image.softMask->width = 2;
         image.softMask->height = 1;
         image.softMask->color = ImageColor::Gray;
@@ -268,7 +268,7 @@ class PDFContextTest : public QObject {
         const QString path = newFile(u"pdf"_s);
         PDFContext context(path, settings());
         for (int i = 0; i < 3; ++i) {
-            EncodedImage image;
+            PdfImage image;
             image.width = 1;
             image.height = 1;
             image.color = ImageColor::Gray;
@@ -370,7 +370,7 @@ class PDFContextTest : public QObject {
         big.write(QByteArray(4 << 20, 'x'));
         big.close();
         PDFContext context(folder.filePath(u"full.pdf"_s), settings());
-        EncodedImage image;
+        PdfImage image;
         image.width = image.height = 1;
         image.filter = ImageFilter::Dct;
         image.sourcePath = source;

@@ -8,9 +8,9 @@ namespace folioforge::test {
 
 namespace {
 
-void appendInks(QRgb colour, bool inverted, std::vector<JSAMPLE> &row) {
-    const int black = 255 - std::max({qRed(colour), qGreen(colour), qBlue(colour)});
-    for (const int part : {qRed(colour), qGreen(colour), qBlue(colour)}) {
+void appendInks(QRgb color, bool inverted, std::vector<JSAMPLE> &row) {
+    const int black = 255 - std::max({qRed(color), qGreen(color), qBlue(color)});
+    for (const int part : {qRed(color), qGreen(color), qBlue(color)}) {
         const int ink = 255 - part - black;
         row.push_back(static_cast<JSAMPLE>(inverted ? 255 - ink : ink));
     }

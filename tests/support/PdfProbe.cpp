@@ -29,9 +29,9 @@ QStringList pageRange(int page) {
 /// The length of the PPM picture at the start of `bytes`; -1 where there is none.
 qsizetype lengthOfPpm(QByteArrayView bytes) {
     static const QRegularExpression header(u"^P6\\s+(\\d+)\\s+(\\d+)\\s+255\\s"_s);
-    constexpr qsizetype kLongestHeader = 32;
+    constexpr qsizetype kMaxHeaderLength = 32;
     const auto match =
-        header.match(QString::fromLatin1(bytes.first(std::min(bytes.size(), kLongestHeader))));
+        header.match(QString::fromLatin1(bytes.first(std::min(bytes.size(), kMaxHeaderLength))));
     if (!match.hasMatch()) {
         return -1;
     }

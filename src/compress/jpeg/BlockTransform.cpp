@@ -9,7 +9,7 @@ namespace folioforge {
 namespace {
 
 // Loops over all four rows and columns at every size become vector instructions.
-constexpr std::size_t kSide = BlockTransform::kMostEighths;
+constexpr std::size_t kSide = BlockTransform::kMaxEighths;
 
 /// Grey in the middle, where the samples' values are counted from, and half to round.
 constexpr float kMiddle = 128.5F;

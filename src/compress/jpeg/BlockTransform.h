@@ -15,19 +15,19 @@ namespace folioforge {
 /// higher ones nothing can alias.
 class BlockTransform {
   public:
-    static constexpr int kMostEighths = 4;
-    /// Rows of kMostEighths samples; those beyond eighths() mean nothing.
-    using Samples = std::array<std::uint8_t, kMostEighths * kMostEighths>;
+    static constexpr int kMaxEighths = 4;
+    /// Rows of kMaxEighths samples; those beyond eighths() mean nothing.
+    using Samples = std::array<std::uint8_t, kMaxEighths * kMaxEighths>;
 
     /// Steps of quantization are 255 at most, as in all baseline files.
-    static constexpr int kMostStep = 255;
+    static constexpr int kMaxStep = 255;
 
     BlockTransform(const JQUANT_TBL &steps, int eighths);
     [[nodiscard]] int eighths() const { return m_eighths; }
     [[nodiscard]] Samples samples(const CoefficientBlock &block) const;
 
   private:
-    using Square = std::array<float, kMostEighths * kMostEighths>;
+    using Square = std::array<float, kMaxEighths * kMaxEighths>;
 
     [[nodiscard]] Square transformed(const Square &values) const;
 

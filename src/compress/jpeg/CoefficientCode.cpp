@@ -50,7 +50,7 @@ CoefficientCode::CoefficientCode(HuffmanCode code)
 
 /// What the bits of `index` give; nothing where they do not hold the first coefficient to its end.
 CoefficientCode::Step CoefficientCode::stepFor(unsigned index) const {
-    constexpr int kLargestSmall = 7; ///< The size of values that fit into eight bits.
+    constexpr int kMaxSmall = 7; ///< The size of values that fit into eight bits.
     Step step;
     std::size_t found = 0;
     int used = 0;
@@ -60,7 +60,7 @@ CoefficientCode::Step CoefficientCode::stepFor(unsigned index) const {
         const HuffmanSymbol symbol = m_code.symbol(bits);
         const int size = symbol.value & kSizeMask;
         const unsigned run = runOf(symbol);
-        if (symbol.bits == 0 || used + symbol.bits + size > kStepBits || size > kLargestSmall ||
+        if (symbol.bits == 0 || used + symbol.bits + size > kStepBits || size > kMaxSmall ||
             (size != 0 && found == step.coefficients.size()) ||
             (run < kEndOfBlock && next + run + 1 >= DCTSIZE2)) {
             break;

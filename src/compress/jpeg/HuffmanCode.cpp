@@ -11,7 +11,7 @@ std::optional<HuffmanCode> HuffmanCode::of(const JHUFF_TBL *table, int largest) 
     }
     unsigned room = 1;
     std::size_t count = 0;
-    for (int length = 1; length <= kLongestCode; ++length) {
+    for (int length = 1; length <= kMaxCodeLength; ++length) {
         if (table->bits[length] >= 2 * room) {
             return std::nullopt;
         }
@@ -28,7 +28,7 @@ std::optional<HuffmanCode> HuffmanCode::of(const JHUFF_TBL *table, int largest) 
 HuffmanCode::HuffmanCode(const JHUFF_TBL &table)
     : m_short(1 << kShortBits) {
     unsigned code = 0;
-    for (int length = 1; length <= kLongestCode; ++length) {
+    for (int length = 1; length <= kMaxCodeLength; ++length) {
         const auto index = static_cast<std::size_t>(length);
         m_distance[index] = code - static_cast<unsigned>(m_values.size());
         for (int i = 0; i < table.bits[length]; ++i) {
@@ -50,7 +50,7 @@ void HuffmanCode::add(unsigned code, HuffmanSymbol symbol) {
 }
 
 HuffmanSymbol HuffmanCode::longSymbol(std::uint64_t bits) const {
-    for (int length = kShortBits + 1; length <= kLongestCode; ++length) {
+    for (int length = kShortBits + 1; length <= kMaxCodeLength; ++length) {
         const auto index = static_cast<std::size_t>(length);
         const auto code = static_cast<unsigned>(bits >> (64 - length));
         if (code < m_end[index]) {

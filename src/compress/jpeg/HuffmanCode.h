@@ -22,7 +22,7 @@ class HuffmanCode {
     /// Symbols of so many bits at most are found by one look.
     static constexpr int kShortBits = 11;
 
-    static constexpr int kLongestCode = 16;
+    static constexpr int kMaxCodeLength = 16;
 
     /// Nothing where there is no table, where it has more codes than their lengths allow (one of
     /// ones alone is never allowed) or a value above `largest`.
@@ -43,15 +43,15 @@ class HuffmanCode {
     std::vector<std::uint8_t> m_values; ///< In the order of their codes.
     /// Of each length: behind its last code, and how far its codes are from their place in
     /// m_values.
-    std::array<unsigned, kLongestCode + 1> m_end{};
-    std::array<unsigned, kLongestCode + 1> m_distance{};
+    std::array<unsigned, kMaxCodeLength + 1> m_end{};
+    std::array<unsigned, kMaxCodeLength + 1> m_distance{};
 };
 
 /// Bits of a coefficient's value at most.
-constexpr int kLargestSize = 15;
+constexpr int kMaxSize = 15;
 
 /// Bits that a coefficient takes at most: its code and its value.
-constexpr int kMostCoefficientBits = HuffmanCode::kLongestCode + kLargestSize;
+constexpr int kMaxCoefficientBits = HuffmanCode::kMaxCodeLength + kMaxSize;
 
 /// The signed value that the `size` bits at the top of `bits` stand for (ITU-T T.81, F.2.2.1).
 inline int signedValue(std::uint64_t bits, int size) {

@@ -8,9 +8,9 @@ namespace {
 
 /// The sizes of differences between means of blocks (ITU-T T.81, table F.1).
 std::vector<UINT8> dcValues() {
-    constexpr UINT8 kLargest = 11;
+    constexpr UINT8 kMax = 11;
     std::vector<UINT8> values;
-    for (UINT8 size = 0; size <= kLargest; ++size) {
+    for (UINT8 size = 0; size <= kMax; ++size) {
         values.push_back(size);
     }
     return values;
@@ -19,11 +19,11 @@ std::vector<UINT8> dcValues() {
 /// The end of a block, sixteen zeros, and the sizes of coefficients behind runs of zeros (table
 /// F.2).
 std::vector<UINT8> acValues() {
-    constexpr int kLongestRun = 15;
-    constexpr int kLargest = 10;
+    constexpr int kMaxRunLength = 15;
+    constexpr int kMax = 10;
     std::vector<UINT8> values{0x00, 0xf0};
-    for (int run = 0; run <= kLongestRun; ++run) {
-        for (int size = 1; size <= kLargest; ++size) {
+    for (int run = 0; run <= kMaxRunLength; ++run) {
+        for (int size = 1; size <= kMax; ++size) {
             values.push_back(static_cast<UINT8>(run << 4 | size));
         }
     }
@@ -33,25 +33,25 @@ std::vector<UINT8> acValues() {
 } // namespace
 
 void addValues(JHUFF_TBL &table, const std::vector<UINT8> &values) {
-    constexpr int kLongest = 16;
+    constexpr int kMaxLength = 16;
     // At this length a code of at least this many values has one; half of the longer codes that
     // begin with it are enough for all others.
-    constexpr int kLongestSplit = 7;
+    constexpr int kMaxSplitLength = 7;
     int count = 0;
-    for (int length = 1; length <= kLongest; ++length) {
+    for (int length = 1; length <= kMaxLength; ++length) {
         count += table.bits[length];
     }
     UINT8 *end = table.huffval + count;
     for (const UINT8 value : values) {
         if (std::find(table.huffval, table.huffval + count, value) == table.huffval + count) {
             *end++ = value;
-            ++table.bits[kLongest];
+            ++table.bits[kMaxLength];
         }
     }
     if (end == table.huffval + count) {
         return;
     }
-    int split = kLongestSplit;
+    int split = kMaxSplitLength;
     while (split > 1 && table.bits[split] == 0) {
         --split;
     }

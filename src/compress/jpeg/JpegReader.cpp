@@ -1,7 +1,7 @@
 #include "compress/jpeg/JpegReader.h"
 
 #include "compress/jpeg/JpegBands.h"
-#include "compress/jpeg/JpegColour.h"
+#include "compress/jpeg/JpegColor.h"
 #include "compress/jpeg/JpegErrors.h"
 #include "compress/jpeg/ReducedScan.h"
 
@@ -194,7 +194,7 @@ PlanarImage JpegReader::decode(int eighths) {
     PlanarImage image = m_state->decode(eighths);
     if (isPlain(m_state->codec.jpeg_color_space)) {
         requireEqualSizes(image);
-        toJpegColour(image);
+        toJpegColor(image);
     }
     return image;
 }

@@ -5,7 +5,7 @@
 #include "compress/jpeg/CoefficientCode.h"
 #include "compress/jpeg/EntropyCoded.h"
 #include "compress/jpeg/HuffmanCode.h"
-#include "compress/jpeg/JpegColour.h"
+#include "compress/jpeg/JpegColor.h"
 
 #include <algorithm>
 #include <cstring>
@@ -19,10 +19,10 @@ namespace folioforge {
 namespace {
 
 /// Blocks of a group at most (ITU-T T.81, B.2.3).
-constexpr std::size_t kMostBlocks = D_MAX_BLOCKS_IN_MCU;
+constexpr std::size_t kMaxBlocks = D_MAX_BLOCKS_IN_MCU;
 
 /// What one group can take behind the end of the data before that is noticed.
-constexpr std::size_t kMostGroupBytes = kMostBlocks * DCTSIZE2 * kMostCoefficientBits / 8 + 1;
+constexpr std::size_t kMaxGroupBytes = kMaxBlocks * DCTSIZE2 * kMaxCoefficientBits / 8 + 1;
 
 /// A component of the picture, with the names that libjpeg has for its codes: DC for the first
 /// coefficient of a block, AC for the others.
@@ -76,7 +76,7 @@ const JQUANT_TBL *stepsOf(const jpeg_decompress_struct &codec, int number) {
     const JQUANT_TBL *table = number < NUM_QUANT_TBLS ? codec.quant_tbl_ptrs[number] : nullptr;
     const bool isBaseline =
         table && *std::max_element(std::begin(table->quantval), std::end(table->quantval)) <=
-                     BlockTransform::kMostStep;
+                     BlockTransform::kMaxStep;
     return isBaseline ? table : nullptr;
 }
 
@@ -87,7 +87,7 @@ std::optional<Component> componentOf(const jpeg_decompress_struct &codec,
     if (!steps || std::max(info.dc_tbl_no, info.ac_tbl_no) >= NUM_HUFF_TBLS) {
         return std::nullopt;
     }
-    auto dcCode = HuffmanCode::of(codec.dc_huff_tbl_ptrs[info.dc_tbl_no], kLargestSize);
+    auto dcCode = HuffmanCode::of(codec.dc_huff_tbl_ptrs[info.dc_tbl_no], kMaxSize);
     auto acCode = HuffmanCode::of(codec.ac_huff_tbl_ptrs[info.ac_tbl_no], kAnyByte);
     if (!dcCode || !acCode) {
         return std::nullopt;
@@ -143,7 +143,7 @@ PlanarImage roomFor(const jpeg_decompress_struct &codec, int eighths) {
 /// beyond the edges of `plane`. The samples too many at its right give way to the next block's.
 void draw(const CoefficientBlock &block, const BlockTransform &transform, int column, int row,
           Plane &plane) {
-    constexpr int kStride = BlockTransform::kMostEighths;
+    constexpr int kStride = BlockTransform::kMaxEighths;
     const BlockTransform::Samples samples = transform.samples(block);
     const int left = column * transform.eighths();
     const int top = row * transform.eighths();
@@ -249,18 +249,18 @@ class ScanReader {
 } // namespace
 
 std::optional<PlanarImage> readReducedScan(const jpeg_decompress_struct &codec, int eighths) {
-    if (eighths > BlockTransform::kMostEighths || !isCommon(codec)) {
+    if (eighths > BlockTransform::kMaxEighths || !isCommon(codec)) {
         return std::nullopt;
     }
     std::vector<Component> components = componentsOf(codec, eighths);
     std::vector<BlockPlace> places = placesOf(components);
-    if (places.empty() || places.size() > kMostBlocks) {
+    if (places.empty() || places.size() > kMaxBlocks) {
         return std::nullopt;
     }
     PlanarImage image = roomFor(codec, eighths);
     ScanReader reader(codec, std::move(components), std::move(places));
     const bool isWhole = reader.read({{codec.src->next_input_byte, codec.src->bytes_in_buffer},
-                                      kMostGroupBytes + BitReader::kPadding},
+                                      kMaxGroupBytes + BitReader::kPadding},
                                      image);
     return isWhole ? std::optional(std::move(image)) : std::nullopt;
 }

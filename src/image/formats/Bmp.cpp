@@ -81,10 +81,10 @@ void requirePixelsInside(const FileView &file) {
 
 /// Qt prints a warning for each colour of a table that is too long.
 void requirePlausibleColors(const FileView &file) {
-    constexpr int kMostTableBits = 8;
+    constexpr int kMaxTableBits = 8;
     const QByteArray head = file.read(0, 54);
     const int bits = littleEndianAt<quint16>(head, 28);
-    if (littleEndianAt<quint32>(head, kFileHeaderBytes) >= kNewHeader && bits <= kMostTableBits &&
+    if (littleEndianAt<quint32>(head, kFileHeaderBytes) >= kNewHeader && bits <= kMaxTableBits &&
         littleEndianAt<quint32>(head, 46) > 1U << bits) {
         throw Error(u"The bitmap has more colours than its pixels can name"_s);
     }
@@ -139,7 +139,7 @@ void widenChannels(QImage &image, const std::array<int, 4> &channels) {
     }
 }
 
-EncodedImage encodeBitmap(const FileView &file) {
+PdfImage encodeBitmap(const FileView &file) {
     constexpr qint64 kRunRatio = 2040; // A bit a pixel packed, or 255 pixels for two bytes.
     const ImageHeader header = readBitmapHeader(file);
     requirePlausible(qint64(header.width) * header.height, file.size(), kRunRatio);

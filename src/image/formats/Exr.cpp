@@ -208,7 +208,7 @@ bool recognises(QByteArrayView head) {
     return head.startsWith("\x76\x2F\x31\x01");
 }
 
-EncodedImage encode(const FileView &file) {
+PdfImage encode(const FileView &file) {
     return encodeRaster(reading([&] { return readPixels(file); }));
 }
 

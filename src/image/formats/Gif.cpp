@@ -48,7 +48,7 @@ ImageHeader readGifHeader(const FileView &file) {
     return header;
 }
 
-EncodedImage encodeGif(const FileView &file) {
+PdfImage encodeGif(const FileView &file) {
     constexpr qint64 kLzwRatio = 3000;
     const ImageHeader header = readGifHeader(file);
     requirePlausible(qint64(header.width) * header.height, file.size(), kLzwRatio);

@@ -30,9 +30,9 @@ struct Candidate {
 
 std::vector<IcnsEntry> entriesOf(const FileView &file) {
     constexpr qint64 kLead = 8;
-    constexpr size_t kMostEntries = 1000; // There are about 40 types.
+    constexpr size_t kMaxEntries = 1000; // There are about 40 types.
     std::vector<IcnsEntry> entries;
-    for (qint64 at = kLead; at + kLead <= file.size() && entries.size() < kMostEntries;) {
+    for (qint64 at = kLead; at + kLead <= file.size() && entries.size() < kMaxEntries;) {
         const QByteArray lead = file.readExactly(at, kLead);
         const qint64 length = bigEndianAt<quint32>(lead, 4);
         if (length < kLead || length > file.size() - at) {
@@ -89,7 +89,7 @@ ImageHeader readHeader(const FileView &file) {
     return largestOf(entriesOf(file)).header;
 }
 
-EncodedImage encode(const FileView &file) {
+PdfImage encode(const FileView &file) {
     const std::vector<IcnsEntry> entries = entriesOf(file);
     const Candidate largest = largestOf(entries);
     if (largest.decoder) {

@@ -179,8 +179,8 @@ std::optional<ClassicIcon> classicIconOf(const QByteArray &type) {
 Raster decodeClassicIcon(const ClassicIcon &icon, const FileView &content,
                          const std::vector<IcnsEntry> &entries) {
     // More than this much belongs to no icon of 128 pixels a side.
-    constexpr qint64 kMostBytes = 1 << 17;
-    const QByteArray bytes = content.read(0, kMostBytes);
+    constexpr qint64 kMaxBytes = 1 << 17;
+    const QByteArray bytes = content.read(0, kMaxBytes);
     Raster raster;
     raster.width = icon.width;
     raster.height = icon.height;

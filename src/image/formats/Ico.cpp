@@ -54,9 +54,9 @@ Frame largestFrame(const FileView &file) {
     constexpr qint64 kEntryBytes = 16;
     // The largest icons hold some 30 frames. All of a hostile one's may lie in one another, and
     // each is read to its end.
-    constexpr int kMostFrames = 100;
+    constexpr int kMaxFrames = 100;
     const int stated = littleEndianAt<quint16>(file.readExactly(0, kDirectory), 4);
-    const int count = std::min(stated, kMostFrames);
+    const int count = std::min(stated, kMaxFrames);
     const QByteArray entries = file.read(kDirectory, count * kEntryBytes);
     std::optional<Frame> largest;
     for (qsizetype at = 0; at + kEntryBytes <= entries.size(); at += kEntryBytes) {
@@ -185,7 +185,7 @@ ImageHeader readHeader(const FileView &file) {
     return largestFrame(file).header;
 }
 
-EncodedImage encode(const FileView &file) {
+PdfImage encode(const FileView &file) {
     const Frame frame = largestFrame(file);
     return frame.isPng ? pngDecoder().encode(frame.content)
                        : encodeRaster(rasterOf(readBitmap(frame)));

@@ -207,10 +207,10 @@ ImageHeader readHeader(const FileView &file) {
     return readFacts(file).header;
 }
 
-EncodedImage encode(const FileView &file) {
+PdfImage encode(const FileView &file) {
     const JpegFacts facts = readFacts(file);
     requireProcessOfPdf(facts);
-    EncodedImage image;
+    PdfImage image;
     image.width = facts.header.width;
     image.height = facts.header.height;
     image.color = colorOf(facts);

@@ -51,7 +51,7 @@ ImageColor colorOf(int channels) {
 
 /// A profile of the file is named in the PDF too, because viewers look for it there; without one
 /// they take the colour space from the image's own boxes.
-void describeColor(const Jpeg2000Facts &facts, EncodedImage &image) {
+void describeColor(const Jpeg2000Facts &facts, PdfImage &image) {
     image.color = ImageColor::FromJpx;
     const QByteArray profile = fittingProfile(facts.iccProfile, colorOf(facts.components));
     if (!profile.isEmpty() && !facts.hasPalette) {
@@ -68,12 +68,12 @@ ImageHeader readHeader(const FileView &file) {
     return readJpeg2000Facts(file).header;
 }
 
-EncodedImage encode(const FileView &file) {
+PdfImage encode(const FileView &file) {
     const Jpeg2000Facts facts = readJpeg2000Facts(file);
     if (facts.needsDecoding()) {
         return encodeRaster(decodeJpeg2000(file, facts));
     }
-    EncodedImage image;
+    PdfImage image;
     image.width = facts.header.width;
     image.height = facts.header.height;
     image.filter = ImageFilter::Jpx;

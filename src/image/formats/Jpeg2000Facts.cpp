@@ -14,7 +14,7 @@ namespace folioforge {
 namespace {
 
 constexpr double kMetresPerInch = 0.0254;
-constexpr quint32 kMostPixels = 0x7FFFFFFF;
+constexpr quint32 kMaxPixels = 0x7FFFFFFF;
 
 struct Box {
     QByteArray type;
@@ -45,8 +45,8 @@ Box boxAt(const FileView &file, qint64 at) {
 
 void readImageHeaderBox(const FileView &content, Jpeg2000Facts &facts) {
     const QByteArray bytes = content.readExactly(0, 14);
-    facts.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 0), kMostPixels));
-    facts.header.width = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 4), kMostPixels));
+    facts.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 0), kMaxPixels));
+    facts.header.width = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 4), kMaxPixels));
     facts.components = bigEndianAt<quint16>(bytes, 8);
     facts.bitsField = bigEndianAt<uchar>(bytes, 10);
 }
@@ -57,7 +57,7 @@ void readColorBox(const FileView &content, Jpeg2000Facts &facts) {
     if (method == 1 && facts.enumeratedColor == 0) {
         constexpr quint32 kYcc = 18;
         const auto color = bigEndianAt<quint32>(bytes, 3);
-        facts.enumeratedColor = static_cast<int>(std::min(color, kMostPixels));
+        facts.enumeratedColor = static_cast<int>(std::min(color, kMaxPixels));
         facts.isYcc = color == kYcc;
     } else if (method == 2 || method == 3) {
         facts.iccProfile = bytes.mid(3);
@@ -97,9 +97,9 @@ void readResolutionBox(const FileView &content, Jpeg2000Facts &facts) {
 }
 
 void readExifBox(const FileView &content, Jpeg2000Facts &facts) {
-    constexpr qint64 kMostExifBytes = 1 << 20;
+    constexpr qint64 kMaxExifBytes = 1 << 20;
     if (content.read(0, 16) == "JpgTiffExif->JP2") {
-        facts.header.orientation = readExif(content.read(16, kMostExifBytes)).orientation;
+        facts.header.orientation = readExif(content.read(16, kMaxExifBytes)).orientation;
     }
 }
 
@@ -124,8 +124,8 @@ void readBox(const Box &box, int depth, Jpeg2000Facts &facts) {
 }
 
 void readBoxes(const FileView &file, int depth, Jpeg2000Facts &facts) {
-    constexpr int kDeepest = 2; // Boxes in boxes without end would exhaust the stack.
-    if (depth > kDeepest) {
+    constexpr int kMaxDepth = 2; // Boxes in boxes without end would exhaust the stack.
+    if (depth > kMaxDepth) {
         return;
     }
     for (qint64 at = 0; at + 8 <= file.size();) {
@@ -142,7 +142,7 @@ void readSizeMarker(const FileView &file, Jpeg2000Facts &facts) {
     const auto extent = [&](int end, int start) {
         const qint64 size =
             qint64(bigEndianAt<quint32>(bytes, end)) - qint64(bigEndianAt<quint32>(bytes, start));
-        return static_cast<int>(std::clamp<qint64>(size, 0, kMostPixels));
+        return static_cast<int>(std::clamp<qint64>(size, 0, kMaxPixels));
     };
     facts.isCodestream = true;
     facts.header.width = extent(8, 16);

@@ -25,7 +25,7 @@ constexpr qint64 kSignatureBytes = 8;
 constexpr double kMetresPerInch = 0.0254;
 /// The most that deflate shrinks anything.
 constexpr qint64 kDeflateRatio = 1040;
-constexpr qsizetype kMostPaletteBytes = qsizetype{3} * 256;
+constexpr qsizetype kMaxPaletteBytes = qsizetype{3} * 256;
 
 struct PngFacts {
     ImageHeader header;
@@ -65,9 +65,9 @@ struct PngFacts {
 void readImageHeaderChunk(QByteArrayView chunk, PngFacts &facts) {
     const auto width = bigEndianAt<quint32>(chunk, 0);
     const auto height = bigEndianAt<quint32>(chunk, 4);
-    constexpr quint32 kMost = 0x7FFFFFFF;
-    facts.header.width = static_cast<int>(std::min(width, kMost));
-    facts.header.height = static_cast<int>(std::min(height, kMost));
+    constexpr quint32 kMax = 0x7FFFFFFF;
+    facts.header.width = static_cast<int>(std::min(width, kMax));
+    facts.header.height = static_cast<int>(std::min(height, kMax));
     facts.bits = bigEndianAt<uchar>(chunk, 8);
     facts.colorType = bigEndianAt<uchar>(chunk, 9);
     facts.interlaced = bigEndianAt<uchar>(chunk, 12) != 0;
@@ -90,13 +90,13 @@ void readDensity(QByteArrayView chunk, PngFacts &facts) {
 }
 
 void readProfile(QByteArrayView chunk, PngFacts &facts) {
-    constexpr qsizetype kMostProfileBytes = 1 << 25;
+    constexpr qsizetype kMaxProfileBytes = 1 << 25;
     const qsizetype nameEnd = chunk.indexOf('\0');
     if (nameEnd < 0 || nameEnd + 2 > chunk.size()) {
         return;
     }
     try {
-        facts.iccProfile = inflateUpTo(chunk.sliced(nameEnd + 2), kMostProfileBytes);
+        facts.iccProfile = inflateUpTo(chunk.sliced(nameEnd + 2), kMaxProfileBytes);
     } catch (const Error &) {
         facts.iccProfile.clear(); // The picture is worth more than a profile that cannot be read.
     }
@@ -169,7 +169,7 @@ PngFacts readFacts(const FileView &file, Reading reading) {
         throw Error(u"The PNG file holds no picture"_s);
     }
     if (facts.colorType == Palette && (facts.palette.isEmpty() || facts.palette.size() % 3 != 0 ||
-                                       facts.palette.size() > kMostPaletteBytes)) {
+                                       facts.palette.size() > kMaxPaletteBytes)) {
         throw Error(u"The PNG file has no palette"_s);
     }
     return facts;
@@ -283,8 +283,8 @@ AlphaPlane transparencyOf(const QByteArray &rows, const PngFacts &facts) {
     return plane;
 }
 
-EncodedImage describe(const PngFacts &facts) {
-    EncodedImage image;
+PdfImage describe(const PngFacts &facts) {
+    PdfImage image;
     image.width = facts.header.width;
     image.height = facts.header.height;
     image.bitsPerComponent = facts.bits;
@@ -297,8 +297,8 @@ EncodedImage describe(const PngFacts &facts) {
 }
 
 /// The file's own compressed rows, with a soft mask where a tRNS chunk makes some transparent.
-EncodedImage withOwnRows(const FileView &file, const PngFacts &facts) {
-    EncodedImage image = describe(facts);
+PdfImage withOwnRows(const FileView &file, const PngFacts &facts) {
+    PdfImage image = describe(facts);
     image.embeddedAs = EmbeddedAs::OwnBytes;
     for (const FileSlice &slice : facts.data) {
         image.slices.push_back({file.offset() + slice.offset, slice.length});
@@ -313,11 +313,11 @@ EncodedImage withOwnRows(const FileView &file, const PngFacts &facts) {
     return image;
 }
 
-EncodedImage withDealtRows(const FileView &file, const PngFacts &facts) {
-    EncodedImage image = describe(facts);
+PdfImage withDealtRows(const FileView &file, const PngFacts &facts) {
+    PdfImage image = describe(facts);
     DealtRows dealt =
         dealRows(inflateRows(file, facts, facts.header.height * (facts.stride() + 1)), facts);
-    auto mask = beside(dealt.color.size(), [&] {
+    auto mask = runAsync(dealt.color.size(), [&] {
         AlphaPlane plane{facts.bits, {}};
         plane.samples = unfilterRows(std::move(dealt.alpha), image.height,
                                      rowBytes(image.width, 1, facts.bits), facts.bits / 8);
@@ -328,7 +328,7 @@ EncodedImage withDealtRows(const FileView &file, const PngFacts &facts) {
     return image;
 }
 
-EncodedImage withInterlacedRows(const FileView &file, const PngFacts &facts) {
+PdfImage withInterlacedRows(const FileView &file, const PngFacts &facts) {
     const InterlacedShape shape{facts.header.width, facts.header.height,
                                 facts.channels() * facts.bits};
     QByteArray rows = straightenInterlaced(inflateRows(file, facts, interlacedBytes(shape)), shape);
@@ -362,7 +362,7 @@ ImageHeader readHeader(const FileView &file) {
     return readFacts(file, Reading::Header).header;
 }
 
-EncodedImage encode(const FileView &file) {
+PdfImage encode(const FileView &file) {
     const PngFacts facts = readFacts(file, Reading::Pixels);
     if (facts.interlaced) {
         return withInterlacedRows(file, facts);

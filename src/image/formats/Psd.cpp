@@ -220,7 +220,7 @@ ImageHeader readHeader(const FileView &file) {
     return readPsdFacts(file).header;
 }
 
-EncodedImage encode(const FileView &file) {
+PdfImage encode(const FileView &file) {
     const PsdFacts facts = readPsdFacts(file);
     Raster raster;
     raster.width = facts.header.width;

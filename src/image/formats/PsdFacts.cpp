@@ -51,11 +51,11 @@ ImageColor colorOf(quint16 mode) {
 }
 
 void readFileHeader(QByteArrayView head, PsdFacts &facts) {
-    constexpr quint32 kMost = 0x7FFFFFFF;
+    constexpr quint32 kMax = 0x7FFFFFFF;
     facts.isBig = bigEndianAt<quint16>(head, 4) == 2;
     facts.channels = bigEndianAt<quint16>(head, 12);
-    facts.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(head, 14), kMost));
-    facts.header.width = static_cast<int>(std::min(bigEndianAt<quint32>(head, 18), kMost));
+    facts.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(head, 14), kMax));
+    facts.header.width = static_cast<int>(std::min(bigEndianAt<quint32>(head, 18), kMax));
     facts.depth = bigEndianAt<quint16>(head, 22);
     const auto mode = bigEndianAt<quint16>(head, 24);
     facts.color = colorOf(mode);
@@ -63,9 +63,9 @@ void readFileHeader(QByteArrayView head, PsdFacts &facts) {
                             : mode == IndexedMode
                                 ? facts.depth == 8
                                 : facts.depth == 8 || facts.depth == 16 || facts.depth == 32;
-    constexpr int kMostChannels = 56;
+    constexpr int kMaxChannels = 56;
     if (!knownDepth || facts.channels < channelCount(facts.color) ||
-        facts.channels > kMostChannels) {
+        facts.channels > kMaxChannels) {
         throw Error(u"The Photoshop file is damaged"_s);
     }
 }
@@ -88,8 +88,8 @@ void readResource(quint16 id, QByteArrayView data, PsdFacts &facts, bool &namesC
 bool readResources(QByteArrayView resources, PsdFacts &facts) {
     bool namesChannels = false;
     const auto even = [](qsizetype length) { return length + length % 2; };
-    constexpr qsizetype kLeastBytes = 12;
-    for (qsizetype at = 0; at + kLeastBytes <= resources.size();) {
+    constexpr qsizetype kMinBytes = 12;
+    for (qsizetype at = 0; at + kMinBytes <= resources.size();) {
         const auto id = bigEndianAt<quint16>(resources, at + 4);
         at += 6 + even(1 + bigEndianAt<uchar>(resources, at + 6));
         if (at + 4 > resources.size()) {

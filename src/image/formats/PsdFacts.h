@@ -1,7 +1,7 @@
 #pragma once
 
 #include "files/ImageFile.h"
-#include "image/EncodedImage.h"
+#include "image/PdfImage.h"
 
 #include <QByteArray>
 

@@ -198,7 +198,7 @@ ImageHeader readHeader(const FileView &file) {
     return header; // The format has no density.
 }
 
-EncodedImage encode(const FileView &file) {
+PdfImage encode(const FileView &file) {
     const TgaFacts facts = readFacts(file);
     const QByteArray pixels = readPixels(file, facts);
     Raster raster;

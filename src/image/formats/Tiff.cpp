@@ -61,8 +61,8 @@ QByteArray withBitsReversed(QByteArray bytes) {
     return bytes;
 }
 
-EncodedImage encodeGroup4(const FileView &file, const TiffFile &tiff, const TiffShape &shape) {
-    EncodedImage image;
+PdfImage encodeGroup4(const FileView &file, const TiffFile &tiff, const TiffShape &shape) {
+    PdfImage image;
     image.width = shape.width;
     image.height = shape.height;
     image.bitsPerComponent = 1;
@@ -82,7 +82,7 @@ EncodedImage encodeGroup4(const FileView &file, const TiffFile &tiff, const Tiff
     return image;
 }
 
-EncodedImage encode(const FileView &file) {
+PdfImage encode(const FileView &file) {
     const TiffFile tiff(file);
     const TiffShape shape = readTiffShape(tiff);
     if (isPlainGroup4(tiff, shape)) {

@@ -23,8 +23,8 @@ TiffFile::TiffFile(const FileView &file)
     const std::unique_ptr<TIFFOpenOptions, FreeOptions> options(TIFFOpenOptionsAlloc());
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), keepMessage, m_state.get());
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), ignoreMessage, nullptr);
-    constexpr tmsize_t kMostBytesAtOnce = kMaxImagePixels * 8;
-    TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), kMostBytesAtOnce);
+    constexpr tmsize_t kMaxBytesAtOnce = kMaxImagePixels * 8;
+    TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), kMaxBytesAtOnce);
     // m: no mapping, since a file that shrinks while mapped ends the process.
     m_handle.reset(TIFFClientOpenExt("image", "rm", m_state.get(), read, refuseWrite, seek, close,
                                      size, nullptr, nullptr, options.get()));

@@ -298,8 +298,8 @@ void readSamples(const TiffFile &tiff, const TiffShape &shape, Raster &raster) {
         shiftLabAxes(raster);
         if (raster.bits == 16) {
             // The axes count in 256ths: full is a little short of 128, not 127.
-            constexpr double kMost = 127 + 255.0 / 256;
-            raster.decode = {0, 100, -128, kMost, -128, kMost};
+            constexpr double kMax = 127 + 255.0 / 256;
+            raster.decode = {0, 100, -128, kMax, -128, kMax};
         }
     }
 }
@@ -312,9 +312,9 @@ TiffShape readTiffShape(const TiffFile &tiff) {
     uint32_t height = 0;
     TIFFGetField(tiff.handle(), TIFFTAG_IMAGEWIDTH, &width);
     TIFFGetField(tiff.handle(), TIFFTAG_IMAGELENGTH, &height);
-    constexpr uint32_t kMost = 0x7FFFFFFF;
-    shape.width = static_cast<int>(std::min(width, kMost));
-    shape.height = static_cast<int>(std::min(height, kMost));
+    constexpr uint32_t kMax = 0x7FFFFFFF;
+    shape.width = static_cast<int>(std::min(width, kMax));
+    shape.height = static_cast<int>(std::min(height, kMax));
     shape.bits = tiff.number(TIFFTAG_BITSPERSAMPLE, 1);
     shape.samples = std::max(tiff.number(TIFFTAG_SAMPLESPERPIXEL, 1), 1);
     shape.compression = tiff.number(TIFFTAG_COMPRESSION, COMPRESSION_NONE);

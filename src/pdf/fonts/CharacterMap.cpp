@@ -79,9 +79,9 @@ std::string makeUnicodeMap(const CodeTable &table) {
     std::ranges::sort(entries, {}, &CodeEntry::code);
     std::string map = head("UCS", "Adobe-Identity-UCS", 2, table);
     // Single characters, though ranges would be shorter: Ghostscript 10.0 misreads ranges.
-    constexpr std::size_t kMostInASection = 100;
-    for (std::size_t from = 0; from < entries.size(); from += kMostInASection) {
-        const std::size_t to = std::min(from + kMostInASection, entries.size());
+    constexpr std::size_t kMaxInASection = 100;
+    for (std::size_t from = 0; from < entries.size(); from += kMaxInASection) {
+        const std::size_t to = std::min(from + kMaxInASection, entries.size());
         map.append(std::to_string(to - from)).append(" beginbfchar\n");
         for (std::size_t i = from; i < to; ++i) {
             map.append(codeText(table, entries[i].code));

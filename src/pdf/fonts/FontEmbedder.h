@@ -22,11 +22,11 @@ class StreamData;
 
 /// A glyph as a content stream shows it.
 struct GlyphCode {
-    static constexpr std::size_t kLongest = 4; ///< Two bytes, both escaped.
+    static constexpr std::size_t kMaxLength = 4; ///< Two bytes, both escaped.
 
-    std::uint16_t font = 0;           ///< Fonts are numbered from 1.
-    std::uint16_t length = 0;         ///< Of `bytes`.
-    std::array<char, kLongest> bytes; ///< The code, escaped for a literal string.
+    std::uint16_t font = 0;             ///< Fonts are numbered from 1.
+    std::uint16_t length = 0;           ///< Of `bytes`.
+    std::array<char, kMaxLength> bytes; ///< The code, escaped for a literal string.
 };
 
 /// The fonts of one document: gives the glyphs of a cascade their codes while pages are drawn, and

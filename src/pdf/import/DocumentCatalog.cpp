@@ -25,12 +25,12 @@ void putArray(QPDFObjectHandle &dictionary, const std::string &key,
 
 /// The largest integer that every reader takes (ISO 32000-1, annex C); a source that counts more
 /// lines in its outline lies.
-constexpr long long kMostLines = std::numeric_limits<std::int32_t>::max();
+constexpr long long kMaxLines = std::numeric_limits<std::int32_t>::max();
 
 /// How many lines of the outline an item shows: itself and, when it is open, what is under it.
 long long visibleLines(QPDFObjectHandle item) {
     auto count = item.getKey("/Count");
-    return 1 + (count.isInteger() ? std::clamp(count.getIntValue(), 0LL, kMostLines) : 0);
+    return 1 + (count.isInteger() ? std::clamp(count.getIntValue(), 0LL, kMaxLines) : 0);
 }
 
 } // namespace
@@ -43,7 +43,7 @@ void DocumentCatalog::addPage(const QPDFObjectHandle &page) {
     }
 }
 
-void DocumentCatalog::keepPages(int count) {
+void DocumentCatalog::truncatePages(int count) {
     m_pages.resize(static_cast<std::size_t>(std::min(count, pageCount())));
     std::erase_if(m_pageLabels, [this](const auto &label) { return label.first >= pageCount(); });
 }
@@ -92,7 +92,7 @@ void DocumentCatalog::finishBookmarks(QPDF &document) {
     }
     outline.replaceKey("/First", m_bookmarks.front());
     outline.replaceKey("/Last", m_bookmarks.back());
-    outline.replaceKey("/Count", QPDFObjectHandle::newInteger(std::min(lines, kMostLines)));
+    outline.replaceKey("/Count", QPDFObjectHandle::newInteger(std::min(lines, kMaxLines)));
     document.getRoot().replaceKey("/Outlines", outline);
 }
 

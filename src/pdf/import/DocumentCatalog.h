@@ -19,7 +19,7 @@ class DocumentCatalog {
     void addDocument(const ImportedDocument &imported);
 
     /// Forgets the pages added by addPage() after the first `count`.
-    void keepPages(int count);
+    void truncatePages(int count);
 
     [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
     /// The highest PDF version of the sources, at least 1.7.

@@ -130,7 +130,7 @@ QByteArray imaged(const QByteArray &keys, const QByteArray &data, const QByteArr
 }
 
 /// Squares in three tints of a colour space.
-QByteArray coloured(const QByteArray &space, const QByteArray &one, const QByteArray &other) {
+QByteArray colored(const QByteArray &space, const QByteArray &one, const QByteArray &other) {
     return pageWith("/ColorSpace << /CS " + space + " >>",
                     "/CS cs " + one + " sc 10 10 80 80 re f " + other + " sc 110 10 80 80 re f")
         .stream(6, "/N 3 /Alternate /DeviceRGB", "no profile at all")
@@ -198,16 +198,16 @@ QList<OddDocument> oddGraphics() {
         {"an image of 16 bits",
          imaged("/ColorSpace /DeviceGray /BitsPerComponent 16", levels + levels)},
         {"a spot colour",
-         coloured("[/Separation /Odd#20Orange /DeviceRGB " + kRamp + "]", "0.2", "0.9")},
+         colored("[/Separation /Odd#20Orange /DeviceRGB " + kRamp + "]", "0.2", "0.9")},
         {"two colorants",
-         coloured("[/DeviceN [/One /Other] /DeviceRGB 7 0 R]", "0.2 0.9", "0.9 0.5")},
+         colored("[/DeviceN [/One /Other] /DeviceRGB 7 0 R]", "0.2 0.9", "0.9 0.5")},
         {"a damaged profile beside its alternate",
-         coloured("[/ICCBased 6 0 R]", "1 0.2 0.2", "0.2 0.2 1")},
-        {"CIE colours", coloured("[/Lab << /WhitePoint [0.95 1 1.09] /Range [-90 90 -90 90] >>]",
-                                 "60 50 20", "40 -50 -30")},
+         colored("[/ICCBased 6 0 R]", "1 0.2 0.2", "0.2 0.2 1")},
+        {"CIE colours", colored("[/Lab << /WhitePoint [0.95 1 1.09] /Range [-90 90 -90 90] >>]",
+                                "60 50 20", "40 -50 -30")},
         {"a default colour space",
-         coloured("/DeviceRGB /DefaultRGB [/CalRGB << /WhitePoint [0.95 1 1.09] /Gamma [2 2 2] >>]",
-                  "1 0.5 0.2", "0.2 0.5 1")},
+         colored("/DeviceRGB /DefaultRGB [/CalRGB << /WhitePoint [0.95 1 1.09] /Gamma [2 2 2] >>]",
+                 "1 0.5 0.2", "0.2 0.5 1")},
     };
 }
 

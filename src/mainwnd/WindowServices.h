@@ -11,7 +11,7 @@ class NotificationCenter;
 class Notices;
 
 /// The world around the main window; tests hand in their own. Everything outlives the window.
-struct Surroundings {
+struct WindowServices {
     QSettings &settings;
     Desktop &desktop;
     Notices &notices;

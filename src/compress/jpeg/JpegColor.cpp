@@ -1,4 +1,4 @@
-#include "compress/jpeg/JpegColour.h"
+#include "compress/jpeg/JpegColor.h"
 
 namespace folioforge {
 
@@ -34,7 +34,7 @@ void convertRow(std::uint8_t *first, std::uint8_t *second, std::uint8_t *third, 
 
 } // namespace
 
-void toJpegColour(PlanarImage &image) {
+void toJpegColor(PlanarImage &image) {
     if (image.components() < 3) {
         return;
     }

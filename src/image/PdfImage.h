@@ -28,7 +28,7 @@ enum class EmbeddedAs { OwnBytes, Recompressed };
 
 /// An image in the form in which a PDF holds it: compressed samples and what is needed to read
 /// them.
-struct EncodedImage {
+struct PdfImage {
     int width = 0;            ///< Pixels.
     int height = 0;           ///< Pixels.
     int bitsPerComponent = 8; ///< 1, 2, 4, 8 or 16; not written for JPX.
@@ -55,12 +55,12 @@ struct EncodedImage {
     qint64 sourceModifiedNanos = 0;
 
     /// Opacity of each pixel as a grey image; none for an opaque image.
-    std::unique_ptr<EncodedImage> softMask;
+    std::unique_ptr<PdfImage> softMask;
 };
 
 /// Reads the image at `path` and puts it into the form in which a PDF holds it: the file's own
 /// compressed bytes where a PDF can hold them, else decoded and compressed losslessly. Throws
 /// Error when the file cannot be read or decoded.
-EncodedImage encodeImage(const QString &path);
+PdfImage toPdfImage(const QString &path);
 
 } // namespace folioforge

@@ -1,4 +1,4 @@
-#include "files/StandIns.h"
+#include "files/ReadableLinks.h"
 
 #include "files/PathNames.h"
 #include "files/TemporaryFolder.h"
@@ -13,14 +13,14 @@
 
 namespace folioforge {
 
-StandIns::~StandIns() {
+ReadableLinks::~ReadableLinks() {
     for (const PartFile &part : m_parts) {
         std::error_code failure;
         std::filesystem::remove(part.path(), failure);
     }
 }
 
-QString StandIns::pathFor(const QByteArray &path) {
+QString ReadableLinks::pathFor(const QByteArray &path) {
     QString readable = QString::fromUtf8(path);
     if (path.isValidUtf8()) {
         return readable;
@@ -36,24 +36,24 @@ QString StandIns::pathFor(const QByteArray &path) {
 
 // The path is known to a signal handler before there is anything to remove.
 
-bool StandIns::makeFolder(const QString &path) {
+bool ReadableLinks::makeFolder(const QString &path) {
     const PartFile &part = m_parts.emplace_front(QFile::encodeName(path).toStdString());
     return keepIf(::mkdir(part.path().c_str(), S_IRWXU) == 0);
 }
 
-bool StandIns::makeLink(const QString &path, const std::string &target) {
+bool ReadableLinks::makeLink(const QString &path, const std::string &target) {
     const PartFile &part = m_parts.emplace_front(QFile::encodeName(path).toStdString());
     return keepIf(::symlink(target.c_str(), part.path().c_str()) == 0);
 }
 
-bool StandIns::keepIf(bool made) {
+bool ReadableLinks::keepIf(bool made) {
     if (!made) {
         m_parts.pop_front();
     }
     return made;
 }
 
-QString StandIns::pathForReadable(const QString &path) {
+QString ReadableLinks::pathForReadable(const QString &path) {
     if (!path.contains(QChar::ReplacementCharacter) || QFileInfo::exists(path)) {
         return path;
     }
@@ -71,7 +71,7 @@ QString StandIns::pathForReadable(const QString &path) {
     return path;
 }
 
-QStringList StandIns::pathsForReadable(QStringList paths) {
+QStringList ReadableLinks::pathsForReadable(QStringList paths) {
     for (QString &path : paths) {
         path = pathForReadable(path);
     }

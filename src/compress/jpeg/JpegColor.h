@@ -15,6 +15,6 @@ inline bool isPlain(J_COLOR_SPACE space) {
 
 /// Turns plain components into those that JPEG keeps (ITU-T T.871, 7): RGB into YCbCr, CMYK into
 /// YCCK, which is YCbCr of the inverted first three inks. Grey stays. All planes are of one size.
-void toJpegColour(PlanarImage &image);
+void toJpegColor(PlanarImage &image);
 
 } // namespace folioforge

@@ -15,13 +15,13 @@ class TemporaryFolder;
 
 /// Paths as text for files whose names are not valid UTF-8, which no text can name: such a file
 /// gets a symbolic link of a readable name, which lives as long as this object.
-class StandIns {
+class ReadableLinks {
   public:
-    explicit StandIns(TemporaryFolder &folder)
+    explicit ReadableLinks(TemporaryFolder &folder)
         : m_folder(folder) {}
-    ~StandIns();
-    StandIns(const StandIns &) = delete;
-    StandIns &operator=(const StandIns &) = delete;
+    ~ReadableLinks();
+    ReadableLinks(const ReadableLinks &) = delete;
+    ReadableLinks &operator=(const ReadableLinks &) = delete;
 
     /// A path in text that leads to `path`: the same path where its bytes are valid UTF-8. A link's
     /// name is cut where the readable form has no room. A file for which no link can be made gets
