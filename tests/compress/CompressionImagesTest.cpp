@@ -87,7 +87,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
     void photosOfEachKindAreReduced_data() {
         QTest::addColumn<QByteArray>("keys");
         QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<QString>("colour");
+        QTest::addColumn<QString>("color");
         const QByteArray rgb = samplesOf(photo(1200, 900), 3);
         const QByteArray flateRgb(
             "/ColorSpace /DeviceRGB /BitsPerComponent 8 /Filter /FlateDecode ");
@@ -148,7 +148,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
     void jpeg2000IsReduced_data() {
         QTest::addColumn<QImage::Format>("format");
         QTest::addColumn<QByteArray>("space");
-        QTest::addColumn<QString>("colour");
+        QTest::addColumn<QString>("color");
         QTest::newRow("rgb") << QImage::Format_RGB888 << QByteArray("/ColorSpace /DeviceRGB")
                              << u"rgb"_s;
         QTest::newRow("its own colours") << QImage::Format_RGB888 << QByteArray() << u"rgb"_s;

@@ -107,7 +107,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
     void colorsKeepTheirSpaces_data() {
         QTest::addColumn<QByteArray>("keys");
         QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<QString>("colour");
+        QTest::addColumn<QString>("color");
         const QImage grey = photo(1200, 900, QImage::Format_Grayscale8);
         const QByteArray rgb = samplesOf(photo(1200, 900), 3);
         QTest::newRow("grey jpeg")
