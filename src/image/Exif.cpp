@@ -37,20 +37,20 @@ class TiffNumbers {
     bool m_littleEndian;
 };
 
-void readDirectory(const TiffNumbers &numbers, ExifFacts &facts, quint16 &unit) {
+void readDirectory(const TiffNumbers &numbers, ExifMetadata &metadata, quint16 &unit) {
     const qsizetype directory = numbers.word(4);
     const int count = numbers.half(directory);
     for (int i = 0; i < count; ++i) {
         const qsizetype entry = directory + 2 + i * kEntryBytes;
         switch (numbers.half(entry)) {
         case Orientation:
-            facts.orientation = numbers.half(entry + 8);
+            metadata.orientation = numbers.half(entry + 8);
             break;
         case XResolution:
-            facts.horizontalDpi = numbers.rational(numbers.word(entry + 8));
+            metadata.horizontalDpi = numbers.rational(numbers.word(entry + 8));
             break;
         case YResolution:
-            facts.verticalDpi = numbers.rational(numbers.word(entry + 8));
+            metadata.verticalDpi = numbers.rational(numbers.word(entry + 8));
             break;
         case Unit:
             unit = numbers.half(entry + 8);
@@ -63,22 +63,22 @@ void readDirectory(const TiffNumbers &numbers, ExifFacts &facts, quint16 &unit) 
 
 } // namespace
 
-ExifFacts readExif(QByteArrayView block) {
-    ExifFacts facts;
+ExifMetadata readExif(QByteArrayView block) {
+    ExifMetadata metadata;
     if (!block.startsWith("II") && !block.startsWith("MM")) {
-        return facts;
+        return metadata;
     }
     quint16 unit = 2;
     try {
-        readDirectory(TiffNumbers(block), facts, unit);
+        readDirectory(TiffNumbers(block), metadata, unit);
     } catch (const Error &) {
         // A cut block is no reason to refuse the picture; what came before the cut counts.
     }
     if (unit == kCentimetre) {
-        facts.horizontalDpi *= kCentimetresPerInch;
-        facts.verticalDpi *= kCentimetresPerInch;
+        metadata.horizontalDpi *= kCentimetresPerInch;
+        metadata.verticalDpi *= kCentimetresPerInch;
     }
-    return facts;
+    return metadata;
 }
 
 } // namespace folioforge

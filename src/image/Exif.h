@@ -5,7 +5,7 @@
 namespace folioforge {
 
 /// What an EXIF block says of an image's first directory (EXIF 2.32, 4.6.4).
-struct ExifFacts {
+struct ExifMetadata {
     int orientation = 1;
     double horizontalDpi = 0; ///< Pixels per inch; 0 where the block states none.
     double verticalDpi = 0;
@@ -13,6 +13,6 @@ struct ExifFacts {
 
 /// Reads an EXIF block, which is a TIFF structure without pixels. A damaged block gives what could
 /// be read of it.
-ExifFacts readExif(QByteArrayView block);
+ExifMetadata readExif(QByteArrayView block);
 
 } // namespace folioforge

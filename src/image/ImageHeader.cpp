@@ -1,7 +1,7 @@
 #include "image/ImageHeader.h"
 
 #include "error/Error.h"
-#include "image/Sniffer.h"
+#include "image/ImageFormat.h"
 
 #include <cmath>
 #include <new>
@@ -24,14 +24,14 @@ bool isSaneDensity(double dpi) {
 
 /// PNG and BMP count in whole pixels per metre, which no usual density is: 72 per inch is stored as
 /// 2835 and read back as 72.009. A density as near to a whole number as that unit can come is it.
-double wholeWhereMeant(double dpi) {
+double roundedToWhole(double dpi) {
     constexpr double kHalfPixelPerMetre = 0.5 * 0.0254;
     const double whole = std::round(dpi);
     return std::abs(dpi - whole) <= kHalfPixelPerMetre ? whole : dpi;
 }
 
-ImageHeader checked(ImageHeader header, ImageFormat format) {
-    header.format = format;
+ImageHeader checked(ImageHeader header, ImageKind kind) {
+    header.kind = kind;
     if (header.width <= 0 || header.height <= 0) {
         throw Error(u"The image has no pixels"_s);
     }
@@ -46,8 +46,8 @@ ImageHeader checked(ImageHeader header, ImageFormat format) {
         header.horizontalDpi = kDefaultDpi;
         header.verticalDpi = kDefaultDpi;
     }
-    header.horizontalDpi = wholeWhereMeant(header.horizontalDpi);
-    header.verticalDpi = wholeWhereMeant(header.verticalDpi);
+    header.horizontalDpi = roundedToWhole(header.horizontalDpi);
+    header.verticalDpi = roundedToWhole(header.verticalDpi);
     return header;
 }
 
@@ -71,17 +71,17 @@ QSizeF ImageHeader::sizeInPoints() const {
 ImageHeader readImageHeader(const QString &path) {
     return withinMemory([&] {
         const ImageFile file = ImageFile::open(path);
-        const Decoder &decoder = decoderFor(file.view());
-        return checked(decoder.readHeader(file.view()), decoder.format);
+        const ImageFormat &format = formatOf(file.view());
+        return checked(format.readHeader(file.view()), format.kind);
     });
 }
 
 PdfImage toPdfImage(const QString &path) {
     return withinMemory([&] {
         const ImageFile file = ImageFile::open(path);
-        const Decoder &decoder = decoderFor(file.view());
-        checked(decoder.readHeader(file.view()), decoder.format);
-        PdfImage image = decoder.encode(file.view());
+        const ImageFormat &format = formatOf(file.view());
+        checked(format.readHeader(file.view()), format.kind);
+        PdfImage image = format.toPdfImage(file.view());
         file.requireUnchanged();
         image.sourcePath = path;
         image.sourceSize = file.size();

@@ -5,7 +5,7 @@
 
 namespace folioforge {
 
-enum class ImageFormat { Jpeg, Jpeg2000, Png, Tiff, Bmp, Gif, Ico, Icns, Exr, Tga, Psd };
+enum class ImageKind { Jpeg, Jpeg2000, Png, Tiff, Bmp, Gif, Ico, Icns, Exr, Tga, Psd };
 
 /// Images above this many pixels are refused, so that a small file cannot claim the machine's
 /// memory.
@@ -13,7 +13,7 @@ inline constexpr qint64 kMaxImagePixels = 500'000'000;
 
 /// What the header of an image file says; no pixel is decoded to learn it.
 struct ImageHeader {
-    ImageFormat format = ImageFormat::Png;
+    ImageKind kind = ImageKind::Png;
     int width = 0;       ///< Stored pixels, before orientation.
     int height = 0;      ///< Stored pixels, before orientation.
     int orientation = 1; ///< EXIF orientation 1 to 8; anything else in the file counts as 1.

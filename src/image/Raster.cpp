@@ -88,17 +88,31 @@ void compressSamples(const Raster &raster, PdfImage &image) {
     }
 }
 
-template<typename Sample> bool isEither(const QByteArray &samples, bool transparentToo) {
-    constexpr auto full = std::numeric_limits<Sample>::max();
+/// Whether `isWanted` holds for each sample of the plane.
+template<typename Sample, typename IsWanted>
+bool areAll(const QByteArray &samples, const IsWanted &isWanted) {
     const auto *values = reinterpret_cast<const Sample *>(samples.constData());
-    return std::all_of(
-        values, values + samples.size() / qsizetype(sizeof(Sample)),
-        [&](Sample value) { return value == full || (transparentToo && value == 0); });
+    return std::all_of(values, values + samples.size() / qsizetype(sizeof(Sample)), isWanted);
 }
 
-bool isEither(const AlphaPlane &alpha, bool transparentToo) {
-    return alpha.bits == 16 ? isEither<quint16>(alpha.samples, transparentToo)
-                            : isEither<uchar>(alpha.samples, transparentToo);
+template<typename Sample> bool isOpaque(const QByteArray &samples) {
+    return areAll<Sample>(samples,
+                          [](Sample value) { return value == std::numeric_limits<Sample>::max(); });
+}
+
+template<typename Sample> bool isAllOrNothing(const QByteArray &samples) {
+    return areAll<Sample>(samples, [](Sample value) {
+        return value == 0 || value == std::numeric_limits<Sample>::max();
+    });
+}
+
+bool isOpaque(const AlphaPlane &alpha) {
+    return alpha.bits == 16 ? isOpaque<quint16>(alpha.samples) : isOpaque<uchar>(alpha.samples);
+}
+
+bool isAllOrNothing(const AlphaPlane &alpha) {
+    return alpha.bits == 16 ? isAllOrNothing<quint16>(alpha.samples)
+                            : isAllOrNothing<uchar>(alpha.samples);
 }
 
 /// Opacity that is all or nothing, one bit a pixel.
@@ -185,14 +199,14 @@ void unpremultiply(Raster &raster) {
 }
 
 std::unique_ptr<PdfImage> encodeAlpha(const AlphaPlane &alpha, int width, int height) {
-    if (isEither(alpha, false)) {
+    if (isOpaque(alpha)) {
         return nullptr;
     }
     Raster plane;
     plane.width = width;
     plane.height = height;
     plane.color = ImageColor::Gray;
-    if (isEither(alpha, true)) {
+    if (isAllOrNothing(alpha)) {
         plane.bits = 1;
         plane.samples = packedAlpha(alpha, width, height);
     } else {

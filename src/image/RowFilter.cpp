@@ -64,7 +64,7 @@ void applyFilter(RowFilter filter, const RowPair &row, uchar *out) {
 
 /// The sum of the bytes taken as small positive or negative numbers: the usual guess at how well
 /// a row will compress.
-qint64 roughness(const uchar *bytes, qsizetype size) {
+qint64 filterCost(const uchar *bytes, qsizetype size) {
     qint64 sum = 0;
     constexpr qsizetype kBlock = 4096;
     for (qsizetype start = 0; start < size; start += kBlock) {
@@ -99,7 +99,7 @@ class RowFilterer {
         qint64 least = std::numeric_limits<qint64>::max();
         for (const RowFilter filter : {Up, Sub, None, Paeth, Average}) {
             applyFilter(filter, pair, m_trial.data());
-            const qint64 cost = roughness(m_trial.data(), m_stride);
+            const qint64 cost = filterCost(m_trial.data(), m_stride);
             if (cost < least) {
                 least = cost;
                 out[0] = filter;

@@ -17,16 +17,16 @@ using namespace folioforge::fuzz;
 namespace {
 
 constexpr std::array kFormats{
-    std::pair("bmp", ImageFormat::Bmp),           std::pair("exr", ImageFormat::Exr),
-    std::pair("gif", ImageFormat::Gif),           std::pair("icns", ImageFormat::Icns),
-    std::pair("ico", ImageFormat::Ico),           std::pair("jpeg", ImageFormat::Jpeg),
-    std::pair("jpeg2000", ImageFormat::Jpeg2000), std::pair("png", ImageFormat::Png),
-    std::pair("psd", ImageFormat::Psd),           std::pair("tga", ImageFormat::Tga),
-    std::pair("tiff", ImageFormat::Tiff)};
+    std::pair("bmp", ImageKind::Bmp),           std::pair("exr", ImageKind::Exr),
+    std::pair("gif", ImageKind::Gif),           std::pair("icns", ImageKind::Icns),
+    std::pair("ico", ImageKind::Ico),           std::pair("jpeg", ImageKind::Jpeg),
+    std::pair("jpeg2000", ImageKind::Jpeg2000), std::pair("png", ImageKind::Png),
+    std::pair("psd", ImageKind::Psd),           std::pair("tga", ImageKind::Tga),
+    std::pair("tiff", ImageKind::Tiff)};
 
 constexpr qint64 kMaxPixels = 1 << 22; // Enough to find faults, few enough to go on.
 
-ImageFormat fuzzedFormat() {
+ImageKind fuzzedKind() {
     const auto found = std::ranges::find_if(kFormats, [](const auto &format) {
         return format.first == std::string_view(kFuzzedExtension);
     });
@@ -52,13 +52,13 @@ void requireInOrder(const PdfImage &image, qint64 fileSize) {
 
 // NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    static const ImageFormat format = fuzzedFormat();
+    static const ImageKind kind = fuzzedKind();
     refuseMessages();
     // The name decides where the bytes are not plain about their format.
     const MemoryFile file(QString::fromLatin1(kFuzzedExtension), {data, size});
     refuses([&] {
         const ImageHeader header = readImageHeader(file.path());
-        if (header.format == format && qint64(header.width) * header.height <= kMaxPixels) {
+        if (header.kind == kind && qint64(header.width) * header.height <= kMaxPixels) {
             requireInOrder(toPdfImage(file.path()), static_cast<qint64>(size));
         }
     });

@@ -114,7 +114,7 @@ void BmpTest::headersOfEveryLengthGiveTheirPixels() {
     QFETCH(const QByteArray, bytes);
     QFETCH(const QByteArray, rgb);
     const QString path = file(bytes);
-    QCOMPARE(readImageHeader(path).format, ImageFormat::Bmp);
+    QCOMPARE(readImageHeader(path).kind, ImageKind::Bmp);
     const PdfImage image = toPdfImage(path);
     QCOMPARE(rgbRows(image).toHex(), rgb.toHex());
     QVERIFY(image.softMask == nullptr);

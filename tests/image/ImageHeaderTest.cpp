@@ -65,32 +65,32 @@ QString ImageHeaderTest::bitmapWithDensity(int perMetre) {
 
 void ImageHeaderTest::headerStatesFormatAndPixels_data() {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<ImageFormat>("format");
+    QTest::addColumn<ImageKind>("format");
     QTest::addColumn<QSize>("size");
-    const auto add = [](const char *name, ImageFormat format, QSize size = QSize(24, 16)) {
+    const auto add = [](const char *name, ImageKind format, QSize size = QSize(24, 16)) {
         QTest::newRow(name) << QString::fromLatin1(name) << format << size;
     };
-    add("photo.jpg", ImageFormat::Jpeg);
-    add("progressive.jpg", ImageFormat::Jpeg);
-    add("colour.jp2", ImageFormat::Jpeg2000);
-    add("codestream.jp2", ImageFormat::Jpeg2000);
-    add("colour.png", ImageFormat::Png);
-    add("colour-LZW.tif", ImageFormat::Tiff);
-    add("colour-bigendian.tif", ImageFormat::Tiff);
-    add("palette.gif", ImageFormat::Gif);
-    add("icon.ico", ImageFormat::Ico, QSize(48, 48));
-    add("png.icns", ImageFormat::Icns);
-    add("jp2.icns", ImageFormat::Icns);
-    add("classic.icns", ImageFormat::Icns, QSize(16, 16));
-    add("colour.psd", ImageFormat::Psd);
+    add("photo.jpg", ImageKind::Jpeg);
+    add("progressive.jpg", ImageKind::Jpeg);
+    add("colour.jp2", ImageKind::Jpeg2000);
+    add("codestream.jp2", ImageKind::Jpeg2000);
+    add("colour.png", ImageKind::Png);
+    add("colour-LZW.tif", ImageKind::Tiff);
+    add("colour-bigendian.tif", ImageKind::Tiff);
+    add("palette.gif", ImageKind::Gif);
+    add("icon.ico", ImageKind::Ico, QSize(48, 48));
+    add("png.icns", ImageKind::Icns);
+    add("jp2.icns", ImageKind::Icns);
+    add("classic.icns", ImageKind::Icns, QSize(16, 16));
+    add("colour.psd", ImageKind::Psd);
 }
 
 void ImageHeaderTest::headerStatesFormatAndPixels() {
     QFETCH(QString, name);
-    QFETCH(ImageFormat, format);
+    QFETCH(ImageKind, format);
     QFETCH(QSize, size);
     const ImageHeader header = readImageHeader(imageFile(name));
-    QCOMPARE(header.format, format);
+    QCOMPARE(header.kind, format);
     QCOMPARE(QSize(header.width, header.height), size);
     QCOMPARE(header.orientation, 1);
     QCOMPARE(header.horizontalDpi, 72.0);
@@ -100,14 +100,14 @@ void ImageHeaderTest::headerStatesFormatAndPixels() {
 
 void ImageHeaderTest::contentCountsMoreThanExtension() {
     const QByteArray png = bytesOf(imageFile(u"colour.png"_s));
-    QCOMPARE(readImageHeader(write("really-png.tga", png)).format, ImageFormat::Png);
-    QCOMPARE(readImageHeader(write("really-png.jpg", png)).format, ImageFormat::Png);
+    QCOMPARE(readImageHeader(write("really-png.tga", png)).kind, ImageKind::Png);
+    QCOMPARE(readImageHeader(write("really-png.jpg", png)).kind, ImageKind::Png);
 }
 
 void ImageHeaderTest::extensionDecidesWhereBytesDoNot() {
     const QByteArray tga = QByteArray::fromHex("000002000000000000000000020001001800") +
                            QByteArray::fromHex("0102030405060000");
-    QCOMPARE(readImageHeader(write("plain.TGA", tga)).format, ImageFormat::Tga);
+    QCOMPARE(readImageHeader(write("plain.TGA", tga)).kind, ImageKind::Tga);
 }
 
 void ImageHeaderTest::unknownContentIsRefused() {

@@ -185,7 +185,7 @@ void Jpeg2000Test::opacityIsTakenFromAmongTheColors() {
         box("jp2h", headerOf(components, alpha, profileOf(colorSpace.constData()))) +
         box("jp2c", codestream(components));
     const ImageFile file = ImageFile::open(writeFile(m_folder.filePath(u"opacity.jp2"_s), bytes));
-    const Raster raster = decodeJpeg2000(file.view(), readJpeg2000Facts(file.view()));
+    const Raster raster = decodeJpeg2000(file.view(), readJpeg2000Metadata(file.view()));
     QByteArray pixels;
     for (int x = 0; x < 3; ++x) {
         for (int c = 0; c < colors; ++c) {

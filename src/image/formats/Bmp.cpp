@@ -1,4 +1,4 @@
-#include "image/formats/Bmp.h"
+#include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
 #include "image/formats/QtImage.h"
@@ -155,8 +155,8 @@ PdfImage encodeBitmap(const FileView &file) {
 
 } // namespace
 
-Decoder bmpDecoder() {
-    return {ImageFormat::Bmp, {QLatin1StringView("bmp")}, isBitmap, readBitmapHeader, encodeBitmap};
+ImageFormat bmpFormat() {
+    return {ImageKind::Bmp, {QLatin1StringView("bmp")}, isBitmap, readBitmapHeader, encodeBitmap};
 }
 
 } // namespace folioforge

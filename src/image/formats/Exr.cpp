@@ -1,4 +1,4 @@
-#include "image/formats/Exr.h"
+#include "image/formats/Formats.h"
 
 #include "error/Error.h"
 #include "image/Raster.h"
@@ -208,14 +208,14 @@ bool recognises(QByteArrayView head) {
     return head.startsWith("\x76\x2F\x31\x01");
 }
 
-PdfImage encode(const FileView &file) {
+PdfImage toPdfImage(const FileView &file) {
     return encodeRaster(reading([&] { return readPixels(file); }));
 }
 
 } // namespace
 
-Decoder exrDecoder() {
-    return {ImageFormat::Exr, {QLatin1StringView("exr")}, recognises, readHeader, encode};
+ImageFormat exrFormat() {
+    return {ImageKind::Exr, {QLatin1StringView("exr")}, recognises, readHeader, toPdfImage};
 }
 
 } // namespace folioforge

@@ -1,4 +1,4 @@
-#include "image/formats/Gif.h"
+#include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
 #include "image/formats/QtImage.h"
@@ -57,8 +57,8 @@ PdfImage encodeGif(const FileView &file) {
 
 } // namespace
 
-Decoder gifDecoder() {
-    return {ImageFormat::Gif, {QLatin1StringView("gif")}, isGif, readGifHeader, encodeGif};
+ImageFormat gifFormat() {
+    return {ImageKind::Gif, {QLatin1StringView("gif")}, isGif, readGifHeader, encodeGif};
 }
 
 } // namespace folioforge

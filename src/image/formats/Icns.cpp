@@ -1,9 +1,7 @@
-#include "image/formats/Icns.h"
+#include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
 #include "image/formats/IcnsPixels.h"
-#include "image/formats/Jpeg2000.h"
-#include "image/formats/Png.h"
 
 #include <optional>
 #include <tuple>
@@ -14,12 +12,12 @@ namespace folioforge {
 
 namespace {
 
-/// An entry that can be shown: a PNG or JPEG 2000 file with its decoder, or a classic icon.
+/// An entry that can be shown: a PNG or JPEG 2000 file with its format, or a classic icon.
 struct Candidate {
     ImageHeader header;
     int bits = 0;
     FileView content;
-    std::optional<Decoder> decoder;
+    std::optional<ImageFormat> format;
     std::optional<ClassicIcon> classic;
 
     /// Larger is better, then deeper.
@@ -46,11 +44,11 @@ std::vector<IcnsEntry> entriesOf(const FileView &file) {
 
 std::optional<Candidate> candidateOf(const IcnsEntry &entry) {
     const QByteArray head = entry.content.read(0, kSniffedBytes);
-    for (const Decoder &decoder : {pngDecoder(), jpeg2000Decoder()}) {
-        if (decoder.recognises(head)) {
+    for (const ImageFormat &format : {pngFormat(), jpeg2000Format()}) {
+        if (format.recognises(head)) {
             constexpr int kDeeperThanClassic = 64;
-            return Candidate{decoder.readHeader(entry.content), kDeeperThanClassic, entry.content,
-                             decoder, std::nullopt};
+            return Candidate{format.readHeader(entry.content), kDeeperThanClassic, entry.content,
+                             format, std::nullopt};
         }
     }
     const auto classic = classicIconOf(entry.type);
@@ -89,19 +87,19 @@ ImageHeader readHeader(const FileView &file) {
     return largestOf(entriesOf(file)).header;
 }
 
-PdfImage encode(const FileView &file) {
+PdfImage toPdfImage(const FileView &file) {
     const std::vector<IcnsEntry> entries = entriesOf(file);
     const Candidate largest = largestOf(entries);
-    if (largest.decoder) {
-        return largest.decoder->encode(largest.content);
+    if (largest.format) {
+        return largest.format->toPdfImage(largest.content);
     }
     return encodeRaster(decodeClassicIcon(*largest.classic, largest.content, entries));
 }
 
 } // namespace
 
-Decoder icnsDecoder() {
-    return {ImageFormat::Icns, {QLatin1StringView("icns")}, recognises, readHeader, encode};
+ImageFormat icnsFormat() {
+    return {ImageKind::Icns, {QLatin1StringView("icns")}, recognises, readHeader, toPdfImage};
 }
 
 } // namespace folioforge

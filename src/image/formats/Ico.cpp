@@ -1,7 +1,6 @@
-#include "image/formats/Ico.h"
+#include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
-#include "image/formats/Png.h"
 #include "image/formats/QtImage.h"
 
 #include <algorithm>
@@ -31,9 +30,9 @@ struct Frame {
 constexpr qint64 kBitmapHeader = 40;
 
 Frame frameOf(const FileView &content) {
-    if (pngDecoder().recognises(content.read(0, kSniffedBytes))) {
+    if (pngFormat().recognises(content.read(0, kSniffedBytes))) {
         constexpr int kDeeperThanBitmaps = 64;
-        return {pngDecoder().readHeader(content), kDeeperThanBitmaps, true, content};
+        return {pngFormat().readHeader(content), kDeeperThanBitmaps, true, content};
     }
     const QByteArray head = content.readExactly(0, kBitmapHeader);
     Frame frame{{}, littleEndianAt<quint16>(head, 14), false, content};
@@ -185,16 +184,16 @@ ImageHeader readHeader(const FileView &file) {
     return largestFrame(file).header;
 }
 
-PdfImage encode(const FileView &file) {
+PdfImage toPdfImage(const FileView &file) {
     const Frame frame = largestFrame(file);
-    return frame.isPng ? pngDecoder().encode(frame.content)
+    return frame.isPng ? pngFormat().toPdfImage(frame.content)
                        : encodeRaster(rasterOf(readBitmap(frame)));
 }
 
 } // namespace
 
-Decoder icoDecoder() {
-    return {ImageFormat::Ico, {QLatin1StringView("ico")}, recognises, readHeader, encode};
+ImageFormat icoFormat() {
+    return {ImageKind::Ico, {QLatin1StringView("ico")}, recognises, readHeader, toPdfImage};
 }
 
 } // namespace folioforge

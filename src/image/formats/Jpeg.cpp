@@ -1,4 +1,4 @@
-#include "image/formats/Jpeg.h"
+#include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
 #include "image/Exif.h"
@@ -31,7 +31,7 @@ enum Marker : uchar {
 };
 
 /// What the segments before the first scan say.
-struct JpegFacts {
+struct JpegMetadata {
     ImageHeader header;
     uchar process = 0; ///< The marker of the frame header.
     int precision = 0; ///< Bits per sample.
@@ -84,75 +84,75 @@ bool hasNoLength(uchar marker) {
     return marker == 0x01 || (marker >= Rst0 && marker <= Eoi);
 }
 
-void readFrameHeader(QByteArrayView segment, uchar marker, JpegFacts &facts) {
-    facts.process = marker;
-    facts.precision = bigEndianAt<uchar>(segment, 0);
-    facts.header.height = bigEndianAt<quint16>(segment, 1);
-    facts.header.width = bigEndianAt<quint16>(segment, 3);
-    facts.components = bigEndianAt<uchar>(segment, 5);
+void readFrameHeader(QByteArrayView segment, uchar marker, JpegMetadata &metadata) {
+    metadata.process = marker;
+    metadata.precision = bigEndianAt<uchar>(segment, 0);
+    metadata.header.height = bigEndianAt<quint16>(segment, 1);
+    metadata.header.width = bigEndianAt<quint16>(segment, 3);
+    metadata.components = bigEndianAt<uchar>(segment, 5);
     for (qsizetype at = 6; at < segment.size(); at += 3) {
-        facts.componentIds.append(segment[at]);
+        metadata.componentIds.append(segment[at]);
     }
 }
 
-void readJfif(QByteArrayView segment, JpegFacts &facts) {
+void readJfif(QByteArrayView segment, JpegMetadata &metadata) {
     if (!segment.startsWith(QByteArrayView("JFIF\0", 5)) || segment.size() < 12) {
         return;
     }
-    facts.hasJfif = true;
+    metadata.hasJfif = true;
     const auto unit = bigEndianAt<uchar>(segment, 7);
     if (unit != 1 && unit != 2) {
         return;
     }
     constexpr double kCentimetresPerInch = 2.54;
     const double scale = unit == 2 ? kCentimetresPerInch : 1;
-    facts.hasJfifDensity = true;
-    facts.header.horizontalDpi = bigEndianAt<quint16>(segment, 8) * scale;
-    facts.header.verticalDpi = bigEndianAt<quint16>(segment, 10) * scale;
+    metadata.hasJfifDensity = true;
+    metadata.header.horizontalDpi = bigEndianAt<quint16>(segment, 8) * scale;
+    metadata.header.verticalDpi = bigEndianAt<quint16>(segment, 10) * scale;
 }
 
-void readExifSegment(QByteArrayView segment, JpegFacts &facts) {
+void readExifSegment(QByteArrayView segment, JpegMetadata &metadata) {
     constexpr qsizetype kSignature = 6;
     if (!segment.startsWith(QByteArrayView("Exif\0\0", kSignature))) {
         return;
     }
-    const ExifFacts exif = readExif(segment.sliced(kSignature));
-    facts.header.orientation = exif.orientation;
-    if (!facts.hasJfifDensity) {
-        facts.header.horizontalDpi = exif.horizontalDpi;
-        facts.header.verticalDpi = exif.verticalDpi;
+    const ExifMetadata exif = readExif(segment.sliced(kSignature));
+    metadata.header.orientation = exif.orientation;
+    if (!metadata.hasJfifDensity) {
+        metadata.header.horizontalDpi = exif.horizontalDpi;
+        metadata.header.verticalDpi = exif.verticalDpi;
     }
 }
 
-void readIccChunk(QByteArrayView segment, JpegFacts &facts) {
+void readIccChunk(QByteArrayView segment, JpegMetadata &metadata) {
     constexpr qsizetype kChunkHeader = 14;
     if (segment.startsWith(QByteArrayView("ICC_PROFILE\0", 12)) && segment.size() > kChunkHeader) {
-        facts.iccChunks[bigEndianAt<uchar>(segment, 12)] =
+        metadata.iccChunks[bigEndianAt<uchar>(segment, 12)] =
             segment.sliced(kChunkHeader).toByteArray();
     }
 }
 
-void readSegment(uchar marker, QByteArrayView segment, JpegFacts &facts) {
-    if (isFrameHeader(marker) && facts.process == 0) {
-        readFrameHeader(segment, marker, facts);
+void readSegment(uchar marker, QByteArrayView segment, JpegMetadata &metadata) {
+    if (isFrameHeader(marker) && metadata.process == 0) {
+        readFrameHeader(segment, marker, metadata);
     } else if (marker == App0) {
-        readJfif(segment, facts);
+        readJfif(segment, metadata);
     } else if (marker == App1) {
-        readExifSegment(segment, facts);
+        readExifSegment(segment, metadata);
     } else if (marker == App2) {
-        readIccChunk(segment, facts);
+        readIccChunk(segment, metadata);
     } else if (marker == App14 && segment.startsWith("Adobe")) {
-        facts.hasAdobe = true;
+        metadata.hasAdobe = true;
     }
 }
 
-JpegFacts readFacts(const FileView &file) {
-    JpegFacts facts;
-    facts.header.horizontalDpi = 0;
-    facts.header.verticalDpi = 0;
+JpegMetadata readMetadata(const FileView &file) {
+    JpegMetadata metadata;
+    metadata.header.horizontalDpi = 0;
+    metadata.header.verticalDpi = 0;
     SegmentReader reader(file);
     qint64 at = 2;
-    while (!facts.hasScan) {
+    while (!metadata.hasScan) {
         const QByteArrayView lead = reader.bytes(at, 4);
         if (lead.size() < 4) {
             throw Error(u"The JPEG file ends before its picture begins"_s);
@@ -167,18 +167,18 @@ JpegFacts readFacts(const FileView &file) {
         }
         const qint64 length = bigEndianAt<quint16>(lead, 2);
         const QByteArrayView segment = reader.bytes(at + 4, std::max<qint64>(length - 2, 0));
-        facts.hasScan = marker == Sos;
-        readSegment(marker, segment, facts);
+        metadata.hasScan = marker == Sos;
+        readSegment(marker, segment, metadata);
         at += 2 + std::max<qint64>(length, 2);
     }
-    if (facts.process == 0 || at >= file.size()) {
+    if (metadata.process == 0 || at >= file.size()) {
         throw Error(u"The JPEG file ends before its picture begins"_s);
     }
-    return facts;
+    return metadata;
 }
 
-ImageColor colorOf(const JpegFacts &facts) {
-    switch (facts.components) {
+ImageColor colorOf(const JpegMetadata &metadata) {
+    switch (metadata.components) {
     case 1:
         return ImageColor::Gray;
     case 3:
@@ -187,13 +187,13 @@ ImageColor colorOf(const JpegFacts &facts) {
         return ImageColor::Cmyk;
     default:
         throw Error(u"The JPEG file has %1 colour components, which is no colour "
-                    "that a PDF can show"_s.arg(facts.components));
+                    "that a PDF can show"_s.arg(metadata.components));
     }
 }
 
-void requireProcessOfPdf(const JpegFacts &facts) {
+void requireProcessOfPdf(const JpegMetadata &metadata) {
     // DCTDecode holds Huffman-coded baseline, extended and progressive frames of eight bits.
-    if (facts.process > Sof2 || facts.precision != 8) {
+    if (metadata.process > Sof2 || metadata.precision != 8) {
         throw Error(u"The JPEG file is of a kind that no PDF can hold (lossless, "
                     "arithmetic or more than 8 bits)"_s);
     }
@@ -204,36 +204,36 @@ bool recognises(QByteArrayView head) {
 }
 
 ImageHeader readHeader(const FileView &file) {
-    return readFacts(file).header;
+    return readMetadata(file).header;
 }
 
-PdfImage encode(const FileView &file) {
-    const JpegFacts facts = readFacts(file);
-    requireProcessOfPdf(facts);
+PdfImage toPdfImage(const FileView &file) {
+    const JpegMetadata metadata = readMetadata(file);
+    requireProcessOfPdf(metadata);
     PdfImage image;
-    image.width = facts.header.width;
-    image.height = facts.header.height;
-    image.color = colorOf(facts);
+    image.width = metadata.header.width;
+    image.height = metadata.header.height;
+    image.color = colorOf(metadata);
     image.filter = ImageFilter::Dct;
     image.embeddedAs = EmbeddedAs::OwnBytes;
-    image.iccProfile = fittingProfile(facts.iccProfile(), image.color);
-    if (image.color == ImageColor::Cmyk && facts.hasAdobe) {
+    image.iccProfile = fittingProfile(metadata.iccProfile(), image.color);
+    if (image.color == ImageColor::Cmyk && metadata.hasAdobe) {
         image.decode = {1, 0, 1, 0, 1, 0, 1, 0}; // Adobe's programs store ink inverted.
     }
     // Readers take three components for YCbCr unless Adobe's mark or the PDF says otherwise.
-    image.isPlainRgb = !facts.hasAdobe && !facts.hasJfif && facts.componentIds == "RGB";
+    image.isPlainRgb = !metadata.hasAdobe && !metadata.hasJfif && metadata.componentIds == "RGB";
     image.slices = {{file.offset(), file.size()}};
     return image;
 }
 
 } // namespace
 
-Decoder jpegDecoder() {
-    return {ImageFormat::Jpeg,
+ImageFormat jpegFormat() {
+    return {ImageKind::Jpeg,
             {QLatin1StringView("jpg"), QLatin1StringView("jpeg")},
             recognises,
             readHeader,
-            encode};
+            toPdfImage};
 }
 
 } // namespace folioforge

@@ -1,8 +1,8 @@
-#include "image/formats/Jpeg2000.h"
+#include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
 #include "image/IccProfile.h"
-#include "image/formats/Jpeg2000Facts.h"
+#include "image/formats/Jpeg2000Metadata.h"
 #include "image/formats/Jpeg2000Pixels.h"
 
 #include <QtEndian>
@@ -27,17 +27,17 @@ QByteArray box(const char *type, const QByteArray &content) {
 
 /// The boxes that make a JP2 file of a bare codestream, which a PDF may not hold (ISO 32000-1,
 /// 7.4.9).
-QByteArray fileHeaderFor(const Jpeg2000Facts &facts, qint64 codestreamBytes) {
+QByteArray fileHeaderFor(const Jpeg2000Metadata &metadata, qint64 codestreamBytes) {
     constexpr quint32 kSrgb = 16;
     constexpr quint32 kGray = 17;
     QByteArray imageHeader;
-    append(imageHeader, static_cast<quint32>(facts.header.height));
-    append(imageHeader, static_cast<quint32>(facts.header.width));
-    imageHeader.append('\0').append(static_cast<char>(facts.components));
-    imageHeader.append(static_cast<char>(facts.bitsField));
+    append(imageHeader, static_cast<quint32>(metadata.header.height));
+    append(imageHeader, static_cast<quint32>(metadata.header.width));
+    imageHeader.append('\0').append(static_cast<char>(metadata.components));
+    imageHeader.append(static_cast<char>(metadata.bitsField));
     imageHeader.append("\x07\0\0", 3);
     QByteArray color("\x01\0\0", 3);
-    append(color, facts.components == 1 ? kGray : kSrgb);
+    append(color, metadata.components == 1 ? kGray : kSrgb);
     QByteArray bytes = kFileSignature.toByteArray();
     bytes += box("ftyp", QByteArray("jp2 \0\0\0\0jp2 ", 12));
     bytes += box("jp2h", box("ihdr", imageHeader) + box("colr", color));
@@ -51,11 +51,11 @@ ImageColor colorOf(int channels) {
 
 /// A profile of the file is named in the PDF too, because viewers look for it there; without one
 /// they take the colour space from the image's own boxes.
-void describeColor(const Jpeg2000Facts &facts, PdfImage &image) {
+void describeColor(const Jpeg2000Metadata &metadata, PdfImage &image) {
     image.color = ImageColor::FromJpx;
-    const QByteArray profile = fittingProfile(facts.iccProfile, colorOf(facts.components));
-    if (!profile.isEmpty() && !facts.hasPalette) {
-        image.color = colorOf(facts.components);
+    const QByteArray profile = fittingProfile(metadata.iccProfile, colorOf(metadata.components));
+    if (!profile.isEmpty() && !metadata.hasPalette) {
+        image.color = colorOf(metadata.components);
         image.iccProfile = profile;
     }
 }
@@ -65,22 +65,22 @@ bool recognises(QByteArrayView head) {
 }
 
 ImageHeader readHeader(const FileView &file) {
-    return readJpeg2000Facts(file).header;
+    return readJpeg2000Metadata(file).header;
 }
 
-PdfImage encode(const FileView &file) {
-    const Jpeg2000Facts facts = readJpeg2000Facts(file);
-    if (facts.needsDecoding()) {
-        return encodeRaster(decodeJpeg2000(file, facts));
+PdfImage toPdfImage(const FileView &file) {
+    const Jpeg2000Metadata metadata = readJpeg2000Metadata(file);
+    if (metadata.needsDecoding()) {
+        return encodeRaster(decodeJpeg2000(file, metadata));
     }
     PdfImage image;
-    image.width = facts.header.width;
-    image.height = facts.header.height;
+    image.width = metadata.header.width;
+    image.height = metadata.header.height;
     image.filter = ImageFilter::Jpx;
     image.embeddedAs = EmbeddedAs::OwnBytes;
-    describeColor(facts, image);
-    if (facts.isCodestream) {
-        image.data = fileHeaderFor(facts, file.size()) + file.readExactly(0, file.size());
+    describeColor(metadata, image);
+    if (metadata.isCodestream) {
+        image.data = fileHeaderFor(metadata, file.size()) + file.readExactly(0, file.size());
     } else {
         image.slices = {{file.offset(), file.size()}};
     }
@@ -89,8 +89,8 @@ PdfImage encode(const FileView &file) {
 
 } // namespace
 
-Decoder jpeg2000Decoder() {
-    return {ImageFormat::Jpeg2000, {QLatin1StringView("jp2")}, recognises, readHeader, encode};
+ImageFormat jpeg2000Format() {
+    return {ImageKind::Jpeg2000, {QLatin1StringView("jp2")}, recognises, readHeader, toPdfImage};
 }
 
 } // namespace folioforge

@@ -15,28 +15,29 @@ namespace folioforge {
 
 namespace {
 
-OpenJpegCodec openCodec(const Jpeg2000Facts &facts) {
-    OpenJpegCodec codec = openJpegCodec(facts.isCodestream);
-    const qint64 bytes = qint64(facts.header.width) * facts.header.height * facts.components;
+OpenJpegCodec openCodec(const Jpeg2000Metadata &metadata) {
+    OpenJpegCodec codec = openJpegCodec(metadata.isCodestream);
+    const qint64 bytes =
+        qint64(metadata.header.width) * metadata.header.height * metadata.components;
     if (bytes >= kWorthAThread && opj_has_thread_support() == OPJ_TRUE) {
         opj_codec_set_threads(codec.get(), std::min(opj_get_num_cpus(), 8));
     }
     return codec;
 }
 
-OpenJpegImage decode(const FileView &file, const Jpeg2000Facts &facts) {
+OpenJpegImage decode(const FileView &file, const Jpeg2000Metadata &metadata) {
     const Error damaged(u"The JPEG 2000 file is damaged"_s);
     OpenJpegSource source{
         [&file](qint64 at, std::span<uchar> target) { return file.readInto(at, target); },
         file.size()};
     const OpenJpegStream stream = openJpegStream(source);
-    const OpenJpegCodec codec = openCodec(facts);
+    const OpenJpegCodec codec = openCodec(metadata);
     opj_image_t *raw = nullptr;
     const bool headerRead = opj_read_header(stream.get(), codec.get(), &raw) == OPJ_TRUE;
     OpenJpegImage image(raw);
     // The codestream may claim another size than the box that was checked.
-    if (!headerRead || image->x1 - image->x0 != static_cast<OPJ_UINT32>(facts.header.width) ||
-        image->y1 - image->y0 != static_cast<OPJ_UINT32>(facts.header.height)) {
+    if (!headerRead || image->x1 - image->x0 != static_cast<OPJ_UINT32>(metadata.header.width) ||
+        image->y1 - image->y0 != static_cast<OPJ_UINT32>(metadata.header.height)) {
         throw damaged;
     }
     if (opj_decode(codec.get(), stream.get(), image.get()) != OPJ_TRUE) {
@@ -102,35 +103,35 @@ void convertFromYcc(std::array<int, 4> &pixel, int most) {
 }
 
 /// Which components are colour, in order, and how many of them a PDF shows.
-std::vector<int> colorComponents(const opj_image_t &image, const Jpeg2000Facts &facts) {
+std::vector<int> colorComponents(const opj_image_t &image, const Jpeg2000Metadata &metadata) {
     std::vector<int> colors;
     for (int c = 0; c < static_cast<int>(image.numcomps); ++c) {
-        if (c != facts.alphaChannel) {
+        if (c != metadata.alphaChannel) {
             colors.push_back(c);
         }
     }
-    const auto most = static_cast<size_t>(facts.mostColors());
+    const auto most = static_cast<size_t>(metadata.maxColors());
     colors.resize(colors.size() >= most ? most : 1);
     return colors;
 }
 
 /// A raster for these components, without its pixels.
-Raster rasterFor(const opj_image_t &image, const Jpeg2000Facts &facts,
+Raster rasterFor(const opj_image_t &image, const Jpeg2000Metadata &metadata,
                  const std::vector<int> &colors) {
     OPJ_UINT32 precision = 0;
     for (const int c : colors) {
         precision = std::max(precision, image.comps[c].prec);
     }
     Raster raster;
-    raster.width = facts.header.width;
-    raster.height = facts.header.height;
+    raster.width = metadata.header.width;
+    raster.height = metadata.header.height;
     raster.bits = precision > 8 ? 16 : 8;
     raster.color = colors.size() == 1   ? ImageColor::Gray
                    : colors.size() == 3 ? ImageColor::Rgb
                                         : ImageColor::Cmyk;
-    raster.iccProfile = facts.iccProfile;
+    raster.iccProfile = metadata.iccProfile;
     raster.samples = allocateRows(raster.height, raster.stride());
-    if (facts.alphaChannel >= 0 && facts.alphaChannel < static_cast<int>(image.numcomps)) {
+    if (metadata.alphaChannel >= 0 && metadata.alphaChannel < static_cast<int>(image.numcomps)) {
         raster.alpha = AlphaPlane{
             raster.bits, allocateRows(raster.height, rowBytes(raster.width, 1, raster.bits))};
     }
@@ -163,23 +164,23 @@ void fillPixels(Raster &raster, const std::vector<Component> &sources, bool isYc
 
 } // namespace
 
-Raster decodeJpeg2000(const FileView &file, const Jpeg2000Facts &facts) {
+Raster decodeJpeg2000(const FileView &file, const Jpeg2000Metadata &metadata) {
     // The library holds four bytes for every sample: a short file must not cost gigabytes.
-    const qint64 pixels = qint64(facts.header.width) * facts.header.height;
-    requirePlausible(pixels * facts.components, file.size(), 4000);
-    const OpenJpegImage image = decode(file, facts);
-    std::vector<int> components = colorComponents(*image, facts);
-    Raster raster = rasterFor(*image, facts, components);
+    const qint64 pixels = qint64(metadata.header.width) * metadata.header.height;
+    requirePlausible(pixels * metadata.components, file.size(), 4000);
+    const OpenJpegImage image = decode(file, metadata);
+    std::vector<int> components = colorComponents(*image, metadata);
+    Raster raster = rasterFor(*image, metadata, components);
     if (raster.alpha) {
-        components.push_back(facts.alphaChannel);
+        components.push_back(metadata.alphaChannel);
     }
     std::vector<Component> sources;
     sources.reserve(components.size());
     for (const int c : components) {
         sources.emplace_back(image->comps[c], raster.bits, raster.width, raster.height);
     }
-    fillPixels(raster, sources, facts.isYcc);
-    if (facts.isPremultiplied) {
+    fillPixels(raster, sources, metadata.isYcc);
+    if (metadata.isPremultiplied) {
         unpremultiply(raster);
     }
     return raster;

@@ -1,4 +1,4 @@
-#include "image/formats/Png.h"
+#include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
 #include "image/Deflate.h"
@@ -27,7 +27,7 @@ constexpr double kMetresPerInch = 0.0254;
 constexpr qint64 kDeflateRatio = 1040;
 constexpr qsizetype kMaxPaletteBytes = qsizetype{3} * 256;
 
-struct PngFacts {
+struct PngMetadata {
     ImageHeader header;
     int bits = 0;
     uchar colorType = 0;
@@ -62,61 +62,63 @@ struct PngFacts {
     [[nodiscard]] int pixelBytes() const { return std::max(channels() * bits / 8, 1); }
 };
 
-void readImageHeaderChunk(QByteArrayView chunk, PngFacts &facts) {
+void readImageHeaderChunk(QByteArrayView chunk, PngMetadata &metadata) {
     const auto width = bigEndianAt<quint32>(chunk, 0);
     const auto height = bigEndianAt<quint32>(chunk, 4);
     constexpr quint32 kMax = 0x7FFFFFFF;
-    facts.header.width = static_cast<int>(std::min(width, kMax));
-    facts.header.height = static_cast<int>(std::min(height, kMax));
-    facts.bits = bigEndianAt<uchar>(chunk, 8);
-    facts.colorType = bigEndianAt<uchar>(chunk, 9);
-    facts.interlaced = bigEndianAt<uchar>(chunk, 12) != 0;
-    const bool smallDepth = facts.bits == 1 || facts.bits == 2 || facts.bits == 4;
-    const bool valid = facts.colorType == Gray ? smallDepth || facts.bits == 8 || facts.bits == 16
-                       : facts.colorType == Palette
-                           ? smallDepth || facts.bits == 8
-                           : (facts.colorType == Rgb || facts.hasAlphaChannel()) &&
-                                 (facts.bits == 8 || facts.bits == 16);
+    metadata.header.width = static_cast<int>(std::min(width, kMax));
+    metadata.header.height = static_cast<int>(std::min(height, kMax));
+    metadata.bits = bigEndianAt<uchar>(chunk, 8);
+    metadata.colorType = bigEndianAt<uchar>(chunk, 9);
+    metadata.interlaced = bigEndianAt<uchar>(chunk, 12) != 0;
+    const bool smallDepth = metadata.bits == 1 || metadata.bits == 2 || metadata.bits == 4;
+    const bool valid = metadata.colorType == Gray
+                           ? smallDepth || metadata.bits == 8 || metadata.bits == 16
+                       : metadata.colorType == Palette
+                           ? smallDepth || metadata.bits == 8
+                           : (metadata.colorType == Rgb || metadata.hasAlphaChannel()) &&
+                                 (metadata.bits == 8 || metadata.bits == 16);
     if (!valid) {
         throw Error(u"The PNG file is damaged"_s);
     }
 }
 
-void readDensity(QByteArrayView chunk, PngFacts &facts) {
+void readDensity(QByteArrayView chunk, PngMetadata &metadata) {
     if (bigEndianAt<uchar>(chunk, 8) == 1) {
-        facts.header.horizontalDpi = bigEndianAt<quint32>(chunk, 0) * kMetresPerInch;
-        facts.header.verticalDpi = bigEndianAt<quint32>(chunk, 4) * kMetresPerInch;
+        metadata.header.horizontalDpi = bigEndianAt<quint32>(chunk, 0) * kMetresPerInch;
+        metadata.header.verticalDpi = bigEndianAt<quint32>(chunk, 4) * kMetresPerInch;
     }
 }
 
-void readProfile(QByteArrayView chunk, PngFacts &facts) {
+void readProfile(QByteArrayView chunk, PngMetadata &metadata) {
     constexpr qsizetype kMaxProfileBytes = 1 << 25;
     const qsizetype nameEnd = chunk.indexOf('\0');
     if (nameEnd < 0 || nameEnd + 2 > chunk.size()) {
         return;
     }
     try {
-        facts.iccProfile = inflateUpTo(chunk.sliced(nameEnd + 2), kMaxProfileBytes);
+        metadata.iccProfile = inflateUpTo(chunk.sliced(nameEnd + 2), kMaxProfileBytes);
     } catch (const Error &) {
-        facts.iccProfile.clear(); // The picture is worth more than a profile that cannot be read.
+        metadata.iccProfile
+            .clear(); // The picture is worth more than a profile that cannot be read.
     }
 }
 
 enum class Reading { Header, Pixels };
 
-void readChunk(QByteArrayView type, QByteArrayView chunk, PngFacts &facts) {
+void readChunk(QByteArrayView type, QByteArrayView chunk, PngMetadata &metadata) {
     if (type == "IHDR") {
-        readImageHeaderChunk(chunk, facts);
+        readImageHeaderChunk(chunk, metadata);
     } else if (type == "PLTE") {
-        facts.palette = chunk.toByteArray();
+        metadata.palette = chunk.toByteArray();
     } else if (type == "tRNS") {
-        facts.transparency = chunk.toByteArray();
+        metadata.transparency = chunk.toByteArray();
     } else if (type == "pHYs" && chunk.size() >= 9) {
-        readDensity(chunk, facts);
+        readDensity(chunk, metadata);
     } else if (type == "iCCP") {
-        readProfile(chunk, facts);
+        readProfile(chunk, metadata);
     } else if (type == "eXIf") {
-        facts.header.orientation = readExif(chunk).orientation;
+        metadata.header.orientation = readExif(chunk).orientation;
     }
 }
 
@@ -137,7 +139,7 @@ void requireIntact(QByteArrayView typeAndData, quint32 stated) {
 }
 
 /// Reads the chunk at byte `at` and returns the place of the next.
-qint64 readChunkAt(const FileView &file, qint64 at, Reading reading, PngFacts &facts) {
+qint64 readChunkAt(const FileView &file, qint64 at, Reading reading, PngMetadata &metadata) {
     constexpr qint64 kLead = 8;
     constexpr qint64 kChecksum = 4;
     const QByteArray lead = file.readExactly(at, kLead);
@@ -149,56 +151,57 @@ qint64 readChunkAt(const FileView &file, qint64 at, Reading reading, PngFacts &f
             requireIntact(QByteArrayView(all).chopped(kChecksum),
                           bigEndianAt<quint32>(all, 4 + length));
         }
-        facts.data.push_back({at + kLead, length});
+        metadata.data.push_back({at + kLead, length});
     } else if (isOfUse(type)) {
-        readChunk(type, file.readExactly(at + kLead, length), facts);
+        readChunk(type, file.readExactly(at + kLead, length), metadata);
     }
-    facts.ended = type == "IEND";
+    metadata.ended = type == "IEND";
     return at + kLead + length + kChecksum;
 }
 
-PngFacts readFacts(const FileView &file, Reading reading) {
-    PngFacts facts;
-    facts.header.horizontalDpi = 0;
-    facts.header.verticalDpi = 0;
+PngMetadata readMetadata(const FileView &file, Reading reading) {
+    PngMetadata metadata;
+    metadata.header.horizontalDpi = 0;
+    metadata.header.verticalDpi = 0;
     // Writers put the orientation before the rows or after them, so all chunks are passed.
-    for (qint64 at = kSignatureBytes; !facts.ended;) {
-        at = readChunkAt(file, at, reading, facts);
+    for (qint64 at = kSignatureBytes; !metadata.ended;) {
+        at = readChunkAt(file, at, reading, metadata);
     }
-    if (facts.bits == 0 || facts.data.empty()) {
+    if (metadata.bits == 0 || metadata.data.empty()) {
         throw Error(u"The PNG file holds no picture"_s);
     }
-    if (facts.colorType == Palette && (facts.palette.isEmpty() || facts.palette.size() % 3 != 0 ||
-                                       facts.palette.size() > kMaxPaletteBytes)) {
+    if (metadata.colorType == Palette &&
+        (metadata.palette.isEmpty() || metadata.palette.size() % 3 != 0 ||
+         metadata.palette.size() > kMaxPaletteBytes)) {
         throw Error(u"The PNG file has no palette"_s);
     }
-    return facts;
+    return metadata;
 }
 
 /// The rows as their filters left them, each after its filter's number.
-QByteArray inflateRows(const FileView &file, const PngFacts &facts, qsizetype size) {
+QByteArray inflateRows(const FileView &file, const PngMetadata &metadata, qsizetype size) {
     qint64 total = 0;
-    for (const FileSlice &slice : facts.data) {
+    for (const FileSlice &slice : metadata.data) {
         total += slice.length;
     }
     requirePlausible(size, total, kDeflateRatio);
     QByteArray compressed;
     compressed.reserve(total);
-    for (const FileSlice &slice : facts.data) {
+    for (const FileSlice &slice : metadata.data) {
         compressed += file.readExactly(slice.offset, slice.length);
     }
     return inflateBytes(compressed, size);
 }
 
 /// Colour and opacity of filtered rows, taken apart. PNG's filters work on each channel alone, so
-/// the filtered bytes can be dealt out as they are, and the colour keeps its filters.
-struct DealtRows {
+/// the filtered bytes can be sorted as they are, and the colour keeps its filters.
+struct SplitRows {
     QByteArray color;
     QByteArray alpha;
 };
 
 template<int kColorBytes, int kAlphaBytes>
-void dealRow(const uchar *source, int width, uchar *color, uchar *alpha) {
+void splitRow(const uchar *source, int width, uchar *color, uchar *alpha) {
     *color++ = *source;
     *alpha++ = *source++;
     for (int x = 0; x < width; ++x) {
@@ -211,46 +214,46 @@ void dealRow(const uchar *source, int width, uchar *color, uchar *alpha) {
     }
 }
 
-DealtRows dealRows(const QByteArray &filtered, const PngFacts &facts) {
-    const int width = facts.header.width;
-    const int height = facts.header.height;
-    const qsizetype colorStride = 1 + rowBytes(width, facts.channels() - 1, facts.bits);
-    const qsizetype alphaStride = 1 + rowBytes(width, 1, facts.bits);
-    DealtRows dealt{QByteArray(height * colorStride, Qt::Uninitialized),
+SplitRows splitRows(const QByteArray &filtered, const PngMetadata &metadata) {
+    const int width = metadata.header.width;
+    const int height = metadata.header.height;
+    const qsizetype colorStride = 1 + rowBytes(width, metadata.channels() - 1, metadata.bits);
+    const qsizetype alphaStride = 1 + rowBytes(width, 1, metadata.bits);
+    SplitRows split{QByteArray(height * colorStride, Qt::Uninitialized),
                     QByteArray(height * alphaStride, Qt::Uninitialized)};
-    const auto deal = facts.colorType == RgbAlpha
-                          ? (facts.bits == 8 ? dealRow<3, 1> : dealRow<6, 2>)
-                          : (facts.bits == 8 ? dealRow<1, 1> : dealRow<2, 2>);
+    const auto splitOne = metadata.colorType == RgbAlpha
+                              ? (metadata.bits == 8 ? splitRow<3, 1> : splitRow<6, 2>)
+                              : (metadata.bits == 8 ? splitRow<1, 1> : splitRow<2, 2>);
     const auto *source = reinterpret_cast<const uchar *>(filtered.constData());
-    auto *color = reinterpret_cast<uchar *>(dealt.color.data());
-    auto *alpha = reinterpret_cast<uchar *>(dealt.alpha.data());
+    auto *color = reinterpret_cast<uchar *>(split.color.data());
+    auto *alpha = reinterpret_cast<uchar *>(split.alpha.data());
     for (qsizetype y = 0; y < height; ++y) {
-        deal(source + y * (facts.stride() + 1), width, color + y * colorStride,
-             alpha + y * alphaStride);
+        splitOne(source + y * (metadata.stride() + 1), width, color + y * colorStride,
+                 alpha + y * alphaStride);
     }
-    return dealt;
+    return split;
 }
 
 /// The opacity of each pixel of unfiltered rows by a tRNS chunk: of palette entries, or one colour
 /// that is transparent.
 class TransparencyTable {
   public:
-    explicit TransparencyTable(const PngFacts &facts)
-        : m_facts(facts) {
-        for (qsizetype i = 0; facts.colorType != Palette && i + 2 <= facts.transparency.size();
-             i += 2) {
-            m_key.push_back(bigEndianAt<quint16>(facts.transparency, i));
+    explicit TransparencyTable(const PngMetadata &metadata)
+        : m_metadata(metadata) {
+        for (qsizetype i = 0;
+             metadata.colorType != Palette && i + 2 <= metadata.transparency.size(); i += 2) {
+            m_key.push_back(bigEndianAt<quint16>(metadata.transparency, i));
         }
     }
 
     [[nodiscard]] uchar opacity(const uchar *row, int x) const {
-        if (m_facts.colorType == Palette) {
+        if (m_metadata.colorType == Palette) {
             const int index = sample(row, x);
-            return index < m_facts.transparency.size()
-                       ? static_cast<uchar>(m_facts.transparency.at(index))
+            return index < m_metadata.transparency.size()
+                       ? static_cast<uchar>(m_metadata.transparency.at(index))
                        : uchar(0xFF);
         }
-        const int channels = m_facts.channels();
+        const int channels = m_metadata.channels();
         for (int c = 0; c < channels; ++c) {
             if (c >= int(m_key.size()) || sample(row, x * channels + c) != m_key[size_t(c)]) {
                 return 0xFF;
@@ -261,21 +264,21 @@ class TransparencyTable {
 
   private:
     [[nodiscard]] int sample(const uchar *row, int index) const {
-        return m_facts.bits == 16 ? qFromBigEndian<quint16>(row + 2 * qsizetype(index))
-                                  : packedSample(row, index, m_facts.bits);
+        return m_metadata.bits == 16 ? qFromBigEndian<quint16>(row + 2 * qsizetype(index))
+                                     : packedSample(row, index, m_metadata.bits);
     }
 
-    const PngFacts &m_facts;
+    const PngMetadata &m_metadata;
     std::vector<int> m_key;
 };
 
-AlphaPlane transparencyOf(const QByteArray &rows, const PngFacts &facts) {
-    const int width = facts.header.width;
-    AlphaPlane plane{8, allocateRows(facts.header.height, width)};
-    const TransparencyTable table(facts);
+AlphaPlane transparencyOf(const QByteArray &rows, const PngMetadata &metadata) {
+    const int width = metadata.header.width;
+    AlphaPlane plane{8, allocateRows(metadata.header.height, width)};
+    const TransparencyTable table(metadata);
     auto *target = reinterpret_cast<uchar *>(plane.samples.data());
-    for (int y = 0; y < facts.header.height; ++y) {
-        const auto *row = reinterpret_cast<const uchar *>(rows.constData()) + y * facts.stride();
+    for (int y = 0; y < metadata.header.height; ++y) {
+        const auto *row = reinterpret_cast<const uchar *>(rows.constData()) + y * metadata.stride();
         for (int x = 0; x < width; ++x) {
             *target++ = table.opacity(row, x);
         }
@@ -283,72 +286,73 @@ AlphaPlane transparencyOf(const QByteArray &rows, const PngFacts &facts) {
     return plane;
 }
 
-PdfImage describe(const PngFacts &facts) {
+PdfImage describe(const PngMetadata &metadata) {
     PdfImage image;
-    image.width = facts.header.width;
-    image.height = facts.header.height;
-    image.bitsPerComponent = facts.bits;
-    image.color = facts.color();
-    image.palette = image.color == ImageColor::Indexed ? facts.palette : QByteArray();
-    image.iccProfile = fittingProfile(facts.iccProfile, image.color);
+    image.width = metadata.header.width;
+    image.height = metadata.header.height;
+    image.bitsPerComponent = metadata.bits;
+    image.color = metadata.color();
+    image.palette = image.color == ImageColor::Indexed ? metadata.palette : QByteArray();
+    image.iccProfile = fittingProfile(metadata.iccProfile, image.color);
     image.filter = ImageFilter::Flate;
     image.predictor = 15;
     return image;
 }
 
 /// The file's own compressed rows, with a soft mask where a tRNS chunk makes some transparent.
-PdfImage withOwnRows(const FileView &file, const PngFacts &facts) {
-    PdfImage image = describe(facts);
+PdfImage withOwnRows(const FileView &file, const PngMetadata &metadata) {
+    PdfImage image = describe(metadata);
     image.embeddedAs = EmbeddedAs::OwnBytes;
-    for (const FileSlice &slice : facts.data) {
+    for (const FileSlice &slice : metadata.data) {
         image.slices.push_back({file.offset() + slice.offset, slice.length});
     }
-    if (!facts.transparency.isEmpty()) {
-        const int height = facts.header.height;
+    if (!metadata.transparency.isEmpty()) {
+        const int height = metadata.header.height;
         const QByteArray rows =
-            unfilterRows(inflateRows(file, facts, height * (facts.stride() + 1)), height,
-                         facts.stride(), facts.pixelBytes());
-        image.softMask = encodeAlpha(transparencyOf(rows, facts), image.width, height);
+            unfilterRows(inflateRows(file, metadata, height * (metadata.stride() + 1)), height,
+                         metadata.stride(), metadata.pixelBytes());
+        image.softMask = encodeAlpha(transparencyOf(rows, metadata), image.width, height);
     }
     return image;
 }
 
-PdfImage withDealtRows(const FileView &file, const PngFacts &facts) {
-    PdfImage image = describe(facts);
-    DealtRows dealt =
-        dealRows(inflateRows(file, facts, facts.header.height * (facts.stride() + 1)), facts);
-    auto mask = runAsync(dealt.color.size(), [&] {
-        AlphaPlane plane{facts.bits, {}};
-        plane.samples = unfilterRows(std::move(dealt.alpha), image.height,
-                                     rowBytes(image.width, 1, facts.bits), facts.bits / 8);
+PdfImage withSplitRows(const FileView &file, const PngMetadata &metadata) {
+    PdfImage image = describe(metadata);
+    SplitRows split = splitRows(
+        inflateRows(file, metadata, metadata.header.height * (metadata.stride() + 1)), metadata);
+    auto mask = runAsync(split.color.size(), [&] {
+        AlphaPlane plane{metadata.bits, {}};
+        plane.samples = unfilterRows(std::move(split.alpha), image.height,
+                                     rowBytes(image.width, 1, metadata.bits), metadata.bits / 8);
         return encodeAlpha(plane, image.width, image.height);
     });
-    image.data = deflateBytes(dealt.color);
+    image.data = deflateBytes(split.color);
     image.softMask = mask.get();
     return image;
 }
 
-PdfImage withInterlacedRows(const FileView &file, const PngFacts &facts) {
-    const InterlacedShape shape{facts.header.width, facts.header.height,
-                                facts.channels() * facts.bits};
-    QByteArray rows = straightenInterlaced(inflateRows(file, facts, interlacedBytes(shape)), shape);
+PdfImage withInterlacedRows(const FileView &file, const PngMetadata &metadata) {
+    const InterlacedShape shape{metadata.header.width, metadata.header.height,
+                                metadata.channels() * metadata.bits};
+    QByteArray rows =
+        straightenInterlaced(inflateRows(file, metadata, interlacedBytes(shape)), shape);
     Raster raster;
-    raster.width = facts.header.width;
-    raster.height = facts.header.height;
-    raster.bits = facts.bits;
-    raster.color = facts.color();
-    raster.palette = facts.palette;
-    raster.iccProfile = facts.iccProfile;
-    if (facts.hasAlphaChannel()) {
-        DealtRows dealt = dealRows(rows, facts);
+    raster.width = metadata.header.width;
+    raster.height = metadata.header.height;
+    raster.bits = metadata.bits;
+    raster.color = metadata.color();
+    raster.palette = metadata.palette;
+    raster.iccProfile = metadata.iccProfile;
+    if (metadata.hasAlphaChannel()) {
+        SplitRows split = splitRows(rows, metadata);
         const qsizetype alphaStride = rowBytes(raster.width, 1, raster.bits);
-        raster.samples = unfilterRows(std::move(dealt.color), raster.height, raster.stride(), 1);
+        raster.samples = unfilterRows(std::move(split.color), raster.height, raster.stride(), 1);
         raster.alpha = AlphaPlane{
-            raster.bits, unfilterRows(std::move(dealt.alpha), raster.height, alphaStride, 1)};
+            raster.bits, unfilterRows(std::move(split.alpha), raster.height, alphaStride, 1)};
     } else {
         raster.samples = unfilterRows(std::move(rows), raster.height, raster.stride(), 1);
-        if (!facts.transparency.isEmpty()) {
-            raster.alpha = transparencyOf(raster.samples, facts);
+        if (!metadata.transparency.isEmpty()) {
+            raster.alpha = transparencyOf(raster.samples, metadata);
         }
     }
     return encodeRaster(std::move(raster));
@@ -359,21 +363,21 @@ bool recognises(QByteArrayView head) {
 }
 
 ImageHeader readHeader(const FileView &file) {
-    return readFacts(file, Reading::Header).header;
+    return readMetadata(file, Reading::Header).header;
 }
 
-PdfImage encode(const FileView &file) {
-    const PngFacts facts = readFacts(file, Reading::Pixels);
-    if (facts.interlaced) {
-        return withInterlacedRows(file, facts);
+PdfImage toPdfImage(const FileView &file) {
+    const PngMetadata metadata = readMetadata(file, Reading::Pixels);
+    if (metadata.interlaced) {
+        return withInterlacedRows(file, metadata);
     }
-    return facts.hasAlphaChannel() ? withDealtRows(file, facts) : withOwnRows(file, facts);
+    return metadata.hasAlphaChannel() ? withSplitRows(file, metadata) : withOwnRows(file, metadata);
 }
 
 } // namespace
 
-Decoder pngDecoder() {
-    return {ImageFormat::Png, {QLatin1StringView("png")}, recognises, readHeader, encode};
+ImageFormat pngFormat() {
+    return {ImageKind::Png, {QLatin1StringView("png")}, recognises, readHeader, toPdfImage};
 }
 
 } // namespace folioforge

@@ -1,9 +1,9 @@
-#include "image/formats/Psd.h"
+#include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
 #include "image/Raster.h"
 #include "image/formats/LinearLight.h"
-#include "image/formats/PsdFacts.h"
+#include "image/formats/PsdMetadata.h"
 
 #include <bit>
 #include <cstring>
@@ -17,20 +17,20 @@ namespace {
 /// Reads the rows of the merged image's planes one after the other.
 class PlaneReader {
   public:
-    PlaneReader(const FileView &file, const PsdFacts &facts)
+    PlaneReader(const FileView &file, const PsdMetadata &metadata)
         : m_file(file)
-        , m_facts(facts)
-        , m_rowBytes(rowBytes(facts.header.width, 1, facts.depth))
-        , m_at(facts.pixelsOffset) {
+        , m_metadata(metadata)
+        , m_rowBytes(rowBytes(metadata.header.width, 1, metadata.depth))
+        , m_at(metadata.pixelsOffset) {
         const auto compression = bigEndianAt<quint16>(file.readExactly(m_at, 2), 0);
         m_at += 2;
         if (compression > 1) {
             throw Error(u"The Photoshop file's compression is unknown"_s);
         }
-        const qint64 rows = qint64(facts.channels) * facts.header.height;
+        const qint64 rows = qint64(metadata.channels) * metadata.header.height;
         m_packed = compression == 1;
         if (m_packed) {
-            const int width = facts.isBig ? 4 : 2;
+            const int width = metadata.isBig ? 4 : 2;
             m_counts = file.readExactly(m_at, rows * width);
             m_at += m_counts.size();
         }
@@ -44,8 +44,8 @@ class PlaneReader {
             m_at += m_rowBytes;
             return row;
         }
-        const qint64 length = m_facts.isBig ? qint64(bigEndianAt<quint32>(m_counts, 4 * m_row))
-                                            : qint64(bigEndianAt<quint16>(m_counts, 2 * m_row));
+        const qint64 length = m_metadata.isBig ? qint64(bigEndianAt<quint32>(m_counts, 4 * m_row))
+                                               : qint64(bigEndianAt<quint16>(m_counts, 2 * m_row));
         ++m_row;
         const QByteArray packed = m_file.readExactly(m_at, length);
         m_at += length;
@@ -72,7 +72,7 @@ class PlaneReader {
     }
 
     const FileView &m_file;
-    const PsdFacts &m_facts;
+    const PsdMetadata &m_metadata;
     qsizetype m_rowBytes;
     qint64 m_at;
     qint64 m_row = 0;
@@ -88,15 +88,16 @@ struct PlaneTarget {
     bool isLight; ///< Linear light where the file has 32 bits, not a share such as opacity.
 };
 
-void placeRow(const QByteArray &row, int y, const PsdFacts &facts, const PlaneTarget &target) {
-    const qsizetype width = facts.header.width;
-    const qsizetype bytes = facts.sampleBits() / 8;
+void placeRow(const QByteArray &row, int y, const PsdMetadata &metadata,
+              const PlaneTarget &target) {
+    const qsizetype width = metadata.header.width;
+    const qsizetype bytes = metadata.sampleBits() / 8;
     const qsizetype step = target.channels * bytes;
     auto *out = reinterpret_cast<uchar *>(target.samples->data()) + y * width * step +
                 target.channel * bytes;
     const auto *in = reinterpret_cast<const uchar *>(row.constData());
     for (qsizetype x = 0; x < width; ++x, out += step) {
-        if (facts.depth == 32) {
+        if (metadata.depth == 32) {
             const auto value = std::bit_cast<float>(qFromBigEndian<quint32>(in + 4 * x));
             qToBigEndian(target.isLight ? srgbFromLinear(value) : sampleFromShare(value), out);
         } else {
@@ -105,9 +106,9 @@ void placeRow(const QByteArray &row, int y, const PsdFacts &facts, const PlaneTa
     }
 }
 
-void readPlane(PlaneReader &reader, const PsdFacts &facts, const PlaneTarget &target) {
-    for (int y = 0; y < facts.header.height; ++y) {
-        placeRow(reader.nextRow(), y, facts, target);
+void readPlane(PlaneReader &reader, const PsdMetadata &metadata, const PlaneTarget &target) {
+    for (int y = 0; y < metadata.header.height; ++y) {
+        placeRow(reader.nextRow(), y, metadata, target);
     }
 }
 
@@ -166,10 +167,10 @@ template<typename Sample> void removeWhiteMatte(Raster &raster) {
     }
 }
 
-void readSamples(const FileView &file, const PsdFacts &facts, Raster &raster) {
-    PlaneReader reader(file, facts); // Which refuses a short file before there is memory for it.
+void readSamples(const FileView &file, const PsdMetadata &metadata, Raster &raster) {
+    PlaneReader reader(file, metadata); // Which refuses a short file before there is memory for it.
     raster.samples = allocateRows(raster.height, raster.stride());
-    if (facts.depth == 1) {
+    if (metadata.depth == 1) {
         for (int y = 0; y < raster.height; ++y) {
             raster.samples.replace(y * raster.stride(), raster.stride(), reader.nextRow());
         }
@@ -178,12 +179,12 @@ void readSamples(const FileView &file, const PsdFacts &facts, Raster &raster) {
     const int channels = channelCount(raster.color);
     const bool isLight = raster.color == ImageColor::Gray || raster.color == ImageColor::Rgb;
     for (int c = 0; c < channels; ++c) {
-        readPlane(reader, facts, {&raster.samples, c, channels, isLight});
+        readPlane(reader, metadata, {&raster.samples, c, channels, isLight});
     }
-    if (facts.alpha != PsdAlpha::None) {
+    if (metadata.alpha != PsdAlpha::None) {
         raster.alpha = AlphaPlane{
             raster.bits, allocateRows(raster.height, rowBytes(raster.width, 1, raster.bits))};
-        readPlane(reader, facts, {&raster.alpha->samples, 0, 1, false});
+        readPlane(reader, metadata, {&raster.alpha->samples, 0, 1, false});
     }
 }
 
@@ -202,13 +203,13 @@ QByteArray interleavedPalette(const QByteArray &planes) {
     return palette;
 }
 
-void applyTransparentIndex(const PsdFacts &facts, Raster &raster) {
-    if (facts.transparentIndex < 0) {
+void applyTransparentIndex(const PsdMetadata &metadata, Raster &raster) {
+    if (metadata.transparentIndex < 0) {
         return;
     }
     raster.alpha = AlphaPlane{8, raster.samples};
     for (char &value : raster.alpha->samples) {
-        value = static_cast<uchar>(value) == facts.transparentIndex ? '\0' : '\xFF';
+        value = static_cast<uchar>(value) == metadata.transparentIndex ? '\0' : '\xFF';
     }
 }
 
@@ -217,39 +218,39 @@ bool recognises(QByteArrayView head) {
 }
 
 ImageHeader readHeader(const FileView &file) {
-    return readPsdFacts(file).header;
+    return readPsdMetadata(file).header;
 }
 
-PdfImage encode(const FileView &file) {
-    const PsdFacts facts = readPsdFacts(file);
+PdfImage toPdfImage(const FileView &file) {
+    const PsdMetadata metadata = readPsdMetadata(file);
     Raster raster;
-    raster.width = facts.header.width;
-    raster.height = facts.header.height;
-    raster.bits = facts.sampleBits();
-    raster.color = facts.color;
-    if (facts.depth != 32) {
-        raster.iccProfile = facts.iccProfile; // Linear light becomes sRGB above.
+    raster.width = metadata.header.width;
+    raster.height = metadata.header.height;
+    raster.bits = metadata.sampleBits();
+    raster.color = metadata.color;
+    if (metadata.depth != 32) {
+        raster.iccProfile = metadata.iccProfile; // Linear light becomes sRGB above.
     }
-    if (facts.color == ImageColor::Cmyk) {
+    if (metadata.color == ImageColor::Cmyk) {
         raster.decode = {1, 0, 1, 0, 1, 0, 1, 0}; // Full ink is stored as 0.
-    } else if (facts.depth == 1) {
+    } else if (metadata.depth == 1) {
         raster.decode = {1, 0}; // 1 is black.
-    } else if (facts.color == ImageColor::Indexed) {
-        raster.palette = interleavedPalette(facts.colorModeData);
+    } else if (metadata.color == ImageColor::Indexed) {
+        raster.palette = interleavedPalette(metadata.colorModeData);
     }
-    readSamples(file, facts, raster);
-    if (facts.alpha == PsdAlpha::OnWhite && facts.color != ImageColor::Cmyk &&
-        facts.color != ImageColor::Lab) {
+    readSamples(file, metadata, raster);
+    if (metadata.alpha == PsdAlpha::OnWhite && metadata.color != ImageColor::Cmyk &&
+        metadata.color != ImageColor::Lab) {
         raster.bits == 16 ? removeWhiteMatte<quint16>(raster) : removeWhiteMatte<uchar>(raster);
     }
-    applyTransparentIndex(facts, raster);
+    applyTransparentIndex(metadata, raster);
     return encodeRaster(std::move(raster));
 }
 
 } // namespace
 
-Decoder psdDecoder() {
-    return {ImageFormat::Psd, {QLatin1StringView("psd")}, recognises, readHeader, encode};
+ImageFormat psdFormat() {
+    return {ImageKind::Psd, {QLatin1StringView("psd")}, recognises, readHeader, toPdfImage};
 }
 
 } // namespace folioforge

@@ -1,4 +1,4 @@
-#include "image/formats/Tga.h"
+#include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
 #include "image/Raster.h"
@@ -18,7 +18,7 @@ constexpr int kRightToLeft = 0x10;
 constexpr int kTopToBottom = 0x20;
 
 /// The header (Truevision TGA 2.0, field numbers 1 to 5).
-struct TgaFacts {
+struct TgaHeader {
     int width = 0;
     int height = 0;
     int type = 0; ///< Without the run-length bit.
@@ -40,36 +40,35 @@ bool isColorDepth(int bits) {
     return bits == 15 || bits == 16 || bits == 24 || bits == 32;
 }
 
-void requireKnown(const TgaFacts &facts) {
-    const bool known =
-        facts.type == Mapped ? (facts.pixelBits == 8 || facts.pixelBits == 16) &&
-                                   isColorDepth(facts.mapEntryBits) && facts.mapLength > 0
-        : facts.type == TrueColor
-            ? isColorDepth(facts.pixelBits)
-            : facts.type == BlackAndWhite && (facts.pixelBits == 8 || facts.pixelBits == 16);
-    if (!known || facts.width == 0 || facts.height == 0) {
+void requireKnown(const TgaHeader &tga) {
+    const bool known = tga.type == Mapped ? (tga.pixelBits == 8 || tga.pixelBits == 16) &&
+                                                isColorDepth(tga.mapEntryBits) && tga.mapLength > 0
+                       : tga.type == TrueColor ? isColorDepth(tga.pixelBits)
+                                               : tga.type == BlackAndWhite &&
+                                                     (tga.pixelBits == 8 || tga.pixelBits == 16);
+    if (!known || tga.width == 0 || tga.height == 0) {
         throw Error(u"The file is no TGA image that can be read"_s);
     }
 }
 
-TgaFacts readFacts(const FileView &file) {
+TgaHeader readTgaHeader(const FileView &file) {
     const QByteArray head = file.readExactly(0, kHeaderBytes);
-    TgaFacts facts;
+    TgaHeader tga;
     const auto byteAt = [&](int at) { return int(bigEndianAt<uchar>(head, at)); };
-    facts.type = byteAt(2) & ~RunLength;
-    facts.runLength = (byteAt(2) & RunLength) != 0;
-    facts.mapFirst = littleEndianAt<quint16>(head, 3);
-    facts.mapLength = byteAt(1) == 1 ? littleEndianAt<quint16>(head, 5) : 0;
-    facts.mapEntryBits = byteAt(7);
-    facts.width = littleEndianAt<quint16>(head, 12);
-    facts.height = littleEndianAt<quint16>(head, 14);
-    facts.pixelBits = byteAt(16);
-    facts.descriptor = byteAt(17);
-    facts.alphaBits = facts.descriptor & 0x0F;
-    facts.mapOffset = kHeaderBytes + byteAt(0);
-    facts.dataOffset = facts.mapOffset + qint64(facts.mapLength) * facts.mapEntryBytes();
-    requireKnown(facts);
-    return facts;
+    tga.type = byteAt(2) & ~RunLength;
+    tga.runLength = (byteAt(2) & RunLength) != 0;
+    tga.mapFirst = littleEndianAt<quint16>(head, 3);
+    tga.mapLength = byteAt(1) == 1 ? littleEndianAt<quint16>(head, 5) : 0;
+    tga.mapEntryBits = byteAt(7);
+    tga.width = littleEndianAt<quint16>(head, 12);
+    tga.height = littleEndianAt<quint16>(head, 14);
+    tga.pixelBits = byteAt(16);
+    tga.descriptor = byteAt(17);
+    tga.alphaBits = tga.descriptor & 0x0F;
+    tga.mapOffset = kHeaderBytes + byteAt(0);
+    tga.dataOffset = tga.mapOffset + qint64(tga.mapLength) * tga.mapEntryBytes();
+    requireKnown(tga);
+    return tga;
 }
 
 /// Run-length packets: a count byte, high bit for one pixel repeated. A packet may run over the end
@@ -96,14 +95,14 @@ QByteArray expandRuns(QByteArrayView packed, qsizetype size, int pixelBytes) {
     return out;
 }
 
-QByteArray readPixels(const FileView &file, const TgaFacts &facts) {
-    const qint64 size = qint64(facts.width) * facts.height * facts.pixelBytes();
-    if (!facts.runLength) {
-        return file.readExactly(facts.dataOffset, size);
+QByteArray readPixels(const FileView &file, const TgaHeader &tga) {
+    const qint64 size = qint64(tga.width) * tga.height * tga.pixelBytes();
+    if (!tga.runLength) {
+        return file.readExactly(tga.dataOffset, size);
     }
     // 128 pixels of a run take one byte and a pixel.
     requirePlausible(size, file.size(), 128);
-    return expandRuns(file.read(facts.dataOffset, file.size()), size, facts.pixelBytes());
+    return expandRuns(file.read(tga.dataOffset, file.size()), size, tga.pixelBytes());
 }
 
 using Rgba = std::array<uchar, 4>;
@@ -121,37 +120,37 @@ Rgba colorAt(const uchar *bytes, int bits, int alphaBits) {
             bits == 32 && alphaBits > 0 ? bytes[3] : static_cast<uchar>(0xFF)};
 }
 
-std::vector<Rgba> readColorMap(const FileView &file, const TgaFacts &facts) {
-    const int step = facts.mapEntryBytes();
-    const QByteArray bytes = file.readExactly(facts.mapOffset, qint64(facts.mapLength) * step);
+std::vector<Rgba> readColorMap(const FileView &file, const TgaHeader &tga) {
+    const int step = tga.mapEntryBytes();
+    const QByteArray bytes = file.readExactly(tga.mapOffset, qint64(tga.mapLength) * step);
     const auto *entry = reinterpret_cast<const uchar *>(bytes.constData());
-    std::vector<Rgba> map(static_cast<size_t>(facts.mapLength));
+    std::vector<Rgba> map(static_cast<size_t>(tga.mapLength));
     for (Rgba &color : map) {
-        color = colorAt(entry, facts.mapEntryBits, facts.alphaBits);
+        color = colorAt(entry, tga.mapEntryBits, tga.alphaBits);
         entry += step;
     }
     return map;
 }
 
 /// Where the file's pixel number `index` stands in rows from the top, left to right.
-qint64 placeOf(qint64 index, const TgaFacts &facts) {
-    qint64 y = index / facts.width;
-    qint64 x = index % facts.width;
-    if ((facts.descriptor & kTopToBottom) == 0) {
-        y = facts.height - 1 - y;
+qint64 placeOf(qint64 index, const TgaHeader &tga) {
+    qint64 y = index / tga.width;
+    qint64 x = index % tga.width;
+    if ((tga.descriptor & kTopToBottom) == 0) {
+        y = tga.height - 1 - y;
     }
-    if ((facts.descriptor & kRightToLeft) != 0) {
-        x = facts.width - 1 - x;
+    if ((tga.descriptor & kRightToLeft) != 0) {
+        x = tga.width - 1 - x;
     }
-    return y * facts.width + x;
+    return y * tga.width + x;
 }
 
-void fillGray(Raster &raster, const QByteArray &pixels, const TgaFacts &facts) {
-    const int step = facts.pixelBytes();
+void fillGray(Raster &raster, const QByteArray &pixels, const TgaHeader &tga) {
+    const int step = tga.pixelBytes();
     auto *gray = reinterpret_cast<uchar *>(raster.samples.data());
     char *alpha = raster.alpha ? raster.alpha->samples.data() : nullptr;
-    for (qint64 i = 0; i < qint64(facts.width) * facts.height; ++i) {
-        const qint64 place = placeOf(i, facts);
+    for (qint64 i = 0; i < qint64(tga.width) * tga.height; ++i) {
+        const qint64 place = placeOf(i, tga);
         gray[place] = static_cast<uchar>(pixels.at(i * step));
         if (alpha != nullptr) {
             alpha[place] = pixels.at(i * step + 1);
@@ -159,24 +158,23 @@ void fillGray(Raster &raster, const QByteArray &pixels, const TgaFacts &facts) {
     }
 }
 
-void fillColor(Raster &raster, const QByteArray &pixels, const TgaFacts &facts,
+void fillColor(Raster &raster, const QByteArray &pixels, const TgaHeader &tga,
                const std::vector<Rgba> &map) {
-    const int step = facts.pixelBytes();
+    const int step = tga.pixelBytes();
     const auto *source = reinterpret_cast<const uchar *>(pixels.constData());
     auto *color = reinterpret_cast<uchar *>(raster.samples.data());
     auto *alpha = reinterpret_cast<uchar *>(raster.alpha->samples.data());
-    for (qint64 i = 0; i < qint64(facts.width) * facts.height; ++i, source += step) {
+    for (qint64 i = 0; i < qint64(tga.width) * tga.height; ++i, source += step) {
         Rgba rgba = {0, 0, 0, 0xFF};
-        if (facts.type == Mapped) {
-            const int index =
-                (step == 1 ? source[0] : source[0] | (source[1] << 8)) - facts.mapFirst;
+        if (tga.type == Mapped) {
+            const int index = (step == 1 ? source[0] : source[0] | (source[1] << 8)) - tga.mapFirst;
             if (index >= 0 && index < int(map.size())) {
                 rgba = map[static_cast<size_t>(index)];
             }
         } else {
-            rgba = colorAt(source, facts.pixelBits, facts.alphaBits);
+            rgba = colorAt(source, tga.pixelBits, tga.alphaBits);
         }
-        const qint64 place = placeOf(i, facts);
+        const qint64 place = placeOf(i, tga);
         std::copy_n(rgba.begin(), 3, color + place * 3);
         alpha[place] = rgba[3];
     }
@@ -191,29 +189,29 @@ void dropEmptyAlpha(Raster &raster) {
 }
 
 ImageHeader readHeader(const FileView &file) {
-    const TgaFacts facts = readFacts(file);
+    const TgaHeader tga = readTgaHeader(file);
     ImageHeader header;
-    header.width = facts.width;
-    header.height = facts.height;
+    header.width = tga.width;
+    header.height = tga.height;
     return header; // The format has no density.
 }
 
-PdfImage encode(const FileView &file) {
-    const TgaFacts facts = readFacts(file);
-    const QByteArray pixels = readPixels(file, facts);
+PdfImage toPdfImage(const FileView &file) {
+    const TgaHeader tga = readTgaHeader(file);
+    const QByteArray pixels = readPixels(file, tga);
     Raster raster;
-    raster.width = facts.width;
-    raster.height = facts.height;
-    raster.color = facts.type == BlackAndWhite ? ImageColor::Gray : ImageColor::Rgb;
+    raster.width = tga.width;
+    raster.height = tga.height;
+    raster.color = tga.type == BlackAndWhite ? ImageColor::Gray : ImageColor::Rgb;
     raster.samples = allocateRows(raster.height, raster.stride());
-    if (facts.type != BlackAndWhite || facts.pixelBits == 16) {
+    if (tga.type != BlackAndWhite || tga.pixelBits == 16) {
         raster.alpha = AlphaPlane{8, allocateRows(raster.height, raster.width)};
     }
-    if (facts.type == BlackAndWhite) {
-        fillGray(raster, pixels, facts);
+    if (tga.type == BlackAndWhite) {
+        fillGray(raster, pixels, tga);
     } else {
-        fillColor(raster, pixels, facts,
-                  facts.type == Mapped ? readColorMap(file, facts) : std::vector<Rgba>());
+        fillColor(raster, pixels, tga,
+                  tga.type == Mapped ? readColorMap(file, tga) : std::vector<Rgba>());
     }
     dropEmptyAlpha(raster);
     return encodeRaster(std::move(raster));
@@ -221,9 +219,9 @@ PdfImage encode(const FileView &file) {
 
 } // namespace
 
-Decoder tgaDecoder() {
+ImageFormat tgaFormat() {
     // The signature of version 2 stands at the end of the file, and version 1 has none.
-    return {ImageFormat::Tga, {QLatin1StringView("tga")}, nullptr, readHeader, encode};
+    return {ImageKind::Tga, {QLatin1StringView("tga")}, nullptr, readHeader, toPdfImage};
 }
 
 } // namespace folioforge

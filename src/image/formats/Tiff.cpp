@@ -1,4 +1,4 @@
-#include "image/formats/Tiff.h"
+#include "image/formats/Formats.h"
 
 #include "image/formats/TiffFile.h"
 #include "image/formats/TiffPixels.h"
@@ -82,7 +82,7 @@ PdfImage encodeGroup4(const FileView &file, const TiffFile &tiff, const TiffShap
     return image;
 }
 
-PdfImage encode(const FileView &file) {
+PdfImage toPdfImage(const FileView &file) {
     const TiffFile tiff(file);
     const TiffShape shape = readTiffShape(tiff);
     if (isPlainGroup4(tiff, shape)) {
@@ -93,12 +93,12 @@ PdfImage encode(const FileView &file) {
 
 } // namespace
 
-Decoder tiffDecoder() {
-    return {ImageFormat::Tiff,
+ImageFormat tiffFormat() {
+    return {ImageKind::Tiff,
             {QLatin1StringView("tif"), QLatin1StringView("tiff")},
             recognises,
             readHeader,
-            encode};
+            toPdfImage};
 }
 
 } // namespace folioforge

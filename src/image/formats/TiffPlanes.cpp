@@ -10,7 +10,7 @@ namespace folioforge {
 namespace {
 
 /// The most that a compression can shrink anything.
-qint64 greatestRatio(int compression) {
+qint64 maxRatio(int compression) {
     switch (compression) {
     case COMPRESSION_NONE:
         return 1;
@@ -101,7 +101,7 @@ void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw)
         const auto bytes = TIFFGetStrileByteCount(tiff.handle(), i);
         compressed += static_cast<qint64>(std::min<quint64>(bytes, static_cast<quint64>(most)));
     }
-    requirePlausible(raw, compressed, greatestRatio(shape.compression));
+    requirePlausible(raw, compressed, maxRatio(shape.compression));
 }
 
 std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape) {

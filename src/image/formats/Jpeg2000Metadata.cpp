@@ -1,4 +1,4 @@
-#include "image/formats/Jpeg2000Facts.h"
+#include "image/formats/Jpeg2000Metadata.h"
 
 #include "image/Bytes.h"
 #include "image/Exif.h"
@@ -43,28 +43,28 @@ Box boxAt(const FileView &file, qint64 at) {
             at + length};
 }
 
-void readImageHeaderBox(const FileView &content, Jpeg2000Facts &facts) {
+void readImageHeaderBox(const FileView &content, Jpeg2000Metadata &metadata) {
     const QByteArray bytes = content.readExactly(0, 14);
-    facts.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 0), kMaxPixels));
-    facts.header.width = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 4), kMaxPixels));
-    facts.components = bigEndianAt<quint16>(bytes, 8);
-    facts.bitsField = bigEndianAt<uchar>(bytes, 10);
+    metadata.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 0), kMaxPixels));
+    metadata.header.width = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 4), kMaxPixels));
+    metadata.components = bigEndianAt<quint16>(bytes, 8);
+    metadata.bitsField = bigEndianAt<uchar>(bytes, 10);
 }
 
-void readColorBox(const FileView &content, Jpeg2000Facts &facts) {
+void readColorBox(const FileView &content, Jpeg2000Metadata &metadata) {
     const QByteArray bytes = content.readExactly(0, content.size());
     const auto method = bigEndianAt<uchar>(bytes, 0);
-    if (method == 1 && facts.enumeratedColor == 0) {
+    if (method == 1 && metadata.enumeratedColor == 0) {
         constexpr quint32 kYcc = 18;
         const auto color = bigEndianAt<quint32>(bytes, 3);
-        facts.enumeratedColor = static_cast<int>(std::min(color, kMaxPixels));
-        facts.isYcc = color == kYcc;
+        metadata.enumeratedColor = static_cast<int>(std::min(color, kMaxPixels));
+        metadata.isYcc = color == kYcc;
     } else if (method == 2 || method == 3) {
-        facts.iccProfile = bytes.mid(3);
+        metadata.iccProfile = bytes.mid(3);
     }
 }
 
-void readChannelBox(const FileView &content, Jpeg2000Facts &facts) {
+void readChannelBox(const FileView &content, Jpeg2000Metadata &metadata) {
     const QByteArray bytes = content.readExactly(0, content.size());
     const int count = bigEndianAt<quint16>(bytes, 0);
     int colors = 0;
@@ -72,18 +72,18 @@ void readChannelBox(const FileView &content, Jpeg2000Facts &facts) {
         const auto type = bigEndianAt<quint16>(bytes, 2 + 6 * i + 2);
         const auto color = bigEndianAt<quint16>(bytes, 2 + 6 * i + 4);
         colors += type == 0 && color > 0 && color < count ? 1 : 0;
-        if ((type == 1 || type == 2) && facts.alphaChannel < 0) {
-            facts.alphaChannel = bigEndianAt<quint16>(bytes, 2 + 6 * i);
-            facts.isPremultiplied = type == 2;
+        if ((type == 1 || type == 2) && metadata.alphaChannel < 0) {
+            metadata.alphaChannel = bigEndianAt<quint16>(bytes, 2 + 6 * i);
+            metadata.isPremultiplied = type == 2;
         }
     }
-    if (facts.alphaChannel >= 0 && colors == count - 1) {
-        facts.alphaChannel = colors; // The decoder brings the colours to the front.
+    if (metadata.alphaChannel >= 0 && colors == count - 1) {
+        metadata.alphaChannel = colors; // The decoder brings the colours to the front.
     }
 }
 
 /// A resolution box: numerators, denominators and powers of ten of pixels a metre.
-void readResolutionBox(const FileView &content, Jpeg2000Facts &facts) {
+void readResolutionBox(const FileView &content, Jpeg2000Metadata &metadata) {
     const QByteArray bytes = content.readExactly(0, 10);
     const auto dpi = [&](int fraction, int exponent) {
         const auto denominator = bigEndianAt<quint16>(bytes, fraction + 2);
@@ -92,51 +92,51 @@ void readResolutionBox(const FileView &content, Jpeg2000Facts &facts) {
                    : bigEndianAt<quint16>(bytes, fraction) / double(denominator) *
                          std::pow(10.0, bigEndianAt<qint8>(bytes, exponent)) * kMetresPerInch;
     };
-    facts.header.verticalDpi = dpi(0, 8);
-    facts.header.horizontalDpi = dpi(4, 9);
+    metadata.header.verticalDpi = dpi(0, 8);
+    metadata.header.horizontalDpi = dpi(4, 9);
 }
 
-void readExifBox(const FileView &content, Jpeg2000Facts &facts) {
+void readExifBox(const FileView &content, Jpeg2000Metadata &metadata) {
     constexpr qint64 kMaxExifBytes = 1 << 20;
     if (content.read(0, 16) == "JpgTiffExif->JP2") {
-        facts.header.orientation = readExif(content.read(16, kMaxExifBytes)).orientation;
+        metadata.header.orientation = readExif(content.read(16, kMaxExifBytes)).orientation;
     }
 }
 
-void readBoxes(const FileView &file, int depth, Jpeg2000Facts &facts);
+void readBoxes(const FileView &file, int depth, Jpeg2000Metadata &metadata);
 
-void readBox(const Box &box, int depth, Jpeg2000Facts &facts) {
+void readBox(const Box &box, int depth, Jpeg2000Metadata &metadata) {
     if (box.type == "jp2h" || box.type == "res ") {
-        readBoxes(box.content, depth + 1, facts);
+        readBoxes(box.content, depth + 1, metadata);
     } else if (box.type == "ihdr") {
-        readImageHeaderBox(box.content, facts);
+        readImageHeaderBox(box.content, metadata);
     } else if (box.type == "colr") {
-        readColorBox(box.content, facts);
+        readColorBox(box.content, metadata);
     } else if (box.type == "cdef") {
-        readChannelBox(box.content, facts);
+        readChannelBox(box.content, metadata);
     } else if (box.type == "pclr") {
-        facts.hasPalette = true;
-    } else if (box.type == "resd" || (box.type == "resc" && facts.header.horizontalDpi == 0)) {
-        readResolutionBox(box.content, facts); // How it is meant to be shown counts more.
+        metadata.hasPalette = true;
+    } else if (box.type == "resd" || (box.type == "resc" && metadata.header.horizontalDpi == 0)) {
+        readResolutionBox(box.content, metadata); // How it is meant to be shown counts more.
     } else if (box.type == "uuid") {
-        readExifBox(box.content, facts);
+        readExifBox(box.content, metadata);
     }
 }
 
-void readBoxes(const FileView &file, int depth, Jpeg2000Facts &facts) {
+void readBoxes(const FileView &file, int depth, Jpeg2000Metadata &metadata) {
     constexpr int kMaxDepth = 2; // Boxes in boxes without end would exhaust the stack.
     if (depth > kMaxDepth) {
         return;
     }
     for (qint64 at = 0; at + 8 <= file.size();) {
         const Box box = boxAt(file, at);
-        readBox(box, depth, facts);
+        readBox(box, depth, metadata);
         at = box.next;
     }
 }
 
 /// The size marker, which is the first after the start of a codestream.
-void readSizeMarker(const FileView &file, Jpeg2000Facts &facts) {
+void readSizeMarker(const FileView &file, Jpeg2000Metadata &metadata) {
     constexpr qint64 kMarkerBytes = 42;
     const QByteArray bytes = file.readExactly(0, kMarkerBytes + 1);
     const auto extent = [&](int end, int start) {
@@ -144,41 +144,41 @@ void readSizeMarker(const FileView &file, Jpeg2000Facts &facts) {
             qint64(bigEndianAt<quint32>(bytes, end)) - qint64(bigEndianAt<quint32>(bytes, start));
         return static_cast<int>(std::clamp<qint64>(size, 0, kMaxPixels));
     };
-    facts.isCodestream = true;
-    facts.header.width = extent(8, 16);
-    facts.header.height = extent(12, 20);
-    facts.components = bigEndianAt<quint16>(bytes, 40);
-    facts.bitsField = bigEndianAt<uchar>(bytes, 42);
-    if (facts.components == 2 || facts.components == 4) {
-        facts.alphaChannel = facts.components - 1;
+    metadata.isCodestream = true;
+    metadata.header.width = extent(8, 16);
+    metadata.header.height = extent(12, 20);
+    metadata.components = bigEndianAt<quint16>(bytes, 40);
+    metadata.bitsField = bigEndianAt<uchar>(bytes, 42);
+    if (metadata.components == 2 || metadata.components == 4) {
+        metadata.alphaChannel = metadata.components - 1;
     }
 }
 
 } // namespace
 
-int Jpeg2000Facts::mostColors() const {
+int Jpeg2000Metadata::maxColors() const {
     constexpr int kCmyk = 12;
     const bool hasInkProfile = !fittingProfile(iccProfile, ImageColor::Cmyk).isEmpty();
     return enumeratedColor == kCmyk || (enumeratedColor == 0 && hasInkProfile) ? 4 : 3;
 }
 
-bool Jpeg2000Facts::needsDecoding() const {
-    return alphaChannel >= 0 || components == 2 || components > mostColors();
+bool Jpeg2000Metadata::needsDecoding() const {
+    return alphaChannel >= 0 || components == 2 || components > maxColors();
 }
 
-Jpeg2000Facts readJpeg2000Facts(const FileView &file) {
-    Jpeg2000Facts facts;
-    facts.header.horizontalDpi = 0;
-    facts.header.verticalDpi = 0;
+Jpeg2000Metadata readJpeg2000Metadata(const FileView &file) {
+    Jpeg2000Metadata metadata;
+    metadata.header.horizontalDpi = 0;
+    metadata.header.verticalDpi = 0;
     if (file.read(0, 2) == "\xFF\x4F") {
-        readSizeMarker(file, facts);
+        readSizeMarker(file, metadata);
     } else {
-        readBoxes(file, 0, facts);
+        readBoxes(file, 0, metadata);
     }
-    if (facts.components == 0) {
+    if (metadata.components == 0) {
         throw Error(u"The JPEG 2000 file holds no picture"_s);
     }
-    return facts;
+    return metadata;
 }
 
 } // namespace folioforge

@@ -8,7 +8,7 @@
 namespace folioforge {
 
 /// What a JPEG 2000 file says before its codestream (ITU-T T.800, annexes A and I).
-struct Jpeg2000Facts {
+struct Jpeg2000Metadata {
     ImageHeader header;
     bool isCodestream = false; ///< No JP2 boxes around the codestream.
     int components = 0;
@@ -22,12 +22,12 @@ struct Jpeg2000Facts {
     QByteArray iccProfile;
 
     /// How many channels of colour there can be: four where there are inks, else three.
-    [[nodiscard]] int mostColors() const;
+    [[nodiscard]] int maxColors() const;
     /// Whether a PDF cannot show the file as it is, because of a channel that is no colour.
     [[nodiscard]] bool needsDecoding() const;
 };
 
 /// Reads the boxes, or the size marker of a bare codestream. Throws Error.
-Jpeg2000Facts readJpeg2000Facts(const FileView &file);
+Jpeg2000Metadata readJpeg2000Metadata(const FileView &file);
 
 } // namespace folioforge

@@ -15,7 +15,7 @@ enum class PsdAlpha {
 };
 
 /// What a Photoshop document says before its pixels (Adobe Photoshop File Formats Specification).
-struct PsdFacts {
+struct PsdMetadata {
     ImageHeader header;
     bool isBig = false; ///< A PSB file: some lengths take twice the bytes.
     int channels = 0;
@@ -33,6 +33,6 @@ struct PsdFacts {
 
 /// Reads everything before the pixels. Throws Error when the file is damaged or of a colour mode
 /// that has no picture.
-PsdFacts readPsdFacts(const FileView &file);
+PsdMetadata readPsdMetadata(const FileView &file);
 
 } // namespace folioforge

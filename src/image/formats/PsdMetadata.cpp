@@ -1,4 +1,4 @@
-#include "image/formats/PsdFacts.h"
+#include "image/formats/PsdMetadata.h"
 
 #include "image/Bytes.h"
 #include "image/Raster.h"
@@ -50,42 +50,42 @@ ImageColor colorOf(quint16 mode) {
     }
 }
 
-void readFileHeader(QByteArrayView head, PsdFacts &facts) {
+void readFileHeader(QByteArrayView head, PsdMetadata &metadata) {
     constexpr quint32 kMax = 0x7FFFFFFF;
-    facts.isBig = bigEndianAt<quint16>(head, 4) == 2;
-    facts.channels = bigEndianAt<quint16>(head, 12);
-    facts.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(head, 14), kMax));
-    facts.header.width = static_cast<int>(std::min(bigEndianAt<quint32>(head, 18), kMax));
-    facts.depth = bigEndianAt<quint16>(head, 22);
+    metadata.isBig = bigEndianAt<quint16>(head, 4) == 2;
+    metadata.channels = bigEndianAt<quint16>(head, 12);
+    metadata.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(head, 14), kMax));
+    metadata.header.width = static_cast<int>(std::min(bigEndianAt<quint32>(head, 18), kMax));
+    metadata.depth = bigEndianAt<quint16>(head, 22);
     const auto mode = bigEndianAt<quint16>(head, 24);
-    facts.color = colorOf(mode);
-    const bool knownDepth = mode == BitmapMode ? facts.depth == 1
-                            : mode == IndexedMode
-                                ? facts.depth == 8
-                                : facts.depth == 8 || facts.depth == 16 || facts.depth == 32;
+    metadata.color = colorOf(mode);
+    const bool knownDepth =
+        mode == BitmapMode    ? metadata.depth == 1
+        : mode == IndexedMode ? metadata.depth == 8
+                              : metadata.depth == 8 || metadata.depth == 16 || metadata.depth == 32;
     constexpr int kMaxChannels = 56;
-    if (!knownDepth || facts.channels < channelCount(facts.color) ||
-        facts.channels > kMaxChannels) {
+    if (!knownDepth || metadata.channels < channelCount(metadata.color) ||
+        metadata.channels > kMaxChannels) {
         throw Error(u"The Photoshop file is damaged"_s);
     }
 }
 
-void readResource(quint16 id, QByteArrayView data, PsdFacts &facts, bool &namesChannels) {
+void readResource(quint16 id, QByteArrayView data, PsdMetadata &metadata, bool &namesChannels) {
     constexpr double kFixedOne = 65536; // 16.16 fixed point, always per inch.
     if (id == ResolutionInfo && data.size() >= 16) {
-        facts.header.horizontalDpi = bigEndianAt<quint32>(data, 0) / kFixedOne;
-        facts.header.verticalDpi = bigEndianAt<quint32>(data, 8) / kFixedOne;
+        metadata.header.horizontalDpi = bigEndianAt<quint32>(data, 0) / kFixedOne;
+        metadata.header.verticalDpi = bigEndianAt<quint32>(data, 8) / kFixedOne;
     } else if (id == IccProfile) {
-        facts.iccProfile = data.toByteArray();
+        metadata.iccProfile = data.toByteArray();
     } else if (id == TransparentIndex && data.size() >= 2) {
-        facts.transparentIndex = bigEndianAt<quint16>(data, 0);
+        metadata.transparentIndex = bigEndianAt<quint16>(data, 0);
     } else if (id == AlphaNames || id == UnicodeAlphaNames) {
         namesChannels = namesChannels || !data.isEmpty();
     }
 }
 
 /// Whether the resources name channels of their own, which then are no opacity.
-bool readResources(QByteArrayView resources, PsdFacts &facts) {
+bool readResources(QByteArrayView resources, PsdMetadata &metadata) {
     bool namesChannels = false;
     const auto even = [](qsizetype length) { return length + length % 2; };
     constexpr qsizetype kMinBytes = 12;
@@ -100,7 +100,7 @@ bool readResources(QByteArrayView resources, PsdFacts &facts) {
         if (length > resources.size() - at) {
             break;
         }
-        readResource(id, resources.sliced(at, length), facts, namesChannels);
+        readResource(id, resources.sliced(at, length), metadata, namesChannels);
         at += even(length);
     }
     return namesChannels;
@@ -108,13 +108,13 @@ bool readResources(QByteArrayView resources, PsdFacts &facts) {
 
 /// Opacity is the first channel after the colours where the number of layers is negative, or where
 /// a file without layers names no such channel.
-PsdAlpha alphaOf(const FileView &file, qint64 layers, qint64 layersLength, const PsdFacts &facts,
-                 bool namesChannels) {
-    if (facts.channels <= channelCount(facts.color) || facts.depth == 1 ||
-        facts.color == ImageColor::Indexed) {
+PsdAlpha alphaOf(const FileView &file, qint64 layers, qint64 layersLength,
+                 const PsdMetadata &metadata, bool namesChannels) {
+    if (metadata.channels <= channelCount(metadata.color) || metadata.depth == 1 ||
+        metadata.color == ImageColor::Indexed) {
         return PsdAlpha::None;
     }
-    const int lengthBytes = facts.isBig ? 8 : 4;
+    const int lengthBytes = metadata.isBig ? 8 : 4;
     const QByteArray info = file.read(layers, lengthBytes + 2);
     if (layersLength >= lengthBytes + 2 && info.size() == lengthBytes + 2 &&
         info.first(lengthBytes).count('\0') < lengthBytes) {
@@ -126,11 +126,11 @@ PsdAlpha alphaOf(const FileView &file, qint64 layers, qint64 layersLength, const
 
 } // namespace
 
-PsdFacts readPsdFacts(const FileView &file) {
-    PsdFacts facts;
-    facts.header.horizontalDpi = 0;
-    facts.header.verticalDpi = 0;
-    readFileHeader(file.readExactly(0, kHeaderBytes), facts);
+PsdMetadata readPsdMetadata(const FileView &file) {
+    PsdMetadata metadata;
+    metadata.header.horizontalDpi = 0;
+    metadata.header.verticalDpi = 0;
+    readFileHeader(file.readExactly(0, kHeaderBytes), metadata);
     qint64 at = kHeaderBytes;
     const auto nextSection = [&] {
         const QByteArray length = file.readExactly(at, 4);
@@ -139,15 +139,16 @@ PsdFacts readPsdFacts(const FileView &file) {
         at += section.size();
         return section.read(0, section.size());
     };
-    facts.colorModeData = nextSection();
-    const bool namesChannels = readResources(nextSection(), facts);
-    const QByteArray length = file.readExactly(at, facts.isBig ? 8 : 4);
+    metadata.colorModeData = nextSection();
+    const bool namesChannels = readResources(nextSection(), metadata);
+    const QByteArray length = file.readExactly(at, metadata.isBig ? 8 : 4);
     at += length.size();
-    const qint64 layersLength = facts.isBig ? static_cast<qint64>(bigEndianAt<quint64>(length, 0))
-                                            : qint64(bigEndianAt<quint32>(length, 0));
-    facts.alpha = alphaOf(file, at, layersLength, facts, namesChannels);
-    facts.pixelsOffset = at + file.part(at, layersLength).size();
-    return facts;
+    const qint64 layersLength = metadata.isBig
+                                    ? static_cast<qint64>(bigEndianAt<quint64>(length, 0))
+                                    : qint64(bigEndianAt<quint32>(length, 0));
+    metadata.alpha = alphaOf(file, at, layersLength, metadata, namesChannels);
+    metadata.pixelsOffset = at + file.part(at, layersLength).size();
+    return metadata;
 }
 
 } // namespace folioforge

@@ -1,0 +1,47 @@
+#include "image/ImageFormat.h"
+
+#include "error/Error.h"
+#include "image/formats/Formats.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+namespace {
+
+const std::vector<ImageFormat> &formats() {
+    static const std::vector<ImageFormat> table = {
+        jpegFormat(), pngFormat(), tiffFormat(), jpeg2000Format(), bmpFormat(), gifFormat(),
+        psdFormat(),  exrFormat(), icnsFormat(), icoFormat(),      tgaFormat(),
+    };
+    return table;
+}
+
+} // namespace
+
+const ImageFormat &formatOf(const FileView &file) {
+    const QByteArray head = file.read(0, kSniffedBytes);
+    if (head.isEmpty()) {
+        throw Error(u"The file is empty"_s);
+    }
+    const auto &table = formats();
+    auto found = std::ranges::find_if(table, [&](const ImageFormat &format) {
+        return format.recognises != nullptr && format.recognises(head);
+    });
+    if (found == table.end()) {
+        const QString extension = QFileInfo(file.path()).suffix().toLower();
+        found = std::ranges::find_if(table, [&](const ImageFormat &format) {
+            return std::ranges::find(format.extensions, extension) != format.extensions.end();
+        });
+    }
+    if (found == table.end()) {
+        throw Error(u"The file is no image of a known format"_s);
+    }
+    return *found;
+}
+
+} // namespace folioforge
