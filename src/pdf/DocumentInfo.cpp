@@ -33,7 +33,7 @@ QString pdfDate(const QDateTime &date) {
 QDateTime documentDate() {
     bool given = false;
     const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&given);
-    return given ? QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC) : QDateTime::currentDateTime();
+    return given ? QDateTime::fromSecsSinceEpoch(seconds).toUTC() : QDateTime::currentDateTime();
 }
 
 void writeDocumentInfo(QPDF &document, const DocumentInfo &info) {

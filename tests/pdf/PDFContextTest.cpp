@@ -88,7 +88,7 @@ class PDFContextTest : public QObject {
     static PDFContext::Settings settings() {
         PDFContext::Settings settings;
         settings.flush = Flush::Never;
-        settings.info.created = QDateTime::fromSecsSinceEpoch(1'700'000'000, Qt::UTC);
+        settings.info.created = QDateTime::fromSecsSinceEpoch(1'700'000'000).toUTC();
         return settings;
     }
     /// One page of 100 x 50 for each of `images`, each drawn over the whole page.
