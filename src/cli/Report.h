@@ -1,6 +1,6 @@
 #pragma once
 
-#include "convert/CompressionPass.h"
+#include "compress/CompressionPass.h"
 #include "image/PdfImage.h"
 
 #include <QByteArray>

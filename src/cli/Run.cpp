@@ -7,7 +7,6 @@
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
 #include "convert/Bundle.h"
-#include "convert/CompressionPass.h"
 #include "convert/Conversion.h"
 #include "error/Error.h"
 #include "filelist/SourceFiles.h"
@@ -148,7 +147,10 @@ class Run {
     /// Where the pass fails, the PDF stays as it was and the exit status tells.
     CompressionOutcome compressWritten(const QString &path, ProgressLine &progress) {
         CompressionOutcome compression = compress(
-            path, m_options, {applicationBundlePath(), m_temporaryFolder.path()}, &progress);
+            path, compressionOptions(m_options, applicationBundlePath(), m_temporaryFolder.path()),
+            [&](int pageIndex, int pageCount) {
+                progress.progressChanged(compressionProgress(pageIndex, pageCount));
+            });
         if (compression.error.isEmpty()) {
             try {
                 putInPlace(*compression.convertInfo, m_options.flush, m_options.calls);

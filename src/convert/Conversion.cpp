@@ -1,5 +1,6 @@
 #include "convert/Conversion.h"
 
+#include "compress/QuartzFilter.h"
 #include "convert/PageWriters.h"
 #include "error/Error.h"
 #include "error/Memory.h"
@@ -7,14 +8,16 @@
 #include "files/StoppableCalls.h"
 
 #include <new>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
 
-/// The progress bar's value when every page is written; the compression pass fills the rest.
+/// The progress bar's value when every page is written, and when all is done.
 constexpr float kPagesShare = 50;
+constexpr float kFull = 100;
 
 /// The one place where what the engine throws becomes words.
 template<typename Step> QString reasonOfFailure(Step &&step) {
@@ -125,6 +128,17 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
         outcome.close = notWritten(u"The conversion was stopped"_s);
     }
     return outcome;
+}
+
+CompressionOptions compressionOptions(const ConversionOptions &options, const QString &bundlePath,
+                                      const QString &temporaryFolder, std::stop_token stop) {
+    return {quartzFilterPath(bundlePath, quartzFilterName(options.compressIndex)), temporaryFolder,
+            encryptionFor(options.security), options.calls, std::move(stop)};
+}
+
+float compressionProgress(int pageIndex, int pageCount) {
+    const auto written = static_cast<float>(pageIndex + 1);
+    return written / static_cast<float>(pageCount) * (kFull - kPagesShare) + kPagesShare;
 }
 
 } // namespace folioforge

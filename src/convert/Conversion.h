@@ -1,5 +1,6 @@
 #pragma once
 
+#include "compress/CompressionPass.h"
 #include "convert/Checks.h"
 #include "convert/ConversionOptions.h"
 #include "convert/OutputName.h"
@@ -58,5 +59,13 @@ std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security);
 PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
                      const ConversionOptions &options, ConversionObserver *observer = nullptr,
                      const std::stop_token &stop = {});
+
+/// What the compression pass needs to compress what createPDF() wrote with `options`, whose
+/// compressIndex names one of the filters of the bundle at `bundlePath`.
+CompressionOptions compressionOptions(const ConversionOptions &options, const QString &bundlePath,
+                                      const QString &temporaryFolder, std::stop_token stop = {});
+
+/// The progress bar's value once the compression pass wrote the page at `pageIndex`, from 0.
+float compressionProgress(int pageIndex, int pageCount);
 
 } // namespace folioforge

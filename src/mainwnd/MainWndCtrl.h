@@ -1,6 +1,5 @@
 #pragma once
 
-#include "convert/CompressionPass.h"
 #include "convert/Conversion.h"
 #include "convert/ConversionOptions.h"
 #include "files/ReadableLinks.h"
@@ -193,7 +192,6 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
 
     // Runs.
     class RunObserver;
-    class PassObserver;
     void beginFile();
     void showFileBeingWritten(int done);
     void showProgress(float value);

@@ -1,9 +1,7 @@
 #include "mainwnd/MainWndCtrl.h"
 
-#include "error/Error.h"
 #include "files/PartFiles.h"
 #include "files/Printable.h"
-#include "files/StoppableCalls.h"
 #include "mainwnd/FilesArray.h"
 
 #include <QFileInfo>
@@ -66,24 +64,6 @@ class MainWndCtrl::RunObserver : public ConversionObserver {
   private:
     MainWndCtrl &m_ctrl;
     int m_firstRow;
-};
-
-/// Ends the pass when the run is stopped; a pass that is left by an error leaves nothing behind.
-class MainWndCtrl::PassObserver : public RunObserver {
-  public:
-    PassObserver(MainWndCtrl &ctrl, std::stop_token stop)
-        : RunObserver(ctrl, 0)
-        , m_stop(std::move(stop)) {}
-
-    void progressChanged(float value) override {
-        if (m_stop.stop_requested()) {
-            throw Error(u"The conversion was stopped"_s);
-        }
-        RunObserver::progressChanged(value);
-    }
-
-  private:
-    std::stop_token m_stop;
 };
 
 void MainWndCtrl::clickBtnCreate() {
@@ -181,12 +161,16 @@ void MainWndCtrl::compress(const QString &path) {
         runOnMainThread([this] { compressCompleted(); });
         return;
     }
-    const CompressionPlaces places{m_services.bundlePath, m_temporaryFolder.path()};
-    startWorker([this, path, places, options = m_runOptions](const std::stop_token &stop) mutable {
-        StoppableCalls calls(options.calls, stop);
-        options.calls = calls;
-        PassObserver observer(*this, stop);
-        PendingCopy copy(folioforge::compress(path, options, places, &observer).convertInfo);
+    startWorker([this, path,
+                 options = compressionOptions(m_runOptions, m_services.bundlePath,
+                                              m_temporaryFolder.path())](
+                    const std::stop_token &stop) mutable {
+        options.stop = stop;
+        const auto endPageWrite = [this](int pageIndex, int pageCount) {
+            runOnMainThread(
+                [this, value = compressionProgress(pageIndex, pageCount)] { showProgress(value); });
+        };
+        PendingCopy copy(folioforge::compress(path, options, endPageWrite).convertInfo);
         runOnMainThread([this, copy = std::move(copy)]() mutable {
             m_bWorking = false;
             m_convertInfoDict = copy.take();
@@ -230,8 +214,7 @@ void MainWndCtrl::endRun() {
 
 void MainWndCtrl::endPageWrite(int pageIndex) {
     if (m_pdfDoc && m_pdfDoc->pageCount > 0) {
-        const auto written = static_cast<float>(pageIndex + 1);
-        showProgress(written / static_cast<float>(m_pdfDoc->pageCount) * 50.0F + 50.0F);
+        showProgress(compressionProgress(pageIndex, m_pdfDoc->pageCount));
     }
 }
 

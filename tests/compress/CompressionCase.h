@@ -1,7 +1,7 @@
 #pragma once
 
+#include "compress/CompressionPass.h"
 #include "compress/QuartzFilter.h"
-#include "convert/CompressionPass.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
 
@@ -31,25 +31,23 @@ class CompressionCase {
         const QDir folder(m_folder->path());
         QVERIFY(folder.mkpath(QStringLiteral("bundle/Contents/Resources")));
         QVERIFY(folder.mkpath(QStringLiteral("temporary")));
-        m_places = {folder.filePath(QStringLiteral("bundle")),
-                    folder.filePath(QStringLiteral("temporary"))};
+        m_temporaryFolder = folder.filePath(QStringLiteral("temporary"));
         for (int index = 1; index <= 3; ++index) {
             const QString name = quartzFilterName(index);
             QVERIFY(QFile::copy(QStringLiteral(FOLIOFORGE_FILTERS "/%1.qfilter").arg(name),
-                                quartzFilterPath(m_places.bundlePath, name)));
+                                filterFile(index)));
         }
         m_path = folder.filePath(QStringLiteral("document.pdf"));
     }
 
-    CompressionOutcome run(int index, const SecuritySettings &security = {},
-                           ConversionObserver *observer = nullptr,
-                           SystemCalls &calls = SystemCalls::system()) const {
-        ConversionOptions options;
-        options.calls = calls;
-        options.compressIndex = index;
-        options.security = security;
-        return compress(m_path, options, m_places, observer);
+    /// The file of the filter at row `index` of the compress methods.
+    QString filterFile(int index) const {
+        return quartzFilterPath(m_folder->filePath(QStringLiteral("bundle")),
+                                quartzFilterName(index));
     }
+
+    CompressionOutcome run(int index) const { return compress(m_path, optionsOf(index)); }
+    CompressionOptions optionsOf(int index) const { return {filterFile(index), m_temporaryFolder}; }
 
     /// Compresses through "150m" and says where the copy stands; fails the test on an error.
     QString compressed(CompressionOutcome *outcome = nullptr) const {
@@ -105,7 +103,7 @@ class CompressionCase {
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
-    CompressionPlaces m_places;
+    QString m_temporaryFolder;
     QString m_path;
 };
 

@@ -1,9 +1,8 @@
-#include "convert/CompressionPass.h"
+#include "compress/CompressionPass.h"
 
 #include "CompressionCase.h"
-#include "compress/QuartzFilter.h"
-#include "convert/Conversion.h"
 #include "error/Error.h"
+#include "pdf/PDFContext.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
@@ -17,27 +16,11 @@ using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
-namespace {
-
-class Recorder : public ConversionObserver {
-  public:
-    void progressChanged(float value) override { values += value; }
-    void entryDone(std::size_t, bool) override {}
-    QList<float> values;
-};
-
-} // namespace
-
 class CompressionPassTest : public QObject, protected CompressionCase {
     Q_OBJECT
 
   private Q_SLOTS:
     void init() { setUp(); }
-
-    void indexZeroHandsNothingOver() {
-        test::writePdf(m_path, 1);
-        QVERIFY(!run(0).convertInfo);
-    }
 
     void aPhotoIsSampledDownToItsPrintedSizeAndLooksAlike() {
         writeJpegPage("BT /F 12 Tf 20 250 Td (Caption) Tj ET q 288 0 0 216 50 20 cm /Im0 Do Q");
@@ -289,23 +272,41 @@ class CompressionPassTest : public QObject, protected CompressionCase {
 
     void theTemporaryNameGivesWayToFilesThatExist() {
         test::writePdf(m_path, 1);
-        const QDir folder(m_places.temporaryFolder);
+        const QDir folder(m_temporaryFolder);
         test::writeFile(folder.filePath(u"document.pdf"_s), "mine");
         test::writeFile(folder.filePath(u"document(1).pdf"_s), "mine too");
         QCOMPARE(compressed(), folder.filePath(u"document(2).pdf"_s));
         QCOMPARE(test::readFile(folder.filePath(u"document.pdf"_s)), QByteArray("mine"));
     }
 
-    void progressRunsFromFiftyToHundredPageByPage() {
+    void everyPageIsReportedWhenItIsWritten() {
         test::writePdf(m_path, 4);
-        Recorder recorder;
-        run(1, {}, &recorder);
-        QCOMPARE(recorder.values, (QList<float>{62.5F, 75.0F, 87.5F, 100.0F}));
+        QList<std::pair<int, int>> pages;
+        compress(m_path, optionsOf(1),
+                 [&](int pageIndex, int pageCount) { pages.emplaceBack(pageIndex, pageCount); });
+        QCOMPARE(pages, (QList<std::pair<int, int>>{{0, 4}, {1, 4}, {2, 4}, {3, 4}}));
+    }
+
+    void aStopEndsThePassAndLeavesNoCopy() {
+        test::writePdf(m_path, 4);
+        std::stop_source stop;
+        CompressionOptions options = optionsOf(1);
+        options.stop = stop.get_token();
+        int written = 0;
+        const CompressionOutcome outcome = compress(m_path, options, [&](int, int) {
+            ++written;
+            stop.request_stop();
+        });
+        QCOMPARE(written, 1);
+        QCOMPARE(outcome.error, u"The conversion was stopped"_s);
+        QCOMPARE(outcome.convertInfo->tempFilePathName, QString());
+        QVERIFY(QDir(m_temporaryFolder)
+                    .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     }
 
     void aMissingFilterIsAnErrorAndNothingIsHandedOver() {
         test::writePdf(m_path, 1);
-        const QString filter = quartzFilterPath(m_places.bundlePath, quartzFilterName(1));
+        const QString filter = filterFile(1);
         QVERIFY(QFile::remove(filter));
         const CompressionOutcome outcome = run(1);
         QVERIFY(outcome.error.contains(filter));
@@ -314,7 +315,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
 
     void aBrokenFilterNamesTheKey() {
         test::writePdf(m_path, 1);
-        const QString filter = quartzFilterPath(m_places.bundlePath, quartzFilterName(1));
+        const QString filter = filterFile(1);
         QByteArray text = test::readFile(filter);
         text.replace("<integer>150</integer>", "<integer>0</integer>");
         QVERIFY(QFile::remove(filter));
@@ -333,7 +334,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
     }
 
     void afterAFailedPassAForeignFileOfTheSameNameStays() {
-        const QString foreign = m_places.temporaryFolder + u"/document.pdf"_s;
+        const QString foreign = m_temporaryFolder + u"/document.pdf"_s;
         test::writeFile(foreign, "someone else's");
         test::writeFile(m_path, "no document at all");
         compressCompleted(*run(1).convertInfo);
@@ -382,13 +383,10 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         }
         test::runTool(u"qpdf"_s,
                       {u"--encrypt"_s, u"user"_s, u"owner"_s, u"256"_s, u"--"_s, plain, m_path});
-        SecuritySettings security;
-        security.useUserPassword = true;
-        security.userPassword = u"user"_s;
-        security.useOwnerPassword = true;
-        security.ownerPassword = u"owner"_s;
-        security.refusePrint = true;
-        const CompressionOutcome outcome = run(1, security);
+        CompressionOptions options = optionsOf(1);
+        options.encryption =
+            std::make_shared<const Encryption>(Encryption{u"user"_s, u"owner"_s, true, false});
+        const CompressionOutcome outcome = compress(m_path, options);
         return outcome.error.isEmpty() ? outcome.convertInfo->tempFilePathName : QString();
     }
 };

@@ -294,12 +294,15 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         document.object(1, "<< /Type /Catalog /Pages 2 0 R >>").pages(4, 2).spread();
         QVERIFY(document.write(m_path));
         FaultyCalls counted;
-        const QString copy = run(1, {}, nullptr, counted).convertInfo->tempFilePathName;
+        CompressionOptions options = optionsOf(1);
+        options.calls = counted;
+        const QString copy = compress(m_path, options).convertInfo->tempFilePathName;
         QCOMPARE(PdfProbe(copy).pageCount(), 2);
         for (int call = 1; call <= counted.count(); ++call) {
             FaultyCalls calls;
             calls.fault = {call, EIO, false, {}};
-            const CompressionOutcome outcome = run(1, {}, nullptr, calls);
+            options.calls = calls;
+            const CompressionOutcome outcome = compress(m_path, options);
             QVERIFY2(outcome.error.isEmpty()
                          ? readFile(outcome.convertInfo->tempFilePathName) == readFile(copy)
                          : outcome.error.contains(QString::fromLocal8Bit(std::strerror(EIO))),
@@ -315,10 +318,10 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
             const FullDisk disk(8192);
             outcome = run(1);
         }
-        QVERIFY2(outcome.error.contains(m_places.temporaryFolder), qPrintable(outcome.error));
+        QVERIFY2(outcome.error.contains(m_temporaryFolder), qPrintable(outcome.error));
         QVERIFY(outcome.convertInfo.has_value());
         QCOMPARE(outcome.convertInfo->tempFilePathName, QString());
-        QVERIFY(QDir(m_places.temporaryFolder)
+        QVERIFY(QDir(m_temporaryFolder)
                     .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
         QCOMPARE(readFile(m_path), before);
     }
@@ -339,9 +342,9 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
 
     void aMissingTemporaryFolderIsAnError() {
         writeJpegPage("q " + kDrawn + " Q");
-        QVERIFY(QDir(m_places.temporaryFolder).removeRecursively());
+        QVERIFY(QDir(m_temporaryFolder).removeRecursively());
         const QByteArray before = readFile(m_path);
-        QVERIFY(run(1).error.startsWith(u"Cannot create a file in "_s + m_places.temporaryFolder));
+        QVERIFY(run(1).error.startsWith(u"Cannot create a file in "_s + m_temporaryFolder));
         QCOMPARE(readFile(m_path), before);
     }
 };

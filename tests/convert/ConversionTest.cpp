@@ -238,6 +238,11 @@ class ConversionTest : public QObject {
         QCOMPARE(recorder.values, QList<float>{50.0F});
     }
 
+    void theCompressionPassFillsTheBarFromFiftyToHundred() {
+        QCOMPARE(compressionProgress(0, 4), 62.5F);
+        QCOMPARE(compressionProgress(3, 4), 100.0F);
+    }
+
     void anEntryThatFailsIsLeftOutAndTheOthersGoOn() {
         addText("a.txt", "x");
         addFile(test::writeFile(path("broken.png"), "no image"));

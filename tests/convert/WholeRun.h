@@ -1,7 +1,6 @@
 #pragma once
 
 #include "compress/QuartzFilter.h"
-#include "convert/CompressionPass.h"
 #include "convert/Conversion.h"
 #include "error/Error.h"
 #include "files/PartFiles.h"
@@ -110,7 +109,7 @@ class WholeRun {
     QString compressed(const ConversionOptions &options) const {
         TemporaryFolder temporary(path("temporary"));
         const CompressionOutcome pass =
-            compress(output(), options, {path("bundle"), temporary.path()});
+            compress(output(), compressionOptions(options, path("bundle"), temporary.path()));
         if (!pass.error.isEmpty()) {
             return pass.error;
         }

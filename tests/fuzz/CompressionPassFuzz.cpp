@@ -2,7 +2,8 @@
 // reason and no file.
 
 #include "FuzzSupport.h"
-#include "convert/CompressionPass.h"
+#include "compress/CompressionPass.h"
+#include "compress/QuartzFilter.h"
 #include "pdf/import/SourceDocument.h"
 
 #include <QFileInfo>
@@ -14,11 +15,9 @@ using namespace folioforge::fuzz;
 namespace {
 
 void compressOnce(const QString &source, int pages) {
-    ConversionOptions options;
-    options.compressIndex = 3;
-    const CompressionPlaces places{QStringLiteral(FOLIOFORGE_FUZZED_BUNDLE),
-                                   QFileInfo(source).path()};
-    const CompressionOutcome outcome = compress(source, options, places);
+    const CompressionOutcome outcome = compress(
+        source, {quartzFilterPath(QStringLiteral(FOLIOFORGE_FUZZED_BUNDLE), quartzFilterName(3)),
+                 QFileInfo(source).path()});
     require(outcome.convertInfo.has_value());
     const QString copy = outcome.convertInfo->tempFilePathName;
     if (!outcome.error.isEmpty()) {

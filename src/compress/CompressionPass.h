@@ -1,17 +1,18 @@
 #pragma once
 
-#include "convert/ConversionOptions.h"
+#include "files/OutputFile.h"
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <vector>
 
 namespace folioforge {
 
-class ConversionObserver;
-class PartFile;
+struct Encryption;
 
 /// The hand-over record of the compression pass: the compressed copy and the file it replaces.
 struct ConvertInfo {
@@ -38,20 +39,26 @@ struct CompressionOutcome {
     std::vector<KeptImage> imagesKept;
 };
 
-/// Where the pass finds and puts its files.
-struct CompressionPlaces {
-    QString bundlePath;      ///< Holds Contents/Resources with the filter files.
+/// What one pass works with.
+struct CompressionOptions {
+    QString filterFile;      ///< The Quartz filter that the document goes through.
     QString temporaryFolder; ///< Gets the compressed copy.
+    /// The passwords and permissions that the document has and the copy gets; null for none.
+    std::shared_ptr<const Encryption> encryption = {};
+    /// What the document is read and the copy is written through.
+    std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
+    std::stop_token stop = {}; ///< Once it is requested, the pass fails at its next read or write.
 };
 
-/// Rewrites the finished PDF at `path` into the temporary folder through the filter of
-/// options.compressIndex, with the passwords and permissions of options.security applied again,
-/// and hands over where it stands. The copy is never larger than the PDF, is readable by its owner
-/// alone and has its passwords from its first byte on. Reports progress from 50 to 100, page by
-/// page. Never throws; when the pass fails there is no temporary file. Index 0 does nothing.
-CompressionOutcome compress(const QString &path, const ConversionOptions &options,
-                            const CompressionPlaces &places,
-                            ConversionObserver *observer = nullptr);
+/// Called when a page of the copy is written; `pageIndex` counts from 0.
+using EndPageWrite = std::function<void(int pageIndex, int pageCount)>;
+
+/// Rewrites the finished PDF at `path` into the temporary folder and hands over where the copy
+/// stands. The copy is never larger than the PDF, is readable by its owner alone and has its
+/// passwords from its first byte on. Never throws; when the pass fails or is stopped there is no
+/// temporary file.
+CompressionOutcome compress(const QString &path, const CompressionOptions &options,
+                            const EndPageWrite &endPageWrite = {});
 
 /// What the window does with the hand-over record: the destination gives way to the temporary
 /// file. Errors are ignored, so after a failed pass the destination is gone.

@@ -1,4 +1,4 @@
-#include "convert/CompressionPass.h"
+#include "compress/CompressionPass.h"
 
 #include "compress/DuplicateStreams.h"
 #include "compress/FilterChains.h"
@@ -7,10 +7,11 @@
 #include "compress/QuartzFilter.h"
 #include "compress/ReducedStreams.h"
 #include "compress/TemporaryCopy.h"
-#include "convert/Conversion.h"
 #include "error/Error.h"
 #include "files/OutputFile.h"
+#include "files/StoppableCalls.h"
 #include "pdf/DocumentWriter.h"
+#include "pdf/PDFContext.h"
 #include "pdf/Password.h"
 #include "pdf/QpdfBorder.h"
 #include "pdf/import/SourceInput.h"
@@ -31,28 +32,44 @@ namespace folioforge {
 
 namespace {
 
+QString stopped() {
+    return u"The conversion was stopped"_s;
+}
+
 /// Turns the writer's percentage into the pages written and reports each page.
 class PageProgress : public QPDFWriter::ProgressReporter {
   public:
-    PageProgress(ConversionObserver *observer, int pages, const OutputPipeline &output)
-        : m_observer(observer)
+    PageProgress(const EndPageWrite &endPageWrite, int pages, const OutputPipeline &output,
+                 std::stop_token stop)
+        : m_endPageWrite(endPageWrite)
         , m_pages(pages)
-        , m_output(output) {}
+        , m_output(output)
+        , m_stop(std::move(stop)) {}
 
     void reportProgress(int percent) override {
-        m_output.throwFailure();
         const int written = percent * m_pages / 100;
-        while (m_observer && m_written < written) {
-            ++m_written;
-            m_observer->progressChanged(
-                static_cast<float>(m_written) / static_cast<float>(m_pages) * 50.0F + 50.0F);
+        for (; m_written < written; ++m_written) {
+            requireGoingOn();
+            if (m_endPageWrite) {
+                m_endPageWrite(m_written, m_pages);
+            }
         }
+        requireGoingOn();
     }
 
   private:
-    ConversionObserver *m_observer;
+    /// Throws where the pass is to end: what fails or stops here needs no more pages.
+    void requireGoingOn() const {
+        m_output.throwFailure();
+        if (m_stop.stop_requested()) {
+            throw Error(stopped());
+        }
+    }
+
+    const EndPageWrite &m_endPageWrite;
     int m_pages;
     const OutputPipeline &m_output;
+    std::stop_token m_stop;
     int m_written = 0;
 };
 
@@ -78,21 +95,22 @@ void requireRoomForStreams(QPDF &document, qsizetype size) {
     requireRoomForStream(std::min(longest, size));
 }
 
-void write(QPDF &document, OutputPipeline &output, const Encryption *encryption,
-           ConversionObserver *observer) {
+void write(QPDF &document, OutputPipeline &output, const CompressionOptions &options,
+           const EndPageWrite &endPageWrite) {
     keepFilterChains(document);
     QPDFWriter writer(document);
     writer.setOutputPipeline(&output);
     writer.setObjectStreamMode(qpdf_o_generate);
     writer.setCompressStreams(true);
     writer.setDecodeLevel(qpdf_dl_generalized);
-    if (encryption) {
-        applyEncryption(writer, *encryption);
+    if (options.encryption) {
+        applyEncryption(writer, *options.encryption);
     } else {
         writer.setDeterministicID(true); // The same document is compressed the same.
     }
     const auto pages = static_cast<int>(document.getAllPages().size());
-    writer.registerProgressReporter(std::make_shared<PageProgress>(observer, pages, output));
+    writer.registerProgressReporter(
+        std::make_shared<PageProgress>(endPageWrite, pages, output, options.stop));
     writer.write();
     output.throwFailure();
 }
@@ -105,20 +123,20 @@ void report(std::vector<LeftImage> left, CompressionOutcome &outcome) {
     }
 }
 
-void runPass(const QString &path, const QuartzFilter &filter, const ConversionOptions &options,
-             OutputPipeline &output, ConversionObserver *observer, CompressionOutcome &outcome) {
-    const auto encryption = encryptionFor(options.security);
+void runPass(const QString &path, const QuartzFilter &filter, const CompressionOptions &options,
+             OutputPipeline &output, const EndPageWrite &endPageWrite,
+             CompressionOutcome &outcome) {
     const auto reader = std::make_shared<SourceReader>(options.calls);
     const auto input =
         std::make_shared<SourceInput>(SourceFile::examine(path), reader, SourceInput::Table::Shown);
     QPDF document;
     outcome.imagesReduced = withAllObjects(document, *reader, [&] {
-        unlock(document, input, encryption.get());
+        unlock(document, input, options.encryption.get());
         mergeDuplicateStreams(document);
         ImagePlan plan = planImages(document, findImageUses(document), filter);
         const auto streams = ReducedStreams::install(std::move(plan.planned));
         requireRoomForStreams(document, QFileInfo(path).size());
-        write(document, output, encryption.get(), observer);
+        write(document, output, options, endPageWrite);
         plan.left.insert(plan.left.end(), streams->left().begin(), streams->left().end());
         report(std::move(plan.left), outcome);
         return streams->done();
@@ -126,23 +144,15 @@ void runPass(const QString &path, const QuartzFilter &filter, const ConversionOp
     reader->finish();
 }
 
-QString filterFile(const ConversionOptions &options, const CompressionPlaces &places) {
-    const QString name = quartzFilterName(options.compressIndex);
-    if (name.isEmpty()) {
-        throw Error(u"There is no compress method %1"_s.arg(options.compressIndex));
-    }
-    return quartzFilterPath(places.bundlePath, name);
-}
-
 /// Makes the copy of the document at `path`.
 std::shared_ptr<const PartFile> makeCopy(const QString &path, const QuartzFilter &filter,
-                                         const ConversionOptions &options,
-                                         ConversionObserver *observer, const QString &folder,
+                                         const CompressionOptions &options,
+                                         const EndPageWrite &endPageWrite,
                                          CompressionOutcome &outcome) {
-    std::optional<TemporaryCopy> copy(std::in_place, folder, path, options.calls);
-    runPass(path, filter, options, copy->pipeline(), observer, outcome);
+    std::optional<TemporaryCopy> copy(std::in_place, options.temporaryFolder, path, options.calls);
+    runPass(path, filter, options, copy->pipeline(), endPageWrite, outcome);
     if (copy->size() >= outcome.bytesBefore) {
-        copy.emplace(folder, path, options.calls);
+        copy.emplace(options.temporaryFolder, path, options.calls);
         copy->takeSource();
         outcome.imagesReduced = 0;
     }
@@ -151,13 +161,12 @@ std::shared_ptr<const PartFile> makeCopy(const QString &path, const QuartzFilter
     return part;
 }
 
-void compressInto(const QString &path, const ConversionOptions &options,
-                  ConversionObserver *observer, const CompressionPlaces &places,
-                  CompressionOutcome &outcome) {
-    const QuartzFilter filter = readQuartzFilter(filterFile(options, places));
+void compressInto(const QString &path, const CompressionOptions &options,
+                  const EndPageWrite &endPageWrite, CompressionOutcome &outcome) {
+    const QuartzFilter filter = readQuartzFilter(options.filterFile);
     // From here on there is something to hand over, even where no copy comes of it.
     outcome.convertInfo = ConvertInfo{{}, path};
-    auto part = makeCopy(path, filter, options, observer, places.temporaryFolder, outcome);
+    auto part = makeCopy(path, filter, options, endPageWrite, outcome);
     outcome.convertInfo->tempFilePathName = QFile::decodeName(part->path().c_str());
     outcome.convertInfo->part = std::move(part);
 }
@@ -173,18 +182,18 @@ std::unique_ptr<OutputFile> copyFor(const QString &destination, const QString &s
 
 } // namespace
 
-CompressionOutcome compress(const QString &path, const ConversionOptions &options,
-                            const CompressionPlaces &places, ConversionObserver *observer) {
+CompressionOutcome compress(const QString &path, const CompressionOptions &options,
+                            const EndPageWrite &endPageWrite) {
     CompressionOutcome outcome;
-    if (options.compressIndex == 0) {
-        return outcome;
-    }
     outcome.bytesBefore = QFileInfo(path).size();
     outcome.bytesAfter = outcome.bytesBefore;
+    StoppableCalls calls(options.calls, options.stop);
+    CompressionOptions stoppable = options;
+    stoppable.calls = calls;
     try {
-        atQpdfBorder([&] { compressInto(path, options, observer, places, outcome); });
+        atQpdfBorder([&] { compressInto(path, stoppable, endPageWrite, outcome); });
     } catch (const Error &error) {
-        outcome.error = error.reason();
+        outcome.error = options.stop.stop_requested() ? stopped() : error.reason();
     }
     return outcome;
 }
