@@ -113,7 +113,7 @@ RichText PDFFileInfo::linkText() const {
     while (shrink < kHeadLength && GetWidthOfName(getShortDestFileName(shrink)) > kColumnWidth) {
         ++shrink;
     }
-    return {getShortDestFileName(shrink), true, QColor(Qt::blue)};
+    return {getShortDestFileName(shrink), true, Qt::blue};
 }
 
 QString PDFFileInfo::getShortDestFileName(int shrink) const {

@@ -2,7 +2,6 @@
 
 #include "image/ImageHeader.h"
 
-#include <QColor>
 #include <QString>
 #include <QVariant>
 
@@ -23,7 +22,7 @@ inline constexpr QLatin1StringView kMDItemFSContentChangeDate{"kMDItemFSContentC
 struct RichText {
     QString text;
     bool underlined = false;
-    QColor color; ///< Invalid for the default text colour.
+    std::optional<Qt::GlobalColor> color; ///< Nothing for the default text colour.
 
     bool operator==(const RichText &) const = default;
 };

@@ -2,6 +2,7 @@
 
 #include "files/Printable.h"
 
+#include <QColor>
 #include <QFont>
 #include <QTextDocument>
 
@@ -55,7 +56,7 @@ QVariant fontOf(const RichText &text) {
 }
 
 QVariant colorOf(const RichText &text) {
-    return text.color.isValid() ? QVariant(text.color) : QVariant();
+    return text.color ? QVariant(QColor(*text.color)) : QVariant();
 }
 
 QVariant alignmentOf(int column) {
