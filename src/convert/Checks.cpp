@@ -10,6 +10,21 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
+Notice equalPasswordsNotice() {
+    return notice(u"The passwords can not be the same."_s);
+}
+
+/// A password that no encrypted document can hold would fail only once everything is converted.
+std::optional<QString> problemOf(const SecuritySettings &settings) {
+    const auto problem = [](bool used, const QString &password) {
+        return used ? passwordProblem(password) : std::nullopt;
+    };
+    const auto found = problem(settings.useUserPassword, settings.userPassword);
+    return found ? found : problem(settings.useOwnerPassword, settings.ownerPassword);
+}
+
+} // namespace
+
 std::optional<Notice> checkOutputFolder(const QString &folder) {
     if (folder.isEmpty()) {
         return notice(u"Please select an output folder to store the output documents."_s);
@@ -22,24 +37,25 @@ std::optional<Notice> checkOutputFolder(const QString &folder) {
     return std::nullopt;
 }
 
-/// A password that no encrypted document can hold would fail only once everything is converted.
-std::optional<Notice> checkPasswordsFit(const SecuritySettings &security) {
-    const auto problem = [](bool used, const QString &password) {
-        return used ? passwordProblem(password) : std::nullopt;
-    };
-    auto found = problem(security.useUserPassword, security.userPassword);
-    if (!found) {
-        found = problem(security.useOwnerPassword, security.ownerPassword);
+std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings) {
+    const QString &user = settings.userPassword;
+    const QString &owner = settings.ownerPassword;
+    const bool both = settings.useUserPassword && settings.useOwnerPassword;
+    if (settings.useUserPassword && user.isEmpty()) {
+        return notice(u"Please input user password."_s);
     }
-    return found ? std::optional(notice(*found + u'.')) : std::nullopt;
-}
-
-/// Passwords that differ as typed can be one in the document, where the user password would then
-/// lift every restriction.
-std::optional<Notice> checkPasswordsStayTwo(const SecuritySettings &security) {
-    const bool both = security.useUserPassword && security.useOwnerPassword;
-    if (both &&
-        preparedPassword(security.userPassword) == preparedPassword(security.ownerPassword)) {
+    if (settings.useOwnerPassword && owner.isEmpty()) {
+        return notice(u"Please input owner password."_s);
+    }
+    if (both && user == owner) {
+        return equalPasswordsNotice();
+    }
+    if (const auto problem = problemOf(settings)) {
+        return notice(*problem + u'.');
+    }
+    // Passwords that differ as typed can be one in the document, where the user password would
+    // then lift every restriction.
+    if (both && preparedPassword(user) == preparedPassword(owner)) {
         return equalPasswordsNotice();
     }
     return std::nullopt;
@@ -58,28 +74,18 @@ std::optional<Notice> checkMergedFile(const ConversionOptions &options) {
     return std::nullopt;
 }
 
-} // namespace
-
 std::optional<Notice> checkConversion(const ConversionOptions &options) {
-    if (auto found = checkOutputFolder(options.outputFolder)) {
-        return found;
+    auto found = checkOutputFolder(options.outputFolder);
+    if (!found) {
+        found = checkSecuritySettings(options.security);
     }
-    if (auto found = checkSecuritySettings(options.security)) {
-        return found;
+    if (!found) {
+        found = checkTextPageSizeSettings(options.textPage);
     }
-    if (auto found = checkPasswordsFit(options.security)) {
-        return found;
+    if (!found) {
+        found = checkImagePageSizeSettings(options.imagePage);
     }
-    if (auto found = checkPasswordsStayTwo(options.security)) {
-        return found;
-    }
-    if (auto found = checkTextPageSizeSettings(options.textPage)) {
-        return found;
-    }
-    if (auto found = checkImagePageSizeSettings(options.imagePage)) {
-        return found;
-    }
-    return checkMergedFile(options);
+    return found ? found : checkMergedFile(options);
 }
 
 Notice nameExistsNotice() {

@@ -7,8 +7,19 @@
 
 namespace folioforge {
 
-/// The checks of a run in their order: output folder, security, text pages, image pages, and in
-/// merge mode the output name. Nothing when the run may start, else the one notice to show.
+// Each check gives nothing when the settings are valid, else the one notice to show.
+
+/// The output folder: chosen, existing and writable.
+std::optional<Notice> checkOutputFolder(const QString &folder);
+
+/// The passwords: entered, such as an encrypted document can hold, and two different ones there.
+std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings);
+
+/// The name of the merged file: entered and free. Single mode asks for none.
+std::optional<Notice> checkMergedFile(const ConversionOptions &options);
+
+/// The checks of a run in their order: output folder, security, text pages, image pages and the
+/// merged file.
 std::optional<Notice> checkConversion(const ConversionOptions &options);
 
 /// The notice that the merged file's name is taken.

@@ -9,6 +9,16 @@
 
 namespace folioforge {
 
+/// Passwords and permission boxes as entered. A ticked box refuses its permission.
+struct SecuritySettings {
+    bool useUserPassword = false;
+    QString userPassword;
+    bool useOwnerPassword = false;
+    QString ownerPassword;
+    bool refusePrint = false; ///< Counts with an owner password alone, like the next.
+    bool refuseCopy = false;
+};
+
 /// Everything one run reads from the options panel or the arguments, copied when the run starts.
 struct ConversionOptions {
     QString outputFolder;

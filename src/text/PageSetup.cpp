@@ -114,24 +114,4 @@ std::optional<Notice> checkImagePageSizeSettings(const PageSetup &setup) {
     return checkRoomBetweenMargins(setup.margins, getImagePageSize(setup), Target::Image);
 }
 
-std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings) {
-    if (settings.useUserPassword && settings.userPassword.isEmpty()) {
-        return notice(u"Please input user password."_s);
-    }
-    if (!settings.useOwnerPassword) {
-        return std::nullopt;
-    }
-    if (settings.ownerPassword.isEmpty()) {
-        return notice(u"Please input owner password."_s);
-    }
-    if (settings.useUserPassword && settings.userPassword == settings.ownerPassword) {
-        return equalPasswordsNotice();
-    }
-    return std::nullopt;
-}
-
-Notice equalPasswordsNotice() {
-    return notice(u"The passwords can not be the same."_s);
-}
-
 } // namespace folioforge

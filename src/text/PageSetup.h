@@ -3,7 +3,6 @@
 #include "text/Notice.h"
 
 #include <QSizeF>
-#include <QString>
 #include <QStringView>
 
 #include <optional>
@@ -32,16 +31,6 @@ struct PageSetup {
     PageMargins margins;
 };
 
-/// Passwords and permission boxes as entered. A ticked "allow" box refuses the permission.
-struct SecuritySettings {
-    bool useUserPassword = false;
-    QString userPassword;
-    bool useOwnerPassword = false;
-    QString ownerPassword;
-    bool refusePrint = false; ///< State of the print box: ticked means printing is refused.
-    bool refuseCopy = false;  ///< State of the copy box: ticked means copying is refused.
-};
-
 /// The leading integer of `text` after white space, with an optional sign; 0 when there is none.
 /// Values outside the 64-bit range are clamped to its ends.
 qint64 integerValue(QStringView text);
@@ -57,11 +46,5 @@ std::optional<Notice> checkTextPageSizeSettings(const PageSetup &setup);
 
 /// Nothing when the image page settings are valid, else the one notice to show.
 std::optional<Notice> checkImagePageSizeSettings(const PageSetup &setup);
-
-/// Nothing when the passwords are usable, else the one notice to show.
-std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings);
-
-/// The notice that both passwords are the same.
-Notice equalPasswordsNotice();
 
 } // namespace folioforge

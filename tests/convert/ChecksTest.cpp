@@ -10,6 +10,10 @@ using namespace folioforge;
 
 namespace {
 
+const QString kNoUserPassword = u"Please input user password."_s;
+const QString kNoOwnerPassword = u"Please input owner password."_s;
+const QString kSamePasswords = u"The passwords can not be the same."_s;
+
 QString messageOf(const std::optional<Notice> &result) {
     return result ? result->message : QString();
 }
@@ -80,6 +84,32 @@ class ChecksTest : public QObject {
         QVERIFY(!checkConversion(options));
     }
 
+    void anEmptyUserPasswordIsReportedFirst() {
+        QCOMPARE(messageOf(checkSecuritySettings({true, QString(), true, QString(), false, false})),
+                 kNoUserPassword);
+    }
+
+    void anEmptyOwnerPasswordIsRefused() {
+        QCOMPARE(
+            messageOf(checkSecuritySettings({false, QString(), true, QString(), false, false})),
+            kNoOwnerPassword);
+    }
+
+    void equalPasswordsAreRefusedByCase() {
+        const QString lower = u"abc"_s;
+        QCOMPARE(messageOf(checkSecuritySettings({true, lower, true, lower, false, false})),
+                 kSamePasswords);
+        QCOMPARE(
+            messageOf(checkSecuritySettings({true, lower, true, lower.toUpper(), false, false})),
+            QString());
+    }
+
+    void aUserPasswordThatIsOffIsNotCompared() {
+        const QString same = u"abc"_s;
+        QCOMPARE(messageOf(checkSecuritySettings({false, same, true, same, false, false})),
+                 QString());
+    }
+
     void aPasswordThatNoDocumentCanHoldIsRefused() {
         ConversionOptions options = goodOptions();
         options.textPage.margins.top = 300;
@@ -103,7 +133,7 @@ class ChecksTest : public QObject {
         QFETCH(const QString, owner);
         ConversionOptions options = goodOptions();
         options.security = {true, user, true, owner, false, false};
-        QCOMPARE(messageOf(checkConversion(options)), u"The passwords can not be the same."_s);
+        QCOMPARE(messageOf(checkConversion(options)), kSamePasswords);
     }
 
     void passwordsThatStayTwoPass() {

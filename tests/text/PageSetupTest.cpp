@@ -19,9 +19,6 @@ const QString kImageWidth = u"The value of page margin is larger than page width
                             "please modify your image output setting."_s;
 const QString kImageHeight = u"The value of page margin is larger than page height, "
                              "please modify your image output setting."_s;
-const QString kNoUserPassword = u"Please input user password."_s;
-const QString kNoOwnerPassword = u"Please input owner password."_s;
-const QString kSamePasswords = u"The passwords can not be the same."_s;
 
 /// The message of a notice; empty when the check passed.
 QString messageOf(const std::optional<Notice> &result) {
@@ -165,32 +162,6 @@ class PageSetupTest : public QObject {
                  kImageHeight);
         QCOMPARE(messageOf(checkImagePageSizeSettings(
                      {ImagePageCustom, 21, 21, margins(10, 10, 10, 10)})),
-                 QString());
-    }
-
-    void anEmptyUserPasswordIsReportedFirst() {
-        QCOMPARE(messageOf(checkSecuritySettings({true, QString(), true, QString(), false, false})),
-                 kNoUserPassword);
-    }
-
-    void anEmptyOwnerPasswordIsRefused() {
-        QCOMPARE(
-            messageOf(checkSecuritySettings({false, QString(), true, QString(), false, false})),
-            kNoOwnerPassword);
-    }
-
-    void equalPasswordsAreRefusedByCase() {
-        const QString lower = u"abc"_s;
-        QCOMPARE(messageOf(checkSecuritySettings({true, lower, true, lower, false, false})),
-                 kSamePasswords);
-        QCOMPARE(
-            messageOf(checkSecuritySettings({true, lower, true, lower.toUpper(), false, false})),
-            QString());
-    }
-
-    void aUserPasswordThatIsOffIsNotCompared() {
-        const QString same = u"abc"_s;
-        QCOMPARE(messageOf(checkSecuritySettings({false, same, true, same, false, false})),
                  QString());
     }
 };
