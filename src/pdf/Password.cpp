@@ -2,10 +2,10 @@
 
 #include "error/Error.h"
 
-#include <stringprep.h>
 #include <sys/resource.h>
 
-#include <cstdlib>
+#include <unicode/usprep.h>
+
 #include <memory>
 #include <variant>
 
@@ -15,9 +15,35 @@ namespace folioforge {
 
 namespace {
 
-struct FreeDeleter {
-    void operator()(char *text) const { std::free(text); }
+struct CloseProfile {
+    void operator()(UStringPrepProfile *profile) const { usprep_close(profile); }
 };
+using Profile = std::unique_ptr<UStringPrepProfile, CloseProfile>;
+
+/// SASLprep of `text`, or the code of what forbids it. Characters newer than the profile's Unicode
+/// 3.2 pass as they are, or no recent one could be typed.
+std::variant<QString, UErrorCode> saslprep(const QString &text) {
+    UErrorCode status = U_ZERO_ERROR;
+    const Profile profile(usprep_openByType(USPREP_RFC4013_SASLPREP, &status));
+    const auto prepare = [&](QString &output) {
+        return usprep_prepare(
+            profile.get(), reinterpret_cast<const UChar *>(text.utf16()),
+            static_cast<int32_t>(text.size()), reinterpret_cast<UChar *>(output.data()),
+            static_cast<int32_t>(output.size()), USPREP_ALLOW_UNASSIGNED, nullptr, &status);
+    };
+    QString prepared(text.size(), Qt::Uninitialized);
+    int32_t length = prepare(prepared);
+    if (status == U_BUFFER_OVERFLOW_ERROR) {
+        status = U_ZERO_ERROR;
+        prepared.resize(length);
+        length = prepare(prepared);
+    }
+    if (U_FAILURE(status)) {
+        return status;
+    }
+    prepared.truncate(length);
+    return prepared;
+}
 
 std::variant<QByteArray, QString> prepare(const QString &password) {
     if (!password.isValidUtf16()) {
@@ -26,19 +52,14 @@ std::variant<QByteArray, QString> prepare(const QString &password) {
     if (password.contains(QChar(u'\0'))) {
         return u"The password contains a character that passwords cannot have"_s;
     }
-    char *raw = nullptr;
-    // Characters newer than the profile's Unicode 3.2 pass as they are, or no recent one could be
-    // typed.
-    const int status = stringprep_profile(password.toUtf8().constData(), &raw, "SASLprep", {});
-    const std::unique_ptr<char, FreeDeleter> prepared(raw);
-    if (status == STRINGPREP_BIDI_BOTH_L_AND_RAL || status == STRINGPREP_BIDI_LEADTRAIL_NOT_RAL) {
-        return u"The password mixes characters written from right to left with others "
-               "in a way that passwords cannot have"_s;
+    const auto prepared = saslprep(password);
+    if (const auto *status = std::get_if<UErrorCode>(&prepared)) {
+        return *status == U_STRINGPREP_CHECK_BIDI_ERROR
+                   ? u"The password mixes characters written from right to left with others "
+                     "in a way that passwords cannot have"_s
+                   : u"The password contains a character that passwords cannot have"_s;
     }
-    if (status != STRINGPREP_OK) {
-        return u"The password contains a character that passwords cannot have"_s;
-    }
-    QByteArray bytes(prepared.get());
+    QByteArray bytes = std::get<QString>(prepared).toUtf8();
     if (bytes.isEmpty() && !password.isEmpty()) {
         return u"The password contains no visible character"_s;
     }

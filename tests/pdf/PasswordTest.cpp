@@ -44,9 +44,16 @@ class PasswordTest : public QObject {
         QCOMPARE(preparedPassword(u"\u2168"_s), QByteArray("IX"));
     }
 
+    void aCharacterMayBecomeMany() {
+        QCOMPARE(preparedPassword(u"\uFDFA"_s),
+                 u"\u0635\u0644\u0649 \u0627\u0644\u0644\u0647 \u0639\u0644\u064A\u0647 "
+                 "\u0648\u0633\u0644\u0645"_s.toUtf8());
+    }
+
     void forbiddenCharactersAreRefused() {
         QVERIFY(passwordProblem(u"\u0007"_s));
         QVERIFY(passwordProblem(u"\u0627\u0031"_s)); // a digit last, right to left
+        QVERIFY(passwordProblem(u"a\u0750"_s));      // newer than Unicode 3.2, right to left
         QVERIFY(passwordProblem(QString(QChar(0xD800))));
         QVERIFY(passwordProblem(QString(1, QChar(u'\0'))));
         QVERIFY(passwordProblem(u"\u00AD"_s));
