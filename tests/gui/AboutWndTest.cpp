@@ -75,8 +75,8 @@ class AboutWndTest : public QObject {
                  QStringLiteral("Version " FOLIOFORGE_VERSION));
         const QString licences = about.window().findChild<QPlainTextEdit *>()->toPlainText();
         for (const char *library :
-             {"Qt 6", "qpdf", "HarfBuzz", "fontconfig", "libjpeg-turbo", "LibTIFF", "OpenJPEG",
-              "OpenEXR", "libdeflate", "ICU", "libplist"}) {
+             {"Qt 6", "qpdf", "HarfBuzz", "FreeType", "fontconfig", "libjpeg-turbo", "LibTIFF",
+              "OpenJPEG", "OpenEXR", "libdeflate", "ICU", "libplist"}) {
             QVERIFY2(licences.contains(QLatin1StringView(library)), library);
         }
     }

@@ -1,6 +1,7 @@
 #include "pdf/fonts/FontEmbedder.h"
 
 #include "pdf/fonts/FontObjects.h"
+#include "pdf/fonts/FontSubset.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -99,7 +100,7 @@ void FontEmbedder::embed() {
             }
         }
         const FontFace &opened = m_cascade->face(number);
-        const FontSubset subset = makeFontSubset(opened, glyphs);
+        const FontSubset subset = makeFontSubset(opened, face.cids, glyphs);
         FaceObjects objects(m_document, m_streams, opened, subset);
         for (const std::uint16_t font : face.fonts) {
             objects.fillFont(m_fonts[font - 1U].object, m_fonts[font - 1U].table);

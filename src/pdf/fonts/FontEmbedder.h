@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pdf/fonts/CodeTable.h"
-#include "pdf/fonts/FontSubset.h"
+#include "pdf/fonts/GlyphCids.h"
 #include "text/FontCascade.h"
 
 #include <qpdf/QPDFObjectHandle.hh>

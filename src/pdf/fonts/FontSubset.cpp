@@ -1,7 +1,7 @@
 #include "pdf/fonts/FontSubset.h"
 
 #include "error/Error.h"
-#include "pdf/fonts/CffCharset.h"
+#include "pdf/fonts/GlyphCids.h"
 #include "text/FontFace.h"
 
 #include <hb-subset.h>
@@ -36,7 +36,8 @@ constexpr hb_tag_t kDropped[] = {
     HB_TAG('m', 'e', 't', 'a'),
 };
 
-Owned<hb_subset_input_t> makeInput(const FontFace &face, const std::set<std::uint16_t> &glyphs) {
+Owned<hb_subset_input_t> makeInput(const std::optional<GlyphCids> &cids,
+                                   const std::set<std::uint16_t> &glyphs) {
     Owned<hb_subset_input_t> input(hb_subset_input_create_or_fail());
     if (!input) {
         throw std::bad_alloc();
@@ -52,7 +53,7 @@ Owned<hb_subset_input_t> makeInput(const FontFace &face, const std::set<std::uin
     // Without its outline the missing-glyph box would draw nothing.
     unsigned flags = HB_SUBSET_FLAGS_NOTDEF_OUTLINE | HB_SUBSET_FLAGS_NO_HINTING;
     // Readers find the glyphs of a CFF without CIDs by their order, so that must stay.
-    if (const auto cids = GlyphCids::read(face); cids && !cids->areTheFonts()) {
+    if (cids && !cids->isCidKeyed()) {
         flags |= HB_SUBSET_FLAGS_RETAIN_GIDS;
     }
     hb_subset_input_set_flags(input.get(), flags);
@@ -71,20 +72,9 @@ Owned<hb_blob_t> cffTable(hb_face_t *face) {
 
 } // namespace
 
-std::optional<GlyphCids> GlyphCids::read(const FontFace &face) {
-    const auto table = cffTable(face.hbFace());
-    unsigned length = 0;
-    const char *data = hb_blob_get_data(table.get(), &length);
-    if (length == 0) {
-        return std::nullopt;
-    }
-    GlyphCids cids;
-    cids.m_own = readCffCids({data, static_cast<qsizetype>(length)});
-    return cids;
-}
-
-FontSubset makeFontSubset(const FontFace &face, const std::set<std::uint16_t> &glyphs) {
-    const auto input = makeInput(face, glyphs);
+FontSubset makeFontSubset(const FontFace &face, const std::optional<GlyphCids> &cids,
+                          const std::set<std::uint16_t> &glyphs) {
+    const auto input = makeInput(cids, glyphs);
     const Owned<hb_subset_plan_t> plan(hb_subset_plan_create_or_fail(face.hbFace(), input.get()));
     const Owned<hb_face_t> cut(plan ? hb_subset_plan_execute_or_fail(plan.get()) : nullptr);
     if (!cut) {
