@@ -2,7 +2,7 @@
 
 namespace folioforge {
 
-QTransform orientedMatrix(const QRectF &rect, int orientation) {
+Matrix orientedMatrix(const QRectF &rect, int orientation) {
     const double x = rect.x();
     const double y = rect.y();
     const double w = rect.width();

@@ -205,10 +205,9 @@ void PDFContext::Impl::drawImage(const QRectF &rect, const PdfImage &image, int 
     page.endText();
     const std::string name = "/Im" + std::to_string(page.images.size());
     page.images[name] = m_images.embed(image);
-    const QTransform matrix = orientedMatrix(rect, orientation);
+    const Matrix matrix = orientedMatrix(rect, orientation);
     page.content += "q ";
-    for (const double value :
-         {matrix.m11(), matrix.m12(), matrix.m21(), matrix.m22(), matrix.dx(), matrix.dy()}) {
+    for (const double value : {matrix.a, matrix.b, matrix.c, matrix.d, matrix.e, matrix.f}) {
         appendNumber(page.content, value);
     }
     page.content += "cm " + name + " Do Q\n";
