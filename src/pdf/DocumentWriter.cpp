@@ -10,8 +10,9 @@
 
 #include <QCryptographicHash>
 
+#include <libdeflate.h>
+
 #include <algorithm>
-#include <array>
 
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -23,44 +24,61 @@ namespace folioforge {
 
 namespace {
 
-/// The identifier that the library writes when it is told to write a fixed one.
-constexpr std::string_view kPlaceholder = "31415926535897932384626433832795";
+/// Hexadecimal digits of an identifier.
+constexpr qsizetype kIdDigits = 32;
 
-qint64 lastXrefOffset(OutputFile &file) {
+/// The end of a written file, from its cross-reference section on.
+struct Trailer {
+    qint64 start = 0;
+    QByteArray bytes;
+};
+
+Trailer readTrailer(OutputFile &file) {
     constexpr qint64 kTail = 64;
     const qint64 tailSize = std::min(kTail, file.size());
     const QByteArray tail = file.read(file.size() - tailSize, tailSize);
     const QByteArray keyword("startxref\n");
     const auto found = tail.lastIndexOf(keyword);
     const auto digits = found < 0 ? QByteArray() : tail.sliced(found + keyword.size());
-    return digits.left(digits.indexOf('\n')).toLongLong();
+    const qint64 start = digits.left(digits.indexOf('\n')).toLongLong();
+    return {start, file.read(start, file.size() - start)};
 }
 
-/// Replaces the placeholders in the trailer by `id`, 16 bytes in hexadecimal.
-void replaceId(OutputFile &file, const QByteArray &id) {
-    constexpr qint64 kDictionaryLimit = 4096;
-    const qint64 start = lastXrefOffset(file);
-    const QByteArray trailer = file.read(start, std::min(kDictionaryLimit, file.size() - start));
-    const QByteArray placeholder(kPlaceholder.data(), kPlaceholder.size());
-    const auto first = trailer.indexOf("<" + placeholder + ">");
-    const auto second = first < 0 ? -1 : trailer.indexOf("<" + placeholder + ">", first + 1);
-    if (second < 0) {
+/// Writes `id` in the place of both identifiers of `trailer`.
+void putId(Trailer &trailer, const QByteArray &id) {
+    const QByteArray key("/ID [<");
+    const auto first = trailer.bytes.indexOf(key) + key.size();
+    const auto second = first + id.size() + 2; // Behind "><".
+    if (first < key.size() || trailer.bytes.mid(second + id.size(), 2) != ">]") {
         throw Error(u"The document's identifier cannot be written"_s);
     }
-    file.overwrite(start + first + 1, id);
-    file.overwrite(start + second + 1, id);
+    trailer.bytes.replace(first, id.size(), id);
+    trailer.bytes.replace(second, id.size(), id);
+}
+
+std::uint32_t checksumOf(const QByteArray &bytes) {
+    return libdeflate_crc32(0, bytes.constData(), static_cast<std::size_t>(bytes.size()));
 }
 
 std::string infoText(QPDF &document) {
     return document.getTrailer().getKey("/Info").unparseResolved();
 }
 
-/// A checksum instead of the library's MD5 over all bytes: reading a disk is no faster than that.
-QByteArray makeId(QPDF &document, const OutputFile &file, std::uint32_t checksum) {
+/// Replaces the identifier that the library made of the time by one that follows from the
+/// document. A checksum takes less time than the library's own MD5 over all bytes, which reads no
+/// faster than a disk; `checksum` is the CRC-32 of the file.
+void replaceId(QPDF &document, OutputFile &file, std::uint32_t checksum) {
+    Trailer trailer = readTrailer(file);
+    // CRC-32 is linear: this takes the library's identifier out of it.
+    checksum ^= checksumOf(trailer.bytes);
+    putId(trailer, QByteArray(kIdDigits, '0'));
+    checksum ^= checksumOf(trailer.bytes);
+
     QCryptographicHash hash(QCryptographicHash::Md5);
     hash.addData(QByteArray::fromStdString(infoText(document)));
     hash.addData(QByteArray::number(file.size()) + ' ' + QByteArray::number(checksum));
-    return hash.result().toHex();
+    putId(trailer, hash.result().toHex());
+    file.overwrite(trailer.start, trailer.bytes);
 }
 
 /// The library takes and frees blocks of a stream's size several times a stream. Given back to the
@@ -98,7 +116,6 @@ void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryptio
         writer.setObjectStreamMode(qpdf_o_generate);
         writer.setCompressStreams(true);
         writer.setDecodeLevel(qpdf_dl_none);
-        writer.setStaticID(true);
         writer.setMinimumPDFVersion(minimumVersion);
         if (encryption) {
             applyEncryption(writer, *encryption);
@@ -108,7 +125,7 @@ void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryptio
         writer.write();
     });
     pipeline.throwFailure();
-    replaceId(file, makeId(document, file, pipeline.checksum()));
+    replaceId(document, file, pipeline.checksum());
 }
 
 } // namespace folioforge
