@@ -14,10 +14,6 @@
 
 #include <algorithm>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
@@ -81,16 +77,6 @@ void replaceId(QPDF &document, OutputFile &file, std::uint32_t checksum) {
     file.overwrite(trailer.start, trailer.bytes);
 }
 
-/// The library takes and frees blocks of a stream's size several times a stream. Given back to the
-/// system each time, their pages cost more than everything else the writing of photos does.
-void keepFreedBlocks() {
-#ifdef __GLIBC__
-    constexpr int kMaxKept = 32 << 20;
-    ::mallopt(M_MMAP_THRESHOLD, kMaxKept);
-    ::mallopt(M_TRIM_THRESHOLD, 2 * kMaxKept);
-#endif
-}
-
 } // namespace
 
 void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
@@ -108,7 +94,6 @@ void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
 
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
                    const std::string &minimumVersion) {
-    keepFreedBlocks();
     OutputPipeline pipeline(file);
     atQpdfBorder([&] {
         QPDFWriter writer(document);
