@@ -50,14 +50,13 @@ void addTextPage(const PDFFileInfo &entry, PDFContext &context, const PageSetup 
     }
 }
 
-// The header is read again, so that an image that changed since it was listed is placed as it is.
 EmbeddedAs addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup) {
-    const ImageHeader header = readImageHeader(entry.filePathName());
     PdfImage image = toPdfImage(entry.filePathName());
     const EmbeddedAs embeddedAs = image.embeddedAs;
-    const ImagePlacement placement = placeImage(header.sizeInPoints(), setup);
+    const ImagePlacement placement = placeImage(image.header.sizeInPoints(), setup);
     context.beginPage(QRectF(QPointF(0, 0), placement.page));
-    context.drawImage(placement.image, std::move(image), header.orientation);
+    const int orientation = image.header.orientation;
+    context.drawImage(placement.image, std::move(image), orientation);
     context.endPage();
     return embeddedAs;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "error/Error.h"
 #include "files/ImageFile.h"
 #include "image/ImageHeader.h"
 #include "image/PdfImage.h"
@@ -7,6 +8,7 @@
 #include <QByteArrayView>
 #include <QLatin1StringView>
 
+#include <new>
 #include <vector>
 
 namespace folioforge {
@@ -20,10 +22,9 @@ struct ImageFormat {
     /// Whether the first bytes of a file (at most kSniffedBytes) are those of this format; null for
     /// a format without a signature.
     bool (*recognises)(QByteArrayView head);
-    /// Reads the header alone. Density and orientation come as the file states them (0 density
-    /// where it states none). Throws Error.
+    /// Reads the header alone, as checkedHeader() gives it. Throws Error.
     ImageHeader (*readHeader)(const FileView &file);
-    /// Reads the image. Throws Error.
+    /// Reads the image together with its header. Throws Error.
     PdfImage (*toPdfImage)(const FileView &file);
 };
 
@@ -33,5 +34,16 @@ inline constexpr qint64 kSniffedBytes = 64;
 /// The format of the file: by content where a format recognises it, by the extension of its name
 /// otherwise. Throws Error when neither tells.
 const ImageFormat &formatOf(const FileView &file);
+
+/// What `read(file, format)` gives of the image file at `path`, which is open meanwhile. Throws
+/// Error, also where there is not enough memory.
+template<typename Read> auto readImageFile(const QString &path, const Read &read) {
+    try {
+        const ImageFile file = ImageFile::open(path);
+        return read(file, formatOf(file.view()));
+    } catch (const std::bad_alloc &) {
+        throw Error(QStringLiteral("There is not enough memory for the image"));
+    }
+}
 
 } // namespace folioforge

@@ -4,7 +4,6 @@
 #include "image/ImageFormat.h"
 
 #include <cmath>
-#include <new>
 
 using namespace Qt::StringLiterals;
 
@@ -30,8 +29,9 @@ double roundedToWhole(double dpi) {
     return std::abs(dpi - whole) <= kHalfPixelPerMetre ? whole : dpi;
 }
 
-ImageHeader checked(ImageHeader header, ImageKind kind) {
-    header.kind = kind;
+} // namespace
+
+ImageHeader checkedHeader(ImageHeader header) {
     if (header.width <= 0 || header.height <= 0) {
         throw Error(u"The image has no pixels"_s);
     }
@@ -51,16 +51,6 @@ ImageHeader checked(ImageHeader header, ImageKind kind) {
     return header;
 }
 
-template<typename Work> auto withinMemory(const Work &work) {
-    try {
-        return work();
-    } catch (const std::bad_alloc &) {
-        throw Error(u"There is not enough memory for the image"_s);
-    }
-}
-
-} // namespace
-
 QSizeF ImageHeader::sizeInPoints() const {
     constexpr double kPointsPerInch = 72;
     const QSizeF stored(width * kPointsPerInch / horizontalDpi,
@@ -69,24 +59,10 @@ QSizeF ImageHeader::sizeInPoints() const {
 }
 
 ImageHeader readImageHeader(const QString &path) {
-    return withinMemory([&] {
-        const ImageFile file = ImageFile::open(path);
-        const ImageFormat &format = formatOf(file.view());
-        return checked(format.readHeader(file.view()), format.kind);
-    });
-}
-
-PdfImage toPdfImage(const QString &path) {
-    return withinMemory([&] {
-        const ImageFile file = ImageFile::open(path);
-        const ImageFormat &format = formatOf(file.view());
-        checked(format.readHeader(file.view()), format.kind);
-        PdfImage image = format.toPdfImage(file.view());
-        file.requireUnchanged();
-        image.sourcePath = path;
-        image.sourceSize = file.size();
-        image.sourceModifiedNanos = file.modifiedNanos();
-        return image;
+    return readImageFile(path, [](const ImageFile &file, const ImageFormat &format) {
+        ImageHeader header = format.readHeader(file.view());
+        header.kind = format.kind;
+        return header;
     });
 }
 

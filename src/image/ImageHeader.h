@@ -14,20 +14,24 @@ inline constexpr qint64 kMaxImagePixels = 500'000'000;
 /// What the header of an image file says; no pixel is decoded to learn it.
 struct ImageHeader {
     ImageKind kind = ImageKind::Png;
-    int width = 0;       ///< Stored pixels, before orientation.
-    int height = 0;      ///< Stored pixels, before orientation.
-    int orientation = 1; ///< EXIF orientation 1 to 8; anything else in the file counts as 1.
-    double horizontalDpi =
-        72; ///< Pixels per inch along the stored rows; 72 where absent or absurd.
-    double verticalDpi = 72;
+    int width = 0;            ///< Stored pixels, before orientation.
+    int height = 0;           ///< Stored pixels, before orientation.
+    int orientation = 1;      ///< EXIF orientation 1 to 8; anything else in the file counts as 1.
+    double horizontalDpi = 0; ///< Pixels per inch along the stored rows; 0 where not stated.
+    double verticalDpi = 0;   ///< Pixels per inch from row to row; 0 where not stated.
+
+    bool operator==(const ImageHeader &) const = default;
 
     /// Size in points (1/72 inch) as displayed: orientations 5 to 8 exchange the sides.
     [[nodiscard]] QSizeF sizeInPoints() const;
 };
 
-/// Reads the header of the image file at `path`; the kind is chosen by content where the bytes are
-/// plain about it, by extension otherwise. Throws Error when the file is no image that can be read
-/// or exceeds kMaxImagePixels.
+/// `header` with 72 pixels per inch where its density is absurd and orientation 1 where its own
+/// does not exist. Throws Error where it has no pixels or more than kMaxImagePixels.
+ImageHeader checkedHeader(ImageHeader header);
+
+/// Reads the header of the image file at `path`. Throws Error when the file is no image that can be
+/// read or exceeds kMaxImagePixels.
 ImageHeader readImageHeader(const QString &path);
 
 } // namespace folioforge

@@ -29,8 +29,9 @@ enum class EmbeddedAs { OwnBytes, Recompressed };
 /// An image in the form in which a PDF holds it: compressed samples and what is needed to read
 /// them.
 struct PdfImage {
-    int width = 0;            ///< Pixels.
-    int height = 0;           ///< Pixels.
+    ImageHeader header; ///< What the same reading of the file says of it; none in a soft mask.
+    int width = 0;      ///< Pixels.
+    int height = 0;     ///< Pixels.
     int bitsPerComponent = 8; ///< 1, 2, 4, 8 or 16; not written for JPX.
     ImageColor color = ImageColor::Rgb;
     ImageFilter filter = ImageFilter::Flate;

@@ -216,7 +216,7 @@ std::unique_ptr<PdfImage> encodeAlpha(const AlphaPlane &alpha, int width, int he
     return std::make_unique<PdfImage>(encodeRaster(std::move(plane)));
 }
 
-PdfImage encodeRaster(Raster raster) {
+PdfImage encodeRaster(Raster raster, const ImageHeader &header) {
     std::future<std::unique_ptr<PdfImage>> mask;
     if (raster.alpha) {
         mask = runAsync(raster.samples.size(), [&raster] {
@@ -224,6 +224,7 @@ PdfImage encodeRaster(Raster raster) {
         });
     }
     PdfImage image;
+    image.header = header;
     image.width = raster.width;
     image.height = raster.height;
     image.bitsPerComponent = raster.bits;

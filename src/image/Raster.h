@@ -52,8 +52,8 @@ void unpremultiply(Raster &raster);
 
 /// Compresses the pixels without loss, opacity as a soft mask. Opacity that is full everywhere is
 /// dropped, opacity that is all or nothing takes one bit. One-bit images take CCITT group 4 where
-/// that is smaller.
-PdfImage encodeRaster(Raster raster);
+/// that is smaller. `header` is what the file says of the picture.
+PdfImage encodeRaster(Raster raster, const ImageHeader &header = {});
 
 /// The soft mask of an opacity plane; null when it is full everywhere.
 std::unique_ptr<PdfImage> encodeAlpha(const AlphaPlane &alpha, int width, int height);

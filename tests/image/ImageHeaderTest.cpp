@@ -3,7 +3,9 @@
 #include "DecodedImage.h"
 #include "error/Error.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
@@ -20,6 +22,8 @@ class ImageHeaderTest : public QObject {
   private Q_SLOTS:
     void headerStatesFormatAndPixels_data();
     void headerStatesFormatAndPixels();
+    void imageCarriesTheHeaderOfItsFile_data();
+    void imageCarriesTheHeaderOfItsFile();
     void contentCountsMoreThanExtension();
     void extensionDecidesWhereBytesDoNot();
     void unknownContentIsRefused();
@@ -96,6 +100,25 @@ void ImageHeaderTest::headerStatesFormatAndPixels() {
     QCOMPARE(header.horizontalDpi, 72.0);
     const PdfImage image = toPdfImage(imageFile(name));
     QCOMPARE(QSize(image.width, image.height), size);
+}
+
+void ImageHeaderTest::imageCarriesTheHeaderOfItsFile_data() {
+    QTest::addColumn<QString>("path");
+    const QFileInfoList files = QDir(imageFile({})).entryInfoList(QDir::Files, QDir::Name);
+    for (const QFileInfo &file : files) {
+        QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+    }
+    const QByteArray tga = QByteArray::fromHex("000002000000000000000000020001001800") +
+                           QByteArray::fromHex("0102030405060000");
+    QTest::newRow("TGA") << write("two.tga", tga);
+    QTest::newRow("BMP") << bitmapWithDensity(5906);
+}
+
+void ImageHeaderTest::imageCarriesTheHeaderOfItsFile() {
+    QFETCH(const QString, path);
+    const PdfImage image = toPdfImage(path);
+    QCOMPARE(QSize(image.header.width, image.header.height), QSize(image.width, image.height));
+    QVERIFY(image.header == readImageHeader(path));
 }
 
 void ImageHeaderTest::contentCountsMoreThanExtension() {

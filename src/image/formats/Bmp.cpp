@@ -40,7 +40,7 @@ ImageHeader readBitmapHeader(const FileView &file) {
     if (headerSize == kOldHeader) {
         header.width = littleEndianAt<quint16>(head, 18);
         header.height = littleEndianAt<quint16>(head, 20);
-        return header;
+        return checkedHeader(header);
     }
     header.width = littleEndianAt<qint32>(head, 18);
     // A negative height means rows from the top.
@@ -50,7 +50,7 @@ ImageHeader readBitmapHeader(const FileView &file) {
         header.horizontalDpi = littleEndianAt<qint32>(head, 38) * kMetresPerInch;
         header.verticalDpi = littleEndianAt<qint32>(head, 42) * kMetresPerInch;
     }
-    return header;
+    return checkedHeader(header);
 }
 
 /// Zeros make a header that Qt does not know one that it knows: it reads neither the shortest of
@@ -150,7 +150,7 @@ PdfImage encodeBitmap(const FileView &file) {
     const auto channels = channelBits(bytes);
     QImage image = readWithQt(std::move(bytes), "bmp");
     widenChannels(image, channels);
-    return encodeRaster(rasterOf(image));
+    return encodeRaster(rasterOf(image), header);
 }
 
 } // namespace

@@ -69,14 +69,12 @@ ImageHeader headerOf(const Imf::Header &exr) {
     };
     header.width = extent(window.min.x, window.max.x);
     header.height = extent(window.min.y, window.max.y);
-    header.horizontalDpi = 0;
-    header.verticalDpi = 0;
     if (Imf::hasXDensity(exr)) {
         header.horizontalDpi = double(Imf::xDensity(exr));
         // Tall pixels lie closer together along a row than the rows do to each other.
         header.verticalDpi = header.horizontalDpi * double(exr.pixelAspectRatio());
     }
-    return header;
+    return checkedHeader(header);
 }
 
 ImageHeader readHeader(const FileView &file) {
@@ -170,10 +168,7 @@ void readLuminanceChroma(const FileView &file, Raster &raster) {
     }
 }
 
-Raster readPixels(const FileView &file) {
-    ExrStream stream(file);
-    Imf::InputFile input(stream);
-    const ImageHeader header = headerOf(input.header());
+Raster readPixels(const FileView &file, Imf::InputFile &input, const ImageHeader &header) {
     const Imf::ChannelList &channels = input.header().channels();
     const auto has = [&](const char *name) { return channels.findChannel(name) != nullptr; };
     const bool isChroma = has("RY") && has("BY");
@@ -209,7 +204,14 @@ bool recognises(QByteArrayView head) {
 }
 
 PdfImage toPdfImage(const FileView &file) {
-    return encodeRaster(reading([&] { return readPixels(file); }));
+    ImageHeader header;
+    Raster raster = reading([&] {
+        ExrStream stream(file);
+        Imf::InputFile input(stream);
+        header = headerOf(input.header());
+        return readPixels(file, input, header);
+    });
+    return encodeRaster(std::move(raster), header);
 }
 
 } // namespace

@@ -45,14 +45,14 @@ ImageHeader readGifHeader(const FileView &file) {
         header.width = header.width == 0 ? side(1) + side(5) : header.width;
         header.height = header.height == 0 ? side(3) + side(7) : header.height;
     }
-    return header;
+    return checkedHeader(header);
 }
 
 PdfImage encodeGif(const FileView &file) {
     constexpr qint64 kLzwRatio = 3000;
     const ImageHeader header = readGifHeader(file);
     requirePlausible(qint64(header.width) * header.height, file.size(), kLzwRatio);
-    return encodeRaster(rasterOf(readWithQt(file.readExactly(0, file.size()), "gif")));
+    return encodeRaster(rasterOf(readWithQt(file.readExactly(0, file.size()), "gif")), header);
 }
 
 } // namespace

@@ -58,6 +58,7 @@ std::optional<Candidate> candidateOf(const IcnsEntry &entry) {
     Candidate candidate{{}, classic->bits, entry.content, std::nullopt, classic};
     candidate.header.width = classic->width;
     candidate.header.height = classic->height;
+    candidate.header = checkedHeader(candidate.header);
     return candidate;
 }
 
@@ -93,7 +94,8 @@ PdfImage toPdfImage(const FileView &file) {
     if (largest.format) {
         return largest.format->toPdfImage(largest.content);
     }
-    return encodeRaster(decodeClassicIcon(*largest.classic, largest.content, entries));
+    return encodeRaster(decodeClassicIcon(*largest.classic, largest.content, entries),
+                        largest.header);
 }
 
 } // namespace

@@ -45,6 +45,7 @@ Frame frameOf(const FileView &content) {
         frame.header.width <= 0 || frame.header.height <= 0) {
         throw Error(u"The icon's picture is of an unknown kind"_s);
     }
+    frame.header = checkedHeader(frame.header);
     return frame;
 }
 
@@ -187,7 +188,7 @@ ImageHeader readHeader(const FileView &file) {
 PdfImage toPdfImage(const FileView &file) {
     const Frame frame = largestFrame(file);
     return frame.isPng ? pngFormat().toPdfImage(frame.content)
-                       : encodeRaster(rasterOf(readBitmap(frame)));
+                       : encodeRaster(rasterOf(readBitmap(frame)), frame.header);
 }
 
 } // namespace

@@ -148,8 +148,6 @@ void readSegment(uchar marker, QByteArrayView segment, JpegMetadata &metadata) {
 
 JpegMetadata readMetadata(const FileView &file) {
     JpegMetadata metadata;
-    metadata.header.horizontalDpi = 0;
-    metadata.header.verticalDpi = 0;
     SegmentReader reader(file);
     qint64 at = 2;
     while (!metadata.hasScan) {
@@ -174,6 +172,7 @@ JpegMetadata readMetadata(const FileView &file) {
     if (metadata.process == 0 || at >= file.size()) {
         throw Error(u"The JPEG file ends before its picture begins"_s);
     }
+    metadata.header = checkedHeader(metadata.header);
     return metadata;
 }
 
@@ -211,6 +210,7 @@ PdfImage toPdfImage(const FileView &file) {
     const JpegMetadata metadata = readMetadata(file);
     requireProcessOfPdf(metadata);
     PdfImage image;
+    image.header = metadata.header;
     image.width = metadata.header.width;
     image.height = metadata.header.height;
     image.color = colorOf(metadata);

@@ -71,9 +71,10 @@ ImageHeader readHeader(const FileView &file) {
 PdfImage toPdfImage(const FileView &file) {
     const Jpeg2000Metadata metadata = readJpeg2000Metadata(file);
     if (metadata.needsDecoding()) {
-        return encodeRaster(decodeJpeg2000(file, metadata));
+        return encodeRaster(decodeJpeg2000(file, metadata), metadata.header);
     }
     PdfImage image;
+    image.header = metadata.header;
     image.width = metadata.header.width;
     image.height = metadata.header.height;
     image.filter = ImageFilter::Jpx;

@@ -168,8 +168,6 @@ bool Jpeg2000Metadata::needsDecoding() const {
 
 Jpeg2000Metadata readJpeg2000Metadata(const FileView &file) {
     Jpeg2000Metadata metadata;
-    metadata.header.horizontalDpi = 0;
-    metadata.header.verticalDpi = 0;
     if (file.read(0, 2) == "\xFF\x4F") {
         readSizeMarker(file, metadata);
     } else {
@@ -178,6 +176,7 @@ Jpeg2000Metadata readJpeg2000Metadata(const FileView &file) {
     if (metadata.components == 0) {
         throw Error(u"The JPEG 2000 file holds no picture"_s);
     }
+    metadata.header = checkedHeader(metadata.header);
     return metadata;
 }
 

@@ -161,8 +161,6 @@ qint64 readChunkAt(const FileView &file, qint64 at, Reading reading, PngMetadata
 
 PngMetadata readMetadata(const FileView &file, Reading reading) {
     PngMetadata metadata;
-    metadata.header.horizontalDpi = 0;
-    metadata.header.verticalDpi = 0;
     // Writers put the orientation before the rows or after them, so all chunks are passed.
     for (qint64 at = kSignatureBytes; !metadata.ended;) {
         at = readChunkAt(file, at, reading, metadata);
@@ -175,6 +173,7 @@ PngMetadata readMetadata(const FileView &file, Reading reading) {
          metadata.palette.size() > kMaxPaletteBytes)) {
         throw Error(u"The PNG file has no palette"_s);
     }
+    metadata.header = checkedHeader(metadata.header);
     return metadata;
 }
 
@@ -288,6 +287,7 @@ AlphaPlane transparencyOf(const QByteArray &rows, const PngMetadata &metadata) {
 
 PdfImage describe(const PngMetadata &metadata) {
     PdfImage image;
+    image.header = metadata.header;
     image.width = metadata.header.width;
     image.height = metadata.header.height;
     image.bitsPerComponent = metadata.bits;
@@ -355,7 +355,7 @@ PdfImage withInterlacedRows(const FileView &file, const PngMetadata &metadata) {
             raster.alpha = transparencyOf(raster.samples, metadata);
         }
     }
-    return encodeRaster(std::move(raster));
+    return encodeRaster(std::move(raster), metadata.header);
 }
 
 bool recognises(QByteArrayView head) {

@@ -244,7 +244,7 @@ PdfImage toPdfImage(const FileView &file) {
         raster.bits == 16 ? removeWhiteMatte<quint16>(raster) : removeWhiteMatte<uchar>(raster);
     }
     applyTransparentIndex(metadata, raster);
-    return encodeRaster(std::move(raster));
+    return encodeRaster(std::move(raster), metadata.header);
 }
 
 } // namespace

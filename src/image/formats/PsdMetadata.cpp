@@ -128,8 +128,6 @@ PsdAlpha alphaOf(const FileView &file, qint64 layers, qint64 layersLength,
 
 PsdMetadata readPsdMetadata(const FileView &file) {
     PsdMetadata metadata;
-    metadata.header.horizontalDpi = 0;
-    metadata.header.verticalDpi = 0;
     readFileHeader(file.readExactly(0, kHeaderBytes), metadata);
     qint64 at = kHeaderBytes;
     const auto nextSection = [&] {
@@ -148,6 +146,7 @@ PsdMetadata readPsdMetadata(const FileView &file) {
                                     : qint64(bigEndianAt<quint32>(length, 0));
     metadata.alpha = alphaOf(file, at, layersLength, metadata, namesChannels);
     metadata.pixelsOffset = at + file.part(at, layersLength).size();
+    metadata.header = checkedHeader(metadata.header);
     return metadata;
 }
 

@@ -188,16 +188,21 @@ void dropEmptyAlpha(Raster &raster) {
     }
 }
 
-ImageHeader readHeader(const FileView &file) {
-    const TgaHeader tga = readTgaHeader(file);
+/// The format has neither density nor orientation.
+ImageHeader imageHeaderOf(const TgaHeader &tga) {
     ImageHeader header;
     header.width = tga.width;
     header.height = tga.height;
-    return header; // The format has no density.
+    return checkedHeader(header);
+}
+
+ImageHeader readHeader(const FileView &file) {
+    return imageHeaderOf(readTgaHeader(file));
 }
 
 PdfImage toPdfImage(const FileView &file) {
     const TgaHeader tga = readTgaHeader(file);
+    const ImageHeader header = imageHeaderOf(tga);
     const QByteArray pixels = readPixels(file, tga);
     Raster raster;
     raster.width = tga.width;
@@ -214,7 +219,7 @@ PdfImage toPdfImage(const FileView &file) {
                   tga.type == Mapped ? readColorMap(file, tga) : std::vector<Rgba>());
     }
     dropEmptyAlpha(raster);
-    return encodeRaster(std::move(raster));
+    return encodeRaster(std::move(raster), header);
 }
 
 } // namespace

@@ -33,16 +33,19 @@ double density(const TiffFile &tiff, uint32_t tag) {
     }
 }
 
-ImageHeader readHeader(const FileView &file) {
-    const TiffFile tiff(file);
-    const TiffShape shape = readTiffShape(tiff);
+ImageHeader imageHeaderOf(const TiffFile &tiff, const TiffShape &shape) {
     ImageHeader header;
     header.width = shape.width;
     header.height = shape.height;
     header.orientation = tiff.number(TIFFTAG_ORIENTATION, 1);
     header.horizontalDpi = density(tiff, TIFFTAG_XRESOLUTION);
     header.verticalDpi = density(tiff, TIFFTAG_YRESOLUTION);
-    return header;
+    return checkedHeader(header);
+}
+
+ImageHeader readHeader(const FileView &file) {
+    const TiffFile tiff(file);
+    return imageHeaderOf(tiff, readTiffShape(tiff));
 }
 
 /// One strip of group 4 is what a PDF holds; more than one would each start anew.
@@ -85,10 +88,13 @@ PdfImage encodeGroup4(const FileView &file, const TiffFile &tiff, const TiffShap
 PdfImage toPdfImage(const FileView &file) {
     const TiffFile tiff(file);
     const TiffShape shape = readTiffShape(tiff);
-    if (isPlainGroup4(tiff, shape)) {
-        return encodeGroup4(file, tiff, shape);
+    const ImageHeader header = imageHeaderOf(tiff, shape);
+    if (!isPlainGroup4(tiff, shape)) {
+        return encodeRaster(decodeTiff(tiff, shape), header);
     }
-    return encodeRaster(decodeTiff(tiff));
+    PdfImage image = encodeGroup4(file, tiff, shape);
+    image.header = header;
+    return image;
 }
 
 } // namespace

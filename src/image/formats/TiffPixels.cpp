@@ -329,8 +329,7 @@ TiffShape readTiffShape(const TiffFile &tiff) {
     return shape;
 }
 
-Raster decodeTiff(const TiffFile &tiff) {
-    const TiffShape shape = readTiffShape(tiff);
+Raster decodeTiff(const TiffFile &tiff, const TiffShape &shape) {
     Raster raster;
     raster.width = shape.width;
     raster.height = shape.height;

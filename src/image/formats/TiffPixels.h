@@ -20,6 +20,6 @@ struct TiffShape {
 TiffShape readTiffShape(const TiffFile &tiff);
 
 /// Decodes the first directory. Throws Error.
-Raster decodeTiff(const TiffFile &tiff);
+Raster decodeTiff(const TiffFile &tiff, const TiffShape &shape);
 
 } // namespace folioforge
