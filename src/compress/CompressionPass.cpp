@@ -75,11 +75,7 @@ class PageProgress : public QPDFWriter::ProgressReporter {
 
 void unlock(QPDF &document, const std::shared_ptr<SourceInput> &input,
             const Encryption *encryption) {
-    // A user password alone is the owner's too, so the owner's always opens.
-    const QByteArray password = encryption ? preparedPassword(encryption->ownerPassword.isEmpty()
-                                                                  ? encryption->userPassword
-                                                                  : encryption->ownerPassword)
-                                           : QByteArray();
+    const QByteArray password = encryption ? preparedPasswords(*encryption).owner : QByteArray();
     document.setSuppressWarnings(true);
     document.processInputSource(input, password.isEmpty() ? nullptr : password.constData());
 }

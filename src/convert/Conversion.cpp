@@ -50,8 +50,8 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
         outcome.embeddedAs = addImagePage(entry, context, options.imagePage);
         break;
     }
-    // What goes wrong with these pages must be told of this entry.
-    context.settlePages();
+    // A failure that shows only now is this entry's too.
+    context.waitForPages();
 }
 
 EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
@@ -96,7 +96,6 @@ std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security) {
     auto encryption = std::make_unique<Encryption>();
     if (security.useUserPassword) {
         encryption->userPassword = security.userPassword;
-        encryption->ownerPassword = security.userPassword;
     }
     if (security.useOwnerPassword) {
         encryption->ownerPassword = security.ownerPassword;

@@ -8,22 +8,22 @@
 namespace folioforge {
 
 void DeflateBatches::add(const QPDFObjGen &stream, QByteArrayView bytes) {
-    // So much work that starting a thread for it costs nothing beside.
+    // Starting a thread takes no time beside compressing this much.
     constexpr qsizetype kBatchBytes = 1 << 18;
     m_batch.bytes.append(bytes);
     m_batch.pieces.push_back({stream, bytes.size()});
     if (m_batch.bytes.size() < kBatchBytes) {
         return;
     }
-    keepRunning();
+    storeRunning();
     m_running = runAsync([this, batch = std::make_shared<Batch>(std::exchange(m_batch, {}))] {
         return compressed(*batch, m_deflater);
     });
 }
 
-void DeflateBatches::settle() {
-    keepRunning();
-    keep(compressed(std::exchange(m_batch, {}), m_deflater));
+void DeflateBatches::wait() {
+    storeRunning();
+    store(compressed(std::exchange(m_batch, {}), m_deflater));
 }
 
 DeflateBatches::Batch DeflateBatches::compressed(const Batch &batch, Deflater &deflater) {
@@ -40,16 +40,16 @@ DeflateBatches::Batch DeflateBatches::compressed(const Batch &batch, Deflater &d
     return result;
 }
 
-void DeflateBatches::keepRunning() {
+void DeflateBatches::storeRunning() {
     if (m_running.valid()) {
-        keep(m_running.get());
+        store(m_running.get());
     }
 }
 
-void DeflateBatches::keep(const Batch &batch) {
+void DeflateBatches::store(const Batch &batch) {
     QByteArrayView rest = batch.bytes;
     for (const Piece &piece : batch.pieces) {
-        m_keep(piece.stream, rest.first(piece.length));
+        m_store(piece.stream, rest.first(piece.length));
         rest = rest.sliced(piece.length);
     }
 }

@@ -11,21 +11,21 @@
 namespace folioforge {
 
 /// Compresses many small streams, a batch of them at a time, on another core than its caller's.
-/// To be used from one thread.
+/// Use it from one thread.
 class DeflateBatches {
   public:
-    /// Takes the compressed data of a stream; called on the thread that calls add() and settle(),
-    /// in the order in which the streams were added.
-    using Keep = std::function<void(const QPDFObjGen &stream, QByteArrayView compressed)>;
+    /// Stores the compressed data of a stream. It is called on the thread that calls add() and
+    /// wait(), in the order in which the streams were added.
+    using Store = std::function<void(const QPDFObjGen &stream, QByteArrayView compressed)>;
 
-    explicit DeflateBatches(Keep keep)
-        : m_keep(std::move(keep)) {}
+    explicit DeflateBatches(Store store)
+        : m_store(std::move(store)) {}
 
-    /// Takes a copy of `bytes`. What `keep` throws about earlier streams comes out here or in
-    /// settle().
+    /// Takes a copy of `bytes`. What `store` throws about earlier streams comes out here or in
+    /// wait().
     void add(const QPDFObjGen &stream, QByteArrayView bytes);
-    /// Returns when every stream that was added has been kept.
-    void settle();
+    /// Waits until every stream that was added is stored.
+    void wait();
 
   private:
     struct Piece {
@@ -39,13 +39,14 @@ class DeflateBatches {
     };
 
     static Batch compressed(const Batch &batch, Deflater &deflater);
-    void keep(const Batch &batch);
-    void keepRunning();
+    void store(const Batch &batch);
+    /// Waits for the batch that is being compressed, if any, and stores it.
+    void storeRunning();
 
-    Keep m_keep;
+    Store m_store;
     Deflater m_deflater{DeflateEffort::Least}; ///< Used by one batch at a time.
-    Batch m_batch;                             ///< Grows.
-    std::future<Batch> m_running;              ///< The batch before it.
+    Batch m_batch;                             ///< Takes what add() brings.
+    std::future<Batch> m_running;              ///< The batch before it, being compressed.
 };
 
 } // namespace folioforge

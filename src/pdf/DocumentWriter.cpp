@@ -80,16 +80,12 @@ void replaceId(QPDF &document, OutputFile &file, std::uint32_t checksum) {
 } // namespace
 
 void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
-    const QByteArray user = preparedPassword(encryption.userPassword);
-    QByteArray owner = preparedPassword(encryption.ownerPassword);
-    if (owner.isEmpty()) {
-        // Without one everybody would be the owner.
-        owner = user;
-    }
+    const PreparedPasswords passwords = preparedPasswords(encryption);
     const bool allowed = true;
     writer.setR6EncryptionParameters(
-        user.constData(), owner.constData(), allowed, !encryption.refuseCopy, allowed, allowed,
-        allowed, allowed, encryption.refusePrint ? qpdf_r3p_none : qpdf_r3p_full, allowed);
+        passwords.user.constData(), passwords.owner.constData(), allowed, !encryption.refuseCopy,
+        allowed, allowed, allowed, allowed, encryption.refusePrint ? qpdf_r3p_none : qpdf_r3p_full,
+        allowed);
 }
 
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,

@@ -77,7 +77,7 @@ class PDFContext::Impl {
     void drawImage(const QRectF &rect, const PdfImage &image, int orientation);
     int addDocument(const QString &sourcePath);
     CloseResult close(const std::function<QString()> &nextPath);
-    void settlePages() { m_streams.settlePages(); }
+    void waitForPages() { m_streams.waitForPages(); }
     void truncatePages(int count) { m_catalog.truncatePages(count); }
     void beginPage(const QRectF &mediaBox);
     void showGlyphs(double x, double y, std::span<const Glyph> glyphs);
@@ -261,7 +261,7 @@ CloseResult PDFContext::Impl::publish(OutputFile &file, const std::function<QStr
 
 CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
     try {
-        settlePages();
+        waitForPages();
         finishDocument();
         // What is read from now on must come from files that are still what they were.
         m_reader->beginAnew();
@@ -317,8 +317,8 @@ int PDFContext::pageCount() const {
     return m_impl->pageCount();
 }
 
-void PDFContext::settlePages() {
-    atQpdfBorder([&] { m_impl->settlePages(); });
+void PDFContext::waitForPages() {
+    atQpdfBorder([&] { m_impl->waitForPages(); });
 }
 
 void PDFContext::truncatePages(int count) {

@@ -2,6 +2,7 @@
 
 #include "files/Flush.h"
 #include "files/SystemCalls.h"
+#include "pdf/Password.h"
 #include "text/FontCascade.h"
 
 #include <QDateTime>
@@ -24,14 +25,6 @@ struct DocumentInfo {
     QString subject;
     QString keywords;
     QDateTime created; ///< The creation date; documentDate() where it is invalid.
-};
-
-/// Encryption of a document: AES-256, revision 6. Everything not refused stays allowed.
-struct Encryption {
-    QString userPassword;
-    QString ownerPassword;
-    bool refusePrint = false;
-    bool refuseCopy = false;
 };
 
 /// How the writing of a document ended.
@@ -81,10 +74,10 @@ class PDFContext {
     int addDocument(const QString &sourcePath);
 
     [[nodiscard]] int pageCount() const;
-    /// Returns when the pages drawn so far are safe: they are compressed beside the drawing. Throws
-    /// Error when they cannot be kept, which is then to be followed by truncatePages().
-    void settlePages();
-    /// Takes back the drawn pages after the first `count`; for what failed in its midst.
+    /// Waits for the pages drawn so far, which another core compresses. Throws Error when one
+    /// cannot be stored; call truncatePages() then.
+    void waitForPages();
+    /// Removes the drawn pages after the first `count`, such as those of an entry that failed.
     void truncatePages(int count);
 
     /// Writes the document whole and gives it its name without ever replacing another file. When

@@ -85,6 +85,12 @@ QByteArray preparedPassword(const QString &password) {
     return std::get<QByteArray>(result);
 }
 
+PreparedPasswords preparedPasswords(const Encryption &encryption) {
+    const bool ownerIsUser = encryption.ownerPassword.isEmpty();
+    return {preparedPassword(encryption.userPassword),
+            preparedPassword(ownerIsUser ? encryption.userPassword : encryption.ownerPassword)};
+}
+
 void forbidCoreDumps() {
     rlimit limit{};
     if (::getrlimit(RLIMIT_CORE, &limit) == 0) {

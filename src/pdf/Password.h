@@ -11,6 +11,20 @@ namespace folioforge {
 /// makes a file that no reader opens.
 inline constexpr int kMaxPasswordBytes = 127;
 
+/// Encryption of a document: AES-256, revision 6. Everything not refused stays allowed.
+struct Encryption {
+    QString userPassword;
+    QString ownerPassword; ///< Empty where the user password is the owner's too.
+    bool refusePrint = false;
+    bool refuseCopy = false;
+};
+
+/// The bytes of a document's passwords.
+struct PreparedPasswords {
+    QByteArray user;
+    QByteArray owner; ///< Never empty where `user` is not, or everybody would be the owner.
+};
+
 /// Why `password` cannot protect a document, as a sentence without full stop; nothing when it can.
 /// An empty password has no problem.
 std::optional<QString> passwordProblem(const QString &password);
@@ -18,6 +32,8 @@ std::optional<QString> passwordProblem(const QString &password);
 /// The bytes that stand for `password` in an encrypted document: SASLprep (RFC 4013), then UTF-8.
 /// Throws Error with the text of passwordProblem() where there is one.
 QByteArray preparedPassword(const QString &password);
+/// The bytes of both passwords of `encryption`. Throws as preparedPassword() does.
+PreparedPasswords preparedPasswords(const Encryption &encryption);
 
 /// From now on a crash of this process leaves no image of its memory, which holds passwords.
 void forbidCoreDumps();

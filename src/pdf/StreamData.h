@@ -29,11 +29,11 @@ class StreamData {
     QPDFObjectHandle fromBytes(const QPDFObjectHandle &dictionary, QByteArrayView data);
     /// A stream with `data`, compressed here.
     QPDFObjectHandle deflated(QPDFObjectHandle dictionary, QByteArrayView data);
-    /// A stream with a page's `content`, compressed beside what the caller does next. Throws Error
-    /// when an earlier one cannot be kept.
+    /// A stream with a page's `content`, which another core compresses while the caller goes on.
+    /// Throws Error when an earlier one cannot be stored.
     QPDFObjectHandle pageContent(QByteArrayView content);
-    /// Returns when all page contents are kept; throws Error when they cannot be.
-    void settlePages() { m_pages.settle(); }
+    /// Waits until all page contents are stored; throws Error when one cannot be.
+    void waitForPages() { m_pages.wait(); }
     /// A stream with slices of a source file, one after another.
     QPDFObjectHandle fromFile(const QPDFObjectHandle &dictionary, SourceFile file,
                               std::vector<FileSlice> slices);

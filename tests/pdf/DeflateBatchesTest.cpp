@@ -32,13 +32,13 @@ class DeflateBatchesTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void keepsEveryStreamInOrder_data() {
+    void storesEveryStreamInOrder_data() {
         QTest::addColumn<int>("count");
         QTest::newRow("none") << 0;
         QTest::newRow("one, which makes no batch") << 1;
         QTest::newRow("3.6 MB, which makes many") << 3000;
     }
-    void keepsEveryStreamInOrder() {
+    void storesEveryStreamInOrder() {
         QFETCH(const int, count);
         std::vector<Kept> kept;
         DeflateBatches batches([&](const QPDFObjGen &stream, QByteArrayView compressed) {
@@ -48,7 +48,7 @@ class DeflateBatchesTest : public QObject {
         for (int i = 1; i <= count; ++i) {
             batches.add(QPDFObjGen(i, 0), page(i));
         }
-        batches.settle();
+        batches.wait();
         QCOMPARE(kept.size(), static_cast<std::size_t>(count));
         for (int i = 1; i <= count; ++i) {
             QCOMPARE(kept[static_cast<std::size_t>(i - 1)].stream, i);
@@ -61,7 +61,7 @@ class DeflateBatchesTest : public QObject {
             throw std::runtime_error("full");
         });
         batches.add(QPDFObjGen(1, 0), page(1));
-        QVERIFY_EXCEPTION_THROWN(batches.settle(), std::runtime_error);
+        QVERIFY_EXCEPTION_THROWN(batches.wait(), std::runtime_error);
     }
 
     void mayGoAwayWhileABatchIsCompressed() {
