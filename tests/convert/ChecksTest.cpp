@@ -1,7 +1,10 @@
 #include "convert/Checks.h"
 
 #include "support/Files.h"
+#include "support/Rights.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -76,6 +79,17 @@ class ChecksTest : public QObject {
                  "name."_s);
         options.outputName = u"free"_s;
         QCOMPARE(messageOf(checkConversion(options)), QString());
+    }
+
+    void aFolderThatMayNotBeWrittenToIsRefused() {
+        const QDir folder(m_folder.path());
+        QVERIFY(folder.mkdir(u"read-only"_s));
+        ConversionOptions options = goodOptions();
+        options.outputFolder = folder.filePath(u"read-only"_s);
+        QVERIFY(QFile::setPermissions(options.outputFolder, QFile::ReadOwner | QFile::ExeOwner));
+        QString message;
+        test::withoutRightsOfRoot([&] { message = messageOf(checkConversion(options)); });
+        QVERIFY2(message.contains(u"not writable"_s), qPrintable(message));
     }
 
     void singleModeAsksForNoName() {

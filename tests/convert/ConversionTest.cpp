@@ -14,6 +14,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
 #include <memory>
 
@@ -358,6 +360,25 @@ class ConversionTest : public QObject {
         const PdfProbe probe(outcome.close.path);
         QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(QPointF(0, 0), size));
         QCOMPARE(probe.text(1).trimmed(), u"words"_s);
+    }
+
+    void textIsBlackAndFourteenPointsHigh() {
+        addText("a.txt", "WWWW");
+        const PdfProbe probe(convertTo(path("out/a.pdf")).close.path);
+        const QImage page = probe.render(1, 144);
+        int darkest = 255;
+        for (int y = 0; y < page.height(); ++y) {
+            for (int x = 0; x < page.width(); ++x) {
+                const QColor color = page.pixelColor(x, y);
+                QVERIFY(color.red() == color.green() && color.green() == color.blue());
+                darkest = std::min(darkest, color.red());
+            }
+        }
+        QCOMPARE(darkest, 0);
+        // "W" of the first font measures 1933 of 2048 units.
+        const QList<QPointF> origins = probe.characterOrigins(1);
+        QCOMPARE(origins.size(), 4);
+        QVERIFY(std::abs(origins[3].x() - origins[0].x() - 3 * 14.0 * 1933 / 2048) < 0.01);
     }
 
     void aNameTakenMeanwhileGivesWayInSingleMode() {

@@ -62,6 +62,15 @@ class ImagePlacementTest : public QObject {
         QCOMPARE(placed.image.width(), 100.0);
         QVERIFY(placed.image.height() == 233.3333282470703125);
     }
+
+    void theDrawnSizeIsASinglePrecisionProduct() {
+        // Five times the float of 100/3 lies between two floats: 166.6666603088379 is rounded to
+        // 166.66665649414062, where a product of doubles would keep it or say 166.66666666666666.
+        const ImagePlacement placed = placeImage({3, 5}, fixedPage(100, 1000, {}));
+        QCOMPARE(placed.image.width(), 100.0);
+        QVERIFY(placed.image.height() == 166.66665649414062);
+        QVERIFY(placed.image.y() == (1000 - 166.66665649414062) * 0.5);
+    }
 };
 
 QTEST_GUILESS_MAIN(ImagePlacementTest)
