@@ -1,5 +1,7 @@
 #include "strings/StringToolkit.h"
 
+#include <QDir>
+#include <QFile>
 #include <QRandomGenerator>
 #include <QStringConverter>
 #include <QTemporaryDir>
@@ -89,6 +91,15 @@ class StringToolkitTest : public QObject {
                                            QString::fromLatin1(charset),
                                            m_locales.filePath(QString::fromLatin1(name))});
         return run.exitCode == 0 || run.exitCode == 1; // 1: made, with warnings
+    }
+
+    /// Builds a locale in `folder` that has characters but no other category, so that it cannot be
+    /// selected for all of them.
+    bool makePartialLocale(const QTemporaryDir &folder, const char *source, const char *charset,
+                           const QString &name) const {
+        return makeLocale(source, charset, "whole") && QDir(folder.path()).mkdir(name) &&
+               QFile::copy(m_locales.filePath(u"whole/LC_CTYPE"_s),
+                           folder.filePath(name + u"/LC_CTYPE"_s));
     }
 
   private Q_SLOTS:
@@ -473,6 +484,42 @@ class StringToolkitTest : public QObject {
         WideStringToMultiBytesString(L"\u4E2D\u6587", output);
         QCOMPARE(output, std::string("\xD6\xD0\xCE\xC4"));
         QCOMPARE(currentLocale(), std::string(kUtf8Locale));
+    }
+
+    void eachCategoryComesBack() {
+        QVERIFY(makeLocale("zh_CN", "GBK", "chs"));
+        const LocaleGuard locale(kUtf8Locale);
+        qputenv("LOCPATH", m_locales.path().toUtf8());
+        QVERIFY(std::setlocale(LC_NUMERIC, "C") != nullptr);
+        const std::string mixed = currentLocale();
+        QVERIFY(mixed != kUtf8Locale);
+        std::string output;
+        WideStringToMultiBytesString(L"\u4E2D", output);
+        QCOMPARE(output, std::string("\xD6\xD0"));
+        QCOMPARE(currentLocale(), mixed);
+    }
+
+    // The C library keeps what it has loaded from a folder, so these locales have folders of their
+    // own.
+    void namedLocaleThatLacksACategoryIsNotSelected() {
+        const QTemporaryDir folder;
+        QVERIFY(makePartialLocale(folder, "zh_CN", "GBK", u"chs"_s));
+        const LocaleGuard locale(kUtf8Locale);
+        qputenv("LOCPATH", folder.path().toUtf8());
+        std::string output;
+        WideStringToMultiBytesString(L"\u4E2D", output);
+        QCOMPARE(output, std::string("\xE4\xB8\xAD"));
+    }
+
+    void environmentsLocaleThatLacksACategoryIsNotSelected() {
+        const QTemporaryDir folder;
+        QVERIFY(makePartialLocale(folder, "de_DE", "ISO-8859-1", u"partial"_s));
+        qputenv("LOCPATH", folder.path().toUtf8());
+        qputenv("LC_ALL", "partial");
+        std::wstring output;
+        MultiBytesStringToWideString("caf\xE9", output);
+        QVERIFY(output == L"caf");
+        qputenv("LC_ALL", kUtf8Locale);
     }
 
     void environmentsLocaleConvertsToWideAndCIsLeftBehind() {

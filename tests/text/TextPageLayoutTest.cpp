@@ -276,6 +276,15 @@ class TextPageLayoutTest : public QObject {
         QCOMPARE(page[1].glyphs[1].character, U'b');
     }
 
+    void pairWhoseHalfFitsExactlyIsNotBroken() {
+        const double usable = advance(U'a') + font()->missingGlyph().advance;
+        const auto pages = layOutInWidth(u"a\U0001F600b"_s, usable);
+        const Page &page = pages.front();
+        QCOMPARE(page[0].glyphs.size(), std::size_t{2});
+        QCOMPARE(page[0].glyphs[1].character, U'\U0001F600');
+        QCOMPARE(textOf(page[1]), u"b"_s);
+    }
+
     void rowsAreThoseOfMeasuringEveryPrefixAnew() {
         QRandomGenerator random(7);
         const QString alphabet = u"aiW. \u00E9\u0416\u05D0\u4E2D\u0301\U0001F600\U00020BB7\t"_s +
