@@ -279,6 +279,35 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         QCOMPARE(test::readFile(folder.filePath(u"document.pdf"_s)), QByteArray("mine"));
     }
 
+    void theTemporaryNameCountsBeforeTheLastExtensionAlone() {
+        m_path = m_folder->filePath(u"a.b.pdf"_s);
+        test::writePdf(m_path, 1);
+        const QDir folder(m_temporaryFolder);
+        test::writeFile(folder.filePath(u"a.b.pdf"_s), "mine");
+        QCOMPARE(compressed(), folder.filePath(u"a.b(1).pdf"_s));
+    }
+
+    void theOwnersPasswordOpensTheDocument() {
+        encryptDocument(u"neither"_s, u"owner"_s);
+        CompressionOptions options = optionsOf(1);
+        options.encryption = std::make_shared<const Encryption>(Encryption{u"user"_s, u"owner"_s});
+        QCOMPARE(compress(m_path, options).error, QString());
+    }
+
+    void withoutAnOwnersPasswordTheUsersOpensTheDocument() {
+        encryptDocument(u"neither"_s, u"user"_s);
+        CompressionOptions options = optionsOf(1);
+        options.encryption = std::make_shared<const Encryption>(Encryption{u"user"_s, {}});
+        QCOMPARE(compress(m_path, options).error, QString());
+    }
+
+    void aDocumentWithOtherPasswordsIsNotOpened() {
+        encryptDocument(u"neither"_s, u"nor"_s);
+        CompressionOptions options = optionsOf(1);
+        options.encryption = std::make_shared<const Encryption>(Encryption{u"user"_s, u"owner"_s});
+        QVERIFY(!compress(m_path, options).error.isEmpty());
+    }
+
     void everyPageIsReportedWhenItIsWritten() {
         test::writePdf(m_path, 4);
         QList<std::pair<int, int>> pages;
@@ -372,6 +401,14 @@ class CompressionPassTest : public QObject, protected CompressionCase {
     }
 
   private:
+    /// A page at m_path with these passwords.
+    void encryptDocument(const QString &user, const QString &owner) const {
+        const QString plain = test::writePdf(m_folder->filePath(u"plain.pdf"_s), 1);
+        const auto run = test::runTool(
+            u"qpdf"_s, {u"--encrypt"_s, user, owner, u"256"_s, u"--"_s, plain, m_path});
+        QCOMPARE(run.exitCode, 0);
+    }
+
     /// The compressed copy of a document with the passwords "user" and "owner".
     QString protectedCopy() const {
         const QString plain = m_folder->filePath(u"plain.pdf"_s);
