@@ -1,29 +1,28 @@
-# folioforge_tests(ROOM UNITS ... LINKS ... HEADERS ...): one test program for each <Unit>Test.cpp of
-# this folder, named ROOM.Unit in CTest. HEADERS are those outside the tree that take long and that
-# many of the tests include.
+# folioforge_tests(ROOM UNITS ... [SOURCES ...] LINKS ... [HEADERS ...] [APPLICATION CLASS]): the test
+# program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder and of SOURCES. CTest runs
+# it once for each unit, named ROOM.Unit. HEADERS are those outside the tree that take long and that
+# many of the tests include. CLASS is that of the application object, else QCoreApplication.
 function(folioforge_tests room)
-    cmake_parse_arguments(TESTS "" "" "UNITS;LINKS;HEADERS" ${ARGN})
-    list(LENGTH TESTS_UNITS count)
-    list(GET TESTS_UNITS 0 first)
+    cmake_parse_arguments(TESTS "" "APPLICATION" "UNITS;SOURCES;LINKS;HEADERS" ${ARGN})
+    if(NOT TESTS_APPLICATION)
+        set(TESTS_APPLICATION QCoreApplication)
+    endif()
+    set(target test_${room})
+    add_executable(${target} ${TESTS_SOURCES} "${PROJECT_SOURCE_DIR}/tests/support/TestMain.cpp")
+    target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
+    target_link_libraries(${target} PRIVATE
+        ${TESTS_LINKS} folioforge_test_support Qt6::Test folioforge_compiler)
+    set_source_files_properties("${PROJECT_SOURCE_DIR}/tests/support/TestMain.cpp" PROPERTIES
+        COMPILE_DEFINITIONS FOLIOFORGE_TEST_APPLICATION=${TESTS_APPLICATION})
+    target_precompile_headers(${target} PRIVATE
+        <QDir> <QFile> <QFileInfo> <QTemporaryDir> <QTest> <algorithm> <string> <vector>
+        ${TESTS_HEADERS})
     foreach(unit IN LISTS TESTS_UNITS)
-        set(target test_${room}_${unit})
-        add_executable(${target} ${unit}Test.cpp)
-        # What every test includes takes longer to compile than most tests: once a room is enough.
-        if(count GREATER 1 AND unit STREQUAL first)
-            target_precompile_headers(${target} PRIVATE
-                <QDir> <QFile> <QFileInfo> <QTemporaryDir> <QTest> <algorithm> <string> <vector>
-                ${TESTS_HEADERS})
-        elseif(count GREATER 1)
-            target_precompile_headers(${target} REUSE_FROM test_${room}_${first})
-        endif()
-        # One moc run each: AUTOMOC reads every file again and compiles one more, a minute in all.
+        # One moc run each: AUTOMOC reads every file again and compiles one more.
         set(moc "${CMAKE_CURRENT_BINARY_DIR}/${unit}Test.moc")
         qt_generate_moc(${unit}Test.cpp "${moc}")
-        target_sources(${target} PRIVATE "${moc}")
-        target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
-        target_link_libraries(${target} PRIVATE
-            ${TESTS_LINKS} folioforge_test_support Qt6::Test folioforge_compiler)
-        add_test(NAME ${room}.${unit} COMMAND ${target})
+        target_sources(${target} PRIVATE ${unit}Test.cpp "${moc}")
+        add_test(NAME ${room}.${unit} COMMAND ${target} ${unit})
         set_tests_properties(${room}.${unit} PROPERTIES
             TIMEOUT 300
             ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")

@@ -1,4 +1,5 @@
 #include "cli/Arguments.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -210,5 +211,5 @@ class ArgumentsTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ArgumentsTest)
+FOLIOFORGE_TEST(ArgumentsTest)
 #include "ArgumentsTest.moc"

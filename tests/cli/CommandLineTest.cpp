@@ -1,5 +1,6 @@
 #include "support/Files.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -601,5 +602,5 @@ class CommandLineTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(CommandLineTest)
+FOLIOFORGE_TEST(CommandLineTest)
 #include "CommandLineTest.moc"

@@ -2,6 +2,7 @@
 #include "cli/Report.h"
 #include "files/Printable.h"
 #include "support/Files.h"
+#include "support/TestUnit.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -139,5 +140,5 @@ class ConsoleTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ConsoleTest)
+FOLIOFORGE_TEST(ConsoleTest)
 #include "ConsoleTest.moc"

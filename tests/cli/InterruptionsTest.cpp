@@ -3,6 +3,7 @@
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
 #include "support/RunFolders.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -101,5 +102,5 @@ class InterruptionsTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(InterruptionsTest)
+FOLIOFORGE_TEST(InterruptionsTest)
 #include "InterruptionsTest.moc"

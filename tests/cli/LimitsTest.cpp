@@ -3,6 +3,7 @@
 #include "support/Files.h"
 #include "support/LimitedRun.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFile>
@@ -271,5 +272,5 @@ class LimitsTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(LimitsTest)
+FOLIOFORGE_TEST(LimitsTest)
 #include "LimitsTest.moc"

@@ -1,6 +1,7 @@
 #include "support/Files.h"
 #include "support/HostileNames.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QJsonDocument>
@@ -149,5 +150,5 @@ class NamesTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(NamesTest)
+FOLIOFORGE_TEST(NamesTest)
 #include "NamesTest.moc"

@@ -2,6 +2,7 @@
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
 #include "support/RunFolders.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -133,5 +134,5 @@ class PasswordsTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(PasswordsTest)
+FOLIOFORGE_TEST(PasswordsTest)
 #include "PasswordsTest.moc"

@@ -2,6 +2,7 @@
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
 #include "support/RunFolders.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QProcess>
@@ -134,5 +135,5 @@ class RacesTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(RacesTest)
+FOLIOFORGE_TEST(RacesTest)
 #include "RacesTest.moc"

@@ -1,6 +1,7 @@
 #include "CompressionCase.h"
 #include "support/CmykJpeg.h"
 #include "support/Files.h"
+#include "support/TestUnit.h"
 
 #include <QColorSpace>
 #include <QFileInfo>
@@ -252,5 +253,5 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
     }
 };
 
-QTEST_GUILESS_MAIN(CompressionImagesTest)
+FOLIOFORGE_TEST(CompressionImagesTest)
 #include "CompressionImagesTest.moc"

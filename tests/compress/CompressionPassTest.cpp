@@ -6,6 +6,7 @@
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFile>
@@ -428,5 +429,5 @@ class CompressionPassTest : public QObject, protected CompressionCase {
     }
 };
 
-QTEST_GUILESS_MAIN(CompressionPassTest)
+FOLIOFORGE_TEST(CompressionPassTest)
 #include "CompressionPassTest.moc"

@@ -2,6 +2,7 @@
 #include "error/Error.h"
 #include "support/FaultyCalls.h"
 #include "support/Files.h"
+#include "support/TestUnit.h"
 
 #include <csignal>
 #include <cstring>
@@ -349,5 +350,5 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     }
 };
 
-QTEST_GUILESS_MAIN(CompressionUsesTest)
+FOLIOFORGE_TEST(CompressionUsesTest)
 #include "CompressionUsesTest.moc"

@@ -1,4 +1,5 @@
 #include "CompressionCase.h"
+#include "support/TestUnit.h"
 
 using namespace folioforge;
 using namespace folioforge::test;
@@ -123,5 +124,5 @@ class DuplicateStreamsTest : public QObject, protected CompressionCase {
     }
 };
 
-QTEST_GUILESS_MAIN(DuplicateStreamsTest)
+FOLIOFORGE_TEST(DuplicateStreamsTest)
 #include "DuplicateStreamsTest.moc"

@@ -1,4 +1,5 @@
 #include "compress/jpeg/JpegWriter.h"
+#include "support/TestUnit.h"
 
 #include "compress/jpeg/JpegColor.h"
 
@@ -98,5 +99,5 @@ class JpegWriterTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(JpegWriterTest)
+FOLIOFORGE_TEST(JpegWriterTest)
 #include "JpegWriterTest.moc"

@@ -1,4 +1,5 @@
 #include "compress/PropertyList.h"
+#include "support/TestUnit.h"
 
 #include "error/Error.h"
 
@@ -120,5 +121,5 @@ class PropertyListTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(PropertyListTest)
+FOLIOFORGE_TEST(PropertyListTest)
 #include "PropertyListTest.moc"

@@ -4,6 +4,7 @@
 #include "compress/jpeg/JpegReader.h"
 #include "error/Error.h"
 #include "support/JpegFile.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -339,5 +340,5 @@ class ReducedScanTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ReducedScanTest)
+FOLIOFORGE_TEST(ReducedScanTest)
 #include "ReducedScanTest.moc"

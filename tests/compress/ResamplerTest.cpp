@@ -1,4 +1,5 @@
 #include "compress/Resampler.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -110,5 +111,5 @@ class ResamplerTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ResamplerTest)
+FOLIOFORGE_TEST(ResamplerTest)
 #include "ResamplerTest.moc"

@@ -2,6 +2,7 @@
 
 #include "support/Files.h"
 #include "support/Rights.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFile>
@@ -163,5 +164,5 @@ class ChecksTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ChecksTest)
+FOLIOFORGE_TEST(ChecksTest)
 #include "ChecksTest.moc"

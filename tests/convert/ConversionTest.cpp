@@ -3,6 +3,7 @@
 #include "convert/PageWriters.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFile>
@@ -448,5 +449,5 @@ class ConversionTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ConversionTest)
+FOLIOFORGE_TEST(ConversionTest)
 #include "ConversionTest.moc"

@@ -1,6 +1,7 @@
 #include "WholeRun.h"
 
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <cstring>
 
@@ -203,5 +204,5 @@ class FaultsTest : public QObject, private WholeRun {
     void cleanupTestCase() const { qInfo("%d faults, %d stops tried", m_tried, m_stops); }
 };
 
-QTEST_GUILESS_MAIN(FaultsTest)
+FOLIOFORGE_TEST(FaultsTest)
 #include "FaultsTest.moc"

@@ -1,4 +1,5 @@
 #include "convert/ImagePlacement.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -73,5 +74,5 @@ class ImagePlacementTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(ImagePlacementTest)
+FOLIOFORGE_TEST(ImagePlacementTest)
 #include "ImagePlacementTest.moc"

@@ -1,4 +1,5 @@
 #include "WholeRun.h"
+#include "support/TestUnit.h"
 
 #include <QElapsedTimer>
 #include <QRandomGenerator>
@@ -103,5 +104,5 @@ class KilledRunsTest : public QObject, private WholeRun {
     }
 };
 
-QTEST_GUILESS_MAIN(KilledRunsTest)
+FOLIOFORGE_TEST(KilledRunsTest)
 #include "KilledRunsTest.moc"

@@ -4,6 +4,7 @@
 #include "convert/Conversion.h"
 #include "filelist/EntryReader.h"
 #include "support/Files.h"
+#include "support/TestUnit.h"
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -98,5 +99,5 @@ class NoThreadsTest : public QObject, CompressionCase {
     }
 };
 
-QTEST_MAIN(NoThreadsTest)
+FOLIOFORGE_TEST(NoThreadsTest)
 #include "NoThreadsTest.moc"

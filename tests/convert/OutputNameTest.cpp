@@ -1,6 +1,7 @@
 #include "convert/OutputName.h"
 
 #include "support/Files.h"
+#include "support/TestUnit.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -96,5 +97,5 @@ class OutputNameTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(OutputNameTest)
+FOLIOFORGE_TEST(OutputNameTest)
 #include "OutputNameTest.moc"

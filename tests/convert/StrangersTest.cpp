@@ -1,4 +1,5 @@
 #include "WholeRun.h"
+#include "support/TestUnit.h"
 
 #include <QDirIterator>
 
@@ -116,5 +117,5 @@ class StrangersTest : public QObject, private WholeRun {
     void cleanupTestCase() const { qInfo("%d files and links planted", m_planted); }
 };
 
-QTEST_GUILESS_MAIN(StrangersTest)
+FOLIOFORGE_TEST(StrangersTest)
 #include "StrangersTest.moc"

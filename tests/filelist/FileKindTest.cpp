@@ -1,5 +1,6 @@
 #include "filelist/FileKind.h"
 #include "files/PathNames.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -62,5 +63,5 @@ class FileKindTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(FileKindTest)
+FOLIOFORGE_TEST(FileKindTest)
 #include "FileKindTest.moc"

@@ -1,6 +1,7 @@
 #include "filelist/PDFFileInfo.h"
 
 #include "support/InstalledFonts.h"
+#include "support/TestUnit.h"
 #include "text/FontCatalog.h"
 
 #include <QFile>
@@ -83,5 +84,5 @@ class NameWidthTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(NameWidthTest)
+FOLIOFORGE_TEST(NameWidthTest)
 #include "NameWidthTest.moc"

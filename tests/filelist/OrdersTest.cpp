@@ -1,6 +1,7 @@
 #include "filelist/Orders.h"
 
 #include "support/Files.h"
+#include "support/TestUnit.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -165,5 +166,5 @@ class OrdersTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(OrdersTest)
+FOLIOFORGE_TEST(OrdersTest)
 #include "OrdersTest.moc"

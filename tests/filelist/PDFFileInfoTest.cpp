@@ -2,6 +2,7 @@
 
 #include "filelist/EntryReader.h"
 #include "support/Files.h"
+#include "support/TestUnit.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -324,5 +325,5 @@ class PDFFileInfoTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(PDFFileInfoTest)
+FOLIOFORGE_TEST(PDFFileInfoTest)
 #include "PDFFileInfoTest.moc"

@@ -4,6 +4,7 @@
 #include "files/ReadableLinks.h"
 #include "files/TemporaryFolder.h"
 #include "support/Files.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -175,5 +176,5 @@ class SourceFilesTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(SourceFilesTest)
+FOLIOFORGE_TEST(SourceFilesTest)
 #include "SourceFilesTest.moc"

@@ -5,6 +5,7 @@
 #include "files/TemporaryFolder.h"
 #include "support/FaultyCalls.h"
 #include "support/Files.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFile>
@@ -351,5 +352,5 @@ class OutputFileTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(OutputFileTest)
+FOLIOFORGE_TEST(OutputFileTest)
 #include "OutputFileTest.moc"

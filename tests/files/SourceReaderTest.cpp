@@ -3,6 +3,7 @@
 #include "error/Error.h"
 #include "files/ImageFile.h"
 #include "support/Files.h"
+#include "support/TestUnit.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -132,5 +133,5 @@ class SourceReaderTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(SourceReaderTest)
+FOLIOFORGE_TEST(SourceReaderTest)
 #include "SourceReaderTest.moc"

@@ -3,6 +3,7 @@
 #include "error/Error.h"
 #include "files/PartFiles.h"
 #include "support/FaultyCalls.h"
+#include "support/TestUnit.h"
 
 #include <QScopeGuard>
 #include <QTemporaryDir>
@@ -144,5 +145,5 @@ class SpoolTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(SpoolTest)
+FOLIOFORGE_TEST(SpoolTest)
 #include "SpoolTest.moc"

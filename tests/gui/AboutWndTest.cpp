@@ -1,4 +1,5 @@
 #include "app/AboutWndCtrl.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QLabel>
@@ -91,5 +92,5 @@ class AboutWndTest : public QObject {
     }
 };
 
-QTEST_MAIN(AboutWndTest)
+FOLIOFORGE_TEST(AboutWndTest)
 #include "AboutWndTest.moc"

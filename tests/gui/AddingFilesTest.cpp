@@ -1,5 +1,6 @@
 #include "gui/TestWindow.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QAbstractItemView>
 #include <QBuffer>
@@ -387,5 +388,5 @@ class AddingFilesTest : public QObject {
     }
 };
 
-QTEST_MAIN(AddingFilesTest)
+FOLIOFORGE_TEST(AddingFilesTest)
 #include "AddingFilesTest.moc"

@@ -4,6 +4,7 @@
 #include "mainwnd/FilesArray.h"
 #include "skin/OptionsDrawer.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QApplication>
 #include <QDir>
@@ -292,5 +293,5 @@ class AppDelegateTest : public QObject {
     }
 };
 
-QTEST_MAIN(AppDelegateTest)
+FOLIOFORGE_TEST(AppDelegateTest)
 #include "AppDelegateTest.moc"

@@ -1,4 +1,5 @@
 #include "skin/CycleSkinedView.h"
+#include "support/TestUnit.h"
 
 #include <QImage>
 #include <QTest>
@@ -36,5 +37,5 @@ class BackgroundTest : public QObject {
     }
 };
 
-QTEST_MAIN(BackgroundTest)
+FOLIOFORGE_TEST(BackgroundTest)
 #include "BackgroundTest.moc"

@@ -1,4 +1,5 @@
 #include "skin/BusySheet.h"
+#include "support/TestUnit.h"
 
 #include <QAction>
 #include <QApplication>
@@ -127,5 +128,5 @@ class BusySheetTest : public QObject {
     }
 };
 
-QTEST_MAIN(BusySheetTest)
+FOLIOFORGE_TEST(BusySheetTest)
 #include "BusySheetTest.moc"

@@ -2,6 +2,7 @@
 #include "support/Files.h"
 #include "support/NoThreads.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -606,5 +607,5 @@ class ConvertingFilesTest : public QObject {
     }
 };
 
-QTEST_MAIN(ConvertingFilesTest)
+FOLIOFORGE_TEST(ConvertingFilesTest)
 #include "ConvertingFilesTest.moc"

@@ -1,4 +1,5 @@
 #include "gui/TestWindow.h"
+#include "support/TestUnit.h"
 
 #include <QDragEnterEvent>
 #include <QMenu>
@@ -213,5 +214,5 @@ class DroppingFilesTest : public QObject {
     }
 };
 
-QTEST_MAIN(DroppingFilesTest)
+FOLIOFORGE_TEST(DroppingFilesTest)
 #include "DroppingFilesTest.moc"

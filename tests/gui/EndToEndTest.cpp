@@ -2,6 +2,7 @@
 
 #include "support/Files.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QImage>
@@ -282,5 +283,5 @@ void EndToEndTest::checkThatOnlyWholeFilesAreLeft(const DesktopSession &desktop,
     QVERIFY2(temporary.isEmpty(), qUtf8Printable(temporary.join(u' ')));
 }
 
-QTEST_GUILESS_MAIN(EndToEndTest)
+FOLIOFORGE_TEST(EndToEndTest)
 #include "EndToEndTest.moc"

@@ -1,4 +1,5 @@
 #include "mainwnd/FilesArray.h"
+#include "support/TestUnit.h"
 
 #include <QAbstractItemModelTester>
 #include <QFont>
@@ -264,5 +265,5 @@ class FilesArrayTest : public QObject {
     }
 };
 
-QTEST_MAIN(FilesArrayTest)
+FOLIOFORGE_TEST(FilesArrayTest)
 #include "FilesArrayTest.moc"

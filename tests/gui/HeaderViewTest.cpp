@@ -1,4 +1,5 @@
 #include "skin/VesprinTableHeaderView.h"
+#include "support/TestUnit.h"
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
@@ -171,5 +172,5 @@ class HeaderViewTest : public QObject {
     }
 };
 
-QTEST_MAIN(HeaderViewTest)
+FOLIOFORGE_TEST(HeaderViewTest)
 #include "HeaderViewTest.moc"

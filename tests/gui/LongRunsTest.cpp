@@ -1,4 +1,5 @@
 #include "gui/TestWindow.h"
+#include "support/TestUnit.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -131,5 +132,5 @@ class LongRunsTest : public QObject {
     }
 };
 
-QTEST_MAIN(LongRunsTest)
+FOLIOFORGE_TEST(LongRunsTest)
 #include "LongRunsTest.moc"

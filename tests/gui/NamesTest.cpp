@@ -2,6 +2,7 @@
 #include "mainwnd/OpenCommand.h"
 #include "support/HostileNames.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QLabel>
 #include <QMessageBox>
@@ -170,5 +171,5 @@ class NamesTest : public QObject {
     }
 };
 
-QTEST_MAIN(NamesTest)
+FOLIOFORGE_TEST(NamesTest)
 #include "NamesTest.moc"

@@ -1,4 +1,5 @@
 #include "OffscreenScreen.h"
+#include "support/TestUnit.h"
 
 #include "mainwnd/Notices.h"
 
@@ -162,5 +163,5 @@ class NoticesTest : public QObject {
     }
 };
 
-QTEST_MAIN(NoticesTest)
+FOLIOFORGE_TEST(NoticesTest)
 #include "NoticesTest.moc"

@@ -1,4 +1,5 @@
 #include "mainwnd/OpenCommand.h"
+#include "support/TestUnit.h"
 
 #include <QFile>
 #include <QProcess>
@@ -78,5 +79,5 @@ class OpenCommandTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(OpenCommandTest)
+FOLIOFORGE_TEST(OpenCommandTest)
 #include "OpenCommandTest.moc"

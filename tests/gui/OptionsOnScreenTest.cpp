@@ -1,5 +1,6 @@
 #include "OffscreenScreen.h"
 #include "WindowWorld.h"
+#include "support/TestUnit.h"
 
 #include "mainwnd/MainWndCtrl.h"
 #include "skin/OptionsDrawer.h"
@@ -174,5 +175,5 @@ class OptionsOnScreenTest : public QObject {
     }
 };
 
-QTEST_MAIN(OptionsOnScreenTest)
+FOLIOFORGE_TEST(OptionsOnScreenTest)
 #include "OptionsOnScreenTest.moc"

@@ -1,4 +1,5 @@
 #include "WindowWorld.h"
+#include "support/TestUnit.h"
 
 #include "mainwnd/MainWndCtrl.h"
 #include "skin/OptionsDrawer.h"
@@ -327,5 +328,5 @@ class OptionsPanelTest : public QObject {
     }
 };
 
-QTEST_MAIN(OptionsPanelTest)
+FOLIOFORGE_TEST(OptionsPanelTest)
 #include "OptionsPanelTest.moc"

@@ -1,4 +1,5 @@
 #include "gui/TestWindow.h"
+#include "support/TestUnit.h"
 
 #include <QLineEdit>
 #include <QScrollBar>
@@ -240,5 +241,5 @@ class OrderingFilesTest : public QObject {
     }
 };
 
-QTEST_MAIN(OrderingFilesTest)
+FOLIOFORGE_TEST(OrderingFilesTest)
 #include "OrderingFilesTest.moc"

@@ -1,4 +1,5 @@
 #include "WindowWorld.h"
+#include "support/TestUnit.h"
 
 #include "mainwnd/MainWndCtrl.h"
 
@@ -205,5 +206,5 @@ class OutputFolderTest : public QObject {
     }
 };
 
-QTEST_MAIN(OutputFolderTest)
+FOLIOFORGE_TEST(OutputFolderTest)
 #include "OutputFolderTest.moc"

@@ -1,4 +1,5 @@
 #include "skin/SkinButton.h"
+#include "support/TestUnit.h"
 
 #include <QPainter>
 #include <QSignalSpy>
@@ -288,5 +289,5 @@ class SkinButtonTest : public QObject {
     }
 };
 
-QTEST_MAIN(SkinButtonTest)
+FOLIOFORGE_TEST(SkinButtonTest)
 #include "SkinButtonTest.moc"

@@ -1,5 +1,6 @@
 #include "mainwnd/SkinTableView.h"
 #include "mainwnd/FilesArray.h"
+#include "support/TestUnit.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -478,5 +479,5 @@ class SkinTableViewTest : public QObject {
     }
 };
 
-QTEST_MAIN(SkinTableViewTest)
+FOLIOFORGE_TEST(SkinTableViewTest)
 #include "SkinTableViewTest.moc"

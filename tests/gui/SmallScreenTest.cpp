@@ -1,5 +1,6 @@
 #include "OffscreenScreen.h"
 #include "WindowWorld.h"
+#include "support/TestUnit.h"
 
 #include "mainwnd/MainWndCtrl.h"
 #include "skin/LightLook.h"
@@ -190,5 +191,5 @@ class SmallScreenTest : public QObject {
     }
 };
 
-QTEST_MAIN(SmallScreenTest)
+FOLIOFORGE_TEST(SmallScreenTest)
 #include "SmallScreenTest.moc"

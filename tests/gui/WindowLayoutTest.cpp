@@ -1,4 +1,5 @@
 #include "WindowWorld.h"
+#include "support/TestUnit.h"
 
 #include "mainwnd/MainWndCtrl.h"
 #include "skin/CycleSkinedView.h"
@@ -331,5 +332,5 @@ class WindowLayoutTest : public QObject {
     }
 };
 
-QTEST_MAIN(WindowLayoutTest)
+FOLIOFORGE_TEST(WindowLayoutTest)
 #include "WindowLayoutTest.moc"

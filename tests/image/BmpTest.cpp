@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include "image/ImageHeader.h"
 
@@ -208,5 +209,5 @@ void BmpTest::cutFileIsRefused() {
     QCOMPARE(refusalOf(file(whole.first(left))), u"The file ends too early"_s);
 }
 
-QTEST_GUILESS_MAIN(BmpTest)
+FOLIOFORGE_TEST(BmpTest)
 #include "BmpTest.moc"

@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -105,5 +106,5 @@ void DamageTest::pixelsBehindTheEndAreRefusedWithoutAWord() {
     QVERIFY(!refusalOf(path).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(DamageTest)
+FOLIOFORGE_TEST(DamageTest)
 #include "DamageTest.moc"

@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include <ImfArray.h>
 #include <ImfChannelList.h>
@@ -175,5 +176,5 @@ void ExrTest::cutFileIsRefused() {
     QVERIFY(!refusalOf(path).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(ExrTest)
+FOLIOFORGE_TEST(ExrTest)
 #include "ExrTest.moc"

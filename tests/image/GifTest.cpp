@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include "image/ImageHeader.h"
 
@@ -96,5 +97,5 @@ void GifTest::aScreenWithoutSizeNeedsAnImage() {
     QVERIFY(!refusalOf(gif("00000000", rest)).isEmpty());
 }
 
-QTEST_GUILESS_MAIN(GifTest)
+FOLIOFORGE_TEST(GifTest)
 #include "GifTest.moc"

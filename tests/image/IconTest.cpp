@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -248,5 +249,5 @@ void IconTest::framesBehindTheHundredthAreNotLookedAt() {
     QCOMPARE(readImageHeader(write("more.ico", ico(frames + QList{large}))).width, 8);
 }
 
-QTEST_GUILESS_MAIN(IconTest)
+FOLIOFORGE_TEST(IconTest)
 #include "IconTest.moc"

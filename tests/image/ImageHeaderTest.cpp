@@ -1,4 +1,5 @@
 #include "image/ImageHeader.h"
+#include "support/TestUnit.h"
 
 #include "DecodedImage.h"
 #include "error/Error.h"
@@ -222,5 +223,5 @@ void ImageHeaderTest::emptyFileIsRefused() {
     QCOMPARE(headerRefusal(write("empty.jpg", {})), u"The file is empty"_s);
 }
 
-QTEST_GUILESS_MAIN(ImageHeaderTest)
+FOLIOFORGE_TEST(ImageHeaderTest)
 #include "ImageHeaderTest.moc"

@@ -1,5 +1,6 @@
 #include "DecodedImage.h"
 #include "image/formats/Jpeg2000Pixels.h"
+#include "support/TestUnit.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -197,5 +198,5 @@ void Jpeg2000Test::opacityIsTakenFromAmongTheColors() {
     QCOMPARE(raster.alpha->samples.toHex(), opacity.toHex());
 }
 
-QTEST_GUILESS_MAIN(Jpeg2000Test)
+FOLIOFORGE_TEST(Jpeg2000Test)
 #include "Jpeg2000Test.moc"

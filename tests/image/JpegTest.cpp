@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include "error/Error.h"
 
@@ -194,5 +195,5 @@ void JpegTest::componentsNamedForRgbAreRgb() {
     QVERIFY(!toPdfImage(write(named(photoWith(adobe)))).isPlainRgb);
 }
 
-QTEST_GUILESS_MAIN(JpegTest)
+FOLIOFORGE_TEST(JpegTest)
 #include "JpegTest.moc"

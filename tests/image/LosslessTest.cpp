@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -271,5 +272,5 @@ void LosslessTest::inkOfATiffKeepsFourComponents() {
     QCOMPARE(unzipped(image.data).size(), qsizetype(16 * (1 + 24 * 4)));
 }
 
-QTEST_GUILESS_MAIN(LosslessTest)
+FOLIOFORGE_TEST(LosslessTest)
 #include "LosslessTest.moc"

@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -100,5 +101,5 @@ void OwnBytesTest::jpeg2000InsideAnIconIsSplit() {
     QVERIFY(image.softMask != nullptr);
 }
 
-QTEST_GUILESS_MAIN(OwnBytesTest)
+FOLIOFORGE_TEST(OwnBytesTest)
 #include "OwnBytesTest.moc"

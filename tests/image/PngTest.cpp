@@ -1,5 +1,6 @@
 #include "DecodedImage.h"
 #include "image/Bytes.h"
+#include "support/TestUnit.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -135,5 +136,5 @@ void PngTest::sampleBehindMoreBitsThanAnIntCountsIsFound() {
     QCOMPARE(packedSample(bytes, 4 * row.size() - 2, 2), 2);
 }
 
-QTEST_GUILESS_MAIN(PngTest)
+FOLIOFORGE_TEST(PngTest)
 #include "PngTest.moc"

@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -126,5 +127,5 @@ void PsdTest::namedChannelIsNoOpacity() {
             nullptr);
 }
 
-QTEST_GUILESS_MAIN(PsdTest)
+FOLIOFORGE_TEST(PsdTest)
 #include "PsdTest.moc"

@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -96,5 +97,5 @@ void TgaTest::cutFileIsRefused() {
              u"The file ends too early"_s);
 }
 
-QTEST_GUILESS_MAIN(TgaTest)
+FOLIOFORGE_TEST(TgaTest)
 #include "TgaTest.moc"

@@ -1,4 +1,5 @@
 #include "DecodedImage.h"
+#include "support/TestUnit.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -164,5 +165,5 @@ void TiffTest::shortDataIsRefused() {
     QCOMPARE(refusalOf(path), u"The file is too short for the image its header describes"_s);
 }
 
-QTEST_GUILESS_MAIN(TiffTest)
+FOLIOFORGE_TEST(TiffTest)
 #include "TiffTest.moc"

@@ -1,4 +1,5 @@
 #include "pdf/ContentNumber.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -37,5 +38,5 @@ class ContentNumberTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(ContentNumberTest)
+FOLIOFORGE_TEST(ContentNumberTest)
 #include "ContentNumberTest.moc"

@@ -1,4 +1,5 @@
 #include "pdf/DeflateBatches.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -75,5 +76,5 @@ class DeflateBatchesTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(DeflateBatchesTest)
+FOLIOFORGE_TEST(DeflateBatchesTest)
 #include "DeflateBatchesTest.moc"

@@ -1,5 +1,6 @@
 #include "pdf/PDFContext.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 #include "text/TextPageLayout.h"
 
 #include <QFile>
@@ -292,5 +293,5 @@ class FontEmbedderTest : public QObject {
     }
 };
 
-QTEST_MAIN(FontEmbedderTest)
+FOLIOFORGE_TEST(FontEmbedderTest)
 #include "FontEmbedderTest.moc"

@@ -3,6 +3,7 @@
 #include "support/FaultyCalls.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
@@ -493,5 +494,5 @@ class MergeTest : public QObject {
     }
 };
 
-QTEST_MAIN(MergeTest)
+FOLIOFORGE_TEST(MergeTest)
 #include "MergeTest.moc"

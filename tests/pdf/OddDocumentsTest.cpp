@@ -4,6 +4,7 @@
 #include "pdf/import/SourceDocument.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -187,5 +188,5 @@ class OddDocumentsTest : public QObject {
     }
 };
 
-QTEST_MAIN(OddDocumentsTest)
+FOLIOFORGE_TEST(OddDocumentsTest)
 #include "OddDocumentsTest.moc"

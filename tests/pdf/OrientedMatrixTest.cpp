@@ -1,4 +1,5 @@
 #include "pdf/OrientedMatrix.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -49,5 +50,5 @@ class OrientedMatrixTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(OrientedMatrixTest)
+FOLIOFORGE_TEST(OrientedMatrixTest)
 #include "OrientedMatrixTest.moc"

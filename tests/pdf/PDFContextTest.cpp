@@ -4,6 +4,7 @@
 #include "files/SourceReader.h"
 #include "image/PdfImage.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFile>
@@ -454,5 +455,5 @@ class PDFContextTest : public QObject {
     }
 };
 
-QTEST_MAIN(PDFContextTest)
+FOLIOFORGE_TEST(PDFContextTest)
 #include "PDFContextTest.moc"

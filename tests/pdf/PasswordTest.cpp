@@ -3,6 +3,7 @@
 #include "error/Error.h"
 #include "pdf/PDFContext.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -188,5 +189,5 @@ class PasswordTest : public QObject {
     }
 };
 
-QTEST_MAIN(PasswordTest)
+FOLIOFORGE_TEST(PasswordTest)
 #include "PasswordTest.moc"

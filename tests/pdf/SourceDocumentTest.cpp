@@ -4,6 +4,7 @@
 #include "support/FaultyCalls.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -160,5 +161,5 @@ class SourceDocumentTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(SourceDocumentTest)
+FOLIOFORGE_TEST(SourceDocumentTest)
 #include "SourceDocumentTest.moc"

@@ -1,3 +1,5 @@
+#include "support/TestUnit.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QImageReader>
@@ -160,5 +162,5 @@ class BundleTest : public QObject {
     }
 };
 
-QTEST_MAIN(BundleTest)
+FOLIOFORGE_TEST(BundleTest)
 #include "BundleTest.moc"

@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "support/PdfProbe.h"
+#include "support/TestUnit.h"
 
 #include <array>
 #include <clocale>
@@ -555,5 +556,5 @@ class StringToolkitTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(StringToolkitTest)
+FOLIOFORGE_TEST(StringToolkitTest)
 #include "StringToolkitTest.moc"

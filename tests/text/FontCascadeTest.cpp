@@ -2,6 +2,7 @@
 
 #include "error/Error.h"
 #include "support/Files.h"
+#include "support/TestUnit.h"
 
 #include <QFile>
 #include <QRawFont>
@@ -177,5 +178,5 @@ class FontCascadeTest : public QObject {
     }
 };
 
-QTEST_MAIN(FontCascadeTest)
+FOLIOFORGE_TEST(FontCascadeTest)
 #include "FontCascadeTest.moc"

@@ -1,4 +1,5 @@
 #include "text/PageSetup.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -166,5 +167,5 @@ class PageSetupTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(PageSetupTest)
+FOLIOFORGE_TEST(PageSetupTest)
 #include "PageSetupTest.moc"

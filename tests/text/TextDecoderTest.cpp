@@ -1,4 +1,5 @@
 #include "text/TextDecoder.h"
+#include "support/TestUnit.h"
 
 #include <QTest>
 
@@ -59,5 +60,5 @@ class TextDecoderTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(TextDecoderTest)
+FOLIOFORGE_TEST(TextDecoderTest)
 #include "TextDecoderTest.moc"

@@ -1,4 +1,5 @@
 #include "support/InstalledFonts.h"
+#include "support/TestUnit.h"
 #include "text/FontCascade.h"
 
 #include <QFile>
@@ -36,5 +37,5 @@ class TextFontTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(TextFontTest)
+FOLIOFORGE_TEST(TextFontTest)
 #include "TextFontTest.moc"

@@ -1,4 +1,5 @@
 #include "text/TextPageLayout.h"
+#include "support/TestUnit.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -312,5 +313,5 @@ class TextPageLayoutTest : public QObject {
     }
 };
 
-QTEST_APPLESS_MAIN(TextPageLayoutTest)
+FOLIOFORGE_TEST(TextPageLayoutTest)
 #include "TextPageLayoutTest.moc"
