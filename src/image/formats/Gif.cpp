@@ -1,7 +1,13 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
-#include "image/formats/QtImage.h"
+#include "image/formats/ArgbImage.h"
+
+#include <gif_lib.h>
+
+#include <algorithm>
+#include <array>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -9,56 +15,191 @@ namespace folioforge {
 
 namespace {
 
-bool isGif(QByteArrayView head) {
-    return head.startsWith("GIF87a") || head.startsWith("GIF89a");
-}
+constexpr Argb kTransparent = 0x00FFFFFF;
 
-/// Where the first image of a GIF file begins: behind the colours and the extensions.
-qsizetype firstFrameOf(QByteArrayView gif) {
-    const auto byteAt = [gif](qsizetype at) { return littleEndianAt<quint8>(gif, at); };
-    const int flags = byteAt(10);
-    qsizetype at = 13 + ((flags & 0x80) != 0 ? qsizetype{6} << (flags & 7) : 0);
-    while (byteAt(at) == '!') {
-        at += 2;
-        while (byteAt(at) != 0) {
-            at += 1 + byteAt(at);
+/// A GIF file opened with giflib over a view.
+class GifFile {
+  public:
+    explicit GifFile(const FileView &file)
+        : m_state(new State{file})
+        , m_handle(DGifOpen(m_state.get(), read, nullptr)) {
+        if (!m_handle) {
+            fail();
         }
-        ++at;
     }
-    if (byteAt(at) != ',') {
-        throw Error(u"The file holds no image"_s);
+
+    [[nodiscard]] GifFileType *operator->() const { return m_handle.get(); }
+    [[nodiscard]] GifFileType *handle() const { return m_handle.get(); }
+
+    /// Goes to the first picture and returns the number of its transparent colour, -1 for none.
+    int goToPicture() const {
+        int transparent = NO_TRANSPARENT_COLOR;
+        for (;;) {
+            GifRecordType type = UNDEFINED_RECORD_TYPE;
+            require(DGifGetRecordType(handle(), &type));
+            if (type == IMAGE_DESC_RECORD_TYPE) {
+                require(DGifGetImageDesc(handle()));
+                return transparent;
+            }
+            if (type == TERMINATE_RECORD_TYPE) {
+                throw Error(u"The file holds no image"_s);
+            }
+            readExtension(transparent);
+        }
     }
-    return at;
+
+  private:
+    struct State {
+        FileView file;
+        qint64 at = 0;
+    };
+    struct Close {
+        void operator()(GifFileType *gif) const { DGifCloseFile(gif, nullptr); }
+    };
+
+    static int read(GifFileType *gif, GifByteType *target, int size) {
+        auto &state = *static_cast<State *>(gif->UserData);
+        try {
+            const qint64 got =
+                state.file.readInto(state.at, {target, static_cast<size_t>(std::max(size, 0))});
+            state.at += got;
+            return static_cast<int>(got);
+        } catch (const Error &) {
+            return 0; // No exception may pass through the library.
+        }
+    }
+
+    [[noreturn]] static void fail() { throw Error(u"The GIF file is damaged"_s); }
+    static void require(int result) {
+        if (result != GIF_OK) {
+            fail();
+        }
+    }
+
+    void readExtension(int &transparent) const {
+        int kind = 0;
+        GifByteType *block = nullptr;
+        require(DGifGetExtension(handle(), &kind, &block));
+        while (block != nullptr) {
+            GraphicsControlBlock control = {};
+            if (kind == GRAPHICS_EXT_FUNC_CODE &&
+                DGifExtensionToGCB(block[0], block + 1, &control) == GIF_OK) {
+                transparent = control.TransparentColor;
+            }
+            require(DGifGetExtensionNext(handle(), &block));
+        }
+    }
+
+    std::unique_ptr<State> m_state; ///< giflib holds its address.
+    std::unique_ptr<GifFileType, Close> m_handle;
+};
+
+/// The colours of a table. Numbers behind its end are transparent, all are black without one.
+std::array<Argb, 256> colorsOf(const ColorMapObject *map, int transparent) {
+    std::array<Argb, 256> colors;
+    colors.fill(map != nullptr ? kTransparent : 0);
+    for (int i = 0; map != nullptr && i < map->ColorCount; ++i) {
+        const GifColorType &color = map->Colors[i];
+        colors[static_cast<size_t>(i)] = argb(color.Red, color.Green, color.Blue);
+    }
+    if (transparent >= 0) {
+        colors[static_cast<size_t>(transparent)] &= ~kOpaque;
+    }
+    return colors;
 }
 
-ImageHeader readGifHeader(const FileView &file) {
-    constexpr qint64 kFarthestFrame = 1 << 20;
-    const QByteArray head = file.readExactly(0, 10);
+ImageHeader headerOf(const GifFile &gif) {
     ImageHeader header;
-    header.width = littleEndianAt<quint16>(head, 6);
-    header.height = littleEndianAt<quint16>(head, 8);
+    header.width = gif->SWidth;
+    header.height = gif->SHeight;
     if (header.width == 0 || header.height == 0) {
-        // The first image gives what the screen leaves open.
-        const QByteArray start = file.read(0, kFarthestFrame);
-        const qsizetype frame = firstFrameOf(start);
-        const auto side = [&](int field) { return littleEndianAt<quint16>(start, frame + field); };
-        header.width = header.width == 0 ? side(1) + side(5) : header.width;
-        header.height = header.height == 0 ? side(3) + side(7) : header.height;
+        // The first picture gives what the screen leaves open.
+        const GifImageDesc &picture = gif->Image;
+        header.width = header.width == 0 ? picture.Left + picture.Width : header.width;
+        header.height = header.height == 0 ? picture.Top + picture.Height : header.height;
     }
     return checkedHeader(header);
 }
 
-PdfImage encodeGif(const FileView &file) {
+ImageHeader readHeader(const FileView &file) {
+    const GifFile gif(file);
+    if (gif->SWidth == 0 || gif->SHeight == 0) {
+        gif.goToPicture();
+    }
+    return headerOf(gif);
+}
+
+/// What stands where the picture does not reach, or where its data ends early.
+Argb backgroundOf(const GifFile &gif, int transparent) {
+    const GifImageDesc &picture = gif->Image;
+    const bool coversAll = picture.Left == 0 && picture.Top == 0 && picture.Width >= gif->SWidth &&
+                           picture.Height >= gif->SHeight;
+    if (coversAll) {
+        return 0;
+    }
+    const int number = transparent >= 0 ? transparent : gif->SBackGroundColor & 0xFF;
+    return colorsOf(gif->SColorMap, transparent)[static_cast<size_t>(number)];
+}
+
+/// The rows of a picture in the order in which it stores them.
+std::vector<int> storedRows(const GifImageDesc &picture) {
+    std::vector<int> rows;
+    const auto addEvery = [&](int step, int first) {
+        for (int y = first; y < picture.Height; y += step) {
+            rows.push_back(y);
+        }
+    };
+    if (picture.Interlace) {
+        addEvery(8, 0);
+        addEvery(8, 4);
+        addEvery(4, 2);
+        addEvery(2, 1);
+    } else {
+        addEvery(1, 0);
+    }
+    return rows;
+}
+
+/// Draws the picture where it lies on the screen. Data that ends early leaves the other rows.
+void drawPicture(const GifFile &gif, int transparent, ArgbImage &screen) {
+    const GifImageDesc &picture = gif->Image;
+    const auto colors =
+        colorsOf(picture.ColorMap != nullptr ? picture.ColorMap : gif->SColorMap, transparent);
+    std::vector<GifPixelType> line(static_cast<size_t>(picture.Width));
+    const auto columns = std::clamp<qsizetype>(screen.width - picture.Left, 0, picture.Width);
+    for (const int y : storedRows(picture)) {
+        if (DGifGetLine(gif.handle(), line.data(), picture.Width) != GIF_OK) {
+            return;
+        }
+        if (picture.Top + y < screen.height && columns > 0) {
+            std::transform(line.begin(), line.begin() + columns,
+                           screen.row(picture.Top + y) + picture.Left,
+                           [&](GifPixelType number) { return colors[number]; });
+        }
+    }
+}
+
+PdfImage toPdfImage(const FileView &file) {
     constexpr qint64 kLzwRatio = 3000;
-    const ImageHeader header = readGifHeader(file);
-    requirePlausible(qint64(header.width) * header.height, file.size(), kLzwRatio);
-    return encodeRaster(rasterOf(readWithQt(file.readExactly(0, file.size()), "gif")), header);
+    const GifFile gif(file);
+    const int transparent = gif.goToPicture();
+    const ImageHeader header = headerOf(gif);
+    const qint64 pixels = qint64(header.width) * header.height;
+    requirePlausible(pixels, file.size(), kLzwRatio);
+    ArgbImage screen{header.width, header.height, transparent >= 0, {}};
+    screen.pixels.assign(static_cast<size_t>(pixels), backgroundOf(gif, transparent));
+    drawPicture(gif, transparent, screen);
+    return encodeRaster(rasterOf(screen), header);
+}
+
+bool recognises(QByteArrayView head) {
+    return head.startsWith("GIF87a") || head.startsWith("GIF89a");
 }
 
 } // namespace
 
 ImageFormat gifFormat() {
-    return {ImageKind::Gif, {QLatin1StringView("gif")}, isGif, readGifHeader, encodeGif};
+    return {ImageKind::Gif, {QLatin1StringView("gif")}, recognises, readHeader, toPdfImage};
 }
 
 } // namespace folioforge

@@ -1,10 +1,9 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
-#include "image/formats/QtImage.h"
+#include "image/formats/Dib.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <tuple>
 
@@ -14,39 +13,35 @@ namespace folioforge {
 
 namespace {
 
-/// What a frame says of itself: a PNG file, or a bitmap without a file header whose height counts
-/// its colours and, below them, a bit for each pixel that is not there.
+/// A frame: a PNG file, or a bitmap without a file header whose height counts its colours and,
+/// below them, a bit for each pixel that is not there.
 struct Frame {
     ImageHeader header;
     int bits = 0;
-    bool isPng = false;
     FileView content;
+    std::optional<DibHeader> bitmap; ///< None for a PNG file.
 
     [[nodiscard]] std::tuple<qint64, int> rank() const {
         return {qint64(header.width) * header.height, bits};
     }
 };
 
-constexpr qint64 kBitmapHeader = 40;
-
 Frame frameOf(const FileView &content) {
     if (pngFormat().recognises(content.read(0, kSniffedBytes))) {
         constexpr int kDeeperThanBitmaps = 64;
-        return {pngFormat().readHeader(content), kDeeperThanBitmaps, true, content};
+        return {pngFormat().readHeader(content), kDeeperThanBitmaps, content, std::nullopt};
     }
-    const QByteArray head = content.readExactly(0, kBitmapHeader);
-    Frame frame{{}, littleEndianAt<quint16>(head, 14), false, content};
-    frame.header.width = littleEndianAt<qint32>(head, 4);
-    frame.header.height = littleEndianAt<qint32>(head, 8) / 2;
-    const bool isPlain =
-        littleEndianAt<quint32>(head, 0) >= kBitmapHeader && littleEndianAt<quint32>(head, 16) == 0;
-    constexpr std::array<int, 6> kDepths = {1, 4, 8, 16, 24, 32};
-    if (!isPlain || std::ranges::find(kDepths, frame.bits) == kDepths.end() ||
-        frame.header.width <= 0 || frame.header.height <= 0) {
+    constexpr quint32 kMinHeader = 40;
+    DibHeader bitmap = readDibHeader(content);
+    bitmap.height /= 2;
+    if (bitmap.size < kMinHeader || bitmap.compression != DibHeader::Plain || bitmap.isTopDown ||
+        !bitmap.hasKnownPixels()) {
         throw Error(u"The icon's picture is of an unknown kind"_s);
     }
-    frame.header = checkedHeader(frame.header);
-    return frame;
+    ImageHeader header;
+    header.width = bitmap.width;
+    header.height = bitmap.height;
+    return {checkedHeader(header), bitmap.bits, content, bitmap};
 }
 
 Frame largestFrame(const FileView &file) {
@@ -76,102 +71,45 @@ Frame largestFrame(const FileView &file) {
     return *largest;
 }
 
-/// Rows from the bottom up, each padded to four bytes.
-class BottomUpRows {
-  public:
-    BottomUpRows(const FileView &content, qint64 at, const ImageHeader &header, int bits)
-        : m_stride((qint64(header.width) * bits + 31) / 32 * 4)
-        , m_height(header.height)
-        , m_end(at + m_stride * m_height)
-        , m_bytes(content.read(at, m_stride * m_height)) {}
-
-    [[nodiscard]] bool areThere() const { return m_bytes.size() == m_stride * m_height; }
-    [[nodiscard]] qint64 end() const { return m_end; }
-    [[nodiscard]] const uchar *row(int y) const {
-        return reinterpret_cast<const uchar *>(m_bytes.constData()) + (m_height - 1 - y) * m_stride;
-    }
-
-  private:
-    qint64 m_stride;
-    qint64 m_height;
-    qint64 m_end;
-    QByteArray m_bytes;
-};
-
-QList<QRgb> paletteOf(const Frame &frame) {
-    QList<QRgb> colors;
-    if (frame.bits > 8) {
-        return colors;
-    }
-    const QByteArray head = frame.content.readExactly(0, kBitmapHeader);
-    const qint64 most = 1LL << frame.bits;
-    const qint64 stated = littleEndianAt<quint32>(head, 32);
-    const qint64 count = stated == 0 ? most : std::min(stated, most);
-    const QByteArray bytes = frame.content.readExactly(littleEndianAt<quint32>(head, 0), 4 * count);
-    for (qint64 i = 0; i < count; ++i) {
-        colors.append(littleEndianAt<quint32>(bytes, 4 * i) | 0xFF000000U);
-    }
-    return colors;
-}
-
-/// The colour of a pixel, its opacity as the file has it.
-QRgb colorAt(const uchar *row, int x, int bits, const QList<QRgb> &palette) {
-    switch (bits) {
-    case 32:
-        return qFromLittleEndian<quint32>(row + 4 * qsizetype(x));
-    case 24:
-        row += 3 * qsizetype(x);
-        return qRgb(row[2], row[1], row[0]);
-    case 16: {
-        const int value = qFromLittleEndian<quint16>(row + 2 * qsizetype(x));
-        const auto wide = [](int five) { return five << 3 | five >> 2; };
-        return qRgb(wide(value >> 10 & 31), wide(value >> 5 & 31), wide(value & 31));
-    }
-    default:
-        return palette.value(packedSample(row, x, bits), qRgb(0, 0, 0));
-    }
-}
-
-bool hasOpacity(const QImage &picture) {
-    for (int y = 0; y < picture.height(); ++y) {
-        const auto *row = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
-        if (std::any_of(row, row + picture.width(),
-                        [](QRgb color) { return qAlpha(color) != 0; })) {
-            return true;
-        }
-    }
-    return false;
+bool hasOpacity(const ArgbImage &picture) {
+    return std::ranges::any_of(picture.pixels, [](Argb color) { return color >> 24 != 0; });
 }
 
 /// Opacity of all or nothing by the bits below the colours; full where the file ends before them.
-void applyMask(const BottomUpRows &mask, QImage &picture) {
-    for (int y = 0; y < picture.height(); ++y) {
-        auto *row = reinterpret_cast<QRgb *>(picture.scanLine(y));
-        for (int x = 0; x < picture.width(); ++x) {
-            const bool isOut = mask.areThere() && (mask.row(y)[x / 8] >> (7 - x % 8) & 1) != 0;
-            row[x] = isOut ? row[x] & 0xFFFFFFU : row[x] | 0xFF000000U;
+void applyMask(const FileView &content, DibHeader mask, qint64 at, ArgbImage &picture) {
+    mask.bits = 1;
+    const bool isThere = at + mask.stride() * mask.height <= content.size();
+    const QByteArray rows = isThere ? readDibRows(content, mask, at) : QByteArray();
+    for (int y = 0; y < picture.height; ++y) {
+        Argb *row = picture.row(y);
+        for (int x = 0; x < picture.width; ++x) {
+            const bool isOut = isThere && packedSample(dibRow(rows, mask, y), x, 1) == 1;
+            row[x] = isOut ? row[x] & ~kOpaque : row[x] | kOpaque;
         }
     }
 }
 
-QImage readBitmap(const Frame &frame) {
-    const QList<QRgb> palette = paletteOf(frame);
-    const QByteArray head = frame.content.readExactly(0, kBitmapHeader);
-    const qint64 start = qint64(littleEndianAt<quint32>(head, 0)) + 4 * palette.size();
-    const BottomUpRows rows(frame.content, start, frame.header, frame.bits);
-    if (!rows.areThere()) {
+ArgbImage argbOf(const IndexedImage &image) {
+    ArgbImage picture{image.width, image.height, true, {}};
+    for (const char value : image.indexes) {
+        const auto index = static_cast<uchar>(value);
+        picture.pixels.push_back(index < image.colors.size() ? image.colors[index] : kOpaque);
+    }
+    return picture;
+}
+
+ArgbImage readBitmap(const FileView &content, DibHeader bitmap) {
+    const qint64 at = bitmap.endOfColors();
+    const qint64 end = at + bitmap.stride() * bitmap.height;
+    if (end > content.size()) {
         throw Error(u"The file ends too early"_s);
     }
-    QImage picture =
-        granted(QImage(frame.header.width, frame.header.height, QImage::Format_ARGB32));
-    for (int y = 0; y < picture.height(); ++y) {
-        auto *target = reinterpret_cast<QRgb *>(picture.scanLine(y));
-        for (int x = 0; x < picture.width(); ++x) {
-            target[x] = colorAt(rows.row(y), x, frame.bits, palette);
-        }
-    }
-    if (frame.bits < 32 || !hasOpacity(picture)) {
-        applyMask(BottomUpRows(frame.content, rows.end(), frame.header, 1), picture);
+    bitmap.masks[3] = bitmap.bits == 32 ? kOpaque : 0;
+    ArgbImage picture = bitmap.bits > 8 ? readColorDib(content, bitmap, at)
+                                        : argbOf(readIndexedDib(content, bitmap, at));
+    picture.hasAlpha = true;
+    if (bitmap.bits < 32 || !hasOpacity(picture)) {
+        applyMask(content, bitmap, end, picture);
     }
     return picture;
 }
@@ -187,8 +125,10 @@ ImageHeader readHeader(const FileView &file) {
 
 PdfImage toPdfImage(const FileView &file) {
     const Frame frame = largestFrame(file);
-    return frame.isPng ? pngFormat().toPdfImage(frame.content)
-                       : encodeRaster(rasterOf(readBitmap(frame)), frame.header);
+    if (!frame.bitmap) {
+        return pngFormat().toPdfImage(frame.content);
+    }
+    return encodeRaster(rasterOf(readBitmap(frame.content, *frame.bitmap)), frame.header);
 }
 
 } // namespace
