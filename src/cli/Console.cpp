@@ -2,6 +2,8 @@
 
 #include "files/Printable.h"
 
+#include <QStringList>
+
 #include <cerrno>
 #include <cstdio>
 
@@ -33,10 +35,17 @@ bool Console::finishResults() {
 }
 
 void Console::complain(const QString &message) {
-    addLine(u"folioforge-cli: "_s + message);
+    writeMessage(u"folioforge-cli: "_s + message);
 }
 
-void Console::addLine(const QString &line) {
+void Console::complain(const Notice &notice) {
+    complain(notice.title);
+    for (const QString &line : notice.message.split(u"\r\n"_s)) {
+        writeMessage(line);
+    }
+}
+
+void Console::writeMessage(const QString &line) {
     eraseProgress();
     write(stderr, printable(line).toUtf8() + '\n');
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "text/Notice.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -13,8 +15,8 @@ class Console {
     void result(const QByteArray &line);
     /// Writes "folioforge-cli: `message`" to standard error, made printable.
     void complain(const QString &message);
-    /// Writes one more line of the same message to standard error, made printable.
-    void addLine(const QString &line);
+    /// Writes the title and the lines of `notice` likewise.
+    void complain(const Notice &notice);
     /// Replaces the progress line; an empty text takes it away.
     void showProgress(const QString &text);
     /// Whether everything given to result() has arrived, or its reader went away; complains of a
@@ -22,6 +24,7 @@ class Console {
     [[nodiscard]] bool finishResults();
 
   private:
+    void writeMessage(const QString &line);
     void eraseProgress();
 
     bool m_progressShown = false;

@@ -44,11 +44,11 @@ QString lastColumns(const QString &text, int most) {
 
 } // namespace
 
-ProgressLine::ProgressLine(Console &console, ProgressMode mode, std::vector<QString> names)
+ProgressLine::ProgressLine(Console &console, ProgressMode mode, const std::vector<QString> &names)
     : m_console(console)
     , m_enabled(mode == ProgressMode::Always ||
                 (mode == ProgressMode::Auto && ::isatty(STDERR_FILENO) == 1))
-    , m_names(std::move(names)) {}
+    , m_names(names) {}
 
 void ProgressLine::beginPDF(std::size_t first) {
     m_first = first;
@@ -68,7 +68,7 @@ void ProgressLine::progressChanged(float value) {
     show();
 }
 
-void ProgressLine::entryDone(std::size_t index, bool /*written*/) {
+void ProgressLine::entryDone(std::size_t index) {
     m_current = std::min(m_first + index + 1, m_names.size() - 1);
 }
 

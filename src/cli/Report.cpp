@@ -81,7 +81,40 @@ QString pagesInWords(std::vector<int> pages) {
     return (pages.size() == 1 ? u"page "_s : u"pages "_s) + numbers.join(u", "_s);
 }
 
+QString reasonOf(const CloseResult &close) {
+    return close.status == CloseResult::Status::NameTaken ? nameExistsNotice().message
+                                                          : close.reason;
+}
+
 } // namespace
+
+InputResult InputResult::rejected(const QString &input, const QString &reason) {
+    InputResult rejected;
+    rejected.input = input;
+    rejected.state = State::Rejected;
+    rejected.message = reason;
+    return rejected;
+}
+
+InputResult InputResult::of(const QString &input, const RunResult &result, std::size_t index) {
+    const EntryOutcome &entry = result.outcome.entries.at(index);
+    const CloseResult &close = result.outcome.close;
+    InputResult own;
+    own.input = input;
+    own.message = entry.message;
+    if (entry.written && close.status == CloseResult::Status::Written) {
+        own.output = close.path;
+        own.pages = entry.pages;
+        own.embedded = entry.embeddedAs;
+        own.compression = result.compression;
+        return own;
+    }
+    own.state = State::Failed;
+    if (entry.written) {
+        own.message += (entry.message.isEmpty() ? QString() : u". "_s) + reasonOf(close);
+    }
+    return own;
+}
 
 QByteArray toJson(const InputResult &result) {
     QJsonObject object{

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "compress/CompressionPass.h"
+#include "convert/Run.h"
 #include "image/PdfImage.h"
 
 #include <QByteArray>
@@ -24,6 +24,11 @@ struct InputResult {
     QString message; ///< The reason of a failure, or a warning.
     std::optional<EmbeddedAs> embedded;
     std::optional<CompressionOutcome> compression; ///< What the compression pass did to its PDF.
+
+    /// The result of an input that did not enter the list for `reason`.
+    static InputResult rejected(const QString &input, const QString &reason);
+    /// The result of `input`, the entry at `index` of the PDF that `result` is about.
+    static InputResult of(const QString &input, const RunResult &result, std::size_t index);
 };
 
 /// The result as one JSON object on one line, without a line ending.

@@ -1,6 +1,5 @@
 #include "convert/Conversion.h"
 
-#include "compress/QuartzFilter.h"
 #include "convert/PageWriters.h"
 #include "error/Error.h"
 #include "error/Memory.h"
@@ -15,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-/// The progress bar's value when every page is written, and when all is done.
+/// The progress when every page is written, and when all is done.
 constexpr float kPagesShare = 50;
 constexpr float kFull = 100;
 
@@ -89,6 +88,10 @@ CloseResult closeContext(PDFContext &context, const QString &fileName,
 
 } // namespace
 
+void ConversionObserver::endPageWrite(int pageIndex, int pageCount) {
+    progressChanged(compressionProgress(pageIndex, pageCount));
+}
+
 std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security) {
     if (!security.useUserPassword && !security.useOwnerPassword) {
         return nullptr;
@@ -127,12 +130,6 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
         outcome.close = notWritten(u"The conversion was stopped"_s);
     }
     return outcome;
-}
-
-CompressionOptions compressionOptions(const ConversionOptions &options, const QString &bundlePath,
-                                      const QString &temporaryFolder, std::stop_token stop) {
-    return {quartzFilterPath(bundlePath, quartzFilterName(options.compressIndex)), temporaryFolder,
-            encryptionFor(options.security), options.calls, std::move(stop)};
 }
 
 float compressionProgress(int pageIndex, int pageCount) {

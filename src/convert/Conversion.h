@@ -25,10 +25,12 @@ class ConversionObserver {
     ConversionObserver &operator=(const ConversionObserver &) = delete;
     virtual ~ConversionObserver() = default;
 
-    /// The progress bar's value: 0 to 50 while pages are made, 50 to 100 in the compression pass.
+    /// The progress of the PDF: 0 to 50 while pages are made, 50 to 100 in the compression pass.
     virtual void progressChanged(float value) = 0;
     /// The entry at `index` of this PDF is done; `written` is false when its pages failed.
     virtual void entryDone(std::size_t index, bool written) = 0;
+    /// The compression pass wrote the page at `pageIndex`, from 0, of `pageCount`.
+    virtual void endPageWrite(int pageIndex, int pageCount);
 };
 
 /// How one entry of a PDF went.
@@ -60,12 +62,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                      const ConversionOptions &options, ConversionObserver *observer = nullptr,
                      const std::stop_token &stop = {});
 
-/// What the compression pass needs to compress what createPDF() wrote with `options`, whose
-/// compressIndex names one of the filters of the bundle at `bundlePath`.
-CompressionOptions compressionOptions(const ConversionOptions &options, const QString &bundlePath,
-                                      const QString &temporaryFolder, std::stop_token stop = {});
-
-/// The progress bar's value once the compression pass wrote the page at `pageIndex`, from 0.
+/// The progress of the PDF once the compression pass wrote the page at `pageIndex`, from 0.
 float compressionProgress(int pageIndex, int pageCount);
 
 } // namespace folioforge

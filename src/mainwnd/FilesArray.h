@@ -28,6 +28,7 @@ class FilesArray : public QAbstractTableModel {
     [[nodiscard]] bool isEmpty() const { return m_entries.empty(); }
     /// The entries in arranged order; valid until the list changes.
     [[nodiscard]] std::vector<const PDFFileInfo *> arrangedObjects() const;
+    [[nodiscard]] const std::vector<PDFFileInfo> &entries() const { return m_entries; }
     [[nodiscard]] const PDFFileInfo &at(int row) const { return m_entries.at(std::size_t(row)); }
 
     /// Puts `entries` in at `row` (0 to count(); anything else appends), in their order.

@@ -32,7 +32,9 @@ MainWndCtrl::MainWndCtrl(WindowServices services)
     : m_services(std::move(services))
     , m_filesArray(std::make_unique<FilesArray>()) {}
 
-MainWndCtrl::~MainWndCtrl() = default;
+MainWndCtrl::~MainWndCtrl() {
+    m_stop.request_stop();
+}
 
 QMainWindow *MainWndCtrl::window() {
     if (!m_window) {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "convert/Conversion.h"
-#include "convert/ConversionOptions.h"
+#include "convert/Run.h"
 #include "files/ReadableLinks.h"
 #include "files/TemporaryFolder.h"
 #include "mainwnd/SkinTableView.h"
@@ -140,9 +139,11 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     // ---- Runs (MainWndCtrlConvert.cpp) -------------------------------------------------------
 
     void clickBtnCreate();
+    /// Begins the PDF of the entry at m_fileIndex.
     void createSingleFile();
-    /// Writes the PDF of `count` entries to m_destFilePathName on a worker thread.
-    void createPDF(int firstRow, int count);
+    /// Writes the PDF of the entry at m_fileIndex, in merge mode of every entry, to
+    /// m_destFilePathName on a worker thread.
+    void createPDF();
     /// Rewrites the finished PDF at `path` on a worker thread, where the run asks for it.
     void compress(const QString &path);
     /// Puts the file of the pass in place and goes on to the next entry, or ends the run. Nothing
@@ -191,14 +192,15 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void exchangeWithRow(int row);
 
     // Runs.
-    class RunObserver;
-    void beginFile();
+    class WorkerObserver;
+    bool checkSettings(const ConversionOptions &options);
+    void beginPDF();
     void showFileBeingWritten(int done);
     void showProgress(float value);
     void entryDone(int row, bool written);
     void PDFCreated(const PDFOutcome &outcome);
     void endRun();
-    void startWorker(std::function<void(const std::stop_token &)> work);
+    void startWorker(std::function<void()> work);
     /// Queues `work` without waiting; it is dropped when the controller goes first.
     template<typename Work> void runOnMainThread(Work work) {
         QMetaObject::invokeMethod(this, std::move(work), Qt::QueuedConnection);
@@ -228,12 +230,13 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     std::optional<PDFDocument> m_pdfDoc;
     bool m_bConverting = false;
     std::optional<ConvertInfo> m_convertInfoDict;
-    int m_fileIndex = 0;            ///< The entry being converted.
-    ConversionOptions m_runOptions; ///< As they stood when the run began.
-    bool m_bWorking = false;        ///< The worker has not yet handed over what it makes.
+    int m_fileIndex = 0;      ///< The entry being converted.
+    std::optional<Run> m_run; ///< The entries and options as they stood when the run began.
+    std::stop_source m_stop;  ///< Stops the run.
+    bool m_bWorking = false;  ///< The worker has not yet handed over what it makes.
     TemporaryFolder m_temporaryFolder;
     ReadableLinks m_readableLinks{m_temporaryFolder};
-    std::jthread m_worker; ///< The last member: it is stopped before anything goes.
+    std::jthread m_worker; ///< The last member: it ends before anything else goes.
 };
 
 } // namespace folioforge

@@ -1,8 +1,8 @@
 #include "mainwnd/MainWndCtrl.h"
 
-#include "files/PartFiles.h"
 #include "files/Printable.h"
 #include "mainwnd/FilesArray.h"
+#include "mainwnd/NotificationCenter.h"
 
 #include <QFileInfo>
 
@@ -46,19 +46,23 @@ int pagesOf(const PDFOutcome &outcome) {
 } // namespace
 
 /// Brings what a worker tells to the main thread, without waiting.
-class MainWndCtrl::RunObserver : public ConversionObserver {
+class MainWndCtrl::WorkerObserver : public ConversionObserver {
   public:
-    RunObserver(MainWndCtrl &ctrl, int firstRow)
+    explicit WorkerObserver(MainWndCtrl &ctrl)
         : m_ctrl(ctrl)
-        , m_firstRow(firstRow) {}
+        , m_firstRow(ctrl.m_fileIndex) {}
 
     void progressChanged(float value) override {
         m_ctrl.runOnMainThread([ctrl = &m_ctrl, value] { ctrl->showProgress(value); });
     }
-
     void entryDone(std::size_t index, bool written) override {
         const int row = m_firstRow + static_cast<int>(index);
         m_ctrl.runOnMainThread([ctrl = &m_ctrl, row, written] { ctrl->entryDone(row, written); });
+    }
+    /// The controller observes the notification on the main thread.
+    void endPageWrite(int pageIndex, int /*pageCount*/) override {
+        m_ctrl.m_services.notifications.post(NotificationCenter::didEndPageWrite(),
+                                             {{NotificationCenter::pageIndexKey(), pageIndex}});
     }
 
   private:
@@ -70,35 +74,37 @@ void MainWndCtrl::clickBtnCreate() {
     if (m_bConverting || m_filesArray->isEmpty()) {
         return;
     }
-    m_runOptions = conversionOptions();
-    if (!passes(checkConversion(m_runOptions))) {
+    ConversionOptions options = conversionOptions();
+    if (!checkSettings(options)) {
         return;
     }
-    removeAbandonedParts(m_runOptions.outputFolder);
+    m_stop = std::stop_source();
+    m_run.emplace(m_filesArray->entries(), std::move(options), m_services.bundlePath,
+                  m_stop.get_token());
     m_fileIndex = 0;
     m_filesArray->setStateIndexOfAll(Waiting);
     m_bConverting = true;
     showAlertView();
-    if (m_runOptions.merge) {
-        m_destFilePathName = mergedFilePath(m_runOptions);
-        beginFile();
-        createPDF(0, m_filesArray->count());
-    } else {
-        createSingleFile();
-    }
+    m_run->options().merge ? beginPDF() : createSingleFile();
+}
+
+/// The checks of a run in their order, as checkConversion() makes them.
+bool MainWndCtrl::checkSettings(const ConversionOptions &options) {
+    return passes(checkOutputFolder(options.outputFolder)) && checkSecuritySettings() &&
+           checkTextPageSizeSettings() && checkImagePageSizeSettings() &&
+           passes(checkMergedFile(options));
 }
 
 void MainWndCtrl::createSingleFile() {
-    m_destFilePathName =
-        singleFilePath(m_runOptions.outputFolder, m_filesArray->at(m_fileIndex).fileName());
-    beginFile();
-    createPDF(m_fileIndex, 1);
+    beginPDF();
 }
 
-void MainWndCtrl::beginFile() {
+void MainWndCtrl::beginPDF() {
+    m_destFilePathName = m_run->pathFor(std::size_t(m_fileIndex));
     showProgress(0);
     m_lbProgress->show();
     showFileBeingWritten(m_fileIndex);
+    createPDF();
 }
 
 void MainWndCtrl::showFileBeingWritten(int done) {
@@ -111,19 +117,11 @@ void MainWndCtrl::showProgress(float value) {
     m_prgCreate->setValue(static_cast<int>(value));
 }
 
-void MainWndCtrl::createPDF(int firstRow, int count) {
-    std::vector<PDFFileInfo> entries;
-    entries.reserve(std::size_t(count));
-    for (int row = firstRow; row < firstRow + count; ++row) {
-        entries.push_back(m_filesArray->at(row));
-    }
-    startWorker([this, firstRow, entries = std::move(entries), path = m_destFilePathName,
-                 options = m_runOptions](const std::stop_token &stop) {
-        std::vector<const PDFFileInfo *> list(entries.size());
-        std::iota(list.begin(), list.end(), entries.data());
-        RunObserver observer(*this, firstRow);
-        runOnMainThread([this, outcome = folioforge::createPDF(list, path, options, &observer,
-                                                               stop)] { PDFCreated(outcome); });
+void MainWndCtrl::createPDF() {
+    startWorker([this, first = std::size_t(m_fileIndex), path = m_destFilePathName] {
+        WorkerObserver observer(*this);
+        runOnMainThread(
+            [this, outcome = m_run->createPDF(first, path, observer)] { PDFCreated(outcome); });
     });
 }
 
@@ -143,7 +141,7 @@ void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
         compress(m_destFilePathName);
         return;
     }
-    if (m_runOptions.merge) {
+    if (m_run->options().merge) {
         m_filesArray->setStateIndexOfAll(Waiting);
     } else {
         m_filesArray->setStateIndex(m_fileIndex, Waiting);
@@ -157,20 +155,13 @@ void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
 
 void MainWndCtrl::compress(const QString &path) {
     m_convertInfoDict.reset();
-    if (m_runOptions.compressIndex == 0) {
+    if (!m_run->compresses()) {
         runOnMainThread([this] { compressCompleted(); });
         return;
     }
-    startWorker([this, path,
-                 options = compressionOptions(m_runOptions, m_services.bundlePath,
-                                              m_temporaryFolder.path())](
-                    const std::stop_token &stop) mutable {
-        options.stop = stop;
-        const auto endPageWrite = [this](int pageIndex, int pageCount) {
-            runOnMainThread(
-                [this, value = compressionProgress(pageIndex, pageCount)] { showProgress(value); });
-        };
-        PendingCopy copy(folioforge::compress(path, options, endPageWrite).convertInfo);
+    startWorker([this, path, folder = m_temporaryFolder.path()] {
+        WorkerObserver observer(*this);
+        PendingCopy copy(m_run->compress(path, folder, observer).convertInfo);
         runOnMainThread([this, copy = std::move(copy)]() mutable {
             m_bWorking = false;
             m_convertInfoDict = copy.take();
@@ -189,7 +180,7 @@ void MainWndCtrl::compressCompleted() {
         folioforge::compressCompleted(*m_convertInfoDict);
         m_convertInfoDict.reset();
     }
-    if (m_runOptions.merge) {
+    if (m_run->options().merge) {
         endRun();
         return;
     }
@@ -207,6 +198,7 @@ void MainWndCtrl::compressCompleted() {
 
 void MainWndCtrl::endRun() {
     m_bConverting = false;
+    m_run.reset();
     m_prgCreate->hide();
     m_lbProgress->hide();
     hideAlertView();
@@ -218,13 +210,13 @@ void MainWndCtrl::endPageWrite(int pageIndex) {
     }
 }
 
-void MainWndCtrl::startWorker(std::function<void(const std::stop_token &)> work) {
+void MainWndCtrl::startWorker(std::function<void()> work) {
     m_bWorking = true;
     const auto shared = std::make_shared<decltype(work)>(std::move(work));
     try {
-        m_worker = std::jthread([shared](const std::stop_token &stop) { (*shared)(stop); });
+        m_worker = std::jthread([shared] { (*shared)(); });
     } catch (const std::system_error &) {
-        (*shared)({}); // The system gives no thread: better a window that waits than no document.
+        (*shared)(); // The system gives no thread: better a window that waits than no document.
     }
 }
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "compress/QuartzFilter.h"
-#include "convert/Conversion.h"
-#include "error/Error.h"
+#include "convert/Run.h"
 #include "files/PartFiles.h"
 #include "files/TemporaryFolder.h"
 #include "support/FaultyCalls.h"
@@ -22,8 +21,8 @@
 
 namespace folioforge::test {
 
-/// A photo and a PDF in a folder, and runs that make a document of them as the command line does,
-/// through system calls that may fail.
+/// A photo and a PDF in a folder, and runs that make a document of them through system calls that
+/// may fail.
 class WholeRun {
   protected:
     /// What a run makes of the sources.
@@ -36,6 +35,24 @@ class WholeRun {
     struct Outcome {
         bool written = false; ///< The document got its name, whatever became of its compression.
         QString reason;       ///< Why not all went well.
+    };
+
+    /// Hears what becomes of the one PDF of a run.
+    struct OutcomeOfRun : RunObserver {
+        void progressChanged(float) override {}
+        void entryDone(std::size_t, bool) override {}
+        void PDFBegins(std::size_t) override {}
+        void PDFDone(const RunResult &result) override {
+            const CloseResult &close = result.outcome.close;
+            outcome = {close.status == CloseResult::Status::Written, close.reason};
+            for (const EntryOutcome &entry : result.outcome.entries) {
+                outcome.reason += entry.message;
+            }
+            if (result.compression) {
+                outcome.reason += result.compression->error;
+            }
+        }
+        Outcome outcome;
     };
 
     struct Source {
@@ -74,6 +91,7 @@ class WholeRun {
         ConversionOptions options;
         options.outputFolder = path("out");
         options.merge = kind.merge;
+        options.outputName = QStringLiteral("photo");
         options.compressIndex = kind.compressIndex;
         options.security.useUserPassword = kind.isProtected;
         options.security.userPassword = kPassword;
@@ -83,42 +101,20 @@ class WholeRun {
 
     /// A run as the command line makes it.
     Outcome run(const Kind &kind, SystemCalls &calls, const std::stop_token &stop = {}) const {
-        std::vector<const PDFFileInfo *> entries{&m_entries.front()};
+        std::vector<PDFFileInfo> entries{m_entries.front()};
         if (kind.merge) {
-            entries.push_back(&m_entries.back());
+            entries.push_back(m_entries.back());
         }
         return run(entries, kind, calls, stop);
     }
 
-    Outcome run(const std::vector<const PDFFileInfo *> &entries, const Kind &kind,
-                SystemCalls &calls, const std::stop_token &stop = {}) const {
-        const ConversionOptions options = optionsOf(kind, calls);
-        removeAbandonedParts(options.outputFolder);
-        const PDFOutcome made = createPDF(entries, output(), options, nullptr, stop);
-        Outcome outcome{made.close.status == CloseResult::Status::Written, made.close.reason};
-        for (const EntryOutcome &entry : made.entries) {
-            outcome.reason += entry.message;
-        }
-        if (outcome.written && kind.compressIndex != 0) {
-            outcome.reason = compressed(options);
-        }
-        return outcome;
-    }
-
-    /// The reason why the output could not be compressed.
-    QString compressed(const ConversionOptions &options) const {
+    Outcome run(const std::vector<PDFFileInfo> &entries, const Kind &kind, SystemCalls &calls,
+                const std::stop_token &stop = {}) const {
         TemporaryFolder temporary(path("temporary"));
-        const CompressionOutcome pass =
-            compress(output(), compressionOptions(options, path("bundle"), temporary.path()));
-        if (!pass.error.isEmpty()) {
-            return pass.error;
-        }
-        try {
-            putInPlace(*pass.convertInfo, options.flush, options.calls);
-        } catch (const Error &error) {
-            return error.reason();
-        }
-        return {};
+        const Run run(entries, optionsOf(kind, calls), path("bundle"), stop);
+        OutcomeOfRun observer;
+        run.convertAll(temporary, observer);
+        return observer.outcome;
     }
 
     bool sourcesAreUntouched() const {
@@ -141,7 +137,7 @@ class WholeRun {
         }
         if (kind.merge) {
             QFile::remove(output());
-            run({&m_entries.front()}, kind, SystemCalls::system());
+            run({m_entries.front()}, kind, SystemCalls::system());
             whole += readFile(output());
         }
         return whole;
