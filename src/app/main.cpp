@@ -1,6 +1,6 @@
 #include "app/FolioforgeAppDelegate.h"
 #include "convert/Bundle.h"
-#include "files/StandardDescriptors.h"
+#include "files/FileDescriptor.h"
 #include "mainwnd/Desktop.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"

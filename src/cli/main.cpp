@@ -3,7 +3,7 @@
 #include "cli/Interruption.h"
 #include "cli/Locale.h"
 #include "cli/Run.h"
-#include "files/StandardDescriptors.h"
+#include "files/FileDescriptor.h"
 
 #include <QCoreApplication>
 

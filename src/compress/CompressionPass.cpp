@@ -9,7 +9,6 @@
 #include "compress/TemporaryCopy.h"
 #include "error/Error.h"
 #include "files/OutputFile.h"
-#include "files/StoppableCalls.h"
 #include "pdf/DocumentWriter.h"
 #include "pdf/PDFContext.h"
 #include "pdf/Password.h"
@@ -124,7 +123,7 @@ void runPass(const QString &path, const QuartzFilter &filter, const CompressionO
              CompressionOutcome &outcome) {
     const auto reader = std::make_shared<SourceReader>(options.calls);
     const auto input =
-        std::make_shared<SourceInput>(SourceFile::examine(path), reader, SourceInput::Table::Shown);
+        std::make_shared<SourceInput>(FileVersion::of(path), reader, SourceInput::Table::Shown);
     QPDF document;
     outcome.imagesReduced = withAllObjects(document, *reader, [&] {
         unlock(document, input, options.encryption.get());

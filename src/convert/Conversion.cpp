@@ -4,7 +4,7 @@
 #include "error/Error.h"
 #include "error/Memory.h"
 #include "filelist/FileKind.h"
-#include "files/StoppableCalls.h"
+#include "files/SystemCalls.h"
 
 #include <new>
 #include <utility>

@@ -24,7 +24,7 @@ void openForReading(QFile &file) {
 
 std::optional<QString> readWholeText(const QString &path) {
     requireReadableFile(path);
-    const SourceFile examined = SourceFile::examine(path);
+    const FileVersion examined = FileVersion::of(path);
     QFile file(path);
     openForReading(file);
     if (file.size() > std::numeric_limits<int>::max()) {
@@ -34,7 +34,7 @@ std::optional<QString> readWholeText(const QString &path) {
     if (file.error() != QFileDevice::NoError) {
         throw Error(file.errorString());
     }
-    if (SourceFile::examine(path) != examined) {
+    if (FileVersion::of(path) != examined) {
         throw Error(u"The file was changed while it was being read"_s);
     }
     QString text = decodeText(bytes);

@@ -22,29 +22,9 @@ namespace folioforge {
 namespace {
 
 constexpr std::size_t kBufferSize = 1 << 20;
-/// Larger writes make the kernel look for large runs of memory for its cache. On a virtual machine
-/// those are often not backed yet, and the same bytes then take three times as long.
-constexpr std::size_t kWriteSize = 128 << 10;
 
 constexpr mode_t kNewFileMode = 0666;
 constexpr mode_t kOwnerMode = S_IRUSR | S_IWUSR;
-
-/// Closes its descriptor at the end.
-class Descriptor {
-  public:
-    explicit Descriptor(int fd)
-        : m_fd(fd) {}
-    ~Descriptor() {
-        if (m_fd >= 0) {
-            ::close(m_fd);
-        }
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-
-  private:
-    int m_fd;
-};
 
 bool isNoNamelessFile(int error) {
     return error == EOPNOTSUPP || error == EISDIR || error == EINVAL || error == ENOENT ||
@@ -63,13 +43,13 @@ OutputFile::OutputFile(const QString &path, SystemCalls &calls, Readers readers)
     , m_newMode(readers == Readers::OwnerAlone ? kOwnerMode : kNewFileMode) {
     const QFileInfo info(path);
     m_folder = QFile::encodeName(info.path()).toStdString();
-    m_fd = uninterrupted([&] { return m_calls.openAnonymous(m_folder.c_str(), m_newMode); });
-    if (m_fd >= 0 && !canLinkByDescriptor(m_fd)) {
-        m_calls.close(m_fd);
-        m_fd = -1;
+    m_file = FileDescriptor(
+        uninterrupted([&] { return m_calls.openAnonymous(m_folder.c_str(), m_newMode); }), m_calls);
+    if (m_file.isOpen() && !canLinkByDescriptor(m_file.get())) {
+        m_file.close();
         errno = EOPNOTSUPP;
     }
-    if (m_fd < 0) {
+    if (!m_file.isOpen()) {
         if (!isNoNamelessFile(errno)) {
             fail("create");
         }
@@ -79,9 +59,7 @@ OutputFile::OutputFile(const QString &path, SystemCalls &calls, Readers readers)
 }
 
 OutputFile::~OutputFile() {
-    if (m_fd >= 0) {
-        m_calls.close(m_fd);
-    }
+    m_file.close();
     if (m_part) {
         m_calls.unlink(m_part->path().c_str());
     }
@@ -106,9 +84,9 @@ void OutputFile::openNamed(const QByteArray &fileName) {
     // The empty file tells which mode the umask leaves; until it is whole it is the owner's.
     struct stat status {};
     constexpr mode_t kPermissionBits = 07777;
-    m_mode = ::fstat(m_fd, &status) == 0 ? status.st_mode & kPermissionBits : kOwnerMode;
+    m_mode = ::fstat(m_file.get(), &status) == 0 ? status.st_mode & kPermissionBits : kOwnerMode;
     // File systems without permissions refuse; their files have the mount's mode then as now.
-    m_calls.fchmod(m_fd, kOwnerMode);
+    m_calls.fchmod(m_file.get(), kOwnerMode);
 }
 
 /// False when another name is to be tried: this one is taken, or the file was taken for abandoned
@@ -116,15 +94,16 @@ void OutputFile::openNamed(const QByteArray &fileName) {
 bool OutputFile::openPart(const std::string &path) {
     auto part = std::make_unique<PartFile>(path);
     constexpr int kFlags = O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC;
-    m_fd = uninterrupted([&] { return m_calls.open(path.c_str(), kFlags, m_newMode); });
-    if (m_fd < 0 && errno == EEXIST) {
+    m_file = FileDescriptor(
+        uninterrupted([&] { return m_calls.open(path.c_str(), kFlags, m_newMode); }), m_calls);
+    if (!m_file.isOpen() && errno == EEXIST) {
         return false;
     }
-    if (m_fd < 0) {
+    if (!m_file.isOpen()) {
         fail("create");
     }
-    if (!lockPart(m_fd) || isRemoved(m_fd)) {
-        m_calls.close(std::exchange(m_fd, -1));
+    if (!lockPart(m_file.get()) || isRemoved(m_file.get())) {
+        m_file.close();
         errno = EBUSY;
         return false;
     }
@@ -132,23 +111,14 @@ bool OutputFile::openPart(const std::string &path) {
     return true;
 }
 
-void OutputFile::writeAll(const char *data, std::size_t size) {
-    while (size > 0) {
-        const ssize_t written =
-            uninterrupted([&] { return m_calls.write(m_fd, data, std::min(size, kWriteSize)); });
-        if (written == 0) {
-            errno = ENOSPC;
-        }
-        if (written <= 0) {
-            fail("write");
-        }
-        data += written;
-        size -= static_cast<std::size_t>(written);
+void OutputFile::append(std::span<const char> bytes) {
+    if (!m_file.write(bytes)) {
+        fail("write");
     }
 }
 
 void OutputFile::drain() {
-    writeAll(m_buffer.data(), m_buffer.size());
+    append(m_buffer);
     m_buffer.clear();
 }
 
@@ -157,7 +127,7 @@ void OutputFile::write(std::span<const char> bytes) {
         drain();
     }
     if (bytes.size() >= kBufferSize) {
-        writeAll(bytes.data(), bytes.size());
+        append(bytes);
     } else {
         m_buffer.append(bytes.data(), bytes.size());
     }
@@ -167,48 +137,28 @@ void OutputFile::write(std::span<const char> bytes) {
 QByteArray OutputFile::read(qint64 offset, qint64 size) {
     drain();
     QByteArray bytes(size, Qt::Uninitialized);
-    qint64 done = 0;
-    while (done < size) {
-        const ssize_t got = uninterrupted([&] {
-            return m_calls.pread(m_fd, bytes.data() + done, static_cast<std::size_t>(size - done),
-                                 offset + done);
-        });
-        if (got < 0) {
-            fail("read back");
-        }
-        if (got == 0) {
-            break;
-        }
-        done += got;
+    const qint64 got =
+        m_file.readAt(offset, {bytes.data(), static_cast<std::size_t>(bytes.size())});
+    if (got < 0) {
+        fail("read back");
     }
-    bytes.truncate(done);
+    bytes.truncate(got);
     return bytes;
 }
 
 void OutputFile::overwrite(qint64 offset, const QByteArray &bytes) {
     drain();
-    qint64 done = 0;
-    while (done < bytes.size()) {
-        const ssize_t written = uninterrupted([&] {
-            return m_calls.pwrite(m_fd, bytes.constData() + done,
-                                  static_cast<std::size_t>(bytes.size() - done), offset + done);
-        });
-        if (written == 0) {
-            errno = ENOSPC;
-        }
-        if (written <= 0) {
-            fail("write");
-        }
-        done += written;
+    if (!m_file.writeAt(offset, bytes)) {
+        fail("write");
     }
 }
 
 void OutputFile::finish(Flush flush) {
     drain();
-    if (m_part && m_calls.fchmod(m_fd, m_mode) != 0 && errno != EPERM && errno != ENOTSUP) {
+    if (m_part && m_calls.fchmod(m_file.get(), m_mode) != 0 && errno != EPERM && errno != ENOTSUP) {
         fail("write");
     }
-    if (flush == Flush::Always && uninterrupted([&] { return m_calls.fsync(m_fd); }) != 0) {
+    if (flush == Flush::Always && uninterrupted([&] { return m_calls.fsync(m_file.get()); }) != 0) {
         fail("flush");
     }
 }
@@ -229,12 +179,13 @@ bool OutputFile::renamePart(const char *path) {
         return false;
     }
     // Neither is known here: hold the name with a file of our own, then replace that one.
-    const int held =
-        m_calls.open(path, O_CREAT | O_EXCL | O_NOFOLLOW | O_WRONLY | O_CLOEXEC, kOwnerMode);
-    if (held < 0) {
+    FileDescriptor held(
+        m_calls.open(path, O_CREAT | O_EXCL | O_NOFOLLOW | O_WRONLY | O_CLOEXEC, kOwnerMode),
+        m_calls);
+    if (!held.isOpen()) {
         return false;
     }
-    m_calls.close(held);
+    held.close();
     if (m_calls.rename(part, path) == 0) {
         return true;
     }
@@ -245,7 +196,7 @@ bool OutputFile::renamePart(const char *path) {
 }
 
 bool OutputFile::givePublicName(const char *path) {
-    return m_part ? renamePart(path) : m_calls.linkAnonymous(m_fd, path) == 0;
+    return m_part ? renamePart(path) : m_calls.linkAnonymous(m_file.get(), path) == 0;
 }
 
 OutputFile::Published OutputFile::publish(const QString &path, Flush flush) {
@@ -271,8 +222,8 @@ OutputFile::Published OutputFile::publish(const QString &path, Flush flush) {
 
 void OutputFile::linkAsPart(const QByteArray &fileName) {
     auto part = std::make_unique<PartFile>(partPath(m_folder, fileName));
-    lockPart(m_fd);
-    if (m_calls.linkAnonymous(m_fd, part->path().c_str()) != 0) {
+    lockPart(m_file.get());
+    if (m_calls.linkAnonymous(m_file.get(), part->path().c_str()) != 0) {
         fail("name");
     }
     m_part = std::move(part);
@@ -283,7 +234,7 @@ void OutputFile::replace(const QString &path, Flush flush) {
         linkAsPart(QFile::encodeName(QFileInfo(path).fileName()));
     }
     // Some file systems tell only now that not all was written; the lock has to outlast that.
-    const Descriptor lock(::fcntl(m_fd, F_DUPFD_CLOEXEC, 0));
+    const FileDescriptor lock(::fcntl(m_file.get(), F_DUPFD_CLOEXEC, 0));
     closeFile();
     if (m_calls.rename(m_part->path().c_str(), QFile::encodeName(path).constData()) != 0) {
         fail("name");
@@ -295,7 +246,7 @@ void OutputFile::replace(const QString &path, Flush flush) {
 }
 
 void OutputFile::closeFile() {
-    if (m_calls.close(std::exchange(m_fd, -1)) != 0 && errno != EINTR) {
+    if (!m_file.close() && errno != EINTR) {
         fail("write");
     }
 }
@@ -303,10 +254,10 @@ void OutputFile::closeFile() {
 void OutputFile::syncFolder() {
     // The document stands whole under its name by now; where a folder cannot be flushed (many
     // network file systems) nothing better can be done.
-    const int folder = m_calls.open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
-    if (folder >= 0) {
-        m_calls.fsync(folder);
-        m_calls.close(folder);
+    const FileDescriptor folder(
+        m_calls.open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0), m_calls);
+    if (folder.isOpen()) {
+        m_calls.fsync(folder.get());
     }
 }
 

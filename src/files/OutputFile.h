@@ -1,7 +1,6 @@
 #pragma once
 
-#include "files/Flush.h"
-#include "files/SystemCalls.h"
+#include "files/FileDescriptor.h"
 
 #include <QByteArray>
 #include <QString>
@@ -13,6 +12,9 @@
 namespace folioforge {
 
 class PartFile;
+
+/// Whether a finished document is flushed to the disk before it gets its name.
+enum class Flush { Always, Never };
 
 /// A file that appears under its name only when it is whole, and never in place of another.
 ///
@@ -55,7 +57,7 @@ class OutputFile {
     void openNamed(const QByteArray &fileName);
     bool openPart(const std::string &path);
     void linkAsPart(const QByteArray &fileName);
-    void writeAll(const char *data, std::size_t size);
+    void append(std::span<const char> bytes);
     void drain();
     bool givePublicName(const char *path);
     bool renamePart(const char *path);
@@ -66,7 +68,7 @@ class OutputFile {
 
     SystemCalls &m_calls;
     std::string m_folder;
-    int m_fd = -1;
+    FileDescriptor m_file;
     mode_t m_newMode;  ///< The mode asked for, before the user's umask.
     mode_t m_mode = 0; ///< The mode of the finished part file.
     std::unique_ptr<PartFile> m_part;

@@ -1,5 +1,7 @@
 #include "files/PartFiles.h"
 
+#include "files/FileDescriptor.h"
+
 #include <QFile>
 #include <QRandomGenerator>
 
@@ -38,10 +40,11 @@ bool isPartName(const std::string &name) {
 
 /// A descriptor of the part at `path`; -1 where that cannot be had. Some network file systems lock
 /// only what is open for writing, which a folder never is.
-int openPart(const char *path) {
+FileDescriptor openPart(const char *path) {
     constexpr int kFlags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
     const int fd = ::open(path, O_RDWR | kFlags);
-    return fd >= 0 || errno != EISDIR ? fd : ::open(path, O_RDONLY | O_DIRECTORY | kFlags);
+    return FileDescriptor(
+        fd >= 0 || errno != EISDIR ? fd : ::open(path, O_RDONLY | O_DIRECTORY | kFlags));
 }
 
 /// Unlike lockPart(), sure of it: where locks are unknown nothing counts as abandoned.
@@ -53,15 +56,11 @@ bool isAbandoned(int fd) {
 }
 
 void removeIfAbandoned(const std::filesystem::path &path) {
-    const int fd = openPart(path.c_str());
-    if (fd < 0) {
-        return;
-    }
-    if (isAbandoned(fd)) {
+    const FileDescriptor part = openPart(path.c_str());
+    if (part.isOpen() && isAbandoned(part.get())) {
         std::error_code failure;
         std::filesystem::remove_all(path, failure);
     }
-    ::close(fd);
 }
 
 } // namespace

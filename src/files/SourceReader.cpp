@@ -1,16 +1,8 @@
 #include "files/SourceReader.h"
 
 #include "error/Error.h"
-#include "files/ImageFile.h"
-
-#include <QFile>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 
 using namespace Qt::StringLiterals;
@@ -22,32 +14,10 @@ namespace {
 constexpr qint64 kWindowSize = 64 << 10;
 constexpr qint64 kWindowAlignment = 16 << 10;
 
-[[noreturn]] void failToRead() {
-    throw Error(u"Cannot read the file: %1"_s.arg(QString::fromLocal8Bit(std::strerror(errno))));
-}
-
 } // namespace
 
-SourceFile SourceFile::examine(const QString &path) {
-    struct stat status {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
-        failToRead();
-    }
-    if (!S_ISREG(status.st_mode)) {
-        throw Error(u"This is not a regular file"_s);
-    }
-    return {path, status.st_size, folioforge::modifiedNanos(status)};
-}
-
-SourceReader::~SourceReader() {
-    closeFile();
-}
-
 void SourceReader::closeFile() {
-    if (m_fd >= 0) {
-        ::close(m_fd);
-        m_fd = -1;
-    }
+    m_open.reset();
     m_window = {};
 }
 
@@ -62,63 +32,34 @@ void SourceReader::requireNoFailure() const {
     }
 }
 
-void SourceReader::requireUnchanged() const {
-    struct stat status {};
-    if (::fstat(m_fd, &status) != 0) {
-        failToRead();
-    }
-    if (!S_ISREG(status.st_mode) || status.st_size != m_file.size ||
-        modifiedNanos(status) != m_file.modifiedNanos) {
-        throw Error(u"The file %1 was changed while it was being converted"_s.arg(m_file.path));
+void SourceReader::finishFile() {
+    if (m_open) {
+        m_open->requireUnchanged();
+        closeFile();
     }
 }
 
-void SourceReader::openFile(const SourceFile &file) {
-    if (m_fd >= 0 && m_file == file) {
+void SourceReader::openFile(const FileVersion &file) {
+    if (m_open && m_open->version() == file) {
         return;
     }
-    if (m_fd >= 0) {
-        requireUnchanged();
+    finishFile();
+    m_open = SourceFile::open(file.path, m_calls);
+    if (m_open->version() != file) {
+        throwFileChanged(file.path);
     }
-    closeFile();
-    m_file = file;
-    // Without O_NONBLOCK a pipe that took the file's place would make the program wait for ever.
-    m_fd = ::open(QFile::encodeName(file.path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (m_fd < 0) {
-        failToRead();
-    }
-    requireUnchanged();
-}
-
-std::size_t SourceReader::readFromDisk(qint64 offset, std::span<char> target) const {
-    std::size_t done = 0;
-    while (done < target.size()) {
-        const ssize_t got = uninterrupted([&] {
-            return m_calls.pread(m_fd, target.data() + done, target.size() - done,
-                                 offset + static_cast<qint64>(done));
-        });
-        if (got < 0) {
-            failToRead();
-        }
-        if (got == 0) {
-            break;
-        }
-        done += static_cast<std::size_t>(got);
-    }
-    return done;
 }
 
 std::size_t SourceReader::readThroughWindow(qint64 offset, std::span<char> target) {
-    const auto wanted = std::min(static_cast<qint64>(target.size()), m_file.size - offset);
+    const auto wanted =
+        std::min(static_cast<qint64>(target.size()), m_open->version().size - offset);
     if (wanted <= 0) {
         return 0;
     }
     if (offset < m_windowStart || offset + wanted > m_windowStart + m_window.size()) {
         m_windowStart = offset / kWindowAlignment * kWindowAlignment;
         m_window.resize(kWindowSize);
-        const auto got =
-            readFromDisk(m_windowStart, {m_window.data(), static_cast<std::size_t>(kWindowSize)});
-        m_window.truncate(static_cast<qsizetype>(got));
+        m_window.truncate(m_open->readAt(m_windowStart, {m_window.data(), kWindowSize}));
     }
     const qint64 available = std::min(wanted, m_windowStart + m_window.size() - offset);
     if (available <= 0) {
@@ -141,25 +82,21 @@ template<typename Step> auto SourceReader::keepingFailure(const Step &step) {
     }
 }
 
-std::size_t SourceReader::read(const SourceFile &file, qint64 offset, std::span<char> target) {
+std::size_t SourceReader::read(const FileVersion &file, qint64 offset, std::span<char> target) {
     return keepingFailure([&] {
         openFile(file);
         constexpr std::size_t kLargeRead = kWindowSize - kWindowAlignment;
-        return target.size() >= kLargeRead ? readFromDisk(offset, target)
-                                           : readThroughWindow(offset, target);
+        return target.size() >= kLargeRead
+                   ? static_cast<std::size_t>(m_open->readAt(offset, target))
+                   : readThroughWindow(offset, target);
     });
 }
 
 void SourceReader::finish() {
-    keepingFailure([&] {
-        if (m_fd >= 0) {
-            requireUnchanged();
-            closeFile();
-        }
-    });
+    keepingFailure([&] { finishFile(); });
 }
 
-std::span<const char> SourceReader::view(const SourceFile &file, qint64 offset, qint64 size) {
+std::span<const char> SourceReader::view(const FileVersion &file, qint64 offset, qint64 size) {
     if (m_view.size() < size) {
         m_view = QByteArray(size, Qt::Uninitialized);
     }

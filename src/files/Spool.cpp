@@ -29,49 +29,34 @@ constexpr qint64 kWindowSize = qint64{256} << 10;
 
 } // namespace
 
-Spool::~Spool() {
-    if (m_fd >= 0) {
-        m_calls.close(m_fd);
-    }
-}
-
 void Spool::openFile() {
     constexpr mode_t kOwnerMode = S_IRUSR | S_IWUSR;
     const std::string folder = QFile::encodeName(QDir::tempPath()).toStdString();
-    m_fd = uninterrupted([&] { return m_calls.openAnonymous(folder.c_str(), kOwnerMode); });
-    if (m_fd < 0 && !folder.empty()) { // Empty where TMPDIR names a folder that does not exist.
+    m_file = FileDescriptor(
+        uninterrupted([&] { return m_calls.openAnonymous(folder.c_str(), kOwnerMode); }), m_calls);
+    if (!m_file.isOpen() && !folder.empty()) { // Empty where TMPDIR names no folder.
         const std::string path = partPath(folder, "spool");
         constexpr int kFlags = O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC;
-        m_fd = uninterrupted([&] { return m_calls.open(path.c_str(), kFlags, kOwnerMode); });
-        if (m_fd >= 0) {
+        m_file = FileDescriptor(
+            uninterrupted([&] { return m_calls.open(path.c_str(), kFlags, kOwnerMode); }), m_calls);
+        if (m_file.isOpen()) {
             m_calls.unlink(path.c_str());
         }
     }
-    if (m_fd < 0) {
+    if (!m_file.isOpen()) {
         fail(u"Cannot create a temporary file"_s);
     }
 }
 
 void Spool::moveToFile(QByteArrayView data) {
-    if (m_fd < 0) {
+    if (!m_file.isOpen()) {
         openFile();
     }
-    // Where this fails half way, what it was to move must still be found in memory.
-    qint64 end = m_fileSize;
-    while (!data.isEmpty()) {
-        const ssize_t written = uninterrupted([&] {
-            return m_calls.pwrite(m_fd, data.data(), static_cast<std::size_t>(data.size()), end);
-        });
-        if (written == 0) {
-            errno = ENOSPC;
-        }
-        if (written <= 0) {
-            fail(u"Cannot write a temporary file"_s);
-        }
-        data = data.sliced(written);
-        end += written;
+    // Where this fails half way, the data is still in memory and its place is still there.
+    if (!m_file.writeAt(m_fileSize, data)) {
+        fail(u"Cannot write a temporary file"_s);
     }
-    m_fileSize = end;
+    m_fileSize += data.size();
 }
 
 Spool::Place Spool::add(QByteArrayView data) {
@@ -94,20 +79,11 @@ void Spool::readWindow(Place place) {
     m_window.resize(0);
     m_window.resize(size);
     m_windowStart = place.offset;
-    qint64 done = 0;
-    while (done < size) {
-        const ssize_t got = uninterrupted([&] {
-            return m_calls.pread(m_fd, m_window.data() + done,
-                                 static_cast<std::size_t>(size - done), place.offset + done);
-        });
-        if (got == 0) {
-            errno = EIO;
-        }
-        if (got <= 0) {
-            m_window.clear();
-            fail(u"Cannot read a temporary file"_s);
-        }
-        done += got;
+    const qint64 got = m_file.readAt(place.offset, m_window);
+    if (got < size) {
+        errno = got < 0 ? errno : EIO;
+        m_window.clear();
+        fail(u"Cannot read a temporary file"_s);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/SystemCalls.h"
+#include "files/FileDescriptor.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -19,7 +19,6 @@ class Spool {
 
     explicit Spool(SystemCalls &calls = SystemCalls::system())
         : m_calls(calls) {}
-    ~Spool();
     Spool(const Spool &) = delete;
     Spool &operator=(const Spool &) = delete;
 
@@ -36,7 +35,7 @@ class Spool {
     SystemCalls &m_calls;
     QByteArray m_memory;   ///< What came after the part in the file.
     qint64 m_fileSize = 0; ///< Bytes of the spool that are in the file.
-    int m_fd = -1;
+    FileDescriptor m_file;
     QByteArray m_window; ///< Bytes of the file from m_windowStart on.
     qint64 m_windowStart = 0;
 };

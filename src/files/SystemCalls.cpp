@@ -80,4 +80,64 @@ SystemCalls &SystemCalls::system() {
     return calls;
 }
 
+ssize_t StoppableCalls::write(int fd, const void *data, std::size_t size) {
+    return mayMoveBytes() ? m_calls.write(fd, data, size) : -1;
+}
+
+ssize_t StoppableCalls::pread(int fd, void *data, std::size_t size, off_t offset) {
+    return mayMoveBytes() ? m_calls.pread(fd, data, size, offset) : -1;
+}
+
+ssize_t StoppableCalls::pwrite(int fd, const void *data, std::size_t size, off_t offset) {
+    return mayMoveBytes() ? m_calls.pwrite(fd, data, size, offset) : -1;
+}
+
+int StoppableCalls::fsync(int fd) {
+    return mayMoveBytes() ? m_calls.fsync(fd) : -1;
+}
+
+int StoppableCalls::open(const char *path, int flags, mode_t mode) {
+    return m_calls.open(path, flags, mode);
+}
+
+int StoppableCalls::openAnonymous(const char *folder, mode_t mode) {
+    return m_calls.openAnonymous(folder, mode);
+}
+
+int StoppableCalls::fchmod(int fd, mode_t mode) {
+    return m_calls.fchmod(fd, mode);
+}
+
+int StoppableCalls::close(int fd) {
+    return m_calls.close(fd);
+}
+
+int StoppableCalls::linkAnonymous(int fd, const char *path) {
+    return m_calls.linkAnonymous(fd, path);
+}
+
+int StoppableCalls::renameExclusive(const char *from, const char *to) {
+    return m_calls.renameExclusive(from, to);
+}
+
+int StoppableCalls::link(const char *from, const char *to) {
+    return m_calls.link(from, to);
+}
+
+int StoppableCalls::rename(const char *from, const char *to) {
+    return m_calls.rename(from, to);
+}
+
+int StoppableCalls::unlink(const char *path) {
+    return m_calls.unlink(path);
+}
+
+bool StoppableCalls::mayMoveBytes() const {
+    if (m_stop.stop_requested()) {
+        errno = ECANCELED;
+        return false;
+    }
+    return true;
+}
+
 } // namespace folioforge

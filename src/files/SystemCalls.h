@@ -4,6 +4,8 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <stop_token>
+#include <utility>
 
 namespace folioforge {
 
@@ -33,6 +35,38 @@ class SystemCalls {
 
     /// The calls of the running system.
     static SystemCalls &system();
+};
+
+/// The calls of another that move no more bytes once a stop is requested: they then fail with
+/// ECANCELED, so that a long read or write ends as it does on a disk that was unplugged, and the
+/// caller cleans up as it does then.
+class StoppableCalls final : public SystemCalls {
+  public:
+    StoppableCalls(SystemCalls &calls, std::stop_token stop)
+        : m_calls(calls)
+        , m_stop(std::move(stop)) {}
+
+    ssize_t write(int fd, const void *data, std::size_t size) override;
+    ssize_t pread(int fd, void *data, std::size_t size, off_t offset) override;
+    ssize_t pwrite(int fd, const void *data, std::size_t size, off_t offset) override;
+    int fsync(int fd) override;
+
+    int open(const char *path, int flags, mode_t mode) override;
+    int openAnonymous(const char *folder, mode_t mode) override;
+    int fchmod(int fd, mode_t mode) override;
+    int close(int fd) override;
+    int linkAnonymous(int fd, const char *path) override;
+    int renameExclusive(const char *from, const char *to) override;
+    int link(const char *from, const char *to) override;
+    int rename(const char *from, const char *to) override;
+    int unlink(const char *path) override;
+
+  private:
+    /// False and ECANCELED once a stop is requested.
+    [[nodiscard]] bool mayMoveBytes() const;
+
+    SystemCalls &m_calls;
+    std::stop_token m_stop;
 };
 
 /// The result of `call`, which is made again as long as a signal interrupts it.

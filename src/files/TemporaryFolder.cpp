@@ -34,14 +34,13 @@ TemporaryFolder::~TemporaryFolder() {
     if (m_part) {
         std::error_code failure;
         std::filesystem::remove_all(m_part->path(), failure);
-        ::close(m_fd);
     }
 }
 
 QString TemporaryFolder::path() {
     // A long life outlasts those who clean the system's temporary folder.
-    if (m_part && isRemoved(m_fd)) {
-        ::close(m_fd);
+    if (m_part && isRemoved(m_descriptor.get())) {
+        m_descriptor.close();
         m_part.reset();
     }
     if (!m_part) {
@@ -60,17 +59,15 @@ bool TemporaryFolder::make(const std::string &path) {
     if (::mkdir(path.c_str(), S_IRWXU) != 0) {
         return false;
     }
-    const int fd = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    if (fd >= 0 && lockPart(fd) && !isRemoved(fd)) {
-        m_fd = fd;
+    FileDescriptor folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (folder.isOpen() && lockPart(folder.get()) && !isRemoved(folder.get())) {
+        m_descriptor = std::move(folder);
         m_part = std::move(part);
         return true;
     }
-    if (fd < 0) {
+    if (!folder.isOpen()) {
         ::rmdir(path.c_str());
-    } else {
-        ::close(fd); // Another process took it for abandoned before it was locked.
-    }
+    } // Else another process took it for abandoned before it was locked.
     return false;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "files/FileDescriptor.h"
+
 #include <QString>
 
 #include <memory>
@@ -30,7 +32,7 @@ class TemporaryFolder {
 
     QString m_parent;
     std::unique_ptr<PartFile> m_part;
-    int m_fd = -1; ///< Holds the lock.
+    FileDescriptor m_descriptor; ///< Holds the lock.
 };
 
 } // namespace folioforge

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "error/Error.h"
-#include "files/ImageFile.h"
+#include "files/SourceFile.h"
 #include "image/ImageHeader.h"
 #include "image/PdfImage.h"
 
@@ -39,7 +39,7 @@ const ImageFormat &formatOf(const FileView &file);
 /// Error, also where there is not enough memory.
 template<typename Read> auto readImageFile(const QString &path, const Read &read) {
     try {
-        const ImageFile file = ImageFile::open(path);
+        const SourceFile file = SourceFile::open(path);
         return read(file, formatOf(file.view()));
     } catch (const std::bad_alloc &) {
         throw Error(QStringLiteral("There is not enough memory for the image"));

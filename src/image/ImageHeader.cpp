@@ -59,7 +59,7 @@ QSizeF ImageHeader::sizeInPoints() const {
 }
 
 ImageHeader readImageHeader(const QString &path) {
-    return readImageFile(path, [](const ImageFile &file, const ImageFormat &format) {
+    return readImageFile(path, [](const SourceFile &file, const ImageFormat &format) {
         ImageHeader header = format.readHeader(file.view());
         header.kind = format.kind;
         return header;

@@ -5,13 +5,11 @@
 namespace folioforge {
 
 PdfImage toPdfImage(const QString &path) {
-    return readImageFile(path, [](const ImageFile &file, const ImageFormat &format) {
+    return readImageFile(path, [](const SourceFile &file, const ImageFormat &format) {
         PdfImage image = format.toPdfImage(file.view());
         file.requireUnchanged();
         image.header.kind = format.kind;
-        image.sourcePath = file.path();
-        image.sourceSize = file.size();
-        image.sourceModifiedNanos = file.modifiedNanos();
+        image.source = file.version();
         return image;
     });
 }

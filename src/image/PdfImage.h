@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/SourceFile.h"
 #include "image/ImageHeader.h"
 
 #include <QByteArray>
@@ -46,14 +47,11 @@ struct PdfImage {
     bool ccittBlackIs1 = false; ///< CCITT: BlackIs1 parameter.
     bool isPlainRgb = false;    ///< DCT: the samples are RGB though the data does not say so.
 
-    /// The compressed data: either in `data`, or slices of the file `sourcePath` in this order.
+    /// The compressed data: either in `data`, or slices of the file `source` in this order.
     QByteArray data;
-    QString sourcePath;
     std::vector<FileSlice> slices;
-    /// Size of the source file and time of its last change, in nanoseconds since 1970, when it was
-    /// read; others later are an error.
-    qint64 sourceSize = 0;
-    qint64 sourceModifiedNanos = 0;
+    /// The source file as it was read; a change before its slices are written is an error.
+    FileVersion source;
 
     /// Opacity of each pixel as a grey image; none for an opaque image.
     std::unique_ptr<PdfImage> softMask;

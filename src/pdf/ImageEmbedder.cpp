@@ -67,18 +67,12 @@ QPDFObjectHandle labSpace() {
         "[/Lab << /WhitePoint [0.9642 1 0.8249] /Range [-128 127 -128 127] >>]");
 }
 
-std::string sourceKey(const SourceFile &file, const PdfImage &image) {
-    std::string key = file.path.toStdString() + '\0' + std::to_string(file.size) + ' ' +
-                      std::to_string(file.modifiedNanos);
+std::string sourceKey(const PdfImage &image) {
+    std::string key = image.source.key();
     for (const FileSlice &slice : image.slices) {
         key += ' ' + std::to_string(slice.offset) + '+' + std::to_string(slice.length);
     }
     return key;
-}
-
-/// The source as the decoder saw it: reading another one is an error.
-SourceFile sourceOf(const PdfImage &image) {
-    return {image.sourcePath, image.sourceSize, image.sourceModifiedNanos};
 }
 
 } // namespace
@@ -138,7 +132,7 @@ QPDFObjectHandle ImageEmbedder::makeStream(QPDFObjectHandle dictionary, const Pd
     if (image.slices.empty()) {
         return m_streams.fromBytes(dictionary, image.data);
     }
-    return m_streams.fromFile(dictionary, sourceOf(image), image.slices);
+    return m_streams.fromFile(dictionary, image.source, image.slices);
 }
 
 QPDFObjectHandle ImageEmbedder::makeImage(const PdfImage &image) {
@@ -174,7 +168,7 @@ QPDFObjectHandle ImageEmbedder::embed(const PdfImage &image) {
     if (image.slices.empty()) {
         return makeImage(image);
     }
-    const std::string key = sourceKey(sourceOf(image), image);
+    const std::string key = sourceKey(image);
     const auto known = m_embedded.find(key);
     if (known != m_embedded.end()) {
         return known->second;

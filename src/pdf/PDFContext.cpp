@@ -216,9 +216,8 @@ void PDFContext::Impl::drawImage(const QRectF &rect, const PdfImage &image, int 
 int PDFContext::Impl::addDocument(const QString &sourcePath) {
     return atQpdfBorder([&] {
         m_reader->beginAnew(); // A source that failed may have left its file open.
-        const SourceFile file = SourceFile::examine(sourcePath);
-        const std::string key = sourcePath.toStdString() + '\0' + std::to_string(file.size) + ' ' +
-                                std::to_string(file.modifiedNanos);
+        const FileVersion file = FileVersion::of(sourcePath);
+        const std::string key = file.key();
         const auto source = openSourceDocument(file, m_reader);
         // Only what a whole copy brought may be used by the next one.
         ObjectCopier::Streams streams = m_sourceStreams[key];

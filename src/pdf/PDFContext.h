@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/Flush.h"
+#include "files/OutputFile.h"
 #include "files/SystemCalls.h"
 #include "pdf/Password.h"
 #include "text/FontCascade.h"

@@ -39,7 +39,8 @@ class StreamData::SpooledData final : public QPDFObjectHandle::StreamDataProvide
 
 class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider {
   public:
-    SlicedData(std::shared_ptr<SourceReader> reader, SourceFile file, std::vector<FileSlice> slices)
+    SlicedData(std::shared_ptr<SourceReader> reader, FileVersion file,
+               std::vector<FileSlice> slices)
         : m_reader(std::move(reader))
         , m_file(std::move(file))
         , m_slices(std::move(slices)) {}
@@ -65,7 +66,7 @@ class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider
     }
 
     std::shared_ptr<SourceReader> m_reader;
-    SourceFile m_file;
+    FileVersion m_file;
     std::vector<FileSlice> m_slices;
 };
 
@@ -109,7 +110,7 @@ QPDFObjectHandle StreamData::pageContent(QByteArrayView content) {
     return stream;
 }
 
-QPDFObjectHandle StreamData::fromFile(const QPDFObjectHandle &dictionary, SourceFile file,
+QPDFObjectHandle StreamData::fromFile(const QPDFObjectHandle &dictionary, FileVersion file,
                                       std::vector<FileSlice> slices) {
     return make(dictionary,
                 std::make_shared<SlicedData>(m_reader, std::move(file), std::move(slices)));

@@ -1,7 +1,7 @@
 #include "files/SourceReader.h"
 
 #include "error/Error.h"
-#include "files/ImageFile.h"
+#include "files/SourceFile.h"
 #include "support/Files.h"
 #include "support/TestUnit.h"
 
@@ -66,7 +66,7 @@ class SourceReaderTest : public QObject {
 
     void aFileThatStaysIsRead() {
         SourceReader reader;
-        const SourceFile file = SourceFile::examine(m_path);
+        const FileVersion file = FileVersion::of(m_path);
         const auto bytes = reader.view(file, kSize - 4, 4);
         QCOMPARE(QByteArray(bytes.data(), 4), QByteArray("xxxx"));
         reader.finish();
@@ -77,7 +77,7 @@ class SourceReaderTest : public QObject {
     void aChangeWhileItIsReadIsAnError() {
         QFETCH(Change, change);
         SourceReader reader;
-        const SourceFile file = SourceFile::examine(m_path);
+        const FileVersion file = FileVersion::of(m_path);
         QCOMPARE(reader.view(file, 0, 4).size(), std::size_t(4));
         change(QFile::encodeName(m_path));
         QVERIFY_THROWS_EXCEPTION(Error, reader.finish());
@@ -88,9 +88,9 @@ class SourceReaderTest : public QObject {
     void aChangeIsFoundWhenTheNextFileIsRead() {
         QFETCH(Change, change);
         SourceReader reader;
-        const SourceFile file = SourceFile::examine(m_path);
-        const SourceFile next =
-            SourceFile::examine(test::writeFile(m_folder.filePath(u"next"_s), "next"));
+        const FileVersion file = FileVersion::of(m_path);
+        const FileVersion next =
+            FileVersion::of(test::writeFile(m_folder.filePath(u"next"_s), "next"));
         QCOMPARE(reader.view(file, 0, 4).size(), std::size_t(4));
         change(QFile::encodeName(m_path));
         QVERIFY_THROWS_EXCEPTION(Error, static_cast<void>(reader.view(next, 0, 4)));
@@ -101,14 +101,14 @@ class SourceReaderTest : public QObject {
     void aChangeBeforeItIsReadIsAnError() {
         QFETCH(Change, change);
         SourceReader reader;
-        const SourceFile file = SourceFile::examine(m_path);
+        const FileVersion file = FileVersion::of(m_path);
         change(QFile::encodeName(m_path));
         QVERIFY_THROWS_EXCEPTION(Error, static_cast<void>(reader.view(file, 0, 4)));
     }
 
     void bytesThatAreGoneAreAnError() {
         SourceReader reader;
-        const SourceFile file = SourceFile::examine(m_path);
+        const FileVersion file = FileVersion::of(m_path);
         QCOMPARE(reader.view(file, 0, 4).size(), std::size_t(4));
         shrink(QFile::encodeName(m_path));
         QVERIFY_THROWS_EXCEPTION(Error, static_cast<void>(reader.view(file, kSize / 2, 4)));
@@ -116,7 +116,7 @@ class SourceReaderTest : public QObject {
 
     void aPipeThatTookTheNameIsNotWaitedFor() {
         SourceReader reader;
-        const SourceFile file = SourceFile::examine(m_path);
+        const FileVersion file = FileVersion::of(m_path);
         QVERIFY(QFile::remove(m_path));
         QCOMPARE(::mkfifo(QFile::encodeName(m_path).constData(), 0600), 0);
         QVERIFY_THROWS_EXCEPTION(Error, static_cast<void>(reader.view(file, 0, 4)));
@@ -126,7 +126,7 @@ class SourceReaderTest : public QObject {
     void anImageThatChangesWhileItIsDecodedIsAnError_data() { addChanges(); }
     void anImageThatChangesWhileItIsDecodedIsAnError() {
         QFETCH(Change, change);
-        const ImageFile file = ImageFile::open(m_path);
+        const SourceFile file = SourceFile::open(m_path);
         file.requireUnchanged();
         change(QFile::encodeName(m_path));
         QVERIFY_THROWS_EXCEPTION(Error, file.requireUnchanged());

@@ -211,12 +211,12 @@ void ImageHeaderTest::pipeIsRefusedWithoutWaiting() {
 }
 
 void ImageHeaderTest::folderIsRefused() {
-    QCOMPARE(headerRefusal(m_folder.path()), u"It is a folder, not an image file"_s);
+    QCOMPARE(headerRefusal(m_folder.path()), u"It is not a regular file"_s);
 }
 
 void ImageHeaderTest::missingFileIsRefused() {
     QVERIFY(headerRefusal(m_folder.filePath(u"absent.png"_s))
-                .startsWith(u"The file cannot be opened: "_s));
+                .startsWith(u"Cannot open the file: "_s));
 }
 
 void ImageHeaderTest::emptyFileIsRefused() {

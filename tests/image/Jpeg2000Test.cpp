@@ -185,7 +185,7 @@ void Jpeg2000Test::opacityIsTakenFromAmongTheColors() {
         box("ftyp", QByteArray("jp2 \0\0\0\0jp2 ", 12)) +
         box("jp2h", headerOf(components, alpha, profileOf(colorSpace.constData()))) +
         box("jp2c", codestream(components));
-    const ImageFile file = ImageFile::open(writeFile(m_folder.filePath(u"opacity.jp2"_s), bytes));
+    const SourceFile file = SourceFile::open(writeFile(m_folder.filePath(u"opacity.jp2"_s), bytes));
     const Raster raster = decodeJpeg2000(file.view(), readJpeg2000Metadata(file.view()));
     QByteArray pixels;
     for (int x = 0; x < 3; ++x) {

@@ -77,7 +77,7 @@ void LosslessTest::fileComesOutPixelForPixel() {
     QFETCH(QString, name);
     QFETCH(QString, like);
     const PdfImage image = toPdfImage(imageFile(name));
-    QCOMPARE(image.sourceSize, bytesOf(imageFile(name)).size());
+    QCOMPARE(image.source.size, bytesOf(imageFile(name)).size());
     QVERIFY(image.softMask == nullptr);
     QCOMPARE(decoded(image).convertToFormat(QImage::Format_RGB32),
              reference(like, QImage::Format_RGB32));

@@ -53,7 +53,7 @@ void OwnBytesTest::pngRowsGoInWithTheirPredictor() {
         const PdfImage image = toPdfImage(imageFile(QString::fromLatin1(name)));
         QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
         QCOMPARE(image.predictor, 15);
-        QVERIFY(bytesOf(image.sourcePath).contains("IDAT" + dataOf(image)));
+        QVERIFY(bytesOf(image.source.path).contains("IDAT" + dataOf(image)));
     }
 }
 

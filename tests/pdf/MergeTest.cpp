@@ -420,7 +420,9 @@ class MergeTest : public QObject {
         const QString input = saved(source);
         test::FaultyCalls counted;
         QCOMPARE(PDFContext(newPath(), through(counted)).addDocument(input), 2);
-        for (int call = 1; call <= counted.count(); ++call) {
+        QVERIFY(counted.moves() > 3);
+        // The first call opens the file.
+        for (int call = 2; call <= counted.moves() + 1; ++call) {
             test::FaultyCalls calls;
             calls.fault = {call, EIO, false, {}};
             const QString path = newPath();

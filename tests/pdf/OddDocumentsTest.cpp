@@ -90,7 +90,7 @@ class OddDocumentsTest : public QObject {
     static QString refusal(const QString &file) {
         try {
             summarizePDF(file);
-            openSourceDocument(SourceFile::examine(file), std::make_shared<SourceReader>());
+            openSourceDocument(FileVersion::of(file), std::make_shared<SourceReader>());
             return {};
         } catch (const Error &error) {
             return error.reason();
@@ -183,7 +183,7 @@ class OddDocumentsTest : public QObject {
                                    QStringList{u"--"_s, saved(onePage().bytes()), encrypted});
         QVERIFY2(QFile::exists(encrypted), run.err.constData());
         QVERIFY(summarizePDF(encrypted).encrypted);
-        QVERIFY_THROWS_EXCEPTION(Error, openSourceDocument(SourceFile::examine(encrypted),
+        QVERIFY_THROWS_EXCEPTION(Error, openSourceDocument(FileVersion::of(encrypted),
                                                            std::make_shared<SourceReader>()));
     }
 };

@@ -47,11 +47,8 @@ PdfImage jpegInPlace(const QString &path) {
     image.height = pixels.height();
     image.filter = ImageFilter::Dct;
     image.embeddedAs = EmbeddedAs::OwnBytes;
-    image.sourcePath = path;
-    const SourceFile source = SourceFile::examine(path);
-    image.sourceSize = source.size;
-    image.sourceModifiedNanos = source.modifiedNanos;
-    image.slices = {{0, image.sourceSize}};
+    image.source = FileVersion::of(path);
+    image.slices = {{0, image.source.size}};
     return image;
 }
 
@@ -399,10 +396,8 @@ class PDFContextTest : public QObject {
         PdfImage image;
         image.width = image.height = 1;
         image.filter = ImageFilter::Dct;
-        image.sourcePath = source;
-        image.sourceSize = big.size();
-        image.sourceModifiedNanos = SourceFile::examine(source).modifiedNanos;
-        image.slices = {{0, image.sourceSize}};
+        image.source = FileVersion::of(source);
+        image.slices = {{0, image.source.size}};
         context.beginPage({0, 0, 10, 10});
         context.drawImage({0, 0, 10, 10}, std::move(image), 1);
         context.endPage();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/ImageFile.h"
+#include "files/SourceFile.h"
 #include "image/ImageHeader.h"
 
 #include <QByteArray>

@@ -16,7 +16,7 @@ namespace folioforge {
 namespace {
 
 /// Without this the library searches a whole foreign file for objects before it gives up.
-void requirePdfHeader(const SourceFile &file, SourceReader &reader) {
+void requirePdfHeader(const FileVersion &file, SourceReader &reader) {
     std::array<char, 1024> start{};
     const auto got = reader.read(file, 0, start);
     if (std::string_view(start.data(), got).find("%PDF-") == std::string_view::npos) {
@@ -25,7 +25,7 @@ void requirePdfHeader(const SourceFile &file, SourceReader &reader) {
 }
 
 /// Null for a document that needs a password or an unknown security handler.
-std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
+std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
                                        const std::shared_ptr<SourceReader> &reader,
                                        SourceInput::Table table) {
     auto document = std::make_unique<QPDF>();
@@ -46,7 +46,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
 }
 
 /// Repairs what the library does by itself, and files whose table looks right and is not.
-std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
+std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
                                        const std::shared_ptr<SourceReader> &reader) {
     requirePdfHeader(file, *reader);
     try {
@@ -64,7 +64,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const SourceFile &file,
 PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
     return atQpdfBorder([&] {
         const auto reader = std::make_shared<SourceReader>(calls);
-        const auto document = openUnlessLocked(SourceFile::examine(path), reader);
+        const auto document = openUnlessLocked(FileVersion::of(path), reader);
         if (!document || document->isEncrypted()) {
             return PDFSummary{true, 0};
         }
@@ -74,7 +74,7 @@ PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
     });
 }
 
-std::unique_ptr<QPDF> openSourceDocument(const SourceFile &file,
+std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
                                          const std::shared_ptr<SourceReader> &reader) {
     return atQpdfBorder([&] {
         auto document = openUnlessLocked(file, reader);

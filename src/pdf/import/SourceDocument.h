@@ -26,7 +26,7 @@ PDFSummary summarizePDF(const QString &path, SystemCalls &calls = SystemCalls::s
 
 /// Opens a source PDF for copying through `reader`. Throws Error when it is no PDF, encrypted or
 /// beyond repair.
-std::unique_ptr<QPDF> openSourceDocument(const SourceFile &file,
+std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
                                          const std::shared_ptr<SourceReader> &reader);
 
 } // namespace folioforge

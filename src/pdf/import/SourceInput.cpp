@@ -15,7 +15,7 @@ constexpr qint64 kBlanksThatHideTheTable = 2048;
 
 } // namespace
 
-SourceInput::SourceInput(SourceFile file, std::shared_ptr<SourceReader> reader, Table table)
+SourceInput::SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table)
     : m_file(std::move(file))
     , m_reader(std::move(reader))
     , m_end(m_file.size + (table == Table::Hidden ? kBlanksThatHideTheTable : 0))

@@ -16,7 +16,7 @@ class SourceInput final : public InputSource {
     /// file for them.
     enum class Table { Shown, Hidden };
 
-    SourceInput(SourceFile file, std::shared_ptr<SourceReader> reader, Table table);
+    SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table);
 
     qpdf_offset_t findAndSkipNextEOL() override;
     std::string const &getName() const override;
@@ -27,7 +27,7 @@ class SourceInput final : public InputSource {
     void unreadCh(char ch) override;
 
   private:
-    SourceFile m_file;
+    FileVersion m_file;
     std::shared_ptr<SourceReader> m_reader;
     qint64 m_end; ///< Behind the file stand blanks up to here.
     std::string m_name;

@@ -1,0 +1,163 @@
+#include "files/SourceFile.h"
+
+#include "error/Error.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+namespace {
+
+/// Throws Error with the reason in errno.
+[[noreturn]] void fail(const QString &what) {
+    throw Error(u"%1: %2"_s.arg(what, QString::fromLocal8Bit(std::strerror(errno))));
+}
+
+[[noreturn]] void failToOpen() {
+    fail(u"Cannot open the file"_s);
+}
+
+[[noreturn]] void failToRead() {
+    fail(u"Cannot read the file"_s);
+}
+
+FileVersion versionOf(const QString &path, const struct stat &status) {
+    if (!S_ISREG(status.st_mode)) {
+        throw Error(u"It is not a regular file"_s);
+    }
+#ifdef __APPLE__
+    const timespec &time = status.st_mtimespec;
+#else
+    const timespec &time = status.st_mtim;
+#endif
+    constexpr qint64 kNanosPerSecond = 1'000'000'000;
+    return {path, status.st_size, qint64{time.tv_sec} * kNanosPerSecond + qint64{time.tv_nsec}};
+}
+
+FileVersion versionOf(const QString &path, const FileDescriptor &descriptor) {
+    struct stat status {};
+    if (::fstat(descriptor.get(), &status) != 0) {
+        failToRead();
+    }
+    return versionOf(path, status);
+}
+
+} // namespace
+
+void throwFileChanged(const QString &path) {
+    throw Error(u"The file %1 was changed while it was being converted"_s.arg(path));
+}
+
+FileVersion FileVersion::of(const QString &path) {
+    struct stat status {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
+        failToOpen();
+    }
+    return versionOf(path, status);
+}
+
+std::string FileVersion::key() const {
+    return path.toStdString() + '\0' + std::to_string(size) + ' ' + std::to_string(modifiedNanos);
+}
+
+SourceFile::SourceFile(FileDescriptor descriptor, FileVersion version)
+    : m_descriptor(std::move(descriptor))
+    , m_version(std::move(version)) {}
+
+SourceFile SourceFile::open(const QString &path, SystemCalls &calls) {
+    FileVersion::of(path);
+    // Another file may take the name now. Without O_NONBLOCK a pipe would make the program wait.
+    constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_CLOEXEC;
+    const QByteArray name = QFile::encodeName(path);
+    FileDescriptor descriptor(
+        uninterrupted([&] { return calls.open(name.constData(), kFlags, 0); }), calls);
+    if (!descriptor.isOpen()) {
+        failToOpen();
+    }
+    FileVersion version = versionOf(path, descriptor);
+    return {std::move(descriptor), std::move(version)};
+}
+
+void SourceFile::requireUnchanged() const {
+    if (versionOf(m_version.path, m_descriptor) != m_version) {
+        throwFileChanged(m_version.path);
+    }
+}
+
+qint64 SourceFile::readAt(qint64 at, std::span<char> target) const {
+    const qint64 got = m_descriptor.readAt(at, target);
+    if (got < 0) {
+        failToRead();
+    }
+    return got;
+}
+
+QByteArray SourceFile::readAll() const {
+    constexpr qint64 kStep = 64 << 10;
+    QByteArray bytes;
+    qint64 got = 0;
+    // To the end, wherever it is: some file systems (procfs) give 0 as the size of every file.
+    while (got == bytes.size()) {
+        bytes.resize(std::max(m_version.size + 1, got + kStep));
+        got += readAt(got, std::span<char>(bytes.data(), static_cast<std::size_t>(bytes.size()))
+                               .subspan(static_cast<std::size_t>(got)));
+    }
+    bytes.truncate(got);
+    requireUnchanged();
+    return bytes;
+}
+
+FileView SourceFile::view() const {
+    return {*this, 0, m_version.size};
+}
+
+FileView::FileView(const SourceFile &file, qint64 offset, qint64 size)
+    : m_file(&file)
+    , m_offset(offset)
+    , m_size(size) {}
+
+qint64 FileView::readInto(qint64 at, std::span<uchar> target) const {
+    if (at < 0 || at >= m_size) {
+        return 0;
+    }
+    const auto wanted = std::min<qint64>(static_cast<qint64>(target.size()), m_size - at);
+    return m_file->readAt(
+        m_offset + at, {reinterpret_cast<char *>(target.data()), static_cast<std::size_t>(wanted)});
+}
+
+QByteArray FileView::read(qint64 at, qint64 length) const {
+    if (at < 0 || at >= m_size || length <= 0) {
+        return {};
+    }
+    QByteArray bytes(std::min(length, m_size - at), Qt::Uninitialized);
+    bytes.truncate(
+        m_file->readAt(m_offset + at, {bytes.data(), static_cast<std::size_t>(bytes.size())}));
+    return bytes;
+}
+
+QByteArray FileView::readExactly(qint64 at, qint64 length) const {
+    QByteArray bytes = read(at, length);
+    if (bytes.size() != length) {
+        throw Error(u"The file ends too early"_s);
+    }
+    return bytes;
+}
+
+FileView FileView::part(qint64 at, qint64 length) const {
+    if (at < 0 || length < 0 || at > m_size || length > m_size - at) {
+        throw Error(u"The file ends too early"_s);
+    }
+    return {*m_file, m_offset + at, length};
+}
+
+} // namespace folioforge
