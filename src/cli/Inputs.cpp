@@ -3,7 +3,7 @@
 #include "error/Error.h"
 #include "filelist/FileKind.h"
 #include "filelist/SourceFiles.h"
-#include "filelist/TextSource.h"
+#include "files/SourceFile.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -15,7 +15,7 @@ namespace {
 
 /// Makes the entry of a file of a recognised type; throws Error when it cannot be converted.
 PDFFileInfo readEntry(const QString &path, Input &input) {
-    requireReadableFile(path);
+    FileVersion::of(path); // Throws where no regular file is.
     const FileKind kind = fileKind(path);
     if (kind == FileKind::Other) {
         throw Error(u"It is not a recognised type"_s);

@@ -70,7 +70,6 @@ void PDFFileInfo::readText() {
 
 void PDFFileInfo::readImage() {
     try {
-        requireReadableFile(m_filePathName);
         m_srcImage = SourceImage{m_filePathName, readImageHeader(m_filePathName)};
     } catch (const Error &error) {
         m_readError = error.reason();

@@ -6,10 +6,6 @@
 
 namespace folioforge {
 
-/// Throws Error unless `path` names a regular file that may be read, so that nothing waits for a
-/// pipe or reads a device that never ends.
-void requireReadableFile(const QString &path);
-
 /// The text of the file at `path`, read as UTF-8; a byte order mark is not part of it. Nothing when
 /// the bytes are not valid UTF-8. Throws Error when the file cannot be read or memory has no room
 /// for it.
