@@ -24,15 +24,13 @@ void requireInOrder(const Arguments &arguments) {
 
 } // namespace
 
-// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+FUZZ_TARGET(Arguments) {
     refuseMessages();
-    const QList<QByteArray> lines = InputReader({data, size}).rest().split('\n');
+    const QList<QByteArray> lines = InputReader(bytes).rest().split('\n');
     const auto parsed = parseArguments(lines);
     if (const auto *arguments = std::get_if<Arguments>(&parsed)) {
         requireInOrder(*arguments);
     } else {
         require(!std::get<UsageError>(parsed).message.isEmpty());
     }
-    return 0;
 }

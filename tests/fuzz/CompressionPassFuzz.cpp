@@ -31,15 +31,13 @@ void compressOnce(const QString &source, int pages) {
 
 } // namespace
 
-// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+FUZZ_TARGET(CompressionPass) {
     refuseMessages();
-    const MemoryFile source(u"pdf"_s, {data, size});
+    const MemoryFile source(u"pdf"_s, bytes);
     refuses([&] {
         const PDFSummary summary = summarizePDF(source.path());
         if (summary.pageCount > 0) {
             compressOnce(source.path(), summary.pageCount);
         }
     });
-    return 0;
 }

@@ -51,16 +51,14 @@ void drawEverywhere(QPDF &document, const std::string &content) {
 
 } // namespace
 
-// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+FUZZ_TARGET(ContentDraws) {
     QPDF document;
     document.setSuppressWarnings(true);
-    drawEverywhere(document, std::string(data, data + size));
+    drawEverywhere(document, std::string(bytes.begin(), bytes.end()));
     std::set<QPDFObjGen> seen;
     for (const ImageUse &use : findImageUses(document)) {
         require(seen.insert(use.image).second);
         require(use.page == 1);
         require(use.width >= 0 && use.height >= 0); // False where they are no number.
     }
-    return 0;
 }

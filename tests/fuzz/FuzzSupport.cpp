@@ -33,7 +33,7 @@ void refuseMessages() {
     qInstallMessageHandler(refuseMessage);
 }
 
-MemoryFile::MemoryFile(const QString &extension, std::span<const std::uint8_t> bytes)
+MemoryFile::MemoryFile(const QString &extension, Bytes bytes)
     : m_descriptor(::memfd_create("input", MFD_CLOEXEC))
     , m_path(freshPath(u"input."_s + extension)) {
     require(::write(m_descriptor, bytes.data(), bytes.size()) ==

@@ -9,7 +9,17 @@
 #include <cstdint>
 #include <span>
 
+/// Begins the function that is a fuzz target: FUZZ_TARGET(PdfMerge) { ... }, with the input in
+/// `bytes`.
+#define FUZZ_TARGET(name)                                                                          \
+    namespace folioforge::fuzz {                                                                   \
+    void fuzz##name(Bytes bytes);                                                                  \
+    }                                                                                              \
+    void folioforge::fuzz::fuzz##name(Bytes bytes)
+
 namespace folioforge::fuzz {
+
+using Bytes = std::span<const std::uint8_t>;
 
 /// Ends the program, which the fuzzer counts as a finding, unless `held`.
 void require(bool held);
@@ -32,7 +42,7 @@ template<typename Work> bool refuses(const Work &work) {
 /// A file of these bytes that never touches the disk, under a name of its own with `extension`.
 class MemoryFile {
   public:
-    MemoryFile(const QString &extension, std::span<const std::uint8_t> bytes);
+    MemoryFile(const QString &extension, Bytes bytes);
     ~MemoryFile();
     MemoryFile(const MemoryFile &) = delete;
     MemoryFile &operator=(const MemoryFile &) = delete;
@@ -50,7 +60,7 @@ QString freshPath(const QString &name);
 /// Reads numbers off the front of an input, zeros behind its end.
 class InputReader {
   public:
-    explicit InputReader(std::span<const std::uint8_t> bytes)
+    explicit InputReader(Bytes bytes)
         : m_rest(bytes) {}
 
     std::uint8_t byte();
@@ -58,7 +68,7 @@ class InputReader {
     [[nodiscard]] QByteArray rest() const;
 
   private:
-    std::span<const std::uint8_t> m_rest;
+    Bytes m_rest;
 };
 
 } // namespace folioforge::fuzz

@@ -2,37 +2,18 @@
 // printed.
 
 #include "FuzzSupport.h"
-#include "FuzzedFormat.h"
 #include "image/ImageHeader.h"
 #include "image/PdfImage.h"
 
 #include <algorithm>
-#include <array>
-#include <string_view>
-#include <utility>
 
+using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::fuzz;
 
 namespace {
 
-constexpr std::array kFormats{
-    std::pair("bmp", ImageKind::Bmp),           std::pair("exr", ImageKind::Exr),
-    std::pair("gif", ImageKind::Gif),           std::pair("icns", ImageKind::Icns),
-    std::pair("ico", ImageKind::Ico),           std::pair("jpeg", ImageKind::Jpeg),
-    std::pair("jpeg2000", ImageKind::Jpeg2000), std::pair("png", ImageKind::Png),
-    std::pair("psd", ImageKind::Psd),           std::pair("tga", ImageKind::Tga),
-    std::pair("tiff", ImageKind::Tiff)};
-
 constexpr qint64 kMaxPixels = 1 << 22; // Enough to find faults, few enough to go on.
-
-ImageKind fuzzedKind() {
-    const auto found = std::ranges::find_if(kFormats, [](const auto &format) {
-        return format.first == std::string_view(kFuzzedExtension);
-    });
-    require(found != kFormats.end());
-    return found->second;
-}
 
 void requireInOrder(const PdfImage &image, qint64 fileSize) {
     require(image.width > 0 && image.height > 0);
@@ -48,19 +29,60 @@ void requireInOrder(const PdfImage &image, qint64 fileSize) {
     }
 }
 
-} // namespace
-
-// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    static const ImageKind kind = fuzzedKind();
+/// The file's name decides where the bytes do not tell their format.
+void readAs(ImageKind kind, const QString &extension, Bytes bytes) {
     refuseMessages();
-    // The name decides where the bytes are not plain about their format.
-    const MemoryFile file(QString::fromLatin1(kFuzzedExtension), {data, size});
+    const MemoryFile file(extension, bytes);
     refuses([&] {
         const ImageHeader header = readImageHeader(file.path());
         if (header.kind == kind && qint64(header.width) * header.height <= kMaxPixels) {
-            requireInOrder(toPdfImage(file.path()), static_cast<qint64>(size));
+            requireInOrder(toPdfImage(file.path()), static_cast<qint64>(bytes.size()));
         }
     });
-    return 0;
+}
+
+} // namespace
+
+FUZZ_TARGET(Bmp) {
+    readAs(ImageKind::Bmp, u"bmp"_s, bytes);
+}
+
+FUZZ_TARGET(Exr) {
+    readAs(ImageKind::Exr, u"exr"_s, bytes);
+}
+
+FUZZ_TARGET(Gif) {
+    readAs(ImageKind::Gif, u"gif"_s, bytes);
+}
+
+FUZZ_TARGET(Icns) {
+    readAs(ImageKind::Icns, u"icns"_s, bytes);
+}
+
+FUZZ_TARGET(Ico) {
+    readAs(ImageKind::Ico, u"ico"_s, bytes);
+}
+
+FUZZ_TARGET(Jpeg) {
+    readAs(ImageKind::Jpeg, u"jpeg"_s, bytes);
+}
+
+FUZZ_TARGET(Jpeg2000) {
+    readAs(ImageKind::Jpeg2000, u"jpeg2000"_s, bytes);
+}
+
+FUZZ_TARGET(Png) {
+    readAs(ImageKind::Png, u"png"_s, bytes);
+}
+
+FUZZ_TARGET(Psd) {
+    readAs(ImageKind::Psd, u"psd"_s, bytes);
+}
+
+FUZZ_TARGET(Tga) {
+    readAs(ImageKind::Tga, u"tga"_s, bytes);
+}
+
+FUZZ_TARGET(Tiff) {
+    readAs(ImageKind::Tiff, u"tiff"_s, bytes);
 }

@@ -15,7 +15,7 @@ namespace {
 constexpr std::size_t kHeadBytes = 8;
 
 /// The first bytes say what the document would say about the image, the others are its stream.
-ImageJob jobOf(const std::uint8_t *data, std::size_t size) {
+ImageJob jobOf(Bytes data) {
     static const std::array<std::string, 4> filters{"", "[/FlateDecode]", "[/LZWDecode]",
                                                     "[/ASCII85Decode /RunLengthDecode]"};
     ImageJob job;
@@ -42,20 +42,18 @@ ImageJob jobOf(const std::uint8_t *data, std::size_t size) {
     job.jpegQuality = data[5] % 100 + 1;
     job.purpose = data[7] & 1 && job.components == 1 ? ImagePurpose::SoftMask : ImagePurpose::Photo;
     job.lineArt = data[7] & 2 ? LineArt::Keep : LineArt::Reduce;
-    job.data.assign(data + kHeadBytes, data + size);
+    job.data.assign(data.begin() + kHeadBytes, data.end());
     return job;
 }
 
 } // namespace
 
-// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    if (size < kHeadBytes) {
-        return 0;
+FUZZ_TARGET(ImageReducer) {
+    if (bytes.size() < kHeadBytes) {
+        return;
     }
-    const ImageJob job = jobOf(data, size);
+    const ImageJob job = jobOf(bytes);
     const Reduction reduction = reduceImage(job);
     require(reduction.image ? reduction.image->data.size() < job.data.size()
                             : !reduction.reason.isEmpty());
-    return 0;
 }

@@ -46,15 +46,13 @@ void mergeTwice(const QString &source, const PDFSummary &summary) {
 
 } // namespace
 
-// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+FUZZ_TARGET(PdfMerge) {
     refuseMessages();
-    const MemoryFile source(u"pdf"_s, {data, size});
+    const MemoryFile source(u"pdf"_s, bytes);
     refuses([&] {
         const PDFSummary summary = summarizePDF(source.path());
         if (!summary.encrypted) {
             mergeTwice(source.path(), summary);
         }
     });
-    return 0;
 }

@@ -64,18 +64,16 @@ void convertInTheLocale(const std::string &bytes) {
 
 } // namespace
 
-// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    const std::string bytes(data, data + size);
-    std::wstring wide(size / sizeof(wchar_t), L'\0');
+FUZZ_TARGET(StringToolkit) {
+    const std::string narrow(bytes.begin(), bytes.end());
+    std::wstring wide(bytes.size() / sizeof(wchar_t), L'\0');
     if (!wide.empty()) {
-        std::memcpy(wide.data(), data, wide.size() * sizeof(wchar_t));
+        std::memcpy(wide.data(), bytes.data(), wide.size() * sizeof(wchar_t));
     }
     for (const char *locale : {"C", "C.UTF-8"}) {
         std::setlocale(LC_ALL, locale);
-        convertAsUtf8(bytes);
+        convertAsUtf8(narrow);
         convertAsWide(wide);
-        convertInTheLocale(bytes);
+        convertInTheLocale(narrow);
     }
-    return 0;
 }

@@ -69,10 +69,9 @@ QString decoded(const QByteArray &bytes) {
 
 } // namespace
 
-// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+FUZZ_TARGET(TextPages) {
     refuseMessages();
-    InputReader input({data, size});
+    InputReader input(bytes);
     const PageSetup setup = setupOf(input);
     const QString text = decoded(input.rest());
     if (!checkTextPageSizeSettings(setup)) {
@@ -82,5 +81,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         require(sink.isDone());
         require(getStringSize(text, *font).width() >= 0);
     }
-    return 0;
 }

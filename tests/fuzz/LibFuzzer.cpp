@@ -1,0 +1,13 @@
+// Gives libFuzzer the one target of a program.
+
+#include "FuzzSupport.h"
+
+namespace folioforge::fuzz {
+void FOLIOFORGE_FUZZ_TARGET(Bytes bytes);
+}
+
+// NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    folioforge::fuzz::FOLIOFORGE_FUZZ_TARGET({data, size});
+    return 0;
+}
