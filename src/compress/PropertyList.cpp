@@ -4,14 +4,9 @@
 
 #include <QDateTime>
 #include <QFile>
-#include <QTimeZone>
+#include <QXmlStreamReader>
 
-#include <plist/plist.h>
-
-#include <cstdint>
-#include <cstdlib>
-#include <memory>
-#include <type_traits>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -19,126 +14,110 @@ namespace folioforge {
 
 namespace {
 
-/// More than any list of the bundle has, and so few that libplist, which calls itself for each
-/// level, can only be led so deep.
+/// More than any list of the bundle has.
 constexpr qint64 kMaxBytes = 16 << 10;
 constexpr int kMaxDepth = 64;
 
-struct FreePlist {
-    void operator()(void *node) const { plist_free(node); }
-};
-using Plist = std::unique_ptr<std::remove_pointer_t<plist_t>, FreePlist>;
-
-struct FreeMemory {
-    void operator()(void *memory) const { std::free(memory); }
-};
-
-Error noPropertyList(const QString &path) {
-    return Error(u"%1 is no valid property list"_s.arg(path));
+template<typename Value> std::optional<QVariant> valueIf(bool isValid, const Value &value) {
+    return isValid ? std::optional<QVariant>(value) : std::nullopt;
 }
 
-/// Null where the bytes are no list.
-Plist parsed(const char *bytes, qint64 size) {
-    plist_t root = nullptr;
-    plist_from_memory(bytes, static_cast<quint32>(size), &root);
-    return Plist(root);
-}
-
-/// The list as XML has it. Binary keys may hold a zero, and libplist ends the program when it is
-/// asked for such a one.
-Plist withoutZeros(const Plist &list) {
-    if (!list) {
-        return {};
+/// The value that `text` in an element of the name `kind` stands for; nothing where it is none.
+std::optional<QVariant> valueOf(const QString &kind, const QString &text) {
+    bool isNumber = false;
+    if (kind == u"string") {
+        return text;
     }
-    char *xml = nullptr;
-    quint32 size = 0;
-    plist_to_xml(list.get(), &xml, &size);
-    const std::unique_ptr<char, FreeMemory> owner(xml);
-    return xml ? parsed(xml, size) : Plist();
-}
-
-QVariant toVariant(plist_t node, int depth);
-
-QString stringOf(plist_t node) {
-    std::uint64_t length = 0;
-    const char *text = plist_get_string_ptr(node, &length);
-    return QString::fromUtf8(text, static_cast<qsizetype>(length));
-}
-
-QByteArray dataOf(plist_t node) {
-    std::uint64_t length = 0;
-    const char *bytes = plist_get_data_ptr(node, &length);
-    return {bytes, static_cast<qsizetype>(length)};
-}
-
-QDateTime dateOf(plist_t node) {
-    qint32 seconds = 0;
-    qint32 microseconds = 0;
-    plist_get_date_val(node, &seconds, &microseconds);
-    const QDateTime epoch(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
-    return epoch.addSecs(seconds).addMSecs(microseconds / 1000);
-}
-
-QVariantList listOf(plist_t node, int depth) {
-    QVariantList list;
-    const quint32 size = plist_array_get_size(node);
-    for (quint32 i = 0; i < size; ++i) {
-        list += toVariant(plist_array_get_item(node, i), depth + 1);
+    if (kind == u"integer") {
+        const qint64 number = text.toLongLong(&isNumber);
+        return valueIf(isNumber, number);
     }
-    return list;
+    if (kind == u"real") {
+        const double number = text.toDouble(&isNumber);
+        return valueIf(isNumber, number);
+    }
+    if (kind == u"date") {
+        const QDateTime date = QDateTime::fromString(text, Qt::ISODate);
+        return valueIf(date.isValid(), date);
+    }
+    return valueIf(kind == u"data", QByteArray::fromBase64(text.toLatin1()));
 }
 
-QVariantMap mapOf(plist_t node, int depth) {
-    QVariantMap map;
-    plist_dict_iter cursor = nullptr;
-    plist_dict_new_iter(node, &cursor);
-    const std::unique_ptr<void, FreeMemory> owner(cursor);
-    for (;;) {
-        char *key = nullptr;
-        plist_t value = nullptr;
-        plist_dict_next_item(node, cursor, &key, &value);
-        const std::unique_ptr<char, FreeMemory> keyOwner(key);
-        if (!key || !value) {
-            return map;
+/// Reads values element by element. Each function begins behind a start tag and ends behind its end
+/// tag; what is no property list becomes an error of the XML reader.
+class ListReader {
+  public:
+    explicit ListReader(QIODevice *device)
+        : m_xml(device) {}
+
+    /// The dictionary of the whole file; nothing where it holds none.
+    std::optional<QVariantMap> whole() {
+        expect(u"plist");
+        expect(u"dict");
+        const QVariantMap map = dictionary(0);
+        while (!m_xml.atEnd()) {
+            m_xml.readNext();
         }
-        map.insert(QString::fromUtf8(key), toVariant(value, depth + 1));
+        return m_xml.hasError() ? std::nullopt : std::optional(map);
     }
-}
 
-QVariant toVariant(plist_t node, int depth) {
-    if (depth > kMaxDepth) {
-        return {};
+  private:
+    void expect(QStringView name) {
+        if (!m_xml.readNextStartElement() || m_xml.name() != name) {
+            m_xml.raiseError();
+        }
     }
-    switch (plist_get_node_type(node)) {
-    case PLIST_BOOLEAN: {
-        quint8 value = 0;
-        plist_get_bool_val(node, &value);
-        return value != 0;
+
+    QVariant value(int depth) {
+        const QString kind = m_xml.name().toString();
+        if (depth > kMaxDepth) {
+            m_xml.raiseError();
+            return {};
+        }
+        if (kind == u"dict") {
+            return dictionary(depth + 1);
+        }
+        if (kind == u"array") {
+            return list(depth + 1);
+        }
+        const QString text = m_xml.readElementText();
+        if (kind == u"true" || kind == u"false") {
+            return kind == u"true";
+        }
+        const auto value = valueOf(kind, text);
+        if (!value) {
+            m_xml.raiseError();
+        }
+        return value.value_or(QVariant());
     }
-    case PLIST_UINT: {
-        std::uint64_t value = 0;
-        plist_get_uint_val(node, &value);
-        return static_cast<qint64>(value);
+
+    QVariantList list(int depth) {
+        QVariantList list;
+        while (m_xml.readNextStartElement()) {
+            list += value(depth);
+        }
+        return list;
     }
-    case PLIST_REAL: {
-        double value = 0;
-        plist_get_real_val(node, &value);
-        return value;
+
+    QVariantMap dictionary(int depth) {
+        QVariantMap map;
+        while (m_xml.readNextStartElement()) {
+            if (m_xml.name() != u"key") {
+                m_xml.raiseError();
+                break;
+            }
+            const QString key = m_xml.readElementText();
+            if (!m_xml.readNextStartElement()) {
+                m_xml.raiseError();
+                break;
+            }
+            map.insert(key, value(depth));
+        }
+        return map;
     }
-    case PLIST_STRING:
-        return stringOf(node);
-    case PLIST_DATA:
-        return dataOf(node);
-    case PLIST_DATE:
-        return dateOf(node);
-    case PLIST_ARRAY:
-        return listOf(node, depth);
-    case PLIST_DICT:
-        return mapOf(node, depth);
-    default:
-        return {};
-    }
-}
+
+    QXmlStreamReader m_xml;
+};
 
 } // namespace
 
@@ -147,15 +126,14 @@ QVariantMap readPropertyList(const QString &path) {
     if (!file.open(QIODevice::ReadOnly)) {
         throw Error(u"%1 cannot be read: %2"_s.arg(path, file.errorString()));
     }
-    if (file.size() > kMaxBytes) {
-        throw noPropertyList(path);
+    if (file.peek(6) == "bplist") {
+        throw Error(u"%1 is a binary property list; only XML can be read"_s.arg(path));
     }
-    const QByteArray bytes = file.readAll();
-    const Plist root = withoutZeros(parsed(bytes.constData(), bytes.size()));
-    if (!root || plist_get_node_type(root.get()) != PLIST_DICT) {
-        throw noPropertyList(path);
+    const auto list = file.size() <= kMaxBytes ? ListReader(&file).whole() : std::nullopt;
+    if (!list) {
+        throw Error(u"%1 is no valid property list"_s.arg(path));
     }
-    return mapOf(root.get(), 0);
+    return *list;
 }
 
 } // namespace folioforge

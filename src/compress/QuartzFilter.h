@@ -20,7 +20,7 @@ QString quartzFilterName(int index);
 /// The filter file of that name in the bundle: BUNDLE/Contents/Resources/NAME.qfilter.
 QString quartzFilterPath(const QString &bundlePath, const QString &name);
 
-/// Reads a filter file, an XML or binary property list. Throws Error when it cannot be read, lacks
+/// Reads a filter file, an XML property list. Throws Error when it cannot be read, lacks
 /// a key or holds a value out of range.
 QuartzFilter readQuartzFilter(const QString &path);
 
