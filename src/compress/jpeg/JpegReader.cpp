@@ -3,11 +3,9 @@
 #include "compress/jpeg/JpegBands.h"
 #include "compress/jpeg/JpegColor.h"
 #include "compress/jpeg/JpegErrors.h"
-#include "compress/jpeg/ReducedScan.h"
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -93,9 +91,6 @@ struct JpegReader::State {
     }
 
     PlanarImage decode(int eighths) {
-        if (auto image = readReducedScan(codec, eighths)) {
-            return std::move(*image);
-        }
         if (!start(eighths)) {
             throw damagedJpeg(escape);
         }
