@@ -9,6 +9,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include <sys/resource.h>
+
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -122,6 +124,13 @@ class PasswordsTest : public QObject {
 
     void aCrashLeavesNoImageOfTheMemory() {
         QProcess process;
+        // Most sessions leave no image anyway, which would hide that the program forbids it.
+        process.setChildProcessModifier([] {
+            rlimit limit{};
+            ::getrlimit(RLIMIT_CORE, &limit);
+            limit.rlim_cur = limit.rlim_max;
+            ::setrlimit(RLIMIT_CORE, &limit);
+        });
         process.start(kProgram, outputArguments() + QStringList{u"--user-password-file=-"_s,
                                                                 u"--owner-password-file=-"_s,
                                                                 path("missing.txt")});
