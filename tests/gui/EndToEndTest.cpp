@@ -142,146 +142,136 @@ class EndToEndTest : public QObject {
     Q_OBJECT
 
   private:
-    void checkDocuments(const QString &out);
-    void checkThatALinkOpens(DesktopSession &desktop, const QString &name);
-    void checkThatOnlyWholeFilesAreLeft(const DesktopSession &desktop, const QString &out);
+    void checkDocuments(const QString &out) {
+        QCOMPARE(filesIn(out), QStringList({u"letter.pdf"_s, u"pages.pdf"_s, u"picture.pdf"_s}));
+        const PdfProbe letter(out + u"/letter.pdf"_s);
+        QVERIFY(letter.isValid());
+        QCOMPARE(letter.text().trimmed(), u"Good morning from the window"_s);
+        QCOMPARE(letter.info(u"Title"_s), u"Morning"_s);
+        const PdfProbe picture(out + u"/picture.pdf"_s);
+        QCOMPARE(picture.box(u"MediaBox"_s, 1), QRectF(0, 0, 300, 200));
+        QCOMPARE(PdfProbe(out + u"/pages.pdf"_s).pageCount(), 2);
+    }
+
+    void checkThatALinkOpens(DesktopSession &desktop, const QString &name) {
+        QCOMPARE(desktop.opened(), QByteArray());
+        QVERIFY(desktop.click(name));
+        QVERIFY(QTest::qWaitFor([&] { return !desktop.opened().isEmpty(); }, 30'000));
+        QCOMPARE(desktop.opened().trimmed(),
+                 QFile::encodeName(outputFolder(desktop) + u'/' + name));
+    }
+
+    void checkThatOnlyWholeFilesAreLeft(const DesktopSession &desktop, const QString &out) {
+        for (const QString &name : filesIn(out)) {
+            QVERIFY2(PdfProbe(out + u'/' + name).isValid(), qUtf8Printable(name));
+        }
+        const QStringList temporary = filesIn(desktop.temporaryFolder());
+        QVERIFY2(temporary.isEmpty(), qUtf8Printable(temporary.join(u' ')));
+    }
 
   private Q_SLOTS:
-    void filesOfEveryKindBecomeDocumentsThatALinkOpens();
-    void mergedFilesBecomeOneDocument();
-    void closedDescriptorsAreTakenByNoFile();
-    void closingInTheMidstOfARunLeavesOnlyWholeFiles();
-    void closingDuringTheCompressionPassLeavesTheWholeFile();
-    void closingTheWindowDuringARunEndsTheApplication();
+    void filesOfEveryKindBecomeDocumentsThatALinkOpens() {
+        DesktopSession desktop;
+        QVERIFY(desktop.begin());
+        QVERIFY(QDir().mkpath(sourceFolder(desktop)));
+        writePng(sourceFolder(desktop) + u"/picture.png"_s, 300, 200);
+        QVERIFY(listLetterAndPages(desktop, "Good morning from the window\n"));
+        QVERIFY(desktop.press(u"Show options"_s));
+        QVERIFY(desktop.enter(u"Title"_s, u"Morning"_s));
+        QVERIFY(create(desktop, 3));
+        checkDocuments(outputFolder(desktop));
+        checkThatALinkOpens(desktop, u"letter.pdf"_s);
+        QVERIFY(quits(desktop));
+    }
+
+    void mergedFilesBecomeOneDocument() {
+        DesktopSession desktop;
+        QVERIFY(desktop.begin());
+        QVERIFY(listLetterAndPages(desktop, "Good evening\n"));
+        QVERIFY(desktop.press(u"Merge into one PDF"_s));
+        QVERIFY(desktop.enter(u"Name of the merged PDF"_s, u"all"_s));
+        QVERIFY(create(desktop, 1));
+        QCOMPARE(filesIn(outputFolder(desktop)), QStringList{u"all.pdf"_s});
+        const PdfProbe merged(outputFolder(desktop) + u"/all.pdf"_s);
+        QVERIFY(merged.isValid());
+        QCOMPARE(merged.pageCount(), 3);
+    }
+
+    void closedDescriptorsAreTakenByNoFile() {
+        DesktopSession desktop;
+        QVERIFY(desktop.begin());
+        desktop.application().setChildProcessModifier([] {
+            ::close(STDIN_FILENO);
+            ::close(STDOUT_FILENO);
+            ::close(STDERR_FILENO);
+        });
+        QVERIFY(desktop.start(program(), outputFolder(desktop)));
+        for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+            QCOMPARE(
+                QFile::symLinkTarget(
+                    u"/proc/%1/fd/%2"_s.arg(desktop.application().processId()).arg(descriptor)),
+                u"/dev/null"_s);
+        }
+        QVERIFY(quits(desktop));
+    }
+
+    void closingInTheMidstOfARunLeavesOnlyWholeFiles() {
+        constexpr int kTimes = 20;
+        constexpr int kPictures = 6;
+        constexpr quint32 kSeed = 20260;
+        qInfo("seed %u", kSeed);
+        QRandomGenerator random(kSeed);
+        DesktopSession desktop;
+        QVERIFY(desktop.begin());
+        writePictures(desktop, kPictures);
+        const QList<QByteArray> sources = bytesIn(sourceFolder(desktop));
+        int cutShort = 0;
+        for (int time = 0; time < kTimes; ++time) {
+            const QString out = desktop.path(u"out%1"_s.arg(time));
+            // The moment is the point: any of them, the same ones on every run of the test.
+            QVERIFY(quitsDuringARun(desktop, out, random.bounded(300)));
+            checkThatOnlyWholeFilesAreLeft(desktop, out);
+            QCOMPARE(bytesIn(sourceFolder(desktop)), sources);
+            cutShort += filesIn(out).size() < kPictures ? 1 : 0;
+        }
+        qInfo("%d of %d runs were cut short", cutShort, kTimes);
+        QVERIFY(cutShort > 0);
+    }
+
+    void closingDuringTheCompressionPassLeavesTheWholeFile() {
+        constexpr int kTimes = 4;
+        constexpr int kPictures = 8;
+        DesktopSession desktop;
+        QVERIFY(desktop.begin());
+        writePictures(desktop, kPictures);
+        int cutShort = 0;
+        for (int time = 0; time < kTimes; ++time) {
+            const QString out = desktop.path(u"out%1"_s.arg(time));
+            QVERIFY(quitsDuringThePass(desktop, out, 50 * time));
+            checkThatOnlyWholeFilesAreLeft(desktop, out);
+            const QStringList names = filesIn(out);
+            QCOMPARE(names.size(), 1);
+            cutShort += isUncompressed(QDir(out).filePath(names.front())) ? 1 : 0;
+        }
+        qInfo("%d of %d passes were cut short", cutShort, kTimes);
+        QVERIFY(cutShort > 0);
+    }
+
+    void closingTheWindowDuringARunEndsTheApplication() {
+        constexpr int kPictures = 12;
+        DesktopSession desktop;
+        QVERIFY(desktop.begin());
+        writePictures(desktop, kPictures);
+        const QString out = outputFolder(desktop);
+        QVERIFY(listPictures(desktop, out));
+        QVERIFY(desktop.press(u"Create"_s));
+        QVERIFY(QTest::qWaitFor([&] { return !filesIn(out).isEmpty(); }, 60'000));
+        QVERIFY(desktop.close(u"Folioforge"_s));
+        QVERIFY(ends(desktop));
+        QVERIFY(filesIn(out).size() < kPictures);
+        checkThatOnlyWholeFilesAreLeft(desktop, out);
+    }
 };
-
-void EndToEndTest::filesOfEveryKindBecomeDocumentsThatALinkOpens() {
-    DesktopSession desktop;
-    QVERIFY(desktop.begin());
-    QVERIFY(QDir().mkpath(sourceFolder(desktop)));
-    writePng(sourceFolder(desktop) + u"/picture.png"_s, 300, 200);
-    QVERIFY(listLetterAndPages(desktop, "Good morning from the window\n"));
-    QVERIFY(desktop.press(u"Show options"_s));
-    QVERIFY(desktop.enter(u"Title"_s, u"Morning"_s));
-    QVERIFY(create(desktop, 3));
-    checkDocuments(outputFolder(desktop));
-    checkThatALinkOpens(desktop, u"letter.pdf"_s);
-    QVERIFY(quits(desktop));
-}
-
-void EndToEndTest::checkDocuments(const QString &out) {
-    QCOMPARE(filesIn(out), QStringList({u"letter.pdf"_s, u"pages.pdf"_s, u"picture.pdf"_s}));
-    const PdfProbe letter(out + u"/letter.pdf"_s);
-    QVERIFY(letter.isValid());
-    QCOMPARE(letter.text().trimmed(), u"Good morning from the window"_s);
-    QCOMPARE(letter.info(u"Title"_s), u"Morning"_s);
-    const PdfProbe picture(out + u"/picture.pdf"_s);
-    QCOMPARE(picture.box(u"MediaBox"_s, 1), QRectF(0, 0, 300, 200));
-    QCOMPARE(PdfProbe(out + u"/pages.pdf"_s).pageCount(), 2);
-}
-
-void EndToEndTest::checkThatALinkOpens(DesktopSession &desktop, const QString &name) {
-    QCOMPARE(desktop.opened(), QByteArray());
-    QVERIFY(desktop.click(name));
-    QVERIFY(QTest::qWaitFor([&] { return !desktop.opened().isEmpty(); }, 30'000));
-    QCOMPARE(desktop.opened().trimmed(), QFile::encodeName(outputFolder(desktop) + u'/' + name));
-}
-
-void EndToEndTest::mergedFilesBecomeOneDocument() {
-    DesktopSession desktop;
-    QVERIFY(desktop.begin());
-    QVERIFY(listLetterAndPages(desktop, "Good evening\n"));
-    QVERIFY(desktop.press(u"Merge into one PDF"_s));
-    QVERIFY(desktop.enter(u"Name of the merged PDF"_s, u"all"_s));
-    QVERIFY(create(desktop, 1));
-    QCOMPARE(filesIn(outputFolder(desktop)), QStringList{u"all.pdf"_s});
-    const PdfProbe merged(outputFolder(desktop) + u"/all.pdf"_s);
-    QVERIFY(merged.isValid());
-    QCOMPARE(merged.pageCount(), 3);
-}
-
-void EndToEndTest::closedDescriptorsAreTakenByNoFile() {
-    DesktopSession desktop;
-    QVERIFY(desktop.begin());
-    desktop.application().setChildProcessModifier([] {
-        ::close(STDIN_FILENO);
-        ::close(STDOUT_FILENO);
-        ::close(STDERR_FILENO);
-    });
-    QVERIFY(desktop.start(program(), outputFolder(desktop)));
-    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        QCOMPARE(QFile::symLinkTarget(
-                     u"/proc/%1/fd/%2"_s.arg(desktop.application().processId()).arg(descriptor)),
-                 u"/dev/null"_s);
-    }
-    QVERIFY(quits(desktop));
-}
-
-void EndToEndTest::closingInTheMidstOfARunLeavesOnlyWholeFiles() {
-    constexpr int kTimes = 20;
-    constexpr int kPictures = 6;
-    constexpr quint32 kSeed = 20260;
-    qInfo("seed %u", kSeed);
-    QRandomGenerator random(kSeed);
-    DesktopSession desktop;
-    QVERIFY(desktop.begin());
-    writePictures(desktop, kPictures);
-    const QList<QByteArray> sources = bytesIn(sourceFolder(desktop));
-    int cutShort = 0;
-    for (int time = 0; time < kTimes; ++time) {
-        const QString out = desktop.path(u"out%1"_s.arg(time));
-        // The moment is the point: any of them, the same ones on every run of the test.
-        QVERIFY(quitsDuringARun(desktop, out, random.bounded(300)));
-        checkThatOnlyWholeFilesAreLeft(desktop, out);
-        QCOMPARE(bytesIn(sourceFolder(desktop)), sources);
-        cutShort += filesIn(out).size() < kPictures ? 1 : 0;
-    }
-    qInfo("%d of %d runs were cut short", cutShort, kTimes);
-    QVERIFY(cutShort > 0);
-}
-
-void EndToEndTest::closingDuringTheCompressionPassLeavesTheWholeFile() {
-    constexpr int kTimes = 4;
-    constexpr int kPictures = 8;
-    DesktopSession desktop;
-    QVERIFY(desktop.begin());
-    writePictures(desktop, kPictures);
-    int cutShort = 0;
-    for (int time = 0; time < kTimes; ++time) {
-        const QString out = desktop.path(u"out%1"_s.arg(time));
-        QVERIFY(quitsDuringThePass(desktop, out, 50 * time));
-        checkThatOnlyWholeFilesAreLeft(desktop, out);
-        const QStringList names = filesIn(out);
-        QCOMPARE(names.size(), 1);
-        cutShort += isUncompressed(QDir(out).filePath(names.front())) ? 1 : 0;
-    }
-    qInfo("%d of %d passes were cut short", cutShort, kTimes);
-    QVERIFY(cutShort > 0);
-}
-
-void EndToEndTest::closingTheWindowDuringARunEndsTheApplication() {
-    constexpr int kPictures = 12;
-    DesktopSession desktop;
-    QVERIFY(desktop.begin());
-    writePictures(desktop, kPictures);
-    const QString out = outputFolder(desktop);
-    QVERIFY(listPictures(desktop, out));
-    QVERIFY(desktop.press(u"Create"_s));
-    QVERIFY(QTest::qWaitFor([&] { return !filesIn(out).isEmpty(); }, 60'000));
-    QVERIFY(desktop.close(u"Folioforge"_s));
-    QVERIFY(ends(desktop));
-    QVERIFY(filesIn(out).size() < kPictures);
-    checkThatOnlyWholeFilesAreLeft(desktop, out);
-}
-
-void EndToEndTest::checkThatOnlyWholeFilesAreLeft(const DesktopSession &desktop,
-                                                  const QString &out) {
-    for (const QString &name : filesIn(out)) {
-        QVERIFY2(PdfProbe(out + u'/' + name).isValid(), qUtf8Printable(name));
-    }
-    const QStringList temporary = filesIn(desktop.temporaryFolder());
-    QVERIFY2(temporary.isEmpty(), qUtf8Printable(temporary.join(u' ')));
-}
 
 FOLIOFORGE_TEST(EndToEndTest)
 #include "EndToEndTest.moc"

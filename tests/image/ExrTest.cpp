@@ -22,29 +22,6 @@ using namespace folioforge;
 using namespace folioforge::test;
 
 /// EXR files that OpenEXR writes.
-class ExrTest : public QObject {
-    Q_OBJECT
-
-  private Q_SLOTS:
-    void lightBecomesSrgbOfSixteenBits();
-    void brighterThanWhiteIsWhiteAndNoNumberIsBlack();
-    void opacityIsTakenOutOfTheColor();
-    void brightnessAloneStaysGrey();
-    void brightnessWithHalvedColorBecomesRgb();
-    void tilesComeOutInTheirPlaces();
-    void windowMayBeginAnywhere();
-    void densityIsRead();
-    void cutFileIsRefused();
-
-  private:
-    QTemporaryDir m_folder;
-
-    /// A row of pixels as an EXR file with these channels.
-    QString exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels, Imf::Header header);
-    QString exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels = Imf::WRITE_RGB) {
-        return exr(row, channels, Imf::Header(static_cast<int>(row.size()), 1));
-    }
-};
 
 namespace {
 
@@ -61,120 +38,133 @@ Deep deepPixel(const PdfImage &image, int x) {
 
 } // namespace
 
-QString ExrTest::exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels,
-                     Imf::Header header) {
-    const QString path = m_folder.filePath(u"light.exr"_s);
-    Imf::RgbaOutputFile file(QFile::encodeName(path).constData(), header, channels);
-    file.setFrameBuffer(row.data() - header.dataWindow().min.x, 1, 0);
-    file.writePixels(1);
-    return path;
-}
+class ExrTest : public QObject {
+    Q_OBJECT
 
-void ExrTest::lightBecomesSrgbOfSixteenBits() {
-    const PdfImage image = toPdfImage(exr({{0.0F, 0.5F, 1.0F}, {0.25F, 0.002F, 0.0F}}));
-    QCOMPARE(image.bitsPerComponent, 16);
-    QVERIFY(image.softMask == nullptr);
-    const Deep first = deepPixel(image, 0);
-    QCOMPARE(first.red, 0);
-    QVERIFY(qAbs(first.green - 48192) < 3); // 0.73536
-    QCOMPARE(first.blue, 65535);
-    const Deep second = deepPixel(image, 1);
-    QVERIFY(qAbs(second.red - 35199) < 3);  // 0.53710
-    QVERIFY(qAbs(second.green - 1693) < 3); // 0.002 is 12.92 times as much.
-}
+  private Q_SLOTS:
+    void lightBecomesSrgbOfSixteenBits() {
+        const PdfImage image = toPdfImage(exr({{0.0F, 0.5F, 1.0F}, {0.25F, 0.002F, 0.0F}}));
+        QCOMPARE(image.bitsPerComponent, 16);
+        QVERIFY(image.softMask == nullptr);
+        const Deep first = deepPixel(image, 0);
+        QCOMPARE(first.red, 0);
+        QVERIFY(qAbs(first.green - 48192) < 3); // 0.73536
+        QCOMPARE(first.blue, 65535);
+        const Deep second = deepPixel(image, 1);
+        QVERIFY(qAbs(second.red - 35199) < 3);  // 0.53710
+        QVERIFY(qAbs(second.green - 1693) < 3); // 0.002 is 12.92 times as much.
+    }
 
-void ExrTest::brighterThanWhiteIsWhiteAndNoNumberIsBlack() {
-    const float nothing = std::numeric_limits<float>::quiet_NaN();
-    const PdfImage image = toPdfImage(exr({{9.0F, nothing, -3.0F}}));
-    const Deep pixel = deepPixel(image, 0);
-    QCOMPARE(pixel.red, 65535);
-    QCOMPARE(pixel.green, 0);
-    QCOMPARE(pixel.blue, 0);
-}
+    void brighterThanWhiteIsWhiteAndNoNumberIsBlack() {
+        const float nothing = std::numeric_limits<float>::quiet_NaN();
+        const PdfImage image = toPdfImage(exr({{9.0F, nothing, -3.0F}}));
+        const Deep pixel = deepPixel(image, 0);
+        QCOMPARE(pixel.red, 65535);
+        QCOMPARE(pixel.green, 0);
+        QCOMPARE(pixel.blue, 0);
+    }
 
-void ExrTest::opacityIsTakenOutOfTheColor() {
-    const PdfImage image =
-        toPdfImage(exr({{0.25F, 0.0F, 0.5F, 0.5F}, {0.5F, 0.5F, 0.5F, 1.0F}}, Imf::WRITE_RGBA));
-    QVERIFY(image.softMask != nullptr);
-    QVERIFY(qAbs(deepPixel(*image.softMask, 0).red - 32768) <= 1);
-    QCOMPARE(deepPixel(*image.softMask, 1).red, 65535);
-    QVERIFY(qAbs(deepPixel(image, 0).red - 48192) < 3); // 0.25 of half opacity is 0.5 of light.
-    QCOMPARE(deepPixel(image, 0).blue, 65535);
-}
+    void opacityIsTakenOutOfTheColor() {
+        const PdfImage image =
+            toPdfImage(exr({{0.25F, 0.0F, 0.5F, 0.5F}, {0.5F, 0.5F, 0.5F, 1.0F}}, Imf::WRITE_RGBA));
+        QVERIFY(image.softMask != nullptr);
+        QVERIFY(qAbs(deepPixel(*image.softMask, 0).red - 32768) <= 1);
+        QCOMPARE(deepPixel(*image.softMask, 1).red, 65535);
+        QVERIFY(qAbs(deepPixel(image, 0).red - 48192) < 3); // 0.25 of half opacity is 0.5 of light.
+        QCOMPARE(deepPixel(image, 0).blue, 65535);
+    }
 
-void ExrTest::brightnessAloneStaysGrey() {
-    const QString path = m_folder.filePath(u"grey.exr"_s);
-    {
+    void brightnessAloneStaysGrey() {
+        const QString path = m_folder.filePath(u"grey.exr"_s);
+        {
+            Imf::Header header(2, 1);
+            header.channels().insert("Y", Imf::Channel(Imf::FLOAT));
+            Imf::OutputFile file(QFile::encodeName(path).constData(), header);
+            std::vector<float> row = {0.5F, 1.0F};
+            Imf::FrameBuffer buffer;
+            buffer.insert("Y", Imf::Slice(Imf::FLOAT, reinterpret_cast<char *>(row.data()),
+                                          sizeof(float), 0));
+            file.setFrameBuffer(buffer);
+            file.writePixels(1);
+        }
+        const PdfImage image = toPdfImage(path);
+        QCOMPARE(image.color, ImageColor::Gray);
+        QVERIFY(qAbs(deepPixel(image, 0).red - 48192) < 3);
+    }
+
+    void brightnessWithHalvedColorBecomesRgb() {
+        const QString path = m_folder.filePath(u"chroma.exr"_s);
+        {
+            const std::vector<Imf::Rgba> pixels(8 * 4, Imf::Rgba(0.5F, 0.25F, 0.0F));
+            Imf::RgbaOutputFile file(QFile::encodeName(path).constData(), Imf::Header(8, 4),
+                                     Imf::WRITE_YC);
+            file.setFrameBuffer(pixels.data(), 1, 8);
+            file.writePixels(4);
+        }
+        const PdfImage image = toPdfImage(path);
+        QCOMPARE(image.color, ImageColor::Rgb);
+        const Deep pixel = deepPixel(image, 3);
+        QVERIFY(qAbs(pixel.red - 48192) < 300); // Brightness and colour are rounded apart.
+        QVERIFY(qAbs(pixel.green - 35199) < 300);
+        QVERIFY(pixel.blue < 1000);
+    }
+
+    void tilesComeOutInTheirPlaces() {
+        const QString path = m_folder.filePath(u"tiles.exr"_s);
+        {
+            std::vector<Imf::Rgba> pixels(40 * 20);
+            pixels[39] = Imf::Rgba(1.0F, 0.0F, 0.0F);
+            Imf::TiledRgbaOutputFile file(QFile::encodeName(path).constData(), 40, 20, 16, 16,
+                                          Imf::ONE_LEVEL, Imf::ROUND_DOWN, Imf::WRITE_RGB);
+            file.setFrameBuffer(pixels.data(), 1, 40);
+            file.writeTiles(0, file.numXTiles() - 1, 0, file.numYTiles() - 1);
+        }
+        const PdfImage image = toPdfImage(path);
+        QCOMPARE(QSize(image.width, image.height), QSize(40, 20));
+        QCOMPARE(deepPixel(image, 39).red, 65535);
+        QCOMPARE(deepPixel(image, 38).red, 0);
+    }
+
+    void windowMayBeginAnywhere() {
         Imf::Header header(2, 1);
-        header.channels().insert("Y", Imf::Channel(Imf::FLOAT));
-        Imf::OutputFile file(QFile::encodeName(path).constData(), header);
-        std::vector<float> row = {0.5F, 1.0F};
-        Imf::FrameBuffer buffer;
-        buffer.insert(
-            "Y", Imf::Slice(Imf::FLOAT, reinterpret_cast<char *>(row.data()), sizeof(float), 0));
-        file.setFrameBuffer(buffer);
+        header.dataWindow() = Imath::Box2i({-7, 3}, {-6, 3});
+        const PdfImage image =
+            toPdfImage(exr({{1.0F, 0.0F, 0.0F}, {0.0F, 1.0F, 0.0F}}, Imf::WRITE_RGB, header));
+        QCOMPARE(deepPixel(image, 0).red, 65535);
+        QCOMPARE(deepPixel(image, 1).green, 65535);
+    }
+
+    void densityIsRead() {
+        Imf::Header header(1, 1);
+        Imf::addXDensity(header, 300);
+        const ImageHeader read = readImageHeader(exr({{1.0F, 0.0F, 0.0F}}, Imf::WRITE_RGB, header));
+        QCOMPARE(read.horizontalDpi, 300.0);
+        QCOMPARE(read.verticalDpi, 300.0);
+    }
+
+    void cutFileIsRefused() {
+        const QByteArray bytes = bytesOf(exr({{1.0F, 0.0F, 0.0F}}));
+        const QString path =
+            writeFile(m_folder.filePath(u"cut.exr"_s), bytes.first(bytes.size() / 2));
+        QVERIFY(!refusalOf(path).isEmpty());
+    }
+
+  private:
+    QTemporaryDir m_folder;
+
+    /// A row of pixels as an EXR file with these channels.
+    QString exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels, Imf::Header header) {
+        const QString path = m_folder.filePath(u"light.exr"_s);
+        Imf::RgbaOutputFile file(QFile::encodeName(path).constData(), header, channels);
+        file.setFrameBuffer(row.data() - header.dataWindow().min.x, 1, 0);
         file.writePixels(1);
+        return path;
     }
-    const PdfImage image = toPdfImage(path);
-    QCOMPARE(image.color, ImageColor::Gray);
-    QVERIFY(qAbs(deepPixel(image, 0).red - 48192) < 3);
-}
 
-void ExrTest::brightnessWithHalvedColorBecomesRgb() {
-    const QString path = m_folder.filePath(u"chroma.exr"_s);
-    {
-        const std::vector<Imf::Rgba> pixels(8 * 4, Imf::Rgba(0.5F, 0.25F, 0.0F));
-        Imf::RgbaOutputFile file(QFile::encodeName(path).constData(), Imf::Header(8, 4),
-                                 Imf::WRITE_YC);
-        file.setFrameBuffer(pixels.data(), 1, 8);
-        file.writePixels(4);
+    QString exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels = Imf::WRITE_RGB) {
+        return exr(row, channels, Imf::Header(static_cast<int>(row.size()), 1));
     }
-    const PdfImage image = toPdfImage(path);
-    QCOMPARE(image.color, ImageColor::Rgb);
-    const Deep pixel = deepPixel(image, 3);
-    QVERIFY(qAbs(pixel.red - 48192) < 300); // Brightness and colour are rounded apart.
-    QVERIFY(qAbs(pixel.green - 35199) < 300);
-    QVERIFY(pixel.blue < 1000);
-}
-
-void ExrTest::tilesComeOutInTheirPlaces() {
-    const QString path = m_folder.filePath(u"tiles.exr"_s);
-    {
-        std::vector<Imf::Rgba> pixels(40 * 20);
-        pixels[39] = Imf::Rgba(1.0F, 0.0F, 0.0F);
-        Imf::TiledRgbaOutputFile file(QFile::encodeName(path).constData(), 40, 20, 16, 16,
-                                      Imf::ONE_LEVEL, Imf::ROUND_DOWN, Imf::WRITE_RGB);
-        file.setFrameBuffer(pixels.data(), 1, 40);
-        file.writeTiles(0, file.numXTiles() - 1, 0, file.numYTiles() - 1);
-    }
-    const PdfImage image = toPdfImage(path);
-    QCOMPARE(QSize(image.width, image.height), QSize(40, 20));
-    QCOMPARE(deepPixel(image, 39).red, 65535);
-    QCOMPARE(deepPixel(image, 38).red, 0);
-}
-
-void ExrTest::windowMayBeginAnywhere() {
-    Imf::Header header(2, 1);
-    header.dataWindow() = Imath::Box2i({-7, 3}, {-6, 3});
-    const PdfImage image =
-        toPdfImage(exr({{1.0F, 0.0F, 0.0F}, {0.0F, 1.0F, 0.0F}}, Imf::WRITE_RGB, header));
-    QCOMPARE(deepPixel(image, 0).red, 65535);
-    QCOMPARE(deepPixel(image, 1).green, 65535);
-}
-
-void ExrTest::densityIsRead() {
-    Imf::Header header(1, 1);
-    Imf::addXDensity(header, 300);
-    const ImageHeader read = readImageHeader(exr({{1.0F, 0.0F, 0.0F}}, Imf::WRITE_RGB, header));
-    QCOMPARE(read.horizontalDpi, 300.0);
-    QCOMPARE(read.verticalDpi, 300.0);
-}
-
-void ExrTest::cutFileIsRefused() {
-    const QByteArray bytes = bytesOf(exr({{1.0F, 0.0F, 0.0F}}));
-    const QString path = writeFile(m_folder.filePath(u"cut.exr"_s), bytes.first(bytes.size() / 2));
-    QVERIFY(!refusalOf(path).isEmpty());
-}
+};
 
 FOLIOFORGE_TEST(ExrTest)
 #include "ExrTest.moc"

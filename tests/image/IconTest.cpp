@@ -16,29 +16,6 @@ using namespace folioforge;
 using namespace folioforge::test;
 
 /// Icons of Windows and the Macintosh: what comes out is what Qt's readers show.
-class IconTest : public QObject {
-    Q_OBJECT
-
-  private Q_SLOTS:
-    void classicEntryLooksAsQtShowsIt_data();
-    void classicEntryLooksAsQtShowsIt();
-    void deepestOfEqualEntriesIsTaken();
-    void newerEntryHasItsOwnOpacity();
-    void classicEntryThatEndsEarlyIsRefused();
-    void bitmapFrameLooksAsQtShowsIt_data();
-    void bitmapFrameLooksAsQtShowsIt();
-    void bitsBelowABitmapFrameAreItsOpacity();
-    void largestFrameIsTakenThoughOthersAreDamaged();
-    void pngFrameKeepsItsOwnRows();
-    void framesBehindTheHundredthAreNotLookedAt();
-
-  private:
-    QTemporaryDir m_folder;
-
-    QString write(const char *name, const QByteArray &bytes) {
-        return writeFile(m_folder.filePath(QString::fromLatin1(name)), bytes);
-    }
-};
 
 namespace {
 
@@ -146,108 +123,125 @@ QString difference(const QImage &one, const QImage &other) {
 
 } // namespace
 
-void IconTest::classicEntryLooksAsQtShowsIt_data() {
-    QTest::addColumn<QByteArray>("entries");
-    const auto add = [](const char *name, const QByteArray &entries) {
-        QTest::newRow(name) << entries;
-    };
-    const auto color = [](qsizetype pixels) {
-        return runs(pixels, 1) + runs(pixels, 60) + runs(pixels, 120);
-    };
-    add("16 in full colour", entry("is32", color(256)) + entry("s8mk", randomBytes(256)));
-    add("32 in full colour", entry("il32", color(1024)) + entry("l8mk", randomBytes(1024)));
-    add("128 in full colour",
-        entry("it32", QByteArray(4, '\0') + color(16384)) + entry("t8mk", randomBytes(16384)));
-    add("16 of 256 colours", entry("ics8", randomBytes(256)) + entry("ics#", randomBytes(64)));
-    add("48 of 256 colours", entry("ich8", randomBytes(2304)) + entry("ich#", randomBytes(576)));
-    add("32 of 16 colours", entry("icl4", randomBytes(512)) + entry("ICN#", randomBytes(256)));
-    add("32 in black and white", entry("ICN#", randomBytes(256)));
-}
+class IconTest : public QObject {
+    Q_OBJECT
 
-void IconTest::classicEntryLooksAsQtShowsIt() {
-    QFETCH(QByteArray, entries);
-    const QByteArray bytes = icns(entries);
-    QCOMPARE(difference(whole(toPdfImage(write("classic.icns", bytes))), shownByQt(bytes, "icns")),
-             QString());
-}
+  private Q_SLOTS:
+    void classicEntryLooksAsQtShowsIt_data() {
+        QTest::addColumn<QByteArray>("entries");
+        const auto add = [](const char *name, const QByteArray &entries) {
+            QTest::newRow(name) << entries;
+        };
+        const auto color = [](qsizetype pixels) {
+            return runs(pixels, 1) + runs(pixels, 60) + runs(pixels, 120);
+        };
+        add("16 in full colour", entry("is32", color(256)) + entry("s8mk", randomBytes(256)));
+        add("32 in full colour", entry("il32", color(1024)) + entry("l8mk", randomBytes(1024)));
+        add("128 in full colour",
+            entry("it32", QByteArray(4, '\0') + color(16384)) + entry("t8mk", randomBytes(16384)));
+        add("16 of 256 colours", entry("ics8", randomBytes(256)) + entry("ics#", randomBytes(64)));
+        add("48 of 256 colours",
+            entry("ich8", randomBytes(2304)) + entry("ich#", randomBytes(576)));
+        add("32 of 16 colours", entry("icl4", randomBytes(512)) + entry("ICN#", randomBytes(256)));
+        add("32 in black and white", entry("ICN#", randomBytes(256)));
+    }
 
-void IconTest::deepestOfEqualEntriesIsTaken() {
-    const QByteArray grey = runs(256, 60) + runs(256, 60) + runs(256, 60);
-    const QByteArray bytes = icns(entry("ics#", QByteArray(64, '\xFF')) +
-                                  entry("ics8", QByteArray(256, '\x23')) + entry("is32", grey));
-    const PdfImage image = toPdfImage(write("depths.icns", bytes));
-    QVERIFY(image.softMask == nullptr); // The outline is full.
-    QCOMPARE(decoded(image).pixel(0, 0), qRgb(60, 60, 60));
-}
+    void classicEntryLooksAsQtShowsIt() {
+        QFETCH(QByteArray, entries);
+        const QByteArray bytes = icns(entries);
+        QCOMPARE(
+            difference(whole(toPdfImage(write("classic.icns", bytes))), shownByQt(bytes, "icns")),
+            QString());
+    }
 
-void IconTest::newerEntryHasItsOwnOpacity() {
-    const QByteArray planes = runs(256, 9) + runs(256, 10) + runs(256, 20) + runs(256, 30);
-    const PdfImage image = toPdfImage(write("newer.icns", icns(entry("ic04", "ARGB" + planes))));
-    QCOMPARE(whole(image).pixel(0, 0), qRgba(10, 20, 30, 9));
-}
+    void deepestOfEqualEntriesIsTaken() {
+        const QByteArray grey = runs(256, 60) + runs(256, 60) + runs(256, 60);
+        const QByteArray bytes = icns(entry("ics#", QByteArray(64, '\xFF')) +
+                                      entry("ics8", QByteArray(256, '\x23')) + entry("is32", grey));
+        const PdfImage image = toPdfImage(write("depths.icns", bytes));
+        QVERIFY(image.softMask == nullptr); // The outline is full.
+        QCOMPARE(decoded(image).pixel(0, 0), qRgb(60, 60, 60));
+    }
 
-void IconTest::classicEntryThatEndsEarlyIsRefused() {
-    const QByteArray bytes = icns(entry("is32", runs(256, 1)));
-    QCOMPARE(refusalOf(write("short.icns", bytes)), u"The file ends too early"_s);
-}
+    void newerEntryHasItsOwnOpacity() {
+        const QByteArray planes = runs(256, 9) + runs(256, 10) + runs(256, 20) + runs(256, 30);
+        const PdfImage image =
+            toPdfImage(write("newer.icns", icns(entry("ic04", "ARGB" + planes))));
+        QCOMPARE(whole(image).pixel(0, 0), qRgba(10, 20, 30, 9));
+    }
 
-void IconTest::bitmapFrameLooksAsQtShowsIt_data() {
-    QTest::addColumn<QByteArray>("frame");
-    const auto palette = [](qsizetype colors) {
-        QByteArray bytes = randomBytes(4 * colors);
-        for (qsizetype i = 3; i < bytes.size(); i += 4) {
-            bytes[i] = '\0';
-        }
-        return bytes;
-    };
-    const QByteArray mask = QByteArray::fromHex("0f000000aa000000ff00000001000000");
-    QTest::newRow("1 bit") << bitmapFrame(1, palette(2) + randomBytes(16) + mask);
-    QTest::newRow("4 bits") << bitmapFrame(4, palette(16) + randomBytes(16) + mask);
-    QTest::newRow("8 bits") << bitmapFrame(8, palette(256) + randomBytes(32) + mask);
-    QTest::newRow("32 bits") << bitmapFrame(32, randomBytes(128) + QByteArray(16, '\0'));
-}
+    void classicEntryThatEndsEarlyIsRefused() {
+        const QByteArray bytes = icns(entry("is32", runs(256, 1)));
+        QCOMPARE(refusalOf(write("short.icns", bytes)), u"The file ends too early"_s);
+    }
 
-void IconTest::bitmapFrameLooksAsQtShowsIt() {
-    QFETCH(QByteArray, frame);
-    const QByteArray bytes = ico({frame});
-    QCOMPARE(difference(whole(toPdfImage(write("frame.ico", bytes))), shownByQt(bytes, "ico")),
-             QString());
-}
+    void bitmapFrameLooksAsQtShowsIt_data() {
+        QTest::addColumn<QByteArray>("frame");
+        const auto palette = [](qsizetype colors) {
+            QByteArray bytes = randomBytes(4 * colors);
+            for (qsizetype i = 3; i < bytes.size(); i += 4) {
+                bytes[i] = '\0';
+            }
+            return bytes;
+        };
+        const QByteArray mask = QByteArray::fromHex("0f000000aa000000ff00000001000000");
+        QTest::newRow("1 bit") << bitmapFrame(1, palette(2) + randomBytes(16) + mask);
+        QTest::newRow("4 bits") << bitmapFrame(4, palette(16) + randomBytes(16) + mask);
+        QTest::newRow("8 bits") << bitmapFrame(8, palette(256) + randomBytes(32) + mask);
+        QTest::newRow("32 bits") << bitmapFrame(32, randomBytes(128) + QByteArray(16, '\0'));
+    }
 
-void IconTest::bitsBelowABitmapFrameAreItsOpacity() {
-    QByteArray pixels(96, '\x40');
-    const QByteArray mask = QByteArray::fromHex("00000000000000000000000080000000");
-    const QImage icon = whole(toPdfImage(write("mask.ico", ico({bitmapFrame(24, pixels + mask)}))));
-    QCOMPARE(qAlpha(icon.pixel(0, 0)), 0); // The last row of the file is the first.
-    QCOMPARE(icon.pixel(1, 0), qRgb(64, 64, 64));
-    QCOMPARE(icon.pixel(0, 1), qRgb(64, 64, 64));
-}
+    void bitmapFrameLooksAsQtShowsIt() {
+        QFETCH(QByteArray, frame);
+        const QByteArray bytes = ico({frame});
+        QCOMPARE(difference(whole(toPdfImage(write("frame.ico", bytes))), shownByQt(bytes, "ico")),
+                 QString());
+    }
 
-void IconTest::largestFrameIsTakenThoughOthersAreDamaged() {
-    const QByteArray good = bitmapFrame(24, QByteArray(96 + 16, '\0'));
-    const QByteArray bytes = ico({QByteArray(50, '\x55'), good});
-    const ImageHeader header = readImageHeader(write("damaged.ico", bytes));
-    QCOMPARE(QSize(header.width, header.height), QSize(8, 4));
-    QCOMPARE(toPdfImage(write("damaged.ico", bytes)).width, 8);
-}
+    void bitsBelowABitmapFrameAreItsOpacity() {
+        QByteArray pixels(96, '\x40');
+        const QByteArray mask = QByteArray::fromHex("00000000000000000000000080000000");
+        const QImage icon =
+            whole(toPdfImage(write("mask.ico", ico({bitmapFrame(24, pixels + mask)}))));
+        QCOMPARE(qAlpha(icon.pixel(0, 0)), 0); // The last row of the file is the first.
+        QCOMPARE(icon.pixel(1, 0), qRgb(64, 64, 64));
+        QCOMPARE(icon.pixel(0, 1), qRgb(64, 64, 64));
+    }
 
-void IconTest::pngFrameKeepsItsOwnRows() {
-    const QByteArray png = bytesOf(imageFile(u"colour.png"_s));
-    const QByteArray small = bitmapFrame(24, QByteArray(96 + 16, '\0'));
-    const PdfImage image = toPdfImage(write("png.ico", ico({small, png})));
-    QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
-    QVERIFY(png.contains("IDAT" + dataOf(image)));
-}
+    void largestFrameIsTakenThoughOthersAreDamaged() {
+        const QByteArray good = bitmapFrame(24, QByteArray(96 + 16, '\0'));
+        const QByteArray bytes = ico({QByteArray(50, '\x55'), good});
+        const ImageHeader header = readImageHeader(write("damaged.ico", bytes));
+        QCOMPARE(QSize(header.width, header.height), QSize(8, 4));
+        QCOMPARE(toPdfImage(write("damaged.ico", bytes)).width, 8);
+    }
 
-void IconTest::framesBehindTheHundredthAreNotLookedAt() {
-    const QByteArray small = bitmapFrame(24, QByteArray(96 + 16, '\0'));
-    const QByteArray large = bytesOf(imageFile(u"colour.png"_s));
-    QList<QByteArray> frames(99, small);
-    const ImageHeader header = readImageHeader(write("hundred.ico", ico(frames + QList{large})));
-    QCOMPARE(header.width, 24);
-    frames.append(small);
-    QCOMPARE(readImageHeader(write("more.ico", ico(frames + QList{large}))).width, 8);
-}
+    void pngFrameKeepsItsOwnRows() {
+        const QByteArray png = bytesOf(imageFile(u"colour.png"_s));
+        const QByteArray small = bitmapFrame(24, QByteArray(96 + 16, '\0'));
+        const PdfImage image = toPdfImage(write("png.ico", ico({small, png})));
+        QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
+        QVERIFY(png.contains("IDAT" + dataOf(image)));
+    }
+
+    void framesBehindTheHundredthAreNotLookedAt() {
+        const QByteArray small = bitmapFrame(24, QByteArray(96 + 16, '\0'));
+        const QByteArray large = bytesOf(imageFile(u"colour.png"_s));
+        QList<QByteArray> frames(99, small);
+        const ImageHeader header =
+            readImageHeader(write("hundred.ico", ico(frames + QList{large})));
+        QCOMPARE(header.width, 24);
+        frames.append(small);
+        QCOMPARE(readImageHeader(write("more.ico", ico(frames + QList{large}))).width, 8);
+    }
+
+  private:
+    QTemporaryDir m_folder;
+
+    QString write(const char *name, const QByteArray &bytes) {
+        return writeFile(m_folder.filePath(QString::fromLatin1(name)), bytes);
+    }
+};
 
 FOLIOFORGE_TEST(IconTest)
 #include "IconTest.moc"

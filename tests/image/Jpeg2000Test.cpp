@@ -14,25 +14,6 @@ using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
-class Jpeg2000Test : public QObject {
-    Q_OBJECT
-
-  private Q_SLOTS:
-    void resolutionBoxIsPixelsAMetre();
-    void shownResolutionCountsMoreThanCaptured();
-    void boxesInBoxesWithoutEndAreNoPicture();
-    void opacityIsTakenFromAmongTheColors_data();
-    void opacityIsTakenFromAmongTheColors();
-
-  private:
-    QTemporaryDir m_folder;
-
-    /// The test picture with this box at the end of its header.
-    QString withHeaderBox(const QByteArray &box);
-    /// The codestream of a row of pixels: the samples of each of its components.
-    QByteArray codestream(const QList<QByteArray> &components);
-};
-
 namespace {
 
 QByteArray box(const char *type, const QByteArray &content) {
@@ -77,126 +58,140 @@ QByteArray headerOf(const QList<QByteArray> &components, int alpha, const QByteA
 
 } // namespace
 
-QByteArray Jpeg2000Test::codestream(const QList<QByteArray> &components) {
-    const auto width = static_cast<OPJ_UINT32>(components[0].size());
-    std::vector<opj_image_cmptparm_t> shapes(static_cast<size_t>(components.size()));
-    for (opj_image_cmptparm_t &shape : shapes) {
-        shape = {1, 1, width, 1, 0, 0, 8, 8, 0};
+class Jpeg2000Test : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void resolutionBoxIsPixelsAMetre() {
+        // Vertical 5000 / 1 * 10^0, horizontal 1 / 1 * 10^4: 127 and 254 per inch.
+        const QByteArray numbers = QByteArray::fromHex("13880001"
+                                                       "00010001"
+                                                       "00"
+                                                       "04");
+        const ImageHeader header =
+            readImageHeader(withHeaderBox(box("res ", box("resd", numbers))));
+        QCOMPARE(header.verticalDpi, 127.0);
+        QCOMPARE(header.horizontalDpi, 254.0);
     }
-    const std::unique_ptr<opj_image_t, decltype(&opj_image_destroy)> image(
-        opj_image_create(static_cast<OPJ_UINT32>(shapes.size()), shapes.data(),
-                         OPJ_CLRSPC_UNSPECIFIED),
-        opj_image_destroy);
-    image->x1 = width;
-    image->y1 = 1;
-    for (qsizetype c = 0; c < components.size(); ++c) {
-        std::transform(components[c].begin(), components[c].end(), image->comps[c].data,
-                       [](char sample) { return static_cast<uchar>(sample); });
+
+    void shownResolutionCountsMoreThanCaptured() {
+        const QByteArray captured = QByteArray::fromHex("00010001"
+                                                        "00010001"
+                                                        "04"
+                                                        "04");
+        const QByteArray shown = QByteArray::fromHex("13880001"
+                                                     "13880001"
+                                                     "00"
+                                                     "00");
+        const ImageHeader one =
+            readImageHeader(withHeaderBox(box("res ", box("resc", captured) + box("resd", shown))));
+        QCOMPARE(one.horizontalDpi, 127.0);
+        const ImageHeader other =
+            readImageHeader(withHeaderBox(box("res ", box("resd", shown) + box("resc", captured))));
+        QCOMPARE(other.horizontalDpi, 127.0);
     }
-    opj_cparameters_t parameters;
-    opj_set_default_encoder_parameters(&parameters); // Without loss.
-    parameters.tcp_numlayers = 1;
-    parameters.cp_disto_alloc = 1;
-    parameters.numresolution = 1;
-    const std::unique_ptr<opj_codec_t, decltype(&opj_destroy_codec)> codec(
-        opj_create_compress(OPJ_CODEC_J2K), opj_destroy_codec);
-    const QString path = m_folder.filePath(u"codestream"_s);
-    std::unique_ptr<opj_stream_t, decltype(&opj_stream_destroy)> stream(
-        opj_stream_create_default_file_stream(path.toLocal8Bit().constData(), OPJ_FALSE),
-        opj_stream_destroy);
-    const bool written = opj_setup_encoder(codec.get(), &parameters, image.get()) != OPJ_FALSE &&
-                         opj_start_compress(codec.get(), image.get(), stream.get()) != OPJ_FALSE &&
-                         opj_encode(codec.get(), stream.get()) != OPJ_FALSE &&
-                         opj_end_compress(codec.get(), stream.get()) != OPJ_FALSE;
-    stream.reset(); // Which writes the rest.
-    return written ? bytesOf(path) : QByteArray();
-}
 
-QString Jpeg2000Test::withHeaderBox(const QByteArray &box) {
-    QByteArray bytes = bytesOf(imageFile(u"colour.jp2"_s));
-    const qsizetype header = bytes.indexOf("jp2h") - 4;
-    const auto length = qFromBigEndian<quint32>(bytes.constData() + header);
-    bytes.insert(header + length, box);
-    qToBigEndian(length + quint32(box.size()), bytes.data() + header);
-    return writeFile(m_folder.filePath(u"picture.jp2"_s), bytes);
-}
-
-void Jpeg2000Test::resolutionBoxIsPixelsAMetre() {
-    // Vertical 5000 / 1 * 10^0, horizontal 1 / 1 * 10^4: 127 and 254 per inch.
-    const QByteArray numbers = QByteArray::fromHex("13880001"
-                                                   "00010001"
-                                                   "00"
-                                                   "04");
-    const ImageHeader header = readImageHeader(withHeaderBox(box("res ", box("resd", numbers))));
-    QCOMPARE(header.verticalDpi, 127.0);
-    QCOMPARE(header.horizontalDpi, 254.0);
-}
-
-void Jpeg2000Test::shownResolutionCountsMoreThanCaptured() {
-    const QByteArray captured = QByteArray::fromHex("00010001"
-                                                    "00010001"
-                                                    "04"
-                                                    "04");
-    const QByteArray shown = QByteArray::fromHex("13880001"
-                                                 "13880001"
-                                                 "00"
-                                                 "00");
-    const ImageHeader one =
-        readImageHeader(withHeaderBox(box("res ", box("resc", captured) + box("resd", shown))));
-    QCOMPARE(one.horizontalDpi, 127.0);
-    const ImageHeader other =
-        readImageHeader(withHeaderBox(box("res ", box("resd", shown) + box("resc", captured))));
-    QCOMPARE(other.horizontalDpi, 127.0);
-}
-
-void Jpeg2000Test::boxesInBoxesWithoutEndAreNoPicture() {
-    QByteArray bytes = bytesOf(imageFile(u"colour.jp2"_s)).first(12);
-    constexpr int kBoxes = 100'000;
-    for (int i = kBoxes; i > 0; --i) {
-        QByteArray length(4, '\0');
-        qToBigEndian(quint32(8 * i), length.data());
-        bytes += length + "jp2h";
-    }
-    QCOMPARE(refusalOf(writeFile(m_folder.filePath(u"deep.jp2"_s), bytes)),
-             u"The JPEG 2000 file holds no picture"_s);
-}
-
-void Jpeg2000Test::opacityIsTakenFromAmongTheColors_data() {
-    QTest::addColumn<QByteArray>("colorSpace");
-    QTest::addColumn<int>("colors");
-    QTest::addColumn<int>("alpha");
-    QTest::newRow("behind four inks") << QByteArray("CMYK") << 4 << 4;
-    QTest::newRow("before four inks") << QByteArray("CMYK") << 4 << 0;
-    QTest::newRow("behind three colours") << QByteArray("RGB ") << 3 << 3;
-    QTest::newRow("before three colours") << QByteArray("RGB ") << 3 << 0;
-    QTest::newRow("behind a grey") << QByteArray("GRAY") << 1 << 1;
-}
-
-void Jpeg2000Test::opacityIsTakenFromAmongTheColors() {
-    QFETCH(QByteArray, colorSpace);
-    QFETCH(int, colors);
-    QFETCH(int, alpha);
-    const QByteArray opacity("\x01\x80\xFF");
-    const QList<QByteArray> inks{"\x10\x11\x12", "\x20\x21\x22", "\x30\x31\x32", "\x40\x41\x42"};
-    QList<QByteArray> components = inks.first(colors);
-    components.insert(alpha, opacity);
-    const QByteArray bytes =
-        bytesOf(imageFile(u"colour.jp2"_s)).first(12) +
-        box("ftyp", QByteArray("jp2 \0\0\0\0jp2 ", 12)) +
-        box("jp2h", headerOf(components, alpha, profileOf(colorSpace.constData()))) +
-        box("jp2c", codestream(components));
-    const SourceFile file = SourceFile::open(writeFile(m_folder.filePath(u"opacity.jp2"_s), bytes));
-    const Raster raster = decodeJpeg2000(file.view(), readJpeg2000Metadata(file.view()));
-    QByteArray pixels;
-    for (int x = 0; x < 3; ++x) {
-        for (int c = 0; c < colors; ++c) {
-            pixels += inks[c][x];
+    void boxesInBoxesWithoutEndAreNoPicture() {
+        QByteArray bytes = bytesOf(imageFile(u"colour.jp2"_s)).first(12);
+        constexpr int kBoxes = 100'000;
+        for (int i = kBoxes; i > 0; --i) {
+            QByteArray length(4, '\0');
+            qToBigEndian(quint32(8 * i), length.data());
+            bytes += length + "jp2h";
         }
+        QCOMPARE(refusalOf(writeFile(m_folder.filePath(u"deep.jp2"_s), bytes)),
+                 u"The JPEG 2000 file holds no picture"_s);
     }
-    QCOMPARE(raster.samples.toHex(), pixels.toHex());
-    QVERIFY(raster.alpha.has_value());
-    QCOMPARE(raster.alpha->samples.toHex(), opacity.toHex());
-}
+
+    void opacityIsTakenFromAmongTheColors_data() {
+        QTest::addColumn<QByteArray>("colorSpace");
+        QTest::addColumn<int>("colors");
+        QTest::addColumn<int>("alpha");
+        QTest::newRow("behind four inks") << QByteArray("CMYK") << 4 << 4;
+        QTest::newRow("before four inks") << QByteArray("CMYK") << 4 << 0;
+        QTest::newRow("behind three colours") << QByteArray("RGB ") << 3 << 3;
+        QTest::newRow("before three colours") << QByteArray("RGB ") << 3 << 0;
+        QTest::newRow("behind a grey") << QByteArray("GRAY") << 1 << 1;
+    }
+
+    void opacityIsTakenFromAmongTheColors() {
+        QFETCH(QByteArray, colorSpace);
+        QFETCH(int, colors);
+        QFETCH(int, alpha);
+        const QByteArray opacity("\x01\x80\xFF");
+        const QList<QByteArray> inks{"\x10\x11\x12", "\x20\x21\x22", "\x30\x31\x32",
+                                     "\x40\x41\x42"};
+        QList<QByteArray> components = inks.first(colors);
+        components.insert(alpha, opacity);
+        const QByteArray bytes =
+            bytesOf(imageFile(u"colour.jp2"_s)).first(12) +
+            box("ftyp", QByteArray("jp2 \0\0\0\0jp2 ", 12)) +
+            box("jp2h", headerOf(components, alpha, profileOf(colorSpace.constData()))) +
+            box("jp2c", codestream(components));
+        const SourceFile file =
+            SourceFile::open(writeFile(m_folder.filePath(u"opacity.jp2"_s), bytes));
+        const Raster raster = decodeJpeg2000(file.view(), readJpeg2000Metadata(file.view()));
+        QByteArray pixels;
+        for (int x = 0; x < 3; ++x) {
+            for (int c = 0; c < colors; ++c) {
+                pixels += inks[c][x];
+            }
+        }
+        QCOMPARE(raster.samples.toHex(), pixels.toHex());
+        QVERIFY(raster.alpha.has_value());
+        QCOMPARE(raster.alpha->samples.toHex(), opacity.toHex());
+    }
+
+  private:
+    QTemporaryDir m_folder;
+
+    /// The test picture with this box at the end of its header.
+    QString withHeaderBox(const QByteArray &box) {
+        QByteArray bytes = bytesOf(imageFile(u"colour.jp2"_s));
+        const qsizetype header = bytes.indexOf("jp2h") - 4;
+        const auto length = qFromBigEndian<quint32>(bytes.constData() + header);
+        bytes.insert(header + length, box);
+        qToBigEndian(length + quint32(box.size()), bytes.data() + header);
+        return writeFile(m_folder.filePath(u"picture.jp2"_s), bytes);
+    }
+
+    /// The codestream of a row of pixels: the samples of each of its components.
+    QByteArray codestream(const QList<QByteArray> &components) {
+        const auto width = static_cast<OPJ_UINT32>(components[0].size());
+        std::vector<opj_image_cmptparm_t> shapes(static_cast<size_t>(components.size()));
+        for (opj_image_cmptparm_t &shape : shapes) {
+            shape = {1, 1, width, 1, 0, 0, 8, 8, 0};
+        }
+        const std::unique_ptr<opj_image_t, decltype(&opj_image_destroy)> image(
+            opj_image_create(static_cast<OPJ_UINT32>(shapes.size()), shapes.data(),
+                             OPJ_CLRSPC_UNSPECIFIED),
+            opj_image_destroy);
+        image->x1 = width;
+        image->y1 = 1;
+        for (qsizetype c = 0; c < components.size(); ++c) {
+            std::transform(components[c].begin(), components[c].end(), image->comps[c].data,
+                           [](char sample) { return static_cast<uchar>(sample); });
+        }
+        opj_cparameters_t parameters;
+        opj_set_default_encoder_parameters(&parameters); // Without loss.
+        parameters.tcp_numlayers = 1;
+        parameters.cp_disto_alloc = 1;
+        parameters.numresolution = 1;
+        const std::unique_ptr<opj_codec_t, decltype(&opj_destroy_codec)> codec(
+            opj_create_compress(OPJ_CODEC_J2K), opj_destroy_codec);
+        const QString path = m_folder.filePath(u"codestream"_s);
+        std::unique_ptr<opj_stream_t, decltype(&opj_stream_destroy)> stream(
+            opj_stream_create_default_file_stream(path.toLocal8Bit().constData(), OPJ_FALSE),
+            opj_stream_destroy);
+        const bool written =
+            opj_setup_encoder(codec.get(), &parameters, image.get()) != OPJ_FALSE &&
+            opj_start_compress(codec.get(), image.get(), stream.get()) != OPJ_FALSE &&
+            opj_encode(codec.get(), stream.get()) != OPJ_FALSE &&
+            opj_end_compress(codec.get(), stream.get()) != OPJ_FALSE;
+        stream.reset(); // Which writes the rest.
+        return written ? bytesOf(path) : QByteArray();
+    }
+};
 
 FOLIOFORGE_TEST(Jpeg2000Test)
 #include "Jpeg2000Test.moc"

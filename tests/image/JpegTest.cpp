@@ -11,34 +11,6 @@ using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
-class JpegTest : public QObject {
-    Q_OBJECT
-
-  private Q_SLOTS:
-    void adobeInkIsInverted();
-    void inkWithoutAdobesMarkIsNot();
-    void jfifDensityPerInchAndPerCentimetre();
-    void exifGivesOrientationAndDensity_data();
-    void exifGivesOrientationAndDensity();
-    void profileInSeveralPartsIsJoined();
-    void profileOfAnotherColorIsDropped();
-    void fillBytesBeforeAMarkerAreSkipped();
-    void fileCutBeforeItsPictureIsRefused();
-    void fileCutInItsPictureGoesIn();
-    void losslessProcessIsRefused();
-    void componentsNamedForRgbAreRgb();
-
-  private:
-    QTemporaryDir m_folder;
-
-    QString write(const QByteArray &bytes) {
-        return writeFile(m_folder.filePath(u"photo.jpg"_s), bytes);
-    }
-    /// The test photo with segments put in after its start, and its own JFIF segment left out.
-    static QByteArray photoWith(const QByteArray &segments);
-    static QByteArray segment(uchar marker, const QByteArray &content);
-};
-
 namespace {
 
 QByteArray profileFor(const char *space, qsizetype size) {
@@ -73,127 +45,141 @@ QByteArray exifBlock(int orientation, quint32 dpi, bool littleEndian) {
 
 } // namespace
 
-QByteArray JpegTest::segment(uchar marker, const QByteArray &content) {
-    QByteArray length(2, '\0');
-    qToBigEndian(quint16(content.size() + 2), length.data());
-    return QByteArray(1, '\xFF') + char(marker) + length + content;
-}
+class JpegTest : public QObject {
+    Q_OBJECT
 
-QByteArray JpegTest::photoWith(const QByteArray &segments) {
-    const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
-    const qsizetype jfif = 2 + 2 + qFromBigEndian<quint16>(photo.constData() + 4);
-    return photo.first(2) + segments + photo.mid(jfif);
-}
-
-void JpegTest::adobeInkIsInverted() {
-    QVERIFY(bytesOf(imageFile(u"ink.jpg"_s)).contains("Adobe"));
-    const std::vector<double> inverted = {1, 0, 1, 0, 1, 0, 1, 0};
-    QCOMPARE(toPdfImage(imageFile(u"ink.jpg"_s)).decode, inverted);
-}
-
-void JpegTest::inkWithoutAdobesMarkIsNot() {
-    QByteArray bytes = bytesOf(imageFile(u"ink.jpg"_s));
-    bytes.replace("Adobe", "Other");
-    QVERIFY(toPdfImage(write(bytes)).decode.empty());
-}
-
-void JpegTest::jfifDensityPerInchAndPerCentimetre() {
-    QByteArray bytes = bytesOf(imageFile(u"photo.jpg"_s));
-    QCOMPARE(bytes.mid(6, 4), QByteArray("JFIF"));
-    bytes[13] = 1;
-    qToBigEndian(quint16(300), bytes.data() + 14);
-    qToBigEndian(quint16(150), bytes.data() + 16);
-    QCOMPARE(readImageHeader(write(bytes)).horizontalDpi, 300.0);
-    QCOMPARE(readImageHeader(write(bytes)).verticalDpi, 150.0);
-    bytes[13] = 2;
-    QCOMPARE(readImageHeader(write(bytes)).horizontalDpi, 762.0);
-    bytes[13] = 0; // A proportion, no density.
-    QCOMPARE(readImageHeader(write(bytes)).horizontalDpi, 72.0);
-}
-
-void JpegTest::exifGivesOrientationAndDensity_data() {
-    QTest::addColumn<int>("stated");
-    QTest::addColumn<int>("meant");
-    for (int i = 1; i <= 8; ++i) {
-        QTest::newRow(qPrintable(QString::number(i))) << i << i;
+  private Q_SLOTS:
+    void adobeInkIsInverted() {
+        QVERIFY(bytesOf(imageFile(u"ink.jpg"_s)).contains("Adobe"));
+        const std::vector<double> inverted = {1, 0, 1, 0, 1, 0, 1, 0};
+        QCOMPARE(toPdfImage(imageFile(u"ink.jpg"_s)).decode, inverted);
     }
-    QTest::newRow("zero") << 0 << 1;
-    QTest::newRow("nine") << 9 << 1;
-    QTest::newRow("huge") << 65535 << 1;
-}
 
-void JpegTest::exifGivesOrientationAndDensity() {
-    QFETCH(int, stated);
-    QFETCH(int, meant);
-    for (const bool littleEndian : {true, false}) {
-        const QByteArray exif = segment(0xE1, exifBlock(stated, 240, littleEndian));
-        const ImageHeader header = readImageHeader(write(photoWith(exif)));
-        QCOMPARE(header.orientation, meant);
-        QCOMPARE(header.horizontalDpi, 240.0);
-        QCOMPARE(header.verticalDpi, 240.0);
-        QCOMPARE(header.width, 24); // Stored pixels, whatever way up.
+    void inkWithoutAdobesMarkIsNot() {
+        QByteArray bytes = bytesOf(imageFile(u"ink.jpg"_s));
+        bytes.replace("Adobe", "Other");
+        QVERIFY(toPdfImage(write(bytes)).decode.empty());
     }
-}
 
-void JpegTest::profileInSeveralPartsIsJoined() {
-    const QByteArray profile = profileFor("RGB ", 300);
-    const QByteArray lead("ICC_PROFILE\0", 12);
-    const QByteArray second = segment(0xE2, lead + "\2\2" + profile.mid(200));
-    const QByteArray first = segment(0xE2, lead + "\1\2" + profile.first(200));
-    QCOMPARE(toPdfImage(write(photoWith(second + first))).iccProfile, profile);
-}
-
-void JpegTest::profileOfAnotherColorIsDropped() {
-    const QByteArray lead("ICC_PROFILE\0\1\1", 14);
-    QVERIFY(toPdfImage(write(photoWith(segment(0xE2, lead + profileFor("GRAY", 200)))))
-                .iccProfile.isEmpty());
-    QVERIFY(toPdfImage(write(photoWith(segment(0xE2, lead + "no profile")))).iccProfile.isEmpty());
-}
-
-void JpegTest::fillBytesBeforeAMarkerAreSkipped() {
-    const QByteArray filled = photoWith(QByteArray(5, '\xFF'));
-    QCOMPARE(readImageHeader(write(filled)).width, 24);
-}
-
-void JpegTest::fileCutBeforeItsPictureIsRefused() {
-    const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
-    for (const qsizetype length : {qsizetype(3), qsizetype(20), qsizetype(100)}) {
-        QCOMPARE(refusalOf(write(photo.first(length))),
-                 u"The JPEG file ends before its picture begins"_s);
+    void jfifDensityPerInchAndPerCentimetre() {
+        QByteArray bytes = bytesOf(imageFile(u"photo.jpg"_s));
+        QCOMPARE(bytes.mid(6, 4), QByteArray("JFIF"));
+        bytes[13] = 1;
+        qToBigEndian(quint16(300), bytes.data() + 14);
+        qToBigEndian(quint16(150), bytes.data() + 16);
+        QCOMPARE(readImageHeader(write(bytes)).horizontalDpi, 300.0);
+        QCOMPARE(readImageHeader(write(bytes)).verticalDpi, 150.0);
+        bytes[13] = 2;
+        QCOMPARE(readImageHeader(write(bytes)).horizontalDpi, 762.0);
+        bytes[13] = 0; // A proportion, no density.
+        QCOMPARE(readImageHeader(write(bytes)).horizontalDpi, 72.0);
     }
-}
 
-void JpegTest::fileCutInItsPictureGoesIn() {
-    const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
-    const PdfImage image = toPdfImage(write(photo.chopped(30)));
-    QCOMPARE(image.filter, ImageFilter::Dct);
-    QCOMPARE(dataOf(image), photo.chopped(30));
-}
-
-void JpegTest::losslessProcessIsRefused() {
-    QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
-    photo[photo.indexOf("\xFF\xC0") + 1] = '\xC3';
-    QVERIFY(refusalOf(write(photo)).contains(u"no PDF can hold"_s));
-}
-
-void JpegTest::componentsNamedForRgbAreRgb() {
-    const auto named = [](QByteArray photo) {
-        const qsizetype frame = photo.indexOf("\xFF\xC0");
-        const qsizetype scan = photo.indexOf("\xFF\xDA");
-        for (int i = 0; i < 3; ++i) {
-            photo[frame + 10 + 3 * i] = "RGB"[i];
-            photo[scan + 5 + 2 * i] = "RGB"[i];
+    void exifGivesOrientationAndDensity_data() {
+        QTest::addColumn<int>("stated");
+        QTest::addColumn<int>("meant");
+        for (int i = 1; i <= 8; ++i) {
+            QTest::newRow(qPrintable(QString::number(i))) << i << i;
         }
-        return photo;
-    };
-    const QByteArray bare = photoWith({});
-    QVERIFY(!toPdfImage(write(bare)).isPlainRgb);
-    QVERIFY(toPdfImage(write(named(bare))).isPlainRgb);
-    // JFIF says YCbCr whatever the names, and Adobe's mark says which of the two.
-    QVERIFY(!toPdfImage(write(named(bytesOf(imageFile(u"photo.jpg"_s))))).isPlainRgb);
-    const QByteArray adobe = segment(0xEE, QByteArray("Adobe\0\x64\0\0\0\0\1", 12));
-    QVERIFY(!toPdfImage(write(named(photoWith(adobe)))).isPlainRgb);
-}
+        QTest::newRow("zero") << 0 << 1;
+        QTest::newRow("nine") << 9 << 1;
+        QTest::newRow("huge") << 65535 << 1;
+    }
+
+    void exifGivesOrientationAndDensity() {
+        QFETCH(int, stated);
+        QFETCH(int, meant);
+        for (const bool littleEndian : {true, false}) {
+            const QByteArray exif = segment(0xE1, exifBlock(stated, 240, littleEndian));
+            const ImageHeader header = readImageHeader(write(photoWith(exif)));
+            QCOMPARE(header.orientation, meant);
+            QCOMPARE(header.horizontalDpi, 240.0);
+            QCOMPARE(header.verticalDpi, 240.0);
+            QCOMPARE(header.width, 24); // Stored pixels, whatever way up.
+        }
+    }
+
+    void profileInSeveralPartsIsJoined() {
+        const QByteArray profile = profileFor("RGB ", 300);
+        const QByteArray lead("ICC_PROFILE\0", 12);
+        const QByteArray second = segment(0xE2, lead + "\2\2" + profile.mid(200));
+        const QByteArray first = segment(0xE2, lead + "\1\2" + profile.first(200));
+        QCOMPARE(toPdfImage(write(photoWith(second + first))).iccProfile, profile);
+    }
+
+    void profileOfAnotherColorIsDropped() {
+        const QByteArray lead("ICC_PROFILE\0\1\1", 14);
+        QVERIFY(toPdfImage(write(photoWith(segment(0xE2, lead + profileFor("GRAY", 200)))))
+                    .iccProfile.isEmpty());
+        QVERIFY(
+            toPdfImage(write(photoWith(segment(0xE2, lead + "no profile")))).iccProfile.isEmpty());
+    }
+
+    void fillBytesBeforeAMarkerAreSkipped() {
+        const QByteArray filled = photoWith(QByteArray(5, '\xFF'));
+        QCOMPARE(readImageHeader(write(filled)).width, 24);
+    }
+
+    void fileCutBeforeItsPictureIsRefused() {
+        const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
+        for (const qsizetype length : {qsizetype(3), qsizetype(20), qsizetype(100)}) {
+            QCOMPARE(refusalOf(write(photo.first(length))),
+                     u"The JPEG file ends before its picture begins"_s);
+        }
+    }
+
+    void fileCutInItsPictureGoesIn() {
+        const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
+        const PdfImage image = toPdfImage(write(photo.chopped(30)));
+        QCOMPARE(image.filter, ImageFilter::Dct);
+        QCOMPARE(dataOf(image), photo.chopped(30));
+    }
+
+    void losslessProcessIsRefused() {
+        QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
+        photo[photo.indexOf("\xFF\xC0") + 1] = '\xC3';
+        QVERIFY(refusalOf(write(photo)).contains(u"no PDF can hold"_s));
+    }
+
+    void componentsNamedForRgbAreRgb() {
+        const auto named = [](QByteArray photo) {
+            const qsizetype frame = photo.indexOf("\xFF\xC0");
+            const qsizetype scan = photo.indexOf("\xFF\xDA");
+            for (int i = 0; i < 3; ++i) {
+                photo[frame + 10 + 3 * i] = "RGB"[i];
+                photo[scan + 5 + 2 * i] = "RGB"[i];
+            }
+            return photo;
+        };
+        const QByteArray bare = photoWith({});
+        QVERIFY(!toPdfImage(write(bare)).isPlainRgb);
+        QVERIFY(toPdfImage(write(named(bare))).isPlainRgb);
+        // JFIF says YCbCr whatever the names, and Adobe's mark says which of the two.
+        QVERIFY(!toPdfImage(write(named(bytesOf(imageFile(u"photo.jpg"_s))))).isPlainRgb);
+        const QByteArray adobe = segment(0xEE, QByteArray("Adobe\0\x64\0\0\0\0\1", 12));
+        QVERIFY(!toPdfImage(write(named(photoWith(adobe)))).isPlainRgb);
+    }
+
+  private:
+    QTemporaryDir m_folder;
+
+    QString write(const QByteArray &bytes) {
+        return writeFile(m_folder.filePath(u"photo.jpg"_s), bytes);
+    }
+
+    /// The test photo with segments put in after its start, and its own JFIF segment left out.
+    static QByteArray photoWith(const QByteArray &segments) {
+        const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
+        const qsizetype jfif = 2 + 2 + qFromBigEndian<quint16>(photo.constData() + 4);
+        return photo.first(2) + segments + photo.mid(jfif);
+    }
+
+    static QByteArray segment(uchar marker, const QByteArray &content) {
+        QByteArray length(2, '\0');
+        qToBigEndian(quint16(content.size() + 2), length.data());
+        return QByteArray(1, '\xFF') + char(marker) + length + content;
+    }
+};
 
 FOLIOFORGE_TEST(JpegTest)
 #include "JpegTest.moc"

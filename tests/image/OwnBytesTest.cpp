@@ -12,94 +12,87 @@ class OwnBytesTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void wholeFileGoesIn_data();
-    void wholeFileGoesIn();
-    void pngRowsGoInWithTheirPredictor();
-    void oneStripOfGroup4GoesIn();
-    void reversedBitsOfGroup4AreTurned();
-    void manyStripsAreEncodedAgain();
-    void codestreamGetsTheBoxesOfAFile();
-    void jpeg2000InsideAnIconIsSplit();
-};
-
-void OwnBytesTest::wholeFileGoesIn_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<ImageFilter>("filter");
-    QTest::addColumn<ImageColor>("color");
-    const auto add = [](const char *name, ImageFilter filter, ImageColor color) {
-        QTest::newRow(name) << QString::fromLatin1(name) << filter << color;
-    };
-    add("photo.jpg", ImageFilter::Dct, ImageColor::Rgb);
-    add("progressive.jpg", ImageFilter::Dct, ImageColor::Rgb);
-    add("grey.jpg", ImageFilter::Dct, ImageColor::Gray);
-    add("ink.jpg", ImageFilter::Dct, ImageColor::Cmyk);
-    add("colour.jp2", ImageFilter::Jpx, ImageColor::FromJpx);
-}
-
-void OwnBytesTest::wholeFileGoesIn() {
-    QFETCH(QString, name);
-    QFETCH(ImageFilter, filter);
-    QFETCH(ImageColor, color);
-    const PdfImage image = toPdfImage(imageFile(name));
-    QCOMPARE(image.filter, filter);
-    QCOMPARE(image.color, color);
-    QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
-    QVERIFY(image.data.isEmpty());
-    QCOMPARE(dataOf(image), bytesOf(imageFile(name)));
-}
-
-void OwnBytesTest::pngRowsGoInWithTheirPredictor() {
-    for (const char *name : {"colour.png", "grey.png", "bilevel.png", "palette.png", "deep.png"}) {
-        const PdfImage image = toPdfImage(imageFile(QString::fromLatin1(name)));
-        QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
-        QCOMPARE(image.predictor, 15);
-        QVERIFY(bytesOf(image.source.path).contains("IDAT" + dataOf(image)));
+    void wholeFileGoesIn_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<ImageFilter>("filter");
+        QTest::addColumn<ImageColor>("color");
+        const auto add = [](const char *name, ImageFilter filter, ImageColor color) {
+            QTest::newRow(name) << QString::fromLatin1(name) << filter << color;
+        };
+        add("photo.jpg", ImageFilter::Dct, ImageColor::Rgb);
+        add("progressive.jpg", ImageFilter::Dct, ImageColor::Rgb);
+        add("grey.jpg", ImageFilter::Dct, ImageColor::Gray);
+        add("ink.jpg", ImageFilter::Dct, ImageColor::Cmyk);
+        add("colour.jp2", ImageFilter::Jpx, ImageColor::FromJpx);
     }
-}
 
-void OwnBytesTest::oneStripOfGroup4GoesIn() {
-    const PdfImage image = toPdfImage(imageFile(u"bilevel-g4.tif"_s));
-    QCOMPARE(image.filter, ImageFilter::CcittFax);
-    QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
-    QCOMPARE(image.ccittK, -1);
-    QVERIFY(!image.ccittBlackIs1);
-    QCOMPARE(image.slices.size(), size_t(1));
-    QVERIFY(toPdfImage(imageFile(u"bilevel-minisblack.tif"_s)).ccittBlackIs1);
-}
+    void wholeFileGoesIn() {
+        QFETCH(QString, name);
+        QFETCH(ImageFilter, filter);
+        QFETCH(ImageColor, color);
+        const PdfImage image = toPdfImage(imageFile(name));
+        QCOMPARE(image.filter, filter);
+        QCOMPARE(image.color, color);
+        QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
+        QVERIFY(image.data.isEmpty());
+        QCOMPARE(dataOf(image), bytesOf(imageFile(name)));
+    }
 
-void OwnBytesTest::reversedBitsOfGroup4AreTurned() {
-    const PdfImage turned = toPdfImage(imageFile(u"bilevel-lsb.tif"_s));
-    const PdfImage plain = toPdfImage(imageFile(u"bilevel-g4.tif"_s));
-    QCOMPARE(turned.data, dataOf(plain));
-}
+    void pngRowsGoInWithTheirPredictor() {
+        for (const char *name :
+             {"colour.png", "grey.png", "bilevel.png", "palette.png", "deep.png"}) {
+            const PdfImage image = toPdfImage(imageFile(QString::fromLatin1(name)));
+            QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
+            QCOMPARE(image.predictor, 15);
+            QVERIFY(bytesOf(image.source.path).contains("IDAT" + dataOf(image)));
+        }
+    }
 
-void OwnBytesTest::manyStripsAreEncodedAgain() {
-    const PdfImage image = toPdfImage(imageFile(u"bilevel-strips.tif"_s));
-    QCOMPARE(image.embeddedAs, EmbeddedAs::Recompressed);
-    QVERIFY(image.slices.empty());
-    QCOMPARE(image.filter, ImageFilter::CcittFax);
-}
+    void oneStripOfGroup4GoesIn() {
+        const PdfImage image = toPdfImage(imageFile(u"bilevel-g4.tif"_s));
+        QCOMPARE(image.filter, ImageFilter::CcittFax);
+        QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
+        QCOMPARE(image.ccittK, -1);
+        QVERIFY(!image.ccittBlackIs1);
+        QCOMPARE(image.slices.size(), size_t(1));
+        QVERIFY(toPdfImage(imageFile(u"bilevel-minisblack.tif"_s)).ccittBlackIs1);
+    }
 
-void OwnBytesTest::codestreamGetsTheBoxesOfAFile() {
-    const QByteArray codestream = bytesOf(imageFile(u"codestream.jp2"_s));
-    QVERIFY(codestream.startsWith("\xFF\x4F"));
-    const PdfImage image = toPdfImage(imageFile(u"codestream.jp2"_s));
-    QCOMPARE(image.filter, ImageFilter::Jpx);
-    QVERIFY(image.data.endsWith(codestream));
-    // Colour space 16 is sRGB; what another program wrote around the same picture says the same.
-    const QByteArray file = bytesOf(imageFile(u"colour.jp2"_s));
-    const QByteArray colorBox = QByteArray("colr\1\0\0\0\0\0\x10", 11);
-    QVERIFY(file.contains(colorBox));
-    QVERIFY(image.data.contains(colorBox));
-    const auto header = file.mid(file.indexOf("ihdr"), 18);
-    QCOMPARE(image.data.mid(image.data.indexOf("ihdr"), 18), header);
-}
+    void reversedBitsOfGroup4AreTurned() {
+        const PdfImage turned = toPdfImage(imageFile(u"bilevel-lsb.tif"_s));
+        const PdfImage plain = toPdfImage(imageFile(u"bilevel-g4.tif"_s));
+        QCOMPARE(turned.data, dataOf(plain));
+    }
 
-void OwnBytesTest::jpeg2000InsideAnIconIsSplit() {
-    const PdfImage image = toPdfImage(imageFile(u"jp2.icns"_s));
-    QCOMPARE(image.filter, ImageFilter::Flate);
-    QVERIFY(image.softMask != nullptr);
-}
+    void manyStripsAreEncodedAgain() {
+        const PdfImage image = toPdfImage(imageFile(u"bilevel-strips.tif"_s));
+        QCOMPARE(image.embeddedAs, EmbeddedAs::Recompressed);
+        QVERIFY(image.slices.empty());
+        QCOMPARE(image.filter, ImageFilter::CcittFax);
+    }
+
+    void codestreamGetsTheBoxesOfAFile() {
+        const QByteArray codestream = bytesOf(imageFile(u"codestream.jp2"_s));
+        QVERIFY(codestream.startsWith("\xFF\x4F"));
+        const PdfImage image = toPdfImage(imageFile(u"codestream.jp2"_s));
+        QCOMPARE(image.filter, ImageFilter::Jpx);
+        QVERIFY(image.data.endsWith(codestream));
+        // Colour space 16 is sRGB; what another program wrote around the same picture says the
+        // same.
+        const QByteArray file = bytesOf(imageFile(u"colour.jp2"_s));
+        const QByteArray colorBox = QByteArray("colr\1\0\0\0\0\0\x10", 11);
+        QVERIFY(file.contains(colorBox));
+        QVERIFY(image.data.contains(colorBox));
+        const auto header = file.mid(file.indexOf("ihdr"), 18);
+        QCOMPARE(image.data.mid(image.data.indexOf("ihdr"), 18), header);
+    }
+
+    void jpeg2000InsideAnIconIsSplit() {
+        const PdfImage image = toPdfImage(imageFile(u"jp2.icns"_s));
+        QCOMPARE(image.filter, ImageFilter::Flate);
+        QVERIFY(image.softMask != nullptr);
+    }
+};
 
 FOLIOFORGE_TEST(OwnBytesTest)
 #include "OwnBytesTest.moc"

@@ -12,17 +12,85 @@ using namespace folioforge;
 using namespace folioforge::test;
 
 /// Photoshop documents byte by byte.
+
+namespace {
+
+template<typename T> QByteArray bigEndian(T number) {
+    QByteArray bytes(sizeof(T), '\0');
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+} // namespace
+
 class PsdTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void bitmapStaysOneBitAndBlackIsOne();
-    void inkIsStoredInverted();
-    void resolutionAndProfileAreRead();
-    void labKeepsThreeComponents();
-    void brightnessOf32BitsBecomes16();
-    void fourthChannelIsOpacity();
-    void namedChannelIsNoOpacity();
+    void bitmapStaysOneBitAndBlackIsOne() {
+        const PdfImage image =
+            toPdfImage(psd({1, 9, 2, 1, 0, {}, QByteArray::fromHex("80004080")}));
+        QCOMPARE(image.bitsPerComponent, 1);
+        const QImage picture = decoded(image);
+        QCOMPARE(qGray(picture.pixel(0, 0)), 0);
+        QCOMPARE(qGray(picture.pixel(1, 0)), 255);
+        QCOMPARE(qGray(picture.pixel(1, 1)), 0);
+        QCOMPARE(qGray(picture.pixel(8, 1)), 0);
+    }
+
+    void inkIsStoredInverted() {
+        const PdfImage image =
+            toPdfImage(psd({4, 1, 1, 8, 4, {}, QByteArray::fromHex("ff80ffff")}));
+        QCOMPARE(image.color, ImageColor::Cmyk);
+        QCOMPARE(image.decode, (std::vector<double>{1, 0, 1, 0, 1, 0, 1, 0}));
+    }
+
+    void resolutionAndProfileAreRead() {
+        const QByteArray resolution = bigEndian(quint32(300 << 16)) + bigEndian(quint16(2)) +
+                                      bigEndian(quint16(1)) + bigEndian(quint32(150 << 16)) +
+                                      bigEndian(quint16(1)) + bigEndian(quint16(1));
+        QByteArray profile(130, '\0');
+        profile.replace(0, 4, bigEndian(quint32(130)));
+        profile.replace(16, 4, "GRAY").replace(36, 4, "acsp").replace(12, 4, "mntr");
+        const QString path =
+            psd({1, 2, 1, 8, 1, resource(1005, resolution) + resource(1039, profile), "\1\2"});
+        QCOMPARE(readImageHeader(path).horizontalDpi, 300.0);
+        QCOMPARE(readImageHeader(path).verticalDpi, 150.0);
+        QCOMPARE(toPdfImage(path).iccProfile, profile);
+    }
+
+    void labKeepsThreeComponents() {
+        const PdfImage image = toPdfImage(psd({3, 1, 1, 8, 9, {}, QByteArray::fromHex("ff807b")}));
+        QCOMPARE(image.color, ImageColor::Lab);
+        QCOMPARE(unzipped(image.data).last(3), QByteArray::fromHex("ff807b"));
+    }
+
+    void brightnessOf32BitsBecomes16() {
+        const auto light = [](float value) { return bigEndian(std::bit_cast<quint32>(value)); };
+        const PdfImage image =
+            toPdfImage(psd({1, 3, 1, 32, 1, {}, light(0) + light(0.5F) + light(7)}));
+        QCOMPARE(image.bitsPerComponent, 16);
+        const QImage picture = decoded(image).convertToFormat(QImage::Format_Grayscale16);
+        const auto *samples = reinterpret_cast<const quint16 *>(picture.constScanLine(0));
+        QCOMPARE(samples[0], quint16(0));
+        // Half the light is 0.7354 in sRGB.
+        QVERIFY(qAbs(samples[1] - 48192) <= 2);
+        QCOMPARE(samples[2], quint16(65535));
+    }
+
+    void fourthChannelIsOpacity() {
+        const QByteArray pixels = QByteArray::fromHex("0a0b141528296480");
+        const PdfImage image = toPdfImage(psd({4, 2, 1, 8, 3, {}, pixels}));
+        QVERIFY(image.softMask != nullptr);
+        QCOMPARE(qGray(decoded(*image.softMask).pixel(1, 0)), 0x80);
+        QCOMPARE(decoded(image).pixel(0, 0), qRgb(10, 20, 40));
+    }
+
+    void namedChannelIsNoOpacity() {
+        const QByteArray pixels = QByteArray::fromHex("0a0b141528296480");
+        QVERIFY(toPdfImage(psd({4, 2, 1, 8, 3, resource(1006, "\5Spots"), pixels})).softMask ==
+                nullptr);
+    }
 
   private:
     QTemporaryDir m_folder;
@@ -36,96 +104,22 @@ class PsdTest : public QObject {
         QByteArray resources;
         QByteArray pixels;
     };
-    QString psd(const Parts &parts);
-    static QByteArray resource(int id, const QByteArray &data);
+
+    QString psd(const Parts &parts) {
+        QByteArray bytes = "8BPS" + bigEndian(quint16(1)) + QByteArray(6, '\0') +
+                           bigEndian(quint16(parts.channels)) + bigEndian(quint32(parts.height)) +
+                           bigEndian(quint32(parts.width)) + bigEndian(quint16(parts.depth)) +
+                           bigEndian(quint16(parts.mode)) + bigEndian(quint32(0));
+        bytes += bigEndian(quint32(parts.resources.size())) + parts.resources;
+        bytes += bigEndian(quint32(0)) + bigEndian(quint16(0)) + parts.pixels;
+        return writeFile(m_folder.filePath(u"picture.psd"_s), bytes);
+    }
+
+    static QByteArray resource(int id, const QByteArray &data) {
+        return "8BIM" + bigEndian(quint16(id)) + QByteArray(2, '\0') +
+               bigEndian(quint32(data.size())) + data + QByteArray(data.size() % 2, '\0');
+    }
 };
-
-namespace {
-
-template<typename T> QByteArray bigEndian(T number) {
-    QByteArray bytes(sizeof(T), '\0');
-    qToBigEndian(number, bytes.data());
-    return bytes;
-}
-
-} // namespace
-
-QString PsdTest::psd(const Parts &parts) {
-    QByteArray bytes = "8BPS" + bigEndian(quint16(1)) + QByteArray(6, '\0') +
-                       bigEndian(quint16(parts.channels)) + bigEndian(quint32(parts.height)) +
-                       bigEndian(quint32(parts.width)) + bigEndian(quint16(parts.depth)) +
-                       bigEndian(quint16(parts.mode)) + bigEndian(quint32(0));
-    bytes += bigEndian(quint32(parts.resources.size())) + parts.resources;
-    bytes += bigEndian(quint32(0)) + bigEndian(quint16(0)) + parts.pixels;
-    return writeFile(m_folder.filePath(u"picture.psd"_s), bytes);
-}
-
-QByteArray PsdTest::resource(int id, const QByteArray &data) {
-    return "8BIM" + bigEndian(quint16(id)) + QByteArray(2, '\0') + bigEndian(quint32(data.size())) +
-           data + QByteArray(data.size() % 2, '\0');
-}
-
-void PsdTest::bitmapStaysOneBitAndBlackIsOne() {
-    const PdfImage image = toPdfImage(psd({1, 9, 2, 1, 0, {}, QByteArray::fromHex("80004080")}));
-    QCOMPARE(image.bitsPerComponent, 1);
-    const QImage picture = decoded(image);
-    QCOMPARE(qGray(picture.pixel(0, 0)), 0);
-    QCOMPARE(qGray(picture.pixel(1, 0)), 255);
-    QCOMPARE(qGray(picture.pixel(1, 1)), 0);
-    QCOMPARE(qGray(picture.pixel(8, 1)), 0);
-}
-
-void PsdTest::inkIsStoredInverted() {
-    const PdfImage image = toPdfImage(psd({4, 1, 1, 8, 4, {}, QByteArray::fromHex("ff80ffff")}));
-    QCOMPARE(image.color, ImageColor::Cmyk);
-    QCOMPARE(image.decode, (std::vector<double>{1, 0, 1, 0, 1, 0, 1, 0}));
-}
-
-void PsdTest::resolutionAndProfileAreRead() {
-    const QByteArray resolution = bigEndian(quint32(300 << 16)) + bigEndian(quint16(2)) +
-                                  bigEndian(quint16(1)) + bigEndian(quint32(150 << 16)) +
-                                  bigEndian(quint16(1)) + bigEndian(quint16(1));
-    QByteArray profile(130, '\0');
-    profile.replace(0, 4, bigEndian(quint32(130)));
-    profile.replace(16, 4, "GRAY").replace(36, 4, "acsp").replace(12, 4, "mntr");
-    const QString path =
-        psd({1, 2, 1, 8, 1, resource(1005, resolution) + resource(1039, profile), "\1\2"});
-    QCOMPARE(readImageHeader(path).horizontalDpi, 300.0);
-    QCOMPARE(readImageHeader(path).verticalDpi, 150.0);
-    QCOMPARE(toPdfImage(path).iccProfile, profile);
-}
-
-void PsdTest::labKeepsThreeComponents() {
-    const PdfImage image = toPdfImage(psd({3, 1, 1, 8, 9, {}, QByteArray::fromHex("ff807b")}));
-    QCOMPARE(image.color, ImageColor::Lab);
-    QCOMPARE(unzipped(image.data).last(3), QByteArray::fromHex("ff807b"));
-}
-
-void PsdTest::brightnessOf32BitsBecomes16() {
-    const auto light = [](float value) { return bigEndian(std::bit_cast<quint32>(value)); };
-    const PdfImage image = toPdfImage(psd({1, 3, 1, 32, 1, {}, light(0) + light(0.5F) + light(7)}));
-    QCOMPARE(image.bitsPerComponent, 16);
-    const QImage picture = decoded(image).convertToFormat(QImage::Format_Grayscale16);
-    const auto *samples = reinterpret_cast<const quint16 *>(picture.constScanLine(0));
-    QCOMPARE(samples[0], quint16(0));
-    // Half the light is 0.7354 in sRGB.
-    QVERIFY(qAbs(samples[1] - 48192) <= 2);
-    QCOMPARE(samples[2], quint16(65535));
-}
-
-void PsdTest::fourthChannelIsOpacity() {
-    const QByteArray pixels = QByteArray::fromHex("0a0b141528296480");
-    const PdfImage image = toPdfImage(psd({4, 2, 1, 8, 3, {}, pixels}));
-    QVERIFY(image.softMask != nullptr);
-    QCOMPARE(qGray(decoded(*image.softMask).pixel(1, 0)), 0x80);
-    QCOMPARE(decoded(image).pixel(0, 0), qRgb(10, 20, 40));
-}
-
-void PsdTest::namedChannelIsNoOpacity() {
-    const QByteArray pixels = QByteArray::fromHex("0a0b141528296480");
-    QVERIFY(toPdfImage(psd({4, 2, 1, 8, 3, resource(1006, "\5Spots"), pixels})).softMask ==
-            nullptr);
-}
 
 FOLIOFORGE_TEST(PsdTest)
 #include "PsdTest.moc"

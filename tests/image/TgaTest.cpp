@@ -13,14 +13,70 @@ class TgaTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void rowsOfEveryOriginComeOutUpright_data();
-    void rowsOfEveryOriginComeOutUpright();
-    void runsMayCrossRows();
-    void colorMapGivesColors();
-    void greyStaysGrey();
-    void fiveBitColorsAreWidened();
-    void opacityCountsOnlyWhereItIsDeclared();
-    void cutFileIsRefused();
+    void rowsOfEveryOriginComeOutUpright_data() {
+        QTest::addColumn<int>("descriptor");
+        QTest::addColumn<QByteArray>("pixels");
+        // Blue, green, red of each pixel; the picture's blues are 1 2 3 over 4 5 6.
+        QTest::newRow("top left") << 0x20 << QByteArray("\1\0\0\2\0\0\3\0\0\4\0\0\5\0\0\6\0\0", 18);
+        QTest::newRow("bottom left") << 0 << QByteArray("\4\0\0\5\0\0\6\0\0\1\0\0\2\0\0\3\0\0", 18);
+        QTest::newRow("top right")
+            << 0x30 << QByteArray("\3\0\0\2\0\0\1\0\0\6\0\0\5\0\0\4\0\0", 18);
+        QTest::newRow("bottom right")
+            << 0x10 << QByteArray("\6\0\0\5\0\0\4\0\0\3\0\0\2\0\0\1\0\0", 18);
+    }
+
+    void rowsOfEveryOriginComeOutUpright() {
+        QFETCH(int, descriptor);
+        QFETCH(QByteArray, pixels);
+        const PdfImage image = toPdfImage(tga("00020000000000", 24, descriptor, pixels));
+        QCOMPARE(rgbRows(image), QByteArray("\0\0\1\0\0\2\0\0\3\0\0\4\0\0\5\0\0\6", 18));
+        QVERIFY(image.softMask == nullptr);
+    }
+
+    void runsMayCrossRows() {
+        const QByteArray runs = QByteArray::fromHex("84010203"   // Five of one colour,
+                                                    "00040506"); // one of another.
+        const PdfImage image = toPdfImage(tga("000a0000000000", 24, 0x20, runs));
+        QCOMPARE(rgbRows(image), QByteArray::fromHex("030201030201030201030201030201060504"));
+    }
+
+    void colorMapGivesColors() {
+        // Two entries, the first being number 1.
+        const QByteArray rest = QByteArray::fromHex("0000ff00ff00") + QByteArray("\1\2\1\2\1\2", 6);
+        const PdfImage image = toPdfImage(tga("01010100020018", 8, 0x20, rest));
+        QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff00ff000000ff00ff000000ff00"));
+    }
+
+    void greyStaysGrey() {
+        const PdfImage image =
+            toPdfImage(tga("00030000000000", 8, 0x20, QByteArray::fromHex("000a141e28ff")));
+        QCOMPARE(image.color, ImageColor::Gray);
+        QCOMPARE(qGray(decoded(image).pixel(2, 1)), 255);
+        QCOMPARE(qGray(decoded(image).pixel(1, 0)), 10);
+    }
+
+    void fiveBitColorsAreWidened() {
+        const PdfImage image = toPdfImage(
+            tga("00020000000000", 16, 0x20, QByteArray::fromHex("007ce0031f00ff7f00000042")));
+        QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff000000ffffffff000000848400"));
+    }
+
+    void opacityCountsOnlyWhereItIsDeclared() {
+        const QByteArray pixels =
+            QByteArray::fromHex("010203ff0102038001020300010203ff010203ff010203ff");
+        QVERIFY(toPdfImage(tga("00020000000000", 32, 0x20, pixels)).softMask == nullptr);
+        const PdfImage image = toPdfImage(tga("00020000000000", 32, 0x28, pixels));
+        QVERIFY(image.softMask != nullptr);
+        QCOMPARE(qGray(decoded(*image.softMask).pixel(1, 0)), 0x80);
+        QCOMPARE(qGray(decoded(*image.softMask).pixel(2, 0)), 0);
+    }
+
+    void cutFileIsRefused() {
+        QCOMPARE(refusalOf(tga("00020000000000", 24, 0x20, QByteArray(17, '\1'))),
+                 u"The file ends too early"_s);
+        QCOMPARE(refusalOf(tga("000a0000000000", 24, 0x20, QByteArray::fromHex("84010203"))),
+                 u"The file ends too early"_s);
+    }
 
   private:
     QTemporaryDir m_folder;
@@ -33,69 +89,6 @@ class TgaTest : public QObject {
         return writeFile(m_folder.filePath(u"picture.tga"_s), bytes + rest);
     }
 };
-
-void TgaTest::rowsOfEveryOriginComeOutUpright_data() {
-    QTest::addColumn<int>("descriptor");
-    QTest::addColumn<QByteArray>("pixels");
-    // Blue, green, red of each pixel; the picture's blues are 1 2 3 over 4 5 6.
-    QTest::newRow("top left") << 0x20 << QByteArray("\1\0\0\2\0\0\3\0\0\4\0\0\5\0\0\6\0\0", 18);
-    QTest::newRow("bottom left") << 0 << QByteArray("\4\0\0\5\0\0\6\0\0\1\0\0\2\0\0\3\0\0", 18);
-    QTest::newRow("top right") << 0x30 << QByteArray("\3\0\0\2\0\0\1\0\0\6\0\0\5\0\0\4\0\0", 18);
-    QTest::newRow("bottom right") << 0x10 << QByteArray("\6\0\0\5\0\0\4\0\0\3\0\0\2\0\0\1\0\0", 18);
-}
-
-void TgaTest::rowsOfEveryOriginComeOutUpright() {
-    QFETCH(int, descriptor);
-    QFETCH(QByteArray, pixels);
-    const PdfImage image = toPdfImage(tga("00020000000000", 24, descriptor, pixels));
-    QCOMPARE(rgbRows(image), QByteArray("\0\0\1\0\0\2\0\0\3\0\0\4\0\0\5\0\0\6", 18));
-    QVERIFY(image.softMask == nullptr);
-}
-
-void TgaTest::runsMayCrossRows() {
-    const QByteArray runs = QByteArray::fromHex("84010203"   // Five of one colour,
-                                                "00040506"); // one of another.
-    const PdfImage image = toPdfImage(tga("000a0000000000", 24, 0x20, runs));
-    QCOMPARE(rgbRows(image), QByteArray::fromHex("030201030201030201030201030201060504"));
-}
-
-void TgaTest::colorMapGivesColors() {
-    // Two entries, the first being number 1.
-    const QByteArray rest = QByteArray::fromHex("0000ff00ff00") + QByteArray("\1\2\1\2\1\2", 6);
-    const PdfImage image = toPdfImage(tga("01010100020018", 8, 0x20, rest));
-    QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff00ff000000ff00ff000000ff00"));
-}
-
-void TgaTest::greyStaysGrey() {
-    const PdfImage image =
-        toPdfImage(tga("00030000000000", 8, 0x20, QByteArray::fromHex("000a141e28ff")));
-    QCOMPARE(image.color, ImageColor::Gray);
-    QCOMPARE(qGray(decoded(image).pixel(2, 1)), 255);
-    QCOMPARE(qGray(decoded(image).pixel(1, 0)), 10);
-}
-
-void TgaTest::fiveBitColorsAreWidened() {
-    const PdfImage image = toPdfImage(
-        tga("00020000000000", 16, 0x20, QByteArray::fromHex("007ce0031f00ff7f00000042")));
-    QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff000000ffffffff000000848400"));
-}
-
-void TgaTest::opacityCountsOnlyWhereItIsDeclared() {
-    const QByteArray pixels =
-        QByteArray::fromHex("010203ff0102038001020300010203ff010203ff010203ff");
-    QVERIFY(toPdfImage(tga("00020000000000", 32, 0x20, pixels)).softMask == nullptr);
-    const PdfImage image = toPdfImage(tga("00020000000000", 32, 0x28, pixels));
-    QVERIFY(image.softMask != nullptr);
-    QCOMPARE(qGray(decoded(*image.softMask).pixel(1, 0)), 0x80);
-    QCOMPARE(qGray(decoded(*image.softMask).pixel(2, 0)), 0);
-}
-
-void TgaTest::cutFileIsRefused() {
-    QCOMPARE(refusalOf(tga("00020000000000", 24, 0x20, QByteArray(17, '\1'))),
-             u"The file ends too early"_s);
-    QCOMPARE(refusalOf(tga("000a0000000000", 24, 0x20, QByteArray::fromHex("84010203"))),
-             u"The file ends too early"_s);
-}
 
 FOLIOFORGE_TEST(TgaTest)
 #include "TgaTest.moc"

@@ -15,26 +15,6 @@ using namespace folioforge;
 using namespace folioforge::test;
 
 /// TIFF files that libtiff writes.
-class TiffTest : public QObject {
-    Q_OBJECT
-
-  private Q_SLOTS:
-    void floatingPointBecomesSixteenBits();
-    void opacityIsTakenOutOfTheColorsItMultiplies();
-    void subsampledColorBecomesRgb();
-    void orientationIsRead();
-    void resolutionUnitsAreHeeded_data();
-    void resolutionUnitsAreHeeded();
-    void labOfSixteenBitsCountsIn256ths();
-    void shortDataIsRefused();
-
-  private:
-    QTemporaryDir m_folder;
-
-    /// One strip of `data`; `setUp` adds what the picture needs.
-    template<typename SetUp>
-    QString tiff(int width, int height, QByteArray data, const SetUp &setUp);
-};
 
 namespace {
 
@@ -54,116 +34,126 @@ template<typename T> QByteArray bytesOfValues(const std::vector<T> &values) {
 
 } // namespace
 
-template<typename SetUp>
-QString TiffTest::tiff(int width, int height, QByteArray data, const SetUp &setUp) {
-    QString path = m_folder.filePath(u"picture.tif"_s);
-    const std::unique_ptr<TIFF, Close> tif(TIFFOpen(QFile::encodeName(path).constData(), "w"));
-    TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, width);
-    TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, height);
-    TIFFSetField(tif.get(), TIFFTAG_ROWSPERSTRIP, height);
-    TIFFSetField(tif.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
-    TIFFSetField(tif.get(), TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
-    setUp(tif.get());
-    TIFFWriteRawStrip(tif.get(), 0, data.data(), data.size());
-    return path;
-}
+class TiffTest : public QObject {
+    Q_OBJECT
 
-void TiffTest::floatingPointBecomesSixteenBits() {
-    const QString path = tiff(4, 1, bytesOfValues<float>({0, 0.25F, 1, 7}), [](TIFF *tif) {
-        setSamples(tif, 1, 32, PHOTOMETRIC_MINISBLACK);
-        TIFFSetField(tif, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_IEEEFP);
-    });
-    const PdfImage image = toPdfImage(path);
-    QCOMPARE(image.bitsPerComponent, 16);
-    QCOMPARE(image.color, ImageColor::Gray);
-    const QImage picture = decoded(image).convertToFormat(QImage::Format_Grayscale16);
-    const auto *samples = reinterpret_cast<const quint16 *>(picture.constScanLine(0));
-    QCOMPARE(samples[0], quint16(0));
-    QCOMPARE(samples[1], quint16(16384));
-    QCOMPARE(samples[2], quint16(65535));
-    QCOMPARE(samples[3], quint16(65535));
-}
+  private Q_SLOTS:
+    void floatingPointBecomesSixteenBits() {
+        const QString path = tiff(4, 1, bytesOfValues<float>({0, 0.25F, 1, 7}), [](TIFF *tif) {
+            setSamples(tif, 1, 32, PHOTOMETRIC_MINISBLACK);
+            TIFFSetField(tif, TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_IEEEFP);
+        });
+        const PdfImage image = toPdfImage(path);
+        QCOMPARE(image.bitsPerComponent, 16);
+        QCOMPARE(image.color, ImageColor::Gray);
+        const QImage picture = decoded(image).convertToFormat(QImage::Format_Grayscale16);
+        const auto *samples = reinterpret_cast<const quint16 *>(picture.constScanLine(0));
+        QCOMPARE(samples[0], quint16(0));
+        QCOMPARE(samples[1], quint16(16384));
+        QCOMPARE(samples[2], quint16(65535));
+        QCOMPARE(samples[3], quint16(65535));
+    }
 
-void TiffTest::opacityIsTakenOutOfTheColorsItMultiplies() {
-    const QByteArray pixels = QByteArray::fromHex("40200080"
-                                                  "ff8000ff");
-    const QString path = tiff(2, 1, pixels, [](TIFF *tif) {
-        setSamples(tif, 4, 8, PHOTOMETRIC_RGB);
-        uint16_t kind = EXTRASAMPLE_ASSOCALPHA;
-        TIFFSetField(tif, TIFFTAG_EXTRASAMPLES, 1, &kind);
-    });
-    const PdfImage image = toPdfImage(path);
-    QVERIFY(image.softMask != nullptr);
-    QCOMPARE(qGray(decoded(*image.softMask).pixel(0, 0)), 128);
-    QCOMPARE(decoded(image).pixel(0, 0), qRgb(128, 64, 0)); // 64 and 32 of 128.
-    QCOMPARE(decoded(image).pixel(1, 0), qRgb(255, 128, 0));
-}
+    void opacityIsTakenOutOfTheColorsItMultiplies() {
+        const QByteArray pixels = QByteArray::fromHex("40200080"
+                                                      "ff8000ff");
+        const QString path = tiff(2, 1, pixels, [](TIFF *tif) {
+            setSamples(tif, 4, 8, PHOTOMETRIC_RGB);
+            uint16_t kind = EXTRASAMPLE_ASSOCALPHA;
+            TIFFSetField(tif, TIFFTAG_EXTRASAMPLES, 1, &kind);
+        });
+        const PdfImage image = toPdfImage(path);
+        QVERIFY(image.softMask != nullptr);
+        QCOMPARE(qGray(decoded(*image.softMask).pixel(0, 0)), 128);
+        QCOMPARE(decoded(image).pixel(0, 0), qRgb(128, 64, 0)); // 64 and 32 of 128.
+        QCOMPARE(decoded(image).pixel(1, 0), qRgb(255, 128, 0));
+    }
 
-void TiffTest::subsampledColorBecomesRgb() {
-    // Two by two pixels share one colour: four brightnesses, then Cb and Cr. A red, by JFIF.
-    const QByteArray block = QByteArray::fromHex("4c4c4c4c55ff");
-    const QString path = tiff(2, 2, block, [](TIFF *tif) {
-        setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR);
-        TIFFSetField(tif, TIFFTAG_YCBCRSUBSAMPLING, 2, 2);
-        const float limits[6] = {0, 255, 128, 255, 128, 255};
-        TIFFSetField(tif, TIFFTAG_REFERENCEBLACKWHITE, limits);
-    });
-    const QRgb color = decoded(toPdfImage(path)).pixel(1, 1);
-    QVERIFY2(qRed(color) >= 252 && qGreen(color) <= 3 && qBlue(color) <= 3,
-             qPrintable(QString::number(color, 16)));
-}
+    void subsampledColorBecomesRgb() {
+        // Two by two pixels share one colour: four brightnesses, then Cb and Cr. A red, by JFIF.
+        const QByteArray block = QByteArray::fromHex("4c4c4c4c55ff");
+        const QString path = tiff(2, 2, block, [](TIFF *tif) {
+            setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR);
+            TIFFSetField(tif, TIFFTAG_YCBCRSUBSAMPLING, 2, 2);
+            const float limits[6] = {0, 255, 128, 255, 128, 255};
+            TIFFSetField(tif, TIFFTAG_REFERENCEBLACKWHITE, limits);
+        });
+        const QRgb color = decoded(toPdfImage(path)).pixel(1, 1);
+        QVERIFY2(qRed(color) >= 252 && qGreen(color) <= 3 && qBlue(color) <= 3,
+                 qPrintable(QString::number(color, 16)));
+    }
 
-void TiffTest::orientationIsRead() {
-    const QString path = tiff(3, 1, "abc", [](TIFF *tif) {
-        setSamples(tif, 1, 8, PHOTOMETRIC_MINISBLACK);
-        TIFFSetField(tif, TIFFTAG_ORIENTATION, ORIENTATION_RIGHTTOP);
-    });
-    const ImageHeader header = readImageHeader(path);
-    QCOMPARE(header.orientation, 6);
-    QCOMPARE(header.width, 3); // The stored pixels; only the page is turned.
-    QCOMPARE(header.sizeInPoints(), QSizeF(1, 3));
-}
+    void orientationIsRead() {
+        const QString path = tiff(3, 1, "abc", [](TIFF *tif) {
+            setSamples(tif, 1, 8, PHOTOMETRIC_MINISBLACK);
+            TIFFSetField(tif, TIFFTAG_ORIENTATION, ORIENTATION_RIGHTTOP);
+        });
+        const ImageHeader header = readImageHeader(path);
+        QCOMPARE(header.orientation, 6);
+        QCOMPARE(header.width, 3); // The stored pixels; only the page is turned.
+        QCOMPARE(header.sizeInPoints(), QSizeF(1, 3));
+    }
 
-void TiffTest::resolutionUnitsAreHeeded_data() {
-    QTest::addColumn<int>("unit");
-    QTest::addColumn<double>("horizontal");
-    QTest::addColumn<double>("vertical");
-    QTest::newRow("inch") << int(RESUNIT_INCH) << 100.0 << 200.0;
-    QTest::newRow("centimetre") << int(RESUNIT_CENTIMETER) << 254.0 << 508.0;
-    QTest::newRow("none") << int(RESUNIT_NONE) << 72.0 << 72.0;
-}
+    void resolutionUnitsAreHeeded_data() {
+        QTest::addColumn<int>("unit");
+        QTest::addColumn<double>("horizontal");
+        QTest::addColumn<double>("vertical");
+        QTest::newRow("inch") << int(RESUNIT_INCH) << 100.0 << 200.0;
+        QTest::newRow("centimetre") << int(RESUNIT_CENTIMETER) << 254.0 << 508.0;
+        QTest::newRow("none") << int(RESUNIT_NONE) << 72.0 << 72.0;
+    }
 
-void TiffTest::resolutionUnitsAreHeeded() {
-    QFETCH(int, unit);
-    QFETCH(double, horizontal);
-    QFETCH(double, vertical);
-    const QString path = tiff(3, 1, "abc", [&](TIFF *tif) {
-        setSamples(tif, 1, 8, PHOTOMETRIC_MINISBLACK);
-        TIFFSetField(tif, TIFFTAG_RESOLUTIONUNIT, unit);
-        TIFFSetField(tif, TIFFTAG_XRESOLUTION, 100.0);
-        TIFFSetField(tif, TIFFTAG_YRESOLUTION, 200.0);
-    });
-    QCOMPARE(readImageHeader(path).horizontalDpi, horizontal);
-    QCOMPARE(readImageHeader(path).verticalDpi, vertical);
-}
+    void resolutionUnitsAreHeeded() {
+        QFETCH(int, unit);
+        QFETCH(double, horizontal);
+        QFETCH(double, vertical);
+        const QString path = tiff(3, 1, "abc", [&](TIFF *tif) {
+            setSamples(tif, 1, 8, PHOTOMETRIC_MINISBLACK);
+            TIFFSetField(tif, TIFFTAG_RESOLUTIONUNIT, unit);
+            TIFFSetField(tif, TIFFTAG_XRESOLUTION, 100.0);
+            TIFFSetField(tif, TIFFTAG_YRESOLUTION, 200.0);
+        });
+        QCOMPARE(readImageHeader(path).horizontalDpi, horizontal);
+        QCOMPARE(readImageHeader(path).verticalDpi, vertical);
+    }
 
-void TiffTest::labOfSixteenBitsCountsIn256ths() {
-    const QString path = tiff(1, 1, bytesOfValues<quint16>({0xFFFF, 0, 0x8000}),
-                              [](TIFF *tif) { setSamples(tif, 3, 16, PHOTOMETRIC_CIELAB); });
-    const PdfImage image = toPdfImage(path);
-    QCOMPARE(unzipped(image.data).last(6), QByteArray::fromHex("ffff80000000"));
-    // By the Decode array, a sample of 0x8000 is no colour at all and 0 is -128.
-    QCOMPARE(image.decode.size(), size_t(6));
-    const double neutral = image.decode[2] + 0x8000 / 65535.0 * (image.decode[3] - image.decode[2]);
-    QVERIFY(qAbs(neutral) < 0.002);
-    QCOMPARE(image.decode[2], -128.0);
-}
+    void labOfSixteenBitsCountsIn256ths() {
+        const QString path = tiff(1, 1, bytesOfValues<quint16>({0xFFFF, 0, 0x8000}),
+                                  [](TIFF *tif) { setSamples(tif, 3, 16, PHOTOMETRIC_CIELAB); });
+        const PdfImage image = toPdfImage(path);
+        QCOMPARE(unzipped(image.data).last(6), QByteArray::fromHex("ffff80000000"));
+        // By the Decode array, a sample of 0x8000 is no colour at all and 0 is -128.
+        QCOMPARE(image.decode.size(), size_t(6));
+        const double neutral =
+            image.decode[2] + 0x8000 / 65535.0 * (image.decode[3] - image.decode[2]);
+        QVERIFY(qAbs(neutral) < 0.002);
+        QCOMPARE(image.decode[2], -128.0);
+    }
 
-void TiffTest::shortDataIsRefused() {
-    const QString path = tiff(20000, 20000, QByteArray(2000, 'x'),
-                              [](TIFF *tif) { setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR); });
-    QCOMPARE(refusalOf(path), u"The file is too short for the image its header describes"_s);
-}
+    void shortDataIsRefused() {
+        const QString path = tiff(20000, 20000, QByteArray(2000, 'x'),
+                                  [](TIFF *tif) { setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR); });
+        QCOMPARE(refusalOf(path), u"The file is too short for the image its header describes"_s);
+    }
+
+  private:
+    QTemporaryDir m_folder;
+
+    /// One strip of `data`; `setUp` adds what the picture needs.
+    template<typename SetUp>
+    QString tiff(int width, int height, QByteArray data, const SetUp &setUp) {
+        QString path = m_folder.filePath(u"picture.tif"_s);
+        const std::unique_ptr<TIFF, Close> tif(TIFFOpen(QFile::encodeName(path).constData(), "w"));
+        TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, width);
+        TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, height);
+        TIFFSetField(tif.get(), TIFFTAG_ROWSPERSTRIP, height);
+        TIFFSetField(tif.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
+        TIFFSetField(tif.get(), TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+        setUp(tif.get());
+        TIFFWriteRawStrip(tif.get(), 0, data.data(), data.size());
+        return path;
+    }
+};
 
 FOLIOFORGE_TEST(TiffTest)
 #include "TiffTest.moc"
