@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/Notice.h"
+#include "error/Notice.h"
 
 #include <QByteArray>
 #include <QString>

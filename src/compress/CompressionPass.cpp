@@ -12,7 +12,7 @@
 #include "pdf/DocumentWriter.h"
 #include "pdf/PDFContext.h"
 #include "pdf/Password.h"
-#include "pdf/QpdfBorder.h"
+#include "pdf/QpdfErrors.h"
 #include "pdf/import/SourceInput.h"
 
 #include <QFile>
@@ -186,7 +186,7 @@ CompressionOutcome compress(const QString &path, const CompressionOptions &optio
     CompressionOptions stoppable = options;
     stoppable.calls = calls;
     try {
-        atQpdfBorder([&] { compressInto(path, stoppable, endPageWrite, outcome); });
+        translateQpdfErrors([&] { compressInto(path, stoppable, endPageWrite, outcome); });
     } catch (const Error &error) {
         outcome.error = options.stop.stop_requested() ? stopped() : error.reason();
     }

@@ -1,6 +1,6 @@
 #include "compress/ReducedStreams.h"
 
-#include "pdf/QpdfBorder.h"
+#include "pdf/QpdfErrors.h"
 
 #include <memory>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "files/PartFiles.h"
-#include "pdf/OutputPipeline.h"
+#include "pdf/DocumentWriter.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "convert/ConversionOptions.h"
-#include "text/Notice.h"
+#include "error/Notice.h"
 
 #include <optional>
 

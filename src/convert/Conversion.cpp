@@ -2,7 +2,6 @@
 
 #include "convert/PageWriters.h"
 #include "error/Error.h"
-#include "error/Memory.h"
 #include "filelist/FileKind.h"
 #include "files/SystemCalls.h"
 

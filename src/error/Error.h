@@ -26,4 +26,9 @@ class Error : public std::exception {
     QByteArray m_bytes;
 };
 
+/// What std::bad_alloc becomes in words, where it ends.
+inline Error notEnoughMemory() {
+    return Error(QStringLiteral("There is not enough memory"));
+}
+
 } // namespace folioforge

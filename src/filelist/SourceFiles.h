@@ -1,7 +1,7 @@
 #pragma once
 
+#include "error/Notice.h"
 #include "filelist/FileKind.h"
-#include "text/Notice.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,7 +1,6 @@
 #include "filelist/TextSource.h"
 
 #include "error/Error.h"
-#include "error/Memory.h"
 #include "files/SourceFile.h"
 #include "text/TextDecoder.h"
 

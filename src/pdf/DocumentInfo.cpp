@@ -1,10 +1,6 @@
 #include "pdf/DocumentInfo.h"
 
-#include "pdf/PDFContext.h"
-
 #include <qpdf/QPDF.hh>
-
-#include <QDateTime>
 
 #include <cstdlib>
 
@@ -28,13 +24,15 @@ QString pdfDate(const QDateTime &date) {
         .arg(minutes % 60, 2, 10, QLatin1Char('0'));
 }
 
-} // namespace
-
+/// SOURCE_DATE_EPOCH where the environment has it, so that a document can be made again byte for
+/// byte; else now.
 QDateTime documentDate() {
     bool given = false;
     const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&given);
     return given ? QDateTime::fromSecsSinceEpoch(seconds).toUTC() : QDateTime::currentDateTime();
 }
+
+} // namespace
 
 void writeDocumentInfo(QPDF &document, const DocumentInfo &info) {
     auto dictionary = QPDFObjectHandle::newDictionary();

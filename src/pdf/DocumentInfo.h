@@ -1,19 +1,24 @@
 #pragma once
 
+#include <QDateTime>
+#include <QString>
+
 class QPDF;
-class QString;
-class QDateTime;
 
 namespace folioforge {
 
-struct DocumentInfo;
+/// Document information; every field is written, empty or not. The creator is always
+/// "Vesprin-Folioforge".
+struct DocumentInfo {
+    QString title;
+    QString author;
+    QString subject;
+    QString keywords;
+    QDateTime created; ///< The creation date; where it is invalid, SOURCE_DATE_EPOCH (seconds
+                       ///< since 1970, UTC), else now.
+};
 
-/// Writes the document information: title, author, subject and keywords, empty or not, creator,
-/// producer and `created`, or documentDate() where that is invalid.
+/// Writes the document information into `document`.
 void writeDocumentInfo(QPDF &document, const DocumentInfo &info);
-
-/// The date that new documents carry: SOURCE_DATE_EPOCH (seconds since 1970, UTC) where the
-/// environment has it, so that a document can be made again byte for byte; else now.
-QDateTime documentDate();
 
 } // namespace folioforge

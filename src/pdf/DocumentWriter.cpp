@@ -1,9 +1,7 @@
 #include "pdf/DocumentWriter.h"
 
-#include "pdf/OutputPipeline.h"
-#include "pdf/PDFContext.h"
 #include "pdf/Password.h"
-#include "pdf/QpdfBorder.h"
+#include "pdf/QpdfErrors.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -79,6 +77,28 @@ void replaceId(QPDF &document, OutputFile &file, std::uint32_t checksum) {
 
 } // namespace
 
+OutputPipeline::OutputPipeline(OutputFile &file)
+    : Pipeline("output", nullptr)
+    , m_file(file) {}
+
+void OutputPipeline::write(unsigned char const *data, size_t length) {
+    if (m_failure) {
+        return;
+    }
+    m_checksum = libdeflate_crc32(m_checksum, data, length);
+    try {
+        m_file.write({reinterpret_cast<const char *>(data), length});
+    } catch (const Error &error) {
+        m_failure = error;
+    }
+}
+
+void OutputPipeline::throwFailure() const {
+    if (m_failure) {
+        throw Error(*m_failure);
+    }
+}
+
 void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
     const PreparedPasswords passwords = preparedPasswords(encryption);
     const bool allowed = true;
@@ -91,7 +111,7 @@ void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
                    const std::string &minimumVersion) {
     OutputPipeline pipeline(file);
-    atQpdfBorder([&] {
+    translateQpdfErrors([&] {
         QPDFWriter writer(document);
         writer.setOutputPipeline(&pipeline);
         writer.setObjectStreamMode(qpdf_o_generate);

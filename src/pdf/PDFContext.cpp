@@ -7,7 +7,7 @@
 #include "pdf/DocumentWriter.h"
 #include "pdf/ImageEmbedder.h"
 #include "pdf/OrientedMatrix.h"
-#include "pdf/QpdfBorder.h"
+#include "pdf/QpdfErrors.h"
 #include "pdf/StreamData.h"
 #include "pdf/TextContent.h"
 #include "pdf/fonts/FontEmbedder.h"
@@ -214,7 +214,7 @@ void PDFContext::Impl::drawImage(const QRectF &rect, const PdfImage &image, int 
 }
 
 int PDFContext::Impl::addDocument(const QString &sourcePath) {
-    return atQpdfBorder([&] {
+    return translateQpdfErrors([&] {
         m_reader->beginAnew(); // A source that failed may have left its file open.
         const FileVersion file = FileVersion::of(sourcePath);
         const std::string key = file.key();
@@ -233,7 +233,7 @@ int PDFContext::Impl::addDocument(const QString &sourcePath) {
 }
 
 void PDFContext::Impl::finishDocument() {
-    atQpdfBorder([&] {
+    translateQpdfErrors([&] {
         for (const auto &fonts : m_fonts) {
             fonts->embed();
         }
@@ -265,10 +265,10 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         // What is read from now on must come from files that are still what they were.
         m_reader->beginAnew();
         OutputFile file(m_path, m_settings.calls);
-        atQpdfBorder([&] { requireRoomForStream(m_longestStream); });
+        translateQpdfErrors([&] { requireRoomForStream(m_longestStream); });
         writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.pdfVersion());
         m_reader->finish();
-        atQpdfBorder([&] { requireAllObjects(m_document, *m_reader); });
+        translateQpdfErrors([&] { requireAllObjects(m_document, *m_reader); });
         file.finish(m_settings.flush);
         return publish(file, nextPath);
     } catch (const Error &error) {
@@ -297,15 +297,15 @@ void PDFContext::setFont(std::shared_ptr<const FontCascade> font, double size) {
 }
 
 void PDFContext::showGlyphsAtPoint(double x, double y, std::span<const Glyph> glyphs) {
-    atQpdfBorder([&] { m_impl->showGlyphs(x, y, glyphs); });
+    translateQpdfErrors([&] { m_impl->showGlyphs(x, y, glyphs); });
 }
 
 void PDFContext::drawImage(const QRectF &rect, PdfImage image, int orientation) {
-    atQpdfBorder([&] { m_impl->drawImage(rect, image, orientation); });
+    translateQpdfErrors([&] { m_impl->drawImage(rect, image, orientation); });
 }
 
 void PDFContext::endPage() {
-    atQpdfBorder([&] { m_impl->endPage(); });
+    translateQpdfErrors([&] { m_impl->endPage(); });
 }
 
 int PDFContext::addDocument(const QString &sourcePath) {
@@ -317,7 +317,7 @@ int PDFContext::pageCount() const {
 }
 
 void PDFContext::waitForPages() {
-    atQpdfBorder([&] { m_impl->waitForPages(); });
+    translateQpdfErrors([&] { m_impl->waitForPages(); });
 }
 
 void PDFContext::truncatePages(int count) {

@@ -2,10 +2,10 @@
 
 #include "files/OutputFile.h"
 #include "files/SystemCalls.h"
+#include "pdf/DocumentInfo.h"
 #include "pdf/Password.h"
 #include "text/FontCascade.h"
 
-#include <QDateTime>
 #include <QRectF>
 #include <QString>
 
@@ -16,16 +16,6 @@
 namespace folioforge {
 
 struct PdfImage;
-
-/// Document information; every field is written, empty or not. The creator is always
-/// "Vesprin-Folioforge".
-struct DocumentInfo {
-    QString title;
-    QString author;
-    QString subject;
-    QString keywords;
-    QDateTime created; ///< The creation date; documentDate() where it is invalid.
-};
 
 /// How the writing of a document ended.
 struct CloseResult {

@@ -2,7 +2,7 @@
 
 #include "image/Deflate.h"
 #include "image/PdfImage.h"
-#include "pdf/QpdfBorder.h"
+#include "pdf/QpdfErrors.h"
 
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>

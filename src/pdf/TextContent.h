@@ -1,6 +1,6 @@
 #pragma once
 
-#include "text/Glyph.h"
+#include "text/FontCascade.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
 

@@ -1,7 +1,7 @@
 #include "pdf/fonts/CharacterMap.h"
 
 #include "pdf/fonts/CodeTable.h"
-#include "text/Glyph.h"
+#include "text/FontCascade.h"
 
 #include <QChar>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "pdf/import/DocumentImport.h"
 #include "pdf/import/FormMerger.h"
-#include "pdf/import/ImportedDocument.h"
 
 #include <string>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pdf/import/ImportedDocument.h"
+#include "pdf/import/DocumentImport.h"
 
 #include <map>
 #include <set>

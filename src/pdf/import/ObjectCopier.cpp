@@ -1,6 +1,6 @@
 #include "pdf/import/ObjectCopier.h"
 
-#include "pdf/QpdfBorder.h"
+#include "pdf/QpdfErrors.h"
 
 #include <qpdf/QPDF.hh>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pdf/import/Destinations.h"
-#include "pdf/import/SourcePages.h"
+#include "pdf/import/PageTree.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
 

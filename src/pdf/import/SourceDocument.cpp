@@ -1,8 +1,8 @@
 #include "pdf/import/SourceDocument.h"
 
-#include "pdf/QpdfBorder.h"
+#include "pdf/QpdfErrors.h"
+#include "pdf/import/PageTree.h"
 #include "pdf/import/SourceInput.h"
-#include "pdf/import/SourcePages.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -62,7 +62,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
 } // namespace
 
 PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
-    return atQpdfBorder([&] {
+    return translateQpdfErrors([&] {
         const auto reader = std::make_shared<SourceReader>(calls);
         const auto document = openUnlessLocked(FileVersion::of(path), reader);
         if (!document || document->isEncrypted()) {
@@ -76,7 +76,7 @@ PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
 
 std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
                                          const std::shared_ptr<SourceReader> &reader) {
-    return atQpdfBorder([&] {
+    return translateQpdfErrors([&] {
         auto document = openUnlessLocked(file, reader);
         if (!document || document->isEncrypted()) {
             throw Error(u"The document is encrypted"_s);

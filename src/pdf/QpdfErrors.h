@@ -1,6 +1,6 @@
 #pragma once
 
-#include "error/Memory.h"
+#include "error/Error.h"
 #include "files/SourceReader.h"
 
 #include <qpdf/QPDF.hh>
@@ -14,7 +14,7 @@
 namespace folioforge {
 
 /// Runs `work`; what libqpdf throws comes out as Error: the one place where its exceptions end.
-template<typename Work> auto atQpdfBorder(Work &&work) -> decltype(work()) {
+template<typename Work> auto translateQpdfErrors(Work &&work) -> decltype(work()) {
     try {
         return work();
     } catch (const Error &) {
