@@ -38,6 +38,39 @@ QByteArray bitmap(qsizetype headerSize, char bits, quint32 compression, const QB
            header + pixels;
 }
 
+/// A bitmap of `width` pixels and so many rows whose four colours are red, green, blue and white.
+QByteArray fourColors(qint32 width, qint32 height, char bits, quint32 compression,
+                      const QByteArray &pixels) {
+    const QByteArray colors = QByteArray::fromHex("0000ff00"
+                                                  "00ff0000"
+                                                  "ff000000"
+                                                  "ffffff00");
+    constexpr quint32 kStart = 14 + 40 + 16;
+    return "BM" + little(quint32(kStart + pixels.size())) + little(0) + little(kStart) +
+           little(40) + little(quint32(width)) + little(quint32(height)) +
+           QByteArray::fromHex("0100") + bits + '\0' + little(compression) + little(0) + little(0) +
+           little(0) + little(4) + little(0) + colors + pixels;
+}
+
+/// The colours of each row of an image as letters: red, green, blue, white and others.
+QStringList letters(const PdfImage &image) {
+    const QImage picture = decoded(image);
+    QStringList rows;
+    for (int y = 0; y < picture.height(); ++y) {
+        QString row;
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb color = picture.pixel(x, y) & 0xFFFFFF;
+            row += color == 0xFF0000   ? u'r'
+                   : color == 0x00FF00 ? u'g'
+                   : color == 0x0000FF ? u'b'
+                   : color == 0xFFFFFF ? u'w'
+                                       : u'?';
+        }
+        rows += row;
+    }
+    return rows;
+}
+
 } // namespace
 
 /// Bitmaps of 2 x 2 pixels, byte by byte.
@@ -169,6 +202,96 @@ class BmpTest : public QObject {
         QCOMPARE(rgbRows(image).toHex(), QByteArray("0708090a0b0c010203040506"));
         QVERIFY(image.softMask != nullptr);
         QCOMPARE(rgbRows(*image.softMask).toHex(), QByteArray("808080ffffff000000404040"));
+    }
+
+    void runsAreDrawn_data() {
+        QTest::addColumn<int>("bits");
+        QTest::addColumn<QByteArray>("runs");
+        QTest::addColumn<QStringList>("rows");
+        const auto add = [](const char *name, int bits, const char *runs, const QStringList &rows) {
+            QTest::newRow(name) << bits << QByteArray::fromHex(runs) << rows;
+        };
+        // The last row comes first.
+        add("8 bits", 8, "0501 0000 0203 0302 0001", {u"wwbbb"_s, u"ggggg"_s});
+        add("8 bits as they are", 8, "0003 010203 00 0200 0000 0503 0001",
+            {u"wwwww"_s, u"gbwrr"_s});
+        add("8 bits with a jump", 8, "0101 0002 0301 0102 0001", {u"rrrrb"_s, u"grrrr"_s});
+        add("a run over the end of the row", 8, "0901 0000 0102 0001", {u"brrrr"_s, u"ggggg"_s});
+        add("4 bits", 4, "0512 0000 0230 0321 0001", {u"wrbgb"_s, u"gbgbg"_s});
+        add("4 bits as they are", 4, "0005 123120 00 0000 0533 0001", {u"wwwww"_s, u"gbwgb"_s});
+        add("the end of the file in a run", 8, "0501 0000 05", {u"rrrrr"_s, u"ggggg"_s});
+        add("the end of the file among bytes", 8, "0501 0000 0004 0302", {u"wbrrr"_s, u"ggggg"_s});
+    }
+
+    void runsAreDrawn() {
+        QFETCH(const int, bits);
+        QFETCH(const QByteArray, runs);
+        QFETCH(const QStringList, rows);
+        const QByteArray bytes = fourColors(5, 2, static_cast<char>(bits), bits == 8 ? 1 : 2, runs);
+        QCOMPARE(letters(toPdfImage(file(bytes))), rows);
+    }
+
+    void rowsFromTheTopStayInOrder() {
+        const QByteArray pixels = QByteArray::fromHex("0001020001020300");
+        const QStringList rows = {u"rgb"_s, u"gbw"_s};
+        QCOMPARE(letters(toPdfImage(file(fourColors(3, -2, 8, kPlain, pixels)))), rows);
+        QCOMPARE(letters(toPdfImage(file(fourColors(
+                     3, -2, 8, 1, QByteArray::fromHex("0003000102000000 0003010203000001"))))),
+                 rows);
+        QCOMPARE(letters(toPdfImage(
+                     file(fourColors(3, 2, 4, kPlain, QByteArray::fromHex("1230000001200000"))))),
+                 rows);
+    }
+
+    void rowsThatAreMissingAreOfTheFirstColor() {
+        const QByteArray pixels = QByteArray::fromHex("01020300");
+        const QStringList rows = {u"rrr"_s, u"gbw"_s};
+        QCOMPARE(letters(toPdfImage(file(fourColors(3, 2, 8, kPlain, pixels)))), rows);
+    }
+
+    void blackAndWhiteTakesOneBit_data() {
+        QTest::addColumn<QByteArray>("colors");
+        QTest::newRow("black first") << QByteArray::fromHex("00000000ffffff00");
+        QTest::newRow("white first") << QByteArray::fromHex("ffffff0000000000");
+    }
+
+    void blackAndWhiteTakesOneBit() {
+        QFETCH(const QByteArray, colors);
+        QByteArray bytes = fourColors(2, 2, 1, kPlain, QByteArray::fromHex("8000000040000000"));
+        qToLittleEndian(quint32(0), bytes.data() + 46);           // Two colours, as one bit names.
+        qToLittleEndian(quint32(14 + 40 + 8), bytes.data() + 10); // The pixels follow them.
+        bytes.remove(54, 16).insert(54, colors);
+        const PdfImage image = toPdfImage(file(bytes));
+        QCOMPARE(image.bitsPerComponent, 1);
+        const QByteArray whiteFirst = QByteArray::fromHex("ffffff000000000000ffffff");
+        const QByteArray blackFirst = QByteArray::fromHex("000000ffffffffffff000000");
+        QCOMPARE(rgbRows(image).toHex(),
+                 (colors.startsWith('\0') ? blackFirst : whiteFirst).toHex());
+    }
+
+    void channelsOfMoreThanEightBitsKeepTheHighOnes() {
+        const QByteArray masks = little(0x3FF00000) + little(0x000FFC00) + little(0x000003FF);
+        // 1023, 512 and 4 of 1023, then each alone.
+        const QByteArray pixels =
+            little(0x3FF80004) + little(0x3FF00000) + little(0x00080000) + little(0x00000004);
+        QCOMPARE(rgbRows(toPdfImage(file(bitmap(56, 32, kMasks, masks, pixels)))).toHex(),
+                 QByteArray("008000000001ff8001ff0000"));
+    }
+
+    void unknownKindIsRefused_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray pixels(16, '\x7f');
+        QTest::newRow("2 bits") << bitmap(40, 2, kPlain, {}, pixels);
+        QTest::newRow("JPEG inside") << bitmap(40, 24, 4, {}, pixels);
+        QTest::newRow("runs of whole colours") << bitmap(40, 24, 1, {}, pixels);
+        QByteArray planes = bitmap(40, 24, kPlain, {}, pixels);
+        planes[26] = 3;
+        QTest::newRow("three planes") << planes;
+    }
+
+    void unknownKindIsRefused() {
+        QFETCH(const QByteArray, bytes);
+        QCOMPARE(refusalOf(file(bytes)), u"The bitmap is of an unknown kind"_s);
     }
 
     void densityIsReadOnlyWhereTheHeaderHasIt() {

@@ -41,6 +41,51 @@ class GifTest : public QObject {
         QCOMPARE(picture.pixelColor(2, 3), QColor(Qt::white));
     }
 
+    void pictureLiesOnTheBackground() {
+        // The background is the table's first colour, red.
+        const PdfImage image = toPdfImage(gif("04000500", frame()));
+        QCOMPARE(rgbRows(image).toHex(), QByteArray("ff0000ff0000ff0000ff0000"
+                                                    "ff0000ff0000ff0000ff0000"
+                                                    "ff0000ff000000ff00ff0000"
+                                                    "ff00000000ffffffffff0000"
+                                                    "ff0000ff0000ff0000ff0000"));
+    }
+
+    void colorMarkedTransparentIsNotSeen() {
+        const QByteArray control = QByteArray::fromHex("21f904"
+                                                       "01000003"
+                                                       "00");
+        const PdfImage image = toPdfImage(gif("03000400", control + frame()));
+        // Nor is the screen around the picture.
+        QCOMPARE(reds(image), (QList<int>{-1, -1, -1, -1, -1, -1, -1, 255, 0, -1, 0, -1}));
+    }
+
+    void interlacedRowsComeInOrder() {
+        // Ten rows of one pixel, stored as 0, 8, 4, 2, 6, 1, 3, 5, 7 and 9; red in rows 0, 4 and 9.
+        const QByteArray stored = QByteArray::fromHex("00 01 00 01 02 01 02 01 02 00");
+        const PdfImage image = toPdfImage(gif(
+            "01000a00", QByteArray::fromHex("2c 0000 0000 0100 0a00 40") + codes(stored) + ';'));
+        QCOMPARE(reds(image), (QList<int>{255, 0, 0, 0, 255, 0, 0, 0, 0, 255}));
+    }
+
+    void firstPictureOfSeveralIsShown() {
+        const auto pixel = [](char color) {
+            return QByteArray::fromHex("2c 0000 0000 0100 0100 00") + codes(QByteArray(1, color));
+        };
+        const PdfImage image = toPdfImage(gif("01000100", pixel(2) + pixel(0) + ';'));
+        QCOMPARE(rgbRows(image).toHex(), QByteArray("0000ff"));
+    }
+
+    void dataThatEndsEarlyLeavesTheRowsBefore() {
+        QByteArray bytes = QByteArray::fromHex("2c 0000 0000 0200 0200 00 02");
+        const QByteArray data = codes(QByteArray::fromHex("00030003")).sliced(2).chopped(1);
+        for (const char byte : data.chopped(1)) {
+            bytes.append('\1').append(byte); // A block of its own.
+        }
+        const PdfImage image = toPdfImage(gif("02000200", bytes));
+        QCOMPARE(rgbRows(image).toHex(), QByteArray("ff0000ffffff000000000000"));
+    }
+
     void aScreenWithoutSizeNeedsAnImage_data() {
         QTest::addColumn<QByteArray>("rest");
         QTest::newRow("nothing") << QByteArray();
@@ -77,6 +122,42 @@ class GifTest : public QObject {
                                    "00");
     }
 
+    /// Pixels in codes of three bits, the code to clear the table before every second one.
+    static QByteArray codes(const QByteArray &pixels) {
+        constexpr int kClear = 4;
+        constexpr int kEnd = 5;
+        QByteArray bytes;
+        int filled = 0;
+        const auto append = [&](int code) {
+            for (int bit = 0; bit < 3; ++bit, ++filled) {
+                if (filled % 8 == 0) {
+                    bytes.append('\0');
+                }
+                bytes.back() = static_cast<char>(bytes.back() | (code >> bit & 1) << filled % 8);
+            }
+        };
+        for (qsizetype i = 0; i < pixels.size(); ++i) {
+            if (i % 2 == 0) {
+                append(kClear);
+            }
+            append(pixels[i]);
+        }
+        append(kEnd);
+        return '\2' + QByteArray(1, static_cast<char>(bytes.size())) + bytes + '\0';
+    }
+    /// The red value of each pixel, row after row; -1 where it is transparent.
+    static QList<int> reds(const PdfImage &image) {
+        const QImage picture = decoded(image);
+        const QImage mask = image.softMask ? decoded(*image.softMask) : QImage();
+        QList<int> values;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const bool isSeen = mask.isNull() || qGray(mask.pixel(x, y)) != 0;
+                values += isSeen ? qRed(picture.pixel(x, y)) : -1;
+            }
+        }
+        return values;
+    }
     /// An image of 2 x 2 pixels, one from the left and two from the top: red and green over blue
     /// and white. Its codes of three bits are clear, 0, 1, clear, 2, 3, end.
     static QByteArray frame() {
