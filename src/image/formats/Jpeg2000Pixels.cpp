@@ -15,64 +15,53 @@ namespace folioforge {
 
 namespace {
 
-OpenJpegCodec openCodec(const Jpeg2000Metadata &metadata) {
-    OpenJpegCodec codec = openJpegCodec(metadata.isCodestream);
-    const qint64 bytes =
-        qint64(metadata.header.width) * metadata.header.height * metadata.components;
-    if (bytes >= kWorthAThread && opj_has_thread_support() == OPJ_TRUE) {
-        opj_codec_set_threads(codec.get(), std::min(opj_get_num_cpus(), 8));
-    }
-    return codec;
-}
-
-OpenJpegImage decode(const FileView &file, const Jpeg2000Metadata &metadata) {
+OpenJpegPicture decode(const FileView &file, const Jpeg2000Metadata &metadata) {
+    const ImageHeader &header = metadata.header;
     const Error damaged(u"The JPEG 2000 file is damaged"_s);
-    OpenJpegSource source{
-        [&file](qint64 at, std::span<uchar> target) { return file.readInto(at, target); },
-        file.size()};
-    const OpenJpegStream stream = openJpegStream(source);
-    const OpenJpegCodec codec = openCodec(metadata);
-    opj_image_t *raw = nullptr;
-    const bool headerRead = opj_read_header(stream.get(), codec.get(), &raw) == OPJ_TRUE;
-    OpenJpegImage image(raw);
+    auto picture = OpenJpegPicture::open(
+        {[&file](qint64 at, std::span<uchar> target) { return file.readInto(at, target); },
+         file.size()},
+        metadata.isCodestream);
     // The codestream may claim another size than the box that was checked.
-    if (!headerRead || image->x1 - image->x0 != static_cast<OPJ_UINT32>(metadata.header.width) ||
-        image->y1 - image->y0 != static_cast<OPJ_UINT32>(metadata.header.height)) {
+    if (!picture || picture->width() != header.width || picture->height() != header.height) {
         throw damaged;
     }
-    if (opj_decode(codec.get(), stream.get(), image.get()) != OPJ_TRUE) {
+    if (qint64(header.width) * header.height * metadata.components >= kWorthAThread) {
+        picture->useAllCores();
+    }
+    if (!picture->decode()) {
         throw damaged;
     }
-    for (OPJ_UINT32 c = 0; c < image->numcomps; ++c) {
-        if (image->comps[c].data == nullptr || image->comps[c].w == 0 || image->comps[c].h == 0) {
+    for (int c = 0; c < picture->componentCount(); ++c) {
+        if (picture->component(c).samples.empty()) {
             throw damaged;
         }
     }
-    return image;
+    return std::move(*picture);
 }
 
 /// A decoded component as samples of 8 or 16 bits.
 class Component {
   public:
-    Component(const opj_image_comp_t &component, int bits, int width, int height)
+    Component(const Jpeg2000Component &component, int bits, int width, int height)
         : m_component(component)
-        , m_offset(component.sgnd != 0 ? 1LL << (component.prec - 1) : 0)
-        , m_most((1LL << component.prec) - 1)
+        , m_offset(component.isSigned ? 1LL << (component.bits - 1) : 0)
+        , m_most((1LL << component.bits) - 1)
         , m_scale((1LL << bits) - 1)
         , m_width(width)
         , m_height(height) {}
 
     /// The sample at a pixel of the whole image; a smaller component is stretched.
     [[nodiscard]] int at(int x, int y) const {
-        const auto column = qint64(x) * m_component.w / m_width;
-        const auto row = qint64(y) * m_component.h / m_height;
-        const qint64 value = std::clamp<qint64>(
-            m_component.data[row * m_component.w + column] + m_offset, 0, m_most);
+        const auto column = qint64(x) * m_component.width / m_width;
+        const auto row = qint64(y) * m_component.height / m_height;
+        const auto index = static_cast<size_t>(row * m_component.width + column);
+        const qint64 value = std::clamp<qint64>(m_component.samples[index] + m_offset, 0, m_most);
         return static_cast<int>((value * m_scale + m_most / 2) / m_most);
     }
 
   private:
-    const opj_image_comp_t &m_component;
+    Jpeg2000Component m_component;
     qint64 m_offset;
     qint64 m_most;
     qint64 m_scale;
@@ -103,9 +92,9 @@ void convertFromYcc(std::array<int, 4> &pixel, int most) {
 }
 
 /// Which components are colour, in order, and how many of them a PDF shows.
-std::vector<int> colorComponents(const opj_image_t &image, const Jpeg2000Metadata &metadata) {
+std::vector<int> colorComponents(int count, const Jpeg2000Metadata &metadata) {
     std::vector<int> colors;
-    for (int c = 0; c < static_cast<int>(image.numcomps); ++c) {
+    for (int c = 0; c < count; ++c) {
         if (c != metadata.alphaChannel) {
             colors.push_back(c);
         }
@@ -116,11 +105,11 @@ std::vector<int> colorComponents(const opj_image_t &image, const Jpeg2000Metadat
 }
 
 /// A raster for these components, without its pixels.
-Raster rasterFor(const opj_image_t &image, const Jpeg2000Metadata &metadata,
+Raster rasterFor(const OpenJpegPicture &picture, const Jpeg2000Metadata &metadata,
                  const std::vector<int> &colors) {
-    OPJ_UINT32 precision = 0;
+    int precision = 0;
     for (const int c : colors) {
-        precision = std::max(precision, image.comps[c].prec);
+        precision = std::max(precision, picture.component(c).bits);
     }
     Raster raster;
     raster.width = metadata.header.width;
@@ -131,7 +120,7 @@ Raster rasterFor(const opj_image_t &image, const Jpeg2000Metadata &metadata,
                                         : ImageColor::Cmyk;
     raster.iccProfile = metadata.iccProfile;
     raster.samples = allocateRows(raster.height, raster.stride());
-    if (metadata.alphaChannel >= 0 && metadata.alphaChannel < static_cast<int>(image.numcomps)) {
+    if (metadata.alphaChannel >= 0 && metadata.alphaChannel < picture.componentCount()) {
         raster.alpha = AlphaPlane{
             raster.bits, allocateRows(raster.height, rowBytes(raster.width, 1, raster.bits))};
     }
@@ -168,16 +157,16 @@ Raster decodeJpeg2000(const FileView &file, const Jpeg2000Metadata &metadata) {
     // The library holds four bytes for every sample: a short file must not cost gigabytes.
     const qint64 pixels = qint64(metadata.header.width) * metadata.header.height;
     requirePlausible(pixels * metadata.components, file.size(), 4000);
-    const OpenJpegImage image = decode(file, metadata);
-    std::vector<int> components = colorComponents(*image, metadata);
-    Raster raster = rasterFor(*image, metadata, components);
+    const OpenJpegPicture picture = decode(file, metadata);
+    std::vector<int> components = colorComponents(picture.componentCount(), metadata);
+    Raster raster = rasterFor(picture, metadata, components);
     if (raster.alpha) {
         components.push_back(metadata.alphaChannel);
     }
     std::vector<Component> sources;
     sources.reserve(components.size());
     for (const int c : components) {
-        sources.emplace_back(image->comps[c], raster.bits, raster.width, raster.height);
+        sources.emplace_back(picture.component(c), raster.bits, raster.width, raster.height);
     }
     fillPixels(raster, sources, metadata.isYcc);
     if (metadata.isPremultiplied) {
