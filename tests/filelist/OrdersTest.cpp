@@ -76,12 +76,13 @@ class OrdersTest : public QObject {
     void naturalOrderReadsDigitsAsNumbers() {
         OrderedFiles files;
         for (const QString &name :
-             words("p10.txt P9.txt p010.txt p2b.txt p2a.txt p99999999999999999999999.txt p.txt")) {
+             words("p10.txt P9.txt p010.txt p2b.txt p2a.txt p99999999999999999999999.txt "
+                   "p.txt.txt p.txt")) {
             files.add(name);
         }
-        QCOMPARE(
-            files.names(SortOrder::Natural),
-            words("p.txt p2a.txt p2b.txt P9.txt p10.txt p010.txt p99999999999999999999999.txt"));
+        QCOMPARE(files.names(SortOrder::Natural),
+                 words("p.txt p.txt.txt p2a.txt p2b.txt P9.txt p10.txt p010.txt "
+                       "p99999999999999999999999.txt"));
     }
 
     void sizesAreCountedInBytesAndReadAfresh() {

@@ -40,14 +40,18 @@ class PageSetupTest : public QObject {
         QTest::addColumn<QString>("text");
         QTest::addColumn<qint64>("value");
         QTest::newRow("plain") << u"72"_s << qint64(72);
+        QTest::newRow("zeros inside") << u"1002"_s << qint64(1002);
         QTest::newRow("empty") << QString() << qint64(0);
         QTest::newRow("words") << u"wide"_s << qint64(0);
         QTest::newRow("unit behind") << u"12pt"_s << qint64(12);
+        QTest::newRow("colon behind") << u"12:30"_s << qint64(12);
         QTest::newRow("fraction") << u"36.9"_s << qint64(36);
         QTest::newRow("blanks in front") << u"  5"_s << qint64(5);
         QTest::newRow("minus") << u"-1"_s << qint64(-1);
         QTest::newRow("plus") << u"+8"_s << qint64(8);
         QTest::newRow("sign alone") << u"-"_s << qint64(0);
+        QTest::newRow("nearly the largest")
+            << u"9223372036854775805"_s << qint64(9223372036854775805);
         QTest::newRow("largest") << u"9223372036854775807"_s << std::numeric_limits<qint64>::max();
         QTest::newRow("too large")
             << u"99999999999999999999"_s << std::numeric_limits<qint64>::max();
@@ -143,9 +147,11 @@ class PageSetupTest : public QObject {
     }
 
     void anImagePageThatFollowsTheImageHasNoSizeToCheck() {
-        QCOMPARE(messageOf(checkImagePageSizeSettings(
-                     {ImagePageFollowsImage, -5, 0, margins(256, 256, 256, 256)})),
-                 QString());
+        for (const int row : {int{ImagePageFollowsImage}, 2, -1}) {
+            QCOMPARE(
+                messageOf(checkImagePageSizeSettings({row, -5, 0, margins(256, 256, 256, 256)})),
+                QString());
+        }
     }
 
     void imageMarginsAreCheckedInEveryMode() {
