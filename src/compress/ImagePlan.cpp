@@ -1,13 +1,13 @@
 #include "compress/ImagePlan.h"
 
 #include "compress/BoundedText.h"
-#include "error/Error.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
 #include <string_view>
+#include <utility>
+#include <variant>
 
 using namespace Qt::StringLiterals;
 
@@ -18,17 +18,15 @@ namespace {
 /// An image whose samples need more memory than this is left alone.
 constexpr double kMaxSampleBytes = 512e6;
 
-Error left(const char *reason) {
-    return Error(QString::fromLatin1(reason));
-}
-
 int integer(QPDFObjectHandle dictionary, const char *key) {
     QPDFObjectHandle value = dictionary.getKey(key);
     return value.isInteger() ? value.getIntValueAsInt() : 0;
 }
 
-/// Sets the filters before the image codec, and the codec, from Filter and DecodeParms.
-void describeFilters(QPDFObjectHandle dictionary, ImageJob &job) {
+/// Sets the filters before the image codec, and the codec, from Filter and DecodeParms. This and
+/// the functions that follow give the reason why the image stays as it is, empty where there is
+/// none.
+QString describeFilters(QPDFObjectHandle dictionary, ImageJob &job) {
     QPDFObjectHandle filter = dictionary.getKey("/Filter");
     QPDFObjectHandle parameters = dictionary.getKey("/DecodeParms");
     auto names =
@@ -37,11 +35,11 @@ void describeFilters(QPDFObjectHandle dictionary, ImageJob &job) {
                                        : parameters.wrapInArray().getArrayAsVector();
     details.resize(names.size(), QPDFObjectHandle::newNull());
     if (names.empty()) {
-        return;
+        return {};
     }
     const std::string last = names.back().isName() ? names.back().getName() : std::string();
     if (last == "/CCITTFaxDecode" || last == "/JBIG2Decode") {
-        throw left("bilevel");
+        return u"bilevel"_s;
     }
     if (last == "/DCTDecode" || last == "/JPXDecode") {
         job.codec = last == "/DCTDecode" ? ImageCodec::Jpeg : ImageCodec::Jpx;
@@ -57,7 +55,7 @@ void describeFilters(QPDFObjectHandle dictionary, ImageJob &job) {
         QPDFObjectHandle checked = name;
         if (!checked.isName() ||
             std::find(kLossless.begin(), kLossless.end(), checked.getName()) == kLossless.end()) {
-            throw left("an unusual filter");
+            return u"an unusual filter"_s;
         }
     }
     if (!names.empty()) {
@@ -69,6 +67,7 @@ void describeFilters(QPDFObjectHandle dictionary, ImageJob &job) {
         }
         job.parameters = QPDFObjectHandle::newArray(details).unparseResolved();
     }
+    return {};
 }
 
 /// Components of a colour space whose samples may be averaged; 0 for others.
@@ -103,20 +102,18 @@ bool isIndexed(QPDFObjectHandle space) {
            space.getArrayItem(0).isNameAndEquals("/Indexed");
 }
 
-/// The data of a colour table, which take 1024 bytes and, of some writers, padding.
+/// The data of a colour table, which take 1024 bytes and, of some writers, padding; empty where
+/// they cannot be decoded.
 std::string paletteData(QPDFObjectHandle table) {
     constexpr std::size_t kMaxBytes = 64 << 10;
     std::string data;
     BoundedText target(data, kMaxBytes);
     bool filtered = false;
     table.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized);
-    if (!filtered) {
-        throw left("an unusual colour space");
-    }
-    return data;
+    return filtered ? data : std::string();
 }
 
-void describePalette(QPDFObjectHandle space, ImageJob &job) {
+QString describePalette(QPDFObjectHandle space, ImageJob &job) {
     job.components = plainComponents(space.getArrayItem(1));
     QPDFObjectHandle table = space.getArrayItem(3);
     if (table.isString()) {
@@ -126,63 +123,66 @@ void describePalette(QPDFObjectHandle space, ImageJob &job) {
     }
     constexpr std::size_t kMaxColors = 256;
     if (job.components == 0 || job.palette.size() < static_cast<std::size_t>(job.components)) {
-        throw left("an unusual colour space");
+        return u"an unusual colour space"_s;
     }
     job.palette.resize(
         std::min(job.palette.size(), kMaxColors * static_cast<std::size_t>(job.components)));
+    return {};
 }
 
-void describeColor(QPDFObjectHandle dictionary, ImageJob &job) {
+QString describeColor(QPDFObjectHandle dictionary, ImageJob &job) {
     QPDFObjectHandle space = dictionary.getKey("/ColorSpace");
     if (space.isNull() && job.codec == ImageCodec::Jpx) {
         job.components = 0;
-        return;
+        return {};
     }
     if (isIndexed(space) && job.codec == ImageCodec::Samples) {
         if (job.bitsPerComponent < 8 || dictionary.hasKey("/Decode")) {
-            throw left("few colours");
+            return u"few colours"_s;
         }
-        describePalette(space, job);
-        return;
+        return describePalette(space, job);
     }
     job.components = plainComponents(space);
     if (job.components == 0) {
-        throw left("an unusual colour space");
+        return u"an unusual colour space"_s;
     }
+    return {};
 }
 
-void describeSamples(QPDFObjectHandle dictionary, ImageJob &job) {
+QString describeSamples(QPDFObjectHandle dictionary, ImageJob &job) {
     if (job.codec != ImageCodec::Samples) {
-        return;
+        return {};
     }
     job.bitsPerComponent = integer(dictionary, "/BitsPerComponent");
     if (job.bitsPerComponent == 1) {
-        throw left("bilevel");
+        return u"bilevel"_s;
     }
     if (job.bitsPerComponent != 8 && job.bitsPerComponent != 16 &&
         !isIndexed(dictionary.getKey("/ColorSpace"))) {
-        throw left("few shades");
+        return u"few shades"_s;
     }
+    return {};
 }
 
-void refuseUnusual(QPDFObjectHandle dictionary) {
+QString reasonOfUnusual(QPDFObjectHandle dictionary) {
     QPDFObjectHandle stencil = dictionary.getKey("/ImageMask");
     if (stencil.isBool() && stencil.getBoolValue()) {
-        throw left("a mask");
+        return u"a mask"_s;
     }
     if (dictionary.getKey("/Mask").isArray()) {
-        throw left("masked by colour");
+        return u"masked by colour"_s;
     }
     if (integer(dictionary, "/SMaskInData") != 0) {
-        throw left("opacity inside its JPEG 2000 data");
+        return u"opacity inside its JPEG 2000 data"_s;
     }
     QPDFObjectHandle softMask = dictionary.getKey("/SMask");
     if (softMask.isStream() && softMask.getDict().hasKey("/Matte")) {
-        throw left("blended with its soft mask");
+        return u"blended with its soft mask"_s;
     }
     if (dictionary.hasKey("/Matte")) {
-        throw left("blended into its image");
+        return u"blended into its image"_s;
     }
+    return {};
 }
 
 /// The wanted size divided by the image's own, so that its largest use has the filter's resolution.
@@ -197,39 +197,59 @@ double scaleFor(const ImageJob &job, const ImageUse &use, const QuartzFilter &fi
     return std::max(scale, 1.0 / std::max(job.width, job.height));
 }
 
-ImageJob describe(QPDFObjectHandle image, const ImageUse &use, const QuartzFilter &filter,
-                  ImagePurpose purpose) {
-    QPDFObjectHandle dictionary = image.getDict();
-    if (use.isUnclear) {
-        throw left("drawn at a size that cannot be told");
+QString describeSize(QPDFObjectHandle dictionary, const QuartzFilter &filter, ImageJob &job) {
+    job.width = integer(dictionary, "/Width");
+    job.height = integer(dictionary, "/Height");
+    if (job.width <= 0 || job.height <= 0) {
+        return u"damaged: it has no size"_s;
     }
-    refuseUnusual(dictionary);
+    const bool isSmall = static_cast<qint64>(job.width) * job.height < filter.smallestImage;
+    return isSmall ? u"small"_s : QString();
+}
+
+/// Sets the scale, once all else is described.
+QString describeScale(const ImageUse &use, const QuartzFilter &filter, ImageJob &job) {
+    const double bytes = static_cast<double>(job.width) * job.height * std::max(job.components, 3) *
+                         job.bitsPerComponent / 8;
+    if (bytes > kMaxSampleBytes) {
+        return u"too large"_s;
+    }
+    job.scale = scaleFor(job, use, filter);
+    if (job.purpose == ImagePurpose::SoftMask && job.components != 1) {
+        return u"an unusual colour space"_s;
+    }
+    if (job.purpose == ImagePurpose::SoftMask && job.codec == ImageCodec::Samples &&
+        job.scale >= 1) {
+        return u"already at the resolution"_s;
+    }
+    return {};
+}
+
+/// The job that reduces the image, or the reason why it stays as it is.
+std::variant<ImageJob, QString> decide(QPDFObjectHandle image, const ImageUse &use,
+                                       const QuartzFilter &filter, ImagePurpose purpose) {
+    if (use.isUnclear) {
+        return u"drawn at a size that cannot be told"_s;
+    }
+    QPDFObjectHandle dictionary = image.getDict();
     ImageJob job;
     job.purpose = purpose;
     job.lineArt = filter.keepLineArt ? LineArt::Keep : LineArt::Reduce;
     job.jpegQuality = filter.jpegQuality;
-    job.width = integer(dictionary, "/Width");
-    job.height = integer(dictionary, "/Height");
-    if (job.width <= 0 || job.height <= 0) {
-        throw left("damaged: it has no size");
+    QString reason = reasonOfUnusual(dictionary);
+    if (reason.isEmpty()) {
+        reason = describeSize(dictionary, filter, job);
     }
-    if (static_cast<qint64>(job.width) * job.height < filter.smallestImage) {
-        throw left("small");
+    for (const auto describe : {describeFilters, describeSamples, describeColor}) {
+        if (reason.isEmpty()) {
+            reason = describe(dictionary, job);
+        }
     }
-    describeFilters(dictionary, job);
-    describeSamples(dictionary, job);
-    describeColor(dictionary, job);
-    const double bytes = static_cast<double>(job.width) * job.height * std::max(job.components, 3) *
-                         job.bitsPerComponent / 8;
-    if (bytes > kMaxSampleBytes) {
-        throw left("too large");
+    if (reason.isEmpty()) {
+        reason = describeScale(use, filter, job);
     }
-    job.scale = scaleFor(job, use, filter);
-    if (purpose == ImagePurpose::SoftMask && job.components != 1) {
-        throw left("an unusual colour space");
-    }
-    if (purpose == ImagePurpose::SoftMask && job.codec == ImageCodec::Samples && job.scale >= 1) {
-        throw left("already at the resolution");
+    if (!reason.isEmpty()) {
+        return reason;
     }
     return job;
 }
@@ -263,12 +283,16 @@ std::vector<ImageUse> softMaskUses(QPDF &document, const std::vector<ImageUse> &
 void planUse(QPDF &document, const ImageUse &use, const QuartzFilter &filter, ImagePurpose purpose,
              ImagePlan &plan) {
     QPDFObjectHandle image = document.getObjectByObjGen(use.image);
+    std::variant<ImageJob, QString> decision;
     try {
-        plan.planned.push_back({image, use.page, describe(image, use, filter, purpose)});
-    } catch (const Error &error) {
-        plan.left.push_back({use.page, use.image.getObj(), error.reason()});
+        decision = decide(image, use, filter, purpose);
     } catch (const std::exception &) {
-        plan.left.push_back({use.page, use.image.getObj(), u"damaged: its description is wrong"_s});
+        decision = u"damaged: its description is wrong"_s;
+    }
+    if (auto *job = std::get_if<ImageJob>(&decision)) {
+        plan.planned.push_back({image, use.page, std::move(*job)});
+    } else {
+        plan.left.push_back({use.page, use.image.getObj(), std::get<QString>(decision)});
     }
 }
 
