@@ -1,15 +1,35 @@
 #include "compress/ReducedStreams.h"
 
+#include "compress/BoundedText.h"
+#include "error/Error.h"
+#include "image/Parallel.h"
 #include "pdf/QpdfErrors.h"
 
+#include <algorithm>
 #include <memory>
-#include <string>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
 namespace {
+
+/// Work ahead stops while the images in work are estimated to need this much memory.
+constexpr std::size_t kMaxAhead = 256 << 20;
+
+/// The most that is set aside for a stream before its bytes are there.
+constexpr qsizetype kMaxRoom = 64 << 20;
+
+std::size_t estimate(const ImageJob &job) {
+    const double side = job.codec == ImageCodec::Samples ? 1 : job.scale;
+    const double samples = static_cast<double>(job.width) * job.height * 4 * side * side;
+    return job.data.size() + static_cast<std::size_t>(samples);
+}
+
+Reduction unreadable() {
+    return {std::nullopt, u"damaged: its data cannot be read"_s};
+}
 
 void setPredictor(QPDFObjectHandle dictionary, const ReducedImage &image) {
     QPDFObjectHandle parameters = QPDFObjectHandle::newDictionary();
@@ -52,8 +72,7 @@ std::shared_ptr<ReducedStreams> ReducedStreams::install(std::vector<PlannedImage
     return streams;
 }
 
-ReducedStreams::ReducedStreams(std::vector<PlannedImage> planned)
-    : m_queue(planned.size(), [this](std::size_t index) { return load(index); }) {
+ReducedStreams::ReducedStreams(std::vector<PlannedImage> planned) {
     for (PlannedImage &plan : planned) {
         m_index.emplace(plan.stream.getObjGen(), m_images.size());
         QPDFObjectHandle original = plan.stream.copyStream();
@@ -61,13 +80,53 @@ ReducedStreams::ReducedStreams(std::vector<PlannedImage> planned)
     }
 }
 
-ImageJob ReducedStreams::load(std::size_t index) const {
-    const Image &image = m_images[index];
+ImageJob ReducedStreams::load(const Image &image) const {
     ImageJob job = image.plan.job;
     QPDFObjectHandle original = image.original;
-    const auto data = original.getRawStreamData();
-    job.data.assign(reinterpret_cast<const char *>(data->getBuffer()), data->getSize());
+    job.data.reserve(static_cast<std::size_t>(
+        std::clamp<qsizetype>(statedLength(original.getDict().getKey("/Length")), 0, kMaxRoom)));
+    BoundedText target(job.data, job.data.max_size());
+    bool isFiltered = false;
+    if (!original.pipeStreamData(&target, &isFiltered, 0, qpdf_dl_none)) {
+        throw Error(unreadable().reason);
+    }
     return job;
+}
+
+void ReducedStreams::start(Image &image) {
+    image.bytes = 0;
+    try {
+        const auto job = std::make_shared<const ImageJob>(load(image));
+        image.bytes = estimate(*job);
+        image.reduction = runAsync([job] { return reduceImage(*job); });
+    } catch (const std::exception &) {
+        image.reduction = std::async(std::launch::deferred, unreadable);
+    }
+    m_bytes += image.bytes;
+    ++m_started;
+}
+
+void ReducedStreams::workAhead(std::size_t from) {
+    const std::size_t threads = std::max(std::thread::hardware_concurrency(), 1U);
+    for (auto i = from; i < m_images.size() && m_started <= threads && m_bytes < kMaxAhead; ++i) {
+        if (!m_images[i].reduction.valid() && !m_images[i].isTold) {
+            start(m_images[i]);
+        }
+    }
+}
+
+/// The images that follow are worked on meanwhile, since the writer is likely to come to them next.
+Reduction ReducedStreams::take(std::size_t index) {
+    Image &image = m_images[index];
+    if (!image.reduction.valid()) {
+        start(image);
+    }
+    workAhead(index + 1);
+    Reduction reduction = image.reduction.get();
+    m_bytes -= image.bytes;
+    --m_started;
+    workAhead(index + 1);
+    return reduction;
 }
 
 void ReducedStreams::keep(Image &image, const QString &reason, Pipeline *pipeline) {
@@ -75,35 +134,27 @@ void ReducedStreams::keep(Image &image, const QString &reason, Pipeline *pipelin
     requireRoomForStream(static_cast<qsizetype>(data->getSize()));
     pipeline->write(data->getBuffer(), data->getSize());
     pipeline->finish();
-    if (!image.isReported) {
+    if (!image.isTold) {
         m_left.push_back({image.plan.page, image.plan.stream.getObjectID(), reason});
-        image.isReported = true;
+        image.isTold = true;
     }
 }
 
 void ReducedStreams::replace(Image &image, const ReducedImage &reduced, Pipeline *pipeline) {
     QPDFObjectHandle dictionary = image.plan.stream.getDict();
-    if (!image.isReported) {
+    if (!image.isTold) {
         describe(dictionary, image.plan.job, reduced);
         ++m_done;
-        image.isReported = true;
+        image.isTold = true;
     }
     requireRoomForStream(static_cast<qsizetype>(reduced.data.size()));
     pipeline->writeString(reduced.data);
     pipeline->finish();
 }
 
-Reduction ReducedStreams::reduce(std::size_t index) {
-    try {
-        return m_queue.take(index);
-    } catch (const std::exception &) {
-        return {std::nullopt, u"damaged: its data cannot be read"_s};
-    }
-}
-
 void ReducedStreams::provideStreamData(const QPDFObjGen &id, Pipeline *pipeline) {
     const std::size_t index = m_index.at(id);
-    const Reduction reduction = reduce(index);
+    const Reduction reduction = take(index);
     Image &image = m_images[index];
     if (reduction.image) {
         replace(image, *reduction.image, pipeline);

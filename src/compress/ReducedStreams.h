@@ -1,17 +1,19 @@
 #pragma once
 
 #include "compress/ImagePlan.h"
-#include "compress/ReductionQueue.h"
 
+#include <cstddef>
+#include <future>
 #include <map>
+#include <optional>
 #include <vector>
 
 namespace folioforge {
 
-/// Makes the reduced images while the document is written, each when the writer comes to it, so
-/// that neither memory nor disk ever holds them all. A stream's dictionary gets its new entries at
-/// that moment too: the writer makes the data of a stream before it writes the dictionary, which
-/// carries the length.
+/// Makes the reduced images while the document is written, on all cores a few images ahead of the
+/// writer, so that neither memory nor disk ever holds them all. A stream's dictionary gets its new
+/// entries at that moment too: the writer makes the data of a stream before it writes the
+/// dictionary, which carries the length.
 class ReducedStreams : public QPDFObjectHandle::StreamDataProvider {
   public:
     /// Puts itself in place of the planned images of their document.
@@ -29,17 +31,22 @@ class ReducedStreams : public QPDFObjectHandle::StreamDataProvider {
     struct Image {
         PlannedImage plan;
         QPDFObjectHandle original; ///< Still gives the first data after the stream was replaced.
-        bool isReported = false;
+        std::size_t bytes = 0;     ///< An estimate of the memory that its reduction needs.
+        std::future<Reduction> reduction = {}; ///< Valid from its start until it is taken.
+        bool isTold = false;                   ///< Counted as done or left.
     };
 
-    [[nodiscard]] ImageJob load(std::size_t index) const;
-    Reduction reduce(std::size_t index);
+    [[nodiscard]] ImageJob load(const Image &image) const;
+    void start(Image &image);
+    void workAhead(std::size_t from);
+    Reduction take(std::size_t index);
     void keep(Image &image, const QString &reason, Pipeline *pipeline);
     void replace(Image &image, const ReducedImage &reduced, Pipeline *pipeline);
 
     std::vector<Image> m_images;
     std::map<QPDFObjGen, std::size_t> m_index;
-    ReductionQueue m_queue;
+    std::size_t m_bytes = 0;   ///< The sum for those that are started and not taken.
+    std::size_t m_started = 0; ///< How many these are.
     std::vector<LeftImage> m_left;
     int m_done = 0;
 };
