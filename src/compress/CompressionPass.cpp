@@ -1,11 +1,11 @@
 #include "compress/CompressionPass.h"
 
 #include "compress/DuplicateStreams.h"
-#include "compress/FilterChains.h"
 #include "compress/ImagePlan.h"
 #include "compress/ImageUses.h"
 #include "compress/QuartzFilter.h"
 #include "compress/ReducedStreams.h"
+#include "compress/StreamFilters.h"
 #include "compress/TemporaryCopy.h"
 #include "error/Error.h"
 #include "files/OutputFile.h"

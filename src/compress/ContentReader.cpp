@@ -1,8 +1,8 @@
 #include "compress/ContentReader.h"
 
-#include "compress/BoundedText.h"
 #include "compress/ContentScanner.h"
 #include "compress/Resources.h"
+#include "compress/StreamFilters.h"
 
 #include <string>
 #include <vector>
@@ -67,7 +67,7 @@ ContentDraws ContentReader::readForm(QPDFObjectHandle form, ContentScope &outer)
     const ContentDraws inner = readContent(form, scope);
     m_open.erase(id);
     ContentDraws draws;
-    draws.add(inner, linearOf(form.getDict().getKey("/Matrix")));
+    draws.add(inner, matrixOf(form.getDict().getKey("/Matrix")));
     return known.draws[id] = std::move(draws);
 }
 
@@ -79,7 +79,7 @@ ContentDraws ContentReader::readContent(const QPDFObjectHandle &content, Content
     }
     std::string text;
     if (readText(content, text)) {
-        draws.add(drawsOf(text, scope), Linear());
+        draws.add(drawsOf(text, scope), Matrix2x2());
     } else {
         // What cannot be read may draw any image of its resources at any size.
         draws.unclear.merge(imagesBehind(scope.resources));
@@ -91,7 +91,7 @@ ContentDraws ContentReader::drawsOf(const std::string &text, ContentScope &scope
     ContentDraws draws;
     for (const auto &[id, drawn] : scanContent(text, scope.resources)) {
         if (isImage(drawn.object)) {
-            for (const Linear &size : drawn.sizes) {
+            for (const Matrix2x2 &size : drawn.sizes) {
                 draws.add(id, size);
             }
             if (drawn.unclear) {
@@ -104,7 +104,7 @@ ContentDraws ContentReader::drawsOf(const std::string &text, ContentScope &scope
             draws.addUnclear(inner);
             continue;
         }
-        for (const Linear &size : drawn.sizes) {
+        for (const Matrix2x2 &size : drawn.sizes) {
             draws.add(inner, size);
         }
     }

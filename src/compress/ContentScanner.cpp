@@ -1,6 +1,5 @@
 #include "compress/ContentScanner.h"
 
-#include "compress/ContentDraws.h"
 #include "compress/Resources.h"
 
 #include <algorithm>
@@ -59,7 +58,7 @@ class Scanner : public QPDFObjectHandle::TokenFilter {
             restore();
         } else if (word == "cm" && m_count == m_numbers.size() && m_unsaved == 0) {
             m_matrix =
-                Linear{m_numbers[0], m_numbers[1], m_numbers[2], m_numbers[3]}.then(m_matrix);
+                Matrix2x2{m_numbers[0], m_numbers[1], m_numbers[2], m_numbers[3]}.then(m_matrix);
         } else if (word == "Do") {
             draw(resource(m_resources, "/XObject", m_name), m_matrix);
         } else if (word == "gs") {
@@ -67,7 +66,7 @@ class Scanner : public QPDFObjectHandle::TokenFilter {
         } else if (word == "scn" || word == "SCN") {
             // A pattern's cell is laid into the space of the content that holds it, whatever the
             // matrix.
-            draw(resource(m_resources, "/Pattern", m_name), Linear());
+            draw(resource(m_resources, "/Pattern", m_name), Matrix2x2());
         }
     }
 
@@ -96,7 +95,7 @@ class Scanner : public QPDFObjectHandle::TokenFilter {
         }
     }
 
-    void draw(QPDFObjectHandle object, const Linear &matrix) {
+    void draw(QPDFObjectHandle object, const Matrix2x2 &matrix) {
         if (!object.isStream()) {
             return;
         }
@@ -110,8 +109,8 @@ class Scanner : public QPDFObjectHandle::TokenFilter {
     }
 
     const QPDFObjectHandle &m_resources;
-    Linear m_matrix;
-    std::vector<Linear> m_saved;
+    Matrix2x2 m_matrix;
+    std::vector<Matrix2x2> m_saved;
     std::size_t m_unsaved = 0;
     std::array<double, 6> m_numbers = {};
     std::size_t m_count = 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "compress/Linear.h"
+#include "compress/ContentDraws.h"
 
 #include <map>
 #include <set>
@@ -15,7 +15,7 @@ namespace folioforge {
 /// more than ContentDraws::kMaxSizes.
 struct DrawnStream {
     QPDFObjectHandle object;
-    std::set<Linear> sizes;
+    std::set<Matrix2x2> sizes;
     bool unclear = false; ///< Also drawn under some that cannot be told.
 };
 

@@ -1,6 +1,5 @@
 #include "compress/DuplicateStreams.h"
 
-#include "compress/Containers.h"
 #include "compress/SharableStreams.h"
 
 #include <QCryptographicHash>

@@ -1,6 +1,6 @@
 #include "compress/ImagePlan.h"
 
-#include "compress/BoundedText.h"
+#include "compress/StreamFilters.h"
 
 #include <algorithm>
 #include <array>

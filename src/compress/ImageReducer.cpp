@@ -1,10 +1,9 @@
 #include "compress/ImageReducer.h"
 
 #include "compress/JpxReader.h"
-#include "compress/LosslessCodec.h"
 #include "compress/PlanarImage.h"
 #include "compress/Resampler.h"
-#include "compress/jpeg/JpegColor.h"
+#include "compress/StreamFilters.h"
 #include "compress/jpeg/JpegReader.h"
 #include "compress/jpeg/JpegWriter.h"
 #include "error/Error.h"
@@ -143,14 +142,8 @@ PlanarImage decodeSamples(const ImageJob &job, const std::string &data) {
     return image;
 }
 
-/// The image in JPEG's own form, at the wanted size or above.
-PlanarImage decode(const ImageJob &job) {
-    constexpr std::size_t kSlack = 4096;
-    const std::size_t samples = static_cast<std::size_t>(job.width) * job.height *
-                                static_cast<std::size_t>(job.components) *
-                                static_cast<std::size_t>(job.bitsPerComponent) / 8;
-    const std::size_t most = std::max(samples, job.data.size()) + kSlack;
-    const std::string data = decodeLossless(job.data, job.filter, job.parameters, most);
+/// The image in JPEG's own form, at the wanted size or above; `data` is without lossless filters.
+PlanarImage decode(const ImageJob &job, const std::string &data) {
     switch (job.codec) {
     case ImageCodec::Jpeg:
         return decodeJpeg(job, data);
@@ -160,6 +153,18 @@ PlanarImage decode(const ImageJob &job) {
         break;
     }
     return decodeSamples(job, data);
+}
+
+PlanarImage decode(const ImageJob &job) {
+    if (job.filter.empty()) {
+        return decode(job, job.data);
+    }
+    constexpr std::size_t kSlack = 4096;
+    const std::size_t samples = static_cast<std::size_t>(job.width) * job.height *
+                                static_cast<std::size_t>(job.components) *
+                                static_cast<std::size_t>(job.bitsPerComponent) / 8;
+    const std::size_t maxBytes = std::max(samples, job.data.size()) + kSlack;
+    return decode(job, decodeLossless(job.data, job.filter, job.parameters, maxBytes));
 }
 
 /// Brought to the wanted size, or left at that of the decoder where this is near enough.

@@ -66,7 +66,7 @@ class UseCollector {
         }
         const auto from = box.getArrayAsRectangle();
         const auto to = rect.getArrayAsRectangle();
-        const Linear m = linearOf(form.getDict().getKey("/Matrix"));
+        const Matrix2x2 m = matrixOf(form.getDict().getKey("/Matrix"));
         const double w = from.urx - from.llx;
         const double h = from.ury - from.lly;
         const double width = std::abs(w * m.a) + std::abs(h * m.c);
@@ -81,7 +81,7 @@ class UseCollector {
     void addDraws(const ContentDraws &draws, double points, int page) {
         for (const auto &[image, sizes] : draws.images) {
             ImageUse &use = useOf(image, page);
-            for (const Linear &size : sizes) {
+            for (const Matrix2x2 &size : sizes) {
                 use.width = std::max(use.width, points * std::hypot(size.a, size.b));
                 use.height = std::max(use.height, points * std::hypot(size.c, size.d));
             }

@@ -60,4 +60,8 @@ inline bool isColor(int index, int components) {
     return components >= 3 && (index == 1 || index == 2);
 }
 
+/// Turns plain components into those that JPEG keeps (ITU-T T.871, 7): RGB into YCbCr, CMYK into
+/// YCCK, which is YCbCr of the inverted first three inks. Grey stays. All planes are of one size.
+void toJpegColor(PlanarImage &image);
+
 } // namespace folioforge

@@ -1,6 +1,6 @@
 #include "compress/ReducedStreams.h"
 
-#include "compress/BoundedText.h"
+#include "compress/StreamFilters.h"
 #include "error/Error.h"
 #include "image/Parallel.h"
 #include "pdf/QpdfErrors.h"

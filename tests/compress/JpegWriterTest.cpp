@@ -1,7 +1,7 @@
 #include "compress/jpeg/JpegWriter.h"
 #include "support/TestUnit.h"
 
-#include "compress/jpeg/JpegColor.h"
+#include "compress/PlanarImage.h"
 
 #include <QImage>
 #include <QTest>

@@ -1,8 +1,6 @@
 #include "compress/jpeg/JpegReader.h"
 
-#include "compress/jpeg/JpegBands.h"
-#include "compress/jpeg/JpegColor.h"
-#include "compress/jpeg/JpegErrors.h"
+#include "compress/jpeg/JpegCodec.h"
 
 #include <algorithm>
 #include <cmath>
@@ -40,6 +38,11 @@ JDIMENSION bandRows(const jpeg_decompress_struct &codec) {
     const int side = codec.min_DCT_scaled_size;
 #endif
     return static_cast<JDIMENSION>(codec.max_v_samp_factor * side);
+}
+
+/// Whether the components are light or inks, which JPEG can keep as well.
+bool isPlain(J_COLOR_SPACE space) {
+    return space == JCS_RGB || space == JCS_CMYK;
 }
 
 /// Plain components kept at different sizes are possible but have no use.
@@ -133,6 +136,7 @@ struct JpegReader::State {
             return false;
         }
         for (int band = 0; codec.output_scanline < codec.output_height; ++band) {
+            bands.aimAt(image, band);
             jpeg_read_raw_data(&codec, bands.rows(), bandRows(codec));
             bands.copyTo(image, band);
         }

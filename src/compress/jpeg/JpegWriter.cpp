@@ -1,7 +1,6 @@
 #include "compress/jpeg/JpegWriter.h"
 
-#include "compress/jpeg/JpegBands.h"
-#include "compress/jpeg/JpegErrors.h"
+#include "compress/jpeg/JpegCodec.h"
 
 #include <cstdlib>
 

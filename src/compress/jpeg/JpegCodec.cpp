@@ -1,4 +1,4 @@
-#include "compress/jpeg/JpegErrors.h"
+#include "compress/jpeg/JpegCodec.h"
 
 using namespace Qt::StringLiterals;
 

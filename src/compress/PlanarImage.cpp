@@ -1,4 +1,4 @@
-#include "compress/jpeg/JpegColor.h"
+#include "compress/PlanarImage.h"
 
 namespace folioforge {
 

@@ -1,9 +1,12 @@
-#include "compress/LosslessCodec.h"
+#include "compress/StreamFilters.h"
 
-#include "compress/BoundedText.h"
 #include "error/Error.h"
 #include "image/Deflate.h"
 #include "image/RowFilter.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
@@ -12,11 +15,19 @@ using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
+namespace {
+
+bool isCompression(QPDFObjectHandle filter) {
+    constexpr std::array<std::string_view, 6> kNames{
+        "/FlateDecode", "/Fl", "/LZWDecode", "/LZW", "/RunLengthDecode", "/RL"};
+    return filter.isName() &&
+           std::find(kNames.begin(), kNames.end(), filter.getName()) != kNames.end();
+}
+
+} // namespace
+
 std::string decodeLossless(const std::string &data, const std::string &filter,
-                           const std::string &parameters, std::size_t mostBytes) {
-    if (filter.empty()) {
-        return data;
-    }
+                           const std::string &parameters, std::size_t maxBytes) {
     std::string decoded;
     try {
         // A document of its own for each call: libqpdf's objects belong to one thread.
@@ -24,11 +35,9 @@ std::string decodeLossless(const std::string &data, const std::string &filter,
         scratch.emptyPDF();
         scratch.setSuppressWarnings(true);
         QPDFObjectHandle stream = scratch.newStream();
-        const auto parsed = [](const std::string &text) {
-            return text.empty() ? QPDFObjectHandle::newNull() : QPDFObjectHandle::parse(text);
-        };
-        stream.replaceStreamData(data, parsed(filter), parsed(parameters));
-        BoundedText target(decoded, mostBytes);
+        stream.replaceStreamData(data, QPDFObjectHandle::parse(filter),
+                                 QPDFObjectHandle::parse(parameters));
+        BoundedText target(decoded, maxBytes);
         bool filtered = false;
         const bool whole = stream.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized, true);
         if (!filtered || !whole || scratch.anyWarnings()) {
@@ -48,6 +57,20 @@ std::string encodeFlate(const Plane &plane) {
     const auto rows = QByteArray::fromRawData(reinterpret_cast<const char *>(plane.row(0)),
                                               static_cast<qsizetype>(plane.size()));
     return deflateBytes(filterRows(rows, plane.width(), 1)).toStdString();
+}
+
+void keepFilterChains(QPDF &document) {
+    for (QPDFObjectHandle &object : document.getAllObjects()) {
+        if (!object.isStream()) {
+            continue;
+        }
+        QPDFObjectHandle filter = object.getDict().getKey("/Filter");
+        const auto filters =
+            filter.isArray() ? filter.getArrayAsVector() : std::vector<QPDFObjectHandle>();
+        if (std::count_if(filters.begin(), filters.end(), isCompression) > 1) {
+            object.setFilterOnWrite(false);
+        }
+    }
 }
 
 } // namespace folioforge

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "compress/PlanarImage.h"
+#include "error/Error.h"
 
 #include <algorithm>
+#include <array>
+#include <csetjmp>
 #include <cstdio>
 #include <cstring>
 #include <vector>
@@ -10,6 +13,21 @@
 #include <jpeglib.h>
 
 namespace folioforge {
+
+/// Where libjpeg goes on an error, instead of ending the program; a warning about damaged data
+/// counts as one.
+struct JpegEscape {
+    jpeg_error_mgr manager;
+    std::jmp_buf target;
+    std::array<char, JMSG_LENGTH_MAX> message;
+};
+
+/// Makes `escape` the error manager of a codec. Before each call of libjpeg the caller sets the
+/// target, in a function without objects that would have to be destroyed.
+jpeg_error_mgr *install(JpegEscape &escape);
+
+/// What `escape` has caught.
+Error damagedJpeg(const JpegEscape &escape);
 
 /// The rows of one component that libjpeg takes or gives at once, padded to whole blocks.
 class Band {
@@ -25,13 +43,24 @@ class Band {
     [[nodiscard]] int height() const { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] JSAMPARRAY rows() { return m_rows.data(); }
 
-    /// Copies as many rows as there are left in `plane` from row `top` on.
+    /// Lets rows() be those of `plane` from row `top` on, where they need no padding.
+    void aimAt(Plane &plane, int top) {
+        for (int y = 0; y < height(); ++y) {
+            const bool isThere = needsNoPadding(plane) && top + y < plane.height();
+            m_rows[static_cast<std::size_t>(y)] =
+                isThere ? plane.row(top + y) : m_samples.data() + y * m_width;
+        }
+    }
+    /// Copies the rows that had to be padded to `plane`, from row `top` on.
     void copyTo(Plane &plane, int top) const {
+        if (needsNoPadding(plane)) {
+            return;
+        }
         for (int y = top; y < std::min(top + height(), plane.height()); ++y) {
             std::memcpy(plane.row(y), rowAt(y - top), static_cast<std::size_t>(plane.width()));
         }
     }
-    /// The same the other way; the last column and row go on into the padding.
+    /// Copies the other way; the last column and row go on into the padding.
     void copyFrom(const Plane &plane, int top) {
         const auto width = static_cast<std::size_t>(plane.width());
         for (int y = top; y < top + height(); ++y) {
@@ -43,6 +72,9 @@ class Band {
     }
 
   private:
+    [[nodiscard]] bool needsNoPadding(const Plane &plane) const {
+        return static_cast<std::size_t>(plane.width()) == m_width;
+    }
     [[nodiscard]] JSAMPROW rowAt(int y) const { return m_rows[static_cast<std::size_t>(y)]; }
 
     std::size_t m_width;
@@ -62,6 +94,11 @@ class Bands {
         return m_rows.data();
     }
     /// `band` counts the bands from the top.
+    void aimAt(PlanarImage &image, int band) {
+        for (std::size_t i = 0; i < m_bands.size(); ++i) {
+            m_bands[i].aimAt(image.planes[i], band * m_bands[i].height());
+        }
+    }
     void copyTo(PlanarImage &image, int band) const {
         for (std::size_t i = 0; i < m_bands.size(); ++i) {
             m_bands[i].copyTo(image.planes[i], band * m_bands[i].height());
