@@ -1,0 +1,202 @@
+#include "pdf/PDFContext.h"
+#include "support/PdfFixture.h"
+#include "support/PdfProbe.h"
+#include "support/TestUnit.h"
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFAcroFormDocumentHelper.hh>
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using test::PdfFixture;
+using test::PdfProbe;
+
+/// What the catalog of a merged document says of bookmarks, layers, forms, labels and versions.
+class MergedCatalogTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+    int m_number = 0;
+
+    QString newPath() { return m_folder.filePath(u"%1.pdf"_s.arg(++m_number)); }
+
+    /// A document of one page whose catalog holds `keys`.
+    static PdfFixture withCatalog(const QByteArray &keys) {
+        PdfFixture fixture;
+        fixture.object(1, "<< /Type /Catalog /Pages 2 0 R " + keys + " >>").pages(4, 1);
+        return fixture;
+    }
+    static PdfFixture withForm(const QByteArray &keys, const QByteArray &field = {}) {
+        return withCatalog("/AcroForm << /Fields [20 0 R] " + keys + " >>")
+            .object(20, "<< /FT /Tx /T (name) " + field + " >>");
+    }
+
+    QString saved(const PdfFixture &fixture) {
+        const QString path = newPath();
+        return fixture.write(path) ? path : QString();
+    }
+    static std::unique_ptr<QPDF> opened(const QString &path) {
+        auto document = std::make_unique<QPDF>();
+        document->processFile(path.toLocal8Bit().constData());
+        return document;
+    }
+    /// The PDF of all of `sources`, read back with the PDF library alone.
+    std::unique_ptr<QPDF> merged(const std::vector<PdfFixture> &sources) {
+        const QString path = newPath();
+        PDFContext context(path, unflushed());
+        for (const PdfFixture &source : sources) {
+            context.addDocument(saved(source));
+        }
+        const CloseResult result = context.close();
+        if (result.status != CloseResult::Status::Written || !PdfProbe(path).isValid()) {
+            QTest::qFail(qPrintable(result.reason), __FILE__, __LINE__);
+        }
+        return opened(path);
+    }
+    static PDFContext::Settings unflushed() {
+        PDFContext::Settings settings;
+        settings.flush = Flush::Never;
+        return settings;
+    }
+
+    static QPDFObjectHandle catalogEntry(QPDF &document, const char *key, const char *inner) {
+        auto entry = document.getRoot().getKey(key);
+        return entry.isDictionary() ? entry.getKey(inner) : entry;
+    }
+    /// The names of layers in `list`.
+    static QByteArrayList layersIn(QPDFObjectHandle list) {
+        QByteArrayList names;
+        for (QPDFObjectHandle layer : list.getArrayAsVector()) {
+            names += QByteArray::fromStdString(layer.getKey("/Name").getStringValue());
+        }
+        return names;
+    }
+
+  private Q_SLOTS:
+    void aClosedBookmarkIsOneLine() {
+        const auto source = withCatalog("/Outlines << /First 20 0 R /Last 20 0 R >>")
+                                .object(20, "<< /Title (Closed) /Count -3 >>");
+        const auto document = merged({source, source});
+        QCOMPARE(catalogEntry(*document, "/Outlines", "/Count").getIntValue(), 2LL);
+    }
+
+    void layersKeepTheirPlacesInEachList() {
+        const auto source =
+            withCatalog("/OCProperties << /OCGs [20 0 R 21 0 R 22 0 R] /D << /OFF [20 0 R] "
+                        "/Locked [21 0 R] /Order [22 0 R 20 0 R] /RBGroups [[20 0 R 21 0 R]] /AS "
+                        "[<< /Event /Print /Category [/Print] /OCGs [22 0 R] >>] >> >>")
+                .object(20, "<< /Type /OCG /Name (a) >>")
+                .object(21, "<< /Type /OCG /Name (b) >>")
+                .object(22, "<< /Type /OCG /Name (c) >>");
+        const auto document = merged({source, source});
+        QCOMPARE(layersIn(catalogEntry(*document, "/OCProperties", "/OCGs")).join(), "abcabc");
+        auto lists = catalogEntry(*document, "/OCProperties", "/D");
+        QCOMPARE(layersIn(lists.getKey("/OFF")).join(), "aa");
+        QCOMPARE(layersIn(lists.getKey("/Locked")).join(), "bb");
+        QCOMPARE(layersIn(lists.getKey("/Order")).join(), "caca");
+        QCOMPARE(layersIn(lists.getKey("/RBGroups").getArrayItem(1)).join(), "ab");
+        auto automatic = lists.getKey("/AS");
+        QCOMPARE(automatic.getArrayNItems(), 2);
+        QCOMPARE(layersIn(automatic.getArrayItem(1).getKey("/OCGs")).join(), "c");
+    }
+
+    void aFormNeedsAppearancesWhereOneOfItsSourcesDid() {
+        const PdfFixture plain = withForm({});
+        const PdfFixture needy = withForm("/NeedAppearances true");
+        const auto flag = [this](const std::vector<PdfFixture> &sources) {
+            return catalogEntry(*merged(sources), "/AcroForm", "/NeedAppearances");
+        };
+        QVERIFY(flag({plain, needy, plain}).getBoolValue());
+        QVERIFY(flag({plain, plain}).isNull());
+    }
+
+    void aFormHasSignaturesWhereOneOfItsSourcesHad() {
+        const PdfFixture plain = withForm("/SigFlags 2");
+        const PdfFixture withSignature = withForm("/SigFlags 3");
+        const auto flags = [this](const std::vector<PdfFixture> &sources) {
+            return catalogEntry(*merged(sources), "/AcroForm", "/SigFlags");
+        };
+        QCOMPARE(flags({plain, withSignature, plain}).getIntValue(), 1LL);
+        QVERIFY(flags({plain, plain}).isNull());
+    }
+
+    void fieldsAreCalculatedInTheOrderOfTheSources() {
+        const PdfFixture source = withForm("/CO [20 0 R]");
+        const auto document = merged({source, source});
+        const auto order = catalogEntry(*document, "/AcroForm", "/CO").getArrayAsVector();
+        const auto fields = catalogEntry(*document, "/AcroForm", "/Fields").getArrayAsVector();
+        QCOMPARE(order.size(), 2U);
+        QVERIFY(order[0].isSameObjectAs(fields.at(0)));
+        QVERIFY(order[1].isSameObjectAs(fields.at(1)));
+    }
+
+    void theDefaultsOfAFormGoToTheFieldsThatHaveNone() {
+        const QByteArray defaults = "/DA (/F 9 Tf) /Q 2";
+        const auto document =
+            merged({withForm(defaults), withForm(defaults, "/DA (/F 7 Tf) /Q 1")});
+        const auto fields = catalogEntry(*document, "/AcroForm", "/Fields").getArrayAsVector();
+        auto bare = fields.at(0);
+        auto own = fields.at(1);
+        QCOMPARE(bare.getKey("/DA").getStringValue(), std::string("/F 9 Tf"));
+        QCOMPARE(bare.getKey("/Q").getIntValue(), 2LL);
+        QCOMPARE(own.getKey("/DA").getStringValue(), std::string("/F 7 Tf"));
+        QCOMPARE(own.getKey("/Q").getIntValue(), 1LL);
+    }
+
+    void fieldsOfOneNameAreNumberedFromTwo() {
+        const PdfFixture source = withForm({});
+        const auto document = merged({source, source, source});
+        QByteArrayList names;
+        for (QPDFObjectHandle field :
+             catalogEntry(*document, "/AcroForm", "/Fields").getArrayAsVector()) {
+            names += QByteArray::fromStdString(field.getKey("/T").getUTF8Value());
+        }
+        QCOMPARE(names.join(' '), "name name_2 name_3");
+    }
+
+    void resourcesOfOneNameAreNumberedFromTwo() {
+        const QByteArray resources = "/DR << /Font << /F 3 0 R /G 3 0 R >> >> /DA (/F 9 Tf)";
+        const auto document = merged({withForm(resources), withForm(resources)});
+        auto fonts = catalogEntry(*document, "/AcroForm", "/DR").getKey("/Font");
+        QByteArrayList names;
+        for (const auto &[name, font] : fonts.getDictAsMap()) {
+            names += QByteArray::fromStdString(name);
+        }
+        QCOMPARE(names.join(' '), "/F /F_2 /G /G_2");
+        const auto fields = catalogEntry(*document, "/AcroForm", "/Fields").getArrayAsVector();
+        auto second = fields.at(1);
+        QCOMPARE(second.getKey("/DA").getStringValue(), std::string("/F_2 9 Tf"));
+    }
+
+    void labelsBehindTheLastPageAreLeftOut() {
+        const auto document =
+            merged({withCatalog("/PageLabels << /Nums [0 << /S /r >> 1 << /S /a >>] >>")});
+        QCOMPARE(catalogEntry(*document, "/PageLabels", "/Nums").getArrayNItems(), 2);
+    }
+
+    void labelsOfPagesThatAreTakenBackGoWithThem() {
+        const QString path = newPath();
+        PDFContext context(path, unflushed());
+        context.addDocument(saved(withCatalog("/PageLabels << /Nums [0 << /S /r >>] >>")));
+        context.beginPage(QRectF(0, 0, 100, 100));
+        context.endPage();
+        context.truncatePages(1);
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        const auto document = opened(path);
+        QCOMPARE(catalogEntry(*document, "/PageLabels", "/Nums").getArrayNItems(), 2);
+    }
+
+    void theVersionIsTheHighestOfTheSources() {
+        const PdfFixture old = withCatalog({}).header("%PDF-1.3\n");
+        const PdfFixture recent = withCatalog({}).header("%PDF-2.0\n");
+        QCOMPARE(merged({old, recent, old})->getPDFVersion(), std::string("2.0"));
+    }
+};
+
+FOLIOFORGE_TEST(MergedCatalogTest)
+#include "MergedCatalogTest.moc"
