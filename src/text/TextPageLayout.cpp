@@ -89,19 +89,30 @@ class PageFiller {
         , m_left(static_cast<double>(margins.left))
         , m_top(static_cast<double>(margins.top))
         , m_rowHeight(rowHeight)
-        , m_y(static_cast<float>(m_top)) {
+        , m_y(static_cast<float>(m_top)) {}
+
+    /// False when the sink wants no further page.
+    [[nodiscard]] bool beginPage() {
+        if (!m_sink.wantsPage()) {
+            return false;
+        }
         m_sink.beginPage();
+        m_y = static_cast<float>(m_top);
+        return true;
     }
 
-    void addRow(std::span<const Glyph> row) {
+    /// False when the row needs a page that the sink does not want.
+    [[nodiscard]] bool addRow(std::span<const Glyph> row) {
         // Asked before every row, so a row taller than the page still gets a page of its own.
         if (m_height - m_top < m_y + m_rowHeight) {
             m_sink.endPage();
-            m_sink.beginPage();
-            m_y = static_cast<float>(m_top);
+            if (!beginPage()) {
+                return false;
+            }
         }
         m_sink.showRow(m_left, m_height - (m_rowHeight + m_y), row);
         m_y = static_cast<float>(m_y + m_rowHeight);
+        return true;
     }
 
     void finish() { m_sink.endPage(); }
@@ -132,16 +143,19 @@ void layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
     const auto right = static_cast<double>(margins.right);
     RowBreaker breaker(font, pageSize.width() - left - right);
     PageFiller pages(sink, pageSize, margins, font.rowHeight());
-    while (!text.isEmpty()) {
+    bool goesOn = pages.beginPage();
+    while (goesOn && !text.isEmpty()) {
         const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), isNewline);
         const qsizetype length = end - text.utf16();
         QStringView line = text.first(length);
-        while (!line.isEmpty()) {
-            pages.addRow(breaker.takeRow(line));
+        while (goesOn && !line.isEmpty()) {
+            goesOn = pages.addRow(breaker.takeRow(line));
         }
         text = text.sliced(std::min(length + 1, text.size()));
     }
-    pages.finish();
+    if (goesOn) {
+        pages.finish();
+    }
 }
 
 } // namespace folioforge

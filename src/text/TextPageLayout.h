@@ -19,6 +19,8 @@ class TextPageSink {
     TextPageSink &operator=(const TextPageSink &) = delete;
     virtual ~TextPageSink() = default;
 
+    /// Asked before each page: false ends the text there.
+    [[nodiscard]] virtual bool wantsPage() { return true; }
     virtual void beginPage() = 0;
     /// A row whose baseline starts at (x, y); `glyphs` live until the call returns.
     virtual void showRow(double x, double y, std::span<const Glyph> glyphs) = 0;
@@ -30,7 +32,7 @@ class TextPageSink {
 QSizeF getStringSize(QStringView text, const FontCascade &font);
 
 /// Lays `text` out on pages of `pageSize` points and hands them to `sink` in order: at least one,
-/// blank when there is no text.
+/// blank when there is no text. A sink that wants no further page gets none.
 ///
 /// A line of the text becomes rows broken after the first unit that passes the right margin; blank
 /// lines take no room. Rows follow each other from the top margin down to the same distance from
