@@ -1,46 +1,17 @@
 #include "cli/Inputs.h"
 
 #include "error/Error.h"
-#include "filelist/FileKind.h"
+#include "filelist/EntryReader.h"
 #include "filelist/SourceFiles.h"
-#include "files/SourceFile.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
-
-/// Makes the entry of a file of a recognised type; throws Error when it cannot be converted.
-PDFFileInfo readEntry(const QString &path, Input &input) {
-    FileVersion::of(path); // Throws where no regular file is.
-    const FileKind kind = fileKind(path);
-    if (kind == FileKind::Other) {
-        throw Error(u"It is not a recognised type"_s);
-    }
-    if (QString reason; kind == FileKind::Pdf && !isAcceptablePdf(path, &reason)) {
-        input.refusedPdf = true;
-        throw Error(reason);
-    }
-    PDFFileInfo entry(path);
-    if (!entry.readError().isEmpty()) {
-        throw Error(entry.readError());
-    }
-    return entry;
-}
-
-Input collectFile(const QByteArray &path, ReadableLinks &readableLinks) {
-    Input input;
-    input.shown = QString::fromUtf8(path);
-    try {
-        input.entry = readEntry(readableLinks.pathFor(path), input);
-    } catch (const Error &error) {
-        input.rejection = error.reason();
-    }
-    return input;
-}
 
 QByteArray withoutSlashesAtEnd(QByteArray path) {
     while (path.size() > 1 && path.endsWith('/')) {
@@ -56,33 +27,68 @@ std::vector<QByteArray> sortedNames(const QByteArray &folder) {
     return names;
 }
 
-void collectFolder(const QByteArray &path, ReadableLinks &readableLinks,
-                   std::vector<Input> &inputs) {
-    const QByteArray folder = withoutSlashesAtEnd(path);
-    try {
-        for (const QByteArray &name : sortedNames(folder)) {
-            inputs.push_back(collectFile(folder + '/' + name, readableLinks));
+/// The inputs as they are named, in their order, and the files among them.
+class Names {
+  public:
+    explicit Names(ReadableLinks &readableLinks)
+        : m_readableLinks(readableLinks) {}
+
+    void add(const QByteArray &path) {
+        std::error_code unknown;
+        if (std::filesystem::is_directory(path.toStdString(), unknown)) {
+            addFolder(path);
+        } else {
+            addFile(path);
         }
-    } catch (const Error &error) {
-        Input &input = inputs.emplace_back();
-        input.shown = QString::fromUtf8(path);
-        input.rejection = error.reason();
     }
-}
+
+    /// The inputs with what their files hold.
+    std::vector<Input> read() {
+        std::vector<ReadEntry> entries = readEntries(m_files, TextReading::WhenWritten);
+        auto next = entries.begin();
+        for (Input &input : m_inputs) {
+            if (input.rejection.isEmpty()) {
+                input.entry = std::move(next->entry);
+                input.rejection = next->problem;
+                input.refusedPdf = next->refusedPdf;
+                ++next;
+            }
+        }
+        return std::move(m_inputs);
+    }
+
+  private:
+    void addFile(const QByteArray &path) {
+        m_inputs.emplace_back().shown = QString::fromUtf8(path);
+        m_files += m_readableLinks.pathFor(path);
+    }
+
+    void addFolder(const QByteArray &path) {
+        const QByteArray folder = withoutSlashesAtEnd(path);
+        try {
+            for (const QByteArray &name : sortedNames(folder)) {
+                addFile(folder + '/' + name);
+            }
+        } catch (const Error &error) {
+            Input &input = m_inputs.emplace_back();
+            input.shown = QString::fromUtf8(path);
+            input.rejection = error.reason();
+        }
+    }
+
+    ReadableLinks &m_readableLinks;
+    std::vector<Input> m_inputs;
+    QStringList m_files;
+};
 
 } // namespace
 
 std::vector<Input> collectInputs(std::span<const QByteArray> paths, ReadableLinks &readableLinks) {
-    std::vector<Input> inputs;
+    Names names(readableLinks);
     for (const QByteArray &path : paths) {
-        std::error_code unknown;
-        if (std::filesystem::is_directory(path.toStdString(), unknown)) {
-            collectFolder(path, readableLinks, inputs);
-        } else {
-            inputs.push_back(collectFile(path, readableLinks));
-        }
+        names.add(path);
     }
-    return inputs;
+    return names.read();
 }
 
 void sortInputs(std::vector<Input> &inputs, SortOrder order) {

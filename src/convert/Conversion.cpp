@@ -35,8 +35,7 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
               const std::stop_token &stop, EntryOutcome &outcome) {
     switch (fileKind(entry.filePathName())) {
     case FileKind::Text:
-        addTextPage(entry, context, options.textPage, stop);
-        outcome.message = entry.readError() + entry.readWarning();
+        outcome.message = addTextPage(entry, context, options, stop);
         break;
     case FileKind::Pdf:
         if (addPDFFile(entry, context) == 0) {
@@ -108,9 +107,11 @@ std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security) {
 }
 
 PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
-                     const ConversionOptions &options, ConversionObserver *observer,
+                     const ConversionOptions &given, ConversionObserver *observer,
                      const std::stop_token &stop) {
-    StoppableCalls calls(options.calls, stop);
+    StoppableCalls calls(given.calls, stop);
+    ConversionOptions options = given;
+    options.calls = calls;
     PDFContext context(path, {options.info, encryptionFor(options.security), options.flush, calls});
     PDFOutcome outcome;
     for (std::size_t i = 0; i < entries.size() && !stop.stop_requested(); ++i) {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "pdf/PDFContext.h"
+#include "text/FontCascade.h"
 #include "text/PageSetup.h"
 
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 namespace folioforge {
 
@@ -28,6 +30,8 @@ struct ConversionOptions {
     SecuritySettings security;
     PageSetup textPage{TextPageA4, 0, 0, {72, 72, 72, 72}};
     PageSetup imagePage;
+    /// The font of text pages; null for textFont().
+    std::shared_ptr<const FontCascade> textFont;
     int compressIndex = 0; ///< 0 none, 1 "150m", 2 "96m", 3 "72l".
     Flush flush = Flush::Always;
     /// What every file of the run is written through.

@@ -1,29 +1,29 @@
 #include "convert/PageWriters.h"
 
 #include "convert/ImagePlacement.h"
-#include "error/Error.h"
+#include "text/FontCascade.h"
 #include "text/TextPageLayout.h"
+
+#include <memory>
+#include <utility>
 
 namespace folioforge {
 namespace {
 
-/// Thrown through the layout when the run is stopped in the middle of a text.
-struct Stopped {};
-
-/// Draws the rows of a text on pages of the context.
+/// Draws the rows of a text on pages of the context until a stop is requested.
 class ContextSink : public TextPageSink {
   public:
-    ContextSink(PDFContext &context, QSizeF pageSize, const std::stop_token &stop)
+    ContextSink(PDFContext &context, std::shared_ptr<const FontCascade> font, QSizeF pageSize,
+                const std::stop_token &stop)
         : m_context(context)
+        , m_font(std::move(font))
         , m_page(QPointF(0, 0), pageSize)
         , m_stop(stop) {}
 
+    [[nodiscard]] bool wantsPage() override { return !m_stop.stop_requested(); }
     void beginPage() override {
-        if (m_stop.stop_requested()) {
-            throw Stopped();
-        }
         m_context.beginPage(m_page);
-        m_context.setFont(textFont(), textFont()->size());
+        m_context.setFont(m_font, m_font->size());
         m_context.setRGBFillColor(0, 0, 0);
     }
     void showRow(double x, double y, std::span<const Glyph> glyphs) override {
@@ -33,21 +33,21 @@ class ContextSink : public TextPageSink {
 
   private:
     PDFContext &m_context;
+    std::shared_ptr<const FontCascade> m_font;
     QRectF m_page;
     const std::stop_token &m_stop;
 };
 
 } // namespace
 
-void addTextPage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup,
-                 const std::stop_token &stop) {
-    const QSizeF pageSize = getTextPageSize(setup);
-    ContextSink sink(context, pageSize, stop);
-    try {
-        layOutText(entry.getFileString(), pageSize, setup.margins, *textFont(), sink);
-    } catch (const Stopped &) {
-        return;
-    }
+QString addTextPage(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
+                    const std::stop_token &stop) {
+    const SourceText source = entry.sourceText(options.calls);
+    const QSizeF pageSize = getTextPageSize(options.textPage);
+    const auto font = options.textFont ? options.textFont : textFont();
+    ContextSink sink(context, font, pageSize, stop);
+    layOutText(source.text, pageSize, options.textPage.margins, *font, sink);
+    return source.problem;
 }
 
 EmbeddedAs addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup) {

@@ -1,18 +1,21 @@
 #pragma once
 
+#include "convert/ConversionOptions.h"
 #include "filelist/PDFFileInfo.h"
 #include "image/PdfImage.h"
 #include "pdf/PDFContext.h"
-#include "text/PageSetup.h"
+
+#include <QString>
 
 #include <stop_token>
 
 namespace folioforge {
 
-/// Adds the pages of a text entry to `context`: at least one, blank where the text is empty or
-/// could not be read. Ends at the next page once `stop` is requested.
-void addTextPage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup,
-                 const std::stop_token &stop = {});
+/// Adds the pages of a text entry to `context`: at least one, blank where the text is empty or not
+/// valid. Returns what was lost in reading the text, empty for nothing. Ends at the next page once
+/// `stop` is requested. Throws Error when the text cannot be read now.
+QString addTextPage(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
+                    const std::stop_token &stop = {});
 
 /// Adds one page with the image of `entry`; says how the image was embedded. Throws Error, no page
 /// begun, when the image cannot be read.

@@ -1,7 +1,9 @@
 #include "filelist/EntryReader.h"
 
+#include "error/Error.h"
 #include "filelist/FileKind.h"
 #include "filelist/SourceFiles.h"
+#include "files/SourceFile.h"
 #include "image/Parallel.h"
 
 #include <QFileInfo>
@@ -9,32 +11,57 @@
 #include <algorithm>
 #include <atomic>
 #include <future>
-#include <optional>
 #include <thread>
+
+using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
 
-/// Nothing for a PDF that may not enter the list.
-std::optional<PDFFileInfo> readEntry(const QString &path) {
-    const FileKind kind = fileKind(path);
-    if (kind == FileKind::Pdf && !isAcceptablePdf(path)) {
-        return std::nullopt;
+/// Reads what decides whether the file may enter the list. Throws Error where it may not.
+void accept(ReadEntry &read) {
+    const QString &path = read.entry.filePathName();
+    FileVersion::of(path); // Throws where no regular file is.
+    switch (fileKind(path)) {
+    case FileKind::Pdf:
+        read.refusedPdf = true;
+        read.entry.setPageCount(countPdfPages(path));
+        read.refusedPdf = false;
+        break;
+    case FileKind::Image:
+        read.entry.setPageCount(read.entry.getSrcImage() ? 1 : 0);
+        break;
+    case FileKind::Text:
+        break; // The page size decides, and may change until the run.
+    case FileKind::Other:
+        throw Error(u"It is not a recognised type"_s);
     }
-    PDFFileInfo entry(path);
-    if (kind == FileKind::Text || kind == FileKind::Pdf) {
-        entry.setFileSize(sizeText(QFileInfo(path).size()));
-    }
-    return entry;
 }
 
-std::vector<std::optional<PDFFileInfo>> readAll(const QStringList &paths) {
+ReadEntry readEntry(const QString &path, TextReading texts) {
+    ReadEntry read{PDFFileInfo(path, texts), {}, false};
+    const FileKind kind = fileKind(path);
+    if (kind == FileKind::Text || kind == FileKind::Pdf) {
+        read.entry.setFileSize(sizeText(QFileInfo(path).size()));
+    }
+    try {
+        accept(read);
+        read.problem = read.entry.readError();
+    } catch (const Error &error) {
+        read.problem = error.reason();
+    }
+    return read;
+}
+
+} // namespace
+
+std::vector<ReadEntry> readEntries(const QStringList &paths, TextReading texts) {
     const auto count = static_cast<std::size_t>(paths.size());
-    std::vector<std::optional<PDFFileInfo>> read(count);
+    std::vector<ReadEntry> read(count);
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
         for (std::size_t i = next++; i < count; i = next++) {
-            read[i] = readEntry(paths.at(static_cast<qsizetype>(i)));
+            read[i] = readEntry(paths.at(static_cast<qsizetype>(i)), texts);
         }
     };
     // A thread costs more than a few small files.
@@ -48,22 +75,6 @@ std::vector<std::optional<PDFFileInfo>> readAll(const QStringList &paths) {
     work();
     std::ranges::for_each(others, &std::future<void>::get);
     return read;
-}
-
-} // namespace
-
-ReadEntries readEntries(const QStringList &paths) {
-    auto read = readAll(paths);
-    ReadEntries result;
-    result.entries.reserve(read.size());
-    for (std::size_t i = 0; i < read.size(); ++i) {
-        if (read[i]) {
-            result.entries.push_back(std::move(*read[i]));
-        } else {
-            result.badFiles += paths.at(static_cast<qsizetype>(i));
-        }
-    }
-    return result;
 }
 
 } // namespace folioforge

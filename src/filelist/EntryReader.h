@@ -8,14 +8,15 @@
 
 namespace folioforge {
 
-/// What became of paths that were to enter the list.
-struct ReadEntries {
-    std::vector<PDFFileInfo> entries; ///< In the order of their paths.
-    QStringList badFiles;             ///< PDF files that are encrypted or cannot be read, in order.
+/// A path that is to enter the list, as an entry.
+struct ReadEntry {
+    PDFFileInfo entry;       ///< Waiting, with its size text and, as far as known, its page count.
+    QString problem;         ///< Why it cannot be converted; empty when it can.
+    bool refusedPdf = false; ///< The problem is a PDF that is encrypted or cannot be read as one.
 };
 
-/// Makes the entries of `paths`, each waiting and with its size text. The files are read by several
-/// threads, as far as the list needs them; nothing is left running when it returns.
-ReadEntries readEntries(const QStringList &paths);
+/// Makes the entries of `paths` in their order. The files are read by several threads, as far as
+/// the list needs them; nothing is left running when it returns.
+std::vector<ReadEntry> readEntries(const QStringList &paths, TextReading texts);
 
 } // namespace folioforge

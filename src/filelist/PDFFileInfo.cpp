@@ -36,15 +36,27 @@ QVariant dateOrNothing(const QDateTime &date) {
 
 } // namespace
 
+PDFFileInfo::PDFFileInfo(const QString &path, TextReading texts) {
+    m_filePathName = path;
+    readSource(texts);
+    setStateIndex(Waiting);
+}
+
 void PDFFileInfo::setFilePathName(const QString &path) {
     m_filePathName = path;
-    m_fileName = lastPathComponent(path);
+    readSource(TextReading::WhenListed);
+}
+
+void PDFFileInfo::readSource(TextReading texts) {
+    m_fileName = lastPathComponent(m_filePathName);
     m_fileString = QString();
+    m_textIsHeld = false;
     m_srcImage.reset();
     m_readError.clear();
     m_readWarning.clear();
-    switch (fileKind(path)) {
+    switch (fileKind(m_filePathName)) {
     case FileKind::Text:
+        m_textIsHeld = texts == TextReading::WhenListed;
         readText();
         break;
     case FileKind::Pdf:
@@ -58,14 +70,21 @@ void PDFFileInfo::setFilePathName(const QString &path) {
 
 void PDFFileInfo::readText() {
     try {
-        if (auto text = readTextFile(m_filePathName)) {
-            m_fileString = std::move(*text);
+        if (m_textIsHeld) {
+            SourceText source = readTextFile(m_filePathName);
+            m_fileString = std::move(source.text);
+            m_readWarning = std::move(source.problem);
         } else {
-            m_readWarning = u"The text is not valid UTF-8; its page is left blank"_s;
+            requireReadableText(m_filePathName);
         }
     } catch (const Error &error) {
         m_readError = error.reason();
     }
+}
+
+SourceText PDFFileInfo::sourceText(SystemCalls &calls) const {
+    return m_textIsHeld ? SourceText{m_fileString, m_readError + m_readWarning}
+                        : readTextFile(m_filePathName, calls);
 }
 
 void PDFFileInfo::readImage() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "filelist/TextSource.h"
 #include "image/ImageHeader.h"
 
 #include <QString>
@@ -35,14 +36,15 @@ struct SourceImage {
     [[nodiscard]] QSizeF sizeInPoints() const { return header.sizeInPoints(); }
 };
 
+/// When the contents of a text file are read: when it is listed, or each time its pages are written
+/// so that no text is held for longer.
+enum class TextReading { WhenListed, WhenWritten };
+
 /// One row of the file list: an input file, what the list shows of it and where its output went.
 class PDFFileInfo {
   public:
     PDFFileInfo() = default;
-    explicit PDFFileInfo(const QString &path) {
-        setFilePathName(path);
-        setStateIndex(Waiting);
-    }
+    explicit PDFFileInfo(const QString &path, TextReading texts = TextReading::WhenListed);
 
     [[nodiscard]] const QString &filePathName() const { return m_filePathName; }
     [[nodiscard]] const QString &fileName() const { return m_fileName; }
@@ -58,7 +60,10 @@ class PDFFileInfo {
     [[nodiscard]] const std::optional<SourceImage> &getSrcImage() const { return m_srcImage; }
     /// The decoded text of a text entry; a null string when it could not be read as UTF-8.
     [[nodiscard]] const QString &getFileString() const { return m_fileString; }
-    /// Why the source could not be read; empty when it could.
+    /// The text of a text entry as it was listed, else as the file holds it now. Throws Error when
+    /// it cannot be read now.
+    [[nodiscard]] SourceText sourceText(SystemCalls &calls = SystemCalls::system()) const;
+    /// Why the source could not be read when it was listed; empty when it could.
     [[nodiscard]] const QString &readError() const { return m_readError; }
     /// What was lost in reading a source that is converted all the same: a text that is not valid
     /// UTF-8 gives a blank page. Empty for none.
@@ -91,6 +96,7 @@ class PDFFileInfo {
     [[nodiscard]] QVariant valueForUndefinedKey(const QString &key) const;
 
   private:
+    void readSource(TextReading texts);
     void readText();
     void readImage();
     [[nodiscard]] RichText linkText() const;
@@ -106,6 +112,7 @@ class PDFFileInfo {
     std::optional<RichText> m_state;
     std::optional<SourceImage> m_srcImage;
     QString m_fileString;
+    bool m_textIsHeld = false; ///< m_fileString is what the file held when it was listed.
     QString m_readError;
     QString m_readWarning;
 };

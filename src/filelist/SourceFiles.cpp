@@ -69,19 +69,12 @@ QString sizeText(qint64 bytes) {
     return u"%1 MB"_s.arg(QString::number(rounded / kMegabyte, 'f', 1));
 }
 
-bool isAcceptablePdf(const QString &path, QString *reason) {
-    QString refusal;
-    try {
-        if (summarizePDF(path).encrypted) {
-            refusal = u"The document is encrypted"_s;
-        }
-    } catch (const Error &error) {
-        refusal = error.reason();
+int countPdfPages(const QString &path) {
+    const PDFSummary summary = summarizePDF(path);
+    if (summary.encrypted) {
+        throw Error(u"The document is encrypted"_s);
     }
-    if (reason) {
-        *reason = refusal;
-    }
-    return refusal.isEmpty();
+    return summary.pageCount;
 }
 
 Notice badFilesNotice(const QStringList &paths) {

@@ -26,9 +26,9 @@ void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &rea
 /// blocks of 4096: "4 KB", "%d KB" or "%0.1f MB".
 QString sizeText(qint64 bytes);
 
-/// Whether the PDF at `path` may enter the list: it opens as a PDF and is not encrypted. The reason
-/// of a refusal goes to `reason` where that is given.
-bool isAcceptablePdf(const QString &path, QString *reason = nullptr);
+/// The number of pages of the PDF at `path`. Throws Error when it may not enter the list, because
+/// it is encrypted or does not open as a PDF.
+int countPdfPages(const QString &path);
 
 /// The one alert for the PDF files that were refused, in order, one a line. The paths are read as a
 /// format string that has no arguments: "%%" becomes "%", and a conversion, finding no argument,

@@ -4,6 +4,12 @@
 #include "files/SourceFile.h"
 #include "text/TextDecoder.h"
 
+#include <QFile>
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
 #include <limits>
 #include <new>
 
@@ -12,21 +18,35 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-std::optional<QString> readWholeText(const QString &path) {
-    const SourceFile file = SourceFile::open(path);
-    if (file.version().size > std::numeric_limits<int>::max()) {
+void requireTextSize(const FileVersion &file) {
+    if (file.size > std::numeric_limits<int>::max()) {
         throw Error(u"The text is larger than 2 GB"_s);
     }
-    const QByteArray bytes = file.readAll();
-    QString text = decodeText(bytes);
-    return text.isNull() ? std::nullopt : std::optional(std::move(text));
+}
+
+SourceText readWholeText(const QString &path, SystemCalls &calls) {
+    const SourceFile file = SourceFile::open(path, calls);
+    requireTextSize(file.version());
+    QString text = decodeText(file.readAll());
+    if (text.isNull()) {
+        return {{}, u"The text is not valid UTF-8; its page is left blank"_s};
+    }
+    return {std::move(text), {}};
 }
 
 } // namespace
 
-std::optional<QString> readTextFile(const QString &path) {
+void requireReadableText(const QString &path) {
+    requireTextSize(FileVersion::of(path));
+    if (::access(QFile::encodeName(path).constData(), R_OK) != 0) {
+        throw Error(
+            u"Cannot open the file: %1"_s.arg(QString::fromLocal8Bit(std::strerror(errno))));
+    }
+}
+
+SourceText readTextFile(const QString &path, SystemCalls &calls) {
     try {
-        return readWholeText(path);
+        return readWholeText(path, calls);
     } catch (const std::bad_alloc &) {
         throw notEnoughMemory();
     }

@@ -1,14 +1,24 @@
 #pragma once
 
-#include <QString>
+#include "files/SystemCalls.h"
 
-#include <optional>
+#include <QString>
 
 namespace folioforge {
 
-/// The text of the file at `path`, read as UTF-8; a byte order mark is not part of it. Nothing when
-/// the bytes are not valid UTF-8. Throws Error when the file cannot be read or memory has no room
-/// for it.
-std::optional<QString> readTextFile(const QString &path);
+/// The text of a text file.
+struct SourceText {
+    QString text;    ///< A null string when the file could not be read as UTF-8.
+    QString problem; ///< What was lost in reading; empty for nothing.
+};
+
+/// Throws Error unless the file at `path` can be read as a text: a regular file of up to 2 GB that
+/// this user may read. The file is not opened.
+void requireReadableText(const QString &path);
+
+/// The text of the file at `path`, read as UTF-8 through `calls`; a byte order mark is not part of
+/// it. Bytes that are not valid UTF-8 give no text and a problem. Throws Error when the file cannot
+/// be read or memory has no room for it.
+SourceText readTextFile(const QString &path, SystemCalls &calls = SystemCalls::system());
 
 } // namespace folioforge

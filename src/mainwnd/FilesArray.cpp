@@ -39,9 +39,20 @@ QString plainToolTip(const QString &path) {
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
+QVariant pagesOf(const PDFFileInfo &entry) {
+    const int pages = entry.pageCount();
+    if (pages == 0) {
+        return {};
+    }
+    return pages == 1 ? u"1 page"_s : u"%1 pages"_s.arg(pages);
+}
+
 QVariant toolTipOf(const PDFFileInfo &entry, int column) {
     if (column == FilesArray::NameColumn) {
         return plainToolTip(entry.filePathName());
+    }
+    if (column == FilesArray::SizeColumn) {
+        return pagesOf(entry);
     }
     return isLink(entry, column) ? QVariant(plainToolTip(entry.destFilePathName())) : QVariant();
 }

@@ -74,8 +74,6 @@ void MainWndCtrl::windowDidLoad() {
 
     m_cffontRef = m_fontName.toUtf8();
     m_ctFont = FontCascade::load(QString::fromUtf8(m_cffontRef), m_fontSize);
-    m_cgFont = m_ctFont->faceCount() > 0 ? &m_ctFont->face(0) : nullptr;
-    m_fHeight = m_ctFont->rowHeight();
 
     m_mtxTextPageSizeMode->buttons().at(TextPageA4)->setChecked(true);
     m_mtxImagePageSizeMode->buttons().at(ImagePageFollowsImage)->setChecked(true);

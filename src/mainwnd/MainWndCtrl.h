@@ -224,9 +224,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     QString m_fontName = QStringLiteral("Arial Unicode MS");
     int m_fontSize = 14; ///< Points.
     QByteArray m_cffontRef;
-    std::shared_ptr<const FontCascade> m_ctFont;
-    const FontFace *m_cgFont = nullptr; ///< The first face of m_ctFont.
-    float m_fHeight = 0;                ///< Row height of the text font in points.
+    std::shared_ptr<const FontCascade> m_ctFont; ///< The font of text pages.
     std::optional<PDFDocument> m_pdfDoc;
     bool m_bConverting = false;
     std::optional<ConvertInfo> m_convertInfoDict;

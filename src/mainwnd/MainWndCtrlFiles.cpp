@@ -62,6 +62,11 @@ std::optional<QStringList> draggedPaths(const QMimeData &data, ReadableLinks &re
     return paths;
 }
 
+/// Any other file that has a problem enters the list all the same.
+bool isBadPdf(const ReadEntry &read) {
+    return !read.problem.isEmpty() && fileKind(read.entry.filePathName()) == FileKind::Pdf;
+}
+
 bool isDroppable(const QString &path) {
     const QFileInfo info(path);
     return info.exists() && !info.isDir() && fileKind(path) != FileKind::Other;
@@ -127,19 +132,27 @@ void MainWndCtrl::addFiles(const QStringList &paths, int row) {
         return;
     }
     m_bLoading = true;
-    ReadEntries read = readEntries(paths);
-    const QString firstName = read.entries.empty() ? QString() : read.entries.front().fileName();
-    if (!read.entries.empty()) {
+    std::vector<PDFFileInfo> entries;
+    QStringList badFiles;
+    for (ReadEntry &read : readEntries(paths, TextReading::WhenListed)) {
+        if (isBadPdf(read)) {
+            badFiles += read.entry.filePathName();
+        } else {
+            entries.push_back(std::move(read.entry));
+        }
+    }
+    const QString firstName = entries.empty() ? QString() : entries.front().fileName();
+    if (!entries.empty()) {
         m_tableview->setFocus(); // So that the keys of the list are at hand.
     }
-    insertEntries(std::move(read.entries), row);
+    insertEntries(std::move(entries), row);
     m_bLoading = false;
 
     if (!m_filesArray->isEmpty()) {
         hasFileOpened(true);
     }
-    if (!read.badFiles.isEmpty()) {
-        QTimer::singleShot(0, this, [this, bad = read.badFiles] { showBadFiles(bad); });
+    if (!badFiles.isEmpty()) {
+        QTimer::singleShot(0, this, [this, badFiles] { showBadFiles(badFiles); });
     }
     if (m_tfOutputName->text().isEmpty()) {
         m_tfOutputName->setText(withoutExtension(firstName));

@@ -263,6 +263,7 @@ ConversionOptions MainWndCtrl::conversionOptions() const {
     options.security = securitySettings();
     options.textPage = textPageSetup();
     options.imagePage = imagePageSetup();
+    options.textFont = m_ctFont;
     options.compressIndex = m_comboCompressMethod->currentIndex();
     return options;
 }

@@ -425,7 +425,7 @@ class ConversionTest : public QObject {
         std::stop_source source;
         source.request_stop();
         PDFContext context(path("out/a.pdf"), {});
-        addTextPage(*m_list.front(), context, m_options.textPage, source.get_token());
+        addTextPage(*m_list.front(), context, m_options, source.get_token());
         QCOMPARE(context.pageCount(), 0);
     }
 

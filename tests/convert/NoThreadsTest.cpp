@@ -90,11 +90,11 @@ class NoThreadsTest : public QObject, CompressionCase {
             paths += writeFile(path(u"%1.txt"_s.arg(i)), "text");
         }
         const NoThreads none;
-        const ReadEntries read = readEntries(paths);
+        const std::vector<ReadEntry> read = readEntries(paths, TextReading::WhenListed);
         QVERIFY(none.refused() > 0 || std::thread::hardware_concurrency() == 1);
-        QCOMPARE(read.entries.size(), std::size_t{100});
+        QCOMPARE(read.size(), std::size_t{100});
         for (int i = 0; i < 100; ++i) {
-            QCOMPARE(read.entries.at(i).filePathName(), paths.at(i));
+            QCOMPARE(read.at(i).entry.filePathName(), paths.at(i));
         }
     }
 };

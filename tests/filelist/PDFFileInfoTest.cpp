@@ -98,12 +98,12 @@ class PDFFileInfoTest : public QObject {
         QStringList paths(15, large); // Enough for several threads.
         paths += test::writeFile(path("small.txt"), "words");
         const ShortMemory shortMemory;
-        const ReadEntries read = readEntries(paths);
-        QCOMPARE(read.entries.size(), std::size_t{16});
+        const std::vector<ReadEntry> read = readEntries(paths, TextReading::WhenListed);
+        QCOMPARE(read.size(), std::size_t{16});
         for (std::size_t i = 0; i < 15; ++i) {
-            QCOMPARE(read.entries[i].readError(), u"There is not enough memory"_s);
+            QCOMPARE(read[i].problem, u"There is not enough memory"_s);
         }
-        QCOMPARE(read.entries.back().getFileString(), u"words"_s);
+        QCOMPARE(read.back().entry.getFileString(), u"words"_s);
     }
 
     void aNewEntryWaitsWithoutAStateText() {

@@ -1,0 +1,87 @@
+#include "filelist/EntryReader.h"
+
+#include "error/Error.h"
+#include "support/Files.h"
+#include "support/TestUnit.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+
+class EntryReaderTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+    QString path(const char *name) const { return m_folder.filePath(QString::fromUtf8(name)); }
+    static ReadEntry read(const QString &file, TextReading texts = TextReading::WhenListed) {
+        return readEntries({file}, texts).front();
+    }
+
+  private Q_SLOTS:
+    void entriesComeInTheOrderOfTheirPaths() {
+        QStringList paths;
+        for (int i = 0; i < 50; ++i) {
+            paths += test::writeFile(m_folder.filePath(u"%1.txt"_s.arg(i)), "x");
+        }
+        QStringList read;
+        for (const ReadEntry &entry : readEntries(paths, TextReading::WhenListed)) {
+            read += entry.entry.filePathName();
+        }
+        QCOMPARE(read, paths);
+    }
+
+    void anEntryKnowsThePagesThatItsFileHolds() {
+        QCOMPARE(read(test::writePdf(path("three.pdf"), 3)).entry.pageCount(), 3);
+        QCOMPARE(read(test::writePng(path("a.png"), 2, 2)).entry.pageCount(), 1);
+        QCOMPARE(read(test::writeFile(path("broken.png"), "no image")).entry.pageCount(), 0);
+        QCOMPARE(read(test::writeFile(path("a.txt"), "words")).entry.pageCount(), 0);
+    }
+
+    void aRefusedPdfIsToldFromOneThatIsMissing() {
+        const ReadEntry refused = read(test::writeFile(path("no.pdf"), "no document"));
+        QVERIFY(refused.refusedPdf);
+        QCOMPARE(refused.problem, u"This is not a PDF file"_s);
+        const ReadEntry missing = read(path("missing.pdf"));
+        QVERIFY(!missing.refusedPdf);
+        QVERIFY(!missing.problem.isEmpty());
+    }
+
+    void aFileOfAnotherTypeCannotBeConverted() {
+        QCOMPARE(read(test::writeFile(path("a.docx"), "x")).problem,
+                 u"It is not a recognised type"_s);
+    }
+
+    void aPipeIsNeverOpened() {
+        QCOMPARE(::mkfifo(qPrintable(path("pipe.txt")), 0600), 0);
+        for (const TextReading texts : {TextReading::WhenListed, TextReading::WhenWritten}) {
+            QCOMPARE(read(path("pipe.txt"), texts).problem, u"It is not a regular file"_s);
+        }
+    }
+
+    void aTextReadWhenWrittenIsHeldByNobody() {
+        const QString file = test::writeFile(path("late.txt"), "before");
+        const ReadEntry listed = read(file, TextReading::WhenWritten);
+        QCOMPARE(listed.problem, QString());
+        QVERIFY(listed.entry.getFileString().isNull());
+        test::writeFile(file, "after");
+        QCOMPARE(listed.entry.sourceText().text, u"after"_s);
+        QVERIFY(QFile::remove(file));
+        QVERIFY_THROWS_EXCEPTION(Error, static_cast<void>(listed.entry.sourceText()));
+    }
+
+    void aTextReadWhenListedStaysAsItWas() {
+        const QString file = test::writeFile(path("early.txt"), "before");
+        const ReadEntry listed = read(file, TextReading::WhenListed);
+        QVERIFY(QFile::remove(file));
+        QCOMPARE(listed.entry.sourceText().text, u"before"_s);
+    }
+};
+
+FOLIOFORGE_TEST(EntryReaderTest)
+#include "EntryReaderTest.moc"
