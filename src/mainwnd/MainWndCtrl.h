@@ -63,11 +63,6 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     [[nodiscard]] bool isConverting() const { return m_bConverting; }
     [[nodiscard]] const FilesArray &filesArray() const { return *m_filesArray; }
 
-    /// Does nothing, on purpose: a sheet blocks the window by itself.
-    void windowWillBeginSheet() {}
-    /// Does nothing, on purpose: a sheet gives the window free by itself.
-    void windowDidEndSheet() {}
-
     /// Skins `button` with the images `name`, `name`-hover and `name`-disable among the
     /// application's resources; a missing one of the latter two gives way to the first. Images are
     /// looked up by name alone, so `folder` plays no part.
@@ -91,10 +86,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void clickBtnCheckUserPassword();
     void clickBtnCheckOwnerPassword();
 
-    /// Page sizes in points, as the controls stand now.
-    [[nodiscard]] QSizeF getTextPageSize() const;
-    [[nodiscard]] QSizeF getImagePageSize() const;
-    /// Each shows its notice and answers no where the settings are invalid.
+    /// The checks of a run. Each shows its notice and answers no where the settings are invalid.
     bool checkTextPageSizeSettings();
     bool checkImagePageSizeSettings();
     bool checkSecuritySettings();
@@ -153,6 +145,16 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void endPageWrite(int pageIndex);
     void showAlertView();
     void hideAlertView();
+
+    // ---- Kept for callers alone: nothing in the program calls these --------------------------
+
+    /// Does nothing, on purpose: a sheet blocks the window by itself.
+    void windowWillBeginSheet() {}
+    /// Does nothing, on purpose: a sheet gives the window free by itself.
+    void windowDidEndSheet() {}
+    /// Page sizes in points, as the controls stand now; a run asks the functions of these names.
+    [[nodiscard]] QSizeF getTextPageSize() const;
+    [[nodiscard]] QSizeF getImagePageSize() const;
 
   private:
     // Life of the window.

@@ -114,7 +114,8 @@ void MainWndCtrl::showFileBeingWritten(int done) {
 
 void MainWndCtrl::showProgress(float value) {
     m_prgCreate->show();
-    m_prgCreate->setValue(static_cast<int>(value));
+    constexpr float kFull = 100;
+    m_prgCreate->setValue(qRound(value / kFull * static_cast<float>(m_prgCreate->maximum())));
 }
 
 void MainWndCtrl::createPDF() {

@@ -11,14 +11,13 @@ class NotificationCenter : public QObject {
     Q_OBJECT
 
   public:
-    /// Says that a page was written; its index, counted from 0, stands under pageIndexKey(). A way
-    /// in for other senders: the compression pass here tells its observer.
+    /// Posted by the compression pass, on its thread, when a page is written; its index, counted
+    /// from 0, stands under pageIndexKey().
     static QString didEndPageWrite() {
         return QStringLiteral("PDFDocumentDidEndPageWriteNotification");
     }
     static QString pageIndexKey() { return QStringLiteral("PDFDocumentPageIndex"); }
-    /// Posted to say that the compression pass is over. Nothing here posts it: it is a way in for
-    /// other senders.
+    /// Says that the compression pass is over. Kept for other senders: nothing here posts it.
     static QString compressionCompleted() { return QStringLiteral("ccccc"); }
 
     using QObject::QObject;

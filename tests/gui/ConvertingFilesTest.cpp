@@ -468,14 +468,14 @@ class ConvertingFilesTest : public QObject {
         addTexts(w, 4);
         mergeInto(w, u"all"_s);
         auto *bar = w.control<QProgressBar>("m_prgCreate");
-        bar->setValue(99);
+        bar->setValue(999);
         const QSignalSpy values(bar, &QProgressBar::valueChanged);
         run(w);
         QList<int> shown;
         for (const auto &value : values) {
             shown += value.front().toInt();
         }
-        QCOMPARE(shown, (QList<int>{0, 12, 25, 37, 50}));
+        QCOMPARE(shown, (QList<int>{0, 125, 250, 375, 500})); // Of 1000.
     }
 
     void theCompressMethodShrinksThePicturesOfTheFinishedPdf_data() {
@@ -504,12 +504,33 @@ class ConvertingFilesTest : public QObject {
         const PdfProbe pdf(outPath(w, small));
         QVERIFY(pdf.isValid());
         QCOMPARE(pdf.images().size(), 1);
-        QCOMPARE(values.last().front().toInt(), 100);
+        QCOMPARE(values.last().front().toInt(), 1000);
         QCOMPARE(w.states(), merge ? u"Finished"_s : u"photo(1).pdf"_s);
         QCOMPARE(QDir(m_temporaryFolder.path()).entryList(QDir::Files), QStringList());
     }
 
-    void pageNotificationsDuringAPassFillTheSecondHalfOfTheBar() {
+    void thePassPostsANotificationForEachPageThatFillsTheSecondHalfOfTheBar() {
+        TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
+        addTexts(w, 3);
+        mergeInto(w, u"all"_s);
+        w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(3);
+        const QSignalSpy posted(&w.notifications, &NotificationCenter::posted);
+        const QSignalSpy values(w.control<QProgressBar>("m_prgCreate"),
+                                &QProgressBar::valueChanged);
+        run(w);
+        QCOMPARE(posted.size(), 3);
+        for (int page = 0; page < 3; ++page) {
+            QCOMPARE(posted[page][0].toString(), u"PDFDocumentDidEndPageWriteNotification"_s);
+            QCOMPARE(posted[page][1].toMap()[u"PDFDocumentPageIndex"_s].toInt(), page);
+        }
+        QList<int> shown;
+        for (const auto &value : values) {
+            shown += value.front().toInt();
+        }
+        QCOMPARE(shown.last(3), (QList<int>{667, 833, 1000}));
+    }
+
+    void pageNotificationsOfOthersDuringAPassMoveTheBar() {
         TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
         addTexts(w, 4);
         mergeInto(w, u"all"_s);
@@ -518,14 +539,14 @@ class ConvertingFilesTest : public QObject {
         QList<int> shown;
         connect(bar, &QProgressBar::valueChanged, this, [&](int value) {
             shown += value;
-            if (value == 100) {
+            if (value == 1000) {
                 w.notifications.post(NotificationCenter::didEndPageWrite(),
                                      {{NotificationCenter::pageIndexKey(), 1}});
             }
         });
         run(w);
-        QVERIFY(shown.contains(100));
-        QCOMPARE(shown.last(), 75);
+        QVERIFY(shown.contains(1000));
+        QCOMPARE(shown.last(), 750);
     }
 
     void pageNotificationsOutsideAPassAreIgnored() {

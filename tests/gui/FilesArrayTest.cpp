@@ -217,6 +217,23 @@ class FilesArrayTest : public QObject {
         QVERIFY(!cell(files, 0, FilesArray::DestinationColumn, FilesArray::LinkRole).toBool());
     }
 
+    void theSizeTellsThePagesThatAreKnown_data() {
+        QTest::addColumn<int>("pages");
+        QTest::addColumn<QString>("toolTip");
+        QTest::newRow("unknown") << 0 << QString();
+        QTest::newRow("one") << 1 << u"1 page"_s;
+        QTest::newRow("several") << 12 << u"12 pages"_s;
+    }
+    void theSizeTellsThePagesThatAreKnown() {
+        QFETCH(const int, pages);
+        QFETCH(const QString, toolTip);
+        FilesArray files;
+        PDFFileInfo entry = named(u"report.pdf"_s);
+        entry.setPageCount(pages);
+        files.insert(-1, {entry});
+        QCOMPARE(cell(files, 0, FilesArray::SizeColumn, Qt::ToolTipRole).toString(), toolTip);
+    }
+
     void anEntryWithoutStateTextShowsNone() {
         FilesArray files;
         files.insert(-1, {named(u"a"_s)});

@@ -64,7 +64,7 @@ void takeAll(MainWndCtrl &controller, Photographer &photographer, const QStringL
     photographer.take(u"options-security"_s);
     photographer.press("m_btnElapse");
     controller.window()->findChild<QProgressBar *>()->show();
-    controller.window()->findChild<QProgressBar *>()->setValue(35);
+    controller.window()->findChild<QProgressBar *>()->setValue(350);
     controller.window()->findChild<QWidget *>(u"m_lbProgress"_s)->show();
     controller.showAlertView();
     controller.window()->findChild<BusySheet *>()->setFile(u"report.pdf"_s, 12, 17);
