@@ -44,7 +44,7 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
         break;
     case FileKind::Image:
     case FileKind::Other:
-        outcome.embeddedAs = addImagePage(entry, context, options.imagePage);
+        outcome.embeddedAs = addImagePage(entry, context, options.imagePage, options.calls);
         break;
     }
     // A failure that shows only now is this entry's too.

@@ -50,8 +50,9 @@ QString addTextPage(const PDFFileInfo &entry, PDFContext &context, const Convers
     return source.problem;
 }
 
-EmbeddedAs addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup) {
-    PdfImage image = toPdfImage(entry.filePathName());
+EmbeddedAs addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup,
+                        SystemCalls &calls) {
+    PdfImage image = toPdfImage(entry.filePathName(), calls);
     const EmbeddedAs embeddedAs = image.embeddedAs;
     const ImagePlacement placement = placeImage(image.header.sizeInPoints(), setup);
     context.beginPage(QRectF(QPointF(0, 0), placement.page));

@@ -17,9 +17,10 @@ namespace folioforge {
 QString addTextPage(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
                     const std::stop_token &stop = {});
 
-/// Adds one page with the image of `entry`; says how the image was embedded. Throws Error, no page
-/// begun, when the image cannot be read.
-EmbeddedAs addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup);
+/// Adds one page with the image of `entry`, which is read through `calls`; says how the image was
+/// embedded. Throws Error, no page begun, when the image cannot be read.
+EmbeddedAs addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup,
+                        SystemCalls &calls = SystemCalls::system());
 
 /// Adds every page of the entry's PDF unchanged and returns their number. Throws Error when it
 /// cannot be opened.

@@ -4,6 +4,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
+
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -14,15 +17,39 @@ namespace {
 constexpr qint64 kWindowSize = 64 << 10;
 constexpr qint64 kWindowAlignment = 16 << 10;
 
+/// A part of the descriptors that the system allows: the rest of the program needs some too.
+std::size_t maxKeptFiles() {
+    constexpr rlim_t kShare = 4;
+    constexpr rlim_t kMaxKept = 256;
+    rlimit limit{};
+    return ::getrlimit(RLIMIT_NOFILE, &limit) == 0 ? std::min(limit.rlim_cur / kShare, kMaxKept)
+                                                   : 0;
+}
+
 } // namespace
 
-void SourceReader::closeFile() {
+SourceReader::SourceReader(SystemCalls &calls)
+    : m_calls(calls)
+    , m_maxKept(maxKeptFiles()) {}
+
+void SourceReader::leaveFile() {
     m_open.reset();
     m_window = {};
 }
 
+void SourceReader::keepOpen(std::shared_ptr<const SourceFile> file) {
+    if (m_kept.size() < m_maxKept && !keptFile(file->version())) {
+        m_kept.push_back(std::move(file));
+    }
+}
+
+std::shared_ptr<const SourceFile> SourceReader::keptFile(const FileVersion &version) const {
+    const auto kept = std::ranges::find(m_kept, version, &SourceFile::version);
+    return kept != m_kept.end() ? *kept : nullptr;
+}
+
 void SourceReader::beginAnew() {
-    closeFile();
+    leaveFile();
     m_failure.reset();
 }
 
@@ -35,7 +62,7 @@ void SourceReader::requireNoFailure() const {
 void SourceReader::finishFile() {
     if (m_open) {
         m_open->requireUnchanged();
-        closeFile();
+        leaveFile();
     }
 }
 
@@ -44,7 +71,12 @@ void SourceReader::openFile(const FileVersion &file) {
         return;
     }
     finishFile();
-    m_open = SourceFile::open(file.path, m_calls);
+    m_open = keptFile(file);
+    if (m_open) {
+        m_open->requireUnchanged();
+        return;
+    }
+    m_open = std::make_shared<const SourceFile>(SourceFile::open(file.path, m_calls));
     if (m_open->version() != file) {
         throwFileChanged(file.path);
     }
@@ -74,7 +106,7 @@ template<typename Step> auto SourceReader::keepingFailure(const Step &step) {
     try {
         return step();
     } catch (const Error &error) {
-        closeFile();
+        leaveFile();
         if (!m_failure) {
             m_failure = error.reason();
         }
@@ -93,7 +125,13 @@ std::size_t SourceReader::read(const FileVersion &file, qint64 offset, std::span
 }
 
 void SourceReader::finish() {
-    keepingFailure([&] { finishFile(); });
+    keepingFailure([&] {
+        const auto file = m_open;
+        finishFile();
+        if (file) {
+            keepOpen(file);
+        }
+    });
 }
 
 std::span<const char> SourceReader::view(const FileVersion &file, qint64 offset, qint64 size) {

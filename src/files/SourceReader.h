@@ -6,17 +6,19 @@
 #include <QString>
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <span>
+#include <vector>
 
 namespace folioforge {
 
-/// Reads any number of source files through one descriptor: the file read last stays open until
-/// another one is asked for.
+/// Reads any number of source files with few descriptors. The file that is read stays open until
+/// another one is asked for; as many as the system's limit allows stay open after that, and the
+/// others are opened again when they are read again.
 class SourceReader {
   public:
-    explicit SourceReader(SystemCalls &calls = SystemCalls::system())
-        : m_calls(calls) {}
+    explicit SourceReader(SystemCalls &calls = SystemCalls::system());
     SourceReader(const SourceReader &) = delete;
     SourceReader &operator=(const SourceReader &) = delete;
 
@@ -34,22 +36,27 @@ class SourceReader {
     /// Throws that Error where there was one.
     void requireNoFailure() const;
 
-    /// Closes the open file, if any, and forgets what failed.
+    /// Keeps `file` open for later reads, unless too many are open already.
+    void keepOpen(std::shared_ptr<const SourceFile> file);
+    /// Leaves the file that is read, whatever became of it, and forgets what failed.
     void beginAnew();
-    /// Closes the open file, if any. Throws Error when it changed while it was read.
+    /// Leaves the file that is read, if any, and keeps it open for later reads. Throws Error when
+    /// it changed while it was read.
     void finish();
-    /// Closes the open file, if any, whatever became of it.
-    void closeFile();
 
   private:
+    void leaveFile();
     void finishFile();
+    [[nodiscard]] std::shared_ptr<const SourceFile> keptFile(const FileVersion &version) const;
     void openFile(const FileVersion &file);
     /// Does `step`, and keeps the Error that it throws.
     template<typename Step> auto keepingFailure(const Step &step);
     std::size_t readThroughWindow(qint64 offset, std::span<char> target);
 
     SystemCalls &m_calls;
-    std::optional<SourceFile> m_open;
+    std::size_t m_maxKept;
+    std::shared_ptr<const SourceFile> m_open;              ///< The file that is read.
+    std::vector<std::shared_ptr<const SourceFile>> m_kept; ///< Files that stay open.
     QByteArray m_window; ///< Bytes of the open file from m_windowStart on.
     qint64 m_windowStart = 0;
     QByteArray m_view; ///< Kept for the next view(): large blocks are dear to get from the system.

@@ -8,6 +8,7 @@
 #include <QByteArrayView>
 #include <QLatin1StringView>
 
+#include <memory>
 #include <new>
 #include <vector>
 
@@ -35,12 +36,13 @@ inline constexpr qint64 kSniffedBytes = 64;
 /// otherwise. Throws Error when neither tells.
 const ImageFormat &formatOf(const FileView &file);
 
-/// What `read(file, format)` gives of the image file at `path`, which is open meanwhile. Throws
-/// Error, also where there is not enough memory.
-template<typename Read> auto readImageFile(const QString &path, const Read &read) {
+/// What `read(file, format)` gives of the image file at `path`, which stays open as long as a copy
+/// of the pointer `file` lives. Throws Error, also where there is not enough memory.
+template<typename Read>
+auto readImageFile(const QString &path, SystemCalls &calls, const Read &read) {
     try {
-        const SourceFile file = SourceFile::open(path);
-        return read(file, formatOf(file.view()));
+        const auto file = std::make_shared<const SourceFile>(SourceFile::open(path, calls));
+        return read(file, formatOf(file->view()));
     } catch (const std::bad_alloc &) {
         throw Error(QStringLiteral("There is not enough memory for the image"));
     }

@@ -59,11 +59,12 @@ QSizeF ImageHeader::sizeInPoints() const {
 }
 
 ImageHeader readImageHeader(const QString &path) {
-    return readImageFile(path, [](const SourceFile &file, const ImageFormat &format) {
-        ImageHeader header = format.readHeader(file.view());
-        header.kind = format.kind;
-        return header;
-    });
+    return readImageFile(path, SystemCalls::system(),
+                         [](const auto &file, const ImageFormat &format) {
+                             ImageHeader header = format.readHeader(file->view());
+                             header.kind = format.kind;
+                             return header;
+                         });
 }
 
 } // namespace folioforge

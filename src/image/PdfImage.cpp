@@ -4,12 +4,14 @@
 
 namespace folioforge {
 
-PdfImage toPdfImage(const QString &path) {
-    return readImageFile(path, [](const SourceFile &file, const ImageFormat &format) {
-        PdfImage image = format.toPdfImage(file.view());
-        file.requireUnchanged();
+PdfImage toPdfImage(const QString &path, SystemCalls &calls) {
+    return readImageFile(path, calls, [](const auto &file, const ImageFormat &format) {
+        PdfImage image = format.toPdfImage(file->view());
+        file->requireUnchanged();
         image.header.kind = format.kind;
-        image.source = file.version();
+        if (!image.slices.empty()) {
+            image.source = file;
+        }
         return image;
     });
 }

@@ -47,11 +47,11 @@ struct PdfImage {
     bool ccittBlackIs1 = false; ///< CCITT: BlackIs1 parameter.
     bool isPlainRgb = false;    ///< DCT: the samples are RGB though the data does not say so.
 
-    /// The compressed data: either in `data`, or slices of the file `source` in this order.
+    /// The compressed data: either in `data`, or slices of `source` in this order.
     QByteArray data;
     std::vector<FileSlice> slices;
-    /// The source file as it was read; a change before its slices are written is an error.
-    FileVersion source;
+    /// The file of the slices, still open; null where there are none.
+    std::shared_ptr<const SourceFile> source;
 
     /// Opacity of each pixel as a grey image; none for an opaque image.
     std::unique_ptr<PdfImage> softMask;
@@ -60,6 +60,6 @@ struct PdfImage {
 /// Reads the image at `path` and puts it into the form in which a PDF holds it: the file's own
 /// compressed bytes where a PDF can hold them, else decoded and compressed losslessly. Throws
 /// Error when the file cannot be read or decoded.
-PdfImage toPdfImage(const QString &path);
+PdfImage toPdfImage(const QString &path, SystemCalls &calls = SystemCalls::system());
 
 } // namespace folioforge

@@ -68,7 +68,7 @@ QPDFObjectHandle labSpace() {
 }
 
 std::string sourceKey(const PdfImage &image) {
-    std::string key = image.source.key();
+    std::string key = image.source->version().key();
     for (const FileSlice &slice : image.slices) {
         key += ' ' + std::to_string(slice.offset) + '+' + std::to_string(slice.length);
     }

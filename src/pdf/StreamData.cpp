@@ -110,10 +110,12 @@ QPDFObjectHandle StreamData::pageContent(QByteArrayView content) {
     return stream;
 }
 
-QPDFObjectHandle StreamData::fromFile(const QPDFObjectHandle &dictionary, FileVersion file,
+QPDFObjectHandle StreamData::fromFile(const QPDFObjectHandle &dictionary,
+                                      std::shared_ptr<const SourceFile> file,
                                       std::vector<FileSlice> slices) {
-    return make(dictionary,
-                std::make_shared<SlicedData>(m_reader, std::move(file), std::move(slices)));
+    const FileVersion version = file->version();
+    m_reader->keepOpen(std::move(file));
+    return make(dictionary, std::make_shared<SlicedData>(m_reader, version, std::move(slices)));
 }
 
 } // namespace folioforge

@@ -35,7 +35,8 @@ class StreamData {
     /// Waits until all page contents are stored; throws Error when one cannot be.
     void waitForPages() { m_pages.wait(); }
     /// A stream with slices of a source file, one after another.
-    QPDFObjectHandle fromFile(const QPDFObjectHandle &dictionary, FileVersion file,
+    QPDFObjectHandle fromFile(const QPDFObjectHandle &dictionary,
+                              std::shared_ptr<const SourceFile> file,
                               std::vector<FileSlice> slices);
 
   private:

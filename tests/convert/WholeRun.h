@@ -124,8 +124,8 @@ class WholeRun {
         });
     }
 
-    /// The output that stands there, what it was before it was compressed, and what it is without
-    /// the PDF.
+    /// The output that stands there, what it was before it was compressed, and what it is with one
+    /// of two sources alone.
     QList<QByteArray> wholeOutputs(const Kind &kind) const {
         QList<QByteArray> whole{readFile(output())};
         if (kind.compressIndex != 0) {
@@ -136,9 +136,11 @@ class WholeRun {
             whole += readFile(output());
         }
         if (kind.merge) {
-            QFile::remove(output());
-            run({m_entries.front()}, kind, SystemCalls::system());
-            whole += readFile(output());
+            for (const PDFFileInfo &entry : m_entries) {
+                QFile::remove(output());
+                run({entry}, kind, SystemCalls::system());
+                whole += readFile(output());
+            }
         }
         return whole;
     }

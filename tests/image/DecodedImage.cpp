@@ -149,7 +149,7 @@ QByteArray dataOf(const PdfImage &image) {
     if (image.slices.empty()) {
         return image.data;
     }
-    const QByteArray file = bytesOf(image.source.path);
+    const QByteArray file = bytesOf(image.source->version().path);
     QByteArray data;
     for (const FileSlice &slice : image.slices) {
         data += file.mid(slice.offset, slice.length);

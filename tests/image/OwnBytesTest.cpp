@@ -44,7 +44,7 @@ class OwnBytesTest : public QObject {
             const PdfImage image = toPdfImage(imageFile(QString::fromLatin1(name)));
             QCOMPARE(image.embeddedAs, EmbeddedAs::OwnBytes);
             QCOMPARE(image.predictor, 15);
-            QVERIFY(bytesOf(image.source.path).contains("IDAT" + dataOf(image)));
+            QVERIFY(bytesOf(image.source->version().path).contains("IDAT" + dataOf(image)));
         }
     }
 

@@ -47,8 +47,8 @@ PdfImage jpegInPlace(const QString &path) {
     image.height = pixels.height();
     image.filter = ImageFilter::Dct;
     image.embeddedAs = EmbeddedAs::OwnBytes;
-    image.source = FileVersion::of(path);
-    image.slices = {{0, image.source.size}};
+    image.source = std::make_shared<const SourceFile>(SourceFile::open(path));
+    image.slices = {{0, image.source->version().size}};
     return image;
 }
 
@@ -396,8 +396,8 @@ class PDFContextTest : public QObject {
         PdfImage image;
         image.width = image.height = 1;
         image.filter = ImageFilter::Dct;
-        image.source = FileVersion::of(source);
-        image.slices = {{0, image.source.size}};
+        image.source = std::make_shared<const SourceFile>(SourceFile::open(source));
+        image.slices = {{0, image.source->version().size}};
         context.beginPage({0, 0, 10, 10});
         context.drawImage({0, 0, 10, 10}, std::move(image), 1);
         context.endPage();
