@@ -9,8 +9,8 @@ namespace folioforge {
 
 void appendNumber(std::string &content, double value) {
     constexpr int kDecimals = 5;
-    // Readers keep numbers in single precision; what exceeds this can only be a mistake, and its
-    // digits would not fit the buffer.
+    // Readers keep numbers in single precision. A larger one is a mistake, and its digits would not
+    // fit into the buffer.
     constexpr double kLimit = 1e15;
     const double bounded = std::isfinite(value) ? std::clamp(value, -kLimit, kLimit) : 0.0;
 

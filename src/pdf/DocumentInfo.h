@@ -7,7 +7,7 @@ class QPDF;
 
 namespace folioforge {
 
-/// Document information; every field is written, empty or not. The creator is always
+/// Document information. Every field is written, empty or not; the creator is always
 /// "Vesprin-Folioforge".
 struct DocumentInfo {
     QString title;

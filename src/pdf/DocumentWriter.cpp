@@ -58,12 +58,12 @@ std::string infoText(QPDF &document) {
     return document.getTrailer().getKey("/Info").unparseResolved();
 }
 
-/// Replaces the identifier that the library made of the time by one that follows from the
-/// document. A checksum takes less time than the library's own MD5 over all bytes, which reads no
-/// faster than a disk; `checksum` is the CRC-32 of the file.
+/// Replaces the identifier, which the library derives from the time, by one that follows from the
+/// document. `checksum` is the CRC-32 of the file; the library's deterministic identifier is an
+/// MD5 over all bytes, which takes as long as reading them from a disk.
 void replaceId(QPDF &document, OutputFile &file, std::uint32_t checksum) {
     Trailer trailer = readTrailer(file);
-    // CRC-32 is linear: this takes the library's identifier out of it.
+    // CRC-32 is linear, so two sums over the trailer replace the library's digits by zeros in it.
     checksum ^= checksumOf(trailer.bytes);
     putId(trailer, QByteArray(kIdDigits, '0'));
     checksum ^= checksumOf(trailer.bytes);

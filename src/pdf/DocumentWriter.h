@@ -16,8 +16,8 @@ namespace folioforge {
 
 struct Encryption;
 
-/// Brings the library's bytes to an output file. The library also writes while it unwinds, where
-/// throwing would end the program: a failure is kept until it can be thrown.
+/// Writes libqpdf's output to a file. The library also writes in destructors, where an exception
+/// would end the program: a failure is stored, and throwFailure() throws it.
 class OutputPipeline final : public Pipeline {
   public:
     explicit OutputPipeline(OutputFile &file);
@@ -36,11 +36,12 @@ class OutputPipeline final : public Pipeline {
     std::uint32_t m_checksum = 0;
 };
 
-/// Makes `writer` encrypt what it writes. Throws Error where a password cannot be used.
+/// Makes `writer` encrypt its output. Throws Error when a password cannot be used.
 void applyEncryption(QPDFWriter &writer, const Encryption &encryption);
 
-/// Writes `document` to `file`: object streams, compressed, with an /ID that follows from the
-/// bytes, so that the same document is written the same. Throws Error.
+/// Writes `document` to `file` with object streams and compressed. The /ID follows from the bytes,
+/// so that an unencrypted document is always written the same. A null `encryption` means none.
+/// Throws Error.
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
                    const std::string &minimumVersion);
 

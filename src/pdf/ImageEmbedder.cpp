@@ -34,7 +34,7 @@ int componentsOf(ImageColor color) {
     }
 }
 
-/// The colour space that an ICC profile says it is for, at byte 16 (ICC.1:2010, 7.2).
+/// Whether an ICC profile is for the colour space `signature` (ICC.1:2010, 7.2).
 bool profileFits(const QByteArray &profile, const char *signature) {
     constexpr qsizetype kHeaderSize = 128;
     constexpr qsizetype kSpaceOffset = 16;
@@ -62,7 +62,7 @@ void addDecodeParms(QPDFObjectHandle &dictionary, const PdfImage &image) {
 }
 
 QPDFObjectHandle labSpace() {
-    // The white point of ICC's connection space, D50, and the range of signed eight-bit samples.
+    // D50, the white point of ICC's connection space, and the range of signed 8-bit samples.
     return QPDFObjectHandle::parse(
         "[/Lab << /WhitePoint [0.9642 1 0.8249] /Range [-128 127 -128 127] >>]");
 }

@@ -11,13 +11,13 @@
 
 namespace folioforge {
 
-/// Makes image XObjects (ISO 32000-1, 8.9.5) of encoded images.
+/// Makes image XObjects (ISO 32000-1, 8.9.5).
 class ImageEmbedder {
   public:
     ImageEmbedder(QPDF &document, StreamData &streams);
 
-    /// The XObject of `image`; a part of a source file that was embedded before is used again.
-    /// Throws Error when the source is not what it was when it was examined.
+    /// The XObject of `image`. The same part of the same source file is embedded once. Throws Error
+    /// when the source file has changed since it was examined.
     QPDFObjectHandle embed(const PdfImage &image);
 
   private:

@@ -48,7 +48,7 @@ struct OpenPage {
         }
         content += "rg ";
     }
-    /// What is drawn next is no text.
+    /// To be called before anything but text is drawn.
     void endText() {
         if (text) {
             text->end();
@@ -131,7 +131,7 @@ PDFContext::Impl::Impl(QString path, Settings settings)
 
 QPDFObjectHandle PDFContext::Impl::resources() {
     if (page.images.empty()) {
-        // Pages of text use the same few fonts over and over.
+        // Most pages of text use the same few fonts.
         auto &shared = m_fontResources[page.fonts];
         if (!shared.isInitialized()) {
             auto dictionary = QPDFObjectHandle::newDictionary();
@@ -150,7 +150,7 @@ QPDFObjectHandle PDFContext::Impl::resources() {
     return dictionary;
 }
 
-/// Pages that follow each other mostly have the same box.
+/// The box of the page. Pages with the same box as the page before share its array.
 QPDFObjectHandle PDFContext::Impl::mediaBox() {
     if (!m_lastBoxArray.isInitialized() || page.mediaBox != m_lastBox) {
         m_lastBox = page.mediaBox;
@@ -219,7 +219,7 @@ int PDFContext::Impl::addDocument(const QString &sourcePath) {
         const FileVersion file = FileVersion::of(sourcePath);
         const std::string key = file.key();
         const auto source = openSourceDocument(file, m_reader);
-        // Only what a whole copy brought may be used by the next one.
+        // A copy, so that an import that fails leaves no stream to the next one.
         ObjectCopier::Streams streams = m_sourceStreams[key];
         const ImportedDocument imported = withAllObjects(
             *source, *m_reader, [&] { return importDocument(*source, m_document, streams); });
@@ -243,7 +243,7 @@ void PDFContext::Impl::finishDocument() {
 }
 
 CloseResult PDFContext::Impl::publish(OutputFile &file, const std::function<QString()> &nextPath) {
-    // Each name that is lost was taken by somebody who went on with it, so the next may be had.
+    // Each attempt fails only when another program has just taken the name.
     constexpr int kAttempts = 1000;
     QString path = m_path;
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
@@ -262,7 +262,7 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
     try {
         waitForPages();
         finishDocument();
-        // What is read from now on must come from files that are still what they were.
+        // From now on each source is read only if it is still the file that was examined.
         m_reader->beginAnew();
         OutputFile file(m_path, m_settings.calls);
         translateQpdfErrors([&] { requireRoomForStream(m_longestStream); });

@@ -29,8 +29,8 @@ struct CloseResult {
     QString reason;
 };
 
-/// The drawing context of one PDF file. Pages are drawn one after another; nothing appears under
-/// the final name before close() has succeeded, and a context destroyed unclosed leaves nothing.
+/// The drawing context of one PDF file. Pages are drawn one after another. Nothing appears under
+/// the final name before close() succeeds; a context that is not closed leaves nothing.
 ///
 /// The origin of a page is its lower left corner, lengths are in points (1/72 inch).
 class PDFContext {
@@ -39,23 +39,25 @@ class PDFContext {
         DocumentInfo info;
         std::unique_ptr<Encryption> encryption; ///< Null for an unprotected document.
         Flush flush = Flush::Always;
-        /// What every file is written through, and sources of the document are read through.
+        /// Every file is written and every source is read through these.
         std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
     };
 
-    /// A context that will write to `path`.
+    /// A context that writes to `path` when it is closed.
     PDFContext(QString path, Settings settings);
     ~PDFContext();
     PDFContext(const PDFContext &) = delete;
     PDFContext &operator=(const PDFContext &) = delete;
 
     void beginPage(const QRectF &mediaBox);
+    /// Components from 0 to 1.
     void setRGBFillColor(double red, double green, double blue);
-    /// The font of the glyphs that follow: faces and advances are the cascade's.
+    /// Sets the font of the glyphs that follow, at `size` points.
     void setFont(std::shared_ptr<const FontCascade> font, double size);
-    /// Draws `glyphs` from the baseline point on; each advances as measured.
+    /// Draws `glyphs` from the point (x, y) of the baseline on. Throws Error.
     void showGlyphsAtPoint(double x, double y, std::span<const Glyph> glyphs);
-    /// Draws the image into the rectangle; `orientation` (EXIF, 1 to 8) turns it inside.
+    /// Draws the image into the rectangle, turned inside it as `orientation` (EXIF, 1 to 8) says.
+    /// Throws Error.
     void drawImage(const QRectF &rect, PdfImage image, int orientation);
     void endPage();
 
@@ -70,9 +72,8 @@ class PDFContext {
     /// Removes the drawn pages after the first `count`, such as those of an entry that failed.
     void truncatePages(int count);
 
-    /// Writes the document whole and gives it its name without ever replacing another file. When
-    /// the name is taken meanwhile, `nextPath` gives the next one to try; without it the result is
-    /// NameTaken.
+    /// Writes the document and gives it its name, never in place of another file. When the name is
+    /// taken, `nextPath` gives the next one to try; without it the result is NameTaken.
     CloseResult close(const std::function<QString()> &nextPath = {});
 
   private:

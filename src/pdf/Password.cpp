@@ -20,8 +20,8 @@ struct CloseProfile {
 };
 using Profile = std::unique_ptr<UStringPrepProfile, CloseProfile>;
 
-/// SASLprep of `text`, or the code of what forbids it. Characters newer than the profile's Unicode
-/// 3.2 pass as they are, or no recent one could be typed.
+/// SASLprep of `text`, or the error. Characters newer than Unicode 3.2, the profile's version, pass
+/// unchanged.
 std::variant<QString, UErrorCode> saslprep(const QString &text) {
     UErrorCode status = U_ZERO_ERROR;
     const Profile profile(usprep_openByType(USPREP_RFC4013_SASLPREP, &status));

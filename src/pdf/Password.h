@@ -7,14 +7,14 @@
 
 namespace folioforge {
 
-/// Longest password of AES-256 encryption in bytes of UTF-8 (ISO 32000-2, 7.6.4.3.3); a longer one
-/// makes a file that no reader opens.
+/// Longest password of AES-256 encryption, in bytes of UTF-8 (ISO 32000-2, 7.6.4.3.3). No reader
+/// opens a file with a longer one.
 inline constexpr int kMaxPasswordBytes = 127;
 
-/// Encryption of a document: AES-256, revision 6. Everything not refused stays allowed.
+/// Encryption of a document: AES-256, revision 6. What is not refused is allowed.
 struct Encryption {
     QString userPassword;
-    QString ownerPassword; ///< Empty where the user password is the owner's too.
+    QString ownerPassword; ///< When it is empty, the user password is the owner's too.
     bool refusePrint = false;
     bool refuseCopy = false;
 };
@@ -22,11 +22,11 @@ struct Encryption {
 /// The bytes of a document's passwords.
 struct PreparedPasswords {
     QByteArray user;
-    QByteArray owner; ///< Never empty where `user` is not, or everybody would be the owner.
+    QByteArray owner; ///< The user's where there is none, or everybody would be the owner.
 };
 
-/// Why `password` cannot protect a document, as a sentence without full stop; nothing when it can.
-/// An empty password has no problem.
+/// Why `password` cannot protect a document, as a sentence without a full stop; nothing when it
+/// can. An empty password has no problem.
 std::optional<QString> passwordProblem(const QString &password);
 
 /// The bytes that stand for `password` in an encrypted document: SASLprep (RFC 4013), then UTF-8.
@@ -35,7 +35,7 @@ QByteArray preparedPassword(const QString &password);
 /// The bytes of both passwords of `encryption`. Throws as preparedPassword() does.
 PreparedPasswords preparedPasswords(const Encryption &encryption);
 
-/// From now on a crash of this process leaves no image of its memory, which holds passwords.
+/// Forbids core dumps of this process, whose memory holds passwords.
 void forbidCoreDumps();
 
 } // namespace folioforge

@@ -13,7 +13,7 @@
 
 namespace folioforge {
 
-/// Runs `work`; what libqpdf throws comes out as Error: the one place where its exceptions end.
+/// Runs `work` and turns what libqpdf throws into Error. No other place handles its exceptions.
 template<typename Work> auto translateQpdfErrors(Work &&work) -> decltype(work()) {
     try {
         return work();
@@ -28,25 +28,24 @@ template<typename Work> auto translateQpdfErrors(Work &&work) -> decltype(work()
     }
 }
 
-/// Throws std::bad_alloc where there is no memory for the library to write a stream of `bytes`. It
-/// takes a copy of its growing buffer at the stream's end, in a destructor: to run out of memory
-/// there ends the program.
+/// Throws std::bad_alloc when libqpdf would lack the memory to write a stream of `bytes`. It copies
+/// its buffer at the end of the stream in a destructor, where a lack of memory ends the program.
 inline void requireRoomForStream(qsizetype bytes) {
-    // The buffer, up to twice as long as the stream, with what it grew from or with the copy; and
-    // what stands between blocks, which are kept up to some size, and a piece of the source.
+    // The buffer, up to twice as long as the stream, and the buffer it grew from or the copy; gaps
+    // between blocks that malloc keeps; and a piece of the source.
     constexpr qsizetype kCopies = 3;
-    constexpr qsizetype kMaxBetween = 32 << 20;
-    constexpr qsizetype kRest = 1 << 20;
-    const qsizetype between = std::min(2 * bytes, kMaxBetween);
-    static_cast<void>(QByteArray(kCopies * bytes + between + kRest, Qt::Uninitialized));
+    constexpr qsizetype kMaxGap = 32 << 20;
+    constexpr qsizetype kPiece = 1 << 20;
+    const qsizetype gap = std::min(2 * bytes, kMaxGap);
+    static_cast<void>(QByteArray(kCopies * bytes + gap + kPiece, Qt::Uninitialized));
 }
 
-/// The bytes of a stream by the value of its /Length; 0 where that is no number.
+/// The bytes of a stream as its /Length says; 0 when that is no number.
 inline qsizetype statedLength(QPDFObjectHandle length) {
     return length.isInteger() ? length.getIntValue() : 0;
 }
 
-/// Throws where a read failed or the document's warnings tell of a lack of memory.
+/// Throws when a read has failed or a warning of the document tells of a lack of memory.
 inline void requireAllObjects(QPDF &document, const SourceReader &reader) {
     reader.requireNoFailure();
     for (const QPDFExc &warning : document.getWarnings()) {
@@ -56,9 +55,9 @@ inline void requireAllObjects(QPDF &document, const SourceReader &reader) {
     }
 }
 
-/// Runs `work` over `document`, which is read through `reader`. Where memory is short or the file
-/// cannot be read, the library only warns and goes on with null in an object's place: whatever
-/// comes of that is not the document.
+/// Runs `work` over `document`, which is read through `reader`. When memory is short or the file
+/// cannot be read, the library only warns and puts null in an object's place. The result is then
+/// not the document, and this throws.
 template<typename Work>
 auto withAllObjects(QPDF &document, const SourceReader &reader, Work &&work) -> decltype(work()) {
     try {

@@ -14,7 +14,7 @@
 
 namespace folioforge {
 
-/// One provider for all spooled streams: it knows the place of each by its object number.
+/// One provider for all spooled streams. It finds the data of each by its object number.
 class StreamData::SpooledData final : public QPDFObjectHandle::StreamDataProvider {
   public:
     explicit SpooledData(SystemCalls &calls)
@@ -46,7 +46,7 @@ class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider
         , m_slices(std::move(slices)) {}
 
     void provideStreamData([[maybe_unused]] QPDFObjGen const &object, Pipeline *pipeline) override {
-        // Whole in one piece where it is not huge: the library's buffer then need not grow.
+        // In one piece when it is not huge, so that the library's buffer need not grow.
         constexpr qint64 kPiece = 16 << 20;
         requireRoomForStream(length());
         for (const FileSlice &slice : m_slices) {
@@ -84,9 +84,9 @@ StreamData::make(const QPDFObjectHandle &dictionary,
                  const std::shared_ptr<QPDFObjectHandle::StreamDataProvider> &provider) {
     QPDFObjectHandle stream = m_document.newStream();
     stream.replaceDict(dictionary);
-    // The dictionary has the filter and its parameters already.
+    // The dictionary already has the filter and its parameters.
     stream.replaceStreamData(provider, QPDFObjectHandle(), QPDFObjectHandle());
-    // Otherwise the library decodes and encodes again what is compressed best already.
+    // Otherwise the library decodes the data and compresses it again.
     stream.setFilterOnWrite(false);
     return stream;
 }

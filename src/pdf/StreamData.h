@@ -17,17 +17,17 @@ namespace folioforge {
 
 struct FileSlice;
 
-/// Makes the streams of a document whose data is read only while the document is written, already
-/// compressed: from the spool, or from where it lies in a source file.
+/// Makes the streams of a document. Their data is compressed and waits in the spool or in a source
+/// file until the document is written.
 class StreamData {
   public:
-    /// `calls` write what does not fit into memory.
+    /// `calls` are the spool's.
     StreamData(QPDF &document, std::shared_ptr<SourceReader> reader,
                SystemCalls &calls = SystemCalls::system());
 
-    /// A stream with `data`, which is compressed as `dictionary` says.
+    /// A stream with `data`, which is already compressed as `dictionary` says.
     QPDFObjectHandle fromBytes(const QPDFObjectHandle &dictionary, QByteArrayView data);
-    /// A stream with `data`, compressed here.
+    /// A stream with `data`, which this compresses.
     QPDFObjectHandle deflated(QPDFObjectHandle dictionary, QByteArrayView data);
     /// A stream with a page's `content`, which another core compresses while the caller goes on.
     /// Throws Error when an earlier one cannot be stored.

@@ -10,7 +10,7 @@
 namespace folioforge {
 namespace {
 
-/// A length as appendNumber writes it, so that what is added up is what a reader adds up.
+/// A length as appendNumber() writes it, so that sums are those of a reader.
 double written(double value) {
     constexpr double kSteps = 1e5;
     return std::round(value * kSteps) / kSteps;
@@ -39,7 +39,7 @@ void TextContent::open(double x, double y) {
 }
 
 TextContent::Operator TextContent::moveTo(double x, double y) {
-    // Far below what a reader can show; it only keeps rounding from piling up down the page.
+    // Far less than a reader can show. Rounding errors do not add up down the page.
     constexpr double kTolerance = 0.0005;
     const double right = written(x - m_x);
     const double up = written(y - m_y);
@@ -100,7 +100,7 @@ std::span<const Glyph> TextContent::takeRun(std::span<const Glyph> glyphs) {
         if (code.font != font) {
             break;
         }
-        // Always the whole array, which is one store: what is too much is overwritten.
+        // The whole array takes one store; the next code overwrites the surplus.
         std::memcpy(out, code.bytes.data(), GlyphCode::kMaxLength);
         out += code.length;
     }

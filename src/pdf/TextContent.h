@@ -13,9 +13,9 @@ namespace folioforge {
 
 class FontEmbedder;
 
-/// Writes the rows of one page into its content stream, as one text object with relative moves.
-/// A page is a small stream that is compressed alone: each byte that is not text counts.
-/// Call end() before anything else is drawn and when the page ends.
+/// Writes the rows of one page into its content stream as one text object with relative moves, in
+/// as few bytes as possible: a page is a small stream, which compresses badly. Call end() before
+/// anything else is drawn and when the page ends.
 class TextContent {
   public:
     using Resources = std::map<std::string, QPDFObjectHandle>;
@@ -30,10 +30,11 @@ class TextContent {
 
   private:
     enum class Operator { Show, NextLineAndShow };
-    /// Begins a text object one row above the point, so that its first row is shown as all others.
+    /// Begins a text object one row above the point, so that its first row is shown like the
+    /// others.
     void open(double x, double y);
     Operator moveTo(double x, double y);
-    /// Puts the glyphs that one font shows into `m_run`; gives those that are left.
+    /// Puts the first glyphs, all of one font, into `m_run`. Returns the others.
     std::span<const Glyph> takeRun(std::span<const Glyph> glyphs);
     void selectFont(std::uint16_t font);
     void show(Operator how);
@@ -43,10 +44,10 @@ class TextContent {
     FontEmbedder &m_fonts;
     double m_size = 0;
     bool m_open = false;
-    std::uint16_t m_font = 0; ///< The font in force; 0 for none.
-    double m_x = 0;           ///< Start of the current line as a reader has it.
+    std::uint16_t m_font = 0; ///< The current font; 0 for none.
+    double m_x = 0;           ///< Start of the current line as a reader computes it.
     double m_y = 0;
-    double m_leading = 0; ///< The leading in force, upwards as the y axis goes.
+    double m_leading = 0; ///< The current leading, positive upwards.
     std::string m_run;    ///< Codes of one font, escaped.
 };
 

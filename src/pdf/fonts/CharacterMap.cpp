@@ -78,7 +78,7 @@ std::string makeUnicodeMap(const CodeTable &table) {
                          [](const CodeEntry &entry) { return entry.character < kNoCharacter; });
     std::ranges::sort(entries, {}, &CodeEntry::code);
     std::string map = head("UCS", "Adobe-Identity-UCS", 2, table);
-    // Single characters, though ranges would be shorter: Ghostscript 10.0 misreads ranges.
+    // Ranges would be shorter, but Ghostscript 10.0 misreads them.
     constexpr std::size_t kMaxInASection = 100;
     for (std::size_t from = 0; from < entries.size(); from += kMaxInASection) {
         const std::size_t to = std::min(from + kMaxInASection, entries.size());

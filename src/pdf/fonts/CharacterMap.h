@@ -6,15 +6,15 @@ namespace folioforge {
 
 class CodeTable;
 
-/// The CMap by which each code of a Mixed table is the CID of the same number: the /Encoding of a
-/// composite font (ISO 32000-1, 9.7.5).
+/// The /Encoding of a composite font with a Mixed table: the CMap that makes each code the CID of
+/// the same number (ISO 32000-1, 9.7.5).
 std::string makeEncodingMap(const CodeTable &table);
 
-/// The name that this CMap gives itself.
+/// The name of that CMap.
 std::string encodingMapName(const CodeTable &table);
 
-/// The CMap that leads from a table's codes to Unicode, beyond the BMP as UTF-16: /ToUnicode
-/// (ISO 32000-1, 9.10.3). Codes that stand for no character are left out.
+/// The /ToUnicode of a composite font: the CMap from codes to characters in UTF-16 (ISO 32000-1,
+/// 9.10.3), without the codes that stand for no character.
 std::string makeUnicodeMap(const CodeTable &table);
 
 } // namespace folioforge

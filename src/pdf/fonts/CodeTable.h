@@ -7,8 +7,8 @@
 
 namespace folioforge {
 
-/// A character code of a composite font. Codes are CIDs: readers differ in whether they look up
-/// the text of a glyph by its code or by its CID, and this way all agree.
+/// A character code of a composite font. It is the CID too, because some readers look up the text
+/// of a glyph by its code and others by its CID.
 struct CodeEntry {
     std::uint16_t code = 0;
     std::uint16_t glyph = 0;
@@ -19,11 +19,10 @@ struct CodeEntry {
 class CodeTable {
   public:
     enum class Form {
-        /// Codes of the table's own choice. ASCII characters keep their own, so that a row of them
-        /// is nearly the text itself; enough others for an alphabet get one byte; all after them
-        /// two, told apart by the first.
+        /// The table chooses the codes. ASCII characters keep theirs, the next 64 characters get
+        /// one byte and all others two; the first byte tells the length.
         Mixed,
-        /// Two bytes, given by the font program.
+        /// Two bytes; the font program gives the codes.
         TwoByte
     };
     static constexpr std::uint16_t kLastOneByte = 0xBF;
@@ -33,8 +32,8 @@ class CodeTable {
     explicit CodeTable(Form form)
         : m_form(form) {}
 
-    /// A new code for a glyph of a Mixed table; nothing when the table is full. Each character may
-    /// be added once.
+    /// A new code for a glyph of a Mixed table; nothing when the table is full. Add each character
+    /// once.
     std::optional<std::uint16_t> add(std::uint16_t glyph, char32_t character);
     /// Adds a glyph under `code` to a TwoByte table; false when another character has the code.
     bool addAt(std::uint16_t code, std::uint16_t glyph, char32_t character);

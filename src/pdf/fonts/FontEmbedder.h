@@ -29,15 +29,16 @@ struct GlyphCode {
     std::array<char, kMaxLength> bytes; ///< The code, escaped for a literal string.
 };
 
-/// The fonts of one document: gives the glyphs of a cascade their codes while pages are drawn, and
-/// in the end puts in each face that was used, once, with the glyphs that were used.
+/// The fonts of one document. Gives the glyphs of a cascade their codes while pages are drawn and
+/// embeds each face that was used at the end, with the glyphs that were used.
 class FontEmbedder {
   public:
     /// Fonts for `document`, their streams made by `streams`; resource names start with `prefix`.
     FontEmbedder(QPDF &document, StreamData &streams, std::shared_ptr<const FontCascade> cascade,
                  std::string prefix);
 
-    /// The code of a glyph of the cascade, which has at least one face.
+    /// The code of a glyph of the cascade, which has at least one face. Throws Error when the face
+    /// cannot be read.
     GlyphCode codeOf(const Glyph &glyph) {
         const auto &page = m_codes[glyph.character / kPageSize];
         if (page) {
@@ -57,8 +58,8 @@ class FontEmbedder {
         return m_fonts[font - 1U].object;
     }
 
-    /// Fills the fonts' objects. To be called once, after the last code was asked. Throws Error
-    /// when a face cannot be embedded.
+    /// Fills the objects of the fonts. Call it once, after the last codeOf(). Throws Error when a
+    /// face cannot be embedded.
     void embed();
 
   private:

@@ -18,7 +18,8 @@ namespace {
 
 using Object = QPDFObjectHandle;
 
-/// Six letters that tell subsets of one font apart, and the same for the same subset.
+/// Six letters that differ between subsets of one font (ISO 32000-1, 9.6.4). The same subset always
+/// gets the same.
 std::string subsetTag(const QByteArray &program) {
     const QByteArray digest = QCryptographicHash::hash(program, QCryptographicHash::Sha1);
     std::string tag;
@@ -35,8 +36,8 @@ Object thousandths(int fontUnits, const FontFace &face) {
     return Object::newReal(fontUnits * kUnits / face.unitsPerEm(), kDecimals);
 }
 
-/// The most common of the widths, by CID, that a /DW can say: readers take only whole numbers
-/// there.
+/// The most common width of `widths` (by CID) that is a whole number of thousandths: readers take
+/// no other /DW.
 int commonWidth(const std::map<std::uint16_t, int> &widths, const FontFace &face) {
     constexpr int kUnits = 1000;
     std::map<int, int> counts{{0, 0}};
@@ -51,7 +52,7 @@ int commonWidth(const std::map<std::uint16_t, int> &widths, const FontFace &face
         ->first;
 }
 
-/// The /W array: for each run of CIDs the first and the widths. Common widths are left to /DW.
+/// The /W array: for each run of CIDs the first one and the widths, without those that /DW gives.
 Object widthArray(const std::map<std::uint16_t, int> &widths, int common, const FontFace &face) {
     Object array = Object::newArray();
     Object run = Object::newArray();
@@ -76,10 +77,10 @@ std::string glyphMap(const CodeTable &table, const FontSubset &subset) {
     std::string map;
     for (const CodeEntry &entry : table.entries()) {
         const std::size_t at = std::size_t{entry.code} * 2;
-        const std::uint16_t place = subset.places.at(entry.glyph);
+        const std::uint16_t id = subset.newIds.at(entry.glyph);
         map.resize(std::max(map.size(), at + 2));
-        map[at] = static_cast<char>(place >> 8);
-        map[at + 1] = static_cast<char>(place & 0xFF);
+        map[at] = static_cast<char>(id >> 8);
+        map[at + 1] = static_cast<char>(id & 0xFF);
     }
     return map;
 }

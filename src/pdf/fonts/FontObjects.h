@@ -13,16 +13,16 @@ class FontFace;
 class StreamData;
 struct FontSubset;
 
-/// The PDF objects of one embedded face: its program and descriptor, shared by the composite fonts
-/// over it (ISO 32000-1, 9.7 and 9.9).
+/// The PDF objects of one embedded face: its font program and descriptor, which all composite fonts
+/// of the face share (ISO 32000-1, 9.7 and 9.9).
 class FaceObjects {
   public:
-    /// Adds the descriptor and the font program. `subset` was cut from `face`; both must outlive
+    /// Adds the descriptor and the font program. `subset` is a subset of `face`; both must outlive
     /// this object.
     FaceObjects(QPDF &document, StreamData &streams, const FontFace &face,
                 const FontSubset &subset);
 
-    /// Makes the dictionary `font` a composite font that reads the codes of `table`.
+    /// Makes the dictionary `font` a composite font with the codes of `table`.
     void fillFont(QPDFObjectHandle font, const CodeTable &table);
 
   private:

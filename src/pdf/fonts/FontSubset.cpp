@@ -21,8 +21,8 @@ struct Release {
 };
 template<typename Handle> using Owned = std::unique_ptr<Handle, Release>;
 
-/// A PDF names glyphs by number and carries widths and metrics itself: what serves shaping,
-/// naming, screens or variation only takes room.
+/// Tables for shaping, naming, screens or variation: a PDF names glyphs by number and has widths
+/// and metrics of its own.
 constexpr hb_tag_t kDropped[] = {
     HB_TAG('G', 'S', 'U', 'B'), HB_TAG('G', 'P', 'O', 'S'), HB_TAG('G', 'D', 'E', 'F'),
     HB_TAG('B', 'A', 'S', 'E'), HB_TAG('J', 'S', 'T', 'F'), HB_TAG('M', 'A', 'T', 'H'),
@@ -50,9 +50,9 @@ Owned<hb_subset_input_t> makeInput(const std::optional<GlyphCids> &cids,
     for (const hb_tag_t tag : kDropped) {
         hb_set_add(dropped, tag);
     }
-    // Without its outline the missing-glyph box would draw nothing.
+    // Without this the missing-glyph box has no outline.
     unsigned flags = HB_SUBSET_FLAGS_NOTDEF_OUTLINE | HB_SUBSET_FLAGS_NO_HINTING;
-    // Readers find the glyphs of a CFF without CIDs by their order, so that must stay.
+    // Readers find the glyphs of a CFF without CIDs by their order.
     if (cids && !cids->isCidKeyed()) {
         flags |= HB_SUBSET_FLAGS_RETAIN_GIDS;
     }
@@ -76,21 +76,21 @@ FontSubset makeFontSubset(const FontFace &face, const std::optional<GlyphCids> &
                           const std::set<std::uint16_t> &glyphs) {
     const auto input = makeInput(cids, glyphs);
     const Owned<hb_subset_plan_t> plan(hb_subset_plan_create_or_fail(face.hbFace(), input.get()));
-    const Owned<hb_face_t> cut(plan ? hb_subset_plan_execute_or_fail(plan.get()) : nullptr);
-    if (!cut) {
+    const Owned<hb_face_t> reduced(plan ? hb_subset_plan_execute_or_fail(plan.get()) : nullptr);
+    if (!reduced) {
         throw Error(
             u"the font %1 cannot be embedded"_s.arg(QString::fromLatin1(face.postScriptName())));
     }
     FontSubset subset;
-    subset.program = bytesOf(cffTable(cut.get()));
+    subset.program = bytesOf(cffTable(reduced.get()));
     if (!subset.program.isEmpty()) {
         subset.kind = FontSubset::Kind::Cff;
         return subset;
     }
-    subset.program = bytesOf(Owned<hb_blob_t>(hb_face_reference_blob(cut.get())));
-    const hb_map_t *places = hb_subset_plan_old_to_new_glyph_mapping(plan.get());
+    subset.program = bytesOf(Owned<hb_blob_t>(hb_face_reference_blob(reduced.get())));
+    const hb_map_t *newIds = hb_subset_plan_old_to_new_glyph_mapping(plan.get());
     for (const std::uint16_t glyph : glyphs) {
-        subset.places[glyph] = static_cast<std::uint16_t>(hb_map_get(places, glyph));
+        subset.newIds[glyph] = static_cast<std::uint16_t>(hb_map_get(newIds, glyph));
     }
     return subset;
 }

@@ -12,7 +12,7 @@ namespace folioforge {
 class FontFace;
 class GlyphCids;
 
-/// The part of a font file that one document needs, and where its glyphs went.
+/// The part of a font file that one document needs.
 struct FontSubset {
     enum class Kind {
         TrueType, ///< A whole sfnt file for FontFile2.
@@ -20,13 +20,13 @@ struct FontSubset {
     };
     Kind kind = Kind::TrueType;
     QByteArray program;
-    /// Of a TrueType subset, where the wanted glyphs went, by their ids in the face. Those of a CFF
-    /// keep the CIDs that GlyphCids gives.
-    std::map<std::uint16_t, std::uint16_t> places;
+    /// The glyph ids in a TrueType subset by those in the face. The glyphs of a CFF subset keep
+    /// their CIDs.
+    std::map<std::uint16_t, std::uint16_t> newIds;
 };
 
-/// Cuts `face` down to `glyphs` and the missing-glyph box; `cids` are those of `face`. Throws Error
-/// when the font is damaged.
+/// Reduces `face`, whose CIDs are `cids`, to `glyphs` and the missing-glyph box. Throws Error when
+/// the font is damaged.
 FontSubset makeFontSubset(const FontFace &face, const std::optional<GlyphCids> &cids,
                           const std::set<std::uint16_t> &glyphs);
 

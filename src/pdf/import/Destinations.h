@@ -10,13 +10,13 @@ class QPDF;
 
 namespace folioforge {
 
-/// The named destinations of a source document (ISO 32000-1, 12.3.2.3), read when first asked for.
+/// The named destinations of a source document (ISO 32000-1, 12.3.2.3), read at first use.
 class Destinations {
   public:
     explicit Destinations(QPDF &source);
 
-    /// The explicit destination, an array, that `destination` stands for: a name, a string, a
-    /// dictionary with /D, or the array itself. Null where it leads nowhere.
+    /// The explicit destination, an array, of `destination`: a name, a string, a dictionary with /D
+    /// or the array itself. Null when there is none.
     QPDFObjectHandle resolve(const QPDFObjectHandle &destination);
 
   private:

@@ -23,11 +23,11 @@ void putArray(QPDFObjectHandle &dictionary, const std::string &key,
     }
 }
 
-/// The largest integer that every reader takes (ISO 32000-1, annex C); a source that counts more
-/// lines in its outline lies.
+/// The largest integer that every reader takes (ISO 32000-1, annex C). No true outline has more
+/// lines.
 constexpr long long kMaxLines = std::numeric_limits<std::int32_t>::max();
 
-/// How many lines of the outline an item shows: itself and, when it is open, what is under it.
+/// The lines of the outline that an item shows: its own and, when it is open, those under it.
 long long visibleLines(QPDFObjectHandle item) {
     auto count = item.getKey("/Count");
     return 1 + (count.isInteger() ? std::clamp(count.getIntValue(), 0LL, kMaxLines) : 0);

@@ -11,14 +11,14 @@ class QPDF;
 
 namespace folioforge {
 
-/// What a document holds beside its objects, gathered page by page and source by source and
-/// written into its catalog at the end.
+/// The catalog of the document that is being made: pages, bookmarks, form, layers and page labels,
+/// collected page by page and source by source.
 class DocumentCatalog {
   public:
     void addPage(const QPDFObjectHandle &page);
     void addDocument(const ImportedDocument &imported);
 
-    /// Forgets the pages added by addPage() after the first `count`.
+    /// Removes the pages that addPage() added after the first `count`.
     void truncatePages(int count);
 
     [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
@@ -36,7 +36,7 @@ class DocumentCatalog {
 
     std::vector<QPDFObjectHandle> m_pages;
     std::vector<QPDFObjectHandle> m_bookmarks;
-    /// Index of a page, and the label dictionary that holds from it on; null for plain numbers.
+    /// Index of a page and the label dictionary from there on; null for plain numbers.
     std::vector<std::pair<long long, QPDFObjectHandle>> m_pageLabels;
     bool m_hasPageLabels = false;
     FormMerger m_forms;

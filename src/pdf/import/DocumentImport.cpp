@@ -5,7 +5,6 @@
 #include <qpdf/QPDF.hh>
 
 #include <map>
-
 #include <set>
 
 namespace folioforge {
@@ -62,15 +61,16 @@ ImportedForm importForm(QPDF &source, ObjectCopier &copier) {
     return imported;
 }
 
-/// In a damaged source anything may stand where a bookmark, a field or a layer should; a page must
-/// not be made one of them.
+/// Removes what is no bookmark, field or layer: a damaged source may have anything there, pages
+/// included.
 void keepOnlyEntries(std::vector<QPDFObjectHandle> &objects) {
     std::erase_if(objects, [](QPDFObjectHandle object) {
         return !object.isDictionary() || object.isDictionaryOfType("/Page");
     });
 }
 
-/// The form's defaults hold for the fields of this source alone once several forms are one.
+/// Copies the defaults of the source's form into its fields: in the merged form they would hold for
+/// the fields of all sources.
 void keepFormDefaults(QPDF &source, const ImportedForm &form, ObjectCopier &copier) {
     const auto defaults = source.getRoot().getKey("/AcroForm");
     for (const char *key : {"/DA", "/Q"}) {
@@ -119,7 +119,7 @@ ImportedLayers importLayers(QPDF &source, ObjectCopier &copier) {
     return imported;
 }
 
-/// Pages before the first label count as unlabelled.
+/// Page labels by page index. Pages before the first label have none.
 std::map<long long, QPDFObjectHandle> importPageLabels(QPDF &source, long long pages,
                                                        ObjectCopier &copier) {
     std::map<long long, QPDFObjectHandle> labels;

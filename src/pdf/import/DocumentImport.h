@@ -25,29 +25,29 @@ struct ImportedForm {
 
 /// The optional content (layers) of a source document, copied.
 struct ImportedLayers {
-    std::vector<QPDFObjectHandle> groups;
-    std::vector<QPDFObjectHandle> off;
-    std::vector<QPDFObjectHandle> locked;
-    std::vector<QPDFObjectHandle> order;
-    std::vector<QPDFObjectHandle> radioGroups;
-    std::vector<QPDFObjectHandle> automaticStates;
+    std::vector<QPDFObjectHandle> groups;          ///< /OCGs
+    std::vector<QPDFObjectHandle> off;             ///< /OFF: hidden when the document opens.
+    std::vector<QPDFObjectHandle> locked;          ///< /Locked
+    std::vector<QPDFObjectHandle> order;           ///< /Order
+    std::vector<QPDFObjectHandle> radioGroups;     ///< /RBGroups
+    std::vector<QPDFObjectHandle> automaticStates; ///< /AS
 };
 
-/// All that one source document brings, copied into the target but not yet part of it.
+/// What one source document brings, copied into the target but not yet in its catalog.
 struct ImportedDocument {
     std::vector<QPDFObjectHandle> pages;
     std::vector<QPDFObjectHandle> bookmarks; ///< The items of the first level.
-    /// Page labels by the index of their first page, counted from this document's first; null for
-    /// pages without one.
+    /// Page labels by the index of their first page in the source; null for pages without one.
     std::map<long long, QPDFObjectHandle> pageLabels;
     ImportedForm form;
     ImportedLayers layers;
     std::string pdfVersion;
-    qsizetype longestStream = 0; ///< Bytes, as the document says.
+    qsizetype longestStream = 0; ///< Bytes, as the source says.
 };
 
-/// Copies the pages of `source` into `target` with all that belongs to them. Nothing of it is part
-/// of the target document yet. `known` holds the streams that the same file brought before.
+/// Copies the pages of `source` into `target` with all that belongs to them, but puts nothing into
+/// its catalog. `known` holds the streams that earlier imports of the same file brought; new ones
+/// are added. Throws what libqpdf throws.
 ImportedDocument importDocument(QPDF &source, QPDF &target, ObjectCopier::Streams &known);
 
 } // namespace folioforge

@@ -10,7 +10,7 @@ namespace {
 
 using Renames = std::map<std::string, std::string>;
 
-/// A default appearance, such as "/Helv 12 Tf 0 g", with its names as they are called now.
+/// A default appearance, such as "/Helv 12 Tf 0 g", with its names renamed.
 std::string renamedAppearance(const std::string &appearance, const Renames &renames) {
     constexpr std::string_view kDelimiters = " \t\r\n\f()<>[]{}/%";
     std::string result;
@@ -30,7 +30,7 @@ std::string renamedAppearance(const std::string &appearance, const Renames &rena
     return result;
 }
 
-/// Renames in a field and all under it.
+/// Renames in the default appearances of a field and all fields under it.
 void renameInAppearances(const QPDFObjectHandle &root, const Renames &renames) {
     std::vector<QPDFObjectHandle> pending{root};
     std::set<QPDFObjGen> visited;
@@ -54,8 +54,8 @@ void renameInAppearances(const QPDFObjectHandle &root, const Renames &renames) {
     }
 }
 
-/// `name`, or where that is taken the name with the next number. Thousands of forms may have the
-/// same names, so counting goes on where it was.
+/// `name` or, when that is taken, the name with the next number. `numbers` keeps the last number of
+/// each name, since thousands of forms may have the same names.
 template<typename Taken>
 std::string freeName(const std::string &name, std::map<std::string, int> &numbers,
                      const Taken &isTaken) {
@@ -69,7 +69,7 @@ std::string freeName(const std::string &name, std::map<std::string, int> &number
 
 } // namespace
 
-void FormMerger::keepApart(QPDFObjectHandle field, Renames &renames) {
+void FormMerger::renameField(QPDFObjectHandle field, Renames &renames) {
     auto name = field.getKey("/T");
     if (!name.isString()) {
         return;
@@ -120,7 +120,7 @@ void FormMerger::add(const ImportedForm &form) {
     Renames names;
     const Renames resources = addResources(form.resources);
     for (const auto &field : form.fields) {
-        keepApart(field, names);
+        renameField(field, names);
         if (!resources.empty()) {
             renameInAppearances(field, resources);
         }

@@ -10,19 +10,19 @@ class QPDF;
 
 namespace folioforge {
 
-/// Makes one interactive form (ISO 32000-1, 12.7) of the forms of several documents: fields of the
-/// same name stay different fields, and each keeps the resources it is drawn with.
+/// Merges the interactive forms (ISO 32000-1, 12.7) of several documents. Fields of the same name
+/// stay different fields, and each keeps its resources.
 class FormMerger {
   public:
     void add(const ImportedForm &form);
-    /// Writes the form into the catalog, when there is any field.
+    /// Writes the form into the catalog if there is a field.
     void finish(QPDF &document);
 
   private:
     using Renames = std::map<std::string, std::string>;
     using Numbers = std::map<std::string, int>; ///< The last one given to each name.
 
-    void keepApart(QPDFObjectHandle field, Renames &renames);
+    void renameField(QPDFObjectHandle field, Renames &renames);
     Renames addResources(QPDFObjectHandle resources);
 
     ImportedForm m_form;

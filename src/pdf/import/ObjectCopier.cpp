@@ -11,13 +11,13 @@ namespace folioforge {
 
 namespace {
 
-/// Keys that point into the structure tree, which stays behind.
+/// Whether a key points into the structure tree, which is not copied.
 bool pointsIntoStructure(const std::string &key) {
     return key == "/StructParent" || key == "/StructParents" || key == "/SE" || key == "/SD";
 }
 
-/// Parts of the source document that must not follow a reference into the copy.
-bool staysBehind(QPDFObjectHandle object) {
+/// Whether `object` belongs to the source document as a whole and is not copied.
+bool isLeftOut(QPDFObjectHandle object) {
     if (!object.isDictionary()) {
         return false;
     }
@@ -43,14 +43,14 @@ ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, Streams &known)
 
 std::vector<QPDFObjectHandle> ObjectCopier::copyPages() {
     const auto pages = readSourcePages(m_source);
-    // The library walks the tree again at every stream, and its recursion follows how deep it is.
+    // The library walks the tree again at every stream, with a recursion as deep as the tree.
     m_source.getRoot().replaceKey("/Pages",
                                   QPDFObjectHandle::parse("<< /Type /Pages /Kids [] /Count 0 >>"));
     m_targetPages.reserve(pages.size());
     for (const auto &[page, inherited] : pages) {
         m_targetPages.push_back(m_target.makeIndirectObject(QPDFObjectHandle::newDictionary()));
         if (page.isIndirect()) {
-            // References to a page that stands in the tree twice lead to its first place.
+            // A reference to a page that is in the tree twice leads to the first one.
             m_copies.try_emplace(page.getObjGen(), m_targetPages.back());
         }
     }
@@ -75,12 +75,12 @@ void ObjectCopier::fillPage(const SourcePage &source, QPDFObjectHandle target) {
         }
     }
     if (!target.hasKey("/MediaBox")) {
-        // Readers show such a page in US letter size.
+        // Readers show a page without one in US letter size.
         target.replaceKey("/MediaBox", QPDFObjectHandle::parse("[0 0 612 792]"));
     }
 }
 
-/// Pages share the resources of their node; they go on sharing one object.
+/// The copy of a value that pages inherit. They share it if it is a dictionary, such as /Resources.
 QPDFObjectHandle ObjectCopier::copyInherited(const InheritedValue &inherited) {
     auto &copied = m_inherited[inherited.number];
     if (!copied.isInitialized()) {
@@ -104,10 +104,10 @@ QPDFObjectHandle ObjectCopier::copyIndirect(QPDFObjectHandle object) {
     QPDFObjectHandle target;
     if (object.isStream()) {
         target = reserveStream(object);
-    } else if (object.isNull() || staysBehind(object)) {
+    } else if (object.isNull() || isLeftOut(object)) {
         target = QPDFObjectHandle::newNull();
     } else {
-        // A null would be taken for an absent entry by every dictionary that refers to it.
+        // Not null: a dictionary drops an entry that is null.
         target = QPDFObjectHandle::newReserved(&m_target);
         m_pending.emplace_back(object, target);
     }
@@ -120,8 +120,8 @@ QPDFObjectHandle ObjectCopier::reserveStream(QPDFObjectHandle object) {
     if (known != m_streams.end()) {
         return known->second;
     }
-    // The library copies a stream's data lazily but its dictionary at once and with all that it
-    // refers to; emptied first, the dictionary can be copied here, by the rules of this class.
+    // The library would copy the dictionary with all that it refers to. It is emptied first and
+    // copied later by the rules of this class.
     auto dictionary = object.getDict();
     PendingStream pending{{}, dictionary.getDictAsMap()};
     for (const auto &[key, value] : pending.dictionary) {
@@ -129,7 +129,7 @@ QPDFObjectHandle ObjectCopier::reserveStream(QPDFObjectHandle object) {
     }
     pending.target = m_target.copyForeignObject(object);
     if (pending.dictionary.contains("/Filter")) {
-        // Its bytes go into the copy as they are.
+        // The copy gets its bytes unchanged.
         pending.target.setFilterOnWrite(false);
     }
     m_streams[object.getObjGen()] = pending.target;
@@ -178,7 +178,7 @@ QPDFObjectHandle ObjectCopier::copyDestination(const QPDFObjectHandle &destinati
     }
     auto items = explicitOne.getArrayAsVector();
     for (std::size_t i = 0; i < items.size(); ++i) {
-        // Some writers give the page by its number, which means another page in the copy.
+        // Some writers give the page by its number, which is another page in the copy.
         const bool number = i == 0 && items[i].isInteger();
         const auto page = number ? items[i].getIntValue() : -1;
         if (page >= 0 && page < static_cast<long long>(m_targetPages.size())) {

@@ -16,22 +16,21 @@ class QPDF;
 
 namespace folioforge {
 
-/// Copies objects of one document into another with everything they refer to, each once, so that
-/// what is shared stays shared. Pages are made first and then filled, so links between them hold.
-/// Named destinations become explicit ones. What belongs to the source document as a whole (page
-/// tree, catalog, structure tree) is left behind.
+/// Copies objects of one document into another with all that they refer to, each object once. Pages
+/// are made first and filled later, so that links between them work. Named destinations become
+/// explicit ones. The page tree, the catalog and the structure tree of the source are not copied.
 class ObjectCopier {
   public:
     using Streams = std::map<QPDFObjGen, QPDFObjectHandle>;
 
-    /// `known` holds the streams that an earlier copy of the same file brought; new ones are added.
+    /// `known` holds the streams that earlier copies of the same file brought; new ones are added.
     ObjectCopier(QPDF &source, QPDF &target, Streams &known);
 
-    /// Copies all pages; call it before anything else. They are filled by run().
+    /// Copies all pages, which run() fills. Call it first.
     std::vector<QPDFObjectHandle> copyPages();
-    /// The copy of `object`; indirect ones are filled by run().
+    /// The copy of `object`. run() fills an indirect one.
     QPDFObjectHandle copy(const QPDFObjectHandle &object);
-    /// Fills everything that copy() has promised.
+    /// Fills the pages and objects that copyPages() and copy() returned.
     void run();
     /// Bytes of the longest stream that run() copied, as the source says.
     [[nodiscard]] qsizetype longestStream() const { return m_longestStream; }

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::array kInheritedKeys{"/Resources", "/MediaBox", "/CropBox", "/Rotate"};
 
-/// Walks a page tree with a stack of its own: a tree may be deeper than a thread's stack.
+/// Walks a page tree without recursion: a tree may be deeper than a thread's stack.
 class PageTreeWalk {
   public:
     explicit PageTreeWalk(const QPDFObjectHandle &root) { expand(root, InheritedValues()); }
@@ -37,7 +37,7 @@ class PageTreeWalk {
     }
 
   private:
-    /// Puts the kids of `node` where they are taken from next, the first one first.
+    /// Pushes the kids of `node`, the first one on top.
     void expand(QPDFObjectHandle node, const InheritedValues &fromAbove) {
         if (node.isIndirect() && !m_visited.insert(node.getObjGen()).second) {
             throw Error(u"The page tree contains itself"_s);
@@ -56,18 +56,18 @@ class PageTreeWalk {
                 m_pending.push_back({kid, inherited});
             }
         });
-        // Whatever refers to the node now knows it for a part of the tree.
+        // Marks the node as a part of the tree, which is not copied.
         node.replaceKey("/Type", QPDFObjectHandle::newName("/Pages"));
     }
 
     std::set<QPDFObjGen> m_visited;
-    std::vector<SourcePage> m_pending; ///< Nodes and pages; the next one stands last.
+    std::vector<SourcePage> m_pending; ///< Nodes and pages; the next one is the last.
     std::vector<SourcePage> m_pages;
     int m_inheritedCount = 0;
 };
 
-/// Some catalogs name a node in the midst of the tree.
-QPDFObjectHandle topOf(QPDFObjectHandle node) {
+/// The root of the tree. Some catalogs name a node in its middle.
+QPDFObjectHandle rootOf(QPDFObjectHandle node) {
     std::set<QPDFObjGen> visited;
     while (visited.insert(node.getObjGen()).second && node.getKey("/Parent").isDictionary()) {
         node = node.getKey("/Parent");
@@ -82,7 +82,7 @@ struct Node {
 
 constexpr std::size_t kFanOut = 32;
 
-/// Makes `children` the children of `parent` and returns how many pages they hold.
+/// Makes `children` the kids of `parent`. Returns the number of their pages.
 long long adopt(QPDFObjectHandle parent, std::span<Node> children) {
     auto kids = QPDFObjectHandle::newArray();
     long long count = 0;
@@ -114,7 +114,7 @@ std::vector<SourcePage> readSourcePages(QPDF &source) {
     if (!root.isDictionary()) {
         throw Error(u"The document has no page tree"_s);
     }
-    return PageTreeWalk(topOf(root)).pages();
+    return PageTreeWalk(rootOf(root)).pages();
 }
 
 void buildPageTree(QPDF &document, const std::vector<QPDFObjectHandle> &pages) {

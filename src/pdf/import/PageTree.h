@@ -11,9 +11,9 @@ class QPDF;
 
 namespace folioforge {
 
-/// A value that a node of the page tree hands down to its pages.
+/// A value that pages inherit from a node of the page tree.
 struct InheritedValue {
-    int number = 0; ///< The same for all pages that it comes to.
+    int number = 0; ///< The same for all pages that inherit it.
     QPDFObjectHandle value;
 };
 
@@ -25,13 +25,13 @@ struct SourcePage {
     std::shared_ptr<const InheritedValues> inherited;
 };
 
-/// The pages of a source document in their order, however deep its page tree is. What is no
-/// dictionary is passed over; a page that stands in the tree twice is two pages. Throws Error where
-/// there is no page tree or it contains itself.
+/// The pages of a source document in their order, however deep its page tree is. Kids that are no
+/// dictionaries are skipped; a page that is in the tree twice is two pages. Throws Error when there
+/// is no page tree or it contains itself.
 std::vector<SourcePage> readSourcePages(QPDF &source);
 
-/// Puts `pages` into the document's page tree (ISO 32000-1, 7.7.3) as a balanced tree, so that
-/// readers find any page of a long document at once.
+/// Makes a balanced page tree (ISO 32000-1, 7.7.3) of `pages`, so that readers find any page of a
+/// long document quickly.
 void buildPageTree(QPDF &document, const std::vector<QPDFObjectHandle> &pages);
 
 } // namespace folioforge

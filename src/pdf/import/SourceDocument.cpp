@@ -15,7 +15,7 @@ namespace folioforge {
 
 namespace {
 
-/// Without this the library searches a whole foreign file for objects before it gives up.
+/// Throws Error when the file is no PDF. The library would first search all of it for objects.
 void requirePdfHeader(const FileVersion &file, SourceReader &reader) {
     std::array<char, 1024> start{};
     const auto got = reader.read(file, 0, start);
@@ -24,7 +24,7 @@ void requirePdfHeader(const FileVersion &file, SourceReader &reader) {
     }
 }
 
-/// Null for a document that needs a password or an unknown security handler.
+/// Null when the document needs a password or has an unknown security handler.
 std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
                                        const std::shared_ptr<SourceReader> &reader,
                                        SourceInput::Table table) {
@@ -34,7 +34,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
     try {
         withAllObjects(*document, *reader, [&] {
             document->processInputSource(std::make_shared<SourceInput>(file, reader, table));
-            return document->getRoot(); // Throws where the table leads to no catalog.
+            return document->getRoot(); // Throws when the table leads to no catalog.
         });
     } catch (const QPDFExc &error) {
         if (error.getErrorCode() == qpdf_e_password || error.getErrorCode() == qpdf_e_unsupported) {
@@ -45,7 +45,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
     return document;
 }
 
-/// Repairs what the library does by itself, and files whose table looks right and is not.
+/// Also repairs a file whose cross-reference table the library wrongly takes for intact.
 std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
                                        const std::shared_ptr<SourceReader> &reader) {
     requirePdfHeader(file, *reader);

@@ -10,7 +10,7 @@ namespace folioforge {
 
 namespace {
 
-/// More than the bytes at the end in which the library looks for the table's place.
+/// More than the bytes at the end in which the library looks for "startxref".
 constexpr qint64 kBlanksThatHideTheTable = 2048;
 
 } // namespace
@@ -75,7 +75,7 @@ size_t SourceInput::read(char *target, size_t length) {
         target[got] = ' ';
     }
     if (got == 0 && length > 0) {
-        // The library takes the place where the file ended from here.
+        // The library takes the end of the file from here.
         last_offset = std::min(m_position, m_end);
     }
     return got;

@@ -8,12 +8,12 @@
 
 namespace folioforge {
 
-/// A source PDF as libqpdf reads it. It holds no descriptor and no buffer of its own, so that
-/// thousands of them may wait until their streams are written.
+/// A source PDF as libqpdf reads it. It holds neither a descriptor nor a buffer, so that thousands
+/// may wait until their streams are written.
 class SourceInput final : public InputSource {
   public:
-    /// Whether the library is to find the table of objects. Where it does not, it searches the
-    /// file for them.
+    /// Whether the library finds the cross-reference table. When it does not, it searches the file
+    /// for objects.
     enum class Table { Shown, Hidden };
 
     SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table);
@@ -29,7 +29,7 @@ class SourceInput final : public InputSource {
   private:
     FileVersion m_file;
     std::shared_ptr<SourceReader> m_reader;
-    qint64 m_end; ///< Behind the file stand blanks up to here.
+    qint64 m_end; ///< From the end of the file up to here the library reads blanks.
     std::string m_name;
     qint64 m_position = 0;
 };
