@@ -7,10 +7,10 @@
 
 namespace folioforge {
 
-/// What went wrong while one file was read, decoded or written, in words for the user.
+/// Why a file cannot be read, decoded or written, in words for the user.
 ///
-/// The exceptions and codes of the libraries become an Error at the border of text/, image/ and
-/// pdf/; the conversion driver catches it for each entry, so nothing above the driver sees one.
+/// The exceptions and codes of the libraries become an Error where they are called. The conversion
+/// catches it for each entry; the fronts see none.
 class Error : public std::exception {
   public:
     explicit Error(QString reason)
@@ -26,7 +26,7 @@ class Error : public std::exception {
     QByteArray m_bytes;
 };
 
-/// What std::bad_alloc becomes in words, where it ends.
+/// The Error for std::bad_alloc.
 inline Error notEnoughMemory() {
     return Error(QStringLiteral("There is not enough memory"));
 }

@@ -4,7 +4,7 @@
 
 namespace folioforge {
 
-/// One notice for the user, as a value: the window shows it as a sheet, the command line prints it.
+/// A notice for the user: the window shows it as a sheet, the command line prints it.
 struct Notice {
     QString title;   ///< The message text, "Notice" for most.
     QString message; ///< The informative text under it.

@@ -20,7 +20,7 @@ FontCascade::FontCascade(const QString &family, double size)
     : m_size(size)
     , m_pages(kUnicodePages) {
     for (CatalogFont &font : findTextFonts(family)) {
-        // The first face gives the row height, so it must be one that opens.
+        // The first face gives the row height, so it must open.
         if (Face face(std::move(font));
             !m_faces.empty() ||
             (face.opened = FontFace::open(face.font.path(), face.font.index()))) {
@@ -70,7 +70,7 @@ const FontFace *FontCascade::openFace(std::size_t index) const {
     return face.opened.get();
 }
 
-Glyph FontCascade::rememberedGlyph(char32_t character) const {
+Glyph FontCascade::cachedGlyph(char32_t character) const {
     const std::size_t number = character / kPageSize;
     if (number >= m_pages.size()) {
         return m_missing;
@@ -90,7 +90,7 @@ Glyph FontCascade::rememberedGlyph(char32_t character) const {
 
 Glyph FontCascade::findGlyph(char32_t character) const {
     for (std::size_t i = 0; i < m_faces.size(); ++i) {
-        // The catalog leaves control characters out, so the first face, open anyway, is asked.
+        // The catalog omits control characters, so the first face is asked itself.
         if (i > 0 && !m_faces[i].font.covers(character)) {
             continue;
         }

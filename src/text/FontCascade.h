@@ -14,7 +14,7 @@
 
 namespace folioforge {
 
-/// The `character` of a glyph that stands for none, such as half of a surrogate pair.
+/// The `character` of a glyph that stands for none, such as that of half a surrogate pair.
 inline constexpr char32_t kNoCharacter = 0x110000;
 
 /// One glyph of a row as it is measured and drawn.
@@ -27,14 +27,13 @@ struct Glyph {
     bool operator==(const Glyph &) const = default;
 };
 
-/// The text font: the named family where the system has it, then a cascade of free fonts that
-/// together cover the scripts of the world. The first face gives the row height. A face behind the
-/// first is opened only when a character needs it; glyphs once found are remembered. May be used
-/// from any thread.
+/// The text font: the named family if the system has it, then a cascade of free fonts that together
+/// cover the scripts of the world. The first face gives the row height. Another face is opened when
+/// a character needs it. Glyphs are cached. Use it from any thread.
 class FontCascade {
   public:
-    /// The faces for `family` at `size` points. Never fails: with no font at all, glyphs measure
-    /// and draw as nothing.
+    /// The faces for `family` at `size` points. Never fails: without any font, glyphs have no width
+    /// and draw nothing.
     static std::shared_ptr<const FontCascade> load(const QString &family, double size);
 
     /// Points.
@@ -47,17 +46,18 @@ class FontCascade {
         return static_cast<float>(ascent() + descent() + leading());
     }
 
-    /// The number of faces a glyph may name, opened or not; 0 on a system without fonts.
+    /// The number of faces, opened or not; 0 on a system without fonts.
     [[nodiscard]] std::size_t faceCount() const { return m_faces.size(); }
-    /// A face that a glyph of this cascade names. Throws Error when its file has become unreadable.
+    /// The face of that index, as in Glyph::face. Throws Error when its file has become unreadable.
     [[nodiscard]] const FontFace &face(std::size_t index) const;
 
-    /// The glyph of one character: from the first face that covers it, else glyph 0 of the first.
+    /// The glyph of one character from the first face that covers it, else glyph 0 of the first
+    /// face.
     [[nodiscard]] Glyph glyph(char32_t character) const {
         const char32_t ascii = character - kFirstAscii;
-        return ascii < m_ascii.size() ? m_ascii[ascii] : rememberedGlyph(character);
+        return ascii < m_ascii.size() ? m_ascii[ascii] : cachedGlyph(character);
     }
-    /// The missing-glyph box that half of a surrogate pair draws.
+    /// The missing-glyph box, which half of a surrogate pair draws.
     [[nodiscard]] Glyph missingGlyph() const { return m_missing; }
 
   private:
@@ -79,7 +79,7 @@ class FontCascade {
     FontCascade(const QString &family, double size);
 
     const FontFace *openFace(std::size_t index) const;
-    [[nodiscard]] Glyph rememberedGlyph(char32_t character) const;
+    [[nodiscard]] Glyph cachedGlyph(char32_t character) const;
     [[nodiscard]] Glyph findGlyph(char32_t character) const;
     [[nodiscard]] Glyph glyphOf(std::size_t face, std::uint16_t id, char32_t character) const;
     [[nodiscard]] double points(int fontUnits) const;
@@ -89,13 +89,13 @@ class FontCascade {
     Glyph m_missing;
     std::array<Glyph, kLastAscii - kFirstAscii + 1> m_ascii;
 
-    mutable std::mutex m_mutex; ///< Guards what is opened and remembered on the way.
+    mutable std::mutex m_mutex; ///< Guards the faces and the cached glyphs.
     mutable std::vector<Face> m_faces;
     mutable std::vector<std::unique_ptr<Page>> m_pages;
 };
 
-/// The one font of text pages, "Arial Unicode MS" at 14 points. Opened at first use and kept for
-/// the life of the program, so that a thousand small documents pay for it once.
+/// The font of text pages, "Arial Unicode MS" at 14 points. It is loaded at first use and kept, so
+/// that a thousand small documents load it once.
 std::shared_ptr<const FontCascade> textFont();
 
 } // namespace folioforge

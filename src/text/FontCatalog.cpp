@@ -23,9 +23,9 @@ struct ReleasePattern {
 using Config = std::unique_ptr<FcConfig, ReleaseConfig>;
 using Pattern = std::unique_ptr<FcPattern, ReleasePattern>;
 
-/// The cascade behind the wanted family. Liberation Sans has the metrics of Arial; the fonts after
-/// it add scripts; those of a single script come before Unifont, which has nearly all characters
-/// but only as bitmaps traced into outlines.
+/// The fonts after the wanted family. Liberation Sans has the metrics of Arial; the fonts after it
+/// add scripts. Those of a single script come before Unifont, which has nearly all characters, but
+/// as outlines of bitmaps.
 constexpr std::array kCascade{
     QStringView(u"Liberation Sans"),  QStringView(u"DejaVu Sans"),
     QStringView(u"Noto Sans CJK SC"), QStringView(u"WenQuanYi Zen Hei"),
@@ -37,7 +37,7 @@ constexpr std::array kLast{
     QStringView(u"Unifont Upper"),
 };
 
-/// Place of a family in the cascade, and among the families of one place its name.
+/// Place of a family in the cascade; families of the same place are ordered by name.
 using Rank = std::pair<std::size_t, QString>;
 
 bool sameFamily(QStringView left, QStringView right) {
@@ -78,16 +78,16 @@ bool flag(FcPattern *pattern, const char *object) {
     return FcPatternGetBool(pattern, object, 0, &value) == FcResultMatch && value == FcTrue;
 }
 
-/// How far a font is from the upright regular of its family; 0 is that font itself. A variable font
-/// gives ranges here, which count as regular, but a fixed font is preferred to it.
+/// How far a font is from the upright regular one of its family, whose distance is 0. The ranges of
+/// a variable font count as regular, but a fixed font is preferred to it.
 int distanceFromRegular(FcPattern *pattern) {
     return std::abs(integer(pattern, FC_WEIGHT, FC_WEIGHT_REGULAR) - FC_WEIGHT_REGULAR) +
            std::abs(integer(pattern, FC_WIDTH, FC_WIDTH_NORMAL) - FC_WIDTH_NORMAL) +
            integer(pattern, FC_SLANT, FC_SLANT_ROMAN) + (flag(pattern, FC_VARIABLE) ? 1 : 0);
 }
 
-/// Outline fonts in an sfnt wrapper are what can be measured and embedded; the upper half of the
-/// index marks a named instance of a variable font, which cannot.
+/// Whether a font can be measured and embedded: an outline font in an sfnt wrapper, but no named
+/// instance of a variable font, which the upper half of the index marks.
 bool isUsable(FcPattern *pattern) {
     FcChar8 *format = nullptr;
     if (FcPatternGetString(pattern, FC_FONTFORMAT, 0, &format) != FcResultMatch) {

@@ -10,14 +10,14 @@ struct _FcCharSet; // NOLINT(bugprone-reserved-identifier): the name is fontconf
 
 namespace folioforge {
 
-/// A font of the system that has not been opened: where it is and what it covers.
+/// A font of the system, not opened: where it is and which characters it covers.
 class CatalogFont {
   public:
     CatalogFont(QByteArray path, unsigned index, _FcCharSet *covered);
 
     [[nodiscard]] const QByteArray &path() const { return m_path; }
     [[nodiscard]] unsigned index() const { return m_index; }
-    /// Whether the catalog lists `character` for the font; asks no font file.
+    /// Whether the system's font index lists `character` for the font.
     [[nodiscard]] bool covers(char32_t character) const;
 
   private:
@@ -29,10 +29,9 @@ class CatalogFont {
     std::unique_ptr<_FcCharSet, Release> m_covered;
 };
 
-/// The upright regular fonts that serve the text font `family`, the best first: the family itself
-/// where the system really has it, then free fonts that together cover the scripts of the world,
-/// then, where the system has none of these, whatever it calls its sans-serif. Reads the system's
-/// font index but opens no font.
+/// The upright regular fonts for the text font `family`, in order of preference: the family itself
+/// if the system has it, then free fonts that together cover the scripts of the world; if the
+/// system has none of these, its sans-serif. Reads the system's font index but opens no font.
 std::vector<CatalogFont> findTextFonts(const QString &family);
 
 } // namespace folioforge

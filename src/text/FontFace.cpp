@@ -17,8 +17,7 @@ bool hasTable(hb_face_t *face, hb_tag_t tag) {
     return present;
 }
 
-/// PDF names are bytes; keeping letters, digits, hyphens and underscores spares every reader the
-/// question of escapes.
+/// Keeps letters, digits, hyphens and underscores, which need no escape in a PDF name.
 QByteArray readPostScriptName(hb_face_t *face) {
     std::array<char, 128> name{};
     auto length = static_cast<unsigned>(name.size());

@@ -26,15 +26,14 @@ struct FontBox {
     int top = 0;
 };
 
-/// One font file opened for measuring and embedding. Everything is in font units; unitsPerEm()
-/// of them make one em.
+/// An open font for measuring and embedding. Lengths are in font units, unitsPerEm() to the em.
 class FontFace {
   public:
-    /// Opens face `index` of the collection or font file `path`. Null when it cannot be read or
-    /// holds no outlines that a PDF can embed ("glyf" or "CFF ").
+    /// Opens face `index` of the font file or collection `path`. Null when it cannot be read or has
+    /// no outlines that a PDF can embed ("glyf" or "CFF ").
     static std::unique_ptr<const FontFace> open(const QByteArray &path, unsigned index);
 
-    /// The HarfBuzz face; owned by this object and valid as long as it.
+    /// The HarfBuzz face; this object owns it.
     [[nodiscard]] hb_face_t *hbFace() const { return m_face.get(); }
     /// PostScript name, fit for a PDF font name.
     [[nodiscard]] const QByteArray &postScriptName() const { return m_postScriptName; }

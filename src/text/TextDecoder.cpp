@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 
 QString decodeText(QByteArrayView bytes) {
-    // Stateless, or a sequence cut short by the end of the file would wait for its rest.
+    // Stateless, so that a sequence that the end of the file cuts short is an error.
     QStringDecoder decode(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = decode(bytes);
     if (decode.hasError()) {

@@ -5,8 +5,8 @@
 
 namespace folioforge {
 
-/// The text of a file's bytes, read strictly as UTF-8; a byte order mark at the start is not part
-/// of it. A null string when the bytes are not UTF-8, an empty one when there is no text.
+/// The text of a file's bytes in strict UTF-8, without a byte order mark at the start. A null
+/// string when the bytes are not UTF-8, an empty one when there is no text.
 QString decodeText(QByteArrayView bytes);
 
 } // namespace folioforge

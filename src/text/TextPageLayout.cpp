@@ -24,7 +24,7 @@ bool startsWithPair(QStringView text) {
     return text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
 }
 
-/// The glyph of the first character of `text`: a pair has one, half a pair the missing glyph.
+/// The glyph of the first character of `text`. Half a surrogate pair has the missing glyph.
 Glyph firstGlyph(QStringView text, const FontCascade &font) {
     if (startsWithPair(text)) {
         return font.glyph(QChar::surrogateToUcs4(text[0], text[1]));
@@ -39,7 +39,8 @@ class RowBreaker {
         : m_font(font)
         , m_usableWidth(usableWidth) {}
 
-    /// Takes the first row off `line`, which is not empty. The glyphs live until the next call.
+    /// Removes the first row from `line`, which is not empty. The glyphs are valid until the next
+    /// call.
     std::span<const Glyph> takeRow(QStringView &line) {
         std::size_t count = 0;
         double width = 0;
@@ -58,8 +59,8 @@ class RowBreaker {
                 ++taken;
                 continue;
             }
-            // A prefix may end between the halves of a pair; there the half counts as it would
-            // be drawn, and where that is too wide the row ends with it.
+            // A row may end between the halves of a pair: the first half is measured as the box
+            // that it would draw, and if that is too wide the row ends with it.
             const bool fitsHalf = width + m_font.missingGlyph().advance <= m_usableWidth;
             const QStringView rest =
                 line.sliced(taken, fitsHalf ? std::min<qsizetype>(2, length - taken) : 1);
@@ -80,7 +81,7 @@ class RowBreaker {
         std::vector<Glyph>(kUsualRow); ///< Grows where zero-width glyphs make a row long.
 };
 
-/// Puts rows under each other and begins a page where the next row would pass the lower limit.
+/// Puts rows under each other and begins a page when the next row would pass the lower limit.
 class PageFiller {
   public:
     PageFiller(TextPageSink &sink, QSizeF pageSize, const PageMargins &margins, float rowHeight)
@@ -103,7 +104,7 @@ class PageFiller {
 
     /// False when the row needs a page that the sink does not want.
     [[nodiscard]] bool addRow(std::span<const Glyph> row) {
-        // Asked before every row, so a row taller than the page still gets a page of its own.
+        // A row taller than the page gets a page of its own.
         if (m_height - m_top < m_y + m_rowHeight) {
             m_sink.endPage();
             if (!beginPage()) {
@@ -123,7 +124,7 @@ class PageFiller {
     double m_left = 0;
     double m_top = 0;
     double m_rowHeight = 0;
-    float m_y = 0; ///< From the page's top edge to the top of the next row; 32 bits by contract.
+    float m_y = 0; ///< From the page's top edge to the top of the next row; 32 bits on purpose.
 };
 
 } // namespace

@@ -10,8 +10,8 @@
 
 namespace folioforge {
 
-/// Takes the pages of a text one after another. Positions are in points from the page's lower left
-/// corner.
+/// Receives the pages of a text in order. Positions are in points from the lower left corner of the
+/// page.
 class TextPageSink {
   public:
     TextPageSink() = default;
@@ -22,21 +22,20 @@ class TextPageSink {
     /// Asked before each page: false ends the text there.
     [[nodiscard]] virtual bool wantsPage() { return true; }
     virtual void beginPage() = 0;
-    /// A row whose baseline starts at (x, y); `glyphs` live until the call returns.
+    /// A row whose baseline starts at (x, y). `glyphs` are valid during the call.
     virtual void showRow(double x, double y, std::span<const Glyph> glyphs) = 0;
     virtual void endPage() = 0;
 };
 
-/// Width of `text` on one line, the sum of the advances that drawing it takes, and the row height;
-/// points.
+/// Width of `text` on one line, the sum of its advances, and the row height; in points.
 QSizeF getStringSize(QStringView text, const FontCascade &font);
 
-/// Lays `text` out on pages of `pageSize` points and hands them to `sink` in order: at least one,
-/// blank when there is no text. A sink that wants no further page gets none.
+/// Lays `text` out on pages of `pageSize` points and gives them to `sink` in order. Without text
+/// there is one blank page. A sink that wants no further page gets none.
 ///
-/// A line of the text becomes rows broken after the first unit that passes the right margin; blank
-/// lines take no room. Rows follow each other from the top margin down to the same distance from
-/// the lower edge: the top margin stands in for the bottom one.
+/// A line of the text becomes rows, each broken after the first unit that passes the right margin.
+/// Blank lines take no room. The rows of a page end above the top margin's distance from the lower
+/// edge: the bottom margin has no effect.
 void layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
                 const FontCascade &font, TextPageSink &sink);
 
