@@ -5,6 +5,7 @@
 #include "image/PdfImage.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
+#include "text/FontCascade.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,6 +16,7 @@
 
 #include <sys/resource.h>
 
+#include <array>
 #include <atomic>
 #include <csignal>
 #include <cstdlib>
@@ -126,6 +128,65 @@ class PDFContextTest : public QObject {
         QVERIFY(page.pixelColor(10, 10).red() > 200);
         QVERIFY(page.pixelColor(10, 40).blue() > 200);
         QVERIFY(page.pixelColor(90, 10).green() > 200);
+    }
+
+    void imagesOfOnePageStandEachInItsRectangle() {
+        QImage green(64, 64, QImage::Format_RGB32);
+        green.fill(Qt::green);
+        QVERIFY(green.save(file(u"green.jpg"_s), "JPEG", 95));
+        const QString path = newFile(u"pdf"_s);
+        PDFContext context(path, settings());
+        context.beginPage({0, 0, 100, 50});
+        context.drawImage({0, 0, 50, 50}, jpegInPlace(jpeg(u"quarters.jpg"_s)), 1);
+        context.drawImage({50, 0, 50, 50}, jpegInPlace(file(u"green.jpg"_s)), 1);
+        context.endPage();
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        const QImage page = PdfProbe(path).render(1);
+        QVERIFY(page.pixelColor(10, 10).red() > 200);
+        QVERIFY(page.pixelColor(10, 40).blue() > 200);
+        QVERIFY(page.pixelColor(60, 10).green() > 200 && page.pixelColor(60, 10).red() < 50);
+        QVERIFY(page.pixelColor(90, 40).green() > 200 && page.pixelColor(90, 40).blue() < 50);
+    }
+
+    void aPageMayBeginAnywhere() {
+        const QString path = newFile(u"pdf"_s);
+        PDFContext context(path, settings());
+        // Two boxes of one size, for boxes that repeat are shared.
+        for (const QRectF &box : {QRectF(10, 20, 100, 50), QRectF(-5, 0, 100, 50)}) {
+            context.beginPage(box);
+            context.endPage();
+        }
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        QCOMPARE(PdfProbe(path).box(u"MediaBox"_s, 1), QRectF(10, 20, 100, 50));
+        QCOMPARE(PdfProbe(path).box(u"MediaBox"_s, 2), QRectF(-5, 0, 100, 50));
+    }
+
+    void textHasTheColorOfItsPage() {
+        const QString path = newFile(u"pdf"_s);
+        const auto font = FontCascade::load(u"Liberation Sans"_s, 40);
+        const std::array glyphs{font->glyph(U'W')};
+        PDFContext context(path, settings());
+        context.setFont(font, 40);
+        for (const double red : {1.0, 0.0}) { // A page begins with black.
+            context.beginPage({0, 0, 100, 50});
+            if (red > 0) {
+                context.setRGBFillColor(red, 0, 0);
+            }
+            context.showGlyphsAtPoint(10, 10, glyphs);
+            context.endPage();
+        }
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        const auto holds = [&path](int number, const QColor &color) {
+            const QImage page = PdfProbe(path).render(number);
+            for (int i = 0; i < page.width() * page.height(); ++i) {
+                if (page.pixelColor(i % page.width(), i / page.width()) == color) {
+                    return true;
+                }
+            }
+            return false;
+        };
+        QVERIFY(holds(1, Qt::red) && !holds(1, Qt::black));
+        QVERIFY(holds(2, Qt::black) && !holds(2, Qt::red));
     }
 
     void copiesTheBytesOfAJpegAsTheyAre() {

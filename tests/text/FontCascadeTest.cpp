@@ -122,6 +122,7 @@ class FontCascadeTest : public QObject {
     }
 
     void valuesBeyondUnicodeAreTheMissingGlyph() {
+        QCOMPARE(cascade()->glyph(0x110001), cascade()->missingGlyph());
         QCOMPARE(cascade()->glyph(0xFFFFFFFF), cascade()->missingGlyph());
     }
 
@@ -149,6 +150,21 @@ class FontCascadeTest : public QObject {
         QCOMPARE(ids.value(0), glyph.id);
         QVERIFY(qAbs(raw.advancesForGlyphIndexes(ids).value(0).x() * kSize / 1000 - glyph.advance) <
                 0.02);
+    }
+
+    void boxIsThatOfTheHeadTable() {
+        const QRawFont raw(faceFile(findTextFonts(kMissingFamily).front()), 1000);
+        const QByteArray head = raw.fontTable("head");
+        const auto field = [&head](qsizetype at) {
+            return int{qFromBigEndian<qint16>(head.constData() + at)};
+        };
+        const FontBox box = cascade()->face(0).box();
+        QVERIFY(box.left < 0 && box.bottom < 0 && box.right > 0 && box.top > 0);
+        // xMin, yMin, xMax and yMax (OpenType, "head").
+        QCOMPARE(box.left, field(36));
+        QCOMPARE(box.bottom, field(38));
+        QCOMPARE(box.right, field(40));
+        QCOMPARE(box.top, field(42));
     }
 
     void simplifiedChineseComesFirst() {
