@@ -81,16 +81,17 @@ void OutputFile::openNamed(const QByteArray &fileName) {
     if (!opened) {
         fail("create");
     }
-    // The empty file tells which mode the umask leaves; until it is whole it is the owner's.
+    // The mode of the empty file shows the umask. Until the file is complete, only its owner may
+    // read it.
     struct stat status {};
     constexpr mode_t kPermissionBits = 07777;
     m_mode = ::fstat(m_file.get(), &status) == 0 ? status.st_mode & kPermissionBits : kOwnerMode;
-    // File systems without permissions refuse; their files have the mount's mode then as now.
+    // File systems without permissions refuse this; their files keep the mode of the mount.
     m_calls.fchmod(m_file.get(), kOwnerMode);
 }
 
-/// False when another name is to be tried: this one is taken, or the file was taken for abandoned
-/// before it was locked.
+/// False when the caller shall try another name: this one is taken, or another process removed the
+/// file as abandoned before it was locked.
 bool OutputFile::openPart(const std::string &path) {
     auto part = std::make_unique<PartFile>(path);
     constexpr int kFlags = O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC;
@@ -178,7 +179,7 @@ bool OutputFile::renamePart(const char *path) {
     if (errno == EEXIST) {
         return false;
     }
-    // Neither is known here: hold the name with a file of our own, then replace that one.
+    // The file system has neither call: take the name with an empty file and replace that one.
     FileDescriptor held(
         m_calls.open(path, O_CREAT | O_EXCL | O_NOFOLLOW | O_WRONLY | O_CLOEXEC, kOwnerMode),
         m_calls);
@@ -233,7 +234,8 @@ void OutputFile::replace(const QString &path, Flush flush) {
     if (!m_part) {
         linkAsPart(QFile::encodeName(QFileInfo(path).fileName()));
     }
-    // Some file systems tell only now that not all was written; the lock has to outlast that.
+    // Some file systems report failed writes only when the file is closed. A copy of the descriptor
+    // keeps the lock.
     const FileDescriptor lock(::fcntl(m_file.get(), F_DUPFD_CLOEXEC, 0));
     closeFile();
     if (m_calls.rename(m_part->path().c_str(), QFile::encodeName(path).constData()) != 0) {
@@ -252,8 +254,8 @@ void OutputFile::closeFile() {
 }
 
 void OutputFile::syncFolder() {
-    // The document stands whole under its name by now; where a folder cannot be flushed (many
-    // network file systems) nothing better can be done.
+    // The document is complete under its name by now. Where a folder cannot be flushed, as on many
+    // network file systems, nothing better can be done.
     const FileDescriptor folder(
         m_calls.open(m_folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0), m_calls);
     if (folder.isOpen()) {

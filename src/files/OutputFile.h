@@ -16,11 +16,11 @@ class PartFile;
 /// Whether a finished document is flushed to the disk before it gets its name.
 enum class Flush { Always, Never };
 
-/// A file that appears under its name only when it is whole, and never in place of another.
+/// A file that gets its name only when it is complete, and that replaces no other file.
 ///
-/// While it is written it has no name at all where the file system can do that, so that nothing is
-/// left even when the process is killed; elsewhere it is a part file beside the target, readable by
-/// its owner alone. Destroyed unpublished, it is gone.
+/// While it is written it has no name, where the file system supports that, so that nothing is left
+/// even when the process is killed. Elsewhere it is a part file in the same folder that only its
+/// owner can read. When it is destroyed before it is published, it is removed.
 class OutputFile {
   public:
     enum class Published { Yes, NameTaken };
@@ -48,9 +48,9 @@ class OutputFile {
     /// Gives the finished file its name `path`, in the folder it was made for. Throws Error when
     /// that fails for another reason than the name being taken.
     Published publish(const QString &path, Flush flush);
-    /// Puts the finished file in the place of the file `path`, in the folder it was made for, in
-    /// one step: at every moment one of the two stands there whole. Throws Error; the old file is
-    /// then as it was.
+    /// Replaces the file `path`, in the folder it was made for, by the finished file in one step:
+    /// at every moment `path` is one of the two, complete. Throws Error and leaves the old file as
+    /// it was.
     void replace(const QString &path, Flush flush);
 
   private:

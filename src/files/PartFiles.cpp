@@ -24,14 +24,15 @@ namespace {
 
 constexpr std::string_view kEnding = ".folioforge-part";
 
-// The parts of this process, the newest first. Writers take turns; a signal handler, which may wait
-// for nobody, finds the list whole at any moment.
+// The parts of this process, the newest first. Writers hold the mutex; a signal handler, which may
+// not wait, finds the list whole at any moment.
 std::atomic<PartFile *> newestPart{nullptr};
 static_assert(std::atomic<PartFile *>::is_always_lock_free);
-std::mutex turnToWrite;
+std::mutex partsMutex;
 
-// The handlers that walk the list now, on any thread: what one of them may be at must not go yet.
-std::atomic<int> walkers{0};
+// The number of signal handlers, on any thread, that go through the list now. While there is one,
+// no part may be destroyed, because the handler may be using it.
+std::atomic<int> activeHandlers{0};
 static_assert(std::atomic<int>::is_always_lock_free);
 
 bool isPartName(const std::string &name) {
@@ -47,7 +48,8 @@ FileDescriptor openPart(const char *path) {
         fd >= 0 || errno != EISDIR ? fd : ::open(path, O_RDONLY | O_DIRECTORY | kFlags));
 }
 
-/// Unlike lockPart(), sure of it: where locks are unknown nothing counts as abandoned.
+/// Whether the part behind `fd` is the user's own and nobody locks it. Unlike lockPart() it says no
+/// where the file system has no locks.
 bool isAbandoned(int fd) {
     struct stat status {};
     return ::fstat(fd, &status) == 0 && status.st_uid == ::geteuid() &&
@@ -103,33 +105,33 @@ void removeAbandonedParts(const QString &folder) {
 
 PartFile::PartFile(std::string path)
     : m_path(std::move(path)) {
-    const std::scoped_lock turn(turnToWrite);
+    const std::scoped_lock lock(partsMutex);
     m_older = newestPart.load();
     newestPart = this;
 }
 
 PartFile::~PartFile() {
-    const std::scoped_lock turn(turnToWrite);
+    const std::scoped_lock lock(partsMutex);
     std::atomic<PartFile *> *place = &newestPart;
     while (*place != this) {
         place = &place->load()->m_older;
     }
     *place = m_older.load();
-    while (walkers != 0) {
+    while (activeHandlers != 0) {
         std::this_thread::yield();
     }
 }
 
 void removePartFiles() noexcept {
-    ++walkers;
-    // What a folder holds is newer than the folder, which is empty when its turn comes.
+    ++activeHandlers;
+    // The files in a folder are newer than the folder and go first, so that it is empty then.
     for (const PartFile *part = newestPart; part; part = part->m_older) {
         const char *path = part->m_path.c_str();
         if (::unlink(path) != 0) {
             ::rmdir(path);
         }
     }
-    --walkers;
+    --activeHandlers;
 }
 
 } // namespace folioforge

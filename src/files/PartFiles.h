@@ -8,23 +8,22 @@
 
 namespace folioforge {
 
-// Everything temporary that gets a name is hidden and ends in ".folioforge-part". Its maker keeps a
-// lock on it while it is in use, which ends with the process however that ends: what nobody has
-// locked was left by a process that was killed.
+// Every temporary file or folder with a name is hidden and ends in ".folioforge-part": a part. The
+// process that makes a part locks it while it uses it. The system drops the lock when the process
+// ends, so an unlocked part was left by a process that was killed.
 
 /// The path of a new temporary file or folder in `folder`: ".NAME.RANDOM.folioforge-part", with the
 /// name cut at a character so that the whole fits the 255 bytes of a file name.
 std::string partPath(const std::string &folder, const QByteArray &name);
 
-/// Locks the part behind `fd`, for as long as that is open. False when another process has it
-/// locked, because it is about to remove it.
+/// Locks the part behind `fd` until that is closed. False when another process holds the lock,
+/// because it is about to remove the part.
 bool lockPart(int fd);
 
-/// Whether the part behind `fd` has lost its name.
+/// Whether the part behind `fd` was removed: it is open and has no name.
 bool isRemoved(int fd);
 
-/// Removes from `folder` the user's own parts that killed processes left. What cannot be removed
-/// stays.
+/// Removes the user's own parts that killed processes left in `folder`, as far as it can.
 void removeAbandonedParts(const QString &folder);
 
 /// Keeps the path of a part where a signal handler finds it.

@@ -27,7 +27,7 @@ QString ReadableLinks::pathFor(const QByteArray &path) {
     }
     std::error_code failure;
     const auto target = std::filesystem::absolute(path.toStdString(), failure);
-    // A folder for each, so that the link can bear the file's own name.
+    // Each link gets a folder of its own, so that it can have the file's name.
     const QString folder = m_folder.path() + u'/' + QString::number(m_count++);
     const QString link = folder + u'/' + fittingName(lastPathComponent(readable));
     const bool made = !failure && makeFolder(folder) && makeLink(link, target);

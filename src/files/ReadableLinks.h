@@ -13,8 +13,8 @@ namespace folioforge {
 
 class TemporaryFolder;
 
-/// Paths as text for files whose names are not valid UTF-8, which no text can name: such a file
-/// gets a symbolic link of a readable name, which lives as long as this object.
+/// Makes paths as QString for files whose names are not valid UTF-8, which QString cannot hold:
+/// such a file gets a symbolic link with a readable name. The links are removed with this object.
 class ReadableLinks {
   public:
     explicit ReadableLinks(TemporaryFolder &folder)
@@ -23,13 +23,13 @@ class ReadableLinks {
     ReadableLinks(const ReadableLinks &) = delete;
     ReadableLinks &operator=(const ReadableLinks &) = delete;
 
-    /// A path in text that leads to `path`: the same path where its bytes are valid UTF-8. A link's
-    /// name is cut where the readable form has no room. A file for which no link can be made gets
-    /// the readable form of its path, which does not exist.
+    /// `path` as text when its bytes are valid UTF-8, else the path of a link to it. The link has
+    /// the file's name with replacement characters, cut where it is too long. When no link can be
+    /// made, the result is the path with replacement characters, where no file is.
     QString pathFor(const QByteArray &path);
 
-    /// The same for readable forms of paths, as file panels give them: where nothing
-    /// stands under one, the file of its folder whose name reads like that is meant.
+    /// The same for paths from a file panel, which puts replacement characters for invalid bytes.
+    /// When no file has such a path, the file of the folder whose name reads the same is meant.
     QStringList pathsForReadable(QStringList paths);
 
   private:

@@ -74,7 +74,7 @@ Spool::Place Spool::add(QByteArrayView data) {
 }
 
 void Spool::readWindow(Place place) {
-    // Streams are asked for mostly in the order in which they came, many small ones in a row.
+    // Streams are mostly read in the order in which they were added, many small ones in a row.
     const qint64 size = std::max(place.length, std::min(kWindowSize, m_fileSize - place.offset));
     m_window.resize(0);
     m_window.resize(size);

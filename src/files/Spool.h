@@ -7,8 +7,8 @@
 
 namespace folioforge {
 
-/// Holds made data until the document is written: in memory while there is little of it, the older
-/// part then in an anonymous file that no one else can open and that is gone when this object is.
+/// Keeps data until the document is written: in memory while there is little of it, then in a file
+/// without a name, which no one else can open and which is removed with this object.
 class Spool {
   public:
     /// A place in the spool, in bytes.

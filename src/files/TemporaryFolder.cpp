@@ -16,7 +16,8 @@ namespace folioforge {
 
 namespace {
 
-/// Qt names none where TMPDIR leads nowhere; files must not be made in the root folder then.
+/// Qt gives an empty path when TMPDIR names no folder, and files would then be made in the root
+/// folder.
 QString systemsTemporaryFolder() {
     const QString folder = QDir::tempPath();
     return folder.isEmpty() ? QFile::decodeName(qgetenv("TMPDIR")) : folder;
@@ -38,7 +39,7 @@ TemporaryFolder::~TemporaryFolder() {
 }
 
 QString TemporaryFolder::path() {
-    // A long life outlasts those who clean the system's temporary folder.
+    // The system may clean its temporary folder while a long run goes on.
     if (m_part && isRemoved(m_descriptor.get())) {
         m_descriptor.close();
         m_part.reset();

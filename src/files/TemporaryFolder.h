@@ -10,9 +10,9 @@ namespace folioforge {
 
 class PartFile;
 
-/// A folder for files that are needed for a while, which its owner alone can enter: made when it is
-/// first asked for, gone with this object. Parts that killed processes left beside it go when it is
-/// made.
+/// A folder for temporary files that only its owner can enter. It is made when it is first asked
+/// for and removed with this object. When it is made, parts that killed processes left in the same
+/// place are removed.
 class TemporaryFolder {
   public:
     /// A folder in the system's temporary folder.
@@ -23,8 +23,8 @@ class TemporaryFolder {
     TemporaryFolder(const TemporaryFolder &) = delete;
     TemporaryFolder &operator=(const TemporaryFolder &) = delete;
 
-    /// The path of the folder, of a new one where somebody removed it. Where none can be made it is
-    /// the parent's, in which making a file then tells the reason.
+    /// The path of the folder; of a new one when it was removed meanwhile. The parent's path when
+    /// no folder can be made: creating a file there then fails with the reason.
     [[nodiscard]] QString path();
 
   private:
