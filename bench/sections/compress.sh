@@ -51,9 +51,13 @@ ghostscript() { # RESOLUTION
 }
 
 for document in photos scans office; do
-    [ $document = photos ] && part=6 || part=4
     export source="$compressed/$document.pdf"
     for method in 150m 96m 72l; do
+        case $document-$method in
+        photos-150m) part=5 ;;
+        photos-*) part=6 ;;
+        *) part=4 ;;
+        esac
         begin "50 pages of $document compressed by $method"
         candidate "folioforge" \
             "\"\$cli\" --quiet --flush never --compress $method --merge \"\$out\" \"\$source\"; cp \"\$out\" \"\$scratch/ours.pdf\""

@@ -4,6 +4,7 @@
 #include "support/JpegFile.h"
 #include "support/TestUnit.h"
 
+#include <QImage>
 #include <QTest>
 
 #include <cmath>
@@ -121,6 +122,27 @@ class JpegReaderTest : public QObject {
                 // The whole picture is rounded, and so are the samples.
                 constexpr double kRounding = 1.1;
                 QVERIFY(distance(small.planes[i], whole.planes[i]) < kRounding);
+            }
+        }
+    }
+
+    void wholePicturesAreAsQtReadsThem_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("ends within a block") << QSize(90, 67);
+        QTest::newRow("whole blocks") << QSize(96, 64);
+        QTest::newRow("as wide as whole blocks") << QSize(96, 67);
+    }
+
+    void wholePicturesAreAsQtReadsThem() {
+        QFETCH(const QSize, size);
+        const Kind grey{.components = 1, .across = 1, .down = 1};
+        const std::string file = jpegFile(size.width(), size.height(), grey);
+        const PlanarImage image = JpegReader(file, std::nullopt).decode(8);
+        const QImage expected = QImage::fromData(QByteArray::fromStdString(file), "JPEG");
+        QCOMPARE(QSize(image.width, image.height), size);
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x) {
+                QCOMPARE(int(image.planes[0].row(y)[x]), qGray(expected.pixel(x, y)));
             }
         }
     }
