@@ -197,7 +197,8 @@ double scaleFor(const ImageJob &job, const ImageUse &use, const QuartzFilter &fi
     return std::max(scale, 1.0 / std::max(job.width, job.height));
 }
 
-QString describeSize(QPDFObjectHandle dictionary, const QuartzFilter &filter, ImageJob &job) {
+QString describeSize(const QPDFObjectHandle &dictionary, const QuartzFilter &filter,
+                     ImageJob &job) {
     job.width = integer(dictionary, "/Width");
     job.height = integer(dictionary, "/Height");
     if (job.width <= 0 || job.height <= 0) {

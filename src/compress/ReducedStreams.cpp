@@ -69,6 +69,7 @@ std::shared_ptr<ReducedStreams> ReducedStreams::install(std::vector<PlannedImage
                                             dictionary.getKey("/DecodeParms"));
         image.plan.stream.setFilterOnWrite(false);
     }
+    streams->workAhead(0);
     return streams;
 }
 
