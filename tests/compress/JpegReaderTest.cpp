@@ -74,7 +74,8 @@ double distance(const Plane &small, const Plane &whole) {
         for (int x = 0; (x + 1) * side <= whole.width(); ++x) {
             double sum = 0;
             for (int i = 0; i < side * side; ++i) {
-                sum += whole.row(y * side + i / side)[x * side + i % side];
+                const int row = y * side + i / side;
+                sum += whole.row(row)[x * side + i % side];
             }
             largest = std::max(largest, std::abs(small.row(y)[x] - sum / (side * side)));
         }
