@@ -40,7 +40,7 @@ class OpenCounter {
 #endif
     }
 
-    int count() {
+    [[nodiscard]] int count() const {
         int opens = 0;
 #ifdef __linux__
         QByteArray events(1 << 16, Qt::Uninitialized);
