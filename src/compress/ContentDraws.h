@@ -19,6 +19,7 @@ struct Matrix2x2 {
 
     /// This transformation, then `next`. What multiplies to no number is infinitely large.
     [[nodiscard]] Matrix2x2 then(const Matrix2x2 &next) const;
+    // NOLINTNEXTLINE(modernize-use-nullptr): the check takes the 0 of a comparison for a pointer
     auto operator<=>(const Matrix2x2 &) const = default;
 };
 
