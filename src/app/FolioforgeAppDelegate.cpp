@@ -1,7 +1,7 @@
 #include "app/FolioforgeAppDelegate.h"
 
+#include "convert/Bundle.h"
 #include "mainwnd/Desktop.h"
-#include "mainwnd/ProductPages.h"
 
 #include <QApplication>
 #include <QIcon>

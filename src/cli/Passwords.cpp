@@ -1,5 +1,4 @@
-#include "cli/Passwords.h"
-
+#include "cli/Arguments.h"
 #include "cli/OptionValues.h"
 #include "pdf/Password.h"
 

@@ -3,7 +3,6 @@
 #include "cli/Console.h"
 #include "cli/Inputs.h"
 #include "cli/OptionValues.h"
-#include "cli/Passwords.h"
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
 #include "convert/Bundle.h"

@@ -1,7 +1,6 @@
 #include "cli/Arguments.h"
 #include "cli/Console.h"
-#include "cli/Interruption.h"
-#include "cli/Locale.h"
+#include "cli/Process.h"
 #include "cli/Run.h"
 #include "files/FileDescriptor.h"
 

@@ -1,10 +1,20 @@
 #pragma once
 
 #include <QString>
+#include <QUrl>
 
 namespace folioforge {
 
 /// The running application's bundle: its programs lie in Contents/MacOS of it, on every system.
 QString applicationBundlePath();
+
+/// The tutorial page that comes with the bundle at `bundlePath`.
+QUrl tutorialPage(const QString &bundlePath);
+
+/// The product page that comes with the bundle at `bundlePath`.
+QUrl productPage(const QString &bundlePath);
+
+/// The product page at its download section.
+QUrl downloadPage(const QString &bundlePath);
 
 } // namespace folioforge

@@ -2,12 +2,13 @@
 
 #include "error/Error.h"
 #include "filelist/FileKind.h"
-#include "filelist/NameWidth.h"
 #include "filelist/TextSource.h"
 #include "files/PathNames.h"
+#include "text/FontCascade.h"
 
 #include <QDateTime>
 #include <QFileInfo>
+#include <QList>
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +29,20 @@ int wholePoints(double length) {
 
 QString dimensionsText(QSizeF size) {
     return u"%1 \u00d7 %2"_s.arg(wholePoints(size.width())).arg(wholePoints(size.height()));
+}
+
+/// Width in points of `name` on one line in "Lucida Grande" at 11 points; where the system lacks
+/// that font, in the free fonts that stand in for it.
+double nameWidth(const QString &name) {
+    constexpr double kSize = 11;
+    // The window's font metrics need a running window system, which the command line lacks.
+    static const auto font = FontCascade::load(u"Lucida Grande"_s, kSize);
+    double width = 0;
+    const auto characters = name.toUcs4();
+    for (const uint character : characters) {
+        width += font->glyph(character).advance;
+    }
+    return width;
 }
 
 QVariant dateOrNothing(const QDateTime &date) {

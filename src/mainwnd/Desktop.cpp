@@ -3,6 +3,10 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QProcess>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +22,31 @@ void SystemDesktop::openURL(const QUrl &url) {
 
 void SystemDesktop::openFile(const QString &path) {
     QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+QByteArray openCommand(const QString &verb, const QString &path) {
+    const QByteArray command = verb.toUtf8() + " \"" + QFile::encodeName(path) + '"';
+    QByteArray escaped;
+    escaped.reserve(2 * command.size());
+    for (const char byte : command) {
+        if (byte == '$') {
+            escaped += '\\';
+        }
+        escaped += byte;
+    }
+    return escaped;
+}
+
+bool isSafeInShell(const QString &path) {
+    constexpr std::array kUnsafe{u'"', u'`', u'\\', u'\n', u'\r', u'\0'};
+    return path.startsWith(u'/') && std::none_of(path.begin(), path.end(), [&kUnsafe](QChar unit) {
+               return std::ranges::find(kUnsafe, unit) != kUnsafe.end();
+           });
+}
+
+QString openVerb() {
+    const QString verb = u"open"_s;
+    return QStandardPaths::findExecutable(verb).isEmpty() ? u"xdg-open"_s : verb;
 }
 
 } // namespace folioforge

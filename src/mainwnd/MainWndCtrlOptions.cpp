@@ -1,10 +1,9 @@
 #include "mainwnd/MainWndCtrl.h"
 
+#include "convert/Bundle.h"
 #include "mainwnd/Desktop.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/Notices.h"
-#include "mainwnd/OpenCommand.h"
-#include "mainwnd/ProductPages.h"
 
 #include <QDir>
 #include <QFileInfo>

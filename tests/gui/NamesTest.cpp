@@ -1,5 +1,5 @@
 #include "gui/TestWindow.h"
-#include "mainwnd/OpenCommand.h"
+#include "mainwnd/Desktop.h"
 #include "support/HostileNames.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"

@@ -1,4 +1,4 @@
-#include "mainwnd/OpenCommand.h"
+#include "mainwnd/Desktop.h"
 #include "support/TestUnit.h"
 
 #include <QFile>

@@ -1,8 +1,13 @@
-#include "cli/Interruption.h"
+#include "cli/Process.h"
 
 #include "files/PartFiles.h"
 
+#include <clocale>
 #include <csignal>
+#include <cstdlib>
+#include <string_view>
+
+#include <langinfo.h>
 
 namespace folioforge {
 namespace {
@@ -15,6 +20,15 @@ extern "C" void endBySignal(int signalNumber) {
 }
 
 } // namespace
+
+// Qt would choose the same by itself, with a warning on standard error for each run.
+void useUtf8FileNames() {
+    std::setlocale(LC_ALL, "");
+    if (std::string_view(::nl_langinfo(CODESET)) != "UTF-8") {
+        ::setenv("LC_ALL", "C.UTF-8", 1);
+        std::setlocale(LC_ALL, "");
+    }
+}
 
 void prepareForSignals() {
     for (const int signalNumber : {SIGINT, SIGTERM, SIGHUP}) {
