@@ -11,7 +11,7 @@ class QLabel;
 namespace folioforge {
 
 /// The controller of the About window: the application's icon, its version and the licences of
-/// what it stands on.
+/// its libraries.
 class AboutWndCtrl {
   public:
     /// Reads the bundle's property list and its icon; what is missing stays blank.

@@ -77,8 +77,8 @@ void FolioforgeAppDelegate::connectItems() {
     connect(m_aboutItem, &QAction::triggered, this, &Self::clickMenuItemAbout);
 }
 
-// A menu outside the window is not covered by the busy sheet, so the two commands that touch the
-// list keep away from a run themselves.
+// The busy sheet does not cover a menu outside the window, so the two commands that change the
+// list check for a run themselves.
 
 void FolioforgeAppDelegate::clickMenuItemAddFiles() {
     if (!m_mainWndCtrl->isConverting()) {

@@ -1,4 +1,4 @@
-// Stands where the build found no update framework; SparkleUpdater.mm stands where it did.
+// Compiled where the build finds no update framework; elsewhere SparkleUpdater.mm is.
 
 #include "app/Updater.h"
 

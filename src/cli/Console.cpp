@@ -21,7 +21,7 @@ bool write(std::FILE *stream, const QByteArray &bytes) {
 
 void Console::result(const QByteArray &line) {
     eraseProgress();
-    // A reader that went away has what it wanted; the documents are written all the same.
+    // A reader that closes the pipe has read enough: no error.
     if ((!write(stdout, line + '\n') || std::fflush(stdout) != 0) && errno != EPIPE) {
         m_resultsArrived = false;
     }

@@ -20,7 +20,7 @@ QByteArray withoutSlashesAtEnd(QByteArray path) {
     return path;
 }
 
-/// The order of the names is the same on every file system.
+/// Sorted, so that the order is the same on every file system.
 std::vector<QByteArray> sortedNames(const QByteArray &folder) {
     std::vector<QByteArray> names = recognisedNames(folder);
     std::sort(names.begin(), names.end());

@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-/// A whole number with an optional sign and nothing else. Numbers out of any page's range are left
-/// to the checks of the settings, which have their own words for them.
+/// A whole number with an optional sign and nothing else. The checks of the settings refuse numbers
+/// that no page can have.
 qint64 wholeNumber(QStringView text, const QString &fault) {
     QStringView digits = text;
     if (digits.startsWith(u'-') || digits.startsWith(u'+')) {

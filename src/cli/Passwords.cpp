@@ -39,7 +39,7 @@ class PasswordReader {
         try {
             return textOf(bytes);
         } catch (const ArgumentFault &) {
-            // The usual words would print the password.
+            // The message of textOf() would print the password.
             throw ArgumentFault(u"A password is not valid UTF-8"_s);
         }
     }

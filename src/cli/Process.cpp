@@ -21,7 +21,7 @@ extern "C" void endBySignal(int signalNumber) {
 
 } // namespace
 
-// Qt would choose the same by itself, with a warning on standard error for each run.
+// Qt does the same by itself, but writes a warning to standard error.
 void useUtf8FileNames() {
     std::setlocale(LC_ALL, "");
     if (std::string_view(::nl_langinfo(CODESET)) != "UTF-8") {

@@ -10,10 +10,10 @@
 
 namespace folioforge {
 
-/// The terminal's progress bar: one line that names the document or entry in work.
+/// The terminal's progress bar: one line that names the entry being converted.
 class ProgressLine {
   public:
-    /// `names` are the entries of the whole run in their order; they must be there when the first
+    /// `names` are the entries of the whole run in their order. They are filled before the first
     /// PDF begins and outlive this object.
     ProgressLine(Console &console, ProgressMode mode, const std::vector<QString> &names);
 

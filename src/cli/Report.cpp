@@ -55,7 +55,7 @@ QByteArray escapedUnits(const QString &text) {
     return result;
 }
 
-/// What a terminal could take for a command is escaped, though JSON allows most of it in strings.
+/// Escapes the control characters that a terminal may obey, though JSON allows most of them.
 QByteArray escaped(const QString &json) {
     QByteArray result;
     const auto characters = json.toUcs4();
@@ -66,7 +66,7 @@ QByteArray escaped(const QString &json) {
     return result;
 }
 
-/// The pages, each once, and no more than a line has room for.
+/// The page numbers in ascending order, each once, the first ten at most.
 QString pagesInWords(std::vector<int> pages) {
     constexpr std::size_t kMax = 10;
     std::sort(pages.begin(), pages.end());

@@ -50,7 +50,7 @@ int main(int argc, char *argv[]) {
     try {
         return run(argc, argv);
     } catch (const std::exception &failure) {
-        // Only what nobody can do anything about, such as no memory for the list itself.
+        // Errors of single inputs are reported before; this is, say, no memory for the list.
         std::fprintf(stderr, "folioforge-cli: %s\n", failure.what());
         return SomeFailed;
     }

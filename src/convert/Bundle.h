@@ -5,7 +5,7 @@
 
 namespace folioforge {
 
-/// The running application's bundle: its programs lie in Contents/MacOS of it, on every system.
+/// The bundle of the running program, which lies in its Contents/MacOS on every system.
 QString applicationBundlePath();
 
 /// The tutorial page that comes with the bundle at `bundlePath`.

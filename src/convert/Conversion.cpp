@@ -17,7 +17,7 @@ namespace {
 constexpr float kPagesShare = 50;
 constexpr float kFull = 100;
 
-/// The one place where what the engine throws becomes words.
+/// Turns every exception of the engine into its reason.
 template<typename Step> QString reasonOfFailure(Step &&step) {
     try {
         step();

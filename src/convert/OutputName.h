@@ -10,10 +10,10 @@ namespace folioforge {
 QString mergedFilePath(const ConversionOptions &options);
 
 /// The first free path for the PDF of `fileName` in `folder`: name.pdf, name(1).pdf, ... A name
-/// that the file system would find too long loses characters before the number.
+/// too long for the file system loses characters before the number.
 QString singleFilePath(const QString &folder, const QString &fileName);
 
-/// Whether something stands under `path`, be it a link that leads nowhere.
+/// Whether `path` exists, also as a link to nothing.
 bool isNameTaken(const QString &path);
 
 } // namespace folioforge

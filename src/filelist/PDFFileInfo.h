@@ -65,8 +65,7 @@ class PDFFileInfo {
     [[nodiscard]] SourceText sourceText(SystemCalls &calls = SystemCalls::system()) const;
     /// Why the source could not be read when it was listed; empty when it could.
     [[nodiscard]] const QString &readError() const { return m_readError; }
-    /// What was lost in reading a source that is converted all the same: a text that is not valid
-    /// UTF-8 gives a blank page. Empty for none.
+    /// The warning for a text that is not valid UTF-8, which gives a blank page; else empty.
     [[nodiscard]] const QString &readWarning() const { return m_readWarning; }
 
     void setPageCount(int count) { m_pageCount = count; }

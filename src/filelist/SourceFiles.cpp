@@ -47,7 +47,7 @@ void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &rea
             files += readableLinks.pathFor(place + '/' + name);
         }
     } catch (const Error &) {
-        return; // Such a folder adds nothing.
+        return; // A folder that cannot be listed adds nothing.
     }
 }
 

@@ -14,12 +14,12 @@ namespace folioforge {
 class ReadableLinks;
 
 /// The names of the text and image files of `folder`, as the file system's own bytes: one level, in
-/// the file system's order, hidden ones too. PDF files inside a folder are not taken, and neither
-/// is a folder that bears a file's name. Throws Error where the folder cannot be listed to its end.
+/// the file system's order, hidden ones too. PDF files and folders are left out. Throws Error when
+/// the folder cannot be listed to its end.
 std::vector<QByteArray> recognisedNames(const QByteArray &folder);
 
-/// Appends to `files` the paths ("folder/name", or their stand-ins) of the text and image files of
-/// `folder` that recognisedNames() gives; nothing where it cannot be listed.
+/// Appends to `files` the paths ("folder/name", or links to them) of what recognisedNames() gives;
+/// nothing where `folder` cannot be listed.
 void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &readableLinks);
 
 /// Size text of a file of `bytes` bytes, taken as a signed 32-bit number and rounded up to whole
@@ -31,8 +31,7 @@ QString sizeText(qint64 bytes);
 int countPdfPages(const QString &path);
 
 /// The one alert for the PDF files that were refused, in order, one a line. The paths are read as a
-/// format string that has no arguments: "%%" becomes "%", and a conversion, finding no argument,
-/// stays as it stands.
+/// format string without arguments: "%%" becomes "%" and any other conversion stays.
 Notice badFilesNotice(const QStringList &paths);
 
 } // namespace folioforge

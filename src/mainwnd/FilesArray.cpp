@@ -33,7 +33,7 @@ bool isLink(const PDFFileInfo &entry, int column) {
     return column == FilesArray::DestinationColumn && entry.stateIndex() == FinishedAsLink;
 }
 
-/// Tool tips take a text that looks like HTML for HTML.
+/// A tool tip that is never read as HTML.
 QString plainToolTip(const QString &path) {
     const QString text = printable(path);
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
@@ -106,8 +106,8 @@ void FilesArray::removeRowsAt(std::span<const int> rows) {
     if (rows.empty()) {
         return;
     }
-    // Views select the neighbour of a removed current row, and the next press of Delete would take
-    // a file that nobody chose: the selection goes first, and the neighbour becomes current alone.
+    // A view selects the neighbour of a removed current row, and the next press of Delete would
+    // remove it. So the selection is cleared first, and the neighbour only becomes current.
     const int gap = rows.front();
     m_selection.clear();
     const int removed = static_cast<int>(rows.size());
@@ -123,8 +123,8 @@ void FilesArray::removeRowsAt(std::span<const int> rows) {
                                 QItemSelectionModel::NoUpdate);
 }
 
-/// One removal signal a scattered row would cost quadratic time in every listener; the rows are
-/// gathered at the end first, where they go as one block.
+/// Moves the rows to the end, where they are removed as one block: a removal signal for each row
+/// would cost every listener quadratic time.
 void FilesArray::moveToEnd(std::span<const int> rows) {
     std::vector<std::size_t> order;
     order.reserve(m_entries.size());

@@ -18,8 +18,7 @@ namespace {
 
 constexpr int kHeaderHeight = 34;
 
-/// The layout's size, made smaller where the screen is: with the options panel shown the window
-/// still fits, as far as its controls allow. How far that is shows when the window does.
+/// Shrinks the window to the screen, so that it still fits with the options panel shown.
 void fitIntoScreen(QMainWindow &window) {
     if (const QScreen *screen = QGuiApplication::primaryScreen()) {
         window.resize(window.size().boundedTo(screen->availableSize()));
@@ -108,7 +107,7 @@ void MainWndCtrl::initCtrl() {
     for (const auto &[button, name] : skins) {
         skinButton(folder, name, button);
     }
-    // The list starts empty. Disabled only now, when there are looks to show it with.
+    // The list starts empty. The disabled look is known only from here on.
     m_btnCreate->setEnabled(false);
     m_btnRemove->setEnabled(false);
     connectControls();
@@ -156,7 +155,7 @@ void MainWndCtrl::connectControls() {
     on(m_btnTxtSetting, &Self::clickBtnTextPageSize);
     on(m_btnCheckUserPassword, &Self::clickBtnCheckUserPassword);
     on(m_btnCheckOwnerPassword, &Self::clickBtnCheckOwnerPassword);
-    // A row is chosen by the mouse or by the arrow keys; only the latter are not clicks.
+    // The arrow keys choose a row without a click.
     connect(m_mtxTextPageSizeMode, &QButtonGroup::buttonToggled, this, &Self::clickMtxTextPageSize);
     connect(m_mtxImagePageSizeMode, &QButtonGroup::buttonToggled, this,
             &Self::clickMtxImagePageSize);

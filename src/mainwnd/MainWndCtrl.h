@@ -59,7 +59,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     QMainWindow *window();
     /// Who hears whether the list holds files; not owned.
     void setDelegateObject(MainWndDelegate *delegate);
-    /// Whether a run is on, so that the list and the settings are not to change.
+    /// Whether a run is going on, during which the list must not change.
     [[nodiscard]] bool isConverting() const { return m_bConverting; }
     [[nodiscard]] const FilesArray &filesArray() const { return *m_filesArray; }
 
@@ -215,8 +215,8 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
 
     QWidget *m_currentSettingsView = nullptr;
     QVariantAnimation m_optionsSlide;
-    int m_optionsWidthInFrame = 0; ///< How much of the window's own width is the options panel's.
-    std::optional<QRect> m_restoredGeometry; ///< Of a window that fills the screen.
+    int m_optionsWidthInFrame = 0; ///< The part of the window's width that the panel takes.
+    std::optional<QRect> m_restoredGeometry; ///< The normal geometry of a maximized window.
     int m_optionsShift = 0; ///< How far to the left the panel has moved the window.
     int m_shiftedLeft = 0;  ///< Where that put the window's left edge.
     QString m_outputFolderPath;

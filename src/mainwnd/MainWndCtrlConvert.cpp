@@ -45,7 +45,7 @@ int pagesOf(const PDFOutcome &outcome) {
 
 } // namespace
 
-/// Brings what a worker tells to the main thread, without waiting.
+/// Passes what a worker reports to the main thread, without waiting.
 class MainWndCtrl::WorkerObserver : public ConversionObserver {
   public:
     explicit WorkerObserver(MainWndCtrl &ctrl)
@@ -59,7 +59,7 @@ class MainWndCtrl::WorkerObserver : public ConversionObserver {
         const int row = m_firstRow + static_cast<int>(index);
         m_ctrl.runOnMainThread([ctrl = &m_ctrl, row, written] { ctrl->entryDone(row, written); });
     }
-    /// The controller observes the notification on the main thread.
+    /// The controller receives the notification on the main thread.
     void endPageWrite(int pageIndex, int /*pageCount*/) override {
         m_ctrl.m_services.notifications.post(NotificationCenter::didEndPageWrite(),
                                              {{NotificationCenter::pageIndexKey(), pageIndex}});
@@ -133,7 +133,7 @@ void MainWndCtrl::entryDone(int row, bool written) {
     showFileBeingWritten(row + 1);
 }
 
-/// An entry whose PDF did not come about is as if it had not been tried.
+/// An entry whose PDF failed waits again.
 void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
     m_bWorking = false;
     m_destFilePathName = outcome.close.path;
@@ -172,7 +172,7 @@ void MainWndCtrl::compress(const QString &path) {
 }
 
 void MainWndCtrl::compressCompleted() {
-    // Others may announce the end of a pass too; a file that is still being written has not ended.
+    // Other senders may post the notification while a file is still being written.
     if (!m_bConverting || m_bWorking) {
         return;
     }
@@ -217,7 +217,7 @@ void MainWndCtrl::startWorker(std::function<void()> work) {
     try {
         m_worker = std::jthread([shared] { (*shared)(); });
     } catch (const std::system_error &) {
-        (*shared)(); // The system gives no thread: better a window that waits than no document.
+        (*shared)(); // Without a thread the window waits for the work.
     }
 }
 

@@ -39,7 +39,7 @@ QStringList filesOf(const QStringList &chosen, ReadableLinks &readableLinks) {
     return files;
 }
 
-/// The file that `url` names to the byte: of names that are no text, several read alike.
+/// The file that `url` names. Names that are not valid UTF-8 are taken byte by byte.
 QString fileOf(const QUrl &url, ReadableLinks &readableLinks) {
     const QString path = url.toLocalFile();
     return path.contains(QChar::ReplacementCharacter)
@@ -48,7 +48,7 @@ QString fileOf(const QUrl &url, ReadableLinks &readableLinks) {
                : path;
 }
 
-/// The files that a drag carries; nothing when it carries none by its kind.
+/// The local files of a drag; nothing when it carries no URLs.
 std::optional<QStringList> draggedPaths(const QMimeData &data, ReadableLinks &readableLinks) {
     if (!data.hasUrls()) {
         return std::nullopt;
@@ -62,7 +62,7 @@ std::optional<QStringList> draggedPaths(const QMimeData &data, ReadableLinks &re
     return paths;
 }
 
-/// Any other file that has a problem enters the list all the same.
+/// A bad PDF stays out of the list; any other file with a problem enters it.
 bool isBadPdf(const ReadEntry &read) {
     return !read.problem.isEmpty() && fileKind(read.entry.filePathName()) == FileKind::Pdf;
 }
@@ -143,7 +143,7 @@ void MainWndCtrl::addFiles(const QStringList &paths, int row) {
     }
     const QString firstName = entries.empty() ? QString() : entries.front().fileName();
     if (!entries.empty()) {
-        m_tableview->setFocus(); // So that the keys of the list are at hand.
+        m_tableview->setFocus(); // The keys of the list work at once.
     }
     insertEntries(std::move(entries), row);
     m_bLoading = false;
@@ -159,7 +159,7 @@ void MainWndCtrl::addFiles(const QStringList &paths, int row) {
     }
 }
 
-/// Numbers the new entries as if they were appended; who inserts them elsewhere reindexes.
+/// Numbers the new entries as if they were appended; reindexFiles() corrects that elsewhere.
 void MainWndCtrl::insertEntries(std::vector<PDFFileInfo> entries, int row) {
     int index = m_filesArray->count();
     for (PDFFileInfo &entry : entries) {

@@ -36,7 +36,7 @@ qint64 numberIn(const QLineEdit &field) {
     return integerValue(field.text());
 }
 
-/// As "chmod 777" would, without a shell that could read the path's characters as its own.
+/// Does what "chmod 777" does, without a shell that could misread the path.
 void makeWorldWritable(const QString &folder) {
     using P = QFileDevice::Permission;
     QFile::setPermissions(folder, P::ReadOwner | P::WriteOwner | P::ExeOwner | P::ReadGroup |
@@ -65,7 +65,7 @@ void MainWndCtrl::exchangeButtons(SkinButton *pressed, SkinButton *other) {
         other->setFocus();
     }
     pressed->setVisible(false);
-    // It appears under the pointer and must not keep a stale hover look.
+    // The other button appears under the pointer and must not keep an old hover look.
     QMetaObject::invokeMethod(other, &SkinButton::showNormalImage, Qt::QueuedConnection);
 }
 
@@ -87,7 +87,7 @@ void MainWndCtrl::slideOptionsTo(double width) {
 }
 
 void MainWndCtrl::setOptionsWidth(int width) {
-    // A drawer that appears may itself push the window out to its least width.
+    // Showing the drawer may widen the window to its minimum width.
     const QRect before = m_window->geometry();
     m_optionsDrawer->setOpenWidth(width);
     fitWindowToOptions(before);
@@ -120,8 +120,8 @@ void MainWndCtrl::fitWindowToOptions(const QRect &before) {
     }
 }
 
-/// Gives a window on the screen the least size of what it shows now, at once: with the next event
-/// would be too late for a window that is about to shrink.
+/// Applies the minimum size of what the window shows now, before the window shrinks; by itself Qt
+/// applies it with the next event.
 void MainWndCtrl::takeOnLeastSize() {
     if (m_window->isVisible()) {
         m_skinedBackView->layout()->activate();
@@ -129,9 +129,9 @@ void MainWndCtrl::takeOnLeastSize() {
     }
 }
 
-/// Where the left edge of `frame` belongs. The panel opens to the right; what of it the screen has
-/// no room for there moves the window to the left, and back again as the panel closes. A window
-/// that was moved meanwhile stays where it was put.
+/// The left edge of `frame` with the panel. The panel opens to the right. Where the screen ends
+/// first, the window moves to the left by the missing width, and back when the panel closes. A
+/// window that the user moved meanwhile stays there.
 int MainWndCtrl::leftWithOptions(const QRect &frame) {
     const QRect screen = m_window->screen()->availableGeometry();
     const int shift = frame.left() == m_shiftedLeft ? m_optionsShift : 0;

@@ -39,7 +39,7 @@ QString nameFilter(const QStringList &extensions) {
     return QFileDialog::tr("Files (%1)").arg(patterns.join(u' '));
 }
 
-/// Of folders Qt's panel lets one alone be marked, though it returns as many as are.
+/// Qt's panel selects one folder only, though it can return several.
 void letSeveralBeMarked(const QFileDialog &dialog) {
     for (const char *view : {"listView", "treeView"}) {
         if (auto *list = dialog.findChild<QAbstractItemView *>(QLatin1StringView(view))) {
@@ -82,15 +82,14 @@ QFileDialog *makeFileDialog(QWidget *window, const FilePanel &panel) {
     return dialog;
 }
 
-/// File names that look like HTML are shown as they are; the box itself knows only its first text.
+/// Shows file names that look like HTML as they are, in every label of the box.
 void showAsPlainText(QMessageBox &box) {
     for (QLabel *label : box.findChildren<QLabel *>()) {
         label->setTextFormat(Qt::PlainText);
     }
 }
 
-/// `text` as one that can be selected and scrolls, and whose words break where there is no room for
-/// them whole; no larger than `most`.
+/// A selectable view of `text` that scrolls and breaks long words; no larger than `most`.
 QTextEdit *scrollingText(const QLabel &text, const QSize &most) {
     auto *view = new QTextEdit(text.parentWidget());
     view->setReadOnly(true);
@@ -109,15 +108,15 @@ QTextEdit *scrollingText(const QLabel &text, const QSize &most) {
     return view;
 }
 
-/// How large the text of a notice may be: a box takes part of the screen, and is never wider than
-/// 1000 points.
+/// The largest size of a notice's text: half the screen's height and two fifths of its width, at
+/// most 800 points.
 QSize mostOfText(const QScreen &screen) {
     const QSize size = screen.availableGeometry().size();
     return {std::min(size.width() * 2 / 5, 800), size.height() / 2};
 }
 
-/// A notice may name thousands of files, or one by a single endless word: text without room for it
-/// scrolls and breaks, so that all of it and the button stay within reach.
+/// Lets a long text scroll and break, so that all of it and the button stay on the screen: a notice
+/// may name thousands of files.
 void fitLongText(QMessageBox &box) {
     auto *text = box.findChild<QLabel *>(u"qt_msgbox_informativelabel"_s);
     const QSize most = mostOfText(*box.screen());
@@ -156,7 +155,7 @@ void Notices::show(QWidget *window, const Notice &notice, Kind kind, Ended ended
     fitLongText(*box);
     box->setWindowModality(kind == Kind::Sheet ? Qt::WindowModal : Qt::ApplicationModal);
     if (ended) {
-        // Queued, so that this sheet has gone before the next one comes.
+        // Queued, so that this sheet closes before the next one opens.
         connect(
             box, &QDialog::finished, this, [ended] { ended(); }, Qt::QueuedConnection);
     }

@@ -171,7 +171,7 @@ void SkinTableView::keyPressEvent(QKeyEvent *event) {
     }
 }
 
-/// From the keyboard the menu opens at what it acts on, where that can be seen.
+/// Where the menu opens from the keyboard: at the selected row, if that is visible.
 QPoint SkinTableView::contextMenuPosition(const QContextMenuEvent &event) const {
     if (event.reason() != QContextMenuEvent::Keyboard) {
         return event.globalPos();
@@ -184,7 +184,7 @@ QPoint SkinTableView::contextMenuPosition(const QContextMenuEvent &event) const 
 }
 
 void SkinTableView::mousePressEvent(QMouseEvent *event) {
-    // The commands of the context menu act on the selection as it stood before the click.
+    // The commands of the context menu act on the selection before the click.
     if (event->button() == Qt::RightButton) {
         event->accept();
         return;
@@ -226,7 +226,7 @@ int SkinTableView::dropRowAt(const QPoint &position) const {
     return intoRow >= rowHeight(row) * 3 / 4 ? row + 1 : row;
 }
 
-/// Every drag is answered with a copy between two rows; what it carries is looked at when it drops.
+/// Accepts every drag as a copy between two rows; its data are read when it drops.
 void SkinTableView::validateDrop(QDropEvent &event) {
     if (!m_delegate || !m_delegate->canEditList()) {
         setDropRow(std::nullopt);

@@ -17,7 +17,7 @@ class SkinTableViewDelegate {
     SkinTableViewDelegate &operator=(const SkinTableViewDelegate &) = delete;
     virtual ~SkinTableViewDelegate() = default;
 
-    /// Whether the list may change at all; it may not while a run reads it.
+    /// Whether the list may change; it may not during a run.
     [[nodiscard]] virtual bool canEditList() const = 0;
     [[nodiscard]] virtual bool canRemoveClear() const = 0;
     [[nodiscard]] virtual bool canResort() const = 0;
@@ -35,7 +35,7 @@ class SkinTableViewDelegate {
 
     /// The destination column of `row` was clicked, or Return pressed on that row.
     virtual void clickedDest(int row) = 0;
-    /// Takes what was dropped above `row`, a row or the number of rows; false refuses it.
+    /// Takes a drop above `row`, which is a row or the number of rows; false refuses it.
     virtual bool acceptDrop(const QMimeData &data, int row) = 0;
 };
 

@@ -10,7 +10,7 @@ class Desktop;
 class NotificationCenter;
 class Notices;
 
-/// The world around the main window; tests hand in their own. Everything outlives the window.
+/// What the main window uses of the system; tests pass their own. Everything outlives the window.
 struct WindowServices {
     QSettings &settings;
     Desktop &desktop;

@@ -7,11 +7,10 @@ class QLabel;
 
 namespace folioforge {
 
-/// The sheet that covers a window while a run is on: it takes the mouse and the keyboard from
-/// everything under it, but leaves closing and quitting alone.
+/// The sheet that covers a window during a run. It takes mouse and keyboard from everything under
+/// it, except for closing and quitting.
 ///
-/// It lies inside the window rather than in a dialog of its own, since a window with a modal
-/// dialog cannot be closed.
+/// It is a widget in the window, because a window with a modal dialog cannot be closed.
 class BusySheet : public QWidget {
     Q_OBJECT
 

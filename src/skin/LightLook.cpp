@@ -32,8 +32,8 @@ QPalette lightPalette() {
     return palette;
 }
 
-/// Fields, buttons and bars of one family with the skins: corners of the same radius, thin grey
-/// edges, the accent colour for what has the focus.
+/// Fields, buttons and bars that match the skins: the same corner radius, thin grey edges, the
+/// accent colour for the focus.
 QString lightStyleSheet() {
     return uR"(
         QLineEdit {

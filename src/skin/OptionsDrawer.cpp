@@ -15,7 +15,7 @@ OptionsDrawer::OptionsDrawer(QWidget *parent)
     m_area->setFrameShape(QFrame::NoFrame);
     m_area->setFocusPolicy(Qt::NoFocus);
     m_area->setWidgetResizable(true);
-    // The vertical bar lies on the panel's margin, which is nothing to scroll to.
+    // The vertical bar covers only the panel's margin.
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QScrollBar *sideways = m_area->horizontalScrollBar();
     connect(sideways, &QScrollBar::rangeChanged, sideways,
@@ -43,7 +43,7 @@ void OptionsDrawer::resizeEvent(QResizeEvent *event) {
     m_area->setGeometry(0, 0, static_cast<int>(kFullWidth), height());
 }
 
-/// A wheel that turns to scroll the panel must not choose from the list that comes to lie under it.
+/// The wheel scrolls the panel and never changes the list box under the pointer.
 bool OptionsDrawer::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Wheel && m_area->verticalScrollBar()->maximum() > 0) {
         event->ignore();
@@ -52,7 +52,7 @@ bool OptionsDrawer::eventFilter(QObject *watched, QEvent *event) {
     return QWidget::eventFilter(watched, event);
 }
 
-/// Scrolls to what the keyboard has come to. What is being clicked must not move away.
+/// Scrolls to the control that gets the focus from the keyboard; a clicked one must not move.
 void OptionsDrawer::showFocused(QWidget *focused) {
     if (m_area->isAncestorOf(focused) && QGuiApplication::mouseButtons() == Qt::NoButton) {
         m_area->ensureWidgetVisible(focused);

@@ -15,7 +15,7 @@ constexpr double kDisabledOpacity = 0.4;
 
 constexpr double kCornerRadius = 6.0;
 
-/// A ring just inside the skins' plates, over a breath of its own colour.
+/// The focus ring just inside the skin's edge, on a light fill of the same colour.
 void drawRing(QPainter &painter, const QRectF &bounds, QColor color, double width, double tint) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(color, width));

@@ -68,8 +68,7 @@ class SkinButton : public QPushButton {
     SkinImage m_imageDisable;
     QRect m_tracking;
     SkinImage m_shown;
-    /// The pointer left during a drag, which has shown that already; the system tells only when the
-    /// mouse is released.
+    /// The pointer left during a drag. The system reports that only when the mouse is released.
     bool m_leftInDrag = false;
 };
 

@@ -11,8 +11,8 @@ namespace folioforge {
 
 /// One look of a skinned control: a drawing that stays sharp at every screen scale, or a picture.
 ///
-/// A value that shares its contents. Two skin images are equal when one is a copy of the other:
-/// which look is shown is a matter of identity, not of pixels.
+/// A value that shares its contents. Two skin images are equal when one is a copy of the other,
+/// whatever their pixels.
 class SkinImage {
   public:
     /// An empty image: draws nothing.

@@ -18,7 +18,7 @@ QColor separatorColor() {
     return QColor::fromRgbF(0.5F, 0.5F, 0.5F, 0.5F);
 }
 
-/// A pen whose lines end where their end points are.
+/// A pen whose lines do not pass their end points.
 QPen linePen(double width) {
     return {separatorColor(), width, Qt::SolidLine, Qt::FlatCap};
 }
@@ -56,7 +56,7 @@ void VesprinTableHeaderView::drawColumnCell(QPainter &painter, const QRectF &cel
 void VesprinTableHeaderView::drawColumn(QPainter &painter, int column, const QRectF &cell,
                                         const QString &title) {
     if (cell.isNull()) {
-        return; // Its separator would still stand out, at the top of the header.
+        return; // Its separator would still be drawn.
     }
     drawColumnCell(painter, cell, title);
     if (column < kColumns - 1) {
