@@ -72,7 +72,7 @@ ExifMetadata readExif(QByteArrayView block) {
     try {
         readDirectory(TiffNumbers(block), metadata, unit);
     } catch (const Error &) {
-        // A cut block is no reason to refuse the picture; what came before the cut counts.
+        // A truncated block is no reason to refuse the picture: what precedes the cut is used.
     }
     if (unit == kCentimetre) {
         metadata.horizontalDpi *= kCentimetresPerInch;

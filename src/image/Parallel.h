@@ -14,7 +14,7 @@ inline constexpr qint64 kWorthAThread = 1 << 18;
 
 /// Does `work` on another thread, or, where the system gives none, when its result is asked for.
 template<typename Work> auto runAsync(const Work &work) {
-    // A copy: what is moved into a thread that then cannot be had is gone.
+    // A copy: work that was moved into a thread that cannot be started would be lost.
     return std::async(std::launch::async | std::launch::deferred, work);
 }
 

@@ -24,7 +24,7 @@ struct CompressionPlan {
     DeflateEffort effort = DeflateEffort::Full;
 };
 
-/// Some rows from all over the picture, in runs, because filters look at the row above.
+/// Some runs of rows from all over the picture: a filter looks at the row above.
 QByteArray sampleRows(const Raster &raster) {
     constexpr qsizetype kRuns = 4;
     constexpr qsizetype kRunBytes = 1 << 16;
@@ -43,9 +43,9 @@ int pixelBytesOf(const Raster &raster) {
     return channelCount(raster.color) * raster.bits / 8;
 }
 
-/// Samples below eight bits and palette numbers compress better as they are: their neighbours are
-/// no guess at their value. Nor are they where a scanner's noise lies over flat paper, which a
-/// trial on some rows shows.
+/// Row filters predict a sample from its neighbours. That does not help with samples below eight
+/// bits, with palette numbers, nor with a scanner's noise on flat paper, which a trial on some rows
+/// finds.
 CompressionPlan planFor(const Raster &raster) {
     if (raster.bits < 8 || raster.color == ImageColor::Indexed) {
         return {};
@@ -180,9 +180,9 @@ QByteArray allocateRows(int height, qsizetype stride) {
 }
 
 void requirePlausible(qint64 raw, qint64 compressed, qint64 ratio) {
-    // Small images may be all header: the ratio counts only where memory is at stake.
-    constexpr qint64 kNoMatter = 1 << 20;
-    if (raw > kNoMatter && compressed < raw / ratio) {
+    // A small image may be mostly header; only a large one costs much memory.
+    constexpr qint64 kSmallImage = 1 << 20;
+    if (raw > kSmallImage && compressed < raw / ratio) {
         throw Error(u"The file is too short for the image its header describes"_s);
     }
 }

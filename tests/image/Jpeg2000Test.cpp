@@ -1,5 +1,5 @@
+#include "image/formats/Jpeg2000.h"
 #include "DecodedImage.h"
-#include "image/formats/Jpeg2000Pixels.h"
 #include "support/TestUnit.h"
 
 #include <QTemporaryDir>

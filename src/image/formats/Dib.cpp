@@ -178,8 +178,8 @@ void turnOver(IndexedImage &image) {
 } // namespace
 
 int DibHeader::colorCount() const {
-    const quint32 most = bits > 8 ? 0 : 1U << bits;
-    return static_cast<int>(colorsUsed == 0 ? most : std::min(colorsUsed, most));
+    const quint32 maxCount = bits > 8 ? 0 : 1U << bits;
+    return static_cast<int>(colorsUsed == 0 ? maxCount : std::min(colorsUsed, maxCount));
 }
 
 qint64 DibHeader::endOfColors() const {

@@ -64,8 +64,8 @@ template<typename Work> auto reading(const Work &work) {
 ImageHeader headerOf(const Imf::Header &exr) {
     const Imath::Box2i window = exr.dataWindow();
     ImageHeader header;
-    const auto extent = [](int least, int most) {
-        return static_cast<int>(std::min<qint64>(qint64(most) - least + 1, 0x7FFFFFFF));
+    const auto extent = [](int first, int last) {
+        return static_cast<int>(std::min<qint64>(qint64(last) - first + 1, 0x7FFFFFFF));
     };
     header.width = extent(window.min.x, window.max.x);
     header.height = extent(window.min.y, window.max.y);
@@ -108,7 +108,7 @@ void storeRows(const LightRows &light, int first, int count, Raster &raster) {
             qToBigEndian(srgbFromLinear(source[c] * scale), color);
         }
         if (alpha != nullptr) {
-            qToBigEndian(sampleFromShare(opacity), alpha);
+            qToBigEndian(sampleFromFraction(opacity), alpha);
             alpha += 2;
         }
     }

@@ -115,7 +115,7 @@ ArgbImage readBitmap(const FileView &content, DibHeader bitmap) {
 }
 
 bool recognises(QByteArrayView head) {
-    // Cursors begin with 0 0 2 0, but so do TGA files, which are no less plain about it.
+    // Cursors begin with 0 0 2 0, as TGA files do, and are not recognised.
     return head.startsWith(QByteArrayView("\0\0\1\0", 4));
 }
 

@@ -56,7 +56,7 @@ qsizetype interlacedBytes(const InterlacedShape &shape) {
     return sum;
 }
 
-QByteArray straightenInterlaced(const QByteArray &filtered, const InterlacedShape &shape) {
+QByteArray deinterlace(const QByteArray &filtered, const InterlacedShape &shape) {
     const qsizetype stride = 1 + rowBytes(shape.width, 1, shape.pixelBits);
     QByteArray out = allocateRows(shape.height, stride);
     qsizetype at = 0;

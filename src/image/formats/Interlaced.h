@@ -16,6 +16,6 @@ qsizetype interlacedBytes(const InterlacedShape &shape);
 
 /// Undoes the filters of the passes and gives the rows of the whole image, each after the number 0
 /// (no filter). `filtered` has interlacedBytes() bytes. Throws Error on a damaged row.
-QByteArray straightenInterlaced(const QByteArray &filtered, const InterlacedShape &shape);
+QByteArray deinterlace(const QByteArray &filtered, const InterlacedShape &shape);
 
 } // namespace folioforge

@@ -52,8 +52,8 @@ struct JpegMetadata {
     }
 };
 
-/// Segments follow each other through the file; a window of it is held so that the many small ones
-/// at the start cost one read.
+/// Reads the segments of a file through a window, so that the many small ones at the start take one
+/// read.
 class SegmentReader {
   public:
     explicit SegmentReader(const FileView &file)

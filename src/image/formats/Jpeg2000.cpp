@@ -2,8 +2,7 @@
 
 #include "image/Bytes.h"
 #include "image/IccProfile.h"
-#include "image/formats/Jpeg2000Metadata.h"
-#include "image/formats/Jpeg2000Pixels.h"
+#include "image/formats/Jpeg2000.h"
 
 #include <QtEndian>
 

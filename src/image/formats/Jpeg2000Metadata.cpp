@@ -1,4 +1,4 @@
-#include "image/formats/Jpeg2000Metadata.h"
+#include "image/formats/Jpeg2000.h"
 
 #include "image/Bytes.h"
 #include "image/Exif.h"

@@ -1,4 +1,4 @@
-#include "image/formats/Jpeg2000Pixels.h"
+#include "image/formats/Jpeg2000.h"
 
 #include "error/Error.h"
 #include "image/Parallel.h"
@@ -46,7 +46,7 @@ class Component {
     Component(const Jpeg2000Component &component, int bits, int width, int height)
         : m_component(component)
         , m_offset(component.isSigned ? 1LL << (component.bits - 1) : 0)
-        , m_most((1LL << component.bits) - 1)
+        , m_maxValue((1LL << component.bits) - 1)
         , m_scale((1LL << bits) - 1)
         , m_width(width)
         , m_height(height) {}
@@ -56,14 +56,15 @@ class Component {
         const auto column = qint64(x) * m_component.width / m_width;
         const auto row = qint64(y) * m_component.height / m_height;
         const auto index = static_cast<size_t>(row * m_component.width + column);
-        const qint64 value = std::clamp<qint64>(m_component.samples[index] + m_offset, 0, m_most);
-        return static_cast<int>((value * m_scale + m_most / 2) / m_most);
+        const qint64 value =
+            std::clamp<qint64>(m_component.samples[index] + m_offset, 0, m_maxValue);
+        return static_cast<int>((value * m_scale + m_maxValue / 2) / m_maxValue);
     }
 
   private:
     Jpeg2000Component m_component;
     qint64 m_offset;
-    qint64 m_most;
+    qint64 m_maxValue;
     qint64 m_scale;
     int m_width;
     int m_height;
@@ -79,13 +80,13 @@ void store(QByteArray &samples, qsizetype index, int value, int bits) {
 }
 
 /// sYCC (IEC 61966-2-1, annex F) to RGB.
-void convertFromYcc(std::array<int, 4> &pixel, int most) {
-    const int middle = (most + 1) / 2;
+void convertFromYcc(std::array<int, 4> &pixel, int maxValue) {
+    const int middle = (maxValue + 1) / 2;
     const double y = pixel[0];
     const double cb = pixel[1] - middle;
     const double cr = pixel[2] - middle;
-    const auto cut = [most](double v) {
-        return std::clamp(static_cast<int>(std::lround(v)), 0, most);
+    const auto cut = [maxValue](double v) {
+        return std::clamp(static_cast<int>(std::lround(v)), 0, maxValue);
     };
     pixel = {cut(y + 1.402 * cr), cut(y - 0.344136 * cb - 0.714136 * cr), cut(y + 1.772 * cb),
              pixel[3]};
@@ -99,8 +100,8 @@ std::vector<int> colorComponents(int count, const Jpeg2000Metadata &metadata) {
             colors.push_back(c);
         }
     }
-    const auto most = static_cast<size_t>(metadata.maxColors());
-    colors.resize(colors.size() >= most ? most : 1);
+    const auto maxColors = static_cast<size_t>(metadata.maxColors());
+    colors.resize(colors.size() >= maxColors ? maxColors : 1);
     return colors;
 }
 

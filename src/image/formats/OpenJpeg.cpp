@@ -94,9 +94,9 @@ unsigned halvings(opj_codec_t *codec, double scale) {
     if (!info || !info->m_default_tile_info.tccp_info || scale >= 1) {
         return 0;
     }
-    const unsigned most = info->m_default_tile_info.tccp_info->numresolutions;
+    const unsigned resolutions = info->m_default_tile_info.tccp_info->numresolutions;
     const auto wanted = static_cast<unsigned>(std::floor(std::log2(1 / std::max(scale, 1e-6))));
-    return most > 0 ? std::min(wanted, most - 1) : 0;
+    return resolutions > 0 ? std::min(wanted, resolutions - 1) : 0;
 }
 
 } // namespace

@@ -23,7 +23,7 @@ enum ColorType : uchar { Gray = 0, Rgb = 2, Palette = 3, GrayAlpha = 4, RgbAlpha
 
 constexpr qint64 kSignatureBytes = 8;
 constexpr double kMetresPerInch = 0.0254;
-/// The most that deflate shrinks anything.
+/// No deflate stream is smaller than its data by more than this.
 constexpr qint64 kDeflateRatio = 1040;
 constexpr qsizetype kMaxPaletteBytes = qsizetype{3} * 256;
 
@@ -99,8 +99,7 @@ void readProfile(QByteArrayView chunk, PngMetadata &metadata) {
     try {
         metadata.iccProfile = inflateUpTo(chunk.sliced(nameEnd + 2), kMaxProfileBytes);
     } catch (const Error &) {
-        metadata.iccProfile
-            .clear(); // The picture is worth more than a profile that cannot be read.
+        metadata.iccProfile.clear(); // A damaged profile is no reason to refuse the picture.
     }
 }
 
@@ -122,7 +121,7 @@ void readChunk(QByteArrayView type, QByteArrayView chunk, PngMetadata &metadata)
     }
 }
 
-bool isOfUse(QByteArrayView type) {
+bool isMetadata(QByteArrayView type) {
     for (const char *name : {"IHDR", "PLTE", "tRNS", "pHYs", "iCCP", "eXIf"}) {
         if (type == name) {
             return true;
@@ -152,7 +151,7 @@ qint64 readChunkAt(const FileView &file, qint64 at, Reading reading, PngMetadata
                           bigEndianAt<quint32>(all, 4 + length));
         }
         metadata.data.push_back({at + kLead, length});
-    } else if (isOfUse(type)) {
+    } else if (isMetadata(type)) {
         readChunk(type, file.readExactly(at + kLead, length), metadata);
     }
     metadata.ended = type == "IEND";
@@ -161,7 +160,7 @@ qint64 readChunkAt(const FileView &file, qint64 at, Reading reading, PngMetadata
 
 PngMetadata readMetadata(const FileView &file, Reading reading) {
     PngMetadata metadata;
-    // Writers put the orientation before the rows or after them, so all chunks are passed.
+    // Some writers put the orientation behind the rows, so all chunks are read.
     for (qint64 at = kSignatureBytes; !metadata.ended;) {
         at = readChunkAt(file, at, reading, metadata);
     }
@@ -177,7 +176,7 @@ PngMetadata readMetadata(const FileView &file, Reading reading) {
     return metadata;
 }
 
-/// The rows as their filters left them, each after its filter's number.
+/// The filtered rows, each behind the number of its filter.
 QByteArray inflateRows(const FileView &file, const PngMetadata &metadata, qsizetype size) {
     qint64 total = 0;
     for (const FileSlice &slice : metadata.data) {
@@ -192,8 +191,8 @@ QByteArray inflateRows(const FileView &file, const PngMetadata &metadata, qsizet
     return inflateBytes(compressed, size);
 }
 
-/// Colour and opacity of filtered rows, taken apart. PNG's filters work on each channel alone, so
-/// the filtered bytes can be sorted as they are, and the colour keeps its filters.
+/// Colour and opacity of filtered rows. PNG's filters work on each channel alone, so the filtered
+/// bytes are split as they are, and the colour keeps its filters.
 struct SplitRows {
     QByteArray color;
     QByteArray alpha;
@@ -334,8 +333,7 @@ PdfImage withSplitRows(const FileView &file, const PngMetadata &metadata) {
 PdfImage withInterlacedRows(const FileView &file, const PngMetadata &metadata) {
     const InterlacedShape shape{metadata.header.width, metadata.header.height,
                                 metadata.channels() * metadata.bits};
-    QByteArray rows =
-        straightenInterlaced(inflateRows(file, metadata, interlacedBytes(shape)), shape);
+    QByteArray rows = deinterlace(inflateRows(file, metadata, interlacedBytes(shape)), shape);
     Raster raster;
     raster.width = metadata.header.width;
     raster.height = metadata.header.height;

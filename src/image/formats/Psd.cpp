@@ -85,7 +85,7 @@ struct PlaneTarget {
     QByteArray *samples;
     int channel;
     int channels;
-    bool isLight; ///< Linear light where the file has 32 bits, not a share such as opacity.
+    bool isLight; ///< Linear light where the file has 32 bits, not a fraction such as opacity.
 };
 
 void placeRow(const QByteArray &row, int y, const PsdMetadata &metadata,
@@ -99,7 +99,7 @@ void placeRow(const QByteArray &row, int y, const PsdMetadata &metadata,
     for (qsizetype x = 0; x < width; ++x, out += step) {
         if (metadata.depth == 32) {
             const auto value = std::bit_cast<float>(qFromBigEndian<quint32>(in + 4 * x));
-            qToBigEndian(target.isLight ? srgbFromLinear(value) : sampleFromShare(value), out);
+            qToBigEndian(target.isLight ? srgbFromLinear(value) : sampleFromFraction(value), out);
         } else {
             std::memcpy(out, in + x * bytes, static_cast<size_t>(bytes));
         }
@@ -112,7 +112,7 @@ void readPlane(PlaneReader &reader, const PsdMetadata &metadata, const PlaneTarg
     }
 }
 
-/// The merged image's pixels, with what white would have to be taken from them.
+/// The pixels of a merged image that may have been composited on white.
 template<typename Sample> class WhiteMatte {
   public:
     explicit WhiteMatte(Raster &raster)
@@ -158,8 +158,8 @@ template<typename Sample> class WhiteMatte {
     int m_channels;
 };
 
-/// Photoshop lays the merged image on white before it writes it; taking the white away again
-/// leaves the colour that the soft mask expects. Other programs write the colours as they are.
+/// Photoshop composites the merged image on white before it writes it; without the white it has the
+/// colours that a soft mask needs. Other programs write the colours as they are.
 template<typename Sample> void removeWhiteMatte(Raster &raster) {
     WhiteMatte<Sample> matte(raster);
     if (matte.isThere()) {

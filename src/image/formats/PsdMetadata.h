@@ -11,7 +11,7 @@ namespace folioforge {
 enum class PsdAlpha {
     None,
     Straight, ///< Opacity beside colours as they are.
-    OnWhite,  ///< Opacity of colours that were laid on white.
+    OnWhite,  ///< Opacity of colours that were composited on white.
 };
 
 /// What a Photoshop document says before its pixels (Adobe Photoshop File Formats Specification).

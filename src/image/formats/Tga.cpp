@@ -180,8 +180,7 @@ void fillColor(Raster &raster, const QByteArray &pixels, const TgaHeader &tga,
     }
 }
 
-/// Writers that leave the opacity at zero everywhere while claiming to have one mean no picture of
-/// nothing: it counts as opaque.
+/// Some writers claim an opacity channel and leave it zero throughout: such a picture is opaque.
 void dropEmptyAlpha(Raster &raster) {
     if (raster.alpha && raster.alpha->samples.count('\0') == raster.alpha->samples.size()) {
         raster.alpha.reset();

@@ -1,7 +1,6 @@
 #include "image/formats/Formats.h"
 
-#include "image/formats/TiffFile.h"
-#include "image/formats/TiffPixels.h"
+#include "image/formats/Tiff.h"
 
 #include <array>
 

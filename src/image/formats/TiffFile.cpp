@@ -1,4 +1,4 @@
-#include "image/formats/TiffFile.h"
+#include "image/formats/Tiff.h"
 
 #include "error/Error.h"
 #include "image/ImageHeader.h"

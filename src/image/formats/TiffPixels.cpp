@@ -1,8 +1,7 @@
-#include "image/formats/TiffPixels.h"
+#include "image/formats/Tiff.h"
 
 #include "error/Error.h"
 #include "image/formats/LinearLight.h"
-#include "image/formats/TiffPlanes.h"
 
 #include <QFloat16>
 #include <QtEndian>
@@ -100,7 +99,7 @@ class SampleReader {
             reinterpret_cast<const uchar *>(plane.rows.constData()) + qsizetype(y) * plane.stride;
         const qsizetype place = separate ? x : qsizetype(x) * m_shape.samples + index;
         if (m_shape.sampleFormat == SAMPLEFORMAT_IEEEFP) {
-            return sampleFromShare(floatAt(row, place));
+            return sampleFromFraction(floatAt(row, place));
         }
         return scaled(integerAt(row, place));
     }
@@ -146,9 +145,9 @@ class SampleReader {
         if (m_shape.bits == 32) {
             return static_cast<int>(value >> 16);
         }
-        const quint32 most = (1U << m_shape.bits) - 1;
+        const quint32 maxValue = (1U << m_shape.bits) - 1;
         const quint32 full = m_shape.bits < 8 ? 0xFF : 0xFFFF;
-        return static_cast<int>((value * full + most / 2) / most);
+        return static_cast<int>((value * full + maxValue / 2) / maxValue);
     }
 
     const std::vector<TiffPlane> &m_planes;

@@ -1,4 +1,4 @@
-#include "image/formats/TiffPlanes.h"
+#include "image/formats/Tiff.h"
 
 #include "image/Parallel.h"
 
@@ -9,7 +9,7 @@ namespace folioforge {
 
 namespace {
 
-/// The most that a compression can shrink anything.
+/// The ratio that no data of a compression exceeds.
 qint64 maxRatio(int compression) {
     switch (compression) {
     case COMPRESSION_NONE:
@@ -94,12 +94,12 @@ void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw)
     const bool tiled = TIFFIsTiled(tiff.handle()) != 0;
     const uint32_t count =
         tiled ? TIFFNumberOfTiles(tiff.handle()) : TIFFNumberOfStrips(tiff.handle());
-    const qint64 most = tiff.file().size();
+    const qint64 fileSize = tiff.file().size();
     qint64 compressed = 0;
     // A file has room for no more strips than it has bytes.
-    for (uint32_t i = 0; i < std::min<qint64>(count, most); ++i) {
+    for (uint32_t i = 0; i < std::min<qint64>(count, fileSize); ++i) {
         const auto bytes = TIFFGetStrileByteCount(tiff.handle(), i);
-        compressed += static_cast<qint64>(std::min<quint64>(bytes, static_cast<quint64>(most)));
+        compressed += static_cast<qint64>(std::min<quint64>(bytes, static_cast<quint64>(fileSize)));
     }
     requirePlausible(raw, compressed, maxRatio(shape.compression));
 }
