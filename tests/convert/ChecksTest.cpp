@@ -130,8 +130,7 @@ class ChecksTest : public QObject {
         options.textPage.margins.top = 300;
         options.security.useOwnerPassword = true;
         options.security.ownerPassword = QString(128, u'x');
-        QVERIFY2(messageOf(checkConversion(options)).contains(u"127 bytes"_s),
-                 qPrintable(messageOf(checkConversion(options))));
+        QCOMPARE(messageOf(checkConversion(options)), u"The password is longer than 127 bytes."_s);
         options.security.useUserPassword = true;
         options.security.userPassword = u"a\tb"_s;
         QVERIFY(messageOf(checkConversion(options)).startsWith(u"The password"_s));

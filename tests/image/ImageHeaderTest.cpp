@@ -134,6 +134,54 @@ class ImageHeaderTest : public QObject {
         QCOMPARE(header.sizeInPoints(), QSizeF(30, 20));
     }
 
+    void densitiesFrom5To25400AreKept() {
+        const auto kept = [](double horizontal, double vertical) {
+            ImageHeader header = tenByTen();
+            header.horizontalDpi = horizontal;
+            header.verticalDpi = vertical;
+            header = checkedHeader(header);
+            return QSizeF(header.horizontalDpi, header.verticalDpi);
+        };
+        QCOMPARE(kept(5, 25400), QSizeF(5, 25400));
+        QCOMPARE(kept(4.9, 100), QSizeF(72, 72));
+        QCOMPARE(kept(100, 25401), QSizeF(72, 72));
+        QCOMPARE(kept(100, 4.9), QSizeF(72, 72));
+    }
+
+    void densitiesHalfAPixelPerMetreFromAWholeNumberAreThatNumber() {
+        ImageHeader header = tenByTen();
+        header.horizontalDpi = 150.0126; // Half a pixel per metre are 0.0127 per inch.
+        header.verticalDpi = 150.0128;
+        header = checkedHeader(header);
+        QVERIFY(header.horizontalDpi == 150);
+        QVERIFY(header.verticalDpi == 150.0128);
+    }
+
+    void orientationsFromOneToEightAreKept() {
+        const auto kept = [](int orientation) {
+            ImageHeader header = tenByTen();
+            header.orientation = orientation;
+            return checkedHeader(header).orientation;
+        };
+        QCOMPARE(kept(1), 1);
+        QCOMPARE(kept(8), 8);
+        for (const int other : {0, 9, -1}) {
+            QCOMPARE(kept(other), 1);
+        }
+    }
+
+    void anImageHasPixelsUpToTheBound() {
+        ImageHeader header;
+        header.width = static_cast<int>(kMaxImagePixels);
+        header.height = 1;
+        QCOMPARE(checkedHeader(header).width, header.width);
+        for (const QSize size : {QSize(header.width + 1, 1), QSize(5, 0), QSize(0, 5)}) {
+            header.width = size.width();
+            header.height = size.height();
+            QVERIFY_EXCEPTION_THROWN(checkedHeader(header), Error);
+        }
+    }
+
     void sidewaysOrientationExchangesTheSides() {
         ImageHeader header;
         header.width = 300;
@@ -181,6 +229,13 @@ class ImageHeaderTest : public QObject {
 
     QString write(const char *name, const QByteArray &bytes) {
         return writeFile(m_folder.filePath(QString::fromLatin1(name)), bytes);
+    }
+
+    static ImageHeader tenByTen() {
+        ImageHeader header;
+        header.width = 10;
+        header.height = 10;
+        return header;
     }
 
     static QString headerRefusal(const QString &path) {
