@@ -1,3 +1,4 @@
+#include "CommandLineCase.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
@@ -5,19 +6,15 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
 #include <csignal>
-#include <memory>
 
-#include <sys/stat.h>
 #include <unistd.h>
 #ifdef __linux__
 #include <linux/capability.h>
@@ -26,22 +23,9 @@
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
-using test::PdfProbe;
-using test::ToolRun;
+using namespace folioforge::test;
 
 namespace {
-
-const QString kProgram = QStringLiteral(FOLIOFORGE_CLI);
-
-QList<QJsonObject> objectsOf(const QByteArray &output) {
-    QList<QJsonObject> objects;
-    for (const QByteArray &line : output.split('\n')) {
-        if (!line.isEmpty()) {
-            objects += QJsonDocument::fromJson(line).object();
-        }
-    }
-    return objects;
-}
 
 /// The program run next may read no more than its owner, whoever that is.
 void giveUpRightsOfRoot() {
@@ -63,62 +47,20 @@ QString writeNoise(const QString &path) {
     return image.save(path, "BMP") ? path : QString();
 }
 
-QString member(const QJsonObject &object, const char *name) {
-    return object[QLatin1StringView(name)].toString();
-}
-
 } // namespace
 
-class CommandLineTest : public QObject {
+/// What the program makes of its inputs.
+class CommandLineTest : public QObject, protected CommandLineCase {
     Q_OBJECT
 
-  private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-
-    QString path(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
-    QString text(const char *name, const QByteArray &bytes = "words") const {
-        return test::writeFile(path(name), bytes);
-    }
-    /// Runs the program with its output folder set to "out" of the test's folder.
-    ToolRun convert(const QStringList &arguments, const QByteArray &input = {}) const {
-        return test::runTool(kProgram, QStringList{u"--output-folder"_s, path("out")} + arguments,
-                             input);
-    }
-    ToolRun merge(const char *target, const QStringList &arguments) const {
-        return test::runTool(kProgram, QStringList{u"--merge"_s, path(target)} + arguments);
-    }
-    /// The bytes of the document that `arguments` merged into while the descriptors `closed` were;
-    /// empty where the program did not end with `exitCode`.
-    QByteArray merged(const char *target, const QStringList &arguments, const QList<int> &closed,
-                      int exitCode) const {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"SOURCE_DATE_EPOCH"_s, u"1700000000"_s);
-        process.setProcessEnvironment(environment);
-        process.setChildProcessModifier([&closed] {
-            for (const int descriptor : closed) {
-                ::close(descriptor);
-            }
-        });
-        process.start(kProgram, QStringList{u"--merge"_s, path(target)} + arguments);
-        const bool ended = process.waitForFinished() && process.exitCode() == exitCode;
-        return ended ? test::readFile(path(target)) : QByteArray();
-    }
-    QStringList outputs() const {
-        return QDir(path("out")).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-
   private Q_SLOTS:
-    void init() {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir(m_folder->path()).mkpath(u"out"_s));
-    }
+    void init() { setUp(); }
 
     void versionAndHelpAreShown() {
-        const ToolRun version = test::runTool(kProgram, {u"--version"_s});
+        const ToolRun version = runTool(kProgram, {u"--version"_s});
         QCOMPARE(version.exitCode, 0);
         QVERIFY(version.out.startsWith("folioforge-cli 1."));
-        const ToolRun help = test::runTool(kProgram, {u"--help"_s});
+        const ToolRun help = runTool(kProgram, {u"--help"_s});
         QCOMPARE(help.exitCode, 0);
         QVERIFY(help.out.startsWith("Usage: folioforge-cli"));
         QVERIFY(help.err.isEmpty());
@@ -132,6 +74,7 @@ class CommandLineTest : public QObject {
         // Longer than any buffer, so that nothing is left to flush.
         QTest::newRow("a long line") << QStringList{u"--json"_s, QString(100'000, u'x')};
     }
+
     void resultsThatCannotBeWrittenAreAFailure() {
         QFETCH(const QStringList, arguments);
         text("a.txt");
@@ -156,6 +99,7 @@ class CommandLineTest : public QObject {
         QTest::newRow("output and error") << QList{STDOUT_FILENO, STDERR_FILENO} << 1;
         QTest::newRow("all") << QList{STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO} << 1;
     }
+
     void aClosedDescriptorIsTakenByNoFile() {
         QFETCH(const QList<int>, closed);
         QFETCH(const int, exitCode);
@@ -170,16 +114,6 @@ class CommandLineTest : public QObject {
         QVERIFY(merged("written.pdf", arguments, closed, exitCode) == expected);
         QString log;
         QVERIFY2(PdfProbe(path("written.pdf")).isValid(&log), qPrintable(log));
-    }
-
-    void aPasswordIsNotTakenFromAClosedDescriptor() {
-        QProcess process;
-        process.setChildProcessModifier([] { ::close(STDIN_FILENO); });
-        process.start(kProgram, {u"--user-password-file=-"_s, u"--output-folder"_s, path("out"),
-                                 text("a.txt")});
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.exitCode(), 2);
-        QVERIFY(outputs().isEmpty());
     }
 
     void eachInputBecomesAPdf() {
@@ -250,7 +184,7 @@ class CommandLineTest : public QObject {
         QCOMPARE(run.exitCode, 2);
         QVERIFY(run.err.contains(
             "File name already exists in output folder, please input another name."));
-        QCOMPARE(test::readFile(taken), QByteArray("mine"));
+        QCOMPARE(readFile(taken), QByteArray("mine"));
     }
 
     void aFolderStandsForItsTextsAndImages() {
@@ -299,207 +233,13 @@ class CommandLineTest : public QObject {
         QCOMPARE(outputs(), QStringList{u"good.pdf"_s});
     }
 
-    void wrongSettingsGetTheWindowsNoticeAndNothingIsWritten_data() {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QByteArray>("notice");
-        const auto row = [](const char *name, const char *argument, const char *notice) {
-            QTest::newRow(name) << QStringList{QString::fromLatin1(argument)} << QByteArray(notice);
-        };
-        row("text margin", "--text-margins=257",
-            "Invalid page margin value in text output setting.");
-        row("image margin", "--image-margins=-1",
-            "Invalid page margin value in image output setting.");
-        row("text width", "--text-page-size=100x500",
-            "The value of page margin is larger than page width, please modify your text output "
-            "setting.");
-        row("image height", "--image-page-size=100x0",
-            "The value of page margin is larger than page height, please modify your image output "
-            "setting.");
-        row("empty password", "--user-password-file=/dev/null", "Please input user password.");
-        row("no folder",
-            "--output-folder=", "Please select an output folder to store the output documents.");
-        row("missing folder", "--output-folder=/nonexistent",
-            "Selected output folder does not exist or is not writable. Click \"OK\" to select "
-            "another folder.");
-    }
-
-    void wrongSettingsGetTheWindowsNoticeAndNothingIsWritten() {
-        QFETCH(const QStringList, arguments);
-        QFETCH(const QByteArray, notice);
-        const ToolRun run = convert(arguments + QStringList{text("a.txt")});
-        QCOMPARE(run.exitCode, 2);
-        QCOMPARE(run.err, "folioforge-cli: " + notice + '\n');
-        QVERIFY(run.out.isEmpty());
-        QVERIFY(outputs().isEmpty());
-    }
-
-    void aMergeWithoutANameIsRefused() {
-        const ToolRun run = merge("out/", {text("a.txt")});
-        QCOMPARE(run.exitCode, 2);
-        QVERIFY(run.err.contains("Please input output file name."));
-    }
-
-    void anUnknownOptionGetsAHint() {
-        const ToolRun run = convert({u"--colour"_s, text("a.txt")});
-        QCOMPARE(run.exitCode, 2);
-        QVERIFY(run.err.contains("--colour") && run.err.contains("--help"));
-        QVERIFY(outputs().isEmpty());
-    }
-
     void namesWithDashesFollowTwoDashes() {
         text("-a.txt");
-        const ToolRun run = test::runTool(
-            u"sh"_s, {u"-c"_s, u"cd \"$1\" && exec \"$0\" --output-folder out -- -a.txt"_s,
-                      kProgram, m_folder->path()});
+        const ToolRun run =
+            runTool(u"sh"_s, {u"-c"_s, u"cd \"$1\" && exec \"$0\" --output-folder out -- -a.txt"_s,
+                              kProgram, m_folder->path()});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(outputs(), QStringList{u"-a.pdf"_s});
-    }
-
-    void everyBadInputIsNamedWithItsReasonAndTheRestConverted() {
-        QVERIFY(QDir(m_folder->path()).mkpath(u"folder.png"_s));
-        QCOMPARE(::mkfifo(qPrintable(path("pipe.txt")), 0600), 0);
-        QCOMPARE(::mkfifo(qPrintable(path("pipe.pdf")), 0600), 0);
-        const QString png = test::writePng(path("whole.png"), 50, 50);
-        const QStringList bad{path("missing.txt"),
-                              path("pipe.txt"),
-                              path("pipe.pdf"),
-                              u"/dev/zero"_s,
-                              text("a.docx"),
-                              text("noextension"),
-                              text("empty.png", {}),
-                              text("empty.pdf", {}),
-                              text("text.png", "no image"),
-                              text("cut.png", test::readFile(png).first(60))};
-        const ToolRun run = convert(bad + QStringList{path("folder.png"), text("good.txt")});
-        QCOMPARE(run.exitCode, 1);
-        const QList<QByteArray> lines = run.err.split('\n');
-        for (const QString &file : bad) {
-            const QByteArray start = "folioforge-cli: " + file.toUtf8() + ": ";
-            const auto names = [&start](const QByteArray &line) {
-                return line.startsWith(start) && line.size() > start.size();
-            };
-            QVERIFY2(std::any_of(lines.begin(), lines.end(), names), qPrintable(file));
-        }
-        QCOMPARE(outputs(), QStringList{u"good.pdf"_s});
-    }
-
-    void refusedPdfsAreListedInTheWindowsWords() {
-        const QString plain = test::writePdf(path("plain.pdf"), 1);
-        const QString locked = test::encryptPdf(plain, path("locked.pdf"), u"secret"_s);
-        const QString broken = text("broken.pdf", "no document");
-        const ToolRun run = convert({locked, plain, broken});
-        QCOMPARE(run.exitCode, 1);
-        QVERIFY(run.err.contains("Fail to import following files. They are encrypted or not normal "
-                                 "PDF files:\n    " +
-                                 locked.toUtf8() + "\n    " + broken.toUtf8() + '\n'));
-        QVERIFY(run.err.contains(locked.toUtf8() + ": "));
-        QCOMPARE(outputs(), QStringList{u"plain.pdf"_s});
-    }
-
-    void aTextThatIsNotUtf8IsConvertedWithAWarning() {
-        const ToolRun run = convert({text("a.txt", "caf\xE9")});
-        QCOMPARE(run.exitCode, 0);
-        QVERIFY(run.err.contains("warning") && run.err.contains("UTF-8"));
-        QCOMPARE(PdfProbe(path("out/a.pdf")).pageCount(), 1);
-    }
-
-    void aFailureIsSaidBesideAWarning() {
-        const QString script =
-            u"trap '' XFSZ; ulimit -f 0; exec \"$0\" --json --merge \"$1\" \"$2\""_s;
-        const ToolRun run = test::runTool(
-            u"sh"_s, {u"-c"_s, script, kProgram, path("out/all"), text("a.txt", "caf\xE9")});
-        QCOMPARE(run.exitCode, 1);
-        const QString message = member(objectsOf(run.out).value(0), "message");
-        QVERIFY2(message.contains(u"not valid UTF-8"_s), qPrintable(message));
-        QVERIFY2(message.contains(u"File too large"_s), qPrintable(message));
-        QVERIFY2(run.err.contains(message.toUtf8()), run.err.constData());
-    }
-
-    void nothingToConvertIsAFailure() {
-        QCOMPARE(convert({path("missing.txt")}).exitCode, 1);
-        QVERIFY(QDir(m_folder->path()).mkpath(u"empty"_s));
-        const ToolRun run = convert({path("empty")});
-        QCOMPARE(run.exitCode, 1);
-        QVERIFY(!run.err.isEmpty());
-    }
-
-    void jsonTellsHowEachInputWent() {
-        const ToolRun run =
-            convert({u"--json"_s, text("a.txt"), path("missing.png"),
-                     test::writePng(path("b.png"), 30, 20), test::writePdf(path("c.pdf"), 2)});
-        QCOMPARE(run.exitCode, 1);
-        const auto objects = objectsOf(run.out);
-        QCOMPARE(objects.size(), 4);
-        QCOMPARE(member(objects[0], "input"), path("missing.png"));
-        QCOMPARE(member(objects[0], "state"), u"rejected"_s);
-        QVERIFY(!member(objects[0], "message").isEmpty());
-        QCOMPARE(member(objects[1], "output"), path("out/a.pdf"));
-        QCOMPARE(member(objects[1], "state"), u"finished"_s);
-        QVERIFY(!objects[1].contains(u"message"_s));
-        QVERIFY(!objects[1].contains(u"embedded"_s));
-        QVERIFY(!member(objects[2], "embedded").isEmpty());
-        QCOMPARE(objects[3][u"pages"_s].toInt(), 2);
-    }
-
-    void jsonOfAMergeNamesTheOnePdfForEach() {
-        const ToolRun run =
-            merge("out/all", {u"--json"_s, text("a.txt"), text("b.txt"), text("c.png", "x")});
-        QCOMPARE(run.exitCode, 1);
-        const auto objects = objectsOf(run.out);
-        QCOMPARE(objects.size(), 3);
-        QCOMPARE(member(objects[1], "output"), path("out/all.pdf"));
-        QCOMPARE(member(objects[2], "output"), path("out/all.pdf"));
-    }
-
-    void quietLeavesOnlyErrors() {
-        const ToolRun run =
-            convert({u"--quiet"_s, u"--progress=always"_s, text("a.txt"), path("missing.txt")});
-        QVERIFY(run.out.isEmpty());
-        QCOMPARE(run.err.count('\n'), 1);
-        QVERIFY(run.err.contains("missing.txt"));
-    }
-
-    void progressIsShownOnRequestAndTakenAwayAtTheEnd() {
-        const ToolRun quiet = convert({text("a.txt")});
-        QVERIFY(quiet.err.isEmpty());
-        const ToolRun run = convert({u"--progress=always"_s, text("b.txt")});
-        QVERIFY(run.err.contains("1 of 1  50 %"));
-        QVERIFY(run.err.endsWith("\r\033[K"));
-    }
-
-    void aLongNameInProgressIsCutToItsLastColumns_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("shown"); // 48 columns.
-        const auto row = [](const char *tag, const QString &character, int count, int shown) {
-            const QString end = u".txt"_s;
-            QTest::newRow(tag) << character.repeated(count) + end
-                               << character.repeated(shown) + end;
-        };
-        row("letters", u"a"_s, 60, 44);
-        row("wide", u"\u3042"_s, 60, 22);
-        row("wide, of two code units", u"\U0001F600"_s, 40, 22);
-        row("with a mark on each", u"e\u0301"_s, 60, 44);
-        row("spelled out", u"\x1b"_s, 60, 11);
-        QTest::newRow("wide across the edge")
-            << QString(60, u'\u3042') + u"x.txt"_s << QString(21, u'\u3042') + u"x.txt"_s;
-        QTest::newRow("a mark at the edge")
-            << QString(9, u'b') + u"e\u0301"_s + QString(44, u'a') + u".txt"_s
-            << QString(44, u'a') + u".txt"_s;
-    }
-    void aLongNameInProgressIsCutToItsLastColumns() {
-        QFETCH(QString, name);
-        QFETCH(QString, shown);
-        const QString file = test::writeFile(m_folder->filePath(name), "words");
-        const ToolRun run = convert({u"--progress=always"_s, file});
-        shown.replace(u'\x1b', u"\\x1b"_s);
-        QVERIFY2(run.err.startsWith("1 of 1  0 %  " + shown.toUtf8() + "\r"), run.err.constData());
-    }
-
-    void namesThatMoveTheCursorArePrintedHarmlessly() {
-        const ToolRun run = convert({path("\x1b[2Jevil.txt")});
-        QCOMPARE(run.exitCode, 1);
-        QVERIFY(!run.err.contains('\x1b'));
-        QVERIFY(run.err.contains("\\x1b[2Jevil.txt"));
     }
 
     void documentPropertiesArriveInThePdf() {
@@ -509,60 +249,11 @@ class CommandLineTest : public QObject {
         QCOMPARE(PdfProbe(path("out/a.pdf")).info(u"Title"_s), u"Große Titel"_s);
     }
 
-    void aPasswordComesFromTheFirstLineOfAFile() {
-        const QString file = text("password", "sécret\r\nnot this\n");
-        QCOMPARE(convert({u"--user-password-file"_s, file, text("a.txt")}).exitCode, 0);
-        QCOMPARE(PdfProbe(path("out/a.pdf")).pageCount(), 0);
-        QCOMPARE(PdfProbe(path("out/a.pdf"), u"sécret"_s).pageCount(), 1);
-    }
-
-    void aPasswordComesFromStandardInput() {
-        QCOMPARE(convert({u"--user-password-file=-"_s, text("a.txt")}, "secret\n").exitCode, 0);
-        QCOMPARE(PdfProbe(path("out/a.pdf"), u"secret"_s).pageCount(), 1);
-    }
-
-    void bothPasswordsComeFromTwoLinesOfStandardInput() {
-        QCOMPARE(convert({u"--owner-password-file=-"_s, u"--user-password-file=-"_s,
-                          u"--refuse-print"_s, text("a.txt")},
-                         "user\nowner\n")
-                     .exitCode,
-                 0);
-        const PdfProbe probe(path("out/a.pdf"), u"user"_s);
-        QVERIFY2(probe.info(u"Encrypted"_s).contains(u"print:no copy:yes"_s),
-                 qPrintable(probe.info(u"Encrypted"_s)));
-    }
-
-    void passwordsComeFromTheEnvironment() {
-        const ToolRun run = test::runTool(u"env"_s, {u"FOLIOFORGE_USER_PASSWORD=user"_s,
-                                                     u"FOLIOFORGE_OWNER_PASSWORD=owner"_s, kProgram,
-                                                     u"--refuse-copy"_s, u"--output-folder"_s,
-                                                     path("out"), text("a.txt")});
-        QCOMPARE(run.exitCode, 0);
-        const PdfProbe probe(path("out/a.pdf"), u"user"_s);
-        QVERIFY(probe.info(u"Encrypted"_s).contains(u"copy:no"_s));
-    }
-
-    void equalPasswordsGetTheirNotice() {
-        const QString file = text("password", "same");
-        const ToolRun run = convert(
-            {u"--user-password-file"_s, file, u"--owner-password-file"_s, file, text("a.txt")});
-        QCOMPARE(run.exitCode, 2);
-        QVERIFY(run.err.contains("The passwords can not be the same."));
-        QVERIFY(outputs().isEmpty());
-    }
-
-    void aPasswordFileThatCannotBeReadStopsTheRun() {
-        const ToolRun run = convert({u"--user-password-file"_s, path("missing"), text("a.txt")});
-        QCOMPARE(run.exitCode, 2);
-        QVERIFY(run.err.contains(path("missing").toUtf8()));
-        QVERIFY(outputs().isEmpty());
-    }
-
     void filesWhoseNamesAreNotUtf8AreConverted() {
         const QString script = u"cd \"$1\" && mkdir in && name=$(printf 'caf\\351.txt') && echo "
                                u"words >\"in/$name\" && "
                                "exec \"$0\" --json --output-folder out \"in/$name\" in"_s;
-        const ToolRun run = test::runTool(u"sh"_s, {u"-c"_s, script, kProgram, m_folder->path()});
+        const ToolRun run = runTool(u"sh"_s, {u"-c"_s, script, kProgram, m_folder->path()});
         QVERIFY2(run.exitCode == 0, run.err.constData());
         QCOMPARE(objectsOf(run.out).size(), 2);
         QCOMPARE(outputs().size(), 2);
@@ -572,8 +263,8 @@ class CommandLineTest : public QObject {
     }
 
     void anotherLocaleChangesNothing() {
-        const ToolRun run = test::runTool(u"env"_s, {u"LC_ALL=C"_s, kProgram, u"--output-folder"_s,
-                                                     path("out"), text("größe.txt")});
+        const ToolRun run = runTool(u"env"_s, {u"LC_ALL=C"_s, kProgram, u"--output-folder"_s,
+                                               path("out"), text("größe.txt")});
         QCOMPARE(run.exitCode, 0);
         QVERIFY2(run.err.isEmpty(), run.err.constData());
         QCOMPARE(outputs(), QStringList{u"größe.pdf"_s});
@@ -582,7 +273,7 @@ class CommandLineTest : public QObject {
     void aReaderThatGoesAwayStopsNothing() {
         const QString script =
             u"\"$0\" --json --output-folder \"$1\" \"$2\" \"$2\" \"$2\" | true"_s;
-        test::runTool(u"sh"_s, {u"-c"_s, script, kProgram, path("out"), text("a.txt")});
+        runTool(u"sh"_s, {u"-c"_s, script, kProgram, path("out"), text("a.txt")});
         QCOMPARE(outputs().size(), 3);
     }
 

@@ -1,125 +1,21 @@
 #include "mainwnd/SkinTableView.h"
+#include "gui/TableWindow.h"
 #include "mainwnd/FilesArray.h"
 #include "support/TestUnit.h"
 
 #include <QApplication>
-#include <QComboBox>
-#include <QContextMenuEvent>
 #include <QDragEnterEvent>
-#include <QHeaderView>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
-#include <QScrollBar>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
+using namespace folioforge::test;
 
 namespace {
-
-/// Writes down what the table asks of its controller.
-class RecordingDelegate : public SkinTableViewDelegate {
-  public:
-    [[nodiscard]] bool canEditList() const override { return edit; }
-    [[nodiscard]] bool canRemoveClear() const override { return removeClear; }
-    [[nodiscard]] bool canResort() const override { return resort; }
-    [[nodiscard]] bool canMoveUp() const override { return up; }
-    [[nodiscard]] bool canMoveDown() const override { return down; }
-    void clickMenuRemove() override { calls += u"remove"_s; }
-    void clickMenuClear() override { calls += u"clear"_s; }
-    void clickMenuResortByName() override { calls += u"name"_s; }
-    void clickMenuResortBySize() override { calls += u"size"_s; }
-    void clickMenuResortByDataCreated() override { calls += u"created"_s; }
-    void clickMenuResortByDataModified() override { calls += u"modified"_s; }
-    void clickMenuMoveUp() override { calls += u"up"_s; }
-    void clickMenuMoveDown() override { calls += u"down"_s; }
-    void clickedDest(int row) override {
-        calls += u"dest %1 selected %2"_s.arg(row).arg(table->selectedRow());
-    }
-    bool acceptDrop(const QMimeData & /*data*/, int row) override {
-        calls += u"drop %1"_s.arg(row);
-        return takesDrops;
-    }
-
-    const SkinTableView *table = nullptr;
-    QStringList calls;
-    bool edit = true;
-    bool removeClear = true;
-    bool resort = true;
-    bool up = true;
-    bool down = true;
-    bool takesDrops = true;
-};
-
-/// A window with the table over a list of `rows` entries, a text field and a combo box.
-struct Window {
-    explicit Window(int rows) {
-        delegate.table = table;
-        table->setTableDelegate(&delegate);
-        table->setModel(&files);
-        table->setSelectionModel(files.selectionModel());
-        files.insert(-1, std::vector<PDFFileInfo>(std::size_t(rows)));
-        auto *column = new QVBoxLayout(&window);
-        column->addWidget(table);
-        column->addWidget(field);
-        column->addWidget(combo);
-        combo->addItems({u"None"_s, u"72 dpi"_s});
-        window.resize(700, 300);
-        window.show();
-        table->setFocus();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-    }
-
-    [[nodiscard]] QPoint middleOf(int row, int column) const {
-        return table->visualRect(files.index(row, column)).center();
-    }
-    /// Presses and releases a mouse button as the window system does.
-    void click(Qt::MouseButton button, const QPoint &inViewport) {
-        QTest::mouseClick(window.windowHandle(), button, {},
-                          table->viewport()->mapTo(&window, inViewport));
-    }
-    void key(Qt::Key code, Qt::KeyboardModifiers modifiers = {}) const {
-        QTest::keyClick(window.windowHandle(), code, modifiers);
-    }
-    void select(int first, int last) {
-        files.selectionModel()->select({files.index(first, 0), files.index(last, 3)},
-                                       QItemSelectionModel::Select);
-    }
-
-    FilesArray files;
-    RecordingDelegate delegate;
-    QWidget window;
-    SkinTableView *table = new SkinTableView;
-    QLineEdit *field = new QLineEdit;
-    QComboBox *combo = new QComboBox;
-};
-
-/// What the menu says from top to bottom, with the two titles that change.
-QStringList menuTitles(const QString &byName, const QString &bySize) {
-    return {u"Remove"_s,
-            u"Clear"_s,
-            u"-"_s,
-            byName,
-            bySize,
-            u"Sort By Data Created"_s,
-            u"Sort By Data Modified"_s,
-            u"-"_s,
-            u"Move Up"_s,
-            u"Move Down"_s};
-}
-
-QStringList titlesOf(const QMenu &menu) {
-    QStringList titles;
-    for (const QAction *item : menu.actions()) {
-        titles += item->isSeparator() ? u"-"_s : item->text();
-    }
-    return titles;
-}
 
 QString enabledOf(const QMenu &menu) {
     QString marks;
@@ -219,91 +115,6 @@ class SkinTableViewTest : public QObject {
         w.click(Qt::RightButton, w.middleOf(0, 3));
         QCOMPARE(w.delegate.calls, QStringList());
         openMenu()->close();
-    }
-
-    void theContextMenuHasItsTenEntries() {
-        Window w(3);
-        w.click(Qt::RightButton, w.middleOf(1, 1));
-        const QMenu *menu = openMenu();
-        QVERIFY(menu);
-        QCOMPARE(menu->title(), u"Contextual Menu"_s);
-        QCOMPARE(titlesOf(*menu), menuTitles(u"Sort By Name"_s, u"Sort By Size"_s));
-        QCOMPARE(enabledOf(*menu), u"11-1111-11"_s);
-        for (const QAction *item : menu->actions()) {
-            QVERIFY(item->shortcut().isEmpty());
-        }
-        openMenu()->close();
-    }
-
-    void whatCannotBeDoneIsDisabledAndTwoTitlesChange() {
-        Window w(0);
-        w.delegate.removeClear = w.delegate.resort = w.delegate.up = w.delegate.down = false;
-        w.click(Qt::RightButton, QPoint(50, 50));
-        const QMenu *menu = openMenu();
-        QVERIFY(menu);
-        QCOMPARE(titlesOf(*menu), menuTitles(u"Resort By Name"_s, u"Resort By Size"_s));
-        QCOMPARE(enabledOf(*menu), u"00-0000-00"_s);
-        openMenu()->close();
-    }
-
-    void eachCommandIsEnabledByItsOwnRule() {
-        Window w(3);
-        w.delegate.up = false;
-        w.delegate.removeClear = false;
-        w.click(Qt::RightButton, w.middleOf(0, 1));
-        QCOMPARE(enabledOf(*openMenu()), u"00-1111-01"_s);
-        openMenu()->close();
-    }
-
-    void theMenuIsBuiltAnewEachTime() {
-        Window w(3);
-        w.click(Qt::RightButton, w.middleOf(0, 1));
-        const QPointer<QMenu> first = openMenu();
-        first->close();
-        w.delegate.resort = false;
-        w.click(Qt::RightButton, w.middleOf(0, 1));
-        QCOMPARE(enabledOf(*openMenu()), u"11-0000-11"_s);
-        openMenu()->close();
-        QTRY_VERIFY(first.isNull());
-    }
-
-    void eachCommandReachesTheDelegate() {
-        Window w(3);
-        for (const int position : {0, 1, 3, 4, 5, 6, 8, 9}) {
-            w.click(Qt::RightButton, w.middleOf(0, 1));
-            QMenu *menu = openMenu();
-            QTest::mouseClick(menu, Qt::LeftButton, {},
-                              menu->actionGeometry(menu->actions().at(position)).center());
-        }
-        QCOMPARE(w.delegate.calls.join(u' '), u"remove clear name size created modified up down"_s);
-    }
-
-    void aRightClickKeepsTheSelection() {
-        Window w(5);
-        w.select(1, 2);
-        w.click(Qt::RightButton, w.middleOf(4, 1));
-        openMenu()->close();
-        QCOMPARE(w.files.selectedRows(), (std::vector<int>{1, 2}));
-    }
-
-    void theMenuOpensFromTheKeyboard_data() {
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-        QTest::newRow("menu key") << Qt::Key_Menu << Qt::KeyboardModifiers();
-        QTest::newRow("shift F10") << Qt::Key_F10 << Qt::KeyboardModifiers(Qt::ShiftModifier);
-    }
-
-    void theMenuOpensFromTheKeyboard() {
-        QFETCH(const Qt::Key, key);
-        QFETCH(const Qt::KeyboardModifiers, modifiers);
-        Window w(3);
-        w.select(1, 1);
-        w.key(key, modifiers);
-        QMenu *menu = openMenu();
-        QVERIFY(menu);
-        const QRect row = w.table->visualRect(w.files.index(1, 1));
-        QVERIFY(row.contains(w.table->viewport()->mapFromGlobal(menu->pos())));
-        menu->close();
     }
 
     void keysRemoveSelectAndMove() {

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "support/Files.h"
+#include "support/PdfProbe.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+#include <unistd.h>
+
+namespace folioforge::test {
+
+inline const QString kProgram = QStringLiteral(FOLIOFORGE_CLI);
+
+inline QList<QJsonObject> objectsOf(const QByteArray &output) {
+    QList<QJsonObject> objects;
+    for (const QByteArray &line : output.split('\n')) {
+        if (!line.isEmpty()) {
+            objects += QJsonDocument::fromJson(line).object();
+        }
+    }
+    return objects;
+}
+
+inline QString member(const QJsonObject &object, const char *name) {
+    return object[QLatin1StringView(name)].toString();
+}
+
+/// A folder with inputs and "out", where the program puts what it makes of them.
+class CommandLineCase {
+  protected:
+    void setUp() {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("out")));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString path(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
+
+    QString text(const char *name, const QByteArray &bytes = "words") const {
+        return writeFile(path(name), bytes);
+    }
+
+    /// Runs the program with its output folder set to "out" of the test's folder.
+    ToolRun convert(const QStringList &arguments, const QByteArray &input = {}) const {
+        return runTool(kProgram,
+                       QStringList{QStringLiteral("--output-folder"), path("out")} + arguments,
+                       input);
+    }
+
+    ToolRun merge(const char *target, const QStringList &arguments) const {
+        return runTool(kProgram, QStringList{QStringLiteral("--merge"), path(target)} + arguments);
+    }
+
+    /// The bytes of the document that `arguments` merged into while the descriptors `closed` were;
+    /// empty where the program did not end with `exitCode`.
+    QByteArray merged(const char *target, const QStringList &arguments, const QList<int> &closed,
+                      int exitCode) const {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("SOURCE_DATE_EPOCH"), QStringLiteral("1700000000"));
+        process.setProcessEnvironment(environment);
+        process.setChildProcessModifier([&closed] {
+            for (const int descriptor : closed) {
+                ::close(descriptor);
+            }
+        });
+        process.start(kProgram, QStringList{QStringLiteral("--merge"), path(target)} + arguments);
+        const bool ended = process.waitForFinished() && process.exitCode() == exitCode;
+        return ended ? readFile(path(target)) : QByteArray();
+    }
+
+    QStringList outputs() const {
+        return QDir(path("out")).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+};
+
+} // namespace folioforge::test

@@ -1,0 +1,86 @@
+#include "CommandLineCase.h"
+#include "support/Files.h"
+#include "support/PdfProbe.h"
+#include "support/TestUnit.h"
+
+#include <QProcess>
+
+#include <unistd.h>
+#ifdef __linux__
+#include <linux/capability.h>
+#include <sys/prctl.h>
+#endif
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// Where the program takes its passwords from.
+class PasswordSourcesTest : public QObject, protected CommandLineCase {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void aPasswordIsNotTakenFromAClosedDescriptor() {
+        QProcess process;
+        process.setChildProcessModifier([] { ::close(STDIN_FILENO); });
+        process.start(kProgram, {u"--user-password-file=-"_s, u"--output-folder"_s, path("out"),
+                                 text("a.txt")});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 2);
+        QVERIFY(outputs().isEmpty());
+    }
+
+    void aPasswordComesFromTheFirstLineOfAFile() {
+        const QString file = text("password", "sécret\r\nnot this\n");
+        QCOMPARE(convert({u"--user-password-file"_s, file, text("a.txt")}).exitCode, 0);
+        QCOMPARE(PdfProbe(path("out/a.pdf")).pageCount(), 0);
+        QCOMPARE(PdfProbe(path("out/a.pdf"), u"sécret"_s).pageCount(), 1);
+    }
+
+    void aPasswordComesFromStandardInput() {
+        QCOMPARE(convert({u"--user-password-file=-"_s, text("a.txt")}, "secret\n").exitCode, 0);
+        QCOMPARE(PdfProbe(path("out/a.pdf"), u"secret"_s).pageCount(), 1);
+    }
+
+    void bothPasswordsComeFromTwoLinesOfStandardInput() {
+        QCOMPARE(convert({u"--owner-password-file=-"_s, u"--user-password-file=-"_s,
+                          u"--refuse-print"_s, text("a.txt")},
+                         "user\nowner\n")
+                     .exitCode,
+                 0);
+        const PdfProbe probe(path("out/a.pdf"), u"user"_s);
+        QVERIFY2(probe.info(u"Encrypted"_s).contains(u"print:no copy:yes"_s),
+                 qPrintable(probe.info(u"Encrypted"_s)));
+    }
+
+    void passwordsComeFromTheEnvironment() {
+        const ToolRun run =
+            runTool(u"env"_s, {u"FOLIOFORGE_USER_PASSWORD=user"_s,
+                               u"FOLIOFORGE_OWNER_PASSWORD=owner"_s, kProgram, u"--refuse-copy"_s,
+                               u"--output-folder"_s, path("out"), text("a.txt")});
+        QCOMPARE(run.exitCode, 0);
+        const PdfProbe probe(path("out/a.pdf"), u"user"_s);
+        QVERIFY(probe.info(u"Encrypted"_s).contains(u"copy:no"_s));
+    }
+
+    void equalPasswordsGetTheirNotice() {
+        const QString file = text("password", "same");
+        const ToolRun run = convert(
+            {u"--user-password-file"_s, file, u"--owner-password-file"_s, file, text("a.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY(run.err.contains("The passwords can not be the same."));
+        QVERIFY(outputs().isEmpty());
+    }
+
+    void aPasswordFileThatCannotBeReadStopsTheRun() {
+        const ToolRun run = convert({u"--user-password-file"_s, path("missing"), text("a.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY(run.err.contains(path("missing").toUtf8()));
+        QVERIFY(outputs().isEmpty());
+    }
+};
+
+FOLIOFORGE_TEST(PasswordSourcesTest)
+#include "PasswordSourcesTest.moc"

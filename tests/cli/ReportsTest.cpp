@@ -1,0 +1,225 @@
+#include "CommandLineCase.h"
+#include "support/Files.h"
+#include "support/PdfProbe.h"
+#include "support/TestUnit.h"
+
+#include <QDir>
+#include <QTest>
+
+#include <algorithm>
+
+#include <sys/stat.h>
+#ifdef __linux__
+#include <linux/capability.h>
+#include <sys/prctl.h>
+#endif
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// What the program says about its inputs and its progress.
+class ReportsTest : public QObject, protected CommandLineCase {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void wrongSettingsGetTheWindowsNoticeAndNothingIsWritten_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("notice");
+        const auto row = [](const char *name, const char *argument, const char *notice) {
+            QTest::newRow(name) << QStringList{QString::fromLatin1(argument)} << QByteArray(notice);
+        };
+        row("text margin", "--text-margins=257",
+            "Invalid page margin value in text output setting.");
+        row("image margin", "--image-margins=-1",
+            "Invalid page margin value in image output setting.");
+        row("text width", "--text-page-size=100x500",
+            "The value of page margin is larger than page width, please modify your text output "
+            "setting.");
+        row("image height", "--image-page-size=100x0",
+            "The value of page margin is larger than page height, please modify your image output "
+            "setting.");
+        row("empty password", "--user-password-file=/dev/null", "Please input user password.");
+        row("no folder",
+            "--output-folder=", "Please select an output folder to store the output documents.");
+        row("missing folder", "--output-folder=/nonexistent",
+            "Selected output folder does not exist or is not writable. Click \"OK\" to select "
+            "another folder.");
+    }
+
+    void wrongSettingsGetTheWindowsNoticeAndNothingIsWritten() {
+        QFETCH(const QStringList, arguments);
+        QFETCH(const QByteArray, notice);
+        const ToolRun run = convert(arguments + QStringList{text("a.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.err, "folioforge-cli: " + notice + '\n');
+        QVERIFY(run.out.isEmpty());
+        QVERIFY(outputs().isEmpty());
+    }
+
+    void aMergeWithoutANameIsRefused() {
+        const ToolRun run = merge("out/", {text("a.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY(run.err.contains("Please input output file name."));
+    }
+
+    void anUnknownOptionGetsAHint() {
+        const ToolRun run = convert({u"--colour"_s, text("a.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY(run.err.contains("--colour") && run.err.contains("--help"));
+        QVERIFY(outputs().isEmpty());
+    }
+
+    void everyBadInputIsNamedWithItsReasonAndTheRestConverted() {
+        QVERIFY(QDir(m_folder->path()).mkpath(u"folder.png"_s));
+        QCOMPARE(::mkfifo(qPrintable(path("pipe.txt")), 0600), 0);
+        QCOMPARE(::mkfifo(qPrintable(path("pipe.pdf")), 0600), 0);
+        const QString png = test::writePng(path("whole.png"), 50, 50);
+        const QStringList bad{path("missing.txt"),
+                              path("pipe.txt"),
+                              path("pipe.pdf"),
+                              u"/dev/zero"_s,
+                              text("a.docx"),
+                              text("noextension"),
+                              text("empty.png", {}),
+                              text("empty.pdf", {}),
+                              text("text.png", "no image"),
+                              text("cut.png", readFile(png).first(60))};
+        const ToolRun run = convert(bad + QStringList{path("folder.png"), text("good.txt")});
+        QCOMPARE(run.exitCode, 1);
+        const QList<QByteArray> lines = run.err.split('\n');
+        for (const QString &file : bad) {
+            const QByteArray start = "folioforge-cli: " + file.toUtf8() + ": ";
+            const auto names = [&start](const QByteArray &line) {
+                return line.startsWith(start) && line.size() > start.size();
+            };
+            QVERIFY2(std::any_of(lines.begin(), lines.end(), names), qPrintable(file));
+        }
+        QCOMPARE(outputs(), QStringList{u"good.pdf"_s});
+    }
+
+    void refusedPdfsAreListedInTheWindowsWords() {
+        const QString plain = test::writePdf(path("plain.pdf"), 1);
+        const QString locked = test::encryptPdf(plain, path("locked.pdf"), u"secret"_s);
+        const QString broken = text("broken.pdf", "no document");
+        const ToolRun run = convert({locked, plain, broken});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(run.err.contains("Fail to import following files. They are encrypted or not normal "
+                                 "PDF files:\n    " +
+                                 locked.toUtf8() + "\n    " + broken.toUtf8() + '\n'));
+        QVERIFY(run.err.contains(locked.toUtf8() + ": "));
+        QCOMPARE(outputs(), QStringList{u"plain.pdf"_s});
+    }
+
+    void aTextThatIsNotUtf8IsConvertedWithAWarning() {
+        const ToolRun run = convert({text("a.txt", "caf\xE9")});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY(run.err.contains("warning") && run.err.contains("UTF-8"));
+        QCOMPARE(PdfProbe(path("out/a.pdf")).pageCount(), 1);
+    }
+
+    void aFailureIsSaidBesideAWarning() {
+        const QString script =
+            u"trap '' XFSZ; ulimit -f 0; exec \"$0\" --json --merge \"$1\" \"$2\""_s;
+        const ToolRun run = runTool(
+            u"sh"_s, {u"-c"_s, script, kProgram, path("out/all"), text("a.txt", "caf\xE9")});
+        QCOMPARE(run.exitCode, 1);
+        const QString message = member(objectsOf(run.out).value(0), "message");
+        QVERIFY2(message.contains(u"not valid UTF-8"_s), qPrintable(message));
+        QVERIFY2(message.contains(u"File too large"_s), qPrintable(message));
+        QVERIFY2(run.err.contains(message.toUtf8()), run.err.constData());
+    }
+
+    void nothingToConvertIsAFailure() {
+        QCOMPARE(convert({path("missing.txt")}).exitCode, 1);
+        QVERIFY(QDir(m_folder->path()).mkpath(u"empty"_s));
+        const ToolRun run = convert({path("empty")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(!run.err.isEmpty());
+    }
+
+    void jsonTellsHowEachInputWent() {
+        const ToolRun run =
+            convert({u"--json"_s, text("a.txt"), path("missing.png"),
+                     test::writePng(path("b.png"), 30, 20), test::writePdf(path("c.pdf"), 2)});
+        QCOMPARE(run.exitCode, 1);
+        const auto objects = objectsOf(run.out);
+        QCOMPARE(objects.size(), 4);
+        QCOMPARE(member(objects[0], "input"), path("missing.png"));
+        QCOMPARE(member(objects[0], "state"), u"rejected"_s);
+        QVERIFY(!member(objects[0], "message").isEmpty());
+        QCOMPARE(member(objects[1], "output"), path("out/a.pdf"));
+        QCOMPARE(member(objects[1], "state"), u"finished"_s);
+        QVERIFY(!objects[1].contains(u"message"_s));
+        QVERIFY(!objects[1].contains(u"embedded"_s));
+        QVERIFY(!member(objects[2], "embedded").isEmpty());
+        QCOMPARE(objects[3][u"pages"_s].toInt(), 2);
+    }
+
+    void jsonOfAMergeNamesTheOnePdfForEach() {
+        const ToolRun run =
+            merge("out/all", {u"--json"_s, text("a.txt"), text("b.txt"), text("c.png", "x")});
+        QCOMPARE(run.exitCode, 1);
+        const auto objects = objectsOf(run.out);
+        QCOMPARE(objects.size(), 3);
+        QCOMPARE(member(objects[1], "output"), path("out/all.pdf"));
+        QCOMPARE(member(objects[2], "output"), path("out/all.pdf"));
+    }
+
+    void quietLeavesOnlyErrors() {
+        const ToolRun run =
+            convert({u"--quiet"_s, u"--progress=always"_s, text("a.txt"), path("missing.txt")});
+        QVERIFY(run.out.isEmpty());
+        QCOMPARE(run.err.count('\n'), 1);
+        QVERIFY(run.err.contains("missing.txt"));
+    }
+
+    void progressIsShownOnRequestAndTakenAwayAtTheEnd() {
+        const ToolRun quiet = convert({text("a.txt")});
+        QVERIFY(quiet.err.isEmpty());
+        const ToolRun run = convert({u"--progress=always"_s, text("b.txt")});
+        QVERIFY(run.err.contains("1 of 1  50 %"));
+        QVERIFY(run.err.endsWith("\r\033[K"));
+    }
+
+    void aLongNameInProgressIsCutToItsLastColumns_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("shown"); // 48 columns.
+        const auto row = [](const char *tag, const QString &character, int count, int shown) {
+            const QString end = u".txt"_s;
+            QTest::newRow(tag) << character.repeated(count) + end
+                               << character.repeated(shown) + end;
+        };
+        row("letters", u"a"_s, 60, 44);
+        row("wide", u"\u3042"_s, 60, 22);
+        row("wide, of two code units", u"\U0001F600"_s, 40, 22);
+        row("with a mark on each", u"e\u0301"_s, 60, 44);
+        row("spelled out", u"\x1b"_s, 60, 11);
+        QTest::newRow("wide across the edge")
+            << QString(60, u'\u3042') + u"x.txt"_s << QString(21, u'\u3042') + u"x.txt"_s;
+        QTest::newRow("a mark at the edge")
+            << QString(9, u'b') + u"e\u0301"_s + QString(44, u'a') + u".txt"_s
+            << QString(44, u'a') + u".txt"_s;
+    }
+
+    void aLongNameInProgressIsCutToItsLastColumns() {
+        QFETCH(QString, name);
+        QFETCH(QString, shown);
+        const QString file = writeFile(m_folder->filePath(name), "words");
+        const ToolRun run = convert({u"--progress=always"_s, file});
+        shown.replace(u'\x1b', u"\\x1b"_s);
+        QVERIFY2(run.err.startsWith("1 of 1  0 %  " + shown.toUtf8() + "\r"), run.err.constData());
+    }
+
+    void namesThatMoveTheCursorArePrintedHarmlessly() {
+        const ToolRun run = convert({path("\x1b[2Jevil.txt")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(!run.err.contains('\x1b'));
+        QVERIFY(run.err.contains("\\x1b[2Jevil.txt"));
+    }
+};
+
+FOLIOFORGE_TEST(ReportsTest)
+#include "ReportsTest.moc"

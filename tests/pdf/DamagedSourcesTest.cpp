@@ -1,0 +1,141 @@
+#include "MergeCase.h"
+#include "error/Error.h"
+#include "pdf/PDFContext.h"
+#include "support/FaultyCalls.h"
+#include "support/PdfFixture.h"
+#include "support/PdfProbe.h"
+#include "support/TestUnit.h"
+
+#include <QFile>
+
+#include <cstring>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+const char *const kCatalog = "<< /Type /Catalog /Pages 2 0 R >>";
+
+} // namespace
+
+/// Sources that are damaged, change or cannot be read.
+class DamagedSourcesTest : public QObject, protected MergeCase {
+    Q_OBJECT
+
+  private:
+    static PDFContext::Settings through(SystemCalls &calls) {
+        PDFContext::Settings settings;
+        settings.flush = Flush::Never;
+        settings.calls = calls;
+        return settings;
+    }
+
+    /// The reason why `context` does not take `source`; empty where it does.
+    static QString refusal(PDFContext &context, const QString &source) {
+        try {
+            context.addDocument(source);
+            return {};
+        } catch (const Error &error) {
+            return error.reason();
+        }
+    }
+
+  private Q_SLOTS:
+    void damagedPageLabelsCostNothingElse() {
+        PdfFixture source;
+        source.object(1, "<< /Type /Catalog /Pages 2 0 R /PageLabels << /Nums [0] >> >>")
+            .pages(4, 2);
+        const PdfProbe probe(merged({saved(source)}));
+        QCOMPARE(probe.pageCount(), 2);
+        QVERIFY(probe.text(2).contains(u"Page 2"_s));
+    }
+
+    void aDamagedSourceIsRepairedAndRead() {
+        PdfFixture source;
+        source.object(1, kCatalog).pages(4, 2);
+        QByteArray bytes = source.bytes();
+        // No offset is right any more.
+        bytes.insert(bytes.indexOf("1 0 obj"), QByteArray("% junk\n").repeated(20));
+        const QString path = newPath();
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        file.close();
+        QVERIFY(PdfProbe(merged({path})).text(2).contains(u"Page 2"_s));
+    }
+
+    void misplacedObjectsInASourceCostOnlyThemselves() {
+        PdfFixture source;
+        source.object(1, "<< /Type /Catalog /Pages 2 0 R /Outlines << /First 4 0 R >> /AcroForm << "
+                         "/Fields [2 0 R 5 0 R 3 0 R 99 0 R] >> /OCProperties << /OCGs [1 0 R 4 0 "
+                         "R] /D << /OFF [2 0 R] >> >> >>");
+        source.pages(4, 2);
+        PdfFixture tree = source;
+        tree.object(1, "<< /Type /Catalog /Pages 2 0 R /Outlines << /First 2 0 R >> >>");
+        const QString result = merged({saved(source), saved(tree)});
+        QCOMPARE(PdfProbe(result).pageCount(), 4);
+        QVERIFY(PdfProbe(result).text(4).contains(u"Page 2"_s));
+        QVERIFY(!opened(result)->getRoot().hasKey("/Outlines"));
+    }
+
+    void aSourceThatCannotBeReadLeavesNothing() {
+        PdfFixture good;
+        good.object(1, kCatalog).pages(4, 1);
+        const QString broken = newPath();
+        QFile file(broken);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("%PDF-1.7\nnothing that could be a document");
+        file.close();
+        const QString path = newPath();
+        PDFContext context(path, {});
+        QCOMPARE(context.addDocument(saved(good)), 1);
+        QVERIFY_THROWS_EXCEPTION(Error, context.addDocument(broken));
+        QVERIFY_THROWS_EXCEPTION(Error, context.addDocument(newPath()));
+        QCOMPARE(context.pageCount(), 1);
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        QVERIFY(PdfProbe(path).isValid());
+        QCOMPARE(PdfProbe(path).pageCount(), 1);
+    }
+
+    void aReadThatFailsIsItsSourcesErrorAndNeverAMissingObject() {
+        PdfFixture source;
+        source.object(1, kCatalog).pages(4, 2).spread();
+        const QString input = saved(source);
+        test::FaultyCalls counted;
+        QCOMPARE(PDFContext(newPath(), through(counted)).addDocument(input), 2);
+        QVERIFY(counted.moves() > 3);
+        // The first call opens the file.
+        for (int call = 2; call <= counted.moves() + 1; ++call) {
+            test::FaultyCalls calls;
+            calls.fault = {call, EIO, false, {}};
+            const QString path = newPath();
+            PDFContext context(path, through(calls));
+            QCOMPARE(refusal(context, input),
+                     u"Cannot read the file: %1"_s.arg(QString::fromLocal8Bit(std::strerror(EIO))));
+            QCOMPARE(context.pageCount(), 0);
+            QCOMPARE(refusal(context, input), QString()); // The disk is well again.
+            QCOMPARE(context.close().status, CloseResult::Status::Written);
+            QVERIFY(PdfProbe(path).text(1).contains(u"Page 1"_s));
+            QVERIFY(PdfProbe(path).text(2).contains(u"Page 2"_s));
+        }
+    }
+
+    void aSourceThatChangesBeforeItsStreamsAreReadFailsTheDocument() {
+        PdfFixture source;
+        source.object(1, kCatalog).pages(4, 1);
+        const QString input = saved(source);
+        const QString path = newPath();
+        PDFContext context(path, {});
+        QCOMPARE(context.addDocument(input), 1);
+        QVERIFY(source.pages(4, 2).write(input));
+        const CloseResult result = context.close();
+        QCOMPARE(result.status, CloseResult::Status::Failed);
+        QVERIFY2(result.reason.contains(u"was changed"_s), qPrintable(result.reason));
+        QVERIFY(!QFile::exists(path));
+    }
+};
+
+FOLIOFORGE_TEST(DamagedSourcesTest)
+#include "DamagedSourcesTest.moc"

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "pdf/PDFContext.h"
+#include "support/PdfFixture.h"
+#include "support/PdfProbe.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <utility>
+
+namespace folioforge::test {
+
+/// The output read back with the PDF library alone.
+inline std::unique_ptr<QPDF> opened(const QString &path) {
+    auto document = std::make_unique<QPDF>();
+    document->processFile(path.toLocal8Bit().constData());
+    return document;
+}
+
+/// A folder for documents and what they are merged into.
+class MergeCase {
+  protected:
+    QTemporaryDir m_folder;
+    int m_number = 0;
+
+    QString newPath() { return m_folder.filePath(QStringLiteral("%1.pdf").arg(++m_number)); }
+
+    QString saved(const PdfFixture &fixture) {
+        const QString path = newPath();
+        return fixture.write(path) ? path : QString();
+    }
+
+    /// The PDF of all of `sources`, which qpdf finds in order.
+    QString merged(const QStringList &sources) {
+        QString path = newPath();
+        PDFContext::Settings settings;
+        settings.flush = Flush::Never;
+        PDFContext context(path, std::move(settings));
+        for (const QString &source : sources) {
+            context.addDocument(source);
+        }
+        const CloseResult result = context.close();
+        QString log = result.reason;
+        if (result.status != CloseResult::Status::Written || !PdfProbe(path).isValid(&log)) {
+            QTest::qFail(qPrintable(log), __FILE__, __LINE__);
+        }
+        return path;
+    }
+};
+
+} // namespace folioforge::test
