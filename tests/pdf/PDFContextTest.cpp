@@ -54,6 +54,17 @@ PdfImage jpegInPlace(const QString &path) {
     return image;
 }
 
+/// A grey row of two pixels.
+PdfImage rowOfTwo(const QByteArray &samples, int bits) {
+    PdfImage image;
+    image.width = 2;
+    image.height = 1;
+    image.bitsPerComponent = bits;
+    // QByteArray::mid(4) leaves out the length that qCompress() puts first.
+    image.data = qCompress(samples).mid(4);
+    return image;
+}
+
 bool isNear(const QColor &shown, const QColor &wanted) {
     constexpr int kTolerance = 12;
     return std::abs(shown.red() - wanted.red()) <= kTolerance &&
@@ -90,7 +101,7 @@ class PDFContextTest : public QObject {
 
     QString file(const QString &name) const { return m_folder.filePath(name); }
     QString jpeg(const QString &name) const {
-        const QString path = file(name);
+        QString path = file(name);
         quarters(64).save(path, "JPEG", 95);
         return path;
     }
@@ -282,14 +293,9 @@ class PDFContextTest : public QObject {
         QFETCH(int, bits);
         QFETCH(QByteArray, samples);
         QFETCH(QByteArray, palette);
-        PdfImage image;
-        image.width = 2;
-        image.height = 1;
+        PdfImage image = rowOfTwo(samples, bits);
         image.color = static_cast<ImageColor>(color);
-        image.bitsPerComponent = bits;
         image.palette = palette;
-        // QByteArray::mid(4) leaves out the length that qCompress() puts first.
-        image.data = qCompress(samples).mid(4);
         const QString path = newFile(u"pdf"_s);
         PDFContext context(path, settings());
         context.beginPage({0, 0, 40, 20});
@@ -438,7 +444,7 @@ class PDFContextTest : public QObject {
         PDFContext context(taken, settings());
         context.beginPage({0, 0, 10, 10});
         context.endPage();
-        const QString next = newFile(u"pdf"_s);
+        QString next = newFile(u"pdf"_s);
         const CloseResult result = context.close([&] { return next; });
         QCOMPARE(result.status, CloseResult::Status::Written);
         QCOMPARE(result.path, next);
