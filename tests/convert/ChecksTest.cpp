@@ -93,6 +93,17 @@ class ChecksTest : public QObject {
         QVERIFY2(message.contains(u"not writable"_s), qPrintable(message));
     }
 
+    void textsThatAreEmptyButNotAbsentAreAskedFor() {
+        ConversionOptions options = goodOptions();
+        options.security.useOwnerPassword = true;
+        options.security.ownerPassword = u""_s;
+        QCOMPARE(messageOf(checkConversion(options)), u"Please input owner password."_s);
+        options.security = {};
+        options.merge = true;
+        options.outputName = u""_s;
+        QCOMPARE(messageOf(checkConversion(options)), u"Please input output file name."_s);
+    }
+
     void singleModeAsksForNoName() {
         ConversionOptions options = goodOptions();
         options.outputName.clear();

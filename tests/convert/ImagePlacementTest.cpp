@@ -64,6 +64,13 @@ class ImagePlacementTest : public QObject {
         QVERIFY(placed.image.height() == 233.3333282470703125);
     }
 
+    void theSizeInPointsIsASinglePrecisionNumber() {
+        // 17 pixels at 300 per inch are 4.08 points. The float of 4.08 times the float of 100/12
+        // is 33.99999618530273; the product of the double would be 34.
+        const ImagePlacement placed = placeImage({12, 4.08}, fixedPage(100, 1000, {}));
+        QVERIFY(placed.image.height() == 33.999996185302734);
+    }
+
     void theDrawnSizeIsASinglePrecisionProduct() {
         // Five times the float of 100/3 lies between two floats: 166.6666603088379 is rounded to
         // 166.66665649414062, where a product of doubles would keep it or say 166.66666666666666.
