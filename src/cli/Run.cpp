@@ -78,11 +78,11 @@ class Call : private RunObserver {
         m_progress.finish();
     }
 
-    void PDFBegins(std::size_t firstEntry) override { m_progress.beginPDF(firstEntry); }
+    void pdfBegins(std::size_t firstEntry) override { m_progress.beginPDF(firstEntry); }
     void progressChanged(float value) override { m_progress.progressChanged(value); }
     void entryDone(std::size_t index, bool /*written*/) override { m_progress.entryDone(index); }
 
-    void PDFDone(const RunResult &result) override {
+    void pdfDone(const RunResult &result) override {
         const CloseResult &close = result.outcome.close;
         const auto &compression = result.compression;
         if (compression && !compression->error.isEmpty()) {

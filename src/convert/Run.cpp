@@ -22,13 +22,13 @@ Run::Run(std::vector<PDFFileInfo> entries, ConversionOptions options, QString bu
 void Run::convertAll(TemporaryFolder &temporaryFolder, RunObserver &observer) const {
     const std::size_t pdfs = m_options.merge ? 1 : m_entries.size();
     for (std::size_t first = 0; first < pdfs && !m_stop.stop_requested(); ++first) {
-        observer.PDFBegins(first);
+        observer.pdfBegins(first);
         RunResult result{first, createPDF(first, pathFor(first), observer), {}};
         const CloseResult &close = result.outcome.close;
         if (close.status == CloseResult::Status::Written && compresses()) {
             result.compression = compressInPlace(close.path, temporaryFolder, observer);
         }
-        observer.PDFDone(result);
+        observer.pdfDone(result);
     }
 }
 

@@ -26,9 +26,9 @@ struct RunResult {
 class RunObserver : public ConversionObserver {
   public:
     /// The PDF whose first entry is the run's entry `firstEntry` begins.
-    virtual void PDFBegins(std::size_t firstEntry) = 0;
+    virtual void pdfBegins(std::size_t firstEntry) = 0;
     /// A PDF is written and compressed, or has failed.
-    virtual void PDFDone(const RunResult &result) = 0;
+    virtual void pdfDone(const RunResult &result) = 0;
 };
 
 /// One run: the entries become PDFs in their order, one for each entry or, in merge mode, one of

@@ -27,8 +27,8 @@ class Recorder : public RunObserver {
     void entryDone(std::size_t index, bool written) override {
         heard += u"entry %1%2"_s.arg(index).arg(written ? u"+"_s : u"-"_s);
     }
-    void PDFBegins(std::size_t firstEntry) override { heard += u"begins %1"_s.arg(firstEntry); }
-    void PDFDone(const RunResult &result) override {
+    void pdfBegins(std::size_t firstEntry) override { heard += u"begins %1"_s.arg(firstEntry); }
+    void pdfDone(const RunResult &result) override {
         heard += u"done %1"_s.arg(result.firstEntry);
         results.push_back(result);
         if (afterPDF) {
@@ -65,9 +65,7 @@ class RunTest : public QObject {
         run.convertAll(temporary, recorder);
     }
     QString outputs() const {
-        return QDir(path("out"))
-            .entryList(QDir::Files | QDir::Hidden, QDir::Name)
-            .join(u' ');
+        return QDir(path("out")).entryList(QDir::Files | QDir::Hidden, QDir::Name).join(u' ');
     }
 
   private Q_SLOTS:
@@ -116,8 +114,8 @@ class RunTest : public QObject {
         Recorder recorder;
         convertAll(recorder);
         QCOMPARE(outputs(), u"b.pdf"_s);
-        QVERIFY(recorder.results.front().outcome.entries.front().message.contains(
-            u"No such file"_s));
+        QVERIFY(
+            recorder.results.front().outcome.entries.front().message.contains(u"No such file"_s));
     }
 
     void aTextIsReadWhenItsTurnComes() {

@@ -41,8 +41,8 @@ class WholeRun {
     struct OutcomeOfRun : RunObserver {
         void progressChanged(float) override {}
         void entryDone(std::size_t, bool) override {}
-        void PDFBegins(std::size_t) override {}
-        void PDFDone(const RunResult &result) override {
+        void pdfBegins(std::size_t) override {}
+        void pdfDone(const RunResult &result) override {
             const CloseResult &close = result.outcome.close;
             outcome = {close.status == CloseResult::Status::Written, close.reason};
             for (const EntryOutcome &entry : result.outcome.entries) {
