@@ -56,7 +56,7 @@ class ContextMenuTest : public QObject {
 
   private Q_SLOTS:
     void theContextMenuHasItsTenEntries() {
-        Window w(3);
+        TableWindow w(3);
         w.click(Qt::RightButton, w.middleOf(1, 1));
         const QMenu *menu = openMenu();
         QVERIFY(menu);
@@ -70,7 +70,7 @@ class ContextMenuTest : public QObject {
     }
 
     void whatCannotBeDoneIsDisabledAndTwoTitlesChange() {
-        Window w(0);
+        TableWindow w(0);
         w.delegate.removeClear = w.delegate.resort = w.delegate.up = w.delegate.down = false;
         w.click(Qt::RightButton, QPoint(50, 50));
         const QMenu *menu = openMenu();
@@ -81,7 +81,7 @@ class ContextMenuTest : public QObject {
     }
 
     void eachCommandIsEnabledByItsOwnRule() {
-        Window w(3);
+        TableWindow w(3);
         w.delegate.up = false;
         w.delegate.removeClear = false;
         w.click(Qt::RightButton, w.middleOf(0, 1));
@@ -90,7 +90,7 @@ class ContextMenuTest : public QObject {
     }
 
     void theMenuIsBuiltAnewEachTime() {
-        Window w(3);
+        TableWindow w(3);
         w.click(Qt::RightButton, w.middleOf(0, 1));
         const QPointer<QMenu> first = openMenu();
         first->close();
@@ -102,7 +102,7 @@ class ContextMenuTest : public QObject {
     }
 
     void eachCommandReachesTheDelegate() {
-        Window w(3);
+        TableWindow w(3);
         for (const int position : {0, 1, 3, 4, 5, 6, 8, 9}) {
             w.click(Qt::RightButton, w.middleOf(0, 1));
             QMenu *menu = openMenu();
@@ -113,7 +113,7 @@ class ContextMenuTest : public QObject {
     }
 
     void aRightClickKeepsTheSelection() {
-        Window w(5);
+        TableWindow w(5);
         w.select(1, 2);
         w.click(Qt::RightButton, w.middleOf(4, 1));
         openMenu()->close();
@@ -130,7 +130,7 @@ class ContextMenuTest : public QObject {
     void theMenuOpensFromTheKeyboard() {
         QFETCH(const Qt::Key, key);
         QFETCH(const Qt::KeyboardModifiers, modifiers);
-        Window w(3);
+        TableWindow w(3);
         w.select(1, 1);
         w.key(key, modifiers);
         QMenu *menu = openMenu();

@@ -57,14 +57,14 @@ class SkinTableViewTest : public QObject {
 
   private Q_SLOTS:
     void aClickInTheDestinationColumnActsAndThenSelects() {
-        Window w(3);
+        TableWindow w(3);
         w.click(Qt::LeftButton, w.middleOf(0, 3));
         QCOMPARE(w.delegate.calls, QStringList(u"dest 0 selected -1"_s));
         QCOMPARE(w.table->selectedRow(), 0);
     }
 
     void aClickBelowTheLastRowActsOnNothing() {
-        Window w(2);
+        TableWindow w(2);
         const QPoint below(w.middleOf(1, 3).x(), w.table->viewport()->height() - 5);
         QVERIFY(!w.table->indexAt(below).isValid());
         w.click(Qt::LeftButton, below);
@@ -72,7 +72,7 @@ class SkinTableViewTest : public QObject {
     }
 
     void aClickInAnotherColumnOnlySelects() {
-        Window w(3);
+        TableWindow w(3);
         for (int column = 0; column < 3; ++column) {
             w.click(Qt::LeftButton, w.middleOf(column, column));
             QCOMPARE(w.files.selectedRows(), std::vector<int>{column});
@@ -90,7 +90,7 @@ class SkinTableViewTest : public QObject {
     void returnActsOnTheDestinationOfTheOneSelectedRow() {
         QFETCH(const Qt::Key, key);
         QFETCH(const Qt::KeyboardModifiers, modifiers);
-        Window w(3);
+        TableWindow w(3);
         w.key(key, modifiers);
         w.select(0, 1);
         w.key(key, modifiers);
@@ -102,7 +102,7 @@ class SkinTableViewTest : public QObject {
     }
 
     void returnWithAnotherKeyHeldActsOnNothing() {
-        Window w(3);
+        TableWindow w(3);
         w.select(1, 1);
         for (const auto held : {Qt::ControlModifier, Qt::ShiftModifier, Qt::AltModifier}) {
             w.key(Qt::Key_Return, held);
@@ -111,14 +111,14 @@ class SkinTableViewTest : public QObject {
     }
 
     void theRightButtonNeverActsOnADestination() {
-        Window w(3);
+        TableWindow w(3);
         w.click(Qt::RightButton, w.middleOf(0, 3));
         QCOMPARE(w.delegate.calls, QStringList());
         openMenu()->close();
     }
 
     void keysRemoveSelectAndMove() {
-        Window w(3);
+        TableWindow w(3);
         w.key(Qt::Key_Delete);
         w.key(Qt::Key_Up, Qt::AltModifier);
         w.key(Qt::Key_Down, Qt::AltModifier);
@@ -128,7 +128,7 @@ class SkinTableViewTest : public QObject {
     }
 
     void keysDoNothingThatIsNotPossible() {
-        Window w(3);
+        TableWindow w(3);
         w.delegate.removeClear = w.delegate.up = w.delegate.down = false;
         w.key(Qt::Key_Delete);
         w.key(Qt::Key_Up, Qt::AltModifier);
@@ -137,7 +137,7 @@ class SkinTableViewTest : public QObject {
     }
 
     void theFieldBesideKeepsItsOwnKeys() {
-        Window w(3);
+        TableWindow w(3);
         w.field->setText(u"name"_s);
         w.field->setFocus();
         w.key(Qt::Key_A, Qt::ControlModifier);
@@ -149,7 +149,7 @@ class SkinTableViewTest : public QObject {
     }
 
     void theComboBoxBesideKeepsItsOwnKeys() {
-        Window w(3);
+        TableWindow w(3);
         w.select(0, 0);
         w.combo->setFocus();
         w.key(Qt::Key_Delete);
@@ -161,7 +161,7 @@ class SkinTableViewTest : public QObject {
     }
 
     void nothingIsEditedWhileTheListIsLocked() {
-        Window w(3);
+        TableWindow w(3);
         w.delegate.edit = false;
         for (const auto &[key, modifiers] :
              {std::pair(Qt::Key_Delete, Qt::NoModifier), std::pair(Qt::Key_A, Qt::ControlModifier),
@@ -177,7 +177,7 @@ class SkinTableViewTest : public QObject {
     }
 
     void dropsGoAboveTheRowUnderThePointer() {
-        Window w(5);
+        TableWindow w(5);
         QCOMPARE(drop(*w.table, *oneFile(), w.middleOf(2, 1)), (QList{true, true, true}));
         const QRect row = w.table->visualRect(w.files.index(2, 1));
         drop(*w.table, *oneFile(), row.topLeft() + QPoint(5, 1));
@@ -186,19 +186,19 @@ class SkinTableViewTest : public QObject {
     }
 
     void dropsBelowTheLastRowGoToTheEnd() {
-        Window w(2);
+        TableWindow w(2);
         drop(*w.table, *oneFile(), QPoint(20, w.table->viewport()->height() - 5));
         QCOMPARE(w.delegate.calls, QStringList(u"drop 2"_s));
     }
 
     void dropsOnAnEmptyTableGoToRowZero() {
-        Window w(0);
+        TableWindow w(0);
         drop(*w.table, *oneFile(), QPoint(20, 50));
         QCOMPARE(w.delegate.calls, QStringList(u"drop 0"_s));
     }
 
     void dropsInAScrolledTableGoWhereTheyAreSeen() {
-        Window w(200);
+        TableWindow w(200);
         w.table->verticalScrollBar()->setValue(1000);
         const int row = w.table->rowAt(60);
         QVERIFY(row > 30);
@@ -207,20 +207,20 @@ class SkinTableViewTest : public QObject {
     }
 
     void aRefusedDropIsAnsweredSo() {
-        Window w(2);
+        TableWindow w(2);
         w.delegate.takesDrops = false;
         QCOMPARE(drop(*w.table, *oneFile(), w.middleOf(0, 1)), (QList{true, true, false}));
     }
 
     void dragsOfAnyContentAreAnsweredWithACopy() {
-        Window w(2);
+        TableWindow w(2);
         QMimeData text;
         text.setText(u"words"_s);
         QCOMPARE(drop(*w.table, text, w.middleOf(0, 1)), (QList{true, true, true}));
     }
 
     void theGapUnderADragIsMarkedUntilItLeaves() {
-        Window w(3);
+        TableWindow w(3);
         const auto picture = [&] { return w.table->viewport()->grab().toImage(); };
         const QImage before = picture();
         const auto data = oneFile();
@@ -234,13 +234,13 @@ class SkinTableViewTest : public QObject {
     }
 
     void rowsCannotBeDraggedOut() {
-        const Window w(3);
+        const TableWindow w(3);
         QVERIFY(!w.table->dragEnabled());
         QCOMPARE(w.table->dragDropMode(), QAbstractItemView::DropOnly);
     }
 
     void onlyAFinishedDestinationShowsTheHand() {
-        Window w(3);
+        TableWindow w(3);
         w.files.setDestFilePathName(1, u"/out/b.pdf"_s);
         w.files.setStateIndex(1, FinishedAsLink);
         const auto cursorOver = [&](int row, int column) {
@@ -256,7 +256,7 @@ class SkinTableViewTest : public QObject {
     }
 
     void anEmptyTableSaysInItsMiddleWhatToDo() {
-        Window w(0);
+        TableWindow w(0);
         const QImage empty = w.table->viewport()->grab().toImage();
         const QColor ground = empty.pixelColor(2, 2);
         const QRect middle(empty.width() / 2 - 60, empty.height() / 2 - 12, 120, 24);
@@ -276,7 +276,7 @@ class SkinTableViewTest : public QObject {
     }
 
     void theNameColumnTakesTheSpareRoom() {
-        Window w(1);
+        TableWindow w(1);
         QCOMPARE(w.table->horizontalHeader()->length(), w.table->viewport()->width());
         const int before = w.table->columnWidth(1);
         w.window.resize(900, 300);
@@ -284,7 +284,7 @@ class SkinTableViewTest : public QObject {
     }
 
     void theTabKeyLeavesTheTable() {
-        Window w(3);
+        TableWindow w(3);
         w.key(Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), w.field);
     }

@@ -12,7 +12,7 @@
 namespace folioforge::test {
 
 /// Writes down what the table asks of its controller.
-class RecordingDelegate : public SkinTableViewDelegate {
+class RecordingTableDelegate : public SkinTableViewDelegate {
   public:
     [[nodiscard]] bool canEditList() const override { return edit; }
     [[nodiscard]] bool canRemoveClear() const override { return removeClear; }
@@ -46,8 +46,8 @@ class RecordingDelegate : public SkinTableViewDelegate {
 };
 
 /// A window with the table over a list of `rows` entries, a text field and a combo box.
-struct Window {
-    explicit Window(int rows) {
+struct TableWindow {
+    explicit TableWindow(int rows) {
         delegate.table = table;
         table->setTableDelegate(&delegate);
         table->setModel(&files);
@@ -82,7 +82,7 @@ struct Window {
     }
 
     FilesArray files;
-    RecordingDelegate delegate;
+    RecordingTableDelegate delegate;
     QWidget window;
     SkinTableView *table = new SkinTableView;
     QLineEdit *field = new QLineEdit;
