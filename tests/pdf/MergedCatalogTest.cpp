@@ -179,6 +179,20 @@ class MergedCatalogTest : public QObject {
         QCOMPARE(catalogEntry(*document, "/PageLabels", "/Nums").getArrayNItems(), 2);
     }
 
+    void aPageBehindALabelledDocumentIsNumberedByItsPlace() {
+        const QString path = newPath();
+        PDFContext context(path, unflushed());
+        context.addDocument(saved(withCatalog("/PageLabels << /Nums [0 << /S /r >>] >>")));
+        context.beginPage(QRectF(0, 0, 100, 100));
+        context.endPage();
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        const auto document = opened(path);
+        auto labels = catalogEntry(*document, "/PageLabels", "/Nums").getArrayAsVector();
+        QCOMPARE(labels.size(), 4U);
+        QCOMPARE(labels[2].getIntValue(), 1LL);
+        QCOMPARE(labels[3].getKey("/St").getIntValue(), 2LL);
+    }
+
     void labelsOfPagesThatAreTakenBackGoWithThem() {
         const QString path = newPath();
         PDFContext context(path, unflushed());
