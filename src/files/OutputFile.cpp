@@ -83,7 +83,7 @@ void OutputFile::openNamed(const QByteArray &fileName) {
     }
     // The mode of the empty file shows the umask. Until the file is complete, only its owner may
     // read it.
-    struct stat status {};
+    struct stat status = {};
     constexpr mode_t kPermissionBits = 07777;
     m_mode = ::fstat(m_file.get(), &status) == 0 ? status.st_mode & kPermissionBits : kOwnerMode;
     // File systems without permissions refuse this; their files keep the mode of the mount.

@@ -51,7 +51,7 @@ FileDescriptor openPart(const char *path) {
 /// Whether the part behind `fd` is the user's own and nobody locks it. Unlike lockPart() it says no
 /// where the file system has no locks.
 bool isAbandoned(int fd) {
-    struct stat status {};
+    struct stat status = {};
     return ::fstat(fd, &status) == 0 && status.st_uid == ::geteuid() &&
            (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)) &&
            ::flock(fd, LOCK_EX | LOCK_NB) == 0;
@@ -88,7 +88,7 @@ bool lockPart(int fd) {
 }
 
 bool isRemoved(int fd) {
-    struct stat status {};
+    struct stat status = {};
     return ::fstat(fd, &status) == 0 && status.st_nlink == 0;
 }
 

@@ -45,7 +45,7 @@ FileVersion versionOf(const QString &path, const struct stat &status) {
 }
 
 FileVersion versionOf(const QString &path, const FileDescriptor &descriptor) {
-    struct stat status {};
+    struct stat status = {};
     if (::fstat(descriptor.get(), &status) != 0) {
         failToRead();
     }
@@ -59,7 +59,7 @@ void throwFileChanged(const QString &path) {
 }
 
 FileVersion FileVersion::of(const QString &path) {
-    struct stat status {};
+    struct stat status = {};
     if (::stat(QFile::encodeName(path).constData(), &status) != 0) {
         failToOpen();
     }

@@ -156,8 +156,7 @@ void Notices::show(QWidget *window, const Notice &notice, Kind kind, Ended ended
     box->setWindowModality(kind == Kind::Sheet ? Qt::WindowModal : Qt::ApplicationModal);
     if (ended) {
         // Queued, so that this sheet closes before the next one opens.
-        connect(
-            box, &QDialog::finished, this, [ended] { ended(); }, Qt::QueuedConnection);
+        connect(box, &QDialog::finished, this, ended, Qt::QueuedConnection);
     }
     box->show();
 }

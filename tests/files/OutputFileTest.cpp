@@ -49,7 +49,7 @@ class OutputFileTest : public QObject {
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
     }
     static unsigned modeOf(const QString &path) {
-        struct stat status {};
+        struct stat status = {};
         ::stat(QFile::encodeName(path).constData(), &status);
         return status.st_mode & 0777U;
     }
@@ -250,9 +250,9 @@ class OutputFileTest : public QObject {
     }
 
     void aTemporaryFolderThatCannotBeOpenedLeavesNothing() {
-        struct rlimit before {};
+        struct rlimit before = {};
         QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
-        const struct rlimit none { 0, before.rlim_max };
+        const struct rlimit none = {0, before.rlim_max};
         TemporaryFolder folder(m_folder->path());
         QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
         const QString path = folder.path();
@@ -285,7 +285,7 @@ class OutputFileTest : public QObject {
             }
         });
         for (int i = 0; i < 20'000; ++i) {
-            { const PartFile part(path); }
+            static_cast<void>(PartFile(path));
             const int fd = ::open(path.c_str(), O_CREAT | O_WRONLY, 0600);
             QVERIFY(fd >= 0);
             ::close(fd);
