@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Times what the file list does with 100,000 entries: add, sort, scroll, remove.
 
 #include "filelist/EntryReader.h"

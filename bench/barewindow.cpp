@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The least window that Qt shows: what the toolkit itself takes to start.
 
 #include <QApplication>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // firstframe PROGRAM [ARGUMENT...]: starts the program and prints the milliseconds until it has
 // drawn into a window of its own on the X server of $DISPLAY, then ends it. The server tells of the
 // drawing (extension DAMAGE), so nothing is polled. Exit status 1 where nothing is drawn in 10 s.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Makes the inputs of the measurements in "$inputs", each set once; sourced by bench/run.
 # Everything is drawn from fixed seeds: the same inputs on every machine.
 

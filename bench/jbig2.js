@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // mutool run jbig2.js SCANS.pdf OUTPUT.pdf: every second Group 4 image as JBIG2. A JBIG2 region may
 // be coded by T.6 (ITU-T T.88, 6.2.6), which is Group 4, so its data goes over as it is.
 var doc = new PDFDocument(scriptArgs[0]);

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Times candidates side by side; sourced by bench/run.
 #
 # A comparison is a title, candidates (a name and a shell command that writes "$out" or into the

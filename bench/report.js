@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // mutool run report.js PHOTO.jpg OUTPUT.pdf PAGES: a report with one photo of its own on each page
 // (the same picture, made different by a comment), a link to the next page and a bookmark a page.
 var photo = readFile(scriptArgs[0]);

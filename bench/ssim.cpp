@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The mean structural similarity of two grey PGM images of one size, over windows of 8 x 8 pixels
 // at every fourth (Wang, Bovik, Sheikh and Simoncelli, 2004): 1 for equal ones.
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # The application bundle has one layout on every system, in the build tree and installed:
 # Folioforge.app/Contents/{MacOS, Resources, Info.plist}. On Linux it is installed under
 # lib/folioforge, with links to its programs in bin.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Warnings, sanitizers and the compiler cache, for every target of this tree.
 
 add_library(folioforge_compiler INTERFACE)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # The libraries the product stands on; docs/architecture.md says why each was taken.
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg Test)

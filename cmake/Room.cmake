@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # folioforge_room(NAME [WIDGETS] SOURCES ... LINKS ... PRIVATE_LINKS ... HEADERS ...): the static
 # library of one folder of src/, named folioforge_NAME. Headers are included as "room/Header.h", and each room's include
 # path holds that room alone, so a room sees only the rooms it links to: an arrow that points the

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # folioforge_tests(ROOM UNITS ... [SOURCES ...] LINKS ... [HEADERS ...] [APPLICATION CLASS]): the test
 # program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder and of SOURCES. CTest runs
 # it once for each unit, named ROOM.Unit. HEADERS are those outside the tree that take long and that

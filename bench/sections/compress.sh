@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # The compression pass beside Ghostscript's pdfwrite at the same resolutions.
 # A document of 50 photos at 300 per inch, one of 40 scanned pages, CCITT and JBIG2 by turns, and 10
 # photos, one of 40 pages of text with 10 pictures between.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # PDFs merged.
 make_set reports reports
 make_set book book

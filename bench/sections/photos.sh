@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # 200 photos in one PDF, plain, flushed and encrypted; 40 photos, a PDF each.
 make_set photos photos
 export photos="$inputs/photos"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # 100 PNG screenshots in one PDF.
 make_set screenshots screenshots
 make_set screenshots-opaque opaque_screenshots

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # 1,000 text files of 1 KB, a PDF each, in one call.
 make_set small-texts small_texts
 export notes="$inputs/small-texts"

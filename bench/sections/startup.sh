@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # How long the command line takes to say its version.
 printf '\n## Start-up\n\n'
 rm -f "$scratch/startup.csv"

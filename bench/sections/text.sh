@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # 100 MB of ASCII text in one PDF.
 make_set text text
 export text="$inputs/text"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # 40 TIFF scans in one PDF.
 make_set scans scans
 export scans="$inputs/scans"

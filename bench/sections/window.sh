@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # From the start of the program to its window on the screen, on an X server of its own: ours, a bare
 # window of the toolkit that it stands on, and the message box of the X11 tools.
 c++ -std=c++20 -O2 "$bench/firstframe.cpp" -o "$scratch/firstframe" -lxcb -lxcb-damage

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Draws the skins of the buttons: for each of the twelve, NAME.svg, NAME-hover.svg and
 // NAME-disable.svg. Labels become outlines, so that a skin looks the same whatever fonts a system
 // has; its size is the size of its button in points.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Compiled where the build finds no update framework; elsewhere SparkleUpdater.mm is.
 
 #include "app/Updater.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "cli/OptionValues.h"
 
 #include "text/TextDecoder.h"

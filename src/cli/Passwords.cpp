@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "cli/Arguments.h"
 #include "cli/OptionValues.h"
 #include "pdf/Password.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "compress/PropertyList.h"
 
 #include "error/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "mainwnd/MainWndCtrl.h"
 
 #include "filelist/EntryReader.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "pdf/StreamData.h"
 
 #include "image/Deflate.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "text/FontCatalog.h"
 
 #include <fontconfig/fontconfig.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "cli/Console.h"
 #include "cli/Report.h"
 #include "files/Printable.h"

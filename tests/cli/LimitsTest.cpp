@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "hostile/HostileImages.h"
 #include "hostile/HostilePdfs.h"
 #include "support/Files.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "support/Files.h"
 #include "support/HostileNames.h"
 #include "support/PdfProbe.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "CompressionCase.h"
 #include "support/CmykJpeg.h"
 #include "support/Files.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "CompressionCase.h"
 #include "error/Error.h"
 #include "support/FaultyCalls.h"

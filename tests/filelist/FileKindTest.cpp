@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "filelist/FileKind.h"
 #include "files/PathNames.h"
 #include "support/TestUnit.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Any command line, its arguments one a line: settings that are whole, or a sentence.
 
 #include "FuzzSupport.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The compression pass on a PDF of any bytes: a copy that is no larger and has the same pages, or a
 // reason and no file.
 

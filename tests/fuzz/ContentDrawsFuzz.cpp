@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Any bytes as the content of a page and of all that a page can draw with: every image is found
 // once and its size is a size.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The readers of one image format with any bytes: an image in order or a reason, and not a word
 // printed.
 

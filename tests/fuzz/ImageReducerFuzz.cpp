@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // One image stream with any bytes: it is reduced or left with a reason, and what is made is
 // smaller.
 

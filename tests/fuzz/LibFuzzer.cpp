@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Gives libFuzzer the one target of a program.
 
 #include "FuzzSupport.h"

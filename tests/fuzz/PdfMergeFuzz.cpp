@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // A PDF of any bytes: its pages are copied twice into a document that other readers need not
 // repair, or there is a reason.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // A filter file of any bytes, XML or binary: every value in its range, or a reason.
 
 #include "FuzzSupport.h"

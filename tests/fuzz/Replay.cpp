@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Runs a fuzz target over every file of folders, where there is no libFuzzer:
 //   fuzz_replay TARGET FOLDER...
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The string toolkit with any bytes: nothing crashes, and what converts survives the way back.
 
 #include "FuzzSupport.h"

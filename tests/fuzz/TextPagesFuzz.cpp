@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // A text of any bytes under any page setup that passes the checks: it is decoded strictly, and its
 // rows stand on pages in order.
 

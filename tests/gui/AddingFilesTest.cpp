@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "gui/TestWindow.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "gui/TableWindow.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/SkinTableView.h"

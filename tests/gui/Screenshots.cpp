@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Takes the pictures of the window that the documentation shows.
 //
 //   screenshots FOLDER SUFFIX EXAMPLE...   writes FOLDER/<picture>SUFFIX.png

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "skin/SkinButton.h"
 #include "support/TestUnit.h"
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "mainwnd/SkinTableView.h"
 #include "gui/TableWindow.h"
 #include "mainwnd/FilesArray.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "DecodedImage.h"
 #include "image/Bytes.h"
 #include "support/TestUnit.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "MergeCase.h"
 #include "error/Error.h"
 #include "pdf/PDFContext.h"

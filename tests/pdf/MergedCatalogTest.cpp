@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "pdf/PDFContext.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "LocaleCase.h"
 #include "strings/StringToolkit.h"
 #include "support/TestUnit.h"

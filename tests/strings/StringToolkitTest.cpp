@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "strings/StringToolkit.h"
 #include "LocaleCase.h"
 #include "support/TestUnit.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // The main function of every test program: test_ROOM UNIT [ARGUMENTS OF QT TEST].
 
 #include "support/TestUnit.h"

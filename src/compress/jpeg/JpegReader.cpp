@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "compress/jpeg/JpegReader.h"
 
 #include "compress/jpeg/JpegCodec.h"

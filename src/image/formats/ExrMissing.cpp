@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Stands in for Exr.cpp where the program is built without OpenEXR.
 
 #include "image/formats/Formats.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 // Stands in for OpenJpeg.cpp where the program is built without OpenJPEG.
 
 #include "error/Error.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "pdf/fonts/CharacterMap.h"
 
 #include "pdf/fonts/CodeTable.h"

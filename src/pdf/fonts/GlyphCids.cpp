@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: Apache-2.0
+
 #include "pdf/fonts/GlyphCids.h"
 
 #include "text/FontFace.h"
