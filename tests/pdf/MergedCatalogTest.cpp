@@ -152,13 +152,14 @@ class MergedCatalogTest : public QObject {
 
     void fieldsOfOneNameAreNumberedFromTwo() {
         const PdfFixture source = withForm({});
-        const auto document = merged({source, source, source});
+        const PdfFixture numbered = withForm({}).object(20, "<< /FT /Tx /T (name_2) >>");
+        const auto document = merged({source, source, source, numbered});
         QByteArrayList names;
         for (QPDFObjectHandle field :
              catalogEntry(*document, "/AcroForm", "/Fields").getArrayAsVector()) {
             names += QByteArray::fromStdString(field.getKey("/T").getUTF8Value());
         }
-        QCOMPARE(names.join(' '), "name name_2 name_3");
+        QCOMPARE(names.join(' '), "name name_2 name_3 name_2_2");
     }
 
     void resourcesOfOneNameAreNumberedFromTwo() {
