@@ -254,7 +254,7 @@ QVariant FilesArray::data(const QModelIndex &index, int role) const {
         return hasLook ? fontOf(*entry.state()) : QVariant();
     case Qt::ForegroundRole:
         return hasLook ? colorOf(*entry.state()) : QVariant();
-    case LinkRole:
+    case kLinkRole:
         return isLink(entry, index.column());
     default:
         return {};

@@ -22,7 +22,7 @@ class FilesArray : public QAbstractTableModel {
   public:
     enum Column { NumberColumn, NameColumn, SizeColumn, DestinationColumn, ColumnCount };
     /// Whether the cell is a link to a finished PDF: a bool.
-    static constexpr int LinkRole = Qt::UserRole;
+    static constexpr int kLinkRole = Qt::UserRole;
 
     explicit FilesArray(QObject *parent = nullptr);
 

@@ -209,7 +209,7 @@ void SkinTableView::mouseReleaseEvent(QMouseEvent *event) {
 
 void SkinTableView::mouseMoveEvent(QMouseEvent *event) {
     const QModelIndex cell = indexAt(event->position().toPoint());
-    if (cell.data(FilesArray::LinkRole).toBool()) {
+    if (cell.data(FilesArray::kLinkRole).toBool()) {
         viewport()->setCursor(Qt::PointingHandCursor);
     } else {
         viewport()->unsetCursor();

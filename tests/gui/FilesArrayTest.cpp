@@ -216,7 +216,7 @@ class FilesArrayTest : public QObject {
         QCOMPARE(cell(files, 0, FilesArray::DestinationColumn).toString(), u"Waiting..."_s);
         QVERIFY(!cell(files, 0, FilesArray::DestinationColumn, Qt::FontRole).isValid());
         QVERIFY(!cell(files, 0, FilesArray::DestinationColumn, Qt::ToolTipRole).isValid());
-        QVERIFY(!cell(files, 0, FilesArray::DestinationColumn, FilesArray::LinkRole).toBool());
+        QVERIFY(!cell(files, 0, FilesArray::DestinationColumn, FilesArray::kLinkRole).toBool());
     }
 
     void theSizeTellsThePagesThatAreKnown_data() {
@@ -251,8 +251,8 @@ class FilesArrayTest : public QObject {
         QVERIFY(cell(list.files, 1, column, Qt::FontRole).value<QFont>().underline());
         QCOMPARE(cell(list.files, 1, column, Qt::ForegroundRole).value<QColor>(), QColor(Qt::blue));
         QCOMPARE(cell(list.files, 1, column, Qt::ToolTipRole).toString(), u"/out/report.pdf"_s);
-        QVERIFY(cell(list.files, 1, column, FilesArray::LinkRole).toBool());
-        QVERIFY(!cell(list.files, 1, FilesArray::NameColumn, FilesArray::LinkRole).toBool());
+        QVERIFY(cell(list.files, 1, column, FilesArray::kLinkRole).toBool());
+        QVERIFY(!cell(list.files, 1, FilesArray::NameColumn, FilesArray::kLinkRole).toBool());
     }
 
     void oneStateForAllIsAnnouncedOnce() {
