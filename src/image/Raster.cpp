@@ -135,21 +135,21 @@ QByteArray packedAlpha(const AlphaPlane &alpha, int width, int height) {
 }
 
 template<typename Sample> void divideByAlpha(Raster &raster) {
-    constexpr quint32 full = std::numeric_limits<Sample>::max();
+    constexpr quint32 kFull = std::numeric_limits<Sample>::max();
     const int channels = channelCount(raster.color);
     auto *color = reinterpret_cast<uchar *>(raster.samples.data());
     const auto *alpha = reinterpret_cast<const uchar *>(raster.alpha->samples.constData());
     const qint64 pixels = qint64(raster.width) * raster.height;
     for (qint64 i = 0; i < pixels; ++i) {
         const quint32 opacity = qFromBigEndian<Sample>(alpha + i * qint64(sizeof(Sample)));
-        if (opacity == 0 || opacity == full) {
+        if (opacity == 0 || opacity == kFull) {
             continue;
         }
         uchar *pixel = color + i * channels * qint64(sizeof(Sample));
         for (int c = 0; c < channels; ++c) {
             uchar *sample = pixel + c * qint64(sizeof(Sample));
             const quint32 value = qFromBigEndian<Sample>(sample);
-            const quint32 straight = std::min((value * full + opacity / 2) / opacity, full);
+            const quint32 straight = std::min((value * kFull + opacity / 2) / opacity, kFull);
             qToBigEndian<Sample>(static_cast<Sample>(straight), sample);
         }
     }

@@ -17,7 +17,7 @@ namespace folioforge {
 
 namespace {
 
-enum RowFilter : uchar { None, Sub, Up, Average, Paeth, kFilterCount };
+enum RowFilter : uchar { None, Sub, Up, Average, Paeth, FilterCount };
 
 uchar paethPredictor(int left, int up, int upLeft) {
     const int toLeft = std::abs(up - upLeft);

@@ -119,12 +119,12 @@ class RunReader {
             const int value = next();
             if (count > 0) {
                 draw(count, [&](int i) { return numberIn(value, i); });
-            } else if (value > kJump) {
+            } else if (value > Jump) {
                 drawAsTheyAre(value);
-            } else if (value == kJump) {
+            } else if (value == Jump) {
                 m_x += next();
                 m_y += next();
-            } else if (value == kEndOfRow) {
+            } else if (value == EndOfRow) {
                 m_x = 0;
                 ++m_y;
             } else {
@@ -134,7 +134,7 @@ class RunReader {
     }
 
   private:
-    enum Sign { kEndOfRow = 0, kJump = 2 };
+    enum Sign { EndOfRow = 0, Jump = 2 };
 
     /// The next byte; 0 behind the end.
     int next() { return m_at < m_bytes.size() ? static_cast<uchar>(m_bytes[m_at++]) : 0; }

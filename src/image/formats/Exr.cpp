@@ -64,7 +64,7 @@ template<typename Work> auto reading(const Work &work) {
 }
 
 ImageHeader headerOf(const Imf::Header &exr) {
-    const Imath::Box2i window = exr.dataWindow();
+    const Imath::Box2i &window = exr.dataWindow();
     ImageHeader header;
     const auto extent = [](int first, int last) {
         return static_cast<int>(std::min<qint64>(qint64(last) - first + 1, 0x7FFFFFFF));

@@ -116,9 +116,10 @@ OpenJpegPicture::OpenJpegPicture(OpenJpegPicture &&) noexcept = default;
 OpenJpegPicture &OpenJpegPicture::operator=(OpenJpegPicture &&) noexcept = default;
 OpenJpegPicture::~OpenJpegPicture() = default;
 
-std::optional<OpenJpegPicture> OpenJpegPicture::open(Jpeg2000Source source, bool isCodestream) {
+std::optional<OpenJpegPicture> OpenJpegPicture::open(const Jpeg2000Source &source,
+                                                     bool isCodestream) {
     auto library = std::make_unique<Library>();
-    library->position.source = std::move(source);
+    library->position.source = source;
     library->stream = streamOver(library->position);
     library->codec = codecFor(isCodestream);
     opj_image_t *image = nullptr;

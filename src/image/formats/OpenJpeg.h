@@ -37,7 +37,7 @@ class OpenJpegPicture {
   public:
     /// Reads the header of a bare codestream or of a file of boxes around one. Nothing where it is
     /// damaged. Throws Error where the program was built without OpenJPEG.
-    static std::optional<OpenJpegPicture> open(Jpeg2000Source source, bool isCodestream);
+    static std::optional<OpenJpegPicture> open(const Jpeg2000Source &source, bool isCodestream);
 
     OpenJpegPicture(OpenJpegPicture &&) noexcept;
     OpenJpegPicture &operator=(OpenJpegPicture &&) noexcept;

@@ -17,7 +17,7 @@ OpenJpegPicture::OpenJpegPicture(OpenJpegPicture &&) noexcept = default;
 OpenJpegPicture &OpenJpegPicture::operator=(OpenJpegPicture &&) noexcept = default;
 OpenJpegPicture::~OpenJpegPicture() = default;
 
-std::optional<OpenJpegPicture> OpenJpegPicture::open(Jpeg2000Source /*source*/,
+std::optional<OpenJpegPicture> OpenJpegPicture::open(const Jpeg2000Source & /*source*/,
                                                      bool /*isCodestream*/) {
     throw Error(u"This program was built without the means to decode JPEG 2000"_s);
 }

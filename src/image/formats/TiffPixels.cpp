@@ -206,7 +206,7 @@ QByteArray paletteOf(const TiffFile &tiff, int bits) {
     if (TIFFGetField(tiff.handle(), TIFFTAG_COLORMAP, &maps[0], &maps[1], &maps[2]) != 1) {
         throw Error(u"The TIFF file has no palette"_s);
     }
-    const int colors = 1 << bits;
+    const int colors = 1 << std::min(bits, 8);
     // Some writers put 8-bit colours where 16-bit ones belong.
     const bool wide = std::ranges::any_of(maps, [&](const uint16_t *map) {
         return std::any_of(map, map + colors, [](uint16_t value) { return value > 0xFF; });
