@@ -1,13 +1,17 @@
 # SPDX-License-Identifier: Apache-2.0
-# folioforge_room(NAME [WIDGETS] SOURCES ... LINKS ... PRIVATE_LINKS ... HEADERS ...): the static
-# library of one folder of src/, named folioforge_NAME. Headers are included as "room/Header.h", and each room's include
-# path holds that room alone, so a room sees only the rooms it links to: an arrow that points the
-# wrong way does not compile. WIDGETS marks a room of the window: it links Qt Widgets and runs moc
-# and uic. HEADERS are those outside the tree that take long and are included by many: for the sanitizers,
-# they are compiled once for the room. In the other builds a file that lacks an include fails.
+# folioforge_room(NAME [WIDGETS] SOURCES ... LINKS ... PRIVATE_LINKS ... [HEADERS ... | HEADERS_OF ROOM]):
+# the static library of one folder of src/, named folioforge_NAME. Headers are included as
+# "room/Header.h", and each room's include path holds that room alone, so a room sees only the rooms it
+# links to: an arrow that points the wrong way does not compile. WIDGETS marks a room of the window: it
+# links Qt Widgets and runs moc and uic. HEADERS are those outside the tree that take long and are
+# included by many: for the sanitizers they are compiled ahead, and a room named HEADERS_OF (files) lends
+# what it compiled. In the other builds a file that lacks an include fails.
 function(folioforge_room name)
-    cmake_parse_arguments(ROOM "WIDGETS" "" "SOURCES;LINKS;PRIVATE_LINKS;HEADERS" ${ARGN})
+    cmake_parse_arguments(ROOM "WIDGETS" "HEADERS_OF" "SOURCES;LINKS;PRIVATE_LINKS;HEADERS" ${ARGN})
     set(target folioforge_${name})
+    if(NOT ROOM_HEADERS_OF)
+        set(ROOM_HEADERS_OF files)
+    endif()
 
     set(view "${CMAKE_BINARY_DIR}/rooms/${name}")
     file(MAKE_DIRECTORY "${view}")
@@ -18,15 +22,19 @@ function(folioforge_room name)
         if(ROOM_WIDGETS)
             set_target_properties(${target} PROPERTIES AUTOMOC ON AUTOUIC ON)
             target_link_libraries(${target} PUBLIC Qt6::Widgets)
-            list(APPEND ROOM_HEADERS <QApplication> <QWidget>)
         endif()
         target_include_directories(${target} PUBLIC "${view}")
         target_link_libraries(${target}
             PUBLIC ${ROOM_LINKS} Qt6::Core
             PRIVATE ${ROOM_PRIVATE_LINKS} folioforge_compiler)
         if(FOLIOFORGE_SANITIZE AND NOT FOLIOFORGE_FUZZ)
-            target_precompile_headers(${target} PRIVATE
-                <QFile> <QString> <algorithm> <memory> <string> <vector> ${ROOM_HEADERS})
+            # Some libraries ask for it; what is compiled ahead has to have the options of all.
+            target_compile_options(${target} PRIVATE -pthread)
+            if(ROOM_HEADERS)
+                target_precompile_headers(${target} PRIVATE ${ROOM_HEADERS})
+            else()
+                target_precompile_headers(${target} REUSE_FROM folioforge_${ROOM_HEADERS_OF})
+            endif()
         endif()
     else()
         add_library(${target} INTERFACE)

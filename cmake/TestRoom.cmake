@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: Apache-2.0
 # folioforge_tests(ROOM UNITS ... [SOURCES ...] LINKS ... [HEADERS ...] [APPLICATION CLASS]): the test
 # program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder and of SOURCES. CTest runs
-# it once for each unit, named ROOM.Unit. HEADERS are those outside the tree that take long and that
-# many of the tests include. CLASS is that of the application object, else QCoreApplication.
+# it once for each unit, named ROOM.Unit. HEADERS are compiled ahead, instead of those of
+# folioforge_test_support. CLASS is that of the application object, else QCoreApplication.
 function(folioforge_tests room)
     cmake_parse_arguments(TESTS "" "APPLICATION" "UNITS;SOURCES;LINKS;HEADERS" ${ARGN})
     if(NOT TESTS_APPLICATION)
@@ -15,9 +15,11 @@ function(folioforge_tests room)
         ${TESTS_LINKS} folioforge_test_support Qt6::Test folioforge_compiler)
     set_source_files_properties("${PROJECT_SOURCE_DIR}/tests/support/TestMain.cpp" PROPERTIES
         COMPILE_DEFINITIONS FOLIOFORGE_TEST_APPLICATION=${TESTS_APPLICATION})
-    target_precompile_headers(${target} PRIVATE
-        <QDir> <QFile> <QFileInfo> <QTemporaryDir> <QTest> <algorithm> <string> <vector>
-        ${TESTS_HEADERS})
+    if(TESTS_HEADERS)
+        target_precompile_headers(${target} PRIVATE ${TESTS_HEADERS})
+    else()
+        target_precompile_headers(${target} REUSE_FROM folioforge_test_support)
+    endif()
     foreach(unit IN LISTS TESTS_UNITS)
         # One moc run each: AUTOMOC reads every file again and compiles one more.
         set(moc "${CMAKE_CURRENT_BINARY_DIR}/${unit}Test.moc")
