@@ -71,7 +71,6 @@ std::shared_ptr<ReducedStreams> ReducedStreams::install(std::vector<PlannedImage
                                             dictionary.getKey("/DecodeParms"));
         image.plan.stream.setFilterOnWrite(false);
     }
-    streams->workAhead(0);
     return streams;
 }
 

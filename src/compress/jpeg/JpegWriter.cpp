@@ -4,7 +4,12 @@
 
 #include "compress/jpeg/JpegCodec.h"
 
-#include <cstdlib>
+#include <array>
+#include <new>
+#include <string>
+#include <utility>
+
+#include <jerror.h>
 
 namespace folioforge {
 
@@ -14,6 +19,52 @@ J_COLOR_SPACE spaceOf(const PlanarImage &image) {
     return image.components() == 1 ? JCS_GRAYSCALE : image.components() == 3 ? JCS_YCbCr : JCS_YCCK;
 }
 
+/// Collects what libjpeg writes. The library's own memory destination forgets which of its buffers
+/// is alive when memory ends while it grows.
+class Destination : public jpeg_destination_mgr {
+  public:
+    Destination()
+        : jpeg_destination_mgr{} {
+        init_destination = [](j_compress_ptr codec) { of(codec).begin(); };
+        empty_output_buffer = [](j_compress_ptr codec) -> boolean {
+            of(codec).keep(codec, of(codec).m_block.size());
+            of(codec).begin();
+            return TRUE;
+        };
+        term_destination = [](j_compress_ptr codec) {
+            of(codec).keep(codec, of(codec).m_block.size() - of(codec).free_in_buffer);
+        };
+    }
+
+    std::string take() { return std::move(m_bytes); }
+
+  private:
+    static Destination &of(j_compress_ptr codec) {
+        return static_cast<Destination &>(*codec->dest);
+    }
+
+    void begin() {
+        next_output_byte = m_block.data();
+        free_in_buffer = m_block.size();
+    }
+
+    /// No exception may pass through the library.
+    void keep(j_compress_ptr codec, std::size_t count) {
+        bool isKept = true;
+        try {
+            m_bytes.append(reinterpret_cast<const char *>(m_block.data()), count);
+        } catch (const std::bad_alloc &) {
+            isKept = false;
+        }
+        if (!isKept) {
+            ERREXIT1(codec, JERR_OUT_OF_MEMORY, 0);
+        }
+    }
+
+    std::array<JOCTET, 1 << 14> m_block = {};
+    std::string m_bytes;
+};
+
 /// Encodes one picture.
 class Encoder {
   public:
@@ -21,10 +72,7 @@ class Encoder {
         m_codec.err = install(m_escape);
         jpeg_create_compress(&m_codec);
     }
-    ~Encoder() {
-        jpeg_destroy_compress(&m_codec);
-        std::free(m_bytes);
-    }
+    ~Encoder() { jpeg_destroy_compress(&m_codec); }
     Encoder(const Encoder &) = delete;
     Encoder &operator=(const Encoder &) = delete;
 
@@ -36,7 +84,7 @@ class Encoder {
         if (!writeBands(image)) {
             throw damagedJpeg(m_escape);
         }
-        return {reinterpret_cast<const char *>(m_bytes), m_size};
+        return m_destination.take();
     }
 
   private:
@@ -44,7 +92,7 @@ class Encoder {
         if (setjmp(m_escape.target)) {
             return false;
         }
-        jpeg_mem_dest(&m_codec, &m_bytes, &m_size);
+        m_codec.dest = &m_destination;
         m_codec.image_width = static_cast<JDIMENSION>(image.width);
         m_codec.image_height = static_cast<JDIMENSION>(image.height);
         m_codec.input_components = image.components();
@@ -81,8 +129,7 @@ class Encoder {
     jpeg_compress_struct m_codec = {};
     JpegEscape m_escape = {};
     Bands m_bands;
-    unsigned char *m_bytes = nullptr;
-    unsigned long m_size = 0;
+    Destination m_destination;
 };
 
 } // namespace
