@@ -4,8 +4,8 @@
 # "room/Header.h", and each room's include path holds that room alone, so a room sees only the rooms it
 # links to: an arrow that points the wrong way does not compile. WIDGETS marks a room of the window: it
 # links Qt Widgets and runs moc and uic. HEADERS are those outside the tree that take long and are
-# included by many: for the sanitizers they are compiled ahead, and a room named HEADERS_OF (files) lends
-# what it compiled. In the other builds a file that lacks an include fails.
+# included by many: where tests are built they are compiled ahead, and a room named HEADERS_OF (files)
+# lends what it compiled. In a release and for scripts/lint a file that lacks an include fails.
 function(folioforge_room name)
     cmake_parse_arguments(ROOM "WIDGETS" "HEADERS_OF" "SOURCES;LINKS;PRIVATE_LINKS;HEADERS" ${ARGN})
     set(target folioforge_${name})
@@ -27,7 +27,7 @@ function(folioforge_room name)
         target_link_libraries(${target}
             PUBLIC ${ROOM_LINKS} Qt6::Core
             PRIVATE ${ROOM_PRIVATE_LINKS} folioforge_compiler)
-        if(FOLIOFORGE_SANITIZE AND NOT FOLIOFORGE_FUZZ)
+        if(FOLIOFORGE_TESTS AND NOT FOLIOFORGE_FUZZ)
             # Some libraries ask for it; what is compiled ahead has to have the options of all.
             target_compile_options(${target} PRIVATE -pthread)
             if(ROOM_HEADERS)

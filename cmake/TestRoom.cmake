@@ -1,10 +1,11 @@
 # SPDX-License-Identifier: Apache-2.0
-# folioforge_tests(ROOM UNITS ... [SOURCES ...] LINKS ... [HEADERS ...] [APPLICATION CLASS]): the test
-# program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder and of SOURCES. CTest runs
+# folioforge_tests(ROOM UNITS ... [SOURCES ...] LINKS ... [HEADERS ...] [APPLICATION CLASS]
+# [LONG ...]): the test program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder and of SOURCES. CTest runs
 # it once for each unit, named ROOM.Unit. HEADERS are compiled ahead, instead of those of
-# folioforge_test_support. CLASS is that of the application object, else QCoreApplication.
+# folioforge_test_support. CLASS is that of the application object, else QCoreApplication. The units that
+# take longest are named LONG: CTest begins with them.
 function(folioforge_tests room)
-    cmake_parse_arguments(TESTS "" "APPLICATION" "UNITS;SOURCES;LINKS;HEADERS" ${ARGN})
+    cmake_parse_arguments(TESTS "" "APPLICATION" "UNITS;LONG;SOURCES;LINKS;HEADERS" ${ARGN})
     if(NOT TESTS_APPLICATION)
         set(TESTS_APPLICATION QCoreApplication)
     endif()
@@ -29,5 +30,8 @@ function(folioforge_tests room)
         set_tests_properties(${room}.${unit} PROPERTIES
             TIMEOUT 300
             ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    endforeach()
+    foreach(unit IN LISTS TESTS_LONG)
+        set_tests_properties(${room}.${unit} PROPERTIES COST 10)
     endforeach()
 endfunction()
