@@ -117,6 +117,7 @@ const std::vector<Option> &reportOptions() {
          }},
         {"--json", Option::Switch, [](Arguments &to, Value) { to.json = true; }},
         {"--quiet", Option::Switch, [](Arguments &to, Value) { to.quiet = true; }},
+        {"--strict", Option::Switch, [](Arguments &to, Value) { to.strict = true; }},
         {"--version", Option::Switch,
          [](Arguments &to, Value) { to.request = Request::ShowVersion; }},
         {"--help", Option::Switch, [](Arguments &to, Value) { to.request = Request::ShowHelp; }},

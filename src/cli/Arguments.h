@@ -31,6 +31,7 @@ struct Arguments {
     ProgressMode progress = ProgressMode::Auto;
     bool json = false;
     bool quiet = false;
+    bool strict = false; ///< A warning counts as a failure.
     std::vector<QByteArray> inputs; ///< Paths in the system's own bytes.
 };
 

@@ -40,13 +40,14 @@ Report
   --progress auto|always|never     a progress line on standard error (default auto: on a
                                    terminal)
   --json                           one object a line on standard output for each input
-  --quiet                          nothing but errors
+  --quiet                          nothing but errors and warnings
+  --strict                         a warning counts as a failure: exit status 1
   --version  --help
 
 "--" ends the options: what follows is a file even where it starts with "-".
 
-Exit status: 0 all converted; 1 some inputs failed or were rejected, the rest converted;
-2 wrong arguments or settings, nothing written.
+Exit status: 0 all converted; 1 some inputs failed or were rejected, the rest converted, or
+with --strict, a warning was given; 2 wrong arguments or settings, nothing written.
 )";
 }
 

@@ -46,6 +46,14 @@ void addTo(QJsonObject &object, const CompressionOutcome &compression) {
     object.insert(u"imagesLeft"_s, left);
 }
 
+QJsonArray toJson(const Warnings &warnings) {
+    QJsonArray array;
+    for (const Warning &warning : warnings) {
+        array.append(QJsonObject{{u"code"_s, warning.name()}, {u"text"_s, warning.text}});
+    }
+    return array;
+}
+
 QByteArray escapedUnits(const QString &text) {
     QByteArray result;
     for (const QChar unit : text) {
@@ -94,7 +102,7 @@ InputResult InputResult::rejected(const QString &input, const QString &reason) {
     InputResult rejected;
     rejected.input = input;
     rejected.state = State::Rejected;
-    rejected.message = reason;
+    rejected.reason = reason;
     return rejected;
 }
 
@@ -103,7 +111,8 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
     const CloseResult &close = result.outcome.close;
     InputResult own;
     own.input = input;
-    own.message = entry.message;
+    own.reason = entry.reason;
+    own.warnings = entry.warnings;
     if (entry.written && close.status == CloseResult::Status::Written) {
         own.output = close.path;
         own.pages = entry.pages;
@@ -113,7 +122,7 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
     }
     own.state = State::Failed;
     if (entry.written) {
-        own.message += (entry.message.isEmpty() ? QString() : u". "_s) + reasonOf(close);
+        own.reason = reasonOf(close);
     }
     return own;
 }
@@ -124,9 +133,10 @@ QByteArray toJson(const InputResult &result) {
         {u"output"_s, result.output.isEmpty() ? QJsonValue() : QJsonValue(result.output)},
         {u"pages"_s, result.pages},
         {u"state"_s, nameOf(result.state)}};
-    if (!result.message.isEmpty()) {
-        object.insert(u"message"_s, result.message);
+    if (!result.reason.isEmpty()) {
+        object.insert(u"message"_s, result.reason);
     }
+    object.insert(u"warnings"_s, toJson(result.warnings));
     if (result.embedded) {
         object.insert(u"embedded"_s, nameOf(*result.embedded));
     }
@@ -152,12 +162,15 @@ QString toWords(const CompressionOutcome &compression) {
     return words;
 }
 
-QString toMessage(const InputResult &result) {
-    if (result.message.isEmpty()) {
-        return {};
+QStringList toMessages(const InputResult &result) {
+    QStringList messages;
+    if (!result.reason.isEmpty()) {
+        messages += result.input + u": "_s + result.reason;
     }
-    const bool warning = result.state == InputResult::State::Finished;
-    return result.input + (warning ? u": warning: "_s : u": "_s) + result.message;
+    for (const Warning &warning : result.warnings) {
+        messages += result.input + u": warning: "_s + warning.text;
+    }
+    return messages;
 }
 
 } // namespace folioforge

@@ -3,10 +3,12 @@
 #pragma once
 
 #include "convert/Run.h"
+#include "error/Warning.h"
 #include "image/PdfImage.h"
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -23,7 +25,8 @@ struct InputResult {
     QString output; ///< Path of its PDF; empty where there is none.
     int pages = 0;
     State state = State::Finished;
-    QString message; ///< The reason of a failure, or a warning.
+    QString reason;    ///< Why it failed or was rejected.
+    Warnings warnings; ///< What was lost of it though it was written.
     std::optional<EmbeddedAs> embedded;
     std::optional<CompressionOutcome> compression; ///< What the compression pass did to its PDF.
 
@@ -39,7 +42,7 @@ QByteArray toJson(const InputResult &result);
 /// What a compression pass saved, in words: bytes, images reduced, images left and why.
 QString toWords(const CompressionOutcome &compression);
 
-/// The message on standard error for a failure or a warning; empty when there is nothing to say.
-QString toMessage(const InputResult &result);
+/// What standard error says of an input: why it failed and each warning, one a line.
+QStringList toMessages(const InputResult &result);
 
 } // namespace folioforge

@@ -109,10 +109,11 @@ class Call : private RunObserver {
     }
 
     void report(const InputResult &result) {
-        if (result.state != InputResult::State::Finished) {
+        if (result.state != InputResult::State::Finished ||
+            (m_arguments.strict && !result.warnings.empty())) {
             fail();
         }
-        if (const QString message = toMessage(result); !message.isEmpty()) {
+        for (const QString &message : toMessages(result)) {
             m_console.complain(message);
         }
         if (m_arguments.json) {

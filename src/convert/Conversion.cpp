@@ -37,17 +37,18 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
               const std::stop_token &stop, EntryOutcome &outcome) {
     switch (fileKind(entry.filePathName())) {
     case FileKind::Text:
-        outcome.message = addTextPage(entry, context, options, stop);
+        outcome.warnings = addTextPage(entry, context, options, stop);
         break;
     case FileKind::Pdf:
-        if (addPDFFile(entry, context) == 0) {
-            outcome.message = u"The document has no pages"_s;
-        }
+        outcome.warnings = addPDFFile(entry, context).warnings;
         break;
     case FileKind::Image:
-    case FileKind::Other:
-        outcome.embeddedAs = addImagePage(entry, context, options.imagePage, options.calls);
+    case FileKind::Other: {
+        WrittenImage image = addImagePage(entry, context, options.imagePage, options.calls);
+        outcome.embeddedAs = image.embeddedAs;
+        outcome.warnings = std::move(image.warnings);
         break;
+    }
     }
     // A failure that shows only now is this entry's too.
     context.waitForPages();
@@ -62,14 +63,15 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
     outcome.written = failure.isEmpty();
     if (!outcome.written) {
         context.truncatePages(pagesBefore);
-        outcome.message = failure;
+        outcome.warnings.clear();
+        outcome.reason = failure;
     }
     outcome.pages = context.pageCount() - pagesBefore;
     return outcome;
 }
 
 CloseResult notWritten(const QString &reason) {
-    return {CloseResult::Status::Failed, {}, reason};
+    return {CloseResult::Status::Failed, {}, reason, {}};
 }
 
 CloseResult closeContext(PDFContext &context, const QString &fileName,

@@ -6,6 +6,7 @@
 #include "convert/Checks.h"
 #include "convert/ConversionOptions.h"
 #include "convert/OutputName.h"
+#include "error/Warning.h"
 #include "filelist/PDFFileInfo.h"
 #include "image/PdfImage.h"
 
@@ -39,7 +40,8 @@ class ConversionObserver {
 struct EntryOutcome {
     bool written = false;
     int pages = 0;
-    QString message;                      ///< The reason when it was not written, or a warning.
+    QString reason;                       ///< Why it was not written.
+    Warnings warnings;                    ///< What of it was lost though it was written.
     std::optional<EmbeddedAs> embeddedAs; ///< How an image was embedded; nothing for others.
 };
 

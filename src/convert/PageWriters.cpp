@@ -42,29 +42,29 @@ class ContextSink : public TextPageSink {
 
 } // namespace
 
-QString addTextPage(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
-                    const std::stop_token &stop) {
-    const SourceText source = entry.sourceText(options.calls);
+Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
+                     const ConversionOptions &options, const std::stop_token &stop) {
+    SourceText source = entry.sourceText(options.calls);
     const QSizeF pageSize = getTextPageSize(options.textPage);
     const auto font = options.textFont ? options.textFont : textFont();
     ContextSink sink(context, font, pageSize, stop);
     layOutText(source.text, pageSize, options.textPage.margins, *font, sink);
-    return source.problem;
+    return std::move(source.warnings);
 }
 
-EmbeddedAs addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup,
-                        SystemCalls &calls) {
+WrittenImage addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup,
+                          SystemCalls &calls) {
     PdfImage image = toPdfImage(entry.filePathName(), calls);
-    const EmbeddedAs embeddedAs = image.embeddedAs;
+    WrittenImage written{image.embeddedAs, std::move(image.warnings)};
     const ImagePlacement placement = placeImage(image.header.sizeInPoints(), setup);
     context.beginPage(QRectF(QPointF(0, 0), placement.page));
     const int orientation = image.header.orientation;
     context.drawImage(placement.image, std::move(image), orientation);
     context.endPage();
-    return embeddedAs;
+    return written;
 }
 
-int addPDFFile(const PDFFileInfo &entry, PDFContext &context) {
+AddedDocument addPDFFile(const PDFFileInfo &entry, PDFContext &context) {
     return context.addDocument(entry.filePathName());
 }
 

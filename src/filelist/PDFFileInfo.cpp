@@ -70,7 +70,7 @@ void PDFFileInfo::readSource(TextReading texts) {
     m_textIsHeld = false;
     m_srcImage.reset();
     m_readError.clear();
-    m_readWarning.clear();
+    m_readWarnings.clear();
     switch (fileKind(m_filePathName)) {
     case FileKind::Text:
         m_textIsHeld = texts == TextReading::WhenListed;
@@ -90,7 +90,7 @@ void PDFFileInfo::readText() {
         if (m_textIsHeld) {
             SourceText source = readTextFile(m_filePathName);
             m_fileString = std::move(source.text);
-            m_readWarning = std::move(source.problem);
+            m_readWarnings = std::move(source.warnings);
         } else {
             requireReadableText(m_filePathName);
         }
@@ -100,8 +100,14 @@ void PDFFileInfo::readText() {
 }
 
 SourceText PDFFileInfo::sourceText(SystemCalls &calls) const {
-    return m_textIsHeld ? SourceText{m_fileString, m_readError + m_readWarning}
-                        : readTextFile(m_filePathName, calls);
+    if (!m_textIsHeld) {
+        return readTextFile(m_filePathName, calls);
+    }
+    SourceText source{m_fileString, m_readWarnings};
+    if (!m_readError.isEmpty()) {
+        source.warnings.push_back({WarningCode::TextUnreadable, m_readError});
+    }
+    return source;
 }
 
 void PDFFileInfo::readImage() {

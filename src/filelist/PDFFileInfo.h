@@ -67,8 +67,8 @@ class PDFFileInfo {
     [[nodiscard]] SourceText sourceText(SystemCalls &calls = SystemCalls::system()) const;
     /// Why the source could not be read when it was listed; empty when it could.
     [[nodiscard]] const QString &readError() const { return m_readError; }
-    /// The warning for a text that is not valid UTF-8, which gives a blank page; else empty.
-    [[nodiscard]] const QString &readWarning() const { return m_readWarning; }
+    /// What was lost when the source was listed: a text that is not valid UTF-8 gives a blank page.
+    [[nodiscard]] const Warnings &readWarnings() const { return m_readWarnings; }
 
     void setPageCount(int count) { m_pageCount = count; }
     void setFileSize(const QString &text) { m_fileSize = text; }
@@ -115,7 +115,7 @@ class PDFFileInfo {
     QString m_fileString;
     bool m_textIsHeld = false; ///< m_fileString is what the file held when it was listed.
     QString m_readError;
-    QString m_readWarning;
+    Warnings m_readWarnings;
 };
 
 } // namespace folioforge

@@ -31,7 +31,9 @@ SourceText readWholeText(const QString &path, SystemCalls &calls) {
     requireTextSize(file.version());
     QString text = decodeText(file.readAll());
     if (text.isNull()) {
-        return {{}, u"The text is not valid UTF-8; its page is left blank"_s};
+        return {
+            {},
+            {{WarningCode::TextNotUtf8, u"The text is not valid UTF-8; its page is left blank"_s}}};
     }
     return {std::move(text), {}};
 }

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "error/Warning.h"
 #include "files/SystemCalls.h"
 
 #include <QString>
@@ -10,8 +11,8 @@ namespace folioforge {
 
 /// The text of a text file.
 struct SourceText {
-    QString text;    ///< A null string when the file could not be read as UTF-8.
-    QString problem; ///< What was lost in reading; empty for nothing.
+    QString text;      ///< A null string when the file could not be read as UTF-8.
+    Warnings warnings; ///< What was lost in reading.
 };
 
 /// Throws Error unless the file at `path` can be read as a text: a regular file of up to 2 GB that
@@ -19,7 +20,7 @@ struct SourceText {
 void requireReadableText(const QString &path);
 
 /// The text of the file at `path`, read as UTF-8 through `calls`; a byte order mark is not part of
-/// it. Bytes that are not valid UTF-8 give no text and a problem. Throws Error when the file cannot
+/// it. Bytes that are not valid UTF-8 give no text and a warning. Throws Error when the file cannot
 /// be read or memory has no room for it.
 SourceText readTextFile(const QString &path, SystemCalls &calls = SystemCalls::system());
 

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "error/Warning.h"
 #include "files/SourceFile.h"
 #include "image/ImageHeader.h"
 
@@ -54,6 +55,8 @@ struct PdfImage {
     std::vector<FileSlice> slices;
     /// The file of the slices, still open; null where there are none.
     std::shared_ptr<const SourceFile> source;
+
+    Warnings warnings; ///< What of the file is not in the picture.
 
     /// Opacity of each pixel as a grey image; none for an opaque image.
     std::unique_ptr<PdfImage> softMask;

@@ -77,7 +77,7 @@ class PDFContext::Impl {
 
     void endPage();
     void drawImage(const QRectF &rect, const PdfImage &image, int orientation);
-    int addDocument(const QString &sourcePath);
+    AddedDocument addDocument(const QString &sourcePath);
     CloseResult close(const std::function<QString()> &nextPath);
     void waitForPages() { m_streams.waitForPages(); }
     void truncatePages(int count) { m_catalog.truncatePages(count); }
@@ -215,7 +215,7 @@ void PDFContext::Impl::drawImage(const QRectF &rect, const PdfImage &image, int 
     page.content += "cm " + name + " Do Q\n";
 }
 
-int PDFContext::Impl::addDocument(const QString &sourcePath) {
+AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
     return translateQpdfErrors([&] {
         m_reader->beginAnew(); // A source that failed may have left its file open.
         const FileVersion file = FileVersion::of(sourcePath);
@@ -230,7 +230,7 @@ int PDFContext::Impl::addDocument(const QString &sourcePath) {
         m_longestStream =
             std::max(m_longestStream, std::min<qsizetype>(imported.longestStream, file.size));
         m_sourceStreams[key] = std::move(streams);
-        return static_cast<int>(imported.pages.size());
+        return AddedDocument{static_cast<int>(imported.pages.size()), imported.warnings};
     });
 }
 
@@ -250,14 +250,14 @@ CloseResult PDFContext::Impl::publish(OutputFile &file, const std::function<QStr
     QString path = m_path;
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         if (file.publish(path, m_settings.flush) == OutputFile::Published::Yes) {
-            return {CloseResult::Status::Written, path, {}};
+            return {CloseResult::Status::Written, path, {}, {}};
         }
         if (!nextPath) {
             break;
         }
         path = nextPath();
     }
-    return {CloseResult::Status::NameTaken, path, {}};
+    return {CloseResult::Status::NameTaken, path, {}, {}};
 }
 
 CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
@@ -274,7 +274,7 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         file.finish(m_settings.flush);
         return publish(file, nextPath);
     } catch (const Error &error) {
-        return {CloseResult::Status::Failed, m_path, error.reason()};
+        return {CloseResult::Status::Failed, m_path, error.reason(), {}};
     }
 }
 
@@ -310,7 +310,7 @@ void PDFContext::endPage() {
     translateQpdfErrors([&] { m_impl->endPage(); });
 }
 
-int PDFContext::addDocument(const QString &sourcePath) {
+AddedDocument PDFContext::addDocument(const QString &sourcePath) {
     return m_impl->addDocument(sourcePath);
 }
 

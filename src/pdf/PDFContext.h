@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "error/Warning.h"
 #include "files/OutputFile.h"
 #include "files/SystemCalls.h"
 #include "pdf/DocumentInfo.h"
@@ -29,6 +30,13 @@ struct CloseResult {
     Status status = Status::Failed;
     QString path;
     QString reason;
+    Warnings warnings; ///< What could not be done for a document that was written.
+};
+
+/// What a source document brought.
+struct AddedDocument {
+    int pages = 0;
+    Warnings warnings; ///< What of the document is not carried over.
 };
 
 /// The drawing context of one PDF file. Pages are drawn one after another. Nothing appears under
@@ -64,8 +72,8 @@ class PDFContext {
     void endPage();
 
     /// Adds every page of the PDF at `sourcePath` unchanged, with its links, form fields and
-    /// bookmarks. Returns the number of pages. Throws Error when the document cannot be read.
-    int addDocument(const QString &sourcePath);
+    /// bookmarks. Throws Error when the document cannot be read.
+    AddedDocument addDocument(const QString &sourcePath);
 
     [[nodiscard]] int pageCount() const;
     /// Waits for the pages drawn so far, which another core compresses. Throws Error when one

@@ -14,6 +14,14 @@
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 
+namespace {
+
+QByteArray manualPage() {
+    return test::readFile(QStringLiteral(FOLIOFORGE_PACKAGING "/folioforge-cli.1"));
+}
+
+} // namespace
+
 class ConsoleTest : public QObject {
     Q_OBJECT
 
@@ -74,11 +82,13 @@ class ConsoleTest : public QObject {
         QCOMPARE(left[u"object"_s].toInt(), 9);
         QCOMPARE(left[u"reason"_s].toString(), u"line art"_s);
         QVERIFY(!object.contains(u"message"_s));
+        QCOMPARE(object[u"warnings"_s].toArray(), QJsonArray());
     }
 
     void theManualNamesEveryKey() {
         InputResult result;
-        result.message = u"blank"_s;
+        result.reason = u"It broke"_s;
+        result.warnings.push_back({WarningCode::PageSize, u"blank"_s});
         result.embedded = EmbeddedAs::OwnBytes;
         result.compression.emplace().imagesKept.emplace_back();
         InputResult failure;
@@ -86,14 +96,25 @@ class ConsoleTest : public QObject {
         const QJsonObject object = QJsonDocument::fromJson(toJson(result)).object();
         const QStringList keys = object.keys() +
                                  object[u"imagesLeft"_s].toArray().at(0).toObject().keys() +
+                                 object[u"warnings"_s].toArray().at(0).toObject().keys() +
                                  QJsonDocument::fromJson(toJson(failure)).object().keys();
-        const QByteArray manual =
-            test::readFile(QStringLiteral(FOLIOFORGE_PACKAGING "/folioforge-cli.1"));
+        const QByteArray manual = manualPage();
         QVERIFY(keys.size() > 12);
         for (const QString &key : keys) {
             QVERIFY2(manual.contains("Li " + key.toUtf8() + ' ') ||
                          manual.contains("Li " + key.toUtf8() + '\n'),
                      qPrintable(key));
+        }
+    }
+
+    void theManualSaysWhatEachWarningMeans() {
+        const QByteArray manual = manualPage();
+        const QByteArray section =
+            manual.sliced(manual.indexOf(".Sh WARNINGS"),
+                          manual.indexOf(".Sh EXAMPLES") - manual.indexOf(".Sh WARNINGS"));
+        for (const QLatin1StringView name : kWarningNames) {
+            QVERIFY2(section.contains(".It Li " + QByteArray(name.data(), name.size()) + '\n'),
+                     name.data());
         }
     }
 
@@ -125,20 +146,24 @@ class ConsoleTest : public QObject {
         InputResult result;
         result.input = u"a.png"_s;
         result.state = InputResult::State::Failed;
-        result.message = u"It broke"_s;
+        result.reason = u"It broke"_s;
         const QJsonObject object = QJsonDocument::fromJson(toJson(result)).object();
         QCOMPARE(object[u"state"_s].toString(), u"failed"_s);
         QCOMPARE(object[u"message"_s].toString(), u"It broke"_s);
         QVERIFY(object[u"output"_s].isNull());
-        QCOMPARE(toMessage(result), u"a.png: It broke"_s);
+        QCOMPARE(toMessages(result), QStringList{u"a.png: It broke"_s});
     }
 
     void aWarningIsCalledOne() {
         InputResult result;
         result.input = u"a.txt"_s;
-        QCOMPARE(toMessage(result), QString());
-        result.message = u"blank"_s;
-        QCOMPARE(toMessage(result), u"a.txt: warning: blank"_s);
+        QCOMPARE(toMessages(result), QStringList());
+        result.warnings.push_back({WarningCode::TextNotUtf8, u"blank"_s});
+        QCOMPARE(toMessages(result), QStringList{u"a.txt: warning: blank"_s});
+        const QJsonObject object = QJsonDocument::fromJson(toJson(result)).object();
+        const QJsonObject warning = object[u"warnings"_s].toArray().at(0).toObject();
+        QCOMPARE(warning[u"code"_s].toString(), u"text-not-utf8"_s);
+        QCOMPARE(warning[u"text"_s].toString(), u"blank"_s);
     }
 };
 

@@ -6,6 +6,8 @@
 #include "support/TestUnit.h"
 
 #include <QDir>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QTest>
 
 #include <algorithm>
@@ -122,16 +124,25 @@ class ReportsTest : public QObject, protected CommandLineCase {
         QCOMPARE(PdfProbe(path("out/a.pdf")).pageCount(), 1);
     }
 
+    void aWarningFailsAStrictRunAndKeepsThePdf() {
+        QCOMPARE(convert({u"--strict"_s, text("good.txt")}).exitCode, 0);
+        QCOMPARE(convert({u"--strict"_s, text("a.txt", "caf\xE9")}).exitCode, 1);
+        QCOMPARE(PdfProbe(path("out/a.pdf")).pageCount(), 1);
+    }
+
     void aFailureIsSaidBesideAWarning() {
         const QString script =
             u"trap '' XFSZ; ulimit -f 0; exec \"$0\" --json --merge \"$1\" \"$2\""_s;
         const ToolRun run = runTool(
             u"sh"_s, {u"-c"_s, script, kProgram, path("out/all"), text("a.txt", "caf\xE9")});
         QCOMPARE(run.exitCode, 1);
-        const QString message = member(objectsOf(run.out).value(0), "message");
-        QVERIFY2(message.contains(u"not valid UTF-8"_s), qPrintable(message));
+        const QJsonObject object = objectsOf(run.out).value(0);
+        const QString message = member(object, "message");
         QVERIFY2(message.contains(u"File too large"_s), qPrintable(message));
         QVERIFY2(run.err.contains(message.toUtf8()), run.err.constData());
+        const QJsonObject warning = object[u"warnings"_s].toArray().at(0).toObject();
+        QCOMPARE(member(warning, "code"), u"text-not-utf8"_s);
+        QVERIFY2(run.err.contains(member(warning, "text").toUtf8()), run.err.constData());
     }
 
     void nothingToConvertIsAFailure() {

@@ -262,7 +262,7 @@ class ConversionTest : public QObject {
         QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 2);
         QCOMPARE(recorder.entries.join(u' '), u"0+ 1- 2- 3- 4- 5+"_s);
         for (const std::size_t failed : {1U, 2U, 3U, 4U}) {
-            QVERIFY(!outcome.entries[failed].message.isEmpty());
+            QVERIFY(!outcome.entries[failed].reason.isEmpty());
             QCOMPARE(outcome.entries[failed].pages, 0);
         }
     }
@@ -293,8 +293,8 @@ class ConversionTest : public QObject {
         QCOMPARE(outcome.close.status, CloseResult::Status::Written);
         QVERIFY(outcome.entries[0].written);
         QVERIFY(!outcome.entries[1].written);
-        QVERIFY2(outcome.entries[1].message.contains(u"temporary file"_s),
-                 qPrintable(outcome.entries[1].message));
+        QVERIFY2(outcome.entries[1].reason.contains(u"temporary file"_s),
+                 qPrintable(outcome.entries[1].reason));
         QCOMPARE(outcome.entries[1].pages, 0);
         const PdfProbe probe(outcome.close.path);
         QVERIFY(probe.isValid());
@@ -324,7 +324,7 @@ class ConversionTest : public QObject {
         addText("a.txt", "caf\xE9 au lait");
         const PDFOutcome outcome = convertTo(path("out/a.pdf"));
         QVERIFY(outcome.entries[0].written);
-        QVERIFY(outcome.entries[0].message.contains(u"UTF-8"_s));
+        QCOMPARE(outcome.entries[0].warnings.at(0).code, WarningCode::TextNotUtf8);
         QCOMPARE(outcome.entries[0].pages, 1);
         const PdfProbe probe(outcome.close.path);
         QCOMPARE(probe.pageCount(), 1);
@@ -335,7 +335,7 @@ class ConversionTest : public QObject {
         addText("a.txt", {});
         m_options.textPage.sizeMode = TextPageA5;
         const PDFOutcome outcome = convertTo(path("out/a.pdf"));
-        QVERIFY(outcome.entries[0].message.isEmpty());
+        QVERIFY(outcome.entries[0].warnings.empty());
         const PdfProbe probe(outcome.close.path);
         QCOMPARE(probe.pageCount(), 1);
         QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(0, 0, 420, 595));

@@ -117,7 +117,7 @@ class RunTest : public QObject {
         convertAll(recorder);
         QCOMPARE(outputs(), u"b.pdf"_s);
         QVERIFY(
-            recorder.results.front().outcome.entries.front().message.contains(u"No such file"_s));
+            recorder.results.front().outcome.entries.front().reason.contains(u"No such file"_s));
     }
 
     void aTextIsReadWhenItsTurnComes() {

@@ -48,7 +48,7 @@ class WholeRun {
             const CloseResult &close = result.outcome.close;
             outcome = {close.status == CloseResult::Status::Written, close.reason};
             for (const EntryOutcome &entry : result.outcome.entries) {
-                outcome.reason += entry.message;
+                outcome.reason += entry.reason;
             }
             if (result.compression) {
                 outcome.reason += result.compression->error;

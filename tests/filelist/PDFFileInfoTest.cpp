@@ -146,7 +146,7 @@ class PDFFileInfoTest : public QObject {
         QCOMPARE(entry.fileName(), u"a.txt"_s);
         QCOMPARE(entry.getFileString(), u"one\r\ntwo \u20ac"_s);
         QVERIFY(entry.readError().isEmpty());
-        QVERIFY(entry.readWarning().isEmpty());
+        QVERIFY(entry.readWarnings().empty());
         QCOMPARE(entry.fileSize(), u""_s);
     }
 
@@ -162,7 +162,7 @@ class PDFFileInfoTest : public QObject {
         const PDFFileInfo entry = entryOf("empty.txt", {});
         QVERIFY(!entry.getFileString().isNull());
         QVERIFY(entry.getFileString().isEmpty());
-        QVERIFY(entry.readWarning().isEmpty());
+        QVERIFY(entry.readWarnings().empty());
     }
 
     void bytesThatAreNotUtf8LeaveTheTextAbsentWithAWarning_data() {
@@ -178,7 +178,7 @@ class PDFFileInfoTest : public QObject {
         QFETCH(const QByteArray, bytes);
         const PDFFileInfo entry = entryOf("bad.txt", bytes);
         QVERIFY(entry.getFileString().isNull());
-        QVERIFY(entry.readWarning().contains(u"UTF-8"_s));
+        QVERIFY(entry.readWarnings().at(0).text.contains(u"UTF-8"_s));
         QVERIFY(entry.readError().isEmpty());
     }
 

@@ -36,8 +36,8 @@ void requireInOrder(const QString &path, int pages) {
 void mergeTwice(const QString &source, const PDFSummary &summary) {
     const QString path = freshPath(u"merged.pdf"_s);
     PDFContext context(path, {.info = {}, .encryption = nullptr, .flush = Flush::Never});
-    require(context.addDocument(source) == summary.pageCount);
-    require(context.addDocument(source) == summary.pageCount);
+    require(context.addDocument(source).pages == summary.pageCount);
+    require(context.addDocument(source).pages == summary.pageCount);
     const CloseResult closed = context.close();
     if (closed.status == CloseResult::Status::Failed) {
         throw Error(closed.reason);

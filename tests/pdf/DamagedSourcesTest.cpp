@@ -92,7 +92,7 @@ class DamagedSourcesTest : public QObject, protected MergeCase {
         file.close();
         const QString path = newPath();
         PDFContext context(path, {});
-        QCOMPARE(context.addDocument(saved(good)), 1);
+        QCOMPARE(context.addDocument(saved(good)).pages, 1);
         QVERIFY_THROWS_EXCEPTION(Error, context.addDocument(broken));
         QVERIFY_THROWS_EXCEPTION(Error, context.addDocument(newPath()));
         QCOMPARE(context.pageCount(), 1);
@@ -106,7 +106,7 @@ class DamagedSourcesTest : public QObject, protected MergeCase {
         source.object(1, kCatalog).pages(4, 2).spread();
         const QString input = saved(source);
         test::FaultyCalls counted;
-        QCOMPARE(PDFContext(newPath(), through(counted)).addDocument(input), 2);
+        QCOMPARE(PDFContext(newPath(), through(counted)).addDocument(input).pages, 2);
         QVERIFY(counted.moves() > 3);
         // The first call opens the file.
         for (int call = 2; call <= counted.moves() + 1; ++call) {
@@ -130,7 +130,7 @@ class DamagedSourcesTest : public QObject, protected MergeCase {
         const QString input = saved(source);
         const QString path = newPath();
         PDFContext context(path, {});
-        QCOMPARE(context.addDocument(input), 1);
+        QCOMPARE(context.addDocument(input).pages, 1);
         QVERIFY(source.pages(4, 2).write(input));
         const CloseResult result = context.close();
         QCOMPARE(result.status, CloseResult::Status::Failed);

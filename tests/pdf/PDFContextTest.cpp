@@ -241,8 +241,8 @@ class PDFContextTest : public QObject {
         writeImages(first, {jpeg(u"b.jpg"_s), jpeg(u"c.jpg"_s)});
         const QString path = file(u"merged.pdf"_s);
         PDFContext context(path, settings());
-        QCOMPARE(context.addDocument(first), 2);
-        QCOMPARE(context.addDocument(first), 2);
+        QCOMPARE(context.addDocument(first).pages, 2);
+        QCOMPARE(context.addDocument(first).pages, 2);
         QCOMPARE(context.pageCount(), 4);
         QCOMPARE(context.close().status, CloseResult::Status::Written);
         const PdfProbe probe(path);

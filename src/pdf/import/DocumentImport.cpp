@@ -9,6 +9,8 @@
 #include <map>
 #include <set>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -157,6 +159,9 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, ObjectCopier::Stream
     }
     keepFormDefaults(source, imported.form, copier);
     imported.pdfVersion = source.getPDFVersion();
+    if (imported.pages.empty()) {
+        imported.warnings.push_back({WarningCode::PdfWithoutPages, u"The document has no pages"_s});
+    }
     return imported;
 }
 

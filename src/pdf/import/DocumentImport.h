@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "error/Warning.h"
 #include "pdf/import/ObjectCopier.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
@@ -45,6 +46,7 @@ struct ImportedDocument {
     ImportedLayers layers;
     std::string pdfVersion;
     qsizetype longestStream = 0; ///< Bytes, as the source says.
+    Warnings warnings;           ///< What of the document is not copied.
 };
 
 /// Copies the pages of `source` into `target` with all that belongs to them, but puts nothing into
