@@ -26,7 +26,7 @@ function(folioforge_room name)
         target_include_directories(${target} PUBLIC "${view}")
         target_link_libraries(${target}
             PUBLIC ${ROOM_LINKS} Qt6::Core
-            PRIVATE ${ROOM_PRIVATE_LINKS} folioforge_compiler)
+            PRIVATE ${ROOM_PRIVATE_LINKS} folioforge_program)
         if(FOLIOFORGE_TESTS AND NOT FOLIOFORGE_FUZZ)
             # Some libraries ask for it; what is compiled ahead has to have the options of all.
             target_compile_options(${target} PRIVATE -pthread)
