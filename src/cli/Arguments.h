@@ -31,7 +31,7 @@ struct Arguments {
     ProgressMode progress = ProgressMode::Auto;
     bool json = false;
     bool quiet = false;
-    bool strict = false; ///< A warning counts as a failure.
+    bool strict = false;            ///< A warning counts as a failure.
     std::vector<QByteArray> inputs; ///< Paths in the system's own bytes.
 };
 
@@ -48,8 +48,9 @@ QByteArray helpText();
 
 /// Puts the passwords that the arguments or the environment name into `security`: the first line of
 /// a file or of standard input, else FOLIOFORGE_USER_PASSWORD and FOLIOFORGE_OWNER_PASSWORD where
-/// they are set and not empty. Standard input is read line by line, the user password first. Throws
-/// ArgumentFault when a file cannot be read or a password is not valid UTF-8.
+/// they are set. Standard input is read line by line, the user password first. Throws ArgumentFault
+/// when a file cannot be read, a variable is empty, a password is not valid UTF-8, or something is
+/// to be refused and there is no owner password.
 void readPasswords(const Arguments &arguments, SecuritySettings &security);
 
 } // namespace folioforge

@@ -25,7 +25,7 @@ Document
   --owner-password-file FILE   the password to change permissions; or in
                                FOLIOFORGE_OWNER_PASSWORD. With "-" for both, the user
                                password is the first line and this one the second
-  --refuse-print --refuse-copy what readers may not do (count only with an owner password)
+  --refuse-print --refuse-copy what readers may not do (need an owner password)
 
 Pages, in points of 1/72 inch
   --text-page-size A3|A4|A5|WxH    (default A4)

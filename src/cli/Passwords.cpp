@@ -33,11 +33,10 @@ QByteArray readLine(QFile &file, const QByteArray &name) {
 class PasswordReader {
   public:
     std::optional<QString> read(const std::optional<QByteArray> &name, const char *variable) {
-        const QByteArray ambient = qgetenv(variable);
-        if (!name && ambient.isEmpty()) {
+        if (!name && !qEnvironmentVariableIsSet(variable)) {
             return std::nullopt;
         }
-        const QByteArray bytes = name ? firstLine(*name) : ambient;
+        const QByteArray bytes = name ? firstLine(*name) : ambient(variable);
         try {
             return textOf(bytes);
         } catch (const ArgumentFault &) {
@@ -47,6 +46,15 @@ class PasswordReader {
     }
 
   private:
+    /// Empty is what a script leaves that failed to find the password.
+    static QByteArray ambient(const char *variable) {
+        const QByteArray bytes = qgetenv(variable);
+        if (bytes.isEmpty()) {
+            throw ArgumentFault(u"%1 is set but empty"_s.arg(QLatin1StringView(variable)));
+        }
+        return bytes;
+    }
+
     QByteArray firstLine(const QByteArray &name) {
         if (name == "-") {
             if (!m_input.isOpen() && !m_input.open(stdin, QIODevice::ReadOnly)) {
@@ -77,6 +85,10 @@ void readPasswords(const Arguments &arguments, SecuritySettings &security) {
     if (const auto owner = reader.read(arguments.ownerPasswordFile, "FOLIOFORGE_OWNER_PASSWORD")) {
         security.useOwnerPassword = true;
         security.ownerPassword = *owner;
+    }
+    // Without it the document would come out open to what is to be refused.
+    if ((security.refusePrint || security.refuseCopy) && !security.useOwnerPassword) {
+        throw ArgumentFault(u"--refuse-print and --refuse-copy need an owner password"_s);
     }
 }
 

@@ -67,6 +67,44 @@ class PasswordSourcesTest : public QObject, protected CommandLineCase {
         QVERIFY(probe.info(u"Encrypted"_s).contains(u"copy:no"_s));
     }
 
+    void anEmptyVariableIsNoPassword_data() {
+        QTest::addColumn<QString>("variable");
+        QTest::newRow("user") << u"FOLIOFORGE_USER_PASSWORD"_s;
+        QTest::newRow("owner") << u"FOLIOFORGE_OWNER_PASSWORD"_s;
+    }
+
+    void anEmptyVariableIsNoPassword() {
+        QFETCH(const QString, variable);
+        const ToolRun run = runTool(u"env"_s, {variable + u"="_s, kProgram, u"--output-folder"_s,
+                                               path("out"), text("a.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.err, "folioforge-cli: " + variable.toUtf8() + " is set but empty\n");
+        QVERIFY(outputs().isEmpty());
+    }
+
+    void aFileTakesThePlaceOfAnEmptyVariable() {
+        const ToolRun run = runTool(u"env"_s, {u"FOLIOFORGE_USER_PASSWORD="_s, kProgram,
+                                               u"--user-password-file"_s, text("password", "user"),
+                                               u"--output-folder"_s, path("out"), text("a.txt")});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(PdfProbe(path("out/a.pdf"), u"user"_s).pageCount(), 1);
+    }
+
+    void nothingIsRefusedWithoutAnOwnerPassword_data() {
+        QTest::addColumn<QString>("option");
+        QTest::newRow("printing") << u"--refuse-print"_s;
+        QTest::newRow("copying") << u"--refuse-copy"_s;
+    }
+
+    void nothingIsRefusedWithoutAnOwnerPassword() {
+        QFETCH(const QString, option);
+        const ToolRun run = convert({option, u"--user-password-file=-"_s, text("a.txt")}, "user\n");
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.err,
+                 "folioforge-cli: --refuse-print and --refuse-copy need an owner password\n");
+        QVERIFY(outputs().isEmpty());
+    }
+
     void equalPasswordsGetTheirNotice() {
         const QString file = text("password", "same");
         const ToolRun run = convert(
