@@ -20,11 +20,15 @@ struct Option {
     std::function<void(Arguments &, const QByteArray &)> apply;
 };
 
-/// Splits the path of the merged file; a name alone stands in the current folder.
+/// Splits the path of the merged file; a name alone stands in the current folder. Throws
+/// ArgumentFault where the path leads to a folder.
 void takeMergePath(const QString &path, ConversionOptions &options) {
     const qsizetype slash = path.lastIndexOf(u'/');
     options.merge = true;
     options.outputName = path.sliced(slash + 1);
+    if (options.outputName == u"." || options.outputName == u"..") {
+        throw ArgumentFault(u"\"%1\" is a folder, not the name of a PDF"_s.arg(path));
+    }
     options.outputFolder = slash < 0 ? u"."_s : path.first(std::max<qsizetype>(slash, 1));
 }
 

@@ -69,6 +69,27 @@ class ReportsTest : public QObject, protected CommandLineCase {
         QVERIFY(run.err.contains("Please input output file name."));
     }
 
+    void aMergeIntoAFolderIsRefused_data() {
+        QTest::addColumn<QString>("target");
+        QTest::newRow("here") << u"."_s;
+        QTest::newRow("above") << u".."_s;
+        QTest::newRow("a folder's own name") << u"./."_s;
+        QTest::newRow("a folder's parent") << u"out/.."_s;
+    }
+
+    void aMergeIntoAFolderIsRefused() {
+        QFETCH(const QString, target);
+        QProcess process;
+        process.setWorkingDirectory(path("out"));
+        process.start(kProgram, {u"--merge"_s, target, text("a.txt")});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitCode(), 2);
+        QCOMPARE(process.readAllStandardError().split('\n').first(),
+                 "folioforge-cli: --merge: \"" + target.toUtf8() +
+                     "\" is a folder, not the name of a PDF");
+        QVERIFY(outputs().isEmpty());
+    }
+
     void anUnknownOptionGetsAHint() {
         const ToolRun run = convert({u"--colour"_s, text("a.txt")});
         QCOMPARE(run.exitCode, 2);
