@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "error/Warning.h"
+
+#include <QString>
+
+#include <algorithm>
+#include <cmath>
+
+namespace folioforge {
+
+/// The warning for a picture that ends before its last row: `missing` of its `rows` rows could not
+/// be read, at least one. Where no row could be read the picture is refused instead.
+inline Warning cutOffPicture(qint64 missing, qint64 rows) {
+    // A loss is never said to be none, nor is what is there said to be nothing.
+    const double share = 100.0 * static_cast<double>(missing) / static_cast<double>(rows);
+    const int percent = std::clamp(static_cast<int>(std::lround(share)), 1, 99);
+    return {WarningCode::PictureDamaged,
+            QStringLiteral("The picture is cut off: %1 % of its rows could not be read")
+                .arg(percent)};
+}
+
+/// The warning for a picture whose rows are all there while its data has faults inside.
+inline Warning faultyPicture() {
+    return {WarningCode::PictureDamaged,
+            QStringLiteral("The picture is damaged: parts of it may look wrong")};
+}
+
+} // namespace folioforge
