@@ -4,7 +4,10 @@
 
 #include "error/Error.h"
 
+#include <QChar>
 #include <QFile>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -91,7 +94,10 @@ Glyph FontCascade::cachedGlyph(char32_t character) const {
 }
 
 Glyph FontCascade::findGlyph(char32_t character) const {
-    for (std::size_t i = 0; i < m_faces.size(); ++i) {
+    // Where a font after the first has a control character, it shows a box with letters in it.
+    const bool isControl = QChar::category(character) == QChar::Other_Control;
+    const std::size_t faces = std::min<std::size_t>(m_faces.size(), isControl ? 1 : m_faces.size());
+    for (std::size_t i = 0; i < faces; ++i) {
         // The catalog omits control characters, so the first face is asked itself.
         if (i > 0 && !m_faces[i].font.covers(character)) {
             continue;
@@ -101,9 +107,9 @@ Glyph FontCascade::findGlyph(char32_t character) const {
             return glyphOf(i, *id, character);
         }
     }
-    Glyph missing = m_missing;
-    missing.character = character;
-    return missing;
+    Glyph other = isControl ? findGlyph(U' ') : m_missing;
+    other.character = character;
+    return other;
 }
 
 Glyph FontCascade::glyphOf(std::size_t face, std::uint16_t id, char32_t character) const {

@@ -54,7 +54,7 @@ class FontCascade {
     [[nodiscard]] const FontFace &face(std::size_t index) const;
 
     /// The glyph of one character from the first face that covers it, else glyph 0 of the first
-    /// face.
+    /// face. A control character that the first face lacks has the glyph of a blank.
     [[nodiscard]] Glyph glyph(char32_t character) const {
         const char32_t ascii = character - kFirstAscii;
         return ascii < m_ascii.size() ? m_ascii[ascii] : cachedGlyph(character);

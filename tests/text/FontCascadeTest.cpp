@@ -123,6 +123,31 @@ class FontCascadeTest : public QObject {
         QCOMPARE(font->missingGlyph().character, kNoCharacter);
     }
 
+    void aControlCharacterThatTheFirstFaceLacksIsABlank_data() {
+        QTest::addColumn<uint>("character");
+        QTest::newRow("tab") << uint(U'\t');
+        QTest::newRow("bell") << uint(U'\a');
+        QTest::newRow("escape") << 0x1BU;
+        QTest::newRow("delete") << 0x7FU;
+        QTest::newRow("C1") << 0x9FU;
+    }
+    void aControlCharacterThatTheFirstFaceLacksIsABlank() {
+        QFETCH(const uint, character);
+        // Liberation Sans has none of them, Unifont shows each as a box with its name.
+        const auto others = FontCascade::load(u"Unifont"_s, kSize);
+        QVERIFY(others->face(0).glyph(character));
+        const Glyph glyph = cascade()->glyph(character);
+        QCOMPARE(glyph.face, std::uint16_t{0});
+        QCOMPARE(glyph.id, cascade()->glyph(U' ').id);
+        QCOMPARE(glyph.advance, 14.0 * 569 / 2048);
+        QCOMPARE(glyph.character, char32_t{character});
+    }
+
+    void aControlCharacterThatTheFirstFaceHasIsDrawnByIt() {
+        const auto font = FontCascade::load(u"Unifont"_s, kSize);
+        QVERIFY(font->glyph(U'\t').id != font->glyph(U' ').id);
+    }
+
     void valuesBeyondUnicodeAreTheMissingGlyph() {
         QCOMPARE(cascade()->glyph(0x110001), cascade()->missingGlyph());
         QCOMPARE(cascade()->glyph(0xFFFFFFFF), cascade()->missingGlyph());
