@@ -6,6 +6,8 @@
 #include "text/FontCascade.h"
 #include "text/TextPageLayout.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -48,8 +50,10 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
     const QSizeF pageSize = getTextPageSize(options.textPage);
     const auto font = options.textFont ? options.textFont : textFont();
     ContextSink sink(context, font, pageSize, stop);
-    layOutText(source.text, pageSize, options.textPage.margins, *font, sink);
-    return std::move(source.warnings);
+    Warnings warnings = std::move(source.warnings);
+    std::ranges::move(layOutText(source.text, pageSize, options.textPage.margins, *font, sink),
+                      std::back_inserter(warnings));
+    return warnings;
 }
 
 WrittenImage addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup,

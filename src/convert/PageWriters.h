@@ -16,7 +16,7 @@ namespace folioforge {
 
 /// Adds the pages of a text entry to `context`: at least one, blank where the text is empty or not
 /// valid. Returns what of the text is not on them. Ends at the next page once `stop` is requested.
-/// Throws Error when the text cannot be read now.
+/// Throws Error when the text cannot be read now, or there is no font to write it with.
 Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
                      const ConversionOptions &options, const std::stop_token &stop = {});
 

@@ -2,8 +2,13 @@
 
 #include "text/TextPageLayout.h"
 
+#include "error/Error.h"
+#include "text/MissingGlyphs.h"
+
 #include <algorithm>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
@@ -41,6 +46,8 @@ class RowBreaker {
         : m_font(font)
         , m_usableWidth(usableWidth) {}
 
+    [[nodiscard]] Warnings warnings() const { return m_missing.warnings(); }
+
     /// Removes the first row from `line`, which is not empty. The glyphs are valid until the next
     /// call.
     std::span<const Glyph> takeRow(QStringView &line) {
@@ -58,6 +65,7 @@ class RowBreaker {
             if (!QChar::isSurrogate(unit)) {
                 glyph = m_font.glyph(unit);
                 width += glyph.advance;
+                noteMissing(glyph);
                 ++taken;
                 continue;
             }
@@ -68,6 +76,7 @@ class RowBreaker {
                 line.sliced(taken, fitsHalf ? std::min<qsizetype>(2, length - taken) : 1);
             glyph = firstGlyph(rest, m_font);
             width += glyph.advance;
+            noteMissing(glyph);
             taken += startsWithPair(rest) ? 2 : 1;
         }
         line = line.sliced(taken);
@@ -77,8 +86,15 @@ class RowBreaker {
   private:
     static constexpr std::size_t kUsualRow = 256;
 
+    void noteMissing(const Glyph &glyph) {
+        if (glyph.id == 0) [[unlikely]] {
+            m_missing.add(glyph);
+        }
+    }
+
     const FontCascade &m_font;
     double m_usableWidth = 0;
+    MissingGlyphs m_missing;
     std::vector<Glyph> m_row =
         std::vector<Glyph>(kUsualRow); ///< Grows where zero-width glyphs make a row long.
 };
@@ -140,8 +156,11 @@ QSizeF getStringSize(QStringView text, const FontCascade &font) {
     return {width, font.rowHeight()};
 }
 
-void layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
-                const FontCascade &font, TextPageSink &sink) {
+Warnings layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
+                    const FontCascade &font, TextPageSink &sink) {
+    if (font.faceCount() == 0 && !text.isEmpty()) {
+        throw Error(u"There is no font to write text with"_s);
+    }
     const auto left = static_cast<double>(margins.left);
     const auto right = static_cast<double>(margins.right);
     RowBreaker breaker(font, pageSize.width() - left - right);
@@ -159,6 +178,7 @@ void layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
     if (goesOn) {
         pages.finish();
     }
+    return breaker.warnings();
 }
 
 } // namespace folioforge

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "error/Warning.h"
 #include "text/FontCascade.h"
 #include "text/PageSetup.h"
 
@@ -33,12 +34,13 @@ class TextPageSink {
 QSizeF getStringSize(QStringView text, const FontCascade &font);
 
 /// Lays `text` out on pages of `pageSize` points and gives them to `sink` in order. Without text
-/// there is one blank page. A sink that wants no further page gets none.
+/// there is one blank page. A sink that wants no further page gets none. Returns which characters
+/// are drawn as boxes. Throws Error, no page begun, where there is text but no font.
 ///
 /// A line of the text becomes rows, each broken after the first unit that passes the right margin.
 /// Blank lines take no room. The rows of a page end above the top margin's distance from the lower
 /// edge: the bottom margin has no effect.
-void layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
-                const FontCascade &font, TextPageSink &sink);
+Warnings layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
+                    const FontCascade &font, TextPageSink &sink);
 
 } // namespace folioforge

@@ -4,6 +4,7 @@
 
 #include "convert/PageWriters.h"
 #include "support/Files.h"
+#include "support/InstalledFonts.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
 
@@ -329,6 +330,28 @@ class ConversionTest : public QObject {
         const PdfProbe probe(outcome.close.path);
         QCOMPARE(probe.pageCount(), 1);
         QCOMPARE(probe.text().trimmed(), QString());
+    }
+
+    void aTextWithBoxesIsWrittenWithAWarning() {
+        addText("a.txt", "a \xEE\x84\xA3 b"); // U+E123, of private use
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QVERIFY(outcome.entries[0].written);
+        QCOMPARE(outcome.entries[0].warnings.size(), std::size_t{1});
+        QCOMPARE(outcome.entries[0].warnings[0].code, WarningCode::MissingGlyphs);
+    }
+
+    void withoutAFontATextIsRefusedAndTheOthersGoOn() {
+        {
+            const test::InstalledFonts none;
+            m_options.textFont = FontCascade::load(u"Liberation Sans"_s, 14);
+        }
+        addText("a.txt", "words");
+        addFile(test::writePng(path("b.png"), 300, 150));
+        m_options.merge = true;
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"));
+        QCOMPARE(outcome.entries[0].reason, u"There is no font to write text with"_s);
+        QVERIFY(outcome.entries[1].written);
+        QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 1);
     }
 
     void anEmptyTextGivesOneBlankPageAndNoWarning() {

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "text/TextPageLayout.h"
+#include "error/Error.h"
+#include "support/InstalledFonts.h"
 #include "support/TestUnit.h"
 
+#include <QFile>
 #include <QRandomGenerator>
 #include <QTest>
 
@@ -74,6 +77,24 @@ QStringList rowTexts(const std::vector<Page> &pages) {
 /// Margins that leave exactly `usable` points of a page `usable` + 20 wide.
 std::vector<Page> layOutInWidth(const QString &text, double usable) {
     return layOut(text, {usable + 20, 842}, {10, 10, 72, 72});
+}
+
+/// Liberation Sans as the only font of the system.
+std::shared_ptr<const FontCascade> latinOnly() {
+    const QString file = QFile::decodeName(findTextFonts(u"Liberation Sans"_s).front().path());
+    test::InstalledFonts fonts;
+    fonts.add(file, u"Liberation Sans"_s);
+    return FontCascade::load(u"Liberation Sans"_s, 14);
+}
+
+/// What is said of a text in a font; each warning is of missing glyphs.
+QStringList boxesIn(const QString &text, const FontCascade &font, double width = 595) {
+    Recorder recorder;
+    QStringList said;
+    for (const Warning &warning : layOutText(text, {width, 842}, {0, 0, 0, 0}, font, recorder)) {
+        said += warning.code == WarningCode::MissingGlyphs ? warning.text : u"another"_s;
+    }
+    return said;
 }
 
 double advance(char32_t character) {
@@ -300,6 +321,53 @@ class TextPageLayoutTest : public QObject {
             const double usable = random.bounded(200.0);
             QCOMPARE(rowTexts(layOutInWidth(line, usable)), rowsByPrefixMeasure(line, usable));
         }
+    }
+
+    void charactersWithoutAGlyphAreNamedByScript() {
+        const auto font = latinOnly();
+        QCOMPARE(boxesIn(u"plain, Ελληνικά"_s, *font), QStringList());
+        QCOMPARE(boxesIn(u"a\u4E2D"_s, *font),
+                 QStringList{u"1 character has no glyph in any font and is shown as a box: "
+                             "Han (U+4E2D)"_s});
+        // Six of Gothic, of which four differ, a tick, an unassigned one and a private one.
+        QCOMPARE(boxesIn(u"\U00010330\U00010331\U00010330 \U00010332\n\U00010333\U00010333 "
+                         "\U0001F5F8 \uE123 \U000E0FFF"_s,
+                         *font),
+                 QStringList{u"9 characters have no glyph in any font and are shown as boxes: "
+                             "Gothic (U+10330, U+10331, U+10332, ...), other (U+1F5F8), "
+                             "private use (U+E123), unassigned (U+E0FFF)"_s});
+    }
+
+    void charactersSplitBetweenRowsAreCounted() {
+        // A half is measured as the box, which is too wide for the row.
+        const double narrow = font()->missingGlyph().advance - 0.001;
+        QCOMPARE(boxesIn(u"\U0001F600\U0001F600\n\U0001F600"_s, *font(), narrow),
+                 QStringList{u"3 characters are split between two rows and shown as boxes"_s});
+        QCOMPARE(boxesIn(u"\U0001F600\n"_s, *font(), narrow),
+                 QStringList{u"1 character is split between two rows and shown as boxes"_s});
+        QCOMPARE(boxesIn(u"\U0001F600\U0001F600\n"_s, *font()), QStringList());
+    }
+
+    void controlCharactersAreNoLoss() {
+        QCOMPARE(boxesIn(u"a\tb\a\u009F"_s, *latinOnly()), QStringList());
+    }
+
+    void aTextWithoutAnyFontIsRefused() {
+        std::shared_ptr<const FontCascade> none;
+        {
+            const test::InstalledFonts noFonts;
+            none = FontCascade::load(u"Liberation Sans"_s, 14);
+        }
+        Recorder recorder;
+        try {
+            layOutText(u"words"_s, kA4, kMargins, *none, recorder);
+            QFAIL("the words are lost");
+        } catch (const Error &error) {
+            QCOMPARE(error.reason(), u"There is no font to write text with"_s);
+        }
+        QVERIFY(recorder.pages.empty());
+        layOutText({}, kA4, kMargins, *none, recorder);
+        QCOMPARE(recorder.pages.size(), std::size_t{1});
     }
 
     void measuredWidthIsTheSumOfWhatIsDrawn() {
