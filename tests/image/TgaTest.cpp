@@ -63,14 +63,35 @@ class TgaTest : public QObject {
         QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff000000ffffffff000000848400"));
     }
 
-    void opacityCountsOnlyWhereItIsDeclared() {
+    void fourthByteIsOpacityThoughNoneIsDeclared_data() {
+        QTest::addColumn<int>("descriptor");
+        QTest::newRow("declared") << 0x28;
+        QTest::newRow("not declared") << 0x20;
+    }
+
+    void fourthByteIsOpacityThoughNoneIsDeclared() {
+        QFETCH(const int, descriptor);
         const QByteArray pixels =
             QByteArray::fromHex("010203ff0102038001020300010203ff010203ff010203ff");
-        QVERIFY(toPdfImage(tga("00020000000000", 32, 0x20, pixels)).softMask == nullptr);
-        const PdfImage image = toPdfImage(tga("00020000000000", 32, 0x28, pixels));
+        const PdfImage image = toPdfImage(tga("00020000000000", 32, descriptor, pixels));
         QVERIFY(image.softMask != nullptr);
-        QCOMPARE(qGray(decoded(*image.softMask).pixel(1, 0)), 0x80);
-        QCOMPARE(qGray(decoded(*image.softMask).pixel(2, 0)), 0);
+        QCOMPARE(rgbRows(*image.softMask).toHex(),
+                 QByteArray("ffffff808080000000ffffffffffffffffff"));
+    }
+
+    void fourthByteThatIsTheSameThroughoutIsNoOpacity() {
+        for (const char *value : {"00", "ff"}) {
+            const QByteArray pixel = QByteArray::fromHex("010203") + QByteArray::fromHex(value);
+            const PdfImage image = toPdfImage(tga("00020000000000", 32, 0x20, pixel.repeated(6)));
+            QVERIFY(image.softMask == nullptr);
+            QCOMPARE(rgbRows(image).toHex(), QByteArray("030201").repeated(6));
+        }
+    }
+
+    void sixteenthBitIsOpacityOnlyWhereItIsDeclared() {
+        const QByteArray pixels = QByteArray::fromHex("007c00fc007c00fc007c00fc");
+        QVERIFY(toPdfImage(tga("00020000000000", 16, 0x20, pixels)).softMask == nullptr);
+        QVERIFY(toPdfImage(tga("00020000000000", 16, 0x21, pixels)).softMask != nullptr);
     }
 
     void cutFileIsRefused() {

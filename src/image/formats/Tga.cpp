@@ -109,7 +109,8 @@ QByteArray readPixels(const FileView &file, const TgaHeader &tga) {
 
 using Rgba = std::array<uchar, 4>;
 
-/// A colour as the file stores it: blue, green, red and opacity, or five bits of each.
+/// A colour as the file stores it: blue, green, red and opacity, or five bits of each. The fourth
+/// byte is opacity though the header declares none: few writers of 32 bits do.
 Rgba colorAt(const uchar *bytes, int bits, int alphaBits) {
     if (bits == 15 || bits == 16) {
         const int value = bytes[0] | (bytes[1] << 8);
@@ -118,8 +119,7 @@ Rgba colorAt(const uchar *bytes, int bits, int alphaBits) {
         return {wide((value >> 10) & 31), wide((value >> 5) & 31), wide(value & 31),
                 static_cast<uchar>(opaque ? 0xFF : 0)};
     }
-    return {bytes[2], bytes[1], bytes[0],
-            bits == 32 && alphaBits > 0 ? bytes[3] : static_cast<uchar>(0xFF)};
+    return {bytes[2], bytes[1], bytes[0], bits == 32 ? bytes[3] : static_cast<uchar>(0xFF)};
 }
 
 std::vector<Rgba> readColorMap(const FileView &file, const TgaHeader &tga) {
@@ -182,7 +182,7 @@ void fillColor(Raster &raster, const QByteArray &pixels, const TgaHeader &tga,
     }
 }
 
-/// Some writers claim an opacity channel and leave it zero throughout: such a picture is opaque.
+/// Some writers have room for opacity and leave it zero throughout: such a picture is opaque.
 void dropEmptyAlpha(Raster &raster) {
     if (raster.alpha && raster.alpha->samples.count('\0') == raster.alpha->samples.size()) {
         raster.alpha.reset();
