@@ -271,13 +271,22 @@ class BmpTest : public QObject {
                  (colors.startsWith('\0') ? blackFirst : whiteFirst).toHex());
     }
 
-    void channelsOfMoreThanEightBitsKeepTheHighOnes() {
+    void channelsOfMoreThanEightBitsAreScaled() {
         const QByteArray masks = little(0x3FF00000) + little(0x000FFC00) + little(0x000003FF);
-        // 1023, 512 and 4 of 1023, then each alone.
+        // 1023, 512 and 3 of 1023, which are 255, 127.6 and 0.7 of 255, then each alone.
         const QByteArray pixels =
-            little(0x3FF80004) + little(0x3FF00000) + little(0x00080000) + little(0x00000004);
+            little(0x3FF80003) + little(0x3FF00000) + little(0x00080000) + little(0x00000003);
         QCOMPARE(rgbRows(toPdfImage(file(bitmap(56, 32, kMasks, masks, pixels)))).toHex(),
                  QByteArray("008000000001ff8001ff0000"));
+    }
+
+    void opacityThatIsZeroThroughoutDoesNotCount() {
+        const QByteArray masks =
+            little(0xFF0000) + little(0x00FF00) + little(0x0000FF) + little(0xFF000000);
+        const PdfImage image =
+            toPdfImage(file(bitmap(56, 32, kMasks, masks, little(0x010203).repeated(4))));
+        QVERIFY(image.softMask == nullptr);
+        QCOMPARE(rgbRows(image).toHex(), QByteArray("010203").repeated(4));
     }
 
     void unknownKindIsRefused_data() {

@@ -79,6 +79,10 @@ std::optional<IndexedImage> withPalette(const ArgbImage &image) {
 
 } // namespace
 
+bool ArgbImage::isVisible() const {
+    return std::ranges::any_of(pixels, [](Argb color) { return alphaOf(color) != 0; });
+}
+
 Raster rasterOf(IndexedImage &&image) {
     Raster raster;
     raster.width = image.width;

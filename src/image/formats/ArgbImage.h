@@ -31,6 +31,8 @@ struct ArgbImage {
     /// The pixels of row `y`.
     [[nodiscard]] Argb *row(int y) { return pixels.data() + qsizetype(y) * width; }
     [[nodiscard]] const Argb *row(int y) const { return pixels.data() + qsizetype(y) * width; }
+    /// Whether a pixel has any opacity: some writers leave it zero throughout.
+    [[nodiscard]] bool isVisible() const;
 };
 
 /// Pixels that are numbers of colours, a byte each, rows from the top. A number without a colour is

@@ -89,7 +89,9 @@ Raster blackAndWhite(const QByteArray &rows, const DibHeader &dib, bool isWhiteF
 Raster rasterOf(const FileView &file, const FileView &content, const DibHeader &dib) {
     const qint64 at = pixelsOf(file, dib);
     if (dib.bits > 8) {
-        return rasterOf(readColorDib(content, dib, at));
+        ArgbImage picture = readColorDib(content, dib, at);
+        picture.hasAlpha = picture.hasAlpha && picture.isVisible();
+        return rasterOf(picture);
     }
     if (dib.bits == 1) {
         constexpr Argb kWhite = 0xFFFFFFFF;

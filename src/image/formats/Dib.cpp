@@ -5,6 +5,7 @@
 #include "image/Bytes.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdlib>
 #include <utility>
 
@@ -73,22 +74,18 @@ void readMasks(const FileView &dib, DibHeader &header) {
 class Channel {
   public:
     explicit Channel(quint32 mask)
-        : m_mask(mask) {
-        while (mask >= 0x100 || (mask != 0 && mask % 2 == 0)) {
-            mask >>= 1;
-            ++m_shift;
-        }
-        for (quint32 value = 0; value <= mask && mask != 0; ++value) {
-            m_bytes[value] = (value * 255 + mask / 2) / mask;
-        }
-    }
+        : m_mask(mask)
+        , m_shift(mask == 0 ? 0 : std::countr_zero(mask))
+        , m_scale(mask == 0 ? 0 : 255.0 / (mask >> m_shift)) {}
 
-    [[nodiscard]] quint32 of(quint32 pixel) const { return m_bytes[(pixel & m_mask) >> m_shift]; }
+    [[nodiscard]] quint32 of(quint32 pixel) const {
+        return static_cast<quint32>(((pixel & m_mask) >> m_shift) * m_scale + 0.5);
+    }
 
   private:
     quint32 m_mask;
-    int m_shift = 0;
-    std::array<quint32, 256> m_bytes = {};
+    int m_shift;
+    double m_scale;
 };
 
 quint32 pixelAt(const uchar *row, qsizetype x, int bits) {

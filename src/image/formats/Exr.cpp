@@ -116,6 +116,7 @@ void storeRows(const LightRows &light, int first, int count, Raster &raster) {
     }
 }
 
+/// Where a channel's samples go; those of a colour that the file lacks are 0.
 Imf::Slice sliceOf(LightRows &light, int channel, const Imath::Box2i &window, int firstRow) {
     const size_t pixel = sizeof(float) * static_cast<size_t>(light.channels);
     const size_t row = pixel * static_cast<size_t>(window.max.x - window.min.x + 1);
@@ -123,7 +124,7 @@ Imf::Slice sliceOf(LightRows &light, int channel, const Imath::Box2i &window, in
     char *base = reinterpret_cast<char *>(light.samples.data() + channel) -
                  window.min.x * static_cast<ptrdiff_t>(pixel) -
                  firstRow * static_cast<ptrdiff_t>(row);
-    return {Imf::FLOAT, base, pixel, row, 1, 1, channel == light.channels - 1 ? 1.0 : 0.0};
+    return {Imf::FLOAT, base, pixel, row, 1, 1, 0.0};
 }
 
 void readPlainChannels(Imf::InputFile &input, const std::vector<const char *> &names,
