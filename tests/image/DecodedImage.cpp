@@ -179,6 +179,14 @@ QImage decoded(const PdfImage &image) {
     return picture;
 }
 
+QStringList warningsOf(const PdfImage &image) {
+    QStringList texts;
+    for (const Warning &warning : image.warnings) {
+        texts += warning.name() + u": "_s + warning.text;
+    }
+    return texts;
+}
+
 QString refusalOf(const QString &path) {
     try {
         toPdfImage(path);

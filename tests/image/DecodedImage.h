@@ -7,6 +7,7 @@
 #include <QByteArray>
 #include <QImage>
 #include <QString>
+#include <QStringList>
 
 namespace folioforge::test {
 
@@ -34,6 +35,9 @@ QByteArray pngChunk(const char *type, const QByteArray &content);
 
 /// The zlib stream `bytes` unpacked by Qt.
 QByteArray unzipped(const QByteArray &bytes);
+
+/// The warnings of an encoded image as "code: text".
+QStringList warningsOf(const PdfImage &image);
 
 /// The reason with which toPdfImage() refuses the file; empty where it does not.
 QString refusalOf(const QString &path);

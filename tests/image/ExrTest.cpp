@@ -7,7 +7,9 @@
 #include <ImfChannelList.h>
 #include <ImfFrameBuffer.h>
 #include <ImfHeader.h>
-#include <ImfOutputFile.h>
+#include <ImfMultiPartOutputFile.h>
+#include <ImfOutputPart.h>
+#include <ImfPartType.h>
 #include <ImfRgbaFile.h>
 #include <ImfStandardAttributes.h>
 #include <ImfTiledRgbaFile.h>
@@ -17,6 +19,7 @@
 #include <QTest>
 
 #include <limits>
+#include <string>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -77,21 +80,10 @@ class ExrTest : public QObject {
     }
 
     void brightnessAloneStaysGrey() {
-        const QString path = m_folder.filePath(u"grey.exr"_s);
-        {
-            Imf::Header header(2, 1);
-            header.channels().insert("Y", Imf::Channel(Imf::FLOAT));
-            Imf::OutputFile file(QFile::encodeName(path).constData(), header);
-            std::vector<float> row = {0.5F, 1.0F};
-            Imf::FrameBuffer buffer;
-            buffer.insert("Y", Imf::Slice(Imf::FLOAT, reinterpret_cast<char *>(row.data()),
-                                          sizeof(float), 0));
-            file.setFrameBuffer(buffer);
-            file.writePixels(1);
-        }
-        const PdfImage image = toPdfImage(path);
+        const PdfImage image = toPdfImage(oneChannel({{}}, "Y"));
         QCOMPARE(image.color, ImageColor::Gray);
-        QVERIFY(qAbs(deepPixel(image, 0).red - 48192) < 3);
+        QCOMPARE(deepPixel(image, 0).red, 65535);
+        QVERIFY(qAbs(deepPixel(image, 1).red - 48192) < 3);
     }
 
     void brightnessWithHalvedColorBecomesRgb() {
@@ -127,6 +119,27 @@ class ExrTest : public QObject {
         QCOMPARE(deepPixel(image, 38).red, 0);
     }
 
+    void missingColorsAreNone_data() {
+        QTest::addColumn<QByteArray>("channel");
+        QTest::newRow("red alone") << QByteArray("R");
+        QTest::newRow("green alone") << QByteArray("G");
+        QTest::newRow("blue alone") << QByteArray("B");
+    }
+
+    void missingColorsAreNone() {
+        QFETCH(const QByteArray, channel);
+        const Deep pixel = deepPixel(toPdfImage(oneChannel({{}}, channel)), 0);
+        QCOMPARE(pixel.red, channel == "R" ? 65535 : 0);
+        QCOMPARE(pixel.green, channel == "G" ? 65535 : 0);
+        QCOMPARE(pixel.blue, channel == "B" ? 65535 : 0);
+    }
+
+    void furtherPartsAreNamed() {
+        QCOMPARE(warningsOf(toPdfImage(oneChannel({{}}, "Y"))), QStringList());
+        QCOMPARE(warningsOf(toPdfImage(oneChannel({"left", "right", "depth"}, "Y"))),
+                 QStringList(u"more-pictures: 2 further parts are left out"_s));
+    }
+
     void windowMayBeginAnywhere() {
         Imf::Header header(2, 1);
         header.dataWindow() = Imath::Box2i({-7, 3}, {-6, 3});
@@ -153,6 +166,32 @@ class ExrTest : public QObject {
 
   private:
     QTemporaryDir m_folder;
+
+    /// Parts of these names, each with one channel of full and half light.
+    QString oneChannel(const std::vector<std::string> &parts, const QByteArray &channel) {
+        QString path = m_folder.filePath(u"channel.exr"_s);
+        std::vector<Imf::Header> headers;
+        for (const std::string &part : parts) {
+            Imf::Header header(2, 1);
+            header.setName(part);
+            header.setType(Imf::SCANLINEIMAGE);
+            header.channels().insert(channel.constData(), Imf::Channel(Imf::FLOAT));
+            headers.push_back(header);
+        }
+        Imf::MultiPartOutputFile file(QFile::encodeName(path).constData(), headers.data(),
+                                      static_cast<int>(headers.size()));
+        for (int number = 0; number < file.parts(); ++number) {
+            std::vector<float> row = {1.0F, 0.5F};
+            Imf::FrameBuffer buffer;
+            buffer.insert(
+                channel.constData(),
+                Imf::Slice(Imf::FLOAT, reinterpret_cast<char *>(row.data()), sizeof(float), 0));
+            Imf::OutputPart part(file, number);
+            part.setFrameBuffer(buffer);
+            part.writePixels(1);
+        }
+        return path;
+    }
 
     /// A row of pixels as an EXR file with these channels.
     QString exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels, Imf::Header header) {

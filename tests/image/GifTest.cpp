@@ -78,6 +78,19 @@ class GifTest : public QObject {
         QCOMPARE(rgbRows(image).toHex(), QByteArray("0000ff"));
     }
 
+    void picturesBehindTheFirstAreNamed() {
+        const QByteArray control = QByteArray::fromHex("21f904 00000000 00");
+        const QByteArray picture =
+            QByteArray::fromHex("2c 0000 0000 0100 0100 00") + codes(QByteArray(1, '\2'));
+        QCOMPARE(warningsOf(toPdfImage(gif("01000100", control + picture + comment() + ';'))),
+                 QStringList());
+        QCOMPARE(warningsOf(toPdfImage(gif("01000100", picture + comment() + picture + ';'))),
+                 QStringList(u"more-pictures: 1 further picture is left out"_s));
+        // Without the end, too.
+        QCOMPARE(warningsOf(toPdfImage(gif("01000100", (control + picture).repeated(5000)))),
+                 QStringList(u"more-pictures: 4999 further pictures are left out"_s));
+    }
+
     void dataThatEndsEarlyLeavesTheRowsBefore() {
         QByteArray bytes = QByteArray::fromHex("2c 0000 0000 0200 0200 00 02");
         const QByteArray data = codes(QByteArray::fromHex("00030003")).sliced(2).chopped(1);

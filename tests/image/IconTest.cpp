@@ -165,6 +165,60 @@ class IconTest : public QObject {
         QCOMPARE(decoded(image).pixel(0, 0), qRgb(60, 60, 60));
     }
 
+    void deepestOfEqualPngEntriesIsTaken() {
+        const QByteArray coarse = pngOf(QImage::Format_Indexed8, Qt::red);
+        const QByteArray deep = pngOf(QImage::Format_ARGB32, Qt::green);
+        const QByteArray classic = entry("is32", runs(256, 60).repeated(3));
+        const auto colorIn = [&](const QString &path) {
+            return decoded(toPdfImage(path)).pixelColor(0, 0);
+        };
+        QCOMPARE(colorIn(write("png.icns", icns(entry("icp4", coarse) + entry("ic04", deep)))),
+                 QColor(Qt::green));
+        QCOMPARE(colorIn(write("png.icns", icns(entry("icp4", coarse) + classic))),
+                 QColor(60, 60, 60));
+        QCOMPARE(colorIn(write("png.ico", ico({coarse, deep}))), QColor(Qt::green));
+        QCOMPARE(colorIn(write("png.ico", ico({deep, coarse}))), QColor(Qt::green));
+    }
+
+    void picturesLeftOutAreNamed() {
+        const QByteArray frame = bitmapFrame(24, QByteArray(96 + 16, '\0'));
+        QCOMPARE(warningsOf(toPdfImage(write("one.ico", ico({frame})))), QStringList());
+        QCOMPARE(warningsOf(toPdfImage(write("three.ico", ico({frame, frame, frame})))),
+                 QStringList(u"more-pictures: 2 further pictures are left out"_s));
+        const QByteArray grey = entry("is32", runs(256, 60).repeated(3));
+        // Opacity belongs to its picture.
+        QCOMPARE(warningsOf(toPdfImage(
+                     write("one.icns", icns(grey + entry("s8mk", QByteArray(256, '\x7f')))))),
+                 QStringList());
+        QCOMPARE(warningsOf(toPdfImage(
+                     write("two.icns", icns(grey + entry("ics8", QByteArray(256, '\x23')))))),
+                 QStringList(u"more-pictures: 1 further picture is left out"_s));
+    }
+
+    void picturesThatCannotBeReadAreNamed() {
+        const QString inIco = u"picture-damaged: 1 of the icon's 2 pictures cannot be read"_s;
+        const QByteArray frame = bitmapFrame(24, QByteArray(96 + 16, '\0'));
+        QVERIFY(warningsOf(toPdfImage(write("bad.ico", ico({QByteArray(50, '\x55'), frame}))))
+                    .contains(inIco));
+        const QByteArray grey = entry("is32", runs(256, 60).repeated(3));
+        const QByteArray png = pngOf(QImage::Format_ARGB32, Qt::green).first(30);
+        QVERIFY(warningsOf(toPdfImage(write("bad.icns", icns(grey + entry("ic07", png)))))
+                    .contains(inIco));
+    }
+
+    void entriesBehindTheEndAreNamed() {
+        const QByteArray grey = entry("is32", runs(256, 60).repeated(3));
+        const QByteArray whole = icns(grey + entry("ics8", QByteArray(256, '\x23')));
+        for (const qsizetype cut : {1, 258, 264}) { // In its bytes, in its lead, before it.
+            const QStringList warnings =
+                warningsOf(toPdfImage(write("cut.icns", whole.chopped(cut))));
+            QCOMPARE(warnings.size(), 1);
+            QVERIFY(warnings.first().startsWith(u"picture-damaged: The icon file is cut off"_s));
+        }
+        QCOMPARE(warningsOf(toPdfImage(write("zeros.icns", icns(grey) + QByteArray(16, '\0')))),
+                 QStringList());
+    }
+
     void newerEntryHasItsOwnOpacity() {
         const QByteArray planes = runs(256, 9) + runs(256, 10) + runs(256, 20) + runs(256, 30);
         const PdfImage image =
@@ -239,6 +293,19 @@ class IconTest : public QObject {
 
   private:
     QTemporaryDir m_folder;
+
+    /// A PNG file of 16 pixels a side that Qt writes.
+    static QByteArray pngOf(QImage::Format format, const QColor &color) {
+        QImage picture(16, 16, format);
+        if (format == QImage::Format_Indexed8) {
+            picture.setColorTable({color.rgb()});
+        }
+        picture.fill(format == QImage::Format_Indexed8 ? 0U : color.rgba());
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        picture.save(&buffer, "png");
+        return bytes;
+    }
 
     QString write(const char *name, const QByteArray &bytes) {
         return writeFile(m_folder.filePath(QString::fromLatin1(name)), bytes);

@@ -37,6 +37,22 @@ class PngTest : public QObject {
         QCOMPARE(qGray(mask.pixel(4, 2)), 255);
     }
 
+    void framesOfAnAnimationAreNamed() {
+        const QByteArray still = bytesOf(imageFile(u"colour.png"_s));
+        const auto framesOf = [&](char count, bool isPictureFirst) {
+            QByteArray chunks = pngChunk("acTL", QByteArray(3, '\0') + count + QByteArray(4, '\0'));
+            const QByteArray control = pngChunk("fcTL", QByteArray(26, '\0'));
+            chunks += isPictureFirst ? control : QByteArray();
+            QByteArray bytes = still;
+            bytes.insert(33, chunks); // Behind the header's chunk.
+            return warningsOf(toPdfImage(write(bytes.insert(bytes.size() - 12, control))));
+        };
+        QCOMPARE(warningsOf(toPdfImage(write(still))), QStringList());
+        QCOMPARE(framesOf(3, true), QStringList(u"more-pictures: 2 further frames are left out"_s));
+        QCOMPARE(framesOf(1, true), QStringList());
+        QCOMPARE(framesOf(1, false), QStringList(u"more-pictures: 1 further frame is left out"_s));
+    }
+
     void filteredRowsAreDealtOutForEachChannel() {
         // Each row of the picture asks for another filter, so that libpng uses them all.
         QImage picture(64, 40, QImage::Format_ARGB32);

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QtEndian>
 
 #include <tiffio.h>
 
@@ -132,6 +133,53 @@ class TiffTest : public QObject {
         QCOMPARE(image.decode[2], -128.0);
     }
 
+    void furtherPagesAreNamed_data() {
+        QTest::addColumn<QByteArray>("mode");
+        QTest::addColumn<int>("pages");
+        QTest::addColumn<QStringList>("warnings");
+        const auto add = [](const char *mode, int pages, const QStringList &warnings) {
+            QTest::addRow("%d pages, %s", pages, mode) << QByteArray(mode) << pages << warnings;
+        };
+        for (const char *mode : {"l", "b", "8l", "8b"}) {
+            add(mode, 1, {});
+            add(mode, 2, {u"more-pictures: 1 further page is left out"_s});
+            add(mode, 12, {u"more-pictures: 11 further pages are left out"_s});
+        }
+    }
+
+    void furtherPagesAreNamed() {
+        QFETCH(const QByteArray, mode);
+        QFETCH(const int, pages);
+        QFETCH(const QStringList, warnings);
+        const QString path = pagesOf(mode, std::vector<int>(static_cast<size_t>(pages), 0));
+        QCOMPARE(warningsOf(toPdfImage(path)), warnings);
+    }
+
+    void smallerCopiesAndMasksAreNoPages() {
+        const QString path = pagesOf("l", {0, FILETYPE_REDUCEDIMAGE, FILETYPE_MASK, FILETYPE_PAGE});
+        QCOMPARE(warningsOf(toPdfImage(path)),
+                 QStringList(u"more-pictures: 1 further page is left out"_s));
+    }
+
+    void pagesBehindTheEndAreNamed() {
+        const QString path = pagesOf("l", {0, 0, 0});
+        const QByteArray bytes = bytesOf(path);
+        // The last directory ends with 0, as no other follows: half of it is not there.
+        const QString cut = writeFile(m_folder.filePath(u"cut.tif"_s), bytes.chopped(60));
+        QCOMPARE(warningsOf(toPdfImage(cut)).first(),
+                 u"picture-damaged: The file names a further page that cannot be read"_s);
+    }
+
+    void pagesThatLeadBackEnd() {
+        QByteArray bytes = bytesOf(pagesOf("l", {0}));
+        const qsizetype first = qFromLittleEndian<quint32>(bytes.constData() + 4);
+        const qsizetype next =
+            first + 2 + 12 * qFromLittleEndian<quint16>(bytes.constData() + first);
+        qToLittleEndian(static_cast<quint32>(first), bytes.data() + next);
+        const QString path = writeFile(m_folder.filePath(u"circle.tif"_s), bytes);
+        QCOMPARE(warningsOf(toPdfImage(path)), QStringList());
+    }
+
     void shortDataIsRefused() {
         const QString path = tiff(20000, 20000, QByteArray(2000, 'x'),
                                   [](TIFF *tif) { setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR); });
@@ -140,6 +188,23 @@ class TiffTest : public QObject {
 
   private:
     QTemporaryDir m_folder;
+
+    /// A file with a page of each of these kinds (tag 254), written by libtiff in this mode.
+    QString pagesOf(const QByteArray &mode, const std::vector<int> &kinds) {
+        QString path = m_folder.filePath(u"pages.tif"_s);
+        const std::unique_ptr<TIFF, Close> tif(
+            TIFFOpen(QFile::encodeName(path).constData(), ("w" + mode).constData()));
+        for (const int kind : kinds) {
+            setSamples(tif.get(), 1, 8, PHOTOMETRIC_MINISBLACK);
+            TIFFSetField(tif.get(), TIFFTAG_SUBFILETYPE, kind);
+            TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, 2);
+            TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, 1);
+            QByteArray row("\1\2", 2);
+            TIFFWriteEncodedStrip(tif.get(), 0, row.data(), row.size());
+            TIFFWriteDirectory(tif.get());
+        }
+        return path;
+    }
 
     /// One strip of `data`; `setUp` adds what the picture needs.
     template<typename SetUp>

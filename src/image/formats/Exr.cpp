@@ -3,6 +3,7 @@
 #include "image/formats/Formats.h"
 
 #include "error/Error.h"
+#include "image/MorePictures.h"
 #include "image/Raster.h"
 #include "image/formats/LinearLight.h"
 
@@ -11,6 +12,7 @@
 #include <ImfHeader.h>
 #include <ImfIO.h>
 #include <ImfInputFile.h>
+#include <ImfMultiPartInputFile.h>
 #include <ImfRgbaFile.h>
 #include <ImfStandardAttributes.h>
 
@@ -202,6 +204,13 @@ Raster readPixels(const FileView &file, Imf::InputFile &input, const ImageHeader
     return raster;
 }
 
+int partsOf(const FileView &file) {
+    return reading([&] {
+        ExrStream stream(file);
+        return Imf::MultiPartInputFile(stream).parts();
+    });
+}
+
 bool recognises(QByteArrayView head) {
     return head.startsWith("\x76\x2F\x31\x01");
 }
@@ -214,7 +223,9 @@ PdfImage toPdfImage(const FileView &file) {
         header = headerOf(input.header());
         return readPixels(file, input, header);
     });
-    return encodeRaster(std::move(raster), header);
+    PdfImage image = encodeRaster(std::move(raster), header);
+    addMorePictures(image.warnings, partsOf(file) - 1, QLatin1StringView("part"));
+    return image;
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
+#include "image/MorePictures.h"
 #include "image/formats/ArgbImage.h"
 
 #include <gif_lib.h>
@@ -23,7 +24,7 @@ constexpr Argb kTransparent = 0x00FFFFFF;
 class GifFile {
   public:
     explicit GifFile(const FileView &file)
-        : m_state(new State{file})
+        : m_state(new State{file, 0, {}, 0})
         , m_handle(DGifOpen(m_state.get(), read, nullptr)) {
         if (!m_handle) {
             fail();
@@ -50,10 +51,26 @@ class GifFile {
         }
     }
 
+    /// The pictures behind the current one, whose rows have been read.
+    [[nodiscard]] qint64 countFurtherPictures() const {
+        qint64 pictures = 0;
+        GifRecordType type = UNDEFINED_RECORD_TYPE;
+        while (DGifGetRecordType(handle(), &type) == GIF_OK && type != TERMINATE_RECORD_TYPE) {
+            const bool isPicture = type == IMAGE_DESC_RECORD_TYPE;
+            if (!(isPicture ? skipPicture() : skipExtension())) {
+                break;
+            }
+            pictures += isPicture ? 1 : 0;
+        }
+        return pictures;
+    }
+
   private:
     struct State {
         FileView file;
         qint64 at = 0;
+        QByteArray ahead; ///< Bytes up to `aheadEnd`: giflib asks for 255 at most.
+        qint64 aheadEnd = 0;
     };
     struct Close {
         void operator()(GifFileType *gif) const { DGifCloseFile(gif, nullptr); }
@@ -62,8 +79,13 @@ class GifFile {
     static int read(GifFileType *gif, GifByteType *target, int size) {
         auto &state = *static_cast<State *>(gif->UserData);
         try {
-            const qint64 got =
-                state.file.readInto(state.at, {target, static_cast<size_t>(std::max(size, 0))});
+            constexpr qint64 kBytesAhead = 1 << 16;
+            if (state.aheadEnd - state.at < size) {
+                state.ahead = state.file.read(state.at, std::max<qint64>(kBytesAhead, size));
+                state.aheadEnd = state.at + state.ahead.size();
+            }
+            const auto got = std::clamp<qint64>(size, 0, state.aheadEnd - state.at);
+            std::copy_n(state.ahead.cend() - (state.aheadEnd - state.at), got, target);
             state.at += got;
             return static_cast<int>(got);
         } catch (const Error &) {
@@ -90,6 +112,27 @@ class GifFile {
             }
             require(DGifGetExtensionNext(handle(), &block));
         }
+    }
+
+    [[nodiscard]] bool skipPicture() const {
+        int codeBits = 0;
+        GifByteType *block = nullptr;
+        bool isWhole = DGifGetImageDesc(handle()) == GIF_OK &&
+                       DGifGetCode(handle(), &codeBits, &block) == GIF_OK;
+        while (isWhole && block != nullptr) {
+            isWhole = DGifGetCodeNext(handle(), &block) == GIF_OK;
+        }
+        return isWhole;
+    }
+
+    [[nodiscard]] bool skipExtension() const {
+        int kind = 0;
+        GifByteType *block = nullptr;
+        bool isWhole = DGifGetExtension(handle(), &kind, &block) == GIF_OK;
+        while (isWhole && block != nullptr) {
+            isWhole = DGifGetExtensionNext(handle(), &block) == GIF_OK;
+        }
+        return isWhole;
     }
 
     std::unique_ptr<State> m_state; ///< giflib holds its address.
@@ -191,7 +234,9 @@ PdfImage toPdfImage(const FileView &file) {
     ArgbImage screen{header.width, header.height, transparent >= 0, {}};
     screen.pixels.assign(static_cast<size_t>(pixels), backgroundOf(gif, transparent));
     drawPicture(gif, transparent, screen);
-    return encodeRaster(rasterOf(screen), header);
+    PdfImage image = encodeRaster(rasterOf(screen), header);
+    addMorePictures(image.warnings, gif.countFurtherPictures(), QLatin1StringView("picture"));
+    return image;
 }
 
 bool recognises(QByteArrayView head) {

@@ -3,6 +3,7 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
+#include "image/MorePictures.h"
 #include "image/formats/IcnsPixels.h"
 
 #include <optional>
@@ -28,17 +29,25 @@ struct Candidate {
     }
 };
 
-std::vector<IcnsEntry> entriesOf(const FileView &file) {
-    constexpr qint64 kLead = 8;
+struct Entries {
+    std::vector<IcnsEntry> all;
+    bool isCutOff = false; ///< Others may have stood in the file.
+};
+
+Entries entriesOf(const FileView &file) {
+    constexpr qint64 kLead = 8;          // Type and length, of the file and of each entry.
     constexpr size_t kMaxEntries = 1000; // There are about 40 types.
-    std::vector<IcnsEntry> entries;
-    for (qint64 at = kLead; at + kLead <= file.size() && entries.size() < kMaxEntries;) {
+    const qint64 stated = bigEndianAt<quint32>(file.readExactly(0, kLead), 4);
+    Entries entries{{}, stated > file.size()};
+    for (qint64 at = kLead; at + kLead <= file.size() && entries.all.size() < kMaxEntries;) {
         const QByteArray lead = file.readExactly(at, kLead);
         const qint64 length = bigEndianAt<quint32>(lead, 4);
         if (length < kLead || length > file.size() - at) {
-            break; // What came before a damaged entry can still be shown.
+            // What came before a damaged entry can still be shown.
+            entries.isCutOff = entries.isCutOff || at < stated;
+            break;
         }
-        entries.push_back({lead.first(4), file.part(at + kLead, length - kLead)});
+        entries.all.push_back({lead.first(4), file.part(at + kLead, length - kLead)});
         at += length;
     }
     return entries;
@@ -48,9 +57,10 @@ std::optional<Candidate> candidateOf(const IcnsEntry &entry) {
     const QByteArray head = entry.content.read(0, kSniffedBytes);
     for (const ImageFormat &format : {pngFormat(), jpeg2000Format()}) {
         if (format.recognises(head)) {
-            constexpr int kDeeperThanClassic = 64;
-            return Candidate{format.readHeader(entry.content), kDeeperThanClassic, entry.content,
-                             format, std::nullopt};
+            constexpr int kJpeg2000Bits = 32; // Such entries have full colour and opacity.
+            const int bits = format.kind == ImageKind::Png ? pngPixelBits(head) : kJpeg2000Bits;
+            return Candidate{format.readHeader(entry.content), bits, entry.content, format,
+                             std::nullopt};
         }
     }
     const auto classic = classicIconOf(entry.type);
@@ -64,22 +74,34 @@ std::optional<Candidate> candidateOf(const IcnsEntry &entry) {
     return candidate;
 }
 
-Candidate largestOf(const std::vector<IcnsEntry> &entries) {
+/// The picture to show, and what is said of the others.
+struct Choice {
+    Candidate picture;
+    Warnings warnings;
+};
+
+Choice largestOf(const std::vector<IcnsEntry> &entries) {
     std::optional<Candidate> largest;
+    int pictures = 0;
+    int unreadable = 0;
     for (const IcnsEntry &entry : entries) {
         try {
             const auto candidate = candidateOf(entry);
+            pictures += candidate ? 1 : 0;
             if (candidate && (!largest || candidate->rank() > largest->rank())) {
                 largest = candidate;
             }
         } catch (const Error &) {
-            // A damaged entry leaves the others.
+            ++unreadable; // A damaged entry leaves the others.
         }
     }
     if (!largest) {
         throw Error(u"The icon file holds no picture that can be read"_s);
     }
-    return *largest;
+    Choice choice{*largest, {}};
+    addMorePictures(choice.warnings, pictures + unreadable - 1, QLatin1StringView("picture"));
+    addUnreadablePictures(choice.warnings, unreadable, pictures + unreadable);
+    return choice;
 }
 
 bool recognises(QByteArrayView head) {
@@ -87,17 +109,24 @@ bool recognises(QByteArrayView head) {
 }
 
 ImageHeader readHeader(const FileView &file) {
-    return largestOf(entriesOf(file)).header;
+    return largestOf(entriesOf(file).all).picture.header;
 }
 
 PdfImage toPdfImage(const FileView &file) {
-    const std::vector<IcnsEntry> entries = entriesOf(file);
-    const Candidate largest = largestOf(entries);
-    if (largest.format) {
-        return largest.format->toPdfImage(largest.content);
+    const Entries entries = entriesOf(file);
+    const auto [largest, warnings] = largestOf(entries.all);
+    PdfImage image =
+        largest.format
+            ? largest.format->toPdfImage(largest.content)
+            : encodeRaster(decodeClassicIcon(*largest.classic, largest.content, entries.all),
+                           largest.header);
+    image.warnings.insert(image.warnings.end(), warnings.begin(), warnings.end());
+    if (entries.isCutOff) {
+        image.warnings.push_back({WarningCode::PictureDamaged,
+                                  u"The icon file is cut off or damaged: there may be a larger "
+                                  u"picture in the part that is missing"_s});
     }
-    return encodeRaster(decodeClassicIcon(*largest.classic, largest.content, entries),
-                        largest.header);
+    return image;
 }
 
 } // namespace

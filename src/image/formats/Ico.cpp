@@ -3,6 +3,7 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
+#include "image/MorePictures.h"
 #include "image/formats/Dib.h"
 
 #include <algorithm>
@@ -29,9 +30,9 @@ struct Frame {
 };
 
 Frame frameOf(const FileView &content) {
-    if (pngFormat().recognises(content.read(0, kSniffedBytes))) {
-        constexpr int kDeeperThanBitmaps = 64;
-        return {pngFormat().readHeader(content), kDeeperThanBitmaps, content, std::nullopt};
+    const QByteArray head = content.read(0, kSniffedBytes);
+    if (pngFormat().recognises(head)) {
+        return {pngFormat().readHeader(content), pngPixelBits(head), content, std::nullopt};
     }
     constexpr quint32 kMinHeader = 40;
     DibHeader bitmap = readDibHeader(content);
@@ -46,7 +47,13 @@ Frame frameOf(const FileView &content) {
     return {checkedHeader(header), bitmap.bits, content, bitmap};
 }
 
-Frame largestFrame(const FileView &file) {
+/// The frame to show, and what is said of the others.
+struct Choice {
+    Frame frame;
+    Warnings warnings;
+};
+
+Choice largestFrame(const FileView &file) {
     constexpr qint64 kDirectory = 6;
     constexpr qint64 kEntryBytes = 16;
     // The largest icons hold some 30 frames. All of a hostile one's may lie in one another, and
@@ -56,10 +63,12 @@ Frame largestFrame(const FileView &file) {
     const int count = std::min(stated, kMaxFrames);
     const QByteArray entries = file.read(kDirectory, count * kEntryBytes);
     std::optional<Frame> largest;
+    int readable = 0;
     for (qsizetype at = 0; at + kEntryBytes <= entries.size(); at += kEntryBytes) {
         const qint64 start = littleEndianAt<quint32>(entries, at + 12);
         try {
             const Frame frame = frameOf(file.part(start, file.size() - start));
+            ++readable;
             if (!largest || frame.rank() > largest->rank()) {
                 largest = frame;
             }
@@ -70,11 +79,10 @@ Frame largestFrame(const FileView &file) {
     if (!largest) {
         throw Error(u"The icon file holds no picture that can be read"_s);
     }
-    return *largest;
-}
-
-bool hasOpacity(const ArgbImage &picture) {
-    return std::ranges::any_of(picture.pixels, [](Argb color) { return color >> 24 != 0; });
+    Choice choice{*largest, {}};
+    addMorePictures(choice.warnings, stated - 1, QLatin1StringView("picture"));
+    addUnreadablePictures(choice.warnings, count - readable, count);
+    return choice;
 }
 
 /// Opacity of all or nothing by the bits below the colours; full where the file ends before them.
@@ -110,7 +118,7 @@ ArgbImage readBitmap(const FileView &content, DibHeader bitmap) {
     ArgbImage picture = bitmap.bits > 8 ? readColorDib(content, bitmap, at)
                                         : argbOf(readIndexedDib(content, bitmap, at));
     picture.hasAlpha = true;
-    if (bitmap.bits < 32 || !hasOpacity(picture)) {
+    if (bitmap.bits < 32 || !picture.isVisible()) {
         applyMask(content, bitmap, end, picture);
     }
     return picture;
@@ -122,15 +130,16 @@ bool recognises(QByteArrayView head) {
 }
 
 ImageHeader readHeader(const FileView &file) {
-    return largestFrame(file).header;
+    return largestFrame(file).frame.header;
 }
 
 PdfImage toPdfImage(const FileView &file) {
-    const Frame frame = largestFrame(file);
-    if (!frame.bitmap) {
-        return pngFormat().toPdfImage(frame.content);
-    }
-    return encodeRaster(rasterOf(readBitmap(frame.content, *frame.bitmap)), frame.header);
+    const auto [frame, warnings] = largestFrame(file);
+    PdfImage image = frame.bitmap ? encodeRaster(rasterOf(readBitmap(frame.content, *frame.bitmap)),
+                                                 frame.header)
+                                  : pngFormat().toPdfImage(frame.content);
+    image.warnings.insert(image.warnings.end(), warnings.begin(), warnings.end());
+    return image;
 }
 
 } // namespace

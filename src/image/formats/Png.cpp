@@ -6,6 +6,7 @@
 #include "image/Deflate.h"
 #include "image/Exif.h"
 #include "image/IccProfile.h"
+#include "image/MorePictures.h"
 #include "image/Parallel.h"
 #include "image/Raster.h"
 #include "image/RowFilter.h"
@@ -39,6 +40,7 @@ struct PngMetadata {
     QByteArray iccProfile;
     std::vector<FileSlice> data; ///< The IDAT chunks, from the start of the view.
     bool ended = false;          ///< The chunks were read up to IEND.
+    qint64 frames = 0;           ///< Of an animation beside the picture.
 
     [[nodiscard]] int channels() const {
         switch (colorType) {
@@ -118,13 +120,17 @@ void readChunk(QByteArrayView type, QByteArrayView chunk, PngMetadata &metadata)
         readDensity(chunk, metadata);
     } else if (type == "iCCP") {
         readProfile(chunk, metadata);
+    } else if (type == "acTL") {
+        metadata.frames += bigEndianAt<quint32>(chunk, 0);
+    } else if (type == "fcTL" && metadata.data.empty()) {
+        metadata.frames -= 1; // Its first frame is the picture.
     } else if (type == "eXIf") {
         metadata.header.orientation = readExif(chunk).orientation;
     }
 }
 
 bool isMetadata(QByteArrayView type) {
-    for (const char *name : {"IHDR", "PLTE", "tRNS", "pHYs", "iCCP", "eXIf"}) {
+    for (const char *name : {"IHDR", "PLTE", "tRNS", "pHYs", "iCCP", "eXIf", "acTL", "fcTL"}) {
         if (type == name) {
             return true;
         }
@@ -368,13 +374,21 @@ ImageHeader readHeader(const FileView &file) {
 
 PdfImage toPdfImage(const FileView &file) {
     const PngMetadata metadata = readMetadata(file, Reading::Pixels);
-    if (metadata.interlaced) {
-        return withInterlacedRows(file, metadata);
-    }
-    return metadata.hasAlphaChannel() ? withSplitRows(file, metadata) : withOwnRows(file, metadata);
+    PdfImage image = metadata.interlaced          ? withInterlacedRows(file, metadata)
+                     : metadata.hasAlphaChannel() ? withSplitRows(file, metadata)
+                                                  : withOwnRows(file, metadata);
+    addMorePictures(image.warnings, metadata.frames, QLatin1StringView("frame"));
+    return image;
 }
 
 } // namespace
+
+int pngPixelBits(QByteArrayView head) {
+    constexpr qsizetype kHeaderChunkAt = kSignatureBytes + 8;
+    PngMetadata metadata;
+    readImageHeaderChunk(head.sliced(std::min(head.size(), kHeaderChunkAt)), metadata);
+    return metadata.bits * metadata.channels();
+}
 
 ImageFormat pngFormat() {
     return {ImageKind::Png, {QLatin1StringView("png")}, recognises, readHeader, toPdfImage};

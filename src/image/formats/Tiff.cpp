@@ -90,11 +90,10 @@ PdfImage toPdfImage(const FileView &file) {
     const TiffFile tiff(file);
     const TiffShape shape = readTiffShape(tiff);
     const ImageHeader header = imageHeaderOf(tiff, shape);
-    if (!isPlainGroup4(tiff, shape)) {
-        return encodeRaster(decodeTiff(tiff, shape), header);
-    }
-    PdfImage image = encodeGroup4(file, tiff, shape);
+    PdfImage image = isPlainGroup4(tiff, shape) ? encodeGroup4(file, tiff, shape)
+                                                : encodeRaster(decodeTiff(tiff, shape), header);
     image.header = header;
+    addFurtherPages(file, image.warnings);
     return image;
 }
 

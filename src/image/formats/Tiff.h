@@ -79,6 +79,10 @@ void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw)
 /// where the file is too short for its pixels.
 std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape);
 
+/// Adds what the file holds behind its first page, which is left out: smaller copies and masks of
+/// a page do not count.
+void addFurtherPages(const FileView &file, Warnings &warnings);
+
 /// Decodes the first directory. Throws Error.
 Raster decodeTiff(const TiffFile &tiff, const TiffShape &shape);
 
