@@ -13,9 +13,33 @@ namespace folioforge {
 
 namespace {
 
-/// Whether a key points into the structure tree, which is not copied.
-bool pointsIntoStructure(const std::string &key) {
-    return key == "/StructParent" || key == "/StructParents" || key == "/SE" || key == "/SD";
+using Dictionary = std::map<std::string, QPDFObjectHandle>;
+
+QPDFObjectHandle entry(const Dictionary &dictionary, const std::string &key) {
+    const auto found = dictionary.find(key);
+    return found == dictionary.end() ? QPDFObjectHandle::newNull() : found->second;
+}
+
+bool isGoTo(const Dictionary &dictionary) {
+    return entry(dictionary, "/S").isNameAndEquals("/GoTo");
+}
+
+/// Whether an entry points into the structure tree, which is not copied: of pages and of what has a
+/// subtype (annotations, forms, images) by number, of bookmarks and of actions by reference. The
+/// same keys may name anything else in other dictionaries, such as fonts in resources.
+bool pointsIntoStructure(const Dictionary &dictionary, const std::string &key) {
+    if (key == "/StructParent" || key == "/StructParents") {
+        return entry(dictionary, key).isInteger() &&
+               (entry(dictionary, "/Subtype").isName() ||
+                entry(dictionary, "/Type").isNameAndEquals("/Page"));
+    }
+    if (key == "/SE") {
+        return entry(dictionary, "/Title").isString();
+    }
+    static constexpr std::array kJumps{"/GoTo", "/GoToR", "/GoToE"};
+    return key == "/SD" && std::ranges::any_of(kJumps, [&](const char *kind) {
+               return entry(dictionary, "/S").isNameAndEquals(kind);
+           });
 }
 
 /// Whether `object` belongs to the source document as a whole and is not copied.
@@ -28,11 +52,6 @@ bool isLeftOut(QPDFObjectHandle object) {
     auto type = object.getKey("/Type");
     return type.isName() &&
            std::ranges::any_of(kTypes, [&](const char *name) { return type.getName() == name; });
-}
-
-bool isGoTo(const std::map<std::string, QPDFObjectHandle> &dictionary) {
-    const auto kind = dictionary.find("/S");
-    return kind != dictionary.end() && QPDFObjectHandle(kind->second).isNameAndEquals("/GoTo");
 }
 
 } // namespace
@@ -65,12 +84,11 @@ std::vector<QPDFObjectHandle> ObjectCopier::copyPages() {
 void ObjectCopier::fillPage(const SourcePage &source, QPDFObjectHandle target) {
     auto entries = QPDFObjectHandle(source.page).getDictAsMap();
     entries.erase("/Parent");
-    entries.erase("/Type");
+    entries["/Type"] = QPDFObjectHandle::newName("/Page");
     auto copied = copyDictionary(entries);
     for (const auto &[key, value] : copied.getDictAsMap()) {
         target.replaceKey(key, value);
     }
-    target.replaceKey("/Type", QPDFObjectHandle::newName("/Page"));
     for (const auto &[key, inherited] : *source.inherited) {
         if (!target.hasKey(key)) {
             target.replaceKey(key, copyInherited(inherited));
@@ -161,7 +179,7 @@ QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
     const bool goTo = isGoTo(dictionary);
     auto target = QPDFObjectHandle::newDictionary();
     for (const auto &[key, value] : dictionary) {
-        if (pointsIntoStructure(key)) {
+        if (pointsIntoStructure(dictionary, key)) {
             continue;
         }
         const bool destination = key == "/Dest" || (goTo && key == "/D");

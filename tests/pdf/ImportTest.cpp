@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "MergeCase.h"
+#include "support/TestUnit.h"
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// What the copy of a document keeps, and what two copies share.
+class ImportTest : public QObject, protected MergeCase {
+    Q_OBJECT
+
+    /// A document of one page with `keys`, whose content is object 5.
+    static PdfFixture onePage(const QByteArray &pageKeys, const QByteArray &catalogKeys = {}) {
+        PdfFixture fixture;
+        fixture.object(1, "<< /Type /Catalog /Pages 2 0 R " + catalogKeys + " >>").pages(4, 1);
+        return fixture.object(4, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] /Contents 5 "
+                                 "0 R " +
+                                     pageKeys + " >>");
+    }
+
+    static QPDFObjectHandle page(QPDF &document, std::size_t index = 0) {
+        return document.getAllPages().at(index);
+    }
+
+  private Q_SLOTS:
+    void resourcesNamedLikeKeysOfTheStructureAreKept() {
+        auto source = onePage("/StructParents 0 /Resources << /Font << /SE 3 0 R /Title 3 0 R "
+                              "/StructParent 3 0 R >> /XObject << /SD 20 0 R /StructParents 20 0 R "
+                              ">> >>");
+        source.stream(5, {}, "BT /SE 40 Tf 20 40 Td (A) Tj ET /SD Do /StructParents Do");
+        source.stream(20, "/Type /XObject /Subtype /Form /BBox [0 0 200 100]",
+                      "1 0 0 rg 100 0 100 100 re f");
+        const QString path = saved(source);
+        const QString result = merged({path});
+        QCOMPARE(PdfProbe(result).render(1), PdfProbe(path).render(1));
+        QCOMPARE(PdfProbe(result).text(1).trimmed(), u"A"_s);
+        QCOMPARE(PdfProbe(result).render(1).pixelColor(150, 50), QColor(Qt::red));
+        const auto document = opened(result);
+        auto resources = page(*document).getKey("/Resources");
+        QCOMPARE(resources.getKey("/Font").getKeys().size(), 3U);
+        QCOMPARE(resources.getKey("/XObject").getKeys().size(), 2U);
+        QVERIFY(!page(*document).hasKey("/StructParents"));
+    }
+
+    void statesOfABoxNamedLikeKeysOfTheStructureAreKept() {
+        auto source = onePage("/Annots [20 0 R]", "/AcroForm << /Fields [20 0 R] >>");
+        source.object(20, "<< /Type /Annot /Subtype /Widget /FT /Btn /T (box) /V /SE /AS /SE /F 4 "
+                          "/StructParent 3 /Rect [0 0 200 100] /AP << /N << /SE 21 0 R /Off 22 0 "
+                          "R >> >> >>");
+        source.stream(21, "/Type /XObject /Subtype /Form /BBox [0 0 200 100] /StructParents 4",
+                      "0 0 1 rg 0 0 200 100 re f");
+        source.stream(22, "/Type /XObject /Subtype /Form /BBox [0 0 200 100]", {});
+        const QString result = merged({saved(source)});
+        QCOMPARE(PdfProbe(result).render(1).pixelColor(100, 50), QColor(Qt::blue));
+        QVERIFY(!PdfProbe(result).json().contains("StructParent"));
+    }
+
+    void bookmarksAndActionsDoNotLeadIntoTheStructure() {
+        auto source = onePage("/Annots [22 0 R]", "/Outlines 20 0 R /StructTreeRoot 30 0 R");
+        source.object(20, "<< /First 21 0 R /Last 21 0 R /Count 1 >>");
+        source.object(21, "<< /Title (One) /Parent 20 0 R /SE 31 0 R /Dest [4 0 R /Fit] >>");
+        source.object(22, "<< /Type /Annot /Subtype /Link /Rect [0 0 9 9] /A << /S /GoTo /D [4 0 R "
+                          "/Fit] /SD [31 0 R /Fit] >> >>");
+        source.object(30, "<< /K 31 0 R >>");
+        source.object(31, "<< /S /P /P 30 0 R /Alt (of the structure) >>");
+        const QByteArray objects = PdfProbe(merged({saved(source)})).json();
+        QVERIFY(objects.contains("(One)") || objects.contains("u:One"));
+        QVERIFY(!objects.contains("of the structure"));
+    }
+};
+
+FOLIOFORGE_TEST(ImportTest)
+#include "ImportTest.moc"
