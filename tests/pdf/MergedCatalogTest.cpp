@@ -176,6 +176,23 @@ class MergedCatalogTest : public QObject {
         QCOMPARE(second.getKey("/DA").getStringValue(), std::string("/F_2 9 Tf"));
     }
 
+    void aDefaultAppearanceFollowsTheRenamesOfItsOwnCategories() {
+        const PdfFixture first = withForm(
+            "/DR << /Font << /F 3 0 R >> /ColorSpace << /C /DeviceRGB /F /DeviceRGB >> >>");
+        const PdfFixture second =
+            withForm("/DR << /Font << /C 3 0 R /A#20B 3 0 R >> /ColorSpace << /C /DeviceGray >> >> "
+                     "/DA (/F cs /C 9 Tf /C cs \\(/C\\) Tj /A#20B 7 Tf)");
+        const PdfFixture third = withForm("/DR << /Font << /A#20B 3 0 R /F 3 0 R >> >> /DA (/A#20B "
+                                          "7 Tf /F 9 Tf /F cs)");
+        const auto document = merged({first, second, third});
+        const auto fields = catalogEntry(*document, "/AcroForm", "/Fields").getArrayAsVector();
+        const auto appearance = [&](std::size_t field) {
+            return QPDFObjectHandle(fields.at(field)).getKey("/DA").getStringValue();
+        };
+        QCOMPARE(appearance(1), std::string("/F cs /C 9 Tf /C_2 cs (/C) Tj /A#20B 7 Tf"));
+        QCOMPARE(appearance(2), std::string("/A#20B_2 7 Tf /F_2 9 Tf /F cs"));
+    }
+
     void labelsBehindTheLastPageAreLeftOut() {
         const auto document =
             merged({withCatalog("/PageLabels << /Nums [0 << /S /r >> 1 << /S /a >>] >>")});

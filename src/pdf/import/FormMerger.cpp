@@ -2,8 +2,11 @@
 
 #include "pdf/import/FormMerger.h"
 
+#include <qpdf/BufferInputSource.hh>
 #include <qpdf/QPDF.hh>
+#include <qpdf/QPDFTokenizer.hh>
 
+#include <memory>
 #include <vector>
 
 namespace folioforge {
@@ -11,29 +14,53 @@ namespace folioforge {
 namespace {
 
 using Renames = std::map<std::string, std::string>;
+using CategoryRenames = std::map<std::string, Renames>; ///< By category, such as /Font.
 
-/// A default appearance, such as "/Helv 12 Tf 0 g", with its names renamed.
-std::string renamedAppearance(const std::string &appearance, const Renames &renames) {
-    constexpr std::string_view kDelimiters = " \t\r\n\f()<>[]{}/%";
+/// The category of the resource that an operator of a default appearance names; empty for none.
+std::string categoryOf(const std::string &operation) {
+    static const std::map<std::string, std::string> kCategories{
+        {"Tf", "/Font"},       {"gs", "/ExtGState"}, {"cs", "/ColorSpace"},
+        {"CS", "/ColorSpace"}, {"scn", "/Pattern"},  {"SCN", "/Pattern"}};
+    const auto found = kCategories.find(operation);
+    return found == kCategories.end() ? std::string() : found->second;
+}
+
+std::string renamed(const QPDFTokenizer::Token &name, const Renames &renames) {
+    const auto found = renames.find(name.getValue());
+    return found == renames.end() ? name.getRawValue()
+                                  : QPDFObjectHandle::newName(found->second).unparse();
+}
+
+/// A default appearance, such as "/Helv 12 Tf 0 g", with the names of its resources renamed. Only
+/// the operator behind a name tells its category.
+std::string renamedAppearance(const std::string &appearance, const CategoryRenames &renames) {
+    const auto input = std::make_shared<BufferInputSource>("default appearance", appearance);
+    QPDFTokenizer tokenizer;
+    tokenizer.allowEOF();
+    tokenizer.includeIgnorable();
     std::string result;
-    std::size_t position = 0;
-    while (position < appearance.size()) {
-        if (appearance[position] != '/') {
-            result += appearance[position++];
-            continue;
+    std::vector<QPDFTokenizer::Token> operands;
+    const auto flush = [&](const Renames &ofOperator) {
+        for (const auto &operand : operands) {
+            const bool name = operand.getType() == QPDFTokenizer::tt_name;
+            result += name ? renamed(operand, ofOperator) : operand.getRawValue();
         }
-        const auto end =
-            std::min(appearance.find_first_of(kDelimiters, position + 1), appearance.size());
-        const std::string name = appearance.substr(position, end - position);
-        const auto renamed = renames.find(name);
-        result += renamed == renames.end() ? name : renamed->second;
-        position = end;
+        operands.clear();
+    };
+    for (auto token = tokenizer.readToken(input, {}, true);
+         token.getType() != QPDFTokenizer::tt_eof; token = tokenizer.readToken(input, {}, true)) {
+        operands.push_back(token);
+        if (token.getType() == QPDFTokenizer::tt_word) {
+            const auto ofOperator = renames.find(categoryOf(token.getValue()));
+            flush(ofOperator == renames.end() ? Renames() : ofOperator->second);
+        }
     }
+    flush({});
     return result;
 }
 
 /// Renames in the default appearances of a field and all fields under it.
-void renameInAppearances(const QPDFObjectHandle &root, const Renames &renames) {
+void renameInAppearances(const QPDFObjectHandle &root, const CategoryRenames &renames) {
     std::vector<QPDFObjectHandle> pending{root};
     std::set<QPDFObjGen> visited;
     while (!pending.empty()) {
@@ -90,8 +117,8 @@ void FormMerger::renameField(QPDFObjectHandle field, Renames &renames) {
     }
 }
 
-FormMerger::Renames FormMerger::addResources(QPDFObjectHandle resources) {
-    Renames renames;
+FormMerger::CategoryRenames FormMerger::addResources(QPDFObjectHandle resources) {
+    CategoryRenames renames;
     if (!resources.isDictionary()) {
         return renames;
     }
@@ -111,7 +138,7 @@ FormMerger::Renames FormMerger::addResources(QPDFObjectHandle resources) {
                 });
             known.emplace(unique, object);
             if (unique != name) {
-                renames.emplace(name, unique);
+                renames[category].emplace(name, unique);
             }
         }
     }
@@ -120,7 +147,7 @@ FormMerger::Renames FormMerger::addResources(QPDFObjectHandle resources) {
 
 void FormMerger::add(const ImportedForm &form) {
     Renames names;
-    const Renames resources = addResources(form.resources);
+    const CategoryRenames resources = addResources(form.resources);
     for (const auto &field : form.fields) {
         renameField(field, names);
         if (!resources.empty()) {

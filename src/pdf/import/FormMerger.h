@@ -22,10 +22,11 @@ class FormMerger {
 
   private:
     using Renames = std::map<std::string, std::string>;
+    using CategoryRenames = std::map<std::string, Renames>;
     using Numbers = std::map<std::string, int>; ///< The last one given to each name.
 
     void renameField(QPDFObjectHandle field, Renames &renames);
-    Renames addResources(QPDFObjectHandle resources);
+    CategoryRenames addResources(QPDFObjectHandle resources);
 
     ImportedForm m_form;
     std::set<std::string> m_names;
