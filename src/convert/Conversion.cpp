@@ -57,16 +57,16 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
 EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
                         const ConversionOptions &options, const std::stop_token &stop) {
     EntryOutcome outcome;
-    const int pagesBefore = context.pageCount();
+    const PDFContext::Mark before = context.mark();
     const QString failure =
         reasonOfFailure([&] { addPages(entry, context, options, stop, outcome); });
     outcome.written = failure.isEmpty();
     if (!outcome.written) {
-        context.truncatePages(pagesBefore);
+        context.rollBack(before);
         outcome.warnings.clear();
         outcome.reason = failure;
     }
-    outcome.pages = context.pageCount() - pagesBefore;
+    outcome.pages = context.pageCount() - before.pages;
     return outcome;
 }
 

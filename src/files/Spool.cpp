@@ -66,13 +66,23 @@ Spool::Place Spool::add(QByteArrayView data) {
         moveToFile(m_memory);
         m_memory.resize(0); // Which keeps the block for what follows.
     }
-    const Place place{m_fileSize + m_memory.size(), data.size()};
+    const Place place{size(), data.size()};
     if (data.size() > kMemoryLimit) {
         moveToFile(data);
     } else {
         m_memory.append(data);
     }
     return place;
+}
+
+void Spool::cutTo(qint64 size) {
+    m_memory.resize(std::max<qint64>(size - m_fileSize, 0));
+    m_fileSize = std::min(size, m_fileSize);
+    m_window.clear();
+    if (m_file.isOpen()) {
+        // Also of a write that failed half way. Where this fails, what follows is written over it.
+        m_calls.ftruncate(m_file.get(), m_fileSize);
+    }
 }
 
 void Spool::readWindow(Place place) {

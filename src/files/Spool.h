@@ -26,6 +26,10 @@ class Spool {
 
     /// Keeps a copy of `data`. Throws Error when the temporary file cannot take it.
     Place add(QByteArrayView data);
+    /// Bytes kept so far.
+    [[nodiscard]] qint64 size() const { return m_fileSize + m_memory.size(); }
+    /// Gives up what was added after the first `size` bytes, and the room on the disk that it took.
+    void cutTo(qint64 size);
     /// The data at `place`, valid until the next call. Throws Error when it cannot be read back.
     [[nodiscard]] QByteArrayView at(Place place);
 

@@ -37,6 +37,10 @@ ssize_t SystemCalls::pwrite(int fd, const void *data, std::size_t size, off_t of
     return ::pwrite(fd, data, size, offset);
 }
 
+int SystemCalls::ftruncate(int fd, off_t size) {
+    return ::ftruncate(fd, size);
+}
+
 int SystemCalls::fsync(int fd) {
     return ::fsync(fd);
 }
@@ -104,6 +108,10 @@ int StoppableCalls::open(const char *path, int flags, mode_t mode) {
 
 int StoppableCalls::openAnonymous(const char *folder, mode_t mode) {
     return m_calls.openAnonymous(folder, mode);
+}
+
+int StoppableCalls::ftruncate(int fd, off_t size) {
+    return m_calls.ftruncate(fd, size);
 }
 
 int StoppableCalls::fchmod(int fd, mode_t mode) {

@@ -23,6 +23,7 @@ class SystemCalls {
     virtual ssize_t write(int fd, const void *data, std::size_t size);
     virtual ssize_t pread(int fd, void *data, std::size_t size, off_t offset);
     virtual ssize_t pwrite(int fd, const void *data, std::size_t size, off_t offset);
+    virtual int ftruncate(int fd, off_t size);
     virtual int fsync(int fd);
     virtual int fchmod(int fd, mode_t mode);
     virtual int close(int fd);
@@ -55,6 +56,7 @@ class StoppableCalls final : public SystemCalls {
 
     int open(const char *path, int flags, mode_t mode) override;
     int openAnonymous(const char *folder, mode_t mode) override;
+    int ftruncate(int fd, off_t size) override;
     int fchmod(int fd, mode_t mode) override;
     int close(int fd) override;
     int linkAnonymous(int fd, const char *path) override;

@@ -28,6 +28,14 @@ void DeflateBatches::wait() {
     store(compressed(std::exchange(m_batch, {}), m_deflater));
 }
 
+void DeflateBatches::drop() {
+    if (m_running.valid()) {
+        m_running.wait(); // It uses the deflater.
+        m_running = {};
+    }
+    m_batch = {};
+}
+
 DeflateBatches::Batch DeflateBatches::compressed(const Batch &batch, Deflater &deflater) {
     Batch result;
     result.bytes.reserve(batch.bytes.size());

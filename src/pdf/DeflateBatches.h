@@ -28,6 +28,8 @@ class DeflateBatches {
     void add(const QPDFObjGen &stream, QByteArrayView bytes);
     /// Waits until every stream that was added is stored.
     void wait();
+    /// Forgets the streams that are not stored yet.
+    void drop();
 
   private:
     struct Piece {

@@ -178,4 +178,9 @@ QPDFObjectHandle ImageEmbedder::embed(const PdfImage &image) {
     return m_embedded.emplace(key, makeImage(image)).first->second;
 }
 
+void ImageEmbedder::forget() {
+    m_profileIndex.clear();
+    m_embedded.clear();
+}
+
 } // namespace folioforge

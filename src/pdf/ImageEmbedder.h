@@ -21,6 +21,8 @@ class ImageEmbedder {
     /// The XObject of `image`. The same part of the same source file is embedded once. Throws Error
     /// when the source file has changed since it was examined.
     QPDFObjectHandle embed(const PdfImage &image);
+    /// Lets the images that follow share nothing with those before.
+    void forget();
 
   private:
     QPDFObjectHandle makeStream(QPDFObjectHandle dictionary, const PdfImage &image);

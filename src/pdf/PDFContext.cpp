@@ -80,7 +80,8 @@ class PDFContext::Impl {
     AddedDocument addDocument(const QString &sourcePath);
     CloseResult close(const std::function<QString()> &nextPath);
     void waitForPages() { m_streams.waitForPages(); }
-    void truncatePages(int count) { m_catalog.truncatePages(count); }
+    [[nodiscard]] Mark mark() const { return {pageCount(), m_streams.stored()}; }
+    void rollBack(const Mark &mark);
     void beginPage(const QRectF &mediaBox);
     void showGlyphs(double x, double y, std::span<const Glyph> glyphs);
 
@@ -234,6 +235,13 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
     });
 }
 
+void PDFContext::Impl::rollBack(const Mark &mark) {
+    m_catalog.truncatePages(mark.pages);
+    if (m_streams.rollBack(mark.stored)) {
+        m_images.forget();
+    }
+}
+
 void PDFContext::Impl::finishDocument() {
     translateQpdfErrors([&] {
         for (const auto &fonts : m_fonts) {
@@ -322,8 +330,12 @@ void PDFContext::waitForPages() {
     translateQpdfErrors([&] { m_impl->waitForPages(); });
 }
 
-void PDFContext::truncatePages(int count) {
-    m_impl->truncatePages(count);
+PDFContext::Mark PDFContext::mark() const {
+    return m_impl->mark();
+}
+
+void PDFContext::rollBack(const Mark &mark) {
+    m_impl->rollBack(mark);
 }
 
 CloseResult PDFContext::close(const std::function<QString()> &nextPath) {

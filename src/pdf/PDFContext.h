@@ -77,10 +77,18 @@ class PDFContext {
 
     [[nodiscard]] int pageCount() const;
     /// Waits for the pages drawn so far, which another core compresses. Throws Error when one
-    /// cannot be stored; call truncatePages() then.
+    /// cannot be stored; call rollBack() then.
     void waitForPages();
-    /// Removes the drawn pages after the first `count`, such as those of an entry that failed.
-    void truncatePages(int count);
+
+    /// How far the document is; to be asked for when no page is waited for.
+    struct Mark {
+        int pages = 0;
+        qint64 stored = 0; ///< Bytes.
+    };
+    [[nodiscard]] Mark mark() const;
+    /// Removes what was drawn since `mark`, such as the pages of an entry that failed, and the data
+    /// stored for it.
+    void rollBack(const Mark &mark);
 
     /// Writes the document and gives it its name, never in place of another file. When the name is
     /// taken, `nextPath` gives the next one to try; without it the result is NameTaken.

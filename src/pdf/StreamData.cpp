@@ -26,6 +26,8 @@ class StreamData::SpooledData final : public QPDFObjectHandle::StreamDataProvide
         m_places.insert_or_assign(m_places.end(), object, m_spool.add(data));
     }
 
+    Spool &spool() { return m_spool; }
+
     void provideStreamData(QPDFObjGen const &object, Pipeline *pipeline) override {
         const Spool::Place place = m_places.at(object);
         requireRoomForStream(place.length);
@@ -110,6 +112,17 @@ QPDFObjectHandle StreamData::pageContent(QByteArrayView content) {
     QPDFObjectHandle stream = make(dictionary, m_spooled);
     m_pages.add(stream.getObjGen(), content);
     return stream;
+}
+
+qint64 StreamData::stored() const {
+    return m_spooled->spool().size();
+}
+
+bool StreamData::rollBack(qint64 stored) {
+    m_pages.drop();
+    const bool any = this->stored() > stored;
+    m_spooled->spool().cutTo(stored);
+    return any;
 }
 
 QPDFObjectHandle StreamData::fromFile(const QPDFObjectHandle &dictionary,

@@ -36,6 +36,11 @@ class StreamData {
     QPDFObjectHandle pageContent(QByteArrayView content);
     /// Waits until all page contents are stored; throws Error when one cannot be.
     void waitForPages() { m_pages.wait(); }
+    /// Bytes stored so far; all, after waitForPages().
+    [[nodiscard]] qint64 stored() const;
+    /// Gives up the data that came after the first `stored` bytes: their streams must not be
+    /// written. Returns whether there was any.
+    bool rollBack(qint64 stored);
     /// A stream with slices of a source file, one after another.
     QPDFObjectHandle fromFile(const QPDFObjectHandle &dictionary,
                               std::shared_ptr<const SourceFile> file,

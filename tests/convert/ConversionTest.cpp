@@ -3,11 +3,13 @@
 #include "convert/Conversion.h"
 
 #include "convert/PageWriters.h"
+#include "support/FaultyCalls.h"
 #include "support/Files.h"
 #include "support/InstalledFonts.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
 
+#include <QColorSpace>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -20,7 +22,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -50,21 +51,15 @@ class Stopper : public ConversionObserver {
     std::stop_source source;
 };
 
-/// Does something as soon as an entry has failed.
-class OnFailure : public ConversionObserver {
-  public:
-    explicit OnFailure(std::function<void()> action)
-        : m_action(std::move(action)) {}
-    void progressChanged(float) override {}
-    void entryDone(std::size_t, bool written) override {
-        if (!written) {
-            m_action();
-        }
-    }
-
-  private:
-    std::function<void()> m_action;
-};
+/// Pixels that cannot be compressed, with a colour profile.
+QImage noise(int side, QImage::Format format) {
+    QImage image(side, side, format);
+    QRandomGenerator random(1);
+    random.generate(reinterpret_cast<quint32 *>(image.bits()),
+                    reinterpret_cast<quint32 *>(image.bits()) + qsizetype(side) * side);
+    image.setColorSpace(QColorSpace::AdobeRgb);
+    return image;
+}
 
 const QString kOwner = u"owner"_s;
 const QString kUser = u"user"_s;
@@ -268,16 +263,11 @@ class ConversionTest : public QObject {
         }
     }
 
-    void aTextThatFailsInItsMidstLeavesNoneOfItsPages() {
-        // Made data beyond 8 MB goes into a temporary file, and there is no folder for one.
+    void aTextThatOverflowsTheTemporaryFolderLeavesTheOthersAsTheyAre() {
+        // Made data beyond 8 MB goes into a temporary file, and there is no folder for one. Beside
+        // the picture there is less room than for the pages that wait to be compressed.
+        QVERIFY(noise(1660, QImage::Format_RGB32).save(path("noise.bmp")));
         QRandomGenerator random(1);
-        QImage noise(1600, 1600, QImage::Format_RGB888);
-        for (int y = 0; y < noise.height(); ++y) {
-            for (int x = 0; x < noise.width(); ++x) {
-                noise.setPixel(x, y, random.generate());
-            }
-        }
-        QVERIFY(noise.save(path("noise.bmp")));
         QByteArray text;
         while (text.size() < 1'500'000) {
             text += static_cast<char>(random.bounded(0x21, 0x7F));
@@ -288,9 +278,8 @@ class ConversionTest : public QObject {
         m_options.merge = true;
         const QByteArray before = qgetenv("TMPDIR");
         qputenv("TMPDIR", QFile::encodeName(path("nowhere")));
-        OnFailure restorer(
-            [&] { before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before); });
-        const PDFOutcome outcome = convertTo(path("out/all.pdf"), &restorer);
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"));
+        before.isEmpty() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
         QCOMPARE(outcome.close.status, CloseResult::Status::Written);
         QVERIFY(outcome.entries[0].written);
         QVERIFY(!outcome.entries[1].written);
@@ -301,6 +290,27 @@ class ConversionTest : public QObject {
         QVERIFY(probe.isValid());
         QCOMPARE(probe.pageCount(), 2);
         QVERIFY(probe.text(2).contains(u"the words after"_s));
+    }
+
+    void anEntryThatFillsTheDiskLeavesTheDocumentThatTheOthersMake() {
+        QVERIFY(noise(1000, QImage::Format_RGB32).save(path("first.bmp")));
+        // The profile is kept before there is no room for the pixels, and the third has it too.
+        QVERIFY(noise(1600, QImage::Format_ARGB32).save(path("profiled.png")));
+        QVERIFY(noise(100, QImage::Format_ARGB32).save(path("small.png")));
+        m_options.merge = true;
+        m_options.info.created = QDateTime::fromSecsSinceEpoch(0);
+        addFile(path("first.bmp"));
+        addFile(path("small.png"));
+        const QByteArray whole = test::readFile(convertTo(path("out/two.pdf")).close.path);
+        m_list.insert(m_list.begin() + 1, std::make_unique<PDFFileInfo>(path("profiled.png")));
+        test::FaultyCalls calls;
+        calls.room = 4 << 20;
+        m_options.calls = calls;
+        const PDFOutcome outcome = convertTo(path("out/three.pdf"));
+        QVERIFY(!outcome.entries[1].written);
+        QVERIFY(outcome.entries[2].written);
+        QVERIFY(!whole.isEmpty());
+        QCOMPARE(test::readFile(outcome.close.path), whole);
     }
 
     void aProtectedSourceAddsNoPages() {

@@ -130,6 +130,51 @@ class SpoolTest : public QObject {
         QVERIFY(spool.at(third) == QByteArray(4 << 20, 'd'));
     }
 
+    void whatIsCutOffLeavesTheRestAndItsRoomOnTheDisk_data() {
+        QTest::addColumn<int>("kept");
+        QTest::newRow("in memory") << 5;
+        QTest::newRow("in the file") << 1;
+    }
+    void whatIsCutOffLeavesTheRestAndItsRoomOnTheDisk() {
+        QFETCH(const int, kept);
+        constexpr qsizetype kPiece = 3 << 20;
+        test::FaultyCalls calls;
+        calls.room = 6 * kPiece;
+        Spool spool(calls);
+        std::vector<Spool::Place> places;
+        for (char c = 0; c < kept; ++c) {
+            places.push_back(spool.add(QByteArray(kPiece, c)));
+        }
+        const qint64 size = spool.size();
+        QCOMPARE(size, kept * kPiece);
+        try {
+            for (;;) {
+                spool.add(QByteArray(kPiece, 'x'));
+            }
+        } catch (const Error &full) {
+            QVERIFY(full.reason().contains(QString::fromLocal8Bit(std::strerror(ENOSPC))));
+        }
+        spool.cutTo(size);
+        for (char c = static_cast<char>(kept); c < 6; ++c) {
+            places.push_back(spool.add(QByteArray(kPiece, c)));
+        }
+        for (char c = 0; c < 6; ++c) {
+            QCOMPARE(spool.at(places.at(static_cast<std::size_t>(c))).toByteArray(),
+                     QByteArray(kPiece, c));
+        }
+    }
+
+    void theFileOfWhatIsCutOffGetsSmaller() {
+        test::FaultyCalls calls;
+        Spool spool(calls);
+        spool.add(QByteArray(9 << 20, 'a'));
+        const qint64 size = spool.size();
+        calls.room = 10 << 20;
+        QVERIFY_THROWS_EXCEPTION(Error, spool.add(QByteArray(9 << 20, 'b')));
+        spool.cutTo(size);
+        QCOMPARE(calls.sizeOfCut(), off_t{9} << 20);
+    }
+
     void givesBackSmallAndHugePiecesInAnyOrder() {
         constexpr std::array<qsizetype, 5> kSizes{900, 300'000, 9 << 20, 0, 1};
         Spool spool;

@@ -67,6 +67,19 @@ class DeflateBatchesTest : public QObject {
         QVERIFY_EXCEPTION_THROWN(batches.wait(), std::runtime_error);
     }
 
+    void forgetsWhatIsDropped() {
+        std::vector<int> kept;
+        DeflateBatches batches([&](const QPDFObjGen &stream, QByteArrayView /*compressed*/) {
+            kept.push_back(stream.getObj());
+        });
+        batches.add(QPDFObjGen(1, 0), QByteArray(1 << 20, 'x')); // A batch by itself.
+        batches.add(QPDFObjGen(2, 0), page(2));
+        batches.drop();
+        batches.add(QPDFObjGen(3, 0), page(3));
+        batches.wait();
+        QCOMPARE(kept, std::vector{3});
+    }
+
     void mayGoAwayWhileABatchIsCompressed() {
         int kept = 0;
         {

@@ -4,9 +4,12 @@
 
 #include "files/SystemCalls.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <functional>
+#include <limits>
 #include <map>
 #include <string>
 
@@ -26,11 +29,15 @@ class FaultyCalls final : public SystemCalls {
 
     std::map<std::string, int> failing; ///< The errno of calls that always fail, by name.
     Fault fault;
+    /// Bytes that files take which are written in any order, as on a disk that is full then.
+    off_t room = std::numeric_limits<off_t>::max();
 
     /// The calls so far.
     [[nodiscard]] int count() const { return m_count; }
     /// Those of them that moved bytes.
     [[nodiscard]] int moves() const { return m_moves; }
+    /// The size of the file that was cut last.
+    [[nodiscard]] off_t sizeOfCut() const { return m_sizeOfCut; }
     /// Whether the fault befell a call that removes a file, which then has to stay.
     [[nodiscard]] bool keptFiles() const { return m_keptFiles; }
 
@@ -47,7 +54,24 @@ class FaultyCalls final : public SystemCalls {
         return begins("pread") ? SystemCalls::pread(fd, data, moved(size), offset) : -1;
     }
     ssize_t pwrite(int fd, const void *data, std::size_t size, off_t offset) override {
-        return begins("pwrite") ? SystemCalls::pwrite(fd, data, moved(size), offset) : -1;
+        if (!begins("pwrite")) {
+            return -1;
+        }
+        if (offset >= room) {
+            errno = ENOSPC;
+            return -1;
+        }
+        size = std::min(moved(size), static_cast<std::size_t>(room - offset));
+        return SystemCalls::pwrite(fd, data, size, offset);
+    }
+    int ftruncate(int fd, off_t size) override {
+        if (!begins("ftruncate")) {
+            return -1;
+        }
+        const int result = SystemCalls::ftruncate(fd, size);
+        struct stat status = {};
+        m_sizeOfCut = ::fstat(fd, &status) == 0 ? status.st_size : -1;
+        return result;
     }
     /// Nothing is brought to the disk: a test loses nothing when the power fails.
     int fsync(int) override { return begins("fsync") ? 0 : -1; }
@@ -105,6 +129,7 @@ class FaultyCalls final : public SystemCalls {
 
     int m_count = 0;
     int m_moves = 0;
+    off_t m_sizeOfCut = -1;
     bool m_isShort = false;
     bool m_keptFiles = false;
 };
