@@ -67,6 +67,17 @@ class JpegWriterTest : public QObject {
         QVERIFY(largestDifference(image, back) <= 3);
     }
 
+    /// The tables of a large picture are made for every eighth band of eight rows.
+    void bandsUnlikeThoseThatTheTablesAreMadeForComeBack() {
+        PlanarImage image = noise(40, 8 * 100);
+        for (int band = 0; band < 100; band += 8) {
+            std::fill_n(image.planes[0].row(8 * band), 8 * 40, std::uint8_t(128));
+        }
+        const QImage back = decoded(encodeJpeg(image, 100));
+        QCOMPARE(back.size(), QSize(40, 800));
+        QVERIFY(largestDifference(image, back) <= 3);
+    }
+
     void colorsComeBack() {
         constexpr std::array<QRgb, 6> kColors{0xffff0000, 0xff00ff00, 0xff0000ff,
                                               0xffffffff, 0xff000000, 0xff6496c8};
