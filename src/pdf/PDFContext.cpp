@@ -110,7 +110,7 @@ class PDFContext::Impl {
     QPDFObjectHandle m_lastBoxArray; ///< Of m_lastBox.
     std::map<Resources, QPDFObjectHandle, bool (*)(const Resources &, const Resources &)>
         m_fontResources;
-    std::map<std::string, ObjectCopier::Streams> m_sourceStreams; ///< By source file.
+    std::map<std::string, SharedStreams> m_sourceStreams; ///< By source file.
     qsizetype m_longestStream = 0; ///< Bytes, of those that the library copies by itself.
 };
 
@@ -223,7 +223,7 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         const std::string key = file.key();
         const auto source = openSourceDocument(file, m_reader);
         // A copy, so that an import that fails leaves no stream to the next one.
-        ObjectCopier::Streams streams = m_sourceStreams[key];
+        SharedStreams streams = m_sourceStreams[key];
         const ImportedDocument imported = withAllObjects(
             *source, *m_reader, [&] { return importDocument(*source, m_document, streams); });
         m_reader->finish();

@@ -3,6 +3,8 @@
 #include "MergeCase.h"
 #include "support/TestUnit.h"
 
+#include <qpdf/QPDFWriter.hh>
+
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
@@ -55,6 +57,81 @@ class ImportTest : public QObject, protected MergeCase {
         const QString result = merged({saved(source)});
         QCOMPARE(PdfProbe(result).render(1).pixelColor(100, 50), QColor(Qt::blue));
         QVERIFY(!PdfProbe(result).json().contains("StructParent"));
+    }
+
+    void fieldsOfTwoCopiesHaveTheirOwnAppearances() {
+        auto source = onePage("/Resources << /XObject << /Logo 23 0 R >> >> /Annots [20 0 R]",
+                              "/AcroForm << /Fields [20 0 R] >>");
+        source.stream(5, {}, "q 0.1 0 0 0.1 0 0 cm /Logo Do Q");
+        source.object(20, "<< /Type /Annot /Subtype /Widget /FT /Tx /T (name) /V (Anna) /F 4 /Rect "
+                          "[0 0 200 100] /AP << /N 21 0 R >> /MK << /I 24 0 R >> >>");
+        const QByteArray form = "/Type /XObject /Subtype /Form /BBox [0 0 200 100] ";
+        source.stream(21, form + "/Resources << /XObject << /Inner 22 0 R /Logo 23 0 R >> >>",
+                      "/Inner Do");
+        source.stream(22, form + "/Resources << /Font << /F 3 0 R >> >>",
+                      "BT /F 20 Tf 20 40 Td (Anna) Tj ET");
+        source.stream(23,
+                      "/Type /XObject /Subtype /Image /Width 1 /Height 1 /BitsPerComponent 8 "
+                      "/ColorSpace /DeviceGray",
+                      "0");
+        source.stream(24, form, {});
+        const QString path = saved(source);
+        const auto document = opened(merged({path, path, path}));
+        const auto widget = [&](std::size_t index) {
+            return page(*document, index).getKey("/Annots").getArrayItem(0);
+        };
+        const auto differ = [](const QPDFObjectHandle &one, const QPDFObjectHandle &other) {
+            return one.isIndirect() && other.isIndirect() && one.getObjGen() != other.getObjGen();
+        };
+        const auto looks = [&](std::size_t index) {
+            return widget(index).getKey("/AP").getKey("/N");
+        };
+        const auto inner = [&](std::size_t index, const char *name) {
+            return looks(index).getDict().getKey("/Resources").getKey("/XObject").getKey(name);
+        };
+        for (const auto &[one, other] : {std::pair(0U, 1U), std::pair(1U, 2U)}) {
+            QVERIFY(differ(looks(one), looks(other)));
+            QVERIFY(differ(inner(one, "/Inner"), inner(other, "/Inner")));
+            QVERIFY(differ(widget(one).getKey("/MK").getKey("/I"),
+                           widget(other).getKey("/MK").getKey("/I")));
+            QVERIFY(!differ(inner(one, "/Logo"), inner(other, "/Logo")));
+        }
+    }
+
+    void layersOfTwoCopiesSwitchTheirOwnPages() {
+        auto source = onePage("/Resources << /XObject << /Whole 20 0 R /Outer 21 0 R /Plain 23 0 R "
+                              ">> >>",
+                              "/OCProperties << /OCGs [30 0 R 31 0 R] /D << >> >>");
+        source.stream(5, {}, "/Whole Do /Outer Do /Plain Do");
+        const QByteArray form = "/Type /XObject /Subtype /Form /BBox [0 0 200 100] ";
+        source.stream(20, form + "/OC 30 0 R", "1 0 0 rg 0 0 100 100 re f");
+        source.stream(21, form + "/Resources << /XObject << /Inner 22 0 R >> >>", "/Inner Do");
+        source.stream(22, form + "/Resources << /Properties << /P 31 0 R >> >>",
+                      "/OC /P BDC 0 0 1 rg 100 0 100 50 re f EMC");
+        source.stream(23, form, "0 1 0 rg 100 50 100 50 re f");
+        source.object(30, "<< /Type /OCG /Name (red) >>");
+        source.object(31, "<< /Type /OCG /Name (blue) >>");
+        const QString path = saved(source);
+        const auto document = opened(merged({path, path}));
+        // Hides the layers of the second copy, as a reader does.
+        auto layers = document->getRoot().getKey("/OCProperties");
+        const auto groups = layers.getKey("/OCGs").getArrayAsVector();
+        QCOMPARE(groups.size(), 4U);
+        layers.getKey("/D").replaceKey("/OFF", QPDFObjectHandle::newArray({groups[2], groups[3]}));
+        const QString switched = newPath();
+        QPDFWriter(*document, switched.toLocal8Bit().constData()).write();
+        const QImage first = PdfProbe(switched).render(1);
+        QCOMPARE(first.pixelColor(50, 50), QColor(Qt::red));
+        QCOMPARE(first.pixelColor(150, 75), QColor(Qt::blue));
+        const QImage second = PdfProbe(switched).render(2);
+        QCOMPARE(second.pixelColor(50, 50), QColor(Qt::white));
+        QCOMPARE(second.pixelColor(150, 75), QColor(Qt::white));
+        QCOMPARE(second.pixelColor(150, 25), QColor(Qt::green));
+        const auto plain = [&](std::size_t index) {
+            auto forms = page(*document, index).getKey("/Resources").getKey("/XObject");
+            return forms.getKey("/Plain").getObjGen();
+        };
+        QCOMPARE(plain(0), plain(1));
     }
 
     void bookmarksAndActionsDoNotLeadIntoTheStructure() {

@@ -142,8 +142,9 @@ std::map<long long, QPDFObjectHandle> importPageLabels(QPDF &source, long long p
 
 } // namespace
 
-ImportedDocument importDocument(QPDF &source, QPDF &target, ObjectCopier::Streams &known) {
-    ObjectCopier copier(source, target, known);
+ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared) {
+    shared.beginCopy(source);
+    ObjectCopier copier(source, target, shared);
     ImportedDocument imported;
     imported.pages = copier.copyPages();
     imported.bookmarks = importBookmarks(source, copier);

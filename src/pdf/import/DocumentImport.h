@@ -50,8 +50,8 @@ struct ImportedDocument {
 };
 
 /// Copies the pages of `source` into `target` with all that belongs to them, but puts nothing into
-/// its catalog. `known` holds the streams that earlier imports of the same file brought; new ones
+/// its catalog. `shared` holds the streams that earlier imports of the same file brought; new ones
 /// are added. Throws what libqpdf throws.
-ImportedDocument importDocument(QPDF &source, QPDF &target, ObjectCopier::Streams &known);
+ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared);
 
 } // namespace folioforge

@@ -56,10 +56,10 @@ bool isLeftOut(QPDFObjectHandle object) {
 
 } // namespace
 
-ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, Streams &known)
+ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared)
     : m_source(source)
     , m_target(target)
-    , m_streams(known)
+    , m_shared(shared)
     , m_destinations(source) {}
 
 std::vector<QPDFObjectHandle> ObjectCopier::copyPages() {
@@ -136,9 +136,9 @@ QPDFObjectHandle ObjectCopier::copyIndirect(QPDFObjectHandle object) {
 }
 
 QPDFObjectHandle ObjectCopier::reserveStream(QPDFObjectHandle object) {
-    const auto known = m_streams.find(object.getObjGen());
-    if (known != m_streams.end()) {
-        return known->second;
+    auto known = m_shared.find(object.getObjGen());
+    if (!known.isNull()) {
+        return known;
     }
     // The library would copy the dictionary with all that it refers to. It is emptied first and
     // copied later by the rules of this class.
@@ -152,7 +152,7 @@ QPDFObjectHandle ObjectCopier::reserveStream(QPDFObjectHandle object) {
         // The copy gets its bytes unchanged.
         pending.target.setFilterOnWrite(false);
     }
-    m_streams[object.getObjGen()] = pending.target;
+    m_shared.add(object.getObjGen(), pending.target);
     m_pendingStreams.push_back(pending);
     return pending.target;
 }

@@ -4,6 +4,7 @@
 
 #include "pdf/import/Destinations.h"
 #include "pdf/import/PageTree.h"
+#include "pdf/import/SharedStreams.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
 
@@ -23,10 +24,8 @@ namespace folioforge {
 /// explicit ones. The page tree, the catalog and the structure tree of the source are not copied.
 class ObjectCopier {
   public:
-    using Streams = std::map<QPDFObjGen, QPDFObjectHandle>;
-
-    /// `known` holds the streams that earlier copies of the same file brought; new ones are added.
-    ObjectCopier(QPDF &source, QPDF &target, Streams &known);
+    /// `shared` holds the streams that earlier copies of the same file brought; new ones are added.
+    ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared);
 
     /// Copies all pages, which run() fills. Call it first.
     std::vector<QPDFObjectHandle> copyPages();
@@ -57,7 +56,7 @@ class ObjectCopier {
 
     QPDF &m_source;
     QPDF &m_target;
-    Streams &m_streams;
+    SharedStreams &m_shared;
     Destinations m_destinations;
     std::map<QPDFObjGen, QPDFObjectHandle> m_copies;
     std::map<int, QPDFObjectHandle> m_inherited; ///< By InheritedValue::number.

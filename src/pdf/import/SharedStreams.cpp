@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/SharedStreams.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <vector>
+
+namespace folioforge {
+
+namespace {
+
+using Objects = std::vector<QPDFObjGen>;
+using References = std::map<QPDFObjGen, Objects>;
+
+/// The objects from which a way along `references` begins or which it reaches.
+std::set<QPDFObjGen> reachable(Objects open, const References &references) {
+    std::set<QPDFObjGen> reached;
+    while (!open.empty()) {
+        const QPDFObjGen object = open.back();
+        open.pop_back();
+        const auto next = references.find(object);
+        if (reached.insert(object).second && next != references.end()) {
+            open.insert(open.end(), next->second.begin(), next->second.end());
+        }
+    }
+    return reached;
+}
+
+bool isLayer(QPDFObjectHandle dictionary) {
+    return dictionary.isDictionaryOfType("/OCG") || dictionary.isDictionaryOfType("/OCMD");
+}
+
+/// Which objects of a document refer to which.
+class ObjectGraph {
+  public:
+    explicit ObjectGraph(QPDF &document) {
+        for (const QPDFObjectHandle &object : document.getAllObjects()) {
+            read(object);
+        }
+    }
+
+    /// What SharedStreams says, other objects among it.
+    [[nodiscard]] std::set<QPDFObjGen> ofEachCopy() const {
+        std::set<QPDFObjGen> objects = reachable(m_layered, m_users);
+        objects.insert(m_appearances.begin(), m_appearances.end());
+        for (const QPDFObjGen object : reachable(m_appearances, m_uses)) {
+            if (m_forms.contains(object)) {
+                objects.insert(object);
+            }
+        }
+        return objects;
+    }
+
+  private:
+    void read(QPDFObjectHandle object) {
+        const QPDFObjGen owner = object.getObjGen();
+        if (object.isFormXObject()) {
+            m_forms.insert(owner);
+        }
+        std::vector<QPDFObjectHandle> open{object.isStream() ? object.getDict() : object};
+        while (!open.empty()) {
+            QPDFObjectHandle container = open.back();
+            open.pop_back();
+            if (container.isArray()) {
+                for (const QPDFObjectHandle &item : container.getArrayAsVector()) {
+                    add(owner, item, open);
+                }
+            } else if (container.isDictionary()) {
+                readKeys(owner, container);
+                for (const auto &[key, item] : container.getDictAsMap()) {
+                    add(owner, item, open);
+                }
+            }
+        }
+    }
+
+    void add(QPDFObjGen owner, QPDFObjectHandle item, std::vector<QPDFObjectHandle> &open) {
+        if (item.isIndirect()) {
+            m_uses[owner].push_back(item.getObjGen());
+            m_users[item.getObjGen()].push_back(owner);
+        } else {
+            open.push_back(item);
+        }
+    }
+
+    void readKeys(QPDFObjGen owner, QPDFObjectHandle dictionary) {
+        if (isLayer(dictionary)) {
+            m_layered.push_back(owner);
+        }
+        for (const char *key : {"/AP", "/MK"}) {
+            auto appearances = dictionary.getKey(key);
+            if (appearances.isDictionary()) {
+                for (auto &[kind, appearance] : appearances.getDictAsMap()) {
+                    addAppearances(appearance);
+                }
+            }
+        }
+    }
+
+    /// An appearance is a stream, or a dictionary with one for each state of its annotation.
+    void addAppearances(QPDFObjectHandle appearance) {
+        if (appearance.isStream()) {
+            m_appearances.push_back(appearance.getObjGen());
+        } else if (appearance.isDictionary()) {
+            for (auto &[state, stream] : appearance.getDictAsMap()) {
+                if (QPDFObjectHandle(stream).isStream()) {
+                    m_appearances.push_back(stream.getObjGen());
+                }
+            }
+        }
+    }
+
+    References m_uses;
+    References m_users;
+    Objects m_layered; ///< They hold a layer or are one.
+    Objects m_appearances;
+    std::set<QPDFObjGen> m_forms;
+};
+
+} // namespace
+
+void SharedStreams::beginCopy(QPDF &source) {
+    if (!m_copies.empty() && !m_ofEachCopy) {
+        m_ofEachCopy = ObjectGraph(source).ofEachCopy();
+    }
+}
+
+QPDFObjectHandle SharedStreams::find(QPDFObjGen stream) const {
+    const auto found = m_copies.find(stream);
+    const bool ofEachCopy = m_ofEachCopy && m_ofEachCopy->contains(stream);
+    return found == m_copies.end() || ofEachCopy ? QPDFObjectHandle::newNull() : found->second;
+}
+
+} // namespace folioforge

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <qpdf/QPDFObjGen.hh>
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <map>
+#include <optional>
+#include <set>
+
+class QPDF;
+
+namespace folioforge {
+
+/// The streams that all copies of one source file share. Each copy has to itself what is edited in
+/// place or belongs to its own catalog: the appearances of annotations, which a reader writes anew
+/// when a field is filled in, with the forms inside them, and what leads to a layer.
+class SharedStreams {
+  public:
+    /// To be called before each copy of the file, with the file as it was read.
+    void beginCopy(QPDF &source);
+    /// The copy to share of a stream of the source; null where there is none.
+    [[nodiscard]] QPDFObjectHandle find(QPDFObjGen stream) const;
+    void add(QPDFObjGen stream, const QPDFObjectHandle &copy) { m_copies[stream] = copy; }
+
+  private:
+    std::map<QPDFObjGen, QPDFObjectHandle> m_copies;
+    std::optional<std::set<QPDFObjGen>> m_ofEachCopy; ///< Known from the second copy on.
+};
+
+} // namespace folioforge
