@@ -10,6 +10,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 Run::Run(std::vector<PDFFileInfo> entries, ConversionOptions options, QString bundlePath,
@@ -42,6 +44,10 @@ QString Run::pathFor(std::size_t firstEntry) const {
 
 PDFOutcome Run::createPDF(std::size_t firstEntry, const QString &path,
                           ConversionObserver &observer) const {
+    // A name with a slash would lead to another folder than the one that was checked.
+    if (m_options.merge && m_options.outputName.contains(u'/')) {
+        return {{CloseResult::Status::Failed, {}, u"A file name cannot hold a slash"_s, {}}, {}};
+    }
     std::vector<const PDFFileInfo *> entries;
     const std::size_t end = m_options.merge ? m_entries.size() : firstEntry + 1;
     for (std::size_t i = firstEntry; i < end; ++i) {

@@ -71,6 +71,7 @@ void PDFFileInfo::readSource(TextReading texts) {
     m_srcImage.reset();
     m_readError.clear();
     m_readWarnings.clear();
+    m_remarks.reset();
     switch (fileKind(m_filePathName)) {
     case FileKind::Text:
         m_textIsHeld = texts == TextReading::WhenListed;
@@ -117,6 +118,20 @@ void PDFFileInfo::readImage() {
         m_readError = error.reason();
     }
     m_fileSize = dimensionsText(m_srcImage ? m_srcImage->sizeInPoints() : QSizeF(0, 0));
+}
+
+QStringList PDFFileInfo::remarks() const {
+    if (m_remarks) {
+        return *m_remarks;
+    }
+    QStringList remarks;
+    if (!m_readError.isEmpty()) {
+        remarks += m_readError;
+    }
+    for (const Warning &warning : m_readWarnings) {
+        remarks += warning.text;
+    }
+    return remarks;
 }
 
 void PDFFileInfo::setDestFilePathName(const QString &path) {

@@ -6,6 +6,7 @@
 #include "image/ImageHeader.h"
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include <optional>
@@ -69,11 +70,15 @@ class PDFFileInfo {
     [[nodiscard]] const QString &readError() const { return m_readError; }
     /// What was lost when the source was listed: a text that is not valid UTF-8 gives a blank page.
     [[nodiscard]] const Warnings &readWarnings() const { return m_readWarnings; }
+    /// What is to be said of the entry beside its state, sentences without a full stop: what was
+    /// lost when it was listed, or what setRemarks() was given since.
+    [[nodiscard]] QStringList remarks() const;
 
     void setPageCount(int count) { m_pageCount = count; }
     void setFileSize(const QString &text) { m_fileSize = text; }
     void setIndex(int index) { m_index = index; }
     void setState(const RichText &state) { m_state = state; }
+    void setRemarks(const QStringList &remarks) { m_remarks = remarks; }
     void setFileName(const QString &name) { m_fileName = name; }
     void setDestFileName(const QString &name) { m_destFileName = name; }
 
@@ -116,6 +121,7 @@ class PDFFileInfo {
     bool m_textIsHeld = false; ///< m_fileString is what the file held when it was listed.
     QString m_readError;
     Warnings m_readWarnings;
+    std::optional<QStringList> m_remarks; ///< Of a run; nothing before the first.
 };
 
 } // namespace folioforge

@@ -4,8 +4,10 @@
 
 #include "files/Printable.h"
 
+#include <QApplication>
 #include <QColor>
 #include <QFont>
+#include <QStyle>
 #include <QTextDocument>
 
 #include <algorithm>
@@ -35,13 +37,7 @@ bool isLink(const PDFFileInfo &entry, int column) {
     return column == FilesArray::DestinationColumn && entry.stateIndex() == FinishedAsLink;
 }
 
-/// A tool tip that is never read as HTML.
-QString plainToolTip(const QString &path) {
-    const QString text = printable(path);
-    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
-}
-
-QVariant pagesOf(const PDFFileInfo &entry) {
+QString pagesOf(const PDFFileInfo &entry) {
     const int pages = entry.pageCount();
     if (pages == 0) {
         return {};
@@ -49,14 +45,42 @@ QVariant pagesOf(const PDFFileInfo &entry) {
     return pages == 1 ? u"1 page"_s : u"%1 pages"_s.arg(pages);
 }
 
-QVariant toolTipOf(const PDFFileInfo &entry, int column) {
+/// What a cell tells where the entry needs no remark.
+QString plainTipOf(const PDFFileInfo &entry, int column) {
     if (column == FilesArray::NameColumn) {
-        return plainToolTip(entry.filePathName());
+        return printable(entry.filePathName());
     }
     if (column == FilesArray::SizeColumn) {
         return pagesOf(entry);
     }
-    return isLink(entry, column) ? QVariant(plainToolTip(entry.destFilePathName())) : QVariant();
+    return isLink(entry, column) ? printable(entry.destFilePathName()) : QString();
+}
+
+QString remarksOf(const PDFFileInfo &entry) {
+    QStringList lines;
+    for (const QString &remark : entry.remarks()) {
+        lines += printable(remark) + u'.';
+    }
+    return lines.join(u'\n');
+}
+
+/// A tool tip in which nothing is read as HTML, and whose remarks are broken into lines.
+QVariant toolTipOf(const PDFFileInfo &entry, int column) {
+    const QString tip = plainTipOf(entry, column);
+    const QString remarks = remarksOf(entry);
+    if (remarks.isEmpty() && !Qt::mightBeRichText(tip)) {
+        return tip.isEmpty() ? QVariant() : QVariant(tip);
+    }
+    const QString html = tip.isEmpty() ? QString() : Qt::convertFromPlainText(tip);
+    return html + Qt::convertFromPlainText(remarks, Qt::WhiteSpaceNormal);
+}
+
+/// The mark of an entry of which there is something to say.
+QVariant markOf(const PDFFileInfo &entry, int column) {
+    if (column != FilesArray::NameColumn || entry.remarks().isEmpty()) {
+        return {};
+    }
+    return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
 }
 
 QVariant fontOf(const RichText &text) {
@@ -217,6 +241,11 @@ void FilesArray::setDestFilePathName(int row, const QString &path) {
     rowChanged(row);
 }
 
+void FilesArray::setRemarks(int row, const QStringList &remarks) {
+    m_entries.at(std::size_t(row)).setRemarks(remarks);
+    rowChanged(row);
+}
+
 std::vector<int> FilesArray::selectedRows() const {
     std::vector<int> rows;
     for (const QItemSelectionRange &range : m_selection.selection()) {
@@ -248,6 +277,10 @@ QVariant FilesArray::data(const QModelIndex &index, int role) const {
         return textOf(entry, index.column());
     case Qt::ToolTipRole:
         return toolTipOf(entry, index.column());
+    case Qt::DecorationRole:
+        return markOf(entry, index.column());
+    case Qt::AccessibleDescriptionRole:
+        return index.column() == NameColumn ? remarksOf(entry) : QString();
     case Qt::TextAlignmentRole:
         return alignmentOf(index.column());
     case Qt::FontRole:

@@ -49,6 +49,9 @@ class FilesArray : public QAbstractTableModel {
     void setStateIndex(int row, int state);
     void setStateIndexOfAll(int state);
     void setDestFilePathName(int row, const QString &path);
+    /// Says `remarks` of the entry: a mark beside its name, in its tool tips and to a screen
+    /// reader.
+    void setRemarks(int row, const QStringList &remarks);
 
     /// The selection that the table shares.
     [[nodiscard]] QItemSelectionModel *selectionModel() { return &m_selection; }

@@ -203,6 +203,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void showProgress(float value);
     void entryDone(int row, bool written);
     void PDFCreated(const PDFOutcome &outcome);
+    void noteProblem(const QString &problem);
     void endRun();
     void startWorker(std::function<void()> work);
     /// Queues `work` without waiting; it is dropped when the controller goes first.
@@ -235,6 +236,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     int m_fileIndex = 0;      ///< The entry being converted.
     std::optional<Run> m_run; ///< The entries and options as they stood when the run began.
     std::stop_source m_stop;  ///< Stops the run.
+    QStringList m_problems;   ///< Lines of the notice at the end of the run.
     bool m_bWorking = false;  ///< The worker has not yet handed over what it makes.
     TemporaryFolder m_temporaryFolder;
     ReadableLinks m_readableLinks{m_temporaryFolder};

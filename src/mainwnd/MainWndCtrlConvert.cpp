@@ -45,6 +45,23 @@ int pagesOf(const PDFOutcome &outcome) {
                            [](int sum, const EntryOutcome &entry) { return sum + entry.pages; });
 }
 
+QStringList remarksOn(const EntryOutcome &entry) {
+    QStringList remarks;
+    if (!entry.reason.isEmpty()) {
+        remarks += entry.reason;
+    }
+    for (const Warning &warning : entry.warnings) {
+        remarks += warning.text;
+    }
+    return remarks;
+}
+
+/// Whether the PDF is missing only because none of its entries gave a page, of which each entry
+/// says why.
+bool hasNothingToWrite(const PDFOutcome &outcome) {
+    return !outcome.entries.empty() && pagesOf(outcome) == 0;
+}
+
 } // namespace
 
 /// Passes what a worker reports to the main thread, without waiting.
@@ -138,6 +155,13 @@ void MainWndCtrl::entryDone(int row, bool written) {
 /// An entry whose PDF failed waits again.
 void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
     m_bWorking = false;
+    int row = m_fileIndex;
+    for (const EntryOutcome &entry : outcome.entries) {
+        m_filesArray->setRemarks(row++, remarksOn(entry));
+    }
+    if (outcome.close.status == CloseResult::Status::Failed && !hasNothingToWrite(outcome)) {
+        noteProblem(outcome.close.reason);
+    }
     m_destFilePathName = outcome.close.path;
     if (outcome.close.status == CloseResult::Status::Written) {
         m_pdfDoc = PDFDocument{pagesOf(outcome)};
@@ -154,6 +178,12 @@ void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
     }
     m_destFilePathName.clear();
     compressCompleted();
+}
+
+/// Keeps what is to be said of the PDF being written for the end of the run.
+void MainWndCtrl::noteProblem(const QString &problem) {
+    const qsizetype folder = m_run->options().outputFolder.size() + 1;
+    m_problems += u"    %1: %2"_s.arg(printable(m_destFilePathName.sliced(folder)), problem);
 }
 
 void MainWndCtrl::compress(const QString &path) {
@@ -205,6 +235,11 @@ void MainWndCtrl::endRun() {
     m_prgCreate->hide();
     m_lbProgress->hide();
     hideAlertView();
+    if (!m_problems.isEmpty()) {
+        showNotice(notice(u"Something went wrong with these PDF documents:\r\n"_s +
+                          m_problems.join(u"\r\n"_s)));
+        m_problems.clear();
+    }
 }
 
 void MainWndCtrl::endPageWrite(int pageIndex) {

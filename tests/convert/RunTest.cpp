@@ -110,6 +110,17 @@ class RunTest : public QObject {
         QCOMPARE(outputs(), u"all.pdf"_s);
     }
 
+    void aMergedNameWithASlashIsRefused() {
+        addTexts({u"a"_s});
+        m_options.merge = true;
+        m_options.outputName = u"../all"_s;
+        Recorder recorder;
+        convertAll(recorder);
+        QCOMPARE(recorder.results.front().outcome.close.reason,
+                 u"A file name cannot hold a slash"_s);
+        QVERIFY(!QFile::exists(path("all.pdf")));
+    }
+
     void anEntryThatFailsDoesNotEndTheRun() {
         addTexts({u"a"_s, u"b"_s});
         QVERIFY(QFile::remove(path("a.txt")));
