@@ -68,6 +68,24 @@ class DamagedSourcesTest : public QObject, protected MergeCase {
         QVERIFY(PdfProbe(merged({path})).text(2).contains(u"Page 2"_s));
     }
 
+    void aLengthBeyondAllFilesIsFoundOut_data() {
+        QTest::addColumn<QByteArray>("length");
+        QTest::newRow("2^63 - 1") << QByteArray("9223372036854775807");
+        QTest::newRow("2^63 - 201") << QByteArray("9223372036854775607");
+        QTest::newRow("2^62") << QByteArray("4611686018427387904");
+        QTest::newRow("2^32") << QByteArray("4294967296");
+        QTest::newRow("-1") << QByteArray("-1");
+        QTest::newRow("-2^63") << QByteArray("-9223372036854775808");
+    }
+    void aLengthBeyondAllFilesIsFoundOut() {
+        QFETCH(QByteArray, length);
+        PdfFixture source;
+        source.object(1, kCatalog).pages(4, 1);
+        const QByteArray content("BT /F 20 Tf 20 40 Td (Page 1) Tj ET");
+        source.object(5, "<< /Length " + length + " >>\nstream\n" + content + "\nendstream");
+        QVERIFY(PdfProbe(merged({saved(source)})).text(1).contains(u"Page 1"_s));
+    }
+
     void misplacedObjectsInASourceCostOnlyThemselves() {
         PdfFixture source;
         source.object(1, "<< /Type /Catalog /Pages 2 0 R /Outlines << /First 4 0 R >> /AcroForm << "

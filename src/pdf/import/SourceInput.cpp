@@ -59,10 +59,12 @@ qpdf_offset_t SourceInput::tell() {
 
 void SourceInput::seek(qpdf_offset_t offset, int whence) {
     const qint64 base = whence == SEEK_SET ? 0 : whence == SEEK_END ? m_end : m_position;
-    if (base + offset < 0) {
+    if (offset < -base) {
         throw std::runtime_error("seek before the beginning of the file");
     }
-    m_position = base + offset;
+    // A length that the file claims may lead anywhere. Whatever is beyond the end is the end, where
+    // the library finds that the length is wrong.
+    m_position = offset > m_end - base ? m_end : base + offset;
 }
 
 void SourceInput::rewind() {
