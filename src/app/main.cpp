@@ -18,6 +18,7 @@ using namespace Qt::StringLiterals;
 int main(int argc, char *argv[]) {
     using namespace folioforge;
     fillStandardDescriptors();
+    reportFilesTooLarge();
     forbidCoreDumps();
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Folioforge"_s);

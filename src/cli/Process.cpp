@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include <langinfo.h>
+#include <sys/resource.h>
 
 namespace folioforge {
 namespace {
@@ -21,7 +22,35 @@ extern "C" void endBySignal(int signalNumber) {
     std::raise(signalNumber);
 }
 
+std::stop_source &processorTime() {
+    static std::stop_source source;
+    return source;
+}
+
+// Sets a flag and no more, since nobody registers a callback for the stop.
+extern "C" void stopInTime(int /*signalNumber*/) {
+    processorTime().request_stop();
+}
+
+/// The system ends the program at the hard limit and warns it at the soft one, which is often the
+/// same: then the warning is asked for a second earlier.
+void askForStopInTime() {
+    processorTime(); // A signal handler must not be the first to ask for it.
+    std::signal(SIGXCPU, stopInTime);
+    rlimit limit{};
+    constexpr rlim_t kSeconds = 2;
+    if (::getrlimit(RLIMIT_CPU, &limit) == 0 && limit.rlim_max != RLIM_INFINITY &&
+        limit.rlim_cur >= limit.rlim_max && limit.rlim_max >= kSeconds) {
+        limit.rlim_cur = limit.rlim_max - 1;
+        ::setrlimit(RLIMIT_CPU, &limit);
+    }
+}
+
 } // namespace
+
+std::stop_token outOfProcessorTime() {
+    return processorTime().get_token();
+}
 
 // Qt does the same by itself, but writes a warning to standard error.
 void useUtf8FileNames() {
@@ -40,6 +69,7 @@ void prepareForSignals() {
         }
     }
     std::signal(SIGPIPE, SIG_IGN);
+    askForStopInTime();
 }
 
 } // namespace folioforge

@@ -2,10 +2,16 @@
 
 #pragma once
 
+#include <stop_token>
+
 namespace folioforge {
 
 /// Makes Qt read file names as UTF-8 in every locale. Must be called before the first use of Qt.
 void useUtf8FileNames();
+
+/// Asked to stop when the processor time that the system grants (RLIMIT_CPU) is nearly used up,
+/// after prepareForSignals().
+std::stop_token outOfProcessorTime();
 
 /// On SIGINT, SIGTERM and SIGHUP removes unfinished files and ends the program by that signal.
 /// Ignores SIGPIPE, so that a closed standard output does not end it.

@@ -99,11 +99,17 @@ QString reasonOf(const CloseResult &close) {
 } // namespace
 
 InputResult InputResult::rejected(const QString &input, const QString &reason) {
-    InputResult rejected;
-    rejected.input = input;
+    InputResult rejected = failed(input, reason);
     rejected.state = State::Rejected;
-    rejected.reason = reason;
     return rejected;
+}
+
+InputResult InputResult::failed(const QString &input, const QString &reason) {
+    InputResult failed;
+    failed.input = input;
+    failed.state = State::Failed;
+    failed.reason = reason;
+    return failed;
 }
 
 InputResult InputResult::of(const QString &input, const RunResult &result, std::size_t index) {

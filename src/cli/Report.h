@@ -32,6 +32,8 @@ struct InputResult {
 
     /// The result of an input that did not enter the list for `reason`.
     static InputResult rejected(const QString &input, const QString &reason);
+    /// The result of an input that was accepted and not begun for `reason`.
+    static InputResult failed(const QString &input, const QString &reason);
     /// The result of `input`, the entry at `index` of the PDF that `result` is about.
     static InputResult of(const QString &input, const RunResult &result, std::size_t index);
 };

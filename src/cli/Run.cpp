@@ -5,6 +5,7 @@
 #include "cli/Console.h"
 #include "cli/Inputs.h"
 #include "cli/OptionValues.h"
+#include "cli/Process.h"
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
 #include "convert/Bundle.h"
@@ -14,6 +15,7 @@
 #include "files/TemporaryFolder.h"
 
 #include <algorithm>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -75,9 +77,23 @@ class Call : private RunObserver {
             entries.push_back(std::move(input.entry));
             m_names.push_back(input.shown);
         }
-        const Run run(std::move(entries), m_arguments.options, applicationBundlePath());
+        const std::stop_token outOfTime = outOfProcessorTime();
+        const Run run(std::move(entries), m_arguments.options, applicationBundlePath(), outOfTime);
         run.convertAll(m_temporaryFolder, *this);
         m_progress.finish();
+        if (outOfTime.stop_requested()) {
+            reportOutOfTime();
+        }
+    }
+
+    /// Names the inputs whose turn did not come.
+    void reportOutOfTime() {
+        const QString reason = u"The limit of processor time is reached"_s;
+        m_console.complain(reason);
+        fail();
+        for (; m_reported < m_names.size(); ++m_reported) {
+            report(InputResult::failed(m_names[m_reported], reason));
+        }
     }
 
     void pdfBegins(std::size_t firstEntry) override { m_progress.beginPDF(firstEntry); }
@@ -93,7 +109,14 @@ class Call : private RunObserver {
                 u"%1: not compressed: %2"_s.arg(printable(close.path), compression->error));
         }
         for (std::size_t i = 0; i < result.outcome.entries.size(); ++i) {
-            report(InputResult::of(m_names[result.firstEntry + i], result, i));
+            InputResult input = InputResult::of(m_names[result.firstEntry + i], result, i);
+            m_reported = result.firstEntry + i + 1;
+            // What is true of a file system is true of every PDF there.
+            if (!m_documentWarned) {
+                std::ranges::copy(close.warnings, std::back_inserter(input.warnings));
+                m_documentWarned = !close.warnings.empty();
+            }
+            report(input);
         }
         if (close.status == CloseResult::Status::Written && !m_arguments.quiet &&
             !m_arguments.json) {
@@ -123,7 +146,9 @@ class Call : private RunObserver {
 
     const Arguments &m_arguments;
     Console &m_console;
-    std::vector<QString> m_names; ///< Of the inputs, as they were given.
+    std::vector<QString> m_names;  ///< Of the inputs, as they were given.
+    std::size_t m_reported = 0;    ///< How many of them are.
+    bool m_documentWarned = false; ///< Warnings of a whole PDF are said once.
     ProgressLine m_progress;
     TemporaryFolder m_temporaryFolder;
     ReadableLinks m_readableLinks{m_temporaryFolder}; ///< Outlives the inputs that lead through it.

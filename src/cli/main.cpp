@@ -49,6 +49,7 @@ int run(int argc, char *argv[]) {
 
 int main(int argc, char *argv[]) {
     fillStandardDescriptors();
+    reportFilesTooLarge();
     try {
         return run(argc, argv);
     } catch (const std::exception &failure) {

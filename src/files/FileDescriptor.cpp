@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <initializer_list>
 
 namespace folioforge {
@@ -85,6 +86,10 @@ void fillStandardDescriptors() {
             ::open("/dev/null", fd == STDIN_FILENO ? O_WRONLY : O_RDONLY);
         }
     }
+}
+
+void reportFilesTooLarge() {
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 } // namespace folioforge

@@ -52,4 +52,7 @@ class FileDescriptor {
 /// Call it before anything else in a program.
 void fillStandardDescriptors();
 
+/// Makes a write that a limit of file sizes forbids fail (EFBIG), instead of ending the process.
+void reportFilesTooLarge();
+
 } // namespace folioforge

@@ -33,6 +33,10 @@ bool isNoNamelessFile(int error) {
            error == ENOSYS;
 }
 
+bool isNoFlush(int error) {
+    return error == EINVAL || error == EOPNOTSUPP || error == ENOTSUP || error == ENOSYS;
+}
+
 bool canLinkByDescriptor(int fd) {
     const std::string path = "/proc/self/fd/" + std::to_string(fd);
     return ::access(path.c_str(), F_OK) == 0;
@@ -156,14 +160,18 @@ void OutputFile::overwrite(qint64 offset, const QByteArray &bytes) {
     }
 }
 
-void OutputFile::finish(Flush flush) {
+Warnings OutputFile::finish(Flush flush) {
     drain();
     if (m_part && m_calls.fchmod(m_file.get(), m_mode) != 0 && errno != EPERM && errno != ENOTSUP) {
         fail("write");
     }
-    if (flush == Flush::Always && uninterrupted([&] { return m_calls.fsync(m_file.get()); }) != 0) {
+    if (flush == Flush::Never || uninterrupted([&] { return m_calls.fsync(m_file.get()); }) == 0) {
+        return {};
+    }
+    if (!isNoFlush(errno)) {
         fail("flush");
     }
+    return {{WarningCode::NotFlushed, u"The file system cannot flush files to the disk"_s}};
 }
 
 bool OutputFile::renamePart(const char *path) {

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "error/Warning.h"
 #include "files/FileDescriptor.h"
 
 #include <QByteArray>
@@ -45,8 +46,9 @@ class OutputFile {
     /// Bytes appended so far.
     [[nodiscard]] qint64 size() const { return m_size; }
 
-    /// Brings the bytes to the file, and with Flush::Always to the disk. Throws Error.
-    void finish(Flush flush);
+    /// Brings the bytes to the file, and with Flush::Always to the disk. A file system that has no
+    /// flush is no failure but a warning. Throws Error.
+    Warnings finish(Flush flush);
     /// Gives the finished file its name `path`, in the folder it was made for. Throws Error when
     /// that fails for another reason than the name being taken.
     Published publish(const QString &path, Flush flush);

@@ -24,6 +24,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace folioforge {
 
@@ -279,8 +280,10 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.pdfVersion());
         m_reader->finish();
         translateQpdfErrors([&] { requireAllObjects(m_document, *m_reader); });
-        file.finish(m_settings.flush);
-        return publish(file, nextPath);
+        Warnings warnings = file.finish(m_settings.flush);
+        CloseResult result = publish(file, nextPath);
+        result.warnings = std::move(warnings);
+        return result;
     } catch (const Error &error) {
         return {CloseResult::Status::Failed, m_path, error.reason(), {}};
     }

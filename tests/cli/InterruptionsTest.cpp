@@ -2,6 +2,7 @@
 
 #include "support/Files.h"
 #include "support/HostileNames.h"
+#include "support/LimitedRun.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
 #include "support/RunFolders.h"
@@ -9,6 +10,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTest>
@@ -16,7 +18,9 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstring>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -101,6 +105,55 @@ class InterruptionsTest : public QObject {
         }
         qInfo("%d runs ended, %d parts left and cleared, %d documents whole", kRuns, left,
               static_cast<int>(documents.size()));
+    }
+
+    void aPdfBeyondTheLimitOfFileSizesFailsAlone() {
+        const QString small = test::writeFile(path("small.txt"), "words");
+        test::Limits limits;
+        limits.fileSize = QFileInfo(path("photo.jpg")).size() / 2;
+        const auto run =
+            test::runLimited(QStringLiteral(FOLIOFORGE_CLI),
+                             {u"--output-folder"_s, path("out"), path("photo.jpg"), small}, limits);
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.contains("photo.jpg: ") && run.err.contains(std::strerror(EFBIG)),
+                 run.err.constData());
+        QCOMPARE(QDir(path("out")).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{u"small.pdf"_s});
+        QVERIFY(PdfProbe(path("out/small.pdf")).isValid());
+    }
+
+    void theLimitOfProcessorTimeEndsTheRunInOrder() {
+        const QString text = test::writeFile(path("long.txt"), QByteArray(1 << 20, 'x'));
+        constexpr qsizetype kInputs = 2000; // Far more than two seconds are enough for.
+        test::Limits limits;
+        limits.processorSeconds = 2;
+        const auto run = test::runLimited(
+            QStringLiteral(FOLIOFORGE_CLI),
+            QStringList{u"--output-folder"_s, path("out")} + QStringList(kInputs, text), limits);
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(run.err.contains("folioforge-cli: The limit of processor time is reached\n"));
+        const QStringList documents = QDir(path("out")).entryList(QDir::Files | QDir::Hidden);
+        QVERIFY(!documents.isEmpty());
+        // Each input is named, as the PDF that it became or with the reason.
+        QCOMPARE(run.err.count("long.txt: ") + documents.size(), kInputs);
+        QVERIFY(PdfProbe(path("out/") + documents.last()).isValid());
+        QCOMPARE(hiddenIn("temporary"), QStringList());
+    }
+
+    void aFileSystemWithoutAFlushIsSaidOnce() {
+        const QString text = test::writeFile(path("a.txt"), "words");
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"LD_PRELOAD"_s, QStringLiteral(FOLIOFORGE_NO_FLUSH));
+        environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(FOLIOFORGE_CLI),
+                      {u"--output-folder"_s, path("out"), u"--strict"_s, text, text});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.readAllStandardError().count("cannot flush"), 1);
+        QCOMPARE(process.exitCode(), 1);
+        QCOMPARE(QDir(path("out")).entryList(QDir::Files),
+                 (QStringList{u"a(1).pdf"_s, u"a.pdf"_s}));
     }
 };
 

@@ -325,6 +325,26 @@ class OutputFileTest : public QObject {
         QCOMPARE(names(), QStringList());
     }
 
+    void aFileSystemWithoutAFlushIsAWarning_data() {
+        QTest::addColumn<int>("error");
+        QTest::newRow("invalid argument") << EINVAL;
+        QTest::newRow("not supported") << EOPNOTSUPP;
+        QTest::newRow("no such call") << ENOSYS;
+    }
+    void aFileSystemWithoutAFlushIsAWarning() {
+        QFETCH(const int, error);
+        FaultyCalls calls;
+        calls.failing["fsync"] = error;
+        OutputFile file(target(), calls);
+        file.write(kContent);
+        const Warnings warnings = file.finish(Flush::Always);
+        QCOMPARE(warnings.size(), std::size_t{1});
+        QCOMPARE(warnings[0].code, WarningCode::NotFlushed);
+        QCOMPARE(file.publish(target(), Flush::Always), OutputFile::Published::Yes);
+        QCOMPARE(contentOf(target()), kContent);
+        QVERIFY(OutputFile(target(), calls).finish(Flush::Never).empty());
+    }
+
     void theLongestNameCanBeWritten_data() { addWays(); }
     void theLongestNameCanBeWritten() {
         QFETCH(QStringList, missing);

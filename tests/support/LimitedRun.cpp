@@ -28,6 +28,7 @@ void apply(const Limits &limits) {
     limit(RLIMIT_AS, limitsAddresses() ? limits.addressSpace : 0);
     limit(RLIMIT_NOFILE, limits.descriptors);
     limit(RLIMIT_CPU, limits.processorSeconds);
+    limit(RLIMIT_FSIZE, limits.fileSize);
 }
 
 /// Becomes the program; only calls that are safe between fork() and execv().

@@ -12,6 +12,7 @@ namespace folioforge::test {
 struct Limits {
     qint64 addressSpace = 2LL << 30; ///< Bytes; where limitsAddresses().
     int descriptors = 0;
+    qint64 fileSize = 0; ///< Bytes.
     int processorSeconds = 120;
 };
 
