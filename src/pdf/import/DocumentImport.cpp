@@ -2,6 +2,8 @@
 
 #include "pdf/import/DocumentImport.h"
 
+#include "pdf/import/Entries.h"
+#include "pdf/import/LeftParts.h"
 #include "pdf/import/TreeEntries.h"
 
 #include <qpdf/QPDF.hh>
@@ -14,14 +16,6 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 
 namespace {
-
-QPDFObjectHandle entry(QPDFObjectHandle dictionary, const std::string &key) {
-    return dictionary.isDictionary() ? dictionary.getKey(key) : QPDFObjectHandle::newNull();
-}
-
-std::vector<QPDFObjectHandle> items(QPDFObjectHandle array) {
-    return array.isArray() ? array.getArrayAsVector() : std::vector<QPDFObjectHandle>();
-}
 
 bool isTrue(QPDFObjectHandle object) {
     return object.isBool() && object.getBoolValue();
@@ -146,6 +140,7 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     shared.beginCopy(source);
     ObjectCopier copier(source, target, shared);
     ImportedDocument imported;
+    imported.warnings = namePartsLeft(source);
     imported.pages = copier.copyPages();
     imported.bookmarks = importBookmarks(source, copier);
     imported.form = importForm(source, copier);

@@ -2,6 +2,8 @@
 
 #include "pdf/import/SharedStreams.h"
 
+#include "pdf/import/Entries.h"
+
 #include <qpdf/QPDF.hh>
 
 #include <vector>
@@ -62,11 +64,10 @@ class ObjectGraph {
         while (!open.empty()) {
             QPDFObjectHandle container = open.back();
             open.pop_back();
-            if (container.isArray()) {
-                for (const QPDFObjectHandle &item : container.getArrayAsVector()) {
-                    add(owner, item, open);
-                }
-            } else if (container.isDictionary()) {
+            for (const QPDFObjectHandle &item : items(container)) {
+                add(owner, item, open);
+            }
+            if (container.isDictionary()) {
                 readKeys(owner, container);
                 for (const auto &[key, item] : container.getDictAsMap()) {
                     add(owner, item, open);

@@ -2,18 +2,11 @@
 
 #include "pdf/import/TreeEntries.h"
 
+#include "pdf/import/Entries.h"
+
 #include <set>
 
 namespace folioforge {
-
-namespace {
-
-std::vector<QPDFObjectHandle> itemsOf(QPDFObjectHandle node, const char *key) {
-    auto array = node.getKey(key);
-    return array.isArray() ? array.getArrayAsVector() : std::vector<QPDFObjectHandle>();
-}
-
-} // namespace
 
 std::vector<std::pair<QPDFObjectHandle, QPDFObjectHandle>>
 readTreeEntries(const QPDFObjectHandle &root, const char *leafKey) {
@@ -27,11 +20,11 @@ readTreeEntries(const QPDFObjectHandle &root, const char *leafKey) {
             (node.isIndirect() && !visited.insert(node.getObjGen()).second)) {
             continue;
         }
-        const auto leaf = itemsOf(node, leafKey);
+        const auto leaf = items(node.getKey(leafKey));
         for (std::size_t i = 0; i + 1 < leaf.size(); i += 2) {
             entries.emplace_back(leaf[i], leaf[i + 1]);
         }
-        const auto kids = itemsOf(node, "/Kids");
+        const auto kids = items(node.getKey("/Kids"));
         pending.insert(pending.end(), kids.rbegin(), kids.rend());
     }
     return entries;

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <string>
+#include <vector>
+
+namespace folioforge {
+
+/// The value of `key`; null where there is none or `dictionary` is no dictionary.
+inline QPDFObjectHandle entry(QPDFObjectHandle dictionary, const std::string &key) {
+    return dictionary.isDictionary() ? dictionary.getKey(key) : QPDFObjectHandle::newNull();
+}
+
+/// What an array holds; nothing where `array` is none.
+inline std::vector<QPDFObjectHandle> items(QPDFObjectHandle array) {
+    return array.isArray() ? array.getArrayAsVector() : std::vector<QPDFObjectHandle>();
+}
+
+} // namespace folioforge

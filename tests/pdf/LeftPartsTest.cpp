@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "MergeCase.h"
+#include "support/TestUnit.h"
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// What of a document is named because it does not come with its pages.
+class LeftPartsTest : public QObject, protected MergeCase {
+    Q_OBJECT
+
+    static PdfFixture withCatalog(const QByteArray &keys) {
+        PdfFixture fixture;
+        fixture.object(1, "<< /Type /Catalog /Pages 2 0 R " + keys + " >>").pages(4, 1);
+        return fixture;
+    }
+    static PdfFixture withMetadata(const QByteArray &packet, const QByteArray &keys = {}) {
+        return withCatalog("/Metadata 20 0 R").stream(20, "/Type /Metadata " + keys, packet);
+    }
+    static QByteArray packet(const QByteArray &namespaces) {
+        return "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF "
+               "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description " +
+               namespaces + "/></rdf:RDF></x:xmpmeta>";
+    }
+
+    static QStringList texts(const Warnings &warnings) {
+        QStringList texts;
+        for (const Warning &warning : warnings) {
+            texts += warning.name() + u": "_s + warning.text;
+        }
+        return texts;
+    }
+    /// What is said of a document, each warning with its code.
+    QString said(const QString &source) {
+        return texts(PDFContext(newPath(), {}).addDocument(source).warnings).join(u'\n');
+    }
+    QString said(const PdfFixture &source) { return said(saved(source)); }
+
+  private Q_SLOTS:
+    void eachPartThatIsLeftIsNamed_data() {
+        QTest::addColumn<QByteArray>("catalog");
+        QTest::addColumn<QString>("name");
+        const auto row = [](const QString &name, const QByteArray &catalog) {
+            QTest::newRow(qPrintable(name)) << catalog << name;
+        };
+        row(u"structure tags"_s, "/StructTreeRoot << /K << /S /P >> >>");
+        row(u"1 attachment"_s, "/Names << /EmbeddedFiles << /Names [(a) << /F (a) >>] >> >>");
+        row(u"3 attachments"_s, "/Names << /EmbeddedFiles << /Kids [<< /Names [(a) 20 0 R (b) << "
+                                "/F (b) >>] >>] >> >> /AF [20 0 R << /F (c) >>]");
+        row(u"a portfolio"_s, "/Collection << /View /T >>");
+        row(u"an XFA form"_s, "/AcroForm << /Fields [] /XFA [(a) (b)] >>");
+        row(u"document scripts"_s, "/Names << /JavaScript << /Names [(a) << /S /JavaScript /JS "
+                                   "(1) >>] >> >>");
+        row(u"document scripts"_s, "/OpenAction << /S /JavaScript /JS (this.print\\(\\)) >>");
+        row(u"document scripts"_s, "/AA << /WC << /S /JavaScript /JS (1) >> >>");
+        row(u"page templates"_s, "/Names << /Templates << /Names [(a) 20 0 R] >> >>");
+        row(u"article threads"_s, "/Threads [20 0 R]");
+        row(u"further layer settings"_s, "/OCProperties << /OCGs [] /D << >> /Configs [<< >>] >>");
+        row(u"a base address of links"_s, "/URI << /Base (http://example.org/) >>");
+        row(u"usage rights"_s, "/Perms << /UR3 20 0 R >>");
+        row(u"output intents"_s, "/OutputIntents [<< /S /GTS_PDFA1 >>]");
+        row(u"structure tags, a portfolio, output intents"_s,
+            "/OutputIntents [<< >>] /Collection << >> /StructTreeRoot << /K [20 0 R] >>");
+    }
+    void eachPartThatIsLeftIsNamed() {
+        QFETCH(QByteArray, catalog);
+        QFETCH(QString, name);
+        const PdfFixture source = withCatalog(catalog).object(20, "<< /F (a) >>");
+        QCOMPARE(said(source), u"pdf-parts-left: Not carried over: "_s + name);
+    }
+
+    void whatNobodyMissesIsNotNamed() {
+        const QByteArray keys =
+            "/Lang (de) /PageMode /UseOutlines /PageLayout /OneColumn /ViewerPreferences << "
+            "/FitWindow true >> /OpenAction << /S /GoTo /D [4 0 R /Fit] >> /MarkInfo << /Marked "
+            "false >> /Names << /Dests << /Names [] >> /EmbeddedFiles << /Names [] >> >> "
+            "/StructTreeRoot << >> /AcroForm << /Fields [] >> /AF [] /AA << >> /OutputIntents [] "
+            "/Threads []";
+        QCOMPARE(said(withCatalog(keys)), QString());
+        QCOMPARE(said(withCatalog("/OpenAction [4 0 R /Fit]")), QString());
+    }
+
+    void metadataIsNamedWhereItSaysMoreThanTheDocumentProperties() {
+        const QByteArray usual = "xmlns:dc=\"http://purl.org/dc/elements/1.1/\" "
+                                 "xmlns:pdf=\"http://ns.adobe.com/pdf/1.3/\" "
+                                 "xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" "
+                                 "xmlns:xmpMM=\"http://ns.adobe.com/xap/1.0/mm/\" ";
+        const QString named = u"pdf-parts-left: Not carried over: metadata"_s;
+        QCOMPARE(said(withMetadata(packet(usual))), QString());
+        QCOMPARE(
+            said(withMetadata(packet(usual + "xmlns:pdfaid='http://www.aiim.org/pdfa/ns/id/'"))),
+            named);
+        QCOMPARE(said(withMetadata(packet("xmlns:r=\"http://ns.adobe.com/xap/1.0/rights/\""))),
+                 named);
+        QCOMPARE(said(withMetadata(packet("xmlns:cut=\"http://example.org"))), named);
+    }
+
+    void packedMetadataIsLookedThroughWhereItIsShort() {
+        const QByteArray rights = packet("xmlns:r=\"http://ns.adobe.com/xap/1.0/rights/\"");
+        const QByteArray plain = packet("");
+        const QString named = u"pdf-parts-left: Not carried over: metadata"_s;
+        const QByteArray hexadecimal = "/Filter /ASCIIHexDecode";
+        QCOMPARE(said(withMetadata(rights.toHex() + '>', hexadecimal)), named);
+        QCOMPARE(said(withMetadata(plain.toHex() + '>', hexadecimal)), QString());
+        QCOMPARE(said(withMetadata(plain.toHex() + '>' + QByteArray(20'000, ' '), hexadecimal)),
+                 named);
+        QCOMPARE(said(withMetadata(plain + QByteArray(20'000, ' '))), QString());
+    }
+
+    void attachmentsThatAnotherProgramAddedAreCounted() {
+        const QString plain = saved(withCatalog({}));
+        const QString once = newPath();
+        const QString twice = newPath();
+        QCOMPARE(
+            runTool(u"qpdf"_s, {plain, u"--add-attachment"_s, plain, u"--key=a"_s, u"--"_s, once})
+                .exitCode,
+            0);
+        QCOMPARE(
+            runTool(u"qpdf"_s, {once, u"--add-attachment"_s, plain, u"--key=b"_s, u"--"_s, twice})
+                .exitCode,
+            0);
+        QCOMPARE(said(once), u"pdf-parts-left: Not carried over: 1 attachment"_s);
+        QCOMPARE(said(twice), u"pdf-parts-left: Not carried over: 2 attachments"_s);
+    }
+
+    void aDocumentOfGhostscriptLosesNothing() {
+        const QString path = newPath();
+        const ToolRun run =
+            runTool(u"gs"_s, {u"-q"_s, u"-dNOPAUSE"_s, u"-dBATCH"_s, u"-sDEVICE=pdfwrite"_s,
+                              u"-o"_s, path, u"-c"_s, u"0 0 100 100 rectfill showpage"_s});
+        if (run.exitCode == -1) {
+            QSKIP("Ghostscript is not installed");
+        }
+        QVERIFY(PdfProbe(path).json().contains("/Metadata"));
+        QCOMPARE(said(path), QString());
+    }
+};
+
+FOLIOFORGE_TEST(LeftPartsTest)
+#include "LeftPartsTest.moc"
