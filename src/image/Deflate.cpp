@@ -4,7 +4,11 @@
 
 #include "error/Error.h"
 
+#include <QScopeGuard>
+
 #include <libdeflate.h>
+#define ZLIB_CONST // Its input is not changed.
+#include <zlib.h>
 
 #include <algorithm>
 #include <memory>
@@ -88,6 +92,38 @@ QByteArray inflateBytes(QByteArrayView bytes, qsizetype size) {
         throw Error(u"The compressed data is damaged"_s);
     }
     return out;
+}
+
+InflatedPart inflatePartly(QByteArrayView bytes, qsizetype size) {
+    // libdeflate gives all or nothing.
+    z_stream stream = {};
+    if (inflateInit(&stream) != Z_OK) {
+        throw std::bad_alloc();
+    }
+    const auto end = qScopeGuard([&] { inflateEnd(&stream); });
+    InflatedPart part{QByteArray(size, Qt::Uninitialized)};
+    constexpr qsizetype kMaxStep = 1 << 30; // zlib counts in 32 bits.
+    qsizetype read = 0;
+    qsizetype written = 0;
+    int result = Z_OK;
+    while (result == Z_OK) { // Behind the last byte stands a checksum.
+        const qsizetype source = std::min(bytes.size() - read, kMaxStep);
+        const qsizetype target = std::min(size - written, kMaxStep);
+        stream.next_in = reinterpret_cast<const Bytef *>(bytes.data() + read);
+        stream.avail_in = static_cast<uInt>(source);
+        stream.next_out = reinterpret_cast<Bytef *>(part.bytes.data() + written);
+        stream.avail_out = static_cast<uInt>(target);
+        result = inflate(&stream, Z_NO_FLUSH);
+        read += source - stream.avail_in;
+        written += target - stream.avail_out;
+    }
+    if (result == Z_MEM_ERROR) {
+        throw std::bad_alloc();
+    }
+    // A stream that is merely cut off is right as far as it goes.
+    part.isFaulty = result != Z_STREAM_END && !(result == Z_BUF_ERROR && read == bytes.size());
+    part.bytes.truncate(written);
+    return part;
 }
 
 QByteArray inflateUpTo(QByteArrayView bytes, qsizetype limit) {

@@ -42,6 +42,16 @@ QByteArray deflateBytes(QByteArrayView bytes, DeflateEffort effort = DeflateEffo
 /// another number of bytes.
 QByteArray inflateBytes(QByteArrayView bytes, qsizetype size);
 
+/// What could be unpacked of a damaged zlib stream.
+struct InflatedPart {
+    QByteArray bytes;
+    bool isFaulty = false; ///< Some of the bytes may be wrong.
+};
+
+/// As many of the `size` bytes that the zlib stream `bytes` should hold as it gives. Throws
+/// std::bad_alloc when there is no memory.
+InflatedPart inflatePartly(QByteArrayView bytes, qsizetype size);
+
 /// What the zlib stream `bytes` holds where the size is unknown; throws Error when it is damaged
 /// or holds more than `limit` bytes.
 QByteArray inflateUpTo(QByteArrayView bytes, qsizetype limit);

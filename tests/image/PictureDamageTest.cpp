@@ -19,9 +19,7 @@ class PictureDamageTest : public QObject {
         QCOMPARE(warning.text, u"The picture is cut off: 40 % of its rows could not be read"_s);
     }
 
-    void oneRowOfManyIsNotNothing() {
-        QVERIFY(cutOffPicture(1, 10'000).text.contains(u" 1 % "_s));
-    }
+    void oneRowOfManyIsNotNothing() { QVERIFY(cutOffPicture(1, 10'000).text.contains(u" 1 % "_s)); }
 
     void allRowsButOneAreNotAll() {
         QVERIFY(cutOffPicture(9'999, 10'000).text.contains(u" 99 % "_s));

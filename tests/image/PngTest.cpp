@@ -82,9 +82,28 @@ class PngTest : public QObject {
         QCOMPARE(refusalOf(write(bytes)), u"The PNG file is damaged"_s);
     }
 
-    void cutFileIsRefused() {
+    void fileWithoutAWholeRowIsRefused() {
         const QByteArray bytes = bytesOf(imageFile(u"colour.png"_s));
-        QCOMPARE(refusalOf(write(bytes.chopped(100))), u"The file ends too early"_s);
+        QCOMPARE(refusalOf(write(bytes.first(bytes.indexOf("IDAT") + 10))),
+                 u"The PNG file is damaged"_s);
+        QCOMPARE(refusalOf(write(bytes.first(bytes.indexOf("IDAT")))),
+                 u"The PNG file holds no picture"_s);
+    }
+
+    void missingEndLeavesThePicture() {
+        const QByteArray bytes = bytesOf(imageFile(u"colour.png"_s));
+        const PdfImage image = toPdfImage(write(bytes.chopped(12)));
+        QCOMPARE(warningsOf(image), QStringList());
+        QCOMPARE(rgbRows(image), rgbRows(toPdfImage(imageFile(u"colour.png"_s))));
+    }
+
+    void damagedPaletteIsNamed() {
+        QByteArray bytes = bytesOf(imageFile(u"palette.png"_s));
+        const qsizetype color = bytes.indexOf("PLTE") + 4;
+        bytes[color] = static_cast<char>(bytes.at(color) ^ 1);
+        QCOMPARE(
+            warningsOf(toPdfImage(write(bytes))),
+            QStringList(u"picture-damaged: The picture is damaged: parts of it may look wrong"_s));
     }
 
     void profileIsInflatedAndKept() {

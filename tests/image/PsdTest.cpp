@@ -88,6 +88,27 @@ class PsdTest : public QObject {
         QCOMPARE(decoded(image).pixel(0, 0), qRgb(10, 20, 40));
     }
 
+    void layersWithoutAMergedImageAreRefused() {
+        const auto version = [](char hasMerged) {
+            return resource(1057, bigEndian(quint32(1)) + hasMerged + QByteArray(8, '\0'));
+        };
+        const QByteArray blank(6, '\xff');
+        const QByteArray layers(16, '\1');
+        const QString reason = refusalOf(psd({3, 2, 1, 8, 3, version('\0'), blank, layers}));
+        QVERIFY2(reason.startsWith(u"The Photoshop file holds its layers alone"_s),
+                 qPrintable(reason));
+        // A picture that is white, one without layers, and one that is there all the same.
+        QCOMPARE(refusalOf(psd({3, 2, 1, 8, 3, version('\1'), blank, layers})), QString());
+        QCOMPARE(refusalOf(psd({3, 2, 1, 8, 3, version('\0'), blank})), QString());
+        QCOMPARE(refusalOf(psd({3, 2, 1, 8, 3, version('\0'), "abcdef", layers})), QString());
+    }
+
+    void rowsThatAreMissingHaveNoInk() {
+        const PdfImage image =
+            toPdfImage(psd({4, 1, 2, 8, 4, {}, QByteArray::fromHex("1020304050")}));
+        QCOMPARE(unzipped(image.data).last(4), QByteArray::fromHex("2040ffff"));
+    }
+
     void namedChannelIsNoOpacity() {
         const QByteArray pixels = QByteArray::fromHex("0a0b141528296480");
         QVERIFY(toPdfImage(psd({4, 2, 1, 8, 3, resource(1006, "\5Spots"), pixels})).softMask ==
@@ -105,6 +126,7 @@ class PsdTest : public QObject {
         int mode;
         QByteArray resources;
         QByteArray pixels;
+        QByteArray layers = {};
     };
 
     QString psd(const Parts &parts) {
@@ -113,7 +135,8 @@ class PsdTest : public QObject {
                            bigEndian(quint32(parts.width)) + bigEndian(quint16(parts.depth)) +
                            bigEndian(quint16(parts.mode)) + bigEndian(quint32(0));
         bytes += bigEndian(quint32(parts.resources.size())) + parts.resources;
-        bytes += bigEndian(quint32(0)) + bigEndian(quint16(0)) + parts.pixels;
+        bytes += bigEndian(quint32(parts.layers.size())) + parts.layers;
+        bytes += bigEndian(quint16(0)) + parts.pixels;
         return writeFile(m_folder.filePath(u"picture.psd"_s), bytes);
     }
 

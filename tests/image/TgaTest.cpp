@@ -94,11 +94,20 @@ class TgaTest : public QObject {
         QVERIFY(toPdfImage(tga("00020000000000", 16, 0x21, pixels)).softMask != nullptr);
     }
 
-    void cutFileIsRefused() {
-        QCOMPARE(refusalOf(tga("00020000000000", 24, 0x20, QByteArray(17, '\1'))),
+    void fileWithoutAWholeRowIsRefused() {
+        QCOMPARE(refusalOf(tga("00020000000000", 24, 0x20, QByteArray(8, '\1'))),
                  u"The file ends too early"_s);
-        QCOMPARE(refusalOf(tga("000a0000000000", 24, 0x20, QByteArray::fromHex("84010203"))),
+        QCOMPARE(refusalOf(tga("000a0000000000", 24, 0x20, QByteArray::fromHex("81010203"))),
                  u"The file ends too early"_s);
+    }
+
+    void runThatIsCutOffLeavesTheRowsBefore() {
+        // Five of one colour, and half of another.
+        const PdfImage image =
+            toPdfImage(tga("000a0000000000", 24, 0x20, QByteArray::fromHex("8401020300 0405")));
+        QCOMPARE(rgbRows(image).first(9).toHex(), QByteArray("030201").repeated(3));
+        QCOMPARE(warningsOf(image), QStringList(u"picture-damaged: The picture is cut off: 50 % of "
+                                                u"its rows could not be read"_s));
     }
 
   private:

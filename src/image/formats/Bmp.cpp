@@ -3,6 +3,7 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
+#include "image/PictureDamage.h"
 #include "image/formats/Dib.h"
 
 #include <algorithm>
@@ -86,21 +87,30 @@ Raster blackAndWhite(const QByteArray &rows, const DibHeader &dib, bool isWhiteF
     return raster;
 }
 
-Raster rasterOf(const FileView &file, const FileView &content, const DibHeader &dib) {
+/// A picture and how many of its rows the file lacks.
+struct Pixels {
+    Raster raster;
+    qint64 missingRows = 0;
+};
+
+Pixels readPixels(const FileView &file, const FileView &content, const DibHeader &dib) {
     const qint64 at = pixelsOf(file, dib);
+    const qint64 missing = missingDibRows(content, dib, at);
     if (dib.bits > 8) {
         ArgbImage picture = readColorDib(content, dib, at);
         picture.hasAlpha = picture.hasAlpha && picture.isVisible();
-        return rasterOf(picture);
+        return {rasterOf(picture), missing};
     }
     if (dib.bits == 1) {
         constexpr Argb kWhite = 0xFFFFFFFF;
         const std::vector<Argb> colors = readDibColors(content, dib);
         if (colors == std::vector{kOpaque, kWhite} || colors == std::vector{kWhite, kOpaque}) {
-            return blackAndWhite(readDibRows(content, dib, at), dib, colors[0] == kWhite);
+            return {blackAndWhite(readDibRows(content, dib, at), dib, colors[0] == kWhite),
+                    missing};
         }
     }
-    return rasterOf(readIndexedDib(content, dib, at));
+    IndexedDib indexed = readIndexedDib(content, dib, at);
+    return {rasterOf(std::move(indexed.image)), indexed.missingRows};
 }
 
 PdfImage toPdfImage(const FileView &file) {
@@ -108,7 +118,15 @@ PdfImage toPdfImage(const FileView &file) {
     const DibHeader dib = readDibHeader(content);
     const ImageHeader header = imageHeaderOf(dib);
     requireReadable(file, dib);
-    return encodeRaster(rasterOf(file, content, dib), header);
+    Pixels pixels = readPixels(file, content, dib);
+    if (pixels.missingRows >= dib.height) {
+        throw Error(u"The file ends too early"_s);
+    }
+    PdfImage image = encodeRaster(std::move(pixels.raster), header);
+    if (pixels.missingRows > 0) {
+        image.warnings.push_back(cutOffPicture(pixels.missingRows, dib.height));
+    }
+    return image;
 }
 
 } // namespace

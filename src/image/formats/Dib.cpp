@@ -109,8 +109,8 @@ class RunReader {
         , m_bits(bits)
         , m_image(image) {}
 
-    /// Draws until the end of the picture or of the bytes.
-    void drawAll() {
+    /// Draws until the end of the picture or of the bytes; gives the rows that have no end.
+    qint64 drawAll() {
         while (m_y < m_image.height && m_at + 2 <= m_bytes.size()) {
             const int count = next();
             const int value = next();
@@ -125,9 +125,11 @@ class RunReader {
                 m_x = 0;
                 ++m_y;
             } else {
-                return; // The end of the picture.
+                return 0; // The end of the picture.
             }
         }
+        const int done = m_y + (m_x == m_image.width ? 1 : 0);
+        return std::max(m_image.height - done, 0);
     }
 
   private:
@@ -228,6 +230,11 @@ std::vector<Argb> readDibColors(const FileView &dib, const DibHeader &header) {
     return colors;
 }
 
+qint64 missingDibRows(const FileView &dib, const DibHeader &header, qint64 at) {
+    const qint64 there = std::max<qint64>(dib.size() - at, 0) / header.stride();
+    return std::max<qint64>(header.height - there, 0);
+}
+
 QByteArray readDibRows(const FileView &dib, const DibHeader &header, qint64 at) {
     QByteArray rows = dib.read(at, header.stride() * header.height);
     rows.append(header.stride() * header.height - rows.size(), '\0');
@@ -239,15 +246,15 @@ const uchar *dibRow(const QByteArray &rows, const DibHeader &header, int y) {
     return reinterpret_cast<const uchar *>(rows.constData()) + stored * header.stride();
 }
 
-IndexedImage readIndexedDib(const FileView &dib, const DibHeader &header, qint64 at) {
+IndexedDib readIndexedDib(const FileView &dib, const DibHeader &header, qint64 at) {
     IndexedImage image{header.width, header.height, allocateRows(header.height, header.width),
                        readDibColors(dib, header)};
     if (header.compression != DibHeader::Plain) {
-        RunReader(dib.read(at, dib.size()), header.bits, image).drawAll();
+        const qint64 missing = RunReader(dib.read(at, dib.size()), header.bits, image).drawAll();
         if (header.isTopDown) {
             turnOver(image);
         }
-        return image;
+        return {image, missing};
     }
     const QByteArray rows = readDibRows(dib, header, at);
     char *target = image.indexes.data();
@@ -257,7 +264,7 @@ IndexedImage readIndexedDib(const FileView &dib, const DibHeader &header, qint64
             *target++ = static_cast<char>(packedSample(row, x, header.bits));
         }
     }
-    return image;
+    return {image, missingDibRows(dib, header, at)};
 }
 
 ArgbImage readColorDib(const FileView &dib, const DibHeader &header, qint64 at) {

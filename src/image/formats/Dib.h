@@ -43,6 +43,9 @@ DibHeader readDibHeader(const FileView &dib);
 /// The table of colours, opaque. Throws Error when it ends early.
 std::vector<Argb> readDibColors(const FileView &dib, const DibHeader &header);
 
+/// How many rows of an uncompressed bitmap, the first at byte `at`, stand behind the end of `dib`.
+qint64 missingDibRows(const FileView &dib, const DibHeader &header, qint64 at);
+
 /// The stored rows of an uncompressed bitmap of which the first stands at byte `at`. Rows behind
 /// the end of `dib` are zeros.
 QByteArray readDibRows(const FileView &dib, const DibHeader &header, qint64 at);
@@ -50,8 +53,14 @@ QByteArray readDibRows(const FileView &dib, const DibHeader &header, qint64 at);
 /// The row of readDibRows() that is number `y` from the top.
 const uchar *dibRow(const QByteArray &rows, const DibHeader &header, int y);
 
+/// The pixels of a bitmap of 1, 4 or 8 bits a pixel.
+struct IndexedDib {
+    IndexedImage image;
+    qint64 missingRows = 0; ///< That the file has no data for.
+};
+
 /// The pixels at byte `at` of a bitmap of 1, 4 or 8 bits a pixel. What runs leave out is colour 0.
-IndexedImage readIndexedDib(const FileView &dib, const DibHeader &header, qint64 at);
+IndexedDib readIndexedDib(const FileView &dib, const DibHeader &header, qint64 at);
 
 /// The pixels at byte `at` of a bitmap of 16 bits a pixel or more. Opacity counts where the header
 /// has a mask for it.

@@ -4,6 +4,7 @@
 
 #include "error/Error.h"
 #include "image/MorePictures.h"
+#include "image/PictureDamage.h"
 #include "image/Raster.h"
 #include "image/formats/LinearLight.h"
 
@@ -18,6 +19,7 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstring>
 #include <stdexcept>
 
@@ -129,13 +131,36 @@ Imf::Slice sliceOf(LightRows &light, int channel, const Imath::Box2i &window, in
     return {Imf::FLOAT, base, pixel, row, 1, 1, 0.0};
 }
 
-void readPlainChannels(Imf::InputFile &input, const std::vector<const char *> &names,
-                       Raster &raster) {
+/// Reads rows into the buffer that is set; what cannot be read leaves zeros and counts. OpenEXR
+/// keeps several rows in one block, of which the first may be whole where the next is not.
+qint64 readRows(Imf::InputFile &input, int first, int count) {
+    try {
+        input.readPixels(first, first + count - 1);
+        return 0;
+    } catch (const std::bad_alloc &) {
+        throw;
+    } catch (const std::exception &) {
+        if (count == 1) {
+            return 1;
+        }
+    }
+    qint64 missing = 0;
+    for (int row = first; row < first + count; ++row) {
+        missing += readRows(input, row, 1);
+    }
+    return missing;
+}
+
+/// Gives how many rows cannot be read.
+qint64 readPlainChannels(Imf::InputFile &input, const std::vector<const char *> &names,
+                         Raster &raster) {
     const Imath::Box2i window = input.header().dataWindow();
     LightRows light;
     light.channels = static_cast<int>(names.size());
     light.samples.resize(static_cast<size_t>(raster.width) * names.size() * kRowsAtOnce);
+    qint64 missing = 0;
     for (int first = 0; first < raster.height; first += kRowsAtOnce) {
+        std::ranges::fill(light.samples, 0.0F);
         const int count = std::min(kRowsAtOnce, raster.height - first);
         Imf::FrameBuffer buffer;
         for (int c = 0; c < light.channels; ++c) {
@@ -143,9 +168,10 @@ void readPlainChannels(Imf::InputFile &input, const std::vector<const char *> &n
                           sliceOf(light, c, window, window.min.y + first));
         }
         input.setFrameBuffer(buffer);
-        input.readPixels(window.min.y + first, window.min.y + first + count - 1);
+        missing += readRows(input, window.min.y + first, count);
         storeRows(light, first, count, raster);
     }
+    return missing;
 }
 
 /// Luminance with chroma at half the resolution, which only OpenEXR's own interface puts together.
@@ -173,7 +199,13 @@ void readLuminanceChroma(const FileView &file, Raster &raster) {
     }
 }
 
-Raster readPixels(const FileView &file, Imf::InputFile &input, const ImageHeader &header) {
+/// A picture and how many of its rows cannot be read.
+struct Pixels {
+    Raster raster;
+    qint64 missingRows = 0;
+};
+
+Pixels readPixels(const FileView &file, Imf::InputFile &input, const ImageHeader &header) {
     const Imf::ChannelList &channels = input.header().channels();
     const auto has = [&](const char *name) { return channels.findChannel(name) != nullptr; };
     const bool isChroma = has("RY") && has("BY");
@@ -194,14 +226,17 @@ Raster readPixels(const FileView &file, Imf::InputFile &input, const ImageHeader
     }
     if (isChroma) {
         readLuminanceChroma(file, raster);
-        return raster;
+        return {std::move(raster)};
     }
     std::vector<const char *> names = isColor ? std::vector{"R", "G", "B"} : std::vector{"Y"};
     if (raster.alpha) {
         names.push_back("A");
     }
-    readPlainChannels(input, names, raster);
-    return raster;
+    const qint64 missing = readPlainChannels(input, names, raster);
+    if (missing == raster.height) {
+        throw Error(u"The EXR file is damaged: none of its rows can be read"_s);
+    }
+    return {std::move(raster), missing};
 }
 
 int partsOf(const FileView &file) {
@@ -217,13 +252,16 @@ bool recognises(QByteArrayView head) {
 
 PdfImage toPdfImage(const FileView &file) {
     ImageHeader header;
-    Raster raster = reading([&] {
+    Pixels pixels = reading([&] {
         ExrStream stream(file);
         Imf::InputFile input(stream);
         header = headerOf(input.header());
         return readPixels(file, input, header);
     });
-    PdfImage image = encodeRaster(std::move(raster), header);
+    PdfImage image = encodeRaster(std::move(pixels.raster), header);
+    if (pixels.missingRows > 0) {
+        image.warnings.push_back(cutOffPicture(pixels.missingRows, header.height));
+    }
     addMorePictures(image.warnings, partsOf(file) - 1, QLatin1StringView("part"));
     return image;
 }

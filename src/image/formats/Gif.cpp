@@ -4,6 +4,7 @@
 
 #include "image/Bytes.h"
 #include "image/MorePictures.h"
+#include "image/PictureDamage.h"
 #include "image/formats/ArgbImage.h"
 
 #include <gif_lib.h>
@@ -205,23 +206,26 @@ std::vector<int> storedRows(const GifImageDesc &picture) {
     return rows;
 }
 
-/// Draws the picture where it lies on the screen. Data that ends early leaves the other rows.
-void drawPicture(const GifFile &gif, int transparent, ArgbImage &screen) {
+/// Draws the picture where it lies on the screen; gives how many of its rows cannot be read.
+qint64 drawPicture(const GifFile &gif, int transparent, ArgbImage &screen) {
     const GifImageDesc &picture = gif->Image;
     const auto colors =
         colorsOf(picture.ColorMap != nullptr ? picture.ColorMap : gif->SColorMap, transparent);
     std::vector<GifPixelType> line(static_cast<size_t>(picture.Width));
     const auto columns = std::clamp<qsizetype>(screen.width - picture.Left, 0, picture.Width);
+    int read = 0;
     for (const int y : storedRows(picture)) {
         if (DGifGetLine(gif.handle(), line.data(), picture.Width) != GIF_OK) {
-            return;
+            break;
         }
+        ++read;
         if (picture.Top + y < screen.height && columns > 0) {
             std::transform(line.begin(), line.begin() + columns,
                            screen.row(picture.Top + y) + picture.Left,
                            [&](GifPixelType number) { return colors[number]; });
         }
     }
+    return picture.Height - read;
 }
 
 PdfImage toPdfImage(const FileView &file) {
@@ -233,8 +237,14 @@ PdfImage toPdfImage(const FileView &file) {
     requirePlausible(pixels, file.size(), kLzwRatio);
     ArgbImage screen{header.width, header.height, transparent >= 0, {}};
     screen.pixels.assign(static_cast<size_t>(pixels), backgroundOf(gif, transparent));
-    drawPicture(gif, transparent, screen);
+    const qint64 missing = drawPicture(gif, transparent, screen);
+    if (missing > 0 && missing == gif->Image.Height) {
+        throw Error(u"The GIF file is damaged"_s);
+    }
     PdfImage image = encodeRaster(rasterOf(screen), header);
+    if (missing > 0) {
+        image.warnings.push_back(cutOffPicture(missing, gif->Image.Height));
+    }
     addMorePictures(image.warnings, gif.countFurtherPictures(), QLatin1StringView("picture"));
     return image;
 }

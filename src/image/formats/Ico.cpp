@@ -4,6 +4,7 @@
 
 #include "image/Bytes.h"
 #include "image/MorePictures.h"
+#include "image/PictureDamage.h"
 #include "image/formats/Dib.h"
 
 #include <algorithm>
@@ -111,12 +112,9 @@ ArgbImage argbOf(const IndexedImage &image) {
 ArgbImage readBitmap(const FileView &content, DibHeader bitmap) {
     const qint64 at = bitmap.endOfColors();
     const qint64 end = at + bitmap.stride() * bitmap.height;
-    if (end > content.size()) {
-        throw Error(u"The file ends too early"_s);
-    }
     bitmap.masks[3] = bitmap.bits == 32 ? kOpaque : 0;
     ArgbImage picture = bitmap.bits > 8 ? readColorDib(content, bitmap, at)
-                                        : argbOf(readIndexedDib(content, bitmap, at));
+                                        : argbOf(readIndexedDib(content, bitmap, at).image);
     picture.hasAlpha = true;
     if (bitmap.bits < 32 || !picture.isVisible()) {
         applyMask(content, bitmap, end, picture);
@@ -133,11 +131,26 @@ ImageHeader readHeader(const FileView &file) {
     return largestFrame(file).frame.header;
 }
 
+PdfImage imageOf(const Frame &frame) {
+    if (!frame.bitmap) {
+        return pngFormat().toPdfImage(frame.content);
+    }
+    const DibHeader &bitmap = *frame.bitmap;
+    const qint64 missing = missingDibRows(frame.content, bitmap, bitmap.endOfColors());
+    if (missing == bitmap.height) {
+        throw Error(u"The file ends too early"_s);
+    }
+    requirePlausible(bitmap.stride() * bitmap.height, frame.content.size(), 64);
+    PdfImage image = encodeRaster(rasterOf(readBitmap(frame.content, bitmap)), frame.header);
+    if (missing > 0) {
+        image.warnings.push_back(cutOffPicture(missing, bitmap.height));
+    }
+    return image;
+}
+
 PdfImage toPdfImage(const FileView &file) {
     const auto [frame, warnings] = largestFrame(file);
-    PdfImage image = frame.bitmap ? encodeRaster(rasterOf(readBitmap(frame.content, *frame.bitmap)),
-                                                 frame.header)
-                                  : pngFormat().toPdfImage(frame.content);
+    PdfImage image = imageOf(frame);
     image.warnings.insert(image.warnings.end(), warnings.begin(), warnings.end());
     return image;
 }

@@ -4,15 +4,14 @@
 
 #include "image/Bytes.h"
 #include "image/Deflate.h"
-#include "image/Exif.h"
 #include "image/IccProfile.h"
 #include "image/MorePictures.h"
 #include "image/Parallel.h"
+#include "image/PictureDamage.h"
 #include "image/Raster.h"
 #include "image/RowFilter.h"
 #include "image/formats/Interlaced.h"
-
-#include <libdeflate.h>
+#include "image/formats/PngMetadata.h"
 
 #include <future>
 
@@ -21,183 +20,6 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 
 namespace {
-
-enum ColorType : uchar { Gray = 0, Rgb = 2, Palette = 3, GrayAlpha = 4, RgbAlpha = 6 };
-
-constexpr qint64 kSignatureBytes = 8;
-constexpr double kMetresPerInch = 0.0254;
-/// No deflate stream is smaller than its data by more than this.
-constexpr qint64 kDeflateRatio = 1040;
-constexpr qsizetype kMaxPaletteBytes = qsizetype{3} * 256;
-
-struct PngMetadata {
-    ImageHeader header;
-    int bits = 0;
-    uchar colorType = 0;
-    bool interlaced = false;
-    QByteArray palette;
-    QByteArray transparency; ///< The tRNS chunk.
-    QByteArray iccProfile;
-    std::vector<FileSlice> data; ///< The IDAT chunks, from the start of the view.
-    bool ended = false;          ///< The chunks were read up to IEND.
-    qint64 frames = 0;           ///< Of an animation beside the picture.
-
-    [[nodiscard]] int channels() const {
-        switch (colorType) {
-        case Rgb:
-            return 3;
-        case GrayAlpha:
-            return 2;
-        case RgbAlpha:
-            return 4;
-        default:
-            return 1;
-        }
-    }
-    [[nodiscard]] bool hasAlphaChannel() const {
-        return colorType == GrayAlpha || colorType == RgbAlpha;
-    }
-    [[nodiscard]] ImageColor color() const {
-        return colorType == Palette       ? ImageColor::Indexed
-               : (colorType & Rgb) == Rgb ? ImageColor::Rgb
-                                          : ImageColor::Gray;
-    }
-    [[nodiscard]] qsizetype stride() const { return rowBytes(header.width, channels(), bits); }
-    [[nodiscard]] int pixelBytes() const { return std::max(channels() * bits / 8, 1); }
-};
-
-void readImageHeaderChunk(QByteArrayView chunk, PngMetadata &metadata) {
-    const auto width = bigEndianAt<quint32>(chunk, 0);
-    const auto height = bigEndianAt<quint32>(chunk, 4);
-    constexpr quint32 kMax = 0x7FFFFFFF;
-    metadata.header.width = static_cast<int>(std::min(width, kMax));
-    metadata.header.height = static_cast<int>(std::min(height, kMax));
-    metadata.bits = bigEndianAt<uchar>(chunk, 8);
-    metadata.colorType = bigEndianAt<uchar>(chunk, 9);
-    metadata.interlaced = bigEndianAt<uchar>(chunk, 12) != 0;
-    const bool smallDepth = metadata.bits == 1 || metadata.bits == 2 || metadata.bits == 4;
-    const bool valid = metadata.colorType == Gray
-                           ? smallDepth || metadata.bits == 8 || metadata.bits == 16
-                       : metadata.colorType == Palette
-                           ? smallDepth || metadata.bits == 8
-                           : (metadata.colorType == Rgb || metadata.hasAlphaChannel()) &&
-                                 (metadata.bits == 8 || metadata.bits == 16);
-    if (!valid) {
-        throw Error(u"The PNG file is damaged"_s);
-    }
-}
-
-void readDensity(QByteArrayView chunk, PngMetadata &metadata) {
-    if (bigEndianAt<uchar>(chunk, 8) == 1) {
-        metadata.header.horizontalDpi = bigEndianAt<quint32>(chunk, 0) * kMetresPerInch;
-        metadata.header.verticalDpi = bigEndianAt<quint32>(chunk, 4) * kMetresPerInch;
-    }
-}
-
-void readProfile(QByteArrayView chunk, PngMetadata &metadata) {
-    constexpr qsizetype kMaxProfileBytes = 1 << 25;
-    const qsizetype nameEnd = chunk.indexOf('\0');
-    if (nameEnd < 0 || nameEnd + 2 > chunk.size()) {
-        return;
-    }
-    try {
-        metadata.iccProfile = inflateUpTo(chunk.sliced(nameEnd + 2), kMaxProfileBytes);
-    } catch (const Error &) {
-        metadata.iccProfile.clear(); // A damaged profile is no reason to refuse the picture.
-    }
-}
-
-enum class Reading { Header, Pixels };
-
-void readChunk(QByteArrayView type, QByteArrayView chunk, PngMetadata &metadata) {
-    if (type == "IHDR") {
-        readImageHeaderChunk(chunk, metadata);
-    } else if (type == "PLTE") {
-        metadata.palette = chunk.toByteArray();
-    } else if (type == "tRNS") {
-        metadata.transparency = chunk.toByteArray();
-    } else if (type == "pHYs" && chunk.size() >= 9) {
-        readDensity(chunk, metadata);
-    } else if (type == "iCCP") {
-        readProfile(chunk, metadata);
-    } else if (type == "acTL") {
-        metadata.frames += bigEndianAt<quint32>(chunk, 0);
-    } else if (type == "fcTL" && metadata.data.empty()) {
-        metadata.frames -= 1; // Its first frame is the picture.
-    } else if (type == "eXIf") {
-        metadata.header.orientation = readExif(chunk).orientation;
-    }
-}
-
-bool isMetadata(QByteArrayView type) {
-    for (const char *name : {"IHDR", "PLTE", "tRNS", "pHYs", "iCCP", "eXIf", "acTL", "fcTL"}) {
-        if (type == name) {
-            return true;
-        }
-    }
-    return false;
-}
-
-void requireIntact(QByteArrayView typeAndData, quint32 stated) {
-    if (libdeflate_crc32(0, typeAndData.data(), static_cast<size_t>(typeAndData.size())) !=
-        stated) {
-        throw Error(u"The PNG file is damaged"_s);
-    }
-}
-
-/// Reads the chunk at byte `at` and returns the place of the next.
-qint64 readChunkAt(const FileView &file, qint64 at, Reading reading, PngMetadata &metadata) {
-    constexpr qint64 kLead = 8;
-    constexpr qint64 kChecksum = 4;
-    const QByteArray lead = file.readExactly(at, kLead);
-    const qint64 length = bigEndianAt<quint32>(lead, 0);
-    const QByteArray type = lead.sliced(4);
-    if (type == "IDAT") {
-        if (reading == Reading::Pixels) {
-            const QByteArray all = file.readExactly(at + 4, 4 + length + kChecksum);
-            requireIntact(QByteArrayView(all).chopped(kChecksum),
-                          bigEndianAt<quint32>(all, 4 + length));
-        }
-        metadata.data.push_back({at + kLead, length});
-    } else if (isMetadata(type)) {
-        readChunk(type, file.readExactly(at + kLead, length), metadata);
-    }
-    metadata.ended = type == "IEND";
-    return at + kLead + length + kChecksum;
-}
-
-PngMetadata readMetadata(const FileView &file, Reading reading) {
-    PngMetadata metadata;
-    // Some writers put the orientation behind the rows, so all chunks are read.
-    for (qint64 at = kSignatureBytes; !metadata.ended;) {
-        at = readChunkAt(file, at, reading, metadata);
-    }
-    if (metadata.bits == 0 || metadata.data.empty()) {
-        throw Error(u"The PNG file holds no picture"_s);
-    }
-    if (metadata.colorType == Palette &&
-        (metadata.palette.isEmpty() || metadata.palette.size() % 3 != 0 ||
-         metadata.palette.size() > kMaxPaletteBytes)) {
-        throw Error(u"The PNG file has no palette"_s);
-    }
-    metadata.header = checkedHeader(metadata.header);
-    return metadata;
-}
-
-/// The filtered rows, each behind the number of its filter.
-QByteArray inflateRows(const FileView &file, const PngMetadata &metadata, qsizetype size) {
-    qint64 total = 0;
-    for (const FileSlice &slice : metadata.data) {
-        total += slice.length;
-    }
-    requirePlausible(size, total, kDeflateRatio);
-    QByteArray compressed;
-    compressed.reserve(total);
-    for (const FileSlice &slice : metadata.data) {
-        compressed += file.readExactly(slice.offset, slice.length);
-    }
-    return inflateBytes(compressed, size);
-}
 
 /// Colour and opacity of filtered rows. PNG's filters work on each channel alone, so the filtered
 /// bytes are split as they are, and the colour keeps its filters.
@@ -227,7 +49,7 @@ SplitRows splitRows(const QByteArray &filtered, const PngMetadata &metadata) {
     const qsizetype alphaStride = 1 + rowBytes(width, 1, metadata.bits);
     SplitRows split{QByteArray(height * colorStride, Qt::Uninitialized),
                     QByteArray(height * alphaStride, Qt::Uninitialized)};
-    const auto splitOne = metadata.colorType == RgbAlpha
+    const auto splitOne = metadata.colorType == PngMetadata::RgbAlpha
                               ? (metadata.bits == 8 ? splitRow<3, 1> : splitRow<6, 2>)
                               : (metadata.bits == 8 ? splitRow<1, 1> : splitRow<2, 2>);
     const auto *source = reinterpret_cast<const uchar *>(filtered.constData());
@@ -247,13 +69,14 @@ class TransparencyTable {
     explicit TransparencyTable(const PngMetadata &metadata)
         : m_metadata(metadata) {
         for (qsizetype i = 0;
-             metadata.colorType != Palette && i + 2 <= metadata.transparency.size(); i += 2) {
+             metadata.colorType != PngMetadata::Palette && i + 2 <= metadata.transparency.size();
+             i += 2) {
             m_key.push_back(bigEndianAt<quint16>(metadata.transparency, i));
         }
     }
 
     [[nodiscard]] uchar opacity(const uchar *row, int x) const {
-        if (m_metadata.colorType == Palette) {
+        if (m_metadata.colorType == PngMetadata::Palette) {
             const int index = sample(row, x);
             return index < m_metadata.transparency.size()
                        ? static_cast<uchar>(m_metadata.transparency.at(index))
@@ -306,27 +129,37 @@ PdfImage describe(const PngMetadata &metadata) {
     return image;
 }
 
-/// The file's own compressed rows, with a soft mask where a tRNS chunk makes some transparent.
+/// Rows without an opacity channel: the file's own compressed data where it is whole, with a soft
+/// mask where a tRNS chunk makes some transparent.
 PdfImage withOwnRows(const FileView &file, const PngMetadata &metadata) {
     PdfImage image = describe(metadata);
-    image.embeddedAs = EmbeddedAs::OwnBytes;
-    for (const FileSlice &slice : metadata.data) {
-        image.slices.push_back({file.offset() + slice.offset, slice.length});
+    QByteArray rows;
+    if (!metadata.isWhole || !metadata.transparency.isEmpty()) {
+        const qsizetype size = metadata.header.height * (metadata.stride() + 1);
+        rows = inflatePngRows(file, metadata, size, image.warnings);
+    }
+    if (metadata.isWhole && image.warnings.empty()) {
+        image.embeddedAs = EmbeddedAs::OwnBytes;
+        for (const FileSlice &slice : metadata.data) {
+            image.slices.push_back({file.offset() + slice.offset, slice.length});
+        }
+    } else {
+        image.data = deflateBytes(rows);
     }
     if (!metadata.transparency.isEmpty()) {
-        const int height = metadata.header.height;
-        const QByteArray rows =
-            unfilterRows(inflateRows(file, metadata, height * (metadata.stride() + 1)), height,
-                         metadata.stride(), metadata.pixelBytes());
-        image.softMask = encodeAlpha(transparencyOf(rows, metadata), image.width, height);
+        rows =
+            unfilterRows(std::move(rows), image.height, metadata.stride(), metadata.pixelBytes());
+        image.softMask = encodeAlpha(transparencyOf(rows, metadata), image.width, image.height);
     }
     return image;
 }
 
 PdfImage withSplitRows(const FileView &file, const PngMetadata &metadata) {
     PdfImage image = describe(metadata);
-    SplitRows split = splitRows(
-        inflateRows(file, metadata, metadata.header.height * (metadata.stride() + 1)), metadata);
+    SplitRows split =
+        splitRows(inflatePngRows(file, metadata, metadata.header.height * (metadata.stride() + 1),
+                                 image.warnings),
+                  metadata);
     auto mask = runAsync(split.color.size(), [&] {
         AlphaPlane plane{metadata.bits, {}};
         plane.samples = unfilterRows(std::move(split.alpha), image.height,
@@ -341,7 +174,9 @@ PdfImage withSplitRows(const FileView &file, const PngMetadata &metadata) {
 PdfImage withInterlacedRows(const FileView &file, const PngMetadata &metadata) {
     const InterlacedShape shape{metadata.header.width, metadata.header.height,
                                 metadata.channels() * metadata.bits};
-    QByteArray rows = deinterlace(inflateRows(file, metadata, interlacedBytes(shape)), shape);
+    Warnings warnings;
+    QByteArray rows =
+        deinterlace(inflatePngRows(file, metadata, interlacedBytes(shape), warnings), shape);
     Raster raster;
     raster.width = metadata.header.width;
     raster.height = metadata.header.height;
@@ -361,7 +196,9 @@ PdfImage withInterlacedRows(const FileView &file, const PngMetadata &metadata) {
             raster.alpha = transparencyOf(raster.samples, metadata);
         }
     }
-    return encodeRaster(std::move(raster), metadata.header);
+    PdfImage image = encodeRaster(std::move(raster), metadata.header);
+    image.warnings = std::move(warnings);
+    return image;
 }
 
 bool recognises(QByteArrayView head) {
@@ -369,26 +206,22 @@ bool recognises(QByteArrayView head) {
 }
 
 ImageHeader readHeader(const FileView &file) {
-    return readMetadata(file, Reading::Header).header;
+    return readPngMetadata(file, PngReading::Header).header;
 }
 
 PdfImage toPdfImage(const FileView &file) {
-    const PngMetadata metadata = readMetadata(file, Reading::Pixels);
+    const PngMetadata metadata = readPngMetadata(file, PngReading::Pixels);
     PdfImage image = metadata.interlaced          ? withInterlacedRows(file, metadata)
                      : metadata.hasAlphaChannel() ? withSplitRows(file, metadata)
                                                   : withOwnRows(file, metadata);
+    if (metadata.isFaulty) {
+        image.warnings.push_back(faultyPicture());
+    }
     addMorePictures(image.warnings, metadata.frames, QLatin1StringView("frame"));
     return image;
 }
 
 } // namespace
-
-int pngPixelBits(QByteArrayView head) {
-    constexpr qsizetype kHeaderChunkAt = kSignatureBytes + 8;
-    PngMetadata metadata;
-    readImageHeaderChunk(head.sliced(std::min(head.size(), kHeaderChunkAt)), metadata);
-    return metadata.bits * metadata.channels();
-}
 
 ImageFormat pngFormat() {
     return {ImageKind::Png, {QLatin1StringView("png")}, recognises, readHeader, toPdfImage};

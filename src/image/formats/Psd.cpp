@@ -3,6 +3,7 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
+#include "image/PictureDamage.h"
 #include "image/Raster.h"
 #include "image/formats/LinearLight.h"
 #include "image/formats/PsdMetadata.h"
@@ -36,25 +37,32 @@ class PlaneReader {
             m_counts = file.readExactly(m_at, rows * width);
             m_at += m_counts.size();
         }
-        // PackBits makes 128 bytes of two.
-        requirePlausible(rows * m_rowBytes, file.size() - m_at, m_packed ? 64 : 1);
+        // PackBits makes 128 bytes of two. Of a file that was cut off, what is there is shown.
+        requirePlausible(rows * m_rowBytes, file.size() - m_at, 64);
     }
 
-    QByteArray nextRow() {
-        if (!m_packed) {
-            QByteArray row = m_file.readExactly(m_at, m_rowBytes);
-            m_at += m_rowBytes;
-            return row;
-        }
-        const qint64 length = m_metadata.isBig ? qint64(bigEndianAt<quint32>(m_counts, 4 * m_row))
-                                               : qint64(bigEndianAt<quint16>(m_counts, 2 * m_row));
+    /// The next row, filled up with `missing` where the file has ended.
+    QByteArray nextRow(char missing) {
+        const qint64 length = m_packed ? packedBytes(m_row) : m_rowBytes;
         ++m_row;
-        const QByteArray packed = m_file.readExactly(m_at, length);
+        const QByteArray bytes = m_file.read(m_at, length);
         m_at += length;
-        return unpackBits(packed);
+        QByteArray row = m_packed ? unpackBits(bytes) : bytes;
+        m_missing += row.size() < m_rowBytes ? 1 : 0;
+        row.resize(m_rowBytes, missing);
+        return row;
     }
+
+    /// How many of the rows read so far are not whole.
+    [[nodiscard]] qint64 missingRows() const { return m_missing; }
+    [[nodiscard]] qint64 rows() const { return m_row; }
 
   private:
+    [[nodiscard]] qint64 packedBytes(qint64 row) const {
+        return m_metadata.isBig ? qint64(bigEndianAt<quint32>(m_counts, 4 * row))
+                                : qint64(bigEndianAt<quint16>(m_counts, 2 * row));
+    }
+
     [[nodiscard]] QByteArray unpackBits(QByteArrayView packed) const {
         QByteArray row;
         row.reserve(m_rowBytes);
@@ -69,7 +77,7 @@ class PlaneReader {
                 row.append(257 - lead, packed[at++]);
             }
         }
-        row.resize(m_rowBytes, '\0');
+        row.truncate(m_rowBytes);
         return row;
     }
 
@@ -78,6 +86,7 @@ class PlaneReader {
     qsizetype m_rowBytes;
     qint64 m_at;
     qint64 m_row = 0;
+    qint64 m_missing = 0;
     bool m_packed = false;
     QByteArray m_counts;
 };
@@ -88,6 +97,7 @@ struct PlaneTarget {
     int channel;
     int channels;
     bool isLight; ///< Linear light where the file has 32 bits, not a fraction such as opacity.
+    char missing; ///< What stands for bytes that the file lacks.
 };
 
 void placeRow(const QByteArray &row, int y, const PsdMetadata &metadata,
@@ -110,7 +120,7 @@ void placeRow(const QByteArray &row, int y, const PsdMetadata &metadata,
 
 void readPlane(PlaneReader &reader, const PsdMetadata &metadata, const PlaneTarget &target) {
     for (int y = 0; y < metadata.header.height; ++y) {
-        placeRow(reader.nextRow(), y, metadata, target);
+        placeRow(reader.nextRow(target.missing), y, metadata, target);
     }
 }
 
@@ -169,25 +179,54 @@ template<typename Sample> void removeWhiteMatte(Raster &raster) {
     }
 }
 
-void readSamples(const FileView &file, const PsdMetadata &metadata, Raster &raster) {
-    PlaneReader reader(file, metadata); // Which refuses a short file before there is memory for it.
+void readPlanes(PlaneReader &reader, const PsdMetadata &metadata, Raster &raster) {
+    // What the file lacks has no ink, and full opacity; a number of four bytes that is full is
+    // 0x7F.
+    const char full = metadata.depth == 32 ? '\x7F' : '\xFF';
+    const char missing = raster.color == ImageColor::Cmyk ? full : '\0';
     raster.samples = allocateRows(raster.height, raster.stride());
     if (metadata.depth == 1) {
         for (int y = 0; y < raster.height; ++y) {
-            raster.samples.replace(y * raster.stride(), raster.stride(), reader.nextRow());
+            raster.samples.replace(y * raster.stride(), raster.stride(), reader.nextRow(missing));
         }
         return;
     }
     const int channels = channelCount(raster.color);
     const bool isLight = raster.color == ImageColor::Gray || raster.color == ImageColor::Rgb;
     for (int c = 0; c < channels; ++c) {
-        readPlane(reader, metadata, {&raster.samples, c, channels, isLight});
+        readPlane(reader, metadata, {&raster.samples, c, channels, isLight, missing});
     }
     if (metadata.alpha != PsdAlpha::None) {
         raster.alpha = AlphaPlane{
             raster.bits, allocateRows(raster.height, rowBytes(raster.width, 1, raster.bits))};
-        readPlane(reader, metadata, {&raster.alpha->samples, 0, 1, false});
+        readPlane(reader, metadata, {&raster.alpha->samples, 0, 1, false, full});
     }
+}
+
+/// Whether every pixel is as the first, as in a merged image that its program left out.
+bool isBlank(const Raster &raster) {
+    const qsizetype pixel = channelCount(raster.color) * raster.bits / 8;
+    const QByteArrayView samples(raster.samples);
+    return samples.first(samples.size() - pixel) == samples.sliced(pixel) &&
+           (!raster.alpha || raster.alpha->samples.count(raster.alpha->samples.front()) ==
+                                 raster.alpha->samples.size());
+}
+
+/// Reads the pixels and says how many rows the file lacks.
+Warnings readSamples(const FileView &file, const PsdMetadata &metadata, Raster &raster) {
+    PlaneReader reader(file, metadata); // Which refuses a short file before there is memory for it.
+    readPlanes(reader, metadata, raster);
+    if (reader.missingRows() == reader.rows()) {
+        throw Error(u"The file ends too early"_s);
+    }
+    if (metadata.statesNoMergedImage && metadata.hasLayers && raster.bits >= 8 && isBlank(raster)) {
+        throw Error(u"The Photoshop file holds its layers alone: save it with maximized "
+                    u"compatibility, which adds the picture they make"_s);
+    }
+    if (reader.missingRows() > 0) {
+        return {cutOffPicture(reader.missingRows(), reader.rows())};
+    }
+    return {};
 }
 
 /// Palettes hold all reds, then all greens, then all blues.
@@ -240,13 +279,15 @@ PdfImage toPdfImage(const FileView &file) {
     } else if (metadata.color == ImageColor::Indexed) {
         raster.palette = interleavedPalette(metadata.colorModeData);
     }
-    readSamples(file, metadata, raster);
+    const Warnings warnings = readSamples(file, metadata, raster);
     if (metadata.alpha == PsdAlpha::OnWhite && metadata.color != ImageColor::Cmyk &&
         metadata.color != ImageColor::Lab) {
         raster.bits == 16 ? removeWhiteMatte<quint16>(raster) : removeWhiteMatte<uchar>(raster);
     }
     applyTransparentIndex(metadata, raster);
-    return encodeRaster(std::move(raster), metadata.header);
+    PdfImage image = encodeRaster(std::move(raster), metadata.header);
+    image.warnings = warnings;
+    return image;
 }
 
 } // namespace

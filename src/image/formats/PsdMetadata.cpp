@@ -28,6 +28,7 @@ enum Resource : quint16 {
     IccProfile = 1039,
     UnicodeAlphaNames = 1045,
     TransparentIndex = 1047,
+    VersionInfo = 1057,
 };
 
 constexpr qint64 kHeaderBytes = 26;
@@ -81,6 +82,8 @@ void readResource(quint16 id, QByteArrayView data, PsdMetadata &metadata, bool &
         metadata.iccProfile = data.toByteArray();
     } else if (id == TransparentIndex && data.size() >= 2) {
         metadata.transparentIndex = bigEndianAt<quint16>(data, 0);
+    } else if (id == VersionInfo && data.size() >= 5) {
+        metadata.statesNoMergedImage = data[4] == 0;
     } else if (id == AlphaNames || id == UnicodeAlphaNames) {
         namesChannels = namesChannels || !data.isEmpty();
     }
@@ -147,6 +150,7 @@ PsdMetadata readPsdMetadata(const FileView &file) {
                                     ? static_cast<qint64>(bigEndianAt<quint64>(length, 0))
                                     : qint64(bigEndianAt<quint32>(length, 0));
     metadata.alpha = alphaOf(file, at, layersLength, metadata, namesChannels);
+    metadata.hasLayers = layersLength > 0;
     metadata.pixelsOffset = at + file.part(at, layersLength).size();
     metadata.header = checkedHeader(metadata.header);
     return metadata;

@@ -25,6 +25,8 @@ struct PsdMetadata {
     ImageColor color = ImageColor::Rgb;
     PsdAlpha alpha = PsdAlpha::None;
     int transparentIndex = -1; ///< Of the palette; -1 for none.
+    bool hasLayers = false;
+    bool statesNoMergedImage = false; ///< Written without one to save room: it is blank.
     QByteArray colorModeData;
     QByteArray iccProfile;
     qint64 pixelsOffset = 0; ///< Byte at which the merged image begins.

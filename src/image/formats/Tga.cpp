@@ -3,6 +3,7 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
+#include "image/PictureDamage.h"
 #include "image/Raster.h"
 
 #include <array>
@@ -74,36 +75,40 @@ TgaHeader readTgaHeader(const FileView &file) {
 }
 
 /// Run-length packets: a count byte, high bit for one pixel repeated. A packet may run over the end
-/// of a row. Missing pixels at the end of the file are an error.
+/// of a row. Gives what the file has of `size` bytes.
 QByteArray expandRuns(QByteArrayView packed, qsizetype size, int pixelBytes) {
     QByteArray out(size, Qt::Uninitialized);
     qsizetype done = 0;
     qsizetype at = 0;
-    while (done < size) {
+    while (done < size && at < packed.size()) {
         const int count = bigEndianAt<uchar>(packed, at++);
         const qsizetype pixels = (count & 0x7F) + 1;
         const bool repeated = (count & 0x80) != 0;
-        const qsizetype source = repeated ? pixelBytes : pixels * pixelBytes;
-        if (at + source > packed.size()) {
-            throw Error(u"The file ends too early"_s);
+        const qsizetype source =
+            std::min(repeated ? pixelBytes : pixels * pixelBytes, packed.size() - at);
+        if (repeated && source < pixelBytes) {
+            break;
         }
-        const qsizetype wanted = std::min(pixels * pixelBytes, size - done);
+        const qsizetype wanted = std::min(repeated ? pixels * pixelBytes : source, size - done);
         for (qsizetype i = 0; i < wanted; ++i) {
             out[done + i] = packed[at + (repeated ? i % pixelBytes : i)];
         }
         at += source;
         done += wanted;
     }
+    out.truncate(done);
     return out;
 }
 
+/// As many of the pixels' bytes as the file has.
 QByteArray readPixels(const FileView &file, const TgaHeader &tga) {
     const qint64 size = qint64(tga.width) * tga.height * tga.pixelBytes();
-    if (!tga.runLength) {
-        return file.readExactly(tga.dataOffset, size);
-    }
-    // 128 pixels of a run take one byte and a pixel.
+    // 128 pixels of a run take one byte and a pixel. Of a file that was cut off, what is there is
+    // shown.
     requirePlausible(size, file.size(), 128);
+    if (!tga.runLength) {
+        return file.read(tga.dataOffset, size);
+    }
     return expandRuns(file.read(tga.dataOffset, file.size()), size, tga.pixelBytes());
 }
 
@@ -204,7 +209,13 @@ ImageHeader readHeader(const FileView &file) {
 PdfImage toPdfImage(const FileView &file) {
     const TgaHeader tga = readTgaHeader(file);
     const ImageHeader header = imageHeaderOf(tga);
-    const QByteArray pixels = readPixels(file, tga);
+    const qint64 row = qint64(tga.width) * tga.pixelBytes();
+    QByteArray pixels = readPixels(file, tga);
+    const qint64 missing = tga.height - pixels.size() / row;
+    if (missing == tga.height) {
+        throw Error(u"The file ends too early"_s);
+    }
+    pixels.resize(row * tga.height, '\0');
     Raster raster;
     raster.width = tga.width;
     raster.height = tga.height;
@@ -220,7 +231,11 @@ PdfImage toPdfImage(const FileView &file) {
                   tga.type == Mapped ? readColorMap(file, tga) : std::vector<Rgba>());
     }
     dropEmptyAlpha(raster);
-    return encodeRaster(std::move(raster), header);
+    PdfImage image = encodeRaster(std::move(raster), header);
+    if (missing > 0) {
+        image.warnings.push_back(cutOffPicture(missing, tga.height));
+    }
+    return image;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "image/formats/Formats.h"
 
+#include "image/PictureDamage.h"
 #include "image/formats/Tiff.h"
 
 #include <array>
@@ -90,9 +91,18 @@ PdfImage toPdfImage(const FileView &file) {
     const TiffFile tiff(file);
     const TiffShape shape = readTiffShape(tiff);
     const ImageHeader header = imageHeaderOf(tiff, shape);
-    PdfImage image = isPlainGroup4(tiff, shape) ? encodeGroup4(file, tiff, shape)
-                                                : encodeRaster(decodeTiff(tiff, shape), header);
+    TiffDamage damage;
+    Raster raster = decodeTiff(tiff, shape, damage);
+    // Group 4 data is kept where all of its rows could be decoded.
+    PdfImage image = damage.isNone() && isPlainGroup4(tiff, shape)
+                         ? encodeGroup4(file, tiff, shape)
+                         : encodeRaster(std::move(raster), header);
     image.header = header;
+    if (damage.missing > 0) {
+        image.warnings.push_back(cutOffPicture(damage.missing, damage.all));
+    } else if (damage.isFaulty) {
+        image.warnings.push_back(faultyPicture());
+    }
     addFurtherPages(file, image.warnings);
     return image;
 }

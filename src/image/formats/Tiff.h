@@ -8,6 +8,7 @@
 #include <tiffio.h>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace folioforge {
@@ -16,22 +17,29 @@ namespace folioforge {
 /// the first message of an error.
 class TiffFile {
   public:
-    /// Opens the first directory; throws Error when it cannot be read.
-    explicit TiffFile(const FileView &file);
+    /// Opens the first directory; throws Error when it cannot be read. With `padding`, as many of
+    /// these bytes as are asked for stand behind the end of the file.
+    explicit TiffFile(const FileView &file, std::optional<char> padding = std::nullopt);
 
     [[nodiscard]] TIFF *handle() const { return m_handle.get(); }
     [[nodiscard]] const FileView &file() const { return m_state->file; }
 
     /// The value of a tag of 16 bits, `missing` where it is absent and has no default.
     [[nodiscard]] int number(uint32_t tag, int missing) const;
-    /// Throws the Error that libtiff reported last.
+    /// How often libtiff has reported an error, or a warning, since the file was opened.
+    [[nodiscard]] int errors() const { return m_state->errors; }
+    [[nodiscard]] int warnings() const { return m_state->warnings; }
+    /// Throws the Error that libtiff reported first.
     [[noreturn]] void fail() const;
 
   private:
     struct State {
         FileView file;
+        std::optional<char> padding;
         qint64 at = 0;
         QString message;
+        int errors = 0;
+        int warnings = 0;
     };
     struct Close {
         void operator()(TIFF *tif) const { TIFFClose(tif); }
@@ -44,8 +52,8 @@ class TiffFile {
     static toff_t size(thandle_t handle);
     static int keepMessage(TIFF *tif, void *data, const char *module, const char *format,
                            va_list arguments);
-    static int ignoreMessage(TIFF *tif, void *data, const char *module, const char *format,
-                             va_list arguments);
+    static int countWarning(TIFF *tif, void *data, const char *module, const char *format,
+                            va_list arguments);
 
     std::unique_ptr<State> m_state; ///< libtiff holds its address.
     std::unique_ptr<TIFF, Close> m_handle;
@@ -72,18 +80,62 @@ struct TiffPlane {
     qsizetype stride = 0;
 };
 
+/// What of the pixels could not be decoded.
+struct TiffDamage {
+    qint64 missing = 0; ///< Rows or tiles that are not there, of `all`.
+    qint64 all = 0;
+    bool isFaulty = false; ///< What is there may be wrong.
+
+    [[nodiscard]] bool isNone() const { return missing == 0 && !isFaulty; }
+    void add(const TiffDamage &other) {
+        missing += other.missing;
+        all += other.all;
+        isFaulty = isFaulty || other.isFaulty;
+    }
+};
+
+/// Reads strips and tiles of one plane, as much of each as there is; the rest is zeros. A reader
+/// holds the state of one decoder: each thread needs its own.
+class TiffReader {
+  public:
+    TiffReader(const FileView &file, const TiffShape &shape, int plane);
+
+    /// Decodes the strip of `rows` rows of `stride` bytes that begins with row `y`.
+    void readStrip(int y, int rows, qsizetype stride, char *target);
+    /// Decodes the tile of `size` bytes at this pixel.
+    void readTile(qint64 x, qint64 y, tmsize_t size, char *target);
+
+    [[nodiscard]] const TiffFile &tiff() const { return m_tiff; }
+    /// What of the strips and tiles read so far is not there.
+    [[nodiscard]] const TiffDamage &damage() const { return m_damage; }
+
+  private:
+    [[nodiscard]] bool isFax() const;
+    [[nodiscard]] int complaints(const TiffFile &tiff) const;
+    int readRows(const TiffFile &tiff, int y, int rows, qsizetype stride, char *target);
+    void rescueStrip(int y, int rows, qsizetype stride, char *target);
+
+    TiffShape m_shape;
+    int m_plane;
+    TiffFile m_tiff;
+    TiffDamage m_damage;
+    std::unique_ptr<TiffFile> m_padded; ///< Two that do not end, made when something is missing.
+    std::unique_ptr<TiffFile> m_paddedOtherwise;
+};
+
 /// Throws Error where the file's strips or tiles are too short for `raw` bytes of pixels.
 void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw);
 
 /// Decompresses all planes, strips on several threads. Throws Error, before it allocates anything
-/// where the file is too short for its pixels.
-std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape);
+/// where the file is too short for its pixels, and where nothing can be decoded.
+std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape,
+                                      TiffDamage &damage);
 
 /// Adds what the file holds behind its first page, which is left out: smaller copies and masks of
 /// a page do not count.
 void addFurtherPages(const FileView &file, Warnings &warnings);
 
 /// Decodes the first directory. Throws Error.
-Raster decodeTiff(const TiffFile &tiff, const TiffShape &shape);
+Raster decodeTiff(const TiffFile &tiff, const TiffShape &shape, TiffDamage &damage);
 
 } // namespace folioforge

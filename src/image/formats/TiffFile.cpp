@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -20,11 +21,11 @@ struct FreeOptions {
 
 } // namespace
 
-TiffFile::TiffFile(const FileView &file)
-    : m_state(new State{file, 0, {}}) {
+TiffFile::TiffFile(const FileView &file, std::optional<char> padding)
+    : m_state(new State{file, padding, 0, {}, 0, 0}) {
     const std::unique_ptr<TIFFOpenOptions, FreeOptions> options(TIFFOpenOptionsAlloc());
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), keepMessage, m_state.get());
-    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), ignoreMessage, nullptr);
+    TIFFOpenOptionsSetWarningHandlerExtR(options.get(), countWarning, m_state.get());
     constexpr tmsize_t kMaxBytesAtOnce = kMaxImagePixels * 8;
     TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), kMaxBytesAtOnce);
     // m: no mapping, since a file that shrinks while mapped ends the process.
@@ -51,6 +52,12 @@ tmsize_t TiffFile::read(thandle_t handle, void *target, tmsize_t size) {
     try {
         const qint64 got = state.file.readInto(
             state.at, {static_cast<uchar *>(target), static_cast<size_t>(size)});
+        if (state.padding && got < size) {
+            std::memset(static_cast<char *>(target) + got, *state.padding,
+                        static_cast<size_t>(size - got));
+            state.at += size;
+            return size;
+        }
         state.at += got;
         return got;
     } catch (const Error &) {
@@ -80,6 +87,7 @@ toff_t TiffFile::size(thandle_t handle) {
 int TiffFile::keepMessage(TIFF * /*tif*/, void *data, const char * /*module*/, const char *format,
                           va_list arguments) {
     auto &state = *static_cast<State *>(data);
+    ++state.errors;
     if (state.message.isEmpty()) {
         char text[256];
         std::vsnprintf(text, sizeof text, format, arguments);
@@ -91,8 +99,9 @@ int TiffFile::keepMessage(TIFF * /*tif*/, void *data, const char * /*module*/, c
     return 1;
 }
 
-int TiffFile::ignoreMessage(TIFF * /*tif*/, void * /*data*/, const char * /*module*/,
-                            const char * /*format*/, va_list /*arguments*/) {
+int TiffFile::countWarning(TIFF * /*tif*/, void *data, const char * /*module*/,
+                           const char * /*format*/, va_list /*arguments*/) {
+    ++static_cast<State *>(data)->warnings;
     return 1;
 }
 

@@ -244,13 +244,27 @@ struct EndRgbaImage {
     void operator()(TIFFRGBAImage *image) const { TIFFRGBAImageEnd(image); }
 };
 
+/// What is missing of pixels that libtiff could not all read: those have neither colour nor
+/// opacity.
+TiffDamage damageOf(const QByteArray &packed, int height) {
+    const qsizetype stride = packed.size() / height;
+    TiffDamage damage{0, height, false};
+    for (int y = 0; y < height; ++y) {
+        const QByteArrayView row = QByteArrayView(packed).sliced(y * stride, stride);
+        damage.missing += std::ranges::all_of(row, [](char byte) { return byte == 0; }) ? 1 : 0;
+    }
+    damage.isFaulty = damage.missing == 0;
+    return damage;
+}
+
 /// libtiff's own conversion to eight-bit RGB.
-void readAsRgb(const TiffFile &tiff, const TiffShape &shape, Raster &raster) {
+void readAsRgb(const TiffFile &tiff, const TiffShape &shape, Raster &raster, TiffDamage &damage) {
     requireEnoughData(tiff, shape, qint64(raster.width) * raster.height);
+    constexpr int kGoOn = 0; // Where a strip cannot be read.
     char message[1024] = "";
     TIFFRGBAImage image = {};
     if (TIFFRGBAImageOK(tiff.handle(), message) == 0 ||
-        TIFFRGBAImageBegin(&image, tiff.handle(), 1, message) == 0) {
+        TIFFRGBAImageBegin(&image, tiff.handle(), kGoOn, message) == 0) {
         throw Error(
             u"The TIFF file cannot be read: %1"_s.arg(QString::fromUtf8(message).simplified()));
     }
@@ -258,8 +272,15 @@ void readAsRgb(const TiffFile &tiff, const TiffShape &shape, Raster &raster) {
     image.req_orientation = image.orientation; // The page turns the picture, not the pixels.
     QByteArray packed = allocateRows(raster.height, qsizetype(raster.width) * 4);
     auto *pixels = reinterpret_cast<uint32_t *>(packed.data());
+    const int before = tiff.errors();
     if (TIFFRGBAImageGet(&image, pixels, static_cast<uint32_t>(raster.width),
                          static_cast<uint32_t>(raster.height)) == 0) {
+        tiff.fail();
+    }
+    if (tiff.errors() != before) {
+        damage = damageOf(packed, raster.height);
+    }
+    if (damage.missing == raster.height) {
         tiff.fail();
     }
     raster.bits = 8;
@@ -280,8 +301,8 @@ void readAsRgb(const TiffFile &tiff, const TiffShape &shape, Raster &raster) {
     unpremultiply(raster);
 }
 
-void readSamples(const TiffFile &tiff, const TiffShape &shape, Raster &raster) {
-    std::vector<TiffPlane> planes = readTiffPlanes(tiff, shape);
+void readSamples(const TiffFile &tiff, const TiffShape &shape, Raster &raster, TiffDamage &damage) {
+    std::vector<TiffPlane> planes = readTiffPlanes(tiff, shape, damage);
     raster.color = colorOf(shape);
     const int colors = channelCount(raster.color);
     const AlphaSample alpha = alphaSampleOf(tiff, colors, shape.samples);
@@ -330,15 +351,15 @@ TiffShape readTiffShape(const TiffFile &tiff) {
     return shape;
 }
 
-Raster decodeTiff(const TiffFile &tiff, const TiffShape &shape) {
+Raster decodeTiff(const TiffFile &tiff, const TiffShape &shape, TiffDamage &damage) {
     Raster raster;
     raster.width = shape.width;
     raster.height = shape.height;
     raster.iccProfile = profileOf(tiff);
     if (hasSamplesOfPdf(tiff, shape)) {
-        readSamples(tiff, shape, raster);
+        readSamples(tiff, shape, raster, damage);
     } else {
-        readAsRgb(tiff, shape, raster);
+        readAsRgb(tiff, shape, raster, damage);
     }
     return raster;
 }

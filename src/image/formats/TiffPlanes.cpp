@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <mutex>
 
 namespace folioforge {
 
@@ -14,8 +15,7 @@ namespace {
 /// The ratio that no data of a compression exceeds.
 qint64 maxRatio(int compression) {
     switch (compression) {
-    case COMPRESSION_NONE:
-        return 1;
+    case COMPRESSION_NONE: // Of a file that was cut off, what is there is shown.
     case COMPRESSION_PACKBITS:
         return 64;
     case COMPRESSION_ADOBE_DEFLATE:
@@ -28,38 +28,29 @@ qint64 maxRatio(int compression) {
     }
 }
 
-/// JPEG data comes out as RGB rather than YCbCr; a setting of each handle.
-void chooseJpegColor(const TiffFile &tiff, const TiffShape &shape) {
-    if (shape.compression == COMPRESSION_JPEG && shape.photometric == PHOTOMETRIC_YCBCR) {
-        TIFFSetField(tiff.handle(), TIFFTAG_JPEGCOLORMODE, JPEGCOLORMODE_RGB);
-    }
-}
-
-void readStrips(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlane &target) {
+void readStrips(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlane &target,
+                TiffDamage &damage) {
     uint32_t rowsPerStrip = 0;
     TIFFGetFieldDefaulted(tiff.handle(), TIFFTAG_ROWSPERSTRIP, &rowsPerStrip);
     const int step = static_cast<int>(std::clamp<uint32_t>(rowsPerStrip, 1, shape.height));
     const int strips = (shape.height + step - 1) / step;
     char *rows = target.rows.data();
+    std::mutex mutex;
     forEachBand(strips, step * target.stride, [&](int first, int end) {
-        // A handle holds the state of one decoder: each thread has its own.
-        const TiffFile own(tiff.file());
-        chooseJpegColor(own, shape);
-        for (int strip = first; strip < end; ++strip) {
-            const int y = strip * step;
-            const tmsize_t size = std::min(step, shape.height - y) * target.stride;
-            const uint32_t number = TIFFComputeStrip(own.handle(), static_cast<uint32_t>(y),
-                                                     static_cast<uint16_t>(plane));
-            if (TIFFReadEncodedStrip(own.handle(), number, rows + y * target.stride, size) < 0) {
-                own.fail();
-            }
+        TiffReader reader(tiff.file(), shape, plane);
+        for (int y = first * step; y < std::min(end * step, shape.height); y += step) {
+            reader.readStrip(y, std::min(step, shape.height - y), target.stride,
+                             rows + y * target.stride);
         }
+        const std::scoped_lock lock(mutex);
+        damage.add(reader.damage());
     });
 }
 
-void readTiles(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlane &target) {
-    chooseJpegColor(tiff, shape);
-    TIFF *tif = tiff.handle();
+void readTiles(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlane &target,
+               TiffDamage &damage) {
+    TiffReader reader(tiff.file(), shape, plane);
+    TIFF *tif = reader.tiff().handle();
     uint32_t tileWidth = 0;
     uint32_t tileHeight = 0;
     TIFFGetField(tif, TIFFTAG_TILEWIDTH, &tileWidth);
@@ -73,12 +64,7 @@ void readTiles(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlan
     QByteArray tile = allocateRows(1, tileSize);
     for (qint64 y = 0; y < shape.height; y += tileHeight) {
         for (qint64 x = 0; x < shape.width; x += tileWidth) {
-            const uint32_t number =
-                TIFFComputeTile(tif, static_cast<uint32_t>(x), static_cast<uint32_t>(y), 0,
-                                static_cast<uint16_t>(plane));
-            if (TIFFReadEncodedTile(tif, number, tile.data(), tileSize) < 0) {
-                tiff.fail();
-            }
+            reader.readTile(x, y, tileSize, tile.data());
             const qsizetype left = x / tileWidth * tileRow;
             const qsizetype bytes = std::min<qsizetype>(tileRow, target.stride - left);
             const qint64 rows = std::min<qint64>(tileHeight, shape.height - y);
@@ -88,6 +74,7 @@ void readTiles(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlan
             }
         }
     }
+    damage.add(reader.damage());
 }
 
 } // namespace
@@ -106,24 +93,28 @@ void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw)
     requirePlausible(raw, compressed, maxRatio(shape.compression));
 }
 
-std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape) {
+std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape,
+                                      TiffDamage &damage) {
     const bool separate = shape.planar == PLANARCONFIG_SEPARATE;
     const int planes = separate ? shape.samples : 1;
     const qsizetype stride = rowBytes(shape.width, separate ? 1 : shape.samples, shape.bits);
     requireEnoughData(tiff, shape, qint64(planes) * stride * shape.height);
-    chooseJpegColor(tiff, shape);
-    if (TIFFIsTiled(tiff.handle()) == 0 && TIFFScanlineSize(tiff.handle()) != stride) {
+    if (TIFFIsTiled(tiff.handle()) == 0 &&
+        TIFFScanlineSize(TiffReader(tiff.file(), shape, 0).tiff().handle()) != stride) {
         tiff.fail(); // Subsampled rows have another form, which decodeTiff() keeps from here.
     }
     std::vector<TiffPlane> result;
     for (int plane = 0; plane < planes; ++plane) {
         TiffPlane target{allocateRows(shape.height, stride), stride};
         if (TIFFIsTiled(tiff.handle()) != 0) {
-            readTiles(tiff, shape, plane, target);
+            readTiles(tiff, shape, plane, target, damage);
         } else {
-            readStrips(tiff, shape, plane, target);
+            readStrips(tiff, shape, plane, target, damage);
         }
         result.push_back(std::move(target));
+    }
+    if (damage.missing == damage.all) {
+        tiff.fail();
     }
     return result;
 }
