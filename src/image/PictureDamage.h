@@ -17,9 +17,15 @@ inline Warning cutOffPicture(qint64 missing, qint64 rows) {
     // A loss is never said to be none, nor is what is there said to be nothing.
     const double share = 100.0 * static_cast<double>(missing) / static_cast<double>(rows);
     const int percent = std::clamp(static_cast<int>(std::lround(share)), 1, 99);
+    return {
+        WarningCode::PictureDamaged,
+        QStringLiteral("The picture is cut off: %1 % of its rows could not be read").arg(percent)};
+}
+
+/// The warning for a picture whose rows are all there, but not as sharp as they were stored.
+inline Warning coarsePicture() {
     return {WarningCode::PictureDamaged,
-            QStringLiteral("The picture is cut off: %1 % of its rows could not be read")
-                .arg(percent)};
+            QStringLiteral("The picture is cut off: its finer details could not be read")};
 }
 
 /// The warning for a picture whose rows are all there while its data has faults inside.

@@ -101,6 +101,15 @@ class JpegTest : public QObject {
         }
     }
 
+    void exifCountsWhereJfifStatesNoDensity() {
+        QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
+        photo[13] = 1; // Per inch, but none.
+        photo.replace(14, 4, QByteArray(4, '\0'));
+        photo.insert(20, segment(0xE1, exifBlock(1, 240, false)));
+        QCOMPARE(readImageHeader(write(photo)).horizontalDpi, 240.0);
+        QCOMPARE(readImageHeader(write(photo)).verticalDpi, 240.0);
+    }
+
     void profileInSeveralPartsIsJoined() {
         const QByteArray profile = profileFor("RGB ", 300);
         const QByteArray lead("ICC_PROFILE\0", 12);
@@ -128,13 +137,6 @@ class JpegTest : public QObject {
             QCOMPARE(refusalOf(write(photo.first(length))),
                      u"The JPEG file ends before its picture begins"_s);
         }
-    }
-
-    void fileCutInItsPictureGoesIn() {
-        const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
-        const PdfImage image = toPdfImage(write(photo.chopped(30)));
-        QCOMPARE(image.filter, ImageFilter::Dct);
-        QCOMPARE(dataOf(image), photo.chopped(30));
     }
 
     void losslessProcessIsRefused() {

@@ -8,28 +8,16 @@ namespace folioforge {
 
 namespace {
 
-extern "C" {
-
-void leaveByJump(j_common_ptr codec) {
-    // The manager is the first member of JpegEscape, where libjpeg expects it.
-    auto *escape = reinterpret_cast<JpegEscape *>(codec->err);
-    codec->err->format_message(codec, escape->message.data());
-    std::longjmp(escape->target, 1);
-}
-
-void leaveOnWarning(j_common_ptr codec, int level) {
+extern "C" void leaveOnWarning(j_common_ptr codec, int level) {
     if (level < 0) {
-        leaveByJump(codec);
+        codec->err->error_exit(codec);
     }
-}
 }
 
 } // namespace
 
-jpeg_error_mgr *install(JpegEscape &escape) {
-    jpeg_std_error(&escape.manager);
-    escape.manager.error_exit = leaveByJump;
-    escape.manager.emit_message = leaveOnWarning;
+jpeg_error_mgr *installStrictly(JpegEscape &escape) {
+    install(escape)->emit_message = leaveOnWarning;
     return &escape.manager;
 }
 

@@ -13,16 +13,6 @@ namespace folioforge {
 
 namespace {
 
-/// A progressive file can repeat scans to keep a decoder busy for hours; real ones have about ten.
-constexpr int kMaxScans = 200;
-
-extern "C" void stopEndlessScans(j_common_ptr codec) {
-    if (codec->is_decompressor &&
-        reinterpret_cast<j_decompress_ptr>(codec)->input_scan_number > kMaxScans) {
-        codec->err->error_exit(codec);
-    }
-}
-
 /// Samples of a decoded block's side; libjpeg names it by the version it stands for.
 int blockSide(const jpeg_component_info &component) {
 #if JPEG_LIB_VERSION >= 70
@@ -65,7 +55,7 @@ struct JpegReader::State {
     Bands bands;
 
     State() {
-        codec.err = install(escape);
+        codec.err = installStrictly(escape);
         jpeg_create_decompress(&codec);
         progress.progress_monitor = stopEndlessScans;
         codec.progress = &progress;

@@ -117,7 +117,7 @@ void complete(JHUFF_TBL &table, const std::vector<UINT8> &symbols) {
 class Encoder {
   public:
     Encoder() {
-        m_codec.err = install(m_escape);
+        m_codec.err = installStrictly(m_escape);
         jpeg_create_compress(&m_codec);
     }
     ~Encoder() { jpeg_destroy_compress(&m_codec); }

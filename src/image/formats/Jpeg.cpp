@@ -5,9 +5,13 @@
 #include "image/Bytes.h"
 #include "image/Exif.h"
 #include "image/IccProfile.h"
+#include "image/formats/JpegPixels.h"
+#include "image/formats/JpegSegments.h"
+#include "image/formats/JpegStructure.h"
 
-#include <array>
+#include <algorithm>
 #include <map>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -15,34 +19,13 @@ namespace folioforge {
 
 namespace {
 
-enum Marker : uchar {
-    Sof0 = 0xC0,
-    Sof2 = 0xC2,
-    Dht = 0xC4,
-    JpgReserved = 0xC8,
-    Dac = 0xCC,
-    Sof15 = 0xCF,
-    Rst0 = 0xD0,
-    Soi = 0xD8,
-    Eoi = 0xD9,
-    Sos = 0xDA,
-    App0 = 0xE0,
-    App1 = 0xE1,
-    App2 = 0xE2,
-    App14 = 0xEE,
-};
-
 /// What the segments before the first scan say.
 struct JpegMetadata {
     ImageHeader header;
-    uchar process = 0; ///< The marker of the frame header.
-    int precision = 0; ///< Bits per sample.
-    int components = 0;
-    QByteArray componentIds;
+    JpegFrame frame;
     bool hasJfif = false;
     bool hasJfifDensity = false;
     bool hasAdobe = false;
-    bool hasScan = false;
     std::map<int, QByteArray> iccChunks;
 
     [[nodiscard]] QByteArray iccProfile() const {
@@ -54,63 +37,22 @@ struct JpegMetadata {
     }
 };
 
-/// Reads the segments of a file through a window, so that the many small ones at the start take one
-/// read.
-class SegmentReader {
-  public:
-    explicit SegmentReader(const FileView &file)
-        : m_file(file) {}
-
-    QByteArrayView bytes(qint64 at, qint64 length) {
-        if (at < m_start || at + length > m_start + m_window.size()) {
-            constexpr qint64 kWindow = 16384;
-            m_start = at;
-            m_window = m_file.read(at, std::max(length, kWindow));
-        }
-        const QByteArrayView window(m_window);
-        return window.sliced(at - m_start, std::min(length, m_start + window.size() - at));
-    }
-
-  private:
-    const FileView &m_file;
-    qint64 m_start = 0;
-    QByteArray m_window;
-};
-
-bool isFrameHeader(uchar marker) {
-    return marker >= Sof0 && marker <= Sof15 && marker != Dht && marker != JpgReserved &&
-           marker != Dac;
-}
-
-bool hasNoLength(uchar marker) {
-    return marker == 0x01 || (marker >= Rst0 && marker <= Eoi);
-}
-
-void readFrameHeader(QByteArrayView segment, uchar marker, JpegMetadata &metadata) {
-    metadata.process = marker;
-    metadata.precision = bigEndianAt<uchar>(segment, 0);
-    metadata.header.height = bigEndianAt<quint16>(segment, 1);
-    metadata.header.width = bigEndianAt<quint16>(segment, 3);
-    metadata.components = bigEndianAt<uchar>(segment, 5);
-    for (qsizetype at = 6; at < segment.size(); at += 3) {
-        metadata.componentIds.append(segment[at]);
-    }
-}
-
 void readJfif(QByteArrayView segment, JpegMetadata &metadata) {
     if (!segment.startsWith(QByteArrayView("JFIF\0", 5)) || segment.size() < 12) {
         return;
     }
     metadata.hasJfif = true;
     const auto unit = bigEndianAt<uchar>(segment, 7);
-    if (unit != 1 && unit != 2) {
+    const auto horizontal = bigEndianAt<quint16>(segment, 8);
+    const auto vertical = bigEndianAt<quint16>(segment, 10);
+    if ((unit != 1 && unit != 2) || horizontal == 0 || vertical == 0) {
         return;
     }
     constexpr double kCentimetresPerInch = 2.54;
     const double scale = unit == 2 ? kCentimetresPerInch : 1;
     metadata.hasJfifDensity = true;
-    metadata.header.horizontalDpi = bigEndianAt<quint16>(segment, 8) * scale;
-    metadata.header.verticalDpi = bigEndianAt<quint16>(segment, 10) * scale;
+    metadata.header.horizontalDpi = horizontal * scale;
+    metadata.header.verticalDpi = vertical * scale;
 }
 
 void readExifSegment(QByteArrayView segment, JpegMetadata &metadata) {
@@ -134,52 +76,42 @@ void readIccChunk(QByteArrayView segment, JpegMetadata &metadata) {
     }
 }
 
-void readSegment(uchar marker, QByteArrayView segment, JpegMetadata &metadata) {
-    if (isFrameHeader(marker) && metadata.process == 0) {
-        readFrameHeader(segment, marker, metadata);
-    } else if (marker == App0) {
-        readJfif(segment, metadata);
-    } else if (marker == App1) {
-        readExifSegment(segment, metadata);
-    } else if (marker == App2) {
-        readIccChunk(segment, metadata);
-    } else if (marker == App14 && segment.startsWith("Adobe")) {
+void readSegment(const JpegSegment &segment, JpegMetadata &metadata) {
+    if (isFrameHeader(segment.marker) && metadata.frame.process == 0) {
+        metadata.frame = readJpegFrame(segment);
+    } else if (segment.marker == App0) {
+        readJfif(segment.content, metadata);
+    } else if (segment.marker == App1) {
+        readExifSegment(segment.content, metadata);
+    } else if (segment.marker == App2) {
+        readIccChunk(segment.content, metadata);
+    } else if (segment.marker == App14 && segment.content.startsWith("Adobe")) {
         metadata.hasAdobe = true;
     }
 }
 
 JpegMetadata readMetadata(const FileView &file) {
     JpegMetadata metadata;
-    SegmentReader reader(file);
-    qint64 at = 2;
-    while (!metadata.hasScan) {
-        const QByteArrayView lead = reader.bytes(at, 4);
-        if (lead.size() < 4) {
+    JpegSegments segments(file);
+    std::optional<JpegSegment> segment;
+    do {
+        segment = segments.next();
+        if (!segment) {
             throw Error(u"The JPEG file ends before its picture begins"_s);
         }
-        const auto marker = bigEndianAt<uchar>(lead, 1);
-        if (bigEndianAt<uchar>(lead, 0) != 0xFF) {
-            throw Error(u"The JPEG file is damaged"_s);
-        }
-        if (marker == 0xFF || hasNoLength(marker)) {
-            at += marker == 0xFF ? 1 : 2; // Any number of fill bytes may stand before a marker.
-            continue;
-        }
-        const qint64 length = bigEndianAt<quint16>(lead, 2);
-        const QByteArrayView segment = reader.bytes(at + 4, std::max<qint64>(length - 2, 0));
-        metadata.hasScan = marker == Sos;
-        readSegment(marker, segment, metadata);
-        at += 2 + std::max<qint64>(length, 2);
-    }
-    if (metadata.process == 0 || at >= file.size()) {
+        readSegment(*segment, metadata);
+    } while (segment->marker != Sos && segment->marker != Eoi);
+    if (metadata.frame.process == 0 || segment->marker == Eoi) {
         throw Error(u"The JPEG file ends before its picture begins"_s);
     }
+    metadata.header.width = metadata.frame.width;
+    metadata.header.height = metadata.frame.height;
     metadata.header = checkedHeader(metadata.header);
     return metadata;
 }
 
-ImageColor colorOf(const JpegMetadata &metadata) {
-    switch (metadata.components) {
+ImageColor colorOf(const JpegFrame &frame) {
+    switch (frame.components.size()) {
     case 1:
         return ImageColor::Gray;
     case 3:
@@ -188,16 +120,85 @@ ImageColor colorOf(const JpegMetadata &metadata) {
         return ImageColor::Cmyk;
     default:
         throw Error(u"The JPEG file has %1 colour components, which is no colour "
-                    "that a PDF can show"_s.arg(metadata.components));
+                    "that a PDF can show"_s.arg(frame.components.size()));
     }
 }
 
-void requireProcessOfPdf(const JpegMetadata &metadata) {
-    // DCTDecode holds Huffman-coded baseline, extended and progressive frames of eight bits.
-    if (metadata.process > Sof2 || metadata.precision != 8) {
-        throw Error(u"The JPEG file is of a kind that no PDF can hold (lossless, "
-                    "arithmetic or more than 8 bits)"_s);
+/// DCTDecode holds Huffman-coded baseline, extended and progressive frames. It may hold
+/// arithmetic-coded ones too, but few readers know them.
+bool isProcessOfPdf(const JpegFrame &frame) {
+    return frame.process <= Sof2;
+}
+
+void requireKnownProcess(const JpegFrame &frame) {
+    const bool isKnown = isProcessOfPdf(frame) || frame.process == Sof9 || frame.process == Sof10;
+    if (!isKnown || frame.precision != 8) {
+        throw Error(u"The JPEG file is of a kind that no PDF can hold (lossless, hierarchical "
+                    "or more than 8 bits)"_s);
     }
+}
+
+/// Whether the components are RGB though they are not marked: readers take three for YCbCr unless
+/// Adobe's mark or the PDF says otherwise.
+bool isPlainRgb(const JpegMetadata &metadata) {
+    return !metadata.hasAdobe && !metadata.hasJfif &&
+           std::ranges::equal(metadata.frame.components, QByteArrayView("RGB"), {},
+                              &JpegComponent::id, [](char id) { return static_cast<uchar>(id); });
+}
+
+/// Adobe's programs store ink inverted.
+std::vector<double> decodeArrayOf(const JpegMetadata &metadata) {
+    if (metadata.frame.components.size() == 4 && metadata.hasAdobe) {
+        return {1, 0, 1, 0, 1, 0, 1, 0};
+    }
+    return {};
+}
+
+/// The image without its data.
+PdfImage describe(const JpegMetadata &metadata) {
+    PdfImage image;
+    image.header = metadata.header;
+    image.width = metadata.header.width;
+    image.height = metadata.header.height;
+    image.color = colorOf(metadata.frame);
+    image.filter = ImageFilter::Dct;
+    image.embeddedAs = EmbeddedAs::OwnBytes;
+    image.iccProfile = fittingProfile(metadata.iccProfile(), image.color);
+    image.decode = decodeArrayOf(metadata);
+    image.isPlainRgb = isPlainRgb(metadata);
+    return image;
+}
+
+/// The file without these parts, which stand in order.
+std::vector<FileSlice> slicesWithout(const std::vector<FileSlice> &parts, const FileView &file) {
+    std::vector<FileSlice> slices;
+    qint64 at = 0;
+    const auto keepUpTo = [&](qint64 end) {
+        if (end > at) {
+            slices.push_back({file.offset() + at, end - at});
+        }
+    };
+    for (const FileSlice &part : parts) {
+        keepUpTo(part.offset);
+        at = part.offset + part.length;
+    }
+    keepUpTo(file.size());
+    return slices;
+}
+
+/// Decodes what cannot go in as it is.
+PdfImage decodedImage(const FileView &file, const JpegMetadata &metadata) {
+    // Codes of a bit or two for a block of 64 pixels are the least that a file can take.
+    constexpr qint64 kMostPacked = 4000;
+    requirePlausible(qint64(metadata.header.width) * metadata.header.height *
+                         qint64(metadata.frame.components.size()),
+                     file.size(), kMostPacked);
+    JpegPixels pixels = decodeJpeg(file);
+    pixels.raster.iccProfile = metadata.iccProfile();
+    pixels.raster.decode = decodeArrayOf(metadata);
+    PdfImage image = encodeRaster(std::move(pixels.raster), metadata.header);
+    image.warnings = std::move(pixels.warnings);
+    return image;
 }
 
 bool recognises(QByteArrayView head) {
@@ -210,22 +211,19 @@ ImageHeader readHeader(const FileView &file) {
 
 PdfImage toPdfImage(const FileView &file) {
     const JpegMetadata metadata = readMetadata(file);
-    requireProcessOfPdf(metadata);
-    PdfImage image;
-    image.header = metadata.header;
-    image.width = metadata.header.width;
-    image.height = metadata.header.height;
-    image.color = colorOf(metadata);
-    image.filter = ImageFilter::Dct;
-    image.embeddedAs = EmbeddedAs::OwnBytes;
-    image.iccProfile = fittingProfile(metadata.iccProfile(), image.color);
-    if (image.color == ImageColor::Cmyk && metadata.hasAdobe) {
-        image.decode = {1, 0, 1, 0, 1, 0, 1, 0}; // Adobe's programs store ink inverted.
+    requireKnownProcess(metadata.frame);
+    PdfImage image = describe(metadata);
+    const JpegStructure structure = readJpegStructure(file, JpegWalk::Thrifty);
+    if (isProcessOfPdf(metadata.frame) && structure.isWhole) {
+        image.slices = slicesWithout(structure.strays, file);
+        return image;
     }
-    // Readers take three components for YCbCr unless Adobe's mark or the PDF says otherwise.
-    image.isPlainRgb = !metadata.hasAdobe && !metadata.hasJfif && metadata.componentIds == "RGB";
-    image.slices = {{file.offset(), file.size()}};
-    return image;
+    PdfImage decoded = decodedImage(file, metadata);
+    if (isProcessOfPdf(metadata.frame) && structure.lacksEnd && decoded.warnings.empty()) {
+        image.data = file.readExactly(0, file.size()) + "\xFF\xD9";
+        return image;
+    }
+    return decoded;
 }
 
 } // namespace

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "image/PdfImage.h"
+#include "image/formats/JpegSegments.h"
+
+#include <vector>
+
+namespace folioforge {
+
+/// How a JPEG file is put together.
+struct JpegStructure {
+    /// From its first marker to its end every segment is in order, and each component has its
+    /// tables and a scan. Codes are not decoded: flaws among them are not found.
+    bool isWhole = false;
+    bool lacksEnd = false;         ///< Only the marker of the end is missing: the file may be cut.
+    std::vector<FileSlice> strays; ///< Bytes that belong to no segment.
+    std::vector<FileSlice> metadata; ///< No decoder needs any; also what follows the end.
+};
+
+enum class JpegWalk {
+    Whole,   ///< To the end, over all coded data.
+    Thrifty, ///< A large file that ends with the end marker is not read from its only scan on.
+};
+
+JpegStructure readJpegStructure(const FileView &file, JpegWalk walk);
+
+} // namespace folioforge
