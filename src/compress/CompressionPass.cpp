@@ -21,7 +21,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include <qpdf/QPDF.hh>
@@ -141,31 +140,19 @@ void runPass(const QString &path, const QuartzFilter &filter, const CompressionO
     reader->finish();
 }
 
-/// Makes the copy of the document at `path`.
-std::shared_ptr<const PartFile> makeCopy(const QString &path, const QuartzFilter &filter,
-                                         const CompressionOptions &options,
-                                         const EndPageWrite &endPageWrite,
-                                         CompressionOutcome &outcome) {
-    std::optional<TemporaryCopy> copy(std::in_place, options.temporaryFolder, path, options.calls);
-    runPass(path, filter, options, copy->pipeline(), endPageWrite, outcome);
-    if (copy->size() >= outcome.bytesBefore) {
-        copy.emplace(options.temporaryFolder, path, options.calls);
-        copy->takeSource();
-        outcome.imagesReduced = 0;
-    }
-    auto part = copy->finish();
-    outcome.bytesAfter = copy->size();
-    return part;
-}
-
+/// Makes the copy of the document at `path`, and hands it over where it is smaller.
 void compressInto(const QString &path, const CompressionOptions &options,
                   const EndPageWrite &endPageWrite, CompressionOutcome &outcome) {
     const QuartzFilter filter = readQuartzFilter(options.filterFile);
-    // From here on there is something to hand over, even where no copy comes of it.
-    outcome.convertInfo = ConvertInfo{{}, path};
-    auto part = makeCopy(path, filter, options, endPageWrite, outcome);
-    outcome.convertInfo->tempFilePathName = QFile::decodeName(part->path().c_str());
-    outcome.convertInfo->part = std::move(part);
+    TemporaryCopy copy(options.temporaryFolder, path, options.calls);
+    runPass(path, filter, options, copy.pipeline(), endPageWrite, outcome);
+    if (copy.size() >= outcome.bytesBefore) {
+        outcome.imagesReduced = 0;
+        return;
+    }
+    auto part = copy.finish(options.flush);
+    outcome.bytesAfter = copy.size();
+    outcome.convertInfo = ConvertInfo{QFile::decodeName(part->path().c_str()), path, part};
 }
 
 /// The copy of `source` for `destination`, whole but without its name.
@@ -195,20 +182,25 @@ CompressionOutcome compress(const QString &path, const CompressionOptions &optio
     return outcome;
 }
 
-void compressCompleted(const ConvertInfo &convertInfo, SystemCalls &calls) {
-    deleteFile(convertInfo.destFilePathName, calls);
-    if (!convertInfo.tempFilePathName.isEmpty()) {
-        copyDestFile(convertInfo.destFilePathName, convertInfo.tempFilePathName, calls);
-        deleteFile(convertInfo.tempFilePathName, calls);
+QString compressCompleted(const ConvertInfo &convertInfo, SystemCalls &calls) {
+    const QString &destination = convertInfo.destFilePathName;
+    QString problem;
+    try {
+        const auto copy = copyFor(destination, convertInfo.tempFilePathName, Flush::Always, calls);
+        deleteFile(destination, calls);
+        if (copy->publish(destination, Flush::Always) == OutputFile::Published::NameTaken) {
+            problem = u"Its name was taken by another file"_s;
+        }
+    } catch (const Error &error) {
+        problem = error.reason();
     }
+    deleteFile(convertInfo.tempFilePathName, calls);
+    return problem;
 }
 
 void putInPlace(const ConvertInfo &convertInfo, Flush flush, SystemCalls &calls) {
     const QString &destination = convertInfo.destFilePathName;
     const QString &copy = convertInfo.tempFilePathName;
-    if (copy.isEmpty()) {
-        throw Error(u"There is no compressed copy"_s);
-    }
     try {
         copyFor(destination, copy, flush, calls)->replace(destination, flush);
     } catch (const Error &) {
@@ -220,14 +212,6 @@ void putInPlace(const ConvertInfo &convertInfo, Flush flush, SystemCalls &calls)
 
 void deleteFile(const QString &path, SystemCalls &calls) {
     calls.unlink(QFile::encodeName(path).constData());
-}
-
-void copyDestFile(const QString &destination, const QString &source, SystemCalls &calls) {
-    try {
-        copyFor(destination, source, Flush::Always, calls)->publish(destination, Flush::Always);
-    } catch (const Error &) {
-        return; // Nobody hears of it: the window's run goes on whatever happens to one file.
-    }
 }
 
 } // namespace folioforge

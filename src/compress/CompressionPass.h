@@ -18,7 +18,7 @@ struct Encryption;
 
 /// The hand-over record of the compression pass: the compressed copy and the file it replaces.
 struct ConvertInfo {
-    QString tempFilePathName; ///< "Temp File Path Name": in the temporary folder; empty for none.
+    QString tempFilePathName; ///< "Temp File Path Name": whole, in the temporary folder.
     QString destFilePathName; ///< "Dest File Path Name": the PDF that was compressed.
     std::shared_ptr<const PartFile> part = {}; ///< Lets a signal handler find the copy.
 };
@@ -32,9 +32,9 @@ struct KeptImage {
 
 /// What a pass did, for the report.
 struct CompressionOutcome {
-    /// Nothing where no pass ran; there even when one failed, see compressCompleted().
+    /// Nothing where the pass failed or made nothing smaller: the PDF stays as it is.
     std::optional<ConvertInfo> convertInfo;
-    QString error; ///< Why there is no compressed copy; empty when there is one.
+    QString error; ///< Why the pass failed; empty when it did not.
     qint64 bytesBefore = 0;
     qint64 bytesAfter = 0;
     int imagesReduced = 0;
@@ -49,22 +49,25 @@ struct CompressionOptions {
     std::shared_ptr<const Encryption> encryption = {};
     /// What the document is read and the copy is written through.
     std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
-    std::stop_token stop = {}; ///< Once it is requested, the pass fails at its next read or write.
+    Flush flush = Flush::Never; ///< Whether the copy is brought to its disk.
+    std::stop_token stop = {};  ///< Once it is requested, the pass fails at its next read or write.
 };
 
 /// Called when a page of the copy is written; `pageIndex` counts from 0.
 using EndPageWrite = std::function<void(int pageIndex, int pageCount)>;
 
 /// Rewrites the finished PDF at `path` into the temporary folder and hands over where the copy
-/// stands. The copy is never larger than the PDF, is readable by its owner alone and has its
-/// passwords from its first byte on. Never throws; when the pass fails or is stopped there is no
+/// stands, if it is smaller than the PDF. The copy is readable by its owner alone and has its
+/// passwords from its first byte on. Never throws; where nothing is handed over there is no
 /// temporary file.
 CompressionOutcome compress(const QString &path, const CompressionOptions &options,
                             const EndPageWrite &endPageWrite = {});
 
 /// What the window does with the hand-over record: the destination gives way to the temporary
-/// file. Errors are ignored, so after a failed pass the destination is gone.
-void compressCompleted(const ConvertInfo &convertInfo, SystemCalls &calls = SystemCalls::system());
+/// file. Says why that could not be; empty when it could. The destination goes only when its
+/// successor is whole on the same disk.
+QString compressCompleted(const ConvertInfo &convertInfo,
+                          SystemCalls &calls = SystemCalls::system());
 
 /// What the command line does with it: the destination gives way to the copy in one step, once that
 /// stands whole on its disk. Throws Error when it cannot; the destination is then as it was.
@@ -73,9 +76,5 @@ void putInPlace(const ConvertInfo &convertInfo, Flush flush,
 
 /// Deletes a file; errors are ignored.
 void deleteFile(const QString &path, SystemCalls &calls = SystemCalls::system());
-
-/// Copies `source` to `destination`, which must not exist; errors are ignored.
-void copyDestFile(const QString &destination, const QString &source,
-                  SystemCalls &calls = SystemCalls::system());
 
 } // namespace folioforge

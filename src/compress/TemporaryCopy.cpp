@@ -19,10 +19,6 @@ TemporaryCopy::TemporaryCopy(const QString &folder, const QString &source, Syste
     , m_file(folder + u'/' + QFileInfo(source).fileName(), calls, OutputFile::Readers::OwnerAlone)
     , m_pipeline(m_file) {}
 
-void TemporaryCopy::takeSource() {
-    appendFile(m_file, m_source);
-}
-
 /// Null where the name is taken.
 std::shared_ptr<const PartFile> TemporaryCopy::publishedAs(const QString &name) {
     const QString path = m_folder + u'/' + name;
@@ -31,8 +27,8 @@ std::shared_ptr<const PartFile> TemporaryCopy::publishedAs(const QString &name) 
     return published == OutputFile::Published::Yes ? part : nullptr;
 }
 
-std::shared_ptr<const PartFile> TemporaryCopy::finish() {
-    m_file.finish(Flush::Never);
+std::shared_ptr<const PartFile> TemporaryCopy::finish(Flush flush) {
+    m_file.finish(flush);
     const QFileInfo source(m_source);
     auto part = publishedAs(source.fileName());
     for (int n = 1; !part; ++n) {

@@ -22,12 +22,10 @@ class TemporaryCopy {
     [[nodiscard]] OutputPipeline &pipeline() { return m_pipeline; }
     /// Bytes written so far.
     [[nodiscard]] qint64 size() const { return m_file.size(); }
-    /// Writes the bytes of the source. Throws Error.
-    void takeSource();
     /// Gives the copy its name, the source's, or with a number behind it, "(1).pdf" and upwards,
     /// where that is taken. As long as the result lives, a signal that ends the program removes the
     /// copy. Throws Error.
-    std::shared_ptr<const PartFile> finish();
+    std::shared_ptr<const PartFile> finish(Flush flush);
 
   private:
     std::shared_ptr<const PartFile> publishedAs(const QString &name);

@@ -57,10 +57,14 @@ PDFOutcome Run::createPDF(std::size_t firstEntry, const QString &path,
 }
 
 CompressionOutcome Run::compress(const QString &path, const QString &temporaryFolder,
-                                 ConversionObserver &observer) const {
+                                 ConversionObserver &observer, Flush flush) const {
     const QString filter = quartzFilterName(m_options.compressIndex);
-    const CompressionOptions options{quartzFilterPath(m_bundlePath, filter), temporaryFolder,
-                                     encryptionFor(m_options.security), m_options.calls, m_stop};
+    const CompressionOptions options{quartzFilterPath(m_bundlePath, filter),
+                                     temporaryFolder,
+                                     encryptionFor(m_options.security),
+                                     m_options.calls,
+                                     flush,
+                                     m_stop};
     return folioforge::compress(path, options, [&](int pageIndex, int pageCount) {
         observer.endPageWrite(pageIndex, pageCount);
     });
@@ -69,8 +73,9 @@ CompressionOutcome Run::compress(const QString &path, const QString &temporaryFo
 /// Where the pass fails, the PDF stays as it was.
 CompressionOutcome Run::compressInPlace(const QString &path, TemporaryFolder &temporaryFolder,
                                         ConversionObserver &observer) const {
-    CompressionOutcome outcome = compress(path, temporaryFolder.path(), observer);
-    if (outcome.error.isEmpty()) {
+    // What is brought to the disk is the copy's own copy beside the PDF.
+    CompressionOutcome outcome = compress(path, temporaryFolder.path(), observer, Flush::Never);
+    if (outcome.convertInfo) {
         try {
             putInPlace(*outcome.convertInfo, m_options.flush, m_options.calls);
         } catch (const Error &error) {

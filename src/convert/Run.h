@@ -60,7 +60,7 @@ class Run {
     [[nodiscard]] bool compresses() const { return m_options.compressIndex != 0; }
     /// Compresses the PDF at `path` into `temporaryFolder`, as the function of this name.
     [[nodiscard]] CompressionOutcome compress(const QString &path, const QString &temporaryFolder,
-                                              ConversionObserver &observer) const;
+                                              ConversionObserver &observer, Flush flush) const;
 
   private:
     [[nodiscard]] CompressionOutcome compressInPlace(const QString &path,

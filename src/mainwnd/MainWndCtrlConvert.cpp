@@ -194,9 +194,14 @@ void MainWndCtrl::compress(const QString &path) {
     }
     startWorker([this, path, folder = m_temporaryFolder.path()] {
         WorkerObserver observer(*this);
-        PendingCopy copy(m_run->compress(path, folder, observer).convertInfo);
-        runOnMainThread([this, copy = std::move(copy)]() mutable {
+        CompressionOutcome outcome =
+            m_run->compress(path, folder, observer, m_run->options().flush);
+        PendingCopy copy(std::move(outcome.convertInfo));
+        runOnMainThread([this, copy = std::move(copy), problem = outcome.error]() mutable {
             m_bWorking = false;
+            if (!problem.isEmpty()) {
+                noteProblem(u"not compressed: "_s + problem);
+            }
             m_convertInfoDict = copy.take();
             compressCompleted();
         });
@@ -210,7 +215,10 @@ void MainWndCtrl::compressCompleted() {
     }
     m_pdfDoc.reset();
     if (m_convertInfoDict) {
-        folioforge::compressCompleted(*m_convertInfoDict);
+        const QString problem = folioforge::compressCompleted(*m_convertInfoDict);
+        if (!problem.isEmpty()) {
+            noteProblem(problem);
+        }
         m_convertInfoDict.reset();
     }
     if (m_run->options().merge) {

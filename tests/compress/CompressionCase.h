@@ -51,14 +51,15 @@ class CompressionCase {
     CompressionOutcome run(int index) const { return compress(m_path, optionsOf(index)); }
     CompressionOptions optionsOf(int index) const { return {filterFile(index), m_temporaryFolder}; }
 
-    /// Compresses through "150m" and says where the copy stands; fails the test on an error.
+    /// Compresses through "150m" and says where the result stands, a copy or the document that no
+    /// copy is smaller than; fails the test on an error.
     QString compressed(CompressionOutcome *outcome = nullptr) const {
         CompressionOutcome own = run(1);
-        if (!own.error.isEmpty() || !own.convertInfo) {
+        if (!own.error.isEmpty()) {
             QTest::qFail(qPrintable(own.error), __FILE__, __LINE__);
             return {};
         }
-        QString path = own.convertInfo->tempFilePathName;
+        QString path = own.convertInfo ? own.convertInfo->tempFilePathName : m_path;
         if (outcome) {
             *outcome = std::move(own);
         }

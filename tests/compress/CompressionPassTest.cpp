@@ -5,6 +5,7 @@
 #include "CompressionCase.h"
 #include "error/Error.h"
 #include "pdf/PDFContext.h"
+#include "support/FaultyCalls.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
@@ -274,7 +275,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
     }
 
     void theTemporaryNameGivesWayToFilesThatExist() {
-        test::writePdf(m_path, 1);
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
         const QDir folder(m_temporaryFolder);
         test::writeFile(folder.filePath(u"document.pdf"_s), "mine");
         test::writeFile(folder.filePath(u"document(1).pdf"_s), "mine too");
@@ -284,7 +285,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
 
     void theTemporaryNameCountsBeforeTheLastExtensionAlone() {
         m_path = m_folder->filePath(u"a.b.pdf"_s);
-        test::writePdf(m_path, 1);
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
         const QDir folder(m_temporaryFolder);
         test::writeFile(folder.filePath(u"a.b.pdf"_s), "mine");
         QCOMPARE(compressed(), folder.filePath(u"a.b(1).pdf"_s));
@@ -331,7 +332,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         });
         QCOMPARE(written, 1);
         QCOMPARE(outcome.error, u"The conversion was stopped"_s);
-        QCOMPARE(outcome.convertInfo->tempFilePathName, QString());
+        QVERIFY(!outcome.convertInfo);
         QVERIFY(QDir(m_temporaryFolder)
                     .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     }
@@ -355,30 +356,57 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         QVERIFY(run(1).error.contains(u"\"Resolution\""_s));
     }
 
-    void afterAFailedPassTheDestinationIsGone() {
+    void aFailedPassHandsNothingOver() {
         test::writeFile(m_path, "no document at all");
         const CompressionOutcome outcome = run(1);
         QVERIFY(!outcome.error.isEmpty());
-        QVERIFY(outcome.convertInfo.has_value());
-        QCOMPARE(outcome.convertInfo->tempFilePathName, QString());
-        compressCompleted(*outcome.convertInfo);
-        QVERIFY(!QFile::exists(m_path));
+        QVERIFY(!outcome.convertInfo);
     }
 
-    void afterAFailedPassAForeignFileOfTheSameNameStays() {
-        const QString foreign = m_temporaryFolder + u"/document.pdf"_s;
-        test::writeFile(foreign, "someone else's");
-        test::writeFile(m_path, "no document at all");
-        compressCompleted(*run(1).convertInfo);
-        QCOMPARE(test::readFile(foreign), QByteArray("someone else's"));
-        QVERIFY(!QFile::exists(m_path));
-    }
-
-    void theCommandLineKeepsTheDocumentOfAFailedPass() {
-        test::writeFile(m_path, "no document at all");
+    void whatCannotBecomeSmallerIsNotWrittenAgain() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        // Once it is compressed there is nothing left to win.
+        const QString once = compressed();
+        QVERIFY(once != m_path);
+        QVERIFY(QFile::remove(m_path) && QFile::rename(once, m_path));
         const CompressionOutcome outcome = run(1);
-        QVERIFY_EXCEPTION_THROWN(putInPlace(*outcome.convertInfo, Flush::Never), Error);
-        QCOMPARE(test::readFile(m_path), QByteArray("no document at all"));
+        QCOMPARE(outcome.error, QString());
+        QVERIFY(!outcome.convertInfo);
+        QCOMPARE(outcome.bytesAfter, outcome.bytesBefore);
+        QVERIFY(QDir(m_temporaryFolder)
+                    .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    }
+
+    void theCopyIsBroughtToTheDiskWhereThatIsAskedFor() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        FaultyCalls calls;
+        calls.failing["fsync"] = EIO;
+        CompressionOptions options = optionsOf(1);
+        options.calls = calls;
+        QCOMPARE(compress(m_path, options).error, QString());
+        options.flush = Flush::Always;
+        QVERIFY(!compress(m_path, options).error.isEmpty());
+    }
+
+    void theDocumentStaysUntilItsSuccessorIsWhole() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const QByteArray before = test::readFile(m_path);
+        const QString copy = compressed();
+        FaultyCalls calls;
+        calls.failing["write"] = ENOSPC;
+        const QString problem = compressCompleted({copy, m_path}, calls);
+        QVERIFY2(problem.contains(u"No space left"_s), qPrintable(problem));
+        QCOMPARE(test::readFile(m_path), before);
+        QVERIFY(!QFile::exists(copy));
+    }
+
+    void aDocumentThatCannotBeRemovedIsNotLost() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const QByteArray before = test::readFile(m_path);
+        FaultyCalls calls;
+        calls.failing["unlink"] = EPERM;
+        QVERIFY(!compressCompleted({compressed(), m_path}, calls).isEmpty());
+        QCOMPARE(test::readFile(m_path), before);
     }
 
     void theCopyTakesThePlaceOfTheDocument_data() {
@@ -394,7 +422,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         const QString copy = compressed();
         const QByteArray bytes = test::readFile(copy);
         if (window) {
-            compressCompleted({copy, m_path});
+            QCOMPARE(compressCompleted({copy, m_path}), QString());
         } else {
             putInPlace({copy, m_path}, Flush::Never);
         }
@@ -427,7 +455,7 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         options.encryption =
             std::make_shared<const Encryption>(Encryption{u"user"_s, u"owner"_s, true, false});
         const CompressionOutcome outcome = compress(m_path, options);
-        return outcome.error.isEmpty() ? outcome.convertInfo->tempFilePathName : QString();
+        return outcome.convertInfo ? outcome.convertInfo->tempFilePathName : QString();
     }
 };
 

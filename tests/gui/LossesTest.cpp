@@ -11,6 +11,7 @@
 #include <QTextDocumentFragment>
 
 #include <csignal>
+#include <filesystem>
 
 #include <sys/resource.h>
 
@@ -187,6 +188,34 @@ class LossesTest : public QObject {
         QVERIFY2(w.messages().first().contains(u"File too large"_s),
                  qPrintable(w.messages().first()));
         QCOMPARE(w.states(), u"Waiting..."_s);
+    }
+
+    void aPdfThatCannotBeCompressedStaysAsItIsAndIsNamed() {
+        TestWindow w; // Its bundle has no filters.
+        addTexts(w, 1);
+        w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(1);
+        run(w);
+        QCOMPARE(w.messages().size(), 1);
+        QVERIFY2(w.messages().first().startsWith(kHeading + u"000.pdf: not compressed: "_s),
+                 qPrintable(w.messages().first()));
+        QCOMPARE(textOf(w, u"000.pdf"_s), u"number 0"_s);
+        QCOMPARE(w.states(), u"000.pdf"_s);
+    }
+
+    void aPdfThatDoesNotGetSmallerIsNotReplaced() {
+        TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
+        addTexts(w, 1);
+        w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(3);
+        const std::filesystem::path pdf = outPath(w, u"000.pdf"_s).toStdString();
+        const std::filesystem::path first = w.path(u"first"_s).toStdString();
+        // The entry hears of its losses when its PDF is written and the pass has yet to begin.
+        connect(&w.ctrl.filesArray(), &QAbstractItemModel::dataChanged, this, [&] {
+            std::error_code notYet;
+            std::filesystem::create_hard_link(pdf, first, notYet);
+        });
+        run(w);
+        QCOMPARE(w.states(), u"000.pdf"_s);
+        QVERIFY(std::filesystem::equivalent(pdf, first));
     }
 
     void theNoticeOfARunIsNotThatOfTheNext() {
