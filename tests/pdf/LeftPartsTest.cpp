@@ -109,6 +109,46 @@ class LeftPartsTest : public QObject, protected MergeCase {
         QCOMPARE(said(withMetadata(plain + QByteArray(20'000, ' '))), QString());
     }
 
+    void aSignatureGoesAndItsLookStays() {
+        const QByteArray signature = "<< /Type /Sig /Filter /Adobe.PPKLite /SubFilter "
+                                     "/adbe.pkcs7.detached /Contents <3000> /ByteRange [0 9 10 9] "
+                                     ">>";
+        const QByteArray widget = "<< /Type /Annot /Subtype /Widget /F 4 /Rect [0 0 200 100] /P 4 "
+                                  "0 R ";
+        PdfFixture source = withCatalog("/AcroForm << /Fields [20 0 R 21 0 R 24 0 R] /SigFlags 3 "
+                                        ">> /Perms << /DocMDP 23 0 R >>");
+        source.object(4, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] /Contents 5 0 R "
+                         "/Annots [20 0 R] >>");
+        source.object(20, widget + "/FT /Sig /T (one) /V 23 0 R /AP << /N 22 0 R >> >>");
+        source.object(21, "<< /FT /Sig /T (two) /V " + signature + " >>");
+        source.stream(22, "/Type /XObject /Subtype /Form /BBox [0 0 200 100]",
+                      "0 0 1 rg 0 0 200 100 re f");
+        source.object(23, signature);
+        source.object(24, "<< /FT /Sig /T (three) /V 23 0 R >>");
+        const QString path = saved(source);
+        QCOMPARE(said(path), u"signature-removed: 2 signatures are left out, since they hold for "
+                             "the original file alone"_s);
+        const QString result = merged({path});
+        QCOMPARE(PdfProbe(result).render(1).pixelColor(100, 50), QColor(Qt::blue));
+        const auto unsignedFields = [](const QString &file) {
+            return runTool(u"pdfsig"_s, {file}).out.count("form field is not signed");
+        };
+        QCOMPARE(unsignedFields(path), 0);
+        QCOMPARE(unsignedFields(result), 3);
+        const auto document = opened(result);
+        auto form = document->getRoot().getKey("/AcroForm");
+        QCOMPARE(form.getKey("/Fields").getArrayNItems(), 3);
+        QVERIFY(!form.hasKey("/SigFlags"));
+        QVERIFY(!PdfProbe(result).json().contains("ByteRange"));
+    }
+
+    void oneSignatureIsNamedAsOne() {
+        PdfFixture source = withCatalog("/AcroForm << /Fields [20 0 R] >>");
+        source.object(20, "<< /FT /Sig /T (one) /V << /Contents <00> /ByteRange [0 1 2 3] >> >>");
+        QCOMPARE(said(source), u"signature-removed: 1 signature is left out, since it holds for "
+                               "the original file alone"_s);
+    }
+
     void attachmentsThatAnotherProgramAddedAreCounted() {
         const QString plain = saved(withCatalog({}));
         const QString once = newPath();

@@ -117,16 +117,6 @@ class MergedCatalogTest : public QObject {
         QVERIFY(flag({plain, plain}).isNull());
     }
 
-    void aFormHasSignaturesWhereOneOfItsSourcesHad() {
-        const PdfFixture plain = withForm("/SigFlags 2");
-        const PdfFixture withSignature = withForm("/SigFlags 3");
-        const auto flags = [this](const std::vector<PdfFixture> &sources) {
-            return catalogEntry(*merged(sources), "/AcroForm", "/SigFlags");
-        };
-        QCOMPARE(flags({plain, withSignature, plain}).getIntValue(), 1LL);
-        QVERIFY(flags({plain, plain}).isNull());
-    }
-
     void fieldsAreCalculatedInTheOrderOfTheSources() {
         const PdfFixture source = withForm("/CO [20 0 R]");
         const auto document = merged({source, source});

@@ -43,7 +43,6 @@ std::vector<QPDFObjectHandle> importBookmarks(QPDF &source, ObjectCopier &copier
 }
 
 ImportedForm importForm(QPDF &source, ObjectCopier &copier) {
-    constexpr int kSignaturesExist = 1;
     const auto form = source.getRoot().getKey("/AcroForm");
     ImportedForm imported;
     for (auto field : items(entry(form, "/Fields"))) {
@@ -54,8 +53,6 @@ ImportedForm importForm(QPDF &source, ObjectCopier &copier) {
     imported.calculationOrder = copies(copier, entry(form, "/CO"));
     imported.resources = copier.copy(entry(form, "/DR"));
     imported.needsAppearances = isTrue(entry(form, "/NeedAppearances"));
-    auto flags = entry(form, "/SigFlags");
-    imported.hasSignatures = flags.isInteger() && (flags.getIntValueAsInt() & kSignaturesExist);
     return imported;
 }
 
@@ -134,6 +131,14 @@ std::map<long long, QPDFObjectHandle> importPageLabels(QPDF &source, long long p
     return labels;
 }
 
+Warning signaturesRemoved(int count) {
+    return {WarningCode::SignatureRemoved,
+            count == 1
+                ? u"1 signature is left out, since it holds for the original file alone"_s
+                : u"%1 signatures are left out, since they hold for the original file alone"_s.arg(
+                      count)};
+}
+
 } // namespace
 
 ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared) {
@@ -148,6 +153,9 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     const auto pages = static_cast<long long>(imported.pages.size());
     imported.pageLabels = importPageLabels(source, pages, copier);
     copier.run();
+    if (copier.signaturesLeftOut() > 0) {
+        imported.warnings.push_back(signaturesRemoved(copier.signaturesLeftOut()));
+    }
     imported.longestStream = copier.longestStream();
     for (auto *objects : {&imported.bookmarks, &imported.form.fields, &imported.layers.groups,
                           &imported.layers.off}) {

@@ -23,7 +23,6 @@ struct ImportedForm {
     std::vector<QPDFObjectHandle> calculationOrder; ///< Fields in the order of their calculation.
     QPDFObjectHandle resources;                     ///< Default resources; null where none.
     bool needsAppearances = false;
-    bool hasSignatures = false;
 };
 
 /// The optional content (layers) of a source document, copied.

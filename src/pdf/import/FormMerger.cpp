@@ -161,7 +161,6 @@ void FormMerger::add(const ImportedForm &form) {
     m_form.calculationOrder.insert(m_form.calculationOrder.end(), form.calculationOrder.begin(),
                                    form.calculationOrder.end());
     m_form.needsAppearances |= form.needsAppearances;
-    m_form.hasSignatures |= form.hasSignatures;
 }
 
 void FormMerger::finish(QPDF &document) {
@@ -175,9 +174,6 @@ void FormMerger::finish(QPDF &document) {
     }
     if (m_form.needsAppearances) {
         form.replaceKey("/NeedAppearances", QPDFObjectHandle::newBool(true));
-    }
-    if (m_form.hasSignatures) {
-        form.replaceKey("/SigFlags", QPDFObjectHandle::newInteger(1));
     }
     if (!m_resources.empty()) {
         auto resources = QPDFObjectHandle::newDictionary();

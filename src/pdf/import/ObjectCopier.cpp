@@ -54,6 +54,12 @@ bool isLeftOut(QPDFObjectHandle object) {
            std::ranges::any_of(kTypes, [&](const char *name) { return type.getName() == name; });
 }
 
+/// Whether `object` is the value of a signature field, which holds for a range of bytes of its
+/// file.
+bool isSignature(QPDFObjectHandle object) {
+    return object.isDictionary() && object.hasKey("/ByteRange") && object.hasKey("/Contents");
+}
+
 } // namespace
 
 ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared)
@@ -158,6 +164,10 @@ QPDFObjectHandle ObjectCopier::reserveStream(QPDFObjectHandle object) {
 }
 
 QPDFObjectHandle ObjectCopier::copyValue(QPDFObjectHandle source) {
+    if (isSignature(source)) {
+        ++m_signaturesLeftOut;
+        return QPDFObjectHandle::newNull();
+    }
     if (source.isDictionary()) {
         return copyDictionary(source.getDictAsMap());
     }

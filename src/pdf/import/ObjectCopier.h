@@ -21,7 +21,8 @@ namespace folioforge {
 
 /// Copies objects of one document into another with all that they refer to, each object once. Pages
 /// are made first and filled later, so that links between them work. Named destinations become
-/// explicit ones. The page tree, the catalog and the structure tree of the source are not copied.
+/// explicit ones. The page tree, the catalog and the structure tree of the source are not copied,
+/// nor are signatures, which hold for the bytes of the source alone.
 class ObjectCopier {
   public:
     /// `shared` holds the streams that earlier copies of the same file brought; new ones are added.
@@ -35,6 +36,8 @@ class ObjectCopier {
     void run();
     /// Bytes of the longest stream that run() copied, as the source says.
     [[nodiscard]] qsizetype longestStream() const { return m_longestStream; }
+    /// Digital signatures that run() left out. What they show on the page is copied.
+    [[nodiscard]] int signaturesLeftOut() const { return m_signaturesLeftOut; }
 
   private:
     using Dictionary = std::map<std::string, QPDFObjectHandle>;
@@ -64,6 +67,7 @@ class ObjectCopier {
     std::deque<std::pair<QPDFObjectHandle, QPDFObjectHandle>> m_pending; ///< Source and target.
     std::deque<PendingStream> m_pendingStreams;
     qsizetype m_longestStream = 0;
+    int m_signaturesLeftOut = 0;
 };
 
 } // namespace folioforge
