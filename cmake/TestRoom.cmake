@@ -1,4 +1,8 @@
 # SPDX-License-Identifier: Apache-2.0
+# Qt Test names the folders of each target on its command lines. No test asks for them, and without
+# them the targets share what is compiled ahead, and checkouts share a compiler cache.
+set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
+
 # folioforge_tests(ROOM UNITS ... [SOURCES ...] LINKS ... [HEADERS ...] [APPLICATION CLASS]
 # [LONG ...]): the test program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder and of SOURCES. CTest runs
 # it once for each unit, named ROOM.Unit. HEADERS are compiled ahead, instead of those of

@@ -4,6 +4,7 @@
 
 #include "support/Files.h"
 #include "support/PdfProbe.h"
+#include "support/Places.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -19,7 +20,7 @@
 
 namespace folioforge::test {
 
-inline const QString kProgram = QStringLiteral(FOLIOFORGE_CLI);
+inline const QString kProgram = commandLineProgram();
 
 inline QList<QJsonObject> objectsOf(const QByteArray &output) {
     QList<QJsonObject> objects;

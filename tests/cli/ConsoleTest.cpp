@@ -4,6 +4,7 @@
 #include "cli/Report.h"
 #include "files/Printable.h"
 #include "support/Files.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QJsonArray>
@@ -17,7 +18,7 @@ using namespace folioforge;
 namespace {
 
 QByteArray manualPage() {
-    return test::readFile(QStringLiteral(FOLIOFORGE_PACKAGING "/folioforge-cli.1"));
+    return test::readFile(test::inSource(u"packaging/folioforge-cli.1"_s));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "support/LimitedRun.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
+#include "support/Places.h"
 #include "support/RunFolders.h"
 #include "support/TestUnit.h"
 
@@ -48,12 +49,12 @@ class InterruptionsTest : public QObject {
     int wholeRun() const {
         QElapsedTimer timer;
         timer.start();
-        const auto run = test::runTool(QStringLiteral(FOLIOFORGE_CLI), arguments());
+        const auto run = test::runTool(test::commandLineProgram(), arguments());
         return run.exitCode == 0 ? static_cast<int>(timer.elapsed()) : 0;
     }
     void endARun(int signal, int milliseconds) const {
         QProcess process;
-        process.start(QStringLiteral(FOLIOFORGE_CLI), arguments());
+        process.start(test::commandLineProgram(), arguments());
         QVERIFY(process.waitForStarted());
         QThread::msleep(static_cast<unsigned long>(milliseconds));
         ::kill(static_cast<pid_t>(process.processId()), signal);
@@ -112,7 +113,7 @@ class InterruptionsTest : public QObject {
         test::Limits limits;
         limits.fileSize = QFileInfo(path("photo.jpg")).size() / 2;
         const auto run =
-            test::runLimited(QStringLiteral(FOLIOFORGE_CLI),
+            test::runLimited(test::commandLineProgram(),
                              {u"--output-folder"_s, path("out"), path("photo.jpg"), small}, limits);
         QCOMPARE(run.exitCode, 1);
         QVERIFY2(run.err.contains("photo.jpg: ") && run.err.contains(std::strerror(EFBIG)),
@@ -128,7 +129,7 @@ class InterruptionsTest : public QObject {
         test::Limits limits;
         limits.processorSeconds = 2;
         const auto run = test::runLimited(
-            QStringLiteral(FOLIOFORGE_CLI),
+            test::commandLineProgram(),
             QStringList{u"--output-folder"_s, path("out")} + QStringList(kInputs, text), limits);
         QCOMPARE(run.exitCode, 1);
         QVERIFY(run.err.contains("folioforge-cli: The limit of processor time is reached\n"));
@@ -144,10 +145,10 @@ class InterruptionsTest : public QObject {
         const QString text = test::writeFile(path("a.txt"), "words");
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"LD_PRELOAD"_s, QStringLiteral(FOLIOFORGE_NO_FLUSH));
+        environment.insert(u"LD_PRELOAD"_s, test::inBuild(u"tests/cli/libno_flush.so"_s));
         environment.insert(u"ASAN_OPTIONS"_s, u"verify_asan_link_order=0"_s);
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(FOLIOFORGE_CLI),
+        process.start(test::commandLineProgram(),
                       {u"--output-folder"_s, path("out"), u"--strict"_s, text, text});
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.readAllStandardError().count("cannot flush"), 1);

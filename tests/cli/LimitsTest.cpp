@@ -5,6 +5,7 @@
 #include "support/Files.h"
 #include "support/LimitedRun.h"
 #include "support/PdfProbe.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
@@ -83,8 +84,7 @@ class LimitsTest : public QObject {
     /// Merges and says how it ended: written(), or the reason on standard error.
     QString endingOf(const QStringList &arguments, const Limits &limits = {}) const {
         QFile::remove(target());
-        const LimitedRun run =
-            runLimited(QStringLiteral(FOLIOFORGE_CLI), mergeOf(arguments), limits);
+        const LimitedRun run = runLimited(commandLineProgram(), mergeOf(arguments), limits);
         QString answer = QString::fromUtf8(run.err.left(run.err.indexOf('\n')));
         answer = answer.sliced(answer.lastIndexOf(u": "_s) + 1).trimmed();
         if (run.exitCode == 0) {
@@ -113,8 +113,7 @@ class LimitsTest : public QObject {
         const qint64 step = sized(1, 8) * kMegabyte;
         std::vector<qint64> sizes;
         for (qint64 size = 64 * kMegabyte; size < 190 * kMegabyte; size += step) {
-            if (runLimited(QStringLiteral(FOLIOFORGE_CLI), {u"--version"_s}, {size}).exitCode ==
-                0) {
+            if (runLimited(commandLineProgram(), {u"--version"_s}, {size}).exitCode == 0) {
                 sizes.push_back(size);
             }
         }

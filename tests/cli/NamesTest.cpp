@@ -3,6 +3,7 @@
 #include "support/Files.h"
 #include "support/HostileNames.h"
 #include "support/PdfProbe.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
@@ -21,7 +22,7 @@ using test::ToolRun;
 
 namespace {
 
-const QString kProgram = QStringLiteral(FOLIOFORGE_CLI);
+const QString kProgram = test::commandLineProgram();
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "support/Files.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QFile>
@@ -76,7 +77,7 @@ class OpensTest : public QObject {
     int opens(const QString &source, const QStringList &options) const {
         OpenCounter counter(source);
         QProcess program;
-        program.start(QStringLiteral(FOLIOFORGE_CLI), options + QStringList{source});
+        program.start(test::commandLineProgram(), options + QStringList{source});
         return program.waitForFinished() && program.exitCode() == 0 ? counter.count() : -1;
     }
 

@@ -3,6 +3,7 @@
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
+#include "support/Places.h"
 #include "support/RunFolders.h"
 #include "support/TestUnit.h"
 
@@ -22,7 +23,7 @@ using test::ToolRun;
 
 namespace {
 
-const QString kProgram = QStringLiteral(FOLIOFORGE_CLI);
+const QString kProgram = test::commandLineProgram();
 const QByteArray kPassword = "correct horse battery";
 
 /// How large an image of its memory `process` may leave.

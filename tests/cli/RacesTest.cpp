@@ -3,6 +3,7 @@
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
+#include "support/Places.h"
 #include "support/RunFolders.h"
 #include "support/TestUnit.h"
 
@@ -31,7 +32,7 @@ struct Ended {
 std::vector<Ended> runAtOnce(const QStringList &arguments) {
     std::array<QProcess, kProcesses> processes;
     for (QProcess &process : processes) {
-        process.start(QStringLiteral(FOLIOFORGE_CLI), arguments);
+        process.start(test::commandLineProgram(), arguments);
     }
     std::vector<Ended> ended;
     for (QProcess &process : processes) {
@@ -124,14 +125,14 @@ class RacesTest : public QObject {
         QVERIFY(QFile::link(path("stranger"), path("out/same.pdf")));
         QVERIFY(QFile::link(path("stranger"), path("out/all.pdf")));
         const QString source = test::writeFile(path("same.txt"), "words");
-        QCOMPARE(test::runTool(QStringLiteral(FOLIOFORGE_CLI),
-                               {u"--output-folder"_s, path("out"), source})
-                     .exitCode,
-                 0);
-        QCOMPARE(test::runTool(QStringLiteral(FOLIOFORGE_CLI),
-                               {u"--merge"_s, path("out/all.pdf"), source})
-                     .exitCode,
-                 2);
+        QCOMPARE(
+            test::runTool(test::commandLineProgram(), {u"--output-folder"_s, path("out"), source})
+                .exitCode,
+            0);
+        QCOMPARE(
+            test::runTool(test::commandLineProgram(), {u"--merge"_s, path("out/all.pdf"), source})
+                .exitCode,
+            2);
         QCOMPARE(namesIn("out").join(u' '), u"all.pdf same(1).pdf same.pdf"_s);
         QVERIFY(!QFile::exists(path("stranger")));
     }

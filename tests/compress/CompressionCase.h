@@ -6,6 +6,7 @@
 #include "compress/QuartzFilter.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
+#include "support/Places.h"
 
 #include <QDir>
 #include <QFile>
@@ -36,7 +37,7 @@ class CompressionCase {
         m_temporaryFolder = folder.filePath(QStringLiteral("temporary"));
         for (int index = 1; index <= 3; ++index) {
             const QString name = quartzFilterName(index);
-            QVERIFY(QFile::copy(QStringLiteral(FOLIOFORGE_FILTERS "/%1.qfilter").arg(name),
+            QVERIFY(QFile::copy(inSource(QStringLiteral("resources/filters/%1.qfilter")).arg(name),
                                 filterFile(index)));
         }
         m_path = folder.filePath(QStringLiteral("document.pdf"));

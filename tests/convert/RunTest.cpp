@@ -6,6 +6,7 @@
 #include "files/TemporaryFolder.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
@@ -164,7 +165,7 @@ class RunTest : public QObject {
     }
 
     void thePassFillsTheSecondHalfOfTheProgressPageByPage() {
-        QVERIFY(QFile::copy(QStringLiteral(FOLIOFORGE_FILTERS "/150m.qfilter"),
+        QVERIFY(QFile::copy(test::inSource(u"resources/filters/150m.qfilter"_s),
                             path("bundle/Contents/Resources/150m.qfilter")));
         m_entries.emplace_back(test::writePdf(path("four.pdf"), 4));
         m_options.compressIndex = 1;

@@ -9,6 +9,7 @@
 #include "support/FaultyCalls.h"
 #include "support/Files.h"
 #include "support/PhotoPage.h"
+#include "support/Places.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -70,7 +71,7 @@ class WholeRun {
         for (const char *name : {"in", "out", "temporary", "bundle/Contents/Resources"}) {
             QVERIFY(QDir().mkpath(path(name)));
         }
-        QVERIFY(QFile::copy(QStringLiteral(FOLIOFORGE_FILTERS "/150m.qfilter"),
+        QVERIFY(QFile::copy(inSource(QStringLiteral("resources/filters/150m.qfilter")),
                             quartzFilterPath(path("bundle"), quartzFilterName(1))));
         QImage picture = photo(120, 80);
         constexpr int kDotsPerMeter = 23622; // 600 per inch

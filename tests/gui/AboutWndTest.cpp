@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "app/AboutWndCtrl.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
@@ -15,7 +16,7 @@ using namespace folioforge;
 namespace {
 
 QString realBundle() {
-    return QStringLiteral(FOLIOFORGE_BUNDLE_PATH);
+    return test::bundlePath();
 }
 
 /// A bundle whose property list names its icon `icon`, with the real icon under `file`.

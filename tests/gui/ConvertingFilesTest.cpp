@@ -5,6 +5,7 @@
 #include "support/Files.h"
 #include "support/NoThreads.h"
 #include "support/PdfProbe.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QCheckBox>
@@ -272,7 +273,7 @@ class ConvertingFilesTest : public QObject {
     }
 
     void aPasswordProtectsTheDocumentAndStaysInMemory() {
-        TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
+        TestWindow w(bundlePath());
         const QString password = u"correct horse battery"_s;
         w.ctrl.addFiles({photo(w, u"photo.jpg"_s)}, -1);
         w.control<QCheckBox>("m_btnCheckUserPassword")->setChecked(true);
@@ -320,7 +321,7 @@ class ConvertingFilesTest : public QObject {
 
     void theCompressMethodShrinksThePicturesOfTheFinishedPdf() {
         QFETCH(const bool, merge);
-        TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
+        TestWindow w(bundlePath());
         w.ctrl.addFiles({photo(w, u"photo.jpg"_s)}, -1);
         mergeInto(w, u"all"_s);
         w.control<QCheckBox>("m_btnMerge")->setChecked(merge);

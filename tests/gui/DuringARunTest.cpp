@@ -5,6 +5,7 @@
 #include "support/Files.h"
 #include "support/NoThreads.h"
 #include "support/PdfProbe.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QCheckBox>
@@ -148,7 +149,7 @@ class DuringARunTest : public QObject {
     }
 
     void thePassPostsANotificationForEachPageThatFillsTheSecondHalfOfTheBar() {
-        TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
+        TestWindow w(bundlePath());
         addTexts(w, 3);
         mergeInto(w, u"all"_s);
         w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(3);
@@ -169,7 +170,7 @@ class DuringARunTest : public QObject {
     }
 
     void pageNotificationsOfOthersDuringAPassMoveTheBar() {
-        TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
+        TestWindow w(bundlePath());
         addTexts(w, 4);
         mergeInto(w, u"all"_s);
         w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(3);

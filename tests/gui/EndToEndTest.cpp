@@ -4,6 +4,7 @@
 
 #include "support/Files.h"
 #include "support/PdfProbe.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
@@ -22,7 +23,7 @@ using namespace folioforge::test;
 namespace {
 
 QString program() {
-    return QStringLiteral(FOLIOFORGE_BUNDLE_PATH "/Contents/MacOS/folioforge");
+    return bundlePath() + u"/Contents/MacOS/folioforge"_s;
 }
 
 QString sourceFolder(const DesktopSession &desktop) {

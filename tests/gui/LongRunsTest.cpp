@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "gui/TestWindow.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QCheckBox>
@@ -84,7 +85,7 @@ struct LongList {
         return {};
     }
 
-    TestWindow w{QStringLiteral(FOLIOFORGE_BUNDLE_PATH)};
+    TestWindow w{bundlePath()};
     int runs = 0;
     qsizetype written = 0;
 };

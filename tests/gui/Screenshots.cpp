@@ -10,6 +10,7 @@
 #include "mainwnd/NotificationCenter.h"
 #include "skin/BusySheet.h"
 #include "skin/LightLook.h"
+#include "support/Places.h"
 
 #include <QApplication>
 #include <QDir>
@@ -86,8 +87,8 @@ int main(int argc, char *argv[]) {
     StillDesktop desktop;
     Notices notices;
     NotificationCenter notifications;
-    MainWndCtrl controller({settings, desktop, notices, notifications, home.path(),
-                            QStringLiteral(FOLIOFORGE_BUNDLE_PATH)});
+    MainWndCtrl controller(
+        {settings, desktop, notices, notifications, home.path(), test::bundlePath()});
     QMainWindow *window = controller.window();
     window->resize(1000, 660);
     window->show();

@@ -7,6 +7,7 @@
 #include "mainwnd/NotificationCenter.h"
 #include "mainwnd/WindowServices.h"
 #include "support/Files.h"
+#include "support/Places.h"
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -31,7 +32,7 @@ class RecordingDesktop : public Desktop {
 /// window is loaded.
 struct WindowWorld {
     /// The bundle of this build, with the real skins.
-    static QString realBundle() { return QStringLiteral(FOLIOFORGE_BUNDLE_PATH); }
+    static QString realBundle() { return bundlePath(); }
 
     /// A path in the home folder.
     [[nodiscard]] QString path(const QString &name) const { return home.filePath(name); }

@@ -3,6 +3,7 @@
 #include "DecodedImage.h"
 
 #include "error/Error.h"
+#include "support/Places.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -131,7 +132,7 @@ QByteArray pngChunk(const char *type, const QByteArray &content) {
 }
 
 QString imageFile(const QString &name) {
-    return QStringLiteral(FOLIOFORGE_TEST_DATA "/image/") + name;
+    return inSource(u"tests/data/image/"_s) + name;
 }
 
 QByteArray bytesOf(const QString &path) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
@@ -14,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kContents = QStringLiteral(FOLIOFORGE_BUNDLE);
+const QString kContents = folioforge::test::bundlePath() + u"/Contents"_s;
 const QString kResources = kContents + u"/Resources"_s;
 const QString kPages = kResources + u"/pages"_s;
 
@@ -155,7 +156,7 @@ class BundleTest : public QObject {
         QStringList kinds;
         qint64 bytes = 0;
         for (const auto &file :
-             QDir(QStringLiteral(FOLIOFORGE_EXAMPLES)).entryInfoList(QDir::Files)) {
+             QDir(folioforge::test::inSource(u"examples"_s)).entryInfoList(QDir::Files)) {
             kinds.append(file.suffix());
             bytes += file.size();
         }

@@ -4,6 +4,7 @@
 
 #include "support/Files.h"
 #include "support/PhotoPage.h"
+#include "support/Places.h"
 
 #include <QtEndian>
 
@@ -156,7 +157,7 @@ QByteArray jbig2() {
 
 QByteArray jpx(const QString &name) {
     return imagePage("/Width 16 /Height 16 /Filter /JPXDecode",
-                     readFile(QStringLiteral(FOLIOFORGE_TEST_DATA "/image/") + name))
+                     readFile(inSource(u"tests/data/image/"_s) + name))
         .bytes();
 }
 

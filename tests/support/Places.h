@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QString>
+
+namespace folioforge::test {
+
+/// A file of the source tree; `path` counts from its top. Such paths are compiled into one file, so
+/// that the objects of all others can be shared between checkouts by a compiler cache.
+QString inSource(const QString &path);
+
+/// A file of the build tree, likewise.
+QString inBuild(const QString &path);
+
+/// The bundle that was built.
+QString bundlePath();
+
+/// The command line program in it.
+QString commandLineProgram();
+
+} // namespace folioforge::test
