@@ -5,7 +5,6 @@
 #include "compress/QuartzFilter.h"
 #include "convert/OutputName.h"
 #include "error/Error.h"
-#include "files/PartFiles.h"
 #include "files/TemporaryFolder.h"
 
 #include <utility>
@@ -19,9 +18,8 @@ Run::Run(std::vector<PDFFileInfo> entries, ConversionOptions options, QString bu
     : m_entries(std::move(entries))
     , m_options(std::move(options))
     , m_bundlePath(std::move(bundlePath))
-    , m_stop(std::move(stop)) {
-    removeAbandonedParts(m_options.outputFolder);
-}
+    , m_stop(std::move(stop))
+    , m_clearing(m_options.outputFolder, AbandonedParts::Kinds::Files) {}
 
 void Run::convertAll(TemporaryFolder &temporaryFolder, RunObserver &observer) const {
     const std::size_t pdfs = m_options.merge ? 1 : m_entries.size();

@@ -5,6 +5,7 @@
 #include "convert/Conversion.h"
 #include "convert/ConversionOptions.h"
 #include "filelist/PDFFileInfo.h"
+#include "files/AbandonedParts.h"
 
 #include <QString>
 
@@ -71,6 +72,7 @@ class Run {
     ConversionOptions m_options;
     QString m_bundlePath;
     std::stop_token m_stop;
+    AbandonedParts m_clearing;
 };
 
 } // namespace folioforge

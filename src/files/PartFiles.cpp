@@ -2,29 +2,21 @@
 
 #include "files/PartFiles.h"
 
-#include "files/FileDescriptor.h"
-
-#include <QFile>
 #include <QRandomGenerator>
 
-#include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <cerrno>
-#include <filesystem>
 #include <mutex>
-#include <string_view>
 #include <thread>
 #include <utility>
 
 namespace folioforge {
 
 namespace {
-
-constexpr std::string_view kEnding = ".folioforge-part";
 
 // The parts of this process, the newest first. Writers hold the mutex; a signal handler, which may
 // not wait, finds the list whole at any moment.
@@ -37,42 +29,12 @@ std::mutex partsMutex;
 std::atomic<int> activeHandlers{0};
 static_assert(std::atomic<int>::is_always_lock_free);
 
-bool isPartName(const std::string &name) {
-    return name.starts_with('.') && name.ends_with(kEnding);
-}
-
-/// A descriptor of the part at `path`; -1 where that cannot be had. Some network file systems lock
-/// only what is open for writing, which a folder never is.
-FileDescriptor openPart(const char *path) {
-    constexpr int kFlags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    const int fd = ::open(path, O_RDWR | kFlags);
-    return FileDescriptor(
-        fd >= 0 || errno != EISDIR ? fd : ::open(path, O_RDONLY | O_DIRECTORY | kFlags));
-}
-
-/// Whether the part behind `fd` is the user's own and nobody locks it. Unlike lockPart() it says no
-/// where the file system has no locks.
-bool isAbandoned(int fd) {
-    struct stat status = {};
-    return ::fstat(fd, &status) == 0 && status.st_uid == ::geteuid() &&
-           (S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)) &&
-           ::flock(fd, LOCK_EX | LOCK_NB) == 0;
-}
-
-void removeIfAbandoned(const std::filesystem::path &path) {
-    const FileDescriptor part = openPart(path.c_str());
-    if (part.isOpen() && isAbandoned(part.get())) {
-        std::error_code failure;
-        std::filesystem::remove_all(path, failure);
-    }
-}
-
 } // namespace
 
 std::string partPath(const std::string &folder, const QByteArray &name) {
     constexpr qsizetype kMaxName = 255;
     QByteArray ending = QByteArray::number(QRandomGenerator::system()->generate64(), 36);
-    ending = "." + ending + QByteArray(kEnding.data(), kEnding.size());
+    ending = "." + ending + QByteArray(kPartEnding.data(), kPartEnding.size());
     QByteArray stem = name.left(kMaxName - 1 - ending.size());
     if (stem.size() < name.size()) {
         const auto isContinuation = [](char byte) {
@@ -92,17 +54,6 @@ bool lockPart(int fd) {
 bool isRemoved(int fd) {
     struct stat status = {};
     return ::fstat(fd, &status) == 0 && status.st_nlink == 0;
-}
-
-void removeAbandonedParts(const QString &folder) {
-    std::error_code failure;
-    std::filesystem::directory_iterator entry(QFile::encodeName(folder).toStdString(), failure);
-    while (!failure && entry != std::filesystem::directory_iterator()) {
-        if (isPartName(entry->path().filename().string())) {
-            removeIfAbandoned(entry->path());
-        }
-        entry.increment(failure);
-    }
 }
 
 PartFile::PartFile(std::string path)

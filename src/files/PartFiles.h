@@ -3,16 +3,20 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
 
 #include <atomic>
 #include <string>
+#include <string_view>
 
 namespace folioforge {
 
 // Every temporary file or folder with a name is hidden and ends in ".folioforge-part": a part. The
 // process that makes a part locks it while it uses it. The system drops the lock when the process
 // ends, so an unlocked part was left by a process that was killed.
+
+inline constexpr std::string_view kPartEnding = ".folioforge-part";
+/// The NAME of parts that are folders.
+inline constexpr std::string_view kPartFolder = "folder";
 
 /// The path of a new temporary file or folder in `folder`: ".NAME.RANDOM.folioforge-part", with the
 /// name cut at a character so that the whole fits the 255 bytes of a file name.
@@ -24,9 +28,6 @@ bool lockPart(int fd);
 
 /// Whether the part behind `fd` was removed: it is open and has no name.
 bool isRemoved(int fd);
-
-/// Removes the user's own parts that killed processes left in `folder`, as far as it can.
-void removeAbandonedParts(const QString &folder);
 
 /// Keeps the path of a part where a signal handler finds it.
 class PartFile {

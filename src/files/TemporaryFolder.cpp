@@ -47,10 +47,10 @@ QString TemporaryFolder::path() {
         m_part.reset();
     }
     if (!m_part) {
-        removeAbandonedParts(m_parent);
+        m_clearing.emplace(m_parent, AbandonedParts::Kinds::FilesAndFolders);
         const std::string parent = QFile::encodeName(m_parent).toStdString();
         int attempts = 16;
-        while (attempts > 0 && !make(partPath(parent, "folder"))) {
+        while (attempts > 0 && !make(partPath(parent, QByteArray(kPartFolder.data(), kPartFolder.size())))) {
             --attempts;
         }
     }

@@ -2,11 +2,13 @@
 
 #pragma once
 
+#include "files/AbandonedParts.h"
 #include "files/FileDescriptor.h"
 
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 namespace folioforge {
 
@@ -35,6 +37,7 @@ class TemporaryFolder {
     QString m_parent;
     std::unique_ptr<PartFile> m_part;
     FileDescriptor m_descriptor; ///< Holds the lock.
+    std::optional<AbandonedParts> m_clearing;
 };
 
 } // namespace folioforge

@@ -4,7 +4,6 @@
 
 #include "compress/QuartzFilter.h"
 #include "convert/Run.h"
-#include "files/PartFiles.h"
 #include "files/TemporaryFolder.h"
 #include "support/FaultyCalls.h"
 #include "support/Files.h"

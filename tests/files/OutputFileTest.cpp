@@ -194,38 +194,6 @@ class OutputFileTest : public QObject {
         QCOMPARE(modeOf(target()), 0600U);
     }
 
-    void whatAKilledProgramLeftIsRemoved() {
-        const QString part = test::writeFile(target(u".a.x.folioforge-part"_s), "half");
-        const QString folder = target(u".folder.x.folioforge-part"_s);
-        QVERIFY(QDir().mkpath(folder + u"/0"_s));
-        test::writeFile(folder + u"/0/a.pdf"_s, "a copy");
-        const QString other = test::writeFile(target(u".a.x.other-part"_s), "mine");
-        const QString visible = test::writeFile(target(u"a.folioforge-part"_s), "mine");
-        removeAbandonedParts(m_folder->path());
-        QVERIFY(!QFile::exists(part));
-        QVERIFY(!QFile::exists(folder));
-        QVERIFY(QFile::exists(other));
-        QVERIFY(QFile::exists(visible));
-    }
-
-    void whatIsInUseIsNotRemoved() {
-        FaultyCalls calls = without({u"openAnonymous"_s});
-        OutputFile file(target(), calls);
-        TemporaryFolder folder(m_folder->path());
-        const QString path = folder.path();
-        removeAbandonedParts(m_folder->path());
-        QCOMPARE(names().size(), 2);
-        QVERIFY(QDir(path).exists());
-        QCOMPARE(file.publish(target(), Flush::Never), OutputFile::Published::Yes);
-    }
-
-    void aPlantedPartIsNotFollowed() {
-        const QString victim = test::writeFile(target(u"victim"_s), "mine");
-        QVERIFY(QFile::link(victim, target(u".a.x.folioforge-part"_s)));
-        removeAbandonedParts(m_folder->path());
-        QCOMPARE(contentOf(victim), QByteArray("mine"));
-    }
-
     void aTemporaryFolderIsItsOwnersAloneAndGoesWithItsFiles() {
         {
             TemporaryFolder folder(m_folder->path());

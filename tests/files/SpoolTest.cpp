@@ -3,7 +3,7 @@
 #include "files/Spool.h"
 
 #include "error/Error.h"
-#include "files/PartFiles.h"
+#include "files/AbandonedParts.h"
 #include "support/FaultyCalls.h"
 #include "support/TestUnit.h"
 
@@ -105,7 +105,7 @@ class SpoolTest : public QObject {
                 QVERIFY(calls.keptFiles() ||
                         QDir(folder.path())
                             .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
-                removeAbandonedParts(folder.path());
+                AbandonedParts(folder.path(), AbandonedParts::Kinds::Files);
                 ++tried;
             }
         }
