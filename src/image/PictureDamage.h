@@ -11,15 +11,18 @@
 
 namespace folioforge {
 
-/// The warning for a picture that ends before its last row: `missing` of its `rows` rows could not
-/// be read, at least one. Where no row could be read the picture is refused instead.
-inline Warning cutOffPicture(qint64 missing, qint64 rows) {
+/// The warning for a picture that ends before its last row: `missing` of its `total` rows could not
+/// be read, at least one. Where no row could be read the picture is refused instead. `parts` names
+/// what else a format counts.
+inline Warning cutOffPicture(qint64 missing, qint64 total,
+                             const QString &parts = QStringLiteral("rows")) {
     // A loss is never said to be none, nor is what is there said to be nothing.
-    const double share = 100.0 * static_cast<double>(missing) / static_cast<double>(rows);
+    const double share = 100.0 * static_cast<double>(missing) / static_cast<double>(total);
     const int percent = std::clamp(static_cast<int>(std::lround(share)), 1, 99);
-    return {
-        WarningCode::PictureDamaged,
-        QStringLiteral("The picture is cut off: %1 % of its rows could not be read").arg(percent)};
+    return {WarningCode::PictureDamaged,
+            QStringLiteral("The picture is cut off: %1 % of its %2 could not be read")
+                .arg(percent)
+                .arg(parts)};
 }
 
 /// The warning for a picture whose rows are all there, but not as sharp as they were stored.

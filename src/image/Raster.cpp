@@ -189,6 +189,20 @@ void requirePlausible(qint64 raw, qint64 compressed, qint64 ratio) {
     }
 }
 
+bool isPlain(const Raster &raster, int guessed) {
+    const qsizetype pixel = qsizetype(channelCount(raster.color)) * raster.bits / 8;
+    const char *const last = raster.samples.constData() + raster.samples.size() - pixel;
+    for (int y = 0; y < raster.height; ++y) {
+        const char *const row = raster.samples.constData() + y * raster.stride();
+        for (int x = y < guessed ? guessed : 0; x < raster.width; ++x) {
+            if (!std::equal(last, last + pixel, row + x * pixel)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 void unpremultiply(Raster &raster) {
     if (!raster.alpha || raster.alpha->bits != raster.bits) {
         return;

@@ -48,6 +48,10 @@ QByteArray allocateRows(int height, qsizetype stride);
 /// is damaged, or made to exhaust the machine.
 void requirePlausible(qint64 raw, qint64 compressed, qint64 ratio);
 
+/// Whether all pixels have the same colour, which is what decoders make of no data. A corner of
+/// `guessed` pixels in each direction does not count. For samples of 8 or 16 bits.
+bool isPlain(const Raster &raster, int guessed = 0);
+
 /// Divides premultiplied colour by its opacity, in place. Colour and opacity have the same bits
 /// (8 or 16).
 void unpremultiply(Raster &raster);

@@ -132,7 +132,10 @@ class Jpeg2000Test : public QObject {
             box("jp2c", codestream(components));
         const SourceFile file =
             SourceFile::open(writeFile(m_folder.filePath(u"opacity.jp2"_s), bytes));
-        const Raster raster = decodeJpeg2000(file.view(), readJpeg2000Metadata(file.view()));
+        const Jpeg2000Metadata metadata = readJpeg2000Metadata(file.view());
+        const Raster raster =
+            decodeJpeg2000(file.view(), metadata, readJpeg2000Structure(file.view(), metadata))
+                .raster;
         QByteArray pixels;
         for (int x = 0; x < 3; ++x) {
             for (int c = 0; c < colors; ++c) {
@@ -144,8 +147,78 @@ class Jpeg2000Test : public QObject {
         QCOMPARE(raster.alpha->samples.toHex(), opacity.toHex());
     }
 
+    void fourthChannelIsOpacityWhereItVaries_data() {
+        QTest::addColumn<QByteArray>("fourth");
+        QTest::addColumn<bool>("isOpacity");
+        QTest::newRow("varies") << QByteArray("\x01\x80\xFF") << true;
+        QTest::newRow("hides all") << QByteArray(3, '\0') << false;
+        QTest::newRow("is full") << QByteArray(3, '\xFF') << false;
+    }
+
+    void fourthChannelIsOpacityWhereItVaries() {
+        QFETCH(QByteArray, fourth);
+        QFETCH(bool, isOpacity);
+        const QByteArray file = fileOf({"\x10\x11\x12", "\x20\x21\x22", "\x30\x31\x32", fourth});
+        const QByteArray icon =
+            "icns" + big32(file.size() + 16) + "ic07" + big32(file.size() + 8) + file;
+        for (const PdfImage &image :
+             {toPdfImage(writeFile(m_folder.filePath(u"four.jp2"_s), file)),
+              toPdfImage(writeFile(m_folder.filePath(u"four.icns"_s), icon))}) {
+            QCOMPARE(rgbRows(image).toHex(), "102030112131122232");
+            QCOMPARE(image.softMask != nullptr, isOpacity);
+            if (isOpacity) {
+                QCOMPARE(decoded(*image.softMask).pixel(1, 0), qRgb(0x80, 0x80, 0x80));
+            }
+        }
+    }
+
+    void subsampledComponentsAreDecoded() {
+        // Half as many samples of colour: red twice, then blue twice, in enumerated sYCC.
+        const QByteArray codes = codestream({"\x4C\x4C\x1D\x1D", "\x55\xFF", "\xFF\x6B"});
+        const PdfImage image =
+            toPdfImage(writeFile(m_folder.filePath(u"half.jp2"_s), fileAround(codes, 4, 3, 18)));
+        const QByteArray rows = rgbRows(image);
+        for (int x = 0; x < 4; ++x) {
+            const QByteArray expected = QByteArray::fromHex(x < 2 ? "FE0000" : "0000FE");
+            for (int c = 0; c < 3; ++c) {
+                QVERIFY(std::abs(uchar(rows[3 * x + c]) - uchar(expected[c])) <= 1);
+            }
+        }
+        QVERIFY(image.warnings.empty());
+    }
+
+    void reorderedChannelsAreDecoded() {
+        const QByteArray codes = codestream({"\x30\x31\x32", "\x20\x21\x22", "\x10\x11\x12"});
+        QByteArray channels = big16(3); // The first is blue, the last red.
+        for (int channel = 0; channel < 3; ++channel) {
+            channels += big16(channel) + big16(0) + big16(3 - channel);
+        }
+        const PdfImage image = toPdfImage(writeFile(
+            m_folder.filePath(u"order.jp2"_s), fileAround(codes, 3, 3, 16, box("cdef", channels))));
+        QCOMPARE(image.filter, ImageFilter::Flate);
+        QCOMPARE(rgbRows(image).toHex(), "102030112131122232");
+    }
+
   private:
     QTemporaryDir m_folder;
+
+    /// A file of one row of pixels in an enumerated colour space, with more boxes in its header.
+    static QByteArray fileAround(const QByteArray &codestream, int width, int components,
+                                 int colorSpace, const QByteArray &boxes = {}) {
+        return bytesOf(imageFile(u"colour.jp2"_s)).first(12) +
+               box("ftyp", QByteArray("jp2 \0\0\0\0jp2 ", 12)) +
+               box("jp2h", box("ihdr", big32(1) + big32(width) + big16(components) +
+                                           QByteArray::fromHex("07070000")) +
+                               box("colr", QByteArray::fromHex("010000") + big32(colorSpace)) +
+                               boxes) +
+               box("jp2c", codestream);
+    }
+
+    /// Of these components in sRGB.
+    QByteArray fileOf(const QList<QByteArray> &components) {
+        return fileAround(codestream(components), static_cast<int>(components[0].size()),
+                          static_cast<int>(components.size()), 16);
+    }
 
     /// The test picture with this box at the end of its header.
     QString withHeaderBox(const QByteArray &box) {
@@ -157,12 +230,14 @@ class Jpeg2000Test : public QObject {
         return writeFile(m_folder.filePath(u"picture.jp2"_s), bytes);
     }
 
-    /// The codestream of a row of pixels: the samples of each of its components.
+    /// The codestream of a row of pixels: the samples of each of its components, of which those
+    /// with half as many as the first are sampled at half the rate.
     QByteArray codestream(const QList<QByteArray> &components) {
         const auto width = static_cast<OPJ_UINT32>(components[0].size());
         std::vector<opj_image_cmptparm_t> shapes(static_cast<size_t>(components.size()));
-        for (opj_image_cmptparm_t &shape : shapes) {
-            shape = {1, 1, width, 1, 0, 0, 8, 8, 0};
+        for (size_t c = 0; c < shapes.size(); ++c) {
+            const auto own = static_cast<OPJ_UINT32>(components[qsizetype(c)].size());
+            shapes[c] = {width / own, 1, own, 1, 0, 0, 8, 8, 0};
         }
         const std::unique_ptr<opj_image_t, decltype(&opj_image_destroy)> image(
             opj_image_create(static_cast<OPJ_UINT32>(shapes.size()), shapes.data(),

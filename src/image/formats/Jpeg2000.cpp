@@ -5,8 +5,11 @@
 #include "image/Bytes.h"
 #include "image/IccProfile.h"
 #include "image/formats/Jpeg2000.h"
+#include "image/formats/OpenJpeg.h"
 
 #include <QtEndian>
+
+#include <utility>
 
 namespace folioforge {
 
@@ -69,10 +72,21 @@ ImageHeader readHeader(const FileView &file) {
     return readJpeg2000Metadata(file).header;
 }
 
+/// Whether a decoder would begin with the file; true where there is none to ask.
+bool canBeOpened(const FileView &file, const Jpeg2000Metadata &metadata,
+                 const Jpeg2000Structure &structure) {
+    return !OpenJpegPicture::isThere() || openJpeg2000(file, metadata, structure);
+}
+
 PdfImage toPdfImage(const FileView &file) {
     const Jpeg2000Metadata metadata = readJpeg2000Metadata(file);
-    if (metadata.needsDecoding()) {
-        return encodeRaster(decodeJpeg2000(file, metadata), metadata.header);
+    const Jpeg2000Structure structure = readJpeg2000Structure(file, metadata);
+    if (metadata.needsDecoding() || !structure.isWhole || structure.isSubsampled ||
+        !canBeOpened(file, metadata, structure)) {
+        Jpeg2000Pixels pixels = decodeJpeg2000(file, metadata, structure);
+        PdfImage image = encodeRaster(std::move(pixels.raster), metadata.header);
+        image.warnings = std::move(pixels.warnings);
+        return image;
     }
     PdfImage image;
     image.header = metadata.header;

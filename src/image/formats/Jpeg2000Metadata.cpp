@@ -20,6 +20,7 @@ constexpr quint32 kMaxPixels = 0x7FFFFFFF;
 
 struct Box {
     QByteArray type;
+    qint64 at; ///< Where its content begins.
     FileView content;
     qint64 next; ///< Where the box after it begins.
 };
@@ -41,8 +42,8 @@ Box boxAt(const FileView &file, qint64 at) {
     }
     // A codestream that was cut short still shows what is there.
     length = std::min(length, file.size() - at);
-    return {lead.sliced(4), file.part(at + header, std::max<qint64>(length - header, 0)),
-            at + length};
+    return {lead.sliced(4), at + header,
+            file.part(at + header, std::max<qint64>(length - header, 0)), at + length};
 }
 
 void readImageHeaderBox(const FileView &content, Jpeg2000Metadata &metadata) {
@@ -73,14 +74,30 @@ void readChannelBox(const FileView &content, Jpeg2000Metadata &metadata) {
     for (int i = 0; i < count; ++i) {
         const auto type = bigEndianAt<quint16>(bytes, 2 + 6 * i + 2);
         const auto color = bigEndianAt<quint16>(bytes, 2 + 6 * i + 4);
+        const auto channel = bigEndianAt<quint16>(bytes, 2 + 6 * i);
         colors += type == 0 && color > 0 && color < count ? 1 : 0;
+        constexpr int kNone = 65535;
+        metadata.isReordered = metadata.isReordered ||
+                               (type == 0 && color > 0 && color != kNone && color != channel + 1);
         if ((type == 1 || type == 2) && metadata.alphaChannel < 0) {
-            metadata.alphaChannel = bigEndianAt<quint16>(bytes, 2 + 6 * i);
+            metadata.alphaChannel = channel;
             metadata.isPremultiplied = type == 2;
         }
     }
     if (metadata.alphaChannel >= 0 && colors == count - 1) {
         metadata.alphaChannel = colors; // The decoder brings the colours to the front.
+    }
+}
+
+/// A component mapping box: which component or column of the palette each channel shows.
+void readMappingBox(const FileView &content, Jpeg2000Metadata &metadata) {
+    constexpr qsizetype kEntry = 4;
+    const QByteArray bytes = content.readExactly(0, content.size());
+    for (qsizetype i = 0; (i + 1) * kEntry <= bytes.size(); ++i) {
+        const bool hasPalette = bigEndianAt<uchar>(bytes, i * kEntry + 2) == 1;
+        const qsizetype shown = hasPalette ? bigEndianAt<uchar>(bytes, i * kEntry + 3)
+                                           : bigEndianAt<quint16>(bytes, i * kEntry);
+        metadata.isReordered = metadata.isReordered || shown != i;
     }
 }
 
@@ -116,6 +133,11 @@ void readBox(const Box &box, int depth, Jpeg2000Metadata &metadata) {
         readColorBox(box.content, metadata);
     } else if (box.type == "cdef") {
         readChannelBox(box.content, metadata);
+    } else if (box.type == "cmap") {
+        readMappingBox(box.content, metadata);
+    } else if (box.type == "jp2c" && metadata.codestreamAt < 0) {
+        metadata.codestreamAt = box.at;
+        metadata.codestreamBytes = box.content.size();
     } else if (box.type == "pclr") {
         metadata.hasPalette = true;
     } else if (box.type == "resd" || (box.type == "resc" && metadata.header.horizontalDpi == 0)) {
@@ -147,12 +169,21 @@ void readSizeMarker(const FileView &file, Jpeg2000Metadata &metadata) {
         return static_cast<int>(std::clamp<qint64>(size, 0, kMaxPixels));
     };
     metadata.isCodestream = true;
+    metadata.codestreamAt = 0;
+    metadata.codestreamBytes = file.size();
     metadata.header.width = extent(8, 16);
     metadata.header.height = extent(12, 20);
     metadata.components = bigEndianAt<quint16>(bytes, 40);
     metadata.bitsField = bigEndianAt<uchar>(bytes, 42);
-    if (metadata.components == 2 || metadata.components == 4) {
+}
+
+/// Two or four components of which nothing says what the last is.
+void guessOpacity(Jpeg2000Metadata &metadata) {
+    const bool hasSpare =
+        metadata.components == 2 || (metadata.components == 4 && metadata.maxColors() == 3);
+    if (metadata.alphaChannel < 0 && hasSpare && !metadata.hasPalette) {
         metadata.alphaChannel = metadata.components - 1;
+        metadata.guessesAlpha = true;
     }
 }
 
@@ -165,7 +196,7 @@ int Jpeg2000Metadata::maxColors() const {
 }
 
 bool Jpeg2000Metadata::needsDecoding() const {
-    return alphaChannel >= 0 || components == 2 || components > maxColors();
+    return isReordered || alphaChannel >= 0 || components == 2 || components > maxColors();
 }
 
 Jpeg2000Metadata readJpeg2000Metadata(const FileView &file) {
@@ -178,6 +209,7 @@ Jpeg2000Metadata readJpeg2000Metadata(const FileView &file) {
     if (metadata.components == 0) {
         throw Error(u"The JPEG 2000 file holds no picture"_s);
     }
+    guessOpacity(metadata);
     metadata.header = checkedHeader(metadata.header);
     return metadata;
 }

@@ -4,12 +4,15 @@
 
 #include "error/Error.h"
 #include "image/Parallel.h"
+#include "image/PictureDamage.h"
 #include "image/formats/OpenJpeg.h"
 
 #include <QtEndian>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -17,29 +20,42 @@ namespace folioforge {
 
 namespace {
 
-OpenJpegPicture decode(const FileView &file, const Jpeg2000Metadata &metadata) {
-    const ImageHeader &header = metadata.header;
-    const Error damaged(u"The JPEG 2000 file is damaged"_s);
-    auto picture = OpenJpegPicture::open(
-        {[&file](qint64 at, std::span<uchar> target) { return file.readInto(at, target); },
-         file.size()},
-        metadata.isCodestream);
-    // The codestream may claim another size than the box that was checked.
-    if (!picture || picture->width() != header.width || picture->height() != header.height) {
-        throw damaged;
+Error damagedFile() {
+    return Error(u"The JPEG 2000 file is damaged"_s);
+}
+
+/// The file with all samples decoded; nothing where they are damaged.
+std::optional<OpenJpegPicture> decode(const FileView &file, const Jpeg2000Metadata &metadata,
+                                      const Jpeg2000Structure &structure, bool mayLackData) {
+    auto picture = openJpeg2000(file, metadata, structure);
+    if (!picture) {
+        throw damagedFile();
     }
+    if (mayLackData) {
+        picture->allowGaps();
+    }
+    const ImageHeader &header = metadata.header;
     if (qint64(header.width) * header.height * metadata.components >= kWorthAThread) {
         picture->useAllCores();
     }
     if (!picture->decode()) {
-        throw damaged;
+        return std::nullopt;
     }
     for (int c = 0; c < picture->componentCount(); ++c) {
         if (picture->component(c).samples.empty()) {
-            throw damaged;
+            return std::nullopt;
         }
     }
-    return std::move(*picture);
+    return picture;
+}
+
+/// What the structure of a file that is not whole says of the loss.
+Warning lossOf(const Jpeg2000Structure &structure) {
+    if (structure.tiles > 1 && structure.missingTiles > 0) {
+        return cutOffPicture(structure.missingTiles, structure.tiles, u"tiles"_s);
+    }
+    return structure.cutBytes > 0 ? cutOffPicture(structure.cutBytes, structure.cutOf, u"data"_s)
+                                  : faultyPicture();
 }
 
 /// A decoded component as samples of 8 or 16 bits.
@@ -154,13 +170,14 @@ void fillPixels(Raster &raster, const std::vector<Component> &sources, bool isYc
     }
 }
 
-} // namespace
+/// A channel that nothing calls opacity is none where it would hide the whole picture.
+void dropImpossibleOpacity(Raster &raster) {
+    if (raster.alpha && raster.alpha->samples.count('\0') == raster.alpha->samples.size()) {
+        raster.alpha.reset();
+    }
+}
 
-Raster decodeJpeg2000(const FileView &file, const Jpeg2000Metadata &metadata) {
-    // The library holds four bytes for every sample: a short file must not cost gigabytes.
-    const qint64 pixels = qint64(metadata.header.width) * metadata.header.height;
-    requirePlausible(pixels * metadata.components, file.size(), 4000);
-    const OpenJpegPicture picture = decode(file, metadata);
+Raster rasterOf(const OpenJpegPicture &picture, const Jpeg2000Metadata &metadata) {
     std::vector<int> components = colorComponents(picture.componentCount(), metadata);
     Raster raster = rasterFor(picture, metadata, components);
     if (raster.alpha) {
@@ -172,10 +189,63 @@ Raster decodeJpeg2000(const FileView &file, const Jpeg2000Metadata &metadata) {
         sources.emplace_back(picture.component(c), raster.bits, raster.width, raster.height);
     }
     fillPixels(raster, sources, metadata.isYcc);
+    if (metadata.guessesAlpha) {
+        dropImpossibleOpacity(raster);
+    }
     if (metadata.isPremultiplied) {
         unpremultiply(raster);
     }
     return raster;
+}
+
+} // namespace
+
+std::optional<OpenJpegPicture> openJpeg2000(const FileView &file, const Jpeg2000Metadata &metadata,
+                                            const Jpeg2000Structure &structure) {
+    // A codestream that goes astray ends there for the library, which would reject all of it.
+    const qint64 end = metadata.codestreamAt + structure.readable;
+    const bool isAstray = structure.readable < metadata.codestreamBytes;
+    const auto read = [&file, end, isAstray](qint64 at, std::span<uchar> target) -> qint64 {
+        if (!isAstray) {
+            return file.readInto(at, target);
+        }
+        constexpr std::array<uchar, 2> kEndMarker{0xFF, 0xD9};
+        const qint64 before = std::clamp<qint64>(end - at, 0, qint64(target.size()));
+        qint64 got = file.readInto(at, target.first(static_cast<size_t>(before)));
+        for (qint64 i = at + got - end; i >= 0 && i < 2 && got < qint64(target.size()); ++i) {
+            target[static_cast<size_t>(got++)] = kEndMarker.at(static_cast<size_t>(i));
+        }
+        return got;
+    };
+    auto picture =
+        OpenJpegPicture::open({read, isAstray ? end + 2 : file.size()}, metadata.isCodestream);
+    // The codestream may claim another size than the box that was checked.
+    const bool isSame = picture && picture->width() == metadata.header.width &&
+                        picture->height() == metadata.header.height;
+    return isSame ? std::move(picture) : std::nullopt;
+}
+
+Jpeg2000Pixels decodeJpeg2000(const FileView &file, const Jpeg2000Metadata &metadata,
+                              const Jpeg2000Structure &structure) {
+    // The library holds four bytes for every sample: a short file must not cost gigabytes.
+    const qint64 pixels = qint64(metadata.header.width) * metadata.header.height;
+    requirePlausible(pixels * metadata.components, file.size(), 4000);
+    auto picture = decode(file, metadata, structure, !structure.isWhole);
+    Warnings warnings;
+    if (structure.lacksData()) {
+        warnings.push_back(lossOf(structure));
+    } else if (!picture) {
+        picture = decode(file, metadata, structure, true);
+        warnings.push_back(faultyPicture());
+    }
+    if (!picture) {
+        throw damagedFile();
+    }
+    Jpeg2000Pixels result{rasterOf(*picture, metadata), std::move(warnings)};
+    if (!result.warnings.empty() && isPlain(result.raster)) {
+        throw damagedFile();
+    }
+    return result;
 }
 
 } // namespace folioforge

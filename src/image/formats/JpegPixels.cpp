@@ -159,23 +159,6 @@ class Decoder {
     jpeg_decompress_struct m_codec = {};
 };
 
-/// Whether all pixels are the same, which is what the library makes of no data, but for a corner
-/// that it guesses.
-bool isPlain(const Raster &raster) {
-    constexpr int kCorner = 4 * DCTSIZE;
-    const qsizetype pixel = channelCount(raster.color);
-    const char *const last = raster.samples.constData() + raster.samples.size() - pixel;
-    for (int y = 0; y < raster.height; ++y) {
-        const char *const row = raster.samples.constData() + y * raster.stride();
-        for (int x = y < kCorner ? kCorner : 0; x < raster.width; ++x) {
-            if (!std::equal(last, last + pixel, row + x * pixel)) {
-                return false;
-            }
-        }
-    }
-    return true;
-}
-
 /// Where the segment begins that holds the byte before `reached`.
 qint64 segmentBefore(const FileView &file, qint64 reached) {
     JpegSegments segments(file);
@@ -210,7 +193,9 @@ JpegPixels decodeJpeg(const FileView &file) {
     decoder->readRows(reinterpret_cast<uchar *>(pixels.raster.samples.data()),
                       pixels.raster.stride());
     pixels.warnings = decoder->warnings();
-    if (!pixels.warnings.empty() && isPlain(pixels.raster)) {
+    // After the last data the library goes on guessing for some blocks.
+    constexpr int kGuessed = 4 * DCTSIZE;
+    if (!pixels.warnings.empty() && isPlain(pixels.raster, kGuessed)) {
         throw damaged;
     }
     return pixels;

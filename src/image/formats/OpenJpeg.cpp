@@ -166,6 +166,14 @@ Jpeg2000Component OpenJpegPicture::component(int index) const {
             {part.data, samples}};
 }
 
+bool OpenJpegPicture::isThere() {
+    return true;
+}
+
+void OpenJpegPicture::allowGaps() {
+    opj_decoder_set_strict_mode(m_library->codec.get(), OPJ_FALSE);
+}
+
 void OpenJpegPicture::useAllCores() {
     if (opj_has_thread_support() == OPJ_TRUE) {
         opj_codec_set_threads(m_library->codec.get(), std::min(opj_get_num_cpus(), 8));

@@ -39,6 +39,9 @@ class OpenJpegPicture {
     /// damaged. Throws Error where the program was built without OpenJPEG.
     static std::optional<OpenJpegPicture> open(const Jpeg2000Source &source, bool isCodestream);
 
+    /// Whether the program was built with OpenJPEG.
+    static bool isThere();
+
     OpenJpegPicture(OpenJpegPicture &&) noexcept;
     OpenJpegPicture &operator=(OpenJpegPicture &&) noexcept;
     ~OpenJpegPicture();
@@ -50,6 +53,8 @@ class OpenJpegPicture {
     [[nodiscard]] int componentCount() const;
     [[nodiscard]] Jpeg2000Component component(int index) const;
 
+    /// Lets decode() go on where data are missing.
+    void allowGaps();
     /// Lets decode() use all cores.
     void useAllCores();
     /// Leaves out the finest resolutions that the picture does not need at `scale` (0 to 1) of its

@@ -22,6 +22,10 @@ std::optional<OpenJpegPicture> OpenJpegPicture::open(const Jpeg2000Source & /*so
     throw Error(u"This program was built without the means to decode JPEG 2000"_s);
 }
 
+bool OpenJpegPicture::isThere() {
+    return false;
+}
+
 // Without open() there is no picture of which to ask what follows.
 qint64 OpenJpegPicture::width() const {
     return 0;
@@ -46,6 +50,8 @@ int OpenJpegPicture::componentCount() const {
 Jpeg2000Component OpenJpegPicture::component(int /*index*/) const {
     return {};
 }
+
+void OpenJpegPicture::allowGaps() {}
 
 void OpenJpegPicture::useAllCores() {}
 
