@@ -35,6 +35,7 @@ template<typename Step> QString reasonOfFailure(Step &&step) {
 
 void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
               const std::stop_token &stop, EntryOutcome &outcome) {
+    const int pagesBefore = context.pageCount();
     switch (fileKind(entry.filePathName())) {
     case FileKind::Text:
         outcome.warnings = addTextPage(entry, context, options, stop);
@@ -52,6 +53,8 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
     }
     // A failure that shows only now is this entry's too.
     context.waitForPages();
+    const Warnings sizes = context.checkPagesAfter(pagesBefore);
+    outcome.warnings.insert(outcome.warnings.end(), sizes.begin(), sizes.end());
 }
 
 EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,

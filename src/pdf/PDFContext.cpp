@@ -9,6 +9,7 @@
 #include "pdf/DocumentWriter.h"
 #include "pdf/ImageEmbedder.h"
 #include "pdf/OrientedMatrix.h"
+#include "pdf/PageSizes.h"
 #include "pdf/QpdfErrors.h"
 #include "pdf/StreamData.h"
 #include "pdf/TextContent.h"
@@ -90,6 +91,9 @@ class PDFContext::Impl {
     std::shared_ptr<const FontCascade> font;
     double fontSize = 0;
     [[nodiscard]] int pageCount() const { return m_catalog.pageCount(); }
+    [[nodiscard]] Warnings checkPagesAfter(int count) const {
+        return checkPageSizes(m_catalog.pages().subspan(static_cast<std::size_t>(count)));
+    }
 
   private:
     QPDFObjectHandle resources();
@@ -323,6 +327,10 @@ void PDFContext::endPage() {
 
 AddedDocument PDFContext::addDocument(const QString &sourcePath) {
     return m_impl->addDocument(sourcePath);
+}
+
+Warnings PDFContext::checkPagesAfter(int count) const {
+    return translateQpdfErrors([&] { return m_impl->checkPagesAfter(count); });
 }
 
 int PDFContext::pageCount() const {

@@ -76,6 +76,8 @@ class PDFContext {
     AddedDocument addDocument(const QString &sourcePath);
 
     [[nodiscard]] int pageCount() const;
+    /// What checkPageSizes() says of the pages after the first `count`.
+    [[nodiscard]] Warnings checkPagesAfter(int count) const;
     /// Waits for the pages drawn so far, which another core compresses. Throws Error when one
     /// cannot be stored; call rollBack() then.
     void waitForPages();

@@ -5,6 +5,7 @@
 #include "pdf/import/DocumentImport.h"
 #include "pdf/import/FormMerger.h"
 
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,6 +24,7 @@ class DocumentCatalog {
     /// Removes the pages that addPage() added after the first `count`.
     void truncatePages(int count);
 
+    [[nodiscard]] std::span<const QPDFObjectHandle> pages() const { return m_pages; }
     [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
     /// The highest PDF version of the sources, at least 1.7.
     [[nodiscard]] const std::string &pdfVersion() const { return m_pdfVersion; }

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/PageSizes.h"
+
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+namespace {
+
+constexpr double kSmallest = 3;
+constexpr double kLargest = 14'400;
+
+bool isShown(const QSizeF &size) {
+    const auto [shorter, longer] = std::minmax(size.width(), size.height());
+    return shorter >= kSmallest && longer <= kLargest;
+}
+
+QString sizeText(const QSizeF &size) {
+    constexpr int kDigits = 8;
+    return u"%1 x %2"_s.arg(QString::number(size.width(), 'g', kDigits),
+                            QString::number(size.height(), 'g', kDigits));
+}
+
+} // namespace
+
+Warnings checkPageSizes(std::span<const QPDFObjectHandle> pages) {
+    constexpr int kNamed = 3;
+    QStringList named;
+    int others = 0;
+    QPDFObjectHandle shown; // A box that many pages may share.
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        auto box = QPDFObjectHandle(pages[i]).getKey("/MediaBox");
+        if (box.isSameObjectAs(shown) || !box.isRectangle()) {
+            continue;
+        }
+        const auto corners = box.getArrayAsRectangle();
+        const QSizeF size(corners.urx - corners.llx, corners.ury - corners.lly);
+        if (isShown(size)) {
+            shown = box;
+            continue;
+        }
+        if (named.size() < kNamed) {
+            named += u"page %1 (%2)"_s.arg(i + 1).arg(sizeText(size));
+        } else {
+            ++others;
+        }
+    }
+    if (named.isEmpty()) {
+        return {};
+    }
+    const QString more = others == 0 ? QString() : u" and %1 more"_s.arg(others);
+    return {{WarningCode::PageSize,
+             u"Readers need not show pages beyond 3 to 14,400 units: %1"_s.arg(named.join(u", "_s) +
+                                                                               more)}};
+}
+
+} // namespace folioforge
