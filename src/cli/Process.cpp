@@ -4,8 +4,12 @@
 
 #include "files/PartFiles.h"
 
+#include <QString>
+#include <QtGlobal>
+
 #include <clocale>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
@@ -46,7 +50,17 @@ void askForStopInTime() {
     }
 }
 
+void passOn(QtMsgType type, const QMessageLogContext & /*context*/, const QString &message) {
+    if (type == QtFatalMsg) {
+        std::fprintf(stderr, "folioforge-cli: %s\n", qUtf8Printable(message));
+    }
+}
+
 } // namespace
+
+void silenceQt() {
+    qInstallMessageHandler(passOn);
+}
 
 std::stop_token outOfProcessorTime() {
     return processorTime().get_token();

@@ -9,6 +9,10 @@ namespace folioforge {
 /// Makes Qt read file names as UTF-8 in every locale. Must be called before the first use of Qt.
 void useUtf8FileNames();
 
+/// Keeps Qt's own messages, which are for developers, from standard error, save for the last one of
+/// a program that Qt ends.
+void silenceQt();
+
 /// Asked to stop when the processor time that the system grants (RLIMIT_CPU) is nearly used up,
 /// after prepareForSignals().
 std::stop_token outOfProcessorTime();

@@ -10,6 +10,7 @@
 #include "cli/Report.h"
 #include "convert/Bundle.h"
 #include "convert/Run.h"
+#include "error/Error.h"
 #include "filelist/SourceFiles.h"
 #include "files/Printable.h"
 #include "files/TemporaryFolder.h"
@@ -161,8 +162,12 @@ ExitStatus runConversion(Arguments arguments) {
     Console console;
     try {
         readPasswords(arguments, arguments.options.security);
+        sourceDate(); // Throws where no document could carry it.
     } catch (const ArgumentFault &fault) {
         console.complain(fault.text());
+        return WrongUsage;
+    } catch (const Error &error) {
+        console.complain(error.reason());
         return WrongUsage;
     }
     if (const auto notice = checkConversion(arguments.options)) {

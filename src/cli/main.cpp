@@ -50,6 +50,7 @@ int run(int argc, char *argv[]) {
 int main(int argc, char *argv[]) {
     fillStandardDescriptors();
     reportFilesTooLarge();
+    silenceQt();
     try {
         return run(argc, argv);
     } catch (const std::exception &failure) {

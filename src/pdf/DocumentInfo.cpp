@@ -2,8 +2,11 @@
 
 #include "pdf/DocumentInfo.h"
 
+#include "error/Error.h"
+
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Qt::StringLiterals;
@@ -26,17 +29,27 @@ QString pdfDate(const QDateTime &date) {
         .arg(minutes % 60, 2, 10, QLatin1Char('0'));
 }
 
-/// SOURCE_DATE_EPOCH where the environment has it, so that a document can be made again byte for
-/// byte; else now.
-QDateTime documentDate() {
-    bool given = false;
-    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&given);
-    return given ? QDateTime::fromSecsSinceEpoch(seconds).toUTC() : QDateTime::currentDateTime();
-}
-
 } // namespace
 
+std::optional<QDateTime> sourceDate() {
+    if (!qEnvironmentVariableIsSet("SOURCE_DATE_EPOCH")) {
+        return std::nullopt;
+    }
+    constexpr qint64 kLast = 253'402'300'799; // The end of 9999: a date has four digits for a year.
+    const QString text = qEnvironmentVariable("SOURCE_DATE_EPOCH");
+    const auto isDigit = [](QChar unit) { return unit >= u'0' && unit <= u'9'; };
+    bool fits = false;
+    const qint64 seconds = text.toLongLong(&fits);
+    if (!fits || seconds > kLast || !std::ranges::all_of(text, isDigit)) {
+        throw Error(u"SOURCE_DATE_EPOCH is \"%1\", not the seconds from 1970 to a date before the "
+                    "year 10000"_s.arg(text));
+    }
+    return QDateTime::fromSecsSinceEpoch(seconds).toUTC();
+}
+
 void writeDocumentInfo(QPDF &document, const DocumentInfo &info) {
+    const QDateTime created =
+        info.created.isValid() ? info.created : sourceDate().value_or(QDateTime::currentDateTime());
     auto dictionary = QPDFObjectHandle::newDictionary();
     const auto put = [&](const char *key, const QString &text) {
         dictionary.replaceKey(key, QPDFObjectHandle::newUnicodeString(text.toStdString()));
@@ -47,7 +60,7 @@ void writeDocumentInfo(QPDF &document, const DocumentInfo &info) {
     put("/Keywords", info.keywords);
     put("/Creator", u"Vesprin-Folioforge"_s);
     put("/Producer", QStringLiteral("Folioforge " FOLIOFORGE_VERSION));
-    put("/CreationDate", pdfDate(info.created.isValid() ? info.created : documentDate()));
+    put("/CreationDate", pdfDate(created));
     document.getTrailer().replaceKey("/Info", document.makeIndirectObject(dictionary));
 }
 

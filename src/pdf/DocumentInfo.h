@@ -5,6 +5,8 @@
 #include <QDateTime>
 #include <QString>
 
+#include <optional>
+
 class QPDF;
 
 namespace folioforge {
@@ -20,7 +22,11 @@ struct DocumentInfo {
                        ///< since 1970, UTC), else now.
 };
 
-/// Writes the document information into `document`.
+/// SOURCE_DATE_EPOCH of the environment, so that a document can be made again byte for byte;
+/// nothing where it is not set. Throws Error where it is no date.
+std::optional<QDateTime> sourceDate();
+
+/// Writes the document information into `document`. Throws Error as sourceDate() does.
 void writeDocumentInfo(QPDF &document, const DocumentInfo &info);
 
 } // namespace folioforge

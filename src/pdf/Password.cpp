@@ -4,6 +4,9 @@
 
 #include "error/Error.h"
 
+#ifdef __linux__
+#include <sys/prctl.h>
+#endif
 #include <sys/resource.h>
 
 #include <unicode/usprep.h>
@@ -99,6 +102,10 @@ void forbidCoreDumps() {
         limit.rlim_cur = 0;
         ::setrlimit(RLIMIT_CORE, &limit);
     }
+#ifdef __linux__
+    // Programs that take dumps through a pipe get them whatever the limit.
+    ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
+#endif
 }
 
 } // namespace folioforge

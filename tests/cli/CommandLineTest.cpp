@@ -293,6 +293,15 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QCOMPARE(process.exitCode(), SIGTERM);
         QVERIFY(outputs().isEmpty());
     }
+
+    void aSourceDateThatIsNoDateIsRefused() {
+        qputenv("SOURCE_DATE_EPOCH", "yesterday");
+        const ToolRun run = convert({text("a.txt")});
+        qunsetenv("SOURCE_DATE_EPOCH");
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.startsWith("folioforge-cli: SOURCE_DATE_EPOCH is \"yesterday\""), run.err);
+        QVERIFY(outputs().isEmpty());
+    }
 };
 
 FOLIOFORGE_TEST(CommandLineTest)

@@ -114,6 +114,13 @@ class PasswordSourcesTest : public QObject, protected CommandLineCase {
         QVERIFY(outputs().isEmpty());
     }
 
+    void messagesOfQtAreNotShown() {
+        // Qt has one of its own for a file without a name.
+        const ToolRun run = convert({u"--user-password-file="_s, text("a.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.startsWith("folioforge-cli: ") && run.err.count('\n') == 1, run.err);
+    }
+
     void aPasswordFileThatCannotBeReadStopsTheRun() {
         const ToolRun run = convert({u"--user-password-file"_s, path("missing"), text("a.txt")});
         QCOMPARE(run.exitCode, 2);

@@ -110,6 +110,38 @@ class ContextCloseTest : public QObject, protected ContextCase {
         QVERIFY(PdfProbe(path).json().contains("D:19700102000000Z"));
     }
 
+    void aSourceDateThatIsNoDateFailsInWords_data() {
+        QTest::addColumn<QByteArray>("date");
+        QTest::newRow("empty") << QByteArray("");
+        QTest::newRow("words") << QByteArray("yesterday");
+        QTest::newRow("digits and more") << QByteArray("86400s");
+        QTest::newRow("blank") << QByteArray(" 86400");
+        QTest::newRow("before 1970") << QByteArray("-1");
+        QTest::newRow("sign") << QByteArray("+1");
+        QTest::newRow("fraction") << QByteArray("1.5");
+        QTest::newRow("year 10000") << QByteArray("253402300800");
+        QTest::newRow("beyond 64 bits") << QByteArray("99999999999999999999");
+    }
+    void aSourceDateThatIsNoDateFailsInWords() {
+        QFETCH(const QByteArray, date);
+        qputenv("SOURCE_DATE_EPOCH", date);
+        const QString path = newFile(u"pdf"_s);
+        PDFContext context(path, {});
+        context.beginPage({0, 0, 10, 10});
+        context.endPage();
+        const CloseResult result = context.close();
+        qunsetenv("SOURCE_DATE_EPOCH");
+        QVERIFY2(result.reason.startsWith(u"SOURCE_DATE_EPOCH is "_s), qPrintable(result.reason));
+        QVERIFY(!QFile::exists(path));
+    }
+
+    void theLastSecondOfTheYear9999IsADate() {
+        qputenv("SOURCE_DATE_EPOCH", "253402300799");
+        const auto date = sourceDate();
+        qunsetenv("SOURCE_DATE_EPOCH");
+        QCOMPARE(date, QDateTime({9999, 12, 31}, {23, 59, 59}, Qt::UTC));
+    }
+
     void contextsDestroyedUnclosedLeaveNothing() {
         const QString path = newFile(u"pdf"_s);
         {

@@ -11,6 +11,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#endif
 #include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
@@ -182,6 +185,10 @@ class PasswordTest : public QObject {
         forbidCoreDumps();
         QCOMPARE(::getrlimit(RLIMIT_CORE, &limit), 0);
         QCOMPARE(limit.rlim_cur, rlim_t(0));
+#ifdef Q_OS_LINUX
+        QCOMPARE(::prctl(PR_GET_DUMPABLE, 0, 0, 0, 0), 0);
+        QCOMPARE(::prctl(PR_SET_DUMPABLE, 1, 0, 0, 0), 0);
+#endif
     }
 
     void withoutAnOwnerPasswordNobodyIsOwnerByAnEmptyOne() {
