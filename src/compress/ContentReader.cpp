@@ -7,6 +7,7 @@
 #include "compress/StreamFilters.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <qpdf/QPDF.hh>
@@ -41,6 +42,21 @@ bool readText(QPDFObjectHandle content, std::string &text) {
 
 } // namespace
 
+ContentScope::ContentScope(QPDFObjectHandle dictionary)
+    : resources(std::move(dictionary))
+    , holdsStreams(!drawableStreams(resources).empty()) {}
+
+std::shared_ptr<ContentScope> ContentReader::scopeOf(const QPDFObjectHandle &resources) {
+    if (!resources.isIndirect()) {
+        return std::make_shared<ContentScope>(resources);
+    }
+    std::shared_ptr<ContentScope> &scope = m_scopes[resources.getObjGen()];
+    if (!scope) {
+        scope = std::make_shared<ContentScope>(resources);
+    }
+    return scope;
+}
+
 ContentDraws ContentReader::readPage(const QPDFObjectHandle &page, ContentScope &scope) {
     return readContent(page, scope);
 }
@@ -49,9 +65,8 @@ ContentDraws ContentReader::readForm(QPDFObjectHandle form, ContentScope &outer)
     if (!form.isStream() || isImage(form)) {
         return {};
     }
-    ContentScope own{form.getDict().getKey("/Resources")};
-    const bool hasOwn = own.resources.isDictionary();
-    ContentScope &scope = hasOwn ? own : outer;
+    QPDFObjectHandle resources = form.getDict().getKey("/Resources");
+    const bool hasOwn = resources.isDictionary();
     KnownForms &known = hasOwn ? m_forms : outer.forms;
     const QPDFObjGen id = form.getObjGen();
     if (const auto found = known.draws.find(id); found != known.draws.end()) {
@@ -61,12 +76,12 @@ ContentDraws ContentReader::readForm(QPDFObjectHandle form, ContentScope &outer)
         // Found once only: forms that draw each other ask for it many times.
         const auto [place, isNew] = known.unclear.try_emplace(id);
         if (isNew) {
-            place->second.unclear = imagesBehind(scope.resources);
+            place->second.unclear = imagesBehind(hasOwn ? resources : outer.resources);
         }
         return place->second;
     }
     m_open.insert(id);
-    const ContentDraws inner = readContent(form, scope);
+    const ContentDraws inner = readContent(form, hasOwn ? *scopeOf(resources) : outer);
     m_open.erase(id);
     ContentDraws draws;
     draws.add(inner, matrixOf(form.getDict().getKey("/Matrix")));
@@ -76,13 +91,13 @@ ContentDraws ContentReader::readForm(QPDFObjectHandle form, ContentScope &outer)
 ContentDraws ContentReader::readContent(const QPDFObjectHandle &content, ContentScope &scope) {
     ContentDraws draws = readFonts(scope);
     // Text alone needs no reading.
-    if (drawableStreams(scope.resources).empty()) {
+    if (!scope.holdsStreams) {
         return draws;
     }
     std::string text;
     if (readText(content, text)) {
         draws.add(drawsOf(text, scope), Matrix2x2());
-    } else {
+    } else if (!std::exchange(scope.allIsUnclear, true)) {
         // What cannot be read may draw any image of its resources at any size.
         draws.unclear.merge(imagesBehind(scope.resources));
     }
@@ -117,15 +132,19 @@ ContentDraws ContentReader::drawsOf(const std::string &text, ContentScope &scope
 /// Type 3 fonts are unclear.
 ContentDraws ContentReader::readFonts(ContentScope &scope) {
     ContentDraws draws;
+    if (std::exchange(scope.fontsAreRead, true)) {
+        return draws;
+    }
     for (QPDFObjectHandle font : type3Fonts(scope.resources)) {
         QPDFObjectHandle glyphs = font.getKey("/CharProcs");
         if (!glyphs.isDictionary() ||
             (font.isIndirect() && !m_fontsRead.insert(font.getObjGen()).second)) {
             continue;
         }
-        ContentScope own{font.getKey("/Resources")};
+        QPDFObjectHandle own = font.getKey("/Resources");
+        const auto inner = own.isDictionary() ? scopeOf(own) : nullptr;
         for (auto &[name, glyph] : glyphs.ditems()) {
-            draws.addUnclear(readForm(glyph, own.resources.isDictionary() ? own : scope));
+            draws.addUnclear(readForm(glyph, inner ? *inner : scope));
         }
     }
     return draws;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 #include <qpdf/QPDFPageObjectHelper.hh>
 
@@ -18,10 +19,13 @@ class UseCollector {
   public:
     void addPage(QPDFObjectHandle page, int number) {
         QPDFPageObjectHelper helper(page);
-        // Resources may be inherited from the page tree.
-        ContentScope scope{helper.getAttribute("/Resources", false)};
-        ContentDraws draws = m_reader.readPage(page, scope);
-        addAnnotations(page, scope, draws);
+        // Resources may be inherited from the page tree, where neighbours share them.
+        const QPDFObjectHandle resources = helper.getAttribute("/Resources", false);
+        if (!m_scope || !m_scope->resources.isSameObjectAs(resources)) {
+            m_scope = m_reader.scopeOf(resources);
+        }
+        ContentDraws draws = m_reader.readPage(page, *m_scope);
+        addAnnotations(page, *m_scope, draws);
         QPDFObjectHandle unit = page.getKey("/UserUnit");
         const double points = unit.isNumber() ? unit.getNumericValue() : 1;
         addDraws(draws, points, number);
@@ -102,6 +106,7 @@ class UseCollector {
     }
 
     ContentReader m_reader;
+    std::shared_ptr<ContentScope> m_scope; ///< Of the page that was read last.
     std::map<QPDFObjGen, std::size_t> m_index;
 };
 
