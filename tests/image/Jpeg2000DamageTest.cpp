@@ -5,8 +5,11 @@
 
 #include "image/PictureDamage.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <random>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -91,6 +94,26 @@ class Jpeg2000DamageTest : public QObject {
         const PdfImage image = toPdfImage(write(tiledPicture().chopped(2)));
         QVERIFY(image.warnings.empty());
         QVERIFY(showsTiles(decoded(image), 16));
+    }
+
+    void cutAnywhereSaysSo_data() {
+        QTest::addColumn<QString>("name");
+        for (const QString &name : QDir(imageFile({})).entryList({u"*jp2*"_s}, QDir::Files)) {
+            QTest::newRow(qPrintable(name)) << name;
+        }
+    }
+
+    void cutAnywhereSaysSo() {
+        QFETCH(const QString, name);
+        const QByteArray whole = bytesOf(imageFile(name));
+        std::mt19937 random(20240304); // The same cuts in every run.
+        for (int round = 0; round < 10; ++round) {
+            // What takes away but the end marker is no loss.
+            const auto length = static_cast<qsizetype>(random() % (whole.size() - 2));
+            const QString path = write(whole.first(length));
+            QVERIFY2(!refusalOf(path).isEmpty() || !toPdfImage(path).warnings.empty(),
+                     qPrintable(QString::number(length)));
+        }
     }
 
     void pictureWithoutTilesIsRefused() {

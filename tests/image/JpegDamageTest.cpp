@@ -6,8 +6,11 @@
 
 #include "image/PictureDamage.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <random>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -197,8 +200,68 @@ class JpegDamageTest : public QObject {
         QVERIFY(!toPdfImage(write(file.first(file.size() / 2))).warnings.empty());
     }
 
+    void cutAnywhereIsAsBeforeOrSaysSo_data() { addPictures(); }
+
+    void cutAnywhereIsAsBeforeOrSaysSo() {
+        QFETCH(const QByteArray, whole);
+        std::mt19937 random(20240302); // The same cuts in every run.
+        for (int round = 0; round < 10; ++round) {
+            const auto length = static_cast<qsizetype>(random() % whole.size());
+            requireWordsOrThePixelsOf(whole, whole.first(length), length);
+        }
+    }
+
+    /// Not every change can be told: then what other programs see in the file stands in the PDF.
+    void changedAnywhereIsAsInTheFileOrSaysSo_data() { addPictures(); }
+
+    void changedAnywhereIsAsInTheFileOrSaysSo() {
+        QFETCH(const QByteArray, whole);
+        std::mt19937 random(20240303);
+        for (int round = 0; round < 40; ++round) {
+            QByteArray damaged = whole;
+            const auto at = static_cast<qsizetype>(random() % (whole.size() - 8));
+            for (int i = 0; i < (round % 2 == 0 ? 1 : 8); ++i) {
+                damaged[at + i] = static_cast<char>(random());
+            }
+            requireWordsOrThePixelsOf(damaged, damaged, at);
+        }
+    }
+
   private:
     QTemporaryDir m_folder;
+
+    static void addPictures() {
+        QTest::addColumn<QByteArray>("whole");
+        for (const QString &name : QDir(imageFile({})).entryList({u"*.jpg"_s}, QDir::Files)) {
+            QTest::newRow(qPrintable(name)) << bytesOf(imageFile(name));
+        }
+        QTest::newRow("grey") << plainPicture();
+        QTest::newRow("with restart markers") << pictureWithRestarts();
+        QTest::newRow("progressive") << progressivePicture();
+        QTest::newRow("arithmetic")
+            << picture([](jpeg_compress_struct &codec) { codec.arith_code = TRUE; });
+    }
+
+    /// The file `damaged` is refused or taken with a warning, or its pixels are what Qt's reader
+    /// sees in the file `seen`.
+    void requireWordsOrThePixelsOf(const QByteArray &seen, const QByteArray &damaged,
+                                   qsizetype place) {
+        const QString path = write(damaged);
+        if (isTold(path)) {
+            return;
+        }
+        const PdfImage image = toPdfImage(path);
+        if (image.color ==
+            ImageColor::Cmyk) { // Programs differ in which inks they take for inverted.
+            QCOMPARE(dataOf(image), seen);
+            return;
+        }
+        const QImage picture = QImage::fromData(seen, "jpeg");
+        QVERIFY2(!picture.isNull(), qPrintable(QString::number(place)));
+        QVERIFY2(decoded(image).convertToFormat(QImage::Format_RGB32) ==
+                     picture.convertToFormat(QImage::Format_RGB32),
+                 qPrintable(QString::number(place)));
+    }
 
     /// Whether the file is refused or taken with a warning.
     static bool isTold(const QString &path) {

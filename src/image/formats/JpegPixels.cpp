@@ -71,14 +71,13 @@ extern "C" void noteWarning(j_common_ptr common, int level) {
 /// One attempt at decoding a file.
 class Decoder {
   public:
-    explicit Decoder(QByteArrayView file) {
+    explicit Decoder(QByteArrayView file)
+        : m_file(file) {
         m_codec.err = install(m_faults);
         m_faults.manager.emit_message = noteWarning;
         jpeg_create_decompress(&m_codec);
         m_progress.progress_monitor = stopEndlessScans;
         m_codec.progress = &m_progress;
-        jpeg_mem_src(&m_codec, reinterpret_cast<const uchar *>(file.data()),
-                     static_cast<unsigned long>(file.size()));
     }
     ~Decoder() { jpeg_destroy_decompress(&m_codec); }
     Decoder(const Decoder &) = delete;
@@ -89,6 +88,8 @@ class Decoder {
         if (setjmp(m_faults.target)) {
             return false;
         }
+        jpeg_mem_src(&m_codec, reinterpret_cast<const uchar *>(m_file.data()),
+                     static_cast<unsigned long>(m_file.size()));
         jpeg_read_header(&m_codec, TRUE);
         m_faults.hasBegun = true;
         m_faults.isArithmetic = m_codec.arith_code != 0;
@@ -110,6 +111,7 @@ class Decoder {
     /// Fills the rows, as many as can be.
     void readRows(uchar *samples, qsizetype stride) {
         if (setjmp(m_faults.target)) {
+            m_faults.isFaulty = true;
             return;
         }
         while (m_codec.output_scanline < m_codec.output_height) {
@@ -154,6 +156,7 @@ class Decoder {
         }
     }
 
+    QByteArrayView m_file;
     Faults m_faults = {};
     jpeg_progress_mgr m_progress = {};
     jpeg_decompress_struct m_codec = {};
