@@ -99,9 +99,17 @@ void SourceFile::requireUnchanged() const {
 qint64 SourceFile::readAt(qint64 at, std::span<char> target) const {
     const qint64 got = m_descriptor.readAt(at, target);
     if (got < 0) {
+        *m_failure = errno;
         failToRead();
     }
     return got;
+}
+
+void SourceFile::requireNoFailure() const {
+    if (const int failure = *m_failure) {
+        errno = failure;
+        failToRead();
+    }
 }
 
 QByteArray SourceFile::readAll() const {

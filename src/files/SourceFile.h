@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <atomic>
+#include <memory>
 #include <span>
 #include <string>
 
@@ -39,6 +41,9 @@ class SourceFile {
     [[nodiscard]] const FileVersion &version() const { return m_version; }
     /// Throws Error when the file has changed since it was opened.
     void requireUnchanged() const;
+    /// Throws Error when the system could not read the file once. Whoever takes an Error for damage
+    /// of the file's contents asks this first.
+    void requireNoFailure() const;
 
     /// Reads from byte `at` on until `target` is full or the file ends; returns the number of
     /// bytes. Throws Error when the system cannot read. Safe to call from several threads at once.
@@ -54,6 +59,9 @@ class SourceFile {
 
     FileDescriptor m_descriptor;
     FileVersion m_version;
+    /// The error number of a read that failed; 0 for none. Behind a pointer, so that files can
+    /// move.
+    std::unique_ptr<std::atomic<int>> m_failure = std::make_unique<std::atomic<int>>(0);
 };
 
 /// Throws the Error for a file at `path` that changed while it was read.

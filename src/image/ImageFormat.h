@@ -44,7 +44,9 @@ template<typename Read>
 auto readImageFile(const QString &path, SystemCalls &calls, const Read &read) {
     try {
         const auto file = std::make_shared<const SourceFile>(SourceFile::open(path, calls));
-        return read(file, formatOf(file->view()));
+        auto result = read(file, formatOf(file->view()));
+        file->requireNoFailure(); // A decoder may have taken it for the end of the file.
+        return result;
     } catch (const std::bad_alloc &) {
         throw Error(QStringLiteral("There is not enough memory for the image"));
     }
