@@ -80,7 +80,7 @@ void unlock(QPDF &document, const std::shared_ptr<SourceInput> &input,
     document.processInputSource(input, password.isEmpty() ? nullptr : password.constData());
 }
 
-/// For each stream of a document of `size` bytes, beyond which none can be.
+/// For the longest stream of a document of `size` bytes. No stream is longer than its file.
 void requireRoomForStreams(QPDF &document, qsizetype size) {
     qsizetype longest = 0;
     for (QPDFObjectHandle &object : document.getAllObjects()) {
@@ -111,12 +111,10 @@ void write(QPDF &document, OutputPipeline &output, const CompressionOptions &opt
     output.throwFailure();
 }
 
-void report(std::vector<LeftImage> left, CompressionOutcome &outcome) {
-    std::stable_sort(left.begin(), left.end(),
-                     [](const auto &one, const auto &other) { return one.page < other.page; });
-    for (LeftImage &image : left) {
-        outcome.imagesKept.push_back({image.page, image.object, std::move(image.reason)});
-    }
+/// `images` in the order of their pages.
+std::vector<KeptImage> byPage(std::vector<KeptImage> images) {
+    std::ranges::stable_sort(images, {}, &KeptImage::page);
+    return images;
 }
 
 void runPass(const QString &path, const QuartzFilter &filter, const CompressionOptions &options,
@@ -133,8 +131,9 @@ void runPass(const QString &path, const QuartzFilter &filter, const CompressionO
         const auto streams = ReducedStreams::install(std::move(plan.planned));
         requireRoomForStreams(document, QFileInfo(path).size());
         write(document, output, options, endPageWrite);
-        plan.left.insert(plan.left.end(), streams->left().begin(), streams->left().end());
-        report(std::move(plan.left), outcome);
+        std::vector<KeptImage> kept = std::move(plan.kept);
+        kept.insert(kept.end(), streams->kept().begin(), streams->kept().end());
+        outcome.imagesKept = byPage(std::move(kept));
         return streams->done();
     });
     reader->finish();
@@ -159,7 +158,7 @@ void compressInto(const QString &path, const CompressionOptions &options,
 std::unique_ptr<OutputFile> copyFor(const QString &destination, const QString &source, Flush flush,
                                     SystemCalls &calls) {
     auto file = std::make_unique<OutputFile>(destination, calls);
-    appendFile(*file, source);
+    appendFile(*file, source, calls);
     file->finish(flush);
     return file;
 }

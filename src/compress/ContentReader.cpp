@@ -21,7 +21,7 @@ constexpr std::size_t kMaxContentBytes = 64 << 20;
 
 /// Appends the text of a form or of a page's contents, and says whether all of it could be read.
 bool readText(QPDFObjectHandle content, std::string &text) {
-    BoundedText target(text, kMaxContentBytes);
+    BoundedBuffer target(text, kMaxContentBytes);
     const QPDF *document = content.getOwningQPDF();
     const std::size_t warnings = document ? document->numWarnings() : 0;
     try {

@@ -109,7 +109,7 @@ bool isIndexed(QPDFObjectHandle space) {
 std::string paletteData(QPDFObjectHandle table) {
     constexpr std::size_t kMaxBytes = 64 << 10;
     std::string data;
-    BoundedText target(data, kMaxBytes);
+    BoundedBuffer target(data, kMaxBytes);
     bool filtered = false;
     table.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized);
     return filtered ? data : std::string();
@@ -295,7 +295,7 @@ void planUse(QPDF &document, const ImageUse &use, const QuartzFilter &filter, Im
     if (auto *job = std::get_if<ImageJob>(&decision)) {
         plan.planned.push_back({image, use.page, std::move(*job)});
     } else {
-        plan.left.push_back({use.page, use.image.getObj(), std::get<QString>(decision)});
+        plan.kept.push_back({use.page, use.image.getObj(), std::get<QString>(decision)});
     }
 }
 

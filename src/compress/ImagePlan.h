@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "compress/CompressionPass.h"
 #include "compress/ImageReducer.h"
 #include "compress/ImageUses.h"
 #include "compress/QuartzFilter.h"
@@ -20,16 +21,9 @@ struct PlannedImage {
     ImageJob job;
 };
 
-/// An image that stays as it is.
-struct LeftImage {
-    int page = 0;   ///< The first page that draws it, from 1.
-    int object = 0; ///< Its object number in the document.
-    QString reason; ///< A few words without a full stop.
-};
-
 struct ImagePlan {
     std::vector<PlannedImage> planned; ///< In the order of the pages.
-    std::vector<LeftImage> left;
+    std::vector<KeptImage> kept;
 };
 
 /// Decides for each image from its dictionary and its largest use whether to reduce it and to what

@@ -87,7 +87,7 @@ ImageJob ReducedStreams::load(const Image &image) const {
     QPDFObjectHandle original = image.original;
     job.data.reserve(static_cast<std::size_t>(
         std::clamp<qsizetype>(statedLength(original.getDict().getKey("/Length")), 0, kMaxRoom)));
-    BoundedText target(job.data, job.data.max_size());
+    BoundedBuffer target(job.data, job.data.max_size());
     bool isFiltered = false;
     if (!original.pipeStreamData(&target, &isFiltered, 0, qpdf_dl_none)) {
         throw Error(unreadable().reason);
@@ -111,7 +111,7 @@ void ReducedStreams::start(Image &image) {
 void ReducedStreams::workAhead(std::size_t from) {
     const std::size_t threads = std::max(std::thread::hardware_concurrency(), 1U);
     for (auto i = from; i < m_images.size() && m_started <= threads && m_bytes < kMaxAhead; ++i) {
-        if (!m_images[i].reduction.valid() && !m_images[i].isTold) {
+        if (!m_images[i].reduction.valid() && !m_images[i].isCounted) {
             start(m_images[i]);
         }
     }
@@ -136,18 +136,18 @@ void ReducedStreams::keep(Image &image, const QString &reason, Pipeline *pipelin
     requireRoomForStream(static_cast<qsizetype>(data->getSize()));
     pipeline->write(data->getBuffer(), data->getSize());
     pipeline->finish();
-    if (!image.isTold) {
-        m_left.push_back({image.plan.page, image.plan.stream.getObjectID(), reason});
-        image.isTold = true;
+    if (!image.isCounted) {
+        m_kept.push_back({image.plan.page, image.plan.stream.getObjectID(), reason});
+        image.isCounted = true;
     }
 }
 
 void ReducedStreams::replace(Image &image, const ReducedImage &reduced, Pipeline *pipeline) {
     QPDFObjectHandle dictionary = image.plan.stream.getDict();
-    if (!image.isTold) {
+    if (!image.isCounted) {
         describe(dictionary, image.plan.job, reduced);
         ++m_done;
-        image.isTold = true;
+        image.isCounted = true;
     }
     requireRoomForStream(static_cast<qsizetype>(reduced.data.size()));
     pipeline->writeString(reduced.data);

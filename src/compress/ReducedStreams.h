@@ -27,7 +27,7 @@ class ReducedStreams : public QPDFObjectHandle::StreamDataProvider {
 
     [[nodiscard]] int done() const { return m_done; }
     /// The images that were tried and stay as they are.
-    [[nodiscard]] const std::vector<LeftImage> &left() const { return m_left; }
+    [[nodiscard]] const std::vector<KeptImage> &kept() const { return m_kept; }
 
   private:
     struct Image {
@@ -35,7 +35,7 @@ class ReducedStreams : public QPDFObjectHandle::StreamDataProvider {
         QPDFObjectHandle original; ///< Still gives the first data after the stream was replaced.
         std::size_t bytes = 0;     ///< An estimate of the memory that its reduction needs.
         std::future<Reduction> reduction = {}; ///< Valid from its start until it is taken.
-        bool isTold = false;                   ///< Counted as done or left.
+        bool isCounted = false;                ///< Counted as done or kept.
     };
 
     [[nodiscard]] ImageJob load(const Image &image) const;
@@ -49,7 +49,7 @@ class ReducedStreams : public QPDFObjectHandle::StreamDataProvider {
     std::map<QPDFObjGen, std::size_t> m_index;
     std::size_t m_bytes = 0;   ///< The sum for those that are started and not taken.
     std::size_t m_started = 0; ///< How many these are.
-    std::vector<LeftImage> m_left;
+    std::vector<KeptImage> m_kept;
     int m_done = 0;
 };
 

@@ -39,7 +39,7 @@ std::string decodeLossless(const std::string &data, const std::string &filter,
         QPDFObjectHandle stream = scratch.newStream();
         stream.replaceStreamData(data, QPDFObjectHandle::parse(filter),
                                  QPDFObjectHandle::parse(parameters));
-        BoundedText target(decoded, maxBytes);
+        BoundedBuffer target(decoded, maxBytes);
         bool filtered = false;
         const bool whole = stream.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized, true);
         if (!filtered || !whole || scratch.anyWarnings()) {

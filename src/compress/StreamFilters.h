@@ -14,14 +14,14 @@ class QPDF;
 
 namespace folioforge {
 
-/// What BoundedText throws when more arrives than it may take.
+/// What BoundedBuffer throws when more arrives than it may take.
 class TooLong : public std::exception {};
 
 /// The end of a libqpdf pipeline that collects what arrives, up to a limit, so that a small
 /// compressed stream cannot claim the machine's memory.
-class BoundedText : public Pipeline {
+class BoundedBuffer : public Pipeline {
   public:
-    BoundedText(std::string &text, std::size_t maxBytes)
+    BoundedBuffer(std::string &text, std::size_t maxBytes)
         : Pipeline("bounded text", nullptr)
         , m_text(text)
         , m_maxBytes(maxBytes) {}

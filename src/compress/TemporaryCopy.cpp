@@ -2,7 +2,7 @@
 
 #include "compress/TemporaryCopy.h"
 
-#include "error/Error.h"
+#include "files/SourceFile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -37,19 +37,14 @@ std::shared_ptr<const PartFile> TemporaryCopy::finish(Flush flush) {
     return part;
 }
 
-void appendFile(OutputFile &target, const QString &path) {
-    QFile source(path);
-    if (!source.open(QIODevice::ReadOnly)) {
-        throw Error(u"Cannot read %1: %2"_s.arg(path, source.errorString()));
-    }
+void appendFile(OutputFile &target, const QString &path, SystemCalls &calls) {
+    const SourceFile source = SourceFile::open(path, calls);
     constexpr std::size_t kBlock = 1 << 16;
     std::array<char, kBlock> block{};
-    qint64 count = 0;
-    while ((count = source.read(block.data(), block.size())) > 0) {
+    qint64 at = 0;
+    while (const qint64 count = source.readAt(at, block)) {
         target.write({block.data(), static_cast<std::size_t>(count)});
-    }
-    if (count < 0) {
-        throw Error(u"Cannot read %1: %2"_s.arg(path, source.errorString()));
+        at += count;
     }
 }
 

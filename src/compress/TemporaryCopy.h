@@ -36,7 +36,7 @@ class TemporaryCopy {
     OutputPipeline m_pipeline;
 };
 
-/// Appends the bytes of the file at `path` to `target`. Throws Error.
-void appendFile(OutputFile &target, const QString &path);
+/// Appends the bytes of the file at `path`, read through `calls`, to `target`. Throws Error.
+void appendFile(OutputFile &target, const QString &path, SystemCalls &calls);
 
 } // namespace folioforge

@@ -71,11 +71,12 @@ CompressionOutcome Run::compress(const QString &path, const QString &temporaryFo
 /// Where the pass fails, the PDF stays as it was.
 CompressionOutcome Run::compressInPlace(const QString &path, TemporaryFolder &temporaryFolder,
                                         ConversionObserver &observer) const {
-    // What is brought to the disk is the copy's own copy beside the PDF.
+    // Only the file that replaces the PDF is flushed.
     CompressionOutcome outcome = compress(path, temporaryFolder.path(), observer, Flush::Never);
     if (outcome.convertInfo) {
         try {
-            putInPlace(*outcome.convertInfo, m_options.flush, m_options.calls);
+            StoppableCalls calls(m_options.calls, m_stop);
+            putInPlace(*outcome.convertInfo, m_options.flush, calls);
         } catch (const Error &error) {
             outcome.error = error.reason();
         }
