@@ -15,7 +15,8 @@
 
 namespace folioforge {
 
-/// What is wrong with an argument, as a sentence without a full stop; caught by parseArguments().
+/// What is wrong with an argument, as a sentence without a full stop; caught by
+/// parseArguments() and runConversion().
 class ArgumentFault : public std::exception {
   public:
     explicit ArgumentFault(QString text)

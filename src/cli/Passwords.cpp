@@ -48,7 +48,7 @@ class PasswordReader {
   private:
     /// Empty is what a script leaves that failed to find the password.
     static QByteArray ambient(const char *variable) {
-        const QByteArray bytes = qgetenv(variable);
+        QByteArray bytes = qgetenv(variable);
         if (bytes.isEmpty()) {
             throw ArgumentFault(u"%1 is set but empty"_s.arg(QLatin1StringView(variable)));
         }

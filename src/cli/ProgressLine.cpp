@@ -24,8 +24,8 @@ int columnsOf(char32_t character) {
     return columns < 0 ? kMax : columns;
 }
 
-/// The end of `text` that has room in `most` columns.
-QString lastColumns(const QString &text, int most) {
+/// The end of `text` that has room in `maxColumns` columns.
+QString lastColumns(const QString &text, int maxColumns) {
     const auto characters = text.toUcs4();
     qsizetype units = 0;
     qsizetype kept = 0;
@@ -33,7 +33,7 @@ QString lastColumns(const QString &text, int most) {
     for (qsizetype at = characters.size() - 1; at >= 0; --at) {
         const int wide = columnsOf(characters[at]);
         columns += wide;
-        if (columns > most) {
+        if (columns > maxColumns) {
             break;
         }
         units += QChar::requiresSurrogates(characters[at]) ? 2 : 1;

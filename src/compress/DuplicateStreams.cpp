@@ -87,7 +87,7 @@ void mergeDuplicateStreams(QPDF &document) {
         if (replacements.empty()) {
             return;
         }
-        visitContainers(document, [&replacements](const QPDFObjectHandle &container) {
+        visitArraysAndDictionaries(document, [&replacements](const QPDFObjectHandle &container) {
             redirect(container, replacements);
         });
     }

@@ -6,8 +6,8 @@
 
 namespace folioforge {
 
-/// Makes sharable streams (see sharableStreams()) that say the same, byte for byte and key for key,
-/// one: all references go to the first, and the others are left for the writer to drop.
+/// Replaces sharable streams (see sharableStreams()) that are equal, byte for byte and key for key,
+/// by the first of them. The writer drops the others.
 void mergeDuplicateStreams(QPDF &document);
 
 } // namespace folioforge

@@ -37,7 +37,7 @@ class Plane {
 };
 
 /// A picture with a plane for each component: grey; red, green and blue; or four inks. As JPEG
-/// keeps it, see toJpegColor(), planes 1 and 2 say the colour and may be smaller than the picture.
+/// keeps it, see toJpegColor(), planes 1 and 2 hold the chroma and may be smaller than the picture.
 struct PlanarImage {
     int width = 0;  ///< Pixels.
     int height = 0; ///< Pixels.
@@ -56,8 +56,8 @@ struct PlanarImage {
     }
 };
 
-/// Whether plane `index` of `components` in JPEG's own form says the colour alone, which the eye
-/// sees less sharply than the brightness.
+/// Whether plane `index` of `components` in JPEG's own form holds chroma, which the eye sees less
+/// sharply than the brightness.
 inline bool isColor(int index, int components) {
     return components >= 3 && (index == 1 || index == 2);
 }

@@ -36,7 +36,7 @@ void addInner(QPDFObjectHandle container, std::vector<QPDFObjectHandle> &open) {
 class AnnotationForms {
   public:
     explicit AnnotationForms(QPDF &document) {
-        visitContainers(document, [this](QPDFObjectHandle container) {
+        visitArraysAndDictionaries(document, [this](QPDFObjectHandle container) {
             if (container.isDictionary()) {
                 addStreamsOf(container.getKey("/AP"));
                 addStreamsOf(container.getKey("/MK"));
@@ -98,7 +98,8 @@ bool isForm(QPDFObjectHandle dictionary) {
 
 } // namespace
 
-void visitContainers(QPDF &document, const std::function<void(QPDFObjectHandle)> &visit) {
+void visitArraysAndDictionaries(QPDF &document,
+                                const std::function<void(QPDFObjectHandle)> &visit) {
     std::vector<QPDFObjectHandle> open;
     for (QPDFObjectHandle &object : document.getAllObjects()) {
         QPDFObjectHandle whole = object.isStream() ? object.getDict() : object;

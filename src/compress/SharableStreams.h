@@ -12,7 +12,7 @@ namespace folioforge {
 
 /// Calls `visit` with every array and dictionary of the document, those of streams and direct ones
 /// within others included. `visit` may put other references into what it is given.
-void visitContainers(QPDF &document, const std::function<void(QPDFObjectHandle)> &visit);
+void visitArraysAndDictionaries(QPDF &document, const std::function<void(QPDFObjectHandle)> &visit);
 
 /// The streams of a document of which equal ones may become one, since nobody edits them in place:
 /// images, font programs, colour profiles, and forms that content draws. Left out are page contents

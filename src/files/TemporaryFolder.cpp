@@ -50,7 +50,8 @@ QString TemporaryFolder::path() {
         m_clearing.emplace(m_parent, AbandonedParts::Kinds::FilesAndFolders);
         const std::string parent = QFile::encodeName(m_parent).toStdString();
         int attempts = 16;
-        while (attempts > 0 && !make(partPath(parent, QByteArray(kPartFolder.data(), kPartFolder.size())))) {
+        while (attempts > 0 &&
+               !make(partPath(parent, QByteArray(kPartFolder.data(), kPartFolder.size())))) {
             --attempts;
         }
     }

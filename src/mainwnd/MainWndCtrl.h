@@ -175,7 +175,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void slideOptionsTo(double width);
     void setOptionsWidth(int width);
     void fitWindowToOptions(const QRect &before);
-    void takeOnLeastSize();
+    void applyMinimumSize();
     int leftWithOptions(const QRect &frame);
     void showSettingsView(QWidget *view);
     void markSettingsButton(const QWidget *view);
@@ -225,7 +225,6 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     QString m_outputFolderPath;
 
     QString m_destFilePathName; ///< The PDF being written.
-    bool m_bLoading = false;    ///< Files are being added.
     QString m_fontName = QStringLiteral("Arial Unicode MS");
     int m_fontSize = 14; ///< Points.
     QByteArray m_cffontRef;

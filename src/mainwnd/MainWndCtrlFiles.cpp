@@ -133,7 +133,6 @@ void MainWndCtrl::addFiles(const QStringList &paths, int row) {
     if (!canEditList()) {
         return;
     }
-    m_bLoading = true;
     std::vector<PDFFileInfo> entries;
     QStringList badFiles;
     for (ReadEntry &read : readEntries(paths, TextReading::WhenListed)) {
@@ -148,7 +147,6 @@ void MainWndCtrl::addFiles(const QStringList &paths, int row) {
         m_tableview->setFocus(); // The keys of the list work at once.
     }
     insertEntries(std::move(entries), row);
-    m_bLoading = false;
 
     if (!m_filesArray->isEmpty()) {
         hasFileOpened(true);

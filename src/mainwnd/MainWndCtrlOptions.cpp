@@ -109,7 +109,7 @@ void MainWndCtrl::fitWindowToOptions(const QRect &before) {
         return;
     }
     m_optionsWidthInFrame += change;
-    takeOnLeastSize();
+    applyMinimumSize();
     const QRect after = own.adjusted(0, 0, change, 0);
     const QRect now = m_window->geometry();
     const QMargins frame(now.left() - m_window->frameGeometry().left(), 0,
@@ -124,7 +124,7 @@ void MainWndCtrl::fitWindowToOptions(const QRect &before) {
 
 /// Applies the minimum size of what the window shows now, before the window shrinks; by itself Qt
 /// applies it with the next event.
-void MainWndCtrl::takeOnLeastSize() {
+void MainWndCtrl::applyMinimumSize() {
     if (m_window->isVisible()) {
         m_skinedBackView->layout()->activate();
         m_window->layout()->activate();

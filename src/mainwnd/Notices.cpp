@@ -112,7 +112,7 @@ QTextEdit *scrollingText(const QLabel &text, const QSize &most) {
 
 /// The largest size of a notice's text: half the screen's height and two fifths of its width, at
 /// most 800 points.
-QSize mostOfText(const QScreen &screen) {
+QSize maxTextSize(const QScreen &screen) {
     const QSize size = screen.availableGeometry().size();
     return {std::min(size.width() * 2 / 5, 800), size.height() / 2};
 }
@@ -121,7 +121,7 @@ QSize mostOfText(const QScreen &screen) {
 /// may name thousands of files.
 void fitLongText(QMessageBox &box) {
     auto *text = box.findChild<QLabel *>(u"qt_msgbox_informativelabel"_s);
-    const QSize most = mostOfText(*box.screen());
+    const QSize most = maxTextSize(*box.screen());
     if (!text || (text->sizeHint().height() <= most.height() &&
                   text->minimumSizeHint().width() <= most.width())) {
         return;

@@ -2,6 +2,8 @@
 
 #include "pdf/ImageEmbedder.h"
 
+#include "image/Raster.h"
+
 #include <qpdf/QPDF.hh>
 
 #include <QCryptographicHash>
@@ -24,25 +26,6 @@ const char *filterName(ImageFilter filter) {
     return "/FlateDecode";
 }
 
-int componentsOf(ImageColor color) {
-    switch (color) {
-    case ImageColor::Rgb:
-    case ImageColor::Lab:
-        return 3;
-    case ImageColor::Cmyk:
-        return 4;
-    default:
-        return 1;
-    }
-}
-
-/// Whether an ICC profile is for the colour space `signature` (ICC.1:2010, 7.2).
-bool profileFits(const QByteArray &profile, const char *signature) {
-    constexpr qsizetype kHeaderSize = 128;
-    constexpr qsizetype kSpaceOffset = 16;
-    return profile.size() > kHeaderSize && profile.indexOf(signature, kSpaceOffset) == kSpaceOffset;
-}
-
 void addDecodeParms(QPDFObjectHandle &dictionary, const PdfImage &image) {
     auto parms = QPDFObjectHandle::newDictionary();
     if (image.filter == ImageFilter::CcittFax) {
@@ -52,7 +35,7 @@ void addDecodeParms(QPDFObjectHandle &dictionary, const PdfImage &image) {
         parms.replaceKey("/BlackIs1", QPDFObjectHandle::newBool(image.ccittBlackIs1));
     } else if (image.filter == ImageFilter::Flate && image.predictor > 1) {
         parms.replaceKey("/Predictor", QPDFObjectHandle::newInteger(image.predictor));
-        parms.replaceKey("/Colors", QPDFObjectHandle::newInteger(componentsOf(image.color)));
+        parms.replaceKey("/Colors", QPDFObjectHandle::newInteger(channelCount(image.color)));
         parms.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(image.bitsPerComponent));
         parms.replaceKey("/Columns", QPDFObjectHandle::newInteger(image.width));
     } else if (image.filter == ImageFilter::Dct && image.isPlainRgb) {
@@ -84,14 +67,17 @@ ImageEmbedder::ImageEmbedder(QPDF &document, StreamData &streams)
     , m_streams(streams) {}
 
 QPDFObjectHandle ImageEmbedder::profiled(const PdfImage &image, int components,
-                                         const char *alternate) {
+                                         const char *device) {
+    if (image.iccProfile.isEmpty()) {
+        return QPDFObjectHandle::newName(device);
+    }
     const QByteArray digest =
         QCryptographicHash::hash(image.iccProfile, QCryptographicHash::Sha256);
     auto known = m_profileIndex.constFind(digest);
     if (known == m_profileIndex.constEnd()) {
         auto dictionary = QPDFObjectHandle::newDictionary();
         dictionary.replaceKey("/N", QPDFObjectHandle::newInteger(components));
-        dictionary.replaceKey("/Alternate", QPDFObjectHandle::newName(alternate));
+        dictionary.replaceKey("/Alternate", QPDFObjectHandle::newName(device));
         auto space = QPDFObjectHandle::newArray();
         space.appendItem(QPDFObjectHandle::newName("/ICCBased"));
         space.appendItem(m_streams.deflated(dictionary, image.iccProfile));
@@ -104,11 +90,9 @@ QPDFObjectHandle ImageEmbedder::profiled(const PdfImage &image, int components,
 QPDFObjectHandle ImageEmbedder::colorSpace(const PdfImage &image) {
     switch (image.color) {
     case ImageColor::Gray:
-        return profileFits(image.iccProfile, "GRAY") ? profiled(image, 1, "/DeviceGray")
-                                                     : QPDFObjectHandle::newName("/DeviceGray");
+        return profiled(image, 1, "/DeviceGray");
     case ImageColor::Cmyk:
-        return profileFits(image.iccProfile, "CMYK") ? profiled(image, 4, "/DeviceCMYK")
-                                                     : QPDFObjectHandle::newName("/DeviceCMYK");
+        return profiled(image, 4, "/DeviceCMYK");
     case ImageColor::Lab:
         return labSpace();
     case ImageColor::FromJpx:
@@ -117,8 +101,7 @@ QPDFObjectHandle ImageEmbedder::colorSpace(const PdfImage &image) {
     case ImageColor::Indexed:
         break;
     }
-    auto rgb = profileFits(image.iccProfile, "RGB ") ? profiled(image, 3, "/DeviceRGB")
-                                                     : QPDFObjectHandle::newName("/DeviceRGB");
+    const auto rgb = profiled(image, 3, "/DeviceRGB");
     if (image.color == ImageColor::Rgb) {
         return rgb;
     }

@@ -28,7 +28,7 @@ class ImageEmbedder {
     QPDFObjectHandle makeStream(QPDFObjectHandle dictionary, const PdfImage &image);
     QPDFObjectHandle makeImage(const PdfImage &image);
     QPDFObjectHandle colorSpace(const PdfImage &image);
-    QPDFObjectHandle profiled(const PdfImage &image, int components, const char *alternate);
+    QPDFObjectHandle profiled(const PdfImage &image, int components, const char *device);
 
     QPDF &m_document;
     StreamData &m_streams;

@@ -14,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 
 namespace {
+/// Pages of 256 characters that cover all of Unicode.
 constexpr std::size_t kUnicodePages = 0x1100;
 } // namespace
 

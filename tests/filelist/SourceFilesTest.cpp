@@ -90,7 +90,7 @@ class SourceFilesTest : public QObject {
         QVERIFY(files.isEmpty());
     }
 
-    void anInterruptedProgramRemovesEveryStandIn() {
+    void anInterruptedProgramRemovesEveryReadableLink() {
         const QTemporaryDir parent;
         TemporaryFolder folder(parent.path());
         ReadableLinks readableLinks(folder);

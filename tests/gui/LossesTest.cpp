@@ -203,7 +203,7 @@ class LossesTest : public QObject {
     }
 
     void aPdfThatDoesNotGetSmallerIsNotReplaced() {
-        TestWindow w(QStringLiteral(FOLIOFORGE_BUNDLE_PATH));
+        TestWindow w(bundlePath());
         addTexts(w, 1);
         w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(3);
         const std::filesystem::path pdf = outPath(w, u"000.pdf"_s).toStdString();

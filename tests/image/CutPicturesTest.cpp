@@ -278,14 +278,13 @@ class CutPicturesTest : public QObject {
         return writeFile(m_folder.filePath(QString::number(++m_files) + name), bytes);
     }
 
-    void requireSameOrWords(const QString &name, const QByteArray &bytes,
-                            const QByteArray &damaged, const QString &note = {}) {
+    void requireSameOrWords(const QString &name, const QByteArray &bytes, const QByteArray &damaged,
+                            const QString &note = {}) {
         const PdfImage whole = toPdfImage(write(name, bytes));
         QVERIFY2(!saysDamaged(whole), qPrintable(warningsOf(whole).join(u'\n')));
         try {
             const PdfImage image = toPdfImage(write(name, damaged));
-            QVERIFY2(saysDamaged(image) || seen(image) == seen(whole),
-                     qPrintable(note));
+            QVERIFY2(saysDamaged(image) || seen(image) == seen(whole), qPrintable(note));
         } catch (const Error &error) {
             QVERIFY(!error.reason().isEmpty());
         }

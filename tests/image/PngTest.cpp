@@ -53,7 +53,7 @@ class PngTest : public QObject {
         QCOMPARE(framesOf(1, false), QStringList(u"more-pictures: 1 further frame is left out"_s));
     }
 
-    void filteredRowsAreDealtOutForEachChannel() {
+    void filteredRowsAreSplitByChannel() {
         // Each row of the picture asks for another filter, so that libpng uses them all.
         QImage picture(64, 40, QImage::Format_ARGB32);
         for (int y = 0; y < picture.height(); ++y) {

@@ -94,8 +94,8 @@ std::vector<UINT8> dcSymbols() {
 /// Gives each of `symbols` that `table` lacks a code of 16 bits, the longest there is. Their room
 /// comes from the last symbol of at most 7 bits, whose code grows by one: that frees 256 codes.
 void complete(JHUFF_TBL &table, const std::vector<UINT8> &symbols) {
-    constexpr int kLongest = 16;
-    int count = std::accumulate(table.bits + 1, table.bits + kLongest + 1, 0);
+    constexpr int kMaxLength = 16;
+    int count = std::accumulate(table.bits + 1, table.bits + kMaxLength + 1, 0);
     std::vector<UINT8> missing;
     std::copy_if(symbols.begin(), symbols.end(), std::back_inserter(missing), [&](UINT8 symbol) {
         return std::find(table.huffval, table.huffval + count, symbol) == table.huffval + count;
@@ -109,7 +109,7 @@ void complete(JHUFF_TBL &table, const std::vector<UINT8> &symbols) {
     }
     --table.bits[length];
     ++table.bits[length + 1];
-    table.bits[kLongest] = static_cast<UINT8>(table.bits[kLongest] + missing.size());
+    table.bits[kMaxLength] = static_cast<UINT8>(table.bits[kMaxLength] + missing.size());
     std::copy(missing.begin(), missing.end(), table.huffval + count);
 }
 

@@ -66,7 +66,7 @@ QByteArray withBitsReversed(QByteArray bytes) {
     return bytes;
 }
 
-PdfImage encodeGroup4(const FileView &file, const TiffFile &tiff, const TiffShape &shape) {
+PdfImage ownGroup4Data(const FileView &file, const TiffFile &tiff, const TiffShape &shape) {
     PdfImage image;
     image.width = shape.width;
     image.height = shape.height;
@@ -95,7 +95,7 @@ PdfImage toPdfImage(const FileView &file) {
     Raster raster = decodeTiff(tiff, shape, damage);
     // Group 4 data is kept where all of its rows could be decoded.
     PdfImage image = damage.isNone() && isPlainGroup4(tiff, shape)
-                         ? encodeGroup4(file, tiff, shape)
+                         ? ownGroup4Data(file, tiff, shape)
                          : encodeRaster(std::move(raster), header);
     image.header = header;
     if (damage.missing > 0) {

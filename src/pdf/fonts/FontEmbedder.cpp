@@ -12,8 +12,8 @@
 namespace folioforge {
 
 namespace {
-/// All of Unicode, and a page for kNoCharacter.
-constexpr std::size_t kUnicodePages = 0x1101;
+/// Pages of 256 characters that cover all of Unicode, and one for kNoCharacter.
+constexpr std::size_t kCharacterPages = 0x1101;
 
 void appendByte(GlyphCode &code, unsigned byte) {
     auto letter = static_cast<char>(byte);
@@ -44,7 +44,7 @@ FontEmbedder::FontEmbedder(QPDF &document, StreamData &streams,
     , m_streams(streams)
     , m_cascade(std::move(cascade))
     , m_prefix(std::move(prefix))
-    , m_codes(kUnicodePages) {}
+    , m_codes(kCharacterPages) {}
 
 std::string FontEmbedder::resourceName(std::uint16_t font) const {
     return '/' + m_prefix + std::to_string(font);

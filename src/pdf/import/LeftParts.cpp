@@ -58,12 +58,12 @@ bool hasScripts(const QPDFObjectHandle &catalog) {
 
 /// An XMP packet, as far as it is short enough to be looked through.
 std::optional<std::string> readPacket(QPDFObjectHandle metadata) {
-    constexpr qsizetype kLongest = 1 << 20;
-    constexpr qsizetype kLongestFiltered = 16 << 10; // It may unpack to a thousand times as much.
+    constexpr qsizetype kMaxLength = 1 << 20;
+    constexpr qsizetype kMaxFilteredLength = 16 << 10; // It may unpack to a thousand times as much.
     auto filter = metadata.getDict().getKey("/Filter");
     const bool several = filter.isArray() && filter.getArrayNItems() > 1;
     const auto length = statedLength(metadata.getDict().getKey("/Length"));
-    if (several || length > (filter.isNull() ? kLongest : kLongestFiltered)) {
+    if (several || length > (filter.isNull() ? kMaxLength : kMaxFilteredLength)) {
         return std::nullopt;
     }
     std::string packet;

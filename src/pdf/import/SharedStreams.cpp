@@ -42,8 +42,8 @@ class ObjectGraph {
         }
     }
 
-    /// What SharedStreams says, other objects among it.
-    [[nodiscard]] std::set<QPDFObjGen> ofEachCopy() const {
+    /// The objects that every copy of the document needs for itself, streams among them.
+    [[nodiscard]] std::set<QPDFObjGen> copiedEachTime() const {
         std::set<QPDFObjGen> objects = reachable(m_layered, m_users);
         objects.insert(m_appearances.begin(), m_appearances.end());
         for (const QPDFObjGen object : reachable(m_appearances, m_uses)) {
@@ -122,15 +122,15 @@ class ObjectGraph {
 } // namespace
 
 void SharedStreams::beginCopy(QPDF &source) {
-    if (!m_copies.empty() && !m_ofEachCopy) {
-        m_ofEachCopy = ObjectGraph(source).ofEachCopy();
+    if (!m_copies.empty() && !m_copiedEachTime) {
+        m_copiedEachTime = ObjectGraph(source).copiedEachTime();
     }
 }
 
 QPDFObjectHandle SharedStreams::find(QPDFObjGen stream) const {
     const auto found = m_copies.find(stream);
-    const bool ofEachCopy = m_ofEachCopy && m_ofEachCopy->contains(stream);
-    return found == m_copies.end() || ofEachCopy ? QPDFObjectHandle::newNull() : found->second;
+    const bool copiedEachTime = m_copiedEachTime && m_copiedEachTime->contains(stream);
+    return found == m_copies.end() || copiedEachTime ? QPDFObjectHandle::newNull() : found->second;
 }
 
 } // namespace folioforge

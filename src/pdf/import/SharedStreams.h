@@ -26,7 +26,7 @@ class SharedStreams {
 
   private:
     std::map<QPDFObjGen, QPDFObjectHandle> m_copies;
-    std::optional<std::set<QPDFObjGen>> m_ofEachCopy; ///< Known from the second copy on.
+    std::optional<std::set<QPDFObjGen>> m_copiedEachTime; ///< Known from the second copy on.
 };
 
 } // namespace folioforge
