@@ -108,9 +108,12 @@ Glyph FontCascade::findGlyph(char32_t character) const {
             return glyphOf(i, *id, character);
         }
     }
-    Glyph other = isControl ? findGlyph(U' ') : m_missing;
-    other.character = character;
-    return other;
+    if (isControl) {
+        return findGlyph(U' '); // Its character too: readers drop the text of a control character.
+    }
+    Glyph missing = m_missing;
+    missing.character = character;
+    return missing;
 }
 
 Glyph FontCascade::glyphOf(std::size_t face, std::uint16_t id, char32_t character) const {

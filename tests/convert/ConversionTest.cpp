@@ -342,6 +342,13 @@ class ConversionTest : public QObject {
         QCOMPARE(probe.text().trimmed(), QString());
     }
 
+    void aTabKeepsWordsApart() {
+        addText("a.txt", "left\tright");
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QVERIFY(outcome.entries[0].warnings.empty());
+        QCOMPARE(PdfProbe(outcome.close.path).text().trimmed(), u"left right"_s);
+    }
+
     void aTextWithBoxesIsWrittenWithAWarning() {
         addText("a.txt", "a \xEE\x84\xA3 b"); // U+E123, of private use
         const PDFOutcome outcome = convertTo(path("out/a.pdf"));

@@ -138,9 +138,8 @@ class FontCascadeTest : public QObject {
         QVERIFY(others->face(0).glyph(character));
         const Glyph glyph = cascade()->glyph(character);
         QCOMPARE(glyph.face, std::uint16_t{0});
-        QCOMPARE(glyph.id, cascade()->glyph(U' ').id);
+        QCOMPARE(glyph, cascade()->glyph(U' '));
         QCOMPARE(glyph.advance, 14.0 * 569 / 2048);
-        QCOMPARE(glyph.character, char32_t{character});
     }
 
     void aControlCharacterThatTheFirstFaceHasIsDrawnByIt() {

@@ -114,7 +114,7 @@ QStringList rowsByPrefixMeasure(QString rest, double usable) {
                 shown += prefix[i].isSurrogate() ? QChar(QChar::ReplacementCharacter) : prefix[i];
             }
         }
-        return shown;
+        return shown.replace(u'\t', u' '); // Which the font lacks.
     };
     QStringList rows;
     qsizetype k = 1;
