@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "cli/Arguments.h"
+#include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/Process.h"
-#include "cli/Run.h"
 #include "files/FileDescriptor.h"
 
 #include <QCoreApplication>

@@ -2,8 +2,6 @@
 
 #include "files/SourceFile.h"
 
-#include "error/Error.h"
-
 #include <QFile>
 
 #include <fcntl.h>
@@ -55,6 +53,10 @@ FileVersion versionOf(const QString &path, const FileDescriptor &descriptor) {
 }
 
 } // namespace
+
+Error fileEndsTooEarly() {
+    return Error(u"The file ends too early"_s);
+}
 
 void throwFileChanged(const QString &path) {
     throw Error(u"The file %1 was changed while it was being converted"_s.arg(path));
@@ -158,14 +160,14 @@ QByteArray FileView::read(qint64 at, qint64 length) const {
 QByteArray FileView::readExactly(qint64 at, qint64 length) const {
     QByteArray bytes = read(at, length);
     if (bytes.size() != length) {
-        throw Error(u"The file ends too early"_s);
+        throw fileEndsTooEarly();
     }
     return bytes;
 }
 
 FileView FileView::part(qint64 at, qint64 length) const {
     if (at < 0 || length < 0 || at > m_size || length > m_size - at) {
-        throw Error(u"The file ends too early"_s);
+        throw fileEndsTooEarly();
     }
     return {*m_file, m_offset + at, length};
 }

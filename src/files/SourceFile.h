@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "error/Error.h"
 #include "files/FileDescriptor.h"
 
 #include <QByteArray>
@@ -63,6 +64,9 @@ class SourceFile {
     /// move.
     std::unique_ptr<std::atomic<int>> m_failure = std::make_unique<std::atomic<int>>(0);
 };
+
+/// The Error for a file whose structure promises more bytes than it has.
+Error fileEndsTooEarly();
 
 /// Throws the Error for a file at `path` that changed while it was read.
 [[noreturn]] void throwFileChanged(const QString &path);

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "error/Error.h"
+#include "files/SourceFile.h"
 
 #include <QByteArrayView>
 #include <QtEndian>
@@ -14,7 +14,7 @@ namespace folioforge {
 /// The big-endian number of type T at byte `at`; throws Error when the bytes end before it.
 template<typename T> T bigEndianAt(QByteArrayView bytes, qsizetype at) {
     if (at < 0 || at > bytes.size() - static_cast<qsizetype>(sizeof(T))) {
-        throw Error(QStringLiteral("The file ends too early"));
+        throw fileEndsTooEarly();
     }
     return qFromBigEndian<T>(bytes.data() + at);
 }
@@ -22,7 +22,7 @@ template<typename T> T bigEndianAt(QByteArrayView bytes, qsizetype at) {
 /// The little-endian number of type T at byte `at`; throws Error when the bytes end before it.
 template<typename T> T littleEndianAt(QByteArrayView bytes, qsizetype at) {
     if (at < 0 || at > bytes.size() - static_cast<qsizetype>(sizeof(T))) {
-        throw Error(QStringLiteral("The file ends too early"));
+        throw fileEndsTooEarly();
     }
     return qFromLittleEndian<T>(bytes.data() + at);
 }

@@ -65,7 +65,7 @@ qint64 pixelsOf(const FileView &file, const DibHeader &dib) {
     const qint64 stated = littleEndianAt<qint32>(file.readExactly(0, kFileHeaderBytes), kPixelsAt);
     const qint64 at = std::max(stated - kFileHeaderBytes, dib.endOfColors());
     if (kFileHeaderBytes + at >= file.size()) {
-        throw Error(u"The file ends too early"_s);
+        throw fileEndsTooEarly();
     }
     return at;
 }
@@ -120,7 +120,7 @@ PdfImage toPdfImage(const FileView &file) {
     requireReadable(file, dib);
     Pixels pixels = readPixels(file, content, dib);
     if (pixels.missingRows >= dib.height) {
-        throw Error(u"The file ends too early"_s);
+        throw fileEndsTooEarly();
     }
     PdfImage image = encodeRaster(std::move(pixels.raster), header);
     if (pixels.missingRows > 0) {

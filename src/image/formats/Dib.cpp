@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstdlib>
 #include <utility>
 
@@ -79,7 +80,7 @@ class Channel {
         , m_scale(mask == 0 ? 0 : 255.0 / (mask >> m_shift)) {}
 
     [[nodiscard]] quint32 of(quint32 pixel) const {
-        return static_cast<quint32>(((pixel & m_mask) >> m_shift) * m_scale + 0.5);
+        return static_cast<quint32>(std::lround(((pixel & m_mask) >> m_shift) * m_scale));
     }
 
   private:

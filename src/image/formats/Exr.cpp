@@ -40,7 +40,7 @@ class ExrStream : public Imf::IStream {
         const qint64 got = m_file.readInto(
             m_at, {reinterpret_cast<uchar *>(target), static_cast<size_t>(std::max(size, 0))});
         if (got != size) {
-            throw Error(u"The file ends too early"_s);
+            throw fileEndsTooEarly();
         }
         m_at += got;
         return m_at < m_file.size();

@@ -88,7 +88,7 @@ QByteArray expandRuns(QByteArrayView packed, qsizetype size) {
             out.append(packed.sliced(at, count));
             at += count;
         } else {
-            throw Error(u"The file ends too early"_s);
+            throw fileEndsTooEarly();
         }
     }
     return out;

@@ -138,7 +138,7 @@ PdfImage imageOf(const Frame &frame) {
     const DibHeader &bitmap = *frame.bitmap;
     const qint64 missing = missingDibRows(frame.content, bitmap, bitmap.endOfColors());
     if (missing == bitmap.height) {
-        throw Error(u"The file ends too early"_s);
+        throw fileEndsTooEarly();
     }
     requirePlausible(bitmap.stride() * bitmap.height, frame.content.size(), 64);
     PdfImage image = encodeRaster(rasterOf(readBitmap(frame.content, bitmap)), frame.header);

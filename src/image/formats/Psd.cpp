@@ -217,7 +217,7 @@ Warnings readSamples(const FileView &file, const PsdMetadata &metadata, Raster &
     PlaneReader reader(file, metadata); // Which refuses a short file before there is memory for it.
     readPlanes(reader, metadata, raster);
     if (reader.missingRows() == reader.rows()) {
-        throw Error(u"The file ends too early"_s);
+        throw fileEndsTooEarly();
     }
     if (metadata.statesNoMergedImage && metadata.hasLayers && raster.bits >= 8 && isBlank(raster)) {
         throw Error(u"The Photoshop file holds its layers alone: save it with maximized "

@@ -213,7 +213,7 @@ PdfImage toPdfImage(const FileView &file) {
     QByteArray pixels = readPixels(file, tga);
     const qint64 missing = tga.height - pixels.size() / row;
     if (missing == tga.height) {
-        throw Error(u"The file ends too early"_s);
+        throw fileEndsTooEarly();
     }
     pixels.resize(row * tga.height, '\0');
     Raster raster;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "cli/Run.h"
+#include "cli/CommandLine.h"
 
 #include "cli/Console.h"
 #include "cli/Inputs.h"
