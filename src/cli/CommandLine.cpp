@@ -54,6 +54,10 @@ class Call : private RunObserver {
         std::vector<Input> accepted;
         QStringList refusedPdfs;
         for (Input &input : collectInputs(m_arguments.inputs, m_readableLinks)) {
+            if (!input.leftOut.empty()) {
+                report(InputResult::listed(input.shown, input.leftOut));
+                continue;
+            }
             if (input.rejection.isEmpty()) {
                 accepted.push_back(std::move(input));
                 continue;
@@ -133,7 +137,8 @@ class Call : private RunObserver {
     }
 
     void report(const InputResult &result) {
-        if (result.state != InputResult::State::Finished ||
+        using State = InputResult::State;
+        if (result.state == State::Failed || result.state == State::Rejected ||
             (m_arguments.strict && !result.warnings.empty())) {
             fail();
         }

@@ -8,7 +8,8 @@ QByteArray helpText() {
     return R"(Usage: folioforge-cli [options] FILE|FOLDER...
 
 Turns text files, pictures and PDFs into PDF documents, one for each or all in one.
-Of a folder its text files and pictures are taken, one level deep, ordered by name.
+Of a folder its text files and pictures are taken, one level deep, ordered by name; what
+else it holds is counted in a warning.
 
 Output
   --output-folder DIR          a PDF for each input, here (default: the current folder)

@@ -22,13 +22,6 @@ QByteArray withoutSlashesAtEnd(QByteArray path) {
     return path;
 }
 
-/// Sorted, so that the order is the same on every file system.
-std::vector<QByteArray> sortedNames(const QByteArray &folder) {
-    std::vector<QByteArray> names = recognisedNames(folder);
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
 /// The inputs as they are named, in their order, and the files among them.
 class Names {
   public:
@@ -49,7 +42,7 @@ class Names {
         std::vector<ReadEntry> entries = readEntries(m_files, TextReading::WhenWritten);
         auto next = entries.begin();
         for (Input &input : m_inputs) {
-            if (input.rejection.isEmpty()) {
+            if (input.rejection.isEmpty() && input.leftOut.empty()) {
                 input.entry = std::move(next->entry);
                 input.rejection = next->problem;
                 input.refusedPdf = next->refusedPdf;
@@ -68,7 +61,15 @@ class Names {
     void addFolder(const QByteArray &path) {
         const QByteArray folder = withoutSlashesAtEnd(path);
         try {
-            for (const QByteArray &name : sortedNames(folder)) {
+            FolderEntries found = listFolder(folder);
+            if (Warnings leftOut = found.warnings(); !leftOut.empty()) {
+                Input &input = m_inputs.emplace_back();
+                input.shown = QString::fromUtf8(path);
+                input.leftOut = std::move(leftOut);
+            }
+            // Sorted, so that the order is the same on every file system.
+            std::ranges::sort(found.names);
+            for (const QByteArray &name : found.names) {
                 addFile(folder + '/' + name);
             }
         } catch (const Error &error) {

@@ -21,11 +21,13 @@ struct Input {
     PDFFileInfo entry;
     QString rejection;       ///< Why it cannot be converted; empty when it can.
     bool refusedPdf = false; ///< Rejected as a PDF that is encrypted or no normal one.
+    Warnings leftOut;        ///< Only of a folder, which has no entry: what in it is no input.
 };
 
 /// The inputs that `paths` name, in that order. A folder stands for its text and image files in
-/// the order of their names' bytes. A file that is missing, of no recognised type or unreadable,
-/// and a folder that cannot be listed, is rejected with its reason.
+/// the order of their names' bytes, behind an input of its own where it holds more. A file that is
+/// missing, of no recognised type or unreadable, and a folder that cannot be listed, is rejected
+/// with its reason.
 std::vector<Input> collectInputs(std::span<const QByteArray> paths, ReadableLinks &readableLinks);
 
 /// Brings the inputs into `order`.

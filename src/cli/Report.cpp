@@ -24,6 +24,8 @@ QString nameOf(InputResult::State state) {
         return u"finished"_s;
     case InputResult::State::Failed:
         return u"failed"_s;
+    case InputResult::State::Listed:
+        return u"listed"_s;
     case InputResult::State::Rejected:
         break;
     }
@@ -110,6 +112,14 @@ InputResult InputResult::failed(const QString &input, const QString &reason) {
     failed.state = State::Failed;
     failed.reason = reason;
     return failed;
+}
+
+InputResult InputResult::listed(const QString &folder, const Warnings &leftOut) {
+    InputResult listed;
+    listed.input = folder;
+    listed.state = State::Listed;
+    listed.warnings = leftOut;
+    return listed;
 }
 
 InputResult InputResult::of(const QString &input, const RunResult &result, std::size_t index) {

@@ -19,7 +19,8 @@ struct InputResult {
     enum class State {
         Finished, ///< Its pages stand in `output`.
         Failed,   ///< It was accepted, but its pages or its PDF could not be written.
-        Rejected  ///< It did not enter the list.
+        Rejected, ///< It did not enter the list.
+        Listed    ///< A folder whose files stand for it.
     };
     QString input;
     QString output; ///< Path of its PDF; empty where there is none.
@@ -34,6 +35,8 @@ struct InputResult {
     static InputResult rejected(const QString &input, const QString &reason);
     /// The result of an input that was accepted and not begun for `reason`.
     static InputResult failed(const QString &input, const QString &reason);
+    /// The result of a folder of which something is left out.
+    static InputResult listed(const QString &folder, const Warnings &leftOut);
     /// The result of `input`, the entry at `index` of the PDF that `result` is about.
     static InputResult of(const QString &input, const RunResult &result, std::size_t index);
 };

@@ -13,29 +13,31 @@ namespace folioforge {
 
 /// What kind of loss a warning tells of. The manual page says what each means.
 enum class WarningCode {
-    TextNotUtf8,      ///< A text is not valid UTF-8.
-    TextUnreadable,   ///< A text could not be read when it was listed.
-    MissingGlyphs,    ///< No font of the system has a glyph for some characters.
-    PictureDamaged,   ///< A picture is cut off or damaged; what could be decoded is there.
-    MorePictures,     ///< A file holds more pictures than the one that was taken.
-    PdfWithoutPages,  ///< A source PDF has no page.
-    PdfRepaired,      ///< A source PDF is damaged and was repaired; its pages may lack something.
-    PdfPagesLost,     ///< A source PDF states or refers to pages that cannot be read.
-    PdfPartsLeft,     ///< A source PDF has parts that are not carried over.
-    SignatureRemoved, ///< A source PDF is signed, and the signature holds no longer.
-    PageSize,         ///< A page is smaller or larger than readers are required to show.
-    NotFlushed,       ///< The file system cannot flush a file to the disk.
+    FolderEntriesLeft, ///< A folder holds more than the texts and pictures that were taken.
+    TextNotUtf8,       ///< A text is not valid UTF-8.
+    TextUnreadable,    ///< A text could not be read when it was listed.
+    MissingGlyphs,     ///< No font of the system has a glyph for some characters.
+    PictureDamaged,    ///< A picture is cut off or damaged; what could be decoded is there.
+    MorePictures,      ///< A file holds more pictures than the one that was taken.
+    PdfWithoutPages,   ///< A source PDF has no page.
+    PdfRepaired,       ///< A source PDF is damaged and was repaired; its pages may lack something.
+    PdfPagesLost,      ///< A source PDF states or refers to pages that cannot be read.
+    PdfPartsLeft,      ///< A source PDF has parts that are not carried over.
+    SignatureRemoved,  ///< A source PDF is signed, and the signature holds no longer.
+    PageSize,          ///< A page is smaller or larger than readers are required to show.
+    NotFlushed,        ///< The file system cannot flush a file to the disk.
 };
 
 /// The names of the codes in reports, in the order of their declaration. They never change, because
 /// scripts read them.
 inline constexpr std::array kWarningNames{
-    QLatin1StringView("text-not-utf8"),  QLatin1StringView("text-unreadable"),
-    QLatin1StringView("missing-glyphs"), QLatin1StringView("picture-damaged"),
-    QLatin1StringView("more-pictures"),  QLatin1StringView("pdf-without-pages"),
-    QLatin1StringView("pdf-repaired"),   QLatin1StringView("pdf-pages-lost"),
-    QLatin1StringView("pdf-parts-left"), QLatin1StringView("signature-removed"),
-    QLatin1StringView("page-size"),      QLatin1StringView("not-flushed"),
+    QLatin1StringView("folder-entries-left"), QLatin1StringView("text-not-utf8"),
+    QLatin1StringView("text-unreadable"),     QLatin1StringView("missing-glyphs"),
+    QLatin1StringView("picture-damaged"),     QLatin1StringView("more-pictures"),
+    QLatin1StringView("pdf-without-pages"),   QLatin1StringView("pdf-repaired"),
+    QLatin1StringView("pdf-pages-lost"),      QLatin1StringView("pdf-parts-left"),
+    QLatin1StringView("signature-removed"),   QLatin1StringView("page-size"),
+    QLatin1StringView("not-flushed"),
 };
 static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::NotFlushed) + 1);
 

@@ -16,36 +16,57 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-bool isTakenFromFolders(const QString &name) {
-    const FileKind kind = fileKind(name);
-    return kind == FileKind::Text || kind == FileKind::Image;
+/// "1 folder", "2 folders"; nothing of none.
+QStringList counted(int count, const QString &one, const QString &several) {
+    if (count == 0) {
+        return {};
+    }
+    return {count == 1 ? one : several.arg(count)};
+}
+
+void count(const std::filesystem::directory_entry &entry, FolderEntries &found) {
+    const std::string name = entry.path().filename().string();
+    const FileKind kind = fileKind(QFile::decodeName(name.c_str()));
+    std::error_code unknown;
+    const bool isFolder = entry.is_directory(unknown);
+    if (!isFolder && (kind == FileKind::Text || kind == FileKind::Image)) {
+        found.names.push_back(QByteArray::fromStdString(name));
+    } else if (!name.starts_with('.')) {
+        ++(isFolder ? found.folders : kind == FileKind::Pdf ? found.pdfs : found.others);
+    }
 }
 
 } // namespace
 
-std::vector<QByteArray> recognisedNames(const QByteArray &folder) {
-    std::vector<QByteArray> names;
+Warnings FolderEntries::warnings() const {
+    const QStringList left =
+        counted(pdfs, u"1 PDF"_s, u"%1 PDFs"_s) + counted(folders, u"1 folder"_s, u"%1 folders"_s) +
+        counted(others, u"1 file of another type"_s, u"%1 files of other types"_s);
+    if (left.isEmpty()) {
+        return {};
+    }
+    return {{WarningCode::FolderEntriesLeft, u"Left out: "_s + left.join(u", "_s)}};
+}
+
+FolderEntries listFolder(const QByteArray &folder) {
+    FolderEntries found;
     std::error_code failure;
     std::filesystem::directory_iterator entry(folder.toStdString(), failure);
     while (!failure && entry != std::filesystem::directory_iterator()) {
-        const std::string name = entry->path().filename().string();
-        std::error_code unknown;
-        if (isTakenFromFolders(QFile::decodeName(name.c_str())) && !entry->is_directory(unknown)) {
-            names.push_back(QByteArray::fromStdString(name));
-        }
+        count(*entry, found);
         entry.increment(failure);
     }
     if (failure) {
         throw Error(u"The folder cannot be listed: %1"_s.arg(
             QString::fromLocal8Bit(failure.message().c_str())));
     }
-    return names;
+    return found;
 }
 
 void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &readableLinks) {
     const QByteArray place = QFile::encodeName(folder);
     try {
-        for (const QByteArray &name : recognisedNames(place)) {
+        for (const QByteArray &name : listFolder(place).names) {
             files += readableLinks.pathFor(place + '/' + name);
         }
     } catch (const Error &) {

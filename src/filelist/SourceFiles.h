@@ -3,6 +3,7 @@
 #pragma once
 
 #include "error/Notice.h"
+#include "error/Warning.h"
 #include "filelist/FileKind.h"
 
 #include <QByteArray>
@@ -15,13 +16,24 @@ namespace folioforge {
 
 class ReadableLinks;
 
-/// The names of the text and image files of `folder`, as the file system's own bytes: one level, in
-/// the file system's order, hidden ones too. PDF files and folders are left out. Throws Error when
-/// the folder cannot be listed to its end.
-std::vector<QByteArray> recognisedNames(const QByteArray &folder);
+/// What stands in a folder, one level deep.
+struct FolderEntries {
+    /// The text and image files, as the file system's own bytes, in its order, hidden ones too.
+    std::vector<QByteArray> names;
+    /// What is left out of a run, without hidden entries.
+    int pdfs = 0;
+    int folders = 0;
+    int others = 0;
 
-/// Appends to `files` the paths ("folder/name", or links to them) of what recognisedNames() gives;
-/// nothing where `folder` cannot be listed.
+    /// What is left out, counted in words; nothing where all is taken.
+    [[nodiscard]] Warnings warnings() const;
+};
+
+/// Lists `folder`. Throws Error when it cannot be listed to its end.
+FolderEntries listFolder(const QByteArray &folder);
+
+/// Appends to `files` the paths ("folder/name", or links to them) of the names that listFolder()
+/// gives; nothing where `folder` cannot be listed.
 void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &readableLinks);
 
 /// Size text of a file of `bytes` bytes, taken as a signed 32-bit number and rounded up to whole

@@ -200,6 +200,44 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QCOMPARE(outputs().join(u' '), u"b.pdf c.pdf"_s);
     }
 
+    void whatIsLeftOutOfAFolderIsCounted() {
+        QVERIFY(QDir(m_folder->path()).mkpath(u"in/sub"_s));
+        QVERIFY(QDir(m_folder->path()).mkpath(u"in/.hidden"_s));
+        for (const char *name : {"in/a.txt", "in/b.pdf", "in/c.PDF", "in/d.doc", "in/.DS_Store"}) {
+            text(name);
+        }
+        const ToolRun run = convert({u"--json"_s, path("in/")});
+        QCOMPARE(run.exitCode, 0);
+        const QString left = u"Left out: 2 PDFs, 1 folder, 1 file of another type"_s;
+        QCOMPARE(run.err,
+                 "folioforge-cli: " + path("in/").toUtf8() + ": warning: " + left.toUtf8() + '\n');
+        const auto objects = objectsOf(run.out);
+        QCOMPARE(objects.size(), 2);
+        QCOMPARE(member(objects[0], "input"), path("in/"));
+        QCOMPARE(member(objects[0], "state"), u"listed"_s);
+        const QJsonObject warning = objects[0][u"warnings"_s].toArray().at(0).toObject();
+        QCOMPARE(member(warning, "code"), u"folder-entries-left"_s);
+        QCOMPARE(member(warning, "text"), left);
+        QCOMPARE(outputs(), QStringList{u"a.pdf"_s});
+    }
+
+    void aFolderOfWhichNothingIsLeftOutIsNoInput() {
+        QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
+        text("in/a.txt");
+        const ToolRun run = convert({u"--json"_s, u"--strict"_s, path("in")});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(objectsOf(run.out).size(), 1);
+    }
+
+    void whatIsLeftOutOfAFolderFailsAStrictRun() {
+        QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
+        text("in/a.txt");
+        text("in/b.pdf");
+        QCOMPARE(convert({u"--strict"_s, path("in")}).exitCode, 1);
+        QCOMPARE(outputs(), QStringList{u"a.pdf"_s});
+    }
+
     void theFilesOfAFolderComeInTheOrderOfTheirNames() {
         QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
         for (const char *name : {"in/a.txt", "in/10.txt", "in/é.txt", "in/9.txt", "in/B.txt"}) {
