@@ -96,6 +96,8 @@ const std::vector<Option> &pageOptions() {
          [](Arguments &to, Value value) {
              to.options.imagePage.margins = parseMargins(textOf(value));
          }},
+        {"--strip-metadata", Option::Switch,
+         [](Arguments &to, Value) { to.options.stripMetadata = true; }},
         {"--sort", Option::Valued,
          [](Arguments &to, Value value) {
              to.sort = chosen<SortOrder>(textOf(value),

@@ -33,6 +33,8 @@ Pages, in points of 1/72 inch
   --text-margins T,R,B,L           (default 72,72,72,72; one number serves for all four)
   --image-page-size image|WxH      (default image: the page takes the picture's size)
   --image-margins T,R,B,L          (default 0,0,0,0)
+  --strip-metadata                 pictures go in without their Exif, XMP and comments, so
+                                   without the place where a photo was taken
 
 Order
   --sort name|natural|size|created|modified    (default: as given)

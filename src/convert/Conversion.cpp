@@ -45,7 +45,7 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
         break;
     case FileKind::Image:
     case FileKind::Other: {
-        WrittenImage image = addImagePage(entry, context, options.imagePage, options.calls);
+        WrittenImage image = addImagePage(entry, context, options);
         outcome.embeddedAs = image.embeddedAs;
         outcome.warnings = std::move(image.warnings);
         break;

@@ -32,6 +32,7 @@ struct ConversionOptions {
     SecuritySettings security;
     PageSetup textPage{TextPageA4, 0, 0, {72, 72, 72, 72}};
     PageSetup imagePage;
+    bool stripMetadata = false; ///< Exif, XMP and comments of pictures do not go in.
     /// The font of text pages; null for textFont().
     std::shared_ptr<const FontCascade> textFont;
     int compressIndex = 0; ///< 0 none, 1 "150m", 2 "96m", 3 "72l".

@@ -56,11 +56,13 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
     return warnings;
 }
 
-WrittenImage addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup,
-                          SystemCalls &calls) {
-    PdfImage image = toPdfImage(entry.filePathName(), calls);
+WrittenImage addImagePage(const PDFFileInfo &entry, PDFContext &context,
+                          const ConversionOptions &options) {
+    PdfImage image =
+        toPdfImage(entry.filePathName(), options.calls,
+                   options.stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep);
     WrittenImage written{image.embeddedAs, std::move(image.warnings)};
-    const ImagePlacement placement = placeImage(image.header.sizeInPoints(), setup);
+    const ImagePlacement placement = placeImage(image.header.sizeInPoints(), options.imagePage);
     context.beginPage(QRectF(QPointF(0, 0), placement.page));
     const int orientation = image.header.orientation;
     context.drawImage(placement.image, std::move(image), orientation);

@@ -26,10 +26,10 @@ struct WrittenImage {
     Warnings warnings; ///< What of the file is not on the page.
 };
 
-/// Adds one page with the image of `entry`, which is read through `calls`. Throws Error, no page
-/// begun, when the image cannot be read.
-WrittenImage addImagePage(const PDFFileInfo &entry, PDFContext &context, const PageSetup &setup,
-                          SystemCalls &calls = SystemCalls::system());
+/// Adds one page with the image of `entry`, which is read through the calls of `options`. Throws
+/// Error, no page begun, when the image cannot be read.
+WrittenImage addImagePage(const PDFFileInfo &entry, PDFContext &context,
+                          const ConversionOptions &options);
 
 /// Adds every page of the entry's PDF unchanged. Throws Error when it cannot be opened.
 AddedDocument addPDFFile(const PDFFileInfo &entry, PDFContext &context);

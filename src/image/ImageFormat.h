@@ -29,6 +29,9 @@ struct ImageFormat {
     ImageHeader (*readHeader)(const FileView &file);
     /// Reads the image together with its header. Throws Error.
     PdfImage (*toPdfImage)(const FileView &file);
+    /// Which parts of a file whose own bytes go into the PDF no reader needs, in order; null where
+    /// nothing but the compressed picture goes in.
+    std::vector<FileSlice> (*metadata)(const FileView &file) = nullptr;
 };
 
 /// Bytes at the start of a file by which formats recognise it.

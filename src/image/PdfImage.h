@@ -22,6 +22,10 @@ struct FileSlice {
     qint64 length = 0; ///< Bytes.
 };
 
+/// What is left of `slices` without `parts`, both in order.
+std::vector<FileSlice> slicesWithout(const std::vector<FileSlice> &slices,
+                                     const std::vector<FileSlice> &parts);
+
 /// Filter of an encoded image's data, in the PDF's terms (ISO 32000-1, 7.4).
 enum class ImageFilter { Flate, Dct, Jpx, CcittFax };
 
@@ -62,9 +66,14 @@ struct PdfImage {
     std::unique_ptr<PdfImage> softMask;
 };
 
+/// What becomes of that in a file's own bytes which no reader needs to show the picture: Exif with
+/// the place of a photo, XMP, comments. Orientation and density count in either case.
+enum class SourceMetadata { Keep, Strip };
+
 /// Reads the image at `path` and puts it into the form in which a PDF holds it: the file's own
 /// compressed bytes where a PDF can hold them, else decoded and compressed losslessly. Throws
 /// Error when the file cannot be read or decoded.
-PdfImage toPdfImage(const QString &path, SystemCalls &calls = SystemCalls::system());
+PdfImage toPdfImage(const QString &path, SystemCalls &calls = SystemCalls::system(),
+                    SourceMetadata metadata = SourceMetadata::Keep);
 
 } // namespace folioforge

@@ -62,6 +62,11 @@ class ArgumentsTest : public QObject {
         QCOMPARE(good({"a", "--title", "--quiet"}).options.info.title, u"--quiet"_s);
     }
 
+    void metadataIsStrippedOnRequest() {
+        QVERIFY(!good({"a"}).options.stripMetadata);
+        QVERIFY(good({"--strip-metadata", "a"}).options.stripMetadata);
+    }
+
     void documentInformationIsTaken() {
         const DocumentInfo info =
             good({"--title", "é", "--author", "b", "--subject", "c", "--keywords", "d", "a"})

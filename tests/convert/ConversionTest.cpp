@@ -7,6 +7,7 @@
 #include "support/Files.h"
 #include "support/InstalledFonts.h"
 #include "support/PdfProbe.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QColorSpace>
@@ -481,6 +482,17 @@ class ConversionTest : public QObject {
         convertTo(path("out/all.pdf"));
         QCOMPARE(test::readFile(path("a.txt")), text);
         QCOMPARE(test::readFile(pdf), bytes);
+    }
+
+    void metadataOfAPhotoIsLeftOutOnRequest() {
+        QByteArray photo = test::readFile(test::inSource(u"tests/data/image/photo.jpg"_s));
+        photo.insert(2, QByteArray("\xFF\xFE\0\x0Dour home 12", 15)); // A comment.
+        addFile(test::writeFile(path("a.jpg"), photo));
+        convertTo(path("out/kept.pdf"));
+        QVERIFY(test::readFile(path("out/kept.pdf")).contains("our home 12"));
+        m_options.stripMetadata = true;
+        convertTo(path("out/left.pdf"));
+        QVERIFY(!test::readFile(path("out/left.pdf")).contains("our home 12"));
     }
 
     void anImageThatChangedSinceItWasListedIsPlacedAsItIs() {

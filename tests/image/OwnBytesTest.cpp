@@ -3,7 +3,9 @@
 #include "DecodedImage.h"
 #include "support/TestUnit.h"
 
+#include <QTemporaryDir>
 #include <QTest>
+#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -89,10 +91,59 @@ class OwnBytesTest : public QObject {
         QCOMPARE(image.data.mid(image.data.indexOf("ihdr"), 18), header);
     }
 
+    void metadataStaysUnlessItIsToGo() {
+        const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
+        QCOMPARE(photo.mid(6, 5), QByteArray("JFIF\0", 5));
+        const QByteArray kept = segment(0xE2, QByteArray("ICC_PROFILE\0\1\1profile", 21)) +
+                                segment(0xEE, QByteArray("Adobe\0\x64\0\0\0\0\1", 12));
+        const QByteArray extras = segment(0xE1, QByteArray("Exif\0\0II*\0\x8\0\0\0\0\0", 16)) +
+                                  segment(0xE1, "http://ns.adobe.com/xap/1.0/") +
+                                  segment(0xE0, QByteArray("JFXX\0\x13", 6)) +
+                                  segment(0xE2, QByteArray("MPF\0II", 6)) +
+                                  segment(0xED, "Photoshop 3.0") + segment(0xFE, "a comment");
+        const QByteArray tail = "\xFF\xD8 a second picture with a place \xFF\xD9";
+        const QByteArray clean = photo.first(20) + kept + photo.mid(20);
+        const QByteArray file = photo.first(20) + extras + kept + photo.mid(20) + tail;
+        // Also a photo so large that it is not walked through otherwise.
+        const QByteArray more = segment(0xFE, QByteArray(0xFFF0, 'x')).repeated(17);
+        for (const QByteArray &source : {file, photo.first(2) + more + file.mid(2)}) {
+            const QString path = writeFile(m_folder.filePath(u"photo.jpg"_s), source);
+            QCOMPARE(dataOf(toPdfImage(path)), source);
+            QCOMPARE(dataOf(stripped(path)), clean);
+        }
+        // One that lacks its end marker is completed in memory.
+        const QString open =
+            writeFile(m_folder.filePath(u"open.jpg"_s), file.chopped(tail.size() + 2));
+        QCOMPARE(dataOf(stripped(open)), clean);
+    }
+
+    void boxesOfOtherProgramsStayUnlessTheyAreToGo() {
+        const QByteArray picture = bytesOf(imageFile(u"tiles.jp2"_s));
+        const QByteArray boxes("\0\0\0\x0Exml <place\0\0\0\x1Buuidsixteen bytes..GPS.", 14 + 27);
+        const qsizetype codes = picture.indexOf("jp2c") - 4;
+        const QByteArray source = picture.first(codes) + boxes + picture.mid(codes);
+        const QString path = writeFile(m_folder.filePath(u"place.jp2"_s), source);
+        QCOMPARE(dataOf(toPdfImage(path)), source);
+        QCOMPARE(dataOf(stripped(path)), picture);
+    }
+
     void jpeg2000InsideAnIconIsSplit() {
         const PdfImage image = toPdfImage(imageFile(u"jp2.icns"_s));
         QCOMPARE(image.filter, ImageFilter::Flate);
         QVERIFY(image.softMask != nullptr);
+    }
+
+  private:
+    QTemporaryDir m_folder;
+
+    static PdfImage stripped(const QString &path) {
+        return toPdfImage(path, SystemCalls::system(), SourceMetadata::Strip);
+    }
+
+    static QByteArray segment(uchar marker, const QByteArray &content) {
+        QByteArray length(2, '\0');
+        qToBigEndian(quint16(content.size() + 2), length.data());
+        return QByteArray(1, '\xFF') + char(marker) + length + content;
     }
 };
 

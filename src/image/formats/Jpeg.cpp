@@ -169,23 +169,6 @@ PdfImage describe(const JpegMetadata &metadata) {
     return image;
 }
 
-/// The file without these parts, which stand in order.
-std::vector<FileSlice> slicesWithout(const std::vector<FileSlice> &parts, const FileView &file) {
-    std::vector<FileSlice> slices;
-    qint64 at = 0;
-    const auto keepUpTo = [&](qint64 end) {
-        if (end > at) {
-            slices.push_back({file.offset() + at, end - at});
-        }
-    };
-    for (const FileSlice &part : parts) {
-        keepUpTo(part.offset);
-        at = part.offset + part.length;
-    }
-    keepUpTo(file.size());
-    return slices;
-}
-
 /// Decodes what cannot go in as it is.
 PdfImage decodedImage(const FileView &file, const JpegMetadata &metadata) {
     // Codes of a bit or two for a block of 64 pixels are the least that a file can take.
@@ -215,7 +198,12 @@ PdfImage toPdfImage(const FileView &file) {
     PdfImage image = describe(metadata);
     const JpegStructure structure = readJpegStructure(file, JpegWalk::Thrifty);
     if (isProcessOfPdf(metadata.frame) && structure.isWhole) {
-        image.slices = slicesWithout(structure.strays, file);
+        const qint64 start = file.offset();
+        std::vector<FileSlice> strays = structure.strays;
+        for (FileSlice &stray : strays) {
+            stray.offset += start;
+        }
+        image.slices = slicesWithout({{start, file.size()}}, strays);
         return image;
     }
     PdfImage decoded = decodedImage(file, metadata);
@@ -226,14 +214,16 @@ PdfImage toPdfImage(const FileView &file) {
     return decoded;
 }
 
+std::vector<FileSlice> metadata(const FileView &file) {
+    return readJpegStructure(file, JpegWalk::Whole).metadata;
+}
+
 } // namespace
 
 ImageFormat jpegFormat() {
-    return {ImageKind::Jpeg,
-            {QLatin1StringView("jpg"), QLatin1StringView("jpeg")},
-            recognises,
-            readHeader,
-            toPdfImage};
+    return {ImageKind::Jpeg, {QLatin1StringView("jpg"), QLatin1StringView("jpeg")},
+            recognises,      readHeader,
+            toPdfImage,      metadata};
 }
 
 } // namespace folioforge

@@ -106,7 +106,8 @@ PdfImage toPdfImage(const FileView &file) {
 } // namespace
 
 ImageFormat jpeg2000Format() {
-    return {ImageKind::Jpeg2000, {QLatin1StringView("jp2")}, recognises, readHeader, toPdfImage};
+    return {ImageKind::Jpeg2000, {QLatin1StringView("jp2")}, recognises, readHeader, toPdfImage,
+            jpeg2000Extras};
 }
 
 } // namespace folioforge

@@ -10,6 +10,7 @@
 #include <QByteArray>
 
 #include <optional>
+#include <vector>
 
 namespace folioforge {
 
@@ -40,6 +41,9 @@ struct Jpeg2000Metadata {
 
 /// Reads the boxes, or the size marker of a bare codestream. Throws Error.
 Jpeg2000Metadata readJpeg2000Metadata(const FileView &file);
+
+/// The boxes around the picture that say more than it needs: XML, and those of other programs.
+std::vector<FileSlice> jpeg2000Extras(const FileView &file);
 
 /// How a codestream is put together.
 struct Jpeg2000Structure {

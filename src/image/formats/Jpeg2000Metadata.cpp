@@ -16,6 +16,7 @@ namespace folioforge {
 namespace {
 
 constexpr double kMetresPerInch = 0.0254;
+constexpr QByteArrayView kCodestreamStart("\xFF\x4F");
 constexpr quint32 kMaxPixels = 0x7FFFFFFF;
 
 struct Box {
@@ -199,9 +200,24 @@ bool Jpeg2000Metadata::needsDecoding() const {
     return isReordered || alphaChannel >= 0 || components == 2 || components > maxColors();
 }
 
+std::vector<FileSlice> jpeg2000Extras(const FileView &file) {
+    std::vector<FileSlice> extras;
+    if (file.read(0, 2) == kCodestreamStart) {
+        return extras;
+    }
+    for (qint64 at = 0; at + 8 <= file.size();) {
+        const Box box = boxAt(file, at);
+        if (box.type == "uuid" || box.type == "xml " || box.type == "uinf") {
+            extras.push_back({at, box.next - at});
+        }
+        at = box.next;
+    }
+    return extras;
+}
+
 Jpeg2000Metadata readJpeg2000Metadata(const FileView &file) {
     Jpeg2000Metadata metadata;
-    if (file.read(0, 2) == "\xFF\x4F") {
+    if (file.read(0, 2) == kCodestreamStart) {
         readSizeMarker(file, metadata);
     } else {
         readBoxes(file, 0, metadata);
