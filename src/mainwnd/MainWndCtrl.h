@@ -203,6 +203,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void showProgress(float value);
     void entryDone(int row, bool written);
     void PDFCreated(const PDFOutcome &outcome);
+    void showRemarks(const PDFOutcome &outcome);
     void noteProblem(const QString &problem);
     void endRun();
     void startWorker(std::function<void()> work);
@@ -232,11 +233,12 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     std::optional<PDFDocument> m_pdfDoc;
     bool m_bConverting = false;
     std::optional<ConvertInfo> m_convertInfoDict;
-    int m_fileIndex = 0;      ///< The entry being converted.
-    std::optional<Run> m_run; ///< The entries and options as they stood when the run began.
-    std::stop_source m_stop;  ///< Stops the run.
-    QStringList m_problems;   ///< Lines of the notice at the end of the run.
-    bool m_bWorking = false;  ///< The worker has not yet handed over what it makes.
+    int m_fileIndex = 0;           ///< The entry being converted.
+    std::optional<Run> m_run;      ///< The entries and options as they stood when the run began.
+    std::stop_source m_stop;       ///< Stops the run.
+    QStringList m_problems;        ///< Lines of the notice at the end of the run.
+    bool m_documentWarned = false; ///< What CloseResult::warnings says is said in this run.
+    bool m_bWorking = false;       ///< The worker has not yet handed over what it makes.
     TemporaryFolder m_temporaryFolder;
     ReadableLinks m_readableLinks{m_temporaryFolder};
     std::jthread m_worker; ///< The last member: it ends before anything else goes.

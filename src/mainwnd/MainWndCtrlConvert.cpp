@@ -45,12 +45,12 @@ int pagesOf(const PDFOutcome &outcome) {
                            [](int sum, const EntryOutcome &entry) { return sum + entry.pages; });
 }
 
-QStringList remarksOn(const EntryOutcome &entry) {
+QStringList remarksOf(const QString &reason, const Warnings &warnings) {
     QStringList remarks;
-    if (!entry.reason.isEmpty()) {
-        remarks += entry.reason;
+    if (!reason.isEmpty()) {
+        remarks += reason;
     }
-    for (const Warning &warning : entry.warnings) {
+    for (const Warning &warning : warnings) {
         remarks += warning.text;
     }
     return remarks;
@@ -101,6 +101,7 @@ void MainWndCtrl::clickBtnCreate() {
     m_run.emplace(m_filesArray->entries(), std::move(options), m_services.bundlePath,
                   m_stop.get_token());
     m_fileIndex = 0;
+    m_documentWarned = false;
     m_filesArray->setStateIndexOfAll(Waiting);
     m_bConverting = true;
     showAlertView();
@@ -155,10 +156,7 @@ void MainWndCtrl::entryDone(int row, bool written) {
 /// An entry whose PDF failed waits again.
 void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
     m_bWorking = false;
-    int row = m_fileIndex;
-    for (const EntryOutcome &entry : outcome.entries) {
-        m_filesArray->setRemarks(row++, remarksOn(entry));
-    }
+    showRemarks(outcome);
     if (outcome.close.status == CloseResult::Status::Failed && !hasNothingToWrite(outcome)) {
         noteProblem(outcome.close.reason);
     }
@@ -178,6 +176,19 @@ void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
     }
     m_destFilePathName.clear();
     compressCompleted();
+}
+
+/// What the file system does not do is the same for every PDF, and said of the first.
+void MainWndCtrl::showRemarks(const PDFOutcome &outcome) {
+    int row = m_fileIndex;
+    for (const EntryOutcome &entry : outcome.entries) {
+        QStringList remarks = remarksOf(entry.reason, entry.warnings);
+        if (!m_documentWarned) {
+            remarks += remarksOf({}, outcome.close.warnings);
+            m_documentWarned = !outcome.close.warnings.empty();
+        }
+        m_filesArray->setRemarks(row++, remarks);
+    }
 }
 
 /// Keeps what is to be said of the PDF being written for the end of the run.

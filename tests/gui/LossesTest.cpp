@@ -10,14 +10,33 @@
 #include <QIcon>
 #include <QTextDocumentFragment>
 
+#include <atomic>
+#include <cerrno>
 #include <csignal>
 #include <filesystem>
 
 #include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
+
+namespace {
+
+std::atomic<bool> cannotFlush = false;
+
+} // namespace
+
+/// Takes the place of the system's: fails, as on a file system that cannot flush.
+extern "C" int fsync(int descriptor) {
+    if (cannotFlush) {
+        errno = EINVAL;
+        return -1;
+    }
+    return static_cast<int>(::syscall(SYS_fsync, descriptor));
+}
 
 namespace {
 
@@ -216,6 +235,18 @@ class LossesTest : public QObject {
         run(w);
         QCOMPARE(w.states(), u"000.pdf"_s);
         QVERIFY(std::filesystem::equivalent(pdf, first));
+    }
+
+    void aFileSystemThatCannotFlushIsNamedOnceInARun() {
+        TestWindow w;
+        addTexts(w, 2);
+        for (int time = 0; time < 2; ++time) {
+            cannotFlush = true;
+            run(w);
+            cannotFlush = false;
+            QVERIFY2(saidOf(w, 0).contains(u"flush"_s), qPrintable(saidOf(w, 0)));
+            QVERIFY(!isMarked(w, 1));
+        }
     }
 
     void theNoticeOfARunIsNotThatOfTheNext() {
