@@ -175,6 +175,9 @@ QImage decoded(const PdfImage &image) {
         picture = decodedFlate(image);
     }
     if (!image.decode.empty() && image.decode.front() == 1.0) {
+        if (picture.colorCount() > 0) {
+            picture.convertTo(QImage::Format_RGB32); // Else numbers of colours are inverted.
+        }
         picture.invertPixels();
     }
     return picture;

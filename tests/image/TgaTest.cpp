@@ -57,6 +57,18 @@ class TgaTest : public QObject {
         QCOMPARE(qGray(decoded(image).pixel(1, 0)), 10);
     }
 
+    void colorMapOfGreyGivesGrey() {
+        const QByteArray rest = QByteArray::fromHex("10f0") + QByteArray("\1\2\1\2\1\2", 6);
+        const PdfImage image = toPdfImage(tga("01010100020008", 8, 0x20, rest));
+        QCOMPARE(rgbRows(image).toHex(), QByteArray("101010f0f0f0").repeated(3));
+    }
+
+    void oneBitIsBlackOrWhite() {
+        const PdfImage image =
+            toPdfImage(tga("00030000000000", 1, 0x20, QByteArray::fromHex("a040")));
+        QCOMPARE(rgbRows(image).toHex(), QByteArray("ffffff000000ffffff000000ffffff000000"));
+    }
+
     void fiveBitColorsAreWidened() {
         const PdfImage image = toPdfImage(
             tga("00020000000000", 16, 0x20, QByteArray::fromHex("007ce0031f00ff7f00000042")));

@@ -57,6 +57,26 @@ class TiffTest : public QObject {
         QCOMPARE(samples[3], quint16(65535));
     }
 
+    void samplesOf24BitsBecome16_data() {
+        QTest::addColumn<QByteArray>("mode");
+        QTest::addColumn<QByteArray>("pixels");
+        QTest::newRow("little-endian") << QByteArray("wl") << QByteArray::fromHex("563412ffffff");
+        QTest::newRow("big-endian") << QByteArray("wb") << QByteArray::fromHex("123456ffffff");
+    }
+
+    void samplesOf24BitsBecome16() {
+        QFETCH(const QByteArray, mode);
+        QFETCH(const QByteArray, pixels);
+        const QString path = tiff(
+            2, 1, pixels, [](TIFF *tif) { setSamples(tif, 1, 24, PHOTOMETRIC_MINISBLACK); },
+            mode.constData());
+        const QImage picture =
+            decoded(toPdfImage(path)).convertToFormat(QImage::Format_Grayscale16);
+        const auto *samples = reinterpret_cast<const quint16 *>(picture.constScanLine(0));
+        QCOMPARE(samples[0], quint16(0x1234));
+        QCOMPARE(samples[1], quint16(0xFFFF));
+    }
+
     void opacityIsTakenOutOfTheColorsItMultiplies() {
         const QByteArray pixels = QByteArray::fromHex("40200080"
                                                       "ff8000ff");
@@ -70,6 +90,19 @@ class TiffTest : public QObject {
         QCOMPARE(qGray(decoded(*image.softMask).pixel(0, 0)), 128);
         QCOMPARE(decoded(image).pixel(0, 0), qRgb(128, 64, 0)); // 64 and 32 of 128.
         QCOMPARE(decoded(image).pixel(1, 0), qRgb(255, 128, 0));
+    }
+
+    void opacityMultipliesNoNumbersOfColors() {
+        const QString path = tiff(2, 1, QByteArray::fromHex("028001ff"), [](TIFF *tif) {
+            setSamples(tif, 2, 8, PHOTOMETRIC_PALETTE);
+            uint16_t kind = EXTRASAMPLE_ASSOCALPHA;
+            TIFFSetField(tif, TIFFTAG_EXTRASAMPLES, 1, &kind);
+            std::vector<uint16_t> levels(256);
+            levels[1] = 0x1000;
+            levels[2] = 0x2000;
+            TIFFSetField(tif, TIFFTAG_COLORMAP, levels.data(), levels.data(), levels.data());
+        });
+        QCOMPARE(rgbRows(toPdfImage(path)).toHex(), QByteArray("202020101010"));
     }
 
     void subsampledColorBecomesRgb() {
@@ -208,9 +241,10 @@ class TiffTest : public QObject {
 
     /// One strip of `data`; `setUp` adds what the picture needs.
     template<typename SetUp>
-    QString tiff(int width, int height, QByteArray data, const SetUp &setUp) {
+    QString tiff(int width, int height, QByteArray data, const SetUp &setUp,
+                 const char *mode = "w") {
         QString path = m_folder.filePath(u"picture.tif"_s);
-        const std::unique_ptr<TIFF, Close> tif(TIFFOpen(QFile::encodeName(path).constData(), "w"));
+        const std::unique_ptr<TIFF, Close> tif(TIFFOpen(QFile::encodeName(path).constData(), mode));
         TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, width);
         TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, height);
         TIFFSetField(tif.get(), TIFFTAG_ROWSPERSTRIP, height);

@@ -44,11 +44,14 @@ bool isColorDepth(int bits) {
 }
 
 void requireKnown(const TgaHeader &tga) {
-    const bool known = tga.type == Mapped ? (tga.pixelBits == 8 || tga.pixelBits == 16) &&
-                                                isColorDepth(tga.mapEntryBits) && tga.mapLength > 0
-                       : tga.type == TrueColor ? isColorDepth(tga.pixelBits)
-                                               : tga.type == BlackAndWhite &&
-                                                     (tga.pixelBits == 8 || tga.pixelBits == 16);
+    const bool isMapKnown = isColorDepth(tga.mapEntryBits) || tga.mapEntryBits == 8;
+    const bool isOneBit = tga.pixelBits == 1 && !tga.runLength; // Rows padded to whole bytes.
+    const bool known =
+        tga.type == Mapped
+            ? (tga.pixelBits == 8 || tga.pixelBits == 16) && isMapKnown && tga.mapLength > 0
+        : tga.type == TrueColor
+            ? isColorDepth(tga.pixelBits)
+            : tga.type == BlackAndWhite && (tga.pixelBits == 8 || tga.pixelBits == 16 || isOneBit);
     if (!known || tga.width == 0 || tga.height == 0) {
         throw Error(u"The file is no TGA image that can be read"_s);
     }
@@ -100,12 +103,28 @@ QByteArray expandRuns(QByteArrayView packed, qsizetype size, int pixelBytes) {
     return out;
 }
 
+/// Pixels of a bit each as bytes.
+QByteArray expandBits(const QByteArray &rows, const TgaHeader &tga) {
+    const qsizetype stride = rowBytes(tga.width, 1, 1);
+    QByteArray pixels;
+    for (qsizetype at = 0; at + stride <= rows.size(); at += stride) {
+        const auto *row = reinterpret_cast<const uchar *>(rows.constData()) + at;
+        for (int x = 0; x < tga.width; ++x) {
+            pixels.append(packedSample(row, x, 1) == 1 ? '\xFF' : '\0');
+        }
+    }
+    return pixels;
+}
+
 /// As many of the pixels' bytes as the file has.
 QByteArray readPixels(const FileView &file, const TgaHeader &tga) {
     const qint64 size = qint64(tga.width) * tga.height * tga.pixelBytes();
     // 128 pixels of a run take one byte and a pixel. Of a file that was cut off, what is there is
     // shown.
     requirePlausible(size, file.size(), 128);
+    if (tga.pixelBits == 1) {
+        return expandBits(file.read(tga.dataOffset, tga.height * rowBytes(tga.width, 1, 1)), tga);
+    }
     if (!tga.runLength) {
         return file.read(tga.dataOffset, size);
     }
@@ -117,6 +136,9 @@ using Rgba = std::array<uchar, 4>;
 /// A colour as the file stores it: blue, green, red and opacity, or five bits of each. The fourth
 /// byte is opacity though the header declares none: few writers of 32 bits do.
 Rgba colorAt(const uchar *bytes, int bits, int alphaBits) {
+    if (bits == 8) {
+        return {bytes[0], bytes[0], bytes[0], 0xFF};
+    }
     if (bits == 15 || bits == 16) {
         const int value = bytes[0] | (bytes[1] << 8);
         const auto wide = [](int five) { return static_cast<uchar>((five << 3) | (five >> 2)); };

@@ -40,8 +40,9 @@ bool hasSamplesOfPdf(const TiffFile &tiff, const TiffShape &shape) {
     if (shape.samples < channelCount(colorOf(shape)) || shape.bits < 1) {
         return false;
     }
+    const bool isFloat = shape.sampleFormat == SAMPLEFORMAT_IEEEFP;
     const bool isDepthOfNumbers = shape.bits <= 16 || shape.bits == 32 ||
-                                  (shape.bits == 64 && shape.sampleFormat == SAMPLEFORMAT_IEEEFP);
+                                  (shape.bits == 24 && !isFloat) || (shape.bits == 64 && isFloat);
     switch (shape.photometric) {
     case PHOTOMETRIC_PALETTE:
         return shape.bits <= 8;
@@ -128,6 +129,9 @@ class SampleReader {
             value = qFromUnaligned<quint16>(row + place * 2);
         } else if (m_shape.bits == 32) {
             value = qFromUnaligned<quint32>(row + place * 4);
+        } else if (m_shape.bits == 24 && QSysInfo::ByteOrder == QSysInfo::LittleEndian) {
+            row += place * 3;
+            value = row[0] | quint32(row[1]) << 8 | quint32(row[2]) << 16;
         } else {
             const qsizetype first = place * m_shape.bits;
             for (qsizetype bit = first; bit < first + m_shape.bits; ++bit) {
@@ -144,8 +148,8 @@ class SampleReader {
         if (m_shape.photometric == PHOTOMETRIC_PALETTE || m_shape.bits == 8 || m_shape.bits == 16) {
             return static_cast<int>(value);
         }
-        if (m_shape.bits == 32) {
-            return static_cast<int>(value >> 16);
+        if (m_shape.bits > 16) {
+            return static_cast<int>(value >> (m_shape.bits - 16));
         }
         const quint32 maxValue = (1U << m_shape.bits) - 1;
         const quint32 full = m_shape.bits < 8 ? 0xFF : 0xFFFF;
@@ -186,7 +190,8 @@ void unpackSamples(const std::vector<TiffPlane> &planes, const TiffShape &shape,
             }
         }
     }
-    if (alpha.associated) {
+    // Numbers of colours are multiplied by nothing.
+    if (alpha.associated && raster.color != ImageColor::Indexed) {
         unpremultiply(raster);
     }
 }
