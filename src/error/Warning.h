@@ -21,7 +21,7 @@ enum class WarningCode {
     MorePictures,      ///< A file holds more pictures than the one that was taken.
     PdfWithoutPages,   ///< A source PDF has no page.
     PdfRepaired,       ///< A source PDF is damaged and was repaired; its pages may lack something.
-    PdfPagesLost,      ///< A source PDF states or refers to pages that cannot be read.
+    PdfPagesLost,      ///< Pages of a source PDF cannot be read, in whole or in part.
     PdfPartsLeft,      ///< A source PDF has parts that are not carried over.
     SignatureRemoved,  ///< A source PDF is signed, and the signature holds no longer.
     PageSize,          ///< A page is smaller or larger than readers are required to show.

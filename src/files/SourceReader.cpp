@@ -61,6 +61,14 @@ void SourceReader::requireNoFailure() const {
     }
 }
 
+void SourceReader::fail(const QString &reason) {
+    leaveFile();
+    if (!m_failure) {
+        m_failure = reason;
+    }
+    throw Error(reason);
+}
+
 void SourceReader::finishFile() {
     if (m_open) {
         m_open->requireUnchanged();
@@ -108,11 +116,7 @@ template<typename Step> auto SourceReader::keepingFailure(const Step &step) {
     try {
         return step();
     } catch (const Error &error) {
-        leaveFile();
-        if (!m_failure) {
-            m_failure = error.reason();
-        }
-        throw;
+        fail(error.reason());
     }
 }
 
@@ -142,8 +146,7 @@ std::span<const char> SourceReader::view(const FileVersion &file, qint64 offset,
     }
     const std::span<char> target(m_view.data(), static_cast<std::size_t>(size));
     if (read(file, offset, target) != target.size()) {
-        m_failure = u"The file %1 ended too early"_s.arg(file.path);
-        throw Error(*m_failure);
+        fail(u"The file %1 ended too early"_s.arg(file.path));
     }
     return target;
 }

@@ -35,6 +35,8 @@ class SourceReader {
     /// The first Error of read() since beginAnew(), which a library on the way may have taken for
     /// damage.
     [[nodiscard]] const std::optional<QString> &failure() const { return m_failure; }
+    /// Throws an Error of that reason, as if the file could not be read.
+    [[noreturn]] void fail(const QString &reason);
     /// Throws that Error where there was one.
     void requireNoFailure() const;
 

@@ -10,6 +10,8 @@
 #define ZLIB_CONST // Its input is not changed.
 #include <zlib.h>
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <memory>
 #include <new>
@@ -44,14 +46,32 @@ struct FreeDecompressor {
 };
 using Decompressor = std::unique_ptr<libdeflate_decompressor, FreeDecompressor>;
 
-libdeflate_result inflateInto(QByteArrayView bytes, QByteArray &target, size_t &written) {
-    const Decompressor decompressor(libdeflate_alloc_decompressor());
+Decompressor newDecompressor() {
+    Decompressor decompressor(libdeflate_alloc_decompressor());
     if (!decompressor) {
         throw std::bad_alloc();
     }
+    return decompressor;
+}
+
+libdeflate_result inflateInto(QByteArrayView bytes, QByteArray &target, size_t &written) {
+    const Decompressor decompressor = newDecompressor();
     return libdeflate_zlib_decompress(decompressor.get(), bytes.data(),
                                       static_cast<size_t>(bytes.size()), target.data(),
                                       static_cast<size_t>(target.size()), &written);
+}
+
+/// Gives `out` more and more room, up to `limit`, until `inflate` has enough.
+template<typename Inflate>
+libdeflate_result withRoom(QByteArray &out, qsizetype packed, qsizetype limit,
+                           const Inflate &inflate) {
+    for (qsizetype size = std::max<qsizetype>(packed * 4, 4096);; size *= 4) {
+        out = QByteArray(std::min(size, limit), Qt::Uninitialized);
+        const libdeflate_result result = inflate();
+        if (result != LIBDEFLATE_INSUFFICIENT_SPACE || size >= limit) {
+            return result;
+        }
+    }
 }
 
 } // namespace
@@ -127,19 +147,38 @@ InflatedPart inflatePartly(QByteArrayView bytes, qsizetype size) {
 }
 
 QByteArray inflateUpTo(QByteArrayView bytes, qsizetype limit) {
-    for (qsizetype size = std::min<qsizetype>(std::max<qsizetype>(bytes.size() * 4, 4096), limit);;
-         size = std::min(size * 4, limit)) {
-        QByteArray out(size, Qt::Uninitialized);
-        size_t written = 0;
-        const libdeflate_result result = inflateInto(bytes, out, written);
-        if (result == LIBDEFLATE_SUCCESS) {
-            out.truncate(static_cast<qsizetype>(written));
-            return out;
-        }
-        if (result != LIBDEFLATE_INSUFFICIENT_SPACE || size == limit) {
-            throw Error(u"The compressed data is damaged"_s);
-        }
+    QByteArray out;
+    size_t written = 0;
+    const auto inflate = [&] { return inflateInto(bytes, out, written); };
+    if (withRoom(out, bytes.size(), limit, inflate) != LIBDEFLATE_SUCCESS) {
+        throw Error(u"The compressed data is damaged"_s);
     }
+    out.truncate(static_cast<qsizetype>(written));
+    return out;
+}
+
+bool isDamagedZlib(QByteArrayView bytes, qsizetype limit) {
+    constexpr qsizetype kHeader = 2;
+    constexpr qsizetype kChecksum = 4;
+    if (bytes.size() < kHeader) {
+        return true;
+    }
+    const Decompressor decompressor = newDecompressor();
+    const QByteArrayView packed = bytes.sliced(kHeader);
+    QByteArray out;
+    size_t read = 0;
+    size_t written = 0;
+    const auto result = withRoom(out, bytes.size(), limit, [&] {
+        return libdeflate_deflate_decompress_ex(decompressor.get(), packed.data(),
+                                                static_cast<size_t>(packed.size()), out.data(),
+                                                static_cast<size_t>(out.size()), &read, &written);
+    });
+    if (result != LIBDEFLATE_SUCCESS) {
+        return result != LIBDEFLATE_INSUFFICIENT_SPACE;
+    }
+    const QByteArrayView checksum = packed.sliced(static_cast<qsizetype>(read));
+    return checksum.size() >= kChecksum && qFromBigEndian<quint32>(checksum.data()) !=
+                                               libdeflate_adler32(1, out.constData(), written);
 }
 
 } // namespace folioforge

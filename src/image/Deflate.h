@@ -56,4 +56,8 @@ InflatedPart inflatePartly(QByteArrayView bytes, qsizetype size);
 /// or holds more than `limit` bytes.
 QByteArray inflateUpTo(QByteArrayView bytes, qsizetype limit);
 
+/// Whether the zlib stream `bytes` is cut off or does not match its checksum, which may be missing.
+/// One that holds more than `limit` bytes counts as whole. Throws std::bad_alloc.
+bool isDamagedZlib(QByteArrayView bytes, qsizetype limit);
+
 } // namespace folioforge

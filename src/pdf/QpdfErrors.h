@@ -9,11 +9,16 @@
 #include <qpdf/QPDFExc.hh>
 
 #include <QByteArray>
+#include <QString>
 
 #include <algorithm>
 #include <stdexcept>
+#include <vector>
 
 namespace folioforge {
+
+/// What is wrong, such as "an object is not well formed (object 7)": a part of a sentence.
+QString inWords(const QPDFExc &error);
 
 /// Runs `work` and turns what libqpdf throws into Error. No other place handles its exceptions.
 template<typename Work> auto translateQpdfErrors(Work &&work) -> decltype(work()) {
@@ -22,11 +27,11 @@ template<typename Work> auto translateQpdfErrors(Work &&work) -> decltype(work()
     } catch (const Error &) {
         throw;
     } catch (const QPDFExc &error) {
-        throw Error(QString::fromStdString(error.getMessageDetail()));
+        throw Error(QStringLiteral("The document is damaged: %1").arg(inWords(error)));
     } catch (const std::bad_alloc &) {
         throw notEnoughMemory();
-    } catch (const std::exception &error) {
-        throw Error(QString::fromUtf8(error.what()));
+    } catch (const std::exception &) {
+        throw Error(QStringLiteral("The document is damaged"));
     }
 }
 
@@ -47,15 +52,14 @@ inline qsizetype statedLength(QPDFObjectHandle length) {
     return length.isInteger() ? length.getIntValue() : 0;
 }
 
+/// What libqpdf has noticed in the document so far.
+std::vector<QPDFExc> faultsOf(QPDF &document);
+
+/// Whether `warning` tells of a fault rather than of what libqpdf does about the one before.
+bool isFault(const QPDFExc &warning);
+
 /// Throws when a read has failed or a warning of the document tells of a lack of memory.
-inline void requireAllObjects(QPDF &document, const SourceReader &reader) {
-    reader.requireNoFailure();
-    for (const QPDFExc &warning : document.getWarnings()) {
-        if (warning.getMessageDetail().find(std::bad_alloc().what()) != std::string::npos) {
-            throw std::bad_alloc();
-        }
-    }
-}
+void requireAllObjects(QPDF &document, const SourceReader &reader);
 
 /// Runs `work` over `document`, which is read through `reader`. When memory is short or the file
 /// cannot be read, the library only warns and puts null in an object's place. The result is then

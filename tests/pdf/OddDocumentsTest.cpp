@@ -15,6 +15,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +27,10 @@ namespace {
 QList<OddDocument> allOddDocuments() {
     return oddPageTrees() + oddBoxes() + oddFiles() + oddSyntax() + oddContents() + oddFilters() +
            oddGraphics() + oddInteraction();
+}
+
+bool isOfDamage(const Warning &warning) {
+    return warning.code == WarningCode::PdfRepaired || warning.code == WarningCode::PdfPagesLost;
 }
 
 bool isBlank(const QImage &picture) {
@@ -61,6 +66,7 @@ class OddDocumentsTest : public QObject {
     QTemporaryDir m_folder;
     const QList<OddDocument> m_documents = allOddDocuments();
     std::map<qsizetype, Pages> m_read; ///< What was seen of the documents themselves.
+    Warnings m_warnings;               ///< Of the documents that were merged.
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
     QString saved(const QByteArray &bytes) const { return writeFile(path(u"source.pdf"_s), bytes); }
@@ -73,14 +79,15 @@ class OddDocumentsTest : public QObject {
                                      : m_read.emplace(index, Pages(sourceOf(index))).first->second;
     }
     /// Writes the PDF of all `sources` and returns its path; qpdf finds it in order.
-    QString merged(const QStringList &sources) const {
+    QString merged(const QStringList &sources) {
         QString target = path(u"merged.pdf"_s);
         QFile::remove(target);
         PDFContext::Settings settings;
         settings.flush = Flush::Never;
         PDFContext context(target, std::move(settings));
         for (const QString &source : sources) {
-            context.addDocument(source);
+            const Warnings warnings = context.addDocument(source).warnings;
+            std::ranges::copy(warnings, std::back_inserter(m_warnings));
         }
         const CloseResult result = context.close();
         QString log = result.reason;
@@ -118,7 +125,9 @@ class OddDocumentsTest : public QObject {
         QVERIFY(std::ranges::all_of(source.pictures, [&](const QImage &picture) {
             return isBlank(picture) == document.blank;
         }));
+        m_warnings.clear();
         const Pages copied(merged({sourceOf(index)}));
+        QVERIFY(std::ranges::none_of(m_warnings, isOfDamage));
         QCOMPARE(copied.geometry, source.geometry);
         QCOMPARE(copied.pictures, source.pictures);
     }

@@ -17,6 +17,7 @@
 #include <sys/stat.h>
 
 #include <cstring>
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -90,8 +91,23 @@ class SourceDocumentTest : public QObject {
     void aFileWithoutThePdfMarkIsNoPdf() {
         QCOMPARE(refusal(saved(u"text.pdf"_s, "just text")), u"This is not a PDF file"_s);
         QCOMPARE(refusal(saved(u"empty.pdf"_s, {})), u"This is not a PDF file"_s);
-        const QByteArray late = QByteArray(1024, ' ') + threePages().bytes();
-        QCOMPARE(refusal(saved(u"late.pdf"_s, late)), u"This is not a PDF file"_s);
+        const QByteArray cut = QByteArray(1024, ' ') + threePages().bytes().chopped(50);
+        QCOMPARE(refusal(saved(u"cut.pdf"_s, cut)), u"This is not a PDF file"_s);
+    }
+
+    void aDocumentWithoutARightPdfMarkIsRead_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray whole = threePages().bytes();
+        const qsizetype header = whole.indexOf('\n') + 1;
+        QTest::newRow("malformed") << QByteArray(whole).replace("%PDF-", "%PFD-");
+        QTest::newRow("missing") << whole.sliced(header);
+        QTest::newRow("overwritten") << QByteArray(header, '\0') + whole.sliced(header);
+        QTest::newRow("after byte 1024") << QByteArray(1024, ' ') + whole;
+        QTest::newRow("after a megabyte") << QByteArray(1 << 20, '\n') + whole;
+    }
+    void aDocumentWithoutARightPdfMarkIsRead() {
+        QFETCH(QByteArray, bytes);
+        QCOMPARE(summarizePDF(saved(u"mark.pdf"_s, bytes)).pageCount, 3);
     }
 
     void bytesBeforeThePdfMarkAreTolerated() {
@@ -106,10 +122,12 @@ class SourceDocumentTest : public QObject {
     }
 
     void aHopelessDocumentIsAnError() {
-        QVERIFY(!refusal(saved(u"hopeless.pdf"_s, "%PDF-1.4\nnothing")).isEmpty());
+        QCOMPARE(refusal(saved(u"hopeless.pdf"_s, "%PDF-1.4\nnothing")),
+                 u"The document is damaged: its trailer and its table of objects are missing"_s);
         QByteArray noCatalog = threePages().bytes();
         noCatalog.replace("/Root 1 0 R", "/Root 99 0 R");
-        QVERIFY(!refusal(saved(u"nocatalog.pdf"_s, noCatalog)).isEmpty());
+        QCOMPARE(refusal(saved(u"nocatalog.pdf"_s, noCatalog)),
+                 u"The document is damaged: it has no catalog"_s);
     }
 
     void aHugeDamagedDocumentIsRefusedRatherThanSearched() {
@@ -119,6 +137,15 @@ class SourceDocumentTest : public QObject {
         // Sparse, so it costs no disk; the table of objects is not where a reader looks for it.
         QVERIFY(file.resize(kMaxRepairedBytes + 1));
         QVERIFY(!refusal(file.fileName()).isEmpty());
+    }
+
+    void aSearchThatTakesTooLongIsGivenUp() {
+        // Each line begins a string that ends nowhere.
+        const QByteArray bytes = "%PDF-1.4\n" + QByteArray("(\n").repeated(20 << 20);
+        const std::clock_t start = std::clock();
+        QCOMPARE(refusal(saved(u"endless.pdf"_s, bytes)),
+                 u"The document is too damaged to be repaired"_s);
+        QVERIFY((std::clock() - start) / CLOCKS_PER_SEC < 5);
     }
 
     void aPageTreeThatBitesItsTailEnds() {

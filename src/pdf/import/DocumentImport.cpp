@@ -2,12 +2,16 @@
 
 #include "pdf/import/DocumentImport.h"
 
+#include "pdf/import/ContentCheck.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/LeftParts.h"
+#include "pdf/import/SourceDamage.h"
 #include "pdf/import/TreeEntries.h"
 
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -146,7 +150,9 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     ObjectCopier copier(source, target, shared);
     ImportedDocument imported;
     imported.warnings = namePartsLeft(source);
-    imported.pages = copier.copyPages();
+    const SourcePages found = readSourcePages(source);
+    ContentCheck contents(source, found.pages);
+    imported.pages = copier.copyPages(found.pages);
     imported.bookmarks = importBookmarks(source, copier);
     imported.form = importForm(source, copier);
     imported.layers = importLayers(source, copier);
@@ -165,6 +171,10 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     imported.pdfVersion = source.getPDFVersion();
     if (imported.pages.empty()) {
         imported.warnings.push_back({WarningCode::PdfWithoutPages, u"The document has no pages"_s});
+    }
+    for (const Warnings &damage :
+         {missingPages(found), damagedPages(contents.damagedPages()), repairs(source)}) {
+        std::ranges::copy(damage, std::back_inserter(imported.warnings));
     }
     return imported;
 }

@@ -68,8 +68,7 @@ ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared)
     , m_shared(shared)
     , m_destinations(source) {}
 
-std::vector<QPDFObjectHandle> ObjectCopier::copyPages() {
-    const auto pages = readSourcePages(m_source);
+std::vector<QPDFObjectHandle> ObjectCopier::copyPages(const std::vector<SourcePage> &pages) {
     // The library walks the tree again at every stream, with a recursion as deep as the tree.
     m_source.getRoot().replaceKey("/Pages",
                                   QPDFObjectHandle::parse("<< /Type /Pages /Kids [] /Count 0 >>"));

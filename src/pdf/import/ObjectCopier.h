@@ -28,8 +28,8 @@ class ObjectCopier {
     /// `shared` holds the streams that earlier copies of the same file brought; new ones are added.
     ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared);
 
-    /// Copies all pages, which run() fills. Call it first.
-    std::vector<QPDFObjectHandle> copyPages();
+    /// Copies all pages of the source, which run() fills. Call it first.
+    std::vector<QPDFObjectHandle> copyPages(const std::vector<SourcePage> &pages);
     /// The copy of `object`. run() fills an indirect one.
     QPDFObjectHandle copy(const QPDFObjectHandle &object);
     /// Fills the pages and objects that copyPages() and copy() returned.

@@ -19,23 +19,35 @@ namespace {
 
 constexpr std::array kInheritedKeys{"/Resources", "/MediaBox", "/CropBox", "/Rotate"};
 
+/// Whether a node of the tree that has no kids is a page. Some pages lack their type or have a
+/// wrong one.
+bool isPage(QPDFObjectHandle node) {
+    if (!node.isDictionary()) {
+        return false;
+    }
+    auto type = node.getKey("/Type");
+    return !type.isName() || type.isNameAndEquals("/Page") || node.hasKey("/Contents");
+}
+
 /// Walks a page tree without recursion: a tree may be deeper than a thread's stack.
 class PageTreeWalk {
   public:
     explicit PageTreeWalk(const QPDFObjectHandle &root) { expand(root, InheritedValues()); }
 
-    std::vector<SourcePage> pages() {
+    SourcePages pages() {
         while (!m_pending.empty()) {
             const SourcePage next = std::move(m_pending.back());
             m_pending.pop_back();
             QPDFObjectHandle object = next.page;
-            if (object.hasKey("/Kids")) {
+            if (object.isDictionary() && object.hasKey("/Kids")) {
                 expand(object, *next.inherited);
+            } else if (isPage(object)) {
+                m_found.pages.push_back(next);
             } else {
-                m_pages.push_back(next);
+                m_found.unreadable.push_back(m_found.pages.size());
             }
         }
-        return std::move(m_pages);
+        return std::move(m_found);
     }
 
   private:
@@ -54,9 +66,7 @@ class PageTreeWalk {
         const auto items =
             kids.isArray() ? kids.getArrayAsVector() : std::vector<QPDFObjectHandle>();
         std::for_each(items.rbegin(), items.rend(), [&](QPDFObjectHandle kid) {
-            if (kid.isDictionary()) {
-                m_pending.push_back({kid, inherited});
-            }
+            m_pending.push_back({kid, inherited});
         });
         // Marks the node as a part of the tree, which is not copied.
         node.replaceKey("/Type", QPDFObjectHandle::newName("/Pages"));
@@ -64,7 +74,7 @@ class PageTreeWalk {
 
     std::set<QPDFObjGen> m_visited;
     std::vector<SourcePage> m_pending; ///< Nodes and pages; the next one is the last.
-    std::vector<SourcePage> m_pages;
+    SourcePages m_found;
     int m_inheritedCount = 0;
 };
 
@@ -111,12 +121,16 @@ std::vector<Node> grouped(QPDF &document, std::vector<Node> nodes) {
 
 } // namespace
 
-std::vector<SourcePage> readSourcePages(QPDF &source) {
+SourcePages readSourcePages(QPDF &source) {
     auto root = source.getRoot().getKey("/Pages");
     if (!root.isDictionary()) {
         throw Error(u"The document has no page tree"_s);
     }
-    return PageTreeWalk(rootOf(root)).pages();
+    root = rootOf(root);
+    SourcePages found = PageTreeWalk(root).pages();
+    auto count = root.getKey("/Count");
+    found.stated = count.isInteger() ? count.getIntValue() : 0;
+    return found;
 }
 
 void buildPageTree(QPDF &document, const std::vector<QPDFObjectHandle> &pages) {

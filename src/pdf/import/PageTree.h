@@ -27,10 +27,16 @@ struct SourcePage {
     std::shared_ptr<const InheritedValues> inherited;
 };
 
-/// The pages of a source document in their order, however deep its page tree is. Kids that are no
-/// dictionaries are skipped; a page that is in the tree twice is two pages. Throws Error when there
-/// is no page tree or it contains itself.
-std::vector<SourcePage> readSourcePages(QPDF &source);
+struct SourcePages {
+    std::vector<SourcePage> pages;
+    long long stated = 0; ///< How many there are by the root of the tree; 0 where it does not say.
+    /// Kids that are no pages, such as objects that are missing: how many pages precede each.
+    std::vector<std::size_t> unreadable;
+};
+
+/// The pages of a source document in their order, however deep its page tree is. A page that is in
+/// the tree twice is two pages. Throws Error when there is no page tree or it contains itself.
+SourcePages readSourcePages(QPDF &source);
 
 /// Makes a balanced page tree (ISO 32000-1, 7.7.3) of `pages`, so that readers find any page of a
 /// long document quickly.

@@ -8,6 +8,7 @@
 
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -17,11 +18,16 @@ namespace folioforge {
 
 namespace {
 
-/// Throws Error when the file is no PDF. The library would first search all of it for objects.
-void requirePdfHeader(const FileVersion &file, SourceReader &reader) {
-    std::array<char, 1024> start{};
-    const auto got = reader.read(file, 0, start);
-    if (std::string_view(start.data(), got).find("%PDF-") == std::string_view::npos) {
+/// Throws Error when the file has neither the mark that begins a PDF nor the one that ends it. The
+/// library would first search all of it for objects.
+void requirePdfMark(const FileVersion &file, SourceReader &reader) {
+    constexpr qint64 kPiece = 1024; // Where readers look for either.
+    const auto has = [&](qint64 offset, std::string_view mark) {
+        std::array<char, kPiece> piece{};
+        const auto got = reader.read(file, offset, piece);
+        return std::string_view(piece.data(), got).find(mark) != std::string_view::npos;
+    };
+    if (!has(0, "%PDF-") && !has(std::max<qint64>(file.size - kPiece, 0), "startxref")) {
         throw Error(u"This is not a PDF file"_s);
     }
 }
@@ -50,7 +56,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
 /// Also repairs a file whose cross-reference table the library wrongly takes for intact.
 std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
                                        const std::shared_ptr<SourceReader> &reader) {
-    requirePdfHeader(file, *reader);
+    requirePdfMark(file, *reader);
     try {
         return openUnlessLocked(file, reader, SourceInput::Table::Shown);
     } catch (const QPDFExc &) {
@@ -70,8 +76,8 @@ PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
         if (!document || document->isEncrypted()) {
             return PDFSummary{true, 0};
         }
-        const auto pages =
-            withAllObjects(*document, *reader, [&] { return readSourcePages(*document).size(); });
+        const auto pages = withAllObjects(*document, *reader,
+                                          [&] { return readSourcePages(*document).pages.size(); });
         return PDFSummary{false, static_cast<int>(pages)};
     });
 }

@@ -8,6 +8,10 @@
 #include <stdexcept>
 #include <string_view>
 
+#include <time.h>
+
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -15,37 +19,66 @@ namespace {
 /// More than the bytes at the end in which the library looks for "startxref".
 constexpr qint64 kBlanksThatHideTheTable = 2048;
 
+/// The processor time of this thread in milliseconds.
+qint64 threadTime() {
+    timespec time{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return time.tv_sec * 1000 + time.tv_nsec / 1'000'000;
+}
+
 } // namespace
 
 SourceInput::SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table)
     : m_file(std::move(file))
     , m_reader(std::move(reader))
-    , m_end(m_file.size + (table == Table::Hidden ? kBlanksThatHideTheTable : 0))
+    // The search takes no object that stands at the very beginning.
+    , m_front(table == Table::Hidden ? 1 : 0)
+    , m_end(m_front + m_file.size + (table == Table::Hidden ? kBlanksThatHideTheTable : 0))
     , m_name(m_file.path.toStdString()) {}
+
+/// The library asks for the ends of lines when it searches the file for objects. Some files keep it
+/// busy for minutes.
+void SourceInput::limitSearch() {
+    constexpr qint64 kLinesBetweenLooks = 1024;
+    if (m_lines++ % kLinesBetweenLooks != 0) {
+        return;
+    }
+    if (m_searchEnd == 0) {
+        m_searchEnd = threadTime() + kMaxSearch;
+    } else if (threadTime() > m_searchEnd) {
+        m_reader->fail(u"The document is too damaged to be repaired"_s);
+    }
+}
+
+/// The bytes of the file at `position`; none where it ends.
+std::string_view SourceInput::pieceAt(qint64 position, std::span<char> target) {
+    return {target.data(), m_reader->read(m_file, position - m_front, target)};
+}
 
 qpdf_offset_t SourceInput::findAndSkipNextEOL() {
     constexpr std::string_view kLineEnds = "\r\n";
-    std::array<char, 1024> chunk{};
+    limitSearch();
+    std::array<char, 1024> bytes{};
+    m_position = std::max(m_position, m_front);
+    bool isLineEnd = false;
+    qint64 lineEnd = 0;
     while (true) {
-        const auto got = m_reader->read(m_file, m_position, chunk);
-        const std::string_view text(chunk.data(), got);
-        if (text.empty()) {
+        const std::string_view piece = pieceAt(m_position, bytes);
+        if (piece.empty()) {
             m_position = std::max(m_position, m_end);
-            return m_position;
+            return isLineEnd ? lineEnd : m_position;
         }
-        const auto found = text.find_first_of(kLineEnds);
+        const auto found =
+            isLineEnd ? piece.find_first_not_of(kLineEnds) : piece.find_first_of(kLineEnds);
+        m_position += static_cast<qint64>(std::min(found, piece.size()));
         if (found == std::string_view::npos) {
-            m_position += static_cast<qint64>(got);
             continue;
         }
-        const qint64 lineEnd = m_position + static_cast<qint64>(found);
-        m_position = lineEnd;
-        char ch = 0;
-        while (m_reader->read(m_file, m_position, {&ch, 1}) == 1 &&
-               kLineEnds.find(ch) != std::string_view::npos) {
-            ++m_position;
+        if (isLineEnd) {
+            return lineEnd;
         }
-        return lineEnd;
+        isLineEnd = true;
+        lineEnd = m_position;
     }
 }
 
@@ -73,11 +106,17 @@ void SourceInput::rewind() {
 
 size_t SourceInput::read(char *target, size_t length) {
     last_offset = m_position;
-    size_t got = m_reader->read(m_file, m_position, {target, length});
-    m_position += static_cast<qint64>(got);
-    for (; got < length && m_position < m_end; ++got, ++m_position) {
-        target[got] = ' ';
-    }
+    size_t got = 0;
+    const auto addBlanks = [&](qint64 end) {
+        for (; got < length && m_position < end; ++got, ++m_position) {
+            target[got] = ' ';
+        }
+    };
+    addBlanks(m_front);
+    const auto piece = pieceAt(m_position, {target + got, length - got});
+    got += piece.size();
+    m_position += static_cast<qint64>(piece.size());
+    addBlanks(m_end);
     if (got == 0 && length > 0) {
         // The library takes the end of the file from here.
         last_offset = std::min(m_position, m_end);

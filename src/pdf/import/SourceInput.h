@@ -7,6 +7,9 @@
 #include <qpdf/InputSource.hh>
 
 #include <memory>
+#include <span>
+#include <string>
+#include <string_view>
 
 namespace folioforge {
 
@@ -17,6 +20,9 @@ class SourceInput final : public InputSource {
     /// Whether the library finds the cross-reference table. When it does not, it searches the file
     /// for objects.
     enum class Table { Shown, Hidden };
+
+    /// The processor time of the calling thread that the search may take, in milliseconds.
+    static constexpr qint64 kMaxSearch = 2000;
 
     SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table);
 
@@ -29,11 +35,17 @@ class SourceInput final : public InputSource {
     void unreadCh(char ch) override;
 
   private:
+    void limitSearch();
+    [[nodiscard]] std::string_view pieceAt(qint64 position, std::span<char> target);
+
     FileVersion m_file;
     std::shared_ptr<SourceReader> m_reader;
-    qint64 m_end; ///< From the end of the file up to here the library reads blanks.
+    qint64 m_front; ///< So many blanks the library reads before the file,
+    qint64 m_end;   ///< and from the end of the file up to here.
     std::string m_name;
     qint64 m_position = 0;
+    qint64 m_lines = 0;     ///< So far in the search.
+    qint64 m_searchEnd = 0; ///< On the thread's clock; 0 before the search.
 };
 
 } // namespace folioforge

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/QpdfErrors.h"
+
+#include <QRegularExpression>
+
+#include <array>
+#include <string_view>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+namespace {
+
+struct Cause {
+    std::string_view sign; ///< A part of what libqpdf says.
+    const char *words;
+};
+
+/// The first one that fits counts.
+constexpr std::array kCauses{
+    Cause{"PDF header", "its header is missing"},
+    Cause{"trailer dictionary while recovering",
+          "its trailer and its table of objects are missing"},
+    Cause{"stream length", "the length of a stream is wrong"},
+    Cause{"endstream", "the length of a stream is wrong"},
+    Cause{"recover stream data", "a stream is cut off"},
+    Cause{"xref", "its table of objects is damaged"},
+    Cause{"cross-reference", "its table of objects is damaged"},
+    Cause{"Cross-reference", "its table of objects is damaged"},
+    Cause{"trailer", "its table of objects is damaged"},
+    Cause{"object stream", "its table of objects is damaged"},
+    Cause{"expected n n obj", "an object is not where the table of objects says"},
+    Cause{"/Root", "it has no catalog"},
+    Cause{"decod", "the data of a stream is damaged"},
+    Cause{"inflate", "the data of a stream is damaged"},
+    Cause{"EOF", "it is cut off"},
+};
+
+/// What libqpdf says beside a fault that it names too.
+constexpr std::array<std::string_view, 4> kRemarks{
+    "file is damaged",
+    "Attempting to reconstruct cross-reference table",
+    "attempting to recover stream length",
+    "recovered stream length",
+};
+
+bool contains(const std::string &text, std::string_view part) {
+    return text.find(part) != std::string::npos;
+}
+
+} // namespace
+
+QString inWords(const QPDFExc &error) {
+    const std::string &detail = error.getMessageDetail();
+    const auto cause = std::ranges::find_if(
+        kCauses, [&](const Cause &known) { return contains(detail, known.sign); });
+    QString words =
+        QString::fromLatin1(cause != kCauses.end() ? cause->words : "an object is not well formed");
+    static const QRegularExpression kNumber(u"object (\\d+)"_s);
+    const auto match = kNumber.match(QString::fromLatin1(error.getObject()));
+    return match.hasMatch() ? u"%1 (object %2)"_s.arg(words, match.captured(1)) : words;
+}
+
+bool isFault(const QPDFExc &warning) {
+    return std::ranges::none_of(kRemarks, [&](std::string_view remark) {
+        return contains(warning.getMessageDetail(), remark);
+    });
+}
+
+std::vector<QPDFExc> faultsOf(QPDF &document) {
+    std::vector<QPDFExc> faults = document.getWarnings();
+    for (const QPDFExc &fault : faults) {
+        document.warn(fault); // Asking for them removed them.
+    }
+    return faults;
+}
+
+void requireAllObjects(QPDF &document, const SourceReader &reader) {
+    reader.requireNoFailure();
+    for (const QPDFExc &warning : faultsOf(document)) {
+        if (contains(warning.getMessageDetail(), std::bad_alloc().what())) {
+            throw std::bad_alloc();
+        }
+    }
+}
+
+} // namespace folioforge

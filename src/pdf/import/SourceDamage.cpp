@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/SourceDamage.h"
+
+#include "pdf/QpdfErrors.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <QStringList>
+
+#include <algorithm>
+#include <ranges>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+namespace {
+
+/// "3" or "3, 5, 7 and 12 more".
+QString inWords(const std::set<std::size_t> &pages) {
+    constexpr std::size_t kNamed = 5;
+    QStringList named;
+    for (const std::size_t page : pages | std::views::take(kNamed)) {
+        named += QString::number(page);
+    }
+    const QString text = named.join(u", "_s);
+    return pages.size() <= kNamed ? text : u"%1 and %2 more"_s.arg(text).arg(pages.size() - kNamed);
+}
+
+} // namespace
+
+Warnings missingPages(const SourcePages &pages) {
+    const auto read = static_cast<long long>(pages.pages.size());
+    const auto unreadable = static_cast<long long>(pages.unreadable.size());
+    const long long total = pages.stated > 0 ? pages.stated : read + unreadable;
+    if (read >= total) {
+        return {};
+    }
+    QString text = u"%1 of %2 pages could be read"_s.arg(read).arg(total);
+    if (unreadable > 0) {
+        text += u", page %1 is the first that is missing"_s.arg(pages.unreadable.front() + 1);
+    }
+    return {{WarningCode::PdfPagesLost, text}};
+}
+
+Warnings damagedPages(const std::set<std::size_t> &pages) {
+    if (pages.empty()) {
+        return {};
+    }
+    return {{WarningCode::PdfPagesLost,
+             u"What stands on page %1 is damaged and may lack something"_s.arg(inWords(pages))}};
+}
+
+Warnings repairs(QPDF &source) {
+    const std::vector<QPDFExc> faults = faultsOf(source);
+    const auto first = std::ranges::find_if(faults, isFault);
+    if (first == faults.end()) {
+        return {};
+    }
+    const auto number = std::count_if(first, faults.end(), isFault);
+    const QString text = u"The document is damaged and was repaired"_s;
+    return {{WarningCode::PdfRepaired,
+             number == 1 ? u"%1: %2"_s.arg(text, inWords(*first))
+                         : u"%1 in %2 places, the first: %3"_s.arg(text, QString::number(number),
+                                                                   inWords(*first))}};
+}
+
+} // namespace folioforge
