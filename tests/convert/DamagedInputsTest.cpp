@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "convert/Conversion.h"
+#include "support/Files.h"
+#include "support/PdfFixture.h"
+#include "support/PdfProbe.h"
+#include "support/TestUnit.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <array>
+#include <random>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+constexpr int kPlaces = 10; ///< At which each file is damaged.
+
+/// `bytes` with the damage of number `place`: cut off, a gap, or noise instead of what stood there.
+QByteArray damaged(const QByteArray &bytes, int place) {
+    constexpr int kMaxLength = 64;
+    std::mt19937 random(static_cast<unsigned>(bytes.size() + place));
+    const auto below = [&](qsizetype limit) {
+        return static_cast<qsizetype>(random() % static_cast<unsigned>(limit));
+    };
+    const qsizetype start = below(bytes.size());
+    const QByteArray before = bytes.first(start);
+    const QByteArray after = bytes.sliced(std::min(start + 1 + below(kMaxLength), bytes.size()));
+    switch (place % 3) {
+    case 0:
+        return before;
+    case 1:
+        return before + after;
+    default:
+        QByteArray noise(bytes.size() - before.size() - after.size(), '\0');
+        for (char &byte : noise) {
+            byte = static_cast<char>(random());
+        }
+        return before + noise + after;
+    }
+}
+
+} // namespace
+
+/// What is damaged looks as it did before, or something is said about it.
+class DamagedInputsTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_folder;
+
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+
+    /// The pages of the PDF at `file` as mutool draws them.
+    static QByteArray drawn(const QString &file) {
+        return runTool(u"mutool"_s, {u"draw"_s, u"-q"_s, u"-r"_s, u"36"_s, u"-F"_s, u"pnm"_s,
+                                     u"-o"_s, u"-"_s, file})
+            .out;
+    }
+
+    /// What is said about the PDF that is made of the file at `source` alone; it is written to
+    /// `target`.
+    static QStringList wordsOn(const QString &source, const QString &target) {
+        ConversionOptions options;
+        options.flush = Flush::Never;
+        const PDFFileInfo info(source);
+        const PDFOutcome outcome = createPDF(std::array{&info}, target, options);
+        QStringList words{outcome.close.reason};
+        for (const EntryOutcome &entry : outcome.entries) {
+            words += entry.reason;
+            for (const Warning &warning : entry.warnings) {
+                words += warning.text;
+            }
+        }
+        words.removeAll(QString());
+        return words;
+    }
+
+    /// Damages the file at `file` at kPlaces places. Each copy must give the same pixels as the
+    /// file itself, or words.
+    void requirePixelsOrWords(const QString &file) {
+        const QByteArray bytes = readFile(file);
+        const QString target = path(u"target.pdf"_s);
+        const auto convert = [&](const QByteArray &source) {
+            QFile::remove(target);
+            return wordsOn(writeFile(path(u"damaged."_s + QFileInfo(file).suffix()), source),
+                           target);
+        };
+        QCOMPARE(convert(bytes), QStringList());
+        const QByteArray pixels = drawn(target);
+        QVERIFY(!pixels.isEmpty());
+        for (int place = 0; place < kPlaces; ++place) {
+            const QStringList words = convert(damaged(bytes, place));
+            QVERIFY2(!words.isEmpty() || drawn(target) == pixels,
+                     qPrintable(u"%1, damage %2"_s.arg(file).arg(place)));
+        }
+    }
+
+  private Q_SLOTS:
+    void pdfs_data() {
+        QTest::addColumn<QStringList>("maker");
+        QTest::newRow("by hand") << QStringList();
+        QTest::newRow("by cairo") << QStringList{u"pdftocairo"_s, u"-pdf"_s, u"IN"_s, u"OUT"_s};
+        QTest::newRow("by mutool")
+            << QStringList{u"mutool"_s, u"clean"_s, u"-z"_s, u"IN"_s, u"OUT"_s};
+        QTest::newRow("with object streams")
+            << QStringList{u"qpdf"_s, u"--object-streams=generate"_s, u"IN"_s, u"OUT"_s};
+        QTest::newRow("linearized") << QStringList{u"qpdf"_s, u"--linearize"_s, u"IN"_s, u"OUT"_s};
+    }
+    void pdfs() {
+        QFETCH(QStringList, maker);
+        const QString plain = path(u"plain.pdf"_s);
+        QVERIFY(
+            PdfFixture().object(1, "<< /Type /Catalog /Pages 2 0 R >>").pages(4, 3).write(plain));
+        if (maker.isEmpty()) {
+            requirePixelsOrWords(plain);
+            return;
+        }
+        const QString made = path(u"made.pdf"_s);
+        QFile::remove(made);
+        maker.replaceInStrings(u"IN"_s, plain).replaceInStrings(u"OUT"_s, made);
+        runTool(maker.first(), maker.sliced(1));
+        requirePixelsOrWords(made);
+    }
+};
+
+FOLIOFORGE_TEST(DamagedInputsTest)
+#include "DamagedInputsTest.moc"
