@@ -113,7 +113,8 @@ QPDFObjectHandle ImageEmbedder::colorSpace(const PdfImage &image) {
     return indexed;
 }
 
-QPDFObjectHandle ImageEmbedder::makeStream(QPDFObjectHandle dictionary, const PdfImage &image) {
+QPDFObjectHandle ImageEmbedder::makeStream(const QPDFObjectHandle &dictionary,
+                                           const PdfImage &image) {
     if (image.slices.empty()) {
         return m_streams.fromBytes(dictionary, image.data);
     }

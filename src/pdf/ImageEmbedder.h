@@ -25,7 +25,7 @@ class ImageEmbedder {
     void forget();
 
   private:
-    QPDFObjectHandle makeStream(QPDFObjectHandle dictionary, const PdfImage &image);
+    QPDFObjectHandle makeStream(const QPDFObjectHandle &dictionary, const PdfImage &image);
     QPDFObjectHandle makeImage(const PdfImage &image);
     QPDFObjectHandle colorSpace(const PdfImage &image);
     QPDFObjectHandle profiled(const PdfImage &image, int components, const char *device);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <ranges>
 #include <string_view>
 #include <vector>
 
@@ -18,8 +19,8 @@ namespace {
 std::string hex(std::uint32_t value, int digits) {
     constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string text(static_cast<std::size_t>(digits), '0');
-    for (auto digit = text.rbegin(); digit != text.rend(); ++digit) {
-        *digit = kDigits[value & 0xFU];
+    for (char &digit : std::views::reverse(text)) {
+        digit = kDigits[value & 0xFU];
         value >>= 4;
     }
     return text;

@@ -76,7 +76,7 @@ class ObjectGraph {
         }
     }
 
-    void add(QPDFObjGen owner, QPDFObjectHandle item, std::vector<QPDFObjectHandle> &open) {
+    void add(QPDFObjGen owner, const QPDFObjectHandle &item, std::vector<QPDFObjectHandle> &open) {
         if (item.isIndirect()) {
             m_uses[owner].push_back(item.getObjGen());
             m_users[item.getObjGen()].push_back(owner);
