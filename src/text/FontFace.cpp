@@ -85,7 +85,7 @@ FontBox FontFace::box() const {
     unsigned length = 0;
     const char *bytes = hb_blob_get_data(head, &length);
     if (length >= kFirstField + 2 * kFields) {
-        for (unsigned i = 0; i < kFields; ++i) {
+        for (std::size_t i = 0; i < kFields; ++i) {
             fields[i] = qFromBigEndian<qint16>(bytes + kFirstField + 2 * i);
         }
     }

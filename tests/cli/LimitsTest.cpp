@@ -123,8 +123,8 @@ class LimitsTest : public QObject {
     QString noise(const QString &name, QImage::Format format) const {
         constexpr int kSide = 1200;
         QImage image(kSide, kSide, format);
-        QRandomGenerator(11).generate(reinterpret_cast<quint32 *>(image.bits()),
-                                      reinterpret_cast<quint32 *>(image.bits()) + kSide * kSide);
+        auto *pixels = reinterpret_cast<quint32 *>(image.bits());
+        QRandomGenerator(11).generate(pixels, pixels + qsizetype{kSide} * kSide);
         return image.save(path(name)) ? path(name) : QString();
     }
 
