@@ -22,6 +22,8 @@ if(FOLIOFORGE_SANITIZE)
     target_compile_options(folioforge_program INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(folioforge_compiler INTERFACE -fsanitize=address,undefined)
+    # For tests that limit memory or count what a process holds.
+    target_compile_definitions(folioforge_compiler INTERFACE FOLIOFORGE_SANITIZED)
 endif()
 
 # Coverage for the fuzzer; the targets of tests/fuzz link the fuzzer itself.

@@ -42,8 +42,8 @@ bool readText(QPDFObjectHandle content, std::string &text) {
 
 } // namespace
 
-ContentScope::ContentScope(QPDFObjectHandle dictionary)
-    : resources(std::move(dictionary))
+ContentScope::ContentScope(const QPDFObjectHandle &dictionary)
+    : resources(dictionary)
     , holdsStreams(!drawableStreams(resources).empty()) {}
 
 std::shared_ptr<ContentScope> ContentReader::scopeOf(const QPDFObjectHandle &resources) {

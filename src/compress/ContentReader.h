@@ -22,7 +22,7 @@ struct KnownForms {
 /// The resources of pages, forms or fonts, and what is known of them: hundreds of pages may share
 /// one dictionary of thousands of entries.
 struct ContentScope {
-    explicit ContentScope(QPDFObjectHandle dictionary);
+    explicit ContentScope(const QPDFObjectHandle &dictionary);
 
     QPDFObjectHandle resources;
     bool holdsStreams; ///< Whether content can draw anything by name.

@@ -18,7 +18,7 @@ constexpr double kSmallest = 3;
 constexpr double kLargest = 14'400;
 
 bool isShown(const QSizeF &size) {
-    const auto [shorter, longer] = std::minmax(size.width(), size.height());
+    const auto [shorter, longer] = std::minmax({size.width(), size.height()});
     return shorter >= kSmallest && longer <= kLargest;
 }
 

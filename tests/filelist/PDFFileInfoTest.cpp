@@ -36,7 +36,7 @@ PDFFileInfo withDestination(const QString &name) {
 class ShortMemory {
   public:
     ShortMemory() {
-#ifndef __SANITIZE_ADDRESS__
+#ifndef FOLIOFORGE_SANITIZED
         ::getrlimit(RLIMIT_AS, &m_before);
         rlimit limit = m_before;
         limit.rlim_cur = 1 << 30;
@@ -44,7 +44,7 @@ class ShortMemory {
 #endif
     }
     ~ShortMemory() {
-#ifndef __SANITIZE_ADDRESS__
+#ifndef FOLIOFORGE_SANITIZED
         ::setrlimit(RLIMIT_AS, &m_before);
 #endif
     }
@@ -57,7 +57,7 @@ class ShortMemory {
 
 } // namespace
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef FOLIOFORGE_SANITIZED
 // The sanitizer asks for this name. NOLINTNEXTLINE(bugprone-reserved-identifier,cert-dcl37-c)
 extern "C" const char *__asan_default_options() {
     return "allocator_may_return_null=1:max_allocation_size_mb=1024";

@@ -16,7 +16,7 @@
 
 #include <malloc.h>
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef FOLIOFORGE_SANITIZED
 // The sanitizer's own allocator counts; not every compiler ships the header that says so.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
@@ -31,7 +31,7 @@ constexpr int kEntries = 1000;
 
 /// Bytes of the heap that are in use.
 qint64 heapInUse() {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef FOLIOFORGE_SANITIZED
     return qint64(__sanitizer_get_current_allocated_bytes());
 #else
     const struct mallinfo2 info = mallinfo2();

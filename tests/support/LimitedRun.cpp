@@ -88,7 +88,7 @@ QByteArray contentOf(QTemporaryFile &file) {
 } // namespace
 
 bool limitsAddresses() {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef FOLIOFORGE_SANITIZED
     return false;
 #else
     return true;
