@@ -31,7 +31,7 @@ QByteArray damaged(const QByteArray &bytes, int place) {
         return static_cast<qsizetype>(random() % static_cast<unsigned>(limit));
     };
     const qsizetype start = below(bytes.size());
-    const QByteArray before = bytes.first(start);
+    QByteArray before = bytes.first(start);
     const QByteArray after = bytes.sliced(std::min(start + 1 + below(kMaxLength), bytes.size()));
     switch (place % 3) {
     case 0:

@@ -72,7 +72,7 @@ class FaultsTest : public QObject, private WholeRun {
             return u"another reason is said: "_s + outcome.reason;
         }
         if (keptFiles) {
-            AbandonedParts(path("out"), AbandonedParts::Kinds::Files);
+            const AbandonedParts cleared(path("out"), AbandonedParts::Kinds::Files);
         }
         if (namesIn(path("out")).size() > (QFile::exists(output()) ? 1 : 0) ||
             !namesIn(path("temporary")).isEmpty()) {

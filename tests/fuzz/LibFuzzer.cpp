@@ -5,8 +5,9 @@
 #include "FuzzSupport.h"
 
 namespace folioforge::fuzz {
+// NOLINTNEXTLINE(readability-identifier-naming): the build puts the name of the target here
 void FOLIOFORGE_FUZZ_TARGET(Bytes bytes);
-}
+} // namespace folioforge::fuzz
 
 // NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {

@@ -32,6 +32,7 @@ std::vector<PDFFileInfo> entriesNamed(const QStringList &names) {
 
 std::vector<PDFFileInfo> numbered(int count) {
     std::vector<PDFFileInfo> entries;
+    entries.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         entries.push_back(named(QString::number(i)));
     }

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <ranges>
 #include <string_view>
 #include <vector>
 
@@ -17,12 +16,13 @@ namespace folioforge {
 namespace {
 
 std::string hex(std::uint32_t value, int digits) {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    static constexpr std::string_view kDigits = "0123456789ABCDEF";
     std::string text(static_cast<std::size_t>(digits), '0');
-    for (char &digit : std::views::reverse(text)) {
-        digit = kDigits[value & 0xFU];
+    std::generate(text.rbegin(), text.rend(), [&value] {
+        const char digit = kDigits[value & 0xFU];
         value >>= 4;
-    }
+        return digit;
+    });
     return text;
 }
 

@@ -65,7 +65,7 @@ class PageTreeWalk {
         auto kids = node.getKey("/Kids");
         const auto items =
             kids.isArray() ? kids.getArrayAsVector() : std::vector<QPDFObjectHandle>();
-        std::for_each(items.rbegin(), items.rend(), [&](QPDFObjectHandle kid) {
+        std::for_each(items.rbegin(), items.rend(), [&](const QPDFObjectHandle &kid) {
             m_pending.push_back({kid, inherited});
         });
         // Marks the node as a part of the tree, which is not copied.

@@ -9,7 +9,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <ranges>
 
 using namespace Qt::StringLiterals;
 
@@ -19,13 +18,14 @@ namespace {
 
 /// "3" or "3, 5, 7 and 12 more".
 QString inWords(const std::set<std::size_t> &pages) {
-    constexpr std::size_t kNamed = 5;
+    constexpr qsizetype kNamed = 5;
     QStringList named;
-    for (const std::size_t page : pages | std::views::take(kNamed)) {
-        named += QString::number(page);
+    for (auto page = pages.begin(); page != pages.end() && named.size() < kNamed; ++page) {
+        named += QString::number(*page);
     }
     const QString text = named.join(u", "_s);
-    return pages.size() <= kNamed ? text : u"%1 and %2 more"_s.arg(text).arg(pages.size() - kNamed);
+    const auto others = static_cast<qsizetype>(pages.size()) - named.size();
+    return others == 0 ? text : u"%1 and %2 more"_s.arg(text).arg(others);
 }
 
 } // namespace
@@ -34,7 +34,11 @@ Warnings missingPages(const SourcePages &pages) {
     const auto read = static_cast<long long>(pages.pages.size());
     const auto unreadable = static_cast<long long>(pages.unreadable.size());
     const long long total = pages.stated > 0 ? pages.stated : read + unreadable;
-    if (read >= total) {
+    if (read > total) {
+        return {{WarningCode::PdfRepaired,
+                 u"The document states %1 pages, and %2 were found"_s.arg(total).arg(read)}};
+    }
+    if (read == total) {
         return {};
     }
     QString text = u"%1 of %2 pages could be read"_s.arg(read).arg(total);
