@@ -31,6 +31,13 @@ inline Warning coarsePicture() {
             QStringLiteral("The picture is cut off: its finer details could not be read")};
 }
 
+/// The warning for a picture whose colours are all there, but not what makes parts of it
+/// transparent.
+inline Warning withoutMask() {
+    return {WarningCode::PictureDamaged,
+            QStringLiteral("The picture is cut off: its transparency could not be read")};
+}
+
 /// The warning for a picture whose rows are all there while its data has faults inside.
 inline Warning faultyPicture() {
     return {WarningCode::PictureDamaged,

@@ -7,8 +7,10 @@
 
 #include <QApplication>
 #include <QDragEnterEvent>
+#include <QHeaderView>
 #include <QMenu>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTest>
 
 #include <memory>

@@ -84,6 +84,7 @@ QByteArray exr() {
     const QByteArray path = QFile::encodeName(folder.filePath(u"picture.exr"_s));
     {
         std::vector<Imf::Rgba> pixels;
+        pixels.reserve(kWidth * kHeight);
         for (int i = 0; i < kWidth * kHeight; ++i) {
             pixels.emplace_back(0.001F * float(i % 1000), 0.5F, 0.25F);
         }

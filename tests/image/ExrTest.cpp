@@ -195,7 +195,7 @@ class ExrTest : public QObject {
 
     /// A row of pixels as an EXR file with these channels.
     QString exr(const std::vector<Imf::Rgba> &row, Imf::RgbaChannels channels, Imf::Header header) {
-        const QString path = m_folder.filePath(u"light.exr"_s);
+        QString path = m_folder.filePath(u"light.exr"_s);
         Imf::RgbaOutputFile file(QFile::encodeName(path).constData(), header, channels);
         file.setFrameBuffer(row.data() - header.dataWindow().min.x, 1, 0);
         file.writePixels(1);

@@ -310,6 +310,16 @@ class IconTest : public QObject {
     QString write(const char *name, const QByteArray &bytes) {
         return writeFile(m_folder.filePath(QString::fromLatin1(name)), bytes);
     }
+
+    /// 8 x 4 pixels of 24 bits take 96 bytes, their mask 16.
+    void anIconThatLacksItsMaskIsTakenAndNamed() {
+        const QByteArray rows = randomBytes(96 + 16);
+        const QByteArray good = ico({bitmapFrame(24, rows)});
+        QCOMPARE(warningsOf(toPdfImage(write("whole.ico", good))), QStringList());
+        QCOMPARE(warningsOf(toPdfImage(write("cut.ico", good.chopped(1)))),
+                 QStringList(u"picture-damaged: The picture is cut off: its transparency could not "
+                             "be read"_s));
+    }
 };
 
 FOLIOFORGE_TEST(IconTest)

@@ -254,7 +254,7 @@ class ImageHeaderTest : public QObject {
         picture.fill(Qt::red);
         picture.setDotsPerMeterX(perMetre);
         picture.setDotsPerMeterY(perMetre);
-        const QString path = m_folder.filePath(u"density.bmp"_s);
+        QString path = m_folder.filePath(u"density.bmp"_s);
         picture.save(path);
         return path;
     }

@@ -211,7 +211,7 @@ class VariantsTest : public QObject {
 
     QString faultOf(const QString &name, const QList<QByteArray> &readings) const {
         const QString path = m_folder.filePath(name);
-        const QString reason = refusalOf(path);
+        QString reason = refusalOf(path);
         if (!reason.isEmpty()) {
             return reason;
         }

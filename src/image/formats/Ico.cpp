@@ -131,6 +131,17 @@ ImageHeader readHeader(const FileView &file) {
     return largestFrame(file).frame.header;
 }
 
+/// Whether the file ends before the mask of a bitmap whose pixels hold no opacity.
+bool lacksMask(const FileView &content, DibHeader bitmap) {
+    constexpr int kBitsWithOpacity = 32;
+    if (bitmap.bits == kBitsWithOpacity) {
+        return false;
+    }
+    const qint64 end = bitmap.endOfColors() + bitmap.stride() * bitmap.height;
+    bitmap.bits = 1;
+    return end + bitmap.stride() * bitmap.height > content.size();
+}
+
 PdfImage imageOf(const Frame &frame) {
     if (!frame.bitmap) {
         return pngFormat().toPdfImage(frame.content);
@@ -144,6 +155,8 @@ PdfImage imageOf(const Frame &frame) {
     PdfImage image = encodeRaster(rasterOf(readBitmap(frame.content, bitmap)), frame.header);
     if (missing > 0) {
         image.warnings.push_back(cutOffPicture(missing, bitmap.height));
+    } else if (lacksMask(frame.content, bitmap)) {
+        image.warnings.push_back(withoutMask());
     }
     return image;
 }
