@@ -31,7 +31,7 @@ QByteArray jpegFile(QSize size, int components, J_COLOR_SPACE space,
         jpeg_write_scanlines(&codec, &rows, 1);
     }
     jpeg_finish_compress(&codec);
-    const QByteArray file(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(count));
+    QByteArray file(reinterpret_cast<const char *>(bytes), static_cast<qsizetype>(count));
     jpeg_destroy_compress(&codec);
     std::free(bytes);
     return file;
