@@ -2,10 +2,10 @@
 
 #include "convert/Conversion.h"
 
+#include "ConversionCase.h"
 #include "convert/PageWriters.h"
 #include "support/FaultyCalls.h"
 #include "support/Files.h"
-#include "support/InstalledFonts.h"
 #include "support/PdfProbe.h"
 #include "support/Places.h"
 #include "support/TestUnit.h"
@@ -14,15 +14,11 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRandomGenerator>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
-#include <cmath>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -62,51 +58,13 @@ QImage noise(int side, QImage::Format format) {
     return image;
 }
 
-const QString kOwner = u"owner"_s;
-const QString kUser = u"user"_s;
-
-/// What `qpdf --show-encryption` says about the PDF at `path` when opened with `password`.
-QString encryptionOf(const QString &path, const QString &password) {
-    return QString::fromUtf8(
-        test::runTool(u"qpdf"_s, {u"--password="_s + password, u"--show-encryption"_s, path}).out);
-}
-
 } // namespace
 
-class ConversionTest : public QObject {
+class ConversionTest : public QObject, protected test::ConversionCase {
     Q_OBJECT
 
-  private:
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::vector<std::unique_ptr<PDFFileInfo>> m_list;
-    ConversionOptions m_options;
-
-    QString path(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
-    void addFile(const QString &file) { m_list.push_back(std::make_unique<PDFFileInfo>(file)); }
-    void addText(const char *name, const QByteArray &bytes) {
-        addFile(test::writeFile(path(name), bytes));
-    }
-    PDFOutcome convertTo(const QString &target, ConversionObserver *observer = nullptr,
-                         const std::stop_token &stop = {}) const {
-        std::vector<const PDFFileInfo *> entries;
-        for (const auto &entry : m_list) {
-            entries.push_back(entry.get());
-        }
-        return createPDF(entries, target, m_options, observer, stop);
-    }
-    QStringList outputs() const {
-        return QDir(m_options.outputFolder).entryList(QDir::Files | QDir::Hidden);
-    }
-
   private Q_SLOTS:
-    void init() {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir(m_folder->path()).mkpath(u"out"_s));
-        m_list.clear();
-        m_options = {};
-        m_options.outputFolder = path("out");
-        m_options.flush = Flush::Never;
-    }
+    void init() { setUp(); }
 
     void entriesOfEveryKindMergeInTheirOrder() {
         addText("a.txt", "first words");
@@ -169,57 +127,6 @@ class ConversionTest : public QObject {
         QCOMPARE(probe.info(u"Subject"_s), m_options.info.subject);
         QCOMPARE(probe.info(u"Keywords"_s), m_options.info.keywords);
         QCOMPARE(probe.info(u"Creator"_s), u"Vesprin-Folioforge"_s);
-    }
-
-    void aUserPasswordAloneIsTheOwnersTooAndRefusesNothing() {
-        addText("a.txt", "x");
-        m_options.security = {true, kUser, false, kOwner, true, true};
-        const QString file = convertTo(path("out/a.pdf")).close.path;
-        QCOMPARE(PdfProbe(file).pageCount(), 0);
-        const QString facts = encryptionOf(file, kUser);
-        QVERIFY2(facts.contains(u"R = 6"_s), qPrintable(facts));
-        QVERIFY2(facts.contains(u"Supplied password is owner password"_s), qPrintable(facts));
-        QVERIFY2(facts.contains(u"Supplied password is user password"_s), qPrintable(facts));
-        QVERIFY2(!facts.contains(u"not allowed"_s), qPrintable(facts));
-    }
-
-    void aTickedBoxRefusesItsPermission_data() {
-        QTest::addColumn<bool>("print");
-        QTest::addColumn<bool>("copy");
-        QTest::newRow("none") << false << false;
-        QTest::newRow("print") << true << false;
-        QTest::newRow("copy") << false << true;
-        QTest::newRow("both") << true << true;
-    }
-
-    void aTickedBoxRefusesItsPermission() {
-        QFETCH(const bool, print);
-        QFETCH(const bool, copy);
-        addText("a.txt", "x");
-        m_options.security = {true, kUser, true, kOwner, print, copy};
-        const QString facts = encryptionOf(convertTo(path("out/a.pdf")).close.path, kUser);
-        const auto isAllowed = [&facts](const char *what) {
-            return facts.contains(QString::fromLatin1(what) + u": allowed"_s);
-        };
-        QCOMPARE(isAllowed("print low resolution"), !print);
-        QCOMPARE(isAllowed("print high resolution"), !print);
-        QCOMPARE(isAllowed("extract for any purpose"), !copy);
-        QVERIFY2(isAllowed("modify annotations"), qPrintable(facts));
-        QVERIFY(isAllowed("modify forms"));
-        QVERIFY(isAllowed("modify document assembly"));
-        QVERIFY(!facts.contains(u"Supplied password is owner password"_s));
-    }
-
-    void anOwnerPasswordAloneLetsEveryoneRead() {
-        addText("a.txt", "x");
-        m_options.security = {false, kUser, true, kOwner, false, true};
-        const QString file = convertTo(path("out/a.pdf")).close.path;
-        QCOMPARE(PdfProbe(file).pageCount(), 1);
-        QVERIFY(encryptionOf(file, kOwner).contains(u"Supplied password is owner password"_s));
-    }
-
-    void noPasswordMeansNoEncryption() {
-        QVERIFY(!encryptionFor({false, kUser, false, kOwner, true, true}));
     }
 
     void progressFillsTheFirstHalfOfTheBar() {
@@ -316,7 +223,7 @@ class ConversionTest : public QObject {
 
     void aProtectedSourceAddsNoPages() {
         const QString plain = test::writePdf(path("plain.pdf"), 1);
-        addFile(test::encryptPdf(plain, path("locked.pdf"), kUser));
+        addFile(test::encryptPdf(plain, path("locked.pdf"), u"user"_s));
         addText("a.txt", "x");
         m_options.merge = true;
         const PDFOutcome outcome = convertTo(path("out/all.pdf"));
@@ -330,99 +237,6 @@ class ConversionTest : public QObject {
         QCOMPARE(outcome.close.status, CloseResult::Status::Failed);
         QVERIFY(!outcome.close.reason.isEmpty());
         QVERIFY(outputs().isEmpty());
-    }
-
-    void aTextThatIsNotUtf8GivesOneBlankPageAndAWarning() {
-        addText("a.txt", "caf\xE9 au lait");
-        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
-        QVERIFY(outcome.entries[0].written);
-        QCOMPARE(outcome.entries[0].warnings.at(0).code, WarningCode::TextNotUtf8);
-        QCOMPARE(outcome.entries[0].pages, 1);
-        const PdfProbe probe(outcome.close.path);
-        QCOMPARE(probe.pageCount(), 1);
-        QCOMPARE(probe.text().trimmed(), QString());
-    }
-
-    void aTabKeepsWordsApart() {
-        addText("a.txt", "left\tright");
-        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
-        QVERIFY(outcome.entries[0].warnings.empty());
-        QCOMPARE(PdfProbe(outcome.close.path).text().trimmed(), u"left right"_s);
-    }
-
-    void aTextWithBoxesIsWrittenWithAWarning() {
-        addText("a.txt", "a \xEE\x84\xA3 b"); // U+E123, of private use
-        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
-        QVERIFY(outcome.entries[0].written);
-        QCOMPARE(outcome.entries[0].warnings.size(), std::size_t{1});
-        QCOMPARE(outcome.entries[0].warnings[0].code, WarningCode::MissingGlyphs);
-    }
-
-    void withoutAFontATextIsRefusedAndTheOthersGoOn() {
-        {
-            const test::InstalledFonts none;
-            m_options.textFont = FontCascade::load(u"Liberation Sans"_s, 14);
-        }
-        addText("a.txt", "words");
-        addFile(test::writePng(path("b.png"), 300, 150));
-        m_options.merge = true;
-        const PDFOutcome outcome = convertTo(path("out/all.pdf"));
-        QCOMPARE(outcome.entries[0].reason, u"There is no font to write text with"_s);
-        QVERIFY(outcome.entries[1].written);
-        QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 1);
-    }
-
-    void anEmptyTextGivesOneBlankPageAndNoWarning() {
-        addText("a.txt", {});
-        m_options.textPage.sizeMode = TextPageA5;
-        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
-        QVERIFY(outcome.entries[0].warnings.empty());
-        const PdfProbe probe(outcome.close.path);
-        QCOMPARE(probe.pageCount(), 1);
-        QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(0, 0, 420, 595));
-        QImage white(420, 595, QImage::Format_RGB32);
-        white.fill(Qt::white);
-        QCOMPARE(probe.render(1).convertToFormat(QImage::Format_RGB32), white);
-    }
-
-    void textPagesHaveTheSizeChosen_data() {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QSizeF>("size");
-        QTest::newRow("A3") << int{TextPageA3} << QSizeF(842, 1191);
-        QTest::newRow("A4") << int{TextPageA4} << QSizeF(595, 842);
-        QTest::newRow("A5") << int{TextPageA5} << QSizeF(420, 595);
-        QTest::newRow("custom") << int{TextPageCustom} << QSizeF(300, 250);
-    }
-    void textPagesHaveTheSizeChosen() {
-        QFETCH(const int, mode);
-        QFETCH(const QSizeF, size);
-        addText("a.txt", "words");
-        m_options.textPage.sizeMode = mode;
-        m_options.textPage.customWidth = 300;
-        m_options.textPage.customHeight = 250;
-        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
-        const PdfProbe probe(outcome.close.path);
-        QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(QPointF(0, 0), size));
-        QCOMPARE(probe.text(1).trimmed(), u"words"_s);
-    }
-
-    void textIsBlackAndFourteenPointsHigh() {
-        addText("a.txt", "WWWW");
-        const PdfProbe probe(convertTo(path("out/a.pdf")).close.path);
-        const QImage page = probe.render(1, 144);
-        int darkest = 255;
-        for (int y = 0; y < page.height(); ++y) {
-            for (int x = 0; x < page.width(); ++x) {
-                const QColor color = page.pixelColor(x, y);
-                QVERIFY(color.red() == color.green() && color.green() == color.blue());
-                darkest = std::min(darkest, color.red());
-            }
-        }
-        QCOMPARE(darkest, 0);
-        // "W" of the first font measures 1933 of 2048 units.
-        const QList<QPointF> origins = probe.characterOrigins(1);
-        QCOMPARE(origins.size(), 4);
-        QVERIFY(std::abs(origins[3].x() - origins[0].x() - 3 * 14.0 * 1933 / 2048) < 0.01);
     }
 
     void aNameTakenMeanwhileGivesWayInSingleMode() {

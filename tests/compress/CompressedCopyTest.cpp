@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "compress/CompressionPass.h"
+
+#include "CompressionCase.h"
+#include "error/Error.h"
+#include "pdf/PDFContext.h"
+#include "support/FaultyCalls.h"
+#include "support/Files.h"
+#include "support/PdfProbe.h"
+#include "support/PhotoPage.h"
+#include "support/TestUnit.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// The compressed copy: its protection, its name, and how it takes the place of the document.
+class CompressedCopyTest : public QObject, protected CompressionCase {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void passwordsAreAskedAgain() {
+        const QString copy = protectedCopy();
+        QCOMPARE(PdfProbe(copy).pageCount(), 0);
+        const PdfProbe opened(copy, u"user"_s);
+        QCOMPARE(opened.pageCount(), 1);
+        const QString allowed = opened.info(u"Encrypted"_s);
+        QVERIFY2(allowed.contains(u"print:no"_s), qPrintable(allowed));
+        QVERIFY2(allowed.contains(u"copy:yes"_s), qPrintable(allowed));
+        QVERIFY2(allowed.contains(u"AES-256"_s), qPrintable(allowed));
+    }
+
+    void theCopyOfAProtectedDocumentIsPrivate() {
+        const QString copy = protectedCopy();
+        QVERIFY(QFile::exists(copy));
+        QCOMPARE(QFile::permissions(copy) &
+                     (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+                 QFile::Permissions());
+    }
+
+    void theTemporaryNameGivesWayToFilesThatExist() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const QDir folder(m_temporaryFolder);
+        test::writeFile(folder.filePath(u"document.pdf"_s), "mine");
+        test::writeFile(folder.filePath(u"document(1).pdf"_s), "mine too");
+        QCOMPARE(compressed(), folder.filePath(u"document(2).pdf"_s));
+        QCOMPARE(test::readFile(folder.filePath(u"document.pdf"_s)), QByteArray("mine"));
+    }
+
+    void theTemporaryNameCountsBeforeTheLastExtensionAlone() {
+        m_path = m_folder->filePath(u"a.b.pdf"_s);
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const QDir folder(m_temporaryFolder);
+        test::writeFile(folder.filePath(u"a.b.pdf"_s), "mine");
+        QCOMPARE(compressed(), folder.filePath(u"a.b(1).pdf"_s));
+    }
+
+    void theOwnersPasswordOpensTheDocument() {
+        encryptDocument(u"neither"_s, u"owner"_s);
+        CompressionOptions options = optionsOf(1);
+        options.encryption = std::make_shared<const Encryption>(Encryption{u"user"_s, u"owner"_s});
+        QCOMPARE(compress(m_path, options).error, QString());
+    }
+
+    void withoutAnOwnersPasswordTheUsersOpensTheDocument() {
+        encryptDocument(u"neither"_s, u"user"_s);
+        CompressionOptions options = optionsOf(1);
+        options.encryption = std::make_shared<const Encryption>(Encryption{u"user"_s, {}});
+        QCOMPARE(compress(m_path, options).error, QString());
+    }
+
+    void aDocumentWithOtherPasswordsIsNotOpened() {
+        encryptDocument(u"neither"_s, u"nor"_s);
+        CompressionOptions options = optionsOf(1);
+        options.encryption = std::make_shared<const Encryption>(Encryption{u"user"_s, u"owner"_s});
+        QVERIFY(!compress(m_path, options).error.isEmpty());
+    }
+
+    void whatCannotBecomeSmallerIsNotWrittenAgain() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        // Once it is compressed there is nothing left to win.
+        const QString once = compressed();
+        QVERIFY(once != m_path);
+        QVERIFY(QFile::remove(m_path) && QFile::rename(once, m_path));
+        const CompressionOutcome outcome = run(1);
+        QCOMPARE(outcome.error, QString());
+        QVERIFY(!outcome.convertInfo);
+        QCOMPARE(outcome.bytesAfter, outcome.bytesBefore);
+        QVERIFY(QDir(m_temporaryFolder)
+                    .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    }
+
+    void theCopyIsBroughtToTheDiskWhereThatIsAskedFor() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        FaultyCalls calls;
+        calls.failing["fsync"] = EIO;
+        CompressionOptions options = optionsOf(1);
+        options.calls = calls;
+        QCOMPARE(compress(m_path, options).error, QString());
+        options.flush = Flush::Always;
+        QVERIFY(!compress(m_path, options).error.isEmpty());
+    }
+
+    void theDocumentStaysUntilItsSuccessorIsWhole() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const QByteArray before = test::readFile(m_path);
+        const QString copy = compressed();
+        FaultyCalls calls;
+        calls.failing["write"] = ENOSPC;
+        const QString problem = compressCompleted({copy, m_path}, calls);
+        QVERIFY2(problem.contains(u"No space left"_s), qPrintable(problem));
+        QCOMPARE(test::readFile(m_path), before);
+        QVERIFY(!QFile::exists(copy));
+    }
+
+    void aDocumentThatCannotBeRemovedIsNotLost() {
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const QByteArray before = test::readFile(m_path);
+        FaultyCalls calls;
+        calls.failing["unlink"] = EPERM;
+        QVERIFY(!compressCompleted({compressed(), m_path}, calls).isEmpty());
+        QCOMPARE(test::readFile(m_path), before);
+    }
+
+    void theCopyTakesThePlaceOfTheDocument_data() {
+        QTest::addColumn<bool>("window");
+        QTest::newRow("window") << true;
+        QTest::newRow("command line") << false;
+    }
+
+    void theCopyTakesThePlaceOfTheDocument() {
+        QFETCH(const bool, window);
+        writeJpegPage("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const auto permissions = QFile::permissions(m_path);
+        const QString copy = compressed();
+        const QByteArray bytes = test::readFile(copy);
+        if (window) {
+            QCOMPARE(compressCompleted({copy, m_path}), QString());
+        } else {
+            putInPlace({copy, m_path}, Flush::Never);
+        }
+        QCOMPARE(test::readFile(m_path), bytes);
+        QCOMPARE(QFile::permissions(m_path), permissions);
+        QVERIFY(!QFile::exists(copy));
+    }
+
+  private:
+    /// A page at m_path with these passwords.
+    void encryptDocument(const QString &user, const QString &owner) const {
+        const QString plain = test::writePdf(m_folder->filePath(u"plain.pdf"_s), 1);
+        const auto run = test::runTool(
+            u"qpdf"_s, {u"--encrypt"_s, user, owner, u"256"_s, u"--"_s, plain, m_path});
+        QCOMPARE(run.exitCode, 0);
+    }
+
+    /// The compressed copy of a document with the passwords "user" and "owner".
+    QString protectedCopy() const {
+        const QString plain = m_folder->filePath(u"plain.pdf"_s);
+        const PdfFixture page =
+            photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)));
+        if (!page.write(plain)) {
+            return {};
+        }
+        test::runTool(u"qpdf"_s,
+                      {u"--encrypt"_s, u"user"_s, u"owner"_s, u"256"_s, u"--"_s, plain, m_path});
+        CompressionOptions options = optionsOf(1);
+        options.encryption =
+            std::make_shared<const Encryption>(Encryption{u"user"_s, u"owner"_s, true, false});
+        const CompressionOutcome outcome = compress(m_path, options);
+        return outcome.convertInfo ? outcome.convertInfo->tempFilePathName : QString();
+    }
+};
+
+FOLIOFORGE_TEST(CompressedCopyTest)
+#include "CompressedCopyTest.moc"

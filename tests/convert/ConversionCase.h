@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "convert/Conversion.h"
+#include "support/Files.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+#include <vector>
+
+namespace folioforge::test {
+
+/// A list of entries, and "out", where their PDFs go.
+class ConversionCase {
+  protected:
+    void setUp() {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("out")));
+        m_list.clear();
+        m_options = {};
+        m_options.outputFolder = path("out");
+        m_options.flush = Flush::Never;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::vector<std::unique_ptr<PDFFileInfo>> m_list;
+    ConversionOptions m_options;
+
+    QString path(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
+    void addFile(const QString &file) { m_list.push_back(std::make_unique<PDFFileInfo>(file)); }
+    void addText(const char *name, const QByteArray &bytes) {
+        addFile(writeFile(path(name), bytes));
+    }
+    PDFOutcome convertTo(const QString &target, ConversionObserver *observer = nullptr,
+                         const std::stop_token &stop = {}) const {
+        std::vector<const PDFFileInfo *> entries;
+        for (const auto &entry : m_list) {
+            entries.push_back(entry.get());
+        }
+        return createPDF(entries, target, m_options, observer, stop);
+    }
+    QStringList outputs() const {
+        return QDir(m_options.outputFolder).entryList(QDir::Files | QDir::Hidden);
+    }
+};
+
+} // namespace folioforge::test

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ConversionCase.h"
+#include "support/InstalledFonts.h"
+#include "support/PdfProbe.h"
+#include "support/Places.h"
+#include "support/TestUnit.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using test::PdfProbe;
+
+/// What becomes of the text files of a run.
+class TextEntriesTest : public QObject, protected test::ConversionCase {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void aTextThatIsNotUtf8GivesOneBlankPageAndAWarning() {
+        addText("a.txt", "caf\xE9 au lait");
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QVERIFY(outcome.entries[0].written);
+        QCOMPARE(outcome.entries[0].warnings.at(0).code, WarningCode::TextNotUtf8);
+        QCOMPARE(outcome.entries[0].pages, 1);
+        const PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.pageCount(), 1);
+        QCOMPARE(probe.text().trimmed(), QString());
+    }
+
+    void aTabKeepsWordsApart() {
+        addText("a.txt", "left\tright");
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QVERIFY(outcome.entries[0].warnings.empty());
+        QCOMPARE(PdfProbe(outcome.close.path).text().trimmed(), u"left right"_s);
+    }
+
+    void aTextWithBoxesIsWrittenWithAWarning() {
+        addText("a.txt", "a \xEE\x84\xA3 b"); // U+E123, of private use
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QVERIFY(outcome.entries[0].written);
+        QCOMPARE(outcome.entries[0].warnings.size(), std::size_t{1});
+        QCOMPARE(outcome.entries[0].warnings[0].code, WarningCode::MissingGlyphs);
+    }
+
+    void withoutAFontATextIsRefusedAndTheOthersGoOn() {
+        {
+            const test::InstalledFonts none;
+            m_options.textFont = FontCascade::load(u"Liberation Sans"_s, 14);
+        }
+        addText("a.txt", "words");
+        addFile(test::writePng(path("b.png"), 300, 150));
+        m_options.merge = true;
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"));
+        QCOMPARE(outcome.entries[0].reason, u"There is no font to write text with"_s);
+        QVERIFY(outcome.entries[1].written);
+        QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 1);
+    }
+
+    void anEmptyTextGivesOneBlankPageAndNoWarning() {
+        addText("a.txt", {});
+        m_options.textPage.sizeMode = TextPageA5;
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QVERIFY(outcome.entries[0].warnings.empty());
+        const PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.pageCount(), 1);
+        QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(0, 0, 420, 595));
+        QImage white(420, 595, QImage::Format_RGB32);
+        white.fill(Qt::white);
+        QCOMPARE(probe.render(1).convertToFormat(QImage::Format_RGB32), white);
+    }
+
+    void textPagesHaveTheSizeChosen_data() {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QSizeF>("size");
+        QTest::newRow("A3") << int{TextPageA3} << QSizeF(842, 1191);
+        QTest::newRow("A4") << int{TextPageA4} << QSizeF(595, 842);
+        QTest::newRow("A5") << int{TextPageA5} << QSizeF(420, 595);
+        QTest::newRow("custom") << int{TextPageCustom} << QSizeF(300, 250);
+    }
+    void textPagesHaveTheSizeChosen() {
+        QFETCH(const int, mode);
+        QFETCH(const QSizeF, size);
+        addText("a.txt", "words");
+        m_options.textPage.sizeMode = mode;
+        m_options.textPage.customWidth = 300;
+        m_options.textPage.customHeight = 250;
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        const PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.box(u"MediaBox"_s, 1), QRectF(QPointF(0, 0), size));
+        QCOMPARE(probe.text(1).trimmed(), u"words"_s);
+    }
+
+    void textIsBlackAndFourteenPointsHigh() {
+        addText("a.txt", "WWWW");
+        const PdfProbe probe(convertTo(path("out/a.pdf")).close.path);
+        const QImage page = probe.render(1, 144);
+        int darkest = 255;
+        for (int y = 0; y < page.height(); ++y) {
+            for (int x = 0; x < page.width(); ++x) {
+                const QColor color = page.pixelColor(x, y);
+                QVERIFY(color.red() == color.green() && color.green() == color.blue());
+                darkest = std::min(darkest, color.red());
+            }
+        }
+        QCOMPARE(darkest, 0);
+        // "W" of the first font measures 1933 of 2048 units.
+        const QList<QPointF> origins = probe.characterOrigins(1);
+        QCOMPARE(origins.size(), 4);
+        QVERIFY(std::abs(origins[3].x() - origins[0].x() - 3 * 14.0 * 1933 / 2048) < 0.01);
+    }
+};
+
+FOLIOFORGE_TEST(TextEntriesTest)
+#include "TextEntriesTest.moc"
