@@ -119,7 +119,11 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     StoppableCalls calls(given.calls, stop);
     ConversionOptions options = given;
     options.calls = calls;
-    PDFContext context(path, {options.info, encryptionFor(options.security), options.flush, calls});
+    PDFContext context(path, {.info = options.info,
+                              .encryption = encryptionFor(options.security),
+                              .oneSource = entries.size() == 1,
+                              .flush = options.flush,
+                              .calls = calls});
     PDFOutcome outcome;
     for (std::size_t i = 0; i < entries.size() && !stop.stop_requested(); ++i) {
         outcome.entries.push_back(writeEntry(*entries[i], context, options, stop));

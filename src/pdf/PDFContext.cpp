@@ -229,8 +229,11 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         const auto source = openSourceDocument(file, m_reader);
         // A copy, so that an import that fails leaves no stream to the next one.
         SharedStreams streams = m_sourceStreams[key];
-        const ImportedDocument imported = withAllObjects(
-            *source, *m_reader, [&] { return importDocument(*source, m_document, streams); });
+        const auto scope =
+            m_settings.oneSource ? ImportScope::WholeDocument : ImportScope::OneOfSeveral;
+        const ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
+            return importDocument(*source, m_document, streams, scope);
+        });
         m_reader->finish();
         m_catalog.addDocument(imported);
         m_longestStream =

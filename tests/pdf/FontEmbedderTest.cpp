@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "pdf/PDFContext.h"
-#include "support/PdfProbe.h"
+#include "MergeCase.h"
 #include "support/TestUnit.h"
 #include "text/TextPageLayout.h"
 
@@ -123,7 +122,7 @@ class FontEmbedderTest : public QObject {
     [[nodiscard]] QString write(const QString &text, const QString &name = u"text.pdf"_s) {
         const QString path = m_folder.filePath(name);
         QFile::remove(path);
-        PDFContext context(path, {{}, nullptr, Flush::Never});
+        PDFContext context(path, test::unflushed());
         Pages pages(context);
         layOutText(text, {kPageWidth, kPageHeight}, {72, 72, 72, 72}, *font(), pages);
         m_baselines = pages.baselines;

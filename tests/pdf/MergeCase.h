@@ -23,6 +23,13 @@ inline std::unique_ptr<QPDF> opened(const QString &path) {
     return document;
 }
 
+/// Documents of tests need not survive a loss of power.
+inline PDFContext::Settings unflushed() {
+    PDFContext::Settings settings;
+    settings.flush = Flush::Never;
+    return settings;
+}
+
 /// A folder for documents and what they are merged into.
 class MergeCase {
   protected:
@@ -36,11 +43,12 @@ class MergeCase {
         return fixture.write(path) ? path : QString();
     }
 
-    /// The PDF of all of `sources`, which qpdf finds in order.
-    QString merged(const QStringList &sources) {
+    /// The PDF of all of `sources`, which qpdf finds in order. `whole` where a single source is all
+    /// of it.
+    QString merged(const QStringList &sources, bool whole = false) {
         QString path = newPath();
-        PDFContext::Settings settings;
-        settings.flush = Flush::Never;
+        PDFContext::Settings settings = unflushed();
+        settings.oneSource = whole;
         PDFContext context(path, std::move(settings));
         for (const QString &source : sources) {
             context.addDocument(source);

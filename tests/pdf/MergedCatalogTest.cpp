@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "pdf/PDFContext.h"
-#include "support/PdfFixture.h"
-#include "support/PdfProbe.h"
+#include "MergeCase.h"
 #include "support/TestUnit.h"
 
 #include <qpdf/QPDF.hh>
@@ -15,8 +13,10 @@
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
+using test::opened;
 using test::PdfFixture;
 using test::PdfProbe;
+using test::unflushed;
 
 /// What the catalog of a merged document says of bookmarks, layers, forms, labels and versions.
 class MergedCatalogTest : public QObject {
@@ -42,11 +42,6 @@ class MergedCatalogTest : public QObject {
         const QString path = newPath();
         return fixture.write(path) ? path : QString();
     }
-    static std::unique_ptr<QPDF> opened(const QString &path) {
-        auto document = std::make_unique<QPDF>();
-        document->processFile(path.toLocal8Bit().constData());
-        return document;
-    }
     /// The PDF of all of `sources`, read back with the PDF library alone.
     std::unique_ptr<QPDF> merged(const std::vector<PdfFixture> &sources) {
         const QString path = newPath();
@@ -60,12 +55,6 @@ class MergedCatalogTest : public QObject {
         }
         return opened(path);
     }
-    static PDFContext::Settings unflushed() {
-        PDFContext::Settings settings;
-        settings.flush = Flush::Never;
-        return settings;
-    }
-
     static QPDFObjectHandle catalogEntry(QPDF &document, const char *key, const char *inner) {
         auto entry = document.getRoot().getKey(key);
         return entry.isDictionary() ? entry.getKey(inner) : entry;

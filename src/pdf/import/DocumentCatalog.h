@@ -7,15 +7,14 @@
 
 #include <span>
 #include <string>
-#include <utility>
 #include <vector>
 
 class QPDF;
 
 namespace folioforge {
 
-/// The catalog of the document that is being made: pages, bookmarks, form, layers and page labels,
-/// collected page by page and source by source.
+/// The catalog of the document that is being made, collected page by page and source by source.
+/// What belongs to a source as a whole is merged by topic, each in a file of its own.
 class DocumentCatalog {
   public:
     void addPage(const QPDFObjectHandle &page);
@@ -29,22 +28,16 @@ class DocumentCatalog {
     /// The highest PDF version of the sources, at least 1.7.
     [[nodiscard]] const std::string &pdfVersion() const { return m_pdfVersion; }
 
-    /// Writes page tree, bookmarks, form, layers and page labels. Call it once.
+    /// Writes the page tree and every topic. Call it once.
     void finish(QPDF &document);
 
   private:
-    void addPageLabels(const ImportedDocument &imported);
-    void finishBookmarks(QPDF &document);
-    void finishLayers(QPDF &document) const;
-    void finishPageLabels(QPDF &document) const;
-
     std::vector<QPDFObjectHandle> m_pages;
-    std::vector<QPDFObjectHandle> m_bookmarks;
-    /// Index of a page and the label dictionary from there on; null for plain numbers.
-    std::vector<std::pair<long long, QPDFObjectHandle>> m_pageLabels;
-    bool m_hasPageLabels = false;
+    BookmarkMerger m_bookmarks;
+    PageLabelMerger m_pageLabels;
     FormMerger m_forms;
-    ImportedLayers m_layers;
+    LayerMerger m_layers;
+    ImportedCatalogParts m_parts;
     std::string m_pdfVersion = "1.7";
 };
 

@@ -19,4 +19,18 @@ inline std::vector<QPDFObjectHandle> items(QPDFObjectHandle array) {
     return array.isArray() ? array.getArrayAsVector() : std::vector<QPDFObjectHandle>();
 }
 
+/// Writes an array of `members` under `key` where there are any.
+inline void putItems(QPDFObjectHandle dictionary, const std::string &key,
+                     const std::vector<QPDFObjectHandle> &members) {
+    if (!members.empty()) {
+        dictionary.replaceKey(key, QPDFObjectHandle::newArray(members));
+    }
+}
+
+/// Whether a copied object may be a bookmark, a field or a layer: a damaged source may have
+/// anything in their place, pages included.
+inline bool isEntry(QPDFObjectHandle object) {
+    return object.isDictionary() && !object.isDictionaryOfType("/Page");
+}
+
 } // namespace folioforge

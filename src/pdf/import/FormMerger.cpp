@@ -2,6 +2,8 @@
 
 #include "pdf/import/FormMerger.h"
 
+#include "pdf/import/Entries.h"
+
 #include <qpdf/BufferInputSource.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFTokenizer.hh>
@@ -74,13 +76,21 @@ void renameInAppearances(const QPDFObjectHandle &root, const CategoryRenames &re
             field.replaceKey("/DA", QPDFObjectHandle::newString(
                                         renamedAppearance(appearance.getStringValue(), renames)));
         }
-        auto kids = field.getKey("/Kids");
-        if (kids.isArray()) {
-            for (const auto &kid : kids.getArrayAsVector()) {
-                pending.push_back(kid);
-            }
-        }
+        const auto kids = items(field.getKey("/Kids"));
+        pending.insert(pending.end(), kids.begin(), kids.end());
     }
+}
+
+/// Gives a field the defaults of its form, which in the merged one would hold for the fields of all
+/// sources.
+void keepDefaults(QPDFObjectHandle field, const ImportedForm &form) {
+    const auto keep = [&field](const char *key, QPDFObjectHandle value) {
+        if (!value.isNull() && !field.hasKey(key)) {
+            field.replaceKey(key, value);
+        }
+    };
+    keep("/DA", form.defaultAppearance);
+    keep("/Q", form.alignment);
 }
 
 /// `name` or, when that is taken, the name with the next number. `numbers` keeps the last number of
@@ -149,6 +159,11 @@ void FormMerger::add(const ImportedForm &form) {
     Renames names;
     const CategoryRenames resources = addResources(form.resources);
     for (const auto &field : form.fields) {
+        if (!isEntry(field)) {
+            continue;
+        }
+        m_form.fields.push_back(field);
+        keepDefaults(field, form);
         renameField(field, names);
         if (!resources.empty()) {
             renameInAppearances(field, resources);
@@ -157,7 +172,6 @@ void FormMerger::add(const ImportedForm &form) {
     for (const auto &[name, unique] : names) {
         m_names.insert(unique);
     }
-    m_form.fields.insert(m_form.fields.end(), form.fields.begin(), form.fields.end());
     m_form.calculationOrder.insert(m_form.calculationOrder.end(), form.calculationOrder.begin(),
                                    form.calculationOrder.end());
     m_form.needsAppearances |= form.needsAppearances;
@@ -168,10 +182,8 @@ void FormMerger::finish(QPDF &document) {
         return;
     }
     auto form = QPDFObjectHandle::newDictionary();
-    form.replaceKey("/Fields", QPDFObjectHandle::newArray(m_form.fields));
-    if (!m_form.calculationOrder.empty()) {
-        form.replaceKey("/CO", QPDFObjectHandle::newArray(m_form.calculationOrder));
-    }
+    putItems(form, "/Fields", m_form.fields);
+    putItems(form, "/CO", m_form.calculationOrder);
     if (m_form.needsAppearances) {
         form.replaceKey("/NeedAppearances", QPDFObjectHandle::newBool(true));
     }

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "pdf/import/DocumentImport.h"
+#include "pdf/import/FormImport.h"
 
 #include <map>
 #include <set>

@@ -109,7 +109,7 @@ bool hasUsageRights(const QPDFObjectHandle &catalog) {
 
 } // namespace
 
-Warnings namePartsLeft(QPDF &source) {
+Warnings namePartsLeft(QPDF &source, ImportScope scope) {
     const auto catalog = source.getRoot();
     QStringList parts;
     const auto add = [&parts](bool present, const QString &name) {
@@ -127,7 +127,8 @@ Warnings namePartsLeft(QPDF &source) {
     add(hasNames(catalog, "/Templates"), u"page templates"_s);
     add(hasItems(entry(catalog, "/Threads")), u"article threads"_s);
     add(hasItems(entry(entry(catalog, "/OCProperties"), "/Configs")), u"further layer settings"_s);
-    add(!entry(entry(catalog, "/URI"), "/Base").isNull(), u"a base address of links"_s);
+    add(scope == ImportScope::OneOfSeveral && !entry(entry(catalog, "/URI"), "/Base").isNull(),
+        u"a base address of links"_s);
     add(hasUsageRights(catalog), u"usage rights"_s);
     add(saysMoreThanProperties(entry(catalog, "/Metadata")), u"metadata"_s);
     add(hasItems(entry(catalog, "/OutputIntents")), u"output intents"_s);

@@ -3,6 +3,7 @@
 #include "pdf/import/ObjectCopier.h"
 
 #include "pdf/QpdfErrors.h"
+#include "pdf/import/Entries.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -119,6 +120,16 @@ QPDFObjectHandle ObjectCopier::copyInherited(const InheritedValue &inherited) {
 
 QPDFObjectHandle ObjectCopier::copy(const QPDFObjectHandle &object) {
     return object.isIndirect() ? copyIndirect(object) : copyValue(object);
+}
+
+std::vector<QPDFObjectHandle> ObjectCopier::copyItems(const QPDFObjectHandle &array) {
+    std::vector<QPDFObjectHandle> copies;
+    for (auto item : items(array)) {
+        if (!item.isNull()) {
+            copies.push_back(copy(item));
+        }
+    }
+    return copies;
 }
 
 QPDFObjectHandle ObjectCopier::copyIndirect(QPDFObjectHandle object) {

@@ -32,6 +32,8 @@ class ObjectCopier {
     std::vector<QPDFObjectHandle> copyPages(const std::vector<SourcePage> &pages);
     /// The copy of `object`. run() fills an indirect one.
     QPDFObjectHandle copy(const QPDFObjectHandle &object);
+    /// The copies of what an array holds, without what is null; nothing where `array` is none.
+    std::vector<QPDFObjectHandle> copyItems(const QPDFObjectHandle &array);
     /// Fills the pages and objects that copyPages() and copy() returned.
     void run();
     /// Bytes of the longest stream that run() copied, as the source says.

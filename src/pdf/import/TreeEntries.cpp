@@ -4,13 +4,62 @@
 
 #include "pdf/import/Entries.h"
 
+#include <qpdf/QPDF.hh>
+
+#include <algorithm>
 #include <set>
 
 namespace folioforge {
 
-std::vector<std::pair<QPDFObjectHandle, QPDFObjectHandle>>
-readTreeEntries(const QPDFObjectHandle &root, const char *leafKey) {
-    std::vector<std::pair<QPDFObjectHandle, QPDFObjectHandle>> entries;
+namespace {
+
+constexpr std::size_t kFanOut = 64;
+
+/// A node of a tree that is built, and the least and the greatest key under it.
+struct Node {
+    QPDFObjectHandle object;
+    QPDFObjectHandle least;
+    QPDFObjectHandle greatest;
+};
+
+Node leaf(const TreeEntries &entries, std::size_t from, std::size_t to, const char *leafKey) {
+    std::vector<QPDFObjectHandle> pairs;
+    pairs.reserve(2 * (to - from));
+    for (std::size_t i = from; i < to; ++i) {
+        pairs.push_back(entries[i].first);
+        pairs.push_back(entries[i].second);
+    }
+    auto object = QPDFObjectHandle::newDictionary();
+    object.replaceKey(leafKey, QPDFObjectHandle::newArray(pairs));
+    return {object, entries[from].first, entries[to - 1].first};
+}
+
+QPDFObjectHandle limitsOf(const Node &node) {
+    return QPDFObjectHandle::newArray({node.least, node.greatest});
+}
+
+/// The nodes one level above `nodes`, each over the next ones.
+std::vector<Node> grouped(QPDF &document, const std::vector<Node> &nodes) {
+    std::vector<Node> parents;
+    for (std::size_t from = 0; from < nodes.size(); from += kFanOut) {
+        const std::size_t to = std::min(from + kFanOut, nodes.size());
+        std::vector<QPDFObjectHandle> kids;
+        for (std::size_t i = from; i < to; ++i) {
+            QPDFObjectHandle kid = nodes[i].object;
+            kid.replaceKey("/Limits", limitsOf(nodes[i])); // The root alone has none.
+            kids.push_back(document.makeIndirectObject(kid));
+        }
+        auto object = QPDFObjectHandle::newDictionary();
+        object.replaceKey("/Kids", QPDFObjectHandle::newArray(kids));
+        parents.push_back({object, nodes[from].least, nodes[to - 1].greatest});
+    }
+    return parents;
+}
+
+} // namespace
+
+TreeEntries readTreeEntries(const QPDFObjectHandle &root, const char *leafKey) {
+    TreeEntries entries;
     std::vector<QPDFObjectHandle> pending{root};
     std::set<QPDFObjGen> visited;
     while (!pending.empty()) {
@@ -20,14 +69,26 @@ readTreeEntries(const QPDFObjectHandle &root, const char *leafKey) {
             (node.isIndirect() && !visited.insert(node.getObjGen()).second)) {
             continue;
         }
-        const auto leaf = items(node.getKey(leafKey));
-        for (std::size_t i = 0; i + 1 < leaf.size(); i += 2) {
-            entries.emplace_back(leaf[i], leaf[i + 1]);
+        const auto pairs = items(node.getKey(leafKey));
+        for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {
+            entries.emplace_back(pairs[i], pairs[i + 1]);
         }
         const auto kids = items(node.getKey("/Kids"));
         pending.insert(pending.end(), kids.rbegin(), kids.rend());
     }
     return entries;
+}
+
+QPDFObjectHandle buildTree(QPDF &document, const TreeEntries &entries, const char *leafKey) {
+    std::vector<Node> nodes;
+    for (std::size_t from = 0; from < entries.size(); from += kFanOut) {
+        nodes.push_back(leaf(entries, from, std::min(from + kFanOut, entries.size()), leafKey));
+    }
+    while (nodes.size() > 1) {
+        nodes = grouped(document, nodes);
+    }
+    auto root = nodes.empty() ? QPDFObjectHandle::newDictionary() : nodes.front().object;
+    return document.makeIndirectObject(root);
 }
 
 } // namespace folioforge

@@ -7,11 +7,19 @@
 #include <utility>
 #include <vector>
 
+class QPDF;
+
 namespace folioforge {
 
-/// The keys and values of a name tree or a number tree (ISO 32000-1, 7.9.6 and 7.9.7) in their
-/// order. `leafKey` is /Names or /Nums. A node that the tree contains more than once is read once.
-std::vector<std::pair<QPDFObjectHandle, QPDFObjectHandle>>
-readTreeEntries(const QPDFObjectHandle &root, const char *leafKey);
+/// The keys and values of a name tree or a number tree (ISO 32000-1, 7.9.6 and 7.9.7).
+using TreeEntries = std::vector<std::pair<QPDFObjectHandle, QPDFObjectHandle>>;
+
+/// The entries of a tree in their order. `leafKey` is /Names or /Nums. A node that the tree
+/// contains more than once is read once.
+TreeEntries readTreeEntries(const QPDFObjectHandle &root, const char *leafKey);
+
+/// Makes a balanced tree of `entries`, which are in the order of their keys and have no key twice.
+/// `leafKey` as above.
+QPDFObjectHandle buildTree(QPDF &document, const TreeEntries &entries, const char *leafKey);
 
 } // namespace folioforge

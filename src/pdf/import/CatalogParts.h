@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "pdf/import/LeftParts.h"
+
+#include <qpdf/QPDFObjectHandle.hh>
+
+#include <map>
+#include <string>
+
+class QPDF;
+
+namespace folioforge {
+
+class ObjectCopier;
+
+/// Entries of a source's catalog that stay what they are, copied, by key.
+using ImportedCatalogParts = std::map<std::string, QPDFObjectHandle>;
+
+/// What belongs to the document as a whole and to no other topic, such as how readers show it. A
+/// source that is one of several brings none.
+ImportedCatalogParts importCatalogParts(QPDF &source, ObjectCopier &copier, ImportScope scope);
+
+/// Writes the entries into the catalog of `document`.
+void putCatalogParts(QPDF &document, const ImportedCatalogParts &parts);
+
+} // namespace folioforge
