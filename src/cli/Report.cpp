@@ -56,6 +56,14 @@ QJsonArray toJson(const Warnings &warnings) {
     return array;
 }
 
+QJsonObject toJson(const PartCounts &parts) {
+    QJsonObject object;
+    for (const auto &[kind, count] : parts) {
+        object.insert(nameOf(kind), static_cast<qint64>(count));
+    }
+    return object;
+}
+
 QByteArray escapedUnits(const QString &text) {
     QByteArray result;
     for (const QChar unit : text) {
@@ -133,6 +141,7 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
         own.output = close.path;
         own.pages = entry.pages;
         own.embedded = entry.embeddedAs;
+        own.parts = entry.parts;
         own.compression = result.compression;
         return own;
     }
@@ -155,6 +164,10 @@ QByteArray toJson(const InputResult &result) {
     object.insert(u"warnings"_s, toJson(result.warnings));
     if (result.embedded) {
         object.insert(u"embedded"_s, nameOf(*result.embedded));
+    }
+    if (result.parts) {
+        object.insert(u"carried"_s, toJson(result.parts->carried));
+        object.insert(u"left"_s, toJson(result.parts->left));
     }
     if (result.compression && result.compression->error.isEmpty()) {
         addTo(object, *result.compression);

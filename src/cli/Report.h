@@ -29,6 +29,7 @@ struct InputResult {
     QString reason;    ///< Why it failed or was rejected.
     Warnings warnings; ///< What was lost of it though it was written.
     std::optional<EmbeddedAs> embedded;
+    std::optional<DocumentParts> parts;            ///< Of a PDF that is written.
     std::optional<CompressionOutcome> compression; ///< What the compression pass did to its PDF.
 
     /// The result of an input that did not enter the list for `reason`.

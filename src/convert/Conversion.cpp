@@ -40,9 +40,12 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
     case FileKind::Text:
         outcome.warnings = addTextPage(entry, context, options, stop);
         break;
-    case FileKind::Pdf:
-        outcome.warnings = addPDFFile(entry, context).warnings;
+    case FileKind::Pdf: {
+        AddedDocument document = addPDFFile(entry, context);
+        outcome.parts = std::move(document.parts);
+        outcome.warnings = std::move(document.warnings);
         break;
+    }
     case FileKind::Image:
     case FileKind::Other: {
         WrittenImage image = addImagePage(entry, context, options);

@@ -43,6 +43,7 @@ struct EntryOutcome {
     QString reason;                       ///< Why it was not written.
     Warnings warnings;                    ///< What of it was lost though it was written.
     std::optional<EmbeddedAs> embeddedAs; ///< How an image was embedded; nothing for others.
+    std::optional<DocumentParts> parts;   ///< Of a PDF; nothing for others.
 };
 
 /// How the writing of one PDF went.

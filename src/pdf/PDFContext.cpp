@@ -239,7 +239,8 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         m_longestStream =
             std::max(m_longestStream, std::min<qsizetype>(imported.longestStream, file.size));
         m_sourceStreams[key] = std::move(streams);
-        return AddedDocument{static_cast<int>(imported.pages.size()), imported.warnings};
+        return AddedDocument{static_cast<int>(imported.pages.size()), imported.warnings,
+                             imported.parts};
     });
 }
 

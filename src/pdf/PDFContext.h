@@ -6,6 +6,7 @@
 #include "files/OutputFile.h"
 #include "files/SystemCalls.h"
 #include "pdf/DocumentInfo.h"
+#include "pdf/DocumentParts.h"
 #include "pdf/Password.h"
 #include "text/FontCascade.h"
 
@@ -36,7 +37,8 @@ struct CloseResult {
 /// What a source document brought.
 struct AddedDocument {
     int pages = 0;
-    Warnings warnings; ///< What of the document is not carried over.
+    Warnings warnings; ///< What of the document is not carried over, or changed.
+    DocumentParts parts;
 };
 
 /// The drawing context of one PDF file. Pages are drawn one after another. Nothing appears under

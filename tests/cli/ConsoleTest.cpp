@@ -91,6 +91,7 @@ class ConsoleTest : public QObject {
         result.reason = u"It broke"_s;
         result.warnings.push_back({WarningCode::PageSize, u"blank"_s});
         result.embedded = EmbeddedAs::OwnBytes;
+        result.parts.emplace();
         result.compression.emplace().imagesKept.emplace_back();
         InputResult failure;
         failure.compression.emplace().error = u"no filter"_s;
@@ -116,6 +117,16 @@ class ConsoleTest : public QObject {
         for (const QLatin1StringView name : kWarningNames) {
             QVERIFY2(section.contains(".It Li " + QByteArray(name.data(), name.size()) + '\n'),
                      name.data());
+        }
+    }
+
+    void theManualNamesEveryKindOfPart() {
+        const QByteArray manual = manualPage();
+        for (const PartWords &words : partWords()) {
+            const QByteArray name(words.name.data(), words.name.size());
+            QVERIFY2(manual.contains("\n.Li " + name + '\n') ||
+                         manual.contains("\n.Li " + name + " ,\n"),
+                     name.constData());
         }
     }
 

@@ -2,6 +2,7 @@
 
 #include "CommandLineCase.h"
 #include "support/Files.h"
+#include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
 
@@ -190,6 +191,25 @@ class ReportsTest : public QObject, protected CommandLineCase {
         QVERIFY(!objects[1].contains(u"embedded"_s));
         QVERIFY(!member(objects[2], "embedded").isEmpty());
         QCOMPARE(objects[3][u"pages"_s].toInt(), 2);
+    }
+
+    void jsonCountsWhatAPdfBringsAndWhatNot() {
+        PdfFixture source;
+        source
+            .object(1, "<< /Type /Catalog /Pages 2 0 R /OutputIntents [<< >> << >>] /AcroForm << "
+                       "/Fields [<< >>] /XFA (a) >> >>")
+            .pages(4, 1)
+            .object(4,
+                    "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] /Annots [<< /Subtype /Link "
+                    "/Rect [0 0 9 9] >>] >>");
+        QVERIFY(source.write(path("a.pdf")));
+        const ToolRun run = merge("all", {u"--json"_s, path("a.pdf"), text("b.txt")});
+        const auto objects = objectsOf(run.out);
+        QCOMPARE(objects.size(), 2);
+        QCOMPARE(objects[0][u"carried"_s].toObject(), (QJsonObject{{u"links"_s, 1}}));
+        QCOMPARE(objects[0][u"left"_s].toObject(),
+                 (QJsonObject{{u"output-intents"_s, 2}, {u"xfa-form"_s, 1}}));
+        QVERIFY(!objects[1].contains(u"carried"_s));
     }
 
     void jsonOfAMergeNamesTheOnePdfForEach() {

@@ -2,6 +2,7 @@
 
 #include "pdf/import/DocumentImport.h"
 
+#include "pdf/import/CarriedParts.h"
 #include "pdf/import/ContentCheck.h"
 #include "pdf/import/ObjectCopier.h"
 #include "pdf/import/SourceDamage.h"
@@ -32,7 +33,8 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     shared.beginCopy(source);
     ObjectCopier copier(source, target, shared);
     ImportedDocument imported;
-    imported.warnings = namePartsLeft(source, scope);
+    imported.parts.left = countLeft(source, scope);
+    imported.warnings = namePartsLeft(imported.parts.left);
     const SourcePages found = readSourcePages(source);
     ContentCheck contents(source, found.pages);
     imported.pages = copier.copyPages(found.pages);
@@ -43,8 +45,11 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     imported.catalogParts = importCatalogParts(source, copier, scope);
     copier.run();
     if (copier.signaturesLeftOut() > 0) {
+        addParts(imported.parts.left, PartKind::Signatures,
+                 static_cast<std::size_t>(copier.signaturesLeftOut()));
         imported.warnings.push_back(signaturesRemoved(copier.signaturesLeftOut()));
     }
+    imported.parts.carried = countCarried(imported);
     imported.longestStream = copier.longestStream();
     imported.pdfVersion = source.getPDFVersion();
     if (imported.pages.empty()) {

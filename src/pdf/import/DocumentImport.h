@@ -3,6 +3,7 @@
 #pragma once
 
 #include "error/Warning.h"
+#include "pdf/DocumentParts.h"
 #include "pdf/import/Bookmarks.h"
 #include "pdf/import/CatalogParts.h"
 #include "pdf/import/FormImport.h"
@@ -32,7 +33,8 @@ struct ImportedDocument {
     ImportedCatalogParts catalogParts;
     std::string pdfVersion;
     qsizetype longestStream = 0; ///< Bytes, as the source says.
-    Warnings warnings;           ///< What of the document is not copied.
+    DocumentParts parts;
+    Warnings warnings; ///< What of the document is not copied.
 };
 
 /// Copies the pages of `source` into `target` with all that belongs to them, but puts nothing into

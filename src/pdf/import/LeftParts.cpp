@@ -10,7 +10,6 @@
 #include <qpdf/QPDF.hh>
 
 #include <QString>
-#include <QStringList>
 
 #include <algorithm>
 #include <array>
@@ -26,12 +25,12 @@ namespace folioforge {
 
 namespace {
 
-bool hasItems(QPDFObjectHandle object) {
-    return !items(object).empty() || (object.isDictionary() && !object.getKeys().empty());
+std::size_t countItems(QPDFObjectHandle object) {
+    return object.isDictionary() ? object.getKeys().size() : items(object).size();
 }
 
-bool hasNames(const QPDFObjectHandle &catalog, const char *tree) {
-    return !readTreeEntries(entry(entry(catalog, "/Names"), tree), "/Names").empty();
+std::size_t countNames(const QPDFObjectHandle &catalog, const char *tree) {
+    return readTreeEntries(entry(entry(catalog, "/Names"), tree), "/Names").size();
 }
 
 /// Files that belong to the whole document. Those of pages and annotations are copied with them.
@@ -50,10 +49,10 @@ std::size_t countAttachments(const QPDFObjectHandle &catalog) {
 
 /// What runs when the document is opened, printed or closed. An action that only shows a page is
 /// none: the reader decides where it opens a document of several sources.
-bool hasScripts(const QPDFObjectHandle &catalog) {
+std::size_t countScripts(const QPDFObjectHandle &catalog) {
     auto opening = entry(catalog, "/OpenAction");
-    return hasNames(catalog, "/JavaScript") || hasItems(entry(catalog, "/AA")) ||
-           (opening.isDictionary() && !entry(opening, "/S").isNameAndEquals("/GoTo"));
+    const bool runs = opening.isDictionary() && !entry(opening, "/S").isNameAndEquals("/GoTo");
+    return countNames(catalog, "/JavaScript") + countItems(entry(catalog, "/AA")) + (runs ? 1 : 0);
 }
 
 /// An XMP packet, as far as it is short enough to be looked through.
@@ -109,33 +108,34 @@ bool hasUsageRights(const QPDFObjectHandle &catalog) {
 
 } // namespace
 
-Warnings namePartsLeft(QPDF &source, ImportScope scope) {
+PartCounts countLeft(QPDF &source, ImportScope scope) {
     const auto catalog = source.getRoot();
-    QStringList parts;
-    const auto add = [&parts](bool present, const QString &name) {
-        if (present) {
-            parts.append(name);
-        }
+    PartCounts left;
+    const auto add = [&left](PartKind kind, bool present) {
+        addParts(left, kind, present ? 1 : 0);
     };
-    const auto attachments = countAttachments(catalog);
-    add(!entry(entry(catalog, "/StructTreeRoot"), "/K").isNull(), u"structure tags"_s);
-    add(attachments == 1, u"1 attachment"_s);
-    add(attachments > 1, u"%1 attachments"_s.arg(attachments));
-    add(entry(catalog, "/Collection").isDictionary(), u"a portfolio"_s);
-    add(!entry(entry(catalog, "/AcroForm"), "/XFA").isNull(), u"an XFA form"_s);
-    add(hasScripts(catalog), u"document scripts"_s);
-    add(hasNames(catalog, "/Templates"), u"page templates"_s);
-    add(hasItems(entry(catalog, "/Threads")), u"article threads"_s);
-    add(hasItems(entry(entry(catalog, "/OCProperties"), "/Configs")), u"further layer settings"_s);
-    add(scope == ImportScope::OneOfSeveral && !entry(entry(catalog, "/URI"), "/Base").isNull(),
-        u"a base address of links"_s);
-    add(hasUsageRights(catalog), u"usage rights"_s);
-    add(saysMoreThanProperties(entry(catalog, "/Metadata")), u"metadata"_s);
-    add(hasItems(entry(catalog, "/OutputIntents")), u"output intents"_s);
-    if (parts.isEmpty()) {
+    add(PartKind::StructureTree, !entry(entry(catalog, "/StructTreeRoot"), "/K").isNull());
+    addParts(left, PartKind::Attachments, countAttachments(catalog));
+    add(PartKind::Portfolio, entry(catalog, "/Collection").isDictionary());
+    add(PartKind::XfaForm, !entry(entry(catalog, "/AcroForm"), "/XFA").isNull());
+    addParts(left, PartKind::Scripts, countScripts(catalog));
+    addParts(left, PartKind::PageTemplates, countNames(catalog, "/Templates"));
+    addParts(left, PartKind::ArticleThreads, countItems(entry(catalog, "/Threads")));
+    addParts(left, PartKind::LayerSettings,
+             countItems(entry(entry(catalog, "/OCProperties"), "/Configs")));
+    add(PartKind::BaseAddress,
+        scope == ImportScope::OneOfSeveral && !entry(entry(catalog, "/URI"), "/Base").isNull());
+    add(PartKind::UsageRights, hasUsageRights(catalog));
+    add(PartKind::Metadata, saysMoreThanProperties(entry(catalog, "/Metadata")));
+    addParts(left, PartKind::OutputIntents, countItems(entry(catalog, "/OutputIntents")));
+    return left;
+}
+
+Warnings namePartsLeft(const PartCounts &left) {
+    if (left.empty()) {
         return {};
     }
-    return {{WarningCode::PdfPartsLeft, u"Not carried over: %1"_s.arg(parts.join(u", "_s))}};
+    return {{WarningCode::PdfPartsLeft, u"Not carried over: %1"_s.arg(inWords(left))}};
 }
 
 } // namespace folioforge

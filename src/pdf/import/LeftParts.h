@@ -3,6 +3,7 @@
 #pragma once
 
 #include "error/Warning.h"
+#include "pdf/DocumentParts.h"
 
 class QPDF;
 
@@ -14,9 +15,11 @@ enum class ImportScope {
     OneOfSeveral   ///< A part of it.
 };
 
-/// Names in one warning what `source` has beside its pages and does not get into the document that
-/// is made; no warning where there is nothing that anybody would miss. To be called before pages
-/// are copied.
-Warnings namePartsLeft(QPDF &source, ImportScope scope);
+/// Counts what `source` has beside its pages and does not get into the document that is made;
+/// nothing that nobody would miss. To be called before pages are copied.
+PartCounts countLeft(QPDF &source, ImportScope scope);
+
+/// Names in one warning what is left; no warning where there is nothing.
+Warnings namePartsLeft(const PartCounts &left);
 
 } // namespace folioforge

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/CarriedParts.h"
+
+#include "pdf/import/DocumentImport.h"
+#include "pdf/import/Entries.h"
+
+#include <algorithm>
+#include <set>
+#include <vector>
+
+namespace folioforge {
+
+namespace {
+
+using Objects = std::vector<QPDFObjectHandle>;
+
+/// Counts those of `open` and of what `next` gives for each that `counts` says are to be counted.
+/// An object that is reached twice is taken once.
+template<typename Next, typename Counts>
+std::size_t countReached(Objects open, Next &&next, Counts &&counts) {
+    std::set<QPDFObjGen> visited;
+    std::size_t number = 0;
+    while (!open.empty()) {
+        const QPDFObjectHandle object = open.back();
+        open.pop_back();
+        if (!isEntry(object) ||
+            (object.isIndirect() && !visited.insert(object.getObjGen()).second)) {
+            continue;
+        }
+        number += counts(object) ? 1 : 0;
+        const Objects found = next(object);
+        open.insert(open.end(), found.begin(), found.end());
+    }
+    return number;
+}
+
+std::size_t countBookmarks(const ImportedBookmarks &bookmarks) {
+    return countReached(
+        bookmarks,
+        [](const QPDFObjectHandle &item) {
+            return Objects{entry(item, "/First"), entry(item, "/Next")};
+        },
+        [](const QPDFObjectHandle &) { return true; });
+}
+
+/// A field without fields under it. What is under it and has no name are its widgets.
+bool isTerminal(const QPDFObjectHandle &field) {
+    return std::ranges::none_of(items(entry(field, "/Kids")), [](const QPDFObjectHandle &kid) {
+        return entry(kid, "/T").isString();
+    });
+}
+
+std::size_t countFields(const Objects &roots) {
+    return countReached(
+        roots,
+        [](const QPDFObjectHandle &field) {
+            return isTerminal(field) ? Objects() : items(entry(field, "/Kids"));
+        },
+        isTerminal);
+}
+
+void addAnnotations(PartCounts &parts, const QPDFObjectHandle &page) {
+    for (const auto &annotation : items(entry(page, "/Annots"))) {
+        auto subtype = entry(annotation, "/Subtype");
+        const bool belongsToAnother =
+            subtype.isNameAndEquals("/Widget") || subtype.isNameAndEquals("/Popup");
+        if (subtype.isName() && !belongsToAnother) {
+            addParts(parts,
+                     subtype.isNameAndEquals("/Link") ? PartKind::Links : PartKind::Annotations, 1);
+        }
+    }
+}
+
+} // namespace
+
+PartCounts countCarried(const ImportedDocument &imported) {
+    PartCounts parts;
+    if (imported.pages.empty()) {
+        return parts; // Then the document brings nothing.
+    }
+    for (const auto &page : imported.pages) {
+        addAnnotations(parts, page);
+    }
+    addParts(parts, PartKind::Bookmarks, countBookmarks(imported.bookmarks));
+    addParts(parts, PartKind::PageLabels,
+             static_cast<std::size_t>(std::ranges::count_if(
+                 imported.pageLabels, [](auto label) { return !label.second.isNull(); })));
+    addParts(parts, PartKind::Fields, countFields(imported.form.fields));
+    addParts(parts, PartKind::Layers,
+             static_cast<std::size_t>(std::ranges::count_if(imported.layers.groups, isEntry)));
+    addParts(parts, PartKind::BaseAddress, imported.catalogParts.contains("/URI") ? 1 : 0);
+    return parts;
+}
+
+} // namespace folioforge

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "MergeCase.h"
+#include "support/TestUnit.h"
+
+#include <set>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace folioforge {
+// So that a comparison that fails shows both.
+inline char *toString(const PartCounts &parts) {
+    return QTest::toString(inWords(parts));
+}
+} // namespace folioforge
+
+/// What is said to have come with a document, and what not, counted.
+class CarriedPartsTest : public QObject, protected MergeCase {
+    Q_OBJECT
+
+    static PdfFixture withCatalog(const QByteArray &keys) {
+        PdfFixture fixture;
+        fixture.object(1, "<< /Type /Catalog /Pages 2 0 R " + keys + " >>").pages(4, 1);
+        return fixture;
+    }
+    static PdfFixture withAnnotations(const QByteArray &annotations, const QByteArray &keys = {}) {
+        PdfFixture source = withCatalog(keys);
+        source.object(4, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] /Annots [" +
+                             annotations + "] >>");
+        return source;
+    }
+    DocumentParts parts(const PdfFixture &source) {
+        return PDFContext(newPath(), {}).addDocument(saved(source)).parts;
+    }
+
+  private Q_SLOTS:
+    void aPlainPageBringsNothingElse() {
+        const DocumentParts counted = parts(withCatalog({}));
+        QCOMPARE(counted.carried, PartCounts());
+        QCOMPARE(counted.left, PartCounts());
+    }
+
+    void linksAndOtherAnnotationsAreCountedApart() {
+        const QByteArray box = " /Rect [0 0 9 9] >> ";
+        const DocumentParts counted = parts(withAnnotations(
+            "<< /Subtype /Link" + box + "<< /Subtype /Link" + box + "<< /Subtype /Text" + box +
+            "<< /Subtype /Popup" + box + "<< /Subtype /Widget" + box));
+        QCOMPARE(counted.carried, (PartCounts{{PartKind::Links, 2}, {PartKind::Annotations, 1}}));
+    }
+
+    void bookmarksOfEveryLevelAreCountedOnce() {
+        PdfFixture source = withCatalog("/Outlines << /First 20 0 R /Last 22 0 R >>");
+        source.object(20, "<< /Title (1) /First 21 0 R /Last 21 0 R /Next 22 0 R >>");
+        source.object(21, "<< /Title (1.1) /Next 21 0 R >>"); // Leads to itself.
+        source.object(22, "<< /Title (2) >>");
+        QCOMPARE(parts(source).carried, (PartCounts{{PartKind::Bookmarks, 3}}));
+    }
+
+    void fieldsAreCountedAndNotTheirWidgets() {
+        const QByteArray widget = "<< /Subtype /Widget /Rect [0 0 9 9] /Parent ";
+        PdfFixture source = withAnnotations("24 0 R 25 0 R 26 0 R",
+                                            "/AcroForm << /Fields [20 0 R 22 0 R 26 0 R] >>");
+        source.object(20, "<< /T (address) /Kids [21 0 R 23 0 R] >>");
+        source.object(21, "<< /T (street) /FT /Tx /Parent 20 0 R >>");
+        source.object(22, "<< /T (choice) /FT /Btn /Kids [24 0 R 25 0 R] >>");
+        source.object(23, "<< /T (town) /FT /Tx /Parent 20 0 R >>");
+        source.object(24, widget + "22 0 R >>").object(25, widget + "22 0 R >>");
+        source.object(26, "<< /T (name) /FT /Tx /Subtype /Widget /Rect [0 0 9 9] >>");
+        QCOMPARE(parts(source).carried, (PartCounts{{PartKind::Fields, 4}}));
+    }
+
+    void layersAndPageLabelsAreCounted() {
+        PdfFixture source = withCatalog("/OCProperties << /OCGs [20 0 R 21 0 R] /D << >> >> "
+                                        "/PageLabels << /Nums [0 << /S /r >>] >>");
+        source.object(20, "<< /Type /OCG /Name (a) >>").object(21, "<< /Type /OCG /Name (b) >>");
+        QCOMPARE(parts(source).carried,
+                 (PartCounts{{PartKind::PageLabels, 1}, {PartKind::Layers, 2}}));
+    }
+
+    void whatIsLeftIsCountedAsItIsNamed() {
+        PdfFixture source = withCatalog("/OutputIntents [<< >> << >>] /AcroForm << /Fields [20 0 "
+                                        "R] >> /Perms << /UR3 << >> >>");
+        source.object(20, "<< /FT /Sig /T (one) /V << /Contents <00> /ByteRange [0 1 2 3] >> >>");
+        const DocumentParts counted = parts(source);
+        QCOMPARE(counted.carried, (PartCounts{{PartKind::Fields, 1}}));
+        QCOMPARE(counted.left, (PartCounts{{PartKind::UsageRights, 1},
+                                           {PartKind::OutputIntents, 2},
+                                           {PartKind::Signatures, 1}}));
+    }
+
+    void aDocumentWithoutPagesBringsNothing() {
+        PdfFixture source = withCatalog("/Outlines << /First 20 0 R >>");
+        source.object(2, "<< /Type /Pages /Kids [] /Count 0 >>").object(20, "<< /Title (1) >>");
+        QCOMPARE(parts(source).carried, PartCounts());
+    }
+
+    void everyKindHasANameOfItsOwn() {
+        std::set<QString> names;
+        for (const PartWords &words : partWords()) {
+            QVERIFY(!words.one.isEmpty());
+            names.insert(words.name);
+        }
+        QCOMPARE(names.size(), partWords().size());
+    }
+};
+
+FOLIOFORGE_TEST(CarriedPartsTest)
+#include "CarriedPartsTest.moc"
