@@ -14,10 +14,6 @@
 #include "filelist/SourceFiles.h"
 #include "files/Printable.h"
 #include "files/TemporaryFolder.h"
-
-#include <algorithm>
-#include <iterator>
-
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
@@ -83,7 +79,7 @@ class Call : private RunObserver {
             m_names.push_back(input.shown);
         }
         const std::stop_token outOfTime = outOfProcessorTime();
-        const Run run(std::move(entries), m_arguments.options, applicationBundlePath(), outOfTime);
+        Run run(std::move(entries), m_arguments.options, applicationBundlePath(), outOfTime);
         run.convertAll(m_temporaryFolder, *this);
         m_progress.finish();
         if (outOfTime.stop_requested()) {
@@ -114,17 +110,11 @@ class Call : private RunObserver {
                 u"%1: not compressed: %2"_s.arg(printable(close.path), compression->error));
         }
         for (std::size_t i = 0; i < result.outcome.entries.size(); ++i) {
-            InputResult input = InputResult::of(m_names[result.firstEntry + i], result, i);
+            const InputResult input = InputResult::of(m_names[result.firstEntry + i], result, i);
             m_reported = result.firstEntry + i + 1;
-            // What is true of a file system is true of every PDF there.
-            if (!m_documentWarned) {
-                std::ranges::copy(close.warnings, std::back_inserter(input.warnings));
-                m_documentWarned = !close.warnings.empty();
-            }
             report(input);
         }
-        if (close.status == CloseResult::Status::Written && !m_arguments.quiet &&
-            !m_arguments.json) {
+        if (result.outcome.isWritten() && !m_arguments.quiet && !m_arguments.json) {
             m_console.result(printable(close.path).toUtf8());
             if (compression && compression->error.isEmpty()) {
                 m_console.result("  " + printable(toWords(*compression)).toUtf8());
@@ -152,9 +142,8 @@ class Call : private RunObserver {
 
     const Arguments &m_arguments;
     Console &m_console;
-    std::vector<QString> m_names;  ///< Of the inputs, as they were given.
-    std::size_t m_reported = 0;    ///< How many of them are.
-    bool m_documentWarned = false; ///< Warnings of a whole PDF are said once.
+    std::vector<QString> m_names; ///< Of the inputs, as they were given.
+    std::size_t m_reported = 0;   ///< How many of them are.
     ProgressLine m_progress;
     TemporaryFolder m_temporaryFolder;
     ReadableLinks m_readableLinks{m_temporaryFolder}; ///< Outlives the inputs that lead through it.

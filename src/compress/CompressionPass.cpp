@@ -149,9 +149,10 @@ void compressInto(const QString &path, const CompressionOptions &options,
         outcome.imagesReduced = 0;
         return;
     }
-    auto part = copy.finish(options.flush);
+    auto file = copy.finish(options.flush);
     outcome.bytesAfter = copy.size();
-    outcome.convertInfo = ConvertInfo{QFile::decodeName(part->path().c_str()), path, part};
+    outcome.convertInfo =
+        ConvertInfo{QFile::decodeName(file->path().c_str()), path, std::move(file)};
 }
 
 /// The copy of `source` for `destination`, whole but without its name.
@@ -183,34 +184,21 @@ CompressionOutcome compress(const QString &path, const CompressionOptions &optio
 
 QString compressCompleted(const ConvertInfo &convertInfo, SystemCalls &calls) {
     const QString &destination = convertInfo.destFilePathName;
-    QString problem;
     try {
         const auto copy = copyFor(destination, convertInfo.tempFilePathName, Flush::Always, calls);
-        deleteFile(destination, calls);
+        calls.unlink(QFile::encodeName(destination).constData());
         if (copy->publish(destination, Flush::Always) == OutputFile::Published::NameTaken) {
-            problem = u"Its name was taken by another file"_s;
+            return u"Its name was taken by another file"_s;
         }
     } catch (const Error &error) {
-        problem = error.reason();
+        return error.reason();
     }
-    deleteFile(convertInfo.tempFilePathName, calls);
-    return problem;
+    return {};
 }
 
 void putInPlace(const ConvertInfo &convertInfo, Flush flush, SystemCalls &calls) {
     const QString &destination = convertInfo.destFilePathName;
-    const QString &copy = convertInfo.tempFilePathName;
-    try {
-        copyFor(destination, copy, flush, calls)->replace(destination, flush);
-    } catch (const Error &) {
-        deleteFile(copy, calls);
-        throw;
-    }
-    deleteFile(copy, calls);
-}
-
-void deleteFile(const QString &path, SystemCalls &calls) {
-    calls.unlink(QFile::encodeName(path).constData());
+    copyFor(destination, convertInfo.tempFilePathName, flush, calls)->replace(destination, flush);
 }
 
 } // namespace folioforge

@@ -15,12 +15,14 @@
 namespace folioforge {
 
 struct Encryption;
+class TemporaryFile;
 
-/// The hand-over record of the compression pass: the compressed copy and the file it replaces.
+/// The hand-over record of the compression pass: the compressed copy and the file it replaces. The
+/// copy is removed with the last record of it.
 struct ConvertInfo {
     QString tempFilePathName; ///< "Temp File Path Name": whole, in the temporary folder.
     QString destFilePathName; ///< "Dest File Path Name": the PDF that was compressed.
-    std::shared_ptr<const PartFile> part = {}; ///< Lets a signal handler find the copy.
+    std::shared_ptr<const TemporaryFile> copy;
 };
 
 /// An image of the document that stays as it is.
@@ -73,8 +75,5 @@ QString compressCompleted(const ConvertInfo &convertInfo,
 /// stands whole on its disk. Throws Error when it cannot; the destination is then as it was.
 void putInPlace(const ConvertInfo &convertInfo, Flush flush,
                 SystemCalls &calls = SystemCalls::system());
-
-/// Deletes a file; errors are ignored.
-void deleteFile(const QString &path, SystemCalls &calls = SystemCalls::system());
 
 } // namespace folioforge

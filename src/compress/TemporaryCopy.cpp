@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,21 +21,23 @@ TemporaryCopy::TemporaryCopy(const QString &folder, const QString &source, Syste
     , m_pipeline(m_file) {}
 
 /// Null where the name is taken.
-std::shared_ptr<const PartFile> TemporaryCopy::publishedAs(const QString &name) {
+std::shared_ptr<const TemporaryFile> TemporaryCopy::publishedAs(const QString &name) {
     const QString path = m_folder + u'/' + name;
-    auto part = std::make_shared<const PartFile>(QFile::encodeName(path).toStdString());
-    const auto published = m_file.publish(path, Flush::Never);
-    return published == OutputFile::Published::Yes ? part : nullptr;
+    auto part = std::make_unique<const PartFile>(QFile::encodeName(path).toStdString());
+    if (m_file.publish(path, Flush::Never) == OutputFile::Published::NameTaken) {
+        return nullptr;
+    }
+    return std::make_shared<const TemporaryFile>(std::move(part));
 }
 
-std::shared_ptr<const PartFile> TemporaryCopy::finish(Flush flush) {
+std::shared_ptr<const TemporaryFile> TemporaryCopy::finish(Flush flush) {
     m_file.finish(flush);
     const QFileInfo source(m_source);
-    auto part = publishedAs(source.fileName());
-    for (int n = 1; !part; ++n) {
-        part = publishedAs(source.completeBaseName() + u"(%1).pdf"_s.arg(n));
+    auto copy = publishedAs(source.fileName());
+    for (int n = 1; !copy; ++n) {
+        copy = publishedAs(source.completeBaseName() + u"(%1).pdf"_s.arg(n));
     }
-    return part;
+    return copy;
 }
 
 void appendFile(OutputFile &target, const QString &path, SystemCalls &calls) {

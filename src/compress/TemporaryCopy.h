@@ -23,12 +23,11 @@ class TemporaryCopy {
     /// Bytes written so far.
     [[nodiscard]] qint64 size() const { return m_file.size(); }
     /// Gives the copy its name, the source's, or with a number behind it, "(1).pdf" and upwards,
-    /// where that is taken. As long as the result lives, a signal that ends the program removes the
-    /// copy. Throws Error.
-    std::shared_ptr<const PartFile> finish(Flush flush);
+    /// where that is taken. Throws Error.
+    std::shared_ptr<const TemporaryFile> finish(Flush flush);
 
   private:
-    std::shared_ptr<const PartFile> publishedAs(const QString &name);
+    std::shared_ptr<const TemporaryFile> publishedAs(const QString &name);
 
     QString m_folder;
     QString m_source;

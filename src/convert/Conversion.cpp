@@ -8,6 +8,7 @@
 #include "files/SystemCalls.h"
 
 #include <new>
+#include <numeric>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -98,6 +99,27 @@ CloseResult closeContext(PDFContext &context, const QString &fileName,
 
 void ConversionObserver::endPageWrite(int pageIndex, int pageCount) {
     progressChanged(compressionProgress(pageIndex, pageCount));
+}
+
+QStringList EntryOutcome::remarks() const {
+    QStringList remarks;
+    if (!reason.isEmpty()) {
+        remarks += reason;
+    }
+    for (const Warning &warning : warnings) {
+        remarks += warning.text;
+    }
+    return remarks;
+}
+
+int PDFOutcome::pages() const {
+    return std::accumulate(entries.begin(), entries.end(), 0,
+                           [](int sum, const EntryOutcome &entry) { return sum + entry.pages; });
+}
+
+QString PDFOutcome::problem() const {
+    const bool entriesSayWhy = !entries.empty() && pages() == 0;
+    return entriesSayWhy ? QString() : close.reason;
 }
 
 std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security) {

@@ -11,6 +11,7 @@
 #include "image/PdfImage.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <optional>
@@ -44,12 +45,21 @@ struct EntryOutcome {
     Warnings warnings;                    ///< What of it was lost though it was written.
     std::optional<EmbeddedAs> embeddedAs; ///< How an image was embedded; nothing for others.
     std::optional<DocumentParts> parts;   ///< Of a PDF; nothing for others.
+
+    /// The reason and the warnings, as sentences.
+    [[nodiscard]] QStringList remarks() const;
 };
 
 /// How the writing of one PDF went.
 struct PDFOutcome {
     CloseResult close;
     std::vector<EntryOutcome> entries; ///< One for each entry that was begun.
+
+    [[nodiscard]] bool isWritten() const { return close.status == CloseResult::Status::Written; }
+    /// The pages of all entries.
+    [[nodiscard]] int pages() const;
+    /// Why the PDF is missing, where no entry's own reason and no notice says it.
+    [[nodiscard]] QString problem() const;
 };
 
 /// The encryption that the passwords and boxes ask for; null for an unprotected document. A user

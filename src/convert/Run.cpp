@@ -5,8 +5,11 @@
 #include "compress/QuartzFilter.h"
 #include "convert/OutputName.h"
 #include "error/Error.h"
+#include "files/Printable.h"
 #include "files/TemporaryFolder.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -21,17 +24,21 @@ Run::Run(std::vector<PDFFileInfo> entries, ConversionOptions options, QString bu
     , m_stop(std::move(stop))
     , m_clearing(m_options.outputFolder, AbandonedParts::Kinds::Files) {}
 
-void Run::convertAll(TemporaryFolder &temporaryFolder, RunObserver &observer) const {
-    const std::size_t pdfs = m_options.merge ? 1 : m_entries.size();
-    for (std::size_t first = 0; first < pdfs && !m_stop.stop_requested(); ++first) {
+void Run::convertAll(TemporaryFolder &temporaryFolder, RunObserver &observer) {
+    for (std::size_t first = 0; hasEntry(first) && !m_stop.stop_requested();
+         first = entriesOf(first).end) {
         observer.pdfBegins(first);
         RunResult result{first, createPDF(first, pathFor(first), observer), {}};
-        const CloseResult &close = result.outcome.close;
-        if (close.status == CloseResult::Status::Written && compresses()) {
-            result.compression = compressInPlace(close.path, temporaryFolder, observer);
+        if (result.outcome.isWritten() && compresses()) {
+            result.compression =
+                compressInPlace(result.outcome.close.path, temporaryFolder, observer);
         }
         observer.pdfDone(result);
     }
+}
+
+EntryRange Run::entriesOf(std::size_t firstEntry) const {
+    return {firstEntry, m_options.merge ? m_entries.size() : firstEntry + 1};
 }
 
 QString Run::pathFor(std::size_t firstEntry) const {
@@ -41,21 +48,34 @@ QString Run::pathFor(std::size_t firstEntry) const {
 }
 
 PDFOutcome Run::createPDF(std::size_t firstEntry, const QString &path,
-                          ConversionObserver &observer) const {
+                          ConversionObserver &observer) {
+    PDFOutcome outcome = writePDF(firstEntry, path, observer);
+    noteProblem(path, outcome.problem());
+    Warnings &ofDocument = outcome.close.warnings;
+    if (!m_documentWarned && !outcome.entries.empty()) {
+        std::ranges::copy(ofDocument, std::back_inserter(outcome.entries.front().warnings));
+        m_documentWarned = !ofDocument.empty();
+    }
+    ofDocument.clear();
+    return outcome;
+}
+
+PDFOutcome Run::writePDF(std::size_t firstEntry, const QString &path,
+                         ConversionObserver &observer) const {
     // A name with a slash would lead to another folder than the one that was checked.
     if (m_options.merge && m_options.outputName.contains(u'/')) {
         return {{CloseResult::Status::Failed, {}, u"A file name cannot hold a slash"_s, {}}, {}};
     }
     std::vector<const PDFFileInfo *> entries;
-    const std::size_t end = m_options.merge ? m_entries.size() : firstEntry + 1;
-    for (std::size_t i = firstEntry; i < end; ++i) {
-        entries.push_back(&m_entries.at(i));
+    const EntryRange range = entriesOf(firstEntry);
+    for (std::size_t entry = range.first; entry < range.end; ++entry) {
+        entries.push_back(&m_entries.at(entry));
     }
     return folioforge::createPDF(entries, path, m_options, &observer, m_stop);
 }
 
 CompressionOutcome Run::compress(const QString &path, const QString &temporaryFolder,
-                                 ConversionObserver &observer, Flush flush) const {
+                                 ConversionObserver &observer, Flush flush) {
     const QString filter = quartzFilterName(m_options.compressIndex);
     const CompressionOptions options{quartzFilterPath(m_bundlePath, filter),
                                      temporaryFolder,
@@ -63,14 +83,19 @@ CompressionOutcome Run::compress(const QString &path, const QString &temporaryFo
                                      m_options.calls,
                                      flush,
                                      m_stop};
-    return folioforge::compress(path, options, [&](int pageIndex, int pageCount) {
-        observer.endPageWrite(pageIndex, pageCount);
-    });
+    CompressionOutcome outcome =
+        folioforge::compress(path, options, [&](int pageIndex, int pageCount) {
+            observer.endPageWrite(pageIndex, pageCount);
+        });
+    if (!outcome.error.isEmpty()) {
+        noteProblem(path, u"not compressed: "_s + outcome.error);
+    }
+    return outcome;
 }
 
 /// Where the pass fails, the PDF stays as it was.
 CompressionOutcome Run::compressInPlace(const QString &path, TemporaryFolder &temporaryFolder,
-                                        ConversionObserver &observer) const {
+                                        ConversionObserver &observer) {
     // Only the file that replaces the PDF is flushed.
     CompressionOutcome outcome = compress(path, temporaryFolder.path(), observer, Flush::Never);
     if (outcome.convertInfo) {
@@ -80,8 +105,29 @@ CompressionOutcome Run::compressInPlace(const QString &path, TemporaryFolder &te
         } catch (const Error &error) {
             outcome.error = error.reason();
         }
+        outcome.convertInfo.reset();
     }
     return outcome;
+}
+
+void Run::compressCompleted(const ConvertInfo &convertInfo) {
+    noteProblem(convertInfo.destFilePathName,
+                folioforge::compressCompleted(convertInfo, m_options.calls));
+}
+
+void Run::noteProblem(const QString &path, const QString &problem) {
+    if (!problem.isEmpty()) {
+        const QString name = path.sliced(m_options.outputFolder.size() + 1);
+        m_problems += u"    %1: %2"_s.arg(printable(name), problem);
+    }
+}
+
+std::optional<Notice> Run::problems() const {
+    if (m_problems.isEmpty()) {
+        return std::nullopt;
+    }
+    return notice(u"Something went wrong with these PDF documents:\r\n"_s +
+                  m_problems.join(u"\r\n"_s));
 }
 
 } // namespace folioforge

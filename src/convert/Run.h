@@ -4,10 +4,12 @@
 
 #include "convert/Conversion.h"
 #include "convert/ConversionOptions.h"
+#include "error/Notice.h"
 #include "filelist/PDFFileInfo.h"
 #include "files/AbandonedParts.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <cstddef>
 #include <optional>
@@ -34,8 +36,14 @@ class RunObserver : public ConversionObserver {
     virtual void pdfDone(const RunResult &result) = 0;
 };
 
+/// The entries of a run that become one PDF: those from `first` up to `end`.
+struct EntryRange {
+    std::size_t first = 0;
+    std::size_t end = 0;
+};
+
 /// One run: the entries become PDFs in their order, one for each entry or, in merge mode, one of
-/// all. What it works with is fixed when it begins, so that its steps may run on any thread.
+/// all. Its steps may run on any thread, one after another.
 ///
 /// convertAll() makes every PDF. The steps that it takes stand beside it for a front that has
 /// something to do between them.
@@ -50,29 +58,44 @@ class Run {
     [[nodiscard]] const ConversionOptions &options() const { return m_options; }
 
     /// Makes every PDF, one after another. Never throws: whatever fails is in the results.
-    void convertAll(TemporaryFolder &temporaryFolder, RunObserver &observer) const;
+    void convertAll(TemporaryFolder &temporaryFolder, RunObserver &observer);
 
+    /// The entries of the PDF that begins with the entry at `firstEntry`. The next PDF begins with
+    /// the entry at their end, and no PDF where that is behind the last.
+    [[nodiscard]] EntryRange entriesOf(std::size_t firstEntry) const;
+    [[nodiscard]] bool hasEntry(std::size_t entry) const { return entry < m_entries.size(); }
     /// A path for the PDF that begins with the entry at `firstEntry`; in single mode a free one.
     [[nodiscard]] QString pathFor(std::size_t firstEntry) const;
-    /// Writes the PDF that begins with the entry at `firstEntry`, as the function of this name.
+    /// Writes the PDF that begins with the entry at `firstEntry`, as the function of this name. A
+    /// warning of the document is said of its first entry, and once in a run: what the file system
+    /// does not do is the same for every PDF.
     [[nodiscard]] PDFOutcome createPDF(std::size_t firstEntry, const QString &path,
-                                       ConversionObserver &observer) const;
+                                       ConversionObserver &observer);
     /// Whether the options ask for a compression pass.
     [[nodiscard]] bool compresses() const { return m_options.compressIndex != 0; }
     /// Compresses the PDF at `path` into `temporaryFolder`, as the function of this name.
     [[nodiscard]] CompressionOutcome compress(const QString &path, const QString &temporaryFolder,
-                                              ConversionObserver &observer, Flush flush) const;
+                                              ConversionObserver &observer, Flush flush);
+    /// Puts the copy of the pass in place, as the function of this name.
+    void compressCompleted(const ConvertInfo &convertInfo);
+    /// What went wrong with whole PDFs in the steps so far: one notice for all of them.
+    [[nodiscard]] std::optional<Notice> problems() const;
 
   private:
     [[nodiscard]] CompressionOutcome compressInPlace(const QString &path,
                                                      TemporaryFolder &temporaryFolder,
-                                                     ConversionObserver &observer) const;
+                                                     ConversionObserver &observer);
+    [[nodiscard]] PDFOutcome writePDF(std::size_t firstEntry, const QString &path,
+                                      ConversionObserver &observer) const;
+    void noteProblem(const QString &path, const QString &problem);
 
     std::vector<PDFFileInfo> m_entries;
     ConversionOptions m_options;
     QString m_bundlePath;
     std::stop_token m_stop;
     AbandonedParts m_clearing;
+    bool m_documentWarned = false; ///< A warning of a document was handed over.
+    QStringList m_problems;        ///< Lines of problems().
 };
 
 } // namespace folioforge

@@ -75,6 +75,10 @@ PartFile::~PartFile() {
     }
 }
 
+TemporaryFile::~TemporaryFile() {
+    ::unlink(path().c_str());
+}
+
 void removePartFiles() noexcept {
     ++activeHandlers;
     // The files in a folder are newer than the folder and go first, so that it is empty then.

@@ -5,8 +5,10 @@
 #include <QByteArray>
 
 #include <atomic>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace folioforge {
 
@@ -44,6 +46,22 @@ class PartFile {
 
     std::string m_path;
     std::atomic<PartFile *> m_older{nullptr}; ///< The one registered before, of those that live.
+};
+
+/// A whole temporary file that is removed with this object.
+class TemporaryFile {
+  public:
+    /// The file that `part` names; it exists.
+    explicit TemporaryFile(std::unique_ptr<const PartFile> part)
+        : m_part(std::move(part)) {}
+    ~TemporaryFile();
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+
+    [[nodiscard]] const std::string &path() const { return m_part->path(); }
+
+  private:
+    std::unique_ptr<const PartFile> m_part;
 };
 
 /// Removes every part of this process, folders as far as they are empty then. Safe to call in a

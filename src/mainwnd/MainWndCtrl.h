@@ -46,7 +46,8 @@ struct PDFDocument {
 /// from the layout file MainWnd.ui; they belong to the window. Each operation reads controls into a
 /// plain record, calls the engine's function of the same words and shows the result. It is declared
 /// here once and defined by topic: MainWndCtrl.cpp (life of the window), MainWndCtrlOptions.cpp
-/// (options panel, output folder), MainWndCtrlFiles.cpp (file list), MainWndCtrlConvert.cpp (runs).
+/// (options panel, output folder), MainWndCtrlFiles.cpp (file list), MainWndCtrlConvert.cpp (the
+/// steps of a run), MainWndCtrlProgress.cpp (what shows how it goes).
 class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::MainWnd {
     Q_OBJECT
 
@@ -133,10 +134,9 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     // ---- Runs (MainWndCtrlConvert.cpp) -------------------------------------------------------
 
     void clickBtnCreate();
-    /// Begins the PDF of the entry at m_fileIndex.
+    /// Begins the PDF of the entry at m_fileIndex, in merge mode of every entry.
     void createSingleFile();
-    /// Writes the PDF of the entry at m_fileIndex, in merge mode of every entry, to
-    /// m_destFilePathName on a worker thread.
+    /// Writes that PDF to m_destFilePathName on a worker thread.
     void createPDF();
     /// Rewrites the finished PDF at `path` on a worker thread, where the run asks for it.
     void compress(const QString &path);
@@ -198,15 +198,13 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     // Runs.
     class WorkerObserver;
     bool checkSettings(const ConversionOptions &options);
-    void beginPDF();
     void showFileBeingWritten(int done);
     void showProgress(float value);
     void entryDone(int row, bool written);
     void PDFCreated(const PDFOutcome &outcome);
     void showRemarks(const PDFOutcome &outcome);
-    void noteProblem(const QString &problem);
     void endRun();
-    void startWorker(std::function<void()> work);
+    void startWorker(std::function<void(ConversionObserver &)> work);
     /// Queues `work` without waiting; it is dropped when the controller goes first.
     template<typename Work> void runOnMainThread(Work work) {
         QMetaObject::invokeMethod(this, std::move(work), Qt::QueuedConnection);
@@ -233,12 +231,10 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     std::optional<PDFDocument> m_pdfDoc;
     bool m_bConverting = false;
     std::optional<ConvertInfo> m_convertInfoDict;
-    int m_fileIndex = 0;           ///< The entry being converted.
-    std::optional<Run> m_run;      ///< The entries and options as they stood when the run began.
-    std::stop_source m_stop;       ///< Stops the run.
-    QStringList m_problems;        ///< Lines of the notice at the end of the run.
-    bool m_documentWarned = false; ///< What CloseResult::warnings says is said in this run.
-    bool m_bWorking = false;       ///< The worker has not yet handed over what it makes.
+    int m_fileIndex = 0;      ///< The entry being converted.
+    std::optional<Run> m_run; ///< The entries and options as they stood when the run began.
+    std::stop_source m_stop;  ///< Stops the run.
+    bool m_bWorking = false;  ///< The worker has not yet handed over what it makes.
     TemporaryFolder m_temporaryFolder;
     ReadableLinks m_readableLinks{m_temporaryFolder};
     std::jthread m_worker; ///< The last member: it ends before anything else goes.

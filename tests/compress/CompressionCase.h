@@ -14,6 +14,7 @@
 #include <QTest>
 
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace folioforge::test {
@@ -60,11 +61,17 @@ class CompressionCase {
             QTest::qFail(qPrintable(own.error), __FILE__, __LINE__);
             return {};
         }
-        QString path = own.convertInfo ? own.convertInfo->tempFilePathName : m_path;
+        QString path = kept(own.convertInfo);
         if (outcome) {
             *outcome = std::move(own);
         }
         return path;
+    }
+
+    /// Where the copy of `record` stands until the test ends; the document where there is none.
+    QString kept(const std::optional<ConvertInfo> &record) const {
+        m_record = record;
+        return record ? record->tempFilePathName : m_path;
     }
 
     /// A photo of 1200 x 900 pixels in an RGB JPEG as /Im0 of photoPage().
@@ -109,6 +116,7 @@ class CompressionCase {
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_temporaryFolder;
     QString m_path;
+    mutable std::optional<ConvertInfo> m_record; ///< Holds the copy that was made last.
 };
 
 } // namespace folioforge::test

@@ -299,7 +299,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         FaultyCalls counted;
         CompressionOptions options = optionsOf(1);
         options.calls = counted;
-        const QString copy = compress(m_path, options).convertInfo->tempFilePathName;
+        const QString copy = kept(compress(m_path, options).convertInfo);
         QCOMPARE(PdfProbe(copy).pageCount(), 2);
         for (int call = 1; call <= counted.count(); ++call) {
             FaultyCalls calls;
@@ -334,9 +334,10 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         const QString copy = compressed();
         {
             const FullDisk disk(8192);
-            QVERIFY_EXCEPTION_THROWN(putInPlace({copy, m_path}, Flush::Never), Error);
+            QVERIFY_EXCEPTION_THROWN(putInPlace(*m_record, Flush::Never), Error);
         }
         QCOMPARE(readFile(m_path), before);
+        m_record.reset();
         QVERIFY(!QFile::exists(copy));
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files | QDir::Hidden),
                  QStringList{u"document.pdf"_s});

@@ -4,6 +4,7 @@
 
 #include "error/Error.h"
 #include "files/TemporaryFolder.h"
+#include "support/FaultyCalls.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/Places.h"
@@ -64,7 +65,7 @@ class RunTest : public QObject {
     }
     void convertAll(Recorder &recorder, const std::stop_token &stop = {}) const {
         TemporaryFolder temporary(path("temporary"));
-        const Run run(m_entries, m_options, path("bundle"), stop);
+        Run run(m_entries, m_options, path("bundle"), stop);
         run.convertAll(temporary, recorder);
     }
     QString outputs() const {
@@ -120,6 +121,21 @@ class RunTest : public QObject {
         QCOMPARE(recorder.results.front().outcome.close.reason,
                  u"A file name cannot hold a slash"_s);
         QVERIFY(!QFile::exists(path("all.pdf")));
+    }
+
+    void aFileSystemThatCannotFlushIsNamedOnceInARun() {
+        addTexts({u"a"_s, u"b"_s});
+        test::FaultyCalls calls;
+        calls.failing["fsync"] = EINVAL;
+        m_options.calls = calls;
+        m_options.flush = Flush::Always;
+        Recorder recorder;
+        convertAll(recorder);
+        const auto remarks = [&](std::size_t pdf) {
+            return recorder.results.at(pdf).outcome.entries.front().remarks().join(u'\n');
+        };
+        QCOMPARE(remarks(0), u"The file system cannot flush files to the disk"_s);
+        QCOMPARE(remarks(1), QString());
     }
 
     void anEntryThatFailsDoesNotEndTheRun() {

@@ -113,7 +113,7 @@ class WholeRun {
     Outcome run(const std::vector<PDFFileInfo> &entries, const Kind &kind, SystemCalls &calls,
                 const std::stop_token &stop = {}) const {
         TemporaryFolder temporary(path("temporary"));
-        const Run run(entries, optionsOf(kind, calls), path("bundle"), stop);
+        Run run(entries, optionsOf(kind, calls), path("bundle"), stop);
         OutcomeOfRun observer;
         run.convertAll(temporary, observer);
         return observer.outcome;

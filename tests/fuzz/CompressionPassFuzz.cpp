@@ -26,9 +26,7 @@ void compressOnce(const QString &source, int pages) {
         throw Error(outcome.error);
     }
     if (outcome.convertInfo) {
-        const QString &copy = outcome.convertInfo->tempFilePathName;
-        require(summarizePDF(copy).pageCount == pages);
-        deleteFile(copy);
+        require(summarizePDF(outcome.convertInfo->tempFilePathName).pageCount == pages);
     }
 }
 

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "mainwnd/MainWndCtrl.h"
+
+#include "files/Printable.h"
+#include "mainwnd/FilesArray.h"
+#include "mainwnd/NotificationCenter.h"
+
+#include <QFileInfo>
+
+#include <memory>
+#include <system_error>
+#include <utility>
+
+namespace folioforge {
+
+/// Passes what a worker reports to the main thread, without waiting.
+class MainWndCtrl::WorkerObserver : public ConversionObserver {
+  public:
+    explicit WorkerObserver(MainWndCtrl &ctrl)
+        : m_ctrl(ctrl)
+        , m_firstRow(ctrl.m_fileIndex) {}
+
+    void progressChanged(float value) override {
+        m_ctrl.runOnMainThread([ctrl = &m_ctrl, value] { ctrl->showProgress(value); });
+    }
+    void entryDone(std::size_t index, bool written) override {
+        const int row = m_firstRow + static_cast<int>(index);
+        m_ctrl.runOnMainThread([ctrl = &m_ctrl, row, written] { ctrl->entryDone(row, written); });
+    }
+    /// The controller receives the notification on the main thread.
+    void endPageWrite(int pageIndex, int /*pageCount*/) override {
+        m_ctrl.m_services.notifications.post(NotificationCenter::didEndPageWrite(),
+                                             {{NotificationCenter::pageIndexKey(), pageIndex}});
+    }
+
+  private:
+    MainWndCtrl &m_ctrl;
+    int m_firstRow;
+};
+
+void MainWndCtrl::startWorker(std::function<void(ConversionObserver &)> work) {
+    m_bWorking = true;
+    const auto observer = std::make_shared<WorkerObserver>(*this);
+    const auto observed = [observer, work = std::move(work)] { work(*observer); };
+    try {
+        m_worker = std::jthread(observed);
+    } catch (const std::system_error &) {
+        observed(); // Without a thread the window waits for the work.
+    }
+}
+
+void MainWndCtrl::showAlertView() {
+    m_alertWnd->beginSheet();
+}
+
+void MainWndCtrl::hideAlertView() {
+    m_alertWnd->endSheet();
+}
+
+void MainWndCtrl::showFileBeingWritten(int done) {
+    m_alertWnd->setFile(printable(QFileInfo(m_destFilePathName).fileName()), done,
+                        m_filesArray->count());
+}
+
+void MainWndCtrl::showProgress(float value) {
+    m_prgCreate->show();
+    m_lbProgress->show();
+    constexpr float kFull = 100;
+    m_prgCreate->setValue(qRound(value / kFull * static_cast<float>(m_prgCreate->maximum())));
+}
+
+void MainWndCtrl::endPageWrite(int pageIndex) {
+    if (m_pdfDoc && m_pdfDoc->pageCount > 0) {
+        showProgress(compressionProgress(pageIndex, m_pdfDoc->pageCount));
+    }
+}
+
+void MainWndCtrl::entryDone(int row, bool written) {
+    if (written) {
+        m_filesArray->setStateIndex(row, Finished);
+    }
+    showFileBeingWritten(row + 1);
+}
+
+void MainWndCtrl::showRemarks(const PDFOutcome &outcome) {
+    int row = m_fileIndex;
+    for (const EntryOutcome &entry : outcome.entries) {
+        m_filesArray->setRemarks(row++, entry.remarks());
+    }
+}
+
+} // namespace folioforge
