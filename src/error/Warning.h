@@ -24,8 +24,9 @@ enum class WarningCode {
     PdfPagesLost,      ///< Pages of a source PDF cannot be read, in whole or in part.
     PdfPartsLeft,      ///< A source PDF has parts that are not carried over.
     SignatureRemoved,  ///< A source PDF is signed, and the signature holds no longer.
-    PageSize,          ///< A page is smaller or larger than readers are required to show.
-    NotFlushed,        ///< The file system cannot flush a file to the disk.
+    FieldsRenamed, ///< Form fields got other names, since another document has fields of theirs.
+    PageSize,      ///< A page is smaller or larger than readers are required to show.
+    NotFlushed,    ///< The file system cannot flush a file to the disk.
 };
 
 /// The names of the codes in reports, in the order of their declaration. They never change, because
@@ -36,8 +37,8 @@ inline constexpr std::array kWarningNames{
     QLatin1StringView("picture-damaged"),     QLatin1StringView("more-pictures"),
     QLatin1StringView("pdf-without-pages"),   QLatin1StringView("pdf-repaired"),
     QLatin1StringView("pdf-pages-lost"),      QLatin1StringView("pdf-parts-left"),
-    QLatin1StringView("signature-removed"),   QLatin1StringView("page-size"),
-    QLatin1StringView("not-flushed"),
+    QLatin1StringView("signature-removed"),   QLatin1StringView("fields-renamed"),
+    QLatin1StringView("page-size"),           QLatin1StringView("not-flushed"),
 };
 static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::NotFlushed) + 1);
 

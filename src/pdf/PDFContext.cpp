@@ -22,6 +22,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <string>
@@ -231,16 +232,16 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         SharedStreams streams = m_sourceStreams[key];
         const auto scope =
             m_settings.oneSource ? ImportScope::WholeDocument : ImportScope::OneOfSeveral;
-        const ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
+        ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
             return importDocument(*source, m_document, streams, scope);
         });
         m_reader->finish();
-        m_catalog.addDocument(imported);
+        std::ranges::copy(m_catalog.addDocument(imported), std::back_inserter(imported.warnings));
         m_longestStream =
             std::max(m_longestStream, std::min<qsizetype>(imported.longestStream, file.size));
         m_sourceStreams[key] = std::move(streams);
-        return AddedDocument{static_cast<int>(imported.pages.size()), imported.warnings,
-                             imported.parts};
+        return AddedDocument{static_cast<int>(imported.pages.size()), std::move(imported.warnings),
+                             std::move(imported.parts)};
     });
 }
 

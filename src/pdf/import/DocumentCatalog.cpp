@@ -21,17 +21,18 @@ void DocumentCatalog::truncatePages(int count) {
     m_pageLabels.truncatePages(pageCount());
 }
 
-void DocumentCatalog::addDocument(const ImportedDocument &imported) {
+Warnings DocumentCatalog::addDocument(const ImportedDocument &imported) {
     if (imported.pages.empty()) {
-        return;
+        return {};
     }
     m_pageLabels.add(imported.pageLabels, pageCount());
     std::ranges::copy(imported.pages, std::back_inserter(m_pages));
     m_bookmarks.add(imported.bookmarks);
-    m_forms.add(imported.form);
+    Warnings changes = m_forms.add(imported.form);
     m_layers.add(imported.layers);
     m_parts.insert(imported.catalogParts.begin(), imported.catalogParts.end());
     m_pdfVersion = std::max(m_pdfVersion, imported.pdfVersion);
+    return changes;
 }
 
 void DocumentCatalog::finish(QPDF &document) {

@@ -18,7 +18,8 @@ namespace folioforge {
 class DocumentCatalog {
   public:
     void addPage(const QPDFObjectHandle &page);
-    void addDocument(const ImportedDocument &imported);
+    /// Says what of the document is changed because of the ones before it.
+    Warnings addDocument(const ImportedDocument &imported);
 
     /// Removes the pages that addPage() added after the first `count`.
     void truncatePages(int count);

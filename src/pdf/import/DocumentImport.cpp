@@ -40,10 +40,11 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     imported.pages = copier.copyPages(found.pages);
     imported.bookmarks = importBookmarks(source, copier);
     imported.pageLabels = importPageLabels(source, imported.pages.size(), copier);
-    imported.form = importForm(source, copier);
+    imported.form = importForm(source, found.pages, copier);
     imported.layers = importLayers(source, copier);
     imported.catalogParts = importCatalogParts(source, copier, scope);
     copier.run();
+    imported.form.actions = copier.fieldActions();
     if (copier.signaturesLeftOut() > 0) {
         addParts(imported.parts.left, PartKind::Signatures,
                  static_cast<std::size_t>(copier.signaturesLeftOut()));

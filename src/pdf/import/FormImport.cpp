@@ -3,9 +3,12 @@
 #include "pdf/import/FormImport.h"
 
 #include "pdf/import/Entries.h"
+#include "pdf/import/FieldTree.h"
 #include "pdf/import/ObjectCopier.h"
 
 #include <qpdf/QPDF.hh>
+
+#include <vector>
 
 namespace folioforge {
 
@@ -15,13 +18,26 @@ bool isTrue(QPDFObjectHandle object) {
     return object.isBool() && object.getBoolValue();
 }
 
+/// The fields that the form of `source` lists.
+std::vector<QPDFObjectHandle> listedFields(QPDF &source) {
+    auto fields = items(entry(source.getRoot().getKey("/AcroForm"), "/Fields"));
+    std::erase_if(fields, [](QPDFObjectHandle field) { return !field.isDictionary(); });
+    return fields;
+}
+
+/// Whether the bit that tells of signature fields, the first of /SigFlags, is set.
+bool saysSignatures(QPDFObjectHandle flags) {
+    return flags.isInteger() && flags.getIntValue() % 2 != 0;
+}
+
 } // namespace
 
-ImportedForm importForm(QPDF &source, ObjectCopier &copier) {
+ImportedForm importForm(QPDF &source, const std::vector<SourcePage> &pages, ObjectCopier &copier) {
     const auto form = source.getRoot().getKey("/AcroForm");
     ImportedForm imported;
-    for (auto field : items(entry(form, "/Fields"))) {
-        if (field.isIndirect() && field.isDictionary()) {
+    const auto listed = listedFields(source);
+    for (const auto &fields : {listed, unlistedFields(pages, listed)}) {
+        for (const auto &field : fields) {
             imported.fields.push_back(copier.copy(field));
         }
     }
@@ -30,7 +46,15 @@ ImportedForm importForm(QPDF &source, ObjectCopier &copier) {
     imported.defaultAppearance = copier.copy(entry(form, "/DA"));
     imported.alignment = copier.copy(entry(form, "/Q"));
     imported.needsAppearances = isTrue(entry(form, "/NeedAppearances"));
+    imported.hasSignatureFields = saysSignatures(entry(form, "/SigFlags"));
     return imported;
+}
+
+bool isDynamicForm(QPDF &source) {
+    const auto catalog = source.getRoot();
+    auto xfa = entry(entry(catalog, "/AcroForm"), "/XFA");
+    const bool isThere = xfa.isStream() || !items(xfa).empty();
+    return isThere && (isTrue(entry(catalog, "/NeedsRendering")) || listedFields(source).empty());
 }
 
 } // namespace folioforge

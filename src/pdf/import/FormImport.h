@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "pdf/import/PageTree.h"
+
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <vector>
@@ -19,9 +21,16 @@ struct ImportedForm {
     QPDFObjectHandle resources;                     ///< Default resources; null where none.
     QPDFObjectHandle defaultAppearance;             ///< /DA of the whole form; null where none.
     QPDFObjectHandle alignment;                     ///< /Q of the whole form; null where none.
+    std::vector<QPDFObjectHandle> actions;          ///< They may name fields by their text.
     bool needsAppearances = false;
+    bool hasSignatureFields = false;
 };
 
-ImportedForm importForm(QPDF &source, ObjectCopier &copier);
+/// Fields of widgets on `pages` that the form does not list are listed in the copy.
+ImportedForm importForm(QPDF &source, const std::vector<SourcePage> &pages, ObjectCopier &copier);
+
+/// Whether the pages of `source` are made by a program that fills forms in (dynamic XFA). What
+/// stands in the file is a page that asks for such a program.
+bool isDynamicForm(QPDF &source);
 
 } // namespace folioforge

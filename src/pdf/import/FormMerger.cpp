@@ -3,83 +3,21 @@
 #include "pdf/import/FormMerger.h"
 
 #include "pdf/import/Entries.h"
+#include "pdf/import/FieldTree.h"
 
-#include <qpdf/BufferInputSource.hh>
 #include <qpdf/QPDF.hh>
-#include <qpdf/QPDFTokenizer.hh>
 
-#include <memory>
+#include <algorithm>
+#include <functional>
+#include <iterator>
+#include <utility>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
 namespace {
-
-using Renames = std::map<std::string, std::string>;
-using CategoryRenames = std::map<std::string, Renames>; ///< By category, such as /Font.
-
-/// The category of the resource that an operator of a default appearance names; empty for none.
-std::string categoryOf(const std::string &operation) {
-    static const std::map<std::string, std::string> kCategories{
-        {"Tf", "/Font"},       {"gs", "/ExtGState"}, {"cs", "/ColorSpace"},
-        {"CS", "/ColorSpace"}, {"scn", "/Pattern"},  {"SCN", "/Pattern"}};
-    const auto found = kCategories.find(operation);
-    return found == kCategories.end() ? std::string() : found->second;
-}
-
-std::string renamed(const QPDFTokenizer::Token &name, const Renames &renames) {
-    const auto found = renames.find(name.getValue());
-    return found == renames.end() ? name.getRawValue()
-                                  : QPDFObjectHandle::newName(found->second).unparse();
-}
-
-/// A default appearance, such as "/Helv 12 Tf 0 g", with the names of its resources renamed. Only
-/// the operator behind a name tells its category.
-std::string renamedAppearance(const std::string &appearance, const CategoryRenames &renames) {
-    const auto input = std::make_shared<BufferInputSource>("default appearance", appearance);
-    QPDFTokenizer tokenizer;
-    tokenizer.allowEOF();
-    tokenizer.includeIgnorable();
-    std::string result;
-    std::vector<QPDFTokenizer::Token> operands;
-    const auto flush = [&](const Renames &ofOperator) {
-        for (const auto &operand : operands) {
-            const bool name = operand.getType() == QPDFTokenizer::tt_name;
-            result += name ? renamed(operand, ofOperator) : operand.getRawValue();
-        }
-        operands.clear();
-    };
-    for (auto token = tokenizer.readToken(input, {}, true);
-         token.getType() != QPDFTokenizer::tt_eof; token = tokenizer.readToken(input, {}, true)) {
-        operands.push_back(token);
-        if (token.getType() == QPDFTokenizer::tt_word) {
-            const auto ofOperator = renames.find(categoryOf(token.getValue()));
-            flush(ofOperator == renames.end() ? Renames() : ofOperator->second);
-        }
-    }
-    flush({});
-    return result;
-}
-
-/// Renames in the default appearances of a field and all fields under it.
-void renameInAppearances(const QPDFObjectHandle &root, const CategoryRenames &renames) {
-    std::vector<QPDFObjectHandle> pending{root};
-    std::set<QPDFObjGen> visited;
-    while (!pending.empty()) {
-        auto field = pending.back();
-        pending.pop_back();
-        if (!field.isDictionary() || !visited.insert(field.getObjGen()).second) {
-            continue;
-        }
-        auto appearance = field.getKey("/DA");
-        if (appearance.isString()) {
-            field.replaceKey("/DA", QPDFObjectHandle::newString(
-                                        renamedAppearance(appearance.getStringValue(), renames)));
-        }
-        const auto kids = items(field.getKey("/Kids"));
-        pending.insert(pending.end(), kids.begin(), kids.end());
-    }
-}
 
 /// Gives a field the defaults of its form, which in the merged one would hold for the fields of all
 /// sources.
@@ -106,28 +44,68 @@ std::string freeName(const std::string &name, std::map<std::string, int> &number
     return candidate;
 }
 
-} // namespace
-
-void FormMerger::renameField(QPDFObjectHandle field, Renames &renames) {
-    auto name = field.getKey("/T");
-    if (!name.isString()) {
-        return;
-    }
-    const std::string text = name.getUTF8Value();
-    // Two fields of one name in one source are one field to its readers, and stay so.
-    auto renamed = renames.find(text);
-    if (renamed == renames.end()) {
-        const auto unique = freeName(text, m_nameNumbers, [&](const std::string &candidate) {
-            return m_names.contains(candidate);
-        });
-        renamed = renames.emplace(text, unique).first;
-    }
-    if (renamed->second != text) {
-        field.replaceKey("/T", QPDFObjectHandle::newUnicodeString(renamed->second));
-    }
+/// The topmost fields that have a name, by it. A field without one adds nothing to the names of the
+/// fields under it.
+std::vector<std::pair<std::string, QPDFObjectHandle>>
+namedFields(const std::vector<QPDFObjectHandle> &roots) {
+    std::vector<std::pair<std::string, QPDFObjectHandle>> fields;
+    visitFields(roots, [&](QPDFObjectHandle field) {
+        auto name = field.getKey("/T");
+        if (name.isString()) {
+            fields.emplace_back(name.getUTF8Value(), field);
+        }
+        return !name.isString();
+    });
+    return fields;
 }
 
-FormMerger::CategoryRenames FormMerger::addResources(QPDFObjectHandle resources) {
+Warning fieldsRenamed(const Renames &names) {
+    const auto &[name, unique] = *names.begin();
+    const auto shown = [](const std::string &text) {
+        constexpr qsizetype kLongest = 60;
+        return QString::fromStdString(text).left(kLongest);
+    };
+    const QString change = u"\"%1\" is now \"%2\""_s.arg(shown(name), shown(unique));
+    return {WarningCode::FieldsRenamed,
+            names.size() == 1
+                ? u"1 form field is renamed, since another document has one of its name: %1; "
+                  "scripts are left as they are"_s.arg(change)
+                : u"%1 form fields are renamed, since another document has fields of their names, "
+                  "such as %2; scripts are left as they are"_s.arg(names.size())
+                      .arg(change)};
+}
+
+} // namespace
+
+Renames FormMerger::renameFields(const ImportedForm &form) {
+    const auto named = namedFields(form.fields);
+    std::set<std::string> own;
+    for (const auto &[name, field] : named) {
+        own.insert(name);
+    }
+    Renames names;
+    for (auto [name, field] : named) {
+        // Two fields of one name in one source are one field to its readers, and stay so.
+        auto unique = names.find(name);
+        if (unique == names.end()) {
+            const auto isTaken = [&](const std::string &candidate) {
+                return m_names.contains(candidate) ||
+                       (candidate != name && own.contains(candidate));
+            };
+            unique = names.emplace(name, freeName(name, m_nameNumbers, isTaken)).first;
+        }
+        if (unique->second != name) {
+            field.replaceKey("/T", QPDFObjectHandle::newUnicodeString(unique->second));
+        }
+    }
+    for (const auto &[name, unique] : names) {
+        m_names.insert(unique);
+    }
+    std::erase_if(names, [](const auto &name) { return name.first == name.second; });
+    return names;
+}
+
+CategoryRenames FormMerger::addResources(QPDFObjectHandle resources) {
     CategoryRenames renames;
     if (!resources.isDictionary()) {
         return renames;
@@ -155,37 +133,42 @@ FormMerger::CategoryRenames FormMerger::addResources(QPDFObjectHandle resources)
     return renames;
 }
 
-void FormMerger::add(const ImportedForm &form) {
-    Renames names;
+Warnings FormMerger::add(ImportedForm form) {
+    std::erase_if(form.fields, std::not_fn(isEntry));
     const CategoryRenames resources = addResources(form.resources);
     for (const auto &field : form.fields) {
-        if (!isEntry(field)) {
-            continue;
-        }
-        m_form.fields.push_back(field);
         keepDefaults(field, form);
-        renameField(field, names);
         if (!resources.empty()) {
             renameInAppearances(field, resources);
         }
     }
-    for (const auto &[name, unique] : names) {
-        m_names.insert(unique);
-    }
-    m_form.calculationOrder.insert(m_form.calculationOrder.end(), form.calculationOrder.begin(),
-                                   form.calculationOrder.end());
+    const Renames names = renameFields(form);
+    renameInActions(form.actions, names);
+    std::ranges::copy(form.fields, std::back_inserter(m_form.fields));
+    std::ranges::copy_if(form.calculationOrder, std::back_inserter(m_form.calculationOrder),
+                         isEntry);
     m_form.needsAppearances |= form.needsAppearances;
+    m_form.hasSignatureFields |= form.hasSignatureFields;
+    return names.empty() ? Warnings() : Warnings{fieldsRenamed(names)};
 }
 
 void FormMerger::finish(QPDF &document) {
-    if (m_form.fields.empty()) {
+    if (m_form.fields.empty() && m_resources.empty()) {
         return;
+    }
+    for (auto &field : m_form.fields) {
+        if (!field.isIndirect()) {
+            field = document.makeIndirectObject(field);
+        }
     }
     auto form = QPDFObjectHandle::newDictionary();
     putItems(form, "/Fields", m_form.fields);
     putItems(form, "/CO", m_form.calculationOrder);
     if (m_form.needsAppearances) {
         form.replaceKey("/NeedAppearances", QPDFObjectHandle::newBool(true));
+    }
+    if (m_form.hasSignatureFields) {
+        form.replaceKey("/SigFlags", QPDFObjectHandle::newInteger(1));
     }
     if (!m_resources.empty()) {
         auto resources = QPDFObjectHandle::newDictionary();

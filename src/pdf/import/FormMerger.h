@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "error/Warning.h"
+#include "pdf/import/FieldRenames.h"
 #include "pdf/import/FormImport.h"
 
 #include <map>
@@ -16,16 +18,15 @@ namespace folioforge {
 /// stay different fields, and each keeps its resources.
 class FormMerger {
   public:
-    void add(const ImportedForm &form);
-    /// Writes the form into the catalog if there is a field.
+    /// Says which fields got other names.
+    Warnings add(ImportedForm form);
+    /// Writes the form into the catalog if there is any.
     void finish(QPDF &document);
 
   private:
-    using Renames = std::map<std::string, std::string>;
-    using CategoryRenames = std::map<std::string, Renames>;
     using Numbers = std::map<std::string, int>; ///< The last one given to each name.
 
-    void renameField(QPDFObjectHandle field, Renames &renames);
+    Renames renameFields(const ImportedForm &form);
     CategoryRenames addResources(QPDFObjectHandle resources);
 
     ImportedForm m_form;

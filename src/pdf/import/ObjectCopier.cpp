@@ -4,6 +4,7 @@
 
 #include "pdf/QpdfErrors.h"
 #include "pdf/import/Entries.h"
+#include "pdf/import/FieldRenames.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -207,6 +208,9 @@ QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
         if (!copied.isNull()) {
             target.replaceKey(key, copied);
         }
+    }
+    if (namesFields(dictionary)) {
+        m_fieldActions.push_back(target);
     }
     return target;
 }

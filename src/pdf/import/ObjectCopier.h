@@ -41,6 +41,11 @@ class ObjectCopier {
     /// Digital signatures that run() left out. What they show on the page is copied.
     [[nodiscard]] int signaturesLeftOut() const { return m_signaturesLeftOut; }
 
+    /// Copied actions that name form fields by their text.
+    [[nodiscard]] const std::vector<QPDFObjectHandle> &fieldActions() const {
+        return m_fieldActions;
+    }
+
   private:
     using Dictionary = std::map<std::string, QPDFObjectHandle>;
 
@@ -68,6 +73,7 @@ class ObjectCopier {
     std::vector<QPDFObjectHandle> m_targetPages;
     std::deque<std::pair<QPDFObjectHandle, QPDFObjectHandle>> m_pending; ///< Source and target.
     std::deque<PendingStream> m_pendingStreams;
+    std::vector<QPDFObjectHandle> m_fieldActions;
     qsizetype m_longestStream = 0;
     int m_signaturesLeftOut = 0;
 };

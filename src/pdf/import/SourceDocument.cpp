@@ -3,6 +3,7 @@
 #include "pdf/import/SourceDocument.h"
 
 #include "pdf/QpdfErrors.h"
+#include "pdf/import/FormImport.h"
 #include "pdf/import/PageTree.h"
 #include "pdf/import/SourceInput.h"
 
@@ -67,6 +68,13 @@ std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
     }
 }
 
+/// Throws Error where the pages of the document are not in the file.
+void requirePages(QPDF &document) {
+    if (isDynamicForm(document)) {
+        throw Error(u"It is a dynamic XFA form, whose pages only a program for such forms makes"_s);
+    }
+}
+
 } // namespace
 
 PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
@@ -76,8 +84,10 @@ PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
         if (!document || document->isEncrypted()) {
             return PDFSummary{true, 0};
         }
-        const auto pages = withAllObjects(*document, *reader,
-                                          [&] { return readSourcePages(*document).pages.size(); });
+        const auto pages = withAllObjects(*document, *reader, [&] {
+            requirePages(*document);
+            return readSourcePages(*document).pages.size();
+        });
         return PDFSummary{false, static_cast<int>(pages)};
     });
 }
@@ -89,7 +99,10 @@ std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
         if (!document || document->isEncrypted()) {
             throw Error(u"The document is encrypted"_s);
         }
-        return document;
+        return withAllObjects(*document, *reader, [&] {
+            requirePages(*document);
+            return std::move(document);
+        });
     });
 }
 

@@ -23,11 +23,11 @@ struct PDFSummary {
 inline constexpr qint64 kMaxRepairedBytes = 256LL << 20;
 
 /// Parses the PDF at `path`, repairs it if it is damaged, and counts its pages. Throws Error when
-/// it is no PDF, cannot be repaired or cannot be read.
+/// it is no PDF, a dynamic XFA form, cannot be repaired or cannot be read.
 PDFSummary summarizePDF(const QString &path, SystemCalls &calls = SystemCalls::system());
 
 /// Parses a source PDF, which `reader` reads, for copying. Throws Error when it is no PDF,
-/// encrypted or cannot be repaired.
+/// encrypted, a dynamic XFA form or cannot be repaired.
 std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
                                          const std::shared_ptr<SourceReader> &reader);
 

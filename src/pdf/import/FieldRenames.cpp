@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/FieldRenames.h"
+
+#include "pdf/import/Entries.h"
+#include "pdf/import/FieldTree.h"
+
+#include <qpdf/BufferInputSource.hh>
+#include <qpdf/QPDFTokenizer.hh>
+
+#include <algorithm>
+#include <array>
+#include <memory>
+
+namespace folioforge {
+
+namespace {
+
+/// Where actions name fields: those that submit and reset, and those that hide.
+constexpr std::array kFieldKeys{"/Fields", "/T"};
+
+/// The category of the resource that an operator of a default appearance names; empty for none.
+std::string categoryOf(const std::string &operation) {
+    static const std::map<std::string, std::string> kCategories{
+        {"Tf", "/Font"},       {"gs", "/ExtGState"}, {"cs", "/ColorSpace"},
+        {"CS", "/ColorSpace"}, {"scn", "/Pattern"},  {"SCN", "/Pattern"}};
+    const auto found = kCategories.find(operation);
+    return found == kCategories.end() ? std::string() : found->second;
+}
+
+std::string renamed(const QPDFTokenizer::Token &name, const Renames &renames) {
+    const auto found = renames.find(name.getValue());
+    return found == renames.end() ? name.getRawValue()
+                                  : QPDFObjectHandle::newName(found->second).unparse();
+}
+
+/// A default appearance, such as "/Helv 12 Tf 0 g", with the names of its resources renamed. Only
+/// the operator behind a name tells its category.
+std::string renamedAppearance(const std::string &appearance, const CategoryRenames &renames) {
+    const auto input = std::make_shared<BufferInputSource>("default appearance", appearance);
+    QPDFTokenizer tokenizer;
+    tokenizer.allowEOF();
+    tokenizer.includeIgnorable();
+    std::string result;
+    std::vector<QPDFTokenizer::Token> operands;
+    const auto flush = [&](const Renames &ofOperator) {
+        for (const auto &operand : operands) {
+            const bool name = operand.getType() == QPDFTokenizer::tt_name;
+            result += name ? renamed(operand, ofOperator) : operand.getRawValue();
+        }
+        operands.clear();
+    };
+    for (auto token = tokenizer.readToken(input, {}, true);
+         token.getType() != QPDFTokenizer::tt_eof; token = tokenizer.readToken(input, {}, true)) {
+        operands.push_back(token);
+        if (token.getType() == QPDFTokenizer::tt_word) {
+            const auto ofOperator = renames.find(categoryOf(token.getValue()));
+            flush(ofOperator == renames.end() ? Renames() : ofOperator->second);
+        }
+    }
+    flush({});
+    return result;
+}
+
+/// The full name of a field, such as "address.city", with the name at its top renamed.
+QPDFObjectHandle renamedField(QPDFObjectHandle name, const Renames &renames) {
+    if (!name.isString()) {
+        return name;
+    }
+    const std::string text = name.getUTF8Value();
+    const auto top = std::min(text.find('.'), text.size());
+    const auto found = renames.find(text.substr(0, top));
+    return found == renames.end()
+               ? name
+               : QPDFObjectHandle::newUnicodeString(found->second + text.substr(top));
+}
+
+} // namespace
+
+bool namesFields(const std::map<std::string, QPDFObjectHandle> &action) {
+    static constexpr std::array kKinds{"/SubmitForm", "/ResetForm", "/Hide"};
+    const auto kind = action.find("/S");
+    QPDFObjectHandle value = kind == action.end() ? QPDFObjectHandle::newNull() : kind->second;
+    return std::ranges::any_of(kKinds,
+                               [&](const char *name) { return value.isNameAndEquals(name); });
+}
+
+void renameInAppearances(const QPDFObjectHandle &root, const CategoryRenames &renames) {
+    visitFields({root}, [&](QPDFObjectHandle field) {
+        auto appearance = field.getKey("/DA");
+        if (appearance.isString()) {
+            field.replaceKey("/DA", QPDFObjectHandle::newString(
+                                        renamedAppearance(appearance.getStringValue(), renames)));
+        }
+        return true;
+    });
+}
+
+void renameInActions(const std::vector<QPDFObjectHandle> &actions, const Renames &renames) {
+    for (QPDFObjectHandle action : actions) {
+        for (const char *key : kFieldKeys) {
+            auto named = action.getKey(key);
+            auto fields = items(named);
+            for (auto &field : fields) {
+                field = renamedField(field, renames);
+            }
+            if (named.isArray()) {
+                // An array of its own: another action may refer to the same one.
+                action.replaceKey(key, QPDFObjectHandle::newArray(fields));
+            } else if (named.isString()) {
+                action.replaceKey(key, renamedField(named, renames));
+            }
+        }
+    }
+}
+
+} // namespace folioforge

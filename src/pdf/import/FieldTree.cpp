@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/FieldTree.h"
+
+#include "pdf/import/Entries.h"
+
+#include <set>
+
+namespace folioforge {
+
+namespace {
+
+/// Whether `object` comes for the first time. What is not indirect has no name to know it by; it
+/// lies within something that has.
+bool isNew(const QPDFObjectHandle &object, std::set<QPDFObjGen> &visited) {
+    return !object.isIndirect() || visited.insert(object.getObjGen()).second;
+}
+
+/// The field at the top of `widget`; null where that was visited before or nothing on the way says
+/// what kind of field it is.
+QPDFObjectHandle rootOf(QPDFObjectHandle widget, std::set<QPDFObjGen> &visited) {
+    bool hasType = false;
+    for (auto field = widget; field.isIndirect() && isNew(field, visited);) {
+        hasType = hasType || field.getKey("/FT").isName();
+        auto parent = field.getKey("/Parent");
+        if (!parent.isDictionary()) {
+            return hasType ? field : QPDFObjectHandle::newNull();
+        }
+        field = parent;
+    }
+    return QPDFObjectHandle::newNull();
+}
+
+} // namespace
+
+void visitFields(const std::vector<QPDFObjectHandle> &roots,
+                 const std::function<bool(QPDFObjectHandle)> &visit) {
+    std::vector<QPDFObjectHandle> pending(roots.rbegin(), roots.rend());
+    std::set<QPDFObjGen> visited;
+    while (!pending.empty()) {
+        auto field = pending.back();
+        pending.pop_back();
+        if (!field.isDictionary() || !isNew(field, visited) || !visit(field)) {
+            continue;
+        }
+        auto kids = field.getKey("/Kids");
+        if (isNew(kids, visited)) {
+            const auto fields = items(kids);
+            pending.insert(pending.end(), fields.rbegin(), fields.rend());
+        }
+    }
+}
+
+std::vector<QPDFObjectHandle> unlistedFields(const std::vector<SourcePage> &pages,
+                                             const std::vector<QPDFObjectHandle> &listed) {
+    std::set<QPDFObjGen> visited;
+    visitFields(listed, [&](const QPDFObjectHandle &field) {
+        isNew(field, visited);
+        return true;
+    });
+    std::vector<QPDFObjectHandle> unlisted;
+    for (const auto &[page, inherited] : pages) {
+        const auto annotations = entry(page, "/Annots");
+        if (!isNew(annotations, visited)) {
+            continue;
+        }
+        for (const auto &annotation : items(annotations)) {
+            if (entry(annotation, "/Subtype").isNameAndEquals("/Widget")) {
+                auto root = rootOf(annotation, visited);
+                if (!root.isNull()) {
+                    unlisted.push_back(root);
+                }
+            }
+        }
+    }
+    return unlisted;
+}
+
+} // namespace folioforge
