@@ -247,6 +247,12 @@ class FormMergeTest : public QObject, protected MergeCase {
         QCOMPARE(text(script.getKey("/JS")), "one");
     }
 
+    void fieldsThatShareAListOfThemselvesAreReadOnce() {
+        PdfFixture source = withForm("/Fields 30 0 R");
+        source.object(30, "[<< /FT /Tx /T (a) /Kids 30 0 R >> << /T (b) /Kids 30 0 R >>]");
+        QCOMPARE(names(*opened(merged({saved(source)}))).join(' '), "a b one two");
+    }
+
     void theCalculationOrderOfAllSourcesIsJoined() {
         const PdfFixture source = withForm("/Fields [20 0 R 21 0 R] /CO [21 0 R 7 20 0 R 4 0 R]");
         const QString path = saved(source);

@@ -4,8 +4,10 @@
 
 #include "pdf/import/DocumentImport.h"
 #include "pdf/import/Entries.h"
+#include "pdf/import/FieldTree.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
 #include <vector>
 
@@ -44,20 +46,27 @@ std::size_t countBookmarks(const ImportedBookmarks &bookmarks) {
         [](const QPDFObjectHandle &) { return true; });
 }
 
-/// A field without fields under it. What is under it and has no name are its widgets.
-bool isTerminal(const QPDFObjectHandle &field) {
-    return std::ranges::none_of(items(entry(field, "/Kids")), [](const QPDFObjectHandle &kid) {
-        return entry(kid, "/T").isString();
-    });
+bool hasNamedItems(const QPDFObjectHandle &kids) {
+    return std::ranges::any_of(
+        items(kids), [](const QPDFObjectHandle &kid) { return entry(kid, "/T").isString(); });
 }
 
+/// The fields that have no fields under them. What is under a field and has no name are its
+/// widgets.
 std::size_t countFields(const Objects &roots) {
-    return countReached(
-        roots,
-        [](const QPDFObjectHandle &field) {
-            return isTerminal(field) ? Objects() : items(entry(field, "/Kids"));
-        },
-        isTerminal);
+    std::map<QPDFObjGen, bool> groups; // By the kids, which damaged fields may share.
+    std::size_t number = 0;
+    visitFields(roots, [&](const QPDFObjectHandle &field) {
+        const auto kids = entry(field, "/Kids");
+        const auto known = groups.find(kids.getObjGen());
+        const bool group = known != groups.end() ? known->second : hasNamedItems(kids);
+        if (kids.isIndirect()) {
+            groups.emplace(kids.getObjGen(), group);
+        }
+        number += group || !isEntry(field) ? 0 : 1;
+        return group;
+    });
+    return number;
 }
 
 void addAnnotations(PartCounts &parts, const QPDFObjectHandle &page) {
