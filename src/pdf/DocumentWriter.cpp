@@ -111,7 +111,7 @@ void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
 }
 
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
-                   const std::string &minimumVersion) {
+                   const PDFVersion &minimumVersion) {
     OutputPipeline pipeline(file);
     translateQpdfErrors([&] {
         QPDFWriter writer(document);

@@ -5,11 +5,11 @@
 #include "error/Error.h"
 #include "files/OutputFile.h"
 
+#include <qpdf/PDFVersion.hh>
 #include <qpdf/Pipeline.hh>
 
 #include <cstdint>
 #include <optional>
-#include <string>
 
 class QPDF;
 class QPDFWriter;
@@ -45,6 +45,6 @@ void applyEncryption(QPDFWriter &writer, const Encryption &encryption);
 /// so that an unencrypted document is always written the same. A null `encryption` means none.
 /// Throws Error.
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
-                   const std::string &minimumVersion);
+                   const PDFVersion &minimumVersion);
 
 } // namespace folioforge

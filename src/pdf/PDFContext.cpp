@@ -286,7 +286,7 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         m_reader->beginAnew();
         OutputFile file(m_path, m_settings.calls);
         translateQpdfErrors([&] { requireRoomForStream(m_longestStream); });
-        writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.pdfVersion());
+        writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.version());
         m_reader->finish();
         translateQpdfErrors([&] { requireAllObjects(m_document, *m_reader); });
         Warnings warnings = file.finish(m_settings.flush);

@@ -98,7 +98,11 @@ PartCounts countCarried(const ImportedDocument &imported) {
     addParts(parts, PartKind::Fields, countFields(imported.form.fields));
     addParts(parts, PartKind::Layers,
              static_cast<std::size_t>(std::ranges::count_if(imported.layers.groups, isEntry)));
-    addParts(parts, PartKind::BaseAddress, imported.catalogParts.contains("/URI") ? 1 : 0);
+    addParts(parts, PartKind::LayerSettings,
+             items(entry(imported.layers.whole, "/Configs")).size());
+    for (const auto &[kind, count] : countCatalogParts(imported.catalogParts)) {
+        addParts(parts, kind, count);
+    }
     return parts;
 }
 

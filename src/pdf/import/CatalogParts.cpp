@@ -2,28 +2,73 @@
 
 #include "pdf/import/CatalogParts.h"
 
+#include "pdf/import/Entries.h"
 #include "pdf/import/ObjectCopier.h"
 
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace folioforge {
 
+namespace {
+
+/// Whether an entry belongs to another topic, is written anew or holds for the original file alone,
+/// as usage rights and what confirms signatures do.
+bool belongsElsewhere(std::string_view key) {
+    static constexpr std::array<std::string_view, 18> kKeys{
+        "/Type",           "/Pages",      "/Version",
+        "/Outlines",       "/PageLabels", "/AcroForm",
+        "/NeedsRendering", "/Metadata",   "/MarkInfo",
+        "/StructTreeRoot", "/Names",      "/Dests",
+        "/Threads",        "/AF",         "/Collection",
+        "/Perms",          "/DSS",        "/OCProperties"};
+    return std::ranges::find(kKeys, key) != kKeys.end();
+}
+
+QPDFObjectHandle entryOf(const ImportedCatalogParts &parts, const char *key) {
+    const auto found = parts.find(key);
+    return found == parts.end() ? QPDFObjectHandle::newNull() : found->second;
+}
+
+/// What runs when the document is opened, printed or closed. An action that only shows a page is
+/// none.
+std::size_t countScripts(const ImportedCatalogParts &parts) {
+    auto actions = entryOf(parts, "/AA");
+    auto opening = entryOf(parts, "/OpenAction");
+    const bool runs = opening.isDictionary() && !entry(opening, "/S").isNameAndEquals("/GoTo");
+    return (actions.isDictionary() ? actions.getKeys().size() : 0) + (runs ? 1 : 0);
+}
+
+} // namespace
+
 ImportedCatalogParts importCatalogParts(QPDF &source, ObjectCopier &copier, ImportScope scope) {
-    static constexpr std::array kKeys{"/ViewerPreferences", "/PageMode", "/PageLayout", "/URI"};
     ImportedCatalogParts parts;
     if (scope == ImportScope::OneOfSeveral) {
         return parts;
     }
-    auto catalog = source.getRoot();
-    for (const char *key : kKeys) {
-        auto value = copier.copy(catalog.getKey(key));
-        if (!value.isNull()) {
-            parts.emplace(key, value);
+    for (const auto &[key, value] : source.getRoot().getDictAsMap()) {
+        if (belongsElsewhere(key)) {
+            continue;
+        }
+        const bool shows = key == "/OpenAction" && !QPDFObjectHandle(value).isDictionary();
+        auto copied = shows ? copier.copyDestination(value) : copier.copy(value);
+        if (!copied.isNull()) {
+            parts.emplace(key, copied);
         }
     }
     return parts;
+}
+
+PartCounts countCatalogParts(const ImportedCatalogParts &parts) {
+    PartCounts counts;
+    addParts(counts, PartKind::Scripts, countScripts(parts));
+    addParts(counts, PartKind::BaseAddress,
+             entry(entryOf(parts, "/URI"), "/Base").isNull() ? 0 : 1);
+    addParts(counts, PartKind::OutputIntents, items(entryOf(parts, "/OutputIntents")).size());
+    return counts;
 }
 
 void putCatalogParts(QPDF &document, const ImportedCatalogParts &parts) {

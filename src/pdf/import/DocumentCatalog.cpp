@@ -31,7 +31,7 @@ Warnings DocumentCatalog::addDocument(const ImportedDocument &imported) {
     Warnings changes = m_forms.add(imported.form);
     m_layers.add(imported.layers);
     m_parts.insert(imported.catalogParts.begin(), imported.catalogParts.end());
-    m_pdfVersion = std::max(m_pdfVersion, imported.pdfVersion);
+    m_version.updateIfGreater(imported.version);
     return changes;
 }
 

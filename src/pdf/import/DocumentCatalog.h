@@ -6,7 +6,6 @@
 #include "pdf/import/FormMerger.h"
 
 #include <span>
-#include <string>
 #include <vector>
 
 class QPDF;
@@ -27,7 +26,7 @@ class DocumentCatalog {
     [[nodiscard]] std::span<const QPDFObjectHandle> pages() const { return m_pages; }
     [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
     /// The highest PDF version of the sources, at least 1.7.
-    [[nodiscard]] const std::string &pdfVersion() const { return m_pdfVersion; }
+    [[nodiscard]] const PDFVersion &version() const { return m_version; }
 
     /// Writes the page tree and every topic. Call it once.
     void finish(QPDF &document);
@@ -39,7 +38,7 @@ class DocumentCatalog {
     FormMerger m_forms;
     LayerMerger m_layers;
     ImportedCatalogParts m_parts;
-    std::string m_pdfVersion = "1.7";
+    PDFVersion m_version{1, 7};
 };
 
 } // namespace folioforge

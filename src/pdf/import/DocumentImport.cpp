@@ -26,6 +26,19 @@ Warning signaturesRemoved(int count) {
                       count)};
 }
 
+/// That of the header, or the one that the catalog states where it is higher.
+PDFVersion versionOf(QPDF &source) {
+    PDFVersion version = source.getVersionAsPDFVersion();
+    auto stated = source.getRoot().getKey("/Version");
+    const std::string name = stated.isName() ? stated.getName() : std::string();
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    constexpr std::size_t kLength = 4; // Such as "/2.0".
+    if (name.size() == kLength && isDigit(name[1]) && name[2] == '.' && isDigit(name[3])) {
+        version.updateIfGreater(PDFVersion(name[1] - '0', name[3] - '0'));
+    }
+    return version;
+}
+
 } // namespace
 
 ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared,
@@ -41,7 +54,7 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     imported.bookmarks = importBookmarks(source, copier);
     imported.pageLabels = importPageLabels(source, imported.pages.size(), copier);
     imported.form = importForm(source, found.pages, copier);
-    imported.layers = importLayers(source, copier);
+    imported.layers = importLayers(source, copier, scope);
     imported.catalogParts = importCatalogParts(source, copier, scope);
     copier.run();
     imported.form.actions = copier.fieldActions();
@@ -52,7 +65,7 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     }
     imported.parts.carried = countCarried(imported);
     imported.longestStream = copier.longestStream();
-    imported.pdfVersion = source.getPDFVersion();
+    imported.version = versionOf(source);
     if (imported.pages.empty()) {
         imported.warnings.push_back({WarningCode::PdfWithoutPages, u"The document has no pages"_s});
     }

@@ -12,11 +12,11 @@
 #include "pdf/import/PageLabels.h"
 #include "pdf/import/SharedStreams.h"
 
+#include <qpdf/PDFVersion.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <QtGlobal>
 
-#include <string>
 #include <vector>
 
 class QPDF;
@@ -31,7 +31,7 @@ struct ImportedDocument {
     ImportedForm form;
     ImportedLayers layers;
     ImportedCatalogParts catalogParts;
-    std::string pdfVersion;
+    PDFVersion version;
     qsizetype longestStream = 0; ///< Bytes, as the source says.
     DocumentParts parts;
     Warnings warnings; ///< What of the document is not copied.

@@ -37,7 +37,7 @@ std::vector<QPDFObjectHandle> hiddenLayers(const QPDFObjectHandle &layers,
 
 } // namespace
 
-ImportedLayers importLayers(QPDF &source, ObjectCopier &copier) {
+ImportedLayers importLayers(QPDF &source, ObjectCopier &copier, ImportScope scope) {
     const auto layers = source.getRoot().getKey("/OCProperties");
     const auto configuration = entry(layers, "/D");
     ImportedLayers imported;
@@ -47,6 +47,9 @@ ImportedLayers importLayers(QPDF &source, ObjectCopier &copier) {
     imported.order = copier.copyItems(entry(configuration, "/Order"));
     imported.radioGroups = copier.copyItems(entry(configuration, "/RBGroups"));
     imported.automaticStates = copier.copyItems(entry(configuration, "/AS"));
+    if (scope == ImportScope::WholeDocument) {
+        imported.whole = copier.copy(layers);
+    }
     return imported;
 }
 
@@ -57,9 +60,14 @@ void LayerMerger::add(const ImportedLayers &imported) {
     std::ranges::copy(imported.order, std::back_inserter(m_layers.order));
     std::ranges::copy(imported.radioGroups, std::back_inserter(m_layers.radioGroups));
     std::ranges::copy(imported.automaticStates, std::back_inserter(m_layers.automaticStates));
+    m_layers.whole = imported.whole;
 }
 
 void LayerMerger::finish(QPDF &document) const {
+    if (QPDFObjectHandle(m_layers.whole).isDictionary()) {
+        document.getRoot().replaceKey("/OCProperties", m_layers.whole);
+        return;
+    }
     if (m_layers.groups.empty()) {
         return;
     }

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "pdf/import/LeftParts.h"
+
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <vector>
@@ -20,9 +22,11 @@ struct ImportedLayers {
     std::vector<QPDFObjectHandle> order;           ///< /Order
     std::vector<QPDFObjectHandle> radioGroups;     ///< /RBGroups
     std::vector<QPDFObjectHandle> automaticStates; ///< /AS
+    /// All of it as the source has it, where the source is all of the document; else null.
+    QPDFObjectHandle whole = QPDFObjectHandle::newNull();
 };
 
-ImportedLayers importLayers(QPDF &source, ObjectCopier &copier);
+ImportedLayers importLayers(QPDF &source, ObjectCopier &copier, ImportScope scope);
 
 /// The layers of the document that is made: those of its sources, each in the state that its source
 /// gives it.

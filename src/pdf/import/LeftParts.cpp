@@ -3,6 +3,7 @@
 #include "pdf/import/LeftParts.h"
 
 #include "pdf/QpdfErrors.h"
+#include "pdf/import/CatalogParts.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/TreeEntries.h"
 
@@ -25,10 +26,6 @@ namespace folioforge {
 
 namespace {
 
-std::size_t countItems(QPDFObjectHandle object) {
-    return object.isDictionary() ? object.getKeys().size() : items(object).size();
-}
-
 std::size_t countNames(const QPDFObjectHandle &catalog, const char *tree) {
     return readTreeEntries(entry(entry(catalog, "/Names"), tree), "/Names").size();
 }
@@ -45,14 +42,6 @@ std::size_t countAttachments(const QPDFObjectHandle &catalog) {
         return file.isDictionary() &&
                (!file.isIndirect() || indirect.insert(file.getObjGen()).second);
     }));
-}
-
-/// What runs when the document is opened, printed or closed. An action that only shows a page is
-/// none: the reader decides where it opens a document of several sources.
-std::size_t countScripts(const QPDFObjectHandle &catalog) {
-    auto opening = entry(catalog, "/OpenAction");
-    const bool runs = opening.isDictionary() && !entry(opening, "/S").isNameAndEquals("/GoTo");
-    return countNames(catalog, "/JavaScript") + countItems(entry(catalog, "/AA")) + (runs ? 1 : 0);
 }
 
 /// An XMP packet, as far as it is short enough to be looked through.
@@ -109,7 +98,7 @@ bool hasUsageRights(const QPDFObjectHandle &catalog) {
 } // namespace
 
 PartCounts countLeft(QPDF &source, ImportScope scope) {
-    const auto catalog = source.getRoot();
+    auto catalog = source.getRoot();
     PartCounts left;
     const auto add = [&left](PartKind kind, bool present) {
         addParts(left, kind, present ? 1 : 0);
@@ -118,16 +107,18 @@ PartCounts countLeft(QPDF &source, ImportScope scope) {
     addParts(left, PartKind::Attachments, countAttachments(catalog));
     add(PartKind::Portfolio, entry(catalog, "/Collection").isDictionary());
     add(PartKind::XfaForm, !entry(entry(catalog, "/AcroForm"), "/XFA").isNull());
-    addParts(left, PartKind::Scripts, countScripts(catalog));
+    addParts(left, PartKind::Scripts, countNames(catalog, "/JavaScript"));
     addParts(left, PartKind::PageTemplates, countNames(catalog, "/Templates"));
-    addParts(left, PartKind::ArticleThreads, countItems(entry(catalog, "/Threads")));
-    addParts(left, PartKind::LayerSettings,
-             countItems(entry(entry(catalog, "/OCProperties"), "/Configs")));
-    add(PartKind::BaseAddress,
-        scope == ImportScope::OneOfSeveral && !entry(entry(catalog, "/URI"), "/Base").isNull());
+    addParts(left, PartKind::ArticleThreads, items(entry(catalog, "/Threads")).size());
     add(PartKind::UsageRights, hasUsageRights(catalog));
     add(PartKind::Metadata, saysMoreThanProperties(entry(catalog, "/Metadata")));
-    addParts(left, PartKind::OutputIntents, countItems(entry(catalog, "/OutputIntents")));
+    if (scope == ImportScope::OneOfSeveral) {
+        addParts(left, PartKind::LayerSettings,
+                 items(entry(entry(catalog, "/OCProperties"), "/Configs")).size());
+        for (const auto &[kind, count] : countCatalogParts(catalog.getDictAsMap())) {
+            addParts(left, kind, count);
+        }
+    }
     return left;
 }
 

@@ -32,6 +32,8 @@ class ObjectCopier {
     std::vector<QPDFObjectHandle> copyPages(const std::vector<SourcePage> &pages);
     /// The copy of `object`. run() fills an indirect one.
     QPDFObjectHandle copy(const QPDFObjectHandle &object);
+    /// The copy of what a link leads to (ISO 32000-1, 12.3.2).
+    QPDFObjectHandle copyDestination(const QPDFObjectHandle &destination);
     /// The copies of what an array holds, without what is null; nothing where `array` is none.
     std::vector<QPDFObjectHandle> copyItems(const QPDFObjectHandle &array);
     /// Fills the pages and objects that copyPages() and copy() returned.
@@ -61,7 +63,6 @@ class ObjectCopier {
     QPDFObjectHandle copyValue(QPDFObjectHandle source);
     QPDFObjectHandle copyArray(QPDFObjectHandle array);
     QPDFObjectHandle copyDictionary(const Dictionary &dictionary);
-    QPDFObjectHandle copyDestination(const QPDFObjectHandle &destination);
     void fillStream(PendingStream &stream);
 
     QPDF &m_source;
