@@ -33,6 +33,10 @@ constexpr std::array kWords{
     PartWords{PartKind::PageLabels, "page-labels"_L1, "page labels"_L1, {}},
     PartWords{PartKind::Fields, "fields"_L1, "1 field"_L1, "%1 fields"_L1},
     PartWords{PartKind::Layers, "layers"_L1, "1 layer"_L1, "%1 layers"_L1},
+    PartWords{PartKind::Destinations, "destinations"_L1, "1 named destination"_L1,
+              "%1 named destinations"_L1},
+    PartWords{PartKind::RenamedNames, "renamed-names"_L1, "1 renamed name"_L1,
+              "%1 renamed names"_L1},
 };
 
 constexpr std::size_t indexOf(PartKind kind) {

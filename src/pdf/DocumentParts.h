@@ -33,6 +33,8 @@ enum class PartKind {
     PageLabels,
     Fields,
     Layers,
+    Destinations,
+    RenamedNames, ///< To be told apart from those of other sources.
 };
 
 /// How many there are of each kind; a kind of which there is none is absent.

@@ -232,8 +232,9 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         SharedStreams streams = m_sourceStreams[key];
         const auto scope =
             m_settings.oneSource ? ImportScope::WholeDocument : ImportScope::OneOfSeveral;
+        SourceNames names(m_catalog.names(), sourcePath);
         ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
-            return importDocument(*source, m_document, streams, scope);
+            return importDocument(*source, m_document, streams, names, scope);
         });
         m_reader->finish();
         std::ranges::copy(m_catalog.addDocument(imported), std::back_inserter(imported.warnings));

@@ -79,6 +79,27 @@ class CarriedPartsTest : public QObject, protected MergeCase {
                  (PartCounts{{PartKind::PageLabels, 1}, {PartKind::Layers, 2}}));
     }
 
+    void whatHasANameIsCounted() {
+        PdfFixture source = withCatalog(
+            "/Dests << /a [4 0 R /Fit] >> /AF [20 0 R 21 0 R] /Threads [<< /F << >> >>] "
+            "/Names << /Dests << /Names [(b) [4 0 R /Fit]] >> /EmbeddedFiles << /Names "
+            "[(x) 20 0 R (y) << /F (y) /EF << >> >>] >> /JavaScript << /Names [(s) << "
+            "/S /JavaScript >>] >> /Templates << /Names [(t) << >> (u) << >>] >> >>");
+        source.object(20, "<< /F (x) /EF << >> >>").object(21, "<< /F (z) /EF << >> >>");
+        const PartCounts expected{{PartKind::Attachments, 3},
+                                  {PartKind::Scripts, 1},
+                                  {PartKind::PageTemplates, 2},
+                                  {PartKind::ArticleThreads, 1},
+                                  {PartKind::Destinations, 2}};
+        const QString path = saved(source);
+        PDFContext context(newPath(), {});
+        QCOMPARE(context.addDocument(path).parts.carried, expected);
+        PartCounts renamed = expected;
+        // Two destinations, three files, two templates.
+        renamed[PartKind::RenamedNames] = 7;
+        QCOMPARE(context.addDocument(path).parts.carried, renamed);
+    }
+
     void whatIsLeftIsCountedAsItIsNamed() {
         PdfFixture source = withCatalog("/OutputIntents [<< >> << >>] /AcroForm << /Fields [20 0 "
                                         "R] >> /Perms << /UR3 << >> >>");

@@ -46,17 +46,10 @@ class LeftPartsTest : public QObject, protected MergeCase {
             QTest::newRow(qPrintable(name)) << catalog << name;
         };
         row(u"structure tags"_s, "/StructTreeRoot << /K << /S /P >> >>");
-        row(u"1 attachment"_s, "/Names << /EmbeddedFiles << /Names [(a) << /F (a) >>] >> >>");
-        row(u"3 attachments"_s, "/Names << /EmbeddedFiles << /Kids [<< /Names [(a) 20 0 R (b) << "
-                                "/F (b) >>] >>] >> >> /AF [20 0 R << /F (c) >>]");
         row(u"a portfolio"_s, "/Collection << /View /T >>");
         row(u"an XFA form"_s, "/AcroForm << /Fields [<< >>] /XFA [(a) (b)] >>");
-        row(u"document scripts"_s, "/Names << /JavaScript << /Names [(a) << /S /JavaScript /JS "
-                                   "(1) >>] >> >>");
         row(u"document scripts"_s, "/OpenAction << /S /JavaScript /JS (this.print\\(\\)) >>");
         row(u"document scripts"_s, "/AA << /WC << /S /JavaScript /JS (1) >> >>");
-        row(u"page templates"_s, "/Names << /Templates << /Names [(a) 20 0 R] >> >>");
-        row(u"article threads"_s, "/Threads [20 0 R]");
         row(u"further layer settings"_s, "/OCProperties << /OCGs [] /D << >> /Configs [<< >>] >>");
         row(u"a base address of links"_s, "/URI << /Base (http://example.org/) >>");
         row(u"usage rights"_s, "/Perms << /UR3 20 0 R >>");
@@ -147,22 +140,6 @@ class LeftPartsTest : public QObject, protected MergeCase {
         source.object(20, "<< /FT /Sig /T (one) /V << /Contents <00> /ByteRange [0 1 2 3] >> >>");
         QCOMPARE(said(source), u"signature-removed: 1 signature is left out, since it holds for "
                                "the original file alone"_s);
-    }
-
-    void attachmentsThatAnotherProgramAddedAreCounted() {
-        const QString plain = saved(withCatalog({}));
-        const QString once = newPath();
-        const QString twice = newPath();
-        QCOMPARE(
-            runTool(u"qpdf"_s, {plain, u"--add-attachment"_s, plain, u"--key=a"_s, u"--"_s, once})
-                .exitCode,
-            0);
-        QCOMPARE(
-            runTool(u"qpdf"_s, {once, u"--add-attachment"_s, plain, u"--key=b"_s, u"--"_s, twice})
-                .exitCode,
-            0);
-        QCOMPARE(said(once), u"pdf-parts-left: Not carried over: 1 attachment"_s);
-        QCOMPARE(said(twice), u"pdf-parts-left: Not carried over: 2 attachments"_s);
     }
 
     void aDocumentOfGhostscriptLosesNothing() {

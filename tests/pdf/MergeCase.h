@@ -8,6 +8,7 @@
 
 #include <qpdf/QPDF.hh>
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -41,6 +42,13 @@ class MergeCase {
     QString saved(const PdfFixture &fixture) {
         const QString path = newPath();
         return fixture.write(path) ? path : QString();
+    }
+
+    /// The same under `name`, in a folder of its own.
+    QString savedAs(const QString &name, const PdfFixture &fixture) {
+        const QString folder = m_folder.filePath(QString::number(++m_number));
+        const QString path = folder + QLatin1Char('/') + name;
+        return QDir().mkpath(folder) && fixture.write(path) ? path : QString();
     }
 
     /// The PDF of all of `sources`, which qpdf finds in order. `whole` where a single source is all

@@ -25,8 +25,14 @@ namespace {
 
 const char *const kCatalog = "<< /Type /Catalog /Pages 2 0 R >>";
 
-/// Which page, from 0, an explicit destination array leads to; -1 for none.
+/// Which page, from 0, a destination leads to; -1 for none.
 int pageOf(QPDF &document, QPDFObjectHandle destination) {
+    if (destination.isName() || destination.isString()) {
+        destination = QPDFOutlineDocumentHelper(document).resolveNamedDest(destination);
+    }
+    if (destination.isDictionary()) {
+        destination = destination.getKey("/D");
+    }
     if (!destination.isArray() || destination.getArrayNItems() == 0) {
         return -1;
     }

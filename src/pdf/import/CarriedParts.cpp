@@ -81,6 +81,22 @@ void addAnnotations(PartCounts &parts, const QPDFObjectHandle &page) {
     }
 }
 
+void addNamedParts(PartCounts &parts, const ImportedDocument &imported) {
+    const auto entriesOf = [&](const char *tree) {
+        const auto found = imported.nameTrees.find(tree);
+        return found == imported.nameTrees.end() ? TreeEntries() : found->second;
+    };
+    addParts(parts, PartKind::Attachments,
+             countFiles(entriesOf(kAttachments), imported.attachments));
+    addParts(parts, PartKind::Portfolio, isEntry(imported.attachments.portfolio) ? 1 : 0);
+    addParts(parts, PartKind::Scripts, entriesOf(kScripts).size());
+    addParts(parts, PartKind::PageTemplates, entriesOf(kTemplates).size());
+    addParts(parts, PartKind::ArticleThreads, imported.threads.size());
+    addParts(parts, PartKind::Destinations,
+             imported.destinations.dictionary.size() + imported.destinations.tree.size());
+    addParts(parts, PartKind::RenamedNames, imported.names.renamed);
+}
+
 } // namespace
 
 PartCounts countCarried(const ImportedDocument &imported) {
@@ -100,6 +116,7 @@ PartCounts countCarried(const ImportedDocument &imported) {
              static_cast<std::size_t>(std::ranges::count_if(imported.layers.groups, isEntry)));
     addParts(parts, PartKind::LayerSettings,
              items(entry(imported.layers.whole, "/Configs")).size());
+    addNamedParts(parts, imported);
     for (const auto &[kind, count] : countCatalogParts(imported.catalogParts)) {
         addParts(parts, kind, count);
     }

@@ -2,54 +2,80 @@
 
 #include "pdf/import/Destinations.h"
 
-#include "pdf/import/TreeEntries.h"
+#include "pdf/import/Entries.h"
+#include "pdf/import/ObjectCopier.h"
+#include "pdf/import/SourceNames.h"
 
 #include <qpdf/QPDF.hh>
 
 namespace folioforge {
 
-Destinations::Destinations(QPDF &source)
-    : m_source(source) {}
+namespace {
 
-void Destinations::readNames() {
-    m_names.emplace();
-    auto root = m_source.getRoot();
-    auto old = root.getKey("/Dests");
-    if (old.isDictionary()) {
-        for (const auto &[name, destination] : old.getDictAsMap()) {
-            m_names->emplace(name.substr(1), destination);
-        }
+Destinations readDestinations(QPDF &source) {
+    const auto root = source.getRoot();
+    Destinations destinations;
+    auto dictionary = entry(root, "/Dests");
+    if (dictionary.isDictionary()) {
+        destinations.dictionary = dictionary.getDictAsMap();
     }
-    auto names = root.getKey("/Names");
-    if (!names.isDictionary()) {
-        return;
-    }
-    for (auto &[name, destination] : readTreeEntries(names.getKey("/Dests"), "/Names")) {
-        if (name.isString()) {
-            m_names->emplace(name.getUTF8Value(), destination);
-        }
-    }
+    destinations.tree = readNameTree(entry(entry(root, "/Names"), kDestinations));
+    return destinations;
 }
 
-QPDFObjectHandle Destinations::find(const std::string &name) {
-    if (!m_names) {
-        readNames();
+void declare(const Destinations &destinations, SourceNames &names) {
+    std::vector<QPDFObjectHandle> own;
+    for (const auto &[name, destination] : destinations.dictionary) {
+        own.push_back(QPDFObjectHandle::newName(name));
     }
-    const auto found = m_names->find(name);
-    return found == m_names->end() ? QPDFObjectHandle::newNull() : found->second;
+    for (const auto &[name, destination] : destinations.tree) {
+        own.push_back(name);
+    }
+    names.declare(kDestinations, own);
 }
 
-QPDFObjectHandle Destinations::resolve(const QPDFObjectHandle &destination) {
-    QPDFObjectHandle target = destination;
-    if (target.isName()) {
-        target = find(target.getName().substr(1));
-    } else if (target.isString()) {
-        target = find(target.getUTF8Value());
+} // namespace
+
+Destinations importDestinations(QPDF &source, SourceNames &names, ObjectCopier &copier) {
+    const Destinations read = readDestinations(source);
+    declare(read, names);
+    Destinations imported;
+    for (const auto &[name, destination] : read.dictionary) {
+        const auto renamed = names.renamed(kDestinations, QPDFObjectHandle::newName(name));
+        imported.dictionary.emplace(QPDFObjectHandle(renamed).getName(),
+                                    copier.copyDestination(destination));
     }
-    if (target.isDictionary()) {
-        target = target.getKey("/D");
+    for (const auto &[name, destination] : read.tree) {
+        imported.tree.emplace_back(names.renamed(kDestinations, name),
+                                   copier.copyDestination(destination));
     }
-    return target.isArray() ? target : QPDFObjectHandle::newNull();
+    return imported;
+}
+
+void DestinationMerger::add(const Destinations &imported) {
+    m_dictionary.insert(imported.dictionary.begin(), imported.dictionary.end());
+    addNames(m_tree, imported.tree);
+}
+
+void DestinationMerger::finish(QPDF &document) {
+    if (!m_dictionary.empty() && !m_tree.empty()) {
+        // Some readers look into one of both alone, whatever a link says.
+        NamedObjects names;
+        for (const auto &[name, destination] : m_tree) {
+            if (name.find('\0') == std::string::npos) { // Which a name cannot hold.
+                names.emplace('/' + name, destination);
+            }
+        }
+        for (const auto &[name, destination] : m_dictionary) {
+            m_tree.emplace(name.substr(1), destination);
+        }
+        m_dictionary.merge(names);
+    }
+    if (!m_dictionary.empty()) {
+        document.getRoot().replaceKey(
+            "/Dests", document.makeIndirectObject(QPDFObjectHandle::newDictionary(m_dictionary)));
+    }
+    putNameTree(document, kDestinations, m_tree);
 }
 
 } // namespace folioforge

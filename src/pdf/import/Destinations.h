@@ -2,31 +2,39 @@
 
 #pragma once
 
+#include "pdf/import/TreeEntries.h"
+
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <map>
-#include <optional>
 #include <string>
 
 class QPDF;
 
 namespace folioforge {
 
-/// The named destinations of a source document (ISO 32000-1, 12.3.2.3), read at first use.
-class Destinations {
-  public:
-    explicit Destinations(QPDF &source);
+class ObjectCopier;
+class SourceNames;
 
-    /// The explicit destination, an array, of `destination`: a name, a string, a dictionary with /D
-    /// or the array itself. Null when there is none.
-    QPDFObjectHandle resolve(const QPDFObjectHandle &destination);
+/// The named destinations of a document (ISO 32000-1, 12.3.2.3).
+struct Destinations {
+    std::map<std::string, QPDFObjectHandle> dictionary; ///< /Dests of the catalog, by name.
+    TreeEntries tree;                                   ///< /Dests of its /Names.
+};
+
+/// Copies the destinations of `source` and declares their names. To be called before anything is
+/// copied that refers to one.
+Destinations importDestinations(QPDF &source, SourceNames &names, ObjectCopier &copier);
+
+/// The named destinations of the document that is made: those of all sources.
+class DestinationMerger {
+  public:
+    void add(const Destinations &imported);
+    void finish(QPDF &document);
 
   private:
-    QPDFObjectHandle find(const std::string &name);
-    void readNames();
-
-    QPDF &m_source;
-    std::optional<std::map<std::string, QPDFObjectHandle>> m_names;
+    NamedObjects m_dictionary; ///< By name.
+    NamedObjects m_tree;       ///< By the bytes of the string.
 };
 
 } // namespace folioforge

@@ -30,6 +30,11 @@ Warnings DocumentCatalog::addDocument(const ImportedDocument &imported) {
     m_bookmarks.add(imported.bookmarks);
     Warnings changes = m_forms.add(imported.form);
     m_layers.add(imported.layers);
+    m_destinations.add(imported.destinations);
+    m_nameTrees.add(imported.nameTrees);
+    m_attachments.add(imported.attachments);
+    m_threads.add(imported.threads);
+    m_names.add(imported.names);
     m_parts.insert(imported.catalogParts.begin(), imported.catalogParts.end());
     m_version.updateIfGreater(imported.version);
     return changes;
@@ -40,6 +45,10 @@ void DocumentCatalog::finish(QPDF &document) {
     m_bookmarks.finish(document);
     m_forms.finish(document);
     m_layers.finish(document);
+    m_destinations.finish(document);
+    m_nameTrees.finish(document);
+    m_attachments.finish(document);
+    m_threads.finish(document);
     m_pageLabels.finish(document);
     putCatalogParts(document, m_parts);
 }

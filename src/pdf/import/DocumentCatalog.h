@@ -4,6 +4,7 @@
 
 #include "pdf/import/DocumentImport.h"
 #include "pdf/import/FormMerger.h"
+#include "pdf/import/SourceNames.h"
 
 #include <span>
 #include <vector>
@@ -28,6 +29,9 @@ class DocumentCatalog {
     /// The highest PDF version of the sources, at least 1.7.
     [[nodiscard]] const PDFVersion &version() const { return m_version; }
 
+    /// The names that the documents added so far have taken.
+    [[nodiscard]] const TakenNames &names() const { return m_names; }
+
     /// Writes the page tree and every topic. Call it once.
     void finish(QPDF &document);
 
@@ -37,6 +41,11 @@ class DocumentCatalog {
     PageLabelMerger m_pageLabels;
     FormMerger m_forms;
     LayerMerger m_layers;
+    DestinationMerger m_destinations;
+    NameTreeMerger m_nameTrees;
+    AttachmentMerger m_attachments;
+    ThreadMerger m_threads;
+    TakenNames m_names;
     ImportedCatalogParts m_parts;
     PDFVersion m_version{1, 7};
 };

@@ -42,22 +42,29 @@ PDFVersion versionOf(QPDF &source) {
 } // namespace
 
 ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared,
-                                ImportScope scope) {
+                                SourceNames &names, ImportScope scope) {
     shared.beginCopy(source);
-    ObjectCopier copier(source, target, shared);
+    ObjectCopier copier(source, target, shared, names);
     ImportedDocument imported;
     imported.parts.left = countLeft(source, scope);
     imported.warnings = namePartsLeft(imported.parts.left);
     const SourcePages found = readSourcePages(source);
     ContentCheck contents(source, found.pages);
-    imported.pages = copier.copyPages(found.pages);
+    copier.makePages(found.pages);
+    imported.destinations = importDestinations(source, names, copier);
+    imported.nameTrees = importNameTrees(source, names, copier);
+    imported.pages = copier.fillPages(found.pages);
     imported.bookmarks = importBookmarks(source, copier);
     imported.pageLabels = importPageLabels(source, imported.pages.size(), copier);
     imported.form = importForm(source, found.pages, copier);
     imported.layers = importLayers(source, copier, scope);
     imported.catalogParts = importCatalogParts(source, copier, scope);
+    imported.attachments = importAttachments(source, copier, scope);
+    imported.threads = importThreads(source, copier);
     copier.run();
     imported.form.actions = copier.fieldActions();
+    tellFilesApart(imported.nameTrees[kAttachments], imported.attachments, names);
+    imported.names = names.given();
     if (copier.signaturesLeftOut() > 0) {
         addParts(imported.parts.left, PartKind::Signatures,
                  static_cast<std::size_t>(copier.signaturesLeftOut()));

@@ -4,13 +4,18 @@
 
 #include "error/Warning.h"
 #include "pdf/DocumentParts.h"
+#include "pdf/import/Attachments.h"
 #include "pdf/import/Bookmarks.h"
 #include "pdf/import/CatalogParts.h"
+#include "pdf/import/Destinations.h"
 #include "pdf/import/FormImport.h"
 #include "pdf/import/Layers.h"
 #include "pdf/import/LeftParts.h"
+#include "pdf/import/NameTrees.h"
 #include "pdf/import/PageLabels.h"
 #include "pdf/import/SharedStreams.h"
+#include "pdf/import/SourceNames.h"
+#include "pdf/import/Threads.h"
 
 #include <qpdf/PDFVersion.hh>
 #include <qpdf/QPDFObjectHandle.hh>
@@ -31,6 +36,11 @@ struct ImportedDocument {
     ImportedForm form;
     ImportedLayers layers;
     ImportedCatalogParts catalogParts;
+    Destinations destinations;
+    ImportedNameTrees nameTrees;
+    ImportedAttachments attachments;
+    ImportedThreads threads;
+    GivenNames names;
     PDFVersion version;
     qsizetype longestStream = 0; ///< Bytes, as the source says.
     DocumentParts parts;
@@ -39,8 +49,8 @@ struct ImportedDocument {
 
 /// Copies the pages of `source` into `target` with all that belongs to them, but puts nothing into
 /// its catalog. `shared` holds the streams that earlier imports of the same file brought; new ones
-/// are added. Throws what libqpdf throws.
+/// are added. `names` tells names apart from those of earlier imports. Throws what libqpdf throws.
 ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared,
-                                ImportScope scope);
+                                SourceNames &names, ImportScope scope);
 
 } // namespace folioforge

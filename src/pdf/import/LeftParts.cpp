@@ -5,7 +5,6 @@
 #include "pdf/QpdfErrors.h"
 #include "pdf/import/CatalogParts.h"
 #include "pdf/import/Entries.h"
-#include "pdf/import/TreeEntries.h"
 
 #include <qpdf/Pl_String.hh>
 #include <qpdf/QPDF.hh>
@@ -15,34 +14,14 @@
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
 namespace {
-
-std::size_t countNames(const QPDFObjectHandle &catalog, const char *tree) {
-    return readTreeEntries(entry(entry(catalog, "/Names"), tree), "/Names").size();
-}
-
-/// Files that belong to the whole document. Those of pages and annotations are copied with them.
-std::size_t countAttachments(const QPDFObjectHandle &catalog) {
-    std::vector<QPDFObjectHandle> files = items(entry(catalog, "/AF"));
-    for (const auto &[name, file] :
-         readTreeEntries(entry(entry(catalog, "/Names"), "/EmbeddedFiles"), "/Names")) {
-        files.push_back(file);
-    }
-    std::set<QPDFObjGen> indirect;
-    return static_cast<std::size_t>(std::ranges::count_if(files, [&](QPDFObjectHandle file) {
-        return file.isDictionary() &&
-               (!file.isIndirect() || indirect.insert(file.getObjGen()).second);
-    }));
-}
 
 /// An XMP packet, as far as it is short enough to be looked through.
 std::optional<std::string> readPacket(QPDFObjectHandle metadata) {
@@ -104,15 +83,11 @@ PartCounts countLeft(QPDF &source, ImportScope scope) {
         addParts(left, kind, present ? 1 : 0);
     };
     add(PartKind::StructureTree, !entry(entry(catalog, "/StructTreeRoot"), "/K").isNull());
-    addParts(left, PartKind::Attachments, countAttachments(catalog));
-    add(PartKind::Portfolio, entry(catalog, "/Collection").isDictionary());
     add(PartKind::XfaForm, !entry(entry(catalog, "/AcroForm"), "/XFA").isNull());
-    addParts(left, PartKind::Scripts, countNames(catalog, "/JavaScript"));
-    addParts(left, PartKind::PageTemplates, countNames(catalog, "/Templates"));
-    addParts(left, PartKind::ArticleThreads, items(entry(catalog, "/Threads")).size());
     add(PartKind::UsageRights, hasUsageRights(catalog));
     add(PartKind::Metadata, saysMoreThanProperties(entry(catalog, "/Metadata")));
     if (scope == ImportScope::OneOfSeveral) {
+        add(PartKind::Portfolio, entry(catalog, "/Collection").isDictionary());
         addParts(left, PartKind::LayerSettings,
                  items(entry(entry(catalog, "/OCProperties"), "/Configs")).size());
         for (const auto &[kind, count] : countCatalogParts(catalog.getDictAsMap())) {

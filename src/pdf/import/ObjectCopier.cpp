@@ -5,6 +5,8 @@
 #include "pdf/QpdfErrors.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/FieldRenames.h"
+#include "pdf/import/SourceNames.h"
+#include "pdf/import/Threads.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -22,8 +24,9 @@ QPDFObjectHandle entry(const Dictionary &dictionary, const std::string &key) {
     return found == dictionary.end() ? QPDFObjectHandle::newNull() : found->second;
 }
 
-bool isGoTo(const Dictionary &dictionary) {
-    return entry(dictionary, "/S").isNameAndEquals("/GoTo");
+/// Whether `dictionary` is an action of that kind that stays in its document.
+bool isOwnAction(const Dictionary &dictionary, const char *kind) {
+    return entry(dictionary, "/S").isNameAndEquals(kind) && !dictionary.contains("/F");
 }
 
 /// Whether an entry points into the structure tree, which is not copied: of pages and of what has a
@@ -64,13 +67,13 @@ bool isSignature(QPDFObjectHandle object) {
 
 } // namespace
 
-ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared)
+ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared, SourceNames &names)
     : m_source(source)
     , m_target(target)
     , m_shared(shared)
-    , m_destinations(source) {}
+    , m_names(names) {}
 
-std::vector<QPDFObjectHandle> ObjectCopier::copyPages(const std::vector<SourcePage> &pages) {
+void ObjectCopier::makePages(const std::vector<SourcePage> &pages) {
     // The library walks the tree again at every stream, with a recursion as deep as the tree.
     m_source.getRoot().replaceKey("/Pages",
                                   QPDFObjectHandle::parse("<< /Type /Pages /Kids [] /Count 0 >>"));
@@ -82,6 +85,9 @@ std::vector<QPDFObjectHandle> ObjectCopier::copyPages(const std::vector<SourcePa
             m_copies.try_emplace(page.getObjGen(), m_targetPages.back());
         }
     }
+}
+
+std::vector<QPDFObjectHandle> ObjectCopier::fillPages(const std::vector<SourcePage> &pages) {
     for (std::size_t i = 0; i < pages.size(); ++i) {
         fillPage(pages[i], m_targetPages[i]);
     }
@@ -197,14 +203,12 @@ QPDFObjectHandle ObjectCopier::copyArray(QPDFObjectHandle array) {
 }
 
 QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
-    const bool goTo = isGoTo(dictionary);
     auto target = QPDFObjectHandle::newDictionary();
     for (const auto &[key, value] : dictionary) {
         if (pointsIntoStructure(dictionary, key)) {
             continue;
         }
-        const bool destination = key == "/Dest" || (goTo && key == "/D");
-        auto copied = destination ? copyDestination(value) : copy(value);
+        auto copied = copyEntry(dictionary, key);
         if (!copied.isNull()) {
             target.replaceKey(key, copied);
         }
@@ -215,23 +219,62 @@ QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
     return target;
 }
 
+QPDFObjectHandle ObjectCopier::copyEntry(const Dictionary &dictionary, const std::string &key) {
+    const QPDFObjectHandle &value = dictionary.at(key);
+    if (key == "/Dest") {
+        return copyDestination(value);
+    }
+    if (key == "/D") {
+        return entry(dictionary, "/S").isNameAndEquals("/GoTo") ? copyDestination(value)
+               : isOwnAction(dictionary, "/Thread")             ? copy(threadOf(m_source, value))
+                                                                : copy(value);
+    }
+    return key == "/T" && isOwnAction(dictionary, "/GoToE") ? copyEmbeddedTarget(value)
+                                                            : copy(value);
+}
+
 QPDFObjectHandle ObjectCopier::copyDestination(const QPDFObjectHandle &destination) {
-    auto explicitOne = m_destinations.resolve(destination);
-    if (explicitOne.isNull()) {
-        return copy(destination);
+    QPDFObjectHandle value = destination;
+    if (value.isName() || value.isString()) {
+        return m_names.renamed(kDestinations, value);
     }
-    auto items = explicitOne.getArrayAsVector();
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        // Some writers give the page by its number, which is another page in the copy.
-        const bool number = i == 0 && items[i].isInteger();
-        const auto page = number ? items[i].getIntValue() : -1;
-        if (page >= 0 && page < static_cast<long long>(m_targetPages.size())) {
-            items[i] = m_targetPages[static_cast<std::size_t>(page)];
-        } else {
-            items[i] = copy(items[i]);
-        }
+    auto array = value.isDictionary() ? value.getKey("/D") : value;
+    const bool hasPage = array.isArray() && array.getArrayNItems() > 0;
+    auto page = hasPage ? array.getArrayItem(0) : QPDFObjectHandle::newNull();
+    const auto number = page.isInteger() ? page.getIntValue() : -1;
+    if (number < 0 || number >= static_cast<long long>(m_targetPages.size())) {
+        return copy(value);
     }
-    return QPDFObjectHandle::newArray(items);
+    // Some writers give the page by its number, which is another page in the copy.
+    auto &known = m_numberedDestinations[value.getObjGen()];
+    if (value.isIndirect() && known.isInitialized()) {
+        return known;
+    }
+    auto copied = copyArray(array);
+    copied.setArrayItem(0, m_targetPages[static_cast<std::size_t>(number)]);
+    if (value.isDictionary()) {
+        auto dictionary = value.getDictAsMap();
+        dictionary.erase("/D");
+        const auto inner = copied;
+        copied = copyDictionary(dictionary);
+        copied.replaceKey("/D", inner);
+    }
+    return known = value.isIndirect() ? m_target.makeIndirectObject(copied) : copied;
+}
+
+/// A target of an embedded go-to action, which may name a file attached to the document.
+QPDFObjectHandle ObjectCopier::copyEmbeddedTarget(const QPDFObjectHandle &target) {
+    auto name = folioforge::entry(target, "/N");
+    if (!name.isString() || !folioforge::entry(target, "/R").isNameAndEquals("/C")) {
+        return copy(target);
+    }
+    const auto renamed = m_names.renamed(kAttachments, name);
+    if (nameText(renamed) == nameText(name)) {
+        return copy(target);
+    }
+    auto copied = copyDictionary(QPDFObjectHandle(target).getDictAsMap());
+    copied.replaceKey("/N", renamed);
+    return copied;
 }
 
 void ObjectCopier::fillStream(PendingStream &stream) {

@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "pdf/import/Destinations.h"
 #include "pdf/import/PageTree.h"
 #include "pdf/import/SharedStreams.h"
 
@@ -19,24 +18,30 @@ class QPDF;
 
 namespace folioforge {
 
+class SourceNames;
+
 /// Copies objects of one document into another with all that they refer to, each object once. Pages
-/// are made first and filled later, so that links between them work. Named destinations become
-/// explicit ones. The page tree, the catalog and the structure tree of the source are not copied,
-/// nor are signatures, which hold for the bytes of the source alone.
+/// are made first and filled later, so that links between them work. The page tree, the catalog and
+/// the structure tree of the source are not copied, nor are signatures, which hold for the bytes of
+/// the source alone.
 class ObjectCopier {
   public:
     /// `shared` holds the streams that earlier copies of the same file brought; new ones are added.
-    ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared);
+    /// What is referred to by name follows `names`.
+    ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared, SourceNames &names);
 
-    /// Copies all pages of the source, which run() fills. Call it first.
-    std::vector<QPDFObjectHandle> copyPages(const std::vector<SourcePage> &pages);
+    /// Makes the copies of all pages of the source, still empty. Call it first.
+    void makePages(const std::vector<SourcePage> &pages);
+    /// Copies what the pages hold. Call it once.
+    std::vector<QPDFObjectHandle> fillPages(const std::vector<SourcePage> &pages);
     /// The copy of `object`. run() fills an indirect one.
     QPDFObjectHandle copy(const QPDFObjectHandle &object);
-    /// The copy of what a link leads to (ISO 32000-1, 12.3.2).
-    QPDFObjectHandle copyDestination(const QPDFObjectHandle &destination);
     /// The copies of what an array holds, without what is null; nothing where `array` is none.
     std::vector<QPDFObjectHandle> copyItems(const QPDFObjectHandle &array);
-    /// Fills the pages and objects that copyPages() and copy() returned.
+    /// The copy of what a link leads to (ISO 32000-1, 12.3.2): a name, a string, an array, or a
+    /// dictionary with /D.
+    QPDFObjectHandle copyDestination(const QPDFObjectHandle &destination);
+    /// Fills the pages and objects that fillPages() and copy() returned.
     void run();
     /// Bytes of the longest stream that run() copied, as the source says.
     [[nodiscard]] qsizetype longestStream() const { return m_longestStream; }
@@ -63,14 +68,17 @@ class ObjectCopier {
     QPDFObjectHandle copyValue(QPDFObjectHandle source);
     QPDFObjectHandle copyArray(QPDFObjectHandle array);
     QPDFObjectHandle copyDictionary(const Dictionary &dictionary);
+    QPDFObjectHandle copyEntry(const Dictionary &dictionary, const std::string &key);
+    QPDFObjectHandle copyEmbeddedTarget(const QPDFObjectHandle &target);
     void fillStream(PendingStream &stream);
 
     QPDF &m_source;
     QPDF &m_target;
     SharedStreams &m_shared;
-    Destinations m_destinations;
+    SourceNames &m_names;
     std::map<QPDFObjGen, QPDFObjectHandle> m_copies;
-    std::map<int, QPDFObjectHandle> m_inherited; ///< By InheritedValue::number.
+    std::map<int, QPDFObjectHandle> m_inherited;                   ///< By InheritedValue::number.
+    std::map<QPDFObjGen, QPDFObjectHandle> m_numberedDestinations; ///< Indirect ones, copied.
     std::vector<QPDFObjectHandle> m_targetPages;
     std::deque<std::pair<QPDFObjectHandle, QPDFObjectHandle>> m_pending; ///< Source and target.
     std::deque<PendingStream> m_pendingStreams;

@@ -91,4 +91,33 @@ QPDFObjectHandle buildTree(QPDF &document, const TreeEntries &entries, const cha
     return document.makeIndirectObject(root);
 }
 
+TreeEntries readNameTree(const QPDFObjectHandle &root) {
+    TreeEntries entries = readTreeEntries(root, "/Names");
+    std::erase_if(entries, [](auto &pair) { return !pair.first.isString(); });
+    return entries;
+}
+
+void addNames(NamedObjects &objects, const TreeEntries &entries) {
+    for (const auto &[name, object] : entries) {
+        objects.emplace(QPDFObjectHandle(name).getStringValue(), object);
+    }
+}
+
+void putNameTree(QPDF &document, const std::string &key, const NamedObjects &objects) {
+    if (objects.empty()) {
+        return;
+    }
+    TreeEntries entries;
+    for (const auto &[name, object] : objects) {
+        entries.emplace_back(QPDFObjectHandle::newString(name), object);
+    }
+    auto root = document.getRoot();
+    auto names = entry(root, "/Names");
+    if (!names.isDictionary()) {
+        names = document.makeIndirectObject(QPDFObjectHandle::newDictionary());
+        root.replaceKey("/Names", names);
+    }
+    names.replaceKey(key, buildTree(document, entries, "/Names"));
+}
+
 } // namespace folioforge

@@ -4,6 +4,8 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <map>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -21,5 +23,15 @@ TreeEntries readTreeEntries(const QPDFObjectHandle &root, const char *leafKey);
 /// Makes a balanced tree of `entries`, which are in the order of their keys and have no key twice.
 /// `leafKey` as above.
 QPDFObjectHandle buildTree(QPDF &document, const TreeEntries &entries, const char *leafKey);
+
+/// Objects by the bytes of their names.
+using NamedObjects = std::map<std::string, QPDFObjectHandle>;
+
+/// The entries of a name tree whose keys are strings, as they have to be.
+TreeEntries readNameTree(const QPDFObjectHandle &root);
+/// Adds `entries`, whose keys are strings. The first of one name stays.
+void addNames(NamedObjects &objects, const TreeEntries &entries);
+/// Makes `objects` the name tree `key` of the catalog's /Names; nothing where there is none.
+void putNameTree(QPDF &document, const std::string &key, const NamedObjects &objects);
 
 } // namespace folioforge

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/NameTrees.h"
+
+#include "pdf/import/Entries.h"
+#include "pdf/import/ObjectCopier.h"
+#include "pdf/import/SourceNames.h"
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QUtil.hh>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <ranges>
+
+namespace folioforge {
+
+namespace {
+
+/// Attachments first, since actions among the others refer to them by name.
+constexpr std::array kTrees{kAttachments, "/AP",         kScripts,
+                            "/Pages",     kTemplates,    "/IDS",
+                            "/URLS",      "/Renditions", "/AlternatePresentations"};
+
+/// Numbers all scripts in their order. Their names are UTF-16, so that none but the number decides.
+NamedObjects numberedScripts(const std::vector<TreeEntries> &sources) {
+    std::size_t count = 0;
+    for (const TreeEntries &scripts : sources) {
+        count += scripts.size();
+    }
+    const auto digits = static_cast<int>(std::to_string(count).size());
+    NamedObjects numbered;
+    int number = 0;
+    for (const auto &[name, script] : sources | std::views::join) {
+        const std::string text = QUtil::int_to_string(++number, digits) + ' ' + nameText(name);
+        numbered.emplace(QUtil::utf8_to_utf16(text), script);
+    }
+    return numbered;
+}
+
+} // namespace
+
+ImportedNameTrees importNameTrees(QPDF &source, SourceNames &names, ObjectCopier &copier) {
+    const auto trees = entry(source.getRoot(), "/Names");
+    ImportedNameTrees imported;
+    for (const char *key : kTrees) {
+        const TreeEntries entries = readNameTree(entry(trees, key));
+        if (entries.empty()) {
+            continue;
+        }
+        const bool isScripts = key == kScripts;
+        if (!isScripts) {
+            std::vector<QPDFObjectHandle> own;
+            std::ranges::copy(entries | std::views::keys, std::back_inserter(own));
+            names.declare(key, own);
+        }
+        for (const auto &[name, object] : entries) {
+            auto copied = copier.copy(object);
+            if (!copied.isNull()) {
+                imported[key].emplace_back(isScripts ? QPDFObjectHandle(name).shallowCopy()
+                                                     : names.renamed(key, name),
+                                           copied);
+            }
+        }
+    }
+    return imported;
+}
+
+void NameTreeMerger::add(const ImportedNameTrees &imported) {
+    for (const auto &[key, entries] : imported) {
+        if (key == kScripts) {
+            m_scripts.push_back(entries);
+        } else {
+            addNames(m_trees[key], entries);
+        }
+    }
+}
+
+void NameTreeMerger::finish(QPDF &document) {
+    if (m_scripts.size() > 1) {
+        m_trees[kScripts] = numberedScripts(m_scripts);
+    } else if (!m_scripts.empty()) {
+        addNames(m_trees[kScripts], m_scripts.front());
+    }
+    for (const auto &[key, entries] : m_trees) {
+        putNameTree(document, key, entries);
+    }
+}
+
+} // namespace folioforge

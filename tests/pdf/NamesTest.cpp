@@ -1,0 +1,296 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "MergeCase.h"
+#include "support/TestUnit.h"
+
+#include <qpdf/QPDFNameTreeObjectHelper.hh>
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// What documents refer to by name: it keeps its name where nothing clashes, and leads to what it
+/// led to in its source.
+class NamesTest : public QObject, protected MergeCase {
+    Q_OBJECT
+
+    /// Two pages; what `target` names is led to by a link over the text of the first.
+    static PdfFixture linked(const QByteArray &catalog, const QByteArray &target) {
+        PdfFixture fixture;
+        fixture.object(1, "<< /Type /Catalog /Pages 2 0 R " + catalog + " >>").pages(4, 2);
+        return fixture.object(4, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] /Resources "
+                                 "<< /Font << /F 3 0 R >> >> /Contents 6 0 R /Annots [<< /Type "
+                                 "/Annot /Subtype /Link /Rect [0 0 200 100] " +
+                                     target + " >>] >>");
+    }
+    /// A document whose name tree has `name` for its second page and whose link leads to `target`.
+    static PdfFixture withTree(const QByteArray &name, const QByteArray &target) {
+        return linked("/Names << /Dests << /Names [" + name + " [5 0 R /Fit]] >> >>",
+                      "/Dest " + target);
+    }
+    static PdfFixture withDictionary(const QByteArray &name, const QByteArray &target) {
+        return linked("/Dests << " + name + " << /D [5 0 R /XYZ 0 50 null] >> >>",
+                      "/Dest " + target);
+    }
+    static PdfFixture withNames(const QByteArray &tree, const QByteArray &names) {
+        return linked("/Names << " + tree + " << /Names [" + names + "] >> >>", {});
+    }
+
+    /// The names of destinations and the numbers of their pages, as pdfinfo lists them.
+    static QString destinations(const QString &path) {
+        static const QRegularExpression line(u"^ *(\\d+) \\[.*\\] \"(.*)\"$"_s,
+                                             QRegularExpression::MultilineOption);
+        const auto out = QString::fromUtf8(runTool(u"pdfinfo"_s, {u"-dests"_s, path}).out);
+        QStringList found;
+        for (const auto &match : line.globalMatch(out)) {
+            found += match.captured(2) + u':' + match.captured(1);
+        }
+        found.sort();
+        return found.join(u", "_s);
+    }
+    /// The pages to which poppler finds the links of the pages to lead; 0 where one leads nowhere.
+    static QString linkedPages(const QString &path) {
+        static const QRegularExpression link(u"<a href=\"(?:[^\"#]*#(\\d+))?[^\"]*\""_s);
+        const auto out =
+            QString::fromUtf8(runTool(u"pdftohtml"_s, {u"-xml"_s, u"-stdout"_s, path}).out);
+        QStringList found;
+        for (const auto &match : link.globalMatch(out)) {
+            found += QString::number(match.captured(1).toInt());
+        }
+        return found.join(u' ');
+    }
+    /// The same by mutool, which names only links that lead somewhere: "page from:page to".
+    static QString linkedPagesByMutool(const QString &path) {
+        QTemporaryDir folder;
+        const QString script = folder.filePath(u"links.js"_s);
+        QFile file(script);
+        if (!file.open(QIODevice::WriteOnly) ||
+            file.write("var d = new Document(scriptArgs[0]); for (var n = 0; n < d.countPages(); "
+                       "++n) d.loadPage(n).getLinks().forEach(function (l) { print((n + 1) + ':' + "
+                       "l.uri.match(/page=(\\d+)/)[1]); });") < 0) {
+            return {};
+        }
+        file.close();
+        const auto out = runTool(u"mutool"_s, {u"run"_s, script, path}).out;
+        return QString::fromUtf8(out).simplified();
+    }
+
+    static QByteArrayList namesIn(QPDF &document, const char *tree) {
+        QByteArrayList names;
+        auto root = document.getRoot().getKey("/Names").getKey(tree);
+        for (const auto &[name, object] : QPDFNameTreeObjectHelper(root, document).getAsMap()) {
+            names += QByteArray::fromStdString(name);
+        }
+        return names;
+    }
+
+  private Q_SLOTS:
+    void namesThatDoNotClashStay() {
+        const QString result = merged({savedAs(u"a.pdf"_s, withTree("(one)", "(one)")),
+                                       savedAs(u"b.pdf"_s, withTree("(two)", "(two)"))});
+        QCOMPARE(destinations(result), u"one:2, two:4"_s);
+        QCOMPARE(linkedPages(result), u"2 4"_s);
+    }
+
+    void namesThatClashAreToldApartByTheirSourceAndLinksFollow() {
+        const PdfFixture source = withTree("(one)", "(one)");
+        const QString first = savedAs(u"a.pdf"_s, source);
+        const QString second = savedAs(u"b.pdf"_s, source);
+        const QString result = merged({first, second, second, first});
+        QCOMPARE(destinations(result), u"one (a):8, one (b 2):6, one (b):4, one:2"_s);
+        QCOMPARE(linkedPages(result), u"2 4 6 8"_s);
+        QCOMPARE(linkedPagesByMutool(result), u"1:2 3:4 5:6 7:8"_s);
+    }
+
+    void theOldDictionaryAndTheTreeShareTheirNames() {
+        const QString result = merged({savedAs(u"a.pdf"_s, withDictionary("/one", "/one")),
+                                       savedAs(u"b.pdf"_s, withTree("(one)", "(one)")),
+                                       savedAs(u"c.pdf"_s, withDictionary("/one", "/one"))});
+        QCOMPARE(linkedPages(result), u"2 4 6"_s);
+        QCOMPARE(linkedPagesByMutool(result), u"1:2 3:4 5:6"_s);
+        QCOMPARE(destinations(result), u"one (b):4, one (c):6, one:2"_s);
+    }
+
+    void anOldDictionaryAloneStaysOne() {
+        const QString result = merged({savedAs(u"a.pdf"_s, withDictionary("/one", "/one"))}, true);
+        const auto document = opened(result);
+        QVERIFY(!document->getRoot().hasKey("/Names"));
+        QCOMPARE(linkedPages(result), u"2"_s);
+    }
+
+    void bookmarksAndActionsFollowTheirNames() {
+        const QByteArray tree = "/Names << /Dests << /Names [(one) [5 0 R /Fit]] >> >> ";
+        const PdfFixture source =
+            linked(tree + "/Outlines << /First 20 0 R /Last 20 0 R /Count 1 >>",
+                   "/A << /S /GoTo /D (one) >>")
+                .object(20, "<< /Title (Bookmark) /Dest (one) >>");
+        const QString path = savedAs(u"a.pdf"_s, source);
+        const QString result = merged({path, path});
+        QCOMPARE(linkedPages(result), u"2 4"_s);
+        const auto outline = runTool(u"mutool"_s, {u"show"_s, result, u"outline"_s}).out;
+        QVERIFY2(outline.contains("#page=2") && outline.contains("#page=4"), outline);
+    }
+
+    void anActionThatLeadsToAnotherFileKeepsTheName() {
+        const PdfFixture source = linked("/Names << /Dests << /Names [(one) [5 0 R /Fit]] >> >>",
+                                         "/A << /S /GoToR /F (other.pdf) /D (one) >>");
+        const QString path = saved(source);
+        const auto document = opened(merged({path, path}));
+        QPDFObjectHandle page = document->getAllPages().at(2);
+        auto action = page.getKey("/Annots").getArrayItem(0).getKey("/A");
+        QCOMPARE(action.getKey("/D").getStringValue(), std::string("one"));
+    }
+
+    void aNameThatItsOwnSourceLacksLeadsNowhere() {
+        const PdfFixture has = withTree("(one)", "(one)");
+        const PdfFixture lacks = withTree("(two)", "(one)");
+        const QString one = savedAs(u"has.pdf"_s, has);
+        const QString two = savedAs(u"lacks.pdf"_s, lacks);
+        QCOMPARE(linkedPages(merged({one, two})), u"2 0"_s);
+        QCOMPARE(linkedPages(merged({two, one})), u"0 4"_s);
+    }
+
+    void aRenamedNameDoesNotBecomeAnotherOfItsSource() {
+        const PdfFixture source =
+            linked("/Names << /Dests << /Names [(one) [4 0 R /Fit] (one \\(b\\)) [5 0 R /Fit]] >> "
+                   ">>",
+                   "/Dest (one)");
+        const QString result =
+            merged({savedAs(u"a.pdf"_s, withTree("(one)", "(one)")), savedAs(u"b.pdf"_s, source)});
+        QCOMPARE(destinations(result), u"one (b 2):3, one (b):4, one:2"_s);
+        QCOMPARE(linkedPages(result), u"2 3"_s);
+    }
+
+    void namesOfAnyEncodingFollow() {
+        const PdfFixture wide = withTree("<FEFF00FC4E2D>", "<FEFF00FC4E2D>");
+        const PdfFixture bytes = withTree("<9F41>", "<9F41>");
+        const PdfFixture dictionary = withDictionary("/f#C3#BCr#20#28b#29", "/f#C3#BCr#20#28b#29");
+        for (const PdfFixture &source : {wide, bytes, dictionary}) {
+            const QString path = savedAs(u"für.pdf"_s, source);
+            const QString result = merged({path, path});
+            QCOMPARE(linkedPages(result), u"2 4"_s);
+            QCOMPARE(linkedPagesByMutool(result), u"1:2 3:4"_s);
+        }
+    }
+
+    void pagesByTheirNumberAreThoseOfTheirSource() {
+        const PdfFixture source =
+            linked("/Names << /Dests << /Names [(array) [1 /Fit] (dictionary) "
+                   "<< /D [1 /Fit] >> (indirect) 20 0 R] >> >>",
+                   "/Dest (indirect)")
+                .object(20, "[1 /Fit]");
+        const QString path = savedAs(u"a.pdf"_s, source);
+        QCOMPARE(destinations(merged({path, path})),
+                 u"array (a):4, array:2, dictionary (a):4, dictionary:2, indirect (a):4, "
+                 "indirect:2"_s);
+    }
+
+    void scriptsOfSeveralSourcesRunInTheOrderOfTheSources() {
+        const auto scripts = [this](const char *first, const char *second) {
+            return saved(
+                withNames("/JavaScript", QByteArray("(") + first + ") << /S /JavaScript /JS (" +
+                                             first + "1) >> (" + second +
+                                             ") << /S /JavaScript /JS (" + first + "2) >>"));
+        };
+        const QString y = scripts("y", "\xFE\xFF\\000z");
+        const QString x = scripts("x", "z");
+        QCOMPARE(namesIn(*opened(merged({y}, true)), "/JavaScript").join(' '), "y z");
+        const auto document = opened(merged({y, x, y}));
+        QCOMPARE(namesIn(*document, "/JavaScript").join(','), "1 y,2 z,3 x,4 z,5 y,6 z");
+        // The order in which readers run them is that of the bytes.
+        QByteArray order;
+        auto root = document->getRoot().getKey("/Names").getKey("/JavaScript");
+        std::string last;
+        auto pairs = root.getKey("/Names").getArrayAsVector();
+        for (std::size_t i = 0; i < pairs.size(); i += 2) {
+            QVERIFY(pairs[i].getStringValue() > last);
+            last = pairs[i].getStringValue();
+            order += pairs[i + 1].getKey("/JS").getStringValue().c_str();
+        }
+        QCOMPARE(order, "y1y2x1x2y1y2");
+    }
+
+    void elevenScriptsStayInTheirOrder() {
+        QByteArray names;
+        for (char name = 'a'; name < 'l'; ++name) {
+            names += QByteArray("(") + name + ") << /S /JavaScript /JS (1) >> ";
+        }
+        const QString path = saved(withNames("/JavaScript", names));
+        const auto found = namesIn(*opened(merged({path, path})), "/JavaScript");
+        QCOMPARE(found.size(), 22);
+        QCOMPARE(found.at(1), "02 b");
+        QCOMPARE(found.at(21), "22 k");
+    }
+
+    void furtherNameTreesAreMerged_data() {
+        QTest::addColumn<QByteArray>("tree");
+        for (const char *tree : {"/AP", "/Pages", "/Templates", "/IDS", "/URLS", "/Renditions",
+                                 "/AlternatePresentations"}) {
+            QTest::newRow(tree) << QByteArray(tree);
+        }
+    }
+    void furtherNameTreesAreMerged() {
+        QFETCH(QByteArray, tree);
+        const QString one = savedAs(u"a.pdf"_s, withNames(tree, "(one) << /Kind /A >>"));
+        const QString two =
+            savedAs(u"b.pdf"_s, withNames(tree, "(one) << /Kind /B >> (two) << /Kind /B >>"));
+        const auto document = opened(merged({one, two}));
+        QCOMPARE(namesIn(*document, tree.constData()).join(','), "one,one (b),two");
+        auto pairs = document->getRoot().getKey("/Names").getKey(tree.toStdString());
+        QCOMPARE(pairs.getKey("/Names").getArrayItem(3).getKey("/Kind").getName(),
+                 std::string("/B"));
+    }
+
+    void aPageThatHasANameKeepsIt() {
+        const QString path = saved(withNames("/Pages", "(one) 5 0 R"));
+        const auto document = opened(merged({path, path}));
+        auto pairs = document->getRoot().getKey("/Names").getKey("/Pages").getKey("/Names");
+        const auto &pages = document->getAllPages();
+        QCOMPARE(pairs.getArrayItem(1).getObjGen(), pages.at(1).getObjGen());
+        QCOMPARE(pairs.getArrayItem(3).getObjGen(), pages.at(3).getObjGen());
+    }
+
+    void manyNamesFormABalancedTree() {
+        QByteArray names;
+        for (int i = 0; i < 5000; ++i) {
+            names += "(" + QByteArray::number(i).rightJustified(4, '0') + ") [5 0 R /Fit] ";
+        }
+        const QString path = savedAs(
+            u"a.pdf"_s, linked("/Names << /Dests << /Names [" + names + "] >> >>", "/Dest (4999)"));
+        const QString result = merged({path, path});
+        QCOMPARE(linkedPages(result), u"2 4"_s);
+        const auto document = opened(result);
+        QCOMPARE(namesIn(*document, "/Dests").size(), 10000);
+        auto root = document->getRoot().getKey("/Names").getKey("/Dests");
+        QVERIFY(root.getKey("/Kids").getArrayNItems() <= 64);
+    }
+
+    void articleThreadsStandInTheOrderOfTheirSourcesWithTheirPages() {
+        const PdfFixture source =
+            linked("/Threads [20 0 R]", "/A << /S /Thread /D 0 >>")
+                .object(5, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] /B [21 0 R] >>")
+                .object(20, "<< /Type /Thread /F 21 0 R /I << /Title (Article) >> >>")
+                .object(21, "<< /Type /Bead /T 20 0 R /N 21 0 R /V 21 0 R /P 5 0 R /R [0 0 9 9] "
+                            ">>");
+        const QString path = saved(source);
+        const auto document = opened(merged({path, path}));
+        auto threads = document->getRoot().getKey("/Threads");
+        QCOMPARE(threads.getArrayNItems(), 2);
+        const auto &pages = document->getAllPages();
+        for (const int copy : {0, 1}) {
+            auto thread = threads.getArrayItem(copy);
+            QPDFObjectHandle shown = pages.at(static_cast<std::size_t>(2 * copy + 1));
+            QCOMPARE(thread.getKey("/F").getKey("/P").getObjGen(), shown.getObjGen());
+            QCOMPARE(shown.getKey("/B").getArrayItem(0).getKey("/T").getObjGen(),
+                     thread.getObjGen());
+            QPDFObjectHandle first = pages.at(static_cast<std::size_t>(2 * copy));
+            auto action = first.getKey("/Annots").getArrayItem(0).getKey("/A");
+            QCOMPARE(action.getKey("/D").getObjGen(), thread.getObjGen());
+        }
+    }
+};
+
+FOLIOFORGE_TEST(NamesTest)
+#include "NamesTest.moc"
