@@ -206,7 +206,8 @@ class ReportsTest : public QObject, protected CommandLineCase {
         const ToolRun run = merge("all", {u"--json"_s, path("a.pdf"), text("b.txt")});
         const auto objects = objectsOf(run.out);
         QCOMPARE(objects.size(), 2);
-        QCOMPARE(objects[0][u"carried"_s].toObject(), (QJsonObject{{u"fields"_s, 1}, {u"links"_s, 1}}));
+        QCOMPARE(objects[0][u"carried"_s].toObject(),
+                 (QJsonObject{{u"fields"_s, 1}, {u"links"_s, 1}}));
         QCOMPARE(objects[0][u"left"_s].toObject(),
                  (QJsonObject{{u"output-intents"_s, 2}, {u"xfa-form"_s, 1}}));
         QVERIFY(!objects[1].contains(u"carried"_s));
