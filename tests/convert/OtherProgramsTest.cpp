@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "compress/CompressionPass.h"
+#include "pdf/PDFContext.h"
+#include "support/Files.h"
+#include "support/PdfProbe.h"
+#include "support/PhotoPage.h"
+#include "support/Places.h"
+#include "support/TestUnit.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <functional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// Documents that other programs write, each merged with each: what these programs' readers find in
+/// them is in the merged document, or named as left out.
+class OtherProgramsTest : public QObject {
+    Q_OBJECT
+
+    /// A document, and what other programs read of it.
+    struct Source {
+        QString path;
+        QList<QByteArray> structure;
+        QList<QByteArray> attachments;
+        QJsonArray fields;
+        int pages = 0;
+    };
+
+    /// A merged document; `left` says for each source what is named as left out.
+    struct Merged {
+        QString path;
+        std::vector<PartCounts> left;
+    };
+
+    struct Pair {
+        const Source &one;
+        const Source &other;
+        Merged both;
+    };
+
+    /// The tree of a tagged document with its text, without the elements that only hold all others,
+    /// its depth and the numbers of objects, which differ from file to file.
+    static QList<QByteArray> structureOf(const QString &path) {
+        static const QRegularExpression document(u"^Document( <[^>]*>)?( \\(block\\))?:?$"_s);
+        static const QRegularExpression number(u" <[^>]*>|(?<=Object )\\d+ \\d+"_s);
+        QList<QByteArray> lines;
+        const ToolRun run = runTool(u"pdfinfo"_s, {u"-struct-text"_s, path});
+        for (const QByteArray &line : run.out.split('\n')) {
+            QString text = QString::fromUtf8(line.trimmed());
+            if (!text.isEmpty() && !document.match(text).hasMatch()) {
+                lines += text.remove(number).toUtf8();
+            }
+        }
+        return lines;
+    }
+
+    /// The contents of the files in a document, in no order.
+    QList<QByteArray> attachmentsOf(const QString &path) const {
+        QTemporaryDir folder;
+        QList<QByteArray> contents;
+        runTool(u"pdfdetach"_s, {u"-saveall"_s, u"-o"_s, folder.path(), path});
+        for (const QString &name : QDir(folder.path()).entryList(QDir::Files)) {
+            contents += readFile(folder.filePath(name));
+        }
+        std::ranges::sort(contents);
+        return contents;
+    }
+
+    static QJsonArray fieldsOf(const QString &path) {
+        const ToolRun run = runTool(u"qpdf"_s, {u"--json"_s, u"--json-key=acroform"_s, path});
+        return QJsonDocument::fromJson(run.out)[u"acroform"_s][u"fields"_s].toArray();
+    }
+
+    /// A field behind `page` pages. It is `numbered` where its name was taken before.
+    static QByteArray fieldRow(const QJsonObject &field, int page, bool numbered) {
+        const QString name = field[u"fullname"_s].toString();
+        const QString number = numbered ? u"_2"_s : QString();
+        return u"%1 %2 %3 %4 %5 %6 %7"_s.arg(field[u"pageposfrom1"_s].toInt() + page)
+            .arg(name.section(u'.', 0, 0) + number + name.sliced(name.section(u'.', 0, 0).size()),
+                 field[u"fieldtype"_s].toString(), field[u"value"_s].toString(),
+                 field[u"defaultvalue"_s].toString(),
+                 field[u"annotation"_s][u"appearancestate"_s].toString(),
+                 QString::number(field[u"fieldflags"_s].toInt()))
+            .toUtf8();
+    }
+
+    static QSet<QString> firstNames(const Source &source) {
+        QSet<QString> names;
+        for (const auto &field : source.fields) {
+            names += field[u"fullname"_s].toString().section(u'.', 0, 0);
+        }
+        return names;
+    }
+
+    static QList<QByteArray> fieldsOfBoth(const Source &one, const Source &other) {
+        const QSet<QString> taken = firstNames(one);
+        QList<QByteArray> rows;
+        for (const auto &field : one.fields) {
+            rows += fieldRow(field.toObject(), 0, false);
+        }
+        for (const auto &field : other.fields) {
+            const QString name = field[u"fullname"_s].toString().section(u'.', 0, 0);
+            rows += fieldRow(field.toObject(), one.pages, taken.contains(name));
+        }
+        return rows;
+    }
+
+    Merged merged(const QStringList &sources) {
+        PDFContext::Settings settings;
+        settings.flush = Flush::Never;
+        Merged merged{m_folder.filePath(u"merged%1.pdf"_s.arg(++m_number)), {}};
+        PDFContext context(merged.path, std::move(settings));
+        for (const QString &source : sources) {
+            merged.left.push_back(context.addDocument(source).parts.left);
+        }
+        const CloseResult result = context.close();
+        if (result.status != CloseResult::Status::Written) {
+            QTest::qFail(qPrintable(result.reason), __FILE__, __LINE__);
+        }
+        return merged;
+    }
+
+    /// Of several sources what `part` gives of each that is not left out.
+    template<typename Part>
+    static auto joined(const std::vector<const Source *> &sources, const Merged &merged,
+                       PartKind kind, const Part &part) {
+        auto all = std::invoke(part, *sources.front()).sliced(0, 0);
+        for (std::size_t i = 0; i < sources.size(); ++i) {
+            if (!merged.left.at(i).contains(kind)) {
+                all += std::invoke(part, *sources[i]);
+            }
+        }
+        return all;
+    }
+
+    static QString nameOfBoth(const Source &one, const Source &other) {
+        return QFileInfo(one.path).baseName() + u" + "_s + QFileInfo(other.path).baseName();
+    }
+
+  private Q_SLOTS:
+    void initTestCase() {
+        // The system's own Python is the one that Debian's packages install into.
+        QString python = QStandardPaths::findExecutable(u"python3"_s, {u"/usr/bin"_s});
+        python = python.isEmpty() ? QStandardPaths::findExecutable(u"python3"_s) : python;
+        const ToolRun maker =
+            runTool(python, {inSource(u"tests/convert/make-documents"_s), m_folder.path()});
+        if (maker.exitCode == -1) {
+            QSKIP("Python is not installed");
+        }
+        QVERIFY2(maker.exitCode == 0, maker.err.constData());
+        for (const QByteArray &missing : maker.out.trimmed().split('\n')) {
+            qInfo("%s", missing.constData());
+        }
+        const QDir folder(m_folder.path());
+        for (const QString &name : folder.entryList({u"*.pdf"_s}, QDir::Files, QDir::Name)) {
+            const QString path = folder.filePath(name);
+            m_sources.push_back({path, structureOf(path), attachmentsOf(path), fieldsOf(path),
+                                 PdfProbe(path).pageCount()});
+        }
+        // What qpdf and mutool, which all tests need, write.
+        QVERIFY(m_sources.size() >= 3);
+        for (auto one = m_sources.cbegin(); one != m_sources.cend(); ++one) {
+            for (auto other = one; other != m_sources.cend(); ++other) {
+                m_pairs.push_back({*one, *other, merged({one->path, other->path})});
+            }
+        }
+    }
+
+    void everyPairHasTheStructureOfBoth() {
+        for (const auto &[one, other, both] : m_pairs) {
+            const auto expected =
+                joined({&one, &other}, both, PartKind::StructureTree, &Source::structure);
+            QVERIFY2(structureOf(both.path) == expected, qPrintable(nameOfBoth(one, other)));
+        }
+    }
+
+    void everyPairHasTheFieldsOfBoth() {
+        for (const auto &[one, other, both] : m_pairs) {
+            if (!one.fields.isEmpty() || !other.fields.isEmpty()) {
+                QList<QByteArray> rows;
+                for (const auto &field : fieldsOf(both.path)) {
+                    rows += fieldRow(field.toObject(), 0, false);
+                }
+                QCOMPARE(rows.join('\n'), fieldsOfBoth(one, other).join('\n'));
+            }
+        }
+    }
+
+    void everyPairHasTheAttachmentsOfBoth() {
+        for (const auto &[one, other, both] : m_pairs) {
+            if (!one.attachments.isEmpty() || !other.attachments.isEmpty()) {
+                auto expected =
+                    joined({&one, &other}, both, PartKind::Attachments, &Source::attachments);
+                std::ranges::sort(expected);
+                QCOMPARE(attachmentsOf(both.path), expected);
+            }
+        }
+    }
+
+    void theCompressedDocumentAndOneMadeOfItHaveTheSame() {
+        const QString photoPath = m_folder.filePath(u"photo.pdf"_s);
+        constexpr QSize kSize(600, 450);
+        QVERIFY(photoPage("q 144 0 0 108 50 20 cm /Im0 Do Q")
+                    .stream(5, imageKeys(kSize.width(), kSize.height(), kJpegRgb),
+                            jpeg(photo(kSize.width(), kSize.height())))
+                    .write(photoPath));
+        QStringList paths;
+        std::vector<const Source *> sources;
+        for (const Source &source : m_sources) {
+            paths += source.path;
+            sources.push_back(&source);
+        }
+        const Merged all = merged(paths + QStringList{photoPath});
+        QString log;
+        QVERIFY2(PdfProbe(all.path).isValid(&log), qPrintable(log));
+        const auto structure = joined(sources, all, PartKind::StructureTree, &Source::structure);
+        auto attachments = joined(sources, all, PartKind::Attachments, &Source::attachments);
+        std::ranges::sort(attachments);
+        QCOMPARE(structureOf(all.path), structure);
+        QCOMPARE(attachmentsOf(all.path), attachments);
+
+        CompressionOptions options;
+        options.filterFile = inSource(u"resources/filters/150m.qfilter"_s);
+        options.temporaryFolder = m_folder.path();
+        const CompressionOutcome outcome = compress(all.path, options);
+        QVERIFY2(outcome.convertInfo, qPrintable(outcome.error));
+        const QString compressed = outcome.convertInfo->tempFilePathName;
+        QCOMPARE(structureOf(compressed), structure);
+        QCOMPARE(attachmentsOf(compressed), attachments);
+        QCOMPARE(fieldsOf(compressed).size(), fieldsOf(all.path).size());
+
+        const Merged again = merged({compressed, photoPath});
+        QVERIFY2(PdfProbe(again.path).isValid(&log), qPrintable(log));
+        QCOMPARE(structureOf(again.path), structure);
+        QCOMPARE(attachmentsOf(again.path), attachments);
+        QCOMPARE(fieldsOf(again.path).size(), fieldsOf(all.path).size());
+    }
+
+    void thePagesOfEachLookAsTheyDid() {
+        // By mutool: poppler finds no sign for ticks where a form's fonts are an object of their
+        // own.
+        const auto drawn = [](const QString &path, const QString &format) {
+            return runTool(u"mutool"_s, {u"draw"_s, u"-q"_s, u"-r"_s, u"36"_s, u"-F"_s, format,
+                                         u"-o"_s, u"-"_s, path})
+                .out;
+        };
+        for (const Source &source : m_sources) {
+            const QString twice = merged({source.path, source.path}).path;
+            for (const QString &format : {u"txt"_s, u"pgm"_s}) {
+                const QByteArray once = drawn(source.path, format);
+                QVERIFY(!once.isEmpty());
+                QCOMPARE(drawn(twice, format), once + once);
+            }
+        }
+    }
+
+  private:
+    QTemporaryDir m_folder;
+    std::vector<Source> m_sources;
+    std::vector<Pair> m_pairs; ///< Each source with itself and with every one behind it.
+    int m_number = 0;
+};
+
+FOLIOFORGE_TEST(OtherProgramsTest)
+#include "OtherProgramsTest.moc"
