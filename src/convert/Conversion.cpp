@@ -7,6 +7,10 @@
 #include "filelist/FileKind.h"
 #include "files/SystemCalls.h"
 
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
 #include <new>
 #include <numeric>
 #include <utility>
@@ -75,6 +79,30 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
     }
     outcome.pages = context.pageCount() - before.pages;
     return outcome;
+}
+
+/// Names the sources without structure tags where others have some.
+Warnings namePartlyTagged(std::span<const PDFFileInfo *const> entries,
+                          const std::vector<EntryOutcome> &outcomes) {
+    constexpr qsizetype kNames = 5;
+    QStringList untagged;
+    bool tagged = false;
+    for (std::size_t i = 0; i < outcomes.size(); ++i) {
+        const auto &parts = outcomes[i].parts;
+        const bool isTagged = parts && parts->carried.contains(PartKind::StructureElements);
+        tagged = tagged || isTagged;
+        if (outcomes[i].pages > 0 && !isTagged) {
+            untagged += entries[i]->fileName();
+        }
+    }
+    if (!tagged || untagged.isEmpty()) {
+        return {};
+    }
+    const qsizetype more = untagged.size() - kNames;
+    const QString names = untagged.first(std::min(kNames, untagged.size())).join(u", "_s);
+    return {{WarningCode::PartlyTagged, u"Not all of the PDF is tagged, as these are not: "_s +
+                                            names +
+                                            (more > 0 ? u" and %1 more"_s.arg(more) : QString())}};
 }
 
 CloseResult notWritten(const QString &reason) {
@@ -161,6 +189,8 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     if (!stop.stop_requested()) {
         const QString fileName = entries.empty() ? QString() : entries.front()->fileName();
         outcome.close = closeContext(context, fileName, options);
+        std::ranges::copy(namePartlyTagged(entries, outcome.entries),
+                          std::back_inserter(outcome.close.warnings));
     }
     if (stop.stop_requested() && outcome.close.status != CloseResult::Status::Written) {
         outcome.close = notWritten(u"The conversion was stopped"_s);

@@ -23,6 +23,8 @@ enum class WarningCode {
     PdfRepaired,       ///< A source PDF is damaged and was repaired; its pages may lack something.
     PdfPagesLost,      ///< Pages of a source PDF cannot be read, in whole or in part.
     PdfPartsLeft,      ///< A source PDF has parts that are not carried over.
+    StructureDamaged,  ///< Parts of the structure tree of a source PDF cannot be read.
+    PartlyTagged,      ///< Sources without structure tags stand beside tagged ones.
     SignatureRemoved,  ///< A source PDF is signed, and the signature holds no longer.
     FieldsRenamed, ///< Form fields got other names, since another document has fields of theirs.
     PageSize,      ///< A page is smaller or larger than readers are required to show.
@@ -37,6 +39,7 @@ inline constexpr std::array kWarningNames{
     QLatin1StringView("picture-damaged"),     QLatin1StringView("more-pictures"),
     QLatin1StringView("pdf-without-pages"),   QLatin1StringView("pdf-repaired"),
     QLatin1StringView("pdf-pages-lost"),      QLatin1StringView("pdf-parts-left"),
+    QLatin1StringView("structure-damaged"),   QLatin1StringView("partly-tagged"),
     QLatin1StringView("signature-removed"),   QLatin1StringView("fields-renamed"),
     QLatin1StringView("page-size"),           QLatin1StringView("not-flushed"),
 };

@@ -14,7 +14,8 @@ namespace folioforge {
 namespace {
 
 constexpr std::array kWords{
-    PartWords{PartKind::StructureTree, "structure-tree"_L1, "structure tags"_L1, {}},
+    PartWords{PartKind::StructureElements, "structure-elements"_L1, "1 structure tag"_L1,
+              "%1 structure tags"_L1},
     PartWords{PartKind::Attachments, "attachments"_L1, "1 attachment"_L1, "%1 attachments"_L1},
     PartWords{PartKind::Portfolio, "portfolio"_L1, "a portfolio"_L1, {}},
     PartWords{PartKind::XfaForm, "xfa-form"_L1, "an XFA form"_L1, {}},

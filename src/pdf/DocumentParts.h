@@ -14,7 +14,7 @@ namespace folioforge {
 /// A kind of what a PDF has beside the look of its pages, in the order in which warnings name them.
 /// DocumentParts.cpp has the words for each.
 enum class PartKind {
-    StructureTree,
+    StructureElements,
     Attachments,
     Portfolio,
     XfaForm,

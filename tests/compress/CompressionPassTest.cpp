@@ -9,6 +9,7 @@
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
+#include "support/TaggedPage.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
@@ -253,6 +254,22 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         const QString copy = compressed();
         QVERIFY(PdfProbe(copy).json().contains("https://example.org/"));
         QCOMPARE(PdfProbe(copy).box(u"CropBox"_s, 1), PdfProbe(m_path).box(u"CropBox"_s, 1));
+    }
+
+    void theStructureStays() {
+        PdfFixture page = taggedPage({"Alpha", "one"}, "/K 11 0 R");
+        page.object(11, element("Document", 10, "[12 0 R 13 0 R]"))
+            .object(12, element("H1", 11, "0"))
+            .object(13, element("P", 11, "1"))
+            .object(4, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] /Resources << /Font "
+                       "<< /F 3 0 R >> /XObject << /I 20 0 R >> >> /Contents [5 0 R 21 0 R] >>")
+            .stream(20, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)))
+            .stream(21, {}, "q 90 0 0 90 0 0 cm /I Do Q");
+        QVERIFY(page.write(m_path));
+        const QString copy = compressed();
+        QVERIFY(copy != m_path);
+        QVERIFY(PdfProbe(m_path).structureText().contains(u"Alpha"_s));
+        QCOMPARE(PdfProbe(copy).structureText(), PdfProbe(m_path).structureText());
     }
 
     void everyPageIsReportedWhenItIsWritten() {

@@ -8,6 +8,7 @@
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/Places.h"
+#include "support/TaggedPage.h"
 #include "support/TestUnit.h"
 
 #include <QColorSpace>
@@ -219,6 +220,26 @@ class ConversionTest : public QObject, protected test::ConversionCase {
         QVERIFY(outcome.entries[2].written);
         QVERIFY(!whole.isEmpty());
         QCOMPARE(test::readFile(outcome.close.path), whole);
+    }
+
+    void sourcesWithoutTagsAreNamedWhereOthersHaveSome() {
+        const auto tagged = test::headingAndText("a", "b");
+        QVERIFY(tagged.write(path("tagged.pdf")));
+        addFile(path("tagged.pdf"));
+        addText("plain.txt", "words\n");
+        const Warnings warnings = convertTo(path("out/both.pdf")).close.warnings;
+        QCOMPARE(warnings.size(), 1U);
+        QCOMPARE(warnings.front().name() + u": "_s + warnings.front().text,
+                 u"partly-tagged: Not all of the PDF is tagged, as these are not: plain.txt"_s);
+    }
+
+    void aSourceWithTagsAloneNeedsNoWarning() {
+        QVERIFY(test::headingAndText("a", "b").write(path("tagged.pdf")));
+        addFile(path("tagged.pdf"));
+        QVERIFY(convertTo(path("out/one.pdf")).close.warnings.empty());
+        m_list.clear();
+        addText("plain.txt", "words\n");
+        QVERIFY(convertTo(path("out/two.pdf")).close.warnings.empty());
     }
 
     void aProtectedSourceAddsNoPages() {

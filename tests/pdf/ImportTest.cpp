@@ -134,13 +134,13 @@ class ImportTest : public QObject, protected MergeCase {
         QCOMPARE(plain(0), plain(1));
     }
 
-    void bookmarksAndActionsDoNotLeadIntoTheStructure() {
+    void bookmarksAndActionsDoNotLeadToElementsOutsideTheStructure() {
         auto source = onePage("/Annots [22 0 R]", "/Outlines 20 0 R /StructTreeRoot 30 0 R");
         source.object(20, "<< /First 21 0 R /Last 21 0 R /Count 1 >>");
         source.object(21, "<< /Title (One) /Parent 20 0 R /SE 31 0 R /Dest [4 0 R /Fit] >>");
         source.object(22, "<< /Type /Annot /Subtype /Link /Rect [0 0 9 9] /A << /S /GoTo /D [4 0 R "
                           "/Fit] /SD [31 0 R /Fit] >> >>");
-        source.object(30, "<< /K 31 0 R >>");
+        source.object(30, "<< /Type /StructTreeRoot >>");
         source.object(31, "<< /S /P /P 30 0 R /Alt (of the structure) >>");
         const QByteArray objects = PdfProbe(merged({saved(source)})).json();
         QVERIFY(objects.contains("(One)") || objects.contains("u:One"));

@@ -45,7 +45,6 @@ class LeftPartsTest : public QObject, protected MergeCase {
         const auto row = [](const QString &name, const QByteArray &catalog) {
             QTest::newRow(qPrintable(name)) << catalog << name;
         };
-        row(u"structure tags"_s, "/StructTreeRoot << /K << /S /P >> >>");
         row(u"a portfolio"_s, "/Collection << /View /T >>");
         row(u"an XFA form"_s, "/AcroForm << /Fields [<< >>] /XFA [(a) (b)] >>");
         row(u"document scripts"_s, "/OpenAction << /S /JavaScript /JS (this.print\\(\\)) >>");
@@ -54,8 +53,7 @@ class LeftPartsTest : public QObject, protected MergeCase {
         row(u"a base address of links"_s, "/URI << /Base (http://example.org/) >>");
         row(u"usage rights"_s, "/Perms << /UR3 20 0 R >>");
         row(u"output intents"_s, "/OutputIntents [<< /S /GTS_PDFA1 >>]");
-        row(u"structure tags, a portfolio, output intents"_s,
-            "/OutputIntents [<< >>] /Collection << >> /StructTreeRoot << /K [20 0 R] >>");
+        row(u"a portfolio, output intents"_s, "/OutputIntents [<< >>] /Collection << >>");
     }
     void eachPartThatIsLeftIsNamed() {
         QFETCH(QByteArray, catalog);

@@ -108,6 +108,12 @@ QString PdfProbe::text(int page) const {
     return QString::fromUtf8(runTool(u"pdftotext"_s, arguments).out);
 }
 
+QString PdfProbe::structureText() const {
+    return QString::fromUtf8(
+        runTool(u"pdfinfo"_s, popplerPassword(m_password) + QStringList{u"-struct-text"_s, m_path})
+            .out);
+}
+
 QList<QPointF> PdfProbe::characterOrigins(int page) const {
     const ToolRun run =
         runTool(u"mutool"_s, QStringList{u"draw"_s, u"-q"_s} + mutoolPassword(m_password) +

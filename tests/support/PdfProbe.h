@@ -36,6 +36,8 @@ class PdfProbe {
     [[nodiscard]] QRectF box(const QString &name, int page) const;
     /// The text of one page, or of the document for page 0, by pdftotext in reading order.
     [[nodiscard]] QString text(int page = 0) const;
+    /// The structure tree with its text, as `pdfinfo -struct-text` draws it.
+    [[nodiscard]] QString structureText() const;
     /// Where mutool finds the origin of each character of a page, in points from its upper left
     /// corner; pages from 1.
     [[nodiscard]] QList<QPointF> characterOrigins(int page) const;

@@ -107,6 +107,7 @@ PartCounts countCarried(const ImportedDocument &imported) {
     for (const auto &page : imported.pages) {
         addAnnotations(parts, page);
     }
+    addParts(parts, PartKind::StructureElements, imported.structure.elements);
     addParts(parts, PartKind::Bookmarks, countBookmarks(imported.bookmarks));
     addParts(parts, PartKind::PageLabels,
              static_cast<std::size_t>(std::ranges::count_if(

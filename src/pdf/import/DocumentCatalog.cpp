@@ -27,6 +27,7 @@ Warnings DocumentCatalog::addDocument(const ImportedDocument &imported) {
     }
     m_pageLabels.add(imported.pageLabels, pageCount());
     std::ranges::copy(imported.pages, std::back_inserter(m_pages));
+    m_structure.add(imported.structure, imported.pages.size(), imported.scope);
     m_bookmarks.add(imported.bookmarks);
     Warnings changes = m_forms.add(imported.form);
     m_layers.add(imported.layers);
@@ -42,6 +43,7 @@ Warnings DocumentCatalog::addDocument(const ImportedDocument &imported) {
 
 void DocumentCatalog::finish(QPDF &document) {
     buildPageTree(document, m_pages);
+    m_structure.finish(document, m_pages.size());
     m_bookmarks.finish(document);
     m_forms.finish(document);
     m_layers.finish(document);

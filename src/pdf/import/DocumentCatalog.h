@@ -5,6 +5,7 @@
 #include "pdf/import/DocumentImport.h"
 #include "pdf/import/FormMerger.h"
 #include "pdf/import/SourceNames.h"
+#include "pdf/import/StructureMerger.h"
 
 #include <span>
 #include <vector>
@@ -37,6 +38,7 @@ class DocumentCatalog {
 
   private:
     std::vector<QPDFObjectHandle> m_pages;
+    StructureMerger m_structure;
     BookmarkMerger m_bookmarks;
     PageLabelMerger m_pageLabels;
     FormMerger m_forms;

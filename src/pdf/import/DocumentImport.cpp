@@ -39,6 +39,12 @@ PDFVersion versionOf(QPDF &source) {
     return version;
 }
 
+Warning structureDamaged(std::size_t count) {
+    return {WarningCode::StructureDamaged,
+            count == 1 ? u"1 structure tag is damaged and left out"_s
+                       : u"%1 structure tags are damaged and left out"_s.arg(count)};
+}
+
 } // namespace
 
 ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared,
@@ -46,11 +52,13 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     shared.beginCopy(source);
     ObjectCopier copier(source, target, shared, names);
     ImportedDocument imported;
+    imported.scope = scope;
     imported.parts.left = countLeft(source, scope);
     imported.warnings = namePartsLeft(imported.parts.left);
     const SourcePages found = readSourcePages(source);
     ContentCheck contents(source, found.pages);
     copier.makePages(found.pages);
+    imported.structure = importStructure(source, target, copier);
     imported.destinations = importDestinations(source, names, copier);
     imported.nameTrees = importNameTrees(source, names, copier);
     imported.pages = copier.fillPages(found.pages);
@@ -69,6 +77,10 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
         addParts(imported.parts.left, PartKind::Signatures,
                  static_cast<std::size_t>(copier.signaturesLeftOut()));
         imported.warnings.push_back(signaturesRemoved(copier.signaturesLeftOut()));
+    }
+    if (imported.structure.damaged > 0) {
+        addParts(imported.parts.left, PartKind::StructureElements, imported.structure.damaged);
+        imported.warnings.push_back(structureDamaged(imported.structure.damaged));
     }
     imported.parts.carried = countCarried(imported);
     imported.longestStream = copier.longestStream();

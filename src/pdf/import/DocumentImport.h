@@ -15,6 +15,7 @@
 #include "pdf/import/PageLabels.h"
 #include "pdf/import/SharedStreams.h"
 #include "pdf/import/SourceNames.h"
+#include "pdf/import/StructureImport.h"
 #include "pdf/import/Threads.h"
 
 #include <qpdf/PDFVersion.hh>
@@ -30,7 +31,9 @@ namespace folioforge {
 
 /// What one source document brings, copied into the target but not yet in its catalog.
 struct ImportedDocument {
+    ImportScope scope = ImportScope::OneOfSeveral;
     std::vector<QPDFObjectHandle> pages;
+    ImportedStructure structure;
     ImportedBookmarks bookmarks;
     ImportedPageLabels pageLabels;
     ImportedForm form;

@@ -19,6 +19,10 @@ inline std::vector<QPDFObjectHandle> items(QPDFObjectHandle array) {
     return array.isArray() ? array.getArrayAsVector() : std::vector<QPDFObjectHandle>();
 }
 
+inline bool isTrue(QPDFObjectHandle object) {
+    return object.isBool() && object.getBoolValue();
+}
+
 /// Writes an array of `members` under `key` where there are any.
 inline void putItems(QPDFObjectHandle dictionary, const std::string &key,
                      const std::vector<QPDFObjectHandle> &members) {

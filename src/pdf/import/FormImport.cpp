@@ -14,10 +14,6 @@ namespace folioforge {
 
 namespace {
 
-bool isTrue(QPDFObjectHandle object) {
-    return object.isBool() && object.getBoolValue();
-}
-
 /// The fields that the form of `source` lists.
 std::vector<QPDFObjectHandle> listedFields(QPDF &source) {
     auto fields = items(entry(source.getRoot().getKey("/AcroForm"), "/Fields"));

@@ -4,6 +4,7 @@
 
 #include "pdf/import/Entries.h"
 #include "pdf/import/FieldTree.h"
+#include "pdf/import/FreeName.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -29,19 +30,6 @@ void keepDefaults(QPDFObjectHandle field, const ImportedForm &form) {
     };
     keep("/DA", form.defaultAppearance);
     keep("/Q", form.alignment);
-}
-
-/// `name` or, when that is taken, the name with the next number. `numbers` keeps the last number of
-/// each name, since thousands of forms may have the same names.
-template<typename Taken>
-std::string freeName(const std::string &name, std::map<std::string, int> &numbers,
-                     const Taken &isTaken) {
-    std::string candidate = name;
-    while (isTaken(candidate)) {
-        int &number = numbers.try_emplace(name, 1).first->second;
-        candidate = name + "_" + std::to_string(++number);
-    }
-    return candidate;
 }
 
 /// The topmost fields that have a name, by it. A field without one adds nothing to the names of the

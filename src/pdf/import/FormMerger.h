@@ -5,6 +5,7 @@
 #include "error/Warning.h"
 #include "pdf/import/FieldRenames.h"
 #include "pdf/import/FormImport.h"
+#include "pdf/import/FreeName.h"
 
 #include <map>
 #include <set>
@@ -24,16 +25,14 @@ class FormMerger {
     void finish(QPDF &document);
 
   private:
-    using Numbers = std::map<std::string, int>; ///< The last one given to each name.
-
     Renames renameFields(const ImportedForm &form);
     CategoryRenames addResources(QPDFObjectHandle resources);
 
     ImportedForm m_form;
     std::set<std::string> m_names;
-    Numbers m_nameNumbers;
+    NameNumbers m_nameNumbers;
     std::map<std::string, std::map<std::string, QPDFObjectHandle>> m_resources;
-    std::map<std::string, Numbers> m_resourceNumbers; ///< As m_resources, by category.
+    std::map<std::string, NameNumbers> m_resourceNumbers; ///< As m_resources, by category.
 };
 
 } // namespace folioforge

@@ -82,7 +82,6 @@ PartCounts countLeft(QPDF &source, ImportScope scope) {
     const auto add = [&left](PartKind kind, bool present) {
         addParts(left, kind, present ? 1 : 0);
     };
-    add(PartKind::StructureTree, !entry(entry(catalog, "/StructTreeRoot"), "/K").isNull());
     add(PartKind::XfaForm, !entry(entry(catalog, "/AcroForm"), "/XFA").isNull());
     add(PartKind::UsageRights, hasUsageRights(catalog));
     add(PartKind::Metadata, saysMoreThanProperties(entry(catalog, "/Metadata")));

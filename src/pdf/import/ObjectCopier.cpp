@@ -29,15 +29,18 @@ bool isOwnAction(const Dictionary &dictionary, const char *kind) {
     return entry(dictionary, "/S").isNameAndEquals(kind) && !dictionary.contains("/F");
 }
 
-/// Whether an entry points into the structure tree, which is not copied: of pages and of what has a
-/// subtype (annotations, forms, images) by number, of bookmarks and of actions by reference. The
-/// same keys may name anything else in other dictionaries, such as fonts in resources.
-bool pointsIntoStructure(const Dictionary &dictionary, const std::string &key) {
-    if (key == "/StructParent" || key == "/StructParents") {
-        return entry(dictionary, key).isInteger() &&
-               (entry(dictionary, "/Subtype").isName() ||
-                entry(dictionary, "/Type").isNameAndEquals("/Page"));
-    }
+/// Whether an entry is the key of a page, an annotation or a form in the parent tree of the source.
+/// The tree is made anew. The same keys may name anything else in other dictionaries, such as fonts
+/// in resources.
+bool isParentTreeKey(const Dictionary &dictionary, const std::string &key) {
+    return (key == "/StructParent" || key == "/StructParents") &&
+           entry(dictionary, key).isInteger() &&
+           (entry(dictionary, "/Subtype").isName() ||
+            entry(dictionary, "/Type").isNameAndEquals("/Page"));
+}
+
+/// Whether an entry of a bookmark or an action refers to a structure element.
+bool refersToStructure(const Dictionary &dictionary, const std::string &key) {
     if (key == "/SE") {
         return entry(dictionary, "/Title").isString();
     }
@@ -139,6 +142,16 @@ std::vector<QPDFObjectHandle> ObjectCopier::copyItems(const QPDFObjectHandle &ar
     return copies;
 }
 
+QPDFObjectHandle ObjectCopier::known(const QPDFObjectHandle &object) const {
+    const auto found = m_copies.find(object.getObjGen());
+    const bool has = object.isIndirect() && found != m_copies.end();
+    return has ? found->second : QPDFObjectHandle::newNull();
+}
+
+bool ObjectCopier::setCopy(const QPDFObjectHandle &object, const QPDFObjectHandle &target) {
+    return !object.isIndirect() || m_copies.try_emplace(object.getObjGen(), target).second;
+}
+
 QPDFObjectHandle ObjectCopier::copyIndirect(QPDFObjectHandle object) {
     const auto known = m_copies.find(object.getObjGen());
     if (known != m_copies.end()) {
@@ -180,18 +193,18 @@ QPDFObjectHandle ObjectCopier::reserveStream(QPDFObjectHandle object) {
     return pending.target;
 }
 
-QPDFObjectHandle ObjectCopier::copyValue(QPDFObjectHandle source) {
-    if (isSignature(source)) {
+QPDFObjectHandle ObjectCopier::copyValue(QPDFObjectHandle object) {
+    if (isSignature(object)) {
         ++m_signaturesLeftOut;
         return QPDFObjectHandle::newNull();
     }
-    if (source.isDictionary()) {
-        return copyDictionary(source.getDictAsMap());
+    if (object.isDictionary()) {
+        return copyDictionary(object.getDictAsMap());
     }
-    if (source.isArray()) {
-        return copyArray(source);
+    if (object.isArray()) {
+        return copyArray(object);
     }
-    return source.shallowCopy();
+    return object.shallowCopy();
 }
 
 QPDFObjectHandle ObjectCopier::copyArray(QPDFObjectHandle array) {
@@ -205,7 +218,7 @@ QPDFObjectHandle ObjectCopier::copyArray(QPDFObjectHandle array) {
 QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
     auto target = QPDFObjectHandle::newDictionary();
     for (const auto &[key, value] : dictionary) {
-        if (pointsIntoStructure(dictionary, key)) {
+        if (isParentTreeKey(dictionary, key)) {
             continue;
         }
         auto copied = copyEntry(dictionary, key);
@@ -229,8 +242,32 @@ QPDFObjectHandle ObjectCopier::copyEntry(const Dictionary &dictionary, const std
                : isOwnAction(dictionary, "/Thread")             ? copy(threadOf(m_source, value))
                                                                 : copy(value);
     }
+    if (refersToStructure(dictionary, key)) {
+        return copyStructureReference(value);
+    }
     return key == "/T" && isOwnAction(dictionary, "/GoToE") ? copyEmbeddedTarget(value)
                                                             : copy(value);
+}
+
+/// An element, or an array that begins with one as destinations do. Strings name an element of
+/// another file.
+QPDFObjectHandle ObjectCopier::copyStructureReference(QPDFObjectHandle reference) {
+    if (!reference.isArray()) {
+        return reference.isString() ? copy(reference) : known(reference);
+    }
+    auto members = items(reference);
+    if (members.empty()) {
+        return QPDFObjectHandle::newNull();
+    }
+    auto element = copyStructureReference(members.front());
+    if (element.isNull()) {
+        return element;
+    }
+    for (auto &member : members) {
+        member = copy(member);
+    }
+    members.front() = element;
+    return QPDFObjectHandle::newArray(members);
 }
 
 QPDFObjectHandle ObjectCopier::copyDestination(const QPDFObjectHandle &destination) {

@@ -21,9 +21,9 @@ namespace folioforge {
 class SourceNames;
 
 /// Copies objects of one document into another with all that they refer to, each object once. Pages
-/// are made first and filled later, so that links between them work. The page tree, the catalog and
-/// the structure tree of the source are not copied, nor are signatures, which hold for the bytes of
-/// the source alone.
+/// are made first and filled later, so that links between them work. The page tree and the catalog
+/// of the source are not copied, nor are signatures, which hold for the bytes of the source alone.
+/// Structure elements are copied by their tree alone (importStructure()).
 class ObjectCopier {
   public:
     /// `shared` holds the streams that earlier copies of the same file brought; new ones are added.
@@ -32,7 +32,7 @@ class ObjectCopier {
 
     /// Makes the copies of all pages of the source, still empty. Call it first.
     void makePages(const std::vector<SourcePage> &pages);
-    /// Copies what the pages hold. Call it once.
+    /// Copies what the pages hold. Call it once, when the structure tree is copied.
     std::vector<QPDFObjectHandle> fillPages(const std::vector<SourcePage> &pages);
     /// The copy of `object`. run() fills an indirect one.
     QPDFObjectHandle copy(const QPDFObjectHandle &object);
@@ -41,6 +41,12 @@ class ObjectCopier {
     /// The copy of what a link leads to (ISO 32000-1, 12.3.2): a name, a string, an array, or a
     /// dictionary with /D.
     QPDFObjectHandle copyDestination(const QPDFObjectHandle &destination);
+    /// The copy of what `object` holds, itself no indirect object.
+    QPDFObjectHandle copyValue(QPDFObjectHandle object);
+    /// The copy that `object` has already; null where it has none.
+    [[nodiscard]] QPDFObjectHandle known(const QPDFObjectHandle &object) const;
+    /// Makes `target` the copy of `object`; false where that has a copy already.
+    bool setCopy(const QPDFObjectHandle &object, const QPDFObjectHandle &target);
     /// Fills the pages and objects that fillPages() and copy() returned.
     void run();
     /// Bytes of the longest stream that run() copied, as the source says.
@@ -65,11 +71,11 @@ class ObjectCopier {
     QPDFObjectHandle copyInherited(const InheritedValue &inherited);
     QPDFObjectHandle copyIndirect(QPDFObjectHandle object);
     QPDFObjectHandle reserveStream(QPDFObjectHandle object);
-    QPDFObjectHandle copyValue(QPDFObjectHandle source);
     QPDFObjectHandle copyArray(QPDFObjectHandle array);
     QPDFObjectHandle copyDictionary(const Dictionary &dictionary);
     QPDFObjectHandle copyEntry(const Dictionary &dictionary, const std::string &key);
     QPDFObjectHandle copyEmbeddedTarget(const QPDFObjectHandle &target);
+    QPDFObjectHandle copyStructureReference(QPDFObjectHandle reference);
     void fillStream(PendingStream &stream);
 
     QPDF &m_source;

@@ -33,6 +33,11 @@ bool isLayer(QPDFObjectHandle dictionary) {
     return dictionary.isDictionaryOfType("/OCG") || dictionary.isDictionaryOfType("/OCMD");
 }
 
+/// Whether a form or an image has a key in the parent tree of its document.
+bool isTagged(QPDFObjectHandle dictionary) {
+    return dictionary.hasKey("/StructParent") || dictionary.hasKey("/StructParents");
+}
+
 /// Which objects of a document refer to which.
 class ObjectGraph {
   public:
@@ -44,7 +49,7 @@ class ObjectGraph {
 
     /// The objects that every copy of the document needs for itself, streams among them.
     [[nodiscard]] std::set<QPDFObjGen> copiedEachTime() const {
-        std::set<QPDFObjGen> objects = reachable(m_layered, m_users);
+        std::set<QPDFObjGen> objects = reachable(m_ofOneCopy, m_users);
         objects.insert(m_appearances.begin(), m_appearances.end());
         for (const QPDFObjGen object : reachable(m_appearances, m_uses)) {
             if (m_forms.contains(object)) {
@@ -59,6 +64,9 @@ class ObjectGraph {
         const QPDFObjGen owner = object.getObjGen();
         if (object.isFormXObject()) {
             m_forms.insert(owner);
+        }
+        if (object.isStream() && isTagged(object.getDict())) {
+            m_ofOneCopy.push_back(owner);
         }
         std::vector<QPDFObjectHandle> open{object.isStream() ? object.getDict() : object};
         while (!open.empty()) {
@@ -87,7 +95,7 @@ class ObjectGraph {
 
     void readKeys(QPDFObjGen owner, QPDFObjectHandle dictionary) {
         if (isLayer(dictionary)) {
-            m_layered.push_back(owner);
+            m_ofOneCopy.push_back(owner);
         }
         for (const char *key : {"/AP", "/MK"}) {
             auto appearances = dictionary.getKey(key);
@@ -114,7 +122,7 @@ class ObjectGraph {
 
     References m_uses;
     References m_users;
-    Objects m_layered; ///< They hold a layer or are one.
+    Objects m_ofOneCopy; ///< They hold a layer, are one, or belong to a structure element.
     Objects m_appearances;
     std::set<QPDFObjGen> m_forms;
 };

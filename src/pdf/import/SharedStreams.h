@@ -15,7 +15,8 @@ namespace folioforge {
 
 /// The streams that all copies of one source file share. Each copy has to itself what is edited in
 /// place or belongs to its own catalog: the appearances of annotations, which a reader writes anew
-/// when a field is filled in, with the forms inside them, and what leads to a layer.
+/// when a field is filled in, with the forms inside them, what leads to a layer, and what structure
+/// elements mark.
 class SharedStreams {
   public:
     /// To be called before each copy of the file, with the file as it was read.

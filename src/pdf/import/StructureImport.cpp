@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/StructureImport.h"
+
+#include "pdf/import/Entries.h"
+#include "pdf/import/ObjectCopier.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <algorithm>
+#include <initializer_list>
+#include <string_view>
+
+namespace folioforge {
+
+namespace {
+
+using Dictionary = std::map<std::string, QPDFObjectHandle>;
+
+/// What a kid of an element is (ISO 32000-1, 14.7.4).
+enum class KidKind { Element, MarkedContent, Object, Damaged };
+
+KidKind kindOf(QPDFObjectHandle kid) {
+    if (kid.isInteger()) {
+        return KidKind::MarkedContent;
+    }
+    if (!kid.isDictionary()) {
+        return KidKind::Damaged;
+    }
+    // Not every writer gives the type.
+    if (kid.isDictionaryOfType("/MCR") || (kid.hasKey("/MCID") && !kid.hasKey("/S"))) {
+        return KidKind::MarkedContent;
+    }
+    if (kid.isDictionaryOfType("/OBJR") || (kid.hasKey("/Obj") && !kid.hasKey("/S"))) {
+        return KidKind::Object;
+    }
+    return KidKind::Element;
+}
+
+std::vector<QPDFObjectHandle> kidsOf(QPDFObjectHandle kids) {
+    if (kids.isArray()) {
+        return items(kids);
+    }
+    return kids.isNull() ? std::vector<QPDFObjectHandle>() : std::vector{kids};
+}
+
+Dictionary membersOf(QPDFObjectHandle dictionary) {
+    return dictionary.isDictionary() ? dictionary.getDictAsMap() : Dictionary();
+}
+
+bool isOneOf(std::string_view key, std::initializer_list<std::string_view> keys) {
+    return std::ranges::find(keys, key) != keys.end();
+}
+
+class StructureWalk {
+  public:
+    StructureWalk(QPDF &target, ObjectCopier &copier)
+        : m_target(target)
+        , m_copier(copier) {}
+
+    ImportedStructure walk(QPDFObjectHandle catalog);
+
+  private:
+    /// An element whose copy is still empty.
+    struct Open {
+        QPDFObjectHandle source;
+        QPDFObjectHandle target;
+        QPDFObjectHandle page; ///< Of the element above it, in the copy; null where none.
+    };
+
+    void copyRoot(QPDFObjectHandle root);
+    void fill(const Open &open);
+    void fillReferences();
+    void note(Dictionary &members, const QPDFObjectHandle &target);
+    void copyKid(const QPDFObjectHandle &kid, const Open &parent,
+                 std::vector<QPDFObjectHandle> &kids);
+    void addElement(const QPDFObjectHandle &kid, const Open &parent,
+                    std::vector<QPDFObjectHandle> &kids);
+    void addContent(QPDFObjectHandle kid, const Open &parent, std::vector<QPDFObjectHandle> &kids);
+    void addObject(const QPDFObjectHandle &kid, const Open &parent,
+                   std::vector<QPDFObjectHandle> &kids);
+    MarkedContent &contentOf(const QPDFObjectHandle &holder);
+
+    QPDF &m_target;
+    ObjectCopier &m_copier;
+    ImportedStructure m_structure;
+    std::vector<Open> m_open;
+    std::vector<std::pair<QPDFObjectHandle, QPDFObjectHandle>> m_references; ///< Owner and /Ref.
+    std::map<QPDFObjGen, std::size_t> m_contentOf; ///< Positions in `content` by holder.
+};
+
+ImportedStructure StructureWalk::walk(QPDFObjectHandle catalog) {
+    m_structure.markInfo = m_copier.copy(catalog.getKey("/MarkInfo"));
+    m_structure.language = m_copier.copy(catalog.getKey("/Lang"));
+    m_structure.marked = isTrue(entry(m_structure.markInfo, "/Marked"));
+    m_structure.properties = QPDFObjectHandle::newNull();
+    auto root = catalog.getKey("/StructTreeRoot");
+    if (!root.isDictionary()) {
+        return std::move(m_structure);
+    }
+    copyRoot(root);
+    while (!m_open.empty()) {
+        const Open open = m_open.back();
+        m_open.pop_back();
+        fill(open);
+    }
+    fillReferences();
+    return std::move(m_structure);
+}
+
+void StructureWalk::copyRoot(QPDFObjectHandle root) {
+    for (const auto &[role, meaning] : membersOf(root.getKey("/RoleMap"))) {
+        m_structure.roleMap.emplace(role, m_copier.copy(meaning));
+    }
+    for (const auto &[name, attributes] : membersOf(root.getKey("/ClassMap"))) {
+        m_structure.classMap.emplace(name, m_copier.copy(attributes));
+    }
+    m_structure.properties = QPDFObjectHandle::newDictionary();
+    for (const auto &[key, value] : root.getDictAsMap()) {
+        if (!isOneOf(key, {"/Type", "/K", "/ParentTree", "/ParentTreeNextKey", "/IDTree",
+                           "/RoleMap", "/ClassMap"})) {
+            m_structure.properties.replaceKey(key, m_copier.copy(value));
+        }
+    }
+    const Open none{{}, {}, QPDFObjectHandle::newNull()};
+    for (const auto &kid : kidsOf(root.getKey("/K"))) {
+        copyKid(kid, none, m_structure.kids);
+    }
+}
+
+/// Keeps what the merging of several trees asks for.
+void StructureWalk::note(Dictionary &members, const QPDFObjectHandle &target) {
+    const bool ownNamespace = members.contains("/NS"); // It has roles of its own.
+    auto &role = members["/S"];
+    if (!role.isName()) {
+        role = QPDFObjectHandle::newName("/NonStruct");
+        ++m_structure.damaged;
+    } else if (!ownNamespace) {
+        const std::string name = role.getName();
+        if (m_structure.roleMap.contains(name)) {
+            m_structure.byRole[name].push_back(target);
+        } else {
+            m_structure.standardRoles.insert(name);
+        }
+    }
+    if (members.contains("/C")) {
+        m_structure.withClass.push_back(target);
+    }
+    if (members.contains("/A")) {
+        m_structure.withAttributes.push_back(target);
+    }
+    const auto id = members.find("/ID");
+    if (id != members.end() && id->second.isString()) {
+        m_structure.named.emplace_back(id->second.getStringValue(), target);
+    }
+    ++m_structure.elements;
+}
+
+void StructureWalk::fill(const Open &open) {
+    Dictionary members = membersOf(open.source);
+    QPDFObjectHandle target = open.target;
+    note(members, target);
+    Open parent = open;
+    for (const auto &[key, value] : members) {
+        if (key == "/Ref") {
+            m_references.emplace_back(target, value);
+        } else if (!isOneOf(key, {"/P", "/K"})) {
+            auto copied = m_copier.copy(value);
+            if (!copied.isNull()) {
+                target.replaceKey(key, copied);
+            }
+        }
+    }
+    if (target.hasKey("/Pg")) {
+        parent.page = target.getKey("/Pg");
+    }
+    std::vector<QPDFObjectHandle> kids;
+    const std::size_t first = m_open.size();
+    for (const auto &kid : kidsOf(entry(open.source, "/K"))) {
+        copyKid(kid, parent, kids);
+    }
+    std::ranges::reverse(m_open.begin() + static_cast<std::ptrdiff_t>(first), m_open.end());
+    if (kids.size() == 1) {
+        target.replaceKey("/K", kids.front());
+    } else {
+        putItems(target, "/K", kids);
+    }
+}
+
+/// Elements refer to others, which may come later in the tree.
+void StructureWalk::fillReferences() {
+    for (auto &[owner, references] : m_references) {
+        std::vector<QPDFObjectHandle> copies;
+        for (const auto &reference : items(references)) {
+            auto copied = m_copier.known(reference);
+            if (!copied.isNull()) {
+                copies.push_back(copied);
+            }
+        }
+        putItems(owner, "/Ref", copies);
+    }
+}
+
+void StructureWalk::copyKid(const QPDFObjectHandle &kid, const Open &parent,
+                            std::vector<QPDFObjectHandle> &kids) {
+    const std::size_t before = kids.size();
+    switch (kindOf(kid)) {
+    case KidKind::Element:
+        addElement(kid, parent, kids);
+        break;
+    case KidKind::MarkedContent:
+        addContent(kid, parent, kids);
+        break;
+    case KidKind::Object:
+        addObject(kid, parent, kids);
+        break;
+    case KidKind::Damaged:
+        break;
+    }
+    m_structure.damaged += kids.size() == before ? 1 : 0;
+}
+
+void StructureWalk::addElement(const QPDFObjectHandle &kid, const Open &parent,
+                               std::vector<QPDFObjectHandle> &kids) {
+    auto target = m_target.makeIndirectObject(QPDFObjectHandle::newDictionary());
+    if (!m_copier.setCopy(kid, target)) {
+        return; // It has a parent already.
+    }
+    if (parent.target.isInitialized()) {
+        target.replaceKey("/P", parent.target);
+    }
+    kids.push_back(target);
+    m_open.push_back({kid, target, parent.page});
+}
+
+MarkedContent &StructureWalk::contentOf(const QPDFObjectHandle &holder) {
+    const auto [found, isNew] =
+        m_contentOf.try_emplace(holder.getObjGen(), m_structure.content.size());
+    if (isNew) {
+        m_structure.content.push_back({holder, {}});
+    }
+    return m_structure.content[found->second];
+}
+
+void StructureWalk::addContent(QPDFObjectHandle kid, const Open &parent,
+                               std::vector<QPDFObjectHandle> &kids) {
+    auto number = kid.isInteger() ? kid : kid.getKey("/MCID");
+    const auto copied = m_copier.copyValue(kid);
+    auto holder = parent.page;
+    for (const char *key : {"/Pg", "/Stm"}) {
+        const auto named = entry(copied, key);
+        holder = named.isIndirect() ? named : holder;
+    }
+    if (!number.isInteger() || number.getIntValue() < 0 || !holder.isIndirect() ||
+        !parent.target.isInitialized()) {
+        return;
+    }
+    contentOf(holder).elements.emplace_back(number.getIntValue(), parent.target);
+    kids.push_back(copied);
+}
+
+void StructureWalk::addObject(const QPDFObjectHandle &kid, const Open &parent,
+                              std::vector<QPDFObjectHandle> &kids) {
+    const auto copied = m_copier.copyValue(kid);
+    const auto object = entry(copied, "/Obj");
+    if (!object.isIndirect() || !parent.target.isInitialized()) {
+        return;
+    }
+    m_structure.objects.emplace_back(object, parent.target);
+    kids.push_back(copied);
+}
+
+} // namespace
+
+ImportedStructure importStructure(QPDF &source, QPDF &target, ObjectCopier &copier) {
+    return StructureWalk(target, copier).walk(source.getRoot());
+}
+
+} // namespace folioforge

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/StructureMerger.h"
+
+#include "pdf/import/Entries.h"
+#include "pdf/import/StructureNames.h"
+#include "pdf/import/TreeEntries.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <algorithm>
+#include <iterator>
+
+namespace folioforge {
+
+namespace {
+
+QPDFObjectHandle dictionaryOf(QPDFObjectHandle object) {
+    return object.isStream() ? object.getDict() : object;
+}
+
+/// The elements of a page or a form by the number of their content. Numbers far beyond the others,
+/// which no writer gives, stay out.
+QPDFObjectHandle parentsOf(const MarkedContent &content) {
+    constexpr std::size_t kMaxGap = 4096;
+    std::vector<QPDFObjectHandle> parents;
+    auto elements = content.elements;
+    std::ranges::stable_sort(elements, {}, [](const auto &element) { return element.first; });
+    for (const auto &[number, element] : elements) {
+        const auto index = static_cast<std::size_t>(number);
+        if (index > parents.size() + kMaxGap) {
+            break;
+        }
+        if (index >= parents.size()) { // Else its number is another's, too.
+            parents.resize(index, QPDFObjectHandle::newNull());
+            parents.push_back(element);
+        }
+    }
+    return QPDFObjectHandle::newArray(parents);
+}
+
+/// Makes the parent tree, and gives pages, forms and annotations their keys in it.
+void putParentTree(QPDF &document, const std::vector<ImportedStructure> &trees,
+                   QPDFObjectHandle root) {
+    TreeEntries entries;
+    const auto add = [&entries](QPDFObjectHandle holder, const char *name,
+                                const auto &makeParents) {
+        auto dictionary = dictionaryOf(holder);
+        if (!dictionary.isDictionary() || dictionary.hasKey(name)) {
+            return;
+        }
+        const auto key = QPDFObjectHandle::newInteger(static_cast<long long>(entries.size()));
+        dictionary.replaceKey(name, key);
+        entries.emplace_back(key, makeParents());
+    };
+    for (const ImportedStructure &tree : trees) {
+        for (const MarkedContent &content : tree.content) {
+            add(content.holder, "/StructParents",
+                [&] { return document.makeIndirectObject(parentsOf(content)); });
+        }
+        for (const auto &[object, element] : tree.objects) {
+            add(object, "/StructParent", [&parent = element] { return parent; });
+        }
+    }
+    root.replaceKey("/ParentTree", buildTree(document, entries, "/Nums"));
+    root.replaceKey("/ParentTreeNextKey",
+                    QPDFObjectHandle::newInteger(static_cast<long long>(entries.size())));
+}
+
+/// Joins what the roots hold beside their trees, such as namespaces.
+void putProperties(const std::vector<ImportedStructure> &trees, QPDFObjectHandle root) {
+    for (const ImportedStructure &tree : trees) {
+        QPDFObjectHandle properties = tree.properties;
+        for (const auto &[key, value] : properties.getDictAsMap()) {
+            if (!root.hasKey(key)) {
+                root.replaceKey(key, value);
+            } else if (root.getKey(key).isArray()) {
+                auto joined = items(root.getKey(key));
+                std::ranges::copy(items(value), std::back_inserter(joined));
+                root.replaceKey(key, QPDFObjectHandle::newArray(joined));
+            }
+        }
+    }
+}
+
+/// The document elements of a tree: a merged document has several. Where other elements stand on
+/// the first level, one is put above them.
+std::vector<QPDFObjectHandle> documentsOf(const ImportedStructure &tree, QPDF &document) {
+    if (std::ranges::all_of(tree.kids, [&tree](const QPDFObjectHandle &kid) {
+            return standardRole(tree, kid) == "/Document";
+        })) {
+        return tree.kids;
+    }
+    auto element = document.makeIndirectObject(
+        QPDFObjectHandle::parse("<< /Type /StructElem /S /Document >>"));
+    for (QPDFObjectHandle kid : tree.kids) {
+        kid.replaceKey("/P", element);
+    }
+    putItems(element, "/K", tree.kids);
+    return {element};
+}
+
+} // namespace
+
+void StructureMerger::add(const ImportedStructure &structure, std::size_t pages,
+                          ImportScope scope) {
+    m_scope = scope;
+    if (scope == ImportScope::WholeDocument) {
+        m_wholeMarkInfo = structure.markInfo;
+    }
+    if (structure.marked) {
+        m_markedPages += pages;
+    }
+    if (!structure.kids.empty()) {
+        m_trees.push_back(structure);
+    }
+}
+
+QPDFObjectHandle StructureMerger::markInfo(std::size_t pages) const {
+    auto result = QPDFObjectHandle::newDictionary();
+    if (m_markedPages == pages) {
+        result.replaceKey("/Marked", QPDFObjectHandle::newBool(true));
+    }
+    for (const char *key : {"/UserProperties", "/Suspects"}) {
+        if (std::ranges::any_of(m_trees, [key](const ImportedStructure &tree) {
+                return isTrue(entry(tree.markInfo, key));
+            })) {
+            result.replaceKey(key, QPDFObjectHandle::newBool(true));
+        }
+    }
+    return result.getKeys().empty() ? QPDFObjectHandle::newNull() : result;
+}
+
+/// The elements under the root. Of several sources each has one, which says its language.
+std::vector<QPDFObjectHandle> StructureMerger::topElements(QPDF &document) const {
+    if (m_scope == ImportScope::WholeDocument) {
+        return m_trees.front().kids;
+    }
+    std::vector<QPDFObjectHandle> elements;
+    for (const ImportedStructure &tree : m_trees) {
+        for (QPDFObjectHandle element : documentsOf(tree, document)) {
+            QPDFObjectHandle language = tree.language;
+            if (language.isString() && !element.hasKey("/Lang")) {
+                element.replaceKey("/Lang", language);
+            }
+            elements.push_back(element);
+        }
+    }
+    return elements;
+}
+
+void StructureMerger::finish(QPDF &document, std::size_t pages) {
+    auto catalog = document.getRoot();
+    const bool whole = m_scope == ImportScope::WholeDocument;
+    catalog.replaceKey("/MarkInfo", whole ? m_wholeMarkInfo : markInfo(pages));
+    if (m_trees.empty()) {
+        return;
+    }
+    auto root = document.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /StructTreeRoot >>"));
+    catalog.replaceKey("/StructTreeRoot", root);
+    const auto elements = topElements(document);
+    for (QPDFObjectHandle element : elements) {
+        element.replaceKey("/P", root);
+    }
+    putItems(root, "/K", elements);
+    putProperties(m_trees, root);
+    putParentTree(document, m_trees, root);
+    if (whole) {
+        putNames(m_trees.front(), root);
+    } else {
+        mergeRoles(m_trees, root);
+        mergeClasses(m_trees, root);
+    }
+    mergeIdentifiers(document, m_trees, root);
+}
+
+} // namespace folioforge

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "MergeCase.h"
+#include "support/TaggedPage.h"
+#include "support/TestUnit.h"
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// What elements of several structure trees are called when they stand in one.
+class StructureNamesTest : public QObject, protected MergeCase {
+    Q_OBJECT
+
+    /// A tagged page whose only element has `keys`; the root holds `names`.
+    static PdfFixture page(const QByteArray &type, const QByteArray &names,
+                           const QByteArray &keys = {}) {
+        return taggedPage({"a"}, "/K 11 0 R " + names)
+            .object(11, element("Document", 10, "[12 0 R]"))
+            .object(12, element(type, 11, "0", keys));
+    }
+    std::unique_ptr<QPDF> mergedDocument(const std::vector<PdfFixture> &sources) {
+        QStringList paths;
+        for (const PdfFixture &source : sources) {
+            paths += saved(source);
+        }
+        return opened(merged(paths));
+    }
+    static QByteArray rootEntry(QPDF &document, const char *key) {
+        auto root = document.getRoot().getKey("/StructTreeRoot");
+        return QByteArray::fromStdString(root.getKey(key).unparseResolved());
+    }
+    /// An entry of the only element of the source at `index`.
+    static QByteArray entryOf(QPDF &document, int index, const char *key) {
+        auto root = document.getRoot().getKey("/StructTreeRoot");
+        auto element = root.getKey("/K").getArrayItem(index).getKey("/K");
+        return QByteArray::fromStdString(element.getKey(key).unparseResolved());
+    }
+
+  private Q_SLOTS:
+    void rolesOfOneMeaningAreOne() {
+        const auto document = mergedDocument({page("Para", "/RoleMap << /Para /P >>"),
+                                              page("Para", "/RoleMap << /Para /Text /Text /P >>")});
+        QCOMPARE(rootEntry(*document, "/RoleMap"), "<< /Para /P /Text /P >>");
+        QCOMPARE(entryOf(*document, 1, "/S"), "/Para");
+    }
+
+    void aRoleOfTwoMeaningsIsTwoRoles() {
+        const PdfFixture paragraph = page("Para", "/RoleMap << /Para /P >>");
+        const PdfFixture heading = page("Para", "/RoleMap << /Para /H1 >>");
+        const auto document = mergedDocument({paragraph, heading, paragraph, heading});
+        QCOMPARE(rootEntry(*document, "/RoleMap"), "<< /Para /P /Para_2 /H1 >>");
+        QCOMPARE(entryOf(*document, 0, "/S"), "/Para");
+        QCOMPARE(entryOf(*document, 1, "/S"), "/Para_2");
+        QCOMPARE(entryOf(*document, 2, "/S"), "/Para");
+        QCOMPARE(entryOf(*document, 3, "/S"), "/Para_2");
+    }
+
+    void aStandardTypeKeepsItsMeaningBesideARoleOfItsName() {
+        const auto document =
+            mergedDocument({page("Note", {}), page("Note", "/RoleMap << /Note /P >>")});
+        QCOMPARE(rootEntry(*document, "/RoleMap"), "<< /Note_2 /P >>");
+        QCOMPARE(entryOf(*document, 0, "/S"), "/Note");
+        QCOMPARE(entryOf(*document, 1, "/S"), "/Note_2");
+    }
+
+    void rolesThatStandForEachOtherEnd() {
+        const PdfFixture source = page("A", "/RoleMap << /A /B /B /A >>");
+        const auto document = mergedDocument({source, source});
+        QCOMPARE(entryOf(*document, 0, "/S"), entryOf(*document, 1, "/S"));
+    }
+
+    void aClassOfTwoMeaningsIsTwoClasses() {
+        const QByteArray narrow = "/ClassMap << /Box << /O /Layout /Width 1 >> >>";
+        const QByteArray wide = "/ClassMap << /Box << /O /Layout /Width 9 >> >>";
+        const auto document =
+            mergedDocument({page("P", narrow, "/C /Box"), page("P", wide, "/C [/Box 0 /Other]")});
+        QCOMPARE(rootEntry(*document, "/ClassMap"),
+                 "<< /Box << /O /Layout /Width 1 >> /Box_2 << /O /Layout /Width 9 >> >>");
+        QCOMPARE(entryOf(*document, 0, "/C"), "/Box");
+        QCOMPARE(entryOf(*document, 1, "/C"), "[ /Box_2 0 /Other ]");
+    }
+
+    void identifiersStayUniqueAndHeadersFollow() {
+        const PdfFixture source =
+            taggedPage({"a", "b"}, "/K 11 0 R /IDTree << /Names [(h) 12 0 R] >>")
+                .object(11, element("Document", 10, "[12 0 R 13 0 R]"))
+                .object(12, element("TH", 11, "0", "/ID (h)"))
+                .object(13, element("TD", 11, "1", "/A << /O /Table /Headers [(h)] >>"));
+        const auto document = mergedDocument({source, source});
+        auto root = document->getRoot().getKey("/StructTreeRoot");
+        auto names = root.getKey("/IDTree").getKey("/Names");
+        QCOMPARE(names.getArrayNItems(), 4);
+        for (const int index : {0, 1}) {
+            const std::string identifier = index == 0 ? "h" : "h_2";
+            auto cells = root.getKey("/K").getArrayItem(index).getKey("/K");
+            QCOMPARE(cells.getArrayItem(0).getKey("/ID").getStringValue(), identifier);
+            QCOMPARE(names.getArrayItem(2 * index).getStringValue(), identifier);
+            QVERIFY(names.getArrayItem(2 * index + 1).isSameObjectAs(cells.getArrayItem(0)));
+            auto headers = cells.getArrayItem(1).getKey("/A").getKey("/Headers");
+            QCOMPARE(headers.getArrayItem(0).getStringValue(), identifier);
+        }
+    }
+};
+
+FOLIOFORGE_TEST(StructureNamesTest)
+#include "StructureNamesTest.moc"
