@@ -70,6 +70,21 @@ class StructureNamesTest : public QObject, protected MergeCase {
         QCOMPARE(entryOf(*document, 0, "/S"), entryOf(*document, 1, "/S"));
     }
 
+    void aChainOf20000RolesHasOneMeaning() {
+        constexpr int kRoles = 20'000;
+        QByteArray roles;
+        for (int i = 0; i < kRoles; ++i) {
+            roles += "/R" + QByteArray::number(i) + " /R" + QByteArray::number(i + 1) + ' ';
+        }
+        const QByteArray last = "/R" + QByteArray::number(kRoles) + " /P";
+        const PdfFixture source = page("R0", "/RoleMap << " + roles + last + " >>");
+        const auto document = mergedDocument({source, source});
+        auto merged = document->getRoot().getKey("/StructTreeRoot").getKey("/RoleMap");
+        QCOMPARE(merged.getKeys().size(), std::size_t{kRoles + 1});
+        QCOMPARE(merged.getKey("/R0").getName(), std::string("/P"));
+        QCOMPARE(merged.getKey("/R777").getName(), std::string("/P"));
+    }
+
     void aClassOfTwoMeaningsIsTwoClasses() {
         const QByteArray narrow = "/ClassMap << /Box << /O /Layout /Width 1 >> >>";
         const QByteArray wide = "/ClassMap << /Box << /O /Layout /Width 9 >> >>";

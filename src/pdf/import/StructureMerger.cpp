@@ -86,8 +86,11 @@ void putProperties(const std::vector<ImportedStructure> &trees, QPDFObjectHandle
 /// The document elements of a tree: a merged document has several. Where other elements stand on
 /// the first level, one is put above them.
 std::vector<QPDFObjectHandle> documentsOf(const ImportedStructure &tree, QPDF &document) {
-    if (std::ranges::all_of(tree.kids, [&tree](const QPDFObjectHandle &kid) {
-            return standardRole(tree, kid) == "/Document";
+    const RoleMeanings meanings = meaningsOf(tree);
+    if (std::ranges::all_of(tree.kids, [&meanings](QPDFObjectHandle kid) {
+            const std::string role = kid.getKey("/S").getName();
+            const auto known = meanings.find(role);
+            return (known == meanings.end() ? role : known->second) == "/Document";
         })) {
         return tree.kids;
     }

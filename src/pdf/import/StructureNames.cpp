@@ -19,28 +19,14 @@ namespace {
 using Names = std::map<std::string, std::string>;
 using Members = std::map<std::string, QPDFObjectHandle>;
 
-/// The standard type that `role` stands for in its own tree.
-std::string meaningOf(std::string role, const Members &roleMap) {
-    std::set<std::string> visited; // Roles may stand for each other.
-    for (auto found = roleMap.find(role); found != roleMap.end() && visited.insert(role).second;
-         found = roleMap.find(role)) {
-        QPDFObjectHandle meaning = found->second;
-        if (!meaning.isName()) {
-            break;
-        }
-        role = meaning.getName();
-    }
-    return role;
-}
-
 /// The roles of all trees, each with one meaning.
 class RoleNames {
   public:
     explicit RoleNames(std::span<const ImportedStructure> trees) {
         for (const ImportedStructure &tree : trees) {
             m_standard.insert(tree.standardRoles.begin(), tree.standardRoles.end());
-            for (const auto &[role, meaning] : tree.roleMap) {
-                m_standard.insert(meaningOf(role, tree.roleMap));
+            for (const auto &[role, meaning] : meaningsOf(tree)) {
+                m_standard.insert(meaning);
                 m_used.insert(role);
             }
         }
@@ -133,9 +119,28 @@ void renameHeaders(const ImportedStructure &tree, const Names &renames) {
 
 } // namespace
 
-std::string standardRole(const ImportedStructure &tree, QPDFObjectHandle element) {
-    auto role = element.getKey("/S");
-    return role.isName() ? meaningOf(role.getName(), tree.roleMap) : std::string();
+RoleMeanings meaningsOf(const ImportedStructure &tree) {
+    RoleMeanings meanings;
+    for (const auto &[first, ignored] : tree.roleMap) {
+        std::string role = first;
+        std::vector<std::string> way; // Roles may stand for each other.
+        for (auto next = tree.roleMap.find(role);
+             next != tree.roleMap.end() && meanings.try_emplace(role, role).second;
+             next = tree.roleMap.find(role)) {
+            way.push_back(role);
+            QPDFObjectHandle meaning = next->second;
+            if (!meaning.isName()) {
+                break;
+            }
+            role = meaning.getName();
+        }
+        const auto known = meanings.find(role);
+        const std::string meaning = known == meanings.end() ? role : known->second;
+        for (const std::string &passed : way) {
+            meanings[passed] = meaning;
+        }
+    }
+    return meanings;
 }
 
 void putNames(const ImportedStructure &tree, QPDFObjectHandle root) {
@@ -150,8 +155,8 @@ void putNames(const ImportedStructure &tree, QPDFObjectHandle root) {
 void mergeRoles(std::span<ImportedStructure> trees, QPDFObjectHandle root) {
     RoleNames names(trees);
     for (ImportedStructure &tree : trees) {
-        for (const auto &[role, ignored] : tree.roleMap) {
-            const std::string name = names.add(role, meaningOf(role, tree.roleMap));
+        for (const auto &[role, meaning] : meaningsOf(tree)) {
+            const std::string name = names.add(role, meaning);
             if (name == role) {
                 continue;
             }

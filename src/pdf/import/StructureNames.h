@@ -4,6 +4,7 @@
 
 #include "pdf/import/StructureImport.h"
 
+#include <map>
 #include <span>
 #include <string>
 
@@ -15,8 +16,11 @@ namespace folioforge {
 // different things in two trees gets a number behind it in the later one, and the elements that use
 // it follow.
 
-/// The standard type that the type of `element` stands for in its tree, such as "/Document".
-std::string standardRole(const ImportedStructure &tree, QPDFObjectHandle element);
+/// The standard type, such as "/P", that each role stands for.
+using RoleMeanings = std::map<std::string, std::string>;
+
+/// What the roles of a tree stand for, at the end of each chain of them.
+RoleMeanings meaningsOf(const ImportedStructure &tree);
 
 /// Writes the types and the classes of the only tree into `root` as they are.
 void putNames(const ImportedStructure &tree, QPDFObjectHandle root);
