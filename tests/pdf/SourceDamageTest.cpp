@@ -2,6 +2,7 @@
 
 #include "MergeCase.h"
 #include "pdf/PDFContext.h"
+#include "pdf/import/SourceDocument.h"
 #include "support/Files.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
@@ -54,9 +55,18 @@ class SourceDamageTest : public QObject, protected MergeCase {
     }
 
   private Q_SLOTS:
+    void morePagesThanStatedAreNamed_data() {
+        QTest::addColumn<QByteArray>("count");
+        QTest::addColumn<QString>("stated");
+        QTest::newRow("two") << QByteArray("/Count 2") << u"states 2 pages"_s;
+        QTest::newRow("none") << QByteArray("/Count 0") << u"states 0 pages"_s;
+        QTest::newRow("no count") << QByteArray() << u"does not state its pages"_s;
+    }
     void morePagesThanStatedAreNamed() {
-        QCOMPARE(warningsOf(withKids("4 0 R 5 0 R 6 0 R", "/Count 2")).value(0),
-                 u"pdf-repaired: The document states 2 pages, and 3 were found"_s);
+        QFETCH(const QByteArray, count);
+        QFETCH(const QString, stated);
+        QCOMPARE(warningsOf(withKids("4 0 R 5 0 R 6 0 R", count)).value(0),
+                 u"pdf-repaired: The document %1, and 3 were found"_s.arg(stated));
     }
 
     void aSourceInOrderBringsNoWarning() {
@@ -166,6 +176,35 @@ class SourceDamageTest : public QObject, protected MergeCase {
         const QStringList warnings = warningsOf(writeFile(newPath(), moved));
         QCOMPARE(warnings.size(), 2);
         QVERIFY(warnings.first().contains(u"page 2"_s));
+    }
+
+    void aSourceThatIsCutOffGivesWhatStandsBefore_data() {
+        QTest::addColumn<QByteArray>("end");
+        QTest::newRow("no trailer") << QByteArray("trailer");
+        QTest::newRow("no table") << QByteArray("xref");
+        QTest::newRow("within an object's end") << QByteArray("dobj\nxref");
+        QTest::newRow("within a stream") << QByteArray("ET\nendstream\nendobj\nxref");
+    }
+    void aSourceThatIsCutOffGivesWhatStandsBefore() {
+        QFETCH(const QByteArray, end);
+        const QByteArray whole = threePages().bytes();
+        QVERIFY(whole.contains(end));
+        const QString source = writeFile(newPath(), whole.first(whole.indexOf(end)));
+        QCOMPARE(summarizePDF(source).pageCount, 3);
+        QVERIFY(warningsOf(source).value(0).startsWith(u"pdf-repaired: The document is damaged"_s));
+        const PdfProbe probe(merged({source}));
+        QVERIFY(probe.text(1).contains(u"Page 1"_s));
+        QVERIFY(probe.text(3).contains(u"Page 3"_s));
+    }
+
+    void theLastCatalogOfASourceThatIsCutOffCounts() {
+        PdfFixture source = threePages();
+        source.object(20, "<< /Type /Catalog /Pages 21 0 R >>");
+        source.object(21, "<< /Type /Pages /Count 1 /Kids [6 0 R] >>");
+        const QByteArray whole = source.bytes();
+        QCOMPARE(PdfProbe(merged({writeFile(newPath(), whole.first(whole.indexOf("xref")))}))
+                     .pageCount(),
+                 1);
     }
 
     void repairsAreToldInWords_data() {

@@ -62,6 +62,16 @@ class SourceDocumentTest : public QObject {
         QCOMPARE(summary.pageCount, 3);
     }
 
+    void anEncryptedDocumentWithoutItsTrailerIsRefused() {
+        QFile file(encrypted(QString(), {u"256"_s}));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        QVERIFY(bytes.contains("xref\n0"));
+        const QString cut = saved(u"cut.pdf"_s, bytes.first(bytes.indexOf("xref\n0")));
+        QCOMPARE(refusal(cut), u"The document is damaged: its trailer and its table of objects are "
+                               "missing"_s);
+    }
+
     void tellsAnEncryptedDocument_data() {
         QTest::addColumn<QString>("user");
         QTest::addColumn<QStringList>("options");

@@ -4,6 +4,7 @@
 
 #include "pdf/import/CarriedParts.h"
 #include "pdf/import/ContentCheck.h"
+#include "pdf/import/MissingObjects.h"
 #include "pdf/import/ObjectCopier.h"
 #include "pdf/import/SourceDamage.h"
 
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -57,6 +59,8 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     imported.warnings = namePartsLeft(imported.parts.left);
     const SourcePages found = readSourcePages(source);
     ContentCheck contents(source, found.pages);
+    std::set<std::size_t> damaged = pagesThatLackObjects(found.pages);
+    const Warnings missing = missingEntries(source);
     copier.makePages(found.pages);
     imported.structure = importStructure(source, target, copier);
     imported.destinations = importDestinations(source, names, copier);
@@ -88,8 +92,9 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     if (imported.pages.empty()) {
         imported.warnings.push_back({WarningCode::PdfWithoutPages, u"The document has no pages"_s});
     }
+    damaged.merge(contents.damagedPages());
     for (const Warnings &damage :
-         {missingPages(found), damagedPages(contents.damagedPages()), repairs(source)}) {
+         {missingPages(found), damagedPages(damaged), missing, repairs(source)}) {
         std::ranges::copy(damage, std::back_inserter(imported.warnings));
     }
     return imported;

@@ -129,7 +129,9 @@ SourcePages readSourcePages(QPDF &source) {
     root = rootOf(root);
     SourcePages found = PageTreeWalk(root).pages();
     auto count = root.getKey("/Count");
-    found.stated = count.isInteger() ? count.getIntValue() : 0;
+    if (count.isInteger()) {
+        found.stated = count.getIntValue();
+    }
     return found;
 }
 

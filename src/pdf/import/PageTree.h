@@ -6,6 +6,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,7 +30,7 @@ struct SourcePage {
 
 struct SourcePages {
     std::vector<SourcePage> pages;
-    long long stated = 0; ///< How many there are by the root of the tree; 0 where it does not say.
+    std::optional<long long> stated; ///< How many there are by the root of the tree.
     /// Kids that are no pages, such as objects that are missing: how many pages precede each.
     std::vector<std::size_t> unreadable;
 };

@@ -33,13 +33,17 @@ QString inWords(const std::set<std::size_t> &pages) {
 Warnings missingPages(const SourcePages &pages) {
     const auto read = static_cast<long long>(pages.pages.size());
     const auto unreadable = static_cast<long long>(pages.unreadable.size());
-    const long long total = pages.stated > 0 ? pages.stated : read + unreadable;
+    const long long total = pages.stated.value_or(read + unreadable);
     if (read > total) {
         return {{WarningCode::PdfRepaired,
                  u"The document states %1 pages, and %2 were found"_s.arg(total).arg(read)}};
     }
     if (read == total) {
-        return {};
+        if (pages.stated || read == 0) {
+            return {};
+        }
+        return {{WarningCode::PdfRepaired,
+                 u"The document does not state its pages, and %1 were found"_s.arg(read)}};
     }
     QString text = u"%1 of %2 pages could be read"_s.arg(read).arg(total);
     if (unreadable > 0) {

@@ -4,6 +4,7 @@
 
 #include "pdf/QpdfErrors.h"
 #include "pdf/import/FormImport.h"
+#include "pdf/import/LostTrailer.h"
 #include "pdf/import/PageTree.h"
 #include "pdf/import/SourceInput.h"
 
@@ -36,13 +37,14 @@ void requirePdfMark(const FileVersion &file, SourceReader &reader) {
 /// Null when the document needs a password or has an unknown security handler.
 std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
                                        const std::shared_ptr<SourceReader> &reader,
-                                       SourceInput::Table table) {
+                                       SourceInput::Table table, const std::string &trailer = {}) {
     auto document = std::make_unique<QPDF>();
     document->setSuppressWarnings(true);
     document->setAttemptRecovery(file.size <= kMaxRepairedBytes);
     try {
         withAllObjects(*document, *reader, [&] {
-            document->processInputSource(std::make_shared<SourceInput>(file, reader, table));
+            document->processInputSource(
+                std::make_shared<SourceInput>(file, reader, table, trailer));
             return document->getRoot(); // Throws when the table leads to no catalog.
         });
     } catch (const QPDFExc &error) {
@@ -52,6 +54,20 @@ std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
         throw;
     }
     return document;
+}
+
+/// Searches the file for objects, and in one that is cut off for the catalog too.
+std::unique_ptr<QPDF> openBySearch(const FileVersion &file,
+                                   const std::shared_ptr<SourceReader> &reader) {
+    try {
+        return openUnlessLocked(file, reader, SourceInput::Table::Hidden);
+    } catch (const QPDFExc &) {
+        const std::string trailer = lostTrailer(file, *reader);
+        if (trailer.empty()) {
+            throw;
+        }
+        return openUnlessLocked(file, reader, SourceInput::Table::Hidden, trailer);
+    }
 }
 
 /// Also repairs a file whose cross-reference table the library wrongly takes for intact.
@@ -64,7 +80,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
         if (file.size > kMaxRepairedBytes) {
             throw;
         }
-        return openUnlessLocked(file, reader, SourceInput::Table::Hidden);
+        return openBySearch(file, reader);
     }
 }
 

@@ -17,7 +17,7 @@ namespace folioforge {
 namespace {
 
 /// More than the bytes at the end in which the library looks for "startxref".
-constexpr qint64 kBlanksThatHideTheTable = 2048;
+constexpr std::size_t kBlanksThatHideTheTable = 2048;
 
 /// The processor time of this thread in milliseconds.
 qint64 threadTime() {
@@ -28,12 +28,14 @@ qint64 threadTime() {
 
 } // namespace
 
-SourceInput::SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table)
+SourceInput::SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table,
+                         const std::string &trailer)
     : m_file(std::move(file))
     , m_reader(std::move(reader))
     // The search takes no object that stands at the very beginning.
     , m_front(table == Table::Hidden ? 1 : 0)
-    , m_end(m_front + m_file.size + (table == Table::Hidden ? kBlanksThatHideTheTable : 0))
+    , m_tail(table == Table::Hidden ? trailer + std::string(kBlanksThatHideTheTable, ' ') : "")
+    , m_end(m_front + m_file.size + static_cast<qint64>(m_tail.size()))
     , m_name(m_file.path.toStdString()) {}
 
 /// The library asks for the ends of lines when it searches the file for objects. Some files keep it
@@ -50,9 +52,14 @@ void SourceInput::limitSearch() {
     }
 }
 
-/// The bytes of the file at `position`; none where it ends.
+/// The bytes at `position`, of the file or of what is read behind it; none at the end.
 std::string_view SourceInput::pieceAt(qint64 position, std::span<char> target) {
-    return {target.data(), m_reader->read(m_file, position - m_front, target)};
+    const qint64 behind = position - m_front - m_file.size;
+    if (behind < 0) {
+        return {target.data(), m_reader->read(m_file, position - m_front, target)};
+    }
+    const auto start = std::min(static_cast<std::size_t>(behind), m_tail.size());
+    return {target.data(), m_tail.copy(target.data(), target.size(), start)};
 }
 
 qpdf_offset_t SourceInput::findAndSkipNextEOL() {
@@ -107,16 +114,15 @@ void SourceInput::rewind() {
 size_t SourceInput::read(char *target, size_t length) {
     last_offset = m_position;
     size_t got = 0;
-    const auto addBlanks = [&](qint64 end) {
-        for (; got < length && m_position < end; ++got, ++m_position) {
-            target[got] = ' ';
-        }
-    };
-    addBlanks(m_front);
-    const auto piece = pieceAt(m_position, {target + got, length - got});
-    got += piece.size();
-    m_position += static_cast<qint64>(piece.size());
-    addBlanks(m_end);
+    for (; got < length && m_position < m_front; ++got, ++m_position) {
+        target[got] = ' ';
+    }
+    for (bool isEnd = false; got < length && !isEnd;) {
+        const auto piece = pieceAt(m_position, {target + got, length - got});
+        got += piece.size();
+        m_position += static_cast<qint64>(piece.size());
+        isEnd = piece.empty();
+    }
     if (got == 0 && length > 0) {
         // The library takes the end of the file from here.
         last_offset = std::min(m_position, m_end);

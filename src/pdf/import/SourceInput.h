@@ -24,7 +24,9 @@ class SourceInput final : public InputSource {
     /// The processor time of the calling thread that the search may take, in milliseconds.
     static constexpr qint64 kMaxSearch = 2000;
 
-    SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table);
+    /// With a hidden table the library reads `trailer` behind the last byte of the file.
+    SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table,
+                const std::string &trailer = {});
 
     qpdf_offset_t findAndSkipNextEOL() override;
     std::string const &getName() const override;
@@ -40,8 +42,9 @@ class SourceInput final : public InputSource {
 
     FileVersion m_file;
     std::shared_ptr<SourceReader> m_reader;
-    qint64 m_front; ///< So many blanks the library reads before the file,
-    qint64 m_end;   ///< and from the end of the file up to here.
+    qint64 m_front;     ///< So many blanks the library reads before the file,
+    std::string m_tail; ///< and this behind it,
+    qint64 m_end;       ///< up to here.
     std::string m_name;
     qint64 m_position = 0;
     qint64 m_lines = 0;     ///< So far in the search.

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/MissingObjects.h"
+
+#include "pdf/import/Entries.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+#include <map>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+namespace {
+
+/// Whether `value` is a reference to an object that is not there.
+bool isMissing(QPDFObjectHandle value) {
+    return value.isIndirect() && value.isNull();
+}
+
+/// Looks at resources once each, however many pages share them, and without recursion.
+class ResourceCheck {
+  public:
+    /// Whether something is missing in `resources`, or in those of a form that it leads to first.
+    bool lacksObjects(const QPDFObjectHandle &resources) {
+        m_pending.push_back(resources);
+        bool lacks = false;
+        while (!m_pending.empty()) {
+            const QPDFObjectHandle next = m_pending.back();
+            m_pending.pop_back();
+            lacks = lacksOwn(next) || lacks;
+        }
+        return lacks;
+    }
+
+  private:
+    bool lacksOwn(QPDFObjectHandle resources) {
+        if (!resources.isDictionary()) {
+            return isMissing(resources);
+        }
+        if (!resources.isIndirect()) {
+            return look(resources);
+        }
+        const auto known = m_known.find(resources.getObjGen());
+        if (known != m_known.end()) {
+            return known->second;
+        }
+        return m_known[resources.getObjGen()] = look(resources);
+    }
+
+    bool look(QPDFObjectHandle resources) {
+        static constexpr std::array kKinds{"/Font",    "/XObject", "/ColorSpace",
+                                           "/Pattern", "/Shading", "/ExtGState"};
+        return std::ranges::count_if(kKinds, [&](const char *kind) {
+                   return lacksMember(resources.getKey(kind));
+               }) > 0;
+    }
+
+    bool lacksMember(QPDFObjectHandle members) {
+        if (!members.isDictionary()) {
+            return isMissing(members);
+        }
+        bool lacks = false;
+        for (auto &[name, member] : members.getDictAsMap()) {
+            lacks = lacks || isMissing(member);
+            if (member.isStream() && m_forms.insert(member.getObjGen()).second) {
+                m_pending.push_back(member.getDict().getKey("/Resources"));
+            }
+        }
+        return lacks;
+    }
+
+    std::map<QPDFObjGen, bool> m_known; ///< Of resources that are objects of their own.
+    std::set<QPDFObjGen> m_forms;       ///< Forms, pictures and patterns that were met.
+    std::vector<QPDFObjectHandle> m_pending;
+};
+
+/// Whether one of the objects that `root` leads to by `keys`, to values or lists of them, is
+/// missing.
+bool lacksNode(const QPDFObjectHandle &root, std::initializer_list<const char *> keys) {
+    std::set<QPDFObjGen> visited;
+    std::vector<QPDFObjectHandle> pending{root};
+    while (!pending.empty()) {
+        QPDFObjectHandle node = pending.back();
+        pending.pop_back();
+        if (isMissing(node)) {
+            return true;
+        }
+        if (node.isIndirect() && !visited.insert(node.getObjGen()).second) {
+            continue;
+        }
+        const auto members = items(node);
+        pending.insert(pending.end(), members.begin(), members.end());
+        for (const char *key : keys) {
+            if (node.isDictionary()) {
+                pending.push_back(node.getKey(key));
+            }
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+std::set<std::size_t> pagesThatLackObjects(const std::vector<SourcePage> &pages) {
+    ResourceCheck resources;
+    std::map<int, bool> inherited; // By InheritedValue::number.
+    std::set<std::size_t> found;
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        QPDFObjectHandle page = pages[i].page;
+        const auto above = pages[i].inherited->find("/Resources");
+        bool lacks = false;
+        if (page.hasKey("/Resources") || above == pages[i].inherited->end()) {
+            lacks = resources.lacksObjects(page.getKey("/Resources"));
+        } else {
+            const auto [known, isNew] = inherited.try_emplace(above->second.number);
+            if (isNew) {
+                known->second = resources.lacksObjects(above->second.value);
+            }
+            lacks = known->second;
+        }
+        const auto annotations = page.getKey("/Annots");
+        if (lacks || isMissing(annotations) || std::ranges::any_of(items(annotations), isMissing)) {
+            found.insert(i + 1);
+        }
+    }
+    return found;
+}
+
+Warnings missingEntries(QPDF &source) {
+    Warnings warnings;
+    const auto say = [&](const QString &text) {
+        warnings.push_back({WarningCode::PdfPartsLeft, text});
+    };
+    if (lacksNode(source.getRoot().getKey("/Outlines"), {"/First", "/Next"})) {
+        say(u"Some of its bookmarks are missing in the document itself"_s);
+    }
+    if (lacksNode(source.getRoot().getKey("/AcroForm"), {"/Fields", "/Kids"})) {
+        say(u"Some of its form fields are missing in the document itself"_s);
+    }
+    return warnings;
+}
+
+} // namespace folioforge
