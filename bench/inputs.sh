@@ -144,6 +144,16 @@ reports() {
     rm "$folder/photo.jpg"
 }
 
+# 60 PDFs of 20 pages and about 2,000 structure elements, and the same without their tags.
+tagged() {
+    mkdir "$folder/with" "$folder/without"
+    i=10
+    while [ $i -lt 70 ]; do
+        python3 "$bench/tagged.py" $i "$folder/with/$i.pdf" "$folder/without/$i.pdf"
+        i=$((i + 1))
+    done
+}
+
 # One PDF of 2,000 pages of text.
 book() {
     words 7 2800000 >"$folder/book.txt"

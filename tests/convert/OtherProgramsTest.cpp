@@ -164,21 +164,21 @@ class OtherProgramsTest : public QObject {
         python = python.isEmpty() ? QStandardPaths::findExecutable(u"python3"_s) : python;
         const ToolRun maker =
             runTool(python, {inSource(u"tests/convert/make-documents"_s), m_folder.path()});
-        if (maker.exitCode == -1) {
-            QSKIP("Python is not installed");
-        }
-        QVERIFY2(maker.exitCode == 0, maker.err.constData());
-        for (const QByteArray &missing : maker.out.trimmed().split('\n')) {
+        QVERIFY2(maker.exitCode <= 0, maker.err.constData()); // -1 without Python.
+        for (const QByteArray &missing : (maker.out + maker.err).trimmed().split('\n')) {
             qInfo("%s", missing.constData());
         }
         const QDir folder(m_folder.path());
+        const QDir kept(inSource(u"tests/data/pdf"_s));
+        for (const QString &name : kept.entryList(QDir::Files)) {
+            QFile::copy(kept.filePath(name), folder.filePath(name)); // Not over a newer one.
+        }
         for (const QString &name : folder.entryList({u"*.pdf"_s}, QDir::Files, QDir::Name)) {
             const QString path = folder.filePath(name);
             m_sources.push_back({path, structureOf(path), attachmentsOf(path), fieldsOf(path),
                                  PdfProbe(path).pageCount()});
         }
-        // What qpdf and mutool, which all tests need, write.
-        QVERIFY(m_sources.size() >= 3);
+        QVERIFY(m_sources.size() >= 6);
         for (auto one = m_sources.cbegin(); one != m_sources.cend(); ++one) {
             for (auto other = one; other != m_sources.cend(); ++other) {
                 m_pairs.push_back({*one, *other, merged({one->path, other->path})});
