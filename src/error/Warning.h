@@ -27,6 +27,7 @@ enum class WarningCode {
     PartlyTagged,      ///< Sources without structure tags stand beside tagged ones.
     SignatureRemoved,  ///< A source PDF is signed, and the signature holds no longer.
     FieldsRenamed, ///< Form fields got other names, since another document has fields of theirs.
+    ClaimDropped,  ///< A source PDF says that it keeps a standard which the PDF does not keep.
     PageSize,      ///< A page is smaller or larger than readers are required to show.
     NotFlushed,    ///< The file system cannot flush a file to the disk.
 };
@@ -41,7 +42,8 @@ inline constexpr std::array kWarningNames{
     QLatin1StringView("pdf-pages-lost"),      QLatin1StringView("pdf-parts-left"),
     QLatin1StringView("structure-damaged"),   QLatin1StringView("partly-tagged"),
     QLatin1StringView("signature-removed"),   QLatin1StringView("fields-renamed"),
-    QLatin1StringView("page-size"),           QLatin1StringView("not-flushed"),
+    QLatin1StringView("claim-dropped"),       QLatin1StringView("page-size"),
+    QLatin1StringView("not-flushed"),
 };
 static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::NotFlushed) + 1);
 

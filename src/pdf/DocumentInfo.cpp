@@ -47,9 +47,17 @@ std::optional<QDateTime> sourceDate() {
     return QDateTime::fromSecsSinceEpoch(seconds).toUTC();
 }
 
+void fixCreationDate(DocumentInfo &info) {
+    if (!info.created.isValid()) {
+        info.created = sourceDate().value_or(QDateTime::currentDateTime());
+    }
+}
+
+QString producerName() {
+    return QStringLiteral("Folioforge " FOLIOFORGE_VERSION);
+}
+
 void writeDocumentInfo(QPDF &document, const DocumentInfo &info) {
-    const QDateTime created =
-        info.created.isValid() ? info.created : sourceDate().value_or(QDateTime::currentDateTime());
     auto dictionary = QPDFObjectHandle::newDictionary();
     const auto put = [&](const char *key, const QString &text) {
         dictionary.replaceKey(key, QPDFObjectHandle::newUnicodeString(text.toStdString()));
@@ -58,9 +66,9 @@ void writeDocumentInfo(QPDF &document, const DocumentInfo &info) {
     put("/Author", info.author);
     put("/Subject", info.subject);
     put("/Keywords", info.keywords);
-    put("/Creator", u"Vesprin-Folioforge"_s);
-    put("/Producer", QStringLiteral("Folioforge " FOLIOFORGE_VERSION));
-    put("/CreationDate", pdfDate(created));
+    put("/Creator", info.creator);
+    put("/Producer", producerName());
+    put("/CreationDate", pdfDate(info.created));
     document.getTrailer().replaceKey("/Info", document.makeIndirectObject(dictionary));
 }
 

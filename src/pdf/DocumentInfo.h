@@ -11,13 +11,13 @@ class QPDF;
 
 namespace folioforge {
 
-/// Document information. Every field is written, empty or not; the creator is always
-/// "Vesprin-Folioforge".
+/// Document information. Every field is written, empty or not.
 struct DocumentInfo {
     QString title;
     QString author;
     QString subject;
     QString keywords;
+    QString creator = QStringLiteral("Vesprin-Folioforge");
     QDateTime created; ///< The creation date; where it is invalid, SOURCE_DATE_EPOCH (seconds
                        ///< since 1970, UTC), else now.
 };
@@ -26,7 +26,14 @@ struct DocumentInfo {
 /// nothing where it is not set. Throws Error where it is no date.
 std::optional<QDateTime> sourceDate();
 
-/// Writes the document information into `document`. Throws Error as sourceDate() does.
+/// Gives `info` the creation date that is written where its own is invalid. Throws Error as
+/// sourceDate() does.
+void fixCreationDate(DocumentInfo &info);
+
+/// The producer that is written.
+QString producerName();
+
+/// Writes the document information, with its creation date valid, into `document`.
 void writeDocumentInfo(QPDF &document, const DocumentInfo &info);
 
 } // namespace folioforge

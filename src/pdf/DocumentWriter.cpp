@@ -4,6 +4,7 @@
 
 #include "pdf/Password.h"
 #include "pdf/QpdfErrors.h"
+#include "pdf/XmpPacket.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -110,16 +111,26 @@ void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
         allowed);
 }
 
+DocumentForm formFor(const Claims &claims) {
+    // PDF/A-1 stands on PDF 1.4, which knows no object streams.
+    return {{}, claims.pdfA == u"1", !claims.pdfA.isEmpty()};
+}
+
+void applyForm(QPDFWriter &writer, const DocumentForm &form) {
+    writer.setObjectStreamMode(form.classic ? qpdf_o_disable : qpdf_o_generate);
+    writer.setNewlineBeforeEndstream(form.endsStreamLines);
+    writer.setMinimumPDFVersion(form.version);
+}
+
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
-                   const PDFVersion &minimumVersion) {
+                   const DocumentForm &form) {
     OutputPipeline pipeline(file);
     translateQpdfErrors([&] {
         QPDFWriter writer(document);
         writer.setOutputPipeline(&pipeline);
-        writer.setObjectStreamMode(qpdf_o_generate);
+        applyForm(writer, form);
         writer.setCompressStreams(true);
         writer.setDecodeLevel(qpdf_dl_none);
-        writer.setMinimumPDFVersion(minimumVersion);
         if (encryption) {
             applyEncryption(writer, *encryption);
         }

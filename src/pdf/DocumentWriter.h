@@ -16,6 +16,7 @@ class QPDFWriter;
 
 namespace folioforge {
 
+struct Claims;
 struct Encryption;
 
 /// Writes libqpdf's output to a file. The library also writes in destructors, where an exception
@@ -41,10 +42,23 @@ class OutputPipeline final : public Pipeline {
 /// Makes `writer` encrypt its output. Throws Error when a password cannot be used.
 void applyEncryption(QPDFWriter &writer, const Encryption &encryption);
 
-/// Writes `document` to `file` with object streams and compressed. The /ID follows from the bytes,
+/// In which form of the format a document is written.
+struct DocumentForm {
+    PDFVersion version;           ///< At least.
+    bool classic = false;         ///< Without object streams and cross-reference streams.
+    bool endsStreamLines = false; ///< A line end stands before each "endstream".
+};
+
+/// What the standards that a document claims demand of its form.
+DocumentForm formFor(const Claims &claims);
+
+/// Makes `writer` write that form.
+void applyForm(QPDFWriter &writer, const DocumentForm &form);
+
+/// Writes `document` to `file`, compressed. The /ID follows from the bytes,
 /// so that an unencrypted document is always written the same. A null `encryption` means none.
 /// Throws Error.
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
-                   const PDFVersion &minimumVersion);
+                   const DocumentForm &form);
 
 } // namespace folioforge

@@ -230,11 +230,12 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         const auto source = openSourceDocument(file, m_reader);
         // A copy, so that an import that fails leaves no stream to the next one.
         SharedStreams streams = m_sourceStreams[key];
-        const auto scope =
-            m_settings.oneSource ? ImportScope::WholeDocument : ImportScope::OneOfSeveral;
         SourceNames names(m_catalog.names(), sourcePath);
+        const ImportOptions options{m_settings.oneSource ? ImportScope::WholeDocument
+                                                         : ImportScope::OneOfSeveral,
+                                    m_settings.info, m_settings.encryption != nullptr};
         ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
-            return importDocument(*source, m_document, streams, names, scope);
+            return importDocument(*source, m_document, streams, names, options);
         });
         m_reader->finish();
         std::ranges::copy(m_catalog.addDocument(imported), std::back_inserter(imported.warnings));
@@ -258,8 +259,9 @@ void PDFContext::Impl::finishDocument() {
         for (const auto &fonts : m_fonts) {
             fonts->embed();
         }
+        fixCreationDate(m_settings.info);
         writeDocumentInfo(m_document, m_settings.info);
-        m_catalog.finish(m_document);
+        m_catalog.finish(m_document, m_settings.info);
     });
 }
 
@@ -287,7 +289,7 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         m_reader->beginAnew();
         OutputFile file(m_path, m_settings.calls);
         translateQpdfErrors([&] { requireRoomForStream(m_longestStream); });
-        writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.version());
+        writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.form());
         m_reader->finish();
         translateQpdfErrors([&] { requireAllObjects(m_document, *m_reader); });
         Warnings warnings = file.finish(m_settings.flush);

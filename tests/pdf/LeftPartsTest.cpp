@@ -95,8 +95,7 @@ class LeftPartsTest : public QObject, protected MergeCase {
         const QByteArray hexadecimal = "/Filter /ASCIIHexDecode";
         QCOMPARE(said(withMetadata(rights.toHex() + '>', hexadecimal)), named);
         QCOMPARE(said(withMetadata(plain.toHex() + '>', hexadecimal)), QString());
-        QCOMPARE(said(withMetadata(plain.toHex() + '>' + QByteArray(20'000, ' '), hexadecimal)),
-                 named);
+        QCOMPARE(said(withMetadata(plain + QByteArray(5 << 20, ' '))), named);
         QCOMPARE(said(withMetadata(plain + QByteArray(20'000, ' '))), QString());
     }
 

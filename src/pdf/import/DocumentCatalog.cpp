@@ -37,11 +37,21 @@ Warnings DocumentCatalog::addDocument(const ImportedDocument &imported) {
     m_threads.add(imported.threads);
     m_names.add(imported.names);
     m_parts.insert(imported.catalogParts.begin(), imported.catalogParts.end());
+    m_metadata = imported.metadata;
     m_version.updateIfGreater(imported.version);
     return changes;
 }
 
-void DocumentCatalog::finish(QPDF &document) {
+DocumentForm DocumentCatalog::form() const {
+    DocumentForm form = formFor(m_metadata.claims);
+    if (!form.classic) {
+        form.version = {1, 7};
+    }
+    form.version.updateIfGreater(m_version);
+    return form;
+}
+
+void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info) {
     buildPageTree(document, m_pages);
     m_structure.finish(document, m_pages.size());
     m_bookmarks.finish(document);
@@ -53,6 +63,7 @@ void DocumentCatalog::finish(QPDF &document) {
     m_threads.finish(document);
     m_pageLabels.finish(document);
     putCatalogParts(document, m_parts);
+    putMetadata(document, m_metadata, info);
 }
 
 } // namespace folioforge

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "pdf/DocumentWriter.h"
 #include "pdf/import/DocumentImport.h"
 #include "pdf/import/FormMerger.h"
 #include "pdf/import/SourceNames.h"
@@ -27,14 +28,14 @@ class DocumentCatalog {
 
     [[nodiscard]] std::span<const QPDFObjectHandle> pages() const { return m_pages; }
     [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
-    /// The highest PDF version of the sources, at least 1.7.
-    [[nodiscard]] const PDFVersion &version() const { return m_version; }
+    /// In which form the document is to be written.
+    [[nodiscard]] DocumentForm form() const;
 
     /// The names that the documents added so far have taken.
     [[nodiscard]] const TakenNames &names() const { return m_names; }
 
-    /// Writes the page tree and every topic. Call it once.
-    void finish(QPDF &document);
+    /// Writes the page tree and every topic, with `info` in the metadata. Call it once.
+    void finish(QPDF &document, const DocumentInfo &info);
 
   private:
     std::vector<QPDFObjectHandle> m_pages;
@@ -49,7 +50,8 @@ class DocumentCatalog {
     ThreadMerger m_threads;
     TakenNames m_names;
     ImportedCatalogParts m_parts;
-    PDFVersion m_version{1, 7};
+    ImportedMetadata m_metadata;
+    PDFVersion m_version; ///< The highest of the sources.
 };
 
 } // namespace folioforge

@@ -50,12 +50,15 @@ Warning structureDamaged(std::size_t count) {
 } // namespace
 
 ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared,
-                                SourceNames &names, ImportScope scope) {
+                                SourceNames &names, const ImportOptions &options) {
     shared.beginCopy(source);
     ObjectCopier copier(source, target, shared, names);
     ImportedDocument imported;
+    const ImportScope scope = options.scope;
     imported.scope = scope;
+    imported.metadata = readMetadata(source, scope);
     imported.parts.left = countLeft(source, scope);
+    addParts(imported.parts.left, PartKind::Metadata, imported.metadata.isLeft ? 1 : 0);
     imported.warnings = namePartsLeft(imported.parts.left);
     const SourcePages found = readSourcePages(source);
     ContentCheck contents(source, found.pages);
@@ -97,6 +100,9 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
          {missingPages(found), damagedPages(damaged), missing, repairs(source)}) {
         std::ranges::copy(damage, std::back_inserter(imported.warnings));
     }
+    std::ranges::copy(
+        dropBrokenClaims(imported.metadata.claims, options, imported.parts.left, imported.warnings),
+        std::back_inserter(imported.warnings));
     return imported;
 }
 

@@ -9,8 +9,10 @@
 #include "pdf/import/CatalogParts.h"
 #include "pdf/import/Destinations.h"
 #include "pdf/import/FormImport.h"
+#include "pdf/import/ImportOptions.h"
 #include "pdf/import/Layers.h"
 #include "pdf/import/LeftParts.h"
+#include "pdf/import/Metadata.h"
 #include "pdf/import/NameTrees.h"
 #include "pdf/import/PageLabels.h"
 #include "pdf/import/SharedStreams.h"
@@ -44,6 +46,7 @@ struct ImportedDocument {
     ImportedAttachments attachments;
     ImportedThreads threads;
     GivenNames names;
+    ImportedMetadata metadata;
     PDFVersion version;
     qsizetype longestStream = 0; ///< Bytes, as the source says.
     DocumentParts parts;
@@ -54,6 +57,6 @@ struct ImportedDocument {
 /// its catalog. `shared` holds the streams that earlier imports of the same file brought; new ones
 /// are added. `names` tells names apart from those of earlier imports. Throws what libqpdf throws.
 ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared,
-                                SourceNames &names, ImportScope scope);
+                                SourceNames &names, const ImportOptions &options);
 
 } // namespace folioforge

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+class QPDF;
+
+namespace folioforge {
+
+struct DocumentInfo;
+
+/// The standards that a document says it keeps. Empty where it does not say so.
+struct Claims {
+    QString pdfA;        ///< The part of PDF/A, such as "2".
+    QString conformance; ///< The level of PDF/A, such as "B".
+    QString pdfUA;       ///< The part of PDF/UA.
+
+    /// Such as "PDF/A-2b"; empty where PDF/A is not claimed.
+    [[nodiscard]] QString pdfAName() const;
+    /// Such as "PDF/UA-1"; empty where PDF/UA is not claimed.
+    [[nodiscard]] QString pdfUAName() const;
+};
+
+/// The XMP packet (ISO 16684-1) of the catalog of `document`; nothing where there is none, or where
+/// it is damaged, longer than a few megabytes or compressed more than once.
+std::optional<QByteArray> readXmpPacket(QPDF &document);
+
+/// The claims of a packet; nothing where it is not well formed.
+std::optional<Claims> readClaims(const QByteArray &packet);
+
+/// A well-formed packet brought into line: it says of title, author, subject, keywords, programs
+/// and dates what `info` says, with its creation date valid, and claims what `kept` does. All else
+/// stays.
+QByteArray rewrittenXmp(const QByteArray &packet, const DocumentInfo &info, const Claims &kept);
+
+} // namespace folioforge

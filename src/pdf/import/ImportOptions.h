@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "pdf/DocumentInfo.h"
+#include "pdf/import/LeftParts.h"
+
+namespace folioforge {
+
+/// What the document that is made is to be, as far as it matters to its sources.
+struct ImportOptions {
+    ImportScope scope = ImportScope::OneOfSeveral;
+    DocumentInfo info;
+    bool encrypted = false;
+};
+
+} // namespace folioforge

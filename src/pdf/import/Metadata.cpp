@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/Metadata.h"
+
+#include "pdf/DocumentInfo.h"
+#include "pdf/import/ImportOptions.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+namespace {
+
+/// Why the copy does not keep what only a sound and whole document keeps; empty where it does.
+QString reasonOfBoth(const Warnings &warnings) {
+    const bool isDamaged = std::ranges::any_of(warnings, [](const Warning &warning) {
+        return warning.code == WarningCode::PdfRepaired ||
+               warning.code == WarningCode::PdfPagesLost;
+    });
+    return isDamaged ? u"it was damaged"_s : QString();
+}
+
+QString reasonOfStructure(const PartCounts &left) {
+    return left.contains(PartKind::StructureElements) ? u"some of its structure tags are damaged"_s
+                                                      : QString();
+}
+
+QString reasonAgainstPdfA(const Claims &claims, const ImportOptions &options,
+                          const PartCounts &left) {
+    if (options.encrypted) {
+        return u"that forbids encryption"_s;
+    }
+    return claims.conformance == u"A" ? reasonOfStructure(left) : QString();
+}
+
+QString reasonAgainstPdfUA(const ImportOptions &options, const PartCounts &left) {
+    if (options.info.title.isEmpty()) {
+        return u"that demands a title, and none is given"_s;
+    }
+    return reasonOfStructure(left);
+}
+
+void drop(const QString &standard, const QString &reason, Warnings &warnings) {
+    warnings.push_back(
+        {WarningCode::ClaimDropped,
+         u"The document no longer says that it is %1, since %2"_s.arg(standard, reason)});
+}
+
+} // namespace
+
+ImportedMetadata readMetadata(QPDF &source, ImportScope scope) {
+    ImportedMetadata metadata;
+    if (scope == ImportScope::OneOfSeveral || !source.getRoot().getKey("/Metadata").isStream()) {
+        return metadata;
+    }
+    const auto packet = readXmpPacket(source);
+    const auto claims = packet ? readClaims(*packet) : std::nullopt;
+    if (claims) {
+        metadata.packet = *packet;
+        metadata.claims = *claims;
+    }
+    metadata.isLeft = !claims;
+    return metadata;
+}
+
+Warnings dropBrokenClaims(Claims &claims, const ImportOptions &options, const PartCounts &left,
+                          const Warnings &warnings) {
+    Warnings dropped;
+    const QString both = reasonOfBoth(warnings);
+    const QString pdfA = both.isEmpty() ? reasonAgainstPdfA(claims, options, left) : both;
+    if (!claims.pdfA.isEmpty() && !pdfA.isEmpty()) {
+        drop(claims.pdfAName(), pdfA, dropped);
+        claims.pdfA.clear();
+    }
+    const QString pdfUA = both.isEmpty() ? reasonAgainstPdfUA(options, left) : both;
+    if (!claims.pdfUA.isEmpty() && !pdfUA.isEmpty()) {
+        drop(claims.pdfUAName(), pdfUA, dropped);
+        claims.pdfUA.clear();
+    }
+    return dropped;
+}
+
+void putMetadata(QPDF &document, const ImportedMetadata &metadata, const DocumentInfo &info) {
+    if (metadata.packet.isEmpty()) {
+        return;
+    }
+    auto stream =
+        document.newStream(rewrittenXmp(metadata.packet, info, metadata.claims).toStdString());
+    stream.getDict().replaceKey("/Type", QPDFObjectHandle::newName("/Metadata"));
+    stream.getDict().replaceKey("/Subtype", QPDFObjectHandle::newName("/XML"));
+    document.getRoot().replaceKey("/Metadata", stream);
+}
+
+} // namespace folioforge

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "error/Warning.h"
+#include "pdf/XmpPacket.h"
+#include "pdf/import/LeftParts.h"
+
+#include <QByteArray>
+
+#include <optional>
+#include <vector>
+
+class QPDF;
+
+namespace folioforge {
+
+struct ImportOptions;
+
+/// The metadata of a source that is all of the document: its XMP packet and what that claims.
+struct ImportedMetadata {
+    QByteArray packet;   ///< Well formed; empty where there is none.
+    Claims claims;       ///< Those that the document that is made keeps.
+    bool isLeft = false; ///< There is a packet, and it cannot be read.
+};
+
+/// Reads the metadata; nothing of a source that is one of several. To be called before pages are
+/// copied.
+ImportedMetadata readMetadata(QPDF &source, ImportScope scope);
+
+/// Takes away the claims that the document that is made does not keep, and names them. `left` and
+/// `warnings` are what is known of the copy.
+Warnings dropBrokenClaims(Claims &claims, const ImportOptions &options, const PartCounts &left,
+                          const Warnings &warnings);
+
+/// Brings the packet into line with `info` and the claims and writes it into the catalog.
+void putMetadata(QPDF &document, const ImportedMetadata &metadata, const DocumentInfo &info);
+
+} // namespace folioforge
