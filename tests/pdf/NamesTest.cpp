@@ -187,6 +187,33 @@ class NamesTest : public QObject, protected MergeCase {
                  "indirect:2"_s);
     }
 
+    void destinationsThatReferToThemselvesOrAreSharedByManyAreCopiedOnce() {
+        constexpr int kNames = 20'000;
+        QByteArray names;
+        PdfFixture source = linked({}, "/Dest (0)");
+        for (int i = 0; i < kNames; ++i) {
+            const QByteArray number = QByteArray::number(20 + i);
+            names += "(" + QByteArray::number(i).rightJustified(5, '0') + ") << /D 9 0 R >> (c" +
+                     number.rightJustified(5, '0') + ") " + number + " 0 R ";
+            source.object(20 + i, "<< /D [1 /Fit] /Dest " +
+                                      QByteArray::number(20 + (i + 1) % kNames) + " 0 R >>");
+        }
+        source.object(9, "[1 " + QByteArray("0 ").repeated(kNames) + "]");
+        source.object(1, "<< /Type /Catalog /Pages 2 0 R /Names << /Dests << /Names [" + names +
+                             "] >> >> >>");
+        const auto document = opened(merged({saved(source)}));
+        QCOMPARE(namesIn(*document, "/Dests").size(), 2 * kNames);
+        QVERIFY(document->getObjectCount() < 2 * kNames);
+    }
+
+    void aPlaceInTheStructureThatContainsItselfGoes() {
+        const QString path = saved(linked({}, "/A << /S /GoTo /D [5 0 R /Fit] /SD 20 0 R >>")
+                                       .object(20, "[20 0 R /Fit]"));
+        const QString result = merged({path});
+        QCOMPARE(linkedPages(result), u"2"_s);
+        QVERIFY(!PdfProbe(result).json().contains("/SD"));
+    }
+
     void scriptsOfSeveralSourcesRunInTheOrderOfTheSources() {
         const auto scripts = [this](const char *first, const char *second) {
             return saved(

@@ -5,8 +5,6 @@
 #include "pdf/QpdfErrors.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/FieldRenames.h"
-#include "pdf/import/SourceNames.h"
-#include "pdf/import/Threads.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -24,11 +22,6 @@ QPDFObjectHandle entry(const Dictionary &dictionary, const std::string &key) {
     return found == dictionary.end() ? QPDFObjectHandle::newNull() : found->second;
 }
 
-/// Whether `dictionary` is an action of that kind that stays in its document.
-bool isOwnAction(const Dictionary &dictionary, const char *kind) {
-    return entry(dictionary, "/S").isNameAndEquals(kind) && !dictionary.contains("/F");
-}
-
 /// Whether an entry is the key of a page, an annotation or a form in the parent tree of the source.
 /// The tree is made anew. The same keys may name anything else in other dictionaries, such as fonts
 /// in resources.
@@ -37,17 +30,6 @@ bool isParentTreeKey(const Dictionary &dictionary, const std::string &key) {
            entry(dictionary, key).isInteger() &&
            (entry(dictionary, "/Subtype").isName() ||
             entry(dictionary, "/Type").isNameAndEquals("/Page"));
-}
-
-/// Whether an entry of a bookmark or an action refers to a structure element.
-bool refersToStructure(const Dictionary &dictionary, const std::string &key) {
-    if (key == "/SE") {
-        return entry(dictionary, "/Title").isString();
-    }
-    static constexpr std::array kJumps{"/GoTo", "/GoToR", "/GoToE"};
-    return key == "/SD" && std::ranges::any_of(kJumps, [&](const char *kind) {
-               return entry(dictionary, "/S").isNameAndEquals(kind);
-           });
 }
 
 /// Whether `object` belongs to the source document as a whole and is not copied.
@@ -165,7 +147,7 @@ QPDFObjectHandle ObjectCopier::copyIndirect(QPDFObjectHandle object) {
     } else {
         // Not null: a dictionary drops an entry that is null.
         target = QPDFObjectHandle::newReserved(&m_target);
-        m_pending.emplace_back(object, target);
+        m_pending.push_back({object, target, &ObjectCopier::copyValue});
     }
     m_copies[object.getObjGen()] = target;
     return target;
@@ -221,7 +203,7 @@ QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
         if (isParentTreeKey(dictionary, key)) {
             continue;
         }
-        auto copied = copyEntry(dictionary, key);
+        auto copied = copyEntry(dictionary, key, value);
         if (!copied.isNull()) {
             target.replaceKey(key, copied);
         }
@@ -230,88 +212,6 @@ QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
         m_fieldActions.push_back(target);
     }
     return target;
-}
-
-QPDFObjectHandle ObjectCopier::copyEntry(const Dictionary &dictionary, const std::string &key) {
-    const QPDFObjectHandle &value = dictionary.at(key);
-    if (key == "/Dest") {
-        return copyDestination(value);
-    }
-    if (key == "/D") {
-        return entry(dictionary, "/S").isNameAndEquals("/GoTo") ? copyDestination(value)
-               : isOwnAction(dictionary, "/Thread")             ? copy(threadOf(m_source, value))
-                                                                : copy(value);
-    }
-    if (refersToStructure(dictionary, key)) {
-        return copyStructureReference(value);
-    }
-    return key == "/T" && isOwnAction(dictionary, "/GoToE") ? copyEmbeddedTarget(value)
-                                                            : copy(value);
-}
-
-/// An element, or an array that begins with one as destinations do. Strings name an element of
-/// another file.
-QPDFObjectHandle ObjectCopier::copyStructureReference(QPDFObjectHandle reference) {
-    if (!reference.isArray()) {
-        return reference.isString() ? copy(reference) : known(reference);
-    }
-    auto members = items(reference);
-    if (members.empty()) {
-        return QPDFObjectHandle::newNull();
-    }
-    auto element = copyStructureReference(members.front());
-    if (element.isNull()) {
-        return element;
-    }
-    for (auto &member : members) {
-        member = copy(member);
-    }
-    members.front() = element;
-    return QPDFObjectHandle::newArray(members);
-}
-
-QPDFObjectHandle ObjectCopier::copyDestination(const QPDFObjectHandle &destination) {
-    QPDFObjectHandle value = destination;
-    if (value.isName() || value.isString()) {
-        return m_names.renamed(kDestinations, value);
-    }
-    auto array = value.isDictionary() ? value.getKey("/D") : value;
-    const bool hasPage = array.isArray() && array.getArrayNItems() > 0;
-    auto page = hasPage ? array.getArrayItem(0) : QPDFObjectHandle::newNull();
-    const auto number = page.isInteger() ? page.getIntValue() : -1;
-    if (number < 0 || number >= static_cast<long long>(m_targetPages.size())) {
-        return copy(value);
-    }
-    // Some writers give the page by its number, which is another page in the copy.
-    auto &known = m_numberedDestinations[value.getObjGen()];
-    if (value.isIndirect() && known.isInitialized()) {
-        return known;
-    }
-    auto copied = copyArray(array);
-    copied.setArrayItem(0, m_targetPages[static_cast<std::size_t>(number)]);
-    if (value.isDictionary()) {
-        auto dictionary = value.getDictAsMap();
-        dictionary.erase("/D");
-        const auto inner = copied;
-        copied = copyDictionary(dictionary);
-        copied.replaceKey("/D", inner);
-    }
-    return known = value.isIndirect() ? m_target.makeIndirectObject(copied) : copied;
-}
-
-/// A target of an embedded go-to action, which may name a file attached to the document.
-QPDFObjectHandle ObjectCopier::copyEmbeddedTarget(const QPDFObjectHandle &target) {
-    auto name = folioforge::entry(target, "/N");
-    if (!name.isString() || !folioforge::entry(target, "/R").isNameAndEquals("/C")) {
-        return copy(target);
-    }
-    const auto renamed = m_names.renamed(kAttachments, name);
-    if (nameText(renamed) == nameText(name)) {
-        return copy(target);
-    }
-    auto copied = copyDictionary(QPDFObjectHandle(target).getDictAsMap());
-    copied.replaceKey("/N", renamed);
-    return copied;
 }
 
 void ObjectCopier::fillStream(PendingStream &stream) {
@@ -326,9 +226,9 @@ void ObjectCopier::fillStream(PendingStream &stream) {
 void ObjectCopier::run() {
     while (!m_pending.empty() || !m_pendingStreams.empty()) {
         if (!m_pending.empty()) {
-            const auto [source, target] = m_pending.front();
+            const auto [source, target, fill] = m_pending.front();
             m_pending.pop_front();
-            m_target.replaceReserved(target, copyValue(source));
+            m_target.replaceReserved(target, (this->*fill)(source));
         } else {
             auto stream = m_pendingStreams.front();
             m_pendingStreams.pop_front();

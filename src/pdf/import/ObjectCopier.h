@@ -11,6 +11,7 @@
 
 #include <deque>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -62,6 +63,14 @@ class ObjectCopier {
   private:
     using Dictionary = std::map<std::string, QPDFObjectHandle>;
 
+    /// Gives what the copy of an object holds.
+    using Fill = QPDFObjectHandle (ObjectCopier::*)(QPDFObjectHandle);
+
+    struct Pending {
+        QPDFObjectHandle source;
+        QPDFObjectHandle target;
+        Fill fill;
+    };
     struct PendingStream {
         QPDFObjectHandle target;
         Dictionary dictionary;
@@ -73,9 +82,17 @@ class ObjectCopier {
     QPDFObjectHandle reserveStream(QPDFObjectHandle object);
     QPDFObjectHandle copyArray(QPDFObjectHandle array);
     QPDFObjectHandle copyDictionary(const Dictionary &dictionary);
-    QPDFObjectHandle copyEntry(const Dictionary &dictionary, const std::string &key);
-    QPDFObjectHandle copyEmbeddedTarget(const QPDFObjectHandle &target);
+    QPDFObjectHandle copyEntry(const Dictionary &dictionary, const std::string &key,
+                               const QPDFObjectHandle &value);
+    [[nodiscard]] std::optional<QPDFObjectHandle> pageByNumber(QPDFObjectHandle destination) const;
+    QPDFObjectHandle copyNumbered(QPDFObjectHandle destination);
+    QPDFObjectHandle copyTarget(QPDFObjectHandle target);
+    QPDFObjectHandle copyWith(QPDFObjectHandle dictionary, const std::string &key,
+                              const QPDFObjectHandle &value);
     QPDFObjectHandle copyStructureReference(QPDFObjectHandle reference);
+    QPDFObjectHandle copyElement(QPDFObjectHandle place);
+    QPDFObjectHandle copyElementPlace(QPDFObjectHandle place);
+    QPDFObjectHandle follow(QPDFObjectHandle object, Fill fill);
     void fillStream(PendingStream &stream);
 
     QPDF &m_source;
@@ -83,10 +100,10 @@ class ObjectCopier {
     SharedStreams &m_shared;
     SourceNames &m_names;
     std::map<QPDFObjGen, QPDFObjectHandle> m_copies;
-    std::map<int, QPDFObjectHandle> m_inherited;                   ///< By InheritedValue::number.
-    std::map<QPDFObjGen, QPDFObjectHandle> m_numberedDestinations; ///< Indirect ones, copied.
+    std::map<int, QPDFObjectHandle> m_inherited;       ///< By InheritedValue::number.
+    std::map<QPDFObjGen, QPDFObjectHandle> m_followed; ///< By follow().
     std::vector<QPDFObjectHandle> m_targetPages;
-    std::deque<std::pair<QPDFObjectHandle, QPDFObjectHandle>> m_pending; ///< Source and target.
+    std::deque<Pending> m_pending;
     std::deque<PendingStream> m_pendingStreams;
     std::vector<QPDFObjectHandle> m_fieldActions;
     qsizetype m_longestStream = 0;
