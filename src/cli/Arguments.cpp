@@ -3,6 +3,7 @@
 #include "cli/Arguments.h"
 
 #include "cli/OptionValues.h"
+#include "convert/OutputName.h"
 
 #include <algorithm>
 #include <functional>
@@ -26,7 +27,7 @@ void takeMergePath(const QString &path, ConversionOptions &options) {
     const qsizetype slash = path.lastIndexOf(u'/');
     options.merge = true;
     options.outputName = path.sliced(slash + 1);
-    if (options.outputName == u"." || options.outputName == u"..") {
+    if (isNameOfFolder(options.outputName)) {
         throw ArgumentFault(u"\"%1\" is a folder, not the name of a PDF"_s.arg(path));
     }
     options.outputFolder = slash < 0 ? u"."_s : path.first(std::max<qsizetype>(slash, 1));

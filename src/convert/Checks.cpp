@@ -67,7 +67,7 @@ std::optional<Notice> checkMergedFile(const ConversionOptions &options) {
     if (!options.merge) {
         return std::nullopt;
     }
-    if (options.outputName.isEmpty()) {
+    if (options.outputName.isEmpty() || isNameOfFolder(options.outputName)) {
         return notice(u"Please input output file name."_s);
     }
     if (isNameTaken(mergedFilePath(options))) {

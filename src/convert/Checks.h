@@ -17,7 +17,7 @@ std::optional<Notice> checkOutputFolder(const QString &folder);
 /// The passwords: entered, such as an encrypted document can hold, and two different ones there.
 std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings);
 
-/// The name of the merged file: entered and free. Single mode asks for none.
+/// The name of the merged file: entered, no folder's and free. Single mode asks for none.
 std::optional<Notice> checkMergedFile(const ConversionOptions &options);
 
 /// The checks of a run in their order: output folder, security, text pages, image pages and the

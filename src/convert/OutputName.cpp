@@ -32,6 +32,10 @@ QString singleFilePath(const QString &folder, const QString &fileName) {
     return path;
 }
 
+bool isNameOfFolder(const QString &name) {
+    return name == u"." || name == u"..";
+}
+
 bool isNameTaken(const QString &path) {
     const QFileInfo info(path);
     return info.exists() || info.isSymLink();

@@ -15,6 +15,9 @@ QString mergedFilePath(const ConversionOptions &options);
 /// too long for the file system loses characters before the number.
 QString singleFilePath(const QString &folder, const QString &fileName);
 
+/// Whether `name` means a folder wherever it stands: "." and "..".
+bool isNameOfFolder(const QString &name);
+
 /// Whether `path` exists, also as a link to nothing.
 bool isNameTaken(const QString &path);
 

@@ -193,4 +193,13 @@ QByteArray unfilterRows(QByteArray filtered, int height, qsizetype stride, int p
     return filtered;
 }
 
+void dropUnknownFilters(QByteArray &filtered, qsizetype rowBytes) {
+    constexpr char kMaxFilter = 4;
+    for (qsizetype at = 0; at < filtered.size(); at += rowBytes) {
+        if (filtered[at] < 0 || filtered[at] > kMaxFilter) {
+            filtered[at] = '\0';
+        }
+    }
+}
+
 } // namespace folioforge

@@ -15,4 +15,8 @@ QByteArray filterRows(const QByteArray &rows, qsizetype stride, int pixelBytes);
 /// the rows without the filter numbers. Throws Error on a filter number that does not exist.
 QByteArray unfilterRows(QByteArray filtered, int height, qsizetype stride, int pixelBytes);
 
+/// Gives the rows of `rowBytes` bytes, the filter number among them, no filter where theirs does
+/// not exist: damaged ones may have any.
+void dropUnknownFilters(QByteArray &filtered, qsizetype rowBytes);
+
 } // namespace folioforge

@@ -106,6 +106,17 @@ class ChecksTest : public QObject {
         QCOMPARE(messageOf(checkConversion(options)), u"Please input output file name."_s);
     }
 
+    void aNameThatMeansAFolderIsNone() {
+        ConversionOptions options = goodOptions();
+        options.merge = true;
+        for (const QString &name : {u"."_s, u".."_s}) {
+            options.outputName = name;
+            QCOMPARE(messageOf(checkConversion(options)), u"Please input output file name."_s);
+        }
+        options.outputName = u"..."_s;
+        QVERIFY(!checkConversion(options));
+    }
+
     void singleModeAsksForNoName() {
         ConversionOptions options = goodOptions();
         options.outputName.clear();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include "error/Error.h"
@@ -258,6 +259,28 @@ class CutPicturesTest : public QObject {
         const auto [one, other] = std::mismatch(there.begin(), there.end(), all.begin());
         if (!name.endsWith(u".bmp")) { // Which begins with its last row.
             QVERIFY(one - there.begin() > there.size() / 4);
+        }
+    }
+
+    void thePassesOfAnInterlacedPictureBeforeTheCutAreShown_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("bytes");
+        QTest::newRow("colour") << u"colour-interlaced.png"_s << 150;
+        QTest::newRow("opacity") << u"translucent-interlaced.png"_s << 170;
+    }
+
+    void thePassesOfAnInterlacedPictureBeforeTheCutAreShown() {
+        QFETCH(const QString, name);
+        QFETCH(const int, bytes);
+        const QByteArray all = readFile(imageFile(name));
+        const PdfImage whole = toPdfImage(write(name, all));
+        const PdfImage cut = toPdfImage(write(name, all.first(bytes)));
+        QVERIFY(saysDamaged(cut));
+        const QByteArray expected = rgbRows(whole);
+        const QByteArray shown = rgbRows(cut);
+        QCOMPARE(shown.size(), expected.size());
+        for (int x = 0; x < whole.width; x += 8) { // The first row of the first pass.
+            QCOMPARE(shown.mid(3 * x, 3), expected.mid(3 * x, 3));
         }
     }
 

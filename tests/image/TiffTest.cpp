@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include <QFile>
@@ -217,6 +218,24 @@ class TiffTest : public QObject {
         const QString path = tiff(20000, 20000, QByteArray(2000, 'x'),
                                   [](TIFF *tif) { setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR); });
         QCOMPARE(refusalOf(path), u"The file is too short for the image its header describes"_s);
+    }
+
+    void whatIsWrongIsSaidInPlainWords_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("words");
+        const QByteArray whole = readFile(imageFile(u"colour-None.tif"_s));
+        QByteArray compressed = whole;
+        const QByteArray compression("\x03\x01\x03\x00\x01\x00\x00\x00", 8); // And its value.
+        compressed[whole.indexOf(compression) + 8] = '\x99';
+        QTest::newRow("compression") << compressed << u"its compression is not supported"_s;
+        QTest::newRow("directory") << whole.first(1000) << u"its directory is damaged"_s;
+    }
+
+    void whatIsWrongIsSaidInPlainWords() {
+        QFETCH(const QByteArray, bytes);
+        QFETCH(const QString, words);
+        const QString path = writeFile(m_folder.filePath(u"wrong.tif"_s), bytes);
+        QCOMPARE(refusalOf(path), u"The TIFF file cannot be read: "_s + words);
     }
 
   private:

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace folioforge {
 
@@ -58,7 +59,12 @@ qsizetype interlacedBytes(const InterlacedShape &shape) {
     return sum;
 }
 
-QByteArray deinterlace(const QByteArray &filtered, const InterlacedShape &shape) {
+qsizetype firstRowBytes(const InterlacedShape &shape) {
+    return 1 + rowBytes(kPasses.front().columns(shape.width), 1, shape.pixelBits);
+}
+
+QByteArray deinterlace(const QByteArray &filtered, const InterlacedShape &shape,
+                       UnknownFilters unknown) {
     const qsizetype stride = 1 + rowBytes(shape.width, 1, shape.pixelBits);
     QByteArray out = allocateRows(shape.height, stride);
     qsizetype at = 0;
@@ -67,8 +73,12 @@ QByteArray deinterlace(const QByteArray &filtered, const InterlacedShape &shape)
         const int rows = pass.rows(shape.height);
         const qsizetype passStride = rowBytes(columns, 1, shape.pixelBits);
         const qsizetype bytes = passBytes(pass, shape);
-        const QByteArray plain = unfilterRows(filtered.mid(at, bytes), bytes == 0 ? 0 : rows,
-                                              passStride, std::max(shape.pixelBits / 8, 1));
+        QByteArray own = filtered.mid(at, bytes);
+        if (unknown == UnknownFilters::None) {
+            dropUnknownFilters(own, 1 + passStride);
+        }
+        const QByteArray plain = unfilterRows(std::move(own), bytes == 0 ? 0 : rows, passStride,
+                                              std::max(shape.pixelBits / 8, 1));
         at += bytes;
         for (int y = 0; bytes > 0 && y < rows; ++y) {
             const auto *source =

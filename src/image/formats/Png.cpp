@@ -172,11 +172,12 @@ PdfImage withSplitRows(const FileView &file, const PngMetadata &metadata) {
 }
 
 PdfImage withInterlacedRows(const FileView &file, const PngMetadata &metadata) {
-    const InterlacedShape shape{metadata.header.width, metadata.header.height,
-                                metadata.channels() * metadata.bits};
+    const InterlacedShape shape = metadata.shape();
     Warnings warnings;
-    QByteArray rows =
-        deinterlace(inflatePngRows(file, metadata, interlacedBytes(shape), warnings), shape);
+    QByteArray filtered = inflatePngRows(file, metadata, interlacedBytes(shape), warnings);
+    const bool isDamaged = !warnings.empty();
+    QByteArray rows = deinterlace(std::move(filtered), shape,
+                                  isDamaged ? UnknownFilters::None : UnknownFilters::Refused);
     Raster raster;
     raster.width = metadata.header.width;
     raster.height = metadata.header.height;

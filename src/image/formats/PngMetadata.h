@@ -5,6 +5,7 @@
 #include "files/SourceFile.h"
 #include "image/PdfImage.h"
 #include "image/Raster.h"
+#include "image/formats/Interlaced.h"
 
 #include <QByteArray>
 
@@ -51,6 +52,10 @@ struct PngMetadata {
                                           : ImageColor::Gray;
     }
     [[nodiscard]] qsizetype stride() const { return rowBytes(header.width, channels(), bits); }
+    /// How the rows of an interlaced file stand in it.
+    [[nodiscard]] InterlacedShape shape() const {
+        return {header.width, header.height, channels() * bits};
+    }
     [[nodiscard]] int pixelBytes() const { return std::max(channels() * bits / 8, 1); }
 };
 

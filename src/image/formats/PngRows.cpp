@@ -5,6 +5,7 @@
 #include "error/Error.h"
 #include "image/Deflate.h"
 #include "image/PictureDamage.h"
+#include "image/RowFilter.h"
 
 #include <algorithm>
 
@@ -25,14 +26,16 @@ QByteArray compressedRows(const FileView &file, const PngMetadata &metadata) {
     return compressed;
 }
 
-/// Damaged rows may claim a filter that does not exist; they then have none.
-void dropUnknownFilters(QByteArray &filtered, qsizetype rowBytes) {
-    constexpr char kMaxFilter = 4;
-    for (qsizetype at = 0; at < filtered.size(); at += rowBytes) {
-        if (filtered[at] < 0 || filtered[at] > kMaxFilter) {
-            filtered[at] = '\0';
-        }
+/// How many of the picture's rows are not there, whole or in part, where `bytes` of `size` are. The
+/// first row of an interlaced picture already shows something.
+qint64 missingRows(const PngMetadata &metadata, qsizetype bytes, qsizetype size) {
+    if (bytes == size) {
+        return 0;
     }
+    const qint64 height = metadata.header.height;
+    const qint64 missing = std::max<qint64>(height - bytes / (size / height), 1);
+    const bool shows = metadata.interlaced && bytes >= firstRowBytes(metadata.shape());
+    return shows ? std::min(missing, std::max<qint64>(height - 1, 1)) : missing;
 }
 
 /// As many of the filtered rows as can be unpacked, zeros for the rest, and what is said of them.
@@ -40,8 +43,7 @@ QByteArray inflateDamagedRows(const QByteArray &compressed, const PngMetadata &m
                               qsizetype size, Warnings &warnings) {
     auto [rows, isFaulty] = inflatePartly(compressed, size);
     const qint64 height = metadata.header.height;
-    const qint64 missing =
-        rows.size() == size ? 0 : std::max<qint64>(height - rows.size() / (size / height), 1);
+    const qint64 missing = missingRows(metadata, rows.size(), size);
     if (missing >= height) {
         throw Error(u"The PNG file is damaged"_s);
     }

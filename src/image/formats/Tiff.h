@@ -13,6 +13,9 @@
 
 namespace folioforge {
 
+/// What is wrong with a TIFF file, in words, by what libtiff says of it.
+QString tiffReason(const QString &message);
+
 /// A TIFF file opened with libtiff over a view: it reads by position, prints nothing, and keeps
 /// the first message of an error.
 class TiffFile {

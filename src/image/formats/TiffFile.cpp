@@ -6,6 +6,7 @@
 #include "image/ImageHeader.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
 
@@ -42,9 +43,33 @@ int TiffFile::number(uint32_t tag, int missing) const {
 }
 
 void TiffFile::fail() const {
-    const QString &message = m_state->message;
-    throw Error(message.isEmpty() ? u"The TIFF file is damaged"_s
-                                  : u"The TIFF file cannot be read: %1"_s.arg(message));
+    throw Error(tiffReason(m_state->message));
+}
+
+QString tiffReason(const QString &message) {
+    struct Cause {
+        QLatin1StringView sign; ///< A part of what libtiff says; the first that fits counts.
+        const char *words;
+    };
+    static constexpr std::array kCauses{
+        Cause{"compression support is not configured"_L1, "its compression is not supported"},
+        Cause{"decoding is not implemented"_L1, "its compression is not supported"},
+        Cause{"compression method"_L1, "its compression is not supported"},
+        Cause{"can not handle"_L1, "its form is not supported"},
+        Cause{"is not supported"_L1, "its form is not supported"},
+        Cause{"not supported"_L1, "its form is not supported"},
+        Cause{"Cannot handle zero"_L1, "it has no pixels"},
+        Cause{"memory"_L1, "it is larger than any picture"},
+        Cause{"directory"_L1, "its directory is damaged"},
+        Cause{"Read error"_L1, "it is cut off"},
+        Cause{"Not enough data"_L1, "it is cut off"},
+    };
+    const auto cause = std::ranges::find_if(
+        kCauses, [&](const Cause &known) { return message.contains(known.sign); });
+    const QString damaged = u"The TIFF file is damaged"_s;
+    return cause == kCauses.end()
+               ? damaged
+               : u"The TIFF file cannot be read: %1"_s.arg(QLatin1StringView(cause->words));
 }
 
 tmsize_t TiffFile::read(thandle_t handle, void *target, tmsize_t size) {
@@ -91,10 +116,7 @@ int TiffFile::keepMessage(TIFF * /*tif*/, void *data, const char * /*module*/, c
     if (state.message.isEmpty()) {
         char text[256];
         std::vsnprintf(text, sizeof text, format, arguments);
-        state.message = QString::fromUtf8(text).simplified();
-        while (state.message.endsWith(u'.')) {
-            state.message.chop(1);
-        }
+        state.message = QString::fromUtf8(text);
     }
     return 1;
 }

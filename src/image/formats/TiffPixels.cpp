@@ -270,8 +270,7 @@ void readAsRgb(const TiffFile &tiff, const TiffShape &shape, Raster &raster, Tif
     TIFFRGBAImage image = {};
     if (TIFFRGBAImageOK(tiff.handle(), message) == 0 ||
         TIFFRGBAImageBegin(&image, tiff.handle(), kGoOn, message) == 0) {
-        throw Error(
-            u"The TIFF file cannot be read: %1"_s.arg(QString::fromUtf8(message).simplified()));
+        throw Error(tiffReason(QString::fromUtf8(message)));
     }
     const std::unique_ptr<TIFFRGBAImage, EndRgbaImage> end(&image);
     image.req_orientation = image.orientation; // The page turns the picture, not the pixels.
