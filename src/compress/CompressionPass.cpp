@@ -15,6 +15,7 @@
 #include "pdf/PDFContext.h"
 #include "pdf/Password.h"
 #include "pdf/QpdfErrors.h"
+#include "pdf/XmpPacket.h"
 #include "pdf/import/SourceInput.h"
 
 #include <QFile>
@@ -92,11 +93,11 @@ void requireRoomForStreams(QPDF &document, qsizetype size) {
 }
 
 void write(QPDF &document, OutputPipeline &output, const CompressionOptions &options,
-           const EndPageWrite &endPageWrite) {
+           const DocumentForm &form, const EndPageWrite &endPageWrite) {
     keepFilterChains(document);
     QPDFWriter writer(document);
     writer.setOutputPipeline(&output);
-    writer.setObjectStreamMode(qpdf_o_generate);
+    applyForm(writer, form);
     writer.setCompressStreams(true);
     writer.setDecodeLevel(qpdf_dl_generalized);
     if (options.encryption) {
@@ -127,10 +128,14 @@ void runPass(const QString &path, const QuartzFilter &filter, const CompressionO
     outcome.imagesReduced = withAllObjects(document, *reader, [&] {
         unlock(document, input, options.encryption.get());
         mergeDuplicateStreams(document);
+        const Claims claims = claimsOf(document);
         ImagePlan plan = planImages(document, findImageUses(document), filter);
+        if (!claims.pdfA.isEmpty()) {
+            keepColorsOfData(plan);
+        }
         const auto streams = ReducedStreams::install(std::move(plan.planned));
         requireRoomForStreams(document, QFileInfo(path).size());
-        write(document, output, options, endPageWrite);
+        write(document, output, options, formFor(claims), endPageWrite);
         std::vector<KeptImage> kept = std::move(plan.kept);
         kept.insert(kept.end(), streams->kept().begin(), streams->kept().end());
         outcome.imagesKept = byPage(std::move(kept));

@@ -324,4 +324,15 @@ ImagePlan planImages(QPDF &document, const std::vector<ImageUse> &uses,
     return plan;
 }
 
+void keepColorsOfData(ImagePlan &plan) {
+    std::erase_if(plan.planned, [&plan](const PlannedImage &image) {
+        const bool ofData = image.job.components == 0;
+        if (ofData) {
+            plan.kept.push_back(
+                {image.page, image.stream.getObjectID(), u"colours that PDF/A asks for"_s});
+        }
+        return ofData;
+    });
+}
+
 } // namespace folioforge

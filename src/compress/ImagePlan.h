@@ -30,4 +30,8 @@ struct ImagePlan {
 /// size. A soft mask is planned with its image, by the image's use.
 ImagePlan planImages(QPDF &document, const std::vector<ImageUse> &uses, const QuartzFilter &filter);
 
+/// Leaves the images alone whose colours only their own data define. Reduced they would have those
+/// of a device, which PDF/A allows under conditions only.
+void keepColorsOfData(ImagePlan &plan);
+
 } // namespace folioforge

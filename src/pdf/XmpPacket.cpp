@@ -249,6 +249,11 @@ std::optional<Claims> readClaims(const QByteArray &packet) {
     return reader.hasError() || !hasRdf || !isWhole ? std::nullopt : std::optional(claims);
 }
 
+Claims claimsOf(QPDF &document) {
+    const auto packet = readXmpPacket(document);
+    return packet ? readClaims(*packet).value_or(Claims()) : Claims();
+}
+
 QByteArray rewrittenXmp(const QByteArray &packet, const DocumentInfo &info, const Claims &kept) {
     return XmpRewriter(packet, info, kept).run();
 }

@@ -32,6 +32,9 @@ std::optional<QByteArray> readXmpPacket(QPDF &document);
 /// The claims of a packet; nothing where it is not well formed.
 std::optional<Claims> readClaims(const QByteArray &packet);
 
+/// What the metadata of `document` claims.
+Claims claimsOf(QPDF &document);
+
 /// A well-formed packet brought into line: it says of title, author, subject, keywords, programs
 /// and dates what `info` says, with its creation date valid, and claims what `kept` does. All else
 /// stays.

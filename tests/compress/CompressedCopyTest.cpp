@@ -27,6 +27,27 @@ class CompressedCopyTest : public QObject, protected CompressionCase {
   private Q_SLOTS:
     void init() { setUp(); }
 
+    void theCopyOfPdfAIsPdfAToo_data() {
+        QTest::addColumn<QByteArray>("part");
+        QTest::addColumn<bool>("classic");
+        QTest::newRow("PDF/A-1") << QByteArray("1") << true;
+        QTest::newRow("PDF/A-2") << QByteArray("2") << false;
+    }
+    void theCopyOfPdfAIsPdfAToo() {
+        QFETCH(const QByteArray, part);
+        QFETCH(const bool, classic);
+        writePage(
+            claiming(photoPage("q 144 0 0 108 50 20 cm /Im0 Do Q"), part).header("%PDF-1.4\n"));
+        CompressionOutcome outcome;
+        const QByteArray bytes = readFile(compressed(&outcome));
+        QCOMPARE(outcome.imagesReduced, 1);
+        QVERIFY(bytes.contains("pdfaid:part=\"" + part + '"'));
+        QCOMPARE(bytes.startsWith("%PDF-1.4\n"), classic);
+        QCOMPARE(bytes.contains("\nxref\n"), classic);
+        QCOMPARE(bytes.contains("/ObjStm"), !classic);
+        QCOMPARE(bytes.count("endstream"), bytes.count("\nendstream"));
+    }
+
     void passwordsAreAskedAgain() {
         const QString copy = protectedCopy();
         QCOMPARE(PdfProbe(copy).pageCount(), 0);

@@ -98,6 +98,15 @@ class CompressionCase {
         return flate(samplesOf(photo(width, height, QImage::Format_Grayscale8), 1));
     }
 
+    /// `page` saying in its metadata that it is PDF/A of this part.
+    static PdfFixture claiming(PdfFixture page, const QByteArray &part) {
+        return page.object(1, "<< /Type /Catalog /Pages 2 0 R /Metadata 20 0 R >>")
+            .stream(20, "/Type /Metadata /Subtype /XML",
+                    "<r:RDF xmlns:r=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\"><r:Description "
+                    "xmlns:pdfaid=\"http://www.aiim.org/pdfa/ns/id/\" pdfaid:part=\"" +
+                        part + "\"/></r:RDF>");
+    }
+
     /// How far the first page of the copy looks from the document's.
     [[nodiscard]] double changeOf(const QString &copy) const {
         return difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100));

@@ -177,6 +177,18 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
         QVERIFY(changeOf(copy) < 5);
     }
 
+    void coloursOfJpeg2000StayInPdfA() {
+        const QByteArray data = jpeg2000(photo(1200, 900));
+        QVERIFY(!data.isEmpty());
+        QVERIFY(claiming(photoPage(kDrawn), "2")
+                    .stream(5, imageKeys(1200, 900, "/Filter /JPXDecode"), data)
+                    .write(m_path));
+        const CompressionOutcome outcome = run(1);
+        QVERIFY(outcome.error.isEmpty());
+        QCOMPARE(outcome.imagesKept.size(), 1);
+        QCOMPARE(outcome.imagesKept[0].reason, u"colours that PDF/A asks for"_s);
+    }
+
     void damagedJpeg2000Stays() {
         const QByteArray data = jpeg2000(photo(1200, 900));
         const QByteArray half = data.first(data.size() / 2);
