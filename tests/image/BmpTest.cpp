@@ -233,6 +233,27 @@ class BmpTest : public QObject {
         QCOMPARE(letters(toPdfImage(file(bytes))), rows);
     }
 
+    void pixelsThatRunsLeaveOutAreNamed_data() {
+        QTest::addColumn<QByteArray>("runs");
+        QTest::addColumn<bool>("named");
+        const auto add = [](const char *name, const char *runs, bool named) {
+            QTest::newRow(name) << QByteArray::fromHex(runs) << named;
+        };
+        add("none", "0501 0000 0203 0302 0001", false);
+        add("a jump", "0501 0000 0203 0002 0100 0202 0001", true);
+        add("a short row", "0401 0000 0203 0302 0001", true);
+        add("an early end", "0501 0001", true);
+    }
+
+    void pixelsThatRunsLeaveOutAreNamed() {
+        QFETCH(const QByteArray, runs);
+        QFETCH(const bool, named);
+        const QStringList expected(
+            u"picture-damaged: Pixels that the file leaves out have its first colour"_s);
+        QCOMPARE(warningsOf(toPdfImage(file(fourColors(5, 2, 8, 1, runs)))),
+                 named ? expected : QStringList());
+    }
+
     void rowsFromTheTopStayInOrder() {
         const QByteArray pixels = QByteArray::fromHex("0001020001020300");
         const QStringList rows = {u"rgb"_s, u"gbw"_s};

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
-#include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include "error/Error.h"
@@ -272,7 +271,7 @@ class CutPicturesTest : public QObject {
     void thePassesOfAnInterlacedPictureBeforeTheCutAreShown() {
         QFETCH(const QString, name);
         QFETCH(const int, bytes);
-        const QByteArray all = readFile(imageFile(name));
+        const QByteArray all = bytesOf(imageFile(name));
         const PdfImage whole = toPdfImage(write(name, all));
         const PdfImage cut = toPdfImage(write(name, all.first(bytes)));
         QVERIFY(saysDamaged(cut));

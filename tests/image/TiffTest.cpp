@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
-#include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include <QFile>
@@ -220,10 +219,25 @@ class TiffTest : public QObject {
         QCOMPARE(refusalOf(path), u"The file is too short for the image its header describes"_s);
     }
 
+    void rowsWithoutAStripAreMissing() {
+        QByteArray bytes = bytesOf(imageFile(u"colour-None.tif"_s));
+        const QByteArray rows("\x01\x01\x03\x00\x01\x00\x00\x00\x10", 9); // Which are 16.
+        const qsizetype at = bytes.indexOf(rows);
+        QVERIFY(at > 0);
+        bytes[at + 8] = 40;
+        const PdfImage image = toPdfImage(writeFile(m_folder.filePath(u"tall.tif"_s), bytes));
+        QCOMPARE(warningsOf(image), QStringList(u"picture-damaged: The picture is cut off: 60 % of "
+                                                u"its rows could not be read"_s));
+        const QByteArray pixels = rgbRows(image);
+        const QByteArray all = rgbRows(toPdfImage(imageFile(u"colour-None.tif"_s)));
+        QCOMPARE(pixels.first(all.size()), all);
+        QCOMPARE(pixels.sliced(all.size()), QByteArray(pixels.size() - all.size(), '\0'));
+    }
+
     void whatIsWrongIsSaidInPlainWords_data() {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("words");
-        const QByteArray whole = readFile(imageFile(u"colour-None.tif"_s));
+        const QByteArray whole = bytesOf(imageFile(u"colour-None.tif"_s));
         QByteArray compressed = whole;
         const QByteArray compression("\x03\x01\x03\x00\x01\x00\x00\x00", 8); // And its value.
         compressed[whole.indexOf(compression) + 8] = '\x99';

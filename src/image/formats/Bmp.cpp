@@ -91,6 +91,7 @@ Raster blackAndWhite(const QByteArray &rows, const DibHeader &dib, bool isWhiteF
 struct Pixels {
     Raster raster;
     qint64 missingRows = 0;
+    bool hasGaps = false;
 };
 
 Pixels readPixels(const FileView &file, const FileView &content, const DibHeader &dib) {
@@ -110,7 +111,7 @@ Pixels readPixels(const FileView &file, const FileView &content, const DibHeader
         }
     }
     IndexedDib indexed = readIndexedDib(content, dib, at);
-    return {rasterOf(std::move(indexed.image)), indexed.missingRows};
+    return {rasterOf(std::move(indexed.image)), indexed.missingRows, indexed.hasGaps};
 }
 
 PdfImage toPdfImage(const FileView &file) {
@@ -125,6 +126,9 @@ PdfImage toPdfImage(const FileView &file) {
     PdfImage image = encodeRaster(std::move(pixels.raster), header);
     if (pixels.missingRows > 0) {
         image.warnings.push_back(cutOffPicture(pixels.missingRows, dib.height));
+    } else if (pixels.hasGaps) {
+        image.warnings.push_back({WarningCode::PictureDamaged,
+                                  u"Pixels that the file leaves out have its first colour"_s});
     }
     return image;
 }

@@ -133,6 +133,10 @@ class RunReader {
         return std::max(m_image.height - done, 0);
     }
 
+    [[nodiscard]] bool leftOutPixels() const {
+        return m_drawn < qint64(m_image.width) * m_image.height;
+    }
+
   private:
     enum Sign { EndOfRow = 0, Jump = 2 };
 
@@ -157,6 +161,7 @@ class RunReader {
         const qsizetype row = qsizetype(m_image.height - 1 - m_y) * m_image.width;
         for (int i = 0; m_y < m_image.height && i < count && m_x + i < m_image.width; ++i) {
             m_image.indexes[row + m_x + i] = static_cast<char>(number(i));
+            ++m_drawn;
         }
         m_x = std::min(m_x + count, m_image.width);
     }
@@ -166,7 +171,8 @@ class RunReader {
     IndexedImage &m_image;
     qsizetype m_at = 0;
     int m_x = 0;
-    int m_y = 0; ///< From the bottom.
+    int m_y = 0;        ///< From the bottom.
+    qint64 m_drawn = 0; ///< Pixels; none is drawn twice.
 };
 
 void turnOver(IndexedImage &image) {
@@ -251,11 +257,13 @@ IndexedDib readIndexedDib(const FileView &dib, const DibHeader &header, qint64 a
     IndexedImage image{header.width, header.height, allocateRows(header.height, header.width),
                        readDibColors(dib, header)};
     if (header.compression != DibHeader::Plain) {
-        const qint64 missing = RunReader(dib.read(at, dib.size()), header.bits, image).drawAll();
+        const QByteArray runs = dib.read(at, dib.size());
+        RunReader reader(runs, header.bits, image);
+        const qint64 missing = reader.drawAll();
         if (header.isTopDown) {
             turnOver(image);
         }
-        return {image, missing};
+        return {image, missing, reader.leftOutPixels()};
     }
     const QByteArray rows = readDibRows(dib, header, at);
     char *target = image.indexes.data();
@@ -265,7 +273,7 @@ IndexedDib readIndexedDib(const FileView &dib, const DibHeader &header, qint64 a
             *target++ = static_cast<char>(packedSample(row, x, header.bits));
         }
     }
-    return {image, missingDibRows(dib, header, at)};
+    return {image, missingDibRows(dib, header, at), false};
 }
 
 ArgbImage readColorDib(const FileView &dib, const DibHeader &header, qint64 at) {

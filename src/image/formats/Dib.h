@@ -57,6 +57,7 @@ const uchar *dibRow(const QByteArray &rows, const DibHeader &header, int y);
 struct IndexedDib {
     IndexedImage image;
     qint64 missingRows = 0; ///< That the file has no data for.
+    bool hasGaps = false;   ///< Runs leave out pixels.
 };
 
 /// The pixels at byte `at` of a bitmap of 1, 4 or 8 bits a pixel. What runs leave out is colour 0.

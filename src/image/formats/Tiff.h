@@ -114,6 +114,7 @@ class TiffReader {
 
   private:
     [[nodiscard]] bool isFax() const;
+    [[nodiscard]] bool isInFile(uint32_t number) const;
     [[nodiscard]] int complaints(const TiffFile &tiff) const;
     int readRows(const TiffFile &tiff, int y, int rows, qsizetype stride, char *target);
     void rescueStrip(int y, int rows, qsizetype stride, char *target);
@@ -126,7 +127,8 @@ class TiffReader {
     std::unique_ptr<TiffFile> m_paddedOtherwise;
 };
 
-/// Throws Error where the file's strips or tiles are too short for `raw` bytes of pixels.
+/// Throws Error where the file's strips or tiles are too short for `raw` bytes of pixels, or
+/// compressed in a way that libtiff cannot undo.
 void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw);
 
 /// Decompresses all planes, strips on several threads. Throws Error, before it allocates anything

@@ -52,9 +52,6 @@ QString tiffReason(const QString &message) {
         const char *words;
     };
     static constexpr std::array kCauses{
-        Cause{"compression support is not configured"_L1, "its compression is not supported"},
-        Cause{"decoding is not implemented"_L1, "its compression is not supported"},
-        Cause{"compression method"_L1, "its compression is not supported"},
         Cause{"can not handle"_L1, "its form is not supported"},
         Cause{"is not supported"_L1, "its form is not supported"},
         Cause{"not supported"_L1, "its form is not supported"},

@@ -2,11 +2,14 @@
 
 #include "image/formats/Tiff.h"
 
+#include "error/Error.h"
 #include "image/Parallel.h"
 
 #include <algorithm>
 #include <cstring>
 #include <mutex>
+
+using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -80,6 +83,9 @@ void readTiles(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlan
 } // namespace
 
 void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw) {
+    if (TIFFIsCODECConfigured(static_cast<uint16_t>(shape.compression)) == 0) {
+        throw Error(u"The TIFF file cannot be read: its compression is not supported"_s);
+    }
     const bool tiled = TIFFIsTiled(tiff.handle()) != 0;
     const uint32_t count =
         tiled ? TIFFNumberOfTiles(tiff.handle()) : TIFFNumberOfStrips(tiff.handle());

@@ -45,6 +45,12 @@ int TiffReader::complaints(const TiffFile &tiff) const {
     return tiff.errors() + (warns ? tiff.warnings() : 0);
 }
 
+/// Of a picture that is larger than its directory has strips or tiles for, libtiff reads the rest
+/// from the beginning of the file.
+bool TiffReader::isInFile(uint32_t number) const {
+    return TIFFGetStrileOffset(m_tiff.handle(), number) != 0;
+}
+
 void TiffReader::readStrip(int y, int rows, qsizetype stride, char *target) {
     m_damage.all += rows;
     const tmsize_t size = rows * stride;
@@ -52,6 +58,11 @@ void TiffReader::readStrip(int y, int rows, qsizetype stride, char *target) {
         TIFFComputeStrip(m_tiff.handle(), static_cast<uint32_t>(y), static_cast<uint16_t>(m_plane));
     // Fax data may end early without a complaint: the last row is then as it was.
     std::memset(target, isFax() ? kUnwritten : 0, static_cast<size_t>(size));
+    if (!isInFile(number)) {
+        std::memset(target, 0, static_cast<size_t>(size));
+        m_damage.missing += rows;
+        return;
+    }
     const int before = complaints(m_tiff);
     const bool isRead = TIFFReadEncodedStrip(m_tiff.handle(), number, target, size) >= 0;
     if (!isRead || complaints(m_tiff) != before ||
@@ -105,7 +116,7 @@ void TiffReader::readTile(qint64 x, qint64 y, tmsize_t size, char *target) {
         TIFFComputeTile(m_tiff.handle(), static_cast<uint32_t>(x), static_cast<uint32_t>(y), 0,
                         static_cast<uint16_t>(m_plane));
     const int before = complaints(m_tiff);
-    if (TIFFReadEncodedTile(m_tiff.handle(), number, target, size) < 0) {
+    if (!isInFile(number) || TIFFReadEncodedTile(m_tiff.handle(), number, target, size) < 0) {
         std::memset(target, 0, static_cast<size_t>(size));
         m_damage.missing += 1;
     } else {
