@@ -36,6 +36,7 @@ constexpr std::array kWords{
     PartWords{PartKind::Layers, "layers"_L1, "1 layer"_L1, "%1 layers"_L1},
     PartWords{PartKind::Destinations, "destinations"_L1, "1 named destination"_L1,
               "%1 named destinations"_L1},
+    PartWords{PartKind::FurtherNames, "further-names"_L1, "further names"_L1, {}},
     PartWords{PartKind::RenamedNames, "renamed-names"_L1, "1 renamed name"_L1,
               "%1 renamed names"_L1},
 };

@@ -34,6 +34,7 @@ enum class PartKind {
     Fields,
     Layers,
     Destinations,
+    FurtherNames, ///< Tables of names that the standard does not know.
     RenamedNames, ///< To be told apart from those of other sources.
 };
 

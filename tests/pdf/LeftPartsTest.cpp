@@ -46,6 +46,7 @@ class LeftPartsTest : public QObject, protected MergeCase {
             QTest::newRow(qPrintable(name)) << catalog << name;
         };
         row(u"a portfolio"_s, "/Collection << /View /T >>");
+        row(u"further names"_s, "/Names << /ABCD_Own << /Names [(a) 20 0 R] >> >>");
         row(u"an XFA form"_s, "/AcroForm << /Fields [<< >>] /XFA [(a) (b)] >>");
         row(u"document scripts"_s, "/OpenAction << /S /JavaScript /JS (this.print\\(\\)) >>");
         row(u"document scripts"_s, "/AA << /WC << /S /JavaScript /JS (1) >> >>");

@@ -52,6 +52,8 @@ class WholeDocumentTest : public QObject, protected MergeCase {
         QTest::newRow("extensions")
             << QByteArray("/Extensions")
             << QByteArray("<< /ISO_ << /BaseVersion /2.0 /ExtensionLevel 24654 >> >>");
+        QTest::newRow("names unknown to us")
+            << QByteArray("/Names") << QByteArray("<< /ABCD_Own << /Names [ (a) 5 ] >> >>");
         QTest::newRow("unknown to us")
             << QByteArray("/ABCD_Own") << QByteArray("<< /A [ 1 (b) /C true ] >>");
     }

@@ -94,6 +94,7 @@ void addNamedParts(PartCounts &parts, const ImportedDocument &imported) {
     addParts(parts, PartKind::ArticleThreads, imported.threads.size());
     addParts(parts, PartKind::Destinations,
              imported.destinations.dictionary.size() + imported.destinations.tree.size());
+    addParts(parts, PartKind::FurtherNames, imported.furtherNames.size());
     addParts(parts, PartKind::RenamedNames, imported.names.renamed);
 }
 

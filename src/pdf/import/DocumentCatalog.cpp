@@ -33,6 +33,7 @@ Warnings DocumentCatalog::addDocument(const ImportedDocument &imported) {
     m_layers.add(imported.layers);
     m_destinations.add(imported.destinations);
     m_nameTrees.add(imported.nameTrees);
+    m_nameTrees.addFurther(imported.furtherNames);
     m_attachments.add(imported.attachments);
     m_threads.add(imported.threads);
     m_names.add(imported.names);

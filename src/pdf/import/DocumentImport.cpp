@@ -74,6 +74,11 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     imported.form = importForm(source, found.pages, copier);
     imported.layers = importLayers(source, copier, scope);
     imported.catalogParts = importCatalogParts(source, copier, scope);
+    if (scope == ImportScope::WholeDocument) {
+        for (const auto &[key, object] : furtherNames(source)) {
+            imported.furtherNames.emplace(key, copier.copy(object));
+        }
+    }
     imported.attachments = importAttachments(source, copier, scope);
     imported.threads = importThreads(source, copier);
     copier.run();

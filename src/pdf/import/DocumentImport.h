@@ -43,6 +43,7 @@ struct ImportedDocument {
     ImportedCatalogParts catalogParts;
     Destinations destinations;
     ImportedNameTrees nameTrees;
+    NamedObjects furtherNames;
     ImportedAttachments attachments;
     ImportedThreads threads;
     GivenNames names;

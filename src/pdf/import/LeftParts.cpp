@@ -5,6 +5,7 @@
 #include "pdf/XmpPacket.h"
 #include "pdf/import/CatalogParts.h"
 #include "pdf/import/Entries.h"
+#include "pdf/import/NameTrees.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -69,6 +70,7 @@ PartCounts countLeft(QPDF &source, ImportScope scope) {
     add(PartKind::XfaForm, !entry(entry(catalog, "/AcroForm"), "/XFA").isNull());
     add(PartKind::UsageRights, hasUsageRights(catalog));
     if (scope == ImportScope::OneOfSeveral) {
+        addParts(left, PartKind::FurtherNames, furtherNames(source).size());
         add(PartKind::Portfolio, entry(catalog, "/Collection").isDictionary());
         add(PartKind::Metadata, saysMoreThanProperties(source));
         addParts(left, PartKind::LayerSettings,

@@ -67,6 +67,16 @@ ImportedNameTrees importNameTrees(QPDF &source, SourceNames &names, ObjectCopier
     return imported;
 }
 
+NamedObjects furtherNames(QPDF &source) {
+    auto names = entry(source.getRoot(), "/Names");
+    NamedObjects further = names.isDictionary() ? names.getDictAsMap() : NamedObjects();
+    further.erase(kDestinations);
+    for (const char *key : kTrees) {
+        further.erase(key);
+    }
+    return further;
+}
+
 void NameTreeMerger::add(const ImportedNameTrees &imported) {
     for (const auto &[key, entries] : imported) {
         if (key == kScripts) {
@@ -85,6 +95,9 @@ void NameTreeMerger::finish(QPDF &document) {
     }
     for (const auto &[key, entries] : m_trees) {
         putNameTree(document, key, entries);
+    }
+    for (const auto &[key, object] : m_further) {
+        namesOf(document).replaceKey(key, object);
     }
 }
 

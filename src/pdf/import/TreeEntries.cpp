@@ -103,6 +103,16 @@ void addNames(NamedObjects &objects, const TreeEntries &entries) {
     }
 }
 
+QPDFObjectHandle namesOf(QPDF &document) {
+    auto root = document.getRoot();
+    auto names = entry(root, "/Names");
+    if (!names.isDictionary()) {
+        names = document.makeIndirectObject(QPDFObjectHandle::newDictionary());
+        root.replaceKey("/Names", names);
+    }
+    return names;
+}
+
 void putNameTree(QPDF &document, const std::string &key, const NamedObjects &objects) {
     if (objects.empty()) {
         return;
@@ -111,13 +121,7 @@ void putNameTree(QPDF &document, const std::string &key, const NamedObjects &obj
     for (const auto &[name, object] : objects) {
         entries.emplace_back(QPDFObjectHandle::newString(name), object);
     }
-    auto root = document.getRoot();
-    auto names = entry(root, "/Names");
-    if (!names.isDictionary()) {
-        names = document.makeIndirectObject(QPDFObjectHandle::newDictionary());
-        root.replaceKey("/Names", names);
-    }
-    names.replaceKey(key, buildTree(document, entries, "/Names"));
+    namesOf(document).replaceKey(key, buildTree(document, entries, "/Names"));
 }
 
 } // namespace folioforge

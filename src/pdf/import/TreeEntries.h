@@ -31,6 +31,8 @@ using NamedObjects = std::map<std::string, QPDFObjectHandle>;
 TreeEntries readNameTree(const QPDFObjectHandle &root);
 /// Adds `entries`, whose keys are strings. The first of one name stays.
 void addNames(NamedObjects &objects, const TreeEntries &entries);
+/// /Names of the catalog, which is made where it is missing.
+QPDFObjectHandle namesOf(QPDF &document);
 /// Makes `objects` the name tree `key` of the catalog's /Names; nothing where there is none.
 void putNameTree(QPDF &document, const std::string &key, const NamedObjects &objects);
 
