@@ -68,6 +68,7 @@ const std::vector<Option> &documentOptions() {
          [](Arguments &to, Value value) { to.options.info.subject = textOf(value); }},
         {"--keywords", Option::Valued,
          [](Arguments &to, Value value) { to.options.info.keywords = textOf(value); }},
+        {"--keep-info", Option::Switch, [](Arguments &to, Value) { to.options.keepInfo = true; }},
         {"--user-password-file", Option::Valued,
          [](Arguments &to, Value value) { to.userPasswordFile = value; }},
         {"--owner-password-file", Option::Valued,

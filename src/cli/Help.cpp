@@ -21,6 +21,7 @@ Output
 
 Document
   --title TEXT  --author TEXT  --subject TEXT  --keywords TEXT
+  --keep-info                  what these do not give comes from the first PDF of the inputs
   --user-password-file FILE    the password to open the PDF: first line of FILE, "-" for
                                standard input; or in FOLIOFORGE_USER_PASSWORD
   --owner-password-file FILE   the password to change permissions; or in

@@ -175,6 +175,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     PDFContext context(path, {.info = options.info,
                               .encryption = encryptionFor(options.security),
                               .oneSource = entries.size() == 1,
+                              .keepInfo = options.keepInfo,
                               .flush = options.flush,
                               .calls = calls});
     PDFOutcome outcome;

@@ -29,6 +29,7 @@ struct ConversionOptions {
     bool merge = false;
     QString outputName; ///< Name of the merged file; merge mode only.
     DocumentInfo info;
+    bool keepInfo = false; ///< The first source PDF gives what `info` lacks.
     SecuritySettings security;
     PageSetup textPage{TextPageA4, 0, 0, {72, 72, 72, 72}};
     PageSetup imagePage;

@@ -53,6 +53,26 @@ void fixCreationDate(DocumentInfo &info) {
     }
 }
 
+void takeMissingInfo(DocumentInfo &info, QPDF &source) {
+    auto given = source.getTrailer().getKey("/Info");
+    const auto textOf = [&given](const char *key) {
+        auto value = given.isDictionary() ? given.getKey(key) : QPDFObjectHandle::newNull();
+        return value.isString() ? QString::fromStdString(value.getUTF8Value()) : QString();
+    };
+    const auto take = [&textOf](QString &field, const char *key) {
+        if (field.isNull()) {
+            field = textOf(key);
+        }
+    };
+    take(info.title, "/Title");
+    take(info.author, "/Author");
+    take(info.subject, "/Subject");
+    take(info.keywords, "/Keywords");
+    if (const QString creator = textOf("/Creator"); !creator.isEmpty()) {
+        info.creator = creator;
+    }
+}
+
 QString producerName() {
     return QStringLiteral("Folioforge " FOLIOFORGE_VERSION);
 }

@@ -11,7 +11,7 @@ class QPDF;
 
 namespace folioforge {
 
-/// Document information. Every field is written, empty or not.
+/// Document information. Every field is written, empty or not; one that nobody gave is null.
 struct DocumentInfo {
     QString title;
     QString author;
@@ -29,6 +29,10 @@ std::optional<QDateTime> sourceDate();
 /// Gives `info` the creation date that is written where its own is invalid. Throws Error as
 /// sourceDate() does.
 void fixCreationDate(DocumentInfo &info);
+
+/// Fills the fields of `info` that are null, and the creator, with what the information of `source`
+/// says of them.
+void takeMissingInfo(DocumentInfo &info, QPDF &source);
 
 /// The producer that is written.
 QString producerName();

@@ -231,10 +231,13 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         // A copy, so that an import that fails leaves no stream to the next one.
         SharedStreams streams = m_sourceStreams[key];
         SourceNames names(m_catalog.names(), sourcePath);
-        const ImportOptions options{m_settings.oneSource ? ImportScope::WholeDocument
-                                                         : ImportScope::OneOfSeveral,
-                                    m_settings.info, m_settings.encryption != nullptr};
+        ImportOptions options{m_settings.oneSource ? ImportScope::WholeDocument
+                                                   : ImportScope::OneOfSeveral,
+                              m_settings.info, m_settings.encryption != nullptr};
         ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
+            if (m_settings.keepInfo) {
+                takeMissingInfo(options.info, *source);
+            }
             return importDocument(*source, m_document, streams, names, options);
         });
         m_reader->finish();
@@ -242,6 +245,10 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         m_longestStream =
             std::max(m_longestStream, std::min<qsizetype>(imported.longestStream, file.size));
         m_sourceStreams[key] = std::move(streams);
+        if (!imported.pages.empty()) {
+            m_settings.info = options.info;
+            m_settings.keepInfo = false;
+        }
         return AddedDocument{static_cast<int>(imported.pages.size()), std::move(imported.warnings),
                              std::move(imported.parts)};
     });

@@ -52,6 +52,8 @@ class PDFContext {
         std::unique_ptr<Encryption> encryption; ///< Null for an unprotected document.
         /// Whether a source document that is added is all of this one; its catalog then stays.
         bool oneSource = false;
+        /// Whether the first source document with pages gives what `info` lacks.
+        bool keepInfo = false;
         Flush flush = Flush::Always;
         /// Every file is written and every source is read through these.
         std::reference_wrapper<SystemCalls> calls = SystemCalls::system();

@@ -65,6 +65,7 @@ class ArgumentsTest : public QObject {
     void metadataIsStrippedOnRequest() {
         QVERIFY(!good({"a"}).options.stripMetadata);
         QVERIFY(good({"--strip-metadata", "a"}).options.stripMetadata);
+        QVERIFY(good({"--keep-info", "a"}).options.keepInfo);
     }
 
     void documentInformationIsTaken() {

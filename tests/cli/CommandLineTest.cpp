@@ -2,6 +2,7 @@
 
 #include "CommandLineCase.h"
 #include "support/Files.h"
+#include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
 
@@ -57,6 +58,19 @@ class CommandLineTest : public QObject, protected CommandLineCase {
 
   private Q_SLOTS:
     void init() { setUp(); }
+
+    void thePropertiesOfAPdfStayWhereThatIsAskedFor() {
+        PdfFixture source;
+        source.object(1, "<< /Type /Catalog /Pages 2 0 R >>")
+            .pages(4, 1)
+            .object(20, "<< /Title (Its own) /Author (Its own) >>")
+            .trailer("/Info 20 0 R");
+        QVERIFY(source.write(path("a.pdf")));
+        QCOMPARE(convert({u"--keep-info"_s, u"--author"_s, u"Given"_s, path("a.pdf")}).exitCode, 0);
+        const PdfProbe probe(path("out/a.pdf"));
+        QCOMPARE(probe.info(u"Title"_s), u"Its own"_s);
+        QCOMPARE(probe.info(u"Author"_s), u"Given"_s);
+    }
 
     void versionAndHelpAreShown() {
         const ToolRun version = runTool(kProgram, {u"--version"_s});

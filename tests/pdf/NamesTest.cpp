@@ -207,8 +207,8 @@ class NamesTest : public QObject, protected MergeCase {
     }
 
     void aPlaceInTheStructureThatContainsItselfGoes() {
-        const QString path = saved(linked({}, "/A << /S /GoTo /D [5 0 R /Fit] /SD 20 0 R >>")
-                                       .object(20, "[20 0 R /Fit]"));
+        const QString path = saved(
+            linked({}, "/A << /S /GoTo /D [5 0 R /Fit] /SD 20 0 R >>").object(20, "[20 0 R /Fit]"));
         const QString result = merged({path});
         QCOMPARE(linkedPages(result), u"2"_s);
         QVERIFY(!PdfProbe(result).json().contains("/SD"));
