@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// A PDF of any bytes: its pages are copied twice into a document that other readers need not
-// repair, or there is a reason.
+// A PDF of any bytes: its pages are copied into a document that other readers need not repair, all
+// of it once and as one of two sources, or there is a reason.
 
 #include "FuzzSupport.h"
 #include "pdf/PDFContext.h"
@@ -33,17 +33,21 @@ void requireInOrder(const QString &path, int pages) {
     require(std::ranges::all_of(document.getWarnings(), isOfTheSource));
 }
 
-void mergeTwice(const QString &source, const PDFSummary &summary) {
+void merge(const QString &source, const PDFSummary &summary, int copies) {
     const QString path = freshPath(u"merged.pdf"_s);
-    PDFContext context(path, {.info = {}, .encryption = nullptr, .flush = Flush::Never});
-    require(context.addDocument(source).pages == summary.pageCount);
-    require(context.addDocument(source).pages == summary.pageCount);
+    PDFContext::Settings settings;
+    settings.oneSource = copies == 1;
+    settings.flush = Flush::Never;
+    PDFContext context(path, std::move(settings));
+    for (int i = 0; i < copies; ++i) {
+        require(context.addDocument(source).pages == summary.pageCount);
+    }
     const CloseResult closed = context.close();
     if (closed.status == CloseResult::Status::Failed) {
         throw Error(closed.reason);
     }
     require(closed.status == CloseResult::Status::Written);
-    requireInOrder(path, 2 * summary.pageCount);
+    requireInOrder(path, copies * summary.pageCount);
 }
 
 } // namespace
@@ -54,7 +58,8 @@ FUZZ_TARGET(PdfMerge) {
     refuses([&] {
         const PDFSummary summary = summarizePDF(source.path());
         if (!summary.encrypted) {
-            mergeTwice(source.path(), summary);
+            merge(source.path(), summary, 1);
+            merge(source.path(), summary, 2);
         }
     });
 }
