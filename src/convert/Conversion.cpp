@@ -6,6 +6,7 @@
 #include "error/Error.h"
 #include "filelist/FileKind.h"
 #include "files/SystemCalls.h"
+#include "pdf/import/LeftParts.h"
 
 #include <QStringList>
 
@@ -105,6 +106,23 @@ Warnings namePartlyTagged(std::span<const PDFFileInfo *const> entries,
                                             (more > 0 ? u" and %1 more"_s.arg(more) : QString())}};
 }
 
+/// Names for each entry what it brought and could not be for all of the document together.
+void leaveInTheEnd(const std::vector<PartKind> &kinds, std::vector<EntryOutcome> &entries) {
+    for (EntryOutcome &entry : entries) {
+        if (!entry.parts) {
+            continue;
+        }
+        PartCounts left;
+        for (const PartKind kind : kinds) {
+            if (const auto found = entry.parts->carried.extract(kind)) {
+                left.insert({kind, found.mapped()});
+                addParts(entry.parts->left, kind, found.mapped());
+            }
+        }
+        std::ranges::copy(namePartsLeft(left), std::back_inserter(entry.warnings));
+    }
+}
+
 CloseResult notWritten(const QString &reason) {
     return {CloseResult::Status::Failed, {}, reason, {}};
 }
@@ -190,6 +208,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     if (!stop.stop_requested()) {
         const QString fileName = entries.empty() ? QString() : entries.front()->fileName();
         outcome.close = closeContext(context, fileName, options);
+        leaveInTheEnd(outcome.close.left, outcome.entries);
         std::ranges::copy(namePartlyTagged(entries, outcome.entries),
                           std::back_inserter(outcome.close.warnings));
     }

@@ -233,7 +233,7 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         SourceNames names(m_catalog.names(), sourcePath);
         ImportOptions options{m_settings.oneSource ? ImportScope::WholeDocument
                                                    : ImportScope::OneOfSeveral,
-                              m_settings.info, m_settings.encryption != nullptr};
+                              m_settings.info, m_settings.encryption != nullptr, pageCount() == 0};
         ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
             if (m_settings.keepInfo) {
                 takeMissingInfo(options.info, *source);
@@ -302,6 +302,7 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         Warnings warnings = file.finish(m_settings.flush);
         CloseResult result = publish(file, nextPath);
         result.warnings = std::move(warnings);
+        result.left = m_catalog.leftInTheEnd();
         return result;
     } catch (const Error &error) {
         return {CloseResult::Status::Failed, m_path, error.reason(), {}};

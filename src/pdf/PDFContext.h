@@ -16,6 +16,7 @@
 #include <functional>
 #include <memory>
 #include <span>
+#include <vector>
 
 namespace folioforge {
 
@@ -32,6 +33,8 @@ struct CloseResult {
     QString path;
     QString reason;
     Warnings warnings; ///< What could not be done for a document that was written.
+    /// Kinds that sources brought and that could not be for all of the document together.
+    std::vector<PartKind> left = {};
 };
 
 /// What a source document brought.

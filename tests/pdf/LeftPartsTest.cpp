@@ -48,13 +48,11 @@ class LeftPartsTest : public QObject, protected MergeCase {
         row(u"a portfolio"_s, "/Collection << /View /T >>");
         row(u"further names"_s, "/Names << /ABCD_Own << /Names [(a) 20 0 R] >> >>");
         row(u"an XFA form"_s, "/AcroForm << /Fields [<< >>] /XFA [(a) (b)] >>");
-        row(u"document scripts"_s, "/OpenAction << /S /JavaScript /JS (this.print\\(\\)) >>");
         row(u"document scripts"_s, "/AA << /WC << /S /JavaScript /JS (1) >> >>");
         row(u"further layer settings"_s, "/OCProperties << /OCGs [] /D << >> /Configs [<< >>] >>");
         row(u"a base address of links"_s, "/URI << /Base (http://example.org/) >>");
         row(u"usage rights"_s, "/Perms << /UR3 20 0 R >>");
-        row(u"output intents"_s, "/OutputIntents [<< /S /GTS_PDFA1 >>]");
-        row(u"a portfolio, output intents"_s, "/OutputIntents [<< >>] /Collection << >>");
+        row(u"a portfolio, usage rights"_s, "/Perms << /UR3 20 0 R >> /Collection << >>");
     }
     void eachPartThatIsLeftIsNamed() {
         QFETCH(QByteArray, catalog);

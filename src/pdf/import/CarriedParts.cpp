@@ -119,6 +119,7 @@ PartCounts countCarried(const ImportedDocument &imported) {
     addParts(parts, PartKind::LayerSettings,
              items(entry(imported.layers.whole, "/Configs")).size());
     addNamedParts(parts, imported);
+    addParts(parts, PartKind::OutputIntents, imported.outputIntents.intents.size());
     addParts(parts, PartKind::Metadata, imported.metadata.packet.isEmpty() ? 0 : 1);
     for (const auto &[kind, count] : countCatalogParts(imported.catalogParts)) {
         addParts(parts, kind, count);

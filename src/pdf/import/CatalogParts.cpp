@@ -3,6 +3,7 @@
 #include "pdf/import/CatalogParts.h"
 
 #include "pdf/import/Entries.h"
+#include "pdf/import/ImportOptions.h"
 #include "pdf/import/ObjectCopier.h"
 
 #include <qpdf/QPDF.hh>
@@ -18,14 +19,25 @@ namespace {
 /// Whether an entry belongs to another topic, is written anew or holds for the original file alone,
 /// as usage rights and what confirms signatures do.
 bool belongsElsewhere(std::string_view key) {
-    static constexpr std::array<std::string_view, 18> kKeys{
+    static constexpr std::array<std::string_view, 19> kKeys{
         "/Type",           "/Pages",      "/Version",
         "/Outlines",       "/PageLabels", "/AcroForm",
         "/NeedsRendering", "/Metadata",   "/MarkInfo",
         "/StructTreeRoot", "/Names",      "/Dests",
         "/Threads",        "/AF",         "/Collection",
-        "/Perms",          "/DSS",        "/OCProperties"};
+        "/Perms",          "/DSS",        "/OCProperties",
+        "/OutputIntents"};
     return std::ranges::find(kKeys, key) != kKeys.end();
+}
+
+/// Whether an entry stays: of several sources, how readers open the first.
+bool isCarried(std::string_view key, const ImportOptions &options) {
+    static constexpr std::array<std::string_view, 4> kOpening{"/OpenAction", "/ViewerPreferences",
+                                                              "/PageMode", "/PageLayout"};
+    if (options.scope == ImportScope::OneOfSeveral) {
+        return options.begins && std::ranges::find(kOpening, key) != kOpening.end();
+    }
+    return !belongsElsewhere(key);
 }
 
 QPDFObjectHandle entryOf(const ImportedCatalogParts &parts, const char *key) {
@@ -44,13 +56,11 @@ std::size_t countScripts(const ImportedCatalogParts &parts) {
 
 } // namespace
 
-ImportedCatalogParts importCatalogParts(QPDF &source, ObjectCopier &copier, ImportScope scope) {
+ImportedCatalogParts importCatalogParts(QPDF &source, ObjectCopier &copier,
+                                        const ImportOptions &options) {
     ImportedCatalogParts parts;
-    if (scope == ImportScope::OneOfSeveral) {
-        return parts;
-    }
     for (const auto &[key, value] : source.getRoot().getDictAsMap()) {
-        if (belongsElsewhere(key)) {
+        if (!isCarried(key, options)) {
             continue;
         }
         const bool shows = key == "/OpenAction" && !QPDFObjectHandle(value).isDictionary();
@@ -62,12 +72,17 @@ ImportedCatalogParts importCatalogParts(QPDF &source, ObjectCopier &copier, Impo
     return parts;
 }
 
+ImportedCatalogParts catalogPartsLeft(QPDF &source, const ImportOptions &options) {
+    auto parts = source.getRoot().getDictAsMap();
+    std::erase_if(parts, [&](const auto &part) { return isCarried(part.first, options); });
+    return parts;
+}
+
 PartCounts countCatalogParts(const ImportedCatalogParts &parts) {
     PartCounts counts;
     addParts(counts, PartKind::Scripts, countScripts(parts));
     addParts(counts, PartKind::BaseAddress,
              entry(entryOf(parts, "/URI"), "/Base").isNull() ? 0 : 1);
-    addParts(counts, PartKind::OutputIntents, items(entryOf(parts, "/OutputIntents")).size());
     return counts;
 }
 

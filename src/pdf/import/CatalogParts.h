@@ -3,7 +3,6 @@
 #pragma once
 
 #include "pdf/DocumentParts.h"
-#include "pdf/import/LeftParts.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
 
@@ -15,13 +14,19 @@ class QPDF;
 namespace folioforge {
 
 class ObjectCopier;
+struct ImportOptions;
 
 /// Entries of a source's catalog that stay what they are, copied, by key.
 using ImportedCatalogParts = std::map<std::string, QPDFObjectHandle>;
 
 /// What belongs to the document as a whole and to no other topic, such as how readers show it,
-/// output intents and what other programs keep there. A source that is one of several brings none.
-ImportedCatalogParts importCatalogParts(QPDF &source, ObjectCopier &copier, ImportScope scope);
+/// its language and what other programs keep there. Of several sources the one that begins the
+/// document brings how readers open it.
+ImportedCatalogParts importCatalogParts(QPDF &source, ObjectCopier &copier,
+                                        const ImportOptions &options);
+
+/// The entries of the source that importCatalogParts() leaves, and those of other topics.
+ImportedCatalogParts catalogPartsLeft(QPDF &source, const ImportOptions &options);
 
 /// Counts those of the entries, of a source or a copy, that reports name.
 PartCounts countCatalogParts(const ImportedCatalogParts &parts);

@@ -38,9 +38,16 @@ Warnings DocumentCatalog::addDocument(const ImportedDocument &imported) {
     m_threads.add(imported.threads);
     m_names.add(imported.names);
     m_parts.insert(imported.catalogParts.begin(), imported.catalogParts.end());
+    m_outputIntents.add(imported.outputIntents);
+    m_importedPages += imported.pages.size();
     m_metadata = imported.metadata;
     m_version.updateIfGreater(imported.version);
     return changes;
+}
+
+std::vector<PartKind> DocumentCatalog::leftInTheEnd() const {
+    return m_outputIntents.areLeft() ? std::vector{PartKind::OutputIntents}
+                                     : std::vector<PartKind>();
 }
 
 DocumentForm DocumentCatalog::form() const {
@@ -64,6 +71,10 @@ void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info) {
     m_threads.finish(document);
     m_pageLabels.finish(document);
     putCatalogParts(document, m_parts);
+    if (m_pages.size() > m_importedPages) {
+        m_outputIntents.addDrawnPage();
+    }
+    m_outputIntents.finish(document);
     putMetadata(document, m_metadata, info);
 }
 

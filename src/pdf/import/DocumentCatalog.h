@@ -36,6 +36,8 @@ class DocumentCatalog {
 
     /// Writes the page tree and every topic, with `info` in the metadata. Call it once.
     void finish(QPDF &document, const DocumentInfo &info);
+    /// What sources brought that could not be for the whole document; known when it is finished.
+    [[nodiscard]] std::vector<PartKind> leftInTheEnd() const;
 
   private:
     std::vector<QPDFObjectHandle> m_pages;
@@ -50,6 +52,8 @@ class DocumentCatalog {
     ThreadMerger m_threads;
     TakenNames m_names;
     ImportedCatalogParts m_parts;
+    OutputIntentMerger m_outputIntents;
+    std::size_t m_importedPages = 0;
     ImportedMetadata m_metadata;
     PDFVersion m_version; ///< The highest of the sources.
 };

@@ -57,7 +57,7 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     const ImportScope scope = options.scope;
     imported.scope = scope;
     imported.metadata = readMetadata(source, scope);
-    imported.parts.left = countLeft(source, scope);
+    imported.parts.left = countLeft(source, options);
     addParts(imported.parts.left, PartKind::Metadata, imported.metadata.isLeft ? 1 : 0);
     imported.warnings = namePartsLeft(imported.parts.left);
     const SourcePages found = readSourcePages(source);
@@ -65,6 +65,7 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     std::set<std::size_t> damaged = pagesThatLackObjects(found.pages);
     const Warnings missing = missingEntries(source);
     copier.makePages(found.pages);
+    imported.outputIntents = importOutputIntents(source, copier);
     imported.structure = importStructure(source, target, copier);
     imported.destinations = importDestinations(source, names, copier);
     imported.nameTrees = importNameTrees(source, names, copier);
@@ -73,7 +74,7 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     imported.pageLabels = importPageLabels(source, imported.pages.size(), copier);
     imported.form = importForm(source, found.pages, copier);
     imported.layers = importLayers(source, copier, scope);
-    imported.catalogParts = importCatalogParts(source, copier, scope);
+    imported.catalogParts = importCatalogParts(source, copier, options);
     if (scope == ImportScope::WholeDocument) {
         for (const auto &[key, object] : furtherNames(source)) {
             imported.furtherNames.emplace(key, copier.copy(object));

@@ -14,6 +14,7 @@
 #include "pdf/import/LeftParts.h"
 #include "pdf/import/Metadata.h"
 #include "pdf/import/NameTrees.h"
+#include "pdf/import/OutputIntents.h"
 #include "pdf/import/PageLabels.h"
 #include "pdf/import/SharedStreams.h"
 #include "pdf/import/SourceNames.h"
@@ -41,6 +42,7 @@ struct ImportedDocument {
     ImportedForm form;
     ImportedLayers layers;
     ImportedCatalogParts catalogParts;
+    ImportedOutputIntents outputIntents;
     Destinations destinations;
     ImportedNameTrees nameTrees;
     NamedObjects furtherNames;

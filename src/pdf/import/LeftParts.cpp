@@ -5,6 +5,7 @@
 #include "pdf/XmpPacket.h"
 #include "pdf/import/CatalogParts.h"
 #include "pdf/import/Entries.h"
+#include "pdf/import/ImportOptions.h"
 #include "pdf/import/NameTrees.h"
 
 #include <qpdf/QPDF.hh>
@@ -61,7 +62,7 @@ bool hasUsageRights(const QPDFObjectHandle &catalog) {
 
 } // namespace
 
-PartCounts countLeft(QPDF &source, ImportScope scope) {
+PartCounts countLeft(QPDF &source, const ImportOptions &options) {
     auto catalog = source.getRoot();
     PartCounts left;
     const auto add = [&left](PartKind kind, bool present) {
@@ -69,13 +70,13 @@ PartCounts countLeft(QPDF &source, ImportScope scope) {
     };
     add(PartKind::XfaForm, !entry(entry(catalog, "/AcroForm"), "/XFA").isNull());
     add(PartKind::UsageRights, hasUsageRights(catalog));
-    if (scope == ImportScope::OneOfSeveral) {
+    if (options.scope == ImportScope::OneOfSeveral) {
         addParts(left, PartKind::FurtherNames, furtherNames(source).size());
         add(PartKind::Portfolio, entry(catalog, "/Collection").isDictionary());
         add(PartKind::Metadata, saysMoreThanProperties(source));
         addParts(left, PartKind::LayerSettings,
                  items(entry(entry(catalog, "/OCProperties"), "/Configs")).size());
-        for (const auto &[kind, count] : countCatalogParts(catalog.getDictAsMap())) {
+        for (const auto &[kind, count] : countCatalogParts(catalogPartsLeft(source, options))) {
             addParts(left, kind, count);
         }
     }

@@ -15,9 +15,11 @@ enum class ImportScope {
     OneOfSeveral   ///< A part of it.
 };
 
+struct ImportOptions;
+
 /// Counts what `source` has beside its pages and does not get into the document that is made;
 /// nothing that nobody would miss. To be called before pages are copied.
-PartCounts countLeft(QPDF &source, ImportScope scope);
+PartCounts countLeft(QPDF &source, const ImportOptions &options);
 
 /// Names in one warning what is left; no warning where there is nothing.
 Warnings namePartsLeft(const PartCounts &left);

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/import/OutputIntents.h"
+
+#include "pdf/BoundedBuffer.h"
+#include "pdf/import/Entries.h"
+#include "pdf/import/ObjectCopier.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <string>
+
+namespace folioforge {
+
+namespace {
+
+/// The data of a profile without its filters; nothing where it is damaged or far too long for one.
+std::optional<std::string> profileData(QPDFObjectHandle profile) {
+    constexpr std::size_t kMaxBytes = 16 << 20;
+    if (items(profile.getDict().getKey("/Filter")).size() > 1) {
+        return std::nullopt; // Each filter may unfold a thousandfold.
+    }
+    std::string data;
+    BoundedBuffer collect(data, kMaxBytes);
+    const bool whole =
+        profile.pipeStreamData(&collect, nullptr, 0, qpdf_dl_generalized, true, false);
+    return whole ? std::optional(data) : std::nullopt;
+}
+
+std::optional<QByteArray> meaningOf(const std::vector<QPDFObjectHandle> &intents) {
+    QByteArray meaning;
+    for (const auto &intent : intents) {
+        auto standard = entry(intent, "/S");
+        auto condition = entry(intent, "/OutputConditionIdentifier");
+        auto profile = entry(intent, "/DestOutputProfile");
+        // Whoever embeds a profile may call it as he likes.
+        auto what = profile.isStream()     ? profileData(profile)
+                    : condition.isString() ? std::optional(condition.getUTF8Value())
+                                           : std::nullopt;
+        if (!what) {
+            return std::nullopt;
+        }
+        meaning += standard.isName() ? standard.getName() : std::string();
+        meaning += ' ' + QByteArray::number(what->size()) + ' ' + QByteArray::fromStdString(*what);
+    }
+    return meaning;
+}
+
+} // namespace
+
+ImportedOutputIntents importOutputIntents(QPDF &source, ObjectCopier &copier) {
+    auto intents = source.getRoot().getKey("/OutputIntents");
+    const auto meaning = meaningOf(items(intents));
+    return {copier.copyItems(intents), meaning};
+}
+
+void OutputIntentMerger::add(const ImportedOutputIntents &imported) {
+    m_any = m_any || !imported.intents.empty();
+    if (!m_first) {
+        m_first = imported;
+    } else if (!imported.meaning || imported.meaning != m_first->meaning) {
+        m_agree = false;
+    }
+}
+
+void OutputIntentMerger::finish(QPDF &document) const {
+    if (m_first && m_agree) {
+        putItems(document.getRoot(), "/OutputIntents", m_first->intents);
+    }
+}
+
+} // namespace folioforge
