@@ -6,6 +6,7 @@
 #include "support/LimitedRun.h"
 #include "support/PdfProbe.h"
 #include "support/Places.h"
+#include "support/Sanitizer.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
@@ -106,7 +107,7 @@ class LimitsTest : public QObject {
 
     /// The addresses to try: from the least with which the program starts at all.
     static std::vector<qint64> littleMemory() {
-        if (!limitsAddresses()) {
+        if (isSanitized()) {
             return {0};
         }
         constexpr qint64 kMegabyte = 1 << 20;

@@ -4,6 +4,7 @@
 
 #include "filelist/EntryReader.h"
 #include "support/Files.h"
+#include "support/Sanitizer.h"
 #include "support/TestUnit.h"
 
 #include <QDateTime>
@@ -36,33 +37,25 @@ PDFFileInfo withDestination(const QString &name) {
 class ShortMemory {
   public:
     ShortMemory() {
-#ifndef FOLIOFORGE_SANITIZED
         ::getrlimit(RLIMIT_AS, &m_before);
         rlimit limit = m_before;
-        limit.rlim_cur = 1 << 30;
+        limit.rlim_cur = test::isSanitized() ? limit.rlim_cur : 1 << 30;
         ::setrlimit(RLIMIT_AS, &limit);
-#endif
     }
-    ~ShortMemory() {
-#ifndef FOLIOFORGE_SANITIZED
-        ::setrlimit(RLIMIT_AS, &m_before);
-#endif
-    }
+    ~ShortMemory() { ::setrlimit(RLIMIT_AS, &m_before); }
     ShortMemory(const ShortMemory &) = delete;
     ShortMemory &operator=(const ShortMemory &) = delete;
 
   private:
-    [[maybe_unused]] rlimit m_before{};
+    rlimit m_before{};
 };
 
 } // namespace
 
-#ifdef FOLIOFORGE_SANITIZED
 // The sanitizer asks for this name. NOLINTNEXTLINE(bugprone-reserved-identifier,cert-dcl37-c)
 extern "C" const char *__asan_default_options() {
     return "allocator_may_return_null=1:max_allocation_size_mb=1024";
 }
-#endif
 
 class PDFFileInfoTest : public QObject {
     Q_OBJECT

@@ -2,6 +2,8 @@
 
 #include "support/LimitedRun.h"
 
+#include "support/Sanitizer.h"
+
 #include <QFile>
 #include <QTemporaryFile>
 
@@ -25,7 +27,7 @@ void limit(int resource, qint64 amount) {
 }
 
 void apply(const Limits &limits) {
-    limit(RLIMIT_AS, limitsAddresses() ? limits.addressSpace : 0);
+    limit(RLIMIT_AS, isSanitized() ? 0 : limits.addressSpace);
     limit(RLIMIT_NOFILE, limits.descriptors);
     limit(RLIMIT_CPU, limits.processorSeconds);
     limit(RLIMIT_FSIZE, limits.fileSize);
@@ -86,14 +88,6 @@ QByteArray contentOf(QTemporaryFile &file) {
 }
 
 } // namespace
-
-bool limitsAddresses() {
-#ifdef FOLIOFORGE_SANITIZED
-    return false;
-#else
-    return true;
-#endif
-}
 
 LimitedRun runLimited(const QString &program, const QStringList &arguments, const Limits &limits) {
     QList<QByteArray> texts{QFile::encodeName(program)};

@@ -10,15 +10,11 @@ namespace folioforge::test {
 
 /// What a program may take; 0 leaves a resource as it is.
 struct Limits {
-    qint64 addressSpace = 2LL << 30; ///< Bytes; where limitsAddresses().
+    qint64 addressSpace = 2LL << 30; ///< Bytes; not for AddressSanitizer, which takes terabytes.
     int descriptors = 0;
     qint64 fileSize = 0; ///< Bytes.
     int processorSeconds = 120;
 };
-
-/// Whether addresses are limited: not where programs are built with AddressSanitizer, which itself
-/// takes terabytes of them.
-bool limitsAddresses();
 
 /// How a program ended and what it took.
 struct LimitedRun {
