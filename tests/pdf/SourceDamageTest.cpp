@@ -137,6 +137,14 @@ class SourceDamageTest : public QObject, protected MergeCase {
                              "something"_s));
     }
 
+    void damagedPagesAreNamedForEachCopyOfASource() {
+        const QString source = saved(secondPage(zlib("0 0 9 9 re f").chopped(9)));
+        PDFContext context(newPath(), {});
+        const Warnings first = context.addDocument(source).warnings;
+        QCOMPARE(first.size(), 1U);
+        QVERIFY(context.addDocument(source).warnings == first);
+    }
+
     void manyDamagedPagesAreNamedByTheFirst() {
         PdfFixture source = PdfFixture().object(1, kCatalog).pages(4, 8);
         for (int page = 4; page < 12; ++page) {

@@ -12,7 +12,7 @@
 
 #include <algorithm>
 #include <iterator>
-#include <set>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -61,8 +61,11 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     addParts(imported.parts.left, PartKind::Metadata, imported.metadata.isLeft ? 1 : 0);
     imported.warnings = namePartsLeft(imported.parts.left);
     const SourcePages found = readSourcePages(source);
-    ContentCheck contents(source, found.pages);
-    std::set<std::size_t> damaged = pagesThatLackObjects(found.pages);
+    std::optional<ContentCheck> contents;
+    if (!shared.damagedPages) {
+        contents.emplace(source, found.pages);
+        shared.damagedPages = pagesThatLackObjects(found.pages);
+    }
     const Warnings missing = missingEntries(source);
     copier.makePages(found.pages);
     imported.outputIntents = importOutputIntents(source, copier);
@@ -101,9 +104,11 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     if (imported.pages.empty()) {
         imported.warnings.push_back({WarningCode::PdfWithoutPages, u"The document has no pages"_s});
     }
-    damaged.merge(contents.damagedPages());
+    if (contents) {
+        shared.damagedPages->merge(contents->damagedPages());
+    }
     for (const Warnings &damage :
-         {missingPages(found), damagedPages(damaged), missing, repairs(source)}) {
+         {missingPages(found), damagedPages(*shared.damagedPages), missing, repairs(source)}) {
         std::ranges::copy(damage, std::back_inserter(imported.warnings));
     }
     std::ranges::copy(
