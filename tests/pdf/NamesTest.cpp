@@ -306,13 +306,13 @@ class NamesTest : public QObject, protected MergeCase {
         auto threads = document->getRoot().getKey("/Threads");
         QCOMPARE(threads.getArrayNItems(), 2);
         const auto &pages = document->getAllPages();
-        for (const int copy : {0, 1}) {
-            auto thread = threads.getArrayItem(copy);
-            QPDFObjectHandle shown = pages.at(static_cast<std::size_t>(2 * copy + 1));
+        for (const std::size_t copy : {0U, 1U}) {
+            auto thread = threads.getArrayItem(static_cast<int>(copy));
+            QPDFObjectHandle shown = pages.at(2 * copy + 1);
             QCOMPARE(thread.getKey("/F").getKey("/P").getObjGen(), shown.getObjGen());
             QCOMPARE(shown.getKey("/B").getArrayItem(0).getKey("/T").getObjGen(),
                      thread.getObjGen());
-            QPDFObjectHandle first = pages.at(static_cast<std::size_t>(2 * copy));
+            QPDFObjectHandle first = pages.at(2 * copy);
             auto action = first.getKey("/Annots").getArrayItem(0).getKey("/A");
             QCOMPARE(action.getKey("/D").getObjGen(), thread.getObjGen());
         }

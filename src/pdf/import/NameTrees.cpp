@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
-#include <ranges>
 
 namespace folioforge {
 
@@ -32,9 +31,11 @@ NamedObjects numberedScripts(const std::vector<TreeEntries> &sources) {
     const auto digits = static_cast<int>(std::to_string(count).size());
     NamedObjects numbered;
     int number = 0;
-    for (const auto &[name, script] : sources | std::views::join) {
-        const std::string text = QUtil::int_to_string(++number, digits) + ' ' + nameText(name);
-        numbered.emplace(QUtil::utf8_to_utf16(text), script);
+    for (const TreeEntries &scripts : sources) {
+        for (const auto &[name, script] : scripts) {
+            const std::string text = QUtil::int_to_string(++number, digits) + ' ' + nameText(name);
+            numbered.emplace(QUtil::utf8_to_utf16(text), script);
+        }
     }
     return numbered;
 }
@@ -52,7 +53,8 @@ ImportedNameTrees importNameTrees(QPDF &source, SourceNames &names, ObjectCopier
         const bool isScripts = key == kScripts;
         if (!isScripts) {
             std::vector<QPDFObjectHandle> own;
-            std::ranges::copy(entries | std::views::keys, std::back_inserter(own));
+            std::ranges::transform(entries, std::back_inserter(own),
+                                   [](const auto &named) { return named.first; });
             names.declare(key, own);
         }
         for (const auto &[name, object] : entries) {

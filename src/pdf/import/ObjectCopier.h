@@ -90,9 +90,9 @@ class ObjectCopier {
     QPDFObjectHandle copyWith(QPDFObjectHandle dictionary, const std::string &key,
                               const QPDFObjectHandle &value);
     QPDFObjectHandle copyStructureReference(QPDFObjectHandle reference);
-    QPDFObjectHandle copyElement(QPDFObjectHandle place);
+    QPDFObjectHandle copyElement(QPDFObjectHandle element);
     QPDFObjectHandle copyElementPlace(QPDFObjectHandle place);
-    QPDFObjectHandle follow(QPDFObjectHandle object, Fill fill);
+    QPDFObjectHandle follow(const QPDFObjectHandle &object, Fill fill);
     void fillStream(PendingStream &stream);
 
     QPDF &m_source;

@@ -95,27 +95,25 @@ QPDFObjectHandle ObjectCopier::copyNumbered(QPDFObjectHandle destination) {
     return copied;
 }
 
-/// An element, or an array that begins with one as destinations do. Strings name an element of
-/// another file.
+/// An element, or an array that begins with one as destinations do.
 QPDFObjectHandle ObjectCopier::copyStructureReference(QPDFObjectHandle reference) {
     if (!reference.isArray()) {
-        return reference.isString() ? copy(reference) : known(reference);
+        return copyElement(reference);
     }
     const bool isEmpty = reference.getArrayNItems() == 0;
-    return isEmpty || copyElement(reference).isNull()
+    return isEmpty || copyElement(reference.getArrayItem(0)).isNull()
                ? QPDFObjectHandle::newNull()
                : follow(reference, &ObjectCopier::copyElementPlace);
 }
 
-/// The element with which an array begins.
-QPDFObjectHandle ObjectCopier::copyElement(QPDFObjectHandle place) {
-    auto element = place.getArrayItem(0);
+/// Strings name an element of another file.
+QPDFObjectHandle ObjectCopier::copyElement(QPDFObjectHandle element) {
     return element.isString() ? copy(element) : known(element);
 }
 
 QPDFObjectHandle ObjectCopier::copyElementPlace(QPDFObjectHandle place) {
     auto copied = copyArray(place);
-    copied.setArrayItem(0, copyElement(place));
+    copied.setArrayItem(0, copyElement(place.getArrayItem(0)));
     return copied;
 }
 
@@ -136,7 +134,7 @@ QPDFObjectHandle ObjectCopier::copyWith(QPDFObjectHandle dictionary, const std::
 
 /// The copy of what refers to a page or a file by its number or name; `fill` makes it. Any number
 /// of links may share an indirect one.
-QPDFObjectHandle ObjectCopier::follow(QPDFObjectHandle object, Fill fill) {
+QPDFObjectHandle ObjectCopier::follow(const QPDFObjectHandle &object, Fill fill) {
     if (!object.isIndirect()) {
         return (this->*fill)(object);
     }
