@@ -129,7 +129,7 @@ class OtherProgramsTest : public QObject {
     QString merged(const QStringList &sources) {
         PDFContext::Settings settings;
         settings.flush = Flush::Never;
-        const QString path = m_folder.filePath(u"merged%1.pdf"_s.arg(++m_number));
+        QString path = m_folder.filePath(u"merged%1.pdf"_s.arg(++m_number));
         PDFContext context(path, std::move(settings));
         for (const QString &source : sources) {
             context.addDocument(source);

@@ -18,7 +18,7 @@ bool isNew(const QPDFObjectHandle &object, std::set<QPDFObjGen> &visited) {
 
 /// The field at the top of `widget`; null where that was visited before or nothing on the way says
 /// what kind of field it is.
-QPDFObjectHandle rootOf(QPDFObjectHandle widget, std::set<QPDFObjGen> &visited) {
+QPDFObjectHandle rootOf(const QPDFObjectHandle &widget, std::set<QPDFObjGen> &visited) {
     bool hasType = false;
     for (auto field = widget; field.isIndirect() && isNew(field, visited);) {
         hasType = hasType || field.getKey("/FT").isName();

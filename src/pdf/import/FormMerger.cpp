@@ -76,9 +76,9 @@ Renames FormMerger::renameFields(const ImportedForm &form) {
         // Two fields of one name in one source are one field to its readers, and stay so.
         auto unique = names.find(name);
         if (unique == names.end()) {
-            const auto isTaken = [&](const std::string &candidate) {
+            const auto isTaken = [&, &text = name](const std::string &candidate) {
                 return m_names.contains(candidate) ||
-                       (candidate != name && own.contains(candidate));
+                       (candidate != text && own.contains(candidate));
             };
             unique = names.emplace(name, freeName(name, m_nameNumbers, isTaken)).first;
         }
