@@ -8,6 +8,7 @@
 
 #include <qpdf/QPDF.hh>
 
+#include <QStringDecoder>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
@@ -68,10 +69,35 @@ QString xmlText(const QString &text) {
     return result;
 }
 
+/// A packet as text; nothing where it is in no encoding that XMP has.
+std::optional<QString> decoded(const QByteArray &packet) {
+    const auto encoding = QStringConverter::encodingForData(packet, u'<');
+    QStringDecoder decoder(encoding.value_or(QStringConverter::Utf8));
+    QString text = decoder.decode(packet);
+    while (text.endsWith(QChar(0))) { // Some writers pad with zeros.
+        text.chop(1);
+    }
+    return decoder.hasError() ? std::nullopt : std::optional(text);
+}
+
+/// Whether the time to read a packet grows with its length alone. The reader compares each
+/// attribute of an element with all others, those that a document type gives it among them.
+bool isLinear(const QString &packet) {
+    constexpr int kMaxAttributes = 1000;
+    int attributes = 0; // At most, since the last element began.
+    for (const QChar unit : packet) {
+        attributes = unit == u'<' ? 0 : attributes + (unit == u'=' ? 1 : 0);
+        if (attributes > kMaxAttributes) {
+            return false;
+        }
+    }
+    return !packet.contains("<!DOCTYPE"_L1);
+}
+
 /// Copies a packet token by token, with the names as they are spelled.
 class XmpRewriter {
   public:
-    XmpRewriter(const QByteArray &packet, const DocumentInfo &info, const Claims &kept)
+    XmpRewriter(const QString &packet, const DocumentInfo &info, const Claims &kept)
         : m_reader(packet)
         , m_writer(&m_result)
         , m_info(info)
@@ -206,7 +232,7 @@ QString Claims::pdfUAName() const {
     return pdfUA.isEmpty() ? QString() : u"PDF/UA-"_s + pdfUA;
 }
 
-std::optional<QByteArray> readXmpPacket(QPDF &document) {
+std::optional<QString> readXmpPacket(QPDF &document) {
     constexpr std::size_t kMaxBytes = 4 << 20;
     auto metadata = document.getRoot().getKey("/Metadata");
     if (!metadata.isStream() || items(metadata.getDict().getKey("/Filter")).size() > 1) {
@@ -217,14 +243,11 @@ std::optional<QByteArray> readXmpPacket(QPDF &document) {
     if (!metadata.pipeStreamData(&collect, nullptr, 0, qpdf_dl_generalized, true, false)) {
         return std::nullopt;
     }
-    const auto zero = packet.find('\0');
-    if (zero != std::string::npos && packet.find('>', zero) == std::string::npos) {
-        packet.resize(zero); // Some writers pad with zeros.
-    }
-    return QByteArray::fromStdString(packet);
+    const auto text = decoded(QByteArray::fromStdString(packet));
+    return text && isLinear(*text) ? text : std::nullopt;
 }
 
-std::optional<Claims> readClaims(const QByteArray &packet) {
+std::optional<Claims> readClaims(const QString &packet) {
     Claims claims;
     bool hasRdf = false;
     bool isWhole = true;
@@ -254,7 +277,7 @@ Claims claimsOf(QPDF &document) {
     return packet ? readClaims(*packet).value_or(Claims()) : Claims();
 }
 
-QByteArray rewrittenXmp(const QByteArray &packet, const DocumentInfo &info, const Claims &kept) {
+QByteArray rewrittenXmp(const QString &packet, const DocumentInfo &info, const Claims &kept) {
     return XmpRewriter(packet, info, kept).run();
 }
 

@@ -26,11 +26,11 @@ struct Claims {
 };
 
 /// The XMP packet (ISO 16684-1) of the catalog of `document`; nothing where there is none, or where
-/// it is damaged, longer than a few megabytes or compressed more than once.
-std::optional<QByteArray> readXmpPacket(QPDF &document);
+/// it is damaged, longer than a few megabytes, compressed more than once, or would take for ever.
+std::optional<QString> readXmpPacket(QPDF &document);
 
 /// The claims of a packet; nothing where it is not well formed.
-std::optional<Claims> readClaims(const QByteArray &packet);
+std::optional<Claims> readClaims(const QString &packet);
 
 /// What the metadata of `document` claims.
 Claims claimsOf(QPDF &document);
@@ -38,6 +38,6 @@ Claims claimsOf(QPDF &document);
 /// A well-formed packet brought into line: it says of title, author, subject, keywords, programs
 /// and dates what `info` says, with its creation date valid, and claims what `kept` does. All else
 /// stays.
-QByteArray rewrittenXmp(const QByteArray &packet, const DocumentInfo &info, const Claims &kept);
+QByteArray rewrittenXmp(const QString &packet, const DocumentInfo &info, const Claims &kept);
 
 } // namespace folioforge

@@ -175,6 +175,13 @@ class MetadataTest : public QObject, protected MergeCase {
         QTest::newRow("another vocabulary") << QByteArray("<html/>");
         QTest::newRow("unknown entity") << packet({}, "<dc:rights>&who;</dc:rights>");
         QTest::newRow("empty") << QByteArray();
+        QTest::newRow("another encoding") << packet({}, "<dc:rights>\xe4</dc:rights>");
+        QTest::newRow("document type") << "<!DOCTYPE x>" + packet({});
+        QByteArray attributes;
+        for (int i = 0; i < 2000; ++i) {
+            attributes += "a" + QByteArray::number(i) + "=\"\" ";
+        }
+        QTest::newRow("endless element") << packet(attributes);
         QTest::newRow("too long") << packet({}) + QByteArray(5 << 20, ' ') + "<?end?>";
     }
     void metadataThatCannotBeReadIsNamed() {

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <string_view>
 
 using namespace Qt::StringLiterals;
@@ -42,7 +43,8 @@ bool saysMoreThanProperties(QPDF &source) {
     if (!packet) {
         return true;
     }
-    std::string_view rest(packet->constData(), static_cast<std::size_t>(packet->size()));
+    const std::string text = packet->toStdString();
+    std::string_view rest = text;
     for (auto at = rest.find(kDeclaration); at != std::string_view::npos;
          at = rest.find(kDeclaration)) {
         rest.remove_prefix(std::min(rest.find_first_of(kQuotes, at), rest.size() - 1) + 1);

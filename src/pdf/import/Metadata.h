@@ -6,7 +6,7 @@
 #include "pdf/XmpPacket.h"
 #include "pdf/import/LeftParts.h"
 
-#include <QByteArray>
+#include <QString>
 
 #include <optional>
 #include <vector>
@@ -19,7 +19,7 @@ struct ImportOptions;
 
 /// The metadata of a source that is all of the document: its XMP packet and what that claims.
 struct ImportedMetadata {
-    QByteArray packet;   ///< Well formed; empty where there is none.
+    QString packet;      ///< Well formed; empty where there is none.
     Claims claims;       ///< Those that the document that is made keeps.
     bool isLeft = false; ///< There is a packet, and it cannot be read.
 };
