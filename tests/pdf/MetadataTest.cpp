@@ -124,16 +124,19 @@ class MetadataTest : public QObject, protected MergeCase {
     void allElseStaysAsItIsSpelled() {
         const QByteArray own = "<own:list xmlns:own=\"http://example.org/own/\"><r:Bag><r:li "
                                "own:deep=\"a&amp;b\">one &lt; two</r:li></r:Bag></own:list>";
+        const QByteArray deep = "<xmp:ModifyDate>kept</xmp:ModifyDate>";
         const QByteArray history = "<m:History><r:Seq><r:li><r:Description "
                                    "xmp:CreatorTool=\"kept\"/></r:li></r:Seq></m:History>";
         const Result result = converted(withMetadata(
             packet("xmlns:m=\"http://ns.adobe.com/xap/1.0/mm/\" m:DocumentID=\"uuid:7\" "
                    "xmp:Rating=\"5\"",
-                   own + history + "<dc:rights>all</dc:rights>")));
+                   own + history + "<m:DerivedFrom r:parseType=\"Resource\">" + deep +
+                       "</m:DerivedFrom>" + "<dc:rights>all</dc:rights>")));
         const QByteArray written = packetOf(result.path);
         for (const QByteArray &part :
              {own, QByteArray("m:DocumentID=\"uuid:7\""), QByteArray("xmp:Rating=\"5\""),
-              QByteArray("xmp:CreatorTool=\"kept\""), QByteArray("<dc:rights>all</dc:rights>")}) {
+              QByteArray("xmp:CreatorTool=\"kept\""), deep,
+              QByteArray("<dc:rights>all</dc:rights>")}) {
             QVERIFY2(written.contains(part), written.constData());
         }
         QCOMPARE(result.warnings, QStringList());
