@@ -39,11 +39,9 @@ bool isPrintable(char32_t character) {
 
 QString printable(const QString &text) {
     QString result;
-    const auto characters = text.toUcs4();
+    const auto characters = text.toUcs4(); // Half a character becomes the replacement character.
     for (const char32_t character : characters) {
-        if (QChar::isSurrogate(character)) {
-            result += QChar::ReplacementCharacter;
-        } else if (isPrintable(character)) {
+        if (isPrintable(character)) {
             result += QChar::fromUcs4(character);
         } else {
             result += spelledOut(character);

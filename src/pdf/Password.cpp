@@ -54,9 +54,6 @@ std::variant<QByteArray, QString> prepare(const QString &password) {
     if (!password.isValidUtf16()) {
         return u"The password contains half a character"_s;
     }
-    if (password.contains(QChar(u'\0'))) {
-        return u"The password contains a character that passwords cannot have"_s;
-    }
     const auto prepared = saslprep(password);
     if (const auto *status = std::get_if<UErrorCode>(&prepared)) {
         return *status == U_STRINGPREP_CHECK_BIDI_ERROR
