@@ -112,6 +112,12 @@ class ArgumentsTest : public QObject {
         QCOMPARE(image("-1x5"), QSizeF(-1, 5));
     }
 
+    void theWordImageTakesBackASize() {
+        const Arguments arguments =
+            good({"--image-page-size", "5x6", "--image-page-size", "image", "a"});
+        QCOMPARE(arguments.options.imagePage.sizeMode, int(ImagePageFollowsImage));
+    }
+
     void marginsAreFourNumbersOrOneForAll() {
         const auto margins = [](const char *text) {
             return topRightBottomLeft(
@@ -120,6 +126,7 @@ class ArgumentsTest : public QObject {
         QCOMPARE(margins("1,2,3,4"), (std::array<qint64, 4>{1, 2, 3, 4}));
         QCOMPARE(margins("9"), (std::array<qint64, 4>{9, 9, 9, 9}));
         QCOMPARE(margins("-1"), (std::array<qint64, 4>{-1, -1, -1, -1}));
+        QCOMPARE(margins("+7"), (std::array<qint64, 4>{7, 7, 7, 7}));
         QCOMPARE(
             topRightBottomLeft(good({"--text-margins", "5,6,7,8", "a"}).options.textPage.margins),
             (std::array<qint64, 4>{5, 6, 7, 8}));
@@ -172,6 +179,7 @@ class ArgumentsTest : public QObject {
         row("value too many", {"--json=yes", "a"}, "--json");
         row("word", {"--compress", "300m", "a"}, "300m");
         row("page size", {"--text-page-size", "A6", "a"}, "A6");
+        row("three sides", {"--image-page-size", "1x2x3", "a"}, "1x2x3");
         row("half a size", {"--image-page-size", "100x", "a"}, "100x");
         row("size with unit", {"--image-page-size", "100x200pt", "a"}, "100x200pt");
         row("three margins", {"--text-margins", "1,2,3", "a"}, "1,2,3");

@@ -34,7 +34,8 @@ class ConsoleTest : public QObject {
 
     void charactersThatMoveTheCursorAreSpelledOut() {
         QCOMPARE(printable(u"a\x1b[2Jb\nc\td\x7f"_s), u"a\\x1b[2Jb\\x0ac\\x09d\\x7f"_s);
-        QCOMPARE(printable(u"\u0085\u2028\u202Etxt"_s), u"\\u{85}\\u{2028}\\u{202e}txt"_s);
+        QCOMPARE(printable(u"\u0085\u2028\u2029\u202Etxt"_s),
+                 u"\\u{85}\\u{2028}\\u{2029}\\u{202e}txt"_s);
     }
 
     void joinersOfLettersAndEmojiStay() {

@@ -17,6 +17,30 @@
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 
+namespace {
+
+/// A disk that moves no bytes and names no reason. Whoever asks for ever is told another one.
+class StandingDisk final : public SystemCalls {
+  public:
+    ssize_t pread(int, void *, std::size_t, off_t) override { return answer(); }
+    ssize_t pwrite(int fd, const void *data, std::size_t size, off_t offset) override {
+        return takesBytes ? SystemCalls::pwrite(fd, data, size, offset) : answer();
+    }
+
+    bool takesBytes = false;
+
+  private:
+    ssize_t answer() {
+        constexpr int kPatience = 1000;
+        errno = ++m_asked > kPatience ? EDOM : 0;
+        return errno == 0 ? 0 : -1;
+    }
+
+    int m_asked = 0;
+};
+
+} // namespace
+
 class SpoolTest : public QObject {
     Q_OBJECT
 
@@ -112,6 +136,19 @@ class SpoolTest : public QObject {
         qInfo("%d faults tried", tried);
     }
 
+    void aDiskThatTakesNoBytesIsFull() {
+        StandingDisk disk;
+        QCOMPARE(keepAndGiveBack(disk), u"Cannot write a temporary file: "_s +
+                                            QString::fromLocal8Bit(std::strerror(ENOSPC)));
+    }
+
+    void bytesThatAreGoneAreAnError() {
+        StandingDisk disk;
+        disk.takesBytes = true;
+        QCOMPARE(keepAndGiveBack(disk),
+                 u"Cannot read a temporary file: "_s + QString::fromLocal8Bit(std::strerror(EIO)));
+    }
+
     void whatWasKeptIsThereWhenTheDiskFillsUpHalfWay() {
         test::FaultyCalls calls;
         constexpr int kFirstWrite = 2; // After the file was made.
@@ -164,6 +201,18 @@ class SpoolTest : public QObject {
             QCOMPARE(spool.at(places.at(static_cast<std::size_t>(c))).toByteArray(),
                      QByteArray(kPiece, c));
         }
+    }
+
+    void whatIsCutOffInMemoryLeavesTheRest() {
+        Spool spool;
+        const auto first = spool.add(QByteArray("first"));
+        const qint64 size = spool.size();
+        spool.add(QByteArray("second"));
+        spool.cutTo(size);
+        QCOMPARE(spool.size(), size);
+        const auto third = spool.add(QByteArray("third"));
+        QCOMPARE(spool.at(first).toByteArray(), QByteArray("first"));
+        QCOMPARE(spool.at(third).toByteArray(), QByteArray("third"));
     }
 
     void theFileOfWhatIsCutOffGetsSmaller() {

@@ -135,6 +135,16 @@ class JpegDamageTest : public QObject {
         QVERIFY(!toPdfImage(write(damaged)).warnings.empty());
     }
 
+    void restartMarkerWhereNoneMayStandIsTold() {
+        QByteArray damaged = plainPicture();
+        const qsizetype coded = codedDataOf(damaged);
+        qsizetype at = coded + (damaged.size() - coded) / 2;
+        while (damaged.at(at - 1) == '\xFF') {
+            ++at;
+        }
+        QVERIFY(!toPdfImage(write(damaged.insert(at, "\xFF\xD0"))).warnings.empty());
+    }
+
     void lostStretchOfCodedDataIsTold() {
         QByteArray damaged = pictureWithRestarts();
         const qsizetype first = damaged.indexOf("\xFF\xD1");

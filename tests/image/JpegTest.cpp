@@ -22,7 +22,8 @@ QByteArray profileFor(const char *space, qsizetype size) {
     return profile;
 }
 
-QByteArray exifBlock(int orientation, quint32 dpi, bool littleEndian) {
+/// `density` pixels per `unit`: 0 names none, 2 is an inch and 3 a centimetre.
+QByteArray exifBlock(int orientation, quint32 density, bool littleEndian, int unit = 0) {
     QByteArray block = littleEndian ? QByteArray("II*\0", 4) : QByteArray("MM\0*", 4);
     const auto half = [&](int value) {
         QByteArray bytes(2, '\0');
@@ -36,12 +37,17 @@ QByteArray exifBlock(int orientation, quint32 dpi, bool littleEndian) {
         block += bytes;
     };
     word(8);
-    half(3);
+    const int entries = unit == 0 ? 3 : 4;
+    const quint32 densityAt = 14 + 12 * quint32(entries);
+    half(entries);
     half(274), half(3), word(1), half(orientation), half(0);
-    half(282), half(5), word(1), word(50);
-    half(283), half(5), word(1), word(50);
+    half(282), half(5), word(1), word(densityAt);
+    half(283), half(5), word(1), word(densityAt);
+    if (unit != 0) {
+        half(296), half(3), word(1), half(unit), half(0);
+    }
     word(0);
-    word(dpi), word(1);
+    word(density), word(1);
     return QByteArray("Exif\0\0", 6) + block;
 }
 
@@ -99,6 +105,12 @@ class JpegTest : public QObject {
             QCOMPARE(header.verticalDpi, 240.0);
             QCOMPARE(header.width, 24); // Stored pixels, whatever way up.
         }
+    }
+
+    void exifDensityMayBePerCentimetre() {
+        const QByteArray exif = segment(0xE1, exifBlock(1, 100, false, 3));
+        QCOMPARE(readImageHeader(write(photoWith(exif))).horizontalDpi, 254.0);
+        QCOMPARE(readImageHeader(write(photoWith(exif))).verticalDpi, 254.0);
     }
 
     void exifCountsWhereJfifStatesNoDensity() {

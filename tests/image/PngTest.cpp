@@ -1,11 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "error/Error.h"
 #include "image/Bytes.h"
+#include "image/RowFilter.h"
 #include "support/TestUnit.h"
 
 #include <QTemporaryDir>
 #include <QTest>
+#include <QtEndian>
+
+#include <array>
+#include <cstdlib>
+#include <random>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -17,10 +24,12 @@ class PngTest : public QObject {
   private Q_SLOTS:
     void transparentPaletteKeepsItsRows() {
         QImage picture(QSize(5, 3), QImage::Format_Indexed8);
-        picture.setColorTable({qRgba(255, 0, 0, 255), qRgba(0, 255, 0, 128), qRgba(0, 0, 255, 0)});
+        // The file states no opacity of the last colour, which is opaque.
+        picture.setColorTable({qRgba(255, 0, 0, 255), qRgba(0, 255, 0, 128), qRgba(0, 0, 255, 0),
+                               qRgba(9, 9, 9, 255)});
         for (int y = 0; y < 3; ++y) {
             for (int x = 0; x < 5; ++x) {
-                picture.setPixel(x, y, static_cast<uint>((x + y) % 3));
+                picture.setPixel(x, y, static_cast<uint>((x + y) % 4));
             }
         }
         const QString path = m_folder.filePath(u"palette.png"_s);
@@ -34,7 +43,108 @@ class PngTest : public QObject {
         QCOMPARE(qGray(mask.pixel(0, 0)), 255);
         QCOMPARE(qGray(mask.pixel(1, 0)), 128);
         QCOMPARE(qGray(mask.pixel(2, 0)), 0);
-        QCOMPARE(qGray(mask.pixel(4, 2)), 255);
+        QCOMPARE(qGray(mask.pixel(3, 0)), 255);
+        QCOMPARE(qGray(mask.pixel(4, 2)), 0);
+    }
+
+    void greysOfFewBitsAreRead_data() {
+        QTest::addColumn<int>("bits");
+        for (const int bits : {1, 2, 4}) {
+            QTest::addRow("%d", bits) << bits;
+        }
+    }
+    void greysOfFewBitsAreRead() {
+        QFETCH(const int, bits);
+        const int whitest = (1 << bits) - 1;
+        // Black, the darkest grey, white and black again, in as many bytes as they take.
+        const quint32 four = ((1U << bits) | static_cast<quint32>(whitest)) << bits;
+        QByteArray row(5, '\0'); // The number of its filter stands first.
+        qToBigEndian(four << (32 - 4 * bits), row.data() + 1);
+        const PdfImage image =
+            toPdfImage(write(png(QSize(4, 1), bits, 0, row.first(1 + (4 * bits + 7) / 8))));
+        QCOMPARE(image.bitsPerComponent, bits);
+        const QImage shown = decoded(image);
+        const QList<int> greys{0, 255 / whitest, 255, 0};
+        for (int x = 0; x < 4; ++x) {
+            QCOMPARE(qGray(shown.pixel(x, 0)), greys[x]);
+        }
+    }
+
+    void anyBytesInPaethsRowsAreReadAsByLibpng_data() {
+        QTest::addColumn<int>("bits");
+        QTest::addColumn<int>("color");
+        QTest::newRow("colour and opacity") << 8 << 6;
+        QTest::newRow("deep colour and opacity") << 16 << 6;
+        QTest::newRow("grey and opacity") << 8 << 4;
+        QTest::newRow("deep grey and opacity") << 16 << 4;
+    }
+    void anyBytesInPaethsRowsAreReadAsByLibpng() {
+        QFETCH(const int, bits);
+        QFETCH(const int, color);
+        constexpr QSize kSize(64, 64);
+        std::minstd_rand numbers(1);
+        QByteArray rows;
+        for (int y = 0; y < kSize.height(); ++y) {
+            rows += filteredRow(4, kSize.width() * (color == 6 ? 4 : 2) * bits / 8, numbers);
+        }
+        const QByteArray bytes = png(kSize, bits, color, rows);
+        const QImage expected = QImage::fromData(bytes).convertToFormat(QImage::Format_ARGB32);
+        const PdfImage image = toPdfImage(write(bytes));
+        const QImage opaque = decoded(image);
+        const QImage alpha = decoded(*image.softMask);
+        // Qt may round sixteen bits to eight in another way.
+        const auto isLike = [&](int one, int other) {
+            return std::abs(one - other) <= (bits == 16 ? 1 : 0);
+        };
+        for (int y = 0; y < kSize.height(); ++y) {
+            for (int x = 0; x < kSize.width(); ++x) {
+                const QColor shown = opaque.pixelColor(x, y);
+                const QColor wanted = expected.pixelColor(x, y);
+                QVERIFY(isLike(qGray(alpha.pixel(x, y)), wanted.alpha()));
+                QVERIFY(isLike(shown.red(), wanted.red()));
+                QVERIFY(isLike(shown.green(), wanted.green()));
+                QVERIFY(isLike(shown.blue(), wanted.blue()));
+            }
+        }
+    }
+
+    void interlacedRowsAreReadAsByLibpng_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<int>("bits");
+        QTest::addColumn<int>("color");
+        for (const int bits : {1, 2, 4, 8}) {
+            QTest::addRow("grey of %d bits", bits) << QSize(13, 11) << bits << 0;
+        }
+        QTest::newRow("without some passes") << QSize(3, 2) << 4 << 0;
+        QTest::newRow("colour") << QSize(13, 11) << 8 << 2;
+    }
+    void interlacedRowsAreReadAsByLibpng() {
+        QFETCH(const QSize, size);
+        QFETCH(const int, bits);
+        QFETCH(const int, color);
+        const int pixelBits = bits * (color == 2 ? 3 : 1);
+        std::minstd_rand numbers(1);
+        QByteArray rows;
+        // The first column and row of each pass, and how far its pixels are apart.
+        for (const auto &[left, top, right, down] :
+             {std::array{0, 0, 8, 8}, std::array{4, 0, 8, 8}, std::array{0, 4, 4, 8},
+              std::array{2, 0, 4, 4}, std::array{0, 2, 2, 4}, std::array{1, 0, 2, 2},
+              std::array{0, 1, 1, 2}}) {
+            const int columns = (size.width() - left + right - 1) / right;
+            for (int y = top; columns > 0 && y < size.height(); y += down) {
+                rows += filteredRow(1, (columns * pixelBits + 7) / 8, numbers);
+            }
+        }
+        const QByteArray bytes = png(size, bits, color, rows, Rows::Interlaced);
+        const QImage expected = QImage::fromData(bytes).convertToFormat(QImage::Format_RGB32);
+        QVERIFY(!expected.isNull());
+        QCOMPARE(decoded(toPdfImage(write(bytes))).convertToFormat(QImage::Format_RGB32), expected);
+    }
+
+    void rowsThatAreNotAllThereAreAnError() {
+        constexpr int kFiltered = 2 * (1 + 5);
+        QCOMPARE(unfilterRows(QByteArray(kFiltered, '\0'), 2, 5, 1), QByteArray(10, '\0'));
+        QVERIFY_THROWS_EXCEPTION(Error, unfilterRows(QByteArray(kFiltered - 1, '\0'), 2, 5, 1));
     }
 
     void framesOfAnAnimationAreNamed() {
@@ -160,6 +270,30 @@ class PngTest : public QObject {
 
   private:
     QTemporaryDir m_folder;
+
+    /// A row of `size` random bytes behind the number of their filter.
+    static QByteArray filteredRow(char filter, int size, std::minstd_rand &numbers) {
+        QByteArray row(1, filter);
+        for (int i = 0; i < size; ++i) {
+            row += static_cast<char>(numbers() >> 8);
+        }
+        return row;
+    }
+
+    enum class Rows : char { InOrder, Interlaced };
+
+    /// A PNG file of `rows` that are filtered already; `color` is the number of the colour type.
+    static QByteArray png(QSize size, int bits, int color, const QByteArray &rows,
+                          Rows order = Rows::InOrder) {
+        QByteArray header(13, '\0');
+        qToBigEndian(qint32(size.width()), header.data());
+        qToBigEndian(qint32(size.height()), header.data() + 4);
+        header[8] = static_cast<char>(bits);
+        header[9] = static_cast<char>(color);
+        header[12] = static_cast<char>(order);
+        return "\x89PNG\r\n\x1A\n" + pngChunk("IHDR", header) +
+               pngChunk("IDAT", qCompress(rows).mid(4)) + pngChunk("IEND", {});
+    }
 
     QString write(const QByteArray &bytes) {
         return writeFile(m_folder.filePath(u"picture.png"_s), bytes);

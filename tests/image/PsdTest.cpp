@@ -88,6 +88,80 @@ class PsdTest : public QObject {
         QCOMPARE(decoded(image).pixel(0, 0), qRgb(10, 20, 40));
     }
 
+    void whiteBehindColorsIsTakenAway() {
+        // One layer, whose colours lie on white: red 0, green 100 and blue 255 of half opacity, and
+        // black of a quarter.
+        const QByteArray layers = QByteArray::fromHex("00000002ffff");
+        const auto like = [&](const char *planes) {
+            return decoded(
+                toPdfImage(psd({4, 2, 1, 8, 3, {}, QByteArray::fromHex(planes), layers})));
+        };
+        const QImage onWhite = like("7fbf b1bf ffbf 8040");
+        QCOMPARE(onWhite.pixel(0, 0), qRgb(0, 100, 255));
+        QCOMPARE(onWhite.pixel(1, 0), qRgb(0, 0, 0));
+        // A pixel of half opacity that is darker than on white.
+        const QImage straight = like("3232 3232 3232 8080");
+        QCOMPARE(straight.pixel(0, 0), qRgb(50, 50, 50));
+    }
+
+    void oneColorOfAPaletteMayBeTransparent() {
+        QByteArray palette; // All reds, then all greens, then all blues.
+        for (int i = 0; i < 256; ++i) {
+            palette += static_cast<char>(i);
+        }
+        for (int i = 0; i < 256; ++i) {
+            palette += static_cast<char>(255 - i);
+        }
+        palette += QByteArray(256, '\7');
+        const PdfImage image = toPdfImage(psd(
+            {1, 2, 1, 8, 2, resource(1047, bigEndian(quint16(2))), "\1\2", QByteArray(), palette}));
+        QCOMPARE(decoded(image).pixel(0, 0), qRgb(1, 254, 7));
+        QVERIFY(image.softMask != nullptr);
+        const QImage mask = decoded(*image.softMask);
+        QCOMPARE(qGray(mask.pixel(0, 0)), 255);
+        QCOMPARE(qGray(mask.pixel(1, 0)), 0);
+    }
+
+    void opacityOf32BitsIsNoLight() {
+        const auto fraction = [](float value) { return bigEndian(std::bit_cast<quint32>(value)); };
+        const PdfImage image = toPdfImage(
+            psd({2, 2, 1, 32, 1, {}, fraction(1) + fraction(1) + fraction(0.5F) + fraction(1)}));
+        QVERIFY(image.softMask != nullptr);
+        const QImage mask = decoded(*image.softMask).convertToFormat(QImage::Format_Grayscale16);
+        const auto *samples = reinterpret_cast<const quint16 *>(mask.constScanLine(0));
+        QVERIFY(qAbs(samples[0] - 32768) <= 1);
+        QCOMPARE(samples[1], quint16(65535));
+    }
+
+    void packedRowsAreUnpacked_data() {
+        QTest::addColumn<bool>("isBig");
+        QTest::addColumn<QByteArray>("lengths");
+        QTest::newRow("PSD") << false << QByteArray::fromHex("0006 0004");
+        QTest::newRow("PSB") << true << QByteArray::fromHex("00000006 00000004");
+    }
+    void packedRowsAreUnpacked() {
+        QFETCH(const bool, isBig);
+        QFETCH(const QByteArray, lengths);
+        // Two bytes as they are, nothing, and three times one; then one as it is and four of one.
+        const QByteArray rows =
+            QByteArray::fromHex("010a0b80fe0c") + QByteArray::fromHex("0001fd02");
+        Parts parts{1, 5, 2, 8, 1, {}, lengths + rows};
+        parts.compression = 1;
+        parts.isBig = isBig;
+        const QImage picture = decoded(toPdfImage(psd(parts)));
+        QByteArray greys;
+        for (int i = 0; i < 10; ++i) {
+            greys += static_cast<char>(qGray(picture.pixel(i % 5, i / 5)));
+        }
+        QCOMPARE(greys.toHex(), QByteArray("0a0b0c0c0c0102020202"));
+    }
+
+    void unknownCompressionIsRefused() {
+        Parts parts{1, 2, 1, 8, 1, {}, "abcdef"};
+        parts.compression = 2;
+        QCOMPARE(refusalOf(psd(parts)), u"The Photoshop file's compression is unknown"_s);
+    }
+
     void layersWithoutAMergedImageAreRefused() {
         const auto version = [](char hasMerged) {
             return resource(1057, bigEndian(quint32(1)) + hasMerged + QByteArray(8, '\0'));
@@ -127,16 +201,21 @@ class PsdTest : public QObject {
         QByteArray resources;
         QByteArray pixels;
         QByteArray layers = {};
+        QByteArray palette = {};
+        int compression = 0;
+        bool isBig = false;
     };
 
     QString psd(const Parts &parts) {
-        QByteArray bytes = "8BPS" + bigEndian(quint16(1)) + QByteArray(6, '\0') +
+        QByteArray bytes = "8BPS" + bigEndian(quint16(parts.isBig ? 2 : 1)) + QByteArray(6, '\0') +
                            bigEndian(quint16(parts.channels)) + bigEndian(quint32(parts.height)) +
                            bigEndian(quint32(parts.width)) + bigEndian(quint16(parts.depth)) +
-                           bigEndian(quint16(parts.mode)) + bigEndian(quint32(0));
+                           bigEndian(quint16(parts.mode));
+        bytes += bigEndian(quint32(parts.palette.size())) + parts.palette;
         bytes += bigEndian(quint32(parts.resources.size())) + parts.resources;
+        bytes += QByteArray(parts.isBig ? 4 : 0, '\0');
         bytes += bigEndian(quint32(parts.layers.size())) + parts.layers;
-        bytes += bigEndian(quint16(0)) + parts.pixels;
+        bytes += bigEndian(quint16(parts.compression)) + parts.pixels;
         return writeFile(m_folder.filePath(u"picture.psd"_s), bytes);
     }
 

@@ -49,6 +49,28 @@ class TgaTest : public QObject {
         QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff00ff000000ff00ff000000ff00"));
     }
 
+    void colorMapHasIndexesOfTwoBytes() {
+        const QByteArray rest =
+            QByteArray::fromHex("0000ff00ff00") + QByteArray("\0\1\1\1\0\1\1\1\0\1\1\1", 12);
+        const PdfImage image =
+            toPdfImage(tga("01010001020018", 16, 0x20, rest)); // From number 256.
+        QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff00ff000000ff00ff000000ff00"));
+    }
+
+    void aCommentBeforeThePixelsIsSkipped() {
+        QByteArray bytes =
+            bytesOf(tga("00030000000000", 8, 0x20, QByteArray::fromHex("616263000a141e28ff")));
+        bytes[0] = 3;
+        const PdfImage image = toPdfImage(writeFile(m_folder.filePath(u"comment.tga"_s), bytes));
+        QCOMPARE(qGray(decoded(image).pixel(1, 0)), 10);
+    }
+
+    void whatIsSaidOfAColorMapThatIsNotThereIsIgnored() {
+        const PdfImage image =
+            toPdfImage(tga("00030000020018", 8, 0x20, QByteArray::fromHex("000a141e28ff")));
+        QCOMPARE(qGray(decoded(image).pixel(1, 0)), 10);
+    }
+
     void greyStaysGrey() {
         const PdfImage image =
             toPdfImage(tga("00030000000000", 8, 0x20, QByteArray::fromHex("000a141e28ff")));
@@ -104,6 +126,7 @@ class TgaTest : public QObject {
         const QByteArray pixels = QByteArray::fromHex("007c00fc007c00fc007c00fc");
         QVERIFY(toPdfImage(tga("00020000000000", 16, 0x20, pixels)).softMask == nullptr);
         QVERIFY(toPdfImage(tga("00020000000000", 16, 0x21, pixels)).softMask != nullptr);
+        QVERIFY(toPdfImage(tga("00020000000000", 15, 0x21, pixels)).softMask == nullptr);
     }
 
     void fileWithoutAWholeRowIsRefused() {

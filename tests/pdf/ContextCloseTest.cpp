@@ -110,6 +110,27 @@ class ContextCloseTest : public QObject, protected ContextCase {
         QVERIFY(PdfProbe(path).json().contains("D:19700102000000Z"));
     }
 
+    void theCreationDateStatesItsDistanceFromGreenwich_data() {
+        QTest::addColumn<int>("minutes");
+        QTest::addColumn<QByteArray>("date");
+        QTest::newRow("none") << 0 << QByteArray("D:20231114221320Z");
+        QTest::newRow("east") << 330 << QByteArray("D:20231115034320+05'30'");
+        QTest::newRow("west") << -210 << QByteArray("D:20231114184320-03'30'");
+    }
+    void theCreationDateStatesItsDistanceFromGreenwich() {
+        QFETCH(const int, minutes);
+        QFETCH(const QByteArray, date);
+        const QString path = newFile(u"pdf"_s);
+        PDFContext::Settings given = settings();
+        given.info.created = given.info.created.toOffsetFromUtc(minutes * 60);
+        PDFContext context(path, std::move(given));
+        context.beginPage({0, 0, 10, 10});
+        context.endPage();
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        const QByteArray json = PdfProbe(path).json();
+        QVERIFY2(json.contains("\"u:" + date + "\""), json);
+    }
+
     void aSourceDateThatIsNoDateFailsInWords_data() {
         QTest::addColumn<QByteArray>("date");
         QTest::newRow("empty") << QByteArray("");

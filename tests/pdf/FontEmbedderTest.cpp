@@ -106,6 +106,22 @@ QString textByPoppler(const QString &path) {
     return QString::fromUtf8(run.out);
 }
 
+/// The codes to which the document gives text, as hexadecimal digits.
+QStringList codesWithText(const QString &path) {
+    const ToolRun run =
+        runTool(u"qpdf"_s, {u"--qdf"_s, u"--object-streams=disable"_s, path, u"-"_s});
+    static const QRegularExpression section(u"beginbfchar\\s(.*?)endbfchar"_s,
+                                            QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression entry(u"<(\\w+)>\\s*<\\w+>"_s);
+    QStringList codes;
+    for (const auto &map : section.globalMatch(QString::fromLatin1(run.out))) {
+        for (const auto &match : entry.globalMatch(map.captured(1))) {
+            codes += match.captured(1);
+        }
+    }
+    return codes;
+}
+
 QString withoutSpace(QString text) {
     return text.remove(QRegularExpression(u"[\\s\\f]"_s));
 }
@@ -189,6 +205,15 @@ class FontEmbedderTest : public QObject {
         QString log;
         QVERIFY2(PdfProbe(path).isValid(&log), qPrintable(log));
         QVERIFY(textByPoppler(path).startsWith(u'a'));
+        QCOMPARE(codesWithText(path).size(), 2);
+    }
+
+    void codesOfOneByteAreWrittenAsOneByte() {
+        const QStringList codes = codesWithText(write(u"abc \u00E9 \u0436"_s));
+        QCOMPARE(codes.size(), 6);
+        for (const QString &code : codes) {
+            QCOMPARE(code.size(), 2);
+        }
     }
 
     /// The glyph that is drawn is the one that Qt draws with the face of that family.

@@ -96,8 +96,9 @@ class PDFContextTest : public QObject, protected ContextCase {
         const QString path = newFile(u"pdf"_s);
         const auto font = FontCascade::load(u"Liberation Sans"_s, 14);
         const std::array glyphs{font->glyph(U'W')};
-        // Steps of 20, of 20 again, of 3 and of nearly the height of a row, 16.1.
-        const QList<QPointF> places{{10, 150}, {10, 130}, {10, 110}, {10, 107}, {12, 91}};
+        // Steps of 20, of 20 again, of 3, of 3 upwards and of nearly the height of a row, 16.1.
+        const QList<QPointF> places{{10, 150}, {10, 130}, {10, 110},
+                                    {10, 107}, {10, 110}, {12, 94}};
         PDFContext context(path, settings());
         context.setFont(font, 14);
         context.beginPage({0, 0, 100, 200});
@@ -120,7 +121,7 @@ class PDFContextTest : public QObject, protected ContextCase {
         const std::array glyphs{font->glyph(U'W')};
         PDFContext context(path, settings());
         context.setFont(font, 40);
-        for (const double red : {1.0, 0.0}) { // A page begins with black.
+        for (const double red : {1.0, 1.0, 0.0}) { // A page begins with black.
             context.beginPage({0, 0, 100, 50});
             if (red > 0) {
                 context.setRGBFillColor(red, 0, 0);
@@ -139,7 +140,8 @@ class PDFContextTest : public QObject, protected ContextCase {
             return false;
         };
         QVERIFY(holds(1, Qt::red) && !holds(1, Qt::black));
-        QVERIFY(holds(2, Qt::black) && !holds(2, Qt::red));
+        QVERIFY(holds(2, Qt::red) && !holds(2, Qt::black));
+        QVERIFY(holds(3, Qt::black) && !holds(3, Qt::red));
     }
 
     void copiesTheBytesOfAJpegAsTheyAre() {
