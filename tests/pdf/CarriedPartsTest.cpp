@@ -50,6 +50,17 @@ class CarriedPartsTest : public QObject, protected MergeCase {
         QCOMPARE(counted.carried, (PartCounts{{PartKind::Links, 2}, {PartKind::Annotations, 1}}));
     }
 
+    void aListOfAnnotationsThatPagesShareIsCountedOnce() {
+        PdfFixture source = withCatalog({});
+        source.pages(4, 2);
+        for (const int page : {4, 5}) {
+            source.object(page, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] /Annots 20 0 R "
+                                ">>");
+        }
+        source.object(20, "[<< /Subtype /Link /Rect [0 0 9 9] >>]");
+        QCOMPARE(parts(source).carried, (PartCounts{{PartKind::Links, 1}}));
+    }
+
     void bookmarksOfEveryLevelAreCountedOnce() {
         PdfFixture source = withCatalog("/Outlines << /First 20 0 R /Last 22 0 R >>");
         source.object(20, "<< /Title (1) /First 21 0 R /Last 21 0 R /Next 22 0 R >>");

@@ -69,8 +69,14 @@ std::size_t countFields(const Objects &roots) {
     return number;
 }
 
-void addAnnotations(PartCounts &parts, const QPDFObjectHandle &page) {
-    for (const auto &annotation : items(entry(page, "/Annots"))) {
+/// `counted` holds the lists of annotations that other pages share.
+void addAnnotations(PartCounts &parts, const QPDFObjectHandle &page,
+                    std::set<QPDFObjGen> &counted) {
+    const auto annotations = entry(page, "/Annots");
+    if (annotations.isIndirect() && !counted.insert(annotations.getObjGen()).second) {
+        return;
+    }
+    for (const auto &annotation : items(annotations)) {
         auto subtype = entry(annotation, "/Subtype");
         const bool belongsToAnother =
             subtype.isNameAndEquals("/Widget") || subtype.isNameAndEquals("/Popup");
@@ -105,8 +111,9 @@ PartCounts countCarried(const ImportedDocument &imported) {
     if (imported.pages.empty()) {
         return parts; // Then the document brings nothing.
     }
+    std::set<QPDFObjGen> counted;
     for (const auto &page : imported.pages) {
-        addAnnotations(parts, page);
+        addAnnotations(parts, page, counted);
     }
     addParts(parts, PartKind::StructureElements, imported.structure.elements);
     addParts(parts, PartKind::Bookmarks, countBookmarks(imported.bookmarks));

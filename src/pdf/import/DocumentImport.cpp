@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <iterator>
 #include <optional>
+#include <string_view>
 
 using namespace Qt::StringLiterals;
 
@@ -28,15 +29,23 @@ Warning signaturesRemoved(int count) {
                       count)};
 }
 
+/// A version such as "2.0"; 0.0 where `text` is none. The library's own reading of it takes as long
+/// as copying a page.
+PDFVersion versionFrom(std::string_view text, int extensionLevel) {
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    constexpr std::size_t kLength = 3;
+    if (text.size() != kLength || !isDigit(text[0]) || text[1] != '.' || !isDigit(text[2])) {
+        return {};
+    }
+    return {text[0] - '0', text[2] - '0', extensionLevel};
+}
+
 /// That of the header, or the one that the catalog states where it is higher.
 PDFVersion versionOf(QPDF &source) {
-    PDFVersion version = source.getVersionAsPDFVersion();
+    PDFVersion version = versionFrom(source.getPDFVersion(), source.getExtensionLevel());
     auto stated = source.getRoot().getKey("/Version");
-    const std::string name = stated.isName() ? stated.getName() : std::string();
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    constexpr std::size_t kLength = 4; // Such as "/2.0".
-    if (name.size() == kLength && isDigit(name[1]) && name[2] == '.' && isDigit(name[3])) {
-        version.updateIfGreater(PDFVersion(name[1] - '0', name[3] - '0'));
+    if (stated.isName()) {
+        version.updateIfGreater(versionFrom(stated.getName().substr(1), 0));
     }
     return version;
 }

@@ -42,21 +42,28 @@ class ResourceCheck {
         if (!resources.isDictionary()) {
             return isMissing(resources);
         }
-        if (!resources.isIndirect()) {
-            return look(resources);
+        return once(resources, &ResourceCheck::look);
+    }
+
+    /// What `check` says of `object`, which many resources may share.
+    bool once(const QPDFObjectHandle &object, bool (ResourceCheck::*check)(QPDFObjectHandle)) {
+        if (!object.isIndirect()) {
+            return (this->*check)(object);
         }
-        const auto known = m_known.find(resources.getObjGen());
+        const auto known = m_known.find(object.getObjGen());
         if (known != m_known.end()) {
             return known->second;
         }
-        return m_known[resources.getObjGen()] = look(resources);
+        const bool lacks = (this->*check)(object);
+        m_known.emplace(object.getObjGen(), lacks);
+        return lacks;
     }
 
     bool look(QPDFObjectHandle resources) {
         static constexpr std::array kKinds{"/Font",    "/XObject", "/ColorSpace",
                                            "/Pattern", "/Shading", "/ExtGState"};
         return std::ranges::count_if(kKinds, [&](const char *kind) {
-                   return lacksMember(resources.getKey(kind));
+                   return once(resources.getKey(kind), &ResourceCheck::lacksMember);
                }) > 0;
     }
 
@@ -74,10 +81,24 @@ class ResourceCheck {
         return lacks;
     }
 
-    std::map<QPDFObjGen, bool> m_known; ///< Of resources that are objects of their own.
+    std::map<QPDFObjGen, bool> m_known; ///< Of what is an object of its own.
     std::set<QPDFObjGen> m_forms;       ///< Forms, pictures and patterns that were met.
     std::vector<QPDFObjectHandle> m_pending;
 };
+
+bool lacksAnnotations(const QPDFObjectHandle &list, std::map<QPDFObjGen, bool> &known) {
+    const auto look = [&list] {
+        return isMissing(list) || std::ranges::any_of(items(list), isMissing);
+    };
+    if (!list.isIndirect()) {
+        return look();
+    }
+    const auto [found, isNew] = known.try_emplace(list.getObjGen());
+    if (isNew) {
+        found->second = look();
+    }
+    return found->second;
+}
 
 /// Whether one of the objects that `root` leads to by `keys`, to values or lists of them, is
 /// missing.
@@ -108,7 +129,8 @@ bool lacksNode(const QPDFObjectHandle &root, std::initializer_list<const char *>
 
 std::set<std::size_t> pagesThatLackObjects(const std::vector<SourcePage> &pages) {
     ResourceCheck resources;
-    std::map<int, bool> inherited; // By InheritedValue::number.
+    std::map<int, bool> inherited;    // By InheritedValue::number.
+    std::map<QPDFObjGen, bool> lists; // Of annotations, which pages may share.
     std::set<std::size_t> found;
     for (std::size_t i = 0; i < pages.size(); ++i) {
         QPDFObjectHandle page = pages[i].page;
@@ -123,8 +145,7 @@ std::set<std::size_t> pagesThatLackObjects(const std::vector<SourcePage> &pages)
             }
             lacks = known->second;
         }
-        const auto annotations = page.getKey("/Annots");
-        if (lacks || isMissing(annotations) || std::ranges::any_of(items(annotations), isMissing)) {
+        if (lacks || lacksAnnotations(page.getKey("/Annots"), lists)) {
             found.insert(i + 1);
         }
     }
