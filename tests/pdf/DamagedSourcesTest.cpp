@@ -100,6 +100,14 @@ class DamagedSourcesTest : public QObject, protected MergeCase {
         QVERIFY(!opened(result)->getRoot().hasKey("/Outlines"));
     }
 
+    void aPageTreeThatContainsItselfIsRefused() {
+        PdfFixture source;
+        source.object(1, kCatalog).pages(4, 2);
+        source.object(2, "<< /Type /Pages /Kids [4 0 R 2 0 R 5 0 R] /Count 2 >>");
+        PDFContext context(newPath(), {});
+        QCOMPARE(refusal(context, saved(source)), u"The page tree contains itself"_s);
+    }
+
     void aSourceThatCannotBeReadLeavesNothing() {
         PdfFixture good;
         good.object(1, kCatalog).pages(4, 1);
