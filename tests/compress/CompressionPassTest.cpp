@@ -297,6 +297,27 @@ class CompressionPassTest : public QObject, protected CompressionCase {
                     .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     }
 
+    void imagesThatStayAreNamedInTheOrderOfTheirPages() {
+        const QByteArray keys = imageKeys(
+            1200, 900, "/ColorSpace /DeviceGray /BitsPerComponent 1 /Filter /FlateDecode");
+        const QByteArray data = flate(QByteArray(qsizetype(150) * 900, '\x5a'));
+        // The image of the first page stands behind that of the second.
+        QVERIFY(photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                    .object(2, "<< /Type /Pages /Kids [20 0 R 3 0 R] /Count 2 >>")
+                    .object(20, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents "
+                                "4 0 R /Resources << /XObject << /Im0 21 0 R >> >> >>")
+                    .stream(5, keys, data)
+                    .stream(21, keys, data + '\n')
+                    .write(m_path));
+        CompressionOutcome outcome;
+        compressed(&outcome);
+        QCOMPARE(outcome.imagesKept.size(), std::size_t(2));
+        QCOMPARE(outcome.imagesKept[0].page, 1);
+        QCOMPARE(outcome.imagesKept[0].object, 21);
+        QCOMPARE(outcome.imagesKept[1].page, 2);
+        QCOMPARE(outcome.imagesKept[1].object, 5);
+    }
+
     void aMissingFilterIsAnErrorAndNothingIsHandedOver() {
         test::writePdf(m_path, 1);
         const QString filter = filterFile(1);
