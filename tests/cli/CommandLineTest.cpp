@@ -16,6 +16,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <array>
 #include <csignal>
 
 #include <unistd.h>
@@ -102,6 +103,22 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 1);
         QVERIFY(process.readAllStandardError().contains("Standard output cannot be written"));
+    }
+
+    void aReaderOfTheOutputThatHasReadEnoughIsNoFault() {
+        QProcess process;
+        process.setChildProcessModifier([] {
+            std::array<int, 2> ends{};
+            if (::pipe(ends.data()) == 0) {
+                ::close(ends[0]);
+                ::dup2(ends[1], STDOUT_FILENO);
+            }
+        });
+        process.start(kProgram, {u"--json"_s, u"--output-folder"_s, path("out"), text("a.txt")});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.readAllStandardError(), QByteArray());
+        QCOMPARE(process.exitCode(), 0);
     }
 
     void aClosedDescriptorIsTakenByNoFile_data() {

@@ -250,6 +250,7 @@ class ReportsTest : public QObject, protected CommandLineCase {
         row("letters", u"a"_s, 60, 44);
         row("wide", u"\u3042"_s, 60, 22);
         row("wide, of two code units", u"\U0001F600"_s, 40, 22);
+        row("of unknown width", u"\u0378"_s, 40, 22);
         row("with a mark on each", u"e\u0301"_s, 60, 44);
         row("spelled out", u"\x1b"_s, 60, 11);
         QTest::newRow("wide across the edge")

@@ -15,6 +15,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 #include <functional>
 #include <memory>
 
@@ -189,6 +191,15 @@ class RunTest : public QObject {
         convertAll(recorder);
         QCOMPARE(recorder.results.front().compression->error, QString());
         QCOMPARE(recorder.values, (QList<float>{50, 62.5, 75, 87.5, 100}));
+    }
+
+    void aFolderThatLooksLikeATemporaryOneStaysAmongTheOutputs() {
+        addTexts({u"a"_s});
+        const QString folder = path("out/.folder.x.folioforge-part");
+        QCOMPARE(::mkdir(QFile::encodeName(folder).constData(), S_IRWXU), 0);
+        Recorder recorder;
+        convertAll(recorder);
+        QVERIFY(QDir(folder).exists());
     }
 
     void whatAKilledRunLeftIsRemoved() {

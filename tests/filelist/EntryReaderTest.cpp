@@ -52,6 +52,24 @@ class EntryReaderTest : public QObject {
         const ReadEntry missing = read(path("missing.pdf"));
         QVERIFY(!missing.refusedPdf);
         QVERIFY(!missing.problem.isEmpty());
+        const ReadEntry good = read(test::writePdf(path("good.pdf"), 1));
+        QVERIFY(!good.refusedPdf);
+        QCOMPARE(good.problem, QString());
+    }
+
+    void aBrokenPictureSaysWhy() {
+        const ReadEntry broken = read(test::writeFile(path("broken.png"), "no image"));
+        QVERIFY(!broken.problem.isEmpty());
+        QCOMPARE(broken.problem, broken.entry.readError());
+    }
+
+    void aTextLargerThanMemoryCountsIsRefusedAtOnce() {
+        const QString file = test::writeFile(path("large.txt"), "words");
+        constexpr qint64 kTooLarge = qint64{1} << 31;
+        QVERIFY(QFile::resize(file, kTooLarge)); // Takes no room on the disk.
+        for (const TextReading texts : {TextReading::WhenListed, TextReading::WhenWritten}) {
+            QCOMPARE(read(file, texts).problem, u"The text is larger than 2 GB"_s);
+        }
     }
 
     void aFileOfAnotherTypeCannotBeConverted() {

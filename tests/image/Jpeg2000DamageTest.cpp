@@ -81,6 +81,12 @@ class Jpeg2000DamageTest : public QObject {
         QVERIFY(showsTiles(decoded(image), 15));
     }
 
+    void lostPartOfATileIsTold() {
+        QByteArray damaged = tiledPicture();
+        damaged[tileAt(damaged, 15) + 11] = 2; // Of the two parts that are stated one is there.
+        QCOMPARE(toPdfImage(write(damaged)).warnings, Warnings{cutOffPicture(1, 16, u"tiles"_s)});
+    }
+
     void cutPictureOfOneTileIsTold() {
         const QByteArray whole = bytesOf(imageFile(u"colour.jp2"_s));
         const qsizetype tile = tileAt(whole, 0);

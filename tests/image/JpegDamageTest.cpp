@@ -77,6 +77,13 @@ class JpegDamageTest : public QObject {
         QCOMPARE(shown.copy(0, 0, kSize.width(), 48), upperRows(whole, 48));
     }
 
+    void cutPictureThatEndsInOrderIsTold() {
+        const QByteArray whole = pictureWithRestarts();
+        const QByteArray upper = whole.first(whole.indexOf("\xFF\xD5"));
+        const PdfImage image = toPdfImage(write(upper + "\xFF\xD9"));
+        QCOMPARE(image.warnings, Warnings{faultyPicture()});
+    }
+
     void cutPictureWithoutRestartMarkersIsTold() {
         const QByteArray whole = plainPicture();
         const qsizetype coded = codedDataOf(whole);
@@ -132,6 +139,12 @@ class JpegDamageTest : public QObject {
         QByteArray damaged = plainPicture();
         const qsizetype coded = codedDataOf(damaged);
         damaged.replace(coded + (damaged.size() - coded) / 2, 2, "\xFF\x41");
+        QVERIFY(!toPdfImage(write(damaged)).warnings.empty());
+    }
+
+    void restartMarkersOutOfOrderAreTold() {
+        QByteArray damaged = pictureWithRestarts();
+        damaged.replace(damaged.indexOf("\xFF\xD1"), 2, "\xFF\xD3");
         QVERIFY(!toPdfImage(write(damaged)).warnings.empty());
     }
 

@@ -141,6 +141,20 @@ class PngTest : public QObject {
         QCOMPARE(decoded(toPdfImage(write(bytes))).convertToFormat(QImage::Format_RGB32), expected);
     }
 
+    void oneGreyMayBeTransparent() {
+        QByteArray bytes = png(QSize(3, 1), 8, 0, QByteArray("\0\4\5\6", 4));
+        bytes.insert(33, pngChunk("tRNS", QByteArray("\0\5", 2))); // Behind the header's chunk.
+        const PdfImage image = toPdfImage(write(bytes));
+        QVERIFY(image.softMask != nullptr);
+        QCOMPARE(rgbRows(*image.softMask).toHex(), QByteArray("ffffff000000ffffff"));
+    }
+
+    void rowsOfAnUnknownFilterHaveNone() {
+        QByteArray rows = QByteArray::fromHex("050102 040304 ff0506 000708");
+        dropUnknownFilters(rows, 3);
+        QCOMPARE(rows.toHex(), QByteArray("000102040304000506000708"));
+    }
+
     void rowsThatAreNotAllThereAreAnError() {
         constexpr int kFiltered = 2 * (1 + 5);
         QCOMPARE(unfilterRows(QByteArray(kFiltered, '\0'), 2, 5, 1), QByteArray(10, '\0'));

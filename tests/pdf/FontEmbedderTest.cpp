@@ -13,6 +13,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
@@ -206,6 +208,18 @@ class FontEmbedderTest : public QObject {
         QVERIFY2(PdfProbe(path).isValid(&log), qPrintable(log));
         QVERIFY(textByPoppler(path).startsWith(u'a'));
         QCOMPARE(codesWithText(path).size(), 2);
+    }
+
+    void codesWithTextAreInOrder() {
+        // The later letter comes first and gets the lower code.
+        const QStringList codes = codesWithText(write(u"\u0436 \u00E9 cba"_s));
+        QCOMPARE(codes.size(), 6);
+        QVERIFY(std::ranges::is_sorted(codes));
+    }
+
+    void asciiKeepsItsCodes() {
+        QCOMPARE(codesWithText(write(u"a b~"_s)),
+                 (QStringList{u"20"_s, u"61"_s, u"62"_s, u"7E"_s}));
     }
 
     void codesOfOneByteAreWrittenAsOneByte() {
