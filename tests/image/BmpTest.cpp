@@ -254,6 +254,12 @@ class BmpTest : public QObject {
                  named ? expected : QStringList());
     }
 
+    void rowsThatRunsDoNotReachAreNamed() {
+        const QByteArray runs = QByteArray::fromHex("0501 0000 0502 0000");
+        QCOMPARE(warningsOf(toPdfImage(file(fourColors(5, 4, 8, 1, runs)))).first(),
+                 u"picture-damaged: The picture is cut off: 50 % of its rows could not be read"_s);
+    }
+
     void rowsFromTheTopStayInOrder() {
         const QByteArray pixels = QByteArray::fromHex("0001020001020300");
         const QStringList rows = {u"rgb"_s, u"gbw"_s};

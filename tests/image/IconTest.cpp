@@ -272,6 +272,15 @@ class IconTest : public QObject {
         QCOMPARE(toPdfImage(write("damaged.ico", bytes)).width, 8);
     }
 
+    void anIconThatLacksItsMaskIsTakenAndNamed() {
+        const QByteArray rows = randomBytes(96 + 16); // 8 x 4 pixels of 24 bits, and their mask.
+        const QByteArray good = ico({bitmapFrame(24, rows)});
+        QCOMPARE(warningsOf(toPdfImage(write("whole.ico", good))), QStringList());
+        QCOMPARE(warningsOf(toPdfImage(write("cut.ico", good.chopped(1)))),
+                 QStringList(u"picture-damaged: The picture is cut off: its transparency could not "
+                             "be read"_s));
+    }
+
     void pngFrameKeepsItsOwnRows() {
         const QByteArray png = bytesOf(imageFile(u"colour.png"_s));
         const QByteArray small = bitmapFrame(24, QByteArray(96 + 16, '\0'));
@@ -309,16 +318,6 @@ class IconTest : public QObject {
 
     QString write(const char *name, const QByteArray &bytes) {
         return writeFile(m_folder.filePath(QString::fromLatin1(name)), bytes);
-    }
-
-    /// 8 x 4 pixels of 24 bits take 96 bytes, their mask 16.
-    void anIconThatLacksItsMaskIsTakenAndNamed() {
-        const QByteArray rows = randomBytes(96 + 16);
-        const QByteArray good = ico({bitmapFrame(24, rows)});
-        QCOMPARE(warningsOf(toPdfImage(write("whole.ico", good))), QStringList());
-        QCOMPARE(warningsOf(toPdfImage(write("cut.ico", good.chopped(1)))),
-                 QStringList(u"picture-damaged: The picture is cut off: its transparency could not "
-                             "be read"_s));
     }
 };
 

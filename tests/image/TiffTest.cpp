@@ -10,6 +10,7 @@
 
 #include <tiffio.h>
 
+#include <cstdlib>
 #include <memory>
 #include <vector>
 
@@ -41,6 +42,28 @@ class TiffTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
+    void colorsOfAJpegInATiffAreThoseOfLibtiff() {
+        const QString path = imageFile(u"jpeg.tif"_s);
+        const QImage shown = decoded(toPdfImage(path)).convertToFormat(QImage::Format_RGB888);
+        const std::unique_ptr<TIFF, decltype(&TIFFClose)> tif(
+            TIFFOpen(QFile::encodeName(path).constData(), "r"), &TIFFClose);
+        std::vector<uint32_t> pixels(static_cast<std::size_t>(shown.width()) *
+                                     static_cast<std::size_t>(shown.height()));
+        QCOMPARE(TIFFReadRGBAImageOriented(tif.get(), static_cast<uint32_t>(shown.width()),
+                                           static_cast<uint32_t>(shown.height()), pixels.data(),
+                                           ORIENTATION_TOPLEFT, 1),
+                 1);
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                const uint32_t pixel = pixels[static_cast<std::size_t>(y * shown.width() + x)];
+                const QColor color = shown.pixelColor(x, y);
+                QVERIFY(std::abs(color.red() - int(TIFFGetR(pixel))) < 3);
+                QVERIFY(std::abs(color.green() - int(TIFFGetG(pixel))) < 3);
+                QVERIFY(std::abs(color.blue() - int(TIFFGetB(pixel))) < 3);
+            }
+        }
+    }
+
     void floatingPointBecomesSixteenBits() {
         const QString path = tiff(4, 1, bytesOfValues<float>({0, 0.25F, 1, 7}), [](TIFF *tif) {
             setSamples(tif, 1, 32, PHOTOMETRIC_MINISBLACK);

@@ -268,7 +268,7 @@ class FontEmbedderTest : public QObject {
     }
 
     void glyphsAdvanceAsMeasured() {
-        const QString text = u"Wide iiii 中 ж 😀 end"_s;
+        const QString text = u"Wide iiii 中 ж 😀 gig end"_s; // No "f" between "e" and "g".
         const auto places = PdfProbe(write(text)).characterOrigins(1);
         const auto characters = text.toUcs4();
         QCOMPARE(places.size(), characters.size());
@@ -318,6 +318,19 @@ class FontEmbedderTest : public QObject {
             QVERIFY2(row.contains(u"yes yes yes"_s), qPrintable(row));
         }
         QVERIFY(QFile(path).size() < 20'000);
+    }
+
+    void hundredsOfLettersTakeOneFont() {
+        QString text;
+        for (const auto &[first, last] :
+             {std::pair{0x00A1, 0x024F}, std::pair{0x0370, 0x03FF}, std::pair{0x0400, 0x04FF},
+              std::pair{0x1E00, 0x1FFF}, std::pair{0x2500, 0x257F}}) {
+            for (int character = first; character <= last; ++character) {
+                text += QChar(character);
+            }
+        }
+        const ToolRun run = runTool(u"pdffonts"_s, {write(text)});
+        QCOMPARE(run.out.count("LiberationSans"), 1);
     }
 
     void sameTextGivesTheSameBytes() {
