@@ -99,6 +99,8 @@ class GifTest : public QObject {
         }
         const PdfImage image = toPdfImage(gif("02000200", bytes));
         QCOMPARE(rgbRows(image).toHex(), QByteArray("ff0000ffffff000000000000"));
+        QCOMPARE(warningsOf(image).first(),
+                 u"picture-damaged: The picture is cut off: 50 % of its rows could not be read"_s);
     }
 
     void aScreenWithoutSizeNeedsAnImage_data() {
