@@ -41,12 +41,40 @@ template<typename T> QByteArray bytesOfValues(const std::vector<T> &values) {
 class TiffTest : public QObject {
     Q_OBJECT
 
+    /// A picture of 32 x 32 pixels as most writers put JPEG into TIFF.
+    QString jpegOfBrightnessAndColor() {
+        constexpr uint32_t kSide = 32;
+        QString path = m_folder.filePath(u"ycbcr.tif"_s);
+        const std::unique_ptr<TIFF, Close> tif(TIFFOpen(QFile::encodeName(path).constData(), "w"));
+        TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, kSide);
+        TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, kSide);
+        setSamples(tif.get(), 3, 8, PHOTOMETRIC_YCBCR);
+        TIFFSetField(tif.get(), TIFFTAG_ROWSPERSTRIP, kSide);
+        TIFFSetField(tif.get(), TIFFTAG_COMPRESSION, COMPRESSION_JPEG);
+        TIFFSetField(tif.get(), TIFFTAG_YCBCRSUBSAMPLING, 1, 1);
+        TIFFSetField(tif.get(), TIFFTAG_JPEGCOLORMODE, JPEGCOLORMODE_RGB);
+        for (uint32_t y = 0; y < kSide; ++y) {
+            QByteArray row;
+            for (uint32_t x = 0; x < kSide; ++x) {
+                row.append(static_cast<char>(7 * x))
+                    .append(static_cast<char>(7 * y))
+                    .append('\x20');
+            }
+            TIFFWriteScanline(tif.get(), row.data(), y, 0);
+        }
+        return path;
+    }
+
   private Q_SLOTS:
+    void colorsOfAJpegInATiffAreThoseOfLibtiff_data() {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("RGB") << imageFile(u"jpeg.tif"_s);
+        QTest::newRow("YCbCr") << jpegOfBrightnessAndColor();
+    }
     void colorsOfAJpegInATiffAreThoseOfLibtiff() {
-        const QString path = imageFile(u"jpeg.tif"_s);
+        QFETCH(const QString, path);
         const QImage shown = decoded(toPdfImage(path)).convertToFormat(QImage::Format_RGB888);
-        const std::unique_ptr<TIFF, decltype(&TIFFClose)> tif(
-            TIFFOpen(QFile::encodeName(path).constData(), "r"), &TIFFClose);
+        const std::unique_ptr<TIFF, Close> tif(TIFFOpen(QFile::encodeName(path).constData(), "r"));
         std::vector<uint32_t> pixels(static_cast<std::size_t>(shown.width()) *
                                      static_cast<std::size_t>(shown.height()));
         QCOMPARE(TIFFReadRGBAImageOriented(tif.get(), static_cast<uint32_t>(shown.width()),
