@@ -109,6 +109,15 @@ class JpegDamageTest : public QObject {
         QCOMPARE(image.warnings, Warnings{coarsePicture()});
     }
 
+    void tableThatIsNoneLeavesTheScansBefore() {
+        QByteArray damaged = progressivePicture();
+        const qsizetype table = damaged.indexOf("\xFF\xC4", codedDataOf(damaged, 1));
+        // More codes of each length than there can be.
+        damaged.replace(table + 5, 16, QByteArray(16, '\xFF'));
+        QCOMPARE(refusalOf(write(damaged)), QString());
+        QCOMPARE(toPdfImage(write(damaged)).warnings, Warnings{coarsePicture()});
+    }
+
     void progressivePictureCutInItsFirstScanLacksRows() {
         const QByteArray whole = progressivePicture();
         const qsizetype coded = codedDataOf(whole);
