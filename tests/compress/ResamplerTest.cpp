@@ -112,6 +112,7 @@ class ResamplerTest : public QObject {
             return 60 + static_cast<int>(x * kFrom) * 97 % 128; // Never beyond black or white.
         };
         std::vector<double> row;
+        row.reserve(kFrom);
         for (int x = 0; x < kFrom; ++x) {
             row.push_back(value((x + .5) / kFrom, 0));
         }

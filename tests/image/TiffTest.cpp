@@ -83,7 +83,9 @@ class TiffTest : public QObject {
                  1);
         for (int y = 0; y < shown.height(); ++y) {
             for (int x = 0; x < shown.width(); ++x) {
-                const uint32_t pixel = pixels[static_cast<std::size_t>(y * shown.width() + x)];
+                const uint32_t pixel = pixels.at(static_cast<std::size_t>(y) *
+                                                     static_cast<std::size_t>(shown.width()) +
+                                                 static_cast<std::size_t>(x));
                 const QColor color = shown.pixelColor(x, y);
                 QVERIFY(std::abs(color.red() - int(TIFFGetR(pixel))) < 3);
                 QVERIFY(std::abs(color.green() - int(TIFFGetG(pixel))) < 3);
