@@ -201,7 +201,7 @@ class LimitsTest : public QObject {
     }
     void circlesEnd() {
         QFETCH(QByteArray, bytes);
-        const bool tree = qstrcmp(QTest::currentDataTag(), "a page tree") == 0;
+        const bool tree = QByteArrayView(QTest::currentDataTag()).startsWith("a page tree");
         QCOMPARE(answerTo({savedPdf(bytes), u"--compress=72l"_s}),
                  tree ? u"The page tree contains itself"_s : valid());
     }

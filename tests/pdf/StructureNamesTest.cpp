@@ -116,6 +116,44 @@ class StructureNamesTest : public QObject, protected MergeCase {
             QCOMPARE(headers.getArrayItem(0).getStringValue(), identifier);
         }
     }
+
+    void headersThatElementsShareFollowOnce() {
+        const QByteArray attributes = "/A 20 0 R";
+        const auto table = [&](const QByteArray &identifiers) {
+            const QList<QByteArray> two = identifiers.split(' ');
+            return taggedPage({"a", "b"}, "/K 11 0 R")
+                .object(11, element("Document", 10, "[12 0 R 13 0 R 14 0 R]"))
+                .object(12, element("TH", 11, "0", "/ID (" + two[0] + ")"))
+                .object(13, element("TH", 11, "1", "/ID (" + two[1] + ") " + attributes))
+                .object(14, element("TD", 11, "[]", attributes))
+                .object(20, "[<< /O /Table /Headers [(h)] >>]");
+        };
+        const auto document = mergedDocument({table("h g"), table("h h_2")});
+        auto cells = document->getRoot().getKey("/StructTreeRoot").getKey("/K").getArrayItem(1);
+        auto cell = cells.getKey("/K").getArrayItem(2);
+        const auto header = cells.getKey("/K").getArrayItem(0).getKey("/ID").getStringValue();
+        QCOMPARE(header, std::string("h_3")); // "h_2" is another's of its own source.
+        QCOMPARE(
+            cell.getKey("/A").getArrayItem(0).getKey("/Headers").getArrayItem(0).getStringValue(),
+            header);
+    }
+
+    void classesThatNameHeadersAreToldApart() {
+        const PdfFixture source =
+            taggedPage({"a", "b"}, "/K 11 0 R /ClassMap << /Cell << /O /Table /Headers [(h)] >> >>")
+                .object(11, element("Document", 10, "[12 0 R 13 0 R]"))
+                .object(12, element("TH", 11, "0", "/ID (h)"))
+                .object(13, element("TD", 11, "1", "/C /Cell"));
+        const auto document = mergedDocument({source, source});
+        auto root = document->getRoot().getKey("/StructTreeRoot");
+        for (const int index : {0, 1}) {
+            auto cells = root.getKey("/K").getArrayItem(index).getKey("/K");
+            auto attributes =
+                root.getKey("/ClassMap").getKey(cells.getArrayItem(1).getKey("/C").getName());
+            QCOMPARE(attributes.getKey("/Headers").getArrayItem(0).getStringValue(),
+                     cells.getArrayItem(0).getKey("/ID").getStringValue());
+        }
+    }
 };
 
 FOLIOFORGE_TEST(StructureNamesTest)

@@ -251,6 +251,42 @@ class StructureTest : public QObject, protected MergeCase {
         QVERIFY(!said(source).isEmpty());
     }
 
+    void kidsThatLeadToTheirOwnListEnd() {
+        const PdfFixture source = taggedPage({"a"}, "/K 20 0 R")
+                                      .object(20, "[11 0 R << /S /P /K 20 0 R >>]")
+                                      .object(11, element("P", 10, "0"));
+        QCOMPARE(said(source),
+                 QStringList{u"structure-damaged: 1 structure tag is damaged and left out"_s});
+        QVERIFY(structureText(mergedPath({source})).contains(u"\"a\""_s));
+    }
+
+    void aListThatTwoElementsHaveIsTheFirstOnes() {
+        PdfFixture source = taggedPage({"a", "b"}, "/K [11 0 R 12 0 R]");
+        source.object(11, element("P", 10, "20 0 R")).object(12, element("H1", 10, "20 0 R"));
+        source.object(20, "[13 0 R 14 0 R]");
+        source.object(13, element("Span", 11, "0")).object(14, element("Span", 11, "1"));
+        QCOMPARE(said(source),
+                 QStringList{u"structure-damaged: 1 structure tag is damaged and left out"_s});
+        const auto document = mergedDocument({source}, true);
+        QCOMPARE(elementAt(*document, {0}).getKey("/K").getArrayNItems(), 2);
+        QVERIFY(!elementAt(*document, {1}).hasKey("/K"));
+    }
+
+    void formsThatOnlyElementsTellOfAreEachCopysOwn() {
+        PdfFixture source =
+            taggedPage({"a"}, "/K 11 0 R")
+                .object(11, element("P", 10, "<< /Type /MCR /Stm 20 0 R /Pg 4 0 R /MCID 0 >>"))
+                .stream(20, "/Type /XObject /Subtype /Form /BBox [0 0 9 9]",
+                        "/P << /MCID 0 >> BDC 0 0 5 5 re f EMC");
+        const QString path = saved(source);
+        const auto document = opened(merged({path, path}));
+        auto first = elementAt(*document, {0, 0, 0}).getKey("/Stm");
+        auto second = elementAt(*document, {1, 0, 0}).getKey("/Stm");
+        QVERIFY(!first.isSameObjectAs(second));
+        QVERIFY(first.getDict().getKey("/StructParents").getIntValue() !=
+                second.getDict().getKey("/StructParents").getIntValue());
+    }
+
     void aTreeOf30000LevelsIsCopied() {
         constexpr int kLevels = 30'000;
         PdfFixture source = taggedPage({"a"}, "/K 11 0 R");

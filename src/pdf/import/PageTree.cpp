@@ -51,11 +51,15 @@ class PageTreeWalk {
     }
 
   private:
-    /// Pushes the kids of `node`, the first one on top.
-    void expand(QPDFObjectHandle node, const InheritedValues &fromAbove) {
-        if (node.isIndirect() && !m_visited.insert(node.getObjGen()).second) {
+    void requireNew(const QPDFObjectHandle &object) {
+        if (object.isIndirect() && !m_visited.insert(object.getObjGen()).second) {
             throw Error(u"The page tree contains itself"_s);
         }
+    }
+
+    /// Pushes the kids of `node`, the first one on top.
+    void expand(QPDFObjectHandle node, const InheritedValues &fromAbove) {
+        requireNew(node);
         const auto inherited = std::make_shared<InheritedValues>(fromAbove);
         for (const char *key : kInheritedKeys) {
             if (node.hasKey(key)) {
@@ -63,6 +67,7 @@ class PageTreeWalk {
             }
         }
         auto kids = node.getKey("/Kids");
+        requireNew(kids); // It may hold nodes that lead to it again.
         const auto items =
             kids.isArray() ? kids.getArrayAsVector() : std::vector<QPDFObjectHandle>();
         std::for_each(items.rbegin(), items.rend(), [&](const QPDFObjectHandle &kid) {

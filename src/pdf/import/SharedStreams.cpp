@@ -97,6 +97,10 @@ class ObjectGraph {
         if (isLayer(dictionary)) {
             m_ofOneCopy.push_back(owner);
         }
+        const auto marked = dictionary.getKey("/Stm"); // Of a structure element.
+        if (marked.isIndirect() && dictionary.hasKey("/MCID")) {
+            m_ofOneCopy.push_back(marked.getObjGen());
+        }
         for (const char *key : {"/AP", "/MK"}) {
             auto appearances = dictionary.getKey(key);
             if (appearances.isDictionary()) {

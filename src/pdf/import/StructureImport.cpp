@@ -37,13 +37,6 @@ KidKind kindOf(QPDFObjectHandle kid) {
     return KidKind::Element;
 }
 
-std::vector<QPDFObjectHandle> kidsOf(QPDFObjectHandle kids) {
-    if (kids.isArray()) {
-        return items(kids);
-    }
-    return kids.isNull() ? std::vector<QPDFObjectHandle>() : std::vector{kids};
-}
-
 Dictionary membersOf(QPDFObjectHandle dictionary) {
     return dictionary.isDictionary() ? dictionary.getDictAsMap() : Dictionary();
 }
@@ -72,6 +65,7 @@ class StructureWalk {
     void fill(const Open &open);
     void fillReferences();
     void note(Dictionary &members, const QPDFObjectHandle &target);
+    void copyKids(QPDFObjectHandle kids, const Open &parent, std::vector<QPDFObjectHandle> &copies);
     void copyKid(const QPDFObjectHandle &kid, const Open &parent,
                  std::vector<QPDFObjectHandle> &kids);
     void addElement(const QPDFObjectHandle &kid, const Open &parent,
@@ -87,6 +81,7 @@ class StructureWalk {
     std::vector<Open> m_open;
     std::vector<std::pair<QPDFObjectHandle, QPDFObjectHandle>> m_references; ///< Owner and /Ref.
     std::map<QPDFObjGen, std::size_t> m_contentOf; ///< Positions in `content` by holder.
+    std::set<QPDFObjGen> m_lists;                  ///< Arrays of kids that were read.
 };
 
 ImportedStructure StructureWalk::walk(QPDFObjectHandle catalog) {
@@ -123,9 +118,7 @@ void StructureWalk::copyRoot(QPDFObjectHandle root) {
         }
     }
     const Open none{{}, {}, QPDFObjectHandle::newNull()};
-    for (const auto &kid : kidsOf(root.getKey("/K"))) {
-        copyKid(kid, none, m_structure.kids);
-    }
+    copyKids(root.getKey("/K"), none, m_structure.kids);
 }
 
 /// Keeps what the merging of several trees asks for.
@@ -175,11 +168,7 @@ void StructureWalk::fill(const Open &open) {
         parent.page = target.getKey("/Pg");
     }
     std::vector<QPDFObjectHandle> kids;
-    const std::size_t first = m_open.size();
-    for (const auto &kid : kidsOf(entry(open.source, "/K"))) {
-        copyKid(kid, parent, kids);
-    }
-    std::ranges::reverse(m_open.begin() + static_cast<std::ptrdiff_t>(first), m_open.end());
+    copyKids(entry(open.source, "/K"), parent, kids);
     if (kids.size() == 1) {
         target.replaceKey("/K", kids.front());
     } else {
@@ -189,16 +178,41 @@ void StructureWalk::fill(const Open &open) {
 
 /// Elements refer to others, which may come later in the tree.
 void StructureWalk::fillReferences() {
+    std::map<QPDFObjGen, QPDFObjectHandle> lists; // Elements may share them.
     for (auto &[owner, references] : m_references) {
-        std::vector<QPDFObjectHandle> copies;
-        for (const auto &reference : items(references)) {
-            auto copied = m_copier.known(reference);
-            if (!copied.isNull()) {
-                copies.push_back(copied);
+        auto &list = lists[references.getObjGen()];
+        if (!references.isIndirect() || !list.isInitialized()) {
+            std::vector<QPDFObjectHandle> copies;
+            for (const auto &reference : items(references)) {
+                auto copied = m_copier.known(reference);
+                if (!copied.isNull()) {
+                    copies.push_back(copied);
+                }
             }
+            list = QPDFObjectHandle::newArray(copies);
+            list = references.isIndirect() ? m_target.makeIndirectObject(list) : list;
         }
-        putItems(owner, "/Ref", copies);
+        owner.replaceKey("/Ref", list);
     }
+}
+
+void StructureWalk::copyKids(QPDFObjectHandle kids, const Open &parent,
+                             std::vector<QPDFObjectHandle> &copies) {
+    if (!kids.isArray()) {
+        if (!kids.isNull()) {
+            copyKid(kids, parent, copies);
+        }
+        return;
+    }
+    if (kids.isIndirect() && !m_lists.insert(kids.getObjGen()).second) {
+        ++m_structure.damaged; // They are the kids of another element, perhaps of one above.
+        return;
+    }
+    const auto first = static_cast<std::ptrdiff_t>(m_open.size());
+    for (const auto &kid : items(kids)) {
+        copyKid(kid, parent, copies);
+    }
+    std::ranges::reverse(m_open.begin() + first, m_open.end()); // The first one is on top.
 }
 
 void StructureWalk::copyKid(const QPDFObjectHandle &kid, const Open &parent,
@@ -222,10 +236,11 @@ void StructureWalk::copyKid(const QPDFObjectHandle &kid, const Open &parent,
 
 void StructureWalk::addElement(const QPDFObjectHandle &kid, const Open &parent,
                                std::vector<QPDFObjectHandle> &kids) {
-    auto target = m_target.makeIndirectObject(QPDFObjectHandle::newDictionary());
-    if (!m_copier.setCopy(kid, target)) {
+    if (!m_copier.known(kid).isNull()) {
         return; // It has a parent already.
     }
+    auto target = m_target.makeIndirectObject(QPDFObjectHandle::newDictionary());
+    m_copier.setCopy(kid, target);
     if (parent.target.isInitialized()) {
         target.replaceKey("/P", parent.target);
     }

@@ -168,13 +168,13 @@ void StructureMerger::finish(QPDF &document, std::size_t pages) {
     putItems(root, "/K", elements);
     putProperties(m_trees, root);
     putParentTree(document, m_trees, root);
+    mergeIdentifiers(document, m_trees, root); // Classes may name header cells.
     if (whole) {
         putNames(m_trees.front(), root);
     } else {
         mergeRoles(m_trees, root);
         mergeClasses(m_trees, root);
     }
-    mergeIdentifiers(document, m_trees, root);
 }
 
 } // namespace folioforge

@@ -61,40 +61,46 @@ class RoleNames {
     NameNumbers m_numbers;
 };
 
-/// The name of an attribute class in /C: one, or several with numbers of revisions between.
-void renameClasses(QPDFObjectHandle element, const Names &renames) {
-    const auto renamed = [&renames](QPDFObjectHandle item) -> QPDFObjectHandle {
-        const auto found = item.isName() ? renames.find(item.getName()) : renames.end();
-        return found == renames.end() ? item : QPDFObjectHandle::newName(found->second);
-    };
-    auto classes = element.getKey("/C");
-    if (classes.isName()) {
-        element.replaceKey("/C", renamed(classes));
-        return;
+/// Renames the members of an array in place, since elements may share it. `textOf` gives the name
+/// in a member, and `named` makes one.
+template<typename TextOf, typename Named>
+void renameMembers(QPDFObjectHandle array, const Names &renames, const TextOf &textOf,
+                   const Named &named) {
+    for (int i = 0; array.isArray() && i < array.getArrayNItems(); ++i) {
+        const auto found = renames.find(textOf(array.getArrayItem(i)));
+        if (found != renames.end()) {
+            array.setArrayItem(i, named(found->second));
+        }
     }
-    auto members = items(classes);
-    for (auto &member : members) {
-        member = renamed(member);
+}
+
+std::string nameOf(QPDFObjectHandle object) {
+    return object.isName() ? object.getName() : std::string();
+}
+
+std::string stringOf(QPDFObjectHandle object) {
+    return object.isString() ? object.getStringValue() : std::string();
+}
+
+/// Renames the attribute classes in the /C of each element: one, or several with numbers of
+/// revisions between.
+void renameClasses(const ImportedStructure &tree, const Names &renames) {
+    std::set<QPDFObjGen> visited;
+    for (QPDFObjectHandle element : tree.withClass) {
+        auto classes = element.getKey("/C");
+        const auto found = renames.find(nameOf(classes));
+        if (found != renames.end()) {
+            element.replaceKey("/C", QPDFObjectHandle::newName(found->second));
+        } else if (!classes.isIndirect() || visited.insert(classes.getObjGen()).second) {
+            renameMembers(classes, renames, nameOf, QPDFObjectHandle::newName);
+        }
     }
-    putItems(element, "/C", members);
 }
 
 /// The dictionaries of attributes that an element or a class has: one, or several with numbers of
 /// revisions between.
 std::vector<QPDFObjectHandle> attributesOf(QPDFObjectHandle attributes) {
     return attributes.isArray() ? items(attributes) : std::vector{attributes};
-}
-
-void renameHeaders(QPDFObjectHandle attributes, const Names &renames) {
-    auto headers = items(entry(attributes, "/Headers"));
-    for (auto &header : headers) {
-        const auto found =
-            header.isString() ? renames.find(header.getStringValue()) : renames.end();
-        if (found != renames.end()) {
-            header = QPDFObjectHandle::newString(found->second);
-        }
-    }
-    putItems(attributes, "/Headers", headers);
 }
 
 /// Renames the identifiers of header cells, which attributes of tables name (ISO 32000-1, table
@@ -107,11 +113,18 @@ void renameHeaders(const ImportedStructure &tree, const Names &renames) {
     for (const auto &[name, attributes] : tree.classMap) {
         holders.push_back(attributes);
     }
-    std::set<QPDFObjGen> visited; // Elements may share their attributes.
+    std::set<QPDFObjGen> visited; // Elements may share all of it.
+    const auto isNew = [&visited](const QPDFObjectHandle &object) {
+        return !object.isIndirect() || visited.insert(object.getObjGen()).second;
+    };
     for (const auto &holder : holders) {
+        if (!isNew(holder)) {
+            continue;
+        }
         for (const auto &attributes : attributesOf(holder)) {
-            if (!attributes.isIndirect() || visited.insert(attributes.getObjGen()).second) {
-                renameHeaders(attributes, renames);
+            const auto headers = entry(attributes, "/Headers");
+            if (isNew(attributes) && isNew(headers)) {
+                renameMembers(headers, renames, stringOf, QPDFObjectHandle::newString);
             }
         }
     }
@@ -190,10 +203,8 @@ void mergeClasses(std::span<ImportedStructure> trees, QPDFObjectHandle root) {
                 renames.emplace(name, free);
             }
         }
-        for (const auto &element : tree.withClass) {
-            if (!renames.empty()) {
-                renameClasses(element, renames);
-            }
+        if (!renames.empty()) {
+            renameClasses(tree, renames);
         }
     }
     if (!classes.empty()) {
@@ -207,19 +218,24 @@ void mergeIdentifiers(QPDF &document, std::span<ImportedStructure> trees, QPDFOb
     for (ImportedStructure &tree : trees) {
         Names renames;
         std::set<std::string> own;
+        for (const auto &[identifier, element] : tree.named) {
+            own.insert(identifier);
+        }
         for (auto &[identifier, element] : tree.named) {
-            if (!own.insert(identifier).second) {
+            if (renames.contains(identifier)) {
                 continue; // The first that has it is the one that is meant.
             }
             const auto free = freeName(identifier, numbers, [&](const std::string &candidate) {
-                return identifiers.contains(candidate);
+                return identifiers.contains(candidate) ||
+                       (candidate != identifier && own.contains(candidate));
             });
             identifiers.emplace(free, element);
+            renames.emplace(identifier, free);
             if (free != identifier) {
                 element.replaceKey("/ID", QPDFObjectHandle::newString(free));
-                renames.emplace(identifier, free);
             }
         }
+        std::erase_if(renames, [](const auto &name) { return name.first == name.second; });
         if (renames.empty()) {
             continue;
         }

@@ -62,19 +62,26 @@ TreeEntries readTreeEntries(const QPDFObjectHandle &root, const char *leafKey) {
     TreeEntries entries;
     std::vector<QPDFObjectHandle> pending{root};
     std::set<QPDFObjGen> visited;
+    // Lists as well: one may hold nodes that lead to it again.
+    const auto isNew = [&visited](const QPDFObjectHandle &object) {
+        return !object.isIndirect() || visited.insert(object.getObjGen()).second;
+    };
     while (!pending.empty()) {
         auto node = pending.back();
         pending.pop_back();
-        if (!node.isDictionary() ||
-            (node.isIndirect() && !visited.insert(node.getObjGen()).second)) {
+        if (!node.isDictionary() || !isNew(node)) {
             continue;
         }
-        const auto pairs = items(node.getKey(leafKey));
+        const auto leaf = node.getKey(leafKey);
+        const auto pairs = isNew(leaf) ? items(leaf) : std::vector<QPDFObjectHandle>();
         for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {
             entries.emplace_back(pairs[i], pairs[i + 1]);
         }
-        const auto kids = items(node.getKey("/Kids"));
-        pending.insert(pending.end(), kids.rbegin(), kids.rend());
+        const auto list = node.getKey("/Kids");
+        if (isNew(list)) {
+            const auto kids = items(list);
+            pending.insert(pending.end(), kids.rbegin(), kids.rend());
+        }
     }
     return entries;
 }

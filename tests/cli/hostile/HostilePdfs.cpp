@@ -193,6 +193,13 @@ QList<std::pair<const char *, QByteArray>> circles() {
                       .object(4, "<< /Kids [5 0 R] >>")
                       .object(5, "<< /Kids [4 0 R 5 0 R] >>")
                       .bytes()},
+        {"a page tree by its list", onePage()
+                                        .object(2, "<< /Type /Pages /Kids 4 0 R /Count 1 >>")
+                                        .object(4, "[3 0 R << /Type /Pages /Kids 4 0 R >>]")
+                                        .bytes()},
+        {"names by their list", onePage(link, "/Names << /Dests << /Kids 4 0 R >> >>")
+                                    .object(4, "[<< /Kids 4 0 R >>]")
+                                    .bytes()},
         {"page labels", onePage({}, "/PageLabels 4 0 R")
                             .object(4, "<< /Kids [5 0 R] >>")
                             .object(5, "<< /Kids [4 0 R] >>")
