@@ -80,18 +80,46 @@ std::optional<QString> decoded(const QByteArray &packet) {
     return decoder.hasError() ? std::nullopt : std::optional(text);
 }
 
-/// Whether the time to read a packet grows with its length alone. The reader compares each
-/// attribute of an element with all others, those that a document type gives it among them.
-bool isLinear(const QString &packet) {
-    constexpr int kMaxAttributes = 1000;
-    int attributes = 0; // At most, since the last element began.
+/// What the time to read a packet grows with.
+struct PacketCounts {
+    int names = 0;          ///< Of elements and attributes, all in all.
+    int mostAttributes = 0; ///< Of one element.
+};
+
+PacketCounts countNames(QStringView packet) {
+    PacketCounts counts;
+    bool inTag = false;
+    QChar quote; // That of the value; null outside values.
+    int attributes = 0;
     for (const QChar unit : packet) {
-        attributes = unit == u'<' ? 0 : attributes + (unit == u'=' ? 1 : 0);
-        if (attributes > kMaxAttributes) {
-            return false;
+        if (unit == u'<') { // No value and no text has one, so that what follows is a tag.
+            inTag = true;
+            quote = {};
+            attributes = 0;
+            ++counts.names;
+        } else if (!inTag || !quote.isNull()) {
+            quote = unit == quote ? QChar() : quote;
+        } else if (unit == u'"' || unit == u'\'') {
+            quote = unit;
+        } else if (unit == u'!' || unit == u'?' || unit == u'>') { // A remark or the tag's end.
+            inTag = false;
+        } else if (unit == u'=') {
+            ++counts.names;
+            counts.mostAttributes = std::max(counts.mostAttributes, ++attributes);
         }
     }
-    return !packet.contains("<!DOCTYPE"_L1);
+    return counts;
+}
+
+/// Whether a packet is read in a moment. The reader compares each attribute of an element with all
+/// others, those that a document type gives it among them, and looks for each name among all
+/// prefixes that are declared around it.
+bool isQuick(const QString &packet) {
+    constexpr int kMaxAttributes = 1000;
+    constexpr qsizetype kMaxSteps = 100'000'000;
+    const PacketCounts counts = countNames(packet);
+    return counts.mostAttributes <= kMaxAttributes &&
+           counts.names * packet.count("xmlns"_L1) <= kMaxSteps && !packet.contains("<!DOCTYPE"_L1);
 }
 
 /// Copies a packet token by token, with the names as they are spelled.
@@ -244,7 +272,7 @@ std::optional<QString> readXmpPacket(QPDF &document) {
         return std::nullopt;
     }
     const auto text = decoded(QByteArray::fromStdString(packet));
-    return text && isLinear(*text) ? text : std::nullopt;
+    return text && isQuick(*text) ? text : std::nullopt;
 }
 
 std::optional<Claims> readClaims(const QString &packet) {

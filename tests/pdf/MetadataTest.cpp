@@ -160,6 +160,20 @@ class MetadataTest : public QObject, protected MergeCase {
         QCOMPARE(properties[u"dc:rights"_s], QStringList(u"äll"_s));
     }
 
+    void packetsWithMuchOfOneKindAreRead_data() {
+        QTest::addColumn<QByteArray>("properties");
+        QTest::newRow("text with equals signs") << QByteArray("a=b; ").repeated(2000);
+        QTest::newRow("remarks") << "<!--" + QByteArray("====").repeated(1000) + "-->";
+        QTest::newRow("declarations") << QByteArray("<q:z xmlns:q=\"q\"/>").repeated(3000);
+    }
+    void packetsWithMuchOfOneKindAreRead() {
+        QFETCH(QByteArray, properties);
+        const Result result = converted(withMetadata(
+            packet({}, "<dc:rights>all</dc:rights><q:a xmlns:q=\"q\">" + properties + "</q:a>")));
+        QCOMPARE(result.warnings, QStringList());
+        QCOMPARE(propertiesOf(result.path)[u"dc:rights"_s], QStringList(u"all"_s));
+    }
+
     void aTitleThatXmlCannotHoldLeavesThePacketWellFormed() {
         DocumentInfo info;
         info.title = u"a\x01 b\uFFFE"_s;
@@ -185,6 +199,14 @@ class MetadataTest : public QObject, protected MergeCase {
             attributes += "a" + QByteArray::number(i) + "=\"\" ";
         }
         QTest::newRow("endless element") << packet(attributes);
+        QByteArray declarations;
+        for (int i = 0; i < 20'000; ++i) {
+            declarations += "<a xmlns:a" + QByteArray::number(i) + "=\"b\">";
+        }
+        QTest::newRow("endless declarations")
+            << packet({}, declarations + QByteArray("</a>").repeated(20'000));
+        QTest::newRow("endless element behind a bracket")
+            << packet("quoted=\"a > b\" " + attributes);
         QTest::newRow("too long") << packet({}) + QByteArray(5 << 20, ' ') + "<?end?>";
     }
     void metadataThatCannotBeReadIsNamed() {
