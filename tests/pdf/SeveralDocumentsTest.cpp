@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "MergeCase.h"
+#include "pdf/import/DocumentImport.h"
 #include "support/PhotoPage.h"
 #include "support/TestUnit.h"
 
@@ -115,6 +116,21 @@ class SeveralDocumentsTest : public QObject, protected MergeCase {
             context.addDocument(saved(withIntent("nonsense", "/Filter /FlateDecode")));
         }
         QCOMPARE(context.close().left, std::vector{PartKind::OutputIntents});
+    }
+
+    void whatOutputIntentsMeanIsShortHoweverLongTheirProfileIs() {
+        const QByteArray intent = "<< /S /GTS_PDFA1 /DestOutputProfile 20 0 R >> ";
+        const QString path =
+            saved(withCatalog("/OutputIntents [" + intent.repeated(60) + "]")
+                      .stream(20, "/N 3 /Filter /FlateDecode", flate(QByteArray(1 << 20, 'p'))));
+        const auto source = opened(path);
+        QPDF target;
+        target.emptyPDF();
+        SharedStreams shared;
+        SourceNames names({}, path);
+        const auto intents = importDocument(*source, target, shared, names, {}).outputIntents;
+        QCOMPARE(intents.intents.size(), 60U);
+        QCOMPARE_LT(intents.meaning.value().size(), 60 * 100);
     }
 
     void outputIntentsGoWhereAPageIsDrawn() {

@@ -8,14 +8,18 @@
 
 #include <qpdf/QPDF.hh>
 
+#include <QCryptographicHash>
+
+#include <map>
 #include <string>
 
 namespace folioforge {
 
 namespace {
 
-/// The data of a profile without its filters; nothing where it is damaged or far too long for one.
-std::optional<std::string> profileData(QPDFObjectHandle profile) {
+/// A hash of the data of a profile without its filters; nothing where it is damaged or far too long
+/// for one.
+std::optional<QByteArray> profileHash(QPDFObjectHandle profile) {
     constexpr std::size_t kMaxBytes = 16 << 20;
     if (items(profile.getDict().getKey("/Filter")).size() > 1) {
         return std::nullopt; // Each filter may unfold a thousandfold.
@@ -24,24 +28,34 @@ std::optional<std::string> profileData(QPDFObjectHandle profile) {
     BoundedBuffer collect(data, kMaxBytes);
     const bool whole =
         profile.pipeStreamData(&collect, nullptr, 0, qpdf_dl_generalized, true, false);
-    return whole ? std::optional(data) : std::nullopt;
+    return whole ? std::optional(QCryptographicHash::hash(data, QCryptographicHash::Sha256))
+                 : std::nullopt;
 }
 
 std::optional<QByteArray> meaningOf(const std::vector<QPDFObjectHandle> &intents) {
     QByteArray meaning;
+    std::map<QPDFObjGen, std::optional<QByteArray>> hashes; // Intents may share a profile.
+    const auto hashOf = [&hashes](const QPDFObjectHandle &profile) {
+        const auto [hash, isNew] = hashes.try_emplace(profile.getObjGen());
+        if (isNew) {
+            hash->second = profileHash(profile);
+        }
+        return hash->second;
+    };
     for (const auto &intent : intents) {
         auto standard = entry(intent, "/S");
         auto condition = entry(intent, "/OutputConditionIdentifier");
         auto profile = entry(intent, "/DestOutputProfile");
         // Whoever embeds a profile may call it as he likes.
-        auto what = profile.isStream()     ? profileData(profile)
-                    : condition.isString() ? std::optional(condition.getUTF8Value())
-                                           : std::nullopt;
+        auto what = profile.isStream() ? hashOf(profile)
+                    : condition.isString()
+                        ? std::optional(QByteArray::fromStdString(condition.getUTF8Value()))
+                        : std::nullopt;
         if (!what) {
             return std::nullopt;
         }
         meaning += standard.isName() ? standard.getName() : std::string();
-        meaning += ' ' + QByteArray::number(what->size()) + ' ' + QByteArray::fromStdString(*what);
+        meaning += ' ' + QByteArray::number(what->size()) + ' ' + *what;
     }
     return meaning;
 }
