@@ -253,6 +253,42 @@ class FormMergeTest : public QObject, protected MergeCase {
         QCOMPARE(names(*opened(merged({saved(source)}))).join(' '), "a b one two");
     }
 
+    void aFieldThatIsListedTwiceIsRenamedOnce() {
+        const QByteArray defaults = "/DA (/F 9 Tf) /DR << /Font << /F 3 0 R >> >>";
+        const QByteArray further = "/DA (/F 9 Tf) /DR << /Font << /F 3 0 R /F_2 30 0 R >> >>";
+        PdfFixture twice = withForm("/Fields [20 0 R 20 0 R 21 0 R] " + further);
+        twice.object(30, "<< /Type /Font /Subtype /Type1 /BaseFont /Courier >>");
+        const QString first = saved(withForm("/Fields [20 0 R 21 0 R] " + defaults));
+        const auto document = opened(merged({first, saved(twice)}));
+        auto fields = form(*document).getKey("/Fields");
+        QCOMPARE(names(*document).join(' '), "one two one_2 one_2 two_2");
+        auto appearance = fields.getArrayItem(2).getKey("/DA");
+        QCOMPARE(appearance.getStringValue(), std::string("/F_2 9 Tf"));
+        auto fonts = form(*document).getKey("/DR").getKey("/Font");
+        QCOMPARE(fonts.getKey("/F_2").getKey("/BaseFont").getName(), std::string("/Helvetica"));
+    }
+
+    void actionsThatShareAListOfFieldsStillDo() {
+        PdfFixture source = withForm("/Fields [20 0 R 21 0 R]");
+        for (const int field : {20, 21}) {
+            source.object(field, widget("/FT /Btn /T (f" + QByteArray::number(field) +
+                                        ") /A << /S /ResetForm /Fields 30 0 R >>"));
+        }
+        source.object(30, "[(f20) (f21)]");
+        const QString path = saved(source);
+        for (const QStringList &sources : {QStringList{path}, QStringList{path, path}}) {
+            const auto document = opened(merged(sources));
+            const auto fields = form(*document).getKey("/Fields").getArrayAsVector();
+            const auto listOf = [&](std::size_t field) {
+                return QPDFObjectHandle(fields.at(field)).getKey("/A").getKey("/Fields");
+            };
+            const std::size_t last = fields.size() - 1;
+            QVERIFY(listOf(last).isSameObjectAs(listOf(last - 1)));
+            QCOMPARE(listOf(last).getArrayItem(1).getUTF8Value(),
+                     QPDFObjectHandle(fields.back()).getKey("/T").getUTF8Value());
+        }
+    }
+
     void theCalculationOrderOfAllSourcesIsJoined() {
         const PdfFixture source = withForm("/Fields [20 0 R 21 0 R] /CO [21 0 R 7 20 0 R 4 0 R]");
         const QString path = saved(source);

@@ -6,6 +6,7 @@
 #include "pdf/import/FieldTree.h"
 
 #include <qpdf/BufferInputSource.hh>
+#include <qpdf/QPDF.hh>
 #include <qpdf/QPDFTokenizer.hh>
 
 #include <algorithm>
@@ -75,6 +76,14 @@ QPDFObjectHandle renamedField(QPDFObjectHandle name, const Renames &renames) {
                : QPDFObjectHandle::newUnicodeString(found->second + text.substr(top));
 }
 
+QPDFObjectHandle renamedFields(const QPDFObjectHandle &array, const Renames &renames) {
+    auto fields = items(array);
+    for (auto &field : fields) {
+        field = renamedField(field, renames);
+    }
+    return QPDFObjectHandle::newArray(fields);
+}
+
 } // namespace
 
 bool namesFields(const std::map<std::string, QPDFObjectHandle> &action) {
@@ -85,8 +94,12 @@ bool namesFields(const std::map<std::string, QPDFObjectHandle> &action) {
                                [&](const char *name) { return value.isNameAndEquals(name); });
 }
 
-void renameInAppearances(const QPDFObjectHandle &root, const CategoryRenames &renames) {
-    visitFields({root}, [&](QPDFObjectHandle field) {
+void renameInAppearances(const std::vector<QPDFObjectHandle> &roots,
+                         const CategoryRenames &renames) {
+    if (renames.empty()) {
+        return;
+    }
+    visitFields(roots, [&](QPDFObjectHandle field) {
         auto appearance = field.getKey("/DA");
         if (appearance.isString()) {
             field.replaceKey("/DA", QPDFObjectHandle::newString(
@@ -97,16 +110,22 @@ void renameInAppearances(const QPDFObjectHandle &root, const CategoryRenames &re
 }
 
 void renameInActions(const std::vector<QPDFObjectHandle> &actions, const Renames &renames) {
+    if (renames.empty()) {
+        return;
+    }
+    std::map<QPDFObjGen, QPDFObjectHandle> arrays; // New ones by the old: actions may share them.
     for (QPDFObjectHandle action : actions) {
         for (const char *key : kFieldKeys) {
             auto named = action.getKey(key);
-            auto fields = items(named);
-            for (auto &field : fields) {
-                field = renamedField(field, renames);
-            }
-            if (named.isArray()) {
-                // An array of its own: another action may refer to the same one.
-                action.replaceKey(key, QPDFObjectHandle::newArray(fields));
+            if (named.isIndirect() && named.isArray()) {
+                const auto [array, isNew] = arrays.try_emplace(named.getObjGen());
+                if (isNew) {
+                    array->second =
+                        named.getOwningQPDF()->makeIndirectObject(renamedFields(named, renames));
+                }
+                action.replaceKey(key, array->second);
+            } else if (named.isArray()) {
+                action.replaceKey(key, renamedFields(named, renames));
             } else if (named.isString()) {
                 action.replaceKey(key, renamedField(named, renames));
             }

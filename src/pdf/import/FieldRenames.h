@@ -17,8 +17,10 @@ using CategoryRenames = std::map<std::string, Renames>; ///< By category, such a
 /// Whether an action may name form fields by their text (ISO 32000-1, 12.7.5).
 bool namesFields(const std::map<std::string, QPDFObjectHandle> &action);
 
-/// Renames in the default appearances of a field and all fields under it.
-void renameInAppearances(const QPDFObjectHandle &root, const CategoryRenames &renames);
+/// Renames in the default appearances of the fields `roots` and all fields under them, once in
+/// each.
+void renameInAppearances(const std::vector<QPDFObjectHandle> &roots,
+                         const CategoryRenames &renames);
 
 /// Lets actions such as a reset follow the names of the fields that they name.
 void renameInActions(const std::vector<QPDFObjectHandle> &actions, const Renames &renames);

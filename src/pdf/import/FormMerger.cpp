@@ -126,10 +126,8 @@ Warnings FormMerger::add(ImportedForm form) {
     const CategoryRenames resources = addResources(form.resources);
     for (const auto &field : form.fields) {
         keepDefaults(field, form);
-        if (!resources.empty()) {
-            renameInAppearances(field, resources);
-        }
     }
+    renameInAppearances(form.fields, resources);
     const Renames names = renameFields(form);
     renameInActions(form.actions, names);
     std::ranges::copy(form.fields, std::back_inserter(m_form.fields));
