@@ -21,13 +21,14 @@ class AttachmentsTest : public QObject, protected MergeCase {
                                  "0 R " +
                                      page + " >>");
     }
-    /// An embedded file `name` as objects 20 and 21, which begins with `content`.
+    /// An embedded file `name` as objects `number` and the next, which begins with `content`.
     static PdfFixture &withFile(PdfFixture &fixture, const QByteArray &name,
-                                const QByteArray &content) {
+                                const QByteArray &content, int number = 20) {
         return fixture
-            .object(20, "<< /Type /Filespec /F (" + name + ") /UF (" + name +
-                            ") /AFRelationship /Data /EF << /F 21 0 R >> >>")
-            .stream(21, "/Type /EmbeddedFile /Subtype /text#2Fxml", content + bytes());
+            .object(number, "<< /Type /Filespec /F (" + name + ") /UF (" + name +
+                                ") /AFRelationship /Data /EF << /F " +
+                                QByteArray::number(number + 1) + " 0 R >> >>")
+            .stream(number + 1, "/Type /EmbeddedFile /Subtype /text#2Fxml", content + bytes());
     }
     static PdfFixture attached(const QByteArray &key, const QByteArray &name,
                                const QByteArray &content) {
@@ -99,6 +100,28 @@ class AttachmentsTest : public QObject, protected MergeCase {
         const QString result = merged({savedAs(u"a.pdf"_s, attached("1", "data", "A")),
                                        savedAs(u"b.pdf"_s, attached("2", "data", "B"))});
         QCOMPARE(listed(result), QStringList({u"1:data"_s, u"2:data (b)"_s}));
+    }
+
+    void filesUnderOneKeyOfTheirSourceAllCome() {
+        PdfFixture source = withCatalog("/Names << /EmbeddedFiles << /Names [(a) 20 0 R (a) 22 0 R "
+                                        "(a) 22 0 R] >> >>");
+        withFile(source, "one", "1");
+        const QString path = savedAs(u"s.pdf"_s, withFile(source, "two", "2", 22));
+        QCOMPARE(detached(merged({path}, true)), QStringList({u"one=1"_s, u"two=2"_s}));
+        const QString result = merged({path, path});
+        QCOMPARE(detached(result),
+                 QStringList({u"one=1"_s, u"one (s)=1"_s, u"two=2"_s, u"two (s)=2"_s}));
+        QCOMPARE(listed(result), QStringList({u"a:one"_s, u"a (s 2):one (s)"_s,
+                                              u"a (s 3):two (s)"_s, u"a (s):two"_s}));
+    }
+
+    void filesUnderOneKeyInTwoEncodingsAllCome() {
+        PdfFixture source = withCatalog("/Names << /EmbeddedFiles << /Names [(a) 20 0 R <FEFF0061> "
+                                        "22 0 R] >> >>");
+        withFile(source, "one", "1");
+        const QString path = savedAs(u"s.pdf"_s, withFile(source, "two", "2", 22));
+        QCOMPARE(detached(merged({path, path})),
+                 QStringList({u"one=1"_s, u"one (s)=1"_s, u"two=2"_s, u"two (s)=2"_s}));
     }
 
     void aLongNameOfASourceIsCut() {

@@ -175,6 +175,27 @@ class NamesTest : public QObject, protected MergeCase {
         }
     }
 
+    void namesThatCannotBeDecodedStayApart() {
+        const PdfFixture source =
+            linked("/Names << /Dests << /Names [<61AD> [4 0 R /Fit] <619F> [5 "
+                   "0 R /Fit]] >> >>",
+                   "/Dest <619F>");
+        const QString path = savedAs(u"a.pdf"_s, source);
+        const QString result = merged({path, path});
+        QCOMPARE(linkedPages(result), u"2 4"_s);
+        const auto document = opened(result);
+        auto root = document->getRoot().getKey("/Names").getKey("/Dests");
+        QCOMPARE(root.getKey("/Names").getArrayNItems(), 2 * 4);
+    }
+
+    void aNameThatRepeatsKeepsAllItsPlaces() {
+        const QString path = savedAs(
+            u"a.pdf"_s, linked("/Names << /Dests << /Names [(one) [5 0 R /Fit] (one) [4 0 R /Fit] "
+                               "(one) [4 0 R /Fit]] >> >>",
+                               "/Dest (one)"));
+        QCOMPARE(destinations(merged({path})), u"one (a):1, one:2"_s);
+    }
+
     void pagesByTheirNumberAreThoseOfTheirSource() {
         const PdfFixture source =
             linked("/Names << /Dests << /Names [(array) [1 /Fit] (dictionary) "
@@ -237,6 +258,13 @@ class NamesTest : public QObject, protected MergeCase {
             order += pairs[i + 1].getKey("/JS").getStringValue().c_str();
         }
         QCOMPARE(order, "y1y2x1x2y1y2");
+    }
+
+    void scriptsOfOneNameInOneSourceAllRun() {
+        const QString path =
+            saved(withNames("/JavaScript", "(b) << /S /JavaScript /JS (1) >> (a) << /S /JavaScript "
+                                           "/JS (2) >> (a) << /S /JavaScript /JS (3) >>"));
+        QCOMPARE(namesIn(*opened(merged({path}, true)), "/JavaScript").join(','), "1 b,2 a,3 a");
     }
 
     void elevenScriptsStayInTheirOrder() {

@@ -46,7 +46,7 @@ Destinations importDestinations(QPDF &source, SourceNames &names, ObjectCopier &
                                     copier.copyDestination(destination));
     }
     for (const auto &[name, destination] : read.tree) {
-        imported.tree.emplace_back(names.renamed(kDestinations, name),
+        imported.tree.emplace_back(names.nextKey(kDestinations, name),
                                    copier.copyDestination(destination));
     }
     return imported;

@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <set>
+#include <string_view>
 
 namespace folioforge {
 
@@ -40,6 +42,14 @@ NamedObjects numberedScripts(const std::vector<TreeEntries> &sources) {
     return numbered;
 }
 
+/// Whether numbers are needed to keep all scripts and their order.
+bool needNumbers(const std::vector<TreeEntries> &sources) {
+    std::set<std::string> names;
+    return sources.size() > 1 || std::ranges::any_of(sources.front(), [&](const auto &named) {
+               return !names.insert(QPDFObjectHandle(named.first).getStringValue()).second;
+           });
+}
+
 } // namespace
 
 ImportedNameTrees importNameTrees(QPDF &source, SourceNames &names, ObjectCopier &copier) {
@@ -50,7 +60,7 @@ ImportedNameTrees importNameTrees(QPDF &source, SourceNames &names, ObjectCopier
         if (entries.empty()) {
             continue;
         }
-        const bool isScripts = key == kScripts;
+        const bool isScripts = std::string_view(key) == kScripts;
         if (!isScripts) {
             std::vector<QPDFObjectHandle> own;
             std::ranges::transform(entries, std::back_inserter(own),
@@ -61,7 +71,7 @@ ImportedNameTrees importNameTrees(QPDF &source, SourceNames &names, ObjectCopier
             auto copied = copier.copy(object);
             if (!copied.isNull()) {
                 imported[key].emplace_back(isScripts ? QPDFObjectHandle(name).shallowCopy()
-                                                     : names.renamed(key, name),
+                                                     : names.nextKey(key, name),
                                            copied);
             }
         }
@@ -90,7 +100,7 @@ void NameTreeMerger::add(const ImportedNameTrees &imported) {
 }
 
 void NameTreeMerger::finish(QPDF &document) {
-    if (m_scripts.size() > 1) {
+    if (!m_scripts.empty() && needNumbers(m_scripts)) {
         m_trees[kScripts] = numberedScripts(m_scripts);
     } else if (!m_scripts.empty()) {
         addNames(m_trees[kScripts], m_scripts.front());

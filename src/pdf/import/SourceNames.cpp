@@ -2,6 +2,7 @@
 
 #include "pdf/import/SourceNames.h"
 
+#include <QByteArrayView>
 #include <QFileInfo>
 
 namespace folioforge {
@@ -22,6 +23,15 @@ std::size_t endOfStem(const std::string &table, const std::string &name) {
     const auto dot = name.rfind('.');
     const bool isFile = table == kAttachments || table == kFileNames;
     return isFile && dot != std::string::npos && dot > 0 ? dot : name.size();
+}
+
+/// `text`, as nameText() gives it, as an object of the kind of `name`.
+QPDFObjectHandle called(const std::string &text, QPDFObjectHandle name) {
+    if (name.isName()) {
+        return QPDFObjectHandle::newName('/' + text);
+    }
+    return QByteArrayView(text).isValidUtf8() ? QPDFObjectHandle::newUnicodeString(text)
+                                              : QPDFObjectHandle::newString(text);
 }
 
 } // namespace
@@ -83,25 +93,33 @@ QPDFObjectHandle SourceNames::renamed(const std::string &table, QPDFObjectHandle
             ? known->second
             : give(table, text,
                    m_taken.contains(table, text) || m_given.tables[table].contains(text));
-    if (unique == text) {
-        return name.shallowCopy();
-    }
-    return name.isName() ? QPDFObjectHandle::newName('/' + unique)
-                         : QPDFObjectHandle::newUnicodeString(unique);
+    return unique == text ? name.shallowCopy() : called(unique, name);
+}
+
+QPDFObjectHandle SourceNames::nextKey(const std::string &table, const QPDFObjectHandle &name) {
+    auto key = renamed(table, name);
+    return m_keys[table].insert(key.getStringValue()).second
+               ? key
+               : called(take(table, nameText(name), true), name);
 }
 
 const std::string &SourceNames::give(const std::string &table, const std::string &name,
                                      bool clashes) {
+    return m_renames[table].emplace(name, take(table, name, clashes)).first->second;
+}
+
+std::string SourceNames::take(const std::string &table, const std::string &name, bool clashes) {
     std::set<std::string> &names = m_given.tables[table];
     std::string unique = name;
-    for (int number = m_number; clashes; ++number) {
-        unique = told(table, name, number);
+    while (clashes) {
+        int &number = m_numbers.try_emplace({table, name}, m_number).first->second;
+        unique = told(table, name, number++);
         clashes = m_taken.contains(table, unique) || names.contains(unique);
     }
     names.insert(unique);
     // The keys of attachments are not what anybody sees.
     m_given.renamed += unique != name && table != kAttachments ? 1 : 0;
-    return m_renames[table].emplace(name, unique).first->second;
+    return unique;
 }
 
 std::string SourceNames::told(const std::string &table, const std::string &name, int number) const {

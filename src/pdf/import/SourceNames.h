@@ -10,6 +10,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace folioforge {
@@ -19,7 +20,8 @@ inline constexpr const char *kDestinations = "/Dests"; ///< Also the names of th
 inline constexpr const char *kAttachments = "/EmbeddedFiles";
 inline constexpr const char *kFileNames = "/UF"; ///< Under which attachments are saved.
 
-/// The text of a name or a string, equal for those that readers take for the same.
+/// The text of a name or a string, equal for those that readers take for the same: UTF-8, or the
+/// bytes of what cannot be decoded.
 std::string nameText(QPDFObjectHandle name);
 
 /// The names that a source has in the document that is made, by table.
@@ -54,10 +56,14 @@ class SourceNames {
     /// What `name`, a name or a string, is called in the document that is made. One that the source
     /// refers to without having it becomes one that nobody has.
     QPDFObjectHandle renamed(const std::string &table, QPDFObjectHandle name);
+    /// The key of the next entry of a name tree: as renamed(), or a further name where an entry
+    /// before it has that already.
+    QPDFObjectHandle nextKey(const std::string &table, const QPDFObjectHandle &name);
     [[nodiscard]] const GivenNames &given() const { return m_given; }
 
   private:
     const std::string &give(const std::string &table, const std::string &name, bool clashes);
+    std::string take(const std::string &table, const std::string &name, bool clashes);
     [[nodiscard]] std::string told(const std::string &table, const std::string &name,
                                    int number) const;
 
@@ -65,6 +71,8 @@ class SourceNames {
     GivenNames m_given;
     int m_number; ///< Of this source among those that are called the same, from 1.
     std::map<std::string, std::map<std::string, std::string>> m_renames; ///< By table.
+    std::map<std::string, std::set<std::string>> m_keys;                 ///< Bytes, by table.
+    std::map<std::pair<std::string, std::string>, int> m_numbers;        ///< The next to try.
 };
 
 } // namespace folioforge

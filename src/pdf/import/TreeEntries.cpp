@@ -7,6 +7,7 @@
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 namespace folioforge {
@@ -100,7 +101,21 @@ QPDFObjectHandle buildTree(QPDF &document, const TreeEntries &entries, const cha
 
 TreeEntries readNameTree(const QPDFObjectHandle &root) {
     TreeEntries entries = readTreeEntries(root, "/Names");
-    std::erase_if(entries, [](auto &pair) { return !pair.first.isString(); });
+    std::map<std::string, QPDFObjectHandle> first;
+    std::map<std::string, std::set<std::string>> repeated;
+    std::erase_if(entries, [&](auto &pair) {
+        auto &[name, object] = pair;
+        if (!name.isString()) {
+            return true;
+        }
+        const auto [known, isNew] = first.try_emplace(name.getStringValue(), object);
+        if (isNew) {
+            return false;
+        }
+        std::set<std::string> &objects = repeated[known->first];
+        objects.insert(known->second.unparse());
+        return !objects.insert(object.unparse()).second;
+    });
     return entries;
 }
 
