@@ -3,6 +3,8 @@
 #include "pdf/DocumentInfo.h"
 
 #include "error/Error.h"
+#include "pdf/XmpInfo.h"
+#include "pdf/XmpPacket.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -55,20 +57,23 @@ void fixCreationDate(DocumentInfo &info) {
 
 void takeMissingInfo(DocumentInfo &info, QPDF &source) {
     auto given = source.getTrailer().getKey("/Info");
-    const auto textOf = [&given](const char *key) {
+    const auto packet = readXmpPacket(source);
+    const DocumentInfo metadata = infoInXmp(packet.value_or(QString()));
+    const auto textOf = [&given](const char *key, const QString &otherwise) {
         auto value = given.isDictionary() ? given.getKey(key) : QPDFObjectHandle::newNull();
-        return value.isString() ? QString::fromStdString(value.getUTF8Value()) : QString();
+        const bool isGiven = value.isString() && !value.getStringValue().empty();
+        return isGiven ? QString::fromStdString(value.getUTF8Value()) : otherwise;
     };
-    const auto take = [&textOf](QString &field, const char *key) {
+    const auto take = [&textOf](QString &field, const char *key, const QString &otherwise) {
         if (field.isNull()) {
-            field = textOf(key);
+            field = textOf(key, otherwise);
         }
     };
-    take(info.title, "/Title");
-    take(info.author, "/Author");
-    take(info.subject, "/Subject");
-    take(info.keywords, "/Keywords");
-    if (const QString creator = textOf("/Creator"); !creator.isEmpty()) {
+    take(info.title, "/Title", metadata.title);
+    take(info.author, "/Author", metadata.author);
+    take(info.subject, "/Subject", metadata.subject);
+    take(info.keywords, "/Keywords", metadata.keywords);
+    if (const QString creator = textOf("/Creator", metadata.creator); !creator.isEmpty()) {
         info.creator = creator;
     }
 }

@@ -31,7 +31,7 @@ std::optional<QDateTime> sourceDate();
 void fixCreationDate(DocumentInfo &info);
 
 /// Fills the fields of `info` that are null, and the creator, with what the information of `source`
-/// says of them.
+/// says of them, or else its metadata.
 void takeMissingInfo(DocumentInfo &info, QPDF &source);
 
 /// The producer that is written.

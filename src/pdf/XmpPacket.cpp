@@ -4,6 +4,7 @@
 
 #include "pdf/BoundedBuffer.h"
 #include "pdf/DocumentInfo.h"
+#include "pdf/XmpNames.h"
 #include "pdf/import/Entries.h"
 
 #include <qpdf/QPDF.hh>
@@ -23,10 +24,6 @@ namespace folioforge {
 
 namespace {
 
-constexpr auto kRdf = "http://www.w3.org/1999/02/22-rdf-syntax-ns#"_L1;
-constexpr auto kDc = "http://purl.org/dc/elements/1.1/"_L1;
-constexpr auto kPdf = "http://ns.adobe.com/pdf/1.3/"_L1;
-constexpr auto kXmp = "http://ns.adobe.com/xap/1.0/"_L1;
 constexpr auto kPdfA = "http://www.aiim.org/pdfa/ns/id/"_L1;
 constexpr auto kPdfUA = "http://www.aiim.org/pdfua/ns/id/"_L1;
 
@@ -170,7 +167,7 @@ class XmpRewriter {
 
     void beginElement() {
         const bool isProperty = m_rdfDepth > 0 && m_depth == m_rdfDepth + 1;
-        if (isProperty && isReplaced(m_reader.namespaceUri(), m_reader.name())) {
+        if (isReplaced(m_reader.namespaceUri(), m_reader.name(), isProperty)) {
             m_reader.skipCurrentElement();
             return;
         }
@@ -193,15 +190,16 @@ class XmpRewriter {
             if (ofNode && attribute.namespaceUri() == kRdf && attribute.name() == "about"_L1) {
                 m_about = attribute.value().toString();
             }
-            if (!ofNode || !isReplaced(attribute.namespaceUri(), attribute.name())) {
+            if (!isReplaced(attribute.namespaceUri(), attribute.name(), ofNode)) {
                 m_writer.writeAttribute(attribute.qualifiedName().toString(),
                                         attribute.value().toString());
             }
         }
     }
 
-    [[nodiscard]] bool isReplaced(QStringView space, QStringView name) const {
-        return isOfInfo(space, name) || (space == kPdfA && m_kept.pdfA.isEmpty()) ||
+    /// A claim goes wherever it stands, since it is read so, too.
+    [[nodiscard]] bool isReplaced(QStringView space, QStringView name, bool ofNode) const {
+        return (ofNode && isOfInfo(space, name)) || (space == kPdfA && m_kept.pdfA.isEmpty()) ||
                (space == kPdfUA && m_kept.pdfUA.isEmpty());
     }
 

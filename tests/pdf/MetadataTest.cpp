@@ -250,6 +250,58 @@ class MetadataTest : public QObject, protected MergeCase {
         QVERIFY(!written.contains("pdfaid:part") && !written.contains("pdfaid:rev"));
     }
 
+    void aClaimThatGoesStandsNowhere() {
+        PDFContext::Settings settings;
+        settings.encryption = std::make_unique<Encryption>();
+        settings.encryption->userPassword = u"secret"_s;
+        const QByteArray deep =
+            "<q:z xmlns:q=\"q\"><r:Description pdfaid:rev=\"1\"><pdfaid:part>2</pdfaid:part>"
+            "</r:Description></q:z><dc:rights>all</dc:rights>";
+        const Result result =
+            converted(saved(withMetadata(packet(kPdfA, deep))), std::move(settings));
+        QCOMPARE(result.warnings.size(), 1);
+        const QByteArray written =
+            runTool(u"pdfinfo"_s, {u"-meta"_s, u"-upw"_s, u"secret"_s, result.path}).out;
+        QVERIFY(written.contains("<dc:rights>all"));
+        QVERIFY2(!written.contains("pdfaid:part") && !written.contains("pdfaid:rev"),
+                 written.constData());
+    }
+
+    void infoThatThePacketAloneHasIsKept() {
+        PDFContext::Settings settings;
+        settings.keepInfo = true;
+        const Result result = converted(
+            saved(withMetadata(
+                packet(kPdfUA + QByteArray("pdfuaid:part=\"1\" pdf:Keywords=\"k1; k2\" "
+                                           "xmp:CreatorTool=\"A tool\""),
+                       "<dc:title><r:Alt><r:li xml:lang=\"de\">Titel</r:li><r:li "
+                       "xml:lang=\"x-default\">Title</r:li></r:Alt></dc:title><dc:creator><r:Seq>"
+                       "<r:li>Anna</r:li><r:li>Bert</r:li></r:Seq></dc:creator>"
+                       "<dc:description>Plain</dc:description>"))),
+            std::move(settings));
+        QCOMPARE(result.warnings, QStringList());
+        const PdfProbe probe(result.path);
+        QCOMPARE(probe.info(u"Title"_s), u"Title"_s);
+        QCOMPARE(probe.info(u"Author"_s), u"Anna, Bert"_s);
+        QCOMPARE(probe.info(u"Subject"_s), u"Plain"_s);
+        QCOMPARE(probe.info(u"Keywords"_s), u"k1; k2"_s);
+        QCOMPARE(probe.info(u"Creator"_s), u"A tool"_s);
+        const auto properties = propertiesOf(result.path);
+        QCOMPARE(properties[u"dc:title"_s], QStringList(u"Title"_s));
+        QCOMPARE(properties[u"pdfuaid:part"_s], QStringList(u"1"_s));
+    }
+
+    void theInformationOfADocumentComesBeforeItsPacket() {
+        PDFContext::Settings settings;
+        settings.keepInfo = true;
+        const QByteArray title = "<dc:title>of the packet</dc:title>";
+        PdfFixture source = withMetadata(packet({}, title + "<dc:description>s</dc:description>"));
+        source.object(30, "<< /Title (of the document) /Subject () >>").trailer("/Info 30 0 R");
+        const PdfProbe probe(converted(saved(source), std::move(settings)).path);
+        QCOMPARE(probe.info(u"Title"_s), u"of the document"_s);
+        QCOMPARE(probe.info(u"Subject"_s), u"s"_s);
+    }
+
     void whatTheDocumentDoesNotKeepIsNotClaimed_data() {
         QTest::addColumn<QByteArray>("claim");
         QTest::addColumn<QString>("title");
@@ -288,6 +340,8 @@ class MetadataTest : public QObject, protected MergeCase {
         const Result result = converted(path, {});
         QCOMPARE(result.warnings.last(), u"claim-dropped: The document no longer says that it is "
                                          "PDF/A-2, since it was damaged"_s);
+        QVERIFY(packetOf(result.path).contains("rdf-syntax"));
+        QVERIFY(!packetOf(result.path).contains("pdfaid:part"));
     }
 
     void pdfA1IsWrittenAsPdf14() {
