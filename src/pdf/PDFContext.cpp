@@ -233,7 +233,7 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         SourceNames names(m_catalog.names(), sourcePath);
         ImportOptions options{m_settings.oneSource ? ImportScope::WholeDocument
                                                    : ImportScope::OneOfSeveral,
-                              m_settings.info, m_settings.encryption != nullptr, pageCount() == 0};
+                              m_settings.info, m_settings.encryption != nullptr, pageCount()};
         ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
             if (m_settings.keepInfo) {
                 takeMissingInfo(options.info, *source);

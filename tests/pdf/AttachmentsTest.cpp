@@ -195,6 +195,46 @@ class AttachmentsTest : public QObject, protected MergeCase {
         QCOMPARE(target(1).getKey("/N").getUTF8Value(), std::string("inner"));
     }
 
+    void anActionFollowsThePageOfTheAnnotationThatHoldsItsFile() {
+        const QByteArray link = "<< /Type /Annot /Subtype /Link /Rect [0 0 9 9] /A << /S /GoToE /D "
+                                "[0 /Fit] /T << /R /C /A 0 /P ";
+        PdfFixture source = withCatalog(
+            "/Names << /Dests << /Names [(page) [4 0 R /Fit]] >> >>",
+            "/Annots [<< /Type /Annot /Subtype /FileAttachment /Rect [0 0 9 9] /FS 20 0 R >> " +
+                link + "0 >> >> >> " + link + "(page) >> >> >> " + link + "1 >> >> >>]");
+        const QString path = savedAs(u"a.pdf"_s, withFile(source, "inner.pdf", "A"));
+        const auto document = opened(merged({path, path}));
+        QPDFObjectHandle page = document->getAllPages().at(1);
+        const auto target = [&](int number) {
+            return page.getKey("/Annots").getArrayItem(number).getKey("/A").getKey("/T");
+        };
+        QCOMPARE(target(1).getKey("/P").getIntValue(), 1);
+        QCOMPARE(target(2).getKey("/P").getUTF8Value(), std::string("page (a)"));
+        QVERIFY(!target(3).hasKey("/P"));
+        QCOMPARE(target(3).getKey("/A").getIntValue(), 0);
+    }
+
+    void aTargetThatIsADestinationTooIsFollowedAsBoth() {
+        for (const bool targetFirst : {false, true}) {
+            const QByteArray target = "<< /Type /Annot /Subtype /Link /Rect [0 0 9 9] /A << /S "
+                                      "/GoToE /D (one) /T 22 0 R >> >>";
+            const QByteArray place =
+                "<< /Type /Annot /Subtype /Link /Rect [0 0 9 9] /Dest 22 0 R >>";
+            PdfFixture source =
+                withCatalog("/Names << /EmbeddedFiles << /Names [(inner) 20 0 R] >> >>",
+                            "/Annots [" + (targetFirst ? target + place : place + target) + "]")
+                    .object(22, "<< /R /C /N (inner) /D [0 /Fit] >>");
+            const QString path = savedAs(u"a.pdf"_s, withFile(source, "inner.pdf", "A"));
+            const auto document = opened(merged({path, path}));
+            QPDFObjectHandle page = document->getAllPages().at(1);
+            auto links = page.getKey("/Annots");
+            auto action = links.getArrayItem(targetFirst ? 0 : 1).getKey("/A");
+            QCOMPARE(action.getKey("/T").getKey("/N").getUTF8Value(), std::string("inner (a)"));
+            auto shown = links.getArrayItem(targetFirst ? 1 : 0).getKey("/Dest").getKey("/D");
+            QCOMPARE(shown.getArrayItem(0).getObjGen(), page.getObjGen());
+        }
+    }
+
     void aPortfolioStaysOneWhereItIsAllOfTheDocument() {
         PdfFixture source = withCatalog("/Names << /EmbeddedFiles << /Names [(one.xml) 20 0 R] >> "
                                         ">> /Collection << /View /T /D (one.xml) >>");

@@ -322,9 +322,16 @@ class NamesTest : public QObject, protected MergeCase {
         QVERIFY(root.getKey("/Kids").getArrayNItems() <= 64);
     }
 
+    void articleThreadsStandInTheOrderOfTheirSourcesWithTheirPages_data() {
+        QTest::addColumn<QByteArray>("destination");
+        QTest::newRow("number") << QByteArray("0");
+        QTest::newRow("title") << QByteArray("<FEFF00410072007400690063006C0065>");
+        QTest::newRow("thread") << QByteArray("20 0 R");
+    }
     void articleThreadsStandInTheOrderOfTheirSourcesWithTheirPages() {
+        QFETCH(QByteArray, destination);
         const PdfFixture source =
-            linked("/Threads [20 0 R]", "/A << /S /Thread /D 0 >>")
+            linked("/Threads [20 0 R]", "/A << /S /Thread /D " + destination + " >>")
                 .object(5, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] /B [21 0 R] >>")
                 .object(20, "<< /Type /Thread /F 21 0 R /I << /Title (Article) >> >>")
                 .object(21, "<< /Type /Bead /T 20 0 R /N 21 0 R /V 21 0 R /P 5 0 R /R [0 0 9 9] "
@@ -343,6 +350,23 @@ class NamesTest : public QObject, protected MergeCase {
             QPDFObjectHandle first = pages.at(2 * copy);
             auto action = first.getKey("/Annots").getArrayItem(0).getKey("/A");
             QCOMPARE(action.getKey("/D").getObjGen(), thread.getObjGen());
+        }
+    }
+
+    void aThreadThatItsOwnSourceLacksIsNoneOfAnother() {
+        const auto source = [this](const QByteArray &threads, const QByteArray &destination) {
+            return saved(
+                linked("/Threads [" + threads + "]", "/A << /S /Thread /D " + destination + " >>")
+                    .object(20, "<< /Type /Thread /F 21 0 R /I << /Title (Article) >> >>")
+                    .object(21, "<< /Type /Bead /T 20 0 R /N 21 0 R /V 21 0 R /P 5 0 R >>"));
+        };
+        const auto document =
+            opened(merged({source("20 0 R", "20 0 R"), source({}, "(Article)"), source({}, "0")}));
+        const auto &pages = document->getAllPages();
+        for (const std::size_t page : {2U, 4U}) {
+            QPDFObjectHandle linking = pages.at(page);
+            auto action = linking.getKey("/Annots").getArrayItem(0).getKey("/A");
+            QVERIFY(!action.hasKey("/D"));
         }
     }
 };

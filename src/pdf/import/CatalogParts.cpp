@@ -35,7 +35,7 @@ bool isCarried(std::string_view key, const ImportOptions &options) {
     static constexpr std::array<std::string_view, 4> kOpening{"/OpenAction", "/ViewerPreferences",
                                                               "/PageMode", "/PageLayout"};
     if (options.scope == ImportScope::OneOfSeveral) {
-        return options.begins && std::ranges::find(kOpening, key) != kOpening.end();
+        return options.firstPage == 0 && std::ranges::find(kOpening, key) != kOpening.end();
     }
     return !belongsElsewhere(key);
 }

@@ -76,7 +76,7 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
         shared.damagedPages = pagesThatLackObjects(found.pages);
     }
     const Warnings missing = missingEntries(source);
-    copier.makePages(found.pages);
+    copier.makePages(found.pages, options.firstPage);
     imported.outputIntents = importOutputIntents(source, copier);
     imported.structure = importStructure(source, target, copier);
     imported.destinations = importDestinations(source, names, copier);

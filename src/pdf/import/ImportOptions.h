@@ -12,7 +12,7 @@ struct ImportOptions {
     ImportScope scope = ImportScope::OneOfSeveral;
     DocumentInfo info;
     bool encrypted = false;
-    bool begins = false; ///< No page stands before those of the source.
+    int firstPage = 0; ///< How many pages stand before those of the source.
 };
 
 } // namespace folioforge

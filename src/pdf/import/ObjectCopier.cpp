@@ -58,7 +58,8 @@ ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared, So
     , m_shared(shared)
     , m_names(names) {}
 
-void ObjectCopier::makePages(const std::vector<SourcePage> &pages) {
+void ObjectCopier::makePages(const std::vector<SourcePage> &pages, int firstPage) {
+    m_firstPage = firstPage;
     // The library walks the tree again at every stream, with a recursion as deep as the tree.
     m_source.getRoot().replaceKey("/Pages",
                                   QPDFObjectHandle::parse("<< /Type /Pages /Kids [] /Count 0 >>"));

@@ -4,11 +4,13 @@
 
 #include "pdf/import/PageTree.h"
 #include "pdf/import/SharedStreams.h"
+#include "pdf/import/Threads.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <QtGlobal>
 
+#include <cstddef>
 #include <deque>
 #include <map>
 #include <optional>
@@ -31,8 +33,9 @@ class ObjectCopier {
     /// What is referred to by name follows `names`.
     ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared, SourceNames &names);
 
-    /// Makes the copies of all pages of the source, still empty. Call it first.
-    void makePages(const std::vector<SourcePage> &pages);
+    /// Makes the copies of all pages of the source, still empty. The first of them becomes page
+    /// `firstPage` of the document, from 0. Call it first.
+    void makePages(const std::vector<SourcePage> &pages, int firstPage);
     /// Copies what the pages hold. Call it once, when the structure tree is copied.
     std::vector<QPDFObjectHandle> fillPages(const std::vector<SourcePage> &pages);
     /// The copy of `object`. run() fills an indirect one.
@@ -71,6 +74,11 @@ class ObjectCopier {
         QPDFObjectHandle target;
         Fill fill;
     };
+    /// The copy of what several may refer to as one kind of place.
+    struct Followed {
+        Fill fill;
+        QPDFObjectHandle copy;
+    };
     struct PendingStream {
         QPDFObjectHandle target;
         Dictionary dictionary;
@@ -84,6 +92,8 @@ class ObjectCopier {
     QPDFObjectHandle copyDictionary(const Dictionary &dictionary);
     QPDFObjectHandle copyEntry(const Dictionary &dictionary, const std::string &key,
                                const QPDFObjectHandle &value);
+    QPDFObjectHandle copyThread(const QPDFObjectHandle &destination);
+    [[nodiscard]] std::optional<std::size_t> pageIndex(QPDFObjectHandle number) const;
     [[nodiscard]] std::optional<QPDFObjectHandle> pageByNumber(QPDFObjectHandle destination) const;
     QPDFObjectHandle copyNumbered(QPDFObjectHandle destination);
     QPDFObjectHandle copyTarget(QPDFObjectHandle target);
@@ -100,9 +110,11 @@ class ObjectCopier {
     SharedStreams &m_shared;
     SourceNames &m_names;
     std::map<QPDFObjGen, QPDFObjectHandle> m_copies;
-    std::map<int, QPDFObjectHandle> m_inherited;       ///< By InheritedValue::number.
-    std::map<QPDFObjGen, QPDFObjectHandle> m_followed; ///< By follow().
+    std::map<int, QPDFObjectHandle> m_inherited;            ///< By InheritedValue::number.
+    std::map<QPDFObjGen, std::vector<Followed>> m_followed; ///< By follow().
+    std::optional<SourceThreads> m_threads; ///< Read when the first action leads to one.
     std::vector<QPDFObjectHandle> m_targetPages;
+    int m_firstPage = 0;
     std::deque<Pending> m_pending;
     std::deque<PendingStream> m_pendingStreams;
     std::vector<QPDFObjectHandle> m_fieldActions;

@@ -43,9 +43,10 @@ bool refersToStructure(const Dictionary &dictionary, const std::string &key) {
            });
 }
 
-/// Whether the target of an embedded go-to action is a file attached to the document.
-bool namesAttachment(const QPDFObjectHandle &target) {
-    return entry(target, "/N").isString() && entry(target, "/R").isNameAndEquals("/C");
+/// Whether the target of an embedded go-to action is a file of the document: one of its name tree
+/// or one of an annotation.
+bool isOwnFile(const QPDFObjectHandle &target) {
+    return entry(target, "/R").isNameAndEquals("/C");
 }
 
 } // namespace
@@ -57,13 +58,13 @@ QPDFObjectHandle ObjectCopier::copyEntry(const Dictionary &dictionary, const std
     }
     if (key == "/D") {
         return isAction(dictionary, "/GoTo")        ? copyDestination(value)
-               : isOwnAction(dictionary, "/Thread") ? copy(threadOf(m_source, value))
+               : isOwnAction(dictionary, "/Thread") ? copyThread(value)
                                                     : copy(value);
     }
     if (refersToStructure(dictionary, key)) {
         return copyStructureReference(value);
     }
-    return key == "/T" && namesAttachment(value) && isOwnAction(dictionary, "/GoToE")
+    return key == "/T" && isOwnFile(value) && isOwnAction(dictionary, "/GoToE")
                ? follow(value, &ObjectCopier::copyTarget)
                : copy(value);
 }
@@ -76,14 +77,28 @@ QPDFObjectHandle ObjectCopier::copyDestination(const QPDFObjectHandle &destinati
     return pageByNumber(value) ? follow(value, &ObjectCopier::copyNumbered) : copy(value);
 }
 
+/// A number means a thread of this source, which may be another in the document that is made, and a
+/// title may be that of others too.
+QPDFObjectHandle ObjectCopier::copyThread(const QPDFObjectHandle &destination) {
+    if (!m_threads) {
+        m_threads.emplace(m_source);
+    }
+    return copy(m_threads->find(destination));
+}
+
+/// The page of the source with that number from 0, if it is one.
+std::optional<std::size_t> ObjectCopier::pageIndex(QPDFObjectHandle number) const {
+    const auto index = number.isInteger() ? number.getIntValue() : -1;
+    const bool isPage = index >= 0 && index < static_cast<long long>(m_targetPages.size());
+    return isPage ? std::optional(static_cast<std::size_t>(index)) : std::nullopt;
+}
+
 /// The copied page to which a destination leads by its number, as some writers give it.
 std::optional<QPDFObjectHandle> ObjectCopier::pageByNumber(QPDFObjectHandle destination) const {
     auto array = destination.isDictionary() ? destination.getKey("/D") : destination;
     const bool hasPage = array.isArray() && array.getArrayNItems() > 0;
-    auto page = hasPage ? array.getArrayItem(0) : QPDFObjectHandle::newNull();
-    const auto number = page.isInteger() ? page.getIntValue() : -1;
-    const bool isPage = number >= 0 && number < static_cast<long long>(m_targetPages.size());
-    return isPage ? std::optional(m_targetPages[static_cast<std::size_t>(number)]) : std::nullopt;
+    const auto index = hasPage ? pageIndex(array.getArrayItem(0)) : std::nullopt;
+    return index ? std::optional(m_targetPages[*index]) : std::nullopt;
 }
 
 QPDFObjectHandle ObjectCopier::copyNumbered(QPDFObjectHandle destination) {
@@ -117,9 +132,23 @@ QPDFObjectHandle ObjectCopier::copyElementPlace(QPDFObjectHandle place) {
     return copied;
 }
 
-/// A target of an embedded go-to action, which may name a file attached to the document.
+/// A target of an embedded go-to action (ISO 32000-1, 12.6.4.4), which finds the file by its name
+/// or the annotation by its page. A number of no page leads nowhere.
 QPDFObjectHandle ObjectCopier::copyTarget(QPDFObjectHandle target) {
-    return copyWith(target, "/N", m_names.renamed(kAttachments, target.getKey("/N")));
+    auto copied = copyDictionary(target.getDictAsMap());
+    if (auto name = target.getKey("/N"); name.isString()) {
+        copied.replaceKey("/N", m_names.renamed(kAttachments, name));
+    }
+    auto page = target.getKey("/P");
+    if (page.isString()) {
+        copied.replaceKey("/P", m_names.renamed(kDestinations, page));
+    } else if (const auto index = pageIndex(page)) {
+        copied.replaceKey(
+            "/P", QPDFObjectHandle::newInteger(m_firstPage + static_cast<long long>(*index)));
+    } else if (page.isInteger()) {
+        copied.removeKey("/P");
+    }
+    return copied;
 }
 
 /// The copy of a dictionary with another value of `key`.
@@ -138,12 +167,14 @@ QPDFObjectHandle ObjectCopier::follow(const QPDFObjectHandle &object, Fill fill)
     if (!object.isIndirect()) {
         return (this->*fill)(object);
     }
-    auto &copied = m_followed[object.getObjGen()];
-    if (!copied.isInitialized()) {
-        copied = QPDFObjectHandle::newReserved(&m_target);
-        m_pending.push_back({object, copied, fill});
+    auto &copies = m_followed[object.getObjGen()];
+    const auto known = std::ranges::find(copies, fill, &Followed::fill);
+    if (known != copies.end()) {
+        return known->copy;
     }
-    return copied;
+    copies.push_back({fill, QPDFObjectHandle::newReserved(&m_target)});
+    m_pending.push_back({object, copies.back().copy, fill});
+    return copies.back().copy;
 }
 
 } // namespace folioforge

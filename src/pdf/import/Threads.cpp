@@ -16,14 +16,27 @@ ImportedThreads importThreads(QPDF &source, ObjectCopier &copier) {
     return copier.copyItems(entry(source.getRoot(), "/Threads"));
 }
 
-QPDFObjectHandle threadOf(QPDF &source, const QPDFObjectHandle &destination) {
-    auto threads = entry(source.getRoot(), "/Threads");
-    const auto number = QPDFObjectHandle(destination).isInteger()
-                            ? QPDFObjectHandle(destination).getIntValue()
-                            : -1;
-    return number >= 0 && threads.isArray() && number < threads.getArrayNItems()
-               ? threads.getArrayItem(static_cast<int>(number))
-               : destination;
+SourceThreads::SourceThreads(QPDF &source)
+    : m_threads(items(entry(source.getRoot(), "/Threads"))) {
+    for (const auto &thread : m_threads) {
+        auto title = entry(entry(thread, "/I"), "/Title");
+        if (title.isString()) {
+            m_titles.emplace(title.getUTF8Value(), thread);
+        }
+    }
+}
+
+QPDFObjectHandle SourceThreads::find(QPDFObjectHandle destination) const {
+    if (destination.isInteger()) {
+        const auto number = destination.getIntValue();
+        const bool has = number >= 0 && number < static_cast<long long>(m_threads.size());
+        return has ? m_threads[static_cast<std::size_t>(number)] : QPDFObjectHandle::newNull();
+    }
+    if (destination.isString()) {
+        const auto found = m_titles.find(destination.getUTF8Value());
+        return found == m_titles.end() ? QPDFObjectHandle::newNull() : found->second;
+    }
+    return destination;
 }
 
 void ThreadMerger::add(const ImportedThreads &imported) {

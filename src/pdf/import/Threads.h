@@ -4,6 +4,8 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <map>
+#include <string>
 #include <vector>
 
 class QPDF;
@@ -17,9 +19,18 @@ using ImportedThreads = std::vector<QPDFObjectHandle>;
 
 ImportedThreads importThreads(QPDF &source, ObjectCopier &copier);
 
-/// The thread to which `destination`, /D of a thread action, leads. A number means one of this
-/// source, which may be another in the document that is made. What is no such number is given back.
-QPDFObjectHandle threadOf(QPDF &source, const QPDFObjectHandle &destination);
+/// The article threads of a source by what thread actions say.
+class SourceThreads {
+  public:
+    explicit SourceThreads(QPDF &source);
+    /// The thread to which `destination`, /D of a thread action, leads: a number from 0, a title,
+    /// or the thread itself. Null where the source has none such.
+    [[nodiscard]] QPDFObjectHandle find(QPDFObjectHandle destination) const;
+
+  private:
+    std::vector<QPDFObjectHandle> m_threads;
+    std::map<std::string, QPDFObjectHandle> m_titles; ///< The first of each title.
+};
 
 /// The threads of the document that is made: those of its sources, in their order.
 class ThreadMerger {
