@@ -60,6 +60,21 @@ class FormMergeTest : public QObject, protected MergeCase {
         }
         return names;
     }
+    /// Whether a document is refused as a form whose pages another program makes, shown or added.
+    bool isRefused(const PdfFixture &source) {
+        const QString path = saved(source);
+        const auto isRefusedBy = [](const auto &work) {
+            try {
+                work();
+            } catch (const Error &error) {
+                return error.reason() ==
+                       u"It is a dynamic XFA form, whose pages only a program for such forms makes";
+            }
+            return false;
+        };
+        return isRefusedBy([&] { summarizePDF(path); }) &&
+               isRefusedBy([&] { PDFContext(newPath(), unflushed()).addDocument(path); });
+    }
     /// The last of what is said while `sources` are added.
     QStringList said(const QStringList &sources) {
         PDFContext context(newPath(), unflushed());
@@ -77,27 +92,41 @@ class FormMergeTest : public QObject, protected MergeCase {
     void aFormWhosePagesAnotherProgramMakesIsRefused_data() {
         QTest::addColumn<QByteArray>("form");
         QTest::addColumn<QByteArray>("catalog");
-        QTest::newRow("without fields") << QByteArray("/XFA 30 0 R /Fields []") << QByteArray();
-        QTest::newRow("without a list") << QByteArray("/XFA [(a) 30 0 R]") << QByteArray();
+        QTest::newRow("to be rendered without fields")
+            << QByteArray("/XFA 30 0 R /Fields []") << QByteArray("/NeedsRendering true");
         QTest::newRow("to be rendered") << QByteArray("/XFA 30 0 R /Fields [20 0 R 21 0 R]")
                                         << QByteArray("/NeedsRendering true");
     }
     void aFormWhosePagesAnotherProgramMakesIsRefused() {
         QFETCH(QByteArray, form);
         QFETCH(QByteArray, catalog);
-        const QString path = saved(withXfa(form, catalog));
-        const auto refusal = [](const auto &work) {
-            try {
-                work();
-            } catch (const Error &error) {
-                return error.reason();
-            }
-            return QString();
-        };
-        const QString reason =
-            u"It is a dynamic XFA form, whose pages only a program for such forms makes"_s;
-        QCOMPARE(refusal([&] { summarizePDF(path); }), reason);
-        QCOMPARE(refusal([&] { PDFContext(newPath(), unflushed()).addDocument(path); }), reason);
+        QVERIFY(isRefused(withXfa(form, catalog)));
+    }
+
+    void anXfaFormWithoutFieldsIsRefusedWhereAllThatItShowsIsOnePage_data() {
+        QTest::addColumn<int>("pages");
+        QTest::addColumn<QByteArray>("form");
+        QTest::addColumn<QByteArray>("annotation");
+        QTest::addColumn<bool>("refused");
+        const QByteArray note = "<< /Type /Annot /Subtype /Text /Rect [0 0 9 9] >>";
+        const QByteArray empty = "/XFA 30 0 R /Fields []";
+        QTest::newRow("without fields") << 1 << empty << note << true;
+        QTest::newRow("without a list") << 1 << QByteArray("/XFA [(a) 30 0 R]") << note << true;
+        QTest::newRow("a widget") << 1 << empty << widget("/FT /Tx /T (a)") << false;
+        QTest::newRow("two pages") << 2 << empty << note << false;
+    }
+    void anXfaFormWithoutFieldsIsRefusedWhereAllThatItShowsIsOnePage() {
+        QFETCH(int, pages);
+        QFETCH(QByteArray, form);
+        QFETCH(QByteArray, annotation);
+        QFETCH(bool, refused);
+        PdfFixture source = withXfa(form);
+        source.object(2, "<< /Type /Pages /Kids [4 0 R 5 0 R] /Count 2 >>").object(20, annotation);
+        source.object(21, "<< /Type /Annot /Subtype /Text /Rect [0 0 9 9] >>");
+        if (pages == 1) {
+            source.object(2, "<< /Type /Pages /Kids [4 0 R] /Count 1 >>");
+        }
+        QCOMPARE(isRefused(source), refused);
     }
 
     void aFormBesideItsXfaStaysAFormWithoutIt() {

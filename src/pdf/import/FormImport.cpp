@@ -8,6 +8,7 @@
 
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
 #include <vector>
 
 namespace folioforge {
@@ -24,6 +25,14 @@ std::vector<QPDFObjectHandle> listedFields(QPDF &source) {
 /// Whether the bit that tells of signature fields, the first of /SigFlags, is set.
 bool saysSignatures(QPDFObjectHandle flags) {
     return flags.isInteger() && flags.getIntValue() % 2 != 0;
+}
+
+bool isOnePageWithoutWidgets(QPDF &source) {
+    const auto found = readSourcePages(source).pages;
+    return found.size() == 1 &&
+           std::ranges::none_of(items(entry(found.front().page, "/Annots")), [](const auto &shown) {
+               return entry(shown, "/Subtype").isNameAndEquals("/Widget");
+           });
 }
 
 } // namespace
@@ -50,7 +59,8 @@ bool isDynamicForm(QPDF &source) {
     const auto catalog = source.getRoot();
     auto xfa = entry(entry(catalog, "/AcroForm"), "/XFA");
     const bool isThere = xfa.isStream() || !items(xfa).empty();
-    return isThere && (isTrue(entry(catalog, "/NeedsRendering")) || listedFields(source).empty());
+    return isThere && (isTrue(entry(catalog, "/NeedsRendering")) ||
+                       (listedFields(source).empty() && isOnePageWithoutWidgets(source)));
 }
 
 } // namespace folioforge

@@ -30,7 +30,7 @@ struct ImportedForm {
 ImportedForm importForm(QPDF &source, const std::vector<SourcePage> &pages, ObjectCopier &copier);
 
 /// Whether the pages of `source` are made by a program that fills forms in (dynamic XFA). What
-/// stands in the file is a page that asks for such a program.
+/// stands in the file is a page that asks for such a program; a form that was drawn has more.
 bool isDynamicForm(QPDF &source);
 
 } // namespace folioforge
