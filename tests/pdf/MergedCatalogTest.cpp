@@ -5,6 +5,7 @@
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFAcroFormDocumentHelper.hh>
+#include <qpdf/QPDFOutlineDocumentHelper.hh>
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -69,6 +70,23 @@ class MergedCatalogTest : public QObject {
     }
 
   private Q_SLOTS:
+    void bookmarksThatStandInOthersComeLikeAllOthers() {
+        const auto source =
+            withCatalog("/Outlines << /First << /Title (1) /First 21 0 R /Last 21 0 R /Count 1 "
+                        "/Next 20 0 R >> /Last 20 0 R >>")
+                .object(20, "<< /Title (2) /Next << /Title (3) /Next << /Title (4) >> >> >>")
+                .object(21, "<< /Title (1.1) >>");
+        const auto document = merged({source, source});
+        QByteArrayList titles;
+        for (auto &item : QPDFOutlineDocumentHelper(*document).getTopLevelOutlines()) {
+            titles += QByteArray::fromStdString(item.getTitle());
+            QVERIFY(item.getObjectHandle().isIndirect());
+            QCOMPARE(item.getKids().size(), titles.last() == "1" ? 1U : 0U);
+        }
+        QCOMPARE(titles.join(' '), "1 2 3 4 1 2 3 4");
+        QCOMPARE(catalogEntry(*document, "/Outlines", "/Count").getIntValue(), 2 * 5);
+    }
+
     void aClosedBookmarkIsOneLine() {
         const auto source = withCatalog("/Outlines << /First 20 0 R /Last 20 0 R >>")
                                 .object(20, "<< /Title (Closed) /Count -3 >>");

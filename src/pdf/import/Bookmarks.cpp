@@ -32,9 +32,19 @@ long long visibleLines(QPDFObjectHandle item) {
 ImportedBookmarks importBookmarks(QPDF &source, ObjectCopier &copier) {
     ImportedBookmarks bookmarks;
     std::set<QPDFObjGen> visited;
-    auto item = entry(source.getRoot().getKey("/Outlines"), "/First");
-    while (item.isDictionary() && item.isIndirect() && visited.insert(item.getObjGen()).second) {
+    auto holder = source.getRoot().getKey("/Outlines");
+    auto item = entry(holder, "/First");
+    for (const char *key = "/First"; item.isDictionary(); key = "/Next") {
+        if (!item.isIndirect()) {
+            // One that stands in another is made an object of its own, as it has to be.
+            item = source.makeIndirectObject(item);
+            holder.replaceKey(key, item);
+        }
+        if (!visited.insert(item.getObjGen()).second) {
+            break;
+        }
         bookmarks.push_back(copier.copy(item));
+        holder = item;
         item = item.getKey("/Next");
     }
     return bookmarks;
