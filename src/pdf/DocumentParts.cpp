@@ -37,6 +37,8 @@ constexpr std::array kWords{
     PartWords{PartKind::Destinations, "destinations"_L1, "1 named destination"_L1,
               "%1 named destinations"_L1},
     PartWords{PartKind::FurtherNames, "further-names"_L1, "further names"_L1, {}},
+    PartWords{PartKind::FurtherEntries, "further-entries"_L1, "1 further catalog entry"_L1,
+              "%1 further catalog entries"_L1},
     PartWords{PartKind::RenamedNames, "renamed-names"_L1, "1 renamed name"_L1,
               "%1 renamed names"_L1},
 };

@@ -34,8 +34,9 @@ enum class PartKind {
     Fields,
     Layers,
     Destinations,
-    FurtherNames, ///< Tables of names that the standard does not know.
-    RenamedNames, ///< To be told apart from those of other sources.
+    FurtherNames,   ///< Tables of names that the standard does not know.
+    FurtherEntries, ///< Of the catalog, such as what a program keeps for itself.
+    RenamedNames,   ///< To be told apart from those of other sources.
 };
 
 /// How many there are of each kind; a kind of which there is none is absent.

@@ -47,9 +47,15 @@ class LeftPartsTest : public QObject, protected MergeCase {
         };
         row(u"a portfolio"_s, "/Collection << /View /T >>");
         row(u"further names"_s, "/Names << /ABCD_Own << /Names [(a) 20 0 R] >> >>");
+        row(u"1 further catalog entry"_s, "/PieceInfo << /App << /Private 1 >> >>");
+        row(u"2 further catalog entries"_s, "/DPartRoot << /A 1 >> /ABCD_Own (a)");
+        row(u"further layer settings"_s, "/OCProperties << /OCGs [] /D << /Intent /Design >> >>");
         row(u"an XFA form"_s, "/AcroForm << /Fields [<< >>] /XFA [(a) (b)] >>");
         row(u"document scripts"_s, "/AA << /WC << /S /JavaScript /JS (1) >> >>");
-        row(u"further layer settings"_s, "/OCProperties << /OCGs [] /D << >> /Configs [<< >>] >>");
+        const QByteArray list = "/OCProperties << /OCGs [] /D << /ListMode /VisiblePages >> >>";
+        QTest::newRow("list of layers") << list << u"further layer settings"_s;
+        const QByteArray settings = "/OCProperties << /OCGs [] /D << >> /Configs [<< >>] >>";
+        QTest::newRow("settings of layers") << settings << u"further layer settings"_s;
         row(u"a base address of links"_s, "/URI << /Base (http://example.org/) >>");
         row(u"usage rights"_s, "/Perms << /UR3 20 0 R >>");
         row(u"a portfolio, usage rights"_s, "/Perms << /UR3 20 0 R >> /Collection << >>");
@@ -67,7 +73,9 @@ class LeftPartsTest : public QObject, protected MergeCase {
             "/FitWindow true >> /OpenAction << /S /GoTo /D [4 0 R /Fit] >> /MarkInfo << /Marked "
             "false >> /Names << /Dests << /Names [] >> /EmbeddedFiles << /Names [] >> >> "
             "/StructTreeRoot << >> /AcroForm << /Fields [] >> /AF [] /AA << >> /OutputIntents [] "
-            "/Threads []";
+            "/Threads [] /Extensions << /ADBE << >> >> /PieceInfo << >> /OCProperties << /OCGs [] "
+            "/D << "
+            "/ListMode /AllPages /Intent /View >> >>";
         QCOMPARE(said(withCatalog(keys)), QString());
         QCOMPARE(said(withCatalog("/OpenAction [4 0 R /Fit]")), QString());
     }

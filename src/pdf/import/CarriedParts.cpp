@@ -123,8 +123,7 @@ PartCounts countCarried(const ImportedDocument &imported) {
     addParts(parts, PartKind::Fields, countFields(imported.form.fields));
     addParts(parts, PartKind::Layers,
              static_cast<std::size_t>(std::ranges::count_if(imported.layers.groups, isEntry)));
-    addParts(parts, PartKind::LayerSettings,
-             items(entry(imported.layers.whole, "/Configs")).size());
+    addParts(parts, PartKind::LayerSettings, countLayerSettings(imported.layers.whole));
     addNamedParts(parts, imported);
     addParts(parts, PartKind::OutputIntents, imported.outputIntents.intents.size());
     addParts(parts, PartKind::Metadata, imported.metadata.packet.isEmpty() ? 0 : 1);

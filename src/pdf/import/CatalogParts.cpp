@@ -30,12 +30,26 @@ bool belongsElsewhere(std::string_view key) {
     return std::ranges::find(kKeys, key) != kKeys.end();
 }
 
+bool saysHowToOpen(std::string_view key) {
+    static constexpr std::array<std::string_view, 4> kKeys{"/OpenAction", "/ViewerPreferences",
+                                                           "/PageMode", "/PageLayout"};
+    return std::ranges::find(kKeys, key) != kKeys.end();
+}
+
+/// Whether an entry is one of those of which nothing else here knows, and says something. The
+/// language is that of the structure tags, declared extensions go into the version.
+bool isFurther(std::string_view key, QPDFObjectHandle value) {
+    static constexpr std::array<std::string_view, 4> kKnown{"/AA", "/URI", "/Lang", "/Extensions"};
+    const bool isEmpty = value.isNull() || (value.isDictionary() && value.getKeys().empty()) ||
+                         (value.isArray() && value.getArrayNItems() == 0);
+    return !isEmpty && !belongsElsewhere(key) && !saysHowToOpen(key) &&
+           std::ranges::find(kKnown, key) == kKnown.end();
+}
+
 /// Whether an entry stays: of several sources, how readers open the first.
 bool isCarried(std::string_view key, const ImportOptions &options) {
-    static constexpr std::array<std::string_view, 4> kOpening{"/OpenAction", "/ViewerPreferences",
-                                                              "/PageMode", "/PageLayout"};
     if (options.scope == ImportScope::OneOfSeveral) {
-        return options.firstPage == 0 && std::ranges::find(kOpening, key) != kOpening.end();
+        return options.firstPage == 0 && saysHowToOpen(key);
     }
     return !belongsElsewhere(key);
 }
@@ -83,6 +97,9 @@ PartCounts countCatalogParts(const ImportedCatalogParts &parts) {
     addParts(counts, PartKind::Scripts, countScripts(parts));
     addParts(counts, PartKind::BaseAddress,
              entry(entryOf(parts, "/URI"), "/Base").isNull() ? 0 : 1);
+    addParts(counts, PartKind::FurtherEntries,
+             static_cast<std::size_t>(std::ranges::count_if(
+                 parts, [](const auto &part) { return isFurther(part.first, part.second); })));
     return counts;
 }
 

@@ -53,6 +53,15 @@ ImportedLayers importLayers(QPDF &source, ObjectCopier &copier, ImportScope scop
     return imported;
 }
 
+std::size_t countLayerSettings(const QPDFObjectHandle &layers) {
+    const auto differs = [&](const char *key, const char *usual) {
+        auto value = entry(entry(layers, "/D"), key);
+        return value.isNull() || value.isNameAndEquals(usual) ? 0U : 1U;
+    };
+    return items(entry(layers, "/Configs")).size() + differs("/ListMode", "/AllPages") +
+           differs("/Intent", "/View");
+}
+
 void LayerMerger::add(const ImportedLayers &imported) {
     std::ranges::copy_if(imported.groups, std::back_inserter(m_layers.groups), isEntry);
     std::ranges::copy_if(imported.off, std::back_inserter(m_layers.off), isEntry);

@@ -6,6 +6,7 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <cstddef>
 #include <vector>
 
 class QPDF;
@@ -27,6 +28,9 @@ struct ImportedLayers {
 };
 
 ImportedLayers importLayers(QPDF &source, ObjectCopier &copier, ImportScope scope);
+
+/// How many settings the layers of a source, its /OCProperties, have that no merged document has.
+std::size_t countLayerSettings(const QPDFObjectHandle &layers);
 
 /// The layers of the document that is made: those of its sources, each in the state that its source
 /// gives it.

@@ -6,6 +6,7 @@
 #include "pdf/import/CatalogParts.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/ImportOptions.h"
+#include "pdf/import/Layers.h"
 #include "pdf/import/NameTrees.h"
 
 #include <qpdf/QPDF.hh>
@@ -77,7 +78,7 @@ PartCounts countLeft(QPDF &source, const ImportOptions &options) {
         add(PartKind::Portfolio, entry(catalog, "/Collection").isDictionary());
         add(PartKind::Metadata, saysMoreThanProperties(source));
         addParts(left, PartKind::LayerSettings,
-                 items(entry(entry(catalog, "/OCProperties"), "/Configs")).size());
+                 countLayerSettings(entry(catalog, "/OCProperties")));
         for (const auto &[kind, count] : countCatalogParts(catalogPartsLeft(source, options))) {
             addParts(left, kind, count);
         }
