@@ -297,6 +297,17 @@ class FormMergeTest : public QObject, protected MergeCase {
         QCOMPARE(fonts.getKey("/F_2").getKey("/BaseFont").getName(), std::string("/Helvetica"));
     }
 
+    void actionsFollowANameThatHoldsADot() {
+        PdfFixture source = withForm("/Fields [20 0 R 21 0 R]");
+        source.object(20, widget("/FT /Btn /T (a.b) /A << /S /ResetForm /Fields [(a.b)] >>"));
+        const QString path = saved(source);
+        const auto document = opened(merged({path, path}));
+        auto second = form(*document).getKey("/Fields").getArrayItem(2);
+        QCOMPARE(second.getKey("/T").getUTF8Value(), std::string("a.b_2"));
+        auto reset = second.getKey("/A").getKey("/Fields");
+        QCOMPARE(reset.getArrayItem(0).getUTF8Value(), std::string("a.b_2"));
+    }
+
     void actionsThatShareAListOfFieldsStillDo() {
         PdfFixture source = withForm("/Fields [20 0 R 21 0 R]");
         for (const int field : {20, 21}) {

@@ -72,6 +72,15 @@ class SourceDocumentTest : public QObject {
                                "missing"_s);
     }
 
+    void aDocumentEncryptedForCertificatesIsRefusedWithoutItsTrailer() {
+        PdfFixture fixture;
+        fixture.pages(4, 1).object(1, "<< /Type /Catalog /Pages 2 0 R >>");
+        fixture.object(20, "<< /Filter /Adobe.PubSec /SubFilter /adbe.pkcs7.s5 /V 4 >>");
+        const QByteArray bytes = fixture.bytes();
+        QCOMPARE(refusal(saved(u"cut.pdf"_s, bytes.first(bytes.indexOf("xref\n0")))),
+                 u"The document is damaged: its trailer and its table of objects are missing"_s);
+    }
+
     void tellsAnEncryptedDocument_data() {
         QTest::addColumn<QString>("user");
         QTest::addColumn<QStringList>("options");

@@ -69,7 +69,8 @@ QPDFObjectHandle renamedField(QPDFObjectHandle name, const Renames &renames) {
         return name;
     }
     const std::string text = name.getUTF8Value();
-    const auto top = std::min(text.find('.'), text.size());
+    // A damaged form may have a name with a dot.
+    const auto top = renames.contains(text) ? text.size() : std::min(text.find('.'), text.size());
     const auto found = renames.find(text.substr(0, top));
     return found == renames.end()
                ? name

@@ -73,7 +73,8 @@ std::string lostTrailer(const FileVersion &file, SourceReader &reader) {
         if (const auto before = beforeLast(text, "/Type", "/Catalog")) {
             catalog = openObject(*before);
         }
-        if (beforeLast(text, "/Filter", "/Standard")) {
+        if (beforeLast(text, "/Filter", "/Standard") ||
+            beforeLast(text, "/Filter", "/Adobe.PubSec")) {
             return {};
         }
     }
