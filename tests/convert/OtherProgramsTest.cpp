@@ -55,6 +55,16 @@ class OtherProgramsTest : public QObject {
         }
     }
 
+    /// What `program` says; the test fails where it does.
+    static ToolRun succeeding(const QString &program, const QStringList &arguments) {
+        ToolRun run = runTool(program, arguments);
+        if (run.exitCode != 0) {
+            QTest::qFail(qPrintable(program + u": "_s + QString::fromUtf8(run.err)), __FILE__,
+                         __LINE__);
+        }
+        return run;
+    }
+
     /// The tree of a tagged document with its text, without the elements that only hold all others,
     /// its depth and the numbers of objects, which differ from file to file.
     static QList<QByteArray> structureOf(const QString &path) {
@@ -63,7 +73,7 @@ class OtherProgramsTest : public QObject {
         // Identifiers that another source has too get a number.
         static const QRegularExpression suffix(u"_\\d+(?=\\))"_s);
         QList<QByteArray> lines;
-        const ToolRun run = runTool(u"pdfinfo"_s, {u"-struct-text"_s, path});
+        const ToolRun run = succeeding(u"pdfinfo"_s, {u"-struct-text"_s, path});
         for (const QByteArray &line : run.out.split('\n')) {
             QString text = QString::fromUtf8(line.trimmed());
             if (!text.isEmpty() && !document.match(text).hasMatch()) {
@@ -78,7 +88,7 @@ class OtherProgramsTest : public QObject {
     QList<QByteArray> attachmentsOf(const QString &path) const {
         QTemporaryDir folder;
         QList<QByteArray> contents;
-        runTool(u"pdfdetach"_s, {u"-saveall"_s, u"-o"_s, folder.path(), path});
+        succeeding(u"pdfdetach"_s, {u"-saveall"_s, u"-o"_s, folder.path(), path});
         for (const QString &name : QDir(folder.path()).entryList(QDir::Files)) {
             contents += readFile(folder.filePath(name));
         }
@@ -87,7 +97,7 @@ class OtherProgramsTest : public QObject {
     }
 
     static QJsonArray fieldsOf(const QString &path) {
-        const ToolRun run = runTool(u"qpdf"_s, {u"--json"_s, u"--json-key=acroform"_s, path});
+        const ToolRun run = succeeding(u"qpdf"_s, {u"--json"_s, u"--json-key=acroform"_s, path});
         return QJsonDocument::fromJson(run.out)[u"acroform"_s][u"fields"_s].toArray();
     }
 
@@ -179,6 +189,13 @@ class OtherProgramsTest : public QObject {
                                  PdfProbe(path).pageCount()});
         }
         QVERIFY(m_sources.size() >= 6);
+        const auto anyHas = [this](auto part) {
+            return std::ranges::any_of(
+                m_sources, [part](const Source &source) { return !(source.*part).isEmpty(); });
+        };
+        QVERIFY(anyHas(&Source::structure));
+        QVERIFY(anyHas(&Source::attachments));
+        QVERIFY(anyHas(&Source::fields));
         for (auto one = m_sources.cbegin(); one != m_sources.cend(); ++one) {
             for (auto other = one; other != m_sources.cend(); ++other) {
                 m_pairs.push_back({*one, *other, merged({one->path, other->path})});
