@@ -69,6 +69,12 @@ class CarriedPartsTest : public QObject, protected MergeCase {
         QCOMPARE(parts(source).carried, (PartCounts{{PartKind::Bookmarks, 3}}));
     }
 
+    void bookmarksThatStandInOthersAreCountedOnce() {
+        PdfFixture source = withCatalog("/Outlines << /First << /Title (1) /Next 20 0 R >> >>");
+        source.object(20, "<< /Title (2) /Next << /Title (3) /Next << /Title (4) >> >> >>");
+        QCOMPARE(parts(source).carried, (PartCounts{{PartKind::Bookmarks, 4}}));
+    }
+
     void fieldsAreCountedAndNotTheirWidgets() {
         const QByteArray widget = "<< /Subtype /Widget /Rect [0 0 9 9] /Parent ";
         PdfFixture source = withAnnotations("24 0 R 25 0 R 26 0 R",
