@@ -17,7 +17,7 @@ function(folioforge_tests room)
     add_executable(${target} ${TESTS_SOURCES} "${PROJECT_SOURCE_DIR}/tests/support/TestMain.cpp")
     target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
     target_link_libraries(${target} PRIVATE
-        ${TESTS_LINKS} folioforge_test_support Qt6::Test folioforge_compiler)
+        folioforge_compiler ${TESTS_LINKS} folioforge_test_support Qt6::Test)
     set_source_files_properties("${PROJECT_SOURCE_DIR}/tests/support/TestMain.cpp" PROPERTIES
         COMPILE_DEFINITIONS FOLIOFORGE_TEST_APPLICATION=${TESTS_APPLICATION})
     if(TESTS_HEADERS)

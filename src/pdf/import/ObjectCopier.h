@@ -95,6 +95,7 @@ class ObjectCopier {
     QPDFObjectHandle copyThread(const QPDFObjectHandle &destination);
     [[nodiscard]] std::optional<std::size_t> pageIndex(QPDFObjectHandle number) const;
     [[nodiscard]] std::optional<QPDFObjectHandle> pageByNumber(QPDFObjectHandle destination) const;
+    QPDFObjectHandle copyName(QPDFObjectHandle name);
     QPDFObjectHandle copyNumbered(QPDFObjectHandle destination);
     QPDFObjectHandle copyTarget(QPDFObjectHandle target);
     QPDFObjectHandle copyWith(QPDFObjectHandle dictionary, const std::string &key,

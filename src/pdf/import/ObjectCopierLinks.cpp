@@ -72,9 +72,13 @@ QPDFObjectHandle ObjectCopier::copyEntry(const Dictionary &dictionary, const std
 QPDFObjectHandle ObjectCopier::copyDestination(const QPDFObjectHandle &destination) {
     QPDFObjectHandle value = destination;
     if (value.isName() || value.isString()) {
-        return m_names.renamed(kDestinations, value);
+        return follow(value, &ObjectCopier::copyName);
     }
     return pageByNumber(value) ? follow(value, &ObjectCopier::copyNumbered) : copy(value);
+}
+
+QPDFObjectHandle ObjectCopier::copyName(QPDFObjectHandle name) {
+    return m_names.renamed(kDestinations, name);
 }
 
 /// A number means a thread of this source, which may be another in the document that is made, and a

@@ -143,7 +143,9 @@ void StructureWalk::note(Dictionary &members, const QPDFObjectHandle &target) {
         m_structure.withAttributes.push_back(target);
     }
     const auto id = members.find("/ID");
-    if (id != members.end() && id->second.isString()) {
+    constexpr std::size_t kMaxLength = 1000; // Far beyond any writer's; elements may share one.
+    if (id != members.end() && id->second.isString() &&
+        id->second.getStringValue().size() <= kMaxLength) {
         m_structure.named.emplace_back(id->second.getStringValue(), target);
     }
     ++m_structure.elements;

@@ -43,7 +43,7 @@ QPDFObjectHandle parentsOf(const MarkedContent &content) {
 void putParentTree(QPDF &document, const std::vector<ImportedStructure> &trees,
                    QPDFObjectHandle root) {
     TreeEntries entries;
-    const auto add = [&entries](QPDFObjectHandle holder, const char *name,
+    const auto add = [&entries](const QPDFObjectHandle &holder, const char *name,
                                 const auto &makeParents) {
         auto dictionary = dictionaryOf(holder);
         if (!dictionary.isDictionary() || dictionary.hasKey(name)) {

@@ -221,7 +221,8 @@ void mergeIdentifiers(QPDF &document, std::span<ImportedStructure> trees, QPDFOb
         for (const auto &[identifier, element] : tree.named) {
             own.insert(identifier);
         }
-        for (auto &[identifier, element] : tree.named) {
+        for (auto &named : tree.named) {
+            const std::string &identifier = named.first;
             if (renames.contains(identifier)) {
                 continue; // The first that has it is the one that is meant.
             }
@@ -229,10 +230,10 @@ void mergeIdentifiers(QPDF &document, std::span<ImportedStructure> trees, QPDFOb
                 return identifiers.contains(candidate) ||
                        (candidate != identifier && own.contains(candidate));
             });
-            identifiers.emplace(free, element);
+            identifiers.emplace(free, named.second);
             renames.emplace(identifier, free);
             if (free != identifier) {
-                element.replaceKey("/ID", QPDFObjectHandle::newString(free));
+                named.second.replaceKey("/ID", QPDFObjectHandle::newString(free));
             }
         }
         std::erase_if(renames, [](const auto &name) { return name.first == name.second; });
