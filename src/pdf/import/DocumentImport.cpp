@@ -56,6 +56,48 @@ Warning structureDamaged(std::size_t count) {
                        : u"%1 structure tags are damaged and left out"_s.arg(count)};
 }
 
+/// Copies the document topic by topic. Pages are made first, since everything refers to them. What
+/// is referred to by name and what has a tree of its own comes before what refers to it: elements,
+/// destinations and names before pages, bookmarks and fields.
+void copyTopics(ImportedDocument &imported, QPDF &source, QPDF &target, const SourcePages &found,
+                SourceNames &names, const ImportOptions &options, ObjectCopier &copier) {
+    copier.makePages(found.pages, options.firstPage);
+    imported.outputIntents = importOutputIntents(source, copier);
+    imported.structure = importStructure(source, target, copier);
+    imported.destinations = importDestinations(source, names, copier);
+    imported.nameTrees = importNameTrees(source, names, copier);
+    imported.pages = copier.fillPages(found.pages);
+    imported.bookmarks = importBookmarks(source, copier);
+    imported.pageLabels = importPageLabels(source, imported.pages.size(), copier);
+    imported.form = importForm(source, found.pages, copier);
+    imported.layers = importLayers(source, copier, imported.scope);
+    imported.catalogParts = importCatalogParts(source, copier, options);
+    if (imported.scope == ImportScope::WholeDocument) {
+        for (const auto &[key, object] : furtherNames(source)) {
+            imported.furtherNames.emplace(key, copier.copy(object));
+        }
+    }
+    imported.attachments = importAttachments(source, copier, imported.scope);
+    imported.threads = importThreads(source, copier);
+    copier.run();
+    imported.form.actions = copier.fieldActions();
+    tellFilesApart(imported.nameTrees[kAttachments], imported.attachments, names);
+    imported.names = names.given();
+}
+
+/// Names what the copier left out and what of the structure is damaged.
+void addLosses(ImportedDocument &imported, const ObjectCopier &copier) {
+    if (copier.signaturesLeftOut() > 0) {
+        addParts(imported.parts.left, PartKind::Signatures,
+                 static_cast<std::size_t>(copier.signaturesLeftOut()));
+        imported.warnings.push_back(signaturesRemoved(copier.signaturesLeftOut()));
+    }
+    if (imported.structure.damaged > 0) {
+        addParts(imported.parts.left, PartKind::StructureElements, imported.structure.damaged);
+        imported.warnings.push_back(structureDamaged(imported.structure.damaged));
+    }
+}
+
 } // namespace
 
 ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared,
@@ -63,9 +105,8 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     shared.beginCopy(source);
     ObjectCopier copier(source, target, shared, names);
     ImportedDocument imported;
-    const ImportScope scope = options.scope;
-    imported.scope = scope;
-    imported.metadata = readMetadata(source, scope);
+    imported.scope = options.scope;
+    imported.metadata = readMetadata(source, options.scope);
     imported.parts.left = countLeft(source, options);
     addParts(imported.parts.left, PartKind::Metadata, imported.metadata.isLeft ? 1 : 0);
     imported.warnings = namePartsLeft(imported.parts.left);
@@ -76,37 +117,8 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
         shared.damagedPages = pagesThatLackObjects(found.pages);
     }
     const Warnings missing = missingEntries(source);
-    copier.makePages(found.pages, options.firstPage);
-    imported.outputIntents = importOutputIntents(source, copier);
-    imported.structure = importStructure(source, target, copier);
-    imported.destinations = importDestinations(source, names, copier);
-    imported.nameTrees = importNameTrees(source, names, copier);
-    imported.pages = copier.fillPages(found.pages);
-    imported.bookmarks = importBookmarks(source, copier);
-    imported.pageLabels = importPageLabels(source, imported.pages.size(), copier);
-    imported.form = importForm(source, found.pages, copier);
-    imported.layers = importLayers(source, copier, scope);
-    imported.catalogParts = importCatalogParts(source, copier, options);
-    if (scope == ImportScope::WholeDocument) {
-        for (const auto &[key, object] : furtherNames(source)) {
-            imported.furtherNames.emplace(key, copier.copy(object));
-        }
-    }
-    imported.attachments = importAttachments(source, copier, scope);
-    imported.threads = importThreads(source, copier);
-    copier.run();
-    imported.form.actions = copier.fieldActions();
-    tellFilesApart(imported.nameTrees[kAttachments], imported.attachments, names);
-    imported.names = names.given();
-    if (copier.signaturesLeftOut() > 0) {
-        addParts(imported.parts.left, PartKind::Signatures,
-                 static_cast<std::size_t>(copier.signaturesLeftOut()));
-        imported.warnings.push_back(signaturesRemoved(copier.signaturesLeftOut()));
-    }
-    if (imported.structure.damaged > 0) {
-        addParts(imported.parts.left, PartKind::StructureElements, imported.structure.damaged);
-        imported.warnings.push_back(structureDamaged(imported.structure.damaged));
-    }
+    copyTopics(imported, source, target, found, names, options, copier);
+    addLosses(imported, copier);
     imported.parts.carried = countCarried(imported);
     imported.longestStream = copier.longestStream();
     imported.version = versionOf(source);
