@@ -13,10 +13,8 @@
 #include <cstdint>
 #include <cstring>
 
-#ifdef __linux__
 #include <sys/inotify.h>
 #include <unistd.h>
-#endif
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -27,25 +25,16 @@ namespace {
 class OpenCounter {
   public:
     explicit OpenCounter(const QString &path) {
-#ifdef __linux__
         // Equal events in a row come as one, so that opens count apart only with what follows them.
         constexpr std::uint32_t kEvents = IN_OPEN | IN_ACCESS | IN_CLOSE;
         ::inotify_add_watch(m_fd, QFile::encodeName(path).constData(), kEvents);
-#else
-        Q_UNUSED(path)
-#endif
     }
     OpenCounter(const OpenCounter &) = delete;
     OpenCounter &operator=(const OpenCounter &) = delete;
-    ~OpenCounter() {
-#ifdef __linux__
-        ::close(m_fd);
-#endif
-    }
+    ~OpenCounter() { ::close(m_fd); }
 
     [[nodiscard]] int count() const {
         int opens = 0;
-#ifdef __linux__
         QByteArray events(1 << 16, Qt::Uninitialized);
         events.truncate(::read(m_fd, events.data(), static_cast<std::size_t>(events.size())));
         inotify_event event{};
@@ -53,14 +42,11 @@ class OpenCounter {
             std::memcpy(&event, events.constData() + at, sizeof event);
             opens += (event.mask & IN_OPEN) != 0 ? 1 : 0;
         }
-#endif
         return opens;
     }
 
   private:
-#ifdef __linux__
     int m_fd = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
-#endif
 };
 
 } // namespace
@@ -82,12 +68,6 @@ class OpensTest : public QObject {
     }
 
   private Q_SLOTS:
-    void initTestCase() {
-#ifndef __linux__
-        QSKIP("Only Linux tells of each opening of a file");
-#endif
-    }
-
     void aSourceIsOpenedToBeListedAndToBeWritten_data() {
         QTest::addColumn<QString>("source");
         QTest::addColumn<int>("times");

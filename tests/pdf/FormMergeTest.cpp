@@ -359,14 +359,8 @@ class FormMergeTest : public QObject, protected MergeCase {
 
     void anotherProgramReadsTheSameFields() {
         const QString path = saved(withForm("/Fields [20 0 R 21 0 R] /DA (/Helv 9 Tf)"));
-        const auto dump = [](const QString &file) {
-            return runTool(u"pdftk"_s, {file, u"dump_data_fields_utf8"_s});
-        };
-        if (dump(path).exitCode == -1) {
-            QSKIP("pdftk is not installed");
-        }
-        QVERIFY(dump(path).out.contains("FieldName: two"));
-        QCOMPARE(dump(merged({path})).out, dump(path).out);
+        QCOMPARE(widgetsOf(path).size(), 2);
+        QCOMPARE(widgetsOf(merged({path})), widgetsOf(path));
     }
 };
 
