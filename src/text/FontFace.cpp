@@ -2,6 +2,8 @@
 
 #include "text/FontFace.h"
 
+#include "text/ReducedFont.h"
+
 #include <QtEndian>
 
 #include <hb-ot.h>
@@ -63,6 +65,9 @@ std::unique_ptr<const FontFace> FontFace::open(const QByteArray &path, unsigned 
         return nullptr;
     }
     hb_face_make_immutable(face.get());
+    if (!ReducedFont::make(face.get(), {}, ReducedFont::GlyphIds::Packed)) {
+        return nullptr; // Damaged, which nobody should learn when the pages are drawn.
+    }
     Font font(hb_font_create(face.get()));
     return std::unique_ptr<const FontFace>(new FontFace(std::move(face), std::move(font)));
 }

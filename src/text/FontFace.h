@@ -31,8 +31,8 @@ struct FontBox {
 /// An open font for measuring and embedding. Lengths are in font units, unitsPerEm() to the em.
 class FontFace {
   public:
-    /// Opens face `index` of the font file or collection `path`. Null when it cannot be read or has
-    /// no outlines that a PDF can embed ("glyf" or "CFF ").
+    /// Opens face `index` of the font file or collection `path`. Null when it cannot be read, is
+    /// damaged or has no outlines that a PDF can embed ("glyf" or "CFF ").
     static std::unique_ptr<const FontFace> open(const QByteArray &path, unsigned index);
 
     /// The HarfBuzz face; this object owns it.

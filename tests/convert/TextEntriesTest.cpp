@@ -64,6 +64,28 @@ class TextEntriesTest : public QObject, protected test::ConversionCase {
         QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 1);
     }
 
+    void aDamagedFontGivesWayToTheNextOne() {
+        const auto fileOf = [](const QString &family) {
+            return QFile::decodeName(findTextFonts(family).front().path());
+        };
+        const QString whole = fileOf(u"DejaVu Sans"_s);
+        QByteArray damaged = test::readFile(fileOf(u"Liberation Sans"_s));
+        damaged.replace("\x5F\x0F\x3C\xF5", "none"); // The sign of the table "head".
+        {
+            test::InstalledFonts fonts;
+            fonts.add(test::writeFile(path("damaged.ttf"), damaged), u"Liberation Sans"_s);
+            fonts.add(whole, u"DejaVu Sans"_s);
+            QCOMPARE(findTextFonts(u"Liberation Sans"_s).size(), std::size_t{2});
+            m_options.textFont = FontCascade::load(u"Liberation Sans"_s, 14);
+        }
+        addText("a.txt", "words");
+        addFile(test::writePng(path("b.png"), 300, 150));
+        m_options.merge = true;
+        const PdfProbe probe(convertTo(path("out/all.pdf")).close.path);
+        QCOMPARE(probe.pageCount(), 2);
+        QCOMPARE(probe.text(1).trimmed(), u"words"_s);
+    }
+
     void anEmptyTextGivesOneBlankPageAndNoWarning() {
         addText("a.txt", {});
         m_options.textPage.sizeMode = TextPageA5;
