@@ -57,11 +57,34 @@ class MissingObjectsTest : public QObject, protected MergeCase {
         row("pattern", "/Font <<", "/Pattern << /P 99 0 R >> /Font <<");
         row("annotation", "/Contents", "/Annots [99 0 R] /Contents");
         row("all annotations", "/Contents", "/Annots 99 0 R /Contents");
+        row("contents", "/Contents 8 0 R", "/Contents [8 0 R 99 0 R]");
     }
     void thePageThatLacksThemIsNamed() {
         QFETCH(const QByteArray, from);
         QFETCH(const QByteArray, to);
         QCOMPARE(warningsOf(secondPage(from, to)), kOnPage.arg(2));
+    }
+
+    void aNullThatIsWrittenIsNoLoss_data() {
+        QTest::addColumn<QByteArray>("from");
+        QTest::addColumn<QByteArray>("to");
+        const auto row = [](const char *name, const char *from, const QByteArray &to) {
+            QTest::newRow(name) << QByteArray(from) << to;
+        };
+        row("font", "/F 3 0 R", "/F 3 0 R /N null");
+        row("fonts", "/Font <<", "/Pattern null /Font <<");
+        row("picture", "/Font <<", "/XObject << /I null >> /Font <<");
+        row("annotation", "/Contents", "/Annots [null] /Contents");
+        row("all annotations", "/Contents", "/Annots null /Contents");
+        // So many that libqpdf 12 keeps the list in another form.
+        row("many annotations", "/Contents",
+            "/Annots [" + QByteArray("null ").repeated(200) + "] /Contents");
+        row("contents", "/Contents 8 0 R", "/Contents [null 8 0 R]");
+    }
+    void aNullThatIsWrittenIsNoLoss() {
+        QFETCH(const QByteArray, from);
+        QFETCH(const QByteArray, to);
+        QCOMPARE(warningsOf(secondPage(from, to)), QString());
     }
 
     void resourcesThatPagesShareLackThemForEach() {
@@ -116,10 +139,17 @@ class MissingObjectsTest : public QObject, protected MergeCase {
         PdfFixture source = threePages(keys);
         source.object(10, "<< /Title (a) /Next 99 0 R >>");
         source.object(11, "<< /Title (a) /First 99 0 R >>");
-        source.object(12, "<< /FT /Tx /T (a) /Kids [99 0 R] >>");
+        source.object(12, "<< /FT /Tx /T (a) /Kids [null 99 0 R] >>");
         const QString text =
             u"pdf-parts-left: Some of its %1 are missing in the document itself"_s.arg(words);
         QCOMPARE(warningsOf(source), text);
+    }
+
+    void aNullInTheCatalogIsNoLoss() {
+        PdfFixture source =
+            threePages("/Outlines << /First null >> /AcroForm << /Fields [null 12 0 R] >>");
+        source.object(12, "<< /FT /Tx /T (a) /Kids [null] >>");
+        QCOMPARE(warningsOf(source), QString());
     }
 
     void loopsEnd() {

@@ -3,6 +3,8 @@
 #include "pdf/import/ContentCheck.h"
 
 #include "image/Deflate.h"
+#include "pdf/import/Dangling.h"
+#include "pdf/import/Entries.h"
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
@@ -46,12 +48,13 @@ bool hasUnknownFilter(const std::vector<QPDFObjectHandle> &filters) {
 
 ContentCheck::ContentCheck(QPDF &source, const std::vector<SourcePage> &pages) {
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        auto contents = QPDFObjectHandle(pages[i].page).getKey("/Contents");
-        if (!contents.isArray()) {
-            add(i + 1, contents);
-            continue;
+        auto page = pages[i].page;
+        auto contents = page.getKey("/Contents");
+        if (isDangling(page, "/Contents") || hasDanglingItems(contents)) {
+            m_damaged.insert(i + 1);
         }
-        for (const auto &part : contents.getArrayAsVector()) {
+        const auto parts = contents.isArray() ? items(contents) : std::vector{contents};
+        for (const auto &part : parts) {
             add(i + 1, part);
         }
     }
@@ -64,7 +67,7 @@ void ContentCheck::add(std::size_t page, const QPDFObjectHandle &part) {
         Part &known = m_parts[stream.getObjGen()];
         known.stream = stream;
         known.pages.push_back(page);
-    } else if (stream.isIndirect() || !stream.isNull()) {
+    } else if (!stream.isNull()) {
         m_damaged.insert(page); // A page without any contents is blank.
     }
 }

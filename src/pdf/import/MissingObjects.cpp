@@ -2,6 +2,7 @@
 
 #include "pdf/import/MissingObjects.h"
 
+#include "pdf/import/Dangling.h"
 #include "pdf/import/Entries.h"
 
 #include <qpdf/QPDF.hh>
@@ -16,11 +17,6 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 
 namespace {
-
-/// Whether `value` is a reference to an object that is not there.
-bool isMissing(QPDFObjectHandle value) {
-    return value.isIndirect() && value.isNull();
-}
 
 /// Looks at resources once each, however many pages share them, and without recursion.
 class ResourceCheck {
@@ -39,10 +35,7 @@ class ResourceCheck {
 
   private:
     bool lacksOwn(QPDFObjectHandle resources) {
-        if (!resources.isDictionary()) {
-            return isMissing(resources);
-        }
-        return once(resources, &ResourceCheck::look);
+        return resources.isDictionary() && once(resources, &ResourceCheck::look);
     }
 
     /// What `check` says of `object`, which many resources may share.
@@ -63,19 +56,22 @@ class ResourceCheck {
         static constexpr std::array kKinds{"/Font",    "/XObject", "/ColorSpace",
                                            "/Pattern", "/Shading", "/ExtGState"};
         return std::ranges::count_if(kKinds, [&](const char *kind) {
-                   return once(resources.getKey(kind), &ResourceCheck::lacksMember);
+                   return isDangling(resources, kind) ||
+                          once(resources.getKey(kind), &ResourceCheck::lacksMember);
                }) > 0;
     }
 
     bool lacksMember(QPDFObjectHandle members) {
         if (!members.isDictionary()) {
-            return isMissing(members);
+            return false;
         }
         bool lacks = false;
         for (auto &[name, member] : members.getDictAsMap()) {
-            lacks = lacks || isMissing(member);
+            lacks = lacks || isDangling(members, name);
             if (member.isStream() && m_forms.insert(member.getObjGen()).second) {
-                m_pending.push_back(member.getDict().getKey("/Resources"));
+                auto form = member.getDict();
+                lacks = lacks || isDangling(form, "/Resources");
+                m_pending.push_back(form.getKey("/Resources"));
             }
         }
         return lacks;
@@ -86,16 +82,15 @@ class ResourceCheck {
     std::vector<QPDFObjectHandle> m_pending;
 };
 
-bool lacksAnnotations(const QPDFObjectHandle &list, std::map<QPDFObjGen, bool> &known) {
-    const auto look = [&list] {
-        return isMissing(list) || std::ranges::any_of(items(list), isMissing);
-    };
-    if (!list.isIndirect()) {
-        return look();
+/// `known` holds what was found of lists that pages share.
+bool lacksAnnotations(QPDFObjectHandle page, std::map<QPDFObjGen, bool> &known) {
+    auto list = page.getKey("/Annots");
+    if (!list.isIndirect() || list.isNull()) {
+        return isDangling(page, "/Annots") || hasDanglingItems(list);
     }
     const auto [found, isNew] = known.try_emplace(list.getObjGen());
     if (isNew) {
-        found->second = look();
+        found->second = hasDanglingItems(list);
     }
     return found->second;
 }
@@ -108,18 +103,22 @@ bool lacksNode(const QPDFObjectHandle &root, std::initializer_list<const char *>
     while (!pending.empty()) {
         QPDFObjectHandle node = pending.back();
         pending.pop_back();
-        if (isMissing(node)) {
-            return true;
-        }
         if (node.isIndirect() && !visited.insert(node.getObjGen()).second) {
             continue;
         }
+        if (hasDanglingItems(node)) {
+            return true;
+        }
         const auto members = items(node);
         pending.insert(pending.end(), members.begin(), members.end());
+        if (!node.isDictionary()) {
+            continue;
+        }
         for (const char *key : keys) {
-            if (node.isDictionary()) {
-                pending.push_back(node.getKey(key));
+            if (isDangling(node, key)) {
+                return true;
             }
+            pending.push_back(node.getKey(key));
         }
     }
     return false;
@@ -137,7 +136,8 @@ std::set<std::size_t> pagesThatLackObjects(const std::vector<SourcePage> &pages)
         const auto above = pages[i].inherited->find("/Resources");
         bool lacks = false;
         if (page.hasKey("/Resources") || above == pages[i].inherited->end()) {
-            lacks = resources.lacksObjects(page.getKey("/Resources"));
+            lacks =
+                isDangling(page, "/Resources") || resources.lacksObjects(page.getKey("/Resources"));
         } else {
             const auto [known, isNew] = inherited.try_emplace(above->second.number);
             if (isNew) {
@@ -145,7 +145,7 @@ std::set<std::size_t> pagesThatLackObjects(const std::vector<SourcePage> &pages)
             }
             lacks = known->second;
         }
-        if (lacks || lacksAnnotations(page.getKey("/Annots"), lists)) {
+        if (lacks || lacksAnnotations(page, lists)) {
             found.insert(i + 1);
         }
     }
@@ -157,10 +157,12 @@ Warnings missingEntries(QPDF &source) {
     const auto say = [&](const QString &text) {
         warnings.push_back({WarningCode::PdfPartsLeft, text});
     };
-    if (lacksNode(source.getRoot().getKey("/Outlines"), {"/First", "/Next"})) {
+    auto root = source.getRoot();
+    if (isDangling(root, "/Outlines") || lacksNode(root.getKey("/Outlines"), {"/First", "/Next"})) {
         say(u"Some of its bookmarks are missing in the document itself"_s);
     }
-    if (lacksNode(source.getRoot().getKey("/AcroForm"), {"/Fields", "/Kids"})) {
+    if (isDangling(root, "/AcroForm") ||
+        lacksNode(root.getKey("/AcroForm"), {"/Fields", "/Kids"})) {
         say(u"Some of its form fields are missing in the document itself"_s);
     }
     return warnings;
