@@ -44,6 +44,14 @@ class DamagedSourcesTest : public QObject, protected MergeCase {
         }
     }
 
+    /// The contents of the first page.
+    static QByteArray firstContents(const QString &path) {
+        const auto document = opened(path);
+        QPDFObjectHandle page = document->getAllPages().at(0);
+        const auto data = page.getKey("/Contents").getStreamData();
+        return {reinterpret_cast<const char *>(data->getBuffer()), qsizetype(data->getSize())};
+    }
+
   private Q_SLOTS:
     void damagedPageLabelsCostNothingElse() {
         PdfFixture source;
@@ -70,6 +78,10 @@ class DamagedSourcesTest : public QObject, protected MergeCase {
 
     void aLengthBeyondAllFilesIsFoundOut_data() {
         QTest::addColumn<QByteArray>("length");
+        QTest::newRow("2^64") << QByteArray("18446744073709551616");
+        QTest::newRow("-2^64") << QByteArray("-18446744073709551616");
+        QTest::newRow("10^40") << '1' + QByteArray(40, '0');
+        QTest::newRow("2^63") << QByteArray("9223372036854775808");
         QTest::newRow("2^63 - 1") << QByteArray("9223372036854775807");
         QTest::newRow("2^63 - 201") << QByteArray("9223372036854775607");
         QTest::newRow("2^62") << QByteArray("4611686018427387904");
@@ -84,6 +96,34 @@ class DamagedSourcesTest : public QObject, protected MergeCase {
         const QByteArray content("BT /F 20 Tf 20 40 Td (Page 1) Tj ET");
         source.object(5, "<< /Length " + length + " >>\nstream\n" + content + "\nendstream");
         QVERIFY(PdfProbe(merged({saved(source)})).text(1).contains(u"Page 1"_s));
+    }
+
+    void aLengthOfTooManyDigitsIsFoundOutWhereverItStands() {
+        const QByteArray content("BT /F 20 Tf 20 40 Td (Page 1) Tj ET");
+        for (int before = 0; before < 150; ++before) {
+            PdfFixture source;
+            source.object(1, kCatalog).pages(4, 1);
+            source.object(5, "<< /Of (" + QByteArray(before, 'x') +
+                                 ") /Length 123456789012345678901234567890 >>\nstream\n" + content +
+                                 "\nendstream");
+            QVERIFY(firstContents(merged({saved(source)})).contains("(Page 1) Tj"));
+        }
+    }
+
+    void aLengthWithManyZerosBeforeItIsRight() {
+        PdfFixture source;
+        source.object(1, kCatalog).pages(4, 1);
+        source.object(5, "<< /Length 0000000000000000000000001 >>\nstream\n% \nendstream");
+        QCOMPARE(firstContents(merged({saved(source)})), "%");
+    }
+
+    void aLongNumberThatIsNoLengthStays() {
+        const QByteArray content("BT /F 20 Tf 20 40 Td (/Length 12345678901234567890) Tj ET\n");
+        PdfFixture source;
+        source.object(1, kCatalog).pages(4, 1);
+        source.object(5, "<< /Length " + QByteArray::number(content.size()) + " >>\nstream\n" +
+                             content + "\nendstream");
+        QCOMPARE(firstContents(merged({saved(source)})), content);
     }
 
     void misplacedObjectsInASourceCostOnlyThemselves() {

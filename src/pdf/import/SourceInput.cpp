@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <functional>
+#include <iterator>
 #include <stdexcept>
 #include <string_view>
 
@@ -18,6 +20,30 @@ namespace {
 
 /// More than the bytes at the end in which the library looks for "startxref".
 constexpr std::size_t kBlanksThatHideTheTable = 2048;
+
+/// A number of so many digits fits into 64 bits.
+constexpr std::size_t kShort = 18;
+constexpr std::string_view kDigits = "0123456789";
+
+bool isDigit(char byte) {
+    return byte >= '0' && byte <= '9';
+}
+
+/// Whether a number of more digits may stand, or begin or end, in `piece`.
+bool mayHaveLongNumber(std::string_view piece) {
+    if (isDigit(piece.front()) || isDigit(piece.back())) {
+        return true;
+    }
+    for (std::size_t i = kShort; i < piece.size(); i += kShort + 1) {
+        if (isDigit(piece[i])) {
+            const auto first = piece.find_last_not_of(kDigits, i) + 1;
+            if (piece.find_first_not_of(kDigits, i) - first > kShort) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
 
 /// The processor time of this thread in milliseconds.
 qint64 threadTime() {
@@ -111,6 +137,40 @@ void SourceInput::rewind() {
     m_position = 0;
 }
 
+/// Writes 0 for each length of a stream in `piece`, which begins at `position`, that has too many
+/// digits. The library gives up an object with a number beyond 64 bits; a length that is too short
+/// it finds out.
+void SourceInput::clampLengths(qint64 position, std::span<char> piece) {
+    constexpr std::string_view kKey = "/Length";
+    constexpr std::string_view kBefore{" \t\r\n\f\0+-0", 9};
+    constexpr qint64 kAround = 64;
+    if (piece.empty() || !mayHaveLongNumber({piece.data(), piece.size()})) {
+        return;
+    }
+    const qint64 start = std::max(position - kAround, m_front);
+    std::string bytes(piece.size() + 2 * kAround, '\0');
+    const std::string_view text = pieceAt(start, bytes);
+    for (auto at = text.find(kKey); at != std::string_view::npos; at = text.find(kKey, at + 1)) {
+        const auto blank = at + kKey.size();
+        const auto number = std::min(text.find_first_not_of(kBefore, blank), text.size());
+        const auto end = std::min(text.find_first_not_of(kDigits, number), text.size());
+        if (number == blank || end - number <= kShort) {
+            continue;
+        }
+        const auto inPiece = [&](std::size_t i) {
+            const qint64 index = start + static_cast<qint64>(i) - position;
+            return piece.begin() + std::clamp<qint64>(index, 0, std::ssize(piece));
+        };
+        std::fill(inPiece(number), inPiece(end), '0');
+    }
+}
+
+/// Whether the library reads an object and not the data of a stream: it has a buffer for that.
+bool SourceInput::isObjectBuffer(const char *target) const {
+    const auto *self = reinterpret_cast<const char *>(this);
+    return std::greater_equal<>()(target, self) && std::less<>()(target, self + sizeof(*this));
+}
+
 size_t SourceInput::read(char *target, size_t length) {
     last_offset = m_position;
     size_t got = 0;
@@ -126,6 +186,9 @@ size_t SourceInput::read(char *target, size_t length) {
     if (got == 0 && length > 0) {
         // The library takes the end of the file from here.
         last_offset = std::min(m_position, m_end);
+    }
+    if (isObjectBuffer(target)) {
+        clampLengths(last_offset, {target, got});
     }
     return got;
 }

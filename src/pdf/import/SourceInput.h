@@ -38,6 +38,8 @@ class SourceInput final : public InputSource {
 
   private:
     void limitSearch();
+    void clampLengths(qint64 position, std::span<char> piece);
+    [[nodiscard]] bool isObjectBuffer(const char *target) const;
     [[nodiscard]] std::string_view pieceAt(qint64 position, std::span<char> target);
 
     FileVersion m_file;
