@@ -10,8 +10,6 @@
 
 #include <unistd.h>
 
-#include <cerrno>
-#include <cstring>
 #include <limits>
 #include <new>
 
@@ -43,8 +41,7 @@ SourceText readWholeText(const QString &path, SystemCalls &calls) {
 void requireReadableText(const QString &path) {
     requireTextSize(FileVersion::of(path));
     if (::access(QFile::encodeName(path).constData(), R_OK) != 0) {
-        throw Error(
-            u"Cannot open the file: %1"_s.arg(QString::fromLocal8Bit(std::strerror(errno))));
+        throw systemError(u"Cannot open the file"_s);
     }
 }
 

@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -73,9 +72,8 @@ OutputFile::~OutputFile() {
 
 void OutputFile::fail(const char *doing) const {
     const int reason = errno;
-    throw Error(u"Cannot %1 a file in %2: %3"_s.arg(QString::fromLatin1(doing),
-                                                    QFile::decodeName(m_folder.c_str()),
-                                                    QString::fromLocal8Bit(std::strerror(reason))));
+    const QString folder = QFile::decodeName(m_folder.c_str());
+    throw systemError(u"Cannot %1 a file in %2"_s.arg(QString::fromLatin1(doing), folder), reason);
 }
 
 void OutputFile::openNamed(const QByteArray &fileName) {

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -18,17 +17,12 @@ namespace folioforge {
 
 namespace {
 
-/// Throws Error with the reason in errno.
-[[noreturn]] void fail(const QString &what) {
-    throw Error(u"%1: %2"_s.arg(what, QString::fromLocal8Bit(std::strerror(errno))));
-}
-
 [[noreturn]] void failToOpen() {
-    fail(u"Cannot open the file"_s);
+    throw systemError(u"Cannot open the file"_s);
 }
 
 [[noreturn]] void failToRead() {
-    fail(u"Cannot read the file"_s);
+    throw systemError(u"Cannot read the file"_s);
 }
 
 FileVersion versionOf(const QString &path, const struct stat &status) {

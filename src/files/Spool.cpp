@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <string>
 
 using namespace Qt::StringLiterals;
@@ -23,11 +22,7 @@ namespace folioforge {
 namespace {
 
 constexpr qint64 kMemoryLimit = qint64{8} << 20;
-constexpr qint64 kWindowSize = qint64{256} << 10;
-
-[[noreturn]] void fail(const QString &what) {
-    throw Error(u"%1: %2"_s.arg(what, QString::fromLocal8Bit(std::strerror(errno))));
-}
+constexpr qint64 kReadBytes = qint64{256} << 10;
 
 } // namespace
 
@@ -46,7 +41,7 @@ void Spool::openFile() {
         }
     }
     if (!m_file.isOpen()) {
-        fail(u"Cannot create a temporary file"_s);
+        throw systemError(u"Cannot create a temporary file"_s);
     }
 }
 
@@ -56,7 +51,7 @@ void Spool::moveToFile(QByteArrayView data) {
     }
     // Where this fails half way, the data is still in memory and its place is still there.
     if (!m_file.writeAt(m_fileSize, data)) {
-        fail(u"Cannot write a temporary file"_s);
+        throw systemError(u"Cannot write a temporary file"_s);
     }
     m_fileSize += data.size();
 }
@@ -87,7 +82,7 @@ void Spool::cutTo(qint64 size) {
 
 void Spool::readWindow(Place place) {
     // Streams are mostly read in the order in which they were added, many small ones in a row.
-    const qint64 size = std::max(place.length, std::min(kWindowSize, m_fileSize - place.offset));
+    const qint64 size = std::max(place.length, std::min(kReadBytes, m_fileSize - place.offset));
     m_window.resize(0);
     m_window.resize(size);
     m_windowStart = place.offset;
@@ -95,7 +90,7 @@ void Spool::readWindow(Place place) {
     if (got < size) {
         errno = got < 0 ? errno : EIO;
         m_window.clear();
-        fail(u"Cannot read a temporary file"_s);
+        throw systemError(u"Cannot read a temporary file"_s);
     }
 }
 

@@ -8,9 +8,16 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
+
+Error systemError(const QString &what, int reason) {
+    return Error(u"%1: %2"_s.arg(what, QString::fromLocal8Bit(std::strerror(reason))));
+}
 
 int SystemCalls::open(const char *path, int flags, mode_t mode) {
     return ::open(path, flags, mode);

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "error/Error.h"
+
 #include <sys/types.h>
 
 #include <cerrno>
@@ -72,6 +74,9 @@ class StoppableCalls final : public SystemCalls {
     SystemCalls &m_calls;
     std::stop_token m_stop;
 };
+
+/// That `what` failed and why: "Cannot open the file: Permission denied".
+Error systemError(const QString &what, int reason = errno);
 
 /// The result of `call`, which is made again as long as a signal interrupts it.
 template<typename Call> auto uninterrupted(const Call &call) {
