@@ -4,10 +4,20 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <map>
 #include <string>
 #include <vector>
 
 namespace folioforge {
+
+/// What a dictionary holds.
+using Dictionary = std::map<std::string, QPDFObjectHandle>;
+
+/// The value of `key`; null where there is none.
+inline QPDFObjectHandle valueOf(const Dictionary &dictionary, const std::string &key) {
+    const auto found = dictionary.find(key);
+    return found == dictionary.end() ? QPDFObjectHandle::newNull() : found->second;
+}
 
 /// The value of `key`; null where there is none or `dictionary` is no dictionary.
 inline QPDFObjectHandle entry(QPDFObjectHandle dictionary, const std::string &key) {

@@ -15,21 +15,14 @@ namespace folioforge {
 
 namespace {
 
-using Dictionary = std::map<std::string, QPDFObjectHandle>;
-
-QPDFObjectHandle entry(const Dictionary &dictionary, const std::string &key) {
-    const auto found = dictionary.find(key);
-    return found == dictionary.end() ? QPDFObjectHandle::newNull() : found->second;
-}
-
 /// Whether an entry is the key of a page, an annotation or a form in the parent tree of the source.
 /// The tree is made anew. The same keys may name anything else in other dictionaries, such as fonts
 /// in resources.
 bool isParentTreeKey(const Dictionary &dictionary, const std::string &key) {
     return (key == "/StructParent" || key == "/StructParents") &&
-           entry(dictionary, key).isInteger() &&
-           (entry(dictionary, "/Subtype").isName() ||
-            entry(dictionary, "/Type").isNameAndEquals("/Page"));
+           valueOf(dictionary, key).isInteger() &&
+           (valueOf(dictionary, "/Subtype").isName() ||
+            valueOf(dictionary, "/Type").isNameAndEquals("/Page"));
 }
 
 /// Whether `object` belongs to the source document as a whole and is not copied.

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "pdf/import/Entries.h"
 #include "pdf/import/PageTree.h"
 #include "pdf/import/SharedStreams.h"
 #include "pdf/import/Threads.h"
@@ -64,8 +65,6 @@ class ObjectCopier {
     }
 
   private:
-    using Dictionary = std::map<std::string, QPDFObjectHandle>;
-
     /// Gives what the copy of an object holds.
     using Fill = QPDFObjectHandle (ObjectCopier::*)(QPDFObjectHandle);
 

@@ -16,13 +16,6 @@ namespace folioforge {
 
 namespace {
 
-using Dictionary = std::map<std::string, QPDFObjectHandle>;
-
-QPDFObjectHandle valueOf(const Dictionary &dictionary, const char *key) {
-    const auto found = dictionary.find(key);
-    return found == dictionary.end() ? QPDFObjectHandle::newNull() : found->second;
-}
-
 bool isAction(const Dictionary &dictionary, const char *kind) {
     return valueOf(dictionary, "/S").isNameAndEquals(kind);
 }
