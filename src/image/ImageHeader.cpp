@@ -26,7 +26,7 @@ bool isSaneDensity(double dpi) {
 /// PNG and BMP count in whole pixels per metre, which no usual density is: 72 per inch is stored as
 /// 2835 and read back as 72.009. A density as near to a whole number as that unit can come is it.
 double roundedToWhole(double dpi) {
-    constexpr double kHalfPixelPerMetre = 0.5 * 0.0254;
+    constexpr double kHalfPixelPerMetre = 0.5 * kMetresPerInch;
     const double whole = std::round(dpi);
     return std::abs(dpi - whole) <= kHalfPixelPerMetre ? whole : dpi;
 }

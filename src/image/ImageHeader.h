@@ -13,6 +13,9 @@ enum class ImageKind { Jpeg, Jpeg2000, Png, Tiff, Bmp, Gif, Ico, Icns, Exr, Tga,
 /// memory.
 inline constexpr qint64 kMaxImagePixels = 500'000'000;
 
+/// Many formats state their density in pixels per metre.
+inline constexpr double kMetresPerInch = 0.0254;
+
 /// What the header of an image file says; no pixel is decoded to learn it.
 struct ImageHeader {
     ImageKind kind = ImageKind::Png;

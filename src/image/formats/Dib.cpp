@@ -20,7 +20,6 @@ constexpr quint32 kWindowsHeader = 40;   ///< The first to know of density.
 constexpr quint32 kHeaderWithMasks = 52; ///< The first to hold masks; older ones have them behind.
 constexpr quint32 kHeaderWithAlpha = 56; ///< The first to hold a mask of opacity.
 constexpr qsizetype kMasksAt = 40;
-constexpr double kMetresPerInch = 0.0254;
 
 void readOs2Fields(QByteArrayView bytes, DibHeader &header) {
     header.width = littleEndianAt<quint16>(bytes, 4);

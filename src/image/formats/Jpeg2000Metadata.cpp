@@ -15,7 +15,6 @@ namespace folioforge {
 
 namespace {
 
-constexpr double kMetresPerInch = 0.0254;
 constexpr QByteArrayView kCodestreamStart("\xFF\x4F");
 constexpr quint32 kMaxPixels = 0x7FFFFFFF;
 

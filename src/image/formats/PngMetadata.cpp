@@ -16,7 +16,6 @@ namespace folioforge {
 namespace {
 
 constexpr qint64 kSignatureBytes = 8;
-constexpr double kMetresPerInch = 0.0254;
 constexpr qsizetype kMaxPaletteBytes = qsizetype{3} * 256;
 
 void readImageHeaderChunk(QByteArrayView chunk, PngMetadata &metadata) {
