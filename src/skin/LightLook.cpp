@@ -54,7 +54,7 @@ QString lightStyleSheet() {
         QComboBox:hover { border-color: #8fb4e8; }
         QComboBox:focus { border: 2px solid #2f7de1; padding: 2px 6px; }
         QComboBox::drop-down { border: none; width: 26px; }
-        QComboBox::down-arrow { image: url(:/skin/down-arrow.svg); width: 12px; height: 12px; }
+        QComboBox::down-arrow { image: url(:/skin/down-arrow.png); width: 12px; height: 12px; }
         QPushButton {
             border: 1px solid #bfc4cb; border-radius: 6px; padding: 5px 16px; min-height: 18px;
             background: #f7f8fa;
