@@ -103,6 +103,18 @@ QString textByMutool(const QString &path) {
     return QString::fromUtf8(run.out);
 }
 
+/// The characters in the order in which mutool meets them in the pages. Its text comes in the order
+/// of reading that newer versions see in their places.
+QString drawnByMutool(const QString &path) {
+    static const QRegularExpression glyph(u"<g unicode=\"([^\"]+)\""_s);
+    const ToolRun run = runTool(u"mutool"_s, {u"draw"_s, u"-q"_s, u"-F"_s, u"trace"_s, path});
+    QString text;
+    for (const auto &match : glyph.globalMatch(QString::fromUtf8(run.out))) {
+        text += match.captured(1);
+    }
+    return text;
+}
+
 QString textByPoppler(const QString &path) {
     const ToolRun run = runTool(u"pdftotext"_s, {u"-raw"_s, path, u"-"_s});
     return QString::fromUtf8(run.out);
@@ -175,7 +187,7 @@ class FontEmbedderTest : public QObject {
 
     void rightToLeftTextStaysInLogicalOrder() {
         const QString text = u"שלום עולם السلام عليكم"_s;
-        QCOMPARE(withoutSpace(textByMutool(write(text))), withoutSpace(text));
+        QCOMPARE(withoutSpace(drawnByMutool(write(text))), withoutSpace(text));
     }
 
     void charactersThatShareAGlyphReadAsThemselves_data() {
