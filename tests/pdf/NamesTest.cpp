@@ -177,16 +177,24 @@ class NamesTest : public QObject, protected MergeCase {
         QCOMPARE(linkedPages(result), u"2 3"_s);
     }
 
+    void namesOfAnyEncodingFollow_data() {
+        QTest::addColumn<PdfFixture>("source");
+        QTest::addColumn<QString>("newMutool"); // What version 1.25 finds.
+        QTest::newRow("wide") << withTree("<FEFF00FC4E2D>", "<FEFF00FC4E2D>") << u"1:2 3:4"_s;
+        // It reads a name up to a byte that is no character: both are empty.
+        QTest::newRow("bytes") << withTree("<9F41>", "<9F41>") << u"1:2 3:2"_s;
+        // It finds only names in ASCII there, in the source itself, too.
+        QTest::newRow("dictionary")
+            << withDictionary("/f#C3#BCr#20#28b#29", "/f#C3#BCr#20#28b#29") << QString();
+    }
     void namesOfAnyEncodingFollow() {
-        const PdfFixture wide = withTree("<FEFF00FC4E2D>", "<FEFF00FC4E2D>");
-        const PdfFixture bytes = withTree("<9F41>", "<9F41>");
-        const PdfFixture dictionary = withDictionary("/f#C3#BCr#20#28b#29", "/f#C3#BCr#20#28b#29");
-        for (const PdfFixture &source : {wide, bytes, dictionary}) {
-            const QString path = savedAs(u"für.pdf"_s, source);
-            const QString result = merged({path, path});
-            QCOMPARE(linkedPages(result), u"2 4"_s);
-            QCOMPARE(linkedPagesByMutool(result), u"1:2 3:4"_s);
-        }
+        QFETCH(const PdfFixture, source);
+        QFETCH(const QString, newMutool);
+        const QString path = savedAs(u"für.pdf"_s, source);
+        const QString result = merged({path, path});
+        QCOMPARE(linkedPages(result), u"2 4"_s);
+        const QString byMutool = linkedPagesByMutool(result);
+        QVERIFY2(byMutool == u"1:2 3:4"_s || byMutool == newMutool, qPrintable(byMutool));
     }
 
     void namesThatCannotBeDecodedStayApart() {
