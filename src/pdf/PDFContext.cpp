@@ -22,7 +22,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 #include <map>
 #include <optional>
 #include <string>
@@ -229,7 +228,8 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         const std::string key = file.key();
         const auto source = openSourceDocument(file, m_reader);
         // A copy, so that an import that fails leaves no stream to the next one.
-        SharedStreams streams = m_sourceStreams[key];
+        SharedStreams &known = m_sourceStreams[key];
+        SharedStreams streams = known;
         SourceNames names(m_catalog.names(), sourcePath);
         ImportOptions options{m_settings.oneSource ? ImportScope::WholeDocument
                                                    : ImportScope::OneOfSeveral,
@@ -241,16 +241,17 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
             return importDocument(*source, m_document, streams, names, options);
         });
         m_reader->finish();
-        std::ranges::copy(m_catalog.addDocument(imported), std::back_inserter(imported.warnings));
-        m_longestStream =
-            std::max(m_longestStream, std::min<qsizetype>(imported.longestStream, file.size));
-        m_sourceStreams[key] = std::move(streams);
-        if (!imported.pages.empty()) {
+        AddedDocument added{static_cast<int>(imported.pages.size()), {}, imported.parts};
+        const qsizetype longest = std::min<qsizetype>(imported.longestStream, file.size);
+        added.warnings = m_catalog.addDocument(std::move(imported));
+        // From here on nothing fails, so that all of the document is added or nothing.
+        m_longestStream = std::max(m_longestStream, longest);
+        known = std::move(streams);
+        if (added.pages > 0) {
             m_settings.info = options.info;
             m_settings.keepInfo = false;
         }
-        return AddedDocument{static_cast<int>(imported.pages.size()), std::move(imported.warnings),
-                             std::move(imported.parts)};
+        return added;
     });
 }
 

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <type_traits>
+#include <utility>
 
 namespace folioforge {
 
@@ -19,30 +21,39 @@ void DocumentCatalog::addPage(const QPDFObjectHandle &page) {
 void DocumentCatalog::truncatePages(int count) {
     m_pages.resize(static_cast<std::size_t>(std::min(count, pageCount())));
     m_pageLabels.truncatePages(pageCount());
+    std::erase_if(m_documents, [count](const Added &added) { return added.firstPage >= count; });
 }
 
-Warnings DocumentCatalog::addDocument(const ImportedDocument &imported) {
+Warnings DocumentCatalog::addDocument(ImportedDocument imported) {
+    static_assert(std::is_nothrow_move_constructible_v<Added>); // Else moving it may lose it.
+    Warnings warnings = imported.warnings;
     if (imported.pages.empty()) {
-        return {};
+        return warnings;
     }
-    m_pageLabels.add(imported.pageLabels, pageCount());
+    const int firstPage = pageCount();
+    m_pageLabels.add(imported.pageLabels, firstPage);
     std::ranges::copy(imported.pages, std::back_inserter(m_pages));
+    m_names.add(imported.names);
+    std::ranges::copy(m_forms.tellFieldsApart(imported.form), std::back_inserter(warnings));
+    m_documents.push_back({firstPage, std::move(imported)});
+    return warnings;
+}
+
+void DocumentCatalog::merge(const ImportedDocument &imported) {
     m_structure.add(imported.structure, imported.pages.size(), imported.scope);
     m_bookmarks.add(imported.bookmarks);
-    Warnings changes = m_forms.add(imported.form);
+    m_forms.add(imported.form);
     m_layers.add(imported.layers);
     m_destinations.add(imported.destinations);
     m_nameTrees.add(imported.nameTrees);
     m_nameTrees.addFurther(imported.furtherNames);
     m_attachments.add(imported.attachments);
     m_threads.add(imported.threads);
-    m_names.add(imported.names);
     m_parts.insert(imported.catalogParts.begin(), imported.catalogParts.end());
     m_outputIntents.add(imported.outputIntents);
     m_importedPages += imported.pages.size();
     m_metadata = imported.metadata;
     m_version.updateIfGreater(imported.version);
-    return changes;
 }
 
 std::vector<PartKind> DocumentCatalog::leftInTheEnd() const {
@@ -60,6 +71,10 @@ DocumentForm DocumentCatalog::form() const {
 }
 
 void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info) {
+    for (Added &added : m_documents) {
+        merge(added.document);
+        added.document = {}; // Its lists would take the memory twice.
+    }
     buildPageTree(document, m_pages);
     m_structure.finish(document, m_pages.size());
     m_bookmarks.finish(document);

@@ -20,15 +20,17 @@ namespace folioforge {
 class DocumentCatalog {
   public:
     void addPage(const QPDFObjectHandle &page);
-    /// Says what of the document is changed because of the ones before it.
-    Warnings addDocument(const ImportedDocument &imported);
+    /// Keeps the document for finish(). Gives its warnings and what of it is changed because of the
+    /// ones before it. Where this throws, truncatePages() leaves the catalog as it was.
+    Warnings addDocument(ImportedDocument imported);
 
-    /// Removes the pages that addPage() added after the first `count`.
+    /// Removes the pages after the first `count`, and the documents that brought them. Names that
+    /// they have taken stay taken.
     void truncatePages(int count);
 
     [[nodiscard]] std::span<const QPDFObjectHandle> pages() const { return m_pages; }
     [[nodiscard]] int pageCount() const { return static_cast<int>(m_pages.size()); }
-    /// In which form the document is to be written.
+    /// In which form the document is to be written; known when it is finished.
     [[nodiscard]] DocumentForm form() const;
 
     /// The names that the documents added so far have taken.
@@ -40,7 +42,15 @@ class DocumentCatalog {
     [[nodiscard]] std::vector<PartKind> leftInTheEnd() const;
 
   private:
+    struct Added {
+        int firstPage;
+        ImportedDocument document;
+    };
+
+    void merge(const ImportedDocument &imported);
+
     std::vector<QPDFObjectHandle> m_pages;
+    std::vector<Added> m_documents; ///< Merged in the end, so that one that fails leaves nothing.
     StructureMerger m_structure;
     BookmarkMerger m_bookmarks;
     PageLabelMerger m_pageLabels;

@@ -121,21 +121,24 @@ CategoryRenames FormMerger::addResources(QPDFObjectHandle resources) {
     return renames;
 }
 
-Warnings FormMerger::add(ImportedForm form) {
+Warnings FormMerger::tellFieldsApart(ImportedForm &form) {
     std::erase_if(form.fields, std::not_fn(isEntry));
+    const Renames names = renameFields(form);
+    renameInActions(form.actions, names);
+    return names.empty() ? Warnings() : Warnings{fieldsRenamed(names)};
+}
+
+void FormMerger::add(const ImportedForm &form) {
     const CategoryRenames resources = addResources(form.resources);
     for (const auto &field : form.fields) {
         keepDefaults(field, form);
     }
     renameInAppearances(form.fields, resources);
-    const Renames names = renameFields(form);
-    renameInActions(form.actions, names);
     std::ranges::copy(form.fields, std::back_inserter(m_form.fields));
     std::ranges::copy_if(form.calculationOrder, std::back_inserter(m_form.calculationOrder),
                          isEntry);
     m_form.needsAppearances |= form.needsAppearances;
     m_form.hasSignatureFields |= form.hasSignatureFields;
-    return names.empty() ? Warnings() : Warnings{fieldsRenamed(names)};
 }
 
 void FormMerger::finish(QPDF &document) {

@@ -19,8 +19,10 @@ namespace folioforge {
 /// stay different fields, and each keeps its resources.
 class FormMerger {
   public:
-    /// Says which fields got other names.
-    Warnings add(ImportedForm form);
+    /// Takes the names of the fields and says which of them got others, in the copy.
+    Warnings tellFieldsApart(ImportedForm &form);
+    /// Adds a form of which the fields are told apart.
+    void add(const ImportedForm &form);
     /// Writes the form into the catalog if there is any.
     void finish(QPDF &document);
 

@@ -7,6 +7,8 @@
 
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
+
 namespace folioforge {
 
 ImportedPageLabels importPageLabels(QPDF &source, std::size_t pages, ObjectCopier &copier) {
@@ -35,7 +37,6 @@ void PageLabelMerger::add(const ImportedPageLabels &imported, int firstPage) {
         m_labels.emplace_back(firstPage, QPDFObjectHandle::newNull());
         return;
     }
-    m_hasLabels = true;
     for (const auto &[index, label] : imported) {
         m_labels.emplace_back(firstPage + index, label);
     }
@@ -46,7 +47,7 @@ void PageLabelMerger::truncatePages(int count) {
 }
 
 void PageLabelMerger::finish(QPDF &document) const {
-    if (!m_hasLabels) {
+    if (std::ranges::all_of(m_labels, [](auto label) { return label.second.isNull(); })) {
         return;
     }
     auto numbers = QPDFObjectHandle::newArray();

@@ -36,7 +36,6 @@ class PageLabelMerger {
   private:
     /// Index of a page and the label dictionary from there on; null for plain numbers.
     std::vector<std::pair<long long, QPDFObjectHandle>> m_labels;
-    bool m_hasLabels = false;
 };
 
 } // namespace folioforge
