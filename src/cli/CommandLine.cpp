@@ -54,14 +54,14 @@ class Call : private RunObserver {
                 report(InputResult::listed(input.shown, input.leftOut));
                 continue;
             }
-            if (input.rejection.isEmpty()) {
+            if (input.read.problem.isEmpty()) {
                 accepted.push_back(std::move(input));
                 continue;
             }
-            if (input.refusedPdf) {
+            if (input.read.refusedPdf) {
                 refusedPdfs += printable(input.shown);
             }
-            report(InputResult::rejected(input.shown, input.rejection));
+            report(InputResult::rejected(input.shown, input.read.problem));
         }
         if (!refusedPdfs.isEmpty()) {
             m_console.complain(badFilesNotice(refusedPdfs));
@@ -75,7 +75,7 @@ class Call : private RunObserver {
     void convert(std::vector<Input> inputs) {
         std::vector<PDFFileInfo> entries;
         for (Input &input : inputs) {
-            entries.push_back(std::move(input.entry));
+            entries.push_back(std::move(input.read.entry));
             m_names.push_back(input.shown);
         }
         const std::stop_token outOfTime = outOfProcessorTime();

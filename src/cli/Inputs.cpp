@@ -3,7 +3,6 @@
 #include "cli/Inputs.h"
 
 #include "error/Error.h"
-#include "filelist/EntryReader.h"
 #include "filelist/SourceFiles.h"
 
 #include <algorithm>
@@ -42,11 +41,8 @@ class Names {
         std::vector<ReadEntry> entries = readEntries(m_files, TextReading::WhenWritten);
         auto next = entries.begin();
         for (Input &input : m_inputs) {
-            if (input.rejection.isEmpty() && input.leftOut.empty()) {
-                input.entry = std::move(next->entry);
-                input.rejection = next->problem;
-                input.refusedPdf = next->refusedPdf;
-                ++next;
+            if (input.read.problem.isEmpty() && input.leftOut.empty()) {
+                input.read = std::move(*next++);
             }
         }
         return std::move(m_inputs);
@@ -75,7 +71,7 @@ class Names {
         } catch (const Error &error) {
             Input &input = m_inputs.emplace_back();
             input.shown = QString::fromUtf8(path);
-            input.rejection = error.reason();
+            input.read.problem = error.reason();
         }
     }
 
@@ -98,7 +94,7 @@ void sortInputs(std::vector<Input> &inputs, SortOrder order) {
     std::vector<const PDFFileInfo *> entries;
     entries.reserve(inputs.size());
     for (const Input &input : inputs) {
-        entries.push_back(&input.entry);
+        entries.push_back(&input.read.entry);
     }
     std::vector<Input> sorted;
     sorted.reserve(inputs.size());

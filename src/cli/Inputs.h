@@ -2,8 +2,8 @@
 
 #pragma once
 
+#include "filelist/EntryReader.h"
 #include "filelist/Orders.h"
-#include "filelist/PDFFileInfo.h"
 #include "files/ReadableLinks.h"
 
 #include <QByteArray>
@@ -18,10 +18,8 @@ namespace folioforge {
 /// One input as it was named or found in a folder.
 struct Input {
     QString shown; ///< The path as it was given, for reports.
-    PDFFileInfo entry;
-    QString rejection;       ///< Why it cannot be converted; empty when it can.
-    bool refusedPdf = false; ///< Rejected as a PDF that is encrypted or no normal one.
-    Warnings leftOut;        ///< Only of a folder, which has no entry: what in it is no input.
+    ReadEntry read;
+    Warnings leftOut; ///< Only of a folder, which has no entry: what in it is no input.
 };
 
 /// The inputs that `paths` name, in that order. A folder stands for its text and image files in
