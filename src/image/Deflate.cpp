@@ -27,11 +27,11 @@ namespace {
 /// 4 than that, and 7 no more.
 constexpr int levelOf(DeflateEffort effort) {
     switch (effort) {
-    case DeflateEffort::Little:
+    case DeflateEffort::Faster:
         return 4;
-    case DeflateEffort::Less:
+    case DeflateEffort::Fast:
         return 5;
-    case DeflateEffort::Least:
+    case DeflateEffort::Fastest:
         return 1;
     case DeflateEffort::Full:
         break;

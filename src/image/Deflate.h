@@ -14,9 +14,9 @@ namespace folioforge {
 /// How hard to look for repetitions.
 enum class DeflateEffort {
     Full,
-    Less,   ///< Two thirds of the time, within a percent where there are few to find.
-    Little, ///< Half the time, within two percent where there are few to find.
-    Least,  ///< For pages of text: half the time again for one percent more bytes.
+    Fast,    ///< Two thirds of the time, within a percent where there are few to find.
+    Faster,  ///< Half the time, within two percent where there are few to find.
+    Fastest, ///< For pages of text: half the time again for one percent more bytes.
 };
 
 /// Compresses one piece of bytes after another. Making one costs more than a page of text does.

@@ -57,17 +57,17 @@ CompressionPlan planFor(const Raster &raster) {
         return {true, DeflateEffort::Full};
     }
     const QByteArray sample = sampleRows(raster);
-    const qsizetype plain = deflateBytes(sample, DeflateEffort::Little).size();
+    const qsizetype plain = deflateBytes(sample, DeflateEffort::Faster).size();
     const qsizetype filtered =
         deflateBytes(filterRows(sample, raster.stride(), pixelBytesOf(raster)),
-                     DeflateEffort::Little)
+                     DeflateEffort::Faster)
             .size();
     constexpr double kNoisyRatio = 0.4; // Of the compressed size to the whole.
     const bool isFiltered = filtered < plain;
     if (double(std::min(plain, filtered)) <= kNoisyRatio * double(sample.size())) {
         return {isFiltered, DeflateEffort::Full};
     }
-    return {isFiltered, isFiltered ? DeflateEffort::Less : DeflateEffort::Little};
+    return {isFiltered, isFiltered ? DeflateEffort::Fast : DeflateEffort::Faster};
 }
 
 void compressSamples(const Raster &raster, PdfImage &image) {

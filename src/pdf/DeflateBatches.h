@@ -48,9 +48,9 @@ class DeflateBatches {
     void storeRunning();
 
     Store m_store;
-    Deflater m_deflater{DeflateEffort::Least}; ///< Used by one batch at a time.
-    Batch m_batch;                             ///< Takes what add() brings.
-    std::future<Batch> m_running;              ///< The batch before it, being compressed.
+    Deflater m_deflater{DeflateEffort::Fastest}; ///< Used by one batch at a time.
+    Batch m_batch;                               ///< Takes what add() brings.
+    std::future<Batch> m_running;                ///< The batch before it, being compressed.
 };
 
 } // namespace folioforge
