@@ -2,11 +2,10 @@
 
 #include "app/FolioforgeAppDelegate.h"
 #include "convert/Bundle.h"
-#include "files/FileDescriptor.h"
+#include "files/ProcessSetup.h"
 #include "mainwnd/Desktop.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
-#include "pdf/Password.h"
 #include "skin/LightLook.h"
 
 #include <QApplication>
@@ -17,8 +16,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char *argv[]) {
     using namespace folioforge;
-    fillStandardDescriptors();
-    reportFilesTooLarge();
+    prepareProcess();
     forbidCoreDumps();
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"Folioforge"_s);

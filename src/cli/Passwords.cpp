@@ -2,6 +2,7 @@
 
 #include "cli/Arguments.h"
 #include "cli/OptionValues.h"
+#include "files/ProcessSetup.h"
 #include "pdf/Password.h"
 
 #include <QFile>

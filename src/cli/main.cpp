@@ -4,7 +4,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/Process.h"
-#include "files/FileDescriptor.h"
+#include "files/ProcessSetup.h"
 
 #include <QCoreApplication>
 
@@ -48,8 +48,7 @@ int run(int argc, char *argv[]) {
 } // namespace
 
 int main(int argc, char *argv[]) {
-    fillStandardDescriptors();
-    reportFilesTooLarge();
+    prepareProcess();
     silenceQt();
     try {
         return run(argc, argv);

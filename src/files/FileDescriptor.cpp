@@ -2,13 +2,10 @@
 
 #include "files/FileDescriptor.h"
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
-#include <initializer_list>
 
 namespace folioforge {
 
@@ -76,20 +73,6 @@ bool FileDescriptor::write(std::span<const char> bytes) const {
     return writeAll(bytes, [&](std::span<const char> rest) {
         return m_calls->write(m_fd, rest.data(), std::min(rest.size(), kWriteSize));
     });
-}
-
-void fillStandardDescriptors() {
-    for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (::fcntl(fd, F_GETFD) < 0) {
-            // The system takes the lowest free descriptor, which is this one. It is opened for the
-            // wrong direction, so that reads and writes there fail instead of seeming to succeed.
-            ::open("/dev/null", fd == STDIN_FILENO ? O_WRONLY : O_RDONLY);
-        }
-    }
-}
-
-void reportFilesTooLarge() {
-    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 } // namespace folioforge

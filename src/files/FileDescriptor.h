@@ -47,12 +47,4 @@ class FileDescriptor {
     int m_fd = -1;
 };
 
-/// Puts /dev/null where the caller closed standard input, output or error, so that no file opened
-/// later takes that place and gets what is meant for it. Reading and writing there still fail.
-/// Call it before anything else in a program.
-void fillStandardDescriptors();
-
-/// Makes a write that a limit of file sizes forbids fail (EFBIG), instead of ending the process.
-void reportFilesTooLarge();
-
 } // namespace folioforge

@@ -4,11 +4,6 @@
 
 #include "error/Error.h"
 
-#ifdef __linux__
-#include <sys/prctl.h>
-#endif
-#include <sys/resource.h>
-
 #include <unicode/usprep.h>
 
 #include <memory>
@@ -91,18 +86,6 @@ PreparedPasswords preparedPasswords(const Encryption &encryption) {
     const bool ownerIsUser = encryption.ownerPassword.isEmpty();
     return {preparedPassword(encryption.userPassword),
             preparedPassword(ownerIsUser ? encryption.userPassword : encryption.ownerPassword)};
-}
-
-void forbidCoreDumps() {
-    rlimit limit{};
-    if (::getrlimit(RLIMIT_CORE, &limit) == 0) {
-        limit.rlim_cur = 0;
-        ::setrlimit(RLIMIT_CORE, &limit);
-    }
-#ifdef __linux__
-    // Programs that take dumps through a pipe get them whatever the limit.
-    ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
-#endif
 }
 
 } // namespace folioforge

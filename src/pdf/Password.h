@@ -37,7 +37,4 @@ QByteArray preparedPassword(const QString &password);
 /// The bytes of both passwords of `encryption`. Throws as preparedPassword() does.
 PreparedPasswords preparedPasswords(const Encryption &encryption);
 
-/// Forbids core dumps of this process, whose memory holds passwords.
-void forbidCoreDumps();
-
 } // namespace folioforge

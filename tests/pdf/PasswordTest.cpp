@@ -11,11 +11,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#ifdef Q_OS_LINUX
-#include <sys/prctl.h>
-#endif
-#include <sys/resource.h>
-
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
@@ -175,20 +170,6 @@ class PasswordTest : public QObject {
         const QByteArray details = runTool(u"qpdf"_s, {u"--show-encryption"_s, path}).out;
         QVERIFY(details.contains("Supplied password is user password"));
         QVERIFY(!details.contains("Supplied password is owner password"));
-    }
-
-    void aCrashLeavesNoImageOfTheMemory() {
-        rlimit limit{};
-        QCOMPARE(::getrlimit(RLIMIT_CORE, &limit), 0);
-        limit.rlim_cur = limit.rlim_max;
-        QCOMPARE(::setrlimit(RLIMIT_CORE, &limit), 0);
-        forbidCoreDumps();
-        QCOMPARE(::getrlimit(RLIMIT_CORE, &limit), 0);
-        QCOMPARE(limit.rlim_cur, rlim_t(0));
-#ifdef Q_OS_LINUX
-        QCOMPARE(::prctl(PR_GET_DUMPABLE, 0, 0, 0, 0), 0);
-        QCOMPARE(::prctl(PR_SET_DUMPABLE, 1, 0, 0, 0), 0);
-#endif
     }
 
     void withoutAnOwnerPasswordNobodyIsOwnerByAnEmptyOne() {
