@@ -247,7 +247,7 @@ int partsOf(const FileView &file) {
 }
 
 bool recognises(QByteArrayView head) {
-    return head.startsWith("\x76\x2F\x31\x01");
+    return head.startsWith(kExrSignature);
 }
 
 PdfImage toPdfImage(const FileView &file) {

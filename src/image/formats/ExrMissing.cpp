@@ -11,7 +11,7 @@ namespace folioforge {
 namespace {
 
 bool recognises(QByteArrayView head) {
-    return head.startsWith("\x76\x2F\x31\x01");
+    return head.startsWith(kExrSignature);
 }
 
 [[noreturn]] void refuse() {

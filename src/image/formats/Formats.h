@@ -18,6 +18,9 @@ ImageFormat psdFormat();      ///< Photoshop; the merged image.
 ImageFormat tgaFormat();      ///< Truevision TGA.
 ImageFormat tiffFormat();     ///< TIFF; its first page.
 
+/// The first bytes of an EXR file, which are told from others without the library, too.
+inline constexpr QByteArrayView kExrSignature("\x76\x2F\x31\x01");
+
 /// Bits of a pixel of the PNG file with these first bytes. Throws Error.
 int pngPixelBits(QByteArrayView head);
 
