@@ -17,15 +17,4 @@ inline void addMorePictures(Warnings &warnings, qint64 count, QLatin1StringView 
     }
 }
 
-/// Adds that so many of an icon's pictures are damaged, one of which may be the largest; nothing
-/// where none is.
-inline void addUnreadablePictures(Warnings &warnings, int unreadable, int count) {
-    if (unreadable > 0) {
-        warnings.push_back({WarningCode::PictureDamaged,
-                            QStringLiteral("%1 of the icon's %2 pictures cannot be read")
-                                .arg(unreadable)
-                                .arg(count)});
-    }
-}
-
 } // namespace folioforge

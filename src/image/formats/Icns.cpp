@@ -3,11 +3,10 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
-#include "image/MorePictures.h"
 #include "image/formats/IcnsPixels.h"
+#include "image/formats/IconPictures.h"
 
 #include <optional>
-#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -22,11 +21,6 @@ struct Candidate {
     FileView content;
     std::optional<ImageFormat> format;
     std::optional<ClassicIcon> classic;
-
-    /// Larger is better, then deeper.
-    [[nodiscard]] std::tuple<qint64, int> rank() const {
-        return {qint64(header.width) * header.height, bits};
-    }
 };
 
 struct Entries {
@@ -81,27 +75,12 @@ struct Choice {
 };
 
 Choice largestOf(const std::vector<IcnsEntry> &entries) {
-    std::optional<Candidate> largest;
-    int pictures = 0;
-    int unreadable = 0;
+    LargestPicture<Candidate> largest;
     for (const IcnsEntry &entry : entries) {
-        try {
-            const auto candidate = candidateOf(entry);
-            pictures += candidate ? 1 : 0;
-            if (candidate && (!largest || candidate->rank() > largest->rank())) {
-                largest = candidate;
-            }
-        } catch (const Error &) {
-            ++unreadable; // A damaged entry leaves the others.
-        }
+        largest.offer([&] { return candidateOf(entry); });
     }
-    if (!largest) {
-        throw Error(u"The icon file holds no picture that can be read"_s);
-    }
-    Choice choice{*largest, {}};
-    addMorePictures(choice.warnings, pictures + unreadable - 1, QLatin1StringView("picture"));
-    addUnreadablePictures(choice.warnings, unreadable, pictures + unreadable);
-    return choice;
+    return {largest.picture(),
+            otherPictures(largest.readable() + largest.unreadable(), largest.unreadable())};
 }
 
 bool recognises(QByteArrayView head) {

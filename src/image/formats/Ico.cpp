@@ -3,13 +3,12 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
-#include "image/MorePictures.h"
 #include "image/PictureDamage.h"
 #include "image/formats/Dib.h"
+#include "image/formats/IconPictures.h"
 
 #include <algorithm>
 #include <optional>
-#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -24,10 +23,6 @@ struct Frame {
     int bits = 0;
     FileView content;
     std::optional<DibHeader> bitmap; ///< None for a PNG file.
-
-    [[nodiscard]] std::tuple<qint64, int> rank() const {
-        return {qint64(header.width) * header.height, bits};
-    }
 };
 
 Frame frameOf(const FileView &content) {
@@ -63,27 +58,13 @@ Choice largestFrame(const FileView &file) {
     const int stated = littleEndianAt<quint16>(file.readExactly(0, kDirectory), 4);
     const int count = std::min(stated, kMaxFrames);
     const QByteArray entries = file.read(kDirectory, count * kEntryBytes);
-    std::optional<Frame> largest;
-    int readable = 0;
+    LargestPicture<Frame> largest;
     for (qsizetype at = 0; at + kEntryBytes <= entries.size(); at += kEntryBytes) {
         const qint64 start = littleEndianAt<quint32>(entries, at + 12);
-        try {
-            const Frame frame = frameOf(file.part(start, file.size() - start));
-            ++readable;
-            if (!largest || frame.rank() > largest->rank()) {
-                largest = frame;
-            }
-        } catch (const Error &) {
-            // A damaged frame leaves the others.
-        }
+        largest.offer(
+            [&] { return std::optional(frameOf(file.part(start, file.size() - start))); });
     }
-    if (!largest) {
-        throw Error(u"The icon file holds no picture that can be read"_s);
-    }
-    Choice choice{*largest, {}};
-    addMorePictures(choice.warnings, stated - 1, QLatin1StringView("picture"));
-    addUnreadablePictures(choice.warnings, count - readable, count);
-    return choice;
+    return {largest.picture(), otherPictures(stated, count - largest.readable())};
 }
 
 /// Opacity of all or nothing by the bits below the colours; full where the file ends before them.
