@@ -1,10 +1,17 @@
 # SPDX-License-Identifier: Apache-2.0
 # The libraries the product stands on; docs/architecture.md says why each was taken.
 
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg Test)
-if(UNIX AND NOT APPLE)
-    find_package(Qt6 6.4 REQUIRED COMPONENTS DBus) # The end-to-end test speaks to the screen.
+set(parts Core)
+if(FOLIOFORGE_WINDOW)
+    list(APPEND parts Gui Widgets Svg)
 endif()
+if(FOLIOFORGE_TESTS)
+    list(APPEND parts Test)
+    if(UNIX AND NOT APPLE)
+        list(APPEND parts DBus) # The end-to-end test speaks to the screen.
+    endif()
+endif()
+find_package(Qt6 6.4 REQUIRED COMPONENTS ${parts})
 find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 if(APPLE)
