@@ -42,6 +42,24 @@ QByteArray progressivePicture() {
     return picture([](jpeg_compress_struct &codec) { jpeg_simple_progression(&codec); });
 }
 
+/// A grey picture of noise, in more than a megabyte, with as many restart markers as it has rows of
+/// blocks.
+QByteArray largePicture() {
+    constexpr int kSide = 1600;
+    std::mt19937 random(20240304);
+    return jpegFile(
+        QSize(kSide, kSide), 1, JCS_GRAYSCALE,
+        [](jpeg_compress_struct &codec) {
+            jpeg_set_quality(&codec, 90, TRUE);
+            codec.restart_in_rows = 1;
+        },
+        [&](int /*y*/, std::vector<JSAMPLE> &row) {
+            for (int x = 0; x < kSide; ++x) {
+                row.push_back(static_cast<JSAMPLE>(random()));
+            }
+        });
+}
+
 /// Where the coded data of scan number `scan` begin, counted from 0.
 qsizetype codedDataOf(const QByteArray &jpeg, int scan = 0) {
     qsizetype at = jpeg.indexOf("\xFF\xDA");
@@ -206,6 +224,49 @@ class JpegDamageTest : public QObject {
         QCOMPARE(dataOf(toPdfImage(write(large))), large);
         QVERIFY(isTold(write(large.chopped(200))));
         QVERIFY(isTold(write(large.first(codedDataOf(large)) + "\xFF\xD9")));
+    }
+
+    void zerosAmongCodedDataAreTold() {
+        QByteArray damaged = plainPicture();
+        const qsizetype coded = codedDataOf(damaged);
+        QVERIFY(damaged.size() - coded > 600);
+        damaged.replace(coded + 300, 128, QByteArray(128, '\0'));
+        QVERIFY(!toPdfImage(write(damaged)).warnings.empty());
+    }
+
+    void zerosAmongTheDataOfALargePhotoAreTold() {
+        const QByteArray large = largePicture();
+        QCOMPARE(dataOf(toPdfImage(write(large))), large);
+        constexpr qsizetype kZeros = (1 << 17) + 128;
+        for (const qsizetype at : {codedDataOf(large), large.size() / 2}) {
+            QByteArray damaged = large;
+            damaged.replace(at, kZeros, QByteArray(kZeros, '\0'));
+            QVERIFY(!toPdfImage(write(damaged)).warnings.empty());
+        }
+    }
+
+    void zerosThatArePixelsStay() {
+        // Codes made for the picture: of a plain one both are a bit that is zero.
+        const QByteArray plain = jpegFile(
+            QSize(1600, 1600), 1, JCS_GRAYSCALE,
+            [](jpeg_compress_struct &codec) { codec.optimize_coding = TRUE; },
+            [](int /*y*/, std::vector<JSAMPLE> &row) { row.assign(1600, 200); });
+        QVERIFY(plain.contains(QByteArray(1000, '\0')));
+        QCOMPARE(dataOf(toPdfImage(write(plain))), plain);
+        // With libjpeg's own codes each block of zeros takes 191 bits: 80 blocks.
+        const QByteArray whole = plainPicture();
+        const QByteArray zeros =
+            whole.first(codedDataOf(whole)) + QByteArray(80 * 191 / 8, '\0') + "\xFF\xD9";
+        QCOMPARE(dataOf(toPdfImage(write(zeros))), zeros);
+    }
+
+    void largePhotoWhoseLastRestartMarkerIsAnotherIsTold() {
+        const QByteArray large = largePicture();
+        // 200 rows of blocks: the last marker is the seventh of its round, counted from 0 the
+        // sixth.
+        const qsizetype last = large.lastIndexOf("\xFF\xD6");
+        QVERIFY(last > large.lastIndexOf("\xFF\xD5"));
+        QVERIFY(isTold(write(large.first(last) + "\xFF\xD9")));
     }
 
     void bytesBetweenSegmentsAreLeftOut() {

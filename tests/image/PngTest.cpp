@@ -214,6 +214,35 @@ class PngTest : public QObject {
                  u"The PNG file holds no picture"_s);
     }
 
+    void missingChunksOfRowsAreTold_data() {
+        QTest::addColumn<int>("size");
+        QTest::newRow("equally long chunks") << 1000;
+        QTest::newRow("chunks of a round size") << 4096;
+    }
+    void missingChunksOfRowsAreTold() {
+        QFETCH(const int, size);
+        const QByteArray packed = packedNoise();
+        QList<QByteArray> chunks;
+        for (qsizetype at = 0; at < packed.size(); at += size) {
+            chunks += packed.sliced(at, std::min<qsizetype>(size, packed.size() - at));
+        }
+        QVERIFY(chunks.size() > 3);
+        QCOMPARE(dataOf(toPdfImage(write(noise(chunks)))), packed);
+        const auto isCutOff = [&](qsizetype count) {
+            const auto warnings = warningsOf(toPdfImage(write(noise(chunks.first(count)))));
+            return warnings.size() == 1 &&
+                   warnings[0].startsWith(u"picture-damaged: The picture is cut off: "_s);
+        };
+        QVERIFY(isCutOff(chunks.size() - 1));
+        QVERIFY(isCutOff(size == 4096 ? 1 : 2));
+        QCOMPARE(refusalOf(write(noise(chunks.sliced(1)))), u"The PNG file is damaged"_s);
+    }
+
+    void wholeRowsInChunksOfRoundSizesStay() {
+        const QByteArray packed = packedNoise();
+        QCOMPARE(dataOf(toPdfImage(write(noise({packed, {}})))), packed);
+    }
+
     void missingEndLeavesThePicture() {
         const QByteArray bytes = bytesOf(imageFile(u"colour.png"_s));
         const PdfImage image = toPdfImage(write(bytes.chopped(12)));
@@ -307,6 +336,30 @@ class PngTest : public QObject {
         header[12] = static_cast<char>(order);
         return "\x89PNG\r\n\x1A\n" + pngChunk("IHDR", header) +
                pngChunk("IDAT", qCompress(rows).mid(4)) + pngChunk("IEND", {});
+    }
+
+    static constexpr QSize kNoise{64, 200};
+
+    /// The rows of a grey picture.
+    static QByteArray packedNoise() {
+        QByteArray rows;
+        std::mt19937 random(20240305);
+        for (int y = 0; y < kNoise.height(); ++y) {
+            rows += '\0'; // The number of its filter.
+            for (int x = 0; x < kNoise.width(); ++x) {
+                rows += static_cast<char>(random());
+            }
+        }
+        return qCompress(rows).mid(4);
+    }
+    /// The picture whose rows these chunks hold.
+    static QByteArray noise(const QList<QByteArray> &chunks) {
+        QByteArray file = png(kNoise, 8, 0, {});
+        file.truncate(33); // Behind the header's chunk.
+        for (const QByteArray &chunk : chunks) {
+            file += pngChunk("IDAT", chunk);
+        }
+        return file + pngChunk("IEND", {});
     }
 
     QString write(const QByteArray &bytes) {

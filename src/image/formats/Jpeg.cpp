@@ -184,6 +184,15 @@ PdfImage decodedImage(const FileView &file, const JpegMetadata &metadata) {
     return image;
 }
 
+/// The whole file but for bytes that belong to no segment.
+std::vector<FileSlice> ownBytes(const FileView &file, const JpegStructure &structure) {
+    std::vector<FileSlice> strays = structure.strays;
+    for (FileSlice &stray : strays) {
+        stray.offset += file.offset();
+    }
+    return slicesWithout({{file.offset(), file.size()}}, strays);
+}
+
 bool recognises(QByteArrayView head) {
     return head.startsWith("\xFF\xD8\xFF");
 }
@@ -197,21 +206,20 @@ PdfImage toPdfImage(const FileView &file) {
     requireKnownProcess(metadata.frame);
     PdfImage image = describe(metadata);
     const JpegStructure structure = readJpegStructure(file, JpegWalk::Thrifty);
-    if (isProcessOfPdf(metadata.frame) && structure.isWhole) {
-        const qint64 start = file.offset();
-        std::vector<FileSlice> strays = structure.strays;
-        for (FileSlice &stray : strays) {
-            stray.offset += start;
+    const bool isKeepable =
+        isProcessOfPdf(metadata.frame) && (structure.isWhole || structure.lacksEnd);
+    if (!isKeepable || structure.isDoubtful || structure.lacksEnd) {
+        PdfImage decoded = decodedImage(file, metadata);
+        if (!isKeepable || !decoded.warnings.empty()) {
+            return decoded;
         }
-        image.slices = slicesWithout({{start, file.size()}}, strays);
-        return image;
     }
-    PdfImage decoded = decodedImage(file, metadata);
-    if (isProcessOfPdf(metadata.frame) && structure.lacksEnd && decoded.warnings.empty()) {
+    if (structure.lacksEnd) {
         image.data = file.readExactly(0, file.size()) + "\xFF\xD9";
-        return image;
+    } else {
+        image.slices = ownBytes(file, structure);
     }
-    return decoded;
+    return image;
 }
 
 std::vector<FileSlice> metadata(const FileView &file) {

@@ -122,6 +122,10 @@ bool JpegCheck::acceptHuffman(QByteArrayView tables) {
             return false;
         }
         m_huffman.at(static_cast<size_t>(kind)).at(static_cast<size_t>(number)) = true;
+        if (kind == 1) {
+            m_endIsZeros.at(static_cast<size_t>(number)) =
+                bigEndianAt<uchar>(tables, 1 + kLengths) == 0;
+        }
         tables = tables.sliced(bytes);
     }
     return true;
@@ -160,7 +164,19 @@ bool JpegCheck::acceptScan(const JpegSegment &scan) {
         }
         m_isSeen[members.back()] = m_isSeen[members.back()] || !isProgressive || isFirstPass;
     }
+    m_isDoubtful = m_isDoubtful || (scan.hasZeros && !isProgressive && !mayBeZeros(content));
     return acceptCodedData(scan, members, !isProgressive || isFirstPass);
+}
+
+/// Whether blocks of one colour may be stored as nothing but zeros.
+bool JpegCheck::mayBeZeros(QByteArrayView scan) const {
+    constexpr int kAc = 0x0F;
+    for (int i = 0; i < bigEndianAt<uchar>(scan, 0); ++i) {
+        if (!m_endIsZeros.at(bigEndianAt<uchar>(scan, 2 + 2 * i) & kAc)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 bool JpegCheck::acceptCodedData(const JpegSegment &scan, const std::vector<size_t> &members,
@@ -187,8 +203,11 @@ bool JpegCheck::acceptCodedData(const JpegSegment &scan, const std::vector<size_
     if (scan.codedBytes < parts(leastBits, 8)) {
         return false;
     }
-    return m_isThrifty || (scan.restartsInOrder && scan.restarts >= restarts &&
-                           (m_interval > 0 || scan.restarts == 0));
+    if (m_isThrifty) {
+        return scan.lastRestart < 0 || scan.lastRestart == (restarts - 1) % 8;
+    }
+    return scan.restartsInOrder && scan.restarts >= restarts &&
+           (m_interval > 0 || scan.restarts == 0);
 }
 
 } // namespace folioforge

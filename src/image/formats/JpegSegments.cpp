@@ -5,6 +5,7 @@
 #include "image/Bytes.h"
 
 #include <algorithm>
+#include <array>
 
 namespace folioforge {
 
@@ -41,6 +42,30 @@ Passed passPiece(QByteArrayView piece, JpegSegment &scan) {
         at += code == 0xFF ? 1 : 2; // A zero marks data, and fill bytes may precede a marker.
     }
     return {piece.size(), false};
+}
+
+/// Shorter than a sector of a disk, longer than what a picture may hold.
+constexpr qsizetype kZeros = 64;
+
+/// Whether `data` has a stretch of zeros twice as long as that.
+bool hasZeroStretch(QByteArrayView data) {
+    for (qsizetype at = 0; at + kZeros <= data.size(); at += kZeros) {
+        if (std::ranges::all_of(data.sliced(at, kZeros), [](char byte) { return byte == 0; })) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// The number of the last restart marker in `data`; -1 where there is none.
+int lastRestartIn(QByteArrayView data) {
+    for (qsizetype at = data.size() - 2; at >= 0; --at) {
+        const auto code = static_cast<uchar>(data[at + 1]);
+        if (data[at] == '\xFF' && isRestart(code)) {
+            return code - Rst0;
+        }
+    }
+    return -1;
 }
 
 } // namespace
@@ -106,11 +131,28 @@ void JpegSegments::passCodedData(JpegSegment &scan) {
     constexpr qint64 kPiece = 1 << 18;
     Passed passed;
     do {
-        passed = passPiece(m_file.read(m_at, kPiece), scan);
+        const QByteArray piece = m_file.read(m_at, kPiece);
+        passed = passPiece(piece, scan);
+        scan.hasZeros |= hasZeroStretch(QByteArrayView(piece).first(passed.bytes));
         m_at += passed.bytes;
     } while (!passed.isEnd && passed.bytes > 0);
     scan.codedBytes = m_at - scan.end;
     scan.end = m_at;
+}
+
+void JpegSegments::probeCodedData(JpegSegment &scan, qint64 end, bool hasRestarts) {
+    constexpr qint64 kStep = 1 << 17; // Each look costs a call of the system.
+    constexpr qint64 kLastPiece = 1 << 15;
+    std::array<uchar, kZeros> piece{};
+    for (qint64 at = scan.end; at + kZeros <= end && !scan.hasZeros; at += kStep) {
+        scan.hasZeros = m_file.readInto(at, piece) == kZeros && hasZeroStretch(piece);
+    }
+    if (hasRestarts) {
+        const qint64 last = std::max(scan.end, end - kLastPiece);
+        scan.lastRestart = lastRestartIn(m_file.read(last, end - last));
+    }
+    scan.codedBytes = end - scan.end;
+    scan.end = m_at = end;
 }
 
 bool isFrameHeader(uchar marker) {

@@ -47,6 +47,8 @@ struct JpegSegment {
     qint64 codedBytes = 0;  ///< Of a scan.
     int restarts = 0;       ///< Restart markers of a scan.
     bool restartsInOrder = true;
+    int lastRestart = -1;  ///< The number of the last one, from 0 to 7; -1 where it is not known.
+    bool hasZeros = false; ///< A stretch of its coded data is nothing but zeros.
 };
 
 /// Walks through the markers of a JPEG file. Bytes between segments that belong to none are passed
@@ -61,6 +63,8 @@ class JpegSegments {
     std::optional<JpegSegment> next();
     /// Walks on over the coded data of `scan`, which next() has just given, and tells it of them.
     void passCodedData(JpegSegment &scan);
+    /// Looks at the coded data of `scan`, which end before `end`, here and there instead.
+    void probeCodedData(JpegSegment &scan, qint64 end, bool hasRestarts);
     /// Where the next segment is looked for.
     [[nodiscard]] qint64 position() const { return m_at; }
     /// What was passed over between the segments so far.

@@ -28,12 +28,14 @@ void passAll(const FileView &file, JpegSegments &segments, qint64 thriftyEnd,
     while (auto segment = segments.next()) {
         if (segment->marker == Eoi) {
             structure.isWhole = check.isComplete();
+            structure.isDoubtful = check.isDoubtful();
             return;
         }
         if (segment->marker == Sos) {
             if (thriftyEnd > 0 && check.isOnlyScan(*segment)) {
-                segment->codedBytes = thriftyEnd - segment->end;
+                segments.probeCodedData(*segment, thriftyEnd, check.hasRestarts());
                 structure.isWhole = check.accept(*segment);
+                structure.isDoubtful = check.isDoubtful();
                 return;
             }
             segments.passCodedData(*segment);

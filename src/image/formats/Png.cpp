@@ -134,7 +134,7 @@ PdfImage describe(const PngMetadata &metadata) {
 PdfImage withOwnRows(const FileView &file, const PngMetadata &metadata) {
     PdfImage image = describe(metadata);
     QByteArray rows;
-    if (!metadata.isWhole || !metadata.transparency.isEmpty()) {
+    if (!metadata.isWhole || !metadata.transparency.isEmpty() || mayLackPngRows(file, metadata)) {
         const qsizetype size = metadata.header.height * (metadata.stride() + 1);
         rows = inflatePngRows(file, metadata, size, image.warnings);
     }

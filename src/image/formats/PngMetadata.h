@@ -65,6 +65,10 @@ enum class PngReading { Header, Pixels };
 /// Reads all chunks. Throws Error where the file holds no picture.
 PngMetadata readPngMetadata(const FileView &file, PngReading reading);
 
+/// Whether chunks of rows seem to be missing of a file whose chunks are whole, not interlaced. A
+/// look at their sizes alone: the rows are not unpacked.
+bool mayLackPngRows(const FileView &file, const PngMetadata &metadata);
+
 /// The `size` bytes of the filtered rows, each behind the number of its filter. Of damaged rows it
 /// gives what can be unpacked, zeros for the rest, and adds what is said of them. Throws Error
 /// where no row can be.

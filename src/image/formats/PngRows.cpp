@@ -3,6 +3,7 @@
 #include "image/formats/PngMetadata.h"
 
 #include "error/Error.h"
+#include "image/Bytes.h"
 #include "image/Deflate.h"
 #include "image/PictureDamage.h"
 #include "image/RowFilter.h"
@@ -60,7 +61,34 @@ QByteArray inflateDamagedRows(const QByteArray &compressed, const PngMetadata &m
     return rows;
 }
 
+/// Whether `first` begins a zlib stream (RFC 1950, 2.2).
+bool beginsZlib(QByteArrayView first) {
+    constexpr int kDeflate = 8;
+    constexpr int kMostWindow = 7;
+    constexpr int kDictionary = 0x20;
+    const auto method = bigEndianAt<uchar>(first, 0);
+    const auto flags = bigEndianAt<uchar>(first, 1);
+    return (method & 0x0F) == kDeflate && method >> 4 <= kMostWindow &&
+           (flags & kDictionary) == 0 && (method << 8 | flags) % 31 == 0;
+}
+
 } // namespace
+
+bool mayLackPngRows(const FileView &file, const PngMetadata &metadata) {
+    qint64 bytes = 0;
+    for (const FileSlice &slice : metadata.data) {
+        bytes += slice.length;
+    }
+    const qint64 size = qint64(metadata.header.height) * (metadata.stride() + 1);
+    if (bytes < size / kDeflateRatio || !beginsZlib(file.read(metadata.data.front().offset, 2))) {
+        return true;
+    }
+    // Writers fill a buffer of a round size again and again, and the last time in part.
+    constexpr qint64 kRound = 1024;
+    const qint64 last = metadata.data.back().length;
+    return last % kRound == 0 ||
+           (metadata.data.size() > 1 && last == metadata.data[metadata.data.size() - 2].length);
+}
 
 QByteArray inflatePngRows(const FileView &file, const PngMetadata &metadata, qsizetype size,
                           Warnings &warnings) {
