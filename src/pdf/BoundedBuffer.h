@@ -3,9 +3,11 @@
 #pragma once
 
 #include <qpdf/Pipeline.hh>
+#include <qpdf/QPDFObjectHandle.hh>
 
 #include <cstddef>
 #include <exception>
+#include <optional>
 #include <string>
 
 namespace folioforge {
@@ -33,5 +35,9 @@ class BoundedBuffer : public Pipeline {
     std::string &m_text;
     std::size_t m_maxBytes;
 };
+
+/// The data of a stream without its filter; nothing where it is damaged or longer than `maxBytes`,
+/// or has several filters, of which each may unfold a thousandfold.
+std::optional<std::string> boundedData(QPDFObjectHandle stream, std::size_t maxBytes);
 
 } // namespace folioforge

@@ -5,7 +5,6 @@
 #include "pdf/BoundedBuffer.h"
 #include "pdf/DocumentInfo.h"
 #include "pdf/XmpNames.h"
-#include "pdf/import/Entries.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -261,15 +260,11 @@ QString Claims::pdfUAName() const {
 std::optional<QString> readXmpPacket(QPDF &document) {
     constexpr std::size_t kMaxBytes = 4 << 20;
     auto metadata = document.getRoot().getKey("/Metadata");
-    if (!metadata.isStream() || items(metadata.getDict().getKey("/Filter")).size() > 1) {
+    const auto packet = metadata.isStream() ? boundedData(metadata, kMaxBytes) : std::nullopt;
+    if (!packet) {
         return std::nullopt;
     }
-    std::string packet;
-    BoundedBuffer collect(packet, kMaxBytes);
-    if (!metadata.pipeStreamData(&collect, nullptr, 0, qpdf_dl_generalized, true, false)) {
-        return std::nullopt;
-    }
-    const auto text = decoded(QByteArray::fromStdString(packet));
+    const auto text = decoded(QByteArray::fromStdString(*packet));
     return text && isQuick(*text) ? text : std::nullopt;
 }
 

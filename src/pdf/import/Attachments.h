@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "pdf/import/LeftParts.h"
+#include "pdf/import/ImportOptions.h"
 #include "pdf/import/TreeEntries.h"
 
 #include <qpdf/QPDFObjectHandle.hh>

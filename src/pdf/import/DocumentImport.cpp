@@ -4,6 +4,7 @@
 
 #include "pdf/import/CarriedParts.h"
 #include "pdf/import/ContentCheck.h"
+#include "pdf/import/LeftParts.h"
 #include "pdf/import/MissingObjects.h"
 #include "pdf/import/ObjectCopier.h"
 #include "pdf/import/SourceDamage.h"

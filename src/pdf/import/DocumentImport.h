@@ -11,7 +11,6 @@
 #include "pdf/import/FormImport.h"
 #include "pdf/import/ImportOptions.h"
 #include "pdf/import/Layers.h"
-#include "pdf/import/LeftParts.h"
 #include "pdf/import/Metadata.h"
 #include "pdf/import/NameTrees.h"
 #include "pdf/import/OutputIntents.h"

@@ -3,9 +3,14 @@
 #pragma once
 
 #include "pdf/DocumentInfo.h"
-#include "pdf/import/LeftParts.h"
 
 namespace folioforge {
+
+/// What a source document is to the document that is made.
+enum class ImportScope {
+    WholeDocument, ///< All of it.
+    OneOfSeveral   ///< A part of it.
+};
 
 /// What the document that is made is to be, as far as it matters to its sources.
 struct ImportOptions {

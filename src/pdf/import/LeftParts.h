@@ -9,12 +9,6 @@ class QPDF;
 
 namespace folioforge {
 
-/// What a source document is to the document that is made.
-enum class ImportScope {
-    WholeDocument, ///< All of it.
-    OneOfSeveral   ///< A part of it.
-};
-
 struct ImportOptions;
 
 /// Counts what `source` has beside its pages and does not get into the document that is made;

@@ -3,7 +3,6 @@
 #include "pdf/import/Metadata.h"
 
 #include "pdf/DocumentInfo.h"
-#include "pdf/import/ImportOptions.h"
 
 #include <qpdf/QPDF.hh>
 

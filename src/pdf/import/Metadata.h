@@ -3,8 +3,9 @@
 #pragma once
 
 #include "error/Warning.h"
+#include "pdf/DocumentParts.h"
 #include "pdf/XmpPacket.h"
-#include "pdf/import/LeftParts.h"
+#include "pdf/import/ImportOptions.h"
 
 #include <QString>
 
@@ -14,8 +15,6 @@
 class QPDF;
 
 namespace folioforge {
-
-struct ImportOptions;
 
 /// The metadata of a source that is all of the document: its XMP packet and what that claims.
 struct ImportedMetadata {

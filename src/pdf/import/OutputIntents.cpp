@@ -19,17 +19,11 @@ namespace {
 
 /// A hash of the data of a profile without its filters; nothing where it is damaged or far too long
 /// for one.
-std::optional<QByteArray> profileHash(QPDFObjectHandle profile) {
+std::optional<QByteArray> profileHash(const QPDFObjectHandle &profile) {
     constexpr std::size_t kMaxBytes = 16 << 20;
-    if (items(profile.getDict().getKey("/Filter")).size() > 1) {
-        return std::nullopt; // Each filter may unfold a thousandfold.
-    }
-    std::string data;
-    BoundedBuffer collect(data, kMaxBytes);
-    const bool whole =
-        profile.pipeStreamData(&collect, nullptr, 0, qpdf_dl_generalized, true, false);
-    return whole ? std::optional(QCryptographicHash::hash(data, QCryptographicHash::Sha256))
-                 : std::nullopt;
+    const auto data = boundedData(profile, kMaxBytes);
+    return data ? std::optional(QCryptographicHash::hash(*data, QCryptographicHash::Sha256))
+                : std::nullopt;
 }
 
 std::optional<QByteArray> meaningOf(const std::vector<QPDFObjectHandle> &intents) {

@@ -15,8 +15,6 @@ namespace folioforge {
 
 namespace {
 
-using Dictionary = std::map<std::string, QPDFObjectHandle>;
-
 /// What a kid of an element is (ISO 32000-1, 14.7.4).
 enum class KidKind { Element, MarkedContent, Object, Damaged };
 
