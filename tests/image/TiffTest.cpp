@@ -287,6 +287,24 @@ class TiffTest : public QObject {
         QCOMPARE(pixels.sliced(all.size()), QByteArray(pixels.size() - all.size(), '\0'));
     }
 
+    void rowsOfGroup4BehindAFaultAreMissing() {
+        // Four white and four black pixels in horizontal mode, a row as the one above, a code that
+        // is none, and what would be more such rows.
+        const QByteArray bits = "001101101111000000011" + QByteArray(40, '1');
+        QByteArray data;
+        for (qsizetype at = 0; at + 8 <= bits.size(); at += 8) {
+            data += static_cast<char>(bits.sliced(at, 8).toInt(nullptr, 2));
+        }
+        const PdfImage image = toPdfImage(tiff(8, 8, data, [](TIFF *tif) {
+            setSamples(tif, 1, 1, PHOTOMETRIC_MINISWHITE);
+            TIFFSetField(tif, TIFFTAG_COMPRESSION, COMPRESSION_CCITTFAX4);
+        }));
+        QCOMPARE(warningsOf(image), QStringList(u"picture-damaged: The picture is cut off: 75 % of "
+                                                u"its rows could not be read"_s));
+        const QByteArray there = QByteArray(12, '\xFF') + QByteArray(12, '\0');
+        QCOMPARE(rgbRows(image), there.repeated(2) + QByteArray(6 * 24, '\xFF'));
+    }
+
     void whatIsWrongIsSaidInPlainWords_data() {
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("words");
