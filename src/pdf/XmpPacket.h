@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include <optional>
@@ -10,8 +9,6 @@
 class QPDF;
 
 namespace folioforge {
-
-struct DocumentInfo;
 
 /// The standards that a document says it keeps. Empty where it does not say so.
 struct Claims {
@@ -34,10 +31,5 @@ std::optional<Claims> readClaims(const QString &packet);
 
 /// What the metadata of `document` claims.
 Claims claimsOf(QPDF &document);
-
-/// A well-formed packet brought into line: it says of title, author, subject, keywords, programs
-/// and dates what `info` says, with its creation date valid, and claims what `kept` does. All else
-/// stays.
-QByteArray rewrittenXmp(const QString &packet, const DocumentInfo &info, const Claims &kept);
 
 } // namespace folioforge

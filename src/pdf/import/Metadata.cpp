@@ -3,6 +3,7 @@
 #include "pdf/import/Metadata.h"
 
 #include "pdf/DocumentInfo.h"
+#include "pdf/XmpRewriter.h"
 
 #include <qpdf/QPDF.hh>
 

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/XmpNames.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+bool isOfInfo(QStringView space, QStringView name) {
+    static constexpr std::array<std::pair<QLatin1StringView, QLatin1StringView>, 10> kProperties{
+        {{kDc, "title"_L1},
+         {kDc, "creator"_L1},
+         {kDc, "description"_L1},
+         {kDc, "subject"_L1},
+         {kPdf, "Keywords"_L1},
+         {kPdf, "Producer"_L1},
+         {kXmp, "CreatorTool"_L1},
+         {kXmp, "CreateDate"_L1},
+         {kXmp, "ModifyDate"_L1},
+         {kXmp, "MetadataDate"_L1}}};
+    return std::ranges::any_of(kProperties, [&](const auto &property) {
+        return space == property.first && name == property.second;
+    });
+}
+
+} // namespace folioforge
