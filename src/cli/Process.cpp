@@ -15,6 +15,7 @@
 
 #include <langinfo.h>
 #include <sys/resource.h>
+#include <sys/time.h>
 
 namespace folioforge {
 namespace {
@@ -37,17 +38,24 @@ extern "C" void stopInTime(int /*signalNumber*/) {
 }
 
 /// The system ends the program at the hard limit and warns it at the soft one, which is often the
-/// same: then the warning is asked for a second earlier.
+/// same: then the warning is asked for a second earlier, or where there is but one, in its midst.
 void askForStopInTime() {
     processorTime(); // A signal handler must not be the first to ask for it.
     std::signal(SIGXCPU, stopInTime);
     rlimit limit{};
-    constexpr rlim_t kSeconds = 2;
-    if (::getrlimit(RLIMIT_CPU, &limit) == 0 && limit.rlim_max != RLIM_INFINITY &&
-        limit.rlim_cur >= limit.rlim_max && limit.rlim_max >= kSeconds) {
+    if (::getrlimit(RLIMIT_CPU, &limit) != 0 || limit.rlim_max == RLIM_INFINITY ||
+        limit.rlim_cur < limit.rlim_max) {
+        return;
+    }
+    if (limit.rlim_max > 1) {
         limit.rlim_cur = limit.rlim_max - 1;
         ::setrlimit(RLIMIT_CPU, &limit);
+        return;
     }
+    constexpr suseconds_t kHalfASecond = 500'000;
+    const itimerval timer{{}, {0, kHalfASecond}};
+    std::signal(SIGPROF, stopInTime);
+    ::setitimer(ITIMER_PROF, &timer, nullptr);
 }
 
 void passOn(QtMsgType type, const QMessageLogContext & /*context*/, const QString &message) {

@@ -123,11 +123,17 @@ class InterruptionsTest : public QObject {
         QVERIFY(PdfProbe(path("out/small.pdf")).isValid());
     }
 
+    void theLimitOfProcessorTimeEndsTheRunInOrder_data() {
+        QTest::addColumn<int>("seconds");
+        QTest::newRow("one second") << 1;
+        QTest::newRow("two seconds") << 2;
+    }
     void theLimitOfProcessorTimeEndsTheRunInOrder() {
+        QFETCH(const int, seconds);
         const QString text = test::writeFile(path("long.txt"), QByteArray(1 << 20, 'x'));
         constexpr qsizetype kInputs = 2000; // Far more than two seconds are enough for.
         test::Limits limits;
-        limits.processorSeconds = 2;
+        limits.processorSeconds = seconds;
         const auto run = test::runLimited(
             test::commandLineProgram(),
             QStringList{u"--output-folder"_s, path("out")} + QStringList(kInputs, text), limits);
