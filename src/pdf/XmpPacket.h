@@ -26,8 +26,16 @@ struct Claims {
 /// it is damaged, longer than a few megabytes, compressed more than once, or would take for ever.
 std::optional<QString> readXmpPacket(QPDF &document);
 
-/// The claims of a packet; nothing where it is not well formed.
-std::optional<Claims> readClaims(const QString &packet);
+/// What a packet says beside what the document information says too.
+struct XmpContents {
+    Claims claims;
+    /// More than claims and the account that programs keep of their own work: a copyright, a
+    /// publisher, a catalogue number.
+    bool saysMore = false;
+};
+
+/// The contents of a packet; nothing where it is not well formed.
+std::optional<XmpContents> readXmpContents(const QString &packet);
 
 /// What the metadata of `document` claims.
 Claims claimsOf(QPDF &document);

@@ -315,6 +315,10 @@ class MetadataTest : public QObject, protected MergeCase {
         QTest::newRow("no tags for PDF/UA")
             << pdfUA << u"t"_s << tags
             << u"PDF/UA-1, since some of its structure tags are damaged"_s;
+        QTest::newRow("document information")
+            << kPdfA + QByteArray("pdfaid:part=\"4\" pdfaid:conformance=\"F\"") << u"t"_s
+            << QByteArray()
+            << u"PDF/A-4f, since that forbids the document information, which is written"_s;
         QTest::newRow("no tags for level A")
             << levelA << QString() << tags
             << u"PDF/A-2a, since some of its structure tags are damaged"_s;

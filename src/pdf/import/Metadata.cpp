@@ -16,7 +16,10 @@ namespace folioforge {
 namespace {
 
 /// Why the copy does not keep what only a sound and whole document keeps; empty where it does.
-QString reasonOfBoth(const Warnings &warnings) {
+QString reasonOfBoth(const ImportOptions &options, const Warnings &warnings) {
+    if (options.scope == ImportScope::OneOfSeveral) {
+        return u"it is a part of another one now"_s;
+    }
     const bool isDamaged = std::ranges::any_of(warnings, [](const Warning &warning) {
         return warning.code == WarningCode::PdfRepaired ||
                warning.code == WarningCode::PdfPagesLost;
@@ -33,6 +36,9 @@ QString reasonAgainstPdfA(const Claims &claims, const ImportOptions &options,
                           const PartCounts &left) {
     if (options.encrypted) {
         return u"that forbids encryption"_s;
+    }
+    if (claims.pdfA == u"4") {
+        return u"that forbids the document information, which is written"_s;
     }
     return claims.conformance == u"A" ? reasonOfStructure(left) : QString();
 }
@@ -54,23 +60,28 @@ void drop(const QString &standard, const QString &reason, Warnings &warnings) {
 
 ImportedMetadata readMetadata(QPDF &source, ImportScope scope) {
     ImportedMetadata metadata;
-    if (scope == ImportScope::OneOfSeveral || !source.getRoot().getKey("/Metadata").isStream()) {
+    if (!source.getRoot().getKey("/Metadata").isStream()) {
         return metadata;
     }
     const auto packet = readXmpPacket(source);
-    const auto claims = packet ? readClaims(*packet) : std::nullopt;
-    if (claims) {
-        metadata.packet = *packet;
-        metadata.claims = *claims;
+    const auto contents = packet ? readXmpContents(*packet) : std::nullopt;
+    if (!contents) {
+        metadata.isLeft = true;
+        return metadata;
     }
-    metadata.isLeft = !claims;
+    metadata.claims = contents->claims;
+    if (scope == ImportScope::WholeDocument) {
+        metadata.packet = *packet;
+    } else {
+        metadata.isLeft = contents->saysMore;
+    }
     return metadata;
 }
 
 Warnings dropBrokenClaims(Claims &claims, const ImportOptions &options, const PartCounts &left,
                           const Warnings &warnings) {
     Warnings dropped;
-    const QString both = reasonOfBoth(warnings);
+    const QString both = reasonOfBoth(options, warnings);
     const QString pdfA = both.isEmpty() ? reasonAgainstPdfA(claims, options, left) : both;
     if (!claims.pdfA.isEmpty() && !pdfA.isEmpty()) {
         drop(claims.pdfAName(), pdfA, dropped);

@@ -16,15 +16,15 @@ class QPDF;
 
 namespace folioforge {
 
-/// The metadata of a source that is all of the document: its XMP packet and what that claims.
+/// The metadata of a source: its XMP packet and what that claims.
 struct ImportedMetadata {
-    QString packet;      ///< Well formed; empty where there is none.
+    QString packet;      ///< Well formed; empty where there is none or it does not stay.
     Claims claims;       ///< Those that the document that is made keeps.
-    bool isLeft = false; ///< There is a packet, and it cannot be read.
+    bool isLeft = false; ///< There is a packet that says something and does not stay.
 };
 
-/// Reads the metadata; nothing of a source that is one of several. To be called before pages are
-/// copied.
+/// Reads the metadata, which stays where the source is all of the document. To be called before
+/// pages are copied.
 ImportedMetadata readMetadata(QPDF &source, ImportScope scope);
 
 /// Takes away the claims that the document that is made does not keep, and names them. `left` and
