@@ -101,7 +101,6 @@ class ContentsReader {
         : m_reader(packet) {}
 
     std::optional<XmpContents> read() {
-        bool isWhole = true;
         while (!m_reader.atEnd()) {
             switch (m_reader.readNext()) {
             case QXmlStreamReader::StartElement:
@@ -113,15 +112,11 @@ class ContentsReader {
             case QXmlStreamReader::Characters:
                 m_contents.saysMore |= m_ownDepth > 0 && !m_reader.isWhitespace();
                 break;
-            case QXmlStreamReader::EntityReference:
-                isWhole = false;
-                break;
             default:
                 break;
             }
         }
-        return m_reader.hasError() || !m_hasRdf || !isWhole ? std::nullopt
-                                                            : std::optional(m_contents);
+        return m_reader.hasError() || !m_hasRdf ? std::nullopt : std::optional(m_contents);
     }
 
   private:
