@@ -26,6 +26,8 @@ constexpr std::array kWords{
     PartWords{PartKind::BaseAddress, "base-address"_L1, "a base address of links"_L1, {}},
     PartWords{PartKind::UsageRights, "usage-rights"_L1, "usage rights"_L1, {}},
     PartWords{PartKind::Metadata, "metadata"_L1, "metadata"_L1, {}},
+    PartWords{PartKind::Properties, "properties"_L1, "1 further document property"_L1,
+              "%1 further document properties"_L1},
     PartWords{PartKind::OutputIntents, "output-intents"_L1, "output intents"_L1, {}},
     PartWords{PartKind::Signatures, "signatures"_L1, "1 signature"_L1, "%1 signatures"_L1},
     PartWords{PartKind::Links, "links"_L1, "1 link"_L1, "%1 links"_L1},

@@ -25,6 +25,7 @@ enum class PartKind {
     BaseAddress,
     UsageRights,
     Metadata,
+    Properties, ///< Of the document information, of one's own.
     OutputIntents,
     Signatures,
     Links,

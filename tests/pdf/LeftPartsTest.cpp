@@ -76,6 +76,19 @@ class LeftPartsTest : public QObject, protected MergeCase {
         QCOMPARE(said(source), u"pdf-parts-left: Not carried over: "_s + name);
     }
 
+    void propertiesOfOnesOwnAreNamed() {
+        const auto withInfo = [](const QByteArray &keys) {
+            return withCatalog({}).object(30, "<< " + keys + " >>").trailer("/Info 30 0 R");
+        };
+        const QString named = u"pdf-parts-left: Not carried over: "_s;
+        QCOMPARE(said(withInfo("/Title (t) /ModDate (D:2001) /Trapped /False /Company () "
+                               "/PTEX.Fullbanner (This is TeX)")),
+                 QString());
+        QCOMPARE(said(withInfo("/Trapped /True")), named + u"1 further document property"_s);
+        QCOMPARE(said(withInfo("/Company (c) /GTS_PDFXVersion (PDF/X-3:2002)")),
+                 named + u"2 further document properties"_s);
+    }
+
     void whatNobodyMissesIsNotNamed() {
         const QByteArray keys =
             "/Lang (de) /PageMode /UseOutlines /PageLayout /OneColumn /ViewerPreferences << "

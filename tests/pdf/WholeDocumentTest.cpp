@@ -68,6 +68,24 @@ class WholeDocumentTest : public QObject, protected MergeCase {
         QCOMPARE(entryOf(*opened(merged({source}, true)), key.constData()), value);
     }
 
+    void propertiesOfOnesOwnStay() {
+        PdfFixture source = withCatalog({});
+        source.object(30, "<< /Title (t) /Producer (p) /ModDate (D:2001) /Trapped /True "
+                          "/Company (Example) /GTS_PDFXVersion (PDF/X-3:2002) /Own 31 0 R >>");
+        source.object(31, "(of its own)").trailer("/Info 30 0 R");
+        const QString path = merged({saved(source)}, true);
+        const QByteArray info = runTool(u"pdfinfo"_s, {u"-custom"_s, path}).out;
+        for (const char *line : {"Company:", "Example\n", "PDF/X-3:2002\n", "of its own\n"}) {
+            QVERIFY2(info.contains(line), info.constData());
+        }
+        const auto document = opened(path);
+        auto written = document->getTrailer().getKey("/Info");
+        QCOMPARE(written.getKey("/Trapped").getName(), "/True");
+        QCOMPARE(written.getKey("/Title").getStringValue(), "");
+        QVERIFY(!written.hasKey("/ModDate"));
+        QVERIFY(written.getKey("/Producer").getStringValue() != "p");
+    }
+
     void whatHoldsForTheOriginalFileAloneGoes_data() {
         QTest::addColumn<QByteArray>("key");
         QTest::newRow("usage rights") << QByteArray("/Perms");

@@ -2,6 +2,7 @@
 
 #include "pdf/import/DocumentCatalog.h"
 
+#include "pdf/import/FurtherInfo.h"
 #include "pdf/import/PageTree.h"
 
 #include <qpdf/QPDF.hh>
@@ -50,6 +51,7 @@ void DocumentCatalog::merge(const ImportedDocument &imported) {
     m_attachments.add(imported.attachments);
     m_threads.add(imported.threads);
     m_parts.insert(imported.catalogParts.begin(), imported.catalogParts.end());
+    m_furtherInfo.insert(imported.furtherInfo.begin(), imported.furtherInfo.end());
     m_outputIntents.add(imported.outputIntents);
     m_importedPages += imported.pages.size();
     m_metadata = imported.metadata;
@@ -90,6 +92,7 @@ void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info) {
         m_outputIntents.addDrawnPage();
     }
     m_outputIntents.finish(document);
+    putFurtherInfo(document, m_furtherInfo);
     putMetadata(document, m_metadata, info);
 }
 

@@ -36,7 +36,8 @@ class DocumentCatalog {
     /// The names that the documents added so far have taken.
     [[nodiscard]] const TakenNames &names() const { return m_names; }
 
-    /// Writes the page tree and every topic, with `info` in the metadata. Call it once.
+    /// Writes the page tree and every topic, with `info`, which is written already, in the
+    /// metadata. Call it once.
     void finish(QPDF &document, const DocumentInfo &info);
     /// What sources brought that could not be for the whole document; known when it is finished.
     [[nodiscard]] std::vector<PartKind> leftInTheEnd() const;
@@ -62,6 +63,7 @@ class DocumentCatalog {
     ThreadMerger m_threads;
     TakenNames m_names;
     ImportedCatalogParts m_parts;
+    Dictionary m_furtherInfo;
     OutputIntentMerger m_outputIntents;
     std::size_t m_importedPages = 0;
     ImportedMetadata m_metadata;

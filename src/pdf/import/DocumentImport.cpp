@@ -4,6 +4,7 @@
 
 #include "pdf/import/CarriedParts.h"
 #include "pdf/import/ContentCheck.h"
+#include "pdf/import/FurtherInfo.h"
 #include "pdf/import/LeftParts.h"
 #include "pdf/import/MissingObjects.h"
 #include "pdf/import/ObjectCopier.h"
@@ -76,6 +77,9 @@ void copyTopics(ImportedDocument &imported, QPDF &source, QPDF &target, const So
     if (imported.scope == ImportScope::WholeDocument) {
         for (const auto &[key, object] : furtherNames(source)) {
             imported.furtherNames.emplace(key, copier.copy(object));
+        }
+        for (const auto &[key, object] : furtherInfo(source)) {
+            imported.furtherInfo.emplace(key, copier.copy(object));
         }
     }
     imported.attachments = importAttachments(source, copier, imported.scope);

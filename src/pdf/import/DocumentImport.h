@@ -8,6 +8,7 @@
 #include "pdf/import/Bookmarks.h"
 #include "pdf/import/CatalogParts.h"
 #include "pdf/import/Destinations.h"
+#include "pdf/import/Entries.h"
 #include "pdf/import/FormImport.h"
 #include "pdf/import/ImportOptions.h"
 #include "pdf/import/Layers.h"
@@ -45,6 +46,7 @@ struct ImportedDocument {
     Destinations destinations;
     ImportedNameTrees nameTrees;
     NamedObjects furtherNames;
+    Dictionary furtherInfo;
     ImportedAttachments attachments;
     ImportedThreads threads;
     GivenNames names;

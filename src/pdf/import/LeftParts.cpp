@@ -4,6 +4,7 @@
 
 #include "pdf/import/CatalogParts.h"
 #include "pdf/import/Entries.h"
+#include "pdf/import/FurtherInfo.h"
 #include "pdf/import/ImportOptions.h"
 #include "pdf/import/Layers.h"
 #include "pdf/import/NameTrees.h"
@@ -34,6 +35,7 @@ PartCounts countLeft(QPDF &source, const ImportOptions &options) {
     add(PartKind::XfaForm, !entry(entry(catalog, "/AcroForm"), "/XFA").isNull());
     add(PartKind::UsageRights, hasUsageRights(catalog));
     if (options.scope == ImportScope::OneOfSeveral) {
+        addParts(left, PartKind::Properties, countFurtherInfo(furtherInfo(source)));
         addParts(left, PartKind::FurtherNames, furtherNames(source).size());
         add(PartKind::Portfolio, entry(catalog, "/Collection").isDictionary());
         addParts(left, PartKind::LayerSettings,
