@@ -102,6 +102,18 @@ class AttachmentsTest : public QObject, protected MergeCase {
         QCOMPARE(listed(result), QStringList({u"1:data"_s, u"2:data (b)"_s}));
     }
 
+    void filesWhoseKeysAreNoStringsCome() {
+        PdfFixture source = withCatalog("/Names << /EmbeddedFiles << /Names [/one 20 0 R 2 22 0 R] "
+                                        ">> >>");
+        withFile(source, "one.txt", "1");
+        const QString path = savedAs(u"s.pdf"_s, withFile(source, "two.txt", "2", 22));
+        for (const bool whole : {true, false}) {
+            const QString result = merged({path}, whole);
+            QCOMPARE(detached(result), QStringList({u"one.txt=1"_s, u"two.txt=2"_s}));
+            QCOMPARE(listed(result), QStringList({u"2:two.txt"_s, u"one:one.txt"_s}));
+        }
+    }
+
     void filesUnderOneKeyOfTheirSourceAllCome() {
         PdfFixture source = withCatalog("/Names << /EmbeddedFiles << /Names [(a) 20 0 R (a) 22 0 R "
                                         "(a) 22 0 R] >> >>");

@@ -57,6 +57,13 @@ std::vector<Node> grouped(QPDF &document, const std::vector<Node> &nodes) {
     return parents;
 }
 
+/// The key of a name tree, which has to be a string, of what a damaged one has in its place.
+QPDFObjectHandle stringKey(QPDFObjectHandle key) {
+    return key.isString() ? key
+                          : QPDFObjectHandle::newString(key.isName() ? key.getName().substr(1)
+                                                                     : key.unparse());
+}
+
 } // namespace
 
 TreeEntries readTreeEntries(const QPDFObjectHandle &root, const char *leafKey) {
@@ -101,13 +108,13 @@ QPDFObjectHandle buildTree(QPDF &document, const TreeEntries &entries, const cha
 
 TreeEntries readNameTree(const QPDFObjectHandle &root) {
     TreeEntries entries = readTreeEntries(root, "/Names");
+    for (auto &[name, object] : entries) {
+        name = stringKey(name);
+    }
     std::map<std::string, QPDFObjectHandle> first;
     std::map<std::string, std::set<std::string>> repeated;
     std::erase_if(entries, [&](auto &pair) {
         auto &[name, object] = pair;
-        if (!name.isString()) {
-            return true;
-        }
         const auto [known, isNew] = first.try_emplace(name.getStringValue(), object);
         if (isNew) {
             return false;

@@ -27,8 +27,8 @@ QPDFObjectHandle buildTree(QPDF &document, const TreeEntries &entries, const cha
 /// Objects by the bytes of their names.
 using NamedObjects = std::map<std::string, QPDFObjectHandle>;
 
-/// The entries of a name tree whose keys are strings, as they have to be. Where a key stands more
-/// than once, each object under it comes once.
+/// The entries of a name tree, with keys that are strings, as they have to be. Where a key stands
+/// more than once, each object under it comes once.
 TreeEntries readNameTree(const QPDFObjectHandle &root);
 /// Adds `entries`, whose keys are strings. The first of one name stays.
 void addNames(NamedObjects &objects, const TreeEntries &entries);
