@@ -25,6 +25,7 @@ constexpr std::array kWords{
     PartWords{PartKind::LayerSettings, "layer-settings"_L1, "further layer settings"_L1, {}},
     PartWords{PartKind::BaseAddress, "base-address"_L1, "a base address of links"_L1, {}},
     PartWords{PartKind::UsageRights, "usage-rights"_L1, "usage rights"_L1, {}},
+    PartWords{PartKind::Language, "language"_L1, "the language"_L1, {}},
     PartWords{PartKind::Metadata, "metadata"_L1, "metadata"_L1, {}},
     PartWords{PartKind::Properties, "properties"_L1, "1 further document property"_L1,
               "%1 further document properties"_L1},

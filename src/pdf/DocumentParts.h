@@ -24,6 +24,7 @@ enum class PartKind {
     LayerSettings,
     BaseAddress,
     UsageRights,
+    Language, ///< Where no structure tag is there to say it.
     Metadata,
     Properties, ///< Of the document information, of one's own.
     OutputIntents,

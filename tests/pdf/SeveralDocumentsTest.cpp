@@ -75,6 +75,45 @@ class SeveralDocumentsTest : public QObject, protected MergeCase {
         QCOMPARE(added.warnings, Warnings());
     }
 
+    void aLanguageOnWhichAllSourcesAgreeStays() {
+        const QString path = newPath();
+        PDFContext context(path, unflushed());
+        const AddedDocument added = context.addDocument(saved(withCatalog("/Lang (de-CH)")));
+        QCOMPARE(added.parts.carried, (PartCounts{{PartKind::Language, 1}}));
+        context.addDocument(saved(withCatalog("/Lang <FEFF00640065002D00430048>")));
+        QCOMPARE(context.close().left, std::vector<PartKind>());
+        QCOMPARE(entryOf(*opened(path), "/Lang"), "(de-CH)");
+    }
+
+    void aLanguageThatIsNotThatOfAllPagesIsLeft_data() {
+        QTest::addColumn<QByteArray>("other");
+        QTest::newRow("another language") << QByteArray("/Lang (en)");
+        QTest::newRow("none") << QByteArray();
+        QTest::newRow("drawn page") << QByteArray("drawn");
+    }
+    void aLanguageThatIsNotThatOfAllPagesIsLeft() {
+        QFETCH(QByteArray, other);
+        const QString path = newPath();
+        PDFContext context(path, unflushed());
+        context.addDocument(saved(withCatalog("/Lang (de)")));
+        if (other == "drawn") {
+            drawPage(context);
+        } else {
+            context.addDocument(saved(withCatalog(other)));
+        }
+        QCOMPARE(context.close().left, std::vector{PartKind::Language});
+        QCOMPARE(entryOf(*opened(path), "/Lang"), "null");
+    }
+
+    void aLanguageThatTagsSayIsNotLeft() {
+        const QByteArray tags = "/Lang (de) /StructTreeRoot << /K << /S /P /K 0 /Pg 4 0 R >> >>";
+        PDFContext context(newPath(), unflushed());
+        const AddedDocument added = context.addDocument(saved(withCatalog(tags)));
+        QCOMPARE(added.parts.carried, (PartCounts{{PartKind::StructureElements, 1}}));
+        context.addDocument(saved(withCatalog({})));
+        QCOMPARE(context.close().left, std::vector<PartKind>());
+    }
+
     void outputIntentsOnWhichAllSourcesAgreeStay() {
         const QByteArray profile("a profile, as far as anybody here looks");
         const auto document =

@@ -6,6 +6,7 @@
 #include "pdf/import/Entries.h"
 #include "pdf/import/FieldTree.h"
 #include "pdf/import/FurtherInfo.h"
+#include "pdf/import/Language.h"
 
 #include <algorithm>
 #include <map>
@@ -128,6 +129,7 @@ PartCounts countCarried(const ImportedDocument &imported) {
     addNamedParts(parts, imported);
     addParts(parts, PartKind::OutputIntents, imported.outputIntents.intents.size());
     addParts(parts, PartKind::Metadata, imported.metadata.packet.isEmpty() ? 0 : 1);
+    addParts(parts, PartKind::Language, saysLanguageAlone(imported.structure) ? 1 : 0);
     addParts(parts, PartKind::Properties, countFurtherInfo(imported.furtherInfo));
     for (const auto &[kind, count] : countCatalogParts(imported.catalogParts)) {
         addParts(parts, kind, count);

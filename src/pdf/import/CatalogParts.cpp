@@ -37,7 +37,7 @@ bool saysHowToOpen(std::string_view key) {
 }
 
 /// Whether an entry is one of those of which nothing else here knows, and says something. The
-/// language is that of the structure tags, declared extensions go into the version.
+/// language is counted for itself, declared extensions go into the version.
 bool isFurther(std::string_view key, QPDFObjectHandle value) {
     static constexpr std::array<std::string_view, 4> kKnown{"/AA", "/URI", "/Lang", "/Extensions"};
     const bool isEmpty = value.isNull() || (value.isDictionary() && value.getKeys().empty()) ||

@@ -42,6 +42,7 @@ Warnings DocumentCatalog::addDocument(ImportedDocument imported) {
 
 void DocumentCatalog::merge(const ImportedDocument &imported) {
     m_structure.add(imported.structure, imported.pages.size(), imported.scope);
+    m_language.add(imported.structure);
     m_bookmarks.add(imported.bookmarks);
     m_forms.add(imported.form);
     m_layers.add(imported.layers);
@@ -59,8 +60,14 @@ void DocumentCatalog::merge(const ImportedDocument &imported) {
 }
 
 std::vector<PartKind> DocumentCatalog::leftInTheEnd() const {
-    return m_outputIntents.areLeft() ? std::vector{PartKind::OutputIntents}
-                                     : std::vector<PartKind>();
+    std::vector<PartKind> left;
+    if (m_language.isLeft()) {
+        left.push_back(PartKind::Language);
+    }
+    if (m_outputIntents.areLeft()) {
+        left.push_back(PartKind::OutputIntents);
+    }
+    return left;
 }
 
 DocumentForm DocumentCatalog::form() const {
@@ -87,10 +94,12 @@ void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info) {
     m_attachments.finish(document);
     m_threads.finish(document);
     m_pageLabels.finish(document);
-    putCatalogParts(document, m_parts);
     if (m_pages.size() > m_importedPages) {
         m_outputIntents.addDrawnPage();
+        m_language.addDrawnPage();
     }
+    m_language.finish(document);
+    putCatalogParts(document, m_parts);
     m_outputIntents.finish(document);
     putFurtherInfo(document, m_furtherInfo);
     putMetadata(document, m_metadata, info);

@@ -5,6 +5,7 @@
 #include "pdf/DocumentWriter.h"
 #include "pdf/import/DocumentImport.h"
 #include "pdf/import/FormMerger.h"
+#include "pdf/import/Language.h"
 #include "pdf/import/SourceNames.h"
 #include "pdf/import/StructureMerger.h"
 
@@ -62,6 +63,7 @@ class DocumentCatalog {
     AttachmentMerger m_attachments;
     ThreadMerger m_threads;
     TakenNames m_names;
+    LanguageMerger m_language;
     ImportedCatalogParts m_parts;
     Dictionary m_furtherInfo;
     OutputIntentMerger m_outputIntents;
