@@ -189,6 +189,17 @@ class AttachmentsTest : public QObject, protected MergeCase {
         QCOMPARE(picture.getKey("/AF").getArrayItem(0).getObjGen(), file);
     }
 
+    void filesOfAnnotationsAreToldApartByTheirSource() {
+        const auto source = [this](const QString &name, const QByteArray &content) {
+            PdfFixture fixture =
+                withCatalog({}, "/Annots [<< /Type /Annot /Subtype /FileAttachment /Rect [0 0 9 9] "
+                                "/FS 20 0 R >>]");
+            return savedAs(name, withFile(fixture, "note.txt", content));
+        };
+        QCOMPARE(detached(merged({source(u"a.pdf"_s, "A"), source(u"b.pdf"_s, "B")})),
+                 QStringList({u"note (b).txt=B"_s, u"note.txt=A"_s}));
+    }
+
     void anActionFollowsTheNameOfItsFile() {
         PdfFixture source = withCatalog(
             "/Names << /EmbeddedFiles << /Names [(inner) 20 0 R] >> >>",

@@ -61,6 +61,21 @@ class CarriedPartsTest : public QObject, protected MergeCase {
         QCOMPARE(parts(source).carried, (PartCounts{{PartKind::Links, 1}}));
     }
 
+    void filesOfPagesAndTheirAnnotationsAreCounted() {
+        PdfFixture source = withCatalog({});
+        source.object(4,
+                      "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] /AF [20 0 R] /Annots [<< "
+                      "/Subtype /FileAttachment /Rect [0 0 9 9] /FS 21 0 R >> << /Subtype /Link "
+                      "/Rect [0 0 9 9] /AF [22 0 R 20 0 R] >>] >>");
+        for (const int file : {20, 21, 22}) {
+            source.object(file, "<< /Type /Filespec /F (a) /EF << /F 23 0 R >> >>");
+        }
+        source.stream(23, "/Type /EmbeddedFile", "data");
+        QCOMPARE(parts(source).carried, (PartCounts{{PartKind::Attachments, 3},
+                                                    {PartKind::Links, 1},
+                                                    {PartKind::Annotations, 1}}));
+    }
+
     void bookmarksOfEveryLevelAreCountedOnce() {
         PdfFixture source = withCatalog("/Outlines << /First 20 0 R /Last 22 0 R >>");
         source.object(20, "<< /Title (1) /First 21 0 R /Last 21 0 R /Next 22 0 R >>");

@@ -23,6 +23,7 @@ constexpr std::array kNameKeys{"/F", "/UF"};
 std::vector<QPDFObjectHandle> embeddedFiles(const TreeEntries &tree,
                                             const ImportedAttachments &attachments) {
     std::vector<QPDFObjectHandle> files = attachments.associated;
+    std::ranges::copy(attachments.ofPages, std::back_inserter(files));
     std::ranges::transform(tree, std::back_inserter(files),
                            [](const auto &pair) { return pair.second; });
     std::set<QPDFObjGen> visited;
@@ -34,6 +35,26 @@ std::vector<QPDFObjectHandle> embeddedFiles(const TreeEntries &tree,
 }
 
 } // namespace
+
+std::vector<QPDFObjectHandle> filesOfPages(const std::vector<QPDFObjectHandle> &pages) {
+    std::vector<QPDFObjectHandle> files;
+    std::set<QPDFObjGen> visited; // Pages may share their lists.
+    const auto itemsOf = [&visited](const QPDFObjectHandle &holder, const char *key) {
+        const auto list = entry(holder, key);
+        const bool isNew = !list.isIndirect() || visited.insert(list.getObjGen()).second;
+        return isNew ? items(list) : std::vector<QPDFObjectHandle>();
+    };
+    for (const auto &page : pages) {
+        std::ranges::copy(itemsOf(page, "/AF"), std::back_inserter(files));
+        for (const auto &annotation : itemsOf(page, "/Annots")) {
+            std::ranges::copy(itemsOf(annotation, "/AF"), std::back_inserter(files));
+            if (entry(annotation, "/Subtype").isNameAndEquals("/FileAttachment")) {
+                files.push_back(entry(annotation, "/FS"));
+            }
+        }
+    }
+    return files;
+}
 
 ImportedAttachments importAttachments(QPDF &source, ObjectCopier &copier, ImportScope scope) {
     const auto catalog = source.getRoot();

@@ -17,12 +17,16 @@ namespace folioforge {
 class ObjectCopier;
 class SourceNames;
 
-/// What a source has of files beside those of its name tree and its pages, copied.
+/// What a source has of files beside those of its name tree, copied.
 struct ImportedAttachments {
     std::vector<QPDFObjectHandle> associated; ///< /AF of the catalog (ISO 32000-2, 14.13).
+    std::vector<QPDFObjectHandle> ofPages;    ///< Those of pages and their annotations.
     /// /Collection; null where there is none or the document becomes a part of another.
     QPDFObjectHandle portfolio = QPDFObjectHandle::newNull();
 };
+
+/// What `pages`, copied, and their annotations have as files. To be called when they are filled.
+std::vector<QPDFObjectHandle> filesOfPages(const std::vector<QPDFObjectHandle> &pages);
 
 ImportedAttachments importAttachments(QPDF &source, ObjectCopier &copier, ImportScope scope);
 

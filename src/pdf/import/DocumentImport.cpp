@@ -86,6 +86,7 @@ void copyTopics(ImportedDocument &imported, QPDF &source, QPDF &target, const So
     imported.threads = importThreads(source, copier);
     copier.run();
     imported.form.actions = copier.fieldActions();
+    imported.attachments.ofPages = filesOfPages(imported.pages);
     tellFilesApart(imported.nameTrees[kAttachments], imported.attachments, names);
     imported.names = names.given();
 }
