@@ -54,16 +54,11 @@ bool isCarried(std::string_view key, const ImportOptions &options) {
     return !belongsElsewhere(key);
 }
 
-QPDFObjectHandle entryOf(const ImportedCatalogParts &parts, const char *key) {
-    const auto found = parts.find(key);
-    return found == parts.end() ? QPDFObjectHandle::newNull() : found->second;
-}
-
 /// What runs when the document is opened, printed or closed. An action that only shows a page is
 /// none.
 std::size_t countScripts(const ImportedCatalogParts &parts) {
-    auto actions = entryOf(parts, "/AA");
-    auto opening = entryOf(parts, "/OpenAction");
+    auto actions = valueOf(parts, "/AA");
+    auto opening = valueOf(parts, "/OpenAction");
     const bool runs = opening.isDictionary() && !entry(opening, "/S").isNameAndEquals("/GoTo");
     return (actions.isDictionary() ? actions.getKeys().size() : 0) + (runs ? 1 : 0);
 }
@@ -96,7 +91,7 @@ PartCounts countCatalogParts(const ImportedCatalogParts &parts) {
     PartCounts counts;
     addParts(counts, PartKind::Scripts, countScripts(parts));
     addParts(counts, PartKind::BaseAddress,
-             entry(entryOf(parts, "/URI"), "/Base").isNull() ? 0 : 1);
+             entry(valueOf(parts, "/URI"), "/Base").isNull() ? 0 : 1);
     addParts(counts, PartKind::FurtherEntries,
              static_cast<std::size_t>(std::ranges::count_if(
                  parts, [](const auto &part) { return isFurther(part.first, part.second); })));

@@ -3,11 +3,7 @@
 #pragma once
 
 #include "pdf/DocumentParts.h"
-
-#include <qpdf/QPDFObjectHandle.hh>
-
-#include <map>
-#include <string>
+#include "pdf/import/Entries.h"
 
 class QPDF;
 
@@ -17,7 +13,7 @@ class ObjectCopier;
 struct ImportOptions;
 
 /// Entries of a source's catalog that stay what they are, copied, by key.
-using ImportedCatalogParts = std::map<std::string, QPDFObjectHandle>;
+using ImportedCatalogParts = Dictionary;
 
 /// What belongs to the document as a whole and to no other topic, such as how readers show it,
 /// its language and what other programs keep there. Of several sources the one that begins the

@@ -87,12 +87,11 @@ QPDFObjectHandle renamedFields(const QPDFObjectHandle &array, const Renames &ren
 
 } // namespace
 
-bool namesFields(const std::map<std::string, QPDFObjectHandle> &action) {
+bool namesFields(const Dictionary &action) {
     static constexpr std::array kKinds{"/SubmitForm", "/ResetForm", "/Hide"};
-    const auto kind = action.find("/S");
-    QPDFObjectHandle value = kind == action.end() ? QPDFObjectHandle::newNull() : kind->second;
+    auto kind = valueOf(action, "/S");
     return std::ranges::any_of(kKinds,
-                               [&](const char *name) { return value.isNameAndEquals(name); });
+                               [&](const char *name) { return kind.isNameAndEquals(name); });
 }
 
 void renameInAppearances(const std::vector<QPDFObjectHandle> &roots,

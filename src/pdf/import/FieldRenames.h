@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "pdf/import/Entries.h"
+
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <map>
@@ -15,7 +17,7 @@ using Renames = std::map<std::string, std::string>;
 using CategoryRenames = std::map<std::string, Renames>; ///< By category, such as /Font.
 
 /// Whether an action may name form fields by their text (ISO 32000-1, 12.7.5).
-bool namesFields(const std::map<std::string, QPDFObjectHandle> &action);
+bool namesFields(const Dictionary &action);
 
 /// Renames in the default appearances of the fields `roots` and all fields under them, once in
 /// each.

@@ -17,7 +17,6 @@ namespace folioforge {
 namespace {
 
 using Names = std::map<std::string, std::string>;
-using Members = std::map<std::string, QPDFObjectHandle>;
 
 /// The roles of all trees, each with one meaning.
 class RoleNames {
@@ -188,7 +187,7 @@ void mergeRoles(std::span<ImportedStructure> trees, QPDFObjectHandle root) {
 }
 
 void mergeClasses(std::span<ImportedStructure> trees, QPDFObjectHandle root) {
-    Members classes;
+    Dictionary classes;
     NameNumbers numbers;
     for (ImportedStructure &tree : trees) {
         Names renames;
@@ -213,7 +212,7 @@ void mergeClasses(std::span<ImportedStructure> trees, QPDFObjectHandle root) {
 }
 
 void mergeIdentifiers(QPDF &document, std::span<ImportedStructure> trees, QPDFObjectHandle root) {
-    Members identifiers;
+    Dictionary identifiers;
     NameNumbers numbers;
     for (ImportedStructure &tree : trees) {
         Names renames;
