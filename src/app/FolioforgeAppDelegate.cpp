@@ -2,12 +2,12 @@
 
 #include "app/FolioforgeAppDelegate.h"
 
+#include "app/FramePlacer.h"
 #include "convert/Bundle.h"
 #include "mainwnd/Desktop.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <QScreen>
 
 #include <algorithm>
 #include <utility>
@@ -22,12 +22,6 @@ QAction *itemWithTitle(const QMenu &menu, const QString &title) {
     const QList<QAction *> items = menu.actions();
     const auto found = std::ranges::find(items, title, &QAction::text);
     return found == items.end() ? nullptr : *found;
-}
-
-void center(QWidget &window) {
-    QRect frame = window.frameGeometry();
-    frame.moveCenter(window.screen()->availableGeometry().center());
-    window.move(frame.topLeft());
 }
 
 } // namespace
@@ -65,7 +59,7 @@ void FolioforgeAppDelegate::showMainWindow() {
     window->show();
     window->raise();
     window->activateWindow();
-    center(*window);
+    new FramePlacer(*window);
 }
 
 void FolioforgeAppDelegate::connectItems() {
