@@ -5,9 +5,9 @@
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
+#include "mainwnd/OptionsSlide.h"
 #include "skin/VesprinTableHeaderView.h"
 
-#include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -51,7 +51,6 @@ void MainWndCtrl::setDelegateObject(MainWndDelegate *delegate) {
 void MainWndCtrl::loadWindow() {
     m_window = std::make_unique<QMainWindow>();
     setupUi(m_window.get());
-    m_window->installEventFilter(this);
     m_tableview->setHorizontalHeader(new VesprinTableHeaderView(m_tableview));
     m_tableview->setModel(m_filesArray.get());
     m_tableview->setSelectionModel(m_filesArray->selectionModel());
@@ -66,8 +65,16 @@ void MainWndCtrl::awakeFromNib() {
 }
 
 void MainWndCtrl::windowDidLoad() {
-    m_optionsWidthInFrame = m_optionsDrawer->openWidth();
-    setOptionsWidth(0);
+    m_optionsSlide = std::make_unique<OptionsSlide>(*m_window, *m_optionsDrawer);
+    m_optionsSlide->beginHidden();
+    // The window may have moved a button under the pointer and away again.
+    connect(m_optionsSlide.get(), &OptionsSlide::rested, this, [this] {
+        for (SkinButton *button : {m_btnExpand, m_btnElapse}) {
+            if (!button->underMouse()) {
+                button->showNormalImage();
+            }
+        }
+    });
     initCtrl();
     showSettingsView(m_imagePageSizeView);
     m_tableview->setAcceptDrops(true);
@@ -161,8 +168,6 @@ void MainWndCtrl::connectControls() {
     connect(m_mtxTextPageSizeMode, &QButtonGroup::buttonToggled, this, &Self::clickMtxTextPageSize);
     connect(m_mtxImagePageSizeMode, &QButtonGroup::buttonToggled, this,
             &Self::clickMtxImagePageSize);
-    connect(&m_optionsSlide, &QVariantAnimation::valueChanged, this,
-            [this](const QVariant &width) { setOptionsWidth(width.toInt()); });
 }
 
 void MainWndCtrl::observeNotifications() {
@@ -174,13 +179,6 @@ void MainWndCtrl::observeNotifications() {
                     compressCompleted();
                 }
             });
-}
-
-bool MainWndCtrl::eventFilter(QObject *watched, QEvent *event) {
-    if (event->type() == QEvent::WindowStateChange) {
-        fitWindowToOptions(m_window->geometry());
-    }
-    return QObject::eventFilter(watched, event);
 }
 
 void MainWndCtrl::showNotice(const Notice &notice) {

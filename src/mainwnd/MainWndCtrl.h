@@ -11,7 +11,6 @@
 #include "ui_MainWnd.h"
 
 #include <QMainWindow>
-#include <QVariantAnimation>
 
 #include <functional>
 #include <memory>
@@ -21,6 +20,7 @@
 namespace folioforge {
 
 class FilesArray;
+class OptionsSlide;
 struct FilePanel;
 enum class FileKind;
 enum class SortOrder;
@@ -166,17 +166,11 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void initCtrl();
     void connectControls();
     void observeNotifications();
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void showNotice(const Notice &notice);
     bool passes(const std::optional<Notice> &problem);
 
     // Options panel and output folder.
     static void exchangeButtons(SkinButton *pressed, SkinButton *other);
-    void slideOptionsTo(double width);
-    void setOptionsWidth(int width);
-    void fitWindowToOptions(const QRect &before);
-    void applyMinimumSize();
-    int leftWithOptions(const QRect &frame);
     void showSettingsView(QWidget *view);
     void markSettingsButton(const QWidget *view);
     [[nodiscard]] PageSetup textPageSetup() const;
@@ -216,11 +210,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     std::unique_ptr<FilesArray> m_filesArray;
 
     QWidget *m_currentSettingsView = nullptr;
-    QVariantAnimation m_optionsSlide;
-    int m_optionsWidthInFrame = 0; ///< The part of the window's width that the panel takes.
-    std::optional<QRect> m_restoredGeometry; ///< The normal geometry of a maximized window.
-    int m_optionsShift = 0; ///< How far to the left the panel has moved the window.
-    int m_shiftedLeft = 0;  ///< Where that put the window's left edge.
+    std::unique_ptr<OptionsSlide> m_optionsSlide;
     QString m_outputFolderPath;
 
     QString m_destFilePathName; ///< The PDF being written.

@@ -6,14 +6,11 @@
 #include "mainwnd/Desktop.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/Notices.h"
+#include "mainwnd/OptionsSlide.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QMargins>
-#include <QScreen>
 #include <QSettings>
-#include <QSignalBlocker>
-#include <QStyle>
 
 #include <algorithm>
 #include <array>
@@ -49,13 +46,13 @@ void makeWorldWritable(const QString &folder) {
 } // namespace
 
 void MainWndCtrl::clickBtnExpand() {
-    slideOptionsTo(OptionsDrawer::kFullWidth);
+    m_optionsSlide->slideTo(static_cast<int>(OptionsDrawer::kFullWidth));
     exchangeButtons(m_btnExpand, m_btnElapse);
     m_labelOptions->setText(tr("Hide Options"));
 }
 
 void MainWndCtrl::clickBtnElapse() {
-    slideOptionsTo(0.0);
+    m_optionsSlide->slideTo(0);
     exchangeButtons(m_btnElapse, m_btnExpand);
     m_labelOptions->setText(tr("Show Options"));
 }
@@ -69,80 +66,6 @@ void MainWndCtrl::exchangeButtons(SkinButton *pressed, SkinButton *other) {
     pressed->setVisible(false);
     // The other button appears under the pointer and must not keep an old hover look.
     QMetaObject::invokeMethod(other, &SkinButton::showNormalImage, Qt::QueuedConnection);
-}
-
-void MainWndCtrl::slideOptionsTo(double width) {
-    const int duration = m_window->style()->styleHint(QStyle::SH_Widget_Animation_Duration);
-    m_optionsSlide.stop();
-    if (duration <= 0) {
-        setOptionsWidth(static_cast<int>(width));
-        return;
-    }
-    // A slide that has run before would show its new end at once.
-    QSignalBlocker silence(m_optionsSlide);
-    m_optionsSlide.setDuration(duration);
-    m_optionsSlide.setEasingCurve(QEasingCurve::OutCubic);
-    m_optionsSlide.setStartValue(m_optionsDrawer->openWidth());
-    m_optionsSlide.setEndValue(static_cast<int>(width));
-    silence.unblock();
-    m_optionsSlide.start();
-}
-
-void MainWndCtrl::setOptionsWidth(int width) {
-    // Showing the drawer may widen the window to its minimum width.
-    const QRect before = m_window->geometry();
-    m_optionsDrawer->setOpenWidth(width);
-    fitWindowToOptions(before);
-}
-
-/// The window grows and shrinks with the panel, from the geometry `before`. A window that fills the
-/// screen shows the panel inside, and takes the panel's width on when it is restored.
-void MainWndCtrl::fitWindowToOptions(const QRect &before) {
-    if (m_window->isMaximized() || m_window->isFullScreen()) {
-        m_restoredGeometry = m_window->normalGeometry();
-        return;
-    }
-    // A window that has just been restored may still have the size of the screen.
-    const QRect own = std::exchange(m_restoredGeometry, std::nullopt).value_or(before);
-    const int change = m_optionsDrawer->openWidth() - m_optionsWidthInFrame;
-    if (change == 0) {
-        return;
-    }
-    m_optionsWidthInFrame += change;
-    applyMinimumSize();
-    const QRect after = own.adjusted(0, 0, change, 0);
-    const QRect now = m_window->geometry();
-    const QMargins frame(now.left() - m_window->frameGeometry().left(), 0,
-                         m_window->frameGeometry().right() - now.right(), 0);
-    const int shift = leftWithOptions(after.marginsAdded(frame)) + frame.left() - after.left();
-    if (shift == 0) {
-        m_window->resize(after.size());
-    } else {
-        m_window->setGeometry(after.translated(shift, 0));
-    }
-}
-
-/// Applies the minimum size of what the window shows now, before the window shrinks; by itself Qt
-/// applies it with the next event.
-void MainWndCtrl::applyMinimumSize() {
-    if (m_window->isVisible()) {
-        m_skinedBackView->layout()->activate();
-        m_window->layout()->activate();
-    }
-}
-
-/// The left edge of `frame` with the panel. The panel opens to the right. Where the screen ends
-/// first, the window moves to the left by the missing width, and back when the panel closes. A
-/// window that the user moved meanwhile stays there.
-int MainWndCtrl::leftWithOptions(const QRect &frame) {
-    const QRect screen = m_window->screen()->availableGeometry();
-    const int shift = frame.left() == m_shiftedLeft ? m_optionsShift : 0;
-    const int home = frame.left() + shift;
-    const int beyond = home + frame.width() - (screen.left() + screen.width());
-    const int room = std::clamp(home - screen.left(), 0, m_optionsWidthInFrame);
-    m_optionsShift = std::clamp(beyond, 0, room);
-    m_shiftedLeft = home - m_optionsShift;
-    return m_shiftedLeft;
 }
 
 void MainWndCtrl::clickBtnTextPageSize() {

@@ -12,11 +12,11 @@
 #include <QFile>
 #include <QTest>
 
-#include <xcb/xcb.h>
-
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -92,6 +92,31 @@ bool askToClose(const QByteArray &display, xcb_window_t window) {
     return !error && xcb_connection_has_error(screen.get()) == 0;
 }
 
+/// The numbers in the property `name` of `window`; nothing where it has none.
+std::vector<std::uint32_t> numbersIn(xcb_connection_t *screen, xcb_window_t window,
+                                     const QByteArray &name) {
+    constexpr std::uint32_t kMost = 16;
+    const auto request =
+        xcb_get_property(screen, 0, window, atom(screen, name), XCB_ATOM_ANY, 0, kMost);
+    const std::unique_ptr<xcb_get_property_reply_t, Free> reply(
+        xcb_get_property_reply(screen, request, nullptr));
+    if (!reply || reply->format != 32) {
+        return {};
+    }
+    const auto *first = static_cast<const std::uint32_t *>(xcb_get_property_value(reply.get()));
+    return {first, first + reply->value_len};
+}
+
+xcb_window_t rootOf(xcb_connection_t *screen) {
+    return xcb_setup_roots_iterator(xcb_get_setup(screen)).data->root;
+}
+
+/// Whether a window manager manages the windows of `display`.
+bool isManaged(const QByteArray &display) {
+    const std::unique_ptr<xcb_connection_t, Free> screen(xcb_connect(display.constData(), nullptr));
+    return !numbersIn(screen.get(), rootOf(screen.get()), "_NET_SUPPORTING_WM_CHECK").empty();
+}
+
 } // namespace
 
 DesktopSession::~DesktopSession() {
@@ -100,12 +125,14 @@ DesktopSession::~DesktopSession() {
         QDBusConnection::disconnectFromBus(m_accessibilityBus);
     }
     end(m_bus);
+    end(m_windowManager);
     end(m_screen);
 }
 
-bool DesktopSession::begin() {
-    m_screen.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1600x1000x24"_s,
-                               u"-noreset"_s});
+bool DesktopSession::begin(const Desktop &desktop) {
+    const QString screen = u"%1x%2x24"_s.arg(desktop.size.width()).arg(desktop.size.height());
+    m_screen.start(u"Xvfb"_s,
+                   {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, screen, u"-noreset"_s});
     const QByteArray display = firstLine(m_screen);
     QDir(m_home.path()).mkpath(u"bin"_s);
     QDir().mkpath(temporaryFolder());
@@ -122,6 +149,7 @@ bool DesktopSession::begin() {
     set("TMPDIR", temporaryFolder());
     set("PATH", path(u"bin"_s) + u':' + qEnvironmentVariable("PATH"));
     set("QT_QPA_PLATFORM", u"xcb"_s);
+    set("QT_SCALE_FACTOR", desktop.scale);
     set("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", u"1"_s);
     // Qt warns of each element that is asked for while its dialog closes.
     set("QT_LOGGING_RULES", u"qt.accessibility.atspi.warning=false"_s);
@@ -130,6 +158,15 @@ bool DesktopSession::begin() {
     m_bus.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s});
     const QString address = QString::fromLatin1(firstLine(m_bus));
     set("DBUS_SESSION_BUS_ADDRESS", address);
+
+    if (!desktop.windowManager.isEmpty()) {
+        m_windowManager.setProcessEnvironment(m_environment);
+        m_windowManager.setStandardErrorFile(QProcess::nullDevice());
+        m_windowManager.start(desktop.windowManager, QStringList());
+        if (!QTest::qWaitFor([this] { return isManaged(this->display()); }, kPatience)) {
+            return false;
+        }
+    }
 
     const QString session = u"session of %1"_s.arg(m_home.path());
     QDBusInterface launcher(u"org.a11y.Bus"_s, u"/org/a11y/bus"_s, u"org.a11y.Bus"_s,
@@ -263,6 +300,12 @@ bool DesktopSession::does(const QString &name, const char *interface, const char
     return QDBusReply<bool>(call(name, interface, method, arguments)).value();
 }
 
+bool DesktopSession::press(const Element &element) const {
+    const QDBusReply<bool> reply =
+        QDBusConnection(m_accessibilityBus).call(callTo(element, "Action", "DoAction", {0}));
+    return reply.value();
+}
+
 bool DesktopSession::press(const QString &name) {
     return does(name, "Action", "DoAction", {0});
 }
@@ -293,9 +336,57 @@ bool DesktopSession::key(const QString &window, const QString &keys) {
            runOnScreen({u"key"_s, keys}).has_value();
 }
 
+xcb_window_t DesktopSession::numberOf(const QString &window) const {
+    return runOnScreen(searchFor(window)).value_or(QByteArray()).trimmed().toUInt();
+}
+
+QByteArray DesktopSession::display() const {
+    return m_environment.value(u"DISPLAY"_s).toLatin1();
+}
+
+std::optional<WindowPlace> DesktopSession::place(const QString &window) const {
+    const xcb_window_t number = numberOf(window);
+    const std::unique_ptr<xcb_connection_t, Free> screen(
+        xcb_connect(display().constData(), nullptr));
+    const std::unique_ptr<xcb_get_geometry_reply_t, Free> size(
+        xcb_get_geometry_reply(screen.get(), xcb_get_geometry(screen.get(), number), nullptr));
+    const std::unique_ptr<xcb_translate_coordinates_reply_t, Free> corner(
+        xcb_translate_coordinates_reply(
+            screen.get(),
+            xcb_translate_coordinates(screen.get(), number, rootOf(screen.get()), 0, 0), nullptr));
+    if (!size || !corner) {
+        return std::nullopt;
+    }
+    const QRect inside(corner->dst_x, corner->dst_y, size->width, size->height);
+    const auto edges = numbersIn(screen.get(), number, "_NET_FRAME_EXTENTS");
+    if (edges.size() < 4) {
+        return WindowPlace{inside, inside};
+    }
+    const auto edge = [&edges](std::size_t index) { return static_cast<int>(edges[index]); };
+    return WindowPlace{inside, inside.adjusted(-edge(0), -edge(2), edge(1), edge(3))};
+}
+
+std::optional<WindowPlace> DesktopSession::placeAtRest(const QString &window) const {
+    constexpr int kStill = 250; // Milliseconds.
+    std::optional<WindowPlace> last;
+    const bool rests = QTest::qWaitFor(
+        [&] {
+            const auto before = std::exchange(last, place(window));
+            QTest::qWait(kStill);
+            return before && last && before->frame == last->frame;
+        },
+        kPatience);
+    return rests ? last : std::nullopt;
+}
+
+bool DesktopSession::moveTo(const QString &window, QPoint corner) const {
+    return runOnScreen({u"windowmove"_s, u"--sync"_s, QString::number(numberOf(window)),
+                        QString::number(corner.x()), QString::number(corner.y())})
+        .has_value();
+}
+
 bool DesktopSession::close(const QString &window) {
-    const QByteArray number = runOnScreen(searchFor(window)).value_or(QByteArray()).trimmed();
-    return askToClose(m_environment.value(u"DISPLAY"_s).toLatin1(), number.toUInt());
+    return askToClose(display(), numberOf(window));
 }
 
 /// What xdotool prints; nothing where it fails.

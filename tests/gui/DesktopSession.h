@@ -6,11 +6,27 @@
 #include <QDBusObjectPath>
 #include <QProcess>
 #include <QRect>
+#include <QSize>
 #include <QTemporaryDir>
+
+#include <xcb/xcb.h>
 
 #include <optional>
 
 namespace folioforge::test {
+
+/// What the application runs on.
+struct Desktop {
+    QSize size{1600, 1000};  ///< Of the screen in pixels.
+    QString windowManager{}; ///< The program; none where empty.
+    QString scale{};         ///< Pixels for a point, such as "1.25"; one where empty.
+};
+
+/// Where a window is on the screen, in pixels.
+struct WindowPlace {
+    QRect inside; ///< Without its frame.
+    QRect frame;  ///< With it.
+};
 
 /// A screen, a session bus and a home folder of its own in which the real application runs. It is
 /// worked through the accessibility bus, as a screen reader does, and with the mouse and the keys
@@ -28,8 +44,8 @@ class DesktopSession {
     DesktopSession(const DesktopSession &) = delete;
     DesktopSession &operator=(const DesktopSession &) = delete;
 
-    /// Starts the screen and the bus; whether both came up.
-    bool begin();
+    /// Starts the screen, its window manager and the bus; whether all came up.
+    bool begin(const Desktop &desktop = {});
     /// Starts `program` with `outputFolder` as its stored output folder and waits for its window.
     bool start(const QString &program, const QString &outputFolder);
     [[nodiscard]] QProcess &application() { return m_application; }
@@ -45,6 +61,8 @@ class DesktopSession {
     [[nodiscard]] std::optional<Element> find(const QString &name);
     /// Whether an element called `name` can be seen now.
     [[nodiscard]] bool shows(const QString &name);
+    /// Does the first action of `element`, whether it can be seen or not.
+    bool press(const Element &element) const;
     /// Does the first action of the element called `name`, such as pressing it.
     bool press(const QString &name);
     /// Replaces the text of the element called `name`.
@@ -53,6 +71,12 @@ class DesktopSession {
     bool click(const QString &name);
     /// Presses a key of the keyboard, such as "ctrl+q", in the window titled `window`.
     bool key(const QString &window, const QString &keys);
+    /// Where the window titled `window` is; nothing where there is none.
+    [[nodiscard]] std::optional<WindowPlace> place(const QString &window) const;
+    /// As place(), when the window has stood still for a while.
+    [[nodiscard]] std::optional<WindowPlace> placeAtRest(const QString &window) const;
+    /// Puts the upper left corner of the frame of the window titled `window` there.
+    bool moveTo(const QString &window, QPoint corner) const;
     /// Asks the window titled `window` to close, as the button of its frame does.
     bool close(const QString &window);
 
@@ -67,12 +91,15 @@ class DesktopSession {
                                     const QVariantList &arguments = {});
     [[nodiscard]] bool does(const QString &name, const char *interface, const char *method,
                             const QVariantList &arguments = {});
+    [[nodiscard]] xcb_window_t numberOf(const QString &window) const;
+    [[nodiscard]] QByteArray display() const;
     [[nodiscard]] std::optional<QByteArray> runOnScreen(const QStringList &arguments) const;
     void makeOpener() const;
 
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;
     QProcess m_screen;
+    QProcess m_windowManager;
     QProcess m_bus;
     QProcess m_application;
     QString m_accessibilityBus;

@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEnterEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -112,6 +113,19 @@ class OptionsPanelTest : public QObject {
         QCOMPARE(panel.ctrl.window()->geometry(), before);
         QVERIFY(panel.control<QWidget>("m_btnExpand").isVisible());
         QCOMPARE(panel.control<QLabel>("m_labelOptions").text(), u"Show Options"_s);
+    }
+
+    void aButtonThatPassesUnderThePointerInASlideLooksNormalAfterIt() {
+        Panel panel;
+        auto &button = panel.control<SkinButton>("m_btnElapse");
+        const SkinImage normal = button.image();
+        panel.press("m_btnExpand");
+        QEnterEvent enter(QPointF(3, 3), QPointF(3, 3), button.mapToGlobal(QPointF(3, 3)));
+        QCoreApplication::sendEvent(&button, &enter);
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&button, &leave);
+        QVERIFY(button.image() != normal);
+        QTRY_VERIFY(button.image() == normal);
     }
 
     void hidingHalfWayThroughShowingRestoresTheWidthToo() {
