@@ -122,8 +122,7 @@ void runPass(const QString &path, const QuartzFilter &filter, const CompressionO
              OutputPipeline &output, const EndPageWrite &endPageWrite,
              CompressionOutcome &outcome) {
     const auto reader = std::make_shared<SourceReader>(options.calls);
-    const auto input =
-        std::make_shared<SourceInput>(FileVersion::of(path), reader, SourceInput::Table::Shown);
+    const auto input = std::make_shared<SourceInput>(FileVersion::of(path), reader);
     QPDF document;
     outcome.imagesReduced = withAllObjects(document, *reader, [&] {
         unlock(document, input, options.encryption.get());

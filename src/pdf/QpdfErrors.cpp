@@ -21,8 +21,6 @@ struct Cause {
 /// The first one that fits counts.
 constexpr std::array kCauses{
     Cause{"PDF header", "its header is missing"},
-    Cause{"trailer dictionary while recovering",
-          "its trailer and its table of objects are missing"},
     Cause{"stream length", "the length of a stream is wrong"},
     Cause{"endstream", "the length of a stream is wrong"},
     Cause{"recover stream data", "a stream is cut off"},

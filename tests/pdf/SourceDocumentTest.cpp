@@ -3,6 +3,7 @@
 #include "pdf/import/SourceDocument.h"
 
 #include "error/Error.h"
+#include "odd/FileWriter.h"
 #include "support/FaultyCalls.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
@@ -21,6 +22,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
+using test::FileWriter;
 using test::PdfFixture;
 using test::runTool;
 
@@ -143,9 +145,9 @@ class SourceDocumentTest : public QObject {
     void aHopelessDocumentIsAnError() {
         QCOMPARE(refusal(saved(u"hopeless.pdf"_s, "%PDF-1.4\nnothing")),
                  u"The document is damaged: its trailer and its table of objects are missing"_s);
-        QByteArray noCatalog = threePages().bytes();
-        noCatalog.replace("/Root 1 0 R", "/Root 99 0 R");
-        QCOMPARE(refusal(saved(u"nocatalog.pdf"_s, noCatalog)),
+        const QByteArray noCatalog = threePages().object(1, "<< /Pages 2 0 R >>").bytes();
+        QCOMPARE(refusal(saved(u"nocatalog.pdf"_s,
+                               QByteArray(noCatalog).replace("/Root 1 0 R", "/Root 99 0 R"))),
                  u"The document is damaged: it has no catalog"_s);
     }
 
@@ -158,13 +160,31 @@ class SourceDocumentTest : public QObject {
         QVERIFY(!refusal(file.fileName()).isEmpty());
     }
 
+    void aSearchThatTakesTooLongIsGivenUp_data() {
+        QTest::addColumn<QByteArray>("lines");
+        QTest::addColumn<bool>("isQuick"); // With libqpdf 12.
+        QTest::newRow("numbers") << QByteArray("1 0\n").repeated(32 << 20) << false;
+        // libqpdf 11 reads all of them for each.
+        QTest::newRow("comments") << QByteArray("%\n").repeated(8 << 20) << true;
+    }
     void aSearchThatTakesTooLongIsGivenUp() {
-        // Each line begins a string that ends nowhere.
-        const QByteArray bytes = "%PDF-1.4\n" + QByteArray("(\n").repeated(20 << 20);
+        QFETCH(const QByteArray, lines);
+        QFETCH(const bool, isQuick);
+        // The library looks for a page that is not where the table says.
+        auto objects = threePages().objects();
+        const QByteArray page = objects.extract(4).mapped();
+        FileWriter file;
+        file.objectText(4, "junk\n4 0 obj\n" + page + "\nendobj\n");
+        for (const auto &[number, body] : objects) {
+            file.object(number, body);
+        }
+        const QString path = saved(u"endless.pdf"_s, file.raw(lines).table().bytes());
         const std::clock_t start = std::clock();
-        QCOMPARE(refusal(saved(u"endless.pdf"_s, bytes)),
-                 u"The document is too damaged to be repaired"_s);
+        const QString reason = refusal(path);
         QVERIFY((std::clock() - start) / CLOCKS_PER_SEC < 5);
+        QVERIFY2(reason == u"The document is too damaged to be repaired"_s ||
+                     (isQuick && reason.isEmpty()),
+                 qPrintable(reason));
     }
 
     void aPageTreeThatBitesItsTailEnds() {

@@ -3,10 +3,13 @@
 #include "pdf/import/SourceDocument.h"
 
 #include "pdf/QpdfErrors.h"
+#include "pdf/import/Entries.h"
 #include "pdf/import/FormImport.h"
-#include "pdf/import/LostTrailer.h"
+#include "pdf/import/ObjectSearch.h"
+#include "pdf/import/ObjectTable.h"
 #include "pdf/import/PageTree.h"
 #include "pdf/import/SourceInput.h"
+#include "pdf/import/TableRepair.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -34,54 +37,72 @@ void requirePdfMark(const FileVersion &file, SourceReader &reader) {
     }
 }
 
-/// Null when the document needs a password or has an unknown security handler.
+/// More than the bytes at the end in which the library looks for "startxref".
+constexpr qint64 kEnd = 2048;
+
+/// What has to be added to the file for libqpdf 12 to take objects with numbers as high as the
+/// trailer says: the end of the file, far enough behind it. Nothing for a file of common numbers.
+AddedBytes endFurtherBehind(QPDF &document, const FileVersion &file, SourceReader &reader) {
+    auto trailer = document.getTrailer();
+    auto size = trailer.isInitialized() ? entry(trailer, "/Size") : trailer;
+    const bool isStated = size.isInitialized() && size.isInteger();
+    const qint64 stated = isStated ? size.getIntValue() : 0;
+    AddedBytes added{{}, gapFor(file.size, std::min<qint64>(stated, kMaxObjectNumber + 1)), {}};
+    if (added.gap > 0) {
+        added.behind.resize(kEnd);
+        const qint64 start = std::max<qint64>(0, file.size - kEnd);
+        added.behind.resize(reader.read(file, start, added.behind));
+    }
+    return added;
+}
+
+/// Reads the table of the document and looks whether it leads to a catalog and a page tree. Does
+/// not search the file: see openBySearch(). Throws what libqpdf throws.
+void readTable(QPDF &document, const FileVersion &file, const std::shared_ptr<SourceReader> &reader,
+               const AddedBytes &added) {
+    document.setSuppressWarnings(true);
+    document.setAttemptRecovery(false);
+    withAllObjects(document, *reader, [&] {
+        document.processInputSource(std::make_shared<SourceInput>(file, reader, added));
+        return document.getRoot(); // Throws when the table leads to no catalog.
+    });
+    // From here on the library searches for single objects that are not in their place.
+    document.setAttemptRecovery(file.size <= kMaxRepairedBytes);
+}
+
+/// Null when the document needs a password or has an unknown security handler. Also repairs a file
+/// whose table of objects is damaged or is wrongly taken for intact.
 std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
                                        const std::shared_ptr<SourceReader> &reader,
-                                       SourceInput::Table table, const std::string &trailer = {}) {
+                                       const AddedBytes &added = {}) {
     auto document = std::make_unique<QPDF>();
-    document->setSuppressWarnings(true);
-    document->setAttemptRecovery(file.size <= kMaxRepairedBytes);
+    std::vector<QPDFExc> faults;
     try {
-        withAllObjects(*document, *reader, [&] {
-            document->processInputSource(
-                std::make_shared<SourceInput>(file, reader, table, trailer));
-            return document->getRoot(); // Throws when the table leads to no catalog.
-        });
+        readTable(*document, file, reader, added);
     } catch (const QPDFExc &error) {
         if (error.getErrorCode() == qpdf_e_password || error.getErrorCode() == qpdf_e_unsupported) {
             return nullptr;
         }
-        throw;
+        faults = document->getWarnings();
+        faults.push_back(error);
+    }
+    const AddedBytes further = endFurtherBehind(*document, file, *reader);
+    if (added.gap == 0 && further.gap > 0) {
+        return openUnlessLocked(file, reader, further);
+    }
+    if (faults.empty()) {
+        return document;
+    }
+    if (file.size > kMaxRepairedBytes) {
+        throw QPDFExc(faults.back());
+    }
+    document = openBySearch(file, reader);
+    for (const QPDFExc &fault : faults) {
+        if (document) {
+            document->warn(fault);
+        }
     }
     return document;
-}
-
-/// Searches the file for objects, and in one that is cut off for the catalog too.
-std::unique_ptr<QPDF> openBySearch(const FileVersion &file,
-                                   const std::shared_ptr<SourceReader> &reader) {
-    try {
-        return openUnlessLocked(file, reader, SourceInput::Table::Hidden);
-    } catch (const QPDFExc &) {
-        const std::string trailer = lostTrailer(file, *reader);
-        if (trailer.empty()) {
-            throw;
-        }
-        return openUnlessLocked(file, reader, SourceInput::Table::Hidden, trailer);
-    }
-}
-
-/// Also repairs a file whose cross-reference table the library wrongly takes for intact.
-std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
-                                       const std::shared_ptr<SourceReader> &reader) {
-    requirePdfMark(file, *reader);
-    try {
-        return openUnlessLocked(file, reader, SourceInput::Table::Shown);
-    } catch (const QPDFExc &) {
-        if (file.size > kMaxRepairedBytes) {
-            throw;
-        }
-        return openBySearch(file, reader);
-    }
 }
 
 /// Throws Error where the pages of the document are not in the file.
@@ -96,7 +117,9 @@ void requirePages(QPDF &document) {
 PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
     return translateQpdfErrors([&] {
         const auto reader = std::make_shared<SourceReader>(calls);
-        const auto document = openUnlessLocked(FileVersion::of(path), reader);
+        const FileVersion file = FileVersion::of(path);
+        requirePdfMark(file, *reader);
+        const auto document = openUnlessLocked(file, reader);
         if (!document || document->isEncrypted()) {
             return PDFSummary{true, 0};
         }
@@ -111,6 +134,7 @@ PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
 std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
                                          const std::shared_ptr<SourceReader> &reader) {
     return translateQpdfErrors([&] {
+        requirePdfMark(file, *reader);
         auto document = openUnlessLocked(file, reader);
         if (!document || document->isEncrypted()) {
             throw Error(u"The document is encrypted"_s);

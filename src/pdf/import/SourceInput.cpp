@@ -18,8 +18,9 @@ namespace folioforge {
 
 namespace {
 
-/// More than the bytes at the end in which the library looks for "startxref".
-constexpr std::size_t kBlanksThatHideTheTable = 2048;
+/// What stands again and again where there is nothing: whoever looks for the end of an object or of
+/// a stream finds it at once.
+constexpr std::string_view kNothing = "endobj ";
 
 /// A number of so many digits fits into 64 bits.
 constexpr std::size_t kShort = 18;
@@ -54,23 +55,23 @@ qint64 threadTime() {
 
 } // namespace
 
-SourceInput::SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table,
-                         const std::string &trailer)
+SourceInput::SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, AddedBytes added)
     : m_file(std::move(file))
     , m_reader(std::move(reader))
-    // The search takes no object that stands at the very beginning.
-    , m_front(table == Table::Hidden ? 1 : 0)
-    , m_tail(table == Table::Hidden ? trailer + std::string(kBlanksThatHideTheTable, ' ') : "")
-    , m_end(m_front + m_file.size + static_cast<qint64>(m_tail.size()))
+    , m_added(std::move(added))
+    , m_front(static_cast<qint64>(m_added.before.size()))
+    , m_end(m_front + m_file.size + m_added.gap + static_cast<qint64>(m_added.behind.size()))
     , m_name(m_file.path.toStdString()) {}
 
 /// The library asks for the ends of lines when it searches the file for objects. Some files keep it
 /// busy for minutes.
 void SourceInput::limitSearch() {
     constexpr qint64 kLinesBetweenLooks = 1024;
-    if (m_lines++ % kLinesBetweenLooks != 0) {
+    constexpr qint64 kBytesBetweenLooks = 1 << 20; // It may read many lines for one.
+    if (m_lines++ % kLinesBetweenLooks != 0 && m_bytesRead < kBytesBetweenLooks) {
         return;
     }
+    m_bytesRead = 0;
     if (m_searchEnd == 0) {
         m_searchEnd = threadTime() + kMaxSearch;
     } else if (threadTime() > m_searchEnd) {
@@ -78,21 +79,35 @@ void SourceInput::limitSearch() {
     }
 }
 
-/// The bytes at `position`, of the file or of what is read behind it; none at the end.
+/// The bytes at `position`, up to the next border between the file and what is added; none at the
+/// end.
 std::string_view SourceInput::pieceAt(qint64 position, std::span<char> target) {
-    const qint64 behind = position - m_front - m_file.size;
-    if (behind < 0) {
-        return {target.data(), m_reader->read(m_file, position - m_front, target)};
+    const auto copied = [&](const std::string &text, qint64 start) {
+        const auto from = std::min(static_cast<std::size_t>(start), text.size());
+        return std::string_view(target.data(), text.copy(target.data(), target.size(), from));
+    };
+    if (position < m_front) {
+        return copied(m_added.before, position);
     }
-    const auto start = std::min(static_cast<std::size_t>(behind), m_tail.size());
-    return {target.data(), m_tail.copy(target.data(), target.size(), start)};
+    position -= m_front;
+    if (position < m_file.size) {
+        return {target.data(), m_reader->read(m_file, position, target)};
+    }
+    position -= m_file.size;
+    if (position >= m_added.gap) {
+        return copied(m_added.behind, position - m_added.gap);
+    }
+    const auto size = std::min<qint64>(m_added.gap - position, std::ssize(target));
+    for (qint64 i = 0; i < size; ++i) {
+        target[i] = kNothing[static_cast<std::size_t>(position + i) % kNothing.size()];
+    }
+    return {target.data(), static_cast<std::size_t>(size)};
 }
 
 qpdf_offset_t SourceInput::findAndSkipNextEOL() {
     constexpr std::string_view kLineEnds = "\r\n";
     limitSearch();
     std::array<char, 1024> bytes{};
-    m_position = std::max(m_position, m_front);
     bool isLineEnd = false;
     qint64 lineEnd = 0;
     while (true) {
@@ -174,15 +189,13 @@ bool SourceInput::isObjectBuffer(const char *target) const {
 size_t SourceInput::read(char *target, size_t length) {
     last_offset = m_position;
     size_t got = 0;
-    for (; got < length && m_position < m_front; ++got, ++m_position) {
-        target[got] = ' ';
-    }
     for (bool isEnd = false; got < length && !isEnd;) {
         const auto piece = pieceAt(m_position, {target + got, length - got});
         got += piece.size();
         m_position += static_cast<qint64>(piece.size());
         isEnd = piece.empty();
     }
+    m_bytesRead += static_cast<qint64>(got);
     if (got == 0 && length > 0) {
         // The library takes the end of the file from here.
         last_offset = std::min(m_position, m_end);

@@ -13,20 +13,21 @@
 
 namespace folioforge {
 
+/// What the library reads before and behind the bytes of a file.
+struct AddedBytes {
+    std::string before;
+    qint64 gap = 0; ///< So many bytes that say nothing, and then
+    std::string behind;
+};
+
 /// A source PDF as libqpdf reads it. It holds neither a descriptor nor a buffer, so that thousands
 /// may wait until their streams are written.
 class SourceInput final : public InputSource {
   public:
-    /// Whether the library finds the cross-reference table. When it does not, it searches the file
-    /// for objects.
-    enum class Table { Shown, Hidden };
-
     /// The processor time of the calling thread that the search may take, in milliseconds.
     static constexpr qint64 kMaxSearch = 2000;
 
-    /// With a hidden table the library reads `trailer` behind the last byte of the file.
-    SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, Table table,
-                const std::string &trailer = {});
+    SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, AddedBytes added = {});
 
     qpdf_offset_t findAndSkipNextEOL() override;
     std::string const &getName() const override;
@@ -44,12 +45,13 @@ class SourceInput final : public InputSource {
 
     FileVersion m_file;
     std::shared_ptr<SourceReader> m_reader;
-    qint64 m_front;     ///< So many blanks the library reads before the file,
-    std::string m_tail; ///< and this behind it,
-    qint64 m_end;       ///< up to here.
+    AddedBytes m_added;
+    qint64 m_front; ///< Where the file begins.
+    qint64 m_end;
     std::string m_name;
     qint64 m_position = 0;
     qint64 m_lines = 0;     ///< So far in the search.
+    qint64 m_bytesRead = 0; ///< Since the last look at the clock.
     qint64 m_searchEnd = 0; ///< On the thread's clock; 0 before the search.
 };
 
