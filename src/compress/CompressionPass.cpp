@@ -94,7 +94,7 @@ void requireRoomForStreams(QPDF &document, qsizetype size) {
 
 void write(QPDF &document, OutputPipeline &output, const CompressionOptions &options,
            const DocumentForm &form, const EndPageWrite &endPageWrite) {
-    keepFilterChains(document);
+    keepFragileStreams(document);
     QPDFWriter writer(document);
     writer.setOutputPipeline(&output);
     applyForm(writer, form);

@@ -5,6 +5,7 @@
 #include "error/Error.h"
 #include "image/Deflate.h"
 #include "image/RowFilter.h"
+#include "pdf/QpdfErrors.h"
 
 #include <algorithm>
 #include <array>
@@ -61,15 +62,17 @@ std::string encodeFlate(const Plane &plane) {
     return deflateBytes(filterRows(rows, plane.width(), 1)).toStdString();
 }
 
-void keepFilterChains(QPDF &document) {
+void keepFragileStreams(QPDF &document) {
     for (QPDFObjectHandle &object : document.getAllObjects()) {
         if (!object.isStream()) {
             continue;
         }
-        QPDFObjectHandle filter = object.getDict().getKey("/Filter");
+        QPDFObjectHandle dictionary = object.getDict();
+        QPDFObjectHandle filter = dictionary.getKey("/Filter");
         const auto filters =
             filter.isArray() ? filter.getArrayAsVector() : std::vector<QPDFObjectHandle>();
-        if (std::count_if(filters.begin(), filters.end(), isCompression) > 1) {
+        if (std::count_if(filters.begin(), filters.end(), isCompression) > 1 ||
+            statedLength(dictionary.getKey("/Length")) == 0) {
             object.setFilterOnWrite(false);
         }
     }

@@ -158,6 +158,20 @@ class CompressionPassTest : public QObject, protected CompressionCase {
         QVERIFY(difference(PdfProbe(m_path).render(1, 100), PdfProbe(copy).render(1, 100)) < 5);
     }
 
+    void anEmptyStreamGetsNoFilter() {
+        const QByteArray content("BT /F 12 Tf 20 250 Td (Words that stay) Tj ET\n");
+        auto page = photoPage(content + QByteArray("0 0 m 400 300 l S\n").repeated(1000));
+        page.stream(5, {}, {});
+        QVERIFY(page.object(3,
+                            "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents [5 0 "
+                            "R 4 0 R] /Resources << /Font << /F 7 0 R >> >> >>")
+                    .write(m_path));
+        const QString copy = compressed();
+        QVERIFY(readFile(copy).size() < 2000);
+        QVERIFY(readFile(copy).contains("<< /Length 0 >>"));
+        QCOMPARE(PdfProbe(copy).render(1, 100), PdfProbe(m_path).render(1, 100));
+    }
+
     void whatIsNoPhotoStaysAndSaysWhy_data() {
         QTest::addColumn<QByteArray>("keys");
         QTest::addColumn<QByteArray>("data");

@@ -27,6 +27,16 @@ class ImportTest : public QObject, protected MergeCase {
     }
 
   private Q_SLOTS:
+    void anEmptyStreamGetsNoFilter() {
+        auto source = onePage("/Resources << /Font << /F 3 0 R >> >>");
+        source.object(4, source.objects().at(4).replace("5 0 R", "[5 0 R 20 0 R]"));
+        source.stream(20, {}, {});
+        const auto document = opened(merged({saved(source)}));
+        auto empty = page(*document).getKey("/Contents").getArrayItem(1).getDict();
+        QCOMPARE(empty.getKey("/Length").getIntValue(), 0);
+        QVERIFY(!empty.hasKey("/Filter"));
+    }
+
     void resourcesNamedLikeKeysOfTheStructureAreKept() {
         auto source = onePage("/StructParents 0 /Resources << /Font << /SE 3 0 R /Title 3 0 R "
                               "/StructParent 3 0 R >> /XObject << /SD 20 0 R /StructParents 20 0 R "
