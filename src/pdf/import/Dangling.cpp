@@ -33,7 +33,9 @@ template<typename Get> bool leadsNowhere(const Get &get) {
     if (!object.isNull() || object.isIndirect()) {
         return object.isNull();
     }
-    const auto isObject = [&](QPDFObjectHandle known) { return object.isSameObjectAs(known); };
+    const auto isObject = [&](const QPDFObjectHandle &known) {
+        return object.isSameObjectAs(known);
+    };
     return isOneForAll && isObject(get()) && std::ranges::none_of(written, isObject);
 }
 

@@ -54,7 +54,7 @@ std::vector<int> numbersIn(std::string_view text) {
 }
 
 /// The numbers of the objects in an object stream; none where it cannot be read.
-std::vector<int> membersOf(QPDFObjectHandle collection) {
+std::vector<int> numbersOfMembers(QPDFObjectHandle collection) {
     std::vector<int> members;
     try {
         const auto data = collection.getStreamData(qpdf_dl_specialized);
@@ -126,7 +126,7 @@ class TableRepair {
                 continue;
             }
             int index = 0;
-            for (const int member : membersOf(stream)) {
+            for (const int member : numbersOfMembers(stream)) {
                 const auto known = m_table.find(member);
                 if (member > 0 && member <= kMaxObjectNumber && member != collection.number &&
                     (known == m_table.end() || known->second.offset <= collection.offset)) {
