@@ -39,13 +39,6 @@ constexpr int levelOf(DeflateEffort effort) {
     return 6;
 }
 
-struct FreeDecompressor {
-    void operator()(libdeflate_decompressor *decompressor) const {
-        libdeflate_free_decompressor(decompressor);
-    }
-};
-using Decompressor = std::unique_ptr<libdeflate_decompressor, FreeDecompressor>;
-
 Decompressor newDecompressor() {
     Decompressor decompressor(libdeflate_alloc_decompressor());
     if (!decompressor) {
@@ -75,6 +68,10 @@ libdeflate_result withRoom(QByteArray &out, qsizetype packed, qsizetype limit,
 }
 
 } // namespace
+
+void FreeDecompressor::operator()(libdeflate_decompressor *decompressor) const {
+    libdeflate_free_decompressor(decompressor);
+}
 
 void Deflater::Free::operator()(libdeflate_compressor *compressor) const {
     libdeflate_free_compressor(compressor);
@@ -157,28 +154,35 @@ QByteArray inflateUpTo(QByteArrayView bytes, qsizetype limit) {
     return out;
 }
 
-bool isDamagedZlib(QByteArrayView bytes, qsizetype limit) {
+ZlibCheck::ZlibCheck(qsizetype limit)
+    : m_decompressor(newDecompressor())
+    , m_limit(limit) {}
+
+bool ZlibCheck::isDamaged(QByteArrayView bytes) {
     constexpr qsizetype kHeader = 2;
     constexpr qsizetype kChecksum = 4;
     if (bytes.size() < kHeader) {
         return true;
     }
-    const Decompressor decompressor = newDecompressor();
     const QByteArrayView packed = bytes.sliced(kHeader);
-    QByteArray out;
     size_t read = 0;
     size_t written = 0;
-    const auto result = withRoom(out, bytes.size(), limit, [&] {
-        return libdeflate_deflate_decompress_ex(decompressor.get(), packed.data(),
-                                                static_cast<size_t>(packed.size()), out.data(),
-                                                static_cast<size_t>(out.size()), &read, &written);
-    });
+    const auto inflate = [&] {
+        return libdeflate_deflate_decompress_ex(
+            m_decompressor.get(), packed.data(), static_cast<size_t>(packed.size()),
+            m_unpacked.data(), static_cast<size_t>(m_unpacked.size()), &read, &written);
+    };
+    auto result = inflate();
+    if (result == LIBDEFLATE_INSUFFICIENT_SPACE && m_unpacked.size() < m_limit) {
+        result = withRoom(m_unpacked, std::max(bytes.size(), m_unpacked.size()), m_limit, inflate);
+    }
     if (result != LIBDEFLATE_SUCCESS) {
         return result != LIBDEFLATE_INSUFFICIENT_SPACE;
     }
     const QByteArrayView checksum = packed.sliced(static_cast<qsizetype>(read));
-    return checksum.size() >= kChecksum && qFromBigEndian<quint32>(checksum.data()) !=
-                                               libdeflate_adler32(1, out.constData(), written);
+    return checksum.size() >= kChecksum &&
+           qFromBigEndian<quint32>(checksum.data()) !=
+               libdeflate_adler32(1, m_unpacked.constData(), written);
 }
 
 } // namespace folioforge

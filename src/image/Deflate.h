@@ -8,6 +8,7 @@
 #include <memory>
 
 struct libdeflate_compressor;
+struct libdeflate_decompressor;
 
 namespace folioforge {
 
@@ -56,8 +57,26 @@ InflatedPart inflatePartly(QByteArrayView bytes, qsizetype size);
 /// or holds more than `limit` bytes.
 QByteArray inflateUpTo(QByteArrayView bytes, qsizetype limit);
 
-/// Whether the zlib stream `bytes` is cut off or does not match its checksum, which may be missing.
-/// One that holds more than `limit` bytes counts as whole. Throws std::bad_alloc.
-bool isDamagedZlib(QByteArrayView bytes, qsizetype limit);
+struct FreeDecompressor {
+    void operator()(libdeflate_decompressor *decompressor) const;
+};
+using Decompressor = std::unique_ptr<libdeflate_decompressor, FreeDecompressor>;
+
+/// Looks for damage in one zlib stream after another. Making one costs more than to look at a page
+/// of text.
+class ZlibCheck {
+  public:
+    /// Streams that hold more than `limit` bytes count as whole. Throws std::bad_alloc.
+    explicit ZlibCheck(qsizetype limit);
+
+    /// Whether the stream `bytes` is cut off or does not match its checksum, which may be missing.
+    /// Throws std::bad_alloc.
+    bool isDamaged(QByteArrayView bytes);
+
+  private:
+    Decompressor m_decompressor;
+    qsizetype m_limit;
+    QByteArray m_unpacked; ///< Kept for the next stream.
+};
 
 } // namespace folioforge

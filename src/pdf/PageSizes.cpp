@@ -37,16 +37,16 @@ Warnings checkPageSizes(std::span<const QPDFObjectHandle> pages) {
     QPDFObjectHandle shown; // A box that many pages may share.
     for (std::size_t i = 0; i < pages.size(); ++i) {
         auto box = QPDFObjectHandle(pages[i]).getKey("/MediaBox");
-        if (box.isSameObjectAs(shown) || !box.isRectangle()) {
+        if (box.isSameObjectAs(shown)) {
             continue;
         }
         const auto corners = box.getArrayAsRectangle();
         const QSizeF size(corners.urx - corners.llx, corners.ury - corners.lly);
         if (isShown(size)) {
             shown = box;
+        } else if (!box.isRectangle()) {
             continue;
-        }
-        if (named.size() < kNamed) {
+        } else if (named.size() < kNamed) {
             named += u"page %1 (%2)"_s.arg(i + 1).arg(sizeText(size));
         } else {
             ++others;

@@ -108,6 +108,27 @@ class ImportTest : public QObject, protected MergeCase {
         }
     }
 
+    void annotationsOfTwoCopiesHaveTheirOwnAppearances_data() {
+        QTest::addColumn<QByteArray>("appearances");
+        QTest::newRow("look") << QByteArray("/AP");
+        QTest::newRow("icon") << QByteArray("/MK");
+    }
+    void annotationsOfTwoCopiesHaveTheirOwnAppearances() {
+        QFETCH(const QByteArray, appearances);
+        auto source = onePage("/Annots [20 0 R]");
+        source.object(20, "<< /Type /Annot /Subtype /Stamp /Rect [0 0 200 100] " + appearances +
+                              " << /N 21 0 R >> >>");
+        source.stream(21, "/Type /XObject /Subtype /Form /BBox [0 0 200 100]", {});
+        const QString path = saved(source);
+        const auto document = opened(merged({path, path}));
+        const auto look = [&](std::size_t index) {
+            auto annotation = page(*document, index).getKey("/Annots").getArrayItem(0);
+            return annotation.getKey(appearances.toStdString()).getKey("/N");
+        };
+        QVERIFY(look(0).isStream() && look(1).isStream());
+        QVERIFY(look(0).getObjGen() != look(1).getObjGen());
+    }
+
     void layersOfTwoCopiesSwitchTheirOwnPages() {
         auto source = onePage("/Resources << /XObject << /Whole 20 0 R /Outer 21 0 R /Plain 23 0 R "
                               ">> >>",

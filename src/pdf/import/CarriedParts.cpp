@@ -74,7 +74,7 @@ std::size_t countFields(const Objects &roots) {
 /// `counted` holds the lists of annotations that other pages share.
 void addAnnotations(PartCounts &parts, const QPDFObjectHandle &page,
                     std::set<QPDFObjGen> &counted) {
-    const auto annotations = entry(page, "/Annots");
+    const auto annotations = annotationsOf(page);
     if (annotations.isIndirect() && !counted.insert(annotations.getObjGen()).second) {
         return;
     }

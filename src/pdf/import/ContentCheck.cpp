@@ -89,11 +89,8 @@ void ContentCheck::read(QPDF &source) {
             note(damagedIn(std::exchange(batch, {})));
             bytes = 0;
         }
-        const auto data = QPDFObjectHandle(part.stream).getRawStreamData();
-        const auto size = static_cast<qsizetype>(data->getSize());
-        bytes += size;
-        batch.push_back(
-            {&part, QByteArray(reinterpret_cast<const char *>(data->getBuffer()), size)});
+        batch.push_back({&part, QPDFObjectHandle(part.stream).getRawStreamData()});
+        bytes += static_cast<qsizetype>(batch.back().data->getSize());
     }
     m_running = runAsync(
         bytes, [batch = std::make_shared<Batch>(std::move(batch))] { return damagedIn(*batch); });
@@ -103,8 +100,10 @@ ContentCheck::Damaged ContentCheck::damagedIn(const Batch &batch) {
     // More than any page that is drawn; what is longer counts as whole.
     constexpr qsizetype kMaxUnpacked = 64 << 20;
     Damaged damaged;
+    ZlibCheck check(kMaxUnpacked);
     for (const auto &[part, data] : batch) {
-        if (!data.isEmpty() && isDamagedZlib(data, kMaxUnpacked)) {
+        const QByteArrayView bytes(data->getBuffer(), static_cast<qsizetype>(data->getSize()));
+        if (!bytes.isEmpty() && check.isDamaged(bytes)) {
             damaged.push_back(part);
         }
     }

@@ -5,14 +5,14 @@
 #include "image/Parallel.h"
 #include "pdf/import/PageTree.h"
 
-#include <QByteArray>
-
 #include <cstddef>
 #include <future>
 #include <map>
+#include <memory>
 #include <set>
 #include <vector>
 
+class Buffer;
 class QPDF;
 
 namespace folioforge {
@@ -35,7 +35,7 @@ class ContentCheck {
     };
     struct Packed {
         const Part *part;
-        QByteArray data;
+        std::shared_ptr<Buffer> data;
     };
     using Batch = std::vector<Packed>;
     using Damaged = std::vector<const Part *>;

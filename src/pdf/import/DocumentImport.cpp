@@ -108,7 +108,6 @@ void addLosses(ImportedDocument &imported, const ObjectCopier &copier) {
 
 ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &shared,
                                 SourceNames &names, const ImportOptions &options) {
-    shared.beginCopy(source);
     ObjectCopier copier(source, target, shared, names);
     ImportedDocument imported;
     imported.scope = options.scope;
@@ -117,6 +116,7 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     addParts(imported.parts.left, PartKind::Metadata, imported.metadata.isLeft ? 1 : 0);
     imported.warnings = namePartsLeft(imported.parts.left);
     const SourcePages found = readSourcePages(source);
+    shared.beginCopy(source, found.pages);
     std::optional<ContentCheck> contents;
     if (!shared.damagedPages) {
         contents.emplace(source, found.pages);

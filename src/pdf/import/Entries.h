@@ -24,6 +24,12 @@ inline QPDFObjectHandle entry(QPDFObjectHandle dictionary, const std::string &ke
     return dictionary.isDictionary() ? dictionary.getKey(key) : QPDFObjectHandle::newNull();
 }
 
+/// What a page has under "/Annots"; null where it has nothing, as most do: a value that is missing
+/// takes the library long to make.
+inline QPDFObjectHandle annotationsOf(QPDFObjectHandle page) {
+    return page.hasKey("/Annots") ? page.getKey("/Annots") : QPDFObjectHandle::newNull();
+}
+
 /// What an array holds; nothing where `array` is none.
 inline std::vector<QPDFObjectHandle> items(QPDFObjectHandle array) {
     return array.isArray() ? array.getArrayAsVector() : std::vector<QPDFObjectHandle>();

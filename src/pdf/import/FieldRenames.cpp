@@ -89,9 +89,10 @@ QPDFObjectHandle renamedFields(const QPDFObjectHandle &array, const Renames &ren
 
 bool namesFields(const Dictionary &action) {
     static constexpr std::array kKinds{"/SubmitForm", "/ResetForm", "/Hide"};
-    auto kind = valueOf(action, "/S");
-    return std::ranges::any_of(kKinds,
-                               [&](const char *name) { return kind.isNameAndEquals(name); });
+    const auto kind = action.find("/S");
+    return kind != action.end() && std::ranges::any_of(kKinds, [&](const char *name) {
+               return QPDFObjectHandle(kind->second).isNameAndEquals(name);
+           });
 }
 
 void renameInAppearances(const std::vector<QPDFObjectHandle> &roots,

@@ -60,7 +60,7 @@ std::vector<QPDFObjectHandle> unlistedFields(const std::vector<SourcePage> &page
     });
     std::vector<QPDFObjectHandle> unlisted;
     for (const auto &[page, inherited] : pages) {
-        const auto annotations = entry(page, "/Annots");
+        const auto annotations = annotationsOf(page);
         if (!isNew(annotations, visited)) {
             continue;
         }

@@ -55,10 +55,19 @@ class ResourceCheck {
     bool look(QPDFObjectHandle resources) {
         static constexpr std::array kKinds{"/Font",    "/XObject", "/ColorSpace",
                                            "/Pattern", "/Shading", "/ExtGState"};
-        return std::ranges::count_if(kKinds, [&](const char *kind) {
-                   return isDangling(resources, kind) ||
-                          once(resources.getKey(kind), &ResourceCheck::lacksMember);
-               }) > 0;
+        bool lacks = false;
+        for (const auto &[kind, members] : resources.getDictAsMap()) {
+            if (std::ranges::find(kKinds, kind) != kKinds.end()) {
+                lacks = lacksIn(resources, kind, members) || lacks;
+            }
+        }
+        return lacks;
+    }
+
+    bool lacksIn(const QPDFObjectHandle &resources, const std::string &kind,
+                 QPDFObjectHandle members) {
+        return members.isNull() ? isDangling(resources, kind)
+                                : once(members, &ResourceCheck::lacksMember);
     }
 
     bool lacksMember(QPDFObjectHandle members) {
@@ -67,7 +76,7 @@ class ResourceCheck {
         }
         bool lacks = false;
         for (auto &[name, member] : members.getDictAsMap()) {
-            lacks = lacks || isDangling(members, name);
+            lacks = lacks || (member.isNull() && isDangling(members, name));
             if (member.isStream() && m_forms.insert(member.getObjGen()).second) {
                 auto form = member.getDict();
                 lacks = lacks || isDangling(form, "/Resources");
@@ -136,8 +145,8 @@ std::set<std::size_t> pagesThatLackObjects(const std::vector<SourcePage> &pages)
         const auto above = pages[i].inherited->find("/Resources");
         bool lacks = false;
         if (page.hasKey("/Resources") || above == pages[i].inherited->end()) {
-            lacks =
-                isDangling(page, "/Resources") || resources.lacksObjects(page.getKey("/Resources"));
+            auto own = page.getKey("/Resources");
+            lacks = own.isNull() ? isDangling(page, "/Resources") : resources.lacksObjects(own);
         } else {
             const auto [known, isNew] = inherited.try_emplace(above->second.number);
             if (isNew) {

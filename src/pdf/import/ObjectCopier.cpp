@@ -77,10 +77,7 @@ void ObjectCopier::fillPage(const SourcePage &source, QPDFObjectHandle target) {
     auto entries = QPDFObjectHandle(source.page).getDictAsMap();
     entries.erase("/Parent");
     entries["/Type"] = QPDFObjectHandle::newName("/Page");
-    auto copied = copyDictionary(entries);
-    for (const auto &[key, value] : copied.getDictAsMap()) {
-        target.replaceKey(key, value);
-    }
+    copyEntries(entries, target);
     for (const auto &[key, inherited] : *source.inherited) {
         if (!target.hasKey(key)) {
             target.replaceKey(key, copyInherited(inherited));
@@ -195,6 +192,11 @@ QPDFObjectHandle ObjectCopier::copyArray(QPDFObjectHandle array) {
 
 QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
     auto target = QPDFObjectHandle::newDictionary();
+    copyEntries(dictionary, target);
+    return target;
+}
+
+void ObjectCopier::copyEntries(const Dictionary &dictionary, QPDFObjectHandle target) {
     for (const auto &[key, value] : dictionary) {
         if (isParentTreeKey(dictionary, key)) {
             continue;
@@ -207,16 +209,12 @@ QPDFObjectHandle ObjectCopier::copyDictionary(const Dictionary &dictionary) {
     if (namesFields(dictionary)) {
         m_fieldActions.push_back(target);
     }
-    return target;
 }
 
 void ObjectCopier::fillStream(PendingStream &stream) {
     m_longestStream = std::max(m_longestStream, statedLength(stream.dictionary["/Length"]));
     stream.dictionary.erase("/Length");
-    auto target = stream.target.getDict();
-    for (const auto &[key, value] : copyDictionary(stream.dictionary).getDictAsMap()) {
-        target.replaceKey(key, value);
-    }
+    copyEntries(stream.dictionary, stream.target.getDict());
 }
 
 void ObjectCopier::run() {

@@ -89,6 +89,7 @@ class ObjectCopier {
     QPDFObjectHandle reserveStream(QPDFObjectHandle object);
     QPDFObjectHandle copyArray(QPDFObjectHandle array);
     QPDFObjectHandle copyDictionary(const Dictionary &dictionary);
+    void copyEntries(const Dictionary &dictionary, QPDFObjectHandle target);
     QPDFObjectHandle copyEntry(const Dictionary &dictionary, const std::string &key,
                                const QPDFObjectHandle &value);
     QPDFObjectHandle copyThread(const QPDFObjectHandle &destination);

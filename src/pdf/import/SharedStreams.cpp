@@ -6,6 +6,8 @@
 
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
+#include <array>
 #include <vector>
 
 namespace folioforge {
@@ -131,11 +133,26 @@ class ObjectGraph {
     std::set<QPDFObjGen> m_forms;
 };
 
+/// Whether the document has anything that keeps streams from being shared. Most have nothing, and
+/// to read all objects takes as long as to copy them.
+bool mayHaveOwnStreams(QPDF &source, const std::vector<SourcePage> &pages) {
+    static constexpr std::array kKeys{"/OCProperties", "/StructTreeRoot", "/AcroForm", "/Names"};
+    auto root = source.getRoot();
+    const auto hasAppearance = [](QPDFObjectHandle annotation) {
+        return annotation.isDictionary() && (annotation.hasKey("/AP") || annotation.hasKey("/MK"));
+    };
+    return std::ranges::any_of(kKeys, [&](const char *key) { return root.hasKey(key); }) ||
+           std::ranges::any_of(pages, [&](const SourcePage &page) {
+               return std::ranges::any_of(items(annotationsOf(page.page)), hasAppearance);
+           });
+}
+
 } // namespace
 
-void SharedStreams::beginCopy(QPDF &source) {
+void SharedStreams::beginCopy(QPDF &source, const std::vector<SourcePage> &pages) {
     if (!m_copies.empty() && !m_copiedEachTime) {
-        m_copiedEachTime = ObjectGraph(source).copiedEachTime();
+        m_copiedEachTime = mayHaveOwnStreams(source, pages) ? ObjectGraph(source).copiedEachTime()
+                                                            : std::set<QPDFObjGen>();
     }
 }
 

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "pdf/import/PageTree.h"
+
 #include <qpdf/QPDFObjGen.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
@@ -9,6 +11,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <vector>
 
 class QPDF;
 
@@ -20,8 +23,8 @@ namespace folioforge {
 /// a layer, and what structure elements mark.
 class SharedStreams {
   public:
-    /// To be called before each copy of the file, with the file as it was read.
-    void beginCopy(QPDF &source);
+    /// To be called before each copy of the file with its pages, before anything is copied.
+    void beginCopy(QPDF &source, const std::vector<SourcePage> &pages);
     /// The copy to share of a stream of the source; null where there is none.
     [[nodiscard]] QPDFObjectHandle find(QPDFObjGen stream) const;
     void add(QPDFObjGen stream, const QPDFObjectHandle &copy) { m_copies[stream] = copy; }

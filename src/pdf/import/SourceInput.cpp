@@ -30,15 +30,13 @@ bool isDigit(char byte) {
     return byte >= '0' && byte <= '9';
 }
 
-/// Whether a number of more digits may stand, or begin or end, in `piece`.
-bool mayHaveLongNumber(std::string_view piece) {
-    if (isDigit(piece.front()) || isDigit(piece.back())) {
-        return true;
-    }
+/// Whether a number of more digits stands in `piece`.
+bool hasLongNumber(std::string_view piece) {
     for (std::size_t i = kShort; i < piece.size(); i += kShort + 1) {
         if (isDigit(piece[i])) {
             const auto first = piece.find_last_not_of(kDigits, i) + 1;
-            if (piece.find_first_not_of(kDigits, i) - first > kShort) {
+            const auto end = std::min(piece.find_first_not_of(kDigits, i), piece.size());
+            if (end - first > kShort) {
                 return true;
             }
         }
@@ -159,11 +157,11 @@ void SourceInput::clampLengths(qint64 position, std::span<char> piece) {
     constexpr std::string_view kKey = "/Length";
     constexpr std::string_view kBefore{" \t\r\n\f\0+-0", 9};
     constexpr qint64 kAround = 64;
-    if (piece.empty() || !mayHaveLongNumber({piece.data(), piece.size()})) {
+    if (!hasLongNumber({piece.data(), piece.size()})) {
         return;
     }
     const qint64 start = std::max(position - kAround, m_front);
-    std::string bytes(piece.size() + 2 * kAround, '\0');
+    std::string bytes(piece.size() + kAround, '\0');
     const std::string_view text = pieceAt(start, bytes);
     for (auto at = text.find(kKey); at != std::string_view::npos; at = text.find(kKey, at + 1)) {
         const auto blank = at + kKey.size();
@@ -201,6 +199,15 @@ size_t SourceInput::read(char *target, size_t length) {
         last_offset = std::min(m_position, m_end);
     }
     if (isObjectBuffer(target)) {
+        // A number at the end is read again when the next piece begins, and then as a whole.
+        size_t end = got;
+        while (end > 0 && isDigit(target[end - 1])) {
+            --end;
+        }
+        if (end > 0) {
+            m_position -= static_cast<qint64>(got - end);
+            got = end;
+        }
         clampLengths(last_offset, {target, got});
     }
     return got;
