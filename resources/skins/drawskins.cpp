@@ -47,19 +47,19 @@ struct Skin {
 constexpr double kIconGap = 7;
 
 constexpr std::array kBandLooks = {
-    Look{""_L1, "#4a4a4a"_L1, "#5e5e5e"_L1, "#f4f4f4"_L1, "#f4f4f4"_L1, "1"_L1},
-    Look{"-hover"_L1, "#5b5b5b"_L1, "#7d7d7d"_L1, "#ffffff"_L1, "#ffffff"_L1, "1"_L1},
-    Look{"-disable"_L1, "#3f3f3f"_L1, "#494949"_L1, "#858585"_L1, "#f4f4f4"_L1, "0.4"_L1},
+    Look{""_L1, "#4a4a4a"_L1, "#8f8f8f"_L1, "#f4f4f4"_L1, "#f4f4f4"_L1, "1"_L1},
+    Look{"-hover"_L1, "#5b5b5b"_L1, "#a8a8a8"_L1, "#ffffff"_L1, "#ffffff"_L1, "1"_L1},
+    Look{"-disable"_L1, "#3f3f3f"_L1, "#494949"_L1, "#b0b0b0"_L1, "#f4f4f4"_L1, "0.4"_L1},
 };
 constexpr std::array kPrimaryLooks = {
     Look{""_L1, "#2470d8"_L1, "#1f63c1"_L1, "#ffffff"_L1, "#ffffff"_L1, "1"_L1},
     Look{"-hover"_L1, "#1a5dba"_L1, "#164f9f"_L1, "#ffffff"_L1, "#ffffff"_L1, "1"_L1},
-    Look{"-disable"_L1, "#c3cfde"_L1, "#b9c6d7"_L1, "#f6f9fc"_L1, "#f6f9fc"_L1, "1"_L1},
+    Look{"-disable"_L1, "#c3cfde"_L1, "#b9c6d7"_L1, "#3f4a5a"_L1, "#3f4a5a"_L1, "1"_L1},
 };
 constexpr std::array kPlainLooks = {
-    Look{""_L1, "#f7f8fa"_L1, "#bfc4cb"_L1, "#20242a"_L1, "#4a6fa5"_L1, "1"_L1},
+    Look{""_L1, "#f7f8fa"_L1, "#868d97"_L1, "#20242a"_L1, "#4a6fa5"_L1, "1"_L1},
     Look{"-hover"_L1, "#e6f0fd"_L1, "#2470d8"_L1, "#123f7d"_L1, "#2470d8"_L1, "1"_L1},
-    Look{"-disable"_L1, "#fafbfc"_L1, "#e3e6ea"_L1, "#a7adb6"_L1, "#b9bfc8"_L1, "1"_L1},
+    Look{"-disable"_L1, "#fafbfc"_L1, "#e3e6ea"_L1, "#5c626a"_L1, "#8a919b"_L1, "1"_L1},
 };
 
 // A sheet with a folded corner, 20 by 24, on which each kind of file puts its mark.

@@ -28,6 +28,7 @@ constexpr int kSizeWidth = 110;
 constexpr int kDestinationWidth = 160;
 constexpr int kMinNameWidth = 120;
 constexpr int kDropLineWidth = 2;
+constexpr double kFocusWidth = 1.5;
 
 bool asksForMenu(const QKeyEvent &key) {
     return key.key() == Qt::Key_Menu ||
@@ -288,7 +289,24 @@ void SkinTableView::paintEvent(QPaintEvent *event) {
     }
     if (m_dropRow) {
         paintDropLine(painter);
+    } else if (hasFocus()) {
+        paintFocus(painter);
     }
+}
+
+/// A ring around the current row, or around the list where that has none.
+void SkinTableView::paintFocus(QPainter &painter) const {
+    const int row = currentIndex().row();
+    const bool isSelected = row >= 0 && selectionModel()->isRowSelected(row);
+    const QRect ring =
+        row < 0 ? viewport()->rect()
+                : QRect(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
+    const QPen pen(palette().color(isSelected ? QPalette::HighlightedText : QPalette::Highlight),
+                   kFocusWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+    painter.setPen(pen);
+    // On a selected row the ring lies inside, so that the row's own colour surrounds it.
+    const double inset = kFocusWidth / 2 + (isSelected ? kFocusWidth : 0);
+    painter.drawRect(QRectF(ring).adjusted(inset, inset, -inset, -inset));
 }
 
 void SkinTableView::paintHint(QPainter &painter) const {

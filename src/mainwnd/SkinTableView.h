@@ -87,6 +87,7 @@ class SkinTableView : public QTableView {
     void validateDrop(QDropEvent &event);
     void setDropRow(std::optional<int> row);
     void paintDropLine(QPainter &painter) const;
+    void paintFocus(QPainter &painter) const;
     void paintHint(QPainter &painter) const;
     void layOutColumns();
 

@@ -13,8 +13,8 @@ namespace {
 
 QPalette lightPalette() {
     const QColor ink(0x1f, 0x23, 0x28);
-    const QColor faintInk(0x8a, 0x90, 0x98);
-    const QColor accent(0x2f, 0x7d, 0xe1);
+    const QColor faintInk(0x67, 0x6d, 0x75);
+    const QColor accent(0x1f, 0x64, 0xc0); // Selected rows are drawn somewhat lighter.
 
     QPalette palette(QColor(0xf3, 0xf4, 0xf6), QColor(0xff, 0xff, 0xff));
     palette.setColor(QPalette::WindowText, ink);
@@ -39,35 +39,35 @@ QPalette lightPalette() {
 QString lightStyleSheet() {
     return uR"(
         QLineEdit {
-            border: 1px solid #c2c8d0; border-radius: 5px; padding: 3px 7px; min-height: 18px;
-            background: #ffffff; selection-background-color: #2f7de1; selection-color: #ffffff;
+            border: 1px solid #868d97; border-radius: 5px; padding: 3px 7px; min-height: 18px;
+            background: #ffffff; selection-background-color: #2470d3; selection-color: #ffffff;
         }
-        QLineEdit:focus { border: 2px solid #2f7de1; padding: 2px 6px; }
+        QLineEdit:focus { border: 2px solid #2470d3; padding: 2px 6px; }
         QLineEdit:disabled {
-            border-color: #e0e4e9; background: #f6f7f9; color: #8a9098;
+            border-color: #e0e4e9; background: #f6f7f9; color: #676d75;
         }
         QLineEdit[readOnly="true"] { background: #f8f9fb; }
         QComboBox {
-            border: 1px solid #c2c8d0; border-radius: 5px; padding: 3px 7px; min-height: 18px;
+            border: 1px solid #868d97; border-radius: 5px; padding: 3px 7px; min-height: 18px;
             background: #ffffff;
         }
-        QComboBox:hover { border-color: #8fb4e8; }
-        QComboBox:focus { border: 2px solid #2f7de1; padding: 2px 6px; }
+        QComboBox:hover { border-color: #2470d3; }
+        QComboBox:focus { border: 2px solid #2470d3; padding: 2px 6px; }
         QComboBox::drop-down { border: none; width: 26px; }
         QComboBox::down-arrow { image: url(:/skin/down-arrow.png); width: 12px; height: 12px; }
         QPushButton {
-            border: 1px solid #bfc4cb; border-radius: 6px; padding: 5px 16px; min-height: 18px;
+            border: 1px solid #868d97; border-radius: 6px; padding: 5px 16px; min-height: 18px;
             background: #f7f8fa;
         }
-        QPushButton:hover { background: #ffffff; border-color: #8fb4e8; }
+        QPushButton:hover { background: #ffffff; border-color: #2470d3; }
         QPushButton:pressed { background: #e6edf7; }
-        QPushButton:focus { border: 2px solid #2f7de1; padding: 4px 15px; }
-        QPushButton:disabled { border-color: #e0e4e9; color: #9aa0a8; }
+        QPushButton:focus { border: 2px solid #2470d3; padding: 4px 15px; }
+        QPushButton:disabled { border-color: #e0e4e9; color: #676d75; }
         #band QPushButton {
-            border: 1px solid #5e5e5e; padding: 5px 13px; min-height: 28px;
+            border: 1px solid #8f8f8f; padding: 5px 13px; min-height: 28px;
             background: #4a4a4a; color: #f4f4f4;
         }
-        #band QPushButton:hover { background: #5b5b5b; border-color: #7d7d7d; }
+        #band QPushButton:hover { background: #5b5b5b; border-color: #a8a8a8; }
         #band QPushButton:pressed { background: #6a6a6a; }
         #band QPushButton:focus { border: 2px solid #6fb0ff; padding: 4px 12px; }
         #foot { border-top: 1px solid #dfe2e7; background: #ffffff; }
@@ -76,7 +76,7 @@ QString lightStyleSheet() {
         QLabel[role="heading"] { color: #59616b; font-weight: 600; }
         QLabel[role="title"] { font-size: 20px; font-weight: 600; }
         QProgressBar { border: none; border-radius: 4px; background: #e4e7eb; }
-        QProgressBar::chunk { border-radius: 4px; background: #2f7de1; }
+        QProgressBar::chunk { border-radius: 4px; background: #2470d3; }
         QScrollBar:vertical { width: 12px; background: #ffffff; }
         QScrollBar::handle:vertical {
             min-height: 32px; margin: 2px; border-radius: 4px; background: #c9ced6;
