@@ -216,6 +216,18 @@ class LimitsTest : public QObject {
         QVERIFY(answer == valid() || answer == noMemory());
     }
 
+    void aHugeNameInManyPlacesStaysOneName() {
+        const QString file = savedPdf(sharedNames(sized(10'000, 2500)));
+        QCOMPARE(answerTo({file, file}), valid());
+        QCOMPARE(PdfProbe(target()).pageCount(), 2);
+    }
+
+    void aLargePageInManyPlacesStaysOnePage() {
+        const int count = sized(3000, 2000);
+        QCOMPARE(answerTo({savedPdf(repeatedPage(count))}), valid());
+        QCOMPARE(PdfProbe(target()).pageCount(), count);
+    }
+
     void pdfsThatUnfoldAreConvertedOrRefused_data() {
         addColumns();
         addRow("content", unfoldingContent, 4LL << 30, 64 << 20);

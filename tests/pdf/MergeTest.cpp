@@ -327,6 +327,24 @@ class MergeTest : public QObject, protected MergeCase {
         QCOMPARE(pageOf(*document, outlines.getTopLevelOutlines().at(0).getDest()), 0);
     }
 
+    void aPageThatStandsInTheTreeTwiceSharesWhatItHas() {
+        PdfFixture source;
+        source.object(1, "<< /Type /Catalog /Pages 2 0 R >>").pages(4, 1);
+        source.object(2, "<< /Type /Pages /Count 2 /Kids [4 0 R 8 0 R] >>");
+        source.object(8, "<< /Type /Pages /Count 1 /Kids [4 0 R] /Rotate 90 >>");
+        source.object(4, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] /Annots [<< /Subtype "
+                         "/Link /Rect [0 0 9 9] >>] >>");
+        const auto document = opened(merged({saved(source)}));
+        const auto pages = document->getAllPages();
+        QPDFObjectHandle first = pages.at(0);
+        QPDFObjectHandle again = pages.at(1);
+        QVERIFY(first.getKey("/Annots").isIndirect());
+        QCOMPARE(again.getKey("/Annots").getObjGen(), first.getKey("/Annots").getObjGen());
+        QCOMPARE(again.getKey("/MediaBox").unparseResolved(), "[ 0 0 9 9 ]");
+        QVERIFY(!first.hasKey("/Rotate"));
+        QCOMPARE(again.getKey("/Rotate").getIntValue(), 90);
+    }
+
     void pagesBeforeTheFirstLabelAreNumbered() {
         PdfFixture source;
         source.object(1, "<< /Type /Catalog /Pages 2 0 R /PageLabels << /Nums [-1 << >> 1 << /S /r "

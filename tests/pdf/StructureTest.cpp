@@ -120,6 +120,19 @@ class StructureTest : public QObject, protected MergeCase {
         QCOMPARE(PdfProbe(path).info(u"Tagged"_s), u"no"_s);
     }
 
+    void aPageThatStandsInTheTreeTwiceFindsItsElementsTwice() {
+        const PdfFixture once = headingAndText("a", "b");
+        PdfFixture twice = headingAndText("c", "d");
+        twice.object(2, "<< /Type /Pages /Count 2 /Kids [4 0 R 4 0 R] >>");
+        const auto document = mergedDocument({once, twice});
+        for (const std::size_t index : {1U, 2U}) {
+            auto parents =
+                parentsOf(*document, document->getAllPages().at(index), "/StructParents");
+            QCOMPARE(parents.getArrayNItems(), 2);
+            QCOMPARE(parents.getArrayItem(1).getObjGen(), elementAt(*document, {1, 1}).getObjGen());
+        }
+    }
+
     void thePagesOfAllSourcesFindTheirElements() {
         const PdfFixture source = headingAndText("a", "b");
         const auto document = mergedDocument({source, source, source});

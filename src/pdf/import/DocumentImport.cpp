@@ -58,6 +58,21 @@ Warning structureDamaged(std::size_t count) {
                        : u"%1 structure tags are damaged and left out"_s.arg(count)};
 }
 
+/// The copies of pages that the tree names again, each behind its first one.
+std::vector<std::pair<QPDFObjectHandle, QPDFObjectHandle>>
+repeatedPages(const std::vector<SourcePage> &pages, const std::vector<QPDFObjectHandle> &copies) {
+    std::map<QPDFObjGen, std::size_t> first;
+    std::vector<std::pair<QPDFObjectHandle, QPDFObjectHandle>> repeated;
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        const auto &page = pages[i].page;
+        const auto [known, isNew] = first.try_emplace(page.getObjGen(), i);
+        if (page.isIndirect() && !isNew) {
+            repeated.emplace_back(copies[known->second], copies[i]);
+        }
+    }
+    return repeated;
+}
+
 /// Copies the document topic by topic. Pages are made first, since everything refers to them. What
 /// is referred to by name and what has a tree of its own comes before what refers to it: elements,
 /// destinations and names before pages, bookmarks and fields.
@@ -69,6 +84,9 @@ void copyTopics(ImportedDocument &imported, QPDF &source, QPDF &target, const So
     imported.destinations = importDestinations(source, names, copier);
     imported.nameTrees = importNameTrees(source, names, copier);
     imported.pages = copier.fillPages(found.pages);
+    if (!imported.structure.content.empty()) {
+        imported.structure.repeatedPages = repeatedPages(found.pages, imported.pages);
+    }
     imported.bookmarks = importBookmarks(source, copier);
     imported.pageLabels = importPageLabels(source, imported.pages.size(), copier);
     imported.form = importForm(source, found.pages, copier);

@@ -4,6 +4,7 @@
 
 #include "pdf/import/Entries.h"
 #include "pdf/import/FieldTree.h"
+#include "pdf/import/SourceNames.h"
 
 #include <qpdf/BufferInputSource.hh>
 #include <qpdf/QPDF.hh>
@@ -68,7 +69,7 @@ QPDFObjectHandle renamedField(QPDFObjectHandle name, const Renames &renames) {
     if (!name.isString()) {
         return name;
     }
-    const std::string text = name.getUTF8Value();
+    const std::string text = shortened(name).getUTF8Value();
     // A damaged form may have a name with a dot.
     const auto top = renames.contains(text) ? text.size() : std::min(text.find('.'), text.size());
     const auto found = renames.find(text.substr(0, top));

@@ -5,6 +5,7 @@
 #include "pdf/import/Entries.h"
 #include "pdf/import/FieldTree.h"
 #include "pdf/import/FreeName.h"
+#include "pdf/import/SourceNames.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -40,7 +41,7 @@ namedFields(const std::vector<QPDFObjectHandle> &roots) {
     visitFields(roots, [&](QPDFObjectHandle field) {
         auto name = field.getKey("/T");
         if (name.isString()) {
-            fields.emplace_back(name.getUTF8Value(), field);
+            fields.emplace_back(shortened(name).getUTF8Value(), field);
         }
         return !name.isString();
     });

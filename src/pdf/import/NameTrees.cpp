@@ -70,9 +70,8 @@ ImportedNameTrees importNameTrees(QPDF &source, SourceNames &names, ObjectCopier
         for (const auto &[name, object] : entries) {
             auto copied = copier.copy(object);
             if (!copied.isNull()) {
-                imported[key].emplace_back(isScripts ? QPDFObjectHandle(name).shallowCopy()
-                                                     : names.nextKey(key, name),
-                                           copied);
+                imported[key].emplace_back(
+                    isScripts ? shortened(name).shallowCopy() : names.nextKey(key, name), copied);
             }
         }
     }

@@ -77,7 +77,12 @@ void ObjectCopier::fillPage(const SourcePage &source, QPDFObjectHandle target) {
     auto entries = QPDFObjectHandle(source.page).getDictAsMap();
     entries.erase("/Parent");
     entries["/Type"] = QPDFObjectHandle::newName("/Page");
-    copyEntries(entries, target);
+    auto first = known(source.page);
+    if (first.isNull() || first.isSameObjectAs(target)) {
+        copyEntries(entries, target);
+    } else {
+        shareEntries(entries, first, target);
+    }
     for (const auto &[key, inherited] : *source.inherited) {
         if (!target.hasKey(key)) {
             target.replaceKey(key, copyInherited(inherited));
@@ -86,6 +91,20 @@ void ObjectCopier::fillPage(const SourcePage &source, QPDFObjectHandle target) {
     if (!target.hasKey("/MediaBox")) {
         // Readers show a page without one in US letter size.
         target.replaceKey("/MediaBox", QPDFObjectHandle::parse("[0 0 612 792]"));
+    }
+}
+
+/// Gives a page that is in the tree again all that its first copy has of its own `entries`, since a
+/// small file may name a large page any number of times.
+void ObjectCopier::shareEntries(const Dictionary &entries, QPDFObjectHandle first,
+                                QPDFObjectHandle target) {
+    for (const auto &[key, ignored] : entries) {
+        auto value = first.getKey(key);
+        if (!value.isIndirect() && (value.isArray() || value.isDictionary())) {
+            value = m_target.makeIndirectObject(value);
+            first.replaceKey(key, value);
+        }
+        target.replaceKey(key, value);
     }
 }
 

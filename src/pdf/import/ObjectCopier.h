@@ -84,6 +84,7 @@ class ObjectCopier {
     };
 
     void fillPage(const SourcePage &source, QPDFObjectHandle target);
+    void shareEntries(const Dictionary &entries, QPDFObjectHandle first, QPDFObjectHandle target);
     QPDFObjectHandle copyInherited(const InheritedValue &inherited);
     QPDFObjectHandle copyIndirect(QPDFObjectHandle object);
     QPDFObjectHandle reserveStream(QPDFObjectHandle object);

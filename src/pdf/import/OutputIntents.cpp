@@ -5,6 +5,7 @@
 #include "pdf/BoundedBuffer.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/ObjectCopier.h"
+#include "pdf/import/SourceNames.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -43,7 +44,7 @@ std::optional<QByteArray> meaningOf(const std::vector<QPDFObjectHandle> &intents
         // Whoever embeds a profile may call it as he likes.
         auto what = profile.isStream() ? hashOf(profile)
                     : condition.isString()
-                        ? std::optional(QByteArray::fromStdString(condition.getUTF8Value()))
+                        ? std::optional(QByteArray::fromStdString(nameText(condition)))
                         : std::nullopt;
         if (!what) {
             return std::nullopt;

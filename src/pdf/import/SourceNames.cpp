@@ -12,6 +12,9 @@ namespace {
 /// What cannot be decoded reads as this.
 constexpr const char *kReplacement = "\xEF\xBF\xBD";
 
+/// Bytes of a name. Even, so that no unit of UTF-16 is cut in two.
+constexpr std::size_t kMaxNameLength = 1000;
+
 /// A file's name without its extension, short enough to become a part of another file's.
 std::string shortName(const QString &path) {
     constexpr qsizetype kMaxLength = 60;
@@ -36,12 +39,24 @@ QPDFObjectHandle called(const std::string &text, QPDFObjectHandle name) {
 
 } // namespace
 
-std::string nameText(QPDFObjectHandle name) {
-    if (name.isName()) {
-        return name.getName().substr(1);
+QPDFObjectHandle shortened(const QPDFObjectHandle &name) {
+    QPDFObjectHandle whole = name;
+    const std::string bytes = whole.isName() ? whole.getName() : whole.getStringValue();
+    if (bytes.size() <= kMaxNameLength) {
+        return whole;
     }
-    std::string text = name.getUTF8Value();
-    return text.find(kReplacement) == std::string::npos ? text : name.getStringValue();
+    const std::string beginning = bytes.substr(0, kMaxNameLength);
+    return whole.isName() ? QPDFObjectHandle::newName(beginning)
+                          : QPDFObjectHandle::newString(beginning);
+}
+
+std::string nameText(const QPDFObjectHandle &name) {
+    auto used = shortened(name);
+    if (used.isName()) {
+        return used.getName().substr(1);
+    }
+    std::string text = used.getUTF8Value();
+    return text.find(kReplacement) == std::string::npos ? text : used.getStringValue();
 }
 
 void TakenNames::add(const GivenNames &names) {
@@ -93,7 +108,7 @@ QPDFObjectHandle SourceNames::renamed(const std::string &table, QPDFObjectHandle
             ? known->second
             : give(table, text,
                    m_taken.contains(table, text) || m_given.tables[table].contains(text));
-    return unique == text ? name.shallowCopy() : called(unique, name);
+    return unique == text ? shortened(name).shallowCopy() : called(unique, name);
 }
 
 QPDFObjectHandle SourceNames::nextKey(const std::string &table, const QPDFObjectHandle &name) {

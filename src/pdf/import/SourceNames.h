@@ -20,9 +20,13 @@ inline constexpr const char *kDestinations = "/Dests"; ///< Also the names of th
 inline constexpr const char *kAttachments = "/EmbeddedFiles";
 inline constexpr const char *kFileNames = "/UF"; ///< Under which attachments are saved.
 
+/// A name or a string, or the beginning of one that is longer than any writer's, of a thousand
+/// bytes: a file may use a huge one, which stands in it once, in any number of places.
+QPDFObjectHandle shortened(const QPDFObjectHandle &name);
+
 /// The text of a name or a string, equal for those that readers take for the same: UTF-8, or the
-/// bytes of what cannot be decoded.
-std::string nameText(QPDFObjectHandle name);
+/// bytes of what cannot be decoded. Shortened.
+std::string nameText(const QPDFObjectHandle &name);
 
 /// The names that a source has in the document that is made, by table.
 struct GivenNames {

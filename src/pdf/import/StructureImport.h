@@ -45,8 +45,11 @@ struct ImportedStructure {
     Elements withClass;                                          ///< Elements with /C.
     Elements withAttributes;                                     ///< Elements with /A.
     std::vector<std::pair<std::string, QPDFObjectHandle>> named; ///< Elements with /ID.
-    std::size_t elements = 0;                                    ///< How many the whole tree has.
-    std::size_t damaged = 0; ///< Kids of elements that are none, or whose page is missing.
+    /// Pages that are in the page tree again: the copy of which `content` tells, and the further
+    /// one.
+    std::vector<std::pair<QPDFObjectHandle, QPDFObjectHandle>> repeatedPages;
+    std::size_t elements = 0; ///< How many the whole tree has.
+    std::size_t damaged = 0;  ///< Kids of elements that are none, or whose page is missing.
 };
 
 /// Copies the structure tree of `source` from its root down, without recursion and each element

@@ -62,6 +62,11 @@ void putParentTree(QPDF &document, const std::vector<ImportedStructure> &trees,
             add(object, "/StructParent", [&parent = element] { return parent; });
         }
     }
+    for (const ImportedStructure &tree : trees) {
+        for (auto [page, again] : tree.repeatedPages) {
+            again.replaceKey("/StructParents", page.getKey("/StructParents"));
+        }
+    }
     root.replaceKey("/ParentTree", buildTree(document, entries, "/Nums"));
     root.replaceKey("/ParentTreeNextKey",
                     QPDFObjectHandle::newInteger(static_cast<long long>(entries.size())));

@@ -4,6 +4,7 @@
 
 #include "pdf/import/Entries.h"
 #include "pdf/import/FreeName.h"
+#include "pdf/import/SourceNames.h"
 #include "pdf/import/TreeEntries.h"
 
 #include <qpdf/QPDF.hh>
@@ -144,7 +145,7 @@ RoleMeanings meaningsOf(const ImportedStructure &tree) {
             if (!meaning.isName()) {
                 break;
             }
-            role = meaning.getName();
+            role = shortened(meaning).getName(); // Roles may share one.
         }
         const auto known = meanings.find(role);
         const std::string meaning = known == meanings.end() ? role : known->second;

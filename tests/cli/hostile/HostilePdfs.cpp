@@ -229,6 +229,42 @@ QByteArray doublingNames(qint64 nodes) {
     return fixture.bytes();
 }
 
+QByteArray sharedNames(qint64 count) {
+    constexpr int kFirst = 10; // Two objects for each use.
+    const QByteArray name(1 << 20, 'n');
+    QByteArray files;
+    QByteArray fields;
+    QByteArray destinations;
+    QByteArray intents;
+    QByteArray roles;
+    for (qint64 i = 0; i < count; ++i) {
+        files += number(kFirst + 2 * i) + " 0 R ";
+        fields += number(kFirst + 2 * i + 1) + " 0 R ";
+        destinations += "4 0 R [3 0 R /XYZ 0 " + number(i) + " 0] ";
+        intents += "<< /S /GTS_PDFX /OutputConditionIdentifier 4 0 R >> ";
+        roles += "/R" + number(i) + " 5 0 R ";
+    }
+    PdfFixture fixture =
+        onePage({}, "/AF [" + files + "] /AcroForm << /Fields [" + fields +
+                        "] >> /Names << /Dests << /Names [" + destinations +
+                        "] >> >> /OutputIntents [" + intents + "] /StructTreeRoot << /RoleMap << " +
+                        roles + " >> /K << /S /R1 /K 0 /Pg 3 0 R >> >>");
+    fixture.object(4, '(' + name + ')').object(5, '/' + name).stream(6, {}, "data");
+    for (int i = 0; i < static_cast<int>(count); ++i) {
+        fixture.object(kFirst + 2 * i, "<< /Type /Filespec /F 4 0 R /EF << /F 6 0 R >> >>");
+        fixture.object(kFirst + 2 * i + 1, "<< /FT /Tx /T 4 0 R >>");
+    }
+    return fixture.bytes();
+}
+
+QByteArray repeatedPage(qint64 count) {
+    PdfFixture fixture = onePage(
+        "/Annots [" + QByteArray("<< /Subtype /Link /Rect [0 0 9 9] >> ").repeated(count) + "]");
+    fixture.object(2, "<< /Type /Pages /Kids [" + QByteArray("3 0 R ").repeated(count) +
+                          "] /Count " + number(count) + " >>");
+    return fixture.bytes();
+}
+
 QByteArray unfoldingContent(qint64 count) {
     return onePage("/Contents 4 0 R /Resources << /XObject << /A 5 0 R >> >>")
         .stream(4, "/Filter [/FlateDecode /FlateDecode]", twiceInFlate(count))

@@ -23,6 +23,11 @@ QByteArray manyEntries(qint64 count);
 QList<std::pair<const char *, QByteArray>> circles();
 /// A name tree of `depth` nodes, each of which stands twice in the one above: 2^depth ways down.
 QByteArray doublingNames(qint64 depth);
+/// A page with `count` files, fields, destinations, roles and output intents that all have one name
+/// of a megabyte.
+QByteArray sharedNames(qint64 count);
+/// A page with `count` annotations that is in the page tree `count` times.
+QByteArray repeatedPage(qint64 count);
 
 /// A page whose content unfolds to `count` bytes, through Flate and once more through Flate.
 QByteArray unfoldingContent(qint64 count);
