@@ -51,6 +51,7 @@ PDFOutcome Run::createPDF(std::size_t firstEntry, const QString &path,
                           ConversionObserver &observer) {
     PDFOutcome outcome = writePDF(firstEntry, path, observer);
     noteProblem(path, outcome.problem());
+    count(outcome);
     Warnings &ofDocument = outcome.close.warnings;
     if (!m_documentWarned && !outcome.entries.empty()) {
         std::ranges::copy(ofDocument, std::back_inserter(outcome.entries.front().warnings));
@@ -58,6 +59,18 @@ PDFOutcome Run::createPDF(std::size_t firstEntry, const QString &path,
     }
     ofDocument.clear();
     return outcome;
+}
+
+void Run::count(const PDFOutcome &outcome) {
+    if (!outcome.isWritten()) {
+        ++m_summary.failedPDFs;
+        return;
+    }
+    ++m_summary.madePDFs;
+    m_summary.pages += outcome.pages();
+    m_summary.lastPath = outcome.close.path;
+    m_summary.failedEntries +=
+        static_cast<int>(std::ranges::count(outcome.entries, false, &EntryOutcome::written));
 }
 
 PDFOutcome Run::writePDF(std::size_t firstEntry, const QString &path,

@@ -27,6 +27,17 @@ struct RunResult {
     std::optional<CompressionOutcome> compression; ///< Nothing where no pass ran.
 };
 
+/// How a run has gone so far.
+struct RunSummary {
+    int madePDFs = 0;
+    int failedPDFs = 0;
+    int failedEntries = 0; ///< Of PDFs that were made without them.
+    int pages = 0;         ///< Of all PDFs that were made.
+    QString lastPath;      ///< Of the last PDF that was made.
+
+    [[nodiscard]] bool hasFailures() const { return failedPDFs > 0 || failedEntries > 0; }
+};
+
 /// Hears how a run goes.
 class RunObserver : public ConversionObserver {
   public:
@@ -78,6 +89,8 @@ class Run {
                                               ConversionObserver &observer, Flush flush);
     /// Puts the copy of the pass in place, as the function of this name.
     void compressCompleted(const ConvertInfo &convertInfo);
+    /// What the steps so far have made.
+    [[nodiscard]] const RunSummary &summary() const { return m_summary; }
     /// What went wrong with whole PDFs in the steps so far: one notice for all of them.
     [[nodiscard]] std::optional<Notice> problems() const;
 
@@ -87,6 +100,7 @@ class Run {
                                                      ConversionObserver &observer);
     [[nodiscard]] PDFOutcome writePDF(std::size_t firstEntry, const QString &path,
                                       ConversionObserver &observer) const;
+    void count(const PDFOutcome &outcome);
     void noteProblem(const QString &path, const QString &problem);
 
     std::vector<PDFFileInfo> m_entries;
@@ -96,6 +110,7 @@ class Run {
     AbandonedParts m_clearing;
     bool m_documentWarned = false; ///< A warning of a document was handed over.
     QStringList m_problems;        ///< Lines of problems().
+    RunSummary m_summary;
 };
 
 } // namespace folioforge

@@ -2,6 +2,7 @@
 
 #include "mainwnd/MainWndCtrl.h"
 
+#include "mainwnd/Desktop.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
@@ -120,6 +121,7 @@ void MainWndCtrl::initCtrl() {
     m_btnCreate->setEnabled(false);
     m_btnRemove->setEnabled(false);
     connectControls();
+    connectAnswer();
 }
 
 void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
@@ -168,6 +170,19 @@ void MainWndCtrl::connectControls() {
     connect(m_mtxTextPageSizeMode, &QButtonGroup::buttonToggled, this, &Self::clickMtxTextPageSize);
     connect(m_mtxImagePageSizeMode, &QButtonGroup::buttonToggled, this,
             &Self::clickMtxImagePageSize);
+}
+
+/// What the answer of a run says holds for the list of that run.
+void MainWndCtrl::connectAnswer() {
+    connect(m_answer, &RunAnswer::openAsked, this,
+            [this](const QString &path) { m_services.desktop.openFile(path); });
+    connect(m_answer, &RunAnswer::folderAsked, this,
+            [this](const QString &folder) { m_services.desktop.openFile(folder); });
+    connect(m_answer, &RunAnswer::failuresAsked, this, &MainWndCtrl::showFailures);
+    for (const auto change : {&FilesArray::rowsInserted, &FilesArray::rowsRemoved}) {
+        connect(m_filesArray.get(), change, m_answer, &QWidget::hide);
+    }
+    connect(m_filesArray.get(), &FilesArray::modelReset, m_answer, &QWidget::hide);
 }
 
 void MainWndCtrl::observeNotifications() {

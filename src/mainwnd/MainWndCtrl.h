@@ -165,6 +165,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void windowDidLoad();
     void initCtrl();
     void connectControls();
+    void connectAnswer();
     void observeNotifications();
     void showNotice(const Notice &notice);
     bool passes(const std::optional<Notice> &problem);
@@ -197,6 +198,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void entryDone(int row, bool written);
     void PDFCreated(const PDFOutcome &outcome);
     void showRemarks(const PDFOutcome &outcome);
+    void showFailures();
     void endRun();
     void startWorker(std::function<void(ConversionObserver &)> work);
     /// Queues `work` without waiting; it is dropped when the controller goes first.

@@ -20,6 +20,7 @@ void MainWndCtrl::clickBtnCreate() {
     m_run.emplace(m_filesArray->entries(), std::move(options), m_services.bundlePath,
                   m_stop.get_token());
     m_fileIndex = 0;
+    m_answer->hide();
     m_filesArray->setStateIndexOfAll(Waiting);
     m_bConverting = true;
     showAlertView();
@@ -108,6 +109,7 @@ void MainWndCtrl::compressCompleted() {
 void MainWndCtrl::endRun() {
     m_bConverting = false;
     const std::optional<Notice> problems = m_run->problems();
+    m_answer->show(m_run->summary());
     m_run.reset();
     m_prgCreate->hide();
     m_lbProgress->hide();

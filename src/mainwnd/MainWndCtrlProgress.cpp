@@ -90,4 +90,18 @@ void MainWndCtrl::showRemarks(const PDFOutcome &outcome) {
     }
 }
 
+/// Selects the entries that are in no PDF: the others have another state after a run.
+void MainWndCtrl::showFailures() {
+    m_tableview->clearSelection();
+    for (int row = 0; row < m_filesArray->count(); ++row) {
+        if (m_filesArray->at(row).stateIndex() == Waiting) {
+            const QModelIndex first = m_filesArray->index(row, FilesArray::NumberColumn);
+            m_tableview->selectionModel()->select(first, QItemSelectionModel::Select |
+                                                             QItemSelectionModel::Rows);
+        }
+    }
+    m_tableview->scrollTo(m_filesArray->index(m_tableview->selectedRow(), 0));
+    m_tableview->setFocus();
+}
+
 } // namespace folioforge

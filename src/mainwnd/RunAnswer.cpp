@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "mainwnd/RunAnswer.h"
+
+#include "files/Printable.h"
+
+#include <QAccessible>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+namespace {
+
+QString counted(int count, const QString &one, const QString &several) {
+    return count == 1 ? one : several.arg(count);
+}
+
+/// "book.pdf made, 210 pages, 3.4 MB".
+QString onePdf(const RunSummary &summary) {
+    const QFileInfo file(summary.lastPath);
+    return RunAnswer::tr("%1 made, %2, %3")
+        .arg(printable(file.fileName()),
+             counted(summary.pages, RunAnswer::tr("1 page"), RunAnswer::tr("%1 pages")),
+             QLocale().formattedDataSize(file.size(), 1, QLocale::DataSizeSIFormat));
+}
+
+/// How many PDFs, or how many files of a merged one, are missing.
+QString failuresOf(const RunSummary &summary) {
+    if (summary.failedEntries > 0) {
+        return counted(summary.failedEntries, RunAnswer::tr("1 file could not be added"),
+                       RunAnswer::tr("%1 files could not be added"));
+    }
+    return counted(summary.failedPDFs, RunAnswer::tr("1 could not be"),
+                   RunAnswer::tr("%1 could not be"));
+}
+
+QString inWords(const RunSummary &summary) {
+    if (summary.madePDFs == 0) {
+        return summary.failedPDFs == 1 ? RunAnswer::tr("The PDF could not be made")
+                                       : RunAnswer::tr("No PDF could be made");
+    }
+    const QString made =
+        summary.madePDFs + summary.failedPDFs == 1
+            ? onePdf(summary)
+            : counted(summary.madePDFs, RunAnswer::tr("1 PDF made"), RunAnswer::tr("%1 PDFs made"));
+    return summary.hasFailures() ? made + u", "_s + failuresOf(summary) : made;
+}
+
+} // namespace
+
+RunAnswer::RunAnswer(QWidget *parent)
+    : QWidget(parent)
+    , m_label(new QLabel) {
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    m_label->setTextFormat(Qt::PlainText);
+    m_label->setObjectName(u"answerText"_s);
+    row->addWidget(m_label);
+    m_open = addButton(tr("Open"), tr("Open the PDF"));
+    m_folder = addButton(tr("Show in folder"), tr("Open the folder of the PDF documents"));
+    m_failures = addButton(tr("Show"), tr("Select the files that are in no PDF"));
+    row->addStretch();
+    connect(m_open, &QPushButton::clicked, this, [this] { Q_EMIT openAsked(m_path); });
+    connect(m_folder, &QPushButton::clicked, this,
+            [this] { Q_EMIT folderAsked(QFileInfo(m_path).path()); });
+    connect(m_failures, &QPushButton::clicked, this, &RunAnswer::failuresAsked);
+    // Its room stays free, so that nothing moves when it comes.
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    policy.setHorizontalPolicy(QSizePolicy::Ignored);
+    setSizePolicy(policy);
+    hide();
+}
+
+QPushButton *RunAnswer::addButton(const QString &label, const QString &toolTip) {
+    auto *button = new QPushButton(label);
+    button->setToolTip(toolTip);
+    button->setAccessibleName(label);
+    layout()->addWidget(button);
+    return button;
+}
+
+void RunAnswer::show(const RunSummary &summary) {
+    m_text = inWords(summary);
+    m_path = summary.lastPath;
+    const bool isOne = summary.madePDFs == 1;
+    m_open->setVisible(isOne);
+    m_folder->setVisible(summary.madePDFs > 0);
+    m_failures->setVisible(summary.hasFailures());
+    m_label->setToolTip(m_text);
+    setVisible(true);
+    elide();
+    m_label->setAccessibleName(m_text);
+    QAccessibleEvent event(m_label, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+QString RunAnswer::text() const {
+    return isHidden() ? QString() : m_text;
+}
+
+void RunAnswer::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    elide();
+}
+
+/// The buttons keep their room; a long name gives way.
+void RunAnswer::elide() {
+    int room = width();
+    for (const QPushButton *button : {m_open, m_folder, m_failures}) {
+        room -= button->isHidden() ? 0 : button->sizeHint().width() + layout()->spacing();
+    }
+    m_label->setText(m_label->fontMetrics().elidedText(m_text, Qt::ElideMiddle, room));
+}
+
+} // namespace folioforge
