@@ -257,6 +257,29 @@ class StructureTest : public QObject, protected MergeCase {
         QCOMPARE(structureText(mergedPath({damaged})), structureText(saved(whole)));
     }
 
+    void whatTheRootRefersToInItsOwnTreeCostsNoElement_data() {
+        QTest::addColumn<QByteArray>("keys");
+        QTest::addColumn<QStringList>("said");
+        const QStringList one{u"structure-damaged: 1 structure tag is damaged and left out"_s};
+        QTest::newRow("role") << QByteArray("/RoleMap << /R 11 0 R /S /P >>") << one;
+        QTest::newRow("class") << QByteArray("/ClassMap << /C 11 0 R >>") << QStringList();
+        QTest::newRow("file") << QByteArray("/AF [11 0 R]") << QStringList();
+        QTest::newRow("namespace") << QByteArray("/Namespaces [11 0 R]") << QStringList();
+    }
+    void whatTheRootRefersToInItsOwnTreeCostsNoElement() {
+        QFETCH(QByteArray, keys);
+        QFETCH(QStringList, said);
+        const auto withoutType = [](PdfFixture fixture) {
+            return fixture.object(11, "<< /S /Document /P 10 0 R /K [12 0 R 13 0 R] >>");
+        };
+        const PdfFixture damaged = withoutType(headingAndText("a", "b", keys));
+        const QString whole = structureText(saved(withoutType(headingAndText("a", "b"))));
+        QVERIFY(whole.contains(u"\"b\""_s));
+        QCOMPARE(this->said(damaged), said);
+        QCOMPARE(structureText(mergedPath({damaged})), whole);
+        QCOMPARE(structureText(mergedPath({damaged}, true)), whole);
+    }
+
     void anElementWithoutATypeKeepsWhatIsUnderIt() {
         const PdfFixture source = headingAndText("a", "b").object(
             11, "<< /Type /StructElem /P 10 0 R /K [12 0 R 13 0 R] >>");

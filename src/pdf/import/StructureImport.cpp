@@ -59,7 +59,8 @@ class StructureWalk {
         QPDFObjectHandle page; ///< Of the element above it, in the copy; null where none.
     };
 
-    void copyRoot(QPDFObjectHandle root);
+    void readRoles(const QPDFObjectHandle &roleMap);
+    void copyProperties(QPDFObjectHandle root);
     void fill(const Open &open);
     void fillReferences();
     void note(Dictionary &members, const QPDFObjectHandle &target);
@@ -83,28 +84,39 @@ class StructureWalk {
 };
 
 ImportedStructure StructureWalk::walk(QPDFObjectHandle catalog) {
+    m_structure.properties = QPDFObjectHandle::newNull();
+    auto root = catalog.getKey("/StructTreeRoot");
+    if (root.isDictionary()) {
+        readRoles(root.getKey("/RoleMap"));
+        const Open none{{}, {}, QPDFObjectHandle::newNull()};
+        copyKids(root.getKey("/K"), none, m_structure.kids);
+        while (!m_open.empty()) {
+            const Open open = m_open.back();
+            m_open.pop_back();
+            fill(open);
+        }
+        fillReferences();
+        copyProperties(root);
+    }
     m_structure.markInfo = m_copier.copy(catalog.getKey("/MarkInfo"));
     m_structure.language = m_copier.copy(catalog.getKey("/Lang"));
     m_structure.marked = isTrue(entry(m_structure.markInfo, "/Marked"));
-    m_structure.properties = QPDFObjectHandle::newNull();
-    auto root = catalog.getKey("/StructTreeRoot");
-    if (!root.isDictionary()) {
-        return std::move(m_structure);
-    }
-    copyRoot(root);
-    while (!m_open.empty()) {
-        const Open open = m_open.back();
-        m_open.pop_back();
-        fill(open);
-    }
-    fillReferences();
     return std::move(m_structure);
 }
 
-void StructureWalk::copyRoot(QPDFObjectHandle root) {
-    for (const auto &[role, meaning] : membersOf(root.getKey("/RoleMap"))) {
-        m_structure.roleMap.emplace(role, m_copier.copy(meaning));
+void StructureWalk::readRoles(const QPDFObjectHandle &roleMap) {
+    for (const auto &[role, meaning] : membersOf(roleMap)) {
+        if (QPDFObjectHandle(meaning).isName()) {
+            m_structure.roleMap.emplace(role, m_copier.copy(meaning));
+        } else {
+            ++m_structure.damaged;
+        }
     }
+}
+
+/// What the root holds beside the tree. It comes behind the tree, of which no element may be copied
+/// by anything that refers to it.
+void StructureWalk::copyProperties(QPDFObjectHandle root) {
     for (const auto &[name, attributes] : membersOf(root.getKey("/ClassMap"))) {
         m_structure.classMap.emplace(name, m_copier.copy(attributes));
     }
@@ -115,8 +127,6 @@ void StructureWalk::copyRoot(QPDFObjectHandle root) {
             m_structure.properties.replaceKey(key, m_copier.copy(value));
         }
     }
-    const Open none{{}, {}, QPDFObjectHandle::newNull()};
-    copyKids(root.getKey("/K"), none, m_structure.kids);
 }
 
 /// Keeps what the merging of several trees asks for.
