@@ -2,6 +2,7 @@
 
 #include "mainwnd/SkinTableView.h"
 
+#include "mainwnd/ColumnWidths.h"
 #include "mainwnd/FilesArray.h"
 
 #include <QApplication>
@@ -23,10 +24,6 @@ namespace folioforge {
 namespace {
 
 constexpr int kRowHeight = 26;
-constexpr int kNumberWidth = 52;
-constexpr int kSizeWidth = 110;
-constexpr int kDestinationWidth = 160;
-constexpr int kMinNameWidth = 120;
 constexpr int kDropLineWidth = 2;
 constexpr double kFocusWidth = 1.5;
 
@@ -43,7 +40,8 @@ bool asksToOpen(const QKeyEvent &key) {
 } // namespace
 
 SkinTableView::SkinTableView(QWidget *parent)
-    : QTableView(parent) {
+    : QTableView(parent)
+    , m_columns(new ColumnWidths(*this)) {
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -329,15 +327,7 @@ void SkinTableView::paintDropLine(QPainter &painter) const {
 
 void SkinTableView::resizeEvent(QResizeEvent *event) {
     QTableView::resizeEvent(event);
-    layOutColumns();
-}
-
-void SkinTableView::layOutColumns() {
-    setColumnWidth(FilesArray::NumberColumn, kNumberWidth);
-    setColumnWidth(FilesArray::SizeColumn, kSizeWidth);
-    setColumnWidth(FilesArray::DestinationColumn, kDestinationWidth);
-    const int rest = viewport()->width() - kNumberWidth - kSizeWidth - kDestinationWidth;
-    setColumnWidth(FilesArray::NameColumn, std::max(rest, kMinNameWidth));
+    m_columns->layOut();
 }
 
 } // namespace folioforge

@@ -11,6 +11,8 @@ class QMimeData;
 
 namespace folioforge {
 
+class ColumnWidths;
+
 /// What the file table asks of its controller, and the commands that it hands on.
 class SkinTableViewDelegate {
   public:
@@ -89,9 +91,9 @@ class SkinTableView : public QTableView {
     void paintDropLine(QPainter &painter) const;
     void paintFocus(QPainter &painter) const;
     void paintHint(QPainter &painter) const;
-    void layOutColumns();
 
     SkinTableViewDelegate *m_delegate = nullptr;
+    ColumnWidths *m_columns; ///< A child.
     std::optional<int> m_dropRow;
 };
 

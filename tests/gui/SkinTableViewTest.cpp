@@ -54,6 +54,27 @@ QList<bool> drop(SkinTableView &table, const QMimeData &data, const QPoint &posi
             end.isAccepted() && end.dropAction() == Qt::CopyAction};
 }
 
+QList<int> widthsOf(const TableWindow &w) {
+    QList<int> widths;
+    for (int column = 0; column < FilesArray::ColumnCount; ++column) {
+        widths += w.table->columnWidth(column);
+    }
+    return widths;
+}
+
+/// Drags the right edge of a column with the mouse, in steps as a hand does.
+void dragEdge(const TableWindow &w, int column, int by) {
+    const QHeaderView &header = *w.table->horizontalHeader();
+    QWidget *area = header.viewport();
+    const int x = header.sectionViewportPosition(column) + header.sectionSize(column) - 1;
+    const int y = area->height() / 2;
+    QTest::mouseMove(area, {x, y});
+    QTest::mousePress(area, Qt::LeftButton, {}, {x, y});
+    QTest::mouseMove(area, {x + by / 2, y});
+    QTest::mouseMove(area, {x + by, y});
+    QTest::mouseRelease(area, Qt::LeftButton, {}, {x + by, y});
+}
+
 } // namespace
 
 class SkinTableViewTest : public QObject {
@@ -285,6 +306,45 @@ class SkinTableViewTest : public QObject {
         const int before = w.table->columnWidth(1);
         w.window.resize(900, 300);
         QTRY_COMPARE(w.table->columnWidth(1), before + 200);
+    }
+
+    void anEdgeThatIsDraggedStaysThere_data() {
+        QTest::addColumn<int>("column");
+        QTest::addColumn<int>("by");
+        QTest::addColumn<QList<int>>("moved");
+        QTest::newRow("names wider") << 1 << 30 << QList<int>{0, 30, -30, 0};
+        QTest::newRow("names narrower") << 1 << -50 << QList<int>{0, -50, 50, 0};
+        QTest::newRow("numbers wider") << 0 << 20 << QList<int>{20, -20, 0, 0};
+        QTest::newRow("as wide as the next column allows")
+            << 2 << 500 << QList<int>{0, 0, 120, -120};
+        QTest::newRow("the end of the list") << 3 << -40 << QList<int>{0, 0, 0, 0};
+    }
+    void anEdgeThatIsDraggedStaysThere() {
+        QFETCH(const int, column);
+        QFETCH(const int, by);
+        QFETCH(const QList<int>, moved);
+        TableWindow w(1);
+        const QList<int> before = widthsOf(w);
+        dragEdge(w, column, by);
+        const QList<int> after = widthsOf(w);
+        for (int i = 0; i < after.size(); ++i) {
+            QCOMPARE(after[i] - before[i], moved[i]);
+        }
+    }
+
+    void columnsKeepTheirSharesInAnotherWindow() {
+        TableWindow w(1);
+        dragEdge(w, 1, -100);
+        const QList<int> before = widthsOf(w);
+        const int room = w.table->viewport()->width();
+        w.window.resize(2 * w.window.width(), 300);
+        QTRY_VERIFY(w.table->viewport()->width() > room);
+        const double larger = double(w.table->viewport()->width()) / room;
+        const QList<int> after = widthsOf(w);
+        for (int i = 0; i < after.size(); ++i) {
+            QVERIFY(std::abs(after[i] - before[i] * larger) <= 1);
+        }
+        QCOMPARE(w.table->horizontalHeader()->length(), w.table->viewport()->width());
     }
 
     void theTabKeyLeavesTheTable() {
