@@ -38,6 +38,11 @@ void *operator new(std::size_t size) {
     return memory;
 }
 
+// What the library allocates this way it frees by the functions below.
+void *operator new(std::size_t size, const std::nothrow_t & /*nothrow*/) noexcept {
+    return std::malloc(size == 0 ? 1 : size);
+}
+
 void operator delete(void *memory) noexcept {
     std::free(memory);
 }
