@@ -289,6 +289,13 @@ class NamesTest : public QObject, protected MergeCase {
         QCOMPARE(namesIn(*opened(merged({path}, true)), "/JavaScript").join(','), "1 b,2 a,3 a");
     }
 
+    void scriptsThatAreNotInTheOrderOfTheirNamesStayInTheirs() {
+        const QString path =
+            saved(withNames("/JavaScript", "(b) << /S /JavaScript /JS (1) >> (a) << /S /JavaScript "
+                                           "/JS (2) >> (c) << /S /JavaScript /JS (3) >>"));
+        QCOMPARE(namesIn(*opened(merged({path}, true)), "/JavaScript").join(','), "1 b,2 a,3 c");
+    }
+
     void elevenScriptsStayInTheirOrder() {
         QByteArray names;
         for (char name = 'a'; name < 'l'; ++name) {

@@ -11,8 +11,8 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <iterator>
-#include <set>
 #include <string_view>
 
 namespace folioforge {
@@ -44,10 +44,11 @@ NamedObjects numberedScripts(const std::vector<TreeEntries> &sources) {
 
 /// Whether numbers are needed to keep all scripts and their order.
 bool needNumbers(const std::vector<TreeEntries> &sources) {
-    std::set<std::string> names;
-    return sources.size() > 1 || std::ranges::any_of(sources.front(), [&](const auto &named) {
-               return !names.insert(QPDFObjectHandle(named.first).getStringValue()).second;
-           });
+    const auto nameOf = [](const auto &named) {
+        return QPDFObjectHandle(named.first).getStringValue();
+    };
+    return sources.size() > 1 || std::ranges::adjacent_find(sources.front(), std::greater_equal(),
+                                                            nameOf) != sources.front().end();
 }
 
 } // namespace

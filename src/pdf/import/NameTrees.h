@@ -29,7 +29,8 @@ ImportedNameTrees importNameTrees(QPDF &source, SourceNames &names, ObjectCopier
 NamedObjects furtherNames(QPDF &source);
 
 /// The name trees of the document that is made. Document scripts run in the order of their names:
-/// where several sources have some or names repeat, a number puts them in their order.
+/// where several sources have some, or their names repeat or are not in order, a number puts them
+/// in the order of their tree.
 class NameTreeMerger {
   public:
     void add(const ImportedNameTrees &imported);
