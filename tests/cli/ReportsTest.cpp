@@ -50,8 +50,7 @@ class ReportsTest : public QObject, protected CommandLineCase {
         row("no folder",
             "--output-folder=", "Please select an output folder to store the output documents.");
         row("missing folder", "--output-folder=/nonexistent",
-            "Selected output folder does not exist or is not writable. Click \"OK\" to select "
-            "another folder.");
+            "Selected output folder does not exist or is not writable.");
     }
 
     void wrongSettingsGetTheWindowsNoticeAndNothingIsWritten() {
