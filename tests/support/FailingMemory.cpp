@@ -6,6 +6,14 @@
 #include <cstdlib>
 #include <new>
 
+// Of AddressSanitizer, where it is linked.
+extern "C" {
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c)
+__attribute__((weak)) void __lsan_disable();
+__attribute__((weak)) void __lsan_enable();
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c)
+}
+
 namespace folioforge::test {
 
 namespace {
@@ -13,34 +21,44 @@ namespace {
 constexpr int kNone = -1;
 thread_local int g_spared = kNone; ///< How many allocations succeed before the one that fails.
 
+/// Null where it fails.
+void *allocate(std::size_t size) {
+    const bool fails = g_spared == 0;
+    if (g_spared != kNone) {
+        --g_spared; // After the one that fails none does.
+    }
+    return fails ? nullptr : std::malloc(size == 0 ? 1 : size);
+}
+
 } // namespace
 
 FailingMemory::FailingMemory(int spared) {
+    if (__lsan_disable) {
+        __lsan_disable(); // libqpdf loses the object that it has made when its holder fails.
+    }
     g_spared = spared;
 }
 
 FailingMemory::~FailingMemory() {
     g_spared = kNone;
+    if (__lsan_enable) {
+        __lsan_enable();
+    }
 }
 
 } // namespace folioforge::test
 
+// All that give what the plain delete takes back: AddressSanitizer knows who gave what.
 void *operator new(std::size_t size) {
-    using folioforge::test::g_spared;
-    const bool fails = g_spared == 0;
-    if (g_spared != folioforge::test::kNone) {
-        --g_spared; // After the one that fails none does.
-    }
-    void *memory = fails ? nullptr : std::malloc(size == 0 ? 1 : size);
+    void *memory = folioforge::test::allocate(size);
     if (!memory) {
         throw std::bad_alloc();
     }
     return memory;
 }
 
-// What the library allocates this way it frees by the functions below.
-void *operator new(std::size_t size, const std::nothrow_t & /*nothrow*/) noexcept {
-    return std::malloc(size == 0 ? 1 : size);
+void *operator new(std::size_t size, const std::nothrow_t &) noexcept {
+    return folioforge::test::allocate(size);
 }
 
 void operator delete(void *memory) noexcept {
@@ -48,5 +66,9 @@ void operator delete(void *memory) noexcept {
 }
 
 void operator delete(void *memory, std::size_t) noexcept {
+    std::free(memory);
+}
+
+void operator delete(void *memory, const std::nothrow_t &) noexcept {
     std::free(memory);
 }
