@@ -21,10 +21,6 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-/// The progress when every page is written, and when all is done.
-constexpr float kPagesShare = 50;
-constexpr float kFull = 100;
-
 /// Turns every exception of the engine into its reason.
 template<typename Step> QString reasonOfFailure(Step &&step) {
     try {

@@ -77,6 +77,10 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                      const ConversionOptions &options, ConversionObserver *observer = nullptr,
                      const std::stop_token &stop = {});
 
+/// The progress when every page of a PDF is written, and when it is compressed.
+inline constexpr float kPagesShare = 50;
+inline constexpr float kFull = 100;
+
 /// The progress of the PDF once the compression pass wrote the page at `pageIndex`, from 0.
 float compressionProgress(int pageIndex, int pageCount);
 

@@ -36,8 +36,9 @@ bool MainWndCtrl::checkSettings(const ConversionOptions &options) {
 
 void MainWndCtrl::createSingleFile() {
     m_destFilePathName = m_run->pathFor(std::size_t(m_fileIndex));
+    m_filesAdded = 0;
+    showFileBeingWritten();
     showProgress(0);
-    showFileBeingWritten(m_fileIndex);
     createPDF();
 }
 
@@ -56,6 +57,7 @@ void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
     if (outcome.isWritten()) {
         m_destFilePathName = outcome.close.path;
         m_pdfDoc = PDFDocument{outcome.pages()};
+        showProgress(kPagesShare);
         compress(m_destFilePathName);
         return;
     }

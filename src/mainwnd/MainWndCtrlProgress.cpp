@@ -58,16 +58,29 @@ void MainWndCtrl::hideAlertView() {
     m_alertWnd->endSheet();
 }
 
-void MainWndCtrl::showFileBeingWritten(int done) {
-    m_alertWnd->setFile(printable(QFileInfo(m_destFilePathName).fileName()), done,
-                        m_filesArray->count());
+void MainWndCtrl::showFileBeingWritten() {
+    m_alertWnd->setFile(printable(QFileInfo(m_destFilePathName).fileName()));
 }
 
 void MainWndCtrl::showProgress(float value) {
     m_prgCreate->show();
     m_lbProgress->show();
-    constexpr float kFull = 100;
     m_prgCreate->setValue(qRound(value / kFull * static_cast<float>(m_prgCreate->maximum())));
+    showRunProgress(value);
+}
+
+/// How far the run is, where the PDF that is being made is at `value`: counted are PDFs in their
+/// place, and for a merged one its files.
+void MainWndCtrl::showRunProgress(float value) {
+    const bool merges = m_run->options().merge;
+    const double ofPdf = value / (m_run->compresses() ? kFull : kPagesShare);
+    const int total = m_filesArray->count();
+    QString words = merges ? tr("%1 of %2 files added").arg(m_filesAdded).arg(total)
+                           : tr("%1 of %2 done").arg(m_fileIndex).arg(total);
+    if (m_pdfDoc && m_run->compresses()) {
+        words += tr(", compressing");
+    }
+    m_alertWnd->setProgress(words, merges ? ofPdf : (m_fileIndex + ofPdf) / total);
 }
 
 void MainWndCtrl::endPageWrite(int pageIndex) {
@@ -80,7 +93,7 @@ void MainWndCtrl::entryDone(int row, bool written) {
     if (written) {
         m_filesArray->setStateIndex(row, Finished);
     }
-    showFileBeingWritten(row + 1);
+    ++m_filesAdded;
 }
 
 void MainWndCtrl::showRemarks(const PDFOutcome &outcome) {

@@ -2,11 +2,17 @@
 
 #include "skin/BusySheet.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QPainter>
+#include <QProgressBar>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -15,11 +21,18 @@ namespace {
 
 constexpr int kCardWidth = 420;
 constexpr int kCardTop = 120;
+constexpr int kBarSteps = 1000;
+constexpr int kBarHeight = 8;
 
 /// Closing and quitting stay possible while the sheet is up.
 bool leavesTheProgram(const QKeyEvent &key) {
     return key.keyCombination() == QKeyCombination(Qt::ControlModifier, Qt::Key_Q) ||
            key.matches(QKeySequence::Quit) || key.matches(QKeySequence::Close);
+}
+
+QAccessibleInterface *makeAccessible(const QString & /*className*/, QObject *object) {
+    auto *sheet = qobject_cast<BusySheet *>(object);
+    return sheet ? new QAccessibleWidget(sheet, QAccessible::Dialog) : nullptr;
 }
 
 QFrame *makeCard(QWidget *parent) {
@@ -34,7 +47,9 @@ QFrame *makeCard(QWidget *parent) {
 BusySheet::BusySheet(QWidget *parent)
     : QWidget(parent)
     , m_fileLabel(new QLabel)
-    , m_countLabel(new QLabel) {
+    , m_countLabel(new QLabel)
+    , m_bar(new QProgressBar) {
+    QAccessible::installFactory(makeAccessible); // Installed once, however often.
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::BusyCursor);
     setAccessibleName(tr("Creating PDF documents"));
@@ -45,6 +60,11 @@ BusySheet::BusySheet(QWidget *parent)
     m_fileLabel->setObjectName(u"busyFile"_s);
     m_fileLabel->setTextFormat(Qt::PlainText);
     m_countLabel->setObjectName(u"busyCount"_s);
+    m_bar->setObjectName(u"busyBar"_s);
+    m_bar->setAccessibleName(tr("Progress of the run"));
+    m_bar->setRange(0, kBarSteps);
+    m_bar->setTextVisible(false);
+    m_bar->setFixedHeight(kBarHeight);
 
     auto *card = makeCard(this);
     auto *lines = new QVBoxLayout(card);
@@ -53,6 +73,7 @@ BusySheet::BusySheet(QWidget *parent)
     lines->addWidget(title);
     lines->addWidget(m_fileLabel);
     lines->addWidget(m_countLabel);
+    lines->addWidget(m_bar);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, kCardTop, 0, 0);
@@ -67,21 +88,53 @@ void BusySheet::beginSheet() {
     show();
     raise();
     setFocus();
+    disableWhatIsCovered();
 }
 
 void BusySheet::endSheet() {
     window()->removeEventFilter(this);
     hide();
+    enableWhatWasCovered();
     if (m_focusBefore) {
         m_focusBefore->setFocus();
     }
 }
 
-void BusySheet::setFile(const QString &name, int done, int total) {
+/// The menu bar stays: the keys that close and quit are its items'.
+void BusySheet::disableWhatIsCovered() {
+    for (QWidget *child :
+         window()->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (child != this && !child->isWindow() && !qobject_cast<QMenuBar *>(child) &&
+            child->isEnabled()) {
+            child->setEnabled(false);
+            m_covered += child;
+        }
+    }
+}
+
+void BusySheet::enableWhatWasCovered() {
+    for (const QPointer<QWidget> &child : std::as_const(m_covered)) {
+        if (child) {
+            child->setEnabled(true);
+        }
+    }
+    m_covered.clear();
+}
+
+void BusySheet::setFile(const QString &name) {
     constexpr int kSideMargins = 48;
     m_fileLabel->setText(
         m_fileLabel->fontMetrics().elidedText(name, Qt::ElideMiddle, kCardWidth - kSideMargins));
-    m_countLabel->setText(tr("%1 of %2 done").arg(done).arg(total));
+}
+
+void BusySheet::setProgress(const QString &words, double share) {
+    m_bar->setValue(static_cast<int>(share * kBarSteps));
+    if (m_countLabel->text() != words) {
+        m_countLabel->setText(words);
+        setAccessibleDescription(m_fileLabel->text() + u' ' + words);
+        QAccessibleEvent event(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 bool BusySheet::event(QEvent *event) {

@@ -3,12 +3,14 @@
 #include "skin/BusySheet.h"
 #include "support/TestUnit.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -46,6 +48,7 @@ struct Covered {
     QWidget center;
     QLineEdit field{&center};
     QPushButton button{&center};
+    QPushButton disabled{&center};
     BusySheet sheet{&center};
     QAction action;
     QAction quit;
@@ -124,9 +127,32 @@ class BusySheetTest : public QObject {
 
     void itSaysWhichFileIsWrittenAndHowManyAreDone() {
         Covered covered;
-        covered.sheet.setFile(u"a<b>.txt"_s, 2, 5);
+        covered.sheet.setFile(u"a<b>.txt"_s);
+        covered.sheet.setProgress(u"2 of 5 done"_s, 0.4);
         QCOMPARE(covered.sheet.findChild<QLabel *>(u"busyFile"_s)->text(), u"a<b>.txt"_s);
         QCOMPARE(covered.sheet.findChild<QLabel *>(u"busyCount"_s)->text(), u"2 of 5 done"_s);
+        const auto *bar = covered.sheet.findChild<QProgressBar *>();
+        QCOMPARE(bar->value(), bar->maximum() * 2 / 5);
+    }
+
+    void screenReadersFindADialogAndNothingUnderIt() {
+        Covered covered;
+        covered.disabled.setEnabled(false);
+        covered.sheet.beginSheet();
+        covered.sheet.setFile(u"a.pdf"_s);
+        covered.sheet.setProgress(u"2 of 5 done"_s, 0.4);
+        const auto stateOf = [](QWidget &widget) {
+            return QAccessible::queryAccessibleInterface(&widget)->state();
+        };
+        QAccessibleInterface *sheet = QAccessible::queryAccessibleInterface(&covered.sheet);
+        QCOMPARE(sheet->role(), QAccessible::Dialog);
+        QCOMPARE(sheet->text(QAccessible::Description), u"a.pdf 2 of 5 done"_s);
+        QVERIFY(!stateOf(covered.sheet).disabled);
+        QVERIFY(stateOf(covered.field).disabled);
+        QVERIFY(stateOf(covered.button).disabled);
+        covered.sheet.endSheet();
+        QVERIFY(!stateOf(covered.field).disabled);
+        QVERIFY(stateOf(covered.disabled).disabled);
     }
 };
 

@@ -91,7 +91,7 @@ class DuringARunTest : public QObject {
         QVERIFY(!w.control<QWidget>("m_lbProgress")->isVisible());
         QVERIFY(!w.control<QWidget>("m_prgCreate")->isVisible());
         for (const QString &line :
-             {u"000.pdf 0 of 3 done"_s, u"000.pdf 1 of 3 done"_s, u"002.pdf 3 of 3 done"_s}) {
+             {u"000.pdf 0 of 3 done"_s, u"001.pdf 1 of 3 done"_s, u"002.pdf 2 of 3 done"_s}) {
             QVERIFY2(said.contains(line), qPrintable(said.join(u'\n')));
         }
     }
@@ -131,6 +131,38 @@ class DuringARunTest : public QObject {
             const PdfProbe pdf(outPath(w, QString::fromLatin1(name)));
             QCOMPARE(pdf.info(u"Title"_s), u"before"_s);
         }
+    }
+
+    void theSheetCountsTheFilesOfAMergedPdfAndSaysThatItIsCompressed() {
+        TestWindow w(bundlePath());
+        addTexts(w, 3);
+        mergeInto(w, u"all"_s);
+        w.control<QComboBox>("m_comboCompressMethod")->setCurrentIndex(3);
+        const auto *sheet = w.control<BusySheet>("m_alertWnd");
+        const auto *bar = sheet->findChild<QProgressBar *>(u"busyBar"_s);
+        QStringList said;
+        QList<int> shares;
+        connect(bar, &QProgressBar::valueChanged, this, [&](int value) { shares += value; });
+        connect(w.control<QProgressBar>("m_prgCreate"), &QProgressBar::valueChanged, this, [&] {
+            QMetaObject::invokeMethod(
+                this, [&] { said += sheet->findChild<QLabel *>(u"busyCount"_s)->text(); },
+                Qt::QueuedConnection);
+        });
+        run(w);
+        QVERIFY2(said.contains(u"2 of 3 files added"_s), qPrintable(said.join(u'\n')));
+        QVERIFY2(said.contains(u"3 of 3 files added, compressing"_s), qPrintable(said.join(u'\n')));
+        QVERIFY(std::ranges::is_sorted(shares));
+        QCOMPARE(shares.last(), bar->maximum());
+    }
+
+    void theSheetsBarIsThatOfTheWholeRun() {
+        TestWindow w;
+        addTexts(w, 4);
+        const auto *bar = w.control<BusySheet>("m_alertWnd")->findChild<QProgressBar *>();
+        QList<int> shares;
+        connect(bar, &QProgressBar::valueChanged, this, [&](int value) { shares += value; });
+        run(w);
+        QCOMPARE(shares, (QList<int>{0, 250, 500, 750, 1000})); // Of 1000.
     }
 
     void pagesFillTheFirstHalfOfTheBar() {

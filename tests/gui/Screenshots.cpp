@@ -66,11 +66,13 @@ void takeAll(MainWndCtrl &controller, Photographer &photographer, const QStringL
     photographer.press("m_btnSecuritySetting");
     photographer.take(u"options-security"_s);
     photographer.press("m_btnElapse");
-    controller.window()->findChild<QProgressBar *>()->show();
-    controller.window()->findChild<QProgressBar *>()->setValue(350);
+    controller.window()->findChild<QProgressBar *>(u"m_prgCreate"_s)->show();
+    controller.window()->findChild<QProgressBar *>(u"m_prgCreate"_s)->setValue(350);
     controller.window()->findChild<QWidget *>(u"m_lbProgress"_s)->show();
     controller.showAlertView();
-    controller.window()->findChild<BusySheet *>()->setFile(u"report.pdf"_s, 12, 17);
+    auto &sheet = *controller.window()->findChild<BusySheet *>();
+    sheet.setFile(u"report.pdf"_s);
+    sheet.setProgress(u"12 of 17 done"_s, 0.72);
     photographer.take(u"window-busy"_s);
     controller.hideAlertView();
 }
