@@ -164,8 +164,9 @@ void MainWndCtrl::connectControls() {
     on(m_btnSecuritySetting, &Self::clickBtnSecurity);
     on(m_btnImageSetting, &Self::clickBtnImagePageSize);
     on(m_btnTxtSetting, &Self::clickBtnTextPageSize);
-    on(m_btnCheckUserPassword, &Self::clickBtnCheckUserPassword);
-    on(m_btnCheckOwnerPassword, &Self::clickBtnCheckOwnerPassword);
+    // Screen readers toggle a box without a click.
+    connect(m_btnCheckUserPassword, &QCheckBox::toggled, this, &Self::clickBtnCheckUserPassword);
+    connect(m_btnCheckOwnerPassword, &QCheckBox::toggled, this, &Self::clickBtnCheckOwnerPassword);
     // The arrow keys choose a row without a click.
     connect(m_mtxTextPageSizeMode, &QButtonGroup::buttonToggled, this, &Self::clickMtxTextPageSize);
     connect(m_mtxImagePageSizeMode, &QButtonGroup::buttonToggled, this,

@@ -7,6 +7,7 @@
 #include "skin/OptionsDrawer.h"
 #include "skin/SkinButton.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEnterEvent>
@@ -126,6 +127,58 @@ class OptionsPanelTest : public QObject {
         QCoreApplication::sendEvent(&button, &leave);
         QVERIFY(button.image() != normal);
         QTRY_VERIFY(button.image() == normal);
+    }
+
+    void aBoxThatAScreenReaderTogglesActsAsOneThatIsClicked_data() {
+        QTest::addColumn<QByteArray>("box");
+        QTest::addColumn<QByteArray>("field");
+        QTest::newRow("user") << QByteArray("m_btnCheckUserPassword")
+                              << QByteArray("m_tfUserPassword");
+        QTest::newRow("owner") << QByteArray("m_btnCheckOwnerPassword")
+                               << QByteArray("m_tfOwnerPassword");
+    }
+    void aBoxThatAScreenReaderTogglesActsAsOneThatIsClicked() {
+        QFETCH(const QByteArray, box);
+        QFETCH(const QByteArray, field);
+        Panel panel;
+        panel.openSecurity();
+        QVERIFY(!panel.field(field.constData()).isEnabled());
+        auto *accessible =
+            QAccessible::queryAccessibleInterface(&panel.control<QCheckBox>(box.constData()));
+        accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(panel.field(field.constData()).isEnabled());
+    }
+
+    void aScreenReaderDoesNotWriteIntoTheFolder() {
+        Panel panel;
+        QLineEdit &folder = panel.field("m_tfOutputFolder");
+        const QString before = folder.text();
+        auto *accessible = QAccessible::queryAccessibleInterface(&folder);
+        accessible->setText(QAccessible::Value, u"/elsewhere"_s);
+        QVERIFY(!accessible->editableTextInterface());
+        QVERIFY(accessible->state().readOnly);
+        QCOMPARE(folder.text(), before);
+        QCOMPARE(accessible->text(QAccessible::Value), before);
+    }
+
+    void tabEntersRadioButtonsAtTheChosenOne() {
+        Panel panel;
+        panel.openPanel();
+        auto &window = *panel.ctrl.window();
+        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        for (const char *chosen : {"imageCustom", "imageFollows"}) {
+            panel.tick(chosen);
+            panel.control<QWidget>("m_btnSecuritySetting").setFocus();
+            QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
+            QCOMPARE(QApplication::focusWidget()->objectName(), QString::fromLatin1(chosen));
+        }
+        panel.control<QWidget>("m_comboCompressMethod").setFocus();
+        QTest::keyClick(window.windowHandle(), Qt::Key_Backtab, Qt::ShiftModifier);
+        while (!QApplication::focusWidget()->inherits("QRadioButton")) {
+            QTest::keyClick(window.windowHandle(), Qt::Key_Backtab, Qt::ShiftModifier);
+        }
+        QCOMPARE(QApplication::focusWidget()->objectName(), u"imageFollows"_s);
     }
 
     void hidingHalfWayThroughShowingRestoresTheWidthToo() {

@@ -245,6 +245,29 @@ class WindowLayoutTest : public QObject {
         }
     }
 
+    void everyNameHoldsWhatIsReadOnTheControl() {
+        Window window;
+        const auto plain = [](QString text) {
+            return text.remove(u'&').remove(u'…').remove(u"..."_s).remove(u':').toLower();
+        };
+        int checked = 0;
+        for (const auto *button : window.ctrl.window()->findChildren<QAbstractButton *>()) {
+            if (!button->accessibleName().isEmpty() && !button->text().isEmpty()) {
+                ++checked;
+                QVERIFY2(button->accessibleName().toLower().contains(plain(button->text())),
+                         qPrintable(button->accessibleName() + u" / "_s + button->text()));
+            }
+        }
+        for (const auto *label : window.ctrl.window()->findChildren<QLabel *>()) {
+            if (label->buddy()) {
+                ++checked;
+                QVERIFY2(label->buddy()->accessibleName().toLower().contains(plain(label->text())),
+                         qPrintable(label->buddy()->accessibleName() + u" / "_s + label->text()));
+            }
+        }
+        QVERIFY(checked > 40);
+    }
+
     void everyLabelLeadsToItsField() {
         Window window;
         for (const QLabel *label : window.ctrl.window()->findChildren<QLabel *>()) {
