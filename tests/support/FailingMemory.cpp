@@ -8,10 +8,10 @@
 
 // Of AddressSanitizer, where it is linked.
 extern "C" {
-// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c)
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,readability-identifier-naming)
 __attribute__((weak)) void __lsan_disable();
 __attribute__((weak)) void __lsan_enable();
-// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c)
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,readability-identifier-naming)
 }
 
 namespace folioforge::test {

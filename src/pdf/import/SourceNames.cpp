@@ -99,7 +99,7 @@ void SourceNames::declare(const std::string &table, const std::vector<QPDFObject
     }
 }
 
-QPDFObjectHandle SourceNames::renamed(const std::string &table, QPDFObjectHandle name) {
+QPDFObjectHandle SourceNames::renamed(const std::string &table, const QPDFObjectHandle &name) {
     const std::string text = nameText(name);
     const auto &renames = m_renames[table];
     const auto known = renames.find(text);

@@ -59,7 +59,7 @@ class SourceNames {
     void declare(const std::string &table, const std::vector<QPDFObjectHandle> &names);
     /// What `name`, a name or a string, is called in the document that is made. One that the source
     /// refers to without having it becomes one that nobody has.
-    QPDFObjectHandle renamed(const std::string &table, QPDFObjectHandle name);
+    QPDFObjectHandle renamed(const std::string &table, const QPDFObjectHandle &name);
     /// The key of the next entry of a name tree: as renamed(), or a further name where an entry
     /// before it has that already.
     QPDFObjectHandle nextKey(const std::string &table, const QPDFObjectHandle &name);
