@@ -138,6 +138,10 @@ bool isLeftOut(const QString &name) {
         u"magick-*Matte-ARGB*.bmp"_s,    // Opacity of a few bits, which others read as none.
         u"magick-*Matte-*-15.tga"_s,     // So is this.
         u"magick-Palette-RLE-*.psd"_s,   // Rows of 16 bits in a file that states 8.
+        u"magick-PaletteMatte-*.psd"_s,  // Two channels are stated, and one is there.
+        u"magick-p?.psd"_s,              // Rows of 1 or 2 bits in a file that states 8.
+        u"magick-p16.psd"_s,             // Rows of 4.
+        u"pillow-mono-tga_rle-*.tga"_s,  // 32 bytes that mean nothing before each row of 5.
         u"pillow-*a.jp2"_s,              // Opacity of which no box tells.
         u"*-float24.tif"_s,              // Refused.
         u"*Matte-ycbcr.tif"_s,           // Refused: brightness and colours with opacity.
