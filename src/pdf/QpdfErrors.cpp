@@ -75,13 +75,15 @@ std::vector<QPDFExc> faultsOf(QPDF &document) {
     return faults;
 }
 
+void requireMemory(const QPDFExc &fault) {
+    if (contains(fault.getMessageDetail(), std::bad_alloc().what())) {
+        throw std::bad_alloc();
+    }
+}
+
 void requireAllObjects(QPDF &document, const SourceReader &reader) {
     reader.requireNoFailure();
-    for (const QPDFExc &warning : faultsOf(document)) {
-        if (contains(warning.getMessageDetail(), std::bad_alloc().what())) {
-            throw std::bad_alloc();
-        }
-    }
+    std::ranges::for_each(faultsOf(document), requireMemory);
 }
 
 } // namespace folioforge

@@ -58,6 +58,9 @@ std::vector<QPDFExc> faultsOf(QPDF &document);
 /// Whether `warning` tells of a fault rather than of what libqpdf does about the one before.
 bool isFault(const QPDFExc &warning);
 
+/// Throws std::bad_alloc where `fault` is one: libqpdf says so in the words of a damaged file.
+void requireMemory(const QPDFExc &fault);
+
 /// Throws when a read has failed or a warning of the document tells of a lack of memory.
 void requireAllObjects(QPDF &document, const SourceReader &reader);
 
@@ -66,14 +69,21 @@ void requireAllObjects(QPDF &document, const SourceReader &reader);
 /// not the document, and this throws.
 template<typename Work>
 auto withAllObjects(QPDF &document, const SourceReader &reader, Work &&work) -> decltype(work()) {
-    try {
-        auto result = work();
-        requireAllObjects(document, reader);
-        return result;
-    } catch (const std::exception &) {
-        requireAllObjects(document, reader);
-        throw;
-    }
+    // The result may own the document, so that what throws behind it must not look again.
+    auto result = [&] {
+        try {
+            return work();
+        } catch (const QPDFExc &error) {
+            requireMemory(error);
+            requireAllObjects(document, reader);
+            throw;
+        } catch (const std::exception &) {
+            requireAllObjects(document, reader);
+            throw;
+        }
+    }();
+    requireAllObjects(document, reader);
+    return result;
 }
 
 } // namespace folioforge

@@ -4,6 +4,7 @@
 
 #include "error/Error.h"
 #include "odd/FileWriter.h"
+#include "support/FailingMemory.h"
 #include "support/FaultyCalls.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
@@ -22,6 +23,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
+using test::FailingMemory;
 using test::FileWriter;
 using test::PdfFixture;
 using test::runTool;
@@ -62,6 +64,34 @@ class SourceDocumentTest : public QObject {
         const PDFSummary summary = summarizePDF(saved(u"a.pdf"_s, threePages().bytes()));
         QVERIFY(!summary.encrypted);
         QCOMPARE(summary.pageCount, 3);
+    }
+
+    void lackOfMemoryIsNeverCalledDamage_data() {
+        QTest::addColumn<QString>("file");
+        const QString classic = saved(u"classic.pdf"_s, threePages().bytes());
+        const QString packed = m_folder.filePath(u"packed.pdf"_s);
+        runTool(u"qpdf"_s, {u"--object-streams=generate"_s, classic, packed});
+        QTest::newRow("table") << classic;
+        QTest::newRow("streams") << packed;
+    }
+    void lackOfMemoryIsNeverCalledDamage() {
+        QFETCH(const QString, file);
+        std::unique_ptr<QPDF> document; // Its end asks for memory, which must not fail.
+        int failures = 0;
+        for (; !document; ++failures) {
+            const auto reader = std::make_shared<SourceReader>();
+            try {
+                const FailingMemory failing(failures);
+                document = openSourceDocument(FileVersion::of(file), reader);
+            } catch (const Error &error) {
+                QCOMPARE(error.reason(), notEnoughMemory().reason());
+            } catch (const std::bad_alloc &) {
+                // Before the library is asked.
+            }
+        }
+        QCOMPARE(document->getAllPages().size(), 3U);
+        constexpr int kLeast = 100;
+        QVERIFY2(failures > kLeast, qPrintable(QString::number(failures)));
     }
 
     void anEncryptedDocumentWithoutItsTrailerIsRefused() {

@@ -65,7 +65,8 @@ std::vector<int> numbersOfMembers(QPDFObjectHandle collection) {
         for (std::size_t i = 0; i + 1 < numbers.size() && std::ssize(members) < stated; i += 2) {
             members.push_back(numbers[i]);
         }
-    } catch (const QPDFExc &) {
+    } catch (const QPDFExc &error) {
+        requireMemory(error);
         members.clear(); // Such as one that is encrypted.
     }
     return members;
