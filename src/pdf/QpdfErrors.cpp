@@ -75,15 +75,16 @@ std::vector<QPDFExc> faultsOf(QPDF &document) {
     return faults;
 }
 
-void requireMemory(const QPDFExc &fault) {
-    if (contains(fault.getMessageDetail(), std::bad_alloc().what())) {
-        throw std::bad_alloc();
-    }
+bool isLackOfMemory(const std::exception &fault) {
+    const std::string words = fault.what();
+    return contains(words, std::bad_alloc().what()) || contains(words, "zlib memory error");
 }
 
 void requireAllObjects(QPDF &document, const SourceReader &reader) {
     reader.requireNoFailure();
-    std::ranges::for_each(faultsOf(document), requireMemory);
+    if (std::ranges::any_of(faultsOf(document), isLackOfMemory)) {
+        throw std::bad_alloc();
+    }
 }
 
 } // namespace folioforge

@@ -20,6 +20,10 @@ namespace folioforge {
 /// What is wrong, such as "an object is not well formed (object 7)": a part of a sentence.
 QString inWords(const QPDFExc &error);
 
+/// Whether `fault` tells of a lack of memory: libqpdf wraps it, and what zlib says, into the words
+/// of a damaged file.
+bool isLackOfMemory(const std::exception &fault);
+
 /// Runs `work` and turns what libqpdf throws into Error. No other place handles its exceptions.
 template<typename Work> auto translateQpdfErrors(Work &&work) -> decltype(work()) {
     try {
@@ -27,11 +31,12 @@ template<typename Work> auto translateQpdfErrors(Work &&work) -> decltype(work()
     } catch (const Error &) {
         throw;
     } catch (const QPDFExc &error) {
-        throw Error(QStringLiteral("The document is damaged: %1").arg(inWords(error)));
-    } catch (const std::bad_alloc &) {
-        throw notEnoughMemory();
-    } catch (const std::exception &) {
-        throw Error(QStringLiteral("The document is damaged"));
+        throw isLackOfMemory(error)
+            ? notEnoughMemory()
+            : Error(QStringLiteral("The document is damaged: %1").arg(inWords(error)));
+    } catch (const std::exception &fault) {
+        throw isLackOfMemory(fault) ? notEnoughMemory()
+                                    : Error(QStringLiteral("The document is damaged"));
     }
 }
 
@@ -58,9 +63,6 @@ std::vector<QPDFExc> faultsOf(QPDF &document);
 /// Whether `warning` tells of a fault rather than of what libqpdf does about the one before.
 bool isFault(const QPDFExc &warning);
 
-/// Throws std::bad_alloc where `fault` is one: libqpdf says so in the words of a damaged file.
-void requireMemory(const QPDFExc &fault);
-
 /// Throws when a read has failed or a warning of the document tells of a lack of memory.
 void requireAllObjects(QPDF &document, const SourceReader &reader);
 
@@ -73,11 +75,10 @@ auto withAllObjects(QPDF &document, const SourceReader &reader, Work &&work) -> 
     auto result = [&] {
         try {
             return work();
-        } catch (const QPDFExc &error) {
-            requireMemory(error);
-            requireAllObjects(document, reader);
-            throw;
-        } catch (const std::exception &) {
+        } catch (const std::exception &fault) {
+            if (isLackOfMemory(fault)) {
+                throw std::bad_alloc();
+            }
             requireAllObjects(document, reader);
             throw;
         }

@@ -4,6 +4,7 @@
 
 #include "error/Error.h"
 #include "odd/FileWriter.h"
+#include "pdf/QpdfErrors.h"
 #include "support/FailingMemory.h"
 #include "support/FaultyCalls.h"
 #include "support/PdfFixture.h"
@@ -89,9 +90,28 @@ class SourceDocumentTest : public QObject {
                 // Before the library is asked.
             }
         }
+        QVERIFY(document->getWarnings().empty());
         QCOMPARE(document->getAllPages().size(), 3U);
         constexpr int kLeast = 100;
         QVERIFY2(failures > kLeast, qPrintable(QString::number(failures)));
+    }
+
+    void lackOfMemoryInTheWordsOfDamageIsNamed() {
+        const auto said = [](const auto &fault) {
+            try {
+                translateQpdfErrors([&] { throw fault; });
+            } catch (const Error &error) {
+                return error.reason();
+            }
+            return QString();
+        };
+        const QString memory = notEnoughMemory().reason();
+        QCOMPARE(said(QPDFExc(qpdf_e_damaged_pdf, "", "", 0, "error reading xref: std::bad_alloc")),
+                 memory);
+        QCOMPARE(said(std::runtime_error("stream inflate: inflate: data: zlib memory error")),
+                 memory);
+        QCOMPARE(said(QPDFExc(qpdf_e_damaged_pdf, "", "", 0, "xref not found")),
+                 u"The document is damaged: its table of objects is damaged"_s);
     }
 
     void anEncryptedDocumentWithoutItsTrailerIsRefused() {

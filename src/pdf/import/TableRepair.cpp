@@ -66,7 +66,9 @@ std::vector<int> numbersOfMembers(QPDFObjectHandle collection) {
             members.push_back(numbers[i]);
         }
     } catch (const QPDFExc &error) {
-        requireMemory(error);
+        if (isLackOfMemory(error)) {
+            throw;
+        }
         members.clear(); // Such as one that is encrypted.
     }
     return members;
