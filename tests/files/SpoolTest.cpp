@@ -13,6 +13,8 @@
 
 #include <array>
 #include <cstring>
+#include <numeric>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -48,16 +50,23 @@ class SpoolTest : public QObject {
     /// test.
     static QString keepAndGiveBack(SystemCalls &calls) {
         constexpr int kPieces = 3;
-        constexpr qsizetype kPiece = 4 << 20;
+        static const QByteArray numbers = [] {
+            constexpr int kNumbers = 1 << 20;
+            std::vector<int> all(kNumbers);
+            std::iota(all.begin(), all.end(), 0);
+            return QByteArray(reinterpret_cast<const char *>(all.data()), kNumbers * sizeof(int));
+        }();
+        // No byte range of a piece is like another.
+        const auto pieceOf = [](char piece) { return QByteArray(numbers).append(piece); };
         try {
             Spool spool(calls);
             std::vector<Spool::Place> places;
             for (char piece = 0; piece < kPieces; ++piece) {
-                places.push_back(spool.add(QByteArray(kPiece, piece)));
+                places.push_back(spool.add(pieceOf(piece)));
             }
             for (char piece = 0; piece < kPieces; ++piece) {
                 const auto data = spool.at(places.at(static_cast<std::size_t>(piece)));
-                if (data.toByteArray() != QByteArray(kPiece, piece)) {
+                if (data.toByteArray() != pieceOf(piece)) {
                     return u"other data came back"_s;
                 }
             }

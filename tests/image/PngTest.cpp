@@ -294,6 +294,13 @@ class PngTest : public QObject {
         QCOMPARE(refusalOf(write(bytes)), u"The PNG file has no palette"_s);
     }
 
+    void paletteOfHalfAColorIsRefused() {
+        QByteArray bytes = bytesOf(imageFile(u"palette.png"_s));
+        const qsizetype end = bytes.indexOf("IDAT") - 4;
+        bytes.insert(end, pngChunk("PLTE", QByteArray(4, '\1')));
+        QCOMPARE(refusalOf(write(bytes)), u"The PNG file has no palette"_s);
+    }
+
     void claimOfManyPixelsInFewBytesIsRefused() {
         QByteArray bytes = bytesOf(imageFile(u"translucent.png"_s));
         bytes.replace(16, 8, QByteArray::fromHex("0000520800005208")); // 21,000 x 21,000.

@@ -200,6 +200,17 @@ class AttachmentsTest : public QObject, protected MergeCase {
                  QStringList({u"note (b).txt=B"_s, u"note.txt=A"_s}));
     }
 
+    void filesOfPagesAreToldApartByTheirSource() {
+        const auto source = [this](const QString &name) {
+            PdfFixture fixture = withCatalog({}, "/AF [20 0 R]");
+            return savedAs(name, withFile(fixture, "note.txt", "A"));
+        };
+        const auto document = opened(merged({source(u"a.pdf"_s), source(u"b.pdf"_s)}));
+        QPDFObjectHandle page = document->getAllPages().at(1);
+        QCOMPARE(page.getKey("/AF").getArrayItem(0).getKey("/UF").getUTF8Value(),
+                 std::string("note (b).txt"));
+    }
+
     void anActionFollowsTheNameOfItsFile() {
         PdfFixture source = withCatalog(
             "/Names << /EmbeddedFiles << /Names [(inner) 20 0 R] >> >>",

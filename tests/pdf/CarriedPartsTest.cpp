@@ -42,6 +42,13 @@ class CarriedPartsTest : public QObject, protected MergeCase {
         QCOMPARE(counted.left, PartCounts());
     }
 
+    void whatAnOpeningActionRunsIsAScriptAndWhatItShowsIsNone() {
+        QCOMPARE(parts(withCatalog("/OpenAction << /S /GoTo /D [4 0 R /Fit] >>")).carried,
+                 PartCounts());
+        QCOMPARE(parts(withCatalog("/OpenAction << /S /JavaScript /JS (1) >>")).carried,
+                 (PartCounts{{PartKind::Scripts, 1}}));
+    }
+
     void linksAndOtherAnnotationsAreCountedApart() {
         const QByteArray box = " /Rect [0 0 9 9] >> ";
         const DocumentParts counted = parts(withAnnotations(

@@ -120,6 +120,16 @@ class MissingObjectsTest : public QObject, protected MergeCase {
         QCOMPARE(warningsOf(source), kOnPage.arg(2));
     }
 
+    void aWholeFormDoesNotHideWhatItsPageLacks() {
+        PdfFixture source =
+            secondPage("/Font << /F 3 0 R >>", "/XObject << /X 10 0 R >> /Font << /F 99 0 R >>");
+        source.stream(10,
+                      "/Type /XObject /Subtype /Form /BBox [0 0 9 9] "
+                      "/Resources << /Font << /F 3 0 R >> >>",
+                      "BT /F 9 Tf (a) Tj ET");
+        QCOMPARE(warningsOf(source), kOnPage.arg(2));
+    }
+
     void whatTheCatalogLeadsToIsNamed_data() {
         QTest::addColumn<QByteArray>("keys");
         QTest::addColumn<QString>("words");

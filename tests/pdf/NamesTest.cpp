@@ -284,9 +284,9 @@ class NamesTest : public QObject, protected MergeCase {
 
     void scriptsOfOneNameInOneSourceAllRun() {
         const QString path =
-            saved(withNames("/JavaScript", "(b) << /S /JavaScript /JS (1) >> (a) << /S /JavaScript "
-                                           "/JS (2) >> (a) << /S /JavaScript /JS (3) >>"));
-        QCOMPARE(namesIn(*opened(merged({path}, true)), "/JavaScript").join(','), "1 b,2 a,3 a");
+            saved(withNames("/JavaScript", "(a) << /S /JavaScript /JS (1) >> (a) << /S /JavaScript "
+                                           "/JS (2) >> (b) << /S /JavaScript /JS (3) >>"));
+        QCOMPARE(namesIn(*opened(merged({path}, true)), "/JavaScript").join(','), "1 a,2 a,3 b");
     }
 
     void scriptsThatAreNotInTheOrderOfTheirNamesStayInTheirs() {
