@@ -194,7 +194,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     class WorkerObserver;
     bool checkSettings(const ConversionOptions &options);
     void showFileBeingWritten();
-    void showRunProgress(float value);
+    void showRunProgress();
     void showProgress(float value);
     void entryDone(int row, bool written);
     void PDFCreated(const PDFOutcome &outcome);
@@ -225,6 +225,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     bool m_bConverting = false;
     std::optional<ConvertInfo> m_convertInfoDict;
     int m_fileIndex = 0;      ///< The entry being converted.
+    float m_pdfProgress = 0;  ///< Of the PDF that is being made, as the bar of the foot shows it.
     int m_filesAdded = 0;     ///< To the PDF that is being made.
     std::optional<Run> m_run; ///< The entries and options as they stood when the run began.
     std::stop_source m_stop;  ///< Stops the run.

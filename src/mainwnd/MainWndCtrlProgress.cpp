@@ -66,14 +66,14 @@ void MainWndCtrl::showProgress(float value) {
     m_prgCreate->show();
     m_lbProgress->show();
     m_prgCreate->setValue(qRound(value / kFull * static_cast<float>(m_prgCreate->maximum())));
-    showRunProgress(value);
+    m_pdfProgress = value;
+    showRunProgress();
 }
 
-/// How far the run is, where the PDF that is being made is at `value`: counted are PDFs in their
-/// place, and for a merged one its files.
-void MainWndCtrl::showRunProgress(float value) {
+/// How far the run is. Counted are PDFs in their place, and for a merged one its files.
+void MainWndCtrl::showRunProgress() {
     const bool merges = m_run->options().merge;
-    const double ofPdf = value / (m_run->compresses() ? kFull : kPagesShare);
+    const double ofPdf = m_pdfProgress / (m_run->compresses() ? kFull : kPagesShare);
     const int total = m_filesArray->count();
     QString words = merges ? tr("%1 of %2 files added").arg(m_filesAdded).arg(total)
                            : tr("%1 of %2 done").arg(m_fileIndex).arg(total);
@@ -94,6 +94,7 @@ void MainWndCtrl::entryDone(int row, bool written) {
         m_filesArray->setStateIndex(row, Finished);
     }
     ++m_filesAdded;
+    showRunProgress();
 }
 
 void MainWndCtrl::showRemarks(const PDFOutcome &outcome) {

@@ -128,13 +128,13 @@ void BusySheet::setFile(const QString &name) {
 }
 
 void BusySheet::setProgress(const QString &words, double share) {
-    m_bar->setValue(static_cast<int>(share * kBarSteps));
     if (m_countLabel->text() != words) {
         m_countLabel->setText(words);
         setAccessibleDescription(m_fileLabel->text() + u' ' + words);
         QAccessibleEvent event(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&event);
     }
+    m_bar->setValue(static_cast<int>(share * kBarSteps));
 }
 
 bool BusySheet::event(QEvent *event) {
