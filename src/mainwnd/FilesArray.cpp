@@ -2,13 +2,7 @@
 
 #include "mainwnd/FilesArray.h"
 
-#include "files/Printable.h"
-
-#include <QApplication>
-#include <QColor>
-#include <QFont>
-#include <QStyle>
-#include <QTextDocument>
+#include "mainwnd/EntryCells.h"
 
 #include <algorithm>
 #include <array>
@@ -18,91 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
-namespace {
-
-QString textOf(const PDFFileInfo &entry, int column) {
-    switch (column) {
-    case FilesArray::NumberColumn:
-        return QString::number(entry.index());
-    case FilesArray::NameColumn:
-        return printable(entry.fileName());
-    case FilesArray::SizeColumn:
-        return entry.fileSize();
-    default:
-        return entry.state() ? printable(entry.state()->text) : QString();
-    }
-}
-
-bool isLink(const PDFFileInfo &entry, int column) {
-    return column == FilesArray::DestinationColumn && entry.stateIndex() == FinishedAsLink;
-}
-
-QString pagesOf(const PDFFileInfo &entry) {
-    const int pages = entry.pageCount();
-    if (pages == 0) {
-        return {};
-    }
-    return pages == 1 ? u"1 page"_s : u"%1 pages"_s.arg(pages);
-}
-
-/// What a cell tells where the entry needs no remark.
-QString plainTipOf(const PDFFileInfo &entry, int column) {
-    if (column == FilesArray::NameColumn) {
-        return printable(entry.filePathName());
-    }
-    if (column == FilesArray::SizeColumn) {
-        return pagesOf(entry);
-    }
-    return isLink(entry, column) ? printable(entry.destFilePathName()) : QString();
-}
-
-QString remarksOf(const PDFFileInfo &entry) {
-    QStringList lines;
-    for (const QString &remark : entry.remarks()) {
-        lines += printable(remark) + u'.';
-    }
-    return lines.join(u'\n');
-}
-
-/// A tool tip in which nothing is read as HTML, and whose remarks are broken into lines.
-QVariant toolTipOf(const PDFFileInfo &entry, int column) {
-    const QString tip = plainTipOf(entry, column);
-    const QString remarks = remarksOf(entry);
-    if (remarks.isEmpty() && !Qt::mightBeRichText(tip)) {
-        return tip.isEmpty() ? QVariant() : QVariant(tip);
-    }
-    const QString html = tip.isEmpty() ? QString() : Qt::convertFromPlainText(tip);
-    return html + Qt::convertFromPlainText(remarks, Qt::WhiteSpaceNormal);
-}
-
-/// The mark of an entry of which there is something to say.
-QVariant markOf(const PDFFileInfo &entry, int column) {
-    if (column != FilesArray::NameColumn || entry.remarks().isEmpty()) {
-        return {};
-    }
-    return QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);
-}
-
-QVariant fontOf(const RichText &text) {
-    if (!text.underlined) {
-        return {};
-    }
-    QFont font;
-    font.setUnderline(true);
-    return font;
-}
-
-QVariant colorOf(const RichText &text) {
-    return text.color ? QVariant(QColor(*text.color)) : QVariant();
-}
-
-QVariant alignmentOf(int column) {
-    const Qt::Alignment horizontal =
-        column == FilesArray::NameColumn ? Qt::AlignLeft : Qt::AlignHCenter;
-    return QVariant::fromValue(Qt::Alignment(horizontal | Qt::AlignVCenter));
-}
-
-} // namespace
 
 FilesArray::FilesArray(QObject *parent)
     : QAbstractTableModel(parent)
@@ -270,28 +179,7 @@ QVariant FilesArray::data(const QModelIndex &index, int role) const {
     if (!index.isValid() || index.row() >= count()) {
         return {};
     }
-    const PDFFileInfo &entry = at(index.row());
-    const bool hasLook = index.column() == DestinationColumn && entry.state();
-    switch (role) {
-    case Qt::DisplayRole:
-        return textOf(entry, index.column());
-    case Qt::ToolTipRole:
-        return toolTipOf(entry, index.column());
-    case Qt::DecorationRole:
-        return markOf(entry, index.column());
-    case Qt::AccessibleDescriptionRole:
-        return index.column() == NameColumn ? remarksOf(entry) : QString();
-    case Qt::TextAlignmentRole:
-        return alignmentOf(index.column());
-    case Qt::FontRole:
-        return hasLook ? fontOf(*entry.state()) : QVariant();
-    case Qt::ForegroundRole:
-        return hasLook ? colorOf(*entry.state()) : QVariant();
-    case kLinkRole:
-        return isLink(entry, index.column());
-    default:
-        return {};
-    }
+    return entryCell(at(index.row()), index.column(), role);
 }
 
 QVariant FilesArray::headerData(int section, Qt::Orientation orientation, int role) const {

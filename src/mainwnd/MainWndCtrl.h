@@ -46,8 +46,9 @@ struct PDFDocument {
 /// from the layout file MainWnd.ui; they belong to the window. Each operation reads controls into a
 /// plain record, calls the engine's function of the same words and shows the result. It is declared
 /// here once and defined by topic: MainWndCtrl.cpp (life of the window), MainWndCtrlOptions.cpp
-/// (options panel, output folder), MainWndCtrlFiles.cpp (file list), MainWndCtrlConvert.cpp (the
-/// steps of a run), MainWndCtrlProgress.cpp (what shows how it goes).
+/// (options panel, output folder), MainWndCtrlFiles.cpp (how files come into the list),
+/// MainWndCtrlEdit.cpp (what is done with the list), MainWndCtrlConvert.cpp (the steps of a run),
+/// MainWndCtrlProgress.cpp (what shows how it goes).
 class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::MainWnd {
     Q_OBJECT
 
@@ -113,6 +114,9 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void reindexFiles();
     void hasFileOpened(bool opened);
     void showBadFiles(const QStringList &paths);
+    bool acceptDrop(const QMimeData &data, int row) override;
+
+    // ---- Editing the list (MainWndCtrlEdit.cpp) ----------------------------------------------
 
     void clickBtnRemove();
     void clickBtnClear();
@@ -129,7 +133,6 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void clickMenuResortByDataModified() override;
     void clickMenuMoveUp() override;
     void clickMenuMoveDown() override;
-    bool acceptDrop(const QMimeData &data, int row) override;
 
     // ---- Runs (MainWndCtrlConvert.cpp) -------------------------------------------------------
 
@@ -187,6 +190,8 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void addFromPanel(const FilePanel &panel);
     void addKindFromPanel(const QString &title, FileKind kind);
     void insertEntries(std::vector<PDFFileInfo> entries, int row);
+
+    // Editing the list.
     void resort(SortOrder order);
     void exchangeWithRow(int row);
 
