@@ -165,7 +165,7 @@ ExitStatus runConversion(Arguments arguments) {
         return WrongUsage;
     }
     if (const auto notice = checkConversion(arguments.options)) {
-        console.complain(notice->message.section(u" Click "_s, 0, 0)); // What only a window has.
+        console.complain(notice->message);
         return WrongUsage;
     }
     return Call(arguments, console).convertAll();

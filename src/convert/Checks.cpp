@@ -5,12 +5,18 @@
 #include "convert/OutputName.h"
 #include "pdf/Password.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
+
+Notice otherFolderNotice(const QString &problem) {
+    return notice(problem,
+                  QCoreApplication::translate("Checks", "Click \"OK\" to select another folder."));
+}
 
 Notice equalPasswordsNotice() {
     return notice(u"The passwords can not be the same."_s);
@@ -33,8 +39,7 @@ std::optional<Notice> checkOutputFolder(const QString &folder) {
     }
     const QFileInfo info(folder);
     if (!info.isDir() || !info.isWritable()) {
-        return notice(u"Selected output folder does not exist or is not writable. "
-                      "Click \"OK\" to select another folder."_s);
+        return otherFolderNotice(u"Selected output folder does not exist or is not writable."_s);
     }
     return std::nullopt;
 }
@@ -88,6 +93,11 @@ std::optional<Notice> checkConversion(const ConversionOptions &options) {
         found = checkImagePageSizeSettings(options.imagePage);
     }
     return found ? found : checkMergedFile(options);
+}
+
+Notice folderNotWritableNotice() {
+    return otherFolderNotice(
+        QCoreApplication::translate("Checks", "Selected output folder is not writable."));
 }
 
 Notice nameExistsNotice() {

@@ -24,6 +24,9 @@ std::optional<Notice> checkMergedFile(const ConversionOptions &options);
 /// merged file.
 std::optional<Notice> checkConversion(const ConversionOptions &options);
 
+/// The notice that a folder chosen for output cannot be written to.
+Notice folderNotWritableNotice();
+
 /// The notice that the merged file's name is taken.
 Notice nameExistsNotice();
 

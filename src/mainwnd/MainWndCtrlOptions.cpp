@@ -3,6 +3,7 @@
 #include "mainwnd/MainWndCtrl.h"
 
 #include "convert/Bundle.h"
+#include "convert/Checks.h"
 #include "mainwnd/Desktop.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/Notices.h"
@@ -262,11 +263,8 @@ void MainWndCtrl::outputFolderChosen(const QStringList &paths) {
 }
 
 void MainWndCtrl::showInvalidOutputPathWarning() {
-    m_services.notices.showSheet(
-        m_window.get(),
-        notice(
-            tr("Selected output folder is not writable. Click \"OK\" to select another folder.")),
-        [this] { endShowInvalidOutputFolder(); });
+    m_services.notices.showSheet(m_window.get(), folderNotWritableNotice(),
+                                 [this] { endShowInvalidOutputFolder(); });
 }
 
 // NOLINTNEXTLINE(readability-make-member-function-const): what it starts changes the window.

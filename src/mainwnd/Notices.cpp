@@ -152,7 +152,7 @@ void Notices::show(QWidget *window, const Notice &notice, Kind kind, Ended ended
     auto *box = new QMessageBox(QMessageBox::NoIcon, notice.title, notice.title, QMessageBox::Ok,
                                 window, Qt::Sheet);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(notice.message);
+    box->setInformativeText(notice.textInWindow());
     showAsPlainText(*box);
     fitLongText(*box);
     box->setWindowModality(kind == Kind::Sheet ? Qt::WindowModal : Qt::ApplicationModal);

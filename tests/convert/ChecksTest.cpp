@@ -60,8 +60,7 @@ class ChecksTest : public QObject {
         QCOMPARE(messageOf(checkConversion(options)),
                  u"Please select an output folder to store the output documents."_s);
         options.outputFolder = m_folder.filePath(u"missing"_s);
-        const QString noFolder = u"Selected output folder does not exist or is not writable. Click "
-                                 "\"OK\" to select another folder."_s;
+        const QString noFolder = u"Selected output folder does not exist or is not writable."_s;
         QCOMPARE(messageOf(checkConversion(options)), noFolder);
         options.outputFolder = test::writeFile(m_folder.filePath(u"file"_s), "x");
         QCOMPARE(messageOf(checkConversion(options)), noFolder);
@@ -82,6 +81,17 @@ class ChecksTest : public QObject {
                  "name."_s);
         options.outputName = u"free"_s;
         QCOMPARE(messageOf(checkConversion(options)), QString());
+    }
+
+    void whatToClickIsSaidInTheWindowAlone() {
+        const Notice notice = checkOutputFolder(m_folder.filePath(u"missing"_s)).value();
+        QVERIFY(!notice.message.contains(u"Click"_s));
+        QCOMPARE(notice.textInWindow(),
+                 u"Selected output folder does not exist or is not writable. "
+                 "Click \"OK\" to select another folder."_s);
+        QCOMPARE(folderNotWritableNotice().textInWindow(),
+                 u"Selected output folder is not writable. "
+                 "Click \"OK\" to select another folder."_s);
     }
 
     void aFolderThatMayNotBeWrittenToIsRefused() {

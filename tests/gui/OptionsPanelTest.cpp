@@ -56,7 +56,7 @@ struct Panel {
     }
     [[nodiscard]] QString lastMessage() const {
         return world.notices.shown().empty() ? QString()
-                                             : world.notices.shown().back().notice.message;
+                                             : world.notices.shown().back().notice.textInWindow();
     }
     QStringList enabledAmong(const QStringList &names) {
         QStringList enabled;

@@ -162,7 +162,7 @@ class OutputFolderTest : public QObject {
         QVERIFY(QTest::qWaitFor([&] { return shownFolder(ctrl) == good; }));
         QCOMPARE(world.notices.filePanels().size(), std::size_t(3));
         QCOMPARE(world.notices.shown().size(), std::size_t(2));
-        QCOMPARE(world.notices.shown().front().notice, notice(kNotWritable));
+        QCOMPARE(world.notices.shown().front().notice.textInWindow(), kNotWritable);
     }
 
     void theWarningHasGoneBeforeThePanelComesAgain() {

@@ -74,7 +74,7 @@ class TestWindow : public WindowWorld {
     [[nodiscard]] QStringList messages() const {
         QStringList messages;
         for (const Notices::Shown &shown : notices.shown()) {
-            messages += shown.notice.message;
+            messages += shown.notice.textInWindow();
         }
         return messages;
     }
