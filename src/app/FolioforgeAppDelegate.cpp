@@ -51,6 +51,7 @@ void FolioforgeAppDelegate::applicationDidFinishLaunching() {
         QIcon(u"%1/Contents/Resources/folioforge-256.png"_s.arg(m_services.bundlePath)));
     m_mainWndCtrl->setDelegateObject(this);
     m_mainWndCtrl->window()->setMenuBar(m_menuBar.release());
+    m_mainWndCtrl->fillEditMenu(*m_editMenu);
     showMainWindow();
 }
 

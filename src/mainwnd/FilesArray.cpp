@@ -37,9 +37,9 @@ void FilesArray::insert(int row, std::vector<PDFFileInfo> entries) {
     endInsertRows();
 }
 
-void FilesArray::removeRowsAt(std::span<const int> rows) {
+std::vector<PDFFileInfo> FilesArray::takeRows(std::span<const int> rows) {
     if (rows.empty()) {
-        return;
+        return {};
     }
     // A view selects the neighbour of a removed current row, and the next press of Delete would
     // remove it. So the selection is cleared first, and the neighbour only becomes current.
@@ -48,19 +48,43 @@ void FilesArray::removeRowsAt(std::span<const int> rows) {
     const int removed = static_cast<int>(rows.size());
     int first = rows.front();
     if (rows.back() - first + 1 != removed) {
-        moveToEnd(rows);
+        rearrange(orderWithLast(rows));
         first = count() - removed;
     }
     beginRemoveRows({}, first, first + removed - 1);
-    m_entries.erase(m_entries.begin() + first, m_entries.begin() + first + removed);
+    const auto begin = m_entries.begin() + first;
+    std::vector<PDFFileInfo> taken(std::make_move_iterator(begin),
+                                   std::make_move_iterator(begin + removed));
+    m_entries.erase(begin, begin + removed);
     endRemoveRows();
     m_selection.setCurrentIndex(index(std::min(gap, count() - 1), NameColumn),
                                 QItemSelectionModel::NoUpdate);
+    return taken;
 }
 
-/// Moves the rows to the end, where they are removed as one block: a removal signal for each row
-/// would cost every listener quadratic time.
-void FilesArray::moveToEnd(std::span<const int> rows) {
+void FilesArray::putBack(std::span<const int> rows, std::vector<PDFFileInfo> entries) {
+    insert(count(), std::move(entries));
+    const std::vector<std::size_t> taken = orderWithLast(rows);
+    std::vector<std::size_t> order(taken.size());
+    for (std::size_t row = 0; row < taken.size(); ++row) {
+        order[taken[row]] = row;
+    }
+    rearrange(order);
+    QItemSelection selection;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const std::size_t first = i;
+        while (i + 1 < rows.size() && rows[i + 1] == rows[i] + 1) {
+            ++i;
+        }
+        selection.append({index(rows[first], 0), index(rows[i], ColumnCount - 1)});
+    }
+    m_selection.setCurrentIndex(index(rows.front(), NameColumn), QItemSelectionModel::NoUpdate);
+    m_selection.select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+/// The order in which `rows` come last, where they are one block: a signal for each row would cost
+/// every listener quadratic time.
+std::vector<std::size_t> FilesArray::orderWithLast(std::span<const int> rows) const {
     std::vector<std::size_t> order;
     order.reserve(m_entries.size());
     auto next = rows.begin();
@@ -72,16 +96,7 @@ void FilesArray::moveToEnd(std::span<const int> rows) {
         }
     }
     order.insert(order.end(), rows.begin(), rows.end());
-    rearrange(order);
-}
-
-void FilesArray::clear() {
-    if (isEmpty()) {
-        return;
-    }
-    beginRemoveRows({}, 0, count() - 1);
-    m_entries.clear();
-    endRemoveRows();
+    return order;
 }
 
 void FilesArray::rearrange(std::span<const std::size_t> order) {

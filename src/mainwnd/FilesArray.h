@@ -35,9 +35,11 @@ class FilesArray : public QAbstractTableModel {
 
     /// Puts `entries` in at `row` (0 to count(); anything else appends), in their order.
     void insert(int row, std::vector<PDFFileInfo> entries);
-    /// Removes the given rows, which ascend without repetition; nothing is selected afterwards.
-    void removeRowsAt(std::span<const int> rows);
-    void clear();
+    /// Removes the given rows, which ascend without repetition, and gives their entries; nothing is
+    /// selected afterwards.
+    std::vector<PDFFileInfo> takeRows(std::span<const int> rows);
+    /// Puts `entries` in so that they stand at `rows`, which ascend, and selects them.
+    void putBack(std::span<const int> rows, std::vector<PDFFileInfo> entries);
     /// Arranges the list once: row r becomes what row `order[r]` was. `order` is a permutation.
     void rearrange(std::span<const std::size_t> order);
     /// Takes the entry at `from` out and puts it in at `to`.
@@ -65,7 +67,7 @@ class FilesArray : public QAbstractTableModel {
                                       int role) const override;
 
   private:
-    void moveToEnd(std::span<const int> rows);
+    [[nodiscard]] std::vector<std::size_t> orderWithLast(std::span<const int> rows) const;
     void rowChanged(int row);
 
     std::vector<PDFFileInfo> m_entries;

@@ -4,6 +4,7 @@
 
 #include "mainwnd/Desktop.h"
 #include "mainwnd/FilesArray.h"
+#include "mainwnd/ListHistory.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
 #include "mainwnd/OptionsSlide.h"
@@ -32,7 +33,8 @@ void fitIntoScreen(QMainWindow &window) {
 
 MainWndCtrl::MainWndCtrl(WindowServices services)
     : m_services(std::move(services))
-    , m_filesArray(std::make_unique<FilesArray>()) {}
+    , m_filesArray(std::make_unique<FilesArray>())
+    , m_history(std::make_unique<ListHistory>(*m_filesArray)) {}
 
 MainWndCtrl::~MainWndCtrl() {
     m_stop.request_stop();
@@ -122,6 +124,7 @@ void MainWndCtrl::initCtrl() {
     m_btnRemove->setEnabled(false);
     connectControls();
     connectAnswer();
+    connectHistory();
 }
 
 void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,

@@ -17,12 +17,16 @@
 #include <optional>
 #include <thread>
 
+class QMenu;
+
 namespace folioforge {
 
 class FilesArray;
+class ListHistory;
 class OptionsSlide;
 struct FilePanel;
 enum class FileKind;
+enum class ListCommand;
 enum class SortOrder;
 
 /// Hears from the window whether the file list holds files.
@@ -133,6 +137,11 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void clickMenuResortByDataModified() override;
     void clickMenuMoveUp() override;
     void clickMenuMoveDown() override;
+    /// Takes the last change of the list back, or does again what was taken back last.
+    void undo();
+    void redo();
+    /// Puts Undo, Redo and the commands of the list into `menu`.
+    void fillEditMenu(QMenu &menu);
 
     // ---- Runs (MainWndCtrlConvert.cpp) -------------------------------------------------------
 
@@ -192,8 +201,11 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void insertEntries(std::vector<PDFFileInfo> entries, int row);
 
     // Editing the list.
-    void resort(SortOrder order);
-    void exchangeWithRow(int row);
+    void connectHistory();
+    void remove(ListCommand command, std::vector<int> rows);
+    void resort(ListCommand command, SortOrder order);
+    void exchangeWithRow(ListCommand command, int row);
+    void goThroughHistory(QString (ListHistory::*step)(const QString &));
 
     // Runs.
     class WorkerObserver;
@@ -205,6 +217,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void PDFCreated(const PDFOutcome &outcome);
     void showRemarks(const PDFOutcome &outcome);
     void showFailures();
+    void setConverting(bool converting);
     void endRun();
     void startWorker(std::function<void(ConversionObserver &)> work);
     /// Queues `work` without waiting; it is dropped when the controller goes first.
@@ -216,6 +229,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     std::unique_ptr<QMainWindow> m_window;
     MainWndDelegate *m_delegate = nullptr;
     std::unique_ptr<FilesArray> m_filesArray;
+    std::unique_ptr<ListHistory> m_history; ///< All changes of the list go through it.
 
     QWidget *m_currentSettingsView = nullptr;
     std::unique_ptr<OptionsSlide> m_optionsSlide;

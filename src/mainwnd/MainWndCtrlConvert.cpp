@@ -3,6 +3,8 @@
 #include "mainwnd/MainWndCtrl.h"
 
 #include "mainwnd/FilesArray.h"
+#include "mainwnd/ListCommands.h"
+#include "mainwnd/ListHistory.h"
 
 #include <utility>
 
@@ -22,7 +24,7 @@ void MainWndCtrl::clickBtnCreate() {
     m_fileIndex = 0;
     m_answer->hide();
     m_filesArray->setStateIndexOfAll(Waiting);
-    m_bConverting = true;
+    setConverting(true);
     showAlertView();
     createSingleFile();
 }
@@ -108,8 +110,15 @@ void MainWndCtrl::compressCompleted() {
     m_run->hasEntry(next) ? createSingleFile() : endRun();
 }
 
+/// The list does not change during a run.
+void MainWndCtrl::setConverting(bool converting) {
+    m_bConverting = converting;
+    m_history->setLocked(converting);
+    m_tableview->commands().refresh();
+}
+
 void MainWndCtrl::endRun() {
-    m_bConverting = false;
+    setConverting(false);
     const std::optional<Notice> problems = m_run->problems();
     m_answer->show(m_run->summary());
     m_run.reset();

@@ -4,14 +4,62 @@
 
 #include "filelist/Orders.h"
 #include "mainwnd/FilesArray.h"
+#include "mainwnd/ListCommands.h"
+#include "mainwnd/ListHistory.h"
+
+#include <QAction>
+#include <QMenu>
+
+#include <numeric>
 
 namespace folioforge {
+
+void MainWndCtrl::connectHistory() {
+    connect(m_history->undoAction(), &QAction::triggered, this, &MainWndCtrl::undo);
+    connect(m_history->redoAction(), &QAction::triggered, this, &MainWndCtrl::redo);
+    m_window->addActions({m_history->undoAction(), m_history->redoAction()});
+}
+
+void MainWndCtrl::fillEditMenu(QMenu &menu) {
+    menu.addActions({m_history->undoAction(), m_history->redoAction()});
+    menu.addSeparator();
+    m_tableview->commands().addTo(menu);
+}
+
+void MainWndCtrl::undo() {
+    goThroughHistory(&ListHistory::undo);
+}
+
+void MainWndCtrl::redo() {
+    goThroughHistory(&ListHistory::redo);
+}
+
+/// The name of the merged PDF goes with the list: hasFileOpened() empties it with the list, and it
+/// comes back with the list unless another was typed.
+void MainWndCtrl::goThroughHistory(QString (ListHistory::*step)(const QString &)) {
+    if (!canEditList()) {
+        return;
+    }
+    const bool wasEmpty = m_filesArray->isEmpty();
+    const QString name = (m_history.get()->*step)(m_tfOutputName->text());
+    reindexFiles();
+    hasFileOpened(!m_filesArray->isEmpty());
+    if (wasEmpty && m_tfOutputName->text().isEmpty()) {
+        m_tfOutputName->setText(name);
+    }
+    m_tableview->setFocus();
+    m_tableview->scrollTo(m_filesArray->index(m_tableview->selectedRow(), FilesArray::NameColumn));
+}
+
+void MainWndCtrl::remove(ListCommand command, std::vector<int> rows) {
+    m_history->remove(ListCommands::title(command), std::move(rows), m_tfOutputName->text());
+}
 
 void MainWndCtrl::clickBtnRemove() {
     if (!canEditList()) {
         return;
     }
-    m_filesArray->removeRowsAt(m_filesArray->selectedRows());
+    remove(ListCommand::Remove, m_filesArray->selectedRows());
     m_tableview->setFocus();
     if (!m_filesArray->isEmpty()) {
         reindexFiles();
@@ -23,7 +71,9 @@ void MainWndCtrl::clickBtnClear() {
     if (!canEditList()) {
         return;
     }
-    m_filesArray->clear();
+    std::vector<int> all(std::size_t(m_filesArray->count()));
+    std::iota(all.begin(), all.end(), 0);
+    remove(ListCommand::Clear, std::move(all));
     hasFileOpened(false);
 }
 
@@ -57,48 +107,49 @@ void MainWndCtrl::clickMenuClear() {
 }
 
 void MainWndCtrl::clickMenuResortByName() {
-    resort(SortOrder::Name);
+    resort(ListCommand::SortByName, SortOrder::Name);
 }
 
 void MainWndCtrl::clickMenuResortBySize() {
-    resort(SortOrder::Size);
+    resort(ListCommand::SortBySize, SortOrder::Size);
 }
 
 void MainWndCtrl::clickMenuResortByDataCreated() {
-    resort(SortOrder::Created);
+    resort(ListCommand::SortByCreated, SortOrder::Created);
 }
 
 void MainWndCtrl::clickMenuResortByDataModified() {
-    resort(SortOrder::Modified);
+    resort(ListCommand::SortByModified, SortOrder::Modified);
 }
 
-void MainWndCtrl::resort(SortOrder order) {
+void MainWndCtrl::resort(ListCommand command, SortOrder order) {
     if (!canEditList()) {
         return;
     }
-    m_filesArray->rearrange(arrangedOrder(m_filesArray->arrangedObjects(), order));
+    m_history->rearrange(ListCommands::title(command),
+                         arrangedOrder(m_filesArray->arrangedObjects(), order));
     reindexFiles();
 }
 
 void MainWndCtrl::clickMenuMoveUp() {
     if (canEditList() && canMoveUp()) {
-        exchangeWithRow(m_tableview->selectedRow() - 1);
+        exchangeWithRow(ListCommand::MoveUp, m_tableview->selectedRow() - 1);
     }
 }
 
 void MainWndCtrl::clickMenuMoveDown() {
     if (canEditList() && canMoveDown()) {
-        exchangeWithRow(m_tableview->selectedRow() + 1);
+        exchangeWithRow(ListCommand::MoveDown, m_tableview->selectedRow() + 1);
     }
 }
 
 /// Puts the selected entry at the neighbouring `row`; the two exchange their numbers.
-void MainWndCtrl::exchangeWithRow(int row) {
+void MainWndCtrl::exchangeWithRow(ListCommand command, int row) {
     const int selected = m_tableview->selectedRow();
     const int step = row - selected;
     m_filesArray->setIndex(selected, m_filesArray->at(selected).index() + step);
     m_filesArray->setIndex(row, m_filesArray->at(row).index() - step);
-    m_filesArray->move(selected, row);
+    m_history->move(ListCommands::title(command), selected, row);
     m_tableview->scrollTo(m_filesArray->index(row, FilesArray::NameColumn));
 }
 

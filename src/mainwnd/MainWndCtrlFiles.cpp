@@ -7,6 +7,7 @@
 #include "filelist/SourceFiles.h"
 #include "files/PathNames.h"
 #include "mainwnd/FilesArray.h"
+#include "mainwnd/ListHistory.h"
 #include "mainwnd/Notices.h"
 
 #include <QFileInfo>
@@ -164,7 +165,7 @@ void MainWndCtrl::insertEntries(std::vector<PDFFileInfo> entries, int row) {
     for (PDFFileInfo &entry : entries) {
         entry.setIndex(++index);
     }
-    m_filesArray->insert(row, std::move(entries));
+    m_history->insert(tr("Add"), row, std::move(entries));
 }
 
 void MainWndCtrl::reindexFiles() {

@@ -4,6 +4,7 @@
 
 #include "mainwnd/ColumnWidths.h"
 #include "mainwnd/FilesArray.h"
+#include "mainwnd/ListCommands.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -14,7 +15,6 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QShortcut>
 
 #include <algorithm>
 
@@ -41,7 +41,8 @@ bool asksToOpen(const QKeyEvent &key) {
 
 SkinTableView::SkinTableView(QWidget *parent)
     : QTableView(parent)
-    , m_columns(new ColumnWidths(*this)) {
+    , m_columns(new ColumnWidths(*this))
+    , m_commands(new ListCommands(*this)) {
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -58,16 +59,16 @@ SkinTableView::SkinTableView(QWidget *parent)
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(kRowHeight);
-
-    using Delegate = SkinTableViewDelegate;
-    addKey(QKeySequence::Delete, &Delegate::canRemoveClear, &SkinTableView::clickMenuRemove);
-    addKey(QKeySequence::SelectAll, &Delegate::canRemoveClear, &SkinTableView::selectAll);
-    addKey(Qt::ALT | Qt::Key_Up, &Delegate::canMoveUp, &SkinTableView::clickMenuMoveUp);
-    addKey(Qt::ALT | Qt::Key_Down, &Delegate::canMoveDown, &SkinTableView::clickMenuMoveDown);
 }
 
 void SkinTableView::setTableDelegate(SkinTableViewDelegate *delegate) {
     m_delegate = delegate;
+    m_commands->setDelegate(delegate);
+}
+
+void SkinTableView::setSelectionModel(QItemSelectionModel *selection) {
+    QTableView::setSelectionModel(selection);
+    m_commands->follow(*selection);
 }
 
 int SkinTableView::selectedRow() const {
@@ -85,15 +86,9 @@ bool SkinTableView::selectsOneRow() const {
     return selectionModel() && selectionModel()->selectedRows().size() == 1;
 }
 
-void SkinTableView::addKey(const QKeySequence &keys,
-                           bool (SkinTableViewDelegate::*isPossible)() const, Command command) {
-    const auto run = [this, isPossible, command] {
-        if (m_delegate && m_delegate->canEditList() && (m_delegate->*isPossible)()) {
-            (this->*command)();
-        }
-    };
-    // Elsewhere these keys mean something else: Alt+Down opens a combo box.
-    new QShortcut(keys, this, run, Qt::WidgetWithChildrenShortcut);
+void SkinTableView::selectAll() {
+    QTableView::selectAll();
+    setFocus();
 }
 
 void SkinTableView::clickMenuRemove() {
@@ -128,35 +123,10 @@ void SkinTableView::clickMenuMoveDown() {
     m_delegate->clickMenuMoveDown();
 }
 
-QMenu *SkinTableView::buildContextMenu() {
-    auto *menu = new QMenu(u"Contextual Menu"_s, this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    const bool canEdit = m_delegate->canEditList();
-    const auto add = [&](const QString &title, bool enabled, Command command) {
-        QAction *item = menu->addAction(title, this, command);
-        item->setEnabled(canEdit && enabled);
-    };
-    const bool canRemoveClear = m_delegate->canRemoveClear();
-    const bool canResort = m_delegate->canResort();
-    add(u"Remove"_s, canRemoveClear, &SkinTableView::clickMenuRemove);
-    add(u"Clear"_s, canRemoveClear, &SkinTableView::clickMenuClear);
-    menu->addSeparator();
-    add(canResort ? u"Sort By Name"_s : u"Resort By Name"_s, canResort,
-        &SkinTableView::clickMenuResortByName);
-    add(canResort ? u"Sort By Size"_s : u"Resort By Size"_s, canResort,
-        &SkinTableView::clickMenuResortBySize);
-    add(u"Sort By Data Created"_s, canResort, &SkinTableView::clickMenuResortByDataCreated);
-    add(u"Sort By Data Modified"_s, canResort, &SkinTableView::clickMenuResortByDataModified);
-    menu->addSeparator();
-    add(u"Move Up"_s, m_delegate->canMoveUp(), &SkinTableView::clickMenuMoveUp);
-    add(u"Move Down"_s, m_delegate->canMoveDown(), &SkinTableView::clickMenuMoveDown);
-    return menu;
-}
-
 void SkinTableView::contextMenuEvent(QContextMenuEvent *event) {
     // Some window systems send the Menu key and a menu request after it.
     if (m_delegate && !QApplication::activePopupWidget()) {
-        buildContextMenu()->popup(contextMenuPosition(*event));
+        m_commands->makeContextMenu()->popup(contextMenuPosition(*event));
         event->accept();
     }
 }
@@ -167,6 +137,8 @@ void SkinTableView::keyPressEvent(QKeyEvent *event) {
         contextMenuEvent(&menu);
     } else if (asksToOpen(*event) && m_delegate && selectsOneRow()) {
         m_delegate->clickedDest(selectedRow());
+    } else if (m_commands->claims(*event)) {
+        event->accept(); // The command is not possible now; the table itself must not do another.
     } else {
         QTableView::keyPressEvent(event);
     }

@@ -6,12 +6,12 @@
 
 #include <optional>
 
-class QMenu;
 class QMimeData;
 
 namespace folioforge {
 
 class ColumnWidths;
+class ListCommands;
 
 /// What the file table asks of its controller, and the commands that it hands on.
 class SkinTableViewDelegate {
@@ -54,7 +54,11 @@ class SkinTableView : public QTableView {
     void setTableDelegate(SkinTableViewDelegate *delegate);
     /// The first selected row, or -1.
     [[nodiscard]] int selectedRow() const;
+    /// What can be done with the list, for menus.
+    [[nodiscard]] ListCommands &commands() const { return *m_commands; }
 
+    void setSelectionModel(QItemSelectionModel *selection) override;
+    void selectAll() override;
     void clickMenuRemove();
     void clickMenuClear();
     void clickMenuResortByName();
@@ -78,12 +82,7 @@ class SkinTableView : public QTableView {
     void resizeEvent(QResizeEvent *event) override;
 
   private:
-    using Command = void (SkinTableView::*)();
-
-    void addKey(const QKeySequence &keys, bool (SkinTableViewDelegate::*isPossible)() const,
-                Command command);
     [[nodiscard]] bool selectsOneRow() const;
-    [[nodiscard]] QMenu *buildContextMenu();
     [[nodiscard]] QPoint contextMenuPosition(const QContextMenuEvent &event) const;
     [[nodiscard]] int dropRowAt(const QPoint &position) const;
     void validateDrop(QDropEvent &event);
@@ -93,7 +92,8 @@ class SkinTableView : public QTableView {
     void paintHint(QPainter &painter) const;
 
     SkinTableViewDelegate *m_delegate = nullptr;
-    ColumnWidths *m_columns; ///< A child.
+    ColumnWidths *m_columns;  ///< A child.
+    ListCommands *m_commands; ///< A child.
     std::optional<int> m_dropRow;
 };
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "WindowWorld.h"
+#include "TestApplication.h"
 
-#include "app/FolioforgeAppDelegate.h"
 #include "mainwnd/FilesArray.h"
-#include "skin/OptionsDrawer.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
 
@@ -37,66 +35,6 @@ class CountingUpdater : public Updater {
 
   private:
     int &m_checks;
-};
-
-struct Application {
-    explicit Application(std::unique_ptr<Updater> updater = nullptr)
-        : delegate(world.services(), std::move(updater)) {
-        world.storeFolder(world.home.path());
-        world.notices.answerNoticesAtOnce();
-        delegate.applicationDidFinishLaunching();
-    }
-
-    QMainWindow &window() { return *delegate.mainWndCtrl().window(); }
-    QAction &item(const QString &title) {
-        for (QAction *action : window().menuBar()->findChildren<QAction *>()) {
-            if (action->text().remove(u'&') == title) {
-                return *action;
-            }
-        }
-        qFatal("no item %s", qPrintable(title));
-    }
-    /// Gives the main window the keyboard.
-    void activate() {
-        window().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window()));
-    }
-    void addTexts(int count) {
-        QStringList paths;
-        for (int i = 0; i < count; ++i) {
-            paths += world.file(u"%1.txt"_s.arg(i));
-        }
-        delegate.mainWndCtrl().addFiles(paths, -1);
-    }
-    /// What the output folder holds, which is the home folder.
-    [[nodiscard]] QStringList documents() const {
-        QStringList paths;
-        for (const QFileInfo &file : QDir(world.home.path()).entryInfoList({u"*.pdf"_s})) {
-            paths += file.filePath();
-        }
-        return paths;
-    }
-    /// Shows the options panel and, in it, the settings that `button` stands for.
-    void showSettings(const char *button) {
-        QTest::mouseClick(&controlOf<QWidget>(window(), "m_btnExpand"), Qt::LeftButton);
-        auto &drawer = controlOf<OptionsDrawer>(window(), "m_optionsDrawer");
-        QTRY_COMPARE(drawer.openWidth(), 342);
-        QTest::mouseClick(&controlOf<QWidget>(window(), button), Qt::LeftButton);
-        activate();
-    }
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(window().windowHandle(), key, modifiers);
-    }
-
-    /// Runs the application, in which the user closes the main window; 0 when that ends it.
-    int runUntilClosed() {
-        QTimer::singleShot(0, &window(), [this] { window().close(); });
-        QTimer::singleShot(10000, &window(), [] { QCoreApplication::exit(1); });
-        return QApplication::exec();
-    }
-
-    WindowWorld world;
-    FolioforgeAppDelegate delegate;
 };
 
 /// The keys, such as Alt+F, that the texts in sight of `window` and its menu bar give.
@@ -214,7 +152,8 @@ class AppDelegateTest : public QObject {
         Application application;
         application.showSettings(settings);
         for (const auto &[key, title] :
-             {std::pair(Qt::Key_F, u"&File"_s), std::pair(Qt::Key_H, u"&Help"_s)}) {
+             {std::pair(Qt::Key_F, u"&File"_s), std::pair(Qt::Key_E, u"&Edit"_s),
+              std::pair(Qt::Key_H, u"&Help"_s)}) {
             application.key(key, Qt::AltModifier);
             auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
             QVERIFY(menu);

@@ -113,14 +113,14 @@ class FilesArrayTest : public QObject {
 
     void neighboursAreRemovedTogether() {
         FiveFiles list;
-        list.files.removeRowsAt(std::vector<int>{1, 2, 3});
+        list.files.takeRows(std::vector<int>{1, 2, 3});
         QCOMPARE(namesOf(list.files), u"a e"_s);
     }
 
     void scatteredRowsAreRemovedWithOneAnnouncement() {
         FiveFiles list;
         const QSignalSpy removed(&list.files, &QAbstractItemModel::rowsRemoved);
-        list.files.removeRowsAt(std::vector<int>{0, 2, 4});
+        list.files.takeRows(std::vector<int>{0, 2, 4});
         QCOMPARE(namesOf(list.files), u"b d"_s);
         QCOMPARE(removed.count(), 1);
     }
@@ -130,7 +130,7 @@ class FilesArrayTest : public QObject {
         files.insert(-1, numbered(100'000));
         std::vector<int> even(50'000);
         std::ranges::generate(even, [row = -2]() mutable { return row += 2; });
-        files.removeRowsAt(even);
+        files.takeRows(even);
         QCOMPARE(files.count(), 50'000);
         QCOMPARE(files.at(0).fileName(), u"1"_s);
         QCOMPARE(files.at(49'999).fileName(), u"99999"_s);
@@ -139,25 +139,35 @@ class FilesArrayTest : public QObject {
     void removalLeavesNothingSelectedAndTheNeighbourCurrent() {
         FiveFiles list;
         select(list.files, {1, 3});
-        list.files.removeRowsAt(list.files.selectedRows());
+        list.files.takeRows(list.files.selectedRows());
         QVERIFY(!list.files.selectionModel()->hasSelection());
         QCOMPARE(list.files.selectionModel()->currentIndex().row(), 1);
     }
 
     void removingTheLastRowsMakesTheNewLastOneCurrent() {
         FiveFiles list;
-        list.files.removeRowsAt(std::vector<int>{3, 4});
+        list.files.takeRows(std::vector<int>{3, 4});
         QCOMPARE(list.files.selectionModel()->currentIndex().row(), 2);
     }
 
-    void clearEmptiesTheList() {
+    void allRowsCanBeTaken() {
         FiveFiles list;
         select(list.files, {0, 4});
-        list.files.clear();
+        QCOMPARE(list.files.takeRows(std::vector<int>{0, 1, 2, 3, 4}).size(), std::size_t(5));
         QVERIFY(list.files.isEmpty());
         QVERIFY(list.files.selectedRows().empty());
-        list.files.clear();
-        QCOMPARE(list.files.rowCount(), 0);
+    }
+
+    void takenRowsComeBackWhereTheyWereAndAreSelected() {
+        FiveFiles list;
+        const std::vector<int> rows{0, 2, 3};
+        std::vector<PDFFileInfo> taken = list.files.takeRows(rows);
+        const QSignalSpy inserted(&list.files, &QAbstractItemModel::rowsInserted);
+        list.files.putBack(rows, std::move(taken));
+        QCOMPARE(namesOf(list.files), u"a b c d e"_s);
+        QCOMPARE(inserted.count(), 1);
+        QCOMPARE(list.files.selectedRows(), rows);
+        QCOMPARE(list.files.selectionModel()->currentIndex().row(), 0);
     }
 
     void rearrangingMovesTheSelectionWithItsEntries() {
