@@ -8,7 +8,9 @@ target_compile_options(folioforge_compiler INTERFACE
     -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wcast-qual
     -Wduplicated-cond -Wlogical-op
     # Clang and its tools read the same command lines and lack the two above.
-    -Wno-unknown-warning-option)
+    -Wno-unknown-warning-option
+    # GCC takes files that are compiled together for headers.
+    -Wno-subobject-linkage)
 if(FOLIOFORGE_WERROR)
     target_compile_options(folioforge_compiler INTERFACE -Werror)
 endif()
@@ -20,9 +22,7 @@ target_link_libraries(folioforge_program INTERFACE folioforge_compiler)
 
 if(FOLIOFORGE_SANITIZE)
     target_compile_options(folioforge_program INTERFACE
-        -O1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
-        # It takes files that are compiled together for headers.
-        -Wno-subobject-linkage)
+        -O1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(folioforge_compiler INTERFACE -fsanitize=address,undefined)
 endif()
 
@@ -35,12 +35,3 @@ endif()
 target_compile_definitions(folioforge_compiler INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
     QT_STRICT_ITERATORS)
-
-# The objects of the tests are the same with and without sanitizers, and in every checkout: compiled
-# once, they serve all. Paths count from the checkout; the rest is what headers compiled ahead ask for.
-find_program(FOLIOFORGE_CCACHE ccache)
-if(FOLIOFORGE_CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER env "CCACHE_BASEDIR=${PROJECT_SOURCE_DIR}" CCACHE_NOHASHDIR=1
-        "CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime"
-        "${FOLIOFORGE_CCACHE}")
-endif()

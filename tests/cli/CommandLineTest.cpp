@@ -62,7 +62,7 @@ class CommandLineTest : public QObject, protected CommandLineCase {
 
     void thePropertiesOfAPdfStayWhereThatIsAskedFor() {
         PdfFixture source;
-        source.object(1, "<< /Type /Catalog /Pages 2 0 R >>")
+        source.object(1, kCatalog)
             .pages(4, 1)
             .object(20, "<< /Title (Its own) /Author (Its own) >>")
             .trailer("/Info 20 0 R");

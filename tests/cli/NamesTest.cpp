@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "CommandLineCase.h"
 #include "support/Files.h"
 #include "support/HostileNames.h"
 #include "support/PdfProbe.h"
@@ -19,12 +20,6 @@ using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
 using test::ToolRun;
-
-namespace {
-
-const QString kProgram = test::commandLineProgram();
-
-} // namespace
 
 /// File names that are made to be misread are converted under their names, and shown harmlessly.
 class NamesTest : public QObject {
@@ -46,7 +41,8 @@ class NamesTest : public QObject {
         }
     }
     ToolRun convert(const QStringList &arguments) const {
-        return test::runTool(kProgram, QStringList{u"--output-folder"_s, path("out")} + arguments);
+        return test::runTool(test::kProgram,
+                             QStringList{u"--output-folder"_s, path("out")} + arguments);
     }
 
   private Q_SLOTS:
@@ -127,7 +123,7 @@ class NamesTest : public QObject {
         writeInputs(".txt", "number");
         QProcess process;
         process.setWorkingDirectory(path("in"));
-        process.start(kProgram,
+        process.start(test::kProgram,
                       {u"--output-folder=../out"_s, u"--"_s, u"-rf.txt"_s, u"--json.txt"_s});
         QVERIFY(process.waitForFinished());
         QCOMPARE(process.exitCode(), 0);
@@ -143,7 +139,7 @@ class NamesTest : public QObject {
                 continue;
             }
             const QString target = path("out/") + test::readableBase(name) + u".pdf"_s;
-            const ToolRun run = test::runTool(kProgram, {u"--merge"_s, target, source});
+            const ToolRun run = test::runTool(test::kProgram, {u"--merge"_s, target, source});
             QCOMPARE(run.exitCode, 0);
             QVERIFY(test::isHarmlessForTerminals(run.out));
             QVERIFY(QFile::exists(target));

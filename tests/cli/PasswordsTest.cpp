@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "CommandLineCase.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
@@ -23,7 +24,6 @@ using test::ToolRun;
 
 namespace {
 
-const QString kProgram = test::commandLineProgram();
 const QByteArray kPassword = "correct horse battery";
 
 /// How large an image of its memory `process` may leave.
@@ -55,7 +55,7 @@ class PasswordsTest : public QObject {
     void neitherReportNorFilesHoldThePassword() {
         QVERIFY(test::photo(300, 200).save(path("photo.jpg"), "JPG", 95));
         const ToolRun run = test::runTool(
-            kProgram,
+            test::kProgram,
             outputArguments() + QStringList{u"--user-password-file=-"_s, u"--json"_s,
                                             u"--progress=always"_s, u"--compress=72l"_s,
                                             path("photo.jpg"), path("missing.txt")},
@@ -81,7 +81,7 @@ class PasswordsTest : public QObject {
     void thereIsNoOptionForAPassword() {
         QFETCH(const QString, option);
         const ToolRun run = test::runTool(
-            kProgram, {option + u'=' + QString::fromLatin1(kPassword), path("missing.txt")});
+            test::kProgram, {option + u'=' + QString::fromLatin1(kPassword), path("missing.txt")});
         QCOMPARE(run.exitCode, 2);
         QVERIFY(!run.err.contains(kPassword));
     }
@@ -116,9 +116,9 @@ class PasswordsTest : public QObject {
         const QString file = test::writeFile(path("password"), password + "\n");
         const QString source = test::writeFile(path("a.txt"), "words");
         for (const char *option : {"--user-password-file", "--owner-password-file"}) {
-            const ToolRun run =
-                test::runTool(kProgram, outputArguments() +
-                                            QStringList{QString::fromLatin1(option), file, source});
+            const ToolRun run = test::runTool(
+                test::kProgram,
+                outputArguments() + QStringList{QString::fromLatin1(option), file, source});
             QCOMPARE(run.exitCode, 2);
             QCOMPARE(run.err, "folioforge-cli: " + notice + '\n');
             QVERIFY(QDir(path("out")).isEmpty());
@@ -134,9 +134,9 @@ class PasswordsTest : public QObject {
             limit.rlim_cur = limit.rlim_max;
             ::setrlimit(RLIMIT_CORE, &limit);
         });
-        process.start(kProgram, outputArguments() + QStringList{u"--user-password-file=-"_s,
-                                                                u"--owner-password-file=-"_s,
-                                                                path("missing.txt")});
+        process.start(test::kProgram, outputArguments() + QStringList{u"--user-password-file=-"_s,
+                                                                      u"--owner-password-file=-"_s,
+                                                                      path("missing.txt")});
         QVERIFY(process.waitForStarted());
         process.write(kPassword + '\n');
         QVERIFY(process.waitForBytesWritten());

@@ -17,7 +17,7 @@ using namespace folioforge::test;
 
 namespace {
 
-const QByteArray kDrawn("288 0 0 216 0 0 cm /Im0 Do");
+const QByteArray kDrawnAtOrigin("288 0 0 216 0 0 cm /Im0 Do");
 const QByteArray kXObjects("/Resources << /XObject << /Im0 5 0 R >> >> ");
 const QByteArray kFormKeys("/Type /XObject /Subtype /Form /BBox [0 0 400 300] ");
 
@@ -89,7 +89,8 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     void anAppearanceOfOneOfSeveralStatesCounts() {
         auto page = photoPage("", "/Annots [<< /Type /Annot /Subtype /Stamp /AS "
                                   "/Off /Rect [50 20 338 236] /AP << /N << /On 6 0 R >> >> >>]");
-        page.stream(6, "/Type /XObject /Subtype /Form /BBox [0 0 288 216] " + kXObjects, kDrawn);
+        page.stream(6, "/Type /XObject /Subtype /Form /BBox [0 0 288 216] " + kXObjects,
+                    kDrawnAtOrigin);
         writePage(page);
         QVERIFY(copyHoldsWidth("600"));
     }
@@ -100,7 +101,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
                     "/Type /Pattern /PatternType 1 /PaintType 1 /TilingType 1 /BBox [0 0 288 216] "
                     "/XStep 288 /YStep 216 /Matrix [.5 0 0 .5 0 0] " +
                         kXObjects,
-                    kDrawn);
+                    kDrawnAtOrigin);
         writePage(page);
         QVERIFY(copyHoldsWidth("300"));
         QVERIFY(changeOf(compressed()) < 5);
@@ -113,7 +114,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
                     "/Type /XObject /Subtype /Form /BBox [0 0 400 300] /Group << /S /Transparency "
                     "/CS /DeviceRGB >> " +
                         kXObjects,
-                    kDrawn);
+                    kDrawnAtOrigin);
         writePage(page);
         QVERIFY(copyHoldsWidth("600"));
         QVERIFY(changeOf(compressed()) < 5);
@@ -155,7 +156,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     void whatStandsBehindDamagedContentKeepsItsSize() {
         // Drawn small before the break; how large behind it nobody can read.
         const QByteArray packed =
-            flate("q 72 0 0 54 0 0 cm /Im0 Do Q " + QByteArray(200000, ' ') + kDrawn);
+            flate("q 72 0 0 54 0 0 cm /Im0 Do Q " + QByteArray(200000, ' ') + kDrawnAtOrigin);
         auto page = photoPage({});
         page.stream(4, "/Filter /FlateDecode", packed.first(packed.size() - 40));
         writePage(page);
@@ -166,7 +167,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     }
 
     void whatOnlyDamagedContentDrawsLargeKeepsItsSize() {
-        const QByteArray packed = flate(QByteArray(200000, ' ') + kDrawn);
+        const QByteArray packed = flate(QByteArray(200000, ' ') + kDrawnAtOrigin);
         PdfFixture page = photoPage({});
         page.object(2, "<< /Type /Pages /Kids [3 0 R 8 0 R] /Count 2 >>")
             .stream(4, "/Filter /FlateDecode", packed.first(packed.size() - 40))
@@ -184,7 +185,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         page.stream(6,
                     "/Type /XObject /Subtype /Form /BBox [0 0 400 300] /Resources << /XObject << "
                     "/Im0 5 0 R /Fm0 6 0 R >> >>",
-                    kDrawn + " /Fm0 Do");
+                    kDrawnAtOrigin + " /Fm0 Do");
         writePage(page);
         QVERIFY(staysUnclear());
     }
@@ -208,7 +209,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         // Without resources of their own; followed along every path they would take years.
         auto page = photoPage("/Fm0 Do");
         QByteArray names("/Im0 5 0 R /Fm0 6 0 R");
-        QByteArray content = "q " + kDrawn + " Q";
+        QByteArray content = "q " + kDrawnAtOrigin + " Q";
         for (int number = 10; number < 40; ++number) {
             const QByteArray name = "/Fm" + QByteArray::number(number);
             names += " " + name + " " + QByteArray::number(number) + " 0 R";
@@ -230,7 +231,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         auto page = photoPage("/Fm0 Do /Fm1 Do");
         page.object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 4 0 R "
                        "/Resources << /XObject << /Im0 5 0 R /Fm0 6 0 R /Fm1 8 0 R >> >> >>")
-            .stream(6, kFormKeys, kDrawn)
+            .stream(6, kFormKeys, kDrawnAtOrigin)
             .stream(8, kFormKeys + "/Resources << /XObject << /Im0 9 0 R /Fm0 6 0 R >> >>",
                     "/Fm0 Do")
             .stream(9, imageKeys(1000, 750, kJpegRgb), jpeg(photo(1000, 750)));
@@ -241,14 +242,14 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     }
 
     void whatIsDrawnWithinTooManySavedStatesStays() {
-        writeJpegPage("q 72 0 0 54 0 0 cm /Im0 Do Q " + QByteArray("q ").repeated(2001) + kDrawn +
-                      QByteArray(" Q").repeated(2001));
+        writeJpegPage("q 72 0 0 54 0 0 cm /Im0 Do Q " + QByteArray("q ").repeated(2001) +
+                      kDrawnAtOrigin + QByteArray(" Q").repeated(2001));
         QVERIFY(staysUnclear());
     }
 
     void whatAFormDrawsWithinTooManySavedStatesStays() {
         auto page = photoPage(QByteArray("q ").repeated(2001) + "/Fm0 Do");
-        page.stream(6, kFormKeys + kXObjects, kDrawn);
+        page.stream(6, kFormKeys + kXObjects, kDrawnAtOrigin);
         writePage(page);
         QVERIFY(staysUnclear());
     }
@@ -256,7 +257,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     void theInnermostOfManySavedStatesIsRestored() {
         // Were the first "cm" still to count behind its "Q", the image would be drawn a tenth as
         // large.
-        writeJpegPage(QByteArray("q ").repeated(2001) + ".1 0 0 .1 0 0 cm Q " + kDrawn);
+        writeJpegPage(QByteArray("q ").repeated(2001) + ".1 0 0 .1 0 0 cm Q " + kDrawnAtOrigin);
         QCOMPARE(widthOfTheImage(), u"600"_s);
     }
 
@@ -268,7 +269,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     }
 
     void formFieldsBookmarksAndTheTitleStay() {
-        auto page = photoPage("q " + kDrawn + " Q", "/Annots [8 0 R]");
+        auto page = photoPage("q " + kDrawnAtOrigin + " Q", "/Annots [8 0 R]");
         page.object(1, "<< /Type /Catalog /Pages 2 0 R /AcroForm << /Fields [8 0 R] /DA (/F 9 Tf) "
                        ">> /Outlines 9 0 R /Metadata 11 0 R >>")
             .object(8, "<< /Type /Annot /Subtype /Widget /FT /Tx /T (Name) /V (Ada) /Rect [10 240 "
@@ -294,7 +295,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
 
     void aCallThatFailsIsAnErrorAndNeverAMissingObject() {
         PdfFixture document;
-        document.object(1, "<< /Type /Catalog /Pages 2 0 R >>").pages(4, 2).spread();
+        document.object(1, kCatalog).pages(4, 2).spread();
         QVERIFY(document.write(m_path));
         FaultyCalls counted;
         CompressionOptions options = optionsOf(1);
@@ -314,7 +315,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     }
 
     void aFullDiskIsAnErrorAndLeavesNoTemporaryFile() {
-        writeJpegPage("q " + kDrawn + " Q");
+        writeJpegPage("q " + kDrawnAtOrigin + " Q");
         const QByteArray before = readFile(m_path);
         CompressionOutcome outcome;
         {
@@ -329,7 +330,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     }
 
     void aDiskThatFillsUpWhileTheCopyIsPutInPlaceKeepsTheDocument() {
-        writeJpegPage("q " + kDrawn + " Q");
+        writeJpegPage("q " + kDrawnAtOrigin + " Q");
         const QByteArray before = readFile(m_path);
         const QString copy = compressed();
         {
@@ -344,7 +345,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
     }
 
     void aMissingTemporaryFolderIsAnError() {
-        writeJpegPage("q " + kDrawn + " Q");
+        writeJpegPage("q " + kDrawnAtOrigin + " Q");
         QVERIFY(QDir(m_temporaryFolder).removeRecursively());
         const QByteArray before = readFile(m_path);
         QVERIFY(run(1).error.startsWith(u"Cannot create a file in "_s + m_temporaryFolder));

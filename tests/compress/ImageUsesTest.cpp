@@ -58,7 +58,7 @@ struct SharedResources {
                            (inherited ? QByteArray() : resourcesOf(n)) + " >>");
         }
         const QByteArray shared = "<< /XObject << " + images + ">> /Font << " + fonts + ">> >>";
-        pdf.object(1, "<< /Type /Catalog /Pages 2 0 R >>");
+        pdf.object(1, kCatalog);
         pdf.object(2, "<< /Type /Pages /Count " + QByteArray::number(count) + " /Kids [" + kids +
                           "]" + (inherited ? " /Resources " + shared : "") + " >>");
         pdf.object(3, shared);

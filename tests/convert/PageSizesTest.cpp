@@ -46,8 +46,7 @@ class PageSizesTest : public QObject {
     /// A PDF with a page for each of `boxes`, which are what stands between the brackets.
     QString pdfOf(const QByteArrayList &boxes, const QByteArray &pageKeys = {}) {
         PdfFixture fixture;
-        fixture.object(1, "<< /Type /Catalog /Pages 2 0 R >>")
-            .pages(4, static_cast<int>(boxes.size()));
+        fixture.object(1, kCatalog).pages(4, static_cast<int>(boxes.size()));
         for (int i = 0; i < boxes.size(); ++i) {
             fixture.object(4 + i, "<< /Type /Page /Parent 2 0 R /MediaBox [" + boxes[i] + "] " +
                                       pageKeys + " >>");

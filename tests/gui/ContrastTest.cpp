@@ -27,8 +27,8 @@ using namespace folioforge::test;
 namespace {
 
 constexpr int kScale = 4; ///< Large enough for strokes to show their full colour.
-constexpr double kText = 4.5;
-constexpr double kEdge = 3.0;
+constexpr double kTextContrast = 4.5;
+constexpr double kEdgeContrast = 3.0;
 
 /// The relative luminance of a colour (WCAG 2.1).
 double luminance(QRgb color) {
@@ -143,12 +143,12 @@ class ContrastTest : public QObject {
         for (const bool enabled : {true, false}) {
             button.setEnabled(enabled);
             const double contrast = shown.textContrast(button, labelOf(button));
-            QVERIFY2(contrast >= kText, qPrintable(QString::number(contrast)));
+            QVERIFY2(contrast >= kTextContrast, qPrintable(QString::number(contrast)));
         }
         button.setEnabled(true);
         QEnterEvent enter(QPointF(3, 3), QPointF(3, 3), QPointF(3, 3));
         QCoreApplication::sendEvent(&button, &enter);
-        QVERIFY(shown.textContrast(button, labelOf(button)) >= kText);
+        QVERIFY(shown.textContrast(button, labelOf(button)) >= kTextContrast);
     }
 
     void textInFieldsAndButtonsStandsOut_data() {
@@ -168,14 +168,15 @@ class ContrastTest : public QObject {
         for (const bool enabled : {true, false}) {
             widget.setEnabled(enabled);
             const double contrast = shown.textContrast(widget, insideOf(widget));
-            QVERIFY2(contrast >= kText, qPrintable(QString::number(contrast)));
+            QVERIFY2(contrast >= kTextContrast, qPrintable(QString::number(contrast)));
         }
     }
 
     void theEmptyListsHintStandsOut() {
         Shown shown;
         auto &table = shown.control<SkinTableView>("m_tableview");
-        QVERIFY(shown.textContrast(*table.viewport(), insideOf(*table.viewport())) >= kText);
+        QVERIFY(shown.textContrast(*table.viewport(), insideOf(*table.viewport())) >=
+                kTextContrast);
     }
 
     void rowsStandOutWhateverTheirState() {
@@ -190,7 +191,7 @@ class ContrastTest : public QObject {
             for (int column = 0; column < files.columnCount({}); ++column) {
                 const QRect cell = table.visualRect(files.index(0, column)).adjusted(4, 4, -4, -4);
                 const double contrast = shown.textContrast(*table.viewport(), cell);
-                QVERIFY2(contrast >= kText,
+                QVERIFY2(contrast >= kTextContrast,
                          qPrintable(u"column %1: %2"_s.arg(column).arg(contrast)));
             }
         }
@@ -212,7 +213,7 @@ class ContrastTest : public QObject {
         widget.setEnabled(true);
         widget.show();
         const double contrast = shown.edgeContrast(widget);
-        QVERIFY2(contrast >= kEdge, qPrintable(QString::number(contrast)));
+        QVERIFY2(contrast >= kEdgeContrast, qPrintable(QString::number(contrast)));
     }
 
     void theFocusOfTheListStandsOut_data() {
@@ -241,7 +242,7 @@ class ContrastTest : public QObject {
         for (int y = 0; y < with.height(); ++y) {
             greatest = std::max(greatest, contrast(with.pixel(0, y), without.pixel(0, y)));
         }
-        QVERIFY2(greatest >= kEdge, qPrintable(QString::number(greatest)));
+        QVERIFY2(greatest >= kEdgeContrast, qPrintable(QString::number(greatest)));
     }
 };
 

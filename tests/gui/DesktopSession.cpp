@@ -129,7 +129,7 @@ DesktopSession::~DesktopSession() {
     end(m_screen);
 }
 
-bool DesktopSession::begin(const Desktop &desktop) {
+bool DesktopSession::begin(const DesktopKind &desktop) {
     const QString screen = u"%1x%2x24"_s.arg(desktop.size.width()).arg(desktop.size.height());
     m_screen.start(u"Xvfb"_s,
                    {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, screen, u"-noreset"_s});

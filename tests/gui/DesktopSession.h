@@ -16,7 +16,7 @@
 namespace folioforge::test {
 
 /// What the application runs on.
-struct Desktop {
+struct DesktopKind {
     QSize size{1600, 1000};  ///< Of the screen in pixels.
     QString windowManager{}; ///< The program; none where empty.
     QString scale{};         ///< Pixels for a point, such as "1.25"; one where empty.
@@ -45,7 +45,7 @@ class DesktopSession {
     DesktopSession &operator=(const DesktopSession &) = delete;
 
     /// Starts the screen, its window manager and the bus; whether all came up.
-    bool begin(const Desktop &desktop = {});
+    bool begin(const DesktopKind &desktop = {});
     /// Starts `program` with `outputFolder` as its stored output folder and waits for its window.
     bool start(const QString &program, const QString &outputFolder);
     [[nodiscard]] QProcess &application() { return m_application; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "gui/TestWindow.h"
+#include "gui/ConvertingCase.h"
 #include "mainwnd/Desktop.h"
 #include "support/HostileNames.h"
 #include "support/PdfProbe.h"
@@ -43,11 +43,6 @@ void writeInputs(const TestWindow &w) {
     for (const QByteArray &name : hostileNames()) {
         writeFileNamed(QFile::encodeName(w.path(u"in"_s)) + '/' + name, "words\n");
     }
-}
-
-void run(TestWindow &w) {
-    w.press("m_btnCreate");
-    QTRY_VERIFY_WITH_TIMEOUT(!w.ctrl.isConverting(), 60'000);
 }
 
 void removeInputs(const TestWindow &w) {

@@ -23,7 +23,7 @@ constexpr int kOptions = 342; ///< Points that the options panel takes.
 /// The application on a desktop, with its two buttons of the options panel.
 class Session {
   public:
-    explicit Session(const Desktop &desktop)
+    explicit Session(const DesktopKind &desktop)
         : m_scale(desktop.scale.isEmpty() ? 1 : desktop.scale.toDouble())
         , m_screen(QPoint(), desktop.size) {
         m_runs = m_desktop.begin(desktop) &&
@@ -59,19 +59,19 @@ class Session {
 };
 
 void addDesktops(std::initializer_list<std::pair<QSize, const char *>> screens) {
-    QTest::addColumn<Desktop>("desktop");
+    QTest::addColumn<DesktopKind>("desktop");
     for (const QString &manager : {u"openbox"_s, u"xfwm4"_s}) {
         for (const auto &[size, scale] : screens) {
             QTest::addRow("%s, %d x %d, scale %s", qPrintable(manager), size.width(), size.height(),
                           scale)
-                << Desktop{size, manager, QLatin1StringView(scale)};
+                << DesktopKind{size, manager, QLatin1StringView(scale)};
         }
     }
 }
 
 } // namespace
 
-Q_DECLARE_METATYPE(folioforge::test::Desktop)
+Q_DECLARE_METATYPE(folioforge::test::DesktopKind)
 
 /// What the window does under window managers, which answer late and have minds of their own.
 class WindowManagersTest : public QObject {
@@ -82,7 +82,7 @@ class WindowManagersTest : public QObject {
         addDesktops({{{1024, 600}, "1"}, {{1366, 768}, "1.25"}, {{2560, 1440}, "1.5"}});
     }
     void theWindowStandsInTheMiddleOfTheScreenWithItsFrame() {
-        QFETCH(const Desktop, desktop);
+        QFETCH(const DesktopKind, desktop);
         Session session(desktop);
         QVERIFY(session.runs());
         const WindowPlace place = session.place();
@@ -97,7 +97,7 @@ class WindowManagersTest : public QObject {
     }
     /// It shows to the right, and what the screen has no room for there to the left.
     void thePanelComesAndGoesWithoutATrace() {
-        QFETCH(const Desktop, desktop);
+        QFETCH(const DesktopKind, desktop);
         Session session(desktop);
         QVERIFY(session.runs());
         const QRect before = session.place().frame;
@@ -119,7 +119,7 @@ class WindowManagersTest : public QObject {
 
     void aPanelThatIsShownAndHiddenInASlideEndsRight_data() { addDesktops({{{1600, 1000}, "1"}}); }
     void aPanelThatIsShownAndHiddenInASlideEndsRight() {
-        QFETCH(const Desktop, desktop);
+        QFETCH(const DesktopKind, desktop);
         constexpr int kTimes = 200;
         constexpr int kLongest = 20; // Milliseconds between presses; a slide takes some 200.
         Session session(desktop);
@@ -139,7 +139,7 @@ class WindowManagersTest : public QObject {
         addDesktops({{{1600, 1000}, "1"}});
     }
     void aWindowThatIsMovedWithItsPanelStaysThereWithoutIt() {
-        QFETCH(const Desktop, desktop);
+        QFETCH(const DesktopKind, desktop);
         Session session(desktop);
         QVERIFY(session.runs());
         const QSize size = session.place().frame.size();

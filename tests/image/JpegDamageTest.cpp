@@ -45,16 +45,16 @@ QByteArray progressivePicture() {
 /// A grey picture of noise, in more than a megabyte, with as many restart markers as it has rows of
 /// blocks.
 QByteArray largePicture() {
-    constexpr int kSide = 1600;
+    constexpr int kLargeSide = 1600;
     std::mt19937 random(20240304);
     return jpegFile(
-        QSize(kSide, kSide), 1, JCS_GRAYSCALE,
+        QSize(kLargeSide, kLargeSide), 1, JCS_GRAYSCALE,
         [](jpeg_compress_struct &codec) {
             jpeg_set_quality(&codec, 90, TRUE);
             codec.restart_in_rows = 1;
         },
         [&](int /*y*/, std::vector<JSAMPLE> &row) {
-            for (int x = 0; x < kSide; ++x) {
+            for (int x = 0; x < kLargeSide; ++x) {
                 row.push_back(static_cast<JSAMPLE>(random()));
             }
         });

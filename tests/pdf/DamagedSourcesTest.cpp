@@ -16,12 +16,6 @@ using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
-namespace {
-
-const char *const kCatalog = "<< /Type /Catalog /Pages 2 0 R >>";
-
-} // namespace
-
 /// Sources that are damaged, change or cannot be read.
 class DamagedSourcesTest : public QObject, protected MergeCase {
     Q_OBJECT

@@ -14,7 +14,7 @@ class DocumentInfoTest : public QObject, protected MergeCase {
     /// A source whose document information has `entries`.
     QString withInfo(const QByteArray &entries) {
         PdfFixture source;
-        source.object(1, "<< /Type /Catalog /Pages 2 0 R >>").pages(4, 1);
+        source.object(1, kCatalog).pages(4, 1);
         return saved(source.object(20, "<< " + entries + " >>").trailer("/Info 20 0 R"));
     }
     QString kept(const QStringList &sources, const DocumentInfo &given) {

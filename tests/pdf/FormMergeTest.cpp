@@ -204,7 +204,7 @@ class FormMergeTest : public QObject, protected MergeCase {
         QCOMPARE(names(*opened(result)).join(' '), "one outer one_2 outer_2");
         QCOMPARE(widgetsOf(result).last(), u"4 /Tx outer_2.inner=u:kept/ "_s);
         PdfFixture bare = withForm({});
-        bare.object(1, "<< /Type /Catalog /Pages 2 0 R >>");
+        bare.object(1, kCatalog);
         QCOMPARE(names(*opened(merged({saved(bare)}))).join(' '), "one two");
     }
 

@@ -24,6 +24,13 @@ inline std::unique_ptr<QPDF> opened(const QString &path) {
     return document;
 }
 
+/// Three pages, 4 to 6, with the contents 7, 8 and 9 and a font, 3.
+inline PdfFixture threePages(const QByteArray &keysOfCatalog = {}) {
+    return PdfFixture()
+        .object(1, "<< /Type /Catalog /Pages 2 0 R " + keysOfCatalog + " >>")
+        .pages(4, 3);
+}
+
 /// Documents of tests need not survive a loss of power.
 inline PDFContext::Settings unflushed() {
     PDFContext::Settings settings;

@@ -23,8 +23,6 @@ using namespace folioforge::test;
 
 namespace {
 
-const char *const kCatalog = "<< /Type /Catalog /Pages 2 0 R >>";
-
 /// Which page, from 0, a destination leads to; -1 for none.
 int pageOf(QPDF &document, QPDFObjectHandle destination) {
     if (destination.isName() || destination.isString()) {
@@ -329,7 +327,7 @@ class MergeTest : public QObject, protected MergeCase {
 
     void aPageThatStandsInTheTreeTwiceSharesWhatItHas() {
         PdfFixture source;
-        source.object(1, "<< /Type /Catalog /Pages 2 0 R >>").pages(4, 1);
+        source.object(1, kCatalog).pages(4, 1);
         source.object(2, "<< /Type /Pages /Count 2 /Kids [4 0 R 8 0 R] >>");
         source.object(8, "<< /Type /Pages /Count 1 /Kids [4 0 R] /Rotate 90 >>");
         source.object(4, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] /Annots [<< /Subtype "

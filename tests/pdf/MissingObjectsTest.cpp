@@ -14,13 +14,6 @@ namespace {
 const QString kOnPage =
     u"pdf-pages-lost: What stands on page %1 is damaged and may lack something"_s;
 
-/// Three pages with the contents 7, 8 and 9 and a font, 3; no object has a number above 19.
-PdfFixture threePages(const QByteArray &keysOfCatalog = {}) {
-    return PdfFixture()
-        .object(1, "<< /Type /Catalog /Pages 2 0 R " + keysOfCatalog + " >>")
-        .pages(4, 3);
-}
-
 /// These pages, in the second of which `from` has become `to`.
 PdfFixture secondPage(const QByteArray &from, const QByteArray &to) {
     PdfFixture source = threePages();

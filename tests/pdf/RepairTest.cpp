@@ -12,12 +12,6 @@ using namespace folioforge::test;
 
 namespace {
 
-const char *const kCatalog = "<< /Type /Catalog /Pages 2 0 R >>";
-
-PdfFixture threePages() {
-    return PdfFixture().object(1, kCatalog).pages(4, 3);
-}
-
 /// These pages under a tree with `kids`.
 PdfFixture withKids(const QByteArray &kids) {
     return threePages().object(2, "<< /Type /Pages /Count 3 /Kids [" + kids + "] >>");
@@ -121,7 +115,7 @@ class RepairTest : public QObject, protected MergeCase {
         PdfFixture source = threePages();
         source.object(20, "<< /Type /Catalog /Pages 21 0 R >>");
         source.object(21, "<< /Type /Pages /Count 1 /Kids [5 0 R] >>");
-        source.object(22, "<< /Type /Catalog /Pages 2 0 R >>");
+        source.object(22, kCatalog);
         const QByteArray bytes = withoutTable(source) + "trailer << /Root 20 0 R >>\n";
         QCOMPARE(textOf(bytes), u"Page 2"_s);
     }

@@ -16,15 +16,9 @@ using namespace folioforge::test;
 
 namespace {
 
-const char *const kCatalog = "<< /Type /Catalog /Pages 2 0 R >>";
-
 /// `bytes` as a zlib stream, made by Qt.
 QByteArray zlib(const QByteArray &bytes) {
     return qCompress(bytes).sliced(4); // Qt puts the size before it.
-}
-
-PdfFixture threePages() {
-    return PdfFixture().object(1, kCatalog).pages(4, 3);
 }
 
 PdfFixture withKids(const QByteArray &kids, const QByteArray &count) {

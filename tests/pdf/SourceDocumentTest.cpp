@@ -2,6 +2,7 @@
 
 #include "pdf/import/SourceDocument.h"
 
+#include "MergeCase.h"
 #include "error/Error.h"
 #include "odd/FileWriter.h"
 #include "pdf/QpdfErrors.h"
@@ -26,8 +27,10 @@ using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::FailingMemory;
 using test::FileWriter;
+using test::kCatalog;
 using test::PdfFixture;
 using test::runTool;
+using test::threePages;
 
 class SourceDocumentTest : public QObject {
     Q_OBJECT
@@ -39,9 +42,6 @@ class SourceDocumentTest : public QObject {
         QFile file(path(name));
         const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
         return written ? file.fileName() : QString();
-    }
-    static PdfFixture threePages() {
-        return PdfFixture().object(1, "<< /Type /Catalog /Pages 2 0 R >>").pages(4, 3);
     }
     /// Three pages encrypted by qpdf.
     QString encrypted(const QString &user, const QStringList &options) const {
@@ -126,7 +126,7 @@ class SourceDocumentTest : public QObject {
 
     void aDocumentEncryptedForCertificatesIsRefusedWithoutItsTrailer() {
         PdfFixture fixture;
-        fixture.pages(4, 1).object(1, "<< /Type /Catalog /Pages 2 0 R >>");
+        fixture.pages(4, 1).object(1, kCatalog);
         fixture.object(20, "<< /Filter /Adobe.PubSec /SubFilter /adbe.pkcs7.s5 /V 4 >>");
         const QByteArray bytes = fixture.bytes();
         QCOMPARE(refusal(saved(u"cut.pdf"_s, bytes.first(bytes.indexOf("xref\n0")))),

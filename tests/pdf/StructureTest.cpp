@@ -102,7 +102,7 @@ class StructureTest : public QObject, protected MergeCase {
 
     void theDocumentCountsAsTaggedOnlyWhereEveryPageIs() {
         PdfFixture untagged;
-        untagged.object(1, "<< /Type /Catalog /Pages 2 0 R >>").pages(4, 1);
+        untagged.object(1, kCatalog).pages(4, 1);
         const PdfFixture tagged = headingAndText("a", "b");
         QCOMPARE(PdfProbe(mergedPath({tagged, tagged})).info(u"Tagged"_s), u"yes"_s);
         const QString path = mergedPath({tagged, untagged});

@@ -9,6 +9,9 @@
 
 namespace folioforge::test {
 
+/// The catalog of a document whose page tree is object 2.
+inline const QByteArray kCatalog("<< /Type /Catalog /Pages 2 0 R >>");
+
 /// A PDF file written by hand, object by object: what a test says is what stands in the file.
 class PdfFixture {
   public:

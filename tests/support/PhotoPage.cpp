@@ -79,7 +79,7 @@ QByteArray imageKeys(int width, int height, const QByteArray &rest) {
 PdfFixture photoPage(const QByteArray &content, const QByteArray &pageKeys,
                      const QByteArray &resourceKeys) {
     PdfFixture fixture;
-    fixture.object(1, "<< /Type /Catalog /Pages 2 0 R >>")
+    fixture.object(1, kCatalog)
         .object(2, "<< /Type /Pages /Kids [3 0 R] /Count 1 >>")
         .object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 400 300] /Contents 4 0 R "
                    "/Resources << /XObject << /Im0 5 0 R /Fm0 6 0 R >> /Font << /F 7 0 R >> " +

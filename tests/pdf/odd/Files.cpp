@@ -34,7 +34,7 @@ QByteArray withXrefStream(const XrefStreamForm &form) {
 }
 
 /// Everything but the content and the cross-reference stream in one object stream.
-FileWriter packed(const QByteArray &keys = {}) {
+FileWriter inObjectStream(const QByteArray &keys = {}) {
     return FileWriter().object(4, streamOf(kWords)).objectStream(6, plainObjects(onePage()), keys);
 }
 
@@ -104,7 +104,7 @@ QByteArray sparseNumbers() {
         .bytes();
 }
 
-QByteArray backToFront() {
+QByteArray objectsBackToFront() {
     FileWriter file;
     const auto objects = onePage().objects();
     std::for_each(objects.rbegin(), objects.rend(),
@@ -164,21 +164,21 @@ QList<OddDocument> oddFiles() {
         {"a table whose lines end with a blank and CR",
          FileWriter().objects(onePage()).table("/Root 1 0 R", " \r").bytes()},
         {"numbers with gaps up to eight million", sparseNumbers()},
-        {"objects against the order of their numbers", backToFront()},
+        {"objects against the order of their numbers", objectsBackToFront()},
         {"a length behind its stream", lengthBehind()},
         {"a cross-reference stream", withXrefStream({})},
         {"a cross-reference stream with a predictor", withXrefStream({{1, 4, 2}, true, {}})},
         {"a cross-reference stream with wide fields", withXrefStream({{2, 8, 4}, false, {}})},
         {"a cross-reference stream without generations", withXrefStream({{1, 2, 0}, true, {}})},
-        {"objects in an object stream", packed().xrefStream(7).bytes()},
+        {"objects in an object stream", inObjectStream().xrefStream(7).bytes()},
         {"objects in an object stream, predicted table",
-         packed().xrefStream(7, {{1, 3, 1}, true, {}}).bytes()},
+         inObjectStream().xrefStream(7, {{1, 3, 1}, true, {}}).bytes()},
         {"an object stream that extends another", extended()},
         {"a hybrid file", hybrid()},
         {"two updates with tables", updatedTwice().table().bytes()},
         {"an update by a cross-reference stream", updatedTwice().xrefStream(6).bytes()},
         {"an update of a packed document",
-         packed().xrefStream(7).object(4, streamOf(kMark)).xrefStream(8).bytes()},
+         inObjectStream().xrefStream(7).object(4, streamOf(kMark)).xrefStream(8).bytes()},
         {"an update that moves an object into an object stream",
          FileWriter()
              .objects(onePage())

@@ -104,7 +104,7 @@ QByteArray predicted(const QByteArray &predictor, int filter = -1) {
 }
 
 /// The bits that `text` spells, the high one first.
-QByteArray packed(const QByteArray &text) {
+QByteArray bitsOf(const QByteArray &text) {
     QByteArray bytes((text.size() + 7) / 8, '\0');
     for (qsizetype i = 0; i < text.size(); ++i) {
         bytes[i / 8] = static_cast<char>(bytes[i / 8] | (text[i] == '1' ? 0x80 >> i % 8 : 0));
@@ -115,7 +115,7 @@ QByteArray packed(const QByteArray &text) {
 /// A black bar down the middle of 16 x 16 pixels in group 4 (ITU-T T.6): in the first row runs of 4
 /// white and 8 black pixels and what is left, in the others three changes where they were above.
 QByteArray faxedBar() {
-    return packed("001"
+    return bitsOf("001"
                   "1011"
                   "000101"
                   "1" +

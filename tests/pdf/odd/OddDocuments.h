@@ -44,7 +44,6 @@ inline const QByteArray kMark("1 0 0 rg 10 10 60 20 re f 0 0 1 rg 100 40 m 150 4
 /// The same with words in the font /F.
 inline const QByteArray kWords("BT /F 20 Tf 20 60 Td (Odd page) Tj ET " + kMark);
 
-inline const QByteArray kCatalog("<< /Type /Catalog /Pages 2 0 R >>");
 inline const QByteArray kBox("/MediaBox [0 0 200 100] ");
 inline const QByteArray kFont("/Resources << /Font << /F 5 0 R >> >> ");
 

@@ -78,7 +78,7 @@ PdfFixture indirectTree() {
         .object(12, "<< /F 5 0 R >>");
 }
 
-PdfFixture backToFront() {
+PdfFixture kidsBackToFront() {
     return onePage()
         .object(2, node("6 0 R 3 0 R", 2))
         .object(6, pageObject(kBox + kFont + "/Rotate 180"));
@@ -94,7 +94,7 @@ QList<OddDocument> oddPageTrees() {
         {"nodes without pages", emptyNodes().bytes()},
         {"forty kids in one node", manyKids(40).bytes(), 40},
         {"a tree of indirect values", indirectTree().bytes()},
-        {"pages against the order of their numbers", backToFront().bytes(), 2},
+        {"pages against the order of their numbers", kidsBackToFront().bytes(), 2},
         {"the catalog's type after its pages", onePage().object(1, catalogLast).bytes()},
         {"everything inherited",
          twoPages(kBox + kFont + "/CropBox [10 0 190 90] /Rotate 270").bytes(), 2},
