@@ -2,6 +2,7 @@
 
 #include "mainwnd/EntryCells.h"
 
+#include "filelist/FileKind.h"
 #include "files/Printable.h"
 #include "mainwnd/FilesArray.h"
 
@@ -119,6 +120,8 @@ QVariant entryCell(const PDFFileInfo &entry, int column, int role) {
         return hasLook ? colorOf(*entry.state()) : QVariant();
     case FilesArray::kLinkRole:
         return isLink(entry, column);
+    case FilesArray::kKindRole:
+        return static_cast<int>(fileKind(entry.filePathName()));
     default:
         return {};
     }

@@ -23,6 +23,8 @@ class FilesArray : public QAbstractTableModel {
     enum Column { NumberColumn, NameColumn, SizeColumn, DestinationColumn, ColumnCount };
     /// Whether the cell is a link to a finished PDF: a bool.
     static constexpr int kLinkRole = Qt::UserRole;
+    /// The FileKind of the entry: an int.
+    static constexpr int kKindRole = Qt::UserRole + 1;
 
     explicit FilesArray(QObject *parent = nullptr);
 

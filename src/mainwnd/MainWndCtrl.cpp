@@ -2,7 +2,10 @@
 
 #include "mainwnd/MainWndCtrl.h"
 
+#include "filelist/FileKind.h"
 #include "mainwnd/Desktop.h"
+#include "mainwnd/EmptyHint.h"
+#include "mainwnd/EntryDelegate.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/ListHistory.h"
 #include "mainwnd/Notices.h"
@@ -125,11 +128,35 @@ void MainWndCtrl::initCtrl() {
     connectControls();
     connectAnswer();
     connectHistory();
+    initList();
+}
+
+/// The pictures of the list, and what its hint offers.
+void MainWndCtrl::initList() {
+    const QString resources = resourcesFolder();
+    auto *delegate = new EntryDelegate(m_tableview);
+    delegate->setMark(FileKind::Text, SkinImage::named(resources, u"kind-text"_s));
+    delegate->setMark(FileKind::Image, SkinImage::named(resources, u"kind-image"_s));
+    delegate->setMark(FileKind::Pdf, SkinImage::named(resources, u"kind-pdf"_s));
+    m_tableview->setItemDelegateForColumn(FilesArray::NameColumn, delegate);
+    EmptyHint &hint = m_tableview->emptyHint();
+    hint.setPicture(SkinImage::named(resources, u"drop-files"_s));
+    connect(&hint, &EmptyHint::addFilesAsked, this, &MainWndCtrl::clickBtnAddFile);
+    connect(&hint, &EmptyHint::addFolderAsked, this, &MainWndCtrl::clickBtnAddFolder);
+    QWidget *before = m_tableview;
+    for (auto *button : hint.findChildren<QPushButton *>()) {
+        QWidget::setTabOrder(before, button);
+        before = button;
+    }
+}
+
+QString MainWndCtrl::resourcesFolder() const {
+    return u"%1/Contents/Resources"_s.arg(m_services.bundlePath);
 }
 
 void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
                              SkinButton *button) const {
-    const QString resources = u"%1/Contents/Resources"_s.arg(m_services.bundlePath);
+    const QString resources = resourcesFolder();
     const auto look = [&](const QString &suffix, const SkinImage &otherwise) {
         const SkinImage image = SkinImage::named(resources, name + suffix);
         return image.isNull() ? otherwise : image;

@@ -176,6 +176,8 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void awakeFromNib();
     void windowDidLoad();
     void initCtrl();
+    void initList();
+    [[nodiscard]] QString resourcesFolder() const;
     void connectControls();
     void connectAnswer();
     void observeNotifications();

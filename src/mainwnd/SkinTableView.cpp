@@ -3,6 +3,7 @@
 #include "mainwnd/SkinTableView.h"
 
 #include "mainwnd/ColumnWidths.h"
+#include "mainwnd/EmptyHint.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/ListCommands.h"
 
@@ -25,6 +26,7 @@ namespace {
 
 constexpr int kRowHeight = 26;
 constexpr int kDropLineWidth = 2;
+constexpr float kDropLight = 0.12F;
 constexpr double kFocusWidth = 1.5;
 
 bool asksForMenu(const QKeyEvent &key) {
@@ -42,7 +44,8 @@ bool asksToOpen(const QKeyEvent &key) {
 SkinTableView::SkinTableView(QWidget *parent)
     : QTableView(parent)
     , m_columns(new ColumnWidths(*this))
-    , m_commands(new ListCommands(*this)) {
+    , m_commands(new ListCommands(*this))
+    , m_hint(new EmptyHint(viewport())) {
     setSelectionBehavior(SelectRows);
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
@@ -69,6 +72,7 @@ void SkinTableView::setTableDelegate(SkinTableViewDelegate *delegate) {
 void SkinTableView::setSelectionModel(QItemSelectionModel *selection) {
     QTableView::setSelectionModel(selection);
     m_commands->follow(*selection);
+    m_hint->follow(*selection->model());
 }
 
 int SkinTableView::selectedRow() const {
@@ -254,10 +258,8 @@ void SkinTableView::setDropRow(std::optional<int> row) {
 void SkinTableView::paintEvent(QPaintEvent *event) {
     QTableView::paintEvent(event);
     QPainter painter(viewport());
-    if (!model() || model()->rowCount() == 0) {
-        paintHint(painter);
-    }
     if (m_dropRow) {
+        paintDropGround(painter);
         paintDropLine(painter);
     } else if (hasFocus()) {
         paintFocus(painter);
@@ -279,13 +281,13 @@ void SkinTableView::paintFocus(QPainter &painter) const {
     painter.drawRect(QRectF(ring).adjusted(inset, inset, -inset, -inset));
 }
 
-void SkinTableView::paintHint(QPainter &painter) const {
-    QFont large = font();
-    large.setPixelSize(18);
-    painter.setFont(large);
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::Text));
-    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                     u"Drop files here, or add them with the buttons above"_s);
+/// Lights the whole list, which takes what is dragged over it.
+void SkinTableView::paintDropGround(QPainter &painter) const {
+    QColor light = palette().color(QPalette::Highlight);
+    painter.setPen(QPen(light, 2 * kDropLineWidth));
+    light.setAlphaF(kDropLight);
+    painter.setBrush(light);
+    painter.drawRect(viewport()->rect());
 }
 
 void SkinTableView::paintDropLine(QPainter &painter) const {
@@ -300,6 +302,7 @@ void SkinTableView::paintDropLine(QPainter &painter) const {
 void SkinTableView::resizeEvent(QResizeEvent *event) {
     QTableView::resizeEvent(event);
     m_columns->layOut();
+    m_hint->setGeometry(viewport()->rect());
 }
 
 } // namespace folioforge

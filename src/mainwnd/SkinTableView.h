@@ -11,6 +11,7 @@ class QMimeData;
 namespace folioforge {
 
 class ColumnWidths;
+class EmptyHint;
 class ListCommands;
 
 /// What the file table asks of its controller, and the commands that it hands on.
@@ -56,6 +57,8 @@ class SkinTableView : public QTableView {
     [[nodiscard]] int selectedRow() const;
     /// What can be done with the list, for menus.
     [[nodiscard]] ListCommands &commands() const { return *m_commands; }
+    /// What stands in the list while it is empty.
+    [[nodiscard]] EmptyHint &emptyHint() const { return *m_hint; }
 
     void setSelectionModel(QItemSelectionModel *selection) override;
     void selectAll() override;
@@ -89,11 +92,12 @@ class SkinTableView : public QTableView {
     void setDropRow(std::optional<int> row);
     void paintDropLine(QPainter &painter) const;
     void paintFocus(QPainter &painter) const;
-    void paintHint(QPainter &painter) const;
+    void paintDropGround(QPainter &painter) const;
 
     SkinTableViewDelegate *m_delegate = nullptr;
     ColumnWidths *m_columns;  ///< A child.
     ListCommands *m_commands; ///< A child.
+    EmptyHint *m_hint;        ///< Of the viewport.
     std::optional<int> m_dropRow;
 };
 

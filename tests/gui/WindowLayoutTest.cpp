@@ -306,13 +306,13 @@ class WindowLayoutTest : public QObject {
         QVERIFY(QTest::qWaitForWindowActive(window.ctrl.window()));
         window.control<QWidget>("m_btnAddFile").setFocus();
         QStringList names;
-        for (int i = 0; i < 9; ++i) {
+        for (int i = 0; i < 11; ++i) {
             QTest::keyClick(window.ctrl.window()->windowHandle(), Qt::Key_Tab);
             names << QApplication::focusWidget()->objectName();
         }
         QCOMPARE(names.join(u' '),
                  u"m_btnAddFolder m_btnAddImage m_btnAddTxt m_btnAddPDF m_btnClear "
-                 "m_tableview m_tfOutputFolder m_btnBrowse m_btnOpen"_s);
+                 "m_tableview emptyHintFiles emptyHintFolder m_tfOutputFolder m_btnBrowse m_btnOpen"_s);
     }
 
     void theHiddenPanelIsOutOfTabsWay() {
