@@ -2,14 +2,13 @@
 
 #pragma once
 
+#include "WindowOnScreen.h"
+
 #include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QProcess>
-#include <QRect>
 #include <QSize>
 #include <QTemporaryDir>
-
-#include <xcb/xcb.h>
 
 #include <optional>
 
@@ -20,12 +19,6 @@ struct DesktopKind {
     QSize size{1600, 1000};  ///< Of the screen in pixels.
     QString windowManager{}; ///< The program; none where empty.
     QString scale{};         ///< Pixels for a point, such as "1.25"; one where empty.
-};
-
-/// Where a window is on the screen, in pixels.
-struct WindowPlace {
-    QRect inside; ///< Without its frame.
-    QRect frame;  ///< With it.
 };
 
 /// A screen, a session bus and a home folder of its own in which the real application runs. It is

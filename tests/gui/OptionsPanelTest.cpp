@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "WindowWorld.h"
+#include "OptionsPanelCase.h"
 #include "support/TestUnit.h"
 
-#include "mainwnd/MainWndCtrl.h"
 #include "skin/OptionsDrawer.h"
 #include "skin/SkinButton.h"
 
-#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEnterEvent>
@@ -21,56 +19,6 @@ using namespace folioforge;
 using namespace folioforge::test;
 
 namespace {
-
-/// A loaded and shown window with the real skins.
-struct Panel {
-    Panel() {
-        world.storeFolder(world.home.path());
-        world.notices.answerNoticesAtOnce();
-        ctrl.window()->show();
-    }
-
-    template<typename Control> Control &control(const char *name) {
-        return controlOf<Control>(*ctrl.window(), name);
-    }
-    QLineEdit &field(const char *name) { return control<QLineEdit>(name); }
-    void press(const char *name) { QTest::mouseClick(&control<QWidget>(name), Qt::LeftButton); }
-    /// A click on a check box or radio button, whose own ground is larger than what it shows.
-    void tick(const char *name) {
-        auto &box = control<QAbstractButton>(name);
-        QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
-    }
-    void type(const char *name, const QString &text) {
-        field(name).selectAll();
-        QTest::keyClicks(&field(name), text);
-    }
-    void openPanel() {
-        press("m_btnExpand");
-        QTRY_COMPARE(control<OptionsDrawer>("m_optionsDrawer").openWidth(), 342);
-    }
-    /// Opens the panel at the security settings, enabled as with files in the list.
-    void openSecurity() {
-        ctrl.EnableSettings(true);
-        openPanel();
-        press("m_btnSecuritySetting");
-    }
-    [[nodiscard]] QString lastMessage() const {
-        return world.notices.shown().empty() ? QString()
-                                             : world.notices.shown().back().notice.textInWindow();
-    }
-    QStringList enabledAmong(const QStringList &names) {
-        QStringList enabled;
-        for (const QString &name : names) {
-            if (control<QWidget>(qPrintable(name)).isEnabled()) {
-                enabled << name;
-            }
-        }
-        return enabled;
-    }
-
-    WindowWorld world;
-    MainWndCtrl ctrl{world.services()};
-};
 
 const QStringList kProperties{u"m_tfTitle"_s, u"m_tfAuthor"_s, u"m_tfSubject"_s, u"m_tfKeywords"_s};
 const QStringList kPasswordBoxes{u"m_btnCheckUserPassword"_s, u"m_btnCheckOwnerPassword"_s};
@@ -129,58 +77,6 @@ class OptionsPanelTest : public QObject {
         QTRY_VERIFY(button.image() == normal);
     }
 
-    void aBoxThatAScreenReaderTogglesActsAsOneThatIsClicked_data() {
-        QTest::addColumn<QByteArray>("box");
-        QTest::addColumn<QByteArray>("field");
-        QTest::newRow("user") << QByteArray("m_btnCheckUserPassword")
-                              << QByteArray("m_tfUserPassword");
-        QTest::newRow("owner") << QByteArray("m_btnCheckOwnerPassword")
-                               << QByteArray("m_tfOwnerPassword");
-    }
-    void aBoxThatAScreenReaderTogglesActsAsOneThatIsClicked() {
-        QFETCH(const QByteArray, box);
-        QFETCH(const QByteArray, field);
-        Panel panel;
-        panel.openSecurity();
-        QVERIFY(!panel.field(field.constData()).isEnabled());
-        auto *accessible =
-            QAccessible::queryAccessibleInterface(&panel.control<QCheckBox>(box.constData()));
-        accessible->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-        QVERIFY(panel.field(field.constData()).isEnabled());
-    }
-
-    void aScreenReaderDoesNotWriteIntoTheFolder() {
-        Panel panel;
-        QLineEdit &folder = panel.field("m_tfOutputFolder");
-        const QString before = folder.text();
-        auto *accessible = QAccessible::queryAccessibleInterface(&folder);
-        accessible->setText(QAccessible::Value, u"/elsewhere"_s);
-        QVERIFY(!accessible->editableTextInterface());
-        QVERIFY(accessible->state().readOnly);
-        QCOMPARE(folder.text(), before);
-        QCOMPARE(accessible->text(QAccessible::Value), before);
-    }
-
-    void tabEntersRadioButtonsAtTheChosenOne() {
-        Panel panel;
-        panel.openPanel();
-        auto &window = *panel.ctrl.window();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-        for (const char *chosen : {"imageCustom", "imageFollows"}) {
-            panel.tick(chosen);
-            panel.control<QWidget>("m_btnSecuritySetting").setFocus();
-            QTest::keyClick(window.windowHandle(), Qt::Key_Tab);
-            QCOMPARE(QApplication::focusWidget()->objectName(), QString::fromLatin1(chosen));
-        }
-        panel.control<QWidget>("m_comboCompressMethod").setFocus();
-        QTest::keyClick(window.windowHandle(), Qt::Key_Backtab, Qt::ShiftModifier);
-        while (!QApplication::focusWidget()->inherits("QRadioButton")) {
-            QTest::keyClick(window.windowHandle(), Qt::Key_Backtab, Qt::ShiftModifier);
-        }
-        QCOMPARE(QApplication::focusWidget()->objectName(), u"imageFollows"_s);
-    }
-
     void hidingHalfWayThroughShowingRestoresTheWidthToo() {
         Panel panel;
         const QRect before = panel.ctrl.window()->geometry();
@@ -196,19 +92,6 @@ class OptionsPanelTest : public QObject {
         QCoreApplication::processEvents();
         auto &hide = panel.control<SkinButton>("m_btnElapse");
         QVERIFY(hide.image() == hide.normalImage());
-    }
-
-    void theButtonThatAppearsTakesOverTheKeyboard() {
-        Panel panel;
-        panel.ctrl.window()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(panel.ctrl.window()));
-        auto &show = panel.control<SkinButton>("m_btnExpand");
-        auto &hide = panel.control<SkinButton>("m_btnElapse");
-        show.setFocus();
-        QTest::keyClick(&show, Qt::Key_Space);
-        QVERIFY(hide.hasFocus());
-        QTest::keyClick(&hide, Qt::Key_Space);
-        QVERIFY(show.hasFocus());
     }
 
     void theDefaultsAreA4FollowTheImageAndNoCompression() {
@@ -311,14 +194,6 @@ class OptionsPanelTest : public QObject {
         QCOMPARE(panel.field("m_tfOwnerPassword").text(), QString());
     }
 
-    void thePermissionBoxesSayWhatATickDoes() {
-        Panel panel;
-        QCOMPARE(panel.control<QCheckBox>("m_btnCheckAllowPrint").accessibleName(),
-                 u"Refuse printing"_s);
-        QCOMPARE(panel.control<QCheckBox>("m_btnCheckAllowCopy").accessibleName(),
-                 u"Refuse copying"_s);
-    }
-
     void onlyTheCustomRowsEnableTheCustomSizes() {
         Panel panel;
         panel.openPanel();
@@ -339,16 +214,6 @@ class OptionsPanelTest : public QObject {
         panel.tick("textA3");
         QVERIFY(!panel.field("m_tfTextCustomizedPageWidth").isEnabled());
         QCOMPARE(panel.ctrl.getTextPageSize(), QSizeF(842, 1191));
-    }
-
-    void theArrowKeysChooseARowAsTheMouseDoes() {
-        Panel panel;
-        panel.openPanel();
-        auto &follows = panel.control<QRadioButton>("imageFollows");
-        follows.setFocus();
-        QTest::keyClick(&follows, Qt::Key_Down);
-        QVERIFY(panel.control<QRadioButton>("imageCustom").isChecked());
-        QVERIFY(panel.field("m_tfImageCustomizedPageWidth").isEnabled());
     }
 
     void numberFieldsTakeTheirLeadingInteger() {
