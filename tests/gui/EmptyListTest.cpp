@@ -26,7 +26,7 @@ struct EmptyWindow : TestWindow {
     /// What stands before the name in `row`.
     [[nodiscard]] QImage markIn(int row) {
         const QRect cell = table()->visualRect(ctrl.filesArray().index(row, 1));
-        return picture().copy(cell.left(), cell.top(), cell.height(), cell.height() - 2);
+        return picture().copy(cell.left(), cell.top() + 2, 22, cell.height() - 4);
     }
 };
 

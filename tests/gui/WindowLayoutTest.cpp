@@ -310,9 +310,10 @@ class WindowLayoutTest : public QObject {
             QTest::keyClick(window.ctrl.window()->windowHandle(), Qt::Key_Tab);
             names << QApplication::focusWidget()->objectName();
         }
-        QCOMPARE(names.join(u' '),
-                 u"m_btnAddFolder m_btnAddImage m_btnAddTxt m_btnAddPDF m_btnClear "
-                 "m_tableview emptyHintFiles emptyHintFolder m_tfOutputFolder m_btnBrowse m_btnOpen"_s);
+        QCOMPARE(
+            names.join(u' '),
+            u"m_btnAddFolder m_btnAddImage m_btnAddTxt m_btnAddPDF m_btnClear "
+            "m_tableview emptyHintFiles emptyHintFolder m_tfOutputFolder m_btnBrowse m_btnOpen"_s);
     }
 
     void theHiddenPanelIsOutOfTabsWay() {
