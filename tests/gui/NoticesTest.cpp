@@ -8,7 +8,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
+#include <QFontDatabase>
+#include <QLabel>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
@@ -28,13 +31,39 @@ QMessageBox *boxOf(QWidget &window) {
     return window.findChild<QMessageBox *>();
 }
 
-/// The box with `message`, on the screen; null if it does not come.
-QMessageBox *exposedBox(Notices &notices, QWidget &window, const QString &message) {
+/// The box of `notice`, on the screen; null if it does not come.
+QMessageBox *exposedBox(Notices &notices, QWidget &window, const Notice &notice) {
     window.show();
-    notices.showSheet(&window, notice(message));
+    notices.showSheet(&window, notice);
     QMessageBox *box = boxOf(window);
     return box && QTest::qWaitForWindowExposed(box) ? box : nullptr;
 }
+
+/// How far the ink of `widget` reaches from its left edge, in points.
+int inkWidth(QWidget &widget) {
+    const QImage image = widget.grab().toImage();
+    const QRgb ground = image.pixel(0, 0);
+    int right = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = image.width() - 1; x > right; --x) {
+            if (image.pixel(x, y) != ground) {
+                right = x;
+            }
+        }
+    }
+    return right + 1;
+}
+
+/// A desktop where the buttons of dialogs have icons.
+class StyleWithIcons : public QProxyStyle {
+  public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override {
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 1
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 } // namespace
 
@@ -73,7 +102,7 @@ class NoticesTest : public QObject {
         QWidget window;
         Notices notices;
         const QString names = u"/a/damaged.pdf\n"_s.repeated(3000);
-        QMessageBox *box = exposedBox(notices, window, names);
+        QMessageBox *box = exposedBox(notices, window, notice(names));
         QVERIFY(box && box->informativeText() == names);
         const int screen = box->screen()->availableGeometry().height();
         QVERIFY(box->height() < screen);
@@ -87,7 +116,7 @@ class NoticesTest : public QObject {
         QWidget window;
         Notices notices;
         const QString message = u"Damaged:\n%1.pdf"_s.arg(QString(240, u'W'));
-        const QMessageBox *box = exposedBox(notices, window, message);
+        const QMessageBox *box = exposedBox(notices, window, notice(message));
         QVERIFY(box);
         const auto *text = box->findChild<QTextEdit *>();
         QVERIFY(text);
@@ -107,6 +136,67 @@ class NoticesTest : public QObject {
         Notices notices;
         notices.showSheet(&window, notice(u"Many short words. "_s.repeated(20)));
         QVERIFY(!boxOf(window)->findChild<QTextEdit *>());
+    }
+
+    void aShortNoticeIsAsWideAsOthers() {
+        QWidget window;
+        Notices notices;
+        const QMessageBox *box = exposedBox(notices, window, notice(u"No."_s));
+        QVERIFY(box && box->width() >= 360);
+    }
+
+    void aLongTitleIsShownInFull() {
+        QWidget window;
+        Notices notices;
+        const QString title = u"Fail to import following files. They are encrypted or not normal "
+                              "PDF files:"_s;
+        const QMessageBox *box = exposedBox(notices, window, {title, u"    /a.pdf"_s});
+        QVERIFY(box);
+        const auto &label = *box->findChild<QLabel *>(u"qt_msgbox_label"_s);
+        QCOMPARE(label.text(), title);
+        QVERIFY(label.heightForWidth(label.width()) <= label.height());
+        QFont bold = QFontDatabase::systemFont(QFontDatabase::TitleFont);
+        bold.setBold(true);
+        const int buttonsOfTheTitleBar = 100;
+        const int bar = QFontMetrics(bold).horizontalAdvance(title) + buttonsOfTheTitleBar;
+        QVERIFY2(box->width() >= bar, qPrintable(QString::number(box->width())));
+    }
+
+    void theLinesOfANoticeReadWell() {
+        QWidget window;
+        Notices notices;
+        const QString message = u"Please choose a folder that you may write to, "_s.repeated(12);
+        const QMessageBox *box = exposedBox(notices, window, notice(message));
+        QVERIFY(box);
+        auto &text = *box->findChild<QLabel *>(u"qt_msgbox_informativelabel"_s);
+        const auto widthOf = [&](int letters) {
+            return text.fontMetrics().horizontalAdvance(message.left(letters));
+        };
+        const int longest = inkWidth(text);
+        QVERIFY2(longest <= widthOf(90), qPrintable(QString::number(longest)));
+        QVERIFY2(longest >= widthOf(55), qPrintable(QString::number(longest)));
+        QVERIFY(text.heightForWidth(text.width()) <= text.height());
+    }
+
+    void aNoticeHasTheStandardIcon() {
+        QWidget window;
+        Notices notices;
+        const QMessageBox *box = exposedBox(notices, window, kNotice);
+        QVERIFY(box);
+        const auto *icon = box->findChild<QLabel *>(u"qt_msgboxex_icon_label"_s);
+        QVERIFY(icon && icon->isVisible() && !icon->pixmap().isNull());
+        QCOMPARE(box->icon(), QMessageBox::Warning);
+    }
+
+    void theButtonOfANoticeHasNoIconWhereOthersHave() {
+        QApplication::setStyle(new StyleWithIcons);
+        QWidget window;
+        Notices notices;
+        const QMessageBox *box = exposedBox(notices, window, kNotice);
+        QVERIFY(box);
+        QVERIFY(box->button(QMessageBox::Ok)->icon().isNull());
+        const QMessageBox other(QMessageBox::NoIcon, u"A"_s, u"B"_s, QMessageBox::Ok);
+        QVERIFY(!other.button(QMessageBox::Ok)->icon().isNull());
     }
 
     void whatFollowsASheetComesWhenItHasGone() {
