@@ -73,6 +73,13 @@ class AttachmentsTest : public QObject, protected MergeCase {
         return files;
     }
 
+    /// A document with the files "one" (20) and "two" (22), which hold "1" and "2", under `keys`.
+    static PdfFixture twoFiles(const QByteArray &keys) {
+        PdfFixture source = withCatalog("/Names << /EmbeddedFiles << /Names [" + keys + "] >> >>");
+        withFile(source, "one", "1");
+        return withFile(source, "two", "2", 22);
+    }
+
   private Q_SLOTS:
     void attachmentsComeWithEveryByte() {
         const QString one = savedAs(u"a.pdf"_s, attached("1", "one.xml", "first"));
@@ -103,22 +110,16 @@ class AttachmentsTest : public QObject, protected MergeCase {
     }
 
     void filesWhoseKeysAreNoStringsCome() {
-        PdfFixture source = withCatalog("/Names << /EmbeddedFiles << /Names [/one 20 0 R 2 22 0 R] "
-                                        ">> >>");
-        withFile(source, "one.txt", "1");
-        const QString path = savedAs(u"s.pdf"_s, withFile(source, "two.txt", "2", 22));
+        const QString path = savedAs(u"s.pdf"_s, twoFiles("/one 20 0 R 2 22 0 R"));
         for (const bool whole : {true, false}) {
             const QString result = merged({path}, whole);
-            QCOMPARE(detached(result), QStringList({u"one.txt=1"_s, u"two.txt=2"_s}));
-            QCOMPARE(listed(result), QStringList({u"2:two.txt"_s, u"one:one.txt"_s}));
+            QCOMPARE(detached(result), QStringList({u"one=1"_s, u"two=2"_s}));
+            QCOMPARE(listed(result), QStringList({u"2:two"_s, u"one:one"_s}));
         }
     }
 
     void filesUnderOneKeyOfTheirSourceAllCome() {
-        PdfFixture source = withCatalog("/Names << /EmbeddedFiles << /Names [(a) 20 0 R (a) 22 0 R "
-                                        "(a) 22 0 R] >> >>");
-        withFile(source, "one", "1");
-        const QString path = savedAs(u"s.pdf"_s, withFile(source, "two", "2", 22));
+        const QString path = savedAs(u"s.pdf"_s, twoFiles("(a) 20 0 R (a) 22 0 R (a) 22 0 R"));
         QCOMPARE(detached(merged({path}, true)), QStringList({u"one=1"_s, u"two=2"_s}));
         const QString result = merged({path, path});
         QCOMPARE(detached(result),
@@ -128,10 +129,7 @@ class AttachmentsTest : public QObject, protected MergeCase {
     }
 
     void filesUnderOneKeyInTwoEncodingsAllCome() {
-        PdfFixture source = withCatalog("/Names << /EmbeddedFiles << /Names [(a) 20 0 R <FEFF0061> "
-                                        "22 0 R] >> >>");
-        withFile(source, "one", "1");
-        const QString path = savedAs(u"s.pdf"_s, withFile(source, "two", "2", 22));
+        const QString path = savedAs(u"s.pdf"_s, twoFiles("(a) 20 0 R <FEFF0061> 22 0 R"));
         QCOMPARE(detached(merged({path, path})),
                  QStringList({u"one=1"_s, u"one (s)=1"_s, u"two=2"_s, u"two (s)=2"_s}));
     }

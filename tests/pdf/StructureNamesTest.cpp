@@ -37,6 +37,15 @@ class StructureNamesTest : public QObject, protected MergeCase {
         return QByteArray::fromStdString(element.getKey(key).unparseResolved());
     }
 
+    /// A header cell (12) with the ID "h" and a cell (13) with `keys`, under a root with
+    /// `rootKeys`.
+    static PdfFixture headerAndCell(const QByteArray &rootKeys, const QByteArray &keys) {
+        return taggedPage({"a", "b"}, "/K 11 0 R " + rootKeys)
+            .object(11, element("Document", 10, "[12 0 R 13 0 R]"))
+            .object(12, element("TH", 11, "0", "/ID (h)"))
+            .object(13, element("TD", 11, "1", keys));
+    }
+
   private Q_SLOTS:
     void rolesOfOneMeaningAreOne() {
         const auto document = mergedDocument({page("Para", "/RoleMap << /Para /P >>"),
@@ -98,10 +107,7 @@ class StructureNamesTest : public QObject, protected MergeCase {
 
     void identifiersStayUniqueAndHeadersFollow() {
         const PdfFixture source =
-            taggedPage({"a", "b"}, "/K 11 0 R /IDTree << /Names [(h) 12 0 R] >>")
-                .object(11, element("Document", 10, "[12 0 R 13 0 R]"))
-                .object(12, element("TH", 11, "0", "/ID (h)"))
-                .object(13, element("TD", 11, "1", "/A << /O /Table /Headers [(h)] >>"));
+            headerAndCell("/IDTree << /Names [(h) 12 0 R] >>", "/A << /O /Table /Headers [(h)] >>");
         const auto document = mergedDocument({source, source});
         auto root = document->getRoot().getKey("/StructTreeRoot");
         auto names = root.getKey("/IDTree").getKey("/Names");
@@ -140,10 +146,7 @@ class StructureNamesTest : public QObject, protected MergeCase {
 
     void classesThatNameHeadersAreToldApart() {
         const PdfFixture source =
-            taggedPage({"a", "b"}, "/K 11 0 R /ClassMap << /Cell << /O /Table /Headers [(h)] >> >>")
-                .object(11, element("Document", 10, "[12 0 R 13 0 R]"))
-                .object(12, element("TH", 11, "0", "/ID (h)"))
-                .object(13, element("TD", 11, "1", "/C /Cell"));
+            headerAndCell("/ClassMap << /Cell << /O /Table /Headers [(h)] >> >>", "/C /Cell");
         const auto document = mergedDocument({source, source});
         auto root = document->getRoot().getKey("/StructTreeRoot");
         for (const int index : {0, 1}) {

@@ -59,6 +59,14 @@ class StructureTest : public QObject, protected MergeCase {
         return QByteArray::fromStdString(object.unparseResolved());
     }
 
+    /// A page (4) and a form (20) with `keys`, whose content is that of an element.
+    static PdfFixture markedForm(const QByteArray &keys) {
+        return taggedPage({"a"}, "/K 11 0 R")
+            .object(11, element("P", 10, "<< /Type /MCR /Stm 20 0 R /Pg 4 0 R /MCID 0 >>"))
+            .stream(20, "/Type /XObject /Subtype /Form /BBox [0 0 9 9] " + keys,
+                    "/P << /MCID 0 >> BDC 0 0 5 5 re f EMC");
+    }
+
   private Q_SLOTS:
     void theTextOfAMergeIsThatOfItsSourcesOneAfterAnother() {
         const QString first = saved(headingAndText("Alpha", "one"));
@@ -174,11 +182,7 @@ class StructureTest : public QObject, protected MergeCase {
     }
 
     void formsThatElementsMarkAreEachCopysOwn() {
-        PdfFixture source =
-            taggedPage({"a"}, "/K 11 0 R")
-                .object(11, element("P", 10, "<< /Type /MCR /Stm 20 0 R /Pg 4 0 R /MCID 0 >>"))
-                .stream(20, "/Type /XObject /Subtype /Form /BBox [0 0 9 9] /StructParents 4",
-                        "/P << /MCID 0 >> BDC 0 0 5 5 re f EMC");
+        PdfFixture source = markedForm("/StructParents 4");
         source.object(4, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] /Resources << "
                          "/XObject << /X 20 0 R >> >> /Contents 5 0 R >>");
         source.stream(5, {}, "/X Do");
@@ -309,12 +313,7 @@ class StructureTest : public QObject, protected MergeCase {
     }
 
     void formsThatOnlyElementsTellOfAreEachCopysOwn() {
-        PdfFixture source =
-            taggedPage({"a"}, "/K 11 0 R")
-                .object(11, element("P", 10, "<< /Type /MCR /Stm 20 0 R /Pg 4 0 R /MCID 0 >>"))
-                .stream(20, "/Type /XObject /Subtype /Form /BBox [0 0 9 9]",
-                        "/P << /MCID 0 >> BDC 0 0 5 5 re f EMC");
-        const QString path = saved(source);
+        const QString path = saved(markedForm({}));
         const auto document = opened(merged({path, path}));
         auto first = elementAt(*document, {0, 0, 0}).getKey("/Stm");
         auto second = elementAt(*document, {1, 0, 0}).getKey("/Stm");
