@@ -15,10 +15,8 @@ namespace folioforge {
 namespace {
 
 bool hasTable(hb_face_t *face, hb_tag_t tag) {
-    hb_blob_t *blob = hb_face_reference_table(face, tag);
-    const bool present = hb_blob_get_length(blob) > 0;
-    hb_blob_destroy(blob);
-    return present;
+    const HarfBuzz<hb_blob_t> table(hb_face_reference_table(face, tag));
+    return hb_blob_get_length(table.get()) > 0;
 }
 
 /// Keeps letters, digits, hyphens and underscores, which need no escape in a PDF name.
@@ -39,26 +37,17 @@ QByteArray readPostScriptName(hb_face_t *face) {
 
 } // namespace
 
-void FontFace::Release::operator()(hb_face_t *face) const {
-    hb_face_destroy(face);
-}
-
-void FontFace::Release::operator()(hb_font_t *font) const {
-    hb_font_destroy(font);
-}
-
-FontFace::FontFace(Face face, Font font)
+FontFace::FontFace(HarfBuzz<hb_face_t> face, HarfBuzz<hb_font_t> font)
     : m_face(std::move(face))
     , m_font(std::move(font))
     , m_postScriptName(readPostScriptName(m_face.get())) {}
 
 std::unique_ptr<const FontFace> FontFace::open(const QByteArray &path, unsigned index) {
-    hb_blob_t *blob = hb_blob_create_from_file_or_fail(path.constData());
-    if (!blob) {
+    const HarfBuzz<hb_blob_t> file(hb_blob_create_from_file_or_fail(path.constData()));
+    if (!file) {
         return nullptr;
     }
-    Face face(hb_face_create(blob, index));
-    hb_blob_destroy(blob);
+    HarfBuzz<hb_face_t> face(hb_face_create(file.get(), index));
     if (hb_face_get_glyph_count(face.get()) == 0 ||
         !(hasTable(face.get(), HB_TAG('g', 'l', 'y', 'f')) ||
           hasTable(face.get(), HB_TAG('C', 'F', 'F', ' ')))) {
@@ -68,7 +57,7 @@ std::unique_ptr<const FontFace> FontFace::open(const QByteArray &path, unsigned 
     if (!ReducedFont::make(face.get(), {}, ReducedFont::GlyphIds::Packed)) {
         return nullptr; // Damaged, which nobody should learn when the pages are drawn.
     }
-    Font font(hb_font_create(face.get()));
+    HarfBuzz<hb_font_t> font(hb_font_create(face.get()));
     return std::unique_ptr<const FontFace>(new FontFace(std::move(face), std::move(font)));
 }
 
@@ -86,15 +75,15 @@ FontBox FontFace::box() const {
     constexpr unsigned kFirstField = 36; // xMin of "head", then yMin, xMax, yMax
     constexpr unsigned kFields = 4;
     std::array<int, kFields> fields{};
-    hb_blob_t *head = hb_face_reference_table(m_face.get(), HB_TAG('h', 'e', 'a', 'd'));
+    const HarfBuzz<hb_blob_t> head(
+        hb_face_reference_table(m_face.get(), HB_TAG('h', 'e', 'a', 'd')));
     unsigned length = 0;
-    const char *bytes = hb_blob_get_data(head, &length);
+    const char *bytes = hb_blob_get_data(head.get(), &length);
     if (length >= kFirstField + 2 * kFields) {
         for (std::size_t i = 0; i < kFields; ++i) {
             fields[i] = qFromBigEndian<qint16>(bytes + kFirstField + 2 * i);
         }
     }
-    hb_blob_destroy(head);
     return {fields[0], fields[1], fields[2], fields[3]};
 }
 

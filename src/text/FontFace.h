@@ -2,14 +2,13 @@
 
 #pragma once
 
+#include "text/HarfBuzz.h"
+
 #include <QByteArray>
 
 #include <cstdint>
 #include <memory>
 #include <optional>
-
-struct hb_face_t;
-struct hb_font_t;
 
 namespace folioforge {
 
@@ -48,17 +47,10 @@ class FontFace {
     [[nodiscard]] int advance(std::uint16_t glyph) const;
 
   private:
-    struct Release {
-        void operator()(hb_face_t *face) const;
-        void operator()(hb_font_t *font) const;
-    };
-    using Face = std::unique_ptr<hb_face_t, Release>;
-    using Font = std::unique_ptr<hb_font_t, Release>;
+    FontFace(HarfBuzz<hb_face_t> face, HarfBuzz<hb_font_t> font);
 
-    FontFace(Face face, Font font);
-
-    Face m_face;
-    Font m_font;
+    HarfBuzz<hb_face_t> m_face;
+    HarfBuzz<hb_font_t> m_font;
     QByteArray m_postScriptName;
 };
 

@@ -10,11 +10,6 @@
 namespace folioforge {
 namespace {
 
-struct ReleaseInput {
-    void operator()(hb_subset_input_t *input) const { hb_subset_input_destroy(input); }
-};
-using Input = std::unique_ptr<hb_subset_input_t, ReleaseInput>;
-
 constexpr hb_tag_t kCff = HB_TAG('C', 'F', 'F', ' ');
 
 /// Without tables for shaping, naming, screens or variation: a PDF names glyphs by number and has
@@ -29,8 +24,9 @@ constexpr hb_tag_t kKept[] = {
     kCff,
 };
 
-Input makeInput(const std::set<std::uint16_t> &glyphs, ReducedFont::GlyphIds ids) {
-    Input input(hb_subset_input_create_or_fail());
+HarfBuzz<hb_subset_input_t> makeInput(const std::set<std::uint16_t> &glyphs,
+                                      ReducedFont::GlyphIds ids) {
+    HarfBuzz<hb_subset_input_t> input(hb_subset_input_create_or_fail());
     if (!input) {
         throw std::bad_alloc();
     }
@@ -53,34 +49,23 @@ Input makeInput(const std::set<std::uint16_t> &glyphs, ReducedFont::GlyphIds ids
     return input;
 }
 
-/// The bytes of `blob`, which this releases.
-QByteArray bytesOf(hb_blob_t *blob) {
+QByteArray bytesOf(const HarfBuzz<hb_blob_t> &blob) {
     unsigned length = 0;
-    const char *data = hb_blob_get_data(blob, &length);
-    QByteArray bytes(data, static_cast<qsizetype>(length));
-    hb_blob_destroy(blob);
-    return bytes;
+    const char *data = hb_blob_get_data(blob.get(), &length);
+    return {data, static_cast<qsizetype>(length)};
 }
 
 } // namespace
 
-void ReducedFont::Release::operator()(hb_subset_plan_t *plan) const {
-    hb_subset_plan_destroy(plan);
-}
-
-void ReducedFont::Release::operator()(hb_face_t *face) const {
-    hb_face_destroy(face);
-}
-
-ReducedFont::ReducedFont(Plan plan, Face face)
+ReducedFont::ReducedFont(HarfBuzz<hb_subset_plan_t> plan, HarfBuzz<hb_face_t> face)
     : m_plan(std::move(plan))
     , m_face(std::move(face)) {}
 
 std::optional<ReducedFont> ReducedFont::make(hb_face_t *face, const std::set<std::uint16_t> &glyphs,
                                              GlyphIds ids) {
-    const Input input = makeInput(glyphs, ids);
-    Plan plan(hb_subset_plan_create_or_fail(face, input.get()));
-    Face reduced(plan ? hb_subset_plan_execute_or_fail(plan.get()) : nullptr);
+    const auto input = makeInput(glyphs, ids);
+    HarfBuzz<hb_subset_plan_t> plan(hb_subset_plan_create_or_fail(face, input.get()));
+    HarfBuzz<hb_face_t> reduced(plan ? hb_subset_plan_execute_or_fail(plan.get()) : nullptr);
     if (!reduced) {
         return std::nullopt;
     }
@@ -88,11 +73,11 @@ std::optional<ReducedFont> ReducedFont::make(hb_face_t *face, const std::set<std
 }
 
 QByteArray ReducedFont::cffTable() const {
-    return bytesOf(hb_face_reference_table(m_face.get(), kCff));
+    return bytesOf(HarfBuzz<hb_blob_t>(hb_face_reference_table(m_face.get(), kCff)));
 }
 
 QByteArray ReducedFont::file() const {
-    return bytesOf(hb_face_reference_blob(m_face.get()));
+    return bytesOf(HarfBuzz<hb_blob_t>(hb_face_reference_blob(m_face.get())));
 }
 
 std::uint16_t ReducedFont::idOf(std::uint16_t glyph) const {

@@ -2,15 +2,13 @@
 
 #pragma once
 
+#include "text/HarfBuzz.h"
+
 #include <QByteArray>
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <set>
-
-struct hb_face_t;
-struct hb_subset_plan_t;
 
 namespace folioforge {
 
@@ -34,17 +32,10 @@ class ReducedFont {
     [[nodiscard]] std::uint16_t idOf(std::uint16_t glyph) const;
 
   private:
-    struct Release {
-        void operator()(hb_subset_plan_t *plan) const;
-        void operator()(hb_face_t *face) const;
-    };
-    using Plan = std::unique_ptr<hb_subset_plan_t, Release>;
-    using Face = std::unique_ptr<hb_face_t, Release>;
+    ReducedFont(HarfBuzz<hb_subset_plan_t> plan, HarfBuzz<hb_face_t> face);
 
-    ReducedFont(Plan plan, Face face);
-
-    Plan m_plan;
-    Face m_face;
+    HarfBuzz<hb_subset_plan_t> m_plan;
+    HarfBuzz<hb_face_t> m_face;
 };
 
 } // namespace folioforge

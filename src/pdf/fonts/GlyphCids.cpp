@@ -22,10 +22,6 @@ void requireMemory(FT_Error error) {
 
 } // namespace
 
-void GlyphCids::Release::operator()(hb_blob_t *blob) const {
-    hb_blob_destroy(blob);
-}
-
 void GlyphCids::Release::operator()(FT_Library library) const {
     FT_Done_FreeType(library);
 }
@@ -34,7 +30,7 @@ void GlyphCids::Release::operator()(FT_Face face) const {
     FT_Done_Face(face);
 }
 
-GlyphCids::GlyphCids(Owned<hb_blob_t> table)
+GlyphCids::GlyphCids(HarfBuzz<hb_blob_t> table)
     : m_table(std::move(table)) {
     FT_Library library = nullptr;
     requireMemory(FT_Init_FreeType(&library));
@@ -48,7 +44,7 @@ GlyphCids::GlyphCids(Owned<hb_blob_t> table)
 }
 
 std::optional<GlyphCids> GlyphCids::read(const FontFace &face) {
-    Owned<hb_blob_t> table(hb_face_reference_table(face.hbFace(), HB_TAG('C', 'F', 'F', ' ')));
+    HarfBuzz<hb_blob_t> table(hb_face_reference_table(face.hbFace(), HB_TAG('C', 'F', 'F', ' ')));
     if (hb_blob_get_length(table.get()) == 0) {
         return std::nullopt;
     }

@@ -2,13 +2,14 @@
 
 #pragma once
 
+#include "text/HarfBuzz.h"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
 
 struct FT_FaceRec_;
 struct FT_LibraryRec_;
-struct hb_blob_t;
 
 namespace folioforge {
 
@@ -27,15 +28,14 @@ class GlyphCids {
 
   private:
     struct Release {
-        void operator()(hb_blob_t *blob) const;
         void operator()(FT_LibraryRec_ *library) const;
         void operator()(FT_FaceRec_ *face) const;
     };
     template<typename Handle> using Owned = std::unique_ptr<Handle, Release>;
 
-    explicit GlyphCids(Owned<hb_blob_t> table);
+    explicit GlyphCids(HarfBuzz<hb_blob_t> table);
 
-    Owned<hb_blob_t> m_table; ///< The "CFF " table, which m_face reads.
+    HarfBuzz<hb_blob_t> m_table; ///< The "CFF " table, which m_face reads.
     Owned<FT_LibraryRec_> m_library;
     Owned<FT_FaceRec_> m_face; ///< Null where the table is damaged.
 };

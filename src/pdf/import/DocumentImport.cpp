@@ -4,6 +4,7 @@
 
 #include "pdf/import/CarriedParts.h"
 #include "pdf/import/ContentCheck.h"
+#include "pdf/import/Entries.h"
 #include "pdf/import/FurtherInfo.h"
 #include "pdf/import/LeftParts.h"
 #include "pdf/import/MissingObjects.h"
@@ -34,9 +35,7 @@ Warning signaturesRemoved(int count) {
 /// A version such as "2.0"; 0.0 where `text` is none. The library's own reading of it takes as long
 /// as copying a page.
 PDFVersion versionFrom(std::string_view text, int extensionLevel) {
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    constexpr std::size_t kLength = 3;
-    if (text.size() != kLength || !isDigit(text[0]) || text[1] != '.' || !isDigit(text[2])) {
+    if (!isVersion(text)) {
         return {};
     }
     return {text[0] - '0', text[2] - '0', extensionLevel};

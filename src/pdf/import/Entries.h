@@ -6,6 +6,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace folioforge {
@@ -33,6 +34,12 @@ inline QPDFObjectHandle annotationsOf(QPDFObjectHandle page) {
 /// What an array holds; nothing where `array` is none.
 inline std::vector<QPDFObjectHandle> items(QPDFObjectHandle array) {
     return array.isArray() ? array.getArrayAsVector() : std::vector<QPDFObjectHandle>();
+}
+
+/// Whether `text` is a version of PDF such as "2.0".
+inline bool isVersion(std::string_view text) {
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    return text.size() == 3 && isDigit(text[0]) && text[1] == '.' && isDigit(text[2]);
 }
 
 inline bool isTrue(QPDFObjectHandle object) {

@@ -32,10 +32,7 @@ std::string versionOf(const FileVersion &file, SourceReader &reader) {
     const std::string_view text(bytes.data(), reader.read(file, 0, bytes));
     const auto at = std::min(text.find(kMark), text.size());
     const auto version = text.substr(std::min(at + kMark.size(), text.size()), kLength);
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    const bool isVersion = version.size() == kLength && isDigit(version[0]) && version[1] == '.' &&
-                           isDigit(version[2]);
-    return isVersion ? std::string(version) : "1.2";
+    return isVersion(version) ? std::string(version) : "1.2";
 }
 
 /// The whole numbers with which `text` begins.
