@@ -73,6 +73,7 @@ QString lightStyleSheet() {
         #foot { border-top: 1px solid #dfe2e7; background: #ffffff; }
         #optionsPanel { border-left: 1px solid #dfe2e7; background: #ffffff; }
         #m_settingsViewContainer { border: 1px solid #d5dae1; border-radius: 6px; }
+        QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
         QMessageBox #qt_msgbox_label { font-weight: 600; }
         QLabel[role="heading"] { color: #59616b; font-weight: 600; }
         QLabel[role="title"] { font-size: 20px; font-weight: 600; }

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "OffscreenScreen.h"
+#include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include "mainwnd/Notices.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QLabel>
@@ -234,6 +237,72 @@ class NoticesTest : public QObject {
         QVERIFY(chosen.isEmpty());
         QTRY_COMPARE(chosen, files);
         QVERIFY(!window.findChild<QFileDialog *>());
+    }
+
+    void allFilePanelsAreOfOneKindAndSize() {
+        QWidget window;
+        Notices notices;
+        for (const auto chooses : {FilePanel::Chooses::Files, FilePanel::Chooses::Folders,
+                                   FilePanel::Chooses::FilesAndFolders}) {
+            for (const bool multiple : {false, true}) {
+                FilePanel panel;
+                panel.chooses = chooses;
+                panel.multiple = multiple;
+                notices.showFilePanel(&window, panel, [](const QStringList & /*paths*/) {});
+                const std::unique_ptr<QFileDialog> dialog(window.findChild<QFileDialog *>());
+                QVERIFY(dialog->testOption(QFileDialog::DontUseNativeDialog));
+                QCOMPARE(dialog->size(), QSize(800, 520));
+            }
+        }
+    }
+
+    void aFilePanelNamesTheKindsOfFiles_data() {
+        QTest::addColumn<QStringList>("extensions");
+        QTest::addColumn<QStringList>("shown");
+        const QStringList text{u"txt"_s};
+        const QStringList pdf{u"pdf"_s};
+        QTest::newRow("of one kind") << text << QStringList{u"Text files"_s};
+        QTest::newRow("of several kinds")
+            << text + pdf
+            << QStringList{u"Text files, images and PDF files"_s, u"Text files"_s, u"PDF files"_s};
+    }
+    void aFilePanelNamesTheKindsOfFiles() {
+        QFETCH(const QStringList, extensions);
+        QFETCH(const QStringList, shown);
+        QWidget window;
+        Notices notices;
+        FilePanel panel;
+        panel.extensions = extensions;
+        notices.showFilePanel(&window, panel, [](const QStringList & /*paths*/) {});
+        auto *kinds = window.findChild<QFileDialog *>()->findChild<QComboBox *>(u"fileTypeCombo"_s);
+        QStringList names;
+        for (int i = 0; i < kinds->count(); ++i) {
+            names += kinds->itemText(i);
+        }
+        QCOMPARE(names, shown);
+    }
+
+    void aFilePanelShowsTheFilesOfItsKindAlone() {
+        const QTemporaryDir folder;
+        for (const char *name : {"a.PNG", "b.txt", "c.jpg", "dbmp"}) {
+            writeFile(folder.filePath(QString::fromLatin1(name)), "x");
+        }
+        QWidget window;
+        Notices notices;
+        FilePanel panel;
+        panel.extensions = {u"png"_s};
+        panel.startFolder = folder.path();
+        notices.showFilePanel(&window, panel, [](const QStringList & /*paths*/) {});
+        auto *list =
+            window.findChild<QFileDialog *>()->findChild<QAbstractItemView *>(u"treeView"_s);
+        const auto shown = [list] {
+            QStringList names;
+            for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row) {
+                names += list->model()->index(row, 0, list->rootIndex()).data().toString();
+            }
+            return names.join(u' ');
+        };
+        QTRY_COMPARE(shown(), u"a.PNG c.jpg"_s);
     }
 
     void aCancelledPanelGivesNoFiles() {
