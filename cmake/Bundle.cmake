@@ -15,12 +15,14 @@ else()
     set(FOLIOFORGE_INSTALL_BUNDLE "lib/folioforge/Folioforge.app/Contents")
 endif()
 
-# Puts the program `target` into the bundle.
+# Puts the program `target` into the bundle. A HELPER is started by another program alone and has no
+# link in bin.
 function(folioforge_program target)
+    cmake_parse_arguments(PROGRAM "HELPER" "" "" ${ARGN})
     set_target_properties(${target} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY "${FOLIOFORGE_BUNDLE_BIN}")
     install(TARGETS ${target} RUNTIME DESTINATION "${FOLIOFORGE_INSTALL_BUNDLE}/MacOS")
-    if(NOT APPLE)
+    if(NOT APPLE AND NOT PROGRAM_HELPER)
         file(RELATIVE_PATH program
             "/${CMAKE_INSTALL_BINDIR}" "/${FOLIOFORGE_INSTALL_BUNDLE}/MacOS/${target}")
         set(link "${CMAKE_CURRENT_BINARY_DIR}/links/${target}")

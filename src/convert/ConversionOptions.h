@@ -36,6 +36,7 @@ struct ConversionOptions {
     bool stripMetadata = false; ///< Exif, XMP and comments of pictures do not go in.
     /// The font of text pages; null for textFont().
     std::shared_ptr<const FontCascade> textFont;
+    int mostTextPages = 0; ///< Of an entry, for one who looks at a part of it; 0 for all.
     int compressIndex = 0; ///< 0 none, 1 "150m", 2 "96m", 3 "72l".
     Flush flush = Flush::Always;
     /// What every file of the run is written through.

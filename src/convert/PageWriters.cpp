@@ -14,18 +14,23 @@
 namespace folioforge {
 namespace {
 
-/// Draws the rows of a text on pages of the context until a stop is requested.
+/// Draws the rows of a text on pages of the context until a stop is requested or it has the most
+/// pages that it may have.
 class ContextSink : public TextPageSink {
   public:
     ContextSink(PDFContext &context, std::shared_ptr<const FontCascade> font, QSizeF pageSize,
-                const std::stop_token &stop)
+                int mostPages, const std::stop_token &stop)
         : m_context(context)
         , m_font(std::move(font))
         , m_page(QPointF(0, 0), pageSize)
+        , m_mostPages(mostPages)
         , m_stop(stop) {}
 
-    [[nodiscard]] bool wantsPage() override { return !m_stop.stop_requested(); }
+    [[nodiscard]] bool wantsPage() override {
+        return !m_stop.stop_requested() && (m_mostPages == 0 || m_pages < m_mostPages);
+    }
     void beginPage() override {
+        ++m_pages;
         m_context.beginPage(m_page);
         m_context.setFont(m_font, m_font->size());
         m_context.setRGBFillColor(0, 0, 0);
@@ -39,6 +44,8 @@ class ContextSink : public TextPageSink {
     PDFContext &m_context;
     std::shared_ptr<const FontCascade> m_font;
     QRectF m_page;
+    int m_mostPages;
+    int m_pages = 0;
     const std::stop_token &m_stop;
 };
 
@@ -49,7 +56,7 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
     SourceText source = entry.sourceText(options.calls);
     const QSizeF pageSize = getTextPageSize(options.textPage);
     const auto font = options.textFont ? options.textFont : textFont();
-    ContextSink sink(context, font, pageSize, stop);
+    ContextSink sink(context, font, pageSize, options.mostTextPages, stop);
     Warnings warnings = std::move(source.warnings);
     std::ranges::move(layOutText(source.text, pageSize, options.textPage.margins, *font, sink),
                       std::back_inserter(warnings));
