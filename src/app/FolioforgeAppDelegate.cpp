@@ -41,6 +41,9 @@ FolioforgeAppDelegate::~FolioforgeAppDelegate() = default;
 void FolioforgeAppDelegate::awakeFromNib() {
     m_mainWndCtrl = std::make_unique<MainWndCtrl>(m_services);
     m_mainWndCtrl->setDelegateObject(this);
+    viewMenu->menuAction()->setVisible(m_mainWndCtrl->canShowPages());
+    m_previewItem->setEnabled(m_mainWndCtrl->canShowPages());
+    connect(m_mainWndCtrl.get(), &MainWndCtrl::previewShown, m_previewItem, &QAction::setChecked);
     if (QAction *update = itemWithTitle(*m_programMenu, tr("Check for Update..."))) {
         update->setVisible(true);
     }
@@ -67,6 +70,7 @@ void FolioforgeAppDelegate::connectItems() {
     using Self = FolioforgeAppDelegate;
     connect(m_addFilesItem, &QAction::triggered, this, &Self::clickMenuItemAddFiles);
     connect(m_startItem, &QAction::triggered, this, &Self::clickMenuItemStart);
+    connect(m_previewItem, &QAction::triggered, this, &Self::clickMenuItemPreview);
     connect(m_quitItem, &QAction::triggered, this, &Self::clickMenuItemQuit);
     connect(m_supportItem, &QAction::triggered, this, &Self::clickMenuItemSupport);
     connect(m_productItem, &QAction::triggered, this, &Self::clickMenuItemProduct);
@@ -87,6 +91,10 @@ void FolioforgeAppDelegate::clickMenuItemStart() {
     if (!m_mainWndCtrl->isConverting()) {
         m_mainWndCtrl->clickBtnCreate();
     }
+}
+
+void FolioforgeAppDelegate::clickMenuItemPreview() {
+    m_mainWndCtrl->togglePreview();
 }
 
 void FolioforgeAppDelegate::clickMenuItemAbout() {

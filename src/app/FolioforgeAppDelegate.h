@@ -39,6 +39,7 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
 
     void clickMenuItemAddFiles();
     void clickMenuItemStart();
+    void clickMenuItemPreview();
     void clickMenuItemAbout();
     void clickMenuItemUpdate();
     void clickMenuItemSupport();

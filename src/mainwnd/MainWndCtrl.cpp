@@ -11,6 +11,7 @@
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
 #include "mainwnd/OptionsSlide.h"
+#include "preview/Preview.h"
 #include "skin/VesprinTableHeaderView.h"
 
 #include <QGuiApplication>
@@ -201,6 +202,7 @@ void MainWndCtrl::connectControls() {
     connect(m_mtxTextPageSizeMode, &QButtonGroup::buttonToggled, this, &Self::clickMtxTextPageSize);
     connect(m_mtxImagePageSizeMode, &QButtonGroup::buttonToggled, this,
             &Self::clickMtxImagePageSize);
+    connect(m_tableview, &SkinTableView::previewAsked, this, &Self::togglePreview);
 }
 
 /// What the answer of a run says holds for the list of that run.

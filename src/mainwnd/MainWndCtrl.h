@@ -24,6 +24,8 @@ namespace folioforge {
 class FilesArray;
 class ListHistory;
 class OptionsSlide;
+class Preview;
+struct PreviewSubject;
 struct FilePanel;
 enum class FileKind;
 enum class ListCommand;
@@ -52,7 +54,8 @@ struct PDFDocument {
 /// here once and defined by topic: MainWndCtrl.cpp (life of the window), MainWndCtrlOptions.cpp
 /// (options panel, output folder), MainWndCtrlFiles.cpp (how files come into the list),
 /// MainWndCtrlEdit.cpp (what is done with the list), MainWndCtrlConvert.cpp (the steps of a run),
-/// MainWndCtrlProgress.cpp (what shows how it goes).
+/// MainWndCtrlProgress.cpp (what shows how it goes), MainWndCtrlPreview.cpp (the pages of an
+/// entry).
 class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::MainWnd {
     Q_OBJECT
 
@@ -160,6 +163,13 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void showAlertView();
     void hideAlertView();
 
+    // ---- Preview (MainWndCtrlPreview.cpp) ----------------------------------------------------
+
+    /// Whether this build has the program that draws pages.
+    [[nodiscard]] bool canShowPages() const;
+    /// Shows the pages of the selected entry beside the list, or hides them.
+    void togglePreview();
+
     // ---- Kept for callers alone: nothing in the program calls these --------------------------
 
     /// Does nothing, on purpose: a sheet blocks the window by itself.
@@ -169,6 +179,9 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     /// Page sizes in points, as the controls stand now; a run asks the functions of these names.
     [[nodiscard]] QSizeF getTextPageSize() const;
     [[nodiscard]] QSizeF getImagePageSize() const;
+
+  Q_SIGNALS:
+    void previewShown(bool shown);
 
   private:
     // Life of the window.
@@ -209,6 +222,13 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void exchangeWithRow(ListCommand command, int row);
     void goThroughHistory(QString (ListHistory::*step)(const QString &));
 
+    // Preview.
+    void makePreview();
+    void connectPreview();
+    void showPreview(bool shown);
+    [[nodiscard]] int previewRow() const;
+    [[nodiscard]] PreviewSubject previewSubject() const;
+
     // Runs.
     class WorkerObserver;
     bool checkSettings(const ConversionOptions &options);
@@ -235,6 +255,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
 
     QWidget *m_currentSettingsView = nullptr;
     std::unique_ptr<OptionsSlide> m_optionsSlide;
+    std::unique_ptr<Preview> m_preview; ///< Made when it is first shown.
     QString m_outputFolderPath;
 
     QString m_destFilePathName; ///< The PDF being written.

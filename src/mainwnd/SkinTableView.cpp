@@ -34,6 +34,10 @@ bool asksForMenu(const QKeyEvent &key) {
            (key.key() == Qt::Key_F10 && key.modifiers() == Qt::ShiftModifier);
 }
 
+bool asksForPreview(const QKeyEvent &key) {
+    return key.key() == Qt::Key_Space && key.modifiers() == Qt::NoModifier && !key.isAutoRepeat();
+}
+
 bool asksToOpen(const QKeyEvent &key) {
     const bool isAlone = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     return isAlone && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
@@ -145,6 +149,9 @@ void SkinTableView::keyPressEvent(QKeyEvent *event) {
         event->accept(); // The command is not possible now; the table itself must not do another.
     } else {
         QTableView::keyPressEvent(event);
+        if (asksForPreview(*event)) {
+            Q_EMIT previewAsked();
+        }
     }
 }
 

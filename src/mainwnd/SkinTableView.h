@@ -71,6 +71,10 @@ class SkinTableView : public QTableView {
     void clickMenuMoveUp();
     void clickMenuMoveDown();
 
+  Q_SIGNALS:
+    /// Space was pressed.
+    void previewAsked();
+
   protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

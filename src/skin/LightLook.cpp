@@ -71,6 +71,7 @@ QString lightStyleSheet() {
         #band QPushButton:pressed { background: #6a6a6a; }
         #band QPushButton:focus { border: 2px solid #6fb0ff; padding: 4px 12px; }
         #foot { border-top: 1px solid #dfe2e7; background: #ffffff; }
+        #previewPanel { border-left: 1px solid #dfe2e7; background: #f3f4f6; }
         #optionsPanel { border-left: 1px solid #dfe2e7; background: #ffffff; }
         #m_settingsViewContainer { border: 1px solid #d5dae1; border-radius: 6px; }
         QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
