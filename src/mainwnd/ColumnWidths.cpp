@@ -36,6 +36,18 @@ void ColumnWidths::layOut() {
     setWidths(m_shares.empty() ? firstWidths() : sharedWidths());
 }
 
+void ColumnWidths::setShares(const std::vector<double> &shares) {
+    constexpr double kRounding = 0.01;
+    const double whole = std::accumulate(shares.begin(), shares.end(), 0.0);
+    const bool areShares = shares.size() == FilesArray::ColumnCount &&
+                           std::ranges::all_of(shares, [](double share) { return share > 0; }) &&
+                           std::abs(whole - 1) < kRounding;
+    if (areShares) {
+        m_shares = shares;
+        layOut();
+    }
+}
+
 /// What a column gains the next one loses, so that the other edges stay.
 void ColumnWidths::dragged(int column, int before, int now) {
     if (m_isSetting) {

@@ -22,6 +22,11 @@ class ColumnWidths : public QObject {
     /// To be called when the table has another width or header.
     void layOut();
 
+    /// The shares that the columns have of the whole width; none until an edge was dragged.
+    [[nodiscard]] const std::vector<double> &shares() const { return m_shares; }
+    /// Gives the columns `shares`, unless these cannot be.
+    void setShares(const std::vector<double> &shares);
+
   private:
     void dragged(int column, int before, int now);
     void setWidths(const std::vector<int> &widths);

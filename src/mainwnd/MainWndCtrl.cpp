@@ -3,6 +3,7 @@
 #include "mainwnd/MainWndCtrl.h"
 
 #include "filelist/FileKind.h"
+#include "mainwnd/ColumnWidths.h"
 #include "mainwnd/Desktop.h"
 #include "mainwnd/EmptyHint.h"
 #include "mainwnd/EntryDelegate.h"
@@ -11,6 +12,7 @@
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
 #include "mainwnd/OptionsSlide.h"
+#include "mainwnd/WindowMemory.h"
 #include "preview/Preview.h"
 #include "skin/VesprinTableHeaderView.h"
 
@@ -37,11 +39,15 @@ void fitIntoScreen(QMainWindow &window) {
 
 MainWndCtrl::MainWndCtrl(WindowServices services)
     : m_services(std::move(services))
+    , m_memory(std::make_unique<WindowMemory>(m_services.settings))
     , m_filesArray(std::make_unique<FilesArray>())
     , m_history(std::make_unique<ListHistory>(*m_filesArray)) {}
 
 MainWndCtrl::~MainWndCtrl() {
     m_stop.request_stop();
+    if (m_window) {
+        keepWindow();
+    }
 }
 
 QMainWindow *MainWndCtrl::window() {
@@ -62,9 +68,28 @@ void MainWndCtrl::loadWindow() {
     m_tableview->setModel(m_filesArray.get());
     m_tableview->setSelectionModel(m_filesArray->selectionModel());
     m_tableview->setTableDelegate(this);
-    fitIntoScreen(*m_window);
+    restoreWindow();
     awakeFromNib();
     windowDidLoad();
+}
+
+void MainWndCtrl::restoreWindow() {
+    if (const std::optional<QSize> size = m_memory->size()) {
+        m_window->resize(*size + QSize(static_cast<int>(OptionsDrawer::kFullWidth), 0));
+    } else {
+        fitIntoScreen(*m_window);
+    }
+    m_tableview->columns().setShares(m_memory->columnShares());
+}
+
+/// A window that fills the screen keeps the size that it had before.
+void MainWndCtrl::keepWindow() {
+    if (!m_window->isMaximized() && !m_window->isFullScreen()) {
+        m_memory->keepSize(m_window->size() - QSize(m_optionsDrawer->openWidth(), 0));
+    }
+    if (const std::vector<double> &shares = m_tableview->columns().shares(); !shares.empty()) {
+        m_memory->keepColumnShares(shares);
+    }
 }
 
 void MainWndCtrl::awakeFromNib() {
@@ -195,6 +220,8 @@ void MainWndCtrl::connectControls() {
     on(m_btnSecuritySetting, &Self::clickBtnSecurity);
     on(m_btnImageSetting, &Self::clickBtnImagePageSize);
     on(m_btnTxtSetting, &Self::clickBtnTextPageSize);
+    connect(m_btnMerge, &QCheckBox::toggled, this, &Self::clickBtnMerge);
+    clickBtnMerge();
     // Screen readers toggle a box without a click.
     connect(m_btnCheckUserPassword, &QCheckBox::toggled, this, &Self::clickBtnCheckUserPassword);
     connect(m_btnCheckOwnerPassword, &QCheckBox::toggled, this, &Self::clickBtnCheckOwnerPassword);

@@ -5,6 +5,7 @@
 #include "convert/Run.h"
 #include "files/ReadableLinks.h"
 #include "files/TemporaryFolder.h"
+#include "mainwnd/Notices.h"
 #include "mainwnd/SkinTableView.h"
 #include "mainwnd/WindowServices.h"
 #include "text/FontCascade.h"
@@ -26,6 +27,7 @@ class ListHistory;
 class OptionsSlide;
 class Preview;
 struct PreviewSubject;
+class WindowMemory;
 struct FilePanel;
 enum class FileKind;
 enum class ListCommand;
@@ -94,6 +96,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
 
     void clickMtxTextPageSize();
     void clickMtxImagePageSize();
+    void clickBtnMerge();
     void clickBtnCheckUserPassword();
     void clickBtnCheckOwnerPassword();
 
@@ -186,6 +189,8 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
   private:
     // Life of the window.
     void loadWindow();
+    void restoreWindow();
+    void keepWindow();
     void awakeFromNib();
     void windowDidLoad();
     void initCtrl();
@@ -211,8 +216,9 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
 
     // File list.
     [[nodiscard]] QString documentsFolder() const;
-    void addFromPanel(const FilePanel &panel);
-    void addKindFromPanel(const QString &title, FileKind kind);
+    void showAddPanel(const QString &name, FilePanel panel, Notices::Chosen chosen);
+    void addFromPanel(const QString &name, const FilePanel &panel);
+    void addKindFromPanel(const QString &name, const QString &title, FileKind kind);
     void insertEntries(std::vector<PDFFileInfo> entries, int row);
 
     // Editing the list.
@@ -248,6 +254,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     }
 
     WindowServices m_services;
+    std::unique_ptr<WindowMemory> m_memory;
     std::unique_ptr<QMainWindow> m_window;
     MainWndDelegate *m_delegate = nullptr;
     std::unique_ptr<FilesArray> m_filesArray;

@@ -9,6 +9,7 @@
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/ListHistory.h"
 #include "mainwnd/Notices.h"
+#include "mainwnd/WindowMemory.h"
 
 #include <QFileInfo>
 #include <QMimeData>
@@ -77,55 +78,63 @@ bool isDroppable(const QString &path) {
 } // namespace
 
 void MainWndCtrl::clickBtnAddFile() {
-    addFromPanel({tr("Add Files"),
-                  {},
-                  FilePanel::Chooses::FilesAndFolders,
-                  true,
-                  recognisedExtensions(),
-                  {}});
+    addFromPanel(u"Files"_s, {tr("Add Files"),
+                              {},
+                              FilePanel::Chooses::FilesAndFolders,
+                              true,
+                              recognisedExtensions(),
+                              {}});
 }
 
 void MainWndCtrl::clickBtnAddFolder() {
-    addFromPanel({tr("Add Folders"),
-                  {},
-                  FilePanel::Chooses::Folders,
-                  true,
-                  recognisedExtensions(),
-                  documentsFolder()});
+    addFromPanel(u"Folders"_s, {tr("Add Folders"),
+                                {},
+                                FilePanel::Chooses::Folders,
+                                true,
+                                recognisedExtensions(),
+                                documentsFolder()});
     hasFileOpened(!m_filesArray->isEmpty());
 }
 
 void MainWndCtrl::clickBtnAddImage() {
-    addKindFromPanel(tr("Add Images"), FileKind::Image);
+    addKindFromPanel(u"Images"_s, tr("Add Images"), FileKind::Image);
 }
 
 void MainWndCtrl::clickBtnAddTxt() {
-    addKindFromPanel(tr("Add Text Files"), FileKind::Text);
+    addKindFromPanel(u"Text"_s, tr("Add Text Files"), FileKind::Text);
 }
 
 void MainWndCtrl::clickBtnAddPDF() {
-    addKindFromPanel(tr("Add PDF Files"), FileKind::Pdf);
+    addKindFromPanel(u"PDF"_s, tr("Add PDF Files"), FileKind::Pdf);
 }
 
 QString MainWndCtrl::documentsFolder() const {
     return m_services.homeFolder + u"/Documents"_s;
 }
 
-void MainWndCtrl::addFromPanel(const FilePanel &panel) {
-    m_services.notices.showFilePanel(m_window.get(), panel, [this](const QStringList &chosen) {
-        if (!chosen.isEmpty()) {
-            addFiles(filesOf(chosen, m_readableLinks), -1);
-        }
+/// Shows `panel` in the folder where the panel called `name` was last.
+void MainWndCtrl::showAddPanel(const QString &name, FilePanel panel, Notices::Chosen chosen) {
+    panel.startFolder = m_memory->panelFolder(name, panel.startFolder);
+    m_services.notices.showFilePanel(
+        m_window.get(), panel, [this, name, chosen = std::move(chosen)](const QStringList &paths) {
+            if (!paths.isEmpty()) {
+                m_memory->keepPanelFolder(name, QFileInfo(paths.first()).absolutePath());
+                chosen(paths);
+            }
+        });
+}
+
+void MainWndCtrl::addFromPanel(const QString &name, const FilePanel &panel) {
+    showAddPanel(name, panel, [this](const QStringList &chosen) {
+        addFiles(filesOf(chosen, m_readableLinks), -1);
     });
 }
 
-void MainWndCtrl::addKindFromPanel(const QString &title, FileKind kind) {
+void MainWndCtrl::addKindFromPanel(const QString &name, const QString &title, FileKind kind) {
     const FilePanel panel{
         title, {}, FilePanel::Chooses::Files, true, extensionsOf(kind), documentsFolder()};
-    m_services.notices.showFilePanel(m_window.get(), panel, [this](const QStringList &chosen) {
-        if (!chosen.isEmpty()) {
-            addFiles(m_readableLinks.pathsForReadable(chosen), -1);
-        }
+    showAddPanel(name, panel, [this](const QStringList &chosen) {
+        addFiles(m_readableLinks.pathsForReadable(chosen), -1);
     });
 }
 

@@ -136,6 +136,12 @@ void MainWndCtrl::clickMtxImagePageSize() {
     m_tfImageCustomizedPageHeight->setEnabled(custom);
 }
 
+/// Only a merged PDF has a name of its own.
+void MainWndCtrl::clickBtnMerge() {
+    m_lbOutputName->setEnabled(m_btnMerge->isChecked());
+    m_tfOutputName->setEnabled(m_btnMerge->isChecked());
+}
+
 void MainWndCtrl::clickBtnCheckUserPassword() {
     m_tfUserPassword->setEnabled(m_btnCheckUserPassword->isChecked());
     m_tfUserPassword->clear();

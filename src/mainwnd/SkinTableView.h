@@ -57,6 +57,8 @@ class SkinTableView : public QTableView {
     [[nodiscard]] int selectedRow() const;
     /// What can be done with the list, for menus.
     [[nodiscard]] ListCommands &commands() const { return *m_commands; }
+    /// How the columns share the width of the list.
+    [[nodiscard]] ColumnWidths &columns() const { return *m_columns; }
     /// What stands in the list while it is empty.
     [[nodiscard]] EmptyHint &emptyHint() const { return *m_hint; }
 
