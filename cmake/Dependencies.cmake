@@ -2,19 +2,24 @@
 # The libraries the product stands on; docs/architecture.md says why each was taken.
 
 set(parts Core)
+set(optional_parts)
 if(FOLIOFORGE_WINDOW)
     list(APPEND parts Gui Widgets Svg)
     if(FOLIOFORGE_PREVIEW)
-        set(optional_parts OPTIONAL_COMPONENTS Pdf)
+        list(APPEND optional_parts Pdf)
     endif()
 endif()
 if(FOLIOFORGE_TESTS)
     list(APPEND parts Test)
-    if(UNIX AND NOT APPLE)
+endif()
+if(UNIX AND NOT APPLE)
+    if(FOLIOFORGE_TESTS)
         list(APPEND parts DBus) # The end-to-end test speaks to the screen.
+    elseif(FOLIOFORGE_WINDOW)
+        list(APPEND optional_parts DBus) # The window speaks to the desktop.
     endif()
 endif()
-find_package(Qt6 6.4 REQUIRED COMPONENTS ${parts} ${optional_parts})
+find_package(Qt6 6.4 REQUIRED COMPONENTS ${parts} OPTIONAL_COMPONENTS ${optional_parts})
 find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 if(APPLE)

@@ -2,6 +2,8 @@
 
 #include "mainwnd/Desktop.h"
 
+#include "mainwnd/DesktopBus.h"
+
 #include <QDesktopServices>
 #include <QFile>
 #include <QProcess>
@@ -24,6 +26,14 @@ void SystemDesktop::openURL(const QUrl &url) {
 
 void SystemDesktop::openFile(const QString &path) {
     QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void SystemDesktop::notify(const QString &text) {
+    sendNotification(text);
+}
+
+void SystemDesktop::showProgress(std::optional<double> share) {
+    sendProgress(share);
 }
 
 QByteArray openCommand(const QString &verb, const QString &path) {

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QUrl>
 
+#include <optional>
+
 namespace folioforge {
 
 /// What the window asks of the desktop around it.
@@ -19,6 +21,10 @@ class Desktop {
     virtual void openURL(const QUrl &url) = 0;
     /// Opens a file or folder with the desktop's default handler.
     virtual void openFile(const QString &path) = 0;
+    /// Shows `text` to a user who looks elsewhere.
+    virtual void notify(const QString &text) = 0;
+    /// Shows how far a run is (0 to 1) on the task bar; nothing ends that.
+    virtual void showProgress(std::optional<double> share) = 0;
 };
 
 /// The real desktop.
@@ -27,6 +33,8 @@ class SystemDesktop : public Desktop {
     void runInShell(const QByteArray &command) override;
     void openURL(const QUrl &url) override;
     void openFile(const QString &path) override;
+    void notify(const QString &text) override;
+    void showProgress(std::optional<double> share) override;
 };
 
 /// The shell command that opens the file at `path`: `verb` and the path in double quotes, with a

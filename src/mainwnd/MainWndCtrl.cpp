@@ -12,6 +12,7 @@
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
 #include "mainwnd/OptionsSlide.h"
+#include "mainwnd/RunNews.h"
 #include "mainwnd/WindowMemory.h"
 #include "preview/Preview.h"
 #include "skin/VesprinTableHeaderView.h"
@@ -40,6 +41,7 @@ void fitIntoScreen(QMainWindow &window) {
 MainWndCtrl::MainWndCtrl(WindowServices services)
     : m_services(std::move(services))
     , m_memory(std::make_unique<WindowMemory>(m_services.settings))
+    , m_news(std::make_unique<RunNews>(m_services.desktop, m_services.longRun))
     , m_filesArray(std::make_unique<FilesArray>())
     , m_history(std::make_unique<ListHistory>(*m_filesArray)) {}
 

@@ -27,6 +27,7 @@ class ListHistory;
 class OptionsSlide;
 class Preview;
 struct PreviewSubject;
+class RunNews;
 class WindowMemory;
 struct FilePanel;
 enum class FileKind;
@@ -255,6 +256,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
 
     WindowServices m_services;
     std::unique_ptr<WindowMemory> m_memory;
+    std::unique_ptr<RunNews> m_news;
     std::unique_ptr<QMainWindow> m_window;
     MainWndDelegate *m_delegate = nullptr;
     std::unique_ptr<FilesArray> m_filesArray;

@@ -5,6 +5,7 @@
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/ListCommands.h"
 #include "mainwnd/ListHistory.h"
+#include "mainwnd/RunNews.h"
 
 #include <utility>
 
@@ -25,6 +26,7 @@ void MainWndCtrl::clickBtnCreate() {
     m_answer->hide();
     m_filesArray->setStateIndexOfAll(Waiting);
     setConverting(true);
+    m_news->begin();
     showAlertView();
     createSingleFile();
 }
@@ -121,6 +123,7 @@ void MainWndCtrl::endRun() {
     setConverting(false);
     const std::optional<Notice> problems = m_run->problems();
     m_answer->show(m_run->summary());
+    m_news->end(m_answer->text(), m_window->isActiveWindow());
     m_run.reset();
     m_prgCreate->hide();
     m_lbProgress->hide();

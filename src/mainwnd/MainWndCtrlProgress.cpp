@@ -5,6 +5,7 @@
 #include "files/Printable.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/NotificationCenter.h"
+#include "mainwnd/RunNews.h"
 
 #include <QFileInfo>
 
@@ -80,7 +81,9 @@ void MainWndCtrl::showRunProgress() {
     if (m_pdfDoc && m_run->compresses()) {
         words += tr(", compressing");
     }
-    m_alertWnd->setProgress(words, merges ? ofPdf : (m_fileIndex + ofPdf) / total);
+    const double share = merges ? ofPdf : (m_fileIndex + ofPdf) / total;
+    m_alertWnd->setProgress(words, share);
+    m_news->progress(share);
 }
 
 void MainWndCtrl::endPageWrite(int pageIndex) {

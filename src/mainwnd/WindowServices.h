@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <chrono>
+
 class QSettings;
 
 namespace folioforge {
@@ -20,6 +22,8 @@ struct WindowServices {
     NotificationCenter &notifications;
     QString homeFolder; ///< Without a slash at its end.
     QString bundlePath; ///< "…/Folioforge.app", without a slash at its end.
+    /// How long a run takes before its end is worth a notification.
+    std::chrono::milliseconds longRun{10'000};
 };
 
 } // namespace folioforge

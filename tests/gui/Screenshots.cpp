@@ -32,6 +32,8 @@ class StillDesktop : public Desktop {
     void runInShell(const QByteArray & /*command*/) override {}
     void openURL(const QUrl & /*url*/) override {}
     void openFile(const QString & /*path*/) override {}
+    void notify(const QString & /*text*/) override {}
+    void showProgress(std::optional<double> /*share*/) override {}
 };
 
 class Photographer {

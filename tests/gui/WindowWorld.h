@@ -22,10 +22,14 @@ class RecordingDesktop : public Desktop {
     void runInShell(const QByteArray &command) override { commands += command; }
     void openURL(const QUrl &url) override { urls += url; }
     void openFile(const QString &path) override { files += path; }
+    void notify(const QString &text) override { notifications += text; }
+    void showProgress(std::optional<double> share) override { progress += share.value_or(-1); }
 
     QList<QByteArray> commands;
     QList<QUrl> urls;
     QStringList files;
+    QStringList notifications;
+    QList<double> progress; ///< -1 where it went.
 };
 
 /// A home folder of its own with a settings file and everything a window asks for, before any
