@@ -38,7 +38,7 @@ class Names {
 
     /// The inputs with what their files hold.
     std::vector<Input> read() {
-        std::vector<ReadEntry> entries = readEntries(m_files, TextReading::WhenWritten);
+        std::vector<ReadEntry> entries = readEntries(m_files, SourceReading::WhenWritten);
         auto next = entries.begin();
         for (Input &input : m_inputs) {
             if (input.read.problem.isEmpty() && input.leftOut.empty()) {

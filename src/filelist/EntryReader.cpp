@@ -7,6 +7,7 @@
 #include "filelist/SourceFiles.h"
 #include "files/SourceFile.h"
 #include "image/Parallel.h"
+#include "pdf/import/SourceDocument.h"
 
 #include <QFileInfo>
 
@@ -21,13 +22,17 @@ namespace folioforge {
 namespace {
 
 /// Reads what decides whether the file may enter the list. Throws Error where it may not.
-void accept(ReadEntry &read) {
+void accept(ReadEntry &read, SourceReading reading) {
     const QString &path = read.entry.filePathName();
     FileVersion::of(path); // Throws where no regular file is.
     switch (fileKind(path)) {
     case FileKind::Pdf:
         read.refusedPdf = true;
-        read.entry.setPageCount(countPdfPages(path));
+        if (reading == SourceReading::WhenListed) {
+            read.entry.setPageCount(countPdfPages(path));
+        } else {
+            requireSourceDocument(path);
+        }
         read.refusedPdf = false;
         break;
     case FileKind::Image:
@@ -40,14 +45,14 @@ void accept(ReadEntry &read) {
     }
 }
 
-ReadEntry readEntry(const QString &path, TextReading texts) {
-    ReadEntry read{PDFFileInfo(path, texts), {}, false};
+ReadEntry readEntry(const QString &path, SourceReading reading) {
+    ReadEntry read{PDFFileInfo(path, reading), {}, false};
     const FileKind kind = fileKind(path);
     if (kind == FileKind::Text || kind == FileKind::Pdf) {
         read.entry.setFileSize(sizeText(QFileInfo(path).size()));
     }
     try {
-        accept(read);
+        accept(read, reading);
         read.problem = read.entry.readError();
     } catch (const Error &error) {
         read.problem = error.reason();
@@ -57,13 +62,13 @@ ReadEntry readEntry(const QString &path, TextReading texts) {
 
 } // namespace
 
-std::vector<ReadEntry> readEntries(const QStringList &paths, TextReading texts) {
+std::vector<ReadEntry> readEntries(const QStringList &paths, SourceReading reading) {
     const auto count = static_cast<std::size_t>(paths.size());
     std::vector<ReadEntry> read(count);
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
         for (std::size_t i = next++; i < count; i = next++) {
-            read[i] = readEntry(paths.at(static_cast<qsizetype>(i)), texts);
+            read[i] = readEntry(paths.at(static_cast<qsizetype>(i)), reading);
         }
     };
     // A thread costs more than a few small files.

@@ -19,6 +19,6 @@ struct ReadEntry {
 
 /// Makes the entries of `paths` in their order. The files are read by several threads, as far as
 /// the list needs them; nothing is left running when it returns.
-std::vector<ReadEntry> readEntries(const QStringList &paths, TextReading texts);
+std::vector<ReadEntry> readEntries(const QStringList &paths, SourceReading reading);
 
 } // namespace folioforge

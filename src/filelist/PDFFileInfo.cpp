@@ -53,18 +53,18 @@ QVariant dateOrNothing(const QDateTime &date) {
 
 } // namespace
 
-PDFFileInfo::PDFFileInfo(const QString &path, TextReading texts) {
+PDFFileInfo::PDFFileInfo(const QString &path, SourceReading reading) {
     m_filePathName = path;
-    readSource(texts);
+    readSource(reading);
     setStateIndex(Waiting);
 }
 
 void PDFFileInfo::setFilePathName(const QString &path) {
     m_filePathName = path;
-    readSource(TextReading::WhenListed);
+    readSource(SourceReading::WhenListed);
 }
 
-void PDFFileInfo::readSource(TextReading texts) {
+void PDFFileInfo::readSource(SourceReading reading) {
     m_fileName = lastPathComponent(m_filePathName);
     m_fileString = QString();
     m_textIsHeld = false;
@@ -74,7 +74,7 @@ void PDFFileInfo::readSource(TextReading texts) {
     m_remarks.reset();
     switch (fileKind(m_filePathName)) {
     case FileKind::Text:
-        m_textIsHeld = texts == TextReading::WhenListed;
+        m_textIsHeld = reading == SourceReading::WhenListed;
         readText();
         break;
     case FileKind::Pdf:

@@ -39,15 +39,15 @@ struct SourceImage {
     [[nodiscard]] QSizeF sizeInPoints() const { return header.sizeInPoints(); }
 };
 
-/// When the contents of a text file are read: when it is listed, or each time its pages are written
-/// so that no text is held for longer.
-enum class TextReading { WhenListed, WhenWritten };
+/// When the contents of a file are read: when it is listed, so that texts are held and the pages of
+/// PDFs counted, or each time its pages are written.
+enum class SourceReading { WhenListed, WhenWritten };
 
 /// One row of the file list: an input file, what the list shows of it and where its output went.
 class PDFFileInfo {
   public:
     PDFFileInfo() = default;
-    explicit PDFFileInfo(const QString &path, TextReading texts = TextReading::WhenListed);
+    explicit PDFFileInfo(const QString &path, SourceReading reading = SourceReading::WhenListed);
 
     [[nodiscard]] const QString &filePathName() const { return m_filePathName; }
     [[nodiscard]] const QString &fileName() const { return m_fileName; }
@@ -102,7 +102,7 @@ class PDFFileInfo {
     [[nodiscard]] QVariant valueForUndefinedKey(const QString &key) const;
 
   private:
-    void readSource(TextReading texts);
+    void readSource(SourceReading reading);
     void readText();
     void readImage();
     [[nodiscard]] RichText linkText() const;

@@ -144,7 +144,7 @@ void MainWndCtrl::addFiles(const QStringList &paths, int row) {
     }
     std::vector<PDFFileInfo> entries;
     QStringList badFiles;
-    for (ReadEntry &read : readEntries(paths, TextReading::WhenListed)) {
+    for (ReadEntry &read : readEntries(paths, SourceReading::WhenListed)) {
         if (isBadPdf(read)) {
             badFiles += read.entry.filePathName();
         } else {

@@ -92,7 +92,7 @@ class NoThreadsTest : public QObject, CompressionCase {
             paths += writeFile(path(u"%1.txt"_s.arg(i)), "text");
         }
         const NoThreads none;
-        const std::vector<ReadEntry> read = readEntries(paths, TextReading::WhenListed);
+        const std::vector<ReadEntry> read = readEntries(paths, SourceReading::WhenListed);
         QVERIFY(none.refused() > 0 || std::thread::hardware_concurrency() == 1);
         QCOMPARE(read.size(), std::size_t{100});
         for (int i = 0; i < 100; ++i) {

@@ -62,7 +62,7 @@ class RunTest : public QObject {
         for (const QString &name : names) {
             m_entries.emplace_back(
                 test::writeFile(m_folder->filePath(name + u".txt"_s), name.toUtf8()),
-                TextReading::WhenWritten);
+                SourceReading::WhenWritten);
         }
     }
     void convertAll(Recorder &recorder, const std::stop_token &stop = {}) const {

@@ -21,8 +21,8 @@ class EntryReaderTest : public QObject {
     QTemporaryDir m_folder;
 
     QString path(const char *name) const { return m_folder.filePath(QString::fromUtf8(name)); }
-    static ReadEntry read(const QString &file, TextReading texts = TextReading::WhenListed) {
-        return readEntries({file}, texts).front();
+    static ReadEntry read(const QString &file, SourceReading reading = SourceReading::WhenListed) {
+        return readEntries({file}, reading).front();
     }
 
   private Q_SLOTS:
@@ -32,7 +32,7 @@ class EntryReaderTest : public QObject {
             paths += test::writeFile(m_folder.filePath(u"%1.txt"_s.arg(i)), "x");
         }
         QStringList read;
-        for (const ReadEntry &entry : readEntries(paths, TextReading::WhenListed)) {
+        for (const ReadEntry &entry : readEntries(paths, SourceReading::WhenListed)) {
             read += entry.entry.filePathName();
         }
         QCOMPARE(read, paths);
@@ -45,14 +45,20 @@ class EntryReaderTest : public QObject {
         QCOMPARE(read(test::writeFile(path("a.txt"), "words")).entry.pageCount(), 0);
     }
 
+    void aRefusedPdfIsToldFromOneThatIsMissing_data() {
+        QTest::addColumn<SourceReading>("reading");
+        QTest::newRow("listed") << SourceReading::WhenListed;
+        QTest::newRow("written") << SourceReading::WhenWritten;
+    }
     void aRefusedPdfIsToldFromOneThatIsMissing() {
-        const ReadEntry refused = read(test::writeFile(path("no.pdf"), "no document"));
+        QFETCH(const SourceReading, reading);
+        const ReadEntry refused = read(test::writeFile(path("no.pdf"), "no document"), reading);
         QVERIFY(refused.refusedPdf);
         QCOMPARE(refused.problem, u"This is not a PDF file"_s);
-        const ReadEntry missing = read(path("missing.pdf"));
+        const ReadEntry missing = read(path("missing.pdf"), reading);
         QVERIFY(!missing.refusedPdf);
         QVERIFY(!missing.problem.isEmpty());
-        const ReadEntry good = read(test::writePdf(path("good.pdf"), 1));
+        const ReadEntry good = read(test::writePdf(path("good.pdf"), 1), reading);
         QVERIFY(!good.refusedPdf);
         QCOMPARE(good.problem, QString());
     }
@@ -67,8 +73,9 @@ class EntryReaderTest : public QObject {
         const QString file = test::writeFile(path("large.txt"), "words");
         constexpr qint64 kTooLarge = qint64{1} << 31;
         QVERIFY(QFile::resize(file, kTooLarge)); // Takes no room on the disk.
-        for (const TextReading texts : {TextReading::WhenListed, TextReading::WhenWritten}) {
-            QCOMPARE(read(file, texts).problem, u"The text is larger than 2 GB"_s);
+        for (const SourceReading reading :
+             {SourceReading::WhenListed, SourceReading::WhenWritten}) {
+            QCOMPARE(read(file, reading).problem, u"The text is larger than 2 GB"_s);
         }
     }
 
@@ -79,14 +86,15 @@ class EntryReaderTest : public QObject {
 
     void aPipeIsNeverOpened() {
         QCOMPARE(::mkfifo(qPrintable(path("pipe.txt")), 0600), 0);
-        for (const TextReading texts : {TextReading::WhenListed, TextReading::WhenWritten}) {
-            QCOMPARE(read(path("pipe.txt"), texts).problem, u"It is not a regular file"_s);
+        for (const SourceReading reading :
+             {SourceReading::WhenListed, SourceReading::WhenWritten}) {
+            QCOMPARE(read(path("pipe.txt"), reading).problem, u"It is not a regular file"_s);
         }
     }
 
     void aTextReadWhenWrittenIsHeldByNobody() {
         const QString file = test::writeFile(path("late.txt"), "before");
-        const ReadEntry listed = read(file, TextReading::WhenWritten);
+        const ReadEntry listed = read(file, SourceReading::WhenWritten);
         QCOMPARE(listed.problem, QString());
         QVERIFY(listed.entry.getFileString().isNull());
         test::writeFile(file, "after");
@@ -97,7 +105,7 @@ class EntryReaderTest : public QObject {
 
     void aTextReadWhenListedStaysAsItWas() {
         const QString file = test::writeFile(path("early.txt"), "before");
-        const ReadEntry listed = read(file, TextReading::WhenListed);
+        const ReadEntry listed = read(file, SourceReading::WhenListed);
         QVERIFY(QFile::remove(file));
         QCOMPARE(listed.entry.sourceText().text, u"before"_s);
     }

@@ -93,7 +93,7 @@ class PDFFileInfoTest : public QObject {
         QStringList paths(15, large); // Enough for several threads.
         paths += test::writeFile(path("small.txt"), "words");
         const ShortMemory shortMemory;
-        const std::vector<ReadEntry> read = readEntries(paths, TextReading::WhenListed);
+        const std::vector<ReadEntry> read = readEntries(paths, SourceReading::WhenListed);
         QCOMPARE(read.size(), std::size_t{16});
         for (std::size_t i = 0; i < 15; ++i) {
             QCOMPARE(read[i].problem, u"There is not enough memory"_s);

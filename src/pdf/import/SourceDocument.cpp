@@ -146,4 +146,8 @@ std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
     });
 }
 
+void requireSourceDocument(const QString &path) {
+    openSourceDocument(FileVersion::of(path), std::make_shared<SourceReader>());
+}
+
 } // namespace folioforge

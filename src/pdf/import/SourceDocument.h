@@ -31,4 +31,7 @@ PDFSummary summarizePDF(const QString &path, SystemCalls &calls = SystemCalls::s
 std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
                                          const std::shared_ptr<SourceReader> &reader);
 
+/// Throws Error where openSourceDocument() would for the PDF at `path`.
+void requireSourceDocument(const QString &path);
+
 } // namespace folioforge
