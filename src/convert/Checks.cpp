@@ -13,33 +13,33 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-Notice otherFolderNotice(const QString &problem) {
-    return notice(problem,
-                  QCoreApplication::translate("Checks", "Click \"OK\" to select another folder."));
+Notice otherFolderNotice(const QString &problem, Setting setting) {
+    Notice found = notice(problem, setting);
+    found.advice = QCoreApplication::translate("Checks", "Click \"OK\" to select another folder.");
+    return found;
 }
 
 Notice equalPasswordsNotice() {
-    return notice(u"The passwords can not be the same."_s);
+    return notice(u"The passwords can not be the same."_s, Setting::OwnerPassword);
 }
 
 /// A password that no encrypted document can hold would fail only once everything is converted.
-std::optional<QString> problemOf(const SecuritySettings &settings) {
-    const auto problem = [](bool used, const QString &password) {
-        return used ? passwordProblem(password) : std::nullopt;
-    };
-    const auto found = problem(settings.useUserPassword, settings.userPassword);
-    return found ? found : problem(settings.useOwnerPassword, settings.ownerPassword);
+std::optional<Notice> problemOf(bool used, const QString &password, Setting setting) {
+    const auto problem = used ? passwordProblem(password) : std::nullopt;
+    return problem ? std::optional(notice(*problem + u'.', setting)) : std::nullopt;
 }
 
 } // namespace
 
 std::optional<Notice> checkOutputFolder(const QString &folder) {
     if (folder.isEmpty()) {
-        return notice(u"Please select an output folder to store the output documents."_s);
+        return notice(u"Please select an output folder to store the output documents."_s,
+                      Setting::OutputFolder);
     }
     const QFileInfo info(folder);
     if (!info.isDir() || !info.isWritable()) {
-        return otherFolderNotice(u"Selected output folder does not exist or is not writable."_s);
+        return otherFolderNotice(u"Selected output folder does not exist or is not writable."_s,
+                                 Setting::OutputFolder);
     }
     return std::nullopt;
 }
@@ -49,16 +49,19 @@ std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings) {
     const QString &owner = settings.ownerPassword;
     const bool both = settings.useUserPassword && settings.useOwnerPassword;
     if (settings.useUserPassword && user.isEmpty()) {
-        return notice(u"Please input user password."_s);
+        return notice(u"Please input user password."_s, Setting::UserPassword);
     }
     if (settings.useOwnerPassword && owner.isEmpty()) {
-        return notice(u"Please input owner password."_s);
+        return notice(u"Please input owner password."_s, Setting::OwnerPassword);
     }
     if (both && user == owner) {
         return equalPasswordsNotice();
     }
-    if (const auto problem = problemOf(settings)) {
-        return notice(*problem + u'.');
+    if (auto found = problemOf(settings.useUserPassword, user, Setting::UserPassword)) {
+        return found;
+    }
+    if (auto found = problemOf(settings.useOwnerPassword, owner, Setting::OwnerPassword)) {
+        return found;
     }
     // Passwords that differ as typed can be one in the document, where the user password would
     // then lift every restriction.
@@ -73,7 +76,7 @@ std::optional<Notice> checkMergedFile(const ConversionOptions &options) {
         return std::nullopt;
     }
     if (options.outputName.isEmpty() || isNameOfFolder(options.outputName)) {
-        return notice(u"Please input output file name."_s);
+        return notice(u"Please input output file name."_s, Setting::OutputName);
     }
     if (isNameTaken(mergedFilePath(options))) {
         return nameExistsNotice();
@@ -97,11 +100,13 @@ std::optional<Notice> checkConversion(const ConversionOptions &options) {
 
 Notice folderNotWritableNotice() {
     return otherFolderNotice(
-        QCoreApplication::translate("Checks", "Selected output folder is not writable."));
+        QCoreApplication::translate("Checks", "Selected output folder is not writable."),
+        Setting::None);
 }
 
 Notice nameExistsNotice() {
-    return notice(u"File name already exists in output folder, please input another name."_s);
+    return notice(u"File name already exists in output folder, please input another name."_s,
+                  Setting::OutputName);
 }
 
 } // namespace folioforge

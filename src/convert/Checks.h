@@ -24,7 +24,8 @@ std::optional<Notice> checkMergedFile(const ConversionOptions &options);
 /// merged file.
 std::optional<Notice> checkConversion(const ConversionOptions &options);
 
-/// The notice that a folder chosen for output cannot be written to.
+/// The notice that a folder chosen for output cannot be written to. It speaks of no setting: the
+/// folder has not become the output folder.
 Notice folderNotWritableNotice();
 
 /// The notice that the merged file's name is taken.

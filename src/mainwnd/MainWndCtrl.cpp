@@ -7,6 +7,7 @@
 #include "mainwnd/Desktop.h"
 #include "mainwnd/EmptyHint.h"
 #include "mainwnd/EntryDelegate.h"
+#include "mainwnd/FaultMark.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/ListHistory.h"
 #include "mainwnd/Notices.h"
@@ -43,7 +44,8 @@ MainWndCtrl::MainWndCtrl(WindowServices services)
     , m_memory(std::make_unique<WindowMemory>(m_services.settings))
     , m_news(std::make_unique<RunNews>(m_services.desktop, m_services.longRun))
     , m_filesArray(std::make_unique<FilesArray>())
-    , m_history(std::make_unique<ListHistory>(*m_filesArray)) {}
+    , m_history(std::make_unique<ListHistory>(*m_filesArray))
+    , m_faultMark(std::make_unique<FaultMark>()) {}
 
 MainWndCtrl::~MainWndCtrl() {
     m_stop.request_stop();
@@ -256,17 +258,6 @@ void MainWndCtrl::observeNotifications() {
                     compressCompleted();
                 }
             });
-}
-
-void MainWndCtrl::showNotice(const Notice &notice) {
-    m_services.notices.showSheet(m_window.get(), notice);
-}
-
-bool MainWndCtrl::passes(const std::optional<Notice> &problem) {
-    if (problem) {
-        showNotice(*problem);
-    }
-    return !problem;
 }
 
 } // namespace folioforge

@@ -22,6 +22,7 @@ class QMenu;
 
 namespace folioforge {
 
+class FaultMark;
 class FilesArray;
 class ListHistory;
 class OptionsSlide;
@@ -58,7 +59,7 @@ struct PDFDocument {
 /// (options panel, output folder), MainWndCtrlFiles.cpp (how files come into the list),
 /// MainWndCtrlEdit.cpp (what is done with the list), MainWndCtrlConvert.cpp (the steps of a run),
 /// MainWndCtrlProgress.cpp (what shows how it goes), MainWndCtrlPreview.cpp (the pages of an
-/// entry).
+/// entry), MainWndCtrlFaults.cpp (notices and the fields that they speak of).
 class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::MainWnd {
     Q_OBJECT
 
@@ -200,10 +201,16 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void connectControls();
     void connectAnswer();
     void observeNotifications();
+
+    // Notices and what they speak of (MainWndCtrlFaults.cpp).
     void showNotice(const Notice &notice);
     bool passes(const std::optional<Notice> &problem);
+    [[nodiscard]] QLineEdit *fieldOf(Setting setting) const;
+    void showField(QLineEdit &field);
+    void showOptionsAtOnce();
 
     // Options panel and output folder.
+    void offerToHideOptions();
     static void exchangeButtons(SkinButton *pressed, SkinButton *other);
     void showSettingsView(QWidget *view);
     void markSettingsButton(const QWidget *view);
@@ -261,6 +268,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     MainWndDelegate *m_delegate = nullptr;
     std::unique_ptr<FilesArray> m_filesArray;
     std::unique_ptr<ListHistory> m_history; ///< All changes of the list go through it.
+    std::unique_ptr<FaultMark> m_faultMark;
 
     QWidget *m_currentSettingsView = nullptr;
     std::unique_ptr<OptionsSlide> m_optionsSlide;

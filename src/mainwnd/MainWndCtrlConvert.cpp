@@ -69,11 +69,11 @@ void MainWndCtrl::PDFCreated(const PDFOutcome &outcome) {
     for (std::size_t row = entries.first; row < entries.end; ++row) {
         m_filesArray->setStateIndex(static_cast<int>(row), Waiting);
     }
-    if (outcome.close.status == CloseResult::Status::NameTaken) {
-        showNotice(nameExistsNotice());
-    }
     m_destFilePathName.clear();
     compressCompleted();
+    if (outcome.close.status == CloseResult::Status::NameTaken) {
+        showNotice(nameExistsNotice()); // Now that the run no longer covers the field.
+    }
 }
 
 void MainWndCtrl::compress(const QString &path) {

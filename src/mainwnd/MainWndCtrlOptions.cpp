@@ -48,6 +48,10 @@ void makeWorldWritable(const QString &folder) {
 
 void MainWndCtrl::clickBtnExpand() {
     m_optionsSlide->slideTo(static_cast<int>(OptionsDrawer::kFullWidth));
+    offerToHideOptions();
+}
+
+void MainWndCtrl::offerToHideOptions() {
     exchangeButtons(m_btnExpand, m_btnElapse);
     m_labelOptions->setText(tr("Hide Options"));
 }

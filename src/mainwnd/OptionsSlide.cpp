@@ -45,14 +45,20 @@ void OptionsSlide::beginHidden() {
     m_drawer.setOpenWidth(0);
 }
 
-void OptionsSlide::slideTo(int width) {
+void OptionsSlide::jumpTo(int width) {
     takeUsersChanges();
-    const int duration = m_window.style()->styleHint(QStyle::SH_Widget_Animation_Duration);
     m_slide.stop();
+    openTo(width);
+}
+
+void OptionsSlide::slideTo(int width) {
+    const int duration = m_window.style()->styleHint(QStyle::SH_Widget_Animation_Duration);
     if (duration <= 0) {
-        openTo(width);
+        jumpTo(width);
         return;
     }
+    takeUsersChanges();
+    m_slide.stop();
     // A slide that has run before would show its new end at once.
     QSignalBlocker silence(m_slide);
     m_slide.setDuration(duration);

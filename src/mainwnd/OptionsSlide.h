@@ -33,6 +33,8 @@ class OptionsSlide : public QObject {
     void beginHidden();
     /// Slides the drawer to a width of so many points, as fast as the style's animations are.
     void slideTo(int width);
+    /// Opens or closes the drawer to a width of so many points at once.
+    void jumpTo(int width);
 
   Q_SIGNALS:
     /// The window stands still again.

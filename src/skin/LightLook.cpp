@@ -47,6 +47,7 @@ QString lightStyleSheet() {
             border-color: #e0e4e9; background: #f6f7f9; color: #676d75;
         }
         QLineEdit[readOnly="true"] { background: #f8f9fb; }
+        QLineEdit[fault="true"] { border: 2px solid #c62828; padding: 2px 6px; }
         QComboBox {
             border: 1px solid #868d97; border-radius: 5px; padding: 3px 7px; min-height: 18px;
             background: #ffffff;

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QEvent>
+#include <QLayout>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -52,6 +53,12 @@ bool OptionsDrawer::eventFilter(QObject *watched, QEvent *event) {
         return true;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void OptionsDrawer::scrollTo(QWidget &control) {
+    // A panel that has just been opened or exchanged has its places only now.
+    m_area->widget()->layout()->activate();
+    m_area->ensureWidgetVisible(&control);
 }
 
 /// Scrolls to the control that gets the focus from the keyboard; a clicked one must not move.

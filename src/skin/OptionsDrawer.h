@@ -23,6 +23,8 @@ class OptionsDrawer : public QWidget {
     void setPanel(QWidget *panel);
     /// Opens the drawer to `width` points; at 0 it is hidden and takes no focus.
     void setOpenWidth(int width);
+    /// Scrolls to `control` of the panel.
+    void scrollTo(QWidget &control);
     [[nodiscard]] int openWidth() const { return m_openWidth; }
 
   protected:

@@ -2,6 +2,7 @@
 
 #include "text/PageSetup.h"
 
+#include <algorithm>
 #include <array>
 #include <limits>
 
@@ -15,18 +16,39 @@ enum class Axis { Width, Height };
 
 constexpr quint64 kMaxMargin = 256;
 
-Notice alertInvalidPageMargin(Target target) {
-    const QString head = u"Invalid page margin value "_s;
-    return notice(head + (target == Target::Text ? u"in text output setting."_s
-                                                 : u"in image output setting."_s));
+/// The settings of a kind of pages; the margins in the order in which they are checked.
+struct PageSettings {
+    Setting width;
+    Setting height;
+    std::array<Setting, 4> margins;
+};
+
+PageSettings settingsOf(Target target) {
+    using enum Setting;
+    return target == Target::Text
+               ? PageSettings{TextWidth, TextHeight, {TextTop, TextLeft, TextBottom, TextRight}}
+               : PageSettings{
+                     ImageWidth, ImageHeight, {ImageTop, ImageLeft, ImageBottom, ImageRight}};
 }
 
-Notice alertInvalidPageSize(Target target, Axis axis) {
+Notice alertInvalidPageMargin(Target target, Setting margin) {
+    const QString head = u"Invalid page margin value "_s;
+    return notice(head + (target == Target::Text ? u"in text output setting."_s
+                                                 : u"in image output setting."_s),
+                  margin);
+}
+
+/// Leads to the size where it can be changed, else to the first margin.
+Notice alertInvalidPageSize(Target target, Axis axis, bool isCustom) {
+    const PageSettings settings = settingsOf(target);
+    const bool isWidth = axis == Axis::Width;
     const QString head = u"The value of page margin is larger than page "_s;
-    const QString middle = axis == Axis::Width ? u"width, "_s : u"height, "_s;
+    const QString middle = isWidth ? u"width, "_s : u"height, "_s;
     const QString tail = target == Target::Text ? u"please modify your text output setting."_s
                                                 : u"please modify your image output setting."_s;
-    return notice(head + middle + tail);
+    const Setting size = isWidth ? settings.width : settings.height;
+    const Setting margin = settings.margins[isWidth ? 1 : 0];
+    return notice(head + middle + tail, isCustom ? size : margin);
 }
 
 /// Negative margins wrap to large unsigned numbers and fail with the same test.
@@ -35,22 +57,23 @@ bool isValidMargin(qint64 margin) {
 }
 
 std::optional<Notice> checkMargins(const PageMargins &margins, Target target) {
-    for (const qint64 margin :
-         std::array{margins.top, margins.left, margins.bottom, margins.right}) {
-        if (!isValidMargin(margin)) {
-            return alertInvalidPageMargin(target);
-        }
+    const std::array values{margins.top, margins.left, margins.bottom, margins.right};
+    const auto invalid =
+        std::ranges::find_if(values, [](qint64 margin) { return !isValidMargin(margin); });
+    if (invalid == values.end()) {
+        return std::nullopt;
     }
-    return std::nullopt;
+    const auto place = static_cast<std::size_t>(invalid - values.begin());
+    return alertInvalidPageMargin(target, settingsOf(target).margins.at(place));
 }
 
 std::optional<Notice> checkRoomBetweenMargins(const PageMargins &margins, QSizeF size,
-                                              Target target) {
+                                              Target target, bool isCustom) {
     if (static_cast<double>(margins.left + margins.right) >= size.width()) {
-        return alertInvalidPageSize(target, Axis::Width);
+        return alertInvalidPageSize(target, Axis::Width, isCustom);
     }
     if (static_cast<double>(margins.top + margins.bottom) >= size.height()) {
-        return alertInvalidPageSize(target, Axis::Height);
+        return alertInvalidPageSize(target, Axis::Height, isCustom);
     }
     return std::nullopt;
 }
@@ -103,7 +126,8 @@ std::optional<Notice> checkTextPageSizeSettings(const PageSetup &setup) {
     if (auto invalid = checkMargins(setup.margins, Target::Text)) {
         return invalid;
     }
-    return checkRoomBetweenMargins(setup.margins, getTextPageSize(setup), Target::Text);
+    return checkRoomBetweenMargins(setup.margins, getTextPageSize(setup), Target::Text,
+                                   setup.sizeMode == TextPageCustom);
 }
 
 std::optional<Notice> checkImagePageSizeSettings(const PageSetup &setup) {
@@ -113,7 +137,7 @@ std::optional<Notice> checkImagePageSizeSettings(const PageSetup &setup) {
     if (setup.sizeMode != ImagePageCustom) {
         return std::nullopt;
     }
-    return checkRoomBetweenMargins(setup.margins, getImagePageSize(setup), Target::Image);
+    return checkRoomBetweenMargins(setup.margins, getImagePageSize(setup), Target::Image, true);
 }
 
 } // namespace folioforge

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "mainwnd/FaultMark.h"
+
+#include <QEvent>
+#include <QLineEdit>
+#include <QStyle>
+
+namespace folioforge {
+
+void FaultMark::put(QLineEdit &field, const QString &problem) {
+    clear();
+    m_field = &field;
+    m_description = field.accessibleDescription();
+    show(true, problem);
+    connect(&field, &QLineEdit::textChanged, this, &FaultMark::clear);
+    field.installEventFilter(this);
+}
+
+void FaultMark::clear() {
+    if (m_field) {
+        m_field->disconnect(this);
+        m_field->removeEventFilter(this);
+        show(false, m_description);
+        m_field.clear();
+    }
+}
+
+bool FaultMark::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::EnabledChange && !m_field->isEnabled()) {
+        clear();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void FaultMark::show(bool fault, const QString &description) {
+    m_field->setProperty("fault", fault);
+    m_field->setAccessibleDescription(description);
+    m_field->style()->unpolish(m_field); // The style sheet looks at properties when it polishes.
+    m_field->style()->polish(m_field);
+}
+
+} // namespace folioforge
