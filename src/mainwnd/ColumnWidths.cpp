@@ -3,6 +3,7 @@
 #include "mainwnd/ColumnWidths.h"
 
 #include "mainwnd/FilesArray.h"
+#include "skin/TextScale.h"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
@@ -78,8 +79,11 @@ void ColumnWidths::setWidths(const std::vector<int> &widths) {
 }
 
 std::vector<int> ColumnWidths::firstWidths() const {
-    const int rest = room() - kNumberWidth - kSizeWidth - kDestinationWidth;
-    return {kNumberWidth, std::max(rest, kMinNameWidth), kSizeWidth, kDestinationWidth};
+    const int number = scaledToText(kNumberWidth);
+    const int size = scaledToText(kSizeWidth);
+    const int destination = scaledToText(kDestinationWidth);
+    return {number, std::max(room() - number - size - destination, kMinNameWidth), size,
+            destination};
 }
 
 /// Each edge is rounded for itself, so that the last one is the end of the table.

@@ -16,6 +16,7 @@
 #include "mainwnd/RunNews.h"
 #include "mainwnd/WindowMemory.h"
 #include "preview/Preview.h"
+#include "skin/TextScale.h"
 #include "skin/VesprinTableHeaderView.h"
 
 #include <QGuiApplication>
@@ -72,6 +73,7 @@ void MainWndCtrl::loadWindow() {
     m_tableview->setModel(m_filesArray.get());
     m_tableview->setSelectionModel(m_filesArray->selectionModel());
     m_tableview->setTableDelegate(this);
+    fitLargeTexts();
     restoreWindow();
     awakeFromNib();
     windowDidLoad();
@@ -96,8 +98,26 @@ void MainWndCtrl::keepWindow() {
     }
 }
 
+/// Makes room for texts that are larger than usual.
+void MainWndCtrl::fitLargeTexts() {
+    constexpr int kIconSize = 16;
+    band->setFixedHeight(scaledToText(CycleSkinedView::kBandHeight));
+    m_tableview->setIconSize(QSize(1, 1) * scaledToText(kIconSize));
+    stackPairs(*imageNumbersLayout);
+    stackPairs(*textNumbersLayout);
+    const auto sides = [](const QWidget *widget) {
+        const QMargins margins = widget->layout()->contentsMargins();
+        return margins.left() + margins.right();
+    };
+    const int room = static_cast<int>(OptionsDrawer::kFullWidth) - sides(optionsPanel) -
+                     2 * m_settingsViewContainer->frameWidth();
+    for (const QWidget *view : {m_imagePageSizeView, m_textPageSizeView, m_securityView}) {
+        breakWideLabels(*view, room - sides(view));
+    }
+}
+
 void MainWndCtrl::awakeFromNib() {
-    m_tableview->horizontalHeader()->setFixedHeight(kHeaderHeight);
+    m_tableview->horizontalHeader()->setFixedHeight(scaledToText(kHeaderHeight));
 }
 
 void MainWndCtrl::windowDidLoad() {
@@ -195,7 +215,9 @@ void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
     const SkinImage hover = look(u"-hover"_s, normal);
     if (!normal.isNull()) {
         button->ensurePolished(); // Else the style sheet's least size would replace this one later.
-        button->setFixedSize(normal.size());
+        // The panel has no room for larger ones.
+        const double scale = optionsPanel->isAncestorOf(button) ? 1 : textScale();
+        button->setFixedSize(normal.size() * scale);
     }
     button->setNormalImage(normal);
     button->setMouseOnImage(hover);

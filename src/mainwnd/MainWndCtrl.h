@@ -191,6 +191,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
   private:
     // Life of the window.
     void loadWindow();
+    void fitLargeTexts();
     void restoreWindow();
     void keepWindow();
     void awakeFromNib();

@@ -2,16 +2,18 @@
 
 #include "skin/CycleSkinedView.h"
 
+#include "skin/TextScale.h"
+
 #include <QPainter>
 
 namespace folioforge {
 
 void CycleSkinedView::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
-    painter.fillRect(QRect(0, 0, width(), kBandHeight),
-                     QColor::fromRgbF(kBandGrey, kBandGrey, kBandGrey));
-    if (height() > kBandHeight) {
-        painter.fillRect(QRect(0, kBandHeight, width(), height() - kBandHeight), Qt::white);
+    const int band = scaledToText(kBandHeight);
+    painter.fillRect(QRect(0, 0, width(), band), QColor::fromRgbF(kBandGrey, kBandGrey, kBandGrey));
+    if (height() > band) {
+        painter.fillRect(QRect(0, band, width(), height() - band), Qt::white);
     }
 }
 

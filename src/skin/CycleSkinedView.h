@@ -13,7 +13,7 @@ class CycleSkinedView : public QWidget {
   public:
     using QWidget::QWidget;
 
-    /// Height of the band in points.
+    /// Height of the band in points, beside texts of usual size.
     static constexpr int kBandHeight = 58;
     /// The band's grey: each component, 0 to 1.
     static constexpr float kBandGrey = 0.21956479121740835F;

@@ -2,6 +2,8 @@
 
 #include "skin/VesprinTableHeaderView.h"
 
+#include "skin/TextScale.h"
+
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -41,7 +43,7 @@ void VesprinTableHeaderView::drawColumnCell(QPainter &painter, const QRectF &cel
     // A point of this window is one unit of the screen's logical size, so the font's size goes in
     // pixels, which the screen's scale multiplies.
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    font.setPixelSize(kTitlePoints);
+    font.setPixelSize(scaledToText(kTitlePoints));
     const QFontMetricsF metrics(font);
     const auto titleWidth = static_cast<float>(metrics.horizontalAdvance(title));
     const auto titleHeight = static_cast<float>(metrics.height());

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "OffscreenScreen.h"
+#include "WindowWorld.h"
+#include "support/TestUnit.h"
+
+#include "mainwnd/FilesArray.h"
+#include "mainwnd/MainWndCtrl.h"
+#include "skin/LightLook.h"
+#include "skin/OptionsDrawer.h"
+#include "skin/SkinButton.h"
+#include "skin/TextScale.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMainWindow>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+constexpr int kUsualPixels = 12;
+
+/// A window with its panel open, on a desktop whose texts are `percent` of the usual size.
+struct LargeTexts {
+    explicit LargeTexts(int percent) {
+        QFont font = QApplication::font();
+        font.setPixelSize(kUsualPixels * percent / 100);
+        QApplication::setFont(font);
+        applyLightLook(*qApp);
+        world.storeFolder(world.home.path());
+        ctrl = std::make_unique<MainWndCtrl>(world.services());
+        ctrl->window()->show();
+        ctrl->clickBtnExpand();
+        auto &drawer = control<OptionsDrawer>("m_optionsDrawer");
+        QTRY_COMPARE(drawer.openWidth(), static_cast<int>(OptionsDrawer::kFullWidth));
+    }
+    template<typename Control> Control &control(const char *name) {
+        return controlOf<Control>(*ctrl->window(), name);
+    }
+    /// The labels, boxes and buttons in sight that have less room than their text takes, or whose
+    /// room the window does not show.
+    [[nodiscard]] QStringList cut() {
+        QStringList names;
+        for (const auto *widget : ctrl->window()->findChildren<QWidget *>()) {
+            const auto *label = qobject_cast<const QLabel *>(widget);
+            const auto *button = qobject_cast<const QAbstractButton *>(widget);
+            const QString text = label ? label->text() : button ? button->text() : QString();
+            // A skin is a picture; the answer of a run gives way to its buttons.
+            const bool isText = !text.isEmpty() && widget->isVisible() &&
+                                !qobject_cast<const SkinButton *>(widget) &&
+                                !(label && label->wordWrap());
+            const QSize needed = widget->sizeHint();
+            if (isText && (widget->width() < needed.width() || widget->height() < needed.height() ||
+                           widget->visibleRegion().boundingRect().width() < needed.width())) {
+                names += widget->objectName() + u" '"_s + text + u'\'';
+            }
+        }
+        return names;
+    }
+
+    WindowWorld world;
+    std::unique_ptr<MainWndCtrl> ctrl;
+};
+
+} // namespace
+
+/// The window follows the size of the system's texts.
+class LargeTextsTest : public QObject {
+    Q_OBJECT
+
+  public:
+    static void initMain() { useScreenOf({1920, 1200}); }
+
+  private Q_SLOTS:
+    void noTextIsCut_data() {
+        QTest::addColumn<int>("percent");
+        QTest::addColumn<QByteArray>("settings");
+        for (const int percent : {100, 125, 150, 200}) {
+            for (const char *settings :
+                 {"m_btnImageSetting", "m_btnTxtSetting", "m_btnSecuritySetting"}) {
+                QTest::addRow("%d %% %s", percent, settings) << percent << QByteArray(settings);
+            }
+        }
+    }
+    void noTextIsCut() {
+        QFETCH(const int, percent);
+        QFETCH(const QByteArray, settings);
+        LargeTexts w(percent);
+        QTest::mouseClick(&w.control<QWidget>(settings), Qt::LeftButton);
+        w.ctrl->window()->resize(w.ctrl->window()->width(), 1100);
+        QCoreApplication::processEvents();
+        QCOMPARE(w.cut(), QStringList());
+    }
+
+    void usualTextsLeaveEverythingAsItWasDrawn() {
+        LargeTexts w(125);
+        QCOMPARE(textScale(), 1.0);
+        const auto &button = w.control<SkinButton>("m_btnAddImage");
+        QCOMPARE(button.size(), button.normalImage().size());
+        QCOMPARE(w.control<QTableView>("m_tableview").horizontalHeader()->height(), 34);
+    }
+
+    void skinsAndHeaderGrowWithTheTexts() {
+        LargeTexts w(200);
+        QCOMPARE(textScale(), 24.0 / 13.0);
+        for (const char *name : {"m_btnAddImage", "m_btnCreate", "m_btnBrowse", "m_btnExpand"}) {
+            const auto &button = w.control<SkinButton>(name);
+            QCOMPARE(button.size(), button.normalImage().size() * (24.0 / 13.0));
+        }
+        QCOMPARE(w.control<QTableView>("m_tableview").horizontalHeader()->height(), 63);
+        QCOMPARE(w.control<QWidget>("band").height(), 107);
+        const QImage ground = w.control<QWidget>("m_skinedBackView").grab().toImage();
+        QCOMPARE(ground.pixelColor(3, 105), QColor(56, 56, 56));
+    }
+
+    void rowsAreHighEnough() {
+        LargeTexts w(200);
+        w.ctrl->addFiles({w.world.file(u"a.txt"_s)}, -1);
+        auto &table = w.control<QTableView>("m_tableview");
+        QVERIFY(table.rowHeight(0) >= QFontMetrics(QApplication::font()).height());
+    }
+
+    void wideLabelsHaveTwoLinesAndKeepTheirWords() {
+        LargeTexts w(200);
+        auto &box = w.control<QCheckBox>("m_btnCheckOwnerPassword");
+        QCOMPARE(box.text().count(u'\n'), 1);
+        QString words = box.text();
+        QCOMPARE(words.replace(u'\n', u' ').remove(u'&'), u"Owner password, to change rights"_s);
+    }
+
+    void theWindowFitsItsScreen() {
+        LargeTexts w(200);
+        QVERIFY(w.ctrl->window()->minimumSizeHint().width() <= 1920);
+    }
+};
+
+FOLIOFORGE_TEST(LargeTextsTest)
+#include "LargeTextsTest.moc"
