@@ -243,12 +243,16 @@ void MainWndCtrl::connectControls() {
     on(m_btnExpand, &Self::clickBtnExpand);
     on(m_btnElapse, &Self::clickBtnElapse);
     on(m_btnSave, &Self::clickBtnSave);
-    on(m_btnSecuritySetting, &Self::clickBtnSecurity);
-    on(m_btnImageSetting, &Self::clickBtnImagePageSize);
-    on(m_btnTxtSetting, &Self::clickBtnTextPageSize);
     connect(m_btnMerge, &QCheckBox::toggled, this, &Self::clickBtnMerge);
     clickBtnMerge();
-    // Screen readers toggle a box without a click.
+    // Screen readers toggle without a click.
+    const auto onToggle = [&](QAbstractButton *button, void (Self::*action)()) {
+        on(button, action);
+        connect(button, &QAbstractButton::toggled, this, action);
+    };
+    onToggle(m_btnSecuritySetting, &Self::clickBtnSecurity);
+    onToggle(m_btnImageSetting, &Self::clickBtnImagePageSize);
+    onToggle(m_btnTxtSetting, &Self::clickBtnTextPageSize);
     connect(m_btnCheckUserPassword, &QCheckBox::toggled, this, &Self::clickBtnCheckUserPassword);
     connect(m_btnCheckOwnerPassword, &QCheckBox::toggled, this, &Self::clickBtnCheckOwnerPassword);
     // The arrow keys choose a row without a click.

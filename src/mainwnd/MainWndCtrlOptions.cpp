@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <array>
@@ -91,6 +92,7 @@ void MainWndCtrl::markSettingsButton(const QWidget *view) {
          {m_btnImageSetting, m_imagePageSizeView},
          {m_btnSecuritySetting, m_securityView}}};
     for (const auto &[button, choice] : choices) {
+        const QSignalBlocker silence(button);
         button->setChecked(choice == view);
         if (choice != view) {
             button->showNormalImage();

@@ -37,7 +37,7 @@ QStringList titlesOf(const QMenu &menu) {
     return titles;
 }
 
-QString enabledOf(const QMenu &menu) {
+QString enabledPattern(const QMenu &menu) {
     QString marks;
     for (const QAction *item : menu.actions()) {
         marks += item->isSeparator() ? u'-' : item->isEnabled() ? u'1' : u'0';
@@ -64,7 +64,7 @@ class ContextMenuTest : public QObject {
         QVERIFY(menu);
         QCOMPARE(menu->title(), u"Contextual Menu"_s);
         QCOMPARE(titlesOf(*menu), menuTitles(u"Sort By Name"_s, u"Sort By Size"_s));
-        QCOMPARE(enabledOf(*menu), u"11-1111-11"_s);
+        QCOMPARE(enabledPattern(*menu), u"11-1111-11"_s);
         for (const QAction *item : menu->actions()) {
             QVERIFY(item->shortcut().isEmpty());
         }
@@ -78,7 +78,7 @@ class ContextMenuTest : public QObject {
         const QMenu *menu = openMenu();
         QVERIFY(menu);
         QCOMPARE(titlesOf(*menu), menuTitles(u"Resort By Name"_s, u"Resort By Size"_s));
-        QCOMPARE(enabledOf(*menu), u"00-0000-00"_s);
+        QCOMPARE(enabledPattern(*menu), u"00-0000-00"_s);
         openMenu()->close();
     }
 
@@ -87,7 +87,7 @@ class ContextMenuTest : public QObject {
         w.delegate.up = false;
         w.delegate.removeClear = false;
         w.click(Qt::RightButton, w.middleOf(0, 1));
-        QCOMPARE(enabledOf(*openMenu()), u"00-1111-01"_s);
+        QCOMPARE(enabledPattern(*openMenu()), u"00-1111-01"_s);
         openMenu()->close();
     }
 
@@ -98,7 +98,7 @@ class ContextMenuTest : public QObject {
         first->close();
         w.delegate.resort = false;
         w.click(Qt::RightButton, w.middleOf(0, 1));
-        QCOMPARE(enabledOf(*openMenu()), u"11-0000-11"_s);
+        QCOMPARE(enabledPattern(*openMenu()), u"11-0000-11"_s);
         openMenu()->close();
         QTRY_VERIFY(first.isNull());
     }

@@ -50,6 +50,10 @@ class DesktopSession {
     /// What the program that opens files was given, one argument a line.
     [[nodiscard]] QByteArray opened() const;
 
+    /// The bus on which the application is known to screen readers.
+    [[nodiscard]] QDBusConnection accessibility() const {
+        return QDBusConnection(m_accessibilityBus);
+    }
     /// The element called `name` that can be seen and is no label; waits for it.
     [[nodiscard]] std::optional<Element> find(const QString &name);
     /// Whether an element called `name` can be seen now.

@@ -55,7 +55,7 @@ QMenu *openMenu(TestWindow &w, int row) {
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
-QString enabledOf(const QMenu &menu) {
+QString enabledItems(const QMenu &menu) {
     QStringList titles;
     for (const QAction *item : menu.actions()) {
         if (item->isEnabled() && !item->isSeparator()) {
@@ -167,12 +167,12 @@ class DroppingFilesTest : public QObject {
         addFour(w);
         w.select({1, 2});
         QMenu *menu = openMenu(w, 3);
-        QCOMPARE(enabledOf(*menu), u"Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
+        QCOMPARE(enabledItems(*menu), u"Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
                                    "Sort By Data Modified"_s);
         menu->close();
         w.select({3});
         menu = openMenu(w, 0);
-        QCOMPARE(enabledOf(*menu), u"Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
+        QCOMPARE(enabledItems(*menu), u"Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
                                    "Sort By Data Modified|Move Up"_s);
         menu->close();
     }
@@ -183,7 +183,7 @@ class DroppingFilesTest : public QObject {
                           w.table()->viewport()->mapTo(w.ctrl.window(), QPoint(60, 60)));
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         QVERIFY(menu);
-        QCOMPARE(enabledOf(*menu), QString());
+        QCOMPARE(enabledItems(*menu), QString());
         QCOMPARE(menu->actions().at(3)->text(), u"Resort By Name"_s);
         menu->close();
     }
