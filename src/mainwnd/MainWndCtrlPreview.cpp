@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <optional>
+#include <utility>
 
 namespace folioforge {
 
@@ -31,6 +32,10 @@ void MainWndCtrl::makePreview() {
     constexpr int kListShare = 2;
     m_besideLayout->setStretchFactor(m_tableview, kListShare);
     m_besideLayout->addWidget(&m_preview->panel(), 1);
+    QWidget *before = m_tableview;
+    for (QWidget *next : m_preview->panel().inTabOrder()) {
+        QWidget::setTabOrder(std::exchange(before, next), next);
+    }
     connectPreview();
 }
 

@@ -4,7 +4,6 @@
 
 #include <QAccessibleWidget>
 #include <QPainter>
-#include <QStyle>
 
 namespace folioforge {
 
@@ -63,16 +62,18 @@ void PageView::paintEvent(QPaintEvent * /*event*/) {
     }
 }
 
-/// A page that was drawn for other room is scaled until the right one comes.
+/// A page that was drawn for other room is scaled until the right one comes, which is shown pixel
+/// for pixel.
 void PageView::paintPage(QPainter &painter) const {
-    const QSize inside = room() / devicePixelRatio();
-    const QSize size = (m_page.size() / devicePixelRatio()).scaled(inside, Qt::KeepAspectRatio);
-    const QRect place =
-        QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size.expandedTo({1, 1}), rect());
+    const double ratio = devicePixelRatio();
+    const QSize pixels = m_page.size().scaled(room(), Qt::KeepAspectRatio).expandedTo({1, 1});
+    const QSize all = size() * ratio;
+    const QPoint corner((all.width() - pixels.width()) / 2, (all.height() - pixels.height()) / 2);
+    const QRectF place(QPointF(corner) / ratio, QSizeF(pixels) / ratio);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place, m_page);
     painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawRect(place.adjusted(-1, -1, 0, 0));
+    painter.drawRect(place.adjusted(-0.5, -0.5, 0.5, 0.5));
 }
 
 } // namespace folioforge

@@ -94,17 +94,22 @@ PreviewPanel::PreviewPanel(QWidget *parent)
 QToolButton *PreviewPanel::addButton(Qt::ArrowType arrow, const QString &name) {
     auto *button = new QToolButton;
     button->setArrowType(arrow);
-    button->setAutoRaise(true);
+    constexpr int kSide = 26; // Points.
+    button->setFixedSize(kSide, kSide);
     button->setFocusPolicy(Qt::StrongFocus);
     button->setAccessibleName(name);
     button->setToolTip(name);
     return button;
 }
 
+QList<QWidget *> PreviewPanel::inTabOrder() const {
+    return {m_view, m_back, m_forth, m_close};
+}
+
 void PreviewPanel::setFile(const QString &name) {
     m_name = name;
     m_file->setText(m_file->fontMetrics().elidedText(name, Qt::ElideMiddle,
-                                                     kMinimumWidth - m_close->sizeHint().width()));
+                                                     kMinimumWidth - 2 * m_close->width()));
     m_file->setToolTip(name);
     showPlace({});
     m_view->showWords({});

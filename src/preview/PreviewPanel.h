@@ -34,6 +34,8 @@ class PreviewPanel : public QWidget {
     /// Shows `words` in place of a page, which a screen reader says.
     void showWords(const QString &words, const PagePlace &place);
     [[nodiscard]] PageView &view() { return *m_view; }
+    /// What has the keyboard in turn, from the page on.
+    [[nodiscard]] QList<QWidget *> inTabOrder() const;
 
   Q_SIGNALS:
     /// The page at `page`, from 0, is wanted; it may lie outside.

@@ -73,6 +73,13 @@ QString lightStyleSheet() {
         #band QPushButton:focus { border: 2px solid #6fb0ff; padding: 4px 12px; }
         #foot { border-top: 1px solid #dfe2e7; background: #ffffff; }
         #previewPanel { border-left: 1px solid #dfe2e7; background: #f3f4f6; }
+        #previewPanel QToolButton {
+            border: 1px solid #868d97; border-radius: 5px; padding: 3px; background: #ffffff;
+        }
+        #previewPanel QToolButton:hover { border-color: #2470d3; }
+        #previewPanel QToolButton:pressed { background: #e6edf7; }
+        #previewPanel QToolButton:focus { border: 2px solid #2470d3; padding: 2px; }
+        #previewPanel QToolButton:disabled { border-color: #e0e4e9; }
         #optionsPanel { border-left: 1px solid #dfe2e7; background: #ffffff; }
         #m_settingsViewContainer { border: 1px solid #d5dae1; border-radius: 6px; }
         QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }

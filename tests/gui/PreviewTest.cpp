@@ -77,18 +77,18 @@ QImage drawnByPoppler(const QString &path, const QImage &like) {
 }
 
 /// Pages measure whole pixels.
-bool isNear(double ratio, double expected) {
+bool isAbout(double ratio, double expected) {
     return qAbs(ratio - expected) < 0.02;
 }
 
-QImage blank(QSize size) {
+QImage whitePage(QSize size) {
     QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::white);
     return image;
 }
 
 bool looksLike(const QImage &page, const QImage &expected) {
-    return difference(page, expected) < difference(blank(expected.size()), expected) / 2;
+    return difference(page, expected) < difference(whitePage(expected.size()), expected) / 2;
 }
 
 QAction *viewMenu(const QMainWindow &window) {
@@ -140,7 +140,7 @@ class PreviewTest : public QObject {
         w.key(Qt::Key_Space);
         QVERIFY(w.isShown());
         QVERIFY(w.panel().view().hasFocus());
-        QTRY_VERIFY(isNear(w.width(), 2));
+        QTRY_VERIFY(isAbout(w.width(), 2));
         const QRect list(w.table()->mapToGlobal(QPoint()), w.table()->size());
         const QRect panel(w.panel().mapToGlobal(QPoint()), w.panel().size());
         QCOMPARE(panel.left(), list.right() + 1);
@@ -189,7 +189,7 @@ class PreviewTest : public QObject {
         w.ctrl.addFiles({w.path(u"photo.png"_s)}, -1);
         w.choose(0);
         w.key(Qt::Key_Space);
-        QTRY_VERIFY(isNear(w.width(), 1.5));
+        QTRY_VERIFY(isAbout(w.width(), 1.5));
         QVERIFY(looksLike(w.page(), picture.scaled(w.page().size(), Qt::IgnoreAspectRatio,
                                                    Qt::SmoothTransformation)));
     }
@@ -201,7 +201,7 @@ class PreviewTest : public QObject {
         QTRY_VERIFY(!w.page().isNull());
         QVERIFY(w.width() < 1); // A4
         typePageSize(w, "400", "200");
-        QTRY_VERIFY(isNear(w.width(), 2));
+        QTRY_VERIFY(isAbout(w.width(), 2));
     }
 
     void settingsWithoutAPageAreSaidInWords() {
@@ -227,12 +227,25 @@ class PreviewTest : public QObject {
         for (const auto &[key, page] : keys) {
             w.key(key);
             QTRY_COMPARE(w.number(), u"Page %1 of 3"_s.arg(page));
-            QVERIFY(isNear(w.width(), (190 + 10 * page) / 100.0));
+            QVERIFY(isAbout(w.width(), (190 + 10 * page) / 100.0));
         }
         w.pressInPanel(u"Next page"_s);
         QTRY_COMPARE(w.number(), u"Page 2 of 3"_s);
         w.pressInPanel(u"Previous page"_s);
         QTRY_COMPARE(w.number(), u"Page 1 of 3"_s);
+    }
+
+    void theTabKeyLeadsThroughItBesideTheList() {
+        PreviewWindow w;
+        w.listPdf(3);
+        w.key(Qt::Key_Space);
+        QTRY_COMPARE(w.number(), u"Page 1 of 3"_s);
+        w.key(Qt::Key_Tab);
+        w.key(Qt::Key_Space); // Next page
+        QTRY_COMPARE(w.number(), u"Page 2 of 3"_s);
+        w.panel().view().setFocus();
+        w.key(Qt::Key_Backtab, Qt::ShiftModifier);
+        QVERIFY(w.table()->hasFocus());
     }
 
     void pagesOfALongTextAreWrittenAsTheyAreAskedFor() {
