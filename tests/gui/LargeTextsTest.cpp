@@ -80,22 +80,20 @@ class LargeTextsTest : public QObject {
   private Q_SLOTS:
     void noTextIsCut_data() {
         QTest::addColumn<int>("percent");
-        QTest::addColumn<QByteArray>("settings");
-        for (const int percent : {100, 125, 150, 200}) {
-            for (const char *settings :
-                 {"m_btnImageSetting", "m_btnTxtSetting", "m_btnSecuritySetting"}) {
-                QTest::addRow("%d %% %s", percent, settings) << percent << QByteArray(settings);
-            }
+        for (const int percent : {100, 150, 200}) {
+            QTest::addRow("%d %%", percent) << percent;
         }
     }
     void noTextIsCut() {
         QFETCH(const int, percent);
-        QFETCH(const QByteArray, settings);
         LargeTexts w(percent);
-        QTest::mouseClick(&w.control<QWidget>(settings), Qt::LeftButton);
         w.ctrl->window()->resize(w.ctrl->window()->width(), 1100);
-        QCoreApplication::processEvents();
-        QCOMPARE(w.cut(), QStringList());
+        for (const char *settings :
+             {"m_btnImageSetting", "m_btnTxtSetting", "m_btnSecuritySetting"}) {
+            QTest::mouseClick(&w.control<QWidget>(settings), Qt::LeftButton);
+            QCoreApplication::processEvents();
+            QCOMPARE(w.cut(), QStringList());
+        }
     }
 
     void usualTextsLeaveEverythingAsItWasDrawn() {

@@ -145,6 +145,8 @@ class ListHistoryTest : public QObject {
         QCOMPARE(w.names(), u"a.txt c.txt d.txt e.txt"_s);
         undo(w);
         QCOMPARE(w.names(), u"a.txt b.txt c.txt d.txt e.txt"_s);
+        undo(w);
+        QVERIFY(w.ctrl.filesArray().isEmpty());
     }
 
     void aFinishedFileComesBackFinished() {
