@@ -85,18 +85,38 @@ const std::vector<Option> &pageOptions() {
     using Value = const QByteArray &;
     static const std::vector<Option> options{
         {"--text-page-size", Option::Valued,
-         [](Arguments &to, Value value) { parseTextPageSize(textOf(value), to.options.textPage); }},
+         [](Arguments &to, Value value) {
+             parseTextPageSize(textOf(value), to.options.textPage, to.rounded);
+         }},
         {"--text-margins", Option::Valued,
          [](Arguments &to, Value value) {
-             to.options.textPage.margins = parseMargins(textOf(value));
+             to.options.textPage.margins = parseMargins(textOf(value), to.rounded);
          }},
         {"--image-page-size", Option::Valued,
          [](Arguments &to, Value value) {
-             parseImagePageSize(textOf(value), to.options.imagePage);
+             parseImagePageSize(textOf(value), to.options.imagePage, to.rounded);
          }},
         {"--image-margins", Option::Valued,
          [](Arguments &to, Value value) {
-             to.options.imagePage.margins = parseMargins(textOf(value));
+             to.options.imagePage.margins = parseMargins(textOf(value), to.rounded);
+         }},
+        {"--image-orientation", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.imageLayout.orientation = chosen<PageOrientation>(
+                 textOf(value), {{QLatin1StringView("auto"), PageOrientation::Auto},
+                                 {QLatin1StringView("portrait"), PageOrientation::Portrait},
+                                 {QLatin1StringView("landscape"), PageOrientation::Landscape}});
+         }},
+        {"--image-fit", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.imageLayout.fit =
+                 chosen<ImageFit>(textOf(value), {{QLatin1StringView("within"), ImageFit::Within},
+                                                  {QLatin1StringView("fill"), ImageFit::Fill},
+                                                  {QLatin1StringView("shrink"), ImageFit::Shrink}});
+         }},
+        {"--image-dpi", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.imageLayout.unstatedDpi = parseDensity(textOf(value));
          }},
         {"--strip-metadata", Option::Switch,
          [](Arguments &to, Value) { to.options.stripMetadata = true; }},
@@ -190,10 +210,14 @@ class ArgumentReader {
         if (option.kind == Option::Valued) {
             value = equals < 0 ? take() : argument.sliced(equals + 1);
         }
+        const qsizetype rounded = m_result.rounded.size();
         try {
             option.apply(m_result, value);
         } catch (const ArgumentFault &fault) {
             throw ArgumentFault(QString::fromUtf8(name) + u": "_s + fault.text());
+        }
+        for (qsizetype i = rounded; i < m_result.rounded.size(); ++i) {
+            m_result.rounded[i].prepend(QString::fromUtf8(name) + u": "_s);
         }
         m_folderGiven |= name == "--output-folder";
     }

@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <span>
@@ -27,6 +28,7 @@ struct Arguments {
     /// Files whose first line is a password; "-" for standard input.
     std::optional<QByteArray> userPasswordFile;
     std::optional<QByteArray> ownerPasswordFile;
+    QStringList rounded;           ///< Lengths that are not what was asked for, in words.
     std::optional<SortOrder> sort; ///< Nothing: as given.
     ProgressMode progress = ProgressMode::Auto;
     bool json = false;

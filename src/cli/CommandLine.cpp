@@ -168,6 +168,11 @@ ExitStatus runConversion(Arguments arguments) {
         console.complain(notice->message);
         return WrongUsage;
     }
+    if (!arguments.quiet) {
+        for (const QString &length : arguments.rounded) {
+            console.complain(length);
+        }
+    }
     return Call(arguments, console).convertAll();
 }
 

@@ -29,11 +29,19 @@ Document
                                password is the first line and this one the second
   --refuse-print --refuse-copy what readers may not do (need an owner password)
 
-Pages, in points of 1/72 inch
-  --text-page-size A3|A4|A5|WxH    (default A4)
-  --text-margins T,R,B,L           (default 72,72,72,72; one number serves for all four)
-  --image-page-size image|WxH      (default image: the page takes the picture's size)
-  --image-margins T,R,B,L          (default 0,0,0,0)
+Pages. Lengths are points of 1/72 inch, or 25.4mm, 2.54cm, 1in, 72pt. Papers are A0 to A10,
+B0 to B10, C5, DL, JIS-B4, JIS-B5, Letter, Legal, Tabloid and Executive; A4^T lies on its side
+  --text-page-size PAPER|WxH       (default A4)
+  --text-margins T,R,B,L           (default 72; one length for all sides, two, three or four)
+  --image-page-size image|PAPER|WxH
+                                   (default image: the page takes the picture's size)
+  --image-orientation auto|portrait|landscape
+                                   which way a paper lies under a picture; auto: as the
+                                   picture does (default: as it is given)
+  --image-margins T,R,B,L          (default 0)
+  --image-fit within|shrink|fill   how a picture takes its paper: as large as it goes (the
+                                   default), never enlarged, or cut off at the margins
+  --image-dpi N                    of pictures that state no density (default 72)
   --strip-metadata                 pictures go in without their Exif, XMP and comments, so
                                    without the place where a photo was taken
 

@@ -2,38 +2,47 @@
 
 #include "cli/OptionValues.h"
 
+#include "cli/Lengths.h"
 #include "text/TextDecoder.h"
 
-#include <algorithm>
-#include <array>
+#include <cmath>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
 
-/// A whole number with an optional sign and nothing else. The checks of the settings refuse numbers
-/// that no page can have.
-qint64 wholeNumber(QStringView text, const QString &fault) {
-    QStringView digits = text;
-    if (digits.startsWith(u'-') || digits.startsWith(u'+')) {
-        digits = digits.sliced(1);
-    }
-    const auto isDigit = [](QChar unit) { return unit >= u'0' && unit <= u'9'; };
-    if (digits.isEmpty() || !std::all_of(digits.begin(), digits.end(), isDigit)) {
+/// A length in whole points, as pages are measured; `rounded` takes what had to be rounded. The
+/// checks of the settings refuse lengths that no page can have.
+qint64 wholeLength(const QString &text, const QString &fault, QStringList &rounded) {
+    const auto points = pointsOf(text);
+    if (!points) {
         throw ArgumentFault(fault);
     }
-    return integerValue(text);
+    constexpr double kUnseen = 0.005; // Far less than a printer shows.
+    const qint64 whole = wholePoints(*points);
+    if (std::abs(*points - static_cast<double>(whole)) > kUnseen) {
+        rounded += u"%1 is %2 points"_s.arg(text).arg(whole);
+    }
+    return whole;
 }
 
-void takeCustomSize(const QString &text, int customMode, const QString &fault, PageSetup &setup) {
+/// Puts a paper or a size as WxH into `setup`, in `customMode`.
+void takeSize(const QString &text, int customMode, const QString &fault, PageSetup &setup,
+              QStringList &rounded) {
+    setup.sizeMode = customMode;
+    if (const auto paper = paperSize(text)) {
+        setup.customWidth = wholePoints(paper->width());
+        setup.customHeight = wholePoints(paper->height());
+        return;
+    }
     const QStringList sides = text.split(u'x', Qt::KeepEmptyParts, Qt::CaseInsensitive);
     if (sides.size() != 2) {
         throw ArgumentFault(fault);
     }
-    setup.sizeMode = customMode;
-    setup.customWidth = wholeNumber(sides[0], fault);
-    setup.customHeight = wholeNumber(sides[1], fault);
+    setup.customWidth = wholeLength(sides[0], fault, rounded);
+    setup.customHeight = wholeLength(sides[1], fault, rounded);
 }
 
 } // namespace
@@ -46,45 +55,54 @@ QString textOf(const QByteArray &bytes) {
     return text;
 }
 
-PageMargins parseMargins(const QString &text) {
-    const QString fault = u"\"%1\" is neither one whole number nor four as T,R,B,L"_s.arg(text);
-    const QStringList numbers = text.split(u',');
-    if (numbers.size() == 1) {
-        const qint64 all = wholeNumber(text, fault);
-        return {all, all, all, all};
+PageMargins parseMargins(const QString &text, QStringList &rounded) {
+    const QString fault =
+        u"\"%1\" is not one length for all sides, nor two, three or four as T,R,B,L"_s.arg(text);
+    std::vector<qint64> given;
+    for (const QString &word : text.split(u',')) {
+        given.push_back(wholeLength(word, fault, rounded));
     }
-    constexpr qsizetype kSides = 4;
-    if (numbers.size() != kSides) {
+    constexpr std::size_t kSides = 4;
+    const std::size_t count = given.size();
+    if (count > kSides) {
         throw ArgumentFault(fault);
     }
-    return {.left = wholeNumber(numbers[3], fault),
-            .right = wholeNumber(numbers[1], fault),
-            .top = wholeNumber(numbers[0], fault),
-            .bottom = wholeNumber(numbers[2], fault)};
+    // As in style sheets: what is not given is as the other side.
+    const qint64 top = given[0];
+    const qint64 right = count > 1 ? given[1] : top;
+    return {.left = count > 3 ? given[3] : right,
+            .right = right,
+            .top = top,
+            .bottom = count > 2 ? given[2] : top};
 }
 
-void parseTextPageSize(const QString &text, PageSetup &setup) {
-    constexpr std::array<std::pair<QLatin1StringView, int>, 3> kPapers{
-        {{QLatin1StringView("A3"), TextPageA3},
-         {QLatin1StringView("A4"), TextPageA4},
-         {QLatin1StringView("A5"), TextPageA5}}};
-    for (const auto &[paper, mode] : kPapers) {
-        if (text.compare(paper, Qt::CaseInsensitive) == 0) {
-            setup.sizeMode = mode;
-            return;
-        }
-    }
-    takeCustomSize(text, TextPageCustom,
-                   u"\"%1\" is none of A3, A4, A5 and no size as WxH"_s.arg(text), setup);
+void parseTextPageSize(const QString &text, PageSetup &setup, QStringList &rounded) {
+    takeSize(text, TextPageCustom,
+             u"\"%1\" is no paper such as A4 or Letter^T and no size as WxH"_s.arg(text), setup,
+             rounded);
 }
 
-void parseImagePageSize(const QString &text, PageSetup &setup) {
+void parseImagePageSize(const QString &text, PageSetup &setup, QStringList &rounded) {
     if (text == u"image") {
         setup.sizeMode = ImagePageFollowsImage;
         return;
     }
-    takeCustomSize(text, ImagePageCustom,
-                   u"\"%1\" is neither \"image\" nor a size as WxH"_s.arg(text), setup);
+    takeSize(
+        text, ImagePageCustom,
+        u"\"%1\" is not \"image\", no paper such as A4 or Letter^T and no size as WxH"_s.arg(text),
+        setup, rounded);
+}
+
+int parseDensity(const QString &text) {
+    constexpr int kMin = 5; // The least and the most that a picture may state.
+    constexpr int kMax = 25400;
+    bool isNumber = false;
+    const int dpi = text.toInt(&isNumber);
+    if (!isNumber || dpi < kMin || dpi > kMax) {
+        throw ArgumentFault(
+            u"\"%1\" is no whole number from %2 to %3"_s.arg(text).arg(kMin).arg(kMax));
+    }
+    return dpi;
 }
 
 } // namespace folioforge

@@ -45,13 +45,20 @@ Value chosen(const QString &text,
         QStringLiteral("\"%1\" is none of %2").arg(text, known.join(QStringLiteral(", "))));
 }
 
-/// Margins from "T,R,B,L", or from one number for all four. Throws ArgumentFault.
-PageMargins parseMargins(const QString &text);
+// Lengths are read by pointsOf() and become whole points; `rounded` takes a sentence for each that
+// is not one, such as "25mm is 71 points".
 
-/// Puts the page size "A3", "A4", "A5" or "WxH" into `setup`. Throws ArgumentFault.
-void parseTextPageSize(const QString &text, PageSetup &setup);
+/// Margins from one length for all sides, "T,R" for top and bottom and for the sides, "T,R,B" with
+/// equal sides, or "T,R,B,L". Throws ArgumentFault.
+PageMargins parseMargins(const QString &text, QStringList &rounded);
 
-/// Puts the page size "image" or "WxH" into `setup`. Throws ArgumentFault.
-void parseImagePageSize(const QString &text, PageSetup &setup);
+/// Puts a paper that paperSize() knows, or "WxH", into `setup`. Throws ArgumentFault.
+void parseTextPageSize(const QString &text, PageSetup &setup, QStringList &rounded);
+
+/// Puts "image", a paper that paperSize() knows, or "WxH" into `setup`. Throws ArgumentFault.
+void parseImagePageSize(const QString &text, PageSetup &setup, QStringList &rounded);
+
+/// Pixels per inch. Throws ArgumentFault where no picture can have as many.
+int parseDensity(const QString &text);
 
 } // namespace folioforge

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "convert/ImagePlacement.h"
 #include "pdf/PDFContext.h"
 #include "text/FontCascade.h"
 #include "text/PageSetup.h"
@@ -33,6 +34,7 @@ struct ConversionOptions {
     SecuritySettings security;
     PageSetup textPage{TextPageA4, 0, 0, {72, 72, 72, 72}};
     PageSetup imagePage;
+    ImageLayout imageLayout;
     bool stripMetadata = false; ///< Exif, XMP and comments of pictures do not go in.
     /// The font of text pages; null for textFont().
     std::shared_ptr<const FontCascade> textFont;

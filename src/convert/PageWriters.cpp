@@ -69,8 +69,13 @@ WrittenImage addImagePage(const PDFFileInfo &entry, PDFContext &context,
         toPdfImage(entry.filePathName(), options.calls,
                    options.stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep);
     WrittenImage written{image.embeddedAs, std::move(image.warnings)};
-    const ImagePlacement placement = placeImage(image.header.sizeInPoints(), options.imagePage);
+    const ImageLayout &layout = options.imageLayout;
+    const ImagePlacement placement =
+        placeImage(image.header.sizeInPoints(layout.unstatedDpi), options.imagePage, layout);
     context.beginPage(QRectF(QPointF(0, 0), placement.page));
+    if (layout.fit == ImageFit::Fill) {
+        context.clipToRect(placement.space);
+    }
     const int orientation = image.header.orientation;
     context.drawImage(placement.image, std::move(image), orientation);
     context.endPage();

@@ -44,7 +44,8 @@ ImageHeader checkedHeader(ImageHeader header) {
     if (header.orientation < 1 || header.orientation > 8) {
         header.orientation = 1;
     }
-    if (!isSaneDensity(header.horizontalDpi) || !isSaneDensity(header.verticalDpi)) {
+    header.statesDensity = isSaneDensity(header.horizontalDpi) && isSaneDensity(header.verticalDpi);
+    if (!header.statesDensity) {
         header.horizontalDpi = kDefaultDpi;
         header.verticalDpi = kDefaultDpi;
     }
@@ -53,10 +54,11 @@ ImageHeader checkedHeader(ImageHeader header) {
     return header;
 }
 
-QSizeF ImageHeader::sizeInPoints() const {
+QSizeF ImageHeader::sizeInPoints(int unstatedDpi) const {
     constexpr double kPointsPerInch = 72;
-    const QSizeF stored(width * kPointsPerInch / horizontalDpi,
-                        height * kPointsPerInch / verticalDpi);
+    const bool isGiven = !statesDensity && unstatedDpi > 0;
+    const QSizeF stored(width * kPointsPerInch / (isGiven ? unstatedDpi : horizontalDpi),
+                        height * kPointsPerInch / (isGiven ? unstatedDpi : verticalDpi));
     return orientation >= 5 ? stored.transposed() : stored;
 }
 

@@ -169,6 +169,10 @@ void PDFContext::showGlyphsAtPoint(double x, double y, std::span<const Glyph> gl
     translateQpdfErrors([&] { m_impl->pages().showGlyphs(x, y, glyphs); });
 }
 
+void PDFContext::clipToRect(const QRectF &rect) {
+    m_impl->pages().clipToRect(rect);
+}
+
 void PDFContext::drawImage(const QRectF &rect, PdfImage image, int orientation) {
     translateQpdfErrors([&] { m_impl->pages().drawImage(rect, image, orientation); });
 }

@@ -78,6 +78,8 @@ class PDFContext {
     /// Draws the image into the rectangle, turned inside it as `orientation` (EXIF, 1 to 8) says.
     /// Throws Error.
     void drawImage(const QRectF &rect, PdfImage image, int orientation);
+    /// Of what is drawn on the page from now on, only what lies inside `rect` (points) is shown.
+    void clipToRect(const QRectF &rect);
     void endPage();
 
     /// Adds every page of the PDF at `sourcePath` unchanged, with its links, form fields and

@@ -155,4 +155,12 @@ void PageDrawer::drawImage(const QRectF &rect, const PdfImage &image, int orient
     m_page.content += "cm " + name + " Do Q\n";
 }
 
+void PageDrawer::clipToRect(const QRectF &rect) {
+    endText();
+    for (const double value : {rect.x(), rect.y(), rect.width(), rect.height()}) {
+        appendNumber(m_page.content, value);
+    }
+    m_page.content += "re W n\n";
+}
+
 } // namespace folioforge

@@ -36,6 +36,7 @@ class PageDrawer {
     void setFont(std::shared_ptr<const FontCascade> font, double size);
     void showGlyphs(double x, double y, std::span<const Glyph> glyphs);
     void drawImage(const QRectF &rect, const PdfImage &image, int orientation);
+    void clipToRect(const QRectF &rect);
     /// The page that was drawn, an object of the document.
     QPDFObjectHandle endPage();
 

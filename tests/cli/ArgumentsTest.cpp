@@ -104,12 +104,17 @@ class ArgumentsTest : public QObject {
         QCOMPARE(text("a5"), QSizeF(420, 595));
         QCOMPARE(text("300x400"), QSizeF(300, 400));
         QCOMPARE(text("300X0"), QSizeF(300, 0));
+        QCOMPARE(text("A6"), QSizeF(298, 420)); // 105 x 148 mm
+        QCOMPARE(text("a4^T"), QSizeF(842, 595));
+        QCOMPARE(text("letter-landscape"), QSizeF(792, 612));
+        QCOMPARE(text("210mmx11in"), QSizeF(595, 792));
         const auto image = [](const char *size) {
             return getImagePageSize(good({"--image-page-size", size, "a"}).options.imagePage);
         };
         QCOMPARE(image("image"), QSizeF(0, 0));
         QCOMPARE(image("612x792"), QSizeF(612, 792));
         QCOMPARE(image("-1x5"), QSizeF(-1, 5));
+        QCOMPARE(image("Legal"), QSizeF(612, 1008));
     }
 
     void theWordImageTakesBackASize() {
@@ -118,13 +123,30 @@ class ArgumentsTest : public QObject {
         QCOMPARE(arguments.options.imagePage.sizeMode, int(ImagePageFollowsImage));
     }
 
-    void marginsAreFourNumbersOrOneForAll() {
+    void lengthsThatAreNoWholePointsAreSaidToBeRounded() {
+        QCOMPARE(
+            good({"--text-margins", "1in,25mm,25.4mm", "--image-page-size", "A4", "a"}).rounded,
+            QStringList{u"--text-margins: 25mm is 71 points"_s});
+    }
+
+    void howPicturesTakeTheirPagesIsChosen() {
+        const auto layout =
+            good({"--image-orientation", "auto", "--image-fit", "fill", "--image-dpi", "300", "a"})
+                .options.imageLayout;
+        QCOMPARE(layout.orientation, PageOrientation::Auto);
+        QCOMPARE(layout.fit, ImageFit::Fill);
+        QCOMPARE(layout.unstatedDpi, 300);
+    }
+
+    void marginsAreOneToFourLengths() {
         const auto margins = [](const char *text) {
             return topRightBottomLeft(
                 good({"--image-margins", text, "a"}).options.imagePage.margins);
         };
         QCOMPARE(margins("1,2,3,4"), (std::array<qint64, 4>{1, 2, 3, 4}));
         QCOMPARE(margins("9"), (std::array<qint64, 4>{9, 9, 9, 9}));
+        QCOMPARE(margins("1,2"), (std::array<qint64, 4>{1, 2, 1, 2}));
+        QCOMPARE(margins("1,2,3"), (std::array<qint64, 4>{1, 2, 3, 2}));
         QCOMPARE(margins("-1"), (std::array<qint64, 4>{-1, -1, -1, -1}));
         QCOMPARE(margins("+7"), (std::array<qint64, 4>{7, 7, 7, 7}));
         QCOMPARE(
@@ -178,12 +200,15 @@ class ArgumentsTest : public QObject {
         row("value missing", {"a", "--title"}, "--title");
         row("value too many", {"--json=yes", "a"}, "--json");
         row("word", {"--compress", "300m", "a"}, "300m");
-        row("page size", {"--text-page-size", "A6", "a"}, "A6");
+        row("page size", {"--text-page-size", "A11", "a"}, "A11");
+        row("paper with a sign", {"--text-page-size", "A+1", "a"}, "A+1");
         row("three sides", {"--image-page-size", "1x2x3", "a"}, "1x2x3");
         row("half a size", {"--image-page-size", "100x", "a"}, "100x");
-        row("size with unit", {"--image-page-size", "100x200pt", "a"}, "100x200pt");
-        row("three margins", {"--text-margins", "1,2,3", "a"}, "1,2,3");
-        row("fraction", {"--text-margins", "1.5", "a"}, "1.5");
+        row("size with another unit", {"--image-page-size", "100x200px", "a"}, "100x200px");
+        row("five margins", {"--text-margins", "1,2,3,4,5", "a"}, "1,2,3,4,5");
+        row("no margin", {"--text-margins", "1,,3", "a"}, "1,,3");
+        row("two points", {"--text-margins", "1.5.2", "a"}, "1.5.2");
+        row("density", {"--image-dpi", "4", "a"}, "\"4\"");
         row("two outputs", {"--merge", "x", "--output-folder", "y", "a"}, "--merge");
         row("not UTF-8", {"--title", "caf\xE9", "a"}, "--title");
     }
@@ -214,6 +239,9 @@ class ArgumentsTest : public QObject {
                                    "--text-margins",
                                    "--image-page-size",
                                    "--image-margins",
+                                   "--image-orientation",
+                                   "--image-fit",
+                                   "--image-dpi",
                                    "--compress",
                                    "--sort",
                                    "--flush",

@@ -58,6 +58,42 @@ class ImagePlacementTest : public QObject {
         QCOMPARE(placeImage({200, 100}, setup).page, QSizeF(200, 100));
     }
 
+    void aPageLiesAsItIsAskedTo_data() {
+        QTest::addColumn<PageOrientation>("orientation");
+        QTest::addColumn<QSizeF>("image");
+        QTest::addColumn<QSizeF>("page");
+        const auto row = [](const char *name, PageOrientation orientation, QSizeF image,
+                            QSizeF page) { QTest::newRow(name) << orientation << image << page; };
+        row("as given", PageOrientation::AsGiven, {20, 10}, {300, 400});
+        row("as a wide image", PageOrientation::Auto, {20, 10}, {400, 300});
+        row("as a tall image", PageOrientation::Auto, {10, 20}, {300, 400});
+        row("under a square image", PageOrientation::Auto, {10, 10}, {300, 400});
+        row("portrait", PageOrientation::Portrait, {20, 10}, {300, 400});
+        row("landscape", PageOrientation::Landscape, {10, 20}, {400, 300});
+    }
+    void aPageLiesAsItIsAskedTo() {
+        QFETCH(const PageOrientation, orientation);
+        QFETCH(const QSizeF, image);
+        QTEST(placeImage(image, fixedPage(300, 400, {}), {.orientation = orientation}).page,
+              "page");
+    }
+
+    void anImageThatOnlyShrinksStaysAsItIsWhereItFits() {
+        const ImageLayout layout{.fit = ImageFit::Shrink};
+        QCOMPARE(placeImage({100, 50}, fixedPage(300, 400, {}), layout).image,
+                 QRectF(100, 175, 100, 50));
+        QCOMPARE(placeImage({600, 300}, fixedPage(300, 400, {}), layout).image,
+                 QRectF(0, 125, 300, 150));
+    }
+
+    void anImageThatFillsLeavesNoSpace() {
+        const auto placed =
+            placeImage({100, 50}, fixedPage(300, 400, {10, 30, 20, 40}), {.fit = ImageFit::Fill});
+        // 260 by 340 points are free: the height decides, 420 points of width are cut off.
+        QCOMPARE(placed.image, QRectF(-200, 40, 680, 340));
+        QCOMPARE(placed.space, QRectF(10, 40, 260, 340));
+    }
+
     void theScaleIsASinglePrecisionNumber() {
         // 100/3 as a 32-bit float is 33.33333206176758; three times that rounds to 100 exactly,
         // while 7/3 of it shows the float: 7 * 33.33333206176758 = 233.3333282470703 in 32 bits.
