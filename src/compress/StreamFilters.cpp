@@ -35,14 +35,14 @@ std::string decodeLossless(const std::string &data, const std::string &filter,
     try {
         // A document of its own for each call: libqpdf's objects belong to one thread.
         QPDF scratch;
-        scratch.emptyPDF();
-        scratch.setSuppressWarnings(true);
+        makeEmpty(scratch);
         QPDFObjectHandle stream = scratch.newStream();
         stream.replaceStreamData(data, QPDFObjectHandle::parse(filter),
                                  QPDFObjectHandle::parse(parameters));
         BoundedBuffer target(decoded, maxBytes);
         bool filtered = false;
         const bool whole = stream.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized, true);
+        requireMemory(scratch);
         if (!filtered || !whole || scratch.anyWarnings()) {
             throw Error(u"damaged compressed data"_s);
         }
@@ -50,8 +50,8 @@ std::string decodeLossless(const std::string &data, const std::string &filter,
         throw Error(u"more data than the image's size allows"_s);
     } catch (const Error &) {
         throw;
-    } catch (const std::exception &) {
-        throw Error(u"damaged compressed data"_s);
+    } catch (const std::exception &fault) {
+        throw isLackOfMemory(fault) ? notEnoughMemory() : Error(u"damaged compressed data"_s);
     }
     return decoded;
 }

@@ -57,8 +57,7 @@ class PDFContext::Impl {
 PDFContext::Impl::Impl(QString path, Settings settings)
     : m_path(std::move(path))
     , m_settings(std::move(settings)) {
-    m_document.emptyPDF();
-    m_document.setSuppressWarnings(true);
+    makeEmpty(m_document);
 }
 
 AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {

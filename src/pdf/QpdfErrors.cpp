@@ -67,6 +67,12 @@ bool isFault(const QPDFExc &warning) {
     });
 }
 
+void makeEmpty(QPDF &document) {
+    // First, as a lack of memory in what follows is a warning to the library.
+    document.setSuppressWarnings(true);
+    document.emptyPDF();
+}
+
 std::vector<QPDFExc> faultsOf(QPDF &document) {
     std::vector<QPDFExc> faults = document.getWarnings();
     for (const QPDFExc &fault : faults) {
@@ -80,11 +86,15 @@ bool isLackOfMemory(const std::exception &fault) {
     return contains(words, std::bad_alloc().what()) || contains(words, "zlib memory error");
 }
 
-void requireAllObjects(QPDF &document, const SourceReader &reader) {
-    reader.requireNoFailure();
+void requireMemory(QPDF &document) {
     if (std::ranges::any_of(faultsOf(document), isLackOfMemory)) {
         throw std::bad_alloc();
     }
+}
+
+void requireAllObjects(QPDF &document, const SourceReader &reader) {
+    reader.requireNoFailure();
+    requireMemory(document);
 }
 
 } // namespace folioforge

@@ -57,11 +57,17 @@ inline qsizetype statedLength(QPDFObjectHandle length) {
     return length.isInteger() ? length.getIntValue() : 0;
 }
 
+/// Makes `document` one without pages, and silent.
+void makeEmpty(QPDF &document);
+
 /// What libqpdf has noticed in the document so far.
 std::vector<QPDFExc> faultsOf(QPDF &document);
 
 /// Whether `warning` tells of a fault rather than of what libqpdf does about the one before.
 bool isFault(const QPDFExc &warning);
+
+/// Throws std::bad_alloc where a warning of the document tells of a lack of memory.
+void requireMemory(QPDF &document);
 
 /// Throws when a read has failed or a warning of the document tells of a lack of memory.
 void requireAllObjects(QPDF &document, const SourceReader &reader);

@@ -3,15 +3,19 @@
 #include "pdf/PDFContext.h"
 
 #include "ContextCase.h"
+#include "support/FailingMemory.h"
+#include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QTimeZone>
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <csignal>
@@ -25,6 +29,18 @@ namespace {
 
 QByteArray identifierOf(const QByteArray &pdf) {
     return pdf.mid(pdf.lastIndexOf("/ID ["), 72);
+}
+
+/// What `work` writes to standard error.
+template<typename Work> QByteArray printedBy(Work &&work) {
+    QTemporaryFile file;
+    file.open();
+    const int before = ::dup(STDERR_FILENO);
+    ::dup2(file.handle(), STDERR_FILENO);
+    work();
+    ::dup2(before, STDERR_FILENO);
+    ::close(before);
+    return readFile(file.fileName());
 }
 
 } // namespace
@@ -45,6 +61,24 @@ class ContextCloseTest : public QObject, protected ContextCase {
     Q_OBJECT
 
   private Q_SLOTS:
+    void aLackOfMemoryAtTheBeginningIsNotToldByTheLibrary() {
+        int failures = 0;
+        const QByteArray printed = printedBy([&] {
+            for (bool begun = false; !begun; ++failures) {
+                try {
+                    const FailingMemory failing(failures);
+                    const PDFContext context(newFile(u"pdf"_s), {});
+                    begun = true;
+                } catch (const std::exception &) {
+                    // It is the caller's to name.
+                }
+            }
+        });
+        QCOMPARE(printed, "");
+        constexpr int kLeast = 20;
+        QVERIFY2(failures > kLeast, qPrintable(QString::number(failures)));
+    }
+
     void theDocumentInformationIsAlwaysThere() {
         const QString path = newFile(u"pdf"_s);
         PDFContext::Settings given = settings();
