@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "cli/Inputs.h"
 #include "convert/ConversionOptions.h"
 #include "filelist/Orders.h"
 
@@ -21,6 +22,12 @@ enum class ProgressMode { Auto, Always, Never };
 /// What the program is asked to do.
 enum class Request { Convert, ShowVersion, ShowHelp };
 
+/// A file that holds the names of inputs; "-" for standard input.
+struct NameList {
+    QByteArray file;
+    std::size_t at = 0; ///< Before which of the inputs that are arguments its own stand.
+};
+
 /// The arguments of one call, read but not checked.
 struct Arguments {
     Request request = Request::Convert;
@@ -35,6 +42,9 @@ struct Arguments {
     bool quiet = false;
     bool strict = false;            ///< A warning counts as a failure.
     std::vector<QByteArray> inputs; ///< Paths in the system's own bytes.
+    std::vector<NameList> nameLists;
+    bool listsEndInNull = false; ///< Each name of a list, instead of a line's end.
+    FolderTaking taking;
 };
 
 /// A fault in the arguments, as a sentence without a full stop.
@@ -44,6 +54,10 @@ struct UsageError {
 
 /// Reads the arguments behind the program's name.
 std::variant<Arguments, UsageError> parseArguments(std::span<const QByteArray> arguments);
+
+/// Puts the names of `nameLists` into `inputs`. Throws ArgumentFault when a list cannot be read, or
+/// when standard input, which readPasswords() reads first, is asked for twice.
+void readNameLists(Arguments &arguments);
 
 /// The text of --help.
 QByteArray helpText();

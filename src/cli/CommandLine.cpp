@@ -49,7 +49,8 @@ class Call : private RunObserver {
     std::vector<Input> collect() {
         std::vector<Input> accepted;
         QStringList refusedPdfs;
-        for (Input &input : collectInputs(m_arguments.inputs, m_readableLinks)) {
+        for (Input &input :
+             collectInputs(m_arguments.inputs, m_arguments.taking, m_readableLinks)) {
             if (!input.leftOut.empty()) {
                 report(InputResult::listed(input.shown, input.leftOut));
                 continue;
@@ -156,6 +157,7 @@ ExitStatus runConversion(Arguments arguments) {
     Console console;
     try {
         readPasswords(arguments, arguments.options.security);
+        readNameLists(arguments);
         sourceDate(); // Throws where no document could carry it.
     } catch (const ArgumentFault &fault) {
         console.complain(fault.text());

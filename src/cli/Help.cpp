@@ -8,8 +8,17 @@ QByteArray helpText() {
     return R"(Usage: folioforge-cli [options] FILE|FOLDER...
 
 Turns text files, pictures and PDFs into PDF documents, one for each or all in one.
-Of a folder its text files and pictures are taken, one level deep, ordered by name; what
-else it holds is counted in a warning.
+Of a folder its text files and pictures are taken, ordered by name; what else it holds is
+counted in a warning.
+
+Input
+  --files-from FILE            further inputs, a name a line, in this place; "-" for standard
+                               input
+  -0  --null                   the names of --files-from end in a null byte, as find -print0
+                               writes them
+  --recursive                  folders with the folders in them, but not behind links
+  --with-pdfs                  folders with their PDFs
+  --sort name|natural|size|created|modified    (default: as given)
 
 Output
   --output-folder DIR          a PDF for each input, here (default: the current folder)
@@ -44,9 +53,6 @@ B0 to B10, C5, DL, JIS-B4, JIS-B5, Letter, Legal, Tabloid and Executive; A4^T li
   --image-dpi N                    of pictures that state no density (default 72)
   --strip-metadata                 pictures go in without their Exif, XMP and comments, so
                                    without the place where a photo was taken
-
-Order
-  --sort name|natural|size|created|modified    (default: as given)
 
 Report
   --progress auto|always|never     a progress line on standard error (default auto: on a

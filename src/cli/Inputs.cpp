@@ -24,8 +24,9 @@ QByteArray withoutSlashesAtEnd(QByteArray path) {
 /// The inputs as they are named, in their order, and the files among them.
 class Names {
   public:
-    explicit Names(ReadableLinks &readableLinks)
-        : m_readableLinks(readableLinks) {}
+    Names(const FolderTaking &taking, ReadableLinks &readableLinks)
+        : m_taking(taking)
+        , m_readableLinks(readableLinks) {}
 
     void add(const QByteArray &path) {
         std::error_code unknown;
@@ -58,6 +59,7 @@ class Names {
         const QByteArray folder = withoutSlashesAtEnd(path);
         try {
             FolderEntries found = listFolder(folder);
+            const std::vector<QByteArray> folders = take(folder, found);
             if (Warnings leftOut = found.warnings(); !leftOut.empty()) {
                 Input &input = m_inputs.emplace_back();
                 input.shown = QString::fromUtf8(path);
@@ -66,7 +68,11 @@ class Names {
             // Sorted, so that the order is the same on every file system.
             std::ranges::sort(found.names);
             for (const QByteArray &name : found.names) {
-                addFile(folder + '/' + name);
+                if (std::ranges::binary_search(folders, name)) {
+                    addFolder(folder + '/' + name);
+                } else {
+                    addFile(folder + '/' + name);
+                }
             }
         } catch (const Error &error) {
             Input &input = m_inputs.emplace_back();
@@ -75,6 +81,29 @@ class Names {
         }
     }
 
+    /// Moves what is taken of `folder` to the names of its files. Gives the folders among it,
+    /// sorted.
+    std::vector<QByteArray> take(const QByteArray &folder, FolderEntries &found) const {
+        const auto move = [&found](std::vector<QByteArray> &from, auto first) {
+            found.names.insert(found.names.end(), first, from.end());
+            from.erase(first, from.end());
+        };
+        if (m_taking.pdfs) {
+            move(found.pdfs, found.pdfs.begin());
+        }
+        if (!m_taking.folders) {
+            return {};
+        }
+        const auto own = std::ranges::partition(found.folders, [&](const QByteArray &name) {
+            return std::filesystem::is_symlink((folder + '/' + name).toStdString());
+        });
+        std::vector<QByteArray> folders(own.begin(), own.end());
+        std::ranges::sort(folders);
+        move(found.folders, own.begin());
+        return folders;
+    }
+
+    FolderTaking m_taking;
     ReadableLinks &m_readableLinks;
     std::vector<Input> m_inputs;
     QStringList m_files;
@@ -82,8 +111,9 @@ class Names {
 
 } // namespace
 
-std::vector<Input> collectInputs(std::span<const QByteArray> paths, ReadableLinks &readableLinks) {
-    Names names(readableLinks);
+std::vector<Input> collectInputs(std::span<const QByteArray> paths, const FolderTaking &taking,
+                                 ReadableLinks &readableLinks) {
+    Names names(taking, readableLinks);
     for (const QByteArray &path : paths) {
         names.add(path);
     }

@@ -22,11 +22,19 @@ struct Input {
     Warnings leftOut; ///< Only of a folder, which has no entry: what in it is no input.
 };
 
-/// The inputs that `paths` name, in that order. A folder stands for its text and image files in
-/// the order of their names' bytes, behind an input of its own where it holds more. A file that is
+/// What of a folder is taken beside its text and image files.
+struct FolderTaking {
+    bool pdfs = false;
+    bool folders = false; ///< Those that no link leads to, which might lead round.
+};
+
+/// The inputs that `paths` name, in that order. A folder stands for its text and image files and
+/// what else `taking` says in the order of their names' bytes, behind an input of its own where it
+/// holds more. A file that is
 /// missing, of no recognised type or unreadable, and a folder that cannot be listed, is rejected
 /// with its reason.
-std::vector<Input> collectInputs(std::span<const QByteArray> paths, ReadableLinks &readableLinks);
+std::vector<Input> collectInputs(std::span<const QByteArray> paths, const FolderTaking &taking,
+                                 ReadableLinks &readableLinks);
 
 /// Brings the inputs into `order`.
 void sortInputs(std::vector<Input> &inputs, SortOrder order);

@@ -17,7 +17,7 @@ namespace folioforge {
 namespace {
 
 /// "1 folder", "2 folders"; nothing of none.
-QStringList counted(int count, const QString &one, const QString &several) {
+QStringList counted(std::size_t count, const QString &one, const QString &several) {
     if (count == 0) {
         return {};
     }
@@ -32,16 +32,21 @@ void count(const std::filesystem::directory_entry &entry, FolderEntries &found) 
     if (!isFolder && (kind == FileKind::Text || kind == FileKind::Image)) {
         found.names.push_back(QByteArray::fromStdString(name));
     } else if (!name.starts_with('.')) {
-        ++(isFolder ? found.folders : kind == FileKind::Pdf ? found.pdfs : found.others);
+        if (isFolder || kind == FileKind::Pdf) {
+            (isFolder ? found.folders : found.pdfs).push_back(QByteArray::fromStdString(name));
+        } else {
+            ++found.others;
+        }
     }
 }
 
 } // namespace
 
 Warnings FolderEntries::warnings() const {
-    const QStringList left =
-        counted(pdfs, u"1 PDF"_s, u"%1 PDFs"_s) + counted(folders, u"1 folder"_s, u"%1 folders"_s) +
-        counted(others, u"1 file of another type"_s, u"%1 files of other types"_s);
+    const QStringList left = counted(pdfs.size(), u"1 PDF"_s, u"%1 PDFs"_s) +
+                             counted(folders.size(), u"1 folder"_s, u"%1 folders"_s) +
+                             counted(static_cast<std::size_t>(others), u"1 file of another type"_s,
+                                     u"%1 files of other types"_s);
     if (left.isEmpty()) {
         return {};
     }

@@ -20,12 +20,12 @@ class ReadableLinks;
 struct FolderEntries {
     /// The text and image files, as the file system's own bytes, in its order, hidden ones too.
     std::vector<QByteArray> names;
-    /// What is left out of a run, without hidden entries.
-    int pdfs = 0;
-    int folders = 0;
+    /// What is left out of a run that does not ask for it, without hidden entries.
+    std::vector<QByteArray> pdfs;
+    std::vector<QByteArray> folders;
     int others = 0;
 
-    /// What is left out, counted in words; nothing where all is taken.
+    /// What beside `names` is left out, counted in words; nothing where all is taken.
     [[nodiscard]] Warnings warnings() const;
 };
 

@@ -167,13 +167,15 @@ class DroppingFilesTest : public QObject {
         addFour(w);
         w.select({1, 2});
         QMenu *menu = openMenu(w, 3);
-        QCOMPARE(enabledItems(*menu), u"Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
-                                   "Sort By Data Modified"_s);
+        QCOMPARE(enabledItems(*menu),
+                 u"Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
+                 "Sort By Data Modified"_s);
         menu->close();
         w.select({3});
         menu = openMenu(w, 0);
-        QCOMPARE(enabledItems(*menu), u"Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
-                                   "Sort By Data Modified|Move Up"_s);
+        QCOMPARE(enabledItems(*menu),
+                 u"Remove|Clear|Sort By Name|Sort By Size|Sort By Data Created|"
+                 "Sort By Data Modified|Move Up"_s);
         menu->close();
     }
 

@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "cli/OptionTable.h"
+
+#include "cli/OptionValues.h"
+#include "convert/OutputName.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+namespace {
+
+/// Splits the path of the merged file; a name alone stands in the current folder. Throws
+/// ArgumentFault where the path leads to a folder.
+void takeMergePath(const QString &path, ConversionOptions &options) {
+    const qsizetype slash = path.lastIndexOf(u'/');
+    options.merge = true;
+    options.outputName = path.sliced(slash + 1);
+    if (isNameOfFolder(options.outputName)) {
+        throw ArgumentFault(u"\"%1\" is a folder, not the name of a PDF"_s.arg(path));
+    }
+    options.outputFolder = slash < 0 ? u"."_s : path.first(std::max<qsizetype>(slash, 1));
+}
+
+const std::vector<Option> &inputOptions() {
+    using Value = const QByteArray &;
+    static const std::vector<Option> options{
+        {"--files-from", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.nameLists.push_back({value, to.inputs.size()});
+         }},
+        {"--null", Option::Switch, [](Arguments &to, Value) { to.listsEndInNull = true; }},
+        {"-0", Option::Switch, [](Arguments &to, Value) { to.listsEndInNull = true; }},
+        {"--recursive", Option::Switch, [](Arguments &to, Value) { to.taking.folders = true; }},
+        {"--with-pdfs", Option::Switch, [](Arguments &to, Value) { to.taking.pdfs = true; }},
+        {"--sort", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.sort = chosen<SortOrder>(textOf(value),
+                                         {{QLatin1StringView("name"), SortOrder::Name},
+                                          {QLatin1StringView("natural"), SortOrder::Natural},
+                                          {QLatin1StringView("size"), SortOrder::Size},
+                                          {QLatin1StringView("created"), SortOrder::Created},
+                                          {QLatin1StringView("modified"), SortOrder::Modified}});
+         }},
+    };
+    return options;
+}
+
+const std::vector<Option> &outputOptions() {
+    using Value = const QByteArray &;
+    static const std::vector<Option> options{
+        {"--output-folder", Option::Valued,
+         [](Arguments &to, Value value) { to.options.outputFolder = textOf(value); }},
+        {"--merge", Option::Valued,
+         [](Arguments &to, Value value) { takeMergePath(textOf(value), to.options); }},
+        {"--flush", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.flush =
+                 chosen<Flush>(textOf(value), {{QLatin1StringView("always"), Flush::Always},
+                                               {QLatin1StringView("never"), Flush::Never}});
+         }},
+        {"--compress", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.compressIndex = chosen<int>(textOf(value), {{QLatin1StringView("none"), 0},
+                                                                    {QLatin1StringView("150m"), 1},
+                                                                    {QLatin1StringView("96m"), 2},
+                                                                    {QLatin1StringView("72l"), 3}});
+         }},
+    };
+    return options;
+}
+
+const std::vector<Option> &documentOptions() {
+    using Value = const QByteArray &;
+    static const std::vector<Option> options{
+        {"--title", Option::Valued,
+         [](Arguments &to, Value value) { to.options.info.title = textOf(value); }},
+        {"--author", Option::Valued,
+         [](Arguments &to, Value value) { to.options.info.author = textOf(value); }},
+        {"--subject", Option::Valued,
+         [](Arguments &to, Value value) { to.options.info.subject = textOf(value); }},
+        {"--keywords", Option::Valued,
+         [](Arguments &to, Value value) { to.options.info.keywords = textOf(value); }},
+        {"--keep-info", Option::Switch, [](Arguments &to, Value) { to.options.keepInfo = true; }},
+        {"--user-password-file", Option::Valued,
+         [](Arguments &to, Value value) { to.userPasswordFile = value; }},
+        {"--owner-password-file", Option::Valued,
+         [](Arguments &to, Value value) { to.ownerPasswordFile = value; }},
+        {"--refuse-print", Option::Switch,
+         [](Arguments &to, Value) { to.options.security.refusePrint = true; }},
+        {"--refuse-copy", Option::Switch,
+         [](Arguments &to, Value) { to.options.security.refuseCopy = true; }},
+    };
+    return options;
+}
+
+const std::vector<Option> &pageOptions() {
+    using Value = const QByteArray &;
+    static const std::vector<Option> options{
+        {"--text-page-size", Option::Valued,
+         [](Arguments &to, Value value) {
+             parseTextPageSize(textOf(value), to.options.textPage, to.rounded);
+         }},
+        {"--text-margins", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.textPage.margins = parseMargins(textOf(value), to.rounded);
+         }},
+        {"--image-page-size", Option::Valued,
+         [](Arguments &to, Value value) {
+             parseImagePageSize(textOf(value), to.options.imagePage, to.rounded);
+         }},
+        {"--image-margins", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.imagePage.margins = parseMargins(textOf(value), to.rounded);
+         }},
+        {"--image-orientation", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.imageLayout.orientation = chosen<PageOrientation>(
+                 textOf(value), {{QLatin1StringView("auto"), PageOrientation::Auto},
+                                 {QLatin1StringView("portrait"), PageOrientation::Portrait},
+                                 {QLatin1StringView("landscape"), PageOrientation::Landscape}});
+         }},
+        {"--image-fit", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.imageLayout.fit =
+                 chosen<ImageFit>(textOf(value), {{QLatin1StringView("within"), ImageFit::Within},
+                                                  {QLatin1StringView("fill"), ImageFit::Fill},
+                                                  {QLatin1StringView("shrink"), ImageFit::Shrink}});
+         }},
+        {"--image-dpi", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.imageLayout.unstatedDpi = parseDensity(textOf(value));
+         }},
+        {"--strip-metadata", Option::Switch,
+         [](Arguments &to, Value) { to.options.stripMetadata = true; }},
+    };
+    return options;
+}
+
+const std::vector<Option> &reportOptions() {
+    using Value = const QByteArray &;
+    static const std::vector<Option> options{
+        {"--progress", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.progress = chosen<ProgressMode>(
+                 textOf(value), {{QLatin1StringView("auto"), ProgressMode::Auto},
+                                 {QLatin1StringView("always"), ProgressMode::Always},
+                                 {QLatin1StringView("never"), ProgressMode::Never}});
+         }},
+        {"--json", Option::Switch, [](Arguments &to, Value) { to.json = true; }},
+        {"--quiet", Option::Switch, [](Arguments &to, Value) { to.quiet = true; }},
+        {"--strict", Option::Switch, [](Arguments &to, Value) { to.strict = true; }},
+        {"--version", Option::Switch,
+         [](Arguments &to, Value) { to.request = Request::ShowVersion; }},
+        {"--help", Option::Switch, [](Arguments &to, Value) { to.request = Request::ShowHelp; }},
+        {"-h", Option::Switch, [](Arguments &to, Value) { to.request = Request::ShowHelp; }},
+    };
+    return options;
+}
+
+/// How many bytes have to be put in, taken out or replaced to make one of the other.
+qsizetype editDistance(QByteArrayView one, QByteArrayView other) {
+    std::vector<qsizetype> row(static_cast<std::size_t>(other.size()) + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (qsizetype i = 0; i < one.size(); ++i) {
+        qsizetype diagonal = std::exchange(row[0], i + 1);
+        for (std::size_t j = 1; j < row.size(); ++j) {
+            const bool isSame = one[i] == other[static_cast<qsizetype>(j) - 1];
+            const qsizetype least =
+                std::min({diagonal + (isSame ? 0 : 1), row[j] + 1, row[j - 1] + 1});
+            diagonal = std::exchange(row[j], least);
+        }
+    }
+    return row.back();
+}
+
+} // namespace
+
+const Option &findOption(const QByteArray &name) {
+    QByteArrayView near;
+    qsizetype nearest = std::min<qsizetype>(4, name.size() / 2); // As many letters may be wrong.
+    for (const auto *group : {&inputOptions(), &outputOptions(), &documentOptions(), &pageOptions(),
+                              &reportOptions()}) {
+        for (const Option &option : *group) {
+            if (option.name == name) {
+                return option;
+            }
+            if (const qsizetype distance = editDistance(name, option.name); distance < nearest) {
+                nearest = distance;
+                near = option.name;
+            }
+        }
+    }
+    const QString hint =
+        near.isEmpty() ? QString() : u"; is \"%1\" meant?"_s.arg(QLatin1StringView(near));
+    throw ArgumentFault(u"There is no option \"%1\"%2"_s.arg(QString::fromUtf8(name), hint));
+}
+
+} // namespace folioforge

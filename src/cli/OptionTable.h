@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "cli/Arguments.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+#include <functional>
+
+namespace folioforge {
+
+/// An option with its effect; one that takes no value is called with an empty one.
+struct Option {
+    QByteArrayView name;
+    enum Kind { Switch, Valued } kind;
+    std::function<void(Arguments &, const QByteArray &)> apply;
+};
+
+/// The option called `name`, which begins with dashes. Throws ArgumentFault where there is none,
+/// with the one that is probably meant.
+const Option &findOption(const QByteArray &name);
+
+} // namespace folioforge

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "CommandLineCase.h"
+#include "support/TestUnit.h"
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// Where inputs come from beside the arguments: lists of names, and what stands in folders.
+class InputListsTest : public QObject, CommandLineCase {
+    Q_OBJECT
+
+    /// A text in `name`, whose folder is made, that says its own name.
+    QByteArray named(const char *name) const {
+        const QString file = path(name);
+        QDir().mkpath(QFileInfo(file).path());
+        return QFile::encodeName(writeFile(file, name));
+    }
+    /// What the pages of the document at `name` say, in their order.
+    QStringList pages(const char *name) const {
+        const PdfProbe probe(path(name));
+        QStringList said;
+        for (int page = 1; page <= probe.pageCount(); ++page) {
+            said += probe.text(page).simplified();
+        }
+        return said;
+    }
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void aListOfNamesStandsWhereItIsNamed() {
+        const QString list = text("list", named("2.txt") + '\n' + named("3.txt") + "\n\n");
+        const ToolRun run = merge("all.pdf", {QFile::decodeName(named("1.txt")), u"--files-from"_s,
+                                              list, QFile::decodeName(named("4.txt"))});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(pages("all.pdf"), (QStringList{u"1.txt"_s, u"2.txt"_s, u"3.txt"_s, u"4.txt"_s}));
+    }
+
+    void namesThatEndInNullMayHoldLines_data() {
+        QTest::addColumn<QString>("option");
+        QTest::newRow("short") << u"-0"_s;
+        QTest::newRow("long") << u"--null"_s;
+    }
+    void namesThatEndInNullMayHoldLines() {
+        QFETCH(const QString, option);
+        const QByteArray names = named("b\nb.txt") + '\0' + named("a.txt") + '\0';
+        const ToolRun run = convert({option, u"--files-from=-"_s, u"--json"_s}, names);
+        QCOMPARE(run.exitCode, 0);
+        const QList<QJsonObject> objects = objectsOf(run.out);
+        QCOMPARE(objects.size(), 2);
+        QCOMPARE(member(objects.first(), "input"), path("b\nb.txt"));
+    }
+
+    void standardInputServesOneList() {
+        for (const QStringList &arguments :
+             {QStringList{u"--files-from=-"_s, u"--files-from=-"_s},
+              QStringList{u"--files-from=-"_s, u"--user-password-file=-"_s}}) {
+            const ToolRun run = convert(arguments, named("a.txt"));
+            QCOMPARE(run.exitCode, 2);
+            QCOMPARE(run.err, "folioforge-cli: Standard input cannot be read twice\n");
+        }
+        QCOMPARE(outputs(), QStringList());
+    }
+
+    void aListThatCannotBeReadIsNamed() {
+        const ToolRun run = convert({u"--files-from"_s, path("nowhere")});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.contains("nowhere"), run.err.constData());
+    }
+
+    void anEmptyListIsNoInput() {
+        const ToolRun run = convert({u"--files-from=-"_s});
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.err, "folioforge-cli: There is no file to convert\n");
+    }
+
+    void foldersInFoldersAreTakenInTheOrderOfTheirNames() {
+        for (const char *name : {"in/b.txt", "in/a/2.txt", "in/a/1.txt", "in/c/deep/x.txt"}) {
+            named(name);
+        }
+        writePdf(path("in/a/left.pdf"), 1);
+        QVERIFY(QFile::link(path("in"), path("in/c/round")));
+        const ToolRun run = merge("all.pdf", {u"--recursive"_s, path("in")});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(pages("all.pdf"), (QStringList{u"in/a/1.txt"_s, u"in/a/2.txt"_s, u"in/b.txt"_s,
+                                                u"in/c/deep/x.txt"_s}));
+        QVERIFY2(run.err.contains("in/a: warning: Left out: 1 PDF\n"), run.err.constData());
+        QVERIFY2(run.err.contains("in/c: warning: Left out: 1 folder\n"), run.err.constData());
+    }
+
+    void thePdfsOfAFolderAreTakenOnRequest() {
+        named("in/b.txt");
+        writePdf(path("in/a.pdf"), 2);
+        const ToolRun run = merge("all.pdf", {u"--with-pdfs"_s, path("in")});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.err, "");
+        QCOMPARE(pages("all.pdf"), (QStringList{QString(), QString(), u"in/b.txt"_s}));
+    }
+
+    void aMistypedOptionIsAnsweredWithTheNearest_data() {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QByteArray>("meant");
+        QTest::newRow("letter left out") << u"--merg"_s << QByteArray("; is \"--merge\" meant?");
+        QTest::newRow("letters changed")
+            << u"--files-form=x"_s << QByteArray("; is \"--files-from\" meant?");
+        QTest::newRow("nothing near") << u"--zebra"_s << QByteArray();
+        QTest::newRow("short") << u"-1"_s << QByteArray();
+    }
+    void aMistypedOptionIsAnsweredWithTheNearest() {
+        QFETCH(const QString, typed);
+        QFETCH(const QByteArray, meant);
+        const ToolRun run = convert({typed, u"a.txt"_s});
+        QCOMPARE(run.exitCode, 2);
+        const QByteArray name = typed.section(u'=', 0, 0).toUtf8();
+        QVERIFY2(run.err.startsWith("folioforge-cli: There is no option \"" + name + "\"" + meant +
+                                    "\n"),
+                 run.err.constData());
+    }
+};
+
+FOLIOFORGE_TEST(InputListsTest)
+#include "InputListsTest.moc"
