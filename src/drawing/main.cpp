@@ -33,7 +33,7 @@ void limitResources() {
     constexpr rlim_t kSeconds = 20;
     limit(RLIMIT_CPU, kSeconds);
     limit(RLIMIT_FSIZE, 0);
-#ifndef FOLIOFORGE_SANITIZED // AddressSanitizer takes terabytes of addresses.
+#ifndef FOLIOFORGE_SANITIZED                       // AddressSanitizer takes terabytes of addresses.
     constexpr rlim_t kMemory = rlim_t(1536) << 20; // Bytes.
     limit(RLIMIT_AS, kMemory);
 #endif
