@@ -26,7 +26,9 @@ Output
                                is missing, and a file that exists is never replaced
   --flush always|never         whether a PDF is flushed to disk before it gets its name
                                (default always; never suits scratch disks)
-  --compress none|150m|96m|72l images reduced, from mildest to strongest (default none)
+  --compress none|150m|96m|72l photos reduced to 150, 96 or 72 pixels per inch:
+                               150m mild, good for printing; 96m medium, good for screens;
+                               72l strong, good for mail (default none)
 
 Document
   --title TEXT  --author TEXT  --subject TEXT  --keywords TEXT

@@ -122,7 +122,7 @@ bool quitsDuringThePass(DesktopSession &desktop, const QString &out, int millise
     if (!listPictures(desktop, out) || !desktop.press(u"Merge into one PDF"_s) ||
         !desktop.press(u"Show options"_s) ||
         !desktop.press(u"None"_s) || // Qt calls a list by its choice here.
-        !desktop.click(u"72 dpi, smallest"_s) || !desktop.press(u"Create"_s) ||
+        !desktop.click(u"72l, strong: good for mail"_s) || !desktop.press(u"Create"_s) ||
         !QTest::qWaitFor([&] { return !filesIn(out).isEmpty(); }, 60'000)) {
         return false;
     }
