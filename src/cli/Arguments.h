@@ -45,6 +45,7 @@ struct Arguments {
     std::vector<NameList> nameLists;
     bool listsEndInNull = false; ///< Each name of a list, instead of a line's end.
     FolderTaking taking;
+    QByteArray inputType; ///< The extension that stands for the kind of standard input.
 };
 
 /// A fault in the arguments, as a sentence without a full stop.
@@ -56,7 +57,8 @@ struct UsageError {
 std::variant<Arguments, UsageError> parseArguments(std::span<const QByteArray> arguments);
 
 /// Puts the names of `nameLists` into `inputs`. Throws ArgumentFault when a list cannot be read, or
-/// when standard input, which readPasswords() reads first, is asked for twice.
+/// when standard input, which readPasswords() reads first and "-" as an input last, is asked for
+/// twice.
 void readNameLists(Arguments &arguments);
 
 /// The text of --help.

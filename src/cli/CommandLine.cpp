@@ -5,6 +5,7 @@
 #include "cli/Console.h"
 #include "cli/Inputs.h"
 #include "cli/OptionValues.h"
+#include "cli/PipedInputs.h"
 #include "cli/Process.h"
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
@@ -50,7 +51,7 @@ class Call : private RunObserver {
         std::vector<Input> accepted;
         QStringList refusedPdfs;
         for (Input &input :
-             collectInputs(m_arguments.inputs, m_arguments.taking, m_readableLinks)) {
+             collectInputs(m_arguments.inputs, m_arguments.taking, m_readableLinks, m_pipes)) {
             if (!input.leftOut.empty()) {
                 report(InputResult::listed(input.shown, input.leftOut));
                 continue;
@@ -148,6 +149,7 @@ class Call : private RunObserver {
     ProgressLine m_progress;
     TemporaryFolder m_temporaryFolder;
     ReadableLinks m_readableLinks{m_temporaryFolder}; ///< Outlives the inputs that lead through it.
+    PipedInputs m_pipes{m_arguments.inputType, m_readableLinks};
     ExitStatus m_status = AllConverted;
 };
 

@@ -11,7 +11,8 @@ Turns text files, pictures and PDFs into PDF documents, one for each or all in o
 Of a folder its text files and pictures are taken, ordered by name; what else it holds is
 counted in a warning.
 
-Input
+Input: files, folders, pipes such as <(command), and "-" for standard input
+  --input-type txt|png|pdf|... what standard input is (default: as its bytes say)
   --files-from FILE            further inputs, a name a line, in this place; "-" for standard
                                input
   -0  --null                   the names of --files-from end in a null byte, as find -print0

@@ -2,6 +2,7 @@
 
 #include "cli/Inputs.h"
 
+#include "cli/PipedInputs.h"
 #include "error/Error.h"
 #include "filelist/SourceFiles.h"
 
@@ -24,14 +25,17 @@ QByteArray withoutSlashesAtEnd(QByteArray path) {
 /// The inputs as they are named, in their order, and the files among them.
 class Names {
   public:
-    Names(const FolderTaking &taking, ReadableLinks &readableLinks)
+    Names(const FolderTaking &taking, ReadableLinks &readableLinks, PipedInputs &pipes)
         : m_taking(taking)
-        , m_readableLinks(readableLinks) {}
+        , m_readableLinks(readableLinks)
+        , m_pipes(pipes) {}
 
     void add(const QByteArray &path) {
         std::error_code unknown;
         if (std::filesystem::is_directory(path.toStdString(), unknown)) {
             addFolder(path);
+        } else if (PipedInputs::isPiped(path)) {
+            addPipe(path);
         } else {
             addFile(path);
         }
@@ -53,6 +57,16 @@ class Names {
     void addFile(const QByteArray &path) {
         m_inputs.emplace_back().shown = QString::fromUtf8(path);
         m_files += m_readableLinks.pathFor(path);
+    }
+
+    void addPipe(const QByteArray &path) {
+        Input &input = m_inputs.emplace_back();
+        input.shown = QString::fromUtf8(path);
+        try {
+            m_files += m_pipes.fileOf(path);
+        } catch (const Error &error) {
+            input.read.problem = error.reason();
+        }
     }
 
     void addFolder(const QByteArray &path) {
@@ -105,6 +119,7 @@ class Names {
 
     FolderTaking m_taking;
     ReadableLinks &m_readableLinks;
+    PipedInputs &m_pipes;
     std::vector<Input> m_inputs;
     QStringList m_files;
 };
@@ -112,8 +127,8 @@ class Names {
 } // namespace
 
 std::vector<Input> collectInputs(std::span<const QByteArray> paths, const FolderTaking &taking,
-                                 ReadableLinks &readableLinks) {
-    Names names(taking, readableLinks);
+                                 ReadableLinks &readableLinks, PipedInputs &pipes) {
+    Names names(taking, readableLinks, pipes);
     for (const QByteArray &path : paths) {
         names.add(path);
     }

@@ -15,6 +15,8 @@
 
 namespace folioforge {
 
+class PipedInputs;
+
 /// One input as it was named or found in a folder.
 struct Input {
     QString shown; ///< The path as it was given, for reports.
@@ -30,11 +32,12 @@ struct FolderTaking {
 
 /// The inputs that `paths` name, in that order. A folder stands for its text and image files and
 /// what else `taking` says in the order of their names' bytes, behind an input of its own where it
-/// holds more. A file that is
+/// holds more. What comes through a pipe, or as "-" through standard
+/// input, is kept by `pipes`. A file that is
 /// missing, of no recognised type or unreadable, and a folder that cannot be listed, is rejected
 /// with its reason.
 std::vector<Input> collectInputs(std::span<const QByteArray> paths, const FolderTaking &taking,
-                                 ReadableLinks &readableLinks);
+                                 ReadableLinks &readableLinks, PipedInputs &pipes);
 
 /// Brings the inputs into `order`.
 void sortInputs(std::vector<Input> &inputs, SortOrder order);

@@ -38,17 +38,16 @@ std::vector<QByteArray> namesIn(const QByteArray &list, char end) {
 } // namespace
 
 void readNameLists(Arguments &arguments) {
-    const auto isInput = [](const auto &name) { return name == "-"; };
-    const auto ofLists = std::ranges::count_if(arguments.nameLists, isInput, &NameList::file);
-    const bool isPassword = arguments.userPasswordFile == "-" || arguments.ownerPasswordFile == "-";
-    if (ofLists > 1 || (ofLists == 1 && isPassword)) {
-        throw ArgumentFault(u"Standard input cannot be read twice"_s);
-    }
+    const auto ofLists = std::ranges::count(arguments.nameLists, "-", &NameList::file);
     // From the last, so that the places of those before it stay.
     for (auto list = arguments.nameLists.rbegin(); list != arguments.nameLists.rend(); ++list) {
         const auto names = namesIn(contentsOf(list->file), arguments.listsEndInNull ? '\0' : '\n');
         const auto at = arguments.inputs.begin() + static_cast<std::ptrdiff_t>(list->at);
         arguments.inputs.insert(at, names.begin(), names.end());
+    }
+    const bool isPassword = arguments.userPasswordFile == "-" || arguments.ownerPasswordFile == "-";
+    if (ofLists + std::ranges::count(arguments.inputs, "-") + (isPassword ? 1 : 0) > 1) {
+        throw ArgumentFault(u"Standard input cannot be read twice"_s);
     }
 }
 

@@ -36,6 +36,8 @@ const std::vector<Option> &inputOptions() {
          }},
         {"--null", Option::Switch, [](Arguments &to, Value) { to.listsEndInNull = true; }},
         {"-0", Option::Switch, [](Arguments &to, Value) { to.listsEndInNull = true; }},
+        {"--input-type", Option::Valued,
+         [](Arguments &to, Value value) { to.inputType = parseInputType(textOf(value)); }},
         {"--recursive", Option::Switch, [](Arguments &to, Value) { to.taking.folders = true; }},
         {"--with-pdfs", Option::Switch, [](Arguments &to, Value) { to.taking.pdfs = true; }},
         {"--sort", Option::Valued,

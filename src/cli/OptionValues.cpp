@@ -3,6 +3,7 @@
 #include "cli/OptionValues.h"
 
 #include "cli/Lengths.h"
+#include "filelist/FileKind.h"
 #include "text/TextDecoder.h"
 
 #include <cmath>
@@ -91,6 +92,16 @@ void parseImagePageSize(const QString &text, PageSetup &setup, QStringList &roun
         text, ImagePageCustom,
         u"\"%1\" is not \"image\", no paper such as A4 or Letter^T and no size as WxH"_s.arg(text),
         setup, rounded);
+}
+
+QByteArray parseInputType(const QString &text) {
+    const QString type = text.toLower();
+    if (fileKind(u"stdin."_s + type) == FileKind::Other) {
+        const QStringList known = extensionsOf(FileKind::Text) + extensionsOf(FileKind::Image) +
+                                  extensionsOf(FileKind::Pdf);
+        throw ArgumentFault(u"\"%1\" is none of %2"_s.arg(text, known.join(u", "_s)));
+    }
+    return type.toLatin1();
 }
 
 int parseDensity(const QString &text) {

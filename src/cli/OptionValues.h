@@ -58,6 +58,9 @@ void parseTextPageSize(const QString &text, PageSetup &setup, QStringList &round
 /// Puts "image", a paper that paperSize() knows, or "WxH" into `setup`. Throws ArgumentFault.
 void parseImagePageSize(const QString &text, PageSetup &setup, QStringList &rounded);
 
+/// An extension that is recognised, such as "txt", in lower case. Throws ArgumentFault.
+QByteArray parseInputType(const QString &text);
+
 /// Pixels per inch. Throws ArgumentFault where no picture can have as many.
 int parseDensity(const QString &text);
 

@@ -29,11 +29,17 @@ QString ReadableLinks::pathFor(const QByteArray &path) {
     }
     std::error_code failure;
     const auto target = std::filesystem::absolute(path.toStdString(), failure);
+    const QString link =
+        failure ? QString()
+                : linkTo(QByteArray::fromStdString(target.string()), lastPathComponent(readable));
+    return link.isEmpty() ? readable : link;
+}
+
+QString ReadableLinks::linkTo(const QByteArray &target, const QString &name) {
     // Each link gets a folder of its own, so that it can have the file's name.
     const QString folder = m_folder.path() + u'/' + QString::number(m_count++);
-    const QString link = folder + u'/' + fittingName(lastPathComponent(readable));
-    const bool made = !failure && makeFolder(folder) && makeLink(link, target);
-    return made ? link : readable;
+    QString link = folder + u'/' + fittingName(name);
+    return makeFolder(folder) && makeLink(link, target.toStdString()) ? link : QString();
 }
 
 // The path is known to a signal handler before there is anything to remove.

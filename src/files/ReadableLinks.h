@@ -34,6 +34,9 @@ class ReadableLinks {
     /// When no file has such a path, the file of the folder whose name reads the same is meant.
     QStringList pathsForReadable(QStringList paths);
 
+    /// The path of a link called `name` that leads to `target`; empty when none can be made.
+    QString linkTo(const QByteArray &target, const QString &name);
+
   private:
     QString pathForReadable(const QString &path);
     bool makeFolder(const QString &path);
