@@ -2,7 +2,8 @@
 
 // Draws the skins of the buttons: for each of the twelve, NAME.svg, NAME-hover.svg and
 // NAME-disable.svg. Labels become outlines, so that a skin looks the same whatever fonts a system
-// has; its size is the size of its button in points.
+// has; its size is the size of its button in points. src/skin/SkinLabel.cpp puts the words of other
+// languages in their place.
 //
 // The SVG files are kept beside this program, which is built and run only after a change here:
 //   cmake --build build/dev --target drawskins && build/dev/resources/drawskins resources/skins
@@ -196,9 +197,9 @@ QString svg(const Skin &skin, const Look &look) {
         << "<g transform=\"translate(" << left << " " << iconTop << ")\" opacity=\""
         << look.iconOpacity << "\">" << icon << "</g>\n";
     if (!skin.label.isEmpty()) {
-        out << "<path transform=\"translate(" << left + skin.iconWidth + gap - text.left() << " "
-            << baseline << ")\" fill=\"" << look.label << "\" d=\"" << pathData(outline)
-            << "\"/>\n";
+        out << "<path aria-label=\"" << skin.label << "\" transform=\"translate("
+            << left + skin.iconWidth + gap - text.left() << " " << baseline << ")\" fill=\""
+            << look.label << "\" d=\"" << pathData(outline) << "\"/>\n";
     }
     out << "</svg>\n";
     return document;

@@ -155,14 +155,15 @@ void MainWndCtrl::windowDidLoad() {
 void MainWndCtrl::initCtrl() {
     const QString programs = u"%1/Contents/MacOS/"_s.arg(m_services.bundlePath);
     const QString folder = u"%1/image"_s.arg(programs);
+    const bool mirrored = m_window->isRightToLeft(); // The two point where the panel goes.
     const std::array<std::pair<SkinButton *, QString>, 12> skins{{
         {m_btnAddImage, u"add-image"_s},
         {m_btnAddTxt, u"add-txt"_s},
         {m_btnAddPDF, u"add-pdf"_s},
         {m_btnRemove, u"remove"_s},
         {m_btnCreate, u"convert"_s},
-        {m_btnExpand, u"show-option"_s},
-        {m_btnElapse, u"hide-option"_s},
+        {m_btnExpand, mirrored ? u"hide-option"_s : u"show-option"_s},
+        {m_btnElapse, mirrored ? u"show-option"_s : u"hide-option"_s},
         {m_btnOpen, u"open"_s},
         {m_btnBrowse, u"browse"_s},
         {m_btnSecuritySetting, u"security-setting"_s},
@@ -207,8 +208,10 @@ QString MainWndCtrl::resourcesFolder() const {
 void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
                              SkinButton *button) const {
     const QString resources = resourcesFolder();
+    const bool isInPanel = optionsPanel->isAncestorOf(button);
     const auto look = [&](const QString &suffix, const SkinImage &otherwise) {
-        const SkinImage image = SkinImage::named(resources, name + suffix);
+        const SkinImage image = SkinImage::named(resources, name + suffix, button->text(),
+                                                 isInPanel ? SkinWidth::Stays : SkinWidth::Grows);
         return image.isNull() ? otherwise : image;
     };
     const SkinImage normal = look(QString(), {});
@@ -216,7 +219,7 @@ void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
     if (!normal.isNull()) {
         button->ensurePolished(); // Else the style sheet's least size would replace this one later.
         // The panel has no room for larger ones.
-        const double scale = optionsPanel->isAncestorOf(button) ? 1 : textScale();
+        const double scale = isInPanel ? 1 : textScale();
         button->setFixedSize(normal.size() * scale);
     }
     button->setNormalImage(normal);

@@ -87,8 +87,8 @@ void OptionsSlide::takeUsersChanges() {
     m_closed.setSize(m_closed.size() + now.size() - before.size());
     m_closed.moveTop(m_closed.top() + now.top() - before.top());
     if (std::abs(now.left() - before.left()) > 1) {
-        m_closed.moveLeft(now.left());
-        m_shift = 0;
+        m_shift = m_window.isRightToLeft() ? m_drawer.openWidth() : 0;
+        m_closed.moveLeft(now.left() + m_shift);
     }
     m_asked.clear();
     m_settled = now;
@@ -165,10 +165,15 @@ QMargins OptionsSlide::frameAtSides() const {
     return {inside.left() - frame.left(), 0, frame.right() - inside.right(), 0};
 }
 
-/// How far to the left the window moves for so much of the drawer: by what lies beyond the screen,
-/// while there is room.
+/// How far to the left the window moves for so much of the drawer, which lies where lines end: by
+/// what lies beyond the screen there, while there is room at the other side.
 int OptionsSlide::shiftFor(int width) const {
     const QRect screen = m_window.screen()->availableGeometry();
+    if (m_window.isRightToLeft()) {
+        const QRect frame = m_closed.adjusted(-width, 0, 0, 0).marginsAdded(frameAtSides());
+        const int room = std::clamp(screen.right() - frame.right(), 0, width);
+        return width - std::clamp(screen.left() - frame.left(), 0, room);
+    }
     const QRect frame = m_closed.adjusted(0, 0, width, 0).marginsAdded(frameAtSides());
     const int room = std::clamp(frame.left() - screen.left(), 0, width);
     return std::clamp(frame.right() - screen.right(), 0, room);

@@ -15,10 +15,10 @@ namespace folioforge {
 
 class OptionsDrawer;
 
-/// Shows and hides the options drawer of a window: the window grows to the right by the drawer's
-/// width, and takes its exact place back when the drawer closes. Where the screen ends first, it
-/// moves to the left meanwhile. A window that fills the screen shows the drawer inside and takes
-/// its width on when it is restored.
+/// Shows and hides the options drawer of a window: the window grows to the right (where one reads
+/// from right to left, to the left) by the drawer's width, and takes its exact place back when the
+/// drawer closes. Where the screen ends first, it moves to the other side meanwhile. A window that
+/// fills the screen shows the drawer inside and takes its width on when it is restored.
 ///
 /// A window manager moves and sizes the window some time after it is asked to, and reports each
 /// step late. So every step is reckoned from where the window was before the slide, never from

@@ -5,6 +5,7 @@
 #include "preview/PageView.h"
 
 #include <QAccessible>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -22,12 +23,15 @@ constexpr int kLastPage = 1'000'000'000; ///< Beyond the last page of any docume
 
 /// The page to which `key` leads; nothing where it leads to none.
 std::optional<int> pageFor(int key, int page) {
+    const int step = QGuiApplication::isRightToLeft() ? -1 : 1;
     switch (key) {
     case Qt::Key_Left:
+        return page - step;
+    case Qt::Key_Right:
+        return page + step;
     case Qt::Key_Up:
     case Qt::Key_PageUp:
         return page - 1;
-    case Qt::Key_Right:
     case Qt::Key_Down:
     case Qt::Key_PageDown:
         return page + 1;
@@ -67,8 +71,9 @@ PreviewPanel::PreviewPanel(QWidget *parent)
     m_view->setObjectName(u"previewPage"_s);
     m_close = addButton(Qt::NoArrow, tr("Close the preview"));
     m_close->setText(u"×"_s);
-    m_back = addButton(Qt::LeftArrow, tr("Previous page"));
-    m_forth = addButton(Qt::RightArrow, tr("Next page"));
+    const bool mirrored = isRightToLeft();
+    m_back = addButton(mirrored ? Qt::RightArrow : Qt::LeftArrow, tr("Previous page"));
+    m_forth = addButton(mirrored ? Qt::LeftArrow : Qt::RightArrow, tr("Next page"));
 
     auto *head = new QHBoxLayout;
     head->addWidget(m_file, 1);
@@ -118,7 +123,7 @@ void PreviewPanel::setFile(const QString &name) {
 void PreviewPanel::showPage(const QImage &page, const PagePlace &place) {
     m_view->showPage(page);
     showPlace(place);
-    say(inWords(place) + u", "_s + m_name);
+    say(tr("%1, %2", "page, file").arg(inWords(place), m_name));
 }
 
 void PreviewPanel::showWords(const QString &words, const PagePlace &place) {

@@ -105,7 +105,11 @@ QString lightStyleSheet() {
 void applyLightLook(QApplication &application) {
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setPalette(lightPalette());
-    application.setStyleSheet(lightStyleSheet());
+    QString sheet = lightStyleSheet();
+    if (QGuiApplication::isRightToLeft()) {
+        sheet.replace(u"border-left"_s, u"border-right"_s); // Sheets know no leading edge.
+    }
+    application.setStyleSheet(sheet);
 }
 
 } // namespace folioforge

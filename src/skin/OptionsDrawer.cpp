@@ -43,7 +43,9 @@ void OptionsDrawer::setOpenWidth(int width) {
 
 void OptionsDrawer::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
-    m_area->setGeometry(0, 0, static_cast<int>(kFullWidth), height());
+    constexpr int kPanelWidth = static_cast<int>(kFullWidth);
+    // What shows first is the edge at the list.
+    m_area->setGeometry(isRightToLeft() ? width() - kPanelWidth : 0, 0, kPanelWidth, height());
 }
 
 /// The wheel scrolls the panel and never changes the list box under the pointer.

@@ -31,10 +31,12 @@ SkinImage::SkinImage(const QImage &picture) {
     }
 }
 
-SkinImage SkinImage::named(const QString &folder, const QString &name) {
+SkinImage SkinImage::named(const QString &folder, const QString &name, const QString &label,
+                           SkinWidth width) {
     const QString base = QDir(folder).filePath(name);
     auto drawing = std::make_shared<QSvgRenderer>();
-    if (const QString path = base + u".svg"_s; QFile::exists(path) && drawing->load(path)) {
+    QFile file(base + u".svg"_s);
+    if (file.open(QIODevice::ReadOnly) && drawing->load(withLabel(file.readAll(), label, width))) {
         auto *data = new Data;
         data->drawing = std::move(drawing);
         SkinImage image;

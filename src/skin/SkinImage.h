@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "skin/SkinLabel.h"
+
 #include <QImage>
 #include <QSharedDataPointer>
 #include <QSize>
@@ -22,8 +24,9 @@ class SkinImage {
     /// A picture of one point a pixel.
     explicit SkinImage(const QImage &picture);
     /// The skin `name` of `folder`, "name.svg" or else "name.png"; empty when there is none that
-    /// can be read.
-    static SkinImage named(const QString &folder, const QString &name);
+    /// can be read. A drawing shows the words `label` in place of its own.
+    static SkinImage named(const QString &folder, const QString &name, const QString &label = {},
+                           SkinWidth width = SkinWidth::Grows);
 
     SkinImage(const SkinImage &);
     SkinImage &operator=(const SkinImage &);

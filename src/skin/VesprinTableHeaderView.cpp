@@ -6,6 +6,7 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QPainter>
 
 #include <cmath>
@@ -65,8 +66,9 @@ void VesprinTableHeaderView::drawColumn(QPainter &painter, int column, const QRe
     drawColumnCell(painter, cell, title);
     if (column < kColumns - 1) {
         painter.setPen(linePen(1.0));
-        painter.drawLine(QPointF(cell.right(), cell.top() + kSeparatorInset),
-                         QPointF(cell.right(), cell.bottom() - kSeparatorInset));
+        const double x = QGuiApplication::isRightToLeft() ? cell.left() : cell.right();
+        painter.drawLine(QPointF(x, cell.top() + kSeparatorInset),
+                         QPointF(x, cell.bottom() - kSeparatorInset));
     }
     QPointF left = cell.bottomLeft();
     QPointF right = cell.bottomRight();
