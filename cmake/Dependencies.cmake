@@ -5,6 +5,7 @@ set(parts Core)
 set(optional_parts)
 if(FOLIOFORGE_WINDOW)
     list(APPEND parts Gui Widgets Svg)
+    list(APPEND optional_parts LinguistTools) # Makes the texts of other languages.
     if(FOLIOFORGE_PREVIEW)
         list(APPEND optional_parts Pdf)
     endif()

@@ -36,7 +36,7 @@ function(folioforge_tests room)
         add_test(NAME ${room}.${unit} COMMAND ${target} ${unit})
         set_tests_properties(${room}.${unit} PROPERTIES
             TIMEOUT 300
-            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+            ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=")
     endforeach()
     foreach(unit IN LISTS TESTS_LONG)
         set_tests_properties(${room}.${unit} PROPERTIES COST 10)

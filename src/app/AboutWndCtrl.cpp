@@ -55,7 +55,8 @@ AboutWndCtrl::AboutWndCtrl(const QString &bundlePath)
     layout.setupUi(m_window.get());
     m_imageView = layout.m_imageView;
     const QVariant version = bundleInfo(bundlePath).value(u"CFBundleShortVersionString"_s);
-    layout.versionLabel->setText(QDialog::tr("Version %1").arg(version.toString()));
+    layout.versionLabel->setText(
+        QCoreApplication::translate("AboutWnd", "Version %1").arg(version.toString()));
     layout.versionLabel->setVisible(version.isValid());
     awakeFromNib(bundlePath);
 }

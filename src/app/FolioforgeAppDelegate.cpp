@@ -44,7 +44,8 @@ void FolioforgeAppDelegate::awakeFromNib() {
     viewMenu->menuAction()->setVisible(m_mainWndCtrl->canShowPages());
     m_previewItem->setEnabled(m_mainWndCtrl->canShowPages());
     connect(m_mainWndCtrl.get(), &MainWndCtrl::previewShown, m_previewItem, &QAction::setChecked);
-    if (QAction *update = itemWithTitle(*m_programMenu, tr("Check for Update..."))) {
+    if (QAction *update = itemWithTitle(
+            *m_programMenu, QCoreApplication::translate("MainMenu", "Check for Update..."))) {
         update->setVisible(true);
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "app/FolioforgeAppDelegate.h"
+#include "app/Translations.h"
 #include "convert/Bundle.h"
 #include "files/ProcessSetup.h"
 #include "mainwnd/Desktop.h"
@@ -10,6 +11,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLocale>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -23,6 +25,8 @@ int main(int argc, char *argv[]) {
     QApplication::setDesktopFileName(u"com.vesprin.folioforge"_s);
     QApplication::setQuitOnLastWindowClosed(
         FolioforgeAppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+    const QString bundle = applicationBundlePath();
+    const Translations translations(QLocale::system().uiLanguages(), bundle);
     applyLightLook(application);
 
     QSettings settings(u"Vesprin"_s, u"Folioforge"_s);
@@ -30,8 +34,7 @@ int main(int argc, char *argv[]) {
     Notices notices;
     NotificationCenter notifications;
     FolioforgeAppDelegate delegate(
-        {settings, desktop, notices, notifications, QDir::homePath(), applicationBundlePath()},
-        makeUpdater());
+        {settings, desktop, notices, notifications, QDir::homePath(), bundle}, makeUpdater());
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
 }

@@ -8,8 +8,6 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 namespace {
 
@@ -20,26 +18,33 @@ Notice otherFolderNotice(const QString &problem, Setting setting) {
 }
 
 Notice equalPasswordsNotice() {
-    return notice(u"The passwords can not be the same."_s, Setting::OwnerPassword);
+    return notice(QCoreApplication::translate("Checks", "The passwords can not be the same."),
+                  Setting::OwnerPassword);
 }
 
 /// A password that no encrypted document can hold would fail only once everything is converted.
 std::optional<Notice> problemOf(bool used, const QString &password, Setting setting) {
     const auto problem = used ? passwordProblem(password) : std::nullopt;
-    return problem ? std::optional(notice(*problem + u'.', setting)) : std::nullopt;
+    return problem ? std::optional(notice(
+                         QCoreApplication::translate("Checks", "%1.").arg(*problem), setting))
+                   : std::nullopt;
 }
 
 } // namespace
 
 std::optional<Notice> checkOutputFolder(const QString &folder) {
     if (folder.isEmpty()) {
-        return notice(u"Please select an output folder to store the output documents."_s,
-                      Setting::OutputFolder);
+        return notice(
+            QCoreApplication::translate(
+                "Checks", "Please select an output folder to store the output documents."),
+            Setting::OutputFolder);
     }
     const QFileInfo info(folder);
     if (!info.isDir() || !info.isWritable()) {
-        return otherFolderNotice(u"Selected output folder does not exist or is not writable."_s,
-                                 Setting::OutputFolder);
+        return otherFolderNotice(
+            QCoreApplication::translate(
+                "Checks", "Selected output folder does not exist or is not writable."),
+            Setting::OutputFolder);
     }
     return std::nullopt;
 }
@@ -49,10 +54,12 @@ std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings) {
     const QString &owner = settings.ownerPassword;
     const bool both = settings.useUserPassword && settings.useOwnerPassword;
     if (settings.useUserPassword && user.isEmpty()) {
-        return notice(u"Please input user password."_s, Setting::UserPassword);
+        return notice(QCoreApplication::translate("Checks", "Please input user password."),
+                      Setting::UserPassword);
     }
     if (settings.useOwnerPassword && owner.isEmpty()) {
-        return notice(u"Please input owner password."_s, Setting::OwnerPassword);
+        return notice(QCoreApplication::translate("Checks", "Please input owner password."),
+                      Setting::OwnerPassword);
     }
     if (both && user == owner) {
         return equalPasswordsNotice();
@@ -76,7 +83,8 @@ std::optional<Notice> checkMergedFile(const ConversionOptions &options) {
         return std::nullopt;
     }
     if (options.outputName.isEmpty() || isNameOfFolder(options.outputName)) {
-        return notice(u"Please input output file name."_s, Setting::OutputName);
+        return notice(QCoreApplication::translate("Checks", "Please input output file name."),
+                      Setting::OutputName);
     }
     if (isNameTaken(mergedFilePath(options))) {
         return nameExistsNotice();
@@ -105,8 +113,10 @@ Notice folderNotWritableNotice() {
 }
 
 Notice nameExistsNotice() {
-    return notice(u"File name already exists in output folder, please input another name."_s,
-                  Setting::OutputName);
+    return notice(
+        QCoreApplication::translate(
+            "Checks", "File name already exists in output folder, please input another name."),
+        Setting::OutputName);
 }
 
 } // namespace folioforge

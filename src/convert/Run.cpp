@@ -8,6 +8,8 @@
 #include "files/Printable.h"
 #include "files/TemporaryFolder.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -77,7 +79,11 @@ PDFOutcome Run::writePDF(std::size_t firstEntry, const QString &path,
                          ConversionObserver &observer) const {
     // A name with a slash would lead to another folder than the one that was checked.
     if (m_options.merge && m_options.outputName.contains(u'/')) {
-        return {{CloseResult::Status::Failed, {}, u"A file name cannot hold a slash"_s, {}}, {}};
+        return {{CloseResult::Status::Failed,
+                 {},
+                 QCoreApplication::translate("Run", "A file name cannot hold a slash"),
+                 {}},
+                {}};
     }
     std::vector<const PDFFileInfo *> entries;
     const EntryRange range = entriesOf(firstEntry);
@@ -101,7 +107,8 @@ CompressionOutcome Run::compress(const QString &path, const QString &temporaryFo
             observer.endPageWrite(pageIndex, pageCount);
         });
     if (!outcome.error.isEmpty()) {
-        noteProblem(path, u"not compressed: "_s + outcome.error);
+        noteProblem(path,
+                    QCoreApplication::translate("Run", "not compressed: %1").arg(outcome.error));
     }
     return outcome;
 }
@@ -139,8 +146,9 @@ std::optional<Notice> Run::problems() const {
     if (m_problems.isEmpty()) {
         return std::nullopt;
     }
-    return notice(u"Something went wrong with these PDF documents:\r\n"_s +
-                  m_problems.join(u"\r\n"_s));
+    return notice(
+        QCoreApplication::translate("Run", "Something went wrong with these PDF documents:") +
+        u"\r\n"_s + m_problems.join(u"\r\n"_s));
 }
 
 } // namespace folioforge

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace folioforge {
@@ -44,7 +45,7 @@ struct Notice {
 
 /// A notice with the usual title "Notice".
 inline Notice notice(const QString &message, Setting setting = Setting::None) {
-    return {QStringLiteral("Notice"), message, {}, setting};
+    return {QCoreApplication::translate("Notice", "Notice"), message, {}, setting};
 }
 
 } // namespace folioforge

@@ -24,6 +24,11 @@ namespace {
 constexpr int kHeadLength = 8;
 constexpr int kTailLength = 10;
 
+/// The look of a state that is told in words, for whose translation the window asks.
+RichText inWords(const char *state) {
+    return {QString::fromLatin1(state), false, {}};
+}
+
 /// Whole points of a length, cut off; a length beyond 32 bits counts as the largest number.
 int wholePoints(double length) {
     return static_cast<int>(std::min<double>(length, std::numeric_limits<int>::max()));
@@ -143,19 +148,19 @@ void PDFFileInfo::setStateIndex(int code) {
     m_stateIndex = code;
     switch (code) {
     case Waiting:
-        m_state = RichText{u"Waiting..."_s, false, {}};
+        m_state = inWords(QT_TRANSLATE_NOOP("States", "Waiting..."));
         break;
     case Converting:
-        m_state = RichText{u"Converting..."_s, false, {}};
+        m_state = inWords(QT_TRANSLATE_NOOP("States", "Converting..."));
         break;
     case FinishedAsLink:
         m_state = linkText();
         break;
     case Finished:
-        m_state = RichText{u"Finished"_s, false, {}};
+        m_state = inWords(QT_TRANSLATE_NOOP("States", "Finished"));
         break;
     case Failed:
-        m_state = RichText{u"Failed"_s, false, {}};
+        m_state = inWords(QT_TRANSLATE_NOOP("States", "Failed"));
         break;
     default:
         m_state.reset();

@@ -6,6 +6,7 @@
 #include "files/ReadableLinks.h"
 #include "pdf/import/SourceDocument.h"
 
+#include <QCoreApplication>
 #include <QFile>
 
 #include <filesystem>
@@ -110,8 +111,9 @@ Notice badFilesNotice(const QStringList &paths) {
     for (const QString &path : paths) {
         lines += u"    "_s + path;
     }
-    return {u"Fail to import following files. They are encrypted or not normal PDF "
-            "files:"_s,
+    return {QCoreApplication::translate(
+                "SourceFiles",
+                "Fail to import following files. They are encrypted or not normal PDF files:"),
             lines.join(u"\r\n"_s).replace(u"%%"_s, u"%"_s)};
 }
 

@@ -17,6 +17,26 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
+bool isLink(const PDFFileInfo &entry, int column) {
+    return column == FilesArray::DestinationColumn && entry.stateIndex() == FinishedAsLink;
+}
+
+/// The state in the user's language, or the name of the PDF.
+QString stateOf(const PDFFileInfo &entry) {
+    if (!entry.state()) {
+        return {};
+    }
+    const QString &text = entry.state()->text;
+    return isLink(entry, FilesArray::DestinationColumn)
+               ? printable(text)
+               : QCoreApplication::translate("States", text.toUtf8().constData());
+}
+
+/// "4 KB" and "595 × 842" as they are, in a text that is read from right to left, too.
+QString leftToRight(const QString &text) {
+    return QGuiApplication::isRightToLeft() ? u"\u2066%1\u2069"_s.arg(text) : text;
+}
+
 QString textOf(const PDFFileInfo &entry, int column) {
     switch (column) {
     case FilesArray::NumberColumn:
@@ -24,14 +44,10 @@ QString textOf(const PDFFileInfo &entry, int column) {
     case FilesArray::NameColumn:
         return printable(entry.fileName());
     case FilesArray::SizeColumn:
-        return entry.fileSize();
+        return leftToRight(entry.fileSize());
     default:
-        return entry.state() ? printable(entry.state()->text) : QString();
+        return stateOf(entry);
     }
-}
-
-bool isLink(const PDFFileInfo &entry, int column) {
-    return column == FilesArray::DestinationColumn && entry.stateIndex() == FinishedAsLink;
 }
 
 QString pagesOf(const PDFFileInfo &entry) {
@@ -39,7 +55,8 @@ QString pagesOf(const PDFFileInfo &entry) {
     if (pages == 0) {
         return {};
     }
-    return pages == 1 ? u"1 page"_s : u"%1 pages"_s.arg(pages);
+    return pages == 1 ? QCoreApplication::translate("EntryCells", "1 page")
+                      : QCoreApplication::translate("EntryCells", "%n pages", nullptr, pages);
 }
 
 /// What a cell tells where the entry needs no remark.

@@ -9,8 +9,6 @@
 #include <iterator>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 FilesArray::FilesArray(QObject *parent)
@@ -198,8 +196,8 @@ QVariant FilesArray::data(const QModelIndex &index, int role) const {
 }
 
 QVariant FilesArray::headerData(int section, Qt::Orientation orientation, int role) const {
-    static const std::array<QString, ColumnCount> titles{u"No."_s, u"Name"_s, u"Size"_s,
-                                                         u"Destination"_s};
+    const std::array<QString, ColumnCount> titles{tr("No."), tr("Name"), tr("Size"),
+                                                  tr("Destination")};
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
         section >= ColumnCount) {
         return {};

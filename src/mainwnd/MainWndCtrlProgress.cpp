@@ -76,13 +76,12 @@ void MainWndCtrl::showRunProgress() {
     const bool merges = m_run->options().merge;
     const double ofPdf = m_pdfProgress / (m_run->compresses() ? kFull : kPagesShare);
     const int total = m_filesArray->count();
-    QString words = merges ? tr("%1 of %2 files added").arg(m_filesAdded).arg(total)
-                           : tr("%1 of %2 done").arg(m_fileIndex).arg(total);
-    if (m_pdfDoc && m_run->compresses()) {
-        words += tr(", compressing");
-    }
+    const bool compresses = m_pdfDoc && m_run->compresses();
+    const QString words =
+        merges ? (compresses ? tr("%1 of %2 files added, compressing") : tr("%1 of %2 files added"))
+               : (compresses ? tr("%1 of %2 done, compressing") : tr("%1 of %2 done"));
     const double share = merges ? ofPdf : (m_fileIndex + ofPdf) / total;
-    m_alertWnd->setProgress(words, share);
+    m_alertWnd->setProgress(words.arg(merges ? m_filesAdded : m_fileIndex).arg(total), share);
     m_news->progress(share);
 }
 

@@ -100,6 +100,7 @@ NoticeBox::NoticeBox(Icon icon, const Notice &notice, QWidget *window)
     : QMessageBox(icon, notice.title, notice.title, Ok, window, Qt::Sheet) {
     setInformativeText(notice.textInWindow());
     button(Ok)->setIcon({}); // Some desktops would draw one.
+    button(Ok)->setText(tr("OK"));
     showAsPlainText(*this);
     ensurePolished(); // The fonts of the style sheet are known from here on.
     const QSize size = (window ? window->screen() : screen())->availableGeometry().size();

@@ -17,27 +17,32 @@ namespace folioforge {
 
 namespace {
 
-QString counted(int count, const QString &one, const QString &several) {
-    return count == 1 ? one : several.arg(count);
-}
+// English has a text of its own for one, as it has no translator that would know of plurals.
 
 /// "book.pdf made, 210 pages, 3.4 MB".
 QString onePdf(const RunSummary &summary) {
     const QFileInfo file(summary.lastPath);
-    return RunAnswer::tr("%1 made, %2, %3")
-        .arg(printable(file.fileName()),
-             counted(summary.pages, RunAnswer::tr("1 page"), RunAnswer::tr("%1 pages")),
-             QLocale().formattedDataSize(file.size(), 1, QLocale::DataSizeSIFormat));
+    const QString words = summary.pages == 1
+                              ? RunAnswer::tr("%1 made, 1 page, %2")
+                              : RunAnswer::tr("%1 made, %n pages, %2", nullptr, summary.pages);
+    return words.arg(printable(file.fileName()),
+                     QLocale().formattedDataSize(file.size(), 1, QLocale::DataSizeSIFormat));
+}
+
+QString severalPdfs(int count) {
+    return count == 1 ? RunAnswer::tr("1 PDF made") : RunAnswer::tr("%n PDFs made", nullptr, count);
 }
 
 /// How many PDFs, or how many files of a merged one, are missing.
 QString failuresOf(const RunSummary &summary) {
     if (summary.failedEntries > 0) {
-        return counted(summary.failedEntries, RunAnswer::tr("1 file could not be added"),
-                       RunAnswer::tr("%1 files could not be added"));
+        const int files = summary.failedEntries;
+        return files == 1 ? RunAnswer::tr("1 file could not be added")
+                          : RunAnswer::tr("%n files could not be added", nullptr, files);
     }
-    return counted(summary.failedPDFs, RunAnswer::tr("1 could not be"),
-                   RunAnswer::tr("%1 could not be"));
+    const int pdfs = summary.failedPDFs;
+    return pdfs == 1 ? RunAnswer::tr("1 could not be", "PDF, made")
+                     : RunAnswer::tr("%n could not be", "PDFs, made", pdfs);
 }
 
 QString inWords(const RunSummary &summary) {
@@ -45,11 +50,11 @@ QString inWords(const RunSummary &summary) {
         return summary.failedPDFs == 1 ? RunAnswer::tr("The PDF could not be made")
                                        : RunAnswer::tr("No PDF could be made");
     }
-    const QString made =
-        summary.madePDFs + summary.failedPDFs == 1
-            ? onePdf(summary)
-            : counted(summary.madePDFs, RunAnswer::tr("1 PDF made"), RunAnswer::tr("%1 PDFs made"));
-    return summary.hasFailures() ? made + u", "_s + failuresOf(summary) : made;
+    const bool isOne = summary.madePDFs + summary.failedPDFs == 1;
+    const QString made = isOne ? onePdf(summary) : severalPdfs(summary.madePDFs);
+    return summary.hasFailures() ? RunAnswer::tr("%1, %2", "what was made, what was not")
+                                       .arg(made, failuresOf(summary))
+                                 : made;
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 
 #include "error/Error.h"
 
+#include <QCoreApplication>
+
 #include <unicode/usprep.h>
 
 #include <memory>
@@ -47,21 +49,27 @@ std::variant<QString, UErrorCode> saslprep(const QString &text) {
 
 std::variant<QByteArray, QString> prepare(const QString &password) {
     if (!password.isValidUtf16()) {
-        return u"The password contains half a character"_s;
+        return QCoreApplication::translate("Password", "The password contains half a character");
     }
     const auto prepared = saslprep(password);
     if (const auto *status = std::get_if<UErrorCode>(&prepared)) {
         return *status == U_STRINGPREP_CHECK_BIDI_ERROR
-                   ? u"The password mixes characters written from right to left with others "
-                     "in a way that passwords cannot have"_s
-                   : u"The password contains a character that passwords cannot have"_s;
+                   ? QCoreApplication::translate(
+                         "Password",
+                         "The password mixes characters written from right to left with "
+                         "others in a way that passwords cannot have")
+                   : QCoreApplication::translate(
+                         "Password",
+                         "The password contains a character that passwords cannot have");
     }
     QByteArray bytes = std::get<QString>(prepared).toUtf8();
     if (bytes.isEmpty() && !password.isEmpty()) {
-        return u"The password contains no visible character"_s;
+        return QCoreApplication::translate("Password",
+                                           "The password contains no visible character");
     }
     if (bytes.size() > kMaxPasswordBytes) {
-        return u"The password is longer than %1 bytes"_s.arg(kMaxPasswordBytes);
+        return QCoreApplication::translate("Password", "The password is longer than %1 bytes")
+            .arg(kMaxPasswordBytes);
     }
     return bytes;
 }

@@ -2,11 +2,11 @@
 
 #include "text/PageSetup.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <limits>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
@@ -32,9 +32,11 @@ PageSettings settingsOf(Target target) {
 }
 
 Notice alertInvalidPageMargin(Target target, Setting margin) {
-    const QString head = u"Invalid page margin value "_s;
-    return notice(head + (target == Target::Text ? u"in text output setting."_s
-                                                 : u"in image output setting."_s),
+    return notice(target == Target::Text
+                      ? QCoreApplication::translate(
+                            "PageSetup", "Invalid page margin value in text output setting.")
+                      : QCoreApplication::translate(
+                            "PageSetup", "Invalid page margin value in image output setting."),
                   margin);
 }
 
@@ -42,13 +44,25 @@ Notice alertInvalidPageMargin(Target target, Setting margin) {
 Notice alertInvalidPageSize(Target target, Axis axis, bool isCustom) {
     const PageSettings settings = settingsOf(target);
     const bool isWidth = axis == Axis::Width;
-    const QString head = u"The value of page margin is larger than page "_s;
-    const QString middle = isWidth ? u"width, "_s : u"height, "_s;
-    const QString tail = target == Target::Text ? u"please modify your text output setting."_s
-                                                : u"please modify your image output setting."_s;
+    QString words;
+    if (target == Target::Text) {
+        words = isWidth ? QCoreApplication::translate(
+                              "PageSetup", "The value of page margin is larger than page width, "
+                                           "please modify your text output setting.")
+                        : QCoreApplication::translate(
+                              "PageSetup", "The value of page margin is larger than page height, "
+                                           "please modify your text output setting.");
+    } else {
+        words = isWidth ? QCoreApplication::translate(
+                              "PageSetup", "The value of page margin is larger than page width, "
+                                           "please modify your image output setting.")
+                        : QCoreApplication::translate(
+                              "PageSetup", "The value of page margin is larger than page height, "
+                                           "please modify your image output setting.");
+    }
     const Setting size = isWidth ? settings.width : settings.height;
     const Setting margin = settings.margins[isWidth ? 1 : 0];
-    return notice(head + middle + tail, isCustom ? size : margin);
+    return notice(words, isCustom ? size : margin);
 }
 
 /// Negative margins wrap to large unsigned numbers and fail with the same test.

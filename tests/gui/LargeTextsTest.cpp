@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "CutTexts.h"
 #include "OffscreenScreen.h"
 #include "WindowWorld.h"
 #include "support/TestUnit.h"
@@ -43,27 +44,6 @@ struct LargeTexts {
     template<typename Control> Control &control(const char *name) {
         return controlOf<Control>(*ctrl->window(), name);
     }
-    /// The labels, boxes and buttons in sight that have less room than their text takes, or whose
-    /// room the window does not show.
-    [[nodiscard]] QStringList cut() {
-        QStringList names;
-        for (const auto *widget : ctrl->window()->findChildren<QWidget *>()) {
-            const auto *label = qobject_cast<const QLabel *>(widget);
-            const auto *button = qobject_cast<const QAbstractButton *>(widget);
-            const QString text = label ? label->text() : button ? button->text() : QString();
-            // A skin is a picture; the answer of a run gives way to its buttons.
-            const bool isText = !text.isEmpty() && widget->isVisible() &&
-                                !qobject_cast<const SkinButton *>(widget) &&
-                                !(label && label->wordWrap());
-            const QSize needed = widget->sizeHint();
-            if (isText && (widget->width() < needed.width() || widget->height() < needed.height() ||
-                           widget->visibleRegion().boundingRect().width() < needed.width())) {
-                names += widget->objectName() + u" '"_s + text + u'\'';
-            }
-        }
-        return names;
-    }
-
     WindowWorld world;
     std::unique_ptr<MainWndCtrl> ctrl;
 };
@@ -92,7 +72,7 @@ class LargeTextsTest : public QObject {
              {"m_btnImageSetting", "m_btnTxtSetting", "m_btnSecuritySetting"}) {
             QTest::mouseClick(&w.control<QWidget>(settings), Qt::LeftButton);
             QCoreApplication::processEvents();
-            QCOMPARE(w.cut(), QStringList());
+            QCOMPARE(cutTexts(*w.ctrl->window()), QStringList());
         }
     }
 

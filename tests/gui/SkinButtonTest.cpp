@@ -286,7 +286,6 @@ class SkinButtonTest : public QObject {
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("<svg");
         file.close();
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u".*"_s));
         QVERIFY(SkinImage::named(folder.path(), u"bad"_s).isNull());
     }
 };

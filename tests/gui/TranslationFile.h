@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include <QFile>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QXmlStreamReader>
+
+namespace folioforge::test {
+
+/// A text of a .ts file.
+struct Message {
+    QString source;
+    QStringList translations; ///< One for each plural form, else one.
+    bool isFinished = true;
+};
+
+/// The texts of the .ts file at `path`.
+inline QList<Message> readTranslations(const QString &path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        qFatal("cannot read %s", qPrintable(path));
+    }
+    QList<Message> messages;
+    QXmlStreamReader xml(&file);
+    bool isPlural = false;
+    while (!xml.atEnd()) {
+        if (!xml.readNextStartElement()) {
+            continue;
+        }
+        const QStringView tag = xml.name();
+        if (tag == u"message") {
+            messages += Message();
+            isPlural = xml.attributes().hasAttribute(QStringLiteral("numerus"));
+        } else if (tag == u"source") {
+            messages.last().source = xml.readElementText();
+        } else if (tag == u"translation") {
+            messages.last().isFinished = !xml.attributes().hasAttribute(QStringLiteral("type"));
+            if (!isPlural) {
+                messages.last().translations += xml.readElementText();
+            }
+        } else if (tag == u"numerusform") {
+            messages.last().translations += xml.readElementText();
+        }
+    }
+    return messages;
+}
+
+} // namespace folioforge::test

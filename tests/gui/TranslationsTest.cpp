@@ -1,0 +1,328 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "CutTexts.h"
+#include "OffscreenScreen.h"
+#include "TestApplication.h"
+#include "TranslationFile.h"
+#include "support/TestUnit.h"
+
+#include "app/Translations.h"
+#include "convert/Run.h"
+#include "mainwnd/FilesArray.h"
+#include "mainwnd/RunAnswer.h"
+#include "skin/LightLook.h"
+#include "skin/OptionsDrawer.h"
+#include "skin/SkinButton.h"
+
+#include <QComboBox>
+#include <QFontDatabase>
+#include <QHeaderView>
+#include <QProcess>
+#include <QSet>
+#include <QTableView>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+const QStringList &languages() {
+    static const QStringList all{u"ar"_s, u"de"_s, u"es"_s, u"fr"_s, u"ja"_s, u"zh_CN"_s};
+    return all;
+}
+
+QString nameOf(const QString &language) {
+    return u"folioforge_%1.ts"_s.arg(language);
+}
+
+QString committed(const QString &language) {
+    return inSource(u"translations/"_s + nameOf(language));
+}
+
+/// One row for each language, and one for English where asked.
+void addLanguages(bool withEnglish = false) {
+    QTest::addColumn<QString>("language");
+    if (withEnglish) {
+        QTest::newRow("en") << u"en"_s;
+    }
+    for (const QString &language : languages()) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
+}
+
+/// The application in a language, its options panel open.
+struct ForeignWindow {
+    explicit ForeignWindow(const QString &language)
+        : translations({language}, WindowWorld::realBundle()) {
+        applyLightLook(*qApp);
+        application = std::make_unique<Application>();
+    }
+    void openPanel() {
+        QTest::mouseClick(&control<QWidget>("m_btnExpand"), Qt::LeftButton);
+        QTRY_COMPARE(control<OptionsDrawer>("m_optionsDrawer").openWidth(), 342);
+    }
+    QMainWindow &window() { return application->window(); }
+    template<typename Control> Control &control(const char *name) {
+        return controlOf<Control>(window(), name);
+    }
+
+    Translations translations;
+    std::unique_ptr<Application> application;
+};
+
+/// The letter behind the sign for one; empty where `text` has none.
+QString mnemonicOf(QString text) {
+    text.remove(u"&&"_s);
+    const qsizetype sign = text.indexOf(u'&');
+    return sign < 0 ? QString() : text.mid(sign + 1, 1).toLower();
+}
+
+/// The mnemonics that more than one of `texts` has.
+QStringList sharedMnemonics(const QStringList &texts) {
+    QStringList shared;
+    QSet<QString> seen;
+    for (const QString &text : texts) {
+        const QString mnemonic = mnemonicOf(text);
+        if (!mnemonic.isEmpty() && seen.contains(mnemonic)) {
+            shared += text;
+        }
+        seen += mnemonic;
+    }
+    return shared;
+}
+
+QStringList textsOf(const QList<QAction *> &actions) {
+    QStringList texts;
+    for (const QAction *action : actions) {
+        texts += action->text();
+    }
+    return texts;
+}
+
+/// What a run says that has made so many PDFs and failed with one.
+QString answerTo(int pdfs) {
+    RunAnswer answer;
+    RunSummary summary;
+    summary.madePDFs = pdfs;
+    summary.failedPDFs = 1;
+    answer.show(summary);
+    return answer.text();
+}
+
+} // namespace
+
+/// The window speaks the language of its user.
+class TranslationsTest : public QObject {
+    Q_OBJECT
+
+  public:
+    static void initMain() { useScreenOf({1920, 1200}); }
+
+  private Q_SLOTS:
+    /// Has the texts of the sources extracted beside copies of the translations.
+    void initTestCase() {
+        QStringList arguments{u"-silent"_s, u"-no-obsolete"_s,  u"-locations"_s,
+                              u"none"_s,    inSource(u"src"_s), u"-ts"_s};
+        for (const QString &language : languages()) {
+            QVERIFY(QFile::copy(committed(language), m_extracted.filePath(nameOf(language))));
+            arguments += m_extracted.filePath(nameOf(language));
+        }
+        QCOMPARE(QProcess::execute(QStringLiteral(FOLIOFORGE_LUPDATE), arguments), 0);
+    }
+    void cleanup() { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); }
+
+    void everyTextOfTheSourcesIsTranslated_data() { addLanguages(); }
+    void everyTextOfTheSourcesIsTranslated() {
+        QFETCH(const QString, language);
+        const QList<Message> messages = readTranslations(m_extracted.filePath(nameOf(language)));
+        QVERIFY(messages.size() > 200);
+        QStringList missing;
+        for (const Message &message : messages) {
+            if (!message.isFinished || message.translations.contains(QString())) {
+                missing += message.source;
+            }
+        }
+        QCOMPARE(missing, QStringList());
+        QCOMPARE(readTranslations(committed(language)).size(), messages.size());
+    }
+
+    void placeholdersAndMnemonicsStay_data() { addLanguages(); }
+    void placeholdersAndMnemonicsStay() {
+        QFETCH(const QString, language);
+        QStringList wrong;
+        for (const Message &message : readTranslations(committed(language))) {
+            for (const QString &text : message.translations) {
+                const bool hasAll = text.contains(u"%1"_s) == message.source.contains(u"%1"_s) &&
+                                    text.contains(u"%2"_s) == message.source.contains(u"%2"_s);
+                if (!hasAll || mnemonicOf(text).isEmpty() != mnemonicOf(message.source).isEmpty()) {
+                    wrong += text;
+                }
+            }
+            // Arabic says none, one and two in words.
+            const QString &most = message.translations.last();
+            if (most.contains(u"%n"_s) != message.source.contains(u"%n"_s)) {
+                wrong += most;
+            }
+        }
+        QCOMPARE(wrong, QStringList());
+    }
+
+    void aWindowSpeaksTheLanguageOfItsUser_data() {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("create");
+        QTest::addColumn<QString>("size");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("en") << u"en-US"_s << u"Create"_s << u"Size"_s << Qt::LeftToRight;
+        QTest::newRow("de") << u"de-AT"_s << u"Erstellen"_s << u"Größe"_s << Qt::LeftToRight;
+        QTest::newRow("fr") << u"fr-CA"_s << u"Créer"_s << u"Taille"_s << Qt::LeftToRight;
+        QTest::newRow("es") << u"es-MX"_s << u"Crear"_s << u"Tamaño"_s << Qt::LeftToRight;
+        QTest::newRow("ja") << u"ja-JP"_s << u"作成"_s << u"サイズ"_s << Qt::LeftToRight;
+        QTest::newRow("zh") << u"zh-CN"_s << u"创建"_s << u"大小"_s << Qt::LeftToRight;
+        QTest::newRow("ar") << u"ar-EG"_s << u"إنشاء"_s << u"الحجم"_s << Qt::RightToLeft;
+    }
+    void aWindowSpeaksTheLanguageOfItsUser() {
+        QFETCH(const QString, language);
+        ForeignWindow w(language);
+        QTEST(w.control<QAbstractButton>("m_btnCreate").text(), "create");
+        QTEST(w.control<QTableView>("m_tableview")
+                  .model()
+                  ->headerData(FilesArray::SizeColumn, Qt::Horizontal)
+                  .toString(),
+              "size");
+        QTEST(w.window().layoutDirection(), "direction");
+        w.application->addTexts(1);
+        const QString state = w.application->delegate.mainWndCtrl()
+                                  .filesArray()
+                                  .index(0, FilesArray::DestinationColumn)
+                                  .data()
+                                  .toString();
+        QCOMPARE(state == u"Waiting..."_s, language == u"en-US"_s);
+    }
+
+    void theFirstLanguageThatTheUserReadsIsTaken_data() {
+        QTest::addColumn<QStringList>("read");
+        QTest::addColumn<QString>("spoken");
+        QTest::newRow("English first") << QStringList{u"en-GB"_s, u"de-DE"_s} << QString();
+        QTest::newRow("no such texts") << QStringList{u"sv-SE"_s, u"fr-FR"_s} << u"fr"_s;
+        QTest::newRow("another script") << QStringList{u"zh-TW"_s, u"es-ES"_s} << u"es"_s;
+        QTest::newRow("none at all") << QStringList{u"C"_s} << QString();
+    }
+    void theFirstLanguageThatTheUserReadsIsTaken() {
+        QFETCH(const QStringList, read);
+        const Translations translations(read, WindowWorld::realBundle());
+        QTEST(translations.language(), "spoken");
+    }
+
+    void noMnemonicStandsTwice_data() { addLanguages(true); }
+    void noMnemonicStandsTwice() {
+        QFETCH(const QString, language);
+        ForeignWindow w(language);
+        const QMenuBar &bar = *w.window().menuBar();
+        for (const QMenu *menu : bar.findChildren<QMenu *>()) {
+            QCOMPARE(sharedMnemonics(textsOf(menu->actions())), QStringList());
+        }
+        for (const char *settings :
+             {"m_btnImageSetting", "m_btnTxtSetting", "m_btnSecuritySetting"}) {
+            QTest::mouseClick(&w.control<QWidget>(settings), Qt::LeftButton);
+            const auto &panel = w.control<QWidget>("optionsPanel");
+            const auto isShown = [&](const QWidget &widget) {
+                return widget.isVisible() || widget.isVisibleTo(&panel);
+            };
+            QStringList inSight = textsOf(bar.actions());
+            for (const auto *label : w.window().findChildren<QLabel *>()) {
+                inSight += isShown(*label) && label->buddy() ? label->text() : QString();
+            }
+            for (const auto *box : w.window().findChildren<QCheckBox *>()) {
+                inSight += isShown(*box) ? box->text() : QString();
+            }
+            QCOMPARE(sharedMnemonics(inSight), QStringList());
+        }
+    }
+
+    void noTextIsCut_data() { addLanguages(true); }
+    void noTextIsCut() {
+        QFETCH(const QString, language);
+        ForeignWindow w(language);
+        w.openPanel();
+        w.window().resize(w.window().minimumSizeHint().expandedTo({0, 760}));
+        for (const char *settings :
+             {"m_btnImageSetting", "m_btnTxtSetting", "m_btnSecuritySetting"}) {
+            QTest::mouseClick(&w.control<QWidget>(settings), Qt::LeftButton);
+            QCoreApplication::processEvents();
+            QCOMPARE(cutTexts(w.window()), QStringList());
+        }
+        for (const auto *list : w.window().findChildren<QComboBox *>()) {
+            QVERIFY(list->width() >= list->sizeHint().width());
+        }
+        QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+        font.setPixelSize(13);
+        const QHeaderView &header = *w.control<QTableView>("m_tableview").horizontalHeader();
+        for (int column = 0; column < header.count(); ++column) {
+            const QString title = header.model()->headerData(column, Qt::Horizontal).toString();
+            QVERIFY2(QFontMetrics(font).horizontalAdvance(title) <= header.sectionSize(column),
+                     qPrintable(title));
+        }
+    }
+
+    void skinsShowTheWordsOfTheirButtons() {
+        const QSize create = ForeignWindow(u"en"_s).control<SkinButton>("m_btnCreate").size();
+        const ForeignWindow english(u"en"_s);
+        const QImage pdf =
+            controlOf<SkinButton>(english.application->window(), "m_btnAddPDF").grab().toImage();
+        const QImage image =
+            controlOf<SkinButton>(english.application->window(), "m_btnAddImage").grab().toImage();
+        ForeignWindow w(u"de"_s);
+        QCOMPARE(create, QSize(150, 44));
+        QCOMPARE(w.control<SkinButton>("m_btnAddPDF").grab().toImage(), pdf); // "PDF" is "PDF".
+        QVERIFY(w.control<SkinButton>("m_btnAddImage").grab().toImage() != image);
+        QVERIFY(w.control<SkinButton>("m_btnBrowse").width() > 96); // "Durchsuchen …"
+        QCOMPARE(w.control<SkinButton>("m_btnSecuritySetting").size(), QSize(100, 32));
+    }
+
+    void pluralsAreRight_data() {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QStringList>("answers"); // Of 2, 5, 11 and 100 PDFs.
+        QTest::newRow("en") << u"en"_s
+                            << QStringList{u"1 PDF made, 1 could not be"_s,
+                                           u"2 PDFs made, 1 could not be"_s,
+                                           u"5 PDFs made, 1 could not be"_s,
+                                           u"11 PDFs made, 1 could not be"_s};
+        const QString german = u", 1 konnte nicht erstellt werden"_s;
+        QTest::newRow("de") << u"de"_s
+                            << QStringList{
+                                   u"1 PDF erstellt"_s + german, u"2 PDFs erstellt"_s + german,
+                                   u"5 PDFs erstellt"_s + german, u"11 PDFs erstellt"_s + german};
+        const QString arabic = u"، تعذّر إنشاء واحد"_s;
+        QTest::newRow("ar") << u"ar"_s
+                            << QStringList{
+                                   u"أُنشئ ملف PDF واحد"_s + arabic, u"أُنشئ ملفا PDF"_s + arabic,
+                                   u"أُنشئت 5 ملفات PDF"_s + arabic, u"أُنشئ 11 ملف PDF"_s + arabic};
+    }
+    void pluralsAreRight() {
+        QFETCH(const QString, language);
+        const Translations translations({language}, WindowWorld::realBundle());
+        const QStringList said{answerTo(1), answerTo(2), answerTo(5), answerTo(11)};
+        QTEST(said, "answers");
+    }
+
+    void optionsOpenToTheLeftWhereOneReadsToTheLeft() {
+        ForeignWindow w(u"ar"_s);
+        w.window().move(500, 100);
+        QCoreApplication::processEvents();
+        const QRect closed = w.window().geometry();
+        w.openPanel();
+        QTRY_COMPARE(w.window().geometry(), closed.adjusted(-342, 0, 0, 0));
+        const QWidget &panel = w.control<QWidget>("optionsPanel");
+        QCOMPARE(panel.mapTo(&w.window(), QPoint(0, 0)).x(), 0);
+        QTest::mouseClick(&w.control<QWidget>("m_btnElapse"), Qt::LeftButton);
+        QTRY_COMPARE(w.window().geometry(), closed);
+    }
+
+  private:
+    QTemporaryDir m_extracted;
+};
+
+FOLIOFORGE_TEST(TranslationsTest)
+
+#include "TranslationsTest.moc"
