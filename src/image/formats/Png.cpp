@@ -174,10 +174,10 @@ PdfImage withSplitRows(const FileView &file, const PngMetadata &metadata) {
 PdfImage withInterlacedRows(const FileView &file, const PngMetadata &metadata) {
     const InterlacedShape shape = metadata.shape();
     Warnings warnings;
-    QByteArray filtered = inflatePngRows(file, metadata, interlacedBytes(shape), warnings);
+    const QByteArray filtered = inflatePngRows(file, metadata, interlacedBytes(shape), warnings);
     const bool isDamaged = !warnings.empty();
-    QByteArray rows = deinterlace(std::move(filtered), shape,
-                                  isDamaged ? UnknownFilters::None : UnknownFilters::Refused);
+    QByteArray rows =
+        deinterlace(filtered, shape, isDamaged ? UnknownFilters::None : UnknownFilters::Refused);
     Raster raster;
     raster.width = metadata.header.width;
     raster.height = metadata.header.height;
