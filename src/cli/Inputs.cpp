@@ -108,12 +108,13 @@ class Names {
         if (!m_taking.folders) {
             return {};
         }
-        const auto own = std::ranges::partition(found.folders, [&](const QByteArray &name) {
+        const auto isLink = [&](const QByteArray &name) {
             return std::filesystem::is_symlink((folder + '/' + name).toStdString());
-        });
-        std::vector<QByteArray> folders(own.begin(), own.end());
+        };
+        const auto own = std::partition(found.folders.begin(), found.folders.end(), isLink);
+        std::vector<QByteArray> folders(own, found.folders.end());
         std::ranges::sort(folders);
-        move(found.folders, own.begin());
+        move(found.folders, own);
         return folders;
     }
 

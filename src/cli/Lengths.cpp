@@ -49,22 +49,24 @@ std::optional<QSizeF> isoSize(QStringView name) {
     }
 }
 
+constexpr std::pair<double, double> inMillimetres(double width, double height) {
+    return {width * kPointsPerMillimetre, height * kPointsPerMillimetre};
+}
+
+constexpr std::pair<double, double> inInches(double width, double height) {
+    return {width * kPointsPerInch, height * kPointsPerInch};
+}
+
 std::optional<QSizeF> uprightSize(QStringView name) {
-    constexpr auto millimetres = [](double width, double height) {
-        return std::pair(width * kPointsPerMillimetre, height * kPointsPerMillimetre);
-    };
-    constexpr auto inches = [](double width, double height) {
-        return std::pair(width * kPointsPerInch, height * kPointsPerInch);
-    };
     static constexpr std::array<std::pair<QLatin1StringView, std::pair<double, double>>, 8> kPapers{
-        {{QLatin1StringView("c5"), millimetres(162, 229)},
-         {QLatin1StringView("dl"), millimetres(110, 220)},
-         {QLatin1StringView("jis-b4"), millimetres(257, 364)},
-         {QLatin1StringView("jis-b5"), millimetres(182, 257)},
-         {QLatin1StringView("letter"), inches(8.5, 11)},
-         {QLatin1StringView("legal"), inches(8.5, 14)},
-         {QLatin1StringView("tabloid"), inches(11, 17)},
-         {QLatin1StringView("executive"), inches(7.25, 10.5)}}};
+        {{QLatin1StringView("c5"), inMillimetres(162, 229)},
+         {QLatin1StringView("dl"), inMillimetres(110, 220)},
+         {QLatin1StringView("jis-b4"), inMillimetres(257, 364)},
+         {QLatin1StringView("jis-b5"), inMillimetres(182, 257)},
+         {QLatin1StringView("letter"), inInches(8.5, 11)},
+         {QLatin1StringView("legal"), inInches(8.5, 14)},
+         {QLatin1StringView("tabloid"), inInches(11, 17)},
+         {QLatin1StringView("executive"), inInches(7.25, 10.5)}}};
     const auto *const found = std::ranges::find_if(kPapers, [&](const auto &paper) {
         return name.compare(paper.first, Qt::CaseInsensitive) == 0;
     });

@@ -17,7 +17,7 @@ QByteArray contentsOf(const QByteArray &name) {
     QFile file(QFile::decodeName(name));
     const bool isOpen =
         name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    const QByteArray contents = isOpen ? file.readAll() : QByteArray();
+    QByteArray contents = isOpen ? file.readAll() : QByteArray();
     if (file.error() != QFileDevice::NoError) {
         throw ArgumentFault(u"The list of files \"%1\" cannot be read: %2"_s.arg(
             QString::fromUtf8(name), file.errorString()));

@@ -132,7 +132,7 @@ QString PipedInputs::fileOf(const QByteArray &path) {
     const QString place = u"/dev/fd/%1"_s.arg(file.get());
     const QString name = path == "-" ? u"stdin"_s : lastPathComponent(QString::fromUtf8(path));
     const QByteArray type = path == "-" && !m_type.isEmpty() ? m_type : typeOf(file, place);
-    const QString link =
+    QString link =
         m_links.linkTo(QFile::encodeName(place), name + u'.' + QString::fromLatin1(type));
     if (link.isEmpty()) {
         throw systemError(u"Cannot make a temporary file"_s);
