@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 
 namespace folioforge {
 namespace {
@@ -98,7 +99,7 @@ void ListCommands::addCommand(ListCommand command) {
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(action, &QAction::triggered, this, [this, command] {
         if (isPossible(command)) {
-            (m_table.*rowOf(command).run)();
+            std::invoke(rowOf(command).run, m_table);
         }
     });
     m_actions.push_back(action);
