@@ -185,43 +185,43 @@ PDFium, BSD licence</translation>
     <name>MainMenu</name>
     <message>
         <source>&amp;File</source>
-        <translation>&amp;ملف</translation>
+        <translation>ملف (&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation>&amp;تحرير</translation>
+        <translation>تحرير (&amp;E)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation>&amp;عرض</translation>
+        <translation>عرض (&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation>م&amp;ساعدة</translation>
+        <translation>مساعدة (&amp;H)</translation>
     </message>
     <message>
         <source>&amp;Add Files...</source>
-        <translation>&amp;إضافة ملفات…</translation>
+        <translation>إضافة ملفات (&amp;A)…</translation>
     </message>
     <message>
         <source>&amp;Start</source>
-        <translation>&amp;بدء</translation>
+        <translation>بدء (&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>إ&amp;نهاء</translation>
+        <translation>إنهاء (&amp;Q)</translation>
     </message>
     <message>
         <source>&amp;Preview</source>
-        <translation>م&amp;عاينة</translation>
+        <translation>معاينة (&amp;P)</translation>
     </message>
     <message>
         <source>&amp;Support</source>
-        <translation>ال&amp;دعم</translation>
+        <translation>الدعم (&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Product Page</source>
-        <translation>&amp;صفحة المنتج</translation>
+        <translation>صفحة المنتج (&amp;P)</translation>
     </message>
     <message>
         <source>Check for Update...</source>
@@ -229,7 +229,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>A&amp;bout Folioforge</source>
-        <translation>&amp;حول Folioforge</translation>
+        <translation>حول Folioforge (&amp;B)</translation>
     </message>
 </context>
 <context>
@@ -308,7 +308,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Output folder:</source>
-        <translation>مجلد الإ&amp;خراج:</translation>
+        <translation>مجلد الإخراج (&amp;O):</translation>
     </message>
     <message>
         <source>The folder that receives the PDF documents</source>
@@ -352,11 +352,11 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Merge into one PDF</source>
-        <translation>&amp;دمج في ملف PDF واحد</translation>
+        <translation>دمج في ملف PDF واحد (&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;الاسم:</translation>
+        <translation>الاسم (&amp;N):</translation>
     </message>
     <message>
         <source>Name of the merged PDF; .pdf is added where it is missing</source>
@@ -420,7 +420,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>T&amp;itle:</source>
-        <translation>الع&amp;نوان:</translation>
+        <translation>العنوان (&amp;I):</translation>
     </message>
     <message>
         <source>Title of the PDF documents</source>
@@ -432,7 +432,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Author:</source>
-        <translation>الم&amp;ؤلف:</translation>
+        <translation>المؤلف (&amp;A):</translation>
     </message>
     <message>
         <source>Author of the PDF documents</source>
@@ -444,7 +444,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>Sub&amp;ject:</source>
-        <translation>المو&amp;ضوع:</translation>
+        <translation>الموضوع (&amp;J):</translation>
     </message>
     <message>
         <source>Subject of the PDF documents</source>
@@ -456,7 +456,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Keywords:</source>
-        <translation>ال&amp;كلمات المفتاحية:</translation>
+        <translation>الكلمات المفتاحية (&amp;K):</translation>
     </message>
     <message>
         <source>Keywords of the PDF documents</source>
@@ -512,7 +512,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation>الع&amp;رض:</translation>
+        <translation>العرض (&amp;W):</translation>
     </message>
     <message>
         <source>Custom page width, in points</source>
@@ -524,7 +524,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>Hei&amp;ght:</source>
-        <translation>ا&amp;لارتفاع:</translation>
+        <translation>الارتفاع (&amp;G):</translation>
     </message>
     <message>
         <source>Custom page height, in points</source>
@@ -540,7 +540,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Left:</source>
-        <translation>&amp;أيسر:</translation>
+        <translation>أيسر (&amp;L):</translation>
     </message>
     <message>
         <source>Left margin, in points</source>
@@ -552,7 +552,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Right:</source>
-        <translation>أ&amp;يمن:</translation>
+        <translation>أيمن (&amp;R):</translation>
     </message>
     <message>
         <source>Right margin, in points</source>
@@ -564,7 +564,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Top:</source>
-        <translation>أعل&amp;ى:</translation>
+        <translation>أعلى (&amp;T):</translation>
     </message>
     <message>
         <source>Top margin, in points</source>
@@ -576,7 +576,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Bottom:</source>
-        <translation>أس&amp;فل:</translation>
+        <translation>أسفل (&amp;B):</translation>
     </message>
     <message>
         <source>Bottom margin, in points</source>
@@ -624,7 +624,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;User password, to open the PDF</source>
-        <translation>كلمة م&amp;رور المستخدم لفتح الملف</translation>
+        <translation>كلمة مرور المستخدم لفتح الملف (&amp;U)</translation>
     </message>
     <message>
         <source>Password to open the PDF</source>
@@ -644,7 +644,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>O&amp;wner password, to change rights</source>
-        <translation>كلمة مر&amp;ور المالك لتغيير الصلاحيات</translation>
+        <translation>كلمة مرور المالك لتغيير الصلاحيات (&amp;W)</translation>
     </message>
     <message>
         <source>Password to change the rights of the PDF</source>
@@ -664,7 +664,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>Refuse &amp;printing</source>
-        <translation>منع ال&amp;طباعة</translation>
+        <translation>منع الطباعة (&amp;P)</translation>
     </message>
     <message>
         <source>Tick to refuse copying text and pictures to readers without the owner password</source>
@@ -676,11 +676,11 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>Refuse cop&amp;ying</source>
-        <translation>منع ا&amp;لنسخ</translation>
+        <translation>منع النسخ (&amp;Y)</translation>
     </message>
     <message>
         <source>&amp;Compress:</source>
-        <translation>الض&amp;غط:</translation>
+        <translation>الضغط (&amp;C):</translation>
     </message>
     <message>
         <source>Compression</source>

@@ -168,6 +168,18 @@ class TranslationsTest : public QObject {
         QCOMPARE(wrong, QStringList());
     }
 
+    /// A line under a letter would part it from those that it is joined with.
+    void mnemonicsStandBesideJoinedLetters() {
+        QStringList parted;
+        for (const Message &message : readTranslations(committed(u"ar"_s))) {
+            const QString &text = message.translations.first();
+            if (!mnemonicOf(text).isEmpty() && !text.contains(u"(&"_s)) {
+                parted += text;
+            }
+        }
+        QCOMPARE(parted, QStringList());
+    }
+
     void aWindowSpeaksTheLanguageOfItsUser_data() {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("create");
