@@ -92,10 +92,13 @@ class Reader {
     /// The node called `name` with `role`, which is waited for.
     [[nodiscard]] std::optional<AtNode> node(const QString &role, const QString &name) const {
         std::optional<AtNode> found;
-        const bool came = QTest::qWaitFor([&] {
-            found = find(nodes(), role, name);
-            return found.has_value();
-        });
+        constexpr int kPatience = 60'000; // Milliseconds: a run under the sanitizers takes long.
+        const bool came = QTest::qWaitFor(
+            [&] {
+                found = find(nodes(), role, name);
+                return found.has_value();
+            },
+            kPatience);
         if (!came) {
             qWarning("no %s is called \"%s\"", qPrintable(role), qPrintable(name));
         }
