@@ -46,7 +46,7 @@ Range damagedRange(qsizetype size, int place) {
 /// `bytes` with the damage of number `place`: cut off, a gap, or noise instead of what stood there.
 QByteArray damaged(const QByteArray &bytes, int place) {
     const auto [start, end] = damagedRange(bytes.size(), place);
-    const QByteArray before = bytes.first(start);
+    QByteArray before = bytes.first(start);
     const QByteArray after = bytes.sliced(end);
     switch (place % 3) {
     case 0:
