@@ -879,6 +879,22 @@ None: pictures stay as they are
     </message>
 </context>
 <context>
+    <name>folioforge::LengthHint</name>
+    <message>
+        <source>pt</source>
+        <comment>points, behind a number</comment>
+        <translation>نقطة</translation>
+    </message>
+    <message>
+        <source>%1 pt = %2 in</source>
+        <translation>%1 نقطة = %2 بوصة</translation>
+    </message>
+    <message>
+        <source>%1 pt = %2 mm</source>
+        <translation>%1 نقطة = %2 مم</translation>
+    </message>
+</context>
+<context>
     <name>folioforge::ListCommands</name>
     <message>
         <source>Contextual Menu</source>
@@ -974,6 +990,14 @@ None: pictures stay as they are
         <source>%1 of %2 done</source>
         <translation>اكتمل %1 من %2</translation>
     </message>
+    <message>
+        <source>Show the user password</source>
+        <translation>إظهار كلمة مرور المستخدم</translation>
+    </message>
+    <message>
+        <source>Show the owner password</source>
+        <translation>إظهار كلمة مرور المالك</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::NoticeBox</name>
@@ -999,6 +1023,17 @@ None: pictures stay as they are
     <message>
         <source>The page takes too long to be shown</source>
         <translation>يستغرق عرض الصفحة وقتًا طويلًا</translation>
+    </message>
+</context>
+<context>
+    <name>folioforge::PasswordEye</name>
+    <message>
+        <source>Hide the password</source>
+        <translation>إخفاء كلمة المرور</translation>
+    </message>
+    <message>
+        <source>Show the password</source>
+        <translation>إظهار كلمة المرور</translation>
     </message>
 </context>
 <context>

@@ -875,6 +875,22 @@ Keine: Bilder bleiben, wie sie sind
     </message>
 </context>
 <context>
+    <name>folioforge::LengthHint</name>
+    <message>
+        <source>pt</source>
+        <comment>points, behind a number</comment>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>%1 pt = %2 in</source>
+        <translation>%1 pt = %2 Zoll</translation>
+    </message>
+    <message>
+        <source>%1 pt = %2 mm</source>
+        <translation>%1 pt = %2 mm</translation>
+    </message>
+</context>
+<context>
     <name>folioforge::ListCommands</name>
     <message>
         <source>Contextual Menu</source>
@@ -970,6 +986,14 @@ Keine: Bilder bleiben, wie sie sind
         <source>%1 of %2 done</source>
         <translation>%1 von %2 fertig</translation>
     </message>
+    <message>
+        <source>Show the user password</source>
+        <translation>Benutzerkennwort anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the owner password</source>
+        <translation>Besitzerkennwort anzeigen</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::NoticeBox</name>
@@ -995,6 +1019,17 @@ Keine: Bilder bleiben, wie sie sind
     <message>
         <source>The page takes too long to be shown</source>
         <translation>Die Seite braucht zu lange zum Anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>folioforge::PasswordEye</name>
+    <message>
+        <source>Hide the password</source>
+        <translation>Kennwort verbergen</translation>
+    </message>
+    <message>
+        <source>Show the password</source>
+        <translation>Kennwort anzeigen</translation>
     </message>
 </context>
 <context>

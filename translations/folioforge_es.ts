@@ -875,6 +875,22 @@ Ninguna: las imágenes quedan como están
     </message>
 </context>
 <context>
+    <name>folioforge::LengthHint</name>
+    <message>
+        <source>pt</source>
+        <comment>points, behind a number</comment>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>%1 pt = %2 in</source>
+        <translation>%1 pt = %2 in</translation>
+    </message>
+    <message>
+        <source>%1 pt = %2 mm</source>
+        <translation>%1 pt = %2 mm</translation>
+    </message>
+</context>
+<context>
     <name>folioforge::ListCommands</name>
     <message>
         <source>Contextual Menu</source>
@@ -970,6 +986,14 @@ Ninguna: las imágenes quedan como están
         <source>%1 of %2 done</source>
         <translation>%1 de %2 hechos</translation>
     </message>
+    <message>
+        <source>Show the user password</source>
+        <translation>Mostrar la contraseña de usuario</translation>
+    </message>
+    <message>
+        <source>Show the owner password</source>
+        <translation>Mostrar la contraseña de propietario</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::NoticeBox</name>
@@ -995,6 +1019,17 @@ Ninguna: las imágenes quedan como están
     <message>
         <source>The page takes too long to be shown</source>
         <translation>La página tarda demasiado en mostrarse</translation>
+    </message>
+</context>
+<context>
+    <name>folioforge::PasswordEye</name>
+    <message>
+        <source>Hide the password</source>
+        <translation>Ocultar la contraseña</translation>
+    </message>
+    <message>
+        <source>Show the password</source>
+        <translation>Mostrar la contraseña</translation>
     </message>
 </context>
 <context>

@@ -875,6 +875,22 @@ Aucune : les images restent telles quelles
     </message>
 </context>
 <context>
+    <name>folioforge::LengthHint</name>
+    <message>
+        <source>pt</source>
+        <comment>points, behind a number</comment>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>%1 pt = %2 in</source>
+        <translation>%1 pt = %2 po</translation>
+    </message>
+    <message>
+        <source>%1 pt = %2 mm</source>
+        <translation>%1 pt = %2 mm</translation>
+    </message>
+</context>
+<context>
     <name>folioforge::ListCommands</name>
     <message>
         <source>Contextual Menu</source>
@@ -970,6 +986,14 @@ Aucune : les images restent telles quelles
         <source>%1 of %2 done</source>
         <translation>%1 sur %2 fait(s)</translation>
     </message>
+    <message>
+        <source>Show the user password</source>
+        <translation>Afficher le mot de passe utilisateur</translation>
+    </message>
+    <message>
+        <source>Show the owner password</source>
+        <translation>Afficher le mot de passe propriétaire</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::NoticeBox</name>
@@ -995,6 +1019,17 @@ Aucune : les images restent telles quelles
     <message>
         <source>The page takes too long to be shown</source>
         <translation>L’affichage de la page prend trop de temps</translation>
+    </message>
+</context>
+<context>
+    <name>folioforge::PasswordEye</name>
+    <message>
+        <source>Hide the password</source>
+        <translation>Masquer le mot de passe</translation>
+    </message>
+    <message>
+        <source>Show the password</source>
+        <translation>Afficher le mot de passe</translation>
     </message>
 </context>
 <context>

@@ -874,6 +874,22 @@ None: pictures stay as they are
     </message>
 </context>
 <context>
+    <name>folioforge::LengthHint</name>
+    <message>
+        <source>pt</source>
+        <comment>points, behind a number</comment>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>%1 pt = %2 in</source>
+        <translation>%1 pt = %2 英寸</translation>
+    </message>
+    <message>
+        <source>%1 pt = %2 mm</source>
+        <translation>%1 pt = %2 毫米</translation>
+    </message>
+</context>
+<context>
     <name>folioforge::ListCommands</name>
     <message>
         <source>Contextual Menu</source>
@@ -969,6 +985,14 @@ None: pictures stay as they are
         <source>%1 of %2 done</source>
         <translation>已完成 %1/%2</translation>
     </message>
+    <message>
+        <source>Show the user password</source>
+        <translation>显示用户密码</translation>
+    </message>
+    <message>
+        <source>Show the owner password</source>
+        <translation>显示所有者密码</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::NoticeBox</name>
@@ -994,6 +1018,17 @@ None: pictures stay as they are
     <message>
         <source>The page takes too long to be shown</source>
         <translation>显示该页面耗时过长</translation>
+    </message>
+</context>
+<context>
+    <name>folioforge::PasswordEye</name>
+    <message>
+        <source>Hide the password</source>
+        <translation>隐藏密码</translation>
+    </message>
+    <message>
+        <source>Show the password</source>
+        <translation>显示密码</translation>
     </message>
 </context>
 <context>

@@ -12,6 +12,7 @@ void FaultMark::put(QLineEdit &field, const QString &problem) {
     clear();
     m_field = &field;
     m_description = field.accessibleDescription();
+    m_problem = problem;
     show(true, problem);
     connect(&field, &QLineEdit::textChanged, this, &FaultMark::clear);
     field.installEventFilter(this);
@@ -21,7 +22,9 @@ void FaultMark::clear() {
     if (m_field) {
         m_field->disconnect(this);
         m_field->removeEventFilter(this);
-        show(false, m_description);
+        // Who follows the text of the field may have described it anew.
+        const QString now = m_field->accessibleDescription();
+        show(false, now == m_problem ? m_description : now);
         m_field.clear();
     }
 }

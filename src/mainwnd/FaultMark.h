@@ -27,6 +27,7 @@ class FaultMark : public QObject {
     void show(bool fault, const QString &description);
 
     QPointer<QLineEdit> m_field;
+    QString m_problem;
     QString m_description; ///< What screen readers said of the field before.
 };
 

@@ -9,6 +9,7 @@
 #include "mainwnd/EntryDelegate.h"
 #include "mainwnd/FaultMark.h"
 #include "mainwnd/FilesArray.h"
+#include "mainwnd/LengthHint.h"
 #include "mainwnd/ListHistory.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
@@ -16,6 +17,7 @@
 #include "mainwnd/RunNews.h"
 #include "mainwnd/WindowMemory.h"
 #include "preview/Preview.h"
+#include "skin/PasswordEye.h"
 #include "skin/TextScale.h"
 #include "skin/VesprinTableHeaderView.h"
 
@@ -180,6 +182,7 @@ void MainWndCtrl::initCtrl() {
     connectAnswer();
     connectHistory();
     initList();
+    initFields();
 }
 
 /// The pictures of the list, and what its hint offers.
@@ -198,6 +201,17 @@ void MainWndCtrl::initList() {
     for (auto *button : hint.findChildren<QPushButton *>()) {
         QWidget::setTabOrder(before, button);
         before = button;
+    }
+}
+
+/// What stands in fields beside their texts.
+void MainWndCtrl::initFields() {
+    new PasswordEye(*m_tfUserPassword, tr("Show the user password"));
+    new PasswordEye(*m_tfOwnerPassword, tr("Show the owner password"));
+    for (const QWidget *view : {m_imagePageSizeView, m_textPageSizeView}) {
+        for (auto *field : view->findChildren<QLineEdit *>()) {
+            new LengthHint(*field);
+        }
     }
 }
 

@@ -197,6 +197,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void awakeFromNib();
     void windowDidLoad();
     void initCtrl();
+    void initFields();
     void initList();
     [[nodiscard]] QString resourcesFolder() const;
     void connectControls();

@@ -84,6 +84,7 @@ QString lightStyleSheet() {
         #m_settingsViewContainer { border: 1px solid #d5dae1; border-radius: 6px; }
         QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
         QMessageBox #qt_msgbox_label { font-weight: 600; }
+        QLabel[role="unit"] { color: #676d75; }
         QLabel[role="heading"] { color: #59616b; font-weight: 600; }
         QLabel[role="title"] { font-size: 20px; font-weight: 600; }
         QProgressBar { border: none; border-radius: 4px; background: #e4e7eb; }

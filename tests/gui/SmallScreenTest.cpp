@@ -53,7 +53,8 @@ struct SmallWindow {
                                qobject_cast<const QLineEdit *>(widget) ||
                                qobject_cast<const QLabel *>(widget) ||
                                qobject_cast<const QComboBox *>(widget);
-            if (shows && widget->isVisible()) {
+            const bool isInAField = qobject_cast<const QLineEdit *>(widget->parentWidget());
+            if (shows && !isInAField && widget->isVisible()) {
                 found << QRect(widget->mapTo(&panel, QPoint()), widget->size());
             }
         }
