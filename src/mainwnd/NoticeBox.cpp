@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QShowEvent>
 #include <QTextEdit>
 
 #include <algorithm>
@@ -71,6 +72,7 @@ void fitText(QMessageBox &box, const QSize &screen) {
         const std::unique_ptr<QLayoutItem> place(grid->replaceWidget(text, view));
         grid->setAlignment(view, Qt::AlignLeading | Qt::AlignTop);
         text->hide();
+        view->show(); // The layout leaves out what is not seen yet.
         return;
     }
     const int natural = text->fontMetrics().size(0, text->text()).width();
@@ -91,7 +93,13 @@ void fitTitle(QMessageBox &box, const QSize &screen) {
     const int width =
         std::min(std::max(NoticeBox::kLeastWidth, title), screen.width() - kBesideTheBox);
     auto *grid = qobject_cast<QGridLayout *>(box.layout());
-    grid->setColumnMinimumWidth(grid->columnCount() - 1, width - kBesideTheText);
+    int row = 0;
+    int column = 0;
+    int span = 0;
+    grid->getItemPosition(grid->indexOf(box.findChild<QLabel *>(u"qt_msgbox_label"_s)), &row,
+                          &column, &span, &span);
+    grid->setColumnMinimumWidth(column, width - kBesideTheText);
+    grid->setColumnStretch(column, 1); // Else the icon's column takes as much of what is left.
 }
 
 } // namespace
@@ -102,10 +110,18 @@ NoticeBox::NoticeBox(Icon icon, const Notice &notice, QWidget *window)
     button(Ok)->setIcon({}); // Some desktops would draw one.
     button(Ok)->setText(tr("OK"));
     showAsPlainText(*this);
-    ensurePolished(); // The fonts of the style sheet are known from here on.
-    const QSize size = (window ? window->screen() : screen())->availableGeometry().size();
-    fitText(*this, size);
-    fitTitle(*this, size);
+}
+
+/// A change of the style before makes the box lay itself out anew.
+void NoticeBox::showEvent(QShowEvent *event) {
+    if (!event->spontaneous() && !m_isFitted) {
+        m_isFitted = true;
+        const QWidget *window = parentWidget();
+        const QSize size = (window ? window->screen() : screen())->availableGeometry().size();
+        fitText(*this, size);
+        fitTitle(*this, size);
+    }
+    QMessageBox::showEvent(event);
 }
 
 } // namespace folioforge

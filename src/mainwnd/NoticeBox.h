@@ -18,6 +18,12 @@ class NoticeBox : public QMessageBox {
 
     /// The least width of a box, in points.
     static constexpr int kLeastWidth = 360;
+
+  protected:
+    void showEvent(QShowEvent *event) override;
+
+  private:
+    bool m_isFitted = false;
 };
 
 } // namespace folioforge

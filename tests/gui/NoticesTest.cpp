@@ -4,6 +4,7 @@
 #include "support/Files.h"
 #include "support/TestUnit.h"
 
+#include "mainwnd/NoticeBox.h"
 #include "mainwnd/Notices.h"
 
 #include <QAbstractButton>
@@ -321,6 +322,17 @@ class NoticesTest : public QObject {
         QCOMPARE(dialog->windowModality(), Qt::WindowModal);
         QTest::keyClick(dialog, Qt::Key_Escape);
         QTRY_VERIFY(answered);
+    }
+
+    void aChangeOfTheStyleLeavesTheTitleInFull() {
+        const QString title(u"a title "_s.repeated(12).trimmed());
+        NoticeBox box(QMessageBox::Warning, {title, u"file.pdf"_s}, nullptr);
+        QEvent change(QEvent::StyleChange); // Comes with the first look at the style sheet.
+        QCoreApplication::sendEvent(&box, &change);
+        box.show();
+        const auto *label = box.findChild<QLabel *>(u"qt_msgbox_label"_s);
+        QVERIFY(label->width() >= label->fontMetrics().horizontalAdvance(title));
+        QVERIFY(label->height() < 2 * label->fontMetrics().height());
     }
 };
 
