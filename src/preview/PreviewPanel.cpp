@@ -12,6 +12,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -91,8 +92,8 @@ PreviewPanel::PreviewPanel(QWidget *parent)
 
     setFocusProxy(m_view);
     connect(m_close, &QToolButton::clicked, this, &PreviewPanel::closeAsked);
-    connect(m_back, &QToolButton::clicked, this, [this] { Q_EMIT pageAsked(m_place.page - 1); });
-    connect(m_forth, &QToolButton::clicked, this, [this] { Q_EMIT pageAsked(m_place.page + 1); });
+    connect(m_back, &QToolButton::clicked, this, [this] { ask(m_place.page - 1); });
+    connect(m_forth, &QToolButton::clicked, this, [this] { ask(m_place.page + 1); });
     showPlace({});
 }
 
@@ -139,6 +140,15 @@ void PreviewPanel::showPlace(const PagePlace &place) {
     m_forth->setEnabled(place.hasMore || place.page + 1 < place.pages);
 }
 
+/// What is asked for next counts from here, though the page may not be drawn yet.
+void PreviewPanel::ask(int page) {
+    if (!m_place.hasMore && m_place.pages > 0) {
+        page = std::clamp(page, 0, m_place.pages - 1);
+    }
+    m_place.page = std::max(page, 0);
+    Q_EMIT pageAsked(m_place.page);
+}
+
 /// The picture is named by what it shows; one that has the keyboard is said when that changes.
 void PreviewPanel::say(const QString &words) {
     if (m_view->accessibleName() != words) {
@@ -153,7 +163,7 @@ void PreviewPanel::keyPressEvent(QKeyEvent *event) {
     if (isAlone && (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Space)) {
         Q_EMIT closeAsked();
     } else if (const auto page = pageFor(event->key(), m_place.page); isAlone && page) {
-        Q_EMIT pageAsked(*page);
+        ask(*page);
     } else {
         QWidget::keyPressEvent(event);
     }

@@ -47,6 +47,7 @@ class PreviewPanel : public QWidget {
 
   private:
     QToolButton *addButton(Qt::ArrowType arrow, const QString &name);
+    void ask(int page);
     void showPlace(const PagePlace &place);
     void say(const QString &words);
 

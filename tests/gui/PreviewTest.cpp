@@ -216,6 +216,19 @@ class PreviewTest : public QObject {
         QVERIFY(w.notices.shown().empty());
     }
 
+    void keysThatComeFastAllCount() {
+        PreviewWindow w;
+        w.listPdf(3);
+        w.key(Qt::Key_Space);
+        QTRY_COMPARE(w.number(), u"Page 1 of 3"_s);
+        w.key(Qt::Key_Right);
+        w.key(Qt::Key_Right);
+        QTRY_COMPARE(w.number(), u"Page 3 of 3"_s);
+        w.key(Qt::Key_End);
+        w.key(Qt::Key_Left);
+        QTRY_COMPARE(w.number(), u"Page 2 of 3"_s);
+    }
+
     void arrowsTurnPages() {
         PreviewWindow w;
         w.listPdf(3);
