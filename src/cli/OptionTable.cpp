@@ -18,6 +18,9 @@ namespace {
 /// Splits the path of the merged file; a name alone stands in the current folder. Throws
 /// ArgumentFault where the path leads to a folder.
 void takeMergePath(const QString &path, ConversionOptions &options) {
+    if (path == u"-") {
+        throw ArgumentFault(u"A PDF is not written to standard output; ./- is a file"_s);
+    }
     const qsizetype slash = path.lastIndexOf(u'/');
     options.merge = true;
     options.outputName = path.sliced(slash + 1);

@@ -209,6 +209,7 @@ class ArgumentsTest : public QObject {
         row("no margin", {"--text-margins", "1,,3", "a"}, "1,,3");
         row("two points", {"--text-margins", "1.5.2", "a"}, "1.5.2");
         row("density", {"--image-dpi", "4", "a"}, "\"4\"");
+        row("standard output", {"--merge", "-", "a"}, "standard output");
         row("two outputs", {"--merge", "x", "--output-folder", "y", "a"}, "--merge");
         row("not UTF-8", {"--title", "caf\xE9", "a"}, "--title");
     }
