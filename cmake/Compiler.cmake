@@ -22,7 +22,7 @@ target_link_libraries(folioforge_program INTERFACE folioforge_compiler)
 
 if(FOLIOFORGE_SANITIZE)
     target_compile_options(folioforge_program INTERFACE
-        -O1 -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(folioforge_compiler INTERFACE -fsanitize=address,undefined)
 endif()
 

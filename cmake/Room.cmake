@@ -23,9 +23,6 @@ function(folioforge_room name)
             set_target_properties(${target} PROPERTIES AUTOMOC ON AUTOUIC ON)
             target_link_libraries(${target} PUBLIC Qt6::Widgets)
         endif()
-        # Every file has the same templates in it, and to compile them under the sanitizers takes
-        # most of the time. So names in unnamed namespaces are told apart within a room.
-        set_target_properties(${target} PROPERTIES UNITY_BUILD ${FOLIOFORGE_SANITIZE})
         target_include_directories(${target} PUBLIC "${view}")
         target_link_libraries(${target}
             PUBLIC ${ROOM_LINKS} Qt6::Core

@@ -18,11 +18,7 @@ function(folioforge_tests room)
     target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
     target_link_libraries(${target} PRIVATE
         folioforge_compiler ${TESTS_LINKS} folioforge_test_support Qt6::Test)
-    set_source_files_properties("${PROJECT_SOURCE_DIR}/tests/support/TestMain.cpp" PROPERTIES
-        COMPILE_DEFINITIONS FOLIOFORGE_TEST_APPLICATION=${TESTS_APPLICATION})
-    # What every file includes takes longer to compile than what stands in it. So names in unnamed
-    # namespaces are told apart within a room.
-    set_target_properties(${target} PROPERTIES UNITY_BUILD ${FOLIOFORGE_TESTS_TOGETHER})
+    target_compile_definitions(${target} PRIVATE FOLIOFORGE_TEST_APPLICATION=${TESTS_APPLICATION})
     if(TESTS_HEADERS)
         target_precompile_headers(${target} PRIVATE ${TESTS_HEADERS})
     else()

@@ -183,7 +183,7 @@ class LimitsTest : public QObject {
     }
 
     void aPageTreeOfAnyDepthIsRead() {
-        const int depth = sized(100'000, 20'000);
+        const int depth = sized(100'000, 10'000);
         QCOMPARE(answerTo({savedPdf(deepPageTree(depth))}), valid());
         QCOMPARE(PdfProbe(target()).pageCount(), depth);
     }
@@ -218,7 +218,7 @@ class LimitsTest : public QObject {
 
     void aHugeNameInManyPlacesStaysOneName() {
         // Copies of large memory take the sanitizers long, and there they are not bounded.
-        const QString file = savedPdf(sharedNames(sized(10'000, isSanitized() ? 250 : 2500)));
+        const QString file = savedPdf(sharedNames(sized(10'000, isSanitized() ? 100 : 2500)));
         QCOMPARE(answerTo({file, file}), valid());
         QCOMPARE(PdfProbe(target()).pageCount(), 2);
     }

@@ -254,7 +254,7 @@ class OutputFileTest : public QObject {
                 removePartFiles();
             }
         });
-        for (int i = 0; i < 20'000; ++i) {
+        for (int i = 0; i < 5'000; ++i) {
             static_cast<void>(PartFile(path));
             const int fd = ::open(path.c_str(), O_CREAT | O_WRONLY, 0600);
             QVERIFY(fd >= 0);

@@ -106,7 +106,7 @@ class Reader {
         return found;
     }
     [[nodiscard]] bool act(const AtNode &node, const QString &action) const {
-        return test::act(m_desktop.accessibility(), node, action);
+        return folioforge::test::act(m_desktop.accessibility(), node, action);
     }
     [[nodiscard]] bool act(const QString &role, const QString &name, const QString &action) const {
         const auto found = node(role, name);

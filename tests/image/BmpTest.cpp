@@ -4,6 +4,7 @@
 #include "support/TestUnit.h"
 
 #include "image/ImageHeader.h"
+#include "support/Files.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>

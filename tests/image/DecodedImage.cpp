@@ -3,6 +3,7 @@
 #include "DecodedImage.h"
 
 #include "error/Error.h"
+#include "support/Files.h"
 #include "support/Places.h"
 
 #include <QFile>
@@ -138,14 +139,6 @@ QString imageFile(const QString &name) {
 QByteArray bytesOf(const QString &path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QString writeFile(const QString &path, const QByteArray &bytes) {
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(bytes);
-    }
-    return path;
 }
 
 QByteArray dataOf(const PdfImage &image) {

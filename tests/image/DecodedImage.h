@@ -17,9 +17,6 @@ QString imageFile(const QString &name);
 /// The bytes of a file.
 QByteArray bytesOf(const QString &path);
 
-/// Writes `bytes` to a file and returns its path.
-QString writeFile(const QString &path, const QByteArray &bytes);
-
 /// The compressed data of an encoded image, its slices read from the file.
 QByteArray dataOf(const PdfImage &image);
 

@@ -5,6 +5,7 @@
 
 #include "DecodedImage.h"
 #include "error/Error.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QFile>

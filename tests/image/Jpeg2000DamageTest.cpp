@@ -4,6 +4,7 @@
 #include "support/TestUnit.h"
 
 #include "image/PictureDamage.h"
+#include "support/Files.h"
 
 #include <QDir>
 #include <QTemporaryDir>

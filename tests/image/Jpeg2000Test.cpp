@@ -2,6 +2,7 @@
 
 #include "image/formats/Jpeg2000.h"
 #include "DecodedImage.h"
+#include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include <QTemporaryDir>

@@ -4,6 +4,7 @@
 #include "support/TestUnit.h"
 
 #include "error/Error.h"
+#include "support/Files.h"
 
 #include <QTemporaryDir>
 #include <QTest>

@@ -4,6 +4,7 @@
 #include "error/Error.h"
 #include "image/Bytes.h"
 #include "image/RowFilter.h"
+#include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include <QTemporaryDir>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include <QTemporaryDir>
