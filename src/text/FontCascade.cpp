@@ -40,6 +40,10 @@ FontCascade::FontCascade(const QString &family, double size)
     for (char32_t character = kFirstAscii; character <= kLastAscii; ++character) {
         m_ascii[character - kFirstAscii] = findGlyph(character);
     }
+    if (std::none_of(m_ascii.begin(), m_ascii.end(),
+                     [](const Glyph &glyph) { return glyph.id == 0; })) {
+        m_asciiDrawn = m_ascii.size();
+    }
 }
 
 double FontCascade::points(int fontUnits) const {

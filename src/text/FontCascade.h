@@ -59,6 +59,12 @@ class FontCascade {
         const char32_t ascii = character - kFirstAscii;
         return ascii < m_ascii.size() ? m_ascii[ascii] : cachedGlyph(character);
     }
+    /// The glyph of a printable ASCII character, as nearly all of a large text are; null for other
+    /// characters, and where no face has all of them.
+    [[nodiscard]] const Glyph *asciiGlyph(char16_t unit) const {
+        const std::size_t ascii = static_cast<std::size_t>(unit) - kFirstAscii;
+        return ascii < m_asciiDrawn ? &m_ascii[ascii] : nullptr;
+    }
     /// The missing-glyph box, which half of a surrogate pair draws.
     [[nodiscard]] Glyph missingGlyph() const { return m_missing; }
 
@@ -90,6 +96,7 @@ class FontCascade {
     const FontFace *m_first = nullptr;
     Glyph m_missing;
     std::array<Glyph, kLastAscii - kFirstAscii + 1> m_ascii;
+    std::size_t m_asciiDrawn = 0; ///< All of m_ascii, or none where one of them would be a box.
 
     mutable std::mutex m_mutex; ///< Guards the faces and the cached glyphs.
     mutable std::vector<Face> m_faces;

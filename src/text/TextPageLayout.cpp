@@ -61,23 +61,20 @@ class RowBreaker {
                 m_row.resize(2 * count);
             }
             Glyph &glyph = m_row[count++];
-            const char16_t unit = units[taken];
-            if (!QChar::isSurrogate(unit)) {
-                glyph = m_font.glyph(unit);
-                width += glyph.advance;
-                noteMissing(glyph);
+            if (const Glyph *ascii = m_font.asciiGlyph(units[taken])) {
+                glyph = *ascii;
                 ++taken;
-                continue;
+            } else {
+                // A row may end between the halves of a pair: the first half is measured as the box
+                // that it would draw, and if that is too wide the row ends with it.
+                const bool fitsHalf = width + m_font.missingGlyph().advance <= m_usableWidth;
+                const QStringView rest =
+                    line.sliced(taken, fitsHalf ? std::min<qsizetype>(2, length - taken) : 1);
+                glyph = firstGlyph(rest, m_font);
+                noteMissing(glyph);
+                taken += startsWithPair(rest) ? 2 : 1;
             }
-            // A row may end between the halves of a pair: the first half is measured as the box
-            // that it would draw, and if that is too wide the row ends with it.
-            const bool fitsHalf = width + m_font.missingGlyph().advance <= m_usableWidth;
-            const QStringView rest =
-                line.sliced(taken, fitsHalf ? std::min<qsizetype>(2, length - taken) : 1);
-            glyph = firstGlyph(rest, m_font);
             width += glyph.advance;
-            noteMissing(glyph);
-            taken += startsWithPair(rest) ? 2 : 1;
         }
         line = line.sliced(taken);
         return std::span(m_row).first(count);

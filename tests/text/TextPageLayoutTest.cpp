@@ -79,12 +79,16 @@ std::vector<Page> layOutInWidth(const QString &text, double usable) {
     return layOut(text, {usable + 20, 842}, {10, 10, 72, 72});
 }
 
-/// Liberation Sans as the only font of the system.
-std::shared_ptr<const FontCascade> latinOnly() {
-    const QString file = QFile::decodeName(findTextFonts(u"Liberation Sans"_s).front().path());
+/// The font that the system has of `family`, as its only one.
+std::shared_ptr<const FontCascade> onlyFont(const QString &family) {
+    const QString file = QFile::decodeName(findTextFonts(family).front().path());
     test::InstalledFonts fonts;
-    fonts.add(file, u"Liberation Sans"_s);
-    return FontCascade::load(u"Liberation Sans"_s, 14);
+    fonts.add(file, family);
+    return FontCascade::load(family, 14);
+}
+
+std::shared_ptr<const FontCascade> latinOnly() {
+    return onlyFont(u"Liberation Sans"_s);
 }
 
 /// What is said of a text in a font; each warning is of missing glyphs.
@@ -336,6 +340,15 @@ class TextPageLayoutTest : public QObject {
                  QStringList{u"9 characters have no glyph in any font and are shown as boxes: "
                              "Gothic (U+10330, U+10331, U+10332, ...), other (U+1F5F8), "
                              "private use (U+E123), unassigned (U+E0FFF)"_s});
+    }
+
+    void lettersOfAsciiThatNoFontHasAreNamedToo() {
+        // It has digits, but no Latin letters.
+        const auto font = onlyFont(u"Noto Kufi Arabic"_s);
+        QCOMPARE(boxesIn(u"12"_s, *font), QStringList());
+        QCOMPARE(boxesIn(u"A1"_s, *font),
+                 QStringList{u"1 character has no glyph in any font and is shown as a box: "
+                             "Latin (U+0041)"_s});
     }
 
     void charactersSplitBetweenRowsAreCounted() {
