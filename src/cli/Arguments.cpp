@@ -42,6 +42,17 @@ class ArgumentReader {
         return argument;
     }
 
+    /// An option that follows is no value: most likely that was forgotten.
+    QByteArray takeValueOf(const QByteArray &name) {
+        const QByteArray value = take();
+        if (isOption(value)) {
+            throw ArgumentFault(
+                u"The option \"%1\" needs a value; is \"%2\" one, write \"%1=%2\""_s.arg(
+                    QString::fromUtf8(name), QString::fromUtf8(value)));
+        }
+        return value;
+    }
+
     void applyOption(const QByteArray &argument) {
         const qsizetype equals = argument.indexOf('=');
         const QByteArray name = equals < 0 ? argument : argument.first(equals);
@@ -52,10 +63,9 @@ class ArgumentReader {
                                      : u"The option \"%1\" needs a value"_s)
                                     .arg(QString::fromUtf8(name)));
         }
-        QByteArray value;
-        if (option.kind == Option::Valued) {
-            value = equals < 0 ? take() : argument.sliced(equals + 1);
-        }
+        const QByteArray value = option.kind == Option::Switch ? QByteArray()
+                                 : equals < 0                  ? takeValueOf(name)
+                                                               : argument.sliced(equals + 1);
         const qsizetype rounded = m_result.rounded.size();
         try {
             option.apply(m_result, value);
@@ -76,6 +86,13 @@ class ArgumentReader {
         }
         if (!m_folderGiven && options.outputFolder.isEmpty()) {
             options.outputFolder = u"."_s;
+        }
+        if (m_result.toStandardOutput && m_result.json) {
+            throw ArgumentFault(
+                u"--json and \"--merge -\" would both write to standard output; merge into a file"_s);
+        }
+        if (m_result.listsEndInNull && m_result.nameLists.empty()) {
+            throw ArgumentFault(u"-0 and --null say how names end in a list of --files-from"_s);
         }
         if (m_result.request == Request::Convert && m_result.inputs.empty() &&
             m_result.nameLists.empty()) {

@@ -37,6 +37,7 @@ struct Arguments {
     std::optional<QByteArray> ownerPasswordFile;
     QStringList rounded;           ///< Lengths that are not what was asked for, in words.
     std::optional<SortOrder> sort; ///< Nothing: as given.
+    bool toStandardOutput = false; ///< The merged PDF; `options` then name no place for it.
     ProgressMode progress = ProgressMode::Auto;
     bool json = false;
     bool quiet = false;
@@ -60,6 +61,16 @@ std::variant<Arguments, UsageError> parseArguments(std::span<const QByteArray> a
 /// when standard input, which readPasswords() reads first and "-" as an input last, is asked for
 /// twice.
 void readNameLists(Arguments &arguments);
+
+/// What is wrong with the settings, in the words of the options; nothing where they are right.
+std::optional<QString> settingsFault(const Arguments &arguments);
+
+/// Makes the folder of --output-folder where it is missing. Throws ArgumentFault where it cannot be
+/// made, and where no PDF can be written into the folder of the output.
+void prepareOutputFolder(const ConversionOptions &options);
+
+/// That the merged PDF cannot be written, as its name is taken.
+QString nameTakenFault(const ConversionOptions &options);
 
 /// The text of --help.
 QByteArray helpText();

@@ -9,10 +9,10 @@
 #include "cli/Process.h"
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
+#include "cli/StandardOutput.h"
 #include "convert/Bundle.h"
 #include "convert/Run.h"
 #include "error/Error.h"
-#include "filelist/SourceFiles.h"
 #include "files/Printable.h"
 #include "files/TemporaryFolder.h"
 using namespace Qt::StringLiterals;
@@ -23,9 +23,10 @@ namespace {
 /// One call of the program from its checked settings to its exit status.
 class Call : private RunObserver {
   public:
-    Call(const Arguments &arguments, Console &console)
+    Call(const Arguments &arguments, Console &console, TemporaryFolder &temporaryFolder)
         : m_arguments(arguments)
         , m_console(console)
+        , m_temporaryFolder(temporaryFolder)
         , m_progress(console, arguments.quiet ? ProgressMode::Never : arguments.progress, m_names) {
     }
 
@@ -49,7 +50,6 @@ class Call : private RunObserver {
     /// The inputs that can be converted; the others are reported.
     std::vector<Input> collect() {
         std::vector<Input> accepted;
-        QStringList refusedPdfs;
         for (Input &input :
              collectInputs(m_arguments.inputs, m_arguments.taking, m_readableLinks, m_pipes)) {
             if (!input.leftOut.empty()) {
@@ -60,13 +60,7 @@ class Call : private RunObserver {
                 accepted.push_back(std::move(input));
                 continue;
             }
-            if (input.read.refusedPdf) {
-                refusedPdfs += printable(input.shown);
-            }
             report(InputResult::rejected(input.shown, input.read.problem));
-        }
-        if (!refusedPdfs.isEmpty()) {
-            m_console.complain(badFilesNotice(refusedPdfs));
         }
         if (m_arguments.sort) {
             sortInputs(accepted, *m_arguments.sort);
@@ -116,15 +110,40 @@ class Call : private RunObserver {
             m_reported = result.firstEntry + i + 1;
             report(input);
         }
-        if (result.outcome.isWritten() && !m_arguments.quiet && !m_arguments.json) {
-            m_console.result(printable(close.path).toUtf8());
-            if (compression && compression->error.isEmpty()) {
-                m_console.result("  " + printable(toWords(*compression)).toUtf8());
-            }
+        if (result.outcome.isWritten()) {
+            handOver(result);
         }
         if (close.status == CloseResult::Status::NameTaken) {
-            m_console.complain(nameExistsNotice().message);
+            m_console.complain(nameTakenFault(m_arguments.options));
             m_status = WrongUsage;
+        }
+    }
+
+    /// Names the PDF on standard output, or writes it there.
+    void handOver(const RunResult &result) {
+        const QString &path = result.outcome.close.path;
+        const auto &compression = result.compression;
+        const QString savings =
+            compression && compression->error.isEmpty() ? toWords(*compression) : QString();
+        if (m_arguments.toStandardOutput) {
+            if (!savings.isEmpty() && !m_arguments.quiet) {
+                m_console.complain(savings);
+            }
+            writeOut(path);
+        } else if (!m_arguments.quiet && !m_arguments.json) {
+            m_console.result(printable(path).toUtf8());
+            if (!savings.isEmpty()) {
+                m_console.result("  " + printable(savings).toUtf8());
+            }
+        }
+    }
+
+    void writeOut(const QString &path) {
+        try {
+            moveToStandardOutput(path);
+        } catch (const Error &error) {
+            m_console.complain(error.reason());
+            fail();
         }
     }
 
@@ -144,10 +163,10 @@ class Call : private RunObserver {
 
     const Arguments &m_arguments;
     Console &m_console;
+    TemporaryFolder &m_temporaryFolder;
     std::vector<QString> m_names; ///< Of the inputs, as they were given.
     std::size_t m_reported = 0;   ///< How many of them are.
     ProgressLine m_progress;
-    TemporaryFolder m_temporaryFolder;
     ReadableLinks m_readableLinks{m_temporaryFolder}; ///< Outlives the inputs that lead through it.
     PipedInputs m_pipes{m_arguments.inputType, m_readableLinks};
     ExitStatus m_status = AllConverted;
@@ -157,10 +176,20 @@ class Call : private RunObserver {
 
 ExitStatus runConversion(Arguments arguments) {
     Console console;
+    TemporaryFolder temporaryFolder;
     try {
         readPasswords(arguments, arguments.options.security);
         readNameLists(arguments);
         sourceDate(); // Throws where no document could carry it.
+        if (arguments.toStandardOutput) {
+            requireNoTerminal();
+            arguments.options.outputFolder = temporaryFolder.path();
+            arguments.options.outputName = u"merged.pdf"_s;
+        }
+        if (const auto fault = settingsFault(arguments)) {
+            throw ArgumentFault(*fault);
+        }
+        prepareOutputFolder(arguments.options);
     } catch (const ArgumentFault &fault) {
         console.complain(fault.text());
         return WrongUsage;
@@ -168,16 +197,12 @@ ExitStatus runConversion(Arguments arguments) {
         console.complain(error.reason());
         return WrongUsage;
     }
-    if (const auto notice = checkConversion(arguments.options)) {
-        console.complain(notice->message);
-        return WrongUsage;
-    }
     if (!arguments.quiet) {
         for (const QString &length : arguments.rounded) {
             console.complain(length);
         }
     }
-    return Call(arguments, console).convertAll();
+    return Call(arguments, console, temporaryFolder).convertAll();
 }
 
 } // namespace folioforge

@@ -40,13 +40,6 @@ void Console::complain(const QString &message) {
     writeMessage(u"folioforge-cli: "_s + message);
 }
 
-void Console::complain(const Notice &notice) {
-    complain(notice.title);
-    for (const QString &line : notice.message.split(u"\r\n"_s)) {
-        writeMessage(line);
-    }
-}
-
 void Console::writeMessage(const QString &line) {
     eraseProgress();
     write(stderr, printable(line).toUtf8() + '\n');

@@ -2,8 +2,6 @@
 
 #pragma once
 
-#include "error/Notice.h"
-
 #include <QByteArray>
 #include <QString>
 
@@ -17,8 +15,6 @@ class Console {
     void result(const QByteArray &line);
     /// Writes "folioforge-cli: `message`" to standard error, made printable.
     void complain(const QString &message);
-    /// Writes the title and the lines of `notice` likewise.
-    void complain(const Notice &notice);
     /// Replaces the progress line; an empty text takes it away.
     void showProgress(const QString &text);
     /// Whether everything given to result() has arrived, or its reader went away; complains of a

@@ -22,9 +22,11 @@ Input: files, folders, pipes such as <(command), and "-" for standard input
   --sort name|natural|size|created|modified    (default: as given)
 
 Output
-  --output-folder DIR          a PDF for each input, here (default: the current folder)
+  --output-folder DIR          a PDF for each input, here (default: the current folder); made
+                               where it is missing
   --merge PATH                 one PDF of all, in the order given; ".pdf" is added where it
-                               is missing, and a file that exists is never replaced
+                               is missing, and a file that exists is never replaced; "-"
+                               for standard output
   --flush always|never         whether a PDF is flushed to disk before it gets its name
                                (default always; never suits scratch disks)
   --compress none|150m|96m|72l photos reduced to 150, 96 or 72 pixels per inch:

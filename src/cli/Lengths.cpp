@@ -105,6 +105,14 @@ std::optional<double> pointsOf(QStringView text) {
     return isDecimal(text) ? std::optional(text.toDouble() * unit) : std::nullopt;
 }
 
+QStringView unitOf(QStringView text) {
+    qsizetype start = text.size();
+    while (start > 0 && text[start - 1].isLetter()) {
+        --start;
+    }
+    return text.sliced(start);
+}
+
 qint64 wholePoints(double points) {
     constexpr auto kLimit = static_cast<double>(std::numeric_limits<qint64>::max());
     if (points >= kLimit) {

@@ -15,6 +15,9 @@ namespace folioforge {
 /// `text` is none.
 std::optional<double> pointsOf(QStringView text);
 
+/// The letters at the end of `text`, such as "mm" of "210mm".
+QStringView unitOf(QStringView text);
+
 /// The nearest whole number of points, as pages are measured; ends of the range beyond it.
 qint64 wholePoints(double points);
 

@@ -4,6 +4,7 @@
 #include "cli/OptionValues.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cstdio>
@@ -15,19 +16,34 @@ namespace {
 
 QByteArray contentsOf(const QByteArray &name) {
     QFile file(QFile::decodeName(name));
+    if (name != "-" && QFileInfo(file).isDir()) {
+        throw ArgumentFault(
+            u"--files-from: \"%1\" is a folder, not a list of names; a folder is an input itself"_s
+                .arg(QString::fromUtf8(name)));
+    }
     const bool isOpen =
         name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     QByteArray contents = isOpen ? file.readAll() : QByteArray();
     if (file.error() != QFileDevice::NoError) {
-        throw ArgumentFault(u"The list of files \"%1\" cannot be read: %2"_s.arg(
+        throw ArgumentFault(u"--files-from: \"%1\" cannot be read: %2"_s.arg(
             QString::fromUtf8(name), file.errorString()));
     }
     return contents;
 }
 
-std::vector<QByteArray> namesIn(const QByteArray &list, char end) {
+/// The names of `list`: lines, also such as Windows writes, or what ends in null bytes.
+std::vector<QByteArray> namesIn(const NameList &list, bool endInNull) {
+    const QByteArray contents = contentsOf(list.file);
+    if (!endInNull && contents.contains('\0')) {
+        throw ArgumentFault(
+            u"--files-from: \"%1\" holds null bytes; -0 reads names that end in them"_s.arg(
+                QString::fromUtf8(list.file)));
+    }
     std::vector<QByteArray> names;
-    for (const QByteArray &name : list.split(end)) {
+    for (QByteArray &name : contents.split(endInNull ? '\0' : '\n')) {
+        if (!endInNull && name.endsWith('\r')) {
+            name.chop(1);
+        }
         if (!name.isEmpty()) {
             names.push_back(name);
         }
@@ -41,7 +57,7 @@ void readNameLists(Arguments &arguments) {
     const auto ofLists = std::ranges::count(arguments.nameLists, "-", &NameList::file);
     // From the last, so that the places of those before it stay.
     for (auto list = arguments.nameLists.rbegin(); list != arguments.nameLists.rend(); ++list) {
-        const auto names = namesIn(contentsOf(list->file), arguments.listsEndInNull ? '\0' : '\n');
+        const auto names = namesIn(*list, arguments.listsEndInNull);
         const auto at = arguments.inputs.begin() + static_cast<std::ptrdiff_t>(list->at);
         arguments.inputs.insert(at, names.begin(), names.end());
     }

@@ -6,6 +6,7 @@
 #include "convert/OutputName.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <utility>
 #include <vector>
@@ -15,16 +16,18 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-/// Splits the path of the merged file; a name alone stands in the current folder. Throws
-/// ArgumentFault where the path leads to a folder.
-void takeMergePath(const QString &path, ConversionOptions &options) {
-    if (path == u"-") {
-        throw ArgumentFault(u"A PDF is not written to standard output; ./- is a file"_s);
+/// Splits the path of the merged file; a name alone stands in the current folder, and "-" for
+/// standard output. Throws ArgumentFault where the path leads to a folder.
+void takeMergePath(const QString &path, Arguments &to) {
+    ConversionOptions &options = to.options;
+    options.merge = true;
+    to.toStandardOutput = path == u"-";
+    if (to.toStandardOutput) {
+        return;
     }
     const qsizetype slash = path.lastIndexOf(u'/');
-    options.merge = true;
     options.outputName = path.sliced(slash + 1);
-    if (isNameOfFolder(options.outputName)) {
+    if (options.outputName.isEmpty() || isNameOfFolder(options.outputName)) {
         throw ArgumentFault(u"\"%1\" is a folder, not the name of a PDF"_s.arg(path));
     }
     options.outputFolder = slash < 0 ? u"."_s : path.first(std::max<qsizetype>(slash, 1));
@@ -60,9 +63,9 @@ const std::vector<Option> &outputOptions() {
     using Value = const QByteArray &;
     static const std::vector<Option> options{
         {"--output-folder", Option::Valued,
-         [](Arguments &to, Value value) { to.options.outputFolder = textOf(value); }},
+         [](Arguments &to, Value value) { to.options.outputFolder = parseFolder(textOf(value)); }},
         {"--merge", Option::Valued,
-         [](Arguments &to, Value value) { takeMergePath(textOf(value), to.options); }},
+         [](Arguments &to, Value value) { takeMergePath(textOf(value), to); }},
         {"--flush", Option::Valued,
          [](Arguments &to, Value value) {
              to.options.flush =
@@ -184,13 +187,25 @@ qsizetype editDistance(QByteArrayView one, QByteArrayView other) {
     return row.back();
 }
 
+std::array<const std::vector<Option> *, 5> groups() {
+    return {&inputOptions(), &outputOptions(), &documentOptions(), &pageOptions(),
+            &reportOptions()};
+}
+
 } // namespace
+
+bool isOption(const QByteArray &argument) {
+    const QByteArray name =
+        argument.first(argument.indexOf('=') < 0 ? argument.size() : argument.indexOf('='));
+    return std::ranges::any_of(groups(), [&](const auto *group) {
+        return std::ranges::find(*group, name, &Option::name) != group->end();
+    });
+}
 
 const Option &findOption(const QByteArray &name) {
     QByteArrayView near;
     qsizetype nearest = std::min<qsizetype>(4, name.size() / 2); // As many letters may be wrong.
-    for (const auto *group : {&inputOptions(), &outputOptions(), &documentOptions(), &pageOptions(),
-                              &reportOptions()}) {
+    for (const auto *group : groups()) {
         for (const Option &option : *group) {
             if (option.name == name) {
                 return option;

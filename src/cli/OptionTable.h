@@ -18,6 +18,9 @@ struct Option {
     std::function<void(Arguments &, const QByteArray &)> apply;
 };
 
+/// Whether `argument` is an option of the table, alone or with a value behind "=".
+bool isOption(const QByteArray &argument);
+
 /// The option called `name`, which begins with dashes. Throws ArgumentFault where there is none,
 /// with the one that is probably meant.
 const Option &findOption(const QByteArray &name);

@@ -38,12 +38,22 @@ void takeSize(const QString &text, int customMode, const QString &fault, PageSet
         setup.customHeight = wholePoints(paper->height());
         return;
     }
-    const QStringList sides = text.split(u'x', Qt::KeepEmptyParts, Qt::CaseInsensitive);
+    QStringList sides = text.split(u'x', Qt::KeepEmptyParts, Qt::CaseInsensitive);
     if (sides.size() != 2) {
         throw ArgumentFault(fault);
     }
+    if (unitOf(sides[0]).isEmpty()) { // As in "148x210mm".
+        sides[0] += unitOf(sides[1]);
+    }
     setup.customWidth = wholeLength(sides[0], fault, rounded);
     setup.customHeight = wholeLength(sides[1], fault, rounded);
+    for (const qint64 side : {setup.customWidth, setup.customHeight}) {
+        if (side < kShortestSide || side > kLongestSide) {
+            throw ArgumentFault(u"\"%1\" is no page: its sides are %2 to %3 points long"_s.arg(text)
+                                    .arg(kShortestSide)
+                                    .arg(kLongestSide));
+        }
+    }
 }
 
 } // namespace
@@ -92,6 +102,13 @@ void parseImagePageSize(const QString &text, PageSetup &setup, QStringList &roun
         text, ImagePageCustom,
         u"\"%1\" is not \"image\", no paper such as A4 or Letter^T and no size as WxH"_s.arg(text),
         setup, rounded);
+}
+
+QString parseFolder(const QString &text) {
+    if (text.isEmpty()) {
+        throw ArgumentFault(u"\"\" is no folder; \".\" is the current one"_s);
+    }
+    return text;
 }
 
 QByteArray parseInputType(const QString &text) {

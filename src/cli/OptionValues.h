@@ -58,6 +58,9 @@ void parseTextPageSize(const QString &text, PageSetup &setup, QStringList &round
 /// Puts "image", a paper that paperSize() knows, or "WxH" into `setup`. Throws ArgumentFault.
 void parseImagePageSize(const QString &text, PageSetup &setup, QStringList &rounded);
 
+/// The path of a folder. Throws ArgumentFault where it is empty.
+QString parseFolder(const QString &text);
+
 /// An extension that is recognised, such as "txt", in lower case. Throws ArgumentFault.
 QByteArray parseInputType(const QString &text);
 

@@ -33,7 +33,8 @@ QByteArray readLine(QFile &file, const QByteArray &name) {
 /// line ended.
 class PasswordReader {
   public:
-    std::optional<QString> read(const std::optional<QByteArray> &name, const char *variable) {
+    std::optional<QString> read(const std::optional<QByteArray> &name, QLatin1StringView option,
+                                const char *variable) {
         if (!name && !qEnvironmentVariableIsSet(variable)) {
             return std::nullopt;
         }
@@ -42,7 +43,8 @@ class PasswordReader {
             return textOf(bytes);
         } catch (const ArgumentFault &) {
             // The message of textOf() would print the password.
-            throw ArgumentFault(u"A password is not valid UTF-8"_s);
+            throw ArgumentFault(u"%1: The password is not valid UTF-8"_s.arg(
+                name ? option : QLatin1StringView(variable)));
         }
     }
 
@@ -79,11 +81,13 @@ class PasswordReader {
 void readPasswords(const Arguments &arguments, SecuritySettings &security) {
     forbidCoreDumps();
     PasswordReader reader;
-    if (const auto user = reader.read(arguments.userPasswordFile, "FOLIOFORGE_USER_PASSWORD")) {
+    if (const auto user = reader.read(arguments.userPasswordFile, "--user-password-file"_L1,
+                                      "FOLIOFORGE_USER_PASSWORD")) {
         security.useUserPassword = true;
         security.userPassword = *user;
     }
-    if (const auto owner = reader.read(arguments.ownerPasswordFile, "FOLIOFORGE_OWNER_PASSWORD")) {
+    if (const auto owner = reader.read(arguments.ownerPasswordFile, "--owner-password-file"_L1,
+                                       "FOLIOFORGE_OWNER_PASSWORD")) {
         security.useOwnerPassword = true;
         security.ownerPassword = *owner;
     }

@@ -102,8 +102,9 @@ QString pagesInWords(std::vector<int> pages) {
 }
 
 QString reasonOf(const CloseResult &close) {
-    return close.status == CloseResult::Status::NameTaken ? nameExistsNotice().message
-                                                          : close.reason;
+    return close.status == CloseResult::Status::NameTaken
+               ? u"The name of its PDF was taken meanwhile"_s
+               : close.reason;
 }
 
 } // namespace

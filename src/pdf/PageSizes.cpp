@@ -2,6 +2,8 @@
 
 #include "pdf/PageSizes.h"
 
+#include "text/PageSetup.h"
+
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
@@ -14,12 +16,9 @@ namespace folioforge {
 
 namespace {
 
-constexpr double kSmallest = 3;
-constexpr double kLargest = 14'400;
-
 bool isShown(const QSizeF &size) {
     const auto [shorter, longer] = std::minmax({size.width(), size.height()});
-    return shorter >= kSmallest && longer <= kLargest;
+    return shorter >= kShortestSide && longer <= kLongestSide;
 }
 
 QString sizeText(const QSizeF &size) {

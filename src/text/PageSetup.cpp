@@ -14,8 +14,6 @@ namespace {
 enum class Target { Text, Image };
 enum class Axis { Width, Height };
 
-constexpr quint64 kMaxMargin = 256;
-
 /// The settings of a kind of pages; the margins in the order in which they are checked.
 struct PageSettings {
     Setting width;
@@ -67,7 +65,7 @@ Notice alertInvalidPageSize(Target target, Axis axis, bool isCustom) {
 
 /// Negative margins wrap to large unsigned numbers and fail with the same test.
 bool isValidMargin(qint64 margin) {
-    return static_cast<quint64>(margin) <= kMaxMargin;
+    return static_cast<quint64>(margin) <= quint64{kMaxMargin};
 }
 
 std::optional<Notice> checkMargins(const PageMargins &margins, Target target) {

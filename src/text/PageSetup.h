@@ -17,6 +17,14 @@ enum TextPageSizeMode { TextPageA3 = 0, TextPageA4 = 1, TextPageA5 = 2, TextPage
 /// Rows of the image page-size choice.
 enum ImagePageSizeMode { ImagePageFollowsImage = 0, ImagePageCustom = 1 };
 
+/// The most that a margin may have, in points.
+inline constexpr qint64 kMaxMargin = 256;
+
+/// The shortest and the longest side of a page that every reader shows, in points (ISO 32000-1,
+/// annex C).
+inline constexpr int kShortestSide = 3;
+inline constexpr int kLongestSide = 14'400;
+
 /// Page margins in whole PDF points (1/72 inch).
 struct PageMargins {
     qint64 left = 0;

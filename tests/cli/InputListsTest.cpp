@@ -64,6 +64,26 @@ class InputListsTest : public QObject, CommandLineCase {
         QCOMPARE(outputs(), QStringList());
     }
 
+    void linesMayEndAsOnWindows() {
+        const QByteArray names = named("a.txt") + "\r\n" + named("b.txt") + "\r\n\r\n";
+        QCOMPARE(convert({u"--files-from=-"_s}, names).exitCode, 0);
+        QCOMPARE(outputs(), (QStringList{u"a.pdf"_s, u"b.pdf"_s}));
+    }
+
+    void aListOfNamesThatEndInNullIsNotTakenForLines() {
+        const ToolRun run = convert({u"--files-from=-"_s}, named("a.txt") + '\0' + named("b.txt"));
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.err, "folioforge-cli: --files-from: \"-\" holds null bytes; -0 reads names "
+                          "that end in them\n");
+    }
+
+    void aFolderIsNoList() {
+        const ToolRun run = convert({u"--files-from"_s, m_folder->path()});
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.err, "folioforge-cli: --files-from: \"" + m_folder->path().toUtf8() +
+                              "\" is a folder, not a list of names; a folder is an input itself\n");
+    }
+
     void aListThatCannotBeReadIsNamed() {
         const ToolRun run = convert({u"--files-from"_s, path("nowhere")});
         QCOMPARE(run.exitCode, 2);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "CommandLineCase.h"
+#include "support/PhotoPage.h"
 #include "support/TestUnit.h"
 
 using namespace Qt::StringLiterals;
@@ -82,6 +83,50 @@ class PipesTest : public QObject, CommandLineCase {
             runTool(u"sh"_s, {u"-c"_s, script, u"sh"_s, kProgram, path("pipe"), path("all.pdf")});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(PdfProbe(path("all.pdf")).text().simplified(), u"named"_s);
+    }
+
+    void aMergedPdfGoesToStandardOutputAndNothingElse() {
+        QDir().mkpath(path("tmp"));
+        const ToolRun run = runTool(u"env"_s, {u"TMPDIR="_s + path("tmp"), kProgram, u"--merge=-"_s,
+                                               text("a.txt", "one"), text("b.txt", "two")});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.err, "");
+        writeFile(path("all.pdf"), run.out);
+        QCOMPARE(PdfProbe(path("all.pdf")).text().simplified(), u"one two"_s);
+        QVERIFY(QDir(path("tmp")).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+    }
+
+    void aRunWithoutADocumentLeavesStandardOutputEmpty() {
+        const ToolRun run = runTool(kProgram, {u"--merge"_s, u"-"_s, text("a.png", "no picture")});
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.out, "");
+        QVERIFY(run.err.contains("a.png: "));
+    }
+
+    void aCompressedPdfGoesToStandardOutputAndItsSavingsBesideIt() {
+        const QString photo = path("photo.jpg");
+        QVERIFY(test::photo(1200, 900).save(photo, "JPG", 95));
+        const QStringList arguments{u"--merge"_s, u"-"_s, u"--compress=72l"_s, u"--image-dpi=600"_s,
+                                    photo};
+        const ToolRun run = runTool(kProgram, arguments);
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(run.err.contains("images reduced: 1"), run.err.constData());
+        QVERIFY(run.out.startsWith("%PDF-") && run.out.size() < QFileInfo(photo).size());
+    }
+
+    void aPdfThatDoesNotArriveIsAFailure() {
+        const QString script = u"\"$0\" --merge - \"$1\" >/dev/full"_s;
+        const ToolRun run = runTool(u"sh"_s, {u"-c"_s, script, kProgram, text("a.txt")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.contains("Standard output cannot be written: No space left"), run.err);
+    }
+
+    void noPdfIsWrittenToATerminal() {
+        const QString command = u"'%1' --merge - '%2'"_s.arg(kProgram, text("a.txt"));
+        const ToolRun run = runTool(u"script"_s, {u"-qec"_s, command, u"/dev/null"_s});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.out.contains("no PDF is written to a terminal"), run.out.constData());
+        QVERIFY(!run.out.contains("%PDF"));
     }
 
     void aPipeInAFolderIsNotWaitedFor() {

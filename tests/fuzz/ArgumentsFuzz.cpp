@@ -12,7 +12,8 @@ using namespace folioforge::fuzz;
 namespace {
 
 void requireInOrder(const Arguments &arguments) {
-    require(arguments.request != Request::Convert || !arguments.inputs.empty());
+    require(arguments.request != Request::Convert || !arguments.inputs.empty() ||
+            !arguments.nameLists.empty());
     const ConversionOptions &options = arguments.options;
     require(!options.outputFolder.isNull() && !options.outputName.contains(u'/'));
     require(options.compressIndex >= 0 && options.compressIndex <= 3);
