@@ -91,6 +91,9 @@ class ArgumentReader {
             throw ArgumentFault(
                 u"--json and \"--merge -\" would both write to standard output; merge into a file"_s);
         }
+        if (m_result.toStandardOutput && options.dryRun) {
+            throw ArgumentFault(u"--dry-run writes no PDF to standard output; merge into a file"_s);
+        }
         if (m_result.listsEndInNull && m_result.nameLists.empty()) {
             throw ArgumentFault(u"-0 and --null say how names end in a list of --files-from"_s);
         }

@@ -39,6 +39,7 @@ struct Arguments {
     std::optional<SortOrder> sort; ///< Nothing: as given.
     bool toStandardOutput = false; ///< The merged PDF; `options` then name no place for it.
     ProgressMode progress = ProgressMode::Auto;
+    int jobs = 1; ///< How many PDFs are made at once.
     bool json = false;
     bool quiet = false;
     bool strict = false;            ///< A warning counts as a failure.

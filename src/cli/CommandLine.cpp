@@ -76,7 +76,7 @@ class Call : private RunObserver {
         }
         const std::stop_token outOfTime = outOfProcessorTime();
         Run run(std::move(entries), m_arguments.options, applicationBundlePath(), outOfTime);
-        run.convertAll(m_temporaryFolder, *this);
+        run.convertAll(m_temporaryFolder, *this, m_arguments.jobs);
         m_progress.finish();
         if (outOfTime.stop_requested()) {
             reportOutOfTime();
@@ -105,13 +105,13 @@ class Call : private RunObserver {
             m_console.complain(
                 u"%1: not compressed: %2"_s.arg(printable(close.path), compression->error));
         }
+        if (result.outcome.isWritten()) {
+            handOver(result);
+        }
         for (std::size_t i = 0; i < result.outcome.entries.size(); ++i) {
             const InputResult input = InputResult::of(m_names[result.firstEntry + i], result, i);
             m_reported = result.firstEntry + i + 1;
             report(input);
-        }
-        if (result.outcome.isWritten()) {
-            handOver(result);
         }
         if (close.status == CloseResult::Status::NameTaken) {
             m_console.complain(nameTakenFault(m_arguments.options));
@@ -158,6 +158,8 @@ class Call : private RunObserver {
         }
         if (m_arguments.json) {
             m_console.result(toJson(result));
+        } else if (result.state == State::Planned && !m_arguments.quiet) {
+            m_console.result("  " + printable(result.plan()).toUtf8());
         }
     }
 

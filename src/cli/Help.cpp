@@ -25,8 +25,12 @@ Output
   --output-folder DIR          a PDF for each input, here (default: the current folder); made
                                where it is missing
   --merge PATH                 one PDF of all, in the order given; ".pdf" is added where it
-                               is missing, and a file that exists is never replaced; "-"
-                               for standard output
+                               is missing; "-" for standard output
+  --overwrite never|older|always
+                               whether a PDF replaces a file of its name: never (the
+                               default), one older than its inputs, or any; no input ever
+  --dry-run                    what would be written, with pages and sizes; writes nothing
+  --jobs N                     so many PDFs are made at once (default 1)
   --flush always|never         whether a PDF is flushed to disk before it gets its name
                                (default always; never suits scratch disks)
   --compress none|150m|96m|72l photos reduced to 150, 96 or 72 pixels per inch:

@@ -16,6 +16,10 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
+constexpr int kMostJobs = 256;
+constexpr int kLeastDpi = 5; // What a picture may state.
+constexpr int kMostDpi = 25400;
+
 /// Splits the path of the merged file; a name alone stands in the current folder, and "-" for
 /// standard output. Throws ArgumentFault where the path leads to a folder.
 void takeMergePath(const QString &path, Arguments &to) {
@@ -66,6 +70,16 @@ const std::vector<Option> &outputOptions() {
          [](Arguments &to, Value value) { to.options.outputFolder = parseFolder(textOf(value)); }},
         {"--merge", Option::Valued,
          [](Arguments &to, Value value) { takeMergePath(textOf(value), to); }},
+        {"--overwrite", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.overwrite = chosen<Overwrite>(
+                 textOf(value), {{QLatin1StringView("never"), Overwrite::Never},
+                                 {QLatin1StringView("older"), Overwrite::Older},
+                                 {QLatin1StringView("always"), Overwrite::Always}});
+         }},
+        {"--dry-run", Option::Switch, [](Arguments &to, Value) { to.options.dryRun = true; }},
+        {"--jobs", Option::Valued,
+         [](Arguments &to, Value value) { to.jobs = parseWhole(textOf(value), 1, kMostJobs); }},
         {"--flush", Option::Valued,
          [](Arguments &to, Value value) {
              to.options.flush =
@@ -142,7 +156,7 @@ const std::vector<Option> &pageOptions() {
          }},
         {"--image-dpi", Option::Valued,
          [](Arguments &to, Value value) {
-             to.options.imageLayout.unstatedDpi = parseDensity(textOf(value));
+             to.options.imageLayout.unstatedDpi = parseWhole(textOf(value), kLeastDpi, kMostDpi);
          }},
         {"--strip-metadata", Option::Switch,
          [](Arguments &to, Value) { to.options.stripMetadata = true; }},

@@ -121,16 +121,14 @@ QByteArray parseInputType(const QString &text) {
     return type.toLatin1();
 }
 
-int parseDensity(const QString &text) {
-    constexpr int kMin = 5; // The least and the most that a picture may state.
-    constexpr int kMax = 25400;
+int parseWhole(const QString &text, int least, int most) {
     bool isNumber = false;
-    const int dpi = text.toInt(&isNumber);
-    if (!isNumber || dpi < kMin || dpi > kMax) {
+    const int number = text.toInt(&isNumber);
+    if (!isNumber || number < least || number > most) {
         throw ArgumentFault(
-            u"\"%1\" is no whole number from %2 to %3"_s.arg(text).arg(kMin).arg(kMax));
+            u"\"%1\" is no whole number from %2 to %3"_s.arg(text).arg(least).arg(most));
     }
-    return dpi;
+    return number;
 }
 
 } // namespace folioforge

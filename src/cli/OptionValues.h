@@ -64,7 +64,7 @@ QString parseFolder(const QString &text);
 /// An extension that is recognised, such as "txt", in lower case. Throws ArgumentFault.
 QByteArray parseInputType(const QString &text);
 
-/// Pixels per inch. Throws ArgumentFault where no picture can have as many.
-int parseDensity(const QString &text);
+/// A whole number from `least` to `most`. Throws ArgumentFault.
+int parseWhole(const QString &text, int least, int most);
 
 } // namespace folioforge

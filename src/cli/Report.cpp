@@ -24,6 +24,10 @@ QString nameOf(InputResult::State state) {
         return u"finished"_s;
     case InputResult::State::Failed:
         return u"failed"_s;
+    case InputResult::State::Kept:
+        return u"kept"_s;
+    case InputResult::State::Planned:
+        return u"planned"_s;
     case InputResult::State::Listed:
         return u"listed"_s;
     case InputResult::State::Rejected:
@@ -141,9 +145,16 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
     if (entry.written && close.status == CloseResult::Status::Written) {
         own.output = close.path;
         own.pages = entry.pages;
+        own.pageSize = entry.pageSize;
+        own.state = entry.pageSize.isValid() ? State::Planned : State::Finished;
         own.embedded = entry.embeddedAs;
         own.parts = entry.parts;
         own.compression = result.compression;
+        return own;
+    }
+    if (result.kept) {
+        own.output = result.path;
+        own.state = State::Kept;
         return own;
     }
     own.state = State::Failed;
@@ -151,6 +162,16 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
         own.reason = reasonOf(close);
     }
     return own;
+}
+
+QString InputResult::plan() const {
+    if (pages == 0) {
+        return input + u": no page"_s;
+    }
+    return u"%1: %2 of %3 x %4 points"_s
+        .arg(input, pages == 1 ? u"1 page"_s : u"%1 pages, the first"_s.arg(pages))
+        .arg(pageSize.width())
+        .arg(pageSize.height());
 }
 
 QByteArray toJson(const InputResult &result) {
@@ -163,6 +184,9 @@ QByteArray toJson(const InputResult &result) {
         object.insert(u"message"_s, result.reason);
     }
     object.insert(u"warnings"_s, toJson(result.warnings));
+    if (result.pageSize.isValid()) {
+        object.insert(u"pageSize"_s, QJsonArray{result.pageSize.width(), result.pageSize.height()});
+    }
     if (result.embedded) {
         object.insert(u"embedded"_s, nameOf(*result.embedded));
     }

@@ -20,11 +20,14 @@ struct InputResult {
         Finished, ///< Its pages stand in `output`.
         Failed,   ///< It was accepted, but its pages or its PDF could not be written.
         Rejected, ///< It did not enter the list.
+        Kept,     ///< The PDF under its name is not older and stays.
+        Planned,  ///< Its pages would stand in `output`: of a dry run.
         Listed    ///< A folder whose files stand for it.
     };
     QString input;
     QString output; ///< Path of its PDF; empty where there is none.
     int pages = 0;
+    QSizeF pageSize; ///< Of its first page, of a dry run alone.
     State state = State::Finished;
     QString reason;    ///< Why it failed or was rejected.
     Warnings warnings; ///< What was lost of it though it was written.
@@ -38,6 +41,8 @@ struct InputResult {
     static InputResult failed(const QString &input, const QString &reason);
     /// The result of a folder of which something is left out.
     static InputResult listed(const QString &folder, const Warnings &leftOut);
+    /// What a dry run says of the input in words: pages and their size.
+    [[nodiscard]] QString plan() const;
     /// The result of `input`, the entry at `index` of the PDF that `result` is about.
     static InputResult of(const QString &input, const RunResult &result, std::size_t index);
 };

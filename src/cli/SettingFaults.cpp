@@ -121,21 +121,29 @@ std::optional<QString> settingsFault(const Arguments &arguments) {
     if (found) {
         return inWordsOfOptions(*found, arguments);
     }
-    return checkMergedFile(options) ? std::optional(nameTakenFault(options)) : std::nullopt;
+    const bool refused = options.overwrite == Overwrite::Never && checkMergedFile(options);
+    return refused ? std::optional(nameTakenFault(options)) : std::nullopt;
 }
 
 QString nameTakenFault(const ConversionOptions &options) {
-    return u"--merge: %1 exists; take another name"_s.arg(quoted(mergedFilePath(options)));
+    return u"--merge: %1 exists; take another name, or --overwrite"_s.arg(
+        quoted(mergedFilePath(options)));
 }
 
 void prepareOutputFolder(const ConversionOptions &options) {
     const QString &folder = options.outputFolder;
     const QByteArray name = QFile::encodeName(folder);
     const QString option = options.merge ? u"--merge: "_s : u"--output-folder: "_s;
-    if (!options.merge && ::mkdir(name.constData(), S_IRWXU | S_IRWXG | S_IRWXO) != 0 &&
-        errno == ENOENT) {
+    const QString parent = QFileInfo(folder.endsWith(u'/') ? folder.chopped(1) : folder).path();
+    if (!options.merge && !QFileInfo::exists(parent)) {
         throw ArgumentFault(option + u"%1 is not made, as the folder for it, %2, is missing"_s.arg(
-                                         quoted(folder), quoted(QFileInfo(folder).path())));
+                                         quoted(folder), quoted(parent)));
+    }
+    if (options.dryRun && !options.merge && !QFileInfo::exists(folder)) {
+        return;
+    }
+    if (!options.merge) {
+        ::mkdir(name.constData(), S_IRWXU | S_IRWXG | S_IRWXO); // What it is then, is looked at.
     }
     const int reason = errno;
     const QFileInfo info(folder);

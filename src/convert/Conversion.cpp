@@ -75,6 +75,9 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
         outcome.reason = failure;
     }
     outcome.pages = context.pageCount() - before.pages;
+    if (options.dryRun) {
+        outcome.pageSize = outcome.pages > 0 ? context.pageSize(before.pages) : QSizeF(0, 0);
+    }
     return outcome;
 }
 
@@ -123,10 +126,13 @@ CloseResult notWritten(const QString &reason) {
     return {CloseResult::Status::Failed, {}, reason, {}};
 }
 
-CloseResult closeContext(PDFContext &context, const QString &fileName,
+CloseResult closeContext(PDFContext &context, const QString &path, const QString &fileName,
                          const ConversionOptions &options) {
     if (context.pageCount() == 0) {
         return notWritten(u"There is no page to write"_s);
+    }
+    if (options.dryRun) {
+        return {CloseResult::Status::Written, path, {}, {}};
     }
     std::function<QString()> nextPath;
     if (!options.merge) {
@@ -191,6 +197,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                               .oneSource = entries.size() == 1,
                               .keepInfo = options.keepInfo,
                               .flush = options.flush,
+                              .mayReplace = options.overwrite != Overwrite::Never,
                               .calls = calls});
     PDFOutcome outcome;
     for (std::size_t i = 0; i < entries.size() && !stop.stop_requested(); ++i) {
@@ -203,7 +210,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     }
     if (!stop.stop_requested()) {
         const QString fileName = entries.empty() ? QString() : entries.front()->fileName();
-        outcome.close = closeContext(context, fileName, options);
+        outcome.close = closeContext(context, path, fileName, options);
         leaveInTheEnd(outcome.close.left, outcome.entries);
         std::ranges::copy(namePartlyTagged(entries, outcome.entries),
                           std::back_inserter(outcome.close.warnings));

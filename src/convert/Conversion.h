@@ -10,6 +10,7 @@
 #include "filelist/PDFFileInfo.h"
 #include "image/PdfImage.h"
 
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 
@@ -41,8 +42,9 @@ class ConversionObserver {
 struct EntryOutcome {
     bool written = false;
     int pages = 0;
-    QString reason;                       ///< Why it was not written.
-    Warnings warnings;                    ///< What of it was lost though it was written.
+    QSizeF pageSize;   ///< Of its first page in points, 0 x 0 without one; of a dry run alone.
+    QString reason;    ///< Why it was not written.
+    Warnings warnings; ///< What of it was lost though it was written.
     std::optional<EmbeddedAs> embeddedAs; ///< How an image was embedded; nothing for others.
     std::optional<DocumentParts> parts;   ///< Of a PDF; nothing for others.
 
@@ -67,12 +69,14 @@ struct PDFOutcome {
 std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security);
 
 /// Writes the PDF of `entries` in their order to `path`. An entry whose pages cannot be written is
-/// left out and reported; the others go on. In single mode a name that is taken meanwhile gives way
+/// left out and reported; the others go on. Where the options let a file be replaced, that of the
+/// path is, in one step. Otherwise in single mode a name that is taken meanwhile gives way
 /// to the next free one; the path used is in the outcome.
 ///
-/// Without a single page no file is written. Once `stop` is requested the run ends at the next page
-/// or entry, or where bytes that go into the PDF as they are would be read or written, and leaves
-/// no file, save for one that was whole already. Never throws: whatever fails is in the outcome.
+/// Without a single page no file is written, nor in a dry run, which counts as written. Once `stop`
+/// is requested the run ends at the next page or entry, or where bytes that go into the PDF as they
+/// are would be read or written, and leaves no file, save for one that was whole already. Never
+/// throws: whatever fails is in the outcome.
 PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
                      const ConversionOptions &options, ConversionObserver *observer = nullptr,
                      const std::stop_token &stop = {});

@@ -24,6 +24,14 @@ struct SecuritySettings {
     bool refuseCopy = false;
 };
 
+/// Whether the PDF of a run may take the place of a file of its name, which is never one that the
+/// run is made of.
+enum class Overwrite {
+    Never, ///< A merged PDF is refused, any other takes a free name.
+    Older, ///< Only of one that is older than the newest of its sources; else that stays.
+    Always,
+};
+
 /// Everything one run reads from the options panel or the arguments, copied when the run starts.
 struct ConversionOptions {
     QString outputFolder;
@@ -41,6 +49,8 @@ struct ConversionOptions {
     int mostTextPages = 0; ///< Of an entry, for one who looks at a part of it; 0 for all.
     int compressIndex = 0; ///< 0 none, 1 "150m", 2 "96m", 3 "72l".
     Flush flush = Flush::Always;
+    Overwrite overwrite = Overwrite::Never;
+    bool dryRun = false; ///< Pages are made, and no document is written.
     /// What every file of the run is written through.
     std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
 };

@@ -23,10 +23,11 @@ QString mergedFilePath(const ConversionOptions &options) {
     return join(options.outputFolder, named ? options.outputName : options.outputName + u".pdf"_s);
 }
 
-QString singleFilePath(const QString &folder, const QString &fileName) {
+QString singleFilePath(const QString &folder, const QString &fileName,
+                       const std::function<bool(const QString &)> &isTaken) {
     const QString base = withoutExtension(fileName);
     QString path = join(folder, fittingName(base, u".pdf"_s));
-    for (int number = 1; isNameTaken(path); ++number) {
+    for (int number = 1; isTaken(path); ++number) {
         path = join(folder, fittingName(base, u"(%1).pdf"_s.arg(number)));
     }
     return path;

@@ -4,6 +4,7 @@
 
 #include "compress/QuartzFilter.h"
 #include "convert/OutputName.h"
+#include "convert/OutputPlan.h"
 #include "error/Error.h"
 #include "files/Printable.h"
 #include "files/TemporaryFolder.h"
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <span>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -23,20 +25,57 @@ Run::Run(std::vector<PDFFileInfo> entries, ConversionOptions options, QString bu
     : m_entries(std::move(entries))
     , m_options(std::move(options))
     , m_bundlePath(std::move(bundlePath))
-    , m_stop(std::move(stop))
-    , m_clearing(m_options.outputFolder, AbandonedParts::Kinds::Files) {}
+    , m_stop(std::move(stop)) {
+    if (!m_options.dryRun) {
+        m_clearing.emplace(m_options.outputFolder, AbandonedParts::Kinds::Files);
+    }
+}
 
-void Run::convertAll(TemporaryFolder &temporaryFolder, RunObserver &observer) {
+void Run::convertAll(TemporaryFolder &temporaryFolder, RunObserver &observer, int jobs) {
+    if (jobs > 1 && !m_options.merge) {
+        convertSideBySide(temporaryFolder, observer, jobs);
+        return;
+    }
+    OutputPlan plan(m_entries, m_options);
     for (std::size_t first = 0; hasEntry(first) && !m_stop.stop_requested();
          first = entriesOf(first).end) {
         observer.pdfBegins(first);
-        RunResult result{first, createPDF(first, pathFor(first), observer), {}};
-        if (result.outcome.isWritten() && compresses()) {
-            result.compression =
-                compressInPlace(result.outcome.close.path, temporaryFolder, observer);
+        const PlannedOutput output =
+            plan.next(std::span(m_entries).subspan(first, entriesOf(first).end - first));
+        RunResult result = makePDF(
+            first, output, [&] { return temporaryFolder.path(); }, observer);
+        if (!result.outcome.isWritten() && !result.kept) {
+            plan.giveBack(output.path);
         }
+        settle(result);
         observer.pdfDone(result);
     }
+}
+
+RunResult Run::makePDF(std::size_t firstEntry, const PlannedOutput &output,
+                       const std::function<QString()> &temporaryFolder,
+                       ConversionObserver &observer) const {
+    using Action = PlannedOutput::Action;
+    RunResult result;
+    result.firstEntry = firstEntry;
+    result.path = output.path;
+    if (output.action == Action::Write) {
+        result.outcome = writePDF(firstEntry, output.path, observer);
+        if (result.outcome.isWritten() && compresses() && !m_options.dryRun) {
+            result.compression =
+                compressInPlace(result.outcome.close.path, temporaryFolder(), observer);
+        }
+        return result;
+    }
+    const EntryRange range = entriesOf(firstEntry);
+    result.kept = output.action == Action::Keep;
+    EntryOutcome asPlanned; // The reason is the PDF's, not the entry's.
+    asPlanned.written = true;
+    result.outcome.entries.assign(range.end - range.first, asPlanned);
+    result.outcome.close.reason =
+        result.kept ? u"Its PDF is there and not older"_s
+                    : u"Its PDF would take the place of an input, %1"_s.arg(output.path);
+    return result;
 }
 
 EntryRange Run::entriesOf(std::size_t firstEntry) const {
@@ -51,8 +90,19 @@ QString Run::pathFor(std::size_t firstEntry) const {
 
 PDFOutcome Run::createPDF(std::size_t firstEntry, const QString &path,
                           ConversionObserver &observer) {
-    PDFOutcome outcome = writePDF(firstEntry, path, observer);
-    noteProblem(path, outcome.problem());
+    RunResult result;
+    result.path = path;
+    result.outcome = writePDF(firstEntry, path, observer);
+    settle(result);
+    return std::move(result.outcome);
+}
+
+void Run::settle(RunResult &result) {
+    if (result.kept) {
+        return;
+    }
+    PDFOutcome &outcome = result.outcome;
+    noteProblem(result.path, outcome.problem());
     count(outcome);
     Warnings &ofDocument = outcome.close.warnings;
     if (!m_documentWarned && !outcome.entries.empty()) {
@@ -60,7 +110,6 @@ PDFOutcome Run::createPDF(std::size_t firstEntry, const QString &path,
         m_documentWarned = !ofDocument.empty();
     }
     ofDocument.clear();
-    return outcome;
 }
 
 void Run::count(const PDFOutcome &outcome) {
@@ -93,8 +142,8 @@ PDFOutcome Run::writePDF(std::size_t firstEntry, const QString &path,
     return folioforge::createPDF(entries, path, m_options, &observer, m_stop);
 }
 
-CompressionOutcome Run::compress(const QString &path, const QString &temporaryFolder,
-                                 ConversionObserver &observer, Flush flush) {
+CompressionOutcome Run::compressed(const QString &path, const QString &temporaryFolder,
+                                   ConversionObserver &observer, Flush flush) const {
     const QString filter = quartzFilterName(m_options.compressIndex);
     const CompressionOptions options{quartzFilterPath(m_bundlePath, filter),
                                      temporaryFolder,
@@ -102,10 +151,14 @@ CompressionOutcome Run::compress(const QString &path, const QString &temporaryFo
                                      m_options.calls,
                                      flush,
                                      m_stop};
-    CompressionOutcome outcome =
-        folioforge::compress(path, options, [&](int pageIndex, int pageCount) {
-            observer.endPageWrite(pageIndex, pageCount);
-        });
+    return folioforge::compress(path, options, [&](int pageIndex, int pageCount) {
+        observer.endPageWrite(pageIndex, pageCount);
+    });
+}
+
+CompressionOutcome Run::compress(const QString &path, const QString &temporaryFolder,
+                                 ConversionObserver &observer, Flush flush) {
+    CompressionOutcome outcome = compressed(path, temporaryFolder, observer, flush);
     if (!outcome.error.isEmpty()) {
         noteProblem(path,
                     QCoreApplication::translate("Run", "not compressed: %1").arg(outcome.error));
@@ -114,10 +167,10 @@ CompressionOutcome Run::compress(const QString &path, const QString &temporaryFo
 }
 
 /// Where the pass fails, the PDF stays as it was.
-CompressionOutcome Run::compressInPlace(const QString &path, TemporaryFolder &temporaryFolder,
-                                        ConversionObserver &observer) {
+CompressionOutcome Run::compressInPlace(const QString &path, const QString &temporaryFolder,
+                                        ConversionObserver &observer) const {
     // Only the file that replaces the PDF is flushed.
-    CompressionOutcome outcome = compress(path, temporaryFolder.path(), observer, Flush::Never);
+    CompressionOutcome outcome = compressed(path, temporaryFolder, observer, Flush::Never);
     if (outcome.convertInfo) {
         try {
             StoppableCalls calls(m_options.calls, m_stop);

@@ -12,6 +12,7 @@
 #include <QStringList>
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <stop_token>
 #include <vector>
@@ -19,10 +20,13 @@
 namespace folioforge {
 
 class TemporaryFolder;
+struct PlannedOutput;
 
 /// What became of one PDF of a run.
 struct RunResult {
     std::size_t firstEntry = 0; ///< The position of its first entry in the run.
+    QString path;               ///< Where it was to go.
+    bool kept = false;          ///< The file there is not older and stays: nothing was written.
     PDFOutcome outcome;
     std::optional<CompressionOutcome> compression; ///< Nothing where no pass ran.
 };
@@ -62,14 +66,16 @@ class Run {
   public:
     /// `bundlePath` holds the filters. Once `stop` is requested, every step ends at its next read,
     /// write, page or entry and leaves no file but whole ones. What killed runs left in the output
-    /// folder is removed.
+    /// folder is removed, unless the run is a dry one.
     Run(std::vector<PDFFileInfo> entries, ConversionOptions options, QString bundlePath,
         std::stop_token stop = {});
 
     [[nodiscard]] const ConversionOptions &options() const { return m_options; }
 
-    /// Makes every PDF, one after another. Never throws: whatever fails is in the results.
-    void convertAll(TemporaryFolder &temporaryFolder, RunObserver &observer);
+    /// Makes every PDF, one after another, or in single mode up to `jobs` at once, with names given
+    /// beforehand. The observer hears of them in their order. Never throws: whatever fails is in
+    /// the results.
+    void convertAll(TemporaryFolder &temporaryFolder, RunObserver &observer, int jobs = 1);
 
     /// The entries of the PDF that begins with the entry at `firstEntry`. The next PDF begins with
     /// the entry at their end, and no PDF where that is behind the last.
@@ -95,9 +101,19 @@ class Run {
     [[nodiscard]] std::optional<Notice> problems() const;
 
   private:
+    void convertSideBySide(TemporaryFolder &temporaryFolder, RunObserver &observer, int jobs);
+    /// Makes the PDF that begins with the entry at `firstEntry`, on any thread; `temporaryFolder`
+    /// is asked for where it is compressed.
+    [[nodiscard]] RunResult makePDF(std::size_t firstEntry, const PlannedOutput &output,
+                                    const std::function<QString()> &temporaryFolder,
+                                    ConversionObserver &observer) const;
+    /// Counts a PDF and sees to it that a warning of documents is said once.
+    void settle(RunResult &result);
+    [[nodiscard]] CompressionOutcome compressed(const QString &path, const QString &temporaryFolder,
+                                                ConversionObserver &observer, Flush flush) const;
     [[nodiscard]] CompressionOutcome compressInPlace(const QString &path,
-                                                     TemporaryFolder &temporaryFolder,
-                                                     ConversionObserver &observer);
+                                                     const QString &temporaryFolder,
+                                                     ConversionObserver &observer) const;
     [[nodiscard]] PDFOutcome writePDF(std::size_t firstEntry, const QString &path,
                                       ConversionObserver &observer) const;
     void count(const PDFOutcome &outcome);
@@ -107,7 +123,7 @@ class Run {
     ConversionOptions m_options;
     QString m_bundlePath;
     std::stop_token m_stop;
-    AbandonedParts m_clearing;
+    std::optional<AbandonedParts> m_clearing;
     bool m_documentWarned = false; ///< A warning of a document was handed over.
     QStringList m_problems;        ///< Lines of problems().
     RunSummary m_summary;

@@ -35,6 +35,9 @@ class PDFContext::Impl {
     void rollBack(const Mark &mark);
     PageDrawer &pages() { return m_pages; }
     [[nodiscard]] int pageCount() const { return m_catalog.pageCount(); }
+    [[nodiscard]] QSizeF pageSize(int index) const {
+        return sizeOfPage(m_catalog.pages()[static_cast<std::size_t>(index)]);
+    }
     [[nodiscard]] Warnings checkPagesAfter(int count) const {
         return checkPageSizes(m_catalog.pages().subspan(static_cast<std::size_t>(count)));
     }
@@ -114,6 +117,10 @@ CloseResult PDFContext::Impl::publish(OutputFile &file, const std::function<QStr
     // Each attempt fails only when another program has just taken the name.
     constexpr int kAttempts = 1000;
     QString path = m_path;
+    if (m_settings.mayReplace) {
+        file.replace(path, m_settings.flush);
+        return {CloseResult::Status::Written, path, {}, {}};
+    }
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
         if (file.publish(path, m_settings.flush) == OutputFile::Published::Yes) {
             return {CloseResult::Status::Written, path, {}, {}};
@@ -186,6 +193,10 @@ AddedDocument PDFContext::addDocument(const QString &sourcePath) {
 
 Warnings PDFContext::checkPagesAfter(int count) const {
     return translateQpdfErrors([&] { return m_impl->checkPagesAfter(count); });
+}
+
+QSizeF PDFContext::pageSize(int index) const {
+    return m_impl->pageSize(index);
 }
 
 int PDFContext::pageCount() const {

@@ -58,6 +58,7 @@ class PDFContext {
         /// Whether the first source document with pages gives what `info` lacks.
         bool keepInfo = false;
         Flush flush = Flush::Always;
+        bool mayReplace = false; ///< The document takes the place of a file of its name.
         /// Every file is written and every source is read through these.
         std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
     };
@@ -87,6 +88,8 @@ class PDFContext {
     AddedDocument addDocument(const QString &sourcePath);
 
     [[nodiscard]] int pageCount() const;
+    /// The size in units of the page at `index`, from 0.
+    [[nodiscard]] QSizeF pageSize(int index) const;
     /// What checkPageSizes() says of the pages after the first `count`.
     [[nodiscard]] Warnings checkPagesAfter(int count) const;
     /// Waits for the pages drawn so far, which another core compresses. Throws Error when one
@@ -103,8 +106,9 @@ class PDFContext {
     /// stored for it.
     void rollBack(const Mark &mark);
 
-    /// Writes the document and gives it its name, never in place of another file. When the name is
-    /// taken, `nextPath` gives the next one to try; without it the result is NameTaken.
+    /// Writes the document and gives it its name, in place of another file only where the settings
+    /// say so, and then in one step. When the name is taken, `nextPath` gives the next one to try;
+    /// without it the result is NameTaken.
     CloseResult close(const std::function<QString()> &nextPath = {});
 
   private:

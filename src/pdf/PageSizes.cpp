@@ -21,6 +21,11 @@ bool isShown(const QSizeF &size) {
     return shorter >= kShortestSide && longer <= kLongestSide;
 }
 
+QSizeF sizeOfBox(QPDFObjectHandle &box) {
+    const auto corners = box.getArrayAsRectangle();
+    return {corners.urx - corners.llx, corners.ury - corners.lly};
+}
+
 QString sizeText(const QSizeF &size) {
     constexpr int kDigits = 8;
     return u"%1 x %2"_s.arg(QString::number(size.width(), 'g', kDigits),
@@ -39,8 +44,7 @@ Warnings checkPageSizes(std::span<const QPDFObjectHandle> pages) {
         if (box.isSameObjectAs(shown)) {
             continue;
         }
-        const auto corners = box.getArrayAsRectangle();
-        const QSizeF size(corners.urx - corners.llx, corners.ury - corners.lly);
+        const QSizeF size = sizeOfBox(box);
         if (isShown(size)) {
             shown = box;
         } else if (!box.isRectangle()) {
@@ -58,6 +62,11 @@ Warnings checkPageSizes(std::span<const QPDFObjectHandle> pages) {
     return {{WarningCode::PageSize,
              u"Readers need not show pages beyond 3 to 14,400 units: %1"_s.arg(named.join(u", "_s) +
                                                                                more)}};
+}
+
+QSizeF sizeOfPage(const QPDFObjectHandle &page) {
+    auto box = QPDFObjectHandle(page).getKey("/MediaBox");
+    return sizeOfBox(box);
 }
 
 } // namespace folioforge

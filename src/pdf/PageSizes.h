@@ -4,6 +4,8 @@
 
 #include "error/Warning.h"
 
+#include <QSizeF>
+
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <span>
@@ -15,5 +17,8 @@ namespace folioforge {
 /// the page, which /UserUnit makes larger, so it is not looked at. A box that is none is passed
 /// over.
 Warnings checkPageSizes(std::span<const QPDFObjectHandle> pages);
+
+/// Width and height of the media box of `page`, in its units.
+QSizeF sizeOfPage(const QPDFObjectHandle &page);
 
 } // namespace folioforge

@@ -215,8 +215,8 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         const QString taken = text("out/all.pdf", "mine");
         const ToolRun run = merge("out/all", {text("a.txt")});
         QCOMPARE(run.exitCode, 2);
-        QCOMPARE(run.err,
-                 "folioforge-cli: --merge: \"" + taken.toUtf8() + "\" exists; take another name\n");
+        QCOMPARE(run.err, "folioforge-cli: --merge: \"" + taken.toUtf8() +
+                              "\" exists; take another name, or --overwrite\n");
         QCOMPARE(readFile(taken), QByteArray("mine"));
     }
 

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "convert/OutputPlan.h"
+
+#include "convert/OutputName.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <optional>
+#include <tuple>
+
+#include <sys/stat.h>
+
+namespace folioforge {
+namespace {
+
+std::optional<struct stat> statusOf(const QString &path) {
+    struct stat status {};
+    const bool known = ::stat(QFile::encodeName(path).constData(), &status) == 0;
+    return known ? std::optional(status) : std::nullopt;
+}
+
+bool isOlder(const struct stat &one, const struct stat &other) {
+#ifdef __APPLE__
+    const timespec &a = one.st_mtimespec;
+    const timespec &b = other.st_mtimespec;
+#else
+    const timespec &a = one.st_mtim;
+    const timespec &b = other.st_mtim;
+#endif
+    return std::tie(a.tv_sec, a.tv_nsec) < std::tie(b.tv_sec, b.tv_nsec);
+}
+
+} // namespace
+
+OutputPlan::OutputPlan(std::span<const PDFFileInfo> entries, const ConversionOptions &options)
+    : m_options(options) {
+    if (m_options.overwrite == Overwrite::Never) {
+        return;
+    }
+    for (const PDFFileInfo &entry : entries) {
+        if (const auto status = statusOf(entry.filePathName())) {
+            m_sources.emplace(status->st_dev, status->st_ino);
+        }
+    }
+}
+
+PlannedOutput OutputPlan::next(std::span<const PDFFileInfo> entries) {
+    PlannedOutput output{pathFor(entries.front().fileName())};
+    m_given.insert(output.path);
+    const auto old = m_options.overwrite == Overwrite::Never ? std::nullopt : statusOf(output.path);
+    if (!old) {
+        return output;
+    }
+    if (m_sources.contains({old->st_dev, old->st_ino})) {
+        output.action = PlannedOutput::Action::Forbidden;
+    } else if (m_options.overwrite == Overwrite::Older &&
+               std::ranges::none_of(entries, [&](const PDFFileInfo &entry) {
+                   const auto source = statusOf(entry.filePathName());
+                   return source && isOlder(*old, *source);
+               })) {
+        output.action = PlannedOutput::Action::Keep;
+    }
+    return output;
+}
+
+QString OutputPlan::pathFor(const QString &fileName) const {
+    return m_options.merge ? mergedFilePath(m_options)
+                           : singleFilePath(m_options.outputFolder, fileName,
+                                            [this](const QString &path) { return isTaken(path); });
+}
+
+bool OutputPlan::isTaken(const QString &path) const {
+    if (m_given.contains(path)) {
+        return true;
+    }
+    if (m_options.overwrite == Overwrite::Never) {
+        return isNameTaken(path);
+    }
+    const auto old = statusOf(path);
+    return old && !S_ISREG(old->st_mode); // Only files are replaced.
+}
+
+} // namespace folioforge

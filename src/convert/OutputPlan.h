@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "convert/ConversionOptions.h"
+#include "filelist/PDFFileInfo.h"
+
+#include <QSet>
+#include <QString>
+
+#include <set>
+#include <span>
+#include <utility>
+
+namespace folioforge {
+
+/// Where the PDF of some entries goes.
+struct PlannedOutput {
+    enum class Action {
+        Write,    ///< Under a name that is free, or in place of the file that may be replaced.
+        Keep,     ///< The file under the name is not older than its sources.
+        Forbidden ///< The file under the name is one of the sources.
+    };
+    QString path;
+    Action action = Action::Write;
+};
+
+/// Gives the PDFs of a run their names, one after another, and no name twice.
+class OutputPlan {
+  public:
+    /// `entries` are those of the whole run; none of them is ever replaced.
+    OutputPlan(std::span<const PDFFileInfo> entries, const ConversionOptions &options);
+
+    /// The output of the next PDF, which is made of `entries`.
+    [[nodiscard]] PlannedOutput next(std::span<const PDFFileInfo> entries);
+    /// No PDF came of `path`: the name may be given again.
+    void giveBack(const QString &path) { m_given.remove(path); }
+
+  private:
+    using FileKey = std::pair<quint64, quint64>; ///< Device and file.
+
+    [[nodiscard]] QString pathFor(const QString &fileName) const;
+    [[nodiscard]] bool isTaken(const QString &path) const;
+
+    const ConversionOptions &m_options;
+    std::set<FileKey> m_sources; ///< Only where something may be replaced.
+    QSet<QString> m_given;
+};
+
+} // namespace folioforge

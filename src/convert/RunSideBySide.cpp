@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "convert/OutputPlan.h"
+#include "convert/Run.h"
+#include "files/TemporaryFolder.h"
+
+#include <atomic>
+#include <condition_variable>
+#include <exception>
+#include <functional>
+#include <mutex>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace folioforge {
+namespace {
+
+/// Hears nothing: PDFs that are made at once have no common progress.
+class DeafObserver : public ConversionObserver {
+  public:
+    void progressChanged(float /*value*/) override {}
+    void entryDone(std::size_t /*index*/, bool /*written*/) override {}
+};
+
+/// Makes the results from 0 up on several threads and hands them out in that order.
+class OrderedResults {
+  public:
+    using Make = std::function<RunResult(std::size_t)>;
+
+    /// Nothing more is begun once `stop` is requested.
+    OrderedResults(std::size_t count, Make make, std::stop_token stop)
+        : m_make(std::move(make))
+        , m_stop(std::move(stop))
+        , m_results(count) {}
+
+    /// Calls `take` on this thread for each result; throws what making one threw.
+    void forEach(int threads, const std::function<void(RunResult)> &take) {
+        std::vector<std::jthread> workers;
+        try {
+            while (static_cast<int>(workers.size()) < threads) {
+                ++m_working;
+                workers.emplace_back([this] { work(); });
+            }
+        } catch (const std::system_error &) {
+            // The system has no further thread. Those that there are do all; without any, this.
+            workers.empty() ? work() : leave();
+        }
+        for (std::size_t i = 0; i < m_results.size(); ++i) {
+            std::unique_lock lock(m_mutex);
+            m_changed.wait(lock, [&] { return m_results[i] || m_working == 0; });
+            if (!m_results[i]) {
+                break;
+            }
+            RunResult result = *std::exchange(m_results[i], std::nullopt);
+            lock.unlock();
+            take(std::move(result));
+        }
+        workers.clear();
+        if (m_failure) {
+            std::rethrow_exception(m_failure);
+        }
+    }
+
+  private:
+    void work() {
+        try {
+            for (std::size_t i = m_next++; i < m_results.size() && !m_stop.stop_requested();
+                 i = m_next++) {
+                RunResult result = m_make(i);
+                const std::lock_guard lock(m_mutex);
+                m_results[i] = std::move(result);
+                m_changed.notify_all();
+            }
+        } catch (...) {
+            const std::lock_guard lock(m_mutex);
+            m_failure = std::current_exception();
+        }
+        leave();
+    }
+
+    void leave() {
+        const std::lock_guard lock(m_mutex);
+        --m_working;
+        m_changed.notify_all();
+    }
+
+    Make m_make;
+    std::stop_token m_stop;
+    std::atomic<std::size_t> m_next = 0;
+    std::mutex m_mutex; ///< Guards what follows.
+    std::condition_variable m_changed;
+    std::vector<std::optional<RunResult>> m_results;
+    std::exception_ptr m_failure;
+    int m_working = 0;
+};
+
+} // namespace
+
+void Run::convertSideBySide(TemporaryFolder &temporaryFolder, RunObserver &observer, int jobs) {
+    OutputPlan plan(m_entries, m_options);
+    std::vector<PlannedOutput> outputs;
+    for (const PDFFileInfo &entry : m_entries) {
+        outputs.push_back(plan.next({&entry, 1}));
+    }
+    const QString folder = compresses() ? temporaryFolder.path() : QString();
+    const auto make = [&](std::size_t entry) {
+        DeafObserver deaf;
+        return makePDF(
+            entry, outputs[entry], [&] { return folder; }, deaf);
+    };
+    OrderedResults(m_entries.size(), make, m_stop).forEach(jobs, [&](RunResult result) {
+        observer.pdfBegins(result.firstEntry);
+        settle(result);
+        observer.progressChanged(compresses() ? kFull : kPagesShare);
+        for (const EntryOutcome &entry : result.outcome.entries) {
+            observer.entryDone(0, entry.written);
+        }
+        observer.pdfDone(result);
+    });
+}
+
+} // namespace folioforge
