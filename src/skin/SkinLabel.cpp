@@ -2,6 +2,7 @@
 
 #include "skin/SkinLabel.h"
 
+#include <QFont>
 #include <QGuiApplication>
 #include <QPainterPath>
 #include <QRegularExpression>
