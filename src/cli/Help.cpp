@@ -60,6 +60,8 @@ B0 to B10, C5, DL, JIS-B4, JIS-B5, Letter, Legal, Tabloid and Executive; A4^T li
   --image-fit within|shrink|fill   how a picture takes its paper: as large as it goes (the
                                    default), never enlarged, or cut off at the margins
   --image-dpi N                    of pictures that state no density (default 72)
+  --image-pages first|all          of a TIFF and a GIF the first page or frame (the default),
+                                   or each as a page
   --strip-metadata                 pictures go in without their Exif, XMP and comments, so
                                    without the place where a photo was taken
 

@@ -158,6 +158,12 @@ const std::vector<Option> &pageOptions() {
          [](Arguments &to, Value value) {
              to.options.imageLayout.unstatedDpi = parseWhole(textOf(value), kLeastDpi, kMostDpi);
          }},
+        {"--image-pages", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.allPictures =
+                 chosen<bool>(textOf(value), {{QLatin1StringView("first"), false},
+                                              {QLatin1StringView("all"), true}});
+         }},
         {"--strip-metadata", Option::Switch,
          [](Arguments &to, Value) { to.options.stripMetadata = true; }},
     };

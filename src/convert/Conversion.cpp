@@ -50,7 +50,7 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
     }
     case FileKind::Image:
     case FileKind::Other: {
-        WrittenImage image = addImagePage(entry, context, options);
+        WrittenImage image = addImagePages(entry, context, options);
         outcome.embeddedAs = image.embeddedAs;
         outcome.warnings = std::move(image.warnings);
         break;

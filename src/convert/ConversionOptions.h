@@ -43,6 +43,7 @@ struct ConversionOptions {
     PageSetup textPage{TextPageA4, 0, 0, {72, 72, 72, 72}};
     PageSetup imagePage;
     ImageLayout imageLayout;
+    bool allPictures = false;   ///< Each page of a TIFF, each frame of a GIF is a page.
     bool stripMetadata = false; ///< Exif, XMP and comments of pictures do not go in.
     /// The font of text pages; null for textFont().
     std::shared_ptr<const FontCascade> textFont;

@@ -49,6 +49,19 @@ class ContextSink : public TextPageSink {
     const std::stop_token &m_stop;
 };
 
+void drawOnPage(PdfImage image, PDFContext &context, const ConversionOptions &options) {
+    const ImageLayout &layout = options.imageLayout;
+    const ImagePlacement placement =
+        placeImage(image.header.sizeInPoints(layout.unstatedDpi), options.imagePage, layout);
+    context.beginPage(QRectF(QPointF(0, 0), placement.page));
+    if (layout.fit == ImageFit::Fill) {
+        context.clipToRect(placement.space);
+    }
+    const int orientation = image.header.orientation;
+    context.drawImage(placement.image, std::move(image), orientation);
+    context.endPage();
+}
+
 } // namespace
 
 Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
@@ -63,22 +76,23 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
     return warnings;
 }
 
-WrittenImage addImagePage(const PDFFileInfo &entry, PDFContext &context,
-                          const ConversionOptions &options) {
-    PdfImage image =
-        toPdfImage(entry.filePathName(), options.calls,
-                   options.stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep);
-    WrittenImage written{image.embeddedAs, std::move(image.warnings)};
-    const ImageLayout &layout = options.imageLayout;
-    const ImagePlacement placement =
-        placeImage(image.header.sizeInPoints(layout.unstatedDpi), options.imagePage, layout);
-    context.beginPage(QRectF(QPointF(0, 0), placement.page));
-    if (layout.fit == ImageFit::Fill) {
-        context.clipToRect(placement.space);
+WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
+                           const ConversionOptions &options) {
+    const auto metadata = options.stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep;
+    if (!options.allPictures) {
+        PdfImage image = toPdfImage(entry.filePathName(), options.calls, metadata);
+        WrittenImage written{image.embeddedAs, std::move(image.warnings)};
+        drawOnPage(std::move(image), context, options);
+        return written;
     }
-    const int orientation = image.header.orientation;
-    context.drawImage(placement.image, std::move(image), orientation);
-    context.endPage();
+    WrittenImage written{EmbeddedAs::OwnBytes, {}};
+    written.warnings =
+        forEachPicture(entry.filePathName(), options.calls, metadata, [&](PdfImage image) {
+            if (image.embeddedAs != EmbeddedAs::OwnBytes) {
+                written.embeddedAs = image.embeddedAs;
+            }
+            drawOnPage(std::move(image), context, options);
+        });
     return written;
 }
 

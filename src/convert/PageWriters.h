@@ -20,16 +20,16 @@ namespace folioforge {
 Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
                      const ConversionOptions &options, const std::stop_token &stop = {});
 
-/// How a picture became a page.
+/// How a picture became a page, or several.
 struct WrittenImage {
-    EmbeddedAs embeddedAs = EmbeddedAs::Recompressed;
-    Warnings warnings; ///< What of the file is not on the page.
+    EmbeddedAs embeddedAs = EmbeddedAs::Recompressed; ///< Own bytes where those of all are.
+    Warnings warnings;                                ///< What of the file is not on the page.
 };
 
-/// Adds one page with the image of `entry`, which is read through the calls of `options`. Throws
-/// Error, no page begun, when the image cannot be read.
-WrittenImage addImagePage(const PDFFileInfo &entry, PDFContext &context,
-                          const ConversionOptions &options);
+/// Adds one page with the image of `entry`, which is read through the calls of `options`, or a page
+/// for each image where these ask for all. Throws Error when none can be read.
+WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
+                           const ConversionOptions &options);
 
 /// Adds every page of the entry's PDF unchanged. Throws Error when it cannot be opened.
 AddedDocument addPDFFile(const PDFFileInfo &entry, PDFContext &context);

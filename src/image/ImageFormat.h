@@ -12,9 +12,23 @@
 
 #include <memory>
 #include <new>
+#include <optional>
 #include <vector>
 
 namespace folioforge {
+
+/// Reads the pictures of a file, one after another.
+class PictureReader {
+  public:
+    PictureReader() = default;
+    PictureReader(const PictureReader &) = delete;
+    PictureReader &operator=(const PictureReader &) = delete;
+    virtual ~PictureReader() = default;
+
+    /// The next picture with its header; nothing behind the last. Throws Error where it cannot be
+    /// read; the call after that gives the one behind it.
+    virtual std::optional<PdfImage> next() = 0;
+};
 
 /// One image format: how its files are recognised and the two ways to read them. A new format is
 /// one source file, one function in formats/Formats.h and one row of the table in ImageFormat.cpp.
@@ -32,6 +46,9 @@ struct ImageFormat {
     /// Which parts of a file whose own bytes go into the PDF no reader needs, in order; null where
     /// nothing but the compressed picture goes in.
     std::vector<FileSlice> (*metadata)(const FileView &file) = nullptr;
+    /// Reads every picture of the file, the first as toPdfImage() does but for the warning of those
+    /// behind it; null where one alone becomes a page. Throws Error.
+    std::unique_ptr<PictureReader> (*readAll)(const FileView &file) = nullptr;
 };
 
 /// Bytes at the start of a file by which formats recognise it.

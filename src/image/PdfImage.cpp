@@ -4,9 +4,25 @@
 
 #include "image/ImageFormat.h"
 
+#include <optional>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
+
+using OpenFile = std::shared_ptr<const SourceFile>;
+
+/// Adds what a picture has of its file. Throws Error where that has changed.
+void complete(PdfImage &image, const OpenFile &file, const ImageFormat &format) {
+    file->requireUnchanged();
+    image.header.kind = format.kind;
+    if (!image.slices.empty()) {
+        image.source = file;
+    }
+}
 
 void leaveOut(const std::vector<FileSlice> &parts, PdfImage &image) {
     image.slices = slicesWithout(image.slices, parts);
@@ -15,6 +31,93 @@ void leaveOut(const std::vector<FileSlice> &parts, PdfImage &image) {
         image.data.remove(part->offset, part->length);
     }
 }
+
+PdfImage onlyPicture(const OpenFile &file, const ImageFormat &format, SourceMetadata metadata) {
+    PdfImage image = format.toPdfImage(file->view());
+    if (metadata == SourceMetadata::Strip && image.embeddedAs == EmbeddedAs::OwnBytes &&
+        format.metadata != nullptr) {
+        leaveOut(format.metadata(file->view()), image);
+    }
+    complete(image, file, format);
+    return image;
+}
+
+/// Takes the pictures of a file that may hold several.
+class Pictures {
+  public:
+    Pictures(const OpenFile &file, const ImageFormat &format,
+             const std::function<void(PdfImage)> &take)
+        : m_file(file)
+        , m_format(format)
+        , m_take(take) {}
+
+    Warnings takeAll() {
+        const auto reader = m_format.readAll(m_file->view());
+        while (takeNext(*reader)) {
+        }
+        if (m_taken == 0 && m_fault) {
+            throw Error(*m_fault);
+        }
+        return warnings();
+    }
+
+  private:
+    /// False behind the last one.
+    bool takeNext(PictureReader &reader) {
+        std::optional<PdfImage> image;
+        ++m_page;
+        try {
+            image = reader.next();
+        } catch (const Error &error) {
+            m_file->requireNoFailure();
+            warn(WarningCode::PictureDamaged, u"It is left out: "_s + error.reason());
+            m_fault = m_fault ? m_fault : error;
+            return true;
+        }
+        if (!image) {
+            --m_page;
+            return false;
+        }
+        m_pixels += qint64(image->width) * image->height;
+        if (m_pixels > kMostPixels) {
+            warn(WarningCode::MorePictures,
+                 u"It and those behind it are left out, since they are too large together"_s);
+            return false;
+        }
+        for (const Warning &warning : std::exchange(image->warnings, {})) {
+            warn(warning.code, warning.text);
+        }
+        complete(*image, m_file, m_format);
+        m_take(std::move(*image));
+        ++m_taken;
+        return true;
+    }
+
+    void warn(WarningCode code, const QString &text) {
+        m_warnings.push_back({m_page, {code, text}});
+    }
+
+    [[nodiscard]] Warnings warnings() const {
+        Warnings all;
+        for (const auto &[page, warning] : m_warnings) {
+            const QString where = m_page > 1 ? u"Page %1: "_s.arg(page) : QString();
+            all.push_back({warning.code, where + warning.text});
+        }
+        return all;
+    }
+
+    /// A small file may name a large picture any number of times.
+    static constexpr qint64 kMostPixels = 20 * kMaxImagePixels;
+
+    const OpenFile &m_file;
+    const ImageFormat &m_format;
+    const std::function<void(PdfImage)> &m_take;
+    std::vector<std::pair<int, Warning>> m_warnings; ///< With the number of their page.
+    std::optional<Error> m_fault;                    ///< The first.
+    qint64 m_pixels = 0;
+    int m_page = 0; ///< From 1.
+    int m_taken = 0;
+};
 
 } // namespace
 
@@ -42,17 +145,20 @@ std::vector<FileSlice> slicesWithout(const std::vector<FileSlice> &slices,
 
 PdfImage toPdfImage(const QString &path, SystemCalls &calls, SourceMetadata metadata) {
     return readImageFile(path, calls, [metadata](const auto &file, const ImageFormat &format) {
-        PdfImage image = format.toPdfImage(file->view());
-        if (metadata == SourceMetadata::Strip && image.embeddedAs == EmbeddedAs::OwnBytes &&
-            format.metadata != nullptr) {
-            leaveOut(format.metadata(file->view()), image);
+        return onlyPicture(file, format, metadata);
+    });
+}
+
+Warnings forEachPicture(const QString &path, SystemCalls &calls, SourceMetadata metadata,
+                        const std::function<void(PdfImage)> &take) {
+    return readImageFile(path, calls, [&](const auto &file, const ImageFormat &format) {
+        if (format.readAll != nullptr) {
+            return Pictures(file, format, take).takeAll();
         }
-        file->requireUnchanged();
-        image.header.kind = format.kind;
-        if (!image.slices.empty()) {
-            image.source = file;
-        }
-        return image;
+        PdfImage image = onlyPicture(file, format, metadata);
+        Warnings warnings = std::exchange(image.warnings, {});
+        take(std::move(image));
+        return warnings;
     });
 }
 

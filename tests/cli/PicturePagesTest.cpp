@@ -58,6 +58,20 @@ class PicturePagesTest : public QObject, CommandLineCase {
         QCOMPARE(dense.box(u"MediaBox"_s, 2), QRectF(0, 0, 144, 288));
     }
 
+    void eachFrameIsAPageWhereAllAreAskedFor() {
+        const QString frames = path("frames.gif");
+        runTool(u"convert"_s, {u"-size"_s, u"30x20"_s, u"xc:red"_s, u"xc:blue"_s, frames});
+        const ToolRun run = merge("frames.pdf", {u"--image-pages=all"_s, frames});
+        QCOMPARE(run.err, "");
+        const PdfProbe pages(path("frames.pdf"));
+        QCOMPARE(pages.pageCount(), 2);
+        QCOMPARE(pages.render(1).pixelColor(15, 10), QColor(Qt::red));
+        QCOMPARE(pages.render(2).pixelColor(15, 10), QColor(Qt::blue));
+        const ToolRun first = merge("first.pdf", {u"--image-pages=first"_s, frames});
+        QVERIFY(first.err.contains("1 further picture is left out"));
+        QCOMPARE(PdfProbe(path("first.pdf")).pageCount(), 1);
+    }
+
     void aRoundedLengthIsSaidOnce() {
         const QStringList asked{u"--text-margins=25mm"_s, text("a.txt")};
         QCOMPARE(convert(asked).err, "folioforge-cli: --text-margins: 25mm is 71 points\n");

@@ -184,6 +184,17 @@ QStringList warningsOf(const PdfImage &image) {
     return texts;
 }
 
+std::vector<PdfImage> picturesOf(const QString &path, Warnings *warnings) {
+    std::vector<PdfImage> pictures;
+    const Warnings given =
+        forEachPicture(path, SystemCalls::system(), SourceMetadata::Keep,
+                       [&](PdfImage picture) { pictures.push_back(std::move(picture)); });
+    if (warnings != nullptr) {
+        *warnings = given;
+    }
+    return pictures;
+}
+
 QString refusalOf(const QString &path) {
     try {
         toPdfImage(path);

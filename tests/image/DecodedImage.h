@@ -9,6 +9,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <vector>
+
 namespace folioforge::test {
 
 /// A small image file of tests/data/image.
@@ -35,6 +37,9 @@ QByteArray unzipped(const QByteArray &bytes);
 
 /// The warnings of an encoded image as "code: text".
 QStringList warningsOf(const PdfImage &image);
+
+/// The pictures that forEachPicture() gives, and in `warnings` what it returns.
+std::vector<PdfImage> picturesOf(const QString &path, Warnings *warnings = nullptr);
 
 /// The reason with which toPdfImage() refuses the file; empty where it does not.
 QString refusalOf(const QString &path);

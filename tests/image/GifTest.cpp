@@ -5,6 +5,7 @@
 
 #include "image/ImageHeader.h"
 #include "support/Files.h"
+#include "support/PdfProbe.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -92,6 +93,51 @@ class GifTest : public QObject {
                  QStringList(u"more-pictures: 4999 further pictures are left out"_s));
     }
 
+    void eachFrameIsTheScreenAsItIsShown() {
+        const QString path = m_folder.filePath(u"frames.gif"_s);
+        const QStringList blue{
+            u"("_s,       u"-size"_s,  u"20x20"_s, u"xc:none"_s,
+            u"-fill"_s,   u"blue"_s,   u"-draw"_s, u"rectangle 2,2 12,12"_s,
+            u"-repage"_s, u"+30+25"_s, u")"_s}; // Beyond the screen's lower edge.
+        const auto plain = [](const QString &size, const QString &color, const QString &place) {
+            return QStringList{u"("_s,       u"-size"_s, size,  u"xc:"_s + color,
+                               u"-repage"_s, place,      u")"_s};
+        };
+        const QStringList dispose{u"-dispose"_s};
+        const QStringList frames =
+            dispose + QStringList{u"none"_s, u"-size"_s, u"60x40"_s, u"xc:red"_s} + dispose +
+            QStringList{u"background"_s} + blue + dispose + QStringList{u"previous"_s} +
+            plain(u"20x20"_s, u"green"_s, u"+30+10"_s) + dispose + QStringList{u"none"_s} +
+            plain(u"10x10"_s, u"yellow"_s, u"+40+20"_s) + blue;
+        QCOMPARE(runTool(u"convert"_s, frames + QStringList{path}).exitCode, 0);
+        const QByteArray shown =
+            runTool(u"convert"_s, {path, u"-coalesce"_s, u"-depth"_s, u"8"_s, u"rgba:-"_s}).out;
+        const auto pictures = picturesOf(path);
+        QCOMPARE(pictures.size(), size_t(5));
+        constexpr qsizetype kBytes = 60 * 40 * 4;
+        QCOMPARE(shown.size(), 5 * kBytes);
+        for (qsizetype frame = 0; frame < 5; ++frame) {
+            QCOMPARE(seenPixels(pictures[static_cast<size_t>(frame)]),
+                     seenPixels(shown.sliced(frame * kBytes, kBytes)));
+        }
+    }
+
+    void aFrameThatEndsEarlyIsNamedByItsPage() {
+        const QByteArray picture = QByteArray::fromHex("2c 0000 0000 0200 0200 00");
+        const QByteArray rows = codes(QByteArray::fromHex("00030003"));
+        const QByteArray cutRows = rows.first(1) + '\2' + rows.sliced(2, 2);
+        Warnings warnings;
+        QCOMPARE(picturesOf(gif("02000200", picture + rows + picture + cutRows), &warnings).size(),
+                 size_t(2));
+        QCOMPARE(warnings, (Warnings{{WarningCode::PictureDamaged,
+                                      u"Page 2: The picture is cut off: 50 % of its rows could "
+                                      u"not be read"_s}}));
+    }
+
+    void framesOfAFileWithoutAnyAreRefused() {
+        QVERIFY_EXCEPTION_THROWN(picturesOf(gif("02000200", comment() + ';')), Error);
+    }
+
     void dataThatEndsEarlyLeavesTheRowsBefore() {
         QByteArray bytes = QByteArray::fromHex("2c 0000 0000 0200 0200 00 02");
         const QByteArray data = codes(QByteArray::fromHex("00030003")).sliced(2).chopped(1);
@@ -131,6 +177,26 @@ class GifTest : public QObject {
                                                                                       "0000ff"
                                                                                       "ffffff") +
                                                                   rest);
+    }
+
+    /// Red, green, blue and opacity of each pixel; nothing but zeros where none is seen.
+    static QByteArray seenPixels(const QByteArray &rgba) {
+        QByteArray seen = rgba;
+        for (qsizetype at = 0; at < seen.size(); at += 4) {
+            if (seen[at + 3] == '\0') {
+                seen.replace(at, 3, QByteArray(3, '\0'));
+            }
+        }
+        return seen;
+    }
+    static QByteArray seenPixels(const PdfImage &image) {
+        const QByteArray colors = rgbRows(image);
+        const QByteArray opacity = image.softMask ? rgbRows(*image.softMask) : QByteArray();
+        QByteArray rgba;
+        for (qsizetype at = 0; at < colors.size(); at += 3) {
+            rgba += colors.sliced(at, 3) + (opacity.isEmpty() ? '\xFF' : opacity[at]);
+        }
+        return seenPixels(rgba);
     }
 
     static QByteArray comment() {

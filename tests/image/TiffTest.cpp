@@ -267,6 +267,43 @@ class TiffTest : public QObject {
         QCOMPARE(warningsOf(toPdfImage(path)), QStringList());
     }
 
+    void eachPageGoesInAsItsOwnBytesWhereAPdfCanHoldThem() {
+        const QString path = pagesOfThreeKinds();
+        QList<QByteArray> own;
+        const std::unique_ptr<TIFF, Close> tif(TIFFOpen(QFile::encodeName(path).constData(), "r"));
+        for (uint16_t page : {0, 1, 2}) {
+            TIFFSetDirectory(tif.get(), page);
+            QByteArray strip(static_cast<qsizetype>(TIFFRawStripSize(tif.get(), 0)), '\0');
+            TIFFReadRawStrip(tif.get(), 0, strip.data(), strip.size());
+            own += strip;
+        }
+        const auto pictures = picturesOf(path);
+        QCOMPARE(pictures.size(), size_t(3));
+        QCOMPARE(dataOf(pictures[0]), own[0]);
+        QCOMPARE(pictures[0].filter, ImageFilter::CcittFax);
+        QCOMPARE(pictures[1].filter, ImageFilter::Dct);
+        QCOMPARE(pictures[1].embeddedAs, EmbeddedAs::OwnBytes);
+        // The tables that the TIFF keeps apart stand before the rest of the strip.
+        QVERIFY(dataOf(pictures[1]).endsWith(own[1].sliced(2)));
+        QVERIFY(dataOf(pictures[1]).size() > own[1].size());
+        QCOMPARE(decoded(pictures[1]).size(), QSize(16, 8));
+        QCOMPARE(pictures[2].embeddedAs, EmbeddedAs::Recompressed);
+        QCOMPARE(rgbRows(pictures[2]).toHex(), QByteArray("010101020202"));
+    }
+
+    void aPageThatCannotBeReadIsLeftOutAndNamed() {
+        QByteArray bytes = bytesOf(pagesOf("l", {0, 0, 0}));
+        const QByteArray compression("\x03\x01\x03\x00\x01\x00\x00\x00", 8); // And its value.
+        const qsizetype first = bytes.indexOf(compression);
+        bytes[bytes.indexOf(compression, first + 1) + 8] = '\x99';
+        const QString path = writeFile(m_folder.filePath(u"middle.tif"_s), bytes);
+        Warnings warnings;
+        QCOMPARE(picturesOf(path, &warnings).size(), size_t(2));
+        QCOMPARE(warnings, (Warnings{{WarningCode::PictureDamaged,
+                                      u"Page 2: It is left out: The TIFF file cannot be read: its "
+                                      u"compression is not supported"_s}}));
+    }
+
     void shortDataIsRefused() {
         const QString path = tiff(20000, 20000, QByteArray(2000, 'x'),
                                   [](TIFF *tif) { setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR); });
@@ -341,6 +378,25 @@ class TiffTest : public QObject {
             TIFFWriteEncodedStrip(tif.get(), 0, row.data(), row.size());
             TIFFWriteDirectory(tif.get());
         }
+        return path;
+    }
+
+    /// A page in Group 4, one in JPEG and one of two grey pixels.
+    QString pagesOfThreeKinds() {
+        QString path = m_folder.filePath(u"kinds.tif"_s);
+        const std::unique_ptr<TIFF, Close> tif(TIFFOpen(QFile::encodeName(path).constData(), "w"));
+        const auto add = [&](int width, int height, int compression, int bits, QByteArray rows) {
+            TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, width);
+            TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, height);
+            TIFFSetField(tif.get(), TIFFTAG_ROWSPERSTRIP, height);
+            TIFFSetField(tif.get(), TIFFTAG_COMPRESSION, compression);
+            setSamples(tif.get(), 1, bits, PHOTOMETRIC_MINISBLACK);
+            TIFFWriteEncodedStrip(tif.get(), 0, rows.data(), rows.size());
+            TIFFWriteDirectory(tif.get());
+        };
+        add(16, 2, COMPRESSION_CCITTFAX4, 1, QByteArray::fromHex("0ff0f00f"));
+        add(16, 8, COMPRESSION_JPEG, 8, QByteArray(128, '\x40'));
+        add(2, 1, COMPRESSION_NONE, 8, QByteArray("\1\2", 2));
         return path;
     }
 

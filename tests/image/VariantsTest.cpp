@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "support/CmykJpeg.h"
 #include "support/Places.h"
 #include "support/TestUnit.h"
 
@@ -42,6 +43,9 @@ QByteArray unpacked(const PdfImage &image, int channels) {
 
 /// Four inks of each pixel, which a PNG file of four channels holds where they are whole bytes.
 QByteArray inksOf(const PdfImage &image) {
+    if (image.filter == ImageFilter::Dct) {
+        return samplesOfCmykJpeg(dataOf(image));
+    }
     if (image.bitsPerComponent < 8) {
         return unpacked(image, 4);
     }

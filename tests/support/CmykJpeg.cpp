@@ -35,4 +35,25 @@ QByteArray cmykJpeg(const QImage &image, CmykForm form) {
     });
 }
 
+QByteArray samplesOfCmykJpeg(const QByteArray &jpeg) {
+    jpeg_decompress_struct codec = {};
+    jpeg_error_mgr errors = {};
+    codec.err = jpeg_std_error(&errors);
+    jpeg_create_decompress(&codec);
+    jpeg_mem_src(&codec, reinterpret_cast<const uchar *>(jpeg.constData()),
+                 static_cast<unsigned long>(jpeg.size()));
+    jpeg_read_header(&codec, TRUE);
+    codec.out_color_space = JCS_CMYK;
+    jpeg_start_decompress(&codec);
+    QByteArray samples;
+    QByteArray row(qsizetype{4} * codec.output_width, '\0');
+    auto *target = reinterpret_cast<JSAMPLE *>(row.data());
+    while (codec.output_scanline < codec.output_height &&
+           jpeg_read_scanlines(&codec, &target, 1) == 1) {
+        samples.append(row.constData(), row.size()); // A copy, as the row is written anew.
+    }
+    jpeg_destroy_decompress(&codec);
+    return samples;
+}
+
 } // namespace folioforge::test

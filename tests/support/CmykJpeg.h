@@ -17,4 +17,7 @@ enum class CmykForm {
 /// A JPEG file of the inks that print the colours of `image`.
 QByteArray cmykJpeg(const QImage &image, CmykForm form);
 
+/// The four samples of each pixel of a JPEG file as libjpeg gives them.
+QByteArray samplesOfCmykJpeg(const QByteArray &jpeg);
+
 } // namespace folioforge::test

@@ -12,6 +12,9 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +23,9 @@ namespace folioforge {
 namespace {
 
 constexpr Argb kTransparent = 0x00FFFFFF;
+
+/// Of a picture of which nothing is said.
+constexpr GraphicsControlBlock kNoControl{DISPOSAL_UNSPECIFIED, false, 0, NO_TRANSPARENT_COLOR};
 
 /// A GIF file opened with giflib over a view.
 class GifFile {
@@ -35,33 +41,44 @@ class GifFile {
     [[nodiscard]] GifFileType *operator->() const { return m_handle.get(); }
     [[nodiscard]] GifFileType *handle() const { return m_handle.get(); }
 
-    /// Goes to the first picture and returns the number of its transparent colour, -1 for none.
-    int goToPicture() const {
-        int transparent = NO_TRANSPARENT_COLOR;
+    /// Goes to the first picture and gives what is said of it.
+    GraphicsControlBlock goToPicture() const {
+        GraphicsControlBlock control = kNoControl;
         for (;;) {
             GifRecordType type = UNDEFINED_RECORD_TYPE;
             require(DGifGetRecordType(handle(), &type));
             if (type == IMAGE_DESC_RECORD_TYPE) {
                 require(DGifGetImageDesc(handle()));
-                return transparent;
+                return control;
             }
             if (type == TERMINATE_RECORD_TYPE) {
                 throw Error(u"The file holds no image"_s);
             }
-            readExtension(transparent);
+            require(readExtension(control) ? GIF_OK : GIF_ERROR);
         }
+    }
+
+    /// Goes to the picture behind the current one, whose rows have been read; nothing where the
+    /// file ends before one begins.
+    [[nodiscard]] std::optional<GraphicsControlBlock> goToNextPicture() const {
+        GraphicsControlBlock control = kNoControl;
+        GifRecordType type = UNDEFINED_RECORD_TYPE;
+        while (DGifGetRecordType(handle(), &type) == GIF_OK && type != TERMINATE_RECORD_TYPE) {
+            if (type == IMAGE_DESC_RECORD_TYPE) {
+                return DGifGetImageDesc(handle()) == GIF_OK ? std::optional(control) : std::nullopt;
+            }
+            if (!readExtension(control)) {
+                break;
+            }
+        }
+        return std::nullopt;
     }
 
     /// The pictures behind the current one, whose rows have been read.
     [[nodiscard]] qint64 countFurtherPictures() const {
         qint64 pictures = 0;
-        GifRecordType type = UNDEFINED_RECORD_TYPE;
-        while (DGifGetRecordType(handle(), &type) == GIF_OK && type != TERMINATE_RECORD_TYPE) {
-            const bool isPicture = type == IMAGE_DESC_RECORD_TYPE;
-            if (!(isPicture ? skipPicture() : skipExtension())) {
-                break;
-            }
-            pictures += isPicture ? 1 : 0;
+        while (goToNextPicture() && skipRows()) {
+            ++pictures;
         }
         return pictures;
     }
@@ -101,37 +118,26 @@ class GifFile {
         }
     }
 
-    void readExtension(int &transparent) const {
-        int kind = 0;
-        GifByteType *block = nullptr;
-        require(DGifGetExtension(handle(), &kind, &block));
-        while (block != nullptr) {
-            GraphicsControlBlock control = {};
-            if (kind == GRAPHICS_EXT_FUNC_CODE &&
-                DGifExtensionToGCB(block[0], block + 1, &control) == GIF_OK) {
-                transparent = control.TransparentColor;
-            }
-            require(DGifGetExtensionNext(handle(), &block));
-        }
-    }
-
-    [[nodiscard]] bool skipPicture() const {
-        int codeBits = 0;
-        GifByteType *block = nullptr;
-        bool isWhole = DGifGetImageDesc(handle()) == GIF_OK &&
-                       DGifGetCode(handle(), &codeBits, &block) == GIF_OK;
-        while (isWhole && block != nullptr) {
-            isWhole = DGifGetCodeNext(handle(), &block) == GIF_OK;
-        }
-        return isWhole;
-    }
-
-    [[nodiscard]] bool skipExtension() const {
+    /// False where the extension is not whole.
+    [[nodiscard]] bool readExtension(GraphicsControlBlock &control) const {
         int kind = 0;
         GifByteType *block = nullptr;
         bool isWhole = DGifGetExtension(handle(), &kind, &block) == GIF_OK;
         while (isWhole && block != nullptr) {
+            if (kind == GRAPHICS_EXT_FUNC_CODE) {
+                DGifExtensionToGCB(block[0], block + 1, &control);
+            }
             isWhole = DGifGetExtensionNext(handle(), &block) == GIF_OK;
+        }
+        return isWhole;
+    }
+
+    [[nodiscard]] bool skipRows() const {
+        int codeBits = 0;
+        GifByteType *block = nullptr;
+        bool isWhole = DGifGetCode(handle(), &codeBits, &block) == GIF_OK;
+        while (isWhole && block != nullptr) {
+            isWhole = DGifGetCodeNext(handle(), &block) == GIF_OK;
         }
         return isWhole;
     }
@@ -175,16 +181,18 @@ ImageHeader readHeader(const FileView &file) {
     return headerOf(gif);
 }
 
-/// What stands where the picture does not reach, or where its data ends early.
+/// What stands where no picture does.
+Argb groundOf(const GifFile &gif, int transparent) {
+    const int number = transparent >= 0 ? transparent : gif->SBackGroundColor & 0xFF;
+    return colorsOf(gif->SColorMap, transparent)[static_cast<size_t>(number)];
+}
+
+/// What stands where the first picture does not reach, or where its data ends early.
 Argb backgroundOf(const GifFile &gif, int transparent) {
     const GifImageDesc &picture = gif->Image;
     const bool coversAll = picture.Left == 0 && picture.Top == 0 && picture.Width >= gif->SWidth &&
                            picture.Height >= gif->SHeight;
-    if (coversAll) {
-        return 0;
-    }
-    const int number = transparent >= 0 ? transparent : gif->SBackGroundColor & 0xFF;
-    return colorsOf(gif->SColorMap, transparent)[static_cast<size_t>(number)];
+    return coversAll ? 0 : groundOf(gif, transparent);
 }
 
 /// The rows of a picture in the order in which it stores them.
@@ -206,8 +214,9 @@ std::vector<int> storedRows(const GifImageDesc &picture) {
     return rows;
 }
 
-/// Draws the picture where it lies on the screen; gives how many of its rows cannot be read.
-qint64 drawPicture(const GifFile &gif, int transparent, ArgbImage &screen) {
+/// Draws the picture where it lies on the screen; gives how many of its rows cannot be read. Of a
+/// further picture, what is transparent leaves what stands there.
+qint64 drawPicture(const GifFile &gif, int transparent, ArgbImage &screen, bool isFurther = false) {
     const GifImageDesc &picture = gif->Image;
     const auto colors =
         colorsOf(picture.ColorMap != nullptr ? picture.ColorMap : gif->SColorMap, transparent);
@@ -220,33 +229,112 @@ qint64 drawPicture(const GifFile &gif, int transparent, ArgbImage &screen) {
         }
         ++read;
         if (picture.Top + y < screen.height && columns > 0) {
-            std::transform(line.begin(), line.begin() + columns,
-                           screen.row(picture.Top + y) + picture.Left,
-                           [&](GifPixelType number) { return colors[number]; });
+            Argb *target = screen.row(picture.Top + y) + picture.Left;
+            std::transform(line.begin(), line.begin() + columns, target, target,
+                           [&](GifPixelType number, Argb below) {
+                               return !isFurther              ? colors[number]
+                                      : number == transparent ? below
+                                                              : colors[number] | kOpaque;
+                           });
         }
     }
     return picture.Height - read;
 }
 
+/// The screen that the pictures of a file are drawn on, one after another.
+class GifPictureReader : public PictureReader {
+  public:
+    explicit GifPictureReader(const FileView &file)
+        : m_file(file)
+        , m_gif(m_file) {}
+
+    std::optional<PdfImage> next() override {
+        return std::exchange(m_hasBegun, true) ? further() : first();
+    }
+
+    PdfImage first() {
+        constexpr qint64 kLzwRatio = 3000;
+        m_control = m_gif.goToPicture();
+        m_header = headerOf(m_gif);
+        const qint64 pixels = qint64(m_header.width) * m_header.height;
+        requirePlausible(pixels, m_file.size(), kLzwRatio);
+        const int transparent = m_control.TransparentColor;
+        m_screen = {m_header.width, m_header.height, transparent >= 0, {}};
+        m_screen.pixels.assign(static_cast<size_t>(pixels), backgroundOf(m_gif, transparent));
+        return draw(false);
+    }
+
+    /// The pictures behind the one that was read.
+    [[nodiscard]] qint64 countFurther() const { return m_gif.countFurtherPictures(); }
+
+  private:
+    std::optional<PdfImage> further() {
+        const GifImageDesc drawn = m_gif->Image;
+        const bool mayGoOn = !m_isCutOff && !m_screen.pixels.empty();
+        const auto control = mayGoOn ? m_gif.goToNextPicture() : std::nullopt;
+        if (!control) {
+            return std::nullopt;
+        }
+        if (!m_screen.hasAlpha) {
+            std::ranges::for_each(m_screen.pixels, [](Argb &pixel) { pixel |= kOpaque; });
+            m_screen.hasAlpha = true;
+        }
+        dispose(drawn);
+        m_control = *control;
+        return draw(true);
+    }
+
+    PdfImage draw(bool isFurther) {
+        const bool comesBack = isFurther && m_control.DisposalMode == DISPOSE_PREVIOUS;
+        m_before = comesBack ? m_screen.pixels : std::vector<Argb>();
+        const qint64 missing = drawPicture(m_gif, m_control.TransparentColor, m_screen, isFurther);
+        m_isCutOff = missing > 0;
+        if (missing > 0 && missing == m_gif->Image.Height) {
+            throw Error(u"The GIF file is damaged"_s);
+        }
+        PdfImage image = encodeRaster(rasterOf(m_screen), m_header);
+        if (missing > 0) {
+            image.warnings.push_back(cutOffPicture(missing, m_gif->Image.Height));
+        }
+        return image;
+    }
+
+    /// What becomes of the picture at `drawn` before the next one.
+    void dispose(const GifImageDesc &drawn) {
+        if (!m_before.empty()) {
+            m_screen.pixels = std::move(m_before);
+        } else if (m_control.DisposalMode == DISPOSE_PREVIOUS) {
+            std::ranges::fill(m_screen.pixels, 0); // Before the first there was nothing.
+        } else if (m_control.DisposalMode == DISPOSE_BACKGROUND) {
+            const Argb ground = groundOf(m_gif, m_control.TransparentColor) |
+                                (m_control.TransparentColor >= 0 ? 0 : kOpaque);
+            const auto columns = std::clamp<qsizetype>(m_screen.width - drawn.Left, 0, drawn.Width);
+            for (int y = drawn.Top;
+                 columns > 0 && y < std::min(drawn.Top + drawn.Height, m_screen.height); ++y) {
+                std::fill_n(m_screen.row(y) + drawn.Left, columns, ground);
+            }
+        }
+    }
+
+    FileView m_file;
+    GifFile m_gif;
+    ImageHeader m_header;
+    GraphicsControlBlock m_control = kNoControl; ///< Of the picture that was drawn last.
+    ArgbImage m_screen;
+    std::vector<Argb> m_before; ///< What stood there before it; empty where that does not return.
+    bool m_hasBegun = false;
+    bool m_isCutOff = false;
+};
+
 PdfImage toPdfImage(const FileView &file) {
-    constexpr qint64 kLzwRatio = 3000;
-    const GifFile gif(file);
-    const int transparent = gif.goToPicture();
-    const ImageHeader header = headerOf(gif);
-    const qint64 pixels = qint64(header.width) * header.height;
-    requirePlausible(pixels, file.size(), kLzwRatio);
-    ArgbImage screen{header.width, header.height, transparent >= 0, {}};
-    screen.pixels.assign(static_cast<size_t>(pixels), backgroundOf(gif, transparent));
-    const qint64 missing = drawPicture(gif, transparent, screen);
-    if (missing > 0 && missing == gif->Image.Height) {
-        throw Error(u"The GIF file is damaged"_s);
-    }
-    PdfImage image = encodeRaster(rasterOf(screen), header);
-    if (missing > 0) {
-        image.warnings.push_back(cutOffPicture(missing, gif->Image.Height));
-    }
-    addMorePictures(image.warnings, gif.countFurtherPictures(), QLatin1StringView("picture"));
+    GifPictureReader reader(file);
+    PdfImage image = reader.first();
+    addMorePictures(image.warnings, reader.countFurther(), QLatin1StringView("picture"));
     return image;
+}
+
+std::unique_ptr<PictureReader> readAll(const FileView &file) {
+    return std::make_unique<GifPictureReader>(file);
 }
 
 bool recognises(QByteArrayView head) {
@@ -256,7 +344,8 @@ bool recognises(QByteArrayView head) {
 } // namespace
 
 ImageFormat gifFormat() {
-    return {ImageKind::Gif, {QLatin1StringView("gif")}, recognises, readHeader, toPdfImage};
+    return {ImageKind::Gif, {QLatin1StringView("gif")}, recognises, readHeader, toPdfImage, nullptr,
+            readAll};
 }
 
 } // namespace folioforge

@@ -141,9 +141,7 @@ void requireKnownProcess(const JpegFrame &frame) {
 /// Whether the components are RGB though they are not marked: readers take three for YCbCr unless
 /// Adobe's mark or the PDF says otherwise.
 bool isPlainRgb(const JpegMetadata &metadata) {
-    return !metadata.hasAdobe && !metadata.hasJfif &&
-           std::ranges::equal(metadata.frame.components, QByteArrayView("RGB"), {},
-                              &JpegComponent::id, [](char id) { return static_cast<uchar>(id); });
+    return !metadata.hasAdobe && !metadata.hasJfif && isNamedRgb(metadata.frame);
 }
 
 /// Adobe's programs store ink inverted.

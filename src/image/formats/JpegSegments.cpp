@@ -155,6 +155,11 @@ void JpegSegments::probeCodedData(JpegSegment &scan, qint64 end, bool hasRestart
     scan.end = m_at = end;
 }
 
+bool isNamedRgb(const JpegFrame &frame) {
+    return std::ranges::equal(frame.components, QByteArrayView("RGB"), {}, &JpegComponent::id,
+                              [](char id) { return static_cast<uchar>(id); });
+}
+
 bool isFrameHeader(uchar marker) {
     return marker >= Sof0 && marker <= Sof15 && marker != Dht && marker != JpgReserved &&
            marker != Dac;

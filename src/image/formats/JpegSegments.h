@@ -98,6 +98,8 @@ struct JpegFrame {
     std::vector<JpegComponent> components;
 };
 
+/// Whether the components are named R, G and B.
+bool isNamedRgb(const JpegFrame &frame);
 /// Whether the marker begins a frame header.
 bool isFrameHeader(uchar marker);
 /// Whether no decoder needs the segment to show the picture: Exif, XMP, comments, thumbnails.

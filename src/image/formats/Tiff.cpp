@@ -2,10 +2,11 @@
 
 #include "image/formats/Formats.h"
 
+#include "image/MorePictures.h"
 #include "image/PictureDamage.h"
 #include "image/formats/Tiff.h"
 
-#include <array>
+#include <utility>
 
 namespace folioforge {
 
@@ -50,71 +51,70 @@ ImageHeader readHeader(const FileView &file) {
     return imageHeaderOf(tiff, readTiffShape(tiff));
 }
 
-/// One strip of group 4 is what a PDF holds; more than one would each start anew.
-bool isPlainGroup4(const TiffFile &tiff, const TiffShape &shape) {
-    uint32_t options = 0;
-    TIFFGetField(tiff.handle(), TIFFTAG_GROUP4OPTIONS, &options);
-    return shape.compression == COMPRESSION_CCITTFAX4 && shape.bits == 1 && shape.samples == 1 &&
-           (shape.photometric == PHOTOMETRIC_MINISWHITE ||
-            shape.photometric == PHOTOMETRIC_MINISBLACK) &&
-           TIFFIsTiled(tiff.handle()) == 0 && TIFFNumberOfStrips(tiff.handle()) == 1 &&
-           options == 0;
-}
+constexpr QLatin1StringView kLostPage("The file names a further page that cannot be read");
 
-QByteArray withBitsReversed(QByteArray bytes) {
-    TIFFReverseBits(reinterpret_cast<uint8_t *>(bytes.data()), bytes.size());
-    return bytes;
-}
-
-PdfImage ownGroup4Data(const FileView &file, const TiffFile &tiff, const TiffShape &shape) {
-    PdfImage image;
-    image.width = shape.width;
-    image.height = shape.height;
-    image.bitsPerComponent = 1;
-    image.color = ImageColor::Gray;
-    image.filter = ImageFilter::CcittFax;
-    image.embeddedAs = EmbeddedAs::OwnBytes;
-    image.ccittK = -1;
-    // The runs that fax calls black are the 1 bits: white where 0 is black.
-    image.ccittBlackIs1 = shape.photometric == PHOTOMETRIC_MINISBLACK;
-    const FileView strip = file.part(static_cast<qint64>(TIFFGetStrileOffset(tiff.handle(), 0)),
-                                     static_cast<qint64>(TIFFGetStrileByteCount(tiff.handle(), 0)));
-    if (tiff.number(TIFFTAG_FILLORDER, FILLORDER_MSB2LSB) == FILLORDER_LSB2MSB) {
-        image.data = withBitsReversed(strip.readExactly(0, strip.size()));
-    } else {
-        image.slices = {{strip.offset(), strip.size()}};
-    }
-    return image;
-}
-
-PdfImage toPdfImage(const FileView &file) {
-    const TiffFile tiff(file);
+/// The page of one directory.
+PdfImage pageOf(const TiffFile &tiff) {
     const TiffShape shape = readTiffShape(tiff);
     const ImageHeader header = imageHeaderOf(tiff, shape);
     TiffDamage damage;
     Raster raster = decodeTiff(tiff, shape, damage);
-    // Group 4 data is kept where all of its rows could be decoded.
-    PdfImage image = damage.isNone() && isPlainGroup4(tiff, shape)
-                         ? ownGroup4Data(file, tiff, shape)
-                         : encodeRaster(std::move(raster), header);
+    // The file's own data are kept where all of the rows could be decoded.
+    auto own = damage.isNone() ? ownTiffBytes(tiff, shape, raster) : std::nullopt;
+    PdfImage image = own ? std::move(*own) : encodeRaster(std::move(raster), header);
     image.header = header;
     if (damage.missing > 0) {
         image.warnings.push_back(cutOffPicture(damage.missing, damage.all));
     } else if (damage.isFaulty) {
         image.warnings.push_back(faultyPicture());
     }
-    addFurtherPages(file, image.warnings);
     return image;
+}
+
+PdfImage toPdfImage(const FileView &file) {
+    PdfImage image = pageOf(TiffFile(file));
+    const TiffPages pages = findTiffPages(file);
+    if (pages.isCutOff) {
+        image.warnings.push_back({WarningCode::PictureDamaged, kLostPage});
+    }
+    addMorePictures(image.warnings, static_cast<qint64>(pages.directories.size()) - 1,
+                    QLatin1StringView("page"));
+    return image;
+}
+
+class TiffPageReader : public PictureReader {
+  public:
+    explicit TiffPageReader(const FileView &file)
+        : m_file(file)
+        , m_pages(findTiffPages(file)) {}
+
+    std::optional<PdfImage> next() override {
+        if (m_next < m_pages.directories.size()) {
+            return pageOf(TiffFile(m_file, m_pages.directories[m_next++]));
+        }
+        if (std::exchange(m_pages.isCutOff, false)) {
+            throw Error(kLostPage);
+        }
+        return std::nullopt;
+    }
+
+  private:
+    FileView m_file;
+    TiffPages m_pages;
+    std::size_t m_next = 0;
+};
+
+std::unique_ptr<PictureReader> readAll(const FileView &file) {
+    return std::make_unique<TiffPageReader>(file);
 }
 
 } // namespace
 
 ImageFormat tiffFormat() {
-    return {ImageKind::Tiff,
-            {QLatin1StringView("tif"), QLatin1StringView("tiff")},
-            recognises,
-            readHeader,
-            toPdfImage};
+    return {ImageKind::Tiff, {QLatin1StringView("tif"), QLatin1StringView("tiff")},
+            recognises,      readHeader,
+            toPdfImage,      nullptr,
+            readAll};
 }
 
 } // namespace folioforge

@@ -20,12 +20,15 @@ QString tiffReason(const QString &message);
 /// the first message of an error.
 class TiffFile {
   public:
-    /// Opens the first directory; throws Error when it cannot be read. With `padding`, as many of
-    /// these bytes as are asked for stand behind the end of the file.
-    explicit TiffFile(const FileView &file, std::optional<char> padding = std::nullopt);
+    /// Opens the directory at byte `directory`, the first one where that is 0; throws Error when it
+    /// cannot be read. With `padding`, as many of these bytes as are asked for stand behind the end
+    /// of the file.
+    explicit TiffFile(const FileView &file, qint64 directory = 0,
+                      std::optional<char> padding = std::nullopt);
 
     [[nodiscard]] TIFF *handle() const { return m_handle.get(); }
     [[nodiscard]] const FileView &file() const { return m_state->file; }
+    [[nodiscard]] qint64 directory() const { return m_directory; }
 
     /// The value of a tag of 16 bits, `missing` where it is absent and has no default.
     [[nodiscard]] int number(uint32_t tag, int missing) const;
@@ -60,9 +63,10 @@ class TiffFile {
 
     std::unique_ptr<State> m_state; ///< libtiff holds its address.
     std::unique_ptr<TIFF, Close> m_handle;
+    qint64 m_directory;
 };
 
-/// How the first directory lays out its samples (TIFF 6.0).
+/// How a directory lays out its samples (TIFF 6.0).
 struct TiffShape {
     int width = 0;
     int height = 0;
@@ -101,7 +105,8 @@ struct TiffDamage {
 /// holds the state of one decoder: each thread needs its own.
 class TiffReader {
   public:
-    TiffReader(const FileView &file, const TiffShape &shape, int plane);
+    /// Reads the directory of `tiff` through a handle of its own.
+    TiffReader(const TiffFile &tiff, const TiffShape &shape, int plane);
 
     /// Decodes the strip of `rows` rows of `stride` bytes that begins with row `y`.
     void readStrip(int y, int rows, qsizetype stride, char *target);
@@ -136,11 +141,21 @@ void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw)
 std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape,
                                       TiffDamage &damage);
 
-/// Adds what the file holds behind its first page, which is left out: smaller copies and masks of
-/// a page do not count.
-void addFurtherPages(const FileView &file, Warnings &warnings);
+/// Where the directories of a file's pages stand: the first one and those behind it that are no
+/// smaller copies or masks of a page.
+struct TiffPages {
+    std::vector<qint64> directories; ///< Bytes from the start of the file; 0 for the first.
+    bool isCutOff = false;           ///< A further page is named and cannot be found.
+};
 
-/// Decodes the first directory. Throws Error.
+TiffPages findTiffPages(const FileView &file);
+
+/// Decodes the directory. Throws Error.
 Raster decodeTiff(const TiffFile &tiff, const TiffShape &shape, TiffDamage &damage);
+
+/// The data of a directory that go into a PDF as they are: Group 4 and JPEG in one piece. Nothing
+/// for others. `raster` is what they were decoded to, without a fault.
+std::optional<PdfImage> ownTiffBytes(const TiffFile &tiff, const TiffShape &shape,
+                                     const Raster &raster);
 
 } // namespace folioforge

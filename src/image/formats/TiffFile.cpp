@@ -22,17 +22,20 @@ struct FreeOptions {
 
 } // namespace
 
-TiffFile::TiffFile(const FileView &file, std::optional<char> padding)
-    : m_state(new State{file, padding, 0, {}, 0, 0}) {
+TiffFile::TiffFile(const FileView &file, qint64 directory, std::optional<char> padding)
+    : m_state(new State{file, padding, 0, {}, 0, 0})
+    , m_directory(directory) {
     const std::unique_ptr<TIFFOpenOptions, FreeOptions> options(TIFFOpenOptionsAlloc());
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), keepMessage, m_state.get());
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), countWarning, m_state.get());
     constexpr tmsize_t kMaxBytesAtOnce = kMaxImagePixels * 8;
     TIFFOpenOptionsSetMaxSingleMemAlloc(options.get(), kMaxBytesAtOnce);
-    // m: no mapping, since a file that shrinks while mapped ends the process.
-    m_handle.reset(TIFFClientOpenExt("image", "rm", m_state.get(), read, refuseWrite, seek, close,
-                                     size, nullptr, nullptr, options.get()));
-    if (!m_handle) {
+    // m: no mapping, since a file that shrinks while mapped ends the process. h: no directory yet.
+    m_handle.reset(TIFFClientOpenExt("image", directory == 0 ? "rm" : "rhm", m_state.get(), read,
+                                     refuseWrite, seek, close, size, nullptr, nullptr,
+                                     options.get()));
+    if (!m_handle || (directory != 0 &&
+                      TIFFSetSubDirectory(m_handle.get(), static_cast<uint64_t>(directory)) == 0)) {
         fail();
     }
 }

@@ -3,7 +3,6 @@
 #include "image/formats/Tiff.h"
 
 #include "image/Bytes.h"
-#include "image/MorePictures.h"
 
 #include <QSet>
 
@@ -69,9 +68,9 @@ class DirectoryWalk {
 
 } // namespace
 
-void addFurtherPages(const FileView &file, Warnings &warnings) {
+TiffPages findTiffPages(const FileView &file) {
     constexpr qsizetype kMaxPages = 65535; // libtiff counts no further.
-    qint64 pages = 0;
+    TiffPages found{{0}, false};
     try {
         const DirectoryWalk walk(file);
         QSet<qint64> seen = {walk.first()};
@@ -81,13 +80,14 @@ void addFurtherPages(const FileView &file, Warnings &warnings) {
                 break; // A chain that leads back to itself has no further page.
             }
             seen.insert(at);
-            pages += walk.isPage(at) ? 1 : 0;
+            if (walk.isPage(at)) {
+                found.directories.push_back(at);
+            }
         }
     } catch (const Error &) {
-        warnings.push_back({WarningCode::PictureDamaged,
-                            QStringLiteral("The file names a further page that cannot be read")});
+        found.isCutOff = true;
     }
-    addMorePictures(warnings, pages, QLatin1StringView("page"));
+    return found;
 }
 
 } // namespace folioforge

@@ -40,7 +40,7 @@ void readStrips(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPla
     char *rows = target.rows.data();
     std::mutex mutex;
     forEachBand(strips, step * target.stride, [&](int first, int end) {
-        TiffReader reader(tiff.file(), shape, plane);
+        TiffReader reader(tiff, shape, plane);
         for (int y = first * step; y < std::min(end * step, shape.height); y += step) {
             reader.readStrip(y, std::min(step, shape.height - y), target.stride,
                              rows + y * target.stride);
@@ -52,7 +52,7 @@ void readStrips(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPla
 
 void readTiles(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlane &target,
                TiffDamage &damage) {
-    TiffReader reader(tiff.file(), shape, plane);
+    TiffReader reader(tiff, shape, plane);
     TIFF *tif = reader.tiff().handle();
     uint32_t tileWidth = 0;
     uint32_t tileHeight = 0;
@@ -106,7 +106,7 @@ std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &sha
     const qsizetype stride = rowBytes(shape.width, separate ? 1 : shape.samples, shape.bits);
     requireEnoughData(tiff, shape, qint64(planes) * stride * shape.height);
     if (TIFFIsTiled(tiff.handle()) == 0 &&
-        TIFFScanlineSize(TiffReader(tiff.file(), shape, 0).tiff().handle()) != stride) {
+        TIFFScanlineSize(TiffReader(tiff, shape, 0).tiff().handle()) != stride) {
         tiff.fail(); // Subsampled rows have another form, which decodeTiff() keeps from here.
     }
     std::vector<TiffPlane> result;

@@ -24,10 +24,10 @@ void chooseJpegColor(const TiffFile &tiff, const TiffShape &shape) {
 
 } // namespace
 
-TiffReader::TiffReader(const FileView &file, const TiffShape &shape, int plane)
+TiffReader::TiffReader(const TiffFile &tiff, const TiffShape &shape, int plane)
     : m_shape(shape)
     , m_plane(plane)
-    , m_tiff(file) {
+    , m_tiff(tiff.file(), tiff.directory()) {
     chooseJpegColor(m_tiff, shape);
 }
 
@@ -92,8 +92,8 @@ int TiffReader::readRows(const TiffFile &tiff, int y, int rows, qsizetype stride
 /// makes no difference to the rows before it, and to these alone.
 void TiffReader::rescueStrip(int y, int rows, qsizetype stride, char *target) {
     if (!m_padded) {
-        m_padded = std::make_unique<TiffFile>(m_tiff.file(), '\0');
-        m_paddedOtherwise = std::make_unique<TiffFile>(m_tiff.file(), '\xFF');
+        m_padded = std::make_unique<TiffFile>(m_tiff.file(), m_tiff.directory(), '\0');
+        m_paddedOtherwise = std::make_unique<TiffFile>(m_tiff.file(), m_tiff.directory(), '\xFF');
         chooseJpegColor(*m_padded, m_shape);
         chooseJpegColor(*m_paddedOtherwise, m_shape);
     }
