@@ -4,6 +4,7 @@
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/Process.h"
+#include "cli/Versions.h"
 #include "files/ProcessSetup.h"
 
 #include <QCoreApplication>
@@ -21,6 +22,14 @@ int show(Console &console, const QByteArray &text) {
     return console.finishResults() ? AllConverted : SomeFailed;
 }
 
+QByteArray versions() {
+    QStringList libraries;
+    for (const auto &[library, version] : libraryVersions()) {
+        libraries += library + u' ' + version;
+    }
+    return (toolVersion() + u"\nwith "_s + libraries.join(u", "_s)).toUtf8();
+}
+
 int run(int argc, char *argv[]) {
     useUtf8FileNames();
     const std::vector<QByteArray> words(argv + 1, argv + argc);
@@ -34,7 +43,7 @@ int run(int argc, char *argv[]) {
     const auto &arguments = std::get<Arguments>(parsed);
     switch (arguments.request) {
     case Request::ShowVersion:
-        return show(console, "folioforge-cli " FOLIOFORGE_VERSION);
+        return show(console, versions());
     case Request::ShowHelp:
         return show(console, helpText());
     case Request::Convert:
