@@ -31,6 +31,9 @@ class Call : private RunObserver {
     }
 
     ExitStatus convertAll() {
+        if (m_arguments.json) {
+            m_console.result(reportHead());
+        }
         std::vector<Input> inputs = collect();
         if (!inputs.empty()) {
             convert(std::move(inputs));
@@ -38,6 +41,7 @@ class Call : private RunObserver {
             m_console.complain(u"There is no file to convert"_s);
             fail();
         }
+        writeLinesBefore(m_names.size() + 1);
         if (!m_console.finishResults()) {
             fail();
         }
@@ -47,20 +51,19 @@ class Call : private RunObserver {
   private:
     void fail() { m_status = std::max(m_status, SomeFailed); }
 
-    /// The inputs that can be converted; the others are reported.
+    /// The inputs that can be converted; of the others is told.
     std::vector<Input> collect() {
         std::vector<Input> accepted;
         for (Input &input :
              collectInputs(m_arguments.inputs, m_arguments.taking, m_readableLinks, m_pipes)) {
+            const std::size_t place = m_arguments.sort ? 0 : accepted.size();
             if (!input.leftOut.empty()) {
-                report(InputResult::listed(input.shown, input.leftOut));
-                continue;
-            }
-            if (input.read.problem.isEmpty()) {
+                setAside(place, InputResult::listed(input.shown, input.leftOut));
+            } else if (input.read.problem.isEmpty()) {
                 accepted.push_back(std::move(input));
-                continue;
+            } else {
+                setAside(place, InputResult::rejected(input.shown, input.read.problem));
             }
-            report(InputResult::rejected(input.shown, input.read.problem));
         }
         if (m_arguments.sort) {
             sortInputs(accepted, *m_arguments.sort);
@@ -68,14 +71,34 @@ class Call : private RunObserver {
         return accepted;
     }
 
+    /// Tells of an input that is none at once, and in the report in its place: before the entry
+    /// `place`.
+    void setAside(std::size_t place, const InputResult &result) {
+        tell(result);
+        if (m_arguments.json) {
+            m_aside.emplace_back(place, toJson(result));
+        }
+    }
+
+    /// Writes what was set aside and stands before the entry `end` or those before it.
+    void writeLinesBefore(std::size_t end) {
+        for (; m_asideWritten < m_aside.size() && m_aside[m_asideWritten].first < end;
+             ++m_asideWritten) {
+            m_console.result(m_aside[m_asideWritten].second);
+        }
+    }
+
     void convert(std::vector<Input> inputs) {
         std::vector<PDFFileInfo> entries;
         for (Input &input : inputs) {
-            entries.push_back(std::move(input.read.entry));
             m_names.push_back(input.shown);
+            m_files.push_back(input.read.entry.filePathName());
+            entries.push_back(std::move(input.read.entry));
         }
         const std::stop_token outOfTime = outOfProcessorTime();
         Run run(std::move(entries), m_arguments.options, applicationBundlePath(), outOfTime);
+        const bool compresses = run.compresses() && !m_arguments.options.dryRun;
+        m_progress.setFull(compresses ? kFull : kPagesShare);
         run.convertAll(m_temporaryFolder, *this, m_arguments.jobs);
         m_progress.finish();
         if (outOfTime.stop_requested()) {
@@ -89,7 +112,7 @@ class Call : private RunObserver {
         m_console.complain(reason);
         fail();
         for (; m_reported < m_names.size(); ++m_reported) {
-            report(InputResult::failed(m_names[m_reported], reason));
+            report(m_reported, InputResult::failed(m_names[m_reported], reason));
         }
     }
 
@@ -108,11 +131,7 @@ class Call : private RunObserver {
         if (result.outcome.isWritten()) {
             handOver(result);
         }
-        for (std::size_t i = 0; i < result.outcome.entries.size(); ++i) {
-            const InputResult input = InputResult::of(m_names[result.firstEntry + i], result, i);
-            m_reported = result.firstEntry + i + 1;
-            report(input);
-        }
+        reportEntries(result);
         if (close.status == CloseResult::Status::NameTaken) {
             m_console.complain(nameTakenFault(m_arguments.options));
             m_status = WrongUsage;
@@ -147,7 +166,33 @@ class Call : private RunObserver {
         }
     }
 
-    void report(const InputResult &result) {
+    void reportEntries(const RunResult &result) {
+        const bool hasTarget =
+            m_arguments.json && !m_arguments.options.dryRun && result.outcome.isWritten();
+        const auto target = hasTarget ? digestOf(result.outcome.close.path) : std::nullopt;
+        for (std::size_t i = 0; i < result.outcome.entries.size(); ++i) {
+            const std::size_t index = result.firstEntry + i;
+            m_reported = index + 1;
+            InputResult own = InputResult::of(m_names[index], result, i);
+            own.target = own.output.isEmpty() ? std::nullopt : target;
+            report(index, std::move(own));
+        }
+    }
+
+    /// Tells of the entry `index` of the run.
+    void report(std::size_t index, InputResult result) {
+        tell(result);
+        if (m_arguments.json) {
+            result.source = digestOf(m_files[index]);
+            writeLinesBefore(index + 1);
+            m_console.result(toJson(result));
+        } else if (result.state == InputResult::State::Planned && !m_arguments.quiet) {
+            m_console.result("  " + printable(result.plan()).toUtf8());
+        }
+    }
+
+    /// What standard error and the exit status say of it.
+    void tell(const InputResult &result) {
         using State = InputResult::State;
         if (result.state == State::Failed || result.state == State::Rejected ||
             (m_arguments.strict && !result.warnings.empty())) {
@@ -156,18 +201,17 @@ class Call : private RunObserver {
         for (const QString &message : toMessages(result)) {
             m_console.complain(message);
         }
-        if (m_arguments.json) {
-            m_console.result(toJson(result));
-        } else if (result.state == State::Planned && !m_arguments.quiet) {
-            m_console.result("  " + printable(result.plan()).toUtf8());
-        }
     }
 
     const Arguments &m_arguments;
     Console &m_console;
     TemporaryFolder &m_temporaryFolder;
     std::vector<QString> m_names; ///< Of the inputs, as they were given.
-    std::size_t m_reported = 0;   ///< How many of them are.
+    std::vector<QString> m_files; ///< Where they are.
+    /// Lines of the report about inputs that are none, each with the entry that it stands before.
+    std::vector<std::pair<std::size_t, QByteArray>> m_aside;
+    std::size_t m_asideWritten = 0;
+    std::size_t m_reported = 0; ///< How many entries are.
     ProgressLine m_progress;
     ReadableLinks m_readableLinks{m_temporaryFolder}; ///< Outlives the inputs that lead through it.
     PipedInputs m_pipes{m_arguments.inputType, m_readableLinks};

@@ -7,6 +7,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <cmath>
 
 #include <unistd.h>
 #include <wchar.h>
@@ -80,9 +81,10 @@ void ProgressLine::show() {
     }
     // The line must not wrap, or it could not be taken away again.
     constexpr int kMaxNameLength = 48;
+    constexpr float kPercent = 100;
     m_console.showProgress(u"%1 of %2  %3 %  %4"_s.arg(m_current + 1)
                                .arg(m_names.size())
-                               .arg(static_cast<int>(m_value))
+                               .arg(static_cast<int>(std::lround(m_value * kPercent / m_full)))
                                .arg(lastColumns(printable(m_names[m_current]), kMaxNameLength)));
 }
 

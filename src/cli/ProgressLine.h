@@ -24,7 +24,9 @@ class ProgressLine {
     /// Takes the line away.
     void finish();
 
-    /// The progress of the PDF: 0 to 100.
+    /// The progress at which a PDF is done, which the line shows as 100 %.
+    void setFull(float value) { m_full = value; }
+    /// The progress of the PDF: from 0 up.
     void progressChanged(float value);
     /// The entry at `index` of the PDF is done.
     void entryDone(std::size_t index);
@@ -38,6 +40,7 @@ class ProgressLine {
     std::size_t m_first = 0;
     std::size_t m_current = 0;
     float m_value = 0;
+    float m_full = 1;
 };
 
 } // namespace folioforge

@@ -2,6 +2,7 @@
 
 #include "cli/Report.h"
 
+#include "cli/Versions.h"
 #include "files/Printable.h"
 
 #include <QJsonArray>
@@ -10,7 +11,10 @@
 #include <QList>
 
 #include <algorithm>
+#include <cmath>
+#include <iterator>
 #include <map>
+#include <numeric>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -105,6 +109,31 @@ QString pagesInWords(std::vector<int> pages) {
     return (pages.size() == 1 ? u"page "_s : u"pages "_s) + numbers.join(u", "_s);
 }
 
+int pagesBefore(const PDFOutcome &outcome, std::size_t entry) {
+    const auto first = outcome.entries.begin();
+    return std::accumulate(first, first + static_cast<std::ptrdiff_t>(entry), 0,
+                           [](int sum, const EntryOutcome &one) { return sum + one.pages; });
+}
+
+/// Adds the size and the checksum of a file under these keys.
+void addTo(QJsonObject &object, const std::optional<FileDigest> &digest, const QString &bytes,
+           const QString &sha256) {
+    if (digest) {
+        object.insert(bytes, digest->bytes);
+        object.insert(sha256, QString::fromLatin1(digest->sha256));
+    }
+}
+
+/// Microseconds suffice.
+double rounded(double seconds) {
+    constexpr double kParts = 1e6;
+    return std::round(seconds * kParts) / kParts;
+}
+
+QByteArray toLine(const QJsonObject &object) {
+    return escaped(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+}
+
 QString reasonOf(const CloseResult &close) {
     return close.status == CloseResult::Status::NameTaken
                ? u"The name of its PDF was taken meanwhile"_s
@@ -145,6 +174,9 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
     if (entry.written && close.status == CloseResult::Status::Written) {
         own.output = close.path;
         own.pages = entry.pages;
+        own.firstPage = entry.pages > 0 ? 1 + pagesBefore(result.outcome, index) : 0;
+        own.seconds = entry.seconds;
+        own.outputSeconds = result.seconds;
         own.pageSize = entry.pageSize;
         own.state = entry.pageSize.isValid() ? State::Planned : State::Finished;
         own.embedded = entry.embeddedAs;
@@ -174,12 +206,29 @@ QString InputResult::plan() const {
         .arg(pageSize.height());
 }
 
+QByteArray reportHead() {
+    QJsonObject libraries;
+    for (const auto &[library, version] : libraryVersions()) {
+        libraries.insert(library, version);
+    }
+    return toLine({{u"version"_s, 1}, {u"tool"_s, toolVersion()}, {u"libraries"_s, libraries}});
+}
+
 QByteArray toJson(const InputResult &result) {
     QJsonObject object{
         {u"input"_s, result.input},
         {u"output"_s, result.output.isEmpty() ? QJsonValue() : QJsonValue(result.output)},
         {u"pages"_s, result.pages},
         {u"state"_s, nameOf(result.state)}};
+    addTo(object, result.source, u"bytes"_s, u"sha256"_s);
+    addTo(object, result.target, u"outputBytes"_s, u"outputSha256"_s);
+    if (result.firstPage > 0) {
+        object.insert(u"firstPage"_s, result.firstPage);
+    }
+    if (result.seconds && result.outputSeconds) {
+        object.insert(u"seconds"_s, rounded(*result.seconds));
+        object.insert(u"outputSeconds"_s, rounded(*result.outputSeconds));
+    }
     if (!result.reason.isEmpty()) {
         object.insert(u"message"_s, result.reason);
     }
@@ -199,7 +248,7 @@ QByteArray toJson(const InputResult &result) {
     } else if (result.compression) {
         object.insert(u"notCompressed"_s, result.compression->error);
     }
-    return escaped(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
+    return toLine(object);
 }
 
 QString toWords(const CompressionOutcome &compression) {

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "cli/FileDigest.h"
 #include "convert/Run.h"
 #include "error/Warning.h"
 #include "image/PdfImage.h"
@@ -25,12 +26,17 @@ struct InputResult {
         Listed    ///< A folder whose files stand for it.
     };
     QString input;
-    QString output; ///< Path of its PDF; empty where there is none.
+    std::optional<FileDigest> source; ///< Only of the report, like `target`.
+    QString output;                   ///< Path of its PDF; empty where there is none.
+    std::optional<FileDigest> target; ///< What the PDF at `output` holds.
+    int firstPage = 0;                ///< Of its PDF, from 1; 0 without a page.
     int pages = 0;
     QSizeF pageSize; ///< Of its first page, of a dry run alone.
     State state = State::Finished;
-    QString reason;    ///< Why it failed or was rejected.
-    Warnings warnings; ///< What was lost of it though it was written.
+    QString reason;                      ///< Why it failed or was rejected.
+    Warnings warnings;                   ///< What was lost of it though it was written.
+    std::optional<double> seconds;       ///< How long its pages took.
+    std::optional<double> outputSeconds; ///< How long its PDF took.
     std::optional<EmbeddedAs> embedded;
     std::optional<DocumentParts> parts;            ///< Of a PDF that is written.
     std::optional<CompressionOutcome> compression; ///< What the compression pass did to its PDF.
@@ -46,6 +52,10 @@ struct InputResult {
     /// The result of `input`, the entry at `index` of the PDF that `result` is about.
     static InputResult of(const QString &input, const RunResult &result, std::size_t index);
 };
+
+/// What the report begins with, as one JSON object on one line: its version, the program's and
+/// those of its libraries.
+QByteArray reportHead();
 
 /// The result as one JSON object on one line, without a line ending.
 QByteArray toJson(const InputResult &result);

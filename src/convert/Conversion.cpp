@@ -8,6 +8,7 @@
 #include "files/SystemCalls.h"
 #include "pdf/import/LeftParts.h"
 
+#include <QElapsedTimer>
 #include <QStringList>
 
 #include <algorithm>
@@ -64,6 +65,8 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
 
 EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
                         const ConversionOptions &options, const std::stop_token &stop) {
+    QElapsedTimer timer;
+    timer.start();
     EntryOutcome outcome;
     const PDFContext::Mark before = context.mark();
     const QString failure =
@@ -75,6 +78,7 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
         outcome.reason = failure;
     }
     outcome.pages = context.pageCount() - before.pages;
+    outcome.seconds = secondsOf(timer);
     if (options.dryRun) {
         outcome.pageSize = outcome.pages > 0 ? context.pageSize(before.pages) : QSizeF(0, 0);
     }

@@ -10,6 +10,7 @@
 #include "filelist/PDFFileInfo.h"
 #include "image/PdfImage.h"
 
+#include <QElapsedTimer>
 #include <QSizeF>
 #include <QString>
 #include <QStringList>
@@ -42,9 +43,10 @@ class ConversionObserver {
 struct EntryOutcome {
     bool written = false;
     int pages = 0;
-    QSizeF pageSize;   ///< Of its first page in points, 0 x 0 without one; of a dry run alone.
-    QString reason;    ///< Why it was not written.
-    Warnings warnings; ///< What of it was lost though it was written.
+    QSizeF pageSize;    ///< Of its first page in points, 0 x 0 without one; of a dry run alone.
+    double seconds = 0; ///< How long its pages took.
+    QString reason;     ///< Why it was not written.
+    Warnings warnings;  ///< What of it was lost though it was written.
     std::optional<EmbeddedAs> embeddedAs; ///< How an image was embedded; nothing for others.
     std::optional<DocumentParts> parts;   ///< Of a PDF; nothing for others.
 
@@ -80,6 +82,12 @@ std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security);
 PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
                      const ConversionOptions &options, ConversionObserver *observer = nullptr,
                      const std::stop_token &stop = {});
+
+/// The time since the start of `timer`.
+inline double secondsOf(const QElapsedTimer &timer) {
+    constexpr double kNanoseconds = 1e9;
+    return static_cast<double>(timer.nsecsElapsed()) / kNanoseconds;
+}
 
 /// The progress when every page of a PDF is written, and when it is compressed.
 inline constexpr float kPagesShare = 50;

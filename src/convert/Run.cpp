@@ -56,6 +56,8 @@ RunResult Run::makePDF(std::size_t firstEntry, const PlannedOutput &output,
                        const std::function<QString()> &temporaryFolder,
                        ConversionObserver &observer) const {
     using Action = PlannedOutput::Action;
+    QElapsedTimer timer;
+    timer.start();
     RunResult result;
     result.firstEntry = firstEntry;
     result.path = output.path;
@@ -65,6 +67,7 @@ RunResult Run::makePDF(std::size_t firstEntry, const PlannedOutput &output,
             result.compression =
                 compressInPlace(result.outcome.close.path, temporaryFolder(), observer);
         }
+        result.seconds = secondsOf(timer);
         return result;
     }
     const EntryRange range = entriesOf(firstEntry);

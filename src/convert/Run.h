@@ -28,6 +28,7 @@ struct RunResult {
     QString path;               ///< Where it was to go.
     bool kept = false;          ///< The file there is not older and stays: nothing was written.
     PDFOutcome outcome;
+    double seconds = 0; ///< How long the PDF took, from its first page to its place.
     std::optional<CompressionOutcome> compression; ///< Nothing where no pass ran.
 };
 

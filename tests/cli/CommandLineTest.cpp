@@ -184,7 +184,7 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QVERIFY(grain.save(photo, "JPEG", 92));
         const ToolRun run = convert({u"--json"_s, u"--compress"_s, u"96m"_s, photo});
         QCOMPARE(run.exitCode, 0);
-        const QJsonObject result = QJsonDocument::fromJson(run.out).object();
+        const QJsonObject result = objectsOf(run.out).value(0);
         const qint64 after = result[u"bytesAfter"_s].toInteger();
         QCOMPARE(after, QFileInfo(path("out/photo.pdf")).size());
         QVERIFY(after < result[u"bytesBefore"_s].toInteger() / 2);

@@ -191,13 +191,13 @@ class ReportsTest : public QObject, protected CommandLineCase {
         QCOMPARE(run.exitCode, 1);
         const auto objects = objectsOf(run.out);
         QCOMPARE(objects.size(), 4);
-        QCOMPARE(member(objects[0], "input"), path("missing.png"));
-        QCOMPARE(member(objects[0], "state"), u"rejected"_s);
-        QVERIFY(!member(objects[0], "message").isEmpty());
-        QCOMPARE(member(objects[1], "output"), path("out/a.pdf"));
-        QCOMPARE(member(objects[1], "state"), u"finished"_s);
-        QVERIFY(!objects[1].contains(u"message"_s));
-        QVERIFY(!objects[1].contains(u"embedded"_s));
+        QCOMPARE(member(objects[1], "input"), path("missing.png"));
+        QCOMPARE(member(objects[1], "state"), u"rejected"_s);
+        QVERIFY(!member(objects[1], "message").isEmpty());
+        QCOMPARE(member(objects[0], "output"), path("out/a.pdf"));
+        QCOMPARE(member(objects[0], "state"), u"finished"_s);
+        QVERIFY(!objects[0].contains(u"message"_s));
+        QVERIFY(!objects[0].contains(u"embedded"_s));
         QVERIFY(!member(objects[2], "embedded").isEmpty());
         QCOMPARE(objects[3][u"pages"_s].toInt(), 2);
     }
@@ -224,11 +224,12 @@ class ReportsTest : public QObject, protected CommandLineCase {
 
     void jsonOfAMergeNamesTheOnePdfForEach() {
         const ToolRun run =
-            merge("out/all", {u"--json"_s, text("a.txt"), text("b.txt"), text("c.png", "x")});
+            merge("out/all", {u"--json"_s, text("a.txt"), text("c.png", "x"), text("b.txt")});
         QCOMPARE(run.exitCode, 1);
         const auto objects = objectsOf(run.out);
         QCOMPARE(objects.size(), 3);
-        QCOMPARE(member(objects[1], "output"), path("out/all.pdf"));
+        QCOMPARE(member(objects[0], "output"), path("out/all.pdf"));
+        QCOMPARE(member(objects[1], "input"), path("c.png"));
         QCOMPARE(member(objects[2], "output"), path("out/all.pdf"));
     }
 
@@ -244,7 +245,7 @@ class ReportsTest : public QObject, protected CommandLineCase {
         const ToolRun quiet = convert({text("a.txt")});
         QVERIFY(quiet.err.isEmpty());
         const ToolRun run = convert({u"--progress=always"_s, text("b.txt")});
-        QVERIFY(run.err.contains("1 of 1  50 %"));
+        QVERIFY(run.err.contains("1 of 1  100 %"));
         QVERIFY(run.err.endsWith("\r\033[K"));
     }
 
