@@ -56,6 +56,23 @@ QString lightStyleSheet() {
         QComboBox:focus { border: 2px solid #2470d3; padding: 2px 6px; }
         QComboBox::drop-down { border: none; width: 26px; }
         QComboBox::down-arrow { image: url(:/skin/down-arrow.png); width: 12px; height: 12px; }
+        QCheckBox::indicator, QRadioButton::indicator {
+            width: 14px; height: 14px; border: 1px solid #757c86; background: #ffffff;
+        }
+        QCheckBox::indicator { border-radius: 4px; }
+        QRadioButton::indicator { border-radius: 8px; }
+        QCheckBox::indicator:hover, QRadioButton::indicator:hover { border-color: #2470d3; }
+        QCheckBox::indicator:pressed, QRadioButton::indicator:pressed { background: #e6edf7; }
+        QCheckBox::indicator:checked {
+            border-color: #2470d3; background: #2470d3; image: url(:/skin/tick.png);
+        }
+        QCheckBox::indicator:checked:pressed { border-color: #1b559f; background: #1b559f; }
+        QRadioButton::indicator:checked {
+            width: 6px; height: 6px; border: 5px solid #2470d3; background: #ffffff;
+        }
+        QRadioButton::indicator:checked:pressed { border-color: #1b559f; }
+        QCheckBox::indicator:disabled, QRadioButton::indicator:disabled { border-color: #b4bac3; }
+        QCheckBox::indicator:checked:disabled { background: #b4bac3; }
         QPushButton {
             border: 1px solid #868d97; border-radius: 6px; padding: 5px 16px; min-height: 18px;
             background: #f7f8fa;
@@ -70,6 +87,9 @@ QString lightStyleSheet() {
         }
         #band QPushButton:hover { background: #5b5b5b; border-color: #a8a8a8; }
         #band QPushButton:pressed { background: #6a6a6a; }
+        #band QPushButton:disabled {
+            border-color: #4a4a4a; background: transparent; color: #a4a4a4;
+        }
         #band QPushButton:focus { border: 2px solid #6fb0ff; padding: 4px 12px; }
         #foot { border-top: 1px solid #dfe2e7; background: #ffffff; }
         #previewPanel { border-left: 1px solid #dfe2e7; background: #f3f4f6; }

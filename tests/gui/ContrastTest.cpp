@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "OffscreenScreen.h"
 #include "WindowWorld.h"
 #include "support/TestUnit.h"
 
@@ -11,10 +12,13 @@
 #include "skin/SkinButton.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPainter>
+#include <QRadioButton>
+#include <QStyleOptionButton>
 #include <QTest>
 
 #include <algorithm>
@@ -109,6 +113,15 @@ struct Shown {
     QMainWindow &window = *ctrl.window();
 };
 
+/// Where `button`, a check box or a radio button, has its indicator.
+QRect indicatorOf(const QAbstractButton &button) {
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    const bool isRadio = qobject_cast<const QRadioButton *>(&button);
+    return button.style()->subElementRect(
+        isRadio ? QStyle::SE_RadioButtonIndicator : QStyle::SE_CheckBoxIndicator, &option, &button);
+}
+
 /// Where a skin has its label: on the right, without its edge.
 QRect labelOf(const QWidget &button) {
     const int edge = 4;
@@ -124,6 +137,9 @@ QRect insideOf(const QWidget &widget) {
 /// Text and what controls are seen by stand out from their ground (WCAG 2.1, 1.4.3 and 1.4.11).
 class ContrastTest : public QObject {
     Q_OBJECT
+
+  public:
+    static void initMain() { useScreenOf({1920, 1200}); }
 
   private Q_SLOTS:
     void initTestCase() { applyLightLook(*qApp); }
@@ -214,6 +230,69 @@ class ContrastTest : public QObject {
         widget.show();
         const double contrast = shown.edgeContrast(widget);
         QVERIFY2(contrast >= kEdgeContrast, qPrintable(QString::number(contrast)));
+    }
+
+    void boxesAndRadioButtonsStandOutInEachState_data() {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<bool>("checked");
+        QTest::addColumn<bool>("hovered");
+        QTest::addColumn<bool>("pressed");
+        for (const char *name : {"m_btnMerge", "m_btnCheckUserPassword", "imageFollows"}) {
+            for (const bool checked : {false, true}) {
+                const char *state = checked ? "on" : "off";
+                const QByteArray box(name);
+                QTest::addRow("%s %s", name, state) << box << checked << false << false;
+                QTest::addRow("%s %s, hovered", name, state) << box << checked << true << false;
+                QTest::addRow("%s %s, pressed", name, state) << box << checked << true << true;
+            }
+        }
+    }
+    void boxesAndRadioButtonsStandOutInEachState() {
+        QFETCH(const QByteArray, name);
+        QFETCH(const bool, checked);
+        QFETCH(const bool, hovered);
+        QFETCH(const bool, pressed);
+        Shown shown;
+        auto &button = shown.control<QAbstractButton>(name.constData());
+        if (name.startsWith("m_btnCheck")) {
+            shown.ctrl.clickBtnSecurity();
+        }
+        button.setAutoExclusive(false);
+        if (button.group()) {
+            button.group()->setExclusive(false);
+        }
+        button.setChecked(checked);
+        button.setAttribute(Qt::WA_UnderMouse, hovered);
+        button.setDown(pressed);
+        QVERIFY(button.isVisible());
+        const QRect box = indicatorOf(button);
+        const int middle = box.center().y();
+        const QRgb ground = shown.drawn(button, {box.right() + 2, middle, 1, 1}).pixel(0, 0);
+        for (const int edge : {box.left(), box.right()}) {
+            const double contrast = contrastIn(shown.drawn(button, {edge, middle, 1, 1}), ground);
+            QVERIFY2(contrast >= kEdgeContrast, qPrintable(QString::number(contrast)));
+        }
+        // What tells on from off is in the middle.
+        const QImage inside = shown.drawn(button, box.adjusted(5, 5, -5, -5));
+        QCOMPARE(contrastIn(inside, groundOf(inside)) >= kEdgeContrast, checked);
+    }
+
+    void buttonsThatCannotBePressedLookIt_data() {
+        QTest::addColumn<QByteArray>("name");
+        for (const char *name : {"m_btnAddFile", "m_btnAddFolder", "m_btnClear"}) {
+            QTest::newRow(name) << QByteArray(name);
+        }
+    }
+    void buttonsThatCannotBePressedLookIt() {
+        QFETCH(const QByteArray, name);
+        Shown shown;
+        auto &button = shown.control<QWidget>(name.constData());
+        const double before = shown.textContrast(button, insideOf(button));
+        const QRgb fill = groundOf(shown.drawn(button, insideOf(button)));
+        shown.window.centralWidget()->setEnabled(false); // As the busy sheet does.
+        QVERIFY(shown.edgeContrast(button) < kEdgeContrast);
+        QVERIFY(shown.textContrast(button, insideOf(button)) < 0.75 * before);
+        QVERIFY(groundOf(shown.drawn(button, insideOf(button))) != fill);
     }
 
     void theFocusOfTheListStandsOut_data() {

@@ -4,6 +4,7 @@
 //
 //   screenshots FOLDER SUFFIX EXAMPLE...   writes FOLDER/<picture>SUFFIX.png
 
+#include "OffscreenScreen.h"
 #include "mainwnd/Desktop.h"
 #include "mainwnd/MainWndCtrl.h"
 #include "mainwnd/Notices.h"
@@ -82,6 +83,7 @@ void takeAll(MainWndCtrl &controller, Photographer &photographer, const QStringL
 } // namespace
 
 int main(int argc, char *argv[]) {
+    test::useScreenOf({3200, 2000}); // Room for the window at every scale.
     QApplication application(argc, argv);
     applyLightLook(application);
     const QStringList arguments = QApplication::arguments();
