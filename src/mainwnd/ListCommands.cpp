@@ -133,9 +133,16 @@ void ListCommands::follow(const QItemSelectionModel &selection) {
     refresh();
 }
 
+/// For the Edit menu, which is looked at with nothing selected as often as not.
+bool ListCommands::hasWhatItNeeds(ListCommand command) const {
+    const QItemSelectionModel *selection = m_table.selectionModel();
+    return command != ListCommand::Remove || (selection && selection->hasSelection());
+}
+
 void ListCommands::refresh() {
     for (std::size_t i = 0; i < m_actions.size(); ++i) {
-        m_actions[i]->setEnabled(isPossible(static_cast<ListCommand>(i)));
+        const auto command = static_cast<ListCommand>(i);
+        m_actions[i]->setEnabled(isPossible(command) && hasWhatItNeeds(command));
     }
 }
 

@@ -58,6 +58,7 @@ class ListCommands : public QObject {
   private:
     void addCommand(ListCommand command);
     [[nodiscard]] bool isPossible(ListCommand command) const;
+    [[nodiscard]] bool hasWhatItNeeds(ListCommand command) const;
 
     SkinTableView &m_table;
     const SkinTableViewDelegate *m_delegate = nullptr;

@@ -82,7 +82,7 @@ class EditMenuTest : public QObject {
 
     void theItemsAreEnabledWhileTheyArePossible() {
         ThreeFiles app;
-        QVERIFY(app.item(u"Remove"_s).isEnabled());
+        QVERIFY(app.item(u"Clear"_s).isEnabled());
         QVERIFY(!app.item(u"Move Up"_s).isEnabled());
         app.select({0});
         QVERIFY(!app.item(u"Move Up"_s).isEnabled());
@@ -94,6 +94,15 @@ class EditMenuTest : public QObject {
                                      u"Move Up"_s, u"Move Down"_s}) {
             QVERIFY2(!app.item(title).isEnabled(), qPrintable(title));
         }
+    }
+
+    void nothingSelectedIsNotRemoved() {
+        ThreeFiles app;
+        app.select({1});
+        QVERIFY(app.item(u"Remove"_s).isEnabled());
+        app.table.clearSelection();
+        QVERIFY(!app.item(u"Remove"_s).isEnabled());
+        QVERIFY(app.item(u"Clear"_s).isEnabled());
     }
 
     void theItemsDoWhatTheContextMenusDo_data() {

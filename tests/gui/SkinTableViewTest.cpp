@@ -144,6 +144,7 @@ class SkinTableViewTest : public QObject {
 
     void keysRemoveSelectAndMove() {
         TableWindow w(3);
+        w.select(1, 1);
         w.key(Qt::Key_Delete);
         w.key(Qt::Key_Up, Qt::AltModifier);
         w.key(Qt::Key_Down, Qt::AltModifier);
