@@ -1042,6 +1042,10 @@ None: pictures stay as they are
         <source>Drawing the page…</source>
         <translation>جارٍ رسم الصفحة…</translation>
     </message>
+    <message>
+        <source>The PDF is no longer there</source>
+        <translation>لم يعد ملف PDF موجودًا</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::PreviewPanel</name>

@@ -1038,6 +1038,10 @@ Keine: Bilder bleiben, wie sie sind
         <source>Drawing the page…</source>
         <translation>Seite wird gezeichnet …</translation>
     </message>
+    <message>
+        <source>The PDF is no longer there</source>
+        <translation>Die PDF ist nicht mehr da</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::PreviewPanel</name>

@@ -1038,6 +1038,10 @@ Ninguna: las imágenes quedan como están
         <source>Drawing the page…</source>
         <translation>Dibujando la página…</translation>
     </message>
+    <message>
+        <source>The PDF is no longer there</source>
+        <translation>El PDF ya no está</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::PreviewPanel</name>

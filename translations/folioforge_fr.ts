@@ -1038,6 +1038,10 @@ Aucune : les images restent telles quelles
         <source>Drawing the page…</source>
         <translation>Dessin de la page…</translation>
     </message>
+    <message>
+        <source>The PDF is no longer there</source>
+        <translation>Le PDF n’est plus là</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::PreviewPanel</name>

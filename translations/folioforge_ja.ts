@@ -1037,6 +1037,10 @@ None: pictures stay as they are
         <source>Drawing the page…</source>
         <translation>ページを描画中…</translation>
     </message>
+    <message>
+        <source>The PDF is no longer there</source>
+        <translation>PDF はもうありません</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::PreviewPanel</name>

@@ -1037,6 +1037,10 @@ None: pictures stay as they are
         <source>Drawing the page…</source>
         <translation>正在绘制页面…</translation>
     </message>
+    <message>
+        <source>The PDF is no longer there</source>
+        <translation>该 PDF 已不存在</translation>
+    </message>
 </context>
 <context>
     <name>folioforge::PreviewPanel</name>

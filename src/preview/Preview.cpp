@@ -4,10 +4,12 @@
 
 #include "preview/PageView.h"
 
+#include <QFile>
 #include <QImage>
 
 #include <algorithm>
 #include <chrono>
+#include <limits>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +21,7 @@ constexpr std::chrono::milliseconds kCalm(150);
 constexpr std::chrono::milliseconds kPatience(500); ///< What comes sooner needs no words.
 /// Of a long text so many pages are written at first: more than most texts have, and fast.
 constexpr int kFirstPages = 64;
+constexpr int kAllPages = std::numeric_limits<int>::max() - 1;
 
 } // namespace
 
@@ -46,8 +49,8 @@ Preview::Preview(const QString &bundlePath, Ask ask)
     connect(&m_process, &PageProcess::drawn, this, qOverload<const DrawnPage &>(&Preview::show));
     connect(&m_process, &PageProcess::failed, this, &Preview::showFailure);
     connect(&m_patience, &QTimer::timeout, this, [this] {
-        if (m_panel->view().isEmpty()) {
-            m_panel->showWords(tr("Drawing the page…"), {});
+        if (m_panel->view().isEmpty() || !isPageWritten()) {
+            m_panel->showWords(tr("Drawing the page…"), {m_page, 0, false});
         }
     });
 }
@@ -112,6 +115,7 @@ void Preview::show(const WrittenEntry &entry) {
     m_document = entry.path;
     m_password = entry.password;
     m_hasMore = entry.pages > m_countedPages;
+    m_pages = m_hasMore ? m_countedPages : entry.pages;
     if (m_document.isEmpty()) {
         m_panel->showWords(entry.reason, {});
     } else {
@@ -119,39 +123,49 @@ void Preview::show(const WrittenEntry &entry) {
     }
 }
 
+bool Preview::isPageWritten() const {
+    return !m_hasMore || m_page < m_pages;
+}
+
 void Preview::draw() {
-    if (isOpen() && !m_document.isEmpty()) {
+    if (isOpen() && !m_document.isEmpty() && isPageWritten()) {
         m_process.draw({m_document, m_page, m_panel->view().room()}, m_password);
     }
 }
 
 void Preview::show(const DrawnPage &page) {
     m_page = page.page;
-    m_pages = m_hasMore ? m_countedPages : page.pages;
+    m_pages = m_hasMore ? m_pages : page.pages;
     const QImage picture(reinterpret_cast<const uchar *>(page.pixels.constData()),
                          page.size.width(), page.size.height(), QImage::Format_RGB32);
     m_panel->showPage(picture.copy(), {m_page, m_pages, m_hasMore});
 }
 
-/// Of a page that cannot be drawn one can turn to the others.
+/// Of a page that cannot be drawn one can turn to the others, as long as there is a document.
 void Preview::showFailure(const QString &reason) {
+    if (!QFile::exists(m_document)) {
+        m_pages = 0;
+        m_panel->showWords(tr("The PDF is no longer there"), {});
+        return;
+    }
     m_page = std::clamp(m_page, 0, std::max(m_pages - 1, 0));
     m_panel->showWords(reason, {m_page, m_pages, m_hasMore});
 }
 
-/// A page of a text that is not written yet is written with all before it.
+/// A page of a text that is not written yet is written with all before it, and some behind it: the
+/// next one of twice as many, one that is far away of all.
 void Preview::turnTo(int page) {
     if (m_document.isEmpty()) {
         return;
     }
     m_page = std::max(page, 0);
-    if (m_hasMore && m_page >= m_countedPages) {
-        m_page = m_countedPages;
-        m_countedPages *= 2;
+    if (!isPageWritten() && m_page >= m_countedPages) {
+        m_countedPages = m_page < 2 * m_countedPages ? 2 * m_countedPages : kAllPages;
+        m_process.stop(); // It would come back with the page before.
+        m_patience.start();
         write();
-    } else {
-        draw();
     }
+    draw();
 }
 
 } // namespace folioforge

@@ -53,6 +53,7 @@ class Preview : public QObject {
   private:
     void follow();
     void write();
+    [[nodiscard]] bool isPageWritten() const;
     void show(const WrittenEntry &entry);
     void draw();
     void show(const DrawnPage &page);
@@ -70,10 +71,10 @@ class Preview : public QObject {
     QString m_source;   ///< The path of the entry that is shown.
     QString m_document; ///< The PDF of which pages are drawn; empty until there is one.
     QString m_password;
-    int m_page = 0;
+    int m_page = 0;         ///< The one that is wanted; not yet written where it is beyond m_pages.
     int m_pages = 0;        ///< Of the document, as far as they are counted.
-    int m_countedPages = 0; ///< Of a text; as many are written at most, and one more.
-    bool m_hasMore = false; ///< The text has more pages than are counted.
+    int m_countedPages = 0; ///< Of a text; as many are asked for at most, and one more.
+    bool m_hasMore = false; ///< The text has more pages than m_pages.
 };
 
 } // namespace folioforge

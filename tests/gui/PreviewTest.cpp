@@ -266,8 +266,38 @@ class PreviewTest : public QObject {
         w.listText(u"long.txt"_s, QByteArray("a line of a long text\n").repeated(100'000));
         w.key(Qt::Key_Space);
         QTRY_COMPARE(w.number(), u"Page 1 of more than 64"_s);
-        w.key(Qt::Key_End);
+        for (int page = 1; page < 65; ++page) {
+            w.key(Qt::Key_Right);
+        }
         QTRY_COMPARE(w.number(), u"Page 65 of more than 128"_s);
+    }
+
+    void theEndOfALongTextIsItsLastPage() {
+        PreviewWindow w;
+        w.listText(u"long.txt"_s, QByteArray("a line of a long text\n").repeated(30'000));
+        w.key(Qt::Key_Space);
+        QTRY_COMPARE(w.number(), u"Page 1 of more than 64"_s);
+        w.key(Qt::Key_End);
+        QTRY_VERIFY(w.number().contains(u" of "_s) && !w.number().contains(u"more"_s));
+        const QString shown = w.number();
+        w.key(Qt::Key_Home);
+        QTRY_VERIFY(w.number().startsWith(u"Page 1 of "_s));
+        w.key(Qt::Key_Escape);
+        run(w);
+        const int pages = PdfProbe(outPath(w, u"long.pdf"_s)).pageCount();
+        QVERIFY(pages > 128);
+        QCOMPARE(shown, u"Page %1 of %1"_s.arg(pages));
+    }
+
+    void aPageBeforeTheEndIsShownWhileTheEndIsWritten() {
+        PreviewWindow w;
+        w.listText(u"long.txt"_s, QByteArray("a line of a long text\n").repeated(100'000));
+        w.key(Qt::Key_Space);
+        QTRY_COMPARE(w.number(), u"Page 1 of more than 64"_s);
+        w.key(Qt::Key_End);
+        w.key(Qt::Key_Home);
+        QTRY_COMPARE(w.number(), u"Page 1 of more than 64"_s);
+        QTRY_VERIFY(w.number().startsWith(u"Page 1 of "_s) && !w.number().contains(u"more"_s));
     }
 
     void theSelectedEntryIsShown() {
@@ -292,6 +322,27 @@ class PreviewTest : public QObject {
         w.key(Qt::Key_Space);
         QTRY_VERIFY(!w.page().isNull());
         QVERIFY(w.width() < 1); // A4, as it was when the PDF was made.
+    }
+
+    void aDocumentThatWasDeletedIsSaidToBeGone_data() {
+        QTest::addColumn<bool>("showsIt");
+        QTest::newRow("while it is shown") << true;
+        QTest::newRow("before it is shown") << false;
+    }
+    void aDocumentThatWasDeletedIsSaidToBeGone() {
+        QFETCH(const bool, showsIt);
+        PreviewWindow w;
+        w.listText(u"letter.txt"_s, "words\n");
+        run(w);
+        w.choose(0);
+        if (showsIt) {
+            w.key(Qt::Key_Space);
+            QTRY_COMPARE(w.number(), u"Page 1 of 1"_s);
+        }
+        QVERIFY(QFile::remove(outPath(w, u"letter.pdf"_s)));
+        w.key(showsIt ? Qt::Key_Home : Qt::Key_Space);
+        QTRY_COMPARE(w.panel().view().words(), u"The PDF is no longer there"_s);
+        QCOMPARE(w.number(), QString());
     }
 
     void anEntryWithoutAPageSaysWhy() {
