@@ -9,8 +9,9 @@ class QLineEdit;
 
 namespace folioforge {
 
-/// Marks the one field whose value a notice speaks of, until it is changed or disabled. Its edge
-/// stands out by the style sheet, and screen readers say what is wrong.
+/// Marks the one field whose value a notice speaks of, until it is changed or disabled, or nothing
+/// is wrong with it any more. Its edge stands out by the style sheet, and screen readers say what
+/// is wrong.
 class FaultMark : public QObject {
     Q_OBJECT
 
@@ -21,6 +22,8 @@ class FaultMark : public QObject {
     void put(QLineEdit &field, const QString &problem);
     /// Takes the mark away.
     void clear();
+    /// The marked field; null where none is.
+    [[nodiscard]] const QLineEdit *field() const { return m_field; }
 
   private:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -181,6 +181,7 @@ void MainWndCtrl::initCtrl() {
     connectControls();
     connectAnswer();
     connectHistory();
+    connectFaults();
     initList();
     initFields();
 }

@@ -208,6 +208,9 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void showNotice(const Notice &notice);
     bool passes(const std::optional<Notice> &problem);
     [[nodiscard]] QLineEdit *fieldOf(Setting setting) const;
+    [[nodiscard]] bool hasFault(const QLineEdit &field) const;
+    void connectFaults();
+    void reviewFault();
     void showField(QLineEdit &field);
     void showOptionsAtOnce();
 

@@ -2,9 +2,13 @@
 
 #include "mainwnd/MainWndCtrl.h"
 
+#include "convert/Checks.h"
 #include "mainwnd/FaultMark.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/OptionsSlide.h"
+
+#include <algorithm>
+#include <array>
 
 namespace folioforge {
 
@@ -61,6 +65,38 @@ QLineEdit *MainWndCtrl::fieldOf(Setting setting) const {
         return m_tfImagePageMarginRight;
     }
     return nullptr;
+}
+
+/// Whether one of the checks still speaks of `field`.
+bool MainWndCtrl::hasFault(const QLineEdit &field) const {
+    const ConversionOptions options = conversionOptions();
+    const std::array problems{checkOutputFolder(options.outputFolder),
+                              folioforge::checkSecuritySettings(options.security),
+                              folioforge::checkTextPageSizeSettings(options.textPage),
+                              folioforge::checkImagePageSizeSettings(options.imagePage),
+                              checkMergedFile(options)};
+    return std::ranges::any_of(problems, [&](const std::optional<Notice> &problem) {
+        return problem && fieldOf(problem->setting) == &field;
+    });
+}
+
+/// What is wrong with a field may be mended in another one, as margins that leave no room.
+void MainWndCtrl::connectFaults() {
+    for (const auto *field : m_window->findChildren<QLineEdit *>()) {
+        connect(field, &QLineEdit::textChanged, this, &MainWndCtrl::reviewFault);
+    }
+    for (const QButtonGroup *matrix : {m_mtxTextPageSizeMode, m_mtxImagePageSizeMode}) {
+        connect(matrix, &QButtonGroup::buttonToggled, this, &MainWndCtrl::reviewFault);
+    }
+    for (const QCheckBox *box : {m_btnCheckUserPassword, m_btnCheckOwnerPassword}) {
+        connect(box, &QCheckBox::toggled, this, &MainWndCtrl::reviewFault);
+    }
+}
+
+void MainWndCtrl::reviewFault() {
+    if (const QLineEdit *field = m_faultMark->field(); field && !hasFault(*field)) {
+        m_faultMark->clear();
+    }
 }
 
 /// A notice comes over a window that stands still.

@@ -148,6 +148,62 @@ class FaultsTest : public QObject {
                     .startsWith(u"7 pt"_s));
     }
 
+    void theMarkGoesWhenAnotherFieldMendsTheFault_data() {
+        QTest::addColumn<QByteArray>("marked");
+        QTest::addColumn<QString>("wrong");
+        QTest::addColumn<QByteArray>("other");
+        QTest::addColumn<QString>("stillWrong");
+        QTest::addColumn<QString>("right");
+        QTest::newRow("a margin makes room")
+            << QByteArray("m_tfTextCustomizedPageWidth") << u"144"_s
+            << QByteArray("m_tfTextPageMarginRight") << u"73"_s << u"71"_s;
+        QTest::newRow("a folder where the name is free")
+            << QByteArray("m_tfOutputName") << u"taken"_s << QByteArray("m_tfOutputFolder")
+            << u"./out"_s << u"."_s;
+    }
+    void theMarkGoesWhenAnotherFieldMendsTheFault() {
+        QFETCH(const QByteArray, marked);
+        QFETCH(const QString, wrong);
+        QFETCH(const QByteArray, other);
+        QFETCH(const QString, stillWrong);
+        QFETCH(const QString, right);
+        Refusing w;
+        w.file(u"out/taken.pdf"_s);
+        w.spoil(marked, wrong);
+        w.press("m_btnCreate");
+        QVERIFY(isRed(w.edgeOf(marked.constData())));
+        auto *field = w.control<QLineEdit>(other.constData());
+        const auto value = [&](const QString &text) {
+            return text.startsWith(u'.') ? w.path(text) : text;
+        };
+        field->setText(value(stillWrong));
+        QVERIFY(isRed(w.edgeOf(marked.constData())));
+        field->setText(value(right));
+        QVERIFY(!isRed(w.edgeOf(marked.constData())));
+    }
+
+    void theMarkOfEqualPasswordsGoesWhenTheUserPasswordChanges() {
+        Refusing w;
+        w.spoil("m_tfOwnerPassword", u"secret"_s);
+        w.control<QCheckBox>("m_btnCheckUserPassword")->setChecked(true);
+        w.control<QLineEdit>("m_tfUserPassword")->setText(u"secret"_s);
+        w.press("m_btnCreate");
+        QVERIFY(isRed(w.edgeOf("m_tfOwnerPassword")));
+        w.control<QLineEdit>("m_tfUserPassword")->setText(u"another"_s);
+        QVERIFY(!isRed(w.edgeOf("m_tfOwnerPassword")));
+    }
+
+    void theMarkGoesWithThePageSizeThatIsNotWanted() {
+        Refusing w;
+        w.spoil("m_tfTextPageMarginLeft", u"250"_s);
+        w.control<QLineEdit>("m_tfTextPageMarginRight")->setText(u"250"_s);
+        w.control<QAbstractButton>("textA5")->setChecked(true);
+        w.press("m_btnCreate");
+        QVERIFY(isRed(w.edgeOf("m_tfTextPageMarginLeft")));
+        w.control<QAbstractButton>("textA3")->setChecked(true);
+        QVERIFY(!isRed(w.edgeOf("m_tfTextPageMarginLeft")));
+    }
+
     void theMarkGoesWithThePasswordThatIsNotWanted() {
         Refusing w;
         w.spoil("m_tfUserPassword", QString());
