@@ -15,6 +15,7 @@
 #include "mainwnd/NotificationCenter.h"
 #include "mainwnd/OptionsSlide.h"
 #include "mainwnd/RunNews.h"
+#include "mainwnd/SmallScreen.h"
 #include "mainwnd/WindowMemory.h"
 #include "preview/Preview.h"
 #include "skin/PasswordEye.h"
@@ -79,6 +80,7 @@ void MainWndCtrl::loadWindow() {
     restoreWindow();
     awakeFromNib();
     windowDidLoad();
+    scrollOnSmallScreen(*m_window, *m_optionsDrawer, *m_optionsSlide);
 }
 
 void MainWndCtrl::restoreWindow() {
@@ -232,10 +234,9 @@ void MainWndCtrl::skinButton(const QString & /*folder*/, const QString &name,
     const SkinImage normal = look(QString(), {});
     const SkinImage hover = look(u"-hover"_s, normal);
     if (!normal.isNull()) {
-        button->ensurePolished(); // Else the style sheet's least size would replace this one later.
         // The panel has no room for larger ones.
         const double scale = isInPanel ? 1 : textScale();
-        button->setFixedSize(normal.size() * scale);
+        button->fixSize(normal.size() * scale);
     }
     button->setNormalImage(normal);
     button->setMouseOnImage(hover);

@@ -108,7 +108,7 @@ void OptionsSlide::placeWindow() {
     applyMinimumSize();
     const int open = m_drawer.openWidth();
     const int shift = shiftFor(open);
-    const QRect place = m_closed.adjusted(-shift, 0, open - shift, 0);
+    const QRect place = withinScreen(m_closed.adjusted(-shift, 0, open - shift, 0));
     // What stands still is not placed: where a window is, its manager knows better.
     if (std::exchange(m_shift, shift) == shift) {
         m_window.resize(place.size());
@@ -138,7 +138,7 @@ void OptionsSlide::settle() {
 /// applies it with the next event.
 void OptionsSlide::applyMinimumSize() {
     if (m_window.isVisible()) {
-        m_window.centralWidget()->layout()->activate();
+        m_drawer.parentWidget()->layout()->activate();
         m_window.layout()->activate();
     }
 }
@@ -177,6 +177,16 @@ int OptionsSlide::shiftFor(int width) const {
     const QRect frame = m_closed.adjusted(0, 0, width, 0).marginsAdded(frameAtSides());
     const int room = std::clamp(frame.left() - screen.left(), 0, width);
     return std::clamp(frame.right() - screen.right(), 0, room);
+}
+
+/// `place`, with as much of it cut off where lines end as the screen has no room for.
+QRect OptionsSlide::withinScreen(QRect place) const {
+    const QRect screen = m_window.screen()->availableGeometry().marginsRemoved(frameAtSides());
+    if (m_staysOnScreen && place.width() > screen.width()) {
+        m_window.isRightToLeft() ? place.setLeft(place.right() - screen.width() + 1)
+                                 : place.setWidth(screen.width());
+    }
+    return place;
 }
 
 } // namespace folioforge

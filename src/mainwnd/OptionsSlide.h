@@ -29,6 +29,9 @@ class OptionsSlide : public QObject {
   public:
     OptionsSlide(QMainWindow &window, OptionsDrawer &drawer);
 
+    /// From now on the window with the drawer is no wider than its screen: what it shows can
+    /// scroll.
+    void stayOnScreen() { m_staysOnScreen = true; }
     /// Hides the drawer and takes its width from the window, which is not shown yet.
     void beginHidden();
     /// Slides the drawer to a width of so many points, as fast as the style's animations are.
@@ -51,6 +54,7 @@ class OptionsSlide : public QObject {
     [[nodiscard]] QRect geometryNow() const;
     [[nodiscard]] QMargins frameAtSides() const;
     [[nodiscard]] int shiftFor(int width) const;
+    [[nodiscard]] QRect withinScreen(QRect place) const;
 
     QMainWindow &m_window;
     OptionsDrawer &m_drawer;
@@ -60,6 +64,7 @@ class OptionsSlide : public QObject {
     QList<QRect> m_asked; ///< What the window was asked for and the screen may still report.
     QTimer m_settling;    ///< Runs until the screen has answered the last step.
     bool m_asksAgain = false;
+    bool m_staysOnScreen = false;
     int m_shift = 0;           ///< How far to the left the drawer has moved the window.
     bool m_slidInside = false; ///< The drawer slid while the window filled the screen.
 };

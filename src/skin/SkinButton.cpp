@@ -47,6 +47,12 @@ void SkinButton::setNormalImage(const SkinImage &image) {
     showImage(image);
 }
 
+void SkinButton::fixSize(const QSize &size) {
+    m_fixedSize = size;
+    ensurePolished(); // Else the style sheet would come later.
+    setFixedSize(size);
+}
+
 void SkinButton::showNormalImage() {
     if (isEnabled()) {
         showImage(m_imageNormal);
@@ -140,6 +146,8 @@ void SkinButton::changeEvent(QEvent *event) {
     QPushButton::changeEvent(event);
     if (event->type() == QEvent::EnabledChange) {
         showEnabledLook();
+    } else if (event->type() == QEvent::StyleChange && m_fixedSize.isValid()) {
+        setFixedSize(m_fixedSize);
     }
 }
 

@@ -30,6 +30,8 @@ class SkinButton : public QPushButton {
     void setMouseDownImage(const SkinImage &image) { m_imageDown = image; }
     void setDisableImage(const SkinImage &image) { m_imageDisable = image; }
 
+    /// Fixes the button's size, in place of the least size that the style sheet gives all buttons.
+    void fixSize(const QSize &size);
     /// Shows the normal look of an enabled button.
     void showNormalImage();
     /// Enables or disables the button and shows the normal or the disabled look, even where it was
@@ -69,6 +71,7 @@ class SkinButton : public QPushButton {
     SkinImage m_imageNormal;
     SkinImage m_imageDisable;
     QRect m_tracking;
+    QSize m_fixedSize; ///< Not valid where the size is not fixed.
     SkinImage m_shown;
     /// The pointer left during a drag. The system reports that only when the mouse is released.
     bool m_leftInDrag = false;

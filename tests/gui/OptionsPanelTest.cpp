@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "OffscreenScreen.h"
 #include "OptionsPanelCase.h"
 #include "support/TestUnit.h"
 
@@ -32,6 +33,9 @@ const QStringList kAll = kProperties + kPasswordBoxes + kUserControls + kOwnerCo
 
 class OptionsPanelTest : public QObject {
     Q_OBJECT
+
+  public:
+    static void initMain() { useScreenOf({1920, 1200}); }
 
   private Q_SLOTS:
     void theWindowStartsWithoutThePanelAndItsWidth() {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "OffscreenScreen.h"
 #include "WindowWorld.h"
 #include "support/TestUnit.h"
 
@@ -65,6 +66,9 @@ struct Window {
 
 class WindowLayoutTest : public QObject {
     Q_OBJECT
+
+  public:
+    static void initMain() { useScreenOf({1920, 1200}); }
 
   private Q_SLOTS:
     void initTestCase() { applyLightLook(*qApp); }

@@ -79,7 +79,8 @@ class WindowManagersTest : public QObject {
 
   private Q_SLOTS:
     void theWindowStandsInTheMiddleOfTheScreenWithItsFrame_data() {
-        addDesktops({{{1024, 600}, "1"}, {{1366, 768}, "1.25"}, {{2560, 1440}, "1.5"}});
+        addDesktops(
+            {{{1024, 600}, "1"}, {{1024, 600}, "2"}, {{1366, 768}, "1.25"}, {{2560, 1440}, "1.5"}});
     }
     void theWindowStandsInTheMiddleOfTheScreenWithItsFrame() {
         QFETCH(const DesktopKind, desktop);
@@ -115,6 +116,18 @@ class WindowManagersTest : public QObject {
             QVERIFY(session.hideOptions());
             QCOMPARE(session.place().frame, before);
         }
+    }
+
+    void aPanelThatTheScreenHasNoRoomForStaysOnIt_data() { addDesktops({{{1024, 600}, "2"}}); }
+    void aPanelThatTheScreenHasNoRoomForStaysOnIt() {
+        QFETCH(const DesktopKind, desktop);
+        Session session(desktop);
+        QVERIFY(session.runs());
+        const QRect before = session.place().frame;
+        QVERIFY(session.showOptions());
+        QVERIFY(session.screen().contains(session.place().frame));
+        QVERIFY(session.hideOptions());
+        QCOMPARE(session.place().frame, before);
     }
 
     void aPanelThatIsShownAndHiddenInASlideEndsRight_data() { addDesktops({{{1600, 1000}, "1"}}); }

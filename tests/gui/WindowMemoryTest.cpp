@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "OffscreenScreen.h"
 #include "WindowWorld.h"
 #include "support/TestUnit.h"
 
@@ -64,6 +65,9 @@ QString lastStartFolder(const WindowWorld &world) {
 /// What comes back at the next start, and what does not.
 class WindowMemoryTest : public QObject {
     Q_OBJECT
+
+  public:
+    static void initMain() { useScreenOf({1920, 1200}); }
 
   private Q_SLOTS:
     void theSizeComesBackWithoutTheOptions() {
