@@ -72,7 +72,8 @@ void OptionsSlide::slideTo(int width) {
 /// Moves and sizes the place without the drawer as the user moved and sized the window since.
 void OptionsSlide::takeUsersChanges() {
     const QRect now = geometryNow();
-    if (m_asked.isEmpty() && m_drawer.openWidth() == 0) {
+    const bool isAtRest = !m_settling.isActive();
+    if (isAtRest && m_drawer.openWidth() == 0) {
         m_closed = now;
         return;
     }
@@ -80,7 +81,7 @@ void OptionsSlide::takeUsersChanges() {
     if (std::ranges::any_of(m_asked, isNow)) {
         return; // One of the steps, which the screen reports late.
     }
-    const QRect before = m_asked.isEmpty() ? m_settled : m_asked.back();
+    const QRect before = isAtRest || m_asked.isEmpty() ? m_settled : m_asked.back();
     if (isSame(now, before)) {
         return;
     }
@@ -121,7 +122,7 @@ void OptionsSlide::placeWindow() {
 }
 
 /// Some managers lose a step among many. The last one is asked for again, once: what comes of that
-/// is what the manager wants.
+/// is what the manager wants. A busy one may still do it later, so it stays among what was asked.
 void OptionsSlide::settle() {
     const QRect now = geometryNow();
     if (!m_asked.isEmpty() && now != m_asked.back() && std::exchange(m_asksAgain, false)) {
@@ -129,7 +130,8 @@ void OptionsSlide::settle() {
         m_settling.start();
         return;
     }
-    m_asked.clear();
+    m_asksAgain = false;
+    m_asked.remove(0, std::max<qsizetype>(m_asked.size() - 1, 0));
     m_settled = now;
     Q_EMIT rested();
 }
