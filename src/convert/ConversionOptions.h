@@ -6,11 +6,13 @@
 #include "pdf/PDFContext.h"
 #include "text/FontCascade.h"
 #include "text/PageSetup.h"
+#include "text/readable/ReadableLayout.h"
 
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace folioforge {
 
@@ -47,6 +49,7 @@ struct ConversionOptions {
     bool stripMetadata = false; ///< Exif, XMP and comments of pictures do not go in.
     /// The font of text pages; null for textFont().
     std::shared_ptr<const FontCascade> textFont;
+    std::optional<ReadableStyle> readable; ///< Text is set as a person sets it.
     int mostTextPages = 0; ///< Of an entry, for one who looks at a part of it; 0 for all.
     int compressIndex = 0; ///< 0 none, 1 "150m", 2 "96m", 3 "72l".
     Flush flush = Flush::Always;

@@ -38,6 +38,8 @@ class ContextSink : public TextPageSink {
     void showRow(double x, double y, std::span<const Glyph> glyphs) override {
         m_context.showGlyphsAtPoint(x, y, glyphs);
     }
+    void beginReading(QStringView text) override { m_context.beginActualText(text); }
+    void endReading() override { m_context.endActualText(); }
     void endPage() override { m_context.endPage(); }
 
   private:
@@ -71,7 +73,10 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
     const auto font = options.textFont ? options.textFont : textFont();
     ContextSink sink(context, font, pageSize, options.mostTextPages, stop);
     Warnings warnings = std::move(source.warnings);
-    std::ranges::move(layOutText(source.text, pageSize, options.textPage.margins, *font, sink),
+    const PageMargins &margins = options.textPage.margins;
+    std::ranges::move(options.readable ? layOutReadable(source.text, pageSize, margins, *font,
+                                                        *options.readable, sink)
+                                       : layOutText(source.text, pageSize, margins, *font, sink),
                       std::back_inserter(warnings));
     return warnings;
 }

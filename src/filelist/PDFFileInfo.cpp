@@ -43,7 +43,7 @@ QString dimensionsText(QSizeF size) {
 double nameWidth(const QString &name) {
     constexpr double kSize = 11;
     // The window's font metrics need a running window system, which the command line lacks.
-    static const auto font = FontCascade::load(u"Lucida Grande"_s, kSize);
+    static const auto font = FontCascade::load({u"Lucida Grande"_s}, kSize);
     double width = 0;
     const auto characters = name.toUcs4();
     for (const uint character : characters) {

@@ -172,7 +172,23 @@ void PDFContext::setFont(std::shared_ptr<const FontCascade> font, double size) {
 }
 
 void PDFContext::showGlyphsAtPoint(double x, double y, std::span<const Glyph> glyphs) {
-    translateQpdfErrors([&] { m_impl->pages().showGlyphs(x, y, glyphs); });
+    translateQpdfErrors([&] {
+        if (TextContent *to = m_impl->pages().text()) {
+            to->showGlyphs(x, y, glyphs);
+        }
+    });
+}
+
+void PDFContext::beginActualText(QStringView text) {
+    if (TextContent *to = m_impl->pages().text()) {
+        to->beginActualText(text);
+    }
+}
+
+void PDFContext::endActualText() {
+    if (TextContent *to = m_impl->pages().text()) {
+        to->endActualText();
+    }
 }
 
 void PDFContext::clipToRect(const QRectF &rect) {

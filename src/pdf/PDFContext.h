@@ -76,6 +76,10 @@ class PDFContext {
     void setFont(std::shared_ptr<const FontCascade> font, double size);
     /// Draws `glyphs` from the point (x, y) of the baseline on. Throws Error.
     void showGlyphsAtPoint(double x, double y, std::span<const Glyph> glyphs);
+    /// What is shown until endActualText() is read as `text`, whatever each glyph stands for
+    /// (ISO 32000-1, 14.9.4). Show glyphs alone meanwhile.
+    void beginActualText(QStringView text);
+    void endActualText();
     /// Draws the image into the rectangle, turned inside it as `orientation` (EXIF, 1 to 8) says.
     /// Throws Error.
     void drawImage(const QRectF &rect, PdfImage image, int orientation);

@@ -120,14 +120,11 @@ FontEmbedder &PageDrawer::embedder() {
         m_document, m_streams, m_font, std::string(m_fonts.size() + 1, 'F')));
 }
 
-void PageDrawer::showGlyphs(double x, double y, std::span<const Glyph> glyphs) {
-    if (!m_font) {
-        return;
-    }
-    if (!m_page.text) {
+TextContent *PageDrawer::text() {
+    if (m_font && !m_page.text) {
         m_page.text.emplace(m_page.content, m_page.fonts, embedder(), m_fontSize);
     }
-    m_page.text->showGlyphs(x, y, glyphs);
+    return m_font ? &*m_page.text : nullptr;
 }
 
 QPDFObjectHandle PageDrawer::endPage() {

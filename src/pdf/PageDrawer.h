@@ -34,7 +34,8 @@ class PageDrawer {
     /// The colour of what follows on the page: red, green and blue from 0 to 1.
     void fill(const std::array<double, 3> &color);
     void setFont(std::shared_ptr<const FontCascade> font, double size);
-    void showGlyphs(double x, double y, std::span<const Glyph> glyphs);
+    /// The text of the page in that font; null where there is none.
+    TextContent *text();
     void drawImage(const QRectF &rect, const PdfImage &image, int orientation);
     void clipToRect(const QRectF &rect);
     /// The page that was drawn, an object of the document.

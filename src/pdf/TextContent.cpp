@@ -74,12 +74,38 @@ void TextContent::show(Operator how) {
     m_content.append("(").append(m_run).append(how == Operator::Show ? ")Tj" : ")'");
 }
 
+void TextContent::beginActualText(QStringView text) {
+    // In UTF-16, whose mark leads.
+    m_actual = "/Span<</ActualText<FEFF";
+    for (const QChar unit : text) {
+        constexpr int kHexadecimal = 16;
+        constexpr int kDigits = 4;
+        m_actual += QByteArray::number(unit.unicode(), kHexadecimal)
+                        .rightJustified(kDigits, '0')
+                        .toStdString();
+    }
+    m_actual += ">>>BDC ";
+}
+
+void TextContent::endActualText() {
+    m_actual.clear();
+    if (m_inSpan) {
+        m_content += " EMC ";
+        m_inSpan = false;
+    }
+}
+
 void TextContent::showGlyphs(double x, double y, std::span<const Glyph> glyphs) {
     if (glyphs.empty() || m_fonts.cascade().faceCount() == 0) {
         return;
     }
     if (!m_open) {
         open(x, y);
+    }
+    if (!m_actual.empty()) {
+        m_content.append(" ").append(m_actual);
+        m_actual.clear();
+        m_inSpan = true;
     }
     Operator how = moveTo(x, y);
     while (!glyphs.empty()) {

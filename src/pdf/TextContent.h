@@ -6,6 +6,8 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <QStringView>
+
 #include <cstdint>
 #include <map>
 #include <span>
@@ -27,6 +29,9 @@ class TextContent {
 
     /// Draws `glyphs` from the baseline point on.
     void showGlyphs(double x, double y, std::span<const Glyph> glyphs);
+    /// Begins and ends a span that is read as `text`; empty spans are left out.
+    void beginActualText(QStringView text);
+    void endActualText();
     /// Ends the text object, if one is open.
     void end();
 
@@ -50,7 +55,9 @@ class TextContent {
     double m_x = 0;           ///< Start of the current line as a reader computes it.
     double m_y = 0;
     double m_leading = 0; ///< The current leading, positive upwards.
-    std::string m_run;    ///< Codes of one font, escaped.
+    std::string m_actual; ///< What opens a span that has shown nothing so far.
+    bool m_inSpan = false;
+    std::string m_run; ///< Codes of one font, escaped.
 };
 
 } // namespace folioforge

@@ -18,14 +18,14 @@ namespace {
 constexpr std::size_t kUnicodePages = 0x1100;
 } // namespace
 
-std::shared_ptr<const FontCascade> FontCascade::load(const QString &family, double size) {
-    return std::shared_ptr<const FontCascade>(new FontCascade(family, size));
+std::shared_ptr<const FontCascade> FontCascade::load(const QStringList &families, double size) {
+    return std::shared_ptr<const FontCascade>(new FontCascade(families, size));
 }
 
-FontCascade::FontCascade(const QString &family, double size)
+FontCascade::FontCascade(const QStringList &families, double size)
     : m_size(size)
     , m_pages(kUnicodePages) {
-    for (CatalogFont &font : findTextFonts(family)) {
+    for (CatalogFont &font : findTextFonts(families)) {
         // The first face gives the row height, so it must open.
         if (Face face(std::move(font));
             !m_faces.empty() ||
@@ -120,6 +120,27 @@ Glyph FontCascade::findGlyph(char32_t character) const {
     return missing;
 }
 
+Glyph FontCascade::form(std::uint16_t face, std::uint16_t id, const QString &text) const {
+    const std::lock_guard lock(m_mutex);
+    const auto next = static_cast<char32_t>(kFirstForm + m_formTexts.size());
+    const auto [known, isNew] = m_forms.try_emplace({face, id, text}, next);
+    if (isNew) {
+        if (m_formTexts.size() == kMaxForms) {
+            throw Error(u"The text has too many different forms of letters"_s);
+        }
+        m_formTexts.push_back(text);
+    }
+    return glyphOf(face, id, known->second);
+}
+
+QString FontCascade::textOf(const Glyph &glyph) const {
+    if (glyph.character >= kFirstForm) {
+        const std::lock_guard lock(m_mutex);
+        return m_formTexts.at(glyph.character - kFirstForm);
+    }
+    return glyph.character < kNoCharacter ? QString::fromUcs4(&glyph.character, 1) : QString();
+}
+
 Glyph FontCascade::glyphOf(std::size_t face, std::uint16_t id, char32_t character) const {
     const FontFace &opened = *m_faces[face].opened;
     return {id, static_cast<std::uint16_t>(face), character,
@@ -128,7 +149,7 @@ Glyph FontCascade::glyphOf(std::size_t face, std::uint16_t id, char32_t characte
 
 std::shared_ptr<const FontCascade> textFont() {
     constexpr double kPoints = 14;
-    static const auto font = FontCascade::load(u"Arial Unicode MS"_s, kPoints);
+    static const auto font = FontCascade::load({u"Arial Unicode MS"_s}, kPoints);
     return font;
 }
 

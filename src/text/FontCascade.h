@@ -10,8 +10,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <mutex>
+#include <tuple>
 #include <vector>
 
 namespace folioforge {
@@ -29,14 +31,14 @@ struct Glyph {
     bool operator==(const Glyph &) const = default;
 };
 
-/// The text font: the named family if the system has it, then a cascade of free fonts that together
-/// cover the scripts of the world. The first face gives the row height. Another face is opened when
-/// a character needs it. Glyphs are cached. Use it from any thread.
+/// The text font: the named families if the system has them, then a cascade of free fonts that
+/// together cover the scripts of the world. The first face gives the row height. Another face is
+/// opened when a character needs it. Glyphs are cached. Use it from any thread.
 class FontCascade {
   public:
-    /// The faces for `family` at `size` points. Never fails: without any font, glyphs have no width
-    /// and draw nothing.
-    static std::shared_ptr<const FontCascade> load(const QString &family, double size);
+    /// The faces for the first of `families`, then for the others, at `size` points. Never fails:
+    /// without any font, glyphs have no width and draw nothing.
+    static std::shared_ptr<const FontCascade> load(const QStringList &families, double size);
 
     /// Points.
     [[nodiscard]] double size() const { return m_size; }
@@ -65,6 +67,14 @@ class FontCascade {
         const std::size_t ascii = static_cast<std::size_t>(unit) - kFirstAscii;
         return ascii < m_asciiDrawn ? &m_ascii[ascii] : nullptr;
     }
+    /// Glyph `id` of `face` where shaping chose it for `text`: it stands for several characters, or
+    /// for one of them by another form. Its character is past Unicode. Throws Error when there are
+    /// kMaxForms already.
+    [[nodiscard]] Glyph form(std::uint16_t face, std::uint16_t id, const QString &text) const;
+    static constexpr char32_t kFirstForm = 0x110100;
+    static constexpr char32_t kMaxForms = 0x10000;
+    /// The text that a glyph stands for; empty for half of a surrogate pair.
+    [[nodiscard]] QString textOf(const Glyph &glyph) const;
     /// The missing-glyph box, which half of a surrogate pair draws.
     [[nodiscard]] Glyph missingGlyph() const { return m_missing; }
 
@@ -84,7 +94,7 @@ class FontCascade {
     static constexpr char32_t kFirstAscii = 0x20;
     static constexpr char32_t kLastAscii = 0x7E;
 
-    FontCascade(const QString &family, double size);
+    FontCascade(const QStringList &families, double size);
 
     const FontFace *openFace(std::size_t index) const;
     [[nodiscard]] Glyph cachedGlyph(char32_t character) const;
@@ -98,9 +108,11 @@ class FontCascade {
     std::array<Glyph, kLastAscii - kFirstAscii + 1> m_ascii;
     std::size_t m_asciiDrawn = 0; ///< All of m_ascii, or none where one of them would be a box.
 
-    mutable std::mutex m_mutex; ///< Guards the faces and the cached glyphs.
+    mutable std::mutex m_mutex; ///< Guards the faces, the cached glyphs and the forms.
     mutable std::vector<Face> m_faces;
     mutable std::vector<std::unique_ptr<Page>> m_pages;
+    mutable std::map<std::tuple<std::uint16_t, std::uint16_t, QString>, char32_t> m_forms;
+    mutable std::vector<QString> m_formTexts; ///< By character, from kFirstForm on.
 };
 
 /// The font of text pages, "Arial Unicode MS" at 14 points. It is loaded at first use and kept, so

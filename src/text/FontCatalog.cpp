@@ -4,8 +4,6 @@
 
 #include <fontconfig/fontconfig.h>
 
-#include <QStringList>
-
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -46,11 +44,14 @@ bool sameFamily(QStringView left, QStringView right) {
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
-std::optional<Rank> rankOf(const QString &family, const QString &wanted) {
-    if (sameFamily(family, wanted)) {
-        return Rank{0, {}};
+std::optional<Rank> rankOf(const QString &family, const QStringList &wanted) {
+    std::size_t rank = 0;
+    for (const QString &name : wanted) {
+        if (sameFamily(family, name)) {
+            return Rank{rank, {}};
+        }
+        ++rank;
     }
-    std::size_t rank = 1;
     for (const QStringView name : kCascade) {
         if (sameFamily(family, name)) {
             return Rank{rank, {}};
@@ -102,7 +103,7 @@ bool isUsable(FcPattern *pattern) {
            integer(pattern, FC_INDEX, 0) >> kIndexBits == 0;
 }
 
-std::optional<Rank> rankOf(FcPattern *pattern, const QString &wanted) {
+std::optional<Rank> rankOf(FcPattern *pattern, const QStringList &wanted) {
     std::optional<Rank> best;
     FcChar8 *name = nullptr;
     for (int i = 0; FcPatternGetString(pattern, FC_FAMILY, i, &name) == FcResultMatch; ++i) {
@@ -127,7 +128,7 @@ std::optional<CatalogFont> entryOf(FcPattern *pattern) {
 }
 
 /// The regular font of each family of the cascade, in its order.
-std::vector<FcPattern *> cascadePatterns(const FcFontSet &fonts, const QString &wanted) {
+std::vector<FcPattern *> cascadePatterns(const FcFontSet &fonts, const QStringList &wanted) {
     struct Choice {
         FcPattern *pattern = nullptr;
         int distance = 0;
@@ -178,7 +179,7 @@ bool CatalogFont::covers(char32_t character) const {
     return FcCharSetHasChar(m_covered.get(), character) == FcTrue;
 }
 
-std::vector<CatalogFont> findTextFonts(const QString &family) {
+std::vector<CatalogFont> findTextFonts(const QStringList &families) {
     std::vector<CatalogFont> found;
     const Config config(FcInitLoadConfigAndFonts());
     if (!config) {
@@ -190,7 +191,7 @@ std::vector<CatalogFont> findTextFonts(const QString &family) {
         }
     };
     if (const FcFontSet *fonts = FcConfigGetFonts(config.get(), FcSetSystem)) {
-        for (FcPattern *pattern : cascadePatterns(*fonts, family)) {
+        for (FcPattern *pattern : cascadePatterns(*fonts, families)) {
             add(pattern);
         }
     }
@@ -200,6 +201,22 @@ std::vector<CatalogFont> findTextFonts(const QString &family) {
         }
     }
     return found;
+}
+
+QStringList missingFamilies(const QStringList &families) {
+    QStringList missing = families;
+    const Config config(FcInitLoadConfigAndFonts());
+    const FcFontSet *fonts = config ? FcConfigGetFonts(config.get(), FcSetSystem) : nullptr;
+    for (int i = 0; fonts != nullptr && i < fonts->nfont; ++i) {
+        if (!isUsable(fonts->fonts[i])) {
+            continue;
+        }
+        if (const auto rank = rankOf(fonts->fonts[i], missing);
+            rank && rank->first < static_cast<std::size_t>(missing.size())) {
+            missing.removeAt(static_cast<qsizetype>(rank->first));
+        }
+    }
+    return missing;
 }
 
 } // namespace folioforge

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <memory>
 #include <vector>
@@ -31,9 +32,13 @@ class CatalogFont {
     std::unique_ptr<_FcCharSet, Release> m_covered;
 };
 
-/// The upright regular fonts for the text font `family`, in order of preference: the family itself
-/// if the system has it, then free fonts that together cover the scripts of the world; if the
-/// system has none of these, its sans-serif. Reads the system's font index but opens no font.
-std::vector<CatalogFont> findTextFonts(const QString &family);
+/// The upright regular fonts for text in the first of `families`, in order of preference: those of
+/// the families that the system has, then free fonts that together cover the scripts of the world;
+/// if the system has none of these, its sans-serif. Reads the system's font index but opens no
+/// font.
+std::vector<CatalogFont> findTextFonts(const QStringList &families);
+
+/// Those of `families` of which the system has no font that text can be written with.
+QStringList missingFamilies(const QStringList &families);
 
 } // namespace folioforge

@@ -36,6 +36,8 @@ class FontFace {
 
     /// The HarfBuzz face; this object owns it.
     [[nodiscard]] hb_face_t *hbFace() const { return m_face.get(); }
+    /// The HarfBuzz font, in font units; this object owns it.
+    [[nodiscard]] hb_font_t *hbFont() const { return m_font.get(); }
     /// PostScript name, fit for a PDF font name.
     [[nodiscard]] const QByteArray &postScriptName() const { return m_postScriptName; }
     [[nodiscard]] unsigned unitsPerEm() const;

@@ -11,6 +11,10 @@ void HarfBuzzRelease::operator()(hb_blob_t *blob) const {
     hb_blob_destroy(blob);
 }
 
+void HarfBuzzRelease::operator()(hb_buffer_t *buffer) const {
+    hb_buffer_destroy(buffer);
+}
+
 void HarfBuzzRelease::operator()(hb_face_t *face) const {
     hb_face_destroy(face);
 }

@@ -5,6 +5,7 @@
 #include <memory>
 
 struct hb_blob_t;
+struct hb_buffer_t;
 struct hb_face_t;
 struct hb_font_t;
 struct hb_subset_input_t;
@@ -15,6 +16,7 @@ namespace folioforge {
 /// Gives back what HarfBuzz handed out.
 struct HarfBuzzRelease {
     void operator()(hb_blob_t *blob) const;
+    void operator()(hb_buffer_t *buffer) const;
     void operator()(hb_face_t *face) const;
     void operator()(hb_font_t *font) const;
     void operator()(hb_subset_input_t *input) const;

@@ -13,20 +13,6 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-/// The characters that end a line, each by itself.
-bool isNewline(char16_t code) {
-    constexpr char16_t kLineFeed = 0x0A;
-    constexpr char16_t kCarriageReturn = 0x0D;
-    constexpr char16_t kNextLine = 0x85;
-    constexpr char16_t kLineSeparator = 0x2028;
-    constexpr char16_t kParagraphSeparator = 0x2029;
-    if (code > kCarriageReturn && code < kNextLine) {
-        return false; // Nearly every unit of a large text.
-    }
-    return (code >= kLineFeed && code <= kCarriageReturn) || code == kNextLine ||
-           code == kLineSeparator || code == kParagraphSeparator;
-}
-
 bool startsWithPair(QStringView text) {
     return text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
 }
@@ -144,6 +130,12 @@ class PageFiller {
 
 } // namespace
 
+void requireFont(const FontCascade &font, QStringView text) {
+    if (font.faceCount() == 0 && !text.isEmpty()) {
+        throw Error(u"There is no font to write text with"_s);
+    }
+}
+
 QSizeF getStringSize(QStringView text, const FontCascade &font) {
     double width = 0;
     while (!text.isEmpty()) {
@@ -155,16 +147,14 @@ QSizeF getStringSize(QStringView text, const FontCascade &font) {
 
 Warnings layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
                     const FontCascade &font, TextPageSink &sink) {
-    if (font.faceCount() == 0 && !text.isEmpty()) {
-        throw Error(u"There is no font to write text with"_s);
-    }
+    requireFont(font, text);
     const auto left = static_cast<double>(margins.left);
     const auto right = static_cast<double>(margins.right);
     RowBreaker breaker(font, pageSize.width() - left - right);
     PageFiller pages(sink, pageSize, margins, font.rowHeight());
     bool goesOn = pages.beginPage();
     while (goesOn && !text.isEmpty()) {
-        const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), isNewline);
+        const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), endsLine);
         const qsizetype length = end - text.utf16();
         QStringView line = text.first(length);
         while (goesOn && !line.isEmpty()) {

@@ -27,8 +27,28 @@ class TextPageSink {
     virtual void beginPage() = 0;
     /// A row whose baseline starts at (x, y). `glyphs` are valid during the call.
     virtual void showRow(double x, double y, std::span<const Glyph> glyphs) = 0;
+    /// What is shown until endReading() is read as `text`, whatever each glyph stands for.
+    virtual void beginReading(QStringView text) { static_cast<void>(text); }
+    virtual void endReading() {}
     virtual void endPage() = 0;
 };
+
+/// Whether a unit ends a line; each such unit does by itself.
+inline bool endsLine(char16_t unit) {
+    constexpr char16_t kLineFeed = 0x0A;
+    constexpr char16_t kCarriageReturn = 0x0D;
+    constexpr char16_t kNextLine = 0x85;
+    constexpr char16_t kLineSeparator = 0x2028;
+    constexpr char16_t kParagraphSeparator = 0x2029;
+    if (unit > kCarriageReturn && unit < kNextLine) {
+        return false; // Nearly every unit of a large text.
+    }
+    return (unit >= kLineFeed && unit <= kCarriageReturn) || unit == kNextLine ||
+           unit == kLineSeparator || unit == kParagraphSeparator;
+}
+
+/// Throws Error where there is text but no font to write it with.
+void requireFont(const FontCascade &font, QStringView text);
 
 /// Width of `text` on one line, the sum of its advances, and the row height; in points.
 QSizeF getStringSize(QStringView text, const FontCascade &font);

@@ -53,7 +53,7 @@ class TextEntriesTest : public QObject, protected test::ConversionCase {
     void withoutAFontATextIsRefusedAndTheOthersGoOn() {
         {
             const test::InstalledFonts none;
-            m_options.textFont = FontCascade::load(u"Liberation Sans"_s, 14);
+            m_options.textFont = FontCascade::load({u"Liberation Sans"_s}, 14);
         }
         addText("a.txt", "words");
         addFile(test::writePng(path("b.png"), 300, 150));
@@ -66,7 +66,7 @@ class TextEntriesTest : public QObject, protected test::ConversionCase {
 
     void aDamagedFontGivesWayToTheNextOne() {
         const auto fileOf = [](const QString &family) {
-            return QFile::decodeName(findTextFonts(family).front().path());
+            return QFile::decodeName(findTextFonts({family}).front().path());
         };
         const QString whole = fileOf(u"DejaVu Sans"_s);
         QByteArray damaged = test::readFile(fileOf(u"Liberation Sans"_s));
@@ -75,8 +75,8 @@ class TextEntriesTest : public QObject, protected test::ConversionCase {
             test::InstalledFonts fonts;
             fonts.add(test::writeFile(path("damaged.ttf"), damaged), u"Liberation Sans"_s);
             fonts.add(whole, u"DejaVu Sans"_s);
-            QCOMPARE(findTextFonts(u"Liberation Sans"_s).size(), std::size_t{2});
-            m_options.textFont = FontCascade::load(u"Liberation Sans"_s, 14);
+            QCOMPARE(findTextFonts({u"Liberation Sans"_s}).size(), std::size_t{2});
+            m_options.textFont = FontCascade::load({u"Liberation Sans"_s}, 14);
         }
         addText("a.txt", "words");
         addFile(test::writePng(path("b.png"), 300, 150));

@@ -24,7 +24,7 @@ constexpr int kUnitsOfI = 455;
 
 /// The file of a family that the system has.
 QString fileOf(const QString &family) {
-    return QFile::decodeName(findTextFonts(family).front().path());
+    return QFile::decodeName(findTextFonts({family}).front().path());
 }
 
 /// What the list shows of a finished entry whose document is named `name`.

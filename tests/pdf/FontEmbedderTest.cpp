@@ -27,7 +27,7 @@ constexpr double kLeft = 72;
 constexpr int kDpi = 144;
 
 std::shared_ptr<const FontCascade> font() {
-    static const auto kept = FontCascade::load(u"Liberation Sans"_s, 14);
+    static const auto kept = FontCascade::load({u"Liberation Sans"_s}, 14);
     return kept;
 }
 
@@ -205,7 +205,7 @@ class FontEmbedderTest : public QObject {
 
     void uncoveredCharacterIsABoxThatReadsAsItself() {
         const QString path = write(u"\U000E0FFF"_s);
-        QRawFont raw(QString::fromUtf8(findTextFonts(u"Liberation Sans"_s)[0].path()),
+        QRawFont raw(QString::fromUtf8(findTextFonts({u"Liberation Sans"_s})[0].path()),
                      14.0 * kDpi / 72, QFont::PreferNoHinting);
         const QImage box = drawnByQt(raw.pathForGlyph(0));
         QVERIFY(sumOf(box) > 0);

@@ -94,7 +94,7 @@ class PDFContextTest : public QObject, protected ContextCase {
 
     void rowsOfAnyDistanceStandWhereTheyArePut() {
         const QString path = newFile(u"pdf"_s);
-        const auto font = FontCascade::load(u"Liberation Sans"_s, 14);
+        const auto font = FontCascade::load({u"Liberation Sans"_s}, 14);
         const std::array glyphs{font->glyph(U'W')};
         // Steps of 20, of 20 again, of 3, of 3 upwards and of nearly the height of a row, 16.1.
         const QList<QPointF> places{{10, 150}, {10, 130}, {10, 110},
@@ -117,7 +117,7 @@ class PDFContextTest : public QObject, protected ContextCase {
 
     void textHasTheColorOfItsPage() {
         const QString path = newFile(u"pdf"_s);
-        const auto font = FontCascade::load(u"Liberation Sans"_s, 40);
+        const auto font = FontCascade::load({u"Liberation Sans"_s}, 40);
         const std::array glyphs{font->glyph(U'W')};
         PDFContext context(path, settings());
         context.setFont(font, 40);

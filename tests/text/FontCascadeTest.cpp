@@ -22,7 +22,7 @@ constexpr double kSize = 14;
 const QString kMissingFamily = u"No Such Family"_s;
 
 std::shared_ptr<const FontCascade> cascade() {
-    return FontCascade::load(kMissingFamily, kSize);
+    return FontCascade::load({kMissingFamily}, kSize);
 }
 
 /// The bytes of a font as a file of one face: QRawFont opens only the first of a collection.
@@ -50,7 +50,7 @@ class FontCascadeTest : public QObject {
     }
 
     void familyThatTheSystemHasComesFirst() {
-        const auto font = FontCascade::load(u"freeserif"_s, kSize);
+        const auto font = FontCascade::load({u"freeserif"_s}, kSize);
         QCOMPARE(font->face(0).postScriptName(), QByteArray("FreeSerif"));
         QCOMPARE(font->face(1).postScriptName(), QByteArray("LiberationSans"));
     }
@@ -134,7 +134,7 @@ class FontCascadeTest : public QObject {
     void aControlCharacterThatTheFirstFaceLacksIsABlank() {
         QFETCH(const uint, character);
         // Liberation Sans has none of them, Unifont shows each as a box with its name.
-        const auto others = FontCascade::load(u"Unifont"_s, kSize);
+        const auto others = FontCascade::load({u"Unifont"_s}, kSize);
         QVERIFY(others->face(0).glyph(character));
         const Glyph glyph = cascade()->glyph(character);
         QCOMPARE(glyph.face, std::uint16_t{0});
@@ -143,7 +143,7 @@ class FontCascadeTest : public QObject {
     }
 
     void aControlCharacterThatTheFirstFaceHasIsDrawnByIt() {
-        const auto font = FontCascade::load(u"Unifont"_s, kSize);
+        const auto font = FontCascade::load({u"Unifont"_s}, kSize);
         QVERIFY(font->glyph(U'\t').id != font->glyph(U' ').id);
     }
 
@@ -166,7 +166,7 @@ class FontCascadeTest : public QObject {
 
     void glyphsAgreeWithAnotherReader() {
         QFETCH(const uint, character);
-        const auto fonts = findTextFonts(kMissingFamily);
+        const auto fonts = findTextFonts({kMissingFamily});
         const auto font = cascade();
         const Glyph glyph = font->glyph(character);
         const CatalogFont &file = fonts.at(glyph.face);
@@ -179,7 +179,7 @@ class FontCascadeTest : public QObject {
     }
 
     void boxIsThatOfTheHeadTable() {
-        const QRawFont raw(faceFile(findTextFonts(kMissingFamily).front()), 1000);
+        const QRawFont raw(faceFile(findTextFonts({kMissingFamily}).front()), 1000);
         const QByteArray head = raw.fontTable("head");
         const auto field = [&head](qsizetype at) {
             return int{qFromBigEndian<qint16>(head.constData() + at)};

@@ -14,7 +14,7 @@ namespace {
 
 /// The file of a family that the system has.
 QString fileOf(const QString &family) {
-    return QFile::decodeName(findTextFonts(family).front().path());
+    return QFile::decodeName(findTextFonts({family}).front().path());
 }
 
 } // namespace

@@ -43,7 +43,7 @@ class Recorder : public TextPageSink {
 };
 
 std::shared_ptr<const FontCascade> font() {
-    static const auto kept = FontCascade::load(u"Liberation Sans"_s, 14);
+    static const auto kept = FontCascade::load({u"Liberation Sans"_s}, 14);
     return kept;
 }
 
@@ -81,10 +81,10 @@ std::vector<Page> layOutInWidth(const QString &text, double usable) {
 
 /// The font that the system has of `family`, as its only one.
 std::shared_ptr<const FontCascade> onlyFont(const QString &family) {
-    const QString file = QFile::decodeName(findTextFonts(family).front().path());
+    const QString file = QFile::decodeName(findTextFonts({family}).front().path());
     test::InstalledFonts fonts;
     fonts.add(file, family);
-    return FontCascade::load(family, 14);
+    return FontCascade::load({family}, 14);
 }
 
 std::shared_ptr<const FontCascade> latinOnly() {
@@ -369,7 +369,7 @@ class TextPageLayoutTest : public QObject {
         std::shared_ptr<const FontCascade> none;
         {
             const test::InstalledFonts noFonts;
-            none = FontCascade::load(u"Liberation Sans"_s, 14);
+            none = FontCascade::load({u"Liberation Sans"_s}, 14);
         }
         Recorder recorder;
         try {

@@ -3,9 +3,8 @@
 #include "pdf/fonts/CharacterMap.h"
 
 #include "pdf/fonts/CodeTable.h"
-#include "text/FontCascade.h"
 
-#include <QChar>
+#include <QString>
 
 #include <algorithm>
 #include <iterator>
@@ -32,12 +31,12 @@ std::string codeText(const CodeTable &table, std::uint16_t code) {
     return '<' + hex(code, twoBytes ? 4 : 2) + '>';
 }
 
-std::string utf16Text(char32_t character) {
-    if (QChar::requiresSurrogates(character)) {
-        return '<' + hex(QChar::highSurrogate(character), 4) +
-               hex(QChar::lowSurrogate(character), 4) + '>';
+std::string utf16Text(const QString &text) {
+    std::string digits;
+    for (const QChar unit : text) {
+        digits += hex(unit.unicode(), 4);
     }
-    return '<' + hex(character, 4) + '>';
+    return '<' + digits + '>';
 }
 
 std::string head(std::string_view ordering, std::string_view name, int type,
@@ -78,7 +77,7 @@ std::string makeEncodingMap(const CodeTable &table) {
 std::string makeUnicodeMap(const CodeTable &table) {
     std::vector<CodeEntry> entries;
     std::ranges::copy_if(table.entries(), std::back_inserter(entries),
-                         [](const CodeEntry &entry) { return entry.character < kNoCharacter; });
+                         [](const CodeEntry &entry) { return !entry.text.isEmpty(); });
     std::ranges::sort(entries, {}, &CodeEntry::code);
     std::string map = head("UCS", "Adobe-Identity-UCS", 2, table);
     // Ranges would be shorter, but Ghostscript 10.0 misreads them.
@@ -88,7 +87,7 @@ std::string makeUnicodeMap(const CodeTable &table) {
         map.append(std::to_string(to - from)).append(" beginbfchar\n");
         for (std::size_t i = from; i < to; ++i) {
             map.append(codeText(table, entries[i].code));
-            map.append(utf16Text(entries[i].character)).append("\n");
+            map.append(utf16Text(entries[i].text)).append("\n");
         }
         map.append("endbfchar\n");
     }

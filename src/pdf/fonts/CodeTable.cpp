@@ -4,11 +4,11 @@
 
 namespace folioforge {
 
-std::optional<std::uint16_t> CodeTable::nextCode(char32_t character) {
-    constexpr char32_t kFirstAscii = 0x20;
-    constexpr char32_t kLastAscii = 0x7E;
-    if (character >= kFirstAscii && character <= kLastAscii) {
-        return static_cast<std::uint16_t>(character);
+std::optional<std::uint16_t> CodeTable::nextCode(QStringView text) {
+    constexpr char16_t kFirstAscii = 0x20;
+    constexpr char16_t kLastAscii = 0x7E;
+    if (text.size() == 1 && text[0] >= kFirstAscii && text[0] <= kLastAscii) {
+        return text[0].unicode();
     }
     if (m_nextOneByte <= kLastOneByte) {
         return m_nextOneByte++;
@@ -19,19 +19,19 @@ std::optional<std::uint16_t> CodeTable::nextCode(char32_t character) {
     return std::nullopt;
 }
 
-std::optional<std::uint16_t> CodeTable::add(std::uint16_t glyph, char32_t character) {
-    const auto code = nextCode(character);
+std::optional<std::uint16_t> CodeTable::add(std::uint16_t glyph, const QString &text) {
+    const auto code = nextCode(text);
     if (code) {
-        m_entries.push_back({*code, glyph, character});
+        m_entries.push_back({*code, glyph, text});
     }
     return code;
 }
 
-bool CodeTable::addAt(std::uint16_t code, std::uint16_t glyph, char32_t character) {
+bool CodeTable::addAt(std::uint16_t code, std::uint16_t glyph, const QString &text) {
     if (!m_taken.insert(code).second) {
         return false;
     }
-    m_entries.push_back({code, glyph, character});
+    m_entries.push_back({code, glyph, text});
     return true;
 }
 

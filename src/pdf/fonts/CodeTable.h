@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 #include <optional>
 #include <set>
@@ -14,7 +16,7 @@ namespace folioforge {
 struct CodeEntry {
     std::uint16_t code = 0;
     std::uint16_t glyph = 0;
-    char32_t character = 0;
+    QString text; ///< What it stands for; may be several characters or none.
 };
 
 /// Gives the glyphs of one font their codes.
@@ -34,11 +36,11 @@ class CodeTable {
     explicit CodeTable(Form form)
         : m_form(form) {}
 
-    /// A new code for a glyph of a Mixed table; nothing when the table is full. Add each character
+    /// A new code for a glyph of a Mixed table; nothing when the table is full. Add each text
     /// once.
-    std::optional<std::uint16_t> add(std::uint16_t glyph, char32_t character);
-    /// Adds a glyph under `code` to a TwoByte table; false when another character has the code.
-    bool addAt(std::uint16_t code, std::uint16_t glyph, char32_t character);
+    std::optional<std::uint16_t> add(std::uint16_t glyph, const QString &text);
+    /// Adds a glyph under `code` to a TwoByte table; false when another text has the code.
+    bool addAt(std::uint16_t code, std::uint16_t glyph, const QString &text);
 
     [[nodiscard]] Form form() const { return m_form; }
     /// In the order they were added.
@@ -47,7 +49,7 @@ class CodeTable {
     [[nodiscard]] bool hasTwoByteCodes() const { return m_nextTwoByte > kFirstTwoByte; }
 
   private:
-    std::optional<std::uint16_t> nextCode(char32_t character);
+    std::optional<std::uint16_t> nextCode(QStringView text);
 
     Form m_form;
     std::vector<CodeEntry> m_entries;

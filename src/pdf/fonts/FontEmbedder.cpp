@@ -12,8 +12,8 @@
 namespace folioforge {
 
 namespace {
-/// Pages of 256 characters that cover all of Unicode, and one for kNoCharacter.
-constexpr std::size_t kCharacterPages = 0x1101;
+/// Pages of 256 characters that cover all of Unicode, kNoCharacter, and the forms of letters.
+constexpr std::size_t kCharacterPages = (FontCascade::kFirstForm + FontCascade::kMaxForms) / 256;
 
 void appendByte(GlyphCode &code, unsigned byte) {
     auto letter = static_cast<char>(byte);
@@ -61,13 +61,13 @@ FontEmbedder::Face &FontEmbedder::faceOf(const Glyph &glyph) {
 std::optional<GlyphCode> FontEmbedder::addCode(std::uint16_t font, const Face &face,
                                                const Glyph &glyph) {
     CodeTable &table = m_fonts[font - 1U].table;
+    const QString text = m_cascade->textOf(glyph);
     if (face.cids) {
         const std::uint16_t cid = face.cids->of(glyph.id);
-        return table.addAt(cid, glyph.id, glyph.character)
-                   ? std::optional(escapedCode(font, cid, true))
-                   : std::nullopt;
+        return table.addAt(cid, glyph.id, text) ? std::optional(escapedCode(font, cid, true))
+                                                : std::nullopt;
     }
-    const auto code = table.add(glyph.id, glyph.character);
+    const auto code = table.add(glyph.id, text);
     return code ? std::optional(escapedCode(font, *code, *code > CodeTable::kLastOneByte))
                 : std::nullopt;
 }

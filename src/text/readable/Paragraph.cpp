@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "text/readable/Paragraph.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ranges>
+
+namespace folioforge {
+namespace {
+
+/// Whether the glyphs of a text are those of its characters, one after the other: letters of Latin
+/// scripts without marks of their own.
+bool isPlain(QStringView text) {
+    constexpr char16_t kFirstMark = 0x0300;
+    constexpr char16_t kSoftHyphen = 0x00AD;
+    return std::all_of(text.utf16(), text.utf16() + text.size(),
+                       [](char16_t unit) { return unit < kFirstMark && unit != kSoftHyphen; });
+}
+
+bool isBlank(QChar unit) {
+    return unit == u' ' || unit == u'\t' || unit == u'\u3000';
+}
+
+} // namespace
+
+Paragraph::Paragraph(QStringView text, const FontCascade &font, LineBreaks &breaks,
+                     MissingGlyphs &missing)
+    : m_text(text)
+    , m_breaks(breaks)
+    , m_advances(static_cast<std::size_t>(text.size())) {
+    breaks.setText(text);
+    if (isPlain(text)) {
+        shapePlain(font, missing);
+    } else {
+        if (TextDirections::matter(text)) {
+            m_directions.emplace(text);
+        }
+        const auto directed = m_directions ? m_directions->logicalRuns()
+                                           : std::vector<DirectedRun>{{0, text.size(), false}};
+        for (const TextRun &run : findRuns(text, directed, font, missing)) {
+            m_runs.push_back({run, shape(text, run, font)});
+        }
+    }
+    std::size_t count = 0;
+    for (const Run &run : m_runs) {
+        count += run.glyphs.size();
+        for (const PlacedGlyph &placed : run.glyphs) {
+            m_advances[static_cast<std::size_t>(placed.first)] += placed.advance;
+        }
+    }
+    m_glyphs.reserve(count); // The pieces point into it.
+}
+
+void Paragraph::shapePlain(const FontCascade &font, MissingGlyphs &missing) {
+    Run run{{0, m_text.size()}, {}};
+    run.glyphs.reserve(static_cast<std::size_t>(m_text.size()));
+    for (qsizetype i = 0; i < m_text.size(); ++i) {
+        const Glyph glyph = font.glyph(m_text[i].unicode());
+        if (glyph.id == 0) {
+            missing.add(glyph);
+        }
+        run.glyphs.push_back({glyph, i, i + 1, glyph.advance});
+    }
+    m_runs.push_back(std::move(run));
+}
+
+TextRow Paragraph::rowTo(qsizetype first, qsizetype end) const {
+    TextRow row{first, end, end};
+    while (row.visible > first && isBlank(m_text[row.visible - 1])) {
+        --row.visible;
+    }
+    for (qsizetype i = first; i < row.visible; ++i) {
+        row.width += m_advances[static_cast<std::size_t>(i)];
+    }
+    return row;
+}
+
+qsizetype Paragraph::characterAt(qsizetype first, qsizetype unit) const {
+    qsizetype start = unit;
+    while (start > first && (m_text[start].isMark() || m_text[start].isLowSurrogate())) {
+        --start;
+    }
+    return start > first ? start : unit;
+}
+
+TextRow Paragraph::takeRow(qsizetype first, double width, double tabStop) {
+    constexpr double kRounding = 1e-6;
+    double at = 0;
+    for (qsizetype i = first; i < m_text.size(); ++i) {
+        double &advance = m_advances[static_cast<std::size_t>(i)];
+        if (m_text[i] == u'\t') {
+            advance = (std::floor(at / tabStop + kRounding) + 1) * tabStop - at;
+        }
+        if (i > first && at + advance > width + kRounding && !isBlank(m_text[i]) && advance > 0) {
+            const qsizetype end = m_breaks.lastAtOrBefore(i);
+            return rowTo(first, end > first ? end : characterAt(first, i));
+        }
+        at += advance;
+    }
+    return rowTo(first, m_text.size());
+}
+
+std::vector<DirectedRun> Paragraph::visualRuns(const TextRow &row) const {
+    if (row.visible == row.first) {
+        return {};
+    }
+    return m_directions ? m_directions->visualRuns(row.first, row.visible)
+                        : std::vector<DirectedRun>{{row.first, row.visible, false}};
+}
+
+std::span<const RowPiece> Paragraph::pieces(const TextRow &row) {
+    m_pieces.clear();
+    m_glyphs.clear();
+    m_pen = 0;
+    for (const DirectedRun &part : visualRuns(row)) {
+        const auto inPart = [&part](const Run &run) {
+            return run.run.first < part.end && run.run.end > part.first;
+        };
+        if (part.rightToLeft) {
+            std::ranges::for_each(m_runs | std::views::reverse | std::views::filter(inPart),
+                                  [&](const Run &run) { place(run, part); });
+        } else {
+            std::ranges::for_each(m_runs | std::views::filter(inPart),
+                                  [&](const Run &run) { place(run, part); });
+        }
+    }
+    return m_pieces;
+}
+
+void Paragraph::place(const Run &run, const DirectedRun &part) {
+    const auto isBefore = [&](const PlacedGlyph &placed) {
+        return run.run.rightToLeft ? placed.first >= part.end : placed.first < part.first;
+    };
+    auto placed = std::ranges::partition_point(run.glyphs, isBefore);
+    while (placed != run.glyphs.end() && placed->first >= part.first && placed->first < part.end) {
+        const auto end = std::find_if(placed, run.glyphs.end(), [&](const PlacedGlyph &other) {
+            return other.first != placed->first;
+        });
+        if (m_text[placed->first] == u'\t') {
+            m_pen += m_advances[static_cast<std::size_t>(placed->first)];
+        } else {
+            place({placed, end});
+        }
+        placed = end;
+    }
+}
+
+void Paragraph::place(std::span<const PlacedGlyph> cluster) {
+    const bool isClear = std::ranges::all_of(cluster, [](const PlacedGlyph &placed) {
+        return placed.hasText && placed.right == 0 && placed.up == 0;
+    });
+    const PlacedGlyph &first = cluster.front();
+    const QStringView readAs =
+        isClear ? QStringView() : m_text.sliced(first.first, first.end - first.first);
+    for (const PlacedGlyph &placed : cluster) {
+        place(placed, readAs);
+    }
+}
+
+void Paragraph::place(const PlacedGlyph &placed, QStringView readAs) {
+    constexpr double kTolerance = 1e-4; // Far less than a reader can show.
+    const double x = m_pen + placed.right;
+    const bool follows = !m_pieces.empty() && std::abs(x - m_pieceEnd) < kTolerance &&
+                         m_pieces.back().up == placed.up &&
+                         m_pieces.back().readAs.data() == readAs.data();
+    m_glyphs.push_back(placed.glyph);
+    if (follows) {
+        RowPiece &piece = m_pieces.back();
+        piece.glyphs = {piece.glyphs.data(), piece.glyphs.size() + 1};
+    } else {
+        m_pieces.push_back({x, placed.up, {&m_glyphs.back(), 1}, readAs});
+        m_pieceEnd = x;
+    }
+    m_pieceEnd += placed.glyph.advance;
+    m_pen += placed.advance;
+}
+
+} // namespace folioforge

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "text/FontCascade.h"
+#include "text/MissingGlyphs.h"
+#include "text/readable/LineBreaks.h"
+#include "text/readable/Shaping.h"
+#include "text/readable/TextDirections.h"
+#include "text/readable/TextRuns.h"
+
+#include <QStringView>
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace folioforge {
+
+/// Units of a paragraph that stand in one row.
+struct TextRow {
+    qsizetype first = 0;
+    qsizetype end = 0;     ///< Where the next row begins.
+    qsizetype visible = 0; ///< The end without the blanks at it, which take no room.
+    double width = 0;      ///< Points, of what is visible.
+};
+
+/// Glyphs of a row that follow each other without a gap.
+struct RowPiece {
+    double x = 0;  ///< Points from the left end of the row.
+    double up = 0; ///< Points above the baseline.
+    std::span<const Glyph> glyphs;
+    /// What this piece and its neighbours of the same units are read as together, where a reader
+    /// could not tell from the glyphs and their places; else empty.
+    QStringView readAs = {};
+};
+
+/// A paragraph whose characters have their glyphs and widths. It is cut into rows one by one.
+class Paragraph {
+  public:
+    /// Shapes `text`, a paragraph without the character that ends it, or the rest of one.
+    /// Characters that no face has go to `missing`. `text` and the others are to live as long as
+    /// this. Throws Error when a face cannot be read.
+    Paragraph(QStringView text, const FontCascade &font, LineBreaks &breaks,
+              MissingGlyphs &missing);
+
+    /// Whether rows begin at the right.
+    [[nodiscard]] bool isRightToLeft() const {
+        return m_directions && m_directions->isRightToLeft();
+    }
+    /// The row that begins with the unit `first`: what fits into `width` points, but at least one
+    /// character. A tab leads to the next multiple of `tabStop` points.
+    [[nodiscard]] TextRow takeRow(qsizetype first, double width, double tabStop);
+    /// The pieces of a row that was taken, from left to right. They live until the next call.
+    [[nodiscard]] std::span<const RowPiece> pieces(const TextRow &row);
+
+  private:
+    struct Run {
+        TextRun run;
+        std::vector<PlacedGlyph> glyphs;
+    };
+
+    void shapePlain(const FontCascade &font, MissingGlyphs &missing);
+    [[nodiscard]] TextRow rowTo(qsizetype first, qsizetype end) const;
+    /// The unit that begins the character at `unit`, which has marks behind it; `unit` where that
+    /// is `first` or before it.
+    [[nodiscard]] qsizetype characterAt(qsizetype first, qsizetype unit) const;
+    [[nodiscard]] std::vector<DirectedRun> visualRuns(const TextRow &row) const;
+    void place(const Run &run, const DirectedRun &part);
+    void place(std::span<const PlacedGlyph> cluster);
+    void place(const PlacedGlyph &placed, QStringView readAs);
+
+    QStringView m_text;
+    LineBreaks &m_breaks;
+    std::optional<TextDirections> m_directions; ///< Where the direction may change.
+    std::vector<Run> m_runs;
+    std::vector<double> m_advances; ///< Points, of the first of the units that share a place.
+
+    std::vector<RowPiece> m_pieces;
+    std::vector<Glyph> m_glyphs; ///< Of the pieces.
+    double m_pen = 0;
+    double m_pieceEnd = 0;
+};
+
+} // namespace folioforge

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "text/readable/ReadableLayout.h"
+
+#include "error/Error.h"
+#include "text/MissingGlyphs.h"
+#include "text/readable/Paragraph.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+namespace {
+
+constexpr char16_t kFormFeed = 0x0C;
+
+/// Puts rows under each other, from the top margin to the bottom margin of each page.
+class PageColumn {
+  public:
+    PageColumn(TextPageSink &sink, QSizeF page, const PageMargins &margins, const FontCascade &font,
+               double lineSpacing)
+        : m_sink(sink)
+        , m_left(static_cast<double>(margins.left))
+        , m_width(page.width() - m_left - static_cast<double>(margins.right))
+        , m_top(page.height() - static_cast<double>(margins.top))
+        , m_bottom(static_cast<double>(margins.bottom))
+        , m_ascent(font.ascent())
+        , m_rowHeight(static_cast<double>(font.rowHeight()))
+        , m_pitch(m_rowHeight * lineSpacing) {}
+
+    [[nodiscard]] double width() const { return m_width; }
+
+    /// False when the sink wants no further page.
+    [[nodiscard]] bool beginPage() {
+        if (m_isOpen) {
+            endPage();
+        }
+        if (!m_sink.wantsPage()) {
+            return false;
+        }
+        m_sink.beginPage();
+        m_isOpen = true;
+        m_rowTop = m_top;
+        return true;
+    }
+    void endPage() {
+        m_sink.endPage();
+        m_isOpen = false;
+    }
+
+    /// Takes the room of a row, on the next page where this one is full. False when the sink does
+    /// not want it.
+    [[nodiscard]] bool takeRoom() {
+        constexpr double kRounding = 1e-6;
+        // A row taller than the page gets a page of its own.
+        if (m_rowTop < m_top && m_rowTop - m_rowHeight < m_bottom - kRounding && !beginPage()) {
+            return false;
+        }
+        m_baseline = m_rowTop - m_ascent;
+        m_rowTop -= m_pitch;
+        return true;
+    }
+
+    /// Draws a row into the room that was taken.
+    void show(Paragraph &paragraph, const TextRow &row) {
+        const double start = m_left + (paragraph.isRightToLeft() ? m_width - row.width : 0);
+        QStringView read;
+        const auto readAs = [&](QStringView text) {
+            if (text.data() == read.data()) {
+                return;
+            }
+            if (!read.isEmpty()) {
+                m_sink.endReading();
+            }
+            if (!text.isEmpty()) {
+                m_sink.beginReading(text);
+            }
+            read = text;
+        };
+        for (const RowPiece &piece : paragraph.pieces(row)) {
+            readAs(piece.readAs);
+            m_sink.showRow(start + piece.x, m_baseline + piece.up, piece.glyphs);
+        }
+        readAs({});
+    }
+
+  private:
+    TextPageSink &m_sink;
+    double m_left = 0;
+    double m_width = 0;
+    double m_top = 0; ///< Heights are from the lower edge of the page.
+    double m_bottom = 0;
+    double m_ascent = 0;
+    double m_rowHeight = 0;
+    double m_pitch = 0;
+    double m_rowTop = 0;
+    double m_baseline = 0;
+    bool m_isOpen = false;
+};
+
+/// Cuts paragraphs into rows and puts them into the column.
+class ReadableText {
+  public:
+    ReadableText(const FontCascade &font, const ReadableStyle &style, PageColumn &column)
+        : m_font(font)
+        , m_tabStop(style.tabWidth * font.glyph(U' ').advance)
+        , m_column(column) {}
+
+    /// False when the sink wants no further page.
+    [[nodiscard]] bool add(QStringView text) {
+        if (text.isEmpty()) {
+            return m_column.takeRoom();
+        }
+        while (!text.isEmpty()) {
+            // A line of any length is shaped in parts: each goes as far as its last full row.
+            constexpr qsizetype kShapedAtOnce = 32'768;
+            const bool isLast = text.size() <= kShapedAtOnce;
+            const qsizetype taken = addPart(isLast ? text : text.first(kShapedAtOnce), isLast);
+            if (taken == 0) {
+                return false;
+            }
+            text = text.sliced(taken);
+        }
+        return true;
+    }
+
+    [[nodiscard]] Warnings warnings() const { return m_missing.warnings(); }
+
+  private:
+    /// How many units went into rows; 0 when the sink wants no further page.
+    qsizetype addPart(QStringView text, bool isLast) {
+        Paragraph paragraph(text, m_font, m_breaks, m_missing);
+        qsizetype taken = 0;
+        while (taken < text.size()) {
+            const TextRow row = paragraph.takeRow(taken, m_column.width(), m_tabStop);
+            if (row.end == text.size() && !isLast && taken > 0) {
+                break;
+            }
+            if (!m_column.takeRoom()) {
+                return 0;
+            }
+            m_column.show(paragraph, row);
+            taken = row.end;
+        }
+        return taken;
+    }
+
+    const FontCascade &m_font;
+    double m_tabStop = 0;
+    PageColumn &m_column;
+    LineBreaks m_breaks;
+    MissingGlyphs m_missing;
+};
+
+/// Removes the character that ends a line, two of them for CR LF.
+QStringView withoutLineEnd(QStringView text) {
+    return text.sliced(text.startsWith(u"\r\n") ? 2 : std::min<qsizetype>(1, text.size()));
+}
+
+} // namespace
+
+Warnings layOutReadable(QStringView text, QSizeF pageSize, const PageMargins &margins,
+                        const FontCascade &font, const ReadableStyle &style, TextPageSink &sink) {
+    requireFont(font, text);
+    PageColumn column(sink, pageSize, margins, font, style.lineSpacing);
+    ReadableText rows(font, style, column);
+    bool goesOn = column.beginPage();
+    while (goesOn && !text.isEmpty()) {
+        const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), endsLine);
+        const qsizetype length = end - text.utf16();
+        const bool endsPage = length < text.size() && *end == kFormFeed;
+        if (length > 0 || !endsPage) {
+            goesOn = rows.add(text.first(length));
+        }
+        text = withoutLineEnd(text.sliced(length));
+        if (endsPage && goesOn && !text.isEmpty()) {
+            goesOn = column.beginPage();
+        }
+    }
+    if (goesOn) {
+        column.endPage();
+    }
+    return rows.warnings();
+}
+
+} // namespace folioforge

@@ -1,0 +1,298 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "text/readable/ReadableLayout.h"
+#include "support/TestUnit.h"
+#include "text/FontCatalog.h"
+
+#include <QFontDatabase>
+#include <QGlyphRun>
+#include <QRandomGenerator>
+#include <QTextLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+
+namespace {
+
+/// Glyphs that were shown at a time, and what they are read as.
+struct ShownPiece {
+    int page = 0;
+    double x = 0;
+    double y = 0;
+    std::vector<Glyph> glyphs;
+    QString readAs;
+};
+
+/// What was shown, and on how many pages.
+struct ShownText {
+    int pages = 0;
+    std::vector<ShownPiece> pieces;
+};
+
+class PieceRecorder : public TextPageSink {
+  public:
+    void beginPage() override { ++shown.pages; }
+    void showRow(double x, double y, std::span<const Glyph> glyphs) override {
+        shown.pieces.push_back({shown.pages, x, y, {glyphs.begin(), glyphs.end()}, m_readAs});
+    }
+    void beginReading(QStringView text) override { m_readAs = text.toString(); }
+    void endReading() override { m_readAs.clear(); }
+    void endPage() override {}
+
+    ShownText shown;
+
+  private:
+    QString m_readAs;
+};
+
+constexpr double kHeight = 842;
+constexpr PageMargins kNoMargins{0, 0, 0, 0};
+
+/// Of 1,000 points, so that what the hinting of others may do is small.
+const FontCascade &large() {
+    static const auto font = FontCascade::load({u"Liberation Sans"_s}, 1000);
+    return *font;
+}
+
+const FontCascade &small() {
+    static const auto font = FontCascade::load({u"Liberation Sans"_s}, 10);
+    return *font;
+}
+
+ShownText readable(const QString &text, double width, const FontCascade &font = small(),
+                   const ReadableStyle &style = {}) {
+    PieceRecorder recorder;
+    layOutReadable(text, {width, kHeight}, kNoMargins, font, style, recorder);
+    return recorder.shown;
+}
+
+/// The rows from the top, each from left to right, as the characters of their glyphs.
+QStringList shownRows(const ShownText &text, const FontCascade &font = small()) {
+    QStringList rows;
+    const ShownPiece *before = nullptr;
+    for (const ShownPiece &piece : text.pieces) {
+        // Marks stand above and below their letters.
+        if (before == nullptr || qAbs(before->y - piece.y) > font.size() / 2 ||
+            before->page != piece.page) {
+            rows += QString();
+        }
+        for (const Glyph &glyph : piece.glyphs) {
+            rows.back() += font.textOf(glyph);
+        }
+        before = &piece;
+    }
+    return rows;
+}
+
+/// A glyph at its place, for comparison.
+struct GlyphAt {
+    double x = 0;
+    double y = 0;
+    unsigned id = 0;
+};
+
+std::vector<GlyphAt> sorted(std::vector<GlyphAt> glyphs) {
+    std::ranges::sort(glyphs, {}, [](const GlyphAt &at) { return std::pair(at.x, at.id); });
+    return glyphs;
+}
+
+/// What Qt makes of a line in the font of a file.
+std::vector<GlyphAt> shapedByQt(const QString &text, const QString &file) {
+    const int added = QFontDatabase::addApplicationFont(file);
+    QFont font(QFontDatabase::applicationFontFamilies(added).constFirst());
+    font.setPixelSize(1000);
+    font.setKerning(false);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(1e6);
+    layout.endLayout();
+    std::vector<GlyphAt> glyphs;
+    for (const QGlyphRun &run : line.glyphRuns()) {
+        for (qsizetype i = 0; i < run.glyphIndexes().size(); ++i) {
+            const QPointF at = run.positions()[i];
+            glyphs.push_back({at.x(), line.ascent() - at.y(), run.glyphIndexes()[i]});
+        }
+    }
+    return sorted(glyphs);
+}
+
+QString randomWords(int count) {
+    QRandomGenerator random(7);
+    QStringList words;
+    for (int i = 0; i < count; ++i) {
+        words += QString(random.bounded(1, 12), QChar(char16_t(u'a' + random.bounded(26))));
+    }
+    return words.join(u' ');
+}
+
+} // namespace
+
+/// Text that is set as people set it.
+class ReadableLayoutTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void lettersAreJoinedAndPlacedAsByAnotherShaper_data() {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("Arabic") << u"\u0645\u0631\u062D\u0628\u0627 \u0644\u0627"_s;
+        QTest::newRow("Arabic with vowels") << u"\u0644\u0650\u064A\u064F\u0643"_s;
+        QTest::newRow("Hebrew with points") << u"\u05E9\u05C1\u05B8\u05DC\u05D5\u05B9\u05DD"_s;
+        QTest::newRow("Devanagari") << u"\u0915\u094D\u0937\u0924\u094D\u0930\u093F\u092F"_s;
+        QTest::newRow("Thai") << u"\u0E20\u0E32\u0E29\u0E32\u0E17\u0E35\u0E48"_s;
+    }
+    void lettersAreJoinedAndPlacedAsByAnotherShaper() {
+        QFETCH(const QString, text);
+        const ShownText shown = readable(text, 1e5, large());
+        QCOMPARE(shown.pieces.empty(), false);
+        const std::uint16_t face = shown.pieces.front().glyphs.front().face;
+        std::vector<GlyphAt> ours;
+        for (const ShownPiece &piece : shown.pieces) {
+            double x = piece.x;
+            for (const Glyph &glyph : piece.glyphs) {
+                QCOMPARE(glyph.face, face);
+                ours.push_back({x, piece.y, glyph.id});
+                x += glyph.advance;
+            }
+        }
+        ours = sorted(ours);
+        const auto fonts = findTextFonts({u"Liberation Sans"_s});
+        const auto qts = shapedByQt(text, QFile::decodeName(fonts[face].path()));
+        QCOMPARE(ours.size(), qts.size());
+        // A line that is read from right to left begins at the margin.
+        const double start = ours.front().x - qts.front().x;
+        const double base = kHeight - large().ascent();
+        for (std::size_t i = 0; i < ours.size(); ++i) {
+            QCOMPARE(ours[i].id, qts[i].id);
+            QVERIFY(qAbs(ours[i].x - start - qts[i].x) < 4);
+            QVERIFY(qAbs(ours[i].y - base - qts[i].y) < 4);
+        }
+    }
+
+    void anAccentJoinsItsLetterInOneFace() {
+        // Liberation Sans has no accent of its own, but "é".
+        const ShownText composed = readable(u"e\u0301"_s, 500);
+        QCOMPARE(composed.pieces.size(), std::size_t{1});
+        QCOMPARE(composed.pieces[0].glyphs.size(), std::size_t{1});
+        QCOMPARE(composed.pieces[0].glyphs[0].id, small().glyph(U'\u00E9').id);
+        QCOMPARE(small().textOf(composed.pieces[0].glyphs[0]), u"e\u0301"_s);
+        // And no "q" with an accent: both come from the face that has the accent.
+        const ShownText apart = readable(u"aq\u0301"_s, 500);
+        QCOMPARE(shownRows(apart), QStringList{u"aq\u0301"_s});
+        QVERIFY(apart.pieces.size() > 1);
+        for (std::size_t i = 1; i < apart.pieces.size(); ++i) {
+            QCOMPARE(apart.pieces[i].glyphs[0].face, small().glyph(U'\u0301').face);
+            QCOMPARE(apart.pieces[i].readAs, u"q\u0301"_s);
+        }
+    }
+
+    void linesBreakBetweenWordsAsLateAsTheyFit_data() {
+        QTest::addColumn<int>("words");
+        QTest::newRow("a paragraph") << 60;
+        QTest::newRow("a line longer than is shaped at a time") << 20'000;
+    }
+    void linesBreakBetweenWordsAsLateAsTheyFit() {
+        QFETCH(const int, words);
+        constexpr double kWidth = 300;
+        const QString text = randomWords(words);
+        const QStringList rows = shownRows(readable(text, kWidth));
+        QCOMPARE(rows.join(u' '), text);
+        for (qsizetype i = 0; i + 1 < rows.size(); ++i) {
+            QVERIFY(getStringSize(rows[i], small()).width() <= kWidth);
+            const QString further = rows[i] + u' ' + rows[i + 1].section(u' ', 0, 0);
+            QVERIFY(getStringSize(further, small()).width() > kWidth);
+        }
+    }
+
+    void scriptsWithoutBlanksBreakBetweenTheirWords() {
+        // "Hello, world" of three words, in the room of two.
+        const QString hello = u"\u0E2A\u0E27\u0E31\u0E2A\u0E14\u0E35"_s;
+        const QString people = u"\u0E0A\u0E32\u0E27"_s;
+        const QString world = u"\u0E42\u0E25\u0E01"_s;
+        const double width = getStringSize(hello + people, small()).width() + 2;
+        const QStringList rows = shownRows(readable(hello + people + world, width));
+        QCOMPARE(rows, QStringList({hello + people, world}));
+        // A full stop never begins a row.
+        const double ideographs = getStringSize(u"\u65E5\u672C"_s, small()).width() + 1;
+        QCOMPARE(shownRows(readable(u"\u65E5\u672C\u8A9E\u3002"_s, ideographs)),
+                 QStringList({u"\u65E5\u672C"_s, u"\u8A9E\u3002"_s}));
+    }
+
+    void aWordWiderThanThePageIsCutBetweenLettersThatKeepTheirMarks() {
+        const QString letters = u"e\u0301e\u0302"_s.repeated(40);
+        const QStringList rows = shownRows(readable(letters, 100));
+        QVERIFY(rows.size() > 3);
+        QCOMPARE(rows.join(QString()), letters);
+        for (const QString &row : rows) {
+            QVERIFY(!row.front().isMark());
+            QVERIFY(getStringSize(row, small()).width() <= 100 || row.size() < 4);
+        }
+    }
+
+    void tabsLeadToStopsAndBlankLinesStay() {
+        const ShownText shown = readable(u"a\tb\n\n  c\n\td"_s, 500);
+        // A blank of Liberation Sans is 569/2048 em wide, a row 2355/2048 em high.
+        constexpr double kStop = 8 * 10 * 569.0 / 2048;
+        constexpr double kRow = 10 * 2355.0 / 2048;
+        QCOMPARE(shown.pieces.size(), std::size_t{4});
+        const double top = shown.pieces[0].y;
+        const auto isAt = [&](std::size_t i, double x, int row) {
+            return qAbs(shown.pieces[i].x - x) < 1e-3 &&
+                   qAbs(top - shown.pieces[i].y - row * kRow) < 1e-3;
+        };
+        QVERIFY(isAt(0, 0, 0));
+        QVERIFY(isAt(1, kStop, 0));
+        QVERIFY(isAt(2, 0, 2));
+        QCOMPARE(shown.pieces[2].glyphs.size(), std::size_t{3});
+        QVERIFY(isAt(3, kStop, 3));
+    }
+
+    void tabWidthAndLineSpacingAreThoseOfTheStyle() {
+        const ShownText shown = readable(u"a\tb\nc"_s, 500, small(), {4, 2});
+        QVERIFY(qAbs(shown.pieces[1].x - 4 * 10 * 569.0 / 2048) < 1e-3);
+        QVERIFY(qAbs(shown.pieces[0].y - shown.pieces[2].y - 2 * 10 * 2355.0 / 2048) < 1e-3);
+    }
+
+    void aFormFeedBeginsAPage() {
+        QCOMPARE(readable(u"a\n\fb\fc\n"_s, 500).pages, 3);
+        QCOMPARE(readable(u"a\r\nb\f"_s, 500).pages, 1);
+        QCOMPARE(readable({}, 500).pages, 1);
+    }
+
+    void rowsEndAboveTheBottomMargin() {
+        PieceRecorder recorder;
+        const QString text = u"row\n"_s.repeated(100);
+        // Rows of 11.5 points: (842 - 100 - 142) / 11.4990 = 52.18 in the first page.
+        layOutReadable(text, {500, kHeight}, {0, 0, 100, 142}, small(), {}, recorder);
+        QCOMPARE(recorder.shown.pages, 2);
+        QCOMPARE(std::ranges::count(recorder.shown.pieces, 1, &ShownPiece::page), 52);
+    }
+
+    void aLineReadFromTheRightBeginsAtTheRight() {
+        const ShownText shown = readable(u"\u05D0\u05D1 abc \u05D2\u05D3."_s, 300);
+        QCOMPARE(shownRows(shown), QStringList{u".\u05D3\u05D2 abc \u05D1\u05D0"_s});
+        double end = 0;
+        for (const ShownPiece &piece : shown.pieces) {
+            end = piece.x;
+            for (const Glyph &glyph : piece.glyphs) {
+                end += glyph.advance;
+            }
+        }
+        QVERIFY(qAbs(end - 300) < 1e-3);
+    }
+
+    void charactersWithoutAGlyphAreNamed() {
+        PieceRecorder recorder;
+        const Warnings warnings = layOutReadable(u"\u0627\u0644 \U0010FFFD"_s, {500, kHeight},
+                                                 kNoMargins, small(), {}, recorder);
+        QCOMPARE(warnings.size(), qsizetype{1});
+        QCOMPARE(warnings.front().text, u"1 character has no glyph in any font and is shown as a "
+                                        "box: private use (U+10FFFD)"_s);
+    }
+};
+
+FOLIOFORGE_TEST(ReadableLayoutTest)
+#include "ReadableLayoutTest.moc"
