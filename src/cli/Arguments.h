@@ -28,6 +28,15 @@ struct NameList {
     std::size_t at = 0; ///< Before which of the inputs that are arguments its own stand.
 };
 
+/// What the options of the readable layout say; nothing where they are not given.
+struct TextArguments {
+    bool isReadable = false;
+    QStringList families;
+    std::optional<double> fontSize; ///< Points.
+    std::optional<double> lineSpacing;
+    std::optional<double> tabWidth;
+};
+
 /// The arguments of one call, read but not checked.
 struct Arguments {
     Request request = Request::Convert;
@@ -35,7 +44,8 @@ struct Arguments {
     /// Files whose first line is a password; "-" for standard input.
     std::optional<QByteArray> userPasswordFile;
     std::optional<QByteArray> ownerPasswordFile;
-    QStringList rounded;           ///< Lengths that are not what was asked for, in words.
+    QStringList rounded; ///< Lengths that are not what was asked for, in words.
+    TextArguments text;
     std::optional<SortOrder> sort; ///< Nothing: as given.
     bool toStandardOutput = false; ///< The merged PDF; `options` then name no place for it.
     ProgressMode progress = ProgressMode::Auto;

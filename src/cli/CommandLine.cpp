@@ -10,6 +10,7 @@
 #include "cli/ProgressLine.h"
 #include "cli/Report.h"
 #include "cli/StandardOutput.h"
+#include "cli/TextOptions.h"
 #include "convert/Bundle.h"
 #include "convert/Run.h"
 #include "error/Error.h"
@@ -235,6 +236,7 @@ ExitStatus runConversion(Arguments arguments) {
         if (const auto fault = settingsFault(arguments)) {
             throw ArgumentFault(*fault);
         }
+        prepareText(arguments);
         prepareOutputFolder(arguments.options);
     } catch (const ArgumentFault &fault) {
         console.complain(fault.text());

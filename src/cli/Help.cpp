@@ -65,6 +65,16 @@ B0 to B10, C5, DL, JIS-B4, JIS-B5, Letter, Legal, Tabloid and Executive; A4^T li
   --strip-metadata                 pictures go in without their Exif, XMP and comments, so
                                    without the place where a photo was taken
 
+Text
+  --text-layout plain|readable     plain (the default) cuts lines at the right margin; readable
+                                   breaks them between words, keeps blank lines, tabs and form
+                                   feeds, and joins and turns letters as their scripts demand.
+                                   The others need it:
+  --font FAMILY,FAMILY             fonts in order of preference (default Arial or alike)
+  --font-size N                    points (default 11)
+  --line-spacing N                 in heights of a row (default 1)
+  --tab-width N                    blanks from one tab stop to the next (default 8)
+
 Report
   --progress auto|always|never     a progress line on standard error (default auto: on a
                                    terminal)

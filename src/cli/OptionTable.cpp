@@ -3,6 +3,7 @@
 #include "cli/OptionTable.h"
 
 #include "cli/OptionValues.h"
+#include "cli/TextOptions.h"
 #include "convert/OutputName.h"
 
 #include <algorithm>
@@ -207,9 +208,9 @@ qsizetype editDistance(QByteArrayView one, QByteArrayView other) {
     return row.back();
 }
 
-std::array<const std::vector<Option> *, 5> groups() {
-    return {&inputOptions(), &outputOptions(), &documentOptions(), &pageOptions(),
-            &reportOptions()};
+std::array<const std::vector<Option> *, 6> groups() {
+    return {&inputOptions(), &outputOptions(), &documentOptions(),
+            &pageOptions(),  &textOptions(),   &reportOptions()};
 }
 
 } // namespace

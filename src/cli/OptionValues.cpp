@@ -121,6 +121,15 @@ QByteArray parseInputType(const QString &text) {
     return type.toLatin1();
 }
 
+double parseNumber(const QString &text, double least, double most) {
+    bool isNumber = false;
+    const double number = text.toDouble(&isNumber);
+    if (!isNumber || !(number >= least && number <= most)) {
+        throw ArgumentFault(u"\"%1\" is no number from %2 to %3"_s.arg(text).arg(least).arg(most));
+    }
+    return number;
+}
+
 int parseWhole(const QString &text, int least, int most) {
     bool isNumber = false;
     const int number = text.toInt(&isNumber);

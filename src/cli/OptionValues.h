@@ -67,4 +67,7 @@ QByteArray parseInputType(const QString &text);
 /// A whole number from `least` to `most`. Throws ArgumentFault.
 int parseWhole(const QString &text, int least, int most);
 
+/// A number from `least` to `most`, with a point where it is no whole one. Throws ArgumentFault.
+double parseNumber(const QString &text, double least, double most);
+
 } // namespace folioforge
