@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <map>
 #include <optional>
 #include <span>
 #include <variant>
@@ -52,8 +53,9 @@ struct Arguments {
     int jobs = 1; ///< How many PDFs are made at once.
     bool json = false;
     bool quiet = false;
-    bool strict = false;            ///< A warning counts as a failure.
-    std::vector<QByteArray> inputs; ///< Paths in the system's own bytes.
+    bool strict = false;                           ///< A warning counts as a failure.
+    std::vector<QByteArray> inputs;                ///< Paths in the system's own bytes.
+    std::map<std::size_t, PageChoice> pageChoices; ///< By the positions of their inputs.
     std::vector<NameList> nameLists;
     bool listsEndInNull = false; ///< Each name of a list, instead of a line's end.
     FolderTaking taking;

@@ -19,6 +19,9 @@ Input: files, folders, pipes such as <(command), and "-" for standard input
                                writes them
   --recursive                  folders with the folders in them, but not behind links
   --with-pdfs                  folders with their PDFs
+  FILE --pages 1-3,7,z-10,odd  of the PDF before it these pages, in this order; z is the last
+  FILE --rotate +90:1-3        turns these of the pages taken, or all of them; 90 instead of
+                               +90 whatever turn they have
   --sort name|natural|size|created|modified    (default: as given)
 
 Output

@@ -4,6 +4,7 @@
 
 #include "cli/PipedInputs.h"
 #include "error/Error.h"
+#include "filelist/FileKind.h"
 #include "filelist/SourceFiles.h"
 
 #include <algorithm>
@@ -30,15 +31,23 @@ class Names {
         , m_readableLinks(readableLinks)
         , m_pipes(pipes) {}
 
-    void add(const QByteArray &path) {
+    /// `pages` are those to take of a PDF.
+    void add(const QByteArray &path, const PageChoice &pages) {
         std::error_code unknown;
         if (std::filesystem::is_directory(path.toStdString(), unknown)) {
-            addFolder(path);
-        } else if (PipedInputs::isPiped(path)) {
+            if (pages.isNone()) {
+                addFolder(path);
+            } else {
+                addProblem(path, kOnlyPdfs);
+            }
+            return;
+        }
+        if (PipedInputs::isPiped(path)) {
             addPipe(path);
         } else {
             addFile(path);
         }
+        m_inputs.back().pages = pages;
     }
 
     /// The inputs with what their files hold.
@@ -48,12 +57,29 @@ class Names {
         for (Input &input : m_inputs) {
             if (input.read.problem.isEmpty() && input.leftOut.empty()) {
                 input.read = std::move(*next++);
+                choosePages(input);
             }
         }
         return std::move(m_inputs);
     }
 
   private:
+    static constexpr QLatin1StringView kOnlyPdfs{"Pages are chosen and turned of PDFs alone"};
+
+    static void choosePages(Input &input) {
+        input.read.entry.setPageChoice(input.pages);
+        if (!input.pages.isNone() && input.read.problem.isEmpty() &&
+            fileKind(input.read.entry.filePathName()) != FileKind::Pdf) {
+            input.read.problem = kOnlyPdfs;
+        }
+    }
+
+    void addProblem(const QByteArray &path, const QString &problem) {
+        Input &input = m_inputs.emplace_back();
+        input.shown = QString::fromUtf8(path);
+        input.read.problem = problem;
+    }
+
     void addFile(const QByteArray &path) {
         m_inputs.emplace_back().shown = QString::fromUtf8(path);
         m_files += m_readableLinks.pathFor(path);
@@ -89,9 +115,7 @@ class Names {
                 }
             }
         } catch (const Error &error) {
-            Input &input = m_inputs.emplace_back();
-            input.shown = QString::fromUtf8(path);
-            input.read.problem = error.reason();
+            addProblem(path, error.reason());
         }
     }
 
@@ -127,11 +151,14 @@ class Names {
 
 } // namespace
 
-std::vector<Input> collectInputs(std::span<const QByteArray> paths, const FolderTaking &taking,
-                                 ReadableLinks &readableLinks, PipedInputs &pipes) {
+std::vector<Input> collectInputs(std::span<const QByteArray> paths,
+                                 const std::map<std::size_t, PageChoice> &choices,
+                                 const FolderTaking &taking, ReadableLinks &readableLinks,
+                                 PipedInputs &pipes) {
     Names names(taking, readableLinks, pipes);
-    for (const QByteArray &path : paths) {
-        names.add(path);
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        const auto choice = choices.find(i);
+        names.add(paths[i], choice == choices.end() ? PageChoice() : choice->second);
     }
     return names.read();
 }

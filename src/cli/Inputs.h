@@ -9,6 +9,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <map>
 #include <optional>
 #include <span>
 #include <vector>
@@ -21,6 +22,7 @@ class PipedInputs;
 struct Input {
     QString shown; ///< The path as it was given, for reports.
     ReadEntry read;
+    PageChoice pages; ///< Of a PDF.
     Warnings leftOut; ///< Only of a folder, which has no entry: what in it is no input.
 };
 
@@ -30,14 +32,16 @@ struct FolderTaking {
     bool folders = false; ///< Those that no link leads to, which might lead round.
 };
 
-/// The inputs that `paths` name, in that order. A folder stands for its text and image files and
-/// what else `taking` says in the order of their names' bytes, behind an input of its own where it
-/// holds more. What comes through a pipe, or as "-" through standard
-/// input, is kept by `pipes`. A file that is
-/// missing, of no recognised type or unreadable, and a folder that cannot be listed, is rejected
-/// with its reason.
-std::vector<Input> collectInputs(std::span<const QByteArray> paths, const FolderTaking &taking,
-                                 ReadableLinks &readableLinks, PipedInputs &pipes);
+/// The inputs that `paths` name, in that order, with the `choices` of pages by the positions of
+/// PDFs; an input that is none is rejected with a choice. A folder stands for its text and image
+/// files and what else `taking` says in the order of their names' bytes, behind an input of its own
+/// where it holds more. What comes through a pipe, or as "-" through standard input, is kept by
+/// `pipes`. A file that is missing, of no recognised type or unreadable, and a folder that cannot
+/// be listed, is rejected with its reason.
+std::vector<Input> collectInputs(std::span<const QByteArray> paths,
+                                 const std::map<std::size_t, PageChoice> &choices,
+                                 const FolderTaking &taking, ReadableLinks &readableLinks,
+                                 PipedInputs &pipes);
 
 /// Brings the inputs into `order`.
 void sortInputs(std::vector<Input> &inputs, SortOrder order);

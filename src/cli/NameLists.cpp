@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -51,6 +52,15 @@ std::vector<QByteArray> namesIn(const NameList &list, bool endInNull) {
     return names;
 }
 
+/// Keeps the choices at their inputs when `count` more are put in before the one at `at`.
+void moveChoices(std::map<std::size_t, PageChoice> &choices, std::size_t at, std::size_t count) {
+    std::map<std::size_t, PageChoice> moved;
+    for (const auto &[position, choice] : choices) {
+        moved.emplace(position + (position >= at ? count : 0), choice);
+    }
+    choices = std::move(moved);
+}
+
 } // namespace
 
 void readNameLists(Arguments &arguments) {
@@ -60,6 +70,7 @@ void readNameLists(Arguments &arguments) {
         const auto names = namesIn(*list, arguments.listsEndInNull);
         const auto at = arguments.inputs.begin() + static_cast<std::ptrdiff_t>(list->at);
         arguments.inputs.insert(at, names.begin(), names.end());
+        moveChoices(arguments.pageChoices, list->at, names.size());
     }
     const bool isPassword = arguments.userPasswordFile == "-" || arguments.ownerPasswordFile == "-";
     if (ofLists + std::ranges::count(arguments.inputs, "-") + (isPassword ? 1 : 0) > 1) {

@@ -38,6 +38,16 @@ void takeMergePath(const QString &path, Arguments &to) {
     options.outputFolder = slash < 0 ? u"."_s : path.first(std::max<qsizetype>(slash, 1));
 }
 
+/// The pages of the input before the option. Throws ArgumentFault where there is none.
+PageChoice &choiceOfLastInput(Arguments &arguments) {
+    const auto &inputs = arguments.inputs;
+    const auto &lists = arguments.nameLists;
+    if (inputs.empty() || (!lists.empty() && lists.back().at == inputs.size())) {
+        throw ArgumentFault(u"It stands behind the PDF whose pages it means"_s);
+    }
+    return arguments.pageChoices[inputs.size() - 1];
+}
+
 const std::vector<Option> &inputOptions() {
     using Value = const QByteArray &;
     static const std::vector<Option> options{
@@ -49,6 +59,14 @@ const std::vector<Option> &inputOptions() {
         {"-0", Option::Switch, [](Arguments &to, Value) { to.listsEndInNull = true; }},
         {"--input-type", Option::Valued,
          [](Arguments &to, Value value) { to.inputType = parseInputType(textOf(value)); }},
+        {"--pages", Option::Valued,
+         [](Arguments &to, Value value) {
+             choiceOfLastInput(to).range = parsePageRange(textOf(value));
+         }},
+        {"--rotate", Option::Valued,
+         [](Arguments &to, Value value) {
+             choiceOfLastInput(to).turns.push_back(parsePageTurn(textOf(value)));
+         }},
         {"--recursive", Option::Switch, [](Arguments &to, Value) { to.taking.folders = true; }},
         {"--with-pdfs", Option::Switch, [](Arguments &to, Value) { to.taking.pdfs = true; }},
         {"--sort", Option::Valued,

@@ -130,6 +130,24 @@ double parseNumber(const QString &text, double least, double most) {
     return number;
 }
 
+QByteArray parsePageRange(const QString &text) {
+    const auto range = pageRange(text.toUtf8());
+    if (!range) {
+        throw ArgumentFault(
+            u"\"%1\" is no range of pages such as 1-3,7,z-10 or 1-z:odd"_s.arg(text));
+    }
+    return *range;
+}
+
+PageTurn parsePageTurn(const QString &text) {
+    const auto turn = pageTurn(text.toUtf8());
+    if (!turn) {
+        throw ArgumentFault(u"\"%1\" is no turn by 90, 180 or 270 degrees such as +90, "
+                            "180:1-3 or -90:z"_s.arg(text));
+    }
+    return *turn;
+}
+
 int parseWhole(const QString &text, int least, int most) {
     bool isNumber = false;
     const int number = text.toInt(&isNumber);

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "pdf/PageChoice.h"
 #include "text/PageSetup.h"
 
 #include <QByteArray>
@@ -63,6 +64,11 @@ QString parseFolder(const QString &text);
 
 /// An extension that is recognised, such as "txt", in lower case. Throws ArgumentFault.
 QByteArray parseInputType(const QString &text);
+
+/// A range of pages, and a turn of some, as pageRange() and pageTurn() know them. Throw
+/// ArgumentFault.
+QByteArray parsePageRange(const QString &text);
+PageTurn parsePageTurn(const QString &text);
 
 /// A whole number from `least` to `most`. Throws ArgumentFault.
 int parseWhole(const QString &text, int least, int most);

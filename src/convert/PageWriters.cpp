@@ -102,7 +102,7 @@ WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
 }
 
 AddedDocument addPDFFile(const PDFFileInfo &entry, PDFContext &context) {
-    return context.addDocument(entry.filePathName());
+    return context.addDocument(entry.filePathName(), entry.pageChoice());
 }
 
 } // namespace folioforge

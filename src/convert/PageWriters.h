@@ -31,7 +31,7 @@ struct WrittenImage {
 WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
                            const ConversionOptions &options);
 
-/// Adds every page of the entry's PDF unchanged. Throws Error when it cannot be opened.
+/// Adds the pages of the entry's PDF that it chooses. Throws Error when it cannot be opened.
 AddedDocument addPDFFile(const PDFFileInfo &entry, PDFContext &context);
 
 } // namespace folioforge

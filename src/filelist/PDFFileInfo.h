@@ -4,6 +4,7 @@
 
 #include "filelist/TextSource.h"
 #include "image/ImageHeader.h"
+#include "pdf/PageChoice.h"
 
 #include <QString>
 #include <QStringList>
@@ -74,6 +75,10 @@ class PDFFileInfo {
     /// lost when it was listed, or what setRemarks() was given since.
     [[nodiscard]] QStringList remarks() const;
 
+    /// Which pages of a PDF are taken; all where nothing was chosen.
+    [[nodiscard]] const PageChoice &pageChoice() const { return m_pageChoice; }
+
+    void setPageChoice(const PageChoice &choice) { m_pageChoice = choice; }
     void setPageCount(int count) { m_pageCount = count; }
     void setFileSize(const QString &text) { m_fileSize = text; }
     void setIndex(int index) { m_index = index; }
@@ -112,6 +117,7 @@ class PDFFileInfo {
     QString m_destFilePathName;
     QString m_destFileName;
     int m_pageCount = 0;
+    PageChoice m_pageChoice;
     QString m_fileSize = QStringLiteral("");
     int m_index = 0;
     int m_stateIndex = Waiting;

@@ -28,7 +28,7 @@ class PDFContext::Impl {
     Impl(QString path, Settings settings);
 
     void endPage() { m_catalog.addPage(m_pages.endPage()); }
-    AddedDocument addDocument(const QString &sourcePath);
+    AddedDocument addDocument(const QString &sourcePath, const PageChoice &choice);
     CloseResult close(const std::function<QString()> &nextPath);
     void waitForPages() { m_streams.waitForPages(); }
     [[nodiscard]] Mark mark() const { return {pageCount(), m_streams.stored()}; }
@@ -63,7 +63,7 @@ PDFContext::Impl::Impl(QString path, Settings settings)
     makeEmpty(m_document);
 }
 
-AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
+AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const PageChoice &choice) {
     return translateQpdfErrors([&] {
         m_reader->beginAnew(); // A source that failed may have left its file open.
         const FileVersion file = FileVersion::of(sourcePath);
@@ -73,9 +73,9 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath) {
         SharedStreams &known = m_sourceStreams[key];
         SharedStreams streams = known;
         SourceNames names(m_catalog.names(), sourcePath);
-        ImportOptions options{m_settings.oneSource ? ImportScope::WholeDocument
-                                                   : ImportScope::OneOfSeveral,
-                              m_settings.info, m_settings.encryption != nullptr, pageCount()};
+        ImportOptions options{
+            m_settings.oneSource ? ImportScope::WholeDocument : ImportScope::OneOfSeveral,
+            m_settings.info, m_settings.encryption != nullptr, choice, pageCount()};
         ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
             if (m_settings.keepInfo) {
                 takeMissingInfo(options.info, *source);
@@ -203,8 +203,8 @@ void PDFContext::endPage() {
     translateQpdfErrors([&] { m_impl->endPage(); });
 }
 
-AddedDocument PDFContext::addDocument(const QString &sourcePath) {
-    return m_impl->addDocument(sourcePath);
+AddedDocument PDFContext::addDocument(const QString &sourcePath, const PageChoice &choice) {
+    return m_impl->addDocument(sourcePath, choice);
 }
 
 Warnings PDFContext::checkPagesAfter(int count) const {

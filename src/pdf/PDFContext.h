@@ -7,6 +7,7 @@
 #include "files/SystemCalls.h"
 #include "pdf/DocumentInfo.h"
 #include "pdf/DocumentParts.h"
+#include "pdf/PageChoice.h"
 #include "pdf/Password.h"
 #include "text/FontCascade.h"
 
@@ -87,9 +88,10 @@ class PDFContext {
     void clipToRect(const QRectF &rect);
     void endPage();
 
-    /// Adds every page of the PDF at `sourcePath` unchanged, with its links, form fields and
-    /// bookmarks. Throws Error when the document cannot be read.
-    AddedDocument addDocument(const QString &sourcePath);
+    /// Adds the pages of the PDF at `sourcePath` that `choice` names, with their links, form fields
+    /// and bookmarks, by default every page unchanged. Throws Error when the document cannot be
+    /// read, or lacks a page that `choice` names.
+    AddedDocument addDocument(const QString &sourcePath, const PageChoice &choice = {});
 
     [[nodiscard]] int pageCount() const;
     /// The size in units of the page at `index`, from 0.

@@ -36,6 +36,14 @@ class ArgumentsTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
+    void pagesBelongToTheInputBeforeThem() {
+        const Arguments arguments = good(
+            {"a.pdf", "--rotate", "+90:1", "--rotate=-90", "b.pdf", "c.pdf", "--pages", "1-3,odd"});
+        QCOMPARE(arguments.pageChoices.size(), size_t(2));
+        QCOMPARE(arguments.pageChoices.at(0), (PageChoice{{}, {{90, true, "1"}, {-90, true, {}}}}));
+        QCOMPARE(arguments.pageChoices.at(2), (PageChoice{"1-3:odd", {}}));
+    }
+
     void withoutOptionsEachFileBecomesAPdfInTheCurrentFolder() {
         const Arguments arguments = good({"a.txt", "b"});
         QCOMPARE(arguments.inputs, (std::vector<QByteArray>{"a.txt", "b"}));

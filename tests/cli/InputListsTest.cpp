@@ -53,6 +53,31 @@ class InputListsTest : public QObject, CommandLineCase {
         QCOMPARE(member(objects.first(), "input"), path("b\nb.txt"));
     }
 
+    void pagesStayWithTheirPdfBehindAList() {
+        const ToolRun run = merge("three.pdf", {QFile::decodeName(named("1.txt")),
+                                                QFile::decodeName(named("2.txt")),
+                                                QFile::decodeName(named("3.txt"))});
+        QCOMPARE(run.exitCode, 0);
+        const QString list = text("list", named("a.txt") + '\n' + named("b.txt"));
+        const QStringList arguments{u"--files-from"_s, list,     path("three.pdf"),
+                                    u"--pages"_s,      u"3,1"_s, u"--rotate=+90:1"_s};
+        QCOMPARE(merge("all.pdf", arguments).exitCode, 0);
+        QCOMPARE(pages("all.pdf"), (QStringList{u"a.txt"_s, u"b.txt"_s, u"3.txt"_s, u"1.txt"_s}));
+        QCOMPARE(PdfProbe(path("all.pdf")).render(3).size(), QSize(842, 595));
+    }
+
+    void pagesAreChosenOfPdfsAlone() {
+        const QString file = QFile::decodeName(named("a.txt"));
+        for (const QString &input : {file, path("")}) {
+            const ToolRun run = merge("none.pdf", {input, u"--pages=1"_s});
+            QCOMPARE(run.exitCode, 1);
+            QVERIFY(run.err.contains("Pages are chosen and turned of PDFs alone"));
+        }
+        const ToolRun before = merge("none.pdf", {u"--pages=1"_s, file});
+        QCOMPARE(before.exitCode, 2);
+        QVERIFY(before.err.contains("--pages: It stands behind the PDF whose pages it means"));
+    }
+
     void standardInputServesOneList() {
         for (const QStringList &arguments :
              {QStringList{u"--files-from=-"_s, u"--files-from=-"_s},

@@ -52,7 +52,8 @@ class DocumentCatalogTest : public QObject, protected MergeCase {
         ImportedDocument copyOf(const QString &path) {
             sources.push_back(opened(path));
             SourceNames names(catalog.names(), path);
-            const ImportOptions options{ImportScope::OneOfSeveral, {}, false, catalog.pageCount()};
+            const ImportOptions options{
+                ImportScope::OneOfSeveral, {}, false, {}, catalog.pageCount()};
             return importDocument(*sources.back(), document, shared.at(sources.size() - 1), names,
                                   options);
         }

@@ -3,9 +3,11 @@
 #include "pdf/import/DocumentImport.h"
 
 #include "pdf/import/CarriedParts.h"
+#include "pdf/import/ChosenPages.h"
 #include "pdf/import/ContentCheck.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/FurtherInfo.h"
+#include "pdf/import/LeftPages.h"
 #include "pdf/import/LeftParts.h"
 #include "pdf/import/MissingObjects.h"
 #include "pdf/import/ObjectCopier.h"
@@ -75,20 +77,21 @@ repeatedPages(const std::vector<SourcePage> &pages, const std::vector<QPDFObject
 /// Copies the document topic by topic. Pages are made first, since everything refers to them. What
 /// is referred to by name and what has a tree of its own comes before what refers to it: elements,
 /// destinations and names before pages, bookmarks and fields.
-void copyTopics(ImportedDocument &imported, QPDF &source, QPDF &target, const SourcePages &found,
+void copyTopics(ImportedDocument &imported, QPDF &source, QPDF &target, const ChosenPages &chosen,
                 SourceNames &names, const ImportOptions &options, ObjectCopier &copier) {
-    copier.makePages(found.pages, options.firstPage);
+    const auto &pages = chosen.pages;
+    copier.makePages(pages, options.firstPage, chosen.positions);
     imported.outputIntents = importOutputIntents(source, copier);
     imported.structure = importStructure(source, target, copier);
     imported.destinations = importDestinations(source, names, copier);
     imported.nameTrees = importNameTrees(source, names, copier);
-    imported.pages = copier.fillPages(found.pages);
+    imported.pages = copier.fillPages(pages);
     if (!imported.structure.content.empty()) {
-        imported.structure.repeatedPages = repeatedPages(found.pages, imported.pages);
+        imported.structure.repeatedPages = repeatedPages(pages, imported.pages);
     }
     imported.bookmarks = importBookmarks(source, copier);
-    imported.pageLabels = importPageLabels(source, imported.pages.size(), copier);
-    imported.form = importForm(source, found.pages, copier);
+    imported.pageLabels = importPageLabels(source, chosen.positions, copier);
+    imported.form = importForm(source, pages, copier);
     imported.layers = importLayers(source, copier, imported.scope);
     imported.catalogParts = importCatalogParts(source, copier, options);
     if (imported.scope == ImportScope::WholeDocument) {
@@ -102,11 +105,60 @@ void copyTopics(ImportedDocument &imported, QPDF &source, QPDF &target, const So
     imported.attachments = importAttachments(source, copier, imported.scope);
     imported.threads = importThreads(source, copier);
     copier.run();
+    turnPages(imported.pages, options.pages.turns);
     imported.form.actions = copier.fieldActions();
     imported.attachments.ofPages = filesOfPages(imported.pages);
     tellFilesApart(imported.nameTrees[kAttachments], imported.attachments, names);
     imported.names = names.given();
 }
+
+/// Leaves out the pages that are not chosen and names what goes with them.
+void leavePages(ImportedDocument &imported, QPDF &source, const SourcePages &found,
+                const ChosenPages &chosen) {
+    const PartCounts gone = removeLeftPages(source, found.pages, chosen.pages);
+    for (const auto &[kind, count] : gone) {
+        addParts(imported.parts.left, kind, count);
+    }
+    if (!gone.empty()) {
+        imported.warnings.push_back(
+            {WarningCode::PdfPartsLeft,
+             u"Not carried over, as it belongs to pages that are left out: %1"_s.arg(
+                 inWords(gone))});
+    }
+}
+
+/// The damaged ones of the chosen pages, from 1, as the source counts them. What is known of a file
+/// is kept in `known` where all of its pages are taken.
+class DamageOfPages {
+  public:
+    DamageOfPages(QPDF &source, const ChosenPages &chosen, bool areAll,
+                  std::optional<std::set<std::size_t>> &known)
+        : m_positions(chosen.positions)
+        , m_damaged(areAll ? known : m_own) {
+        if (!m_damaged) {
+            m_contents.emplace(source, chosen.pages);
+            m_damaged = pagesThatLackObjects(chosen.pages);
+        }
+    }
+
+    /// To be called when the pages are copied.
+    std::set<std::size_t> finish() {
+        if (m_contents) {
+            m_damaged->merge(m_contents->damagedPages());
+        }
+        std::set<std::size_t> numbers;
+        for (const std::size_t number : *m_damaged) {
+            numbers.insert(m_positions.at(number - 1) + 1);
+        }
+        return numbers;
+    }
+
+  private:
+    const std::vector<std::size_t> &m_positions;
+    std::optional<std::set<std::size_t>> m_own;
+    std::optional<std::set<std::size_t>> &m_damaged;
+    std::optional<ContentCheck> m_contents;
+};
 
 /// Names what the copier left out and what of the structure is damaged.
 void addLosses(ImportedDocument &imported, const ObjectCopier &copier) {
@@ -134,13 +186,14 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     imported.warnings = namePartsLeft(imported.parts.left);
     const SourcePages found = readSourcePages(source);
     shared.beginCopy(source, found.pages);
-    std::optional<ContentCheck> contents;
-    if (!shared.damagedPages) {
-        contents.emplace(source, found.pages);
-        shared.damagedPages = pagesThatLackObjects(found.pages);
-    }
+    const ChosenPages chosen = choosePages(found.pages, options.pages.range);
+    const bool areAll = options.pages.range.isEmpty();
+    DamageOfPages damage(source, chosen, areAll, shared.damagedPages);
     const Warnings missing = missingEntries(source);
-    copyTopics(imported, source, target, found, names, options, copier);
+    if (!areAll) {
+        leavePages(imported, source, found, chosen);
+    }
+    copyTopics(imported, source, target, chosen, names, options, copier);
     addLosses(imported, copier);
     imported.parts.carried = countCarried(imported);
     imported.longestStream = copier.longestStream();
@@ -148,12 +201,9 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     if (imported.pages.empty()) {
         imported.warnings.push_back({WarningCode::PdfWithoutPages, u"The document has no pages"_s});
     }
-    if (contents) {
-        shared.damagedPages->merge(contents->damagedPages());
-    }
-    for (const Warnings &damage :
-         {missingPages(found), damagedPages(*shared.damagedPages), missing, repairs(source)}) {
-        std::ranges::copy(damage, std::back_inserter(imported.warnings));
+    for (const Warnings &damages :
+         {missingPages(found), damagedPages(damage.finish()), missing, repairs(source)}) {
+        std::ranges::copy(damages, std::back_inserter(imported.warnings));
     }
     std::ranges::copy(
         dropBrokenClaims(imported.metadata.claims, options, imported.parts.left, imported.warnings),

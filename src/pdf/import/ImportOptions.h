@@ -3,6 +3,7 @@
 #pragma once
 
 #include "pdf/DocumentInfo.h"
+#include "pdf/PageChoice.h"
 
 namespace folioforge {
 
@@ -17,6 +18,7 @@ struct ImportOptions {
     ImportScope scope = ImportScope::OneOfSeveral;
     DocumentInfo info;
     bool encrypted = false;
+    PageChoice pages;
     int firstPage = 0; ///< How many pages stand before those of the source.
 };
 

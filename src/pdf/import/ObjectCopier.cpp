@@ -51,8 +51,12 @@ ObjectCopier::ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared, So
     , m_shared(shared)
     , m_names(names) {}
 
-void ObjectCopier::makePages(const std::vector<SourcePage> &pages, int firstPage) {
+void ObjectCopier::makePages(const std::vector<SourcePage> &pages, int firstPage,
+                             const std::vector<std::size_t> &positions) {
     m_firstPage = firstPage;
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        m_pageAt.try_emplace(static_cast<long long>(positions[i]), i);
+    }
     // The library walks the tree again at every stream, with a recursion as deep as the tree.
     m_source.getRoot().replaceKey("/Pages",
                                   QPDFObjectHandle::parse("<< /Type /Pages /Kids [] /Count 0 >>"));

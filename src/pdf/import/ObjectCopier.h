@@ -34,9 +34,11 @@ class ObjectCopier {
     /// What is referred to by name follows `names`.
     ObjectCopier(QPDF &source, QPDF &target, SharedStreams &shared, SourceNames &names);
 
-    /// Makes the copies of all pages of the source, still empty. The first of them becomes page
-    /// `firstPage` of the document, from 0. Call it first.
-    void makePages(const std::vector<SourcePage> &pages, int firstPage);
+    /// Makes the copies of pages of the source, still empty. The first of them becomes page
+    /// `firstPage` of the document, from 0. `positions` are those of the pages in the source.
+    /// Call it first.
+    void makePages(const std::vector<SourcePage> &pages, int firstPage,
+                   const std::vector<std::size_t> &positions);
     /// Copies what the pages hold. Call it once, when the structure tree is copied.
     std::vector<QPDFObjectHandle> fillPages(const std::vector<SourcePage> &pages);
     /// The copy of `object`. run() fills an indirect one.
@@ -116,6 +118,7 @@ class ObjectCopier {
     std::map<QPDFObjGen, std::vector<Followed>> m_followed; ///< By follow().
     std::optional<SourceThreads> m_threads; ///< Read when the first action leads to one.
     std::vector<QPDFObjectHandle> m_targetPages;
+    std::map<long long, std::size_t> m_pageAt; ///< By position in the source, the first copy.
     int m_firstPage = 0;
     std::deque<Pending> m_pending;
     std::deque<PendingStream> m_pendingStreams;

@@ -84,11 +84,10 @@ QPDFObjectHandle ObjectCopier::copyThread(const QPDFObjectHandle &destination) {
     return copy(m_threads->find(destination));
 }
 
-/// The page of the source with that number from 0, if it is one.
+/// The copied page of the source's page with that number from 0, if there is one.
 std::optional<std::size_t> ObjectCopier::pageIndex(QPDFObjectHandle number) const {
-    const auto index = number.isInteger() ? number.getIntValue() : -1;
-    const bool isPage = index >= 0 && index < static_cast<long long>(m_targetPages.size());
-    return isPage ? std::optional(static_cast<std::size_t>(index)) : std::nullopt;
+    const auto found = number.isInteger() ? m_pageAt.find(number.getIntValue()) : m_pageAt.end();
+    return found == m_pageAt.end() ? std::nullopt : std::optional(found->second);
 }
 
 /// The copied page to which a destination leads by its number, as some writers give it.

@@ -8,22 +8,57 @@
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
+#include <iterator>
 
 namespace folioforge {
 
-ImportedPageLabels importPageLabels(QPDF &source, std::size_t pages, ObjectCopier &copier) {
-    ImportedPageLabels labels;
-    const auto tree = source.getRoot().getKey("/PageLabels");
-    for (auto &[index, label] : readTreeEntries(tree, "/Nums")) {
-        const auto page = index.isInteger() ? index.getIntValue() : -1;
-        if (page >= 0 && page < static_cast<long long>(pages) && label.isDictionary()) {
-            labels.emplace(page, copier.copy(label));
+namespace {
+
+/// The labels of a source by the position of their first page.
+using SourceLabels = std::map<long long, QPDFObjectHandle>;
+
+SourceLabels labelsOf(QPDF &source) {
+    SourceLabels labels;
+    for (auto &[index, label] : readTreeEntries(source.getRoot().getKey("/PageLabels"), "/Nums")) {
+        if (index.isInteger() && index.getIntValue() >= 0 && label.isDictionary()) {
+            labels.emplace(index.getIntValue(), label);
         }
     }
-    if (!labels.empty()) {
-        labels.emplace(0, QPDFObjectHandle::newNull());
-    }
     return labels;
+}
+
+/// `label` as it is `pages` behind its first page.
+QPDFObjectHandle labelBehind(QPDFObjectHandle label, long long pages, ObjectCopier &copier) {
+    auto copied = copier.copy(label);
+    if (pages > 0) {
+        copied = copier.copyValue(label);
+        auto start = label.getKey("/St");
+        copied.replaceKey("/St", QPDFObjectHandle::newInteger(
+                                     (start.isInteger() ? start.getIntValue() : 1) + pages));
+    }
+    return copied;
+}
+
+} // namespace
+
+ImportedPageLabels importPageLabels(QPDF &source, const std::vector<std::size_t> &positions,
+                                    ObjectCopier &copier) {
+    const SourceLabels labels = labelsOf(source);
+    ImportedPageLabels imported;
+    for (std::size_t i = 0; i < positions.size() && !labels.empty(); ++i) {
+        const auto position = static_cast<long long>(positions[i]);
+        const bool goesOn = i > 0 && positions[i - 1] + 1 == positions[i];
+        if (goesOn && !labels.contains(position)) {
+            continue;
+        }
+        const auto behind = labels.upper_bound(position);
+        imported.emplace(static_cast<long long>(i),
+                         behind == labels.begin()
+                             ? QPDFObjectHandle::newNull()
+                             : labelBehind(std::prev(behind)->second,
+                                           position - std::prev(behind)->first, copier));
+    }
+    return imported;
 }
 
 void PageLabelMerger::addPage(int index) {

@@ -4,6 +4,7 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <cstddef>
 #include <map>
 #include <utility>
 #include <vector>
@@ -18,8 +19,9 @@ class ObjectCopier;
 /// page; null for pages without one.
 using ImportedPageLabels = std::map<long long, QPDFObjectHandle>;
 
-/// `pages` is the number of pages of the source.
-ImportedPageLabels importPageLabels(QPDF &source, std::size_t pages, ObjectCopier &copier);
+/// `positions` are those in the source, from 0, of the pages that are taken.
+ImportedPageLabels importPageLabels(QPDF &source, const std::vector<std::size_t> &positions,
+                                    ObjectCopier &copier);
 
 /// The page labels of the document that is made. Pages that bring none are numbered by their
 /// position.
