@@ -69,6 +69,8 @@ B0 to B10, C5, DL, JIS-B4, JIS-B5, Letter, Legal, Tabloid and Executive; A4^T li
                                    without the place where a photo was taken
 
 Text
+  --text-encoding auto|NAME        of texts (default UTF-8), such as utf-16 or windows-1252; auto:
+                                   by their bytes, with a warning where that is a guess
   --text-layout plain|readable     plain (the default) cuts lines at the right margin; readable
                                    breaks them between words, keeps blank lines, tabs and form
                                    feeds, and joins and turns letters as their scripts demand.

@@ -4,6 +4,7 @@
 
 #include "cli/OptionValues.h"
 #include "text/FontCatalog.h"
+#include "text/TextEncoding.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +27,13 @@ QStringList parseFamilies(const QString &text) {
 const std::vector<Option> &textOptions() {
     using Value = const QByteArray &;
     static const std::vector<Option> options{
+        {"--text-encoding", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.textEncoding = textOf(value);
+             if (!isTextEncoding(to.options.textEncoding)) {
+                 throw ArgumentFault(u"There is no encoding \"%1\""_s.arg(to.options.textEncoding));
+             }
+         }},
         {"--text-layout", Option::Valued,
          [](Arguments &to, Value value) {
              to.text.isReadable =

@@ -49,6 +49,7 @@ struct ConversionOptions {
     bool stripMetadata = false; ///< Exif, XMP and comments of pictures do not go in.
     /// The font of text pages; null for textFont().
     std::shared_ptr<const FontCascade> textFont;
+    QString textEncoding; ///< Of texts that are not read yet, as decodeText() takes it; else UTF-8.
     std::optional<ReadableStyle> readable; ///< Text is set as a person sets it.
     int mostTextPages = 0; ///< Of an entry, for one who looks at a part of it; 0 for all.
     int compressIndex = 0; ///< 0 none, 1 "150m", 2 "96m", 3 "72l".

@@ -68,7 +68,7 @@ void drawOnPage(PdfImage image, PDFContext &context, const ConversionOptions &op
 
 Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
                      const ConversionOptions &options, const std::stop_token &stop) {
-    SourceText source = entry.sourceText(options.calls);
+    SourceText source = entry.sourceText(options.calls, options.textEncoding);
     const QSizeF pageSize = getTextPageSize(options.textPage);
     const auto font = options.textFont ? options.textFont : textFont();
     ContextSink sink(context, font, pageSize, options.mostTextPages, stop);

@@ -26,10 +26,11 @@ enum class WarningCode {
     StructureDamaged,  ///< Parts of the structure tree of a source PDF cannot be read.
     PartlyTagged,      ///< Sources without structure tags stand beside tagged ones.
     SignatureRemoved,  ///< A source PDF is signed, and the signature holds no longer.
-    FieldsRenamed, ///< Form fields got other names, since another document has fields of theirs.
-    ClaimDropped,  ///< A source PDF says that it keeps a standard which the PDF does not keep.
-    PageSize,      ///< A page is smaller or larger than readers are required to show.
-    NotFlushed,    ///< The file system cannot flush a file to the disk.
+    FieldsRenamed,   ///< Form fields got other names, since another document has fields of theirs.
+    ClaimDropped,    ///< A source PDF says that it keeps a standard which the PDF does not keep.
+    PageSize,        ///< A page is smaller or larger than readers are required to show.
+    NotFlushed,      ///< The file system cannot flush a file to the disk.
+    EncodingGuessed, ///< Only the frequency of its bytes tells the encoding of a text.
 };
 
 /// The names of the codes in reports, in the order of their declaration. They never change, because
@@ -43,9 +44,9 @@ inline constexpr std::array kWarningNames{
     QLatin1StringView("structure-damaged"),   QLatin1StringView("partly-tagged"),
     QLatin1StringView("signature-removed"),   QLatin1StringView("fields-renamed"),
     QLatin1StringView("claim-dropped"),       QLatin1StringView("page-size"),
-    QLatin1StringView("not-flushed"),
+    QLatin1StringView("not-flushed"),         QLatin1StringView("encoding-guessed"),
 };
-static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::NotFlushed) + 1);
+static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::EncodingGuessed) + 1);
 
 /// What was lost or changed on the way of an entry that was written.
 struct Warning {

@@ -105,9 +105,9 @@ void PDFFileInfo::readText() {
     }
 }
 
-SourceText PDFFileInfo::sourceText(SystemCalls &calls) const {
+SourceText PDFFileInfo::sourceText(SystemCalls &calls, const QString &encoding) const {
     if (!m_textIsHeld) {
-        return readTextFile(m_filePathName, calls);
+        return readTextFile(m_filePathName, calls, encoding);
     }
     SourceText source{m_fileString, m_readWarnings};
     if (!m_readError.isEmpty()) {

@@ -64,9 +64,10 @@ class PDFFileInfo {
     [[nodiscard]] const std::optional<SourceImage> &getSrcImage() const { return m_srcImage; }
     /// The decoded text of a text entry; a null string when it could not be read as UTF-8.
     [[nodiscard]] const QString &getFileString() const { return m_fileString; }
-    /// The text of a text entry as it was listed, else as the file holds it now. Throws Error when
-    /// it cannot be read now.
-    [[nodiscard]] SourceText sourceText(SystemCalls &calls = SystemCalls::system()) const;
+    /// The text of a text entry as it was listed, else as the file holds it now in `encoding`, as
+    /// readTextFile() takes it. Throws Error when it cannot be read now.
+    [[nodiscard]] SourceText sourceText(SystemCalls &calls = SystemCalls::system(),
+                                        const QString &encoding = {}) const;
     /// Why the source could not be read when it was listed; empty when it could.
     [[nodiscard]] const QString &readError() const { return m_readError; }
     /// What was lost when the source was listed: a text that is not valid UTF-8 gives a blank page.

@@ -5,6 +5,7 @@
 #include "error/Error.h"
 #include "files/SourceFile.h"
 #include "text/TextDecoder.h"
+#include "text/TextEncoding.h"
 
 #include <QFile>
 
@@ -24,9 +25,18 @@ void requireTextSize(const FileVersion &file) {
     }
 }
 
-SourceText readWholeText(const QString &path, SystemCalls &calls) {
+SourceText readWholeText(const QString &path, SystemCalls &calls, const QString &encoding) {
     const SourceFile file = SourceFile::open(path, calls);
     requireTextSize(file.version());
+    if (!encoding.isEmpty()) {
+        DecodedText decoded = decodeText(file.readAll(), encoding);
+        SourceText source{std::move(decoded.text), {}};
+        if (!decoded.guess.isEmpty()) {
+            source.warnings.push_back({WarningCode::EncodingGuessed,
+                                       u"The text is read as %1, a guess"_s.arg(decoded.guess)});
+        }
+        return source;
+    }
     QString text = decodeText(file.readAll());
     if (text.isNull()) {
         return {
@@ -45,9 +55,9 @@ void requireReadableText(const QString &path) {
     }
 }
 
-SourceText readTextFile(const QString &path, SystemCalls &calls) {
+SourceText readTextFile(const QString &path, SystemCalls &calls, const QString &encoding) {
     try {
-        return readWholeText(path, calls);
+        return readWholeText(path, calls, encoding);
     } catch (const std::bad_alloc &) {
         throw notEnoughMemory();
     }

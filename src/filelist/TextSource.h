@@ -19,9 +19,11 @@ struct SourceText {
 /// this user may read. The file is not opened.
 void requireReadableText(const QString &path);
 
-/// The text of the file at `path`, read as UTF-8 through `calls`; a byte order mark is not part of
-/// it. Bytes that are not valid UTF-8 give no text and a warning. Throws Error when the file cannot
-/// be read or memory has no room for it.
-SourceText readTextFile(const QString &path, SystemCalls &calls = SystemCalls::system());
+/// The text of the file at `path`, read through `calls`; a byte order mark is not part of it.
+/// Without an `encoding`, as decodeText() takes it, it is UTF-8, and bytes that are not give no
+/// text and a warning. Throws Error when the file cannot be read, is not of the encoding that was
+/// asked for, or memory has no room for it.
+SourceText readTextFile(const QString &path, SystemCalls &calls = SystemCalls::system(),
+                        const QString &encoding = {});
 
 } // namespace folioforge

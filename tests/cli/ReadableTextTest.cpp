@@ -93,6 +93,24 @@ class ReadableTextTest : public QObject, CommandLineCase {
         QVERIFY(qAbs(at[3].y() - at[0].y() - 2 * 11 * 2355.0 / 2048) < 0.01);
     }
 
+    void aGuessOfTheEncodingIsSaid() {
+        const QByteArray latin("Cr\xE8me br\xFBl\xE9"
+                               "e est servie au caf\xE9 \xE0 la fin du repas.");
+        const ToolRun run =
+            merge("guess.pdf", {u"--text-encoding=auto"_s, writeFile(path("latin.txt"), latin)});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY(run.err.contains("latin.txt: warning: The text is read as ISO-8859-1, a guess"));
+        QVERIFY(PdfProbe(path("guess.pdf")).text().contains(u"Cr\u00E8me br\u00FBl\u00E9e"_s));
+    }
+
+    void aTextOfAnotherEncodingThanIsNamedFails() {
+        const ToolRun run =
+            merge("fails.pdf", {u"--text-encoding=utf-8"_s, writeFile(path("bytes.txt"), "a\xFF")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(run.err.contains("The text is not valid utf-8"));
+        QVERIFY(!QFile::exists(path("fails.pdf")));
+    }
+
     void whatCannotBeMeantIsRefusedInWords() {
         QCOMPARE(complaint({u"--font=DejaVu Sans"_s}),
                  u"folioforge-cli: --font, --font-size, --line-spacing and --tab-width need "
@@ -101,6 +119,8 @@ class ReadableTextTest : public QObject, CommandLineCase {
                  u"folioforge-cli: --font: the system has no font \"No Such Font\"\n"_s);
         QVERIFY(complaint({u"--text-layout=readable"_s, u"--font-size=0"_s})
                     .contains(u"--font-size: \"0\" is no number from 1 to 1000"_s));
+        QVERIFY(complaint({u"--text-encoding=utf-99"_s})
+                    .contains(u"There is no encoding \"utf-99\""_s));
         QVERIFY(complaint({u"--text-layout=readable"_s, u"--tab-width=many"_s})
                     .contains(u"--tab-width: \"many\" is no number from 1 to 100"_s));
     }

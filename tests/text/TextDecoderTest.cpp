@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "text/TextDecoder.h"
+#include "error/Error.h"
+#include "support/PdfProbe.h"
 #include "support/TestUnit.h"
+#include "text/TextEncoding.h"
 
 #include <QTest>
 
@@ -59,6 +62,50 @@ class TextDecoderTest : public QObject {
     void invalidBytesGiveNoText() {
         QFETCH(const QByteArray, bytes);
         QVERIFY(decodeText(bytes).isNull());
+    }
+
+    void textOfAnotherEncodingIsRead_data() {
+        QTest::addColumn<QString>("encoding");
+        QTest::addColumn<QString>("told"); // What "auto" finds; empty where it is certain.
+        QTest::newRow("UTF-16 with its mark") << u"UTF-16"_s << QString();
+        QTest::newRow("UTF-8") << u"UTF-8"_s << QString();
+        QTest::newRow("UTF-32 with its mark") << u"UTF-32"_s << QString();
+        QTest::newRow("Windows, Cyrillic") << u"windows-1251"_s << u"windows-1251"_s;
+        QTest::newRow("Russian") << u"KOI8-R"_s << u"KOI8-R"_s;
+    }
+    void textOfAnotherEncodingIsRead() {
+        QFETCH(const QString, encoding);
+        QFETCH(const QString, told);
+        const QString text =
+            u"\u0421\u044A\u0435\u0448\u044C \u0436\u0435 \u0435\u0449\u0451 "
+            u"\u044D\u0442\u0438\u0445 "
+            "\u043C\u044F\u0433\u043A\u0438\u0445 \u0431\u0443\u043B\u043E\u043A, \u0434\u0430 "
+            "\u0432\u044B\u043F\u0435\u0439 \u0447\u0430\u044E, \u043F\u043E\u0436\u0430\u043B\u0443\u0439\u0441\u0442\u0430."_s;
+        const test::ToolRun iconv =
+            test::runTool(u"iconv"_s, {u"-f"_s, u"UTF-8"_s, u"-t"_s, encoding}, text.toUtf8());
+        QCOMPARE(iconv.exitCode, 0);
+        QCOMPARE(decodeText(iconv.out, encoding).text, text);
+        const DecodedText found = decodeText(iconv.out, u"auto"_s);
+        QCOMPARE(found.text, text);
+        QCOMPARE(found.guess, told);
+    }
+
+    void bytesOfAnotherEncodingThanIsNamedAreRefused() {
+        const auto reason = [](QByteArrayView bytes, const QString &encoding) {
+            try {
+                return decodeText(bytes, encoding).text;
+            } catch (const Error &error) {
+                return error.reason();
+            }
+        };
+        QCOMPARE(reason("a\xFF", u"UTF-8"_s), u"The text is not valid UTF-8"_s);
+        QCOMPARE(reason(QByteArrayView("\xFF\xFE\x00\xD8", 4), u"auto"_s),
+                 u"The text is not valid UTF-16LE"_s);
+        QCOMPARE(reason(QByteArrayView("\x00\x01\xFF\x02\x80", 5), u"auto"_s),
+                 u"The bytes do not tell the encoding of the text"_s);
+        QCOMPARE(reason({}, u"auto"_s), QString());
+        QVERIFY(!isTextEncoding(u"no-such-encoding"_s));
+        QVERIFY(isTextEncoding(u"shift_jis"_s));
     }
 };
 
