@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace folioforge {
 namespace {
@@ -114,15 +113,9 @@ std::span<const RowPiece> Paragraph::pieces(const TextRow &row) {
     m_glyphs.clear();
     m_pen = 0;
     for (const DirectedRun &part : visualRuns(row)) {
-        const auto inPart = [&part](const Run &run) {
-            return run.run.first < part.end && run.run.end > part.first;
-        };
-        if (part.rightToLeft) {
-            std::ranges::for_each(m_runs | std::views::reverse | std::views::filter(inPart),
-                                  [&](const Run &run) { place(run, part); });
-        } else {
-            std::ranges::for_each(m_runs | std::views::filter(inPart),
-                                  [&](const Run &run) { place(run, part); });
+        const std::size_t count = m_runs.size();
+        for (std::size_t i = 0; i < count; ++i) {
+            place(m_runs[part.rightToLeft ? count - 1 - i : i], part);
         }
     }
     return m_pieces;

@@ -66,6 +66,7 @@ class Paragraph {
     /// is `first` or before it.
     [[nodiscard]] qsizetype characterAt(qsizetype first, qsizetype unit) const;
     [[nodiscard]] std::vector<DirectedRun> visualRuns(const TextRow &row) const;
+    /// Puts what of the run stands in the part to the right of what there is.
     void place(const Run &run, const DirectedRun &part);
     void place(std::span<const PlacedGlyph> cluster);
     void place(const PlacedGlyph &placed, QStringView readAs);
