@@ -5,16 +5,25 @@
 //   screenshots FOLDER SUFFIX EXAMPLE...   writes FOLDER/<picture>SUFFIX.png
 
 #include "OffscreenScreen.h"
+#include "app/FolioforgeAppDelegate.h"
+#include "app/Translations.h"
 #include "mainwnd/Desktop.h"
+#include "mainwnd/ListCommands.h"
 #include "mainwnd/MainWndCtrl.h"
 #include "mainwnd/Notices.h"
 #include "mainwnd/NotificationCenter.h"
+#include "mainwnd/SkinTableView.h"
+#include "preview/PageView.h"
 #include "skin/BusySheet.h"
 #include "skin/LightLook.h"
 #include "support/Places.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenu>
+#include <QPainter>
 #include <QProgressBar>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -44,12 +53,18 @@ class Photographer {
         , m_folder(std::move(folder))
         , m_suffix(std::move(suffix)) {}
 
-    void take(const QString &name) {
+    /// Takes the window, and `menu` over it where there is one.
+    void take(const QString &name, QMenu *menu = nullptr) {
         QTest::qWait(300); // The options panel slides open and shut.
-        m_window.grab().save(m_folder + u'/' + name + m_suffix + u".png"_s);
+        QPixmap picture = m_window.grab();
+        if (menu != nullptr) {
+            QPainter(&picture).drawPixmap(m_window.mapFromGlobal(menu->pos()), menu->grab());
+        }
+        picture.save(m_folder + u'/' + name + m_suffix + u".png"_s);
     }
-    void press(const char *button) {
-        QTest::mouseClick(m_window.findChild<QWidget *>(QLatin1StringView(button)), Qt::LeftButton);
+    void press(const char *button) { QTest::mouseClick(&find<QWidget>(button), Qt::LeftButton); }
+    template<typename Control> Control &find(const char *name) {
+        return *m_window.findChild<Control *>(QLatin1StringView(name));
     }
 
   private:
@@ -58,10 +73,27 @@ class Photographer {
     QString m_suffix;
 };
 
-void takeAll(MainWndCtrl &controller, Photographer &photographer, const QStringList &examples) {
+/// The steps of a run, as the guide goes through them.
+void takeSteps(MainWndCtrl &controller, Photographer &photographer, const QStringList &examples) {
     photographer.take(u"window-empty"_s);
     controller.addFiles(examples, -1);
     photographer.take(u"window-files"_s);
+
+    auto &table = photographer.find<SkinTableView>("m_tableview");
+    table.selectRow(2);
+    QMenu *menu = table.commands().makeContextMenu();
+    menu->popup(table.viewport()->mapToGlobal(QPoint(200, 70)));
+    photographer.take(u"window-order"_s, menu);
+    menu->close();
+    table.clearSelection();
+
+    photographer.press("m_btnMerge");
+    photographer.find<QLineEdit>("m_tfOutputName").setText(u"all"_s);
+    photographer.take(u"window-merge"_s);
+    photographer.press("m_btnMerge");
+}
+
+void takeOptions(Photographer &photographer) {
     photographer.press("m_btnExpand");
     photographer.take(u"options-image"_s);
     photographer.press("m_btnTxtSetting");
@@ -69,15 +101,37 @@ void takeAll(MainWndCtrl &controller, Photographer &photographer, const QStringL
     photographer.press("m_btnSecuritySetting");
     photographer.take(u"options-security"_s);
     photographer.press("m_btnElapse");
-    controller.window()->findChild<QProgressBar *>(u"m_prgCreate"_s)->show();
-    controller.window()->findChild<QProgressBar *>(u"m_prgCreate"_s)->setValue(350);
-    controller.window()->findChild<QWidget *>(u"m_lbProgress"_s)->show();
+}
+
+void takePreview(MainWndCtrl &controller, Photographer &photographer) {
+    photographer.find<SkinTableView>("m_tableview").selectRow(0);
+    controller.togglePreview();
+    const auto &view = photographer.find<PageView>("previewPage");
+    static_cast<void>(QTest::qWaitFor([&] { return !view.page().isNull(); }, 20'000));
+    photographer.take(u"window-preview"_s);
+    controller.togglePreview();
+}
+
+/// A run into `folder`, which is not shown.
+void takeRun(MainWndCtrl &controller, Photographer &photographer, const QString &folder) {
+    auto &bar = photographer.find<QProgressBar>("m_prgCreate");
+    bar.setValue(350);
+    bar.show();
+    photographer.find<QWidget>("m_lbProgress").show();
     controller.showAlertView();
     auto &sheet = *controller.window()->findChild<BusySheet *>();
     sheet.setFile(u"report.pdf"_s);
-    sheet.setProgress(u"12 of 17 done"_s, 0.72);
+    sheet.setProgress(u"12 of 19 done"_s, 0.63);
     photographer.take(u"window-busy"_s);
     controller.hideAlertView();
+
+    auto &field = photographer.find<QLineEdit>("m_tfOutputFolder");
+    const QString shown = field.text();
+    field.setText(folder);
+    controller.clickBtnCreate();
+    static_cast<void>(QTest::qWaitFor([&] { return !controller.isConverting(); }, 60'000));
+    field.setText(shown);
+    photographer.take(u"window-done"_s);
 }
 
 } // namespace
@@ -85,6 +139,7 @@ void takeAll(MainWndCtrl &controller, Photographer &photographer, const QStringL
 int main(int argc, char *argv[]) {
     test::useScreenOf({3200, 2000}); // Room for the window at every scale.
     QApplication application(argc, argv);
+    const Translations translations(QLocale::system().uiLanguages(), test::bundlePath());
     applyLightLook(application);
     const QStringList arguments = QApplication::arguments();
     const QTemporaryDir home;
@@ -93,12 +148,16 @@ int main(int argc, char *argv[]) {
     StillDesktop desktop;
     Notices notices;
     NotificationCenter notifications;
-    MainWndCtrl controller(
-        {settings, desktop, notices, notifications, home.path(), test::bundlePath()});
+    FolioforgeAppDelegate delegate(
+        {settings, desktop, notices, notifications, home.path(), test::bundlePath()}, nullptr);
+    delegate.applicationDidFinishLaunching();
+    MainWndCtrl &controller = delegate.mainWndCtrl();
     QMainWindow *window = controller.window();
     window->resize(1000, 660);
-    window->show();
     Photographer photographer(*window, arguments.value(1), arguments.value(2));
-    takeAll(controller, photographer, arguments.mid(3));
+    takeSteps(controller, photographer, arguments.mid(3));
+    takeOptions(photographer);
+    takePreview(controller, photographer);
+    takeRun(controller, photographer, home.path());
     return 0;
 }
