@@ -17,7 +17,7 @@ namespace {
 
 constexpr double kGap = 7;            ///< Between picture and words, in points.
 constexpr double kSide = 14;          ///< Beside both, where a skin grows.
-constexpr double kLeastSide = 4;      ///< Where it does not.
+constexpr double kLeastSide = 7;      ///< Where it does not.
 constexpr double kPrimaryHeight = 44; ///< Of the button whose words are larger.
 
 QFont fontOf(double height) {
