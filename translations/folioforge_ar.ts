@@ -883,7 +883,7 @@ None: pictures stay as they are
     <message>
         <source>pt</source>
         <comment>points, behind a number</comment>
-        <translation>نقطة</translation>
+        <translation>pt</translation>
     </message>
     <message>
         <source>%1 pt = %2 in</source>
