@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "cli/Completions.h"
 #include "cli/Inputs.h"
 #include "convert/ConversionOptions.h"
 #include "filelist/Orders.h"
@@ -21,7 +22,7 @@ namespace folioforge {
 enum class ProgressMode { Auto, Always, Never };
 
 /// What the program is asked to do.
-enum class Request { Convert, ShowVersion, ShowHelp };
+enum class Request { Convert, ShowVersion, ShowHelp, ShowCompletion };
 
 /// A file that holds the names of inputs; "-" for standard input.
 struct NameList {
@@ -41,6 +42,7 @@ struct TextArguments {
 /// The arguments of one call, read but not checked.
 struct Arguments {
     Request request = Request::Convert;
+    Shell shell = Shell::Bash; ///< Whose completion is shown.
     ConversionOptions options; ///< Without the passwords, which no argument holds.
     /// Files whose first line is a password; "-" for standard input.
     std::optional<QByteArray> userPasswordFile;

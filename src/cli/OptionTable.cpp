@@ -202,6 +202,13 @@ const std::vector<Option> &reportOptions() {
         {"--json", Option::Switch, [](Arguments &to, Value) { to.json = true; }},
         {"--quiet", Option::Switch, [](Arguments &to, Value) { to.quiet = true; }},
         {"--strict", Option::Switch, [](Arguments &to, Value) { to.strict = true; }},
+        {"--completion", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.request = Request::ShowCompletion;
+             to.shell = chosen<Shell>(textOf(value), {{QLatin1StringView("bash"), Shell::Bash},
+                                                      {QLatin1StringView("zsh"), Shell::Zsh},
+                                                      {QLatin1StringView("fish"), Shell::Fish}});
+         }},
         {"--version", Option::Switch,
          [](Arguments &to, Value) { to.request = Request::ShowVersion; }},
         {"--help", Option::Switch, [](Arguments &to, Value) { to.request = Request::ShowHelp; }},
@@ -233,12 +240,18 @@ std::array<const std::vector<Option> *, 6> groups() {
 
 } // namespace
 
+QByteArrayList optionNames() {
+    QByteArrayList names;
+    for (const auto *group : groups()) {
+        for (const Option &option : *group) {
+            names += option.name.toByteArray();
+        }
+    }
+    return names;
+}
+
 bool isOption(const QByteArray &argument) {
-    const QByteArray name =
-        argument.first(argument.indexOf('=') < 0 ? argument.size() : argument.indexOf('='));
-    return std::ranges::any_of(groups(), [&](const auto *group) {
-        return std::ranges::find(*group, name, &Option::name) != group->end();
-    });
+    return optionNames().contains(argument.split('=').first());
 }
 
 const Option &findOption(const QByteArray &name) {

@@ -5,6 +5,7 @@
 #include "cli/Arguments.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QByteArrayView>
 
 #include <functional>
@@ -20,6 +21,9 @@ struct Option {
 
 /// Whether `argument` is an option of the table, alone or with a value behind "=".
 bool isOption(const QByteArray &argument);
+
+/// The name of every option.
+QByteArrayList optionNames();
 
 /// The option called `name`, which begins with dashes. Throws ArgumentFault where there is none,
 /// with the one that is probably meant.

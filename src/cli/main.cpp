@@ -46,6 +46,8 @@ int run(int argc, char *argv[]) {
         return show(console, versions());
     case Request::ShowHelp:
         return show(console, helpText());
+    case Request::ShowCompletion:
+        return show(console, completions(arguments.shell).chopped(1)); // show() ends the line.
     case Request::Convert:
         break;
     }

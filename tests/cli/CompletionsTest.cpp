@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "CommandLineCase.h"
+#include "cli/OptionHelp.h"
+#include "cli/OptionTable.h"
+#include "support/TestUnit.h"
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+/// What users and shells read of the options.
+class CompletionsTest : public QObject, CommandLineCase {
+    Q_OBJECT
+
+    /// The file that `shell` reads.
+    QString completionOf(const char *shell) const {
+        const ToolRun run = runTool(kProgram, {u"--completion"_s, QString::fromLatin1(shell)});
+        return writeFile(path(shell), run.out);
+    }
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void theHelpIsThatOfTheOptionsThatThereAre() {
+        QByteArrayList described;
+        for (const HelpSection &section : optionHelp()) {
+            for (const OptionHelp &option : section.options) {
+                described += option.name.toByteArray();
+                QCOMPARE(findOption(described.last()).kind == Option::Valued,
+                         !option.value.isEmpty());
+                QVERIFY(helpText().contains("\n  " + described.last()));
+            }
+        }
+        QByteArrayList known = optionNames();
+        std::ranges::sort(described);
+        std::ranges::sort(known);
+        QCOMPARE(described, known);
+    }
+
+    void theWordsOfTheHelpAreTaken() {
+        for (const HelpSection &section : optionHelp()) {
+            for (const OptionHelp &option : section.options) {
+                for (const QByteArray &word : option.words()) {
+                    const std::vector<QByteArray> arguments{option.name.toByteArray(), word, "a"};
+                    QVERIFY2(std::holds_alternative<Arguments>(parseArguments(arguments)),
+                             (arguments[0] + ' ' + word).constData());
+                }
+            }
+        }
+    }
+
+    void theManualNamesEveryOption() {
+        const QByteArray manual = readFile(inSource(u"packaging/folioforge-cli.1"_s));
+        for (const QByteArray &name : optionNames()) {
+            const QByteArray entry =
+                name.startsWith("--") ? "Fl Fl " + name.sliced(2) : "Fl " + name.sliced(1);
+            QVERIFY2(manual.contains(entry), name.constData());
+        }
+    }
+
+    void theHelpBeginsWithFiveExamples() {
+        const QByteArray help = runTool(kProgram, {u"--help"_s}).out;
+        const QByteArray examples = help.first(help.indexOf("\nInput\n"));
+        QCOMPARE(examples.mid(examples.indexOf("Examples")).count("folioforge-cli "), 5);
+    }
+
+    void bashCompletes_data() {
+        QTest::addColumn<QString>("words");
+        QTest::addColumn<QByteArray>("completed");
+        QTest::newRow("options") << u"--ref"_s << QByteArray("--refuse-print --refuse-copy");
+        QTest::newRow("words") << u"--sort na"_s << QByteArray("name natural");
+        QTest::newRow("all words") << u"--overwrite = "_s << QByteArray("never older always");
+        QTest::newRow("behind an equals sign") << u"--overwrite = o"_s << QByteArray("older");
+        QTest::newRow("folders") << u"--output-folder a"_s << QByteArray("a folder");
+        QTest::newRow("files by the shell itself") << u"--merge a"_s << QByteArray();
+    }
+    void bashCompletes() {
+        QFETCH(const QString, words);
+        QFETCH(const QByteArray, completed);
+        QVERIFY(QDir().mkpath(path("a folder")));
+        text("a file");
+        const QString script =
+            u"cd \"$1\" && . ./bash && read -ra given <<<\"$2\" && COMP_WORDS=(folioforge-cli "
+            "\"${given[@]}\") && if [[ $2 == *' ' ]]; then COMP_WORDS+=(''); fi && "
+            "COMP_CWORD=$((${#COMP_WORDS[@]} - 1)) && _folioforge_cli && "
+            "echo -n \"${COMPREPLY[*]}\""_s;
+        completionOf("bash");
+        const ToolRun run =
+            runTool(u"bash"_s, {u"-c"_s, script, u"bash"_s, m_folder->path(), words});
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+        QCOMPARE(run.out, completed);
+    }
+
+    void fishCompletes() {
+        const QString script =
+            u"source $argv[1]; complete -C 'folioforge-cli --sort na'; complete -C "
+            "'folioforge-cli --refuse-c'"_s;
+        const ToolRun run =
+            runTool(u"fish"_s, {u"--no-config"_s, u"-c"_s, script, completionOf("fish")});
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+        const QByteArrayList lines = run.out.trimmed().split('\n');
+        QCOMPARE(lines.size(), 3);
+        QCOMPARE(lines[0].split('\t').first(), "name");
+        QCOMPARE(lines[1].split('\t').first(), "natural");
+        QCOMPARE(lines[2].split('\t').first(), "--refuse-copy");
+    }
+
+    void zshCompletes() {
+        // A shell of its own on a terminal of its own, whose Tab key is pressed.
+        const QString script =
+            u"zmodload zsh/zpty; zpty z zsh -f -i; "
+            "zpty -w z 'PS1=; unsetopt zle_bracketed_paste; fpath=('$1' $fpath); autoload -U "
+            "compinit; compinit -u -D; "
+            "compdef _folioforge-cli folioforge-cli; echo rea''dy'; "
+            "zpty -r z said '*ready*'; zpty -w -n z $'folioforge-cli --sort nat\\t'; "
+            "zpty -r -t z said; sleep 1; zpty -r z said '*natural*'; echo -n $said; zpty -d z"_s;
+        QVERIFY(QDir().mkpath(path("functions")));
+        QVERIFY(QFile::copy(completionOf("zsh"), path("functions/_folioforge-cli")));
+        const ToolRun run = runTool(u"timeout"_s, {u"20"_s, u"zsh"_s, u"-f"_s, u"-c"_s, script,
+                                                   u"zsh"_s, path("functions")});
+        QVERIFY2(run.exitCode == 0 && run.out.contains("natural"), run.out + run.err);
+    }
+};
+
+FOLIOFORGE_TEST(CompletionsTest)
+#include "CompletionsTest.moc"
