@@ -39,20 +39,20 @@ class OrderedResults {
         std::vector<std::jthread> workers;
         try {
             while (static_cast<int>(workers.size()) < threads) {
-                ++m_working;
+                enter();
                 workers.emplace_back([this] { work(); });
             }
         } catch (const std::system_error &) {
             // The system has no further thread. Those that there are do all; without any, this.
             workers.empty() ? work() : leave();
         }
-        for (std::size_t i = 0; i < m_results.size(); ++i) {
+        for (auto &made : m_results) {
             std::unique_lock lock(m_mutex);
-            m_changed.wait(lock, [&] { return m_results[i] || m_working == 0; });
-            if (!m_results[i]) {
+            m_changed.wait(lock, [&] { return made || m_working == 0; });
+            if (!made) {
                 break;
             }
-            RunResult result = *std::exchange(m_results[i], std::nullopt);
+            RunResult result = *std::exchange(made, std::nullopt);
             lock.unlock();
             take(std::move(result));
         }
@@ -79,6 +79,11 @@ class OrderedResults {
         leave();
     }
 
+    void enter() {
+        const std::lock_guard lock(m_mutex);
+        ++m_working;
+    }
+
     void leave() {
         const std::lock_guard lock(m_mutex);
         --m_working;
@@ -103,7 +108,7 @@ void Run::convertSideBySide(TemporaryFolder &temporaryFolder, RunObserver &obser
     for (const PDFFileInfo &entry : m_entries) {
         outputs.push_back(plan.next({&entry, 1}));
     }
-    const QString folder = compresses() ? temporaryFolder.path() : QString();
+    QString folder = compresses() ? temporaryFolder.path() : QString();
     const auto make = [&](std::size_t entry) {
         DeafObserver deaf;
         return makePDF(
