@@ -47,6 +47,7 @@ struct Arguments {
     /// Files whose first line is a password; "-" for standard input.
     std::optional<QByteArray> userPasswordFile;
     std::optional<QByteArray> ownerPasswordFile;
+    std::optional<QByteArray> inputPasswordFile; ///< Its lines open encrypted inputs.
     QStringList rounded; ///< Lengths that are not what was asked for, in words.
     TextArguments text;
     std::optional<SortOrder> sort; ///< Nothing: as given.
@@ -96,5 +97,9 @@ QByteArray helpText();
 /// when a file cannot be read, a variable is empty, a password is not valid UTF-8, or something is
 /// to be refused and there is no owner password.
 void readPasswords(const Arguments &arguments, SecuritySettings &security);
+
+/// The lines of the file of --input-password-file; null without it. Throws ArgumentFault when the
+/// file cannot be read or is not valid UTF-8.
+InputPasswords readInputPasswords(const Arguments &arguments);
 
 } // namespace folioforge

@@ -55,8 +55,7 @@ class Call : private RunObserver {
     /// The inputs that can be converted; of the others is told.
     std::vector<Input> collect() {
         std::vector<Input> accepted;
-        for (Input &input : collectInputs(m_arguments.inputs, m_arguments.pageChoices,
-                                          m_arguments.taking, m_readableLinks, m_pipes)) {
+        for (Input &input : collectInputs(m_arguments, m_readableLinks, m_pipes)) {
             const std::size_t place = m_arguments.sort ? 0 : accepted.size();
             if (!input.leftOut.empty()) {
                 setAside(place, InputResult::listed(input.shown, input.leftOut));
@@ -226,6 +225,7 @@ ExitStatus runConversion(Arguments arguments) {
     TemporaryFolder temporaryFolder;
     try {
         readPasswords(arguments, arguments.options.security);
+        arguments.options.inputPasswords = readInputPasswords(arguments);
         readNameLists(arguments);
         sourceDate(); // Throws where no document could carry it.
         if (arguments.toStandardOutput) {

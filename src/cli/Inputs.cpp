@@ -2,6 +2,7 @@
 
 #include "cli/Inputs.h"
 
+#include "cli/Arguments.h"
 #include "cli/PipedInputs.h"
 #include "error/Error.h"
 #include "filelist/FileKind.h"
@@ -51,8 +52,9 @@ class Names {
     }
 
     /// The inputs with what their files hold.
-    std::vector<Input> read() {
-        std::vector<ReadEntry> entries = readEntries(m_files, SourceReading::WhenWritten);
+    std::vector<Input> read(const InputPasswords &passwords) {
+        std::vector<ReadEntry> entries =
+            readEntries(m_files, SourceReading::WhenWritten, passwords);
         auto next = entries.begin();
         for (Input &input : m_inputs) {
             if (input.read.problem.isEmpty() && input.leftOut.empty()) {
@@ -151,16 +153,15 @@ class Names {
 
 } // namespace
 
-std::vector<Input> collectInputs(std::span<const QByteArray> paths,
-                                 const std::map<std::size_t, PageChoice> &choices,
-                                 const FolderTaking &taking, ReadableLinks &readableLinks,
+std::vector<Input> collectInputs(const Arguments &arguments, ReadableLinks &readableLinks,
                                  PipedInputs &pipes) {
-    Names names(taking, readableLinks, pipes);
-    for (std::size_t i = 0; i < paths.size(); ++i) {
-        const auto choice = choices.find(i);
-        names.add(paths[i], choice == choices.end() ? PageChoice() : choice->second);
+    Names names(arguments.taking, readableLinks, pipes);
+    for (std::size_t i = 0; i < arguments.inputs.size(); ++i) {
+        const auto choice = arguments.pageChoices.find(i);
+        names.add(arguments.inputs[i],
+                  choice == arguments.pageChoices.end() ? PageChoice() : choice->second);
     }
-    return names.read();
+    return names.read(arguments.options.inputPasswords);
 }
 
 void sortInputs(std::vector<Input> &inputs, SortOrder order) {

@@ -9,14 +9,12 @@
 #include <QByteArray>
 #include <QString>
 
-#include <map>
-#include <optional>
-#include <span>
 #include <vector>
 
 namespace folioforge {
 
 class PipedInputs;
+struct Arguments;
 
 /// One input as it was named or found in a folder.
 struct Input {
@@ -32,15 +30,13 @@ struct FolderTaking {
     bool folders = false; ///< Those that no link leads to, which might lead round.
 };
 
-/// The inputs that `paths` name, in that order, with the `choices` of pages by the positions of
-/// PDFs; an input that is none is rejected with a choice. A folder stands for its text and image
-/// files and what else `taking` says in the order of their names' bytes, behind an input of its own
-/// where it holds more. What comes through a pipe, or as "-" through standard input, is kept by
-/// `pipes`. A file that is missing, of no recognised type or unreadable, and a folder that cannot
-/// be listed, is rejected with its reason.
-std::vector<Input> collectInputs(std::span<const QByteArray> paths,
-                                 const std::map<std::size_t, PageChoice> &choices,
-                                 const FolderTaking &taking, ReadableLinks &readableLinks,
+/// The inputs that `arguments` name, in that order, with the choices of pages; an input that is no
+/// PDF is rejected with one. A folder stands for its text and image files and what else the
+/// arguments say in the order of their names' bytes, behind an input of its own where it holds
+/// more. What comes through a pipe, or as "-" through standard input, is kept by `pipes`. A file
+/// that is missing, of no recognised type or unreadable, and a folder that cannot be listed, is
+/// rejected with its reason.
+std::vector<Input> collectInputs(const Arguments &arguments, ReadableLinks &readableLinks,
                                  PipedInputs &pipes);
 
 /// Brings the inputs into `order`.

@@ -73,7 +73,10 @@ void readNameLists(Arguments &arguments) {
         moveChoices(arguments.pageChoices, list->at, names.size());
     }
     const bool isPassword = arguments.userPasswordFile == "-" || arguments.ownerPasswordFile == "-";
-    if (ofLists + std::ranges::count(arguments.inputs, "-") + (isPassword ? 1 : 0) > 1) {
+    const bool isInputPassword = arguments.inputPasswordFile == "-";
+    if (ofLists + std::ranges::count(arguments.inputs, "-") + (isPassword ? 1 : 0) +
+            (isInputPassword ? 1 : 0) >
+        1) {
         throw ArgumentFault(u"Standard input cannot be read twice"_s);
     }
 }

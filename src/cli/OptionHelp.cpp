@@ -27,6 +27,9 @@ HelpSection inputHelp() {
          {"--rotate", "ANGLE:RANGE",
           "turns these of the pages taken, or all of them, by +90, +180 or -90; 90 instead of +90 "
           "whatever turn they have"},
+         {"--input-password-file", "FILE",
+          "opens encrypted PDFs: each line is tried; the PDF made has only the protection that is "
+          "asked for"},
          {"--sort", "name|natural|size|created|modified",
           "the order of the inputs (default: as given)"}}};
 }

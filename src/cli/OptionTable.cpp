@@ -67,6 +67,8 @@ const std::vector<Option> &inputOptions() {
          [](Arguments &to, Value value) {
              choiceOfLastInput(to).turns.push_back(parsePageTurn(textOf(value)));
          }},
+        {"--input-password-file", Option::Valued,
+         [](Arguments &to, Value value) { to.inputPasswordFile = value; }},
         {"--recursive", Option::Switch, [](Arguments &to, Value) { to.taking.folders = true; }},
         {"--with-pdfs", Option::Switch, [](Arguments &to, Value) { to.taking.pdfs = true; }},
         {"--sort", Option::Valued,

@@ -4,10 +4,12 @@
 #include "cli/OptionValues.h"
 #include "files/ProcessSetup.h"
 #include "pdf/Password.h"
+#include "text/TextDecoder.h"
 
 #include <QFile>
 
 #include <cstdio>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +79,37 @@ class PasswordReader {
 };
 
 } // namespace
+
+InputPasswords readInputPasswords(const Arguments &arguments) {
+    if (!arguments.inputPasswordFile) {
+        return nullptr;
+    }
+    constexpr qint64 kMostBytes = 1 << 20;
+    const QByteArray &name = *arguments.inputPasswordFile;
+    QFile file(QFile::decodeName(name));
+    const bool isOpen =
+        name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    const QByteArray lines = isOpen ? file.read(kMostBytes) : QByteArray();
+    if (file.error() != QFileDevice::NoError) {
+        throw ArgumentFault(u"--input-password-file: \"%1\" cannot be read: %2"_s.arg(
+            QString::fromUtf8(name), file.errorString()));
+    }
+    std::vector<QByteArray> passwords;
+    for (QByteArray &line : lines.split('\n')) {
+        if (line.endsWith('\r')) {
+            line.chop(1);
+        }
+        const QString password = decodeText(line);
+        if (password.isNull()) { // The line itself is not shown.
+            throw ArgumentFault(u"--input-password-file: a line is not valid UTF-8"_s);
+        }
+        passwords.push_back(line);
+        if (!passwordProblem(password)) {
+            passwords.push_back(preparedPassword(password));
+        }
+    }
+    return std::make_shared<const std::vector<QByteArray>>(std::move(passwords));
+}
 
 void readPasswords(const Arguments &arguments, SecuritySettings &security) {
     forbidCoreDumps();

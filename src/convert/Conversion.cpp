@@ -200,6 +200,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                               .encryption = encryptionFor(options.security),
                               .oneSource = entries.size() == 1,
                               .keepInfo = options.keepInfo,
+                              .inputPasswords = options.inputPasswords,
                               .flush = options.flush,
                               .mayReplace = options.overwrite != Overwrite::Never,
                               .calls = calls});

@@ -42,6 +42,7 @@ struct ConversionOptions {
     DocumentInfo info;
     bool keepInfo = false; ///< The first source PDF gives what `info` lacks.
     SecuritySettings security;
+    InputPasswords inputPasswords; ///< Of PDFs that are sources.
     PageSetup textPage{TextPageA4, 0, 0, {72, 72, 72, 72}};
     PageSetup imagePage;
     ImageLayout imageLayout;

@@ -22,7 +22,7 @@ namespace folioforge {
 namespace {
 
 /// Reads what decides whether the file may enter the list. Throws Error where it may not.
-void accept(ReadEntry &read, SourceReading reading) {
+void accept(ReadEntry &read, SourceReading reading, const InputPasswords &passwords) {
     const QString &path = read.entry.filePathName();
     FileVersion::of(path); // Throws where no regular file is.
     switch (fileKind(path)) {
@@ -31,7 +31,7 @@ void accept(ReadEntry &read, SourceReading reading) {
         if (reading == SourceReading::WhenListed) {
             read.entry.setPageCount(countPdfPages(path));
         } else {
-            requireSourceDocument(path);
+            requireSourceDocument(path, passwords);
         }
         read.refusedPdf = false;
         break;
@@ -45,14 +45,14 @@ void accept(ReadEntry &read, SourceReading reading) {
     }
 }
 
-ReadEntry readEntry(const QString &path, SourceReading reading) {
+ReadEntry readEntry(const QString &path, SourceReading reading, const InputPasswords &passwords) {
     ReadEntry read{PDFFileInfo(path, reading), {}, false};
     const FileKind kind = fileKind(path);
     if (kind == FileKind::Text || kind == FileKind::Pdf) {
         read.entry.setFileSize(sizeText(QFileInfo(path).size()));
     }
     try {
-        accept(read, reading);
+        accept(read, reading, passwords);
         read.problem = read.entry.readError();
     } catch (const Error &error) {
         read.problem = error.reason();
@@ -62,13 +62,14 @@ ReadEntry readEntry(const QString &path, SourceReading reading) {
 
 } // namespace
 
-std::vector<ReadEntry> readEntries(const QStringList &paths, SourceReading reading) {
+std::vector<ReadEntry> readEntries(const QStringList &paths, SourceReading reading,
+                                   const InputPasswords &passwords) {
     const auto count = static_cast<std::size_t>(paths.size());
     std::vector<ReadEntry> read(count);
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
         for (std::size_t i = next++; i < count; i = next++) {
-            read[i] = readEntry(paths.at(static_cast<qsizetype>(i)), reading);
+            read[i] = readEntry(paths.at(static_cast<qsizetype>(i)), reading, passwords);
         }
     };
     // A thread costs more than a few small files.

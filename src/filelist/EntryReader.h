@@ -3,6 +3,7 @@
 #pragma once
 
 #include "filelist/PDFFileInfo.h"
+#include "pdf/Password.h"
 
 #include <QStringList>
 
@@ -18,7 +19,9 @@ struct ReadEntry {
 };
 
 /// Makes the entries of `paths` in their order. The files are read by several threads, as far as
-/// the list needs them; nothing is left running when it returns.
-std::vector<ReadEntry> readEntries(const QStringList &paths, SourceReading reading);
+/// the list needs them; nothing is left running when it returns. Where they are read when they are
+/// written, `passwords` open encrypted PDFs.
+std::vector<ReadEntry> readEntries(const QStringList &paths, SourceReading reading,
+                                   const InputPasswords &passwords = {});
 
 } // namespace folioforge

@@ -23,6 +23,17 @@
 
 namespace folioforge {
 
+namespace {
+
+Warning protectionLeft(bool hasOther) {
+    return {WarningCode::ProtectionLeft,
+            hasOther ? QStringLiteral("The document is protected, and the PDF made of it has the "
+                                      "protection that was asked for instead")
+                     : QStringLiteral("The document is protected, and the PDF made of it is not")};
+}
+
+} // namespace
+
 class PDFContext::Impl {
   public:
     Impl(QString path, Settings settings);
@@ -68,7 +79,7 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
         m_reader->beginAnew(); // A source that failed may have left its file open.
         const FileVersion file = FileVersion::of(sourcePath);
         const std::string key = file.key();
-        const auto source = openSourceDocument(file, m_reader);
+        const auto source = openSourceDocument(file, m_reader, m_settings.inputPasswords);
         // A copy, so that an import that fails leaves no stream to the next one.
         SharedStreams &known = m_sourceStreams[key];
         SharedStreams streams = known;
@@ -86,6 +97,9 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
         AddedDocument added{static_cast<int>(imported.pages.size()), {}, imported.parts};
         const qsizetype longest = std::min<qsizetype>(imported.longestStream, file.size);
         added.warnings = m_catalog.addDocument(std::move(imported));
+        if (source->isEncrypted()) {
+            added.warnings.push_back(protectionLeft(m_settings.encryption != nullptr));
+        }
         // From here on nothing fails, so that all of the document is added or nothing.
         m_longestStream = std::max(m_longestStream, longest);
         known = std::move(streams);

@@ -58,6 +58,7 @@ class PDFContext {
         bool oneSource = false;
         /// Whether the first source document with pages gives what `info` lacks.
         bool keepInfo = false;
+        InputPasswords inputPasswords; ///< Of source documents.
         Flush flush = Flush::Always;
         bool mayReplace = false; ///< The document takes the place of a file of its name.
         /// Every file is written and every source is read through these.

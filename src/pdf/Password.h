@@ -5,13 +5,19 @@
 #include <QByteArray>
 #include <QString>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace folioforge {
 
 /// Longest password of AES-256 encryption, in bytes of UTF-8 (ISO 32000-2, 7.6.4.3.3). No reader
 /// opens a file with a longer one.
 inline constexpr int kMaxPasswordBytes = 127;
+
+/// The bytes of passwords that encrypted sources are opened with, the empty one always among them;
+/// null where such sources are refused.
+using InputPasswords = std::shared_ptr<const std::vector<QByteArray>>;
 
 /// Encryption of a document: AES-256, revision 6. What is not refused is allowed.
 struct Encryption {

@@ -21,8 +21,70 @@ using namespace folioforge::test;
 class PasswordSourcesTest : public QObject, protected CommandLineCase {
     Q_OBJECT
 
+    /// A document with a text, encrypted by qpdf; its owner password is "ä owner".
+    QString encrypted(const QString &user, const QString &bits, const QStringList &rights) const {
+        const QString plain = path("plain.pdf");
+        if (!QFile::exists(plain)) {
+            merge("plain.pdf", {text("a.txt")});
+        }
+        QString locked = path("locked.pdf");
+        runTool(u"qpdf"_s,
+                QStringList{u"--allow-weak-crypto"_s, u"--encrypt"_s, user, u"ä owner"_s, bits} +
+                    rights + QStringList{u"--"_s, plain, locked});
+        return locked;
+    }
+
   private Q_SLOTS:
     void init() { setUp(); }
+
+    void encryptedPdfsOpenWithALineOfTheFile_data() {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QByteArray>("lines");
+        QTest::addColumn<QByteArray>("reason");
+        const QByteArray none = "none of the passwords opens it";
+        const QByteArray forbidden = "its permissions do not let its pages be taken";
+        for (const char *key : {"128", "256"}) {
+            const auto row = [&](const char *what, const char *lines, const QByteArray &reason) {
+                QTest::addRow("%s, %s bits", what, key)
+                    << QString::fromLatin1(key) << QByteArray(lines) << reason;
+            };
+            row("the owner's, among others", "wrong\r\n\xC3\xA4 owner\r\n", {});
+            row("the user's", "user\n", forbidden);
+            row("none of them", "wrong\n", none);
+            row("an empty file", "", none);
+        }
+    }
+
+    void encryptedPdfsOpenWithALineOfTheFile() {
+        QFETCH(const QString, key);
+        QFETCH(const QByteArray, lines);
+        QFETCH(const QByteArray, reason);
+        const QString file = encrypted(u"user"_s, key, {u"--assemble=n"_s});
+        const ToolRun run =
+            merge("all.pdf", {file, u"--input-password-file"_s, text("lines", lines)});
+        QVERIFY(run.err.contains(reason.isEmpty() ? "the PDF made of it is not" : reason));
+        QCOMPARE(run.exitCode, reason.isEmpty() ? 0 : 1);
+        if (reason.isEmpty()) {
+            const PdfProbe probe(path("all.pdf"));
+            QVERIFY(probe.isValid());
+            QVERIFY(probe.text().contains(u"words"_s));
+            QCOMPARE(probe.info(u"Encrypted"_s), u"no"_s);
+        }
+    }
+
+    void pdfsThatOnlyRestrictNeedNoPasswordWhereTheyMayBeAssembled() {
+        const QString lines = text("lines", "wrong\n");
+        const QString free = encrypted({}, u"256"_s, {u"--print=none"_s});
+        const QStringList protection{u"--owner-password-file"_s, text("owner", "new owner")};
+        const ToolRun run =
+            convert(protection + QStringList{free, u"--input-password-file"_s, lines});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY(run.err.contains("has the protection that was asked for instead"));
+        QVERIFY(PdfProbe(path("out/locked.pdf")).info(u"Encrypted"_s).contains(u"print:yes"_s));
+        const QString bound = encrypted({}, u"256"_s, {u"--assemble=n"_s});
+        QCOMPARE(convert({bound, u"--input-password-file"_s, lines}).exitCode, 1);
+        QCOMPARE(convert({free}).exitCode, 1); // Without the option as ever.
+    }
 
     void aPasswordIsNotTakenFromAClosedDescriptor() {
         QProcess process;

@@ -12,9 +12,11 @@
 #include "pdf/import/TableRepair.h"
 
 #include <qpdf/QPDF.hh>
+#include <qpdf/QUtil.hh>
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <string_view>
 
 using namespace Qt::StringLiterals;
@@ -59,26 +61,28 @@ AddedBytes endFurtherBehind(QPDF &document, const FileVersion &file, SourceReade
 /// Reads the table of the document and looks whether it leads to a catalog and a page tree. Does
 /// not search the file: see openBySearch(). Throws what libqpdf throws.
 void readTable(QPDF &document, const FileVersion &file, const std::shared_ptr<SourceReader> &reader,
-               const AddedBytes &added) {
+               const AddedBytes &added, const std::string &password) {
     document.setSuppressWarnings(true);
     document.setAttemptRecovery(false);
     withAllObjects(document, *reader, [&] {
-        document.processInputSource(std::make_shared<SourceInput>(file, reader, added));
+        document.processInputSource(std::make_shared<SourceInput>(file, reader, added),
+                                    password.c_str());
         return document.getRoot(); // Throws when the table leads to no catalog.
     });
     // From here on the library searches for single objects that are not in their place.
     document.setAttemptRecovery(file.size <= kMaxRepairedBytes);
 }
 
-/// Null when the document needs a password or has an unknown security handler. Also repairs a file
-/// whose table of objects is damaged or is wrongly taken for intact.
+/// Null when `password` does not open the document or it has an unknown security handler. Also
+/// repairs a file whose table of objects is damaged or is wrongly taken for intact.
 std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
                                        const std::shared_ptr<SourceReader> &reader,
+                                       const std::string &password = {},
                                        const AddedBytes &added = {}) {
     auto document = std::make_unique<QPDF>();
     std::vector<QPDFExc> faults;
     try {
-        readTable(*document, file, reader, added);
+        readTable(*document, file, reader, added, password);
     } catch (const QPDFExc &error) {
         if (error.getErrorCode() == qpdf_e_password || error.getErrorCode() == qpdf_e_unsupported) {
             return nullptr;
@@ -88,7 +92,7 @@ std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
     }
     const AddedBytes further = endFurtherBehind(*document, file, *reader);
     if (added.gap == 0 && further.gap > 0) {
-        return openUnlessLocked(file, reader, further);
+        return openUnlessLocked(file, reader, password, further);
     }
     if (faults.empty()) {
         return document;
@@ -103,6 +107,30 @@ std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
         }
     }
     return document;
+}
+
+/// Opens an encrypted document with one of `passwords`. Throws Error where none opens it far
+/// enough.
+std::unique_ptr<QPDF> unlock(const FileVersion &file, const std::shared_ptr<SourceReader> &reader,
+                             const std::vector<QByteArray> &passwords) {
+    std::vector<std::string> tried{{}};
+    for (const QByteArray &password : passwords) {
+        // Programs differ in the bytes that they made of the characters.
+        const auto forms = QUtil::possible_repaired_encodings(password.toStdString());
+        tried.insert(tried.end(), forms.begin(), forms.end());
+    }
+    bool isOpen = false;
+    for (const std::string &password : tried) {
+        auto document = openUnlessLocked(file, reader, password);
+        if (document && (!document->isEncrypted() || document->ownerPasswordMatched() ||
+                         document->allowModifyAssembly())) {
+            return document;
+        }
+        isOpen = isOpen || document != nullptr;
+    }
+    throw Error(isOpen ? u"The document is encrypted, and its permissions do not let its pages be "
+                         "taken; its owner password would"_s
+                       : u"The document is encrypted, and none of the passwords opens it"_s);
 }
 
 /// Throws Error where the pages of the document are not in the file.
@@ -132,11 +160,14 @@ PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
 }
 
 std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
-                                         const std::shared_ptr<SourceReader> &reader) {
+                                         const std::shared_ptr<SourceReader> &reader,
+                                         const InputPasswords &passwords) {
     return translateQpdfErrors([&] {
         requirePdfMark(file, *reader);
         auto document = openUnlessLocked(file, reader);
-        if (!document || document->isEncrypted()) {
+        if (passwords && (!document || document->isEncrypted())) {
+            document = unlock(file, reader, *passwords);
+        } else if (!document || document->isEncrypted()) {
             throw Error(u"The document is encrypted"_s);
         }
         return withAllObjects(*document, *reader, [&] {
@@ -146,8 +177,8 @@ std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
     });
 }
 
-void requireSourceDocument(const QString &path) {
-    openSourceDocument(FileVersion::of(path), std::make_shared<SourceReader>());
+void requireSourceDocument(const QString &path, const InputPasswords &passwords) {
+    openSourceDocument(FileVersion::of(path), std::make_shared<SourceReader>(), passwords);
 }
 
 } // namespace folioforge

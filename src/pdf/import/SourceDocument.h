@@ -3,6 +3,7 @@
 #pragma once
 
 #include "files/SourceReader.h"
+#include "pdf/Password.h"
 
 #include <QString>
 
@@ -26,12 +27,14 @@ inline constexpr qint64 kMaxRepairedBytes = 256LL << 20;
 /// it is no PDF, a dynamic XFA form, cannot be repaired or cannot be read.
 PDFSummary summarizePDF(const QString &path, SystemCalls &calls = SystemCalls::system());
 
-/// Parses a source PDF, which `reader` reads, for copying. Throws Error when it is no PDF,
-/// encrypted, a dynamic XFA form or cannot be repaired.
+/// Parses a source PDF, which `reader` reads, for copying. Throws Error when it is no PDF, a
+/// dynamic XFA form or cannot be repaired, or is encrypted and none of `passwords` opens it with
+/// the right to put its pages together with others.
 std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
-                                         const std::shared_ptr<SourceReader> &reader);
+                                         const std::shared_ptr<SourceReader> &reader,
+                                         const InputPasswords &passwords = {});
 
 /// Throws Error where openSourceDocument() would for the PDF at `path`.
-void requireSourceDocument(const QString &path);
+void requireSourceDocument(const QString &path, const InputPasswords &passwords = {});
 
 } // namespace folioforge
