@@ -94,6 +94,11 @@ class ArgumentReader {
         if (m_result.toStandardOutput && options.dryRun) {
             throw ArgumentFault(u"--dry-run writes no PDF to standard output; merge into a file"_s);
         }
+        const bool namesFiles =
+            options.bookmarks == Bookmarks::Files || options.bookmarks == Bookmarks::Both;
+        if (m_result.bookmarkTitleFile && !namesFiles) {
+            throw ArgumentFault(u"--bookmark-titles needs --bookmarks files or both"_s);
+        }
         if (m_result.listsEndInNull && m_result.nameLists.empty()) {
             throw ArgumentFault(u"-0 and --null say how names end in a list of --files-from"_s);
         }

@@ -48,6 +48,8 @@ struct Arguments {
     std::optional<QByteArray> userPasswordFile;
     std::optional<QByteArray> ownerPasswordFile;
     std::optional<QByteArray> inputPasswordFile; ///< Its lines open encrypted inputs.
+    std::optional<QByteArray> bookmarkTitleFile; ///< A line for each input, in their order.
+    QStringList bookmarkTitles;                  ///< Those lines, once they are read.
     QStringList rounded; ///< Lengths that are not what was asked for, in words.
     TextArguments text;
     std::optional<SortOrder> sort; ///< Nothing: as given.
@@ -87,6 +89,9 @@ void prepareOutputFolder(const ConversionOptions &options);
 
 /// That the merged PDF cannot be written, as its name is taken.
 QString nameTakenFault(const ConversionOptions &options);
+
+/// The lines of the file of --bookmark-titles. Throws ArgumentFault when it cannot be read.
+QStringList readBookmarkTitles(const Arguments &arguments);
 
 /// The text of --help.
 QByteArray helpText();

@@ -225,6 +225,7 @@ ExitStatus runConversion(Arguments arguments) {
     TemporaryFolder temporaryFolder;
     try {
         readPasswords(arguments, arguments.options.security);
+        arguments.bookmarkTitles = readBookmarkTitles(arguments);
         arguments.options.inputPasswords = readInputPasswords(arguments);
         readNameLists(arguments);
         sourceDate(); // Throws where no document could carry it.

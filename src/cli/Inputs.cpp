@@ -52,14 +52,19 @@ class Names {
     }
 
     /// The inputs with what their files hold.
-    std::vector<Input> read(const InputPasswords &passwords) {
+    /// `titles` are those of their bookmarks, in their order.
+    std::vector<Input> read(const InputPasswords &passwords, const QStringList &titles) {
         std::vector<ReadEntry> entries =
             readEntries(m_files, SourceReading::WhenWritten, passwords);
         auto next = entries.begin();
+        qsizetype title = 0;
         for (Input &input : m_inputs) {
             if (input.read.problem.isEmpty() && input.leftOut.empty()) {
                 input.read = std::move(*next++);
                 choosePages(input);
+            }
+            if (input.leftOut.empty()) {
+                input.read.entry.setBookmarkTitle(titles.value(title++));
             }
         }
         return std::move(m_inputs);
@@ -161,7 +166,7 @@ std::vector<Input> collectInputs(const Arguments &arguments, ReadableLinks &read
         names.add(arguments.inputs[i],
                   choice == arguments.pageChoices.end() ? PageChoice() : choice->second);
     }
-    return names.read(arguments.options.inputPasswords);
+    return names.read(arguments.options.inputPasswords, arguments.bookmarkTitles);
 }
 
 void sortInputs(std::vector<Input> &inputs, SortOrder order) {

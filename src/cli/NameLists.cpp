@@ -2,6 +2,7 @@
 
 #include "cli/Arguments.h"
 #include "cli/OptionValues.h"
+#include "text/TextDecoder.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -62,6 +63,27 @@ void moveChoices(std::map<std::size_t, PageChoice> &choices, std::size_t at, std
 }
 
 } // namespace
+
+QStringList readBookmarkTitles(const Arguments &arguments) {
+    if (!arguments.bookmarkTitleFile) {
+        return {};
+    }
+    const QByteArray &name = *arguments.bookmarkTitleFile;
+    QFile file(QFile::decodeName(name));
+    const QString text = file.open(QIODevice::ReadOnly) ? decodeText(file.readAll()) : QString();
+    if (text.isNull()) {
+        throw ArgumentFault(
+            u"--bookmark-titles: \"%1\" cannot be read as UTF-8"_s.arg(QString::fromUtf8(name)));
+    }
+    QStringList titles;
+    for (const QString &line : text.split(u'\n')) {
+        titles += line.trimmed();
+    }
+    while (!titles.isEmpty() && titles.last().isEmpty()) {
+        titles.removeLast();
+    }
+    return titles;
+}
 
 void readNameLists(Arguments &arguments) {
     const auto ofLists = std::ranges::count(arguments.nameLists, "-", &NameList::file);

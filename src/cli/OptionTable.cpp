@@ -129,6 +129,16 @@ const std::vector<Option> &documentOptions() {
          [](Arguments &to, Value value) { to.options.info.subject = textOf(value); }},
         {"--keywords", Option::Valued,
          [](Arguments &to, Value value) { to.options.info.keywords = textOf(value); }},
+        {"--bookmarks", Option::Valued,
+         [](Arguments &to, Value value) {
+             to.options.bookmarks = chosen<Bookmarks>(
+                 textOf(value), {{QLatin1StringView("sources"), Bookmarks::Sources},
+                                 {QLatin1StringView("files"), Bookmarks::Files},
+                                 {QLatin1StringView("both"), Bookmarks::Both},
+                                 {QLatin1StringView("none"), Bookmarks::None}});
+         }},
+        {"--bookmark-titles", Option::Valued,
+         [](Arguments &to, Value value) { to.bookmarkTitleFile = value; }},
         {"--keep-info", Option::Switch, [](Arguments &to, Value) { to.options.keepInfo = true; }},
         {"--user-password-file", Option::Valued,
          [](Arguments &to, Value value) { to.userPasswordFile = value; }},

@@ -34,6 +34,14 @@ enum class Overwrite {
     Always,
 };
 
+/// Which bookmarks a PDF has.
+enum class Bookmarks {
+    Sources, ///< Those of the PDFs that it is made of.
+    Files,   ///< One for each file.
+    Both,    ///< The first under the second.
+    None
+};
+
 /// Everything one run reads from the options panel or the arguments, copied when the run starts.
 struct ConversionOptions {
     QString outputFolder;
@@ -41,6 +49,7 @@ struct ConversionOptions {
     QString outputName; ///< Name of the merged file; merge mode only.
     DocumentInfo info;
     bool keepInfo = false; ///< The first source PDF gives what `info` lacks.
+    Bookmarks bookmarks = Bookmarks::Sources;
     SecuritySettings security;
     InputPasswords inputPasswords; ///< Of PDFs that are sources.
     PageSetup textPage{TextPageA4, 0, 0, {72, 72, 72, 72}};

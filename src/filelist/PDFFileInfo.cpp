@@ -125,6 +125,10 @@ void PDFFileInfo::readImage() {
     m_fileSize = dimensionsText(m_srcImage ? m_srcImage->sizeInPoints() : QSizeF(0, 0));
 }
 
+QString PDFFileInfo::bookmarkTitle() const {
+    return m_bookmarkTitle.isEmpty() ? QFileInfo(m_fileName).completeBaseName() : m_bookmarkTitle;
+}
+
 QStringList PDFFileInfo::remarks() const {
     if (m_remarks) {
         return *m_remarks;

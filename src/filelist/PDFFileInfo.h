@@ -79,6 +79,11 @@ class PDFFileInfo {
     /// Which pages of a PDF are taken; all where nothing was chosen.
     [[nodiscard]] const PageChoice &pageChoice() const { return m_pageChoice; }
 
+    /// What a bookmark of the file is called: its name without the extension where no other was
+    /// given.
+    [[nodiscard]] QString bookmarkTitle() const;
+
+    void setBookmarkTitle(const QString &title) { m_bookmarkTitle = title; }
     void setPageChoice(const PageChoice &choice) { m_pageChoice = choice; }
     void setPageCount(int count) { m_pageCount = count; }
     void setFileSize(const QString &text) { m_fileSize = text; }
@@ -119,6 +124,7 @@ class PDFFileInfo {
     QString m_destFileName;
     int m_pageCount = 0;
     PageChoice m_pageChoice;
+    QString m_bookmarkTitle;
     QString m_fileSize = QStringLiteral("");
     int m_index = 0;
     int m_stateIndex = Waiting;

@@ -41,6 +41,7 @@ class PDFContext::Impl {
     void endPage() { m_catalog.addPage(m_pages.endPage()); }
     AddedDocument addDocument(const QString &sourcePath, const PageChoice &choice);
     CloseResult close(const std::function<QString()> &nextPath);
+    void addBookmark(const QString &title, int page) { m_catalog.addBookmark(title, page); }
     void waitForPages() { m_streams.waitForPages(); }
     [[nodiscard]] Mark mark() const { return {pageCount(), m_streams.stored()}; }
     void rollBack(const Mark &mark);
@@ -94,6 +95,11 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
             return importDocument(*source, m_document, streams, names, options);
         });
         m_reader->finish();
+        if (!m_settings.sourceBookmarks) {
+            imported.bookmarks.clear();
+            const auto bookmarks = imported.parts.carried.extract(PartKind::Bookmarks);
+            addParts(imported.parts.left, PartKind::Bookmarks, bookmarks ? bookmarks.mapped() : 0);
+        }
         AddedDocument added{static_cast<int>(imported.pages.size()), {}, imported.parts};
         const qsizetype longest = std::min<qsizetype>(imported.longestStream, file.size);
         added.warnings = m_catalog.addDocument(std::move(imported));
@@ -227,6 +233,10 @@ Warnings PDFContext::checkPagesAfter(int count) const {
 
 QSizeF PDFContext::pageSize(int index) const {
     return m_impl->pageSize(index);
+}
+
+void PDFContext::addBookmark(const QString &title, int page) {
+    m_impl->addBookmark(title, page);
 }
 
 int PDFContext::pageCount() const {

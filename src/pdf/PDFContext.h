@@ -58,6 +58,7 @@ class PDFContext {
         bool oneSource = false;
         /// Whether the first source document with pages gives what `info` lacks.
         bool keepInfo = false;
+        bool sourceBookmarks = true;   ///< Whether those of source documents are taken.
         InputPasswords inputPasswords; ///< Of source documents.
         Flush flush = Flush::Always;
         bool mayReplace = false; ///< The document takes the place of a file of its name.
@@ -93,6 +94,11 @@ class PDFContext {
     /// and bookmarks, by default every page unchanged. Throws Error when the document cannot be
     /// read, or lacks a page that `choice` names.
     AddedDocument addDocument(const QString &sourcePath, const PageChoice &choice = {});
+
+    /// Adds a bookmark that leads to the page at `page`, from 0; the bookmarks of a document that
+    /// begins with that page stand under it. To be called in the order of the pages, for all that
+    /// was added or for nothing.
+    void addBookmark(const QString &title, int page);
 
     [[nodiscard]] int pageCount() const;
     /// The size in units of the page at `index`, from 0.

@@ -78,6 +78,43 @@ class InputListsTest : public QObject, CommandLineCase {
         QVERIFY(before.err.contains("--pages: It stands behind the PDF whose pages it means"));
     }
 
+    void filesOfAMergeHaveBookmarks_data() {
+        QTest::addColumn<QString>("kinds");
+        QTest::addColumn<QByteArrayList>("titles");
+        QTest::newRow("sources") << u"sources"_s << QByteArrayList{"inner", "2"};
+        QTest::newRow("files") << u"files"_s << QByteArrayList{"1", "inner", "Last"};
+        QTest::newRow("both") << u"both"_s << QByteArrayList{"1", "inner", "inner", "2", "Last"};
+        QTest::newRow("none") << u"none"_s << QByteArrayList();
+    }
+
+    void filesOfAMergeHaveBookmarks() {
+        QFETCH(const QString, kinds);
+        QFETCH(const QByteArrayList, titles);
+        const QStringList files{QFile::decodeName(named("inner.txt")),
+                                QFile::decodeName(named("2.txt"))};
+        QCOMPARE(merge("inner.pdf", files + QStringList{u"--bookmarks=files"_s}).exitCode, 0);
+        QStringList arguments{QFile::decodeName(named("1.txt")), path("inner.pdf"),
+                              QFile::decodeName(named("3.txt")), u"--bookmarks"_s, kinds};
+        if (kinds == u"files" || kinds == u"both") {
+            arguments += {u"--bookmark-titles"_s, text("titles", "\n\nLast\n")};
+        }
+        QCOMPARE(merge("all.pdf", arguments).exitCode, 0);
+        QVERIFY(PdfProbe(path("all.pdf")).isValid());
+        QByteArrayList found;
+        const QByteArray outline =
+            runTool(u"mutool"_s, {u"show"_s, path("all.pdf"), u"outline"_s}).out;
+        for (const QByteArray &line : outline.split('\n')) {
+            if (line.count('"') >= 2) {
+                found += line.split('"').at(1);
+            }
+        }
+        QCOMPARE(found, titles);
+        if (kinds == u"both") {
+            QVERIFY(outline.contains("\"2\"\t#page=3"));
+            QVERIFY(outline.contains("\"Last\"\t#page=4"));
+        }
+    }
+
     void standardInputServesOneList() {
         for (const QStringList &arguments :
              {QStringList{u"--files-from=-"_s, u"--files-from=-"_s},

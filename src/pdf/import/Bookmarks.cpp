@@ -27,6 +27,25 @@ long long visibleLines(QPDFObjectHandle item) {
     return 1 + (count.isInteger() ? std::clamp(count.getIntValue(), 0LL, kMaxLines) : 0);
 }
 
+/// Makes `items` what is under `parent`.
+void putUnder(QPDFObjectHandle parent, const ImportedBookmarks &items) {
+    if (items.empty()) {
+        return;
+    }
+    long long lines = 0;
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        QPDFObjectHandle item = items[i];
+        const bool last = i + 1 == items.size();
+        lines += visibleLines(item);
+        item.replaceKey("/Parent", parent);
+        item.replaceKey("/Prev", i == 0 ? QPDFObjectHandle::newNull() : items[i - 1]);
+        item.replaceKey("/Next", last ? QPDFObjectHandle::newNull() : items[i + 1]);
+    }
+    parent.replaceKey("/First", items.front());
+    parent.replaceKey("/Last", items.back());
+    parent.replaceKey("/Count", QPDFObjectHandle::newInteger(std::min(lines, kMaxLines)));
+}
+
 } // namespace
 
 ImportedBookmarks importBookmarks(QPDF &source, ObjectCopier &copier) {
@@ -50,28 +69,33 @@ ImportedBookmarks importBookmarks(QPDF &source, ObjectCopier &copier) {
     return bookmarks;
 }
 
-void BookmarkMerger::add(const ImportedBookmarks &imported) {
-    std::ranges::copy_if(imported, std::back_inserter(m_items), isEntry);
+void BookmarkMerger::add(const ImportedBookmarks &imported, int firstPage) {
+    std::ranges::copy_if(imported, std::back_inserter(m_items[firstPage]), isEntry);
 }
 
-void BookmarkMerger::finish(QPDF &document) const {
-    if (m_items.empty()) {
-        return;
+void BookmarkMerger::finish(QPDF &document, std::span<const QPDFObjectHandle> pages) const {
+    ImportedBookmarks top;
+    if (m_pages.empty()) {
+        for (const auto &[page, items] : m_items) {
+            std::ranges::copy(items, std::back_inserter(top));
+        }
     }
-    auto outline = document.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /Outlines >>"));
-    long long lines = 0;
-    for (std::size_t i = 0; i < m_items.size(); ++i) {
-        QPDFObjectHandle item = m_items[i];
-        const bool last = i + 1 == m_items.size();
-        lines += visibleLines(item);
-        item.replaceKey("/Parent", outline);
-        item.replaceKey("/Prev", i == 0 ? QPDFObjectHandle::newNull() : m_items[i - 1]);
-        item.replaceKey("/Next", last ? QPDFObjectHandle::newNull() : m_items[i + 1]);
+    for (const auto &[page, title] : m_pages) {
+        auto item = document.makeIndirectObject(QPDFObjectHandle::newDictionary());
+        item.replaceKey("/Title", QPDFObjectHandle::newUnicodeString(title.toStdString()));
+        item.replaceKey("/Dest", QPDFObjectHandle::newArray({pages[static_cast<std::size_t>(page)],
+                                                             QPDFObjectHandle::newName("/Fit")}));
+        if (const auto found = m_items.find(page); found != m_items.end()) {
+            putUnder(item, found->second);
+        }
+        top.push_back(item);
     }
-    outline.replaceKey("/First", m_items.front());
-    outline.replaceKey("/Last", m_items.back());
-    outline.replaceKey("/Count", QPDFObjectHandle::newInteger(std::min(lines, kMaxLines)));
-    document.getRoot().replaceKey("/Outlines", outline);
+    if (!top.empty()) {
+        auto outline =
+            document.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /Outlines >>"));
+        putUnder(outline, top);
+        document.getRoot().replaceKey("/Outlines", outline);
+    }
 }
 
 } // namespace folioforge

@@ -4,6 +4,11 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <QString>
+
+#include <map>
+#include <span>
+#include <utility>
 #include <vector>
 
 class QPDF;
@@ -19,14 +24,19 @@ using ImportedBookmarks = std::vector<QPDFObjectHandle>;
 ImportedBookmarks importBookmarks(QPDF &source, ObjectCopier &copier);
 
 /// The outline of the document that is made: the bookmarks of its sources, one source after
-/// another.
+/// another, each under the bookmark of its first page where there is one.
 class BookmarkMerger {
   public:
-    void add(const ImportedBookmarks &imported);
-    void finish(QPDF &document) const;
+    /// The bookmarks of the source whose first page stands at `firstPage`, from 0.
+    void add(const ImportedBookmarks &imported, int firstPage);
+    /// A bookmark called `title` that leads to the page at `page`, from 0. To be called in the
+    /// order of the pages; then every source needs one.
+    void addPage(const QString &title, int page) { m_pages.emplace_back(page, title); }
+    void finish(QPDF &document, std::span<const QPDFObjectHandle> pages) const;
 
   private:
-    ImportedBookmarks m_items;
+    std::map<int, ImportedBookmarks> m_items; ///< By the first page of their source.
+    std::vector<std::pair<int, QString>> m_pages;
 };
 
 } // namespace folioforge

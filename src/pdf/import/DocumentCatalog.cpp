@@ -40,10 +40,10 @@ Warnings DocumentCatalog::addDocument(ImportedDocument imported) {
     return warnings;
 }
 
-void DocumentCatalog::merge(const ImportedDocument &imported) {
+void DocumentCatalog::merge(const ImportedDocument &imported, int firstPage) {
     m_structure.add(imported.structure, imported.pages.size(), imported.scope);
     m_language.add(imported.structure);
-    m_bookmarks.add(imported.bookmarks);
+    m_bookmarks.add(imported.bookmarks, firstPage);
     m_forms.add(imported.form);
     m_layers.add(imported.layers);
     m_destinations.add(imported.destinations);
@@ -81,12 +81,12 @@ DocumentForm DocumentCatalog::form() const {
 
 void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info) {
     for (Added &added : m_documents) {
-        merge(added.document);
+        merge(added.document, added.firstPage);
         added.document = {}; // Its lists would take the memory twice.
     }
     buildPageTree(document, m_pages);
     m_structure.finish(document, m_pages.size());
-    m_bookmarks.finish(document);
+    m_bookmarks.finish(document, m_pages);
     m_forms.finish(document);
     m_layers.finish(document);
     m_destinations.finish(document);

@@ -25,6 +25,10 @@ class DocumentCatalog {
     /// ones before it. Where this throws, truncatePages() leaves the catalog as it was.
     Warnings addDocument(ImportedDocument imported);
 
+    /// A bookmark called `title` that leads to the page at `page`, from 0; those of a document that
+    /// begins there stand under it. To be called in the order of the pages.
+    void addBookmark(const QString &title, int page) { m_bookmarks.addPage(title, page); }
+
     /// Removes the pages after the first `count`, and the documents that brought them. Names that
     /// they have taken stay taken.
     void truncatePages(int count);
@@ -49,7 +53,7 @@ class DocumentCatalog {
         ImportedDocument document;
     };
 
-    void merge(const ImportedDocument &imported);
+    void merge(const ImportedDocument &imported, int firstPage);
 
     std::vector<QPDFObjectHandle> m_pages;
     std::vector<Added> m_documents; ///< Merged in the end, so that one that fails leaves nothing.
