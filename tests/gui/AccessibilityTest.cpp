@@ -196,8 +196,7 @@ class AccessibilityTest : public QObject {
 
     void eachRowIsNamedByWhatItShows() {
         Reader reader;
-        QVERIFY(reader.begin() && reader.list(u"letter.txt"_s, "words\n"));
-        QVERIFY(reader.list(u"a & b <c>.txt"_s, QByteArray("more words\n").repeated(1000)));
+        QVERIFY(reader.begin() && reader.list(u"a & b <c>.txt"_s, "words\n"));
         const auto cells = [&] {
             QStringList found;
             for (const AtNode &node : reader.nodes()) {
@@ -207,12 +206,10 @@ class AccessibilityTest : public QObject {
             }
             return found;
         };
-        QTRY_COMPARE(cells().size(), 8);
+        QTRY_COMPARE(cells().size(), 4);
         QStringList names = cells();
-        QCOMPARE(names.filter(u"KB"_s).size(), 2);
-        names.removeIf([](const QString &name) { return name.endsWith(u"KB"_s); });
-        QCOMPARE(names, (QStringList{u"1"_s, u"letter.txt"_s, u"Waiting..."_s, u"2"_s,
-                                     u"a & b <c>.txt"_s, u"Waiting..."_s}));
+        QVERIFY(names.takeAt(2).endsWith(u" KB"_s)); // File systems differ in the number.
+        QCOMPARE(names, (QStringList{u"1"_s, u"a & b <c>.txt"_s, u"Waiting..."_s}));
     }
 
     void togglesActAsClicksDo() {
