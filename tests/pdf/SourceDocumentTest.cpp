@@ -92,7 +92,7 @@ class SourceDocumentTest : public QObject {
         }
         QVERIFY(document->getWarnings().empty());
         QCOMPARE(document->getAllPages().size(), 3U);
-        constexpr int kLeast = 100;
+        constexpr int kLeast = 50; // Newer versions of the library ask less often.
         QVERIFY2(failures > kLeast, qPrintable(QString::number(failures)));
     }
 

@@ -27,7 +27,8 @@ Paragraph::Paragraph(QStringView text, const FontCascade &font, LineBreaks &brea
                      MissingGlyphs &missing)
     : m_text(text)
     , m_breaks(breaks)
-    , m_advances(static_cast<std::size_t>(text.size())) {
+    , m_advances(static_cast<std::size_t>(text.size()))
+    , m_begins(static_cast<std::size_t>(text.size())) {
     breaks.setText(text);
     if (isPlain(text)) {
         shapePlain(font, missing);
@@ -46,6 +47,7 @@ Paragraph::Paragraph(QStringView text, const FontCascade &font, LineBreaks &brea
         count += run.glyphs.size();
         for (const PlacedGlyph &placed : run.glyphs) {
             m_advances[static_cast<std::size_t>(placed.first)] += placed.advance;
+            m_begins[static_cast<std::size_t>(placed.first)] = true;
         }
     }
     m_glyphs.reserve(count); // The pieces point into it.
@@ -66,7 +68,7 @@ void Paragraph::shapePlain(const FontCascade &font, MissingGlyphs &missing) {
 
 TextRow Paragraph::rowTo(qsizetype first, qsizetype end) const {
     TextRow row{first, end, end};
-    while (row.visible > first && isBlank(m_text[row.visible - 1])) {
+    while (row.visible > first && isBlank(m_text[row.visible - 1]) && begins(row.visible)) {
         --row.visible;
     }
     for (qsizetype i = first; i < row.visible; ++i) {
@@ -75,12 +77,8 @@ TextRow Paragraph::rowTo(qsizetype first, qsizetype end) const {
     return row;
 }
 
-qsizetype Paragraph::characterAt(qsizetype first, qsizetype unit) const {
-    qsizetype start = unit;
-    while (start > first && (m_text[start].isMark() || m_text[start].isLowSurrogate())) {
-        --start;
-    }
-    return start > first ? start : unit;
+bool Paragraph::begins(qsizetype unit) const {
+    return unit == m_text.size() || m_begins[static_cast<std::size_t>(unit)];
 }
 
 TextRow Paragraph::takeRow(qsizetype first, double width, double tabStop) {
@@ -92,8 +90,11 @@ TextRow Paragraph::takeRow(qsizetype first, double width, double tabStop) {
             advance = (std::floor(at / tabStop + kRounding) + 1) * tabStop - at;
         }
         if (i > first && at + advance > width + kRounding && !isBlank(m_text[i]) && advance > 0) {
-            const qsizetype end = m_breaks.lastAtOrBefore(i);
-            return rowTo(first, end > first ? end : characterAt(first, i));
+            qsizetype end = m_breaks.lastAtOrBefore(i);
+            while (end > first && !begins(end)) {
+                --end; // A break before a mark that is drawn with the blank in front of it.
+            }
+            return rowTo(first, end > first ? end : i);
         }
         at += advance;
     }

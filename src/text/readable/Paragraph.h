@@ -62,9 +62,8 @@ class Paragraph {
 
     void shapePlain(const FontCascade &font, MissingGlyphs &missing);
     [[nodiscard]] TextRow rowTo(qsizetype first, qsizetype end) const;
-    /// The unit that begins the character at `unit`, which has marks behind it; `unit` where that
-    /// is `first` or before it.
-    [[nodiscard]] qsizetype characterAt(qsizetype first, qsizetype unit) const;
+    /// Whether a row may begin with the unit: whether its glyphs are its own.
+    [[nodiscard]] bool begins(qsizetype unit) const;
     [[nodiscard]] std::vector<DirectedRun> visualRuns(const TextRow &row) const;
     /// Puts what of the run stands in the part to the right of what there is.
     void place(const Run &run, const DirectedRun &part);
@@ -75,7 +74,8 @@ class Paragraph {
     LineBreaks &m_breaks;
     std::optional<TextDirections> m_directions; ///< Where the direction may change.
     std::vector<Run> m_runs;
-    std::vector<double> m_advances; ///< Points, of the first of the units that share a place.
+    std::vector<double> m_advances; ///< Points, of the first of the units that share glyphs.
+    std::vector<bool> m_begins;     ///< Which units are the first of those.
 
     std::vector<RowPiece> m_pieces;
     std::vector<Glyph> m_glyphs; ///< Of the pieces.

@@ -56,13 +56,14 @@ class RunFinder {
                 character = U16_GET_SUPPLEMENTARY(character, paragraph[at++].unicode());
             }
             const std::uint16_t face = faceOf(character);
-            if (first == directed.first || !joins(character, face)) {
+            const bool isAtTab = character == U'\t' || (first > 0 && paragraph[first - 1] == u'\t');
+            if (first == directed.first || isAtTab || !joins(character, face)) {
                 begin(first, character,
                       {first, at, directed.rightToLeft, face, scriptOf(character)});
             }
             m_runs.back().end = at;
             if (!isMark(character)) {
-                m_base = {first, character};
+                m_base = {first, character == U'\t' ? U'\0' : character};
             }
         }
     }
@@ -105,8 +106,9 @@ class RunFinder {
 
     /// Begins a run; with a mark its letter goes over to it, where the face of the mark has that.
     void begin(qsizetype first, char32_t character, TextRun run) {
-        if (isMark(character) && !m_runs.empty() && m_runs.back().first <= m_base.first &&
-            m_base.first < first && has(run.face, m_base.character)) {
+        if (isMark(character) && m_base.character != 0 && !m_runs.empty() &&
+            m_runs.back().first <= m_base.first && m_base.first < first &&
+            has(run.face, m_base.character)) {
             run.first = m_base.first;
             run.script = scriptOf(m_base.character);
             m_runs.back().end = run.first;
@@ -120,7 +122,7 @@ class RunFinder {
     const FontCascade &m_font;
     std::vector<TextRun> &m_runs;
     MissingGlyphs &m_missing;
-    Base m_base; ///< The last character that is no mark.
+    Base m_base; ///< The last character that is no mark; none after a tab.
 };
 
 } // namespace

@@ -23,8 +23,8 @@ struct TextRun {
 };
 
 /// The runs of a paragraph, in the order of its units. Blanks, marks, digits and points stay in the
-/// run that they follow, where its face has them. Characters that no face has go to
-/// `missing`.
+/// run that they follow, where its face has them. A tab is a run of its own. Characters that no
+/// face has go to `missing`.
 std::vector<TextRun> findRuns(QStringView paragraph, const std::vector<DirectedRun> &directed,
                               const FontCascade &font, MissingGlyphs &missing);
 
