@@ -44,7 +44,7 @@ class ArgumentReader {
 
     /// An option that follows is no value: most likely that was forgotten.
     QByteArray takeValueOf(const QByteArray &name) {
-        const QByteArray value = take();
+        QByteArray value = take();
         if (isOption(value)) {
             throw ArgumentFault(
                 u"The option \"%1\" needs a value; is \"%2\" one, write \"%1=%2\""_s.arg(

@@ -33,9 +33,10 @@ void limitResources() {
     constexpr rlim_t kSeconds = 20;
     limit(RLIMIT_CPU, kSeconds);
     limit(RLIMIT_FSIZE, 0);
-#ifndef FOLIOFORGE_SANITIZED                       // AddressSanitizer takes terabytes of addresses.
+#ifndef FOLIOFORGE_SANITIZED // AddressSanitizer maps terabytes that it may write to.
+    // Not of all addresses: PDFium sets many gigabytes of them apart, of which it uses few.
     constexpr rlim_t kMemory = rlim_t(1536) << 20; // Bytes.
-    limit(RLIMIT_AS, kMemory);
+    limit(RLIMIT_DATA, kMemory);
 #endif
 }
 

@@ -55,6 +55,7 @@ void ColumnWidths::dragged(int column, int before, int now) {
         return;
     }
     std::vector<int> widths;
+    widths.reserve(FilesArray::ColumnCount);
     for (int i = 0; i < FilesArray::ColumnCount; ++i) {
         widths.push_back(i == column ? before : m_table.columnWidth(i));
     }

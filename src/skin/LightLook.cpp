@@ -36,8 +36,7 @@ QPalette lightPalette() {
 
 /// Fields, buttons and bars that match the skins: the same corner radius, thin grey edges, the
 /// accent colour for the focus.
-QString lightStyleSheet() {
-    return uR"(
+constexpr QStringView kLightStyleSheet = uR"(
         QLineEdit {
             border: 1px solid #868d97; border-radius: 5px; padding: 3px 7px; min-height: 18px;
             background: #ffffff; selection-background-color: #2470d3; selection-color: #ffffff;
@@ -118,15 +117,14 @@ QString lightStyleSheet() {
         #busyCard { border: 1px solid #cfd4db; border-radius: 10px; background: #ffffff; }
         #busyTitle { font-size: 16px; font-weight: 600; }
         #busyCount { color: #59616b; }
-    )"_s;
-}
+)";
 
 } // namespace
 
 void applyLightLook(QApplication &application) {
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setPalette(lightPalette());
-    QString sheet = lightStyleSheet();
+    QString sheet = kLightStyleSheet.toString();
     if (QGuiApplication::isRightToLeft()) {
         sheet.replace(u"border-left"_s, u"border-right"_s); // Sheets know no leading edge.
     }

@@ -190,7 +190,7 @@ class DrawingProgramTest : public QObject {
         QCOMPARE(limit("Max cpu time"), QByteArray("20"));
         QCOMPARE(limit("Max core file size"), QByteArray("0"));
         if (!isSanitized()) {
-            QTRY_COMPARE(limit("Max address space"), QByteArray("1610612736"));
+            QTRY_COMPARE(limit("Max data size"), QByteArray("1610612736"));
         }
         process.closeWriteChannel();
         QVERIFY(process.waitForFinished());

@@ -46,7 +46,7 @@ ChosenPages choosePages(const std::vector<SourcePage> &found, const QByteArray &
 }
 
 void turnPages(const std::vector<QPDFObjectHandle> &pages, const std::vector<PageTurn> &turns) {
-    constexpr int kFull = 360;
+    constexpr long long kFull = 360;
     for (const PageTurn &turn : turns) {
         for (const int number : numbersIn(turn.range, pages.size())) {
             QPDFObjectHandle page = pages[static_cast<std::size_t>(number) - 1];

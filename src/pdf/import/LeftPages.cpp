@@ -198,7 +198,7 @@ class LeftPages {
         return gone;
     }
 
-    Handles bookmarksUnder(QPDFObjectHandle parent) {
+    Handles bookmarksUnder(const QPDFObjectHandle &parent) {
         Handles found;
         std::set<QPDFObjGen> visited;
         auto holder = parent;
@@ -218,8 +218,9 @@ class LeftPages {
     }
 
     static void writeBookmarks(Node &node) {
-        auto &[parent, above, goes, hadKids, kept] = node;
-        if (goes) { // It stays for those under it.
+        QPDFObjectHandle parent = node.object;
+        Handles &kept = node.kept;
+        if (node.goes) { // It stays for those under it.
             parent.removeKey("/Dest");
             parent.removeKey("/A");
         }
