@@ -45,8 +45,8 @@ struct ThreeFiles : Application {
         }
         qFatal("no Edit menu");
     }
-    /// Chooses `title` in the Edit menu with the keys. Some versions of Qt take the click of a mouse
-    /// that did not move for the one that opened the menu.
+    /// Chooses `title` in the Edit menu with the keys. Some versions of Qt take the click of a
+    /// mouse that did not move for the one that opened the menu.
     void choose(const QString &title) {
         QMenu &menu = editMenu();
         menu.popup(window().mapToGlobal(QPoint(0, 0)));
