@@ -3,9 +3,11 @@
 #include "WholeRun.h"
 
 #include "support/PdfProbe.h"
+#include "support/Sanitizer.h"
 #include "support/TestUnit.h"
 
 #include <cstring>
+#include <span>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -81,6 +83,12 @@ class FaultsTest : public QObject, private WholeRun {
         return {};
     }
 
+    /// All of `faults`, but where each run takes long the one whose turn it is.
+    static std::span<const Fault> triedAt(int call, std::span<const Fault> faults) {
+        return isSanitized() ? faults.subspan(static_cast<std::size_t>(call) % faults.size(), 1)
+                             : faults;
+    }
+
     void tryEach(const Kind &kind, const std::map<std::string, int> &missing,
                  const std::vector<Fault> &faults) {
         clear();
@@ -91,7 +99,7 @@ class FaultsTest : public QObject, private WholeRun {
         const QList<QByteArray> whole = wholeOutputs(kind);
         int failed = 0;
         for (int call = 1; call <= counted.count(); ++call) {
-            for (Fault fault : faults) {
+            for (Fault fault : triedAt(call, faults)) {
                 QFile::remove(output());
                 fault.call = call;
                 FaultyCalls calls;
@@ -104,7 +112,8 @@ class FaultsTest : public QObject, private WholeRun {
                 ++m_tried;
             }
         }
-        QVERIFY(failed >= counted.count()); // Some calls may fail unnoticed, but not most.
+        // Some calls may fail unnoticed, but not most.
+        QVERIFY(failed >= counted.count() / (isSanitized() ? 2 : 1));
     }
 
   private Q_SLOTS:

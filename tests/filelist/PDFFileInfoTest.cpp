@@ -52,8 +52,8 @@ class ShortMemory {
 
 } // namespace
 
-// The sanitizer asks for this name. NOLINTNEXTLINE(bugprone-reserved-identifier,cert-dcl37-c)
-extern "C" const char *__asan_default_options() {
+// The sanitizer asks for this name.
+extern "C" const char *__asan_default_options() { // NOLINT
     return "allocator_may_return_null=1:max_allocation_size_mb=1024";
 }
 

@@ -36,6 +36,7 @@ class FakeDesktop : public QObject {
     QList<Progress> progress;
 
   public Q_SLOTS:
+    // The bus asks for this name. NOLINTNEXTLINE(readability-identifier-naming)
     uint Notify(const QString &application, uint /*replaces*/, const QString &icon,
                 const QString &summary, const QString & /*body*/, const QStringList & /*actions*/,
                 const QVariantMap &hints, int timeout) {

@@ -44,29 +44,22 @@ class PreviewWindow : public TestWindow {
         const QRect cell = table()->visualRect(ctrl.filesArray().index(row, 1));
         QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, cell.center());
     }
-    [[nodiscard]] bool isShown() const {
-        const auto *panel = ctrlWindow().findChild<PreviewPanel *>();
+    [[nodiscard]] bool isShown() {
+        const auto *panel = ctrl.window()->findChild<PreviewPanel *>();
         return panel != nullptr && panel->isVisible();
     }
-    [[nodiscard]] PreviewPanel &panel() const {
-        return controlOf<PreviewPanel>(ctrlWindow(), "previewPanel");
+    [[nodiscard]] PreviewPanel &panel() {
+        return controlOf<PreviewPanel>(*ctrl.window(), "previewPanel");
     }
-    [[nodiscard]] const QImage &page() const { return panel().view().page(); }
-    [[nodiscard]] double width() const { return double(page().width()) / page().height(); }
-    [[nodiscard]] QString number() const {
-        return controlOf<QLabel>(panel(), "previewNumber").text();
-    }
-    void pressInPanel(const QString &name) const {
+    [[nodiscard]] const QImage &page() { return panel().view().page(); }
+    [[nodiscard]] double width() { return double(page().width()) / page().height(); }
+    [[nodiscard]] QString number() { return controlOf<QLabel>(panel(), "previewNumber").text(); }
+    void pressInPanel(const QString &name) {
         for (auto *button : panel().findChildren<QToolButton *>()) {
             if (button->accessibleName() == name) {
                 QTest::mouseClick(button, Qt::LeftButton);
             }
         }
-    }
-
-  private:
-    [[nodiscard]] QMainWindow &ctrlWindow() const {
-        return *const_cast<PreviewWindow *>(this)->ctrl.window();
     }
 };
 
@@ -112,7 +105,7 @@ void typePageSize(TestWindow &w, const char *pageWidth, const char *pageHeight) 
 
 /// A bundle whose program for pages is a script that never ends and writes its number to `number`.
 QString endlessBundle(const QTemporaryDir &folder) {
-    const QString bundle = folder.filePath(u"Endless.app"_s);
+    QString bundle = folder.filePath(u"Endless.app"_s);
     const QString program = Preview::programIn(bundle);
     QDir().mkpath(QFileInfo(program).path());
     writeFile(program, "#!/bin/sh\necho $$ >'" + QFile::encodeName(folder.filePath(u"number"_s)) +

@@ -62,7 +62,7 @@ struct ForeignWindow {
         QTest::mouseClick(&control<QWidget>("m_btnExpand"), Qt::LeftButton);
         QTRY_COMPARE(control<OptionsDrawer>("m_optionsDrawer").openWidth(), 342);
     }
-    QMainWindow &window() { return application->window(); }
+    QMainWindow &window() const { return application->window(); }
     template<typename Control> Control &control(const char *name) {
         return controlOf<Control>(window(), name);
     }
