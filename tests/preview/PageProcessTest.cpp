@@ -41,7 +41,7 @@ class PageProcessTest : public QObject {
 
     /// A program that runs `lines` of shell.
     [[nodiscard]] QString program(const QByteArray &lines) const {
-        const QString script = writeFile(path(u"drawer"_s), "#!/bin/sh\n" + lines);
+        QString script = writeFile(path(u"drawer"_s), "#!/bin/sh\n" + lines);
         QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         return script;
     }
