@@ -127,7 +127,13 @@ class WindowManagersTest : public QObject {
         QVERIFY(session.showOptions());
         QVERIFY(session.screen().contains(session.place().frame));
         QVERIFY(session.hideOptions());
-        QCOMPARE(session.place().frame, before);
+        // Where window and screen are of one width, a manager may answer a point less or more.
+        const QRect hidden = session.place().frame;
+        const int rounding = session.pixels(2);
+        QVERIFY(std::abs(hidden.left() - before.left()) <= rounding);
+        QVERIFY(std::abs(hidden.width() - before.width()) <= rounding);
+        QCOMPARE(hidden.top(), before.top());
+        QCOMPARE(hidden.height(), before.height());
     }
 
     void aPanelThatIsShownAndHiddenInASlideEndsRight_data() { addDesktops({{{1600, 1000}, "1"}}); }
