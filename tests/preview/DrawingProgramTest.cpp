@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "preview/PageProcess.h"
+#include "preview/Preview.h"
 #include "support/Files.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
 #include "support/Places.h"
-#include "support/Sanitizer.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
@@ -23,17 +22,13 @@ using namespace folioforge::test;
 
 namespace {
 
-QString program() {
-    return bundlePath() + u"/Contents/MacOS/folioforge-page"_s;
-}
-
 struct Drawn {
     std::optional<DrawnPage> page;
     QString reason;
 };
 
 Drawn draw(const PageRequest &request, const QString &password = {}) {
-    PageProcess process(program());
+    PageProcess process(Preview::programIn(bundlePath()));
     Drawn drawn;
     bool isDone = false;
     QObject::connect(&process, &PageProcess::drawn, &process, [&](const DrawnPage &page) {
@@ -167,34 +162,6 @@ class DrawingProgramTest : public QObject {
                 QVERIFY(drawn.page.has_value() != !drawn.reason.isEmpty());
             }
         }
-    }
-
-    void theProgramLimitsWhatItTakes() {
-#ifndef Q_OS_LINUX
-        QSKIP("the limits of another process are read from /proc");
-#endif
-        QProcess process;
-        process.start(program(), {u"/none.pdf"_s, u"0"_s, u"9"_s, u"9"_s});
-        QVERIFY(process.waitForStarted());
-        const auto limit = [&](const QByteArray &name) {
-            const auto lines = readFile(u"/proc/%1/limits"_s.arg(process.processId())).split('\n');
-            for (const QByteArray &line : lines) {
-                if (line.startsWith(name)) {
-                    return line.sliced(name.size()).simplified().split(' ').constFirst();
-                }
-            }
-            return QByteArray();
-        };
-        // It waits for the password.
-        QTRY_COMPARE(limit("Max file size"), QByteArray("0"));
-        QCOMPARE(limit("Max cpu time"), QByteArray("20"));
-        QCOMPARE(limit("Max core file size"), QByteArray("0"));
-        if (!isSanitized()) {
-            QTRY_COMPARE(limit("Max data size"), QByteArray("1610612736"));
-        }
-        process.closeWriteChannel();
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.exitCode(), 3);
     }
 };
 
