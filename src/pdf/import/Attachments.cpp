@@ -28,8 +28,7 @@ std::vector<QPDFObjectHandle> embeddedFiles(const TreeEntries &tree,
                            [](const auto &pair) { return pair.second; });
     std::set<QPDFObjGen> visited;
     std::erase_if(files, [&](QPDFObjectHandle file) {
-        return !isEntry(file) || !file.getKey("/EF").isDictionary() ||
-               (file.isIndirect() && !visited.insert(file.getObjGen()).second);
+        return !isEntry(file) || !file.getKey("/EF").isDictionary() || !isFirstVisit(file, visited);
     });
     return files;
 }
@@ -41,8 +40,7 @@ std::vector<QPDFObjectHandle> filesOfPages(const std::vector<QPDFObjectHandle> &
     std::set<QPDFObjGen> visited; // Pages may share their lists.
     const auto itemsOf = [&visited](const QPDFObjectHandle &holder, const char *key) {
         const auto list = entry(holder, key);
-        const bool isNew = !list.isIndirect() || visited.insert(list.getObjGen()).second;
-        return isNew ? items(list) : std::vector<QPDFObjectHandle>();
+        return isFirstVisit(list, visited) ? items(list) : std::vector<QPDFObjectHandle>();
     };
     for (const auto &page : pages) {
         std::ranges::copy(itemsOf(page, "/AF"), std::back_inserter(files));

@@ -28,8 +28,7 @@ std::size_t countReached(Objects open, Next &&next, Counts &&counts) {
     while (!open.empty()) {
         const QPDFObjectHandle object = open.back();
         open.pop_back();
-        if (!isEntry(object) ||
-            (object.isIndirect() && !visited.insert(object.getObjGen()).second)) {
+        if (!isEntry(object) || !isFirstVisit(object, visited)) {
             continue;
         }
         number += counts(object) ? 1 : 0;

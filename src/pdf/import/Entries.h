@@ -5,6 +5,7 @@
 #include <qpdf/QPDFObjectHandle.hh>
 
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,6 +35,12 @@ inline QPDFObjectHandle annotationsOf(QPDFObjectHandle page) {
 /// What an array holds; nothing where `array` is none.
 inline std::vector<QPDFObjectHandle> items(QPDFObjectHandle array) {
     return array.isArray() ? array.getArrayAsVector() : std::vector<QPDFObjectHandle>();
+}
+
+/// Whether `object` comes for the first time, which `visited` remembers. What is not indirect has
+/// no name to know it by; it lies within something that has.
+inline bool isFirstVisit(const QPDFObjectHandle &object, std::set<QPDFObjGen> &visited) {
+    return !object.isIndirect() || visited.insert(object.getObjGen()).second;
 }
 
 /// Whether `text` is a version of PDF such as "2.0".

@@ -10,17 +10,11 @@ namespace folioforge {
 
 namespace {
 
-/// Whether `object` comes for the first time. What is not indirect has no name to know it by; it
-/// lies within something that has.
-bool isNew(const QPDFObjectHandle &object, std::set<QPDFObjGen> &visited) {
-    return !object.isIndirect() || visited.insert(object.getObjGen()).second;
-}
-
 /// The field at the top of `widget`; null where that was visited before or nothing on the way says
 /// what kind of field it is.
 QPDFObjectHandle rootOf(const QPDFObjectHandle &widget, std::set<QPDFObjGen> &visited) {
     bool hasType = false;
-    for (auto field = widget; field.isIndirect() && isNew(field, visited);) {
+    for (auto field = widget; field.isIndirect() && isFirstVisit(field, visited);) {
         hasType = hasType || field.getKey("/FT").isName();
         auto parent = field.getKey("/Parent");
         if (!parent.isDictionary()) {
@@ -40,11 +34,11 @@ void visitFields(const std::vector<QPDFObjectHandle> &roots,
     while (!pending.empty()) {
         auto field = pending.back();
         pending.pop_back();
-        if (!field.isDictionary() || !isNew(field, visited) || !visit(field)) {
+        if (!field.isDictionary() || !isFirstVisit(field, visited) || !visit(field)) {
             continue;
         }
         auto kids = field.getKey("/Kids");
-        if (isNew(kids, visited)) {
+        if (isFirstVisit(kids, visited)) {
             const auto fields = items(kids);
             pending.insert(pending.end(), fields.rbegin(), fields.rend());
         }
@@ -55,13 +49,13 @@ std::vector<QPDFObjectHandle> unlistedFields(const std::vector<SourcePage> &page
                                              const std::vector<QPDFObjectHandle> &listed) {
     std::set<QPDFObjGen> visited;
     visitFields(listed, [&](const QPDFObjectHandle &field) {
-        isNew(field, visited);
+        isFirstVisit(field, visited);
         return true;
     });
     std::vector<QPDFObjectHandle> unlisted;
     for (const auto &[page, inherited] : pages) {
         const auto annotations = annotationsOf(page);
-        if (!isNew(annotations, visited)) {
+        if (!isFirstVisit(annotations, visited)) {
             continue;
         }
         for (const auto &annotation : items(annotations)) {

@@ -168,8 +168,7 @@ class LeftPages {
         std::set<QPDFObjGen> visited{root.getObjGen()};
         for (std::size_t i = 0; i < nodes.size(); ++i) {
             for (auto kid : kidsOf(nodes[i].object)) {
-                if (kid.isDictionary() &&
-                    (!kid.isIndirect() || visited.insert(kid.getObjGen()).second)) {
+                if (kid.isDictionary() && isFirstVisit(kid, visited)) {
                     nodes[i].hadKids = true;
                     nodes.push_back({kid, i, goes(kid)});
                 }

@@ -112,7 +112,7 @@ bool lacksNode(const QPDFObjectHandle &root, std::initializer_list<const char *>
     while (!pending.empty()) {
         QPDFObjectHandle node = pending.back();
         pending.pop_back();
-        if (node.isIndirect() && !visited.insert(node.getObjGen()).second) {
+        if (!isFirstVisit(node, visited)) {
             continue;
         }
         if (hasDanglingItems(node)) {

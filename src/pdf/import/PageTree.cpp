@@ -3,6 +3,7 @@
 #include "pdf/import/PageTree.h"
 
 #include "error/Error.h"
+#include "pdf/import/Entries.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -52,7 +53,7 @@ class PageTreeWalk {
 
   private:
     void requireNew(const QPDFObjectHandle &object) {
-        if (object.isIndirect() && !m_visited.insert(object.getObjGen()).second) {
+        if (!isFirstVisit(object, m_visited)) {
             throw Error(u"The page tree contains itself"_s);
         }
     }
@@ -68,9 +69,8 @@ class PageTreeWalk {
         }
         auto kids = node.getKey("/Kids");
         requireNew(kids); // It may hold nodes that lead to it again.
-        const auto items =
-            kids.isArray() ? kids.getArrayAsVector() : std::vector<QPDFObjectHandle>();
-        std::for_each(items.rbegin(), items.rend(), [&](const QPDFObjectHandle &kid) {
+        const auto below = items(kids);
+        std::for_each(below.rbegin(), below.rend(), [&](const QPDFObjectHandle &kid) {
             m_pending.push_back({kid, inherited});
         });
         // Marks the node as a part of the tree, which is not copied.

@@ -91,7 +91,7 @@ void renameClasses(const ImportedStructure &tree, const Names &renames) {
         const auto found = renames.find(nameOf(classes));
         if (found != renames.end()) {
             element.replaceKey("/C", QPDFObjectHandle::newName(found->second));
-        } else if (!classes.isIndirect() || visited.insert(classes.getObjGen()).second) {
+        } else if (isFirstVisit(classes, visited)) {
             renameMembers(classes, renames, nameOf, QPDFObjectHandle::newName);
         }
     }
@@ -114,16 +114,13 @@ void renameHeaders(const ImportedStructure &tree, const Names &renames) {
         holders.push_back(attributes);
     }
     std::set<QPDFObjGen> visited; // Elements may share all of it.
-    const auto isNew = [&visited](const QPDFObjectHandle &object) {
-        return !object.isIndirect() || visited.insert(object.getObjGen()).second;
-    };
     for (const auto &holder : holders) {
-        if (!isNew(holder)) {
+        if (!isFirstVisit(holder, visited)) {
             continue;
         }
         for (const auto &attributes : attributesOf(holder)) {
             const auto headers = entry(attributes, "/Headers");
-            if (isNew(attributes) && isNew(headers)) {
+            if (isFirstVisit(attributes, visited) && isFirstVisit(headers, visited)) {
                 renameMembers(headers, renames, stringOf, QPDFObjectHandle::newString);
             }
         }

@@ -69,24 +69,21 @@ QPDFObjectHandle stringKey(QPDFObjectHandle key) {
 TreeEntries readTreeEntries(const QPDFObjectHandle &root, const char *leafKey) {
     TreeEntries entries;
     std::vector<QPDFObjectHandle> pending{root};
-    std::set<QPDFObjGen> visited;
-    // Lists as well: one may hold nodes that lead to it again.
-    const auto isNew = [&visited](const QPDFObjectHandle &object) {
-        return !object.isIndirect() || visited.insert(object.getObjGen()).second;
-    };
+    std::set<QPDFObjGen> visited; // Lists as well: one may hold nodes that lead to it again.
     while (!pending.empty()) {
         auto node = pending.back();
         pending.pop_back();
-        if (!node.isDictionary() || !isNew(node)) {
+        if (!node.isDictionary() || !isFirstVisit(node, visited)) {
             continue;
         }
         const auto leaf = node.getKey(leafKey);
-        const auto pairs = isNew(leaf) ? items(leaf) : std::vector<QPDFObjectHandle>();
+        const auto pairs =
+            isFirstVisit(leaf, visited) ? items(leaf) : std::vector<QPDFObjectHandle>();
         for (std::size_t i = 0; i + 1 < pairs.size(); i += 2) {
             entries.emplace_back(pairs[i], pairs[i + 1]);
         }
         const auto list = node.getKey("/Kids");
-        if (isNew(list)) {
+        if (isFirstVisit(list, visited)) {
             const auto kids = items(list);
             pending.insert(pending.end(), kids.rbegin(), kids.rend());
         }
