@@ -27,9 +27,31 @@ long long visibleLines(QPDFObjectHandle item) {
     return 1 + (count.isInteger() ? std::clamp(count.getIntValue(), 0LL, kMaxLines) : 0);
 }
 
-/// Makes `items` what is under `parent`.
-void putUnder(QPDFObjectHandle parent, const ImportedBookmarks &items) {
+} // namespace
+
+std::vector<QPDFObjectHandle> bookmarksUnder(QPDF &source, const QPDFObjectHandle &parent) {
+    std::vector<QPDFObjectHandle> found;
+    std::set<QPDFObjGen> visited;
+    auto holder = parent;
+    for (const char *key = "/First";; key = "/Next") {
+        auto item = entry(holder, key);
+        if (!item.isDictionary() || !isFirstVisit(item, visited)) {
+            return found;
+        }
+        if (!item.isIndirect()) {
+            item = source.makeIndirectObject(item);
+            holder.replaceKey(key, item);
+        }
+        found.push_back(item);
+        holder = item;
+    }
+}
+
+void putBookmarksUnder(QPDFObjectHandle parent, const std::vector<QPDFObjectHandle> &items) {
     if (items.empty()) {
+        for (const char *key : {"/First", "/Last", "/Count"}) {
+            parent.removeKey(key);
+        }
         return;
     }
     long long lines = 0;
@@ -41,30 +63,18 @@ void putUnder(QPDFObjectHandle parent, const ImportedBookmarks &items) {
         item.replaceKey("/Prev", i == 0 ? QPDFObjectHandle::newNull() : items[i - 1]);
         item.replaceKey("/Next", last ? QPDFObjectHandle::newNull() : items[i + 1]);
     }
+    lines = std::min(lines, kMaxLines);
+    auto count = parent.getKey("/Count");
+    const bool isClosed = count.isInteger() && count.getIntValue() < 0;
     parent.replaceKey("/First", items.front());
     parent.replaceKey("/Last", items.back());
-    parent.replaceKey("/Count", QPDFObjectHandle::newInteger(std::min(lines, kMaxLines)));
+    parent.replaceKey("/Count", QPDFObjectHandle::newInteger(isClosed ? -lines : lines));
 }
-
-} // namespace
 
 ImportedBookmarks importBookmarks(QPDF &source, ObjectCopier &copier) {
     ImportedBookmarks bookmarks;
-    std::set<QPDFObjGen> visited;
-    auto holder = source.getRoot().getKey("/Outlines");
-    auto item = entry(holder, "/First");
-    for (const char *key = "/First"; item.isDictionary(); key = "/Next") {
-        if (!item.isIndirect()) {
-            // One that stands in another is made an object of its own, as it has to be.
-            item = source.makeIndirectObject(item);
-            holder.replaceKey(key, item);
-        }
-        if (!visited.insert(item.getObjGen()).second) {
-            break;
-        }
+    for (const auto &item : bookmarksUnder(source, source.getRoot().getKey("/Outlines"))) {
         bookmarks.push_back(copier.copy(item));
-        holder = item;
-        item = item.getKey("/Next");
     }
     return bookmarks;
 }
@@ -86,14 +96,14 @@ void BookmarkMerger::finish(QPDF &document, std::span<const QPDFObjectHandle> pa
         item.replaceKey("/Dest", QPDFObjectHandle::newArray({pages[static_cast<std::size_t>(page)],
                                                              QPDFObjectHandle::newName("/Fit")}));
         if (const auto found = m_items.find(page); found != m_items.end()) {
-            putUnder(item, found->second);
+            putBookmarksUnder(item, found->second);
         }
         top.push_back(item);
     }
     if (!top.empty()) {
         auto outline =
             document.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /Outlines >>"));
-        putUnder(outline, top);
+        putBookmarksUnder(outline, top);
         document.getRoot().replaceKey("/Outlines", outline);
     }
 }

@@ -23,6 +23,13 @@ using ImportedBookmarks = std::vector<QPDFObjectHandle>;
 
 ImportedBookmarks importBookmarks(QPDF &source, ObjectCopier &copier);
 
+/// The bookmarks one level under `parent`, a bookmark or the root of the outline, each once. One
+/// that stands in another object is made one of its own, as it has to be.
+std::vector<QPDFObjectHandle> bookmarksUnder(QPDF &source, const QPDFObjectHandle &parent);
+
+/// Makes `items` what is under `parent`, which stays open or closed as it is.
+void putBookmarksUnder(QPDFObjectHandle parent, const std::vector<QPDFObjectHandle> &items);
+
 /// The outline of the document that is made: the bookmarks of its sources, one source after
 /// another, each under the bookmark of its first page where there is one.
 class BookmarkMerger {

@@ -2,6 +2,7 @@
 
 #include "pdf/import/LeftPages.h"
 
+#include "pdf/import/Bookmarks.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/FieldTree.h"
 #include "pdf/import/SourceNames.h"
@@ -197,53 +198,12 @@ class LeftPages {
         return gone;
     }
 
-    Handles bookmarksUnder(const QPDFObjectHandle &parent) {
-        Handles found;
-        std::set<QPDFObjGen> visited;
-        auto holder = parent;
-        for (const char *key = "/First";; key = "/Next") {
-            auto item = entry(holder, key);
-            if (!item.isDictionary() ||
-                (item.isIndirect() && !visited.insert(item.getObjGen()).second)) {
-                return found;
-            }
-            if (!item.isIndirect()) {
-                item = m_source.makeIndirectObject(item);
-                holder.replaceKey(key, item);
-            }
-            found.push_back(item);
-            holder = item;
-        }
-    }
-
     static void writeBookmarks(Node &node) {
-        QPDFObjectHandle parent = node.object;
-        Handles &kept = node.kept;
         if (node.goes) { // It stays for those under it.
-            parent.removeKey("/Dest");
-            parent.removeKey("/A");
+            node.object.removeKey("/Dest");
+            node.object.removeKey("/A");
         }
-        if (kept.empty()) {
-            for (const char *key : {"/First", "/Last", "/Count"}) {
-                parent.removeKey(key);
-            }
-            return;
-        }
-        long long lines = 0;
-        for (std::size_t i = 0; i < kept.size(); ++i) {
-            auto count = kept[i].getKey("/Count");
-            lines += 1 + (count.isInteger() ? std::max(count.getIntValue(), 0LL) : 0);
-            const auto beside = [&](bool has, std::size_t index) {
-                return has ? kept[index] : QPDFObjectHandle::newNull();
-            };
-            kept[i].replaceKey("/Prev", beside(i > 0, i - 1));
-            kept[i].replaceKey("/Next", beside(i + 1 < kept.size(), i + 1));
-        }
-        auto count = parent.getKey("/Count");
-        const bool isClosed = count.isInteger() && count.getIntValue() < 0;
-        parent.replaceKey("/First", kept.front());
-        parent.replaceKey("/Last", kept.back());
-        parent.replaceKey("/Count", QPDFObjectHandle::newInteger(isClosed ? -lines : lines));
+        putBookmarksUnder(node.object, node.kept);
     }
 
     void removeBookmarks() {
@@ -252,7 +212,7 @@ class LeftPages {
             return;
         }
         auto nodes = readTree(
-            root, [&](const auto &parent) { return bookmarksUnder(parent); },
+            root, [&](const auto &parent) { return bookmarksUnder(m_source, parent); },
             [&](const auto &item) { return jumps(item); });
         const auto stays = [](const Node &node) {
             auto item = node.object;
