@@ -61,6 +61,17 @@ inline void putItems(QPDFObjectHandle dictionary, const std::string &key,
     }
 }
 
+/// Removes those of `objects` from the array under `key`, if `holder` has one.
+inline void removeItems(QPDFObjectHandle holder, const std::string &key,
+                        const std::set<QPDFObjGen> &objects) {
+    auto members = items(entry(holder, key));
+    if (std::erase_if(members, [&](QPDFObjectHandle member) {
+            return objects.contains(member.getObjGen());
+        }) > 0) {
+        holder.replaceKey(key, QPDFObjectHandle::newArray(members));
+    }
+}
+
 /// Whether a copied object may be a bookmark, a field or a layer: a damaged source may have
 /// anything in their place, pages included.
 inline bool isEntry(QPDFObjectHandle object) {

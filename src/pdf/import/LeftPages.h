@@ -5,9 +5,6 @@
 #include "pdf/DocumentParts.h"
 #include "pdf/import/PageTree.h"
 
-#include <qpdf/QPDFObjGen.hh>
-
-#include <set>
 #include <vector>
 
 class QPDF;
@@ -20,10 +17,5 @@ namespace folioforge {
 /// anything is copied.
 PartCounts removeLeftPages(QPDF &source, const std::vector<SourcePage> &all,
                            const std::vector<SourcePage> &kept);
-
-/// Removes the structure elements that hold nothing but what stands on `pages` or is one of
-/// `objects`, and from the others what is. Gives the number of elements removed.
-std::size_t removeStructureOf(QPDF &source, const std::set<QPDFObjGen> &pages,
-                              const std::set<QPDFObjGen> &objects);
 
 } // namespace folioforge

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "pdf/import/Entries.h"
-#include "pdf/import/LeftPages.h"
+#include "pdf/import/LeftTopics.h"
 
 #include <qpdf/QPDF.hh>
 
