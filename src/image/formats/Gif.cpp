@@ -6,8 +6,7 @@
 #include "image/MorePictures.h"
 #include "image/PictureDamage.h"
 #include "image/formats/ArgbImage.h"
-
-#include <gif_lib.h>
+#include "image/formats/GifFile.h"
 
 #include <algorithm>
 #include <array>
@@ -23,128 +22,6 @@ namespace folioforge {
 namespace {
 
 constexpr Argb kTransparent = 0x00FFFFFF;
-
-/// Of a picture of which nothing is said.
-constexpr GraphicsControlBlock kNoControl{DISPOSAL_UNSPECIFIED, false, 0, NO_TRANSPARENT_COLOR};
-
-/// A GIF file opened with giflib over a view.
-class GifFile {
-  public:
-    explicit GifFile(const FileView &file)
-        : m_state(new State{file, 0, {}, 0})
-        , m_handle(DGifOpen(m_state.get(), read, nullptr)) {
-        if (!m_handle) {
-            fail();
-        }
-    }
-
-    [[nodiscard]] GifFileType *operator->() const { return m_handle.get(); }
-    [[nodiscard]] GifFileType *handle() const { return m_handle.get(); }
-
-    /// Goes to the first picture and gives what is said of it.
-    GraphicsControlBlock goToPicture() const {
-        GraphicsControlBlock control = kNoControl;
-        for (;;) {
-            GifRecordType type = UNDEFINED_RECORD_TYPE;
-            require(DGifGetRecordType(handle(), &type));
-            if (type == IMAGE_DESC_RECORD_TYPE) {
-                require(DGifGetImageDesc(handle()));
-                return control;
-            }
-            if (type == TERMINATE_RECORD_TYPE) {
-                throw Error(u"The file holds no image"_s);
-            }
-            require(readExtension(control) ? GIF_OK : GIF_ERROR);
-        }
-    }
-
-    /// Goes to the picture behind the current one, whose rows have been read; nothing where the
-    /// file ends before one begins.
-    [[nodiscard]] std::optional<GraphicsControlBlock> goToNextPicture() const {
-        GraphicsControlBlock control = kNoControl;
-        GifRecordType type = UNDEFINED_RECORD_TYPE;
-        while (DGifGetRecordType(handle(), &type) == GIF_OK && type != TERMINATE_RECORD_TYPE) {
-            if (type == IMAGE_DESC_RECORD_TYPE) {
-                return DGifGetImageDesc(handle()) == GIF_OK ? std::optional(control) : std::nullopt;
-            }
-            if (!readExtension(control)) {
-                break;
-            }
-        }
-        return std::nullopt;
-    }
-
-    /// The pictures behind the current one, whose rows have been read.
-    [[nodiscard]] qint64 countFurtherPictures() const {
-        qint64 pictures = 0;
-        while (goToNextPicture() && skipRows()) {
-            ++pictures;
-        }
-        return pictures;
-    }
-
-  private:
-    struct State {
-        FileView file;
-        qint64 at = 0;
-        QByteArray ahead; ///< Bytes up to `aheadEnd`: giflib asks for 255 at most.
-        qint64 aheadEnd = 0;
-    };
-    struct Close {
-        void operator()(GifFileType *gif) const { DGifCloseFile(gif, nullptr); }
-    };
-
-    static int read(GifFileType *gif, GifByteType *target, int size) {
-        auto &state = *static_cast<State *>(gif->UserData);
-        try {
-            constexpr qint64 kBytesAhead = 1 << 16;
-            if (state.aheadEnd - state.at < size) {
-                state.ahead = state.file.read(state.at, std::max<qint64>(kBytesAhead, size));
-                state.aheadEnd = state.at + state.ahead.size();
-            }
-            const auto got = std::clamp<qint64>(size, 0, state.aheadEnd - state.at);
-            std::copy_n(state.ahead.cend() - (state.aheadEnd - state.at), got, target);
-            state.at += got;
-            return static_cast<int>(got);
-        } catch (const Error &) {
-            return 0; // No exception may pass through the library.
-        }
-    }
-
-    [[noreturn]] static void fail() { throw Error(u"The GIF file is damaged"_s); }
-    static void require(int result) {
-        if (result != GIF_OK) {
-            fail();
-        }
-    }
-
-    /// False where the extension is not whole.
-    [[nodiscard]] bool readExtension(GraphicsControlBlock &control) const {
-        int kind = 0;
-        GifByteType *block = nullptr;
-        bool isWhole = DGifGetExtension(handle(), &kind, &block) == GIF_OK;
-        while (isWhole && block != nullptr) {
-            if (kind == GRAPHICS_EXT_FUNC_CODE) {
-                DGifExtensionToGCB(block[0], block + 1, &control);
-            }
-            isWhole = DGifGetExtensionNext(handle(), &block) == GIF_OK;
-        }
-        return isWhole;
-    }
-
-    [[nodiscard]] bool skipRows() const {
-        int codeBits = 0;
-        GifByteType *block = nullptr;
-        bool isWhole = DGifGetCode(handle(), &codeBits, &block) == GIF_OK;
-        while (isWhole && block != nullptr) {
-            isWhole = DGifGetCodeNext(handle(), &block) == GIF_OK;
-        }
-        return isWhole;
-    }
-
-    std::unique_ptr<State> m_state; ///< giflib holds its address.
-    std::unique_ptr<GifFileType, Close> m_handle;
-};
 
 /// The colours of a table. Numbers behind its end are transparent, all are black without one.
 std::array<Argb, 256> colorsOf(const ColorMapObject *map, int transparent) {
@@ -290,7 +167,7 @@ class GifPictureReader : public PictureReader {
         const qint64 missing = drawPicture(m_gif, m_control.TransparentColor, m_screen, isFurther);
         m_isCutOff = missing > 0;
         if (missing > 0 && missing == m_gif->Image.Height) {
-            throw Error(u"The GIF file is damaged"_s);
+            GifFile::fail();
         }
         PdfImage image = encodeRaster(rasterOf(m_screen), m_header);
         if (missing > 0) {
@@ -319,7 +196,7 @@ class GifPictureReader : public PictureReader {
     FileView m_file;
     GifFile m_gif;
     ImageHeader m_header;
-    GraphicsControlBlock m_control = kNoControl; ///< Of the picture that was drawn last.
+    GraphicsControlBlock m_control = kNoGifControl; ///< Of the picture that was drawn last.
     ArgbImage m_screen;
     std::vector<Argb> m_before; ///< What stood there before it; empty where that does not return.
     bool m_hasBegun = false;
