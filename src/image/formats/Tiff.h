@@ -141,6 +141,21 @@ void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw)
 std::vector<TiffPlane> readTiffPlanes(const TiffFile &tiff, const TiffShape &shape,
                                       TiffDamage &damage);
 
+/// Where the opacity stands among a pixel's samples, and whether it multiplies the colours.
+struct TiffAlpha {
+    int index = -1;
+    bool associated = false;
+};
+
+/// Brings samples of any depth, of the colours of `raster` and of `alpha`, into 8 bits where the
+/// file has at most 8, and into 16 otherwise.
+void unpackTiffSamples(const std::vector<TiffPlane> &planes, const TiffShape &shape,
+                       const TiffAlpha &alpha, Raster &raster);
+
+/// Reads the pixels by libtiff's own conversion to eight-bit RGB. Throws Error.
+void readTiffAsRgb(const TiffFile &tiff, const TiffShape &shape, Raster &raster,
+                   TiffDamage &damage);
+
 /// Where the directories of a file's pages stand: the first one and those behind it that are no
 /// smaller copies or masks of a page.
 struct TiffPages {
