@@ -5,6 +5,7 @@
 #include "image/PdfImage.h"
 
 #include <QByteArray>
+#include <QtEndian>
 
 #include <optional>
 #include <vector>
@@ -43,6 +44,16 @@ qsizetype rowBytes(int width, int channels, int bits);
 /// Bytes for `height` rows of `stride` bytes, filled with zero; throws std::bad_alloc when
 /// there is no memory for them.
 QByteArray allocateRows(int height, qsizetype stride);
+
+/// Puts the sample `index` of rows as a Raster of 8 or 16 bits has them.
+inline void putSample(QByteArray &samples, qsizetype index, int value, int bits) {
+    auto *bytes = reinterpret_cast<uchar *>(samples.data());
+    if (bits == 16) {
+        qToBigEndian(static_cast<quint16>(value), bytes + 2 * index);
+    } else {
+        bytes[index] = static_cast<uchar>(value);
+    }
+}
 
 /// Throws Error where `compressed` bytes cannot hold `raw` bytes even at `ratio` to one: the file
 /// is damaged, or made to exhaust the machine.

@@ -7,8 +7,6 @@
 #include "image/PictureDamage.h"
 #include "image/formats/OpenJpeg.h"
 
-#include <QtEndian>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -88,15 +86,6 @@ class Component {
     int m_height;
 };
 
-void store(QByteArray &samples, qsizetype index, int value, int bits) {
-    auto *bytes = reinterpret_cast<uchar *>(samples.data());
-    if (bits == 16) {
-        qToBigEndian(static_cast<quint16>(value), bytes + 2 * index);
-    } else {
-        bytes[index] = static_cast<uchar>(value);
-    }
-}
-
 /// sYCC (IEC 61966-2-1, annex F) to RGB.
 void convertFromYcc(std::array<int, 4> &pixel, int maxValue) {
     const int middle = (maxValue + 1) / 2;
@@ -160,11 +149,11 @@ void fillPixels(Raster &raster, const std::vector<Component> &sources, bool isYc
                 convertFromYcc(values, (1 << raster.bits) - 1);
             }
             for (size_t c = 0; c < count; ++c) {
-                store(raster.samples, pixel * qsizetype(count) + qsizetype(c), values[c],
-                      raster.bits);
+                putSample(raster.samples, pixel * qsizetype(count) + qsizetype(c), values[c],
+                          raster.bits);
             }
             if (raster.alpha) {
-                store(raster.alpha->samples, pixel, sources.back().at(x, y), raster.bits);
+                putSample(raster.alpha->samples, pixel, sources.back().at(x, y), raster.bits);
             }
         }
     }

@@ -84,15 +84,6 @@ class SampleReader {
     bool m_isSigned;
 };
 
-void store(QByteArray &samples, qsizetype index, int value, int bits) {
-    auto *bytes = reinterpret_cast<uchar *>(samples.data());
-    if (bits == 16) {
-        qToBigEndian(static_cast<quint16>(value), bytes + 2 * index);
-    } else {
-        bytes[index] = static_cast<uchar>(value);
-    }
-}
-
 } // namespace
 
 void unpackTiffSamples(const std::vector<TiffPlane> &planes, const TiffShape &shape,
@@ -109,10 +100,11 @@ void unpackTiffSamples(const std::vector<TiffPlane> &planes, const TiffShape &sh
     for (int y = 0; y < raster.height; ++y) {
         for (int x = 0; x < raster.width; ++x, ++pixel) {
             for (int c = 0; c < colors; ++c) {
-                store(raster.samples, pixel * colors + c, reader.sample(x, y, c), raster.bits);
+                putSample(raster.samples, pixel * colors + c, reader.sample(x, y, c), raster.bits);
             }
             if (alpha.index >= 0) {
-                store(raster.alpha->samples, pixel, reader.sample(x, y, alpha.index), raster.bits);
+                putSample(raster.alpha->samples, pixel, reader.sample(x, y, alpha.index),
+                          raster.bits);
             }
         }
     }
