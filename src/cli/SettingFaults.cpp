@@ -35,48 +35,30 @@ QString roomFault(QLatin1StringView option, QLatin1StringView sides, qint64 poin
         .arg(length);
 }
 
-QString fullWidth(QLatin1StringView option, const PageMargins &margins, QSizeF page) {
-    return roomFault(option, "left and right"_L1, margins.left + margins.right, "wide"_L1,
-                     page.width());
-}
-
-QString fullHeight(QLatin1StringView option, const PageMargins &margins, QSizeF page) {
-    return roomFault(option, "above and below"_L1, margins.top + margins.bottom, "high"_L1,
-                     page.height());
-}
-
-/// What `found` says to users of the window, in the words of the options.
-QString inWordsOfOptions(const Notice &found, const Arguments &arguments) {
-    const ConversionOptions &options = arguments.options;
-    const PageMargins &text = options.textPage.margins;
-    const PageMargins &image = options.imagePage.margins;
-    const auto ofText = "--text-margins"_L1;
-    const auto ofImage = "--image-margins"_L1;
+/// What `found` says of margins to users of the window, in the words of their option.
+QString inWordsOf(QLatin1StringView option, const Notice &found, const PageMargins &margins,
+                  QSizeF page) {
     switch (found.setting) {
     case Setting::TextTop:
-        return marginFault(ofText, "top"_L1, text.top);
-    case Setting::TextLeft:
-        return marginFault(ofText, "left"_L1, text.left);
-    case Setting::TextBottom:
-        return marginFault(ofText, "bottom"_L1, text.bottom);
-    case Setting::TextRight:
-        return marginFault(ofText, "right"_L1, text.right);
-    case Setting::TextWidth:
-        return fullWidth(ofText, text, getTextPageSize(options.textPage));
-    case Setting::TextHeight:
-        return fullHeight(ofText, text, getTextPageSize(options.textPage));
     case Setting::ImageTop:
-        return marginFault(ofImage, "top"_L1, image.top);
+        return marginFault(option, "top"_L1, margins.top);
+    case Setting::TextLeft:
     case Setting::ImageLeft:
-        return marginFault(ofImage, "left"_L1, image.left);
+        return marginFault(option, "left"_L1, margins.left);
+    case Setting::TextBottom:
     case Setting::ImageBottom:
-        return marginFault(ofImage, "bottom"_L1, image.bottom);
+        return marginFault(option, "bottom"_L1, margins.bottom);
+    case Setting::TextRight:
     case Setting::ImageRight:
-        return marginFault(ofImage, "right"_L1, image.right);
+        return marginFault(option, "right"_L1, margins.right);
+    case Setting::TextWidth:
     case Setting::ImageWidth:
-        return fullWidth(ofImage, image, getImagePageSize(options.imagePage));
+        return roomFault(option, "left and right"_L1, margins.left + margins.right, "wide"_L1,
+                         page.width());
+    case Setting::TextHeight:
     case Setting::ImageHeight:
-        return fullHeight(ofImage, image, getImagePageSize(options.imagePage));
+        return roomFault(option, "above and below"_L1, margins.top + margins.bottom, "high"_L1,
+                         page.height());
     case Setting::UserPassword:
     case Setting::OwnerPassword:
     case Setting::OutputFolder:
@@ -107,6 +89,24 @@ QString quoted(const QString &path) {
     return u'"' + path + u'"';
 }
 
+void requireParent(const QString &folder, const QString &option) {
+    const QString parent = QFileInfo(folder.endsWith(u'/') ? folder.chopped(1) : folder).path();
+    if (!QFileInfo::exists(parent)) {
+        throw ArgumentFault(option + u"%1 is not made, as the folder for it, %2, is missing"_s.arg(
+                                         quoted(folder), quoted(parent)));
+    }
+}
+
+/// What stands there already is looked at by others.
+void makeFolder(const QString &folder, const QString &option) {
+    ::mkdir(QFile::encodeName(folder).constData(), S_IRWXU | S_IRWXG | S_IRWXO);
+    const int reason = errno;
+    if (!QFileInfo::exists(folder)) {
+        throw ArgumentFault(option +
+                            systemError(u"Cannot make %1"_s.arg(quoted(folder)), reason).reason());
+    }
+}
+
 } // namespace
 
 std::optional<QString> settingsFault(const Arguments &arguments) {
@@ -114,12 +114,13 @@ std::optional<QString> settingsFault(const Arguments &arguments) {
     if (auto fault = passwordFault(options.security)) {
         return fault;
     }
-    auto found = checkTextPageSizeSettings(options.textPage);
-    if (!found) {
-        found = checkImagePageSizeSettings(options.imagePage);
+    const PageSetup &text = options.textPage;
+    const PageSetup &image = options.imagePage;
+    if (const auto found = checkTextPageSizeSettings(text)) {
+        return inWordsOf("--text-margins"_L1, *found, text.margins, getTextPageSize(text));
     }
-    if (found) {
-        return inWordsOfOptions(*found, arguments);
+    if (const auto found = checkImagePageSizeSettings(image)) {
+        return inWordsOf("--image-margins"_L1, *found, image.margins, getImagePageSize(image));
     }
     const bool refused = options.overwrite == Overwrite::Never && checkMergedFile(options);
     return refused ? std::optional(nameTakenFault(options)) : std::nullopt;
@@ -132,31 +133,22 @@ QString nameTakenFault(const ConversionOptions &options) {
 
 void prepareOutputFolder(const ConversionOptions &options) {
     const QString &folder = options.outputFolder;
-    const QByteArray name = QFile::encodeName(folder);
     const QString option = options.merge ? u"--merge: "_s : u"--output-folder: "_s;
-    const QString parent = QFileInfo(folder.endsWith(u'/') ? folder.chopped(1) : folder).path();
-    if (!options.merge && !QFileInfo::exists(parent)) {
-        throw ArgumentFault(option + u"%1 is not made, as the folder for it, %2, is missing"_s.arg(
-                                         quoted(folder), quoted(parent)));
-    }
-    if (options.dryRun && !options.merge && !QFileInfo::exists(folder)) {
-        return;
-    }
     if (!options.merge) {
-        ::mkdir(name.constData(), S_IRWXU | S_IRWXG | S_IRWXO); // What it is then, is looked at.
+        requireParent(folder, option);
+        if (options.dryRun && !QFileInfo::exists(folder)) {
+            return;
+        }
+        makeFolder(folder, option);
     }
-    const int reason = errno;
     const QFileInfo info(folder);
     if (!info.exists()) {
-        const QString fault =
-            options.merge ? u"There is no folder %1"_s.arg(quoted(folder))
-                          : systemError(u"Cannot make %1"_s.arg(quoted(folder)), reason).reason();
-        throw ArgumentFault(option + fault);
+        throw ArgumentFault(option + u"There is no folder %1"_s.arg(quoted(folder)));
     }
     if (!info.isDir()) {
         throw ArgumentFault(option + quoted(folder) + u" is not a folder"_s);
     }
-    if (::access(name.constData(), W_OK | X_OK) != 0) {
+    if (::access(QFile::encodeName(folder).constData(), W_OK | X_OK) != 0) {
         throw ArgumentFault(option +
                             systemError(u"Cannot write into %1"_s.arg(quoted(folder))).reason());
     }
