@@ -8,14 +8,14 @@
 #include "cli/PipedInputs.h"
 #include "cli/Process.h"
 #include "cli/ProgressLine.h"
-#include "cli/Report.h"
+#include "cli/ResultTeller.h"
 #include "cli/StandardOutput.h"
 #include "cli/TextOptions.h"
 #include "convert/Bundle.h"
 #include "convert/Run.h"
 #include "error/Error.h"
-#include "files/Printable.h"
 #include "files/TemporaryFolder.h"
+
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
@@ -26,66 +26,40 @@ class Call : private RunObserver {
   public:
     Call(const Arguments &arguments, Console &console, TemporaryFolder &temporaryFolder)
         : m_arguments(arguments)
-        , m_console(console)
         , m_temporaryFolder(temporaryFolder)
+        , m_teller(arguments, console)
         , m_progress(console, arguments.quiet ? ProgressMode::Never : arguments.progress, m_names) {
     }
 
     ExitStatus convertAll() {
-        if (m_arguments.json) {
-            m_console.result(reportHead());
-        }
         std::vector<Input> inputs = collect();
         if (!inputs.empty()) {
             convert(std::move(inputs));
-        } else if (m_status == AllConverted) {
-            m_console.complain(u"There is no file to convert"_s);
-            fail();
+        } else if (m_teller.status() == AllConverted) {
+            m_teller.fail(u"There is no file to convert"_s);
         }
-        writeLinesBefore(m_names.size() + 1);
-        if (!m_console.finishResults()) {
-            fail();
-        }
-        return m_status;
+        m_teller.finish();
+        return m_teller.status();
     }
 
   private:
-    void fail() { m_status = std::max(m_status, SomeFailed); }
-
     /// The inputs that can be converted; of the others is told.
     std::vector<Input> collect() {
         std::vector<Input> accepted;
         for (Input &input : collectInputs(m_arguments, m_readableLinks, m_pipes)) {
             const std::size_t place = m_arguments.sort ? 0 : accepted.size();
             if (!input.leftOut.empty()) {
-                setAside(place, InputResult::listed(input.shown, input.leftOut));
+                m_teller.setAside(place, InputResult::listed(input.shown, input.leftOut));
             } else if (input.read.problem.isEmpty()) {
                 accepted.push_back(std::move(input));
             } else {
-                setAside(place, InputResult::rejected(input.shown, input.read.problem));
+                m_teller.setAside(place, InputResult::rejected(input.shown, input.read.problem));
             }
         }
         if (m_arguments.sort) {
             sortInputs(accepted, *m_arguments.sort);
         }
         return accepted;
-    }
-
-    /// Tells of an input that is none at once, and in the report in its place: before the entry
-    /// `place`.
-    void setAside(std::size_t place, const InputResult &result) {
-        tell(result);
-        if (m_arguments.json) {
-            m_aside.emplace_back(place, toJson(result));
-        }
-    }
-
-    /// Writes what was set aside and stands before the entry `end` or those before it.
-    void writeLinesBefore(std::size_t end) {
-        for (; m_asideWritten < m_aside.size() && m_aside[m_asideWritten].first < end;
-             ++m_asideWritten) {
-            m_console.result(m_aside[m_asideWritten].second);
-        }
     }
 
     void convert(std::vector<Input> inputs) {
@@ -109,10 +83,10 @@ class Call : private RunObserver {
     /// Names the inputs whose turn did not come.
     void reportOutOfTime() {
         const QString reason = u"The limit of processor time is reached"_s;
-        m_console.complain(reason);
-        fail();
+        m_teller.fail(reason);
         for (; m_reported < m_names.size(); ++m_reported) {
-            report(m_reported, InputResult::failed(m_names[m_reported], reason));
+            m_teller.report(m_reported, m_files[m_reported],
+                            InputResult::failed(m_names[m_reported], reason));
         }
     }
 
@@ -121,48 +95,10 @@ class Call : private RunObserver {
     void entryDone(std::size_t index, bool /*written*/) override { m_progress.entryDone(index); }
 
     void pdfDone(const RunResult &result) override {
-        const CloseResult &close = result.outcome.close;
-        const auto &compression = result.compression;
-        if (compression && !compression->error.isEmpty()) {
-            fail();
-            m_console.complain(
-                u"%1: not compressed: %2"_s.arg(printable(close.path), compression->error));
-        }
-        if (result.outcome.isWritten()) {
-            handOver(result);
-        }
+        m_teller.tellOfPDF(result);
         reportEntries(result);
-        if (close.status == CloseResult::Status::NameTaken) {
-            m_console.complain(nameTakenFault(m_arguments.options));
-            m_status = WrongUsage;
-        }
-    }
-
-    /// Names the PDF on standard output, or writes it there.
-    void handOver(const RunResult &result) {
-        const QString &path = result.outcome.close.path;
-        const auto &compression = result.compression;
-        const QString savings =
-            compression && compression->error.isEmpty() ? toWords(*compression) : QString();
-        if (m_arguments.toStandardOutput) {
-            if (!savings.isEmpty() && !m_arguments.quiet) {
-                m_console.complain(savings);
-            }
-            writeOut(path);
-        } else if (!m_arguments.quiet && !m_arguments.json) {
-            m_console.result(printable(path).toUtf8());
-            if (!savings.isEmpty()) {
-                m_console.result("  " + printable(savings).toUtf8());
-            }
-        }
-    }
-
-    void writeOut(const QString &path) {
-        try {
-            moveToStandardOutput(path);
-        } catch (const Error &error) {
-            m_console.complain(error.reason());
-            fail();
+        if (result.outcome.close.status == CloseResult::Status::NameTaken) {
+            m_teller.fail(nameTakenFault(m_arguments.options), WrongUsage);
         }
     }
 
@@ -175,47 +111,19 @@ class Call : private RunObserver {
             m_reported = index + 1;
             InputResult own = InputResult::of(m_names[index], result, i);
             own.target = own.output.isEmpty() ? std::nullopt : target;
-            report(index, std::move(own));
-        }
-    }
-
-    /// Tells of the entry `index` of the run.
-    void report(std::size_t index, InputResult result) {
-        tell(result);
-        if (m_arguments.json) {
-            result.source = digestOf(m_files[index]);
-            writeLinesBefore(index + 1);
-            m_console.result(toJson(result));
-        } else if (result.state == InputResult::State::Planned && !m_arguments.quiet) {
-            m_console.result("  " + printable(result.plan()).toUtf8());
-        }
-    }
-
-    /// What standard error and the exit status say of it.
-    void tell(const InputResult &result) {
-        using State = InputResult::State;
-        if (result.state == State::Failed || result.state == State::Rejected ||
-            (m_arguments.strict && !result.warnings.empty())) {
-            fail();
-        }
-        for (const QString &message : toMessages(result)) {
-            m_console.complain(message);
+            m_teller.report(index, m_files[index], std::move(own));
         }
     }
 
     const Arguments &m_arguments;
-    Console &m_console;
     TemporaryFolder &m_temporaryFolder;
+    ResultTeller m_teller;
     std::vector<QString> m_names; ///< Of the inputs, as they were given.
     std::vector<QString> m_files; ///< Where they are.
-    /// Lines of the report about inputs that are none, each with the entry that it stands before.
-    std::vector<std::pair<std::size_t, QByteArray>> m_aside;
-    std::size_t m_asideWritten = 0;
-    std::size_t m_reported = 0; ///< How many entries are.
+    std::size_t m_reported = 0;   ///< How many entries are.
     ProgressLine m_progress;
     ReadableLinks m_readableLinks{m_temporaryFolder}; ///< Outlives the inputs that lead through it.
     PipedInputs m_pipes{m_arguments.inputType, m_readableLinks};
-    ExitStatus m_status = AllConverted;
 };
 
 } // namespace

@@ -12,9 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 #include <map>
-#include <numeric>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -109,12 +107,6 @@ QString pagesInWords(std::vector<int> pages) {
     return (pages.size() == 1 ? u"page "_s : u"pages "_s) + numbers.join(u", "_s);
 }
 
-int pagesBefore(const PDFOutcome &outcome, std::size_t entry) {
-    const auto first = outcome.entries.begin();
-    return std::accumulate(first, first + static_cast<std::ptrdiff_t>(entry), 0,
-                           [](int sum, const EntryOutcome &one) { return sum + one.pages; });
-}
-
 /// Adds the size and the checksum of a file under these keys.
 void addTo(QJsonObject &object, const std::optional<FileDigest> &digest, const QString &bytes,
            const QString &sha256) {
@@ -134,77 +126,7 @@ QByteArray toLine(const QJsonObject &object) {
     return escaped(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }
 
-QString reasonOf(const CloseResult &close) {
-    return close.status == CloseResult::Status::NameTaken
-               ? u"The name of its PDF was taken meanwhile"_s
-               : close.reason;
-}
-
 } // namespace
-
-InputResult InputResult::rejected(const QString &input, const QString &reason) {
-    InputResult rejected = failed(input, reason);
-    rejected.state = State::Rejected;
-    return rejected;
-}
-
-InputResult InputResult::failed(const QString &input, const QString &reason) {
-    InputResult failed;
-    failed.input = input;
-    failed.state = State::Failed;
-    failed.reason = reason;
-    return failed;
-}
-
-InputResult InputResult::listed(const QString &folder, const Warnings &leftOut) {
-    InputResult listed;
-    listed.input = folder;
-    listed.state = State::Listed;
-    listed.warnings = leftOut;
-    return listed;
-}
-
-InputResult InputResult::of(const QString &input, const RunResult &result, std::size_t index) {
-    const EntryOutcome &entry = result.outcome.entries.at(index);
-    const CloseResult &close = result.outcome.close;
-    InputResult own;
-    own.input = input;
-    own.reason = entry.reason;
-    own.warnings = entry.warnings;
-    if (entry.written && close.status == CloseResult::Status::Written) {
-        own.output = close.path;
-        own.pages = entry.pages;
-        own.firstPage = entry.pages > 0 ? 1 + pagesBefore(result.outcome, index) : 0;
-        own.seconds = entry.seconds;
-        own.outputSeconds = result.seconds;
-        own.pageSize = entry.pageSize;
-        own.state = entry.pageSize.isValid() ? State::Planned : State::Finished;
-        own.embedded = entry.embeddedAs;
-        own.parts = entry.parts;
-        own.compression = result.compression;
-        return own;
-    }
-    if (result.kept) {
-        own.output = result.path;
-        own.state = State::Kept;
-        return own;
-    }
-    own.state = State::Failed;
-    if (entry.written) {
-        own.reason = reasonOf(close);
-    }
-    return own;
-}
-
-QString InputResult::plan() const {
-    if (pages == 0) {
-        return input + u": no page"_s;
-    }
-    return u"%1: %2 of %3 x %4 points"_s
-        .arg(input, pages == 1 ? u"1 page"_s : u"%1 pages, the first"_s.arg(pages))
-        .arg(pageSize.width())
-        .arg(pageSize.height());
-}
 
 QByteArray reportHead() {
     QJsonObject libraries;
@@ -263,17 +185,6 @@ QString toWords(const CompressionOutcome &compression) {
         words += u", left: %1 (%2; %3)"_s.arg(pages.size()).arg(reason, pagesInWords(pages));
     }
     return words;
-}
-
-QStringList toMessages(const InputResult &result) {
-    QStringList messages;
-    if (!result.reason.isEmpty()) {
-        messages += result.input + u": "_s + result.reason;
-    }
-    for (const Warning &warning : result.warnings) {
-        messages += result.input + u": warning: "_s + warning.text;
-    }
-    return messages;
 }
 
 } // namespace folioforge

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "cli/InputResult.h"
+
+#include <iterator>
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+namespace {
+
+int pagesBefore(const PDFOutcome &outcome, std::size_t entry) {
+    const auto first = outcome.entries.begin();
+    return std::accumulate(first, first + static_cast<std::ptrdiff_t>(entry), 0,
+                           [](int sum, const EntryOutcome &one) { return sum + one.pages; });
+}
+
+QString reasonOf(const CloseResult &close) {
+    return close.status == CloseResult::Status::NameTaken
+               ? u"The name of its PDF was taken meanwhile"_s
+               : close.reason;
+}
+
+} // namespace
+
+InputResult InputResult::rejected(const QString &input, const QString &reason) {
+    InputResult rejected = failed(input, reason);
+    rejected.state = State::Rejected;
+    return rejected;
+}
+
+InputResult InputResult::failed(const QString &input, const QString &reason) {
+    InputResult failed;
+    failed.input = input;
+    failed.state = State::Failed;
+    failed.reason = reason;
+    return failed;
+}
+
+InputResult InputResult::listed(const QString &folder, const Warnings &leftOut) {
+    InputResult listed;
+    listed.input = folder;
+    listed.state = State::Listed;
+    listed.warnings = leftOut;
+    return listed;
+}
+
+InputResult InputResult::of(const QString &input, const RunResult &result, std::size_t index) {
+    const EntryOutcome &entry = result.outcome.entries.at(index);
+    const CloseResult &close = result.outcome.close;
+    InputResult own;
+    own.input = input;
+    own.reason = entry.reason;
+    own.warnings = entry.warnings;
+    if (entry.written && close.status == CloseResult::Status::Written) {
+        own.output = close.path;
+        own.pages = entry.pages;
+        own.firstPage = entry.pages > 0 ? 1 + pagesBefore(result.outcome, index) : 0;
+        own.seconds = entry.seconds;
+        own.outputSeconds = result.seconds;
+        own.pageSize = entry.pageSize;
+        own.state = entry.pageSize.isValid() ? State::Planned : State::Finished;
+        own.embedded = entry.embeddedAs;
+        own.parts = entry.parts;
+        own.compression = result.compression;
+        return own;
+    }
+    if (result.kept) {
+        own.output = result.path;
+        own.state = State::Kept;
+        return own;
+    }
+    own.state = State::Failed;
+    if (entry.written) {
+        own.reason = reasonOf(close);
+    }
+    return own;
+}
+
+QString InputResult::plan() const {
+    if (pages == 0) {
+        return input + u": no page"_s;
+    }
+    return u"%1: %2 of %3 x %4 points"_s
+        .arg(input, pages == 1 ? u"1 page"_s : u"%1 pages, the first"_s.arg(pages))
+        .arg(pageSize.width())
+        .arg(pageSize.height());
+}
+
+QStringList toMessages(const InputResult &result) {
+    QStringList messages;
+    if (!result.reason.isEmpty()) {
+        messages += result.input + u": "_s + result.reason;
+    }
+    for (const Warning &warning : result.warnings) {
+        messages += result.input + u": warning: "_s + warning.text;
+    }
+    return messages;
+}
+
+} // namespace folioforge
