@@ -92,18 +92,22 @@ std::optional<Notice> checkMergedFile(const ConversionOptions &options) {
     return std::nullopt;
 }
 
+std::vector<Notice> faultsOf(const ConversionOptions &options) {
+    std::vector<Notice> faults;
+    for (const auto &found :
+         {checkOutputFolder(options.outputFolder), checkSecuritySettings(options.security),
+          checkTextPageSizeSettings(options.textPage),
+          checkImagePageSizeSettings(options.imagePage), checkMergedFile(options)}) {
+        if (found) {
+            faults.push_back(*found);
+        }
+    }
+    return faults;
+}
+
 std::optional<Notice> checkConversion(const ConversionOptions &options) {
-    auto found = checkOutputFolder(options.outputFolder);
-    if (!found) {
-        found = checkSecuritySettings(options.security);
-    }
-    if (!found) {
-        found = checkTextPageSizeSettings(options.textPage);
-    }
-    if (!found) {
-        found = checkImagePageSizeSettings(options.imagePage);
-    }
-    return found ? found : checkMergedFile(options);
+    const auto faults = faultsOf(options);
+    return faults.empty() ? std::nullopt : std::optional(faults.front());
 }
 
 Notice folderNotWritableNotice() {

@@ -6,6 +6,7 @@
 #include "error/Notice.h"
 
 #include <optional>
+#include <vector>
 
 namespace folioforge {
 
@@ -20,8 +21,11 @@ std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings);
 /// The name of the merged file: entered, no folder's and free. Single mode asks for none.
 std::optional<Notice> checkMergedFile(const ConversionOptions &options);
 
-/// The checks of a run in their order: output folder, security, text pages, image pages and the
-/// merged file.
+/// What the checks of a run find, in their order: output folder, security, text pages, image pages
+/// and the merged file.
+std::vector<Notice> faultsOf(const ConversionOptions &options);
+
+/// The first of them.
 std::optional<Notice> checkConversion(const ConversionOptions &options);
 
 /// The notice that a folder chosen for output cannot be written to. It speaks of no setting: the

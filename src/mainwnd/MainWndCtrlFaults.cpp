@@ -8,7 +8,6 @@
 #include "mainwnd/OptionsSlide.h"
 
 #include <algorithm>
-#include <array>
 
 namespace folioforge {
 
@@ -69,15 +68,9 @@ QLineEdit *MainWndCtrl::fieldOf(Setting setting) const {
 
 /// Whether one of the checks still speaks of `field`.
 bool MainWndCtrl::hasFault(const QLineEdit &field) const {
-    const ConversionOptions options = conversionOptions();
-    const std::array problems{checkOutputFolder(options.outputFolder),
-                              folioforge::checkSecuritySettings(options.security),
-                              folioforge::checkTextPageSizeSettings(options.textPage),
-                              folioforge::checkImagePageSizeSettings(options.imagePage),
-                              checkMergedFile(options)};
-    return std::ranges::any_of(problems, [&](const std::optional<Notice> &problem) {
-        return problem && fieldOf(problem->setting) == &field;
-    });
+    const auto faults = faultsOf(conversionOptions());
+    return std::ranges::any_of(
+        faults, [&](const Notice &fault) { return fieldOf(fault.setting) == &field; });
 }
 
 /// What is wrong with a field may be mended in another one, as margins that leave no room.
