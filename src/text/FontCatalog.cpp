@@ -204,6 +204,9 @@ std::vector<CatalogFont> findTextFonts(const QStringList &families) {
 }
 
 QStringList missingFamilies(const QStringList &families) {
+    if (families.isEmpty()) {
+        return {};
+    }
     QStringList missing = families;
     const Config config(FcInitLoadConfigAndFonts());
     const FcFontSet *fonts = config ? FcConfigGetFonts(config.get(), FcSetSystem) : nullptr;
