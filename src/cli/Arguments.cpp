@@ -32,6 +32,7 @@ class ArgumentReader {
             }
         }
         completeOutput();
+        requireUse();
         return std::move(m_result);
     }
 
@@ -87,6 +88,11 @@ class ArgumentReader {
         if (!m_folderGiven && options.outputFolder.isEmpty()) {
             options.outputFolder = u"."_s;
         }
+    }
+
+    /// Throws ArgumentFault where options do not go together, or have nothing to do.
+    void requireUse() const {
+        const ConversionOptions &options = m_result.options;
         if (m_result.toStandardOutput && m_result.json) {
             throw ArgumentFault(
                 u"--json and \"--merge -\" would both write to standard output; merge into a file"_s);
@@ -94,9 +100,7 @@ class ArgumentReader {
         if (m_result.toStandardOutput && options.dryRun) {
             throw ArgumentFault(u"--dry-run writes no PDF to standard output; merge into a file"_s);
         }
-        const bool namesFiles =
-            options.bookmarks == Bookmarks::Files || options.bookmarks == Bookmarks::Both;
-        if (m_result.bookmarkTitleFile && !namesFiles) {
+        if (m_result.bookmarkTitleFile && !hasThoseOfFiles(options.bookmarks)) {
             throw ArgumentFault(u"--bookmark-titles needs --bookmarks files or both"_s);
         }
         if (m_result.listsEndInNull && m_result.nameLists.empty()) {

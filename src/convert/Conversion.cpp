@@ -200,19 +200,16 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                               .encryption = encryptionFor(options.security),
                               .oneSource = entries.size() == 1,
                               .keepInfo = options.keepInfo,
-                              .sourceBookmarks = options.bookmarks == Bookmarks::Sources ||
-                                                 options.bookmarks == Bookmarks::Both,
+                              .sourceBookmarks = hasThoseOfSources(options.bookmarks),
                               .inputPasswords = options.inputPasswords,
                               .flush = options.flush,
                               .mayReplace = options.overwrite != Overwrite::Never,
                               .calls = calls});
-    const bool namesFiles =
-        options.bookmarks == Bookmarks::Files || options.bookmarks == Bookmarks::Both;
     PDFOutcome outcome;
     for (std::size_t i = 0; i < entries.size() && !stop.stop_requested(); ++i) {
         const int firstPage = context.pageCount();
         outcome.entries.push_back(writeEntry(*entries[i], context, options, stop));
-        if (namesFiles && context.pageCount() > firstPage) {
+        if (hasThoseOfFiles(options.bookmarks) && context.pageCount() > firstPage) {
             context.addBookmark(entries[i]->bookmarkTitle(), firstPage);
         }
         if (observer) {

@@ -42,6 +42,14 @@ enum class Bookmarks {
     None
 };
 
+/// Whether a PDF has the bookmarks of its sources, and one for each file.
+inline bool hasThoseOfSources(Bookmarks bookmarks) {
+    return bookmarks == Bookmarks::Sources || bookmarks == Bookmarks::Both;
+}
+inline bool hasThoseOfFiles(Bookmarks bookmarks) {
+    return bookmarks == Bookmarks::Files || bookmarks == Bookmarks::Both;
+}
+
 /// Everything one run reads from the options panel or the arguments, copied when the run starts.
 struct ConversionOptions {
     QString outputFolder;

@@ -33,6 +33,12 @@ QString singleFilePath(const QString &folder, const QString &fileName,
     return path;
 }
 
+QString outputPath(const ConversionOptions &options, const QString &fileName,
+                   const std::function<bool(const QString &)> &isTaken) {
+    return options.merge ? mergedFilePath(options)
+                         : singleFilePath(options.outputFolder, fileName, isTaken);
+}
+
 bool isNameOfFolder(const QString &name) {
     return name == u"." || name == u"..";
 }

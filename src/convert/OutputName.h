@@ -16,6 +16,10 @@ QString mergedFilePath(const ConversionOptions &options);
 /// Whether `path` exists, also as a link to nothing.
 bool isNameTaken(const QString &path);
 
+/// Path of the PDF of `fileName`, or of the merged file where the options ask for one.
+QString outputPath(const ConversionOptions &options, const QString &fileName,
+                   const std::function<bool(const QString &)> &isTaken = isNameTaken);
+
 /// The first free path for the PDF of `fileName` in `folder`: name.pdf, name(1).pdf, ... A name
 /// too long for the file system loses characters before the number. `isTaken` says what is not
 /// free.

@@ -47,7 +47,8 @@ OutputPlan::OutputPlan(std::span<const PDFFileInfo> entries, const ConversionOpt
 }
 
 PlannedOutput OutputPlan::next(std::span<const PDFFileInfo> entries) {
-    PlannedOutput output{pathFor(entries.front().fileName())};
+    PlannedOutput output{outputPath(m_options, entries.front().fileName(),
+                                    [this](const QString &path) { return isTaken(path); })};
     m_given.insert(output.path);
     const auto old = m_options.overwrite == Overwrite::Never ? std::nullopt : statusOf(output.path);
     if (!old) {
@@ -63,12 +64,6 @@ PlannedOutput OutputPlan::next(std::span<const PDFFileInfo> entries) {
         output.action = PlannedOutput::Action::Keep;
     }
     return output;
-}
-
-QString OutputPlan::pathFor(const QString &fileName) const {
-    return m_options.merge ? mergedFilePath(m_options)
-                           : singleFilePath(m_options.outputFolder, fileName,
-                                            [this](const QString &path) { return isTaken(path); });
 }
 
 bool OutputPlan::isTaken(const QString &path) const {

@@ -39,7 +39,6 @@ class OutputPlan {
   private:
     using FileKey = std::pair<quint64, quint64>; ///< Device and file.
 
-    [[nodiscard]] QString pathFor(const QString &fileName) const;
     [[nodiscard]] bool isTaken(const QString &path) const;
 
     const ConversionOptions &m_options;

@@ -86,9 +86,7 @@ EntryRange Run::entriesOf(std::size_t firstEntry) const {
 }
 
 QString Run::pathFor(std::size_t firstEntry) const {
-    return m_options.merge
-               ? mergedFilePath(m_options)
-               : singleFilePath(m_options.outputFolder, m_entries.at(firstEntry).fileName());
+    return outputPath(m_options, m_entries.at(firstEntry).fileName());
 }
 
 PDFOutcome Run::createPDF(std::size_t firstEntry, const QString &path,
