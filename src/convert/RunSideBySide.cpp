@@ -4,6 +4,7 @@
 #include "convert/Run.h"
 #include "files/TemporaryFolder.h"
 
+#include <algorithm>
 #include <atomic>
 #include <condition_variable>
 #include <exception>
@@ -34,11 +35,13 @@ class OrderedResults {
         , m_stop(std::move(stop))
         , m_results(count) {}
 
-    /// Calls `take` on this thread for each result; throws what making one threw.
-    void forEach(int threads, const std::function<void(RunResult)> &take) {
+    /// Calls `take` on this thread for each result, of which so many are made at once; throws what
+    /// making one threw.
+    void forEach(int jobs, const std::function<void(RunResult)> &take) {
+        const std::size_t threads = std::min(static_cast<std::size_t>(jobs), m_results.size());
         std::vector<std::jthread> workers;
         try {
-            while (static_cast<int>(workers.size()) < threads) {
+            while (workers.size() < threads) {
                 enter();
                 workers.emplace_back([this] { work(); });
             }
