@@ -84,20 +84,20 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
 WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
                            const ConversionOptions &options) {
     const auto metadata = options.stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep;
-    if (!options.allPictures) {
-        PdfImage image = toPdfImage(entry.filePathName(), options.calls, metadata);
-        WrittenImage written{image.embeddedAs, std::move(image.warnings)};
-        drawOnPage(std::move(image), context, options);
-        return written;
-    }
     WrittenImage written{EmbeddedAs::OwnBytes, {}};
-    written.warnings =
-        forEachPicture(entry.filePathName(), options.calls, metadata, [&](PdfImage image) {
-            if (image.embeddedAs != EmbeddedAs::OwnBytes) {
-                written.embeddedAs = image.embeddedAs;
-            }
-            drawOnPage(std::move(image), context, options);
-        });
+    const auto draw = [&](PdfImage image) {
+        if (image.embeddedAs != EmbeddedAs::OwnBytes) {
+            written.embeddedAs = image.embeddedAs;
+        }
+        drawOnPage(std::move(image), context, options);
+    };
+    if (options.allPictures) {
+        written.warnings = forEachPicture(entry.filePathName(), options.calls, metadata, draw);
+    } else {
+        PdfImage image = toPdfImage(entry.filePathName(), options.calls, metadata);
+        written.warnings = std::exchange(image.warnings, {});
+        draw(std::move(image));
+    }
     return written;
 }
 
