@@ -8,7 +8,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <cstdio>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -16,26 +15,18 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-QByteArray contentsOf(const QByteArray &name) {
-    QFile file(QFile::decodeName(name));
-    if (name != "-" && QFileInfo(file).isDir()) {
+QByteArray contentsOfList(const QByteArray &name) {
+    if (name != "-" && QFileInfo(QFile::decodeName(name)).isDir()) {
         throw ArgumentFault(
             u"--files-from: \"%1\" is a folder, not a list of names; a folder is an input itself"_s
                 .arg(QString::fromUtf8(name)));
     }
-    const bool isOpen =
-        name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    QByteArray contents = isOpen ? file.readAll() : QByteArray();
-    if (file.error() != QFileDevice::NoError) {
-        throw ArgumentFault(u"--files-from: \"%1\" cannot be read: %2"_s.arg(
-            QString::fromUtf8(name), file.errorString()));
-    }
-    return contents;
+    return contentsOf(name, "--files-from"_L1);
 }
 
 /// The names of `list`: lines, also such as Windows writes, or what ends in null bytes.
 std::vector<QByteArray> namesIn(const NameList &list, bool endInNull) {
-    const QByteArray contents = contentsOf(list.file);
+    const QByteArray contents = contentsOfList(list.file);
     if (!endInNull && contents.contains('\0')) {
         throw ArgumentFault(
             u"--files-from: \"%1\" holds null bytes; -0 reads names that end in them"_s.arg(

@@ -6,7 +6,10 @@
 #include "filelist/FileKind.h"
 #include "text/TextDecoder.h"
 
+#include <QFile>
+
 #include <cmath>
+#include <cstdio>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -64,6 +67,22 @@ QString textOf(const QByteArray &bytes) {
         throw ArgumentFault(u"\"%1\" is not valid UTF-8"_s.arg(QString::fromUtf8(bytes)));
     }
     return text;
+}
+
+QByteArray contentsOf(const QByteArray &name, QLatin1StringView option,
+                      std::optional<qint64> most) {
+    QFile file(QFile::decodeName(name));
+    const bool isOpen =
+        name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    QByteArray contents;
+    if (isOpen) {
+        contents = most ? file.read(*most) : file.readAll();
+    }
+    if (file.error() != QFileDevice::NoError) {
+        throw ArgumentFault(u"%1: \"%2\" cannot be read: %3"_s.arg(option, QString::fromUtf8(name),
+                                                                   file.errorString()));
+    }
+    return contents;
 }
 
 PageMargins parseMargins(const QString &text, QStringList &rounded) {

@@ -12,6 +12,7 @@
 
 #include <exception>
 #include <initializer_list>
+#include <optional>
 #include <utility>
 
 namespace folioforge {
@@ -30,6 +31,11 @@ class ArgumentFault : public std::exception {
 
 /// `bytes` as text. Throws ArgumentFault when they are not valid UTF-8.
 QString textOf(const QByteArray &bytes);
+
+/// What the file `name` of `option` holds, "-" for standard input; where `most` is given, as many
+/// bytes at the most. Throws ArgumentFault, which names the option, where it cannot be read.
+QByteArray contentsOf(const QByteArray &name, QLatin1StringView option,
+                      std::optional<qint64> most = {});
 
 /// The value of the word `text` among `words`. Throws ArgumentFault when it is none of them.
 template<typename Value>

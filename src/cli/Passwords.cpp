@@ -85,15 +85,8 @@ InputPasswords readInputPasswords(const Arguments &arguments) {
         return nullptr;
     }
     constexpr qint64 kMostBytes = 1 << 20;
-    const QByteArray &name = *arguments.inputPasswordFile;
-    QFile file(QFile::decodeName(name));
-    const bool isOpen =
-        name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    const QByteArray lines = isOpen ? file.read(kMostBytes) : QByteArray();
-    if (file.error() != QFileDevice::NoError) {
-        throw ArgumentFault(u"--input-password-file: \"%1\" cannot be read: %2"_s.arg(
-            QString::fromUtf8(name), file.errorString()));
-    }
+    const QByteArray lines =
+        contentsOf(*arguments.inputPasswordFile, "--input-password-file"_L1, kMostBytes);
     std::vector<QByteArray> passwords;
     for (QByteArray &line : lines.split('\n')) {
         if (line.endsWith('\r')) {
