@@ -139,6 +139,23 @@ class PageChoiceTest : public QObject, MergeCase {
                             "4 bookmarks"_s);
     }
 
+    void aClosedBookmarkStaysClosed() {
+        const QString path =
+            chosen(threePages("/Outlines 10 0 R")
+                       .object(10, "<< /Type /Outlines /First 11 0 R /Last 11 0 R /Count 1 >>")
+                       .object(11, "<< /Title (A) /Parent 10 0 R /First 12 0 R /Last 13 0 R "
+                                   "/Count -2 >>")
+                       .object(12, "<< /Title (A1) /Parent 11 0 R /Dest [4 0 R /Fit] "
+                                   "/Next 13 0 R >>")
+                       .object(13, "<< /Title (A2) /Parent 11 0 R /Dest [5 0 R /Fit] "
+                                   "/Prev 12 0 R >>"),
+                   "2");
+        const auto document = opened(path);
+        auto outline = document->getRoot().getKey("/Outlines");
+        QCOMPARE(outline.getKey("/Count").getIntValue(), 1LL);
+        QCOMPARE(outline.getKey("/First").getKey("/Count").getIntValue(), -1LL);
+    }
+
     void linksAndNamesOfPagesThatAreLeftOutGo() {
         const QString path = chosen(
             threePages("/Dests << /there [6 0 R /Fit] /here [5 0 R /Fit] >> /Names << /Dests << "
