@@ -83,6 +83,20 @@ class CarriedPartsTest : public QObject, protected MergeCase {
                                                     {PartKind::Annotations, 1}}));
     }
 
+    void filesOfElementsAndFormsAreCounted() {
+        PdfFixture source = withCatalog("/StructTreeRoot << /Type /StructTreeRoot /K 24 0 R >>");
+        source.object(4, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 9 9] /Resources << /XObject "
+                         "<< /X 22 0 R >> >> >>");
+        source.stream(22, "/Type /XObject /Subtype /Form /BBox [0 0 9 9] /AF [20 0 R]", {});
+        source.object(24, "<< /Type /StructElem /S /Formula /AF [21 0 R 20 0 R] >>");
+        for (const int file : {20, 21}) {
+            source.object(file, "<< /Type /Filespec /F (a) /EF << /F 23 0 R >> >>");
+        }
+        source.stream(23, "/Type /EmbeddedFile", "data");
+        QCOMPARE(parts(source).carried,
+                 (PartCounts{{PartKind::StructureElements, 1}, {PartKind::Attachments, 2}}));
+    }
+
     void bookmarksOfEveryLevelAreCountedOnce() {
         PdfFixture source = withCatalog("/Outlines << /First 20 0 R /Last 22 0 R >>");
         source.object(20, "<< /Title (1) /First 21 0 R /Last 21 0 R /Next 22 0 R >>");

@@ -23,7 +23,7 @@ constexpr std::array kNameKeys{"/F", "/UF"};
 std::vector<QPDFObjectHandle> embeddedFiles(const TreeEntries &tree,
                                             const ImportedAttachments &attachments) {
     std::vector<QPDFObjectHandle> files = attachments.associated;
-    std::ranges::copy(attachments.ofPages, std::back_inserter(files));
+    std::ranges::copy(attachments.ofParts, std::back_inserter(files));
     std::ranges::transform(tree, std::back_inserter(files),
                            [](const auto &pair) { return pair.second; });
     std::set<QPDFObjGen> visited;
@@ -35,20 +35,20 @@ std::vector<QPDFObjectHandle> embeddedFiles(const TreeEntries &tree,
 
 } // namespace
 
-std::vector<QPDFObjectHandle> filesOfPages(const std::vector<QPDFObjectHandle> &pages) {
+bool hasFiles(const Dictionary &part) {
+    return part.contains("/AF") || valueOf(part, "/Subtype").isNameAndEquals("/FileAttachment");
+}
+
+std::vector<QPDFObjectHandle> filesOf(const std::vector<QPDFObjectHandle> &parts) {
     std::vector<QPDFObjectHandle> files;
-    std::set<QPDFObjGen> visited; // Pages may share their lists.
-    const auto itemsOf = [&visited](const QPDFObjectHandle &holder, const char *key) {
-        const auto list = entry(holder, key);
-        return isFirstVisit(list, visited) ? items(list) : std::vector<QPDFObjectHandle>();
-    };
-    for (const auto &page : pages) {
-        std::ranges::copy(itemsOf(page, "/AF"), std::back_inserter(files));
-        for (const auto &annotation : itemsOf(page, "/Annots")) {
-            std::ranges::copy(itemsOf(annotation, "/AF"), std::back_inserter(files));
-            if (entry(annotation, "/Subtype").isNameAndEquals("/FileAttachment")) {
-                files.push_back(entry(annotation, "/FS"));
-            }
+    std::set<QPDFObjGen> visited; // Parts may share their lists.
+    for (const auto &part : parts) {
+        const auto list = entry(part, "/AF");
+        if (isFirstVisit(list, visited)) {
+            std::ranges::copy(items(list), std::back_inserter(files));
+        }
+        if (entry(part, "/Subtype").isNameAndEquals("/FileAttachment")) {
+            files.push_back(entry(part, "/FS"));
         }
     }
     return files;

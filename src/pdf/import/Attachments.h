@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "pdf/import/Entries.h"
 #include "pdf/import/ImportOptions.h"
 #include "pdf/import/TreeEntries.h"
 
@@ -20,13 +21,15 @@ class SourceNames;
 /// What a source has of files beside those of its name tree, copied.
 struct ImportedAttachments {
     std::vector<QPDFObjectHandle> associated; ///< /AF of the catalog (ISO 32000-2, 14.13).
-    std::vector<QPDFObjectHandle> ofPages;    ///< Those of pages and their annotations.
+    std::vector<QPDFObjectHandle> ofParts;    ///< Those of pages, annotations, elements...
     /// /Collection; null where there is none or the document becomes a part of another.
     QPDFObjectHandle portfolio = QPDFObjectHandle::newNull();
 };
 
-/// What `pages`, copied, and their annotations have as files. To be called when they are filled.
-std::vector<QPDFObjectHandle> filesOfPages(const std::vector<QPDFObjectHandle> &pages);
+/// Whether a page, an annotation or another part of a document has files of its own.
+bool hasFiles(const Dictionary &part);
+/// The files of `parts`, copied. To be called when they are filled.
+std::vector<QPDFObjectHandle> filesOf(const std::vector<QPDFObjectHandle> &parts);
 
 ImportedAttachments importAttachments(QPDF &source, ObjectCopier &copier, ImportScope scope);
 

@@ -107,7 +107,7 @@ void copyTopics(ImportedDocument &imported, QPDF &source, QPDF &target, const Ch
     copier.run();
     turnPages(imported.pages, options.pages.turns);
     imported.form.actions = copier.fieldActions();
-    imported.attachments.ofPages = filesOfPages(imported.pages);
+    imported.attachments.ofParts = filesOf(copier.fileHolders());
     tellFilesApart(imported.nameTrees[kAttachments], imported.attachments, names);
     imported.names = names.given();
 }

@@ -3,6 +3,7 @@
 #include "pdf/import/ObjectCopier.h"
 
 #include "pdf/QpdfErrors.h"
+#include "pdf/import/Attachments.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/FieldRenames.h"
 
@@ -231,6 +232,13 @@ void ObjectCopier::copyEntries(const Dictionary &dictionary, QPDFObjectHandle ta
     }
     if (namesFields(dictionary)) {
         m_fieldActions.push_back(target);
+    }
+    noteFiles(dictionary, target);
+}
+
+void ObjectCopier::noteFiles(const Dictionary &dictionary, const QPDFObjectHandle &target) {
+    if (hasFiles(dictionary)) {
+        m_fileHolders.push_back(target);
     }
 }
 

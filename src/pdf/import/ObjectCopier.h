@@ -65,6 +65,10 @@ class ObjectCopier {
     [[nodiscard]] const std::vector<QPDFObjectHandle> &fieldActions() const {
         return m_fieldActions;
     }
+    /// Copied dictionaries that have files: pages, annotations, forms, structure elements.
+    [[nodiscard]] const std::vector<QPDFObjectHandle> &fileHolders() const { return m_fileHolders; }
+    /// Keeps `target`, which becomes the copy of `dictionary`, for fileHolders() if it has files.
+    void noteFiles(const Dictionary &dictionary, const QPDFObjectHandle &target);
 
   private:
     /// Gives what the copy of an object holds.
@@ -123,6 +127,7 @@ class ObjectCopier {
     std::deque<Pending> m_pending;
     std::deque<PendingStream> m_pendingStreams;
     std::vector<QPDFObjectHandle> m_fieldActions;
+    std::vector<QPDFObjectHandle> m_fileHolders;
     qsizetype m_longestStream = 0;
     int m_signaturesLeftOut = 0;
 };

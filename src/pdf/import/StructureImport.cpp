@@ -163,6 +163,7 @@ void StructureWalk::fill(const Open &open) {
     Dictionary members = membersOf(open.source);
     QPDFObjectHandle target = open.target;
     note(members, target);
+    m_copier.noteFiles(members, target);
     Open parent = open;
     for (const auto &[key, value] : members) {
         if (key == "/Ref") {
