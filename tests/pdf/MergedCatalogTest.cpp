@@ -26,6 +26,9 @@ class MergedCatalogTest : public QObject {
     QTemporaryDir m_folder;
     int m_number = 0;
 
+    static inline const QByteArray kLongAppearance =
+        "/DA (/F 9 Tf" + QByteArray(" 0 g").repeated(100) + ")";
+
     QString newPath() { return m_folder.filePath(u"%1.pdf"_s.arg(++m_number)); }
 
     /// A document of one page whose catalog holds `keys`.
@@ -188,6 +191,31 @@ class MergedCatalogTest : public QObject {
         };
         QCOMPARE(appearance(1), std::string("/F cs /C 9 Tf /C_2 cs (/C) Tj /A#20B 7 Tf"));
         QCOMPARE(appearance(2), std::string("/A#20B_2 7 Tf /F_2 9 Tf /F cs"));
+    }
+
+    void fieldsThatShareALongAppearanceShareTheRenamedOne_data() {
+        QTest::addColumn<QByteArray>("ofForm");
+        QTest::addColumn<QByteArray>("ofFields");
+        QTest::newRow("of the form") << kLongAppearance << QByteArray();
+        QTest::newRow("an object") << QByteArray() << QByteArray("/DA 22 0 R");
+    }
+    void fieldsThatShareALongAppearanceShareTheRenamedOne() {
+        QFETCH(QByteArray, ofForm);
+        QFETCH(QByteArray, ofFields);
+        const QByteArray field = "<< /FT /Tx " + ofFields + " /T ";
+        const PdfFixture source =
+            withCatalog("/AcroForm << /Fields [20 0 R 21 0 R] /DR << /Font << /F 3 0 R >> >> " +
+                        ofForm + " >>")
+                .object(20, field + "(one) >>")
+                .object(21, field + "(two) >>")
+                .object(22, kLongAppearance.mid(4));
+        const auto document = merged({source, source});
+        const auto fields = catalogEntry(*document, "/AcroForm", "/Fields").getArrayAsVector();
+        auto third = fields.at(2);
+        auto fourth = fields.at(3);
+        QCOMPARE(third.getKey("/DA").getStringValue().substr(0, 9), std::string("/F_2 9 Tf"));
+        QVERIFY(third.getKey("/DA").isIndirect());
+        QVERIFY(third.getKey("/DA").isSameObjectAs(fourth.getKey("/DA")));
     }
 
     void labelsBehindTheLastPageAreLeftOut() {

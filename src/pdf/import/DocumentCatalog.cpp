@@ -40,11 +40,11 @@ Warnings DocumentCatalog::addDocument(ImportedDocument imported) {
     return warnings;
 }
 
-void DocumentCatalog::merge(const ImportedDocument &imported, int firstPage) {
+void DocumentCatalog::merge(const ImportedDocument &imported, int firstPage, QPDF &document) {
     m_structure.add(imported.structure, imported.pages.size(), imported.scope);
     m_language.add(imported.structure);
     m_bookmarks.add(imported.bookmarks, firstPage);
-    m_forms.add(imported.form);
+    m_forms.add(imported.form, document);
     m_layers.add(imported.layers);
     m_destinations.add(imported.destinations);
     m_nameTrees.add(imported.nameTrees);
@@ -81,7 +81,7 @@ DocumentForm DocumentCatalog::form() const {
 
 void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info) {
     for (Added &added : m_documents) {
-        merge(added.document, added.firstPage);
+        merge(added.document, added.firstPage, document);
         added.document = {}; // Its lists would take the memory twice.
     }
     buildPageTree(document, m_pages);

@@ -53,7 +53,7 @@ class DocumentCatalog {
         ImportedDocument document;
     };
 
-    void merge(const ImportedDocument &imported, int firstPage);
+    void merge(const ImportedDocument &imported, int firstPage, QPDF &document);
 
     std::vector<QPDFObjectHandle> m_pages;
     std::vector<Added> m_documents; ///< Merged in the end, so that one that fails leaves nothing.

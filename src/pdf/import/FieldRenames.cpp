@@ -78,6 +78,21 @@ QPDFObjectHandle renamedField(QPDFObjectHandle name, const Renames &renames) {
                : QPDFObjectHandle::newUnicodeString(found->second + text.substr(top));
 }
 
+using Replaced = std::map<QPDFObjGen, QPDFObjectHandle>; ///< New objects by the old.
+
+/// What `make` gives in the place of `object`, which many may share: once for all of them.
+template<typename Make>
+QPDFObjectHandle replacing(QPDFObjectHandle object, Replaced &replaced, const Make &make) {
+    if (!object.isIndirect()) {
+        return make(object);
+    }
+    const auto [known, isNew] = replaced.try_emplace(object.getObjGen());
+    if (isNew) {
+        known->second = object.getOwningQPDF()->makeIndirectObject(make(object));
+    }
+    return known->second;
+}
+
 QPDFObjectHandle renamedFields(const QPDFObjectHandle &array, const Renames &renames) {
     auto fields = items(array);
     for (auto &field : fields) {
@@ -101,11 +116,14 @@ void renameInAppearances(const std::vector<QPDFObjectHandle> &roots,
     if (renames.empty()) {
         return;
     }
+    Replaced replaced;
     visitFields(roots, [&](QPDFObjectHandle field) {
         auto appearance = field.getKey("/DA");
         if (appearance.isString()) {
-            field.replaceKey("/DA", QPDFObjectHandle::newString(
-                                        renamedAppearance(appearance.getStringValue(), renames)));
+            field.replaceKey("/DA", replacing(appearance, replaced, [&](QPDFObjectHandle old) {
+                                 return QPDFObjectHandle::newString(
+                                     renamedAppearance(old.getStringValue(), renames));
+                             }));
         }
         return true;
     });
@@ -115,19 +133,14 @@ void renameInActions(const std::vector<QPDFObjectHandle> &actions, const Renames
     if (renames.empty()) {
         return;
     }
-    std::map<QPDFObjGen, QPDFObjectHandle> arrays; // New ones by the old: actions may share them.
+    Replaced arrays;
     for (QPDFObjectHandle action : actions) {
         for (const char *key : kFieldKeys) {
             auto named = action.getKey(key);
-            if (named.isIndirect() && named.isArray()) {
-                const auto [array, isNew] = arrays.try_emplace(named.getObjGen());
-                if (isNew) {
-                    array->second =
-                        named.getOwningQPDF()->makeIndirectObject(renamedFields(named, renames));
-                }
-                action.replaceKey(key, array->second);
-            } else if (named.isArray()) {
-                action.replaceKey(key, renamedFields(named, renames));
+            if (named.isArray()) {
+                action.replaceKey(key, replacing(named, arrays, [&](const QPDFObjectHandle &old) {
+                                      return renamedFields(old, renames);
+                                  }));
             } else if (named.isString()) {
                 action.replaceKey(key, renamedField(named, renames));
             }

@@ -21,16 +21,24 @@ namespace folioforge {
 
 namespace {
 
-/// Gives a field the defaults of its form, which in the merged one would hold for the fields of all
-/// sources.
-void keepDefaults(QPDFObjectHandle field, const ImportedForm &form) {
-    const auto keep = [&field](const char *key, QPDFObjectHandle value) {
-        if (!value.isNull() && !field.hasKey(key)) {
-            field.replaceKey(key, value);
+/// Gives fields the defaults of their form, which in the merged one would hold for the fields of
+/// all sources.
+void keepDefaults(const ImportedForm &form, QPDF &document) {
+    constexpr std::size_t kShort = 100;
+    QPDFObjectHandle appearance = form.defaultAppearance;
+    QPDFObjectHandle alignment = form.alignment;
+    if (appearance.isString() && appearance.getStringValue().size() > kShort) {
+        // Any number of fields may get it.
+        appearance = document.makeIndirectObject(appearance.shallowCopy());
+    }
+    for (QPDFObjectHandle field : form.fields) {
+        if (appearance.isString() && !field.hasKey("/DA")) {
+            field.replaceKey("/DA", appearance);
         }
-    };
-    keep("/DA", form.defaultAppearance);
-    keep("/Q", form.alignment);
+        if (alignment.isInteger() && !field.hasKey("/Q")) {
+            field.replaceKey("/Q", alignment);
+        }
+    }
 }
 
 /// The topmost fields that have a name, by it. A field without one adds nothing to the names of the
@@ -129,11 +137,9 @@ Warnings FormMerger::tellFieldsApart(ImportedForm &form) {
     return names.empty() ? Warnings() : Warnings{fieldsRenamed(names)};
 }
 
-void FormMerger::add(const ImportedForm &form) {
+void FormMerger::add(const ImportedForm &form, QPDF &document) {
     const CategoryRenames resources = addResources(form.resources);
-    for (const auto &field : form.fields) {
-        keepDefaults(field, form);
-    }
+    keepDefaults(form, document);
     renameInAppearances(form.fields, resources);
     std::ranges::copy(form.fields, std::back_inserter(m_form.fields));
     std::ranges::copy_if(form.calculationOrder, std::back_inserter(m_form.calculationOrder),

@@ -21,8 +21,8 @@ class FormMerger {
   public:
     /// Takes the names of the fields and says which of them got others, in the copy.
     Warnings tellFieldsApart(ImportedForm &form);
-    /// Adds a form of which the fields are told apart.
-    void add(const ImportedForm &form);
+    /// Adds a form of which the fields are told apart, and which `document` holds.
+    void add(const ImportedForm &form, QPDF &document);
     /// Writes the form into the catalog if there is any.
     void finish(QPDF &document);
 
