@@ -70,8 +70,8 @@ class OtherProgramsTest : public QObject {
     static QList<QByteArray> structureOf(const QString &path) {
         static const QRegularExpression document(u"^Document( <[^>]*>)?( \\(block\\))?:?$"_s);
         static const QRegularExpression number(u" <[^>]*>|(?<=Object )\\d+ \\d+"_s);
-        // Identifiers that another source has too get a number.
-        static const QRegularExpression suffix(u"_\\d+(?=\\))"_s);
+        // Identifiers that another source has too get a number, and another one in a further merge.
+        static const QRegularExpression suffix(u"(_\\d+)+(?=\\))"_s);
         QList<QByteArray> lines;
         const ToolRun run = succeeding(u"pdfinfo"_s, {u"-struct-text"_s, path});
         for (const QByteArray &line : run.out.split('\n')) {
@@ -232,14 +232,15 @@ class OtherProgramsTest : public QObject {
         }
     }
 
-    void theCompressedDocumentAndOneMadeOfItHaveTheSame() {
+    /// The documents of all pairs in one, as it is, compressed, and in another document.
+    void pairsThatAreMergedAgainAndCompressedHaveTheSame() {
         QStringList paths{photoDocument()};
         QList<QByteArray> structure;
         QList<QByteArray> attachments;
-        for (const Source &source : m_sources) {
-            paths += source.path;
-            structure += source.structure;
-            attachments += source.attachments;
+        for (const auto &[one, other, both] : m_pairs) {
+            paths += both;
+            structure += one.structure + other.structure;
+            attachments += one.attachments + other.attachments;
         }
         std::ranges::sort(attachments);
         const QString all = merged(paths);
