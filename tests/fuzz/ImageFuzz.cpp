@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-// The readers of one image format with any bytes: an image in order or a reason, and not a word
-// printed.
+// The readers of one image format with any bytes: an image in order, alone and as one of all that
+// the file has, or a reason, and not a word printed.
 
 #include "FuzzSupport.h"
 #include "image/ImageHeader.h"
@@ -31,6 +31,20 @@ void requireInOrder(const PdfImage &image, qint64 fileSize) {
     }
 }
 
+/// Every page and frame; a large one ends it.
+void requireAllInOrder(const QString &path, qint64 fileSize) {
+    constexpr int kMost = 100;
+    int number = 0;
+    refuses([&] {
+        forEachPicture(path, SystemCalls::system(), SourceMetadata::Strip, [&](PdfImage image) {
+            requireInOrder(image, fileSize);
+            if (++number == kMost || qint64(image.width) * image.height > kMaxPixels) {
+                throw Error(u"Enough"_s);
+            }
+        });
+    });
+}
+
 /// The file's name decides where the bytes do not tell their format.
 void readAs(ImageKind kind, const QString &extension, Bytes bytes) {
     refuseMessages();
@@ -39,6 +53,7 @@ void readAs(ImageKind kind, const QString &extension, Bytes bytes) {
         const ImageHeader header = readImageHeader(file.path());
         if (header.kind == kind && qint64(header.width) * header.height <= kMaxPixels) {
             requireInOrder(toPdfImage(file.path()), static_cast<qint64>(bytes.size()));
+            requireAllInOrder(file.path(), static_cast<qint64>(bytes.size()));
         }
     });
 }
