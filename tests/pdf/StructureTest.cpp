@@ -108,6 +108,15 @@ class StructureTest : public QObject, protected MergeCase {
         QCOMPARE(textOf(elementAt(*document, {1, 0}).getKey("/S")), "/H1");
     }
 
+    void aDocumentElementUnderANameOfItsOwnGetsNoneAboveIt() {
+        const PdfFixture source = taggedPage({"a"}, "/K 11 0 R /RoleMap << /Book /Document >>")
+                                      .object(11, element("Book", 10, "12 0 R"))
+                                      .object(12, element("P", 11, "0"));
+        const auto document = mergedDocument({source, source});
+        QCOMPARE(textOf(elementAt(*document, {1}).getKey("/S")), "/Book");
+        QCOMPARE(textOf(elementAt(*document, {1, 0}).getKey("/S")), "/P");
+    }
+
     void theDocumentCountsAsTaggedOnlyWhereEveryPageIs() {
         PdfFixture untagged;
         untagged.object(1, kCatalog).pages(4, 1);
