@@ -37,6 +37,8 @@ struct TextArguments {
     std::optional<double> fontSize; ///< Points.
     std::optional<double> lineSpacing;
     std::optional<double> tabWidth;
+    std::optional<QString> header;
+    std::optional<QString> footer;
 };
 
 /// The arguments of one call, read but not checked.

@@ -109,17 +109,22 @@ HelpSection textHelp() {
     return {
         "Text",
         "",
-        {{"--text-layout", "plain|readable",
-          "plain (the default) cuts lines at the right margin; readable breaks them between "
-          "words, keeps blank lines, tabs and form feeds, and joins and turns letters as their "
-          "scripts demand. Fonts, sizes and tabs need it"},
-         {"--text-encoding", "auto|NAME",
+        {{"--text-encoding", "auto|NAME",
           "of texts (default UTF-8), such as utf-16 or windows-1252; auto: by their bytes, with a "
           "warning where that is a guess"},
+         {"--text-layout", "plain|readable",
+          "plain (the default) cuts lines at the right margin; readable breaks them between "
+          "words, keeps blank lines, tabs and form feeds, and joins and turns letters as their "
+          "scripts demand. The options that follow need it"},
          {"--font", "FAMILY,FAMILY", "fonts in order of preference (default Arial or alike)"},
          {"--font-size", "N", "points (default 11)"},
          {"--line-spacing", "N", "in heights of a row (default 1)"},
-         {"--tab-width", "N", "blanks from one tab stop to the next (default 8)"}}};
+         {"--tab-width", "N", "blanks from one tab stop to the next (default 8)"},
+         {"--header", "TEXT",
+          "in the top margin of each page of text; {file}, {page}, {pages} and {date} stand for "
+          "the "
+          "text's name, the page's number, the number of the PDF's pages and the day"},
+         {"--footer", "TEXT", "likewise in the bottom margin"}}};
 }
 
 HelpSection reportHelp() {

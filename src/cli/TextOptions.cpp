@@ -5,6 +5,11 @@
 #include "cli/OptionValues.h"
 #include "text/FontCatalog.h"
 #include "text/TextEncoding.h"
+#include "text/readable/MarginText.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +25,47 @@ QStringList parseFamilies(const QString &text) {
         throw ArgumentFault(u"\"%1\" has an empty name"_s.arg(text));
     }
     return families;
+}
+
+/// The text of a header or a footer. Throws ArgumentFault where it names what is not known.
+QString parseMarginText(const QString &text) {
+    if (const QString unknown = unknownPlaceholder(text); !unknown.isEmpty()) {
+        throw ArgumentFault(u"\"%1\" is none of %2"_s.arg(unknown, placeholders().join(u", "_s)));
+    }
+    return text;
+}
+
+/// Throws ArgumentFault where no row stands in the margin of a header or a footer, or beside it.
+void requireRoom(QLatin1StringView option, const QString &text, qint64 margin,
+                 const ConversionOptions &options) {
+    const double row = options.textFont->rowHeight();
+    const PageMargins &margins = options.textPage.margins;
+    const double rest = getTextPageSize(options.textPage).height() -
+                        static_cast<double>(margins.top + margins.bottom);
+    if (!text.isEmpty() && std::min(static_cast<double>(margin), rest) < row) {
+        throw ArgumentFault(
+            u"%1: A row is %2 points high; its margin has %3, and the margins leave "
+            "%4 for the text"_s.arg(option)
+                .arg(row, 0, 'f', 1)
+                .arg(margin)
+                .arg(rest));
+    }
+}
+
+/// Throws ArgumentFault where the plain layout is asked for what only the other has.
+void requireReadable(const TextArguments &text) {
+    const std::array<std::pair<QLatin1StringView, bool>, 6> given{
+        {{"--font"_L1, !text.families.isEmpty()},
+         {"--font-size"_L1, text.fontSize.has_value()},
+         {"--line-spacing"_L1, text.lineSpacing.has_value()},
+         {"--tab-width"_L1, text.tabWidth.has_value()},
+         {"--header"_L1, text.header.has_value()},
+         {"--footer"_L1, text.footer.has_value()}}};
+    for (const auto &[option, isGiven] : given) {
+        if (isGiven) {
+            throw ArgumentFault(u"%1 needs --text-layout=readable"_s.arg(option));
+        }
+    }
 }
 
 } // namespace
@@ -52,6 +98,10 @@ const std::vector<Option> &textOptions() {
          }},
         {"--tab-width", Option::Valued,
          [](Arguments &to, Value value) { to.text.tabWidth = parseNumber(textOf(value), 1, 100); }},
+        {"--header", Option::Valued,
+         [](Arguments &to, Value value) { to.text.header = parseMarginText(textOf(value)); }},
+        {"--footer", Option::Valued,
+         [](Arguments &to, Value value) { to.text.footer = parseMarginText(textOf(value)); }},
     };
     return options;
 }
@@ -59,10 +109,7 @@ const std::vector<Option> &textOptions() {
 void prepareText(Arguments &arguments) {
     const TextArguments &text = arguments.text;
     if (!text.isReadable) {
-        if (!text.families.isEmpty() || text.fontSize || text.lineSpacing || text.tabWidth) {
-            throw ArgumentFault(
-                u"--font, --font-size, --line-spacing and --tab-width need --text-layout=readable"_s);
-        }
+        requireReadable(text);
         return;
     }
     if (const QStringList missing = missingFamilies(text.families); !missing.isEmpty()) {
@@ -76,6 +123,11 @@ void prepareText(Arguments &arguments) {
     options.readable.emplace();
     options.readable->lineSpacing = text.lineSpacing.value_or(options.readable->lineSpacing);
     options.readable->tabWidth = text.tabWidth.value_or(options.readable->tabWidth);
+    options.readable->header = text.header.value_or(QString());
+    options.readable->footer = text.footer.value_or(QString());
+    const PageMargins &margins = options.textPage.margins;
+    requireRoom("--header"_L1, options.readable->header, margins.top, options);
+    requireRoom("--footer"_L1, options.readable->footer, margins.bottom, options);
 }
 
 } // namespace folioforge

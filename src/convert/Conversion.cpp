@@ -126,6 +126,25 @@ void leaveInTheEnd(const std::vector<PartKind> &kinds, std::vector<EntryOutcome>
     }
 }
 
+/// Writes headers and footers, which may name the number of all pages.
+void addAllMarginTexts(std::span<const PDFFileInfo *const> entries, PDFContext &context,
+                       const ConversionOptions &options, const std::stop_token &stop,
+                       std::vector<EntryOutcome> &outcomes) {
+    if (!options.readable || !options.readable->hasMarginTexts()) {
+        return;
+    }
+    int first = 0;
+    for (std::size_t i = 0; i < outcomes.size(); ++i) {
+        EntryOutcome &outcome = outcomes[i];
+        if (fileKind(entries[i]->filePathName()) == FileKind::Text) {
+            std::ranges::move(
+                addMarginTexts(*entries[i], first, outcome.pages, context, options, stop),
+                std::back_inserter(outcome.warnings));
+        }
+        first += outcome.pages;
+    }
+}
+
 CloseResult notWritten(const QString &reason) {
     return {CloseResult::Status::Failed, {}, reason, {}};
 }
@@ -220,7 +239,10 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     }
     if (!stop.stop_requested()) {
         const QString fileName = entries.empty() ? QString() : entries.front()->fileName();
-        outcome.close = closeContext(context, path, fileName, options);
+        const QString failure = reasonOfFailure(
+            [&] { addAllMarginTexts(entries, context, options, stop, outcome.entries); });
+        outcome.close = failure.isEmpty() ? closeContext(context, path, fileName, options)
+                                          : notWritten(failure);
         leaveInTheEnd(outcome.close.left, outcome.entries);
         std::ranges::copy(namePartlyTagged(entries, outcome.entries),
                           std::back_inserter(outcome.close.warnings));

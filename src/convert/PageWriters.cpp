@@ -5,6 +5,7 @@
 #include "convert/ImagePlacement.h"
 #include "text/FontCascade.h"
 #include "text/TextPageLayout.h"
+#include "text/readable/MarginText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -79,6 +80,32 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
                                        : layOutText(source.text, pageSize, margins, *font, sink),
                       std::back_inserter(warnings));
     return warnings;
+}
+
+Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFContext &context,
+                        const ConversionOptions &options, const std::stop_token &stop) {
+    const QSizeF page = getTextPageSize(options.textPage);
+    const PageMargins &margins = options.textPage.margins;
+    const auto left = static_cast<double>(margins.left);
+    const auto top = static_cast<double>(margins.top);
+    const double width = page.width() - left - static_cast<double>(margins.right);
+    const QRectF above(left, page.height() - top, width, top);
+    const QRectF below(left, 0, width, static_cast<double>(margins.bottom));
+    DocumentInfo info = options.info;
+    fixCreationDate(info);
+    PageFacts facts{entry.fileName(), 0, context.pageCount(), info.created.toString(u"yyyy-MM-dd")};
+    const auto font = options.textFont ? options.textFont : textFont();
+    ContextSink sink(context, font, page, 0, stop);
+    MarginText texts(*font);
+    for (int i = first; i < first + pages && !stop.stop_requested(); ++i) {
+        facts.page = i + 1;
+        context.drawArtifact(i, [&] {
+            context.setFont(font, font->size());
+            texts.setInto(above, withFacts(options.readable->header, facts), sink);
+            texts.setInto(below, withFacts(options.readable->footer, facts), sink);
+        });
+    }
+    return texts.warnings();
 }
 
 WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,

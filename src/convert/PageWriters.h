@@ -20,6 +20,12 @@ namespace folioforge {
 Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
                      const ConversionOptions &options, const std::stop_token &stop = {});
 
+/// Writes the header and the footer that `options` ask for on the pages of a text: `pages` of them
+/// from `first` on, counted from 0, of a document that has all its pages. Returns what of them is
+/// missing. Ends at the next page once `stop` is requested. Throws Error.
+Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFContext &context,
+                        const ConversionOptions &options, const std::stop_token &stop = {});
+
 /// How a picture became a page, or several.
 struct WrittenImage {
     EmbeddedAs embeddedAs = EmbeddedAs::Recompressed; ///< Own bytes where those of all are.

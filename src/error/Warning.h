@@ -32,6 +32,7 @@ enum class WarningCode {
     NotFlushed,      ///< The file system cannot flush a file to the disk.
     EncodingGuessed, ///< Only the frequency of its bytes tells the encoding of a text.
     ProtectionLeft,  ///< A source PDF is protected, and the PDF made of it is not, or otherwise.
+    MarginTextCut,   ///< A header or a footer has more rows than its margin has room for.
 };
 
 /// The names of the codes in reports, in the order of their declaration. They never change, because
@@ -46,9 +47,9 @@ inline constexpr std::array kWarningNames{
     QLatin1StringView("signature-removed"),   QLatin1StringView("fields-renamed"),
     QLatin1StringView("claim-dropped"),       QLatin1StringView("page-size"),
     QLatin1StringView("not-flushed"),         QLatin1StringView("encoding-guessed"),
-    QLatin1StringView("protection-left"),
+    QLatin1StringView("protection-left"),     QLatin1StringView("margin-text-cut"),
 };
-static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::ProtectionLeft) + 1);
+static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::MarginTextCut) + 1);
 
 /// What was lost or changed on the way of an entry that was written.
 struct Warning {

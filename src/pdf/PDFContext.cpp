@@ -39,6 +39,7 @@ class PDFContext::Impl {
     Impl(QString path, Settings settings);
 
     void endPage() { m_catalog.addPage(m_pages.endPage()); }
+    void drawArtifact(int page, const std::function<void()> &draw);
     AddedDocument addDocument(const QString &sourcePath, const PageChoice &choice);
     CloseResult close(const std::function<QString()> &nextPath);
     void addBookmark(const QString &title, int page) { m_catalog.addBookmark(title, page); }
@@ -73,6 +74,13 @@ PDFContext::Impl::Impl(QString path, Settings settings)
     : m_path(std::move(path))
     , m_settings(std::move(settings)) {
     makeEmpty(m_document);
+}
+
+void PDFContext::Impl::drawArtifact(int page, const std::function<void()> &draw) {
+    const QPDFObjectHandle object = m_catalog.pages()[static_cast<std::size_t>(page)];
+    m_pages.beginArtifact(object);
+    draw();
+    m_pages.endArtifact(object);
 }
 
 AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const PageChoice &choice) {
@@ -221,6 +229,10 @@ void PDFContext::drawImage(const QRectF &rect, PdfImage image, int orientation) 
 
 void PDFContext::endPage() {
     translateQpdfErrors([&] { m_impl->endPage(); });
+}
+
+void PDFContext::drawArtifact(int page, const std::function<void()> &draw) {
+    translateQpdfErrors([&] { m_impl->drawArtifact(page, draw); });
 }
 
 AddedDocument PDFContext::addDocument(const QString &sourcePath, const PageChoice &choice) {

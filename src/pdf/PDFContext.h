@@ -89,6 +89,10 @@ class PDFContext {
     /// Of what is drawn on the page from now on, only what lies inside `rect` (points) is shown.
     void clipToRect(const QRectF &rect);
     void endPage();
+    /// Lets `draw` show glyphs on a page of text that was drawn here, from 0: what belongs to the
+    /// page and not to what is told on it, such as its number. To be called between pages. Throws
+    /// Error.
+    void drawArtifact(int page, const std::function<void()> &draw);
 
     /// Adds the pages of the PDF at `sourcePath` that `choice` names, with their links, form fields
     /// and bookmarks, by default every page unchanged. Throws Error when the document cannot be

@@ -140,6 +140,27 @@ QPDFObjectHandle PageDrawer::endPage() {
     return m_document.makeIndirectObject(dictionary);
 }
 
+void PageDrawer::beginArtifact(QPDFObjectHandle page) {
+    beginPage({});
+    if (auto fonts = page.getKey("/Resources").getKey("/Font"); fonts.isDictionary()) {
+        m_page.fonts = fonts.getDictAsMap();
+    }
+    m_page.content = "/Artifact<</Type/Pagination>>BDC ";
+}
+
+void PageDrawer::endArtifact(QPDFObjectHandle page) {
+    endText();
+    m_page.content += "EMC";
+    auto contents = QPDFObjectHandle::newArray();
+    if (auto drawn = page.getKey("/Contents"); drawn.isStream()) {
+        contents.appendItem(drawn);
+    }
+    contents.appendItem(m_streams.pageContent(m_page.content));
+    page.replaceKey("/Contents", contents);
+    page.replaceKey("/Resources", resources());
+    beginPage({});
+}
+
 void PageDrawer::drawImage(const QRectF &rect, const PdfImage &image, int orientation) {
     endText();
     const std::string name = "/Im" + std::to_string(m_page.images.size());

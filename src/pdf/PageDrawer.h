@@ -41,6 +41,11 @@ class PageDrawer {
     /// The page that was drawn, an object of the document.
     QPDFObjectHandle endPage();
 
+    /// Draws further on `page`, a page of text that endPage() gave, until endArtifact(): what
+    /// belongs to the page and not to what is told on it (ISO 32000-1, 14.8.2.2).
+    void beginArtifact(QPDFObjectHandle page);
+    void endArtifact(QPDFObjectHandle page);
+
     /// Forgets the images that pages could share, as their data was rolled back.
     void forgetImages() { m_images.forget(); }
     /// Embeds the fonts of all pages. To be called once, at the end.

@@ -113,8 +113,17 @@ class ReadableTextTest : public QObject, CommandLineCase {
 
     void whatCannotBeMeantIsRefusedInWords() {
         QCOMPARE(complaint({u"--font=DejaVu Sans"_s}),
-                 u"folioforge-cli: --font, --font-size, --line-spacing and --tab-width need "
-                 "--text-layout=readable\n"_s);
+                 u"folioforge-cli: --font needs --text-layout=readable\n"_s);
+        QCOMPARE(complaint({u"--header={page}"_s}),
+                 u"folioforge-cli: --header needs --text-layout=readable\n"_s);
+        QVERIFY(
+            complaint({u"--text-layout=readable"_s, u"--footer={page} of {sheets}"_s})
+                .contains(u"--footer: \"{sheets}\" is none of {file}, {page}, {pages}, {date}"_s));
+        QVERIFY(complaint({u"--text-layout=readable"_s, u"--footer={page"_s})
+                    .contains(u"--footer: \"{page\" is none of {file}"_s));
+        QVERIFY(complaint({u"--text-layout=readable"_s, u"--header={page}"_s,
+                           u"--text-margins=12,72,72"_s})
+                    .contains(u"--header: A row is 12.6 points high; its margin has 12"_s));
         QCOMPARE(complaint({u"--text-layout=readable"_s, u"--font=No Such Font"_s}),
                  u"folioforge-cli: --font: the system has no font \"No Such Font\"\n"_s);
         QVERIFY(complaint({u"--text-layout=readable"_s, u"--font-size=0"_s})

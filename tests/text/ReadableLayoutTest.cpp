@@ -251,7 +251,7 @@ class ReadableLayoutTest : public QObject {
     }
 
     void tabWidthAndLineSpacingAreThoseOfTheStyle() {
-        const ShownText shown = readable(u"a\tb\nc"_s, 500, small(), {4, 2});
+        const ShownText shown = readable(u"a\tb\nc"_s, 500, small(), {4, 2, {}, {}});
         QVERIFY(qAbs(shown.pieces[1].x - 4 * 10 * 569.0 / 2048) < 1e-3);
         QVERIFY(qAbs(shown.pieces[0].y - shown.pieces[2].y - 2 * 10 * 2355.0 / 2048) < 1e-3);
     }

@@ -5,6 +5,7 @@
 #include "error/Error.h"
 #include "text/MissingGlyphs.h"
 #include "text/readable/Paragraph.h"
+#include "text/readable/RowDrawing.h"
 
 #include <algorithm>
 
@@ -65,24 +66,7 @@ class PageColumn {
     /// Draws a row into the room that was taken.
     void show(Paragraph &paragraph, const TextRow &row) {
         const double start = m_left + (paragraph.isRightToLeft() ? m_width - row.width : 0);
-        QStringView read;
-        const auto readAs = [&](QStringView text) {
-            if (text.data() == read.data()) {
-                return;
-            }
-            if (!read.isEmpty()) {
-                m_sink.endReading();
-            }
-            if (!text.isEmpty()) {
-                m_sink.beginReading(text);
-            }
-            read = text;
-        };
-        for (const RowPiece &piece : paragraph.pieces(row)) {
-            readAs(piece.readAs);
-            m_sink.showRow(start + piece.x, m_baseline + piece.up, piece.glyphs);
-        }
-        readAs({});
+        drawRow(paragraph, row, start, m_baseline, m_sink);
     }
 
   private:

@@ -4,12 +4,19 @@
 
 #include "text/TextPageLayout.h"
 
+#include <QString>
+
 namespace folioforge {
 
 /// How readable pages of text are set.
 struct ReadableStyle {
     double tabWidth = 8;    ///< Blanks from one tab stop to the next.
     double lineSpacing = 1; ///< From baseline to baseline, in heights of a row.
+    /// What stands in the middle of the top and of the bottom margin, as withFacts() takes it.
+    QString header;
+    QString footer;
+
+    [[nodiscard]] bool hasMarginTexts() const { return !header.isEmpty() || !footer.isEmpty(); }
 };
 
 /// Lays `text` out as a person sets it, and gives the pages to `sink` in order: lines break between

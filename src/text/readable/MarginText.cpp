@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "text/readable/MarginText.h"
+
+#include "text/readable/Paragraph.h"
+#include "text/readable/RowDrawing.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <deque>
+#include <functional>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+namespace {
+
+struct Placeholder {
+    QLatin1StringView word;
+    std::function<QString(const PageFacts &)> fact;
+};
+
+const std::vector<Placeholder> &knownPlaceholders() {
+    static const std::vector<Placeholder> known{
+        {"{file}"_L1, [](const PageFacts &facts) { return facts.file; }},
+        {"{page}"_L1, [](const PageFacts &facts) { return QString::number(facts.page); }},
+        {"{pages}"_L1, [](const PageFacts &facts) { return QString::number(facts.pages); }},
+        {"{date}"_L1, [](const PageFacts &facts) { return facts.date; }},
+    };
+    return known;
+}
+
+/// The words in braces of `text`, or from an open brace to its end.
+QRegularExpressionMatchIterator wordsInBraces(const QString &text) {
+    static const QRegularExpression words(u"\\{[^}]*\\}?"_s);
+    return words.globalMatch(text);
+}
+
+const Placeholder *placeholderCalled(QStringView word) {
+    const auto &known = knownPlaceholders();
+    const auto found = std::ranges::find_if(
+        known, [word](const Placeholder &placeholder) { return word == placeholder.word; });
+    return found == known.end() ? nullptr : &*found;
+}
+
+/// A row of one of the paragraphs of a margin.
+struct MarginRow {
+    Paragraph *paragraph;
+    TextRow row;
+};
+
+} // namespace
+
+QStringList placeholders() {
+    QStringList words;
+    for (const Placeholder &known : knownPlaceholders()) {
+        words += known.word;
+    }
+    return words;
+}
+
+QString unknownPlaceholder(const QString &text) {
+    for (const QRegularExpressionMatch &match : wordsInBraces(text)) {
+        if (placeholderCalled(match.capturedView()) == nullptr) {
+            return match.captured();
+        }
+    }
+    return {};
+}
+
+QString withFacts(const QString &text, const PageFacts &facts) {
+    QString result;
+    qsizetype taken = 0;
+    for (const QRegularExpressionMatch &match : wordsInBraces(text)) {
+        const Placeholder *known = placeholderCalled(match.capturedView());
+        result += QStringView(text).sliced(taken, match.capturedStart() - taken);
+        result += known != nullptr ? known->fact(facts) : match.captured();
+        taken = match.capturedEnd();
+    }
+    return result += QStringView(text).sliced(taken);
+}
+
+void MarginText::setInto(const QRectF &band, QStringView text, TextPageSink &sink) {
+    constexpr double kBlanks = 8;
+    const double tabStop = kBlanks * m_font.glyph(U' ').advance;
+    std::deque<Paragraph> paragraphs;
+    std::vector<MarginRow> rows;
+    while (!text.isEmpty()) {
+        const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), endsLine);
+        const QStringView line = text.first(end - text.utf16());
+        Paragraph &paragraph = paragraphs.emplace_back(line, m_font, m_breaks, m_missing);
+        qsizetype taken = 0;
+        do {
+            rows.push_back({&paragraph, paragraph.takeRow(taken, band.width(), tabStop)});
+            taken = rows.back().row.end;
+        } while (taken < line.size());
+        text = text.sliced(std::min(line.size() + 1, text.size()));
+    }
+    const double height = m_font.rowHeight();
+    constexpr double kRounding = 1e-6;
+    const auto room = static_cast<std::size_t>(band.height() / height + kRounding);
+    m_isCut = m_isCut || rows.size() > room;
+    rows.resize(std::min(rows.size(), room));
+    double y = band.center().y() + static_cast<double>(rows.size()) * height / 2 - m_font.ascent();
+    for (const MarginRow &at : rows) {
+        const double x = band.center().x() - at.row.width / 2;
+        drawRow(*at.paragraph, at.row, x, y, sink);
+        y -= height;
+    }
+}
+
+Warnings MarginText::warnings() const {
+    Warnings warnings = m_missing.warnings();
+    if (m_isCut) {
+        warnings.push_back({WarningCode::MarginTextCut,
+                            u"The header or the footer has more rows than its margin"_s});
+    }
+    return warnings;
+}
+
+} // namespace folioforge
