@@ -65,7 +65,7 @@ struct Arguments {
     std::map<std::size_t, PageChoice> pageChoices; ///< By the positions of their inputs.
     std::vector<NameList> nameLists;
     bool listsEndInNull = false; ///< Each name of a list, instead of a line's end.
-    FolderTaking taking;
+    InputTaking taking;
     QByteArray inputType; ///< The extension that stands for the kind of standard input.
 };
 

@@ -27,7 +27,7 @@ QByteArray withoutSlashesAtEnd(QByteArray path) {
 /// The inputs as they are named, in their order, and the files among them.
 class Names {
   public:
-    Names(const FolderTaking &taking, ReadableLinks &readableLinks, PipedInputs &pipes)
+    Names(const InputTaking &taking, ReadableLinks &readableLinks, PipedInputs &pipes)
         : m_taking(taking)
         , m_readableLinks(readableLinks)
         , m_pipes(pipes) {}
@@ -55,7 +55,7 @@ class Names {
     /// `titles` are those of their bookmarks, in their order.
     std::vector<Input> read(const InputPasswords &passwords, const QStringList &titles) {
         std::vector<ReadEntry> entries =
-            readEntries(m_files, SourceReading::WhenWritten, passwords);
+            readEntries(m_files, SourceReading::WhenWritten, passwords, m_taking.further);
         auto next = entries.begin();
         qsizetype title = 0;
         for (Input &input : m_inputs) {
@@ -76,7 +76,7 @@ class Names {
     static void choosePages(Input &input) {
         input.read.entry.setPageChoice(input.pages);
         if (!input.pages.isNone() && input.read.problem.isEmpty() &&
-            fileKind(input.read.entry.filePathName()) != FileKind::Pdf) {
+            input.read.entry.kind() != FileKind::Pdf) {
             input.read.problem = kOnlyPdfs;
         }
     }
@@ -105,7 +105,7 @@ class Names {
     void addFolder(const QByteArray &path) {
         const QByteArray folder = withoutSlashesAtEnd(path);
         try {
-            FolderEntries found = listFolder(folder);
+            FolderEntries found = listFolder(folder, m_taking.further);
             const std::vector<QByteArray> folders = take(folder, found);
             if (Warnings leftOut = found.warnings(); !leftOut.empty()) {
                 Input &input = m_inputs.emplace_back();
@@ -149,7 +149,7 @@ class Names {
         return folders;
     }
 
-    FolderTaking m_taking;
+    InputTaking m_taking;
     ReadableLinks &m_readableLinks;
     PipedInputs &m_pipes;
     std::vector<Input> m_inputs;

@@ -24,8 +24,9 @@ struct Input {
     Warnings leftOut; ///< Only of a folder, which has no entry: what in it is no input.
 };
 
-/// What of a folder is taken beside its text and image files.
-struct FolderTaking {
+/// What is taken beside text and image files, and of a folder.
+struct InputTaking {
+    FurtherTypes further;
     bool pdfs = false;
     bool folders = false; ///< Those that no link leads to, which might lead round.
 };

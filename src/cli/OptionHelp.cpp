@@ -109,7 +109,10 @@ HelpSection textHelp() {
     return {
         "Text",
         "",
-        {{"--text-encoding", "auto|NAME",
+        {{"--as-text", "",
+          "md, log, csv, tsv, json, xml, source code and the like are texts, also in folders; the "
+          "manual lists them"},
+         {"--text-encoding", "auto|NAME",
           "of texts (default UTF-8), such as utf-16 or windows-1252; auto: by their bytes, with a "
           "warning where that is a guess"},
          {"--text-layout", "plain|readable",

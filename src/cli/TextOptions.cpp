@@ -73,6 +73,7 @@ void requireReadable(const TextArguments &text) {
 const std::vector<Option> &textOptions() {
     using Value = const QByteArray &;
     static const std::vector<Option> options{
+        {"--as-text", Option::Switch, [](Arguments &to, Value) { to.taking.further.texts = true; }},
         {"--text-encoding", Option::Valued,
          [](Arguments &to, Value value) {
              to.options.textEncoding = textOf(value);

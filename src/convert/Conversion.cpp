@@ -4,7 +4,6 @@
 
 #include "convert/PageWriters.h"
 #include "error/Error.h"
-#include "filelist/FileKind.h"
 #include "files/SystemCalls.h"
 #include "pdf/import/LeftParts.h"
 
@@ -39,7 +38,7 @@ template<typename Step> QString reasonOfFailure(Step &&step) {
 void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
               const std::stop_token &stop, EntryOutcome &outcome) {
     const int pagesBefore = context.pageCount();
-    switch (fileKind(entry.filePathName())) {
+    switch (entry.kind()) {
     case FileKind::Text:
         outcome.warnings = addTextPage(entry, context, options, stop);
         break;
@@ -136,7 +135,7 @@ void addAllMarginTexts(std::span<const PDFFileInfo *const> entries, PDFContext &
     int first = 0;
     for (std::size_t i = 0; i < outcomes.size(); ++i) {
         EntryOutcome &outcome = outcomes[i];
-        if (fileKind(entries[i]->filePathName()) == FileKind::Text) {
+        if (entries[i]->kind() == FileKind::Text) {
             std::ranges::move(
                 addMarginTexts(*entries[i], first, outcome.pages, context, options, stop),
                 std::back_inserter(outcome.warnings));

@@ -25,7 +25,7 @@ namespace {
 void accept(ReadEntry &read, SourceReading reading, const InputPasswords &passwords) {
     const QString &path = read.entry.filePathName();
     FileVersion::of(path); // Throws where no regular file is.
-    switch (fileKind(path)) {
+    switch (read.entry.kind()) {
     case FileKind::Pdf:
         read.refusedPdf = true;
         if (reading == SourceReading::WhenListed) {
@@ -45,9 +45,10 @@ void accept(ReadEntry &read, SourceReading reading, const InputPasswords &passwo
     }
 }
 
-ReadEntry readEntry(const QString &path, SourceReading reading, const InputPasswords &passwords) {
-    ReadEntry read{PDFFileInfo(path, reading), {}, false};
-    const FileKind kind = fileKind(path);
+ReadEntry readEntry(const QString &path, SourceReading reading, const InputPasswords &passwords,
+                    FurtherTypes further) {
+    ReadEntry read{PDFFileInfo(path, reading, further), {}, false};
+    const FileKind kind = read.entry.kind();
     if (kind == FileKind::Text || kind == FileKind::Pdf) {
         read.entry.setFileSize(sizeText(QFileInfo(path).size()));
     }
@@ -63,13 +64,13 @@ ReadEntry readEntry(const QString &path, SourceReading reading, const InputPassw
 } // namespace
 
 std::vector<ReadEntry> readEntries(const QStringList &paths, SourceReading reading,
-                                   const InputPasswords &passwords) {
+                                   const InputPasswords &passwords, FurtherTypes further) {
     const auto count = static_cast<std::size_t>(paths.size());
     std::vector<ReadEntry> read(count);
     std::atomic<std::size_t> next = 0;
     const auto work = [&] {
         for (std::size_t i = next++; i < count; i = next++) {
-            read[i] = readEntry(paths.at(static_cast<qsizetype>(i)), reading, passwords);
+            read[i] = readEntry(paths.at(static_cast<qsizetype>(i)), reading, passwords, further);
         }
     };
     // A thread costs more than a few small files.

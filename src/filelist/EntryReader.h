@@ -20,8 +20,8 @@ struct ReadEntry {
 
 /// Makes the entries of `paths` in their order. The files are read by several threads, as far as
 /// the list needs them; nothing is left running when it returns. Where they are read when they are
-/// written, `passwords` open encrypted PDFs.
+/// written, `passwords` open encrypted PDFs. Types beyond `further` are a problem.
 std::vector<ReadEntry> readEntries(const QStringList &paths, SourceReading reading,
-                                   const InputPasswords &passwords = {});
+                                   const InputPasswords &passwords = {}, FurtherTypes further = {});
 
 } // namespace folioforge

@@ -10,14 +10,15 @@ using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
-FileKind fileKind(const QString &path) {
+FileKind fileKind(const QString &path, FurtherTypes further) {
     const QString extension = pathExtension(path).toLower();
     for (const FileKind kind : std::array{FileKind::Text, FileKind::Image, FileKind::Pdf}) {
         if (extensionsOf(kind).contains(extension)) {
             return kind;
         }
     }
-    return FileKind::Other;
+    const QString type = extension.isEmpty() ? lastPathComponent(path).toLower() : extension;
+    return further.texts && furtherTexts().contains(type) ? FileKind::Text : FileKind::Other;
 }
 
 const QStringList &extensionsOf(FileKind kind) {
@@ -38,6 +39,20 @@ const QStringList &extensionsOf(FileKind kind) {
         break;
     }
     return none;
+}
+
+const QStringList &furtherTexts() {
+    static const QStringList texts =
+        QString::fromLatin1(
+            "md markdown rst adoc org tex bib log csv tsv json jsonl xml xsd xsl html htm css "
+            "scss yaml yml toml ini cfg conf properties env diff patch srt vtt po sql c h cc cpp "
+            "cxx hh hpp hxx m mm cs java kt kts scala groovy gradle swift go rs zig d dart js mjs "
+            "ts jsx tsx vue py rb pl pm php lua r jl hs ml erl ex exs clj el lisp scm f f90 f95 "
+            "pas ada adb ads asm s v vhd sv tcl awk sed sh bash zsh fish bat cmd ps1 cmake mk "
+            "proto graphql qml ui makefile dockerfile readme license copying authors changelog "
+            "news install todo")
+            .split(u' ');
+    return texts;
 }
 
 } // namespace folioforge

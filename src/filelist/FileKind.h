@@ -9,11 +9,21 @@ namespace folioforge {
 
 enum class FileKind { Text, Image, Pdf, Other };
 
-/// The kind of a file, by the lower-cased extension of its path alone.
-FileKind fileKind(const QString &path);
+/// What is taken beyond the types that the window lists.
+struct FurtherTypes {
+    bool texts = false; ///< What furtherTexts() names, as text.
+};
+
+/// The kind of a file, by the lower-cased extension of its path alone, or by its name where that is
+/// a further text without one.
+FileKind fileKind(const QString &path, FurtherTypes further = {});
 
 /// The recognised extensions of a kind, lower-cased, in the order in which file panels list them;
 /// none for Other.
 const QStringList &extensionsOf(FileKind kind);
+
+/// The extensions, lower-cased, of texts other than ".txt": markup, tables, logs and source code;
+/// with them the names of such files without an extension.
+const QStringList &furtherTexts();
 
 } // namespace folioforge

@@ -58,14 +58,16 @@ QVariant dateOrNothing(const QDateTime &date) {
 
 } // namespace
 
-PDFFileInfo::PDFFileInfo(const QString &path, SourceReading reading) {
-    m_filePathName = path;
+PDFFileInfo::PDFFileInfo(const QString &path, SourceReading reading, FurtherTypes further)
+    : m_filePathName(path)
+    , m_kind(fileKind(path, further)) {
     readSource(reading);
     setStateIndex(Waiting);
 }
 
 void PDFFileInfo::setFilePathName(const QString &path) {
     m_filePathName = path;
+    m_kind = fileKind(path);
     readSource(SourceReading::WhenListed);
 }
 
@@ -77,7 +79,7 @@ void PDFFileInfo::readSource(SourceReading reading) {
     m_readError.clear();
     m_readWarnings.clear();
     m_remarks.reset();
-    switch (fileKind(m_filePathName)) {
+    switch (m_kind) {
     case FileKind::Text:
         m_textIsHeld = reading == SourceReading::WhenListed;
         readText();

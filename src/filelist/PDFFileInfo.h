@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "filelist/FileKind.h"
 #include "filelist/TextSource.h"
 #include "image/ImageHeader.h"
 #include "pdf/PageChoice.h"
@@ -48,10 +49,12 @@ enum class SourceReading { WhenListed, WhenWritten };
 class PDFFileInfo {
   public:
     PDFFileInfo() = default;
-    explicit PDFFileInfo(const QString &path, SourceReading reading = SourceReading::WhenListed);
+    explicit PDFFileInfo(const QString &path, SourceReading reading = SourceReading::WhenListed,
+                         FurtherTypes further = {});
 
     [[nodiscard]] const QString &filePathName() const { return m_filePathName; }
     [[nodiscard]] const QString &fileName() const { return m_fileName; }
+    [[nodiscard]] FileKind kind() const { return m_kind; }
     [[nodiscard]] const QString &destFilePathName() const { return m_destFilePathName; }
     [[nodiscard]] const QString &destFileName() const { return m_destFileName; }
     [[nodiscard]] int pageCount() const { return m_pageCount; }
@@ -119,6 +122,7 @@ class PDFFileInfo {
     [[nodiscard]] RichText linkText() const;
 
     QString m_filePathName = QStringLiteral("");
+    FileKind m_kind = FileKind::Other;
     QString m_fileName;
     QString m_destFilePathName;
     QString m_destFileName;

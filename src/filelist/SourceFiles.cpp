@@ -25,9 +25,10 @@ QStringList counted(std::size_t count, const QString &one, const QString &severa
     return {count == 1 ? one : several.arg(count)};
 }
 
-void count(const std::filesystem::directory_entry &entry, FolderEntries &found) {
+void count(const std::filesystem::directory_entry &entry, FurtherTypes further,
+           FolderEntries &found) {
     const std::string name = entry.path().filename().string();
-    const FileKind kind = fileKind(QFile::decodeName(name.c_str()));
+    const FileKind kind = fileKind(QFile::decodeName(name.c_str()), further);
     std::error_code unknown;
     const bool isFolder = entry.is_directory(unknown);
     if (!isFolder && (kind == FileKind::Text || kind == FileKind::Image)) {
@@ -54,12 +55,12 @@ Warnings FolderEntries::warnings() const {
     return {{WarningCode::FolderEntriesLeft, u"Left out: "_s + left.join(u", "_s)}};
 }
 
-FolderEntries listFolder(const QByteArray &folder) {
+FolderEntries listFolder(const QByteArray &folder, FurtherTypes further) {
     FolderEntries found;
     std::error_code failure;
     std::filesystem::directory_iterator entry(folder.toStdString(), failure);
     while (!failure && entry != std::filesystem::directory_iterator()) {
-        count(*entry, found);
+        count(*entry, further, found);
         entry.increment(failure);
     }
     if (failure) {

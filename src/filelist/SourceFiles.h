@@ -29,8 +29,8 @@ struct FolderEntries {
     [[nodiscard]] Warnings warnings() const;
 };
 
-/// Lists `folder`. Throws Error when it cannot be listed to its end.
-FolderEntries listFolder(const QByteArray &folder);
+/// Lists `folder`, with texts of `further` types. Throws Error when it cannot be listed to its end.
+FolderEntries listFolder(const QByteArray &folder, FurtherTypes further = {});
 
 /// Appends to `files` the paths ("folder/name", or links to them) of the names that listFolder()
 /// gives; nothing where `folder` cannot be listed.

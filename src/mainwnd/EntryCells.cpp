@@ -138,7 +138,7 @@ QVariant entryCell(const PDFFileInfo &entry, int column, int role) {
     case FilesArray::kLinkRole:
         return isLink(entry, column);
     case FilesArray::kKindRole:
-        return static_cast<int>(fileKind(entry.filePathName()));
+        return static_cast<int>(entry.kind());
     default:
         return {};
     }

@@ -67,7 +67,7 @@ std::optional<QStringList> draggedPaths(const QMimeData &data, ReadableLinks &re
 
 /// A bad PDF stays out of the list; any other file with a problem enters it.
 bool isBadPdf(const ReadEntry &read) {
-    return !read.problem.isEmpty() && fileKind(read.entry.filePathName()) == FileKind::Pdf;
+    return !read.problem.isEmpty() && read.entry.kind() == FileKind::Pdf;
 }
 
 bool isDroppable(const QString &path) {

@@ -32,11 +32,12 @@ class ExamplesTest : public QObject, CommandLineCase {
 
     /// What the examples speak of, as users have it.
     void makeInputs() const {
-        for (const char *folder : {"scans", "photos", "pages", "archive/1999"}) {
+        for (const char *folder : {"scans", "photos", "pages", "src", "archive/1999"}) {
             QVERIFY(QDir().mkpath(path(folder)));
         }
-        for (const char *name : {"notes.txt", "cover.txt", "offer.txt", "pages/page2.txt",
-                                 "pages/page10.txt", "scans/page1.txt"}) {
+        for (const char *name :
+             {"notes.txt", "cover.txt", "offer.txt", "pages/page2.txt", "pages/page10.txt",
+              "scans/page1.txt", "README.md", "src/main.c"}) {
             text(name);
         }
         text("secret", "a password\n");
