@@ -103,6 +103,9 @@ class ArgumentReader {
         if (m_result.bookmarkTitleFile && !hasThoseOfFiles(options.bookmarks)) {
             throw ArgumentFault(u"--bookmark-titles needs --bookmarks files or both"_s);
         }
+        if (options.compressGrey && options.compressIndex == 0 && !options.compressFilter) {
+            throw ArgumentFault(u"--compress-grey needs --compress"_s);
+        }
         if (m_result.listsEndInNull && m_result.nameLists.empty()) {
             throw ArgumentFault(u"-0 and --null say how names end in a list of --files-from"_s);
         }

@@ -51,9 +51,12 @@ HelpSection outputHelp() {
          {"--flush", "always|never",
           "whether a PDF is flushed to disk before it gets its name (default always; never suits "
           "scratch disks)"},
-         {"--compress", "none|150m|96m|72l",
+         {"--compress", "none|150m|96m|72l|DPI:QUALITY",
           "photos reduced to 150, 96 or 72 pixels per inch: 150m mild, good for printing; 96m "
-          "medium, good for screens; 72l strong, good for mail (default none)"}}};
+          "medium, good for screens; 72l strong, good for mail (default none); or to DPI, 9 to "
+          "2400, with a JPEG quality of 1 to 100 (65 without it); scans in black and white become "
+          "Group 4 where that is smaller"},
+         {"--compress-grey", "", "with --compress: pictures in colour become grey"}}};
 }
 
 HelpSection documentHelp() {

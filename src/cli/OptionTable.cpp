@@ -20,6 +20,7 @@ namespace {
 constexpr int kMostJobs = 256;
 constexpr int kLeastDpi = 5; // What a picture may state.
 constexpr int kMostDpi = 25400;
+constexpr int kBestQuality = 100; // Of a JPEG.
 
 /// Splits the path of the merged file; a name alone stands in the current folder, and "-" for
 /// standard output. Throws ArgumentFault where the path leads to a folder.
@@ -36,6 +37,33 @@ void takeMergePath(const QString &path, Arguments &to) {
         throw ArgumentFault(u"\"%1\" is a folder, not the name of a PDF"_s.arg(path));
     }
     options.outputFolder = slash < 0 ? u"."_s : path.first(std::max<qsizetype>(slash, 1));
+}
+
+/// Takes "none", a filter of the window or "DPI:QUALITY", the second where it is wanted. Throws
+/// ArgumentFault.
+void takeCompression(const QString &text, ConversionOptions &options) {
+    constexpr std::array kFilters{"none"_L1, "150m"_L1, "96m"_L1, "72l"_L1};
+    const auto *known = std::ranges::find(kFilters, text);
+    options.compressIndex =
+        known == kFilters.end() ? 0 : static_cast<int>(known - kFilters.begin());
+    options.compressFilter.reset();
+    if (known != kFilters.end()) {
+        return;
+    }
+    const QStringList parts = text.split(u':');
+    bool isNumber = false;
+    parts.first().toDouble(&isNumber);
+    if (!isNumber || parts.size() > 2) {
+        throw ArgumentFault(
+            u"\"%1\" is none of none, 150m, 96m, 72l and DPI:QUALITY, such as 120 or "
+            "120:70"_s.arg(text));
+    }
+    QuartzFilter &filter = options.compressFilter.emplace();
+    filter.resolution =
+        parseNumber(parts.first(), QuartzFilter::kLeastResolution, QuartzFilter::kMostResolution);
+    if (parts.size() == 2) {
+        filter.jpegQuality = parseWhole(parts.last(), 1, kBestQuality);
+    }
 }
 
 /// The pages of the input before the option. Throws ArgumentFault where there is none.
@@ -108,12 +136,9 @@ const std::vector<Option> &outputOptions() {
                                                {QLatin1StringView("never"), Flush::Never}});
          }},
         {"--compress", Option::Valued,
-         [](Arguments &to, Value value) {
-             to.options.compressIndex = chosen<int>(textOf(value), {{QLatin1StringView("none"), 0},
-                                                                    {QLatin1StringView("150m"), 1},
-                                                                    {QLatin1StringView("96m"), 2},
-                                                                    {QLatin1StringView("72l"), 3}});
-         }},
+         [](Arguments &to, Value value) { takeCompression(textOf(value), to.options); }},
+        {"--compress-grey", Option::Switch,
+         [](Arguments &to, Value) { to.options.compressGrey = true; }},
     };
     return options;
 }

@@ -33,6 +33,9 @@ namespace folioforge {
 
 namespace {
 
+/// What PDF/A allows without conditions: of the white and the steps of sRGB.
+constexpr const char *kGreyOfNoDevice = "[/CalGray << /WhitePoint [0.9505 1 1.089] /Gamma 2.2 >>]";
+
 QString stopped() {
     return u"The conversion was stopped"_s;
 }
@@ -118,7 +121,7 @@ std::vector<KeptImage> byPage(std::vector<KeptImage> images) {
     return images;
 }
 
-void runPass(const QString &path, const QuartzFilter &filter, const CompressionOptions &options,
+void runPass(const QString &path, QuartzFilter filter, const CompressionOptions &options,
              OutputPipeline &output, const EndPageWrite &endPageWrite,
              CompressionOutcome &outcome) {
     const auto reader = std::make_shared<SourceReader>(options.calls);
@@ -128,6 +131,9 @@ void runPass(const QString &path, const QuartzFilter &filter, const CompressionO
         unlock(document, input, options.encryption.get());
         mergeDuplicateStreams(document);
         const Claims claims = claimsOf(document);
+        if (options.grey) {
+            filter.grey = claims.pdfA.isEmpty() ? "/DeviceGray" : kGreyOfNoDevice;
+        }
         ImagePlan plan = planImages(document, findImageUses(document), filter);
         if (!claims.pdfA.isEmpty()) {
             keepColorsOfData(plan);
@@ -146,10 +152,11 @@ void runPass(const QString &path, const QuartzFilter &filter, const CompressionO
 /// Makes the copy of the document at `path`, and hands it over where it is smaller.
 void compressInto(const QString &path, const CompressionOptions &options,
                   const EndPageWrite &endPageWrite, CompressionOutcome &outcome) {
-    const QuartzFilter filter = readQuartzFilter(options.filterFile);
+    const QuartzFilter filter =
+        options.filter ? *options.filter : readQuartzFilter(options.filterFile);
     TemporaryCopy copy(options.temporaryFolder, path, options.calls);
     runPass(path, filter, options, copy.pipeline(), endPageWrite, outcome);
-    if (copy.size() >= outcome.bytesBefore) {
+    if (!options.grey && copy.size() >= outcome.bytesBefore) {
         outcome.imagesReduced = 0;
         return;
     }

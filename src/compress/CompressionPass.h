@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "compress/QuartzFilter.h"
 #include "files/OutputFile.h"
 
 #include <QString>
@@ -45,14 +46,16 @@ struct CompressionOutcome {
 
 /// What one pass works with.
 struct CompressionOptions {
-    QString filterFile;      ///< The Quartz filter that the document goes through.
+    QString filterFile; ///< The Quartz filter that the document goes through, without `filter`.
     QString temporaryFolder; ///< Gets the compressed copy.
     /// The passwords and permissions that the document has and the copy gets; null for none.
     std::shared_ptr<const Encryption> encryption = {};
     /// What the document is read and the copy is written through.
     std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
     Flush flush = Flush::Never; ///< Whether the copy is brought to its disk.
-    std::stop_token stop = {};  ///< Once it is requested, the pass fails at its next read or write.
+    std::optional<QuartzFilter> filter = {};
+    bool grey = false;         ///< Pictures in colour become grey, even where nothing gets smaller.
+    std::stop_token stop = {}; ///< Once it is requested, the pass fails at its next read or write.
 };
 
 /// Called when a page of the copy is written; `pageIndex` counts from 0.

@@ -2,7 +2,7 @@
 
 #include "compress/ImagePlan.h"
 
-#include "compress/StreamFilters.h"
+#include "compress/ImageColors.h"
 
 #include <algorithm>
 #include <array>
@@ -72,64 +72,10 @@ QString describeFilters(QPDFObjectHandle dictionary, ImageJob &job) {
     return {};
 }
 
-/// Components of a colour space whose samples may be averaged; 0 for others.
-int plainComponents(QPDFObjectHandle space) {
-    QPDFObjectHandle family = space;
-    if (space.isArray() && space.getArrayNItems() > 0) {
-        family = space.getArrayItem(0);
-    }
-    if (!family.isName()) {
-        return 0;
-    }
-    const std::string name = family.getName();
-    if (name == "/DeviceGray" || name == "/CalGray") {
-        return 1;
-    }
-    if (name == "/DeviceRGB" || name == "/CalRGB") {
-        return 3;
-    }
-    if (name == "/DeviceCMYK") {
-        return 4;
-    }
-    if (name == "/ICCBased" && space.isArray() && space.getArrayNItems() > 1 &&
-        space.getArrayItem(1).isStream()) {
-        const int components = integer(space.getArrayItem(1).getDict(), "/N");
-        return components == 1 || components == 3 || components == 4 ? components : 0;
-    }
-    return 0;
-}
-
-bool isIndexed(QPDFObjectHandle space) {
-    return space.isArray() && space.getArrayNItems() == 4 &&
-           space.getArrayItem(0).isNameAndEquals("/Indexed");
-}
-
-/// The data of a colour table, which take 1024 bytes and, of some writers, padding; empty where
-/// they cannot be decoded.
-std::string paletteData(QPDFObjectHandle table) {
-    constexpr std::size_t kMaxBytes = 64 << 10;
-    std::string data;
-    BoundedBuffer target(data, kMaxBytes);
-    bool filtered = false;
-    table.pipeStreamData(&target, &filtered, 0, qpdf_dl_specialized);
-    return filtered ? data : std::string();
-}
-
 QString describePalette(QPDFObjectHandle space, ImageJob &job) {
     job.components = plainComponents(space.getArrayItem(1));
-    QPDFObjectHandle table = space.getArrayItem(3);
-    if (table.isString()) {
-        job.palette = table.getStringValue();
-    } else if (table.isStream()) {
-        job.palette = paletteData(table);
-    }
-    constexpr std::size_t kMaxColors = 256;
-    if (job.components == 0 || job.palette.size() < static_cast<std::size_t>(job.components)) {
-        return u"an unusual colour space"_s;
-    }
-    job.palette.resize(
-        std::min(job.palette.size(), kMaxColors * static_cast<std::size_t>(job.components)));
-    return {};
+    job.palette = paletteOf(space);
+    return job.palette.empty() ? u"an unusual colour space"_s : QString();
 }
 
 QString describeColor(QPDFObjectHandle dictionary, ImageJob &job) {
@@ -199,6 +145,18 @@ double scaleFor(const ImageJob &job, const ImageUse &use, const QuartzFilter &fi
     return std::max(scale, 1.0 / std::max(job.width, job.height));
 }
 
+/// Sets what makes a picture in colour grey, where `filter` asks for that.
+QString describeGrey(QPDFObjectHandle dictionary, const QuartzFilter &filter, ImageJob &job) {
+    if (filter.grey.empty() || job.components == 1) {
+        return {};
+    }
+    job.grey = filter.grey;
+    job.isInverted = isInverted(dictionary, job.components);
+    return isPlainDecode(dictionary, job.components) || job.components == 0
+               ? QString()
+               : u"an unusual range of colours"_s;
+}
+
 QString describeSize(const QPDFObjectHandle &dictionary, const QuartzFilter &filter,
                      ImageJob &job) {
     job.width = integer(dictionary, "/Width");
@@ -228,6 +186,40 @@ QString describeScale(const ImageUse &use, const QuartzFilter &filter, ImageJob 
     return {};
 }
 
+/// Whether a pixel of the image is a bit, whatever its two values stand for.
+bool isBilevel(QPDFObjectHandle dictionary) {
+    QPDFObjectHandle stencil = dictionary.getKey("/ImageMask");
+    if (stencil.isBool() && stencil.getBoolValue()) {
+        return true;
+    }
+    QPDFObjectHandle space = dictionary.getKey("/ColorSpace");
+    return integer(dictionary, "/BitsPerComponent") == 1 &&
+           (isIndexed(space) || plainComponents(space) == 1);
+}
+
+/// The job that stores a bilevel image better, bit by bit the same.
+std::variant<ImageJob, QString> decideBilevel(QPDFObjectHandle dictionary,
+                                              const QuartzFilter &filter) {
+    ImageJob job;
+    job.purpose = ImagePurpose::Bilevel;
+    job.bitsPerComponent = 1;
+    QString reason = describeSize(dictionary, filter, job);
+    if (reason.isEmpty()) {
+        reason = describeFilters(dictionary, job);
+    }
+    if (reason.isEmpty() && job.codec != ImageCodec::Samples) {
+        reason = u"an unusual filter"_s;
+    }
+    constexpr double kBits = 8;
+    if (static_cast<double>(job.width) * job.height / kBits > kMaxSampleBytes) {
+        reason = u"too large"_s;
+    }
+    if (!reason.isEmpty()) {
+        return reason;
+    }
+    return job;
+}
+
 /// The job that reduces the image, or the reason why it stays as it is.
 std::variant<ImageJob, QString> decide(QPDFObjectHandle image, const ImageUse &use,
                                        const QuartzFilter &filter, ImagePurpose purpose) {
@@ -235,6 +227,9 @@ std::variant<ImageJob, QString> decide(QPDFObjectHandle image, const ImageUse &u
         return u"drawn at a size that cannot be told"_s;
     }
     QPDFObjectHandle dictionary = image.getDict();
+    if (isBilevel(dictionary)) {
+        return decideBilevel(dictionary, filter);
+    }
     ImageJob job;
     job.purpose = purpose;
     job.lineArt = filter.keepLineArt ? LineArt::Keep : LineArt::Reduce;
@@ -247,6 +242,9 @@ std::variant<ImageJob, QString> decide(QPDFObjectHandle image, const ImageUse &u
         if (reason.isEmpty()) {
             reason = describe(dictionary, job);
         }
+    }
+    if (reason.isEmpty() && purpose == ImagePurpose::Photo) {
+        reason = describeGrey(dictionary, filter, job);
     }
     if (reason.isEmpty()) {
         reason = describeScale(use, filter, job);
@@ -288,6 +286,9 @@ void planUse(QPDF &document, const ImageUse &use, const QuartzFilter &filter, Im
     QPDFObjectHandle image = document.getObjectByObjGen(use.image);
     std::variant<ImageJob, QString> decision;
     try {
+        if (!filter.grey.empty()) {
+            greyPalette(image.getDict(), filter.grey);
+        }
         decision = decide(image, use, filter, purpose);
     } catch (const std::exception &) {
         decision = u"damaged: its description is wrong"_s;

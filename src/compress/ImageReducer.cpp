@@ -2,6 +2,8 @@
 
 #include "compress/ImageReducer.h"
 
+#include "compress/Group4.h"
+#include "compress/ImageColors.h"
 #include "compress/JpxReader.h"
 #include "compress/PlanarImage.h"
 #include "compress/Resampler.h"
@@ -46,6 +48,14 @@ Error wrongSize() {
     return Error(u"the data is of another size than the image says"_s);
 }
 
+Error lessData() {
+    return Error(u"less data than the image's size needs"_s);
+}
+
+Reduction notSmaller() {
+    return {std::nullopt, u"would not get smaller"_s};
+}
+
 int eighthsFor(double scale) {
     return std::clamp(static_cast<int>(std::ceil(scale * 8 / kCloseEnough)), 1, 8);
 }
@@ -56,7 +66,7 @@ PlanarImage decodeJpeg(const ImageJob &job, const std::string &data) {
         reader.components() != job.components) {
         throw wrongSize();
     }
-    if (job.scale >= 1 && reader.quality() < job.jpegQuality + kQualityGain) {
+    if (job.scale >= 1 && job.grey.empty() && reader.quality() < job.jpegQuality + kQualityGain) {
         throw Error(u"already a JPEG of no higher quality"_s);
     }
     return reader.decode(eighthsFor(job.scale));
@@ -91,7 +101,7 @@ PlanarImage unpackSamples(const ImageJob &job, const std::string &data) {
     const std::size_t step = stored * static_cast<std::size_t>(job.bitsPerComponent) / 8;
     PlanarImage image(job.width, job.height);
     if (data.size() / step < static_cast<std::size_t>(job.width) * job.height) {
-        throw Error(u"less data than the image's size needs"_s);
+        throw lessData();
     }
     image.addPlanes(job.components);
     if (!job.palette.empty()) {
@@ -135,38 +145,51 @@ bool looksDrawn(const PlanarImage &image) {
     return equal * 2 > seen;
 }
 
-PlanarImage decodeSamples(const ImageJob &job, const std::string &data) {
+/// A decoded picture, in JPEG's own form, at the wanted size or above.
+struct Decoded {
+    PlanarImage image;
+    bool keepsPixels = false; ///< It is drawn and is to be grey alone.
+};
+
+Decoded decodeSamples(const ImageJob &job, const std::string &data) {
     PlanarImage image = unpackSamples(job, data);
-    if (job.purpose == ImagePurpose::Photo && job.lineArt == LineArt::Keep && looksDrawn(image)) {
+    const bool isDrawn =
+        job.purpose == ImagePurpose::Photo && job.lineArt == LineArt::Keep && looksDrawn(image);
+    if (isDrawn && job.grey.empty()) {
         throw Error(u"line art"_s);
     }
     toJpegColor(image);
-    return image;
+    return {std::move(image), isDrawn};
 }
 
-/// The image in JPEG's own form, at the wanted size or above; `data` is without lossless filters.
-PlanarImage decode(const ImageJob &job, const std::string &data) {
+/// `data` is without lossless filters.
+Decoded decode(const ImageJob &job, const std::string &data) {
     switch (job.codec) {
     case ImageCodec::Jpeg:
-        return decodeJpeg(job, data);
+        return {decodeJpeg(job, data)};
     case ImageCodec::Jpx:
-        return decodeJpx(job, data);
+        return {decodeJpx(job, data)};
     case ImageCodec::Samples:
         break;
     }
     return decodeSamples(job, data);
 }
 
-PlanarImage decode(const ImageJob &job) {
+/// The data without lossless filters; `samples` is how many bytes the image has.
+std::string withoutFilters(const ImageJob &job, std::size_t samples) {
+    constexpr std::size_t kSlack = 4096;
+    const std::size_t maxBytes = std::max(samples, job.data.size()) + kSlack;
+    return decodeLossless(job.data, job.filter, job.parameters, maxBytes);
+}
+
+Decoded decode(const ImageJob &job) {
     if (job.filter.empty()) {
         return decode(job, job.data);
     }
-    constexpr std::size_t kSlack = 4096;
     const std::size_t samples = static_cast<std::size_t>(job.width) * job.height *
                                 static_cast<std::size_t>(job.components) *
                                 static_cast<std::size_t>(job.bitsPerComponent) / 8;
-    const std::size_t maxBytes = std::max(samples, job.data.size()) + kSlack;
-    return decode(job, decodeLossless(job.data, job.filter, job.parameters, maxBytes));
+    return decode(job, withoutFilters(job, samples));
 }
 
 /// Brought to the wanted size, or left at that of the decoder where this is near enough.
@@ -177,14 +200,41 @@ PlanarImage sampledDown(PlanarImage image, Size wanted) {
     return resample(std::move(image), wanted.width, wanted.height);
 }
 
-Reduction reduce(const ImageJob &job) {
-    const PlanarImage image = sampledDown(decode(job), scaled(job));
-    const bool asFlate = job.purpose == ImagePurpose::SoftMask && job.codec == ImageCodec::Samples;
+Reduction reduceBilevel(const ImageJob &job) {
+    constexpr std::size_t kBits = 8;
+    const std::size_t size = (static_cast<std::size_t>(job.width) + kBits - 1) / kBits *
+                             static_cast<std::size_t>(job.height);
+    std::string rows = job.filter.empty() ? job.data : withoutFilters(job, size);
+    if (rows.size() < size) {
+        throw lessData();
+    }
+    rows.resize(size);
+    Group4 encoded = encodeGroup4(std::move(rows), job.width, job.height);
+    if (encoded.data.size() >= job.data.size()) {
+        return notSmaller();
+    }
+    return {ReducedImage{std::move(encoded.data), job.width, job.height, 1, ReducedForm::Group4,
+                         encoded.blackIs1},
+            {}};
+}
+
+Reduction reducePicture(const ImageJob &job) {
+    auto [image, keepsPixels] = decode(job);
+    if (!keepsPixels) {
+        image = sampledDown(std::move(image), scaled(job));
+    }
+    const bool wasColored = image.components() > 1;
+    if (!job.grey.empty() && wasColored) {
+        toGrey(image, job.isInverted);
+    }
+    const bool asFlate =
+        keepsPixels || (job.purpose == ImagePurpose::SoftMask && job.codec == ImageCodec::Samples);
     ReducedImage reduced{
         asFlate ? encodeFlate(image.planes[0]) : encodeJpeg(image, job.jpegQuality), image.width,
         image.height, image.components(), asFlate ? ReducedForm::Flate : ReducedForm::Jpeg};
-    if (reduced.data.size() >= job.data.size()) {
-        return {std::nullopt, u"would not get smaller"_s};
+    const bool isForSize = job.grey.empty() || !wasColored;
+    if (isForSize && reduced.data.size() >= job.data.size()) {
+        return notSmaller();
     }
     return {std::move(reduced), {}};
 }
@@ -193,7 +243,7 @@ Reduction reduce(const ImageJob &job) {
 
 Reduction reduceImage(const ImageJob &job) noexcept {
     try {
-        return reduce(job);
+        return job.purpose == ImagePurpose::Bilevel ? reduceBilevel(job) : reducePicture(job);
     } catch (const Error &error) {
         return {std::nullopt, error.reason()};
     } catch (const std::bad_alloc &) {

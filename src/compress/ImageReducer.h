@@ -13,7 +13,8 @@ namespace folioforge {
 enum class ImageCodec { Samples, Jpeg, Jpx };
 
 /// What an image is there for: opacity is kept exact, without JPEG's traces around edges.
-enum class ImagePurpose { Photo, SoftMask };
+/// A bilevel image keeps every bit.
+enum class ImagePurpose { Photo, SoftMask, Bilevel };
 
 enum class LineArt { Keep, Reduce };
 
@@ -34,17 +35,22 @@ struct ImageJob {
     int jpegQuality = 60;              ///< 1 to 100.
     ImagePurpose purpose = ImagePurpose::Photo;
     LineArt lineArt = LineArt::Keep;
+    std::string grey;        ///< The colour space, in PDF syntax, of a picture in colour that is to
+                             ///< be grey; else empty.
+    bool isInverted = false; ///< Such a picture: its samples stand for the contrary.
 };
 
-enum class ReducedForm { Jpeg, Flate };
+enum class ReducedForm { Jpeg, Flate, Group4 };
 
-/// The smaller image: 8 bits a component, no palette. Flate data has PNG predictors (Predictor 15).
+/// The smaller image: 8 bits a component, no palette, or the bits of a bilevel one. Flate data has
+/// PNG predictors (Predictor 15).
 struct ReducedImage {
     std::string data;
     int width = 0;
     int height = 0;
     int components = 1;
     ReducedForm form = ReducedForm::Jpeg;
+    bool blackIs1 = false; ///< The parameter of that name of Group 4.
 };
 
 /// Either the smaller image, or the reason why the old one stays.

@@ -4,15 +4,23 @@
 
 #include <QString>
 
+#include <string>
+
 namespace folioforge {
 
 /// What one filter file says about reducing the images of a document.
 struct QuartzFilter {
+    static constexpr double kLeastResolution = 9;
+    static constexpr double kMostResolution = 2400;
+
     double resolution = 150; ///< Pixels per inch of printed size that an image is sampled down to.
-    int jpegQuality = 60;    ///< 1 to 100, on the scale of libjpeg.
+    int jpegQuality = 65;    ///< 1 to 100, on the scale of libjpeg.
     double tolerance = 1.2;  ///< Images up to this many times `resolution` keep their pixels.
     qint64 smallestImage = 64; ///< Images with fewer pixels are left alone.
     bool keepLineArt = true;   ///< Lossless drawings and screenshots stay lossless.
+    /// The colour space, in PDF syntax, that pictures in colour get; empty where they keep theirs.
+    /// No filter file says it.
+    std::string grey;
 };
 
 /// The filter's name at row `index` of the compress methods: "150m", "96m", "72l"; empty for 0,

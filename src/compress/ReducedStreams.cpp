@@ -41,7 +41,21 @@ void setPredictor(QPDFObjectHandle dictionary, const ReducedImage &image) {
     dictionary.replaceKey("/DecodeParms", parameters);
 }
 
+void describeGroup4(QPDFObjectHandle dictionary, const ReducedImage &image) {
+    QPDFObjectHandle parameters = QPDFObjectHandle::newDictionary();
+    parameters.replaceKey("/K", QPDFObjectHandle::newInteger(-1));
+    parameters.replaceKey("/Columns", QPDFObjectHandle::newInteger(image.width));
+    parameters.replaceKey("/Rows", QPDFObjectHandle::newInteger(image.height));
+    parameters.replaceKey("/BlackIs1", QPDFObjectHandle::newBool(image.blackIs1));
+    dictionary.replaceKey("/Filter", QPDFObjectHandle::newName("/CCITTFaxDecode"));
+    dictionary.replaceKey("/DecodeParms", parameters);
+}
+
 void describe(QPDFObjectHandle dictionary, const ImageJob &job, const ReducedImage &image) {
+    if (image.form == ReducedForm::Group4) {
+        describeGroup4(dictionary, image);
+        return;
+    }
     dictionary.replaceKey("/Width", QPDFObjectHandle::newInteger(image.width));
     dictionary.replaceKey("/Height", QPDFObjectHandle::newInteger(image.height));
     dictionary.replaceKey("/BitsPerComponent", QPDFObjectHandle::newInteger(8));
@@ -52,7 +66,10 @@ void describe(QPDFObjectHandle dictionary, const ImageJob &job, const ReducedIma
         dictionary.replaceKey("/Filter", QPDFObjectHandle::newName("/DCTDecode"));
         dictionary.removeKey("/DecodeParms");
     }
-    if (!job.palette.empty()) {
+    if (!job.grey.empty()) {
+        dictionary.replaceKey("/ColorSpace", QPDFObjectHandle::parse(job.grey));
+        dictionary.removeKey("/Decode");
+    } else if (!job.palette.empty()) {
         dictionary.replaceKey("/ColorSpace", dictionary.getKey("/ColorSpace").getArrayItem(1));
     } else if (job.components == 0) {
         const char *space = image.components == 1 ? "/DeviceGray" : "/DeviceRGB";

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "compress/QuartzFilter.h"
 #include "convert/ImagePlacement.h"
 #include "pdf/PDFContext.h"
 #include "text/FontCascade.h"
@@ -71,6 +72,8 @@ struct ConversionOptions {
     std::optional<ReadableStyle> readable; ///< Text is set as a person sets it.
     int mostTextPages = 0; ///< Of an entry, for one who looks at a part of it; 0 for all.
     int compressIndex = 0; ///< 0 none, 1 "150m", 2 "96m", 3 "72l".
+    std::optional<QuartzFilter> compressFilter; ///< In place of the filter of that row.
+    bool compressGrey = false;                  ///< Pictures in colour become grey.
     Flush flush = Flush::Always;
     Overwrite overwrite = Overwrite::Never;
     bool dryRun = false; ///< Pages are made, and no document is written.

@@ -151,6 +151,8 @@ CompressionOutcome Run::compressed(const QString &path, const QString &temporary
                                      encryptionFor(m_options.security),
                                      m_options.calls,
                                      flush,
+                                     m_options.compressFilter,
+                                     m_options.compressGrey,
                                      m_stop};
     return folioforge::compress(path, options, [&](int pageIndex, int pageCount) {
         observer.endPageWrite(pageIndex, pageCount);

@@ -90,7 +90,9 @@ class Run {
     [[nodiscard]] PDFOutcome createPDF(std::size_t firstEntry, const QString &path,
                                        ConversionObserver &observer);
     /// Whether the options ask for a compression pass.
-    [[nodiscard]] bool compresses() const { return m_options.compressIndex != 0; }
+    [[nodiscard]] bool compresses() const {
+        return m_options.compressIndex != 0 || m_options.compressFilter;
+    }
     /// Compresses the PDF at `path` into `temporaryFolder`, as the function of this name.
     [[nodiscard]] CompressionOutcome compress(const QString &path, const QString &temporaryFolder,
                                               ConversionObserver &observer, Flush flush);
