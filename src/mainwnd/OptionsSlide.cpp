@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QWindow>
 
 #include <algorithm>
 #include <chrono>
@@ -20,10 +21,16 @@ namespace folioforge {
 
 namespace {
 
-/// Whether two places are one: the screen counts in pixels, which are not always points.
-bool isSame(const QRect &a, const QRect &b) {
-    return std::abs(a.x() - b.x()) <= 1 && std::abs(a.y() - b.y()) <= 1 &&
-           std::abs(a.width() - b.width()) <= 1 && std::abs(a.height() - b.height()) <= 1;
+/// Whether each edge of `place` is one of `places`. Late reports reach the window in parts, so that
+/// it seems to have the place of one step and the size of another. The screen counts in pixels,
+/// which are not always points.
+bool isMadeOf(const QRect &place, const QList<QRect> &places) {
+    const auto has = [&](int (QRect::*edge)() const) {
+        return std::ranges::any_of(places, [&](const QRect &one) {
+            return std::abs((one.*edge)() - (place.*edge)()) <= 1;
+        });
+    };
+    return has(&QRect::x) && has(&QRect::y) && has(&QRect::width) && has(&QRect::height);
 }
 
 } // namespace
@@ -75,14 +82,11 @@ void OptionsSlide::takeUsersChanges() {
     const bool isAtRest = !m_settling.isActive();
     if (isAtRest && m_drawer.openWidth() == 0) {
         m_closed = now;
+        m_asked = {now};
         return;
     }
-    const auto isNow = [&now](const QRect &asked) { return isSame(asked, now); };
-    if (std::ranges::any_of(m_asked, isNow)) {
-        return; // One of the steps, which the screen reports late.
-    }
     const QRect before = isAtRest || m_asked.isEmpty() ? m_settled : m_asked.back();
-    if (isSame(now, before)) {
+    if (isMadeOf(now, m_asked + QList{before})) {
         return;
     }
     m_closed.setSize(m_closed.size() + now.size() - before.size());
@@ -91,7 +95,7 @@ void OptionsSlide::takeUsersChanges() {
         m_shift = m_window.isRightToLeft() ? m_drawer.openWidth() : 0;
         m_closed.moveLeft(now.left() + m_shift);
     }
-    m_asked.clear();
+    m_asked = {now};
     m_settled = now;
 }
 
@@ -108,25 +112,32 @@ void OptionsSlide::openTo(int width) {
 void OptionsSlide::placeWindow() {
     applyMinimumSize();
     const int open = m_drawer.openWidth();
-    const int shift = shiftFor(open);
-    const QRect place = withinScreen(m_closed.adjusted(-shift, 0, open - shift, 0));
-    // What stands still is not placed: where a window is, its manager knows better.
-    if (std::exchange(m_shift, shift) == shift) {
-        m_window.resize(place.size());
-    } else {
-        m_window.setGeometry(place);
-    }
+    m_shift = shiftFor(open);
+    const QRect place = withinScreen(m_closed.adjusted(-m_shift, 0, open - m_shift, 0));
+    askFor(place);
     m_asked += place;
     m_asksAgain = true;
     m_settling.start();
 }
 
-/// Some managers lose a step among many. The last one is asked for again, once: what comes of that
-/// is what the manager wants. A busy one may still do it later, so it stays among what was asked.
+/// In whole, so that nothing of an earlier step stays. A widget hands on only what it takes for a
+/// change, and where the screen reports a step late, it may take the window to be elsewhere.
+void OptionsSlide::askFor(const QRect &place) {
+    m_window.setGeometry(place);
+    QWindow *window = m_window.windowHandle();
+    if (window && window->geometry() != m_window.geometry()) {
+        window->setGeometry(m_window.geometry());
+    }
+}
+
+/// Some managers lose a step among many. Where the window stays at an earlier one, the last is
+/// asked for again, once; any other place is what the manager or the user wants. A busy manager may
+/// still do it later, so it stays among what was asked.
 void OptionsSlide::settle() {
     const QRect now = geometryNow();
-    if (!m_asked.isEmpty() && now != m_asked.back() && std::exchange(m_asksAgain, false)) {
-        m_window.setGeometry(m_asked.back());
+    if (m_asksAgain && now != m_asked.back() && isMadeOf(now, m_asked)) {
+        m_asksAgain = false;
+        askFor(m_asked.back());
         m_settling.start();
         return;
     }
@@ -146,6 +157,10 @@ void OptionsSlide::applyMinimumSize() {
 }
 
 bool OptionsSlide::eventFilter(QObject *watched, QEvent *event) {
+    const bool isReport = event->type() == QEvent::Move || event->type() == QEvent::Resize;
+    if (isReport && m_settling.isActive()) {
+        m_settling.start(); // There may be more to come.
+    }
     if (event->type() == QEvent::WindowStateChange && !fillsScreen() &&
         std::exchange(m_slidInside, false)) {
         placeWindow();
@@ -158,7 +173,11 @@ bool OptionsSlide::fillsScreen() const {
 }
 
 QRect OptionsSlide::geometryNow() const {
-    return fillsScreen() ? m_window.normalGeometry() : m_window.geometry();
+    if (fillsScreen()) {
+        return m_window.normalGeometry();
+    }
+    const QWindow *window = m_window.windowHandle();
+    return window ? window->geometry() : m_window.geometry();
 }
 
 QMargins OptionsSlide::frameAtSides() const {

@@ -48,6 +48,7 @@ class OptionsSlide : public QObject {
     void takeUsersChanges();
     void openTo(int width);
     void placeWindow();
+    void askFor(const QRect &place);
     void settle();
     void applyMinimumSize();
     [[nodiscard]] bool fillsScreen() const;

@@ -19,7 +19,6 @@ using namespace Qt::StringLiterals;
 namespace folioforge::test {
 namespace {
 
-constexpr int kPatience = 30'000; ///< Milliseconds that a busy machine may take for anything.
 constexpr auto kAtSpi = "org.a11y.atspi.";
 
 QString atSpi(const char *interface) {

@@ -14,6 +14,9 @@
 
 namespace folioforge::test {
 
+/// Milliseconds that a busy machine may take for anything.
+inline constexpr int kPatience = 30'000;
+
 /// What the application runs on.
 struct DesktopKind {
     QSize size{1600, 1000};  ///< Of the screen in pixels.

@@ -5,12 +5,17 @@
 #include "support/TestUnit.h"
 
 #include "mainwnd/MainWndCtrl.h"
+#include "mainwnd/OptionsSlide.h"
 #include "skin/OptionsDrawer.h"
 
+#include <QHBoxLayout>
+#include <QMainWindow>
 #include <QProxyStyle>
 #include <QResizeEvent>
 #include <QScreen>
+#include <QSignalSpy>
 #include <QTest>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -43,6 +48,31 @@ struct PlacedWindow {
     WindowWorld world;
     MainWndCtrl ctrl{world.services()};
     QMainWindow &window = *ctrl.window();
+};
+
+/// A window with a drawer that opens by steps, with `points` left between its frame and the right
+/// edge of the screen.
+struct SteppedWindow {
+    explicit SteppedWindow(int points) {
+        auto *contents = new QWidget;
+        auto *row = new QHBoxLayout(contents);
+        row->addWidget(new QWidget, 1);
+        row->addWidget(drawer);
+        window.setCentralWidget(contents);
+        window.resize(900, 600);
+        slide.beginHidden();
+        window.show();
+        window.move(kScreenWidth - points - window.frameGeometry().width(), 100);
+    }
+
+    /// Where the screen has the window.
+    [[nodiscard]] QRect place() const { return window.windowHandle()->geometry(); }
+    /// Has the screen say that the window is at `place`; its widget hears of it later.
+    void report(const QRect &place) { window.windowHandle()->setGeometry(place); }
+
+    QMainWindow window;
+    OptionsDrawer *drawer = new OptionsDrawer;
+    OptionsSlide slide{window, *drawer};
 };
 
 /// A style in which nothing slides.
@@ -164,6 +194,53 @@ class OptionsOnScreenTest : public QObject {
         QCOMPARE(placed.window.geometry(), before.adjusted(-342, 0, 0, 0));
         placed.show(false);
         QCOMPARE(placed.window.geometry(), before);
+    }
+
+    void aStepThatTheScreenReportsLateLeavesNoTrace() {
+        SteppedWindow stepped(250);
+        const QRect before = stepped.place();
+        stepped.slide.jumpTo(342);
+        stepped.slide.jumpTo(300);
+        const QRect step = stepped.place();
+        QCOMPARE(step, before.adjusted(-50, 0, 250, 0));
+        stepped.slide.jumpTo(220);
+        stepped.report(step);
+        stepped.slide.jumpTo(200);
+        QCOMPARE(stepped.place(), before.adjusted(0, 0, 200, 0));
+        stepped.report(step);
+        stepped.slide.jumpTo(200);
+        QCOMPARE(stepped.place(), before.adjusted(0, 0, 200, 0));
+    }
+
+    void partsOfTwoStepsAreNoUsersChange() {
+        SteppedWindow stepped(250);
+        const QRect before = stepped.place();
+        stepped.slide.jumpTo(342);
+        const QRect wide = stepped.place();
+        stepped.slide.jumpTo(120);
+        stepped.report({wide.topLeft(), stepped.place().size()});
+        stepped.slide.jumpTo(0);
+        QCOMPARE(stepped.place(), before);
+    }
+
+    void aWindowThatStaysAtAnEarlierStepIsAskedAgain() {
+        SteppedWindow stepped(250);
+        const QRect before = stepped.place();
+        stepped.slide.jumpTo(342);
+        const QRect step = stepped.place();
+        stepped.slide.jumpTo(0);
+        stepped.report(step);
+        QTRY_COMPARE(stepped.place(), before);
+    }
+
+    void aWindowThatIsMovedRightAfterASlideStaysThere() {
+        SteppedWindow stepped(250);
+        QSignalSpy rested(&stepped.slide, &OptionsSlide::rested);
+        stepped.slide.jumpTo(342);
+        const QRect moved = stepped.place().translated(-77, 55);
+        stepped.report(moved);
+        QVERIFY(rested.wait());
+        QCOMPARE(stepped.place(), moved);
     }
 
     void aWindowMovedWhileThePanelIsShownStaysWhereItWasPut() {
