@@ -10,6 +10,7 @@
 #include "convert/Run.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/RunAnswer.h"
+#include "mainwnd/SkinTableView.h"
 #include "skin/LightLook.h"
 #include "skin/OptionsDrawer.h"
 #include "skin/SkinButton.h"
@@ -329,6 +330,38 @@ class TranslationsTest : public QObject {
         QCOMPARE(panel.mapTo(&w.window(), QPoint(0, 0)).x(), 0);
         QTest::mouseClick(&w.control<QWidget>("m_btnElapse"), Qt::LeftButton);
         QTRY_COMPARE(w.window().geometry(), closed);
+    }
+
+    void rowsAreChosenWhereOneReadsToTheLeft() {
+        ForeignWindow w(u"ar"_s);
+        w.application->addTexts(4);
+        w.application->activate();
+        auto &table = w.control<SkinTableView>("m_tableview");
+        const auto chosen = [&table] {
+            QList<int> rows;
+            for (const QModelIndex &index : table.selectionModel()->selectedRows()) {
+                rows += index.row();
+            }
+            return rows;
+        };
+        const auto click = [&](int row, int column, Qt::KeyboardModifiers modifiers = {}) {
+            const QPoint middle = table.visualRect(table.model()->index(row, column)).center();
+            QTest::mouseClick(w.window().windowHandle(), Qt::LeftButton, modifiers,
+                              table.viewport()->mapTo(&w.window(), middle));
+        };
+        for (int column = 0; column < FilesArray::ColumnCount; ++column) {
+            click(column % 2, column);
+            QCOMPARE(chosen(), QList{column % 2});
+        }
+        click(3, FilesArray::SizeColumn, Qt::ShiftModifier);
+        QCOMPARE(chosen(), (QList{1, 2, 3}));
+        click(2, FilesArray::NameColumn, Qt::ControlModifier);
+        QCOMPARE(chosen(), (QList{1, 3}));
+        click(0, FilesArray::NameColumn);
+        w.application->key(Qt::Key_Down);
+        QCOMPARE(chosen(), QList{1});
+        w.application->key(Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(chosen(), (QList{1, 2}));
     }
 
   private:
