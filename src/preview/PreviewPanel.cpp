@@ -73,6 +73,9 @@ PreviewPanel::PreviewPanel(QWidget *parent)
     m_close = addButton(Qt::NoArrow, tr("Close the preview"));
     m_close->setText(u"×"_s);
     const bool mirrored = isRightToLeft();
+    // Whatever the language of the name, it stands where lines of the window begin.
+    m_file->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
+                         (mirrored ? Qt::AlignRight : Qt::AlignLeft));
     m_back = addButton(mirrored ? Qt::RightArrow : Qt::LeftArrow, tr("Previous page"));
     m_forth = addButton(mirrored ? Qt::LeftArrow : Qt::RightArrow, tr("Next page"));
 

@@ -59,6 +59,9 @@ BusySheet::BusySheet(QWidget *parent)
     title->setObjectName(u"busyTitle"_s);
     m_fileLabel->setObjectName(u"busyFile"_s);
     m_fileLabel->setTextFormat(Qt::PlainText);
+    // Whatever the language of the name, it stands where lines of the window begin.
+    m_fileLabel->setAlignment(Qt::AlignAbsolute |
+                              (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     m_countLabel->setObjectName(u"busyCount"_s);
     m_bar->setObjectName(u"busyBar"_s);
     m_bar->setAccessibleName(tr("Progress of the run"));

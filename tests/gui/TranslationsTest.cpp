@@ -1,18 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "CutTexts.h"
+#include "ForeignWindow.h"
 #include "OffscreenScreen.h"
-#include "TestApplication.h"
 #include "TranslationFile.h"
 #include "support/TestUnit.h"
 
-#include "app/Translations.h"
 #include "convert/Run.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/RunAnswer.h"
-#include "mainwnd/SkinTableView.h"
-#include "skin/LightLook.h"
-#include "skin/OptionsDrawer.h"
 #include "skin/SkinButton.h"
 
 #include <QComboBox>
@@ -51,26 +47,6 @@ void addLanguages(bool withEnglish = false) {
         QTest::newRow(qPrintable(language)) << language;
     }
 }
-
-/// The application in a language, its options panel open.
-struct ForeignWindow {
-    explicit ForeignWindow(const QString &language)
-        : translations({language}, WindowWorld::realBundle()) {
-        applyLightLook(*qApp);
-        application = std::make_unique<Application>();
-    }
-    void openPanel() {
-        QTest::mouseClick(&control<QWidget>("m_btnExpand"), Qt::LeftButton);
-        QTRY_COMPARE(control<OptionsDrawer>("m_optionsDrawer").openWidth(), 342);
-    }
-    QMainWindow &window() const { return application->window(); }
-    template<typename Control> Control &control(const char *name) {
-        return controlOf<Control>(window(), name);
-    }
-
-    Translations translations;
-    std::unique_ptr<Application> application;
-};
 
 /// The letter behind the sign for one; empty where `text` has none.
 QString mnemonicOf(QString text) {
@@ -317,51 +293,6 @@ class TranslationsTest : public QObject {
         const Translations translations({language}, WindowWorld::realBundle());
         const QStringList said{answerTo(1), answerTo(2), answerTo(5), answerTo(11)};
         QTEST(said, "answers");
-    }
-
-    void optionsOpenToTheLeftWhereOneReadsToTheLeft() {
-        ForeignWindow w(u"ar"_s);
-        w.window().move(500, 100);
-        QCoreApplication::processEvents();
-        const QRect closed = w.window().geometry();
-        w.openPanel();
-        QTRY_COMPARE(w.window().geometry(), closed.adjusted(-342, 0, 0, 0));
-        const QWidget &panel = w.control<QWidget>("optionsPanel");
-        QCOMPARE(panel.mapTo(&w.window(), QPoint(0, 0)).x(), 0);
-        QTest::mouseClick(&w.control<QWidget>("m_btnElapse"), Qt::LeftButton);
-        QTRY_COMPARE(w.window().geometry(), closed);
-    }
-
-    void rowsAreChosenWhereOneReadsToTheLeft() {
-        ForeignWindow w(u"ar"_s);
-        w.application->addTexts(4);
-        w.application->activate();
-        auto &table = w.control<SkinTableView>("m_tableview");
-        const auto chosen = [&table] {
-            QList<int> rows;
-            for (const QModelIndex &index : table.selectionModel()->selectedRows()) {
-                rows += index.row();
-            }
-            return rows;
-        };
-        const auto click = [&](int row, int column, Qt::KeyboardModifiers modifiers = {}) {
-            const QPoint middle = table.visualRect(table.model()->index(row, column)).center();
-            QTest::mouseClick(w.window().windowHandle(), Qt::LeftButton, modifiers,
-                              table.viewport()->mapTo(&w.window(), middle));
-        };
-        for (int column = 0; column < FilesArray::ColumnCount; ++column) {
-            click(column % 2, column);
-            QCOMPARE(chosen(), QList{column % 2});
-        }
-        click(3, FilesArray::SizeColumn, Qt::ShiftModifier);
-        QCOMPARE(chosen(), (QList{1, 2, 3}));
-        click(2, FilesArray::NameColumn, Qt::ControlModifier);
-        QCOMPARE(chosen(), (QList{1, 3}));
-        click(0, FilesArray::NameColumn);
-        w.application->key(Qt::Key_Down);
-        QCOMPARE(chosen(), QList{1});
-        w.application->key(Qt::Key_Down, Qt::ShiftModifier);
-        QCOMPARE(chosen(), (QList{1, 2}));
     }
 
   private:
