@@ -3,10 +3,33 @@
 # them the targets share what is compiled ahead, and checkouts share a compiler cache.
 set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
 
+# The sanitizers watch the program alone, so that a sanitized build can link what a plain one compiled.
+set(FOLIOFORGE_TESTS_OF "" CACHE PATH
+    "Build folder, already built, whose objects of tests are linked instead of compiled again")
+
+# folioforge_test_sources(TARGET SOURCE ...): TARGET is made of these, with what HEADERS names compiled
+# ahead, or of the objects that FOLIOFORGE_TESTS_OF has of them.
+function(folioforge_test_sources target)
+    set(list "tests/${target}.objects")
+    if(FOLIOFORGE_TESTS_OF)
+        set_property(DIRECTORY APPEND PROPERTY
+            CMAKE_CONFIGURE_DEPENDS "${FOLIOFORGE_TESTS_OF}/${list}")
+        file(STRINGS "${FOLIOFORGE_TESTS_OF}/${list}" objects)
+        target_sources(${target} PRIVATE ${objects})
+        set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+    else()
+        cmake_parse_arguments(TEST "" "" "HEADERS" ${ARGN})
+        target_sources(${target} PRIVATE ${TEST_UNPARSED_ARGUMENTS})
+        target_precompile_headers(${target} ${TEST_HEADERS})
+        file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/${list}" CONTENT
+            "$<JOIN:$<FILTER:$<TARGET_OBJECTS:${target}>,INCLUDE,\\.o$>,\n>\n")
+    endif()
+endfunction()
+
 # folioforge_tests(ROOM UNITS ... [SOURCES ...] LINKS ... [HEADERS ...] [APPLICATION CLASS]
-# [LONG ...]): the test program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder and of SOURCES. CTest runs
-# it once for each unit, named ROOM.Unit. HEADERS are compiled ahead, instead of those of
-# folioforge_test_support. CLASS is that of the application object, else QCoreApplication. The units that
+# [LONG ...]): the test program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder and of
+# SOURCES. CTest runs it once for each unit, named ROOM.Unit. HEADERS are compiled ahead, instead of those
+# of folioforge_test_support. CLASS is that of the application object, else QCoreApplication. The units that
 # take longest are named LONG: CTest begins with them.
 function(folioforge_tests room)
     cmake_parse_arguments(TESTS "" "APPLICATION" "UNITS;LONG;SOURCES;LINKS;HEADERS" ${ARGN})
@@ -14,21 +37,24 @@ function(folioforge_tests room)
         set(TESTS_APPLICATION QCoreApplication)
     endif()
     set(target test_${room})
-    add_executable(${target} ${TESTS_SOURCES} "${PROJECT_SOURCE_DIR}/tests/support/TestMain.cpp")
-    target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
-    target_link_libraries(${target} PRIVATE
-        folioforge_compiler ${TESTS_LINKS} folioforge_test_support Qt6::Test)
-    target_compile_definitions(${target} PRIVATE FOLIOFORGE_TEST_APPLICATION=${TESTS_APPLICATION})
-    if(TESTS_HEADERS)
-        target_precompile_headers(${target} PRIVATE ${TESTS_HEADERS})
-    else()
-        target_precompile_headers(${target} REUSE_FROM folioforge_test_support)
-    endif()
+    add_executable(${target})
+    set(sources ${TESTS_SOURCES} "${PROJECT_SOURCE_DIR}/tests/support/TestMain.cpp")
     foreach(unit IN LISTS TESTS_UNITS)
         # One moc run each: AUTOMOC reads every file again and compiles one more.
         set(moc "${CMAKE_CURRENT_BINARY_DIR}/${unit}Test.moc")
         qt_generate_moc(${unit}Test.cpp "${moc}")
-        target_sources(${target} PRIVATE ${unit}Test.cpp "${moc}")
+        list(APPEND sources ${unit}Test.cpp "${moc}")
+    endforeach()
+    if(TESTS_HEADERS)
+        folioforge_test_sources(${target} ${sources} HEADERS PRIVATE ${TESTS_HEADERS})
+    else()
+        folioforge_test_sources(${target} ${sources} HEADERS REUSE_FROM folioforge_test_support)
+    endif()
+    target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
+    target_link_libraries(${target} PRIVATE
+        folioforge_compiler ${TESTS_LINKS} folioforge_test_support Qt6::Test)
+    target_compile_definitions(${target} PRIVATE FOLIOFORGE_TEST_APPLICATION=${TESTS_APPLICATION})
+    foreach(unit IN LISTS TESTS_UNITS)
         add_test(NAME ${room}.${unit} COMMAND ${target} ${unit})
         set_tests_properties(${room}.${unit} PROPERTIES
             TIMEOUT 300
