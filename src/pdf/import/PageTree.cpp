@@ -92,18 +92,18 @@ QPDFObjectHandle rootOf(QPDFObjectHandle node) {
     return node;
 }
 
-struct Node {
+struct PageNode {
     QPDFObjectHandle object;
     long long pages = 0;
 };
 
-constexpr std::size_t kFanOut = 32;
+constexpr std::size_t kMaxKids = 32;
 
 /// Makes `children` the kids of `parent`. Returns the number of their pages.
-long long adopt(QPDFObjectHandle parent, std::span<Node> children) {
+long long adopt(QPDFObjectHandle parent, std::span<PageNode> children) {
     auto kids = QPDFObjectHandle::newArray();
     long long count = 0;
-    for (Node &child : children) {
+    for (PageNode &child : children) {
         child.object.replaceKey("/Parent", parent);
         kids.appendItem(child.object);
         count += child.pages;
@@ -113,11 +113,11 @@ long long adopt(QPDFObjectHandle parent, std::span<Node> children) {
     return count;
 }
 
-std::vector<Node> grouped(QPDF &document, std::vector<Node> nodes) {
-    std::vector<Node> parents;
-    for (std::size_t start = 0; start < nodes.size(); start += kFanOut) {
+std::vector<PageNode> groupedPages(QPDF &document, std::vector<PageNode> nodes) {
+    std::vector<PageNode> parents;
+    for (std::size_t start = 0; start < nodes.size(); start += kMaxKids) {
         auto parent = document.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /Pages >>"));
-        const auto length = std::min(kFanOut, nodes.size() - start);
+        const auto length = std::min(kMaxKids, nodes.size() - start);
         const auto pages = adopt(parent, std::span(nodes).subspan(start, length));
         parents.push_back({parent, pages});
     }
@@ -141,13 +141,13 @@ SourcePages readSourcePages(QPDF &source) {
 }
 
 void buildPageTree(QPDF &document, const std::vector<QPDFObjectHandle> &pages) {
-    std::vector<Node> nodes;
+    std::vector<PageNode> nodes;
     nodes.reserve(pages.size());
     for (const auto &page : pages) {
         nodes.push_back({page, 1});
     }
-    while (nodes.size() > kFanOut) {
-        nodes = grouped(document, std::move(nodes));
+    while (nodes.size() > kMaxKids) {
+        nodes = groupedPages(document, std::move(nodes));
     }
     adopt(document.getRoot().getKey("/Pages"), nodes);
 }

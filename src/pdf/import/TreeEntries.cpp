@@ -14,16 +14,16 @@ namespace folioforge {
 
 namespace {
 
-constexpr std::size_t kFanOut = 64;
+constexpr std::size_t kMaxEntries = 64;
 
 /// A node of a tree that is built, and the least and the greatest key under it.
-struct Node {
+struct EntryNode {
     QPDFObjectHandle object;
     QPDFObjectHandle least;
     QPDFObjectHandle greatest;
 };
 
-Node leaf(const TreeEntries &entries, std::size_t from, std::size_t to, const char *leafKey) {
+EntryNode leaf(const TreeEntries &entries, std::size_t from, std::size_t to, const char *leafKey) {
     std::vector<QPDFObjectHandle> pairs;
     pairs.reserve(2 * (to - from));
     for (std::size_t i = from; i < to; ++i) {
@@ -35,15 +35,15 @@ Node leaf(const TreeEntries &entries, std::size_t from, std::size_t to, const ch
     return {object, entries[from].first, entries[to - 1].first};
 }
 
-QPDFObjectHandle limitsOf(const Node &node) {
+QPDFObjectHandle limitsOf(const EntryNode &node) {
     return QPDFObjectHandle::newArray({node.least, node.greatest});
 }
 
 /// The nodes one level above `nodes`, each over the next ones.
-std::vector<Node> grouped(QPDF &document, const std::vector<Node> &nodes) {
-    std::vector<Node> parents;
-    for (std::size_t from = 0; from < nodes.size(); from += kFanOut) {
-        const std::size_t to = std::min(from + kFanOut, nodes.size());
+std::vector<EntryNode> groupedEntries(QPDF &document, const std::vector<EntryNode> &nodes) {
+    std::vector<EntryNode> parents;
+    for (std::size_t from = 0; from < nodes.size(); from += kMaxEntries) {
+        const std::size_t to = std::min(from + kMaxEntries, nodes.size());
         std::vector<QPDFObjectHandle> kids;
         for (std::size_t i = from; i < to; ++i) {
             QPDFObjectHandle kid = nodes[i].object;
@@ -92,12 +92,12 @@ TreeEntries readTreeEntries(const QPDFObjectHandle &root, const char *leafKey) {
 }
 
 QPDFObjectHandle buildTree(QPDF &document, const TreeEntries &entries, const char *leafKey) {
-    std::vector<Node> nodes;
-    for (std::size_t from = 0; from < entries.size(); from += kFanOut) {
-        nodes.push_back(leaf(entries, from, std::min(from + kFanOut, entries.size()), leafKey));
+    std::vector<EntryNode> nodes;
+    for (std::size_t from = 0; from < entries.size(); from += kMaxEntries) {
+        nodes.push_back(leaf(entries, from, std::min(from + kMaxEntries, entries.size()), leafKey));
     }
     while (nodes.size() > 1) {
-        nodes = grouped(document, nodes);
+        nodes = groupedEntries(document, nodes);
     }
     auto root = nodes.empty() ? QPDFObjectHandle::newDictionary() : nodes.front().object;
     return document.makeIndirectObject(root);
