@@ -29,6 +29,9 @@ LibTIFF, libtiff licence
 giflib, MIT licence
 OpenJPEG, BSD licence
 OpenEXR, BSD licence
+libwebp, BSD licence
+libheif, GNU Lesser General Public License 3
+libjxl, BSD licence
 libdeflate, MIT licence
 ICU, Unicode License
 PDFium, BSD licence</source>
@@ -45,6 +48,9 @@ LibTIFF, libtiff licence
 giflib, MIT licence
 OpenJPEG, BSD licence
 OpenEXR, BSD licence
+libwebp, BSD licence
+libheif, GNU Lesser General Public License 3
+libjxl, BSD licence
 libdeflate, MIT licence
 ICU, Unicode License
 PDFium, BSD licence</translation>

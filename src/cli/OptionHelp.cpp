@@ -102,7 +102,7 @@ HelpSection pageHelp() {
           "cut off at the margins"},
          {"--image-dpi", "N", "pixels per inch of pictures that state none (default 72)"},
          {"--image-pages", "first|all",
-          "of a TIFF and a GIF the first page or frame (the default), or each as a page"},
+          "of a file of several pictures the first page or frame (the default), or each as a page"},
          {"--strip-metadata", "",
           "pictures go in without their Exif, XMP and comments, so without the place where a "
           "photo was taken"}}};

@@ -134,6 +134,7 @@ QByteArray parseInputType(const QString &text) {
     const QString type = text.toLower();
     if (fileKind(u"stdin."_s + type) == FileKind::Other) {
         const QStringList known = extensionsOf(FileKind::Text) + extensionsOf(FileKind::Image) +
+                                  extensionsOf(FileKind::FurtherImage) +
                                   extensionsOf(FileKind::Pdf);
         throw ArgumentFault(u"\"%1\" is none of %2"_s.arg(text, known.join(u", "_s)));
     }

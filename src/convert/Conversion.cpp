@@ -49,6 +49,7 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
         break;
     }
     case FileKind::Image:
+    case FileKind::FurtherImage:
     case FileKind::Other: {
         WrittenImage image = addImagePages(entry, context, options);
         outcome.embeddedAs = image.embeddedAs;

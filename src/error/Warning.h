@@ -33,6 +33,7 @@ enum class WarningCode {
     EncodingGuessed, ///< Only the frequency of its bytes tells the encoding of a text.
     ProtectionLeft,  ///< A source PDF is protected, and the PDF made of it is not, or otherwise.
     MarginTextCut,   ///< A header or a footer has more rows than its margin has room for.
+    ColorsDiffer,    ///< A picture has colours that a PDF shows otherwise.
 };
 
 /// The names of the codes in reports, in the order of their declaration. They never change, because
@@ -48,8 +49,9 @@ inline constexpr std::array kWarningNames{
     QLatin1StringView("claim-dropped"),       QLatin1StringView("page-size"),
     QLatin1StringView("not-flushed"),         QLatin1StringView("encoding-guessed"),
     QLatin1StringView("protection-left"),     QLatin1StringView("margin-text-cut"),
+    QLatin1StringView("colors-differ"),
 };
-static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::MarginTextCut) + 1);
+static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::ColorsDiffer) + 1);
 
 /// What was lost or changed on the way of an entry that was written.
 struct Warning {

@@ -36,6 +36,7 @@ void accept(ReadEntry &read, SourceReading reading, const InputPasswords &passwo
         read.refusedPdf = false;
         break;
     case FileKind::Image:
+    case FileKind::FurtherImage:
         read.entry.setPageCount(read.entry.getSrcImage() ? 1 : 0);
         break;
     case FileKind::Text:

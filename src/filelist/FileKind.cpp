@@ -12,7 +12,8 @@ namespace folioforge {
 
 FileKind fileKind(const QString &path, FurtherTypes further) {
     const QString extension = pathExtension(path).toLower();
-    for (const FileKind kind : std::array{FileKind::Text, FileKind::Image, FileKind::Pdf}) {
+    for (const FileKind kind :
+         std::array{FileKind::Text, FileKind::Image, FileKind::Pdf, FileKind::FurtherImage}) {
         if (extensionsOf(kind).contains(extension)) {
             return kind;
         }
@@ -27,6 +28,7 @@ const QStringList &extensionsOf(FileKind kind) {
                                    u"icns"_s, u"ico"_s, u"exr"_s, u"jp2"_s, u"tif"_s,
                                    u"tiff"_s, u"tga"_s, u"psd"_s};
     static const QStringList pdf{u"pdf"_s};
+    static const QStringList furtherImage{u"webp"_s, u"heic"_s, u"heif"_s, u"avif"_s, u"jxl"_s};
     static const QStringList none;
     switch (kind) {
     case FileKind::Text:
@@ -35,6 +37,8 @@ const QStringList &extensionsOf(FileKind kind) {
         return image;
     case FileKind::Pdf:
         return pdf;
+    case FileKind::FurtherImage:
+        return furtherImage;
     case FileKind::Other:
         break;
     }

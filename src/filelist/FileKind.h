@@ -7,7 +7,13 @@
 
 namespace folioforge {
 
-enum class FileKind { Text, Image, Pdf, Other };
+enum class FileKind {
+    Text,
+    Image,
+    Pdf,
+    FurtherImage, ///< Pictures that the command line takes and the window does not offer.
+    Other
+};
 
 /// What is taken beyond the types that the window lists.
 struct FurtherTypes {

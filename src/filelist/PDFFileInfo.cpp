@@ -87,6 +87,7 @@ void PDFFileInfo::readSource(SourceReading reading) {
     case FileKind::Pdf:
         break;
     case FileKind::Image:
+    case FileKind::FurtherImage:
     case FileKind::Other:
         readImage();
         break;

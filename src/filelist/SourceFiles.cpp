@@ -31,7 +31,8 @@ void count(const std::filesystem::directory_entry &entry, FurtherTypes further,
     const FileKind kind = fileKind(QFile::decodeName(name.c_str()), further);
     std::error_code unknown;
     const bool isFolder = entry.is_directory(unknown);
-    if (!isFolder && (kind == FileKind::Text || kind == FileKind::Image)) {
+    const bool isImage = kind == FileKind::Image || kind == FileKind::FurtherImage;
+    if (!isFolder && (kind == FileKind::Text || isImage)) {
         found.names.push_back(QByteArray::fromStdString(name));
     } else if (!name.starts_with('.')) {
         if (isFolder || kind == FileKind::Pdf) {
@@ -74,7 +75,9 @@ void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &rea
     const QByteArray place = QFile::encodeName(folder);
     try {
         for (const QByteArray &name : listFolder(place).names) {
-            files += readableLinks.pathFor(place + '/' + name);
+            if (fileKind(QFile::decodeName(name)) != FileKind::FurtherImage) {
+                files += readableLinks.pathFor(place + '/' + name);
+            }
         }
     } catch (const Error &) {
         return; // A folder that cannot be listed adds nothing.

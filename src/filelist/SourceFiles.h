@@ -33,7 +33,7 @@ struct FolderEntries {
 FolderEntries listFolder(const QByteArray &folder, FurtherTypes further = {});
 
 /// Appends to `files` the paths ("folder/name", or links to them) of the names that listFolder()
-/// gives; nothing where `folder` cannot be listed.
+/// gives and the window offers; nothing where `folder` cannot be listed.
 void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &readableLinks);
 
 /// Size text of a file of `bytes` bytes, taken as a signed 32-bit number and rounded up to whole

@@ -132,13 +132,24 @@ FileView::FileView(const SourceFile &file, qint64 offset, qint64 size)
     , m_offset(offset)
     , m_size(size) {}
 
+FileView::FileView(QByteArray bytes)
+    : m_bytes(std::move(bytes))
+    , m_size(m_bytes.size()) {}
+
+qint64 FileView::readAt(qint64 at, std::span<char> target) const {
+    if (m_file != nullptr) {
+        return m_file->readAt(m_offset + at, target);
+    }
+    std::copy_n(m_bytes.cbegin() + m_offset + at, target.size(), target.begin());
+    return static_cast<qint64>(target.size());
+}
+
 qint64 FileView::readInto(qint64 at, std::span<uchar> target) const {
     if (at < 0 || at >= m_size) {
         return 0;
     }
     const auto wanted = std::min<qint64>(static_cast<qint64>(target.size()), m_size - at);
-    return m_file->readAt(
-        m_offset + at, {reinterpret_cast<char *>(target.data()), static_cast<std::size_t>(wanted)});
+    return readAt(at, {reinterpret_cast<char *>(target.data()), static_cast<std::size_t>(wanted)});
 }
 
 QByteArray FileView::read(qint64 at, qint64 length) const {
@@ -146,8 +157,7 @@ QByteArray FileView::read(qint64 at, qint64 length) const {
         return {};
     }
     QByteArray bytes(std::min(length, m_size - at), Qt::Uninitialized);
-    bytes.truncate(
-        m_file->readAt(m_offset + at, {bytes.data(), static_cast<std::size_t>(bytes.size())}));
+    bytes.truncate(readAt(at, {bytes.data(), static_cast<std::size_t>(bytes.size())}));
     return bytes;
 }
 
@@ -163,7 +173,10 @@ FileView FileView::part(qint64 at, qint64 length) const {
     if (at < 0 || length < 0 || at > m_size || length > m_size - at) {
         throw fileEndsTooEarly();
     }
-    return {*m_file, m_offset + at, length};
+    FileView view = *this;
+    view.m_offset += at;
+    view.m_size = length;
+    return view;
 }
 
 } // namespace folioforge

@@ -76,8 +76,12 @@ Error fileEndsTooEarly();
 class FileView {
   public:
     FileView(const SourceFile &file, qint64 offset, qint64 size);
+    /// A file that is in memory alone, without a path.
+    explicit FileView(QByteArray bytes);
 
-    [[nodiscard]] const QString &path() const { return m_file->version().path; }
+    [[nodiscard]] QString path() const {
+        return m_file != nullptr ? m_file->version().path : QString();
+    }
     /// Bytes from the start of the file to the start of this view.
     [[nodiscard]] qint64 offset() const { return m_offset; }
     /// Bytes in this view.
@@ -92,8 +96,12 @@ class FileView {
     [[nodiscard]] FileView part(qint64 at, qint64 length) const;
 
   private:
-    const SourceFile *m_file;
-    qint64 m_offset;
+    /// As SourceFile::readAt(), from byte `at` of the view on.
+    [[nodiscard]] qint64 readAt(qint64 at, std::span<char> target) const;
+
+    const SourceFile *m_file = nullptr; ///< Null where the bytes are in memory.
+    QByteArray m_bytes;
+    qint64 m_offset = 0;
     qint64 m_size;
 };
 

@@ -17,8 +17,9 @@ namespace {
 
 const std::vector<ImageFormat> &formats() {
     static const std::vector<ImageFormat> table = {
-        jpegFormat(), pngFormat(), tiffFormat(), jpeg2000Format(), bmpFormat(), gifFormat(),
-        psdFormat(),  exrFormat(), icnsFormat(), icoFormat(),      tgaFormat(),
+        jpegFormat(), pngFormat(),  tiffFormat(),   jpeg2000Format(), bmpFormat(),
+        gifFormat(),  psdFormat(),  exrFormat(),    icnsFormat(),     icoFormat(),
+        webpFormat(), heifFormat(), jpegXlFormat(), tgaFormat(),
     };
     return table;
 }

@@ -7,7 +7,22 @@
 
 namespace folioforge {
 
-enum class ImageKind { Jpeg, Jpeg2000, Png, Tiff, Bmp, Gif, Ico, Icns, Exr, Tga, Psd };
+enum class ImageKind {
+    Jpeg,
+    Jpeg2000,
+    Png,
+    Tiff,
+    Bmp,
+    Gif,
+    Ico,
+    Icns,
+    Exr,
+    Tga,
+    Psd,
+    Webp,
+    Heif, ///< HEIC and AVIF.
+    JpegXl
+};
 
 /// Images above this many pixels are refused, so that a small file cannot claim the machine's
 /// memory.

@@ -32,12 +32,18 @@ void leaveOut(const std::vector<FileSlice> &parts, PdfImage &image) {
     }
 }
 
-PdfImage onlyPicture(const OpenFile &file, const ImageFormat &format, SourceMetadata metadata) {
-    PdfImage image = format.toPdfImage(file->view());
+/// Leaves out of the file's own bytes what no reader needs, where that is asked for.
+void strip(PdfImage &image, const OpenFile &file, const ImageFormat &format,
+           SourceMetadata metadata) {
     if (metadata == SourceMetadata::Strip && image.embeddedAs == EmbeddedAs::OwnBytes &&
         format.metadata != nullptr) {
         leaveOut(format.metadata(file->view()), image);
     }
+}
+
+PdfImage onlyPicture(const OpenFile &file, const ImageFormat &format, SourceMetadata metadata) {
+    PdfImage image = format.toPdfImage(file->view());
+    strip(image, file, format, metadata);
     complete(image, file, format);
     return image;
 }
@@ -45,10 +51,11 @@ PdfImage onlyPicture(const OpenFile &file, const ImageFormat &format, SourceMeta
 /// Takes the pictures of a file that may hold several.
 class Pictures {
   public:
-    Pictures(const OpenFile &file, const ImageFormat &format,
+    Pictures(const OpenFile &file, const ImageFormat &format, SourceMetadata metadata,
              const std::function<void(PdfImage)> &take)
         : m_file(file)
         , m_format(format)
+        , m_metadata(metadata)
         , m_take(take) {}
 
     Warnings takeAll() {
@@ -87,6 +94,7 @@ class Pictures {
         for (const Warning &warning : std::exchange(image->warnings, {})) {
             warn(warning.code, warning.text);
         }
+        strip(*image, m_file, m_format, m_metadata);
         complete(*image, m_file, m_format);
         m_take(std::move(*image));
         ++m_taken;
@@ -111,6 +119,7 @@ class Pictures {
 
     const OpenFile &m_file;
     const ImageFormat &m_format;
+    SourceMetadata m_metadata;
     const std::function<void(PdfImage)> &m_take;
     std::vector<std::pair<int, Warning>> m_warnings; ///< With the number of their page.
     std::optional<Error> m_fault;                    ///< The first.
@@ -153,7 +162,7 @@ Warnings forEachPicture(const QString &path, SystemCalls &calls, SourceMetadata 
                         const std::function<void(PdfImage)> &take) {
     return readImageFile(path, calls, [&](const auto &file, const ImageFormat &format) {
         if (format.readAll != nullptr) {
-            return Pictures(file, format, take).takeAll();
+            return Pictures(file, format, metadata, take).takeAll();
         }
         PdfImage image = onlyPicture(file, format, metadata);
         Warnings warnings = std::exchange(image.warnings, {});

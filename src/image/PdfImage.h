@@ -77,10 +77,11 @@ enum class SourceMetadata { Keep, Strip };
 PdfImage toPdfImage(const QString &path, SystemCalls &calls = SystemCalls::system(),
                     SourceMetadata metadata = SourceMetadata::Keep);
 
-/// Gives each page of a TIFF and each frame of a GIF, as a viewer shows it, to `take` in that
-/// order, of other files what toPdfImage() gives. The pictures have no warnings; they are returned,
-/// with the number of the page where there are several. A page that cannot be read is left out and
-/// named. Throws Error when none can be read, and what `take` throws.
+/// Gives each page of a TIFF, each picture of a HEIC or AVIF and each frame of a GIF, WebP or JPEG
+/// XL, as a viewer shows it, to `take` in that order, of other files what toPdfImage() gives. The
+/// pictures have no warnings; they are returned, with the number of the page where there are
+/// several. A page that cannot be read is left out and named. Throws Error when none can be read,
+/// and what `take` throws.
 Warnings forEachPicture(const QString &path, SystemCalls &calls, SourceMetadata metadata,
                         const std::function<void(PdfImage)> &take);
 

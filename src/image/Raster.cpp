@@ -189,6 +189,15 @@ void requirePlausible(qint64 raw, qint64 compressed, qint64 ratio) {
     }
 }
 
+void requirePlausibleArea(const ImageHeader &header, qint64 compressed) {
+    constexpr qint64 kAlwaysPlausible = 100'000'000;
+    constexpr qint64 kMostPacked = 4000;
+    const qint64 pixels = qint64(header.width) * header.height;
+    if (pixels > kAlwaysPlausible) {
+        requirePlausible(3 * pixels, compressed, kMostPacked);
+    }
+}
+
 bool isPlain(const Raster &raster, int guessed) {
     const qsizetype pixel = qsizetype(channelCount(raster.color)) * raster.bits / 8;
     const char *const last = raster.samples.constData() + raster.samples.size() - pixel;

@@ -59,6 +59,10 @@ inline void putSample(QByteArray &samples, qsizetype index, int value, int bits)
 /// is damaged, or made to exhaust the machine.
 void requirePlausible(qint64 raw, qint64 compressed, qint64 ratio);
 
+/// The same for the formats in which a plain picture takes next to no bytes: 100,000,000 pixels
+/// pass in any file.
+void requirePlausibleArea(const ImageHeader &header, qint64 compressed);
+
 /// Whether all pixels have the same colour, which is what decoders make of no data. A corner of
 /// `guessed` pixels in each direction does not count. For samples of 8 or 16 bits.
 bool isPlain(const Raster &raster, int guessed = 0);

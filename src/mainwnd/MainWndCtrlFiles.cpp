@@ -72,7 +72,8 @@ bool isBadPdf(const ReadEntry &read) {
 
 bool isDroppable(const QString &path) {
     const QFileInfo info(path);
-    return info.exists() && !info.isDir() && fileKind(path) != FileKind::Other;
+    return info.exists() && !info.isDir() &&
+           recognisedExtensions().contains(pathExtension(path).toLower());
 }
 
 } // namespace

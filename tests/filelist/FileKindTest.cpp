@@ -23,6 +23,10 @@ class FileKindTest : public QObject {
                                       "jp2", "tif", "tiff", "tga", "psd"}) {
             QTest::newRow(extension) << u"x."_s + QString::fromLatin1(extension) << FileKind::Image;
         }
+        for (const char *extension : {"webp", "heic", "heif", "avif", "jxl"}) {
+            QTest::newRow(extension)
+                << u"x."_s + QString::fromLatin1(extension) << FileKind::FurtherImage;
+        }
         QTest::newRow("document") << u"x.docx"_s << FileKind::Other;
         QTest::newRow("none") << u"txt"_s << FileKind::Other;
         QTest::newRow("hidden, named like an extension") << u".txt"_s << FileKind::Other;

@@ -58,6 +58,18 @@ class SourceFilesTest : public QObject {
                                      folder.path() + u"/c.png"_s}));
     }
 
+    void theWindowLeavesOutPicturesThatTheCommandLineTakes() {
+        const QTemporaryDir folder;
+        const QString png = test::writeFile(folder.filePath(u"a.png"_s), "x");
+        for (const char *name : {"b.webp", "c.heic", "d.heif", "e.avif", "f.JXL"}) {
+            test::writeFile(folder.filePath(QString::fromLatin1(name)), "x");
+        }
+        QStringList files;
+        addDirectorie(folder.path(), files, m_readableLinks);
+        QCOMPARE(files, QStringList(png));
+        QCOMPARE(listFolder(QFile::encodeName(folder.path())).names.size(), std::size_t(6));
+    }
+
     void aFolderNamedLikeATextIsNoFile() {
         const QTemporaryDir folder;
         QVERIFY(QDir(folder.path()).mkpath(u"notes.txt"_s));

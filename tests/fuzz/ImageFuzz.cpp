@@ -72,6 +72,10 @@ FUZZ_TARGET(Gif) {
     readAs(ImageKind::Gif, u"gif"_s, bytes);
 }
 
+FUZZ_TARGET(Heif) {
+    readAs(ImageKind::Heif, u"heic"_s, bytes);
+}
+
 FUZZ_TARGET(Icns) {
     readAs(ImageKind::Icns, u"icns"_s, bytes);
 }
@@ -88,6 +92,10 @@ FUZZ_TARGET(Jpeg2000) {
     readAs(ImageKind::Jpeg2000, u"jpeg2000"_s, bytes);
 }
 
+FUZZ_TARGET(JpegXl) {
+    readAs(ImageKind::JpegXl, u"jxl"_s, bytes);
+}
+
 FUZZ_TARGET(Png) {
     readAs(ImageKind::Png, u"png"_s, bytes);
 }
@@ -102,4 +110,8 @@ FUZZ_TARGET(Tga) {
 
 FUZZ_TARGET(Tiff) {
     readAs(ImageKind::Tiff, u"tiff"_s, bytes);
+}
+
+FUZZ_TARGET(Webp) {
+    readAs(ImageKind::Webp, u"webp"_s, bytes);
 }

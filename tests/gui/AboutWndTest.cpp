@@ -78,9 +78,9 @@ class AboutWndTest : public QObject {
         QCOMPARE(about.window().findChild<QLabel *>(u"versionLabel"_s)->text(),
                  QStringLiteral("Version " FOLIOFORGE_VERSION));
         const QString licences = about.window().findChild<QPlainTextEdit *>()->toPlainText();
-        for (const char *library :
-             {"Qt 6", "qpdf", "HarfBuzz", "FreeType", "fontconfig", "libjpeg-turbo", "LibTIFF",
-              "OpenJPEG", "OpenEXR", "libdeflate", "ICU", "giflib"}) {
+        for (const char *library : {"Qt 6", "qpdf", "HarfBuzz", "FreeType", "fontconfig",
+                                    "libjpeg-turbo", "LibTIFF", "OpenJPEG", "OpenEXR", "libdeflate",
+                                    "ICU", "giflib", "libwebp", "libheif", "libjxl"}) {
             QVERIFY2(licences.contains(QLatin1StringView(library)), library);
         }
     }

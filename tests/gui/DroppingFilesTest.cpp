@@ -125,6 +125,7 @@ class DroppingFilesTest : public QObject {
         TestWindow w;
         QVERIFY(!dropFiles(w, {w.path(u"gone.txt"_s)}, -1));
         QVERIFY(!dropFiles(w, {w.file(u"y.doc"_s)}, -1));
+        QVERIFY(!dropFiles(w, {w.file(u"y.webp"_s), w.file(u"y.heic"_s)}, -1));
         QVERIFY(w.ctrl.filesArray().isEmpty());
         QCOMPARE(w.delegate.told, QList<bool>());
     }

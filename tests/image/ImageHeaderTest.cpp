@@ -44,6 +44,14 @@ class ImageHeaderTest : public QObject {
         add("jp2.icns", ImageKind::Icns);
         add("classic.icns", ImageKind::Icns, QSize(16, 16));
         add("colour.psd", ImageKind::Psd);
+        add("colour.webp", ImageKind::Webp);
+        add("lossy.webp", ImageKind::Webp);
+        add("two.webp", ImageKind::Webp);
+        add("colour.heic", ImageKind::Heif);
+        add("colour.avif", ImageKind::Heif);
+        add("two.avif", ImageKind::Heif);
+        add("colour.jxl", ImageKind::JpegXl);
+        add("photo.jxl", ImageKind::JpegXl);
     }
 
     void headerStatesFormatAndPixels() {

@@ -46,14 +46,18 @@ class LosslessTest : public QObject {
              {"colour.png", "colour-interlaced.png", "colour-LZW.tif", "colour-None.tif",
               "colour-RLE.tif", "colour-Zip.tif", "colour-predictor.tif", "colour-planes.tif",
               "colour-tiles.tif", "colour-bigendian.tif", "colour.psd", "colour-raw.psd",
-              "png.icns"}) {
+              "png.icns", "colour.webp", "colour.avif", "colour.jxl"}) {
             add(name, "colour.png");
         }
         for (const char *name : {"palette.png", "palette.tif", "palette.gif", "palette.psd"}) {
             add(name, "palette.png");
         }
         add("two.gif", "palette.png"); // The second frame is the negative of the first.
+        for (const char *name : {"two.webp", "two.avif", "two.jxl"}) {
+            add(name, "colour.png"); // So it is here.
+        }
         add("photo.jpg", "photo.jpg");
+        add("photo.jxl", "photo.jpg");
         add("progressive.jpg", "progressive.jpg");
     }
 
@@ -69,7 +73,8 @@ class LosslessTest : public QObject {
     void opacityBecomesASoftMask_data() {
         addRows("name",
                 {u"translucent.png"_s, u"translucent-interlaced.png"_s, u"translucent.tif"_s,
-                 u"translucent.psd"_s, u"translucent.jp2"_s, u"jp2.icns"_s});
+                 u"translucent.psd"_s, u"translucent.jp2"_s, u"jp2.icns"_s, u"translucent.webp"_s,
+                 u"translucent.avif"_s, u"translucent.jxl"_s});
     }
 
     void opacityBecomesASoftMask() {
@@ -93,7 +98,8 @@ class LosslessTest : public QObject {
     }
 
     void sixteenBitsStaySixteenBits_data() {
-        addRows("name", {u"deep.png"_s, u"deep.tif"_s, u"deep-bigendian.tif"_s, u"deep.psd"_s});
+        addRows("name", {u"deep.png"_s, u"deep.tif"_s, u"deep-bigendian.tif"_s, u"deep.psd"_s,
+                         u"deep.jxl"_s});
     }
 
     void sixteenBitsStaySixteenBits() {
@@ -104,7 +110,9 @@ class LosslessTest : public QObject {
                  reference(u"deep.png"_s, QImage::Format_RGBX64));
     }
 
-    void greyStaysGrey_data() { addRows("name", {u"grey.png"_s, u"grey.tif"_s, u"grey.psd"_s}); }
+    void greyStaysGrey_data() {
+        addRows("name", {u"grey.png"_s, u"grey.tif"_s, u"grey.psd"_s, u"grey.jxl"_s});
+    }
 
     void greyStaysGrey() {
         QFETCH(QString, name);

@@ -52,7 +52,8 @@ QByteArray samplesOf(const IndexedImage &image, char missing, const Sample &samp
 /// The image by numbers where it has no more than 256 colours; nothing where there are more.
 std::optional<IndexedImage> withPalette(const ArgbImage &image) {
     const Argb opacity = image.hasAlpha ? 0 : kOpaque;
-    IndexedImage indexed{image.width, image.height, allocateRows(image.height, image.width), {}};
+    IndexedImage indexed{
+        image.width, image.height, allocateRows(image.height, image.width), {}, image.iccProfile};
     QHash<Argb, uchar> numbers;
     auto *target = reinterpret_cast<uchar *>(indexed.indexes.data());
     for (int y = 0; y < image.height; ++y) {
@@ -92,7 +93,8 @@ Raster rasterOf(IndexedImage &&image) {
                                       return static_cast<char>(alphaOf(color));
                                   })};
     }
-    if (isGray(image.colors)) {
+    raster.iccProfile = image.iccProfile;
+    if (image.iccProfile.isEmpty() && isGray(image.colors)) {
         raster.color = ImageColor::Gray;
         raster.samples = samplesOf(image, '\0', redOf);
         return raster;
@@ -113,6 +115,7 @@ Raster rasterOf(const ArgbImage &image) {
     raster.width = image.width;
     raster.height = image.height;
     raster.color = ImageColor::Rgb;
+    raster.iccProfile = image.iccProfile;
     raster.samples = allocateRows(raster.height, raster.stride());
     char *color = raster.samples.data();
     for (const Argb pixel : image.pixels) {

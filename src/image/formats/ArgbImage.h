@@ -27,6 +27,7 @@ struct ArgbImage {
     int height = 0;
     bool hasAlpha = false; ///< Otherwise the opacity of the pixels does not count.
     std::vector<Argb> pixels;
+    QByteArray iccProfile = {}; ///< Of RGB; with one no picture becomes grey.
 
     /// The pixels of row `y`.
     [[nodiscard]] Argb *row(int y) { return pixels.data() + qsizetype(y) * width; }
@@ -42,9 +43,11 @@ struct IndexedImage {
     int height = 0;
     QByteArray indexes;
     std::vector<Argb> colors; ///< 256 at most.
+    QByteArray iccProfile = {};
 };
 
-/// The image with a palette, or as grey where all its colours are.
+/// The image with a palette, or as grey where all its colours are and no profile says what they
+/// mean.
 Raster rasterOf(IndexedImage &&image);
 
 /// The image with a palette or as grey where it has no more than 256 colours, else in full colour.

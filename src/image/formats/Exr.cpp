@@ -7,6 +7,7 @@
 #include "image/PictureDamage.h"
 #include "image/Raster.h"
 #include "image/formats/LinearLight.h"
+#include "image/formats/Signatures.h"
 
 #include <ImfChannelList.h>
 #include <ImfFrameBuffer.h>
@@ -246,10 +247,6 @@ int partsOf(const FileView &file) {
     });
 }
 
-bool recognises(QByteArrayView head) {
-    return head.startsWith(kExrSignature);
-}
-
 PdfImage toPdfImage(const FileView &file) {
     ImageHeader header;
     Pixels pixels = reading([&] {
@@ -269,7 +266,7 @@ PdfImage toPdfImage(const FileView &file) {
 } // namespace
 
 ImageFormat exrFormat() {
-    return {ImageKind::Exr, {QLatin1StringView("exr")}, recognises, readHeader, toPdfImage};
+    return {ImageKind::Exr, {QLatin1StringView("exr")}, isExr, readHeader, toPdfImage};
 }
 
 } // namespace folioforge

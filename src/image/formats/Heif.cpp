@@ -1,0 +1,288 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "image/formats/Formats.h"
+
+#include "image/Bytes.h"
+#include "image/CicpProfile.h"
+#include "image/Exif.h"
+#include "image/MorePictures.h"
+#include "image/PictureDamage.h"
+#include "image/Raster.h"
+#include "image/formats/ChannelRows.h"
+#include "image/formats/Signatures.h"
+
+#include <libheif/heif.h>
+
+#include <algorithm>
+#include <memory>
+#include <new>
+#include <utility>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+namespace {
+
+template<auto kRelease> struct Release {
+    template<typename T> void operator()(T *held) const { kRelease(held); }
+};
+using Handle = std::unique_ptr<heif_image_handle, Release<heif_image_handle_release>>;
+using Decoded = std::unique_ptr<heif_image, Release<heif_image_release>>;
+
+constexpr size_t kMostMetadata = 1 << 25;
+
+/// Throws what a call of libheif complains of.
+void require(const heif_error &error) {
+    if (error.code == heif_error_Memory_allocation_error) {
+        throw std::bad_alloc();
+    }
+    if (error.code != heif_error_Ok) {
+        throw Error(u"The HEIC or AVIF file cannot be read: %1"_s.arg(
+            QString::fromUtf8(error.message).simplified()));
+    }
+}
+
+/// A file opened with libheif over a view.
+class HeifFile {
+  public:
+    explicit HeifFile(const FileView &file)
+        : m_source{file}
+        , m_context(heif_context_alloc()) {
+        static const heif_error started = heif_init(nullptr); // Finds the decoders.
+        require(started);
+        if (!m_context) {
+            throw std::bad_alloc();
+        }
+        static const heif_reader reader{1, position, read, seek, waitForSize};
+        // Its threads would fail where the system grants none.
+        heif_context_set_max_decoding_threads(m_context.get(), 0);
+        require(heif_context_read_from_reader(m_context.get(), &reader, &m_source, nullptr));
+    }
+    HeifFile(const HeifFile &) = delete;
+    HeifFile &operator=(const HeifFile &) = delete;
+
+    /// The pictures that a viewer shows, beginning with the primary one.
+    [[nodiscard]] std::vector<heif_item_id> pictures() const {
+        heif_item_id primary = 0;
+        require(heif_context_get_primary_image_ID(m_context.get(), &primary));
+        std::vector<heif_item_id> all(static_cast<size_t>(
+            std::max(0, heif_context_get_number_of_top_level_images(m_context.get()))));
+        heif_context_get_list_of_top_level_image_IDs(m_context.get(), all.data(),
+                                                     static_cast<int>(all.size()));
+        std::erase(all, primary);
+        all.insert(all.begin(), primary);
+        return all;
+    }
+
+    [[nodiscard]] Handle picture(heif_item_id id) const {
+        heif_image_handle *handle = nullptr;
+        require(heif_context_get_image_handle(m_context.get(), id, &handle));
+        return Handle(handle);
+    }
+
+  private:
+    struct Source {
+        FileView file;
+        qint64 at = 0;
+    };
+
+    static int64_t position(void *source) { return static_cast<Source *>(source)->at; }
+    static int read(void *target, size_t size, void *source) {
+        auto &from = *static_cast<Source *>(source);
+        try {
+            const qint64 got = from.file.readInto(from.at, {static_cast<uchar *>(target), size});
+            from.at += got;
+            return got == static_cast<qint64>(size) ? 0 : 1;
+        } catch (const Error &) {
+            return 1; // No exception may pass through the library.
+        }
+    }
+    static int seek(int64_t place, void *source) {
+        static_cast<Source *>(source)->at = place;
+        return 0;
+    }
+    static heif_reader_grow_status waitForSize(int64_t size, void *source) {
+        return size <= static_cast<Source *>(source)->file.size()
+                   ? heif_reader_grow_status_size_reached
+                   : heif_reader_grow_status_size_beyond_eof;
+    }
+
+    Source m_source; ///< libheif holds its address.
+    std::unique_ptr<heif_context, Release<heif_context_free>> m_context;
+};
+
+/// The TIFF structure of the picture's EXIF block; empty where there is none.
+QByteArray exifOf(const heif_image_handle *handle) {
+    constexpr qsizetype kOffset = 4; // The bytes that say how many more stand before the structure.
+    heif_item_id id = 0;
+    if (heif_image_handle_get_list_of_metadata_block_IDs(handle, "Exif", &id, 1) != 1) {
+        return {};
+    }
+    const size_t size = heif_image_handle_get_metadata_size(handle, id);
+    if (size < kOffset || size > kMostMetadata) {
+        return {};
+    }
+    QByteArray block(static_cast<qsizetype>(size), '\0');
+    require(heif_image_handle_get_metadata(handle, id, block.data()));
+    return block.sliced(
+        std::min<qsizetype>(kOffset + bigEndianAt<quint32>(block, 0), block.size()));
+}
+
+/// libheif turns and mirrors the pixels as the file says; what EXIF says of that is the same.
+ImageHeader headerOf(const heif_image_handle *handle) {
+    ImageHeader header;
+    header.width = heif_image_handle_get_width(handle);
+    header.height = heif_image_handle_get_height(handle);
+    const ExifMetadata exif = readExif(exifOf(handle));
+    header.horizontalDpi = exif.horizontalDpi;
+    header.verticalDpi = exif.verticalDpi;
+    return checkedHeader(header);
+}
+
+CicpColor colorOf(const heif_color_profile_nclx &nclx) {
+    return {{{{nclx.color_primary_red_x, nclx.color_primary_red_y},
+              {nclx.color_primary_green_x, nclx.color_primary_green_y},
+              {nclx.color_primary_blue_x, nclx.color_primary_blue_y},
+              {nclx.color_primary_white_x, nclx.color_primary_white_y}}},
+            nclx.color_primaries,
+            nclx.transfer_characteristics};
+}
+
+/// Adds what the file says of the meaning of its colours.
+void readColor(const heif_image_handle *handle, Raster &raster, Warnings &warnings) {
+    const size_t size = heif_image_handle_get_raw_color_profile_size(handle);
+    if (size > 0 && size <= kMostMetadata) {
+        raster.iccProfile = QByteArray(static_cast<qsizetype>(size), '\0');
+        require(heif_image_handle_get_raw_color_profile(handle, raster.iccProfile.data()));
+        return;
+    }
+    heif_color_profile_nclx *given = nullptr;
+    if (heif_image_handle_get_nclx_color_profile(handle, &given).code != heif_error_Ok) {
+        return;
+    }
+    const std::unique_ptr<heif_color_profile_nclx, Release<heif_nclx_color_profile_free>> nclx(
+        given);
+    raster.iccProfile = profileOf(colorOf(*nclx));
+    warnOfHighRange(nclx->transfer_characteristics, warnings);
+}
+
+heif_chroma chromaOf(bool isDeep, bool hasAlpha) {
+    if (isDeep) {
+        return hasAlpha ? heif_chroma_interleaved_RRGGBBAA_BE : heif_chroma_interleaved_RRGGBB_BE;
+    }
+    return hasAlpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB;
+}
+
+Raster rasterOf(Decoded decoded, bool isDeep, bool hasAlpha) {
+    Raster raster;
+    raster.width = heif_image_get_width(decoded.get(), heif_channel_interleaved);
+    raster.height = heif_image_get_height(decoded.get(), heif_channel_interleaved);
+    ImageHeader size;
+    size.width = raster.width;
+    size.height = raster.height;
+    checkedHeader(size); // The coded picture may claim another size than the file.
+    raster.bits = isDeep ? 16 : 8;
+    int stride = 0;
+    const uint8_t *const plane =
+        heif_image_get_plane_readonly(decoded.get(), heif_channel_interleaved, &stride);
+    const int bits = heif_image_get_bits_per_pixel_range(decoded.get(), heif_channel_interleaved);
+    if (plane == nullptr || bits < 8 || bits > 16 || (bits > 8) != isDeep) {
+        throw Error(u"The HEIC or AVIF file is damaged"_s);
+    }
+    storeChannels({plane, stride, bits, hasAlpha}, raster);
+    return raster;
+}
+
+PdfImage pictureOf(const FileView &file, const heif_image_handle *handle) {
+    ImageHeader header = headerOf(handle);
+    requirePlausibleArea(header, file.size());
+    const bool isDeep = heif_image_handle_get_luma_bits_per_pixel(handle) > 8;
+    const bool hasAlpha = heif_image_handle_has_alpha_channel(handle) != 0;
+    heif_image *image = nullptr;
+    require(heif_decode_image(handle, &image, heif_colorspace_RGB, chromaOf(isDeep, hasAlpha),
+                              nullptr));
+    Decoded decoded(image);
+    Warnings warnings;
+    if (heif_image_get_decoding_warnings(image, 0, nullptr, 0) > 0) {
+        warnings.push_back(faultyPicture());
+    }
+    Raster raster = rasterOf(std::move(decoded), isDeep, hasAlpha);
+    if (heif_image_handle_is_premultiplied_alpha(handle) != 0) {
+        unpremultiply(raster);
+    }
+    readColor(handle, raster, warnings);
+    header.width = raster.width;
+    header.height = raster.height;
+    PdfImage picture = encodeRaster(std::move(raster), header);
+    picture.warnings = std::move(warnings);
+    return picture;
+}
+
+/// Says that the pictures of a sequence, which libheif does not read, are left out.
+void addSequence(const FileView &file, Warnings &warnings) {
+    if (isHeifSequence(file.read(0, kSniffedBytes))) {
+        warnings.push_back({WarningCode::MorePictures, u"Its moving pictures are left out"_s});
+    }
+}
+
+class HeifPictureReader : public PictureReader {
+  public:
+    explicit HeifPictureReader(const FileView &file)
+        : m_view(file)
+        , m_file(file)
+        , m_pictures(m_file.pictures()) {}
+
+    std::optional<PdfImage> next() override {
+        if (m_next == m_pictures.size()) {
+            return std::nullopt;
+        }
+        const bool isFirst = m_next == 0;
+        const Handle handle = m_file.picture(m_pictures[m_next++]);
+        PdfImage image = pictureOf(m_view, handle.get());
+        if (isFirst) {
+            addSequence(m_view, image.warnings);
+        }
+        return image;
+    }
+
+    [[nodiscard]] size_t left() const { return m_pictures.size() - m_next; }
+
+  private:
+    FileView m_view;
+    HeifFile m_file;
+    std::vector<heif_item_id> m_pictures;
+    size_t m_next = 0;
+};
+
+ImageHeader readHeader(const FileView &file) {
+    const HeifFile heif(file);
+    return headerOf(heif.picture(heif.pictures().front()).get());
+}
+
+PdfImage toPdfImage(const FileView &file) {
+    HeifPictureReader reader(file);
+    PdfImage image = std::move(*reader.next());
+    addMorePictures(image.warnings, static_cast<qint64>(reader.left()),
+                    QLatin1StringView("picture"));
+    return image;
+}
+
+std::unique_ptr<PictureReader> readAll(const FileView &file) {
+    return std::make_unique<HeifPictureReader>(file);
+}
+
+} // namespace
+
+ImageFormat heifFormat() {
+    return {ImageKind::Heif,
+            {QLatin1StringView("heic"), QLatin1StringView("heif"), QLatin1StringView("avif")},
+            isHeif,
+            readHeader,
+            toPdfImage,
+            nullptr,
+            readAll};
+}
+
+} // namespace folioforge

@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "image/formats/JpegXlDecoder.h"
+
+#include "image/Bytes.h"
+#include "image/CicpProfile.h"
+#include "image/Exif.h"
+#include "image/Parallel.h"
+
+#include <jxl/version.h>
+
+#include <algorithm>
+#include <atomic>
+#include <future>
+#include <limits>
+#include <new>
+#include <thread>
+#include <utility>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace folioforge {
+
+namespace {
+
+/// Runs the pieces of libjxl's work on all cores, or on those threads that the system grants.
+JxlParallelRetCode runPieces(void * /*runner*/, void *work, JxlParallelRunInit init,
+                             JxlParallelRunFunction doPiece, uint32_t first, uint32_t end) {
+    constexpr uint32_t kMostThreads = 8;
+    const uint32_t threads =
+        std::clamp(std::min(std::thread::hardware_concurrency(), end - first), 1U, kMostThreads);
+    if (const JxlParallelRetCode refusal = init(work, threads); refusal != 0) {
+        return refusal;
+    }
+    std::atomic<uint32_t> next = first;
+    const auto run = [&](size_t thread) {
+        for (uint32_t piece = next++; piece < end; piece = next++) {
+            doPiece(work, piece, thread);
+        }
+    };
+    std::vector<std::future<void>> others;
+    for (uint32_t thread = 1; thread < threads; ++thread) {
+        others.push_back(runAsync([&run, thread] { run(thread); }));
+    }
+    run(0);
+    std::ranges::for_each(others, &std::future<void>::get);
+    return 0;
+}
+
+bool isSrgb(const JxlColorEncoding &color) {
+    return color.white_point == JXL_WHITE_POINT_D65 &&
+           color.transfer_function == JXL_TRANSFER_FUNCTION_SRGB &&
+           (color.color_space == JXL_COLOR_SPACE_GRAY ||
+            (color.color_space == JXL_COLOR_SPACE_RGB && color.primaries == JXL_PRIMARIES_SRGB));
+}
+
+// Later versions have dropped an argument that none has used.
+#if JPEGXL_NUMERIC_VERSION >= JPEGXL_COMPUTE_NUMERIC_VERSION(0, 9, 0)
+template<typename Call, typename... Rest>
+bool asks(Call call, const JxlDecoder *decoder, Rest... rest) {
+    return call(decoder, rest...) == JXL_DEC_SUCCESS;
+}
+#else
+template<typename Call, typename... Rest>
+bool asks(Call call, const JxlDecoder *decoder, Rest... rest) {
+    return call(decoder, nullptr, rest...) == JXL_DEC_SUCCESS;
+}
+#endif
+
+QByteArray profileOf(const JxlDecoder *decoder) {
+    constexpr size_t kMostBytes = 1 << 25;
+    size_t size = 0;
+    if (!asks(JxlDecoderGetICCProfileSize, decoder, JXL_COLOR_PROFILE_TARGET_DATA, &size) ||
+        size > kMostBytes) {
+        return {};
+    }
+    QByteArray profile(static_cast<qsizetype>(size), '\0');
+    auto *const target = reinterpret_cast<uint8_t *>(profile.data());
+    const bool isThere =
+        asks(JxlDecoderGetColorAsICCProfile, decoder, JXL_COLOR_PROFILE_TARGET_DATA, target, size);
+    return isThere ? profile : QByteArray();
+}
+
+/// Grey, or colours wider than those of usual screens.
+JxlColorEncoding wideColor(const JxlBasicInfo &info) {
+    JxlColorEncoding color{};
+    color.color_space = info.num_color_channels == 1 ? JXL_COLOR_SPACE_GRAY : JXL_COLOR_SPACE_RGB;
+    color.white_point = JXL_WHITE_POINT_D65;
+    color.primaries = JXL_PRIMARIES_P3;
+    color.transfer_function = JXL_TRANSFER_FUNCTION_SRGB;
+    color.rendering_intent = JXL_RENDERING_INTENT_RELATIVE;
+    return color;
+}
+
+/// What a box with an EXIF block holds; empty where the decoder is at another.
+QByteArray beginExif(JxlDecoder *decoder) {
+    constexpr qsizetype kEnough = 1 << 16; // More than an EXIF block of a JPEG can have.
+    JxlBoxType type{};
+    if (JxlDecoderGetBoxType(decoder, type, JXL_TRUE) != JXL_DEC_SUCCESS ||
+        QByteArrayView(type, sizeof type) != "Exif") {
+        return {};
+    }
+    QByteArray block(kEnough, '\0');
+    JxlDecoderSetBoxBuffer(decoder, reinterpret_cast<uint8_t *>(block.data()),
+                           static_cast<size_t>(block.size()));
+    return block;
+}
+
+void readDensity(QByteArrayView block, ImageHeader &header) {
+    constexpr qsizetype kOffset = 4; // The bytes that say how many more stand before the block.
+    if (block.size() >= kOffset) {
+        const qsizetype at = kOffset + bigEndianAt<quint32>(block, 0);
+        const ExifMetadata exif = readExif(block.sliced(std::min(at, block.size())));
+        header.horizontalDpi = exif.horizontalDpi;
+        header.verticalDpi = exif.verticalDpi;
+    }
+}
+
+int sideOf(uint32_t pixels) {
+    return static_cast<int>(std::min<uint32_t>(pixels, std::numeric_limits<int>::max()));
+}
+
+} // namespace
+
+Error damagedJpegXl() {
+    return Error(u"The JPEG XL file is damaged"_s);
+}
+
+JpegXlDecoder::JpegXlDecoder(const FileView &file, int events)
+    : m_file(file)
+    , m_decoder(JxlDecoderCreate(nullptr)) {
+    if (!m_decoder) {
+        throw std::bad_alloc();
+    }
+    JxlDecoderSubscribeEvents(get(), events);
+    JxlDecoderSetParallelRunner(get(), runPieces, nullptr);
+    JxlDecoderSetUnpremultiplyAlpha(get(), JXL_TRUE);
+    JxlDecoderSetDecompressBoxes(get(), JXL_TRUE);
+}
+
+JxlDecoderStatus JpegXlDecoder::step() {
+    JxlDecoderStatus status = JXL_DEC_NEED_MORE_INPUT;
+    do {
+        status = JxlDecoderProcessInput(get());
+    } while (status == JXL_DEC_NEED_MORE_INPUT && feed());
+    return status;
+}
+
+/// Hands over the next piece with what was left of the last; false at the end of the file.
+bool JpegXlDecoder::feed() {
+    constexpr qint64 kPiece = 1 << 20;
+    const auto left = static_cast<qint64>(JxlDecoderReleaseInput(get()));
+    m_piece = m_file.read(m_at - left, left + kPiece);
+    const qint64 further = m_piece.size() - left;
+    if (further <= 0) {
+        return false;
+    }
+    m_at += further;
+    return JxlDecoderSetInput(get(), reinterpret_cast<const uint8_t *>(m_piece.constData()),
+                              static_cast<size_t>(m_piece.size())) == JXL_DEC_SUCCESS;
+}
+
+JxlBasicInfo JpegXlDecoder::basicInfo() const {
+    JxlBasicInfo info{};
+    if (JxlDecoderGetBasicInfo(get(), &info) != JXL_DEC_SUCCESS) {
+        throw damagedJpegXl();
+    }
+    return info;
+}
+
+bool JpegXlDecoder::hasInks(const JxlBasicInfo &info) const {
+    for (uint32_t channel = 0; channel < info.num_extra_channels; ++channel) {
+        JxlExtraChannelInfo extra{};
+        if (JxlDecoderGetExtraChannelInfo(get(), channel, &extra) == JXL_DEC_SUCCESS &&
+            extra.type == JXL_CHANNEL_BLACK) {
+            return true;
+        }
+    }
+    return false;
+}
+
+JpegXlColor JpegXlDecoder::color(const JxlBasicInfo &info) {
+    JxlColorEncoding named{};
+    const bool isNamed =
+        asks(JxlDecoderGetColorAsEncodedProfile, get(), JXL_COLOR_PROFILE_TARGET_ORIGINAL, &named);
+    if (!isNamed && info.uses_original_profile == JXL_FALSE) {
+        // Without being asked for more it would give light, of which 8 bits are too few.
+        const JxlColorEncoding wide = wideColor(info);
+        JxlDecoderSetPreferredColorProfile(get(), &wide);
+    }
+    JpegXlColor color;
+    if (asks(JxlDecoderGetColorAsEncodedProfile, get(), JXL_COLOR_PROFILE_TARGET_DATA, &named)) {
+        warnOfHighRange(named.transfer_function, color.warnings);
+        if (isSrgb(named)) {
+            return color;
+        }
+    }
+    color.iccProfile = profileOf(get());
+    return color;
+}
+
+QByteArray JpegXlDecoder::takeSamples(const JxlPixelFormat &format) {
+    size_t size = 0;
+    if (JxlDecoderImageOutBufferSize(get(), &format, &size) != JXL_DEC_SUCCESS) {
+        throw damagedJpegXl();
+    }
+    QByteArray samples(static_cast<qsizetype>(size), '\0');
+    if (JxlDecoderSetImageOutBuffer(get(), &format, samples.data(), size) != JXL_DEC_SUCCESS) {
+        throw damagedJpegXl();
+    }
+    return samples;
+}
+
+bool JpegXlDecoder::flush() {
+    return JxlDecoderFlushImage(get()) == JXL_DEC_SUCCESS;
+}
+
+ImageHeader readJpegXlHeader(const FileView &file) {
+    JpegXlDecoder decoder(file, JXL_DEC_BASIC_INFO | JXL_DEC_BOX);
+    ImageHeader header;
+    QByteArray exif;
+    const auto endBox = [&] {
+        exif.chop(static_cast<qsizetype>(JxlDecoderReleaseBoxBuffer(decoder.get())));
+        readDensity(std::exchange(exif, {}), header);
+    };
+    JxlDecoderStatus status = decoder.step();
+    for (; status == JXL_DEC_BASIC_INFO || status == JXL_DEC_BOX; status = decoder.step()) {
+        if (status == JXL_DEC_BASIC_INFO) {
+            header.width = sideOf(decoder.basicInfo().xsize);
+            header.height = sideOf(decoder.basicInfo().ysize);
+        } else {
+            endBox();
+            exif = beginExif(decoder.get());
+        }
+    }
+    endBox();
+    if (header.width == 0 && (status == JXL_DEC_ERROR || status == JXL_DEC_NEED_MORE_INPUT)) {
+        throw damagedJpegXl();
+    }
+    return checkedHeader(header);
+}
+
+qint64 countJpegXlFrames(const FileView &file) {
+    JpegXlDecoder decoder(file, JXL_DEC_BASIC_INFO | JXL_DEC_FRAME);
+    qint64 frames = 0;
+    JxlDecoderStatus status = decoder.step();
+    for (; status == JXL_DEC_BASIC_INFO || status == JXL_DEC_FRAME; status = decoder.step()) {
+        if (status == JXL_DEC_FRAME) {
+            ++frames;
+        } else if (decoder.basicInfo().have_animation == JXL_FALSE) {
+            break;
+        }
+    }
+    return std::max<qint64>(frames, 1);
+}
+
+QByteArray originalJpeg(const FileView &file) {
+    constexpr qsizetype kFirst = 1 << 20;
+    const qint64 most = 16 * file.size() + 64 * qint64(kFirst);
+    JpegXlDecoder decoder(file, JXL_DEC_JPEG_RECONSTRUCTION | JXL_DEC_FULL_IMAGE);
+    QByteArray jpeg;
+    const auto grow = [&] {
+        const auto used =
+            jpeg.size() - static_cast<qsizetype>(JxlDecoderReleaseJPEGBuffer(decoder.get()));
+        jpeg.resize(std::max(kFirst, 2 * jpeg.size()));
+        JxlDecoderSetJPEGBuffer(decoder.get(), reinterpret_cast<uint8_t *>(jpeg.data()) + used,
+                                static_cast<size_t>(jpeg.size() - used));
+    };
+    JxlDecoderStatus status = decoder.step();
+    while (jpeg.size() < most &&
+           (status == JXL_DEC_JPEG_RECONSTRUCTION || status == JXL_DEC_JPEG_NEED_MORE_OUTPUT)) {
+        grow();
+        status = decoder.step();
+    }
+    if (status != JXL_DEC_FULL_IMAGE || jpeg.isEmpty()) {
+        return {};
+    }
+    jpeg.chop(static_cast<qsizetype>(JxlDecoderReleaseJPEGBuffer(decoder.get())));
+    return jpeg;
+}
+
+} // namespace folioforge

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#pragma once
+
+#include "error/Error.h"
+#include "error/Warning.h"
+#include "files/SourceFile.h"
+#include "image/ImageHeader.h"
+
+#include <jxl/decode.h>
+
+#include <QByteArray>
+
+#include <memory>
+
+namespace folioforge {
+
+/// What the samples that a decoder gives mean.
+struct JpegXlColor {
+    QByteArray iccProfile; ///< Empty for sRGB.
+    Warnings warnings;
+};
+
+/// libjxl over a view, which it reads piece by piece.
+class JpegXlDecoder {
+  public:
+    /// `events` are those of libjxl at which step() returns. Throws std::bad_alloc.
+    JpegXlDecoder(const FileView &file, int events);
+
+    /// Goes on to the next event; JXL_DEC_NEED_MORE_INPUT where the file ends before it.
+    JxlDecoderStatus step();
+
+    [[nodiscard]] JxlBasicInfo basicInfo() const;
+    /// Whether the picture has a channel for black ink.
+    [[nodiscard]] bool hasInks(const JxlBasicInfo &info) const;
+    /// At JXL_DEC_COLOR_ENCODING.
+    [[nodiscard]] JpegXlColor color(const JxlBasicInfo &info);
+    /// The place of the frame's samples, filled at JXL_DEC_FULL_IMAGE.
+    [[nodiscard]] QByteArray takeSamples(const JxlPixelFormat &format);
+    /// Fills the place with what was read of a frame; false where that gives no picture.
+    bool flush();
+
+    [[nodiscard]] JxlDecoder *get() const { return m_decoder.get(); }
+
+  private:
+    struct Destroy {
+        void operator()(JxlDecoder *decoder) const { JxlDecoderDestroy(decoder); }
+    };
+
+    bool feed();
+
+    FileView m_file;
+    qint64 m_at = 0;    ///< Behind the bytes that were handed over.
+    QByteArray m_piece; ///< The last of these.
+    std::unique_ptr<JxlDecoder, Destroy> m_decoder;
+};
+
+/// The size, turned as the file says, and the density. Throws Error.
+ImageHeader readJpegXlHeader(const FileView &file);
+
+/// The frames that a viewer shows one after another; no less than 1.
+qint64 countJpegXlFrames(const FileView &file);
+
+/// The JPEG file that the file was made of; empty where it was none.
+QByteArray originalJpeg(const FileView &file);
+
+Error damagedJpegXl();
+
+} // namespace folioforge
