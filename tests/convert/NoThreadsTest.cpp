@@ -5,7 +5,9 @@
 #include "compress/CompressionCase.h"
 #include "convert/Conversion.h"
 #include "filelist/EntryReader.h"
+#include "image/PdfImage.h"
 #include "support/Files.h"
+#include "support/Places.h"
 #include "support/TestUnit.h"
 #include <thread>
 
@@ -70,6 +72,33 @@ class NoThreadsTest : public QObject, CompressionCase {
         const PdfProbe probe = converted(path(u"picture.bmp"_s));
         QVERIFY(probe.isValid());
         QCOMPARE(probe.images().size(), 1);
+    }
+
+    void picturesOfOtherLibrariesAreWritten_data() {
+        QTest::addColumn<QString>("name");
+        for (const char *name : {"colour.webp", "colour.jxl"}) {
+            QTest::newRow(name) << QString::fromLatin1(name);
+        }
+    }
+
+    void picturesOfOtherLibrariesAreWritten() {
+        QFETCH(const QString, name);
+        const PdfProbe probe = converted(inSource(u"tests/data/image/"_s) + name);
+        QVERIFY(probe.isValid());
+        QCOMPARE(probe.images().size(), 1);
+    }
+
+    void aPictureWhoseLibraryWaitsForThreadsIsRefused() {
+        for (const char *name : {"colour.heic", "colour.avif"}) {
+            const QString file = inSource(u"tests/data/image/"_s) + QString::fromLatin1(name);
+            const NoThreads none;
+            try {
+                toPdfImage(file);
+                QFAIL(name);
+            } catch (const Error &error) {
+                QVERIFY(error.reason().startsWith(u"The system grants no thread"));
+            }
+        }
     }
 
     void theImagesOfADocumentAreReduced() {

@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <memory>
 #include <new>
+#include <system_error>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -41,6 +43,15 @@ void require(const heif_error &error) {
     if (error.code != heif_error_Ok) {
         throw Error(u"The HEIC or AVIF file cannot be read: %1"_s.arg(
             QString::fromUtf8(error.message).simplified()));
+    }
+}
+
+/// Throws Error where the system grants no thread: libde265 would wait for its own for ever.
+void requireThread() {
+    try {
+        std::thread([] {}).join();
+    } catch (const std::system_error &) {
+        throw Error(u"The system grants no thread, which HEIC and AVIF files take"_s);
     }
 }
 
@@ -200,6 +211,7 @@ PdfImage pictureOf(const FileView &file, const heif_image_handle *handle) {
     requirePlausibleArea(header, file.size());
     const bool isDeep = heif_image_handle_get_luma_bits_per_pixel(handle) > 8;
     const bool hasAlpha = heif_image_handle_has_alpha_channel(handle) != 0;
+    requireThread();
     heif_image *image = nullptr;
     require(heif_decode_image(handle, &image, heif_colorspace_RGB, chromaOf(isDeep, hasAlpha),
                               nullptr));

@@ -31,8 +31,7 @@ class JpegXlPictureReader : public PictureReader {
         while (!m_hasEnded) {
             switch (m_decoder.step()) {
             case JXL_DEC_BASIC_INFO:
-                m_info = m_decoder.basicInfo();
-                requireReadable();
+                m_info = m_decoder.checkedInfo();
                 break;
             case JXL_DEC_COLOR_ENCODING:
                 m_color = m_decoder.color(m_info);
@@ -63,13 +62,6 @@ class JpegXlPictureReader : public PictureReader {
     [[nodiscard]] JxlPixelFormat format() const {
         return {m_info.num_color_channels + (hasAlpha() ? 1 : 0),
                 isDeep() ? JXL_TYPE_UINT16 : JXL_TYPE_UINT8, JXL_BIG_ENDIAN, 0};
-    }
-
-    void requireReadable() const {
-        if (m_decoder.hasInks(m_info)) {
-            throw Error(u"The JPEG XL file stores inks, which cannot be read"_s);
-        }
-        requirePlausibleArea(m_header, m_file.size());
     }
 
     [[nodiscard]] PdfImage picture() {

@@ -6,6 +6,7 @@
 #include "image/CicpProfile.h"
 #include "image/Exif.h"
 #include "image/Parallel.h"
+#include "image/Raster.h"
 
 #include <jxl/version.h>
 
@@ -117,8 +118,22 @@ void readDensity(QByteArrayView block, ImageHeader &header) {
     }
 }
 
-int sideOf(uint32_t pixels) {
-    return static_cast<int>(std::min<uint32_t>(pixels, std::numeric_limits<int>::max()));
+ImageHeader headerOf(const JxlBasicInfo &info) {
+    constexpr uint32_t kMost = std::numeric_limits<int>::max();
+    ImageHeader header;
+    header.width = static_cast<int>(std::min(info.xsize, kMost));
+    header.height = static_cast<int>(std::min(info.ysize, kMost));
+    return header;
+}
+
+/// Throws std::bad_alloc where there may be too little memory: where it ends inside libjxl 0.7, the
+/// program ends.
+void requireRoom(const JxlBasicInfo &info) {
+    constexpr size_t kBytesOfSample = 20; // Of several copies, as measured.
+    const size_t samples =
+        size_t(info.xsize) * info.ysize * (info.num_color_channels + info.num_extra_channels);
+    static_cast<void>(
+        QByteArray(static_cast<qsizetype>(kBytesOfSample * samples), Qt::Uninitialized));
 }
 
 } // namespace
@@ -169,15 +184,28 @@ JxlBasicInfo JpegXlDecoder::basicInfo() const {
     return info;
 }
 
-bool JpegXlDecoder::hasInks(const JxlBasicInfo &info) const {
+JxlBasicInfo JpegXlDecoder::checkedInfo() const {
+    const JxlBasicInfo info = basicInfo();
+    requirePlausibleArea(checkedHeader(headerOf(info)), m_file.size());
+    requireColors(info);
+    requireRoom(info);
+    return info;
+}
+
+void JpegXlDecoder::requireColors(const JxlBasicInfo &info) const {
+    constexpr uint32_t kMostFurther = 16;
+    if (info.num_extra_channels > kMostFurther) {
+        throw Error(
+            u"The JPEG XL file has %1 channels beside its colours, which are too many"_s.arg(
+                info.num_extra_channels));
+    }
     for (uint32_t channel = 0; channel < info.num_extra_channels; ++channel) {
         JxlExtraChannelInfo extra{};
         if (JxlDecoderGetExtraChannelInfo(get(), channel, &extra) == JXL_DEC_SUCCESS &&
             extra.type == JXL_CHANNEL_BLACK) {
-            return true;
+            throw Error(u"The JPEG XL file stores inks, which cannot be read"_s);
         }
     }
-    return false;
 }
 
 JpegXlColor JpegXlDecoder::color(const JxlBasicInfo &info) {
@@ -227,8 +255,8 @@ ImageHeader readJpegXlHeader(const FileView &file) {
     JxlDecoderStatus status = decoder.step();
     for (; status == JXL_DEC_BASIC_INFO || status == JXL_DEC_BOX; status = decoder.step()) {
         if (status == JXL_DEC_BASIC_INFO) {
-            header.width = sideOf(decoder.basicInfo().xsize);
-            header.height = sideOf(decoder.basicInfo().ysize);
+            header.width = headerOf(decoder.basicInfo()).width;
+            header.height = headerOf(decoder.basicInfo()).height;
         } else {
             endBox();
             exif = beginExif(decoder.get());
@@ -255,9 +283,22 @@ qint64 countJpegXlFrames(const FileView &file) {
     return std::max<qint64>(frames, 1);
 }
 
+namespace {
+
+void requireReadable(const FileView &file) {
+    JpegXlDecoder decoder(file, JXL_DEC_BASIC_INFO);
+    if (decoder.step() != JXL_DEC_BASIC_INFO) {
+        throw damagedJpegXl();
+    }
+    static_cast<void>(decoder.checkedInfo());
+}
+
+} // namespace
+
 QByteArray originalJpeg(const FileView &file) {
     constexpr qsizetype kFirst = 1 << 20;
     const qint64 most = 16 * file.size() + 64 * qint64(kFirst);
+    requireReadable(file); // The events of libjxl 0.7 do not tell of it on the way to a JPEG.
     JpegXlDecoder decoder(file, JXL_DEC_JPEG_RECONSTRUCTION | JXL_DEC_FULL_IMAGE);
     QByteArray jpeg;
     const auto grow = [&] {

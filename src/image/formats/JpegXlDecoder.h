@@ -31,8 +31,9 @@ class JpegXlDecoder {
     JxlDecoderStatus step();
 
     [[nodiscard]] JxlBasicInfo basicInfo() const;
-    /// Whether the picture has a channel for black ink.
-    [[nodiscard]] bool hasInks(const JxlBasicInfo &info) const;
+    /// The same of a picture that can be decoded. Throws Error, and std::bad_alloc where there may
+    /// be too little memory.
+    [[nodiscard]] JxlBasicInfo checkedInfo() const;
     /// At JXL_DEC_COLOR_ENCODING.
     [[nodiscard]] JpegXlColor color(const JxlBasicInfo &info);
     /// The place of the frame's samples, filled at JXL_DEC_FULL_IMAGE.
@@ -48,6 +49,7 @@ class JpegXlDecoder {
     };
 
     bool feed();
+    void requireColors(const JxlBasicInfo &info) const;
 
     FileView m_file;
     qint64 m_at = 0;    ///< Behind the bytes that were handed over.
