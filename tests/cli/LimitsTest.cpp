@@ -182,6 +182,18 @@ class LimitsTest : public QObject {
         }
     }
 
+    void littleMemoryForAJpegXlGivesARightDocumentOrWords() {
+        const QString source = path(u"plain.jxl"_s);
+        const QString plain = path(u"plain.png"_s);
+        runTool(u"convert"_s, {u"-size"_s, u"4000x3000"_s, u"xc:white"_s, plain});
+        QCOMPARE(runTool(u"cjxl"_s, {u"-d"_s, u"0"_s, u"-e"_s, u"3"_s, plain, source}).exitCode, 0);
+        constexpr qint64 kMegabyte = 1 << 20;
+        for (qint64 size = 200 * kMegabyte; size < 1000 * kMegabyte; size += 100 * kMegabyte) {
+            const QString answer = answerTo({source}, {isSanitized() ? 0 : size});
+            QVERIFY2(answer == valid() || answer.contains(u"memory"_s), qPrintable(answer));
+        }
+    }
+
     void aPageTreeOfAnyDepthIsRead() {
         const int depth = sized(100'000, 10'000);
         QCOMPARE(answerTo({savedPdf(deepPageTree(depth))}), valid());

@@ -115,6 +115,13 @@ class HeifTest : public QObject {
         }
     }
 
+    void aLargePictureInAFewBytesIsRefused() {
+        QByteArray bytes = bytesOf(imageFile(u"colour.avif"_s));
+        bytes.replace(bytes.indexOf("ispe") + 8, 8, QByteArray::fromHex("00003a9800003a98"));
+        QCOMPARE(refusalOf(writeFile(m_folder.filePath(u"large.avif"_s), bytes)),
+                 u"The file is too short for the image its header describes"_s);
+    }
+
     void aCutFileIsRefused() {
         const QByteArray bytes = bytesOf(imageFile(u"colour.heic"_s));
         const QString path =

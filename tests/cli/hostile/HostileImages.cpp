@@ -78,6 +78,8 @@ QList<std::pair<const char *, QByteArray>> imageHeaders(quint32 side) {
                     QByteArray("\0\0\0\x0F"
                                "colr\1\0\0\0\0\0\x10",
                                15)},
+        {"webp", "RIFF" + little(quint32{22}) + "WEBPVP8X" + little(quint32{10}) +
+                     QByteArray(4, '\0') + little(side - 1).first(3) + little(side - 1).first(3)},
     };
 }
 
