@@ -31,6 +31,12 @@ inline Warning coarsePicture() {
             QStringLiteral("The picture is cut off: its finer details could not be read")};
 }
 
+/// The warning for a picture of which some parts were read, and nobody tells how many.
+inline Warning partOfPicture() {
+    return {WarningCode::PictureDamaged,
+            QStringLiteral("The picture is cut off: parts of it could not be read")};
+}
+
 /// The warning for a picture whose colours are all there, but not what makes parts of it
 /// transparent.
 inline Warning withoutMask() {

@@ -141,6 +141,22 @@ class JpegXlTest : public QObject {
         QCOMPARE(decoded(*image.softMask), decoded(*expected.softMask));
     }
 
+    void aCutPictureIsShownAsFarAsItGoes() {
+        const QString png = m_folder.filePath(u"large.png"_s);
+        const QString jxl = m_folder.filePath(u"large.jxl"_s);
+        runTool(u"convert"_s, {u"-size"_s, u"512x512"_s, u"-seed"_s, u"7"_s, u"plasma:"_s, png});
+        runTool(u"cjxl"_s, {u"-d"_s, u"0"_s, u"-e"_s, u"3"_s, png, jxl});
+        const QByteArray whole = bytesOf(jxl);
+        const PdfImage cut = toPdfImage(write(whole.first(whole.size() * 6 / 10)));
+        QCOMPARE(warningsOf(cut),
+                 QStringList(u"picture-damaged: The picture is cut off: parts of it could not be "
+                             "read"_s));
+        const QImage shown = decoded(cut).convertToFormat(kRgb);
+        const QImage expected = decoded(toPdfImage(jxl)).convertToFormat(kRgb);
+        QCOMPARE(shown.copy(0, 0, 200, 200), expected.copy(0, 0, 200, 200));
+        QVERIFY(shown.copy(300, 300, 200, 200) != expected.copy(300, 300, 200, 200));
+    }
+
     void aFileCutInItsHeaderIsRefused() {
         const QByteArray bytes = bytesOf(imageFile(u"colour.jxl"_s));
         QCOMPARE(refusalOf(write(bytes.first(8))), u"The JPEG XL file is damaged"_s);

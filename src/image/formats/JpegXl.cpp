@@ -86,11 +86,12 @@ class JpegXlPictureReader : public PictureReader {
     /// What can be shown of a frame that is cut off.
     std::optional<PdfImage> partialPicture() {
         m_hasEnded = true;
-        if (m_samples.isEmpty() || !m_decoder.flush()) {
+        if (m_samples.isEmpty() || !m_decoder.flush() ||
+            m_samples.count(m_samples.front()) == m_samples.size()) {
             throw damagedJpegXl();
         }
         PdfImage image = picture();
-        image.warnings.push_back(coarsePicture());
+        image.warnings.push_back(partOfPicture());
         return image;
     }
 
