@@ -142,8 +142,8 @@ Error damagedJpegXl() {
     return Error(u"The JPEG XL file is damaged"_s);
 }
 
-JpegXlDecoder::JpegXlDecoder(const FileView &file, int events)
-    : m_file(file)
+JpegXlDecoder::JpegXlDecoder(FileView file, int events)
+    : m_file(std::move(file))
     , m_decoder(JxlDecoderCreate(nullptr)) {
     if (!m_decoder) {
         throw std::bad_alloc();
@@ -208,7 +208,7 @@ void JpegXlDecoder::requireColors(const JxlBasicInfo &info) const {
     }
 }
 
-JpegXlColor JpegXlDecoder::color(const JxlBasicInfo &info) {
+JpegXlColor JpegXlDecoder::color(const JxlBasicInfo &info) const {
     JxlColorEncoding named{};
     const bool isNamed =
         asks(JxlDecoderGetColorAsEncodedProfile, get(), JXL_COLOR_PROFILE_TARGET_ORIGINAL, &named);
@@ -228,7 +228,7 @@ JpegXlColor JpegXlDecoder::color(const JxlBasicInfo &info) {
     return color;
 }
 
-QByteArray JpegXlDecoder::takeSamples(const JxlPixelFormat &format) {
+QByteArray JpegXlDecoder::takeSamples(const JxlPixelFormat &format) const {
     size_t size = 0;
     if (JxlDecoderImageOutBufferSize(get(), &format, &size) != JXL_DEC_SUCCESS) {
         throw damagedJpegXl();
@@ -240,7 +240,7 @@ QByteArray JpegXlDecoder::takeSamples(const JxlPixelFormat &format) {
     return samples;
 }
 
-bool JpegXlDecoder::flush() {
+bool JpegXlDecoder::flush() const {
     return JxlDecoderFlushImage(get()) == JXL_DEC_SUCCESS;
 }
 

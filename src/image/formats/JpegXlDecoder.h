@@ -25,7 +25,7 @@ struct JpegXlColor {
 class JpegXlDecoder {
   public:
     /// `events` are those of libjxl at which step() returns. Throws std::bad_alloc.
-    JpegXlDecoder(const FileView &file, int events);
+    JpegXlDecoder(FileView file, int events);
 
     /// Goes on to the next event; JXL_DEC_NEED_MORE_INPUT where the file ends before it.
     JxlDecoderStatus step();
@@ -35,11 +35,11 @@ class JpegXlDecoder {
     /// be too little memory.
     [[nodiscard]] JxlBasicInfo checkedInfo() const;
     /// At JXL_DEC_COLOR_ENCODING.
-    [[nodiscard]] JpegXlColor color(const JxlBasicInfo &info);
+    [[nodiscard]] JpegXlColor color(const JxlBasicInfo &info) const;
     /// The place of the frame's samples, filled at JXL_DEC_FULL_IMAGE.
-    [[nodiscard]] QByteArray takeSamples(const JxlPixelFormat &format);
+    [[nodiscard]] QByteArray takeSamples(const JxlPixelFormat &format) const;
     /// Fills the place with what was read of a frame; false where that gives no picture.
-    bool flush();
+    [[nodiscard]] bool flush() const;
 
     [[nodiscard]] JxlDecoder *get() const { return m_decoder.get(); }
 
