@@ -7,7 +7,9 @@
 #include "mainwnd/Desktop.h"
 
 #include <QApplication>
+#include <QFileOpenEvent>
 #include <QIcon>
+#include <QTimer>
 
 #include <algorithm>
 #include <utility>
@@ -34,6 +36,7 @@ FolioforgeAppDelegate::FolioforgeAppDelegate(WindowServices services,
     setupUi(m_menuBar.get());
     connectItems();
     awakeFromNib();
+    qApp->installEventFilter(this);
 }
 
 FolioforgeAppDelegate::~FolioforgeAppDelegate() = default;
@@ -65,6 +68,22 @@ void FolioforgeAppDelegate::showMainWindow() {
     window->raise();
     window->activateWindow();
     new FramePlacer(*window);
+}
+
+void FolioforgeAppDelegate::openFiles(const QStringList &paths) {
+    QTimer::singleShot(0, this, [this, paths] {
+        for (const QString &path : m_mainWndCtrl->addDropped(paths, -1)) {
+            qWarning("folioforge: \"%s\" cannot be listed", qUtf8Printable(path));
+        }
+    });
+}
+
+bool FolioforgeAppDelegate::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::FileOpen) {
+        openFiles({static_cast<QFileOpenEvent *>(event)->file()});
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void FolioforgeAppDelegate::connectItems() {

@@ -31,6 +31,9 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
     void awakeFromNib();
     /// Loads the main window with its menu and icon and shows it.
     void applicationDidFinishLaunching();
+    /// Puts the files that the system hands over at the end of the list, as a drop does, as soon as
+    /// the window has been drawn. Standard error names those that the list does not take.
+    void openFiles(const QStringList &paths);
     /// Brings the main window to the front and centres it on its screen.
     void showMainWindow();
     [[nodiscard]] static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
@@ -47,6 +50,8 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
     void clickMenuItemQuit();
 
     void hasFileOpened(bool opened) override;
+    /// Opens the file that macOS asks the application to open.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
     [[nodiscard]] MainWndCtrl &mainWndCtrl() { return *m_mainWndCtrl; }
 

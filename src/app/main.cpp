@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "app/FolioforgeAppDelegate.h"
+#include "app/Launch.h"
 #include "app/Translations.h"
 #include "convert/Bundle.h"
 #include "files/ProcessSetup.h"
@@ -11,16 +12,35 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QLocale>
 #include <QSettings>
 
+#include <cstdio>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList wordsOf(int argc, char *argv[]) {
+    QStringList words;
+    for (int i = 1; i < argc; ++i) {
+        words += QFile::decodeName(argv[i]);
+    }
+    return words;
+}
+
+} // namespace
 
 int main(int argc, char *argv[]) {
     using namespace folioforge;
     prepareProcess();
     forbidCoreDumps();
-    QApplication application(argc, argv);
+    if (const auto answer = answerTo(wordsOf(argc, argv))) {
+        std::fputs(answer->text.toUtf8().constData(), answer->exitStatus == 0 ? stdout : stderr);
+        return answer->exitStatus;
+    }
+    QApplication application(argc, argv); // It takes Qt's own options out of argv.
     QApplication::setApplicationName(u"Folioforge"_s);
     QApplication::setDesktopFileName(u"com.vesprin.folioforge"_s);
     QApplication::setQuitOnLastWindowClosed(
@@ -36,5 +56,6 @@ int main(int argc, char *argv[]) {
     FolioforgeAppDelegate delegate(
         {settings, desktop, notices, notifications, QDir::homePath(), bundle}, makeUpdater());
     delegate.applicationDidFinishLaunching();
+    delegate.openFiles(filesAmong(wordsOf(argc, argv)));
     return QApplication::exec();
 }

@@ -205,18 +205,22 @@ bool MainWndCtrl::acceptDrop(const QMimeData &data, int row) {
     if (!dragged) {
         return true;
     }
-    QStringList paths;
-    for (const QString &path : *dragged) {
-        if (isDroppable(path)) {
-            paths += path;
-        }
+    return addDropped(*dragged, row).size() < dragged->size();
+}
+
+QStringList MainWndCtrl::addDropped(const QStringList &paths, int row) {
+    if (!canEditList()) {
+        return paths;
     }
-    if (paths.isEmpty() || !canEditList()) {
-        return false;
+    QStringList files = paths;
+    const auto others = std::stable_partition(files.begin(), files.end(), isDroppable);
+    const QStringList left(others, files.end());
+    files.erase(others, files.end());
+    if (!files.isEmpty()) {
+        addFiles(files, row);
+        reindexFiles();
     }
-    addFiles(paths, row);
-    reindexFiles();
-    return true;
+    return left;
 }
 
 } // namespace folioforge

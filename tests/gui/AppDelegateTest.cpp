@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QFileOpenEvent>
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
@@ -92,6 +93,27 @@ class AppDelegateTest : public QObject {
         Application application;
         QVERIFY(application.delegate.mainWndCtrl().filesArray().isEmpty());
         QVERIFY(!application.item(u"Start"_s).isEnabled());
+    }
+
+    void whatTheSystemHandsOverComesToTheEndOfTheList() {
+        Application application;
+        MainWndCtrl &ctrl = application.delegate.mainWndCtrl();
+        ctrl.addFiles({application.world.file(u"first.txt"_s)}, -1);
+        const QString none = application.world.path(u"none.txt"_s);
+        QTest::ignoreMessage(QtWarningMsg,
+                             qUtf8Printable(u"folioforge: \"%1\" cannot be listed"_s.arg(none)));
+        application.delegate.openFiles({application.world.file(u"second.txt"_s), none,
+                                        application.world.file(u"third.txt"_s)});
+        QTRY_COMPARE(ctrl.filesArray().count(), 3);
+        QCOMPARE(ctrl.filesArray().at(1).fileName(), u"second.txt"_s);
+        QCOMPARE(ctrl.filesArray().at(2).fileName(), u"third.txt"_s);
+    }
+
+    void aFileThatTheDesktopAsksToOpenIsListed() {
+        Application application;
+        QFileOpenEvent event(application.world.file(u"asked.txt"_s));
+        QCoreApplication::sendEvent(qApp, &event);
+        QTRY_COMPARE(application.delegate.mainWndCtrl().filesArray().count(), 1);
     }
 
     void theStartItemFollowsTheCreateButton() {

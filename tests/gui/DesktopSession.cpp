@@ -128,7 +128,8 @@ void DesktopSession::makeOpener() const {
     }
 }
 
-bool DesktopSession::start(const QString &program, const QString &outputFolder) {
+bool DesktopSession::start(const QString &program, const QString &outputFolder,
+                           const QStringList &files) {
     QDir().mkpath(outputFolder);
     QDir().mkpath(path(u"config/Vesprin"_s));
     writeFile(path(u"config/Vesprin/Folioforge.conf"_s),
@@ -136,7 +137,7 @@ bool DesktopSession::start(const QString &program, const QString &outputFolder) 
     m_application.setProcessEnvironment(m_environment);
     m_application.setWorkingDirectory(m_home.path());
     m_application.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_application.start(program, QStringList());
+    m_application.start(program, files);
     return m_application.waitForStarted(kPatience) && find(u"Create"_s).has_value();
 }
 

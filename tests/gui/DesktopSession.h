@@ -42,8 +42,9 @@ class DesktopSession {
 
     /// Starts the screen, its window manager and the bus; whether all came up.
     bool begin(const DesktopKind &desktop = {});
-    /// Starts `program` with `outputFolder` as its stored output folder and waits for its window.
-    bool start(const QString &program, const QString &outputFolder);
+    /// Starts `program` with `files` to list and `outputFolder` as its stored output folder, and
+    /// waits for its window.
+    bool start(const QString &program, const QString &outputFolder, const QStringList &files = {});
     [[nodiscard]] QProcess &application() { return m_application; }
 
     /// A path under the folder that is the application's home.

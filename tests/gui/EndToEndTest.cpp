@@ -173,6 +173,25 @@ class EndToEndTest : public QObject {
     }
 
   private Q_SLOTS:
+    void filesThatTheDesktopHandsOverAreListedInTheirOrder() {
+        DesktopSession desktop;
+        QVERIFY(desktop.begin());
+        const QString in = sourceFolder(desktop);
+        QVERIFY(QDir().mkpath(in));
+        writeFile(in + u"/--b.txt"_s, "Last\n");
+        writePng(in + u"/a.png"_s, 30, 20);
+        const QStringList files = {in + u"/a.png"_s, u"--"_s, u"in/--b.txt"_s};
+        QVERIFY(desktop.start(program(), outputFolder(desktop), files));
+        QVERIFY(desktop.find(u"--b.txt"_s).has_value());
+        QVERIFY(desktop.press(u"Merge into one PDF"_s));
+        QVERIFY(create(desktop, 1));
+        const PdfProbe merged(outputFolder(desktop) + u"/a.pdf"_s);
+        QCOMPARE(merged.pageCount(), 2);
+        QCOMPARE(merged.text().trimmed(), u"Last"_s);
+        QCOMPARE(merged.box(u"MediaBox"_s, 1), QRectF(0, 0, 30, 20));
+        QVERIFY(quits(desktop));
+    }
+
     void filesOfEveryKindBecomeDocumentsThatALinkOpens() {
         DesktopSession desktop;
         QVERIFY(desktop.begin());
