@@ -58,8 +58,37 @@ class ExamplesTest : public QObject, CommandLineCase {
                  0);
     }
 
+    QTemporaryDir m_prefix;
+    QString installedPrograms() const {
+#ifdef Q_OS_MACOS
+        return m_prefix.filePath(u"Folioforge.app/Contents/MacOS"_s);
+#else
+        return m_prefix.filePath(u"bin"_s);
+#endif
+    }
+
   private Q_SLOTS:
-    void init() { setUp(); }
+    void initTestCase() {
+        const ToolRun run =
+            runTool(u"cmake"_s, {u"--install"_s, inBuild({}), u"--prefix"_s, m_prefix.path()});
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+    }
+    void init() {
+        setUp();
+    }
+
+    void anInstallationHasManualsAndCompletions() {
+        for (const char *file : {"share/bash-completion/completions/folioforge-cli",
+                                 "share/zsh/site-functions/_folioforge-cli",
+                                 "share/fish/vendor_completions.d/folioforge-cli.fish"}) {
+            QVERIFY2(QFileInfo(m_prefix.filePath(QLatin1StringView(file))).size() > 0, file);
+        }
+#ifndef Q_OS_MACOS
+        const ToolRun page = runTool(
+            u"gzip"_s, {u"-dc"_s, m_prefix.filePath(u"share/man/man1/folioforge-cli.1.gz"_s)});
+        QVERIFY(page.out.contains(".Nm folioforge-cli"));
+#endif
+    }
 
     void everyExampleWorksAsItIsWritten_data() {
         QTest::addColumn<QString>("example");
@@ -86,7 +115,7 @@ class ExamplesTest : public QObject, CommandLineCase {
         const QString script = u"cd \"$1\" && PATH=$2:$PATH SECRET=word && export PATH SECRET && "
                                "set -o pipefail && eval \"$3\""_s;
         const ToolRun run = runTool(u"bash"_s, {u"-c"_s, script, u"bash"_s, m_folder->path(),
-                                                QFileInfo(kProgram).path(), example});
+                                                installedPrograms(), example});
         QVERIFY2(run.exitCode == 0, run.err.constData());
         QVERIFY(!run.out.contains("look at what is named above")); // What an example says else.
     }
