@@ -77,7 +77,7 @@ class NamesTest : public QObject {
         QCOMPARE(run.exitCode, 0);
         QVERIFY(test::isHarmlessForTerminals(run.out));
         QStringList shown;
-        for (const QJsonObject &object : objectsOf(run.out)) {
+        for (const QJsonObject &object : test::objectsOf(run.out)) {
             shown += object[u"input"_s].toString();
             QVERIFY(QFile::exists(object[u"output"_s].toString()));
         }
