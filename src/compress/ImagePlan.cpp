@@ -227,6 +227,10 @@ std::variant<ImageJob, QString> decide(QPDFObjectHandle image, const ImageUse &u
         return u"drawn at a size that cannot be told"_s;
     }
     QPDFObjectHandle dictionary = image.getDict();
+    QString reason = reasonOfUnusual(dictionary);
+    if (reason.isEmpty() && !filter.grey.empty()) {
+        greyPalette(dictionary, filter.grey);
+    }
     if (isBilevel(dictionary)) {
         return decideBilevel(dictionary, filter);
     }
@@ -234,7 +238,6 @@ std::variant<ImageJob, QString> decide(QPDFObjectHandle image, const ImageUse &u
     job.purpose = purpose;
     job.lineArt = filter.keepLineArt ? LineArt::Keep : LineArt::Reduce;
     job.jpegQuality = filter.jpegQuality;
-    QString reason = reasonOfUnusual(dictionary);
     if (reason.isEmpty()) {
         reason = describeSize(dictionary, filter, job);
     }
@@ -286,9 +289,6 @@ void planUse(QPDF &document, const ImageUse &use, const QuartzFilter &filter, Im
     QPDFObjectHandle image = document.getObjectByObjGen(use.image);
     std::variant<ImageJob, QString> decision;
     try {
-        if (!filter.grey.empty()) {
-            greyPalette(image.getDict(), filter.grey);
-        }
         decision = decide(image, use, filter, purpose);
     } catch (const std::exception &) {
         decision = u"damaged: its description is wrong"_s;

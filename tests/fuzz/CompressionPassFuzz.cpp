@@ -16,11 +16,13 @@ using namespace folioforge::fuzz;
 
 namespace {
 
-void compressOnce(const QString &source, int pages) {
-    const CompressionOutcome outcome = compress(
-        source, {quartzFilterPath(QStringLiteral(FOLIOFORGE_FUZZED_BUNDLE), quartzFilterName(3)),
-                 QFileInfo(source).path()});
-    require(outcome.convertInfo.has_value() == (outcome.bytesAfter < outcome.bytesBefore));
+void compressOnce(const QString &source, int pages, bool grey) {
+    CompressionOptions options{
+        quartzFilterPath(QStringLiteral(FOLIOFORGE_FUZZED_BUNDLE), quartzFilterName(3)),
+        QFileInfo(source).path()};
+    options.grey = grey;
+    const CompressionOutcome outcome = compress(source, options);
+    require(grey || outcome.convertInfo.has_value() == (outcome.bytesAfter < outcome.bytesBefore));
     if (!outcome.error.isEmpty()) {
         require(!outcome.convertInfo);
         throw Error(outcome.error);
@@ -38,7 +40,7 @@ FUZZ_TARGET(CompressionPass) {
     refuses([&] {
         const PDFSummary summary = summarizePDF(source.path());
         if (summary.pageCount > 0) {
-            compressOnce(source.path(), summary.pageCount);
+            compressOnce(source.path(), summary.pageCount, bytes.size() % 2 == 1);
         }
     });
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // One image stream with any bytes: it is reduced or left with a reason, and what is made is
-// smaller.
+// smaller, or grey.
 
 #include "FuzzSupport.h"
 #include "compress/ImageReducer.h"
@@ -44,6 +44,13 @@ ImageJob jobOf(Bytes data) {
     job.jpegQuality = data[5] % 100 + 1;
     job.purpose = data[7] & 1 && job.components == 1 ? ImagePurpose::SoftMask : ImagePurpose::Photo;
     job.lineArt = data[7] & 2 ? LineArt::Keep : LineArt::Reduce;
+    if (data[7] & 4 && job.components != 1) {
+        job.grey = "/DeviceGray";
+        job.isInverted = (data[7] & 8) != 0;
+    }
+    if (data[7] & 16) {
+        job.purpose = ImagePurpose::Bilevel;
+    }
     job.data.assign(data.begin() + kHeadBytes, data.end());
     return job;
 }
@@ -56,6 +63,6 @@ FUZZ_TARGET(ImageReducer) {
     }
     const ImageJob job = jobOf(bytes);
     const Reduction reduction = reduceImage(job);
-    require(reduction.image ? reduction.image->data.size() < job.data.size()
+    require(reduction.image ? reduction.image->data.size() < job.data.size() || !job.grey.empty()
                             : !reduction.reason.isEmpty());
 }
