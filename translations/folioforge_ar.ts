@@ -728,6 +728,18 @@ None: pictures stay as they are
         <source>72l, strong: good for mail</source>
         <translation>72l، قوي: جيد للبريد</translation>
     </message>
+    <message>
+        <source>Break lines between words; keep blank lines, tabs and right-to-left text</source>
+        <translation>كسر الأسطر بين الكلمات، مع إبقاء الأسطر الفارغة وعلامات الجدولة والنص من اليمين إلى اليسار</translation>
+    </message>
+    <message>
+        <source>Readable layout</source>
+        <translation>تخطيط مقروء</translation>
+    </message>
+    <message>
+        <source>Rea&amp;dable layout</source>
+        <translation>تخطيط مقروء (&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>

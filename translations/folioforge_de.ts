@@ -724,6 +724,18 @@ Keine: Bilder bleiben, wie sie sind
         <source>72l, strong: good for mail</source>
         <translation>72l, stark: für E-Mail</translation>
     </message>
+    <message>
+        <source>Break lines between words; keep blank lines, tabs and right-to-left text</source>
+        <translation>Zeilen zwischen Wörtern umbrechen; Leerzeilen, Tabulatoren und Text von rechts nach links erhalten</translation>
+    </message>
+    <message>
+        <source>Readable layout</source>
+        <translation>Lesbares Layout</translation>
+    </message>
+    <message>
+        <source>Rea&amp;dable layout</source>
+        <translation>Lesbares La&amp;yout</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>

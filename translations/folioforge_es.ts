@@ -724,6 +724,18 @@ Ninguna: las imágenes quedan como están
         <source>72l, strong: good for mail</source>
         <translation>72l, fuerte: para el correo</translation>
     </message>
+    <message>
+        <source>Break lines between words; keep blank lines, tabs and right-to-left text</source>
+        <translation>Cortar las líneas entre palabras; conservar líneas vacías, tabulaciones y texto de derecha a izquierda</translation>
+    </message>
+    <message>
+        <source>Readable layout</source>
+        <translation>Disposición legible</translation>
+    </message>
+    <message>
+        <source>Rea&amp;dable layout</source>
+        <translation>Disposición le&amp;gible</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>

@@ -724,6 +724,18 @@ Aucune : les images restent telles quelles
         <source>72l, strong: good for mail</source>
         <translation>72l, forte : pour le courriel</translation>
     </message>
+    <message>
+        <source>Break lines between words; keep blank lines, tabs and right-to-left text</source>
+        <translation>Couper les lignes entre les mots ; garder lignes vides, tabulations et texte de droite à gauche</translation>
+    </message>
+    <message>
+        <source>Readable layout</source>
+        <translation>Présentation lisible</translation>
+    </message>
+    <message>
+        <source>Rea&amp;dable layout</source>
+        <translation>&amp;Présentation lisible</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>

@@ -723,6 +723,18 @@ None: pictures stay as they are
         <source>72l, strong: good for mail</source>
         <translation>72l、強: メール向け</translation>
     </message>
+    <message>
+        <source>Break lines between words; keep blank lines, tabs and right-to-left text</source>
+        <translation>単語の間で改行し、空行、タブ、右から左への文字列を保ちます</translation>
+    </message>
+    <message>
+        <source>Readable layout</source>
+        <translation>読みやすいレイアウト</translation>
+    </message>
+    <message>
+        <source>Rea&amp;dable layout</source>
+        <translation>読みやすいレイアウト(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>

@@ -723,6 +723,18 @@ None: pictures stay as they are
         <source>72l, strong: good for mail</source>
         <translation>72l，强：适合邮件</translation>
     </message>
+    <message>
+        <source>Break lines between words; keep blank lines, tabs and right-to-left text</source>
+        <translation>在词与词之间换行；保留空行、制表符和从右到左的文字</translation>
+    </message>
+    <message>
+        <source>Readable layout</source>
+        <translation>易读排版</translation>
+    </message>
+    <message>
+        <source>Rea&amp;dable layout</source>
+        <translation>易读排版(&amp;D)</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>

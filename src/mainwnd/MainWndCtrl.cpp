@@ -109,6 +109,11 @@ void MainWndCtrl::fitLargeTexts() {
     m_tableview->setIconSize(QSize(1, 1) * scaledToText(kIconSize));
     stackPairs(*imageNumbersLayout);
     stackPairs(*textNumbersLayout);
+    if (textScale() > 1) { // The settings of texts have the most rows.
+        constexpr int kCloseRows = 3;
+        textPageLayout->setSpacing(kCloseRows);
+        textNumbersLayout->setVerticalSpacing(kCloseRows);
+    }
     const auto sides = [](const QWidget *widget) {
         const QMargins margins = widget->layout()->contentsMargins();
         return margins.left() + margins.right();

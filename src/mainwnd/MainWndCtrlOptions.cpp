@@ -201,6 +201,9 @@ ConversionOptions MainWndCtrl::conversionOptions() const {
     options.textPage = textPageSetup();
     options.imagePage = imagePageSetup();
     options.textFont = m_ctFont;
+    if (m_btnReadable->isChecked()) {
+        options.readable.emplace();
+    }
     options.compressIndex = m_comboCompressMethod->currentIndex();
     return options;
 }

@@ -50,6 +50,7 @@ void MainWndCtrl::connectPreview() {
     for (const QButtonGroup *matrix : {m_mtxTextPageSizeMode, m_mtxImagePageSizeMode}) {
         connect(matrix, &QButtonGroup::buttonToggled, m_preview.get(), refresh);
     }
+    connect(m_btnReadable, &QCheckBox::toggled, m_preview.get(), refresh);
     connect(m_comboCompressMethod, &QComboBox::currentIndexChanged, m_preview.get(), refresh);
     connect(m_filesArray->selectionModel(), &QItemSelectionModel::selectionChanged, m_preview.get(),
             refresh);

@@ -60,6 +60,8 @@ bool OptionsDrawer::eventFilter(QObject *watched, QEvent *event) {
 void OptionsDrawer::scrollTo(QWidget &control) {
     // A panel that has just been opened or exchanged has its places only now.
     m_area->widget()->layout()->activate();
+    QEvent grown(QEvent::LayoutRequest); // Else the area would know only later how far it scrolls.
+    QCoreApplication::sendEvent(m_area, &grown);
     m_area->ensureWidgetVisible(&control);
 }
 

@@ -122,6 +122,20 @@ class PreviewTest : public QObject {
         QTRY_VERIFY(isAbout(w.width(), 2));
     }
 
+    void theReadableLayoutIsShown() {
+        PreviewWindow w;
+        w.listText(u"words.txt"_s, QByteArray("one\n\n\n\n\n\n\n\n\n\ntwo"));
+        w.key(Qt::Key_Space);
+        QTRY_VERIFY(!w.page().isNull());
+        const QImage plain = w.page();
+        w.press("m_btnExpand");
+        w.press("m_btnTxtSetting");
+        auto *box = w.control<QCheckBox>("m_btnReadable");
+        QTRY_VERIFY(box->isVisible());
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+        QTRY_VERIFY(w.page().size() == plain.size() && w.page() != plain);
+    }
+
     void settingsWithoutAPageAreSaidInWords() {
         PreviewWindow w;
         w.listText(u"letter.txt"_s, "words\n");
