@@ -176,6 +176,18 @@ class MergedCatalogTest : public QObject {
         QCOMPARE(second.getKey("/DA").getStringValue(), std::string("/F_2 9 Tf"));
     }
 
+    void aTableUnderManyUnknownNamesIsTakenOnceAndUnderKnownOnesEachTime() {
+        const QByteArray names = "/A 30 0 R /B 30 0 R /C 30 0 R /Font 30 0 R /XObject 30 0 R";
+        const auto document =
+            merged({withForm("/DR << " + names + " >>").object(30, "<< /F 3 0 R >>")});
+        QByteArrayList kept;
+        for (const auto &[name, table] :
+             catalogEntry(*document, "/AcroForm", "/DR").getDictAsMap()) {
+            kept += QByteArray::fromStdString(name);
+        }
+        QCOMPARE(kept.join(' '), "/A /Font /XObject");
+    }
+
     void aDefaultAppearanceFollowsTheRenamesOfItsOwnCategories() {
         const PdfFixture first = withForm(
             "/DR << /Font << /F 3 0 R >> /ColorSpace << /C /DeviceRGB /F /DeviceRGB >> >>");

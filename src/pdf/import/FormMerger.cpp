@@ -10,8 +10,10 @@
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <iterator>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -20,6 +22,13 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 
 namespace {
+
+/// Whether readers know resources of that kind (ISO 32000-1, table 33), or one program's forms.
+bool isCategory(const std::string &name) {
+    static constexpr std::array kCategories{"/Font",    "/XObject",   "/ColorSpace", "/Pattern",
+                                            "/Shading", "/ExtGState", "/Properties", "/Encoding"};
+    return std::ranges::find(kCategories, name) != kCategories.end();
+}
 
 /// Gives fields the defaults of their form, which in the merged one would hold for the fields of
 /// all sources.
@@ -107,8 +116,10 @@ CategoryRenames FormMerger::addResources(QPDFObjectHandle resources) {
     if (!resources.isDictionary()) {
         return renames;
     }
+    std::set<QPDFObjGen> visited;
     for (auto &[category, members] : resources.getDictAsMap()) {
-        if (!members.isDictionary()) {
+        // A small file may have one large table under any number of names of its own.
+        if (!members.isDictionary() || (!isCategory(category) && !isFirstVisit(members, visited))) {
             continue;
         }
         auto &known = m_resources[category];
