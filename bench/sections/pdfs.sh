@@ -24,16 +24,6 @@ run_all
 limit "qpdf's wall time beside ours, above 1" \
     "$(ratio "$(best wall "qpdf, loses bookmarks")" "$(best wall folioforge)")" at-least 1
 
-make_set tagged tagged
-export tagged="$inputs/tagged"
-begin "60 tagged PDFs of 20 pages and 2,000 structure elements in one PDF"
-candidate "folioforge" '"$cli" --quiet --flush never --merge "$out" "$tagged"/with/*.pdf'
-candidate "folioforge, the same without tags" \
-    '"$cli" --quiet --flush never --merge "$out" "$tagged"/without/*.pdf'
-candidate "qpdf, loses tags" 'qpdf --empty --pages "$tagged"/with/*.pdf -- "$out"'
-candidate "mutool merge, loses tags" 'mutool merge -o "$out" "$tagged"/with/*.pdf'
-run_all
-
 begin "A text PDF of 2,000 pages merged with itself"
 candidate "folioforge" '"$cli" --quiet --flush never --merge "$out" "$book" "$book"'
 candidate "qpdf" 'qpdf --empty --pages "$book" "$book" -- "$out"'
