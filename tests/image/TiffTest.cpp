@@ -11,6 +11,8 @@
 #include <cstdlib>
 #include <vector>
 
+#include <sys/resource.h>
+
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
@@ -21,6 +23,17 @@ namespace {
 
 template<typename T> QByteArray bytesOfValues(const std::vector<T> &values) {
     return {reinterpret_cast<const char *>(values.data()), qsizetype(values.size() * sizeof(T))};
+}
+
+/// The most memory that the process has had, in bytes.
+qint64 peakMemory() {
+    rusage usage{};
+    ::getrusage(RUSAGE_SELF, &usage);
+#ifdef Q_OS_MACOS
+    return usage.ru_maxrss;
+#else
+    return usage.ru_maxrss * qint64(1024);
+#endif
 }
 
 } // namespace
@@ -210,6 +223,34 @@ class TiffTest : public QObject {
         const QString path = tiff(20000, 20000, QByteArray(2000, 'x'),
                                   [](TIFF *tif) { setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR); });
         QCOMPARE(refusalOf(path), u"The file is too short for the image its header describes"_s);
+    }
+
+    void aTextThatShouldLieFarBehindTheEndTakesNoMemory() {
+        QByteArray bytes("II*\0\x08\0\0\0\x0A\0", 10);
+        const auto add = [&bytes](const std::vector<quint32> &tag) {
+            const auto numbers = bytesOfValues(tag);
+            bytes += numbers.first(2) + numbers.sliced(4, 2) + numbers.sliced(8, 8);
+        };
+        constexpr quint32 kBytes = 300'000'000;
+        for (const std::vector<quint32> &tag : std::vector<std::vector<quint32>>{
+                 {TIFFTAG_IMAGEWIDTH, TIFF_SHORT, 1, 4},
+                 {TIFFTAG_IMAGELENGTH, TIFF_SHORT, 1, 8},
+                 {TIFFTAG_BITSPERSAMPLE, TIFF_SHORT, 1, 8},
+                 {TIFFTAG_COMPRESSION, TIFF_SHORT, 1, COMPRESSION_NONE},
+                 {TIFFTAG_PHOTOMETRIC, TIFF_SHORT, 1, PHOTOMETRIC_MINISBLACK},
+                 {TIFFTAG_IMAGEDESCRIPTION, TIFF_ASCII, kBytes, 1000},
+                 {TIFFTAG_STRIPOFFSETS, TIFF_LONG, 1, 134},
+                 {TIFFTAG_SAMPLESPERPIXEL, TIFF_SHORT, 1, 1},
+                 {TIFFTAG_ROWSPERSTRIP, TIFF_SHORT, 1, 8},
+                 {TIFFTAG_STRIPBYTECOUNTS, TIFF_LONG, 1, 32}}) {
+            add(tag);
+        }
+        bytes += QByteArray(4 + 16, '\0'); // No further page, and half of the rows.
+        const qint64 before = peakMemory();
+        const PdfImage image = toPdfImage(writeFile(m_folder.filePath(u"text.tif"_s), bytes));
+        QCOMPARE(warningsOf(image), QStringList(u"picture-damaged: The picture is cut off: 50 % of "
+                                                u"its rows could not be read"_s));
+        QVERIFY(peakMemory() - before < kBytes / 3);
     }
 
     void rowsWithoutAStripAreMissing() {

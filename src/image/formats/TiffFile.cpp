@@ -23,7 +23,7 @@ struct FreeOptions {
 } // namespace
 
 TiffFile::TiffFile(const FileView &file, qint64 directory, std::optional<char> padding)
-    : m_state(new State{file, padding, 0, {}, 0, 0})
+    : m_state(new State{file, {}, 0, {}, 0, 0})
     , m_directory(directory) {
     const std::unique_ptr<TIFFOpenOptions, FreeOptions> options(TIFFOpenOptionsAlloc());
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), keepMessage, m_state.get());
@@ -38,6 +38,8 @@ TiffFile::TiffFile(const FileView &file, qint64 directory, std::optional<char> p
                       TIFFSetSubDirectory(m_handle.get(), static_cast<uint64_t>(directory)) == 0)) {
         fail();
     }
+    // Not before: the directory may tell of gigabytes behind the end.
+    m_state->padding = padding;
 }
 
 int TiffFile::number(uint32_t tag, int missing) const {
