@@ -7,6 +7,8 @@
 #include "image/RowFilter.h"
 #include "pdf/QpdfErrors.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -19,6 +21,10 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 
 namespace {
+
+/// What the end of a document may take: a lack of memory there ends the program. The system maps so
+/// much by itself, so that it is free for all as soon as it is released.
+constexpr qsizetype kSpareBytes = 2 << 20;
 
 bool isCompression(QPDFObjectHandle filter) {
     constexpr std::array<std::string_view, 6> kNames{
@@ -34,7 +40,9 @@ std::string decodeLossless(const std::string &data, const std::string &filter,
     std::string decoded;
     try {
         // A document of its own for each call: libqpdf's objects belong to one thread.
+        QByteArray spare(kSpareBytes, Qt::Uninitialized);
         QPDF scratch;
+        const auto release = qScopeGuard([&] { spare.clear(); });
         makeEmpty(scratch);
         QPDFObjectHandle stream = scratch.newStream();
         stream.replaceStreamData(data, QPDFObjectHandle::parse(filter),

@@ -91,7 +91,7 @@ class LimitsTest : public QObject {
         if (run.exitCode == 0) {
             answer = written();
         } else if (run.exitCode != 1) {
-            answer.clear(); // A signal, or a fault of this test.
+            answer = u"exit status %1"_s.arg(run.exitCode); // A signal, or a fault of this test.
         }
         qInfo("| %s%s%s | %.1f s | %lld MB | %s |", QTest::currentTestFunction(),
               QTest::currentDataTag() ? ": " : "",
