@@ -6,6 +6,7 @@
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
 #include "support/Places.h"
+#include "support/Sanitizer.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
@@ -232,12 +233,14 @@ class OtherProgramsTest : public QObject {
         }
     }
 
-    /// The documents of all pairs in one, as it is, compressed, and in another document.
+    /// The documents of all pairs in one, as it is, compressed, and in another document. Under the
+    /// sanitizers of every tenth pair: what they watch is the same for each.
     void pairsThatAreMergedAgainAndCompressedHaveTheSame() {
         QStringList paths{photoDocument()};
         QList<QByteArray> structure;
         QList<QByteArray> attachments;
-        for (const auto &[one, other, both] : m_pairs) {
+        for (std::size_t i = 0; i < m_pairs.size(); i += isSanitized() ? 10 : 1) {
+            const auto &[one, other, both] = m_pairs[i];
             paths += both;
             structure += one.structure + other.structure;
             attachments += one.attachments + other.attachments;
