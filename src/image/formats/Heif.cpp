@@ -66,7 +66,15 @@ class HeifFile {
         if (!m_context) {
             throw std::bad_alloc();
         }
-        static const heif_reader reader{1, position, read, seek, waitForSize};
+        static const heif_reader reader = [] {
+            heif_reader made{}; // Later versions of libheif have more members.
+            made.reader_api_version = 1;
+            made.get_position = position;
+            made.read = read;
+            made.seek = seek;
+            made.wait_for_file_size = waitForSize;
+            return made;
+        }();
         // Its threads would fail where the system grants none.
         heif_context_set_max_decoding_threads(m_context.get(), 0);
         require(heif_context_read_from_reader(m_context.get(), &reader, &m_source, nullptr));
