@@ -60,8 +60,7 @@ QStringList readBookmarkTitles(const Arguments &arguments) {
         return {};
     }
     const QByteArray &name = *arguments.bookmarkTitleFile;
-    QFile file(QFile::decodeName(name));
-    const QString text = file.open(QIODevice::ReadOnly) ? decodeText(file.readAll()) : QString();
+    const QString text = decodeText(contentsOf(name, "--bookmark-titles"_L1));
     if (text.isNull()) {
         throw ArgumentFault(
             u"--bookmark-titles: \"%1\" cannot be read as UTF-8"_s.arg(QString::fromUtf8(name)));
@@ -85,11 +84,12 @@ void readNameLists(Arguments &arguments) {
         arguments.inputs.insert(at, names.begin(), names.end());
         moveChoices(arguments.pageChoices, list->at, names.size());
     }
+    // Both passwords are lines of one reading.
     const bool isPassword = arguments.userPasswordFile == "-" || arguments.ownerPasswordFile == "-";
-    const bool isInputPassword = arguments.inputPasswordFile == "-";
-    if (ofLists + std::ranges::count(arguments.inputs, "-") + (isPassword ? 1 : 0) +
-            (isInputPassword ? 1 : 0) >
-        1) {
+    const auto readings = ofLists + std::ranges::count(arguments.inputs, "-") +
+                          (isPassword ? 1 : 0) + (arguments.inputPasswordFile == "-" ? 1 : 0) +
+                          (arguments.bookmarkTitleFile == "-" ? 1 : 0);
+    if (readings > 1) {
         throw ArgumentFault(u"Standard input cannot be read twice"_s);
     }
 }

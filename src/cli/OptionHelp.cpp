@@ -70,8 +70,8 @@ HelpSection documentHelp() {
               "those of the PDFs (the default), one for each file, the first under the "
               "second, or none"},
              {"--bookmark-titles", "FILE",
-              "what those of files are called, a line for each input; an empty line stands for the "
-              "file's name"},
+              "what those of files are called, a line for each input, \"-\" for standard input; an "
+              "empty line stands for the file's name"},
              {"--keep-info", "", "what these do not give comes from the first PDF of the inputs"},
              {"--user-password-file", "FILE",
               "the password to open the PDF: first line of FILE, \"-\" for standard input; or in "

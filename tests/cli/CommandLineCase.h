@@ -61,8 +61,10 @@ class CommandLineCase {
                        input);
     }
 
-    ToolRun merge(const char *target, const QStringList &arguments) const {
-        return runTool(kProgram, QStringList{QStringLiteral("--merge"), path(target)} + arguments);
+    ToolRun merge(const char *target, const QStringList &arguments,
+                  const QByteArray &input = {}) const {
+        return runTool(kProgram, QStringList{QStringLiteral("--merge"), path(target)} + arguments,
+                       input);
     }
 
     /// The bytes of the document that `arguments` merged into while the descriptors `closed` were;

@@ -115,9 +115,29 @@ class InputListsTest : public QObject, CommandLineCase {
         }
     }
 
+    void titlesOfBookmarksComeFromStandardInput() {
+        const QStringList arguments{QFile::decodeName(named("1.txt")), u"--bookmarks=files"_s,
+                                    u"--bookmark-titles=-"_s};
+        const ToolRun run = merge("one.pdf", arguments, "From a pipe\n");
+        QCOMPARE(run.exitCode, 0);
+        const QByteArray outline =
+            runTool(u"mutool"_s, {u"show"_s, path("one.pdf"), u"outline"_s}).out;
+        QVERIFY2(outline.contains("\"From a pipe\""), outline.constData());
+    }
+
+    void aFileOfTitlesThatIsNotThereIsNamed() {
+        const ToolRun run = convert({QFile::decodeName(named("1.txt")), u"--bookmarks=files"_s,
+                                     u"--bookmark-titles"_s, path("none")});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.startsWith("folioforge-cli: --bookmark-titles: \"") &&
+                     run.err.endsWith("cannot be read: No such file or directory\n"),
+                 run.err.constData());
+    }
+
     void standardInputServesOneList() {
         for (const QStringList &arguments :
              {QStringList{u"--files-from=-"_s, u"--files-from=-"_s},
+              QStringList{u"--files-from=-"_s, u"--bookmarks=files"_s, u"--bookmark-titles=-"_s},
               QStringList{u"--files-from=-"_s, u"--user-password-file=-"_s}}) {
             const ToolRun run = convert(arguments, named("a.txt"));
             QCOMPARE(run.exitCode, 2);
