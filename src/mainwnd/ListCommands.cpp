@@ -5,6 +5,7 @@
 #include "mainwnd/SkinTableView.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMenu>
 
