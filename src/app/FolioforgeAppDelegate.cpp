@@ -7,6 +7,7 @@
 #include "mainwnd/Desktop.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFileOpenEvent>
 #include <QIcon>
 #include <QTimer>
@@ -70,17 +71,17 @@ void FolioforgeAppDelegate::showMainWindow() {
     new FramePlacer(*window);
 }
 
-void FolioforgeAppDelegate::openFiles(const QStringList &paths) {
+void FolioforgeAppDelegate::openFiles(const QByteArrayList &paths) {
     QTimer::singleShot(0, this, [this, paths] {
-        for (const QString &path : m_mainWndCtrl->addDropped(paths, -1)) {
-            qWarning("folioforge: \"%s\" cannot be listed", qUtf8Printable(path));
+        for (const QByteArray &path : m_mainWndCtrl->addDropped(paths, -1)) {
+            qWarning("folioforge: \"%s\" cannot be listed", path.constData());
         }
     });
 }
 
 bool FolioforgeAppDelegate::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::FileOpen) {
-        openFiles({static_cast<QFileOpenEvent *>(event)->file()});
+        openFiles({QFile::encodeName(static_cast<QFileOpenEvent *>(event)->file())});
         return true;
     }
     return QObject::eventFilter(watched, event);

@@ -31,9 +31,9 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
     void awakeFromNib();
     /// Loads the main window with its menu and icon and shows it.
     void applicationDidFinishLaunching();
-    /// Puts the files that the system hands over at the end of the list, as a drop does, as soon as
-    /// the window has been drawn. Standard error names those that the list does not take.
-    void openFiles(const QStringList &paths);
+    /// Puts the files that the system hands over at the end of the list, as a drop does, when the
+    /// event loop runs. Standard error names those that the list does not take.
+    void openFiles(const QByteArrayList &paths);
     /// Brings the main window to the front and centres it on its screen.
     void showMainWindow();
     [[nodiscard]] static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }

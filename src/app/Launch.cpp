@@ -3,6 +3,9 @@
 #include "app/Launch.h"
 
 #include <QDir>
+#include <QFile>
+
+#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -21,34 +24,35 @@ QString helpText() {
 
 } // namespace
 
-std::optional<LaunchAnswer> answerTo(const QStringList &words) {
-    for (const QString &word : words) {
-        if (word == u"--") {
+std::optional<LaunchAnswer> answerTo(const QByteArrayList &words) {
+    for (const QByteArray &word : words) {
+        if (word == "--") {
             break;
         }
-        if (word == u"--help") {
+        if (word == "--help") {
             return LaunchAnswer{helpText()};
         }
-        if (word == u"--version") {
+        if (word == "--version") {
             return LaunchAnswer{u"folioforge " FOLIOFORGE_VERSION "\n"_s};
         }
-        if (word.startsWith(u"--")) {
+        if (word.startsWith("--")) {
             return LaunchAnswer{u"folioforge: there is no option \"%1\"\n"
-                                "Try \"folioforge --help\".\n"_s.arg(word),
+                                "Try \"folioforge --help\".\n"_s.arg(QString::fromUtf8(word)),
                                 2};
         }
     }
     return std::nullopt;
 }
 
-QStringList filesAmong(const QStringList &words) {
-    QStringList files;
+QByteArrayList filesAmong(const QByteArrayList &words) {
+    const std::filesystem::path here = QFile::encodeName(QDir::currentPath()).toStdString();
+    QByteArrayList files;
     bool isOver = false; // The options are.
-    for (const QString &word : words) {
-        if (!isOver && word == u"--") {
+    for (const QByteArray &word : words) {
+        if (!isOver && word == "--") {
             isOver = true;
         } else {
-            files += QDir::current().absoluteFilePath(word);
+            files += QByteArray::fromStdString((here / word.toStdString()).string());
         }
     }
     return files;

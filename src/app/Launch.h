@@ -2,8 +2,8 @@
 
 #pragma once
 
+#include <QByteArrayList>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -17,9 +17,9 @@ struct LaunchAnswer {
 
 /// The answer to --help, to --version or to an option that there is not, among the `words` after
 /// the program's name; nothing where the window opens. Words after "--" are files.
-std::optional<LaunchAnswer> answerTo(const QStringList &words);
+std::optional<LaunchAnswer> answerTo(const QByteArrayList &words);
 
-/// The absolute paths of the files among `words`.
-QStringList filesAmong(const QStringList &words);
+/// The absolute paths of the files among `words`, in bytes, as names need not be text.
+QByteArrayList filesAmong(const QByteArrayList &words);
 
 } // namespace folioforge

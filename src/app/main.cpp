@@ -11,8 +11,8 @@
 #include "skin/LightLook.h"
 
 #include <QApplication>
+#include <QByteArrayList>
 #include <QDir>
-#include <QFile>
 #include <QLocale>
 #include <QSettings>
 
@@ -22,12 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QStringList wordsOf(int argc, char *argv[]) {
-    QStringList words;
-    for (int i = 1; i < argc; ++i) {
-        words += QFile::decodeName(argv[i]);
-    }
-    return words;
+QByteArrayList wordsOf(int argc, char *argv[]) {
+    return QByteArrayList(argv + 1, argv + argc);
 }
 
 } // namespace

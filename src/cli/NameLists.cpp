@@ -33,10 +33,7 @@ std::vector<QByteArray> namesIn(const NameList &list, bool endInNull) {
                 QString::fromUtf8(list.file)));
     }
     std::vector<QByteArray> names;
-    for (QByteArray &name : contents.split(endInNull ? '\0' : '\n')) {
-        if (!endInNull && name.endsWith('\r')) {
-            name.chop(1);
-        }
+    for (const QByteArray &name : endInNull ? contents.split('\0') : linesIn(contents)) {
         if (!name.isEmpty()) {
             names.push_back(name);
         }
@@ -68,9 +65,6 @@ QStringList readBookmarkTitles(const Arguments &arguments) {
     QStringList titles;
     for (const QString &line : text.split(u'\n')) {
         titles += line.trimmed();
-    }
-    while (!titles.isEmpty() && titles.last().isEmpty()) {
-        titles.removeLast();
     }
     return titles;
 }

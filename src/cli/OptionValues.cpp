@@ -69,20 +69,37 @@ QString textOf(const QByteArray &bytes) {
     return text;
 }
 
-QByteArray contentsOf(const QByteArray &name, QLatin1StringView option,
-                      std::optional<qint64> most) {
+QByteArray contentsOf(const QByteArray &name, QLatin1StringView option, qint64 most) {
     QFile file(QFile::decodeName(name));
     const bool isOpen =
         name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    const QString fault = u"%1: \"%2\" cannot be read: %3"_s.arg(option, QString::fromUtf8(name));
     QByteArray contents;
-    if (isOpen) {
-        contents = most ? file.read(*most) : file.readAll();
+    constexpr qint64 kPiece = 1 << 16;
+    while (isOpen && contents.size() <= most) {
+        const QByteArray piece = file.read(kPiece); // A pipe gives what is in it now.
+        if (piece.isEmpty()) {
+            break;
+        }
+        contents += piece;
     }
     if (file.error() != QFileDevice::NoError) {
-        throw ArgumentFault(u"%1: \"%2\" cannot be read: %3"_s.arg(option, QString::fromUtf8(name),
-                                                                   file.errorString()));
+        throw ArgumentFault(fault.arg(file.errorString()));
+    }
+    if (contents.size() > most) {
+        throw ArgumentFault(fault.arg(u"It has more than %1 bytes"_s.arg(most)));
     }
     return contents;
+}
+
+QByteArrayList linesIn(const QByteArray &contents) {
+    QByteArrayList lines = contents.split('\n');
+    for (QByteArray &line : lines) {
+        if (line.endsWith('\r')) {
+            line.chop(1);
+        }
+    }
+    return lines;
 }
 
 PageMargins parseMargins(const QString &text, QStringList &rounded) {

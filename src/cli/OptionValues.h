@@ -6,12 +6,14 @@
 #include "text/PageSetup.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QLatin1StringView>
 #include <QString>
 #include <QStringList>
 
 #include <exception>
 #include <initializer_list>
+#include <limits>
 #include <optional>
 #include <utility>
 
@@ -32,10 +34,13 @@ class ArgumentFault : public std::exception {
 /// `bytes` as text. Throws ArgumentFault when they are not valid UTF-8.
 QString textOf(const QByteArray &bytes);
 
-/// What the file `name` of `option` holds, "-" for standard input; where `most` is given, as many
-/// bytes at the most. Throws ArgumentFault, which names the option, where it cannot be read.
+/// What the file `name` of `option` holds, "-" for standard input. Throws ArgumentFault, which
+/// names the option, where it cannot be read or has more than `most` bytes.
 QByteArray contentsOf(const QByteArray &name, QLatin1StringView option,
-                      std::optional<qint64> most = {});
+                      qint64 most = std::numeric_limits<qint64>::max());
+
+/// The lines in `contents`, also such as Windows ends.
+QByteArrayList linesIn(const QByteArray &contents);
 
 /// The value of the word `text` among `words`. Throws ArgumentFault when it is none of them.
 template<typename Value>

@@ -88,17 +88,20 @@ InputPasswords readInputPasswords(const Arguments &arguments) {
     const QByteArray lines =
         contentsOf(*arguments.inputPasswordFile, "--input-password-file"_L1, kMostBytes);
     std::vector<QByteArray> passwords;
-    for (QByteArray &line : lines.split('\n')) {
-        if (line.endsWith('\r')) {
-            line.chop(1);
+    for (const QByteArray &line : linesIn(lines)) {
+        if (line.isEmpty()) {
+            continue; // The empty password is tried anyway.
         }
         const QString password = decodeText(line);
         if (password.isNull()) { // The line itself is not shown.
             throw ArgumentFault(u"--input-password-file: a line is not valid UTF-8"_s);
         }
         passwords.push_back(line);
-        if (!passwordProblem(password)) {
-            passwords.push_back(preparedPassword(password));
+        if (passwordProblem(password)) {
+            continue;
+        }
+        if (QByteArray prepared = preparedPassword(password); prepared != line) {
+            passwords.push_back(std::move(prepared));
         }
     }
     return std::make_shared<const std::vector<QByteArray>>(std::move(passwords));

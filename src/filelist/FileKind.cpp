@@ -18,8 +18,10 @@ FileKind fileKind(const QString &path, FurtherTypes further) {
             return kind;
         }
     }
-    const QString type = extension.isEmpty() ? lastPathComponent(path).toLower() : extension;
-    return further.texts && furtherTexts().contains(type) ? FileKind::Text : FileKind::Other;
+    const bool isText = extension.isEmpty()
+                            ? furtherTextNames().contains(lastPathComponent(path).toLower())
+                            : furtherTexts().contains(extension);
+    return further.texts && isText ? FileKind::Text : FileKind::Other;
 }
 
 const QStringList &extensionsOf(FileKind kind) {
@@ -53,10 +55,18 @@ const QStringList &furtherTexts() {
             "cxx hh hpp hxx m mm cs java kt kts scala groovy gradle swift go rs zig d dart js mjs "
             "ts jsx tsx vue py rb pl pm php lua r jl hs ml erl ex exs clj el lisp scm f f90 f95 "
             "pas ada adb ads asm s v vhd sv tcl awk sed sh bash zsh fish bat cmd ps1 cmake mk "
-            "proto graphql qml ui makefile dockerfile readme license copying authors changelog "
-            "news install todo")
-            .split(u' ');
+            "proto graphql qml ui")
+            .split(u' ') +
+        furtherTextNames();
     return texts;
+}
+
+const QStringList &furtherTextNames() {
+    static const QStringList names = QString::fromLatin1("makefile dockerfile readme license "
+                                                         "copying authors changelog news install "
+                                                         "todo")
+                                         .split(u' ');
+    return names;
 }
 
 } // namespace folioforge

@@ -17,19 +17,27 @@ enum class FileKind {
 
 /// What is taken beyond the types that the window lists.
 struct FurtherTypes {
-    bool texts = false; ///< What furtherTexts() names, as text.
+    bool texts = false; ///< What furtherTexts() and furtherTextNames() name, as text.
 };
 
 /// The kind of a file, by the lower-cased extension of its path alone, or by its name where that is
 /// a further text without one.
 FileKind fileKind(const QString &path, FurtherTypes further = {});
 
+/// Whether the window lists files of this kind.
+inline bool isListed(FileKind kind) {
+    return kind != FileKind::Other && kind != FileKind::FurtherImage;
+}
+
 /// The recognised extensions of a kind, lower-cased, in the order in which file panels list them;
 /// none for Other.
 const QStringList &extensionsOf(FileKind kind);
 
 /// The extensions, lower-cased, of texts other than ".txt": markup, tables, logs and source code;
-/// with them the names of such files without an extension.
+/// the last of them are furtherTextNames().
 const QStringList &furtherTexts();
+
+/// The names, lower-cased, of such files without an extension.
+const QStringList &furtherTextNames();
 
 } // namespace folioforge

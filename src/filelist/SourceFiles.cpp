@@ -75,7 +75,7 @@ void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &rea
     const QByteArray place = QFile::encodeName(folder);
     try {
         for (const QByteArray &name : listFolder(place).names) {
-            if (fileKind(QFile::decodeName(name)) != FileKind::FurtherImage) {
+            if (isListed(fileKind(QFile::decodeName(name)))) {
                 files += readableLinks.pathFor(place + '/' + name);
             }
         }

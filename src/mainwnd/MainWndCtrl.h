@@ -129,7 +129,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     bool acceptDrop(const QMimeData &data, int row) override;
     /// Puts those of `paths` that are files of a kind for the list in at `row`, or at the end where
     /// `row` is negative; the others, and all while the list cannot be edited, are returned.
-    QStringList addDropped(const QStringList &paths, int row);
+    QByteArrayList addDropped(const QByteArrayList &paths, int row);
 
     // ---- Editing the list (MainWndCtrlEdit.cpp) ----------------------------------------------
 

@@ -11,6 +11,7 @@
 #include "mainwnd/Notices.h"
 #include "mainwnd/WindowMemory.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QMimeData>
 #include <QTimer>
@@ -42,24 +43,23 @@ QStringList filesOf(const QStringList &chosen, ReadableLinks &readableLinks) {
     return files;
 }
 
-/// The file that `url` names. Names that are not valid UTF-8 are taken byte by byte.
-QString fileOf(const QUrl &url, ReadableLinks &readableLinks) {
+/// The path of the file that `url` names; in bytes, as names need not be text.
+QByteArray fileOf(const QUrl &url) {
     const QString path = url.toLocalFile();
     return path.contains(QChar::ReplacementCharacter)
-               ? readableLinks.pathFor(
-                     QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()))
-               : path;
+               ? QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1())
+               : QFile::encodeName(path);
 }
 
 /// The local files of a drag; nothing when it carries no URLs.
-std::optional<QStringList> draggedPaths(const QMimeData &data, ReadableLinks &readableLinks) {
+std::optional<QByteArrayList> draggedPaths(const QMimeData &data) {
     if (!data.hasUrls()) {
         return std::nullopt;
     }
-    QStringList paths;
+    QByteArrayList paths;
     for (const QUrl &url : data.urls()) {
         if (url.isLocalFile()) {
-            paths += fileOf(url, readableLinks);
+            paths += fileOf(url);
         }
     }
     return paths;
@@ -72,8 +72,7 @@ bool isBadPdf(const ReadEntry &read) {
 
 bool isDroppable(const QString &path) {
     const QFileInfo info(path);
-    return info.exists() && !info.isDir() &&
-           recognisedExtensions().contains(pathExtension(path).toLower());
+    return info.exists() && !info.isDir() && isListed(fileKind(path));
 }
 
 } // namespace
@@ -201,26 +200,32 @@ void MainWndCtrl::showBadFiles(const QStringList &paths) {
 }
 
 bool MainWndCtrl::acceptDrop(const QMimeData &data, int row) {
-    const std::optional<QStringList> dragged = draggedPaths(data, m_readableLinks);
+    const std::optional<QByteArrayList> dragged = draggedPaths(data);
     if (!dragged) {
         return true;
     }
     return addDropped(*dragged, row).size() < dragged->size();
 }
 
-QStringList MainWndCtrl::addDropped(const QStringList &paths, int row) {
+QByteArrayList MainWndCtrl::addDropped(const QByteArrayList &paths, int row) {
     if (!canEditList()) {
         return paths;
     }
-    QStringList files = paths;
-    const auto others = std::stable_partition(files.begin(), files.end(), isDroppable);
-    const QStringList left(others, files.end());
-    files.erase(others, files.end());
+    QStringList files;
+    QByteArrayList others;
+    for (const QByteArray &path : paths) {
+        const QString readable = m_readableLinks.pathFor(path);
+        if (isDroppable(readable)) {
+            files += readable;
+        } else {
+            others += path;
+        }
+    }
     if (!files.isEmpty()) {
         addFiles(files, row);
         reindexFiles();
     }
-    return left;
+    return others;
 }
 
 } // namespace folioforge

@@ -96,14 +96,13 @@ PreviewSubject MainWndCtrl::previewSubject() const {
     }
     subject.entry = m_filesArray->at(row);
     subject.options = conversionOptions();
-    const QString &path = subject.entry.filePathName();
     std::optional<Notice> problem;
     if (subject.entry.stateIndex() == FinishedAsLink) {
         subject.document = subject.entry.destFilePathName();
         subject.password = m_tfUserPassword->text();
-    } else if (fileKind(path) == FileKind::Pdf) {
-        subject.document = path;
-    } else if (fileKind(path) == FileKind::Text) {
+    } else if (subject.entry.kind() == FileKind::Pdf) {
+        subject.document = subject.entry.filePathName();
+    } else if (subject.entry.kind() == FileKind::Text) {
         problem = folioforge::checkTextPageSizeSettings(textPageSetup());
     } else {
         problem = folioforge::checkImagePageSizeSettings(imagePageSetup());

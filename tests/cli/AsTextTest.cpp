@@ -38,9 +38,10 @@ class AsTextTest : public QObject, CommandLineCase {
     }
 
     void whatIsNoTextIsStillRefused() {
-        const ToolRun run = merge("out.pdf", {u"--as-text"_s, text("a.zip"), text("data")});
+        const ToolRun run =
+            merge("out.pdf", {u"--as-text"_s, text("a.zip"), text("data"), text("sed")});
         QCOMPARE(run.exitCode, 1);
-        QCOMPARE(run.err.count("It is not a recognised type"), qsizetype{2});
+        QCOMPARE(run.err.count("It is not a recognised type"), qsizetype{3});
     }
 
     void foldersGiveThemToo() {
@@ -69,6 +70,7 @@ class AsTextTest : public QObject, CommandLineCase {
                                              QRegularExpression::DotMatchesEverythingOption);
         const QStringList named = list.match(manual).captured(1).simplified().split(u' ');
         QCOMPARE(named, furtherTexts());
+        QVERIFY(manual.contains(u"last %1 of them also as names"_s.arg(furtherTextNames().size())));
     }
 };
 

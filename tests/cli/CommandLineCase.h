@@ -7,6 +7,7 @@
 #include "support/Places.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -59,6 +60,33 @@ class CommandLineCase {
         return runTool(kProgram,
                        QStringList{QStringLiteral("--output-folder"), path("out")} + arguments,
                        input);
+    }
+
+    /// Runs a line of a shell in the test's folder, with the programs of a folder on the PATH.
+    ToolRun shell(const QByteArray &line,
+                  const QString &programs = QFileInfo(kProgram).path()) const {
+        const QString script =
+            QStringLiteral("cd \"$1\" && PATH=$2:$PATH SECRET=word && export PATH SECRET && "
+                           "set -o pipefail && eval \"$3\"");
+        return runTool(QStringLiteral("bash"),
+                       {QStringLiteral("-c"), script, QStringLiteral("bash"), m_folder->path(),
+                        programs, QString::fromUtf8(line)});
+    }
+
+    /// The lines of a page, of the whole document for 0, without those that are empty.
+    static QStringList linesOf(const PdfProbe &pdf, int page = 0) {
+        QStringList lines;
+        for (const QString &line : pdf.text(page).remove(u'\f').split(u'\n', Qt::SkipEmptyParts)) {
+            lines += line.simplified();
+        }
+        return lines;
+    }
+
+    /// The bookmarks of the document at `name`, as mutool shows them.
+    QByteArray outlineOf(const char *name) const {
+        return runTool(QStringLiteral("mutool"),
+                       {QStringLiteral("show"), path(name), QStringLiteral("outline")})
+            .out;
     }
 
     ToolRun merge(const char *target, const QStringList &arguments,

@@ -37,6 +37,21 @@ class PasswordSourcesTest : public QObject, protected CommandLineCase {
   private Q_SLOTS:
     void init() { setUp(); }
 
+    void passwordsOfAPipeMayComeOneByOne() {
+        encrypted(u"user"_s, u"256"_s, {});
+        const ToolRun run = shell("{ echo wrong; sleep 0.3; echo 'ä owner'; } | folioforge-cli "
+                                  "--merge open.pdf --input-password-file - locked.pdf");
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+        QCOMPARE(PdfProbe(path("open.pdf")).pageCount(), 1);
+    }
+
+    void aFileOfTooManyPasswordsIsRefused() {
+        const QString list = text("list", QByteArray("word\n").repeated(1 << 18));
+        const ToolRun run = merge("open.pdf", {u"--input-password-file"_s, list, text("a.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.contains("It has more than 1048576 bytes"), run.err.constData());
+    }
+
     void encryptedPdfsOpenWithALineOfTheFile_data() {
         QTest::addColumn<QString>("key");
         QTest::addColumn<QByteArray>("lines");

@@ -3,6 +3,7 @@
 #include "TestApplication.h"
 
 #include "mainwnd/FilesArray.h"
+#include "support/HostileNames.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
 
@@ -102,11 +103,26 @@ class AppDelegateTest : public QObject {
         const QString none = application.world.path(u"none.txt"_s);
         QTest::ignoreMessage(QtWarningMsg,
                              qUtf8Printable(u"folioforge: \"%1\" cannot be listed"_s.arg(none)));
-        application.delegate.openFiles({application.world.file(u"second.txt"_s), none,
-                                        application.world.file(u"third.txt"_s)});
+        application.delegate.openFiles({application.world.file(u"second.txt"_s).toUtf8(),
+                                        none.toUtf8(),
+                                        application.world.file(u"third.txt"_s).toUtf8()});
         QTRY_COMPARE(ctrl.filesArray().count(), 3);
         QCOMPARE(ctrl.filesArray().at(1).fileName(), u"second.txt"_s);
         QCOMPARE(ctrl.filesArray().at(2).fileName(), u"third.txt"_s);
+    }
+
+    void handedOverFilesWhoseNamesReadAlikeStayDifferentFiles() {
+        Application application;
+        const QByteArray folder = QFile::encodeName(application.world.home.path());
+        writeFileNamed(folder + "/caf\xe8.txt", "grave\n");
+        writeFileNamed(folder + "/caf\xe9.txt", "acute, and longer\n");
+        application.delegate.openFiles({folder + "/caf\xe9.txt", folder + "/caf\xe8.txt"});
+        const FilesArray &files = application.delegate.mainWndCtrl().filesArray();
+        QTRY_COMPARE(files.count(), 2);
+        QCOMPARE(files.at(0).fileName(), u"caf\uFFFD.txt"_s);
+        QCOMPARE(QFileInfo(files.at(0).filePathName()).size(), 18);
+        QCOMPARE(QFileInfo(files.at(1).filePathName()).size(), 6);
+        runTool(u"sh"_s, {u"-c"_s, u"rm \"$0\"/caf*.txt"_s, application.world.home.path()});
     }
 
     void aFileThatTheDesktopAsksToOpenIsListed() {

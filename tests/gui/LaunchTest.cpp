@@ -6,6 +6,7 @@
 #include "support/TestUnit.h"
 
 #include <QDir>
+#include <QFile>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -16,10 +17,8 @@ class LaunchTest : public QObject {
     Q_OBJECT
 
     static ToolRun launch(const QStringList &words) {
-        const QString program = bundlePath() + u"/Contents/MacOS/folioforge"_s;
-        return runTool(u"env"_s,
-                       QStringList{u"-u"_s, u"DISPLAY"_s, u"QT_QPA_PLATFORM=xcb"_s, program} +
-                           words);
+        const QStringList noDisplay = {u"-u"_s, u"DISPLAY"_s, u"QT_QPA_PLATFORM=xcb"_s};
+        return runTool(u"env"_s, noDisplay + QStringList{windowProgram()} + words);
     }
 
   private Q_SLOTS:
@@ -45,11 +44,15 @@ class LaunchTest : public QObject {
     }
 
     void wordsAfterTwoDashesAreFiles() {
-        const QStringList words = {u"a.txt"_s, u"--"_s, u"--"_s, u"--help"_s, u"/b.txt"_s};
+        const QByteArrayList words = {"a.txt", "--", "--", "--help", "/b.txt"};
         QVERIFY(!folioforge::answerTo(words).has_value());
-        const QString here = QDir::currentPath() + u'/';
+        const QByteArray here = QFile::encodeName(QDir::currentPath()) + '/';
         QCOMPARE(folioforge::filesAmong(words),
-                 QStringList({here + u"a.txt"_s, here + u"--"_s, here + u"--help"_s, u"/b.txt"_s}));
+                 QByteArrayList({here + "a.txt", here + "--", here + "--help", "/b.txt"}));
+    }
+
+    void aNameThatIsNoTextKeepsItsBytes() {
+        QCOMPARE(folioforge::filesAmong({"/caf\xe9.txt"}), QByteArrayList{"/caf\xe9.txt"});
     }
 };
 

@@ -20,4 +20,8 @@ QString commandLineProgram() {
     return bundlePath() + QStringLiteral("/Contents/MacOS/folioforge-cli");
 }
 
+QString windowProgram() {
+    return bundlePath() + QStringLiteral("/Contents/MacOS/folioforge");
+}
+
 } // namespace folioforge::test

@@ -16,7 +16,8 @@ QString inBuild(const QString &path);
 /// The bundle that was built.
 QString bundlePath();
 
-/// The command line program in it.
+/// The programs in it: of the command line, and of the window.
 QString commandLineProgram();
+QString windowProgram();
 
 } // namespace folioforge::test
