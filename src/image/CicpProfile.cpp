@@ -18,7 +18,7 @@ using Matrix = std::array<Vector, 3>; ///< By rows.
 constexpr int kUnspecified = 2;
 constexpr Vector kD50{0.9642, 1.0, 0.8249}; ///< The white of profiles.
 
-/// What the eye adapts by (Bradford), and its inverse.
+/// What the eye adapts by (Bradford).
 constexpr Matrix kCones{
     Vector{0.8951, 0.2664, -0.1614}, {-0.7502, 1.7135, 0.0367}, {0.0389, -0.0685, 1.0296}};
 

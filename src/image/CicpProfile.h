@@ -18,9 +18,9 @@ struct CicpColor {
     int transfer = 13; ///< The number of the curve from light to samples; 13 for that of sRGB.
 };
 
-/// The ICC profile of RGB samples of such colours; empty for those of sRGB, for curves and points
-/// of which nothing is known, and for colours that no matrix gives. Curves of television count as
-/// that of sRGB, as on screens.
+/// The ICC profile of RGB samples of such colours; empty for those of sRGB, for points of
+/// which nothing is known, and for colours that no matrix gives. Curves of television count as that
+/// of sRGB, as on screens, and so do curves of which nothing is known.
 QByteArray profileOf(const CicpColor &color);
 
 /// Adds a warning where samples of the curve of this number tell of light brighter than white.

@@ -65,6 +65,15 @@ void readDirectory(const TiffNumbers &numbers, ExifMetadata &metadata, quint16 &
 
 } // namespace
 
+ExifMetadata readExifItem(QByteArrayView item) {
+    constexpr qsizetype kCount = 4;
+    if (item.size() < kCount) {
+        return {};
+    }
+    const qsizetype before = bigEndianAt<quint32>(item, 0);
+    return readExif(item.sliced(std::min(kCount + before, item.size())));
+}
+
 ExifMetadata readExif(QByteArrayView block) {
     ExifMetadata metadata;
     if (!block.startsWith("II") && !block.startsWith("MM")) {

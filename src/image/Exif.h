@@ -17,4 +17,8 @@ struct ExifMetadata {
 /// be read of it.
 ExifMetadata readExif(QByteArrayView block);
 
+/// Reads an EXIF item of a container, which begins with the number of bytes that stand before its
+/// block (ISO 23008-12, A.2.1).
+ExifMetadata readExifItem(QByteArrayView item);
+
 } // namespace folioforge

@@ -100,8 +100,11 @@ class JpegXlTest : public QObject {
         const QByteArray start =
             jxlBox("JXL ", "\r\n\x87\n") + jxlBox("ftyp", QByteArray("jxl \0\0\0\0jxl ", 12));
         const QByteArray exif = jxlBox("Exif", QByteArray(4, '\0') + turnedExif());
-        for (const QByteArray &bytes : {start + exif + jxlBox("jxlc", codestream),
-                                        start + jxlBox("jxlc", codestream) + exif}) {
+        const QByteArray large =
+            jxlBox("Exif", QByteArray(4, '\0') + turnedExif() + QByteArray(100'000, 'n'));
+        for (const QByteArray &bytes :
+             {start + exif + jxlBox("jxlc", codestream), start + large + jxlBox("jxlc", codestream),
+              start + jxlBox("jxlc", codestream) + exif}) {
             const ImageHeader header = readImageHeader(write(bytes));
             QCOMPARE(header.horizontalDpi, 240.0);
             QCOMPARE(header.orientation, 1); // The picture itself says how it lies.

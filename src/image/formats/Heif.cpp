@@ -132,21 +132,19 @@ class HeifFile {
     std::unique_ptr<heif_context, Release<heif_context_free>> m_context;
 };
 
-/// The TIFF structure of the picture's EXIF block; empty where there is none.
-QByteArray exifOf(const heif_image_handle *handle) {
-    constexpr qsizetype kOffset = 4; // The bytes that say how many more stand before the structure.
+/// What the picture's EXIF item says; nothing where there is none.
+ExifMetadata exifOf(const heif_image_handle *handle) {
     heif_item_id id = 0;
     if (heif_image_handle_get_list_of_metadata_block_IDs(handle, "Exif", &id, 1) != 1) {
         return {};
     }
     const size_t size = heif_image_handle_get_metadata_size(handle, id);
-    if (size < kOffset || size > kMostMetadata) {
+    if (size > kMostMetadata) {
         return {};
     }
-    QByteArray block(static_cast<qsizetype>(size), '\0');
-    require(heif_image_handle_get_metadata(handle, id, block.data()));
-    return block.sliced(
-        std::min<qsizetype>(kOffset + bigEndianAt<quint32>(block, 0), block.size()));
+    QByteArray item(static_cast<qsizetype>(size), '\0');
+    require(heif_image_handle_get_metadata(handle, id, item.data()));
+    return readExifItem(item);
 }
 
 /// libheif turns and mirrors the pixels as the file says; what EXIF says of that is the same.
@@ -154,7 +152,7 @@ ImageHeader headerOf(const heif_image_handle *handle) {
     ImageHeader header;
     header.width = heif_image_handle_get_width(handle);
     header.height = heif_image_handle_get_height(handle);
-    const ExifMetadata exif = readExif(exifOf(handle));
+    const ExifMetadata exif = exifOf(handle);
     header.horizontalDpi = exif.horizontalDpi;
     header.verticalDpi = exif.verticalDpi;
     return checkedHeader(header);

@@ -32,6 +32,7 @@ class JpegXlPictureReader : public PictureReader {
             switch (m_decoder.step()) {
             case JXL_DEC_BASIC_INFO:
                 m_info = m_decoder.checkedInfo();
+                requireSameSize();
                 break;
             case JXL_DEC_COLOR_ENCODING:
                 m_color = m_decoder.color(m_info);
@@ -55,6 +56,13 @@ class JpegXlPictureReader : public PictureReader {
     }
 
   private:
+    /// The file may have been changed since its header was read.
+    void requireSameSize() const {
+        if (m_info.xsize != static_cast<uint32_t>(m_header.width) ||
+            m_info.ysize != static_cast<uint32_t>(m_header.height)) {
+            throw damagedJpegXl();
+        }
+    }
     [[nodiscard]] bool isDeep() const {
         return m_info.bits_per_sample > 8 || m_info.exponent_bits_per_sample > 0;
     }

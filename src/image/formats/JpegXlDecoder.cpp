@@ -41,8 +41,12 @@ JxlParallelRetCode runPieces(void * /*runner*/, void *work, JxlParallelRunInit i
         }
     };
     std::vector<std::future<void>> others;
-    for (uint32_t thread = 1; thread < threads; ++thread) {
-        others.push_back(runAsync([&run, thread] { run(thread); }));
+    try {
+        for (uint32_t thread = 1; thread < threads; ++thread) {
+            others.push_back(runAsync([&run, thread] { run(thread); }));
+        }
+    } catch (const std::bad_alloc &) { // No exception may pass through the library, and the
+                                       // threads that there are do all pieces.
     }
     run(0);
     std::ranges::for_each(others, &std::future<void>::get);
@@ -108,11 +112,9 @@ QByteArray beginExif(JxlDecoder *decoder) {
     return block;
 }
 
-void readDensity(QByteArrayView block, ImageHeader &header) {
-    constexpr qsizetype kOffset = 4; // The bytes that say how many more stand before the block.
-    if (block.size() >= kOffset) {
-        const qsizetype at = kOffset + bigEndianAt<quint32>(block, 0);
-        const ExifMetadata exif = readExif(block.sliced(std::min(at, block.size())));
+void readDensity(QByteArrayView box, ImageHeader &header) {
+    if (!box.isEmpty()) {
+        const ExifMetadata exif = readExifItem(box);
         header.horizontalDpi = exif.horizontalDpi;
         header.verticalDpi = exif.verticalDpi;
     }
@@ -252,13 +254,19 @@ ImageHeader readJpegXlHeader(const FileView &file) {
         exif.chop(static_cast<qsizetype>(JxlDecoderReleaseBoxBuffer(decoder.get())));
         readDensity(std::exchange(exif, {}), header);
     };
+    const auto goesOn = [](JxlDecoderStatus status) {
+        return status == JXL_DEC_BASIC_INFO || status == JXL_DEC_BOX ||
+               status == JXL_DEC_BOX_NEED_MORE_OUTPUT; // The rest of a long box is passed over.
+    };
     JxlDecoderStatus status = decoder.step();
-    for (; status == JXL_DEC_BASIC_INFO || status == JXL_DEC_BOX; status = decoder.step()) {
+    for (; goesOn(status); status = decoder.step()) {
         if (status == JXL_DEC_BASIC_INFO) {
             header.width = headerOf(decoder.basicInfo()).width;
             header.height = headerOf(decoder.basicInfo()).height;
         } else {
             endBox();
+        }
+        if (status == JXL_DEC_BOX) {
             exif = beginExif(decoder.get());
         }
     }

@@ -19,7 +19,8 @@ bool hasBrand(QByteArrayView head, const std::array<QByteArrayView, count> &bran
     if (head.size() < kFirstBrand + kBrandBytes || head.sliced(4, 4) != "ftyp") {
         return false;
     }
-    for (qsizetype at = kFirstBrand; at + kBrandBytes <= head.size(); at += kBrandBytes) {
+    const auto end = std::min<qsizetype>(head.size(), bigEndianAt<quint32>(head, 0));
+    for (qsizetype at = kFirstBrand; at + kBrandBytes <= end; at += kBrandBytes) {
         if (at != kVersion && std::ranges::find(brands, head.sliced(at, 4)) != brands.end()) {
             return true;
         }

@@ -26,6 +26,9 @@ TiffFile::TiffFile(const FileView &file, qint64 directory, std::optional<char> p
     : m_state(new State{file, {}, 0, {}, 0, 0})
     , m_directory(directory) {
     const std::unique_ptr<TIFFOpenOptions, FreeOptions> options(TIFFOpenOptionsAlloc());
+    if (!options) {
+        throw std::bad_alloc();
+    }
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), keepMessage, m_state.get());
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), countWarning, m_state.get());
     constexpr tmsize_t kMaxBytesAtOnce = kMaxImagePixels * 8;
