@@ -3,6 +3,7 @@
 #include "compress/CompressionPass.h"
 
 #include "compress/DuplicateStreams.h"
+#include "compress/ImageColors.h"
 #include "compress/ImagePlan.h"
 #include "compress/ImageUses.h"
 #include "compress/QuartzFilter.h"
@@ -131,10 +132,14 @@ void runPass(const QString &path, QuartzFilter filter, const CompressionOptions 
         unlock(document, input, options.encryption.get());
         mergeDuplicateStreams(document);
         const Claims claims = claimsOf(document);
+        const std::vector<ImageUse> uses = findImageUses(document);
         if (options.grey) {
             filter.grey = claims.pdfA.isEmpty() ? "/DeviceGray" : kGreyOfNoDevice;
+            for (const ImageUse &use : uses) {
+                greyPalette(document.getObjectByObjGen(use.image).getDict(), filter.grey);
+            }
         }
-        ImagePlan plan = planImages(document, findImageUses(document), filter);
+        ImagePlan plan = planImages(document, uses, filter);
         if (!claims.pdfA.isEmpty()) {
             keepColorsOfData(plan);
         }

@@ -5,6 +5,7 @@
 #include "compress/ContentScanner.h"
 #include "compress/Resources.h"
 #include "compress/StreamFilters.h"
+#include "pdf/import/Entries.h"
 
 #include <string>
 #include <utility>
@@ -137,8 +138,7 @@ ContentDraws ContentReader::readFonts(ContentScope &scope) {
     }
     for (QPDFObjectHandle font : type3Fonts(scope.resources)) {
         QPDFObjectHandle glyphs = font.getKey("/CharProcs");
-        if (!glyphs.isDictionary() ||
-            (font.isIndirect() && !m_fontsRead.insert(font.getObjGen()).second)) {
+        if (!glyphs.isDictionary() || !isFirstVisit(font, m_fontsRead)) {
             continue;
         }
         QPDFObjectHandle own = font.getKey("/Resources");

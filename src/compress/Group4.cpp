@@ -81,6 +81,9 @@ std::string stripOf(TIFF *tiff, const MemoryFile &file) {
 std::string encodeRows(std::string &rows, int width, int height) {
     MemoryFile file;
     const std::unique_ptr<TIFFOpenOptions, FreeTiff> options(TIFFOpenOptionsAlloc());
+    if (!options) {
+        throw std::bad_alloc();
+    }
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), sayNothing, nullptr);
     const std::unique_ptr<TIFF, FreeTiff> tiff(
         TIFFClientOpenExt("group4", "w", &file, readMemory, writeMemory, seekMemory, closeMemory,

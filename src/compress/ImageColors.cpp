@@ -108,14 +108,26 @@ bool isPlainDecode(QPDFObjectHandle dictionary, int components) {
            decodesFrom(decode, components, 1);
 }
 
-void greyPalette(QPDFObjectHandle dictionary, const std::string &grey) {
+bool isBlended(QPDFObjectHandle dictionary) {
+    QPDFObjectHandle softMask = dictionary.getKey("/SMask");
+    return softMask.isStream() && softMask.getDict().hasKey("/Matte");
+}
+
+bool hasColorTable(QPDFObjectHandle dictionary) {
     QPDFObjectHandle space = dictionary.getKey("/ColorSpace");
-    const int components = isIndexed(space) ? plainComponents(space.getArrayItem(1)) : 0;
-    const std::string palette = components > 1 ? paletteOf(space) : std::string();
+    return isIndexed(space) && plainComponents(space.getArrayItem(1)) != 1;
+}
+
+void greyPalette(QPDFObjectHandle dictionary, const std::string &grey) {
+    if (!hasColorTable(dictionary) || isBlended(dictionary)) {
+        return;
+    }
+    QPDFObjectHandle space = dictionary.getKey("/ColorSpace");
+    const std::string palette = paletteOf(space);
     if (palette.empty()) {
         return;
     }
-    PlanarImage colors = planesOf(palette, components);
+    PlanarImage colors = planesOf(palette, plainComponents(space.getArrayItem(1)));
     toJpegColor(colors);
     toGrey(colors, false);
     const std::string greys(reinterpret_cast<const char *>(colors.planes[0].row(0)),

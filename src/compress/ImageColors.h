@@ -26,8 +26,14 @@ bool isInverted(QPDFObjectHandle dictionary, int components);
 /// Whether the samples stand for what they are, or for the contrary.
 bool isPlainDecode(QPDFObjectHandle dictionary, int components);
 
+/// Whether the colours of the image are blended with one behind it, as its soft mask says.
+bool isBlended(QPDFObjectHandle dictionary);
+
+/// Whether the image has a table of colours, not of greys.
+bool hasColorTable(QPDFObjectHandle dictionary);
+
 /// Gives an image with a table of colours one of greys, in the space `grey` (PDF syntax), where its
-/// base space is a plain one. The samples stay.
+/// base space is a plain one and the image is not blended. The samples stay.
 void greyPalette(QPDFObjectHandle dictionary, const std::string &grey);
 
 /// Leaves the brightness alone of a picture in colour, which is in JPEG's own form and whose first

@@ -123,8 +123,7 @@ QString reasonOfUnusual(QPDFObjectHandle dictionary) {
     if (integer(dictionary, "/SMaskInData") != 0) {
         return u"opacity inside its JPEG 2000 data"_s;
     }
-    QPDFObjectHandle softMask = dictionary.getKey("/SMask");
-    if (softMask.isStream() && softMask.getDict().hasKey("/Matte")) {
+    if (isBlended(dictionary)) {
         return u"blended with its soft mask"_s;
     }
     if (dictionary.hasKey("/Matte")) {
@@ -211,7 +210,7 @@ std::variant<ImageJob, QString> decideBilevel(QPDFObjectHandle dictionary,
         reason = u"an unusual filter"_s;
     }
     constexpr double kBits = 8;
-    if (static_cast<double>(job.width) * job.height / kBits > kMaxSampleBytes) {
+    if (reason.isEmpty() && static_cast<double>(job.width) * job.height / kBits > kMaxSampleBytes) {
         reason = u"too large"_s;
     }
     if (!reason.isEmpty()) {
@@ -228,11 +227,12 @@ std::variant<ImageJob, QString> decide(QPDFObjectHandle image, const ImageUse &u
     }
     QPDFObjectHandle dictionary = image.getDict();
     QString reason = reasonOfUnusual(dictionary);
-    if (reason.isEmpty() && !filter.grey.empty()) {
-        greyPalette(dictionary, filter.grey);
-    }
-    if (isBilevel(dictionary)) {
+    const bool staysColored = !filter.grey.empty() && hasColorTable(dictionary);
+    if (isBilevel(dictionary) && !staysColored) {
         return decideBilevel(dictionary, filter);
+    }
+    if (reason.isEmpty() && staysColored) {
+        reason = u"an unusual colour space"_s;
     }
     ImageJob job;
     job.purpose = purpose;

@@ -2,6 +2,8 @@
 
 #include "compress/Resources.h"
 
+#include "pdf/import/Entries.h"
+
 namespace folioforge {
 
 namespace {
@@ -30,7 +32,7 @@ class ImageWalk {
         while (!m_open.empty()) {
             const QPDFObjectHandle next = m_open.back();
             m_open.pop_back();
-            if (isNew(next)) {
+            if (isFirstVisit(next, m_seen)) {
                 look(next);
             }
         }
@@ -39,10 +41,6 @@ class ImageWalk {
     std::set<QPDFObjGen> images;
 
   private:
-    bool isNew(const QPDFObjectHandle &object) {
-        return !object.isIndirect() || m_seen.insert(object.getObjGen()).second;
-    }
-
     void look(const QPDFObjectHandle &resources) {
         for (const QPDFObjectHandle &stream : drawableStreams(resources)) {
             visit(stream);
@@ -56,7 +54,7 @@ class ImageWalk {
     }
 
     void visit(QPDFObjectHandle stream) {
-        if (!stream.isStream() || !isNew(stream)) {
+        if (!stream.isStream() || !isFirstVisit(stream, m_seen)) {
             return;
         }
         if (isImage(stream)) {

@@ -5,6 +5,9 @@
 #include "support/Files.h"
 #include "support/TestUnit.h"
 
+#include <QFileInfo>
+#include <QRandomGenerator>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -145,9 +148,45 @@ class GreyPicturesTest : public QObject, CompressionCase {
     }
 
     void theyBecomeGreyEvenWhereNothingGetsSmaller() {
-        QVERIFY(pageOf(60, kFlateRgb, flate(bars(60, true).replace('\x20', '\x21'))).write(m_path));
+        QImage noise(600, 900, QImage::Format_RGB32);
+        auto *const pixels = reinterpret_cast<quint32 *>(noise.bits());
+        QRandomGenerator(5).generate(pixels, pixels + qsizetype{600} * 900);
+        QVERIFY(pageOf(600, kJpegRgb, jpeg(noise, 10)).write(m_path)); // Grey at a higher quality.
         CompressionOutcome outcome;
-        QVERIFY(isGrey(PdfProbe(greyCopy(outcome)).render(1, 100)));
+        const QString copy = greyCopy(outcome);
+        QCOMPARE(outcome.imagesReduced, 1);
+        QVERIFY2(QFileInfo(copy).size() > QFileInfo(m_path).size(),
+                 QByteArray::number(QFileInfo(copy).size()) + ' ' +
+                     QByteArray::number(QFileInfo(m_path).size()));
+        QVERIFY(isGrey(PdfProbe(copy).render(1, 100)));
+    }
+
+    /// A picture of two colours, as a GIF with a transparent one becomes.
+    static QByteArray twoColours(const QByteArray &base) {
+        return "/ColorSpace [/Indexed " + base + "] /BitsPerComponent 1 /Filter /FlateDecode";
+    }
+
+    void aColourThatIsMaskedStaysMasked() {
+        const QByteArray bits = QByteArray("\x0f").repeated(150 * 900);
+        const QByteArray keys = twoColours("/DeviceRGB 1 <ff2010 1020ff>") + " /Mask [1 1]";
+        QVERIFY(pageOf(1200, keys, flate(bits)).write(m_path));
+        CompressionOutcome outcome;
+        const QImage page = PdfProbe(greyCopy(outcome)).render(1, 100);
+        QVERIFY(isGrey(page));
+        const QImage before = PdfProbe(m_path).render(1, 100);
+        QVERIFY2(difference(page, before) < 9, QByteArray::number(difference(page, before)));
+    }
+
+    void twoColoursThatCannotBecomeGreyAreNamed() {
+        const QByteArray bits = QByteArray("\x0f").repeated(150 * 900);
+        const QByteArray keys = twoColours("[/Lab << /WhitePoint [0.9505 1 1.089] /Range [-100 100 "
+                                           "-100 100] >>] 1 <80ff00 8000ff>");
+        QVERIFY(pageOf(1200, keys, flate(bits)).write(m_path));
+        CompressionOutcome outcome;
+        greyCopy(outcome);
+        QCOMPARE(outcome.imagesReduced, 0);
+        QCOMPARE(outcome.imagesKept.size(), std::size_t{1});
+        QCOMPARE(outcome.imagesKept.front().reason, u"an unusual colour space"_s);
     }
 
     void withoutTheWishTheyKeepTheirColours() {
