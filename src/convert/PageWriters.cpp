@@ -91,9 +91,8 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
     const double width = page.width() - left - static_cast<double>(margins.right);
     const QRectF above(left, page.height() - top, width, top);
     const QRectF below(left, 0, width, static_cast<double>(margins.bottom));
-    DocumentInfo info = options.info;
-    fixCreationDate(info);
-    PageFacts facts{entry.fileName(), 0, context.pageCount(), info.created.toString(u"yyyy-MM-dd")};
+    PageFacts facts{entry.fileName(), 0, context.pageCount(),
+                    context.creationDate().toString(u"yyyy-MM-dd")};
     const auto font = options.textFont ? options.textFont : textFont();
     ContextSink sink(context, font, page, 0, stop);
     MarginText texts(*font);

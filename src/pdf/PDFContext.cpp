@@ -40,6 +40,7 @@ class PDFContext::Impl {
 
     void endPage() { m_catalog.addPage(m_pages.endPage()); }
     void drawArtifact(int page, const std::function<void()> &draw);
+    QDateTime creationDate();
     AddedDocument addDocument(const QString &sourcePath, const PageChoice &choice);
     CloseResult close(const std::function<QString()> &nextPath);
     void addBookmark(const QString &title, int page) { m_catalog.addBookmark(title, page); }
@@ -132,10 +133,15 @@ void PDFContext::Impl::rollBack(const Mark &mark) {
     }
 }
 
+QDateTime PDFContext::Impl::creationDate() {
+    fixCreationDate(m_settings.info);
+    return m_settings.info.created;
+}
+
 void PDFContext::Impl::finishDocument() {
     translateQpdfErrors([&] {
         m_pages.embedFonts();
-        fixCreationDate(m_settings.info);
+        creationDate();
         writeDocumentInfo(m_document, m_settings.info);
         m_catalog.finish(m_document, m_settings.info);
     });
@@ -233,6 +239,10 @@ void PDFContext::endPage() {
 
 void PDFContext::drawArtifact(int page, const std::function<void()> &draw) {
     translateQpdfErrors([&] { m_impl->drawArtifact(page, draw); });
+}
+
+QDateTime PDFContext::creationDate() {
+    return m_impl->creationDate();
 }
 
 AddedDocument PDFContext::addDocument(const QString &sourcePath, const PageChoice &choice) {

@@ -90,9 +90,12 @@ class PDFContext {
     void clipToRect(const QRectF &rect);
     void endPage();
     /// Lets `draw` show glyphs on a page of text that was drawn here, from 0: what belongs to the
-    /// page and not to what is told on it, such as its number. To be called between pages. Throws
-    /// Error.
+    /// page and not to what is told on it, such as its number. To be called between pages, once for
+    /// a page. Throws Error.
     void drawArtifact(int page, const std::function<void()> &draw);
+    /// When the document is created, in its information and in what is drawn: from the first call
+    /// on the same. Throws Error as sourceDate() does.
+    QDateTime creationDate();
 
     /// Adds the pages of the PDF at `sourcePath` that `choice` names, with their links, form fields
     /// and bookmarks, by default every page unchanged. Throws Error when the document cannot be

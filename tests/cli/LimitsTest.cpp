@@ -234,6 +234,12 @@ class LimitsTest : public QObject {
         QCOMPARE(PdfProbe(target()).pageCount(), 2);
     }
 
+    void listsThatManyShareAreReadOnce() {
+        const int count = sized(20'000, 5000);
+        QCOMPARE(answerTo({savedPdf(sharedKids(count)), u"--pages"_s, u"1"_s}), valid());
+        QCOMPARE(PdfProbe(target()).pageCount(), 1);
+    }
+
     void aLargePageInManyPlacesStaysOnePage() {
         const int count = sized(3000, 2000);
         QCOMPARE(answerTo({savedPdf(repeatedPage(count))}), valid());

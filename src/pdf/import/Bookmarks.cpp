@@ -29,9 +29,9 @@ long long visibleLines(QPDFObjectHandle item) {
 
 } // namespace
 
-std::vector<QPDFObjectHandle> bookmarksUnder(QPDF &source, const QPDFObjectHandle &parent) {
+std::vector<QPDFObjectHandle> bookmarksUnder(QPDF &source, const QPDFObjectHandle &parent,
+                                             std::set<QPDFObjGen> &visited) {
     std::vector<QPDFObjectHandle> found;
-    std::set<QPDFObjGen> visited;
     auto holder = parent;
     for (const char *key = "/First";; key = "/Next") {
         auto item = entry(holder, key);
@@ -73,7 +73,8 @@ void putBookmarksUnder(QPDFObjectHandle parent, const std::vector<QPDFObjectHand
 
 ImportedBookmarks importBookmarks(QPDF &source, ObjectCopier &copier) {
     ImportedBookmarks bookmarks;
-    for (const auto &item : bookmarksUnder(source, source.getRoot().getKey("/Outlines"))) {
+    std::set<QPDFObjGen> visited;
+    for (const auto &item : bookmarksUnder(source, source.getRoot().getKey("/Outlines"), visited)) {
         bookmarks.push_back(copier.copy(item));
     }
     return bookmarks;

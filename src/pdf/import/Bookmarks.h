@@ -23,9 +23,11 @@ using ImportedBookmarks = std::vector<QPDFObjectHandle>;
 
 ImportedBookmarks importBookmarks(QPDF &source, ObjectCopier &copier);
 
-/// The bookmarks one level under `parent`, a bookmark or the root of the outline, each once. One
-/// that stands in another object is made one of its own, as it has to be.
-std::vector<QPDFObjectHandle> bookmarksUnder(QPDF &source, const QPDFObjectHandle &parent);
+/// The bookmarks one level under `parent`, a bookmark or the root of the outline, up to the first
+/// that `visited` holds, which the others join. One that stands in another object is made one of
+/// its own, as it has to be.
+std::vector<QPDFObjectHandle> bookmarksUnder(QPDF &source, const QPDFObjectHandle &parent,
+                                             std::set<QPDFObjGen> &visited);
 
 /// Makes `items` what is under `parent`, which stays open or closed as it is.
 void putBookmarksUnder(QPDFObjectHandle parent, const std::vector<QPDFObjectHandle> &items);

@@ -74,7 +74,7 @@ std::size_t countFields(const Objects &roots) {
 void addAnnotations(PartCounts &parts, const QPDFObjectHandle &page,
                     std::set<QPDFObjGen> &counted) {
     const auto annotations = annotationsOf(page);
-    if (annotations.isIndirect() && !counted.insert(annotations.getObjGen()).second) {
+    if (!isFirstVisit(annotations, counted)) {
         return;
     }
     for (const auto &annotation : items(annotations)) {

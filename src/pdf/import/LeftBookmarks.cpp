@@ -32,8 +32,9 @@ std::size_t removeBookmarksTo(const LeftTargets &left, QPDF &source) {
     if (!root.isDictionary()) {
         return 0;
     }
+    std::set<QPDFObjGen> listed;
     auto nodes = readTree(
-        root, [&](const auto &parent) { return bookmarksUnder(source, parent); },
+        root, [&](const auto &parent) { return bookmarksUnder(source, parent, listed); },
         [&](const auto &item) { return left.jumps(item); });
     return settleTree(nodes, staysByItself, writeBookmark).size();
 }

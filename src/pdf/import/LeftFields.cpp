@@ -22,9 +22,13 @@ std::size_t removeFieldsOf(const std::set<QPDFObjGen> &annotations, QPDF &source
     roots.insert(roots.end(), unlisted.begin(), unlisted.end());
     auto holder = QPDFObjectHandle::newDictionary();
     holder.replaceKey("/Kids", QPDFObjectHandle::newArray(roots));
+    std::set<QPDFObjGen> lists;
+    const auto kidsOf = [&lists](const auto &field) {
+        const auto kids = entry(field, "/Kids");
+        return isFirstVisit(kids, lists) ? items(kids) : std::vector<QPDFObjectHandle>();
+    };
     auto nodes = readTree(
-        holder, [](const auto &field) { return items(entry(field, "/Kids")); },
-        [&](const auto &field) { return annotations.contains(field.getObjGen()); });
+        holder, kidsOf, [&](const auto &field) { return annotations.contains(field.getObjGen()); });
     const auto gone = settleTree(
         nodes, [](const PrunedNode &node) { return !node.goes && !node.hadKids; },
         [](PrunedNode &node) {

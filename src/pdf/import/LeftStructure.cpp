@@ -59,7 +59,7 @@ class StructurePruning {
 
     void read(std::size_t index) {
         auto kids = m_nodes[index].element.getKey("/K");
-        if (kids.isArray() && kids.isIndirect() && !m_visited.insert(kids.getObjGen()).second) {
+        if (kids.isArray() && !isFirstVisit(kids, m_visited)) {
             return;
         }
         const auto listed = kids.isArray() ? items(kids) : std::vector<QPDFObjectHandle>{kids};

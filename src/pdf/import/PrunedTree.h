@@ -20,8 +20,8 @@ struct PrunedNode {
     std::vector<QPDFObjectHandle> kept = {}; ///< Of what is under it.
 };
 
-/// The tree under `root`, each node before those under it. `kidsOf` gives what is under one, `goes`
-/// says whether one goes by itself.
+/// The tree under `root`, each node before those under it. `kidsOf` gives what is under one, of a
+/// list that several share only once; `goes` says whether one goes by itself.
 template<typename KidsOf, typename Goes>
 std::vector<PrunedNode> readTree(const QPDFObjectHandle &root, const KidsOf &kidsOf,
                                  const Goes &goes) {

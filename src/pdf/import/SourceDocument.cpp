@@ -109,21 +109,25 @@ std::unique_ptr<QPDF> openUnlessLocked(const FileVersion &file,
     return document;
 }
 
-/// Opens an encrypted document with one of `passwords`. Throws Error where none opens it far
-/// enough.
+/// Whether pages of the document may be taken.
+bool isOpenFarEnough(QPDF &document) {
+    return !document.isEncrypted() || document.ownerPasswordMatched() ||
+           document.allowModifyAssembly();
+}
+
+/// Opens an encrypted document with one of `passwords`; `isOpen` says whether the empty one opened
+/// it, which is not tried again. Throws Error where none opens it far enough.
 std::unique_ptr<QPDF> unlock(const FileVersion &file, const std::shared_ptr<SourceReader> &reader,
-                             const std::vector<QByteArray> &passwords) {
-    std::vector<std::string> tried{{}};
+                             const std::vector<QByteArray> &passwords, bool isOpen) {
+    std::vector<std::string> tried;
     for (const QByteArray &password : passwords) {
         // Programs differ in the bytes that they made of the characters.
         const auto forms = QUtil::possible_repaired_encodings(password.toStdString());
         tried.insert(tried.end(), forms.begin(), forms.end());
     }
-    bool isOpen = false;
     for (const std::string &password : tried) {
         auto document = openUnlessLocked(file, reader, password);
-        if (document && (!document->isEncrypted() || document->ownerPasswordMatched() ||
-                         document->allowModifyAssembly())) {
+        if (document && isOpenFarEnough(*document)) {
             return document;
         }
         isOpen = isOpen || document != nullptr;
@@ -165,10 +169,13 @@ std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
     return translateQpdfErrors([&] {
         requirePdfMark(file, *reader);
         auto document = openUnlessLocked(file, reader);
-        if (passwords && (!document || document->isEncrypted())) {
-            document = unlock(file, reader, *passwords);
-        } else if (!document || document->isEncrypted()) {
+        if (!passwords && (!document || document->isEncrypted())) {
             throw Error(u"The document is encrypted"_s);
+        }
+        if (!document || !isOpenFarEnough(*document)) {
+            const bool isOpen = document != nullptr;
+            document.reset(); // Documents take turns at the reader.
+            document = unlock(file, reader, *passwords, isOpen);
         }
         return withAllObjects(*document, *reader, [&] {
             requirePages(*document);

@@ -215,7 +215,7 @@ void StructureWalk::copyKids(QPDFObjectHandle kids, const Open &parent,
         }
         return;
     }
-    if (kids.isIndirect() && !m_lists.insert(kids.getObjGen()).second) {
+    if (!isFirstVisit(kids, m_lists)) {
         ++m_structure.damaged; // They are the kids of another element, perhaps of one above.
         return;
     }

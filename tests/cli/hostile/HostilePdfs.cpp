@@ -257,6 +257,26 @@ QByteArray sharedNames(qint64 count) {
     return fixture.bytes();
 }
 
+QByteArray sharedKids(qint64 count) {
+    constexpr int kField = 10;
+    const auto bookmark = kField + static_cast<int>(count);
+    PdfFixture fixture = onePage({}, "/AcroForm << /Fields 5 0 R >> /Outlines 6 0 R");
+    QByteArray fields;
+    for (int field = kField; field < bookmark; ++field) {
+        fields += reference(field) + ' ';
+        fixture.object(field, "<< /T (a) /Kids 5 0 R >>");
+    }
+    addChain(fixture, bookmark, static_cast<int>(count), [&](int, const QByteArray &next) {
+        return "<< /Title (a) /Dest [3 0 R /Fit] /First " + reference(bookmark) + " /Next " + next +
+               " >>";
+    });
+    return fixture.object(2, "<< /Type /Pages /Kids [3 0 R 4 0 R] /Count 2 >>")
+        .object(4, kPage + " >>")
+        .object(5, '[' + fields + ']')
+        .object(6, "<< /First " + reference(bookmark) + " >>")
+        .bytes();
+}
+
 QByteArray repeatedPage(qint64 count) {
     PdfFixture fixture = onePage(
         "/Annots [" + QByteArray("<< /Subtype /Link /Rect [0 0 9 9] >> ").repeated(count) + "]");

@@ -26,6 +26,9 @@ QByteArray doublingNames(qint64 depth);
 /// A page with `count` files, fields, destinations, roles and output intents that all have one name
 /// of a megabyte.
 QByteArray sharedNames(qint64 count);
+/// Two pages with `count` fields that share one list of so many kids, and so many bookmarks whose
+/// first leads into one chain of them all.
+QByteArray sharedKids(qint64 count);
 /// A page with `count` annotations that is in the page tree `count` times.
 QByteArray repeatedPage(qint64 count);
 
