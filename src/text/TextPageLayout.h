@@ -47,6 +47,11 @@ inline bool endsLine(char16_t unit) {
            unit == kLineSeparator || unit == kParagraphSeparator;
 }
 
+/// `text` without the unit that ends a line at its begin, two of them for CR LF.
+inline QStringView withoutLineEnd(QStringView text) {
+    return text.sliced(text.startsWith(u"\r\n") ? 2 : std::min<qsizetype>(1, text.size()));
+}
+
 /// Throws Error where there is text but no font to write it with.
 void requireFont(const FontCascade &font, QStringView text);
 

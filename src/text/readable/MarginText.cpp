@@ -83,6 +83,7 @@ QString withFacts(const QString &text, const PageFacts &facts) {
 }
 
 void MarginText::setInto(const QRectF &band, QStringView text, TextPageSink &sink) {
+    requireFont(m_font, text);
     constexpr double kBlanks = 8;
     const double tabStop = kBlanks * m_font.glyph(U' ').advance;
     std::deque<Paragraph> paragraphs;
@@ -96,7 +97,7 @@ void MarginText::setInto(const QRectF &band, QStringView text, TextPageSink &sin
             rows.push_back({&paragraph, paragraph.takeRow(taken, band.width(), tabStop)});
             taken = rows.back().row.end;
         } while (taken < line.size());
-        text = text.sliced(std::min(line.size() + 1, text.size()));
+        text = withoutLineEnd(text.sliced(line.size()));
     }
     const double height = m_font.rowHeight();
     constexpr double kRounding = 1e-6;

@@ -137,11 +137,6 @@ class ReadableText {
     MissingGlyphs m_missing;
 };
 
-/// Removes the character that ends a line, two of them for CR LF.
-QStringView withoutLineEnd(QStringView text) {
-    return text.sliced(text.startsWith(u"\r\n") ? 2 : std::min<qsizetype>(1, text.size()));
-}
-
 } // namespace
 
 Warnings layOutReadable(QStringView text, QSizeF pageSize, const PageMargins &margins,
