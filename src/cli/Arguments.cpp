@@ -103,7 +103,7 @@ class ArgumentReader {
         if (m_result.bookmarkTitleFile && !hasThoseOfFiles(options.bookmarks)) {
             throw ArgumentFault(u"--bookmark-titles needs --bookmarks files or both"_s);
         }
-        if (options.compressGrey && options.compressIndex == 0 && !options.compressFilter) {
+        if (options.compressGrey && !options.compresses()) {
             throw ArgumentFault(u"--compress-grey needs --compress"_s);
         }
         if (m_result.listsEndInNull && m_result.nameLists.empty()) {

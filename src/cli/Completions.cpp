@@ -18,22 +18,23 @@ template<typename Line> QByteArray linesOf(const Line &line) {
 }
 
 /// `text` for single quotes of a shell.
-QByteArray quoted(QByteArray text) {
+QByteArray shellQuoted(QByteArray text) {
     return '\'' + text.replace('\'', "'\\''") + '\'';
 }
 
-// Files need no line: they are what bash completes where nothing else is known.
+// Files need no words: they are what bash completes where nothing else is known.
 QByteArray bashCase(const OptionHelp &option) {
-    QByteArray made;
-    if (option.value == "DIR") {
-        made = "compgen -d -- \"$word\"";
-    } else if (!option.words().isEmpty()) {
-        made = "compgen -W " + quoted(option.words().join(' ')) + " -- \"$word\"";
-    } else {
-        return option.value.isEmpty() ? QByteArray()
-                                      : "    " + option.name.toByteArray() + ") return ;;\n";
+    if (option.value.isEmpty()) {
+        return {};
     }
-    return "    " + option.name.toByteArray() + ") COMPREPLY=($(" + made + ")); return ;;\n";
+    QByteArray made;
+    if (option.value == "DIR") { // Blanks belong to the names of folders.
+        made = "IFS=$'\\n'; COMPREPLY=($(compgen -d -- \"$word\")); ";
+    } else if (!option.words().isEmpty()) {
+        made = "COMPREPLY=($(compgen -W " + shellQuoted(option.words().join(' ')) +
+               " -- \"$word\")); ";
+    }
+    return "    " + option.name.toByteArray() + ") " + made + "return ;;\n";
 }
 
 QByteArray bashCompletions() {
@@ -49,7 +50,6 @@ _folioforge_cli() {
         option=${COMP_WORDS[COMP_CWORD-2]}
     fi
     COMPREPLY=()
-    [[ $option != --output-folder ]] || IFS=$'\n'
     case $option in
 )" + linesOf(bashCase) +
            R"(    esac
@@ -67,8 +67,9 @@ QByteArray zshLine(const OptionHelp &option) {
     for (const char special : {'\\', '[', ']', ':'}) {
         text.replace(special, QByteArray("\\") + special);
     }
+    // The star: it may come more than once, for several inputs.
     QByteArray line =
-        option.name.toByteArray() + (option.value.isEmpty() ? "[" : "=[") + text + ']';
+        '*' + option.name.toByteArray() + (option.value.isEmpty() ? "[" : "=[") + text + ']';
     if (!option.value.isEmpty()) {
         const QByteArray words = option.words().join(' ');
         line += ":value:";
@@ -77,7 +78,7 @@ QByteArray zshLine(const OptionHelp &option) {
                 : words.isEmpty()        ? " "
                                          : '(' + words + ')';
     }
-    return " \\\n    " + quoted(line);
+    return " \\\n    " + shellQuoted(line);
 }
 
 QByteArray zshCompletions() {
@@ -94,12 +95,12 @@ QByteArray fishLine(const OptionHelp &option) {
     } else if (option.value == "FILE") {
         line += " -r -F";
     } else if (!words.isEmpty()) {
-        line += " -x -a " + quoted(words.join(' '));
+        line += " -x -a " + shellQuoted(words.join(' '));
     } else if (!option.value.isEmpty()) {
         line += " -x";
     }
     if (!option.text.isEmpty()) {
-        line += " -d " + quoted(option.text.toByteArray());
+        line += " -d " + shellQuoted(option.text.toByteArray());
     }
     return line + '\n';
 }

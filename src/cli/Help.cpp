@@ -15,7 +15,7 @@ QByteArray wrapped(QByteArrayView text, qsizetype indent, qsizetype used) {
     QByteArray result;
     qsizetype column = used;
     for (const QByteArray &word : text.toByteArray().split(' ')) {
-        const bool isFirst = column == used && result.isEmpty();
+        const bool isFirst = result.isEmpty();
         if (!isFirst && column + 1 + word.size() > kWidth) {
             result += '\n' + QByteArray(indent, ' ');
             column = indent;

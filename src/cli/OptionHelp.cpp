@@ -128,8 +128,7 @@ HelpSection textHelp() {
          {"--tab-width", "N", "blanks from one tab stop to the next (default 8)"},
          {"--header", "TEXT",
           "in the top margin of each page of text; {file}, {page}, {pages} and {date} stand for "
-          "the "
-          "text's name, the page's number, the number of the PDF's pages and the day"},
+          "the text's name, the page's number, the number of the PDF's pages and the day"},
          {"--footer", "TEXT", "likewise in the bottom margin"}}};
 }
 

@@ -105,11 +105,6 @@ std::vector<Notice> faultsOf(const ConversionOptions &options) {
     return faults;
 }
 
-std::optional<Notice> checkConversion(const ConversionOptions &options) {
-    const auto faults = faultsOf(options);
-    return faults.empty() ? std::nullopt : std::optional(faults.front());
-}
-
 Notice folderNotWritableNotice() {
     return otherFolderNotice(
         QCoreApplication::translate("Checks", "Selected output folder is not writable."),

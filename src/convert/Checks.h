@@ -25,9 +25,6 @@ std::optional<Notice> checkMergedFile(const ConversionOptions &options);
 /// and the merged file.
 std::vector<Notice> faultsOf(const ConversionOptions &options);
 
-/// The first of them.
-std::optional<Notice> checkConversion(const ConversionOptions &options);
-
 /// The notice that a folder chosen for output cannot be written to. It speaks of no setting: the
 /// folder has not become the output folder.
 Notice folderNotWritableNotice();

@@ -79,6 +79,9 @@ struct ConversionOptions {
     bool dryRun = false; ///< Pages are made, and no document is written.
     /// What every file of the run is written through.
     std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
+
+    /// Whether a finished PDF is to be compressed.
+    [[nodiscard]] bool compresses() const { return compressIndex != 0 || compressFilter; }
 };
 
 } // namespace folioforge

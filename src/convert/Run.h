@@ -90,9 +90,7 @@ class Run {
     [[nodiscard]] PDFOutcome createPDF(std::size_t firstEntry, const QString &path,
                                        ConversionObserver &observer);
     /// Whether the options ask for a compression pass.
-    [[nodiscard]] bool compresses() const {
-        return m_options.compressIndex != 0 || m_options.compressFilter;
-    }
+    [[nodiscard]] bool compresses() const { return m_options.compresses(); }
     /// Compresses the PDF at `path` into `temporaryFolder`, as the function of this name.
     [[nodiscard]] CompressionOutcome compress(const QString &path, const QString &temporaryFolder,
                                               ConversionObserver &observer, Flush flush);

@@ -129,7 +129,7 @@ void PDFFileInfo::readImage() {
 }
 
 QString PDFFileInfo::bookmarkTitle() const {
-    return m_bookmarkTitle.isEmpty() ? QFileInfo(m_fileName).completeBaseName() : m_bookmarkTitle;
+    return m_bookmarkTitle.isEmpty() ? withoutExtension(m_fileName) : m_bookmarkTitle;
 }
 
 QStringList PDFFileInfo::remarks() const {

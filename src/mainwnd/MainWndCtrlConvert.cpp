@@ -31,7 +31,7 @@ void MainWndCtrl::clickBtnCreate() {
     createSingleFile();
 }
 
-/// The checks of a run in their order, as checkConversion() makes them.
+/// The checks of a run in the order of faultsOf(), up to the first that finds something.
 bool MainWndCtrl::checkSettings(const ConversionOptions &options) {
     return passes(checkOutputFolder(options.outputFolder)) && checkSecuritySettings() &&
            checkTextPageSizeSettings() && checkImagePageSizeSettings() &&

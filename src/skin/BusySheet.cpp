@@ -60,7 +60,7 @@ BusySheet::BusySheet(QWidget *parent)
     m_fileLabel->setObjectName(u"busyFile"_s);
     m_fileLabel->setTextFormat(Qt::PlainText);
     // Whatever the language of the name, it stands where lines of the window begin.
-    m_fileLabel->setAlignment(Qt::AlignAbsolute |
+    m_fileLabel->setAlignment(Qt::AlignVCenter | Qt::AlignAbsolute |
                               (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     m_countLabel->setObjectName(u"busyCount"_s);
     m_bar->setObjectName(u"busyBar"_s);

@@ -14,22 +14,6 @@ using namespace folioforge::test;
 class EverydayJobsTest : public QObject, CommandLineCase {
     Q_OBJECT
 
-    /// Runs a line of a shell in the test's folder, with the program on the PATH.
-    ToolRun shell(const QByteArray &line) const {
-        const QString script =
-            u"cd \"$1\" && PATH=$2:$PATH && export PATH && set -o pipefail && eval \"$3\""_s;
-        return runTool(u"bash"_s, {u"-c"_s, script, u"bash"_s, m_folder->path(),
-                                   QFileInfo(kProgram).path(), QString::fromUtf8(line)});
-    }
-
-    static QStringList linesOf(const PdfProbe &pdf, int page = 0) {
-        QStringList lines;
-        for (const QString &line : pdf.text(page).remove(u'\f').split(u'\n', Qt::SkipEmptyParts)) {
-            lines += line.simplified();
-        }
-        return lines;
-    }
-
     void photo(const char *name, int width, int height) const {
         QVERIFY(test::photo(width, height).save(path(name), "JPG", 92));
     }
@@ -165,8 +149,8 @@ class EverydayJobsTest : public QObject, CommandLineCase {
         QCOMPARE(linesOf(book, 1).first(), u"1 Intro.md"_s);
         QCOMPARE(linesOf(book, 2), QStringList({u"2 Code.c"_s, u"int main()"_s, u"{"_s,
                                                 u"return 0;"_s, u"}"_s, u"2 of 2"_s}));
-        const ToolRun outline = runTool(u"mutool"_s, {u"show"_s, path("book.pdf"), u"outline"_s});
-        QVERIFY2(outline.out.contains("1 Intro") && outline.out.contains("2 Code"), outline.out);
+        const QByteArray outline = outlineOf("book.pdf");
+        QVERIFY2(outline.contains("1 Intro") && outline.contains("2 Code"), outline);
     }
 };
 

@@ -112,10 +112,7 @@ class ExamplesTest : public QObject, CommandLineCase {
     void everyExampleWorksAsItIsWritten() {
         QFETCH(const QString, example);
         makeInputs();
-        const QString script = u"cd \"$1\" && PATH=$2:$PATH SECRET=word && export PATH SECRET && "
-                               "set -o pipefail && eval \"$3\""_s;
-        const ToolRun run = runTool(u"bash"_s, {u"-c"_s, script, u"bash"_s, m_folder->path(),
-                                                installedPrograms(), example});
+        const ToolRun run = shell(example.toUtf8(), installedPrograms());
         QVERIFY2(run.exitCode == 0, run.err.constData());
         QVERIFY(!run.out.contains("look at what is named above")); // What an example says else.
     }

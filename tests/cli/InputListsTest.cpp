@@ -101,8 +101,7 @@ class InputListsTest : public QObject, CommandLineCase {
         QCOMPARE(merge("all.pdf", arguments).exitCode, 0);
         QVERIFY(PdfProbe(path("all.pdf")).isValid());
         QByteArrayList found;
-        const QByteArray outline =
-            runTool(u"mutool"_s, {u"show"_s, path("all.pdf"), u"outline"_s}).out;
+        const QByteArray outline = outlineOf("all.pdf");
         for (const QByteArray &line : outline.split('\n')) {
             if (line.count('"') >= 2) {
                 found += line.split('"').at(1);
@@ -120,8 +119,7 @@ class InputListsTest : public QObject, CommandLineCase {
                                     u"--bookmark-titles=-"_s};
         const ToolRun run = merge("one.pdf", arguments, "From a pipe\n");
         QCOMPARE(run.exitCode, 0);
-        const QByteArray outline =
-            runTool(u"mutool"_s, {u"show"_s, path("one.pdf"), u"outline"_s}).out;
+        const QByteArray outline = outlineOf("one.pdf");
         QVERIFY2(outline.contains("\"From a pipe\""), outline.constData());
     }
 

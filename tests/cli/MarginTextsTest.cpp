@@ -21,14 +21,6 @@ class MarginTextsTest : public QObject, CommandLineCase {
         return PdfProbe(path("out.pdf"));
     }
 
-    static QStringList linesOf(const PdfProbe &pdf, int page) {
-        QStringList lines;
-        for (const QString &line : pdf.text(page).remove(u'\f').split(u'\n', Qt::SkipEmptyParts)) {
-            lines += line.simplified();
-        }
-        return lines;
-    }
-
     ToolRun m_run;
 
   private Q_SLOTS:
