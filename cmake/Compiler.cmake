@@ -28,7 +28,8 @@ endif()
 
 # What makes a fault in the reading of a hostile file end the program instead of handing it over. The
 # programs read other people's bytes, so every build has it, the one that is tested among them.
-target_compile_definitions(folioforge_program INTERFACE _GLIBCXX_ASSERTIONS)
+# Inline functions of the library come from whichever object is linked first, a test's as well.
+target_compile_definitions(folioforge_compiler INTERFACE _GLIBCXX_ASSERTIONS)
 if(UNIX AND NOT APPLE)
     include(CheckPIESupported)
     check_pie_supported()

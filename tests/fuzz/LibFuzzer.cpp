@@ -9,12 +9,6 @@ namespace folioforge::fuzz {
 void FOLIOFORGE_FUZZ_TARGET(Bytes bytes);
 } // namespace folioforge::fuzz
 
-// libheif 1.15 and its decoders lose some bytes of files that are damaged.
-// NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming): the sanitizer's name
-extern "C" const char *__lsan_default_suppressions() {
-    return "leak:libheif.so\nleak:libdav1d.so\nleak:libde265.so\n";
-}
-
 // NOLINTNEXTLINE(readability-identifier-naming): libFuzzer's name
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
     folioforge::fuzz::FOLIOFORGE_FUZZ_TARGET({data, size});

@@ -80,8 +80,7 @@ class Reader {
   public:
     /// Whether all came up.
     bool begin() {
-        return m_desktop.begin() && m_desktop.start(bundlePath() + u"/Contents/MacOS/folioforge"_s,
-                                                    m_desktop.path(u"out"_s));
+        return m_desktop.begin() && m_desktop.start(windowProgram(), m_desktop.path(u"out"_s));
     }
     bool list(const QString &name, const QByteArray &words) {
         return m_desktop.press(u"Add Files…"_s) &&

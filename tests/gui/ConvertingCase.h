@@ -47,6 +47,15 @@ inline void run(TestWindow &w) {
     waitForTheEnd(w);
 }
 
+/// Shows the text settings and clicks the box "Readable layout" in them.
+inline void tickReadable(TestWindow &w) {
+    w.press("m_btnExpand");
+    w.press("m_btnTxtSetting");
+    auto *box = w.control<QCheckBox>("m_btnReadable");
+    QTRY_VERIFY(box->isVisible());
+    tick(*box);
+}
+
 inline void mergeInto(TestWindow &w, const QString &name) {
     w.control<QCheckBox>("m_btnMerge")->setChecked(true);
     w.control<QLineEdit>("m_tfOutputName")->setText(name);

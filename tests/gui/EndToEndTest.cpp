@@ -23,7 +23,7 @@ using namespace folioforge::test;
 namespace {
 
 QString program() {
-    return bundlePath() + u"/Contents/MacOS/folioforge"_s;
+    return windowProgram();
 }
 
 QString sourceFolder(const DesktopSession &desktop) {
@@ -180,8 +180,9 @@ class EndToEndTest : public QObject {
         QVERIFY(QDir().mkpath(in));
         writeFile(in + u"/--b.txt"_s, "Last\n");
         writePng(in + u"/a.png"_s, 30, 20);
-        const QStringList files = {in + u"/a.png"_s, u"--"_s, u"in/--b.txt"_s};
-        QVERIFY(desktop.start(program(), outputFolder(desktop), files));
+        const QStringList files = {in + u"/a.png"_s, u"--"_s, u"--b.txt"_s};
+        QVERIFY(desktop.start(u"env"_s, outputFolder(desktop),
+                              QStringList{u"-C"_s, in, program()} + files));
         QVERIFY(desktop.find(u"--b.txt"_s).has_value());
         QVERIFY(desktop.press(u"Merge into one PDF"_s));
         QVERIFY(create(desktop, 1));

@@ -23,10 +23,16 @@ namespace {
 Qt::LayoutDirection sideOfInk(const QWidget &parent, const char *label) {
     auto &wide = controlOf<QLabel>(parent, label);
     wide.resize(300, 30);
-    const QImage drawn = wide.grab().toImage().convertToFormat(QImage::Format_Grayscale8);
-    const auto *row = drawn.constScanLine(drawn.height() / 2);
-    const auto *darkest = std::min_element(row, row + drawn.width());
-    return darkest - row < drawn.width() / 2 ? Qt::LeftToRight : Qt::RightToLeft;
+    QImage drawn(wide.size(), QImage::Format_Grayscale8);
+    drawn.fill(Qt::white);
+    wide.render(&drawn);
+    const uchar *bytes = drawn.constBits();
+    const auto *darkest = std::min_element(bytes, bytes + drawn.sizeInBytes());
+    if (*darkest > 128) {
+        qFatal("%s shows no text", label);
+    }
+    return (darkest - bytes) % drawn.bytesPerLine() < drawn.width() / 2 ? Qt::LeftToRight
+                                                                        : Qt::RightToLeft;
 }
 
 } // namespace
@@ -64,6 +70,10 @@ class MirroredTest : public QObject {
         QGuiApplication::setLayoutDirection(direction);
         PreviewPanel panel;
         BusySheet sheet;
+        for (QWidget *parent : std::initializer_list<QWidget *>{&panel, &sheet}) {
+            parent->resize(600, 400);
+            parent->show();
+        }
         for (const QString &name : {u"a.pdf"_s, u"أ.pdf"_s}) {
             panel.setFile(name);
             sheet.setFile(name);

@@ -25,11 +25,7 @@ struct Panel {
     }
     QLineEdit &field(const char *name) { return control<QLineEdit>(name); }
     void press(const char *name) { QTest::mouseClick(&control<QWidget>(name), Qt::LeftButton); }
-    /// A click on a check box or radio button, whose own ground is larger than what it shows.
-    void tick(const char *name) {
-        auto &box = control<QAbstractButton>(name);
-        QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
-    }
+    void tick(const char *name) { test::tick(control<QAbstractButton>(name)); }
     void type(const char *name, const QString &text) {
         field(name).selectAll();
         QTest::keyClicks(&field(name), text);

@@ -128,11 +128,7 @@ class PreviewTest : public QObject {
         w.key(Qt::Key_Space);
         QTRY_VERIFY(!w.page().isNull());
         const QImage plain = w.page();
-        w.press("m_btnExpand");
-        w.press("m_btnTxtSetting");
-        auto *box = w.control<QCheckBox>("m_btnReadable");
-        QTRY_VERIFY(box->isVisible());
-        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+        tickReadable(w);
         QTRY_VERIFY(w.page().size() == plain.size() && w.page() != plain);
     }
 

@@ -27,8 +27,7 @@ class Session {
         : m_scale(desktop.scale.isEmpty() ? 1 : desktop.scale.toDouble())
         , m_screen(QPoint(), desktop.size) {
         m_runs = m_desktop.begin(desktop) &&
-                 m_desktop.start(bundlePath() + u"/Contents/MacOS/folioforge"_s,
-                                 m_desktop.path(u"out"_s)) &&
+                 m_desktop.start(windowProgram(), m_desktop.path(u"out"_s)) &&
                  m_desktop.placeAtRest(QLatin1StringView(kWindow)).has_value();
     }
 

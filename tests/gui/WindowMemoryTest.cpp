@@ -183,7 +183,7 @@ class WindowMemoryTest : public QObject {
         auto &merge = start.control<QCheckBox>("m_btnMerge");
         QVERIFY(!start.control<QWidget>("m_tfOutputName").isEnabled());
         QVERIFY(!start.control<QWidget>("m_lbOutputName").isEnabled());
-        QTest::mouseClick(&merge, Qt::LeftButton, {}, QPoint(8, merge.height() / 2));
+        tick(merge);
         QVERIFY(start.control<QWidget>("m_tfOutputName").isEnabled());
         QVERIFY(start.control<QWidget>("m_lbOutputName").isEnabled());
         merge.setChecked(false);

@@ -9,8 +9,10 @@
 #include "support/Files.h"
 #include "support/Places.h"
 
+#include <QAbstractButton>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QUrl>
 #include <QWidget>
 
@@ -68,6 +70,11 @@ template<typename Control> Control &controlOf(const QWidget &window, const char 
         qFatal("the window has no %s", name);
     }
     return *found;
+}
+
+/// A click on a check box or radio button, whose own ground is larger than what it shows.
+inline void tick(QAbstractButton &box) {
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(8, box.height() / 2));
 }
 
 } // namespace folioforge::test
