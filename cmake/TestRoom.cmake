@@ -5,7 +5,29 @@ set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TEST
 
 # The sanitizers watch the program alone, so that a sanitized build can link what a plain one compiled.
 set(FOLIOFORGE_TESTS_OF "" CACHE PATH
-    "Build folder, already built, whose objects of tests are linked instead of compiled again")
+    "Build folder, already built and tested, whose objects of tests are linked instead of compiled again")
+if(FOLIOFORGE_TESTS_OF)
+    set(FOLIOFORGE_MADE_FOR_TESTS "${FOLIOFORGE_TESTS_OF}/made")
+else()
+    set(FOLIOFORGE_MADE_FOR_TESTS "${CMAKE_BINARY_DIR}/made")
+endif()
+
+# folioforge_test_needs(TEST SCRIPT): the test reads what this script of its folder writes with other
+# programs; where the objects of tests are another build's, what it wrote for that one.
+function(folioforge_test_needs test script)
+    if(FOLIOFORGE_TESTS_OF)
+        return()
+    endif()
+    # The system's own Python is the one that packages are installed for.
+    find_program(FOLIOFORGE_PYTHON python3 PATHS /opt/homebrew/bin /usr/bin NO_DEFAULT_PATH)
+    find_program(FOLIOFORGE_PYTHON python3)
+    cmake_path(GET test EXTENSION unit)
+    string(REPLACE "${unit}" ".${script}" maker "${test}")
+    add_test(NAME ${maker} COMMAND sh -c "rm -rf \"$2\" && exec \"$0\" \"$1\" \"$2\"" "${FOLIOFORGE_PYTHON}"
+        "${CMAKE_CURRENT_SOURCE_DIR}/${script}" "${FOLIOFORGE_MADE_FOR_TESTS}/${script}")
+    set_tests_properties(${maker} PROPERTIES FIXTURES_SETUP ${script} TIMEOUT 300 COST 20)
+    set_tests_properties(${test} PROPERTIES FIXTURES_REQUIRED ${script})
+endfunction()
 
 # folioforge_test_sources(TARGET SOURCE ...): TARGET is made of these, with what HEADERS names compiled
 # ahead, or of the objects that FOLIOFORGE_TESTS_OF has of them.

@@ -13,13 +13,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
+#include <map>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -170,22 +169,14 @@ class OtherProgramsTest : public QObject {
 
   private Q_SLOTS:
     void initTestCase() {
-        // The system's own Python is the one that Debian's packages install into.
-        QString python = QStandardPaths::findExecutable(u"python3"_s, {u"/usr/bin"_s});
-        python = python.isEmpty() ? QStandardPaths::findExecutable(u"python3"_s) : python;
-        const ToolRun maker =
-            runTool(python, {inSource(u"tests/convert/make-documents"_s), m_folder.path()});
-        QVERIFY2(maker.exitCode <= 0, maker.err.constData()); // -1 without Python.
-        for (const QByteArray &missing : (maker.out + maker.err).trimmed().split('\n')) {
-            qInfo("%s", missing.constData());
+        std::map<QString, QString> documents;
+        for (const QDir &folder : // Of one name, what was made now.
+             {QDir(madeBy(u"make-documents"_s)), QDir(inSource(u"tests/data/pdf"_s))}) {
+            for (const QString &name : folder.entryList({u"*.pdf"_s}, QDir::Files)) {
+                documents.emplace(name, folder.filePath(name));
+            }
         }
-        const QDir folder(m_folder.path());
-        const QDir kept(inSource(u"tests/data/pdf"_s));
-        for (const QString &name : kept.entryList(QDir::Files)) {
-            QFile::copy(kept.filePath(name), folder.filePath(name)); // Not over a newer one.
-        }
-        for (const QString &name : folder.entryList({u"*.pdf"_s}, QDir::Files, QDir::Name)) {
-            const QString path = folder.filePath(name);
+        for (const auto &[name, path] : documents) {
             m_sources.push_back({path, structureOf(path), attachmentsOf(path), fieldsOf(path),
                                  PdfProbe(path).pageCount()});
         }

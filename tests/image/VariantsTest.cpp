@@ -6,9 +6,6 @@
 #include "support/TestUnit.h"
 
 #include <QDir>
-#include <QProcess>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
 
@@ -163,20 +160,8 @@ class VariantsTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void initTestCase() {
-        // The Python that the package manager's Pillow is installed for.
-        const QString python =
-            QStandardPaths::findExecutable(u"python3"_s, {u"/opt/homebrew/bin"_s, u"/usr/bin"_s});
-        constexpr int kMaxMilliseconds = 250'000;
-        QProcess maker;
-        maker.setProcessChannelMode(QProcess::ForwardedChannels);
-        maker.start(python, {inSource(u"tests/image/make-variants"_s), m_folder.path()});
-        QVERIFY(maker.waitForFinished(kMaxMilliseconds));
-        QCOMPARE(maker.exitCode(), 0);
-    }
-
     void pictureIsAsAnotherProgramReadsIt() {
-        const QStringList names = QDir(m_folder.path()).entryList(QDir::Files, QDir::Name);
+        const QStringList names = m_folder.entryList(QDir::Files, QDir::Name);
         int compared = 0;
         int comparedWithBoth = 0;
         QStringList faults;
@@ -202,7 +187,7 @@ class VariantsTest : public QObject {
     }
 
   private:
-    QTemporaryDir m_folder;
+    const QDir m_folder{madeBy(u"make-variants"_s)};
 
     [[nodiscard]] QList<QByteArray> readingsOf(const QString &name) const {
         QList<QByteArray> readings;

@@ -12,6 +12,10 @@ QString inBuild(const QString &path) {
     return QStringLiteral(FOLIOFORGE_BUILD_TREE "/") + path;
 }
 
+QString madeBy(const QString &script) {
+    return QStringLiteral(FOLIOFORGE_MADE_FOR_TESTS "/") + script;
+}
+
 QString bundlePath() {
     return inBuild(QStringLiteral("Folioforge.app"));
 }

@@ -13,6 +13,9 @@ QString inSource(const QString &path);
 /// A file of the build tree, likewise.
 QString inBuild(const QString &path);
 
+/// What the script of this name wrote for a test that asks for it: see folioforge_test_needs().
+QString madeBy(const QString &script);
+
 /// The bundle that was built.
 QString bundlePath();
 
