@@ -28,8 +28,9 @@ QByteArray bashCase(const OptionHelp &option) {
         return {};
     }
     QByteArray made;
-    if (option.value == "DIR") { // Blanks belong to the names of folders.
-        made = "IFS=$'\\n'; COMPREPLY=($(compgen -d -- \"$word\")); ";
+    if (option.value == "DIR") { // Blanks belong to the names of folders, and are to be quoted.
+        made = "IFS=$'\\n'; compopt -o filenames 2>/dev/null; "
+               "COMPREPLY=($(compgen -d -- \"$word\")); ";
     } else if (!option.words().isEmpty()) {
         made = "COMPREPLY=($(compgen -W " + shellQuoted(option.words().join(' ')) +
                " -- \"$word\")); ";

@@ -30,13 +30,14 @@ QSizeF halved(Sheet sheet, int number) {
     return QSizeF(sheet.width, sheet.height) * kPointsPerMillimetre;
 }
 
+constexpr int kSmallestIso = 10; // A10 and B10.
+
 /// "A4" and the like; nothing where `name` is none.
 std::optional<QSizeF> isoSize(QStringView name) {
-    constexpr int kSmallest = 10;
     bool isNumber = false;
     const int number = name.sliced(1).toInt(&isNumber);
     const bool isPlain = isNumber && name[1].isDigit() && (name.size() == 2) == (number < 10);
-    if (!isPlain || number > kSmallest) {
+    if (!isPlain || number > kSmallestIso) {
         return std::nullopt;
     }
     switch (name[0].toUpper().unicode()) {
@@ -57,16 +58,20 @@ constexpr std::pair<double, double> inInches(double width, double height) {
     return {width * kPointsPerInch, height * kPointsPerInch};
 }
 
+/// Papers beside those of ISO 216, also by the names that img2pdf has for them.
+constexpr std::array<std::pair<QLatin1StringView, std::pair<double, double>>, 10> kPapers{
+    {{QLatin1StringView("C5"), inMillimetres(162, 229)},
+     {QLatin1StringView("DL"), inMillimetres(110, 220)},
+     {QLatin1StringView("JIS-B4"), inMillimetres(257, 364)},
+     {QLatin1StringView("JIS-B5"), inMillimetres(182, 257)},
+     {QLatin1StringView("JB4"), inMillimetres(257, 364)},
+     {QLatin1StringView("JB5"), inMillimetres(182, 257)},
+     {QLatin1StringView("Letter"), inInches(8.5, 11)},
+     {QLatin1StringView("Legal"), inInches(8.5, 14)},
+     {QLatin1StringView("Tabloid"), inInches(11, 17)},
+     {QLatin1StringView("Executive"), inInches(7.25, 10.5)}}};
+
 std::optional<QSizeF> uprightSize(QStringView name) {
-    static constexpr std::array<std::pair<QLatin1StringView, std::pair<double, double>>, 8> kPapers{
-        {{QLatin1StringView("c5"), inMillimetres(162, 229)},
-         {QLatin1StringView("dl"), inMillimetres(110, 220)},
-         {QLatin1StringView("jis-b4"), inMillimetres(257, 364)},
-         {QLatin1StringView("jis-b5"), inMillimetres(182, 257)},
-         {QLatin1StringView("letter"), inInches(8.5, 11)},
-         {QLatin1StringView("legal"), inInches(8.5, 14)},
-         {QLatin1StringView("tabloid"), inInches(11, 17)},
-         {QLatin1StringView("executive"), inInches(7.25, 10.5)}}};
     const auto *const found = std::ranges::find_if(kPapers, [&](const auto &paper) {
         return name.compare(paper.first, Qt::CaseInsensitive) == 0;
     });
@@ -119,6 +124,19 @@ qint64 wholePoints(double points) {
         return std::numeric_limits<qint64>::max();
     }
     return points <= -kLimit ? std::numeric_limits<qint64>::min() : std::llround(points);
+}
+
+QByteArrayList paperNames() {
+    QByteArrayList names;
+    for (const char series : {'A', 'B'}) {
+        for (int number = 0; number <= kSmallestIso; ++number) {
+            names += series + QByteArray::number(number);
+        }
+    }
+    for (const auto &paper : kPapers) {
+        names += QByteArray(paper.first.data(), paper.first.size());
+    }
+    return names;
 }
 
 std::optional<QSizeF> paperSize(QStringView name) {

@@ -4,6 +4,7 @@
 
 #include "text/PageSetup.h"
 
+#include <QByteArrayList>
 #include <QSizeF>
 #include <QString>
 
@@ -21,10 +22,13 @@ QStringView unitOf(QStringView text);
 /// The nearest whole number of points, as pages are measured; ends of the range beyond it.
 qint64 wholePoints(double points);
 
+/// The names of papers that paperSize() knows, without those on their sides.
+QByteArrayList paperNames();
+
 /// The size in points of a paper, upright: "A0" to "A10" and "B0" to "B10" (ISO 216), "C5" and "DL"
-/// (ISO 269), "JIS-B4" and "JIS-B5" (JIS P 0138), "Letter", "Legal", "Tabloid" and "Executive"
-/// (ANSI and its kin). With "^T" or "-landscape" behind its name it lies on its side. Nothing where
-/// `name` is none of them, in upper or lower case.
+/// (ISO 269), "JIS-B4" and "JIS-B5" (JIS P 0138; also "JB4" and "JB5"), "Letter", "Legal",
+/// "Tabloid" and "Executive" (ANSI and its kin). With "^T" or "-landscape" behind its name it lies
+/// on its side. Nothing where `name` is none of them, in upper or lower case.
 std::optional<QSizeF> paperSize(QStringView name);
 
 } // namespace folioforge

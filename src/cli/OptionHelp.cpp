@@ -2,6 +2,8 @@
 
 #include "cli/OptionHelp.h"
 
+#include "cli/Lengths.h"
+
 #include <algorithm>
 
 namespace folioforge {
@@ -151,6 +153,10 @@ HelpSection reportHelp() {
 QByteArrayList OptionHelp::words() const {
     QByteArrayList words;
     for (const QByteArray &word : value.toByteArray().split('|')) {
+        if (word == "PAPER") {
+            words += paperNames();
+            continue;
+        }
         const bool isTyped =
             std::ranges::none_of(word, [](char letter) { return letter >= 'A' && letter <= 'Z'; });
         if (isTyped && !word.isEmpty()) {

@@ -42,9 +42,11 @@ class CompletionsTest : public QObject, CommandLineCase {
         for (const HelpSection &section : optionHelp()) {
             for (const OptionHelp &option : section.options) {
                 for (const QByteArray &word : option.words()) {
-                    const std::vector<QByteArray> arguments{option.name.toByteArray(), word, "a"};
+                    // Some say how pictures take a page of a given size.
+                    const std::vector<QByteArray> arguments{"--image-page-size=A4",
+                                                            option.name.toByteArray(), word, "a"};
                     QVERIFY2(std::holds_alternative<Arguments>(parseArguments(arguments)),
-                             (arguments[0] + ' ' + word).constData());
+                             (arguments[1] + ' ' + word).constData());
                 }
             }
         }
@@ -63,6 +65,25 @@ class CompletionsTest : public QObject, CommandLineCase {
         }
     }
 
+#ifndef Q_OS_MACOS // Whose man is another program.
+    void theManualsFitATerminal_data() {
+        QTest::addColumn<QString>("page");
+        QTest::newRow("command line") << u"packaging/folioforge-cli.1"_s;
+        QTest::newRow("window") << u"packaging/folioforge.1"_s;
+    }
+    void theManualsFitATerminal() {
+        QFETCH(const QString, page);
+        const ToolRun run = runTool(u"env"_s, {u"MANWIDTH=80"_s, u"man"_s, u"--warnings"_s,
+                                               u"--local-file"_s, inSource(page)});
+        QCOMPARE(run.err, "");
+        const QStringList lines = QString::fromUtf8(run.out).split(u'\n');
+        QVERIFY(lines.size() > 20);
+        for (const QString &line : lines) {
+            QVERIFY2(line.size() <= 80, qPrintable(line));
+        }
+    }
+#endif
+
     void theHelpBeginsWithFiveExamples() {
         const QByteArray help = runTool(kProgram, {u"--help"_s}).out;
         const QByteArray examples = help.first(help.indexOf("\nInput\n"));
@@ -76,6 +97,7 @@ class CompletionsTest : public QObject, CommandLineCase {
         QTest::newRow("words") << u"--sort na"_s << QByteArray("name natural");
         QTest::newRow("all words") << u"--overwrite = "_s << QByteArray("never older always");
         QTest::newRow("behind an equals sign") << u"--overwrite = o"_s << QByteArray("older");
+        QTest::newRow("papers") << u"--text-page-size L"_s << QByteArray("Letter Legal");
         QTest::newRow("folders") << u"--output-folder a"_s << QByteArray("a folder");
         QTest::newRow("files by the shell itself") << u"--merge a"_s << QByteArray();
     }
@@ -110,20 +132,49 @@ class CompletionsTest : public QObject, CommandLineCase {
         QCOMPARE(lines[2].split('\t').first(), "--refuse-copy");
     }
 
+    void bashQuotesBlanksInFolders() {
+        QVERIFY(QDir().mkpath(path("a folder")));
+        completionOf("bash");
+        const QByteArray said = typed("bash --norc --noprofile -i",
+                                      u"PS1= && cd '%1' && . ./bash"_s.arg(m_folder->path()),
+                                      u"folioforge-cli --output-folder a"_s, u"folder/"_s);
+        QVERIFY2(said.contains("a\\ folder/"), said);
+    }
+
+    void zshCompletes_data() {
+        QTest::addColumn<QString>("words");
+        QTest::addColumn<QString>("completed");
+        QTest::newRow("word") << u"--sort nat"_s << u"natural"_s;
+        QTest::newRow("folder") << u"--output-folder a"_s << u"a\\ folder"_s;
+        QTest::newRow("option once more") << u"a.pdf --pages 1 b.pdf --pag"_s << u"b.pdf --pages"_s;
+    }
     void zshCompletes() {
-        // A shell of its own on a terminal of its own, whose Tab key is pressed.
-        const QString script =
-            u"zmodload zsh/zpty; zpty z zsh -f -i; "
-            "zpty -w z 'PS1=; unsetopt zle_bracketed_paste; fpath=('$1' $fpath); autoload -U "
-            "compinit; compinit -u -D; "
-            "compdef _folioforge-cli folioforge-cli; echo rea''dy'; "
-            "zpty -r z said '*ready*'; zpty -w -n z $'folioforge-cli --sort nat\\t'; "
-            "zpty -r -t z said; sleep 1; zpty -r z said '*natural*'; echo -n $said; zpty -d z"_s;
-        QVERIFY(QDir().mkpath(path("functions")));
+        QFETCH(const QString, words);
+        QFETCH(const QString, completed);
+        QVERIFY(QDir().mkpath(path("functions")) && QDir().mkpath(path("a folder")));
         QVERIFY(QFile::copy(completionOf("zsh"), path("functions/_folioforge-cli")));
-        const ToolRun run = runTool(u"timeout"_s, {u"20"_s, u"zsh"_s, u"-f"_s, u"-c"_s, script,
-                                                   u"zsh"_s, path("functions")});
-        QVERIFY2(run.exitCode == 0 && run.out.contains("natural"), run.out + run.err);
+        const QByteArray said = typed(
+            "zsh -f -i",
+            u"PS1=; unsetopt zle_bracketed_paste; cd '%1'; fpath=($PWD/functions $fpath); "
+            "autoload -U compinit; compinit -u -D; compdef _folioforge-cli folioforge-cli"_s.arg(
+                m_folder->path()),
+            u"folioforge-cli "_s + words, completed);
+        QVERIFY2(said.contains(completed.toUtf8()), said);
+    }
+
+  private:
+    /// What a terminal shows where `shell` runs `before`, and then `words` and the Tab key are
+    /// typed, until it shows `awaited`.
+    QByteArray typed(const char *shell, const QString &before, const QString &words,
+                     const QString &awaited) const {
+        const QString script = u"zmodload zsh/zpty; zpty -e z $1; zpty -w z \"$2; echo rea''dy\"; "
+                               "zpty -r z said '*ready*'; zpty -w -n z $3$'\\t'; all=; "
+                               "for i in {1..100}; do sleep 0.1; zpty -r -t z said && all+=$said; "
+                               "[[ $all == *$4* ]] && break; done; echo -n $all; zpty -d z"_s;
+        const ToolRun run =
+            runTool(u"timeout"_s, {u"20"_s, u"zsh"_s, u"-f"_s, u"-c"_s, script, u"zsh"_s,
+                                   QString::fromLatin1(shell), before, words, awaited});
+        return run.out + run.err;
     }
 };
 
