@@ -5,6 +5,7 @@
 #include "cli/OptionTable.h"
 #include "cli/OptionValues.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -106,8 +107,19 @@ class ArgumentReader {
         if (options.compressGrey && !options.compresses()) {
             throw ArgumentFault(u"--compress-grey needs --compress"_s);
         }
+        if (options.imagePage.sizeMode == ImagePageFollowsImage) {
+            if (options.imageLayout.orientation != PageOrientation::AsGiven) {
+                throw ArgumentFault(u"--image-orientation needs a page, --image-page-size"_s);
+            }
+            if (options.imageLayout.fit != ImageFit::Within) {
+                throw ArgumentFault(u"--image-fit needs a page, --image-page-size"_s);
+            }
+        }
         if (m_result.listsEndInNull && m_result.nameLists.empty()) {
             throw ArgumentFault(u"-0 and --null say how names end in a list of --files-from"_s);
+        }
+        if (std::ranges::find(m_result.inputs, QByteArray()) != m_result.inputs.end()) {
+            throw ArgumentFault(u"\"\" is no file"_s);
         }
         if (m_result.request == Request::Convert && m_result.inputs.empty() &&
             m_result.nameLists.empty()) {

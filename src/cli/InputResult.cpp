@@ -68,6 +68,7 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
     }
     if (result.kept) {
         own.output = result.path;
+        own.reason = close.reason;
         own.state = State::Kept;
         return own;
     }
@@ -79,6 +80,9 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
 }
 
 QString InputResult::plan() const {
+    if (state == State::Kept) {
+        return input + u": "_s + reason;
+    }
     if (pages == 0) {
         return input + u": no page"_s;
     }
@@ -90,7 +94,7 @@ QString InputResult::plan() const {
 
 QStringList toMessages(const InputResult &result) {
     QStringList messages;
-    if (!result.reason.isEmpty()) {
+    if (!result.reason.isEmpty() && result.state != InputResult::State::Kept) {
         messages += result.input + u": "_s + result.reason;
     }
     for (const Warning &warning : result.warnings) {

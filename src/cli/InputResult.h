@@ -32,7 +32,7 @@ struct InputResult {
     int pages = 0;
     QSizeF pageSize; ///< Of its first page, of a dry run alone.
     State state = State::Finished;
-    QString reason;                      ///< Why it failed or was rejected.
+    QString reason;                      ///< Why it failed, was rejected or is kept.
     Warnings warnings;                   ///< What was lost of it though it was written.
     std::optional<double> seconds;       ///< How long its pages took.
     std::optional<double> outputSeconds; ///< How long its PDF took.
@@ -46,7 +46,7 @@ struct InputResult {
     static InputResult failed(const QString &input, const QString &reason);
     /// The result of a folder of which something is left out.
     static InputResult listed(const QString &folder, const Warnings &leftOut);
-    /// What a dry run says of the input in words: pages and their size.
+    /// What a dry run says of the input in words: pages and their size, or why its PDF is kept.
     [[nodiscard]] QString plan() const;
     /// The result of `input`, the entry at `index` of the PDF that `result` is about.
     static InputResult of(const QString &input, const RunResult &result, std::size_t index);

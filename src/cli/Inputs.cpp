@@ -8,6 +8,8 @@
 #include "filelist/FileKind.h"
 #include "filelist/SourceFiles.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <filesystem>
 #include <utility>
@@ -62,6 +64,7 @@ class Names {
             if (input.read.problem.isEmpty() && input.leftOut.empty()) {
                 input.read = std::move(*next++);
                 choosePages(input);
+                hintAtTexts(input);
             }
             if (input.leftOut.empty()) {
                 input.read.entry.setBookmarkTitle(titles.value(title++));
@@ -78,6 +81,15 @@ class Names {
         if (!input.pages.isNone() && input.read.problem.isEmpty() &&
             input.read.entry.kind() != FileKind::Pdf) {
             input.read.problem = kOnlyPdfs;
+        }
+    }
+
+    /// Says of a file that is refused how it would be taken.
+    void hintAtTexts(Input &input) const {
+        const QString &path = input.read.entry.filePathName();
+        if (input.read.entry.kind() == FileKind::Other && !m_taking.further.texts &&
+            fileKind(path, {.texts = true}) == FileKind::Text && QFileInfo(path).isFile()) {
+            input.read.problem += u"; --as-text takes it as a text"_s;
         }
     }
 

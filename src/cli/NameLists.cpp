@@ -78,10 +78,15 @@ void readNameLists(Arguments &arguments) {
         arguments.inputs.insert(at, names.begin(), names.end());
         moveChoices(arguments.pageChoices, list->at, names.size());
     }
+    const auto inputsOnIt = std::ranges::count(arguments.inputs, "-");
+    if (!arguments.inputType.isEmpty() && inputsOnIt == 0) {
+        throw ArgumentFault(
+            u"--input-type says what standard input is, and \"-\" is none of the inputs"_s);
+    }
     // Both passwords are lines of one reading.
     const bool isPassword = arguments.userPasswordFile == "-" || arguments.ownerPasswordFile == "-";
-    const auto readings = ofLists + std::ranges::count(arguments.inputs, "-") +
-                          (isPassword ? 1 : 0) + (arguments.inputPasswordFile == "-" ? 1 : 0) +
+    const auto readings = ofLists + inputsOnIt + (isPassword ? 1 : 0) +
+                          (arguments.inputPasswordFile == "-" ? 1 : 0) +
                           (arguments.bookmarkTitleFile == "-" ? 1 : 0);
     if (readings > 1) {
         throw ArgumentFault(u"Standard input cannot be read twice"_s);

@@ -2,14 +2,13 @@
 
 #include "cli/OptionTable.h"
 
+#include "cli/NamesLike.h"
 #include "cli/OptionValues.h"
 #include "cli/TextOptions.h"
 #include "convert/OutputName.h"
 
 #include <algorithm>
 #include <array>
-#include <numeric>
-#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -30,6 +29,9 @@ void takeMergePath(const QString &path, Arguments &to) {
     to.toStandardOutput = path == u"-";
     if (to.toStandardOutput) {
         return;
+    }
+    if (path.isEmpty()) {
+        throw ArgumentFault(u"\"\" is no name of a PDF"_s);
     }
     const qsizetype slash = path.lastIndexOf(u'/');
     options.outputName = path.sliced(slash + 1);
@@ -254,22 +256,6 @@ const std::vector<Option> &reportOptions() {
     return options;
 }
 
-/// How many bytes have to be put in, taken out or replaced to make one of the other.
-qsizetype editDistance(QByteArrayView one, QByteArrayView other) {
-    std::vector<qsizetype> row(static_cast<std::size_t>(other.size()) + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (qsizetype i = 0; i < one.size(); ++i) {
-        qsizetype diagonal = std::exchange(row[0], i + 1);
-        for (std::size_t j = 1; j < row.size(); ++j) {
-            const bool isSame = one[i] == other[static_cast<qsizetype>(j) - 1];
-            const qsizetype least =
-                std::min({diagonal + (isSame ? 0 : 1), row[j] + 1, row[j - 1] + 1});
-            diagonal = std::exchange(row[j], least);
-        }
-    }
-    return row.back();
-}
-
 std::array<const std::vector<Option> *, 6> groups() {
     return {&inputOptions(), &outputOptions(), &documentOptions(),
             &pageOptions(),  &textOptions(),   &reportOptions()};
@@ -292,21 +278,19 @@ bool isOption(const QByteArray &argument) {
 }
 
 const Option &findOption(const QByteArray &name) {
-    QByteArrayView near;
-    qsizetype nearest = std::min<qsizetype>(4, name.size() / 2); // As many letters may be wrong.
     for (const auto *group : groups()) {
         for (const Option &option : *group) {
             if (option.name == name) {
                 return option;
             }
-            if (const qsizetype distance = editDistance(name, option.name); distance < nearest) {
-                nearest = distance;
-                near = option.name;
-            }
         }
     }
+    QStringList meant;
+    for (const QByteArray &option : namesLike(name, optionNames())) {
+        meant += u"\"%1\""_s.arg(QLatin1StringView(option));
+    }
     const QString hint =
-        near.isEmpty() ? QString() : u"; is \"%1\" meant?"_s.arg(QLatin1StringView(near));
+        meant.isEmpty() ? QString() : u"; is %1 meant?"_s.arg(meant.join(u" or "_s));
     throw ArgumentFault(u"There is no option \"%1\"%2"_s.arg(QString::fromUtf8(name), hint));
 }
 

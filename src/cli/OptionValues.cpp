@@ -144,7 +144,11 @@ QString parseFolder(const QString &text) {
     if (text.isEmpty()) {
         throw ArgumentFault(u"\"\" is no folder; \".\" is the current one"_s);
     }
-    return text;
+    qsizetype length = text.size();
+    while (length > 1 && text[length - 1] == u'/') {
+        --length;
+    }
+    return text.first(length);
 }
 
 QByteArray parseInputType(const QString &text) {

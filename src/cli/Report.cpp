@@ -128,12 +128,16 @@ QByteArray toLine(const QJsonObject &object) {
 
 } // namespace
 
-QByteArray reportHead() {
+QByteArray reportHead(const QStringList &rounded) {
     QJsonObject libraries;
     for (const auto &[library, version] : libraryVersions()) {
         libraries.insert(library, version);
     }
-    return toLine({{u"version"_s, 1}, {u"tool"_s, toolVersion()}, {u"libraries"_s, libraries}});
+    QJsonObject head{{u"version"_s, 1}, {u"tool"_s, toolVersion()}, {u"libraries"_s, libraries}};
+    if (!rounded.isEmpty()) {
+        head.insert(u"rounded"_s, QJsonArray::fromStringList(rounded));
+    }
+    return toLine(head);
 }
 
 QByteArray toJson(const InputResult &result) {

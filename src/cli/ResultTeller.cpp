@@ -17,7 +17,7 @@ ResultTeller::ResultTeller(const Arguments &arguments, Console &console)
     : m_arguments(arguments)
     , m_console(console) {
     if (m_arguments.json) {
-        m_console.result(reportHead());
+        m_console.result(reportHead(m_arguments.rounded));
     }
 }
 
@@ -34,8 +34,9 @@ void ResultTeller::report(std::size_t index, const QString &path, InputResult re
         result.source = digestOf(path);
         writeLinesBefore(index + 1);
         m_console.result(toJson(result));
-    } else if (result.state == InputResult::State::Planned && !m_arguments.quiet) {
-        m_console.result("  " + printable(result.plan()).toUtf8());
+    } else if (m_arguments.options.dryRun && !m_arguments.quiet && !result.output.isEmpty()) {
+        const bool isUnderItsPdf = result.state == InputResult::State::Planned;
+        m_console.result((isUnderItsPdf ? "  " : "") + printable(result.plan()).toUtf8());
     }
 }
 

@@ -10,6 +10,8 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <utility>
+#include <vector>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -85,12 +87,31 @@ std::optional<QString> passwordFault(const SecuritySettings &security) {
                         u"In a PDF this password is the same as that of --user-password-file"_s);
 }
 
+/// The pages of pictures, each as it may come to lie.
+std::vector<PageSetup> imagePages(const ConversionOptions &options) {
+    const PageSetup &given = options.imagePage;
+    PageSetup turned = given;
+    std::swap(turned.customWidth, turned.customHeight);
+    const bool isWide = given.customWidth > given.customHeight;
+    switch (options.imageLayout.orientation) {
+    case PageOrientation::Auto:
+        return {given, turned};
+    case PageOrientation::Portrait:
+        return {isWide ? turned : given};
+    case PageOrientation::Landscape:
+        return {isWide ? given : turned};
+    case PageOrientation::AsGiven:
+        break;
+    }
+    return {given};
+}
+
 QString quoted(const QString &path) {
     return u'"' + path + u'"';
 }
 
 void requireParent(const QString &folder, const QString &option) {
-    const QString parent = QFileInfo(folder.endsWith(u'/') ? folder.chopped(1) : folder).path();
+    const QString parent = QFileInfo(folder).path();
     if (!QFileInfo::exists(parent)) {
         throw ArgumentFault(option + u"%1 is not made, as the folder for it, %2, is missing"_s.arg(
                                          quoted(folder), quoted(parent)));
@@ -115,12 +136,13 @@ std::optional<QString> settingsFault(const Arguments &arguments) {
         return fault;
     }
     const PageSetup &text = options.textPage;
-    const PageSetup &image = options.imagePage;
     if (const auto found = checkTextPageSizeSettings(text)) {
         return inWordsOf("--text-margins"_L1, *found, text.margins, getTextPageSize(text));
     }
-    if (const auto found = checkImagePageSizeSettings(image)) {
-        return inWordsOf("--image-margins"_L1, *found, image.margins, getImagePageSize(image));
+    for (const PageSetup &image : imagePages(options)) {
+        if (const auto found = checkImagePageSizeSettings(image)) {
+            return inWordsOf("--image-margins"_L1, *found, image.margins, getImagePageSize(image));
+        }
     }
     const bool refused = options.overwrite == Overwrite::Never && checkMergedFile(options);
     return refused ? std::optional(nameTakenFault(options)) : std::nullopt;

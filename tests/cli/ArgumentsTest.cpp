@@ -113,6 +113,8 @@ class ArgumentsTest : public QObject {
         QCOMPARE(text("3X14400"), QSizeF(3, 14400));
         QCOMPARE(text("A6"), QSizeF(298, 420)); // 105 x 148 mm
         QCOMPARE(text("a4^T"), QSizeF(842, 595));
+        QCOMPARE(text("JIS-B5"), QSizeF(516, 729)); // 182 x 257 mm
+        QCOMPARE(text("jb4^T"), QSizeF(1032, 729)); // 257 x 364 mm
         QCOMPARE(text("letter-landscape"), QSizeF(792, 612));
         QCOMPARE(text("210mmx11in"), QSizeF(595, 792));
         QCOMPARE(text("148x210mm"), QSizeF(420, 595));
@@ -137,9 +139,9 @@ class ArgumentsTest : public QObject {
     }
 
     void howPicturesTakeTheirPagesIsChosen() {
-        const auto layout =
-            good({"--image-orientation", "auto", "--image-fit", "fill", "--image-dpi", "300", "a"})
-                .options.imageLayout;
+        const auto layout = good({"--image-page-size=A4", "--image-orientation", "auto",
+                                  "--image-fit", "fill", "--image-dpi", "300", "a"})
+                                .options.imageLayout;
         QCOMPARE(layout.orientation, PageOrientation::Auto);
         QCOMPARE(layout.fit, ImageFit::Fill);
         QCOMPARE(layout.unstatedDpi, 300);
@@ -223,6 +225,10 @@ class ArgumentsTest : public QObject {
         row("null without a list", {"-0", "a"}, "--files-from");
         row("option as a value", {"--title", "--merge", "x", "a"}, "write \"--title=--merge\"");
         row("option with a value as a value", {"--author", "--title=x", "a"}, "--author=--title=x");
+        row("orientation of no page", {"--image-orientation=auto", "a"}, "--image-page-size");
+        row("fit of no page", {"--image-fit=fill", "a"}, "--image-page-size");
+        row("input without a name", {"a", ""}, "\"\" is no file");
+        row("merge without a name", {"--merge=", "a"}, "\"\" is no name of a PDF");
         row("two outputs", {"--merge", "x", "--output-folder", "y", "a"}, "--merge");
         row("not UTF-8", {"--title", "caf\xE9", "a"}, "--title");
     }

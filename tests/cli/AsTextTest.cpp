@@ -34,7 +34,11 @@ class AsTextTest : public QObject, CommandLineCase {
     void withoutTheOptionTheyAreRefused() {
         const ToolRun run = merge("out.pdf", {text("a.md")});
         QCOMPARE(run.exitCode, 1);
-        QVERIFY2(run.err.contains("a.md: It is not a recognised type"), run.err);
+        QVERIFY2(
+            run.err.contains("a.md: It is not a recognised type; --as-text takes it as a text"),
+            run.err);
+        const ToolRun other = merge("out.pdf", {text("a.mdx"), path("missing.md")});
+        QVERIFY2(!other.err.contains("--as-text"), other.err);
     }
 
     void whatIsNoTextIsStillRefused() {

@@ -205,6 +205,13 @@ class InputListsTest : public QObject, CommandLineCase {
         QTest::newRow("letter left out") << u"--merg"_s << QByteArray("; is \"--merge\" meant?");
         QTest::newRow("letters changed")
             << u"--files-form=x"_s << QByteArray("; is \"--files-from\" meant?");
+        QTest::newRow("words of longer ones")
+            << u"--margins"_s
+            << QByteArray("; is \"--text-margins\" or \"--image-margins\" meant?");
+        QTest::newRow("first word")
+            << u"--output"_s << QByteArray("; is \"--output-folder\" meant?");
+        QTest::newRow("part of a word") << u"--a"_s << QByteArray();
+        QTest::newRow("dashes alone") << u"---"_s << QByteArray();
         QTest::newRow("nothing near") << u"--zebra"_s << QByteArray();
         QTest::newRow("short") << u"-1"_s << QByteArray();
     }

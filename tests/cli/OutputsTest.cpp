@@ -123,6 +123,8 @@ class OutputsTest : public QObject, CommandLineCase {
             states += member(object, "state");
         }
         QCOMPARE(states.join(u' '), u"finished kept kept"_s);
+        QCOMPARE(member(objectsOf(run.out).last(), "message"), u"Its PDF is there and not older"_s);
+        QCOMPARE(run.err, "");
     }
 
     void aMergedPdfIsKeptWhileNoInputIsNewer() {
@@ -158,6 +160,15 @@ class OutputsTest : public QObject, CommandLineCase {
                 folder, path("a.txt"), QString::number(pages), picture, path("a.pdf"));
         QCOMPARE(QString::fromUtf8(run.out), expected);
         QVERIFY(QFile::exists(path("made/a(1).pdf")));
+    }
+
+    void aDryRunSaysWhatWouldBeKept() {
+        setTime(text("a.txt"), 1000);
+        text("out/a.pdf", "there");
+        const ToolRun run = convert({u"--dry-run"_s, u"--overwrite=older"_s, path("a.txt")});
+        QCOMPARE(run.out, path("a.txt").toUtf8() + ": Its PDF is there and not older\n");
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(convert({u"--overwrite=older"_s, path("a.txt")}).out, "");
     }
 
     void aDryRunOfAMergeLeavesTheFolderAsItIs() {

@@ -75,7 +75,10 @@ class PicturePagesTest : public QObject, CommandLineCase {
     void aRoundedLengthIsSaidOnce() {
         const QStringList asked{u"--text-margins=25mm"_s, text("a.txt")};
         QCOMPARE(convert(asked).err, "folioforge-cli: --text-margins: 25mm is 71 points\n");
-        QCOMPARE(convert(asked + QStringList{u"--quiet"_s}).err, "");
+        const ToolRun quiet = convert(asked + QStringList{u"--quiet"_s, u"--json"_s});
+        QCOMPARE(quiet.err, "");
+        QVERIFY2(quiet.out.contains("\"rounded\":[\"--text-margins: 25mm is 71 points\"]"),
+                 quiet.out);
     }
 };
 

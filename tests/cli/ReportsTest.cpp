@@ -46,6 +46,16 @@ class ReportsTest : public QObject, protected CommandLineCase {
         row("image height", "--image-page-size=100x40 --image-margins=20,0",
             "--image-margins: The margins above and below have 40 points together; the page is 40 "
             "points high\n");
+        row("image height of a page that a picture may turn",
+            "--image-page-size=100x400 --image-orientation=auto --image-margins=50,0",
+            "--image-margins: The margins above and below have 100 points together; the page is "
+            "100 points high\n");
+        row("image width of a page on its side",
+            "--image-page-size=400x100 --image-orientation=portrait --image-margins=0,50",
+            "--image-margins: The margins left and right have 100 points together; the page is "
+            "100 points wide\n");
+        row("type of no standard input", "--input-type=tga",
+            "--input-type says what standard input is, and \"-\" is none of the inputs\n");
         row("empty password", "--user-password-file=/dev/null",
             "--user-password-file: The password is empty\n");
         row("folder without a name",
@@ -69,7 +79,9 @@ class ReportsTest : public QObject, protected CommandLineCase {
 
     void aMissingOutputFolderIsMade() {
         const QString folder = path("made/");
-        QCOMPARE(runTool(kProgram, {u"--output-folder"_s, folder, text("a.txt")}).exitCode, 0);
+        const ToolRun run = runTool(kProgram, {u"--output-folder"_s, folder, text("a.txt")});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.out, path("made/a.pdf").toUtf8() + '\n');
         QCOMPARE(PdfProbe(path("made/a.pdf")).pageCount(), 1);
     }
 
