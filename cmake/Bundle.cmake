@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: Apache-2.0
 # The application bundle has one layout on every system, in the build tree and installed:
 # Folioforge.app/Contents/{MacOS, Resources, Info.plist}. On Linux it is installed under
-# lib/folioforge, with links to its programs in bin.
+# libexec/folioforge, with links to its programs in bin.
 
 include(GNUInstallDirs)
 
@@ -12,7 +12,7 @@ set(FOLIOFORGE_BUNDLE_RESOURCES "${FOLIOFORGE_BUNDLE}/Resources")
 if(APPLE)
     set(FOLIOFORGE_INSTALL_BUNDLE "Folioforge.app/Contents")
 else()
-    set(FOLIOFORGE_INSTALL_BUNDLE "lib/folioforge/Folioforge.app/Contents")
+    set(FOLIOFORGE_INSTALL_BUNDLE "${CMAKE_INSTALL_LIBEXECDIR}/folioforge/Folioforge.app/Contents")
 endif()
 
 # Puts the program `target` into the bundle. A HELPER is started by another program alone and has no

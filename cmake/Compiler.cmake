@@ -49,6 +49,11 @@ if(FOLIOFORGE_FUZZ)
     target_compile_options(folioforge_program INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
+# Equal sources give equal programs, wherever they lie.
+if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+    target_compile_options(folioforge_compiler INTERFACE "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.")
+endif()
+
 # Qt's implicit casts from bytes to text hide encoding mistakes.
 target_compile_definitions(folioforge_compiler INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS
