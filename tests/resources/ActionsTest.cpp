@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "support/Files.h"
+#include "support/PdfProbe.h"
+#include "support/Places.h"
+#include "support/TestUnit.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge::test;
+
+namespace {
+
+/// Stands in for what nautilus-python gives to extensions, and chooses the entry argv[2] of the
+/// extension argv[1] for the files behind; "none" prints how many entries there are.
+constexpr const char *kNautilus = R"(
+import importlib.util, mimetypes, os, pathlib, sys, types
+
+class MenuItem:
+    def __init__(self, **said): self.said = said
+    def connect(self, signal, called): self.called = called
+
+class FileInfo:
+    def __init__(self, path): self.path = path
+    def get_uri(self): return pathlib.Path(self.path).as_uri()
+    def get_uri_scheme(self): return "file"
+    def get_mime_type(self): return mimetypes.guess_type(self.path)[0]
+
+repository = types.ModuleType("gi.repository")
+repository.GObject = types.SimpleNamespace(GObject=type("G", (), {}))
+repository.Nautilus = types.SimpleNamespace(MenuProvider=type("P", (), {}), MenuItem=MenuItem)
+sys.modules["gi"] = types.ModuleType("gi")
+sys.modules["gi.repository"] = repository
+spec = importlib.util.spec_from_file_location("extension", sys.argv[1])
+extension = importlib.util.module_from_spec(spec)
+spec.loader.exec_module(extension)
+items = extension.FolioforgeMenu().get_file_items([FileInfo(path) for path in sys.argv[3:]])
+if sys.argv[2] == "none":
+    print(len(items))
+else:
+    chosen = [item for item in items if item.said["name"] == "Folioforge::" + sys.argv[2]]
+    chosen[0].called(chosen[0])
+    sys.exit(os.waitstatus_to_exitcode(os.wait()[1]))
+)";
+
+/// The value of `key` in the group of a file of keys.
+QString valueOf(const QString &file, const QString &group, const QString &key) {
+    for (bool inGroup = false; const QByteArray &line : readFile(file).split('\n')) {
+        if (line.startsWith('[')) {
+            inGroup = line == '[' + group.toUtf8() + ']';
+        } else if (inGroup && line.startsWith(key.toUtf8() + '=')) {
+            return QString::fromUtf8(line.sliced(key.size() + 1));
+        }
+    }
+    return {};
+}
+
+/// The texts of all elements `name` of an XML file; empty where it is none.
+QStringList textsOf(const QString &file, const QString &name) {
+    QXmlStreamReader xml(readFile(file));
+    QStringList texts;
+    while (!xml.atEnd()) {
+        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == name) {
+            texts += xml.readElementText();
+        }
+    }
+    return xml.hasError() ? QStringList() : texts;
+}
+
+} // namespace
+
+/// The entries in the menus of file managers, each called as its file manager does it.
+class ActionsTest : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_prefix;
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+    QString installed(const char *path) const { return m_prefix.filePath(QLatin1StringView(path)); }
+
+    QString inFolder(const QString &name) const { return m_folder->filePath(name); }
+
+    /// Runs `command` where the installed programs, and those of the test, are found first.
+    ToolRun run(const QStringList &command) const {
+        return runTool(u"env"_s, QStringList{u"PATH=%1/bin:%2/bin:/usr/bin:/bin"_s.arg(
+                                                 m_prefix.path(), m_folder->path()),
+                                             u"HOME="_s + m_folder->path(), u"XDG_CONFIG_HOME="_s,
+                                             u"XDG_CURRENT_DESKTOP=GNOME"_s} +
+                                     command);
+    }
+
+    /// The entry `what` of Dolphin, chosen for `files`.
+    ToolRun dolphin(const QString &what, const QStringList &files) const {
+        QStringList command = QProcess::splitCommand(
+            valueOf(installed("share/kio/servicemenus/folioforge-dolphin.desktop"),
+                    u"Desktop Action folioforge-"_s + what, u"Exec"_s));
+        return command.takeLast() == u"%F" ? run(command + files) : ToolRun();
+    }
+
+    /// Nemo puts addresses in quotes as its file asks for, and splits the line as a shell does.
+    ToolRun nemo(const QString &what, const QStringList &files) const {
+        const QString file =
+            installed("share/nemo/actions/folioforge-%.nemo_action").replace(u'%', what);
+        const QString group = u"Nemo Action"_s;
+        const QString quote = valueOf(file, group, u"Quote"_s) == u"double" ? u"\""_s : QString();
+        QStringList words;
+        for (const QString &name : files) {
+            words += quote + QUrl::fromLocalFile(name).toString(QUrl::FullyEncoded) + quote;
+        }
+        return run(QProcess::splitCommand(
+            valueOf(file, group, u"Exec"_s).replace(u"%U"_s, words.join(u' '))));
+    }
+
+    ToolRun nautilus(const QString &what, const QStringList &files) const {
+        return run(QStringList{u"python3"_s, u"-c"_s, QString::fromLatin1(kNautilus),
+                               installed("share/nautilus-python/extensions/folioforge-nautilus.py"),
+                               what} +
+                   files);
+    }
+
+    /// Thunar hands paths over as a shell wants them quoted.
+    ToolRun thunar(const QString &what, const QStringList &files) const {
+        run({u"folioforge-action"_s, u"--add-to-thunar"_s});
+        QStringList words;
+        for (QString name : files) {
+            words += u'\'' + name.replace(u'\'', u"'\\''"_s) + u'\'';
+        }
+        for (QString command : textsOf(inFolder(u".config/Thunar/uca.xml"_s), u"command"_s)) {
+            if (command.contains(u' ' + what + u' ')) {
+                return run({u"sh"_s, u"-c"_s, command.replace(u"%F"_s, words.join(u' '))});
+            }
+        }
+        return {};
+    }
+
+    ToolRun choose(const QString &manager, const QString &what, const QStringList &files) const {
+        return manager == u"Dolphin"    ? dolphin(what, files)
+               : manager == u"Nemo"     ? nemo(what, files)
+               : manager == u"Nautilus" ? nautilus(what, files)
+                                        : thunar(what, files);
+    }
+
+    static void managers() {
+        QTest::addColumn<QString>("manager");
+        for (const char *manager : {"Dolphin", "Nemo", "Nautilus", "Thunar"}) {
+            QTest::newRow(manager) << QString::fromLatin1(manager);
+        }
+    }
+
+    QStringList inputs() const {
+        QDir(m_folder->path()).mkpath(u"a b"_s);
+        return {writeFile(inFolder(u"a b/it's 5% \"off\" for $HOME.txt"_s), "words"),
+                writeFile(inFolder(u"a b/page.txt"_s), "words"),
+                writePng(inFolder(u"a b/page.png"_s), 20, 10)};
+    }
+
+    QStringList pdfs() const {
+        return QDir(inFolder(u"a b"_s)).entryList({u"*.pdf"_s}, QDir::Files, QDir::Name);
+    }
+
+    /// What the stand-in for `program` was asked to show, after it has been put in place.
+    QString shownBy(const QString &program, const QStringList &files, int exitCode) const {
+        QDir(m_folder->path()).mkpath(u"bin"_s);
+        const QString script = writeFile(inFolder(u"bin/"_s + program),
+                                         "#!/bin/sh\nprintf '%s\\n' \"$@\" >\"$HOME/shown\"\n");
+        QFile::setPermissions(script, QFile::ReadOwner | QFile::ExeOwner);
+        const ToolRun made = run(QStringList{u"folioforge-action"_s, u"each"_s} + files);
+        return made.exitCode == exitCode ? QString::fromUtf8(readFile(inFolder(u"shown"_s)))
+                                         : QString();
+    }
+
+  private Q_SLOTS:
+    void initTestCase() {
+        const ToolRun made =
+            runTool(u"cmake"_s, {u"--install"_s, inBuild({}), u"--prefix"_s, m_prefix.path()});
+        QVERIFY2(made.exitCode == 0, made.err.constData());
+    }
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void eachFileBecomesAPdfBesideIt_data() { managers(); }
+    void eachFileBecomesAPdfBesideIt() {
+        QFETCH(const QString, manager);
+        const ToolRun made = choose(manager, u"each"_s, inputs());
+        QVERIFY2(made.exitCode == 0, made.err.constData());
+        QCOMPARE(pdfs(), QStringList({u"it's 5% \"off\" for $HOME.pdf"_s, u"page(1).pdf"_s,
+                                      u"page.pdf"_s}));
+    }
+
+    void allFilesBecomeOnePdfNamedForTheirFolder_data() { managers(); }
+    void allFilesBecomeOnePdfNamedForTheirFolder() {
+        QFETCH(const QString, manager);
+        const QStringList files = inputs();
+        QCOMPARE(choose(manager, u"one"_s, files).exitCode, 0);
+        QCOMPARE(choose(manager, u"one"_s, files).exitCode, 0);
+        QCOMPARE(pdfs(), QStringList({u"a b(1).pdf"_s, u"a b.pdf"_s}));
+        QCOMPARE(PdfProbe(inFolder(u"a b/a b.pdf"_s)).pageCount(), 3);
+    }
+
+    void pagesOfOnePdfCountTheirNumbers() {
+        QStringList files;
+        for (const char *name : {"page10", "page9"}) {
+            files += writeFile(inFolder(QLatin1StringView(name) + u".txt"_s), name);
+        }
+        QCOMPARE(run(QStringList{u"folioforge-action"_s, u"one"_s} + files).exitCode, 0);
+        const QString made = m_folder->path().section(u'/', -1) + u".pdf"_s;
+        QCOMPARE(PdfProbe(inFolder(made)).text(1).trimmed(), u"page9"_s);
+    }
+
+    void aFailureIsShownAndTheRestIsMade() {
+        QStringList files = inputs();
+        files += writeFile(inFolder(u"a b/bad.jpg"_s), "no");
+        const QString shown = shownBy(u"zenity"_s, files, 1);
+        QVERIFY2(shown.startsWith(u"--title=Folioforge\n"_s) &&
+                     shown.contains(u"/bad.jpg: The JPEG file "_s),
+                 qPrintable(shown));
+        QCOMPARE(pdfs().size(), 3);
+    }
+
+    void aWarningIsShown() {
+        const QString latin1 = writeFile(inFolder(u"menu.txt"_s), "caf\xe9");
+        const QString shown = shownBy(u"notify-send"_s, {latin1}, 0);
+        QVERIFY2(shown.contains(u"menu.txt: warning: "_s), qPrintable(shown));
+    }
+
+    void thunarKeepsItsOtherEntries() {
+        QDir(m_folder->path()).mkpath(u".config/Thunar"_s);
+        const QString file = inFolder(u".config/Thunar/uca.xml"_s);
+        writeFile(file, "<?xml version=\"1.0\"?>\n<actions>\n<action><unique-id>mine</unique-id>"
+                        "</action>\n</actions>\n");
+        for (int time = 0; time < 2; ++time) {
+            QCOMPARE(run({u"folioforge-action"_s, u"--add-to-thunar"_s}).exitCode, 0);
+            QCOMPARE(textsOf(file, u"unique-id"_s),
+                     QStringList({u"mine"_s, u"folioforge-each"_s, u"folioforge-one"_s}));
+        }
+    }
+
+    void nautilusOffersNothingForOtherFiles() {
+        QCOMPARE(nautilus(u"none"_s, {u"/a.txt"_s, u"/b.png"_s}).out.trimmed(), "2");
+        QCOMPARE(nautilus(u"none"_s, {u"/a.txt"_s, u"/b.zip"_s}).out.trimmed(), "0");
+    }
+};
+
+FOLIOFORGE_TEST(ActionsTest)
+#include "ActionsTest.moc"
