@@ -37,6 +37,7 @@ class PackagingTest : public QObject {
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("pattern");
         QTest::newRow("Debian") << u"debian/changelog"_s << u"\\Afolioforge \\((.*)\\) "_s;
+        QTest::newRow("RPM") << u"packaging/folioforge.spec"_s << u"^Version: +(.*)$"_s;
         QTest::newRow("changes") << u"CHANGELOG.md"_s << u"^## (\\d\\S*)"_s;
     }
 
@@ -74,6 +75,26 @@ class PackagingTest : public QObject {
                      QSize(image.captured(1).toInt(), image.captured(2).toInt()));
         }
         QCOMPARE(pictures, 3);
+    }
+
+    void theBillOfMaterialsNamesWhatTheProgramStandsOn() {
+        QStringList named;
+        for (const QString &line :
+             foundIn(u"scripts/release"_s, u"<<'LIBRARIES'\n((?:.*\n)+?)LIBRARIES$"_s)
+                 .split(u'\n')) {
+            named += line.section(u' ', 0, 0);
+        }
+        named.removeAll(QString());
+        const QString told = QString::fromUtf8(runTool(commandLineProgram(), {u"--version"_s}).out)
+                                 .section(u"with "_s, 1);
+        QStringList standsOn;
+        for (const QString &library : told.trimmed().split(u", "_s)) {
+            standsOn += library.section(u' ', 0, 0);
+        }
+        named.sort();
+        standsOn.sort();
+        QVERIFY(named.size() > 10);
+        QCOMPARE(named, standsOn);
     }
 
     void debianNeedsNothingThatInstallDepsLacks() {
