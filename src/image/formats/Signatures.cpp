@@ -2,6 +2,8 @@
 
 #include "image/formats/Signatures.h"
 
+#include "image/Bytes.h"
+
 #include <algorithm>
 #include <array>
 
