@@ -74,6 +74,21 @@ class PicturesOfPhonesTest : public QObject, CommandLineCase {
   private Q_SLOTS:
     void init() { setUp(); }
 
+#ifdef __linux__
+    void whereLibheifCannotBeLoadedTheOthersAreConverted() {
+        text("libheif.so.1", "no library");
+        text("a.txt");
+        const QString heif = inSource(u"tests/data/image/wide.avif"_s);
+        const ToolRun run = shell("LD_LIBRARY_PATH=. folioforge-cli --merge out.pdf a.txt '" +
+                                  heif.toUtf8() + '\'');
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.contains("wide.avif: HEIC and AVIF files are read by libheif 1, which "
+                                  "cannot be loaded\n"),
+                 run.err.constData());
+        QCOMPARE(PdfProbe(path("out.pdf")).pageCount(), 1);
+    }
+#endif
+
     void pixelsAreThoseOfTheFormatsOwnProgram_data() {
         QTest::addColumn<QString>("file");
         QTest::addColumn<bool>("hasAlpha");

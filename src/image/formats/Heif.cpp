@@ -13,6 +13,8 @@
 
 #include <libheif/heif.h>
 
+#include <QLibrary>
+
 #include <algorithm>
 #include <memory>
 #include <new>
@@ -27,11 +29,29 @@ namespace folioforge {
 
 namespace {
 
-template<auto kRelease> struct Release {
-    template<typename T> void operator()(T *held) const { kRelease(held); }
+/// A function of libheif. The library is loaded when a file first needs it: with its codecs it
+/// takes longer to start than most runs take. Throws Error where it is not there.
+template<typename Function> Function *lateFunction(const char *name) {
+    constexpr int kInterface = 1;
+    const QFunctionPointer found =
+        QLibrary::resolve(u"" FOLIOFORGE_HEIF_LIBRARY ""_s, kInterface, name);
+    if (found == nullptr) {
+        throw Error(u"HEIC and AVIF files are read by libheif 1, which cannot be loaded"_s);
+    }
+    return reinterpret_cast<Function *>(found);
+}
+#define LATE(function) lateFunction<decltype(function)>(#function)
+
+struct Release {
+    void operator()(heif_context *held) const { LATE(heif_context_free)(held); }
+    void operator()(heif_image_handle *held) const { LATE(heif_image_handle_release)(held); }
+    void operator()(heif_image *held) const { LATE(heif_image_release)(held); }
+    void operator()(heif_color_profile_nclx *held) const {
+        LATE(heif_nclx_color_profile_free)(held);
+    }
 };
-using Handle = std::unique_ptr<heif_image_handle, Release<heif_image_handle_release>>;
-using Decoded = std::unique_ptr<heif_image, Release<heif_image_release>>;
+using Handle = std::unique_ptr<heif_image_handle, Release>;
+using Decoded = std::unique_ptr<heif_image, Release>;
 
 constexpr size_t kMostMetadata = 1 << 25;
 
@@ -60,8 +80,8 @@ class HeifFile {
   public:
     explicit HeifFile(const FileView &file)
         : m_source{file}
-        , m_context(heif_context_alloc()) {
-        static const heif_error started = heif_init(nullptr); // Finds the decoders.
+        , m_context(LATE(heif_context_alloc)()) {
+        static const heif_error started = LATE(heif_init)(nullptr); // Finds the decoders.
         require(started);
         if (!m_context) {
             throw std::bad_alloc();
@@ -76,8 +96,8 @@ class HeifFile {
             return made;
         }();
         // Its threads would fail where the system grants none.
-        heif_context_set_max_decoding_threads(m_context.get(), 0);
-        require(heif_context_read_from_reader(m_context.get(), &reader, &m_source, nullptr));
+        LATE(heif_context_set_max_decoding_threads)(m_context.get(), 0);
+        require(LATE(heif_context_read_from_reader)(m_context.get(), &reader, &m_source, nullptr));
     }
     HeifFile(const HeifFile &) = delete;
     HeifFile &operator=(const HeifFile &) = delete;
@@ -85,11 +105,11 @@ class HeifFile {
     /// The pictures that a viewer shows, beginning with the primary one.
     [[nodiscard]] std::vector<heif_item_id> pictures() const {
         heif_item_id primary = 0;
-        require(heif_context_get_primary_image_ID(m_context.get(), &primary));
+        require(LATE(heif_context_get_primary_image_ID)(m_context.get(), &primary));
         std::vector<heif_item_id> all(static_cast<size_t>(
-            std::max(0, heif_context_get_number_of_top_level_images(m_context.get()))));
-        heif_context_get_list_of_top_level_image_IDs(m_context.get(), all.data(),
-                                                     static_cast<int>(all.size()));
+            std::max(0, LATE(heif_context_get_number_of_top_level_images)(m_context.get()))));
+        LATE(heif_context_get_list_of_top_level_image_IDs)
+        (m_context.get(), all.data(), static_cast<int>(all.size()));
         std::erase(all, primary);
         all.insert(all.begin(), primary);
         return all;
@@ -97,7 +117,7 @@ class HeifFile {
 
     [[nodiscard]] Handle picture(heif_item_id id) const {
         heif_image_handle *handle = nullptr;
-        require(heif_context_get_image_handle(m_context.get(), id, &handle));
+        require(LATE(heif_context_get_image_handle)(m_context.get(), id, &handle));
         return Handle(handle);
     }
 
@@ -129,29 +149,29 @@ class HeifFile {
     }
 
     Source m_source; ///< libheif holds its address.
-    std::unique_ptr<heif_context, Release<heif_context_free>> m_context;
+    std::unique_ptr<heif_context, Release> m_context;
 };
 
 /// What the picture's EXIF item says; nothing where there is none.
 ExifMetadata exifOf(const heif_image_handle *handle) {
     heif_item_id id = 0;
-    if (heif_image_handle_get_list_of_metadata_block_IDs(handle, "Exif", &id, 1) != 1) {
+    if (LATE(heif_image_handle_get_list_of_metadata_block_IDs)(handle, "Exif", &id, 1) != 1) {
         return {};
     }
-    const size_t size = heif_image_handle_get_metadata_size(handle, id);
+    const size_t size = LATE(heif_image_handle_get_metadata_size)(handle, id);
     if (size > kMostMetadata) {
         return {};
     }
     QByteArray item(static_cast<qsizetype>(size), '\0');
-    require(heif_image_handle_get_metadata(handle, id, item.data()));
+    require(LATE(heif_image_handle_get_metadata)(handle, id, item.data()));
     return readExifItem(item);
 }
 
 /// libheif turns and mirrors the pixels as the file says; what EXIF says of that is the same.
 ImageHeader headerOf(const heif_image_handle *handle) {
     ImageHeader header;
-    header.width = heif_image_handle_get_width(handle);
-    header.height = heif_image_handle_get_height(handle);
+    header.width = LATE(heif_image_handle_get_width)(handle);
+    header.height = LATE(heif_image_handle_get_height)(handle);
     const ExifMetadata exif = exifOf(handle);
     header.horizontalDpi = exif.horizontalDpi;
     header.verticalDpi = exif.verticalDpi;
@@ -169,18 +189,17 @@ CicpColor colorOf(const heif_color_profile_nclx &nclx) {
 
 /// Adds what the file says of the meaning of its colours.
 void readColor(const heif_image_handle *handle, Raster &raster, Warnings &warnings) {
-    const size_t size = heif_image_handle_get_raw_color_profile_size(handle);
+    const size_t size = LATE(heif_image_handle_get_raw_color_profile_size)(handle);
     if (size > 0 && size <= kMostMetadata) {
         raster.iccProfile = QByteArray(static_cast<qsizetype>(size), '\0');
-        require(heif_image_handle_get_raw_color_profile(handle, raster.iccProfile.data()));
+        require(LATE(heif_image_handle_get_raw_color_profile)(handle, raster.iccProfile.data()));
         return;
     }
     heif_color_profile_nclx *given = nullptr;
-    if (heif_image_handle_get_nclx_color_profile(handle, &given).code != heif_error_Ok) {
+    if (LATE(heif_image_handle_get_nclx_color_profile)(handle, &given).code != heif_error_Ok) {
         return;
     }
-    const std::unique_ptr<heif_color_profile_nclx, Release<heif_nclx_color_profile_free>> nclx(
-        given);
+    const std::unique_ptr<heif_color_profile_nclx, Release> nclx(given);
     raster.iccProfile = profileOf(colorOf(*nclx));
     warnOfHighRange(nclx->transfer_characteristics, warnings);
 }
@@ -194,8 +213,8 @@ heif_chroma chromaOf(bool isDeep, bool hasAlpha) {
 
 Raster rasterOf(Decoded decoded, bool isDeep, bool hasAlpha) {
     Raster raster;
-    raster.width = heif_image_get_width(decoded.get(), heif_channel_interleaved);
-    raster.height = heif_image_get_height(decoded.get(), heif_channel_interleaved);
+    raster.width = LATE(heif_image_get_width)(decoded.get(), heif_channel_interleaved);
+    raster.height = LATE(heif_image_get_height)(decoded.get(), heif_channel_interleaved);
     ImageHeader size;
     size.width = raster.width;
     size.height = raster.height;
@@ -203,8 +222,9 @@ Raster rasterOf(Decoded decoded, bool isDeep, bool hasAlpha) {
     raster.bits = isDeep ? 16 : 8;
     int stride = 0;
     const uint8_t *const plane =
-        heif_image_get_plane_readonly(decoded.get(), heif_channel_interleaved, &stride);
-    const int bits = heif_image_get_bits_per_pixel_range(decoded.get(), heif_channel_interleaved);
+        LATE(heif_image_get_plane_readonly)(decoded.get(), heif_channel_interleaved, &stride);
+    const int bits =
+        LATE(heif_image_get_bits_per_pixel_range)(decoded.get(), heif_channel_interleaved);
     if (plane == nullptr || bits < 8 || bits > 16 || (bits > 8) != isDeep) {
         throw Error(u"The HEIC or AVIF file is damaged"_s);
     }
@@ -215,19 +235,19 @@ Raster rasterOf(Decoded decoded, bool isDeep, bool hasAlpha) {
 PdfImage pictureOf(const FileView &file, const heif_image_handle *handle) {
     ImageHeader header = headerOf(handle);
     requirePlausibleArea(header, file.size());
-    const bool isDeep = heif_image_handle_get_luma_bits_per_pixel(handle) > 8;
-    const bool hasAlpha = heif_image_handle_has_alpha_channel(handle) != 0;
+    const bool isDeep = LATE(heif_image_handle_get_luma_bits_per_pixel)(handle) > 8;
+    const bool hasAlpha = LATE(heif_image_handle_has_alpha_channel)(handle) != 0;
     requireThread();
     heif_image *image = nullptr;
-    require(heif_decode_image(handle, &image, heif_colorspace_RGB, chromaOf(isDeep, hasAlpha),
-                              nullptr));
+    require(LATE(heif_decode_image)(handle, &image, heif_colorspace_RGB, chromaOf(isDeep, hasAlpha),
+                                    nullptr));
     Decoded decoded(image);
     Warnings warnings;
-    if (heif_image_get_decoding_warnings(image, 0, nullptr, 0) > 0) {
+    if (LATE(heif_image_get_decoding_warnings)(image, 0, nullptr, 0) > 0) {
         warnings.push_back(faultyPicture());
     }
     Raster raster = rasterOf(std::move(decoded), isDeep, hasAlpha);
-    if (heif_image_handle_is_premultiplied_alpha(handle) != 0) {
+    if (LATE(heif_image_handle_is_premultiplied_alpha)(handle) != 0) {
         unpremultiply(raster);
     }
     readColor(handle, raster, warnings);
