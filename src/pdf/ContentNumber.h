@@ -6,8 +6,11 @@
 
 namespace folioforge {
 
-/// Appends `value` and a space to a content stream: in fixed notation with at most five decimals,
-/// without trailing zeros, with a point in every locale (ISO 32000-1, 7.3.3).
+/// `value` in fixed notation with at most so many decimals, without trailing zeros, with a point in
+/// every locale (ISO 32000-1, 7.3.3).
+std::string numberText(double value, int decimals = 5);
+
+/// Appends `value` and a space to a content stream.
 void appendNumber(std::string &content, double value);
 
 } // namespace folioforge

@@ -18,10 +18,7 @@ namespace {
 QPDFObjectHandle boxArray(const QRectF &box) {
     auto array = QPDFObjectHandle::newArray();
     for (const double value : {box.left(), box.top(), box.right(), box.bottom()}) {
-        std::string number;
-        appendNumber(number, value);
-        number.pop_back();
-        array.appendItem(QPDFObjectHandle::newReal(number));
+        array.appendItem(QPDFObjectHandle::newReal(numberText(value)));
     }
     return array;
 }

@@ -2,6 +2,7 @@
 
 #include "pdf/fonts/FontObjects.h"
 
+#include "pdf/ContentNumber.h"
 #include "pdf/StreamData.h"
 #include "pdf/fonts/CharacterMap.h"
 #include "pdf/fonts/CodeTable.h"
@@ -35,7 +36,7 @@ std::string subsetTag(const QByteArray &program) {
 Object thousandths(int fontUnits, const FontFace &face) {
     constexpr double kUnits = 1000;
     constexpr int kDecimals = 4;
-    return Object::newReal(fontUnits * kUnits / face.unitsPerEm(), kDecimals);
+    return Object::newReal(numberText(fontUnits * kUnits / face.unitsPerEm(), kDecimals));
 }
 
 /// The most common width of `widths` (by CID) that is a whole number of thousandths: readers take
