@@ -83,6 +83,10 @@ void useUtf8FileNames() {
     }
 }
 
+void keepMessagesEnglish() {
+    std::setlocale(LC_MESSAGES, "C");
+}
+
 void prepareForSignals() {
     for (const int signalNumber : {SIGINT, SIGTERM, SIGHUP}) {
         // A signal that the caller ignores, as nohup does, stays ignored.

@@ -52,6 +52,7 @@ int run(int argc, char *argv[]) {
         break;
     }
     const QCoreApplication application(argc, argv);
+    keepMessagesEnglish();
     prepareForSignals();
     return runConversion(arguments);
 }

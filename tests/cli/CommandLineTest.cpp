@@ -341,6 +341,23 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QCOMPARE(outputs(), QStringList{u"größe.pdf"_s});
     }
 
+    void itSpeaksEnglishOnAGermanSystem() {
+        const ToolRun made = runTool(
+            u"localedef"_s, {u"-i"_s, u"de_DE"_s, u"-f"_s, u"UTF-8"_s, path("de_DE.UTF-8")});
+        QVERIFY2(made.exitCode == 0 || made.exitCode == 1, made.err.constData()); // 1: warnings
+        const QStringList arguments{u"--output-folder"_s, path("out"), u"--overwrite=always"_s,
+                                    text("a.txt", "caf\xE9"), path("missing.txt")};
+        const QStringList german{u"LANG=de_DE.UTF-8"_s, u"LC_ALL=de_DE.UTF-8"_s, u"LANGUAGE=de"_s,
+                                 u"LOCPATH="_s + m_folder->path()};
+        for (const QStringList &report : {QStringList(), QStringList{u"--json"_s}}) {
+            const ToolRun run =
+                runTool(u"env"_s, german + QStringList{kProgram} + report + arguments);
+            const QByteArray said = run.err + run.out;
+            QVERIFY2(said.contains("The text is not valid UTF-8; its page is left blank"), said);
+            QVERIFY2(said.contains("No such file or directory"), said);
+        }
+    }
+
     void aReaderThatGoesAwayStopsNothing() {
         const QString script =
             u"\"$0\" --json --output-folder \"$1\" \"$2\" \"$2\" \"$2\" | true"_s;
