@@ -43,6 +43,13 @@ std::vector<AtNode> childrenOf(const QDBusConnection &bus, const AtNode &node) {
     return children;
 }
 
+QString wordsOf(const QDBusConnection &bus, const AtNode &node, const QString &property) {
+    const QDBusReply<QDBusVariant> words =
+        ask(bus, node, u"org.freedesktop.DBus.Properties"_s, u"Get"_s,
+            {u"org.a11y.atspi.Accessible"_s, property});
+    return words.value().variant().toString();
+}
+
 quint64 statesOf(const QDBusConnection &bus, const AtNode &node) {
     const QDBusReply<QList<unsigned>> reply = askAtSpi(bus, node, u"Accessible"_s, u"GetState"_s);
     const QList<unsigned> words = reply.value();
@@ -86,10 +93,8 @@ void collect(const QDBusConnection &bus, const AtNode &node, bool inMenu,
 
 AtNode lookAgain(const QDBusConnection &bus, const AtNode &node) {
     AtNode now = node;
-    const QDBusReply<QDBusVariant> name =
-        ask(bus, node, u"org.freedesktop.DBus.Properties"_s, u"Get"_s,
-            {u"org.a11y.atspi.Accessible"_s, u"Name"_s});
-    now.name = name.value().variant().toString();
+    now.name = wordsOf(bus, node, u"Name"_s);
+    now.description = wordsOf(bus, node, u"Description"_s);
     now.role = QDBusReply<QString>(askAtSpi(bus, node, u"Accessible"_s, u"GetRoleName"_s)).value();
     now.states = statesOf(bus, node);
     now.actions = actionsOf(bus, node);

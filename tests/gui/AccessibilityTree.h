@@ -19,6 +19,7 @@ struct AtNode {
     QString service;
     QDBusObjectPath path;
     QString name;
+    QString description;
     QString role; ///< In words, such as "push button".
     quint64 states = 0;
     QStringList actions;
