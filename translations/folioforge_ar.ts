@@ -120,6 +120,10 @@ PDFium, BSD licence</translation>
             <numerusform>%n صفحة</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
 </context>
 <context>
     <name>FileDialog</name>
@@ -796,6 +800,1106 @@ None: pictures stay as they are
     <message>
         <source>The password is longer than %1 bytes</source>
         <translation>كلمة المرور أطول من %1 بايت</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>The conversion was stopped</source>
+        <translation>أُوقف التحويل</translation>
+    </message>
+    <message>
+        <source>Its name was taken by another file</source>
+        <translation>أخذ ملف آخر اسمه</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>تتعذّر قراءة %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a binary property list; only XML can be read</source>
+        <translation>‏%1 قائمة خصائص ثنائية؛ لا يمكن قراءة غير XML</translation>
+    </message>
+    <message>
+        <source>%1 is no valid property list</source>
+        <translation>‏%1 ليست قائمة خصائص صالحة</translation>
+    </message>
+    <message>
+        <source>The filter file %1 lacks a valid value for &quot;%2&quot;</source>
+        <translation>يفتقر ملف المرشّح %1 إلى قيمة صالحة لـ«%2»</translation>
+    </message>
+    <message>
+        <source>Not all of the PDF is tagged, as these are not: %1</source>
+        <translation>ليس كل ملف PDF موسومًا، فهذه الملفات بلا وسوم: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 و%n غيرها</numerusform>
+            <numerusform>%1 وواحد غيرها</numerusform>
+            <numerusform>%1 واثنان غيرها</numerusform>
+            <numerusform>%1 و%n غيرها</numerusform>
+            <numerusform>%1 و%n غيرها</numerusform>
+            <numerusform>%1 و%n غيرها</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no page to write</source>
+        <translation>لا توجد صفحة لكتابتها</translation>
+    </message>
+    <message>
+        <source>Its PDF is there and not older</source>
+        <translation>ملف PDF الخاص به موجود وليس أقدم</translation>
+    </message>
+    <message>
+        <source>Its PDF would take the place of an input, %1</source>
+        <translation>سيحلّ ملف PDF الخاص به محل ملف إدخال، %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory</source>
+        <translation>الذاكرة غير كافية</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>، </translation>
+    </message>
+    <message>
+        <source>It is not a recognised type</source>
+        <translation>نوع الملف غير معروف</translation>
+    </message>
+    <message>
+        <source>1 PDF</source>
+        <translation>ملف PDF واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDFs</source>
+        <translation>
+            <numerusform>%n ملف PDF</numerusform>
+            <numerusform>ملف PDF واحد</numerusform>
+            <numerusform>ملفا PDF</numerusform>
+            <numerusform>%n ملفات PDF</numerusform>
+            <numerusform>%n ملف PDF</numerusform>
+            <numerusform>%n ملف PDF</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 folder</source>
+        <translation>مجلد واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n مجلد</numerusform>
+            <numerusform>مجلد واحد</numerusform>
+            <numerusform>مجلدان</numerusform>
+            <numerusform>%n مجلدات</numerusform>
+            <numerusform>%n مجلدًا</numerusform>
+            <numerusform>%n مجلد</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file of another type</source>
+        <translation>ملف واحد من نوع آخر</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files of other types</source>
+        <translation>
+            <numerusform>%n ملف من أنواع أخرى</numerusform>
+            <numerusform>ملف واحد من نوع آخر</numerusform>
+            <numerusform>ملفان من أنواع أخرى</numerusform>
+            <numerusform>%n ملفات من أنواع أخرى</numerusform>
+            <numerusform>%n ملفًا من أنواع أخرى</numerusform>
+            <numerusform>%n ملف من أنواع أخرى</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>لم يُؤخذ: %1</translation>
+    </message>
+    <message>
+        <source>The folder cannot be listed: %1</source>
+        <translation>يتعذّر سرد محتويات المجلد: %1</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>المستند مشفّر</translation>
+    </message>
+    <message>
+        <source>The text is larger than 2 GB</source>
+        <translation>حجم النص أكبر من 2 غ.ب</translation>
+    </message>
+    <message>
+        <source>The text is read as %1, a guess</source>
+        <translation>يُقرأ النص بترميز %1 تخمينًا</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8; its page is left blank</source>
+        <translation>النص ليس بترميز UTF-8 صالح؛ ستبقى صفحته فارغة</translation>
+    </message>
+    <message>
+        <source>Cannot open the file</source>
+        <translation>يتعذّر فتح الملف</translation>
+    </message>
+    <message>
+        <source>Cannot create a file in %1</source>
+        <translation>يتعذّر إنشاء ملف في %1</translation>
+    </message>
+    <message>
+        <source>Cannot write a file in %1</source>
+        <translation>تتعذّر كتابة ملف في %1</translation>
+    </message>
+    <message>
+        <source>Cannot read back a file in %1</source>
+        <translation>تتعذّر إعادة قراءة ملف في %1</translation>
+    </message>
+    <message>
+        <source>Cannot flush a file in %1</source>
+        <translation>يتعذّر تثبيت ملف على القرص في %1</translation>
+    </message>
+    <message>
+        <source>Cannot name a file in %1</source>
+        <translation>تتعذّر تسمية ملف في %1</translation>
+    </message>
+    <message>
+        <source>The file system cannot flush files to the disk</source>
+        <translation>لا يستطيع نظام الملفات تثبيت الملفات على القرص</translation>
+    </message>
+    <message>
+        <source>Cannot read the file</source>
+        <translation>تتعذّر قراءة الملف</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>ليس ملفًا عاديًا</translation>
+    </message>
+    <message>
+        <source>The file ends too early</source>
+        <translation>ينتهي الملف قبل أوانه</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed while it was being converted</source>
+        <translation>تغيّر الملف %1 في أثناء تحويله</translation>
+    </message>
+    <message>
+        <source>The file %1 ended too early</source>
+        <translation>انتهى الملف %1 قبل أوانه</translation>
+    </message>
+    <message>
+        <source>Cannot create a temporary file</source>
+        <translation>يتعذّر إنشاء ملف مؤقت</translation>
+    </message>
+    <message>
+        <source>Cannot write a temporary file</source>
+        <translation>تتعذّر كتابة ملف مؤقت</translation>
+    </message>
+    <message>
+        <source>Cannot read a temporary file</source>
+        <translation>تتعذّر قراءة ملف مؤقت</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The picture is made for HDR screens, and a PDF shows its brightness otherwise</source>
+        <translation>أُعدّت الصورة لشاشات HDR، ويعرض ملف PDF سطوعها على نحو مختلف</translation>
+    </message>
+    <message>
+        <source>The compressed data is damaged</source>
+        <translation>البيانات المضغوطة تالفة</translation>
+    </message>
+    <message>
+        <source>The file is no bitmap</source>
+        <translation>الملف ليس صورة نقطية</translation>
+    </message>
+    <message>
+        <source>The bitmap is of an unknown kind</source>
+        <translation>الصورة النقطية من نوع غير معروف</translation>
+    </message>
+    <message>
+        <source>The bitmap has more colours than its pixels can name</source>
+        <translation>ألوان الصورة النقطية أكثر مما تستطيع وحداتها تسميته</translation>
+    </message>
+    <message>
+        <source>Pixels that the file leaves out have its first colour</source>
+        <translation>وحدات البكسل التي لا يذكرها الملف تأخذ لونه الأول</translation>
+    </message>
+    <message>
+        <source>The EXR file cannot be read: %1</source>
+        <translation>تتعذّر قراءة ملف EXR: %1</translation>
+    </message>
+    <message>
+        <source>The EXR file has no channels of colour or brightness</source>
+        <translation>ليس في ملف EXR قنوات للون أو السطوع</translation>
+    </message>
+    <message>
+        <source>The EXR file is damaged: none of its rows can be read</source>
+        <translation>ملف EXR تالف: تتعذّر قراءة أي من صفوفه</translation>
+    </message>
+    <message>
+        <source>The GIF file is damaged</source>
+        <translation>ملف GIF تالف</translation>
+    </message>
+    <message>
+        <source>The file holds no image</source>
+        <translation>لا توجد صورة في الملف</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file cannot be read: %1</source>
+        <translation>تتعذّر قراءة ملف HEIC أو AVIF: %1</translation>
+    </message>
+    <message>
+        <source>The system grants no thread, which HEIC and AVIF files take</source>
+        <translation>لا يمنح النظام الخيط الذي تحتاج إليه ملفات HEIC وAVIF</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file is damaged</source>
+        <translation>ملف HEIC أو AVIF تالف</translation>
+    </message>
+    <message>
+        <source>Its moving pictures are left out</source>
+        <translation>تُركت صوره المتحركة</translation>
+    </message>
+    <message>
+        <source>The icon file is cut off or damaged: there may be a larger picture in the part that is missing</source>
+        <translation>ملف الأيقونة مبتور أو تالف: قد تكون في الجزء المفقود صورة أكبر</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s pixels are of an unknown kind</source>
+        <translation>وحدات بكسل الأيقونة من نوع غير معروف</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s picture is of an unknown kind</source>
+        <translation>صورة الأيقونة من نوع غير معروف</translation>
+    </message>
+    <message>
+        <source>The icon file holds no picture that can be read</source>
+        <translation>لا توجد في ملف الأيقونة صورة يمكن قراءتها</translation>
+    </message>
+    <message>
+        <source>%1 of the icon&apos;s %2 pictures cannot be read</source>
+        <translation>تتعذّر قراءة %1 من صور الأيقونة البالغ عددها %2</translation>
+    </message>
+    <message>
+        <source>The JPEG file ends before its picture begins</source>
+        <translation>ينتهي ملف JPEG قبل أن تبدأ صورته</translation>
+    </message>
+    <message>
+        <source>The JPEG file has %1 colour components, which is no colour that a PDF can show</source>
+        <translation>في ملف JPEG عدد %1 من مكونات اللون، وهو لون لا يستطيع ملف PDF عرضه</translation>
+    </message>
+    <message>
+        <source>The JPEG file is of a kind that no PDF can hold (lossless, hierarchical or more than 8 bits)</source>
+        <translation>ملف JPEG من نوع لا يتسع له أي ملف PDF (بلا فقد أو هرمي أو أكثر من 8 بت)</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is damaged</source>
+        <translation>ملف JPEG 2000 تالف</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file holds no picture</source>
+        <translation>لا توجد صورة في ملف JPEG 2000</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its tiles could not be read</source>
+        <translation>الصورة مبتورة: تعذّرت قراءة %1 % من مربعاتها</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its data could not be read</source>
+        <translation>الصورة مبتورة: تعذّرت قراءة %1 % من بياناتها</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is cut off</source>
+        <translation>ملف JPEG 2000 مبتور</translation>
+    </message>
+    <message>
+        <source>The JPEG file is damaged: none of its rows could be read</source>
+        <translation>ملف JPEG تالف: تعذّرت قراءة أي من صفوفه</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file is damaged</source>
+        <translation>ملف JPEG XL تالف</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file has %1 channels beside its colours, which are too many</source>
+        <translation>في ملف JPEG XL عدد %1 من القنوات إلى جانب ألوانه، وهو عدد أكبر من اللازم</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file stores inks, which cannot be read</source>
+        <translation>يخزّن ملف JPEG XL أحبارًا تتعذّر قراءتها</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read %1 files</source>
+        <translation>بُني هذا البرنامج دون ما يلزم لقراءة ملفات %1</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to decode JPEG 2000</source>
+        <translation>بُني هذا البرنامج دون ما يلزم لفك ترميز JPEG 2000</translation>
+    </message>
+    <message>
+        <source>The PNG file is damaged</source>
+        <translation>ملف PNG تالف</translation>
+    </message>
+    <message>
+        <source>The PNG file holds no picture</source>
+        <translation>لا توجد صورة في ملف PNG</translation>
+    </message>
+    <message>
+        <source>The PNG file has no palette</source>
+        <translation>ليس لملف PNG لوحة ألوان</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s compression is unknown</source>
+        <translation>طريقة ضغط ملف Photoshop غير معروفة</translation>
+    </message>
+    <message>
+        <source>The Photoshop file holds its layers alone: save it with maximized compatibility, which adds the picture they make</source>
+        <translation>لا يحتوي ملف Photoshop إلا على طبقاته: احفظه بأقصى توافق، فذلك يضيف الصورة التي تكوّنها</translation>
+    </message>
+    <message>
+        <source>The Photoshop file has no palette</source>
+        <translation>ليس لملف Photoshop لوحة ألوان</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s colour mode is unknown</source>
+        <translation>نمط ألوان ملف Photoshop غير معروف</translation>
+    </message>
+    <message>
+        <source>The Photoshop file is damaged</source>
+        <translation>ملف Photoshop تالف</translation>
+    </message>
+    <message>
+        <source>The file is no TGA image that can be read</source>
+        <translation>الملف ليس صورة TGA يمكن قراءتها</translation>
+    </message>
+    <message>
+        <source>The file names a further page that cannot be read</source>
+        <translation>يذكر الملف صفحة أخرى تتعذّر قراءتها</translation>
+    </message>
+    <message>
+        <source>its form is not supported</source>
+        <translation>صيغته غير مدعومة</translation>
+    </message>
+    <message>
+        <source>it has no pixels</source>
+        <translation>ليس فيه وحدات بكسل</translation>
+    </message>
+    <message>
+        <source>it is larger than any picture</source>
+        <translation>هو أكبر من أي صورة</translation>
+    </message>
+    <message>
+        <source>its directory is damaged</source>
+        <translation>فهرسه تالف</translation>
+    </message>
+    <message>
+        <source>it is cut off</source>
+        <translation>هو مبتور</translation>
+    </message>
+    <message>
+        <source>The TIFF file is damaged</source>
+        <translation>ملف TIFF تالف</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: %1</source>
+        <translation>تتعذّر قراءة ملف TIFF: %1</translation>
+    </message>
+    <message>
+        <source>The TIFF file has no palette</source>
+        <translation>ليس لملف TIFF لوحة ألوان</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: its compression is not supported</source>
+        <translation>تتعذّر قراءة ملف TIFF: طريقة ضغطه غير مدعومة</translation>
+    </message>
+    <message>
+        <source>The WebP file is damaged</source>
+        <translation>ملف WebP تالف</translation>
+    </message>
+    <message>
+        <source>The WebP file is too large</source>
+        <translation>ملف WebP كبير جدًا</translation>
+    </message>
+    <message>
+        <source>The animation is too large (%1 x %2 pixels)</source>
+        <translation>الصورة المتحركة كبيرة جدًا (%1 x %2 بكسل)</translation>
+    </message>
+    <message>
+        <source>The file is empty</source>
+        <translation>الملف فارغ</translation>
+    </message>
+    <message>
+        <source>The file is no image of a known format</source>
+        <translation>الملف ليس صورة بتنسيق معروف</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the image</source>
+        <translation>الذاكرة غير كافية للصورة</translation>
+    </message>
+    <message>
+        <source>The image has no pixels</source>
+        <translation>ليس في الصورة وحدات بكسل</translation>
+    </message>
+    <message>
+        <source>The image is too large (%1 x %2 pixels)</source>
+        <translation>الصورة كبيرة جدًا (%1 x %2 بكسل)</translation>
+    </message>
+    <message>
+        <source>1 further page is left out</source>
+        <translation>تُركت صفحة أخرى واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages are left out</source>
+        <translation>
+            <numerusform>تُركت %n صفحة أخرى</numerusform>
+            <numerusform>تُركت صفحة أخرى واحدة</numerusform>
+            <numerusform>تُركت صفحتان أخريان</numerusform>
+            <numerusform>تُركت %n صفحات أخرى</numerusform>
+            <numerusform>تُركت %n صفحة أخرى</numerusform>
+            <numerusform>تُركت %n صفحة أخرى</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further frame is left out</source>
+        <translation>تُرك إطار آخر واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further frames are left out</source>
+        <translation>
+            <numerusform>تُرك %n إطار آخر</numerusform>
+            <numerusform>تُرك إطار آخر واحد</numerusform>
+            <numerusform>تُرك إطاران آخران</numerusform>
+            <numerusform>تُركت %n إطارات أخرى</numerusform>
+            <numerusform>تُرك %n إطارًا آخر</numerusform>
+            <numerusform>تُرك %n إطار آخر</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further part is left out</source>
+        <translation>تُرك جزء آخر واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further parts are left out</source>
+        <translation>
+            <numerusform>تُرك %n جزء آخر</numerusform>
+            <numerusform>تُرك جزء آخر واحد</numerusform>
+            <numerusform>تُرك جزآن آخران</numerusform>
+            <numerusform>تُركت %n أجزاء أخرى</numerusform>
+            <numerusform>تُرك %n جزءًا آخر</numerusform>
+            <numerusform>تُرك %n جزء آخر</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further picture is left out</source>
+        <translation>تُركت صورة أخرى واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pictures are left out</source>
+        <translation>
+            <numerusform>تُركت %n صورة أخرى</numerusform>
+            <numerusform>تُركت صورة أخرى واحدة</numerusform>
+            <numerusform>تُركت صورتان أخريان</numerusform>
+            <numerusform>تُركت %n صور أخرى</numerusform>
+            <numerusform>تُركت %n صورة أخرى</numerusform>
+            <numerusform>تُركت %n صورة أخرى</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is left out: %1</source>
+        <translation>تُركت: %1</translation>
+    </message>
+    <message>
+        <source>It and those behind it are left out, since they are too large together</source>
+        <translation>تُركت هذه وما بعدها لأنها معًا كبيرة جدًا</translation>
+    </message>
+    <message>
+        <source>Page %1: %2</source>
+        <translation>الصفحة %1: %2</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its rows could not be read</source>
+        <translation>الصورة مبتورة: تعذّرت قراءة %1 % من صفوفها</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its finer details could not be read</source>
+        <translation>الصورة مبتورة: تعذّرت قراءة تفاصيلها الدقيقة</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: parts of it could not be read</source>
+        <translation>الصورة مبتورة: تعذّرت قراءة أجزاء منها</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its transparency could not be read</source>
+        <translation>الصورة مبتورة: تعذّرت قراءة شفافيتها</translation>
+    </message>
+    <message>
+        <source>The picture is damaged: parts of it may look wrong</source>
+        <translation>الصورة تالفة: قد تبدو أجزاء منها غير صحيحة</translation>
+    </message>
+    <message>
+        <source>The file is too short for the image its header describes</source>
+        <translation>الملف أقصر من الصورة التي تصفها ترويسته</translation>
+    </message>
+    <message>
+        <source>The image&apos;s rows are damaged</source>
+        <translation>صفوف الصورة تالفة</translation>
+    </message>
+    <message>
+        <source>The image has fewer rows than its header says</source>
+        <translation>صفوف الصورة أقل مما تذكره ترويستها</translation>
+    </message>
+    <message>
+        <source>SOURCE_DATE_EPOCH is &quot;%1&quot;, not the seconds from 1970 to a date before the year 10000</source>
+        <translation>قيمة SOURCE_DATE_EPOCH هي «%1»، وليست الثواني من 1970 إلى تاريخ يسبق عام 10000</translation>
+    </message>
+    <message>
+        <source>1 structure tag</source>
+        <translation>وسم بنية واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags</source>
+        <translation>
+            <numerusform>%n وسم بنية</numerusform>
+            <numerusform>وسم بنية واحد</numerusform>
+            <numerusform>وسما بنية</numerusform>
+            <numerusform>%n وسوم بنية</numerusform>
+            <numerusform>%n وسم بنية</numerusform>
+            <numerusform>%n وسم بنية</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 attachment</source>
+        <translation>مرفق واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments</source>
+        <translation>
+            <numerusform>%n مرفق</numerusform>
+            <numerusform>مرفق واحد</numerusform>
+            <numerusform>مرفقان</numerusform>
+            <numerusform>%n مرفقات</numerusform>
+            <numerusform>%n مرفقًا</numerusform>
+            <numerusform>%n مرفق</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a portfolio</source>
+        <translation>حافظة ملفات</translation>
+    </message>
+    <message>
+        <source>an XFA form</source>
+        <translation>نموذج XFA</translation>
+    </message>
+    <message>
+        <source>document scripts</source>
+        <translation>برامج نصية للمستند</translation>
+    </message>
+    <message>
+        <source>page templates</source>
+        <translation>قوالب صفحات</translation>
+    </message>
+    <message>
+        <source>article threads</source>
+        <translation>سلاسل مقالات</translation>
+    </message>
+    <message>
+        <source>further layer settings</source>
+        <translation>إعدادات أخرى للطبقات</translation>
+    </message>
+    <message>
+        <source>a base address of links</source>
+        <translation>عنوان أساس للروابط</translation>
+    </message>
+    <message>
+        <source>usage rights</source>
+        <translation>حقوق استخدام</translation>
+    </message>
+    <message>
+        <source>the language</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>metadata</source>
+        <translation>بيانات وصفية</translation>
+    </message>
+    <message>
+        <source>1 further document property</source>
+        <translation>خاصية أخرى واحدة للمستند</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further document properties</source>
+        <translation>
+            <numerusform>%n خاصية أخرى للمستند</numerusform>
+            <numerusform>خاصية أخرى واحدة للمستند</numerusform>
+            <numerusform>خاصيتان أخريان للمستند</numerusform>
+            <numerusform>%n خصائص أخرى للمستند</numerusform>
+            <numerusform>%n خاصية أخرى للمستند</numerusform>
+            <numerusform>%n خاصية أخرى للمستند</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>output intents</source>
+        <translation>مقاصد إخراج</translation>
+    </message>
+    <message>
+        <source>1 signature</source>
+        <translation>توقيع واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures</source>
+        <translation>
+            <numerusform>%n توقيع</numerusform>
+            <numerusform>توقيع واحد</numerusform>
+            <numerusform>توقيعان</numerusform>
+            <numerusform>%n توقيعات</numerusform>
+            <numerusform>%n توقيعًا</numerusform>
+            <numerusform>%n توقيع</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 link</source>
+        <translation>رابط واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links</source>
+        <translation>
+            <numerusform>%n رابط</numerusform>
+            <numerusform>رابط واحد</numerusform>
+            <numerusform>رابطان</numerusform>
+            <numerusform>%n روابط</numerusform>
+            <numerusform>%n رابطًا</numerusform>
+            <numerusform>%n رابط</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 annotation</source>
+        <translation>تعليق واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n annotations</source>
+        <translation>
+            <numerusform>%n تعليق</numerusform>
+            <numerusform>تعليق واحد</numerusform>
+            <numerusform>تعليقان</numerusform>
+            <numerusform>%n تعليقات</numerusform>
+            <numerusform>%n تعليقًا</numerusform>
+            <numerusform>%n تعليق</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 bookmark</source>
+        <translation>إشارة مرجعية واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bookmarks</source>
+        <translation>
+            <numerusform>%n إشارة مرجعية</numerusform>
+            <numerusform>إشارة مرجعية واحدة</numerusform>
+            <numerusform>إشارتان مرجعيتان</numerusform>
+            <numerusform>%n إشارات مرجعية</numerusform>
+            <numerusform>%n إشارة مرجعية</numerusform>
+            <numerusform>%n إشارة مرجعية</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>page labels</source>
+        <translation>تسميات صفحات</translation>
+    </message>
+    <message>
+        <source>1 field</source>
+        <translation>حقل واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields</source>
+        <translation>
+            <numerusform>%n حقل</numerusform>
+            <numerusform>حقل واحد</numerusform>
+            <numerusform>حقلان</numerusform>
+            <numerusform>%n حقول</numerusform>
+            <numerusform>%n حقلًا</numerusform>
+            <numerusform>%n حقل</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 layer</source>
+        <translation>طبقة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n layers</source>
+        <translation>
+            <numerusform>%n طبقة</numerusform>
+            <numerusform>طبقة واحدة</numerusform>
+            <numerusform>طبقتان</numerusform>
+            <numerusform>%n طبقات</numerusform>
+            <numerusform>%n طبقة</numerusform>
+            <numerusform>%n طبقة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 named destination</source>
+        <translation>وجهة مسماة واحدة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n named destinations</source>
+        <translation>
+            <numerusform>%n وجهة مسماة</numerusform>
+            <numerusform>وجهة مسماة واحدة</numerusform>
+            <numerusform>وجهتان مسماتان</numerusform>
+            <numerusform>%n وجهات مسماة</numerusform>
+            <numerusform>%n وجهة مسماة</numerusform>
+            <numerusform>%n وجهة مسماة</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>further names</source>
+        <translation>أسماء أخرى</translation>
+    </message>
+    <message>
+        <source>1 further catalog entry</source>
+        <translation>مدخل آخر واحد في الكتالوج</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further catalog entries</source>
+        <translation>
+            <numerusform>%n مدخل آخر في الكتالوج</numerusform>
+            <numerusform>مدخل آخر واحد في الكتالوج</numerusform>
+            <numerusform>مدخلان آخران في الكتالوج</numerusform>
+            <numerusform>%n مداخل أخرى في الكتالوج</numerusform>
+            <numerusform>%n مدخلًا آخر في الكتالوج</numerusform>
+            <numerusform>%n مدخل آخر في الكتالوج</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 renamed name</source>
+        <translation>اسم مُغيَّر واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renamed names</source>
+        <translation>
+            <numerusform>%n اسم مُغيَّر</numerusform>
+            <numerusform>اسم مُغيَّر واحد</numerusform>
+            <numerusform>اسمان مُغيَّران</numerusform>
+            <numerusform>%n أسماء مُغيَّرة</numerusform>
+            <numerusform>%n اسمًا مُغيَّرًا</numerusform>
+            <numerusform>%n اسم مُغيَّر</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The document&apos;s identifier cannot be written</source>
+        <translation>تتعذّر كتابة معرّف المستند</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be embedded</source>
+        <translation>يتعذّر تضمين الخط %1</translation>
+    </message>
+    <message>
+        <source>It has 1 page, and &quot;%1&quot; names others</source>
+        <translation>فيه صفحة واحدة، و«%1» يذكر غيرها</translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n pages, and &quot;%1&quot; names others</source>
+        <translation>
+            <numerusform>فيه %n صفحة، و«%1» يذكر غيرها</numerusform>
+            <numerusform>فيه صفحة واحدة، و«%1» يذكر غيرها</numerusform>
+            <numerusform>فيه صفحتان، و«%1» يذكر غيرهما</numerusform>
+            <numerusform>فيه %n صفحات، و«%1» يذكر غيرها</numerusform>
+            <numerusform>فيه %n صفحة، و«%1» يذكر غيرها</numerusform>
+            <numerusform>فيه %n صفحة، و«%1» يذكر غيرها</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 signature is left out, since it holds for the original file alone</source>
+        <translation>تُرك توقيع واحد، لأنه لا يصح إلا للملف الأصلي</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures are left out, since they hold for the original file alone</source>
+        <translation>
+            <numerusform>تُرك %n توقيع، لأنها لا تصح إلا للملف الأصلي</numerusform>
+            <numerusform>تُرك توقيع واحد، لأنه لا يصح إلا للملف الأصلي</numerusform>
+            <numerusform>تُرك توقيعان، لأنهما لا يصحان إلا للملف الأصلي</numerusform>
+            <numerusform>تُركت %n توقيعات، لأنها لا تصح إلا للملف الأصلي</numerusform>
+            <numerusform>تُرك %n توقيعًا، لأنها لا تصح إلا للملف الأصلي</numerusform>
+            <numerusform>تُرك %n توقيع، لأنها لا تصح إلا للملف الأصلي</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 structure tag is damaged and left out</source>
+        <translation>وسم بنية واحد تالف وتُرك</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags are damaged and left out</source>
+        <translation>
+            <numerusform>%n وسم بنية تالفة وتُركت</numerusform>
+            <numerusform>وسم بنية واحد تالف وتُرك</numerusform>
+            <numerusform>وسما بنية تالفان وتُركا</numerusform>
+            <numerusform>%n وسوم بنية تالفة وتُركت</numerusform>
+            <numerusform>%n وسم بنية تالفة وتُركت</numerusform>
+            <numerusform>%n وسم بنية تالفة وتُركت</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over, as it belongs to pages that are left out: %1</source>
+        <translation>لم يُنقل لأنه يخص صفحات متروكة: %1</translation>
+    </message>
+    <message>
+        <source>The document has no pages</source>
+        <translation>ليس في المستند صفحات</translation>
+    </message>
+    <message>
+        <source>1 form field is renamed, since another document has one of its name: &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>أُعيدت تسمية حقل نموذج واحد، لأن في مستند آخر حقلًا بالاسم نفسه: «%1» صار «%2»؛ وتبقى البرامج النصية كما هي</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n form fields are renamed, since another document has fields of their names, such as &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>
+            <numerusform>أُعيدت تسمية %n حقل نموذج، لأن في مستند آخر حقولًا بالأسماء نفسها، مثل «%1» صار «%2»؛ وتبقى البرامج النصية كما هي</numerusform>
+            <numerusform>أُعيدت تسمية حقل نموذج واحد، لأن في مستند آخر حقلًا بالاسم نفسه: «%1» صار «%2»؛ وتبقى البرامج النصية كما هي</numerusform>
+            <numerusform>أُعيدت تسمية حقلي نموذج، لأن في مستند آخر حقلين بالاسمين نفسيهما، مثل «%1» صار «%2»؛ وتبقى البرامج النصية كما هي</numerusform>
+            <numerusform>أُعيدت تسمية %n حقول نموذج، لأن في مستند آخر حقولًا بالأسماء نفسها، مثل «%1» صار «%2»؛ وتبقى البرامج النصية كما هي</numerusform>
+            <numerusform>أُعيدت تسمية %n حقل نموذج، لأن في مستند آخر حقولًا بالأسماء نفسها، مثل «%1» صار «%2»؛ وتبقى البرامج النصية كما هي</numerusform>
+            <numerusform>أُعيدت تسمية %n حقل نموذج، لأن في مستند آخر حقولًا بالأسماء نفسها، مثل «%1» صار «%2»؛ وتبقى البرامج النصية كما هي</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over: %1</source>
+        <translation>لم يُنقل: %1</translation>
+    </message>
+    <message>
+        <source>it is a part of another one now</source>
+        <translation>صار جزءًا من مستند آخر</translation>
+    </message>
+    <message>
+        <source>it was damaged</source>
+        <translation>كان تالفًا</translation>
+    </message>
+    <message>
+        <source>some of its structure tags are damaged</source>
+        <translation>بعض وسوم بنيته تالفة</translation>
+    </message>
+    <message>
+        <source>that forbids encryption</source>
+        <translation>هذا المعيار يمنع التشفير</translation>
+    </message>
+    <message>
+        <source>that forbids the document information, which is written</source>
+        <translation>هذا المعيار يمنع معلومات المستند التي تُكتب</translation>
+    </message>
+    <message>
+        <source>that demands a title, and none is given</source>
+        <translation>هذا المعيار يتطلب عنوانًا، ولم يُذكر أي عنوان</translation>
+    </message>
+    <message>
+        <source>The document no longer says that it is %1, since %2</source>
+        <translation>لم يعد المستند يذكر أنه %1: %2</translation>
+    </message>
+    <message>
+        <source>Some of its bookmarks are missing in the document itself</source>
+        <translation>بعض إشاراته المرجعية مفقودة في المستند نفسه</translation>
+    </message>
+    <message>
+        <source>Some of its form fields are missing in the document itself</source>
+        <translation>بعض حقول نماذجه مفقودة في المستند نفسه</translation>
+    </message>
+    <message>
+        <source>The page tree contains itself</source>
+        <translation>تحتوي شجرة الصفحات على نفسها</translation>
+    </message>
+    <message>
+        <source>The document has no page tree</source>
+        <translation>ليس للمستند شجرة صفحات</translation>
+    </message>
+    <message>
+        <source>The document states %1 pages, and %2 were found</source>
+        <translation>يذكر المستند أن عدد صفحاته %1، وعُثر على %2</translation>
+    </message>
+    <message>
+        <source>The document does not state its pages, and %1 were found</source>
+        <translation>لا يذكر المستند صفحاته، وعُثر على %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read, page %3 is the first that is missing</source>
+        <translation>أمكنت قراءة %1 من %2 من الصفحات، والصفحة %3 هي أول صفحة مفقودة</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read</source>
+        <translation>أمكنت قراءة %1 من %2 من الصفحات</translation>
+    </message>
+    <message>
+        <source>What stands on page %1 is damaged and may lack something</source>
+        <translation>ما في الصفحة %1 تالف وقد يكون ناقصًا</translation>
+    </message>
+    <message>
+        <source>The document is damaged and was repaired: %1</source>
+        <translation>المستند تالف وقد أُصلح: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The document is damaged and was repaired in %n places, the first: %1</source>
+        <translation>
+            <numerusform>المستند تالف وقد أُصلح في %n موضع، أولها: %1</numerusform>
+            <numerusform>المستند تالف وقد أُصلح في موضع واحد: %1</numerusform>
+            <numerusform>المستند تالف وقد أُصلح في موضعين، أولهما: %1</numerusform>
+            <numerusform>المستند تالف وقد أُصلح في %n مواضع، أولها: %1</numerusform>
+            <numerusform>المستند تالف وقد أُصلح في %n موضعًا، أولها: %1</numerusform>
+            <numerusform>المستند تالف وقد أُصلح في %n موضع، أولها: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not a PDF file</source>
+        <translation>هذا ليس ملف PDF</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and its permissions do not let its pages be taken; its owner password would</source>
+        <translation>المستند مشفّر، وأذوناته لا تسمح بأخذ صفحاته؛ كلمة مرور مالكه تسمح بذلك</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and none of the passwords opens it</source>
+        <translation>المستند مشفّر، ولا تفتحه أي من كلمات المرور</translation>
+    </message>
+    <message>
+        <source>It is a dynamic XFA form, whose pages only a program for such forms makes</source>
+        <translation>هذا نموذج XFA ديناميكي، لا ينشئ صفحاته إلا برنامج مخصص لمثل هذه النماذج</translation>
+    </message>
+    <message>
+        <source>The document is too damaged to be repaired</source>
+        <translation>المستند أشد تلفًا من أن يُصلح</translation>
+    </message>
+    <message>
+        <source>The document is damaged: its trailer and its table of objects are missing</source>
+        <translation>المستند تالف: خاتمته وجدول كائناته مفقودان</translation>
+    </message>
+    <message>
+        <source>The document is damaged: it has no catalog</source>
+        <translation>المستند تالف: ليس له كتالوج</translation>
+    </message>
+    <message>
+        <source>page %1 (%2)</source>
+        <translation>الصفحة %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Readers need not show pages beyond 3 to 14,400 units: %1</source>
+        <translation>لا يلزم برامج القراءة عرض الصفحات التي تقع خارج 3 إلى 14,400 وحدة: %1</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it has the protection that was asked for instead</source>
+        <translation>المستند محمي، وملف PDF المنشأ منه له بدلًا من ذلك الحماية المطلوبة</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it is not</source>
+        <translation>المستند محمي، وملف PDF المنشأ منه غير محمي</translation>
+    </message>
+    <message>
+        <source>its header is missing</source>
+        <translation>ترويسته مفقودة</translation>
+    </message>
+    <message>
+        <source>the length of a stream is wrong</source>
+        <translation>طول أحد التدفقات غير صحيح</translation>
+    </message>
+    <message>
+        <source>a stream is cut off</source>
+        <translation>أحد التدفقات مبتور</translation>
+    </message>
+    <message>
+        <source>its table of objects is damaged</source>
+        <translation>جدول كائناته تالف</translation>
+    </message>
+    <message>
+        <source>an object is not where the table of objects says</source>
+        <translation>أحد الكائنات ليس حيث يذكر جدول الكائنات</translation>
+    </message>
+    <message>
+        <source>it has no catalog</source>
+        <translation>ليس له كتالوج</translation>
+    </message>
+    <message>
+        <source>the data of a stream is damaged</source>
+        <translation>بيانات أحد التدفقات تالفة</translation>
+    </message>
+    <message>
+        <source>an object is not well formed</source>
+        <translation>أحد الكائنات غير سليم البناء</translation>
+    </message>
+    <message>
+        <source>%1 (object %2)</source>
+        <translation>%1 (الكائن %2)</translation>
+    </message>
+    <message>
+        <source>The document is damaged: %1</source>
+        <translation>المستند تالف: %1</translation>
+    </message>
+    <message>
+        <source>The document is damaged</source>
+        <translation>المستند تالف</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be read</source>
+        <translation>تتعذّر قراءة الخط %1</translation>
+    </message>
+    <message>
+        <source>The text has too many different forms of letters</source>
+        <translation>في النص أشكال مختلفة للحروف أكثر من اللازم</translation>
+    </message>
+    <message>
+        <source>private use</source>
+        <translation>استخدام خاص</translation>
+    </message>
+    <message>
+        <source>unassigned</source>
+        <translation>غير معيّن</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>أخرى</translation>
+    </message>
+    <message>
+        <source>1 character has no glyph in any font and is shown as a box: %1</source>
+        <translation>حرف واحد لا رسم له في أي خط ويظهر مربعًا: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters have no glyph in any font and are shown as boxes: %1</source>
+        <translation>
+            <numerusform>%n حرف لا رسم لها في أي خط وتظهر مربعات: %1</numerusform>
+            <numerusform>حرف واحد لا رسم له في أي خط ويظهر مربعًا: %1</numerusform>
+            <numerusform>حرفان لا رسم لهما في أي خط ويظهران مربعين: %1</numerusform>
+            <numerusform>%n أحرف لا رسم لها في أي خط وتظهر مربعات: %1</numerusform>
+            <numerusform>%n حرفًا لا رسم لها في أي خط وتظهر مربعات: %1</numerusform>
+            <numerusform>%n حرف لا رسم لها في أي خط وتظهر مربعات: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 character is split between two rows and shown as boxes</source>
+        <translation>حرف واحد مقسوم بين سطرين ويظهر مربعًا</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters are split between two rows and shown as boxes</source>
+        <translation>
+            <numerusform>%n حرف مقسومة بين سطرين وتظهر مربعات</numerusform>
+            <numerusform>حرف واحد مقسوم بين سطرين ويظهر مربعًا</numerusform>
+            <numerusform>حرفان مقسومان بين سطرين ويظهران مربعين</numerusform>
+            <numerusform>%n أحرف مقسومة بين سطرين وتظهر مربعات</numerusform>
+            <numerusform>%n حرفًا مقسومة بين سطرين وتظهر مربعات</numerusform>
+            <numerusform>%n حرف مقسومة بين سطرين وتظهر مربعات</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The rules for the breaking of lines cannot be loaded: %1</source>
+        <translation>يتعذّر تحميل قواعد كسر الأسطر: %1</translation>
+    </message>
+    <message>
+        <source>The header or the footer has more rows than its margin</source>
+        <translation>للترويسة أو التذييل أسطر أكثر مما يتسع له هامشه</translation>
+    </message>
+    <message>
+        <source>The text is not valid %1</source>
+        <translation>النص ليس بترميز %1 صالح</translation>
+    </message>
+    <message>
+        <source>The bytes do not tell the encoding of the text</source>
+        <translation>لا تدل البايتات على ترميز النص</translation>
+    </message>
+    <message>
+        <source>There is no font to write text with</source>
+        <translation>لا يوجد خط لكتابة النص</translation>
     </message>
 </context>
 <context>

@@ -116,6 +116,10 @@ PDFium, BSD licence</translation>
             <numerusform>%n Seiten</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
 </context>
 <context>
     <name>FileDialog</name>
@@ -792,6 +796,998 @@ Keine: Bilder bleiben, wie sie sind
     <message>
         <source>The password is longer than %1 bytes</source>
         <translation>Das Kennwort ist länger als %1 Bytes</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>The conversion was stopped</source>
+        <translation>Die Umwandlung wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>Its name was taken by another file</source>
+        <translation>Eine andere Datei hat inzwischen ihren Namen</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a binary property list; only XML can be read</source>
+        <translation>%1 ist eine binäre Property-Liste; nur XML kann gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1 is no valid property list</source>
+        <translation>%1 ist keine gültige Property-Liste</translation>
+    </message>
+    <message>
+        <source>The filter file %1 lacks a valid value for &quot;%2&quot;</source>
+        <translation>Der Filterdatei %1 fehlt ein gültiger Wert für „%2“</translation>
+    </message>
+    <message>
+        <source>Not all of the PDF is tagged, as these are not: %1</source>
+        <translation>Nicht die ganze PDF hat Struktur-Tags, denn diese haben keine: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 und %n weitere</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no page to write</source>
+        <translation>Es gibt keine Seite zu schreiben</translation>
+    </message>
+    <message>
+        <source>Its PDF is there and not older</source>
+        <translation>Ihre PDF ist da und nicht älter</translation>
+    </message>
+    <message>
+        <source>Its PDF would take the place of an input, %1</source>
+        <translation>Ihre PDF würde eine Eingabedatei ersetzen: %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory</source>
+        <translation>Der Speicher reicht nicht aus</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>It is not a recognised type</source>
+        <translation>Der Dateityp ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>1 PDF</source>
+        <translation>1 PDF</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDFs</source>
+        <translation>
+            <numerusform>%n PDF</numerusform>
+            <numerusform>%n PDFs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 folder</source>
+        <translation>1 Ordner</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n Ordner</numerusform>
+            <numerusform>%n Ordner</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file of another type</source>
+        <translation>1 Datei eines anderen Typs</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files of other types</source>
+        <translation>
+            <numerusform>%n Datei eines anderen Typs</numerusform>
+            <numerusform>%n Dateien anderer Typen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>The folder cannot be listed: %1</source>
+        <translation>Der Ordner kann nicht aufgelistet werden: %1</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>Das Dokument ist verschlüsselt</translation>
+    </message>
+    <message>
+        <source>The text is larger than 2 GB</source>
+        <translation>Der Text ist größer als 2 GB</translation>
+    </message>
+    <message>
+        <source>The text is read as %1, a guess</source>
+        <translation>Der Text wird als %1 gelesen, das ist geraten</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8; its page is left blank</source>
+        <translation>Der Text ist kein gültiges UTF-8; seine Seite bleibt leer</translation>
+    </message>
+    <message>
+        <source>Cannot open the file</source>
+        <translation>Die Datei kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>Cannot create a file in %1</source>
+        <translation>In %1 kann keine Datei angelegt werden</translation>
+    </message>
+    <message>
+        <source>Cannot write a file in %1</source>
+        <translation>In %1 kann keine Datei geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Cannot read back a file in %1</source>
+        <translation>In %1 kann eine Datei nicht zurückgelesen werden</translation>
+    </message>
+    <message>
+        <source>Cannot flush a file in %1</source>
+        <translation>In %1 kann eine Datei nicht auf den Datenträger gesichert werden</translation>
+    </message>
+    <message>
+        <source>Cannot name a file in %1</source>
+        <translation>In %1 kann eine Datei ihren Namen nicht bekommen</translation>
+    </message>
+    <message>
+        <source>The file system cannot flush files to the disk</source>
+        <translation>Das Dateisystem kann Dateien nicht auf den Datenträger sichern</translation>
+    </message>
+    <message>
+        <source>Cannot read the file</source>
+        <translation>Die Datei kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>The file ends too early</source>
+        <translation>Die Datei endet zu früh</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed while it was being converted</source>
+        <translation>Die Datei %1 wurde während der Umwandlung geändert</translation>
+    </message>
+    <message>
+        <source>The file %1 ended too early</source>
+        <translation>Die Datei %1 endete zu früh</translation>
+    </message>
+    <message>
+        <source>Cannot create a temporary file</source>
+        <translation>Eine temporäre Datei kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>Cannot write a temporary file</source>
+        <translation>Eine temporäre Datei kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Cannot read a temporary file</source>
+        <translation>Eine temporäre Datei kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The picture is made for HDR screens, and a PDF shows its brightness otherwise</source>
+        <translation>Das Bild ist für HDR-Bildschirme gemacht, und eine PDF zeigt seine Helligkeit anders</translation>
+    </message>
+    <message>
+        <source>The compressed data is damaged</source>
+        <translation>Die komprimierten Daten sind beschädigt</translation>
+    </message>
+    <message>
+        <source>The file is no bitmap</source>
+        <translation>Die Datei ist keine Bitmap</translation>
+    </message>
+    <message>
+        <source>The bitmap is of an unknown kind</source>
+        <translation>Die Bitmap ist von unbekannter Art</translation>
+    </message>
+    <message>
+        <source>The bitmap has more colours than its pixels can name</source>
+        <translation>Die Bitmap hat mehr Farben, als ihre Pixel benennen können</translation>
+    </message>
+    <message>
+        <source>Pixels that the file leaves out have its first colour</source>
+        <translation>Pixel, die in der Datei fehlen, haben ihre erste Farbe</translation>
+    </message>
+    <message>
+        <source>The EXR file cannot be read: %1</source>
+        <translation>Die EXR-Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>The EXR file has no channels of colour or brightness</source>
+        <translation>Die EXR-Datei hat keine Kanäle für Farbe oder Helligkeit</translation>
+    </message>
+    <message>
+        <source>The EXR file is damaged: none of its rows can be read</source>
+        <translation>Die EXR-Datei ist beschädigt: Keine ihrer Zeilen kann gelesen werden</translation>
+    </message>
+    <message>
+        <source>The GIF file is damaged</source>
+        <translation>Die GIF-Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The file holds no image</source>
+        <translation>Die Datei enthält kein Bild</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file cannot be read: %1</source>
+        <translation>Die HEIC- oder AVIF-Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>The system grants no thread, which HEIC and AVIF files take</source>
+        <translation>Das System gewährt keinen Thread, den HEIC- und AVIF-Dateien brauchen</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file is damaged</source>
+        <translation>Die HEIC- oder AVIF-Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>Its moving pictures are left out</source>
+        <translation>Die bewegten Bilder der Datei sind ausgelassen</translation>
+    </message>
+    <message>
+        <source>The icon file is cut off or damaged: there may be a larger picture in the part that is missing</source>
+        <translation>Die Symboldatei ist abgeschnitten oder beschädigt: Im fehlenden Teil gibt es vielleicht ein größeres Bild</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s pixels are of an unknown kind</source>
+        <translation>Die Pixel des Symbols sind von unbekannter Art</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s picture is of an unknown kind</source>
+        <translation>Das Bild des Symbols ist von unbekannter Art</translation>
+    </message>
+    <message>
+        <source>The icon file holds no picture that can be read</source>
+        <translation>Die Symboldatei enthält kein lesbares Bild</translation>
+    </message>
+    <message>
+        <source>%1 of the icon&apos;s %2 pictures cannot be read</source>
+        <translation>%1 der %2 Bilder des Symbols können nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The JPEG file ends before its picture begins</source>
+        <translation>Die JPEG-Datei endet, bevor ihr Bild beginnt</translation>
+    </message>
+    <message>
+        <source>The JPEG file has %1 colour components, which is no colour that a PDF can show</source>
+        <translation>Die JPEG-Datei hat %1 Farbkomponenten, und das ist keine Farbe, die eine PDF zeigen kann</translation>
+    </message>
+    <message>
+        <source>The JPEG file is of a kind that no PDF can hold (lossless, hierarchical or more than 8 bits)</source>
+        <translation>Die JPEG-Datei ist von einer Art, die keine PDF enthalten kann (verlustfrei, hierarchisch oder mehr als 8 Bit)</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is damaged</source>
+        <translation>Die JPEG-2000-Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file holds no picture</source>
+        <translation>Die JPEG-2000-Datei enthält kein Bild</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its tiles could not be read</source>
+        <translation>Das Bild ist abgeschnitten: %1 % seiner Kacheln konnten nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its data could not be read</source>
+        <translation>Das Bild ist abgeschnitten: %1 % seiner Daten konnten nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is cut off</source>
+        <translation>Die JPEG-2000-Datei ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>The JPEG file is damaged: none of its rows could be read</source>
+        <translation>Die JPEG-Datei ist beschädigt: Keine ihrer Zeilen konnte gelesen werden</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file is damaged</source>
+        <translation>Die JPEG-XL-Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file has %1 channels beside its colours, which are too many</source>
+        <translation>Die JPEG-XL-Datei hat %1 Kanäle neben ihren Farben, und das sind zu viele</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file stores inks, which cannot be read</source>
+        <translation>Die JPEG-XL-Datei enthält Druckfarben, die nicht gelesen werden können</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read %1 files</source>
+        <translation>Dieses Programm wurde ohne die Mittel gebaut, Dateien der Art %1 zu lesen</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to decode JPEG 2000</source>
+        <translation>Dieses Programm wurde ohne die Mittel gebaut, JPEG 2000 zu dekodieren</translation>
+    </message>
+    <message>
+        <source>The PNG file is damaged</source>
+        <translation>Die PNG-Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The PNG file holds no picture</source>
+        <translation>Die PNG-Datei enthält kein Bild</translation>
+    </message>
+    <message>
+        <source>The PNG file has no palette</source>
+        <translation>Die PNG-Datei hat keine Farbtabelle</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s compression is unknown</source>
+        <translation>Die Komprimierung der Photoshop-Datei ist unbekannt</translation>
+    </message>
+    <message>
+        <source>The Photoshop file holds its layers alone: save it with maximized compatibility, which adds the picture they make</source>
+        <translation>Die Photoshop-Datei enthält nur ihre Ebenen: Sichern Sie sie mit maximierter Kompatibilität, die das Gesamtbild hinzufügt</translation>
+    </message>
+    <message>
+        <source>The Photoshop file has no palette</source>
+        <translation>Die Photoshop-Datei hat keine Farbtabelle</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s colour mode is unknown</source>
+        <translation>Der Farbmodus der Photoshop-Datei ist unbekannt</translation>
+    </message>
+    <message>
+        <source>The Photoshop file is damaged</source>
+        <translation>Die Photoshop-Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The file is no TGA image that can be read</source>
+        <translation>Die Datei ist kein lesbares TGA-Bild</translation>
+    </message>
+    <message>
+        <source>The file names a further page that cannot be read</source>
+        <translation>Die Datei nennt eine weitere Seite, die nicht gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>its form is not supported</source>
+        <translation>Ihre Form wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>it has no pixels</source>
+        <translation>Sie hat keine Pixel</translation>
+    </message>
+    <message>
+        <source>it is larger than any picture</source>
+        <translation>Sie ist größer als jedes Bild</translation>
+    </message>
+    <message>
+        <source>its directory is damaged</source>
+        <translation>Ihr Verzeichnis ist beschädigt</translation>
+    </message>
+    <message>
+        <source>it is cut off</source>
+        <translation>Der Inhalt ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>The TIFF file is damaged</source>
+        <translation>Die TIFF-Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: %1</source>
+        <translation>Die TIFF-Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>The TIFF file has no palette</source>
+        <translation>Die TIFF-Datei hat keine Farbtabelle</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: its compression is not supported</source>
+        <translation>Die TIFF-Datei kann nicht gelesen werden: Ihre Komprimierung wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>The WebP file is damaged</source>
+        <translation>Die WebP-Datei ist beschädigt</translation>
+    </message>
+    <message>
+        <source>The WebP file is too large</source>
+        <translation>Die WebP-Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>The animation is too large (%1 x %2 pixels)</source>
+        <translation>Die Animation ist zu groß (%1 x %2 Pixel)</translation>
+    </message>
+    <message>
+        <source>The file is empty</source>
+        <translation>Die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>The file is no image of a known format</source>
+        <translation>Die Datei ist kein Bild eines bekannten Formats</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the image</source>
+        <translation>Der Speicher reicht für das Bild nicht aus</translation>
+    </message>
+    <message>
+        <source>The image has no pixels</source>
+        <translation>Das Bild hat keine Pixel</translation>
+    </message>
+    <message>
+        <source>The image is too large (%1 x %2 pixels)</source>
+        <translation>Das Bild ist zu groß (%1 x %2 Pixel)</translation>
+    </message>
+    <message>
+        <source>1 further page is left out</source>
+        <translation>1 weitere Seite ist ausgelassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages are left out</source>
+        <translation>
+            <numerusform>%n weitere Seite ist ausgelassen</numerusform>
+            <numerusform>%n weitere Seiten sind ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further frame is left out</source>
+        <translation>1 weiteres Einzelbild ist ausgelassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further frames are left out</source>
+        <translation>
+            <numerusform>%n weiteres Einzelbild ist ausgelassen</numerusform>
+            <numerusform>%n weitere Einzelbilder sind ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further part is left out</source>
+        <translation>1 weiterer Teil ist ausgelassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further parts are left out</source>
+        <translation>
+            <numerusform>%n weiterer Teil ist ausgelassen</numerusform>
+            <numerusform>%n weitere Teile sind ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further picture is left out</source>
+        <translation>1 weiteres Bild ist ausgelassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pictures are left out</source>
+        <translation>
+            <numerusform>%n weiteres Bild ist ausgelassen</numerusform>
+            <numerusform>%n weitere Bilder sind ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is left out: %1</source>
+        <translation>Ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>It and those behind it are left out, since they are too large together</source>
+        <translation>Diese und die folgenden sind ausgelassen, da sie zusammen zu groß sind</translation>
+    </message>
+    <message>
+        <source>Page %1: %2</source>
+        <translation>Seite %1: %2</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its rows could not be read</source>
+        <translation>Das Bild ist abgeschnitten: %1 % seiner Zeilen konnten nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its finer details could not be read</source>
+        <translation>Das Bild ist abgeschnitten: Seine feineren Einzelheiten konnten nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: parts of it could not be read</source>
+        <translation>Das Bild ist abgeschnitten: Teile davon konnten nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its transparency could not be read</source>
+        <translation>Das Bild ist abgeschnitten: Seine Transparenz konnte nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The picture is damaged: parts of it may look wrong</source>
+        <translation>Das Bild ist beschädigt: Teile davon sehen vielleicht falsch aus</translation>
+    </message>
+    <message>
+        <source>The file is too short for the image its header describes</source>
+        <translation>Die Datei ist zu kurz für das Bild, das ihr Kopf beschreibt</translation>
+    </message>
+    <message>
+        <source>The image&apos;s rows are damaged</source>
+        <translation>Die Zeilen des Bildes sind beschädigt</translation>
+    </message>
+    <message>
+        <source>The image has fewer rows than its header says</source>
+        <translation>Das Bild hat weniger Zeilen, als sein Kopf angibt</translation>
+    </message>
+    <message>
+        <source>SOURCE_DATE_EPOCH is &quot;%1&quot;, not the seconds from 1970 to a date before the year 10000</source>
+        <translation>SOURCE_DATE_EPOCH ist „%1“ und nicht die Sekunden von 1970 bis zu einem Datum vor dem Jahr 10000</translation>
+    </message>
+    <message>
+        <source>1 structure tag</source>
+        <translation>1 Struktur-Tag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags</source>
+        <translation>
+            <numerusform>%n Struktur-Tag</numerusform>
+            <numerusform>%n Struktur-Tags</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 attachment</source>
+        <translation>1 Anhang</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments</source>
+        <translation>
+            <numerusform>%n Anhang</numerusform>
+            <numerusform>%n Anhänge</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a portfolio</source>
+        <translation>ein Portfolio</translation>
+    </message>
+    <message>
+        <source>an XFA form</source>
+        <translation>ein XFA-Formular</translation>
+    </message>
+    <message>
+        <source>document scripts</source>
+        <translation>Skripte des Dokuments</translation>
+    </message>
+    <message>
+        <source>page templates</source>
+        <translation>Seitenvorlagen</translation>
+    </message>
+    <message>
+        <source>article threads</source>
+        <translation>Artikelfolgen</translation>
+    </message>
+    <message>
+        <source>further layer settings</source>
+        <translation>weitere Einstellungen der Ebenen</translation>
+    </message>
+    <message>
+        <source>a base address of links</source>
+        <translation>eine Basisadresse der Links</translation>
+    </message>
+    <message>
+        <source>usage rights</source>
+        <translation>Nutzungsrechte</translation>
+    </message>
+    <message>
+        <source>the language</source>
+        <translation>die Sprache</translation>
+    </message>
+    <message>
+        <source>metadata</source>
+        <translation>Metadaten</translation>
+    </message>
+    <message>
+        <source>1 further document property</source>
+        <translation>1 weitere Dokumenteigenschaft</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further document properties</source>
+        <translation>
+            <numerusform>%n weitere Dokumenteigenschaft</numerusform>
+            <numerusform>%n weitere Dokumenteigenschaften</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>output intents</source>
+        <translation>Ausgabebedingungen</translation>
+    </message>
+    <message>
+        <source>1 signature</source>
+        <translation>1 Signatur</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures</source>
+        <translation>
+            <numerusform>%n Signatur</numerusform>
+            <numerusform>%n Signaturen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 link</source>
+        <translation>1 Link</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links</source>
+        <translation>
+            <numerusform>%n Link</numerusform>
+            <numerusform>%n Links</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 annotation</source>
+        <translation>1 Anmerkung</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n annotations</source>
+        <translation>
+            <numerusform>%n Anmerkung</numerusform>
+            <numerusform>%n Anmerkungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 bookmark</source>
+        <translation>1 Lesezeichen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bookmarks</source>
+        <translation>
+            <numerusform>%n Lesezeichen</numerusform>
+            <numerusform>%n Lesezeichen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>page labels</source>
+        <translation>Seitenbezeichnungen</translation>
+    </message>
+    <message>
+        <source>1 field</source>
+        <translation>1 Feld</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields</source>
+        <translation>
+            <numerusform>%n Feld</numerusform>
+            <numerusform>%n Felder</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 layer</source>
+        <translation>1 Ebene</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n layers</source>
+        <translation>
+            <numerusform>%n Ebene</numerusform>
+            <numerusform>%n Ebenen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 named destination</source>
+        <translation>1 benanntes Ziel</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n named destinations</source>
+        <translation>
+            <numerusform>%n benanntes Ziel</numerusform>
+            <numerusform>%n benannte Ziele</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>further names</source>
+        <translation>weitere Namen</translation>
+    </message>
+    <message>
+        <source>1 further catalog entry</source>
+        <translation>1 weiterer Katalogeintrag</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further catalog entries</source>
+        <translation>
+            <numerusform>%n weiterer Katalogeintrag</numerusform>
+            <numerusform>%n weitere Katalogeinträge</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 renamed name</source>
+        <translation>1 umbenannter Name</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renamed names</source>
+        <translation>
+            <numerusform>%n umbenannter Name</numerusform>
+            <numerusform>%n umbenannte Namen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The document&apos;s identifier cannot be written</source>
+        <translation>Die Kennung des Dokuments kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be embedded</source>
+        <translation>Die Schrift %1 kann nicht eingebettet werden</translation>
+    </message>
+    <message>
+        <source>It has 1 page, and &quot;%1&quot; names others</source>
+        <translation>Es gibt 1 Seite, und „%1“ nennt andere</translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n pages, and &quot;%1&quot; names others</source>
+        <translation>
+            <numerusform>Es gibt %n Seite, und „%1“ nennt andere</numerusform>
+            <numerusform>Es gibt %n Seiten, und „%1“ nennt andere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 signature is left out, since it holds for the original file alone</source>
+        <translation>1 Signatur ist ausgelassen, da sie nur für die ursprüngliche Datei gilt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures are left out, since they hold for the original file alone</source>
+        <translation>
+            <numerusform>%n Signatur ist ausgelassen, da sie nur für die ursprüngliche Datei gilt</numerusform>
+            <numerusform>%n Signaturen sind ausgelassen, da sie nur für die ursprüngliche Datei gelten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 structure tag is damaged and left out</source>
+        <translation>1 Struktur-Tag ist beschädigt und ausgelassen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags are damaged and left out</source>
+        <translation>
+            <numerusform>%n Struktur-Tag ist beschädigt und ausgelassen</numerusform>
+            <numerusform>%n Struktur-Tags sind beschädigt und ausgelassen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over, as it belongs to pages that are left out: %1</source>
+        <translation>Nicht übernommen, da es zu ausgelassenen Seiten gehört: %1</translation>
+    </message>
+    <message>
+        <source>The document has no pages</source>
+        <translation>Das Dokument hat keine Seiten</translation>
+    </message>
+    <message>
+        <source>1 form field is renamed, since another document has one of its name: &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>1 Formularfeld ist umbenannt, da ein anderes Dokument eines seines Namens hat: „%1“ heißt jetzt „%2“; Skripte bleiben, wie sie sind</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n form fields are renamed, since another document has fields of their names, such as &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>
+            <numerusform>%n Formularfeld ist umbenannt, da ein anderes Dokument eines seines Namens hat, etwa „%1“ in „%2“; Skripte bleiben, wie sie sind</numerusform>
+            <numerusform>%n Formularfelder sind umbenannt, da ein anderes Dokument Felder ihrer Namen hat, etwa „%1“ in „%2“; Skripte bleiben, wie sie sind</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over: %1</source>
+        <translation>Nicht übernommen: %1</translation>
+    </message>
+    <message>
+        <source>it is a part of another one now</source>
+        <translation>Es ist jetzt Teil eines anderen</translation>
+    </message>
+    <message>
+        <source>it was damaged</source>
+        <translation>Es war beschädigt</translation>
+    </message>
+    <message>
+        <source>some of its structure tags are damaged</source>
+        <translation>Einige seiner Struktur-Tags sind beschädigt</translation>
+    </message>
+    <message>
+        <source>that forbids encryption</source>
+        <translation>Dieser Standard verbietet Verschlüsselung</translation>
+    </message>
+    <message>
+        <source>that forbids the document information, which is written</source>
+        <translation>Dieser Standard verbietet die Dokumentinformationen, die geschrieben werden</translation>
+    </message>
+    <message>
+        <source>that demands a title, and none is given</source>
+        <translation>Dieser Standard verlangt einen Titel, und keiner ist angegeben</translation>
+    </message>
+    <message>
+        <source>The document no longer says that it is %1, since %2</source>
+        <translation>Das Dokument gibt nicht mehr an, dass es %1 ist: %2</translation>
+    </message>
+    <message>
+        <source>Some of its bookmarks are missing in the document itself</source>
+        <translation>Einige seiner Lesezeichen fehlen schon im Dokument selbst</translation>
+    </message>
+    <message>
+        <source>Some of its form fields are missing in the document itself</source>
+        <translation>Einige seiner Formularfelder fehlen schon im Dokument selbst</translation>
+    </message>
+    <message>
+        <source>The page tree contains itself</source>
+        <translation>Der Seitenbaum enthält sich selbst</translation>
+    </message>
+    <message>
+        <source>The document has no page tree</source>
+        <translation>Das Dokument hat keinen Seitenbaum</translation>
+    </message>
+    <message>
+        <source>The document states %1 pages, and %2 were found</source>
+        <translation>Das Dokument gibt %1 Seiten an, und %2 wurden gefunden</translation>
+    </message>
+    <message>
+        <source>The document does not state its pages, and %1 were found</source>
+        <translation>Das Dokument gibt seine Seiten nicht an, und %1 wurden gefunden</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read, page %3 is the first that is missing</source>
+        <translation>%1 von %2 Seiten konnten gelesen werden, Seite %3 ist die erste, die fehlt</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read</source>
+        <translation>%1 von %2 Seiten konnten gelesen werden</translation>
+    </message>
+    <message>
+        <source>What stands on page %1 is damaged and may lack something</source>
+        <translation>Was auf Seite %1 steht, ist beschädigt und vielleicht unvollständig</translation>
+    </message>
+    <message>
+        <source>The document is damaged and was repaired: %1</source>
+        <translation>Das Dokument ist beschädigt und wurde repariert: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The document is damaged and was repaired in %n places, the first: %1</source>
+        <translation>
+            <numerusform>Das Dokument ist beschädigt und wurde an %n Stelle repariert, die erste: %1</numerusform>
+            <numerusform>Das Dokument ist beschädigt und wurde an %n Stellen repariert, die erste: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not a PDF file</source>
+        <translation>Dies ist keine PDF-Datei</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and its permissions do not let its pages be taken; its owner password would</source>
+        <translation>Das Dokument ist verschlüsselt, und seine Rechte erlauben nicht, seine Seiten zu entnehmen; mit seinem Besitzerkennwort ginge es</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and none of the passwords opens it</source>
+        <translation>Das Dokument ist verschlüsselt, und keines der Kennwörter öffnet es</translation>
+    </message>
+    <message>
+        <source>It is a dynamic XFA form, whose pages only a program for such forms makes</source>
+        <translation>Es ist ein dynamisches XFA-Formular, dessen Seiten nur ein Programm für solche Formulare erzeugt</translation>
+    </message>
+    <message>
+        <source>The document is too damaged to be repaired</source>
+        <translation>Das Dokument ist zu stark beschädigt, um repariert zu werden</translation>
+    </message>
+    <message>
+        <source>The document is damaged: its trailer and its table of objects are missing</source>
+        <translation>Das Dokument ist beschädigt: Sein Schlussteil und seine Objekttabelle fehlen</translation>
+    </message>
+    <message>
+        <source>The document is damaged: it has no catalog</source>
+        <translation>Das Dokument ist beschädigt: Es hat keinen Katalog</translation>
+    </message>
+    <message>
+        <source>page %1 (%2)</source>
+        <translation>Seite %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Readers need not show pages beyond 3 to 14,400 units: %1</source>
+        <translation>Programme müssen Seiten außerhalb von 3 bis 14 400 Einheiten nicht zeigen: %1</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it has the protection that was asked for instead</source>
+        <translation>Das Dokument ist geschützt, und die daraus erstellte PDF hat stattdessen den gewünschten Schutz</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it is not</source>
+        <translation>Das Dokument ist geschützt, und die daraus erstellte PDF ist es nicht</translation>
+    </message>
+    <message>
+        <source>its header is missing</source>
+        <translation>Sein Kopf fehlt</translation>
+    </message>
+    <message>
+        <source>the length of a stream is wrong</source>
+        <translation>Die Länge eines Datenstroms ist falsch</translation>
+    </message>
+    <message>
+        <source>a stream is cut off</source>
+        <translation>Ein Datenstrom ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>its table of objects is damaged</source>
+        <translation>Seine Objekttabelle ist beschädigt</translation>
+    </message>
+    <message>
+        <source>an object is not where the table of objects says</source>
+        <translation>Ein Objekt ist nicht da, wo die Objekttabelle es angibt</translation>
+    </message>
+    <message>
+        <source>it has no catalog</source>
+        <translation>Es hat keinen Katalog</translation>
+    </message>
+    <message>
+        <source>the data of a stream is damaged</source>
+        <translation>Die Daten eines Datenstroms sind beschädigt</translation>
+    </message>
+    <message>
+        <source>an object is not well formed</source>
+        <translation>Ein Objekt ist fehlerhaft aufgebaut</translation>
+    </message>
+    <message>
+        <source>%1 (object %2)</source>
+        <translation>%1 (Objekt %2)</translation>
+    </message>
+    <message>
+        <source>The document is damaged: %1</source>
+        <translation>Das Dokument ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>The document is damaged</source>
+        <translation>Das Dokument ist beschädigt</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be read</source>
+        <translation>Die Schrift %1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The text has too many different forms of letters</source>
+        <translation>Der Text hat zu viele verschiedene Buchstabenformen</translation>
+    </message>
+    <message>
+        <source>private use</source>
+        <translation>privater Bereich</translation>
+    </message>
+    <message>
+        <source>unassigned</source>
+        <translation>nicht vergeben</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>andere</translation>
+    </message>
+    <message>
+        <source>1 character has no glyph in any font and is shown as a box: %1</source>
+        <translation>1 Zeichen gibt es in keiner Schrift; es erscheint als Kästchen: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters have no glyph in any font and are shown as boxes: %1</source>
+        <translation>
+            <numerusform>%n Zeichen gibt es in keiner Schrift; es erscheint als Kästchen: %1</numerusform>
+            <numerusform>%n Zeichen gibt es in keiner Schrift; sie erscheinen als Kästchen: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 character is split between two rows and shown as boxes</source>
+        <translation>1 Zeichen ist auf zwei Zeilen verteilt und erscheint als Kästchen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters are split between two rows and shown as boxes</source>
+        <translation>
+            <numerusform>%n Zeichen ist auf zwei Zeilen verteilt und erscheint als Kästchen</numerusform>
+            <numerusform>%n Zeichen sind auf zwei Zeilen verteilt und erscheinen als Kästchen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The rules for the breaking of lines cannot be loaded: %1</source>
+        <translation>Die Regeln für den Zeilenumbruch können nicht geladen werden: %1</translation>
+    </message>
+    <message>
+        <source>The header or the footer has more rows than its margin</source>
+        <translation>Die Kopf- oder Fußzeile hat mehr Zeilen als ihr Rand</translation>
+    </message>
+    <message>
+        <source>The text is not valid %1</source>
+        <translation>Der Text ist kein gültiges %1</translation>
+    </message>
+    <message>
+        <source>The bytes do not tell the encoding of the text</source>
+        <translation>Die Bytes verraten nicht, wie der Text kodiert ist</translation>
+    </message>
+    <message>
+        <source>There is no font to write text with</source>
+        <translation>Es gibt keine Schrift, um Text zu schreiben</translation>
     </message>
 </context>
 <context>

@@ -116,6 +116,10 @@ PDFium, BSD licence</translation>
             <numerusform>%n páginas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
 </context>
 <context>
     <name>FileDialog</name>
@@ -792,6 +796,998 @@ Ninguna: las imágenes quedan como están
     <message>
         <source>The password is longer than %1 bytes</source>
         <translation>La contraseña ocupa más de %1 bytes</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>The conversion was stopped</source>
+        <translation>La conversión se interrumpió</translation>
+    </message>
+    <message>
+        <source>Its name was taken by another file</source>
+        <translation>Otro archivo ha tomado su nombre</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 no se puede leer: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a binary property list; only XML can be read</source>
+        <translation>%1 es una lista de propiedades binaria; solo se puede leer XML</translation>
+    </message>
+    <message>
+        <source>%1 is no valid property list</source>
+        <translation>%1 no es una lista de propiedades válida</translation>
+    </message>
+    <message>
+        <source>The filter file %1 lacks a valid value for &quot;%2&quot;</source>
+        <translation>Al archivo de filtro %1 le falta un valor válido para «%2»</translation>
+    </message>
+    <message>
+        <source>Not all of the PDF is tagged, as these are not: %1</source>
+        <translation>No todo el PDF está etiquetado, porque estos no lo están: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no page to write</source>
+        <translation>No hay ninguna página que escribir</translation>
+    </message>
+    <message>
+        <source>Its PDF is there and not older</source>
+        <translation>Su PDF ya existe y no es más antiguo</translation>
+    </message>
+    <message>
+        <source>Its PDF would take the place of an input, %1</source>
+        <translation>Su PDF ocuparía el lugar de un archivo de entrada, %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory</source>
+        <translation>No hay memoria suficiente</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>It is not a recognised type</source>
+        <translation>El tipo de archivo no se reconoce</translation>
+    </message>
+    <message>
+        <source>1 PDF</source>
+        <translation>1 PDF</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDFs</source>
+        <translation>
+            <numerusform>%n PDF</numerusform>
+            <numerusform>%n PDF</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 folder</source>
+        <translation>1 carpeta</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n carpeta</numerusform>
+            <numerusform>%n carpetas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file of another type</source>
+        <translation>1 archivo de otro tipo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files of other types</source>
+        <translation>
+            <numerusform>%n archivo de otro tipo</numerusform>
+            <numerusform>%n archivos de otros tipos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Omitido: %1</translation>
+    </message>
+    <message>
+        <source>The folder cannot be listed: %1</source>
+        <translation>No se puede ver el contenido de la carpeta: %1</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>El documento está cifrado</translation>
+    </message>
+    <message>
+        <source>The text is larger than 2 GB</source>
+        <translation>El texto supera los 2 GB</translation>
+    </message>
+    <message>
+        <source>The text is read as %1, a guess</source>
+        <translation>El texto se lee como %1, por suposición</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8; its page is left blank</source>
+        <translation>El texto no es UTF-8 válido; su página queda en blanco</translation>
+    </message>
+    <message>
+        <source>Cannot open the file</source>
+        <translation>No se puede abrir el archivo</translation>
+    </message>
+    <message>
+        <source>Cannot create a file in %1</source>
+        <translation>No se puede crear un archivo en %1</translation>
+    </message>
+    <message>
+        <source>Cannot write a file in %1</source>
+        <translation>No se puede escribir un archivo en %1</translation>
+    </message>
+    <message>
+        <source>Cannot read back a file in %1</source>
+        <translation>No se puede releer un archivo en %1</translation>
+    </message>
+    <message>
+        <source>Cannot flush a file in %1</source>
+        <translation>No se puede guardar en el disco un archivo en %1</translation>
+    </message>
+    <message>
+        <source>Cannot name a file in %1</source>
+        <translation>No se puede dar nombre a un archivo en %1</translation>
+    </message>
+    <message>
+        <source>The file system cannot flush files to the disk</source>
+        <translation>El sistema de archivos no puede asegurar los archivos en el disco</translation>
+    </message>
+    <message>
+        <source>Cannot read the file</source>
+        <translation>No se puede leer el archivo</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>No es un archivo normal</translation>
+    </message>
+    <message>
+        <source>The file ends too early</source>
+        <translation>El archivo termina demasiado pronto</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed while it was being converted</source>
+        <translation>El archivo %1 cambió mientras se convertía</translation>
+    </message>
+    <message>
+        <source>The file %1 ended too early</source>
+        <translation>El archivo %1 terminó demasiado pronto</translation>
+    </message>
+    <message>
+        <source>Cannot create a temporary file</source>
+        <translation>No se puede crear un archivo temporal</translation>
+    </message>
+    <message>
+        <source>Cannot write a temporary file</source>
+        <translation>No se puede escribir un archivo temporal</translation>
+    </message>
+    <message>
+        <source>Cannot read a temporary file</source>
+        <translation>No se puede leer un archivo temporal</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The picture is made for HDR screens, and a PDF shows its brightness otherwise</source>
+        <translation>La imagen está hecha para pantallas HDR, y un PDF muestra su brillo de otra manera</translation>
+    </message>
+    <message>
+        <source>The compressed data is damaged</source>
+        <translation>Los datos comprimidos están dañados</translation>
+    </message>
+    <message>
+        <source>The file is no bitmap</source>
+        <translation>El archivo no es un mapa de bits</translation>
+    </message>
+    <message>
+        <source>The bitmap is of an unknown kind</source>
+        <translation>El mapa de bits es de una clase desconocida</translation>
+    </message>
+    <message>
+        <source>The bitmap has more colours than its pixels can name</source>
+        <translation>El mapa de bits tiene más colores de los que sus píxeles pueden nombrar</translation>
+    </message>
+    <message>
+        <source>Pixels that the file leaves out have its first colour</source>
+        <translation>Los píxeles que faltan en el archivo tienen su primer color</translation>
+    </message>
+    <message>
+        <source>The EXR file cannot be read: %1</source>
+        <translation>El archivo EXR no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>The EXR file has no channels of colour or brightness</source>
+        <translation>El archivo EXR no tiene canales de color ni de brillo</translation>
+    </message>
+    <message>
+        <source>The EXR file is damaged: none of its rows can be read</source>
+        <translation>El archivo EXR está dañado: no se puede leer ninguna de sus filas</translation>
+    </message>
+    <message>
+        <source>The GIF file is damaged</source>
+        <translation>El archivo GIF está dañado</translation>
+    </message>
+    <message>
+        <source>The file holds no image</source>
+        <translation>El archivo no contiene ninguna imagen</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file cannot be read: %1</source>
+        <translation>El archivo HEIC o AVIF no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>The system grants no thread, which HEIC and AVIF files take</source>
+        <translation>El sistema no concede ningún hilo, y los archivos HEIC y AVIF lo necesitan</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file is damaged</source>
+        <translation>El archivo HEIC o AVIF está dañado</translation>
+    </message>
+    <message>
+        <source>Its moving pictures are left out</source>
+        <translation>Sus imágenes en movimiento se omiten</translation>
+    </message>
+    <message>
+        <source>The icon file is cut off or damaged: there may be a larger picture in the part that is missing</source>
+        <translation>El archivo de icono está cortado o dañado: en la parte que falta puede haber una imagen mayor</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s pixels are of an unknown kind</source>
+        <translation>Los píxeles del icono son de una clase desconocida</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s picture is of an unknown kind</source>
+        <translation>La imagen del icono es de una clase desconocida</translation>
+    </message>
+    <message>
+        <source>The icon file holds no picture that can be read</source>
+        <translation>El archivo de icono no contiene ninguna imagen legible</translation>
+    </message>
+    <message>
+        <source>%1 of the icon&apos;s %2 pictures cannot be read</source>
+        <translation>%1 de las %2 imágenes del icono no se pueden leer</translation>
+    </message>
+    <message>
+        <source>The JPEG file ends before its picture begins</source>
+        <translation>El archivo JPEG termina antes de que empiece su imagen</translation>
+    </message>
+    <message>
+        <source>The JPEG file has %1 colour components, which is no colour that a PDF can show</source>
+        <translation>El archivo JPEG tiene %1 componentes de color, un color que un PDF no puede mostrar</translation>
+    </message>
+    <message>
+        <source>The JPEG file is of a kind that no PDF can hold (lossless, hierarchical or more than 8 bits)</source>
+        <translation>El archivo JPEG es de una clase que ningún PDF puede contener (sin pérdida, jerárquico o de más de 8 bits)</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is damaged</source>
+        <translation>El archivo JPEG 2000 está dañado</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file holds no picture</source>
+        <translation>El archivo JPEG 2000 no contiene ninguna imagen</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its tiles could not be read</source>
+        <translation>La imagen está cortada: no se pudo leer el %1 % de sus teselas</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its data could not be read</source>
+        <translation>La imagen está cortada: no se pudo leer el %1 % de sus datos</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is cut off</source>
+        <translation>El archivo JPEG 2000 está cortado</translation>
+    </message>
+    <message>
+        <source>The JPEG file is damaged: none of its rows could be read</source>
+        <translation>El archivo JPEG está dañado: no se pudo leer ninguna de sus filas</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file is damaged</source>
+        <translation>El archivo JPEG XL está dañado</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file has %1 channels beside its colours, which are too many</source>
+        <translation>El archivo JPEG XL tiene %1 canales además de sus colores, y son demasiados</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file stores inks, which cannot be read</source>
+        <translation>El archivo JPEG XL guarda tintas, que no se pueden leer</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read %1 files</source>
+        <translation>Este programa se compiló sin los medios para leer archivos %1</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to decode JPEG 2000</source>
+        <translation>Este programa se compiló sin los medios para descodificar JPEG 2000</translation>
+    </message>
+    <message>
+        <source>The PNG file is damaged</source>
+        <translation>El archivo PNG está dañado</translation>
+    </message>
+    <message>
+        <source>The PNG file holds no picture</source>
+        <translation>El archivo PNG no contiene ninguna imagen</translation>
+    </message>
+    <message>
+        <source>The PNG file has no palette</source>
+        <translation>El archivo PNG no tiene paleta</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s compression is unknown</source>
+        <translation>La compresión del archivo de Photoshop es desconocida</translation>
+    </message>
+    <message>
+        <source>The Photoshop file holds its layers alone: save it with maximized compatibility, which adds the picture they make</source>
+        <translation>El archivo de Photoshop contiene solo sus capas: guárdelo con la máxima compatibilidad, que añade la imagen que forman</translation>
+    </message>
+    <message>
+        <source>The Photoshop file has no palette</source>
+        <translation>El archivo de Photoshop no tiene paleta</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s colour mode is unknown</source>
+        <translation>El modo de color del archivo de Photoshop es desconocido</translation>
+    </message>
+    <message>
+        <source>The Photoshop file is damaged</source>
+        <translation>El archivo de Photoshop está dañado</translation>
+    </message>
+    <message>
+        <source>The file is no TGA image that can be read</source>
+        <translation>El archivo no es una imagen TGA legible</translation>
+    </message>
+    <message>
+        <source>The file names a further page that cannot be read</source>
+        <translation>El archivo nombra otra página que no se puede leer</translation>
+    </message>
+    <message>
+        <source>its form is not supported</source>
+        <translation>su forma no es compatible</translation>
+    </message>
+    <message>
+        <source>it has no pixels</source>
+        <translation>no tiene píxeles</translation>
+    </message>
+    <message>
+        <source>it is larger than any picture</source>
+        <translation>es mayor que cualquier imagen</translation>
+    </message>
+    <message>
+        <source>its directory is damaged</source>
+        <translation>su directorio está dañado</translation>
+    </message>
+    <message>
+        <source>it is cut off</source>
+        <translation>está cortado</translation>
+    </message>
+    <message>
+        <source>The TIFF file is damaged</source>
+        <translation>El archivo TIFF está dañado</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: %1</source>
+        <translation>El archivo TIFF no se puede leer: %1</translation>
+    </message>
+    <message>
+        <source>The TIFF file has no palette</source>
+        <translation>El archivo TIFF no tiene paleta</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: its compression is not supported</source>
+        <translation>El archivo TIFF no se puede leer: su compresión no es compatible</translation>
+    </message>
+    <message>
+        <source>The WebP file is damaged</source>
+        <translation>El archivo WebP está dañado</translation>
+    </message>
+    <message>
+        <source>The WebP file is too large</source>
+        <translation>El archivo WebP es demasiado grande</translation>
+    </message>
+    <message>
+        <source>The animation is too large (%1 x %2 pixels)</source>
+        <translation>La animación es demasiado grande (%1 x %2 píxeles)</translation>
+    </message>
+    <message>
+        <source>The file is empty</source>
+        <translation>El archivo está vacío</translation>
+    </message>
+    <message>
+        <source>The file is no image of a known format</source>
+        <translation>El archivo no es una imagen de un formato conocido</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the image</source>
+        <translation>No hay memoria suficiente para la imagen</translation>
+    </message>
+    <message>
+        <source>The image has no pixels</source>
+        <translation>La imagen no tiene píxeles</translation>
+    </message>
+    <message>
+        <source>The image is too large (%1 x %2 pixels)</source>
+        <translation>La imagen es demasiado grande (%1 x %2 píxeles)</translation>
+    </message>
+    <message>
+        <source>1 further page is left out</source>
+        <translation>Se omite 1 página más</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages are left out</source>
+        <translation>
+            <numerusform>Se omite %n página más</numerusform>
+            <numerusform>Se omiten %n páginas más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further frame is left out</source>
+        <translation>Se omite 1 fotograma más</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further frames are left out</source>
+        <translation>
+            <numerusform>Se omite %n fotograma más</numerusform>
+            <numerusform>Se omiten %n fotogramas más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further part is left out</source>
+        <translation>Se omite 1 parte más</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further parts are left out</source>
+        <translation>
+            <numerusform>Se omite %n parte más</numerusform>
+            <numerusform>Se omiten %n partes más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further picture is left out</source>
+        <translation>Se omite 1 imagen más</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pictures are left out</source>
+        <translation>
+            <numerusform>Se omite %n imagen más</numerusform>
+            <numerusform>Se omiten %n imágenes más</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is left out: %1</source>
+        <translation>Se omite: %1</translation>
+    </message>
+    <message>
+        <source>It and those behind it are left out, since they are too large together</source>
+        <translation>Esta y las siguientes se omiten, porque juntas son demasiado grandes</translation>
+    </message>
+    <message>
+        <source>Page %1: %2</source>
+        <translation>Página %1: %2</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its rows could not be read</source>
+        <translation>La imagen está cortada: no se pudo leer el %1 % de sus filas</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its finer details could not be read</source>
+        <translation>La imagen está cortada: no se pudieron leer sus detalles más finos</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: parts of it could not be read</source>
+        <translation>La imagen está cortada: no se pudieron leer partes de ella</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its transparency could not be read</source>
+        <translation>La imagen está cortada: no se pudo leer su transparencia</translation>
+    </message>
+    <message>
+        <source>The picture is damaged: parts of it may look wrong</source>
+        <translation>La imagen está dañada: partes de ella pueden verse mal</translation>
+    </message>
+    <message>
+        <source>The file is too short for the image its header describes</source>
+        <translation>El archivo es demasiado corto para la imagen que describe su cabecera</translation>
+    </message>
+    <message>
+        <source>The image&apos;s rows are damaged</source>
+        <translation>Las filas de la imagen están dañadas</translation>
+    </message>
+    <message>
+        <source>The image has fewer rows than its header says</source>
+        <translation>La imagen tiene menos filas de las que dice su cabecera</translation>
+    </message>
+    <message>
+        <source>SOURCE_DATE_EPOCH is &quot;%1&quot;, not the seconds from 1970 to a date before the year 10000</source>
+        <translation>SOURCE_DATE_EPOCH es «%1», y no los segundos desde 1970 hasta una fecha anterior al año 10000</translation>
+    </message>
+    <message>
+        <source>1 structure tag</source>
+        <translation>1 etiqueta de estructura</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags</source>
+        <translation>
+            <numerusform>%n etiqueta de estructura</numerusform>
+            <numerusform>%n etiquetas de estructura</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 attachment</source>
+        <translation>1 adjunto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments</source>
+        <translation>
+            <numerusform>%n adjunto</numerusform>
+            <numerusform>%n adjuntos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a portfolio</source>
+        <translation>una cartera</translation>
+    </message>
+    <message>
+        <source>an XFA form</source>
+        <translation>un formulario XFA</translation>
+    </message>
+    <message>
+        <source>document scripts</source>
+        <translation>scripts del documento</translation>
+    </message>
+    <message>
+        <source>page templates</source>
+        <translation>plantillas de página</translation>
+    </message>
+    <message>
+        <source>article threads</source>
+        <translation>hilos de artículos</translation>
+    </message>
+    <message>
+        <source>further layer settings</source>
+        <translation>otros ajustes de las capas</translation>
+    </message>
+    <message>
+        <source>a base address of links</source>
+        <translation>una dirección base de los enlaces</translation>
+    </message>
+    <message>
+        <source>usage rights</source>
+        <translation>derechos de uso</translation>
+    </message>
+    <message>
+        <source>the language</source>
+        <translation>el idioma</translation>
+    </message>
+    <message>
+        <source>metadata</source>
+        <translation>metadatos</translation>
+    </message>
+    <message>
+        <source>1 further document property</source>
+        <translation>1 propiedad más del documento</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further document properties</source>
+        <translation>
+            <numerusform>%n propiedad más del documento</numerusform>
+            <numerusform>%n propiedades más del documento</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>output intents</source>
+        <translation>condiciones de salida</translation>
+    </message>
+    <message>
+        <source>1 signature</source>
+        <translation>1 firma</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures</source>
+        <translation>
+            <numerusform>%n firma</numerusform>
+            <numerusform>%n firmas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 link</source>
+        <translation>1 enlace</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links</source>
+        <translation>
+            <numerusform>%n enlace</numerusform>
+            <numerusform>%n enlaces</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 annotation</source>
+        <translation>1 anotación</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n annotations</source>
+        <translation>
+            <numerusform>%n anotación</numerusform>
+            <numerusform>%n anotaciones</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 bookmark</source>
+        <translation>1 marcador</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bookmarks</source>
+        <translation>
+            <numerusform>%n marcador</numerusform>
+            <numerusform>%n marcadores</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>page labels</source>
+        <translation>etiquetas de página</translation>
+    </message>
+    <message>
+        <source>1 field</source>
+        <translation>1 campo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields</source>
+        <translation>
+            <numerusform>%n campo</numerusform>
+            <numerusform>%n campos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 layer</source>
+        <translation>1 capa</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n layers</source>
+        <translation>
+            <numerusform>%n capa</numerusform>
+            <numerusform>%n capas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 named destination</source>
+        <translation>1 destino con nombre</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n named destinations</source>
+        <translation>
+            <numerusform>%n destino con nombre</numerusform>
+            <numerusform>%n destinos con nombre</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>further names</source>
+        <translation>otros nombres</translation>
+    </message>
+    <message>
+        <source>1 further catalog entry</source>
+        <translation>1 entrada más del catálogo</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further catalog entries</source>
+        <translation>
+            <numerusform>%n entrada más del catálogo</numerusform>
+            <numerusform>%n entradas más del catálogo</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 renamed name</source>
+        <translation>1 nombre cambiado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renamed names</source>
+        <translation>
+            <numerusform>%n nombre cambiado</numerusform>
+            <numerusform>%n nombres cambiados</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The document&apos;s identifier cannot be written</source>
+        <translation>No se puede escribir el identificador del documento</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be embedded</source>
+        <translation>La fuente %1 no se puede incrustar</translation>
+    </message>
+    <message>
+        <source>It has 1 page, and &quot;%1&quot; names others</source>
+        <translation>Hay 1 página, y «%1» nombra otras</translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n pages, and &quot;%1&quot; names others</source>
+        <translation>
+            <numerusform>Hay %n página, y «%1» nombra otras</numerusform>
+            <numerusform>Hay %n páginas, y «%1» nombra otras</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 signature is left out, since it holds for the original file alone</source>
+        <translation>Se omite 1 firma, porque solo vale para el archivo original</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures are left out, since they hold for the original file alone</source>
+        <translation>
+            <numerusform>Se omite %n firma, porque solo vale para el archivo original</numerusform>
+            <numerusform>Se omiten %n firmas, porque solo valen para el archivo original</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 structure tag is damaged and left out</source>
+        <translation>1 etiqueta de estructura está dañada y se omite</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags are damaged and left out</source>
+        <translation>
+            <numerusform>%n etiqueta de estructura está dañada y se omite</numerusform>
+            <numerusform>%n etiquetas de estructura están dañadas y se omiten</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over, as it belongs to pages that are left out: %1</source>
+        <translation>No se conserva, porque pertenece a páginas omitidas: %1</translation>
+    </message>
+    <message>
+        <source>The document has no pages</source>
+        <translation>El documento no tiene páginas</translation>
+    </message>
+    <message>
+        <source>1 form field is renamed, since another document has one of its name: &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>Se cambió el nombre de 1 campo de formulario, porque otro documento tiene uno igual: «%1» es ahora «%2»; los scripts quedan como están</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n form fields are renamed, since another document has fields of their names, such as &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>
+            <numerusform>Se cambió el nombre de %n campo de formulario, porque otro documento tiene uno igual, como «%1» por «%2»; los scripts quedan como están</numerusform>
+            <numerusform>Se cambió el nombre de %n campos de formulario, porque otro documento tiene campos iguales, como «%1» por «%2»; los scripts quedan como están</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over: %1</source>
+        <translation>No se conserva: %1</translation>
+    </message>
+    <message>
+        <source>it is a part of another one now</source>
+        <translation>ahora es parte de otro</translation>
+    </message>
+    <message>
+        <source>it was damaged</source>
+        <translation>estaba dañado</translation>
+    </message>
+    <message>
+        <source>some of its structure tags are damaged</source>
+        <translation>algunas de sus etiquetas de estructura están dañadas</translation>
+    </message>
+    <message>
+        <source>that forbids encryption</source>
+        <translation>esa norma prohíbe el cifrado</translation>
+    </message>
+    <message>
+        <source>that forbids the document information, which is written</source>
+        <translation>esa norma prohíbe la información del documento, que se escribe</translation>
+    </message>
+    <message>
+        <source>that demands a title, and none is given</source>
+        <translation>esa norma exige un título, y no se ha dado ninguno</translation>
+    </message>
+    <message>
+        <source>The document no longer says that it is %1, since %2</source>
+        <translation>El documento ya no declara que es %1: %2</translation>
+    </message>
+    <message>
+        <source>Some of its bookmarks are missing in the document itself</source>
+        <translation>Algunos de sus marcadores faltan en el propio documento</translation>
+    </message>
+    <message>
+        <source>Some of its form fields are missing in the document itself</source>
+        <translation>Algunos de sus campos de formulario faltan en el propio documento</translation>
+    </message>
+    <message>
+        <source>The page tree contains itself</source>
+        <translation>El árbol de páginas se contiene a sí mismo</translation>
+    </message>
+    <message>
+        <source>The document has no page tree</source>
+        <translation>El documento no tiene árbol de páginas</translation>
+    </message>
+    <message>
+        <source>The document states %1 pages, and %2 were found</source>
+        <translation>El documento declara %1 páginas, y se encontraron %2</translation>
+    </message>
+    <message>
+        <source>The document does not state its pages, and %1 were found</source>
+        <translation>El documento no declara sus páginas, y se encontraron %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read, page %3 is the first that is missing</source>
+        <translation>Se pudieron leer %1 de %2 páginas, la página %3 es la primera que falta</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read</source>
+        <translation>Se pudieron leer %1 de %2 páginas</translation>
+    </message>
+    <message>
+        <source>What stands on page %1 is damaged and may lack something</source>
+        <translation>Lo que hay en la página %1 está dañado y puede estar incompleto</translation>
+    </message>
+    <message>
+        <source>The document is damaged and was repaired: %1</source>
+        <translation>El documento está dañado y se reparó: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The document is damaged and was repaired in %n places, the first: %1</source>
+        <translation>
+            <numerusform>El documento está dañado y se reparó en %n lugar, el primero: %1</numerusform>
+            <numerusform>El documento está dañado y se reparó en %n lugares, el primero: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not a PDF file</source>
+        <translation>No es un archivo PDF</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and its permissions do not let its pages be taken; its owner password would</source>
+        <translation>El documento está cifrado, y sus permisos no dejan tomar sus páginas; su contraseña de propietario lo permitiría</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and none of the passwords opens it</source>
+        <translation>El documento está cifrado, y ninguna de las contraseñas lo abre</translation>
+    </message>
+    <message>
+        <source>It is a dynamic XFA form, whose pages only a program for such forms makes</source>
+        <translation>Es un formulario XFA dinámico, cuyas páginas solo crea un programa para esos formularios</translation>
+    </message>
+    <message>
+        <source>The document is too damaged to be repaired</source>
+        <translation>El documento está demasiado dañado para repararlo</translation>
+    </message>
+    <message>
+        <source>The document is damaged: its trailer and its table of objects are missing</source>
+        <translation>El documento está dañado: faltan su parte final y su tabla de objetos</translation>
+    </message>
+    <message>
+        <source>The document is damaged: it has no catalog</source>
+        <translation>El documento está dañado: no tiene catálogo</translation>
+    </message>
+    <message>
+        <source>page %1 (%2)</source>
+        <translation>página %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Readers need not show pages beyond 3 to 14,400 units: %1</source>
+        <translation>Los lectores no tienen que mostrar páginas fuera de 3 a 14 400 unidades: %1</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it has the protection that was asked for instead</source>
+        <translation>El documento está protegido, y el PDF creado con él tiene en su lugar la protección pedida</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it is not</source>
+        <translation>El documento está protegido, y el PDF creado con él no lo está</translation>
+    </message>
+    <message>
+        <source>its header is missing</source>
+        <translation>falta su cabecera</translation>
+    </message>
+    <message>
+        <source>the length of a stream is wrong</source>
+        <translation>la longitud de un flujo es incorrecta</translation>
+    </message>
+    <message>
+        <source>a stream is cut off</source>
+        <translation>un flujo está cortado</translation>
+    </message>
+    <message>
+        <source>its table of objects is damaged</source>
+        <translation>su tabla de objetos está dañada</translation>
+    </message>
+    <message>
+        <source>an object is not where the table of objects says</source>
+        <translation>un objeto no está donde dice la tabla de objetos</translation>
+    </message>
+    <message>
+        <source>it has no catalog</source>
+        <translation>no tiene catálogo</translation>
+    </message>
+    <message>
+        <source>the data of a stream is damaged</source>
+        <translation>los datos de un flujo están dañados</translation>
+    </message>
+    <message>
+        <source>an object is not well formed</source>
+        <translation>un objeto está mal formado</translation>
+    </message>
+    <message>
+        <source>%1 (object %2)</source>
+        <translation>%1 (objeto %2)</translation>
+    </message>
+    <message>
+        <source>The document is damaged: %1</source>
+        <translation>El documento está dañado: %1</translation>
+    </message>
+    <message>
+        <source>The document is damaged</source>
+        <translation>El documento está dañado</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be read</source>
+        <translation>La fuente %1 no se puede leer</translation>
+    </message>
+    <message>
+        <source>The text has too many different forms of letters</source>
+        <translation>El texto tiene demasiadas formas distintas de letras</translation>
+    </message>
+    <message>
+        <source>private use</source>
+        <translation>uso privado</translation>
+    </message>
+    <message>
+        <source>unassigned</source>
+        <translation>sin asignar</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>otros</translation>
+    </message>
+    <message>
+        <source>1 character has no glyph in any font and is shown as a box: %1</source>
+        <translation>1 carácter no está en ninguna fuente y se muestra como un recuadro: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters have no glyph in any font and are shown as boxes: %1</source>
+        <translation>
+            <numerusform>%n carácter no está en ninguna fuente y se muestra como un recuadro: %1</numerusform>
+            <numerusform>%n caracteres no están en ninguna fuente y se muestran como recuadros: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 character is split between two rows and shown as boxes</source>
+        <translation>1 carácter queda dividido entre dos líneas y se muestra como un recuadro</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters are split between two rows and shown as boxes</source>
+        <translation>
+            <numerusform>%n carácter queda dividido entre dos líneas y se muestra como un recuadro</numerusform>
+            <numerusform>%n caracteres quedan divididos entre dos líneas y se muestran como recuadros</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The rules for the breaking of lines cannot be loaded: %1</source>
+        <translation>No se pueden cargar las reglas para dividir las líneas: %1</translation>
+    </message>
+    <message>
+        <source>The header or the footer has more rows than its margin</source>
+        <translation>El encabezado o el pie de página tiene más líneas que su margen</translation>
+    </message>
+    <message>
+        <source>The text is not valid %1</source>
+        <translation>El texto no es %1 válido</translation>
+    </message>
+    <message>
+        <source>The bytes do not tell the encoding of the text</source>
+        <translation>Los bytes no indican la codificación del texto</translation>
+    </message>
+    <message>
+        <source>There is no font to write text with</source>
+        <translation>No hay ninguna fuente para escribir texto</translation>
     </message>
 </context>
 <context>

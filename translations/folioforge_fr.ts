@@ -116,6 +116,10 @@ PDFium, BSD licence</translation>
             <numerusform>%n pages</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1.</translation>
+    </message>
 </context>
 <context>
     <name>FileDialog</name>
@@ -792,6 +796,998 @@ Aucune : les images restent telles quelles
     <message>
         <source>The password is longer than %1 bytes</source>
         <translation>Le mot de passe dépasse %1 octets</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>The conversion was stopped</source>
+        <translation>La conversion a été interrompue</translation>
+    </message>
+    <message>
+        <source>Its name was taken by another file</source>
+        <translation>Un autre fichier a pris son nom</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 ne peut pas être lu : %2</translation>
+    </message>
+    <message>
+        <source>%1 is a binary property list; only XML can be read</source>
+        <translation>%1 est une liste de propriétés binaire ; seul le XML peut être lu</translation>
+    </message>
+    <message>
+        <source>%1 is no valid property list</source>
+        <translation>%1 n’est pas une liste de propriétés valide</translation>
+    </message>
+    <message>
+        <source>The filter file %1 lacks a valid value for &quot;%2&quot;</source>
+        <translation>Il manque au fichier de filtre %1 une valeur valide pour « %2 »</translation>
+    </message>
+    <message>
+        <source>Not all of the PDF is tagged, as these are not: %1</source>
+        <translation>Le PDF n’est pas balisé en entier, car ceux-ci ne le sont pas : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 et %n autre</numerusform>
+            <numerusform>%1 et %n autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no page to write</source>
+        <translation>Il n’y a aucune page à écrire</translation>
+    </message>
+    <message>
+        <source>Its PDF is there and not older</source>
+        <translation>Son PDF existe déjà et n’est pas plus ancien</translation>
+    </message>
+    <message>
+        <source>Its PDF would take the place of an input, %1</source>
+        <translation>Son PDF prendrait la place d’un fichier source, %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory</source>
+        <translation>La mémoire est insuffisante</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>It is not a recognised type</source>
+        <translation>Ce type de fichier n’est pas reconnu</translation>
+    </message>
+    <message>
+        <source>1 PDF</source>
+        <translation>1 PDF</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDFs</source>
+        <translation>
+            <numerusform>%n PDF</numerusform>
+            <numerusform>%n PDF</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 folder</source>
+        <translation>1 dossier</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n dossier</numerusform>
+            <numerusform>%n dossiers</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file of another type</source>
+        <translation>1 fichier d’un autre type</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files of other types</source>
+        <translation>
+            <numerusform>%n fichier d’un autre type</numerusform>
+            <numerusform>%n fichiers d’autres types</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Non pris : %1</translation>
+    </message>
+    <message>
+        <source>The folder cannot be listed: %1</source>
+        <translation>Le contenu du dossier ne peut pas être listé : %1</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>Le document est chiffré</translation>
+    </message>
+    <message>
+        <source>The text is larger than 2 GB</source>
+        <translation>Le texte dépasse 2 Go</translation>
+    </message>
+    <message>
+        <source>The text is read as %1, a guess</source>
+        <translation>Le texte est lu comme %1, par supposition</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8; its page is left blank</source>
+        <translation>Le texte n’est pas de l’UTF-8 valide ; sa page reste vide</translation>
+    </message>
+    <message>
+        <source>Cannot open the file</source>
+        <translation>Impossible d’ouvrir le fichier</translation>
+    </message>
+    <message>
+        <source>Cannot create a file in %1</source>
+        <translation>Impossible de créer un fichier dans %1</translation>
+    </message>
+    <message>
+        <source>Cannot write a file in %1</source>
+        <translation>Impossible d’écrire un fichier dans %1</translation>
+    </message>
+    <message>
+        <source>Cannot read back a file in %1</source>
+        <translation>Impossible de relire un fichier dans %1</translation>
+    </message>
+    <message>
+        <source>Cannot flush a file in %1</source>
+        <translation>Impossible d’enregistrer un fichier sur le disque dans %1</translation>
+    </message>
+    <message>
+        <source>Cannot name a file in %1</source>
+        <translation>Impossible de donner son nom à un fichier dans %1</translation>
+    </message>
+    <message>
+        <source>The file system cannot flush files to the disk</source>
+        <translation>Le système de fichiers ne peut pas garantir l’écriture des fichiers sur le disque</translation>
+    </message>
+    <message>
+        <source>Cannot read the file</source>
+        <translation>Impossible de lire le fichier</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>Ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>The file ends too early</source>
+        <translation>Le fichier se termine trop tôt</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed while it was being converted</source>
+        <translation>Le fichier %1 a été modifié pendant sa conversion</translation>
+    </message>
+    <message>
+        <source>The file %1 ended too early</source>
+        <translation>Le fichier %1 s’est terminé trop tôt</translation>
+    </message>
+    <message>
+        <source>Cannot create a temporary file</source>
+        <translation>Impossible de créer un fichier temporaire</translation>
+    </message>
+    <message>
+        <source>Cannot write a temporary file</source>
+        <translation>Impossible d’écrire un fichier temporaire</translation>
+    </message>
+    <message>
+        <source>Cannot read a temporary file</source>
+        <translation>Impossible de lire un fichier temporaire</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>The picture is made for HDR screens, and a PDF shows its brightness otherwise</source>
+        <translation>L’image est faite pour les écrans HDR, et un PDF montre sa luminosité autrement</translation>
+    </message>
+    <message>
+        <source>The compressed data is damaged</source>
+        <translation>Les données compressées sont endommagées</translation>
+    </message>
+    <message>
+        <source>The file is no bitmap</source>
+        <translation>Le fichier n’est pas une image bitmap</translation>
+    </message>
+    <message>
+        <source>The bitmap is of an unknown kind</source>
+        <translation>L’image bitmap est d’un genre inconnu</translation>
+    </message>
+    <message>
+        <source>The bitmap has more colours than its pixels can name</source>
+        <translation>L’image bitmap a plus de couleurs que ses pixels ne peuvent en désigner</translation>
+    </message>
+    <message>
+        <source>Pixels that the file leaves out have its first colour</source>
+        <translation>Les pixels absents du fichier ont sa première couleur</translation>
+    </message>
+    <message>
+        <source>The EXR file cannot be read: %1</source>
+        <translation>Le fichier EXR ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>The EXR file has no channels of colour or brightness</source>
+        <translation>Le fichier EXR n’a aucun canal de couleur ou de luminosité</translation>
+    </message>
+    <message>
+        <source>The EXR file is damaged: none of its rows can be read</source>
+        <translation>Le fichier EXR est endommagé : aucune de ses lignes ne peut être lue</translation>
+    </message>
+    <message>
+        <source>The GIF file is damaged</source>
+        <translation>Le fichier GIF est endommagé</translation>
+    </message>
+    <message>
+        <source>The file holds no image</source>
+        <translation>Le fichier ne contient aucune image</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file cannot be read: %1</source>
+        <translation>Le fichier HEIC ou AVIF ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>The system grants no thread, which HEIC and AVIF files take</source>
+        <translation>Le système n’accorde pas le fil d’exécution que demandent les fichiers HEIC et AVIF</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file is damaged</source>
+        <translation>Le fichier HEIC ou AVIF est endommagé</translation>
+    </message>
+    <message>
+        <source>Its moving pictures are left out</source>
+        <translation>Ses images animées sont laissées de côté</translation>
+    </message>
+    <message>
+        <source>The icon file is cut off or damaged: there may be a larger picture in the part that is missing</source>
+        <translation>Le fichier d’icône est tronqué ou endommagé : la partie manquante contient peut-être une image plus grande</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s pixels are of an unknown kind</source>
+        <translation>Les pixels de l’icône sont d’un genre inconnu</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s picture is of an unknown kind</source>
+        <translation>L’image de l’icône est d’un genre inconnu</translation>
+    </message>
+    <message>
+        <source>The icon file holds no picture that can be read</source>
+        <translation>Le fichier d’icône ne contient aucune image lisible</translation>
+    </message>
+    <message>
+        <source>%1 of the icon&apos;s %2 pictures cannot be read</source>
+        <translation>%1 des %2 images de l’icône ne peuvent pas être lues</translation>
+    </message>
+    <message>
+        <source>The JPEG file ends before its picture begins</source>
+        <translation>Le fichier JPEG se termine avant le début de son image</translation>
+    </message>
+    <message>
+        <source>The JPEG file has %1 colour components, which is no colour that a PDF can show</source>
+        <translation>Le fichier JPEG a %1 composantes de couleur, ce qu’aucun PDF ne peut montrer</translation>
+    </message>
+    <message>
+        <source>The JPEG file is of a kind that no PDF can hold (lossless, hierarchical or more than 8 bits)</source>
+        <translation>Le fichier JPEG est d’un genre qu’aucun PDF ne peut contenir (sans perte, hiérarchique ou plus de 8 bits)</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is damaged</source>
+        <translation>Le fichier JPEG 2000 est endommagé</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file holds no picture</source>
+        <translation>Le fichier JPEG 2000 ne contient aucune image</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its tiles could not be read</source>
+        <translation>L’image est tronquée : %1 % de ses tuiles n’ont pas pu être lues</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its data could not be read</source>
+        <translation>L’image est tronquée : %1 % de ses données n’ont pas pu être lues</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is cut off</source>
+        <translation>Le fichier JPEG 2000 est tronqué</translation>
+    </message>
+    <message>
+        <source>The JPEG file is damaged: none of its rows could be read</source>
+        <translation>Le fichier JPEG est endommagé : aucune de ses lignes n’a pu être lue</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file is damaged</source>
+        <translation>Le fichier JPEG XL est endommagé</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file has %1 channels beside its colours, which are too many</source>
+        <translation>Le fichier JPEG XL a %1 canaux en plus de ses couleurs, ce qui est trop</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file stores inks, which cannot be read</source>
+        <translation>Le fichier JPEG XL contient des encres, qui ne peuvent pas être lues</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read %1 files</source>
+        <translation>Ce programme a été construit sans les moyens de lire les fichiers %1</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to decode JPEG 2000</source>
+        <translation>Ce programme a été construit sans les moyens de décoder le JPEG 2000</translation>
+    </message>
+    <message>
+        <source>The PNG file is damaged</source>
+        <translation>Le fichier PNG est endommagé</translation>
+    </message>
+    <message>
+        <source>The PNG file holds no picture</source>
+        <translation>Le fichier PNG ne contient aucune image</translation>
+    </message>
+    <message>
+        <source>The PNG file has no palette</source>
+        <translation>Le fichier PNG n’a pas de palette</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s compression is unknown</source>
+        <translation>La compression du fichier Photoshop est inconnue</translation>
+    </message>
+    <message>
+        <source>The Photoshop file holds its layers alone: save it with maximized compatibility, which adds the picture they make</source>
+        <translation>Le fichier Photoshop ne contient que ses calques : enregistrez-le avec la compatibilité maximale, qui ajoute l’image qu’ils forment</translation>
+    </message>
+    <message>
+        <source>The Photoshop file has no palette</source>
+        <translation>Le fichier Photoshop n’a pas de palette</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s colour mode is unknown</source>
+        <translation>Le mode de couleur du fichier Photoshop est inconnu</translation>
+    </message>
+    <message>
+        <source>The Photoshop file is damaged</source>
+        <translation>Le fichier Photoshop est endommagé</translation>
+    </message>
+    <message>
+        <source>The file is no TGA image that can be read</source>
+        <translation>Le fichier n’est pas une image TGA lisible</translation>
+    </message>
+    <message>
+        <source>The file names a further page that cannot be read</source>
+        <translation>Le fichier annonce une page de plus, qui ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>its form is not supported</source>
+        <translation>sa forme n’est pas prise en charge</translation>
+    </message>
+    <message>
+        <source>it has no pixels</source>
+        <translation>il n’a aucun pixel</translation>
+    </message>
+    <message>
+        <source>it is larger than any picture</source>
+        <translation>il est plus grand que toute image</translation>
+    </message>
+    <message>
+        <source>its directory is damaged</source>
+        <translation>son répertoire est endommagé</translation>
+    </message>
+    <message>
+        <source>it is cut off</source>
+        <translation>il est tronqué</translation>
+    </message>
+    <message>
+        <source>The TIFF file is damaged</source>
+        <translation>Le fichier TIFF est endommagé</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: %1</source>
+        <translation>Le fichier TIFF ne peut pas être lu : %1</translation>
+    </message>
+    <message>
+        <source>The TIFF file has no palette</source>
+        <translation>Le fichier TIFF n’a pas de palette</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: its compression is not supported</source>
+        <translation>Le fichier TIFF ne peut pas être lu : sa compression n’est pas prise en charge</translation>
+    </message>
+    <message>
+        <source>The WebP file is damaged</source>
+        <translation>Le fichier WebP est endommagé</translation>
+    </message>
+    <message>
+        <source>The WebP file is too large</source>
+        <translation>Le fichier WebP est trop grand</translation>
+    </message>
+    <message>
+        <source>The animation is too large (%1 x %2 pixels)</source>
+        <translation>L’animation est trop grande (%1 x %2 pixels)</translation>
+    </message>
+    <message>
+        <source>The file is empty</source>
+        <translation>Le fichier est vide</translation>
+    </message>
+    <message>
+        <source>The file is no image of a known format</source>
+        <translation>Le fichier n’est pas une image d’un format connu</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the image</source>
+        <translation>La mémoire est insuffisante pour l’image</translation>
+    </message>
+    <message>
+        <source>The image has no pixels</source>
+        <translation>L’image n’a aucun pixel</translation>
+    </message>
+    <message>
+        <source>The image is too large (%1 x %2 pixels)</source>
+        <translation>L’image est trop grande (%1 x %2 pixels)</translation>
+    </message>
+    <message>
+        <source>1 further page is left out</source>
+        <translation>1 page de plus est laissée de côté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages are left out</source>
+        <translation>
+            <numerusform>%n page de plus est laissée de côté</numerusform>
+            <numerusform>%n pages de plus sont laissées de côté</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further frame is left out</source>
+        <translation>1 image de l’animation est laissée de côté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further frames are left out</source>
+        <translation>
+            <numerusform>%n image de l’animation est laissée de côté</numerusform>
+            <numerusform>%n images de l’animation sont laissées de côté</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further part is left out</source>
+        <translation>1 partie de plus est laissée de côté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further parts are left out</source>
+        <translation>
+            <numerusform>%n partie de plus est laissée de côté</numerusform>
+            <numerusform>%n parties de plus sont laissées de côté</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further picture is left out</source>
+        <translation>1 image de plus est laissée de côté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pictures are left out</source>
+        <translation>
+            <numerusform>%n image de plus est laissée de côté</numerusform>
+            <numerusform>%n images de plus sont laissées de côté</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is left out: %1</source>
+        <translation>Laissée de côté : %1</translation>
+    </message>
+    <message>
+        <source>It and those behind it are left out, since they are too large together</source>
+        <translation>Cette page et les suivantes sont laissées de côté, car elles sont trop grandes ensemble</translation>
+    </message>
+    <message>
+        <source>Page %1: %2</source>
+        <translation>Page %1 : %2</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its rows could not be read</source>
+        <translation>L’image est tronquée : %1 % de ses lignes n’ont pas pu être lues</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its finer details could not be read</source>
+        <translation>L’image est tronquée : ses détails les plus fins n’ont pas pu être lus</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: parts of it could not be read</source>
+        <translation>L’image est tronquée : des parties n’ont pas pu être lues</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its transparency could not be read</source>
+        <translation>L’image est tronquée : sa transparence n’a pas pu être lue</translation>
+    </message>
+    <message>
+        <source>The picture is damaged: parts of it may look wrong</source>
+        <translation>L’image est endommagée : des parties peuvent sembler fausses</translation>
+    </message>
+    <message>
+        <source>The file is too short for the image its header describes</source>
+        <translation>Le fichier est trop court pour l’image que décrit son en-tête</translation>
+    </message>
+    <message>
+        <source>The image&apos;s rows are damaged</source>
+        <translation>Les lignes de l’image sont endommagées</translation>
+    </message>
+    <message>
+        <source>The image has fewer rows than its header says</source>
+        <translation>L’image a moins de lignes que son en-tête n’en annonce</translation>
+    </message>
+    <message>
+        <source>SOURCE_DATE_EPOCH is &quot;%1&quot;, not the seconds from 1970 to a date before the year 10000</source>
+        <translation>SOURCE_DATE_EPOCH vaut « %1 », et non les secondes de 1970 à une date avant l’an 10000</translation>
+    </message>
+    <message>
+        <source>1 structure tag</source>
+        <translation>1 balise de structure</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags</source>
+        <translation>
+            <numerusform>%n balise de structure</numerusform>
+            <numerusform>%n balises de structure</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 attachment</source>
+        <translation>1 pièce jointe</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments</source>
+        <translation>
+            <numerusform>%n pièce jointe</numerusform>
+            <numerusform>%n pièces jointes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a portfolio</source>
+        <translation>un porte-documents</translation>
+    </message>
+    <message>
+        <source>an XFA form</source>
+        <translation>un formulaire XFA</translation>
+    </message>
+    <message>
+        <source>document scripts</source>
+        <translation>des scripts du document</translation>
+    </message>
+    <message>
+        <source>page templates</source>
+        <translation>des modèles de page</translation>
+    </message>
+    <message>
+        <source>article threads</source>
+        <translation>des fils d’articles</translation>
+    </message>
+    <message>
+        <source>further layer settings</source>
+        <translation>d’autres réglages des calques</translation>
+    </message>
+    <message>
+        <source>a base address of links</source>
+        <translation>une adresse de base des liens</translation>
+    </message>
+    <message>
+        <source>usage rights</source>
+        <translation>des droits d’utilisation</translation>
+    </message>
+    <message>
+        <source>the language</source>
+        <translation>la langue</translation>
+    </message>
+    <message>
+        <source>metadata</source>
+        <translation>des métadonnées</translation>
+    </message>
+    <message>
+        <source>1 further document property</source>
+        <translation>1 autre propriété du document</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further document properties</source>
+        <translation>
+            <numerusform>%n autre propriété du document</numerusform>
+            <numerusform>%n autres propriétés du document</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>output intents</source>
+        <translation>des conditions de sortie</translation>
+    </message>
+    <message>
+        <source>1 signature</source>
+        <translation>1 signature</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures</source>
+        <translation>
+            <numerusform>%n signature</numerusform>
+            <numerusform>%n signatures</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 link</source>
+        <translation>1 lien</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links</source>
+        <translation>
+            <numerusform>%n lien</numerusform>
+            <numerusform>%n liens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 annotation</source>
+        <translation>1 annotation</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n annotations</source>
+        <translation>
+            <numerusform>%n annotation</numerusform>
+            <numerusform>%n annotations</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 bookmark</source>
+        <translation>1 signet</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bookmarks</source>
+        <translation>
+            <numerusform>%n signet</numerusform>
+            <numerusform>%n signets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>page labels</source>
+        <translation>des étiquettes de page</translation>
+    </message>
+    <message>
+        <source>1 field</source>
+        <translation>1 champ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields</source>
+        <translation>
+            <numerusform>%n champ</numerusform>
+            <numerusform>%n champs</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 layer</source>
+        <translation>1 calque</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n layers</source>
+        <translation>
+            <numerusform>%n calque</numerusform>
+            <numerusform>%n calques</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 named destination</source>
+        <translation>1 destination nommée</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n named destinations</source>
+        <translation>
+            <numerusform>%n destination nommée</numerusform>
+            <numerusform>%n destinations nommées</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>further names</source>
+        <translation>d’autres noms</translation>
+    </message>
+    <message>
+        <source>1 further catalog entry</source>
+        <translation>1 autre entrée du catalogue</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further catalog entries</source>
+        <translation>
+            <numerusform>%n autre entrée du catalogue</numerusform>
+            <numerusform>%n autres entrées du catalogue</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 renamed name</source>
+        <translation>1 nom changé</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renamed names</source>
+        <translation>
+            <numerusform>%n nom changé</numerusform>
+            <numerusform>%n noms changés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The document&apos;s identifier cannot be written</source>
+        <translation>L’identifiant du document ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be embedded</source>
+        <translation>La police %1 ne peut pas être incorporée</translation>
+    </message>
+    <message>
+        <source>It has 1 page, and &quot;%1&quot; names others</source>
+        <translation>Il y a 1 page, et « %1 » en désigne d’autres</translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n pages, and &quot;%1&quot; names others</source>
+        <translation>
+            <numerusform>Il y a %n page, et « %1 » en désigne d’autres</numerusform>
+            <numerusform>Il y a %n pages, et « %1 » en désigne d’autres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 signature is left out, since it holds for the original file alone</source>
+        <translation>1 signature est laissée de côté, car elle ne vaut que pour le fichier d’origine</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures are left out, since they hold for the original file alone</source>
+        <translation>
+            <numerusform>%n signature est laissée de côté, car elle ne vaut que pour le fichier d’origine</numerusform>
+            <numerusform>%n signatures sont laissées de côté, car elles ne valent que pour le fichier d’origine</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 structure tag is damaged and left out</source>
+        <translation>1 balise de structure est endommagée et laissée de côté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags are damaged and left out</source>
+        <translation>
+            <numerusform>%n balise de structure est endommagée et laissée de côté</numerusform>
+            <numerusform>%n balises de structure sont endommagées et laissées de côté</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over, as it belongs to pages that are left out: %1</source>
+        <translation>Non repris, car lié à des pages laissées de côté : %1</translation>
+    </message>
+    <message>
+        <source>The document has no pages</source>
+        <translation>Le document n’a aucune page</translation>
+    </message>
+    <message>
+        <source>1 form field is renamed, since another document has one of its name: &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>1 champ de formulaire est renommé, car un autre document en a un du même nom : « %1 » est maintenant « %2 » ; les scripts restent tels quels</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n form fields are renamed, since another document has fields of their names, such as &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>
+            <numerusform>%n champ de formulaire est renommé, car un autre document en a un du même nom, comme « %1 » en « %2 » ; les scripts restent tels quels</numerusform>
+            <numerusform>%n champs de formulaire sont renommés, car un autre document en a des mêmes noms, comme « %1 » en « %2 » ; les scripts restent tels quels</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over: %1</source>
+        <translation>Non repris : %1</translation>
+    </message>
+    <message>
+        <source>it is a part of another one now</source>
+        <translation>il fait maintenant partie d’un autre</translation>
+    </message>
+    <message>
+        <source>it was damaged</source>
+        <translation>il était endommagé</translation>
+    </message>
+    <message>
+        <source>some of its structure tags are damaged</source>
+        <translation>certaines de ses balises de structure sont endommagées</translation>
+    </message>
+    <message>
+        <source>that forbids encryption</source>
+        <translation>cette norme interdit le chiffrement</translation>
+    </message>
+    <message>
+        <source>that forbids the document information, which is written</source>
+        <translation>cette norme interdit les informations du document, qui sont écrites</translation>
+    </message>
+    <message>
+        <source>that demands a title, and none is given</source>
+        <translation>cette norme exige un titre, et aucun n’est donné</translation>
+    </message>
+    <message>
+        <source>The document no longer says that it is %1, since %2</source>
+        <translation>Le document ne déclare plus qu’il est %1 : %2</translation>
+    </message>
+    <message>
+        <source>Some of its bookmarks are missing in the document itself</source>
+        <translation>Certains de ses signets manquent dans le document lui-même</translation>
+    </message>
+    <message>
+        <source>Some of its form fields are missing in the document itself</source>
+        <translation>Certains de ses champs de formulaire manquent dans le document lui-même</translation>
+    </message>
+    <message>
+        <source>The page tree contains itself</source>
+        <translation>L’arbre des pages se contient lui-même</translation>
+    </message>
+    <message>
+        <source>The document has no page tree</source>
+        <translation>Le document n’a pas d’arbre des pages</translation>
+    </message>
+    <message>
+        <source>The document states %1 pages, and %2 were found</source>
+        <translation>Le document annonce %1 pages, et %2 ont été trouvées</translation>
+    </message>
+    <message>
+        <source>The document does not state its pages, and %1 were found</source>
+        <translation>Le document n’annonce pas ses pages, et %1 ont été trouvées</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read, page %3 is the first that is missing</source>
+        <translation>%1 pages sur %2 ont pu être lues, la page %3 est la première qui manque</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read</source>
+        <translation>%1 pages sur %2 ont pu être lues</translation>
+    </message>
+    <message>
+        <source>What stands on page %1 is damaged and may lack something</source>
+        <translation>Ce qui figure à la page %1 est endommagé et peut être incomplet</translation>
+    </message>
+    <message>
+        <source>The document is damaged and was repaired: %1</source>
+        <translation>Le document est endommagé et a été réparé : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The document is damaged and was repaired in %n places, the first: %1</source>
+        <translation>
+            <numerusform>Le document est endommagé et a été réparé à %n endroit, le premier : %1</numerusform>
+            <numerusform>Le document est endommagé et a été réparé à %n endroits, le premier : %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not a PDF file</source>
+        <translation>Ce n’est pas un fichier PDF</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and its permissions do not let its pages be taken; its owner password would</source>
+        <translation>Le document est chiffré, et ses droits ne permettent pas de reprendre ses pages ; son mot de passe propriétaire le permettrait</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and none of the passwords opens it</source>
+        <translation>Le document est chiffré, et aucun des mots de passe ne l’ouvre</translation>
+    </message>
+    <message>
+        <source>It is a dynamic XFA form, whose pages only a program for such forms makes</source>
+        <translation>C’est un formulaire XFA dynamique, dont seul un programme pour ces formulaires produit les pages</translation>
+    </message>
+    <message>
+        <source>The document is too damaged to be repaired</source>
+        <translation>Le document est trop endommagé pour être réparé</translation>
+    </message>
+    <message>
+        <source>The document is damaged: its trailer and its table of objects are missing</source>
+        <translation>Le document est endommagé : sa fin et sa table des objets manquent</translation>
+    </message>
+    <message>
+        <source>The document is damaged: it has no catalog</source>
+        <translation>Le document est endommagé : il n’a pas de catalogue</translation>
+    </message>
+    <message>
+        <source>page %1 (%2)</source>
+        <translation>page %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Readers need not show pages beyond 3 to 14,400 units: %1</source>
+        <translation>Les lecteurs ne sont pas tenus d’afficher les pages hors de 3 à 14 400 unités : %1</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it has the protection that was asked for instead</source>
+        <translation>Le document est protégé, et le PDF qui en est fait a, à la place, la protection demandée</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it is not</source>
+        <translation>Le document est protégé, et le PDF qui en est fait ne l’est pas</translation>
+    </message>
+    <message>
+        <source>its header is missing</source>
+        <translation>son en-tête manque</translation>
+    </message>
+    <message>
+        <source>the length of a stream is wrong</source>
+        <translation>la longueur d’un flux est fausse</translation>
+    </message>
+    <message>
+        <source>a stream is cut off</source>
+        <translation>un flux est tronqué</translation>
+    </message>
+    <message>
+        <source>its table of objects is damaged</source>
+        <translation>sa table des objets est endommagée</translation>
+    </message>
+    <message>
+        <source>an object is not where the table of objects says</source>
+        <translation>un objet n’est pas là où l’indique la table des objets</translation>
+    </message>
+    <message>
+        <source>it has no catalog</source>
+        <translation>il n’a pas de catalogue</translation>
+    </message>
+    <message>
+        <source>the data of a stream is damaged</source>
+        <translation>les données d’un flux sont endommagées</translation>
+    </message>
+    <message>
+        <source>an object is not well formed</source>
+        <translation>un objet est mal formé</translation>
+    </message>
+    <message>
+        <source>%1 (object %2)</source>
+        <translation>%1 (objet %2)</translation>
+    </message>
+    <message>
+        <source>The document is damaged: %1</source>
+        <translation>Le document est endommagé : %1</translation>
+    </message>
+    <message>
+        <source>The document is damaged</source>
+        <translation>Le document est endommagé</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be read</source>
+        <translation>La police %1 ne peut pas être lue</translation>
+    </message>
+    <message>
+        <source>The text has too many different forms of letters</source>
+        <translation>Le texte a trop de formes de lettres différentes</translation>
+    </message>
+    <message>
+        <source>private use</source>
+        <translation>usage privé</translation>
+    </message>
+    <message>
+        <source>unassigned</source>
+        <translation>non attribué</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>autre</translation>
+    </message>
+    <message>
+        <source>1 character has no glyph in any font and is shown as a box: %1</source>
+        <translation>1 caractère n’existe dans aucune police et s’affiche comme un carré : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters have no glyph in any font and are shown as boxes: %1</source>
+        <translation>
+            <numerusform>%n caractère n’existe dans aucune police et s’affiche comme un carré : %1</numerusform>
+            <numerusform>%n caractères n’existent dans aucune police et s’affichent comme des carrés : %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 character is split between two rows and shown as boxes</source>
+        <translation>1 caractère est partagé entre deux lignes et s’affiche comme un carré</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters are split between two rows and shown as boxes</source>
+        <translation>
+            <numerusform>%n caractère est partagé entre deux lignes et s’affiche comme un carré</numerusform>
+            <numerusform>%n caractères sont partagés entre deux lignes et s’affichent comme des carrés</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The rules for the breaking of lines cannot be loaded: %1</source>
+        <translation>Les règles de coupure des lignes ne peuvent pas être chargées : %1</translation>
+    </message>
+    <message>
+        <source>The header or the footer has more rows than its margin</source>
+        <translation>L’en-tête ou le pied de page a plus de lignes que sa marge</translation>
+    </message>
+    <message>
+        <source>The text is not valid %1</source>
+        <translation>Le texte n’est pas du %1 valide</translation>
+    </message>
+    <message>
+        <source>The bytes do not tell the encoding of the text</source>
+        <translation>Les octets n’indiquent pas l’encodage du texte</translation>
+    </message>
+    <message>
+        <source>There is no font to write text with</source>
+        <translation>Il n’y a aucune police pour écrire du texte</translation>
     </message>
 </context>
 <context>

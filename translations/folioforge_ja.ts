@@ -115,6 +115,10 @@ PDFium, BSD licence</translation>
             <numerusform>%n ページ</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
 </context>
 <context>
     <name>FileDialog</name>
@@ -791,6 +795,971 @@ None: pictures stay as they are
     <message>
         <source>The password is longer than %1 bytes</source>
         <translation>パスワードが %1 バイトを超えています</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>The conversion was stopped</source>
+        <translation>変換を中止しました</translation>
+    </message>
+    <message>
+        <source>Its name was taken by another file</source>
+        <translation>その名前は別のファイルに使われました</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 を読み取れません: %2</translation>
+    </message>
+    <message>
+        <source>%1 is a binary property list; only XML can be read</source>
+        <translation>%1 はバイナリのプロパティリストです。読み取れるのは XML だけです</translation>
+    </message>
+    <message>
+        <source>%1 is no valid property list</source>
+        <translation>%1 は有効なプロパティリストではありません</translation>
+    </message>
+    <message>
+        <source>The filter file %1 lacks a valid value for &quot;%2&quot;</source>
+        <translation>フィルターファイル %1 に「%2」の有効な値がありません</translation>
+    </message>
+    <message>
+        <source>Not all of the PDF is tagged, as these are not: %1</source>
+        <translation>次のファイルにタグがないため、PDF の一部にタグがありません: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 ほか %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no page to write</source>
+        <translation>書き込むページがありません</translation>
+    </message>
+    <message>
+        <source>Its PDF is there and not older</source>
+        <translation>その PDF は既にあり、古くありません</translation>
+    </message>
+    <message>
+        <source>Its PDF would take the place of an input, %1</source>
+        <translation>その PDF は入力ファイル %1 を置き換えてしまいます</translation>
+    </message>
+    <message>
+        <source>There is not enough memory</source>
+        <translation>メモリが足りません</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>It is not a recognised type</source>
+        <translation>認識できない種類のファイルです</translation>
+    </message>
+    <message>
+        <source>1 PDF</source>
+        <translation>PDF 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDFs</source>
+        <translation>
+            <numerusform>PDF %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 folder</source>
+        <translation>フォルダー 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>フォルダー %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file of another type</source>
+        <translation>ほかの種類のファイル 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files of other types</source>
+        <translation>
+            <numerusform>ほかの種類のファイル %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>対象外: %1</translation>
+    </message>
+    <message>
+        <source>The folder cannot be listed: %1</source>
+        <translation>フォルダーの内容を一覧できません: %1</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>文書は暗号化されています</translation>
+    </message>
+    <message>
+        <source>The text is larger than 2 GB</source>
+        <translation>テキストが 2 GB を超えています</translation>
+    </message>
+    <message>
+        <source>The text is read as %1, a guess</source>
+        <translation>テキストは推測により %1 として読み取られます</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8; its page is left blank</source>
+        <translation>テキストが正しい UTF-8 ではないため、そのページは空白になります</translation>
+    </message>
+    <message>
+        <source>Cannot open the file</source>
+        <translation>ファイルを開けません</translation>
+    </message>
+    <message>
+        <source>Cannot create a file in %1</source>
+        <translation>%1 にファイルを作成できません</translation>
+    </message>
+    <message>
+        <source>Cannot write a file in %1</source>
+        <translation>%1 にファイルを書き込めません</translation>
+    </message>
+    <message>
+        <source>Cannot read back a file in %1</source>
+        <translation>%1 のファイルを読み返せません</translation>
+    </message>
+    <message>
+        <source>Cannot flush a file in %1</source>
+        <translation>%1 のファイルをディスクに確定できません</translation>
+    </message>
+    <message>
+        <source>Cannot name a file in %1</source>
+        <translation>%1 のファイルに名前を付けられません</translation>
+    </message>
+    <message>
+        <source>The file system cannot flush files to the disk</source>
+        <translation>ファイルシステムがファイルをディスクに確定できません</translation>
+    </message>
+    <message>
+        <source>Cannot read the file</source>
+        <translation>ファイルを読み取れません</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>The file ends too early</source>
+        <translation>ファイルが途中で終わっています</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed while it was being converted</source>
+        <translation>ファイル %1 は変換中に変更されました</translation>
+    </message>
+    <message>
+        <source>The file %1 ended too early</source>
+        <translation>ファイル %1 が途中で終わっていました</translation>
+    </message>
+    <message>
+        <source>Cannot create a temporary file</source>
+        <translation>一時ファイルを作成できません</translation>
+    </message>
+    <message>
+        <source>Cannot write a temporary file</source>
+        <translation>一時ファイルに書き込めません</translation>
+    </message>
+    <message>
+        <source>Cannot read a temporary file</source>
+        <translation>一時ファイルを読み取れません</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The picture is made for HDR screens, and a PDF shows its brightness otherwise</source>
+        <translation>画像は HDR 画面用で、PDF では明るさが異なって表示されます</translation>
+    </message>
+    <message>
+        <source>The compressed data is damaged</source>
+        <translation>圧縮データが壊れています</translation>
+    </message>
+    <message>
+        <source>The file is no bitmap</source>
+        <translation>ファイルはビットマップではありません</translation>
+    </message>
+    <message>
+        <source>The bitmap is of an unknown kind</source>
+        <translation>ビットマップの種類が不明です</translation>
+    </message>
+    <message>
+        <source>The bitmap has more colours than its pixels can name</source>
+        <translation>ビットマップの色が、画素で指定できる数より多くなっています</translation>
+    </message>
+    <message>
+        <source>Pixels that the file leaves out have its first colour</source>
+        <translation>ファイルで省かれている画素は最初の色になります</translation>
+    </message>
+    <message>
+        <source>The EXR file cannot be read: %1</source>
+        <translation>EXR ファイルを読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>The EXR file has no channels of colour or brightness</source>
+        <translation>EXR ファイルに色や明るさのチャンネルがありません</translation>
+    </message>
+    <message>
+        <source>The EXR file is damaged: none of its rows can be read</source>
+        <translation>EXR ファイルが壊れていて、どの行も読み取れません</translation>
+    </message>
+    <message>
+        <source>The GIF file is damaged</source>
+        <translation>GIF ファイルが壊れています</translation>
+    </message>
+    <message>
+        <source>The file holds no image</source>
+        <translation>ファイルに画像がありません</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file cannot be read: %1</source>
+        <translation>HEIC または AVIF ファイルを読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>The system grants no thread, which HEIC and AVIF files take</source>
+        <translation>HEIC と AVIF ファイルに必要なスレッドをシステムが許可しません</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file is damaged</source>
+        <translation>HEIC または AVIF ファイルが壊れています</translation>
+    </message>
+    <message>
+        <source>Its moving pictures are left out</source>
+        <translation>動画部分は省かれます</translation>
+    </message>
+    <message>
+        <source>The icon file is cut off or damaged: there may be a larger picture in the part that is missing</source>
+        <translation>アイコンファイルが途切れているか壊れています。欠けた部分により大きな画像があるかもしれません</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s pixels are of an unknown kind</source>
+        <translation>アイコンの画素の種類が不明です</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s picture is of an unknown kind</source>
+        <translation>アイコンの画像の種類が不明です</translation>
+    </message>
+    <message>
+        <source>The icon file holds no picture that can be read</source>
+        <translation>アイコンファイルに読み取れる画像がありません</translation>
+    </message>
+    <message>
+        <source>%1 of the icon&apos;s %2 pictures cannot be read</source>
+        <translation>アイコンの画像 %2 件のうち %1 件を読み取れません</translation>
+    </message>
+    <message>
+        <source>The JPEG file ends before its picture begins</source>
+        <translation>JPEG ファイルが画像の始まる前に終わっています</translation>
+    </message>
+    <message>
+        <source>The JPEG file has %1 colour components, which is no colour that a PDF can show</source>
+        <translation>JPEG ファイルの色成分は %1 個で、PDF で表示できる色ではありません</translation>
+    </message>
+    <message>
+        <source>The JPEG file is of a kind that no PDF can hold (lossless, hierarchical or more than 8 bits)</source>
+        <translation>JPEG ファイルは PDF に入れられない種類です（可逆、階層型、または 8 ビット超）</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is damaged</source>
+        <translation>JPEG 2000 ファイルが壊れています</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file holds no picture</source>
+        <translation>JPEG 2000 ファイルに画像がありません</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its tiles could not be read</source>
+        <translation>画像が途切れています。タイルの %1 % を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its data could not be read</source>
+        <translation>画像が途切れています。データの %1 % を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is cut off</source>
+        <translation>JPEG 2000 ファイルが途切れています</translation>
+    </message>
+    <message>
+        <source>The JPEG file is damaged: none of its rows could be read</source>
+        <translation>JPEG ファイルが壊れていて、どの行も読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file is damaged</source>
+        <translation>JPEG XL ファイルが壊れています</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file has %1 channels beside its colours, which are too many</source>
+        <translation>JPEG XL ファイルに色のほかに %1 個のチャンネルがあり、多すぎます</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file stores inks, which cannot be read</source>
+        <translation>JPEG XL ファイルにはインクが記録されていて、読み取れません</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read %1 files</source>
+        <translation>このプログラムは %1 ファイルを読み取る機能なしでビルドされています</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to decode JPEG 2000</source>
+        <translation>このプログラムは JPEG 2000 をデコードする機能なしでビルドされています</translation>
+    </message>
+    <message>
+        <source>The PNG file is damaged</source>
+        <translation>PNG ファイルが壊れています</translation>
+    </message>
+    <message>
+        <source>The PNG file holds no picture</source>
+        <translation>PNG ファイルに画像がありません</translation>
+    </message>
+    <message>
+        <source>The PNG file has no palette</source>
+        <translation>PNG ファイルにパレットがありません</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s compression is unknown</source>
+        <translation>Photoshop ファイルの圧縮方式が不明です</translation>
+    </message>
+    <message>
+        <source>The Photoshop file holds its layers alone: save it with maximized compatibility, which adds the picture they make</source>
+        <translation>Photoshop ファイルにはレイヤーしかありません。互換性を最大にして保存すると、合成画像が追加されます</translation>
+    </message>
+    <message>
+        <source>The Photoshop file has no palette</source>
+        <translation>Photoshop ファイルにパレットがありません</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s colour mode is unknown</source>
+        <translation>Photoshop ファイルのカラーモードが不明です</translation>
+    </message>
+    <message>
+        <source>The Photoshop file is damaged</source>
+        <translation>Photoshop ファイルが壊れています</translation>
+    </message>
+    <message>
+        <source>The file is no TGA image that can be read</source>
+        <translation>ファイルは読み取れる TGA 画像ではありません</translation>
+    </message>
+    <message>
+        <source>The file names a further page that cannot be read</source>
+        <translation>ファイルには、読み取れないページがもう 1 つあります</translation>
+    </message>
+    <message>
+        <source>its form is not supported</source>
+        <translation>その形式には対応していません</translation>
+    </message>
+    <message>
+        <source>it has no pixels</source>
+        <translation>画素がありません</translation>
+    </message>
+    <message>
+        <source>it is larger than any picture</source>
+        <translation>あらゆる画像より大きくなっています</translation>
+    </message>
+    <message>
+        <source>its directory is damaged</source>
+        <translation>ディレクトリが壊れています</translation>
+    </message>
+    <message>
+        <source>it is cut off</source>
+        <translation>途切れています</translation>
+    </message>
+    <message>
+        <source>The TIFF file is damaged</source>
+        <translation>TIFF ファイルが壊れています</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: %1</source>
+        <translation>TIFF ファイルを読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>The TIFF file has no palette</source>
+        <translation>TIFF ファイルにパレットがありません</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: its compression is not supported</source>
+        <translation>TIFF ファイルを読み取れません: その圧縮方式には対応していません</translation>
+    </message>
+    <message>
+        <source>The WebP file is damaged</source>
+        <translation>WebP ファイルが壊れています</translation>
+    </message>
+    <message>
+        <source>The WebP file is too large</source>
+        <translation>WebP ファイルが大きすぎます</translation>
+    </message>
+    <message>
+        <source>The animation is too large (%1 x %2 pixels)</source>
+        <translation>アニメーションが大きすぎます（%1 x %2 ピクセル）</translation>
+    </message>
+    <message>
+        <source>The file is empty</source>
+        <translation>ファイルが空です</translation>
+    </message>
+    <message>
+        <source>The file is no image of a known format</source>
+        <translation>ファイルは既知の形式の画像ではありません</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the image</source>
+        <translation>画像に必要なメモリが足りません</translation>
+    </message>
+    <message>
+        <source>The image has no pixels</source>
+        <translation>画像に画素がありません</translation>
+    </message>
+    <message>
+        <source>The image is too large (%1 x %2 pixels)</source>
+        <translation>画像が大きすぎます（%1 x %2 ピクセル）</translation>
+    </message>
+    <message>
+        <source>1 further page is left out</source>
+        <translation>ほかの 1 ページは省かれます</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages are left out</source>
+        <translation>
+            <numerusform>ほかの %n ページは省かれます</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further frame is left out</source>
+        <translation>ほかの 1 フレームは省かれます</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further frames are left out</source>
+        <translation>
+            <numerusform>ほかの %n フレームは省かれます</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further part is left out</source>
+        <translation>ほかの 1 パートは省かれます</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further parts are left out</source>
+        <translation>
+            <numerusform>ほかの %n パートは省かれます</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further picture is left out</source>
+        <translation>ほかの画像 1 件は省かれます</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pictures are left out</source>
+        <translation>
+            <numerusform>ほかの画像 %n 件は省かれます</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is left out: %1</source>
+        <translation>省かれます: %1</translation>
+    </message>
+    <message>
+        <source>It and those behind it are left out, since they are too large together</source>
+        <translation>合計が大きすぎるため、これ以降は省かれます</translation>
+    </message>
+    <message>
+        <source>Page %1: %2</source>
+        <translation>ページ %1: %2</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its rows could not be read</source>
+        <translation>画像が途切れています。行の %1 % を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its finer details could not be read</source>
+        <translation>画像が途切れています。細部を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: parts of it could not be read</source>
+        <translation>画像が途切れています。一部を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its transparency could not be read</source>
+        <translation>画像が途切れています。透明度を読み取れませんでした</translation>
+    </message>
+    <message>
+        <source>The picture is damaged: parts of it may look wrong</source>
+        <translation>画像が壊れています。一部が正しく表示されないかもしれません</translation>
+    </message>
+    <message>
+        <source>The file is too short for the image its header describes</source>
+        <translation>ヘッダーに記された画像に対してファイルが短すぎます</translation>
+    </message>
+    <message>
+        <source>The image&apos;s rows are damaged</source>
+        <translation>画像の行が壊れています</translation>
+    </message>
+    <message>
+        <source>The image has fewer rows than its header says</source>
+        <translation>画像の行がヘッダーに記された数より少なくなっています</translation>
+    </message>
+    <message>
+        <source>SOURCE_DATE_EPOCH is &quot;%1&quot;, not the seconds from 1970 to a date before the year 10000</source>
+        <translation>SOURCE_DATE_EPOCH は「%1」で、1970 年から 10000 年より前の日付までの秒数ではありません</translation>
+    </message>
+    <message>
+        <source>1 structure tag</source>
+        <translation>構造タグ 1 個</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags</source>
+        <translation>
+            <numerusform>構造タグ %n 個</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 attachment</source>
+        <translation>添付ファイル 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments</source>
+        <translation>
+            <numerusform>添付ファイル %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a portfolio</source>
+        <translation>ポートフォリオ</translation>
+    </message>
+    <message>
+        <source>an XFA form</source>
+        <translation>XFA フォーム</translation>
+    </message>
+    <message>
+        <source>document scripts</source>
+        <translation>文書のスクリプト</translation>
+    </message>
+    <message>
+        <source>page templates</source>
+        <translation>ページテンプレート</translation>
+    </message>
+    <message>
+        <source>article threads</source>
+        <translation>アーティクルスレッド</translation>
+    </message>
+    <message>
+        <source>further layer settings</source>
+        <translation>その他のレイヤー設定</translation>
+    </message>
+    <message>
+        <source>a base address of links</source>
+        <translation>リンクのベースアドレス</translation>
+    </message>
+    <message>
+        <source>usage rights</source>
+        <translation>使用権限</translation>
+    </message>
+    <message>
+        <source>the language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>metadata</source>
+        <translation>メタデータ</translation>
+    </message>
+    <message>
+        <source>1 further document property</source>
+        <translation>その他の文書プロパティ 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further document properties</source>
+        <translation>
+            <numerusform>その他の文書プロパティ %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>output intents</source>
+        <translation>出力インテント</translation>
+    </message>
+    <message>
+        <source>1 signature</source>
+        <translation>署名 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures</source>
+        <translation>
+            <numerusform>署名 %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 link</source>
+        <translation>リンク 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links</source>
+        <translation>
+            <numerusform>リンク %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 annotation</source>
+        <translation>注釈 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n annotations</source>
+        <translation>
+            <numerusform>注釈 %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 bookmark</source>
+        <translation>しおり 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bookmarks</source>
+        <translation>
+            <numerusform>しおり %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>page labels</source>
+        <translation>ページラベル</translation>
+    </message>
+    <message>
+        <source>1 field</source>
+        <translation>フィールド 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields</source>
+        <translation>
+            <numerusform>フィールド %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 layer</source>
+        <translation>レイヤー 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n layers</source>
+        <translation>
+            <numerusform>レイヤー %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 named destination</source>
+        <translation>名前付き移動先 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n named destinations</source>
+        <translation>
+            <numerusform>名前付き移動先 %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>further names</source>
+        <translation>その他の名前</translation>
+    </message>
+    <message>
+        <source>1 further catalog entry</source>
+        <translation>その他のカタログ項目 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further catalog entries</source>
+        <translation>
+            <numerusform>その他のカタログ項目 %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 renamed name</source>
+        <translation>変更された名前 1 件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renamed names</source>
+        <translation>
+            <numerusform>変更された名前 %n 件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The document&apos;s identifier cannot be written</source>
+        <translation>文書の識別子を書き込めません</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be embedded</source>
+        <translation>フォント %1 を埋め込めません</translation>
+    </message>
+    <message>
+        <source>It has 1 page, and &quot;%1&quot; names others</source>
+        <translation>1 ページしかなく、「%1」はほかのページを指しています</translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n pages, and &quot;%1&quot; names others</source>
+        <translation>
+            <numerusform>%n ページしかなく、「%1」はほかのページを指しています</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 signature is left out, since it holds for the original file alone</source>
+        <translation>元のファイルにだけ有効なため、署名 1 件は省かれます</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures are left out, since they hold for the original file alone</source>
+        <translation>
+            <numerusform>元のファイルにだけ有効なため、署名 %n 件は省かれます</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 structure tag is damaged and left out</source>
+        <translation>構造タグ 1 個は壊れているため省かれます</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags are damaged and left out</source>
+        <translation>
+            <numerusform>構造タグ %n 個は壊れているため省かれます</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over, as it belongs to pages that are left out: %1</source>
+        <translation>省かれたページに属するため、引き継がれません: %1</translation>
+    </message>
+    <message>
+        <source>The document has no pages</source>
+        <translation>文書にページがありません</translation>
+    </message>
+    <message>
+        <source>1 form field is renamed, since another document has one of its name: &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>別の文書に同じ名前のフィールドがあるため、フォームフィールド 1 件の名前を変更しました。「%1」は「%2」になりました。スクリプトはそのままです</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n form fields are renamed, since another document has fields of their names, such as &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>
+            <numerusform>別の文書に同じ名前のフィールドがあるため、フォームフィールド %n 件の名前を変更しました（例:「%1」を「%2」に）。スクリプトはそのままです</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over: %1</source>
+        <translation>引き継がれません: %1</translation>
+    </message>
+    <message>
+        <source>it is a part of another one now</source>
+        <translation>別の文書の一部になったため</translation>
+    </message>
+    <message>
+        <source>it was damaged</source>
+        <translation>壊れていたため</translation>
+    </message>
+    <message>
+        <source>some of its structure tags are damaged</source>
+        <translation>構造タグの一部が壊れているため</translation>
+    </message>
+    <message>
+        <source>that forbids encryption</source>
+        <translation>この規格は暗号化を禁じているため</translation>
+    </message>
+    <message>
+        <source>that forbids the document information, which is written</source>
+        <translation>この規格は、書き込まれる文書情報を禁じているため</translation>
+    </message>
+    <message>
+        <source>that demands a title, and none is given</source>
+        <translation>この規格はタイトルを求めていますが、指定がないため</translation>
+    </message>
+    <message>
+        <source>The document no longer says that it is %1, since %2</source>
+        <translation>文書は %1 であると示さなくなります（%2）</translation>
+    </message>
+    <message>
+        <source>Some of its bookmarks are missing in the document itself</source>
+        <translation>しおりの一部は、元の文書自体で欠けています</translation>
+    </message>
+    <message>
+        <source>Some of its form fields are missing in the document itself</source>
+        <translation>フォームフィールドの一部は、元の文書自体で欠けています</translation>
+    </message>
+    <message>
+        <source>The page tree contains itself</source>
+        <translation>ページツリーが自分自身を含んでいます</translation>
+    </message>
+    <message>
+        <source>The document has no page tree</source>
+        <translation>文書にページツリーがありません</translation>
+    </message>
+    <message>
+        <source>The document states %1 pages, and %2 were found</source>
+        <translation>文書は %1 ページと示していますが、%2 ページが見つかりました</translation>
+    </message>
+    <message>
+        <source>The document does not state its pages, and %1 were found</source>
+        <translation>文書はページ数を示していませんが、%1 ページが見つかりました</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read, page %3 is the first that is missing</source>
+        <translation>%2 ページ中 %1 ページを読み取れました。ページ %3 が最初の欠落です</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read</source>
+        <translation>%2 ページ中 %1 ページを読み取れました</translation>
+    </message>
+    <message>
+        <source>What stands on page %1 is damaged and may lack something</source>
+        <translation>ページ %1 の内容が壊れており、何かが欠けているかもしれません</translation>
+    </message>
+    <message>
+        <source>The document is damaged and was repaired: %1</source>
+        <translation>文書が壊れていたため修復しました: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The document is damaged and was repaired in %n places, the first: %1</source>
+        <translation>
+            <numerusform>文書が %n か所壊れていたため修復しました。最初の箇所: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not a PDF file</source>
+        <translation>PDF ファイルではありません</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and its permissions do not let its pages be taken; its owner password would</source>
+        <translation>文書は暗号化されており、その権限ではページを取り出せません。所有者パスワードがあれば取り出せます</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and none of the passwords opens it</source>
+        <translation>文書は暗号化されており、どのパスワードでも開けません</translation>
+    </message>
+    <message>
+        <source>It is a dynamic XFA form, whose pages only a program for such forms makes</source>
+        <translation>動的 XFA フォームです。そのページは専用のプログラムだけが作成できます</translation>
+    </message>
+    <message>
+        <source>The document is too damaged to be repaired</source>
+        <translation>文書の破損がひどく、修復できません</translation>
+    </message>
+    <message>
+        <source>The document is damaged: its trailer and its table of objects are missing</source>
+        <translation>文書が壊れています: トレーラーとオブジェクト表がありません</translation>
+    </message>
+    <message>
+        <source>The document is damaged: it has no catalog</source>
+        <translation>文書が壊れています: カタログがありません</translation>
+    </message>
+    <message>
+        <source>page %1 (%2)</source>
+        <translation>ページ %1（%2）</translation>
+    </message>
+    <message>
+        <source>Readers need not show pages beyond 3 to 14,400 units: %1</source>
+        <translation>3～14,400 単位の範囲外のページは表示されないことがあります: %1</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it has the protection that was asked for instead</source>
+        <translation>文書は保護されており、作成される PDF には代わりに指定された保護が付きます</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it is not</source>
+        <translation>文書は保護されていますが、作成される PDF は保護されません</translation>
+    </message>
+    <message>
+        <source>its header is missing</source>
+        <translation>ヘッダーがありません</translation>
+    </message>
+    <message>
+        <source>the length of a stream is wrong</source>
+        <translation>ストリームの長さが誤っています</translation>
+    </message>
+    <message>
+        <source>a stream is cut off</source>
+        <translation>ストリームが途切れています</translation>
+    </message>
+    <message>
+        <source>its table of objects is damaged</source>
+        <translation>オブジェクト表が壊れています</translation>
+    </message>
+    <message>
+        <source>an object is not where the table of objects says</source>
+        <translation>オブジェクトがオブジェクト表の示す場所にありません</translation>
+    </message>
+    <message>
+        <source>it has no catalog</source>
+        <translation>カタログがありません</translation>
+    </message>
+    <message>
+        <source>the data of a stream is damaged</source>
+        <translation>ストリームのデータが壊れています</translation>
+    </message>
+    <message>
+        <source>an object is not well formed</source>
+        <translation>オブジェクトの形式が正しくありません</translation>
+    </message>
+    <message>
+        <source>%1 (object %2)</source>
+        <translation>%1（オブジェクト %2）</translation>
+    </message>
+    <message>
+        <source>The document is damaged: %1</source>
+        <translation>文書が壊れています: %1</translation>
+    </message>
+    <message>
+        <source>The document is damaged</source>
+        <translation>文書が壊れています</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be read</source>
+        <translation>フォント %1 を読み取れません</translation>
+    </message>
+    <message>
+        <source>The text has too many different forms of letters</source>
+        <translation>テキストに含まれる文字の形の種類が多すぎます</translation>
+    </message>
+    <message>
+        <source>private use</source>
+        <translation>私用領域</translation>
+    </message>
+    <message>
+        <source>unassigned</source>
+        <translation>未割り当て</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>1 character has no glyph in any font and is shown as a box: %1</source>
+        <translation>1 文字がどのフォントにもなく、四角で表示されます: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters have no glyph in any font and are shown as boxes: %1</source>
+        <translation>
+            <numerusform>%n 文字がどのフォントにもなく、四角で表示されます: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 character is split between two rows and shown as boxes</source>
+        <translation>1 文字が 2 行に分かれ、四角で表示されます</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters are split between two rows and shown as boxes</source>
+        <translation>
+            <numerusform>%n 文字が 2 行に分かれ、四角で表示されます</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The rules for the breaking of lines cannot be loaded: %1</source>
+        <translation>改行の規則を読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>The header or the footer has more rows than its margin</source>
+        <translation>ヘッダーまたはフッターの行が余白に収まりません</translation>
+    </message>
+    <message>
+        <source>The text is not valid %1</source>
+        <translation>テキストは正しい %1 ではありません</translation>
+    </message>
+    <message>
+        <source>The bytes do not tell the encoding of the text</source>
+        <translation>テキストの文字コードがバイト列から分かりません</translation>
+    </message>
+    <message>
+        <source>There is no font to write text with</source>
+        <translation>テキストを書くためのフォントがありません</translation>
     </message>
 </context>
 <context>

@@ -115,6 +115,10 @@ PDFium, BSD licence</translation>
             <numerusform>%n 页</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1.</source>
+        <translation>%1。</translation>
+    </message>
 </context>
 <context>
     <name>FileDialog</name>
@@ -791,6 +795,971 @@ None: pictures stay as they are
     <message>
         <source>The password is longer than %1 bytes</source>
         <translation>密码超过 %1 字节</translation>
+    </message>
+</context>
+<context>
+    <name>Reasons</name>
+    <message>
+        <source>The conversion was stopped</source>
+        <translation>转换已停止</translation>
+    </message>
+    <message>
+        <source>Its name was taken by another file</source>
+        <translation>其名称已被另一个文件占用</translation>
+    </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>无法读取 %1：%2</translation>
+    </message>
+    <message>
+        <source>%1 is a binary property list; only XML can be read</source>
+        <translation>%1 是二进制属性列表，只能读取 XML</translation>
+    </message>
+    <message>
+        <source>%1 is no valid property list</source>
+        <translation>%1 不是有效的属性列表</translation>
+    </message>
+    <message>
+        <source>The filter file %1 lacks a valid value for &quot;%2&quot;</source>
+        <translation>滤镜文件 %1 缺少“%2”的有效值</translation>
+    </message>
+    <message>
+        <source>Not all of the PDF is tagged, as these are not: %1</source>
+        <translation>PDF 并未全部带有标签，因为以下文件没有标签：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <translation>
+            <numerusform>%1 以及另外 %n 个</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>There is no page to write</source>
+        <translation>没有可写入的页面</translation>
+    </message>
+    <message>
+        <source>Its PDF is there and not older</source>
+        <translation>其 PDF 已存在且不是旧的</translation>
+    </message>
+    <message>
+        <source>Its PDF would take the place of an input, %1</source>
+        <translation>其 PDF 会取代输入文件 %1</translation>
+    </message>
+    <message>
+        <source>There is not enough memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>It is not a recognised type</source>
+        <translation>无法识别该文件类型</translation>
+    </message>
+    <message>
+        <source>1 PDF</source>
+        <translation>1 个 PDF</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n PDFs</source>
+        <translation>
+            <numerusform>%n 个 PDF</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 folder</source>
+        <translation>1 个文件夹</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folders</source>
+        <translation>
+            <numerusform>%n 个文件夹</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 file of another type</source>
+        <translation>1 个其他类型的文件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files of other types</source>
+        <translation>
+            <numerusform>%n 个其他类型的文件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>未采用：%1</translation>
+    </message>
+    <message>
+        <source>The folder cannot be listed: %1</source>
+        <translation>无法列出文件夹内容：%1</translation>
+    </message>
+    <message>
+        <source>The document is encrypted</source>
+        <translation>文档已加密</translation>
+    </message>
+    <message>
+        <source>The text is larger than 2 GB</source>
+        <translation>文本超过 2 GB</translation>
+    </message>
+    <message>
+        <source>The text is read as %1, a guess</source>
+        <translation>文本按 %1 读取，这是猜测的结果</translation>
+    </message>
+    <message>
+        <source>The text is not valid UTF-8; its page is left blank</source>
+        <translation>文本不是有效的 UTF-8，其页面将留空</translation>
+    </message>
+    <message>
+        <source>Cannot open the file</source>
+        <translation>无法打开文件</translation>
+    </message>
+    <message>
+        <source>Cannot create a file in %1</source>
+        <translation>无法在 %1 中创建文件</translation>
+    </message>
+    <message>
+        <source>Cannot write a file in %1</source>
+        <translation>无法在 %1 中写入文件</translation>
+    </message>
+    <message>
+        <source>Cannot read back a file in %1</source>
+        <translation>无法回读 %1 中的文件</translation>
+    </message>
+    <message>
+        <source>Cannot flush a file in %1</source>
+        <translation>无法将 %1 中的文件落盘</translation>
+    </message>
+    <message>
+        <source>Cannot name a file in %1</source>
+        <translation>无法为 %1 中的文件命名</translation>
+    </message>
+    <message>
+        <source>The file system cannot flush files to the disk</source>
+        <translation>文件系统无法将文件落盘</translation>
+    </message>
+    <message>
+        <source>Cannot read the file</source>
+        <translation>无法读取文件</translation>
+    </message>
+    <message>
+        <source>It is not a regular file</source>
+        <translation>它不是普通文件</translation>
+    </message>
+    <message>
+        <source>The file ends too early</source>
+        <translation>文件过早结束</translation>
+    </message>
+    <message>
+        <source>The file %1 was changed while it was being converted</source>
+        <translation>文件 %1 在转换过程中被更改</translation>
+    </message>
+    <message>
+        <source>The file %1 ended too early</source>
+        <translation>文件 %1 过早结束</translation>
+    </message>
+    <message>
+        <source>Cannot create a temporary file</source>
+        <translation>无法创建临时文件</translation>
+    </message>
+    <message>
+        <source>Cannot write a temporary file</source>
+        <translation>无法写入临时文件</translation>
+    </message>
+    <message>
+        <source>Cannot read a temporary file</source>
+        <translation>无法读取临时文件</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>The picture is made for HDR screens, and a PDF shows its brightness otherwise</source>
+        <translation>该图像为 HDR 屏幕制作，在 PDF 中显示的亮度会有所不同</translation>
+    </message>
+    <message>
+        <source>The compressed data is damaged</source>
+        <translation>压缩数据已损坏</translation>
+    </message>
+    <message>
+        <source>The file is no bitmap</source>
+        <translation>文件不是位图</translation>
+    </message>
+    <message>
+        <source>The bitmap is of an unknown kind</source>
+        <translation>位图的种类未知</translation>
+    </message>
+    <message>
+        <source>The bitmap has more colours than its pixels can name</source>
+        <translation>位图的颜色多于其像素所能表示的数量</translation>
+    </message>
+    <message>
+        <source>Pixels that the file leaves out have its first colour</source>
+        <translation>文件省略的像素使用其第一种颜色</translation>
+    </message>
+    <message>
+        <source>The EXR file cannot be read: %1</source>
+        <translation>无法读取 EXR 文件：%1</translation>
+    </message>
+    <message>
+        <source>The EXR file has no channels of colour or brightness</source>
+        <translation>EXR 文件没有颜色或亮度通道</translation>
+    </message>
+    <message>
+        <source>The EXR file is damaged: none of its rows can be read</source>
+        <translation>EXR 文件已损坏：其任何一行都无法读取</translation>
+    </message>
+    <message>
+        <source>The GIF file is damaged</source>
+        <translation>GIF 文件已损坏</translation>
+    </message>
+    <message>
+        <source>The file holds no image</source>
+        <translation>文件中没有图像</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file cannot be read: %1</source>
+        <translation>无法读取 HEIC 或 AVIF 文件：%1</translation>
+    </message>
+    <message>
+        <source>The system grants no thread, which HEIC and AVIF files take</source>
+        <translation>系统未提供 HEIC 和 AVIF 文件所需的线程</translation>
+    </message>
+    <message>
+        <source>The HEIC or AVIF file is damaged</source>
+        <translation>HEIC 或 AVIF 文件已损坏</translation>
+    </message>
+    <message>
+        <source>Its moving pictures are left out</source>
+        <translation>其中的动态图像未采用</translation>
+    </message>
+    <message>
+        <source>The icon file is cut off or damaged: there may be a larger picture in the part that is missing</source>
+        <translation>图标文件不完整或已损坏：缺失的部分中可能有更大的图像</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s pixels are of an unknown kind</source>
+        <translation>图标的像素种类未知</translation>
+    </message>
+    <message>
+        <source>The icon&apos;s picture is of an unknown kind</source>
+        <translation>图标的图像种类未知</translation>
+    </message>
+    <message>
+        <source>The icon file holds no picture that can be read</source>
+        <translation>图标文件中没有可读取的图像</translation>
+    </message>
+    <message>
+        <source>%1 of the icon&apos;s %2 pictures cannot be read</source>
+        <translation>图标的 %2 个图像中有 %1 个无法读取</translation>
+    </message>
+    <message>
+        <source>The JPEG file ends before its picture begins</source>
+        <translation>JPEG 文件在图像开始之前就结束了</translation>
+    </message>
+    <message>
+        <source>The JPEG file has %1 colour components, which is no colour that a PDF can show</source>
+        <translation>JPEG 文件有 %1 个颜色分量，PDF 无法显示这种颜色</translation>
+    </message>
+    <message>
+        <source>The JPEG file is of a kind that no PDF can hold (lossless, hierarchical or more than 8 bits)</source>
+        <translation>任何 PDF 都无法容纳这种 JPEG 文件（无损、分层或超过 8 位）</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is damaged</source>
+        <translation>JPEG 2000 文件已损坏</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file holds no picture</source>
+        <translation>JPEG 2000 文件中没有图像</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its tiles could not be read</source>
+        <translation>图像不完整：%1 % 的图块无法读取</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its data could not be read</source>
+        <translation>图像不完整：%1 % 的数据无法读取</translation>
+    </message>
+    <message>
+        <source>The JPEG 2000 file is cut off</source>
+        <translation>JPEG 2000 文件不完整</translation>
+    </message>
+    <message>
+        <source>The JPEG file is damaged: none of its rows could be read</source>
+        <translation>JPEG 文件已损坏：其任何一行都无法读取</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file is damaged</source>
+        <translation>JPEG XL 文件已损坏</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file has %1 channels beside its colours, which are too many</source>
+        <translation>JPEG XL 文件除颜色外还有 %1 个通道，数量过多</translation>
+    </message>
+    <message>
+        <source>The JPEG XL file stores inks, which cannot be read</source>
+        <translation>JPEG XL 文件存储的是油墨，无法读取</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read %1 files</source>
+        <translation>本程序构建时不包含读取 %1 文件的功能</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to decode JPEG 2000</source>
+        <translation>本程序构建时不包含解码 JPEG 2000 的功能</translation>
+    </message>
+    <message>
+        <source>The PNG file is damaged</source>
+        <translation>PNG 文件已损坏</translation>
+    </message>
+    <message>
+        <source>The PNG file holds no picture</source>
+        <translation>PNG 文件中没有图像</translation>
+    </message>
+    <message>
+        <source>The PNG file has no palette</source>
+        <translation>PNG 文件没有调色板</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s compression is unknown</source>
+        <translation>Photoshop 文件的压缩方式未知</translation>
+    </message>
+    <message>
+        <source>The Photoshop file holds its layers alone: save it with maximized compatibility, which adds the picture they make</source>
+        <translation>Photoshop 文件只有图层：请以最大兼容性保存，这样会加入合成的图像</translation>
+    </message>
+    <message>
+        <source>The Photoshop file has no palette</source>
+        <translation>Photoshop 文件没有调色板</translation>
+    </message>
+    <message>
+        <source>The Photoshop file&apos;s colour mode is unknown</source>
+        <translation>Photoshop 文件的颜色模式未知</translation>
+    </message>
+    <message>
+        <source>The Photoshop file is damaged</source>
+        <translation>Photoshop 文件已损坏</translation>
+    </message>
+    <message>
+        <source>The file is no TGA image that can be read</source>
+        <translation>文件不是可读取的 TGA 图像</translation>
+    </message>
+    <message>
+        <source>The file names a further page that cannot be read</source>
+        <translation>文件中另有一页无法读取</translation>
+    </message>
+    <message>
+        <source>its form is not supported</source>
+        <translation>不支持其形式</translation>
+    </message>
+    <message>
+        <source>it has no pixels</source>
+        <translation>它没有像素</translation>
+    </message>
+    <message>
+        <source>it is larger than any picture</source>
+        <translation>它比任何图像都大</translation>
+    </message>
+    <message>
+        <source>its directory is damaged</source>
+        <translation>其目录已损坏</translation>
+    </message>
+    <message>
+        <source>it is cut off</source>
+        <translation>它不完整</translation>
+    </message>
+    <message>
+        <source>The TIFF file is damaged</source>
+        <translation>TIFF 文件已损坏</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: %1</source>
+        <translation>无法读取 TIFF 文件：%1</translation>
+    </message>
+    <message>
+        <source>The TIFF file has no palette</source>
+        <translation>TIFF 文件没有调色板</translation>
+    </message>
+    <message>
+        <source>The TIFF file cannot be read: its compression is not supported</source>
+        <translation>无法读取 TIFF 文件：不支持其压缩方式</translation>
+    </message>
+    <message>
+        <source>The WebP file is damaged</source>
+        <translation>WebP 文件已损坏</translation>
+    </message>
+    <message>
+        <source>The WebP file is too large</source>
+        <translation>WebP 文件过大</translation>
+    </message>
+    <message>
+        <source>The animation is too large (%1 x %2 pixels)</source>
+        <translation>动画过大（%1 x %2 像素）</translation>
+    </message>
+    <message>
+        <source>The file is empty</source>
+        <translation>文件为空</translation>
+    </message>
+    <message>
+        <source>The file is no image of a known format</source>
+        <translation>文件不是已知格式的图像</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for the image</source>
+        <translation>内存不足以处理该图像</translation>
+    </message>
+    <message>
+        <source>The image has no pixels</source>
+        <translation>图像没有像素</translation>
+    </message>
+    <message>
+        <source>The image is too large (%1 x %2 pixels)</source>
+        <translation>图像过大（%1 x %2 像素）</translation>
+    </message>
+    <message>
+        <source>1 further page is left out</source>
+        <translation>另有 1 页未采用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pages are left out</source>
+        <translation>
+            <numerusform>另有 %n 页未采用</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further frame is left out</source>
+        <translation>另有 1 帧未采用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further frames are left out</source>
+        <translation>
+            <numerusform>另有 %n 帧未采用</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further part is left out</source>
+        <translation>另有 1 个部分未采用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further parts are left out</source>
+        <translation>
+            <numerusform>另有 %n 个部分未采用</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 further picture is left out</source>
+        <translation>另有 1 个图像未采用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further pictures are left out</source>
+        <translation>
+            <numerusform>另有 %n 个图像未采用</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>It is left out: %1</source>
+        <translation>未采用：%1</translation>
+    </message>
+    <message>
+        <source>It and those behind it are left out, since they are too large together</source>
+        <translation>此页及其后的页面未采用，因为合起来过大</translation>
+    </message>
+    <message>
+        <source>Page %1: %2</source>
+        <translation>第 %1 页：%2</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: %1 % of its rows could not be read</source>
+        <translation>图像不完整：%1 % 的行无法读取</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its finer details could not be read</source>
+        <translation>图像不完整：其细节无法读取</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: parts of it could not be read</source>
+        <translation>图像不完整：其中一部分无法读取</translation>
+    </message>
+    <message>
+        <source>The picture is cut off: its transparency could not be read</source>
+        <translation>图像不完整：其透明度无法读取</translation>
+    </message>
+    <message>
+        <source>The picture is damaged: parts of it may look wrong</source>
+        <translation>图像已损坏：其中一部分可能显示不正确</translation>
+    </message>
+    <message>
+        <source>The file is too short for the image its header describes</source>
+        <translation>对于文件头所描述的图像，文件过短</translation>
+    </message>
+    <message>
+        <source>The image&apos;s rows are damaged</source>
+        <translation>图像的行已损坏</translation>
+    </message>
+    <message>
+        <source>The image has fewer rows than its header says</source>
+        <translation>图像的行数少于文件头所述</translation>
+    </message>
+    <message>
+        <source>SOURCE_DATE_EPOCH is &quot;%1&quot;, not the seconds from 1970 to a date before the year 10000</source>
+        <translation>SOURCE_DATE_EPOCH 为“%1”，而不是从 1970 年到 10000 年之前某日期的秒数</translation>
+    </message>
+    <message>
+        <source>1 structure tag</source>
+        <translation>1 个结构标签</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags</source>
+        <translation>
+            <numerusform>%n 个结构标签</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 attachment</source>
+        <translation>1 个附件</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n attachments</source>
+        <translation>
+            <numerusform>%n 个附件</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>a portfolio</source>
+        <translation>作品集</translation>
+    </message>
+    <message>
+        <source>an XFA form</source>
+        <translation>XFA 表单</translation>
+    </message>
+    <message>
+        <source>document scripts</source>
+        <translation>文档脚本</translation>
+    </message>
+    <message>
+        <source>page templates</source>
+        <translation>页面模板</translation>
+    </message>
+    <message>
+        <source>article threads</source>
+        <translation>文章线索</translation>
+    </message>
+    <message>
+        <source>further layer settings</source>
+        <translation>其他图层设置</translation>
+    </message>
+    <message>
+        <source>a base address of links</source>
+        <translation>链接的基准地址</translation>
+    </message>
+    <message>
+        <source>usage rights</source>
+        <translation>使用权限</translation>
+    </message>
+    <message>
+        <source>the language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>metadata</source>
+        <translation>元数据</translation>
+    </message>
+    <message>
+        <source>1 further document property</source>
+        <translation>1 个其他文档属性</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further document properties</source>
+        <translation>
+            <numerusform>%n 个其他文档属性</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>output intents</source>
+        <translation>输出方法</translation>
+    </message>
+    <message>
+        <source>1 signature</source>
+        <translation>1 个签名</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures</source>
+        <translation>
+            <numerusform>%n 个签名</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 link</source>
+        <translation>1 个链接</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n links</source>
+        <translation>
+            <numerusform>%n 个链接</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 annotation</source>
+        <translation>1 个注释</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n annotations</source>
+        <translation>
+            <numerusform>%n 个注释</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 bookmark</source>
+        <translation>1 个书签</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bookmarks</source>
+        <translation>
+            <numerusform>%n 个书签</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>page labels</source>
+        <translation>页面标签</translation>
+    </message>
+    <message>
+        <source>1 field</source>
+        <translation>1 个域</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n fields</source>
+        <translation>
+            <numerusform>%n 个域</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 layer</source>
+        <translation>1 个图层</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n layers</source>
+        <translation>
+            <numerusform>%n 个图层</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 named destination</source>
+        <translation>1 个命名目标</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n named destinations</source>
+        <translation>
+            <numerusform>%n 个命名目标</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>further names</source>
+        <translation>其他名称</translation>
+    </message>
+    <message>
+        <source>1 further catalog entry</source>
+        <translation>1 个其他目录条目</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n further catalog entries</source>
+        <translation>
+            <numerusform>%n 个其他目录条目</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 renamed name</source>
+        <translation>1 个更改的名称</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n renamed names</source>
+        <translation>
+            <numerusform>%n 个更改的名称</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The document&apos;s identifier cannot be written</source>
+        <translation>无法写入文档的标识符</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be embedded</source>
+        <translation>无法嵌入字体 %1</translation>
+    </message>
+    <message>
+        <source>It has 1 page, and &quot;%1&quot; names others</source>
+        <translation>它有 1 页，而“%1”指的是其他页</translation>
+    </message>
+    <message numerus="yes">
+        <source>It has %n pages, and &quot;%1&quot; names others</source>
+        <translation>
+            <numerusform>它有 %n 页，而“%1”指的是其他页</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 signature is left out, since it holds for the original file alone</source>
+        <translation>1 个签名未采用，因为它只对原文件有效</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n signatures are left out, since they hold for the original file alone</source>
+        <translation>
+            <numerusform>%n 个签名未采用，因为它们只对原文件有效</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 structure tag is damaged and left out</source>
+        <translation>1 个结构标签已损坏，未采用</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n structure tags are damaged and left out</source>
+        <translation>
+            <numerusform>%n 个结构标签已损坏，未采用</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over, as it belongs to pages that are left out: %1</source>
+        <translation>未保留，因为属于未采用的页面：%1</translation>
+    </message>
+    <message>
+        <source>The document has no pages</source>
+        <translation>文档没有页面</translation>
+    </message>
+    <message>
+        <source>1 form field is renamed, since another document has one of its name: &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>1 个表单域已改名，因为另一个文档有同名的域：“%1”现为“%2”；脚本保持不变</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n form fields are renamed, since another document has fields of their names, such as &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
+        <translation>
+            <numerusform>%n 个表单域已改名，因为另一个文档有同名的域，例如“%1”现为“%2”；脚本保持不变</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Not carried over: %1</source>
+        <translation>未保留：%1</translation>
+    </message>
+    <message>
+        <source>it is a part of another one now</source>
+        <translation>它现在是另一个文档的一部分</translation>
+    </message>
+    <message>
+        <source>it was damaged</source>
+        <translation>它已损坏</translation>
+    </message>
+    <message>
+        <source>some of its structure tags are damaged</source>
+        <translation>其部分结构标签已损坏</translation>
+    </message>
+    <message>
+        <source>that forbids encryption</source>
+        <translation>该标准禁止加密</translation>
+    </message>
+    <message>
+        <source>that forbids the document information, which is written</source>
+        <translation>该标准禁止写入的文档信息</translation>
+    </message>
+    <message>
+        <source>that demands a title, and none is given</source>
+        <translation>该标准要求有标题，而没有给出</translation>
+    </message>
+    <message>
+        <source>The document no longer says that it is %1, since %2</source>
+        <translation>文档不再声明自己是 %1，因为%2</translation>
+    </message>
+    <message>
+        <source>Some of its bookmarks are missing in the document itself</source>
+        <translation>其部分书签在文档本身中就已缺失</translation>
+    </message>
+    <message>
+        <source>Some of its form fields are missing in the document itself</source>
+        <translation>其部分表单域在文档本身中就已缺失</translation>
+    </message>
+    <message>
+        <source>The page tree contains itself</source>
+        <translation>页面树包含了自身</translation>
+    </message>
+    <message>
+        <source>The document has no page tree</source>
+        <translation>文档没有页面树</translation>
+    </message>
+    <message>
+        <source>The document states %1 pages, and %2 were found</source>
+        <translation>文档声明有 %1 页，而找到了 %2 页</translation>
+    </message>
+    <message>
+        <source>The document does not state its pages, and %1 were found</source>
+        <translation>文档没有声明页数，而找到了 %1 页</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read, page %3 is the first that is missing</source>
+        <translation>共 %2 页，可读取 %1 页，第 %3 页是缺失的第一页</translation>
+    </message>
+    <message>
+        <source>%1 of %2 pages could be read</source>
+        <translation>共 %2 页，可读取 %1 页</translation>
+    </message>
+    <message>
+        <source>What stands on page %1 is damaged and may lack something</source>
+        <translation>第 %1 页的内容已损坏，可能有所缺失</translation>
+    </message>
+    <message>
+        <source>The document is damaged and was repaired: %1</source>
+        <translation>文档已损坏并已修复：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The document is damaged and was repaired in %n places, the first: %1</source>
+        <translation>
+            <numerusform>文档已损坏，修复了 %n 处，第一处：%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>This is not a PDF file</source>
+        <translation>这不是 PDF 文件</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and its permissions do not let its pages be taken; its owner password would</source>
+        <translation>文档已加密，其权限不允许提取页面；使用所有者密码则可以</translation>
+    </message>
+    <message>
+        <source>The document is encrypted, and none of the passwords opens it</source>
+        <translation>文档已加密，所有密码都无法打开</translation>
+    </message>
+    <message>
+        <source>It is a dynamic XFA form, whose pages only a program for such forms makes</source>
+        <translation>这是动态 XFA 表单，只有专门的程序才能生成其页面</translation>
+    </message>
+    <message>
+        <source>The document is too damaged to be repaired</source>
+        <translation>文档损坏严重，无法修复</translation>
+    </message>
+    <message>
+        <source>The document is damaged: its trailer and its table of objects are missing</source>
+        <translation>文档已损坏：缺少尾部和对象表</translation>
+    </message>
+    <message>
+        <source>The document is damaged: it has no catalog</source>
+        <translation>文档已损坏：没有目录对象</translation>
+    </message>
+    <message>
+        <source>page %1 (%2)</source>
+        <translation>第 %1 页（%2）</translation>
+    </message>
+    <message>
+        <source>Readers need not show pages beyond 3 to 14,400 units: %1</source>
+        <translation>阅读器不一定会显示超出 3 至 14,400 单位的页面：%1</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it has the protection that was asked for instead</source>
+        <translation>文档受保护，而由它创建的 PDF 改用所要求的保护</translation>
+    </message>
+    <message>
+        <source>The document is protected, and the PDF made of it is not</source>
+        <translation>文档受保护，而由它创建的 PDF 不受保护</translation>
+    </message>
+    <message>
+        <source>its header is missing</source>
+        <translation>缺少文件头</translation>
+    </message>
+    <message>
+        <source>the length of a stream is wrong</source>
+        <translation>某个流的长度有误</translation>
+    </message>
+    <message>
+        <source>a stream is cut off</source>
+        <translation>某个流不完整</translation>
+    </message>
+    <message>
+        <source>its table of objects is damaged</source>
+        <translation>其对象表已损坏</translation>
+    </message>
+    <message>
+        <source>an object is not where the table of objects says</source>
+        <translation>某个对象不在对象表所述的位置</translation>
+    </message>
+    <message>
+        <source>it has no catalog</source>
+        <translation>没有目录对象</translation>
+    </message>
+    <message>
+        <source>the data of a stream is damaged</source>
+        <translation>某个流的数据已损坏</translation>
+    </message>
+    <message>
+        <source>an object is not well formed</source>
+        <translation>某个对象的格式不正确</translation>
+    </message>
+    <message>
+        <source>%1 (object %2)</source>
+        <translation>%1（对象 %2）</translation>
+    </message>
+    <message>
+        <source>The document is damaged: %1</source>
+        <translation>文档已损坏：%1</translation>
+    </message>
+    <message>
+        <source>The document is damaged</source>
+        <translation>文档已损坏</translation>
+    </message>
+    <message>
+        <source>the font %1 cannot be read</source>
+        <translation>无法读取字体 %1</translation>
+    </message>
+    <message>
+        <source>The text has too many different forms of letters</source>
+        <translation>文本中不同的字形过多</translation>
+    </message>
+    <message>
+        <source>private use</source>
+        <translation>专用区</translation>
+    </message>
+    <message>
+        <source>unassigned</source>
+        <translation>未分配</translation>
+    </message>
+    <message>
+        <source>other</source>
+        <translation>其他</translation>
+    </message>
+    <message>
+        <source>1 character has no glyph in any font and is shown as a box: %1</source>
+        <translation>1 个字符在任何字体中都没有字形，显示为方框：%1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters have no glyph in any font and are shown as boxes: %1</source>
+        <translation>
+            <numerusform>%n 个字符在任何字体中都没有字形，显示为方框：%1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 character is split between two rows and shown as boxes</source>
+        <translation>1 个字符被拆到两行，显示为方框</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters are split between two rows and shown as boxes</source>
+        <translation>
+            <numerusform>%n 个字符被拆到两行，显示为方框</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The rules for the breaking of lines cannot be loaded: %1</source>
+        <translation>无法加载换行规则：%1</translation>
+    </message>
+    <message>
+        <source>The header or the footer has more rows than its margin</source>
+        <translation>页眉或页脚的行数超出其页边距</translation>
+    </message>
+    <message>
+        <source>The text is not valid %1</source>
+        <translation>文本不是有效的 %1</translation>
+    </message>
+    <message>
+        <source>The bytes do not tell the encoding of the text</source>
+        <translation>无法从字节判断文本的编码</translation>
+    </message>
+    <message>
+        <source>There is no font to write text with</source>
+        <translation>没有可用于书写文本的字体</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,7 @@
 #include "compress/StreamFilters.h"
 #include "compress/TemporaryCopy.h"
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "files/OutputFile.h"
 #include "pdf/DocumentWriter.h"
 #include "pdf/PDFContext.h"
@@ -28,8 +29,6 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
@@ -38,7 +37,7 @@ namespace {
 constexpr const char *kGreyOfNoDevice = "[/CalGray << /WhitePoint [0.9505 1 1.089] /Gamma 2.2 >>]";
 
 QString stopped() {
-    return u"The conversion was stopped"_s;
+    return Reasons::tr("The conversion was stopped");
 }
 
 /// Turns the writer's percentage into the pages written and reports each page.
@@ -204,7 +203,7 @@ QString compressCompleted(const ConvertInfo &convertInfo, SystemCalls &calls) {
         const auto copy = copyFor(destination, convertInfo.tempFilePathName, Flush::Always, calls);
         calls.unlink(QFile::encodeName(destination).constData());
         if (copy->publish(destination, Flush::Always) == OutputFile::Published::NameTaken) {
-            return u"Its name was taken by another file"_s;
+            return Reasons::tr("Its name was taken by another file");
         }
     } catch (const Error &error) {
         return error.reason();

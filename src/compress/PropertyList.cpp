@@ -3,14 +3,13 @@
 #include "compress/PropertyList.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 
 #include <QDateTime>
 #include <QFile>
 #include <QXmlStreamReader>
 
 #include <optional>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -126,14 +125,14 @@ class ListReader {
 QVariantMap readPropertyList(const QString &path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        throw Error(u"%1 cannot be read: %2"_s.arg(path, file.errorString()));
+        throw Error(Reasons::tr("%1 cannot be read: %2").arg(path, file.errorString()));
     }
     if (file.peek(6) == "bplist") {
-        throw Error(u"%1 is a binary property list; only XML can be read"_s.arg(path));
+        throw Error(Reasons::tr("%1 is a binary property list; only XML can be read").arg(path));
     }
     const auto list = file.size() <= kMaxBytes ? ListReader(&file).whole() : std::nullopt;
     if (!list) {
-        throw Error(u"%1 is no valid property list"_s.arg(path));
+        throw Error(Reasons::tr("%1 is no valid property list").arg(path));
     }
     return *list;
 }

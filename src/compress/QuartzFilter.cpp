@@ -4,6 +4,7 @@
 
 #include "compress/PropertyList.h"
 #include "error/Error.h"
+#include "error/Reasons.h"
 
 #include <array>
 
@@ -49,7 +50,8 @@ class FilterReader {
 
   private:
     [[nodiscard]] Error wrong(const QString &key) const {
-        return Error(u"The filter file %1 lacks a valid value for \"%2\""_s.arg(m_path, key));
+        return Error(
+            Reasons::tr("The filter file %1 lacks a valid value for \"%2\"").arg(m_path, key));
     }
 
     QString m_path;

@@ -4,6 +4,7 @@
 
 #include "convert/PageWriters.h"
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "files/SystemCalls.h"
 #include "pdf/import/LeftParts.h"
 
@@ -15,8 +16,6 @@
 #include <new>
 #include <numeric>
 #include <utility>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
@@ -102,11 +101,11 @@ Warnings namePartlyTagged(std::span<const PDFFileInfo *const> entries,
     if (!tagged || untagged.isEmpty()) {
         return {};
     }
-    const qsizetype more = untagged.size() - kNames;
-    const QString names = untagged.first(std::min(kNames, untagged.size())).join(u", "_s);
-    return {{WarningCode::PartlyTagged, u"Not all of the PDF is tagged, as these are not: "_s +
-                                            names +
-                                            (more > 0 ? u" and %1 more"_s.arg(more) : QString())}};
+    const auto more = static_cast<int>(untagged.size() - kNames);
+    const QString names = Reasons::listed(untagged.first(std::min(kNames, untagged.size())));
+    return {{WarningCode::PartlyTagged,
+             Reasons::tr("Not all of the PDF is tagged, as these are not: %1")
+                 .arg(more > 0 ? Reasons::tr("%1 and %n more", nullptr, more).arg(names) : names)}};
 }
 
 /// Names for each entry what it brought and could not be for all of the document together.
@@ -152,7 +151,7 @@ CloseResult notWritten(const QString &reason) {
 CloseResult closeContext(PDFContext &context, const QString &path, const QString &fileName,
                          const ConversionOptions &options) {
     if (context.pageCount() == 0) {
-        return notWritten(u"There is no page to write"_s);
+        return notWritten(Reasons::tr("There is no page to write"));
     }
     if (options.dryRun) {
         return {CloseResult::Status::Written, path, {}, {}};
@@ -248,7 +247,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                           std::back_inserter(outcome.close.warnings));
     }
     if (stop.stop_requested() && outcome.close.status != CloseResult::Status::Written) {
-        outcome.close = notWritten(u"The conversion was stopped"_s);
+        outcome.close = notWritten(Reasons::tr("The conversion was stopped"));
     }
     return outcome;
 }

@@ -6,6 +6,7 @@
 #include "convert/OutputName.h"
 #include "convert/OutputPlan.h"
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "files/Printable.h"
 #include "files/TemporaryFolder.h"
 
@@ -76,8 +77,8 @@ RunResult Run::makePDF(std::size_t firstEntry, const PlannedOutput &output,
     asPlanned.written = true;
     result.outcome.entries.assign(range.end - range.first, asPlanned);
     result.outcome.close.reason =
-        result.kept ? u"Its PDF is there and not older"_s
-                    : u"Its PDF would take the place of an input, %1"_s.arg(output.path);
+        result.kept ? Reasons::tr("Its PDF is there and not older")
+                    : Reasons::tr("Its PDF would take the place of an input, %1").arg(output.path);
     return result;
 }
 

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "error/Reasons.h"
+
 #include <QString>
 
 #include <exception>
@@ -30,7 +32,7 @@ class Error : public std::exception {
 
 /// The Error for std::bad_alloc.
 inline Error notEnoughMemory() {
-    return Error(QStringLiteral("There is not enough memory"));
+    return Error(Reasons::tr("There is not enough memory"));
 }
 
 } // namespace folioforge

@@ -3,6 +3,7 @@
 #include "filelist/EntryReader.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "filelist/FileKind.h"
 #include "filelist/SourceFiles.h"
 #include "files/SourceFile.h"
@@ -15,8 +16,6 @@
 #include <atomic>
 #include <future>
 #include <thread>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
@@ -42,7 +41,7 @@ void accept(ReadEntry &read, SourceReading reading, const InputPasswords &passwo
     case FileKind::Text:
         break; // The page size decides, and may change until the run.
     case FileKind::Other:
-        throw Error(u"It is not a recognised type"_s);
+        throw Error(Reasons::tr("It is not a recognised type"));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "filelist/SourceFiles.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "files/ReadableLinks.h"
 #include "pdf/import/SourceDocument.h"
 
@@ -18,11 +19,11 @@ namespace folioforge {
 namespace {
 
 /// "1 folder", "2 folders"; nothing of none.
-QStringList counted(std::size_t count, const QString &one, const QString &several) {
+QStringList counted(std::size_t count, const char *one, const char *several) {
     if (count == 0) {
         return {};
     }
-    return {count == 1 ? one : several.arg(count)};
+    return {count == 1 ? Reasons::tr(one) : Reasons::tr(several, nullptr, static_cast<int>(count))};
 }
 
 void count(const std::filesystem::directory_entry &entry, FurtherTypes further,
@@ -46,14 +47,18 @@ void count(const std::filesystem::directory_entry &entry, FurtherTypes further,
 } // namespace
 
 Warnings FolderEntries::warnings() const {
-    const QStringList left = counted(pdfs.size(), u"1 PDF"_s, u"%1 PDFs"_s) +
-                             counted(folders.size(), u"1 folder"_s, u"%1 folders"_s) +
-                             counted(static_cast<std::size_t>(others), u"1 file of another type"_s,
-                                     u"%1 files of other types"_s);
+    const QStringList left = counted(pdfs.size(), QT_TRANSLATE_NOOP("Reasons", "1 PDF"),
+                                     QT_TRANSLATE_N_NOOP("Reasons", "%n PDFs")) +
+                             counted(folders.size(), QT_TRANSLATE_NOOP("Reasons", "1 folder"),
+                                     QT_TRANSLATE_N_NOOP("Reasons", "%n folders")) +
+                             counted(static_cast<std::size_t>(others),
+                                     QT_TRANSLATE_NOOP("Reasons", "1 file of another type"),
+                                     QT_TRANSLATE_N_NOOP("Reasons", "%n files of other types"));
     if (left.isEmpty()) {
         return {};
     }
-    return {{WarningCode::FolderEntriesLeft, u"Left out: "_s + left.join(u", "_s)}};
+    return {
+        {WarningCode::FolderEntriesLeft, Reasons::tr("Left out: %1").arg(Reasons::listed(left))}};
 }
 
 FolderEntries listFolder(const QByteArray &folder, FurtherTypes further) {
@@ -65,8 +70,8 @@ FolderEntries listFolder(const QByteArray &folder, FurtherTypes further) {
         entry.increment(failure);
     }
     if (failure) {
-        throw Error(u"The folder cannot be listed: %1"_s.arg(
-            QString::fromLocal8Bit(failure.message().c_str())));
+        throw Error(Reasons::tr("The folder cannot be listed: %1")
+                        .arg(QString::fromLocal8Bit(failure.message().c_str())));
     }
     return found;
 }
@@ -105,7 +110,7 @@ QString sizeText(qint64 bytes) {
 int countPdfPages(const QString &path) {
     const PDFSummary summary = summarizePDF(path);
     if (summary.encrypted) {
-        throw Error(u"The document is encrypted"_s);
+        throw Error(Reasons::tr("The document is encrypted"));
     }
     return summary.pageCount;
 }

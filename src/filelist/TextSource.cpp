@@ -3,6 +3,7 @@
 #include "filelist/TextSource.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "files/SourceFile.h"
 #include "text/TextDecoder.h"
 #include "text/TextEncoding.h"
@@ -14,14 +15,12 @@
 #include <limits>
 #include <new>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 namespace {
 
 void requireTextSize(const FileVersion &file) {
     if (file.size > std::numeric_limits<int>::max()) {
-        throw Error(u"The text is larger than 2 GB"_s);
+        throw Error(Reasons::tr("The text is larger than 2 GB"));
     }
 }
 
@@ -32,16 +31,17 @@ SourceText readWholeText(const QString &path, SystemCalls &calls, const QString 
         DecodedText decoded = decodeText(file.readAll(), encoding);
         SourceText source{std::move(decoded.text), {}};
         if (!decoded.guess.isEmpty()) {
-            source.warnings.push_back({WarningCode::EncodingGuessed,
-                                       u"The text is read as %1, a guess"_s.arg(decoded.guess)});
+            source.warnings.push_back(
+                {WarningCode::EncodingGuessed,
+                 Reasons::tr("The text is read as %1, a guess").arg(decoded.guess)});
         }
         return source;
     }
     QString text = decodeText(file.readAll());
     if (text.isNull()) {
-        return {
-            {},
-            {{WarningCode::TextNotUtf8, u"The text is not valid UTF-8; its page is left blank"_s}}};
+        return {{},
+                {{WarningCode::TextNotUtf8,
+                  Reasons::tr("The text is not valid UTF-8; its page is left blank")}}};
     }
     return {std::move(text), {}};
 }
@@ -51,7 +51,7 @@ SourceText readWholeText(const QString &path, SystemCalls &calls, const QString 
 void requireReadableText(const QString &path) {
     requireTextSize(FileVersion::of(path));
     if (::access(QFile::encodeName(path).constData(), R_OK) != 0) {
-        throw systemError(u"Cannot open the file"_s);
+        throw systemError(Reasons::tr("Cannot open the file"));
     }
 }
 

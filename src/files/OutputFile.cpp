@@ -3,6 +3,7 @@
 #include "files/OutputFile.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "files/PartFiles.h"
 
 #include <QFile>
@@ -16,8 +17,6 @@
 #include <cerrno>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
@@ -26,6 +25,12 @@ constexpr std::size_t kBufferSize = 1 << 20;
 
 constexpr mode_t kNewFileMode = 0666;
 constexpr mode_t kOwnerMode = S_IRUSR | S_IWUSR;
+
+constexpr const char *kNotCreated = QT_TRANSLATE_NOOP("Reasons", "Cannot create a file in %1");
+constexpr const char *kNotWritten = QT_TRANSLATE_NOOP("Reasons", "Cannot write a file in %1");
+constexpr const char *kNotReadBack = QT_TRANSLATE_NOOP("Reasons", "Cannot read back a file in %1");
+constexpr const char *kNotFlushed = QT_TRANSLATE_NOOP("Reasons", "Cannot flush a file in %1");
+constexpr const char *kNotNamed = QT_TRANSLATE_NOOP("Reasons", "Cannot name a file in %1");
 
 bool isNoNamelessFile(int error) {
     return error == EOPNOTSUPP || error == EISDIR || error == EINVAL || error == ENOENT ||
@@ -56,7 +61,7 @@ OutputFile::OutputFile(const QString &path, SystemCalls &calls, Readers readers)
     }
     if (!m_file.isOpen()) {
         if (!isNoNamelessFile(errno)) {
-            fail("create");
+            fail(kNotCreated);
         }
         openNamed(QFile::encodeName(info.fileName()));
     }
@@ -70,10 +75,9 @@ OutputFile::~OutputFile() {
     }
 }
 
-void OutputFile::fail(const char *doing) const {
+void OutputFile::fail(const char *what) const {
     const int reason = errno;
-    const QString folder = QFile::decodeName(m_folder.c_str());
-    throw systemError(u"Cannot %1 a file in %2"_s.arg(QString::fromLatin1(doing), folder), reason);
+    throw systemError(Reasons::tr(what).arg(QFile::decodeName(m_folder.c_str())), reason);
 }
 
 void OutputFile::openNamed(const QByteArray &fileName) {
@@ -83,7 +87,7 @@ void OutputFile::openNamed(const QByteArray &fileName) {
         opened = openPart(partPath(m_folder, fileName));
     }
     if (!opened) {
-        fail("create");
+        fail(kNotCreated);
     }
     // The mode of the empty file shows the umask. Until the file is complete, only its owner may
     // read it.
@@ -105,7 +109,7 @@ bool OutputFile::openPart(const std::string &path) {
         return false;
     }
     if (!m_file.isOpen()) {
-        fail("create");
+        fail(kNotCreated);
     }
     if (!lockPart(m_file.get()) || isRemoved(m_file.get())) {
         m_file.close();
@@ -118,7 +122,7 @@ bool OutputFile::openPart(const std::string &path) {
 
 void OutputFile::append(std::span<const char> bytes) {
     if (!m_file.write(bytes)) {
-        fail("write");
+        fail(kNotWritten);
     }
 }
 
@@ -145,7 +149,7 @@ QByteArray OutputFile::read(qint64 offset, qint64 size) {
     const qint64 got =
         m_file.readAt(offset, {bytes.data(), static_cast<std::size_t>(bytes.size())});
     if (got < 0) {
-        fail("read back");
+        fail(kNotReadBack);
     }
     bytes.truncate(got);
     return bytes;
@@ -154,22 +158,23 @@ QByteArray OutputFile::read(qint64 offset, qint64 size) {
 void OutputFile::overwrite(qint64 offset, const QByteArray &bytes) {
     drain();
     if (!m_file.writeAt(offset, bytes)) {
-        fail("write");
+        fail(kNotWritten);
     }
 }
 
 Warnings OutputFile::finish(Flush flush) {
     drain();
     if (m_part && m_calls.fchmod(m_file.get(), m_mode) != 0 && errno != EPERM && errno != ENOTSUP) {
-        fail("write");
+        fail(kNotWritten);
     }
     if (flush == Flush::Never || uninterrupted([&] { return m_calls.fsync(m_file.get()); }) == 0) {
         return {};
     }
     if (!isNoFlush(errno)) {
-        fail("flush");
+        fail(kNotFlushed);
     }
-    return {{WarningCode::NotFlushed, u"The file system cannot flush files to the disk"_s}};
+    return {
+        {WarningCode::NotFlushed, Reasons::tr("The file system cannot flush files to the disk")}};
 }
 
 bool OutputFile::renamePart(const char *path) {
@@ -214,7 +219,7 @@ OutputFile::Published OutputFile::publish(const QString &path, Flush flush) {
         if (errno == EEXIST) {
             return Published::NameTaken;
         }
-        fail("name");
+        fail(kNotNamed);
     }
     m_part.reset();
     try {
@@ -233,7 +238,7 @@ void OutputFile::linkAsPart(const QByteArray &fileName) {
     auto part = std::make_unique<PartFile>(partPath(m_folder, fileName));
     lockPart(m_file.get());
     if (m_calls.linkAnonymous(m_file.get(), part->path().c_str()) != 0) {
-        fail("name");
+        fail(kNotNamed);
     }
     m_part = std::move(part);
 }
@@ -247,7 +252,7 @@ void OutputFile::replace(const QString &path, Flush flush) {
     const FileDescriptor lock(::fcntl(m_file.get(), F_DUPFD_CLOEXEC, 0));
     closeFile();
     if (m_calls.rename(m_part->path().c_str(), QFile::encodeName(path).constData()) != 0) {
-        fail("name");
+        fail(kNotNamed);
     }
     m_part.reset();
     if (flush == Flush::Always) {
@@ -257,7 +262,7 @@ void OutputFile::replace(const QString &path, Flush flush) {
 
 void OutputFile::closeFile() {
     if (!m_file.close() && errno != EINTR) {
-        fail("write");
+        fail(kNotWritten);
     }
 }
 

@@ -67,8 +67,8 @@ class OutputFile {
     bool renamePart(const char *path);
     void closeFile();
     void syncFolder();
-    /// Throws Error with the reason in errno.
-    [[noreturn]] void fail(const char *doing) const;
+    /// Throws Error: `what` with the folder for %1, and the reason in errno.
+    [[noreturn]] void fail(const char *what) const;
 
     SystemCalls &m_calls;
     std::string m_folder;

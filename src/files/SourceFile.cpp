@@ -2,6 +2,8 @@
 
 #include "files/SourceFile.h"
 
+#include "error/Reasons.h"
+
 #include <QFile>
 
 #include <fcntl.h>
@@ -11,23 +13,21 @@
 #include <cerrno>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
 
 [[noreturn]] void failToOpen() {
-    throw systemError(u"Cannot open the file"_s);
+    throw systemError(Reasons::tr("Cannot open the file"));
 }
 
 [[noreturn]] void failToRead() {
-    throw systemError(u"Cannot read the file"_s);
+    throw systemError(Reasons::tr("Cannot read the file"));
 }
 
 FileVersion versionOf(const QString &path, const struct stat &status) {
     if (!S_ISREG(status.st_mode)) {
-        throw Error(u"It is not a regular file"_s);
+        throw Error(Reasons::tr("It is not a regular file"));
     }
 #ifdef __APPLE__
     const timespec &time = status.st_mtimespec;
@@ -49,11 +49,11 @@ FileVersion versionOf(const QString &path, const FileDescriptor &descriptor) {
 } // namespace
 
 Error fileEndsTooEarly() {
-    return Error(u"The file ends too early"_s);
+    return Error(Reasons::tr("The file ends too early"));
 }
 
 void throwFileChanged(const QString &path) {
-    throw Error(u"The file %1 was changed while it was being converted"_s.arg(path));
+    throw Error(Reasons::tr("The file %1 was changed while it was being converted").arg(path));
 }
 
 FileVersion FileVersion::of(const QString &path) {

@@ -3,14 +3,13 @@
 #include "files/SourceReader.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 
 #include <algorithm>
 #include <cstring>
 #include <utility>
 
 #include <sys/resource.h>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -146,7 +145,7 @@ std::span<const char> SourceReader::view(const FileVersion &file, qint64 offset,
     }
     const std::span<char> target(m_view.data(), static_cast<std::size_t>(size));
     if (read(file, offset, target) != target.size()) {
-        fail(u"The file %1 ended too early"_s.arg(file.path));
+        fail(Reasons::tr("The file %1 ended too early").arg(file.path));
     }
     return target;
 }

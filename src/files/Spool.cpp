@@ -3,6 +3,7 @@
 #include "files/Spool.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "files/PartFiles.h"
 
 #include <QDir>
@@ -14,8 +15,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <string>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -41,7 +40,7 @@ void Spool::openFile() {
         }
     }
     if (!m_file.isOpen()) {
-        throw systemError(u"Cannot create a temporary file"_s);
+        throw systemError(Reasons::tr("Cannot create a temporary file"));
     }
 }
 
@@ -51,7 +50,7 @@ void Spool::moveToFile(QByteArrayView data) {
     }
     // Where this fails half way, the data is still in memory and its place is still there.
     if (!m_file.writeAt(m_fileSize, data)) {
-        throw systemError(u"Cannot write a temporary file"_s);
+        throw systemError(Reasons::tr("Cannot write a temporary file"));
     }
     m_fileSize += data.size();
 }
@@ -90,7 +89,7 @@ void Spool::readWindow(Place place) {
     if (got < size) {
         errno = got < 0 ? errno : EIO;
         m_window.clear();
-        throw systemError(u"Cannot read a temporary file"_s);
+        throw systemError(Reasons::tr("Cannot read a temporary file"));
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "files/SystemCalls.h"
 
+#include "error/Reasons.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -11,12 +13,10 @@
 #include <cstring>
 #include <string>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 Error systemError(const QString &what, int reason) {
-    return Error(u"%1: %2"_s.arg(what, QString::fromLocal8Bit(std::strerror(reason))));
+    return Error(Reasons::tr("%1: %2").arg(what, QString::fromLocal8Bit(std::strerror(reason))));
 }
 
 int SystemCalls::open(const char *path, int flags, mode_t mode) {

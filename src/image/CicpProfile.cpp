@@ -2,6 +2,8 @@
 
 #include "image/CicpProfile.h"
 
+#include "error/Reasons.h"
+
 #include <QtEndian>
 
 #include <cmath>
@@ -171,8 +173,8 @@ void warnOfHighRange(int transfer, Warnings &warnings) {
     constexpr int kHybridLogGamma = 18;
     if (transfer == kPerceptualQuantizer || transfer == kHybridLogGamma) {
         warnings.push_back({WarningCode::ColorsDiffer,
-                            QStringLiteral("The picture is made for HDR screens, and a PDF shows "
-                                           "its brightness otherwise")});
+                            Reasons::tr("The picture is made for HDR screens, and a PDF shows "
+                                        "its brightness otherwise")});
     }
 }
 

@@ -3,6 +3,7 @@
 #include "image/Deflate.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 
 #include <QScopeGuard>
 
@@ -15,8 +16,6 @@
 #include <algorithm>
 #include <memory>
 #include <new>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -106,7 +105,7 @@ QByteArray inflateBytes(QByteArrayView bytes, qsizetype size) {
     size_t written = 0;
     const libdeflate_result result = inflateInto(bytes, out, written);
     if (result != LIBDEFLATE_SUCCESS || written != static_cast<size_t>(size)) {
-        throw Error(u"The compressed data is damaged"_s);
+        throw Error(Reasons::tr("The compressed data is damaged"));
     }
     return out;
 }
@@ -148,7 +147,7 @@ QByteArray inflateUpTo(QByteArrayView bytes, qsizetype limit) {
     size_t written = 0;
     const auto inflate = [&] { return inflateInto(bytes, out, written); };
     if (withRoom(out, bytes.size(), limit, inflate) != LIBDEFLATE_SUCCESS) {
-        throw Error(u"The compressed data is damaged"_s);
+        throw Error(Reasons::tr("The compressed data is damaged"));
     }
     out.truncate(static_cast<qsizetype>(written));
     return out;

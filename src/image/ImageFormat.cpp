@@ -3,13 +3,12 @@
 #include "image/ImageFormat.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/formats/Formats.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -29,7 +28,7 @@ const std::vector<ImageFormat> &formats() {
 const ImageFormat &formatOf(const FileView &file) {
     const QByteArray head = file.read(0, kSniffedBytes);
     if (head.isEmpty()) {
-        throw Error(u"The file is empty"_s);
+        throw Error(Reasons::tr("The file is empty"));
     }
     const auto &table = formats();
     auto found = std::ranges::find_if(table, [&](const ImageFormat &format) {
@@ -42,7 +41,7 @@ const ImageFormat &formatOf(const FileView &file) {
         });
     }
     if (found == table.end()) {
-        throw Error(u"The file is no image of a known format"_s);
+        throw Error(Reasons::tr("The file is no image of a known format"));
     }
     return *found;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "files/SourceFile.h"
 #include "image/ImageHeader.h"
 #include "image/PdfImage.h"
@@ -68,7 +69,7 @@ auto readImageFile(const QString &path, SystemCalls &calls, const Read &read) {
         file->requireNoFailure(); // A decoder may have taken it for the end of the file.
         return result;
     } catch (const std::bad_alloc &) {
-        throw Error(QStringLiteral("There is not enough memory for the image"));
+        throw Error(Reasons::tr("There is not enough memory for the image"));
     }
 }
 

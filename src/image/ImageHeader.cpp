@@ -3,11 +3,10 @@
 #include "image/ImageHeader.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/ImageFormat.h"
 
 #include <cmath>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -35,11 +34,12 @@ double roundedToWhole(double dpi) {
 
 ImageHeader checkedHeader(ImageHeader header) {
     if (header.width <= 0 || header.height <= 0) {
-        throw Error(u"The image has no pixels"_s);
+        throw Error(Reasons::tr("The image has no pixels"));
     }
     if (qint64(header.width) * header.height > kMaxImagePixels) {
-        throw Error(
-            u"The image is too large (%1 x %2 pixels)"_s.arg(header.width).arg(header.height));
+        throw Error(Reasons::tr("The image is too large (%1 x %2 pixels)")
+                        .arg(header.width)
+                        .arg(header.height));
     }
     if (header.orientation < 1 || header.orientation > 8) {
         header.orientation = 1;

@@ -2,12 +2,11 @@
 
 #include "image/PdfImage.h"
 
+#include "error/Reasons.h"
 #include "image/ImageFormat.h"
 
 #include <optional>
 #include <utility>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -77,7 +76,8 @@ class Pictures {
             image = reader.next();
         } catch (const Error &error) {
             m_file->requireNoFailure();
-            warn(WarningCode::PictureDamaged, u"It is left out: "_s + error.reason());
+            warn(WarningCode::PictureDamaged,
+                 Reasons::tr("It is left out: %1").arg(error.reason()));
             m_fault = m_fault ? m_fault : error;
             return true;
         }
@@ -88,7 +88,8 @@ class Pictures {
         m_pixels += qint64(image->width) * image->height;
         if (m_pixels > kMostPixels) {
             warn(WarningCode::MorePictures,
-                 u"It and those behind it are left out, since they are too large together"_s);
+                 Reasons::tr(
+                     "It and those behind it are left out, since they are too large together"));
             return false;
         }
         for (const Warning &warning : std::exchange(image->warnings, {})) {
@@ -108,8 +109,10 @@ class Pictures {
     [[nodiscard]] Warnings warnings() const {
         Warnings all;
         for (const auto &[page, warning] : m_warnings) {
-            const QString where = m_page > 1 ? u"Page %1: "_s.arg(page) : QString();
-            all.push_back({warning.code, where + warning.text});
+            all.push_back({warning.code,
+                           m_page > 1
+                               ? Reasons::tr("Page %1: %2").arg(QString::number(page), warning.text)
+                               : warning.text});
         }
         return all;
     }

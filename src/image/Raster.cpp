@@ -3,6 +3,7 @@
 #include "image/Raster.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/Deflate.h"
 #include "image/IccProfile.h"
 #include "image/Parallel.h"
@@ -13,8 +14,6 @@
 
 #include <algorithm>
 #include <future>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -185,7 +184,7 @@ void requirePlausible(qint64 raw, qint64 compressed, qint64 ratio) {
     // A small image may be mostly header; only a large one costs much memory.
     constexpr qint64 kSmallImage = 1 << 20;
     if (raw > kSmallImage && compressed < raw / ratio) {
-        throw Error(u"The file is too short for the image its header describes"_s);
+        throw Error(Reasons::tr("The file is too short for the image its header describes"));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "image/RowFilter.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/Parallel.h"
 
 #include <array>
@@ -10,8 +11,6 @@
 #include <cstring>
 #include <limits>
 #include <vector>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -150,7 +149,7 @@ void unfilterRow(uchar filter, uchar *row, const uchar *above, qsizetype size, i
         unfilterWith(row, above, size, pixel, paethPredictor);
         break;
     default:
-        throw Error(u"The image's rows are damaged"_s);
+        throw Error(Reasons::tr("The image's rows are damaged"));
     }
 }
 
@@ -175,7 +174,7 @@ QByteArray filterRows(const QByteArray &rows, qsizetype stride, int pixelBytes) 
 
 QByteArray unfilterRows(QByteArray filtered, int height, qsizetype stride, int pixelBytes) {
     if (filtered.size() < height * (stride + 1)) {
-        throw Error(u"The image has fewer rows than its header says"_s);
+        throw Error(Reasons::tr("The image has fewer rows than its header says"));
     }
     auto *bytes = reinterpret_cast<uchar *>(filtered.data());
     const std::vector<uchar> zeros(static_cast<size_t>(stride));

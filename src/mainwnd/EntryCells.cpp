@@ -73,7 +73,7 @@ QString plainTipOf(const PDFFileInfo &entry, int column) {
 QString remarksOf(const PDFFileInfo &entry) {
     QStringList lines;
     for (const QString &remark : entry.remarks()) {
-        lines += printable(remark) + u'.';
+        lines += QCoreApplication::translate("EntryCells", "%1.").arg(printable(remark));
     }
     return lines.join(u'\n');
 }

@@ -3,6 +3,7 @@
 #include "pdf/DocumentInfo.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "pdf/XmpInfo.h"
 #include "pdf/XmpPacket.h"
 
@@ -43,8 +44,11 @@ std::optional<QDateTime> sourceDate() {
     bool fits = false;
     const qint64 seconds = text.toLongLong(&fits);
     if (!fits || seconds > kLast || !std::ranges::all_of(text, isDigit)) {
-        throw Error(u"SOURCE_DATE_EPOCH is \"%1\", not the seconds from 1970 to a date before the "
-                    "year 10000"_s.arg(text));
+        throw Error(
+            Reasons::tr(
+                "SOURCE_DATE_EPOCH is \"%1\", not the seconds from 1970 to a date before the "
+                "year 10000")
+                .arg(text));
     }
     return QDateTime::fromSecsSinceEpoch(seconds).toUTC();
 }

@@ -2,6 +2,8 @@
 
 #include "pdf/DocumentParts.h"
 
+#include "error/Reasons.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -14,36 +16,60 @@ namespace folioforge {
 namespace {
 
 constexpr std::array kWords{
-    PartWords{PartKind::StructureElements, "structure-elements"_L1, "1 structure tag"_L1,
-              "%1 structure tags"_L1},
-    PartWords{PartKind::Attachments, "attachments"_L1, "1 attachment"_L1, "%1 attachments"_L1},
-    PartWords{PartKind::Portfolio, "portfolio"_L1, "a portfolio"_L1, {}},
-    PartWords{PartKind::XfaForm, "xfa-form"_L1, "an XFA form"_L1, {}},
-    PartWords{PartKind::Scripts, "scripts"_L1, "document scripts"_L1, {}},
-    PartWords{PartKind::PageTemplates, "page-templates"_L1, "page templates"_L1, {}},
-    PartWords{PartKind::ArticleThreads, "article-threads"_L1, "article threads"_L1, {}},
-    PartWords{PartKind::LayerSettings, "layer-settings"_L1, "further layer settings"_L1, {}},
-    PartWords{PartKind::BaseAddress, "base-address"_L1, "a base address of links"_L1, {}},
-    PartWords{PartKind::UsageRights, "usage-rights"_L1, "usage rights"_L1, {}},
-    PartWords{PartKind::Language, "language"_L1, "the language"_L1, {}},
-    PartWords{PartKind::Metadata, "metadata"_L1, "metadata"_L1, {}},
-    PartWords{PartKind::Properties, "properties"_L1, "1 further document property"_L1,
-              "%1 further document properties"_L1},
-    PartWords{PartKind::OutputIntents, "output-intents"_L1, "output intents"_L1, {}},
-    PartWords{PartKind::Signatures, "signatures"_L1, "1 signature"_L1, "%1 signatures"_L1},
-    PartWords{PartKind::Links, "links"_L1, "1 link"_L1, "%1 links"_L1},
-    PartWords{PartKind::Annotations, "annotations"_L1, "1 annotation"_L1, "%1 annotations"_L1},
-    PartWords{PartKind::Bookmarks, "bookmarks"_L1, "1 bookmark"_L1, "%1 bookmarks"_L1},
-    PartWords{PartKind::PageLabels, "page-labels"_L1, "page labels"_L1, {}},
-    PartWords{PartKind::Fields, "fields"_L1, "1 field"_L1, "%1 fields"_L1},
-    PartWords{PartKind::Layers, "layers"_L1, "1 layer"_L1, "%1 layers"_L1},
-    PartWords{PartKind::Destinations, "destinations"_L1, "1 named destination"_L1,
-              "%1 named destinations"_L1},
-    PartWords{PartKind::FurtherNames, "further-names"_L1, "further names"_L1, {}},
-    PartWords{PartKind::FurtherEntries, "further-entries"_L1, "1 further catalog entry"_L1,
-              "%1 further catalog entries"_L1},
-    PartWords{PartKind::RenamedNames, "renamed-names"_L1, "1 renamed name"_L1,
-              "%1 renamed names"_L1},
+    PartWords{PartKind::StructureElements, "structure-elements"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "1 structure tag"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n structure tags")},
+    PartWords{PartKind::Attachments, "attachments"_L1, QT_TRANSLATE_NOOP("Reasons", "1 attachment"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n attachments")},
+    PartWords{PartKind::Portfolio, "portfolio"_L1, QT_TRANSLATE_NOOP("Reasons", "a portfolio"),
+              nullptr},
+    PartWords{PartKind::XfaForm, "xfa-form"_L1, QT_TRANSLATE_NOOP("Reasons", "an XFA form"),
+              nullptr},
+    PartWords{PartKind::Scripts, "scripts"_L1, QT_TRANSLATE_NOOP("Reasons", "document scripts"),
+              nullptr},
+    PartWords{PartKind::PageTemplates, "page-templates"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "page templates"), nullptr},
+    PartWords{PartKind::ArticleThreads, "article-threads"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "article threads"), nullptr},
+    PartWords{PartKind::LayerSettings, "layer-settings"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "further layer settings"), nullptr},
+    PartWords{PartKind::BaseAddress, "base-address"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "a base address of links"), nullptr},
+    PartWords{PartKind::UsageRights, "usage-rights"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "usage rights"), nullptr},
+    PartWords{PartKind::Language, "language"_L1, QT_TRANSLATE_NOOP("Reasons", "the language"),
+              nullptr},
+    PartWords{PartKind::Metadata, "metadata"_L1, QT_TRANSLATE_NOOP("Reasons", "metadata"), nullptr},
+    PartWords{PartKind::Properties, "properties"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "1 further document property"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n further document properties")},
+    PartWords{PartKind::OutputIntents, "output-intents"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "output intents"), nullptr},
+    PartWords{PartKind::Signatures, "signatures"_L1, QT_TRANSLATE_NOOP("Reasons", "1 signature"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n signatures")},
+    PartWords{PartKind::Links, "links"_L1, QT_TRANSLATE_NOOP("Reasons", "1 link"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n links")},
+    PartWords{PartKind::Annotations, "annotations"_L1, QT_TRANSLATE_NOOP("Reasons", "1 annotation"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n annotations")},
+    PartWords{PartKind::Bookmarks, "bookmarks"_L1, QT_TRANSLATE_NOOP("Reasons", "1 bookmark"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n bookmarks")},
+    PartWords{PartKind::PageLabels, "page-labels"_L1, QT_TRANSLATE_NOOP("Reasons", "page labels"),
+              nullptr},
+    PartWords{PartKind::Fields, "fields"_L1, QT_TRANSLATE_NOOP("Reasons", "1 field"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n fields")},
+    PartWords{PartKind::Layers, "layers"_L1, QT_TRANSLATE_NOOP("Reasons", "1 layer"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n layers")},
+    PartWords{PartKind::Destinations, "destinations"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "1 named destination"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n named destinations")},
+    PartWords{PartKind::FurtherNames, "further-names"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "further names"), nullptr},
+    PartWords{PartKind::FurtherEntries, "further-entries"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "1 further catalog entry"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n further catalog entries")},
+    PartWords{PartKind::RenamedNames, "renamed-names"_L1,
+              QT_TRANSLATE_NOOP("Reasons", "1 renamed name"),
+              QT_TRANSLATE_N_NOOP("Reasons", "%n renamed names")},
 };
 
 constexpr std::size_t indexOf(PartKind kind) {
@@ -74,10 +100,11 @@ QString inWords(const PartCounts &parts) {
     QStringList all;
     for (const auto &[kind, count] : parts) {
         const PartWords &words = kWords.at(indexOf(kind));
-        all += count == 1 || words.several.isEmpty() ? QString(words.one)
-                                                     : QString(words.several).arg(count);
+        all += count == 1 || words.several == nullptr
+                   ? Reasons::tr(words.one)
+                   : Reasons::tr(words.several, nullptr, static_cast<int>(count));
     }
-    return all.join(u", "_s);
+    return Reasons::listed(all);
 }
 
 void addParts(PartCounts &parts, PartKind kind, std::size_t count) {

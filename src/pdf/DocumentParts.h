@@ -53,9 +53,9 @@ struct DocumentParts {
 /// What a kind is called.
 struct PartWords {
     PartKind kind;
-    QLatin1StringView name;    ///< In reports. It never changes, because scripts read it.
-    QLatin1StringView one;     ///< In a sentence, of one.
-    QLatin1StringView several; ///< In a sentence; %1 is their number. Empty where it is as for one.
+    QLatin1StringView name; ///< In reports. It never changes, because scripts read it.
+    const char *one;        ///< In a sentence, of one.
+    const char *several;    ///< In a sentence, of %n. None where it is as for one.
 };
 
 /// The words for every kind, in the order of their declaration.

@@ -2,6 +2,7 @@
 
 #include "pdf/DocumentWriter.h"
 
+#include "error/Reasons.h"
 #include "pdf/Password.h"
 #include "pdf/QpdfErrors.h"
 #include "pdf/XmpPacket.h"
@@ -14,8 +15,6 @@
 #include <libdeflate.h>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -47,7 +46,7 @@ void putId(Trailer &trailer, const QByteArray &id) {
     const auto first = trailer.bytes.indexOf(key) + key.size();
     const auto second = first + id.size() + 2; // Behind "><".
     if (first < key.size() || trailer.bytes.mid(second + id.size(), 2) != ">]") {
-        throw Error(u"The document's identifier cannot be written"_s);
+        throw Error(Reasons::tr("The document's identifier cannot be written"));
     }
     trailer.bytes.replace(first, id.size(), id);
     trailer.bytes.replace(second, id.size(), id);

@@ -2,6 +2,7 @@
 
 #include "pdf/PDFContext.h"
 
+#include "error/Reasons.h"
 #include "files/OutputFile.h"
 #include "pdf/DocumentInfo.h"
 #include "pdf/DocumentWriter.h"
@@ -27,9 +28,9 @@ namespace {
 
 Warning protectionLeft(bool hasOther) {
     return {WarningCode::ProtectionLeft,
-            hasOther ? QStringLiteral("The document is protected, and the PDF made of it has the "
-                                      "protection that was asked for instead")
-                     : QStringLiteral("The document is protected, and the PDF made of it is not")};
+            hasOther ? Reasons::tr("The document is protected, and the PDF made of it has the "
+                                   "protection that was asked for instead")
+                     : Reasons::tr("The document is protected, and the PDF made of it is not")};
 }
 
 } // namespace

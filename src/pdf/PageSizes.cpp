@@ -2,6 +2,7 @@
 
 #include "pdf/PageSizes.h"
 
+#include "error/Reasons.h"
 #include "text/PageSetup.h"
 
 #include <QSizeF>
@@ -50,7 +51,7 @@ Warnings checkPageSizes(std::span<const QPDFObjectHandle> pages) {
         } else if (!box.isRectangle()) {
             continue;
         } else if (named.size() < kNamed) {
-            named += u"page %1 (%2)"_s.arg(i + 1).arg(sizeText(size));
+            named += Reasons::tr("page %1 (%2)").arg(i + 1).arg(sizeText(size));
         } else {
             ++others;
         }
@@ -58,10 +59,11 @@ Warnings checkPageSizes(std::span<const QPDFObjectHandle> pages) {
     if (named.isEmpty()) {
         return {};
     }
-    const QString more = others == 0 ? QString() : u" and %1 more"_s.arg(others);
-    return {{WarningCode::PageSize,
-             u"Readers need not show pages beyond 3 to 14,400 units: %1"_s.arg(named.join(u", "_s) +
-                                                                               more)}};
+    const QString all = Reasons::listed(named);
+    return {
+        {WarningCode::PageSize,
+         Reasons::tr("Readers need not show pages beyond 3 to 14,400 units: %1")
+             .arg(others == 0 ? all : Reasons::tr("%1 and %n more", nullptr, others).arg(all))}};
 }
 
 QSizeF sizeOfPage(const QPDFObjectHandle &page) {

@@ -2,6 +2,8 @@
 
 #include "pdf/QpdfErrors.h"
 
+#include "error/Reasons.h"
+
 #include <QRegularExpression>
 
 #include <array>
@@ -20,20 +22,21 @@ struct Cause {
 
 /// The first one that fits counts.
 constexpr std::array kCauses{
-    Cause{"PDF header", "its header is missing"},
-    Cause{"stream length", "the length of a stream is wrong"},
-    Cause{"endstream", "the length of a stream is wrong"},
-    Cause{"recover stream data", "a stream is cut off"},
-    Cause{"xref", "its table of objects is damaged"},
-    Cause{"cross-reference", "its table of objects is damaged"},
-    Cause{"Cross-reference", "its table of objects is damaged"},
-    Cause{"trailer", "its table of objects is damaged"},
-    Cause{"object stream", "its table of objects is damaged"},
-    Cause{"expected n n obj", "an object is not where the table of objects says"},
-    Cause{"/Root", "it has no catalog"},
-    Cause{"decod", "the data of a stream is damaged"},
-    Cause{"inflate", "the data of a stream is damaged"},
-    Cause{"EOF", "it is cut off"},
+    Cause{"PDF header", QT_TRANSLATE_NOOP("Reasons", "its header is missing")},
+    Cause{"stream length", QT_TRANSLATE_NOOP("Reasons", "the length of a stream is wrong")},
+    Cause{"endstream", QT_TRANSLATE_NOOP("Reasons", "the length of a stream is wrong")},
+    Cause{"recover stream data", QT_TRANSLATE_NOOP("Reasons", "a stream is cut off")},
+    Cause{"xref", QT_TRANSLATE_NOOP("Reasons", "its table of objects is damaged")},
+    Cause{"cross-reference", QT_TRANSLATE_NOOP("Reasons", "its table of objects is damaged")},
+    Cause{"Cross-reference", QT_TRANSLATE_NOOP("Reasons", "its table of objects is damaged")},
+    Cause{"trailer", QT_TRANSLATE_NOOP("Reasons", "its table of objects is damaged")},
+    Cause{"object stream", QT_TRANSLATE_NOOP("Reasons", "its table of objects is damaged")},
+    Cause{"expected n n obj",
+          QT_TRANSLATE_NOOP("Reasons", "an object is not where the table of objects says")},
+    Cause{"/Root", QT_TRANSLATE_NOOP("Reasons", "it has no catalog")},
+    Cause{"decod", QT_TRANSLATE_NOOP("Reasons", "the data of a stream is damaged")},
+    Cause{"inflate", QT_TRANSLATE_NOOP("Reasons", "the data of a stream is damaged")},
+    Cause{"EOF", QT_TRANSLATE_NOOP("Reasons", "it is cut off")},
 };
 
 /// What libqpdf says beside a fault that it names too.
@@ -54,11 +57,11 @@ QString inWords(const QPDFExc &error) {
     const std::string &detail = error.getMessageDetail();
     const auto cause = std::ranges::find_if(
         kCauses, [&](const Cause &known) { return contains(detail, known.sign); });
-    QString words =
-        QString::fromLatin1(cause != kCauses.end() ? cause->words : "an object is not well formed");
+    const QString words = cause != kCauses.end() ? Reasons::tr(cause->words)
+                                                 : Reasons::tr("an object is not well formed");
     static const QRegularExpression kNumber(u"object (\\d+)"_s);
     const auto match = kNumber.match(QString::fromLatin1(error.getObject()));
-    return match.hasMatch() ? u"%1 (object %2)"_s.arg(words, match.captured(1)) : words;
+    return match.hasMatch() ? Reasons::tr("%1 (object %2)").arg(words, match.captured(1)) : words;
 }
 
 bool isFault(const QPDFExc &warning) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "files/SourceReader.h"
 
 #include <qpdf/QPDF.hh>
@@ -33,10 +34,10 @@ template<typename Work> auto translateQpdfErrors(Work &&work) -> decltype(work()
     } catch (const QPDFExc &error) {
         throw isLackOfMemory(error)
             ? notEnoughMemory()
-            : Error(QStringLiteral("The document is damaged: %1").arg(inWords(error)));
+            : Error(Reasons::tr("The document is damaged: %1").arg(inWords(error)));
     } catch (const std::exception &fault) {
         throw isLackOfMemory(fault) ? notEnoughMemory()
-                                    : Error(QStringLiteral("The document is damaged"));
+                                    : Error(Reasons::tr("The document is damaged"));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "text/FontCascade.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 
 #include <QChar>
 #include <QFile>
@@ -67,8 +68,8 @@ const FontFace &FontCascade::face(std::size_t index) const {
     if (const FontFace *face = openFace(index)) {
         return *face;
     }
-    throw Error(
-        u"the font %1 cannot be read"_s.arg(QFile::decodeName(m_faces.at(index).font.path())));
+    throw Error(Reasons::tr("the font %1 cannot be read")
+                    .arg(QFile::decodeName(m_faces.at(index).font.path())));
 }
 
 const FontFace *FontCascade::openFace(std::size_t index) const {
@@ -126,7 +127,7 @@ Glyph FontCascade::form(std::uint16_t face, std::uint16_t id, const QString &tex
     const auto [known, isNew] = m_forms.try_emplace({face, id, text}, next);
     if (isNew) {
         if (m_formTexts.size() == kMaxForms) {
-            throw Error(u"The text has too many different forms of letters"_s);
+            throw Error(Reasons::tr("The text has too many different forms of letters"));
         }
         m_formTexts.push_back(text);
     }

@@ -2,6 +2,8 @@
 
 #include "text/MissingGlyphs.h"
 
+#include "error/Reasons.h"
+
 #include <QChar>
 #include <QStringList>
 
@@ -17,22 +19,18 @@ namespace {
 QString scriptName(char32_t character) {
     switch (QChar::category(character)) {
     case QChar::Other_PrivateUse:
-        return u"private use"_s;
+        return Reasons::tr("private use");
     case QChar::Other_NotAssigned:
-        return u"unassigned"_s;
+        return Reasons::tr("unassigned");
     default:
         break;
     }
     UErrorCode status = U_ZERO_ERROR;
     const UScriptCode script = uscript_getScript(static_cast<UChar32>(character), &status);
     if (U_FAILURE(status) || script <= USCRIPT_INHERITED) { // Symbols and marks of many scripts.
-        return u"other"_s;
+        return Reasons::tr("other");
     }
     return QString::fromLatin1(uscript_getName(script)).replace(u'_', u' ');
-}
-
-QString characters(qint64 count, const QString &one, const QString &many) {
-    return count == 1 ? u"1 character "_s + one : u"%1 characters "_s.arg(count) + many;
 }
 
 } // namespace
@@ -79,16 +77,20 @@ Warnings MissingGlyphs::warnings() const {
         scripts += u"%1 (%2)"_s.arg(script.name, codes.join(u", "_s));
     }
     if (m_count > 0) {
-        const QString what = u"no glyph in any font and "_s;
-        warnings.push_back({WarningCode::MissingGlyphs,
-                            characters(m_count, u"has "_s + what + u"is shown as a box: "_s,
-                                       u"have "_s + what + u"are shown as boxes: "_s) +
-                                scripts.join(u", "_s)});
+        const QString text =
+            m_count == 1
+                ? Reasons::tr("1 character has no glyph in any font and is shown as a box: %1")
+                : Reasons::tr("%n characters have no glyph in any font and are shown as boxes: %1",
+                              nullptr, static_cast<int>(m_count));
+        warnings.push_back({WarningCode::MissingGlyphs, text.arg(Reasons::listed(scripts))});
     }
     if (m_halves > 0) {
-        const QString where = u"split between two rows and shown as boxes"_s;
-        warnings.push_back({WarningCode::MissingGlyphs,
-                            characters((m_halves + 1) / 2, u"is "_s + where, u"are "_s + where)});
+        const auto count = static_cast<int>((m_halves + 1) / 2);
+        const QString text =
+            count == 1 ? Reasons::tr("1 character is split between two rows and shown as boxes")
+                       : Reasons::tr("%n characters are split between two rows and shown as boxes",
+                                     nullptr, count);
+        warnings.push_back({WarningCode::MissingGlyphs, text});
     }
     return warnings;
 }

@@ -3,6 +3,7 @@
 #include "text/TextEncoding.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "text/TextDecoder.h"
 
 #include <unicode/ucnv.h>
@@ -10,8 +11,6 @@
 
 #include <algorithm>
 #include <memory>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
@@ -90,7 +89,7 @@ QByteArray likelyEncoding(QByteArrayView bytes) {
 QString requireText(QByteArrayView bytes, const QByteArray &encoding) {
     QString text = converted(bytes, encoding);
     if (text.isNull()) {
-        throw Error(u"The text is not valid %1"_s.arg(QString::fromLatin1(encoding)));
+        throw Error(Reasons::tr("The text is not valid %1").arg(QString::fromLatin1(encoding)));
     }
     return text;
 }
@@ -114,7 +113,7 @@ DecodedText decodeText(QByteArrayView bytes, const QString &encoding) {
     const QByteArray likely = likelyEncoding(bytes);
     QString text = likely.isEmpty() ? QString() : converted(bytes, likely);
     if (text.isNull()) {
-        throw Error(u"The bytes do not tell the encoding of the text"_s);
+        throw Error(Reasons::tr("The bytes do not tell the encoding of the text"));
     }
     return {std::move(text), QString::fromLatin1(likely)};
 }

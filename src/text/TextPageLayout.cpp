@@ -3,12 +3,11 @@
 #include "text/TextPageLayout.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "text/MissingGlyphs.h"
 
 #include <algorithm>
 #include <vector>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
@@ -132,7 +131,7 @@ class PageFiller {
 
 void requireFont(const FontCascade &font, QStringView text) {
     if (font.faceCount() == 0 && !text.isEmpty()) {
-        throw Error(u"There is no font to write text with"_s);
+        throw Error(Reasons::tr("There is no font to write text with"));
     }
 }
 

@@ -1,44 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "gui/Drops.h"
 #include "gui/TestWindow.h"
 #include "support/TestUnit.h"
 
-#include <QDragEnterEvent>
 #include <QMenu>
-#include <QMimeData>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
 
 namespace {
-
-/// Drags `data` over the row `row` of the list (below the last for -1) and drops it there; whether
-/// the drop was taken.
-bool drop(TestWindow &w, const QMimeData &data, int row) {
-    QWidget *viewport = w.table()->viewport();
-    const QPoint position = row < 0
-                                ? QPoint(40, viewport->height() - 4)
-                                : w.table()->visualRect(w.ctrl.filesArray().index(row, 1)).center();
-    const auto actions = Qt::CopyAction | Qt::MoveAction;
-    QDragEnterEvent enter(position, actions, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(viewport, &enter);
-    QDragMoveEvent move(position, actions, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(viewport, &move);
-    QDropEvent end(position, actions, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(viewport, &end);
-    return enter.isAccepted() && move.isAccepted() && end.isAccepted();
-}
-
-bool dropFiles(TestWindow &w, const QStringList &paths, int row) {
-    QList<QUrl> urls;
-    for (const QString &path : paths) {
-        urls += QUrl::fromLocalFile(path);
-    }
-    QMimeData data;
-    data.setUrls(urls);
-    return drop(w, data, row);
-}
 
 void addFour(TestWindow &w) {
     QStringList paths;
@@ -84,7 +56,8 @@ class DroppingFilesTest : public QObject {
     void filesGoInWhereTheyAreDroppedInDragOrder() {
         TestWindow w;
         addFour(w);
-        QVERIFY(dropFiles(w, {w.file(u"z.txt"_s), w.file(u"x.txt"_s), w.file(u"y.txt"_s)}, 2));
+        QVERIFY(
+            dropFiles(*w.table(), {w.file(u"z.txt"_s), w.file(u"x.txt"_s), w.file(u"y.txt"_s)}, 2));
         QCOMPARE(w.names(), u"a.txt b.txt z.txt x.txt y.txt c.txt d.txt"_s);
         QCOMPARE(w.numbers(), u"1 2 3 4 5 6 7"_s);
     }
@@ -92,13 +65,13 @@ class DroppingFilesTest : public QObject {
     void filesDroppedBelowTheLastRowAreAppended() {
         TestWindow w;
         addFour(w);
-        QVERIFY(dropFiles(w, {w.file(u"z.txt"_s)}, -1));
+        QVERIFY(dropFiles(*w.table(), {w.file(u"z.txt"_s)}, -1));
         QCOMPARE(w.names(), u"a.txt b.txt c.txt d.txt z.txt"_s);
     }
 
     void filesDroppedOnAnEmptyListEnableTheWindow() {
         TestWindow w;
-        QVERIFY(dropFiles(w, {w.file(u"z.txt"_s)}, -1));
+        QVERIFY(dropFiles(*w.table(), {w.file(u"z.txt"_s)}, -1));
         QCOMPARE(w.names(), u"z.txt"_s);
         QCOMPARE(w.delegate.told, QList{true});
     }
@@ -106,7 +79,7 @@ class DroppingFilesTest : public QObject {
     void onlyRecognisedExtensionsAreTaken() {
         TestWindow w;
         addFour(w);
-        QVERIFY(dropFiles(w, {w.file(u"x.TIFF"_s), w.file(u"y.doc"_s)}, 1));
+        QVERIFY(dropFiles(*w.table(), {w.file(u"x.TIFF"_s), w.file(u"y.doc"_s)}, 1));
         QCOMPARE(w.names(), u"a.txt x.TIFF b.txt c.txt d.txt"_s);
     }
 
@@ -115,17 +88,17 @@ class DroppingFilesTest : public QObject {
         QDir(w.home.path()).mkdir(u"folder.txt"_s);
         w.file(u"folder.txt/inside.txt"_s);
         const QString folder = w.path(u"folder.txt"_s);
-        QVERIFY(!dropFiles(w, {folder}, -1));
+        QVERIFY(!dropFiles(*w.table(), {folder}, -1));
         QVERIFY(w.ctrl.filesArray().isEmpty());
-        QVERIFY(dropFiles(w, {folder, w.file(u"a.txt"_s)}, -1));
+        QVERIFY(dropFiles(*w.table(), {folder, w.file(u"a.txt"_s)}, -1));
         QCOMPARE(w.names(), u"a.txt"_s);
     }
 
     void whatDoesNotExistOrIsNotRecognisedIsRefused() {
         TestWindow w;
-        QVERIFY(!dropFiles(w, {w.path(u"gone.txt"_s)}, -1));
-        QVERIFY(!dropFiles(w, {w.file(u"y.doc"_s)}, -1));
-        QVERIFY(!dropFiles(w, {w.file(u"y.webp"_s), w.file(u"y.heic"_s)}, -1));
+        QVERIFY(!dropFiles(*w.table(), {w.path(u"gone.txt"_s)}, -1));
+        QVERIFY(!dropFiles(*w.table(), {w.file(u"y.doc"_s)}, -1));
+        QVERIFY(!dropFiles(*w.table(), {w.file(u"y.webp"_s), w.file(u"y.heic"_s)}, -1));
         QVERIFY(w.ctrl.filesArray().isEmpty());
         QCOMPARE(w.delegate.told, QList<bool>());
     }
@@ -134,23 +107,23 @@ class DroppingFilesTest : public QObject {
         TestWindow w;
         QMimeData nothing;
         nothing.setData(u"text/uri-list"_s, QByteArray());
-        QVERIFY(!drop(w, nothing, -1));
+        QVERIFY(!drop(*w.table(), nothing, -1));
         QMimeData page;
         page.setUrls({QUrl(u"https://example.org/a.txt"_s)});
-        QVERIFY(!drop(w, page, -1));
+        QVERIFY(!drop(*w.table(), page, -1));
     }
 
     void foreignDragsAreSwallowed() {
         TestWindow w;
         QMimeData words;
         words.setText(u"words"_s);
-        QVERIFY(drop(w, words, -1));
+        QVERIFY(drop(*w.table(), words, -1));
         QVERIFY(w.ctrl.filesArray().isEmpty());
     }
 
     void aDroppedPdfThatIsNoneIsReported() {
         TestWindow w;
-        QVERIFY(dropFiles(w, {w.file(u"bad.pdf"_s, "none")}, -1));
+        QVERIFY(dropFiles(*w.table(), {w.file(u"bad.pdf"_s, "none")}, -1));
         QVERIFY(w.ctrl.filesArray().isEmpty());
         QCoreApplication::processEvents();
         QCOMPARE(w.messages().size(), 1);
@@ -159,7 +132,7 @@ class DroppingFilesTest : public QObject {
     void namesWithBlanksAndForeignLettersAreTaken() {
         TestWindow w;
         const QString name = QString::fromUtf8("größe 100% #1 日本.txt");
-        QVERIFY(dropFiles(w, {w.file(name)}, -1));
+        QVERIFY(dropFiles(*w.table(), {w.file(name)}, -1));
         QCOMPARE(w.names(), name);
     }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "CutTexts.h"
+#include "Drops.h"
 #include "ForeignWindow.h"
 #include "OffscreenScreen.h"
 #include "TranslationFile.h"
@@ -12,11 +13,16 @@
 #include "skin/SkinButton.h"
 
 #include <QComboBox>
+#include <QDirIterator>
 #include <QFontDatabase>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTableView>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -77,6 +83,31 @@ QStringList textsOf(const QList<QAction *> &actions) {
     return texts;
 }
 
+/// The tool tip of the name of an entry, as it is shown under the mouse.
+QString tipUnderTheMouse(const QTableView &list, int row) {
+    const QModelIndex name = list.model()->index(row, FilesArray::NameColumn);
+    const QPoint at = list.visualRect(name).center();
+    QHelpEvent rest(QEvent::ToolTip, at, list.viewport()->mapToGlobal(at));
+    QApplication::sendEvent(list.viewport(), &rest);
+    return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+}
+
+/// The errors and warnings of a room that are made of a text without a translation.
+QStringList untranslatedReasonsOf(const QString &room) {
+    static const QRegularExpression bare(
+        u"(\\b[eE]rror\\(|WarningCode::\\w+,)\\s*(u|QStringLiteral\\(\\s*)\"[^\"]*\""_s);
+    QStringList found;
+    QDirIterator file(inSource(u"src/"_s + room), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
+                      QDirIterator::Subdirectories);
+    while (file.hasNext()) {
+        const QString text = QString::fromUtf8(readFile(file.next()));
+        for (const QRegularExpressionMatch &match : bare.globalMatch(text)) {
+            found += match.captured();
+        }
+    }
+    return found;
+}
+
 /// What a run says that has made so many PDFs and failed with one.
 QString answerTo(int pdfs) {
     RunAnswer answer;
@@ -122,6 +153,17 @@ class TranslationsTest : public QObject {
         }
         QCOMPARE(missing, QStringList());
         QCOMPARE(readTranslations(committed(language)).size(), messages.size());
+    }
+
+    void everyReasonOfTheEngineIsMarkedForTranslation_data() {
+        QTest::addColumn<QString>("room");
+        for (const char *room : {"error", "files", "text", "image", "pdf", "filelist", "convert"}) {
+            QTest::newRow(room) << QString::fromLatin1(room);
+        }
+    }
+    void everyReasonOfTheEngineIsMarkedForTranslation() {
+        QFETCH(const QString, room);
+        QCOMPARE(untranslatedReasonsOf(room), QStringList());
     }
 
     void placeholdersAndMnemonicsStay_data() { addLanguages(); }
@@ -187,6 +229,26 @@ class TranslationsTest : public QObject {
                                   .data()
                                   .toString();
         QCOMPARE(state == u"Waiting..."_s, language == u"en-US"_s);
+    }
+
+    void reasonsAndWarningsAreInTheLanguageOfTheWindow() {
+        ForeignWindow w(u"de"_s);
+        const WindowWorld &world = w.application->world;
+        const auto &list = w.control<QTableView>("m_tableview");
+        const QString refused = world.file(u"refused.png"_s, "no picture");
+        const QString letter = world.file(u"letter.txt"_s, "caf\xE9");
+        QVERIFY(dropFiles(list, {refused, letter}, -1));
+        QCOMPARE(tipUnderTheMouse(list, 0), refused + u"\nDie PNG-Datei enthält kein Bild."_s);
+        const QString notUtf8 =
+            letter + u"\nDer Text ist kein gültiges UTF-8; seine Seite bleibt leer."_s;
+        QCOMPARE(tipUnderTheMouse(list, 1), notUtf8);
+
+        QVERIFY(QFile::remove(refused)); // What the run says is made on a thread of its own.
+        QTest::mouseClick(&w.control<QAbstractButton>("m_btnCreate"), Qt::LeftButton);
+        const QString gone = refused + u"\nDie Datei kann nicht geöffnet werden: "_s;
+        QTRY_VERIFY2(tipUnderTheMouse(list, 0).startsWith(gone),
+                     qPrintable(tipUnderTheMouse(list, 0)));
+        QTRY_COMPARE(tipUnderTheMouse(list, 1), notUtf8);
     }
 
     void theFirstLanguageThatTheUserReadsIsTaken_data() {
@@ -269,30 +331,67 @@ class TranslationsTest : public QObject {
         QCOMPARE(w.control<SkinButton>("m_btnSecuritySetting").size(), QSize(100, 32));
     }
 
+    /// Of 1, 2, 5, 11 and 100 PDFs, and of no page.
     void pluralsAreRight_data() {
         QTest::addColumn<QString>("language");
-        QTest::addColumn<QStringList>("answers"); // Of 2, 5, 11 and 100 PDFs.
-        QTest::newRow("en") << u"en"_s
-                            << QStringList{u"1 PDF made, 1 could not be"_s,
-                                           u"2 PDFs made, 1 could not be"_s,
-                                           u"5 PDFs made, 1 could not be"_s,
-                                           u"11 PDFs made, 1 could not be"_s};
-        const QString german = u", 1 konnte nicht erstellt werden"_s;
-        QTest::newRow("de") << u"de"_s
-                            << QStringList{
-                                   u"1 PDF erstellt"_s + german, u"2 PDFs erstellt"_s + german,
-                                   u"5 PDFs erstellt"_s + german, u"11 PDFs erstellt"_s + german};
-        const QString arabic = u"، تعذّر إنشاء واحد"_s;
-        QTest::newRow("ar") << u"ar"_s
-                            << QStringList{
-                                   u"أُنشئ ملف PDF واحد"_s + arabic, u"أُنشئ ملفا PDF"_s + arabic,
-                                   u"أُنشئت 5 ملفات PDF"_s + arabic, u"أُنشئ 11 ملف PDF"_s + arabic};
+        QTest::addColumn<QStringList>("made");
+        QTest::addColumn<QString>("failed");
+        QTest::addColumn<QString>("noPages");
+        const auto add = [](const char *language, const QStringList &made, const QString &failed,
+                            const QString &noPages) {
+            QTest::newRow(language) << QString::fromLatin1(language) << made << failed << noPages;
+        };
+        add("en",
+            {u"1 PDF made"_s, u"2 PDFs made"_s, u"5 PDFs made"_s, u"11 PDFs made"_s,
+             u"100 PDFs made"_s},
+            u", 1 could not be"_s, u"0 pages"_s);
+        add("de",
+            {u"1 PDF erstellt"_s, u"2 PDFs erstellt"_s, u"5 PDFs erstellt"_s, u"11 PDFs erstellt"_s,
+             u"100 PDFs erstellt"_s},
+            u", 1 konnte nicht erstellt werden"_s, u"0 Seiten"_s);
+        add("es",
+            {u"1 PDF creado"_s, u"2 PDF creados"_s, u"5 PDF creados"_s, u"11 PDF creados"_s,
+             u"100 PDF creados"_s},
+            u", 1 no se pudo crear"_s, u"0 páginas"_s);
+        add("fr",
+            {u"1 PDF créé"_s, u"2 PDF créés"_s, u"5 PDF créés"_s, u"11 PDF créés"_s,
+             u"100 PDF créés"_s},
+            u", 1 n’a pas pu l’être"_s, u"0 page"_s);
+        add("ja",
+            {u"PDF を 1 件作成しました"_s, u"PDF を 2 件作成しました"_s,
+             u"PDF を 5 件作成しました"_s, u"PDF を 11 件作成しました"_s,
+             u"PDF を 100 件作成しました"_s},
+            u"、1 件は作成できませんでした"_s, u"0 ページ"_s);
+        add("zh_CN",
+            {u"已创建 1 个 PDF"_s, u"已创建 2 个 PDF"_s, u"已创建 5 个 PDF"_s,
+             u"已创建 11 个 PDF"_s, u"已创建 100 个 PDF"_s},
+            u"，1 个未能创建"_s, u"0 页"_s);
+        add("ar",
+            {u"أُنشئ ملف PDF واحد"_s, u"أُنشئ ملفا PDF"_s, u"أُنشئت 5 ملفات PDF"_s,
+             u"أُنشئ 11 ملف PDF"_s, u"أُنشئ 100 ملف PDF"_s},
+            u"، تعذّر إنشاء واحد"_s, u"0 صفحة"_s);
     }
     void pluralsAreRight() {
         QFETCH(const QString, language);
+        QFETCH(const QString, failed);
+        QFETCH(const QStringList, made);
         const Translations translations({language}, WindowWorld::realBundle());
-        const QStringList said{answerTo(1), answerTo(2), answerTo(5), answerTo(11)};
-        QTEST(said, "answers");
+        const QList<int> counts{1, 2, 5, 11, 100};
+        for (qsizetype i = 0; i < counts.size(); ++i) {
+            QCOMPARE(answerTo(counts[i]), made[i] + failed);
+        }
+        QTEST(QCoreApplication::translate("EntryCells", "%n pages", nullptr, 0), "noPages");
+    }
+
+    void everyTextHasTheFormsOfItsLanguage_data() { addLanguages(); }
+    void everyTextHasTheFormsOfItsLanguage() {
+        QFETCH(const QString, language);
+        static const QMap<QString, qsizetype> forms{{u"ar"_s, 6}, {u"de"_s, 2}, {u"es"_s, 2},
+                                                    {u"fr"_s, 2}, {u"ja"_s, 1}, {u"zh_CN"_s, 1}};
+        for (const Message &message : readTranslations(committed(language))) {
+            const bool isPlural = message.source.contains(u"%n"_s);
+            QCOMPARE(message.translations.size(), isPlural ? forms[language] : 1);
+        }
     }
 
   private:

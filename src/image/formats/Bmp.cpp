@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
@@ -8,8 +9,6 @@
 
 #include <algorithm>
 #include <array>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -31,7 +30,7 @@ bool recognises(QByteArrayView head) {
 
 FileView dibOf(const FileView &file) {
     if (file.read(0, 2) != "BM") {
-        throw Error(u"The file is no bitmap"_s);
+        throw Error(Reasons::tr("The file is no bitmap"));
     }
     return file.part(kFileHeaderBytes, file.size() - kFileHeaderBytes);
 }
@@ -53,10 +52,10 @@ void requireReadable(const FileView &file, const DibHeader &dib) {
     constexpr qint64 kRunRatio = 2040; // A bit a pixel packed, or 255 pixels for two bytes.
     requirePlausible(qint64(dib.width) * dib.height, file.size(), kRunRatio);
     if (!isHeaderSize(dib.size) || dib.planes != 1 || !dib.hasKnownPixels()) {
-        throw Error(u"The bitmap is of an unknown kind"_s);
+        throw Error(Reasons::tr("The bitmap is of an unknown kind"));
     }
     if (dib.bits <= 8 && dib.colorsUsed > 1U << dib.bits) {
-        throw Error(u"The bitmap has more colours than its pixels can name"_s);
+        throw Error(Reasons::tr("The bitmap has more colours than its pixels can name"));
     }
 }
 
@@ -127,8 +126,9 @@ PdfImage toPdfImage(const FileView &file) {
     if (pixels.missingRows > 0) {
         image.warnings.push_back(cutOffPicture(pixels.missingRows, dib.height));
     } else if (pixels.hasGaps) {
-        image.warnings.push_back({WarningCode::PictureDamaged,
-                                  u"Pixels that the file leaves out have its first colour"_s});
+        image.warnings.push_back(
+            {WarningCode::PictureDamaged,
+             Reasons::tr("Pixels that the file leaves out have its first colour")});
     }
     return image;
 }

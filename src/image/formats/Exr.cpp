@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Formats.h"
 
 #include "error/Error.h"
@@ -23,8 +24,6 @@
 #include <algorithm>
 #include <cstring>
 #include <stdexcept>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -63,8 +62,8 @@ template<typename Work> auto reading(const Work &work) {
     } catch (const std::bad_alloc &) {
         throw;
     } catch (const std::exception &failure) {
-        throw Error(u"The EXR file cannot be read: %1"_s.arg(
-            QString::fromUtf8(failure.what()).simplified()));
+        throw Error(Reasons::tr("The EXR file cannot be read: %1")
+                        .arg(QString::fromUtf8(failure.what()).simplified()));
     }
 }
 
@@ -212,7 +211,7 @@ Pixels readPixels(const FileView &file, Imf::InputFile &input, const ImageHeader
     const bool isChroma = has("RY") && has("BY");
     const bool isColor = isChroma || has("R") || has("G") || has("B");
     if (!isColor && !has("Y")) {
-        throw Error(u"The EXR file has no channels of colour or brightness"_s);
+        throw Error(Reasons::tr("The EXR file has no channels of colour or brightness"));
     }
     Raster raster;
     raster.width = header.width;
@@ -235,7 +234,7 @@ Pixels readPixels(const FileView &file, Imf::InputFile &input, const ImageHeader
     }
     const qint64 missing = readPlainChannels(input, names, raster);
     if (missing == raster.height) {
-        throw Error(u"The EXR file is damaged: none of its rows can be read"_s);
+        throw Error(Reasons::tr("The EXR file is damaged: none of its rows can be read"));
     }
     return {std::move(raster), missing};
 }
@@ -259,7 +258,7 @@ PdfImage toPdfImage(const FileView &file) {
     if (pixels.missingRows > 0) {
         image.warnings.push_back(cutOffPicture(pixels.missingRows, header.height));
     }
-    addMorePictures(image.warnings, partsOf(file) - 1, QLatin1StringView("part"));
+    addMorePictures(image.warnings, partsOf(file) - 1, kFurtherParts);
     return image;
 }
 

@@ -15,8 +15,6 @@
 #include <utility>
 #include <vector>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
@@ -206,7 +204,7 @@ class GifPictureReader : public PictureReader {
 PdfImage toPdfImage(const FileView &file) {
     GifPictureReader reader(file);
     PdfImage image = reader.first();
-    addMorePictures(image.warnings, reader.countFurther(), QLatin1StringView("picture"));
+    addMorePictures(image.warnings, reader.countFurther(), kFurtherPictures);
     return image;
 }
 

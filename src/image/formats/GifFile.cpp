@@ -3,10 +3,9 @@
 #include "image/formats/GifFile.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -19,14 +18,14 @@ GifFile::GifFile(const FileView &file)
 }
 
 void GifFile::fail() {
-    throw Error(u"The GIF file is damaged"_s);
+    throw Error(Reasons::tr("The GIF file is damaged"));
 }
 
 GraphicsControlBlock GifFile::goToPicture() const {
     bool isAtEnd = false;
     const auto control = advance(isAtEnd);
     if (isAtEnd) {
-        throw Error(u"The file holds no image"_s);
+        throw Error(Reasons::tr("The file holds no image"));
     }
     if (!control) {
         fail();

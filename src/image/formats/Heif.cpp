@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
@@ -22,8 +23,6 @@
 #include <thread>
 #include <utility>
 #include <vector>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -61,8 +60,8 @@ void require(const heif_error &error) {
         throw std::bad_alloc();
     }
     if (error.code != heif_error_Ok) {
-        throw Error(u"The HEIC or AVIF file cannot be read: %1"_s.arg(
-            QString::fromUtf8(error.message).simplified()));
+        throw Error(Reasons::tr("The HEIC or AVIF file cannot be read: %1")
+                        .arg(QString::fromUtf8(error.message).simplified()));
     }
 }
 
@@ -71,7 +70,7 @@ void requireThread() {
     try {
         std::thread([] {}).join();
     } catch (const std::system_error &) {
-        throw Error(u"The system grants no thread, which HEIC and AVIF files take"_s);
+        throw Error(Reasons::tr("The system grants no thread, which HEIC and AVIF files take"));
     }
 }
 
@@ -226,7 +225,7 @@ Raster rasterOf(Decoded decoded, bool isDeep, bool hasAlpha) {
     const int bits =
         LATE(heif_image_get_bits_per_pixel_range)(decoded.get(), heif_channel_interleaved);
     if (plane == nullptr || bits < 8 || bits > 16 || (bits > 8) != isDeep) {
-        throw Error(u"The HEIC or AVIF file is damaged"_s);
+        throw Error(Reasons::tr("The HEIC or AVIF file is damaged"));
     }
     storeChannels({plane, stride, bits, hasAlpha}, raster);
     return raster;
@@ -261,7 +260,8 @@ PdfImage pictureOf(const FileView &file, const heif_image_handle *handle) {
 /// Says that the pictures of a sequence, which libheif does not read, are left out.
 void addSequence(const FileView &file, Warnings &warnings) {
     if (isHeifSequence(file.read(0, kSniffedBytes))) {
-        warnings.push_back({WarningCode::MorePictures, u"Its moving pictures are left out"_s});
+        warnings.push_back(
+            {WarningCode::MorePictures, Reasons::tr("Its moving pictures are left out")});
     }
 }
 
@@ -302,8 +302,7 @@ ImageHeader readHeader(const FileView &file) {
 PdfImage toPdfImage(const FileView &file) {
     HeifPictureReader reader(file);
     PdfImage image = std::move(*reader.next());
-    addMorePictures(image.warnings, static_cast<qint64>(reader.left()),
-                    QLatin1StringView("picture"));
+    addMorePictures(image.warnings, static_cast<qint64>(reader.left()), kFurtherPictures);
     return image;
 }
 

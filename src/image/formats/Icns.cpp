@@ -2,13 +2,12 @@
 
 #include "image/formats/Formats.h"
 
+#include "error/Reasons.h"
 #include "image/Bytes.h"
 #include "image/formats/IcnsPixels.h"
 #include "image/formats/IconPictures.h"
 
 #include <optional>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -101,9 +100,10 @@ PdfImage toPdfImage(const FileView &file) {
                            largest.header);
     image.warnings.insert(image.warnings.end(), warnings.begin(), warnings.end());
     if (entries.isCutOff) {
-        image.warnings.push_back({WarningCode::PictureDamaged,
-                                  u"The icon file is cut off or damaged: there may be a larger "
-                                  u"picture in the part that is missing"_s});
+        image.warnings.push_back(
+            {WarningCode::PictureDamaged,
+             Reasons::tr("The icon file is cut off or damaged: there may be a larger "
+                         "picture in the part that is missing")});
     }
     return image;
 }

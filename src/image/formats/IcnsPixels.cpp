@@ -2,12 +2,11 @@
 
 #include "image/formats/IcnsPixels.h"
 
+#include "error/Reasons.h"
 #include "image/Bytes.h"
 
 #include <algorithm>
 #include <array>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -122,7 +121,7 @@ void readTrueColor(const ClassicIcon &icon, QByteArrayView content, Raster &rast
 void readWithOpacity(QByteArrayView content, Raster &raster) {
     constexpr QByteArrayView kSignature("ARGB");
     if (!content.startsWith(kSignature)) {
-        throw Error(u"The icon's pixels are of an unknown kind"_s);
+        throw Error(Reasons::tr("The icon's pixels are of an unknown kind"));
     }
     const qsizetype pixels = qsizetype(raster.width) * raster.height;
     const QByteArray planes = expandRuns(content.sliced(kSignature.size()), 4 * pixels);

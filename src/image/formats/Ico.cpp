@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
@@ -9,8 +10,6 @@
 
 #include <algorithm>
 #include <optional>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -35,7 +34,7 @@ Frame frameOf(const FileView &content) {
     bitmap.height /= 2;
     if (bitmap.size < kMinHeader || bitmap.compression != DibHeader::Plain || bitmap.isTopDown ||
         !bitmap.hasKnownPixels()) {
-        throw Error(u"The icon's picture is of an unknown kind"_s);
+        throw Error(Reasons::tr("The icon's picture is of an unknown kind"));
     }
     ImageHeader header;
     header.width = bitmap.width;

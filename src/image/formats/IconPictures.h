@@ -3,6 +3,7 @@
 #pragma once
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/ImageHeader.h"
 #include "image/MorePictures.h"
 
@@ -35,7 +36,7 @@ template<typename Picture> class LargestPicture {
     /// Throws Error where no picture could be read.
     [[nodiscard]] const Picture &picture() const {
         if (!m_largest) {
-            throw Error(QStringLiteral("The icon file holds no picture that can be read"));
+            throw Error(Reasons::tr("The icon file holds no picture that can be read"));
         }
         return *m_largest;
     }
@@ -54,12 +55,12 @@ template<typename Picture> class LargestPicture {
 /// The largest may be among those.
 inline Warnings otherPictures(int pictures, int unreadable) {
     Warnings warnings;
-    addMorePictures(warnings, pictures - 1, QLatin1StringView("picture"));
+    addMorePictures(warnings, pictures - 1, kFurtherPictures);
     if (unreadable > 0) {
-        warnings.push_back({WarningCode::PictureDamaged,
-                            QStringLiteral("%1 of the icon's %2 pictures cannot be read")
-                                .arg(unreadable)
-                                .arg(pictures)});
+        warnings.push_back(
+            {WarningCode::PictureDamaged, Reasons::tr("%1 of the icon's %2 pictures cannot be read")
+                                              .arg(unreadable)
+                                              .arg(pictures)});
     }
     return warnings;
 }

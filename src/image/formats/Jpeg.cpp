@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
@@ -12,8 +13,6 @@
 #include <algorithm>
 #include <map>
 #include <utility>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -97,12 +96,12 @@ JpegMetadata readMetadata(const FileView &file) {
     do {
         segment = segments.next();
         if (!segment) {
-            throw Error(u"The JPEG file ends before its picture begins"_s);
+            throw Error(Reasons::tr("The JPEG file ends before its picture begins"));
         }
         readSegment(*segment, metadata);
     } while (segment->marker != Sos && segment->marker != Eoi);
     if (metadata.frame.process == 0 || segment->marker == Eoi) {
-        throw Error(u"The JPEG file ends before its picture begins"_s);
+        throw Error(Reasons::tr("The JPEG file ends before its picture begins"));
     }
     metadata.header.width = metadata.frame.width;
     metadata.header.height = metadata.frame.height;
@@ -119,8 +118,9 @@ ImageColor colorOf(const JpegFrame &frame) {
     case 4:
         return ImageColor::Cmyk;
     default:
-        throw Error(u"The JPEG file has %1 colour components, which is no colour "
-                    "that a PDF can show"_s.arg(frame.components.size()));
+        throw Error(Reasons::tr("The JPEG file has %1 colour components, which is no colour "
+                                "that a PDF can show")
+                        .arg(frame.components.size()));
     }
 }
 
@@ -133,8 +133,9 @@ bool isProcessOfPdf(const JpegFrame &frame) {
 void requireKnownProcess(const JpegFrame &frame) {
     const bool isKnown = isProcessOfPdf(frame) || frame.process == Sof9 || frame.process == Sof10;
     if (!isKnown || frame.precision != 8) {
-        throw Error(u"The JPEG file is of a kind that no PDF can hold (lossless, hierarchical "
-                    "or more than 8 bits)"_s);
+        throw Error(
+            Reasons::tr("The JPEG file is of a kind that no PDF can hold (lossless, hierarchical "
+                        "or more than 8 bits)"));
     }
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Jpeg2000.h"
 
 #include "image/Bytes.h"
@@ -8,8 +9,6 @@
 
 #include <algorithm>
 #include <cmath>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -38,7 +37,7 @@ Box boxAt(const FileView &file, qint64 at) {
         length = file.size() - at; // The last box may leave its length to the file.
     }
     if (length < header) {
-        throw Error(u"The JPEG 2000 file is damaged"_s);
+        throw Error(Reasons::tr("The JPEG 2000 file is damaged"));
     }
     // A codestream that was cut short still shows what is there.
     length = std::min(length, file.size() - at);
@@ -222,7 +221,7 @@ Jpeg2000Metadata readJpeg2000Metadata(const FileView &file) {
         readBoxes(file, 0, metadata);
     }
     if (metadata.components == 0) {
-        throw Error(u"The JPEG 2000 file holds no picture"_s);
+        throw Error(Reasons::tr("The JPEG 2000 file holds no picture"));
     }
     guessOpacity(metadata);
     metadata.header = checkedHeader(metadata.header);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Jpeg2000.h"
 
 #include "error/Error.h"
@@ -12,14 +13,12 @@
 #include <cmath>
 #include <vector>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
 
 Error damagedFile() {
-    return Error(u"The JPEG 2000 file is damaged"_s);
+    return Error(Reasons::tr("The JPEG 2000 file is damaged"));
 }
 
 /// The file with all samples decoded; nothing where they are damaged.
@@ -50,10 +49,17 @@ std::optional<OpenJpegPicture> decode(const FileView &file, const Jpeg2000Metada
 /// What the structure of a file that is not whole says of the loss.
 Warning lossOf(const Jpeg2000Structure &structure) {
     if (structure.tiles > 1 && structure.missingTiles > 0) {
-        return cutOffPicture(structure.missingTiles, structure.tiles, u"tiles"_s);
+        return cutOffPicture(
+            structure.missingTiles, structure.tiles,
+            QT_TRANSLATE_NOOP("Reasons",
+                              "The picture is cut off: %1 % of its tiles could not be read"));
     }
-    return structure.cutBytes > 0 ? cutOffPicture(structure.cutBytes, structure.cutOf, u"data"_s)
-                                  : faultyPicture();
+    return structure.cutBytes > 0
+               ? cutOffPicture(
+                     structure.cutBytes, structure.cutOf,
+                     QT_TRANSLATE_NOOP(
+                         "Reasons", "The picture is cut off: %1 % of its data could not be read"))
+               : faultyPicture();
 }
 
 /// A decoded component as samples of 8 or 16 bits.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Jpeg2000.h"
 
 #include "image/Bytes.h"
@@ -62,7 +63,7 @@ class Walk {
 
     void passMainHeader() {
         if (half(0) != Soc || half(2) != Siz) {
-            throw Error(QStringLiteral("The JPEG 2000 file is damaged"));
+            throw Error(Reasons::tr("The JPEG 2000 file is damaged"));
         }
         bool hasStyle = false;
         bool hasQuantization = false;
@@ -87,7 +88,7 @@ class Walk {
         constexpr qint64 kMaxTiles = 65535;
         m_structure.tiles = std::min(tilesAlong(0), kMaxTiles) * std::min(tilesAlong(4), kMaxTiles);
         if (m_structure.tiles > kMaxTiles) {
-            throw Error(QStringLiteral("The JPEG 2000 file is damaged"));
+            throw Error(Reasons::tr("The JPEG 2000 file is damaged"));
         }
         m_tiles.resize(static_cast<size_t>(m_structure.tiles));
         const int components = bigEndianAt<quint16>(size, 36);
@@ -106,16 +107,16 @@ class Walk {
         if (length == 0) { // The last may go on to the end.
             length = m_codestream.size() - kMarker - m_at;
             if (half(m_at + length) != Eoc) {
-                throw Error(QStringLiteral("The JPEG 2000 file is cut off"));
+                throw Error(Reasons::tr("The JPEG 2000 file is cut off"));
             }
         }
         if (number >= m_tiles.size() || length < kLead) {
-            throw Error(QStringLiteral("The JPEG 2000 file is damaged"));
+            throw Error(Reasons::tr("The JPEG 2000 file is damaged"));
         }
         if (length > m_codestream.size() - m_at) {
             m_structure.cutOf = length;
             m_structure.cutBytes = length - (m_codestream.size() - m_at);
-            throw Error(QStringLiteral("The JPEG 2000 file is cut off"));
+            throw Error(Reasons::tr("The JPEG 2000 file is cut off"));
         }
         Tile &tile = m_tiles[number];
         ++tile.parts;

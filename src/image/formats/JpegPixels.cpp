@@ -3,6 +3,7 @@
 #include "image/formats/JpegPixels.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/PictureDamage.h"
 #include "image/formats/JpegEscape.h"
 #include "image/formats/JpegSegments.h"
@@ -11,8 +12,6 @@
 
 #include <algorithm>
 #include <memory>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -181,7 +180,7 @@ qint64 segmentBefore(const FileView &file, qint64 reached) {
 } // namespace
 
 JpegPixels decodeJpeg(const FileView &file) {
-    const Error damaged(u"The JPEG file is damaged: none of its rows could be read"_s);
+    const Error damaged(Reasons::tr("The JPEG file is damaged: none of its rows could be read"));
     const QByteArray bytes = file.readExactly(0, file.size());
     auto decoder = std::make_unique<Decoder>(bytes);
     if (!decoder->start()) {

@@ -12,8 +12,6 @@
 #include <algorithm>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
@@ -143,7 +141,7 @@ PdfImage toPdfImage(const FileView &file) {
     if (!image) {
         throw damagedJpegXl();
     }
-    addMorePictures(image->warnings, countJpegXlFrames(file) - 1, QLatin1StringView("frame"));
+    addMorePictures(image->warnings, countJpegXlFrames(file) - 1, kFurtherFrames);
     return std::move(*image);
 }
 

@@ -2,6 +2,7 @@
 
 #include "image/formats/JpegXlDecoder.h"
 
+#include "error/Reasons.h"
 #include "image/Bytes.h"
 #include "image/CicpProfile.h"
 #include "image/Exif.h"
@@ -18,8 +19,6 @@
 #include <thread>
 #include <utility>
 #include <vector>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -141,7 +140,7 @@ void requireRoom(const JxlBasicInfo &info) {
 } // namespace
 
 Error damagedJpegXl() {
-    return Error(u"The JPEG XL file is damaged"_s);
+    return Error(Reasons::tr("The JPEG XL file is damaged"));
 }
 
 JpegXlDecoder::JpegXlDecoder(FileView file, int events)
@@ -198,14 +197,14 @@ void JpegXlDecoder::requireColors(const JxlBasicInfo &info) const {
     constexpr uint32_t kMostFurther = 16;
     if (info.num_extra_channels > kMostFurther) {
         throw Error(
-            u"The JPEG XL file has %1 channels beside its colours, which are too many"_s.arg(
-                info.num_extra_channels));
+            Reasons::tr("The JPEG XL file has %1 channels beside its colours, which are too many")
+                .arg(info.num_extra_channels));
     }
     for (uint32_t channel = 0; channel < info.num_extra_channels; ++channel) {
         JxlExtraChannelInfo extra{};
         if (JxlDecoderGetExtraChannelInfo(get(), channel, &extra) == JXL_DEC_SUCCESS &&
             extra.type == JXL_CHANNEL_BLACK) {
-            throw Error(u"The JPEG XL file stores inks, which cannot be read"_s);
+            throw Error(Reasons::tr("The JPEG XL file stores inks, which cannot be read"));
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "error/Reasons.h"
 #include "image/ImageFormat.h"
 
 namespace folioforge {
@@ -29,8 +30,8 @@ template<ImageKind kKind> class MissingFormat {
         }
     }
     [[noreturn]] static void refuse() {
-        throw Error(QStringLiteral("This program was built without the means to read %1 files")
-                        .arg(name()));
+        throw Error(
+            Reasons::tr("This program was built without the means to read %1 files").arg(name()));
     }
     static ImageHeader readHeader(const FileView & /*file*/) { refuse(); }
     static PdfImage toPdfImage(const FileView & /*file*/) { refuse(); }

@@ -3,9 +3,8 @@
 // Stands in for OpenJpeg.cpp where the program is built without OpenJPEG.
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/formats/OpenJpeg.h"
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -19,7 +18,7 @@ OpenJpegPicture::~OpenJpegPicture() = default;
 
 std::optional<OpenJpegPicture> OpenJpegPicture::open(const Jpeg2000Source & /*source*/,
                                                      bool /*isCodestream*/) {
-    throw Error(u"This program was built without the means to decode JPEG 2000"_s);
+    throw Error(Reasons::tr("This program was built without the means to decode JPEG 2000"));
 }
 
 bool OpenJpegPicture::isThere() {

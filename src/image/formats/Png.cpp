@@ -15,8 +15,6 @@
 
 #include <future>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
@@ -218,7 +216,7 @@ PdfImage toPdfImage(const FileView &file) {
     if (metadata.isFaulty) {
         image.warnings.push_back(faultyPicture());
     }
-    addMorePictures(image.warnings, metadata.frames, QLatin1StringView("frame"));
+    addMorePictures(image.warnings, metadata.frames, kFurtherFrames);
     return image;
 }
 

@@ -2,14 +2,13 @@
 
 #include "image/formats/PngMetadata.h"
 
+#include "error/Reasons.h"
 #include "image/Bytes.h"
 #include "image/Deflate.h"
 #include "image/Exif.h"
 #include "image/formats/Formats.h"
 
 #include <libdeflate.h>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -36,7 +35,7 @@ void readImageHeaderChunk(QByteArrayView chunk, PngMetadata &metadata) {
             : (metadata.colorType == PngMetadata::Rgb || metadata.hasAlphaChannel()) &&
                   (metadata.bits == 8 || metadata.bits == 16);
     if (!valid) {
-        throw Error(u"The PNG file is damaged"_s);
+        throw Error(Reasons::tr("The PNG file is damaged"));
     }
 }
 
@@ -137,12 +136,12 @@ PngMetadata readPngMetadata(const FileView &file, PngReading reading) {
         at = readChunkAt(file, at, reading, metadata);
     }
     if (metadata.bits == 0 || metadata.data.empty()) {
-        throw Error(u"The PNG file holds no picture"_s);
+        throw Error(Reasons::tr("The PNG file holds no picture"));
     }
     if (metadata.colorType == PngMetadata::Palette &&
         (metadata.palette.isEmpty() || metadata.palette.size() % 3 != 0 ||
          metadata.palette.size() > kMaxPaletteBytes)) {
-        throw Error(u"The PNG file has no palette"_s);
+        throw Error(Reasons::tr("The PNG file has no palette"));
     }
     metadata.header = checkedHeader(metadata.header);
     return metadata;

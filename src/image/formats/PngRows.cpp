@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/PngMetadata.h"
 
 #include "error/Error.h"
@@ -9,8 +10,6 @@
 #include "image/RowFilter.h"
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -46,7 +45,7 @@ QByteArray inflateDamagedRows(const QByteArray &compressed, const PngMetadata &m
     const qint64 height = metadata.header.height;
     const qint64 missing = missingRows(metadata, rows.size(), size);
     if (missing >= height) {
-        throw Error(u"The PNG file is damaged"_s);
+        throw Error(Reasons::tr("The PNG file is damaged"));
     }
     if (missing > 0) {
         warnings.push_back(cutOffPicture(missing, height));

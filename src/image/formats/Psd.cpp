@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
@@ -10,8 +11,6 @@
 
 #include <bit>
 #include <cstring>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -28,7 +27,7 @@ class PlaneReader {
         const auto compression = bigEndianAt<quint16>(file.readExactly(m_at, 2), 0);
         m_at += 2;
         if (compression > 1) {
-            throw Error(u"The Photoshop file's compression is unknown"_s);
+            throw Error(Reasons::tr("The Photoshop file's compression is unknown"));
         }
         const qint64 rows = qint64(metadata.channels) * metadata.header.height;
         m_packed = compression == 1;
@@ -220,8 +219,8 @@ Warnings readSamples(const FileView &file, const PsdMetadata &metadata, Raster &
         throw fileEndsTooEarly();
     }
     if (metadata.statesNoMergedImage && metadata.hasLayers && raster.bits >= 8 && isBlank(raster)) {
-        throw Error(u"The Photoshop file holds its layers alone: save it with maximized "
-                    u"compatibility, which adds the picture they make"_s);
+        throw Error(Reasons::tr("The Photoshop file holds its layers alone: save it with maximized "
+                                "compatibility, which adds the picture they make"));
     }
     if (reader.missingRows() > 0) {
         return {cutOffPicture(reader.missingRows(), reader.rows())};
@@ -233,7 +232,7 @@ Warnings readSamples(const FileView &file, const PsdMetadata &metadata, Raster &
 QByteArray interleavedPalette(const QByteArray &planes) {
     constexpr qsizetype kColors = 256;
     if (planes.size() < 3 * kColors) {
-        throw Error(u"The Photoshop file has no palette"_s);
+        throw Error(Reasons::tr("The Photoshop file has no palette"));
     }
     QByteArray palette;
     for (qsizetype i = 0; i < kColors; ++i) {

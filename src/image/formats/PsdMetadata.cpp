@@ -2,10 +2,9 @@
 
 #include "image/formats/PsdMetadata.h"
 
+#include "error/Reasons.h"
 #include "image/Bytes.h"
 #include "image/Raster.h"
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -49,7 +48,7 @@ ImageColor colorOf(quint16 mode) {
     case LabMode:
         return ImageColor::Lab;
     default:
-        throw Error(u"The Photoshop file's colour mode is unknown"_s);
+        throw Error(Reasons::tr("The Photoshop file's colour mode is unknown"));
     }
 }
 
@@ -69,7 +68,7 @@ void readFileHeader(QByteArrayView head, PsdMetadata &metadata) {
     constexpr int kMaxChannels = 56;
     if (!knownDepth || metadata.channels < channelCount(metadata.color) ||
         metadata.channels > kMaxChannels) {
-        throw Error(u"The Photoshop file is damaged"_s);
+        throw Error(Reasons::tr("The Photoshop file is damaged"));
     }
 }
 

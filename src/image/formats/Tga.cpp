@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
@@ -7,8 +8,6 @@
 #include "image/Raster.h"
 
 #include <array>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -53,7 +52,7 @@ void requireKnown(const TgaHeader &tga) {
             ? isColorDepth(tga.pixelBits)
             : tga.type == BlackAndWhite && (tga.pixelBits == 8 || tga.pixelBits == 16 || isOneBit);
     if (!known || tga.width == 0 || tga.height == 0) {
-        throw Error(u"The file is no TGA image that can be read"_s);
+        throw Error(Reasons::tr("The file is no TGA image that can be read"));
     }
 }
 

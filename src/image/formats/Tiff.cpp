@@ -2,6 +2,7 @@
 
 #include "image/formats/Formats.h"
 
+#include "error/Reasons.h"
 #include "image/MorePictures.h"
 #include "image/PictureDamage.h"
 #include "image/formats/Tiff.h"
@@ -51,7 +52,8 @@ ImageHeader readHeader(const FileView &file) {
     return imageHeaderOf(tiff, readTiffShape(tiff));
 }
 
-constexpr QLatin1StringView kLostPage("The file names a further page that cannot be read");
+constexpr const char *kLostPage =
+    QT_TRANSLATE_NOOP("Reasons", "The file names a further page that cannot be read");
 
 /// The page of one directory.
 PdfImage pageOf(const TiffFile &tiff) {
@@ -75,10 +77,10 @@ PdfImage toPdfImage(const FileView &file) {
     PdfImage image = pageOf(TiffFile(file));
     const TiffPages pages = findTiffPages(file);
     if (pages.isCutOff) {
-        image.warnings.push_back({WarningCode::PictureDamaged, kLostPage});
+        image.warnings.push_back({WarningCode::PictureDamaged, Reasons::tr(kLostPage)});
     }
     addMorePictures(image.warnings, static_cast<qint64>(pages.directories.size()) - 1,
-                    QLatin1StringView("page"));
+                    kFurtherPages);
     return image;
 }
 
@@ -93,7 +95,7 @@ class TiffPageReader : public PictureReader {
             return pageOf(TiffFile(m_file, m_pages.directories[m_next++]));
         }
         if (std::exchange(m_pages.isCutOff, false)) {
-            throw Error(kLostPage);
+            throw Error(Reasons::tr(kLostPage));
         }
         return std::nullopt;
     }

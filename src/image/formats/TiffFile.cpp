@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Tiff.h"
 
 #include "error/Error.h"
@@ -60,21 +61,21 @@ QString tiffReason(const QString &message) {
         const char *words;
     };
     static constexpr std::array kCauses{
-        Cause{"can not handle"_L1, "its form is not supported"},
-        Cause{"is not supported"_L1, "its form is not supported"},
-        Cause{"not supported"_L1, "its form is not supported"},
-        Cause{"Cannot handle zero"_L1, "it has no pixels"},
-        Cause{"memory"_L1, "it is larger than any picture"},
-        Cause{"directory"_L1, "its directory is damaged"},
-        Cause{"Read error"_L1, "it is cut off"},
-        Cause{"Not enough data"_L1, "it is cut off"},
+        Cause{"can not handle"_L1, QT_TRANSLATE_NOOP("Reasons", "its form is not supported")},
+        Cause{"is not supported"_L1, QT_TRANSLATE_NOOP("Reasons", "its form is not supported")},
+        Cause{"not supported"_L1, QT_TRANSLATE_NOOP("Reasons", "its form is not supported")},
+        Cause{"Cannot handle zero"_L1, QT_TRANSLATE_NOOP("Reasons", "it has no pixels")},
+        Cause{"memory"_L1, QT_TRANSLATE_NOOP("Reasons", "it is larger than any picture")},
+        Cause{"directory"_L1, QT_TRANSLATE_NOOP("Reasons", "its directory is damaged")},
+        Cause{"Read error"_L1, QT_TRANSLATE_NOOP("Reasons", "it is cut off")},
+        Cause{"Not enough data"_L1, QT_TRANSLATE_NOOP("Reasons", "it is cut off")},
     };
     const auto cause = std::ranges::find_if(
         kCauses, [&](const Cause &known) { return message.contains(known.sign); });
-    const QString damaged = u"The TIFF file is damaged"_s;
+    const QString damaged = Reasons::tr("The TIFF file is damaged");
     return cause == kCauses.end()
                ? damaged
-               : u"The TIFF file cannot be read: %1"_s.arg(QLatin1StringView(cause->words));
+               : Reasons::tr("The TIFF file cannot be read: %1").arg(Reasons::tr(cause->words));
 }
 
 tmsize_t TiffFile::read(thandle_t handle, void *target, tmsize_t size) {

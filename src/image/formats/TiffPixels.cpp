@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Tiff.h"
 
 #include "error/Error.h"
@@ -8,8 +9,6 @@
 
 #include <algorithm>
 #include <array>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -77,7 +76,7 @@ void takeRows(TiffPlane &plane, const TiffShape &shape, Raster &raster) {
 QByteArray paletteOf(const TiffFile &tiff, int bits) {
     std::array<const uint16_t *, 3> maps = {};
     if (TIFFGetField(tiff.handle(), TIFFTAG_COLORMAP, &maps[0], &maps[1], &maps[2]) != 1) {
-        throw Error(u"The TIFF file has no palette"_s);
+        throw Error(Reasons::tr("The TIFF file has no palette"));
     }
     const int colors = 1 << std::min(bits, 8);
     // Some writers put 8-bit colours where 16-bit ones belong.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Tiff.h"
 
 #include "error/Error.h"
@@ -8,8 +9,6 @@
 #include <algorithm>
 #include <cstring>
 #include <mutex>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -84,7 +83,7 @@ void readTiles(const TiffFile &tiff, const TiffShape &shape, int plane, TiffPlan
 
 void requireEnoughData(const TiffFile &tiff, const TiffShape &shape, qint64 raw) {
     if (TIFFIsCODECConfigured(static_cast<uint16_t>(shape.compression)) == 0) {
-        throw Error(u"The TIFF file cannot be read: its compression is not supported"_s);
+        throw Error(Reasons::tr("The TIFF file cannot be read: its compression is not supported"));
     }
     const bool tiled = TIFFIsTiled(tiff.handle()) != 0;
     const uint32_t count =

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "error/Reasons.h"
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
@@ -18,8 +19,6 @@
 #include <new>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
@@ -29,7 +28,7 @@ constexpr WEBP_CSP_MODE kArgbMode =
     QSysInfo::ByteOrder == QSysInfo::LittleEndian ? MODE_BGRA : MODE_ARGB;
 
 [[noreturn]] void refuseDamaged() {
-    throw Error(u"The WebP file is damaged"_s);
+    throw Error(Reasons::tr("The WebP file is damaged"));
 }
 
 /// What the chunks of a file say.
@@ -108,7 +107,7 @@ WebpMetadata readMetadata(const FileView &file) {
 QByteArray bytesOf(const FileView &file) {
     constexpr qint64 kMostBytes = 1 << 30;
     if (file.size() > kMostBytes) {
-        throw Error(u"The WebP file is too large"_s);
+        throw Error(Reasons::tr("The WebP file is too large"));
     }
     return file.readExactly(0, file.size());
 }
@@ -188,7 +187,8 @@ class WebpPictureReader : public PictureReader {
         constexpr qint64 kMostPixels = 100'000'000;
         const ImageHeader &header = m_metadata.header;
         if (qint64(header.width) * header.height > kMostPixels) {
-            throw Error(u"The animation is too large (%1 x %2 pixels)"_s.arg(header.width)
+            throw Error(Reasons::tr("The animation is too large (%1 x %2 pixels)")
+                            .arg(header.width)
                             .arg(header.height));
         }
         m_bytes = bytesOf(m_file);
@@ -240,7 +240,7 @@ PdfImage toPdfImage(const FileView &file) {
     if (!image) {
         refuseDamaged();
     }
-    addMorePictures(image->warnings, reader.countFurther(), QLatin1StringView("frame"));
+    addMorePictures(image->warnings, reader.countFurther(), kFurtherFrames);
     return std::move(*image);
 }
 

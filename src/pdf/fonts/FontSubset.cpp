@@ -3,11 +3,10 @@
 #include "pdf/fonts/FontSubset.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "pdf/fonts/GlyphCids.h"
 #include "text/FontFace.h"
 #include "text/ReducedFont.h"
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -18,8 +17,8 @@ FontSubset makeFontSubset(const FontFace &face, const std::optional<GlyphCids> &
         cids && !cids->isCidKeyed() ? ReducedFont::GlyphIds::Kept : ReducedFont::GlyphIds::Packed;
     const auto reduced = ReducedFont::make(face.hbFace(), glyphs, ids);
     if (!reduced) {
-        throw Error(
-            u"the font %1 cannot be embedded"_s.arg(QString::fromLatin1(face.postScriptName())));
+        throw Error(Reasons::tr("the font %1 cannot be embedded")
+                        .arg(QString::fromLatin1(face.postScriptName())));
     }
     FontSubset subset;
     subset.program = reduced->cffTable();

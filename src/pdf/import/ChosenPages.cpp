@@ -3,13 +3,12 @@
 #include "pdf/import/ChosenPages.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 
 #include <qpdf/QUtil.hh>
 
 #include <numeric>
 #include <stdexcept>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -30,8 +29,10 @@ std::vector<int> numbersIn(const QByteArray &range, std::size_t count) {
     } catch (const std::runtime_error &) {
         // Said below.
     }
-    const QString has = count == 1 ? u"It has 1 page"_s : u"It has %1 pages"_s.arg(count);
-    throw Error(has + u", and \"%1\" names others"_s.arg(QString::fromLatin1(range)));
+    const QString text = count == 1 ? Reasons::tr("It has 1 page, and \"%1\" names others")
+                                    : Reasons::tr("It has %n pages, and \"%1\" names others",
+                                                  nullptr, static_cast<int>(count));
+    throw Error(text.arg(QString::fromLatin1(range)));
 }
 
 } // namespace

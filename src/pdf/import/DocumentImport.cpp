@@ -2,6 +2,7 @@
 
 #include "pdf/import/DocumentImport.h"
 
+#include "error/Reasons.h"
 #include "pdf/import/CarriedParts.h"
 #include "pdf/import/ChosenPages.h"
 #include "pdf/import/ContentCheck.h"
@@ -20,18 +21,17 @@
 #include <optional>
 #include <string_view>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
 
 Warning signaturesRemoved(int count) {
-    return {WarningCode::SignatureRemoved,
-            count == 1
-                ? u"1 signature is left out, since it holds for the original file alone"_s
-                : u"%1 signatures are left out, since they hold for the original file alone"_s.arg(
-                      count)};
+    return {
+        WarningCode::SignatureRemoved,
+        count == 1
+            ? Reasons::tr("1 signature is left out, since it holds for the original file alone")
+            : Reasons::tr("%n signatures are left out, since they hold for the original file alone",
+                          nullptr, count)};
 }
 
 /// A version such as "2.0"; 0.0 where `text` is none. The library's own reading of it takes as long
@@ -55,8 +55,9 @@ PDFVersion versionOf(QPDF &source) {
 
 Warning structureDamaged(std::size_t count) {
     return {WarningCode::StructureDamaged,
-            count == 1 ? u"1 structure tag is damaged and left out"_s
-                       : u"%1 structure tags are damaged and left out"_s.arg(count)};
+            count == 1 ? Reasons::tr("1 structure tag is damaged and left out")
+                       : Reasons::tr("%n structure tags are damaged and left out", nullptr,
+                                     static_cast<int>(count))};
 }
 
 /// The copies of pages that the tree names again, each behind its first one.
@@ -122,8 +123,8 @@ void leavePages(ImportedDocument &imported, QPDF &source, const SourcePages &fou
     if (!gone.empty()) {
         imported.warnings.push_back(
             {WarningCode::PdfPartsLeft,
-             u"Not carried over, as it belongs to pages that are left out: %1"_s.arg(
-                 inWords(gone))});
+             Reasons::tr("Not carried over, as it belongs to pages that are left out: %1")
+                 .arg(inWords(gone))});
     }
 }
 
@@ -199,7 +200,8 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     imported.longestStream = copier.longestStream();
     imported.version = versionOf(source);
     if (imported.pages.empty()) {
-        imported.warnings.push_back({WarningCode::PdfWithoutPages, u"The document has no pages"_s});
+        imported.warnings.push_back(
+            {WarningCode::PdfWithoutPages, Reasons::tr("The document has no pages")});
     }
     for (const Warnings &damages :
          {missingPages(found), damagedPages(damage.finish()), missing, repairs(source)}) {

@@ -2,6 +2,7 @@
 
 #include "pdf/import/FormMerger.h"
 
+#include "error/Reasons.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/FieldTree.h"
 #include "pdf/import/FreeName.h"
@@ -16,8 +17,6 @@
 #include <set>
 #include <utility>
 #include <vector>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -71,14 +70,14 @@ Warning fieldsRenamed(const Renames &names) {
         constexpr qsizetype kLongest = 60;
         return QString::fromStdString(text).left(kLongest);
     };
-    const QString change = u"\"%1\" is now \"%2\""_s.arg(shown(name), shown(unique));
-    return {WarningCode::FieldsRenamed,
-            names.size() == 1
-                ? u"1 form field is renamed, since another document has one of its name: %1; "
-                  "scripts are left as they are"_s.arg(change)
-                : u"%1 form fields are renamed, since another document has fields of their names, "
-                  "such as %2; scripts are left as they are"_s.arg(names.size())
-                      .arg(change)};
+    const QString text =
+        names.size() == 1
+            ? Reasons::tr("1 form field is renamed, since another document has one of its name: "
+                          "\"%1\" is now \"%2\"; scripts are left as they are")
+            : Reasons::tr("%n form fields are renamed, since another document has fields of their "
+                          "names, such as \"%1\" is now \"%2\"; scripts are left as they are",
+                          nullptr, static_cast<int>(names.size()));
+    return {WarningCode::FieldsRenamed, text.arg(shown(name), shown(unique))};
 }
 
 } // namespace

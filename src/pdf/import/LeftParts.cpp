@@ -2,6 +2,7 @@
 
 #include "pdf/import/LeftParts.h"
 
+#include "error/Reasons.h"
 #include "pdf/import/CatalogParts.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/FurtherInfo.h"
@@ -12,8 +13,6 @@
 #include <qpdf/QPDF.hh>
 
 #include <QString>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -51,7 +50,7 @@ Warnings namePartsLeft(const PartCounts &left) {
     if (left.empty()) {
         return {};
     }
-    return {{WarningCode::PdfPartsLeft, u"Not carried over: %1"_s.arg(inWords(left))}};
+    return {{WarningCode::PdfPartsLeft, Reasons::tr("Not carried over: %1").arg(inWords(left))}};
 }
 
 } // namespace folioforge

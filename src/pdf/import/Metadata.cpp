@@ -2,14 +2,13 @@
 
 #include "pdf/import/Metadata.h"
 
+#include "error/Reasons.h"
 #include "pdf/DocumentInfo.h"
 #include "pdf/XmpRewriter.h"
 
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -18,34 +17,35 @@ namespace {
 /// Why the copy does not keep what only a sound and whole document keeps; empty where it does.
 QString reasonOfBoth(const ImportOptions &options, const Warnings &warnings) {
     if (options.scope == ImportScope::OneOfSeveral) {
-        return u"it is a part of another one now"_s;
+        return Reasons::tr("it is a part of another one now");
     }
     const bool isDamaged = std::ranges::any_of(warnings, [](const Warning &warning) {
         return warning.code == WarningCode::PdfRepaired ||
                warning.code == WarningCode::PdfPagesLost;
     });
-    return isDamaged ? u"it was damaged"_s : QString();
+    return isDamaged ? Reasons::tr("it was damaged") : QString();
 }
 
 QString reasonOfStructure(const PartCounts &left) {
-    return left.contains(PartKind::StructureElements) ? u"some of its structure tags are damaged"_s
-                                                      : QString();
+    return left.contains(PartKind::StructureElements)
+               ? Reasons::tr("some of its structure tags are damaged")
+               : QString();
 }
 
 QString reasonAgainstPdfA(const Claims &claims, const ImportOptions &options,
                           const PartCounts &left) {
     if (options.encrypted) {
-        return u"that forbids encryption"_s;
+        return Reasons::tr("that forbids encryption");
     }
     if (claims.pdfA == u"4") {
-        return u"that forbids the document information, which is written"_s;
+        return Reasons::tr("that forbids the document information, which is written");
     }
     return claims.conformance == u"A" ? reasonOfStructure(left) : QString();
 }
 
 QString reasonAgainstPdfUA(const ImportOptions &options, const PartCounts &left) {
     if (options.info.title.isEmpty()) {
-        return u"that demands a title, and none is given"_s;
+        return Reasons::tr("that demands a title, and none is given");
     }
     return reasonOfStructure(left);
 }
@@ -53,7 +53,7 @@ QString reasonAgainstPdfUA(const ImportOptions &options, const PartCounts &left)
 void drop(const QString &standard, const QString &reason, Warnings &warnings) {
     warnings.push_back(
         {WarningCode::ClaimDropped,
-         u"The document no longer says that it is %1, since %2"_s.arg(standard, reason)});
+         Reasons::tr("The document no longer says that it is %1, since %2").arg(standard, reason)});
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "pdf/import/MissingObjects.h"
 
+#include "error/Reasons.h"
 #include "pdf/import/Dangling.h"
 #include "pdf/import/Entries.h"
 
@@ -11,8 +12,6 @@
 #include <array>
 #include <initializer_list>
 #include <map>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -168,11 +167,11 @@ Warnings missingEntries(QPDF &source) {
     };
     auto root = source.getRoot();
     if (isDangling(root, "/Outlines") || lacksNode(root.getKey("/Outlines"), {"/First", "/Next"})) {
-        say(u"Some of its bookmarks are missing in the document itself"_s);
+        say(Reasons::tr("Some of its bookmarks are missing in the document itself"));
     }
     if (isDangling(root, "/AcroForm") ||
         lacksNode(root.getKey("/AcroForm"), {"/Fields", "/Kids"})) {
-        say(u"Some of its form fields are missing in the document itself"_s);
+        say(Reasons::tr("Some of its form fields are missing in the document itself"));
     }
     return warnings;
 }

@@ -3,6 +3,7 @@
 #include "pdf/import/PageTree.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "pdf/import/Entries.h"
 
 #include <qpdf/QPDF.hh>
@@ -11,8 +12,6 @@
 #include <array>
 #include <set>
 #include <span>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -54,7 +53,7 @@ class PageTreeWalk {
   private:
     void requireNew(const QPDFObjectHandle &object) {
         if (!isFirstVisit(object, m_visited)) {
-            throw Error(u"The page tree contains itself"_s);
+            throw Error(Reasons::tr("The page tree contains itself"));
         }
     }
 
@@ -129,7 +128,7 @@ std::vector<PageNode> groupedPages(QPDF &document, std::vector<PageNode> nodes) 
 SourcePages readSourcePages(QPDF &source) {
     auto root = source.getRoot().getKey("/Pages");
     if (!root.isDictionary()) {
-        throw Error(u"The document has no page tree"_s);
+        throw Error(Reasons::tr("The document has no page tree"));
     }
     root = rootOf(root);
     SourcePages found = PageTreeWalk(root).pages();

@@ -2,6 +2,7 @@
 
 #include "pdf/import/SourceDamage.h"
 
+#include "error/Reasons.h"
 #include "pdf/QpdfErrors.h"
 
 #include <qpdf/QPDF.hh>
@@ -9,8 +10,6 @@
 #include <QStringList>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -23,9 +22,9 @@ QString inWords(const std::set<std::size_t> &pages) {
     for (auto page = pages.begin(); page != pages.end() && named.size() < kNamed; ++page) {
         named += QString::number(*page);
     }
-    const QString text = named.join(u", "_s);
-    const auto others = static_cast<qsizetype>(pages.size()) - named.size();
-    return others == 0 ? text : u"%1 and %2 more"_s.arg(text).arg(others);
+    const QString text = Reasons::listed(named);
+    const auto others = static_cast<int>(static_cast<qsizetype>(pages.size()) - named.size());
+    return others == 0 ? text : Reasons::tr("%1 and %n more", nullptr, others).arg(text);
 }
 
 } // namespace
@@ -35,20 +34,25 @@ Warnings missingPages(const SourcePages &pages) {
     const auto unreadable = static_cast<long long>(pages.unreadable.size());
     const long long total = pages.stated.value_or(read + unreadable);
     if (read > total) {
-        return {{WarningCode::PdfRepaired,
-                 u"The document states %1 pages, and %2 were found"_s.arg(total).arg(read)}};
+        return {
+            {WarningCode::PdfRepaired,
+             Reasons::tr("The document states %1 pages, and %2 were found").arg(total).arg(read)}};
     }
     if (read == total) {
         if (pages.stated || read == 0) {
             return {};
         }
-        return {{WarningCode::PdfRepaired,
-                 u"The document does not state its pages, and %1 were found"_s.arg(read)}};
+        return {
+            {WarningCode::PdfRepaired,
+             Reasons::tr("The document does not state its pages, and %1 were found").arg(read)}};
     }
-    QString text = u"%1 of %2 pages could be read"_s.arg(read).arg(total);
-    if (unreadable > 0) {
-        text += u", page %1 is the first that is missing"_s.arg(pages.unreadable.front() + 1);
-    }
+    const QString text =
+        unreadable > 0
+            ? Reasons::tr("%1 of %2 pages could be read, page %3 is the first that is missing")
+                  .arg(read)
+                  .arg(total)
+                  .arg(pages.unreadable.front() + 1)
+            : Reasons::tr("%1 of %2 pages could be read").arg(read).arg(total);
     return {{WarningCode::PdfPagesLost, text}};
 }
 
@@ -57,7 +61,8 @@ Warnings damagedPages(const std::set<std::size_t> &pages) {
         return {};
     }
     return {{WarningCode::PdfPagesLost,
-             u"What stands on page %1 is damaged and may lack something"_s.arg(inWords(pages))}};
+             Reasons::tr("What stands on page %1 is damaged and may lack something")
+                 .arg(inWords(pages))}};
 }
 
 Warnings repairs(QPDF &source) {
@@ -67,11 +72,12 @@ Warnings repairs(QPDF &source) {
         return {};
     }
     const auto number = std::count_if(first, faults.end(), isFault);
-    const QString text = u"The document is damaged and was repaired"_s;
-    return {{WarningCode::PdfRepaired,
-             number == 1 ? u"%1: %2"_s.arg(text, inWords(*first))
-                         : u"%1 in %2 places, the first: %3"_s.arg(text, QString::number(number),
-                                                                   inWords(*first))}};
+    const QString text =
+        number == 1
+            ? Reasons::tr("The document is damaged and was repaired: %1")
+            : Reasons::tr("The document is damaged and was repaired in %n places, the first: %1",
+                          nullptr, static_cast<int>(number));
+    return {{WarningCode::PdfRepaired, text.arg(inWords(*first))}};
 }
 
 } // namespace folioforge

@@ -2,6 +2,7 @@
 
 #include "pdf/import/SourceDocument.h"
 
+#include "error/Reasons.h"
 #include "pdf/QpdfErrors.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/FormImport.h"
@@ -19,8 +20,6 @@
 #include <string>
 #include <string_view>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
@@ -35,7 +34,7 @@ void requirePdfMark(const FileVersion &file, SourceReader &reader) {
         return std::string_view(piece.data(), got).find(mark) != std::string_view::npos;
     };
     if (!has(0, "%PDF-") && !has(std::max<qint64>(file.size - kPiece, 0), "startxref")) {
-        throw Error(u"This is not a PDF file"_s);
+        throw Error(Reasons::tr("This is not a PDF file"));
     }
 }
 
@@ -132,15 +131,18 @@ std::unique_ptr<QPDF> unlock(const FileVersion &file, const std::shared_ptr<Sour
         }
         isOpen = isOpen || document != nullptr;
     }
-    throw Error(isOpen ? u"The document is encrypted, and its permissions do not let its pages be "
-                         "taken; its owner password would"_s
-                       : u"The document is encrypted, and none of the passwords opens it"_s);
+    throw Error(
+        isOpen
+            ? Reasons::tr("The document is encrypted, and its permissions do not let its pages be "
+                          "taken; its owner password would")
+            : Reasons::tr("The document is encrypted, and none of the passwords opens it"));
 }
 
 /// Throws Error where the pages of the document are not in the file.
 void requirePages(QPDF &document) {
     if (isDynamicForm(document)) {
-        throw Error(u"It is a dynamic XFA form, whose pages only a program for such forms makes"_s);
+        throw Error(Reasons::tr(
+            "It is a dynamic XFA form, whose pages only a program for such forms makes"));
     }
 }
 
@@ -170,7 +172,7 @@ std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
         requirePdfMark(file, *reader);
         auto document = openUnlessLocked(file, reader);
         if (!passwords && (!document || document->isEncrypted())) {
-            throw Error(u"The document is encrypted"_s);
+            throw Error(Reasons::tr("The document is encrypted"));
         }
         if (!document || !isOpenFarEnough(*document)) {
             const bool isOpen = document != nullptr;

@@ -2,6 +2,8 @@
 
 #include "pdf/import/SourceInput.h"
 
+#include "error/Reasons.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -11,8 +13,6 @@
 #include <string_view>
 
 #include <time.h>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -73,7 +73,7 @@ void SourceInput::limitSearch() {
     if (m_searchEnd == 0) {
         m_searchEnd = threadTime() + kMaxSearch;
     } else if (threadTime() > m_searchEnd) {
-        m_reader->fail(u"The document is too damaged to be repaired"_s);
+        m_reader->fail(Reasons::tr("The document is too damaged to be repaired"));
     }
 }
 

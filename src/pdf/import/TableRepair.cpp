@@ -2,6 +2,7 @@
 
 #include "pdf/import/TableRepair.h"
 
+#include "error/Reasons.h"
 #include "pdf/QpdfErrors.h"
 #include "pdf/import/Entries.h"
 #include "pdf/import/ObjectSearch.h"
@@ -17,8 +18,6 @@
 #include <map>
 #include <optional>
 #include <string_view>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -101,8 +100,8 @@ class TableRepair {
 
   private:
     static Error trailerMissing() {
-        return Error(
-            u"The document is damaged: its trailer and its table of objects are missing"_s);
+        return Error(Reasons::tr(
+            "The document is damaged: its trailer and its table of objects are missing"));
     }
 
     /// The file with the table as far as it is known, and further objects of the contents `added`.
@@ -215,7 +214,7 @@ class TableRepair {
             throw trailerMissing();
         }
         if (!catalog.isDictionary()) {
-            throw Error(u"The document is damaged: it has no catalog"_s);
+            throw Error(Reasons::tr("The document is damaged: it has no catalog"));
         }
         target.replaceKey("/Root", catalog);
         return true;

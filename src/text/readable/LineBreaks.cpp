@@ -3,10 +3,9 @@
 #include "text/readable/LineBreaks.h"
 
 #include "error/Error.h"
+#include "error/Reasons.h"
 
 #include <unicode/ubrk.h>
-
-using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
@@ -18,8 +17,8 @@ LineBreaks::LineBreaks() {
     UErrorCode error = U_ZERO_ERROR;
     m_breaks.reset(ubrk_open(UBRK_LINE, "", nullptr, 0, &error));
     if (U_FAILURE(error)) {
-        throw Error(u"The rules for the breaking of lines cannot be loaded: %1"_s.arg(
-            QLatin1StringView(u_errorName(error))));
+        throw Error(Reasons::tr("The rules for the breaking of lines cannot be loaded: %1")
+                        .arg(QLatin1StringView(u_errorName(error))));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "text/readable/MarginText.h"
 
+#include "error/Reasons.h"
 #include "text/readable/Paragraph.h"
 #include "text/readable/RowDrawing.h"
 
@@ -116,7 +117,7 @@ Warnings MarginText::warnings() const {
     Warnings warnings = m_missing.warnings();
     if (m_isCut) {
         warnings.push_back({WarningCode::MarginTextCut,
-                            u"The header or the footer has more rows than its margin"_s});
+                            Reasons::tr("The header or the footer has more rows than its margin")});
     }
     return warnings;
 }
