@@ -1901,6 +1901,10 @@ None: pictures stay as they are
         <source>There is no font to write text with</source>
         <translation>لا يوجد خط لكتابة النص</translation>
     </message>
+    <message>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
+        <translation>تُقرأ ملفات HEIC وAVIF بمكتبة libheif 1 التي يتعذّر تحميلها</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

@@ -1789,6 +1789,10 @@ Keine: Bilder bleiben, wie sie sind
         <source>There is no font to write text with</source>
         <translation>Es gibt keine Schrift, um Text zu schreiben</translation>
     </message>
+    <message>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
+        <translation>HEIC- und AVIF-Dateien werden mit libheif 1 gelesen, das nicht geladen werden kann</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

@@ -1789,6 +1789,10 @@ Ninguna: las imágenes quedan como están
         <source>There is no font to write text with</source>
         <translation>No hay ninguna fuente para escribir texto</translation>
     </message>
+    <message>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
+        <translation>Los archivos HEIC y AVIF se leen con libheif 1, que no se puede cargar</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

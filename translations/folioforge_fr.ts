@@ -1789,6 +1789,10 @@ Aucune : les images restent telles quelles
         <source>There is no font to write text with</source>
         <translation>Il n’y a aucune police pour écrire du texte</translation>
     </message>
+    <message>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
+        <translation>Les fichiers HEIC et AVIF sont lus par libheif 1, qui ne peut pas être chargé</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

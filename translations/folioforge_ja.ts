@@ -1761,6 +1761,10 @@ None: pictures stay as they are
         <source>There is no font to write text with</source>
         <translation>テキストを書くためのフォントがありません</translation>
     </message>
+    <message>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
+        <translation>HEIC と AVIF ファイルの読み取りに使う libheif 1 を読み込めません</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

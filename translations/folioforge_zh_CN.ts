@@ -1761,6 +1761,10 @@ None: pictures stay as they are
         <source>There is no font to write text with</source>
         <translation>没有可用于书写文本的字体</translation>
     </message>
+    <message>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
+        <translation>HEIC 和 AVIF 文件由 libheif 1 读取，而它无法加载</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "error/Reasons.h"
 #include "image/formats/Formats.h"
 
+#include "error/Reasons.h"
 #include "image/Bytes.h"
 #include "image/CicpProfile.h"
 #include "image/Exif.h"
@@ -24,6 +24,8 @@
 #include <utility>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 
 namespace {
@@ -35,7 +37,8 @@ template<typename Function> Function *lateFunction(const char *name) {
     const QFunctionPointer found =
         QLibrary::resolve(u"" FOLIOFORGE_HEIF_LIBRARY ""_s, kInterface, name);
     if (found == nullptr) {
-        throw Error(u"HEIC and AVIF files are read by libheif 1, which cannot be loaded"_s);
+        throw Error(
+            Reasons::tr("HEIC and AVIF files are read by libheif 1, which cannot be loaded"));
     }
     return reinterpret_cast<Function *>(found);
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "error/Reasons.h"
 #include "image/formats/Jpeg2000.h"
 
+#include "error/Reasons.h"
 #include "error/Error.h"
 #include "image/Parallel.h"
 #include "image/PictureDamage.h"

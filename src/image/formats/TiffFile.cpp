@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "error/Reasons.h"
 #include "image/formats/Tiff.h"
 
+#include "error/Reasons.h"
 #include "error/Error.h"
 #include "image/ImageHeader.h"
 
