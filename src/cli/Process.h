@@ -9,8 +9,8 @@ namespace folioforge {
 /// Makes Qt read file names as UTF-8 in every locale. Must be called before the first use of Qt.
 void useUtf8FileNames();
 
-/// Lets the C library name what goes wrong in English, as all else is said, in every locale. Must be
-/// called after the application object is made, which asks for the language of the user.
+/// Lets the C library name what goes wrong in English, as all else is said, in every locale. Must
+/// be called after the application object is made, which asks for the language of the user.
 void keepMessagesEnglish();
 
 /// Keeps Qt's own messages, which are for developers, from standard error, save for the last one of
