@@ -2,8 +2,8 @@
 
 #include "image/formats/Formats.h"
 
-#include "error/Reasons.h"
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/MorePictures.h"
 #include "image/PictureDamage.h"
 #include "image/Raster.h"

@@ -2,8 +2,8 @@
 
 #include "image/formats/Jpeg2000.h"
 
-#include "error/Reasons.h"
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/Parallel.h"
 #include "image/PictureDamage.h"
 #include "image/formats/OpenJpeg.h"

@@ -2,8 +2,8 @@
 
 #include "image/formats/PngMetadata.h"
 
-#include "error/Reasons.h"
 #include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/Bytes.h"
 #include "image/Deflate.h"
 #include "image/PictureDamage.h"

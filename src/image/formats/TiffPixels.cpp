@@ -2,8 +2,8 @@
 
 #include "image/formats/Tiff.h"
 
-#include "error/Reasons.h"
 #include "error/Error.h"
+#include "error/Reasons.h"
 
 #include <QtEndian>
 
