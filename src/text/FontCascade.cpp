@@ -72,6 +72,13 @@ const FontFace &FontCascade::face(std::size_t index) const {
                     .arg(QFile::decodeName(m_faces.at(index).font.path())));
 }
 
+RowReach FontCascade::reach(std::size_t index) const {
+    const FontFace &opened = face(index);
+    const FontExtents extents = opened.extents();
+    const double scale = m_size / opened.unitsPerEm();
+    return {extents.ascent * scale, extents.descent * scale};
+}
+
 const FontFace *FontCascade::openFace(std::size_t index) const {
     Face &face = m_faces.at(index);
     if (!face.opened && !face.unreadable) {

@@ -31,6 +31,12 @@ struct Glyph {
     bool operator==(const Glyph &) const = default;
 };
 
+/// How far letters reach from their baseline, in points.
+struct RowReach {
+    double ascent = 0;
+    double descent = 0; ///< Positive.
+};
+
 /// The text font: the named families if the system has them, then a cascade of free fonts that
 /// together cover the scripts of the world. The first face gives the row height. Another face is
 /// opened when a character needs it. Glyphs are cached. Use it from any thread.
@@ -54,6 +60,8 @@ class FontCascade {
     [[nodiscard]] std::size_t faceCount() const { return m_faces.size(); }
     /// The face of that index, as in Glyph::face. Throws Error when its file has become unreadable.
     [[nodiscard]] const FontFace &face(std::size_t index) const;
+    /// What that face wants to have as room. Throws Error likewise.
+    [[nodiscard]] RowReach reach(std::size_t index) const;
 
     /// The glyph of one character from the first face that covers it, else glyph 0 of the first
     /// face. A control character that the first face lacks has the glyph of a blank.

@@ -20,19 +20,28 @@ struct ReleaseConfig {
 struct ReleasePattern {
     void operator()(FcPattern *pattern) const { FcPatternDestroy(pattern); }
 };
+struct ReleaseStrings {
+    void operator()(FcStrSet *set) const { FcStrSetDestroy(set); }
+    void operator()(FcStrList *list) const { FcStrListDone(list); }
+};
 using Config = std::unique_ptr<FcConfig, ReleaseConfig>;
 using Pattern = std::unique_ptr<FcPattern, ReleasePattern>;
 
 /// The fonts after the wanted family. Liberation Sans has the metrics of Arial; the fonts after it
-/// add scripts. Those of a single script come before Unifont, which has nearly all characters, but
-/// as outlines of bitmaps.
+/// add scripts. Those of a single script, first those that a language of today is written with, as
+/// others have some of their letters, come before FreeSans, which has letters of many scripts but
+/// few of the joined forms that Indic ones demand, and Unifont, which has nearly all characters,
+/// but as outlines of bitmaps.
 constexpr std::array kCascade{
-    QStringView(u"Liberation Sans"),  QStringView(u"DejaVu Sans"),
-    QStringView(u"Noto Sans CJK SC"), QStringView(u"WenQuanYi Zen Hei"),
-    QStringView(u"FreeSans"),         QStringView(u"FreeSerif"),
+    QStringView(u"Liberation Sans"),
+    QStringView(u"DejaVu Sans"),
+    QStringView(u"Noto Sans CJK SC"),
+    QStringView(u"WenQuanYi Zen Hei"),
 };
 constexpr QStringView kScriptFamilies(u"Noto Sans");
 constexpr std::array kLast{
+    QStringView(u"FreeSans"),
+    QStringView(u"FreeSerif"),
     QStringView(u"Unifont"),
     QStringView(u"Unifont Upper"),
 };
@@ -44,7 +53,8 @@ bool sameFamily(QStringView left, QStringView right) {
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
-std::optional<Rank> rankOf(const QString &family, const QStringList &wanted) {
+/// `writesLanguage` tells whether the font has all letters of some language.
+std::optional<Rank> rankOf(const QString &family, bool writesLanguage, const QStringList &wanted) {
     std::size_t rank = 0;
     for (const QString &name : wanted) {
         if (sameFamily(family, name)) {
@@ -59,8 +69,9 @@ std::optional<Rank> rankOf(const QString &family, const QStringList &wanted) {
         ++rank;
     }
     if (family.startsWith(kScriptFamilies)) {
-        return Rank{rank, family};
+        return Rank{writesLanguage ? rank : rank + 1, family};
     }
+    ++rank;
     for (const QStringView name : kLast) {
         ++rank;
         if (sameFamily(family, name)) {
@@ -103,11 +114,22 @@ bool isUsable(FcPattern *pattern) {
            integer(pattern, FC_INDEX, 0) >> kIndexBits == 0;
 }
 
+bool writesLanguage(FcPattern *pattern) {
+    FcLangSet *languages = nullptr;
+    if (FcPatternGetLangSet(pattern, FC_LANG, 0, &languages) != FcResultMatch) {
+        return false;
+    }
+    const std::unique_ptr<FcStrSet, ReleaseStrings> names(FcLangSetGetLangs(languages));
+    const std::unique_ptr<FcStrList, ReleaseStrings> list(FcStrListCreate(names.get()));
+    return FcStrListNext(list.get()) != nullptr;
+}
+
 std::optional<Rank> rankOf(FcPattern *pattern, const QStringList &wanted) {
     std::optional<Rank> best;
+    const bool hasLanguage = writesLanguage(pattern);
     FcChar8 *name = nullptr;
     for (int i = 0; FcPatternGetString(pattern, FC_FAMILY, i, &name) == FcResultMatch; ++i) {
-        const auto rank = rankOf(QString::fromUtf8(QByteArrayView(name)), wanted);
+        const auto rank = rankOf(QString::fromUtf8(QByteArrayView(name)), hasLanguage, wanted);
         if (rank && (!best || *rank < *best)) {
             best = rank;
         }

@@ -60,6 +60,28 @@ class ReadableTextTest : public QObject, CommandLineCase {
         QCOMPARE(pdf.text().remove(controls), text);
     }
 
+    void rowsOfScriptsThatReachFarDoNotTouch_data() {
+        QTest::addColumn<QString>("row");
+        QTest::newRow("Bengali") << u"\u09AC\u09C1\u09A6\u09CD\u09A7\u09BF \u0989"_s;
+        QTest::newRow("Myanmar") << u"\u1010\u1030\u100A\u102E \u1016\u103C\u1004\u103A\u1037"_s;
+    }
+    void rowsOfScriptsThatReachFarDoNotTouch() {
+        QFETCH(const QString, row);
+        const QImage page = readablePdf(row + u'\n' + row, {u"--font-size=40"_s})
+                                .render(1)
+                                .convertToFormat(QImage::Format_Grayscale8);
+        int bands = 0;
+        bool wasBlank = true;
+        for (int y = 0; y < page.height(); ++y) {
+            const auto *line = page.constScanLine(y);
+            const bool isBlank =
+                std::all_of(line, line + page.width(), [](uchar pixel) { return pixel > 200; });
+            bands += wasBlank && !isBlank ? 1 : 0;
+            wasBlank = isBlank;
+        }
+        QCOMPARE(bands, 2);
+    }
+
     void aWordIsNeverCutWhereTheLineEnds() {
         QString text = u"Everybody reads words that stand whole in their lines. "_s.repeated(20);
         text.chop(1);

@@ -105,6 +105,22 @@ class FontCascadeTest : public QObject {
         }
     }
 
+    void lettersComeFromTheFontOfTheirLanguages_data() {
+        QTest::addColumn<QString>("letter");
+        QTest::addColumn<QByteArray>("font");
+        QTest::newRow("Bengali") << u"ত"_s << QByteArray("NotoSansBengali-Regular");
+        QTest::newRow("Devanagari") << u"त"_s << QByteArray("NotoSansDevanagari-Regular");
+        QTest::newRow("Tamil that Grantha has too")
+            << u"ப"_s << QByteArray("NotoSansTamil-Regular");
+        QTest::newRow("Thai") << u"ท"_s << QByteArray("NotoSansThai-Regular");
+    }
+    void lettersComeFromTheFontOfTheirLanguages() {
+        QFETCH(const QString, letter);
+        QFETCH(const QByteArray, font);
+        const auto cascade = FontCascade::load({}, 12);
+        QCOMPARE(cascade->face(cascade->glyph(letter[0].unicode()).face).postScriptName(), font);
+    }
+
     void sameGlyphIsFoundAgain() {
         const auto font = cascade();
         QCOMPARE(font->glyph(U'中'), font->glyph(U'中'));

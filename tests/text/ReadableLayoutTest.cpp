@@ -164,7 +164,7 @@ class ReadableLayoutTest : public QObject {
         QCOMPARE(ours.size(), qts.size());
         // A line that is read from right to left begins at the margin.
         const double start = ours.front().x - qts.front().x;
-        const double base = kHeight - large().ascent();
+        const double base = ours.front().y - qts.front().y;
         for (std::size_t i = 0; i < ours.size(); ++i) {
             QCOMPARE(ours[i].id, qts[i].id);
             QVERIFY(qAbs(ours[i].x - start - qts[i].x) < 4);
@@ -254,6 +254,25 @@ class ReadableLayoutTest : public QObject {
         const ShownText shown = readable(u"a\tb\nc"_s, 500, small(), {4, 2, {}, {}});
         QVERIFY(qAbs(shown.pieces[1].x - 4 * 10 * 569.0 / 2048) < 1e-3);
         QVERIFY(qAbs(shown.pieces[0].y - shown.pieces[2].y - 2 * 10 * 2355.0 / 2048) < 1e-3);
+    }
+
+    void rowsOfTallLettersTakeMoreRoomAndOthersStayEven_data() {
+        QTest::addColumn<QString>("row");
+        QTest::addColumn<double>("distance"); ///< In ems, to the row before.
+        constexpr double kRow = 2355.0 / 2048;
+        // Over the room of Liberation Sans, 1854 and 434 of 2048 units.
+        QTest::newRow("Bengali") << u"\u09AC\u09C1\u09A6\u09CD\u09A7\u09BF"_s
+                                 << kRow + 0.917 - 1854.0 / 2048;
+        QTest::newRow("Japanese") << u"\u65E5\u672C\u8A9E\u306E\u30C6"_s << kRow;
+        QTest::newRow("Arabic") << u"\u0645\u0631\u062D"_s << kRow;
+        QTest::newRow("signs") << u"a \u2192 b \U0001F600"_s << kRow;
+    }
+    void rowsOfTallLettersTakeMoreRoomAndOthersStayEven() {
+        QFETCH(const QString, row);
+        QFETCH(const double, distance);
+        const ShownText shown = readable(u"a\n"_s + row + u"\nb"_s, 500);
+        const double found = (shown.pieces[0].y - shown.pieces[1].y) / small().size();
+        QVERIFY2(qAbs(found - distance) < 1e-3, qPrintable(QString::number(found)));
     }
 
     void aFormFeedBeginsAPage() {

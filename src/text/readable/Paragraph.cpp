@@ -2,6 +2,8 @@
 
 #include "text/readable/Paragraph.h"
 
+#include <unicode/uscript.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -19,6 +21,34 @@ bool isPlain(QStringView text) {
 
 bool isBlank(QChar unit) {
     return unit == u' ' || unit == u'\t' || unit == u'\u3000';
+}
+
+/// Whether letters of a script stand in a square that the first face has room for, whatever room
+/// their own face wants, or are signs that come one by one.
+bool isLow(int script) {
+    switch (static_cast<UScriptCode>(script)) {
+    case USCRIPT_COMMON:
+    case USCRIPT_INHERITED:
+    case USCRIPT_HAN:
+    case USCRIPT_HIRAGANA:
+    case USCRIPT_KATAKANA:
+    case USCRIPT_HANGUL:
+    case USCRIPT_BOPOMOFO:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// What a run wants beyond the room of the first face; what is hardly more is nothing, so that rows
+/// with a foreign word stay even.
+RowReach reachOf(const TextRun &run, const FontCascade &font) {
+    constexpr double kHardlyMore = 1.05;
+    if (run.face == 0 || isLow(run.script)) {
+        return {};
+    }
+    const RowReach reach = font.reach(run.face);
+    return reach.ascent + reach.descent > kHardlyMore * font.rowHeight() ? reach : RowReach{};
 }
 
 } // namespace
@@ -39,7 +69,7 @@ Paragraph::Paragraph(QStringView text, const FontCascade &font, LineBreaks &brea
         const auto directed = m_directions ? m_directions->logicalRuns()
                                            : std::vector<DirectedRun>{{0, text.size(), false}};
         for (const TextRun &run : findRuns(text, directed, font, missing)) {
-            m_runs.push_back({run, shape(text, run, font)});
+            m_runs.push_back({run, shape(text, run, font), reachOf(run, font)});
         }
     }
     std::size_t count = 0;
@@ -99,6 +129,17 @@ TextRow Paragraph::takeRow(qsizetype first, double width, double tabStop) {
         at += advance;
     }
     return rowTo(first, m_text.size());
+}
+
+RowReach Paragraph::reach(const TextRow &row) const {
+    RowReach most;
+    auto run = std::ranges::partition_point(
+        m_runs, [&](const Run &each) { return each.run.end <= row.first; });
+    for (; run != m_runs.end() && run->run.first < row.visible; ++run) {
+        most = {std::max(most.ascent, run->reach.ascent),
+                std::max(most.descent, run->reach.descent)};
+    }
+    return most;
 }
 
 std::vector<DirectedRun> Paragraph::visualRuns(const TextRow &row) const {

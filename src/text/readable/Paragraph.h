@@ -51,6 +51,9 @@ class Paragraph {
     /// The row that begins with the unit `first`: what fits into `width` points, but at least one
     /// character. A tab leads to the next multiple of `tabStop` points.
     [[nodiscard]] TextRow takeRow(qsizetype first, double width, double tabStop);
+    /// How far the letters of a row reach whose faces want more room than the first one; nothing
+    /// where there are none.
+    [[nodiscard]] RowReach reach(const TextRow &row) const;
     /// The pieces of a row that was taken, from left to right. They live until the next call.
     [[nodiscard]] std::span<const RowPiece> pieces(const TextRow &row);
 
@@ -58,6 +61,7 @@ class Paragraph {
     struct Run {
         TextRun run;
         std::vector<PlacedGlyph> glyphs;
+        RowReach reach = {}; ///< None where it takes no more room than the first face.
     };
 
     void shapePlain(const FontCascade &font, MissingGlyphs &missing);

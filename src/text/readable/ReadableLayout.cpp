@@ -26,9 +26,9 @@ class PageColumn {
         , m_width(page.width() - m_left - static_cast<double>(margins.right))
         , m_top(page.height() - static_cast<double>(margins.top))
         , m_bottom(static_cast<double>(margins.bottom))
-        , m_ascent(font.ascent())
+        , m_reach{font.ascent(), font.descent()}
         , m_rowHeight(static_cast<double>(font.rowHeight()))
-        , m_pitch(m_rowHeight * lineSpacing) {}
+        , m_lineSpacing(lineSpacing) {}
 
     [[nodiscard]] double width() const { return m_width; }
 
@@ -50,16 +50,18 @@ class PageColumn {
         m_isOpen = false;
     }
 
-    /// Takes the room of a row, on the next page where this one is full. False when the sink does
-    /// not want it.
-    [[nodiscard]] bool takeRoom() {
+    /// Takes the room of a row, which grows where its letters `reach` further than those of the
+    /// first face, on the next page where this one is full. False when the sink does not want it.
+    [[nodiscard]] bool takeRoom(const RowReach &reach = {}) {
         constexpr double kRounding = 1e-6;
+        const double above = std::max(0.0, reach.ascent - m_reach.ascent);
+        const double height = m_rowHeight + above + std::max(0.0, reach.descent - m_reach.descent);
         // A row taller than the page gets a page of its own.
-        if (m_rowTop < m_top && m_rowTop - m_rowHeight < m_bottom - kRounding && !beginPage()) {
+        if (m_rowTop < m_top && m_rowTop - height < m_bottom - kRounding && !beginPage()) {
             return false;
         }
-        m_baseline = m_rowTop - m_ascent;
-        m_rowTop -= m_pitch;
+        m_baseline = m_rowTop - above - m_reach.ascent;
+        m_rowTop -= height * m_lineSpacing;
         return true;
     }
 
@@ -75,9 +77,9 @@ class PageColumn {
     double m_width = 0;
     double m_top = 0; ///< Heights are from the lower edge of the page.
     double m_bottom = 0;
-    double m_ascent = 0;
+    RowReach m_reach; ///< Of the first face.
     double m_rowHeight = 0;
-    double m_pitch = 0;
+    double m_lineSpacing = 1;
     double m_rowTop = 0;
     double m_baseline = 0;
     bool m_isOpen = false;
@@ -121,7 +123,7 @@ class ReadableText {
             if (row.end == text.size() && !isLast && taken > 0) {
                 break;
             }
-            if (!m_column.takeRoom()) {
+            if (!m_column.takeRoom(paragraph.reach(row))) {
                 return 0;
             }
             m_column.show(paragraph, row);

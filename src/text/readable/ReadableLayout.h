@@ -11,7 +11,7 @@ namespace folioforge {
 /// How readable pages of text are set.
 struct ReadableStyle {
     double tabWidth = 8;    ///< Blanks from one tab stop to the next.
-    double lineSpacing = 1; ///< From baseline to baseline, in heights of a row.
+    double lineSpacing = 1; ///< From row to row, in heights of a row.
     /// What stands in the middle of the top and of the bottom margin, as withFacts() takes it.
     QString header;
     QString footer;
