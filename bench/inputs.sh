@@ -124,6 +124,11 @@ text() {
     head -c 25000000 "$folder/long.txt" >"$folder/quarter.txt"
 }
 
+# 10 MB of words in twelve scripts.
+scripts() {
+    python3 "$bench/scripts.py" "$folder" 10000000
+}
+
 small_texts() {
     i=0
     while [ $i -lt 1000 ]; do
