@@ -255,8 +255,8 @@ class FontEmbedderTest : public QObject {
         QTest::newRow("Japanese") << u"Noto Sans CJK SC"_s << u"あ日"_s;
         QTest::newRow("Korean") << u"Noto Sans CJK SC"_s << u"한국"_s;
         QTest::newRow("Han beyond the BMP") << u"Noto Sans CJK SC"_s << u"𠮷"_s;
-        QTest::newRow("Thai") << u"FreeSerif"_s << u"ภษ"_s;
-        QTest::newRow("Devanagari") << u"FreeSans"_s << u"ह"_s;
+        QTest::newRow("Thai") << u"Noto Sans Thai"_s << u"ภษ"_s;
+        QTest::newRow("Devanagari") << u"Noto Sans Devanagari"_s << u"ह"_s;
         QTest::newRow("Rocket") << u"Unifont Upper"_s << u"🚀"_s;
     }
 
