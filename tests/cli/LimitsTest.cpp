@@ -235,9 +235,10 @@ class LimitsTest : public QObject {
     }
 
     void listsThatManyShareAreReadOnce() {
-        const int count = sized(20'000, 5000);
-        QCOMPARE(answerTo({savedPdf(sharedKids(count)), u"--pages"_s, u"1"_s}), valid());
-        QCOMPARE(PdfProbe(target()).pageCount(), 1);
+        const QString file = savedPdf(sharedKids(sized(60'000, isSanitized() ? 3000 : 15'000)));
+        Limits soon;
+        soon.processorSeconds = 12; // Read for each that shares them, they take 33.
+        QCOMPARE(answerTo({file, u"--pages"_s, u"1"_s}, soon), valid());
     }
 
     void aLargePageInManyPlacesStaysOnePage() {

@@ -39,8 +39,9 @@ class PasswordSourcesTest : public QObject, protected CommandLineCase {
 
     void passwordsOfAPipeMayComeOneByOne() {
         encrypted(u"user"_s, u"256"_s, {});
-        const ToolRun run = shell("{ echo wrong; sleep 0.3; echo 'ä owner'; } | folioforge-cli "
-                                  "--merge open.pdf --input-password-file - locked.pdf");
+        const ToolRun run = shell(
+            "{ echo wrong; sleep 0.2; echo 'ä owner'; sleep 0.2; echo wrong; } | folioforge-cli "
+            "--merge open.pdf --input-password-file - locked.pdf");
         QVERIFY2(run.exitCode == 0, run.err.constData());
         QCOMPARE(PdfProbe(path("open.pdf")).pageCount(), 1);
     }
