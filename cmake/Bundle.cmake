@@ -23,8 +23,9 @@ function(folioforge_program target)
         RUNTIME_OUTPUT_DIRECTORY "${FOLIOFORGE_BUNDLE_BIN}")
     install(TARGETS ${target} RUNTIME DESTINATION "${FOLIOFORGE_INSTALL_BUNDLE}/MacOS")
     if(NOT APPLE AND NOT PROGRAM_HELPER)
-        file(RELATIVE_PATH program
-            "/${CMAKE_INSTALL_BINDIR}" "/${FOLIOFORGE_INSTALL_BUNDLE}/MacOS/${target}")
+        cmake_path(ABSOLUTE_PATH FOLIOFORGE_INSTALL_BUNDLE BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}"
+            OUTPUT_VARIABLE bundle)
+        file(RELATIVE_PATH program "${CMAKE_INSTALL_FULL_BINDIR}" "${bundle}/MacOS/${target}")
         set(link "${CMAKE_CURRENT_BINARY_DIR}/links/${target}")
         file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/links")
         file(CREATE_LINK "${program}" "${link}" SYMBOLIC)

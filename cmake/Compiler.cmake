@@ -39,7 +39,7 @@ if(UNIX AND NOT APPLE)
         $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>:-fcf-protection=full>
         $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},aarch64>:-mbranch-protection=standard>)
     target_link_options(folioforge_program INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
-    if(NOT FOLIOFORGE_SANITIZE) # AddressSanitizer watches the same calls.
+    if(NOT FOLIOFORGE_SANITIZE AND NOT FOLIOFORGE_FUZZ) # AddressSanitizer watches the same calls.
         target_compile_options(folioforge_program INTERFACE -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
     endif()
 endif()
