@@ -25,6 +25,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QProgressBar>
+#include <QScreen>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -46,6 +47,10 @@ class StillDesktop : public Desktop {
     void showProgress(std::optional<double> /*share*/) override {}
 };
 
+bool isOnScreen() {
+    return QGuiApplication::platformName() == u"xcb";
+}
+
 class Photographer {
   public:
     Photographer(QMainWindow &window, QString folder, QString suffix)
@@ -53,11 +58,18 @@ class Photographer {
         , m_folder(std::move(folder))
         , m_suffix(std::move(suffix)) {}
 
-    /// Takes the window, and `menu` over it where there is one.
+    /// Takes the window, and `menu` over it where there is one; on a screen that somebody could
+    /// see, what is there, with the frame.
     void take(const QString &name, QMenu *menu = nullptr) {
-        QTest::qWait(300); // The options panel slides open and shut.
-        QPixmap picture = m_window.grab();
-        if (menu != nullptr) {
+        QRect frame;
+        while (frame != m_window.frameGeometry()) { // The options panel slides open and shut.
+            frame = m_window.frameGeometry();
+            QTest::qWait(400);
+        }
+        QPixmap picture = isOnScreen() ? m_window.screen()->grabWindow(
+                                             0, frame.x(), frame.y(), frame.width(), frame.height())
+                                       : m_window.grab();
+        if (menu != nullptr && !isOnScreen()) {
             QPainter(&picture).drawPixmap(m_window.mapFromGlobal(menu->pos()), menu->grab());
         }
         picture.save(m_folder + u'/' + name + m_suffix + u".png"_s);
@@ -142,7 +154,9 @@ void takeRun(MainWndCtrl &controller, Photographer &photographer, const QString 
 } // namespace
 
 int main(int argc, char *argv[]) {
-    test::useScreenOf({3200, 2000}); // Room for the window at every scale.
+    if (qgetenv("QT_QPA_PLATFORM") != "xcb") {
+        test::useScreenOf({3200, 2000}); // Room for the window at every scale.
+    }
     QApplication application(argc, argv);
     const Translations translations(QLocale::system().uiLanguages(), test::bundlePath());
     applyLightLook(application);
