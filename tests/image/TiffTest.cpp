@@ -268,6 +268,17 @@ class TiffTest : public QObject {
         QCOMPARE(pixels.sliced(all.size()), QByteArray(pixels.size() - all.size(), '\0'));
     }
 
+    void aFaxThatEndsInARowOfOnesIsWhole() {
+        // Two rows of ten black pixels, of which the second is as the one above.
+        const QByteArray data("\x26\xA1\x30\x01\x00\x10", 6);
+        const PdfImage image = toPdfImage(tiff(10, 2, data, [](TIFF *tif) {
+            setSamples(tif, 1, 1, PHOTOMETRIC_MINISBLACK);
+            TIFFSetField(tif, TIFFTAG_COMPRESSION, COMPRESSION_CCITTFAX4);
+        }));
+        QCOMPARE(warningsOf(image), QStringList());
+        QCOMPARE(rgbRows(image), QByteArray(2 * 10 * 3, '\xFF'));
+    }
+
     void rowsOfGroup4BehindAFaultAreMissing() {
         // Four white and four black pixels in horizontal mode, a row as the one above, a code that
         // is none, and what would be more such rows.

@@ -122,6 +122,7 @@ class TiffReader {
     [[nodiscard]] bool isInFile(uint32_t number) const;
     [[nodiscard]] int complaints(const TiffFile &tiff) const;
     int readRows(const TiffFile &tiff, int y, int rows, qsizetype stride, char *target);
+    [[nodiscard]] bool isSameRow(const char *one, const char *other, qsizetype stride) const;
     void rescueStrip(int y, int rows, qsizetype stride, char *target);
 
     TiffShape m_shape;

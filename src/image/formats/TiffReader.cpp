@@ -88,6 +88,15 @@ int TiffReader::readRows(const TiffFile &tiff, int y, int rows, qsizetype stride
     return rows;
 }
 
+/// Whether rows have the same pixels. Of fax data libtiff leaves the bits behind the last pixel as
+/// they were.
+bool TiffReader::isSameRow(const char *one, const char *other, qsizetype stride) const {
+    constexpr int kByteBits = 8;
+    const int behind = isFax() ? static_cast<int>(stride * kByteBits - m_shape.width) : 0;
+    return behind < kByteBits && std::memcmp(one, other, static_cast<size_t>(stride - 1)) == 0 &&
+           ((one[stride - 1] ^ other[stride - 1]) & (0xFF << behind)) == 0;
+}
+
 /// libtiff reads no strip that the file does not hold to its end. What bytes stand behind the end
 /// makes no difference to the rows before it, and to these alone.
 void TiffReader::rescueStrip(int y, int rows, qsizetype stride, char *target) {
@@ -102,8 +111,8 @@ void TiffReader::rescueStrip(int y, int rows, qsizetype stride, char *target) {
     const int read = std::min(readRows(*m_padded, y, rows, stride, target),
                               readRows(*m_paddedOtherwise, y, rows, stride, other.data()));
     int same = 0;
-    while (same < read && std::memcmp(target + same * stride, other.constData() + same * stride,
-                                      static_cast<size_t>(stride)) == 0) {
+    while (same < read &&
+           isSameRow(target + same * stride, other.constData() + same * stride, stride)) {
         ++same;
     }
     std::memset(target + same * stride, 0, static_cast<size_t>((rows - same) * stride));
