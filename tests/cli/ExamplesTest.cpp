@@ -101,6 +101,7 @@ class ExamplesTest : public QObject, CommandLineCase {
         const QString block = u"^((?:[^`\n]*\\| )?folioforge-cli [^`\n]*)$"_s;
         const QString behindPipe = u"^(find .*folioforge-cli .*)$"_s;
         QVERIFY(rows("guide", linesIn(u"docs/guide.md"_s, block)) > 8);
+        QCOMPARE(rows("README", linesIn(u"README.md"_s, block)), 10);
         QVERIFY(rows("README", linesIn(u"README.md"_s, behindPipe)) > 0);
         QVERIFY(rows("manual", linesIn(u"packaging/folioforge-cli.1"_s, u"^\\.Dl (.*)$"_s)) > 3);
         // Behind the command stands what it does.
