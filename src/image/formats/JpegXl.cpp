@@ -37,6 +37,7 @@ class JpegXlPictureReader : public PictureReader {
                 break;
             case JXL_DEC_NEED_IMAGE_OUT_BUFFER:
                 m_samples = m_decoder.takeSamples(format());
+                takeBlack();
                 break;
             case JXL_DEC_FULL_IMAGE:
                 return picture();
@@ -70,6 +71,32 @@ class JpegXlPictureReader : public PictureReader {
                 isDeep() ? JXL_TYPE_UINT16 : JXL_TYPE_UINT8, JXL_BIG_ENDIAN, 0};
     }
 
+    void takeBlack() {
+        if (const auto channel = m_decoder.blackChannel(m_info)) {
+            JxlPixelFormat alone = format();
+            alone.num_channels = 1;
+            m_black = m_decoder.takeChannel(alone, *channel);
+        }
+    }
+
+    /// Puts the black ink behind the others, and no longer as light: 0 is without ink.
+    void addBlack() {
+        const qsizetype bytes = isDeep() ? 2 : 1;
+        const qsizetype colors = bytes * m_info.num_color_channels;
+        const qsizetype alpha = hasAlpha() ? bytes : 0;
+        QByteArray inks;
+        inks.reserve(m_samples.size() + m_black.size());
+        for (qsizetype at = 0, pixel = 0; at < m_samples.size(); at += colors + alpha) {
+            const qsizetype first = inks.size();
+            inks.append(m_samples.constData() + at, colors);
+            inks.append(m_black.constData() + bytes * pixel++, bytes);
+            std::for_each(inks.begin() + first, inks.end(),
+                          [](char &byte) { byte = static_cast<char>(~byte); });
+            inks.append(m_samples.constData() + at + colors, alpha);
+        }
+        m_samples = std::move(inks);
+    }
+
     [[nodiscard]] PdfImage picture() {
         Raster raster;
         raster.width = m_header.width;
@@ -77,6 +104,10 @@ class JpegXlPictureReader : public PictureReader {
         raster.bits = isDeep() ? 16 : 8;
         raster.color = m_info.num_color_channels == 1 ? ImageColor::Gray : ImageColor::Rgb;
         raster.iccProfile = m_color.iccProfile;
+        if (!m_black.isEmpty()) {
+            raster.color = ImageColor::Cmyk;
+            addBlack();
+        }
         if (hasAlpha()) {
             const auto *const bytes = reinterpret_cast<const uchar *>(m_samples.constData());
             storeChannels({bytes, m_samples.size() / raster.height, raster.bits, true}, raster);
@@ -107,6 +138,7 @@ class JpegXlPictureReader : public PictureReader {
     JxlBasicInfo m_info{};
     JpegXlColor m_color;
     QByteArray m_samples; ///< Of the frame that is being read.
+    QByteArray m_black;   ///< Of its black ink, where it has one.
     bool m_hasEnded = false;
 };
 

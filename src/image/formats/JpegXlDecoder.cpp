@@ -200,13 +200,21 @@ void JpegXlDecoder::requireColors(const JxlBasicInfo &info) const {
             Reasons::tr("The JPEG XL file has %1 channels beside its colours, which are too many")
                 .arg(info.num_extra_channels));
     }
+    // With the inks as light libjxl gives colours of light for three of them.
+    if (blackChannel(info) && info.uses_original_profile == JXL_FALSE) {
+        throw Error(Reasons::tr("The JPEG XL file stores inks, which cannot be read"));
+    }
+}
+
+std::optional<uint32_t> JpegXlDecoder::blackChannel(const JxlBasicInfo &info) const {
     for (uint32_t channel = 0; channel < info.num_extra_channels; ++channel) {
         JxlExtraChannelInfo extra{};
         if (JxlDecoderGetExtraChannelInfo(get(), channel, &extra) == JXL_DEC_SUCCESS &&
-            extra.type == JXL_CHANNEL_BLACK) {
-            throw Error(Reasons::tr("The JPEG XL file stores inks, which cannot be read"));
+            extra.type == JXL_CHANNEL_BLACK && info.num_color_channels == 3) {
+            return channel;
         }
     }
+    return std::nullopt;
 }
 
 JpegXlColor JpegXlDecoder::color(const JxlBasicInfo &info) const {
@@ -236,6 +244,19 @@ QByteArray JpegXlDecoder::takeSamples(const JxlPixelFormat &format) const {
     }
     QByteArray samples(static_cast<qsizetype>(size), '\0');
     if (JxlDecoderSetImageOutBuffer(get(), &format, samples.data(), size) != JXL_DEC_SUCCESS) {
+        throw damagedJpegXl();
+    }
+    return samples;
+}
+
+QByteArray JpegXlDecoder::takeChannel(const JxlPixelFormat &format, uint32_t channel) const {
+    size_t size = 0;
+    if (JxlDecoderExtraChannelBufferSize(get(), &format, &size, channel) != JXL_DEC_SUCCESS) {
+        throw damagedJpegXl();
+    }
+    QByteArray samples(static_cast<qsizetype>(size), '\0');
+    if (JxlDecoderSetExtraChannelBuffer(get(), &format, samples.data(), size, channel) !=
+        JXL_DEC_SUCCESS) {
         throw damagedJpegXl();
     }
     return samples;

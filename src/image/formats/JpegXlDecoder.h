@@ -12,6 +12,7 @@
 #include <QByteArray>
 
 #include <memory>
+#include <optional>
 
 namespace folioforge {
 
@@ -38,6 +39,11 @@ class JpegXlDecoder {
     [[nodiscard]] JpegXlColor color(const JxlBasicInfo &info) const;
     /// The place of the frame's samples, filled at JXL_DEC_FULL_IMAGE.
     [[nodiscard]] QByteArray takeSamples(const JxlPixelFormat &format) const;
+    /// The place of the samples of one of the channels beside the colours and the opacity;
+    /// likewise.
+    [[nodiscard]] QByteArray takeChannel(const JxlPixelFormat &format, uint32_t channel) const;
+    /// The channel with the black ink, where the colours are cyan, magenta and yellow.
+    [[nodiscard]] std::optional<uint32_t> blackChannel(const JxlBasicInfo &info) const;
     /// Fills the place with what was read of a frame; false where that gives no picture.
     [[nodiscard]] bool flush() const;
 
