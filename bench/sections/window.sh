@@ -45,5 +45,5 @@ for script in "$scratch"/candidates/*.sh; do
         "$(ratio "$(start_of "$name" $((starts / 2)))" "$(start_of folioforge $((starts / 2)))")"
 done
 echo
-limit "window shown, median of $starts starts, under 300 ms" \
-    "$(start_of folioforge $((starts / 2)))" at-most 300 " ms"
+limit "window shown, median of $starts starts, under 100 ms" \
+    "$(start_of folioforge $((starts / 2)))" at-most 100 " ms"
