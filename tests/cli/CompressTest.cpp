@@ -61,7 +61,8 @@ class CompressTest : public QObject, CommandLineCase {
         }
         const ToolRun run = runTool(u"compare"_s, {u"-metric"_s, u"PSNR"_s, path("whole.png"),
                                                    path("small.png"), u"null:"_s});
-        QVERIFY2(run.err.toDouble() > 30, run.err);
+        // Version 7 gives it in two measures.
+        QVERIFY2(run.err.split(' ').first().toDouble() > 30, run.err);
     }
 
     void greyTakesTheColoursOfPictures() {

@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <unicode/uchar.h>
+
 #include <algorithm>
 #include <set>
 
@@ -45,6 +47,32 @@ QByteArrayList linesOfUnicode(const QString &name) {
     }
     return lines;
 }
+
+/// Where the data and ICU are of two versions of Unicode that differ in how a character breaks.
+class ChangedCharacters {
+  public:
+    ChangedCharacters() {
+        for (const QByteArray &line : linesOfUnicode(u"LineBreak.txt"_s)) {
+            constexpr int kHexadecimal = 16;
+            const QByteArrayList range = line.split(';').first().trimmed().split('.');
+            const QByteArray name = line.split(';').last().trimmed();
+            const int known = u_getPropertyValueEnum(UCHAR_LINE_BREAK, name.constData());
+            const uint last = range.last().toUInt(nullptr, kHexadecimal);
+            for (uint c = range.first().toUInt(nullptr, kHexadecimal); c <= last; ++c) {
+                if (u_getIntPropertyValue(static_cast<UChar32>(c), UCHAR_LINE_BREAK) != known) {
+                    m_characters.insert(c);
+                }
+            }
+        }
+    }
+    [[nodiscard]] bool standIn(const QString &text) const {
+        return std::ranges::any_of(text.toUcs4(),
+                                   [this](uint c) { return m_characters.contains(c); });
+    }
+
+  private:
+    std::set<uint> m_characters;
+};
 
 /// What failed of many cases, the first few in words.
 class Failures {
@@ -186,12 +214,18 @@ class UnicodeTest : public QObject {
     void linesBreakAsUnicodeSays() {
         const QByteArrayList lines = linesOfUnicode(u"auxiliary/LineBreakTest.txt"_s);
         QVERIFY2(lines.size() > 7000, "The package unicode-data is missing");
+        const ChangedCharacters changed;
         LineBreaks breaks;
         Failures failures;
         int byIcu = 0;
+        qsizetype leftOut = 0;
         for (const QByteArray &line : lines) {
             UnicodeCase test{line, {}, {}};
             const std::vector<qsizetype> wanted = breaksOf(test);
+            if (changed.standIn(test.text)) {
+                ++leftOut;
+                continue;
+            }
             breaks.setText(test.text);
             std::set<qsizetype> found;
             for (qsizetype unit = 1; unit < test.text.size(); ++unit) {
@@ -209,6 +243,7 @@ class UnicodeTest : public QObject {
         }
         QVERIFY2(failures.none(), failures.words());
         QVERIFY2(byIcu <= 22, QByteArray::number(byIcu));
+        QVERIFY2(leftOut < lines.size() / 20, QByteArray::number(leftOut));
     }
 
     void rowsAreOrderedAsUnicodeSays() {
