@@ -95,7 +95,7 @@ QString tipUnderTheMouse(const QTableView &list, int row) {
 /// The errors and warnings of a room that are made of a text without a translation.
 QStringList untranslatedReasonsOf(const QString &room) {
     static const QRegularExpression bare(
-        u"(\\b[eE]rror\\(|WarningCode::\\w+,)\\s*(u|QStringLiteral\\(\\s*)\"[^\"]*\""_s);
+        u"([eE]rror\\(|WarningCode::\\w+,)\\s*(u|QStringLiteral\\(\\s*)\"[^\"]*\""_s);
     QStringList found;
     QDirIterator file(inSource(u"src/"_s + room), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
                       QDirIterator::Subdirectories);
@@ -241,6 +241,14 @@ class TranslationsTest : public QObject {
         QCOMPARE(tipUnderTheMouse(list, 0), refused + u"\nDie PNG-Datei enthält kein Bild."_s);
         const QString notUtf8 =
             letter + u"\nDer Text ist kein gültiges UTF-8; seine Seite bleibt leer."_s;
+        QCOMPARE(tipUnderTheMouse(list, 1), notUtf8);
+
+        QVERIFY(QFile::remove(refused)); // What the run says is made on a thread of its own.
+        QTest::mouseClick(&w.control<QAbstractButton>("m_btnCreate"), Qt::LeftButton);
+        const QString gone = refused + u"\nDie Datei kann nicht geöffnet werden: "_s;
+        const auto isSaid = [&] { return tipUnderTheMouse(list, 0).startsWith(gone); };
+        constexpr int kPatience = 60'000; // Milliseconds, on a busy machine.
+        QVERIFY2(QTest::qWaitFor(isSaid, kPatience), qPrintable(tipUnderTheMouse(list, 0)));
         QCOMPARE(tipUnderTheMouse(list, 1), notUtf8);
     }
 
