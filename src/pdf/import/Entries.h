@@ -65,7 +65,7 @@ inline void putItems(QPDFObjectHandle dictionary, const std::string &key,
 inline void removeItems(QPDFObjectHandle holder, const std::string &key,
                         const std::set<QPDFObjGen> &objects) {
     auto members = items(entry(holder, key));
-    if (std::erase_if(members, [&](QPDFObjectHandle member) {
+    if (std::erase_if(members, [&](const QPDFObjectHandle &member) {
             return objects.contains(member.getObjGen());
         }) > 0) {
         holder.replaceKey(key, QPDFObjectHandle::newArray(members));
