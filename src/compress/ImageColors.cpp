@@ -46,10 +46,9 @@ bool decodesFrom(QPDFObjectHandle decode, int components, double first) {
 PlanarImage planesOf(const std::string &pixels, int components) {
     PlanarImage image(static_cast<int>(pixels.size()) / components, 1);
     image.addPlanes(components);
-    for (std::size_t i = 0; i < static_cast<std::size_t>(image.width * components); ++i) {
-        const auto component = i % static_cast<std::size_t>(components);
-        image.planes[component].row(0)[i / static_cast<std::size_t>(components)] =
-            static_cast<std::uint8_t>(pixels[i]);
+    const auto planes = static_cast<std::size_t>(components);
+    for (std::size_t i = 0; i < static_cast<std::size_t>(image.width) * planes; ++i) {
+        image.planes[i % planes].row(0)[i / planes] = static_cast<std::uint8_t>(pixels[i]);
     }
     return image;
 }

@@ -145,7 +145,8 @@ double scaleFor(const ImageJob &job, const ImageUse &use, const QuartzFilter &fi
 }
 
 /// Sets what makes a picture in colour grey, where `filter` asks for that.
-QString describeGrey(QPDFObjectHandle dictionary, const QuartzFilter &filter, ImageJob &job) {
+QString describeGrey(const QPDFObjectHandle &dictionary, const QuartzFilter &filter,
+                     ImageJob &job) {
     if (filter.grey.empty() || job.components == 1) {
         return {};
     }
@@ -197,7 +198,7 @@ bool isBilevel(QPDFObjectHandle dictionary) {
 }
 
 /// The job that stores a bilevel image better, bit by bit the same.
-std::variant<ImageJob, QString> decideBilevel(QPDFObjectHandle dictionary,
+std::variant<ImageJob, QString> decideBilevel(const QPDFObjectHandle &dictionary,
                                               const QuartzFilter &filter) {
     ImageJob job;
     job.purpose = ImagePurpose::Bilevel;

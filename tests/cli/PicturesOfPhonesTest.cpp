@@ -23,7 +23,7 @@ class PicturesOfPhonesTest : public QObject, CommandLineCase {
                 picture.setPixel(x, y, qRgba(x * 4, y * 5, (x * y * 3 + 40) % 256, opacity));
             }
         }
-        const QString file = path("source.png");
+        QString file = path("source.png");
         picture.save(file);
         return file;
     }

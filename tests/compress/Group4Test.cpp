@@ -25,7 +25,8 @@ QByteArray rings() {
         for (int x = 0; x < kWidth; ++x) {
             const int place = (x * x + y * y + random.bounded(3000)) / 20'000;
             if (place % 4 == 0) {
-                rows[y * kRowBytes + x / 8] &= static_cast<char>(~(0x80 >> (x % 8)));
+                char &byte = rows[y * kRowBytes + x / 8];
+                byte = static_cast<char>(byte & ~(0x80 >> (x % 8)));
             }
         }
     }

@@ -6,6 +6,7 @@
 
 #include "app/FolioforgeAppDelegate.h"
 
+#include <QAccessible>
 #include <QRadioButton>
 #include <QTest>
 

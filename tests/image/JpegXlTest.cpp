@@ -185,7 +185,7 @@ class JpegXlTest : public QObject {
 
     QString fromJpeg(const QByteArray &jpeg) {
         const QString source = writeFile(m_folder.filePath(u"%1.jpg"_s.arg(++m_files)), jpeg);
-        const QString jxl = m_folder.filePath(u"%1.jxl"_s.arg(m_files));
+        QString jxl = m_folder.filePath(u"%1.jxl"_s.arg(m_files));
         runTool(u"cjxl"_s, {source, jxl});
         return jxl;
     }

@@ -50,6 +50,7 @@ class PageChoiceTest : public QObject, MergeCase {
 
     static std::vector<std::string> titles(const std::vector<QPDFOutlineObjectHelper> &items) {
         std::vector<std::string> found;
+        found.reserve(items.size());
         for (QPDFOutlineObjectHelper item : items) {
             found.push_back(item.getTitle());
         }

@@ -24,6 +24,7 @@
 #include <algorithm>
 #include <cstring>
 #include <stdexcept>
+#include <utility>
 
 namespace folioforge {
 
@@ -32,9 +33,9 @@ namespace {
 /// A view as OpenEXR reads files. What it throws passes through OpenEXR, which is C++.
 class ExrStream : public Imf::IStream {
   public:
-    explicit ExrStream(const FileView &file)
+    explicit ExrStream(FileView file)
         : Imf::IStream("image")
-        , m_file(file) {}
+        , m_file(std::move(file)) {}
 
     bool read(char target[], int size) override {
         const qint64 got = m_file.readInto(
