@@ -119,8 +119,8 @@ qint64 drawPicture(const GifFile &gif, int transparent, ArgbImage &screen, bool 
 /// The screen that the pictures of a file are drawn on, one after another.
 class GifPictureReader : public PictureReader {
   public:
-    explicit GifPictureReader(const FileView &file)
-        : m_file(file)
+    explicit GifPictureReader(FileView file)
+        : m_file(std::move(file))
         , m_gif(m_file) {}
 
     std::optional<PdfImage> next() override {
