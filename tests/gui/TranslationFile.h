@@ -6,9 +6,36 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QTest>
 #include <QXmlStreamReader>
 
 namespace folioforge::test {
+
+/// The languages that the window speaks beside English, as the names of their files say them.
+inline const QStringList &languages() {
+    static const QStringList all{QStringLiteral("ar"), QStringLiteral("de"),
+                                 QStringLiteral("es"), QStringLiteral("fr"),
+                                 QStringLiteral("ja"), QStringLiteral("zh_CN")};
+    return all;
+}
+
+/// One row for each language, and one for English where asked.
+inline void addLanguages(bool withEnglish = false) {
+    QTest::addColumn<QString>("language");
+    if (withEnglish) {
+        QTest::newRow("en") << QStringLiteral("en");
+    }
+    for (const QString &language : languages()) {
+        QTest::newRow(qPrintable(language)) << language;
+    }
+}
+
+/// The letter behind the sign for one; empty where `text` has none.
+inline QString mnemonicOf(QString text) {
+    text.remove(QStringLiteral("&&"));
+    const qsizetype sign = text.indexOf(u'&');
+    return sign < 0 ? QString() : text.mid(sign + 1, 1).toLower();
+}
 
 /// A text of a .ts file.
 struct Message {

@@ -13,12 +13,9 @@
 #include "skin/SkinButton.h"
 
 #include <QComboBox>
-#include <QDirIterator>
 #include <QFontDatabase>
 #include <QHeaderView>
 #include <QHelpEvent>
-#include <QProcess>
-#include <QRegularExpression>
 #include <QSet>
 #include <QTableView>
 #include <QTextDocumentFragment>
@@ -29,37 +26,6 @@ using namespace folioforge;
 using namespace folioforge::test;
 
 namespace {
-
-const QStringList &languages() {
-    static const QStringList all{u"ar"_s, u"de"_s, u"es"_s, u"fr"_s, u"ja"_s, u"zh_CN"_s};
-    return all;
-}
-
-QString nameOf(const QString &language) {
-    return u"folioforge_%1.ts"_s.arg(language);
-}
-
-QString committed(const QString &language) {
-    return inSource(u"translations/"_s + nameOf(language));
-}
-
-/// One row for each language, and one for English where asked.
-void addLanguages(bool withEnglish = false) {
-    QTest::addColumn<QString>("language");
-    if (withEnglish) {
-        QTest::newRow("en") << u"en"_s;
-    }
-    for (const QString &language : languages()) {
-        QTest::newRow(qPrintable(language)) << language;
-    }
-}
-
-/// The letter behind the sign for one; empty where `text` has none.
-QString mnemonicOf(QString text) {
-    text.remove(u"&&"_s);
-    const qsizetype sign = text.indexOf(u'&');
-    return sign < 0 ? QString() : text.mid(sign + 1, 1).toLower();
-}
 
 /// The mnemonics that more than one of `texts` has.
 QStringList sharedMnemonics(const QStringList &texts) {
@@ -92,22 +58,6 @@ QString tipUnderTheMouse(const QTableView &list, int row) {
     return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
 }
 
-/// The errors and warnings of a room that are made of a text without a translation.
-QStringList untranslatedReasonsOf(const QString &room) {
-    static const QRegularExpression bare(
-        u"([eE]rror\\(|WarningCode::\\w+,)\\s*(u|QStringLiteral\\(\\s*)\"[^\"]*\""_s);
-    QStringList found;
-    QDirIterator file(inSource(u"src/"_s + room), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
-                      QDirIterator::Subdirectories);
-    while (file.hasNext()) {
-        const QString text = QString::fromUtf8(readFile(file.next()));
-        for (const QRegularExpressionMatch &match : bare.globalMatch(text)) {
-            found += match.captured();
-        }
-    }
-    return found;
-}
-
 /// What a run says that has made so many PDFs and failed with one.
 QString answerTo(int pdfs) {
     RunAnswer answer;
@@ -128,76 +78,7 @@ class TranslationsTest : public QObject {
     static void initMain() { useScreenOf({1920, 1200}); }
 
   private Q_SLOTS:
-    /// Has the texts of the sources extracted beside copies of the translations.
-    void initTestCase() {
-        QStringList arguments{u"-silent"_s, u"-no-obsolete"_s,  u"-locations"_s,
-                              u"none"_s,    inSource(u"src"_s), u"-ts"_s};
-        for (const QString &language : languages()) {
-            QVERIFY(QFile::copy(committed(language), m_extracted.filePath(nameOf(language))));
-            arguments += m_extracted.filePath(nameOf(language));
-        }
-        QCOMPARE(QProcess::execute(QStringLiteral(FOLIOFORGE_LUPDATE), arguments), 0);
-    }
     void cleanup() { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); }
-
-    void everyTextOfTheSourcesIsTranslated_data() { addLanguages(); }
-    void everyTextOfTheSourcesIsTranslated() {
-        QFETCH(const QString, language);
-        const QList<Message> messages = readTranslations(m_extracted.filePath(nameOf(language)));
-        QVERIFY(messages.size() > 200);
-        QStringList missing;
-        for (const Message &message : messages) {
-            if (!message.isFinished || message.translations.contains(QString())) {
-                missing += message.source;
-            }
-        }
-        QCOMPARE(missing, QStringList());
-        QCOMPARE(readTranslations(committed(language)).size(), messages.size());
-    }
-
-    void everyReasonOfTheEngineIsMarkedForTranslation_data() {
-        QTest::addColumn<QString>("room");
-        for (const char *room : {"error", "files", "text", "image", "pdf", "filelist", "convert"}) {
-            QTest::newRow(room) << QString::fromLatin1(room);
-        }
-    }
-    void everyReasonOfTheEngineIsMarkedForTranslation() {
-        QFETCH(const QString, room);
-        QCOMPARE(untranslatedReasonsOf(room), QStringList());
-    }
-
-    void placeholdersAndMnemonicsStay_data() { addLanguages(); }
-    void placeholdersAndMnemonicsStay() {
-        QFETCH(const QString, language);
-        QStringList wrong;
-        for (const Message &message : readTranslations(committed(language))) {
-            for (const QString &text : message.translations) {
-                const bool hasAll = text.contains(u"%1"_s) == message.source.contains(u"%1"_s) &&
-                                    text.contains(u"%2"_s) == message.source.contains(u"%2"_s);
-                if (!hasAll || mnemonicOf(text).isEmpty() != mnemonicOf(message.source).isEmpty()) {
-                    wrong += text;
-                }
-            }
-            // Arabic says none, one and two in words.
-            const QString &most = message.translations.last();
-            if (most.contains(u"%n"_s) != message.source.contains(u"%n"_s)) {
-                wrong += most;
-            }
-        }
-        QCOMPARE(wrong, QStringList());
-    }
-
-    /// A line under a letter would part it from those that it is joined with.
-    void mnemonicsStandBesideJoinedLetters() {
-        QStringList parted;
-        for (const Message &message : readTranslations(committed(u"ar"_s))) {
-            const QString &text = message.translations.first();
-            if (!mnemonicOf(text).isEmpty() && !text.contains(u"(&"_s)) {
-                parted += text;
-            }
-        }
-        QCOMPARE(parted, QStringList());
-    }
 
     void aWindowSpeaksTheLanguageOfItsUser_data() {
         QTest::addColumn<QString>("language");
@@ -383,20 +264,6 @@ class TranslationsTest : public QObject {
         }
         QTEST(QCoreApplication::translate("EntryCells", "%n pages", nullptr, 0), "noPages");
     }
-
-    void everyTextHasTheFormsOfItsLanguage_data() { addLanguages(); }
-    void everyTextHasTheFormsOfItsLanguage() {
-        QFETCH(const QString, language);
-        static const QMap<QString, qsizetype> forms{{u"ar"_s, 6}, {u"de"_s, 2}, {u"es"_s, 2},
-                                                    {u"fr"_s, 2}, {u"ja"_s, 1}, {u"zh_CN"_s, 1}};
-        for (const Message &message : readTranslations(committed(language))) {
-            const bool isPlural = message.source.contains(u"%n"_s);
-            QCOMPARE(message.translations.size(), isPlural ? forms[language] : 1);
-        }
-    }
-
-  private:
-    QTemporaryDir m_extracted;
 };
 
 FOLIOFORGE_TEST(TranslationsTest)
