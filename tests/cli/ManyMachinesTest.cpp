@@ -3,7 +3,7 @@
 #include "CommandLineCase.h"
 #include "support/TestUnit.h"
 
-#include <QRegularExpression>
+#include <QStringList>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -11,18 +11,20 @@ using namespace folioforge::test;
 
 namespace {
 
-/// The script of docs/many-machines.md whose second line begins with "# NAME ".
-QString scriptOf(const QString &name) {
+/// The one block of commands of docs/many-machines.md that holds `words`.
+QString commandsWith(const QString &words) {
     const QString text = QString::fromUtf8(readFile(inSource(u"docs/many-machines.md"_s)));
-    const QRegularExpression block(u"^```sh\n(#!/bin/sh\n# %1 .*?)^```"_s.arg(name),
-                                   QRegularExpression::MultilineOption |
-                                       QRegularExpression::DotMatchesEverythingOption);
-    return block.match(text).captured(1);
+    QStringList found;
+    for (const QString &block : text.split(u"\n```sh\n"_s).sliced(1)) {
+        found += block.left(block.indexOf(u"```"));
+    }
+    found = found.filter(words);
+    return found.size() == 1 ? found.first() : QString();
 }
 
 } // namespace
 
-/// The scripts for many machines, tried again after machines died; bench/many-machines lets them.
+/// The scripts for many machines, run on one and tried again; bench/many-machines lets machines die.
 class ManyMachinesTest : public QObject, CommandLineCase {
     Q_OBJECT
 
@@ -47,13 +49,13 @@ class ManyMachinesTest : public QObject, CommandLineCase {
             text(name, name);
         }
         for (const char *script : {"convert-shard", "merge-shard"}) {
-            const QString lines = scriptOf(QLatin1StringView(script));
+            const QString lines = commandsWith(u"# %1 LIST"_s.arg(QLatin1StringView(script)));
             QVERIFY(!lines.isEmpty());
             text(script, lines.toUtf8());
         }
     }
 
-    void aTriedShardIsMadeWhole() {
+    void aKilledShardIsContinued() {
         QCOMPARE(run("convert-shard"), "");
         QCOMPARE(in("pdfs/0000"), QStringList({u"a.pdf"_s, u"b.pdf"_s, u"c.pdf"_s}));
         QCOMPARE(PdfProbe(path("pdfs/0000/b.pdf")).text().simplified(), u"b.txt"_s);
@@ -75,6 +77,30 @@ class ManyMachinesTest : public QObject, CommandLineCase {
         QCOMPARE(run("convert-shard"), ""); // Nothing is left.
         QCOMPARE(in("pdfs/0000").size(), 4);
         QCOMPARE(in("reports/0000", u"*.json"_s).size(), 2);
+    }
+
+    void aNameThatIsNotUtf8IsConverted() {
+        text("shards/0000", "a.txt\ncaf\xe9.txt\n");
+        const ToolRun copied = shell("cp b.txt $(printf 'caf\\351.txt')");
+        QCOMPARE(copied.exitCode, 0);
+        QCOMPARE(run("convert-shard"), "");
+        QCOMPARE(shell("ls pdfs/0000 | wc -l").out.trimmed(), "2");
+        QCOMPARE(shell("rm pdfs/0000/* $(printf 'caf\\351.txt')").exitCode, 0);
+    }
+
+    void aPartThatLacksAnInputIsNotRecorded() {
+        text("b.txt", "");
+        QVERIFY(QFile::remove(path("b.txt")));
+        QCOMPARE(run("merge-shard"), "exit status 1");
+        QCOMPARE(in("parts"), QStringList({u"0000.lock"_s, u"0000.new"_s, u"0000.pdf"_s}));
+        const ToolRun said = shell(commandsWith(u"is not whole"_s).toUtf8());
+        QVERIFY2(said.out.startsWith("shards/0000 is not whole\nb.txt: "), said.out.constData());
+
+        text("b.txt", "b.txt");
+        QCOMPARE(run("merge-shard"), "");
+        QCOMPARE(in("parts"), QStringList({u"0000.json"_s, u"0000.lock"_s, u"0000.pdf"_s}));
+        QCOMPARE(linesOf(PdfProbe(path("parts/0000.pdf"))).size(), 3);
+        QCOMPARE(shell(commandsWith(u"is not whole"_s).toUtf8()).out, "");
     }
 
     void aMergedShardIsMergedOnce() {
