@@ -24,7 +24,8 @@ QString commandsWith(const QString &words) {
 
 } // namespace
 
-/// The scripts for many machines, run on one and tried again; bench/many-machines lets machines die.
+/// The scripts for many machines, run on one and tried again; bench/many-machines lets machines
+/// die.
 class ManyMachinesTest : public QObject, CommandLineCase {
     Q_OBJECT
 

@@ -14,6 +14,8 @@
 #include <QUrl>
 #include <QXmlStreamReader>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 using namespace folioforge::test;
 
@@ -83,6 +85,7 @@ class ActionsTest : public QObject {
 
     QTemporaryDir m_prefix;
     std::unique_ptr<QTemporaryDir> m_folder;
+    QString m_desktop;
 
     QString installed(const char *path) const { return m_prefix.filePath(QLatin1StringView(path)); }
 
@@ -90,11 +93,29 @@ class ActionsTest : public QObject {
 
     /// Runs `command` where the installed programs, and those of the test, are found first.
     ToolRun run(const QStringList &command) const {
-        return runTool(u"env"_s, QStringList{u"PATH=%1/bin:%2/bin:/usr/bin:/bin"_s.arg(
-                                                 m_prefix.path(), m_folder->path()),
-                                             u"HOME="_s + m_folder->path(), u"XDG_CONFIG_HOME="_s,
-                                             u"XDG_CURRENT_DESKTOP=GNOME"_s} +
-                                     command);
+        return runTool(u"env"_s,
+                       QStringList{u"PATH=%1/bin:%2/bin:/usr/bin:/bin"_s.arg(m_prefix.path(),
+                                                                             m_folder->path()),
+                                   u"HOME="_s + m_folder->path(), u"XDG_CONFIG_HOME="_s,
+                                   u"XDG_CURRENT_DESKTOP="_s + m_desktop, u"DISPLAY=:none"_s,
+                                   u"WAYLAND_DISPLAY="_s, u"DBUS_SESSION_BUS_ADDRESS="_s} +
+                           command);
+    }
+
+    /// Puts a program in place that keeps what it is asked to show, ends with `exitCode` and
+    /// reaches no desktop.
+    void standIn(const QString &program, int exitCode = 0) const {
+        const QString script =
+            writeFile(inFolder(u"bin/"_s + program),
+                      "#!/bin/sh\nprintf '%s\\n' \"$@\" >>\"$HOME/${0##*/}.shown\"\nexit " +
+                          QByteArray::number(exitCode) + '\n');
+        QFile::setPermissions(script, QFile::ReadOwner | QFile::ExeOwner);
+    }
+
+    /// What the stand-in for `program` was asked to show.
+    QString shownBy(const QString &program) const {
+        QFile shown(inFolder(program + u".shown"_s));
+        return shown.open(QFile::ReadOnly) ? QString::fromUtf8(shown.readAll()) : QString();
     }
 
     /// The entry `what` of Dolphin, chosen for `files`.
@@ -166,16 +187,12 @@ class ActionsTest : public QObject {
         return QDir(inFolder(u"a b"_s)).entryList({u"*.pdf"_s}, QDir::Files, QDir::Name);
     }
 
-    /// What the stand-in for `program` was asked to show, after it has been put in place.
-    QString shownBy(const QString &program, const QStringList &files, int exitCode) const {
-        QDir(m_folder->path()).mkpath(u"bin"_s);
-        const QString script = writeFile(inFolder(u"bin/"_s + program),
-                                         "#!/bin/sh\nprintf '%s\\n' \"$@\" >\"$HOME/shown\"\n");
-        QFile::setPermissions(script, QFile::ReadOwner | QFile::ExeOwner);
-        const ToolRun made = run(QStringList{u"folioforge-action"_s, u"each"_s} + files);
-        return made.exitCode == exitCode ? QString::fromUtf8(readFile(inFolder(u"shown"_s)))
-                                         : QString();
+    /// Makes a PDF of each, and gives the exit status.
+    int makeEach(const QStringList &files) const {
+        return run(QStringList{u"folioforge-action"_s, u"each"_s} + files).exitCode;
     }
+
+    QString badPicture(const QString &name) const { return writeFile(inFolder(name), "no"); }
 
   private Q_SLOTS:
     void initTestCase() {
@@ -183,7 +200,14 @@ class ActionsTest : public QObject {
             runTool(u"cmake"_s, {u"--install"_s, inBuild({}), u"--prefix"_s, m_prefix.path()});
         QVERIFY2(made.exitCode == 0, made.err.constData());
     }
-    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+    void init() {
+        m_desktop = u"GNOME"_s;
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir(m_folder->path()).mkpath(u"bin"_s));
+        for (const QString &program : {u"notify-send"_s, u"zenity"_s, u"kdialog"_s}) {
+            standIn(program);
+        }
+    }
 
     void eachFileBecomesAPdfBesideIt_data() { managers(); }
     void eachFileBecomesAPdfBesideIt() {
@@ -216,18 +240,74 @@ class ActionsTest : public QObject {
 
     void aFailureIsShownAndTheRestIsMade() {
         QStringList files = inputs();
-        files += writeFile(inFolder(u"a b/bad.jpg"_s), "no");
-        const QString shown = shownBy(u"zenity"_s, files, 1);
+        files += badPicture(u"a b/bad.jpg"_s);
+        QCOMPARE(makeEach(files), 1);
+        const QString shown = shownBy(u"zenity"_s);
         QVERIFY2(shown.startsWith(u"--title=Folioforge\n"_s) &&
                      shown.contains(u"/bad.jpg: The JPEG file "_s),
                  qPrintable(shown));
         QCOMPARE(pdfs().size(), 3);
     }
 
+    void aBoxClosedByItsCrossIsNotShownAgain() {
+        standIn(u"zenity"_s, 1);
+        QCOMPARE(makeEach({badPicture(u"bad.jpg"_s)}), 1);
+        QVERIFY(!shownBy(u"zenity"_s).isEmpty());
+        QCOMPARE(shownBy(u"notify-send"_s), QString());
+        QCOMPARE(shownBy(u"kdialog"_s), QString());
+    }
+
+    void kdeShowsAFailureInItsOwnBox() {
+        m_desktop = u"KDE"_s;
+        QCOMPARE(makeEach({badPicture(u"bad.jpg"_s)}), 1);
+        QVERIFY(shownBy(u"kdialog"_s).contains(u"--error\n"_s));
+        QCOMPARE(shownBy(u"zenity"_s), QString());
+    }
+
+    void manyFailuresAreCounted() {
+        QStringList files;
+        for (int i = 10; i < 33; ++i) {
+            files += badPicture(u"bad%1.jpg"_s.arg(i));
+        }
+        QCOMPARE(makeEach(files), 1);
+        const QString shown = shownBy(u"zenity"_s);
+        QVERIFY2(shown.contains(u"/bad29.jpg: "_s) && !shown.contains(u"/bad30.jpg"_s) &&
+                     shown.endsWith(u"\nand 3 more\n"_s),
+                 qPrintable(shown));
+    }
+
     void aWarningIsShown() {
         const QString latin1 = writeFile(inFolder(u"menu.txt"_s), "caf\xe9");
-        const QString shown = shownBy(u"notify-send"_s, {latin1}, 0);
+        QCOMPARE(makeEach({latin1}), 0);
+        const QString shown = shownBy(u"notify-send"_s);
         QVERIFY2(shown.contains(u"menu.txt: warning: "_s), qPrintable(shown));
+    }
+
+    void notificationsShowNamesThatLookLikeMarkup() {
+        const QString latin1 = writeFile(inFolder(u"<b>&.txt"_s), "caf\xe9");
+        QCOMPARE(makeEach({latin1}), 0);
+        QVERIFY(shownBy(u"notify-send"_s).contains(u"/&lt;b&gt;&amp;.txt: warning: "_s));
+    }
+
+    void thunarsListStaysTheLinkThatItIs() {
+        QDir(m_folder->path()).mkpath(u".config/Thunar"_s);
+        const QString kept = writeFile(inFolder(u"kept.xml"_s), "<actions>\n</actions>\n");
+        QFile::setPermissions(kept, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
+        const QFile::Permissions rights = QFile::permissions(kept);
+        const QString link = inFolder(u".config/Thunar/uca.xml"_s);
+        QVERIFY(QFile::link(kept, link));
+        QCOMPARE(run({u"folioforge-action"_s, u"--add-to-thunar"_s}).exitCode, 0);
+        QCOMPARE(QFileInfo(link).symLinkTarget(), kept);
+        QCOMPARE(textsOf(kept, u"unique-id"_s).size(), 2);
+        QCOMPARE(QFile::permissions(kept), rights);
+    }
+
+    void thunarsListIsLeftAloneWhereItIsNone() {
+        QDir(m_folder->path()).mkpath(u".config/Thunar"_s);
+        const QString file = writeFile(inFolder(u".config/Thunar/uca.xml"_s), "<actions/>\n");
+        QCOMPARE(run({u"folioforge-action"_s, u"--add-to-thunar"_s}).exitCode, 1);
+        QCOMPARE(readFile(file), "<actions/>\n");
+        QCOMPARE(QDir(inFolder(u".config/Thunar"_s)).entryList(QDir::Files).size(), 1);
     }
 
     void thunarKeepsItsOtherEntries() {
