@@ -126,7 +126,7 @@ text() {
 
 # 10 MB of words in twelve scripts.
 scripts() {
-    python3 "$bench/scripts.py" "$folder" 10000000
+    python3 "$bench/mixedscripts.py" "$folder" 10000000
 }
 
 small_texts() {

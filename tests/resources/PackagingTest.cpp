@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -24,6 +25,17 @@ QString foundIn(const QString &file, const QString &pattern) {
 
 QString projectVersion() {
     return foundIn(u"CMakeLists.txt"_s, u"^    VERSION (\\S+)$"_s);
+}
+
+/// The words at `column` of the list of libraries in scripts/release.
+QStringList billOfMaterials(int column) {
+    QStringList words;
+    for (const QString &line :
+         foundIn(u"scripts/release"_s, u"<<'LIBRARIES'\n((?:.*\n)+?)LIBRARIES$"_s)
+             .split(u'\n', Qt::SkipEmptyParts)) {
+        words += line.section(u' ', column, column);
+    }
+    return words;
 }
 
 } // namespace
@@ -78,13 +90,8 @@ class PackagingTest : public QObject {
     }
 
     void theBillOfMaterialsNamesWhatTheProgramStandsOn() {
-        QStringList named;
-        for (const QString &line :
-             foundIn(u"scripts/release"_s, u"<<'LIBRARIES'\n((?:.*\n)+?)LIBRARIES$"_s)
-                 .split(u'\n')) {
-            named += line.section(u' ', 0, 0);
-        }
-        named.removeAll(QString());
+        QStringList named = billOfMaterials(0);
+        QCOMPARE(named.removeAll(u"PDFium"_s), 1); // The command line draws no pages.
         const QString told = QString::fromUtf8(runTool(commandLineProgram(), {u"--version"_s}).out)
                                  .section(u"with "_s, 1);
         QStringList standsOn;
@@ -95,6 +102,23 @@ class PackagingTest : public QObject {
         standsOn.sort();
         QVERIFY(named.size() > 10);
         QCOMPARE(named, standsOn);
+    }
+
+    void theBillOfMaterialsHasTheLeastVersionsOfTheBuild() {
+        const QString build = QString::fromUtf8(readFile(inSource(u"cmake/Dependencies.cmake"_s)));
+        static const QRegularExpression kVersion(u"(?:>=|\\((?:Qt6|GIF) )([0-9.]+)"_s);
+        QStringList asked;
+        for (auto match = kVersion.globalMatch(build); match.hasNext();) {
+            asked += match.next().captured(1);
+        }
+        QStringList told = billOfMaterials(1);
+        told.removeAll(u"0"_s);
+        asked.removeDuplicates();
+        told.removeDuplicates();
+        asked.sort();
+        told.sort();
+        QVERIFY(told.size() > 5);
+        QCOMPARE(told, asked);
     }
 
     void debianNeedsNothingThatInstallDepsLacks() {

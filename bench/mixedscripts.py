@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """Writes text in twelve scripts, about BYTES of it, as FOLDER/mixed.txt and as a page of HTML.
 
-    bench/scripts.py FOLDER BYTES
+    bench/mixedscripts.py FOLDER BYTES
 
 The words are drawn letter by letter, so that no program that remembers words has an advantage, and
 vary in script within their lines.
