@@ -49,12 +49,16 @@ function(folioforge_test_sources target)
 endfunction()
 
 # folioforge_tests(ROOM UNITS ... [SOURCES ...] LINKS ... [HEADERS ...] [APPLICATION CLASS]
-# [LONG ...]): the test program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder and of
-# SOURCES. CTest runs it once for each unit, named ROOM.Unit. HEADERS are compiled ahead, instead of those
-# of folioforge_test_support. CLASS is that of the application object, else QCoreApplication. The units that
-# take longest are named LONG: CTest begins with them.
+# [LONG ...] [PLAIN ...]): the test program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder
+# and of SOURCES. CTest runs it once for each unit, named ROOM.Unit. HEADERS are compiled ahead, instead of
+# those of folioforge_test_support. CLASS is that of the application object, else QCoreApplication. The units
+# that take longest are named LONG: CTest begins with them.
+#
+# Units of the engine's rooms have the label "engine": a plain build shows no more of them than a sanitized one.
+# Those that do less in a sanitized one are named PLAIN and have no label.
 function(folioforge_tests room)
-    cmake_parse_arguments(TESTS "" "APPLICATION" "UNITS;LONG;SOURCES;LINKS;HEADERS" ${ARGN})
+    cmake_parse_arguments(TESTS "" "APPLICATION" "UNITS;LONG;PLAIN;SOURCES;LINKS;HEADERS" ${ARGN})
+    set(engine files strings text image pdf compress filelist convert)
     if(NOT TESTS_APPLICATION)
         set(TESTS_APPLICATION QCoreApplication)
     endif()
@@ -81,6 +85,9 @@ function(folioforge_tests room)
         set_tests_properties(${room}.${unit} PROPERTIES
             TIMEOUT 300
             ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=")
+        if(room IN_LIST engine AND NOT unit IN_LIST TESTS_PLAIN)
+            set_tests_properties(${room}.${unit} PROPERTIES LABELS engine)
+        endif()
     endforeach()
     foreach(unit IN LISTS TESTS_LONG)
         set_tests_properties(${room}.${unit} PROPERTIES COST 10)
