@@ -15,6 +15,7 @@
 #include <QXmlStreamReader>
 
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge::test;
@@ -22,7 +23,7 @@ using namespace folioforge::test;
 namespace {
 
 /// Stands in for what nautilus-python gives to extensions, and chooses the entry argv[2] of the
-/// extension argv[1] for the files behind; "none" prints how many entries there are.
+/// extension argv[1] for the files behind; "none" prints the labels of all entries.
 constexpr const char *kNautilus = R"(
 import importlib.util, mimetypes, os, pathlib, sys, types
 
@@ -37,6 +38,8 @@ class FileInfo:
     def get_mime_type(self): return mimetypes.guess_type(self.path)[0]
 
 repository = types.ModuleType("gi.repository")
+repository.GLib = types.SimpleNamespace(
+    get_language_names=lambda: [os.environ["LANGUAGE"] + ".UTF-8", os.environ["LANGUAGE"], "C"])
 repository.GObject = types.SimpleNamespace(GObject=type("G", (), {}))
 repository.Nautilus = types.SimpleNamespace(MenuProvider=type("P", (), {}), MenuItem=MenuItem)
 sys.modules["gi"] = types.ModuleType("gi")
@@ -46,7 +49,7 @@ extension = importlib.util.module_from_spec(spec)
 spec.loader.exec_module(extension)
 items = extension.FolioforgeMenu().get_file_items([FileInfo(path) for path in sys.argv[3:]])
 if sys.argv[2] == "none":
-    print(len(items))
+    print("\n".join(item.said["label"] for item in items))
 else:
     chosen = [item for item in items if item.said["name"] == "Folioforge::" + sys.argv[2]]
     chosen[0].called(chosen[0])
@@ -86,6 +89,7 @@ class ActionsTest : public QObject {
     QTemporaryDir m_prefix;
     std::unique_ptr<QTemporaryDir> m_folder;
     QString m_desktop;
+    QString m_language;
 
     QString installed(const char *path) const { return m_prefix.filePath(QLatin1StringView(path)); }
 
@@ -98,7 +102,8 @@ class ActionsTest : public QObject {
                                                                              m_folder->path()),
                                    u"HOME="_s + m_folder->path(), u"XDG_CONFIG_HOME="_s,
                                    u"XDG_CURRENT_DESKTOP="_s + m_desktop, u"DISPLAY=:none"_s,
-                                   u"WAYLAND_DISPLAY="_s, u"DBUS_SESSION_BUS_ADDRESS="_s} +
+                                   u"WAYLAND_DISPLAY="_s, u"DBUS_SESSION_BUS_ADDRESS="_s,
+                                   u"LANGUAGE="_s + m_language} +
                            command);
     }
 
@@ -202,6 +207,7 @@ class ActionsTest : public QObject {
     }
     void init() {
         m_desktop = u"GNOME"_s;
+        m_language = u"en"_s;
         m_folder = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir(m_folder->path()).mkpath(u"bin"_s));
         for (const QString &program : {u"notify-send"_s, u"zenity"_s, u"kdialog"_s}) {
@@ -322,9 +328,41 @@ class ActionsTest : public QObject {
         }
     }
 
+    void theEntriesSpeakTheLanguagesOfTheWindow_data() {
+        QTest::addColumn<QString>("language");
+        for (QString name : QDir(inSource(u"translations"_s)).entryList({u"*.ts"_s})) {
+            name = name.section(u'.', 0, 0).section(u'_', 1);
+            QTest::newRow(qPrintable(name)) << name;
+        }
+    }
+    void theEntriesSpeakTheLanguagesOfTheWindow() {
+        QFETCH(const QString, language);
+        m_language = language;
+        const QStringList texts = QString::fromUtf8(nautilus(u"none"_s, {u"/a.txt"_s}).out)
+                                      .split(u'\n', Qt::SkipEmptyParts);
+        QCOMPARE(texts.size(), 2);
+        const QString key = u"Name[%1]"_s.arg(language);
+        const QString thunar =
+            QString::fromUtf8(readFile(installed("share/folioforge/thunar-actions.xml")));
+        for (const auto &[what, text] :
+             {std::pair(u"each"_s, texts[0]), std::pair(u"one"_s, texts[1])}) {
+            QVERIFY(!text.contains(u"these"));
+            QCOMPARE(valueOf(installed("share/kio/servicemenus/folioforge-dolphin.desktop"),
+                             u"Desktop Action folioforge-"_s + what, key),
+                     text);
+            QCOMPARE(
+                valueOf(
+                    installed("share/nemo/actions/folioforge-%.nemo_action").replace(u'%', what),
+                    u"Nemo Action"_s, key),
+                text);
+            QVERIFY(thunar.contains(u"<name xml:lang=\"%1\">%2</name>"_s.arg(language, text)));
+        }
+    }
+
     void nautilusOffersNothingForOtherFiles() {
-        QCOMPARE(nautilus(u"none"_s, {u"/a.txt"_s, u"/b.png"_s}).out.trimmed(), "2");
-        QCOMPARE(nautilus(u"none"_s, {u"/a.txt"_s, u"/b.zip"_s}).out.trimmed(), "0");
+        QCOMPARE(nautilus(u"none"_s, {u"/a.txt"_s, u"/b.png"_s}).out.trimmed(),
+                 "Make a PDF of these\nMake one PDF of these");
+        QCOMPARE(nautilus(u"none"_s, {u"/a.txt"_s, u"/b.zip"_s}).out.trimmed(), "");
     }
 };
 
