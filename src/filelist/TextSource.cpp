@@ -12,6 +12,7 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <limits>
 #include <new>
 
@@ -51,7 +52,8 @@ SourceText readWholeText(const QString &path, SystemCalls &calls, const QString 
 void requireReadableText(const QString &path) {
     requireTextSize(FileVersion::of(path));
     if (::access(QFile::encodeName(path).constData(), R_OK) != 0) {
-        throw systemError(Reasons::tr("Cannot open the file"));
+        const int reason = errno; // Translating may set it.
+        throw systemError(Reasons::tr("Cannot open the file"), reason);
     }
 }
 

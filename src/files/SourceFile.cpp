@@ -18,11 +18,13 @@ namespace folioforge {
 namespace {
 
 [[noreturn]] void failToOpen() {
-    throw systemError(Reasons::tr("Cannot open the file"));
+    const int reason = errno; // Translating may set it.
+    throw systemError(Reasons::tr("Cannot open the file"), reason);
 }
 
 [[noreturn]] void failToRead() {
-    throw systemError(Reasons::tr("Cannot read the file"));
+    const int reason = errno;
+    throw systemError(Reasons::tr("Cannot read the file"), reason);
 }
 
 FileVersion versionOf(const QString &path, const struct stat &status) {

@@ -40,7 +40,8 @@ void Spool::openFile() {
         }
     }
     if (!m_file.isOpen()) {
-        throw systemError(Reasons::tr("Cannot create a temporary file"));
+        const int reason = errno; // Translating may set it.
+        throw systemError(Reasons::tr("Cannot create a temporary file"), reason);
     }
 }
 
@@ -50,7 +51,8 @@ void Spool::moveToFile(QByteArrayView data) {
     }
     // Where this fails half way, the data is still in memory and its place is still there.
     if (!m_file.writeAt(m_fileSize, data)) {
-        throw systemError(Reasons::tr("Cannot write a temporary file"));
+        const int reason = errno;
+        throw systemError(Reasons::tr("Cannot write a temporary file"), reason);
     }
     m_fileSize += data.size();
 }
@@ -87,9 +89,9 @@ void Spool::readWindow(Place place) {
     m_windowStart = place.offset;
     const qint64 got = m_file.readAt(place.offset, m_window);
     if (got < size) {
-        errno = got < 0 ? errno : EIO;
+        const int reason = got < 0 ? errno : EIO;
         m_window.clear();
-        throw systemError(Reasons::tr("Cannot read a temporary file"));
+        throw systemError(Reasons::tr("Cannot read a temporary file"), reason);
     }
 }
 
