@@ -9,6 +9,7 @@
 #include <QSizeF>
 #include <QStringView>
 
+#include <algorithm>
 #include <span>
 
 namespace folioforge {

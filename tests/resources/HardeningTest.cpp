@@ -6,6 +6,8 @@
 
 #include <QTest>
 
+#include <initializer_list>
+
 using namespace Qt::StringLiterals;
 using namespace folioforge::test;
 

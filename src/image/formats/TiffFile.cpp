@@ -10,6 +10,7 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
+#include <new>
 
 using namespace Qt::StringLiterals;
 
