@@ -22,8 +22,8 @@ namespace folioforge {
 
 namespace {
 
-/// What the end of a document may take: a lack of memory there ends the program. The system maps so
-/// much by itself, so that it is free for all as soon as it is released.
+/// What the end of a document may take, kept free for its destructor: a lack of memory there ends
+/// the program.
 constexpr qsizetype kSpareBytes = 2 << 20;
 
 bool isCompression(QPDFObjectHandle filter) {

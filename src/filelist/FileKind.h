@@ -34,10 +34,10 @@ inline bool isListed(FileKind kind) {
 const QStringList &extensionsOf(FileKind kind);
 
 /// The extensions, lower-cased, of texts other than ".txt": markup, tables, logs and source code;
-/// the last of them are furtherTextNames().
+/// the last of them are furtherTextNames(), so that "api.readme" is one, too.
 const QStringList &furtherTexts();
 
-/// The names, lower-cased, of such files without an extension.
+/// The names, lower-cased, of such files that have no extension, as "README".
 const QStringList &furtherTextNames();
 
 } // namespace folioforge

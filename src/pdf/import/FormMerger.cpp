@@ -22,7 +22,8 @@ namespace folioforge {
 
 namespace {
 
-/// Whether readers know resources of that kind (ISO 32000-1, table 33), or one program's forms.
+/// Whether resources are of a kind that readers know: one of ISO 32000-1, table 33, or the
+/// "/Encoding" that forms have beside them by custom.
 bool isCategory(const std::string &name) {
     static constexpr std::array kCategories{"/Font",    "/XObject",   "/ColorSpace", "/Pattern",
                                             "/Shading", "/ExtGState", "/Properties", "/Encoding"};

@@ -23,8 +23,8 @@ bool isBlank(QChar unit) {
     return unit == u' ' || unit == u'\t' || unit == u'\u3000';
 }
 
-/// Whether letters of a script stand in a square that the first face has room for, whatever room
-/// their own face wants, or are signs that come one by one.
+/// Whether letters of a script take no more room than the first face has, whatever their own face
+/// asks for: they stand in a square, or are signs that come one by one.
 bool isLow(int script) {
     switch (static_cast<UScriptCode>(script)) {
     case USCRIPT_COMMON:
