@@ -142,7 +142,7 @@ QDateTime PDFContext::Impl::creationDate() {
 void PDFContext::Impl::finishDocument() {
     translateQpdfErrors([&] {
         m_pages.embedFonts();
-        creationDate();
+        fixCreationDate(m_settings.info);
         writeDocumentInfo(m_document, m_settings.info);
         m_catalog.finish(m_document, m_settings.info);
     });
