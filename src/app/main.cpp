@@ -16,6 +16,7 @@
 #include <QLocale>
 #include <QSettings>
 
+#include <algorithm>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -23,7 +24,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QByteArrayList wordsOf(int argc, char *argv[]) {
-    return QByteArrayList(argv + 1, argv + argc);
+    return QByteArrayList(argv + std::min(argc, 1), argv + argc); // Without a name there are none.
 }
 
 } // namespace
