@@ -8,6 +8,8 @@
 #include <array>
 #include <cstdlib>
 #include <map>
+#include <memory>
+#include <new>
 #include <optional>
 #include <utility>
 
@@ -53,8 +55,23 @@ bool sameFamily(QStringView left, QStringView right) {
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
-/// `writesLanguage` tells whether the font has all letters of some language.
-std::optional<Rank> rankOf(const QString &family, bool writesLanguage, const QStringList &wanted) {
+/// Whether the font has all letters of some language.
+bool writesLanguage(FcPattern *pattern) {
+    FcLangSet *languages = nullptr;
+    if (FcPatternGetLangSet(pattern, FC_LANG, 0, &languages) != FcResultMatch) {
+        return false;
+    }
+    const std::unique_ptr<FcStrSet, ReleaseStrings> names(FcLangSetGetLangs(languages));
+    const std::unique_ptr<FcStrList, ReleaseStrings> list(names ? FcStrListCreate(names.get())
+                                                                : nullptr);
+    if (!list) {
+        throw std::bad_alloc();
+    }
+    return FcStrListNext(list.get()) != nullptr;
+}
+
+/// `pattern` is a font of that family.
+std::optional<Rank> rankOf(const QString &family, FcPattern *pattern, const QStringList &wanted) {
     std::size_t rank = 0;
     for (const QString &name : wanted) {
         if (sameFamily(family, name)) {
@@ -69,7 +86,7 @@ std::optional<Rank> rankOf(const QString &family, bool writesLanguage, const QSt
         ++rank;
     }
     if (family.startsWith(kScriptFamilies)) {
-        return Rank{writesLanguage ? rank : rank + 1, family};
+        return Rank{writesLanguage(pattern) ? rank : rank + 1, family};
     }
     ++rank;
     for (const QStringView name : kLast) {
@@ -114,22 +131,11 @@ bool isUsable(FcPattern *pattern) {
            integer(pattern, FC_INDEX, 0) >> kIndexBits == 0;
 }
 
-bool writesLanguage(FcPattern *pattern) {
-    FcLangSet *languages = nullptr;
-    if (FcPatternGetLangSet(pattern, FC_LANG, 0, &languages) != FcResultMatch) {
-        return false;
-    }
-    const std::unique_ptr<FcStrSet, ReleaseStrings> names(FcLangSetGetLangs(languages));
-    const std::unique_ptr<FcStrList, ReleaseStrings> list(FcStrListCreate(names.get()));
-    return FcStrListNext(list.get()) != nullptr;
-}
-
 std::optional<Rank> rankOf(FcPattern *pattern, const QStringList &wanted) {
     std::optional<Rank> best;
-    const bool hasLanguage = writesLanguage(pattern);
     FcChar8 *name = nullptr;
     for (int i = 0; FcPatternGetString(pattern, FC_FAMILY, i, &name) == FcResultMatch; ++i) {
-        const auto rank = rankOf(QString::fromUtf8(QByteArrayView(name)), hasLanguage, wanted);
+        const auto rank = rankOf(QString::fromUtf8(QByteArrayView(name)), pattern, wanted);
         if (rank && (!best || *rank < *best)) {
             best = rank;
         }
