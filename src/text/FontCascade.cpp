@@ -74,7 +74,7 @@ const FontFace &FontCascade::face(std::size_t index) const {
 
 RowReach FontCascade::reach(std::size_t index) const {
     const FontFace &opened = face(index);
-    const FontExtents extents = opened.extents();
+    const FontExtents &extents = opened.extents();
     const double scale = m_size / opened.unitsPerEm();
     return {extents.ascent * scale, extents.descent * scale};
 }

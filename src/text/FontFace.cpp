@@ -35,12 +35,19 @@ QByteArray readPostScriptName(hb_face_t *face) {
     return fit.isEmpty() ? QByteArrayLiteral("Font") : fit;
 }
 
+FontExtents readExtents(hb_font_t *font) {
+    hb_font_extents_t extents{};
+    hb_font_get_h_extents(font, &extents);
+    return {extents.ascender, -extents.descender, extents.line_gap};
+}
+
 } // namespace
 
 FontFace::FontFace(HarfBuzz<hb_face_t> face, HarfBuzz<hb_font_t> font)
     : m_face(std::move(face))
     , m_font(std::move(font))
-    , m_postScriptName(readPostScriptName(m_face.get())) {}
+    , m_postScriptName(readPostScriptName(m_face.get()))
+    , m_extents(readExtents(m_font.get())) {}
 
 std::unique_ptr<const FontFace> FontFace::open(const QByteArray &path, unsigned index) {
     const HarfBuzz<hb_blob_t> file(hb_blob_create_from_file_or_fail(path.constData()));
@@ -63,12 +70,6 @@ std::unique_ptr<const FontFace> FontFace::open(const QByteArray &path, unsigned 
 
 unsigned FontFace::unitsPerEm() const {
     return hb_face_get_upem(m_face.get());
-}
-
-FontExtents FontFace::extents() const {
-    hb_font_extents_t extents{};
-    hb_font_get_h_extents(m_font.get(), &extents);
-    return {extents.ascender, -extents.descender, extents.line_gap};
 }
 
 FontBox FontFace::box() const {

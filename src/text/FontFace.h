@@ -41,7 +41,7 @@ class FontFace {
     /// PostScript name, fit for a PDF font name.
     [[nodiscard]] const QByteArray &postScriptName() const { return m_postScriptName; }
     [[nodiscard]] unsigned unitsPerEm() const;
-    [[nodiscard]] FontExtents extents() const;
+    [[nodiscard]] const FontExtents &extents() const { return m_extents; }
     [[nodiscard]] FontBox box() const;
     /// The glyph of `character`, or nothing when the face does not cover it.
     [[nodiscard]] std::optional<std::uint16_t> glyph(char32_t character) const;
@@ -54,6 +54,7 @@ class FontFace {
     HarfBuzz<hb_face_t> m_face;
     HarfBuzz<hb_font_t> m_font;
     QByteArray m_postScriptName;
+    FontExtents m_extents; ///< Each run of a readable text asks for them.
 };
 
 } // namespace folioforge
