@@ -73,7 +73,10 @@ QByteArray contentsOf(const QByteArray &name, QLatin1StringView option, qint64 m
     QFile file(QFile::decodeName(name));
     const bool isOpen =
         name == "-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
-    const QString fault = u"%1: \"%2\" cannot be read: %3"_s.arg(option, QString::fromUtf8(name));
+    const auto fault = [&](const QString &reason) {
+        return ArgumentFault(
+            u"%1: \"%2\" cannot be read: %3"_s.arg(option, QString::fromUtf8(name), reason));
+    };
     QByteArray contents;
     constexpr qint64 kPiece = 1 << 16;
     while (isOpen && contents.size() <= most) {
@@ -84,10 +87,10 @@ QByteArray contentsOf(const QByteArray &name, QLatin1StringView option, qint64 m
         contents += piece;
     }
     if (file.error() != QFileDevice::NoError) {
-        throw ArgumentFault(fault.arg(file.errorString()));
+        throw fault(file.errorString());
     }
     if (contents.size() > most) {
-        throw ArgumentFault(fault.arg(u"It has more than %1 bytes"_s.arg(most)));
+        throw fault(u"It has more than %1 bytes"_s.arg(most));
     }
     return contents;
 }

@@ -132,6 +132,14 @@ class InputListsTest : public QObject, CommandLineCase {
                  run.err.constData());
     }
 
+    void aFileThatIsNotThereIsNamedAsItIsCalled() {
+        const ToolRun run = convert({u"--files-from"_s, u"/none/a%1%2%3.txt"_s});
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.err,
+                 "folioforge-cli: --files-from: \"/none/a%1%2%3.txt\" cannot be read: No such "
+                 "file or directory\n");
+    }
+
     void standardInputServesOneList() {
         for (const QStringList &arguments :
              {QStringList{u"--files-from=-"_s, u"--files-from=-"_s},
