@@ -77,9 +77,12 @@ struct UsageError {
 /// Reads the arguments behind the program's name.
 std::variant<Arguments, UsageError> parseArguments(std::span<const QByteArray> arguments);
 
+/// Throws ArgumentFault when standard input is asked for twice. Both passwords are lines of one
+/// reading.
+void requireOneReading(const Arguments &arguments);
+
 /// Puts the names of `nameLists` into `inputs`. Throws ArgumentFault when a list cannot be read, or
-/// when standard input, which readPasswords() reads first and "-" as an input last, is asked for
-/// twice.
+/// names standard input as a further input of it.
 void readNameLists(Arguments &arguments);
 
 /// What is wrong with the settings, in the words of the options; nothing where they are right.

@@ -132,6 +132,7 @@ ExitStatus runConversion(Arguments arguments) {
     Console console;
     TemporaryFolder temporaryFolder;
     try {
+        requireOneReading(arguments);
         readPasswords(arguments, arguments.options.security);
         arguments.bookmarkTitles = readBookmarkTitles(arguments);
         arguments.options.inputPasswords = readInputPasswords(arguments);

@@ -69,8 +69,18 @@ QStringList readBookmarkTitles(const Arguments &arguments) {
     return titles;
 }
 
+void requireOneReading(const Arguments &arguments) {
+    const bool isPassword = arguments.userPasswordFile == "-" || arguments.ownerPasswordFile == "-";
+    const auto readings = std::ranges::count(arguments.nameLists, "-", &NameList::file) +
+                          std::ranges::count(arguments.inputs, "-") + (isPassword ? 1 : 0) +
+                          (arguments.inputPasswordFile == "-" ? 1 : 0) +
+                          (arguments.bookmarkTitleFile == "-" ? 1 : 0);
+    if (readings > 1) {
+        throw ArgumentFault(u"Standard input cannot be read twice"_s);
+    }
+}
+
 void readNameLists(Arguments &arguments) {
-    const auto ofLists = std::ranges::count(arguments.nameLists, "-", &NameList::file);
     // From the last, so that the places of those before it stay.
     for (auto list = arguments.nameLists.rbegin(); list != arguments.nameLists.rend(); ++list) {
         const auto names = namesIn(*list, arguments.listsEndInNull);
@@ -78,19 +88,11 @@ void readNameLists(Arguments &arguments) {
         arguments.inputs.insert(at, names.begin(), names.end());
         moveChoices(arguments.pageChoices, list->at, names.size());
     }
-    const auto inputsOnIt = std::ranges::count(arguments.inputs, "-");
-    if (!arguments.inputType.isEmpty() && inputsOnIt == 0) {
+    if (!arguments.inputType.isEmpty() && std::ranges::count(arguments.inputs, "-") == 0) {
         throw ArgumentFault(
             u"--input-type says what standard input is, and \"-\" is none of the inputs"_s);
     }
-    // Both passwords are lines of one reading.
-    const bool isPassword = arguments.userPasswordFile == "-" || arguments.ownerPasswordFile == "-";
-    const auto readings = ofLists + inputsOnIt + (isPassword ? 1 : 0) +
-                          (arguments.inputPasswordFile == "-" ? 1 : 0) +
-                          (arguments.bookmarkTitleFile == "-" ? 1 : 0);
-    if (readings > 1) {
-        throw ArgumentFault(u"Standard input cannot be read twice"_s);
-    }
+    requireOneReading(arguments);
 }
 
 } // namespace folioforge

@@ -152,6 +152,19 @@ class InputListsTest : public QObject, CommandLineCase {
         QCOMPARE(outputs(), QStringList());
     }
 
+    void whatCannotBeReadTwiceIsNotReadOnce() {
+        const ToolRun run = shell("printf 'left\\n' | (folioforge-cli --files-from - "
+                                  "--owner-password-file - --merge out.pdf; cat)");
+        QCOMPARE(run.out, "left\n");
+        QCOMPARE(run.err, "folioforge-cli: Standard input cannot be read twice\n");
+    }
+
+    void aListCannotNameWhatItIsReadFrom() {
+        const ToolRun run = convert({u"--files-from=-"_s}, "-\n");
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.err, "folioforge-cli: Standard input cannot be read twice\n");
+    }
+
     void linesMayEndAsOnWindows() {
         const QByteArray names = named("a.txt") + "\r\n" + named("b.txt") + "\r\n\r\n";
         QCOMPARE(convert({u"--files-from=-"_s}, names).exitCode, 0);
