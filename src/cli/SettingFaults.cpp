@@ -3,6 +3,7 @@
 #include "cli/Arguments.h"
 #include "cli/OptionValues.h"
 #include "convert/Checks.h"
+#include "convert/ImagePlacement.h"
 #include "convert/OutputName.h"
 #include "pdf/Password.h"
 
@@ -10,8 +11,6 @@
 #include <QFileInfo>
 
 #include <cerrno>
-#include <utility>
-#include <vector>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -87,25 +86,6 @@ std::optional<QString> passwordFault(const SecuritySettings &security) {
                         u"In a PDF this password is the same as that of --user-password-file"_s);
 }
 
-/// The pages of pictures, each as it may come to lie.
-std::vector<PageSetup> imagePages(const ConversionOptions &options) {
-    const PageSetup &given = options.imagePage;
-    PageSetup turned = given;
-    std::swap(turned.customWidth, turned.customHeight);
-    const bool isWide = given.customWidth > given.customHeight;
-    switch (options.imageLayout.orientation) {
-    case PageOrientation::Auto:
-        return {given, turned};
-    case PageOrientation::Portrait:
-        return {isWide ? turned : given};
-    case PageOrientation::Landscape:
-        return {isWide ? given : turned};
-    case PageOrientation::AsGiven:
-        break;
-    }
-    return {given};
-}
-
 QString quoted(const QString &path) {
     return u'"' + path + u'"';
 }
@@ -139,7 +119,8 @@ std::optional<QString> settingsFault(const Arguments &arguments) {
     if (const auto found = checkTextPageSizeSettings(text)) {
         return inWordsOf("--text-margins"_L1, *found, text.margins, getTextPageSize(text));
     }
-    for (const PageSetup &image : imagePages(options)) {
+    for (const PageSetup &image :
+         pagesOfImages(options.imagePage, options.imageLayout.orientation)) {
         if (const auto found = checkImagePageSizeSettings(image)) {
             return inWordsOf("--image-margins"_L1, *found, image.margins, getImagePageSize(image));
         }

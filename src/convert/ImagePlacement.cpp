@@ -3,6 +3,8 @@
 #include "convert/ImagePlacement.h"
 
 #include <algorithm>
+#include <initializer_list>
+#include <utility>
 
 namespace folioforge {
 
@@ -34,6 +36,26 @@ float scaleOf(QSizeF image, QSizeF space, ImageFit fit) {
 }
 
 } // namespace
+
+std::vector<PageSetup> pagesOfImages(const PageSetup &setup, PageOrientation orientation) {
+    const QSizeF given = getImagePageSize(setup);
+    bool staysSo = false;
+    bool turns = false;
+    for (const QSizeF image : {QSizeF(2, 1), QSizeF(1, 2)}) {
+        const bool isSame = turned(given, image, orientation) == given;
+        staysSo = staysSo || isSame;
+        turns = turns || !isSame;
+    }
+    std::vector<PageSetup> pages;
+    if (staysSo) {
+        pages.push_back(setup);
+    }
+    if (turns) {
+        pages.push_back(setup);
+        std::swap(pages.back().customWidth, pages.back().customHeight);
+    }
+    return pages;
+}
 
 ImagePlacement placeImage(QSizeF imageSize, const PageSetup &setup, const ImageLayout &layout) {
     const PageMargins &margins = setup.margins;

@@ -7,6 +7,8 @@
 #include <QRectF>
 #include <QSizeF>
 
+#include <vector>
+
 namespace folioforge {
 
 /// Which way a page of a fixed size lies.
@@ -39,6 +41,10 @@ struct ImagePlacement {
 
     bool operator==(const ImagePlacement &) const = default;
 };
+
+/// `setup` with the page of a fixed size lying each way in which an image may turn it, beginning
+/// with the given one; `setup` alone where the page follows its image.
+std::vector<PageSetup> pagesOfImages(const PageSetup &setup, PageOrientation orientation);
 
 /// Puts an image of `imageSize` points on its page, centred in the space inside the margins. On a
 /// custom page it takes that space as `layout` says, by default as far as its proportions allow,
