@@ -189,6 +189,27 @@ class GreyPicturesTest : public QObject, CompressionCase {
         QCOMPARE(outcome.imagesKept.front().reason, u"an unusual colour space"_s);
     }
 
+    void aPictureThatIsBlendedWithItsOpacityStaysAsItIs() {
+        const QByteArray keys = "/ColorSpace [/Indexed /DeviceRGB 5 " + kPalette +
+                                "] /BitsPerComponent 4 /Filter /FlateDecode /SMask 8 0 R";
+        QVERIFY(
+            pageOf(600, keys, flate(bars(600, false)))
+                .stream(8, imageKeys(600, 900, kFlateGrey) + " /Matte [1 0 0]", opacity(600, 900))
+                .write(m_path));
+        CompressionOutcome outcome;
+        const QString copy = greyCopy(outcome);
+        QCOMPARE(outcome.error, QString());
+        QCOMPARE(outcome.imagesReduced, 0);
+        QStringList reasons;
+        for (const KeptImage &image : outcome.imagesKept) {
+            reasons += image.reason;
+        }
+        reasons.sort();
+        QCOMPARE(reasons,
+                 QStringList({u"blended into its image"_s, u"blended with its soft mask"_s}));
+        QCOMPARE(PdfProbe(copy).render(1, 100), PdfProbe(m_path).render(1, 100));
+    }
+
     void withoutTheWishTheyKeepTheirColours() {
         QVERIFY(pageOf(1200, kJpegRgb, jpeg(photo(1200, 900))).write(m_path));
         QVERIFY(!isGrey(PdfProbe(compressed()).render(1, 100)));
