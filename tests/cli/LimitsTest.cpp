@@ -235,10 +235,9 @@ class LimitsTest : public QObject {
     }
 
     void listsThatManyShareAreReadOnce() {
-        const QString file = savedPdf(sharedKids(sized(60'000, isSanitized() ? 3000 : 15'000)));
-        Limits soon;
-        soon.processorSeconds = 12; // Read for each that shares them, they take 33.
-        QCOMPARE(answerTo({file, u"--pages"_s, u"1"_s}, soon), valid());
+        // Read for each that shares them, they take ten minutes, and no run is given so long.
+        const QString file = savedPdf(sharedKids(isSanitized() ? 3000 : 60'000));
+        QCOMPARE(answerTo({file, u"--pages"_s, u"1"_s}), valid());
     }
 
     void aLargePageInManyPlacesStaysOnePage() {
@@ -259,6 +258,8 @@ class LimitsTest : public QObject {
         for (const char *method : {"none", "72l"}) {
             const QString answer = endingOf({file, u"--compress="_s + QLatin1StringView(method)});
             QCOMPARE(answer == written(), !refused);
+            QVERIFY2(!refused || answer == u"it has no catalog"_s || answer == noMemory(),
+                     qPrintable(answer));
             QCOMPARE(PdfProbe(target()).pageCount(), refused ? 0 : 1);
             QVERIFY(!answer.isEmpty());
         }
