@@ -341,6 +341,7 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QCOMPARE(outputs(), QStringList{u"größe.pdf"_s});
     }
 
+#ifdef __linux__
     void itSpeaksEnglishOnAGermanSystem() {
         const ToolRun made = runTool(
             u"localedef"_s, {u"-i"_s, u"de_DE"_s, u"-f"_s, u"UTF-8"_s, path("de_DE.UTF-8")});
@@ -349,6 +350,9 @@ class CommandLineTest : public QObject, protected CommandLineCase {
                                     text("a.txt", "caf\xE9"), path("missing.txt")};
         const QStringList german{u"LANG=de_DE.UTF-8"_s, u"LC_ALL=de_DE.UTF-8"_s, u"LANGUAGE=de"_s,
                                  u"LOCPATH="_s + m_folder->path()};
+        const ToolRun other =
+            runTool(u"env"_s, german + QStringList{u"cat"_s, path("missing.txt")});
+        QVERIFY2(other.err.contains("Datei oder Verzeichnis nicht gefunden"), other.err);
         for (const QStringList &report : {QStringList(), QStringList{u"--json"_s}}) {
             const ToolRun run =
                 runTool(u"env"_s, german + QStringList{kProgram} + report + arguments);
@@ -357,6 +361,7 @@ class CommandLineTest : public QObject, protected CommandLineCase {
             QVERIFY2(said.contains("No such file or directory"), said);
         }
     }
+#endif
 
     void aReaderThatGoesAwayStopsNothing() {
         const QString script =
