@@ -47,8 +47,11 @@ QByteArray withFilterNumbers(const QByteArray &rows, qsizetype stride) {
 }
 
 QImage decodedFlate(const PdfImage &image) {
-    const int channels = image.color == ImageColor::Rgb ? 3 : 1;
+    const int channels = image.color == ImageColor::Rgb    ? 3
+                         : image.color == ImageColor::Cmyk ? 4
+                                                           : 1;
     const char type = image.color == ImageColor::Rgb       ? '\x02'
+                      : image.color == ImageColor::Cmyk    ? '\x06'
                       : image.color == ImageColor::Indexed ? '\x03'
                                                            : '\0';
     QByteArray rows = dataOf(image);

@@ -23,7 +23,8 @@ QByteArray bytesOf(const QString &path);
 QByteArray dataOf(const PdfImage &image);
 
 /// The picture that an encoded image's data holds, read with Qt's PNG and JPEG readers and libtiff
-/// after it has been put into files of these formats by hand. Grey, RGB and palette only.
+/// after it has been put into files of these formats by hand. Grey, RGB and palette only; of four
+/// inks the last is the opacity.
 QImage decoded(const PdfImage &image);
 
 /// Red, green and blue of each pixel of decoded(), the rows from the top.

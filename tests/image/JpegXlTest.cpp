@@ -134,14 +134,6 @@ class JpegXlTest : public QObject {
                  QStringList(u"more-pictures: 1 further frame is left out"_s));
     }
 
-    void inksAreThoseThatWereStored() {
-        const PdfImage image = toPdfImage(imageFile(u"ink.jxl"_s));
-        QCOMPARE(image.color, ImageColor::Cmyk);
-        QCOMPARE(image.iccProfile.mid(16, 4), "CMYK");
-        // The rows of a TIFF of the same inks, which the file was made of.
-        QCOMPARE(unzipped(image.data), unzipped(toPdfImage(imageFile(u"ink.tif"_s)).data));
-    }
-
     void sixteenBitsOfOpacityStay() {
         const QString jxl = m_folder.filePath(u"deep.jxl"_s);
         runTool(u"cjxl"_s, {u"-d"_s, u"0"_s, imageFile(u"translucent-deep.png"_s), jxl});

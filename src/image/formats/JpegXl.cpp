@@ -10,6 +10,7 @@
 #include "image/formats/Signatures.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace folioforge {
@@ -72,10 +73,10 @@ class JpegXlPictureReader : public PictureReader {
     }
 
     void takeBlack() {
-        if (const auto channel = m_decoder.blackChannel(m_info)) {
+        for (const uint32_t channel : m_decoder.blackChannels(m_info)) {
             JxlPixelFormat alone = format();
             alone.num_channels = 1;
-            m_black = m_decoder.takeChannel(alone, *channel);
+            m_black = m_decoder.takeChannel(alone, channel);
         }
     }
 
@@ -123,7 +124,8 @@ class JpegXlPictureReader : public PictureReader {
     /// What can be shown of a frame that is cut off.
     std::optional<PdfImage> partialPicture() {
         m_hasEnded = true;
-        if (m_samples.isEmpty() || !m_decoder.flush() ||
+        // Of a channel beside the colours, as black is, libjxl 0.7 gives nothing.
+        if (m_samples.isEmpty() || !m_black.isEmpty() || !m_decoder.flush() ||
             m_samples.count(m_samples.front()) == m_samples.size()) {
             throw damagedJpegXl();
         }

@@ -200,21 +200,25 @@ void JpegXlDecoder::requireColors(const JxlBasicInfo &info) const {
             Reasons::tr("The JPEG XL file has %1 channels beside its colours, which are too many")
                 .arg(info.num_extra_channels));
     }
-    // With the inks as light libjxl gives colours of light for three of them.
-    if (blackChannel(info) && info.uses_original_profile == JXL_FALSE) {
+    // With the inks as light libjxl gives colours of light for three of them, and a black beside
+    // grey or another black would be lost.
+    const auto blacks = blackChannels(info);
+    if (!blacks.empty() && (info.uses_original_profile == JXL_FALSE || blacks.size() > 1 ||
+                            info.num_color_channels != 3)) {
         throw Error(Reasons::tr("The JPEG XL file stores inks, which cannot be read"));
     }
 }
 
-std::optional<uint32_t> JpegXlDecoder::blackChannel(const JxlBasicInfo &info) const {
+std::vector<uint32_t> JpegXlDecoder::blackChannels(const JxlBasicInfo &info) const {
+    std::vector<uint32_t> channels;
     for (uint32_t channel = 0; channel < info.num_extra_channels; ++channel) {
         JxlExtraChannelInfo extra{};
         if (JxlDecoderGetExtraChannelInfo(get(), channel, &extra) == JXL_DEC_SUCCESS &&
-            extra.type == JXL_CHANNEL_BLACK && info.num_color_channels == 3) {
-            return channel;
+            extra.type == JXL_CHANNEL_BLACK) {
+            channels.push_back(channel);
         }
     }
-    return std::nullopt;
+    return channels;
 }
 
 JpegXlColor JpegXlDecoder::color(const JxlBasicInfo &info) const {

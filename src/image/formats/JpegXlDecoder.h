@@ -12,7 +12,7 @@
 #include <QByteArray>
 
 #include <memory>
-#include <optional>
+#include <vector>
 
 namespace folioforge {
 
@@ -42,8 +42,9 @@ class JpegXlDecoder {
     /// The place of the samples of one of the channels beside the colours and the opacity;
     /// likewise.
     [[nodiscard]] QByteArray takeChannel(const JxlPixelFormat &format, uint32_t channel) const;
-    /// The channel with the black ink, where the colours are cyan, magenta and yellow.
-    [[nodiscard]] std::optional<uint32_t> blackChannel(const JxlBasicInfo &info) const;
+    /// The channels with a black ink: of checkedInfo() no more than one, where the colours are
+    /// cyan, magenta and yellow.
+    [[nodiscard]] std::vector<uint32_t> blackChannels(const JxlBasicInfo &info) const;
     /// Fills the place with what was read of a frame; false where that gives no picture.
     [[nodiscard]] bool flush() const;
 
