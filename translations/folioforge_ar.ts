@@ -1902,8 +1902,12 @@ None: pictures stay as they are
         <translation>لا يوجد خط لكتابة النص</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
-        <translation>تُقرأ ملفات HEIC وAVIF بمكتبة libheif 1 التي يتعذّر تحميلها</translation>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
+        <translation>تُقرأ ملفات HEIC وAVIF بمكتبة libheif 1 التي يتعذّر تحميلها: %1</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read HEIC and AVIF files</source>
+        <translation>بُني هذا البرنامج دون ما يلزم لقراءة ملفات HEIC وAVIF</translation>
     </message>
 </context>
 <context>

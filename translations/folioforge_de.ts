@@ -1790,8 +1790,12 @@ Keine: Bilder bleiben, wie sie sind
         <translation>Es gibt keine Schrift, um Text zu schreiben</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
-        <translation>HEIC- und AVIF-Dateien werden mit libheif 1 gelesen, das nicht geladen werden kann</translation>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
+        <translation>HEIC- und AVIF-Dateien werden mit libheif 1 gelesen, das nicht geladen werden kann: %1</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read HEIC and AVIF files</source>
+        <translation>Dieses Programm wurde ohne die Mittel gebaut, HEIC- und AVIF-Dateien zu lesen</translation>
     </message>
 </context>
 <context>

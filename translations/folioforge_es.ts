@@ -1790,8 +1790,12 @@ Ninguna: las imágenes quedan como están
         <translation>No hay ninguna fuente para escribir texto</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
-        <translation>Los archivos HEIC y AVIF se leen con libheif 1, que no se puede cargar</translation>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
+        <translation>Los archivos HEIC y AVIF se leen con libheif 1, que no se puede cargar: %1</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read HEIC and AVIF files</source>
+        <translation>Este programa se compiló sin los medios para leer archivos HEIC y AVIF</translation>
     </message>
 </context>
 <context>

@@ -1790,8 +1790,12 @@ Aucune : les images restent telles quelles
         <translation>Il n’y a aucune police pour écrire du texte</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
-        <translation>Les fichiers HEIC et AVIF sont lus par libheif 1, qui ne peut pas être chargé</translation>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
+        <translation>Les fichiers HEIC et AVIF sont lus par libheif 1, qui ne peut pas être chargé : %1</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read HEIC and AVIF files</source>
+        <translation>Ce programme a été construit sans les moyens de lire les fichiers HEIC et AVIF</translation>
     </message>
 </context>
 <context>

@@ -1762,8 +1762,12 @@ None: pictures stay as they are
         <translation>テキストを書くためのフォントがありません</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
-        <translation>HEIC と AVIF ファイルの読み取りに使う libheif 1 を読み込めません</translation>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
+        <translation>HEIC と AVIF ファイルの読み取りに使う libheif 1 を読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read HEIC and AVIF files</source>
+        <translation>このプログラムは HEIC と AVIF ファイルを読み取る機能なしでビルドされています</translation>
     </message>
 </context>
 <context>

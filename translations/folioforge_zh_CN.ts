@@ -1762,8 +1762,12 @@ None: pictures stay as they are
         <translation>没有可用于书写文本的字体</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded</source>
-        <translation>HEIC 和 AVIF 文件由 libheif 1 读取，而它无法加载</translation>
+        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
+        <translation>HEIC 和 AVIF 文件由 libheif 1 读取，而它无法加载：%1</translation>
+    </message>
+    <message>
+        <source>This program was built without the means to read HEIC and AVIF files</source>
+        <translation>本程序构建时不包含读取 HEIC 和 AVIF 文件的功能</translation>
     </message>
 </context>
 <context>

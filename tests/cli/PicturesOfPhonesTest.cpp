@@ -82,9 +82,11 @@ class PicturesOfPhonesTest : public QObject, CommandLineCase {
         const ToolRun run = shell("LD_LIBRARY_PATH=. folioforge-cli --merge out.pdf a.txt '" +
                                   heif.toUtf8() + '\'');
         QCOMPARE(run.exitCode, 1);
-        QVERIFY2(run.err.contains("wide.avif: HEIC and AVIF files are read by libheif 1, which "
-                                  "cannot be loaded\n"),
-                 run.err.constData());
+        // What the system says of it, as the loader's own words.
+        static const QRegularExpression words(
+            u"wide\\.avif: HEIC and AVIF files are read by libheif 1, which cannot be loaded: "
+            "[^\n]*libheif\\.so\\.1: file too short\\)\n"_s);
+        QVERIFY2(QString::fromUtf8(run.err).contains(words), run.err.constData());
         QCOMPARE(PdfProbe(path("out.pdf")).pageCount(), 1);
     }
 #endif

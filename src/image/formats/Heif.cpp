@@ -10,11 +10,8 @@
 #include "image/PictureDamage.h"
 #include "image/Raster.h"
 #include "image/formats/ChannelRows.h"
+#include "image/formats/HeifLibrary.h"
 #include "image/formats/Signatures.h"
-
-#include <libheif/heif.h>
-
-#include <QLibrary>
 
 #include <algorithm>
 #include <memory>
@@ -30,27 +27,11 @@ namespace folioforge {
 
 namespace {
 
-/// A function of libheif. The library is loaded when a file first needs it: with its codecs it
-/// takes longer to start than most runs take. Throws Error where it is not there.
-template<typename Function> Function *lateFunction(const char *name) {
-    constexpr int kInterface = 1;
-    const QFunctionPointer found =
-        QLibrary::resolve(u"" FOLIOFORGE_HEIF_LIBRARY ""_s, kInterface, name);
-    if (found == nullptr) {
-        throw Error(
-            Reasons::tr("HEIC and AVIF files are read by libheif 1, which cannot be loaded"));
-    }
-    return reinterpret_cast<Function *>(found);
-}
-#define LATE(function) lateFunction<decltype(function)>(#function)
-
 struct Release {
-    void operator()(heif_context *held) const { LATE(heif_context_free)(held); }
-    void operator()(heif_image_handle *held) const { LATE(heif_image_handle_release)(held); }
-    void operator()(heif_image *held) const { LATE(heif_image_release)(held); }
-    void operator()(heif_color_profile_nclx *held) const {
-        LATE(heif_nclx_color_profile_free)(held);
-    }
+    void operator()(heif_context *held) const { heif().context_free(held); }
+    void operator()(heif_image_handle *held) const { heif().image_handle_release(held); }
+    void operator()(heif_image *held) const { heif().image_release(held); }
+    void operator()(heif_color_profile_nclx *held) const { heif().nclx_color_profile_free(held); }
 };
 using Handle = std::unique_ptr<heif_image_handle, Release>;
 using Decoded = std::unique_ptr<heif_image, Release>;
@@ -82,8 +63,8 @@ class HeifFile {
   public:
     explicit HeifFile(const FileView &file)
         : m_source{file}
-        , m_context(LATE(heif_context_alloc)()) {
-        static const heif_error started = LATE(heif_init)(nullptr); // Finds the decoders.
+        , m_context(heif().context_alloc()) {
+        static const heif_error started = heif().init(nullptr); // Finds the decoders.
         require(started);
         if (!m_context) {
             throw std::bad_alloc();
@@ -98,8 +79,8 @@ class HeifFile {
             return made;
         }();
         // Its threads would fail where the system grants none.
-        LATE(heif_context_set_max_decoding_threads)(m_context.get(), 0);
-        require(LATE(heif_context_read_from_reader)(m_context.get(), &reader, &m_source, nullptr));
+        heif().context_set_max_decoding_threads(m_context.get(), 0);
+        require(heif().context_read_from_reader(m_context.get(), &reader, &m_source, nullptr));
     }
     HeifFile(const HeifFile &) = delete;
     HeifFile &operator=(const HeifFile &) = delete;
@@ -107,11 +88,11 @@ class HeifFile {
     /// The pictures that a viewer shows, beginning with the primary one.
     [[nodiscard]] std::vector<heif_item_id> pictures() const {
         heif_item_id primary = 0;
-        require(LATE(heif_context_get_primary_image_ID)(m_context.get(), &primary));
+        require(heif().context_get_primary_image_ID(m_context.get(), &primary));
         std::vector<heif_item_id> all(static_cast<size_t>(
-            std::max(0, LATE(heif_context_get_number_of_top_level_images)(m_context.get()))));
-        LATE(heif_context_get_list_of_top_level_image_IDs)
-        (m_context.get(), all.data(), static_cast<int>(all.size()));
+            std::max(0, heif().context_get_number_of_top_level_images(m_context.get()))));
+        heif().context_get_list_of_top_level_image_IDs(m_context.get(), all.data(),
+                                                       static_cast<int>(all.size()));
         std::erase(all, primary);
         all.insert(all.begin(), primary);
         return all;
@@ -119,7 +100,7 @@ class HeifFile {
 
     [[nodiscard]] Handle picture(heif_item_id id) const {
         heif_image_handle *handle = nullptr;
-        require(LATE(heif_context_get_image_handle)(m_context.get(), id, &handle));
+        require(heif().context_get_image_handle(m_context.get(), id, &handle));
         return Handle(handle);
     }
 
@@ -157,23 +138,23 @@ class HeifFile {
 /// What the picture's EXIF item says; nothing where there is none.
 ExifMetadata exifOf(const heif_image_handle *handle) {
     heif_item_id id = 0;
-    if (LATE(heif_image_handle_get_list_of_metadata_block_IDs)(handle, "Exif", &id, 1) != 1) {
+    if (heif().image_handle_get_list_of_metadata_block_IDs(handle, "Exif", &id, 1) != 1) {
         return {};
     }
-    const size_t size = LATE(heif_image_handle_get_metadata_size)(handle, id);
+    const size_t size = heif().image_handle_get_metadata_size(handle, id);
     if (size > kMostMetadata) {
         return {};
     }
     QByteArray item(static_cast<qsizetype>(size), '\0');
-    require(LATE(heif_image_handle_get_metadata)(handle, id, item.data()));
+    require(heif().image_handle_get_metadata(handle, id, item.data()));
     return readExifItem(item);
 }
 
 /// libheif turns and mirrors the pixels as the file says; what EXIF says of that is the same.
 ImageHeader headerOf(const heif_image_handle *handle) {
     ImageHeader header;
-    header.width = LATE(heif_image_handle_get_width)(handle);
-    header.height = LATE(heif_image_handle_get_height)(handle);
+    header.width = heif().image_handle_get_width(handle);
+    header.height = heif().image_handle_get_height(handle);
     const ExifMetadata exif = exifOf(handle);
     header.horizontalDpi = exif.horizontalDpi;
     header.verticalDpi = exif.verticalDpi;
@@ -191,14 +172,14 @@ CicpColor colorOf(const heif_color_profile_nclx &nclx) {
 
 /// Adds what the file says of the meaning of its colours.
 void readColor(const heif_image_handle *handle, Raster &raster, Warnings &warnings) {
-    const size_t size = LATE(heif_image_handle_get_raw_color_profile_size)(handle);
+    const size_t size = heif().image_handle_get_raw_color_profile_size(handle);
     if (size > 0 && size <= kMostMetadata) {
         raster.iccProfile = QByteArray(static_cast<qsizetype>(size), '\0');
-        require(LATE(heif_image_handle_get_raw_color_profile)(handle, raster.iccProfile.data()));
+        require(heif().image_handle_get_raw_color_profile(handle, raster.iccProfile.data()));
         return;
     }
     heif_color_profile_nclx *given = nullptr;
-    if (LATE(heif_image_handle_get_nclx_color_profile)(handle, &given).code != heif_error_Ok) {
+    if (heif().image_handle_get_nclx_color_profile(handle, &given).code != heif_error_Ok) {
         return;
     }
     const std::unique_ptr<heif_color_profile_nclx, Release> nclx(given);
@@ -215,8 +196,8 @@ heif_chroma chromaOf(bool isDeep, bool hasAlpha) {
 
 Raster rasterOf(Decoded decoded, bool isDeep, bool hasAlpha) {
     Raster raster;
-    raster.width = LATE(heif_image_get_width)(decoded.get(), heif_channel_interleaved);
-    raster.height = LATE(heif_image_get_height)(decoded.get(), heif_channel_interleaved);
+    raster.width = heif().image_get_width(decoded.get(), heif_channel_interleaved);
+    raster.height = heif().image_get_height(decoded.get(), heif_channel_interleaved);
     ImageHeader size;
     size.width = raster.width;
     size.height = raster.height;
@@ -224,9 +205,8 @@ Raster rasterOf(Decoded decoded, bool isDeep, bool hasAlpha) {
     raster.bits = isDeep ? 16 : 8;
     int stride = 0;
     const uint8_t *const plane =
-        LATE(heif_image_get_plane_readonly)(decoded.get(), heif_channel_interleaved, &stride);
-    const int bits =
-        LATE(heif_image_get_bits_per_pixel_range)(decoded.get(), heif_channel_interleaved);
+        heif().image_get_plane_readonly(decoded.get(), heif_channel_interleaved, &stride);
+    const int bits = heif().image_get_bits_per_pixel_range(decoded.get(), heif_channel_interleaved);
     if (plane == nullptr || bits < 8 || bits > 16 || (bits > 8) != isDeep) {
         throw Error(Reasons::tr("The HEIC or AVIF file is damaged"));
     }
@@ -237,19 +217,19 @@ Raster rasterOf(Decoded decoded, bool isDeep, bool hasAlpha) {
 PdfImage pictureOf(const FileView &file, const heif_image_handle *handle) {
     ImageHeader header = headerOf(handle);
     requirePlausibleArea(header, file.size());
-    const bool isDeep = LATE(heif_image_handle_get_luma_bits_per_pixel)(handle) > 8;
-    const bool hasAlpha = LATE(heif_image_handle_has_alpha_channel)(handle) != 0;
+    const bool isDeep = heif().image_handle_get_luma_bits_per_pixel(handle) > 8;
+    const bool hasAlpha = heif().image_handle_has_alpha_channel(handle) != 0;
     requireThread();
     heif_image *image = nullptr;
-    require(LATE(heif_decode_image)(handle, &image, heif_colorspace_RGB, chromaOf(isDeep, hasAlpha),
-                                    nullptr));
+    require(heif().decode_image(handle, &image, heif_colorspace_RGB, chromaOf(isDeep, hasAlpha),
+                                nullptr));
     Decoded decoded(image);
     Warnings warnings;
-    if (LATE(heif_image_get_decoding_warnings)(image, 0, nullptr, 0) > 0) {
+    if (heif().image_get_decoding_warnings(image, 0, nullptr, 0) > 0) {
         warnings.push_back(faultyPicture());
     }
     Raster raster = rasterOf(std::move(decoded), isDeep, hasAlpha);
-    if (LATE(heif_image_handle_is_premultiplied_alpha)(handle) != 0) {
+    if (heif().image_handle_is_premultiplied_alpha(handle) != 0) {
         unpremultiply(raster);
     }
     readColor(handle, raster, warnings);
@@ -298,8 +278,8 @@ class HeifPictureReader : public PictureReader {
 };
 
 ImageHeader readHeader(const FileView &file) {
-    const HeifFile heif(file);
-    return headerOf(heif.picture(heif.pictures().front()).get());
+    const HeifFile opened(file);
+    return headerOf(opened.picture(opened.pictures().front()).get());
 }
 
 PdfImage toPdfImage(const FileView &file) {

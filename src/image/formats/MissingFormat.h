@@ -17,21 +17,23 @@ template<ImageKind kKind> class MissingFormat {
     }
 
   private:
+    [[noreturn]] static void refuse() {
+        if constexpr (kKind == ImageKind::Heif) {
+            throw Error(Reasons::tr(
+                "This program was built without the means to read HEIC and AVIF files"));
+        }
+        throw Error(
+            Reasons::tr("This program was built without the means to read %1 files").arg(name()));
+    }
     static QLatin1StringView name() {
         switch (kKind) {
         case ImageKind::Exr:
             return QLatin1StringView("EXR");
-        case ImageKind::Heif:
-            return QLatin1StringView("HEIC and AVIF");
         case ImageKind::JpegXl:
             return QLatin1StringView("JPEG XL");
         default:
             return QLatin1StringView("WebP");
         }
-    }
-    [[noreturn]] static void refuse() {
-        throw Error(
-            Reasons::tr("This program was built without the means to read %1 files").arg(name()));
     }
     static ImageHeader readHeader(const FileView & /*file*/) { refuse(); }
     static PdfImage toPdfImage(const FileView & /*file*/) { refuse(); }
