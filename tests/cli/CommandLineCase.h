@@ -8,6 +8,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -80,6 +81,21 @@ class CommandLineCase {
             lines += line.simplified();
         }
         return lines;
+    }
+
+    /// How many bands of a page, from edge to edge, have something on them and white between them.
+    static int bandsOf(const QImage &shown) {
+        const QImage page = shown.convertToFormat(QImage::Format_Grayscale8);
+        int bands = 0;
+        bool wasBlank = true;
+        for (int y = 0; y < page.height(); ++y) {
+            const auto *line = page.constScanLine(y);
+            const bool isBlank =
+                std::all_of(line, line + page.width(), [](uchar pixel) { return pixel > 200; });
+            bands += wasBlank && !isBlank ? 1 : 0;
+            wasBlank = isBlank;
+        }
+        return bands;
     }
 
     /// The bookmarks of the document at `name`, as mutool shows them.

@@ -115,6 +115,20 @@ class MarginTextsTest : public QObject, CommandLineCase {
                      u": warning: The header or the footer has more rows than its margin\n"_s);
     }
 
+    void rowsOfScriptsThatReachFarDoNotTouch_data() {
+        QTest::addColumn<QString>("row");
+        QTest::newRow("Bengali") << u"\u09AC\u09C1\u09A6\u09CD\u09A7\u09BF \u0989"_s;
+        QTest::newRow("Myanmar") << u"\u1010\u1030\u100A\u102E \u1016\u103C\u1004\u103A\u1037"_s;
+    }
+    void rowsOfScriptsThatReachFarDoNotTouch() {
+        QFETCH(const QString, row);
+        const PdfProbe pdf = merged(
+            {u"--header="_s + row + u'\n' + row, u"--font-size=40"_s, u"--text-margins=250,20"_s},
+            {text("a.txt", "")});
+        QCOMPARE(bandsOf(pdf.render(1)), 2);
+        QVERIFY(m_run.err.isEmpty());
+    }
+
     void joinedAndTurnedLettersAreFoundInAHeader() {
         const PdfProbe pdf =
             merged({u"--header=\u0645\u0631\u062D\u0628\u0627"_s}, {text("a.txt", "here")});

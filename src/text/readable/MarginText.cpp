@@ -50,7 +50,22 @@ const Placeholder *placeholderCalled(QStringView word) {
 struct MarginRow {
     Paragraph *paragraph;
     TextRow row;
+    RowRoom room;
 };
+
+/// Takes out the rows that the band has no room for, and tells whether there are such; `height`
+/// becomes that of the others.
+bool cutToFit(std::vector<MarginRow> &rows, double bandHeight, double &height) {
+    constexpr double kRounding = 1e-6;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (height + rows[i].room.height > bandHeight + kRounding) {
+            rows.resize(i);
+            return true;
+        }
+        height += rows[i].room.height;
+    }
+    return false;
+}
 
 } // namespace
 
@@ -95,21 +110,19 @@ void MarginText::setInto(const QRectF &band, QStringView text, TextPageSink &sin
         Paragraph &paragraph = paragraphs.emplace_back(line, m_font, m_breaks, m_missing);
         qsizetype taken = 0;
         do {
-            rows.push_back({&paragraph, paragraph.takeRow(taken, band.width(), tabStop)});
-            taken = rows.back().row.end;
+            const TextRow row = paragraph.takeRow(taken, band.width(), tabStop);
+            rows.push_back({&paragraph, row, roomOf(paragraph.reach(row), m_font)});
+            taken = row.end;
         } while (taken < line.size());
         text = withoutLineEnd(text.sliced(line.size()));
     }
-    const double height = m_font.rowHeight();
-    constexpr double kRounding = 1e-6;
-    const auto room = static_cast<std::size_t>(band.height() / height + kRounding);
-    m_isCut = m_isCut || rows.size() > room;
-    rows.resize(std::min(rows.size(), room));
-    double y = band.center().y() + static_cast<double>(rows.size()) * height / 2 - m_font.ascent();
+    double height = 0;
+    m_isCut |= cutToFit(rows, band.height(), height);
+    double top = band.center().y() + height / 2;
     for (const MarginRow &at : rows) {
         const double x = band.center().x() - at.row.width / 2;
-        drawRow(*at.paragraph, at.row, x, y, sink);
-        y -= height;
+        drawRow(*at.paragraph, at.row, x, top - at.room.ascent, sink);
+        top -= at.room.height;
     }
 }
 

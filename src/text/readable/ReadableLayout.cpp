@@ -24,8 +24,7 @@ class PageColumn {
         , m_width(page.width() - m_left - static_cast<double>(margins.right))
         , m_top(page.height() - static_cast<double>(margins.top))
         , m_bottom(static_cast<double>(margins.bottom))
-        , m_reach{font.ascent(), font.descent()}
-        , m_rowHeight(static_cast<double>(font.rowHeight()))
+        , m_font(font)
         , m_lineSpacing(lineSpacing) {}
 
     [[nodiscard]] double width() const { return m_width; }
@@ -48,18 +47,17 @@ class PageColumn {
         m_isOpen = false;
     }
 
-    /// Takes the room of a row, which grows where its letters `reach` further than those of the
-    /// first face, on the next page where this one is full. False when the sink does not want it.
+    /// Takes the room of a row whose letters `reach` that far, on the next page where this one is
+    /// full. False when the sink does not want it.
     [[nodiscard]] bool takeRoom(const RowReach &reach = {}) {
         constexpr double kRounding = 1e-6;
-        const double above = std::max(0.0, reach.ascent - m_reach.ascent);
-        const double height = m_rowHeight + above + std::max(0.0, reach.descent - m_reach.descent);
+        const RowRoom room = roomOf(reach, m_font);
         // A row taller than the page gets a page of its own.
-        if (m_rowTop < m_top && m_rowTop - height < m_bottom - kRounding && !beginPage()) {
+        if (m_rowTop < m_top && m_rowTop - room.height < m_bottom - kRounding && !beginPage()) {
             return false;
         }
-        m_baseline = m_rowTop - above - m_reach.ascent;
-        m_rowTop -= height * m_lineSpacing;
+        m_baseline = m_rowTop - room.ascent;
+        m_rowTop -= room.height * m_lineSpacing;
         return true;
     }
 
@@ -75,8 +73,7 @@ class PageColumn {
     double m_width = 0;
     double m_top = 0; ///< Heights are from the lower edge of the page.
     double m_bottom = 0;
-    RowReach m_reach; ///< Of the first face.
-    double m_rowHeight = 0;
+    const FontCascade &m_font;
     double m_lineSpacing = 1;
     double m_rowTop = 0;
     double m_baseline = 0;

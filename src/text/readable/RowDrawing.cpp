@@ -2,7 +2,15 @@
 
 #include "text/readable/RowDrawing.h"
 
+#include <algorithm>
+
 namespace folioforge {
+
+RowRoom roomOf(const RowReach &reach, const FontCascade &font) {
+    const double above = std::max(0.0, reach.ascent - font.ascent());
+    const double below = std::max(0.0, reach.descent - font.descent());
+    return {above + font.ascent(), above + static_cast<double>(font.rowHeight()) + below};
+}
 
 void drawRow(Paragraph &paragraph, const TextRow &row, double x, double y, TextPageSink &sink) {
     QStringView read;
