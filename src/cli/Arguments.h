@@ -50,6 +50,7 @@ struct Arguments {
     std::optional<QByteArray> userPasswordFile;
     std::optional<QByteArray> ownerPasswordFile;
     std::optional<QByteArray> inputPasswordFile; ///< Its lines open encrypted inputs.
+    std::optional<QByteArray> altFile;           ///< Its lines describe pictures.
     std::optional<QByteArray> bookmarkTitleFile; ///< A line for each input, in their order.
     QStringList bookmarkTitles;                  ///< Those lines, once they are read.
     QStringList rounded; ///< Lengths that are not what was asked for, in words.

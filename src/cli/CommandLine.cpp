@@ -2,6 +2,7 @@
 
 #include "cli/CommandLine.h"
 
+#include "cli/AccessibilityOptions.h"
 #include "cli/Console.h"
 #include "cli/Inputs.h"
 #include "cli/OptionValues.h"
@@ -27,6 +28,7 @@ class Call : private RunObserver {
     Call(const Arguments &arguments, Console &console, TemporaryFolder &temporaryFolder)
         : m_arguments(arguments)
         , m_temporaryFolder(temporaryFolder)
+        , m_console(console)
         , m_teller(arguments, console)
         , m_progress(console, arguments.quiet ? ProgressMode::Never : arguments.progress, m_names) {
     }
@@ -69,6 +71,9 @@ class Call : private RunObserver {
             m_files.push_back(input.read.entry.filePathName());
             entries.push_back(std::move(input.read.entry));
         }
+        if (!m_arguments.quiet) {
+            complainOfUnusedDescriptions();
+        }
         const std::stop_token outOfTime = outOfProcessorTime();
         Run run(std::move(entries), m_arguments.options, applicationBundlePath(), outOfTime);
         const bool compresses = run.compresses() && !m_arguments.options.dryRun;
@@ -77,6 +82,13 @@ class Call : private RunObserver {
         m_progress.finish();
         if (outOfTime.stop_requested()) {
             reportOutOfTime();
+        }
+    }
+
+    void complainOfUnusedDescriptions() {
+        const QStringList paths(m_files.begin(), m_files.end());
+        for (const QString &name : m_arguments.options.descriptions.unused(paths)) {
+            m_console.complain(u"--alt-file: No input is called \"%1\""_s.arg(name));
         }
     }
 
@@ -117,6 +129,7 @@ class Call : private RunObserver {
 
     const Arguments &m_arguments;
     TemporaryFolder &m_temporaryFolder;
+    Console &m_console;
     ResultTeller m_teller;
     std::vector<QString> m_names; ///< Of the inputs, as they were given.
     std::vector<QString> m_files; ///< Where they are.
@@ -147,6 +160,7 @@ ExitStatus runConversion(Arguments arguments) {
             throw ArgumentFault(*fault);
         }
         prepareText(arguments);
+        prepareTags(arguments);
         prepareOutputFolder(arguments.options);
     } catch (const ArgumentFault &fault) {
         console.complain(fault.text());

@@ -74,7 +74,8 @@ void requireOneReading(const Arguments &arguments) {
     const auto readings = std::ranges::count(arguments.nameLists, "-", &NameList::file) +
                           std::ranges::count(arguments.inputs, "-") + (isPassword ? 1 : 0) +
                           (arguments.inputPasswordFile == "-" ? 1 : 0) +
-                          (arguments.bookmarkTitleFile == "-" ? 1 : 0);
+                          (arguments.bookmarkTitleFile == "-" ? 1 : 0) +
+                          (arguments.altFile == "-" ? 1 : 0);
     if (readings > 1) {
         throw ArgumentFault(u"Standard input cannot be read twice"_s);
     }

@@ -85,6 +85,20 @@ HelpSection documentHelp() {
              {"--refuse-copy", "", "readers may not copy from it (needs an owner password)"}}};
 }
 
+HelpSection accessibilityHelp() {
+    return {"Accessibility",
+            "",
+            {{"--tagged", "",
+              "texts and pictures are tagged, so that programs can read them aloud and set them "
+              "anew; by itself where a PDF among the inputs is tagged"},
+             {"--lang", "TAG",
+              "the language of texts and descriptions, such as en or de-CH (default: that of the "
+              "system)"},
+             {"--alt-file", "FILE",
+              "what pictures show: a line for each, its name, a tab and the description, \"-\" for "
+              "standard input (default: what its file says of it, or its name)"}}};
+}
+
 HelpSection pageHelp() {
     return {
         "Pages",
@@ -167,8 +181,9 @@ QByteArrayList OptionHelp::words() const {
 }
 
 const std::vector<HelpSection> &optionHelp() {
-    static const std::vector<HelpSection> sections{inputHelp(), outputHelp(), documentHelp(),
-                                                   pageHelp(),  textHelp(),   reportHelp()};
+    static const std::vector<HelpSection> sections{
+        inputHelp(), outputHelp(), documentHelp(), accessibilityHelp(),
+        pageHelp(),  textHelp(),   reportHelp()};
     return sections;
 }
 

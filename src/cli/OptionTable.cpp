@@ -2,6 +2,7 @@
 
 #include "cli/OptionTable.h"
 
+#include "cli/AccessibilityOptions.h"
 #include "cli/NamesLike.h"
 #include "cli/OptionValues.h"
 #include "cli/TextOptions.h"
@@ -256,8 +257,8 @@ const std::vector<Option> &reportOptions() {
     return options;
 }
 
-std::array<const std::vector<Option> *, 6> groups() {
-    return {&inputOptions(), &outputOptions(), &documentOptions(),
+std::array<const std::vector<Option> *, 7> groups() {
+    return {&inputOptions(), &outputOptions(), &documentOptions(), &accessibilityOptions(),
             &pageOptions(),  &textOptions(),   &reportOptions()};
 }
 

@@ -7,8 +7,10 @@
 #include "error/Reasons.h"
 #include "files/SystemCalls.h"
 #include "pdf/import/LeftParts.h"
+#include "pdf/import/SourceDocument.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <algorithm>
@@ -37,6 +39,9 @@ template<typename Step> QString reasonOfFailure(Step &&step) {
 void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
               const std::stop_token &stop, EntryOutcome &outcome) {
     const int pagesBefore = context.pageCount();
+    if (entry.kind() != FileKind::Pdf) {
+        context.beginSource(entry.fileName());
+    }
     switch (entry.kind()) {
     case FileKind::Text:
         outcome.warnings = addTextPage(entry, context, options, stop);
@@ -84,15 +89,38 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
     return outcome;
 }
 
+/// Whether texts and pictures are to be tagged because a PDF among the sources is.
+bool isAmongTagged(std::span<const PDFFileInfo *const> entries, const ConversionOptions &options) {
+    const auto isPdf = [](const PDFFileInfo *entry) { return entry->kind() == FileKind::Pdf; };
+    return !std::ranges::all_of(entries, isPdf) &&
+           std::ranges::any_of(entries, [&](const PDFFileInfo *entry) {
+               return isPdf(entry) &&
+                      isTaggedSource(entry->filePathName(), options.inputPasswords, options.calls);
+           });
+}
+
+/// How the pages that are drawn are tagged; nothing where they are not.
+std::optional<TagOptions> tagOptions(std::span<const PDFFileInfo *const> entries,
+                                     const ConversionOptions &options) {
+    if (!options.tagged) {
+        return isAmongTagged(entries, options) ? std::optional(TagOptions{options.language, {}})
+                                               : std::nullopt;
+    }
+    const QString name =
+        options.merge || entries.empty() ? options.outputName : entries.front()->fileName();
+    return TagOptions{options.language, QFileInfo(name).completeBaseName()};
+}
+
 /// Names the sources without structure tags where others have some.
 Warnings namePartlyTagged(std::span<const PDFFileInfo *const> entries,
-                          const std::vector<EntryOutcome> &outcomes) {
+                          const std::vector<EntryOutcome> &outcomes, bool drawnAreTagged) {
     constexpr qsizetype kNames = 5;
     QStringList untagged;
     bool tagged = false;
     for (std::size_t i = 0; i < outcomes.size(); ++i) {
         const auto &parts = outcomes[i].parts;
-        const bool isTagged = parts && parts->carried.contains(PartKind::StructureElements);
+        const bool isTagged = parts ? parts->carried.contains(PartKind::StructureElements)
+                                    : drawnAreTagged && outcomes[i].pages > 0;
         tagged = tagged || isTagged;
         if (outcomes[i].pages > 0 && !isTagged) {
             untagged += entries[i]->fileName();
@@ -214,11 +242,14 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     StoppableCalls calls(given.calls, stop);
     ConversionOptions options = given;
     options.calls = calls;
+    const std::optional<TagOptions> tags = tagOptions(entries, options);
+    options.tagged = tags.has_value();
     PDFContext context(path, {.info = options.info,
                               .encryption = encryptionFor(options.security),
                               .oneSource = entries.size() == 1,
                               .keepInfo = options.keepInfo,
                               .sourceBookmarks = hasThoseOfSources(options.bookmarks),
+                              .tags = tags,
                               .inputPasswords = options.inputPasswords,
                               .flush = options.flush,
                               .mayReplace = options.overwrite != Overwrite::Never,
@@ -243,7 +274,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
         outcome.close = failure.isEmpty() ? closeContext(context, path, fileName, options)
                                           : notWritten(failure);
         leaveInTheEnd(outcome.close.left, outcome.entries);
-        std::ranges::copy(namePartlyTagged(entries, outcome.entries),
+        std::ranges::copy(namePartlyTagged(entries, outcome.entries, options.tagged),
                           std::back_inserter(outcome.close.warnings));
     }
     if (stop.stop_requested() && outcome.close.status != CloseResult::Status::Written) {

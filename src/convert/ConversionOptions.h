@@ -4,6 +4,7 @@
 
 #include "compress/QuartzFilter.h"
 #include "convert/ImagePlacement.h"
+#include "convert/PictureDescriptions.h"
 #include "pdf/PDFContext.h"
 #include "text/FontCascade.h"
 #include "text/PageSetup.h"
@@ -59,6 +60,10 @@ struct ConversionOptions {
     DocumentInfo info;
     bool keepInfo = false; ///< The first source PDF gives what `info` lacks.
     Bookmarks bookmarks = Bookmarks::Sources;
+    bool tagged = false; ///< Texts and pictures are tagged; else only beside a PDF that is.
+    QString language;    ///< That of texts and descriptions, a language tag (BCP 47).
+    PictureDescriptions
+        descriptions; ///< Of a picture without one, what its file says, or its name.
     SecuritySettings security;
     InputPasswords inputPasswords; ///< Of PDFs that are sources.
     PageSetup textPage{TextPageA4, 0, 0, {72, 72, 72, 72}};

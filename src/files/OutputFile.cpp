@@ -162,6 +162,15 @@ void OutputFile::overwrite(qint64 offset, const QByteArray &bytes) {
     }
 }
 
+void OutputFile::cutTo(qint64 size) {
+    drain();
+    if (m_calls.ftruncate(m_file.get(), size) != 0 ||
+        ::lseek(m_file.get(), size, SEEK_SET) != size) {
+        fail(kNotWritten);
+    }
+    m_size = size;
+}
+
 Warnings OutputFile::finish(Flush flush) {
     drain();
     if (m_part && m_calls.fchmod(m_file.get(), m_mode) != 0 && errno != EPERM && errno != ENOTSUP) {

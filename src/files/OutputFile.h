@@ -43,6 +43,8 @@ class OutputFile {
     QByteArray read(qint64 offset, qint64 size);
     /// Replaces bytes already written. Throws Error.
     void overwrite(qint64 offset, const QByteArray &bytes);
+    /// Removes the bytes from `size` on; what is appended next follows there. Throws Error.
+    void cutTo(qint64 size);
     /// Bytes appended so far.
     [[nodiscard]] qint64 size() const { return m_size; }
 

@@ -86,6 +86,16 @@ QString producerName() {
     return QStringLiteral("Folioforge " FOLIOFORGE_VERSION);
 }
 
+void showTitle(QPDF &document) {
+    auto catalog = document.getRoot();
+    auto preferences = catalog.getKey("/ViewerPreferences");
+    if (!preferences.isDictionary()) {
+        preferences = QPDFObjectHandle::newDictionary();
+        catalog.replaceKey("/ViewerPreferences", preferences);
+    }
+    preferences.replaceKey("/DisplayDocTitle", QPDFObjectHandle::newBool(true));
+}
+
 void writeDocumentInfo(QPDF &document, const DocumentInfo &info) {
     auto dictionary = QPDFObjectHandle::newDictionary();
     const auto put = [&](const char *key, const QString &text) {

@@ -37,6 +37,10 @@ void takeMissingInfo(DocumentInfo &info, QPDF &source);
 /// The producer that is written.
 QString producerName();
 
+/// Makes readers show the title of `document`, whose catalog is written, in place of its file's
+/// name.
+void showTitle(QPDF &document);
+
 /// Writes the document information, with its creation date valid, into `document`.
 void writeDocumentInfo(QPDF &document, const DocumentInfo &info);
 

@@ -6,6 +6,9 @@
 #include "pdf/Password.h"
 #include "pdf/QpdfErrors.h"
 #include "pdf/XmpPacket.h"
+#include "pdf/tags/CrossReferences.h"
+#include "pdf/tags/ObjectStreams.h"
+#include "pdf/tags/StreamCipher.h"
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
@@ -60,16 +63,21 @@ std::string infoText(QPDF &document) {
     return document.getTrailer().getKey("/Info").unparseResolved();
 }
 
+/// Puts zeros in the place of the identifier of `trailer`. Returns the checksum of the file as it
+/// then is.
+std::uint32_t clearId(Trailer &trailer, std::uint32_t checksum) {
+    // CRC-32 is linear, so two sums over the trailer replace the library's digits by zeros in it.
+    checksum ^= checksumOf(trailer.bytes);
+    putId(trailer, QByteArray(kIdDigits, '0'));
+    return checksum ^ checksumOf(trailer.bytes);
+}
+
 /// Replaces the identifier, which the library derives from the time, by one that follows from the
 /// document. `checksum` is the CRC-32 of the file; the library's deterministic identifier is an
 /// MD5 over all bytes, which takes as long as reading them from a disk.
 void replaceId(QPDF &document, OutputFile &file, std::uint32_t checksum) {
     Trailer trailer = readTrailer(file);
-    // CRC-32 is linear, so two sums over the trailer replace the library's digits by zeros in it.
-    checksum ^= checksumOf(trailer.bytes);
-    putId(trailer, QByteArray(kIdDigits, '0'));
-    checksum ^= checksumOf(trailer.bytes);
-
+    checksum = clearId(trailer, checksum);
     QCryptographicHash hash(QCryptographicHash::Md5);
     hash.addData(QByteArray::fromStdString(infoText(document)));
     hash.addData(QByteArray::number(file.size()) + ' ' + QByteArray::number(checksum));
@@ -121,21 +129,50 @@ void applyForm(QPDFWriter &writer, const DocumentForm &form) {
     writer.setMinimumPDFVersion(form.version);
 }
 
+namespace {
+
+/// Writes `further` objects in the place of the library's cross-reference stream, and their own
+/// behind them.
+void writeFurther(QPDFWriter &writer, OutputFile &file, OutputPipeline &pipeline,
+                  const StreamCipher *cipher, const FurtherObjects &further) {
+    Trailer trailer = readTrailer(file);
+    CrossReferences references(trailer.bytes);
+    pipeline.setChecksum(clearId(trailer, pipeline.checksum()));
+    file.cutTo(trailer.start);
+    ObjectStreams streams(pipeline, trailer.start, references, cipher);
+    const auto numberOf = [&writer](const QPDFObjectHandle &object) {
+        return writer.getRenumberedObjGen(object.getObjGen()).getObj();
+    };
+    further(numberOf, streams);
+    streams.finish();
+}
+
+} // namespace
+
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
-                   const DocumentForm &form) {
+                   const DocumentForm &form, const FurtherObjects &further) {
     OutputPipeline pipeline(file);
     translateQpdfErrors([&] {
+        const auto model = further && encryption ? encryptedLike(*encryption) : nullptr;
         QPDFWriter writer(document);
         writer.setOutputPipeline(&pipeline);
         applyForm(writer, form);
         writer.setCompressStreams(true);
         writer.setDecodeLevel(qpdf_dl_none);
-        if (encryption) {
+        if (model) {
+            writer.copyEncryptionParameters(*model);
+        } else if (encryption) {
             applyEncryption(writer, *encryption);
         }
         writer.registerProgressReporter(std::make_shared<QPDFWriter::FunctionProgressReporter>(
             [&](int) { pipeline.throwFailure(); }));
         writer.write();
+        pipeline.throwFailure();
+        if (further) {
+            const auto cipher =
+                model ? std::optional(StreamCipher(model->getEncryptionKey())) : std::nullopt;
+            writeFurther(writer, file, pipeline, cipher ? &*cipher : nullptr, further);
+        }
     });
     pipeline.throwFailure();
     replaceId(document, file, pipeline.checksum());

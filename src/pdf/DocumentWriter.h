@@ -9,15 +9,18 @@
 #include <qpdf/Pipeline.hh>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 class QPDF;
+class QPDFObjectHandle;
 class QPDFWriter;
 
 namespace folioforge {
 
 struct Claims;
 struct Encryption;
+class ObjectStreams;
 
 /// Writes libqpdf's output to a file. The library also writes in destructors, where an exception
 /// would end the program: a failure is stored, and throwFailure() throws it.
@@ -32,6 +35,8 @@ class OutputPipeline final : public Pipeline {
     void throwFailure() const;
     /// CRC-32 of all bytes so far.
     [[nodiscard]] std::uint32_t checksum() const { return m_checksum; }
+    /// What counts as the checksum of the bytes so far.
+    void setChecksum(std::uint32_t checksum) { m_checksum = checksum; }
 
   private:
     OutputFile &m_file;
@@ -55,10 +60,15 @@ DocumentForm formFor(const Claims &claims);
 /// Makes `writer` write that form.
 void applyForm(QPDFWriter &writer, const DocumentForm &form);
 
+/// The number that an object of a document has in the file that is written.
+using ObjectNumbers = std::function<int(const QPDFObjectHandle &)>;
+/// Writes further objects behind those of a document.
+using FurtherObjects = std::function<void(const ObjectNumbers &, ObjectStreams &)>;
+
 /// Writes `document` to `file`, compressed. The /ID follows from the bytes,
 /// so that an unencrypted document is always written the same. A null `encryption` means none.
-/// Throws Error.
+/// Where there are `further` objects, the form must not be the classic one. Throws Error.
 void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
-                   const DocumentForm &form);
+                   const DocumentForm &form, const FurtherObjects &further = {});
 
 } // namespace folioforge

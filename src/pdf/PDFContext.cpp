@@ -13,6 +13,8 @@
 #include "pdf/import/DocumentCatalog.h"
 #include "pdf/import/DocumentImport.h"
 #include "pdf/import/SourceDocument.h"
+#include "pdf/tags/DrawnTags.h"
+#include "pdf/tags/StructureElements.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -39,7 +41,7 @@ class PDFContext::Impl {
   public:
     Impl(QString path, Settings settings);
 
-    void endPage() { m_catalog.addPage(m_pages.endPage()); }
+    void endPage() { m_catalog.addPage(m_pages.endPage(pageCount())); }
     void drawArtifact(int page, const std::function<void()> &draw);
     QDateTime creationDate();
     AddedDocument addDocument(const QString &sourcePath, const PageChoice &choice);
@@ -49,6 +51,7 @@ class PDFContext::Impl {
     [[nodiscard]] Mark mark() const { return {pageCount(), m_streams.stored()}; }
     void rollBack(const Mark &mark);
     PageDrawer &pages() { return m_pages; }
+    DrawnTags *tags() { return m_settings.tags ? &m_tags : nullptr; }
     [[nodiscard]] int pageCount() const { return m_catalog.pageCount(); }
     [[nodiscard]] QSizeF pageSize(int index) const {
         return sizeOfPage(m_catalog.pages()[static_cast<std::size_t>(index)]);
@@ -67,7 +70,9 @@ class PDFContext::Impl {
     std::shared_ptr<SourceReader> m_reader = std::make_shared<SourceReader>(m_settings.calls);
     StreamData m_streams{m_document, m_reader, m_settings.calls};
     DocumentCatalog m_catalog;
-    PageDrawer m_pages{m_document, m_streams};
+    DrawnTags m_tags;
+    std::optional<DrawnStructure> m_drawn; ///< Nothing where no page that was drawn is tagged.
+    PageDrawer m_pages{m_document, m_streams, tags()};
     std::map<std::string, SharedStreams> m_sourceStreams; ///< By source file.
     qsizetype m_longestStream = 0; ///< Bytes, of those that the library copies by itself.
 };
@@ -129,6 +134,7 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
 
 void PDFContext::Impl::rollBack(const Mark &mark) {
     m_catalog.truncatePages(mark.pages);
+    m_tags.truncatePages(mark.pages);
     if (m_streams.rollBack(mark.stored)) {
         m_pages.forgetImages();
     }
@@ -143,8 +149,18 @@ void PDFContext::Impl::finishDocument() {
     translateQpdfErrors([&] {
         m_pages.embedFonts();
         fixCreationDate(m_settings.info);
+        const QString title = m_settings.tags ? m_settings.tags->title : QString();
+        if (m_settings.info.title.isEmpty()) {
+            m_settings.info.title = title;
+        }
         writeDocumentInfo(m_document, m_settings.info);
-        m_catalog.finish(m_document, m_settings.info);
+        if (!m_tags.pages().empty()) {
+            m_drawn = makeStructure(m_document, m_tags, m_settings.tags->language.toStdString());
+        }
+        m_catalog.finish(m_document, m_settings.info, m_drawn ? &*m_drawn : nullptr);
+        if (!title.isEmpty()) {
+            showTitle(m_document);
+        }
     });
 }
 
@@ -176,7 +192,13 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         m_reader->beginAnew();
         OutputFile file(m_path, m_settings.calls);
         translateQpdfErrors([&] { requireRoomForStream(m_longestStream); });
-        writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.form());
+        FurtherObjects elements;
+        if (m_drawn) {
+            elements = [this](const ObjectNumbers &numberOf, ObjectStreams &streams) {
+                writeElements(m_tags, *m_drawn, m_catalog.pages(), numberOf, streams);
+            };
+        }
+        writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.form(), elements);
         m_reader->finish();
         translateQpdfErrors([&] { requireAllObjects(m_document, *m_reader); });
         Warnings warnings = file.finish(m_settings.flush);
@@ -194,6 +216,18 @@ PDFContext::PDFContext(QString path, Settings settings)
 
 PDFContext::~PDFContext() = default;
 
+void PDFContext::beginSource(const QString &name) {
+    if (DrawnTags *tags = m_impl->tags()) {
+        tags->beginSource(name);
+    }
+}
+
+void PDFContext::beginParagraph() {
+    if (DrawnTags *tags = m_impl->tags()) {
+        tags->beginParagraph();
+    }
+}
+
 void PDFContext::beginPage(const QRectF &mediaBox) {
     m_impl->pages().beginPage(mediaBox);
 }
@@ -207,31 +241,24 @@ void PDFContext::setFont(std::shared_ptr<const FontCascade> font, double size) {
 }
 
 void PDFContext::showGlyphsAtPoint(double x, double y, std::span<const Glyph> glyphs) {
-    translateQpdfErrors([&] {
-        if (TextContent *to = m_impl->pages().text()) {
-            to->showGlyphs(x, y, glyphs);
-        }
-    });
+    translateQpdfErrors([&] { m_impl->pages().showGlyphs(x, y, glyphs); });
 }
 
 void PDFContext::beginActualText(QStringView text) {
-    if (TextContent *to = m_impl->pages().text()) {
-        to->beginActualText(text);
-    }
+    m_impl->pages().beginActualText(text);
 }
 
 void PDFContext::endActualText() {
-    if (TextContent *to = m_impl->pages().text()) {
-        to->endActualText();
-    }
+    m_impl->pages().endActualText();
 }
 
 void PDFContext::clipToRect(const QRectF &rect) {
     m_impl->pages().clipToRect(rect);
 }
 
-void PDFContext::drawImage(const QRectF &rect, PdfImage image, int orientation) {
-    translateQpdfErrors([&] { m_impl->pages().drawImage(rect, image, orientation); });
+void PDFContext::drawImage(const QRectF &rect, PdfImage image, int orientation,
+                           const QString &description) {
+    translateQpdfErrors([&] { m_impl->pages().drawImage(rect, image, orientation, description); });
 }
 
 void PDFContext::endPage() {

@@ -9,6 +9,7 @@
 #include "pdf/DocumentParts.h"
 #include "pdf/PageChoice.h"
 #include "pdf/Password.h"
+#include "pdf/tags/TagOptions.h"
 #include "text/FontCascade.h"
 
 #include <QRectF>
@@ -16,6 +17,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -58,8 +60,9 @@ class PDFContext {
         bool oneSource = false;
         /// Whether the first source document with pages gives what `info` lacks.
         bool keepInfo = false;
-        bool sourceBookmarks = true;   ///< Whether those of source documents are taken.
-        InputPasswords inputPasswords; ///< Of source documents.
+        bool sourceBookmarks = true;    ///< Whether those of source documents are taken.
+        std::optional<TagOptions> tags; ///< Nothing: pages that are drawn are not tagged.
+        InputPasswords inputPasswords;  ///< Of source documents.
         Flush flush = Flush::Always;
         bool mayReplace = false; ///< The document takes the place of a file of its name.
         /// Every file is written and every source is read through these.
@@ -72,7 +75,12 @@ class PDFContext {
     PDFContext(const PDFContext &) = delete;
     PDFContext &operator=(const PDFContext &) = delete;
 
+    /// What is drawn from now on, up to the next source, is the content of the file `name`: an
+    /// element of the structure tree where pages are tagged, like what follows.
+    void beginSource(const QString &name);
     void beginPage(const QRectF &mediaBox);
+    /// What is shown from now on, on this page and those after it, is a paragraph.
+    void beginParagraph();
     /// Components from 0 to 1.
     void setRGBFillColor(double red, double green, double blue);
     /// Sets the font of the glyphs that follow, at `size` points.
@@ -84,8 +92,9 @@ class PDFContext {
     void beginActualText(QStringView text);
     void endActualText();
     /// Draws the image into the rectangle, turned inside it as `orientation` (EXIF, 1 to 8) says.
-    /// Throws Error.
-    void drawImage(const QRectF &rect, PdfImage image, int orientation);
+    /// `description` tells those of it who do not see it. Throws Error.
+    void drawImage(const QRectF &rect, PdfImage image, int orientation,
+                   const QString &description = {});
     /// Of what is drawn on the page from now on, only what lies inside `rect` (points) is shown.
     void clipToRect(const QRectF &rect);
     void endPage();

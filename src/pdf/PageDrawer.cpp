@@ -5,6 +5,7 @@
 #include "pdf/ContentNumber.h"
 #include "pdf/OrientedMatrix.h"
 #include "pdf/StreamData.h"
+#include "pdf/tags/DrawnTags.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -31,9 +32,10 @@ bool sameNamesFirst(const TextContent::Resources &left, const TextContent::Resou
 
 } // namespace
 
-PageDrawer::PageDrawer(QPDF &document, StreamData &streams)
+PageDrawer::PageDrawer(QPDF &document, StreamData &streams, DrawnTags *tags)
     : m_document(document)
     , m_streams(streams)
+    , m_tags(tags)
     , m_images(document, streams)
     , m_fontResources(&sameNamesFirst) {}
 
@@ -53,6 +55,7 @@ void PageDrawer::endText() {
     if (m_page.text) {
         m_page.text->end();
     }
+    endContent();
 }
 
 void PageDrawer::setFont(std::shared_ptr<const FontCascade> font, double size) {
@@ -105,6 +108,9 @@ void PageDrawer::beginPage(const QRectF &mediaBox) {
     m_page.images.clear();
     m_page.fillColor = {};
     m_page.mediaBox = mediaBox;
+    if (m_tags) {
+        m_tags->beginPage();
+    }
 }
 
 FontEmbedder &PageDrawer::embedder() {
@@ -124,7 +130,42 @@ TextContent *PageDrawer::text() {
     return m_font ? &*m_page.text : nullptr;
 }
 
-QPDFObjectHandle PageDrawer::endPage() {
+void PageDrawer::showGlyphs(double x, double y, std::span<const Glyph> glyphs) {
+    TextContent *to = text();
+    if (!to || glyphs.empty()) {
+        return;
+    }
+    if (m_tags && !m_inArtifact) {
+        if (const auto content = m_tags->contentForText()) {
+            to->beginContent(*content);
+        }
+    }
+    to->showGlyphs(x, y, glyphs);
+}
+
+/// In tagged content a span is a marked content of its own: there are readers that lose what
+/// follows one inside another.
+void PageDrawer::beginActualText(QStringView read) {
+    if (TextContent *to = text()) {
+        to->beginActualText(read);
+        endContent();
+    }
+}
+
+void PageDrawer::endActualText() {
+    if (TextContent *to = text()) {
+        to->endActualText();
+        endContent();
+    }
+}
+
+void PageDrawer::endContent() {
+    if (m_tags) {
+        m_tags->endContent();
+    }
+}
+
+QPDFObjectHandle PageDrawer::endPage(int page) {
     endText();
     auto dictionary = QPDFObjectHandle::newDictionary();
     dictionary.replaceKey("/Type", m_pageType);
@@ -133,12 +174,19 @@ QPDFObjectHandle PageDrawer::endPage() {
     if (!m_page.content.empty()) {
         dictionary.replaceKey("/Contents", m_streams.pageContent(m_page.content));
     }
+    if (m_tags) {
+        if (const auto key = m_tags->endPage(page)) {
+            dictionary.replaceKey("/StructParents", QPDFObjectHandle::newInteger(*key));
+        }
+        dictionary.replaceKey("/Tabs", m_tabOrder);
+    }
     beginPage({});
     return m_document.makeIndirectObject(dictionary);
 }
 
 void PageDrawer::beginArtifact(QPDFObjectHandle page) {
     beginPage({});
+    m_inArtifact = true;
     if (auto fonts = page.getKey("/Resources").getKey("/Font"); fonts.isDictionary()) {
         m_page.fonts = fonts.getDictAsMap();
     }
@@ -147,6 +195,7 @@ void PageDrawer::beginArtifact(QPDFObjectHandle page) {
 
 void PageDrawer::endArtifact(QPDFObjectHandle page) {
     endText();
+    m_inArtifact = false;
     m_page.content += "EMC";
     auto contents = QPDFObjectHandle::newArray();
     if (auto drawn = page.getKey("/Contents"); drawn.isStream()) {
@@ -158,8 +207,13 @@ void PageDrawer::endArtifact(QPDFObjectHandle page) {
     beginPage({});
 }
 
-void PageDrawer::drawImage(const QRectF &rect, const PdfImage &image, int orientation) {
+void PageDrawer::drawImage(const QRectF &rect, const PdfImage &image, int orientation,
+                           const QString &description) {
     endText();
+    if (m_tags) {
+        m_page.content +=
+            "/Figure<</MCID " + std::to_string(m_tags->addFigure(description, rect)) + ">>BDC ";
+    }
     const std::string name = "/Im" + std::to_string(m_page.images.size());
     m_page.images[name] = m_images.embed(image);
     const Matrix matrix = orientedMatrix(rect, orientation);
@@ -167,7 +221,7 @@ void PageDrawer::drawImage(const QRectF &rect, const PdfImage &image, int orient
     for (const double value : {matrix.a, matrix.b, matrix.c, matrix.d, matrix.e, matrix.f}) {
         appendNumber(m_page.content, value);
     }
-    m_page.content += "cm " + name + " Do Q\n";
+    m_page.content += "cm " + name + (m_tags ? " Do Q EMC\n" : " Do Q\n");
 }
 
 void PageDrawer::clipToRect(const QRectF &rect) {

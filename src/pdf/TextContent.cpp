@@ -74,9 +74,20 @@ void TextContent::show(Operator how) {
     m_content.append("(").append(m_run).append(how == Operator::Show ? ")Tj" : ")'");
 }
 
+void TextContent::beginContent(std::uint32_t number) {
+    m_begin = "/MCID " + std::to_string(number);
+}
+
+void TextContent::endContent() {
+    if (m_inContent) {
+        m_content += " EMC";
+        m_inContent = false;
+    }
+}
+
 void TextContent::beginActualText(QStringView text) {
     // In UTF-16, whose mark leads.
-    m_actual = "/Span<</ActualText<FEFF";
+    m_actual = "/ActualText<FEFF";
     for (const QChar unit : text) {
         constexpr int kHexadecimal = 16;
         constexpr int kDigits = 4;
@@ -84,7 +95,7 @@ void TextContent::beginActualText(QStringView text) {
                         .rightJustified(kDigits, '0')
                         .toStdString();
     }
-    m_actual += ">>>BDC ";
+    m_actual += ">";
 }
 
 void TextContent::endActualText() {
@@ -95,6 +106,21 @@ void TextContent::endActualText() {
     }
 }
 
+/// Opens what is to begin with the glyphs that are shown next.
+void TextContent::openMarks() {
+    if (!m_begin.empty()) {
+        endContent();
+        m_content += m_actual.empty() ? "/P<<" : "/Span<<";
+        m_content.append(m_begin).append(m_actual).append(">>BDC");
+        m_inContent = true;
+    } else if (!m_actual.empty()) {
+        m_content.append(" /Span<<").append(m_actual).append(">>BDC ");
+        m_inSpan = true;
+    }
+    m_begin.clear();
+    m_actual.clear();
+}
+
 void TextContent::showGlyphs(double x, double y, std::span<const Glyph> glyphs) {
     if (glyphs.empty() || m_fonts.cascade().faceCount() == 0) {
         return;
@@ -102,11 +128,7 @@ void TextContent::showGlyphs(double x, double y, std::span<const Glyph> glyphs) 
     if (!m_open) {
         open(x, y);
     }
-    if (!m_actual.empty()) {
-        m_content.append(" ").append(m_actual);
-        m_actual.clear();
-        m_inSpan = true;
-    }
+    openMarks();
     Operator how = moveTo(x, y);
     while (!glyphs.empty()) {
         glyphs = takeRun(glyphs);
@@ -139,6 +161,7 @@ std::span<const Glyph> TextContent::takeRun(std::span<const Glyph> glyphs) {
 
 void TextContent::end() {
     if (m_open) {
+        endContent();
         m_content += " ET ";
         m_open = false;
     }

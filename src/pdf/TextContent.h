@@ -27,6 +27,9 @@ class TextContent {
     /// `content` receives the operators and `resources` the fonts in use; `size` is in points.
     TextContent(std::string &content, Resources &resources, FontEmbedder &fonts, double size);
 
+    /// What is shown from now on is the marked content `number` of a paragraph (ISO 32000-1,
+    /// 14.7.4.2), up to the next one or end().
+    void beginContent(std::uint32_t number);
     /// Draws `glyphs` from the baseline point on.
     void showGlyphs(double x, double y, std::span<const Glyph> glyphs);
     /// Begins and ends a span that is read as `text`; empty spans are left out.
@@ -45,6 +48,8 @@ class TextContent {
     std::span<const Glyph> takeRun(std::span<const Glyph> glyphs);
     void selectFont(std::uint16_t font);
     void show(Operator how);
+    void openMarks();
+    void endContent();
 
     std::string &m_content;
     Resources &m_resources;
@@ -55,7 +60,9 @@ class TextContent {
     double m_x = 0;           ///< Start of the current line as a reader computes it.
     double m_y = 0;
     double m_leading = 0; ///< The current leading, positive upwards.
-    std::string m_actual; ///< What opens a span that has shown nothing so far.
+    std::string m_begin;  ///< The number of a marked content that has shown nothing so far.
+    bool m_inContent = false;
+    std::string m_actual; ///< What a span is read as that has shown nothing so far.
     bool m_inSpan = false;
     std::string m_run; ///< Codes of one font, escaped.
 };

@@ -156,6 +156,9 @@ Warnings layOutText(QStringView text, QSizeF pageSize, const PageMargins &margin
         const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), endsLine);
         const qsizetype length = end - text.utf16();
         QStringView line = text.first(length);
+        if (!line.isEmpty()) {
+            sink.beginParagraph();
+        }
         while (goesOn && !line.isEmpty()) {
             goesOn = pages.addRow(breaker.takeRow(line));
         }

@@ -23,9 +23,14 @@ class TextPageSink {
     TextPageSink &operator=(const TextPageSink &) = delete;
     virtual ~TextPageSink() = default;
 
+    /// Whether rows come in the order in which they are read, from right to left where that is so,
+    /// and blanks that are not seen with them: those between the words of which lines break.
+    [[nodiscard]] virtual bool wantsReadingOrder() const { return false; }
     /// Asked before each page: false ends the text there.
     [[nodiscard]] virtual bool wantsPage() { return true; }
     virtual void beginPage() = 0;
+    /// The rows that follow, on this page and those after it, are a paragraph.
+    virtual void beginParagraph() {}
     /// A row whose baseline starts at (x, y). `glyphs` are valid during the call.
     virtual void showRow(double x, double y, std::span<const Glyph> glyphs) = 0;
     /// What is shown until endReading() is read as `text`, whatever each glyph stands for.

@@ -226,11 +226,12 @@ class ConversionTest : public QObject, protected test::ConversionCase {
         const auto tagged = test::headingAndText("a", "b");
         QVERIFY(tagged.write(path("tagged.pdf")));
         addFile(path("tagged.pdf"));
+        addFile(test::writePdf(path("plain.pdf"), 1));
         addText("plain.txt", "words\n");
         const Warnings warnings = convertTo(path("out/both.pdf")).close.warnings;
         QCOMPARE(warnings.size(), 1U);
         QCOMPARE(warnings.front().name() + u": "_s + warnings.front().text,
-                 u"partly-tagged: Not all of the PDF is tagged, as these are not: plain.txt"_s);
+                 u"partly-tagged: Not all of the PDF is tagged, as these are not: plain.pdf"_s);
     }
 
     void aSourceWithTagsAloneNeedsNoWarning() {

@@ -128,7 +128,8 @@ class FaultsTest : public QObject, private WholeRun {
         const std::vector<std::pair<const char *, Kind>> kinds{{"single", {}},
                                                                {"merged", {true, false, 0}},
                                                                {"protected", {true, true, 0}},
-                                                               {"compressed", {false, false, 1}}};
+                                                               {"compressed", {false, false, 1}},
+                                                               {"tagged", {false, false, 0, true}}};
         const QString nameless = u"openAnonymous"_s;
         const QString exclusive = u"renameExclusive"_s;
         for (const auto &[name, kind] : kinds) {

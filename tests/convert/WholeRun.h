@@ -32,6 +32,7 @@ class WholeRun {
         bool merge = false;
         bool isProtected = false;
         int compressIndex = 0;
+        bool tagged = false;
     };
 
     struct Outcome {
@@ -95,6 +96,7 @@ class WholeRun {
         options.merge = kind.merge;
         options.outputName = QStringLiteral("photo");
         options.compressIndex = kind.compressIndex;
+        options.tagged = kind.tagged;
         options.security.useUserPassword = kind.isProtected;
         options.security.userPassword = kPassword;
         options.calls = calls;

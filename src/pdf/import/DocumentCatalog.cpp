@@ -41,7 +41,7 @@ Warnings DocumentCatalog::addDocument(ImportedDocument imported) {
 }
 
 void DocumentCatalog::merge(const ImportedDocument &imported, int firstPage, QPDF &document) {
-    m_structure.add(imported.structure, imported.pages.size(), imported.scope);
+    m_structure.add(imported.structure, imported.pages.size(), imported.scope, firstPage);
     m_language.add(imported.structure);
     m_bookmarks.add(imported.bookmarks, firstPage);
     m_forms.add(imported.form, document);
@@ -79,10 +79,15 @@ DocumentForm DocumentCatalog::form() const {
     return form;
 }
 
-void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info) {
+void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info,
+                             const DrawnStructure *drawn) {
     for (Added &added : m_documents) {
         merge(added.document, added.firstPage, document);
         added.document = {}; // Its lists would take the memory twice.
+    }
+    const std::size_t drawnPages = m_pages.size() - m_importedPages;
+    if (drawn) {
+        m_structure.add(*drawn, drawnPages);
     }
     buildPageTree(document, m_pages);
     m_structure.finish(document, m_pages.size());
@@ -94,9 +99,9 @@ void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info) {
     m_attachments.finish(document);
     m_threads.finish(document);
     m_pageLabels.finish(document);
-    if (m_pages.size() > m_importedPages) {
+    if (drawnPages > 0) {
         m_outputIntents.addDrawnPage();
-        m_language.addDrawnPage();
+        m_language.addDrawn(drawn ? drawn->language : std::string());
     }
     m_language.finish(document);
     putCatalogParts(document, m_parts);

@@ -42,8 +42,8 @@ class DocumentCatalog {
     [[nodiscard]] const TakenNames &names() const { return m_names; }
 
     /// Writes the page tree and every topic, with `info`, which is written already, in the
-    /// metadata. Call it once.
-    void finish(QPDF &document, const DocumentInfo &info);
+    /// metadata. A null `drawn` means that pages which were drawn are not tagged. Call it once.
+    void finish(QPDF &document, const DocumentInfo &info, const DrawnStructure *drawn = nullptr);
     /// What sources brought that could not be for the whole document; known when it is finished.
     [[nodiscard]] std::vector<PartKind> leftInTheEnd() const;
 

@@ -23,12 +23,15 @@ bool saysLanguageAlone(const ImportedStructure &structure) {
 }
 
 void LanguageMerger::add(const ImportedStructure &structure) {
-    const std::string language = languageOf(structure);
+    addDrawn(languageOf(structure));
+    m_anyAlone = m_anyAlone || saysLanguageAlone(structure);
+}
+
+void LanguageMerger::addDrawn(const std::string &language) {
     if (!m_first) {
         m_first = language;
     }
     m_agree = m_agree && language == *m_first;
-    m_anyAlone = m_anyAlone || saysLanguageAlone(structure);
 }
 
 void LanguageMerger::finish(QPDF &document) const {

@@ -20,8 +20,8 @@ bool saysLanguageAlone(const ImportedStructure &structure);
 class LanguageMerger {
   public:
     void add(const ImportedStructure &structure);
-    /// A page that no source brought is in the document.
-    void addDrawnPage() { m_agree = false; }
+    /// The language of pages that no source brought; empty where it is not known.
+    void addDrawn(const std::string &language);
     /// Whether sources have said a language that the document does not say.
     [[nodiscard]] bool isLeft() const { return m_anyAlone && !m_agree; }
     void finish(QPDF &document) const;

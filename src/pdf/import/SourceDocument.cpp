@@ -186,6 +186,17 @@ std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
     });
 }
 
+bool isTaggedSource(const QString &path, const InputPasswords &passwords, SystemCalls &calls) {
+    try {
+        const auto reader = std::make_shared<SourceReader>(calls);
+        const auto document = openSourceDocument(FileVersion::of(path), reader, passwords);
+        return translateQpdfErrors(
+            [&] { return !entry(entry(document->getRoot(), "/StructTreeRoot"), "/K").isNull(); });
+    } catch (const Error &) {
+        return false;
+    }
+}
+
 void requireSourceDocument(const QString &path, const InputPasswords &passwords) {
     openSourceDocument(FileVersion::of(path), std::make_shared<SourceReader>(), passwords);
 }

@@ -34,6 +34,11 @@ std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
                                          const std::shared_ptr<SourceReader> &reader,
                                          const InputPasswords &passwords = {});
 
+/// Whether the PDF at `path` has structure elements. False where it cannot be opened, which who
+/// takes its pages will say.
+bool isTaggedSource(const QString &path, const InputPasswords &passwords,
+                    SystemCalls &calls = SystemCalls::system());
+
 /// Throws Error where openSourceDocument() would for the PDF at `path`.
 void requireSourceDocument(const QString &path, const InputPasswords &passwords = {});
 

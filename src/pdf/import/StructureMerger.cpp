@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
+#include <ranges>
 
 namespace folioforge {
 
@@ -39,17 +41,33 @@ QPDFObjectHandle parentsOf(const MarkedContent &content) {
     return QPDFObjectHandle::newArray(parents);
 }
 
+/// The parent tree of pages that were drawn, with `tree`, which holds the `entries` of the others,
+/// behind theirs.
+QPDFObjectHandle behindDrawn(QPDF &document, QPDFObjectHandle tree, const TreeEntries &entries,
+                             const DrawnStructure &drawn) {
+    std::vector<QPDFObjectHandle> kids{drawn.parents};
+    if (!entries.empty()) {
+        tree.replaceKey("/Limits",
+                        QPDFObjectHandle::newArray({entries.front().first, entries.back().first}));
+        kids.push_back(tree);
+    }
+    auto root = document.makeIndirectObject(QPDFObjectHandle::newDictionary());
+    putItems(root, "/Kids", kids);
+    return root;
+}
+
 /// Makes the parent tree, and gives pages, forms and annotations their keys in it.
 void putParentTree(QPDF &document, const std::vector<ImportedStructure> &trees,
-                   QPDFObjectHandle root) {
+                   const DrawnStructure &drawn, QPDFObjectHandle root) {
     TreeEntries entries;
-    const auto add = [&entries](const QPDFObjectHandle &holder, const char *name,
-                                const auto &makeParents) {
+    const auto add = [&entries, first = drawn.keys](const QPDFObjectHandle &holder,
+                                                    const char *name, const auto &makeParents) {
         auto dictionary = dictionaryOf(holder);
         if (!dictionary.isDictionary() || dictionary.hasKey(name)) {
             return;
         }
-        const auto key = QPDFObjectHandle::newInteger(static_cast<long long>(entries.size()));
+        const auto key =
+            QPDFObjectHandle::newInteger(first + static_cast<long long>(entries.size()));
         dictionary.replaceKey(name, key);
         entries.emplace_back(key, makeParents());
     };
@@ -67,9 +85,12 @@ void putParentTree(QPDF &document, const std::vector<ImportedStructure> &trees,
             again.replaceKey("/StructParents", page.getKey("/StructParents"));
         }
     }
-    root.replaceKey("/ParentTree", buildTree(document, entries, "/Nums"));
-    root.replaceKey("/ParentTreeNextKey",
-                    QPDFObjectHandle::newInteger(static_cast<long long>(entries.size())));
+    auto tree = buildTree(document, entries, "/Nums");
+    const auto next =
+        QPDFObjectHandle::newInteger(drawn.keys + static_cast<long long>(entries.size()));
+    root.replaceKey("/ParentTree",
+                    drawn.keys > 0 ? behindDrawn(document, tree, entries, drawn) : tree);
+    root.replaceKey("/ParentTreeNextKey", next);
 }
 
 /// Joins what the roots hold beside their trees, such as namespaces.
@@ -110,8 +131,8 @@ std::vector<QPDFObjectHandle> documentsOf(const ImportedStructure &tree, QPDF &d
 
 } // namespace
 
-void StructureMerger::add(const ImportedStructure &structure, std::size_t pages,
-                          ImportScope scope) {
+void StructureMerger::add(const ImportedStructure &structure, std::size_t pages, ImportScope scope,
+                          int firstPage) {
     m_scope = scope;
     if (scope == ImportScope::WholeDocument) {
         m_wholeMarkInfo = structure.markInfo;
@@ -121,7 +142,13 @@ void StructureMerger::add(const ImportedStructure &structure, std::size_t pages,
     }
     if (!structure.kids.empty()) {
         m_trees.push_back(structure);
+        m_firstPages.push_back(firstPage);
     }
+}
+
+void StructureMerger::add(const DrawnStructure &structure, std::size_t pages) {
+    m_drawn = structure;
+    m_markedPages += pages;
 }
 
 QPDFObjectHandle StructureMerger::markInfo(std::size_t pages) const {
@@ -144,27 +171,37 @@ std::vector<QPDFObjectHandle> StructureMerger::topElements(QPDF &document) const
     if (m_scope == ImportScope::WholeDocument) {
         return m_trees.front().kids;
     }
-    std::vector<QPDFObjectHandle> elements;
-    for (const ImportedStructure &tree : m_trees) {
-        for (QPDFObjectHandle element : documentsOf(tree, document)) {
-            QPDFObjectHandle language = tree.language;
+    std::multimap<int, QPDFObjectHandle> elements; // By first page.
+    for (std::size_t i = 0; i < m_trees.size(); ++i) {
+        for (QPDFObjectHandle element : documentsOf(m_trees[i], document)) {
+            QPDFObjectHandle language = m_trees[i].language;
             if (language.isString() && !element.hasKey("/Lang")) {
                 element.replaceKey("/Lang", language);
             }
-            elements.push_back(element);
+            elements.emplace(m_firstPages[i], element);
         }
     }
-    return elements;
+    if (m_drawn) {
+        for (const DrawnDocument &drawn : m_drawn->documents) {
+            elements.emplace(drawn.firstPage, drawn.element);
+        }
+    }
+    std::vector<QPDFObjectHandle> inOrder;
+    std::ranges::copy(std::views::values(elements), std::back_inserter(inOrder));
+    return inOrder;
 }
 
 void StructureMerger::finish(QPDF &document, std::size_t pages) {
     auto catalog = document.getRoot();
     const bool whole = m_scope == ImportScope::WholeDocument;
     catalog.replaceKey("/MarkInfo", whole ? m_wholeMarkInfo : markInfo(pages));
-    if (m_trees.empty()) {
+    if (m_trees.empty() && !m_drawn) {
         return;
     }
-    auto root = document.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /StructTreeRoot >>"));
+    auto root =
+        m_drawn
+            ? m_drawn->root
+            : document.makeIndirectObject(QPDFObjectHandle::parse("<< /Type /StructTreeRoot >>"));
     catalog.replaceKey("/StructTreeRoot", root);
     const auto elements = topElements(document);
     for (QPDFObjectHandle element : elements) {
@@ -172,7 +209,7 @@ void StructureMerger::finish(QPDF &document, std::size_t pages) {
     }
     putItems(root, "/K", elements);
     putProperties(m_trees, root);
-    putParentTree(document, m_trees, root);
+    putParentTree(document, m_trees, m_drawn.value_or(DrawnStructure()), root);
     mergeIdentifiers(document, m_trees, root); // Classes may name header cells.
     if (whole) {
         putNames(m_trees.front(), root);

@@ -4,8 +4,10 @@
 
 #include "pdf/import/ImportOptions.h"
 #include "pdf/import/StructureImport.h"
+#include "pdf/tags/StructureElements.h"
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 class QPDF;
@@ -17,8 +19,12 @@ namespace folioforge {
 /// is the only source stays as it was.
 class StructureMerger {
   public:
-    /// `pages` is the number of pages of the document.
-    void add(const ImportedStructure &structure, std::size_t pages, ImportScope scope);
+    /// `pages` is the number of pages of the document, `firstPage` its place in the one that is
+    /// made, from 0.
+    void add(const ImportedStructure &structure, std::size_t pages, ImportScope scope,
+             int firstPage);
+    /// Adds the structure of `pages` that were drawn.
+    void add(const DrawnStructure &structure, std::size_t pages);
     /// Writes the tree into the catalog where there is one. The document is marked as tagged where
     /// all its `pages` come from documents that are.
     void finish(QPDF &document, std::size_t pages);
@@ -28,6 +34,8 @@ class StructureMerger {
     std::vector<QPDFObjectHandle> topElements(QPDF &document) const;
 
     std::vector<ImportedStructure> m_trees;
+    std::vector<int> m_firstPages; ///< Of each tree.
+    std::optional<DrawnStructure> m_drawn;
     QPDFObjectHandle m_wholeMarkInfo = QPDFObjectHandle::newNull(); ///< Of the only source.
     ImportScope m_scope = ImportScope::OneOfSeveral;
     std::size_t m_markedPages = 0;

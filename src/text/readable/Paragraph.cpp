@@ -56,6 +56,7 @@ RowReach reachOf(const TextRun &run, const FontCascade &font) {
 Paragraph::Paragraph(QStringView text, const FontCascade &font, LineBreaks &breaks,
                      MissingGlyphs &missing)
     : m_text(text)
+    , m_blank(font.glyph(U' '))
     , m_breaks(breaks)
     , m_advances(static_cast<std::size_t>(text.size()))
     , m_begins(static_cast<std::size_t>(text.size())) {
@@ -80,7 +81,8 @@ Paragraph::Paragraph(QStringView text, const FontCascade &font, LineBreaks &brea
             m_begins[static_cast<std::size_t>(placed.first)] = true;
         }
     }
-    m_glyphs.reserve(count); // The pieces point into it.
+    // The pieces point into it. What has no glyph may be a blank.
+    m_glyphs.reserve(count + static_cast<std::size_t>(text.size()));
 }
 
 void Paragraph::shapePlain(const FontCascade &font, MissingGlyphs &missing) {
@@ -150,17 +152,30 @@ std::vector<DirectedRun> Paragraph::visualRuns(const TextRow &row) const {
                         : std::vector<DirectedRun>{{row.first, row.visible, false}};
 }
 
-std::span<const RowPiece> Paragraph::pieces(const TextRow &row) {
+std::span<const RowPiece> Paragraph::pieces(const TextRow &row, PieceOrder order) {
     m_pieces.clear();
     m_glyphs.clear();
     m_pen = 0;
+    m_order = order;
     for (const DirectedRun &part : visualRuns(row)) {
         const std::size_t count = m_runs.size();
         for (std::size_t i = 0; i < count; ++i) {
             place(m_runs[part.rightToLeft ? count - 1 - i : i], part);
         }
     }
+    if (order == PieceOrder::Read && row.visible > row.first) {
+        for (qsizetype i = row.visible; i < row.end; ++i) {
+            placeBlank(i);
+        }
+        std::ranges::stable_sort(m_pieces, {}, &RowPiece::first);
+    }
     return m_pieces;
+}
+
+void Paragraph::placeBlank(qsizetype unit) {
+    m_glyphs.push_back(m_blank);
+    m_pieces.push_back({unit, m_pen, 0, {&m_glyphs.back(), 1}});
+    m_unitsEnd = m_text.size() + 1; // Nothing goes on behind it.
 }
 
 void Paragraph::place(const Run &run, const DirectedRun &part) {
@@ -173,15 +188,19 @@ void Paragraph::place(const Run &run, const DirectedRun &part) {
             return other.first != placed->first;
         });
         if (m_text[placed->first] == u'\t') {
+            if (m_order == PieceOrder::Read) {
+                placeBlank(placed->first);
+            }
             m_pen += m_advances[static_cast<std::size_t>(placed->first)];
         } else {
-            place({placed, end});
+            place({placed, end}, run.run.rightToLeft);
         }
         placed = end;
     }
 }
 
-void Paragraph::place(std::span<const PlacedGlyph> cluster) {
+void Paragraph::place(std::span<const PlacedGlyph> cluster, bool rightToLeft) {
+    const auto before = static_cast<std::ptrdiff_t>(m_pieces.size());
     const bool isClear = std::ranges::all_of(cluster, [](const PlacedGlyph &placed) {
         return placed.hasText && placed.right == 0 && placed.up == 0;
     });
@@ -189,24 +208,35 @@ void Paragraph::place(std::span<const PlacedGlyph> cluster) {
     const QStringView readAs =
         isClear ? QStringView() : m_text.sliced(first.first, first.end - first.first);
     for (const PlacedGlyph &placed : cluster) {
-        place(placed, readAs);
+        place(placed, readAs, rightToLeft);
+    }
+    if (m_order == PieceOrder::Read && rightToLeft) {
+        std::reverse(m_pieces.begin() + before, m_pieces.end());
     }
 }
 
-void Paragraph::place(const PlacedGlyph &placed, QStringView readAs) {
+bool Paragraph::isReadNext(const PlacedGlyph &placed, bool rightToLeft) const {
+    const bool isOfSameUnits = placed.end == m_unitsEnd;
+    return m_order == PieceOrder::Drawn ||
+           (!rightToLeft && (placed.first == m_unitsEnd || isOfSameUnits));
+}
+
+void Paragraph::place(const PlacedGlyph &placed, QStringView readAs, bool rightToLeft) {
     constexpr double kTolerance = 1e-4; // Far less than a reader can show.
     const double x = m_pen + placed.right;
     const bool follows = !m_pieces.empty() && std::abs(x - m_pieceEnd) < kTolerance &&
                          m_pieces.back().up == placed.up &&
-                         m_pieces.back().readAs.data() == readAs.data();
+                         m_pieces.back().readAs.data() == readAs.data() &&
+                         isReadNext(placed, rightToLeft);
     m_glyphs.push_back(placed.glyph);
     if (follows) {
         RowPiece &piece = m_pieces.back();
         piece.glyphs = {piece.glyphs.data(), piece.glyphs.size() + 1};
     } else {
-        m_pieces.push_back({x, placed.up, {&m_glyphs.back(), 1}, readAs});
+        m_pieces.push_back({placed.first, x, placed.up, {&m_glyphs.back(), 1}, readAs});
         m_pieceEnd = x;
     }
+    m_unitsEnd = placed.end;
     m_pieceEnd += placed.glyph.advance;
     m_pen += placed.advance;
 }

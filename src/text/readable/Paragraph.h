@@ -27,12 +27,19 @@ struct TextRow {
 
 /// Glyphs of a row that follow each other without a gap.
 struct RowPiece {
-    double x = 0;  ///< Points from the left end of the row.
-    double up = 0; ///< Points above the baseline.
+    qsizetype first = 0; ///< The unit that it begins with.
+    double x = 0;        ///< Points from the left end of the row.
+    double up = 0;       ///< Points above the baseline.
     std::span<const Glyph> glyphs;
     /// What this piece and its neighbours of the same units are read as together, where a reader
     /// could not tell from the glyphs and their places; else empty.
     QStringView readAs = {};
+};
+
+/// In which order the pieces of a row come.
+enum class PieceOrder {
+    Drawn, ///< From left to right.
+    Read   ///< As they are read, with a blank for each tab and those at the row's end.
 };
 
 /// A paragraph whose characters have their glyphs and widths. It is cut into rows one by one.
@@ -54,8 +61,9 @@ class Paragraph {
     /// How far the letters of a row reach whose faces want more room than the first one; nothing
     /// where there are none.
     [[nodiscard]] RowReach reach(const TextRow &row) const;
-    /// The pieces of a row that was taken, from left to right. They live until the next call.
-    [[nodiscard]] std::span<const RowPiece> pieces(const TextRow &row);
+    /// The pieces of a row that was taken. They live until the next call.
+    [[nodiscard]] std::span<const RowPiece> pieces(const TextRow &row,
+                                                   PieceOrder order = PieceOrder::Drawn);
 
   private:
     struct Run {
@@ -71,10 +79,15 @@ class Paragraph {
     [[nodiscard]] std::vector<DirectedRun> visualRuns(const TextRow &row) const;
     /// Puts what of the run stands in the part to the right of what there is.
     void place(const Run &run, const DirectedRun &part);
-    void place(std::span<const PlacedGlyph> cluster);
-    void place(const PlacedGlyph &placed, QStringView readAs);
+    void place(std::span<const PlacedGlyph> cluster, bool rightToLeft);
+    void place(const PlacedGlyph &placed, QStringView readAs, bool rightToLeft);
+    /// Whether the glyph is read behind what was placed last.
+    [[nodiscard]] bool isReadNext(const PlacedGlyph &placed, bool rightToLeft) const;
+    /// Puts a blank for the unit at the pen, which does not move.
+    void placeBlank(qsizetype unit);
 
     QStringView m_text;
+    Glyph m_blank;
     LineBreaks &m_breaks;
     std::optional<TextDirections> m_directions; ///< Where the direction may change.
     std::vector<Run> m_runs;
@@ -83,8 +96,10 @@ class Paragraph {
 
     std::vector<RowPiece> m_pieces;
     std::vector<Glyph> m_glyphs; ///< Of the pieces.
+    PieceOrder m_order = PieceOrder::Drawn;
     double m_pen = 0;
     double m_pieceEnd = 0;
+    qsizetype m_unitsEnd = 0; ///< Behind those of the last piece.
 };
 
 } // namespace folioforge

@@ -8,6 +8,7 @@
 #include "text/readable/RowDrawing.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace folioforge {
 namespace {
@@ -25,7 +26,8 @@ class PageColumn {
         , m_top(page.height() - static_cast<double>(margins.top))
         , m_bottom(static_cast<double>(margins.bottom))
         , m_font(font)
-        , m_lineSpacing(lineSpacing) {}
+        , m_lineSpacing(lineSpacing)
+        , m_blank(font.glyph(U' ')) {}
 
     [[nodiscard]] double width() const { return m_width; }
 
@@ -61,10 +63,20 @@ class PageColumn {
         return true;
     }
 
+    /// What is drawn from here on is a paragraph.
+    void beginParagraph() { m_sink.beginParagraph(); }
     /// Draws a row into the room that was taken.
     void show(Paragraph &paragraph, const TextRow &row) {
-        const double start = m_left + (paragraph.isRightToLeft() ? m_width - row.width : 0);
+        const bool rightToLeft = paragraph.isRightToLeft();
+        const double start = m_left + (rightToLeft ? m_width - row.width : 0);
+        m_rowEnd = rightToLeft ? start : start + row.width;
         drawRow(paragraph, row, start, m_baseline, m_sink);
+    }
+    /// Tells the words of the row that was drawn last from those of the next line.
+    void showLineEnd() {
+        if (m_sink.wantsReadingOrder()) {
+            m_sink.showRow(m_rowEnd, m_baseline, {&m_blank, 1});
+        }
     }
 
   private:
@@ -77,6 +89,8 @@ class PageColumn {
     double m_lineSpacing = 1;
     double m_rowTop = 0;
     double m_baseline = 0;
+    double m_rowEnd = 0;
+    Glyph m_blank;
     bool m_isOpen = false;
 };
 
@@ -88,8 +102,41 @@ class ReadableText {
         , m_tabStop(style.tabWidth * font.glyph(U' ').advance)
         , m_column(column) {}
 
+    /// Adds a line; `rest` is what follows in the text. Lines between blank ones are a paragraph.
     /// False when the sink wants no further page.
-    [[nodiscard]] bool add(QStringView text) {
+    [[nodiscard]] bool add(QStringView line, QStringView rest) {
+        if (isBlank(line)) {
+            m_inParagraph = false;
+        } else if (!std::exchange(m_inParagraph, true)) {
+            m_column.beginParagraph();
+        }
+        if (!addRows(line)) {
+            return false;
+        }
+        m_inParagraph = m_inParagraph && !isBlank(firstLine(rest));
+        if (m_inParagraph) {
+            m_column.showLineEnd();
+        }
+        return true;
+    }
+
+    [[nodiscard]] Warnings warnings() const { return m_missing.warnings(); }
+
+  private:
+    static bool isBlank(QStringView line) {
+        return std::ranges::all_of(line, [](QChar unit) { return unit.isSpace(); });
+    }
+    /// Without all that it may hold beyond its first letter.
+    static QStringView firstLine(QStringView text) {
+        const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), [](char16_t unit) {
+            return endsLine(unit) || !QChar(unit).isSpace();
+        });
+        const qsizetype length = end - text.utf16();
+        return text.first(length < text.size() && !endsLine(*end) ? length + 1 : length);
+    }
+
+    /// False when the sink wants no further page.
+    [[nodiscard]] bool addRows(QStringView text) {
         if (text.isEmpty()) {
             return m_column.takeRoom();
         }
@@ -106,9 +153,6 @@ class ReadableText {
         return true;
     }
 
-    [[nodiscard]] Warnings warnings() const { return m_missing.warnings(); }
-
-  private:
     /// How many units went into rows; 0 when the sink wants no further page.
     qsizetype addPart(QStringView text, bool isLast) {
         Paragraph paragraph(text, m_font, m_breaks, m_missing);
@@ -132,6 +176,7 @@ class ReadableText {
     PageColumn &m_column;
     LineBreaks m_breaks;
     MissingGlyphs m_missing;
+    bool m_inParagraph = false;
 };
 
 } // namespace
@@ -146,10 +191,11 @@ Warnings layOutReadable(QStringView text, QSizeF pageSize, const PageMargins &ma
         const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), endsLine);
         const qsizetype length = end - text.utf16();
         const bool endsPage = length < text.size() && *end == kFormFeed;
-        if (length > 0 || !endsPage) {
-            goesOn = rows.add(text.first(length));
-        }
+        const QStringView line = text.first(length);
         text = withoutLineEnd(text.sliced(length));
+        if (length > 0 || !endsPage) {
+            goesOn = rows.add(line, endsPage ? QStringView() : text);
+        }
         if (endsPage && goesOn && !text.isEmpty()) {
             goesOn = column.beginPage();
         }

@@ -26,7 +26,8 @@ void drawRow(Paragraph &paragraph, const TextRow &row, double x, double y, TextP
         }
         read = text;
     };
-    for (const RowPiece &piece : paragraph.pieces(row)) {
+    const auto order = sink.wantsReadingOrder() ? PieceOrder::Read : PieceOrder::Drawn;
+    for (const RowPiece &piece : paragraph.pieces(row, order)) {
         readAs(piece.readAs);
         sink.showRow(x + piece.x, y + piece.up, piece.glyphs);
     }
