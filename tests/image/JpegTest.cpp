@@ -4,6 +4,7 @@
 #include "support/TestUnit.h"
 
 #include "error/Error.h"
+#include "files/SystemCalls.h"
 #include "support/Files.h"
 
 #include <QTemporaryDir>
@@ -52,6 +53,17 @@ QByteArray exifBlock(int orientation, quint32 density, bool littleEndian, int un
     return QByteArray("Exif\0\0", 6) + block;
 }
 
+/// Counts the reads of whole pieces that begin with the first segment of a file.
+class HeaderReads final : public SystemCalls {
+  public:
+    ssize_t pread(int fd, void *data, std::size_t size, off_t offset) override {
+        constexpr off_t kFirstSegment = 2;
+        count += offset == kFirstSegment ? 1 : 0;
+        return SystemCalls::pread(fd, data, size, offset);
+    }
+    int count = 0;
+};
+
 } // namespace
 
 class JpegTest : public QObject {
@@ -68,6 +80,12 @@ class JpegTest : public QObject {
         QByteArray bytes = bytesOf(imageFile(u"ink.jpg"_s));
         bytes.replace("Adobe", "Other");
         QVERIFY(toPdfImage(write(bytes)).decode.empty());
+    }
+
+    void theHeaderIsReadOnceForPixelsAndPlace() {
+        HeaderReads reads;
+        QVERIFY(!toPdfImage(imageFile(u"photo.jpg"_s), reads).slices.empty());
+        QCOMPARE(reads.count, 1);
     }
 
     void jfifDensityPerInchAndPerCentimetre() {

@@ -89,9 +89,8 @@ void readSegment(const JpegSegment &segment, JpegMetadata &metadata) {
     }
 }
 
-JpegMetadata readMetadata(const FileView &file) {
+JpegMetadata readMetadata(JpegSegments &segments) {
     JpegMetadata metadata;
-    JpegSegments segments(file);
     std::optional<JpegSegment> segment;
     do {
         segment = segments.next();
@@ -197,14 +196,16 @@ bool recognises(QByteArrayView head) {
 }
 
 ImageHeader readHeader(const FileView &file) {
-    return readMetadata(file).header;
+    JpegSegments segments(file);
+    return readMetadata(segments).header;
 }
 
 PdfImage toPdfImage(const FileView &file) {
-    const JpegMetadata metadata = readMetadata(file);
+    JpegSegments segments(file);
+    const JpegMetadata metadata = readMetadata(segments);
     requireKnownProcess(metadata.frame);
     PdfImage image = describe(metadata);
-    const JpegStructure structure = readJpegStructure(file, JpegWalk::Thrifty);
+    const JpegStructure structure = readJpegStructure(file, segments, JpegWalk::Thrifty);
     const bool isKeepable =
         isProcessOfPdf(metadata.frame) && (structure.isWhole || structure.lacksEnd);
     if (!isKeepable || structure.isDoubtful || structure.lacksEnd) {
@@ -222,7 +223,8 @@ PdfImage toPdfImage(const FileView &file) {
 }
 
 std::vector<FileSlice> metadata(const FileView &file) {
-    return readJpegStructure(file, JpegWalk::Whole).metadata;
+    JpegSegments segments(file);
+    return readJpegStructure(file, segments, JpegWalk::Whole).metadata;
 }
 
 } // namespace

@@ -102,6 +102,11 @@ bool JpegSegments::findMarker() {
     return false;
 }
 
+void JpegSegments::restart() {
+    m_at = kFirst;
+    m_strays.clear();
+}
+
 std::optional<JpegSegment> JpegSegments::next() {
     if (!findMarker()) {
         return std::nullopt;

@@ -58,6 +58,8 @@ class JpegSegments {
     explicit JpegSegments(const FileView &file)
         : m_file(file) {}
 
+    /// Begins with the first segment again; what was read last is not read anew.
+    void restart();
     /// The next segment up to the end of its header; nothing where the file ends within or before
     /// it.
     std::optional<JpegSegment> next();
@@ -74,8 +76,10 @@ class JpegSegments {
     QByteArrayView bytes(qint64 at, qint64 length);
     bool findMarker();
 
+    static constexpr qint64 kFirst = 2; ///< Behind the marker that begins the file.
+
     const FileView &m_file;
-    qint64 m_at = 2; ///< Behind the marker that begins the file.
+    qint64 m_at = kFirst;
     qint64 m_start = 0;
     QByteArray m_window; ///< Many small segments take one read.
     std::vector<FileSlice> m_strays;

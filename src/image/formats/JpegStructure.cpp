@@ -52,9 +52,9 @@ void passAll(const FileView &file, JpegSegments &segments, qint64 thriftyEnd,
 
 } // namespace
 
-JpegStructure readJpegStructure(const FileView &file, JpegWalk walk) {
+JpegStructure readJpegStructure(const FileView &file, JpegSegments &segments, JpegWalk walk) {
     JpegStructure structure;
-    JpegSegments segments(file);
+    segments.restart();
     try {
         const bool isThrifty = walk == JpegWalk::Thrifty && !isWorthWalking(file);
         passAll(file, segments, isThrifty ? file.size() - 2 : 0, structure);

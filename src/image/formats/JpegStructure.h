@@ -27,6 +27,7 @@ enum class JpegWalk {
              ///< read.
 };
 
-JpegStructure readJpegStructure(const FileView &file, JpegWalk walk);
+/// Walks through `segments`, those of `file`, from the first one on.
+JpegStructure readJpegStructure(const FileView &file, JpegSegments &segments, JpegWalk walk);
 
 } // namespace folioforge
