@@ -227,11 +227,11 @@ std::variant<ImageJob, QString> decide(QPDFObjectHandle image, const ImageUse &u
         return u"drawn at a size that cannot be told"_s;
     }
     QPDFObjectHandle dictionary = image.getDict();
-    QString reason = reasonOfUnusual(dictionary);
     const bool staysColored = !filter.grey.empty() && hasColorTable(dictionary);
     if (isBilevel(dictionary) && !staysColored) {
-        return decideBilevel(dictionary, filter);
+        return decideBilevel(dictionary, filter); // It keeps every bit, whatever is made of them.
     }
+    QString reason = reasonOfUnusual(dictionary);
     if (reason.isEmpty() && staysColored) {
         reason = u"an unusual colour space"_s;
     }

@@ -16,6 +16,8 @@
 #include <cmath>
 #include <new>
 #include <numeric>
+#include <utility>
+#include <variant>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -60,16 +62,25 @@ int eighthsFor(double scale) {
     return std::clamp(static_cast<int>(std::ceil(scale * 8 / kCloseEnough)), 1, 8);
 }
 
-PlanarImage decodeJpeg(const ImageJob &job, const std::string &data) {
+/// A decoded picture, in JPEG's own form, at the wanted size or above.
+struct Decoded {
+    PlanarImage image;
+    bool keepsPixels = false; ///< It is drawn and is to be grey alone.
+};
+
+/// That, or the reason why the picture stays as it is.
+using Decoding = std::variant<Decoded, QString>;
+
+Decoding decodeJpeg(const ImageJob &job, const std::string &data) {
     JpegReader reader(data, job.colorTransform);
     if (reader.width() != job.width || reader.height() != job.height ||
         reader.components() != job.components) {
         throw wrongSize();
     }
     if (job.scale >= 1 && job.grey.empty() && reader.quality() < job.jpegQuality + kQualityGain) {
-        throw Error(u"already a JPEG of no higher quality"_s);
+        return u"already a JPEG of no higher quality"_s;
     }
-    return reader.decode(eighthsFor(job.scale));
+    return Decoded{reader.decode(eighthsFor(job.scale))};
 }
 
 PlanarImage decodeJpx(const ImageJob &job, const std::string &data) {
@@ -145,30 +156,24 @@ bool looksDrawn(const PlanarImage &image) {
     return equal * 2 > seen;
 }
 
-/// A decoded picture, in JPEG's own form, at the wanted size or above.
-struct Decoded {
-    PlanarImage image;
-    bool keepsPixels = false; ///< It is drawn and is to be grey alone.
-};
-
-Decoded decodeSamples(const ImageJob &job, const std::string &data) {
+Decoding decodeSamples(const ImageJob &job, const std::string &data) {
     PlanarImage image = unpackSamples(job, data);
     const bool isDrawn =
         job.purpose == ImagePurpose::Photo && job.lineArt == LineArt::Keep && looksDrawn(image);
     if (isDrawn && job.grey.empty()) {
-        throw Error(u"line art"_s);
+        return u"line art"_s;
     }
     toJpegColor(image);
-    return {std::move(image), isDrawn};
+    return Decoded{std::move(image), isDrawn};
 }
 
 /// `data` is without lossless filters.
-Decoded decode(const ImageJob &job, const std::string &data) {
+Decoding decode(const ImageJob &job, const std::string &data) {
     switch (job.codec) {
     case ImageCodec::Jpeg:
-        return {decodeJpeg(job, data)};
+        return decodeJpeg(job, data);
     case ImageCodec::Jpx:
-        return {decodeJpx(job, data)};
+        return Decoded{decodeJpx(job, data)};
     case ImageCodec::Samples:
         break;
     }
@@ -182,7 +187,7 @@ std::string withoutFilters(const ImageJob &job, std::size_t samples) {
     return decodeLossless(job.data, job.filter, job.parameters, maxBytes);
 }
 
-Decoded decode(const ImageJob &job) {
+Decoding decode(const ImageJob &job) {
     if (job.filter.empty()) {
         return decode(job, job.data);
     }
@@ -219,7 +224,11 @@ Reduction reduceBilevel(const ImageJob &job) {
 }
 
 Reduction reducePicture(const ImageJob &job) {
-    auto [image, keepsPixels] = decode(job);
+    Decoding decoding = decode(job);
+    if (auto *reason = std::get_if<QString>(&decoding)) {
+        return {std::nullopt, std::move(*reason)};
+    }
+    auto &[image, keepsPixels] = std::get<Decoded>(decoding);
     if (!keepsPixels) {
         image = sampledDown(std::move(image), scaled(job));
     }
