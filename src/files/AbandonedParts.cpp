@@ -80,8 +80,11 @@ bool isOwnFolder(const struct stat &status) {
 
 std::vector<std::string> namesIn(int folder) {
     std::vector<std::string> found;
-    const int fd = ::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    const Names names(fd >= 0 ? ::fdopendir(fd) : nullptr);
+    FileDescriptor opened(::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Names names(opened.isOpen() ? ::fdopendir(opened.get()) : nullptr);
+    if (names) {
+        opened.release(); // It is closed with them.
+    }
     while (const dirent *entry = names ? ::readdir(names.get()) : nullptr) {
         const std::string_view name = entry->d_name;
         if (name != "." && name != "..") {

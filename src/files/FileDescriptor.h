@@ -31,6 +31,8 @@ class FileDescriptor {
     [[nodiscard]] bool isOpen() const { return m_fd >= 0; }
     /// The number of the descriptor; -1 when the file is not open.
     [[nodiscard]] int get() const { return m_fd; }
+    /// Leaves the file to somebody else, who closes it.
+    void release() { m_fd = -1; }
     /// Closes the file, if it is open. False when the system reports an error.
     bool close();
 
