@@ -24,7 +24,9 @@ class DeafObserver : public ConversionObserver {
     void entryDone(std::size_t /*index*/, bool /*written*/) override {}
 };
 
-/// Makes the results from 0 up on several threads and hands them out in that order.
+/// Makes the results from 0 up on several threads and hands them out in that order. Threads that
+/// take the next one each leave no processor idle behind a long one, as results that are waited for
+/// in turn would.
 class OrderedResults {
   public:
     using Make = std::function<RunResult(std::size_t)>;
