@@ -53,6 +53,8 @@ class FolioforgeAppDelegate : public QObject, public MainWndDelegate, private Ui
     /// Opens the file that macOS asks the application to open.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    // ---- Kept for callers alone: nothing in the program calls these --------------------------
+
     [[nodiscard]] MainWndCtrl &mainWndCtrl() { return *m_mainWndCtrl; }
 
   private:

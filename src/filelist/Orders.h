@@ -22,6 +22,8 @@ enum class SortOrder { Name, Size, Created, Modified, Natural };
 std::vector<std::size_t> arrangedOrder(std::span<const PDFFileInfo *const> entries,
                                        SortOrder order);
 
+// ---- Kept for callers alone: nothing in the program calls this -------------------------------
+
 /// Orders size texts of the forms "12 KB" and "1.5 MB" by their meaning: -1, 0 or 1.
 int StringFileSizeSort(const QString &text, const QString &other);
 

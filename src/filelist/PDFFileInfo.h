@@ -56,7 +56,6 @@ class PDFFileInfo {
     [[nodiscard]] const QString &fileName() const { return m_fileName; }
     [[nodiscard]] FileKind kind() const { return m_kind; }
     [[nodiscard]] const QString &destFilePathName() const { return m_destFilePathName; }
-    [[nodiscard]] const QString &destFileName() const { return m_destFileName; }
     [[nodiscard]] int pageCount() const { return m_pageCount; }
     [[nodiscard]] const QString &fileSize() const { return m_fileSize; }
     [[nodiscard]] int index() const { return m_index; }
@@ -65,16 +64,12 @@ class PDFFileInfo {
     [[nodiscard]] const std::optional<RichText> &state() const { return m_state; }
     /// Nothing for other kinds and for an image whose header cannot be read.
     [[nodiscard]] const std::optional<SourceImage> &getSrcImage() const { return m_srcImage; }
-    /// The decoded text of a text entry; a null string when it could not be read as UTF-8.
-    [[nodiscard]] const QString &getFileString() const { return m_fileString; }
     /// The text of a text entry as it was listed, else as the file holds it now in `encoding`, as
     /// readTextFile() takes it. Throws Error when it cannot be read now.
     [[nodiscard]] SourceText sourceText(SystemCalls &calls = SystemCalls::system(),
                                         const QString &encoding = {}) const;
     /// Why the source could not be read when it was listed; empty when it could.
     [[nodiscard]] const QString &readError() const { return m_readError; }
-    /// What was lost when the source was listed: a text that is not valid UTF-8 gives a blank page.
-    [[nodiscard]] const Warnings &readWarnings() const { return m_readWarnings; }
     /// What is to be said of the entry beside its state, sentences without a full stop: what was
     /// lost when it was listed, or what setRemarks() was given since.
     [[nodiscard]] QStringList remarks() const;
@@ -93,8 +88,6 @@ class PDFFileInfo {
     void setIndex(int index) { m_index = index; }
     void setState(const RichText &state) { m_state = state; }
     void setRemarks(const QStringList &remarks) { m_remarks = remarks; }
-    void setFileName(const QString &name) { m_fileName = name; }
-    void setDestFileName(const QString &name) { m_destFileName = name; }
 
     /// Sets the source path and the file name, and reads the file as far as the list needs it: a
     /// text's contents, an image's header and its size text ("0 × 0" when it cannot be read).
@@ -114,6 +107,14 @@ class PDFFileInfo {
     /// (QString), the size in bytes (qint64), the two dates (QDateTime). An invalid variant for any
     /// other key, and for an attribute that the file or its file system lacks.
     [[nodiscard]] QVariant valueForUndefinedKey(const QString &key) const;
+
+    // ---- Kept for callers alone: nothing in the program calls these --------------------------
+
+    [[nodiscard]] const QString &destFileName() const { return m_destFileName; }
+    /// The decoded text of a text entry; a null string when it could not be read as UTF-8.
+    [[nodiscard]] const QString &getFileString() const { return m_fileString; }
+    void setFileName(const QString &name) { m_fileName = name; }
+    void setDestFileName(const QString &name) { m_destFileName = name; }
 
   private:
     void readSource(SourceReading reading);

@@ -76,7 +76,6 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void setDelegateObject(MainWndDelegate *delegate);
     /// Whether a run is going on, during which the list must not change.
     [[nodiscard]] bool isConverting() const { return m_bConverting; }
-    [[nodiscard]] const FilesArray &filesArray() const { return *m_filesArray; }
 
     /// Skins `button` with the images `name`, `name`-hover and `name`-disable among the
     /// application's resources; a missing one of the latter two gives way to the first. Images are
@@ -187,6 +186,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     /// Page sizes in points, as the controls stand now; a run asks the functions of these names.
     [[nodiscard]] QSizeF getTextPageSize() const;
     [[nodiscard]] QSizeF getImagePageSize() const;
+    [[nodiscard]] const FilesArray &filesArray() const { return *m_filesArray; }
 
   Q_SIGNALS:
     void previewShown(bool shown);

@@ -3,8 +3,6 @@
 #include "mainwnd/MainWndCtrl.h"
 
 #include "mainwnd/FilesArray.h"
-#include "mainwnd/ListCommands.h"
-#include "mainwnd/ListHistory.h"
 #include "mainwnd/RunNews.h"
 
 #include <utility>
@@ -110,27 +108,6 @@ void MainWndCtrl::compressCompleted() {
     const std::size_t next = m_run->entriesOf(std::size_t(m_fileIndex)).end;
     m_fileIndex = static_cast<int>(next);
     m_run->hasEntry(next) ? createSingleFile() : endRun();
-}
-
-/// The list does not change during a run.
-void MainWndCtrl::setConverting(bool converting) {
-    m_bConverting = converting;
-    m_history->setLocked(converting);
-    m_tableview->commands().refresh();
-}
-
-void MainWndCtrl::endRun() {
-    setConverting(false);
-    const std::optional<Notice> problems = m_run->problems();
-    m_answer->show(m_run->summary());
-    m_news->end(m_answer->text(), m_window->isActiveWindow());
-    m_run.reset();
-    m_prgCreate->hide();
-    m_lbProgress->hide();
-    hideAlertView();
-    if (problems) {
-        showNotice(*problems);
-    }
 }
 
 } // namespace folioforge

@@ -4,6 +4,8 @@
 
 #include "files/Printable.h"
 #include "mainwnd/FilesArray.h"
+#include "mainwnd/ListCommands.h"
+#include "mainwnd/ListHistory.h"
 #include "mainwnd/NotificationCenter.h"
 #include "mainwnd/RunNews.h"
 
@@ -48,6 +50,27 @@ void MainWndCtrl::startWorker(std::function<void(ConversionObserver &)> work) {
         m_worker = std::jthread(observed);
     } catch (const std::system_error &) {
         observed(); // Without a thread the window waits for the work.
+    }
+}
+
+/// The list does not change during a run.
+void MainWndCtrl::setConverting(bool converting) {
+    m_bConverting = converting;
+    m_history->setLocked(converting);
+    m_tableview->commands().refresh();
+}
+
+void MainWndCtrl::endRun() {
+    setConverting(false);
+    const std::optional<Notice> problems = m_run->problems();
+    m_answer->show(m_run->summary());
+    m_news->end(m_answer->text(), m_window->isActiveWindow());
+    m_run.reset();
+    m_prgCreate->hide();
+    m_lbProgress->hide();
+    hideAlertView();
+    if (problems) {
+        showNotice(*problems);
     }
 }
 

@@ -20,9 +20,6 @@ class SkinButton : public QPushButton {
   public:
     explicit SkinButton(QWidget *parent = nullptr);
 
-    /// Takes `image` as the normal look and derives the others: hover at full opacity, pressed at
-    /// 0.7 and disabled at 0.4 of it. An empty image empties all looks.
-    void setImage(const SkinImage &image);
     /// Keeps `image` as the normal look and shows it.
     void setNormalImage(const SkinImage &image);
     /// Keep a look; what is shown does not change.
@@ -38,6 +35,14 @@ class SkinButton : public QPushButton {
     /// enabled or disabled before: a stale hover look ends.
     void setEnabled(bool enabled);
 
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+    // ---- Kept for callers alone: nothing in the program calls these --------------------------
+
+    /// Takes `image` as the normal look and derives the others: hover at full opacity, pressed at
+    /// 0.7 and disabled at 0.4 of it. An empty image empties all looks.
+    void setImage(const SkinImage &image);
     /// The look that the button shows now.
     [[nodiscard]] const SkinImage &image() const { return m_shown; }
     [[nodiscard]] const SkinImage &mouseOnImage() const { return m_imageOn; }
@@ -46,9 +51,6 @@ class SkinButton : public QPushButton {
     [[nodiscard]] const SkinImage &disableImage() const { return m_imageDisable; }
     /// Where the button follows the pointer: always its bounds.
     [[nodiscard]] QRect tracking() const { return m_tracking; }
-
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
 
   protected:
     void enterEvent(QEnterEvent *event) override;

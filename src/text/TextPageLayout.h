@@ -61,9 +61,6 @@ inline QStringView withoutLineEnd(QStringView text) {
 /// Throws Error where there is text but no font to write it with.
 void requireFont(const FontCascade &font, QStringView text);
 
-/// Width of `text` on one line, the sum of its advances, and the row height; in points.
-QSizeF getStringSize(QStringView text, const FontCascade &font);
-
 /// Lays `text` out on pages of `pageSize` points and gives them to `sink` in order. Without text
 /// there is one blank page. A sink that wants no further page gets none. Returns which characters
 /// are drawn as boxes. Throws Error, no page begun, where there is text but no font.
@@ -73,5 +70,10 @@ QSizeF getStringSize(QStringView text, const FontCascade &font);
 /// edge: the bottom margin has no effect.
 Warnings layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
                     const FontCascade &font, TextPageSink &sink);
+
+// ---- Kept for callers alone: nothing in the program calls this -------------------------------
+
+/// Width of `text` on one line, the sum of its advances, and the row height; in points.
+QSizeF getStringSize(QStringView text, const FontCascade &font);
 
 } // namespace folioforge

@@ -139,7 +139,7 @@ class PDFFileInfoTest : public QObject {
         QCOMPARE(entry.fileName(), u"a.txt"_s);
         QCOMPARE(entry.getFileString(), u"one\r\ntwo \u20ac"_s);
         QVERIFY(entry.readError().isEmpty());
-        QVERIFY(entry.readWarnings().empty());
+        QVERIFY(entry.remarks().empty());
         QCOMPARE(entry.fileSize(), u""_s);
     }
 
@@ -155,7 +155,7 @@ class PDFFileInfoTest : public QObject {
         const PDFFileInfo entry = entryOf("empty.txt", {});
         QVERIFY(!entry.getFileString().isNull());
         QVERIFY(entry.getFileString().isEmpty());
-        QVERIFY(entry.readWarnings().empty());
+        QVERIFY(entry.remarks().empty());
     }
 
     void bytesThatAreNotUtf8LeaveTheTextAbsentWithAWarning_data() {
@@ -171,7 +171,7 @@ class PDFFileInfoTest : public QObject {
         QFETCH(const QByteArray, bytes);
         const PDFFileInfo entry = entryOf("bad.txt", bytes);
         QVERIFY(entry.getFileString().isNull());
-        QVERIFY(entry.readWarnings().at(0).text.contains(u"UTF-8"_s));
+        QVERIFY(entry.remarks().value(0).contains(u"UTF-8"_s));
         QVERIFY(entry.readError().isEmpty());
     }
 
