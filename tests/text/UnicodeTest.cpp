@@ -87,6 +87,22 @@ class ChangedCharacters {
     std::set<uint> m_characters;
 };
 
+/// Whether a hyphen stands between Hebrew letters: of versions about 16.0 some let a line break
+/// behind it and some do not (rule LB21a).
+bool hasHebrewHyphen(const QString &text) {
+    const QList<uint> characters = text.toUcs4();
+    const auto kindAt = [&](qsizetype at) {
+        return u_getIntPropertyValue(static_cast<UChar32>(characters[at]), UCHAR_LINE_BREAK);
+    };
+    for (qsizetype at = 2; at < characters.size(); ++at) {
+        if (kindAt(at - 2) == U_LB_HEBREW_LETTER && kindAt(at) == U_LB_HEBREW_LETTER &&
+            (kindAt(at - 1) == U_LB_HYPHEN || kindAt(at - 1) == U_LB_BREAK_AFTER)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// What failed of many cases, the first few in words.
 class Failures {
   public:
@@ -227,6 +243,7 @@ class UnicodeTest : public QObject {
     void linesBreakAsUnicodeSays() {
         const QByteArrayList lines = linesOfUnicode(u"auxiliary/LineBreakTest.txt"_s);
         QVERIFY2(lines.size() > 7000, "The package unicode-data is missing");
+        const bool isOfIcu = isDataOfIcu();
         const ChangedCharacters changed;
         LineBreaks breaks;
         Failures failures;
@@ -235,7 +252,7 @@ class UnicodeTest : public QObject {
         for (const QByteArray &line : lines) {
             UnicodeCase test{line, {}, {}};
             const std::vector<qsizetype> wanted = breaksOf(test);
-            if (changed.standIn(test.text)) {
+            if (changed.standIn(test.text) || (!isOfIcu && hasHebrewHyphen(test.text))) {
                 ++leftOut;
                 continue;
             }
@@ -257,7 +274,7 @@ class UnicodeTest : public QObject {
         QVERIFY2(failures.none(), failures.words());
         QVERIFY2(byIcu <= 22, QByteArray::number(byIcu));
         QVERIFY2(leftOut < lines.size() / 20, QByteArray::number(leftOut));
-        if (isDataOfIcu()) {
+        if (isOfIcu) {
             QCOMPARE(leftOut, qsizetype{0});
         }
     }
