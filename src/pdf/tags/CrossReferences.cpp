@@ -93,7 +93,7 @@ void CrossReferences::putInStream(int number, int stream, int index) {
 void CrossReferences::put(int number, int type, quint64 second, quint64 third) {
     const qsizetype end = (static_cast<qsizetype>(number) + 1) * kRow;
     if (m_rows.size() < end) {
-        m_rows.resize(end, '\0');
+        m_rows.append(end - m_rows.size(), '\0');
     }
     char *row = m_rows.data() + end - kRow;
     row[kType] = static_cast<char>(type);

@@ -7,10 +7,8 @@
 
 #include <QByteArray>
 
-#include <optional>
-#include <string>
+#include <array>
 #include <string_view>
-#include <vector>
 
 class Pipeline;
 
@@ -22,6 +20,9 @@ class StreamCipher;
 /// that a document may have more of them than memory has room for.
 class ObjectStreams {
   public:
+    /// What is alike stands in streams of its own.
+    enum Kind { Elements, Lists };
+
     /// Objects go to `file`, which has `offset` bytes, and their places to `references`. A null
     /// `cipher` means none.
     ObjectStreams(Pipeline &file, qint64 offset, CrossReferences &references,
@@ -30,26 +31,29 @@ class ObjectStreams {
     /// A number that no object has.
     int newNumber() { return m_next++; }
     /// Adds an object under a new number, or in place of one of the library.
-    void add(int number, std::string_view object);
-    /// To be called where what belongs together ends: the objects so far may become a stream.
-    void mayBreak();
+    void add(Kind kind, int number, std::string_view object);
     /// Writes what is left and, behind it, the cross-reference stream.
     void finish();
 
   private:
-    void writeStream();
+    /// A stream that is being filled.
+    struct Stream {
+        int number = 0;
+        int count = 0;      ///< Of its objects.
+        QByteArray places;  ///< The number and the place of each, in rows.
+        QByteArray objects; ///< In rows.
+    };
+
+    void writeStream(Kind kind);
     void write(const QByteArray &bytes);
 
     Pipeline &m_file;
     qint64 m_offset;
     CrossReferences &m_references;
     const StreamCipher *m_cipher;
-    Deflater m_deflater{DeflateEffort::Full};
+    Deflater m_deflater{DeflateEffort::Fastest};
     int m_next;
-    int m_stream = 0;      ///< The number of the stream that is being filled.
-    std::string m_objects; ///< Of that stream.
-    std::string m_places;  ///< Number and place of each.
-    int m_count = 0;
+    std::array<Stream, 2> m_streams; ///< By kind.
 };
 
 } // namespace folioforge

@@ -55,7 +55,8 @@ class ParentTree {
         endLeaf();
         const std::string limits =
             "[0 " + std::to_string(m_last) + "]"; // Also of a first page without content.
-        m_streams.add(number, "<</Limits" + limits + "/Kids[" + m_leaves + "]>>");
+        m_streams.add(ObjectStreams::Lists, number,
+                      "<</Limits" + limits + "/Kids[" + m_leaves + "]>>");
     }
 
   private:
@@ -64,8 +65,9 @@ class ParentTree {
             return;
         }
         const int leaf = m_streams.newNumber();
-        m_streams.add(leaf, "<</Limits[" + std::to_string(m_first) + " " + std::to_string(m_last) +
-                                "]/Nums[" + m_pairs + "]>>");
+        m_streams.add(ObjectStreams::Lists, leaf,
+                      "<</Limits[" + std::to_string(m_first) + " " + std::to_string(m_last) +
+                          "]/Nums[" + m_pairs + "]>>");
         m_leaves.append(reference(leaf)).append(" ");
         m_pairs.clear();
         m_count = 0;
@@ -109,9 +111,10 @@ class SourceElements {
         endPart();
         const std::string language =
             m_structure.language.empty() ? "" : "/Lang" + textString(m_structure.language);
-        m_streams.add(document, "<</S/Document/P " + reference(m_numberOf(m_structure.root)) +
-                                    "/T" + textString(source.name.toStdString()) + language +
-                                    "/K[" + m_parts + "]>>");
+        m_streams.add(ObjectStreams::Lists, document,
+                      "<</S/Document/P " + reference(m_numberOf(m_structure.root)) + "/T" +
+                          textString(source.name.toStdString()) + language + "/K[" + m_parts +
+                          "]>>");
     }
 
   private:
@@ -173,27 +176,26 @@ class SourceElements {
             return;
         }
         const std::string kids = m_isList ? "[" + m_content + "]" : " " + m_content;
-        m_streams.add(m_element, "<<" + m_keys + "/K" + kids + ">>");
+        m_streams.add(ObjectStreams::Elements, m_element, "<<" + m_keys + "/K" + kids + ">>");
         m_element = 0;
     }
 
     void endPart() {
         for (const auto &[key, elements] : m_pageParents) {
             const int number = m_streams.newNumber();
-            m_streams.add(number, "[" + elements + "]");
+            m_streams.add(ObjectStreams::Lists, number, "[" + elements + "]");
             m_parents.add(key, number);
         }
         m_pageParents.clear();
         if (!m_isParted) {
             m_parts = m_kids;
         } else if (m_count > 0) {
-            m_streams.add(m_parent,
+            m_streams.add(ObjectStreams::Lists, m_parent,
                           "<</S/NonStruct/P " + reference(m_document) + "/K[" + m_kids + "]>>");
             m_parts.append(reference(m_parent)).append(" ");
         }
         m_kids.clear();
         m_count = 0;
-        m_streams.mayBreak();
     }
 
     const DrawnStructure &m_structure;
