@@ -13,12 +13,6 @@
 
 using namespace Qt::StringLiterals;
 
-// libheif 1.15 and its decoders lose some bytes of files that are damaged.
-// NOLINTNEXTLINE(bugprone-reserved-identifier,readability-identifier-naming): the sanitizer's name
-extern "C" const char *__lsan_default_suppressions() {
-    return "leak:libheif.so\nleak:libdav1d.so\nleak:libde265.so\n";
-}
-
 namespace folioforge::fuzz {
 
 namespace {

@@ -65,6 +65,13 @@ class DamageTest : public QObject {
         QVERIFY(!refusalOf(path).isEmpty());
     }
 
+    void aCutHeicFileIsRefused() {
+        const QByteArray bytes = bytesOf(imageFile(u"colour.heic"_s));
+        const QString path =
+            writeFile(m_folder.filePath(u"cut.heic"_s), bytes.first(bytes.size() / 2));
+        QVERIFY(refusalOf(path).startsWith(u"The HEIC or AVIF file cannot be read: "));
+    }
+
   private:
     QTemporaryDir m_folder;
     int m_files = 0;

@@ -122,13 +122,6 @@ class HeifTest : public QObject {
                  u"The file is too short for the image its header describes"_s);
     }
 
-    void aCutFileIsRefused() {
-        const QByteArray bytes = bytesOf(imageFile(u"colour.heic"_s));
-        const QString path =
-            writeFile(m_folder.filePath(u"cut.heic"_s), bytes.first(bytes.size() / 2));
-        QVERIFY(refusalOf(path).startsWith(u"The HEIC or AVIF file cannot be read: "));
-    }
-
   private:
     static constexpr QImage::Format kRgb = QImage::Format_RGB32;
 
