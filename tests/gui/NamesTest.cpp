@@ -38,16 +38,10 @@ QString openedBy(const QByteArray &command, const QString &folder) {
     return shell.waitForFinished() ? QFile::decodeName(shell.readAllStandardOutput()) : QString();
 }
 
-void writeInputs(const TestWindow &w) {
-    QVERIFY(QDir().mkpath(w.path(u"in"_s)));
+void writeInputs(const FolderOfHostileNames &folder) {
     for (const QByteArray &name : hostileNames()) {
-        writeFileNamed(QFile::encodeName(w.path(u"in"_s)) + '/' + name, "words\n");
+        writeFileNamed(folder.path(name), "words\n");
     }
-}
-
-void removeInputs(const TestWindow &w) {
-    // Qt cannot name all of them, nor remove them.
-    runTool(u"rm"_s, {u"-rf"_s, w.path(u"in"_s)});
 }
 
 } // namespace
@@ -59,7 +53,8 @@ class NamesTest : public QObject {
   private Q_SLOTS:
     void eachFileOfAFolderIsConvertedAndOpened() {
         TestWindow w;
-        writeInputs(w);
+        const FolderOfHostileNames folder(w.path(u"in"_s));
+        writeInputs(folder);
         w.notices.setNextFiles({w.path(u"in"_s)});
         w.ctrl.clickBtnAddFolder();
         QTRY_COMPARE(w.ctrl.filesArray().count(), int(hostileNames().size()));
@@ -71,12 +66,12 @@ class NamesTest : public QObject {
             QVERIFY(QFile::exists(w.path(u"out/"_s) + readableBase(name) + u".pdf"_s));
         }
         QVERIFY(!QFile::exists(w.path(u"pwned"_s)));
-        removeInputs(w);
     }
 
     void theTableShowsThemAsPlainTextOnOneLine() {
         TestWindow w;
-        writeInputs(w);
+        const FolderOfHostileNames folder(w.path(u"in"_s));
+        writeInputs(folder);
         w.notices.setNextFiles({w.path(u"in"_s)});
         w.ctrl.clickBtnAddFolder();
         QTRY_VERIFY(w.ctrl.filesArray().count() > 0);
@@ -90,37 +85,34 @@ class NamesTest : public QObject {
                 checkToolTip(cell.data(Qt::ToolTipRole).toString());
             }
         }
-        removeInputs(w);
     }
 
     void aDroppedFileWhoseNameIsNoTextIsConverted() {
         TestWindow w;
-        writeFileNamed(QFile::encodeName(w.path(u"caf"_s)) + "\xe9.txt", "words\n");
+        const FolderOfHostileNames folder(w.path(u"in"_s));
+        writeFileNamed(folder.path("caf\xe9.txt"), "words\n");
         QMimeData data;
-        data.setUrls(
-            {QUrl::fromEncoded("file://" + QFile::encodeName(w.home.path()) + "/caf%E9.txt")});
+        data.setUrls({QUrl::fromEncoded("file://" + folder.path("caf%E9.txt"))});
         QVERIFY(w.ctrl.acceptDrop(data, 0));
         QCOMPARE(w.names(), u"caf\uFFFD.txt"_s);
         run(w);
         const QString output = w.path(u"out/caf\uFFFD.pdf"_s);
         QCOMPARE(PdfProbe(output).text().trimmed(), u"words"_s);
-        runTool(u"sh"_s, {u"-c"_s, u"rm \"$0\"/caf*.txt"_s, w.home.path()});
     }
 
     void droppedFilesWhoseNamesReadAlikeStayDifferentFiles() {
         TestWindow w;
-        const QByteArray folder = QFile::encodeName(w.home.path());
-        writeFileNamed(folder + "/caf\xe8.txt", "grave\n");
-        writeFileNamed(folder + "/caf\xe9.txt", "acute\n");
+        const FolderOfHostileNames folder(w.path(u"in"_s));
+        writeFileNamed(folder.path("caf\xe8.txt"), "grave\n");
+        writeFileNamed(folder.path("caf\xe9.txt"), "acute\n");
         QMimeData data;
-        data.setUrls({QUrl::fromEncoded("file://" + folder + "/caf%E9.txt"),
-                      QUrl::fromEncoded("file://" + folder + "/caf%E8.txt")});
+        data.setUrls({QUrl::fromEncoded("file://" + folder.path("caf%E9.txt")),
+                      QUrl::fromEncoded("file://" + folder.path("caf%E8.txt"))});
         QVERIFY(w.ctrl.acceptDrop(data, 0));
         QCOMPARE(w.ctrl.filesArray().count(), 2);
         run(w);
         QCOMPARE(PdfProbe(w.path(u"out/caf\uFFFD.pdf"_s)).text().trimmed(), u"acute"_s);
         QCOMPARE(PdfProbe(w.path(u"out/caf\uFFFD(1).pdf"_s)).text().trimmed(), u"grave"_s);
-        runTool(u"sh"_s, {u"-c"_s, u"rm \"$0\"/caf*.txt"_s, w.home.path()});
     }
 
     void noticesShowThemAsPlainText() {

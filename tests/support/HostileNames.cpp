@@ -3,11 +3,12 @@
 #include "support/HostileNames.h"
 
 #include <QFile>
-#include <QString>
 #include <QStringDecoder>
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
+#include <system_error>
 
 namespace folioforge::test {
 
@@ -55,6 +56,16 @@ void writeFileNamed(const QByteArray &path, const QByteArray &bytes) {
     if (!file || std::fwrite(bytes.constData(), 1, size, file) != size || std::fclose(file) != 0) {
         qFatal("cannot write %s", path.constData());
     }
+}
+
+FolderOfHostileNames::FolderOfHostileNames(const QString &path)
+    : m_path(QFile::encodeName(path)) {
+    std::filesystem::create_directories(m_path.toStdString());
+}
+
+FolderOfHostileNames::~FolderOfHostileNames() {
+    std::error_code failure;
+    std::filesystem::remove_all(m_path.toStdString(), failure);
 }
 
 QString readableBase(const QByteArray &name) {

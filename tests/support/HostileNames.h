@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QString>
 
 namespace folioforge::test {
 
@@ -13,6 +14,22 @@ QList<QByteArray> hostileNames();
 
 /// Writes a file at `path`, whose bytes need not be text.
 void writeFileNamed(const QByteArray &path, const QByteArray &bytes);
+
+/// A folder for such files, which Qt can neither name nor remove; it goes with all that is in it.
+class FolderOfHostileNames {
+  public:
+    /// Makes the folder at `path`.
+    explicit FolderOfHostileNames(const QString &path);
+    ~FolderOfHostileNames();
+    FolderOfHostileNames(const FolderOfHostileNames &) = delete;
+    FolderOfHostileNames &operator=(const FolderOfHostileNames &) = delete;
+
+    /// The path of `name` in it.
+    [[nodiscard]] QByteArray path(const QByteArray &name) const { return m_path + '/' + name; }
+
+  private:
+    QByteArray m_path;
+};
 
 /// The name under which text shows the file `name`, without its extension.
 QString readableBase(const QByteArray &name);
