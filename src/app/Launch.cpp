@@ -2,10 +2,8 @@
 
 #include "app/Launch.h"
 
-#include <QDir>
-#include <QFile>
-
 #include <filesystem>
+#include <system_error>
 
 using namespace Qt::StringLiterals;
 
@@ -45,14 +43,15 @@ std::optional<LaunchAnswer> answerTo(const QByteArrayList &words) {
 }
 
 QByteArrayList filesAmong(const QByteArrayList &words) {
-    const std::filesystem::path here = QFile::encodeName(QDir::currentPath()).toStdString();
     QByteArrayList files;
     bool isOver = false; // The options are.
     for (const QByteArray &word : words) {
         if (!isOver && word == "--") {
             isOver = true;
         } else {
-            files += QByteArray::fromStdString((here / word.toStdString()).string());
+            std::error_code failure; // Where the current folder is gone.
+            const auto path = std::filesystem::absolute(word.toStdString(), failure);
+            files += failure ? word : QByteArray::fromStdString(path.string());
         }
     }
     return files;

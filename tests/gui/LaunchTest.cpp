@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "app/Launch.h"
+#include "support/HostileNames.h"
 #include "support/PdfProbe.h"
 #include "support/Places.h"
 #include "support/TestUnit.h"
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge::test;
@@ -46,9 +51,16 @@ class LaunchTest : public QObject {
     void wordsAfterTwoDashesAreFiles() {
         const QByteArrayList words = {"a.txt", "--", "--", "--help", "/b.txt"};
         QVERIFY(!folioforge::answerTo(words).has_value());
-        const QByteArray here = QFile::encodeName(QDir::currentPath()) + '/';
-        QCOMPARE(folioforge::filesAmong(words),
-                 QByteArrayList({here + "a.txt", here + "--", here + "--help", "/b.txt"}));
+        const QByteArray before = QFile::encodeName(QDir::currentPath());
+        const QTemporaryDir home;
+        const FolderOfHostileNames folder(home.filePath(u"in"_s));
+        // A folder may have a name that is no text, too.
+        const QByteArray here = folder.path("caf\xe9");
+        QVERIFY(::mkdir(here.constData(), S_IRWXU) == 0 && ::chdir(here.constData()) == 0);
+        const QByteArrayList files = folioforge::filesAmong(words);
+        QVERIFY(::chdir(before.constData()) == 0);
+        QCOMPARE(files,
+                 QByteArrayList({here + "/a.txt", here + "/--", here + "/--help", "/b.txt"}));
     }
 
     void aNameThatIsNoTextKeepsItsBytes() {
