@@ -23,10 +23,10 @@ ReadableLinks::~ReadableLinks() {
 }
 
 QString ReadableLinks::pathFor(const QByteArray &path) {
-    QString readable = QString::fromUtf8(path);
     if (path.isValidUtf8()) {
-        return readable;
+        return QFile::decodeName(path); // On macOS with the accents in their letters, as all paths.
     }
+    QString readable = QString::fromUtf8(path);
     std::error_code failure;
     const auto target = std::filesystem::absolute(path.toStdString(), failure);
     const QString link =
