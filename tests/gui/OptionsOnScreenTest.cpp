@@ -212,6 +212,18 @@ class OptionsOnScreenTest : public QObject {
         QCOMPARE(stepped.place(), before.adjusted(0, 0, 200, 0));
     }
 
+    void aPlaceThatTheScreenReportsLateLeavesNoTrace() {
+        SteppedWindow stepped(250);
+        const QRect before = stepped.place();
+        stepped.slide.jumpTo(300);
+        const QRect step = stepped.place();
+        stepped.slide.jumpTo(200);
+        const QRect wanted = before.adjusted(0, 0, 200, 0);
+        stepped.report({step.topLeft(), wanted.size()});
+        stepped.slide.jumpTo(200);
+        QCOMPARE(stepped.place(), wanted);
+    }
+
     void partsOfTwoStepsAreNoUsersChange() {
         SteppedWindow stepped(250);
         const QRect before = stepped.place();
