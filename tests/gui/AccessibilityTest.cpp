@@ -27,6 +27,9 @@ namespace {
 
 using Nodes = std::vector<AtNode>;
 
+/// Milliseconds: a run under the sanitizers takes long.
+constexpr int kPatienceForRuns = 60'000;
+
 /// What a control is to a screen reader, and the action that stands for a click or for the keys.
 const std::map<QString, QString> &actionOfRole() {
     static const std::map<QString, QString> kActions{{u"push button"_s, u"Press"_s},
@@ -100,13 +103,12 @@ class Reader {
     /// The node called `name` with `role`, which is waited for.
     [[nodiscard]] std::optional<AtNode> node(const QString &role, const QString &name) const {
         std::optional<AtNode> found;
-        constexpr int kPatience = 60'000; // Milliseconds: a run under the sanitizers takes long.
         const bool came = QTest::qWaitFor(
             [&] {
                 found = find(nodes(), role, name);
                 return found.has_value();
             },
-            kPatience);
+            kPatienceForRuns);
         if (!came) {
             qWarning("no %s is called \"%s\"", qPrintable(role), qPrintable(name));
         }
@@ -298,10 +300,16 @@ class AccessibilityTest : public QObject {
         DescriptionListener listener;
         QVERIFY(listener.begin(reader.desktop().accessibility()));
         QVERIFY(reader.act(u"push button"_s, u"Create"_s, u"Press"_s));
-        QTRY_COMPARE(listener.heard().size(), 2U);
-        const AtNode speaker = reader.look(listener.heard().back());
+        // Qt 6.4 leaves what changed out of its message.
+        AtNode speaker;
+        const auto isSpeaker = [&](const AtNode &node) {
+            speaker = reader.look(node);
+            return speaker.description == u"long.pdf 1 of 2 done"_s;
+        };
+        const bool came = QTest::qWaitFor(
+            [&] { return std::ranges::any_of(listener.heard(), isSpeaker); }, kPatienceForRuns);
+        QVERIFY(came);
         QCOMPARE(speaker.role, u"dialog"_s);
-        QCOMPARE(speaker.description, u"long.pdf 1 of 2 done"_s);
     }
 
     void theItemsOfTheMenuAreNamedAndPressed() {
