@@ -5,13 +5,11 @@
 //   screenshots FOLDER SUFFIX EXAMPLE...   writes FOLDER/<picture>SUFFIX.png
 
 #include "OffscreenScreen.h"
+#include "WindowWorld.h"
 #include "app/FolioforgeAppDelegate.h"
 #include "app/Translations.h"
-#include "mainwnd/Desktop.h"
 #include "mainwnd/ListCommands.h"
 #include "mainwnd/MainWndCtrl.h"
-#include "mainwnd/Notices.h"
-#include "mainwnd/NotificationCenter.h"
 #include "mainwnd/SkinTableView.h"
 #include "preview/PageView.h"
 #include "skin/BusySheet.h"
@@ -26,8 +24,6 @@
 #include <QPainter>
 #include <QProgressBar>
 #include <QScreen>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <utility>
@@ -37,39 +33,27 @@ namespace {
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 
-/// A desktop that does nothing: taking pictures opens no pages.
-class StillDesktop : public Desktop {
-  public:
-    void runInShell(const QByteArray & /*command*/) override {}
-    void openURL(const QUrl & /*url*/) override {}
-    void openFile(const QString & /*path*/) override {}
-    void notify(const QString & /*text*/) override {}
-    void showProgress(std::optional<double> /*share*/) override {}
-};
-
-bool isOnScreen() {
-    return QGuiApplication::platformName() == u"xcb";
-}
-
 class Photographer {
   public:
-    Photographer(QMainWindow &window, QString folder, QString suffix)
+    /// `onX11` is a screen that somebody could see.
+    Photographer(QMainWindow &window, QString folder, QString suffix, bool onX11)
         : m_window(window)
         , m_folder(std::move(folder))
-        , m_suffix(std::move(suffix)) {}
+        , m_suffix(std::move(suffix))
+        , m_onX11(onX11) {}
 
-    /// Takes the window, and `menu` over it where there is one; on a screen that somebody could
-    /// see, what is there, with the frame.
+    /// Takes the window, and `menu` over it where there is one; on X11 what is there, with the
+    /// frame.
     void take(const QString &name, QMenu *menu = nullptr) {
         QRect frame;
         while (frame != m_window.frameGeometry()) { // The options panel slides open and shut.
             frame = m_window.frameGeometry();
             QTest::qWait(400);
         }
-        QPixmap picture = isOnScreen() ? m_window.screen()->grabWindow(
-                                             0, frame.x(), frame.y(), frame.width(), frame.height())
-                                       : m_window.grab();
-        if (menu != nullptr && !isOnScreen()) {
+        QPixmap picture = m_onX11 ? m_window.screen()->grabWindow(0, frame.x(), frame.y(),
+                                                                  frame.width(), frame.height())
+                                  : m_window.grab();
+        if (menu != nullptr && !m_onX11) {
             QPainter(&picture).drawPixmap(m_window.mapFromGlobal(menu->pos()), menu->grab());
         }
         picture.save(m_folder + u'/' + name + m_suffix + u".png"_s);
@@ -83,6 +67,7 @@ class Photographer {
     QMainWindow &m_window;
     QString m_folder;
     QString m_suffix;
+    bool m_onX11;
 };
 
 /// QTableView::selectRow selects nothing where one reads from right to left.
@@ -154,29 +139,25 @@ void takeRun(MainWndCtrl &controller, Photographer &photographer, const QString 
 } // namespace
 
 int main(int argc, char *argv[]) {
-    if (qgetenv("QT_QPA_PLATFORM") != "xcb") {
+    const bool onX11 = qgetenv("QT_QPA_PLATFORM") == "xcb";
+    if (!onX11) {
         test::useScreenOf({3200, 2000}); // Room for the window at every scale.
     }
     QApplication application(argc, argv);
     const Translations translations(QLocale::system().uiLanguages(), test::bundlePath());
     applyLightLook(application);
     const QStringList arguments = QApplication::arguments();
-    const QTemporaryDir home;
-    QSettings settings(home.filePath(u"settings.ini"_s), QSettings::IniFormat);
-    settings.setValue(u"CustomizeOutputDir"_s, u"/home/you/Documents/Folioforge"_s);
-    StillDesktop desktop;
-    Notices notices;
-    NotificationCenter notifications;
-    FolioforgeAppDelegate delegate(
-        {settings, desktop, notices, notifications, home.path(), test::bundlePath()}, nullptr);
+    test::WindowWorld world;
+    world.storeFolder(u"/home/you/Documents/Folioforge"_s);
+    FolioforgeAppDelegate delegate(world.services(), nullptr);
     delegate.applicationDidFinishLaunching();
     MainWndCtrl &controller = delegate.mainWndCtrl();
     QMainWindow *window = controller.window();
     window->resize(1000, 660);
-    Photographer photographer(*window, arguments.value(1), arguments.value(2));
+    Photographer photographer(*window, arguments.value(1), arguments.value(2), onX11);
     takeSteps(controller, photographer, arguments.mid(3));
     takeOptions(photographer);
     takePreview(controller, photographer);
-    takeRun(controller, photographer, home.path());
+    takeRun(controller, photographer, world.home.path());
     return 0;
 }
