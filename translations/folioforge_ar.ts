@@ -914,7 +914,7 @@ None: pictures stay as they are
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation>لم يُؤخذ: %1</translation>
+        <translation>تُرك: %1</translation>
     </message>
     <message>
         <source>The folder cannot be listed: %1</source>
@@ -1749,7 +1749,7 @@ None: pictures stay as they are
     </message>
     <message>
         <source>The document is encrypted, and its permissions do not let its pages be taken; its owner password would</source>
-        <translation>المستند مشفّر، وأذوناته لا تسمح بأخذ صفحاته؛ كلمة مرور مالكه تسمح بذلك</translation>
+        <translation>المستند مشفّر، وصلاحياته لا تسمح بأخذ صفحاته؛ كلمة مرور مالكه تسمح بذلك</translation>
     </message>
     <message>
         <source>The document is encrypted, and none of the passwords opens it</source>
@@ -1868,14 +1868,14 @@ None: pictures stay as they are
     </message>
     <message>
         <source>1 character is split between two rows and shown as boxes</source>
-        <translation>حرف واحد مقسوم بين سطرين ويظهر مربعًا</translation>
+        <translation>حرف واحد مقسوم بين سطرين ويظهر مربعين</translation>
     </message>
     <message numerus="yes">
         <source>%n characters are split between two rows and shown as boxes</source>
         <translation>
             <numerusform>%n حرف مقسومة بين سطرين وتظهر مربعات</numerusform>
-            <numerusform>حرف واحد مقسوم بين سطرين ويظهر مربعًا</numerusform>
-            <numerusform>حرفان مقسومان بين سطرين ويظهران مربعين</numerusform>
+            <numerusform>حرف واحد مقسوم بين سطرين ويظهر مربعين</numerusform>
+            <numerusform>حرفان مقسومان بين سطرين ويظهران مربعات</numerusform>
             <numerusform>%n أحرف مقسومة بين سطرين وتظهر مربعات</numerusform>
             <numerusform>%n حرفًا مقسومة بين سطرين وتظهر مربعات</numerusform>
             <numerusform>%n حرف مقسومة بين سطرين وتظهر مربعات</numerusform>

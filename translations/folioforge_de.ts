@@ -1130,7 +1130,7 @@ Keine: Bilder bleiben, wie sie sind
     </message>
     <message>
         <source>The Photoshop file&apos;s compression is unknown</source>
-        <translation>Die Komprimierung der Photoshop-Datei ist unbekannt</translation>
+        <translation>Die Kompression der Photoshop-Datei ist unbekannt</translation>
     </message>
     <message>
         <source>The Photoshop file holds its layers alone: save it with maximized compatibility, which adds the picture they make</source>
@@ -1190,7 +1190,7 @@ Keine: Bilder bleiben, wie sie sind
     </message>
     <message>
         <source>The TIFF file cannot be read: its compression is not supported</source>
-        <translation>Die TIFF-Datei kann nicht gelesen werden: Ihre Komprimierung wird nicht unterstützt</translation>
+        <translation>Die TIFF-Datei kann nicht gelesen werden: Ihre Kompression wird nicht unterstützt</translation>
     </message>
     <message>
         <source>The WebP file is damaged</source>
@@ -1673,7 +1673,7 @@ Keine: Bilder bleiben, wie sie sind
     </message>
     <message>
         <source>Readers need not show pages beyond 3 to 14,400 units: %1</source>
-        <translation>Programme müssen Seiten außerhalb von 3 bis 14 400 Einheiten nicht zeigen: %1</translation>
+        <translation>Programme müssen Seiten außerhalb von 3 bis 14.400 Einheiten nicht zeigen: %1</translation>
     </message>
     <message>
         <source>The document is protected, and the PDF made of it has the protection that was asked for instead</source>

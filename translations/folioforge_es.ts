@@ -1673,7 +1673,7 @@ Ninguna: las imágenes quedan como están
     </message>
     <message>
         <source>Readers need not show pages beyond 3 to 14,400 units: %1</source>
-        <translation>Los lectores no tienen que mostrar páginas fuera de 3 a 14 400 unidades: %1</translation>
+        <translation>Los lectores no tienen que mostrar páginas fuera de 3 a 14&#x202f;400 unidades: %1</translation>
     </message>
     <message>
         <source>The document is protected, and the PDF made of it has the protection that was asked for instead</source>
@@ -1760,12 +1760,12 @@ Ninguna: las imágenes quedan como están
     </message>
     <message>
         <source>1 character is split between two rows and shown as boxes</source>
-        <translation>1 carácter queda dividido entre dos líneas y se muestra como un recuadro</translation>
+        <translation>1 carácter queda dividido entre dos líneas y se muestra como recuadros</translation>
     </message>
     <message numerus="yes">
         <source>%n characters are split between two rows and shown as boxes</source>
         <translation>
-            <numerusform>%n carácter queda dividido entre dos líneas y se muestra como un recuadro</numerusform>
+            <numerusform>%n carácter queda dividido entre dos líneas y se muestra como recuadros</numerusform>
             <numerusform>%n caracteres quedan divididos entre dos líneas y se muestran como recuadros</numerusform>
         </translation>
     </message>

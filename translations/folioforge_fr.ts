@@ -37,7 +37,7 @@ ICU, Unicode License
 PDFium, BSD licence</source>
         <translation>Folioforge est un logiciel libre de Vesprin sous licence Apache, version 2.0.
 
-Il s’appuie, avec gratitude, sur le travail d’autres :
+Il s’appuie, avec gratitude, sur le travail d’autres&#xa0;:
 Qt 6, GNU Lesser General Public License 3
 qpdf, Apache License 2.0
 HarfBuzz, MIT licence
@@ -64,7 +64,7 @@ PDFium, BSD licence</translation>
     <name>Checks</name>
     <message>
         <source>Click &quot;OK&quot; to select another folder.</source>
-        <translation>Cliquez sur « OK » pour choisir un autre dossier.</translation>
+        <translation>Cliquez sur «&#xa0;OK&#xa0;» pour choisir un autre dossier.</translation>
     </message>
     <message>
         <source>The passwords can not be the same.</source>
@@ -250,7 +250,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>Add the text and image files of a folder; PDFs and folders in it are left out</source>
-        <translation>Ajouter les fichiers texte et images d’un dossier ; ses PDF et sous-dossiers sont laissés de côté</translation>
+        <translation>Ajouter les fichiers texte et images d’un dossier&#x202f;; ses PDF et sous-dossiers sont laissés de côté</translation>
     </message>
     <message>
         <source>Add Folder…</source>
@@ -314,7 +314,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Output folder:</source>
-        <translation>Dossier de &amp;sortie :</translation>
+        <translation>Dossier de &amp;sortie&#xa0;:</translation>
     </message>
     <message>
         <source>The folder that receives the PDF documents</source>
@@ -362,11 +362,11 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>N&amp;om :</translation>
+        <translation>N&amp;om&#xa0;:</translation>
     </message>
     <message>
         <source>Name of the merged PDF; .pdf is added where it is missing</source>
-        <translation>Nom du PDF fusionné ; .pdf est ajouté s’il manque</translation>
+        <translation>Nom du PDF fusionné&#x202f;; .pdf est ajouté s’il manque</translation>
     </message>
     <message>
         <source>Name of the merged PDF</source>
@@ -426,7 +426,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>T&amp;itle:</source>
-        <translation>T&amp;itre :</translation>
+        <translation>T&amp;itre&#xa0;:</translation>
     </message>
     <message>
         <source>Title of the PDF documents</source>
@@ -438,7 +438,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Author:</source>
-        <translation>A&amp;uteur :</translation>
+        <translation>A&amp;uteur&#xa0;:</translation>
     </message>
     <message>
         <source>Author of the PDF documents</source>
@@ -450,7 +450,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>Sub&amp;ject:</source>
-        <translation>Su&amp;jet :</translation>
+        <translation>Su&amp;jet&#xa0;:</translation>
     </message>
     <message>
         <source>Subject of the PDF documents</source>
@@ -462,7 +462,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Keywords:</source>
-        <translation>Mots-&amp;clés :</translation>
+        <translation>Mots-&amp;clés&#xa0;:</translation>
     </message>
     <message>
         <source>Keywords of the PDF documents</source>
@@ -514,11 +514,11 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>Page of this size:</source>
-        <translation>Page de cette taille :</translation>
+        <translation>Page de cette taille&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation>&amp;Largeur :</translation>
+        <translation>&amp;Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>Custom page width, in points</source>
@@ -530,7 +530,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>Hei&amp;ght:</source>
-        <translation>&amp;Hauteur :</translation>
+        <translation>&amp;Hauteur&#xa0;:</translation>
     </message>
     <message>
         <source>Custom page height, in points</source>
@@ -546,7 +546,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Left:</source>
-        <translation>&amp;Gauche :</translation>
+        <translation>&amp;Gauche&#xa0;:</translation>
     </message>
     <message>
         <source>Left margin, in points</source>
@@ -558,7 +558,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Right:</source>
-        <translation>D&amp;roite :</translation>
+        <translation>D&amp;roite&#xa0;:</translation>
     </message>
     <message>
         <source>Right margin, in points</source>
@@ -570,7 +570,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Top:</source>
-        <translation>Hau&amp;t :</translation>
+        <translation>Hau&amp;t&#xa0;:</translation>
     </message>
     <message>
         <source>Top margin, in points</source>
@@ -582,7 +582,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Bottom:</source>
-        <translation>&amp;Bas :</translation>
+        <translation>&amp;Bas&#xa0;:</translation>
     </message>
     <message>
         <source>Bottom margin, in points</source>
@@ -686,7 +686,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>&amp;Compress:</source>
-        <translation>Co&amp;mpression :</translation>
+        <translation>Co&amp;mpression&#xa0;:</translation>
     </message>
     <message>
         <source>Compression</source>
@@ -710,27 +710,27 @@ None: pictures stay as they are
 150m, mild: photos at 150 pixels per inch
 96m, medium: photos at 96 pixels per inch
 72l, strong: photos at 72 pixels per inch</source>
-        <translation>Degré de réduction des photos :
-Aucune : les images restent telles quelles
-150m, légère : photos à 150 pixels par pouce
-96m, moyenne : photos à 96 pixels par pouce
-72l, forte : photos à 72 pixels par pouce</translation>
+        <translation>Degré de réduction des photos&#xa0;:
+Aucune&#xa0;: les images restent telles quelles
+150m, légère&#xa0;: photos à 150 pixels par pouce
+96m, moyenne&#xa0;: photos à 96 pixels par pouce
+72l, forte&#xa0;: photos à 72 pixels par pouce</translation>
     </message>
     <message>
         <source>150m, mild: good for printing</source>
-        <translation>150m, légère : pour imprimer</translation>
+        <translation>150m, légère&#xa0;: pour imprimer</translation>
     </message>
     <message>
         <source>96m, medium: good for screens</source>
-        <translation>96m, moyenne : pour l’écran</translation>
+        <translation>96m, moyenne&#xa0;: pour l’écran</translation>
     </message>
     <message>
         <source>72l, strong: good for mail</source>
-        <translation>72l, forte : pour le courriel</translation>
+        <translation>72l, forte&#xa0;: pour le courriel</translation>
     </message>
     <message>
         <source>Break lines between words; keep blank lines, tabs and right-to-left text</source>
-        <translation>Couper les lignes entre les mots ; garder lignes vides, tabulations et texte de droite à gauche</translation>
+        <translation>Couper les lignes entre les mots&#x202f;; garder lignes vides, tabulations et texte de droite à gauche</translation>
     </message>
     <message>
         <source>Readable layout</source>
@@ -810,11 +810,11 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation>%1 ne peut pas être lu : %2</translation>
+        <translation>%1 ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 is a binary property list; only XML can be read</source>
-        <translation>%1 est une liste de propriétés binaire ; seul le XML peut être lu</translation>
+        <translation>%1 est une liste de propriétés binaire&#x202f;; seul le XML peut être lu</translation>
     </message>
     <message>
         <source>%1 is no valid property list</source>
@@ -822,11 +822,11 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The filter file %1 lacks a valid value for &quot;%2&quot;</source>
-        <translation>Il manque au fichier de filtre %1 une valeur valide pour « %2 »</translation>
+        <translation>Il manque au fichier de filtre %1 une valeur valide pour «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>Not all of the PDF is tagged, as these are not: %1</source>
-        <translation>Le PDF n’est pas balisé en entier, car ceux-ci ne le sont pas : %1</translation>
+        <translation>Le PDF n’est pas balisé en entier, car ceux-ci ne le sont pas&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>%1 and %n more</source>
@@ -894,11 +894,11 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation>Non pris : %1</translation>
+        <translation>Laissé de côté&#xa0;: %1</translation>
     </message>
     <message>
         <source>The folder cannot be listed: %1</source>
-        <translation>Le contenu du dossier ne peut pas être listé : %1</translation>
+        <translation>Le contenu du dossier ne peut pas être listé&#xa0;: %1</translation>
     </message>
     <message>
         <source>The document is encrypted</source>
@@ -914,7 +914,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The text is not valid UTF-8; its page is left blank</source>
-        <translation>Le texte n’est pas de l’UTF-8 valide ; sa page reste vide</translation>
+        <translation>Le texte n’est pas de l’UTF-8 valide&#x202f;; sa page reste vide</translation>
     </message>
     <message>
         <source>Cannot open the file</source>
@@ -978,7 +978,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The picture is made for HDR screens, and a PDF shows its brightness otherwise</source>
@@ -1006,7 +1006,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The EXR file cannot be read: %1</source>
-        <translation>Le fichier EXR ne peut pas être lu : %1</translation>
+        <translation>Le fichier EXR ne peut pas être lu&#xa0;: %1</translation>
     </message>
     <message>
         <source>The EXR file has no channels of colour or brightness</source>
@@ -1014,7 +1014,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The EXR file is damaged: none of its rows can be read</source>
-        <translation>Le fichier EXR est endommagé : aucune de ses lignes ne peut être lue</translation>
+        <translation>Le fichier EXR est endommagé&#xa0;: aucune de ses lignes ne peut être lue</translation>
     </message>
     <message>
         <source>The GIF file is damaged</source>
@@ -1026,7 +1026,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The HEIC or AVIF file cannot be read: %1</source>
-        <translation>Le fichier HEIC ou AVIF ne peut pas être lu : %1</translation>
+        <translation>Le fichier HEIC ou AVIF ne peut pas être lu&#xa0;: %1</translation>
     </message>
     <message>
         <source>The system grants no thread, which HEIC and AVIF files take</source>
@@ -1042,7 +1042,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The icon file is cut off or damaged: there may be a larger picture in the part that is missing</source>
-        <translation>Le fichier d’icône est tronqué ou endommagé : la partie manquante contient peut-être une image plus grande</translation>
+        <translation>Le fichier d’icône est tronqué ou endommagé&#xa0;: la partie manquante contient peut-être une image plus grande</translation>
     </message>
     <message>
         <source>The icon&apos;s pixels are of an unknown kind</source>
@@ -1082,11 +1082,11 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The picture is cut off: %1 % of its tiles could not be read</source>
-        <translation>L’image est tronquée : %1 % de ses tuiles n’ont pas pu être lues</translation>
+        <translation>L’image est tronquée&#xa0;: %1&#xa0;% de ses tuiles n’ont pas pu être lues</translation>
     </message>
     <message>
         <source>The picture is cut off: %1 % of its data could not be read</source>
-        <translation>L’image est tronquée : %1 % de ses données n’ont pas pu être lues</translation>
+        <translation>L’image est tronquée&#xa0;: %1&#xa0;% de ses données n’ont pas pu être lues</translation>
     </message>
     <message>
         <source>The JPEG 2000 file is cut off</source>
@@ -1094,7 +1094,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The JPEG file is damaged: none of its rows could be read</source>
-        <translation>Le fichier JPEG est endommagé : aucune de ses lignes n’a pu être lue</translation>
+        <translation>Le fichier JPEG est endommagé&#xa0;: aucune de ses lignes n’a pu être lue</translation>
     </message>
     <message>
         <source>The JPEG XL file is damaged</source>
@@ -1134,7 +1134,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The Photoshop file holds its layers alone: save it with maximized compatibility, which adds the picture they make</source>
-        <translation>Le fichier Photoshop ne contient que ses calques : enregistrez-le avec la compatibilité maximale, qui ajoute l’image qu’ils forment</translation>
+        <translation>Le fichier Photoshop ne contient que ses calques&#xa0;: enregistrez-le avec la compatibilité maximale, qui ajoute l’image qu’ils forment</translation>
     </message>
     <message>
         <source>The Photoshop file has no palette</source>
@@ -1182,7 +1182,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The TIFF file cannot be read: %1</source>
-        <translation>Le fichier TIFF ne peut pas être lu : %1</translation>
+        <translation>Le fichier TIFF ne peut pas être lu&#xa0;: %1</translation>
     </message>
     <message>
         <source>The TIFF file has no palette</source>
@@ -1190,7 +1190,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The TIFF file cannot be read: its compression is not supported</source>
-        <translation>Le fichier TIFF ne peut pas être lu : sa compression n’est pas prise en charge</translation>
+        <translation>Le fichier TIFF ne peut pas être lu&#xa0;: sa compression n’est pas prise en charge</translation>
     </message>
     <message>
         <source>The WebP file is damaged</source>
@@ -1270,7 +1270,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>It is left out: %1</source>
-        <translation>Laissée de côté : %1</translation>
+        <translation>Laissée de côté&#xa0;: %1</translation>
     </message>
     <message>
         <source>It and those behind it are left out, since they are too large together</source>
@@ -1278,27 +1278,27 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>Page %1: %2</source>
-        <translation>Page %1 : %2</translation>
+        <translation>Page %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The picture is cut off: %1 % of its rows could not be read</source>
-        <translation>L’image est tronquée : %1 % de ses lignes n’ont pas pu être lues</translation>
+        <translation>L’image est tronquée&#xa0;: %1&#xa0;% de ses lignes n’ont pas pu être lues</translation>
     </message>
     <message>
         <source>The picture is cut off: its finer details could not be read</source>
-        <translation>L’image est tronquée : ses détails les plus fins n’ont pas pu être lus</translation>
+        <translation>L’image est tronquée&#xa0;: ses détails les plus fins n’ont pas pu être lus</translation>
     </message>
     <message>
         <source>The picture is cut off: parts of it could not be read</source>
-        <translation>L’image est tronquée : des parties n’ont pas pu être lues</translation>
+        <translation>L’image est tronquée&#xa0;: des parties n’ont pas pu être lues</translation>
     </message>
     <message>
         <source>The picture is cut off: its transparency could not be read</source>
-        <translation>L’image est tronquée : sa transparence n’a pas pu être lue</translation>
+        <translation>L’image est tronquée&#xa0;: sa transparence n’a pas pu être lue</translation>
     </message>
     <message>
         <source>The picture is damaged: parts of it may look wrong</source>
-        <translation>L’image est endommagée : des parties peuvent sembler fausses</translation>
+        <translation>L’image est endommagée&#xa0;: des parties peuvent sembler fausses</translation>
     </message>
     <message>
         <source>The file is too short for the image its header describes</source>
@@ -1314,7 +1314,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>SOURCE_DATE_EPOCH is &quot;%1&quot;, not the seconds from 1970 to a date before the year 10000</source>
-        <translation>SOURCE_DATE_EPOCH vaut « %1 », et non les secondes de 1970 à une date avant l’an 10000</translation>
+        <translation>SOURCE_DATE_EPOCH vaut «&#xa0;%1&#xa0;», et non les secondes de 1970 à une date avant l’an 10000</translation>
     </message>
     <message>
         <source>1 structure tag</source>
@@ -1510,13 +1510,13 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>It has 1 page, and &quot;%1&quot; names others</source>
-        <translation>Il y a 1 page, et « %1 » en désigne d’autres</translation>
+        <translation>Il y a 1 page, et «&#xa0;%1&#xa0;» en désigne d’autres</translation>
     </message>
     <message numerus="yes">
         <source>It has %n pages, and &quot;%1&quot; names others</source>
         <translation>
-            <numerusform>Il y a %n page, et « %1 » en désigne d’autres</numerusform>
-            <numerusform>Il y a %n pages, et « %1 » en désigne d’autres</numerusform>
+            <numerusform>Il y a %n page, et «&#xa0;%1&#xa0;» en désigne d’autres</numerusform>
+            <numerusform>Il y a %n pages, et «&#xa0;%1&#xa0;» en désigne d’autres</numerusform>
         </translation>
     </message>
     <message>
@@ -1543,7 +1543,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>Not carried over, as it belongs to pages that are left out: %1</source>
-        <translation>Non repris, car lié à des pages laissées de côté : %1</translation>
+        <translation>Non repris, car lié à des pages laissées de côté&#xa0;: %1</translation>
     </message>
     <message>
         <source>The document has no pages</source>
@@ -1551,18 +1551,18 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>1 form field is renamed, since another document has one of its name: &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
-        <translation>1 champ de formulaire est renommé, car un autre document en a un du même nom : « %1 » est maintenant « %2 » ; les scripts restent tels quels</translation>
+        <translation>1 champ de formulaire est renommé, car un autre document en a un du même nom&#xa0;: «&#xa0;%1&#xa0;» est maintenant «&#xa0;%2&#xa0;»&#x202f;; les scripts restent tels quels</translation>
     </message>
     <message numerus="yes">
         <source>%n form fields are renamed, since another document has fields of their names, such as &quot;%1&quot; is now &quot;%2&quot;; scripts are left as they are</source>
         <translation>
-            <numerusform>%n champ de formulaire est renommé, car un autre document en a un du même nom, comme « %1 » en « %2 » ; les scripts restent tels quels</numerusform>
-            <numerusform>%n champs de formulaire sont renommés, car un autre document en a des mêmes noms, comme « %1 » en « %2 » ; les scripts restent tels quels</numerusform>
+            <numerusform>%n champ de formulaire est renommé, car un autre document en a un du même nom, comme «&#xa0;%1&#xa0;» en «&#xa0;%2&#xa0;»&#x202f;; les scripts restent tels quels</numerusform>
+            <numerusform>%n champs de formulaire sont renommés, car un autre document en a des mêmes noms, comme «&#xa0;%1&#xa0;» en «&#xa0;%2&#xa0;»&#x202f;; les scripts restent tels quels</numerusform>
         </translation>
     </message>
     <message>
         <source>Not carried over: %1</source>
-        <translation>Non repris : %1</translation>
+        <translation>Non repris&#xa0;: %1</translation>
     </message>
     <message>
         <source>it is a part of another one now</source>
@@ -1590,7 +1590,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The document no longer says that it is %1, since %2</source>
-        <translation>Le document ne déclare plus qu’il est %1 : %2</translation>
+        <translation>Le document ne déclare plus qu’il est %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Some of its bookmarks are missing in the document itself</source>
@@ -1630,13 +1630,13 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The document is damaged and was repaired: %1</source>
-        <translation>Le document est endommagé et a été réparé : %1</translation>
+        <translation>Le document est endommagé et a été réparé&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>The document is damaged and was repaired in %n places, the first: %1</source>
         <translation>
-            <numerusform>Le document est endommagé et a été réparé à %n endroit, le premier : %1</numerusform>
-            <numerusform>Le document est endommagé et a été réparé à %n endroits, le premier : %1</numerusform>
+            <numerusform>Le document est endommagé et a été réparé à %n endroit, le premier&#xa0;: %1</numerusform>
+            <numerusform>Le document est endommagé et a été réparé à %n endroits, le premier&#xa0;: %1</numerusform>
         </translation>
     </message>
     <message>
@@ -1645,7 +1645,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The document is encrypted, and its permissions do not let its pages be taken; its owner password would</source>
-        <translation>Le document est chiffré, et ses droits ne permettent pas de reprendre ses pages ; son mot de passe propriétaire le permettrait</translation>
+        <translation>Le document est chiffré, et ses droits ne permettent pas de reprendre ses pages&#x202f;; son mot de passe propriétaire le permettrait</translation>
     </message>
     <message>
         <source>The document is encrypted, and none of the passwords opens it</source>
@@ -1661,11 +1661,11 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The document is damaged: its trailer and its table of objects are missing</source>
-        <translation>Le document est endommagé : sa fin et sa table des objets manquent</translation>
+        <translation>Le document est endommagé&#xa0;: sa fin et sa table des objets manquent</translation>
     </message>
     <message>
         <source>The document is damaged: it has no catalog</source>
-        <translation>Le document est endommagé : il n’a pas de catalogue</translation>
+        <translation>Le document est endommagé&#xa0;: il n’a pas de catalogue</translation>
     </message>
     <message>
         <source>page %1 (%2)</source>
@@ -1673,7 +1673,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>Readers need not show pages beyond 3 to 14,400 units: %1</source>
-        <translation>Les lecteurs ne sont pas tenus d’afficher les pages hors de 3 à 14 400 unités : %1</translation>
+        <translation>Les lecteurs ne sont pas tenus d’afficher les pages hors de 3 à 14&#x202f;400 unités&#xa0;: %1</translation>
     </message>
     <message>
         <source>The document is protected, and the PDF made of it has the protection that was asked for instead</source>
@@ -1721,7 +1721,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>The document is damaged: %1</source>
-        <translation>Le document est endommagé : %1</translation>
+        <translation>Le document est endommagé&#xa0;: %1</translation>
     </message>
     <message>
         <source>The document is damaged</source>
@@ -1749,29 +1749,29 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>1 character has no glyph in any font and is shown as a box: %1</source>
-        <translation>1 caractère n’existe dans aucune police et s’affiche comme un carré : %1</translation>
+        <translation>1 caractère n’existe dans aucune police et s’affiche comme un carré&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n characters have no glyph in any font and are shown as boxes: %1</source>
         <translation>
-            <numerusform>%n caractère n’existe dans aucune police et s’affiche comme un carré : %1</numerusform>
-            <numerusform>%n caractères n’existent dans aucune police et s’affichent comme des carrés : %1</numerusform>
+            <numerusform>%n caractère n’existe dans aucune police et s’affiche comme un carré&#xa0;: %1</numerusform>
+            <numerusform>%n caractères n’existent dans aucune police et s’affichent comme des carrés&#xa0;: %1</numerusform>
         </translation>
     </message>
     <message>
         <source>1 character is split between two rows and shown as boxes</source>
-        <translation>1 caractère est partagé entre deux lignes et s’affiche comme un carré</translation>
+        <translation>1 caractère est partagé entre deux lignes et s’affiche comme des carrés</translation>
     </message>
     <message numerus="yes">
         <source>%n characters are split between two rows and shown as boxes</source>
         <translation>
-            <numerusform>%n caractère est partagé entre deux lignes et s’affiche comme un carré</numerusform>
+            <numerusform>%n caractère est partagé entre deux lignes et s’affiche comme des carrés</numerusform>
             <numerusform>%n caractères sont partagés entre deux lignes et s’affichent comme des carrés</numerusform>
         </translation>
     </message>
     <message>
         <source>The rules for the breaking of lines cannot be loaded: %1</source>
-        <translation>Les règles de coupure des lignes ne peuvent pas être chargées : %1</translation>
+        <translation>Les règles de coupure des lignes ne peuvent pas être chargées&#xa0;: %1</translation>
     </message>
     <message>
         <source>The header or the footer has more rows than its margin</source>
@@ -1791,7 +1791,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
-        <translation>Les fichiers HEIC et AVIF sont lus par libheif 1, qui ne peut pas être chargé : %1</translation>
+        <translation>Les fichiers HEIC et AVIF sont lus par libheif 1, qui ne peut pas être chargé&#xa0;: %1</translation>
     </message>
     <message>
         <source>This program was built without the means to read HEIC and AVIF files</source>
@@ -1806,18 +1806,18 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>not compressed: %1</source>
-        <translation>non compressé : %1</translation>
+        <translation>non compressé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Something went wrong with these PDF documents:</source>
-        <translation>Un problème est survenu avec ces documents PDF :</translation>
+        <translation>Un problème est survenu avec ces documents PDF&#xa0;:</translation>
     </message>
 </context>
 <context>
     <name>SourceFiles</name>
     <message>
         <source>Fail to import following files. They are encrypted or not normal PDF files:</source>
-        <translation>Impossible d’importer les fichiers suivants. Ils sont chiffrés ou ne sont pas des fichiers PDF normaux :</translation>
+        <translation>Impossible d’importer les fichiers suivants. Ils sont chiffrés ou ne sont pas des fichiers PDF normaux&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1923,7 +1923,7 @@ Aucune : les images restent telles quelles
     <name>folioforge::ListHistory</name>
     <message>
         <source>Undo %1</source>
-        <translation>Annuler : %1</translation>
+        <translation>Annuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -1931,7 +1931,7 @@ Aucune : les images restent telles quelles
     </message>
     <message>
         <source>Redo %1</source>
-        <translation>Rétablir : %1</translation>
+        <translation>Rétablir&#xa0;: %1</translation>
     </message>
     <message>
         <source>Redo</source>

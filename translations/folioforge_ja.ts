@@ -889,7 +889,7 @@ None: pictures stay as they are
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation>対象外: %1</translation>
+        <translation>省かれたもの: %1</translation>
     </message>
     <message>
         <source>The folder cannot be listed: %1</source>
@@ -2041,7 +2041,7 @@ None: pictures stay as they are
     <name>folioforge::PreviewPanel</name>
     <message>
         <source>Page %1 of more than %2</source>
-        <translation>%1 ページ（%2 ページ以上）</translation>
+        <translation>%1 ページ（%2 ページを超える）</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>

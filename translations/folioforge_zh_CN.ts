@@ -673,7 +673,7 @@ PDFium, BSD licence</translation>
     </message>
     <message>
         <source>Tick to refuse copying text and pictures to readers without the owner password</source>
-        <translation>勾选后，没有所有者密码的读者不能复制文本和图片</translation>
+        <translation>勾选后，没有所有者密码的读者不能复制文本和图像</translation>
     </message>
     <message>
         <source>Refuse copying</source>
@@ -710,7 +710,7 @@ None: pictures stay as they are
 96m, medium: photos at 96 pixels per inch
 72l, strong: photos at 72 pixels per inch</source>
         <translation>照片的压缩程度：
-无：图片保持原样
+无：图像保持原样
 150m，轻度：照片为每英寸 150 像素
 96m，中度：照片为每英寸 96 像素
 72l，强：照片为每英寸 72 像素</translation>
@@ -2041,7 +2041,7 @@ None: pictures stay as they are
     <name>folioforge::PreviewPanel</name>
     <message>
         <source>Page %1 of more than %2</source>
-        <translation>第 %1 页，共 %2 页以上</translation>
+        <translation>第 %1 页，共超过 %2 页</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>

@@ -2,6 +2,9 @@
 
 #pragma once
 
+#include "support/Places.h"
+
+#include <QDir>
 #include <QFile>
 #include <QList>
 #include <QString>
@@ -12,10 +15,17 @@
 namespace folioforge::test {
 
 /// The languages that the window speaks beside English, as the names of their files say them.
-inline const QStringList &languages() {
-    static const QStringList all{QStringLiteral("ar"), QStringLiteral("de"),
-                                 QStringLiteral("es"), QStringLiteral("fr"),
-                                 QStringLiteral("ja"), QStringLiteral("zh_CN")};
+inline QStringList languages() {
+    const QString before = QStringLiteral("folioforge_");
+    const QString behind = QStringLiteral(".ts");
+    const QDir folder(inSource(QStringLiteral("translations")));
+    QStringList all;
+    for (const QString &name : folder.entryList({before + u'*' + behind}, QDir::Files)) {
+        all += name.sliced(before.size()).chopped(behind.size());
+    }
+    if (all.isEmpty()) {
+        qFatal("there are no translations in %s", qPrintable(folder.path()));
+    }
     return all;
 }
 
