@@ -63,6 +63,11 @@ FUZZ_TARGET(ImageReducer) {
     }
     const ImageJob job = jobOf(bytes);
     const Reduction reduction = reduceImage(job);
-    require(reduction.image ? reduction.image->data.size() < job.data.size() || !job.grey.empty()
-                            : !reduction.reason.isEmpty());
+    if (!reduction.image) {
+        require(!reduction.reason.isEmpty());
+    } else if (job.grey.empty()) {
+        require(reduction.image->data.size() < job.data.size());
+    } else {
+        require(reduction.image->components == 1);
+    }
 }
