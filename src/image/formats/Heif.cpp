@@ -10,44 +10,20 @@
 #include "image/PictureDamage.h"
 #include "image/Raster.h"
 #include "image/formats/ChannelRows.h"
-#include "image/formats/HeifLibrary.h"
+#include "image/formats/HeifFile.h"
 #include "image/formats/Signatures.h"
 
-#include <algorithm>
 #include <memory>
-#include <new>
 #include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
 
-using namespace Qt::StringLiterals;
-
 namespace folioforge {
 
 namespace {
 
-struct Release {
-    void operator()(heif_context *held) const { heif().context_free(held); }
-    void operator()(heif_image_handle *held) const { heif().image_handle_release(held); }
-    void operator()(heif_image *held) const { heif().image_release(held); }
-    void operator()(heif_color_profile_nclx *held) const { heif().nclx_color_profile_free(held); }
-};
-using Handle = std::unique_ptr<heif_image_handle, Release>;
-using Decoded = std::unique_ptr<heif_image, Release>;
-
 constexpr size_t kMostMetadata = 1 << 25;
-
-/// Throws what a call of libheif complains of.
-void require(const heif_error &error) {
-    if (error.code == heif_error_Memory_allocation_error) {
-        throw std::bad_alloc();
-    }
-    if (error.code != heif_error_Ok) {
-        throw Error(Reasons::tr("The HEIC or AVIF file cannot be read: %1")
-                        .arg(QString::fromUtf8(error.message).simplified()));
-    }
-}
 
 /// Throws Error where the system grants no thread: libde265 would wait for its own for ever.
 void requireThread() {
@@ -57,83 +33,6 @@ void requireThread() {
         throw Error(Reasons::tr("The system grants no thread, which HEIC and AVIF files take"));
     }
 }
-
-/// A file opened with libheif over a view.
-class HeifFile {
-  public:
-    explicit HeifFile(const FileView &file)
-        : m_source{file}
-        , m_context(heif().context_alloc()) {
-        static const heif_error started = heif().init(nullptr); // Finds the decoders.
-        require(started);
-        if (!m_context) {
-            throw std::bad_alloc();
-        }
-        static const heif_reader reader = [] {
-            heif_reader made{}; // Later versions of libheif have more members.
-            made.reader_api_version = 1;
-            made.get_position = position;
-            made.read = read;
-            made.seek = seek;
-            made.wait_for_file_size = waitForSize;
-            return made;
-        }();
-        // Its threads would fail where the system grants none.
-        heif().context_set_max_decoding_threads(m_context.get(), 0);
-        require(heif().context_read_from_reader(m_context.get(), &reader, &m_source, nullptr));
-    }
-    HeifFile(const HeifFile &) = delete;
-    HeifFile &operator=(const HeifFile &) = delete;
-
-    /// The pictures that a viewer shows, beginning with the primary one.
-    [[nodiscard]] std::vector<heif_item_id> pictures() const {
-        heif_item_id primary = 0;
-        require(heif().context_get_primary_image_ID(m_context.get(), &primary));
-        std::vector<heif_item_id> all(static_cast<size_t>(
-            std::max(0, heif().context_get_number_of_top_level_images(m_context.get()))));
-        heif().context_get_list_of_top_level_image_IDs(m_context.get(), all.data(),
-                                                       static_cast<int>(all.size()));
-        std::erase(all, primary);
-        all.insert(all.begin(), primary);
-        return all;
-    }
-
-    [[nodiscard]] Handle picture(heif_item_id id) const {
-        heif_image_handle *handle = nullptr;
-        require(heif().context_get_image_handle(m_context.get(), id, &handle));
-        return Handle(handle);
-    }
-
-  private:
-    struct Source {
-        FileView file;
-        qint64 at = 0;
-    };
-
-    static int64_t position(void *source) { return static_cast<Source *>(source)->at; }
-    static int read(void *target, size_t size, void *source) {
-        auto &from = *static_cast<Source *>(source);
-        try {
-            const qint64 got = from.file.readInto(from.at, {static_cast<uchar *>(target), size});
-            from.at += got;
-            return got == static_cast<qint64>(size) ? 0 : 1;
-        } catch (const Error &) {
-            return 1; // No exception may pass through the library.
-        }
-    }
-    static int seek(int64_t place, void *source) {
-        static_cast<Source *>(source)->at = place;
-        return 0;
-    }
-    static heif_reader_grow_status waitForSize(int64_t size, void *source) {
-        return size <= static_cast<Source *>(source)->file.size()
-                   ? heif_reader_grow_status_size_reached
-                   : heif_reader_grow_status_size_beyond_eof;
-    }
-
-    Source m_source; ///< libheif holds its address.
-    std::unique_ptr<heif_context, Release> m_context;
-};
 
 /// What the picture's EXIF item says; nothing where there is none.
 ExifMetadata exifOf(const heif_image_handle *handle) {
@@ -146,7 +45,7 @@ ExifMetadata exifOf(const heif_image_handle *handle) {
         return {};
     }
     QByteArray item(static_cast<qsizetype>(size), '\0');
-    require(heif().image_handle_get_metadata(handle, id, item.data()));
+    requireHeif(heif().image_handle_get_metadata(handle, id, item.data()));
     return readExifItem(item);
 }
 
@@ -175,14 +74,14 @@ void readColor(const heif_image_handle *handle, Raster &raster, Warnings &warnin
     const size_t size = heif().image_handle_get_raw_color_profile_size(handle);
     if (size > 0 && size <= kMostMetadata) {
         raster.iccProfile = QByteArray(static_cast<qsizetype>(size), '\0');
-        require(heif().image_handle_get_raw_color_profile(handle, raster.iccProfile.data()));
+        requireHeif(heif().image_handle_get_raw_color_profile(handle, raster.iccProfile.data()));
         return;
     }
     heif_color_profile_nclx *given = nullptr;
     if (heif().image_handle_get_nclx_color_profile(handle, &given).code != heif_error_Ok) {
         return;
     }
-    const std::unique_ptr<heif_color_profile_nclx, Release> nclx(given);
+    const std::unique_ptr<heif_color_profile_nclx, ReleaseHeif> nclx(given);
     raster.iccProfile = profileOf(colorOf(*nclx));
     warnOfHighRange(nclx->transfer_characteristics, warnings);
 }
@@ -194,7 +93,7 @@ heif_chroma chromaOf(bool isDeep, bool hasAlpha) {
     return hasAlpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB;
 }
 
-Raster rasterOf(Decoded decoded, bool isDeep, bool hasAlpha) {
+Raster rasterOf(HeifImage decoded, bool isDeep, bool hasAlpha) {
     Raster raster;
     raster.width = heif().image_get_width(decoded.get(), heif_channel_interleaved);
     raster.height = heif().image_get_height(decoded.get(), heif_channel_interleaved);
@@ -221,9 +120,9 @@ PdfImage pictureOf(const FileView &file, const heif_image_handle *handle) {
     const bool hasAlpha = heif().image_handle_has_alpha_channel(handle) != 0;
     requireThread();
     heif_image *image = nullptr;
-    require(heif().decode_image(handle, &image, heif_colorspace_RGB, chromaOf(isDeep, hasAlpha),
-                                nullptr));
-    Decoded decoded(image);
+    requireHeif(heif().decode_image(handle, &image, heif_colorspace_RGB, chromaOf(isDeep, hasAlpha),
+                                    nullptr));
+    HeifImage decoded(image);
     Warnings warnings;
     if (heif().image_get_decoding_warnings(image, 0, nullptr, 0) > 0) {
         warnings.push_back(faultyPicture());
@@ -260,7 +159,7 @@ class HeifPictureReader : public PictureReader {
             return std::nullopt;
         }
         const bool isFirst = m_next == 0;
-        const Handle handle = m_file.picture(m_pictures[m_next++]);
+        const HeifHandle handle = m_file.picture(m_pictures[m_next++]);
         PdfImage image = pictureOf(m_view, handle.get());
         if (isFirst) {
             addSequence(m_view, image.warnings);
