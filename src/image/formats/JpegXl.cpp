@@ -7,6 +7,7 @@
 #include "image/Raster.h"
 #include "image/formats/ChannelRows.h"
 #include "image/formats/JpegXlDecoder.h"
+#include "image/formats/JpegXlFile.h"
 #include "image/formats/Signatures.h"
 
 #include <algorithm>

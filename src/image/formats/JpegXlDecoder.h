@@ -64,14 +64,8 @@ class JpegXlDecoder {
     std::unique_ptr<JxlDecoder, Destroy> m_decoder;
 };
 
-/// The size, turned as the file says, and the density. Throws Error.
-ImageHeader readJpegXlHeader(const FileView &file);
-
-/// The frames that a viewer shows one after another; no less than 1.
-qint64 countJpegXlFrames(const FileView &file);
-
-/// The JPEG file that the file was made of; empty where it was none.
-QByteArray originalJpeg(const FileView &file);
+/// The size that the picture states, as it lies.
+ImageHeader headerOf(const JxlBasicInfo &info);
 
 Error damagedJpegXl();
 
