@@ -6,52 +6,17 @@
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QImage>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QTest>
 
-#include <algorithm>
-#include <array>
 #include <csignal>
-
-#include <unistd.h>
-#ifdef __linux__
-#include <linux/capability.h>
-#include <sys/prctl.h>
-#endif
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
-
-namespace {
-
-/// The program run next may read no more than its owner, whoever that is.
-void giveUpRightsOfRoot() {
-#ifdef __linux__
-    ::prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE);
-    ::prctl(PR_CAPBSET_DROP, CAP_DAC_READ_SEARCH);
-#endif
-}
-
-/// A picture that nothing makes smaller; returns its path.
-QString writeNoise(const QString &path) {
-    constexpr int kSide = 1200;
-    QImage image(kSide, kSide, QImage::Format_RGB888);
-    for (int y = 0; y < kSide; ++y) {
-        QRandomGenerator random(static_cast<quint32>(y));
-        std::generate_n(image.scanLine(y), kSide * 3,
-                        [&random] { return static_cast<uchar>(random.generate()); });
-    }
-    return image.save(path, "BMP") ? path : QString();
-}
-
-} // namespace
 
 /// What the program makes of its inputs.
 class CommandLineTest : public QObject, protected CommandLineCase {
@@ -81,72 +46,6 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QCOMPARE(help.exitCode, 0);
         QVERIFY(help.out.startsWith("Usage: folioforge-cli"));
         QVERIFY(help.err.isEmpty());
-    }
-
-    void resultsThatCannotBeWrittenAreAFailure_data() {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("version") << QStringList{u"--version"_s};
-        QTest::newRow("help") << QStringList{u"--help"_s};
-        QTest::newRow("names of documents") << QStringList{u"a.txt"_s};
-        // Longer than any buffer, so that nothing is left to flush.
-        QTest::newRow("a long line") << QStringList{u"--json"_s, QString(100'000, u'x')};
-    }
-
-    void resultsThatCannotBeWrittenAreAFailure() {
-        QFETCH(const QStringList, arguments);
-        text("a.txt");
-        QProcess process;
-        process.setWorkingDirectory(m_folder->path());
-        process.setStandardOutputFile(u"/dev/full"_s);
-        process.start(kProgram, arguments);
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), 1);
-        QVERIFY(process.readAllStandardError().contains("Standard output cannot be written"));
-    }
-
-    void aReaderOfTheOutputThatHasReadEnoughIsNoFault() {
-        QProcess process;
-        process.setChildProcessModifier([] {
-            std::array<int, 2> ends{};
-            if (::pipe(ends.data()) == 0) {
-                ::close(ends[0]);
-                ::dup2(ends[1], STDOUT_FILENO);
-            }
-        });
-        process.start(kProgram, {u"--json"_s, u"--output-folder"_s, path("out"), text("a.txt")});
-        QVERIFY(process.waitForFinished());
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.readAllStandardError(), QByteArray());
-        QCOMPARE(process.exitCode(), 0);
-    }
-
-    void aClosedDescriptorIsTakenByNoFile_data() {
-        QTest::addColumn<QList<int>>("closed");
-        QTest::addColumn<int>("exitCode");
-        QTest::newRow("none") << QList<int>{} << 0;
-        QTest::newRow("input") << QList{STDIN_FILENO} << 0;
-        QTest::newRow("output") << QList{STDOUT_FILENO} << 1;
-        QTest::newRow("error") << QList{STDERR_FILENO} << 0;
-        QTest::newRow("input and error") << QList{STDIN_FILENO, STDERR_FILENO} << 0;
-        QTest::newRow("output and error") << QList{STDOUT_FILENO, STDERR_FILENO} << 1;
-        QTest::newRow("all") << QList{STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO} << 1;
-    }
-
-    void aClosedDescriptorIsTakenByNoFile() {
-        QFETCH(const QList<int>, closed);
-        QFETCH(const int, exitCode);
-        // More than is kept in memory, so that descriptors are opened while progress is shown.
-        QStringList noise;
-        for (const char *name : {"1.bmp", "2.bmp", "3.bmp"}) {
-            noise += writeNoise(path(name));
-        }
-        const QStringList arguments = QStringList{u"--progress=always"_s} + noise;
-        const QByteArray expected = merged("expected.pdf", arguments, {}, 0);
-        QVERIFY(expected.size() > 12'000'000);
-        QVERIFY(merged("written.pdf", arguments, closed, exitCode) == expected);
-        QString log;
-        QVERIFY2(PdfProbe(path("written.pdf")).isValid(&log), qPrintable(log));
     }
 
     void eachInputBecomesAPdf() {
@@ -220,90 +119,6 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QCOMPARE(readFile(taken), QByteArray("mine"));
     }
 
-    void aFolderStandsForItsTextsAndImages() {
-        QVERIFY(QDir(m_folder->path()).mkpath(u"in/sub"_s));
-        text("in/b.TXT");
-        test::writePdf(path("in/a.PDF"), 1);
-        test::writePng(path("in/c.png"), 3, 3);
-        text("in/sub/deep.txt");
-        const ToolRun run = convert({path("in/")});
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(outputs().join(u' '), u"b.pdf c.pdf"_s);
-    }
-
-    void whatIsLeftOutOfAFolderIsCounted() {
-        QVERIFY(QDir(m_folder->path()).mkpath(u"in/sub"_s));
-        QVERIFY(QDir(m_folder->path()).mkpath(u"in/.hidden"_s));
-        for (const char *name : {"in/a.txt", "in/b.pdf", "in/c.PDF", "in/d.doc", "in/.DS_Store"}) {
-            text(name);
-        }
-        const ToolRun run = convert({u"--json"_s, path("in/")});
-        QCOMPARE(run.exitCode, 0);
-        const QString left = u"Left out: 2 PDFs, 1 folder, 1 file of another type"_s;
-        QCOMPARE(run.err,
-                 "folioforge-cli: " + path("in/").toUtf8() + ": warning: " + left.toUtf8() + '\n');
-        const auto objects = objectsOf(run.out);
-        QCOMPARE(objects.size(), 2);
-        QCOMPARE(member(objects[0], "input"), path("in/"));
-        QCOMPARE(member(objects[0], "state"), u"listed"_s);
-        const QJsonObject warning = objects[0][u"warnings"_s].toArray().at(0).toObject();
-        QCOMPARE(member(warning, "code"), u"folder-entries-left"_s);
-        QCOMPARE(member(warning, "text"), left);
-        QCOMPARE(outputs(), QStringList{u"a.pdf"_s});
-    }
-
-    void aFolderOfWhichNothingIsLeftOutIsNoInput() {
-        QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
-        text("in/a.txt");
-        const ToolRun run = convert({u"--json"_s, u"--strict"_s, path("in")});
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(run.err, QByteArray());
-        QCOMPARE(objectsOf(run.out).size(), 1);
-    }
-
-    void whatIsLeftOutOfAFolderFailsAStrictRun() {
-        QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
-        text("in/a.txt");
-        text("in/b.pdf");
-        QCOMPARE(convert({u"--strict"_s, path("in")}).exitCode, 1);
-        QCOMPARE(outputs(), QStringList{u"a.pdf"_s});
-    }
-
-    void theFilesOfAFolderComeInTheOrderOfTheirNames() {
-        QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
-        for (const char *name : {"in/a.txt", "in/10.txt", "in/é.txt", "in/9.txt", "in/B.txt"}) {
-            text(name);
-        }
-        const ToolRun run = convert({u"--json"_s, path("in")});
-        QStringList inputs;
-        for (const QJsonObject &object : objectsOf(run.out)) {
-            inputs += member(object, "input");
-        }
-        QCOMPARE(inputs, (QStringList{path("in/10.txt"), path("in/9.txt"), path("in/B.txt"),
-                                      path("in/a.txt"), path("in/é.txt")}));
-    }
-
-    void aFolderThatCannotBeListedIsNamedAndTheRestConverted() {
-        QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
-        text("in/a.txt");
-        QVERIFY(QFile::setPermissions(path("in"), {}));
-        QProcess process;
-        process.setChildProcessModifier(giveUpRightsOfRoot);
-        process.start(kProgram, {u"--json"_s, u"--output-folder"_s, path("out"), path("in/"),
-                                 text("good.txt")});
-        QVERIFY(process.waitForFinished());
-        QVERIFY(QFile::setPermissions(path("in"),
-                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-        QCOMPARE(process.exitCode(), 1);
-        const auto objects = objectsOf(process.readAllStandardOutput());
-        QCOMPARE(objects.size(), 2);
-        QCOMPARE(member(objects[0], "input"), path("in/"));
-        QCOMPARE(member(objects[0], "state"), u"rejected"_s);
-        QVERIFY(member(objects[0], "message").endsWith(u"Permission denied"_s));
-        QVERIFY(process.readAllStandardError().contains(path("in/").toUtf8() + ": "));
-        QCOMPARE(outputs(), QStringList{u"good.pdf"_s});
-    }
-
     void namesWithDashesFollowTwoDashes() {
         text("-a.txt");
         const ToolRun run =
@@ -362,13 +177,6 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         }
     }
 #endif
-
-    void aReaderThatGoesAwayStopsNothing() {
-        const QString script =
-            u"\"$0\" --json --output-folder \"$1\" \"$2\" \"$2\" \"$2\" | true"_s;
-        runTool(u"sh"_s, {u"-c"_s, script, kProgram, path("out"), text("a.txt")});
-        QCOMPARE(outputs().size(), 3);
-    }
 
     void anInterruptedRunLeavesNoFile() {
         const QString large =

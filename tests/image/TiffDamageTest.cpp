@@ -41,8 +41,9 @@ class TiffDamageTest : public QObject {
 
   private Q_SLOTS:
     void shortDataIsRefused() {
-        const QString file = writeStrip(path(u"picture.tif"_s), {20000, 20000}, QByteArray(2000, 'x'),
-                                  [](TIFF *tif) { setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR); });
+        const QString file =
+            writeStrip(path(u"picture.tif"_s), {20000, 20000}, QByteArray(2000, 'x'),
+                       [](TIFF *tif) { setSamples(tif, 3, 8, PHOTOMETRIC_YCBCR); });
         QCOMPARE(refusalOf(file), u"The file is too short for the image its header describes"_s);
     }
 
@@ -93,10 +94,11 @@ class TiffDamageTest : public QObject {
     void aFaxThatEndsInARowOfOnesIsWhole() {
         // Two rows of ten black pixels, of which the second is as the one above.
         const QByteArray data("\x26\xA1\x30\x01\x00\x10", 6);
-        const PdfImage image = toPdfImage(writeStrip(path(u"picture.tif"_s), {10, 2}, data, [](TIFF *tif) {
-            setSamples(tif, 1, 1, PHOTOMETRIC_MINISBLACK);
-            TIFFSetField(tif, TIFFTAG_COMPRESSION, COMPRESSION_CCITTFAX4);
-        }));
+        const PdfImage image =
+            toPdfImage(writeStrip(path(u"picture.tif"_s), {10, 2}, data, [](TIFF *tif) {
+                setSamples(tif, 1, 1, PHOTOMETRIC_MINISBLACK);
+                TIFFSetField(tif, TIFFTAG_COMPRESSION, COMPRESSION_CCITTFAX4);
+            }));
         QCOMPARE(warningsOf(image), QStringList());
         QCOMPARE(rgbRows(image), QByteArray(2 * 10 * 3, '\xFF'));
     }
@@ -109,10 +111,11 @@ class TiffDamageTest : public QObject {
         for (qsizetype at = 0; at + 8 <= bits.size(); at += 8) {
             data += static_cast<char>(bits.sliced(at, 8).toInt(nullptr, 2));
         }
-        const PdfImage image = toPdfImage(writeStrip(path(u"picture.tif"_s), {8, 8}, data, [](TIFF *tif) {
-            setSamples(tif, 1, 1, PHOTOMETRIC_MINISWHITE);
-            TIFFSetField(tif, TIFFTAG_COMPRESSION, COMPRESSION_CCITTFAX4);
-        }));
+        const PdfImage image =
+            toPdfImage(writeStrip(path(u"picture.tif"_s), {8, 8}, data, [](TIFF *tif) {
+                setSamples(tif, 1, 1, PHOTOMETRIC_MINISWHITE);
+                TIFFSetField(tif, TIFFTAG_COMPRESSION, COMPRESSION_CCITTFAX4);
+            }));
         QCOMPARE(warningsOf(image), QStringList(u"picture-damaged: The picture is cut off: 75 % of "
                                                 u"its rows could not be read"_s));
         const QByteArray there = QByteArray(12, '\xFF') + QByteArray(12, '\0');
