@@ -3,11 +3,9 @@
 #include "image/CicpProfile.h"
 
 #include "error/Reasons.h"
-
-#include <QtEndian>
+#include "image/IccWriter.h"
 
 #include <cmath>
-#include <utility>
 #include <vector>
 
 namespace folioforge {
@@ -18,7 +16,6 @@ using Vector = std::array<double, 3>;
 using Matrix = std::array<Vector, 3>; ///< By rows.
 
 constexpr int kUnspecified = 2;
-constexpr Vector kD50{0.9642, 1.0, 0.8249}; ///< The white of profiles.
 
 /// What the eye adapts by (Bradford).
 constexpr Matrix kCones{
@@ -79,26 +76,8 @@ Vector atPoint(const std::array<double, 2> &point) {
 /// From the white of the samples to that of profiles.
 Matrix adaptationFrom(const Vector &white) {
     const Vector from = kCones * white;
-    const Vector to = kCones * kD50;
+    const Vector to = kCones * kIccWhite;
     return inverse(kCones) * diagonal({to[0] / from[0], to[1] / from[1], to[2] / from[2]}) * kCones;
-}
-
-void append(QByteArray &bytes, quint32 number) {
-    const quint32 big = qToBigEndian(number);
-    bytes.append(reinterpret_cast<const char *>(&big), sizeof big);
-}
-
-/// A number as profiles hold it, with 16 bits behind the point (ICC.1, 4.6).
-void appendFixed(QByteArray &bytes, double number) {
-    append(bytes, static_cast<quint32>(static_cast<qint32>(std::lround(number * 65536))));
-}
-
-QByteArray numbers(const char *type, const std::vector<double> &values) {
-    QByteArray bytes = type + QByteArray(4, '\0');
-    for (const double value : values) {
-        appendFixed(bytes, value);
-    }
-    return bytes;
 }
 
 /// An ASCII text in the one language "en-US".
@@ -107,10 +86,10 @@ QByteArray words(const char *text) {
     constexpr quint32 kTextAt = 28;
     const QByteArray ascii(text);
     QByteArray bytes("mluc\0\0\0\0\0\0\0\1", 12);
-    append(bytes, kRecord);
+    appendIccNumber(bytes, kRecord);
     bytes += "enUS";
-    append(bytes, static_cast<quint32>(2 * ascii.size()));
-    append(bytes, kTextAt);
+    appendIccNumber(bytes, static_cast<quint32>(2 * ascii.size()));
+    appendIccNumber(bytes, kTextAt);
     for (const char character : ascii) {
         bytes.append('\0').append(character);
     }
@@ -124,7 +103,7 @@ QByteArray curve(int transfer) {
     constexpr int kSystemBG = 5;
     constexpr int kCinema = 17;
     const auto power = [](double exponent) {
-        return QByteArray("para\0\0\0\0\0\0\0\0", 12) + numbers("", {exponent}).sliced(4);
+        return QByteArray("para\0\0\0\0\0\0\0\0", 12) + iccNumbers("", {exponent}).sliced(4);
     };
     switch (transfer) {
     case kLinear:
@@ -137,33 +116,8 @@ QByteArray curve(int transfer) {
         return power(2.6);
     default:
         return QByteArray("para\0\0\0\0\0\3\0\0", 12) +
-               numbers("", {2.4, 1 / 1.055, 0.055 / 1.055, 1 / 12.92, 0.04045}).sliced(4);
+               iccNumbers("", {2.4, 1 / 1.055, 0.055 / 1.055, 1 / 12.92, 0.04045}).sliced(4);
     }
-}
-
-using Tags = std::vector<std::pair<const char *, QByteArray>>;
-
-QByteArray profileWith(const Tags &tags) {
-    constexpr qsizetype kHeader = 128;
-    QByteArray table;
-    QByteArray contents;
-    append(table, static_cast<quint32>(tags.size()));
-    const qsizetype first = kHeader + 4 + 12 * static_cast<qsizetype>(tags.size());
-    for (const auto &[name, content] : tags) {
-        table += name;
-        append(table, static_cast<quint32>(first + contents.size()));
-        append(table, static_cast<quint32>(content.size()));
-        contents += content + QByteArray((4 - content.size() % 4) % 4, '\0');
-    }
-    QByteArray header;
-    append(header, static_cast<quint32>(first + contents.size()));
-    header += QByteArray(4, '\0') + QByteArray("\4\x20\0\0", 4) + "mntrRGB XYZ ";
-    header += QByteArray("\x07\xE8\0\1\0\1\0\0\0\0\0\0", 12) + "acsp"; // 1 January 2024.
-    header += QByteArray(28, '\0');
-    for (const double part : kD50) {
-        appendFixed(header, part);
-    }
-    return header + QByteArray(kHeader - header.size(), '\0') + table + contents;
 }
 
 } // namespace
@@ -199,17 +153,19 @@ QByteArray profileOf(const CicpColor &color) {
             chad.push_back(adaptation.at(row).at(i));
         }
     }
-    const auto place = [](const Vector &xyz) { return numbers("XYZ ", {xyz[0], xyz[1], xyz[2]}); };
-    return profileWith({{"desc", words("Colours by numbers (CICP)")},
-                        {"cprt", words("No copyright, use freely")},
-                        {"wtpt", place(kD50)},
-                        {"chad", numbers("sf32", chad)},
-                        {"rXYZ", place(columns[0])},
-                        {"gXYZ", place(columns[1])},
-                        {"bXYZ", place(columns[2])},
-                        {"rTRC", transfer},
-                        {"gTRC", transfer},
-                        {"bTRC", transfer}});
+    const auto place = [](const Vector &xyz) {
+        return iccNumbers("XYZ ", {xyz[0], xyz[1], xyz[2]});
+    };
+    return iccProfile(4, {{"desc", words("Colours by numbers (CICP)")},
+                          {"cprt", words("No copyright, use freely")},
+                          {"wtpt", place(kIccWhite)},
+                          {"chad", iccNumbers("sf32", chad)},
+                          {"rXYZ", place(columns[0])},
+                          {"gXYZ", place(columns[1])},
+                          {"bXYZ", place(columns[2])},
+                          {"rTRC", transfer},
+                          {"gTRC", transfer},
+                          {"bTRC", transfer}});
 }
 
 } // namespace folioforge
