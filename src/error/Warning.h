@@ -34,6 +34,9 @@ enum class WarningCode {
     ProtectionLeft,  ///< A source PDF is protected, and the PDF made of it is not, or otherwise.
     MarginTextCut,   ///< A header or a footer has more rows than its margin has room for.
     ColorsDiffer,    ///< A picture has colours that a PDF shows otherwise.
+    OpacityBlended,  ///< A picture is partly transparent and is laid on white.
+    ClaimTaken,      ///< A source PDF says that it keeps a standard, and the PDF says so after it.
+    ClaimMissing,    ///< The PDF does not say that it keeps the standard that was asked for.
 };
 
 /// The names of the codes in reports, in the order of their declaration. They never change, because
@@ -49,9 +52,10 @@ inline constexpr std::array kWarningNames{
     QLatin1StringView("claim-dropped"),       QLatin1StringView("page-size"),
     QLatin1StringView("not-flushed"),         QLatin1StringView("encoding-guessed"),
     QLatin1StringView("protection-left"),     QLatin1StringView("margin-text-cut"),
-    QLatin1StringView("colors-differ"),
+    QLatin1StringView("colors-differ"),       QLatin1StringView("opacity-blended"),
+    QLatin1StringView("claim-taken"),         QLatin1StringView("claim-missing"),
 };
-static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::ColorsDiffer) + 1);
+static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::ClaimMissing) + 1);
 
 /// What was lost or changed on the way of an entry that was written.
 struct Warning {

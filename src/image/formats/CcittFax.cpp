@@ -2,6 +2,9 @@
 
 #include "image/formats/CcittFax.h"
 
+#include "error/Error.h"
+#include "image/Raster.h"
+
 #include <tiffio.h>
 
 #include <algorithm>
@@ -80,21 +83,29 @@ TiffHandle openMemory(MemoryFile &file, const char *mode) {
                                         options.get()));
 }
 
+/// A file for one strip of that many rows; null where there is no memory for it.
+TiffHandle beginStrip(MemoryFile &file, int width, int height) {
+    TiffHandle tif = openMemory(file, "w");
+    if (tif) {
+        TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, static_cast<uint32_t>(width));
+        TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, static_cast<uint32_t>(height));
+        TIFFSetField(tif.get(), TIFFTAG_BITSPERSAMPLE, 1);
+        TIFFSetField(tif.get(), TIFFTAG_SAMPLESPERPIXEL, 1);
+        TIFFSetField(tif.get(), TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_MINISWHITE);
+        TIFFSetField(tif.get(), TIFFTAG_COMPRESSION, COMPRESSION_CCITTFAX4);
+        TIFFSetField(tif.get(), TIFFTAG_ROWSPERSTRIP, static_cast<uint32_t>(height));
+    }
+    return tif;
+}
+
 } // namespace
 
 QByteArray encodeGroup4(const QByteArray &rows, int width, int height) {
     MemoryFile file;
-    TiffHandle tif = openMemory(file, "w");
+    TiffHandle tif = beginStrip(file, width, height);
     if (!tif) {
         return {};
     }
-    TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, static_cast<uint32_t>(width));
-    TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, static_cast<uint32_t>(height));
-    TIFFSetField(tif.get(), TIFFTAG_BITSPERSAMPLE, 1);
-    TIFFSetField(tif.get(), TIFFTAG_SAMPLESPERPIXEL, 1);
-    TIFFSetField(tif.get(), TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_MINISWHITE);
-    TIFFSetField(tif.get(), TIFFTAG_COMPRESSION, COMPRESSION_CCITTFAX4);
-    TIFFSetField(tif.get(), TIFFTAG_ROWSPERSTRIP, static_cast<uint32_t>(height));
     QByteArray copy = rows; // The encoder's interface takes a mutable pointer.
     // The strip is in the file now; writing the directory too would forget where.
     if (TIFFWriteEncodedStrip(tif.get(), 0, copy.data(), copy.size()) < 0) {
@@ -104,6 +115,22 @@ QByteArray encodeGroup4(const QByteArray &rows, int width, int height) {
     const auto size = static_cast<qsizetype>(TIFFGetStrileByteCount(tif.get(), 0));
     tif.reset();
     return file.bytes.mid(offset, size);
+}
+
+QByteArray decodeGroup4(const QByteArray &data, int width, int height) {
+    MemoryFile file;
+    TiffHandle tif = beginStrip(file, width, height);
+    QByteArray copy = data;
+    const bool isWritten =
+        tif && TIFFWriteRawStrip(tif.get(), 0, copy.data(), copy.size()) == copy.size();
+    tif.reset(); // Which writes the directory.
+    file.position = 0;
+    tif = isWritten ? openMemory(file, "r") : nullptr;
+    QByteArray rows = allocateRows(height, rowBytes(width, 1, 1));
+    if (!tif || TIFFReadEncodedStrip(tif.get(), 0, rows.data(), rows.size()) != rows.size()) {
+        throw notEnoughMemory();
+    }
+    return rows;
 }
 
 } // namespace folioforge

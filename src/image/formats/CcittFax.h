@@ -11,4 +11,7 @@ namespace folioforge {
 /// Empty where the encoder fails.
 QByteArray encodeGroup4(const QByteArray &rows, int width, int height);
 
+/// The rows that encodeGroup4() gave `data` for. Throws Error where it did not.
+QByteArray decodeGroup4(const QByteArray &data, int width, int height);
+
 } // namespace folioforge

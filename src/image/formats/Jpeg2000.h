@@ -19,8 +19,8 @@ struct Jpeg2000Metadata {
     ImageHeader header;
     bool isCodestream = false; ///< No JP2 boxes around the codestream.
     int components = 0;
-    int bitsField =
-        0; ///< Bits of a component less one, high bit for signed; 255 where they differ.
+    static constexpr int kBitsDiffer = 255;
+    int bitsField = 0; ///< Bits of a component less one, high bit for signed, or kBitsDiffer.
     bool hasPalette = false;
     bool isYcc = false;      ///< Enumerated colour space sYCC.
     int enumeratedColor = 0; ///< 16 sRGB, 17 grey, 18 sYCC, 12 CMYK; 0 for none.

@@ -137,6 +137,8 @@ void readBox(const Box &box, int depth, Jpeg2000Metadata &metadata) {
     } else if (box.type == "jp2c" && metadata.codestreamAt < 0) {
         metadata.codestreamAt = box.at;
         metadata.codestreamBytes = box.content.size();
+    } else if (box.type == "bpcc") {
+        metadata.bitsField = Jpeg2000Metadata::kBitsDiffer;
     } else if (box.type == "pclr") {
         metadata.hasPalette = true;
     } else if (box.type == "resd" || (box.type == "resc" && metadata.header.horizontalDpi == 0)) {
