@@ -3,8 +3,10 @@
 #include "convert/Conversion.h"
 
 #include "convert/PageWriters.h"
+#include "convert/SourceType.h"
 #include "error/Error.h"
 #include "error/Reasons.h"
+#include "files/SourceFile.h"
 #include "files/SystemCalls.h"
 #include "pdf/import/LeftParts.h"
 #include "pdf/import/SourceDocument.h"
@@ -38,7 +40,10 @@ template<typename Step> QString reasonOfFailure(Step &&step) {
 
 void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
               const std::stop_token &stop, EntryOutcome &outcome) {
-    const int pagesBefore = context.pageCount();
+    const PDFContext::Mark before = context.mark();
+    const FileVersion file = options.archive && options.archive->embedSources
+                                 ? FileVersion::of(entry.filePathName())
+                                 : FileVersion();
     if (entry.kind() != FileKind::Pdf) {
         context.beginSource(entry.fileName());
     }
@@ -61,9 +66,12 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
         break;
     }
     }
+    if (options.archive && options.archive->embedSources) {
+        context.attachSource({file, entry.fileName(), mimeTypeOf(entry)}, before);
+    }
     // A failure that shows only now is this entry's too.
     context.waitForPages();
-    const Warnings sizes = context.checkPagesAfter(pagesBefore);
+    const Warnings sizes = context.checkPagesAfter(before.pages);
     outcome.warnings.insert(outcome.warnings.end(), sizes.begin(), sizes.end());
 }
 
@@ -102,7 +110,11 @@ bool isAmongTagged(std::span<const PDFFileInfo *const> entries, const Conversion
 /// How the pages that are drawn are tagged; nothing where they are not.
 std::optional<TagOptions> tagOptions(std::span<const PDFFileInfo *const> entries,
                                      const ConversionOptions &options) {
-    if (!options.tagged) {
+    // The elements of pages that are drawn stand in object streams, which part 1 does not know.
+    if (options.archive && partOf(options.archive->level) == 1) {
+        return std::nullopt;
+    }
+    if (!options.tagged && !(options.archive && isTagged(options.archive->level))) {
         return isAmongTagged(entries, options) ? std::optional(TagOptions{options.language, {}})
                                                : std::nullopt;
     }
@@ -251,6 +263,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                               .sourceBookmarks = hasThoseOfSources(options.bookmarks),
                               .tags = tags,
                               .inputPasswords = options.inputPasswords,
+                              .archive = options.archive,
                               .flush = options.flush,
                               .mayReplace = options.overwrite != Overwrite::Never,
                               .calls = calls});

@@ -65,7 +65,8 @@ struct ConversionOptions {
     PictureDescriptions
         descriptions; ///< Of a picture without one, what its file says, or its name.
     SecuritySettings security;
-    InputPasswords inputPasswords; ///< Of PDFs that are sources.
+    InputPasswords inputPasswords;         ///< Of PDFs that are sources.
+    std::optional<ArchiveOptions> archive; ///< The standard for archives that PDFs keep.
     PageSetup textPage{TextPageA4, 0, 0, {72, 72, 72, 72}};
     PageSetup imagePage;
     ImageLayout imageLayout;

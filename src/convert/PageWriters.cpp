@@ -31,7 +31,10 @@ class ContextSink : public TextPageSink {
         , m_mostPages(mostPages)
         , m_stop(stop) {}
 
-    [[nodiscard]] bool wantsReadingOrder() const override { return m_isTagged; }
+    /// What is drawn is no part of the text.
+    void drawArtifacts() { m_isArtifact = true; }
+
+    [[nodiscard]] bool wantsReadingOrder() const override { return m_isTagged && !m_isArtifact; }
     [[nodiscard]] bool wantsPage() override {
         return !m_stop.stop_requested() && (m_mostPages == 0 || m_pages < m_mostPages);
     }
@@ -43,21 +46,71 @@ class ContextSink : public TextPageSink {
     }
     void beginParagraph() override { m_context.beginParagraph(); }
     void showRow(double x, double y, std::span<const Glyph> glyphs) override {
-        m_context.showGlyphsAtPoint(x, y, glyphs);
+        if (!m_isTagged || m_isReading) {
+            m_context.showGlyphsAtPoint(x, y, glyphs);
+            return;
+        }
+        while (!glyphs.empty()) {
+            const bool isPrivate = hasPrivateText(glyphs.front());
+            const auto end = std::ranges::find_if(
+                glyphs, [&](const Glyph &glyph) { return hasPrivateText(glyph) != isPrivate; });
+            const auto run = glyphs.first(static_cast<std::size_t>(end - glyphs.begin()));
+            showRun(x, y, run, isPrivate);
+            for (const Glyph &glyph : run) {
+                x += glyph.advance;
+            }
+            glyphs = glyphs.subspan(run.size());
+        }
     }
-    void beginReading(QStringView text) override { m_context.beginActualText(text); }
-    void endReading() override { m_context.endActualText(); }
+    void beginReading(QStringView text) override {
+        m_isReading = true;
+        m_context.beginActualText(text);
+    }
+    void endReading() override {
+        m_isReading = false;
+        m_context.endActualText();
+    }
     void endPage() override { m_context.endPage(); }
 
   private:
+    /// Whether nobody but the text's author knows what a glyph stands for.
+    [[nodiscard]] bool hasPrivateText(const Glyph &glyph) const {
+        return std::ranges::any_of(m_font->textOf(glyph).toUcs4(), [](uint character) {
+            return QChar::category(character) == QChar::Other_PrivateUse;
+        });
+    }
+
+    /// Tagged pages say what private characters are to be read as (ISO 19005-2, 6.2.11.7.3).
+    void showRun(double x, double y, std::span<const Glyph> run, bool isPrivate) {
+        QString text;
+        for (const Glyph &glyph : run) {
+            text += isPrivate ? m_font->textOf(glyph) : QString();
+        }
+        if (isPrivate) {
+            m_context.beginActualText(text);
+        }
+        m_context.showGlyphsAtPoint(x, y, run);
+        if (isPrivate) {
+            m_context.endActualText();
+        }
+    }
+
     PDFContext &m_context;
     std::shared_ptr<const FontCascade> m_font;
     QRectF m_page;
     bool m_isTagged;
+    bool m_isArtifact = false;
+    bool m_isReading = false;
     int m_mostPages;
     int m_pages = 0;
     const std::stop_token &m_stop;
 };
+
+/// The font of text pages. Archives allow no missing-glyph box.
+std::shared_ptr<const FontCascade> fontOf(const ConversionOptions &options) {
+    const auto font = options.textFont ? options.textFont : textFont();
+    return options.archive ? font->withoutBoxes() : font;
+}
 
 /// What is said of the pictures of a file, by turns.
 class Descriptions {
@@ -105,7 +158,7 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
                      const ConversionOptions &options, const std::stop_token &stop) {
     SourceText source = entry.sourceText(options.calls, options.textEncoding);
     const QSizeF pageSize = getTextPageSize(options.textPage);
-    const auto font = options.textFont ? options.textFont : textFont();
+    const auto font = fontOf(options);
     ContextSink sink(context, font, pageSize, options.tagged, options.mostTextPages, stop);
     Warnings warnings = std::move(source.warnings);
     const PageMargins &margins = options.textPage.margins;
@@ -127,8 +180,9 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
     const QRectF below(left, 0, width, static_cast<double>(margins.bottom));
     PageFacts facts{entry.fileName(), 0, context.pageCount(),
                     context.creationDate().toString(u"yyyy-MM-dd")};
-    const auto font = options.textFont ? options.textFont : textFont();
-    ContextSink sink(context, font, page, false, 0, stop);
+    const auto font = fontOf(options);
+    ContextSink sink(context, font, page, options.tagged, 0, stop);
+    sink.drawArtifacts();
     MarginText texts(*font);
     for (int i = first; i < first + pages && !stop.stop_requested(); ++i) {
         facts.page = i + 1;

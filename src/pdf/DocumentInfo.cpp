@@ -16,9 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
-namespace {
-
-/// "D:20240131120000+01'00'" (ISO 32000-1, 7.9.4).
 QString pdfDate(const QDateTime &date) {
     const QString local = date.toString(u"'D:'yyyyMMddHHmmss"_s);
     const int offset = date.offsetFromUtc();
@@ -31,8 +28,6 @@ QString pdfDate(const QDateTime &date) {
         .arg(minutes / 60, 2, 10, QLatin1Char('0'))
         .arg(minutes % 60, 2, 10, QLatin1Char('0'));
 }
-
-} // namespace
 
 std::optional<QDateTime> sourceDate() {
     if (!qEnvironmentVariableIsSet("SOURCE_DATE_EPOCH")) {
@@ -99,7 +94,9 @@ void showTitle(QPDF &document) {
 void writeDocumentInfo(QPDF &document, const DocumentInfo &info) {
     auto dictionary = QPDFObjectHandle::newDictionary();
     const auto put = [&](const char *key, const QString &text) {
-        dictionary.replaceKey(key, QPDFObjectHandle::newUnicodeString(text.toStdString()));
+        if (info.isWritten(text)) {
+            dictionary.replaceKey(key, QPDFObjectHandle::newUnicodeString(text.toStdString()));
+        }
     };
     put("/Title", info.title);
     put("/Author", info.author);

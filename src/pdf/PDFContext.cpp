@@ -10,6 +10,8 @@
 #include "pdf/PageSizes.h"
 #include "pdf/QpdfErrors.h"
 #include "pdf/StreamData.h"
+#include "pdf/archive/ArchiveRules.h"
+#include "pdf/archive/SourceAttachment.h"
 #include "pdf/import/DocumentCatalog.h"
 #include "pdf/import/DocumentImport.h"
 #include "pdf/import/SourceDocument.h"
@@ -19,6 +21,7 @@
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <string>
@@ -41,6 +44,8 @@ class PDFContext::Impl {
   public:
     Impl(QString path, Settings settings);
 
+    void beginPage(const QRectF &mediaBox);
+    void drawImage(const QRectF &rect, PdfImage image, int orientation, const QString &description);
     void endPage() { m_catalog.addPage(m_pages.endPage(pageCount())); }
     void drawArtifact(int page, const std::function<void()> &draw);
     QDateTime creationDate();
@@ -56,9 +61,8 @@ class PDFContext::Impl {
     [[nodiscard]] QSizeF pageSize(int index) const {
         return sizeOfPage(m_catalog.pages()[static_cast<std::size_t>(index)]);
     }
-    [[nodiscard]] Warnings checkPagesAfter(int count) const {
-        return checkPageSizes(m_catalog.pages().subspan(static_cast<std::size_t>(count)));
-    }
+    void attachSource(const SourceOriginal &source, const Mark &mark);
+    [[nodiscard]] Warnings checkPagesAfter(int count);
 
   private:
     void finishDocument();
@@ -70,6 +74,7 @@ class PDFContext::Impl {
     std::shared_ptr<SourceReader> m_reader = std::make_shared<SourceReader>(m_settings.calls);
     StreamData m_streams{m_document, m_reader, m_settings.calls};
     DocumentCatalog m_catalog;
+    std::optional<ArchiveRules> m_archive; ///< Where a standard is kept.
     DrawnTags m_tags;
     std::optional<DrawnStructure> m_drawn; ///< Nothing where no page that was drawn is tagged.
     PageDrawer m_pages{m_document, m_streams, tags()};
@@ -81,6 +86,38 @@ PDFContext::Impl::Impl(QString path, Settings settings)
     : m_path(std::move(path))
     , m_settings(std::move(settings)) {
     makeEmpty(m_document);
+    if (m_settings.archive) {
+        m_archive.emplace(*m_settings.archive);
+    }
+}
+
+void PDFContext::Impl::beginPage(const QRectF &mediaBox) {
+    if (m_archive) {
+        m_archive->keepPage(mediaBox.size(), pageCount());
+    }
+    m_pages.beginPage(mediaBox);
+}
+
+void PDFContext::Impl::drawImage(const QRectF &rect, PdfImage image, int orientation,
+                                 const QString &description) {
+    if (m_archive) {
+        m_archive->keepPicture(image, pageCount());
+    }
+    m_pages.drawImage(rect, image, orientation, description);
+}
+
+void PDFContext::Impl::attachSource(const SourceOriginal &source, const Mark &mark) {
+    m_catalog.addFile(
+        m_document.makeIndirectObject(sourceAttachment(source, m_streams, m_settings.calls)),
+        mark.pages);
+}
+
+Warnings PDFContext::Impl::checkPagesAfter(int count) {
+    Warnings warnings = checkPageSizes(m_catalog.pages().subspan(static_cast<std::size_t>(count)));
+    if (m_archive) {
+        std::ranges::move(m_archive->takeWarnings(), std::back_inserter(warnings));
+    }
+    return warnings;
 }
 
 void PDFContext::Impl::drawArtifact(int page, const std::function<void()> &draw) {
@@ -100,9 +137,13 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
         SharedStreams &known = m_sourceStreams[key];
         SharedStreams streams = known;
         SourceNames names(m_catalog.names(), sourcePath);
-        ImportOptions options{
-            m_settings.oneSource ? ImportScope::WholeDocument : ImportScope::OneOfSeveral,
-            m_settings.info, m_settings.encryption != nullptr, choice, pageCount()};
+        ImportOptions options{m_settings.oneSource ? ImportScope::WholeDocument
+                                                   : ImportScope::OneOfSeveral,
+                              m_settings.info,
+                              m_settings.encryption != nullptr,
+                              choice,
+                              pageCount(),
+                              m_archive ? std::optional(m_archive->level()) : std::nullopt};
         ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
             if (m_settings.keepInfo) {
                 takeMissingInfo(options.info, *source);
@@ -110,6 +151,10 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
             return importDocument(*source, m_document, streams, names, options);
         });
         m_reader->finish();
+        if (m_archive) {
+            m_archive->keepSource(imported, source->isEncrypted(), m_catalog.outputIntents(),
+                                  pageCount());
+        }
         if (!m_settings.sourceBookmarks) {
             imported.bookmarks.clear();
             const auto bookmarks = imported.parts.carried.extract(PartKind::Bookmarks);
@@ -135,6 +180,9 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
 void PDFContext::Impl::rollBack(const Mark &mark) {
     m_catalog.truncatePages(mark.pages);
     m_tags.truncatePages(mark.pages);
+    if (m_archive) {
+        m_archive->rollBack(mark.pages);
+    }
     if (m_streams.rollBack(mark.stored)) {
         m_pages.forgetImages();
     }
@@ -147,11 +195,18 @@ QDateTime PDFContext::Impl::creationDate() {
 
 void PDFContext::Impl::finishDocument() {
     translateQpdfErrors([&] {
-        m_pages.embedFonts();
+        if (m_archive && m_settings.encryption) {
+            throw Error(Reasons::tr("A document for archives cannot be encrypted"));
+        }
+        m_pages.embedFonts(m_archive ? m_archive->fontRules() : FontRules());
         fixCreationDate(m_settings.info);
         const QString title = m_settings.tags ? m_settings.tags->title : QString();
         if (m_settings.info.title.isEmpty()) {
             m_settings.info.title = title;
+        }
+        if (m_archive && m_archive->areKept()) {
+            m_archive->keepInfo(m_settings.info);
+            m_catalog.claimArchive(claimsOf(m_archive->level()), srgbOutputIntent(m_streams));
         }
         writeDocumentInfo(m_document, m_settings.info);
         if (!m_tags.pages().empty()) {
@@ -205,6 +260,9 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
         CloseResult result = publish(file, nextPath);
         result.warnings = std::move(warnings);
         result.left = m_catalog.leftInTheEnd();
+        if (m_archive && m_archive->areKept()) {
+            result.archive = claimsOf(m_archive->level()).pdfAName();
+        }
         return result;
     } catch (const Error &error) {
         return {CloseResult::Status::Failed, m_path, error.reason(), {}};
@@ -229,7 +287,7 @@ void PDFContext::beginParagraph() {
 }
 
 void PDFContext::beginPage(const QRectF &mediaBox) {
-    m_impl->pages().beginPage(mediaBox);
+    m_impl->beginPage(mediaBox);
 }
 
 void PDFContext::setRGBFillColor(double red, double green, double blue) {
@@ -258,7 +316,8 @@ void PDFContext::clipToRect(const QRectF &rect) {
 
 void PDFContext::drawImage(const QRectF &rect, PdfImage image, int orientation,
                            const QString &description) {
-    translateQpdfErrors([&] { m_impl->pages().drawImage(rect, image, orientation, description); });
+    translateQpdfErrors(
+        [&] { m_impl->drawImage(rect, std::move(image), orientation, description); });
 }
 
 void PDFContext::endPage() {
@@ -277,7 +336,11 @@ AddedDocument PDFContext::addDocument(const QString &sourcePath, const PageChoic
     return m_impl->addDocument(sourcePath, choice);
 }
 
-Warnings PDFContext::checkPagesAfter(int count) const {
+void PDFContext::attachSource(const SourceOriginal &source, const Mark &mark) {
+    translateQpdfErrors([&] { m_impl->attachSource(source, mark); });
+}
+
+Warnings PDFContext::checkPagesAfter(int count) {
     return translateQpdfErrors([&] { return m_impl->checkPagesAfter(count); });
 }
 

@@ -9,6 +9,8 @@
 #include "pdf/DocumentParts.h"
 #include "pdf/PageChoice.h"
 #include "pdf/Password.h"
+#include "pdf/archive/ArchiveLevel.h"
+#include "pdf/archive/SourceOriginal.h"
 #include "pdf/tags/TagOptions.h"
 #include "text/FontCascade.h"
 
@@ -35,7 +37,8 @@ struct CloseResult {
     Status status = Status::Failed;
     QString path;
     QString reason;
-    Warnings warnings; ///< What could not be done for a document that was written.
+    Warnings warnings;    ///< What could not be done for a document that was written.
+    QString archive = {}; ///< The standard for archives that it claims, such as "PDF/A-2u".
     /// Kinds that sources brought and that could not be for all of the document together.
     std::vector<PartKind> left = {};
 };
@@ -60,9 +63,10 @@ class PDFContext {
         bool oneSource = false;
         /// Whether the first source document with pages gives what `info` lacks.
         bool keepInfo = false;
-        bool sourceBookmarks = true;    ///< Whether those of source documents are taken.
-        std::optional<TagOptions> tags; ///< Nothing: pages that are drawn are not tagged.
-        InputPasswords inputPasswords;  ///< Of source documents.
+        bool sourceBookmarks = true;           ///< Whether those of source documents are taken.
+        std::optional<TagOptions> tags;        ///< Nothing: pages that are drawn are not tagged.
+        InputPasswords inputPasswords;         ///< Of source documents.
+        std::optional<ArchiveOptions> archive; ///< The standard that the document keeps.
         Flush flush = Flush::Always;
         bool mayReplace = false; ///< The document takes the place of a file of its name.
         /// Every file is written and every source is read through these.
@@ -119,17 +123,21 @@ class PDFContext {
     [[nodiscard]] int pageCount() const;
     /// The size in units of the page at `index`, from 0.
     [[nodiscard]] QSizeF pageSize(int index) const;
-    /// What checkPageSizes() says of the pages after the first `count`.
-    [[nodiscard]] Warnings checkPagesAfter(int count) const;
-    /// Waits for the pages drawn so far, which another core compresses. Throws Error when one
-    /// cannot be stored; call rollBack() then.
-    void waitForPages();
-
     /// How far the document is; to be asked for when no page is waited for.
     struct Mark {
         int pages = 0;
         qint64 stored = 0; ///< Bytes.
     };
+    /// Attaches the source of what was drawn since `mark`. Throws Error.
+    void attachSource(const SourceOriginal &source, const Mark &mark);
+
+    /// What checkPageSizes() says of the pages after the first `count`, and what the standard for
+    /// archives has changed since the last call.
+    [[nodiscard]] Warnings checkPagesAfter(int count);
+    /// Waits for the pages drawn so far, which another core compresses. Throws Error when one
+    /// cannot be stored; call rollBack() then.
+    void waitForPages();
+
     [[nodiscard]] Mark mark() const;
     /// Removes what was drawn since `mark`, such as the pages of an entry that failed, and the data
     /// stored for it.

@@ -65,9 +65,9 @@ void PageDrawer::setFont(std::shared_ptr<const FontCascade> font, double size) {
     m_fontSize = size;
 }
 
-void PageDrawer::embedFonts() {
+void PageDrawer::embedFonts(FontRules rules) {
     for (const auto &fonts : m_fonts) {
-        fonts->embed();
+        fonts->embed(rules);
     }
 }
 

@@ -56,8 +56,8 @@ class PageDrawer {
 
     /// Forgets the images that pages could share, as their data was rolled back.
     void forgetImages() { m_images.forget(); }
-    /// Embeds the fonts of all pages. To be called once, at the end.
-    void embedFonts();
+    /// Embeds the fonts of all pages by these rules. To be called once, at the end.
+    void embedFonts(FontRules rules);
 
   private:
     using Resources = TextContent::Resources;

@@ -10,6 +10,7 @@
 #include <QXmlStreamWriter>
 
 #include <algorithm>
+#include <initializer_list>
 #include <iterator>
 #include <utility>
 
@@ -32,11 +33,15 @@ QString xmlText(const QString &text) {
 /// Copies a packet token by token, with the names as they are spelled.
 class XmpRewriter {
   public:
-    XmpRewriter(const QString &packet, const DocumentInfo &info, const Claims &kept)
+    XmpRewriter(const QString &packet, const DocumentInfo &info, const Claims &claims)
         : m_reader(packet)
         , m_writer(&m_result)
         , m_info(info)
-        , m_kept(kept) {}
+        , m_claims(claims) {
+        const Claims own = readXmpContents(packet).value_or(XmpContents()).claims;
+        m_keepsPdfA = !claims.pdfA.isEmpty() && claims.pdfAName() == own.pdfAName();
+        m_keepsPdfUA = !claims.pdfUA.isEmpty() && claims.pdfUA == own.pdfUA;
+    }
 
     QByteArray run() {
         m_writer.writeProcessingInstruction(u"xpacket"_s,
@@ -60,6 +65,7 @@ class XmpRewriter {
         case QXmlStreamReader::EndElement:
             if (m_depth == m_rdfDepth) {
                 writeInfo();
+                writeClaims();
                 m_rdfDepth = 0;
             }
             m_writer.writeEndElement();
@@ -109,22 +115,19 @@ class XmpRewriter {
 
     /// A claim goes wherever it stands, since it is read so, too.
     [[nodiscard]] bool isReplaced(QStringView space, QStringView name, bool ofNode) const {
-        return (ofNode && isOfInfo(space, name)) || (space == kPdfA && m_kept.pdfA.isEmpty()) ||
-               (space == kPdfUA && m_kept.pdfUA.isEmpty());
+        return (ofNode && isOfInfo(space, name)) || (space == kPdfA && !m_keepsPdfA) ||
+               (space == kPdfUA && !m_keepsPdfUA);
     }
 
     /// A node with what the document information says.
     void writeInfo() {
-        m_writer.writeStartElement(u"rdf:Description"_s);
-        for (const auto &[prefix, space] : {std::pair{u"rdf"_s, kRdf}, std::pair{u"dc"_s, kDc},
-                                            std::pair{u"pdf"_s, kPdf}, std::pair{u"xmp"_s, kXmp}}) {
-            m_writer.writeAttribute(u"xmlns:"_s + prefix, space);
-        }
-        m_writer.writeAttribute(u"rdf:about"_s, m_about);
+        beginNode({{u"dc"_s, kDc}, {u"pdf"_s, kPdf}, {u"xmp"_s, kXmp}});
         writeList(u"dc:title"_s, u"rdf:Alt"_s, m_info.title);
         writeList(u"dc:creator"_s, u"rdf:Seq"_s, m_info.author);
         writeList(u"dc:description"_s, u"rdf:Alt"_s, m_info.subject);
-        m_writer.writeTextElement(u"pdf:Keywords"_s, xmlText(m_info.keywords));
+        if (m_info.isWritten(m_info.keywords)) {
+            m_writer.writeTextElement(u"pdf:Keywords"_s, xmlText(m_info.keywords));
+        }
         m_writer.writeTextElement(u"pdf:Producer"_s, producerName());
         m_writer.writeTextElement(u"xmp:CreatorTool"_s, xmlText(m_info.creator));
         const QDateTime &created = m_info.created;
@@ -134,8 +137,72 @@ class XmpRewriter {
         m_writer.writeEndElement();
     }
 
+    /// Nodes with the claims that the packet did not make.
+    void writeClaims() {
+        if (!m_claims.pdfA.isEmpty() && !m_keepsPdfA) {
+            beginNode({{u"pdfaid"_s, kPdfA}});
+            m_writer.writeTextElement(u"pdfaid:part"_s, m_claims.pdfA);
+            m_writer.writeTextElement(u"pdfaid:conformance"_s, m_claims.conformance);
+            m_writer.writeEndElement();
+        }
+        if (!m_claims.pdfUA.isEmpty() && !m_keepsPdfUA) {
+            beginNode({{u"pdfuaid"_s, kPdfUA}});
+            m_writer.writeTextElement(u"pdfuaid:part"_s, m_claims.pdfUA);
+            m_writer.writeEndElement();
+            if (!m_claims.pdfA.isEmpty()) {
+                describePdfUA();
+            }
+        }
+    }
+
+    /// Of PDF/UA's own property PDF/A knows nothing but what stands here (ISO 19005-2, 6.6.2.3.3).
+    void describePdfUA() {
+        beginNode({{u"pdfaExtension"_s, u"http://www.aiim.org/pdfa/ns/extension/"_s},
+                   {u"pdfaSchema"_s, u"http://www.aiim.org/pdfa/ns/schema#"_s},
+                   {u"pdfaProperty"_s, u"http://www.aiim.org/pdfa/ns/property#"_s}});
+        for (const auto &name : {u"pdfaExtension:schemas"_s, u"rdf:Bag"_s}) {
+            m_writer.writeStartElement(name);
+        }
+        beginResource(u"rdf:li"_s);
+        m_writer.writeTextElement(u"pdfaSchema:schema"_s,
+                                  u"PDF/UA Universal Accessibility Schema"_s);
+        m_writer.writeTextElement(u"pdfaSchema:namespaceURI"_s, kPdfUA);
+        m_writer.writeTextElement(u"pdfaSchema:prefix"_s, u"pdfuaid"_s);
+        for (const auto &name : {u"pdfaSchema:property"_s, u"rdf:Seq"_s}) {
+            m_writer.writeStartElement(name);
+        }
+        beginResource(u"rdf:li"_s);
+        m_writer.writeTextElement(u"pdfaProperty:name"_s, u"part"_s);
+        m_writer.writeTextElement(u"pdfaProperty:valueType"_s, u"Integer"_s);
+        m_writer.writeTextElement(u"pdfaProperty:category"_s, u"internal"_s);
+        m_writer.writeTextElement(u"pdfaProperty:description"_s,
+                                  u"Part of ISO 14289 to which the document conforms"_s);
+        constexpr int kOpen = 7; // From the node to the property.
+        for (int level = 0; level < kOpen; ++level) {
+            m_writer.writeEndElement();
+        }
+    }
+
+    void beginResource(const QString &name) {
+        m_writer.writeStartElement(name);
+        m_writer.writeAttribute(u"rdf:parseType"_s, u"Resource"_s);
+    }
+
+    /// A node of the document with names of these namespaces.
+    void beginNode(std::initializer_list<std::pair<QString, QString>> prefixes) {
+        m_writer.writeStartElement(u"rdf:Description"_s);
+        m_writer.writeAttribute(u"xmlns:rdf"_s, kRdf);
+        for (const auto &[prefix, space] : prefixes) {
+            m_writer.writeAttribute(u"xmlns:"_s + prefix, space);
+        }
+        m_writer.writeAttribute(u"rdf:about"_s, m_about);
+    }
+
     /// A property of one item; a choice of languages has the one for all of them.
     void writeList(const QString &name, const QString &kind, const QString &text) {
+        if (!m_info.isWritten(text)) {
+            return;
+        }
         m_writer.writeStartElement(name);
         m_writer.writeStartElement(kind);
         m_writer.writeStartElement(u"rdf:li"_s);
@@ -152,7 +219,9 @@ class XmpRewriter {
     QByteArray m_result;
     QXmlStreamWriter m_writer;
     const DocumentInfo &m_info;
-    const Claims &m_kept;
+    const Claims &m_claims;
+    bool m_keepsPdfA = false; ///< The packet's own claim stays as it is; so with the next.
+    bool m_keepsPdfUA = false;
     QString m_about;
     int m_depth = 0;
     int m_rdfDepth = 0; ///< Of the element rdf:RDF while inside it, else 0.
@@ -160,8 +229,13 @@ class XmpRewriter {
 
 } // namespace
 
-QByteArray rewrittenXmp(const QString &packet, const DocumentInfo &info, const Claims &kept) {
-    return XmpRewriter(packet, info, kept).run();
+QByteArray rewrittenXmp(const QString &packet, const DocumentInfo &info, const Claims &claims) {
+    return XmpRewriter(packet, info, claims).run();
+}
+
+QString emptyXmp() {
+    return u"<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF xmlns:rdf=\"%1\"></rdf:RDF></x:xmpmeta>"_s
+        .arg(kRdf);
 }
 
 } // namespace folioforge

@@ -20,11 +20,20 @@ constexpr std::size_t kUnicodePages = 0x1100;
 } // namespace
 
 std::shared_ptr<const FontCascade> FontCascade::load(const QStringList &families, double size) {
-    return std::shared_ptr<const FontCascade>(new FontCascade(families, size));
+    return std::shared_ptr<const FontCascade>(new FontCascade(families, size, Missing::Box));
 }
 
-FontCascade::FontCascade(const QStringList &families, double size)
-    : m_size(size)
+std::shared_ptr<const FontCascade> FontCascade::withoutBoxes() const {
+    const std::lock_guard lock(m_mutex);
+    if (!m_withoutBoxes) {
+        m_withoutBoxes.reset(new FontCascade(m_families, m_size, Missing::Character));
+    }
+    return m_withoutBoxes;
+}
+
+FontCascade::FontCascade(const QStringList &families, double size, Missing missing)
+    : m_families(families)
+    , m_size(size)
     , m_pages(kUnicodePages) {
     for (CatalogFont &font : findTextFonts(families)) {
         // The first face gives the row height, so it must open.
@@ -37,13 +46,27 @@ FontCascade::FontCascade(const QStringList &families, double size)
     if (!m_faces.empty()) {
         m_first = m_faces.front().opened.get();
         m_missing = glyphOf(0, 0, kNoCharacter);
+        if (missing == Missing::Character) {
+            chooseMissing();
+        }
     }
     for (char32_t character = kFirstAscii; character <= kLastAscii; ++character) {
         m_ascii[character - kFirstAscii] = findGlyph(character);
     }
     if (std::none_of(m_ascii.begin(), m_ascii.end(),
-                     [](const Glyph &glyph) { return glyph.id == 0; })) {
+                     [this](const Glyph &glyph) { return isMissing(glyph); })) {
         m_asciiDrawn = m_ascii.size();
+    }
+}
+
+void FontCascade::chooseMissing() {
+    for (const char32_t character : {U'\u25A1', U'\uFFFD', U'?'}) {
+        if (const Glyph glyph = findGlyph(character); glyph.id != 0) {
+            m_missing = glyph;
+            m_missing.character = kNoCharacter;
+            m_missingAs = character;
+            return;
+        }
     }
 }
 

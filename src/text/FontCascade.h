@@ -6,6 +6,7 @@
 #include "text/FontFace.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <cstddef>
@@ -56,6 +57,15 @@ class FontCascade {
         return static_cast<float>(ascent() + descent() + leading());
     }
 
+    /// The same font, with a glyph in place of the missing-glyph box for what no face has: a
+    /// character that looks like one. Made at the first call.
+    [[nodiscard]] std::shared_ptr<const FontCascade> withoutBoxes() const;
+    /// Whether a glyph shows that no face has its character.
+    [[nodiscard]] bool isMissing(const Glyph &glyph) const {
+        return glyph.id == m_missing.id && glyph.face == m_missing.face &&
+               glyph.character != m_missingAs;
+    }
+
     /// The number of faces, opened or not; 0 on a system without fonts.
     [[nodiscard]] std::size_t faceCount() const { return m_faces.size(); }
     /// The face of that index, as in Glyph::face. Throws Error when its file has become unreadable.
@@ -83,7 +93,7 @@ class FontCascade {
     static constexpr char32_t kMaxForms = 0x10000;
     /// The text that a glyph stands for; empty for half of a surrogate pair.
     [[nodiscard]] QString textOf(const Glyph &glyph) const;
-    /// The missing-glyph box, which half of a surrogate pair draws.
+    /// What half of a surrogate pair draws: the missing-glyph box, or what stands for it.
     [[nodiscard]] Glyph missingGlyph() const { return m_missing; }
 
   private:
@@ -99,10 +109,14 @@ class FontCascade {
         std::array<Glyph, kPageSize> glyphs;
         std::array<bool, kPageSize> known{};
     };
+    static constexpr char32_t kNoGlyph = 0xFFFFFFFF;
     static constexpr char32_t kFirstAscii = 0x20;
     static constexpr char32_t kLastAscii = 0x7E;
 
-    FontCascade(const QStringList &families, double size);
+    enum class Missing { Box, Character };
+    FontCascade(const QStringList &families, double size, Missing missing);
+
+    void chooseMissing();
 
     const FontFace *openFace(std::size_t index) const;
     [[nodiscard]] Glyph cachedGlyph(char32_t character) const;
@@ -110,9 +124,11 @@ class FontCascade {
     [[nodiscard]] Glyph glyphOf(std::size_t face, std::uint16_t id, char32_t character) const;
     [[nodiscard]] double points(int fontUnits) const;
 
+    QStringList m_families;
     double m_size = 0;
     const FontFace *m_first = nullptr;
     Glyph m_missing;
+    char32_t m_missingAs = kNoGlyph; ///< The character whose glyph m_missing is; none of a box.
     std::array<Glyph, kLastAscii - kFirstAscii + 1> m_ascii;
     std::size_t m_asciiDrawn = 0; ///< All of m_ascii, or none where one of them would be a box.
 
@@ -121,6 +137,7 @@ class FontCascade {
     mutable std::vector<std::unique_ptr<Page>> m_pages;
     mutable std::map<std::tuple<std::uint16_t, std::uint16_t, QString>, char32_t> m_forms;
     mutable std::vector<QString> m_formTexts; ///< By character, from kFirstForm on.
+    mutable std::shared_ptr<const FontCascade> m_withoutBoxes;
 };
 
 /// The font of text pages, "Arial Unicode MS" at 14 points. It is loaded at first use and kept, so

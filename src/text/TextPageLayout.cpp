@@ -69,7 +69,7 @@ class RowBreaker {
     static constexpr std::size_t kUsualRow = 256;
 
     void noteMissing(const Glyph &glyph) {
-        if (glyph.id == 0) [[unlikely]] {
+        if (m_font.isMissing(glyph)) [[unlikely]] {
             m_missing.add(glyph);
         }
     }

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <iterator>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace folioforge {
@@ -58,6 +59,25 @@ std::string head(std::string_view ordering, std::string_view name, int type,
 constexpr std::string_view kTail =
     "endcmap\nCMapName currentdict/CMap defineresource pop\nend\nend\n";
 
+std::string unicodeMap(const CodeTable &table, std::vector<CodeEntry> entries) {
+    std::ranges::sort(entries, {}, &CodeEntry::code);
+    std::string map = head("UCS", "Adobe-Identity-UCS", 2, table);
+    // Ranges would be shorter, but Ghostscript 10.0 misreads them.
+    constexpr std::size_t kMaxInASection = 100;
+    for (std::size_t from = 0; from < entries.size(); from += kMaxInASection) {
+        const std::size_t to = std::min(from + kMaxInASection, entries.size());
+        map.append(std::to_string(to - from)).append(" beginbfchar\n");
+        for (std::size_t i = from; i < to; ++i) {
+            map.append(codeText(table, entries[i].code));
+            map.append(utf16Text(entries[i].text)).append("\n");
+        }
+        map.append("endbfchar\n");
+    }
+    return map.append(kTail);
+}
+
+constexpr char16_t kWordJoiner = 0x2060;
+
 } // namespace
 
 std::string encodingMapName(const CodeTable &table) {
@@ -78,20 +98,20 @@ std::string makeUnicodeMap(const CodeTable &table) {
     std::vector<CodeEntry> entries;
     std::ranges::copy_if(table.entries(), std::back_inserter(entries),
                          [](const CodeEntry &entry) { return !entry.text.isEmpty(); });
-    std::ranges::sort(entries, {}, &CodeEntry::code);
-    std::string map = head("UCS", "Adobe-Identity-UCS", 2, table);
-    // Ranges would be shorter, but Ghostscript 10.0 misreads them.
-    constexpr std::size_t kMaxInASection = 100;
-    for (std::size_t from = 0; from < entries.size(); from += kMaxInASection) {
-        const std::size_t to = std::min(from + kMaxInASection, entries.size());
-        map.append(std::to_string(to - from)).append(" beginbfchar\n");
-        for (std::size_t i = from; i < to; ++i) {
-            map.append(codeText(table, entries[i].code));
-            map.append(utf16Text(entries[i].text)).append("\n");
+    return unicodeMap(table, std::move(entries));
+}
+
+std::string makeWholeUnicodeMap(const CodeTable &table) {
+    std::vector<CodeEntry> entries = table.entries();
+    for (CodeEntry &entry : entries) {
+        entry.text.replace(QChar(QChar::ByteOrderMark), QChar(kWordJoiner));
+        entry.text.replace(QChar(QChar::ByteOrderSwapped), QChar(QChar::ReplacementCharacter));
+        entry.text.replace(QChar(QChar::Null), QChar(QChar::ReplacementCharacter));
+        if (entry.text.isEmpty()) {
+            entry.text = QChar(kWordJoiner);
         }
-        map.append("endbfchar\n");
     }
-    return map.append(kTail);
+    return unicodeMap(table, std::move(entries));
 }
 
 } // namespace folioforge

@@ -19,4 +19,8 @@ std::string encodingMapName(const CodeTable &table);
 /// 9.10.3), without the codes that stand for no character.
 std::string makeUnicodeMap(const CodeTable &table);
 
+/// The same with every code, and none of the characters that archives forbid: what stands for none
+/// or for an old mark of joining has U+2060, which is not seen either.
+std::string makeWholeUnicodeMap(const CodeTable &table);
+
 } // namespace folioforge

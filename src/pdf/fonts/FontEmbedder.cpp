@@ -2,7 +2,6 @@
 
 #include "pdf/fonts/FontEmbedder.h"
 
-#include "pdf/fonts/FontObjects.h"
 #include "pdf/fonts/FontSubset.h"
 
 #include <qpdf/QPDF.hh>
@@ -93,7 +92,7 @@ GlyphCode FontEmbedder::addCode(const Glyph &glyph) {
     return (*page)[glyph.character % kPageSize] = code.value();
 }
 
-void FontEmbedder::embed() {
+void FontEmbedder::embed(FontRules rules) {
     for (const auto &[number, face] : m_faces) {
         std::set<std::uint16_t> glyphs;
         for (const std::uint16_t font : face.fonts) {
@@ -103,7 +102,7 @@ void FontEmbedder::embed() {
         }
         const FontFace &opened = m_cascade->face(number);
         const FontSubset subset = makeFontSubset(opened, face.cids, glyphs);
-        FaceObjects objects(m_document, m_streams, opened, subset);
+        FaceObjects objects(m_document, m_streams, opened, subset, rules);
         for (const std::uint16_t font : face.fonts) {
             objects.fillFont(m_fonts[font - 1U].object, m_fonts[font - 1U].table);
         }

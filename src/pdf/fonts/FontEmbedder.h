@@ -3,6 +3,7 @@
 #pragma once
 
 #include "pdf/fonts/CodeTable.h"
+#include "pdf/fonts/FontObjects.h"
 #include "pdf/fonts/GlyphCids.h"
 #include "text/FontCascade.h"
 
@@ -62,7 +63,7 @@ class FontEmbedder {
 
     /// Fills the objects of the fonts. Call it once, after the last codeOf(). Throws Error when a
     /// face cannot be embedded.
-    void embed();
+    void embed(FontRules rules);
 
   private:
     static constexpr std::size_t kPageSize = 256;

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace folioforge {
 namespace {
@@ -75,6 +76,39 @@ Object widthArray(const std::map<std::uint16_t, int> &widths, int common, const 
     return array;
 }
 
+/// The same where no array may have more than 8191 members (ISO 19005-1, 6.1.12): a run that is as
+/// long as it may be goes over CIDs that no glyph has.
+Object shortWidthArray(const std::map<std::uint16_t, int> &widths, int common,
+                       const FontFace &face) {
+    constexpr int kMost = 8191;
+    if (widths.size() <= kMost / 2) { // Two members for each run.
+        return widthArray(widths, common, face);
+    }
+    Object array = Object::newArray();
+    for (int first = widths.begin()->first; first <= widths.rbegin()->first; first += kMost) {
+        Object run = Object::newArray();
+        for (int cid = first; cid < first + kMost && cid <= widths.rbegin()->first; ++cid) {
+            const auto known = widths.find(static_cast<std::uint16_t>(cid));
+            run.appendItem(thousandths(known == widths.end() ? common : known->second, face));
+        }
+        array.appendItem(Object::newInteger(first));
+        array.appendItem(run);
+    }
+    return array;
+}
+
+/// The /CIDSet: a bit for each CID up to the largest, the first in the highest bit.
+std::string cidSet(const std::set<std::uint16_t> &cids) {
+    constexpr std::size_t kBits = 8;
+    std::string bits(1, '\x80'); // The missing glyph.
+    for (const std::uint16_t cid : cids) {
+        const std::size_t byte = cid / kBits;
+        bits.resize(std::max(bits.size(), byte + 1));
+        bits[byte] = static_cast<char>(bits[byte] | (0x80U >> cid % kBits));
+    }
+    return bits;
+}
+
 /// The /CIDToGIDMap: two bytes for each CID up to the largest.
 std::string glyphMap(const CodeTable &table, const FontSubset &subset) {
     std::string map;
@@ -105,11 +139,12 @@ void nameFont(Object font, const std::string &subtype, const std::string &baseNa
 } // namespace
 
 FaceObjects::FaceObjects(QPDF &document, StreamData &streams, const FontFace &face,
-                         const FontSubset &subset)
+                         const FontSubset &subset, FontRules rules)
     : m_document(document)
     , m_streams(streams)
     , m_face(face)
     , m_subset(subset)
+    , m_rules(rules)
     , m_baseName(subsetTag(subset.program) + '+' + face.postScriptName().toStdString())
     , m_descriptor(makeDescriptor()) {}
 
@@ -146,6 +181,23 @@ Object FaceObjects::makeDescriptor() {
     return m_document.makeIndirectObject(descriptor);
 }
 
+/// The descriptor for the font of a table. Fonts of one face have the same, save where it names
+/// their CIDs.
+Object FaceObjects::descriptorFor(const CodeTable &table) {
+    if (!m_rules.cidSets) {
+        return m_descriptor;
+    }
+    std::set<std::uint16_t> cids = m_subset.cids;
+    if (m_subset.kind == FontSubset::Kind::TrueType) {
+        for (const CodeEntry &entry : table.entries()) {
+            cids.insert(entry.code);
+        }
+    }
+    Object descriptor = m_descriptor.shallowCopy();
+    descriptor.replaceKey("/CIDSet", m_streams.deflated(Object::newDictionary(), cidSet(cids)));
+    return m_document.makeIndirectObject(descriptor);
+}
+
 Object FaceObjects::makeCidFont(const CodeTable &table) {
     std::map<std::uint16_t, int> widths;
     for (const CodeEntry &entry : table.entries()) {
@@ -156,10 +208,11 @@ Object FaceObjects::makeCidFont(const CodeTable &table) {
     Object font = Object::newDictionary();
     nameFont(font, cff ? "/CIDFontType0" : "/CIDFontType2", m_baseName);
     font.replaceKey("/CIDSystemInfo", cidSystemInfo());
-    font.replaceKey("/FontDescriptor", m_descriptor);
+    font.replaceKey("/FontDescriptor", descriptorFor(table));
     font.replaceKey("/DW",
                     Object::newInteger(common * 1000 / static_cast<int>(m_face.unitsPerEm())));
-    font.replaceKey("/W", widthArray(widths, common, m_face));
+    font.replaceKey("/W", m_rules.cidSets ? shortWidthArray(widths, common, m_face)
+                                          : widthArray(widths, common, m_face));
     if (!cff) {
         font.replaceKey("/CIDToGIDMap",
                         m_streams.deflated(Object::newDictionary(), glyphMap(table, m_subset)));
@@ -182,8 +235,9 @@ void FaceObjects::fillFont(Object font, const CodeTable &table) {
     nameFont(font, "/Type0", m_baseName);
     font.replaceKey("/Encoding", makeEncoding(table));
     font.replaceKey("/DescendantFonts", Object::newArray({makeCidFont(table)}));
-    font.replaceKey("/ToUnicode",
-                    m_streams.deflated(Object::newDictionary(), makeUnicodeMap(table)));
+    font.replaceKey("/ToUnicode", m_streams.deflated(Object::newDictionary(),
+                                                     m_rules.allUnicode ? makeWholeUnicodeMap(table)
+                                                                        : makeUnicodeMap(table)));
 }
 
 } // namespace folioforge

@@ -10,6 +10,23 @@
 
 namespace folioforge {
 
+namespace {
+
+/// A font that names its glyphs by their order has kept the places of all before the last.
+std::set<std::uint16_t> cidsOf(const GlyphCids &cids, const std::set<std::uint16_t> &glyphs) {
+    std::set<std::uint16_t> all;
+    const int last = glyphs.empty() ? 0 : *glyphs.rbegin();
+    for (int glyph = 0; glyph <= last; ++glyph) {
+        const auto id = static_cast<std::uint16_t>(glyph);
+        if (!cids.isCidKeyed() || glyphs.contains(id)) {
+            all.insert(cids.of(id));
+        }
+    }
+    return all;
+}
+
+} // namespace
+
 FontSubset makeFontSubset(const FontFace &face, const std::optional<GlyphCids> &cids,
                           const std::set<std::uint16_t> &glyphs) {
     // Readers find the glyphs of a CFF without CIDs by their order.
@@ -24,6 +41,7 @@ FontSubset makeFontSubset(const FontFace &face, const std::optional<GlyphCids> &
     subset.program = reduced->cffTable();
     if (!subset.program.isEmpty()) {
         subset.kind = FontSubset::Kind::Cff;
+        subset.cids = cidsOf(*cids, glyphs);
         return subset;
     }
     subset.program = reduced->file();

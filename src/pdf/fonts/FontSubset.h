@@ -22,6 +22,8 @@ struct FontSubset {
     };
     Kind kind = Kind::TrueType;
     QByteArray program;
+    /// The CIDs that a CFF program has glyphs for; those of a TrueType one are the codes.
+    std::set<std::uint16_t> cids;
     /// The glyph ids in a TrueType subset by those in the face. The glyphs of a CFF subset keep
     /// their CIDs.
     std::map<std::uint16_t, std::uint16_t> newIds;

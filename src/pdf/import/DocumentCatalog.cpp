@@ -2,6 +2,8 @@
 
 #include "pdf/import/DocumentCatalog.h"
 
+#include "pdf/XmpRewriter.h"
+#include "pdf/archive/NamedLayers.h"
 #include "pdf/import/FurtherInfo.h"
 #include "pdf/import/PageTree.h"
 
@@ -9,10 +11,24 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
+#include <set>
+#include <string>
 #include <type_traits>
 #include <utility>
 
 namespace folioforge {
+
+namespace {
+
+/// "data (2).csv" for "data.csv".
+std::string numberedFileName(const std::string &name, int number) {
+    const std::size_t dot = name.rfind('.');
+    const std::size_t end = dot == std::string::npos || dot == 0 ? name.size() : dot;
+    return name.substr(0, end) + " (" + std::to_string(number) + ')' + name.substr(end);
+}
+
+} // namespace
 
 void DocumentCatalog::addPage(const QPDFObjectHandle &page) {
     m_pageLabels.addPage(pageCount());
@@ -23,6 +39,7 @@ void DocumentCatalog::truncatePages(int count) {
     m_pages.resize(static_cast<std::size_t>(std::min(count, pageCount())));
     m_pageLabels.truncatePages(pageCount());
     std::erase_if(m_documents, [count](const Added &added) { return added.firstPage >= count; });
+    std::erase_if(m_files, [count](const AttachedFile &file) { return file.page >= count; });
 }
 
 Warnings DocumentCatalog::addDocument(ImportedDocument imported) {
@@ -59,6 +76,33 @@ void DocumentCatalog::merge(const ImportedDocument &imported, int firstPage, QPD
     m_version.updateIfGreater(imported.version);
 }
 
+void DocumentCatalog::attachFiles() {
+    TreeEntries entries;
+    ImportedAttachments attachments;
+    std::set<std::string> taken;
+    std::map<std::string, int> numbers; // Of the last file of each name.
+    const auto isTaken = [&](const std::string &name) {
+        return taken.contains(name) || m_names.contains(kAttachments, name) ||
+               m_names.contains(kFileNames, name);
+    };
+    for (auto &[page, file] : m_files) {
+        const std::string own = file.getKey("/UF").getUTF8Value();
+        std::string name = own;
+        while (isTaken(name)) {
+            int &number = numbers.try_emplace(own, 1).first->second;
+            name = numberedFileName(own, ++number);
+        }
+        taken.insert(name);
+        const auto text = QPDFObjectHandle::newUnicodeString(name);
+        file.replaceKey("/F", text);
+        file.replaceKey("/UF", text);
+        entries.emplace_back(text, file);
+        attachments.associated.push_back(file);
+    }
+    m_nameTrees.add({{kAttachments, entries}});
+    m_attachments.add(attachments);
+}
+
 std::vector<PartKind> DocumentCatalog::leftInTheEnd() const {
     std::vector<PartKind> left;
     if (m_language.isLeft()) {
@@ -70,12 +114,27 @@ std::vector<PartKind> DocumentCatalog::leftInTheEnd() const {
     return left;
 }
 
+const ImportedOutputIntents *DocumentCatalog::outputIntents() const {
+    const auto found = std::ranges::find_if(m_documents, [](const Added &added) {
+        return !added.document.outputIntents.intents.empty();
+    });
+    return found == m_documents.end() ? nullptr : &found->document.outputIntents;
+}
+
+void DocumentCatalog::claimArchive(Claims claims, QPDFObjectHandle outputIntent) {
+    m_archive = std::move(claims);
+    m_outputIntents.keepFirst(std::move(outputIntent));
+}
+
 DocumentForm DocumentCatalog::form() const {
     DocumentForm form = formFor(m_metadata.claims);
     if (!form.classic) {
         form.version = {1, 7};
     }
     form.version.updateIfGreater(m_version);
+    if (m_archive) { // Its header must not name any other.
+        form.version = form.classic ? PDFVersion(1, 4) : PDFVersion(1, 7);
+    }
     return form;
 }
 
@@ -84,6 +143,9 @@ void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info,
     for (Added &added : m_documents) {
         merge(added.document, added.firstPage, document);
         added.document = {}; // Its lists would take the memory twice.
+    }
+    if (!m_files.empty()) {
+        attachFiles();
     }
     const std::size_t drawnPages = m_pages.size() - m_importedPages;
     if (drawn) {
@@ -107,6 +169,12 @@ void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info,
     putCatalogParts(document, m_parts);
     m_outputIntents.finish(document);
     putFurtherInfo(document, m_furtherInfo);
+    if (m_archive) {
+        m_metadata.claims.pdfA = m_archive->pdfA;
+        m_metadata.claims.conformance = m_archive->conformance;
+        m_metadata.packet = m_metadata.packet.isEmpty() ? emptyXmp() : m_metadata.packet;
+        nameLayers(document);
+    }
     putMetadata(document, m_metadata, info);
 }
 

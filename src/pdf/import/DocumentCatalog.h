@@ -9,7 +9,9 @@
 #include "pdf/import/SourceNames.h"
 #include "pdf/import/StructureMerger.h"
 
+#include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 class QPDF;
@@ -38,6 +40,14 @@ class DocumentCatalog {
     /// In which form the document is to be written; known when it is finished.
     [[nodiscard]] DocumentForm form() const;
 
+    /// Attaches a file specification to the document, which goes with the page at `page`, from 0.
+    void addFile(QPDFObjectHandle file, int page) { m_files.push_back({page, std::move(file)}); }
+    /// Lets the document say that it keeps the standard for archives of `claims`, with
+    /// `outputIntent` where no source has one. To be called before finish().
+    void claimArchive(Claims claims, QPDFObjectHandle outputIntent);
+    /// What the first output intent of a source says of the colours; none without one.
+    [[nodiscard]] const ImportedOutputIntents *outputIntents() const;
+
     /// The names that the documents added so far have taken.
     [[nodiscard]] const TakenNames &names() const { return m_names; }
 
@@ -53,9 +63,16 @@ class DocumentCatalog {
         ImportedDocument document;
     };
 
+    struct AttachedFile {
+        int page;
+        QPDFObjectHandle file;
+    };
+
     void merge(const ImportedDocument &imported, int firstPage, QPDF &document);
+    void attachFiles();
 
     std::vector<QPDFObjectHandle> m_pages;
+    std::vector<AttachedFile> m_files;
     std::vector<Added> m_documents; ///< Merged in the end, so that one that fails leaves nothing.
     StructureMerger m_structure;
     BookmarkMerger m_bookmarks;
@@ -73,7 +90,8 @@ class DocumentCatalog {
     OutputIntentMerger m_outputIntents;
     std::size_t m_importedPages = 0;
     ImportedMetadata m_metadata;
-    PDFVersion m_version; ///< The highest of the sources.
+    std::optional<Claims> m_archive; ///< That the document is to make.
+    PDFVersion m_version;            ///< The highest of the sources.
 };
 
 } // namespace folioforge

@@ -208,7 +208,7 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
         std::ranges::copy(damages, std::back_inserter(imported.warnings));
     }
     std::ranges::copy(
-        dropBrokenClaims(imported.metadata.claims, options, imported.parts.left, imported.warnings),
+        dropBrokenClaims(imported.metadata, options, imported.parts, imported.warnings),
         std::back_inserter(imported.warnings));
     return imported;
 }

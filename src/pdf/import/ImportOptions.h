@@ -4,6 +4,9 @@
 
 #include "pdf/DocumentInfo.h"
 #include "pdf/PageChoice.h"
+#include "pdf/archive/ArchiveLevel.h"
+
+#include <optional>
 
 namespace folioforge {
 
@@ -19,7 +22,8 @@ struct ImportOptions {
     DocumentInfo info;
     bool encrypted = false;
     PageChoice pages;
-    int firstPage = 0; ///< How many pages stand before those of the source.
+    int firstPage = 0;                        ///< How many pages stand before those of the source.
+    std::optional<ArchiveLevel> archive = {}; ///< The standard that is kept.
 };
 
 } // namespace folioforge

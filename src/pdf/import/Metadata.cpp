@@ -14,16 +14,27 @@ namespace folioforge {
 
 namespace {
 
+bool isDamaged(const Warnings &warnings) {
+    return std::ranges::any_of(warnings, [](const Warning &warning) {
+        return warning.code == WarningCode::PdfRepaired ||
+               warning.code == WarningCode::PdfPagesLost;
+    });
+}
+
 /// Why the copy does not keep what only a sound and whole document keeps; empty where it does.
 QString reasonOfBoth(const ImportOptions &options, const Warnings &warnings) {
     if (options.scope == ImportScope::OneOfSeveral) {
         return Reasons::tr("it is a part of another one now");
     }
-    const bool isDamaged = std::ranges::any_of(warnings, [](const Warning &warning) {
-        return warning.code == WarningCode::PdfRepaired ||
-               warning.code == WarningCode::PdfPagesLost;
-    });
-    return isDamaged ? Reasons::tr("it was damaged") : QString();
+    return isDamaged(warnings) ? Reasons::tr("it was damaged") : QString();
+}
+
+/// Why the copy does not keep the standard for archives that is asked for; empty where it does.
+QString reasonOfArchive(const Claims &claims, const ImportOptions &options,
+                        const DocumentParts &parts, const Warnings &warnings) {
+    const QString reason =
+        reasonAgainst(claims, *options.archive, parts.carried.contains(PartKind::Attachments));
+    return reason.isEmpty() && isDamaged(warnings) ? Reasons::tr("it was damaged") : reason;
 }
 
 QString reasonOfStructure(const PartCounts &left) {
@@ -78,16 +89,20 @@ ImportedMetadata readMetadata(QPDF &source, ImportScope scope) {
     return metadata;
 }
 
-Warnings dropBrokenClaims(Claims &claims, const ImportOptions &options, const PartCounts &left,
-                          const Warnings &warnings) {
+Warnings dropBrokenClaims(ImportedMetadata &metadata, const ImportOptions &options,
+                          const DocumentParts &parts, const Warnings &warnings) {
     Warnings dropped;
+    Claims &claims = metadata.claims;
     const QString both = reasonOfBoth(options, warnings);
-    const QString pdfA = both.isEmpty() ? reasonAgainstPdfA(claims, options, left) : both;
-    if (!claims.pdfA.isEmpty() && !pdfA.isEmpty()) {
+    if (options.archive) {
+        metadata.notForArchive = reasonOfArchive(claims, options, parts, warnings);
+    }
+    const QString pdfA = both.isEmpty() ? reasonAgainstPdfA(claims, options, parts.left) : both;
+    if (!options.archive && !claims.pdfA.isEmpty() && !pdfA.isEmpty()) {
         drop(claims.pdfAName(), pdfA, dropped);
         claims.pdfA.clear();
     }
-    const QString pdfUA = both.isEmpty() ? reasonAgainstPdfUA(options, left) : both;
+    const QString pdfUA = both.isEmpty() ? reasonAgainstPdfUA(options, parts.left) : both;
     if (!claims.pdfUA.isEmpty() && !pdfUA.isEmpty()) {
         drop(claims.pdfUAName(), pdfUA, dropped);
         claims.pdfUA.clear();

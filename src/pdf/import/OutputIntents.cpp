@@ -55,16 +55,31 @@ std::optional<QByteArray> meaningOf(const std::vector<QPDFObjectHandle> &intents
     return meaning;
 }
 
+int componentsOf(const std::vector<QPDFObjectHandle> &intents) {
+    for (const auto &intent : intents) {
+        auto profile = entry(intent, "/DestOutputProfile");
+        if (entry(intent, "/S").isNameAndEquals("/GTS_PDFA1") && profile.isStream() &&
+            profile.getDict().getKey("/N").isInteger()) {
+            return profile.getDict().getKey("/N").getIntValueAsInt();
+        }
+    }
+    return 0;
+}
+
 } // namespace
 
 ImportedOutputIntents importOutputIntents(QPDF &source, ObjectCopier &copier) {
     auto intents = source.getRoot().getKey("/OutputIntents");
     const auto meaning = meaningOf(items(intents));
-    return {copier.copyItems(intents), meaning};
+    const int components = componentsOf(items(intents)); // Copying takes streams from it.
+    return {copier.copyItems(intents), meaning, components};
 }
 
 void OutputIntentMerger::add(const ImportedOutputIntents &imported) {
     m_any = m_any || !imported.intents.empty();
+    if (m_firstIntents.empty()) {
+        m_firstIntents = imported.intents;
+    }
     if (!m_first) {
         m_first = imported;
     } else if (!imported.meaning || imported.meaning != m_first->meaning) {
@@ -73,6 +88,11 @@ void OutputIntentMerger::add(const ImportedOutputIntents &imported) {
 }
 
 void OutputIntentMerger::finish(QPDF &document) const {
+    if (m_otherwise) {
+        putItems(document.getRoot(), "/OutputIntents",
+                 m_firstIntents.empty() ? std::vector{*m_otherwise} : m_firstIntents);
+        return;
+    }
     if (m_first && m_agree) {
         putItems(document.getRoot(), "/OutputIntents", m_first->intents);
     }

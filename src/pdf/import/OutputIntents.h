@@ -7,6 +7,7 @@
 #include <QByteArray>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 class QPDF;
@@ -21,6 +22,8 @@ struct ImportedOutputIntents {
     /// Equal for sources whose intents name the same standards with the same profiles. Nothing
     /// where a profile cannot be read.
     std::optional<QByteArray> meaning;
+    /// How many colours the profile of the one for PDF/A has; 0 without one.
+    int components = 0;
 };
 
 /// To be called before anything else of the source is copied.
@@ -33,12 +36,16 @@ class OutputIntentMerger {
     void add(const ImportedOutputIntents &imported);
     /// A page that no source brought is in the document.
     void addDrawnPage() { m_agree = false; }
+    /// The document has the first intents that a source brings, else `otherwise`.
+    void keepFirst(QPDFObjectHandle otherwise) { m_otherwise = std::move(otherwise); }
     /// Whether sources had intents that the document does not have.
-    [[nodiscard]] bool areLeft() const { return m_any && !m_agree; }
+    [[nodiscard]] bool areLeft() const { return m_any && !m_agree && !m_otherwise; }
     void finish(QPDF &document) const;
 
   private:
     std::optional<ImportedOutputIntents> m_first;
+    std::vector<QPDFObjectHandle> m_firstIntents; ///< The first that there are.
+    std::optional<QPDFObjectHandle> m_otherwise;
     bool m_agree = true;
     bool m_any = false;
 };

@@ -25,13 +25,13 @@ void appendPadded(QByteArray &rows, QByteArrayView piece, qsizetype row) {
 
 /// The rows, each less the one above and behind the number of that filter.
 QByteArray filtered(const QByteArray &rows, qsizetype row) {
-    constexpr char kUp = 2;
+    constexpr char kUpFilter = 2;
     QByteArray result(rows.size() / row * (row + 1), Qt::Uninitialized);
     const QByteArray none(row, '\0');
     const char *above = none.constData();
     const char *from = rows.constData();
     for (char *to = result.data(); to != result.constEnd(); above = from, from += row) {
-        *to++ = kUp;
+        *to++ = kUpFilter;
         for (qsizetype i = 0; i < row; ++i) {
             *to++ = static_cast<char>(from[i] - above[i]);
         }

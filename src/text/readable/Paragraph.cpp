@@ -90,7 +90,7 @@ void Paragraph::shapePlain(const FontCascade &font, MissingGlyphs &missing) {
     run.glyphs.reserve(static_cast<std::size_t>(m_text.size()));
     for (qsizetype i = 0; i < m_text.size(); ++i) {
         const Glyph glyph = font.glyph(m_text[i].unicode());
-        if (glyph.id == 0) {
+        if (font.isMissing(glyph)) {
             missing.add(glyph);
         }
         run.glyphs.push_back({glyph, i, i + 1, glyph.advance});

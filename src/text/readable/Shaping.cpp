@@ -87,7 +87,10 @@ Glyph documentGlyph(std::uint16_t face, std::uint16_t id, const QString &text,
             return usual;
         }
     }
-    return font.form(face, id, text);
+    // A box of a face that is not the first one's, unless something stands for boxes.
+    const Glyph missing = font.missingGlyph();
+    const bool isReplaced = id == 0 && missing.id != 0;
+    return isReplaced ? font.form(missing.face, missing.id, text) : font.form(face, id, text);
 }
 
 } // namespace

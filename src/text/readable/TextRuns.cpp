@@ -77,7 +77,7 @@ class RunFinder {
     /// The face that the character would have by itself.
     std::uint16_t faceOf(char32_t character) {
         const Glyph glyph = m_font.glyph(character);
-        if (glyph.id == 0 && !isInvisible(character)) {
+        if (m_font.isMissing(glyph) && !isInvisible(character)) {
             m_missing.add(glyph);
         }
         return glyph.face;
