@@ -6,6 +6,7 @@
 #include "cli/Inputs.h"
 #include "convert/ConversionOptions.h"
 #include "filelist/Orders.h"
+#include "pdf/archive/ArchiveLevel.h"
 
 #include <QByteArray>
 #include <QString>
@@ -41,6 +42,14 @@ struct TextArguments {
     std::optional<QString> footer;
 };
 
+/// What the options of documents for archives say.
+struct ArchiveArguments {
+    std::optional<ArchiveLevel> level;
+    bool fallback = false;
+    std::optional<QByteArray> inkProfileFile;
+    bool embedSources = false;
+};
+
 /// The arguments of one call, read but not checked.
 struct Arguments {
     Request request = Request::Convert;
@@ -55,6 +64,7 @@ struct Arguments {
     QStringList bookmarkTitles;                  ///< Those lines, once they are read.
     QStringList rounded; ///< Lengths that are not what was asked for, in words.
     TextArguments text;
+    ArchiveArguments archive;
     std::optional<SortOrder> sort; ///< Nothing: as given.
     bool toStandardOutput = false; ///< The merged PDF; `options` then name no place for it.
     ProgressMode progress = ProgressMode::Auto;

@@ -3,6 +3,7 @@
 #include "cli/CommandLine.h"
 
 #include "cli/AccessibilityOptions.h"
+#include "cli/ArchiveArguments.h"
 #include "cli/Console.h"
 #include "cli/Inputs.h"
 #include "cli/OptionValues.h"
@@ -161,6 +162,7 @@ ExitStatus runConversion(Arguments arguments) {
         }
         prepareText(arguments);
         prepareTags(arguments);
+        prepareArchive(arguments);
         prepareOutputFolder(arguments.options);
     } catch (const ArgumentFault &fault) {
         console.complain(fault.text());

@@ -61,6 +61,7 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
         own.outputSeconds = result.seconds;
         own.pageSize = entry.pageSize;
         own.state = entry.pageSize.isValid() ? State::Planned : State::Finished;
+        own.archive = close.archive;
         own.embedded = entry.embeddedAs;
         own.parts = entry.parts;
         own.compression = result.compression;

@@ -36,6 +36,7 @@ struct InputResult {
     Warnings warnings;                   ///< What was lost of it though it was written.
     std::optional<double> seconds;       ///< How long its pages took.
     std::optional<double> outputSeconds; ///< How long its PDF took.
+    QString archive; ///< The standard for archives that its PDF claims; empty for none.
     std::optional<EmbeddedAs> embedded;
     std::optional<DocumentParts> parts;            ///< Of a PDF that is written.
     std::optional<CompressionOutcome> compression; ///< What the compression pass did to its PDF.

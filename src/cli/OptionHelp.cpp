@@ -99,6 +99,24 @@ HelpSection accessibilityHelp() {
               "standard input (default: what its file says of it, or its name)"}}};
 }
 
+HelpSection archiveHelp() {
+    return {
+        "Archive",
+        "",
+        {{"--archive", "pdfa-1b|pdfa-2u|pdfa-2a|pdfa-3u|pdfa-3a",
+          "a PDF for archives, PDF/A (ISO 19005): with all fonts and colours in it, and all of its "
+          "text in Unicode from 2u on; 2a and 3a are tagged, too. PDFs of the inputs have to say "
+          "that they are PDF/A of that "
+          "part and level or a higher one; whether that is true is not checked"},
+         {"--archive-fallback", "",
+          "what cannot be PDF/A goes in, and the PDF does not say that it is; without it, it is "
+          "left out"},
+         {"--cmyk-profile", "FILE",
+          "the ICC profile of pictures in CMYK that have none; without it they cannot be PDF/A"},
+         {"--embed-sources", "",
+          "each input itself is attached, byte for byte, to a PDF of part 3"}}};
+}
+
 HelpSection pageHelp() {
     return {
         "Pages",
@@ -182,8 +200,8 @@ QByteArrayList OptionHelp::words() const {
 
 const std::vector<HelpSection> &optionHelp() {
     static const std::vector<HelpSection> sections{
-        inputHelp(), outputHelp(), documentHelp(), accessibilityHelp(),
-        pageHelp(),  textHelp(),   reportHelp()};
+        inputHelp(),   outputHelp(), documentHelp(), accessibilityHelp(),
+        archiveHelp(), pageHelp(),   textHelp(),     reportHelp()};
     return sections;
 }
 

@@ -3,6 +3,7 @@
 #include "cli/OptionTable.h"
 
 #include "cli/AccessibilityOptions.h"
+#include "cli/ArchiveArguments.h"
 #include "cli/NamesLike.h"
 #include "cli/OptionValues.h"
 #include "cli/TextOptions.h"
@@ -257,9 +258,9 @@ const std::vector<Option> &reportOptions() {
     return options;
 }
 
-std::array<const std::vector<Option> *, 7> groups() {
-    return {&inputOptions(), &outputOptions(), &documentOptions(), &accessibilityOptions(),
-            &pageOptions(),  &textOptions(),   &reportOptions()};
+std::array<const std::vector<Option> *, 8> groups() {
+    return {&inputOptions(),   &outputOptions(), &documentOptions(), &accessibilityOptions(),
+            &archiveOptions(), &pageOptions(),   &textOptions(),     &reportOptions()};
 }
 
 } // namespace

@@ -162,6 +162,9 @@ QByteArray toJson(const InputResult &result) {
     if (result.pageSize.isValid()) {
         object.insert(u"pageSize"_s, QJsonArray{result.pageSize.width(), result.pageSize.height()});
     }
+    if (!result.archive.isEmpty()) {
+        object.insert(u"archive"_s, result.archive);
+    }
     if (result.embedded) {
         object.insert(u"embedded"_s, nameOf(*result.embedded));
     }
