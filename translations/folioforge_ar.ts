@@ -1909,6 +1909,66 @@ None: pictures stay as they are
         <source>This program was built without the means to read HEIC and AVIF files</source>
         <translation>بُني هذا البرنامج دون ما يلزم لقراءة ملفات HEIC وAVIF</translation>
     </message>
+    <message>
+        <source>its colours are of a kind that only JPEG 2000 knows</source>
+        <translation>ألوانها من نوع لا يعرفه إلا JPEG 2000</translation>
+    </message>
+    <message>
+        <source>The picture is partly transparent, and is laid on white</source>
+        <translation>الصورة شفافة جزئيًا، وتوضع على خلفية بيضاء</translation>
+    </message>
+    <message>
+        <source>The picture has 16 bits a colour, and is kept with 8</source>
+        <translation>للصورة 16 بتًا لكل لون، وتُحفظ بـ 8</translation>
+    </message>
+    <message>
+        <source>its colour profile is of version %1</source>
+        <translation>ملف تعريف ألوانها من الإصدار %1</translation>
+    </message>
+    <message>
+        <source>it does not say that it is PDF/A</source>
+        <translation>لا يذكر أنه PDF/A</translation>
+    </message>
+    <message>
+        <source>it says that it is %1, not %2</source>
+        <translation>يذكر أنه %1، لا %2</translation>
+    </message>
+    <message>
+        <source>It cannot go into a document that is %1, since %2</source>
+        <translation>لا يمكن إدراجه في مستند من نوع %1: %2</translation>
+    </message>
+    <message>
+        <source>The PDF does not say that it is %1, since %2</source>
+        <translation>لا يذكر ملف PDF أنه %1: %2</translation>
+    </message>
+    <message>
+        <source>its colours are inks without a profile, and none is given</source>
+        <translation>ألوانها أحبار بلا ملف تعريف، ولم يُعطَ أي ملف</translation>
+    </message>
+    <message>
+        <source>a page has %1 x %2 units, beyond 3 to %3</source>
+        <translation>قياس إحدى الصفحات %1 × %2 وحدة، خارج المدى 3 إلى %3</translation>
+    </message>
+    <message>
+        <source>it is protected, which the standard forbids</source>
+        <translation>هو محمي، والمعيار يمنع ذلك</translation>
+    </message>
+    <message>
+        <source>its colours are meant for another kind of device than those of the documents before it</source>
+        <translation>ألوانه معدّة لنوع من الأجهزة غير نوع المستندات التي قبله</translation>
+    </message>
+    <message>
+        <source>The PDF says that it is %1 because this document says so; whether that is true is not checked</source>
+        <translation>يذكر ملف PDF أنه %1 لأن هذا المستند يذكر ذلك؛ ولا يُتحقق من صحة ذلك</translation>
+    </message>
+    <message>
+        <source>Its colours without a profile are shown as those of the documents before it</source>
+        <translation>ألوانه التي بلا ملف تعريف تُعرض كألوان المستندات التي قبله</translation>
+    </message>
+    <message>
+        <source>A document for archives cannot be encrypted</source>
+        <translation>لا يمكن تشفير مستند مخصص للأرشفة</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

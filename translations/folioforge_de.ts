@@ -1797,6 +1797,66 @@ Keine: Bilder bleiben, wie sie sind
         <source>This program was built without the means to read HEIC and AVIF files</source>
         <translation>Dieses Programm wurde ohne die Mittel gebaut, HEIC- und AVIF-Dateien zu lesen</translation>
     </message>
+    <message>
+        <source>its colours are of a kind that only JPEG 2000 knows</source>
+        <translation>Seine Farben sind von einer Art, die nur JPEG 2000 kennt</translation>
+    </message>
+    <message>
+        <source>The picture is partly transparent, and is laid on white</source>
+        <translation>Das Bild ist teilweise durchsichtig und wird auf Weiß gelegt</translation>
+    </message>
+    <message>
+        <source>The picture has 16 bits a colour, and is kept with 8</source>
+        <translation>Das Bild hat 16 Bit je Farbe und wird mit 8 behalten</translation>
+    </message>
+    <message>
+        <source>its colour profile is of version %1</source>
+        <translation>Sein Farbprofil ist von Version %1</translation>
+    </message>
+    <message>
+        <source>it does not say that it is PDF/A</source>
+        <translation>Es gibt nicht an, dass es PDF/A ist</translation>
+    </message>
+    <message>
+        <source>it says that it is %1, not %2</source>
+        <translation>Es gibt an, dass es %1 ist, nicht %2</translation>
+    </message>
+    <message>
+        <source>It cannot go into a document that is %1, since %2</source>
+        <translation>In ein Dokument, das %1 ist, kann es nicht aufgenommen werden: %2</translation>
+    </message>
+    <message>
+        <source>The PDF does not say that it is %1, since %2</source>
+        <translation>Die PDF gibt nicht an, dass sie %1 ist: %2</translation>
+    </message>
+    <message>
+        <source>its colours are inks without a profile, and none is given</source>
+        <translation>Seine Farben sind Druckfarben ohne Profil, und keines ist angegeben</translation>
+    </message>
+    <message>
+        <source>a page has %1 x %2 units, beyond 3 to %3</source>
+        <translation>Eine Seite hat %1 x %2 Einheiten, außerhalb von 3 bis %3</translation>
+    </message>
+    <message>
+        <source>it is protected, which the standard forbids</source>
+        <translation>Es ist geschützt, was der Standard verbietet</translation>
+    </message>
+    <message>
+        <source>its colours are meant for another kind of device than those of the documents before it</source>
+        <translation>Seine Farben sind für eine andere Art von Gerät gedacht als die der Dokumente davor</translation>
+    </message>
+    <message>
+        <source>The PDF says that it is %1 because this document says so; whether that is true is not checked</source>
+        <translation>Die PDF gibt an, dass sie %1 ist, weil dieses Dokument es angibt; ob das stimmt, wird nicht geprüft</translation>
+    </message>
+    <message>
+        <source>Its colours without a profile are shown as those of the documents before it</source>
+        <translation>Seine Farben ohne Profil werden wie die der Dokumente davor gezeigt</translation>
+    </message>
+    <message>
+        <source>A document for archives cannot be encrypted</source>
+        <translation>Ein Dokument für Archive kann nicht verschlüsselt werden</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

@@ -1797,6 +1797,66 @@ Ninguna: las imágenes quedan como están
         <source>This program was built without the means to read HEIC and AVIF files</source>
         <translation>Este programa se compiló sin los medios para leer archivos HEIC y AVIF</translation>
     </message>
+    <message>
+        <source>its colours are of a kind that only JPEG 2000 knows</source>
+        <translation>sus colores son de un tipo que solo JPEG 2000 conoce</translation>
+    </message>
+    <message>
+        <source>The picture is partly transparent, and is laid on white</source>
+        <translation>La imagen es en parte transparente y se pone sobre blanco</translation>
+    </message>
+    <message>
+        <source>The picture has 16 bits a colour, and is kept with 8</source>
+        <translation>La imagen tiene 16 bits por color y se conserva con 8</translation>
+    </message>
+    <message>
+        <source>its colour profile is of version %1</source>
+        <translation>su perfil de color es de la versión %1</translation>
+    </message>
+    <message>
+        <source>it does not say that it is PDF/A</source>
+        <translation>no declara que es PDF/A</translation>
+    </message>
+    <message>
+        <source>it says that it is %1, not %2</source>
+        <translation>declara que es %1, no %2</translation>
+    </message>
+    <message>
+        <source>It cannot go into a document that is %1, since %2</source>
+        <translation>No puede entrar en un documento que es %1: %2</translation>
+    </message>
+    <message>
+        <source>The PDF does not say that it is %1, since %2</source>
+        <translation>El PDF no declara que es %1: %2</translation>
+    </message>
+    <message>
+        <source>its colours are inks without a profile, and none is given</source>
+        <translation>sus colores son tintas sin perfil, y no se ha dado ninguno</translation>
+    </message>
+    <message>
+        <source>a page has %1 x %2 units, beyond 3 to %3</source>
+        <translation>una página tiene %1 x %2 unidades, fuera de 3 a %3</translation>
+    </message>
+    <message>
+        <source>it is protected, which the standard forbids</source>
+        <translation>está protegido, lo que la norma prohíbe</translation>
+    </message>
+    <message>
+        <source>its colours are meant for another kind of device than those of the documents before it</source>
+        <translation>sus colores son para otro tipo de dispositivo que los de los documentos anteriores</translation>
+    </message>
+    <message>
+        <source>The PDF says that it is %1 because this document says so; whether that is true is not checked</source>
+        <translation>El PDF declara que es %1 porque este documento lo declara; no se comprueba si es cierto</translation>
+    </message>
+    <message>
+        <source>Its colours without a profile are shown as those of the documents before it</source>
+        <translation>Sus colores sin perfil se muestran como los de los documentos anteriores</translation>
+    </message>
+    <message>
+        <source>A document for archives cannot be encrypted</source>
+        <translation>Un documento para archivos no puede cifrarse</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

@@ -1797,6 +1797,66 @@ Aucune&#xa0;: les images restent telles quelles
         <source>This program was built without the means to read HEIC and AVIF files</source>
         <translation>Ce programme a été construit sans les moyens de lire les fichiers HEIC et AVIF</translation>
     </message>
+    <message>
+        <source>its colours are of a kind that only JPEG 2000 knows</source>
+        <translation>ses couleurs sont d’un genre que seul JPEG 2000 connaît</translation>
+    </message>
+    <message>
+        <source>The picture is partly transparent, and is laid on white</source>
+        <translation>L’image est en partie transparente, et elle est posée sur du blanc</translation>
+    </message>
+    <message>
+        <source>The picture has 16 bits a colour, and is kept with 8</source>
+        <translation>L’image a 16 bits par couleur, et elle est gardée avec 8</translation>
+    </message>
+    <message>
+        <source>its colour profile is of version %1</source>
+        <translation>son profil de couleurs est de la version %1</translation>
+    </message>
+    <message>
+        <source>it does not say that it is PDF/A</source>
+        <translation>il ne déclare pas qu’il est PDF/A</translation>
+    </message>
+    <message>
+        <source>it says that it is %1, not %2</source>
+        <translation>il déclare qu’il est %1, et non %2</translation>
+    </message>
+    <message>
+        <source>It cannot go into a document that is %1, since %2</source>
+        <translation>Il ne peut pas entrer dans un document qui est %1 : %2</translation>
+    </message>
+    <message>
+        <source>The PDF does not say that it is %1, since %2</source>
+        <translation>Le PDF ne déclare pas qu’il est %1 : %2</translation>
+    </message>
+    <message>
+        <source>its colours are inks without a profile, and none is given</source>
+        <translation>ses couleurs sont des encres sans profil, et aucun n’est donné</translation>
+    </message>
+    <message>
+        <source>a page has %1 x %2 units, beyond 3 to %3</source>
+        <translation>une page a %1 x %2 unités, hors de 3 à %3</translation>
+    </message>
+    <message>
+        <source>it is protected, which the standard forbids</source>
+        <translation>il est protégé, ce que la norme interdit</translation>
+    </message>
+    <message>
+        <source>its colours are meant for another kind of device than those of the documents before it</source>
+        <translation>ses couleurs sont faites pour un autre genre d’appareil que celles des documents précédents</translation>
+    </message>
+    <message>
+        <source>The PDF says that it is %1 because this document says so; whether that is true is not checked</source>
+        <translation>Le PDF déclare qu’il est %1 parce que ce document le déclare ; que ce soit vrai n’est pas vérifié</translation>
+    </message>
+    <message>
+        <source>Its colours without a profile are shown as those of the documents before it</source>
+        <translation>Ses couleurs sans profil sont montrées comme celles des documents précédents</translation>
+    </message>
+    <message>
+        <source>A document for archives cannot be encrypted</source>
+        <translation>Un document pour les archives ne peut pas être chiffré</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

@@ -1769,6 +1769,66 @@ None: pictures stay as they are
         <source>This program was built without the means to read HEIC and AVIF files</source>
         <translation>このプログラムは HEIC と AVIF ファイルを読み取る機能なしでビルドされています</translation>
     </message>
+    <message>
+        <source>its colours are of a kind that only JPEG 2000 knows</source>
+        <translation>JPEG 2000 だけが知る種類の色であるため</translation>
+    </message>
+    <message>
+        <source>The picture is partly transparent, and is laid on white</source>
+        <translation>画像の一部が透明なため、白の上に重ねます</translation>
+    </message>
+    <message>
+        <source>The picture has 16 bits a colour, and is kept with 8</source>
+        <translation>画像は 1 色 16 ビットですが、8 ビットで保存します</translation>
+    </message>
+    <message>
+        <source>its colour profile is of version %1</source>
+        <translation>カラープロファイルのバージョンが %1 であるため</translation>
+    </message>
+    <message>
+        <source>it does not say that it is PDF/A</source>
+        <translation>PDF/A であると示していないため</translation>
+    </message>
+    <message>
+        <source>it says that it is %1, not %2</source>
+        <translation>%2 ではなく %1 であると示しているため</translation>
+    </message>
+    <message>
+        <source>It cannot go into a document that is %1, since %2</source>
+        <translation>%1 の文書には入れられません（%2）</translation>
+    </message>
+    <message>
+        <source>The PDF does not say that it is %1, since %2</source>
+        <translation>PDF は %1 であると示しません（%2）</translation>
+    </message>
+    <message>
+        <source>its colours are inks without a profile, and none is given</source>
+        <translation>プロファイルのないインクの色で、プロファイルが指定されていないため</translation>
+    </message>
+    <message>
+        <source>a page has %1 x %2 units, beyond 3 to %3</source>
+        <translation>ページの大きさ %1 x %2 が 3 から %3 の範囲にないため</translation>
+    </message>
+    <message>
+        <source>it is protected, which the standard forbids</source>
+        <translation>規格が禁じる保護がかけられているため</translation>
+    </message>
+    <message>
+        <source>its colours are meant for another kind of device than those of the documents before it</source>
+        <translation>色の対象機器の種類が前の文書と異なるため</translation>
+    </message>
+    <message>
+        <source>The PDF says that it is %1 because this document says so; whether that is true is not checked</source>
+        <translation>この文書が %1 であると示すため PDF もそう示しますが、正しいかどうかは確認していません</translation>
+    </message>
+    <message>
+        <source>Its colours without a profile are shown as those of the documents before it</source>
+        <translation>プロファイルのない色は前の文書の色として表示されます</translation>
+    </message>
+    <message>
+        <source>A document for archives cannot be encrypted</source>
+        <translation>保存用の文書は暗号化できません</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

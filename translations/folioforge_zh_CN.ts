@@ -1769,6 +1769,66 @@ None: pictures stay as they are
         <source>This program was built without the means to read HEIC and AVIF files</source>
         <translation>本程序构建时不包含读取 HEIC 和 AVIF 文件的功能</translation>
     </message>
+    <message>
+        <source>its colours are of a kind that only JPEG 2000 knows</source>
+        <translation>它的颜色属于只有 JPEG 2000 才支持的类型</translation>
+    </message>
+    <message>
+        <source>The picture is partly transparent, and is laid on white</source>
+        <translation>该图像部分透明，将置于白色背景上</translation>
+    </message>
+    <message>
+        <source>The picture has 16 bits a colour, and is kept with 8</source>
+        <translation>该图像每种颜色 16 位，将以 8 位保存</translation>
+    </message>
+    <message>
+        <source>its colour profile is of version %1</source>
+        <translation>它的颜色配置文件是第 %1 版</translation>
+    </message>
+    <message>
+        <source>it does not say that it is PDF/A</source>
+        <translation>它没有声明自己是 PDF/A</translation>
+    </message>
+    <message>
+        <source>it says that it is %1, not %2</source>
+        <translation>它声明自己是 %1，而不是 %2</translation>
+    </message>
+    <message>
+        <source>It cannot go into a document that is %1, since %2</source>
+        <translation>无法放入 %1 文档，因为%2</translation>
+    </message>
+    <message>
+        <source>The PDF does not say that it is %1, since %2</source>
+        <translation>PDF 没有声明自己是 %1，因为%2</translation>
+    </message>
+    <message>
+        <source>its colours are inks without a profile, and none is given</source>
+        <translation>它的颜色是没有配置文件的油墨色，也没有给出配置文件</translation>
+    </message>
+    <message>
+        <source>a page has %1 x %2 units, beyond 3 to %3</source>
+        <translation>有一页为 %1 x %2 单位，超出 3 到 %3</translation>
+    </message>
+    <message>
+        <source>it is protected, which the standard forbids</source>
+        <translation>它受保护，而该标准禁止保护</translation>
+    </message>
+    <message>
+        <source>its colours are meant for another kind of device than those of the documents before it</source>
+        <translation>它的颜色所针对的设备类型与前面的文档不同</translation>
+    </message>
+    <message>
+        <source>The PDF says that it is %1 because this document says so; whether that is true is not checked</source>
+        <translation>PDF 声明自己是 %1，因为该文档如此声明；其真实性未经检查</translation>
+    </message>
+    <message>
+        <source>Its colours without a profile are shown as those of the documents before it</source>
+        <translation>它没有配置文件的颜色将按前面文档的颜色显示</translation>
+    </message>
+    <message>
+        <source>A document for archives cannot be encrypted</source>
+        <translation>用于存档的文档不能加密</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

@@ -13,6 +13,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -24,6 +25,13 @@
 namespace folioforge::test {
 
 inline const QString kProgram = commandLineProgram();
+
+/// The system's own Python, which packages are installed for.
+inline QString python() {
+    const QString own =
+        QStandardPaths::findExecutable(QStringLiteral("python3"), {QStringLiteral("/usr/bin")});
+    return own.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("python3")) : own;
+}
 
 /// What the report `output` tells of each input, without its head.
 inline QList<QJsonObject> objectsOf(const QByteArray &output) {

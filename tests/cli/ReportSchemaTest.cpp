@@ -7,7 +7,6 @@
 #include <QCryptographicHash>
 #include <QImage>
 #include <QSet>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -17,8 +16,6 @@ namespace {
 
 /// What another program says of the lines of `report` that are not as the schema demands.
 QByteArray faultsOf(const QByteArray &report) {
-    QString python = QStandardPaths::findExecutable(u"python3"_s, {u"/usr/bin"_s});
-    python = python.isEmpty() ? QStandardPaths::findExecutable(u"python3"_s) : python;
     const QString script = uR"(
 import json, jsonschema, sys
 schema = json.load(open(sys.argv[1]))
@@ -29,7 +26,7 @@ for line in sys.stdin.buffer.read().decode().splitlines():
         print(line, fault.message, [inner.message for inner in fault.context])
 )"_s;
     const QString schema = inSource(u"docs/report.schema.json"_s);
-    const ToolRun run = runTool(python, {u"-c"_s, script, schema}, report);
+    const ToolRun run = runTool(python(), {u"-c"_s, script, schema}, report);
     return run.exitCode == 0 ? run.out : "python: " + run.err;
 }
 
