@@ -5,9 +5,11 @@
 
 #include "FuzzSupport.h"
 #include "image/ImageHeader.h"
+#include "image/LimitedPicture.h"
 #include "image/PdfImage.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -45,6 +47,16 @@ void requireAllInOrder(const QString &path, qint64 fileSize) {
     });
 }
 
+/// As the oldest standard for archives asks.
+void requireLimited(PdfImage image, qint64 fileSize) {
+    refuses([&] {
+        const QString reason = limit(image, {false, false, 8, 2});
+        requireInOrder(image, fileSize);
+        require(!reason.isEmpty() || (!image.softMask && image.bitsPerComponent <= 8 &&
+                                      image.filter != ImageFilter::Jpx));
+    });
+}
+
 /// The file's name decides where the bytes do not tell their format.
 void readAs(ImageKind kind, const QString &extension, Bytes bytes) {
     refuseMessages();
@@ -52,7 +64,9 @@ void readAs(ImageKind kind, const QString &extension, Bytes bytes) {
     refuses([&] {
         const ImageHeader header = readImageHeader(file.path());
         if (header.kind == kind && qint64(header.width) * header.height <= kMaxPixels) {
-            requireInOrder(toPdfImage(file.path()), static_cast<qint64>(bytes.size()));
+            PdfImage picture = toPdfImage(file.path());
+            requireInOrder(picture, static_cast<qint64>(bytes.size()));
+            requireLimited(std::move(picture), static_cast<qint64>(bytes.size()));
             requireAllInOrder(file.path(), static_cast<qint64>(bytes.size()));
         }
     });
