@@ -1,72 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "text/readable/ReadableLayout.h"
+#include "ShownText.h"
 #include "support/TestUnit.h"
-#include "text/FontCatalog.h"
 
-#include <QFontDatabase>
-#include <QGlyphRun>
 #include <QRandomGenerator>
-#include <QTextLayout>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
+using namespace folioforge::test;
 
 namespace {
-
-/// Glyphs that were shown at a time, and what they are read as.
-struct ShownPiece {
-    int page = 0;
-    double x = 0;
-    double y = 0;
-    std::vector<Glyph> glyphs;
-    QString readAs;
-};
-
-/// What was shown, and on how many pages.
-struct ShownText {
-    int pages = 0;
-    std::vector<ShownPiece> pieces;
-};
-
-class PieceRecorder : public TextPageSink {
-  public:
-    void beginPage() override { ++shown.pages; }
-    void showRow(double x, double y, std::span<const Glyph> glyphs) override {
-        shown.pieces.push_back({shown.pages, x, y, {glyphs.begin(), glyphs.end()}, m_readAs});
-    }
-    void beginReading(QStringView text) override { m_readAs = text.toString(); }
-    void endReading() override { m_readAs.clear(); }
-    void endPage() override {}
-
-    ShownText shown;
-
-  private:
-    QString m_readAs;
-};
-
-constexpr double kHeight = 842;
-constexpr PageMargins kNoMargins{0, 0, 0, 0};
-
-/// Of 1,000 points, so that what the hinting of others may do is small.
-const FontCascade &large() {
-    static const auto font = FontCascade::load({u"Liberation Sans"_s}, 1000);
-    return *font;
-}
-
-const FontCascade &small() {
-    static const auto font = FontCascade::load({u"Liberation Sans"_s}, 10);
-    return *font;
-}
-
-ShownText readable(const QString &text, double width, const FontCascade &font = small(),
-                   const ReadableStyle &style = {}) {
-    PieceRecorder recorder;
-    layOutReadable(text, {width, kHeight}, kNoMargins, font, style, recorder);
-    return recorder.shown;
-}
 
 /// The rows from the top, each from left to right, as the characters of their glyphs.
 QStringList shownRows(const ShownText &text, const FontCascade &font = small()) {
@@ -86,40 +31,6 @@ QStringList shownRows(const ShownText &text, const FontCascade &font = small()) 
     return rows;
 }
 
-/// A glyph at its place, for comparison.
-struct GlyphAt {
-    double x = 0;
-    double y = 0;
-    unsigned id = 0;
-};
-
-std::vector<GlyphAt> sorted(std::vector<GlyphAt> glyphs) {
-    std::ranges::sort(glyphs, {}, [](const GlyphAt &at) { return std::pair(at.x, at.id); });
-    return glyphs;
-}
-
-/// What Qt makes of a line in the font of a file.
-std::vector<GlyphAt> shapedByQt(const QString &text, const QString &file) {
-    const int added = QFontDatabase::addApplicationFont(file);
-    QFont font(QFontDatabase::applicationFontFamilies(added).constFirst());
-    font.setPixelSize(1000);
-    font.setKerning(false);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    QTextLayout layout(text, font);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(1e6);
-    layout.endLayout();
-    std::vector<GlyphAt> glyphs;
-    for (const QGlyphRun &run : line.glyphRuns()) {
-        for (qsizetype i = 0; i < run.glyphIndexes().size(); ++i) {
-            const QPointF at = run.positions()[i];
-            glyphs.push_back({at.x(), line.ascent() - at.y(), run.glyphIndexes()[i]});
-        }
-    }
-    return sorted(glyphs);
-}
-
 QString randomWords(int count) {
     QRandomGenerator random(7);
     QStringList words;
@@ -136,47 +47,6 @@ class ReadableLayoutTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void lettersAreJoinedAndPlacedAsByAnotherShaper_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("ascent"); ///< Thousandths of an em: the room above the baseline.
-        constexpr double kAscent = 1854 / 2.048; // Of Liberation Sans.
-        QTest::newRow("Arabic") << u"\u0645\u0631\u062D\u0628\u0627 \u0644\u0627"_s << kAscent;
-        QTest::newRow("Arabic with vowels") << u"\u0644\u0650\u064A\u064F\u0643"_s << kAscent;
-        QTest::newRow("Hebrew with points")
-            << u"\u05E9\u05C1\u05B8\u05DC\u05D5\u05B9\u05DD"_s << kAscent;
-        QTest::newRow("Devanagari") // Its face wants 896.
-            << u"\u0915\u094D\u0937\u0924\u094D\u0930\u093F\u092F"_s << kAscent;
-        QTest::newRow("Thai") << u"\u0E20\u0E32\u0E29\u0E32\u0E17\u0E35\u0E48"_s << 1061.0;
-    }
-    void lettersAreJoinedAndPlacedAsByAnotherShaper() {
-        QFETCH(const QString, text);
-        QFETCH(const double, ascent);
-        const ShownText shown = readable(text, 1e5, large());
-        QCOMPARE(shown.pieces.empty(), false);
-        const std::uint16_t face = shown.pieces.front().glyphs.front().face;
-        std::vector<GlyphAt> ours;
-        for (const ShownPiece &piece : shown.pieces) {
-            double x = piece.x;
-            for (const Glyph &glyph : piece.glyphs) {
-                QCOMPARE(glyph.face, face);
-                ours.push_back({x, piece.y, glyph.id});
-                x += glyph.advance;
-            }
-        }
-        ours = sorted(ours);
-        const auto fonts = findTextFonts({u"Liberation Sans"_s});
-        const auto qts = shapedByQt(text, QFile::decodeName(fonts[face].path()));
-        QCOMPARE(ours.size(), qts.size());
-        // A line that is read from right to left begins at the margin.
-        const double start = ours.front().x - qts.front().x;
-        const double base = kHeight - ascent;
-        for (std::size_t i = 0; i < ours.size(); ++i) {
-            QCOMPARE(ours[i].id, qts[i].id);
-            QVERIFY(qAbs(ours[i].x - start - qts[i].x) < 4);
-            QVERIFY(qAbs(ours[i].y - base - qts[i].y) < 4);
-        }
-    }
-
     void anAccentJoinsItsLetterInOneFace() {
         // Liberation Sans has no accent of its own, but "é".
         const ShownText composed = readable(u"e\u0301"_s, 500);
