@@ -39,6 +39,7 @@ namespace folioforge {
     USE(nclx_color_profile_free)
 
 struct HeifLibrary {
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a name that is declared takes none
 #define FOLIOFORGE_HEIF_MEMBER(NAME) decltype(&heif_##NAME) NAME = nullptr;
     FOLIOFORGE_HEIF_FUNCTIONS(FOLIOFORGE_HEIF_MEMBER)
 #undef FOLIOFORGE_HEIF_MEMBER
