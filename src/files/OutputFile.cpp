@@ -144,15 +144,18 @@ void OutputFile::write(std::span<const char> bytes) {
 }
 
 QByteArray OutputFile::read(qint64 offset, qint64 size) {
-    drain();
     QByteArray bytes(size, Qt::Uninitialized);
-    const qint64 got =
-        m_file.readAt(offset, {bytes.data(), static_cast<std::size_t>(bytes.size())});
+    bytes.truncate(readInto(offset, {bytes.data(), static_cast<std::size_t>(bytes.size())}));
+    return bytes;
+}
+
+qint64 OutputFile::readInto(qint64 offset, std::span<char> target) {
+    drain();
+    const qint64 got = m_file.readAt(offset, target);
     if (got < 0) {
         fail(kNotReadBack);
     }
-    bytes.truncate(got);
-    return bytes;
+    return got;
 }
 
 void OutputFile::overwrite(qint64 offset, const QByteArray &bytes) {

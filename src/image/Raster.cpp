@@ -4,6 +4,7 @@
 
 #include "error/Error.h"
 #include "error/Reasons.h"
+#include "files/Checksum.h"
 #include "image/Deflate.h"
 #include "image/IccProfile.h"
 #include "image/Parallel.h"
@@ -71,6 +72,7 @@ CompressionPlan planFor(const Raster &raster) {
 
 void compressSamples(const Raster &raster, PdfImage &image) {
     const CompressionPlan plan = planFor(raster);
+    image.unpacked = checksumOf(raster.samples);
     if (plan.filtered) {
         image.predictor = 15;
         image.data = deflateBytes(filterRows(raster.samples, raster.stride(), pixelBytesOf(raster)),

@@ -55,8 +55,24 @@ void putId(Trailer &trailer, const QByteArray &id) {
     trailer.bytes.replace(second, id.size(), id);
 }
 
-std::uint32_t checksumOf(const QByteArray &bytes) {
+std::uint32_t crcOf(const QByteArray &bytes) {
     return libdeflate_crc32(0, bytes.constData(), static_cast<std::size_t>(bytes.size()));
+}
+
+/// The CRC-32 of a file without `tail`, with which it has the CRC-32 `checksum`: each step of the sum
+/// is taken back.
+std::uint32_t crcBefore(std::uint32_t checksum, const QByteArray &tail) {
+    constexpr std::uint32_t kPolynomial = 0xEDB88320;
+    constexpr unsigned kBits = 8;
+    std::uint32_t sum = ~checksum;
+    for (auto byte = tail.crbegin(); byte != tail.crend(); ++byte) {
+        for (unsigned bit = 0; bit < kBits; ++bit) {
+            const bool wasOdd = (sum & 0x80000000U) != 0;
+            sum = (wasOdd ? sum ^ kPolynomial : sum) << 1U | (wasOdd ? 1U : 0U);
+        }
+        sum ^= static_cast<unsigned char>(*byte);
+    }
+    return ~sum;
 }
 
 std::string infoText(QPDF &document) {
@@ -67,22 +83,24 @@ std::string infoText(QPDF &document) {
 /// then is.
 std::uint32_t clearId(Trailer &trailer, std::uint32_t checksum) {
     // CRC-32 is linear, so two sums over the trailer replace the library's digits by zeros in it.
-    checksum ^= checksumOf(trailer.bytes);
+    checksum ^= crcOf(trailer.bytes);
     putId(trailer, QByteArray(kIdDigits, '0'));
-    return checksum ^ checksumOf(trailer.bytes);
+    return checksum ^ crcOf(trailer.bytes);
 }
 
 /// Replaces the identifier, which the library derives from the time, by one that follows from the
 /// document. `checksum` is the CRC-32 of the file; the library's deterministic identifier is an
-/// MD5 over all bytes, which takes as long as reading them from a disk.
-void replaceId(QPDF &document, OutputFile &file, std::uint32_t checksum) {
+/// MD5 over all bytes, which takes as long as reading them from a disk. Gives that of the file then.
+std::uint32_t replaceId(QPDF &document, OutputFile &file, std::uint32_t checksum) {
     Trailer trailer = readTrailer(file);
     checksum = clearId(trailer, checksum);
     QCryptographicHash hash(QCryptographicHash::Md5);
     hash.addData(QByteArray::fromStdString(infoText(document)));
     hash.addData(QByteArray::number(file.size()) + ' ' + QByteArray::number(checksum));
+    checksum ^= crcOf(trailer.bytes);
     putId(trailer, hash.result().toHex());
     file.overwrite(trailer.start, trailer.bytes);
+    return checksum ^ crcOf(trailer.bytes);
 }
 
 } // namespace
@@ -137,7 +155,7 @@ void writeFurther(QPDFWriter &writer, OutputFile &file, OutputPipeline &pipeline
                   const StreamCipher *cipher, const FurtherObjects &further) {
     Trailer trailer = readTrailer(file);
     CrossReferences references(trailer.bytes);
-    pipeline.setChecksum(clearId(trailer, pipeline.checksum()));
+    pipeline.setChecksum(crcBefore(pipeline.checksum(), trailer.bytes));
     file.cutTo(trailer.start);
     ObjectStreams streams(pipeline, trailer.start, references, cipher);
     const auto numberOf = [&writer](const QPDFObjectHandle &object) {
@@ -149,7 +167,7 @@ void writeFurther(QPDFWriter &writer, OutputFile &file, OutputPipeline &pipeline
 
 } // namespace
 
-void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
+std::uint32_t writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
                    const DocumentForm &form, const FurtherObjects &further) {
     OutputPipeline pipeline(file);
     translateQpdfErrors([&] {
@@ -175,7 +193,7 @@ void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryptio
         }
     });
     pipeline.throwFailure();
-    replaceId(document, file, pipeline.checksum());
+    return replaceId(document, file, pipeline.checksum());
 }
 
 } // namespace folioforge

@@ -67,8 +67,9 @@ using FurtherObjects = std::function<void(const ObjectNumbers &, ObjectStreams &
 
 /// Writes `document` to `file`, compressed. The /ID follows from the bytes,
 /// so that an unencrypted document is always written the same. A null `encryption` means none.
-/// Where there are `further` objects, the form must not be the classic one. Throws Error.
-void writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
+/// Where there are `further` objects, the form must not be the classic one. Gives
+/// the CRC-32 of all bytes of the file. Throws Error.
+std::uint32_t writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
                    const DocumentForm &form, const FurtherObjects &further = {});
 
 } // namespace folioforge

@@ -50,7 +50,7 @@ class PDFContext::Impl {
     void drawArtifact(int page, const std::function<void()> &draw);
     QDateTime creationDate();
     AddedDocument addDocument(const QString &sourcePath, const PageChoice &choice);
-    CloseResult close(const std::function<QString()> &nextPath);
+    CloseResult close(const std::function<QString()> &nextPath, const Inspection &inspect);
     void addBookmark(const QString &title, int page) { m_catalog.addBookmark(title, page); }
     void waitForPages() { m_streams.waitForPages(); }
     [[nodiscard]] Mark mark() const { return {pageCount(), m_streams.stored()}; }
@@ -239,7 +239,8 @@ CloseResult PDFContext::Impl::publish(OutputFile &file, const std::function<QStr
     return {CloseResult::Status::NameTaken, path, {}, {}};
 }
 
-CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
+CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath,
+                                    const Inspection &inspect) {
     try {
         waitForPages();
         finishDocument();
@@ -253,10 +254,14 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath) {
                 writeElements(m_tags, *m_drawn, m_catalog.pages(), numberOf, streams);
             };
         }
-        writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.form(), elements);
+        const std::uint32_t checksum = writeDocument(
+            m_document, file, m_settings.encryption.get(), m_catalog.form(), elements);
         m_reader->finish();
         translateQpdfErrors([&] { requireAllObjects(m_document, *m_reader); });
         Warnings warnings = file.finish(m_settings.flush);
+        if (inspect) {
+            inspect(file, checksum);
+        }
         CloseResult result = publish(file, nextPath);
         result.warnings = std::move(warnings);
         result.left = m_catalog.leftInTheEnd();
@@ -368,8 +373,8 @@ void PDFContext::rollBack(const Mark &mark) {
     m_impl->rollBack(mark);
 }
 
-CloseResult PDFContext::close(const std::function<QString()> &nextPath) {
-    return m_impl->close(nextPath);
+CloseResult PDFContext::close(const std::function<QString()> &nextPath, const Inspection &inspect) {
+    return m_impl->close(nextPath, inspect);
 }
 
 } // namespace folioforge

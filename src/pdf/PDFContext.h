@@ -17,6 +17,7 @@
 #include <QRectF>
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -42,6 +43,10 @@ struct CloseResult {
     /// Kinds that sources brought and that could not be for all of the document together.
     std::vector<PartKind> left = {};
 };
+
+/// Looks at a document that is whole on its disk and has no name yet, the CRC-32 of whose bytes is
+/// given. Throws Error where it must not get one.
+using Inspection = std::function<void(OutputFile &file, std::uint32_t checksum)>;
 
 /// What a source document brought.
 struct AddedDocument {
@@ -145,8 +150,9 @@ class PDFContext {
 
     /// Writes the document and gives it its name, in place of another file only where the settings
     /// say so, and then in one step. When the name is taken, `nextPath` gives the next one to try;
-    /// without it the result is NameTaken.
-    CloseResult close(const std::function<QString()> &nextPath = {});
+    /// without it the result is NameTaken. `inspect` has its say before that.
+    CloseResult close(const std::function<QString()> &nextPath = {},
+                      const Inspection &inspect = {});
 
   private:
     class Impl;

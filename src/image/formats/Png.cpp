@@ -3,6 +3,7 @@
 #include "image/formats/Formats.h"
 
 #include "image/Bytes.h"
+#include "files/Checksum.h"
 #include "image/Deflate.h"
 #include "image/IccProfile.h"
 #include "image/MorePictures.h"
@@ -127,6 +128,13 @@ PdfImage describe(const PngMetadata &metadata) {
     return image;
 }
 
+/// Makes `rows`, filtered as the file has them, the data of `image`.
+void compressRows(const QByteArray &rows, PdfImage &image) {
+    image.unpacked = checksumOf(rows);
+    image.hasFilteredRows = true;
+    image.data = deflateBytes(rows);
+}
+
 /// Rows without an opacity channel: the file's own compressed data where it is whole, with a soft
 /// mask where a tRNS chunk makes some transparent.
 PdfImage withOwnRows(const FileView &file, const PngMetadata &metadata) {
@@ -142,7 +150,7 @@ PdfImage withOwnRows(const FileView &file, const PngMetadata &metadata) {
             image.slices.push_back({file.offset() + slice.offset, slice.length});
         }
     } else {
-        image.data = deflateBytes(rows);
+        compressRows(rows, image);
     }
     if (!metadata.transparency.isEmpty()) {
         rows =
@@ -164,7 +172,7 @@ PdfImage withSplitRows(const FileView &file, const PngMetadata &metadata) {
                                      rowBytes(image.width, 1, metadata.bits), metadata.bits / 8);
         return encodeAlpha(plane, image.width, image.height);
     });
-    image.data = deflateBytes(split.color);
+    compressRows(split.color, image);
     image.softMask = mask.get();
     return image;
 }
