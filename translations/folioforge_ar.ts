@@ -744,6 +744,14 @@ None: pictures stay as they are
         <source>Rea&amp;dable layout</source>
         <translation>تخطيط مقروء (&amp;D)</translation>
     </message>
+    <message>
+        <source>Hold each page against its file before the PDF gets its name</source>
+        <translation>مقارنة كل صفحة بملفها قبل أن يأخذ ملف PDF اسمه</translation>
+    </message>
+    <message>
+        <source>Check every page</source>
+        <translation>تدقيق كل صفحة</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>
@@ -1969,6 +1977,146 @@ None: pictures stay as they are
         <source>A document for archives cannot be encrypted</source>
         <translation>لا يمكن تشفير مستند مخصص للأرشفة</translation>
     </message>
+    <message>
+        <source>The file has changed</source>
+        <translation>تغيّر الملف</translation>
+    </message>
+    <message>
+        <source>Not every page of the PDF is its source</source>
+        <translation>ليست كل صفحات ملف PDF مطابقة لمصادرها</translation>
+    </message>
+    <message>
+        <source>All of it is in the PDF, but laid out otherwise</source>
+        <translation>كل محتواه موجود في ملف PDF لكن بتنسيق آخر</translation>
+    </message>
+    <message>
+        <source>The PDF has %1 pages instead of %2</source>
+        <translation>عدد صفحات ملف PDF هو %1 بدلاً من %2</translation>
+    </message>
+    <message>
+        <source>Page %1 of the smaller PDF is not that of the PDF: %2</source>
+        <translation>الصفحة %1 من ملف PDF المصغَّر ليست كما في ملف PDF: %2</translation>
+    </message>
+    <message>
+        <source>The PDF is damaged: %1</source>
+        <translation>ملف PDF تالف: %1</translation>
+    </message>
+    <message>
+        <source>The PDF has fewer pages than the files</source>
+        <translation>صفحات ملف PDF أقل من صفحات الملفات</translation>
+    </message>
+    <message>
+        <source>Readers would draw the form fields of the PDF otherwise</source>
+        <translation>ستعرض برامج القراءة حقول النماذج في ملف PDF بشكل آخر</translation>
+    </message>
+    <message>
+        <source>it is no page of the source</source>
+        <translation>ليست صفحة من المصدر</translation>
+    </message>
+    <message>
+        <source>a font is damaged</source>
+        <translation>أحد الخطوط تالف</translation>
+    </message>
+    <message>
+        <source>it is of none of the files</source>
+        <translation>ليست من أيٍّ من الملفات</translation>
+    </message>
+    <message>
+        <source>it has no picture, or more than one</source>
+        <translation>لا صورة فيها أو فيها أكثر من صورة</translation>
+    </message>
+    <message>
+        <source>its picture is turned otherwise</source>
+        <translation>صورتها مدارة بشكل آخر</translation>
+    </message>
+    <message>
+        <source>its characters are not those of the text</source>
+        <translation>محارفها ليست محارف النص</translation>
+    </message>
+    <message>
+        <source>the text goes on and the PDF does not</source>
+        <translation>النص يستمر وملف PDF لا يستمر</translation>
+    </message>
+    <message>
+        <source>its contents are not those of the source</source>
+        <translation>محتواها ليس محتوى المصدر</translation>
+    </message>
+    <message>
+        <source>its fonts or pictures are not those of the source</source>
+        <translation>خطوطها أو صورها ليست كما في المصدر</translation>
+    </message>
+    <message>
+        <source>its links, notes or fields are not those of the source</source>
+        <translation>روابطها أو ملاحظاتها أو حقولها ليست كما في المصدر</translation>
+    </message>
+    <message>
+        <source>its size or turn is not that of the source</source>
+        <translation>مقاسها أو دورانها ليس كما في المصدر</translation>
+    </message>
+    <message>
+        <source>%1 is not as in the source</source>
+        <translation>%1 ليس كما في المصدر</translation>
+    </message>
+    <message>
+        <source>the bytes of its picture are not those of the file</source>
+        <translation>بايتات صورتها ليست بايتات الملف</translation>
+    </message>
+    <message>
+        <source>the pixels of its picture are not those of the file</source>
+        <translation>بكسلات صورتها ليست بكسلات الملف</translation>
+    </message>
+    <message>
+        <source>its picture has another size</source>
+        <translation>مقاس صورتها مختلف</translation>
+    </message>
+    <message>
+        <source>its picture would be read otherwise</source>
+        <translation>ستُقرأ صورتها بشكل آخر</translation>
+    </message>
+    <message>
+        <source>the opacity of its picture is another</source>
+        <translation>عتامة صورتها مختلفة</translation>
+    </message>
+    <message>
+        <source>its picture stands elsewhere</source>
+        <translation>صورتها في موضع آخر</translation>
+    </message>
+    <message>
+        <source>The PDF on the disk is not what was written</source>
+        <translation>ملف PDF على القرص ليس ما كُتب</translation>
+    </message>
+    <message>
+        <source>Page %1 of the PDF is not its source: %2</source>
+        <translation>الصفحة %1 من ملف PDF لا تطابق مصدرها: %2</translation>
+    </message>
+    <message>
+        <source>the contents of a page cannot be read</source>
+        <translation>لا يمكن قراءة محتوى إحدى الصفحات</translation>
+    </message>
+    <message>
+        <source>its text stands elsewhere</source>
+        <translation>نصها في موضع آخر</translation>
+    </message>
+    <message>
+        <source>its header or footer is another</source>
+        <translation>ترويستها أو تذييلها مختلف</translation>
+    </message>
+    <message>
+        <source>it shows what is not in the text</source>
+        <translation>تعرض ما ليس في النص</translation>
+    </message>
+    <message>
+        <source>it has another size</source>
+        <translation>مقاسها مختلف</translation>
+    </message>
+    <message>
+        <source>it has notes that nobody made</source>
+        <translation>فيها ملاحظات لم يضعها أحد</translation>
+    </message>
+    <message>
+        <source>it shows more than the picture</source>
+        <translation>تعرض أكثر من الصورة</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>
@@ -2369,6 +2517,10 @@ None: pictures stay as they are
     <message>
         <source>Select the files that are in no PDF</source>
         <translation>تحديد الملفات غير الموجودة في أي ملف PDF</translation>
+    </message>
+    <message>
+        <source>%1, every page checked</source>
+        <translation>%1، ودُققت كل الصفحات</translation>
     </message>
 </context>
 </TS>

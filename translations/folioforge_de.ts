@@ -740,6 +740,14 @@ Keine: Bilder bleiben, wie sie sind
         <source>Rea&amp;dable layout</source>
         <translation>Lesbares La&amp;yout</translation>
     </message>
+    <message>
+        <source>Hold each page against its file before the PDF gets its name</source>
+        <translation>Jede Seite mit ihrer Datei vergleichen, bevor die PDF ihren Namen bekommt</translation>
+    </message>
+    <message>
+        <source>Check every page</source>
+        <translation>Jede Seite prüfen</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>
@@ -1857,6 +1865,146 @@ Keine: Bilder bleiben, wie sie sind
         <source>A document for archives cannot be encrypted</source>
         <translation>Ein Dokument für Archive kann nicht verschlüsselt werden</translation>
     </message>
+    <message>
+        <source>The file has changed</source>
+        <translation>Die Datei hat sich geändert</translation>
+    </message>
+    <message>
+        <source>Not every page of the PDF is its source</source>
+        <translation>Nicht jede Seite der PDF entspricht ihrer Quelle</translation>
+    </message>
+    <message>
+        <source>All of it is in the PDF, but laid out otherwise</source>
+        <translation>Alles davon steht in der PDF, aber anders angeordnet</translation>
+    </message>
+    <message>
+        <source>The PDF has %1 pages instead of %2</source>
+        <translation>Die PDF hat %1 Seiten statt %2</translation>
+    </message>
+    <message>
+        <source>Page %1 of the smaller PDF is not that of the PDF: %2</source>
+        <translation>Seite %1 der verkleinerten PDF entspricht nicht der PDF: %2</translation>
+    </message>
+    <message>
+        <source>The PDF is damaged: %1</source>
+        <translation>Die PDF ist beschädigt: %1</translation>
+    </message>
+    <message>
+        <source>The PDF has fewer pages than the files</source>
+        <translation>Die PDF hat weniger Seiten als die Dateien</translation>
+    </message>
+    <message>
+        <source>Readers would draw the form fields of the PDF otherwise</source>
+        <translation>Leseprogramme würden die Formularfelder der PDF anders darstellen</translation>
+    </message>
+    <message>
+        <source>it is no page of the source</source>
+        <translation>sie ist keine Seite der Quelle</translation>
+    </message>
+    <message>
+        <source>a font is damaged</source>
+        <translation>eine Schrift ist beschädigt</translation>
+    </message>
+    <message>
+        <source>it is of none of the files</source>
+        <translation>sie gehört zu keiner der Dateien</translation>
+    </message>
+    <message>
+        <source>it has no picture, or more than one</source>
+        <translation>sie hat kein Bild oder mehr als eines</translation>
+    </message>
+    <message>
+        <source>its picture is turned otherwise</source>
+        <translation>ihr Bild ist anders gedreht</translation>
+    </message>
+    <message>
+        <source>its characters are not those of the text</source>
+        <translation>ihre Zeichen sind nicht die des Textes</translation>
+    </message>
+    <message>
+        <source>the text goes on and the PDF does not</source>
+        <translation>der Text geht weiter und die PDF nicht</translation>
+    </message>
+    <message>
+        <source>its contents are not those of the source</source>
+        <translation>ihr Inhalt ist nicht der der Quelle</translation>
+    </message>
+    <message>
+        <source>its fonts or pictures are not those of the source</source>
+        <translation>ihre Schriften oder Bilder sind nicht die der Quelle</translation>
+    </message>
+    <message>
+        <source>its links, notes or fields are not those of the source</source>
+        <translation>ihre Links, Anmerkungen oder Felder sind nicht die der Quelle</translation>
+    </message>
+    <message>
+        <source>its size or turn is not that of the source</source>
+        <translation>ihre Größe oder Drehung ist nicht die der Quelle</translation>
+    </message>
+    <message>
+        <source>%1 is not as in the source</source>
+        <translation>%1 ist nicht wie in der Quelle</translation>
+    </message>
+    <message>
+        <source>the bytes of its picture are not those of the file</source>
+        <translation>die Bytes ihres Bildes sind nicht die der Datei</translation>
+    </message>
+    <message>
+        <source>the pixels of its picture are not those of the file</source>
+        <translation>die Pixel ihres Bildes sind nicht die der Datei</translation>
+    </message>
+    <message>
+        <source>its picture has another size</source>
+        <translation>ihr Bild hat eine andere Größe</translation>
+    </message>
+    <message>
+        <source>its picture would be read otherwise</source>
+        <translation>ihr Bild würde anders gelesen</translation>
+    </message>
+    <message>
+        <source>the opacity of its picture is another</source>
+        <translation>die Deckkraft ihres Bildes ist eine andere</translation>
+    </message>
+    <message>
+        <source>its picture stands elsewhere</source>
+        <translation>ihr Bild steht anderswo</translation>
+    </message>
+    <message>
+        <source>The PDF on the disk is not what was written</source>
+        <translation>Die PDF auf dem Datenträger ist nicht, was geschrieben wurde</translation>
+    </message>
+    <message>
+        <source>Page %1 of the PDF is not its source: %2</source>
+        <translation>Seite %1 der PDF entspricht nicht ihrer Quelle: %2</translation>
+    </message>
+    <message>
+        <source>the contents of a page cannot be read</source>
+        <translation>der Inhalt einer Seite ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>its text stands elsewhere</source>
+        <translation>ihr Text steht anderswo</translation>
+    </message>
+    <message>
+        <source>its header or footer is another</source>
+        <translation>ihre Kopf- oder Fußzeile ist eine andere</translation>
+    </message>
+    <message>
+        <source>it shows what is not in the text</source>
+        <translation>sie zeigt, was nicht im Text steht</translation>
+    </message>
+    <message>
+        <source>it has another size</source>
+        <translation>sie hat eine andere Größe</translation>
+    </message>
+    <message>
+        <source>it has notes that nobody made</source>
+        <translation>sie hat Anmerkungen, die niemand gemacht hat</translation>
+    </message>
+    <message>
+        <source>it shows more than the picture</source>
+        <translation>sie zeigt mehr als das Bild</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>
@@ -2241,6 +2389,10 @@ Keine: Bilder bleiben, wie sie sind
     <message>
         <source>Select the files that are in no PDF</source>
         <translation>Die Dateien auswählen, die in keiner PDF sind</translation>
+    </message>
+    <message>
+        <source>%1, every page checked</source>
+        <translation>%1, jede Seite geprüft</translation>
     </message>
 </context>
 </TS>

@@ -740,6 +740,14 @@ Ninguna: las imágenes quedan como están
         <source>Rea&amp;dable layout</source>
         <translation>Disposición le&amp;gible</translation>
     </message>
+    <message>
+        <source>Hold each page against its file before the PDF gets its name</source>
+        <translation>Comparar cada página con su archivo antes de que el PDF reciba su nombre</translation>
+    </message>
+    <message>
+        <source>Check every page</source>
+        <translation>Comprobar cada página</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>
@@ -1857,6 +1865,146 @@ Ninguna: las imágenes quedan como están
         <source>A document for archives cannot be encrypted</source>
         <translation>Un documento para archivos no puede cifrarse</translation>
     </message>
+    <message>
+        <source>The file has changed</source>
+        <translation>El archivo ha cambiado</translation>
+    </message>
+    <message>
+        <source>Not every page of the PDF is its source</source>
+        <translation>No todas las páginas del PDF son iguales a su origen</translation>
+    </message>
+    <message>
+        <source>All of it is in the PDF, but laid out otherwise</source>
+        <translation>Todo está en el PDF, pero dispuesto de otro modo</translation>
+    </message>
+    <message>
+        <source>The PDF has %1 pages instead of %2</source>
+        <translation>El PDF tiene %1 páginas en lugar de %2</translation>
+    </message>
+    <message>
+        <source>Page %1 of the smaller PDF is not that of the PDF: %2</source>
+        <translation>La página %1 del PDF reducido no es la del PDF: %2</translation>
+    </message>
+    <message>
+        <source>The PDF is damaged: %1</source>
+        <translation>El PDF está dañado: %1</translation>
+    </message>
+    <message>
+        <source>The PDF has fewer pages than the files</source>
+        <translation>El PDF tiene menos páginas que los archivos</translation>
+    </message>
+    <message>
+        <source>Readers would draw the form fields of the PDF otherwise</source>
+        <translation>Los lectores mostrarían de otro modo los campos de formulario del PDF</translation>
+    </message>
+    <message>
+        <source>it is no page of the source</source>
+        <translation>no es una página del origen</translation>
+    </message>
+    <message>
+        <source>a font is damaged</source>
+        <translation>una fuente está dañada</translation>
+    </message>
+    <message>
+        <source>it is of none of the files</source>
+        <translation>no es de ninguno de los archivos</translation>
+    </message>
+    <message>
+        <source>it has no picture, or more than one</source>
+        <translation>no tiene imagen, o tiene más de una</translation>
+    </message>
+    <message>
+        <source>its picture is turned otherwise</source>
+        <translation>su imagen está girada de otro modo</translation>
+    </message>
+    <message>
+        <source>its characters are not those of the text</source>
+        <translation>sus caracteres no son los del texto</translation>
+    </message>
+    <message>
+        <source>the text goes on and the PDF does not</source>
+        <translation>el texto continúa y el PDF no</translation>
+    </message>
+    <message>
+        <source>its contents are not those of the source</source>
+        <translation>su contenido no es el del origen</translation>
+    </message>
+    <message>
+        <source>its fonts or pictures are not those of the source</source>
+        <translation>sus fuentes o imágenes no son las del origen</translation>
+    </message>
+    <message>
+        <source>its links, notes or fields are not those of the source</source>
+        <translation>sus enlaces, notas o campos no son los del origen</translation>
+    </message>
+    <message>
+        <source>its size or turn is not that of the source</source>
+        <translation>su tamaño o su giro no es el del origen</translation>
+    </message>
+    <message>
+        <source>%1 is not as in the source</source>
+        <translation>%1 no es como en el origen</translation>
+    </message>
+    <message>
+        <source>the bytes of its picture are not those of the file</source>
+        <translation>los bytes de su imagen no son los del archivo</translation>
+    </message>
+    <message>
+        <source>the pixels of its picture are not those of the file</source>
+        <translation>los píxeles de su imagen no son los del archivo</translation>
+    </message>
+    <message>
+        <source>its picture has another size</source>
+        <translation>su imagen tiene otro tamaño</translation>
+    </message>
+    <message>
+        <source>its picture would be read otherwise</source>
+        <translation>su imagen se leería de otro modo</translation>
+    </message>
+    <message>
+        <source>the opacity of its picture is another</source>
+        <translation>la opacidad de su imagen es otra</translation>
+    </message>
+    <message>
+        <source>its picture stands elsewhere</source>
+        <translation>su imagen está en otro lugar</translation>
+    </message>
+    <message>
+        <source>The PDF on the disk is not what was written</source>
+        <translation>El PDF del disco no es lo que se escribió</translation>
+    </message>
+    <message>
+        <source>Page %1 of the PDF is not its source: %2</source>
+        <translation>La página %1 del PDF no es igual a su origen: %2</translation>
+    </message>
+    <message>
+        <source>the contents of a page cannot be read</source>
+        <translation>no se puede leer el contenido de una página</translation>
+    </message>
+    <message>
+        <source>its text stands elsewhere</source>
+        <translation>su texto está en otro lugar</translation>
+    </message>
+    <message>
+        <source>its header or footer is another</source>
+        <translation>su encabezado o su pie es otro</translation>
+    </message>
+    <message>
+        <source>it shows what is not in the text</source>
+        <translation>muestra lo que no está en el texto</translation>
+    </message>
+    <message>
+        <source>it has another size</source>
+        <translation>tiene otro tamaño</translation>
+    </message>
+    <message>
+        <source>it has notes that nobody made</source>
+        <translation>tiene anotaciones que nadie hizo</translation>
+    </message>
+    <message>
+        <source>it shows more than the picture</source>
+        <translation>muestra más que la imagen</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>
@@ -2241,6 +2389,10 @@ Ninguna: las imágenes quedan como están
     <message>
         <source>Select the files that are in no PDF</source>
         <translation>Seleccionar los archivos que no están en ningún PDF</translation>
+    </message>
+    <message>
+        <source>%1, every page checked</source>
+        <translation>%1, todas las páginas comprobadas</translation>
     </message>
 </context>
 </TS>

@@ -740,6 +740,14 @@ Aucune&#xa0;: les images restent telles quelles
         <source>Rea&amp;dable layout</source>
         <translation>&amp;Présentation lisible</translation>
     </message>
+    <message>
+        <source>Hold each page against its file before the PDF gets its name</source>
+        <translation>Comparer chaque page à son fichier avant que le PDF reçoive son nom</translation>
+    </message>
+    <message>
+        <source>Check every page</source>
+        <translation>Vérifier chaque page</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>
@@ -1857,6 +1865,146 @@ Aucune&#xa0;: les images restent telles quelles
         <source>A document for archives cannot be encrypted</source>
         <translation>Un document pour les archives ne peut pas être chiffré</translation>
     </message>
+    <message>
+        <source>The file has changed</source>
+        <translation>Le fichier a changé</translation>
+    </message>
+    <message>
+        <source>Not every page of the PDF is its source</source>
+        <translation>Certaines pages du PDF ne sont pas conformes à leur source</translation>
+    </message>
+    <message>
+        <source>All of it is in the PDF, but laid out otherwise</source>
+        <translation>Tout y est dans le PDF, mais disposé autrement</translation>
+    </message>
+    <message>
+        <source>The PDF has %1 pages instead of %2</source>
+        <translation>Le PDF a %1 pages au lieu de %2</translation>
+    </message>
+    <message>
+        <source>Page %1 of the smaller PDF is not that of the PDF: %2</source>
+        <translation>La page %1 du PDF réduit n’est pas celle du PDF : %2</translation>
+    </message>
+    <message>
+        <source>The PDF is damaged: %1</source>
+        <translation>Le PDF est endommagé : %1</translation>
+    </message>
+    <message>
+        <source>The PDF has fewer pages than the files</source>
+        <translation>Le PDF a moins de pages que les fichiers</translation>
+    </message>
+    <message>
+        <source>Readers would draw the form fields of the PDF otherwise</source>
+        <translation>Les lecteurs afficheraient autrement les champs de formulaire du PDF</translation>
+    </message>
+    <message>
+        <source>it is no page of the source</source>
+        <translation>elle n’est pas une page de la source</translation>
+    </message>
+    <message>
+        <source>a font is damaged</source>
+        <translation>une police est endommagée</translation>
+    </message>
+    <message>
+        <source>it is of none of the files</source>
+        <translation>elle ne vient d’aucun des fichiers</translation>
+    </message>
+    <message>
+        <source>it has no picture, or more than one</source>
+        <translation>elle n’a pas d’image, ou en a plusieurs</translation>
+    </message>
+    <message>
+        <source>its picture is turned otherwise</source>
+        <translation>son image est tournée autrement</translation>
+    </message>
+    <message>
+        <source>its characters are not those of the text</source>
+        <translation>ses caractères ne sont pas ceux du texte</translation>
+    </message>
+    <message>
+        <source>the text goes on and the PDF does not</source>
+        <translation>le texte continue et le PDF non</translation>
+    </message>
+    <message>
+        <source>its contents are not those of the source</source>
+        <translation>son contenu n’est pas celui de la source</translation>
+    </message>
+    <message>
+        <source>its fonts or pictures are not those of the source</source>
+        <translation>ses polices ou ses images ne sont pas celles de la source</translation>
+    </message>
+    <message>
+        <source>its links, notes or fields are not those of the source</source>
+        <translation>ses liens, annotations ou champs ne sont pas ceux de la source</translation>
+    </message>
+    <message>
+        <source>its size or turn is not that of the source</source>
+        <translation>sa taille ou sa rotation n’est pas celle de la source</translation>
+    </message>
+    <message>
+        <source>%1 is not as in the source</source>
+        <translation>%1 n’est pas comme dans la source</translation>
+    </message>
+    <message>
+        <source>the bytes of its picture are not those of the file</source>
+        <translation>les octets de son image ne sont pas ceux du fichier</translation>
+    </message>
+    <message>
+        <source>the pixels of its picture are not those of the file</source>
+        <translation>les pixels de son image ne sont pas ceux du fichier</translation>
+    </message>
+    <message>
+        <source>its picture has another size</source>
+        <translation>son image a une autre taille</translation>
+    </message>
+    <message>
+        <source>its picture would be read otherwise</source>
+        <translation>son image serait lue autrement</translation>
+    </message>
+    <message>
+        <source>the opacity of its picture is another</source>
+        <translation>l’opacité de son image est autre</translation>
+    </message>
+    <message>
+        <source>its picture stands elsewhere</source>
+        <translation>son image est ailleurs</translation>
+    </message>
+    <message>
+        <source>The PDF on the disk is not what was written</source>
+        <translation>Le PDF sur le disque n’est pas ce qui a été écrit</translation>
+    </message>
+    <message>
+        <source>Page %1 of the PDF is not its source: %2</source>
+        <translation>La page %1 du PDF n’est pas conforme à sa source : %2</translation>
+    </message>
+    <message>
+        <source>the contents of a page cannot be read</source>
+        <translation>le contenu d’une page est illisible</translation>
+    </message>
+    <message>
+        <source>its text stands elsewhere</source>
+        <translation>son texte est ailleurs</translation>
+    </message>
+    <message>
+        <source>its header or footer is another</source>
+        <translation>son en-tête ou son pied de page est autre</translation>
+    </message>
+    <message>
+        <source>it shows what is not in the text</source>
+        <translation>elle montre ce qui n’est pas dans le texte</translation>
+    </message>
+    <message>
+        <source>it has another size</source>
+        <translation>elle a une autre taille</translation>
+    </message>
+    <message>
+        <source>it has notes that nobody made</source>
+        <translation>elle a des annotations que personne n’a faites</translation>
+    </message>
+    <message>
+        <source>it shows more than the picture</source>
+        <translation>elle montre plus que l’image</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>
@@ -2241,6 +2389,10 @@ Aucune&#xa0;: les images restent telles quelles
     <message>
         <source>Select the files that are in no PDF</source>
         <translation>Sélectionner les fichiers qui ne sont dans aucun PDF</translation>
+    </message>
+    <message>
+        <source>%1, every page checked</source>
+        <translation>%1, chaque page vérifiée</translation>
     </message>
 </context>
 </TS>

@@ -739,6 +739,14 @@ None: pictures stay as they are
         <source>Rea&amp;dable layout</source>
         <translation>読みやすいレイアウト(&amp;D)</translation>
     </message>
+    <message>
+        <source>Hold each page against its file before the PDF gets its name</source>
+        <translation>PDF に名前を付ける前に、各ページを元のファイルと比べます</translation>
+    </message>
+    <message>
+        <source>Check every page</source>
+        <translation>すべてのページを確認</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>
@@ -1829,6 +1837,146 @@ None: pictures stay as they are
         <source>A document for archives cannot be encrypted</source>
         <translation>保存用の文書は暗号化できません</translation>
     </message>
+    <message>
+        <source>The file has changed</source>
+        <translation>ファイルが変更されました</translation>
+    </message>
+    <message>
+        <source>Not every page of the PDF is its source</source>
+        <translation>PDF の一部のページが元のものと一致しません</translation>
+    </message>
+    <message>
+        <source>All of it is in the PDF, but laid out otherwise</source>
+        <translation>すべて PDF にありますが、配置が違います</translation>
+    </message>
+    <message>
+        <source>The PDF has %1 pages instead of %2</source>
+        <translation>PDF のページ数が %2 ではなく %1 です</translation>
+    </message>
+    <message>
+        <source>Page %1 of the smaller PDF is not that of the PDF: %2</source>
+        <translation>小さくした PDF の %1 ページが元の PDF と一致しません: %2</translation>
+    </message>
+    <message>
+        <source>The PDF is damaged: %1</source>
+        <translation>PDF が壊れています: %1</translation>
+    </message>
+    <message>
+        <source>The PDF has fewer pages than the files</source>
+        <translation>PDF のページがファイルより少ないです</translation>
+    </message>
+    <message>
+        <source>Readers would draw the form fields of the PDF otherwise</source>
+        <translation>PDF のフォームフィールドの表示が変わってしまいます</translation>
+    </message>
+    <message>
+        <source>it is no page of the source</source>
+        <translation>元のページではありません</translation>
+    </message>
+    <message>
+        <source>a font is damaged</source>
+        <translation>フォントが壊れています</translation>
+    </message>
+    <message>
+        <source>it is of none of the files</source>
+        <translation>どのファイルのページでもありません</translation>
+    </message>
+    <message>
+        <source>it has no picture, or more than one</source>
+        <translation>画像がないか、複数あります</translation>
+    </message>
+    <message>
+        <source>its picture is turned otherwise</source>
+        <translation>画像の向きが違います</translation>
+    </message>
+    <message>
+        <source>its characters are not those of the text</source>
+        <translation>文字がテキストと違います</translation>
+    </message>
+    <message>
+        <source>the text goes on and the PDF does not</source>
+        <translation>テキストは続いていますが、PDF は終わっています</translation>
+    </message>
+    <message>
+        <source>its contents are not those of the source</source>
+        <translation>内容が元のものと違います</translation>
+    </message>
+    <message>
+        <source>its fonts or pictures are not those of the source</source>
+        <translation>フォントか画像が元のものと違います</translation>
+    </message>
+    <message>
+        <source>its links, notes or fields are not those of the source</source>
+        <translation>リンク、注釈、フィールドのいずれかが元のものと違います</translation>
+    </message>
+    <message>
+        <source>its size or turn is not that of the source</source>
+        <translation>大きさか向きが元のものと違います</translation>
+    </message>
+    <message>
+        <source>%1 is not as in the source</source>
+        <translation>%1 が元のものと違います</translation>
+    </message>
+    <message>
+        <source>the bytes of its picture are not those of the file</source>
+        <translation>画像のバイトがファイルと違います</translation>
+    </message>
+    <message>
+        <source>the pixels of its picture are not those of the file</source>
+        <translation>画像のピクセルがファイルと違います</translation>
+    </message>
+    <message>
+        <source>its picture has another size</source>
+        <translation>画像の大きさが違います</translation>
+    </message>
+    <message>
+        <source>its picture would be read otherwise</source>
+        <translation>画像の読まれ方が変わります</translation>
+    </message>
+    <message>
+        <source>the opacity of its picture is another</source>
+        <translation>画像の不透明度が違います</translation>
+    </message>
+    <message>
+        <source>its picture stands elsewhere</source>
+        <translation>画像の位置が違います</translation>
+    </message>
+    <message>
+        <source>The PDF on the disk is not what was written</source>
+        <translation>ディスク上の PDF が書き込んだ内容と違います</translation>
+    </message>
+    <message>
+        <source>Page %1 of the PDF is not its source: %2</source>
+        <translation>PDF の %1 ページが元のものと一致しません: %2</translation>
+    </message>
+    <message>
+        <source>the contents of a page cannot be read</source>
+        <translation>ページの内容を読み取れません</translation>
+    </message>
+    <message>
+        <source>its text stands elsewhere</source>
+        <translation>テキストの位置が違います</translation>
+    </message>
+    <message>
+        <source>its header or footer is another</source>
+        <translation>ヘッダーかフッターが違います</translation>
+    </message>
+    <message>
+        <source>it shows what is not in the text</source>
+        <translation>テキストにないものがあります</translation>
+    </message>
+    <message>
+        <source>it has another size</source>
+        <translation>大きさが違います</translation>
+    </message>
+    <message>
+        <source>it has notes that nobody made</source>
+        <translation>元にない注釈があります</translation>
+    </message>
+    <message>
+        <source>it shows more than the picture</source>
+        <translation>画像以外のものがあります</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>
@@ -2209,6 +2357,10 @@ None: pictures stay as they are
     <message>
         <source>Select the files that are in no PDF</source>
         <translation>どの PDF にも含まれていないファイルを選択します</translation>
+    </message>
+    <message>
+        <source>%1, every page checked</source>
+        <translation>%1、すべてのページを確認済み</translation>
     </message>
 </context>
 </TS>

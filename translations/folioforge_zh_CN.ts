@@ -739,6 +739,14 @@ None: pictures stay as they are
         <source>Rea&amp;dable layout</source>
         <translation>易读排版(&amp;D)</translation>
     </message>
+    <message>
+        <source>Hold each page against its file before the PDF gets its name</source>
+        <translation>在 PDF 获得文件名之前，将每一页与其文件核对</translation>
+    </message>
+    <message>
+        <source>Check every page</source>
+        <translation>检查每一页</translation>
+    </message>
 </context>
 <context>
     <name>Notice</name>
@@ -1829,6 +1837,146 @@ None: pictures stay as they are
         <source>A document for archives cannot be encrypted</source>
         <translation>用于存档的文档不能加密</translation>
     </message>
+    <message>
+        <source>The file has changed</source>
+        <translation>文件已更改</translation>
+    </message>
+    <message>
+        <source>Not every page of the PDF is its source</source>
+        <translation>PDF 中有页面与其来源不一致</translation>
+    </message>
+    <message>
+        <source>All of it is in the PDF, but laid out otherwise</source>
+        <translation>全部内容都在 PDF 中，但排版不同</translation>
+    </message>
+    <message>
+        <source>The PDF has %1 pages instead of %2</source>
+        <translation>PDF 有 %1 页，而不是 %2 页</translation>
+    </message>
+    <message>
+        <source>Page %1 of the smaller PDF is not that of the PDF: %2</source>
+        <translation>压缩后的 PDF 第 %1 页与原 PDF 不一致：%2</translation>
+    </message>
+    <message>
+        <source>The PDF is damaged: %1</source>
+        <translation>PDF 已损坏：%1</translation>
+    </message>
+    <message>
+        <source>The PDF has fewer pages than the files</source>
+        <translation>PDF 的页数少于文件的页数</translation>
+    </message>
+    <message>
+        <source>Readers would draw the form fields of the PDF otherwise</source>
+        <translation>阅读器会以不同方式显示 PDF 的表单字段</translation>
+    </message>
+    <message>
+        <source>it is no page of the source</source>
+        <translation>不是来源中的页面</translation>
+    </message>
+    <message>
+        <source>a font is damaged</source>
+        <translation>字体已损坏</translation>
+    </message>
+    <message>
+        <source>it is of none of the files</source>
+        <translation>不属于任何一个文件</translation>
+    </message>
+    <message>
+        <source>it has no picture, or more than one</source>
+        <translation>没有图片或有多张图片</translation>
+    </message>
+    <message>
+        <source>its picture is turned otherwise</source>
+        <translation>图片的方向不同</translation>
+    </message>
+    <message>
+        <source>its characters are not those of the text</source>
+        <translation>字符与文本不同</translation>
+    </message>
+    <message>
+        <source>the text goes on and the PDF does not</source>
+        <translation>文本还有内容，而 PDF 已结束</translation>
+    </message>
+    <message>
+        <source>its contents are not those of the source</source>
+        <translation>内容与来源不同</translation>
+    </message>
+    <message>
+        <source>its fonts or pictures are not those of the source</source>
+        <translation>字体或图片与来源不同</translation>
+    </message>
+    <message>
+        <source>its links, notes or fields are not those of the source</source>
+        <translation>链接、批注或字段与来源不同</translation>
+    </message>
+    <message>
+        <source>its size or turn is not that of the source</source>
+        <translation>尺寸或方向与来源不同</translation>
+    </message>
+    <message>
+        <source>%1 is not as in the source</source>
+        <translation>%1 与来源不同</translation>
+    </message>
+    <message>
+        <source>the bytes of its picture are not those of the file</source>
+        <translation>图片的字节与文件不同</translation>
+    </message>
+    <message>
+        <source>the pixels of its picture are not those of the file</source>
+        <translation>图片的像素与文件不同</translation>
+    </message>
+    <message>
+        <source>its picture has another size</source>
+        <translation>图片尺寸不同</translation>
+    </message>
+    <message>
+        <source>its picture would be read otherwise</source>
+        <translation>图片会被读成别的样子</translation>
+    </message>
+    <message>
+        <source>the opacity of its picture is another</source>
+        <translation>图片的不透明度不同</translation>
+    </message>
+    <message>
+        <source>its picture stands elsewhere</source>
+        <translation>图片的位置不同</translation>
+    </message>
+    <message>
+        <source>The PDF on the disk is not what was written</source>
+        <translation>磁盘上的 PDF 与写入的内容不同</translation>
+    </message>
+    <message>
+        <source>Page %1 of the PDF is not its source: %2</source>
+        <translation>PDF 的第 %1 页与其来源不一致：%2</translation>
+    </message>
+    <message>
+        <source>the contents of a page cannot be read</source>
+        <translation>无法读取页面的内容</translation>
+    </message>
+    <message>
+        <source>its text stands elsewhere</source>
+        <translation>文本的位置不同</translation>
+    </message>
+    <message>
+        <source>its header or footer is another</source>
+        <translation>页眉或页脚不同</translation>
+    </message>
+    <message>
+        <source>it shows what is not in the text</source>
+        <translation>显示了文本中没有的内容</translation>
+    </message>
+    <message>
+        <source>it has another size</source>
+        <translation>尺寸不同</translation>
+    </message>
+    <message>
+        <source>it has notes that nobody made</source>
+        <translation>有来源中没有的批注</translation>
+    </message>
+    <message>
+        <source>it shows more than the picture</source>
+        <translation>显示的不只是图片</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>
@@ -2209,6 +2357,10 @@ None: pictures stay as they are
     <message>
         <source>Select the files that are in no PDF</source>
         <translation>选择未包含在任何 PDF 中的文件</translation>
+    </message>
+    <message>
+        <source>%1, every page checked</source>
+        <translation>%1，每一页均已检查</translation>
     </message>
 </context>
 </TS>

@@ -5,6 +5,8 @@
 #include "cli/OptionTable.h"
 #include "cli/OptionValues.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <utility>
 
@@ -68,6 +70,8 @@ class ArgumentReader {
         const QByteArray value = option.kind == Option::Switch ? QByteArray()
                                  : equals < 0                  ? takeValueOf(name)
                                                                : argument.sliced(equals + 1);
+        m_result.given += QString::fromUtf8(
+            option.kind == Option::Switch ? name : name + '=' + value);
         const qsizetype rounded = m_result.rounded.size();
         try {
             option.apply(m_result, value);
@@ -86,9 +90,33 @@ class ArgumentReader {
         if (m_folderGiven && options.merge) {
             throw ArgumentFault(u"--output-folder and --merge cannot be used together"_s);
         }
+        m_result.mayReplaceManifest = options.overwrite != Overwrite::Never;
+        if (!options.verifyOnly.isEmpty()) {
+            completeVerified();
+        }
         if (!m_folderGiven && options.outputFolder.isEmpty()) {
             options.outputFolder = u"."_s;
         }
+    }
+
+    /// To hold a PDF against inputs is a dry run of their merge.
+    void completeVerified() {
+        ConversionOptions &options = m_result.options;
+        if (m_folderGiven || options.merge || options.verify) {
+            throw ArgumentFault(u"--verify-only writes no PDF: it goes with none of --merge, "
+                                "--output-folder and --verify"_s);
+        }
+        const QFileInfo file(options.verifyOnly);
+        options.merge = true;
+        options.dryRun = true;
+        options.overwrite = Overwrite::Always;
+        options.outputFolder = file.path();
+        options.outputName = file.fileName();
+    }
+
+    /// Whether no PDF is written nor held against its inputs.
+    static bool isDryRun(const ConversionOptions &options) {
+        return options.dryRun && options.verifyOnly.isEmpty();
     }
 
     /// Throws ArgumentFault where options do not go together, or have nothing to do.
@@ -100,6 +128,10 @@ class ArgumentReader {
         }
         if (m_result.toStandardOutput && options.dryRun) {
             throw ArgumentFault(u"--dry-run writes no PDF to standard output; merge into a file"_s);
+        }
+        if (!m_result.manifest.isEmpty() && (m_result.toStandardOutput || isDryRun(options))) {
+            throw ArgumentFault(u"--manifest tells of PDFs in files: it goes with neither \"--merge -\" "
+                                "nor --dry-run"_s);
         }
         if (m_result.bookmarkTitleFile && !hasThoseOfFiles(options.bookmarks)) {
             throw ArgumentFault(u"--bookmark-titles needs --bookmarks files or both"_s);

@@ -69,6 +69,9 @@ struct Arguments {
     bool toStandardOutput = false; ///< The merged PDF; `options` then name no place for it.
     ProgressMode progress = ProgressMode::Auto;
     int jobs = 1; ///< How many PDFs are made at once.
+    QString manifest;                ///< The file of --manifest; empty for none.
+    bool mayReplaceManifest = false; ///< --overwrite allows it.
+    QStringList given;               ///< The options as they were given.
     bool json = false;
     bool quiet = false;
     bool strict = false;                           ///< A warning counts as a failure.

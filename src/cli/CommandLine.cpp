@@ -6,6 +6,7 @@
 #include "cli/ArchiveArguments.h"
 #include "cli/Console.h"
 #include "cli/Inputs.h"
+#include "cli/Manifest.h"
 #include "cli/OptionValues.h"
 #include "cli/PipedInputs.h"
 #include "cli/Process.h"
@@ -70,6 +71,8 @@ class Call : private RunObserver {
         for (Input &input : inputs) {
             m_names.push_back(input.shown);
             m_files.push_back(input.read.entry.filePathName());
+            m_dates.push_back(m_arguments.manifest.isEmpty() ? std::nullopt
+                                                             : datesOf(m_files.back()));
             entries.push_back(std::move(input.read.entry));
         }
         if (!m_arguments.quiet) {
@@ -116,15 +119,17 @@ class Call : private RunObserver {
     }
 
     void reportEntries(const RunResult &result) {
-        const bool hasTarget =
-            m_arguments.json && !m_arguments.options.dryRun && result.outcome.isWritten();
+        const bool isAsked = m_arguments.json || !m_arguments.manifest.isEmpty();
+        const bool isThere =
+            !m_arguments.options.dryRun || !m_arguments.options.verifyOnly.isEmpty();
+        const bool hasTarget = isAsked && isThere && result.outcome.isWritten();
         const auto target = hasTarget ? digestOf(result.outcome.close.path) : std::nullopt;
         for (std::size_t i = 0; i < result.outcome.entries.size(); ++i) {
             const std::size_t index = result.firstEntry + i;
             m_reported = index + 1;
             InputResult own = InputResult::of(m_names[index], result, i);
             own.target = own.output.isEmpty() ? std::nullopt : target;
-            m_teller.report(index, m_files[index], std::move(own));
+            m_teller.report(index, m_files[index], std::move(own), m_dates[index]);
         }
     }
 
@@ -134,6 +139,7 @@ class Call : private RunObserver {
     ResultTeller m_teller;
     std::vector<QString> m_names; ///< Of the inputs, as they were given.
     std::vector<QString> m_files; ///< Where they are.
+    std::vector<std::optional<FileDates>> m_dates; ///< Of them, where a manifest is asked for.
     std::size_t m_reported = 0;   ///< How many entries are.
     ProgressLine m_progress;
     ReadableLinks m_readableLinks{m_temporaryFolder}; ///< Outlives the inputs that lead through it.
@@ -163,7 +169,9 @@ ExitStatus runConversion(Arguments arguments) {
         prepareText(arguments);
         prepareTags(arguments);
         prepareArchive(arguments);
-        prepareOutputFolder(arguments.options);
+        if (arguments.options.verifyOnly.isEmpty()) {
+            prepareOutputFolder(arguments.options);
+        }
     } catch (const ArgumentFault &fault) {
         console.complain(fault.text());
         return WrongUsage;

@@ -53,6 +53,7 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
     own.input = input;
     own.reason = entry.reason;
     own.warnings = entry.warnings;
+    own.verification = entry.verification;
     if (entry.written && close.status == CloseResult::Status::Written) {
         own.output = close.path;
         own.pages = entry.pages;
@@ -60,7 +61,13 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
         own.seconds = entry.seconds;
         own.outputSeconds = result.seconds;
         own.pageSize = entry.pageSize;
-        own.state = entry.pageSize.isValid() ? State::Planned : State::Finished;
+        own.state = !entry.pageSize.isValid() ? State::Finished
+                    : entry.verification         ? State::Verified
+                                                 : State::Planned;
+        if (own.state == State::Verified) {
+            own.pages = static_cast<int>(entry.verification->pages.size());
+            own.firstPage = entry.verification->firstPage + 1;
+        }
         own.archive = close.archive;
         own.embedded = entry.embeddedAs;
         own.parts = entry.parts;
@@ -86,6 +93,12 @@ QString InputResult::plan() const {
     }
     if (pages == 0) {
         return input + u": no page"_s;
+    }
+    if (state == State::Verified) {
+        return pages == 1 ? u"%1: page %2 is its source"_s.arg(input).arg(firstPage)
+                          : u"%1: pages %2 to %3 are their source"_s.arg(input)
+                                .arg(firstPage)
+                                .arg(firstPage + pages - 1);
     }
     return u"%1: %2 of %3 x %4 points"_s
         .arg(input, pages == 1 ? u"1 page"_s : u"%1 pages, the first"_s.arg(pages))

@@ -7,6 +7,7 @@
 #include "error/Warning.h"
 #include "image/PdfImage.h"
 
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -22,10 +23,13 @@ struct InputResult {
         Rejected, ///< It did not enter the list.
         Kept,     ///< The PDF under its name is not older and stays.
         Planned,  ///< Its pages would stand in `output`: of a dry run.
-        Listed    ///< A folder whose files stand for it.
+        Listed,   ///< A folder whose files stand for it.
+        Verified  ///< Its pages in `output`, which was there, are it.
     };
     QString input;
     std::optional<FileDigest> source; ///< Only of the report, like `target`.
+    QDateTime modified;               ///< With a manifest alone, like the next.
+    QDateTime created;                ///< Where the file system keeps it.
     QString output;                   ///< Path of its PDF; empty where there is none.
     std::optional<FileDigest> target; ///< What the PDF at `output` holds.
     int firstPage = 0;                ///< Of its PDF, from 1; 0 without a page.
@@ -39,6 +43,7 @@ struct InputResult {
     QString archive; ///< The standard for archives that its PDF claims; empty for none.
     std::optional<EmbeddedAs> embedded;
     std::optional<DocumentParts> parts;            ///< Of a PDF that is written.
+    std::optional<EntryVerification> verification; ///< What came of holding it against its pages.
     std::optional<CompressionOutcome> compression; ///< What the compression pass did to its PDF.
 
     /// The result of an input that did not enter the list for `reason`.

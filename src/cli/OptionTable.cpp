@@ -43,6 +43,23 @@ void takeMergePath(const QString &path, Arguments &to) {
     options.outputFolder = slash < 0 ? u"."_s : path.first(std::max<qsizetype>(slash, 1));
 }
 
+/// The name of a file to be written. Throws ArgumentFault where it is none.
+QString parseNewFile(const QString &path) {
+    const QString name = path.sliced(path.lastIndexOf(u'/') + 1);
+    if (name.isEmpty() || isNameOfFolder(name)) {
+        throw ArgumentFault(u"\"%1\" is no name of a file"_s.arg(path));
+    }
+    return path;
+}
+
+/// What is held against the inputs: a dry run of a merge is.
+void takeVerifiedPath(const QString &path, Arguments &to) {
+    if (path.isEmpty()) {
+        throw ArgumentFault(u"\"\" is no name of a PDF"_s);
+    }
+    to.options.verifyOnly = path;
+}
+
 /// Takes "none", a filter of the window or "DPI:QUALITY", the second where it is wanted. Throws
 /// ArgumentFault.
 void takeCompression(const QString &text, ConversionOptions &options) {
@@ -130,6 +147,9 @@ const std::vector<Option> &outputOptions() {
                                  {QLatin1StringView("older"), Overwrite::Older},
                                  {QLatin1StringView("always"), Overwrite::Always}});
          }},
+        {"--verify", Option::Switch, [](Arguments &to, Value) { to.options.verify = true; }},
+        {"--verify-only", Option::Valued,
+         [](Arguments &to, Value value) { takeVerifiedPath(textOf(value), to); }},
         {"--dry-run", Option::Switch, [](Arguments &to, Value) { to.options.dryRun = true; }},
         {"--jobs", Option::Valued,
          [](Arguments &to, Value value) { to.jobs = parseWhole(textOf(value), 1, kMostJobs); }},
@@ -241,6 +261,8 @@ const std::vector<Option> &reportOptions() {
                                  {QLatin1StringView("never"), ProgressMode::Never}});
          }},
         {"--json", Option::Switch, [](Arguments &to, Value) { to.json = true; }},
+        {"--manifest", Option::Valued,
+         [](Arguments &to, Value value) { to.manifest = parseNewFile(textOf(value)); }},
         {"--quiet", Option::Switch, [](Arguments &to, Value) { to.quiet = true; }},
         {"--strict", Option::Switch, [](Arguments &to, Value) { to.strict = true; }},
         {"--completion", Option::Valued,

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -32,6 +33,8 @@ QString nameOf(InputResult::State state) {
         return u"planned"_s;
     case InputResult::State::Listed:
         return u"listed"_s;
+    case InputResult::State::Verified:
+        return u"verified"_s;
     case InputResult::State::Rejected:
         break;
     }
@@ -68,6 +71,46 @@ QJsonObject toJson(const PartCounts &parts) {
         object.insert(nameOf(kind), static_cast<qint64>(count));
     }
     return object;
+}
+
+QString nameOf(PageProof proof) {
+    switch (proof) {
+    case PageProof::Bytes:
+        return u"bytes"_s;
+    case PageProof::Pixels:
+        return u"pixels"_s;
+    case PageProof::Characters:
+        return u"characters"_s;
+    case PageProof::Objects:
+        return u"objects"_s;
+    case PageProof::Likeness:
+        return u"likeness"_s;
+    case PageProof::Differs:
+        break;
+    }
+    return u"differs"_s;
+}
+
+/// Runs of pages that were shown alike; each page that differs by itself, as far as it has a reason.
+QJsonArray toJson(const EntryVerification &verification) {
+    QJsonArray runs;
+    const auto &pages = verification.pages;
+    auto fault = verification.faults.begin();
+    for (std::size_t first = 0, end = 0; first < pages.size(); first = end) {
+        const int number = verification.firstPage + 1 + static_cast<int>(first);
+        const bool hasReason = fault != verification.faults.end() && fault->page == number;
+        for (end = first + 1; !hasReason && end < pages.size() && pages[end] == pages[first];) {
+            ++end;
+        }
+        QJsonObject run{{u"first"_s, number},
+                        {u"last"_s, number + static_cast<int>(end - first) - 1},
+                        {u"by"_s, nameOf(pages[first])}};
+        if (hasReason) {
+            run.insert(u"reason"_s, (fault++)->reason);
+        }
+        runs.append(run);
+    }
+    return runs;
 }
 
 QByteArray escapedUnits(const QString &text) {
@@ -126,14 +169,37 @@ QByteArray toLine(const QJsonObject &object) {
     return escaped(QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)));
 }
 
+/// The version of a format, that of the program and those of its libraries.
+QJsonObject headOf(int version) {
+    QJsonObject libraries;
+    for (const auto &[library, number] : libraryVersions()) {
+        libraries.insert(library, number);
+    }
+    return {{u"version"_s, version}, {u"tool"_s, toolVersion()}, {u"libraries"_s, libraries}};
+}
+
+/// To the millisecond, as far as dates are kept.
+QString toText(const QDateTime &date) {
+    return date.toUTC().toString(Qt::ISODateWithMs);
+}
+
 } // namespace
 
+QByteArray manifestHead(const QStringList &options, const QDateTime &created) {
+    QJsonObject head = headOf(1);
+    head.insert(u"created"_s, toText(created));
+    head.insert(u"options"_s, QJsonArray::fromStringList(options));
+    return toLine(head);
+}
+
+QByteArray toJson(const QString &file, const FileDigest &digest) {
+    return toLine({{u"file"_s, file},
+                   {u"bytes"_s, digest.bytes},
+                   {u"sha256"_s, QString::fromLatin1(digest.sha256)}});
+}
+
 QByteArray reportHead(const QStringList &rounded) {
-    QJsonObject libraries;
-    for (const auto &[library, version] : libraryVersions()) {
-        libraries.insert(library, version);
-    }
-    QJsonObject head{{u"version"_s, 1}, {u"tool"_s, toolVersion()}, {u"libraries"_s, libraries}};
+    QJsonObject head = headOf(1);
     if (!rounded.isEmpty()) {
         head.insert(u"rounded"_s, QJsonArray::fromStringList(rounded));
     }
@@ -148,6 +214,12 @@ QByteArray toJson(const InputResult &result) {
         {u"state"_s, nameOf(result.state)}};
     addTo(object, result.source, u"bytes"_s, u"sha256"_s);
     addTo(object, result.target, u"outputBytes"_s, u"outputSha256"_s);
+    for (const auto &[key, date] : {std::pair(u"modified"_s, result.modified),
+                                    std::pair(u"created"_s, result.created)}) {
+        if (date.isValid()) {
+            object.insert(key, toText(date));
+        }
+    }
     if (result.firstPage > 0) {
         object.insert(u"firstPage"_s, result.firstPage);
     }
@@ -171,6 +243,9 @@ QByteArray toJson(const InputResult &result) {
     if (result.parts) {
         object.insert(u"carried"_s, toJson(result.parts->carried));
         object.insert(u"left"_s, toJson(result.parts->left));
+    }
+    if (result.verification) {
+        object.insert(u"verified"_s, toJson(*result.verification));
     }
     if (result.compression && result.compression->error.isEmpty()) {
         addTo(object, *result.compression);

@@ -7,6 +7,7 @@
 #include "error/Error.h"
 #include "files/Printable.h"
 
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +20,9 @@ ResultTeller::ResultTeller(const Arguments &arguments, Console &console)
     if (m_arguments.json) {
         m_console.result(reportHead(m_arguments.rounded));
     }
+    if (!m_arguments.manifest.isEmpty()) {
+        m_manifest.emplace(m_arguments);
+    }
 }
 
 void ResultTeller::setAside(std::size_t place, const InputResult &result) {
@@ -26,16 +30,43 @@ void ResultTeller::setAside(std::size_t place, const InputResult &result) {
     if (m_arguments.json) {
         m_aside.emplace_back(place, toJson(result));
     }
+    if (m_manifest) {
+        m_manifest->add(result);
+    }
 }
 
-void ResultTeller::report(std::size_t index, const QString &path, InputResult result) {
+/// The digest of the bytes that were used: a file that has changed since has none.
+void ResultTeller::addDigest(const QString &path, InputResult &result,
+                             const std::optional<FileDates> &dates) {
+    if (!m_arguments.json && !m_manifest) {
+        return;
+    }
+    result.source = digestOf(path);
+    const auto now = dates ? datesOf(path) : std::nullopt;
+    if (m_manifest && dates && (!now || now->version != dates->version)) {
+        result.source.reset();
+        fail(u"%1: It changed while it was converted, so the manifest has no checksum of it"_s.arg(
+            printable(result.input)));
+    } else if (m_manifest && dates) {
+        constexpr qint64 kNanosOfAMillisecond = 1'000'000;
+        result.modified = QDateTime::fromMSecsSinceEpoch(dates->version.modifiedNanos /
+                                                         kNanosOfAMillisecond);
+        result.created = dates->created;
+    }
+}
+
+void ResultTeller::report(std::size_t index, const QString &path, InputResult result,
+                          const std::optional<FileDates> &dates) {
     tell(result);
+    addDigest(path, result, dates);
+    if (m_manifest) {
+        m_manifest->add(result);
+    }
     if (m_arguments.json) {
-        result.source = digestOf(path);
         writeLinesBefore(index + 1);
         m_console.result(toJson(result));
     } else if (m_arguments.options.dryRun && !m_arguments.quiet && !result.output.isEmpty()) {
-        const bool isUnderItsPdf = result.state == InputResult::State::Planned;
+        const bool isUnderItsPdf = result.state != InputResult::State::Kept;
         m_console.result((isUnderItsPdf ? "  " : "") + printable(result.plan()).toUtf8());
     }
 }
@@ -46,7 +77,10 @@ void ResultTeller::tellOfPDF(const RunResult &result) {
         fail(u"%1: not compressed: %2"_s.arg(printable(result.outcome.close.path),
                                              compression->error));
     }
-    if (result.outcome.isWritten()) {
+    const auto &entries = result.outcome.entries;
+    const bool isSaid = m_arguments.options.verifyOnly.isEmpty() ||
+                        std::ranges::all_of(entries, &EntryOutcome::written);
+    if (result.outcome.isWritten() && isSaid) {
         handOver(result);
     }
 }
@@ -58,8 +92,20 @@ void ResultTeller::fail(const QString &message, ExitStatus status) {
 
 void ResultTeller::finish() {
     writeLinesBefore(std::numeric_limits<std::size_t>::max());
+    writeManifest();
     if (!m_console.finishResults()) {
         raise(SomeFailed);
+    }
+}
+
+void ResultTeller::writeManifest() {
+    if (!m_manifest) {
+        return;
+    }
+    try {
+        m_manifest->write();
+    } catch (const Error &error) {
+        fail(u"--manifest: "_s + error.reason());
     }
 }
 

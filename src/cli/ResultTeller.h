@@ -6,11 +6,13 @@
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/InputResult.h"
+#include "cli/Manifest.h"
 
 #include <QByteArray>
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -27,7 +29,8 @@ class ResultTeller {
     /// `place`.
     void setAside(std::size_t place, const InputResult &result);
     /// Tells of the entry `index`, whose source stands at `path`.
-    void report(std::size_t index, const QString &path, InputResult result);
+    void report(std::size_t index, const QString &path, InputResult result,
+                const std::optional<FileDates> &dates = {});
     /// Names a PDF that is made, or writes it, and says what its compression saved.
     void tellOfPDF(const RunResult &result);
     /// Something went wrong that no input answers for.
@@ -41,6 +44,8 @@ class ResultTeller {
     void tell(const InputResult &result);
     void handOver(const RunResult &result);
     void writeLinesBefore(std::size_t end);
+    void addDigest(const QString &path, InputResult &result, const std::optional<FileDates> &dates);
+    void writeManifest();
 
     const Arguments &m_arguments;
     Console &m_console;
@@ -48,6 +53,7 @@ class ResultTeller {
     /// before.
     std::vector<std::pair<std::size_t, QByteArray>> m_aside;
     std::size_t m_asideWritten = 0;
+    std::optional<Manifest> m_manifest;
     ExitStatus m_status = AllConverted;
 };
 

@@ -125,6 +125,11 @@ std::optional<QString> settingsFault(const Arguments &arguments) {
             return inWordsOf("--image-margins"_L1, *found, image.margins, getImagePageSize(image));
         }
     }
+    if (!arguments.manifest.isEmpty() && !arguments.mayReplaceManifest &&
+        isNameTaken(arguments.manifest)) {
+        return u"--manifest: %1 exists; take another name, or --overwrite"_s.arg(
+            quoted(arguments.manifest));
+    }
     const bool refused = options.overwrite == Overwrite::Never && checkMergedFile(options);
     return refused ? std::optional(nameTakenFault(options)) : std::nullopt;
 }

@@ -4,6 +4,7 @@
 
 #include "convert/PageWriters.h"
 #include "convert/SourceType.h"
+#include "convert/Verifying.h"
 #include "error/Error.h"
 #include "error/Reasons.h"
 #include "files/SourceFile.h"
@@ -39,7 +40,7 @@ template<typename Step> QString reasonOfFailure(Step &&step) {
 }
 
 void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
-              const std::stop_token &stop, EntryOutcome &outcome) {
+              const std::stop_token &stop, EntryOutcome &outcome, EntryRecord *record) {
     const PDFContext::Mark before = context.mark();
     const FileVersion file = options.archive && options.archive->embedSources
                                  ? FileVersion::of(entry.filePathName())
@@ -49,10 +50,10 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
     }
     switch (entry.kind()) {
     case FileKind::Text:
-        outcome.warnings = addTextPage(entry, context, options, stop);
+        outcome.warnings = addTextPage(entry, context, options, stop, record);
         break;
     case FileKind::Pdf: {
-        AddedDocument document = addPDFFile(entry, context);
+        AddedDocument document = addPDFFile(entry, context, record);
         outcome.parts = std::move(document.parts);
         outcome.warnings = std::move(document.warnings);
         break;
@@ -60,7 +61,7 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
     case FileKind::Image:
     case FileKind::FurtherImage:
     case FileKind::Other: {
-        WrittenImage image = addImagePages(entry, context, options);
+        WrittenImage image = addImagePages(entry, context, options, record);
         outcome.embeddedAs = image.embeddedAs;
         outcome.warnings = std::move(image.warnings);
         break;
@@ -76,20 +77,27 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
 }
 
 EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
-                        const ConversionOptions &options, const std::stop_token &stop) {
+                        const ConversionOptions &options, const std::stop_token &stop,
+                        EntryRecord &record) {
     QElapsedTimer timer;
     timer.start();
     EntryOutcome outcome;
     const PDFContext::Mark before = context.mark();
     const QString failure =
-        reasonOfFailure([&] { addPages(entry, context, options, stop, outcome); });
+        reasonOfFailure([&] {
+            addPages(entry, context, options, stop, outcome,
+                     options.keepsRecord() ? &record : nullptr);
+        });
     outcome.written = failure.isEmpty();
     if (!outcome.written) {
         context.rollBack(before);
+        record = {};
         outcome.warnings.clear();
         outcome.reason = failure;
     }
     outcome.pages = context.pageCount() - before.pages;
+    record.firstPage = before.pages;
+    record.pages = outcome.pages;
     outcome.seconds = secondsOf(timer);
     if (options.dryRun) {
         outcome.pageSize = outcome.pages > 0 ? context.pageSize(before.pages) : QSizeF(0, 0);
@@ -168,7 +176,7 @@ void leaveInTheEnd(const std::vector<PartKind> &kinds, std::vector<EntryOutcome>
 /// Writes headers and footers, which may name the number of all pages.
 void addAllMarginTexts(std::span<const PDFFileInfo *const> entries, PDFContext &context,
                        const ConversionOptions &options, const std::stop_token &stop,
-                       std::vector<EntryOutcome> &outcomes) {
+                       std::vector<EntryOutcome> &outcomes, DocumentRecord &record) {
     if (!options.readable || !options.readable->hasMarginTexts()) {
         return;
     }
@@ -177,7 +185,8 @@ void addAllMarginTexts(std::span<const PDFFileInfo *const> entries, PDFContext &
         EntryOutcome &outcome = outcomes[i];
         if (entries[i]->kind() == FileKind::Text) {
             std::ranges::move(
-                addMarginTexts(*entries[i], first, outcome.pages, context, options, stop),
+                addMarginTexts(*entries[i], first, outcome.pages, context, options, stop,
+                               &record[i]),
                 std::back_inserter(outcome.warnings));
         }
         first += outcome.pages;
@@ -188,8 +197,18 @@ CloseResult notWritten(const QString &reason) {
     return {CloseResult::Status::Failed, {}, reason, {}};
 }
 
+/// Holds the pages of a dry run against the PDF that they are to be found in.
+CloseResult closeFound(const DocumentRecord &record, const ConversionOptions &options,
+                       const std::stop_token &stop, std::vector<EntryOutcome> &entries) {
+    const QString failure =
+        reasonOfFailure([&] { verifyFound(record, options, stop, entries); });
+    return failure.isEmpty()
+               ? CloseResult{CloseResult::Status::Written, options.verifyOnly, {}, {}}
+               : notWritten(failure);
+}
+
 CloseResult closeContext(PDFContext &context, const QString &path, const QString &fileName,
-                         const ConversionOptions &options) {
+                         const ConversionOptions &options, const Inspection &inspect) {
     if (context.pageCount() == 0) {
         return notWritten(Reasons::tr("There is no page to write"));
     }
@@ -201,7 +220,7 @@ CloseResult closeContext(PDFContext &context, const QString &path, const QString
         nextPath = [&] { return singleFilePath(options.outputFolder, fileName); };
     }
     CloseResult result;
-    const QString failure = reasonOfFailure([&] { result = context.close(nextPath); });
+    const QString failure = reasonOfFailure([&] { result = context.close(nextPath, inspect); });
     return failure.isEmpty() ? result : notWritten(failure);
 }
 
@@ -268,9 +287,11 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                               .mayReplace = options.overwrite != Overwrite::Never,
                               .calls = calls});
     PDFOutcome outcome;
+    DocumentRecord record;
     for (std::size_t i = 0; i < entries.size() && !stop.stop_requested(); ++i) {
         const int firstPage = context.pageCount();
-        outcome.entries.push_back(writeEntry(*entries[i], context, options, stop));
+        outcome.entries.push_back(
+            writeEntry(*entries[i], context, options, stop, record.emplace_back()));
         if (hasThoseOfFiles(options.bookmarks) && context.pageCount() > firstPage) {
             context.addBookmark(entries[i]->bookmarkTitle(), firstPage);
         }
@@ -282,10 +303,15 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     }
     if (!stop.stop_requested()) {
         const QString fileName = entries.empty() ? QString() : entries.front()->fileName();
-        const QString failure = reasonOfFailure(
-            [&] { addAllMarginTexts(entries, context, options, stop, outcome.entries); });
-        outcome.close = failure.isEmpty() ? closeContext(context, path, fileName, options)
+        const QString failure = reasonOfFailure([&] {
+            addAllMarginTexts(entries, context, options, stop, outcome.entries, record);
+        });
+        const auto inspect = verifyingInspection(record, options, stop, outcome.entries);
+        outcome.close = failure.isEmpty() ? closeContext(context, path, fileName, options, inspect)
                                           : notWritten(failure);
+        if (outcome.isWritten() && !options.verifyOnly.isEmpty()) {
+            outcome.close = closeFound(record, options, stop, outcome.entries);
+        }
         leaveInTheEnd(outcome.close.left, outcome.entries);
         std::ranges::copy(namePartlyTagged(entries, outcome.entries, options.tagged),
                           std::back_inserter(outcome.close.warnings));

@@ -9,6 +9,7 @@
 #include "error/Warning.h"
 #include "filelist/PDFFileInfo.h"
 #include "image/PdfImage.h"
+#include "verify/Verification.h"
 
 #include <QElapsedTimer>
 #include <QSizeF>
@@ -49,6 +50,7 @@ struct EntryOutcome {
     Warnings warnings;  ///< What of it was lost though it was written.
     std::optional<EmbeddedAs> embeddedAs; ///< How an image was embedded; nothing for others.
     std::optional<DocumentParts> parts;   ///< Of a PDF; nothing for others.
+    std::optional<EntryVerification> verification; ///< What came of it, where it was asked for.
 
     /// The reason and the warnings, as sentences.
     [[nodiscard]] QStringList remarks() const;

@@ -82,12 +82,17 @@ struct ConversionOptions {
     bool compressGrey = false;                  ///< Pictures in colour become grey.
     Flush flush = Flush::Always;
     Overwrite overwrite = Overwrite::Never;
+    bool verify = false; ///< Each page is held against its source before a PDF gets its name.
+    /// A finished PDF that is held against the entries; that is then all that a dry run does.
+    QString verifyOnly;
     bool dryRun = false; ///< Pages are made, and no document is written.
     /// What every file of the run is written through.
     std::reference_wrapper<SystemCalls> calls = SystemCalls::system();
 
     /// Whether a finished PDF is to be compressed.
     [[nodiscard]] bool compresses() const { return compressIndex != 0 || compressFilter; }
+    /// Whether what pages have to show is recorded.
+    [[nodiscard]] bool keepsRecord() const { return verify || !verifyOnly.isEmpty(); }
 };
 
 } // namespace folioforge

@@ -3,6 +3,9 @@
 #include "convert/PageWriters.h"
 
 #include "convert/ImagePlacement.h"
+#include "convert/TextRecorder.h"
+#include "error/Error.h"
+#include "error/Reasons.h"
 #include "image/description/Description.h"
 #include "text/FontCascade.h"
 #include "text/TextPageLayout.h"
@@ -11,6 +14,7 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +35,8 @@ class ContextSink : public TextPageSink {
         , m_mostPages(mostPages)
         , m_stop(stop) {}
 
+    /// What is drawn is recorded too.
+    void recordTo(TextRecorder &recorder) { m_recorder = &recorder; }
     /// What is drawn is no part of the text.
     void drawArtifacts() { m_isArtifact = true; }
 
@@ -47,7 +53,7 @@ class ContextSink : public TextPageSink {
     void beginParagraph() override { m_context.beginParagraph(); }
     void showRow(double x, double y, std::span<const Glyph> glyphs) override {
         if (!m_isTagged || m_isReading) {
-            m_context.showGlyphsAtPoint(x, y, glyphs);
+            show(x, y, glyphs);
             return;
         }
         while (!glyphs.empty()) {
@@ -64,13 +70,18 @@ class ContextSink : public TextPageSink {
     }
     void beginReading(QStringView text) override {
         m_isReading = true;
-        m_context.beginActualText(text);
+        beginActualText(text);
     }
     void endReading() override {
         m_isReading = false;
-        m_context.endActualText();
+        endActualText();
     }
-    void endPage() override { m_context.endPage(); }
+    void endPage() override {
+        m_context.endPage();
+        if (m_recorder != nullptr) {
+            m_recorder->endPage();
+        }
+    }
 
   private:
     /// Whether nobody but the text's author knows what a glyph stands for.
@@ -87,15 +98,35 @@ class ContextSink : public TextPageSink {
             text += isPrivate ? m_font->textOf(glyph) : QString();
         }
         if (isPrivate) {
-            m_context.beginActualText(text);
+            beginActualText(text);
         }
-        m_context.showGlyphsAtPoint(x, y, run);
+        show(x, y, run);
         if (isPrivate) {
-            m_context.endActualText();
+            endActualText();
+        }
+    }
+
+    void show(double x, double y, std::span<const Glyph> glyphs) {
+        m_context.showGlyphsAtPoint(x, y, glyphs);
+        if (m_recorder != nullptr) {
+            m_recorder->show(x, y, glyphs);
+        }
+    }
+    void beginActualText(QStringView text) {
+        m_context.beginActualText(text);
+        if (m_recorder != nullptr) {
+            m_recorder->beginReading(text);
+        }
+    }
+    void endActualText() {
+        m_context.endActualText();
+        if (m_recorder != nullptr) {
+            m_recorder->endReading();
         }
     }
 
     PDFContext &m_context;
+    TextRecorder *m_recorder = nullptr;
     std::shared_ptr<const FontCascade> m_font;
     QRectF m_page;
     bool m_isTagged;
@@ -138,28 +169,67 @@ class Descriptions {
     int m_count = 0;
 };
 
+/// The picture with that number from 0 of a file.
+PdfImage pictureAt(const QString &path, SystemCalls &calls, SourceMetadata metadata,
+                   std::size_t index) {
+    if (index == 0) {
+        return toPdfImage(path, calls, metadata);
+    }
+    std::optional<PdfImage> found;
+    forEachPicture(path, calls, metadata, [&](PdfImage image) {
+        if (index-- == 0) {
+            found = std::move(image);
+        }
+    });
+    if (!found) {
+        throw Error(Reasons::tr("The file has changed"));
+    }
+    return std::move(*found);
+}
+
 void drawOnPage(PdfImage image, const QString &description, PDFContext &context,
-                const ConversionOptions &options) {
+                const ConversionOptions &options, EntryRecord *record) {
     const ImageLayout &layout = options.imageLayout;
     const ImagePlacement placement =
         placeImage(image.header.sizeInPoints(layout.unstatedDpi), options.imagePage, layout);
     context.beginPage(QRectF(QPointF(0, 0), placement.page));
-    if (layout.fit == ImageFit::Fill) {
-        context.clipToRect(placement.space);
+    const auto clip =
+        layout.fit == ImageFit::Fill ? std::optional(placement.space) : std::nullopt;
+    if (clip) {
+        context.clipToRect(*clip);
     }
     const int orientation = image.header.orientation;
-    context.drawImage(placement.image, std::move(image), orientation, description);
+    context.drawImage(placement.image, std::move(image), orientation, description,
+                      [&](const PdfImage &drawn) {
+                          if (record != nullptr) {
+                              record->pictures.push_back({placement.page, placement.image,
+                                                          orientation, clip, recordOf(drawn)});
+                          }
+                      });
     context.endPage();
 }
 
 } // namespace
 
 Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
-                     const ConversionOptions &options, const std::stop_token &stop) {
+                     const ConversionOptions &options, const std::stop_token &stop,
+                     EntryRecord *record) {
     SourceText source = entry.sourceText(options.calls, options.textEncoding);
     const QSizeF pageSize = getTextPageSize(options.textPage);
     const auto font = fontOf(options);
     ContextSink sink(context, font, pageSize, options.tagged, options.mostTextPages, stop);
+    std::optional<TextRecorder> recorder;
+    if (record != nullptr) {
+        if (!options.verifyOnly.isEmpty()) {
+            record->textAgain = [entry, &calls = options.calls.get(),
+                                 encoding = options.textEncoding] {
+                return entry.sourceText(calls, encoding).text;
+            };
+        }
+        record->text.page = pageSize;
+        record->text.fontSize = font->size();
+        sink.recordTo(recorder.emplace(*font, record->text.pages));
+    }
     Warnings warnings = std::move(source.warnings);
     const PageMargins &margins = options.textPage.margins;
     std::ranges::move(options.readable ? layOutReadable(source.text, pageSize, margins, *font,
@@ -170,7 +240,8 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
 }
 
 Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFContext &context,
-                        const ConversionOptions &options, const std::stop_token &stop) {
+                        const ConversionOptions &options, const std::stop_token &stop,
+                        EntryRecord *record) {
     const QSizeF page = getTextPageSize(options.textPage);
     const PageMargins &margins = options.textPage.margins;
     const auto left = static_cast<double>(margins.left);
@@ -183,6 +254,9 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
     const auto font = fontOf(options);
     ContextSink sink(context, font, page, options.tagged, 0, stop);
     sink.drawArtifacts();
+    std::vector<TextTrace> traces;
+    TextRecorder recorder(*font, traces);
+    sink.recordTo(recorder);
     MarginText texts(*font);
     for (int i = first; i < first + pages && !stop.stop_requested(); ++i) {
         facts.page = i + 1;
@@ -191,12 +265,16 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
             texts.setInto(above, withFacts(options.readable->header, facts), sink);
             texts.setInto(below, withFacts(options.readable->footer, facts), sink);
         });
+        recorder.endPage();
+    }
+    if (record != nullptr) {
+        record->text.margins = std::move(traces);
     }
     return texts.warnings();
 }
 
 WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
-                           const ConversionOptions &options) {
+                           const ConversionOptions &options, EntryRecord *record) {
     const auto metadata = options.stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep;
     WrittenImage written{EmbeddedAs::OwnBytes, {}};
     Descriptions descriptions(entry, options);
@@ -204,8 +282,14 @@ WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
         if (image.embeddedAs != EmbeddedAs::OwnBytes) {
             written.embeddedAs = image.embeddedAs;
         }
-        drawOnPage(std::move(image), descriptions.next(), context, options);
+        drawOnPage(std::move(image), descriptions.next(), context, options, record);
     };
+    if (record != nullptr && !options.verifyOnly.isEmpty()) {
+        record->pictureAgain = [path = entry.filePathName(), &calls = options.calls.get(), metadata,
+                                all = options.allPictures](std::size_t index) {
+            return pictureAt(path, calls, metadata, all ? index : 0);
+        };
+    }
     if (options.allPictures) {
         written.warnings = forEachPicture(entry.filePathName(), options.calls, metadata, draw);
     } else {
@@ -216,7 +300,10 @@ WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
     return written;
 }
 
-AddedDocument addPDFFile(const PDFFileInfo &entry, PDFContext &context) {
+AddedDocument addPDFFile(const PDFFileInfo &entry, PDFContext &context, EntryRecord *record) {
+    if (record != nullptr) {
+        record->source = {entry.filePathName(), entry.pageChoice()};
+    }
     return context.addDocument(entry.filePathName(), entry.pageChoice());
 }
 

@@ -5,6 +5,7 @@
 #include "compress/QuartzFilter.h"
 #include "convert/OutputName.h"
 #include "convert/OutputPlan.h"
+#include "convert/Verifying.h"
 #include "error/Error.h"
 #include "error/Reasons.h"
 #include "files/Printable.h"
@@ -120,6 +121,7 @@ void Run::count(const PDFOutcome &outcome) {
         return;
     }
     ++m_summary.madePDFs;
+    m_summary.areVerified = m_options.verify;
     m_summary.pages += outcome.pages();
     m_summary.lastPath = outcome.close.path;
     m_summary.failedEntries +=
@@ -155,9 +157,18 @@ CompressionOutcome Run::compressed(const QString &path, const QString &temporary
                                      m_options.compressFilter,
                                      m_options.compressGrey,
                                      m_stop};
-    return folioforge::compress(path, options, [&](int pageIndex, int pageCount) {
-        observer.endPageWrite(pageIndex, pageCount);
-    });
+    CompressionOutcome outcome =
+        folioforge::compress(path, options, [&](int pageIndex, int pageCount) {
+            observer.endPageWrite(pageIndex, pageCount);
+        });
+    if (outcome.convertInfo) {
+        outcome.error =
+            verifyCopy(path, outcome.convertInfo->tempFilePathName, m_options, m_stop);
+    }
+    if (!outcome.error.isEmpty()) {
+        outcome.convertInfo.reset();
+    }
+    return outcome;
 }
 
 CompressionOutcome Run::compress(const QString &path, const QString &temporaryFolder,

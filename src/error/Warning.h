@@ -37,6 +37,7 @@ enum class WarningCode {
     OpacityBlended,  ///< A picture is partly transparent and is laid on white.
     ClaimTaken,      ///< A source PDF says that it keeps a standard, and the PDF says so after it.
     ClaimMissing,    ///< The PDF does not say that it keeps the standard that was asked for.
+    LaidOutOtherwise, ///< A finished PDF holds all of an input, but not where it would stand now.
 };
 
 /// The names of the codes in reports, in the order of their declaration. They never change, because
@@ -54,8 +55,9 @@ inline constexpr std::array kWarningNames{
     QLatin1StringView("protection-left"),     QLatin1StringView("margin-text-cut"),
     QLatin1StringView("colors-differ"),       QLatin1StringView("opacity-blended"),
     QLatin1StringView("claim-taken"),         QLatin1StringView("claim-missing"),
+    QLatin1StringView("laid-out-otherwise"),
 };
-static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::ClaimMissing) + 1);
+static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::LaidOutOtherwise) + 1);
 
 /// What was lost or changed on the way of an entry that was written.
 struct Warning {

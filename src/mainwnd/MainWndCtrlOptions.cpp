@@ -201,6 +201,7 @@ ConversionOptions MainWndCtrl::conversionOptions() const {
     options.textPage = textPageSetup();
     options.imagePage = imagePageSetup();
     options.textFont = m_ctFont;
+    options.verify = m_btnVerify->isChecked();
     if (m_btnReadable->isChecked()) {
         options.readable.emplace();
     }

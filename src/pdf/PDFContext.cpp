@@ -45,7 +45,9 @@ class PDFContext::Impl {
     Impl(QString path, Settings settings);
 
     void beginPage(const QRectF &mediaBox);
-    void drawImage(const QRectF &rect, PdfImage image, int orientation, const QString &description);
+    using Look = std::function<void(const PdfImage &)>;
+    void drawImage(const QRectF &rect, PdfImage image, int orientation, const QString &description,
+                   const Look &look);
     void endPage() { m_catalog.addPage(m_pages.endPage(pageCount())); }
     void drawArtifact(int page, const std::function<void()> &draw);
     QDateTime creationDate();
@@ -99,9 +101,12 @@ void PDFContext::Impl::beginPage(const QRectF &mediaBox) {
 }
 
 void PDFContext::Impl::drawImage(const QRectF &rect, PdfImage image, int orientation,
-                                 const QString &description) {
+                                 const QString &description, const Look &look) {
     if (m_archive) {
         m_archive->keepPicture(image, pageCount());
+    }
+    if (look) {
+        look(image);
     }
     m_pages.drawImage(rect, image, orientation, description);
 }
@@ -320,9 +325,10 @@ void PDFContext::clipToRect(const QRectF &rect) {
 }
 
 void PDFContext::drawImage(const QRectF &rect, PdfImage image, int orientation,
-                           const QString &description) {
+                           const QString &description,
+                           const std::function<void(const PdfImage &)> &look) {
     translateQpdfErrors(
-        [&] { m_impl->drawImage(rect, std::move(image), orientation, description); });
+        [&] { m_impl->drawImage(rect, std::move(image), orientation, description, look); });
 }
 
 void PDFContext::endPage() {

@@ -101,9 +101,11 @@ class PDFContext {
     void beginActualText(QStringView text);
     void endActualText();
     /// Draws the image into the rectangle, turned inside it as `orientation` (EXIF, 1 to 8) says.
-    /// `description` tells those of it who do not see it. Throws Error.
+    /// `description` tells those of it who do not see it, and `look` sees it as it goes in. Throws
+    /// Error.
     void drawImage(const QRectF &rect, PdfImage image, int orientation,
-                   const QString &description = {});
+                   const QString &description = {},
+                   const std::function<void(const PdfImage &)> &look = {});
     /// Of what is drawn on the page from now on, only what lies inside `rect` (points) is shown.
     void clipToRect(const QRectF &rect);
     void endPage();

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "CommandLineCase.h"
+#include "support/TestUnit.h"
+
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+/// What another program says of a manifest that is not as the schemas demand.
+QByteArray faultsIn(const QString &manifest) {
+    const QString script = uR"(
+import json, jsonschema, sys
+report = json.load(open(sys.argv[1]))
+schema = json.loads(open(sys.argv[2]).read().replace("report.schema.json#", "#"))
+schema["$defs"] = report["$defs"]
+jsonschema.Draft202012Validator.check_schema(schema)
+for fault in jsonschema.Draft202012Validator(schema).iter_errors(json.load(open(sys.argv[3]))):
+    print(fault.message, [inner.message for inner in fault.context])
+)"_s;
+    QString python = QStandardPaths::findExecutable(u"python3"_s, {u"/usr/bin"_s});
+    python = python.isEmpty() ? QStandardPaths::findExecutable(u"python3"_s) : python;
+    const ToolRun run = runTool(python, {u"-c"_s, script, inSource(u"docs/report.schema.json"_s),
+                                         inSource(u"docs/manifest.schema.json"_s), manifest});
+    return run.exitCode == 0 ? run.out : "python: " + run.err;
+}
+
+QString sumOf(const QString &file) {
+    return QString::fromLatin1(runTool(u"sha256sum"_s, {file}).out.left(64));
+}
+
+QJsonObject read(const QString &manifest) {
+    return QJsonDocument::fromJson(readFile(manifest)).object();
+}
+
+} // namespace
+
+/// The lists of --manifest.
+class ManifestsTest : public QObject, CommandLineCase {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void inputsAndOutputsStandWithTheirChecksums() {
+        const QString manifest = path("list.json");
+        const ToolRun run = convert({u"--title"_s, u"A title"_s, u"--verify"_s, u"--manifest"_s, manifest,
+                                     text("a.txt"), writePng(path("b.png"), 3, 2), path("missing.txt")});
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(faultsIn(manifest), QByteArray());
+        const QJsonObject list = read(manifest);
+        const QJsonArray inputs = list[u"inputs"_s].toArray();
+        QCOMPARE(inputs.size(), 3);
+        QList<QString> sums;
+        for (const auto &input : inputs) {
+            sums += member(input.toObject(), "sha256");
+        }
+        QVERIFY(sums.contains(sumOf(path("a.txt"))) && sums.contains(sumOf(path("b.png"))));
+        const QJsonArray outputs = list[u"outputs"_s].toArray();
+        QCOMPARE(outputs.size(), 2);
+        QCOMPARE(member(outputs[0].toObject(), "sha256"), sumOf(member(outputs[0].toObject(), "file")));
+        QVERIFY(list[u"options"_s].toArray().contains(u"--title=A title"_s));
+    }
+
+    void sha256sumReadsTheSecondForm() {
+        const QString odd = path("odd \\ name\n.txt");
+        writeFile(odd, "odd");
+        const QString list = path("list.sha256");
+        QCOMPARE(convert({u"--manifest"_s, list, text("a.txt"), odd}).exitCode, 0);
+        const ToolRun check = runTool(u"sha256sum"_s, {u"--strict"_s, u"-c"_s, list});
+        QVERIFY2(check.exitCode == 0, check.err);
+        QCOMPARE(check.out.count(": OK"), 4);
+        text("a.txt", "changed");
+        QCOMPARE(runTool(u"sha256sum"_s, {u"-c"_s, list}).exitCode, 1);
+    }
+
+    void passwordsAreNotInIt() {
+        const QString password = writeFile(path("password"), "open sesame\n");
+        const QString manifest = path("list.json");
+        QCOMPARE(convert({u"--user-password-file"_s, password, u"--manifest"_s, manifest, text("a.txt")}).exitCode, 0);
+        QVERIFY(!readFile(manifest).contains("sesame"));
+    }
+
+    void aFileOfItsNameStays() {
+        const QString manifest = writeFile(path("list.json"), "mine");
+        QCOMPARE(convert({u"--manifest"_s, manifest, text("a.txt")}).exitCode, 2);
+        QCOMPARE(readFile(manifest), QByteArray("mine"));
+        QVERIFY(QDir(path("out")).isEmpty());
+        QCOMPARE(convert({u"--overwrite"_s, u"always"_s, u"--manifest"_s, manifest, text("a.txt")}).exitCode, 0);
+        QCOMPARE(faultsIn(manifest), QByteArray());
+    }
+
+    void whatCannotBeDescribedIsRefused() {
+        const QString manifest = path("list.json");
+        QCOMPARE(convert({u"--dry-run"_s, u"--manifest"_s, manifest, text("a.txt")}).exitCode, 2);
+        QCOMPARE(runTool(kProgram, {u"--merge"_s, u"-"_s, u"--manifest"_s, manifest, text("a.txt")}).exitCode, 2);
+        QCOMPARE(convert({u"--manifest"_s, path("out/"), text("a.txt")}).exitCode, 2);
+        QVERIFY(!QFile::exists(manifest));
+    }
+
+    void aFinishedPdfGetsOneToo() {
+        const QString pdf = path("all.pdf");
+        QCOMPARE(runTool(kProgram, {u"--merge"_s, pdf, text("a.txt")}).exitCode, 0);
+        const QString manifest = path("list.json");
+        QCOMPARE(runTool(kProgram, {u"--verify-only"_s, pdf, u"--manifest"_s, manifest, path("a.txt")}).exitCode, 0);
+        QCOMPARE(faultsIn(manifest), QByteArray());
+        QCOMPARE(member(read(manifest)[u"outputs"_s].toArray()[0].toObject(), "sha256"), sumOf(pdf));
+    }
+};
+
+FOLIOFORGE_TEST(ManifestsTest)
+#include "ManifestsTest.moc"

@@ -1,0 +1,319 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "ConversionCase.h"
+#include "support/PdfProbe.h"
+#include "support/PhotoPage.h"
+#include "support/Places.h"
+#include "support/TestUnit.h"
+
+#include <QDirIterator>
+#include <QFile>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+using namespace folioforge::test;
+
+namespace {
+
+/// The system, save that one byte of the output is another once it is flushed to the disk.
+class FlippingCalls : public SystemCalls {
+  public:
+    /// `at` counts from the start of the file, or below 0 from its end.
+    explicit FlippingCalls(off_t at)
+        : m_at(at) {}
+
+    int fsync(int fd) override {
+        struct stat status = {};
+        if (!m_isFlipped && ::fstat(fd, &status) == 0 && S_ISREG(status.st_mode)) {
+            m_isFlipped = true;
+            const off_t place = m_at < 0 ? status.st_size + m_at : m_at;
+            char byte = 0;
+            if (::pread(fd, &byte, 1, place) == 1) {
+                byte = static_cast<char>(byte ^ 1);
+                static_cast<void>(::pwrite(fd, &byte, 1, place));
+            }
+        }
+        return SystemCalls::fsync(fd);
+    }
+
+  private:
+    off_t m_at;
+    bool m_isFlipped = false;
+};
+
+/// What qpdf makes of a PDF with these arguments.
+QString rewritten(const QString &from, const QString &to, const QStringList &arguments) {
+    const ToolRun run = runTool(u"qpdf"_s, arguments + QStringList{from, to});
+    return run.exitCode == 0 ? to : QString::fromUtf8(run.err);
+}
+
+/// The PDF in plain words, with `from` for `to` in it wherever it stands.
+QString edited(const QString &pdf, const QString &target, const QByteArray &from, const QByteArray &to) {
+    const QString plain = rewritten(pdf, target + u".qdf"_s, {u"--qdf"_s, u"--object-streams=disable"_s});
+    QByteArray bytes = readFile(plain);
+    if (!bytes.contains(from)) {
+        return {};
+    }
+    const QString changed = writeFile(target + u".changed"_s, bytes.replace(from, to));
+    runTool(u"sh"_s, {u"-c"_s, u"fix-qdf \"$0\" > \"$1\""_s, changed, target});
+    return target;
+}
+
+} // namespace
+
+/// Pages that are held against their sources, before a PDF gets its name or when it stands already.
+class VerificationTest : public QObject, protected ConversionCase {
+    Q_OBJECT
+
+    static QString data(const char *name) { return inSource(u"tests/data/"_s + QLatin1StringView(name)); }
+
+    void addAll(const QString &folder) {
+        QStringList files;
+        for (QDirIterator found(inSource(folder), QDir::Files); found.hasNext();) {
+            files += found.next();
+        }
+        std::ranges::sort(files);
+        for (const QString &file : std::as_const(files)) {
+            addFile(file);
+        }
+    }
+
+    QByteArrayList faults(const PDFOutcome &outcome) const {
+        QByteArrayList all;
+        for (std::size_t i = 0; i < outcome.entries.size(); ++i) {
+            const EntryOutcome &entry = outcome.entries[i];
+            if (!entry.written || !entry.verification || !entry.verification->holds()) {
+                all += (m_list[i]->fileName() + u": "_s + entry.reason).toUtf8();
+            }
+        }
+        return all + (outcome.isWritten() ? QByteArrayList() : QByteArrayList{outcome.close.reason.toUtf8()});
+    }
+
+    /// Writes a PDF of the list to look for afterwards.
+    QString written() {
+        m_options.merge = true;
+        return convertTo(path("out/whole.pdf")).close.path;
+    }
+
+    PDFOutcome verified(const QString &pdf) {
+        m_options.merge = true;
+        m_options.dryRun = true;
+        m_options.verifyOnly = pdf;
+        return convertTo(pdf);
+    }
+
+    PageProof proofOf(const char *file) {
+        m_list.clear();
+        addFile(data(file));
+        const PDFOutcome outcome = convertTo(path("out/one.pdf"));
+        QFile::remove(path("out/one.pdf"));
+        return outcome.entries.at(0).verification.value().pages.at(0);
+    }
+
+  private Q_SLOTS:
+    void init() {
+        setUp();
+        m_options.verify = true;
+    }
+
+    void everyPictureOfTheTestsIsItsSource() {
+        addAll(u"tests/data/image"_s);
+        m_options.allPictures = true;
+        QCOMPARE(faults(convertTo(path("out/all.pdf"))), QByteArrayList());
+        QVERIFY(PdfProbe(path("out/all.pdf")).isValid());
+    }
+
+    void everyPdfOfTheTestsIsItsSource() {
+        addAll(u"tests/data/pdf"_s);
+        QCOMPARE(faults(convertTo(path("out/all.pdf"))), QByteArrayList());
+    }
+
+    void aPageSaysByWhatItWasShown() {
+        QCOMPARE(proofOf("image/photo.jpg"), PageProof::Bytes);
+        QCOMPARE(proofOf("image/palette.png"), PageProof::Bytes);
+        QCOMPARE(proofOf("image/translucent.png"), PageProof::Pixels);
+        QCOMPARE(proofOf("image/bilevel-strips.tif"), PageProof::Pixels);
+        QCOMPARE(proofOf("pdf/ghostscript.pdf"), PageProof::Objects);
+    }
+
+    void everyTurnAndFitOfAPictureStandsWhereItShould() {
+        for (const char *name : {"turned.webp", "turned.heic", "turned.jxl", "turned.avif", "photo.jpg"}) {
+            addFile(data("image/") + QLatin1StringView(name));
+        }
+        m_options.imagePage = {ImagePageCustom, 300, 500, {10, 20, 30, 40}};
+        for (const ImageFit fit : {ImageFit::Within, ImageFit::Shrink, ImageFit::Fill}) {
+            m_options.imageLayout.fit = fit;
+            QCOMPARE(faults(convertTo(path("out/fit.pdf"))), QByteArrayList());
+            QVERIFY(QFile::remove(path("out/fit.pdf")));
+        }
+    }
+
+    void textsOfManyScriptsHaveTheirCharacters() {
+        const QByteArray text = "English (with) \\ signs\n\xC5\xBElu\xC5\xA5ou\xC4\x8Dk\xC3\xBD "
+                                "\xEF\xAC\x81 \xE6\xBC\xA2\xE5\xAD\x97\n\xD8\xA7\xD9\x84\xD8\xB9\xD8\xB1"
+                                "\xD8\xA8\xD9\x8A\xD8\xA9 \xE0\xA4\xB9\xE0\xA4\xBF\xE0\xA4\xA8\xE0\xA5\x8D"
+                                "\xE0\xA4\xA6\xE0\xA5\x80\n\tno glyph: \xEE\x84\xA3\n";
+        addText("a.txt", text);
+        addText("b.txt", text.repeated(60));
+        addText("empty.txt", {});
+        QCOMPARE(faults(convertTo(path("out/plain.pdf"))), QByteArrayList());
+        m_options.readable.emplace();
+        m_options.readable->header = u"{file}"_s;
+        m_options.readable->footer = u"{page} of {pages}"_s;
+        const PDFOutcome outcome = convertTo(path("out/readable.pdf"));
+        QCOMPARE(faults(outcome), QByteArrayList());
+        QVERIFY(outcome.entries[1].verification->missingGlyphs > 0);
+    }
+
+    void chosenAndTurnedPagesAreThoseOfTheSource() {
+        addFile(writePdf(path("pages.pdf"), 6));
+        m_list.back()->setPageChoice({"5,2-3,5", {{90, true, "1"}, {180, false, "2-3"}}});
+        QCOMPARE(faults(convertTo(path("out/chosen.pdf"))), QByteArrayList());
+    }
+
+    void aProtectedPdfIsOpenedAgain() {
+        addText("a.txt", "words");
+        m_options.security.useUserPassword = true;
+        m_options.security.userPassword = u"open sesame"_s;
+        QCOMPARE(faults(convertTo(path("out/a.pdf"))), QByteArrayList());
+        QVERIFY(!PdfProbe(path("out/a.pdf")).isValid());
+    }
+
+    void nothingThatChangesOnTheDiskGetsAName_data() {
+        QTest::addColumn<int>("at");
+        QTest::newRow("header") << 5;
+        QTest::newRow("middle") << 900;
+        QTest::newRow("trailer") << -60;
+    }
+
+    void nothingThatChangesOnTheDiskGetsAName() {
+        QFETCH(int, at);
+        addText("a.txt", "words");
+        addFile(data("image/photo.jpg"));
+        FlippingCalls calls(at);
+        m_options.calls = calls;
+        m_options.flush = Flush::Always;
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QVERIFY(!outcome.isWritten());
+        QCOMPARE(outcome.close.reason, u"The PDF on the disk is not what was written"_s);
+        QCOMPARE(outputs(), QStringList());
+    }
+
+    void aFinishedPdfIsHeldAgainstItsSources() {
+        addText("a.txt", "words");
+        addFile(data("image/photo.jpg"));
+        addFile(data("pdf/writer-form.pdf"));
+        const QByteArray before = readFile(written());
+        const PDFOutcome outcome = verified(path("out/whole.pdf"));
+        QCOMPARE(faults(outcome), QByteArrayList());
+        QCOMPARE(readFile(path("out/whole.pdf")), before);
+        QCOMPARE(outputs(), QStringList{u"whole.pdf"_s});
+    }
+
+    void thePageThatDiffersIsNamed() {
+        addText("a.txt", "words");
+        addFile(data("image/photo.jpg"));
+        addText("b.txt", "one two three");
+        const QString pdf = written();
+        writeFile(path("b.txt"), "one two thrice");
+        m_list.back() = std::make_unique<PDFFileInfo>(path("b.txt"));
+        const PDFOutcome outcome = verified(pdf);
+        QVERIFY(outcome.entries[0].written);
+        QVERIFY(outcome.entries[1].written);
+        QVERIFY(!outcome.entries[2].written);
+        QCOMPARE(outcome.entries[2].reason,
+                 u"Page 3 of the PDF is not its source: its characters are not those of the text"_s);
+    }
+
+    void whatAnEditChangesIsFound_data() {
+        QTest::addColumn<QByteArray>("from");
+        QTest::addColumn<QByteArray>("to");
+        QTest::newRow("letters") << QByteArray("(words)") << QByteArray("(wards)");
+        QTest::newRow("map of characters") << QByteArray("<77><0077>") << QByteArray("<77><0078>");
+        QTest::newRow("width of a picture") << QByteArray("/Width 24") << QByteArray("/Width 23");
+        QTest::newRow("colours of a picture") << QByteArray("/ColorSpace /DeviceRGB") << QByteArray("/ColorSpace /DeviceGray");
+        QTest::newRow("annotation") << QByteArray("/Subtype /Widget") << QByteArray("/Subtype /Square");
+        QTest::newRow("box") << QByteArray("595.303937007874") << QByteArray("595.9");
+    }
+
+    void whatAnEditChangesIsFound() {
+        QFETCH(QByteArray, from);
+        QFETCH(QByteArray, to);
+        addText("a.txt", "words");
+        addFile(data("image/palette.png"));
+        addFile(data("image/photo.jpg"));
+        addFile(data("pdf/writer-form.pdf"));
+        const QString pdf = edited(written(), path("changed.pdf"), from, to);
+        QVERIFY2(!pdf.isEmpty(), "nothing to change");
+        QVERIFY(PdfProbe(pdf).pageCount() == 4);
+        const PDFOutcome outcome = verified(pdf);
+        QVERIFY(!faults(outcome).isEmpty());
+    }
+
+    void aPdfOfAnotherProgramIsHeldAgainstItsSources() {
+        addFile(data("pdf/ghostscript.pdf"));
+        addFile(data("pdf/chromium-letter.pdf"));
+        const ToolRun run =
+            runTool(u"qpdf"_s, {u"--empty"_s, u"--pages"_s, data("pdf/ghostscript.pdf"),
+                                data("pdf/chromium-letter.pdf"), u"--"_s, path("qpdf.pdf")});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(faults(verified(path("qpdf.pdf"))), QByteArrayList());
+    }
+
+    void picturesThatAnotherProgramPutInAreTheirSource() {
+        for (const char *name : {"photo.jpg", "grey.png", "palette.png", "bilevel-g4.tif"}) {
+            addFile(data("image/") + QLatin1StringView(name));
+        }
+        QStringList files;
+        for (const auto &entry : m_list) {
+            files += entry->filePathName();
+        }
+        const ToolRun run = runTool(u"img2pdf"_s, files + QStringList{u"-S"_s, u"A4"_s, u"-o"_s, path("img.pdf")});
+        QVERIFY2(run.exitCode == 0, run.err);
+        const PDFOutcome outcome = verified(path("img.pdf"));
+        QCOMPARE(faults(outcome), QByteArrayList());
+        QCOMPARE(outcome.entries[0].warnings.at(0).code, WarningCode::LaidOutOtherwise);
+    }
+
+    void aTextInAnotherLayoutIsItsSource() {
+        addText("a.txt", QByteArray("some words that are broken into rows ").repeated(200));
+        addText("b.txt", "the end");
+        m_options.readable.emplace();
+        const QString pdf = written();
+        m_options.readable.reset();
+        const PDFOutcome outcome = verified(pdf);
+        QCOMPARE(faults(outcome), QByteArrayList());
+        QCOMPARE(outcome.entries[0].warnings.at(0).code, WarningCode::LaidOutOtherwise);
+    }
+
+    void pagesOfNoInputAreFound() {
+        addText("a.txt", "words");
+        addText("b.txt", "more");
+        const QString pdf = written();
+        m_list.pop_back();
+        const PDFOutcome outcome = verified(pdf);
+        QCOMPARE(faults(outcome).size(), 1);
+    }
+
+    void aReducedPictureCountsWhereThatIsAskedFor() {
+        const QString jpeg = path("photo.jpg");
+        QVERIFY(photo(800, 600).save(jpeg, "JPG", 95));
+        addFile(jpeg);
+        const QString small = path("small.jpg");
+        QVERIFY(photo(800, 600).scaled(400, 300, Qt::KeepAspectRatio, Qt::SmoothTransformation).save(small, "JPG", 70));
+        QCOMPARE(runTool(u"img2pdf"_s, {small, u"-o"_s, path("small.pdf")}).exitCode, 0);
+        QVERIFY(!faults(verified(path("small.pdf"))).isEmpty());
+        m_options.compressIndex = 2;
+        const PDFOutcome outcome = verified(path("small.pdf"));
+        QCOMPARE(faults(outcome), QByteArrayList());
+        QCOMPARE(outcome.entries[0].verification->pages[0], PageProof::Likeness);
+    }
+};
+
+FOLIOFORGE_TEST(VerificationTest)
+#include "VerificationTest.moc"
