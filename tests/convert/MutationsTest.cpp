@@ -15,7 +15,8 @@ using namespace folioforge;
 using namespace folioforge::test;
 
 /// Finished PDFs and their sources with single bits or bytes changed: what a verification lets pass
-/// shows no difference on any page. FOLIOFORGE_MUTATIONS sets how many are tried.
+/// shows no difference on any page. FOLIOFORGE_MUTATIONS sets how many are tried; ten thousand take longer
+/// than QTEST_FUNCTION_TIMEOUT lets them by itself.
 class MutationsTest : public QObject, protected ConversionCase {
     Q_OBJECT
 
