@@ -2117,6 +2117,10 @@ None: pictures stay as they are
         <source>it shows more than the picture</source>
         <translation>تعرض أكثر من الصورة</translation>
     </message>
+    <message>
+        <source>A property of the document is longer than %1 allows</source>
+        <translation>إحدى خصائص المستند أطول مما يسمح به %1</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

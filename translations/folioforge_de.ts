@@ -2005,6 +2005,10 @@ Keine: Bilder bleiben, wie sie sind
         <source>it shows more than the picture</source>
         <translation>sie zeigt mehr als das Bild</translation>
     </message>
+    <message>
+        <source>A property of the document is longer than %1 allows</source>
+        <translation>Eine Eigenschaft des Dokuments ist länger, als %1 erlaubt</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

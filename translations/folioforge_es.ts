@@ -2005,6 +2005,10 @@ Ninguna: las imágenes quedan como están
         <source>it shows more than the picture</source>
         <translation>muestra más que la imagen</translation>
     </message>
+    <message>
+        <source>A property of the document is longer than %1 allows</source>
+        <translation>Una propiedad del documento es más larga de lo que permite %1</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

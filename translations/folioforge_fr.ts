@@ -1799,7 +1799,7 @@ Aucune&#xa0;: les images restent telles quelles
     </message>
     <message>
         <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
-        <translation>Les fichiers HEIC et AVIF sont lus par libheif 1, qui ne peut pas être chargé&#xa0;: %1</translation>
+        <translation>Les fichiers HEIC et AVIF sont lus par libheif 1, qui ne peut pas être chargé : %1</translation>
     </message>
     <message>
         <source>This program was built without the means to read HEIC and AVIF files</source>
@@ -2004,6 +2004,10 @@ Aucune&#xa0;: les images restent telles quelles
     <message>
         <source>it shows more than the picture</source>
         <translation>elle montre plus que l’image</translation>
+    </message>
+    <message>
+        <source>A property of the document is longer than %1 allows</source>
+        <translation>Une propriété du document est plus longue que %1 ne le permet</translation>
     </message>
 </context>
 <context>

@@ -1977,6 +1977,10 @@ None: pictures stay as they are
         <source>it shows more than the picture</source>
         <translation>画像以外のものがあります</translation>
     </message>
+    <message>
+        <source>A property of the document is longer than %1 allows</source>
+        <translation>文書のプロパティが %1 の許す長さを超えています</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

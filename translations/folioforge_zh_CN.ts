@@ -1977,6 +1977,10 @@ None: pictures stay as they are
         <source>it shows more than the picture</source>
         <translation>显示的不只是图片</translation>
     </message>
+    <message>
+        <source>A property of the document is longer than %1 allows</source>
+        <translation>文档的某个属性超出了 %1 允许的长度</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

@@ -85,4 +85,15 @@ std::uint16_t ReducedFont::idOf(std::uint16_t glyph) const {
         hb_map_get(hb_subset_plan_old_to_new_glyph_mapping(m_plan.get()), glyph));
 }
 
+std::set<std::uint16_t> ReducedFont::glyphs() const {
+    const hb_map_t *old = hb_subset_plan_new_to_old_glyph_mapping(m_plan.get());
+    std::set<std::uint16_t> glyphs;
+    for (unsigned id = 0; id < hb_face_get_glyph_count(m_face.get()); ++id) {
+        if (hb_map_has(old, id) != 0) {
+            glyphs.insert(static_cast<std::uint16_t>(hb_map_get(old, id)));
+        }
+    }
+    return glyphs;
+}
+
 } // namespace folioforge

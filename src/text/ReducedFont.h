@@ -30,6 +30,8 @@ class ReducedFont {
     [[nodiscard]] QByteArray file() const;
     /// The new id of one of the glyphs.
     [[nodiscard]] std::uint16_t idOf(std::uint16_t glyph) const;
+    /// The glyphs of the face that it has: those asked for, and what they are put together from.
+    [[nodiscard]] std::set<std::uint16_t> glyphs() const;
 
   private:
     ReducedFont(HarfBuzz<hb_subset_plan_t> plan, HarfBuzz<hb_face_t> face);

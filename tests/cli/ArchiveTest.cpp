@@ -280,6 +280,29 @@ class ArchiveTest : public QObject, ArchiveCase {
         QVERIFY(outputs().isEmpty());
     }
 
+    void aPropertyBeyondTheLimitIsRefused() {
+        const QString longest(16382, u'ö');
+        QCOMPARE(
+            merge("a.pdf", archive(u"2u"_s) + QStringList{u"--title"_s, longest, text("a.txt")})
+                .exitCode,
+            0);
+        QCOMPARE(faultsOf(u"2u"_s, {path("a.pdf")}), QByteArray());
+        const ToolRun run = merge(
+            "b.pdf", archive(u"2u"_s) + QStringList{u"--title"_s, longest + u'ö', text("a.txt")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(run.err.contains("longer than PDF/A-2u allows"));
+    }
+
+    void thousandsOfGlyphsOfAFontAreAllStated() {
+        QString text;
+        for (int i = 0; i < 5000; ++i) {
+            text += QChar(0x4E00 + i * 7919 % 5003);
+            text += i % 40 == 39 ? u"\n"_s : QString();
+        }
+        merge("a.pdf", archive(u"1b"_s) + QStringList(this->text("a.txt", text.toUtf8())));
+        QCOMPARE(faultsOf(u"1b"_s, {path("a.pdf")}), QByteArray());
+    }
+
     void passwordsAreWrongUsage() {
         const QString password = text("secret", "word");
         const ToolRun run = convert(

@@ -38,7 +38,7 @@ class ArchiveRules {
     /// `before` are the output intents of the sources before it, null where none has any.
     void keepSource(const ImportedDocument &source, bool isEncrypted,
                     const ImportedOutputIntents *before, int page);
-    /// Brings the document information into line.
+    /// Brings the document information into line. Throws Error where it is too long.
     void keepInfo(DocumentInfo &info) const;
 
     [[nodiscard]] FontRules fontRules() const;

@@ -41,7 +41,7 @@ FontSubset makeFontSubset(const FontFace &face, const std::optional<GlyphCids> &
     subset.program = reduced->cffTable();
     if (!subset.program.isEmpty()) {
         subset.kind = FontSubset::Kind::Cff;
-        subset.cids = cidsOf(*cids, glyphs);
+        subset.cids = cidsOf(*cids, reduced->glyphs());
         return subset;
     }
     subset.program = reduced->file();
