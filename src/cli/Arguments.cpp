@@ -70,8 +70,8 @@ class ArgumentReader {
         const QByteArray value = option.kind == Option::Switch ? QByteArray()
                                  : equals < 0                  ? takeValueOf(name)
                                                                : argument.sliced(equals + 1);
-        m_result.given += QString::fromUtf8(
-            option.kind == Option::Switch ? name : name + '=' + value);
+        m_result.given +=
+            QString::fromUtf8(option.kind == Option::Switch ? name : name + '=' + value);
         const qsizetype rounded = m_result.rounded.size();
         try {
             option.apply(m_result, value);
@@ -130,8 +130,9 @@ class ArgumentReader {
             throw ArgumentFault(u"--dry-run writes no PDF to standard output; merge into a file"_s);
         }
         if (!m_result.manifest.isEmpty() && (m_result.toStandardOutput || isDryRun(options))) {
-            throw ArgumentFault(u"--manifest tells of PDFs in files: it goes with neither \"--merge -\" "
-                                "nor --dry-run"_s);
+            throw ArgumentFault(
+                u"--manifest tells of PDFs in files: it goes with neither \"--merge -\" "
+                "nor --dry-run"_s);
         }
         if (m_result.bookmarkTitleFile && !hasThoseOfFiles(options.bookmarks)) {
             throw ArgumentFault(u"--bookmark-titles needs --bookmarks files or both"_s);

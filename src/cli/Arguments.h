@@ -68,7 +68,7 @@ struct Arguments {
     std::optional<SortOrder> sort; ///< Nothing: as given.
     bool toStandardOutput = false; ///< The merged PDF; `options` then name no place for it.
     ProgressMode progress = ProgressMode::Auto;
-    int jobs = 1; ///< How many PDFs are made at once.
+    int jobs = 1;                    ///< How many PDFs are made at once.
     QString manifest;                ///< The file of --manifest; empty for none.
     bool mayReplaceManifest = false; ///< --overwrite allows it.
     QStringList given;               ///< The options as they were given.

@@ -137,10 +137,10 @@ class Call : private RunObserver {
     TemporaryFolder &m_temporaryFolder;
     Console &m_console;
     ResultTeller m_teller;
-    std::vector<QString> m_names; ///< Of the inputs, as they were given.
-    std::vector<QString> m_files; ///< Where they are.
+    std::vector<QString> m_names;                  ///< Of the inputs, as they were given.
+    std::vector<QString> m_files;                  ///< Where they are.
     std::vector<std::optional<FileDates>> m_dates; ///< Of them, where a manifest is asked for.
-    std::size_t m_reported = 0;   ///< How many entries are.
+    std::size_t m_reported = 0;                    ///< How many entries are.
     ProgressLine m_progress;
     ReadableLinks m_readableLinks{m_temporaryFolder}; ///< Outlives the inputs that lead through it.
     PipedInputs m_pipes{m_arguments.inputType, m_readableLinks};

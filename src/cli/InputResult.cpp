@@ -62,8 +62,8 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
         own.outputSeconds = result.seconds;
         own.pageSize = entry.pageSize;
         own.state = !entry.pageSize.isValid() ? State::Finished
-                    : entry.verification         ? State::Verified
-                                                 : State::Planned;
+                    : entry.verification      ? State::Verified
+                                              : State::Planned;
         if (own.state == State::Verified) {
             own.pages = static_cast<int>(entry.verification->pages.size());
             own.firstPage = entry.verification->firstPage + 1;
@@ -96,9 +96,8 @@ QString InputResult::plan() const {
     }
     if (state == State::Verified) {
         return pages == 1 ? u"%1: page %2 is its source"_s.arg(input).arg(firstPage)
-                          : u"%1: pages %2 to %3 are their source"_s.arg(input)
-                                .arg(firstPage)
-                                .arg(firstPage + pages - 1);
+                          : u"%1: pages %2 to %3 are their source"_s.arg(input).arg(firstPage).arg(
+                                firstPage + pages - 1);
     }
     return u"%1: %2 of %3 x %4 points"_s
         .arg(input, pages == 1 ? u"1 page"_s : u"%1 pages, the first"_s.arg(pages))

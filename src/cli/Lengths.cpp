@@ -71,7 +71,7 @@ constexpr std::array<std::pair<QLatin1StringView, std::pair<double, double>>, 10
      {QLatin1StringView("Tabloid"), inInches(11, 17)},
      {QLatin1StringView("Executive"), inInches(7.25, 10.5)}}};
 
-std::optional<QSizeF> uprightSize(QStringView name) {
+std::optional<QSizeF> portraitSize(QStringView name) {
     const auto *const found = std::ranges::find_if(kPapers, [&](const auto &paper) {
         return name.compare(paper.first, Qt::CaseInsensitive) == 0;
     });
@@ -142,11 +142,11 @@ QByteArrayList paperNames() {
 std::optional<QSizeF> paperSize(QStringView name) {
     for (const auto &turned : {u"^T"_s, u"-landscape"_s}) {
         if (name.endsWith(turned, Qt::CaseInsensitive)) {
-            const auto upright = uprightSize(name.chopped(turned.size()));
-            return upright ? std::optional(upright->transposed()) : std::nullopt;
+            const auto portrait = portraitSize(name.chopped(turned.size()));
+            return portrait ? std::optional(portrait->transposed()) : std::nullopt;
         }
     }
-    return uprightSize(name);
+    return portraitSize(name);
 }
 
 } // namespace folioforge

@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-/// A line as sha256sum writes it: with a backslash in front where the name has signs that would break
-/// the line.
+/// A line as sha256sum writes it: with a backslash in front where the name has signs that would
+/// break the line.
 QByteArray checksumLine(const QString &name, const FileDigest &digest) {
     QByteArray bytes = QFile::encodeName(name);
     const bool isEscaped = bytes.contains('\\') || bytes.contains('\n') || bytes.contains('\r');

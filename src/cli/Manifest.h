@@ -15,8 +15,9 @@
 
 namespace folioforge {
 
-/// The list of --manifest: what went into PDFs and what came out, each file with its SHA-256. As JSON
-/// (docs/manifest.schema.json), or for a name that ends in ".sha256" as `sha256sum -c` reads it.
+/// The list of --manifest: what went into PDFs and what came out, each file with its SHA-256. As
+/// JSON (docs/manifest.schema.json), or for a name that ends in ".sha256" as `sha256sum -c` reads
+/// it.
 class Manifest {
   public:
     explicit Manifest(const Arguments &arguments);

@@ -49,10 +49,12 @@ HelpSection outputHelp() {
           "whether a PDF replaces a file of its name: never (the default), one older than its "
           "inputs, or any; no input ever"},
          {"--verify", "",
-          "each page of a PDF is held against its source before the PDF gets its name; where one is "
+          "each page of a PDF is held against its source before the PDF gets its name; where one "
+          "is "
           "another, there is no PDF"},
          {"--verify-only", "FILE",
-          "holds this PDF, whoever made it, against the inputs, with the options that would make it; "
+          "holds this PDF, whoever made it, against the inputs, with the options that would make "
+          "it; "
           "writes nothing"},
          {"--dry-run", "", "what would be written, with pages and sizes; writes nothing"},
          {"--jobs", "N", "so many PDFs are made at once, 1 to 256 (default 1)"},
@@ -179,7 +181,8 @@ HelpSection reportHelp() {
               "a progress line on standard error (default auto: on a terminal)"},
              {"--json", "", "one object a line on standard output for each input"},
              {"--manifest", "FILE",
-              "what went in and came out, each file with its SHA-256, as JSON; as sha256sum -c reads it "
+              "what went in and came out, each file with its SHA-256, as JSON; as sha256sum -c "
+              "reads it "
               "where FILE ends in .sha256"},
              {"--quiet", "", "nothing but errors and warnings"},
              {"--strict", "", "a warning counts as a failure: exit status 1"},

@@ -18,9 +18,9 @@ using namespace Qt::StringLiterals;
 namespace folioforge {
 namespace {
 
-constexpr int kMostJobs = 256;
+constexpr int kMaxJobs = 256;
 constexpr int kLeastDpi = 5; // What a picture may state.
-constexpr int kMostDpi = 25400;
+constexpr int kMaxDpi = 25400;
 constexpr int kBestQuality = 100; // Of a JPEG.
 
 /// Splits the path of the merged file; a name alone stands in the current folder, and "-" for
@@ -81,7 +81,7 @@ void takeCompression(const QString &text, ConversionOptions &options) {
     }
     QuartzFilter &filter = options.compressFilter.emplace();
     filter.resolution =
-        parseNumber(parts.first(), QuartzFilter::kLeastResolution, QuartzFilter::kMostResolution);
+        parseNumber(parts.first(), QuartzFilter::kLeastResolution, QuartzFilter::kMaxResolution);
     if (parts.size() == 2) {
         filter.jpegQuality = parseWhole(parts.last(), 1, kBestQuality);
     }
@@ -152,7 +152,7 @@ const std::vector<Option> &outputOptions() {
          [](Arguments &to, Value value) { takeVerifiedPath(textOf(value), to); }},
         {"--dry-run", Option::Switch, [](Arguments &to, Value) { to.options.dryRun = true; }},
         {"--jobs", Option::Valued,
-         [](Arguments &to, Value value) { to.jobs = parseWhole(textOf(value), 1, kMostJobs); }},
+         [](Arguments &to, Value value) { to.jobs = parseWhole(textOf(value), 1, kMaxJobs); }},
         {"--flush", Option::Valued,
          [](Arguments &to, Value value) {
              to.options.flush =
@@ -236,7 +236,7 @@ const std::vector<Option> &pageOptions() {
          }},
         {"--image-dpi", Option::Valued,
          [](Arguments &to, Value value) {
-             to.options.imageLayout.unstatedDpi = parseWhole(textOf(value), kLeastDpi, kMostDpi);
+             to.options.imageLayout.unstatedDpi = parseWhole(textOf(value), kLeastDpi, kMaxDpi);
          }},
         {"--image-pages", Option::Valued,
          [](Arguments &to, Value value) {

@@ -51,10 +51,10 @@ void takeSize(const QString &text, int customMode, const QString &fault, PageSet
     setup.customWidth = wholeLength(sides[0], fault, rounded);
     setup.customHeight = wholeLength(sides[1], fault, rounded);
     for (const qint64 side : {setup.customWidth, setup.customHeight}) {
-        if (side < kShortestSide || side > kLongestSide) {
+        if (side < kShortestSide || side > kMaxSide) {
             throw ArgumentFault(u"\"%1\" is no page: its sides are %2 to %3 points long"_s.arg(text)
                                     .arg(kShortestSide)
-                                    .arg(kLongestSide));
+                                    .arg(kMaxSide));
         }
     }
 }

@@ -84,9 +84,9 @@ InputPasswords readInputPasswords(const Arguments &arguments) {
     if (!arguments.inputPasswordFile) {
         return nullptr;
     }
-    constexpr qint64 kMostBytes = 1 << 20;
+    constexpr qint64 kMaxBytes = 1 << 20;
     const QByteArray lines =
-        contentsOf(*arguments.inputPasswordFile, "--input-password-file"_L1, kMostBytes);
+        contentsOf(*arguments.inputPasswordFile, "--input-password-file"_L1, kMaxBytes);
     std::vector<QByteArray> passwords;
     for (const QByteArray &line : linesIn(lines)) {
         if (line.isEmpty()) {

@@ -91,7 +91,8 @@ QString nameOf(PageProof proof) {
     return u"differs"_s;
 }
 
-/// Runs of pages that were shown alike; each page that differs by itself, as far as it has a reason.
+/// Runs of pages that were shown alike; each page that differs by itself, as far as it has a
+/// reason.
 QJsonArray toJson(const EntryVerification &verification) {
     QJsonArray runs;
     const auto &pages = verification.pages;
@@ -214,8 +215,8 @@ QByteArray toJson(const InputResult &result) {
         {u"state"_s, nameOf(result.state)}};
     addTo(object, result.source, u"bytes"_s, u"sha256"_s);
     addTo(object, result.target, u"outputBytes"_s, u"outputSha256"_s);
-    for (const auto &[key, date] : {std::pair(u"modified"_s, result.modified),
-                                    std::pair(u"created"_s, result.created)}) {
+    for (const auto &[key, date] :
+         {std::pair(u"modified"_s, result.modified), std::pair(u"created"_s, result.created)}) {
         if (date.isValid()) {
             object.insert(key, toText(date));
         }

@@ -18,8 +18,8 @@ QByteArray reportHead(const QStringList &rounded);
 /// The result as one JSON object on one line, without a line ending.
 QByteArray toJson(const InputResult &result);
 
-/// What a manifest begins with, one JSON object on one line: its version, the program's and those of
-/// its libraries, when it is made and the options that were given.
+/// What a manifest begins with, one JSON object on one line: its version, the program's and those
+/// of its libraries, when it is made and the options that were given.
 QByteArray manifestHead(const QStringList &options, const QDateTime &created);
 
 /// A file with what it holds as one JSON object.

@@ -49,8 +49,8 @@ void ResultTeller::addDigest(const QString &path, InputResult &result,
             printable(result.input)));
     } else if (m_manifest && dates) {
         constexpr qint64 kNanosOfAMillisecond = 1'000'000;
-        result.modified = QDateTime::fromMSecsSinceEpoch(dates->version.modifiedNanos /
-                                                         kNanosOfAMillisecond);
+        result.modified =
+            QDateTime::fromMSecsSinceEpoch(dates->version.modifiedNanos / kNanosOfAMillisecond);
         result.created = dates->created;
     }
 }

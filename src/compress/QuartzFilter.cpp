@@ -73,7 +73,7 @@ QuartzFilter readQuartzFilter(const QString &path) {
     const FilterReader file(path, readPropertyList(path));
     QuartzFilter filter;
     filter.resolution =
-        file.number(u"Resolution"_s, QuartzFilter::kLeastResolution, QuartzFilter::kMostResolution);
+        file.number(u"Resolution"_s, QuartzFilter::kLeastResolution, QuartzFilter::kMaxResolution);
     filter.jpegQuality = static_cast<int>(file.number(u"JPEGQuality"_s, 1, 100));
     const FilterReader left = file.dictionary(u"LeaveAlone"_s);
     filter.tolerance = left.number(u"ResolutionTolerance"_s, 1, 10);

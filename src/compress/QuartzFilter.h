@@ -11,7 +11,7 @@ namespace folioforge {
 /// What one filter file says about reducing the images of a document.
 struct QuartzFilter {
     static constexpr double kLeastResolution = 9;
-    static constexpr double kMostResolution = 2400;
+    static constexpr double kMaxResolution = 2400;
 
     double resolution = 150; ///< Pixels per inch of printed size that an image is sampled down to.
     int jpegQuality = 65;    ///< 1 to 100, on the scale of libjpeg.

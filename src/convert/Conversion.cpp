@@ -83,11 +83,9 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
     timer.start();
     EntryOutcome outcome;
     const PDFContext::Mark before = context.mark();
-    const QString failure =
-        reasonOfFailure([&] {
-            addPages(entry, context, options, stop, outcome,
-                     options.keepsRecord() ? &record : nullptr);
-        });
+    const QString failure = reasonOfFailure([&] {
+        addPages(entry, context, options, stop, outcome, options.keepsRecord() ? &record : nullptr);
+    });
     outcome.written = failure.isEmpty();
     if (!outcome.written) {
         context.rollBack(before);
@@ -184,10 +182,9 @@ void addAllMarginTexts(std::span<const PDFFileInfo *const> entries, PDFContext &
     for (std::size_t i = 0; i < outcomes.size(); ++i) {
         EntryOutcome &outcome = outcomes[i];
         if (entries[i]->kind() == FileKind::Text) {
-            std::ranges::move(
-                addMarginTexts(*entries[i], first, outcome.pages, context, options, stop,
-                               &record[i]),
-                std::back_inserter(outcome.warnings));
+            std::ranges::move(addMarginTexts(*entries[i], first, outcome.pages, context, options,
+                                             stop, &record[i]),
+                              std::back_inserter(outcome.warnings));
         }
         first += outcome.pages;
     }
@@ -200,11 +197,9 @@ CloseResult notWritten(const QString &reason) {
 /// Holds the pages of a dry run against the PDF that they are to be found in.
 CloseResult closeFound(const DocumentRecord &record, const ConversionOptions &options,
                        const std::stop_token &stop, std::vector<EntryOutcome> &entries) {
-    const QString failure =
-        reasonOfFailure([&] { verifyFound(record, options, stop, entries); });
-    return failure.isEmpty()
-               ? CloseResult{CloseResult::Status::Written, options.verifyOnly, {}, {}}
-               : notWritten(failure);
+    const QString failure = reasonOfFailure([&] { verifyFound(record, options, stop, entries); });
+    return failure.isEmpty() ? CloseResult{CloseResult::Status::Written, options.verifyOnly, {}, {}}
+                             : notWritten(failure);
 }
 
 CloseResult closeContext(PDFContext &context, const QString &path, const QString &fileName,
@@ -303,9 +298,8 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     }
     if (!stop.stop_requested()) {
         const QString fileName = entries.empty() ? QString() : entries.front()->fileName();
-        const QString failure = reasonOfFailure([&] {
-            addAllMarginTexts(entries, context, options, stop, outcome.entries, record);
-        });
+        const QString failure = reasonOfFailure(
+            [&] { addAllMarginTexts(entries, context, options, stop, outcome.entries, record); });
         const auto inspect = verifyingInspection(record, options, stop, outcome.entries);
         outcome.close = failure.isEmpty() ? closeContext(context, path, fileName, options, inspect)
                                           : notWritten(failure);

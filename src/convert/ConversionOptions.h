@@ -76,7 +76,7 @@ struct ConversionOptions {
     std::shared_ptr<const FontCascade> textFont;
     QString textEncoding; ///< Of texts that are not read yet, as decodeText() takes it; else UTF-8.
     std::optional<ReadableStyle> readable; ///< Text is set as a person sets it.
-    int mostTextPages = 0; ///< Of an entry, for one who looks at a part of it; 0 for all.
+    int maxTextPages = 0;  ///< Of an entry, for one who looks at a part of it; 0 for all.
     int compressIndex = 0; ///< 0 none, 1 "150m", 2 "96m", 3 "72l".
     std::optional<QuartzFilter> compressFilter; ///< In place of the filter of that row.
     bool compressGrey = false;                  ///< Pictures in colour become grey.

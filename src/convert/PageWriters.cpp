@@ -27,12 +27,12 @@ namespace {
 class ContextSink : public TextPageSink {
   public:
     ContextSink(PDFContext &context, std::shared_ptr<const FontCascade> font, QSizeF pageSize,
-                bool isTagged, int mostPages, const std::stop_token &stop)
+                bool isTagged, int maxPages, const std::stop_token &stop)
         : m_context(context)
         , m_font(std::move(font))
         , m_page(QPointF(0, 0), pageSize)
         , m_isTagged(isTagged)
-        , m_mostPages(mostPages)
+        , m_maxPages(maxPages)
         , m_stop(stop) {}
 
     /// What is drawn is recorded too.
@@ -42,7 +42,7 @@ class ContextSink : public TextPageSink {
 
     [[nodiscard]] bool wantsReadingOrder() const override { return m_isTagged && !m_isArtifact; }
     [[nodiscard]] bool wantsPage() override {
-        return !m_stop.stop_requested() && (m_mostPages == 0 || m_pages < m_mostPages);
+        return !m_stop.stop_requested() && (m_maxPages == 0 || m_pages < m_maxPages);
     }
     void beginPage() override {
         ++m_pages;
@@ -132,7 +132,7 @@ class ContextSink : public TextPageSink {
     bool m_isTagged;
     bool m_isArtifact = false;
     bool m_isReading = false;
-    int m_mostPages;
+    int m_maxPages;
     int m_pages = 0;
     const std::stop_token &m_stop;
 };
@@ -193,8 +193,7 @@ void drawOnPage(PdfImage image, const QString &description, PDFContext &context,
     const ImagePlacement placement =
         placeImage(image.header.sizeInPoints(layout.unstatedDpi), options.imagePage, layout);
     context.beginPage(QRectF(QPointF(0, 0), placement.page));
-    const auto clip =
-        layout.fit == ImageFit::Fill ? std::optional(placement.space) : std::nullopt;
+    const auto clip = layout.fit == ImageFit::Fill ? std::optional(placement.space) : std::nullopt;
     if (clip) {
         context.clipToRect(*clip);
     }
@@ -217,7 +216,7 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
     SourceText source = entry.sourceText(options.calls, options.textEncoding);
     const QSizeF pageSize = getTextPageSize(options.textPage);
     const auto font = fontOf(options);
-    ContextSink sink(context, font, pageSize, options.tagged, options.mostTextPages, stop);
+    ContextSink sink(context, font, pageSize, options.tagged, options.maxTextPages, stop);
     std::optional<TextRecorder> recorder;
     if (record != nullptr) {
         if (!options.verifyOnly.isEmpty()) {
@@ -249,8 +248,8 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
     const double width = page.width() - left - static_cast<double>(margins.right);
     const QRectF above(left, page.height() - top, width, top);
     const QRectF below(left, 0, width, static_cast<double>(margins.bottom));
-    PageFacts facts{entry.fileName(), 0, context.pageCount(),
-                    context.creationDate().toString(u"yyyy-MM-dd")};
+    PageMetadata metadata{entry.fileName(), 0, context.pageCount(),
+                          context.creationDate().toString(u"yyyy-MM-dd")};
     const auto font = fontOf(options);
     ContextSink sink(context, font, page, options.tagged, 0, stop);
     sink.drawArtifacts();
@@ -259,11 +258,11 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
     sink.recordTo(recorder);
     MarginText texts(*font);
     for (int i = first; i < first + pages && !stop.stop_requested(); ++i) {
-        facts.page = i + 1;
+        metadata.page = i + 1;
         context.drawArtifact(i, [&] {
             context.setFont(font, font->size());
-            texts.setInto(above, withFacts(options.readable->header, facts), sink);
-            texts.setInto(below, withFacts(options.readable->footer, facts), sink);
+            texts.setInto(above, withMetadata(options.readable->header, metadata), sink);
+            texts.setInto(below, withMetadata(options.readable->footer, metadata), sink);
         });
         recorder.endPage();
     }

@@ -162,8 +162,7 @@ CompressionOutcome Run::compressed(const QString &path, const QString &temporary
             observer.endPageWrite(pageIndex, pageCount);
         });
     if (outcome.convertInfo) {
-        outcome.error =
-            verifyCopy(path, outcome.convertInfo->tempFilePathName, m_options, m_stop);
+        outcome.error = verifyCopy(path, outcome.convertInfo->tempFilePathName, m_options, m_stop);
     }
     if (!outcome.error.isEmpty()) {
         outcome.convertInfo.reset();

@@ -36,10 +36,10 @@ struct RunResult {
 struct RunSummary {
     int madePDFs = 0;
     int failedPDFs = 0;
-    int failedEntries = 0; ///< Of PDFs that were made without them.
-    int pages = 0;         ///< Of all PDFs that were made.
+    int failedEntries = 0;    ///< Of PDFs that were made without them.
+    int pages = 0;            ///< Of all PDFs that were made.
     bool areVerified = false; ///< Each of their pages was held against its source.
-    QString lastPath;      ///< Of the last PDF that was made.
+    QString lastPath;         ///< Of the last PDF that was made.
 
     [[nodiscard]] bool hasFailures() const { return failedPDFs > 0 || failedEntries > 0; }
 };

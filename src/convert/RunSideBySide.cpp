@@ -18,7 +18,7 @@ namespace folioforge {
 namespace {
 
 /// Hears nothing: PDFs that are made at once have no common progress.
-class DeafObserver : public ConversionObserver {
+class SilentObserver : public ConversionObserver {
   public:
     void progressChanged(float /*value*/) override {}
     void entryDone(std::size_t /*index*/, bool /*written*/) override {}
@@ -115,9 +115,9 @@ void Run::convertSideBySide(TemporaryFolder &temporaryFolder, RunObserver &obser
     }
     QString folder = compresses() ? temporaryFolder.path() : QString();
     const auto make = [&](std::size_t entry) {
-        DeafObserver deaf;
+        SilentObserver silent;
         return makePDF(
-            entry, outputs[entry], [&] { return folder; }, deaf);
+            entry, outputs[entry], [&] { return folder; }, silent);
     };
     OrderedResults(m_entries.size(), make, m_stop).forEach(jobs, [&](RunResult result) {
         observer.pdfBegins(result.firstEntry);

@@ -25,7 +25,8 @@ QList<QByteArray> openingPasswords(const SecuritySettings &security) {
 }
 
 VerifyOptions verifyOptions(const ConversionOptions &options, const std::stop_token &stop) {
-    return {options.inputPasswords, options.calls, stop, options.compresses(), options.compressGrey};
+    return {options.inputPasswords, options.calls, stop, options.compresses(),
+            options.compressGrey};
 }
 
 /// A document that has its name; `file` must outlive it.
@@ -58,10 +59,11 @@ Inspection verifyingInspection(const DocumentRecord &record, const ConversionOpt
         return {};
     }
     return [&, stop](OutputFile &file, std::uint32_t checksum) {
-        const WrittenDocument document{
-            "the PDF", file.size(),
-            [&file](qint64 offset, std::span<char> target) { return file.readInto(offset, target); },
-            checksum, openingPasswords(options.security)};
+        const WrittenDocument document{"the PDF", file.size(),
+                                       [&file](qint64 offset, std::span<char> target) {
+                                           return file.readInto(offset, target);
+                                       },
+                                       checksum, openingPasswords(options.security)};
         auto results = verifyDocument(document, record, verifyOptions(options, stop));
         if (!keep(std::move(results), entries)) {
             throw Error(Reasons::tr("Not every page of the PDF is its source"));

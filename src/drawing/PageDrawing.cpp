@@ -12,11 +12,11 @@ namespace {
 
 constexpr qsizetype kHeaderBytes = 4 * sizeof(qint32);
 constexpr int kPixelBytes = 4;
-constexpr int kMostPixels = 1 << 14; ///< On a side; more are on no screen.
+constexpr int kMaxPixels = 1 << 14; ///< On a side; more are on no screen.
 
 bool isDrawable(QSize size) {
-    return size.width() > 0 && size.height() > 0 && size.width() <= kMostPixels &&
-           size.height() <= kMostPixels;
+    return size.width() > 0 && size.height() > 0 && size.width() <= kMaxPixels &&
+           size.height() <= kMaxPixels;
 }
 
 qsizetype pixelBytes(QSize size) {
@@ -65,7 +65,7 @@ std::optional<DrawnPage> toDrawnPage(const QByteArray &bytes, QSize room) {
     return DrawnPage{page, pages, size, bytes.sliced(kHeaderBytes)};
 }
 
-qsizetype mostBytes(QSize room) {
+qsizetype maxBytes(QSize room) {
     return kHeaderBytes + pixelBytes(room);
 }
 

@@ -38,7 +38,7 @@ QByteArray toBytes(const DrawnPage &page);
 /// Nothing where `bytes` are no page, or one that does not fit into `room`.
 std::optional<DrawnPage> toDrawnPage(const QByteArray &bytes, QSize room);
 /// The most bytes that a page in `room` has.
-qsizetype mostBytes(QSize room);
+qsizetype maxBytes(QSize room);
 
 /// How the program ends without a page.
 enum class DrawingFailure { WrongArguments = 2, NotReadable = 3, NeedsPassword = 4, NoPage = 5 };

@@ -26,17 +26,17 @@ enum class WarningCode {
     StructureDamaged,  ///< Parts of the structure tree of a source PDF cannot be read.
     PartlyTagged,      ///< Sources without structure tags stand beside tagged ones.
     SignatureRemoved,  ///< A source PDF is signed, and the signature holds no longer.
-    FieldsRenamed,   ///< Form fields got other names, since another document has fields of theirs.
-    ClaimDropped,    ///< A source PDF says that it keeps a standard which the PDF does not keep.
-    PageSize,        ///< A page is smaller or larger than readers are required to show.
-    NotFlushed,      ///< The file system cannot flush a file to the disk.
-    EncodingGuessed, ///< Only the frequency of its bytes tells the encoding of a text.
-    ProtectionLeft,  ///< A source PDF is protected, and the PDF made of it is not, or otherwise.
-    MarginTextCut,   ///< A header or a footer has more rows than its margin has room for.
-    ColorsDiffer,    ///< A picture has colours that a PDF shows otherwise.
-    OpacityBlended,  ///< A picture is partly transparent and is laid on white.
-    ClaimTaken,      ///< A source PDF says that it keeps a standard, and the PDF says so after it.
-    ClaimMissing,    ///< The PDF does not say that it keeps the standard that was asked for.
+    FieldsRenamed,    ///< Form fields got other names, since another document has fields of theirs.
+    ClaimDropped,     ///< A source PDF says that it keeps a standard which the PDF does not keep.
+    PageSize,         ///< A page is smaller or larger than readers are required to show.
+    NotFlushed,       ///< The file system cannot flush a file to the disk.
+    EncodingGuessed,  ///< Only the frequency of its bytes tells the encoding of a text.
+    ProtectionLeft,   ///< A source PDF is protected, and the PDF made of it is not, or otherwise.
+    MarginTextCut,    ///< A header or a footer has more rows than its margin has room for.
+    ColorsDiffer,     ///< A picture has colours that a PDF shows otherwise.
+    OpacityBlended,   ///< A picture is partly transparent and is laid on white.
+    ClaimTaken,       ///< A source PDF says that it keeps a standard, and the PDF says so after it.
+    ClaimMissing,     ///< The PDF does not say that it keeps the standard that was asked for.
     LaidOutOtherwise, ///< A finished PDF holds all of an input, but not where it would stand now.
 };
 

@@ -47,11 +47,11 @@ QByteArray tableOf(const Curve &curve, int steps) {
 std::optional<QByteArray> tagOf(const QByteArray &profile, QByteArrayView name) {
     constexpr qsizetype kTable = 128;
     constexpr qsizetype kEntry = 12;
-    constexpr quint32 kMostTags = 1000;
+    constexpr quint32 kMaxTags = 1000;
     if (profile.size() < kTable + 4) {
         return std::nullopt;
     }
-    const auto count = std::min(bigEndianAt<quint32>(profile, kTable), kMostTags);
+    const auto count = std::min(bigEndianAt<quint32>(profile, kTable), kMaxTags);
     for (qsizetype i = 0; i < count; ++i) {
         const qsizetype at = kTable + 4 + i * kEntry;
         if (at + kEntry > profile.size()) {

@@ -86,7 +86,7 @@ class Pictures {
             return false;
         }
         m_pixels += qint64(image->width) * image->height;
-        if (m_pixels > kMostPixels) {
+        if (m_pixels > kMaxPixels) {
             warn(WarningCode::MorePictures,
                  Reasons::tr(
                      "It and those behind it are left out, since they are too large together"));
@@ -118,7 +118,7 @@ class Pictures {
     }
 
     /// A small file may name a large picture any number of times.
-    static constexpr qint64 kMostPixels = 20 * kMaxImagePixels;
+    static constexpr qint64 kMaxPixels = 20 * kMaxImagePixels;
 
     const OpenFile &m_file;
     const ImageFormat &m_format;

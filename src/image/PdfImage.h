@@ -57,8 +57,8 @@ struct PdfImage {
 
     /// The compressed data: either in `data`, or slices of `source` in this order.
     QByteArray data;
-    /// checksumOf() what was compressed, taken before it was, where that was done here: the samples,
-    /// or with `hasFilteredRows` the rows with their filter numbers.
+    /// checksumOf() what was compressed, taken before it was, where that was done here: the
+    /// samples, or with `hasFilteredRows` the rows with their filter numbers.
     std::optional<quint64> unpacked;
     bool hasFilteredRows = false; ///< `unpacked` is of rows that the file had filtered.
     std::vector<FileSlice> slices;

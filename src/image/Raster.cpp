@@ -192,10 +192,10 @@ void requirePlausible(qint64 raw, qint64 compressed, qint64 ratio) {
 
 void requirePlausibleArea(const ImageHeader &header, qint64 compressed) {
     constexpr qint64 kAlwaysPlausible = 100'000'000;
-    constexpr qint64 kMostPacked = 4000;
+    constexpr qint64 kMaxPacked = 4000;
     const qint64 pixels = qint64(header.width) * header.height;
     if (pixels > kAlwaysPlausible) {
-        requirePlausible(3 * pixels, compressed, kMostPacked);
+        requirePlausible(3 * pixels, compressed, kMaxPacked);
     }
 }
 

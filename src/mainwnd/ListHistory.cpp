@@ -113,7 +113,7 @@ void ListHistory::perform(Step step) {
 void ListHistory::forgetOldSteps() {
     const auto add = [](std::size_t sum, const Step &step) { return sum + step.entries; };
     std::size_t entries = std::accumulate(m_steps.begin(), m_steps.end(), std::size_t(0), add);
-    while (m_steps.size() > 1 && (m_steps.size() > kMostSteps || entries > kMostEntries)) {
+    while (m_steps.size() > 1 && (m_steps.size() > kMaxSteps || entries > kMaxEntries)) {
         entries -= m_steps.front().entries;
         m_steps.pop_front();
     }

@@ -46,8 +46,8 @@ class ListHistory : public QObject {
 
     /// The steps that are kept, and the entries that they may hold together; the last step is
     /// always kept. Texts are held whole, so that there has to be an end.
-    static constexpr std::size_t kMostSteps = 100;
-    static constexpr std::size_t kMostEntries = 20'000;
+    static constexpr std::size_t kMaxSteps = 100;
+    static constexpr std::size_t kMaxEntries = 20'000;
 
   private:
     struct Step {

@@ -51,7 +51,7 @@ QTextEdit *scrollingText(const QLabel &text, const QSize &most) {
 
 /// The largest size of a notice's text: about 72 characters a line, on a small screen half its
 /// width, and half its height.
-QSize mostText(const QFontMetrics &font, const QSize &screen) {
+QSize maxText(const QFontMetrics &font, const QSize &screen) {
     constexpr int kReadableLine = 72;
     return {std::min(font.averageCharWidth() * kReadableLine, screen.width() / 2),
             screen.height() / 2};
@@ -65,7 +65,7 @@ void fitText(QMessageBox &box, const QSize &screen) {
         return;
     }
     auto *grid = qobject_cast<QGridLayout *>(box.layout());
-    const QSize most = mostText(text->fontMetrics(), screen);
+    const QSize most = maxText(text->fontMetrics(), screen);
     if (text->sizeHint().height() > most.height() ||
         text->minimumSizeHint().width() > most.width()) {
         QTextEdit *view = scrollingText(*text, most);

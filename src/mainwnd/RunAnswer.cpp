@@ -52,7 +52,8 @@ QString inWords(const RunSummary &summary) {
     }
     const bool isOne = summary.madePDFs + summary.failedPDFs == 1;
     const QString count = isOne ? onePdf(summary) : severalPdfs(summary.madePDFs);
-    const QString made = summary.areVerified ? RunAnswer::tr("%1, every page checked").arg(count) : count;
+    const QString made =
+        summary.areVerified ? RunAnswer::tr("%1, every page checked").arg(count) : count;
     return summary.hasFailures() ? RunAnswer::tr("%1, %2", "what was made, what was not")
                                        .arg(made, failuresOf(summary))
                                  : made;

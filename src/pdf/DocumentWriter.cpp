@@ -59,8 +59,8 @@ std::uint32_t crcOf(const QByteArray &bytes) {
     return libdeflate_crc32(0, bytes.constData(), static_cast<std::size_t>(bytes.size()));
 }
 
-/// The CRC-32 of a file without `tail`, with which it has the CRC-32 `checksum`: each step of the sum
-/// is taken back.
+/// The CRC-32 of a file without `tail`, with which it has the CRC-32 `checksum`: each step of the
+/// sum is taken back.
 std::uint32_t crcBefore(std::uint32_t checksum, const QByteArray &tail) {
     constexpr std::uint32_t kPolynomial = 0xEDB88320;
     constexpr unsigned kBits = 8;
@@ -90,7 +90,8 @@ std::uint32_t clearId(Trailer &trailer, std::uint32_t checksum) {
 
 /// Replaces the identifier, which the library derives from the time, by one that follows from the
 /// document. `checksum` is the CRC-32 of the file; the library's deterministic identifier is an
-/// MD5 over all bytes, which takes as long as reading them from a disk. Gives that of the file then.
+/// MD5 over all bytes, which takes as long as reading them from a disk. Gives that of the file
+/// then.
 std::uint32_t replaceId(QPDF &document, OutputFile &file, std::uint32_t checksum) {
     Trailer trailer = readTrailer(file);
     checksum = clearId(trailer, checksum);
@@ -168,7 +169,7 @@ void writeFurther(QPDFWriter &writer, OutputFile &file, OutputPipeline &pipeline
 } // namespace
 
 std::uint32_t writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
-                   const DocumentForm &form, const FurtherObjects &further) {
+                            const DocumentForm &form, const FurtherObjects &further) {
     OutputPipeline pipeline(file);
     translateQpdfErrors([&] {
         const auto model = further && encryption ? encryptedLike(*encryption) : nullptr;

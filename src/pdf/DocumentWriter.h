@@ -70,6 +70,6 @@ using FurtherObjects = std::function<void(const ObjectNumbers &, ObjectStreams &
 /// Where there are `further` objects, the form must not be the classic one. Gives
 /// the CRC-32 of all bytes of the file. Throws Error.
 std::uint32_t writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
-                   const DocumentForm &form, const FurtherObjects &further = {});
+                            const DocumentForm &form, const FurtherObjects &further = {});
 
 } // namespace folioforge

@@ -259,8 +259,8 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath,
                 writeElements(m_tags, *m_drawn, m_catalog.pages(), numberOf, streams);
             };
         }
-        const std::uint32_t checksum = writeDocument(
-            m_document, file, m_settings.encryption.get(), m_catalog.form(), elements);
+        const std::uint32_t checksum = writeDocument(m_document, file, m_settings.encryption.get(),
+                                                     m_catalog.form(), elements);
         m_reader->finish();
         translateQpdfErrors([&] { requireAllObjects(m_document, *m_reader); });
         Warnings warnings = file.finish(m_settings.flush);

@@ -19,7 +19,7 @@ namespace {
 
 bool isShown(const QSizeF &size) {
     const auto [shorter, longer] = std::minmax({size.width(), size.height()});
-    return shorter >= kShortestSide && longer <= kLongestSide;
+    return shorter >= kShortestSide && longer <= kMaxSide;
 }
 
 QSizeF sizeOfBox(QPDFObjectHandle &box) {

@@ -44,8 +44,8 @@ std::optional<QString> decoded(const QByteArray &packet) {
 
 /// What the time to read a packet grows with.
 struct PacketCounts {
-    int names = 0;          ///< Of elements and attributes, all in all.
-    int mostAttributes = 0; ///< Of one element.
+    int names = 0;         ///< Of elements and attributes, all in all.
+    int maxAttributes = 0; ///< Of one element.
 };
 
 PacketCounts countNames(QStringView packet) {
@@ -67,7 +67,7 @@ PacketCounts countNames(QStringView packet) {
             inTag = false;
         } else if (unit == u'=') {
             ++counts.names;
-            counts.mostAttributes = std::max(counts.mostAttributes, ++attributes);
+            counts.maxAttributes = std::max(counts.maxAttributes, ++attributes);
         }
     }
     return counts;
@@ -80,7 +80,7 @@ bool isQuick(const QString &packet) {
     constexpr int kMaxAttributes = 1000;
     constexpr qsizetype kMaxSteps = 100'000'000;
     const PacketCounts counts = countNames(packet);
-    return counts.mostAttributes <= kMaxAttributes &&
+    return counts.maxAttributes <= kMaxAttributes &&
            counts.names * packet.count("xmlns"_L1) <= kMaxSteps && !packet.contains("<!DOCTYPE"_L1);
 }
 

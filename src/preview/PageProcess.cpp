@@ -84,7 +84,7 @@ void PageProcess::stop() {
 
 void PageProcess::read() {
     m_answer += m_process->readAllStandardOutput();
-    if (m_answer.size() > mostBytes(m_room)) {
+    if (m_answer.size() > maxBytes(m_room)) {
         fail(tr("The page cannot be shown"));
     }
 }

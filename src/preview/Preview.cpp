@@ -107,7 +107,7 @@ void Preview::follow() {
 
 void Preview::write() {
     ConversionOptions options = m_subject.options;
-    options.mostTextPages = m_countedPages + 1; // One more tells that there are more.
+    options.maxTextPages = m_countedPages + 1; // One more tells that there are more.
     m_writer.write(m_subject.entry, std::move(options));
 }
 

@@ -19,7 +19,7 @@ namespace {
 
 constexpr double kSkinTextSize = 13;  ///< Of the words in the skins, in pixels.
 constexpr double kUsualTextSize = 15; ///< Up to here skins stay as they are drawn, which is sharp.
-constexpr double kMostTextScale = 2;
+constexpr double kMaxTextScale = 2;
 constexpr double kLeastWidth = 800; ///< Of a screen for a window with skins as they are drawn.
 
 /// `text` with a line break in place of the blank that is nearest to its middle.
@@ -41,7 +41,7 @@ double textScale() {
         return 1;
     }
     const double room = QGuiApplication::primaryScreen()->availableSize().width() / kLeastWidth;
-    return std::max(1.0, std::min({size / kSkinTextSize, kMostTextScale, room}));
+    return std::max(1.0, std::min({size / kSkinTextSize, kMaxTextScale, room}));
 }
 
 int scaledToText(int points) {

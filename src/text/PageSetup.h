@@ -23,7 +23,7 @@ inline constexpr qint64 kMaxMargin = 256;
 /// The shortest and the longest side of a page that every reader shows, in points (ISO 32000-1,
 /// annex C).
 inline constexpr int kShortestSide = 3;
-inline constexpr int kLongestSide = 14'400;
+inline constexpr int kMaxSide = 14'400;
 
 /// Page margins in whole PDF points (1/72 inch).
 struct PageMargins {

@@ -14,8 +14,8 @@ namespace {
 /// One of both documents.
 class OpenedDocument : public DocumentVerifier {
   public:
-    using DocumentVerifier::DocumentVerifier;
     using DocumentVerifier::compared;
+    using DocumentVerifier::DocumentVerifier;
     using DocumentVerifier::requireAppearances;
     using DocumentVerifier::requireGoingOn;
     using DocumentVerifier::requireUndamaged;

@@ -134,14 +134,14 @@ void ContentLexer::readString(std::string &text) {
 void ContentLexer::readEscape(std::string &text) {
     constexpr std::string_view kLetters = "nrtbf";
     constexpr std::string_view kMeant = "\n\r\t\b\f";
-    constexpr int kMostDigits = 3;
+    constexpr int kMaxDigits = 3;
     if (isAtEnd()) {
         return;
     }
     const char byte = m_content[m_at];
     if (isOctal(byte)) {
         unsigned value = 0;
-        for (int i = 0; i < kMostDigits && !isAtEnd() && isOctal(m_content[m_at]); ++i) {
+        for (int i = 0; i < kMaxDigits && !isAtEnd() && isOctal(m_content[m_at]); ++i) {
             value = value * 8 + static_cast<unsigned>(m_content[m_at++] - '0');
         }
         text += static_cast<char>(value);

@@ -10,7 +10,16 @@ namespace folioforge {
 
 /// A token of a content stream or a CMap (ISO 32000-1, 7.2 and 7.8.2).
 struct ContentToken {
-    enum class Kind { Number, Name, String, Word, BeginArray, EndArray, BeginDictionary, EndDictionary };
+    enum class Kind {
+        Number,
+        Name,
+        String,
+        Word,
+        BeginArray,
+        EndArray,
+        BeginDictionary,
+        EndDictionary
+    };
     Kind kind = Kind::Word;
     double number = 0;
     std::string text; ///< Of a name without its slash, of a string its bytes.

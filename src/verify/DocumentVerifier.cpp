@@ -94,8 +94,8 @@ void DocumentVerifier::requireAppearances(const ComparedDocument &source) {
 
 void DocumentVerifier::verifySource(const EntryRecord &entry, EntryVerification &result) {
     m_reader->beginAnew();
-    const auto source = openSourceDocument(FileVersion::of(entry.source->path), m_reader,
-                                           m_options.inputPasswords);
+    const auto source =
+        openSourceDocument(FileVersion::of(entry.source->path), m_reader, m_options.inputPasswords);
     withAllObjects(*source, *m_reader, [&] {
         ComparedDocument compared(*source);
         requireAppearances(compared);

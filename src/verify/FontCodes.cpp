@@ -23,8 +23,8 @@ namespace {
 using Kind = ContentToken::Kind;
 
 std::string mapOf(const QPDFObjectHandle &stream) {
-    constexpr std::size_t kLongest = 64 << 20;
-    if (auto text = unpacked(stream, kLongest)) {
+    constexpr std::size_t kMaxLength = 64 << 20;
+    if (auto text = unpacked(stream, kMaxLength)) {
         return std::move(*text);
     }
     throw Error(Reasons::tr("a font is damaged"));
@@ -45,7 +45,8 @@ QString textOf(std::string_view utf16) {
 
 /// Calls `take` with the strings of each entry of a section such as "beginbfchar": `count` of them.
 /// Other operands are given as empty strings, arrays token by token.
-template<typename Take> void forEachEntry(ContentLexer &lexer, std::size_t count, const Take &take) {
+template<typename Take>
+void forEachEntry(ContentLexer &lexer, std::size_t count, const Take &take) {
     std::vector<ContentToken> entry;
     ContentToken token;
     bool isInArray = false;
@@ -78,7 +79,9 @@ QString textOfName(const std::string &name) {
         const auto character = static_cast<char32_t>(code);
         return QString::fromUcs4(&character, 1);
     }
-    return text.size() == 1 ? text : text == u"space" ? u" "_s : QString(QChar::ReplacementCharacter);
+    return text.size() == 1   ? text
+           : text == u"space" ? u" "_s
+                              : QString(QChar::ReplacementCharacter);
 }
 
 /// The bytes of a stream without its filters. Throws Error where they are damaged.
@@ -114,8 +117,8 @@ void requireWholeProgram(const QPDFObjectHandle &font) {
 }
 
 bool isDeflatedAlone(QPDFObjectHandle stream) {
-    static constexpr std::array<std::string_view, 7> kKeys{"/Filter",   "/Length", "/Length1",      "/Subtype",
-                                      "/CMapName", "/Type",   "/CIDSystemInfo"};
+    static constexpr std::array<std::string_view, 7> kKeys{
+        "/Filter", "/Length", "/Length1", "/Subtype", "/CMapName", "/Type", "/CIDSystemInfo"};
     const auto keys = stream.getDict().getKeys();
     return stream.getDict().getKey("/Filter").isNameAndEquals("/FlateDecode") &&
            std::ranges::all_of(keys, [](const std::string &key) {
@@ -131,9 +134,8 @@ bool isDeflated(QPDFObjectHandle font) {
     std::vector<QPDFObjectHandle> parts{
         entry(font, "/Encoding"), entry(font, "/ToUnicode"), entry(descendant, "/CIDToGIDMap"),
         entry(descriptor, "/FontFile2"), entry(descriptor, "/FontFile3")};
-    return std::ranges::all_of(parts, [](QPDFObjectHandle part) {
-        return !part.isStream() || isDeflatedAlone(part);
-    });
+    return std::ranges::all_of(
+        parts, [](QPDFObjectHandle part) { return !part.isStream() || isDeflatedAlone(part); });
 }
 
 } // namespace
@@ -173,7 +175,9 @@ void FontCodes::readSimple(QPDFObjectHandle font) {
     m_defaultWidth = 0;
     const auto first = entry(font, "/FirstChar");
     auto code = static_cast<std::size_t>(
-        QPDFObjectHandle(first).isInteger() ? std::clamp(QPDFObjectHandle(first).getIntValueAsInt(), 0, 255) : 0);
+        QPDFObjectHandle(first).isInteger()
+            ? std::clamp(QPDFObjectHandle(first).getIntValueAsInt(), 0, 255)
+            : 0);
     for (QPDFObjectHandle width : items(entry(font, "/Widths"))) {
         if (code < m_widths.size() && width.isNumber()) {
             m_widths[code++] = static_cast<float>(width.getNumericValue());
@@ -198,7 +202,7 @@ void FontCodes::addDifferences(const QPDFObjectHandle &differences) {
 }
 
 void FontCodes::readEncodingMap(const std::string &map) {
-    constexpr std::size_t kMostSpaces = 256;
+    constexpr std::size_t kMaxSpaces = 256;
     ContentLexer lexer(map);
     ContentToken token;
     while (lexer.next(token)) {
@@ -208,22 +212,21 @@ void FontCodes::readEncodingMap(const std::string &map) {
         if (token.text == "begincodespacerange") {
             forEachEntry(lexer, 2, [&](const auto &entry) {
                 requireModest();
-                if (m_codeSpace.size() < kMostSpaces) {
+                if (m_codeSpace.size() < kMaxSpaces) {
                     m_codeSpace.push_back({static_cast<unsigned>(entry[0].text.size()),
-                                       numberOf(entry[0].text), numberOf(entry[1].text), 0});
+                                           numberOf(entry[0].text), numberOf(entry[1].text), 0});
                 }
             });
         } else if (token.text == "begincidrange") {
             forEachEntry(lexer, 3, [&](const auto &entry) {
-                addCids({static_cast<unsigned>(entry[0].text.size()),
-                                  numberOf(entry[0].text), numberOf(entry[1].text),
-                                  static_cast<std::uint32_t>(entry[2].number)});
+                addCids({static_cast<unsigned>(entry[0].text.size()), numberOf(entry[0].text),
+                         numberOf(entry[1].text), static_cast<std::uint32_t>(entry[2].number)});
             });
         } else if (token.text == "begincidchar") {
             forEachEntry(lexer, 2, [&](const auto &entry) {
                 const std::uint32_t code = numberOf(entry[0].text);
                 addCids({static_cast<unsigned>(entry[0].text.size()), code, code,
-                                  static_cast<std::uint32_t>(entry[1].number)});
+                         static_cast<std::uint32_t>(entry[1].number)});
             });
         }
     }
@@ -241,7 +244,8 @@ void FontCodes::readUnicodeMap(const std::string &map) {
         } else if (token.kind == Kind::Word && token.text == "beginbfrange") {
             forEachEntry(lexer, 3, [&](const auto &entry) {
                 const std::uint32_t first = numberOf(entry[0].text);
-                const std::uint32_t last = std::min<std::uint32_t>(numberOf(entry[1].text), kCodes - 1);
+                const std::uint32_t last =
+                    std::min<std::uint32_t>(numberOf(entry[1].text), kCodes - 1);
                 for (std::uint32_t code = first; code <= last; ++code) {
                     const std::uint32_t step = code - first;
                     if (entry[2].kind == Kind::String) {
@@ -257,14 +261,14 @@ void FontCodes::readUnicodeMap(const std::string &map) {
 
 /// A small file may name large ranges any number of times.
 void FontCodes::requireModest() {
-    constexpr int kMostSteps = 1 << 21;
-    if (++m_steps > kMostSteps) {
+    constexpr int kMaxSteps = 1 << 21;
+    if (++m_steps > kMaxSteps) {
         throw Error(Reasons::tr("a font is damaged"));
     }
 }
 
 void FontCodes::setText(std::uint32_t code, const QString &text) {
-    constexpr qsizetype kLongest = 64; // Of a code; no ligature has so many.
+    constexpr qsizetype kMaxLength = 64; // Of a code; no ligature has so many.
     requireModest();
     if (code < kCodes && text.size() == 1 && text[0] != u'\0') {
         m_units[code] = text[0].unicode();
@@ -272,7 +276,7 @@ void FontCodes::setText(std::uint32_t code, const QString &text) {
         if (code < kCodes) {
             m_units[code] = 0;
         }
-        m_texts.insert(code, text.left(kLongest));
+        m_texts.insert(code, text.left(kMaxLength));
     }
 }
 
@@ -299,7 +303,8 @@ void FontCodes::readCidWidths(QPDFObjectHandle cidFont) {
             i += 2;
             continue;
         }
-        const long long last = second.isInteger() ? std::min<long long>(second.getIntValue(), kCodes) : -1;
+        const long long last =
+            second.isInteger() ? std::min<long long>(second.getIntValue(), kCodes) : -1;
         for (; i + 2 < all.size() && cid <= last; ++cid) {
             put(cid, all[i + 2]);
         }
@@ -309,8 +314,8 @@ void FontCodes::readCidWidths(QPDFObjectHandle cidFont) {
 
 FontCodes::Code FontCodes::nextCode(std::string_view codes) const {
     Code code;
-    constexpr std::size_t kLongest = 4;
-    for (std::size_t length = 1; length <= std::min(kLongest, codes.size()); ++length) {
+    constexpr std::size_t kMaxLength = 4;
+    for (std::size_t length = 1; length <= std::min(kMaxLength, codes.size()); ++length) {
         const std::uint32_t value = numberOf(codes.substr(0, length));
         for (const Range &range : m_codeSpace) {
             if (range.length == length && value >= range.first && value <= range.last) {
@@ -332,7 +337,8 @@ std::uint32_t FontCodes::cidOf(const Code &code) const {
 }
 
 double FontCodes::widthOf(std::uint32_t cid) const {
-    return cid < m_widths.size() && m_widths[cid] >= 0 ? static_cast<double>(m_widths[cid]) : m_defaultWidth;
+    return cid < m_widths.size() && m_widths[cid] >= 0 ? static_cast<double>(m_widths[cid])
+                                                       : m_defaultWidth;
 }
 
 void FontCodes::indexFirstBytes() {
@@ -353,7 +359,8 @@ void FontCodes::show(std::string_view codes, double size, bool isRead, TextTrace
     constexpr double kThousandth = 0.001;
     double width = 0;
     for (std::size_t at = 0; at < codes.size();) {
-        if (const OneByte &known = m_oneByte[static_cast<unsigned char>(codes[at])]; known.unit != 0) {
+        if (const OneByte &known = m_oneByte[static_cast<unsigned char>(codes[at])];
+            known.unit != 0) {
             width += static_cast<double>(known.width);
             ++at;
             if (isRead) {

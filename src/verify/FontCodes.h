@@ -23,8 +23,8 @@ class TextTracer;
 /// their widths.
 class FontCodes {
   public:
-    /// Reads a font dictionary (ISO 32000-1, 9.6 to 9.10). Throws Error where a part of it cannot be
-    /// read, and what libqpdf throws. A font without a ToUnicode map has the characters of its
+    /// Reads a font dictionary (ISO 32000-1, 9.6 to 9.10). Throws Error where a part of it cannot
+    /// be read, and what libqpdf throws. A font without a ToUnicode map has the characters of its
     /// encoding as far as that is a usual one.
     static std::shared_ptr<const FontCodes> read(QPDFObjectHandle font);
 
@@ -68,7 +68,8 @@ class FontCodes {
     int m_steps = 0; ///< How much of its maps has been read.
     std::vector<char16_t> m_units = std::vector<char16_t>(kCodes); ///< 0 where `m_texts` says it.
     QHash<std::uint32_t, QString> m_texts;
-    std::vector<float> m_widths = std::vector<float>(256, -1); ///< By CID, thousandths; below 0 the default.
+    std::vector<float> m_widths =
+        std::vector<float>(256, -1); ///< By CID, thousandths; below 0 the default.
     double m_defaultWidth = 1000;
     struct OneByte {
         char16_t unit = 0; ///< 0 where the byte is no code by itself, or has not one character.

@@ -39,9 +39,9 @@ class FoundVerifier : private DocumentVerifier {
         int first = 0;
         std::vector<EntryVerification> results;
         for (auto entry = record.begin(); entry != record.end(); ++entry) {
-            const int needed = std::transform_reduce(
-                std::next(entry), record.end(), 0, std::plus<>(),
-                [](const EntryRecord &later) { return leastPages(later); });
+            const int needed =
+                std::transform_reduce(std::next(entry), record.end(), 0, std::plus<>(),
+                                      [](const EntryRecord &later) { return leastPages(later); });
             results.push_back(verify(*entry, first, static_cast<int>(pages().size()) - needed));
             first += static_cast<int>(results.back().pages.size());
         }
@@ -129,8 +129,7 @@ class FoundVerifier : private DocumentVerifier {
                                   pixelsOf(mask) == pixelsOfFile(*source.softMask, options().calls)
                             : Object(mask).isNull();
         // Readers of JPEG 2000 differ in what they pass over.
-        const bool isJpx =
-            Object(image).getDict().getKey("/Filter").isNameAndEquals("/JPXDecode");
+        const bool isJpx = Object(image).getDict().getKey("/Filter").isNameAndEquals("/JPXDecode");
         if (!found || !wanted || (isJpx && !options().mayReduce)) {
             result.keep(PageProof::Differs, fault);
         } else if (*found == *wanted && isSameMask) {
@@ -152,11 +151,13 @@ class FoundVerifier : private DocumentVerifier {
         TextMatch match(entry.textAgain());
         const auto goesOn = [&] {
             const int next = result.firstPage + static_cast<int>(result.pages.size());
-            return next < end && (!match.isDone() || result.pages.empty() || isBlank(nextPage(result)));
+            return next < end &&
+                   (!match.isDone() || result.pages.empty() || isBlank(nextPage(result)));
         };
         while (goesOn()) {
             requireGoingOn();
-            const bool matches = match.take(readContents(checks().contentsOf(nextPage(result)), 0).text);
+            const bool matches =
+                match.take(readContents(checks().contentsOf(nextPage(result)), 0).text);
             result.keep(PageProof::Characters,
                         matches ? QString()
                                 : Reasons::tr("its characters are not those of the text"));
@@ -200,8 +201,7 @@ class FoundVerifier : private DocumentVerifier {
 std::vector<EntryVerification> verifyFoundDocument(const WrittenDocument &document,
                                                    const DocumentRecord &record,
                                                    const VerifyOptions &options) {
-    return translateQpdfErrors(
-        [&] { return FoundVerifier(document, options).verify(record); });
+    return translateQpdfErrors([&] { return FoundVerifier(document, options).verify(record); });
 }
 
 } // namespace folioforge

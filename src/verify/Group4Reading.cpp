@@ -34,7 +34,8 @@ MemoryFile &fileBehind(thandle_t handle) {
 
 tmsize_t readFile(thandle_t handle, void *target, tmsize_t size) {
     MemoryFile &file = fileBehind(handle);
-    const auto got = std::clamp<qsizetype>(file.bytes.size() - file.at, 0, static_cast<qsizetype>(size));
+    const auto got =
+        std::clamp<qsizetype>(file.bytes.size() - file.at, 0, static_cast<qsizetype>(size));
     std::copy_n(file.bytes.constData() + file.at, got, static_cast<char *>(target));
     file.at += got;
     return got;
@@ -46,7 +47,9 @@ tmsize_t refuseToWrite(thandle_t /*handle*/, void * /*source*/, tmsize_t /*size*
 
 toff_t seekFile(thandle_t handle, toff_t offset, int whence) {
     MemoryFile &file = fileBehind(handle);
-    const qsizetype base = whence == SEEK_END ? file.bytes.size() : whence == SEEK_CUR ? file.at : 0;
+    const qsizetype base = whence == SEEK_END   ? file.bytes.size()
+                           : whence == SEEK_CUR ? file.at
+                                                : 0;
     file.at = base + static_cast<qsizetype>(offset);
     return static_cast<toff_t>(file.at);
 }
@@ -115,9 +118,9 @@ std::unique_ptr<TIFF, Free> open(MemoryFile &file) {
     const std::unique_ptr<TIFFOpenOptions, Free> options(TIFFOpenOptionsAlloc());
     TIFFOpenOptionsSetErrorHandlerExtR(options.get(), noteDamage, &file);
     TIFFOpenOptionsSetWarningHandlerExtR(options.get(), noteDamage, &file);
-    return std::unique_ptr<TIFF, Free>(TIFFClientOpenExt("strip", "rm", &file, readFile, refuseToWrite,
-                                                         seekFile, closeFile, fileSize, nullptr,
-                                                         nullptr, options.get()));
+    return std::unique_ptr<TIFF, Free>(
+        TIFFClientOpenExt("strip", "rm", &file, readFile, refuseToWrite, seekFile, closeFile,
+                          fileSize, nullptr, nullptr, options.get()));
 }
 
 /// Gives the rows one after another to `take`; false where they are damaged.

@@ -36,7 +36,8 @@ ImportChange changeOfAction(const Object &action, const Object &kind, const std:
         return ImportChange::Free;
     }
     const bool namesFields = isOneOf(kind, {"/SubmitForm", "/ResetForm", "/Hide"});
-    return namesFields && (key == "/Fields" || key == "/T") ? ImportChange::Name : ImportChange::None;
+    return namesFields && (key == "/Fields" || key == "/T") ? ImportChange::Name
+                                                            : ImportChange::None;
 }
 
 /// Where a name may be extended: a field's full name behind its first part, a file's before its

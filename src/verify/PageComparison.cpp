@@ -128,10 +128,11 @@ QString PageComparison::fault(std::size_t index) {
         if (key == "/MediaBox" && source.isNull()) {
             source = Object::parse("[0 0 612 792]"); // As readers show it.
         }
-        const bool isSame = key == "/Rotate"                               ? isSameTurn(index)
-                            : key == "/B" && !m_choice.range.isEmpty()     ? true
-                            : key == "/Annots" && !m_choice.range.isEmpty() ? areSameAnnotations(source, written)
-                                                                            : areSame(source, written);
+        const bool isSame = key == "/Rotate"                           ? isSameTurn(index)
+                            : key == "/B" && !m_choice.range.isEmpty() ? true
+                            : key == "/Annots" && !m_choice.range.isEmpty()
+                                ? areSameAnnotations(source, written)
+                                : areSame(source, written);
         if (!isSame) {
             return faultOf(key);
         }
@@ -165,14 +166,13 @@ bool PageComparison::areSameAnnotations(const Object &source, const Object &writ
         const bool isJump = isGoTo(action);
         const Object target = isJump ? entry(action, "/D") : entry(annotation, "/Dest");
         const auto place = items(m_source.destination(target));
-        const bool goes = entry(annotation, "/Subtype").isNameAndEquals("/Link") && !place.empty() &&
-                          isLeft(place.front());
+        const bool goes = entry(annotation, "/Subtype").isNameAndEquals("/Link") &&
+                          !place.empty() && isLeft(place.front());
         if (!goes) {
             kept.push_back(annotation);
         }
     }
-    return areSame(Object::newArray(kept),
-                   Object(written).isNull() ? Object::newArray() : written);
+    return areSame(Object::newArray(kept), Object(written).isNull() ? Object::newArray() : written);
 }
 
 /// Whether `page`, a page or its number, is one of the source that was not taken.
@@ -222,7 +222,8 @@ bool PageComparison::isSamePair(Object source, Object written) {
     if (source.isStream()) {
         return written.isStream() && isSameStream(source, written);
     }
-    if (source.isDictionaryOfType("/OCG") && m_source.isHidden(source) != m_written.isHidden(written)) {
+    if (source.isDictionaryOfType("/OCG") &&
+        m_source.isHidden(source) != m_written.isHidden(written)) {
         return false;
     }
     if (source.isDictionary()) {
@@ -243,7 +244,8 @@ bool PageComparison::isSameArray(const Object &source, const Object &written) {
     return left.size() == right.size();
 }
 
-bool PageComparison::isSameDictionary(const Object &source, const Object &written, bool isOfStream) {
+bool PageComparison::isSameDictionary(const Object &source, const Object &written,
+                                      bool isOfStream) {
     const auto left = Object(source).getDictAsMap();
     const auto right = Object(written).getDictAsMap();
     for (const auto &[key, value] : left) {
@@ -263,7 +265,8 @@ bool PageComparison::isSameDictionary(const Object &source, const Object &writte
     });
 }
 
-bool PageComparison::isSameEntry(const Object &source, const Object &written, const std::string &key) {
+bool PageComparison::isSameEntry(const Object &source, const Object &written,
+                                 const std::string &key) {
     const Object left = entry(source, key);
     const Object right = entry(written, key);
     switch (changeOf(source, key)) {
@@ -288,7 +291,8 @@ bool PageComparison::isSameEntry(const Object &source, const Object &written, co
 }
 
 /// A field gets the defaults of the form that it was in.
-bool PageComparison::isAddedEntry(const Object &source, const Object &written, const std::string &key) {
+bool PageComparison::isAddedEntry(const Object &source, const Object &written,
+                                  const std::string &key) {
     if (changeOf(source, key) == ImportChange::Free) {
         return true;
     }

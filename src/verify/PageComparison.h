@@ -31,8 +31,8 @@ class PageComparison {
     /// What pictures have to be: the same, or alike, as the compression pass leaves them.
     enum class Pictures { Same, Alike };
 
-    /// `source` and `written` must outlive it. The pages that `choice` names begin in `written` with
-    /// page `firstPage`, from 0. Throws Error where `source` lacks one of them.
+    /// `source` and `written` must outlive it. The pages that `choice` names begin in `written`
+    /// with page `firstPage`, from 0. Throws Error where `source` lacks one of them.
     PageComparison(ComparedDocument &source, ComparedDocument &written, int firstPage,
                    const PageChoice &choice, Pictures pictures = Pictures::Same);
 
@@ -65,7 +65,9 @@ class PageComparison {
     bool areSameAnnotations(const Object &source, const Object &written);
     bool isSamePage(const Object &source, const Object &written) const;
     [[nodiscard]] bool isLeft(const Object &page) const;
-    void follow(const Object &source, const Object &written) { m_open.push_back({source, written}); }
+    void follow(const Object &source, const Object &written) {
+        m_open.push_back({source, written});
+    }
 
     ComparedDocument &m_source;
     ComparedDocument &m_written;

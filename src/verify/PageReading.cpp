@@ -16,8 +16,10 @@ using Kind = ContentToken::Kind;
 
 /// `inner` first, then `outer`.
 Matrix product(const Matrix &inner, const Matrix &outer) {
-    return {inner.a * outer.a + inner.b * outer.c, inner.a * outer.b + inner.b * outer.d,
-            inner.c * outer.a + inner.d * outer.c, inner.c * outer.b + inner.d * outer.d,
+    return {inner.a * outer.a + inner.b * outer.c,
+            inner.a * outer.b + inner.b * outer.d,
+            inner.c * outer.a + inner.d * outer.c,
+            inner.c * outer.b + inner.d * outer.d,
             inner.e * outer.a + inner.f * outer.c + outer.e,
             inner.e * outer.b + inner.f * outer.d + outer.f};
 }
@@ -68,8 +70,8 @@ class Interpreter {
     using Operator = void (Interpreter::*)();
 
     void keepOperand() {
-        constexpr std::size_t kMost = 1 << 16; // Of an array with many strings.
-        m_count = std::min(m_count + 1, kMost);
+        constexpr std::size_t kMax = 1 << 16; // Of an array with many strings.
+        m_count = std::min(m_count + 1, kMax);
         if (m_operands.size() <= m_count) {
             m_operands.resize(m_count + 1);
         }
@@ -77,19 +79,30 @@ class Interpreter {
 
     void run(const std::string &word) {
         static const std::unordered_map<std::string, Operator> kOperators{
-            {"BT", &Interpreter::beginText},    {"ET", &Interpreter::nothing},
-            {"TL", &Interpreter::setLeading},   {"Td", &Interpreter::move},
-            {"TD", &Interpreter::moveAndLead},  {"'", &Interpreter::nextLineAndShow},
-            {"Tj", &Interpreter::show},         {"Tf", &Interpreter::setFont},
-            {"BDC", &Interpreter::beginMarked}, {"BMC", &Interpreter::beginMarked},
-            {"EMC", &Interpreter::endMarked},   {"q", &Interpreter::save},
-            {"Q", &Interpreter::restore},       {"cm", &Interpreter::transform},
-            {"Do", &Interpreter::draw},         {"re", &Interpreter::rectangle},
-            {"W", &Interpreter::clip},          {"n", &Interpreter::nothing},
+            {"BT", &Interpreter::beginText},
+            {"ET", &Interpreter::nothing},
+            {"TL", &Interpreter::setLeading},
+            {"Td", &Interpreter::move},
+            {"TD", &Interpreter::moveAndLead},
+            {"'", &Interpreter::nextLineAndShow},
+            {"Tj", &Interpreter::show},
+            {"Tf", &Interpreter::setFont},
+            {"BDC", &Interpreter::beginMarked},
+            {"BMC", &Interpreter::beginMarked},
+            {"EMC", &Interpreter::endMarked},
+            {"q", &Interpreter::save},
+            {"Q", &Interpreter::restore},
+            {"cm", &Interpreter::transform},
+            {"Do", &Interpreter::draw},
+            {"re", &Interpreter::rectangle},
+            {"W", &Interpreter::clip},
+            {"n", &Interpreter::nothing},
             {"rg", &Interpreter::setColor},
             // What follows stands in pages of other programs alone.
-            {"T*", &Interpreter::nextLine},     {"TJ", &Interpreter::showArray},
-            {"Tm", &Interpreter::setMatrix},    {"\"", &Interpreter::nextLineAndShow}};
+            {"T*", &Interpreter::nextLine},
+            {"TJ", &Interpreter::showArray},
+            {"Tm", &Interpreter::setMatrix},
+            {"\"", &Interpreter::nextLineAndShow}};
         const auto found = kOperators.find(word);
         if (found != kOperators.end()) {
             (this->*found->second)();
@@ -191,7 +204,8 @@ class Interpreter {
         Marked marked;
         for (std::size_t i = 0; i < m_count; ++i) {
             const bool isName = m_operands[i].kind == Kind::Name;
-            marked.isArtifact = marked.isArtifact || (i == 0 && isName && m_operands[i].text == "Artifact");
+            marked.isArtifact =
+                marked.isArtifact || (i == 0 && isName && m_operands[i].text == "Artifact");
             if (isName && m_operands[i].text == "ActualText" && i + 1 < m_count &&
                 m_operands[i + 1].kind == Kind::String) {
                 if (m_actualTexts == 0) {

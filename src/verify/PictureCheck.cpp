@@ -64,9 +64,10 @@ bool hasRowParameters(const Object &parameters, const ImageRecord &record) {
     const Object predictor = entry(parameters, "/Predictor");
     const bool isFiltered = Object(predictor).isInteger() && Object(predictor).getIntValue() > 1;
     return isFiltered == record.isPredicted &&
-           (!isFiltered || (isParameter(parameters, "/Colors", channelsOf(record.color), 1) &&
-            isParameter(parameters, "/BitsPerComponent", record.bitsPerComponent, kUsualBits) &&
-            isParameter(parameters, "/Columns", record.width, 1)));
+           (!isFiltered ||
+            (isParameter(parameters, "/Colors", channelsOf(record.color), 1) &&
+             isParameter(parameters, "/BitsPerComponent", record.bitsPerComponent, kUsualBits) &&
+             isParameter(parameters, "/Columns", record.width, 1)));
 }
 
 bool hasFilter(const Object &dictionary, const ImageRecord &record) {
@@ -147,19 +148,19 @@ bool hasColors(const Object &dictionary, const ImageRecord &record) {
 }
 
 bool hasDecode(const Object &dictionary, const ImageRecord &record) {
-    return std::ranges::equal(items(entry(dictionary, "/Decode")), record.decode,
-                              [](Object number, double value) {
-                                  return number.isNumber() &&
-                                         std::abs(number.getNumericValue() - value) < 1e-5;
-                              });
+    return std::ranges::equal(
+        items(entry(dictionary, "/Decode")), record.decode, [](Object number, double value) {
+            return number.isNumber() && std::abs(number.getNumericValue() - value) < 1e-5;
+        });
 }
 
 /// Whether nothing else in the dictionary changes what is shown.
 bool hasNothingElse(const Object &dictionary) {
-    static constexpr std::array kKeys{"/Mask",       "/ImageMask",  "/SMaskInData", "/Matte",
-                                      "/Alternates", "/OC",         "/Interpolate", "/F",
+    static constexpr std::array kKeys{"/Mask",       "/ImageMask",   "/SMaskInData", "/Matte",
+                                      "/Alternates", "/OC",          "/Interpolate", "/F",
                                       "/FFilter",    "/FDecodeParms"};
-    return std::ranges::none_of(kKeys, [&](const char *key) { return Object(dictionary).hasKey(key); });
+    return std::ranges::none_of(kKeys,
+                                [&](const char *key) { return Object(dictionary).hasKey(key); });
 }
 
 QString dataFault(const Object &image, const ImageRecord &record, SourceReader &reader) {
@@ -174,7 +175,7 @@ QString dataFault(const Object &image, const ImageRecord &record, SourceReader &
         const auto bits = group4Checksum(image, record.width, record.height);
         return bits && *bits == record.checksum ? QString() : differs;
     }
-    const Unpacking how = !record.isUnpacked      ? Unpacking::None
+    const Unpacking how = !record.isUnpacked       ? Unpacking::None
                           : record.hasFilteredRows ? Unpacking::Rows
                                                    : Unpacking::Samples;
     const auto sum = sumOf(image, how);
@@ -198,7 +199,8 @@ QPointF cornerPlace(int across, int down, int orientation) {
                                                   {true, true, false},
                                                   {true, true, true},
                                                   {true, false, true}}};
-    const Sides &sides = kSides.at(orientation >= 1 && orientation <= 8 ? static_cast<std::size_t>(orientation) : 1);
+    const Sides &sides =
+        kSides.at(orientation >= 1 && orientation <= 8 ? static_cast<std::size_t>(orientation) : 1);
     const int right = sides.isTurned ? down : across;
     const int below = sides.isTurned ? across : down;
     const double x = sides.fromRight ? 1 - right : right;
@@ -246,8 +248,8 @@ bool isPlainImage(QPDFObjectHandle image, const ImageRecord &record) {
     const bool isIndexed = !space.empty() && Object(space.front()).isNameAndEquals("/Indexed");
     const auto base = isIndexed && space.size() > 1 ? items(space[1]) : space;
     const bool isIcc = base.size() > 1 && Object(base.front()).isNameAndEquals("/ICCBased");
-    const auto sum = isIcc && Object(base[1]).isStream() ? sumOf(base[1], Unpacking::Samples)
-                                                         : std::nullopt;
+    const auto sum =
+        isIcc && Object(base[1]).isStream() ? sumOf(base[1], Unpacking::Samples) : std::nullopt;
     const bool hasProfile = record.profile ? sum && sum->checksum == *record.profile : !isIcc;
     return hasProfile && hasNothingElse(dictionary);
 }
@@ -265,8 +267,10 @@ bool isOriented(const DrawnPicture &drawn, int orientation, int turn) {
         return QPointF::dotProduct(edge, wanted) > kMostlyAlong * length;
     };
     const QPointF corner = cornerPlace(0, 0, orientation);
-    return isAlong(turned({drawn.matrix.a, drawn.matrix.b}), cornerPlace(1, 0, orientation) - corner) &&
-           isAlong(turned({-drawn.matrix.c, -drawn.matrix.d}), cornerPlace(0, 1, orientation) - corner);
+    return isAlong(turned({drawn.matrix.a, drawn.matrix.b}),
+                   cornerPlace(1, 0, orientation) - corner) &&
+           isAlong(turned({-drawn.matrix.c, -drawn.matrix.d}),
+                   cornerPlace(0, 1, orientation) - corner);
 }
 
 QString placeFault(const DrawnPicture &drawn, const PictureRecord &record) {
@@ -284,11 +288,11 @@ QString placeFault(const DrawnPicture &drawn, const PictureRecord &record) {
         }
     }
     const auto &clip = drawn.clip;
-    const bool isSame = clip.has_value() == record.clip.has_value() &&
-                        (!clip || (isNear(clip->x(), record.clip->x()) &&
-                                   isNear(clip->y(), record.clip->y()) &&
-                                   isNear(clip->width(), record.clip->width()) &&
-                                   isNear(clip->height(), record.clip->height())));
+    const bool isSame =
+        clip.has_value() == record.clip.has_value() &&
+        (!clip || (isNear(clip->x(), record.clip->x()) && isNear(clip->y(), record.clip->y()) &&
+                   isNear(clip->width(), record.clip->width()) &&
+                   isNear(clip->height(), record.clip->height())));
     return isSame ? QString() : Reasons::tr("its picture stands elsewhere");
 }
 

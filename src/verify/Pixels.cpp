@@ -32,7 +32,7 @@ struct RawImage {
     [[nodiscard]] bool isPossible() const {
         const bool hasBits = bits == 1 || bits == 2 || bits == 4 || bits == 8 || bits == 16;
         return width > 0 && height > 0 && hasBits && channels > 0 &&
-               stride() <= kMostPixelBytes / height;
+               stride() <= kMaxPixelBytes / height;
     }
     /// From 0 to the most that its bits can hold.
     [[nodiscard]] int sample(int x, int y, int channel) const {
@@ -108,7 +108,7 @@ std::optional<RawImage> rawImage(Object image) {
     if (isOf(dictionary, "/CCITTFaxDecode")) {
         raw.samples = group4Rows(image, raw.width, raw.height);
     } else {
-        BoundedBuffer target(raw.samples, static_cast<std::size_t>(kMostPixelBytes));
+        BoundedBuffer target(raw.samples, static_cast<std::size_t>(kMaxPixelBytes));
         bool isUnpacked = false;
         if (!image.pipeStreamData(&target, &isUnpacked, 0, qpdf_dl_all, true) || !isUnpacked) {
             return std::nullopt;
@@ -122,10 +122,10 @@ std::optional<RawImage> rawImage(Object image) {
 std::vector<unsigned char> valuesOf(const RawImage &raw, const Object &decode, int channel) {
     const auto limits = items(decode);
     const auto at = static_cast<std::size_t>(channel) * 2;
-    const bool isInverted = limits.size() > at + 1 && Object(limits[at]).isNumber() &&
-                            Object(limits[at + 1]).isNumber() &&
-                            Object(limits[at]).getNumericValue() >
-                                Object(limits[at + 1]).getNumericValue();
+    const bool isInverted =
+        limits.size() > at + 1 && Object(limits[at]).isNumber() &&
+        Object(limits[at + 1]).isNumber() &&
+        Object(limits[at]).getNumericValue() > Object(limits[at + 1]).getNumericValue();
     const int most = (1 << raw.bits) - 1;
     constexpr int kFull = 255;
     std::vector<unsigned char> values(static_cast<std::size_t>(most) + 1);
@@ -140,7 +140,7 @@ std::vector<unsigned char> valuesOf(const RawImage &raw, const Object &decode, i
 /// The colours of a palette one after another; empty where it cannot be read.
 std::string paletteOf(Object lookup) {
     constexpr std::size_t kLargest = 4 * 256;
-    return lookup.isStream() ? boundedData(lookup, kLargest).value_or(std::string())
+    return lookup.isStream()   ? boundedData(lookup, kLargest).value_or(std::string())
            : lookup.isString() ? lookup.getStringValue()
                                : std::string();
 }
@@ -152,7 +152,8 @@ std::optional<Pixels> lookedUp(const RawImage &raw, const std::vector<Object> &s
     }
     Pixels pixels{raw.width, raw.height, channelsIn(space[1]), {}};
     const std::string palette = paletteOf(space[3]);
-    const auto colors = pixels.channels > 0 ? static_cast<int>(palette.size()) / pixels.channels : 0;
+    const auto colors =
+        pixels.channels > 0 ? static_cast<int>(palette.size()) / pixels.channels : 0;
     if (colors == 0) {
         return std::nullopt;
     }
@@ -160,7 +161,8 @@ std::optional<Pixels> lookedUp(const RawImage &raw, const std::vector<Object> &s
     for (int y = 0; y < raw.height; ++y) {
         for (int x = 0; x < raw.width; ++x) {
             const int color = std::min(raw.sample(x, y, 0), colors - 1);
-            pixels.samples.append(palette.data() + qsizetype(color) * pixels.channels, pixels.channels);
+            pixels.samples.append(palette.data() + qsizetype(color) * pixels.channels,
+                                  pixels.channels);
         }
     }
     return pixels;
@@ -233,7 +235,8 @@ Pixels inGrey(const Pixels &pixels) {
         constexpr int kGreen = 587;
         constexpr int kBlue = 114;
         constexpr int kWhole = 1000;
-        sample = static_cast<char>((kRed * source[0] + kGreen * source[1] + kBlue * source[2]) / kWhole);
+        sample =
+            static_cast<char>((kRed * source[0] + kGreen * source[1] + kBlue * source[2]) / kWhole);
         source += 3;
     }
     return grey;
@@ -255,7 +258,8 @@ bool isReduced(const Pixels &found, const Pixels &source) {
 bool areAlike(QPDFObjectHandle source, QPDFObjectHandle image) {
     Object left = entry(source.getDict(), "/SMask");
     Object right = entry(image.getDict(), "/SMask");
-    const bool hasSameMask = left.isStream() ? right.isStream() && areAlike(left, right) : right.isNull();
+    const bool hasSameMask =
+        left.isStream() ? right.isStream() && areAlike(left, right) : right.isNull();
     if (!hasSameMask) {
         return false;
     }
@@ -277,7 +281,9 @@ double likeness(const Pixels &one, const Pixels &other) {
                                static_cast<unsigned char>(other.samples[i]);
         squares += qint64(difference) * difference;
     }
-    return count == 0 ? 0 : kDecibels * std::log10(kFull * kFull * static_cast<double>(count) / static_cast<double>(std::max<qint64>(squares, 1)));
+    return count == 0 ? 0
+                      : kDecibels * std::log10(kFull * kFull * static_cast<double>(count) /
+                                               static_cast<double>(std::max<qint64>(squares, 1)));
 }
 
 } // namespace folioforge

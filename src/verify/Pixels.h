@@ -21,10 +21,10 @@ struct Pixels {
 };
 
 /// The most bytes that pixels may take.
-inline constexpr qint64 kMostPixelBytes = qint64{1} << 30;
+inline constexpr qint64 kMaxPixelBytes = qint64{1} << 30;
 
-/// Decodes an image of a PDF, its palette looked up and its Decode array applied; nothing where that
-/// cannot be done, as for JPEG 2000, or it is too large.
+/// Decodes an image of a PDF, its palette looked up and its Decode array applied; nothing where
+/// that cannot be done, as for JPEG 2000, or it is too large.
 std::optional<Pixels> pixelsOf(QPDFObjectHandle image);
 
 /// `pixels` as they are when they are made smaller in the plainest way: each pixel is the mean of
@@ -34,12 +34,12 @@ Pixels reduced(const Pixels &pixels, int width, int height);
 /// `pixels` without colour, by the weights of ITU-R BT.601.
 Pixels inGrey(const Pixels &pixels);
 
-/// Whether `image` shows what `source` does, each an image of a PDF: reduced, coded anew or grey. Both
-/// have the same opacity, likewise. False where one of them cannot be decoded.
+/// Whether `image` shows what `source` does, each an image of a PDF: reduced, coded anew or grey.
+/// Both have the same opacity, likewise. False where one of them cannot be decoded.
 bool areAlike(QPDFObjectHandle source, QPDFObjectHandle image);
 
-/// Whether `found` is `source` made smaller or coded anew, and without colour where it has one channel:
-/// the likeness of both, reduced the plain way to half the size of `found`, is at least
+/// Whether `found` is `source` made smaller or coded anew, and without colour where it has one
+/// channel: the likeness of both, reduced the plain way to half the size of `found`, is at least
 /// kLeastLikeness.
 bool isReduced(const Pixels &found, const Pixels &source);
 inline constexpr double kLeastLikeness = 20; ///< Decibels; another picture has about ten.

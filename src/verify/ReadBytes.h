@@ -9,8 +9,8 @@
 
 namespace folioforge {
 
-/// Reads from byte `offset` of a file on until `target` is full or the file ends; returns the number
-/// of bytes. Throws Error.
+/// Reads from byte `offset` of a file on until `target` is full or the file ends; returns the
+/// number of bytes. Throws Error.
 using ReadBytes = std::function<qint64(qint64 offset, std::span<char> target)>;
 
 } // namespace folioforge

@@ -55,10 +55,11 @@ struct PictureRecord {
 
 /// The pages of a text.
 struct TextRecord {
-    QSizeF page;                      ///< Points.
-    double fontSize = 0;              ///< Points.
+    QSizeF page;         ///< Points.
+    double fontSize = 0; ///< Points.
     std::vector<TextTrace> pages;
-    std::vector<TextTrace> margins;   ///< Headers and footers, for each page; none where there are none.
+    std::vector<TextTrace>
+        margins; ///< Headers and footers, for each page; none where there are none.
 };
 
 /// The pages that were taken from a PDF.

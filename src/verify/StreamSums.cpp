@@ -51,7 +51,8 @@ std::optional<StreamSum> sumOf(QPDFObjectHandle stream, Unpacking unpacking) {
     return isDamaged ? std::nullopt : std::optional(target.sum());
 }
 
-StreamSum sumOf(const FileVersion &file, const std::vector<FileSlice> &slices, SourceReader &reader) {
+StreamSum sumOf(const FileVersion &file, const std::vector<FileSlice> &slices,
+                SourceReader &reader) {
     constexpr qint64 kPiece = 1 << 20;
     Checksum checksum;
     qint64 bytes = 0;

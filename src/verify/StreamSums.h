@@ -27,6 +27,7 @@ struct StreamSum {
 std::optional<StreamSum> sumOf(QPDFObjectHandle stream, Unpacking unpacking);
 
 /// The sum of slices of a file, read again. Throws Error where it has changed or cannot be read.
-StreamSum sumOf(const FileVersion &file, const std::vector<FileSlice> &slices, SourceReader &reader);
+StreamSum sumOf(const FileVersion &file, const std::vector<FileSlice> &slices,
+                SourceReader &reader);
 
 } // namespace folioforge

@@ -31,7 +31,8 @@ void TextTracer::addText(QStringView text) {
 
 void TextTracer::beginRow(double x, double y) {
     constexpr double kSmallestMove = 0.000005;
-    if (m_trace.rows > 0 && std::abs(x - m_x) < kSmallestMove && std::abs(y - m_y) < kSmallestMove) {
+    if (m_trace.rows > 0 && std::abs(x - m_x) < kSmallestMove &&
+        std::abs(y - m_y) < kSmallestMove) {
         return;
     }
     ++m_trace.rows;

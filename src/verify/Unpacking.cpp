@@ -31,11 +31,11 @@ class InflatePipeline final : public Pipeline {
     ~InflatePipeline() override { ::inflateEnd(&m_zlib); }
 
     void write(unsigned char const *data, size_t size) override {
-        constexpr size_t kMostAtOnce = 1 << 30;
-        while (size > kMostAtOnce) {
-            write(data, kMostAtOnce);
-            data += kMostAtOnce;
-            size -= kMostAtOnce;
+        constexpr size_t kMaxAtOnce = 1 << 30;
+        while (size > kMaxAtOnce) {
+            write(data, kMaxAtOnce);
+            data += kMaxAtOnce;
+            size -= kMaxAtOnce;
         }
         m_zlib.next_in = const_cast<unsigned char *>(data); // NOLINT: zlib only reads it.
         m_zlib.avail_in = static_cast<uInt>(size);
@@ -139,10 +139,10 @@ Object only(Object object) {
 }
 
 std::size_t parameter(const Object &parameters, const char *key, int usual) {
-    constexpr int kMost = 1 << 20;
+    constexpr int kMax = 1 << 20;
     Object stated = entry(parameters, key);
     const int value = stated.isInteger() ? stated.getIntValueAsInt() : usual;
-    return static_cast<std::size_t>(value > 0 && value <= kMost ? value : usual);
+    return static_cast<std::size_t>(value > 0 && value <= kMax ? value : usual);
 }
 
 bool inflate(Object stream, Pipeline &target) {
@@ -154,7 +154,8 @@ bool inflateRows(const Object &stream, const Object &parameters, Pipeline &targe
     constexpr std::size_t kByte = 8;
     const std::size_t pixelBits =
         parameter(parameters, "/Colors", 1) * parameter(parameters, "/BitsPerComponent", 8);
-    const std::size_t rowBytes = (pixelBits * parameter(parameters, "/Columns", 1) + kByte - 1) / kByte;
+    const std::size_t rowBytes =
+        (pixelBits * parameter(parameters, "/Columns", 1) + kByte - 1) / kByte;
     RowPipeline rows(target, rowBytes, std::max<std::size_t>(1, pixelBits / kByte));
     return inflate(stream, rows) && rows.isWhole();
 }

@@ -96,16 +96,17 @@ class WrittenVerifier : private DocumentVerifier {
 
     void verifyText(const EntryRecord &entry, EntryVerification &result) {
         constexpr std::size_t kBatch = 32;
-        constexpr std::size_t kMostAhead = 2;
+        constexpr std::size_t kMaxAhead = 2;
         const auto count = std::min(static_cast<std::size_t>(entry.pages), entry.text.pages.size());
         std::deque<std::future<QStringList>> reading;
         for (std::size_t first = 0; first < count; first += kBatch) {
-            if (reading.size() == kMostAhead) {
+            if (reading.size() == kMaxAhead) {
                 keepFirst(reading, result);
             }
             const auto batch = std::make_shared<const Batch>(
                 takeBatch(entry, first, std::min(kBatch, count - first)));
-            reading.push_back(runAsync([batch, &text = entry.text] { return faultsOf(*batch, text); }));
+            reading.push_back(
+                runAsync([batch, &text = entry.text] { return faultsOf(*batch, text); }));
         }
         while (!reading.empty()) {
             keepFirst(reading, result);
@@ -137,7 +138,8 @@ class WrittenVerifier : private DocumentVerifier {
         return faults;
     }
 
-    static void keepFirst(std::deque<std::future<QStringList>> &reading, EntryVerification &result) {
+    static void keepFirst(std::deque<std::future<QStringList>> &reading,
+                          EntryVerification &result) {
         const QStringList faults = reading.front().get();
         reading.pop_front();
         for (const QString &fault : faults) {
@@ -149,9 +151,9 @@ class WrittenVerifier : private DocumentVerifier {
 } // namespace
 
 void EntryVerification::keep(PageProof proof, const QString &fault) {
-    constexpr std::size_t kMostFaults = 100;
+    constexpr std::size_t kMaxFaults = 100;
     pages.push_back(fault.isEmpty() ? proof : PageProof::Differs);
-    if (!fault.isEmpty() && faults.size() < kMostFaults) {
+    if (!fault.isEmpty() && faults.size() < kMaxFaults) {
         faults.push_back({firstPage + static_cast<int>(pages.size()), fault});
     }
 }
@@ -168,8 +170,7 @@ std::vector<EntryVerification> verifyDocument(const WrittenDocument &document,
     if (document.checksum) {
         requireSameBytes(document);
     }
-    return translateQpdfErrors(
-        [&] { return WrittenVerifier(document, options).verify(record); });
+    return translateQpdfErrors([&] { return WrittenVerifier(document, options).verify(record); });
 }
 
 } // namespace folioforge

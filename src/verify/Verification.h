@@ -87,8 +87,8 @@ std::vector<EntryVerification> verifyFoundDocument(const WrittenDocument &docume
                                                    const VerifyOptions &options);
 
 /// Holds the pages of `copy`, which the compression pass made of `original`, against its: all but
-/// pictures has to be the same, and these alike. Gives why it is not; empty where it is. Throws Error
-/// where one of both cannot be read.
+/// pictures has to be the same, and these alike. Gives why it is not; empty where it is. Throws
+/// Error where one of both cannot be read.
 QString copyFault(const WrittenDocument &original, const WrittenDocument &copy,
                   const VerifyOptions &options);
 

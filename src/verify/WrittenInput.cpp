@@ -18,11 +18,13 @@ std::span<const char> WrittenInput::bytesHere() {
     constexpr qint64 kWindow = 1 << 16;
     const qint64 end = m_windowStart + std::ssize(m_window);
     if (m_position < m_windowStart || m_position >= end) {
-        m_window.resize(static_cast<std::size_t>(std::clamp<qint64>(m_size - m_position, 0, kWindow)));
+        m_window.resize(
+            static_cast<std::size_t>(std::clamp<qint64>(m_size - m_position, 0, kWindow)));
         m_windowStart = m_position;
         m_window.resize(static_cast<std::size_t>(m_readBytes(m_position, m_window)));
     }
-    return std::span<const char>(m_window).subspan(static_cast<std::size_t>(m_position - m_windowStart));
+    return std::span<const char>(m_window).subspan(
+        static_cast<std::size_t>(m_position - m_windowStart));
 }
 
 qpdf_offset_t WrittenInput::findAndSkipNextEOL() {
@@ -35,7 +37,8 @@ qpdf_offset_t WrittenInput::findAndSkipNextEOL() {
             return isLineEnd ? lineEnd : m_position;
         }
         const std::string_view piece(here.data(), here.size());
-        const auto found = isLineEnd ? piece.find_first_not_of(kLineEnds) : piece.find_first_of(kLineEnds);
+        const auto found =
+            isLineEnd ? piece.find_first_not_of(kLineEnds) : piece.find_first_of(kLineEnds);
         m_position += static_cast<qint64>(std::min(found, piece.size()));
         if (found == std::string_view::npos) {
             continue;

@@ -35,7 +35,8 @@ class WrittenInput final : public InputSource {
     qint64 m_size;
     ReadBytes m_readBytes;
     qint64 m_position = 0;
-    std::vector<char> m_window; ///< Bytes from m_windowStart on: the library asks for few at a time.
+    std::vector<char>
+        m_window; ///< Bytes from m_windowStart on: the library asks for few at a time.
     qint64 m_windowStart = 0;
 };
 

@@ -156,9 +156,9 @@ QString WrittenPages::pictureFault(const SourcePage &page, const PictureRecord &
     const DrawnPicture &drawn = read.pictures.front();
     const QString place = placeFault(drawn, record);
     const Object resources = ComparedDocument::valueOf(page, "/Resources");
-    return place.isEmpty()
-               ? imageFault(entry(entry(resources, "/XObject"), '/' + drawn.name), record.image, reader)
-               : place;
+    return place.isEmpty() ? imageFault(entry(entry(resources, "/XObject"), '/' + drawn.name),
+                                        record.image, reader)
+                           : place;
 }
 
 } // namespace folioforge

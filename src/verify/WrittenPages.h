@@ -21,8 +21,8 @@
 
 namespace folioforge {
 
-/// What the contents of a page are read from, taken out of its document: from here on any thread may
-/// read them.
+/// What the contents of a page are read from, taken out of its document: from here on any thread
+/// may read them.
 struct PageContents {
     struct Piece {
         std::shared_ptr<Buffer> deflated; ///< Null where `plain` has the data.

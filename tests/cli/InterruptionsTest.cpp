@@ -79,22 +79,22 @@ class InterruptionsTest : public QObject {
 
     void atAnyMomentOnlyWholeDocumentsAreLeft_data() {
         QTest::addColumn<int>("signal");
-        QTest::addColumn<int>("mostLeft");
+        QTest::addColumn<int>("maxLeft");
         QTest::newRow("killed") << SIGKILL << 1;
         QTest::newRow("terminated") << SIGTERM << 0;
         QTest::newRow("interrupted") << SIGINT << 0;
     }
     void atAnyMomentOnlyWholeDocumentsAreLeft() {
         QFETCH(const int, signal);
-        QFETCH(const int, mostLeft);
+        QFETCH(const int, maxLeft);
         const int longest = wholeRun();
         QVERIFY(longest > 0);
         constexpr int kRuns = 12;
         int left = 0;
         for (int run = 0; run < kRuns; ++run) {
             endARun(signal, QRandomGenerator::global()->bounded(longest + 1));
-            QVERIFY(hiddenIn("out").size() <= mostLeft);
-            QVERIFY(hiddenIn("temporary").size() <= mostLeft);
+            QVERIFY(hiddenIn("out").size() <= maxLeft);
+            QVERIFY(hiddenIn("temporary").size() <= maxLeft);
             left += static_cast<int>(hiddenIn("out").size() + hiddenIn("temporary").size());
         }
         QVERIFY(wholeRun() > 0);

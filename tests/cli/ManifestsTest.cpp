@@ -48,8 +48,9 @@ class ManifestsTest : public QObject, CommandLineCase {
 
     void inputsAndOutputsStandWithTheirChecksums() {
         const QString manifest = path("list.json");
-        const ToolRun run = convert({u"--title"_s, u"A title"_s, u"--verify"_s, u"--manifest"_s, manifest,
-                                     text("a.txt"), writePng(path("b.png"), 3, 2), path("missing.txt")});
+        const ToolRun run =
+            convert({u"--title"_s, u"A title"_s, u"--verify"_s, u"--manifest"_s, manifest,
+                     text("a.txt"), writePng(path("b.png"), 3, 2), path("missing.txt")});
         QCOMPARE(run.exitCode, 1);
         QCOMPARE(faultsIn(manifest), QByteArray());
         const QJsonObject list = read(manifest);
@@ -62,7 +63,8 @@ class ManifestsTest : public QObject, CommandLineCase {
         QVERIFY(sums.contains(sumOf(path("a.txt"))) && sums.contains(sumOf(path("b.png"))));
         const QJsonArray outputs = list[u"outputs"_s].toArray();
         QCOMPARE(outputs.size(), 2);
-        QCOMPARE(member(outputs[0].toObject(), "sha256"), sumOf(member(outputs[0].toObject(), "file")));
+        QCOMPARE(member(outputs[0].toObject(), "sha256"),
+                 sumOf(member(outputs[0].toObject(), "file")));
         QVERIFY(list[u"options"_s].toArray().contains(u"--title=A title"_s));
     }
 
@@ -81,7 +83,10 @@ class ManifestsTest : public QObject, CommandLineCase {
     void passwordsAreNotInIt() {
         const QString password = writeFile(path("password"), "open sesame\n");
         const QString manifest = path("list.json");
-        QCOMPARE(convert({u"--user-password-file"_s, password, u"--manifest"_s, manifest, text("a.txt")}).exitCode, 0);
+        QCOMPARE(
+            convert({u"--user-password-file"_s, password, u"--manifest"_s, manifest, text("a.txt")})
+                .exitCode,
+            0);
         QVERIFY(!readFile(manifest).contains("sesame"));
     }
 
@@ -90,14 +95,18 @@ class ManifestsTest : public QObject, CommandLineCase {
         QCOMPARE(convert({u"--manifest"_s, manifest, text("a.txt")}).exitCode, 2);
         QCOMPARE(readFile(manifest), QByteArray("mine"));
         QVERIFY(QDir(path("out")).isEmpty());
-        QCOMPARE(convert({u"--overwrite"_s, u"always"_s, u"--manifest"_s, manifest, text("a.txt")}).exitCode, 0);
+        QCOMPARE(convert({u"--overwrite"_s, u"always"_s, u"--manifest"_s, manifest, text("a.txt")})
+                     .exitCode,
+                 0);
         QCOMPARE(faultsIn(manifest), QByteArray());
     }
 
     void whatCannotBeDescribedIsRefused() {
         const QString manifest = path("list.json");
         QCOMPARE(convert({u"--dry-run"_s, u"--manifest"_s, manifest, text("a.txt")}).exitCode, 2);
-        QCOMPARE(runTool(kProgram, {u"--merge"_s, u"-"_s, u"--manifest"_s, manifest, text("a.txt")}).exitCode, 2);
+        QCOMPARE(runTool(kProgram, {u"--merge"_s, u"-"_s, u"--manifest"_s, manifest, text("a.txt")})
+                     .exitCode,
+                 2);
         QCOMPARE(convert({u"--manifest"_s, path("out/"), text("a.txt")}).exitCode, 2);
         QVERIFY(!QFile::exists(manifest));
     }
@@ -106,9 +115,13 @@ class ManifestsTest : public QObject, CommandLineCase {
         const QString pdf = path("all.pdf");
         QCOMPARE(runTool(kProgram, {u"--merge"_s, pdf, text("a.txt")}).exitCode, 0);
         const QString manifest = path("list.json");
-        QCOMPARE(runTool(kProgram, {u"--verify-only"_s, pdf, u"--manifest"_s, manifest, path("a.txt")}).exitCode, 0);
+        QCOMPARE(
+            runTool(kProgram, {u"--verify-only"_s, pdf, u"--manifest"_s, manifest, path("a.txt")})
+                .exitCode,
+            0);
         QCOMPARE(faultsIn(manifest), QByteArray());
-        QCOMPARE(member(read(manifest)[u"outputs"_s].toArray()[0].toObject(), "sha256"), sumOf(pdf));
+        QCOMPARE(member(read(manifest)[u"outputs"_s].toArray()[0].toObject(), "sha256"),
+                 sumOf(pdf));
     }
 };
 

@@ -13,8 +13,9 @@ class VerifyTest : public QObject, CommandLineCase {
 
     QString merged() {
         const QString pdf = path("all.pdf");
-        const ToolRun run = runTool(kProgram, {u"--merge"_s, pdf, text("a.txt", "one"),
-                                               writePng(path("b.png"), 30, 20), text("c.txt", "two")});
+        const ToolRun run =
+            runTool(kProgram, {u"--merge"_s, pdf, text("a.txt", "one"),
+                               writePng(path("b.png"), 30, 20), text("c.txt", "two")});
         return run.exitCode == 0 ? pdf : QString::fromUtf8(run.err);
     }
 
@@ -30,8 +31,10 @@ class VerifyTest : public QObject, CommandLineCase {
             convert({u"--json"_s, u"--verify"_s, text("a.txt"), writePng(path("b.png"), 30, 20)});
         QCOMPARE(run.exitCode, 0);
         const auto objects = objectsOf(run.out);
-        const QJsonArray text{QJsonObject{{u"first"_s, 1}, {u"last"_s, 1}, {u"by"_s, u"characters"_s}}};
-        const QJsonArray picture{QJsonObject{{u"first"_s, 1}, {u"last"_s, 1}, {u"by"_s, u"bytes"_s}}};
+        const QJsonArray text{
+            QJsonObject{{u"first"_s, 1}, {u"last"_s, 1}, {u"by"_s, u"characters"_s}}};
+        const QJsonArray picture{
+            QJsonObject{{u"first"_s, 1}, {u"last"_s, 1}, {u"by"_s, u"bytes"_s}}};
         QCOMPARE(objects[0][u"verified"_s].toArray(), text);
         QCOMPARE(objects[1][u"verified"_s].toArray(), picture);
     }
@@ -55,7 +58,8 @@ class VerifyTest : public QObject, CommandLineCase {
         text("c.txt", "three");
         const ToolRun run = verify({path("a.txt"), path("b.png"), path("c.txt")});
         QCOMPARE(run.exitCode, 1);
-        QVERIFY2(run.err.contains("c.txt: Page 3 of the PDF is not its source: its characters"), run.err);
+        QVERIFY2(run.err.contains("c.txt: Page 3 of the PDF is not its source: its characters"),
+                 run.err);
         QVERIFY(!run.err.contains("a.txt:"));
     }
 
@@ -70,31 +74,40 @@ class VerifyTest : public QObject, CommandLineCase {
     void aProtectedPdfOpensWithItsPassword() {
         const QString password = writeFile(path("password"), "open sesame\n");
         const QStringList protection{u"--user-password-file"_s, password};
-        QCOMPARE(runTool(kProgram, protection + QStringList{u"--merge"_s, path("all.pdf"), text("a.txt")}).exitCode, 0);
+        QCOMPARE(runTool(kProgram,
+                         protection + QStringList{u"--merge"_s, path("all.pdf"), text("a.txt")})
+                     .exitCode,
+                 0);
         QCOMPARE(verify(protection + QStringList{path("a.txt")}).exitCode, 0);
         QCOMPARE(verify({path("a.txt")}).exitCode, 1);
     }
 
     void anotherLayoutIsAWarning() {
         const QByteArray words = QByteArray("words that make rows ").repeated(40);
-        QCOMPARE(runTool(kProgram, {u"--text-layout"_s, u"readable"_s, u"--merge"_s, path("all.pdf"), text("a.txt", words)}).exitCode, 0);
+        QCOMPARE(runTool(kProgram, {u"--text-layout"_s, u"readable"_s, u"--merge"_s,
+                                    path("all.pdf"), text("a.txt", words)})
+                     .exitCode,
+                 0);
         const ToolRun run = verify({path("a.txt")});
         QCOMPARE(run.exitCode, 0);
         QVERIFY(run.err.contains("laid out otherwise"));
         QCOMPARE(verify({u"--strict"_s, path("a.txt")}).exitCode, 1);
-        QCOMPARE(verify({u"--strict"_s, u"--text-layout"_s, u"readable"_s, path("a.txt")}).exitCode, 0);
+        QCOMPARE(verify({u"--strict"_s, u"--text-layout"_s, u"readable"_s, path("a.txt")}).exitCode,
+                 0);
     }
 
     void itGoesWithNoOutput() {
-        for (const QStringList &options : {QStringList{u"--merge"_s, path("x.pdf")}, QStringList{u"--verify"_s},
-                                           QStringList{u"--output-folder"_s, path("out")}}) {
+        for (const QStringList &options :
+             {QStringList{u"--merge"_s, path("x.pdf")}, QStringList{u"--verify"_s},
+              QStringList{u"--output-folder"_s, path("out")}}) {
             QCOMPARE(verify(options + QStringList{text("a.txt")}).exitCode, 2);
         }
     }
 
     void aSmallerPdfIsHeldAgainstTheOneBefore() {
         QVERIFY(writePng(path("big.png"), 2000, 1500, 600).size() > 0);
-        const ToolRun run = convert({u"--json"_s, u"--verify"_s, u"--compress"_s, u"96m"_s, path("big.png")});
+        const ToolRun run =
+            convert({u"--json"_s, u"--verify"_s, u"--compress"_s, u"96m"_s, path("big.png")});
         QVERIFY2(run.exitCode == 0, run.err);
         QVERIFY(!run.out.contains("notCompressed"));
     }

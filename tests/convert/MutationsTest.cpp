@@ -15,8 +15,8 @@ using namespace folioforge;
 using namespace folioforge::test;
 
 /// Finished PDFs and their sources with single bits or bytes changed: what a verification lets pass
-/// shows no difference on any page. FOLIOFORGE_MUTATIONS sets how many are tried; ten thousand take longer
-/// than QTEST_FUNCTION_TIMEOUT lets them by itself.
+/// shows no difference on any page. FOLIOFORGE_MUTATIONS sets how many are tried; ten thousand take
+/// longer than QTEST_FUNCTION_TIMEOUT lets them by itself.
 class MutationsTest : public QObject, protected ConversionCase {
     Q_OBJECT
 
@@ -34,12 +34,14 @@ class MutationsTest : public QObject, protected ConversionCase {
     }
 
     void addSources() {
-        QVERIFY(QDir(m_folder->path()).mkpath(u"image"_s) && QDir(m_folder->path()).mkpath(u"pdf"_s));
+        QVERIFY(QDir(m_folder->path()).mkpath(u"image"_s) &&
+                QDir(m_folder->path()).mkpath(u"pdf"_s));
         addText("a.txt", "words (in brackets) \xE6\xBC\xA2\xE5\xAD\x97 \xC5\xBElu\xC5\xA5\n" +
                              QByteArray("and some more of them, too\n").repeated(80));
-        for (const char *name : {"image/photo.jpg", "image/palette.png", "image/translucent.png",
-                                 "image/bilevel-g4.tif", "image/bilevel-strips.tif", "image/colour.jp2",
-                                 "pdf/writer-form.pdf", "pdf/chromium-letter.pdf"}) {
+        for (const char *name :
+             {"image/photo.jpg", "image/palette.png", "image/translucent.png",
+              "image/bilevel-g4.tif", "image/bilevel-strips.tif", "image/colour.jp2",
+              "pdf/writer-form.pdf", "pdf/chromium-letter.pdf"}) {
             addFile(copied(name));
         }
     }
@@ -54,7 +56,8 @@ class MutationsTest : public QObject, protected ConversionCase {
         }
         const PDFOutcome outcome = convertTo(pdf);
         m_options = usual;
-        return outcome.isWritten() && std::ranges::all_of(outcome.entries, [](const EntryOutcome &entry) {
+        return outcome.isWritten() &&
+               std::ranges::all_of(outcome.entries, [](const EntryOutcome &entry) {
                    return entry.written && entry.verification && entry.verification->holds() &&
                           !entry.verification->isLaidOutOtherwise;
                });
@@ -104,7 +107,8 @@ class MutationsTest : public QObject, protected ConversionCase {
             QVERIFY2(seen(file) == before,
                      qPrintable(u"byte %1, now %2: %3"_s.arg(at)
                                     .arg(static_cast<uchar>(changed[at]))
-                                    .arg(QString::fromLatin1(whole.mid(std::max<qsizetype>(0, at - 40), 80)))));
+                                    .arg(QString::fromLatin1(
+                                        whole.mid(std::max<qsizetype>(0, at - 40), 80)))));
         }
         qInfo("%d changes found, %d without effect on a page", found, withoutEffect);
         QVERIFY(found > withoutEffect);
@@ -118,7 +122,8 @@ class MutationsTest : public QObject, protected ConversionCase {
         int found = 0;
         int withoutEffect = 0;
         for (int i = 0; i < count() / 4; ++i) {
-            const QString source = m_list[random.bounded(static_cast<quint32>(m_list.size()))]->filePathName();
+            const QString source =
+                m_list[random.bounded(static_cast<quint32>(m_list.size()))]->filePathName();
             const QByteArray whole = readFile(source);
             QByteArray changed = whole;
             const auto at = random.bounded(static_cast<quint32>(whole.size()));

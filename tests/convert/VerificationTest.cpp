@@ -53,8 +53,10 @@ QString rewritten(const QString &from, const QString &to, const QStringList &arg
 }
 
 /// The PDF in plain words, with `from` for `to` in it wherever it stands.
-QString edited(const QString &pdf, const QString &target, const QByteArray &from, const QByteArray &to) {
-    const QString plain = rewritten(pdf, target + u".qdf"_s, {u"--qdf"_s, u"--object-streams=disable"_s});
+QString edited(const QString &pdf, const QString &target, const QByteArray &from,
+               const QByteArray &to) {
+    const QString plain =
+        rewritten(pdf, target + u".qdf"_s, {u"--qdf"_s, u"--object-streams=disable"_s});
     QByteArray bytes = readFile(plain);
     if (!bytes.contains(from)) {
         return {};
@@ -70,7 +72,9 @@ QString edited(const QString &pdf, const QString &target, const QByteArray &from
 class VerificationTest : public QObject, protected ConversionCase {
     Q_OBJECT
 
-    static QString data(const char *name) { return inSource(u"tests/data/"_s + QLatin1StringView(name)); }
+    static QString data(const char *name) {
+        return inSource(u"tests/data/"_s + QLatin1StringView(name));
+    }
 
     void addAll(const QString &folder) {
         QStringList files;
@@ -91,7 +95,8 @@ class VerificationTest : public QObject, protected ConversionCase {
                 all += (m_list[i]->fileName() + u": "_s + entry.reason).toUtf8();
             }
         }
-        return all + (outcome.isWritten() ? QByteArrayList() : QByteArrayList{outcome.close.reason.toUtf8()});
+        return all + (outcome.isWritten() ? QByteArrayList()
+                                          : QByteArrayList{outcome.close.reason.toUtf8()});
     }
 
     /// Writes a PDF of the list to look for afterwards.
@@ -142,7 +147,8 @@ class VerificationTest : public QObject, protected ConversionCase {
     }
 
     void everyTurnAndFitOfAPictureStandsWhereItShould() {
-        for (const char *name : {"turned.webp", "turned.heic", "turned.jxl", "turned.avif", "photo.jpg"}) {
+        for (const char *name :
+             {"turned.webp", "turned.heic", "turned.jxl", "turned.avif", "photo.jpg"}) {
             addFile(data("image/") + QLatin1StringView(name));
         }
         m_options.imagePage = {ImagePageCustom, 300, 500, {10, 20, 30, 40}};
@@ -154,10 +160,11 @@ class VerificationTest : public QObject, protected ConversionCase {
     }
 
     void textsOfManyScriptsHaveTheirCharacters() {
-        const QByteArray text = "English (with) \\ signs\n\xC5\xBElu\xC5\xA5ou\xC4\x8Dk\xC3\xBD "
-                                "\xEF\xAC\x81 \xE6\xBC\xA2\xE5\xAD\x97\n\xD8\xA7\xD9\x84\xD8\xB9\xD8\xB1"
-                                "\xD8\xA8\xD9\x8A\xD8\xA9 \xE0\xA4\xB9\xE0\xA4\xBF\xE0\xA4\xA8\xE0\xA5\x8D"
-                                "\xE0\xA4\xA6\xE0\xA5\x80\n\tno glyph: \xEE\x84\xA3\n";
+        const QByteArray text =
+            "English (with) \\ signs\n\xC5\xBElu\xC5\xA5ou\xC4\x8Dk\xC3\xBD "
+            "\xEF\xAC\x81 \xE6\xBC\xA2\xE5\xAD\x97\n\xD8\xA7\xD9\x84\xD8\xB9\xD8\xB1"
+            "\xD8\xA8\xD9\x8A\xD8\xA9 \xE0\xA4\xB9\xE0\xA4\xBF\xE0\xA4\xA8\xE0\xA5\x8D"
+            "\xE0\xA4\xA6\xE0\xA5\x80\n\tno glyph: \xEE\x84\xA3\n";
         addText("a.txt", text);
         addText("b.txt", text.repeated(60));
         addText("empty.txt", {});
@@ -226,8 +233,9 @@ class VerificationTest : public QObject, protected ConversionCase {
         QVERIFY(outcome.entries[0].written);
         QVERIFY(outcome.entries[1].written);
         QVERIFY(!outcome.entries[2].written);
-        QCOMPARE(outcome.entries[2].reason,
-                 u"Page 3 of the PDF is not its source: its characters are not those of the text"_s);
+        QCOMPARE(
+            outcome.entries[2].reason,
+            u"Page 3 of the PDF is not its source: its characters are not those of the text"_s);
     }
 
     void whatAnEditChangesIsFound_data() {
@@ -236,8 +244,10 @@ class VerificationTest : public QObject, protected ConversionCase {
         QTest::newRow("letters") << QByteArray("(words)") << QByteArray("(wards)");
         QTest::newRow("map of characters") << QByteArray("<77><0077>") << QByteArray("<77><0078>");
         QTest::newRow("width of a picture") << QByteArray("/Width 24") << QByteArray("/Width 23");
-        QTest::newRow("colours of a picture") << QByteArray("/ColorSpace /DeviceRGB") << QByteArray("/ColorSpace /DeviceGray");
-        QTest::newRow("annotation") << QByteArray("/Subtype /Widget") << QByteArray("/Subtype /Square");
+        QTest::newRow("colours of a picture")
+            << QByteArray("/ColorSpace /DeviceRGB") << QByteArray("/ColorSpace /DeviceGray");
+        QTest::newRow("annotation")
+            << QByteArray("/Subtype /Widget") << QByteArray("/Subtype /Square");
         QTest::newRow("box") << QByteArray("595.303937007874") << QByteArray("595.9");
     }
 
@@ -273,7 +283,8 @@ class VerificationTest : public QObject, protected ConversionCase {
         for (const auto &entry : m_list) {
             files += entry->filePathName();
         }
-        const ToolRun run = runTool(u"img2pdf"_s, files + QStringList{u"-S"_s, u"A4"_s, u"-o"_s, path("img.pdf")});
+        const ToolRun run =
+            runTool(u"img2pdf"_s, files + QStringList{u"-S"_s, u"A4"_s, u"-o"_s, path("img.pdf")});
         QVERIFY2(run.exitCode == 0, run.err);
         const PDFOutcome outcome = verified(path("img.pdf"));
         QCOMPARE(faults(outcome), QByteArrayList());
@@ -305,7 +316,9 @@ class VerificationTest : public QObject, protected ConversionCase {
         QVERIFY(photo(800, 600).save(jpeg, "JPG", 95));
         addFile(jpeg);
         const QString small = path("small.jpg");
-        QVERIFY(photo(800, 600).scaled(400, 300, Qt::KeepAspectRatio, Qt::SmoothTransformation).save(small, "JPG", 70));
+        QVERIFY(photo(800, 600)
+                    .scaled(400, 300, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                    .save(small, "JPG", 70));
         QCOMPARE(runTool(u"img2pdf"_s, {small, u"-o"_s, path("small.pdf")}).exitCode, 0);
         QVERIFY(!faults(verified(path("small.pdf"))).isEmpty());
         m_options.compressIndex = 2;

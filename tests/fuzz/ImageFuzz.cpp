@@ -35,12 +35,12 @@ void requireInOrder(const PdfImage &image, qint64 fileSize) {
 
 /// Every page and frame; a large one ends it.
 void requireAllInOrder(const QString &path, qint64 fileSize) {
-    constexpr int kMost = 100;
+    constexpr int kMax = 100;
     int number = 0;
     refuses([&] {
         forEachPicture(path, SystemCalls::system(), SourceMetadata::Strip, [&](PdfImage image) {
             requireInOrder(image, fileSize);
-            if (++number == kMost || qint64(image.width) * image.height > kMaxPixels) {
+            if (++number == kMax || qint64(image.width) * image.height > kMaxPixels) {
                 throw Error(u"Enough"_s);
             }
         });

@@ -65,8 +65,8 @@ struct Taking {
 };
 
 std::optional<Taking> takingFrom(const QByteArray &line) {
-    constexpr qsizetype kLongest = 100; // A long choice takes any page any number of times.
-    const QList<QByteArray> words = line.left(kLongest).split(' ');
+    constexpr qsizetype kMaxLength = 100; // A long choice takes any page any number of times.
+    const QList<QByteArray> words = line.left(kMaxLength).split(' ');
     const auto range = pageRange(words.value(0));
     const auto turn = pageTurn(words.value(1));
     if (!range && !turn) {

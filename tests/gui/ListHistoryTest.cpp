@@ -180,7 +180,7 @@ class ListHistoryTest : public QObject {
         FilesArray files;
         ListHistory history(files);
         history.insert(u"Add"_s, -1, blank(2));
-        for (std::size_t i = 0; i < ListHistory::kMostSteps; ++i) {
+        for (std::size_t i = 0; i < ListHistory::kMaxSteps; ++i) {
             history.move(u"Move Up"_s, 1, 0);
         }
         int steps = 0;
@@ -188,14 +188,14 @@ class ListHistoryTest : public QObject {
             history.undo({});
             ++steps;
         }
-        QCOMPARE(steps, int(ListHistory::kMostSteps));
+        QCOMPARE(steps, int(ListHistory::kMaxSteps));
         QCOMPARE(files.count(), 2);
     }
 
     void stepsDoNotHoldFilesWithoutEnd() {
         FilesArray files;
         ListHistory history(files);
-        const std::size_t many = ListHistory::kMostEntries - 1;
+        const std::size_t many = ListHistory::kMaxEntries - 1;
         history.insert(u"Add"_s, -1, blank(1));
         history.insert(u"Add"_s, -1, blank(many));
         QVERIFY(history.undoAction()->isEnabled());

@@ -152,16 +152,16 @@ class WindowManagersTest : public QObject {
     void aPanelThatIsShownAndHiddenInASlideEndsRight() {
         QFETCH(const DesktopKind, desktop);
         constexpr int kTimes = 200;
-        constexpr int kLongest = 20; // Milliseconds between presses; a slide takes some 200.
+        constexpr int kMaxLength = 20; // Milliseconds between presses; a slide takes some 200.
         Session session(desktop);
         QVERIFY(session.runs());
         const QRect before = session.place().frame;
         QRandomGenerator random(quint32{20'261'122});
         for (int time = 0; time < kTimes; ++time) {
             QVERIFY(session.showOptions());
-            QTest::qWait(random.bounded(kLongest));
+            QTest::qWait(random.bounded(kMaxLength));
             QVERIFY(session.hideOptions());
-            QTest::qWait(random.bounded(kLongest));
+            QTest::qWait(random.bounded(kMaxLength));
         }
         QCOMPARE(session.frameThatIs(before), before);
     }

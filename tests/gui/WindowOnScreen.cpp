@@ -32,9 +32,9 @@ xcb_atom_t atom(xcb_connection_t *connection, const QByteArray &name) {
 /// The numbers in the property `name` of `window`; nothing where it has none.
 std::vector<std::uint32_t> numbersIn(xcb_connection_t *screen, xcb_window_t window,
                                      const QByteArray &name) {
-    constexpr std::uint32_t kMost = 16;
+    constexpr std::uint32_t kMax = 16;
     const auto request =
-        xcb_get_property(screen, 0, window, atom(screen, name), XCB_ATOM_ANY, 0, kMost);
+        xcb_get_property(screen, 0, window, atom(screen, name), XCB_ATOM_ANY, 0, kMax);
     const std::unique_ptr<xcb_get_property_reply_t, Free> reply(
         xcb_get_property_reply(screen, request, nullptr));
     if (!reply || reply->format != 32) {

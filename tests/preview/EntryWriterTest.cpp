@@ -60,7 +60,7 @@ class EntryWriterTest : public QObject {
     void ofALongTextTheFirstPagesAreWritten() {
         EntryWriter writer(bundlePath());
         ConversionOptions options;
-        options.mostTextPages = 3;
+        options.maxTextPages = 3;
         QElapsedTimer time;
         time.start();
         writer.write(text(QByteArray("a line of a long text\n").repeated(1'000'000)), options);

@@ -90,9 +90,9 @@ QString captionInIptc(QByteArrayView sets) {
 
 /// Without blanks around it, and no longer than a string of PDF/A may be.
 QString tidied(const QString &text) {
-    constexpr qsizetype kMost = 8000;
+    constexpr qsizetype kMax = 8000;
     const QString trimmed = text.trimmed();
-    return trimmed.size() > kMost ? trimmed.first(kMost) + u'…' : trimmed;
+    return trimmed.size() > kMax ? trimmed.first(kMax) + u'…' : trimmed;
 }
 
 } // namespace

@@ -11,7 +11,7 @@ namespace folioforge {
 
 namespace {
 
-constexpr qint64 kMostBytes = 1 << 20;
+constexpr qint64 kMaxBytes = 1 << 20;
 constexpr QByteArrayView kExifLead("Exif\0\0", 6);
 
 /// The blocks of a TIFF file, or of an Exif block, which is one (TIFF 6.0, section 2).
@@ -37,7 +37,7 @@ void readTiff(const FileView &file, DescriptionBlocks &blocks) {
         const quint16 tag = half(entry, 0);
         constexpr quint16 kLong = 4; // Some writers keep IPTC in words.
         const qint64 length = word(entry, 4) * (half(entry, 2) == kLong ? qint64(4) : qint64(1));
-        if ((tag != ImageDescription && tag != Xmp && tag != Iptc) || length > kMostBytes) {
+        if ((tag != ImageDescription && tag != Xmp && tag != Iptc) || length > kMaxBytes) {
             continue;
         }
         const QByteArray value =
@@ -112,7 +112,7 @@ void readPngText(QByteArrayView type, QByteArrayView chunk, DescriptionBlocks &b
     } else if (isPacked) {
         chunk = chunk.sliced(std::min<qsizetype>(1, chunk.size()));
     }
-    const QByteArray text = isPacked ? inflateUpTo(chunk, kMostBytes) : chunk.toByteArray();
+    const QByteArray text = isPacked ? inflateUpTo(chunk, kMaxBytes) : chunk.toByteArray();
     if (isXmp) {
         blocks.xmp = text;
     } else {
@@ -128,9 +128,9 @@ void readPng(const FileView &file, DescriptionBlocks &blocks) {
         const qint64 length = bigEndianAt<quint32>(lead, 0);
         const QByteArrayView type = QByteArrayView(lead).sliced(4);
         const bool isText = type == "tEXt" || type == "zTXt" || type == "iTXt";
-        if (isText && length <= kMostBytes) {
+        if (isText && length <= kMaxBytes) {
             readPngText(type, file.readExactly(at + kLead, length), blocks);
-        } else if (type == "eXIf" && length <= kMostBytes) {
+        } else if (type == "eXIf" && length <= kMaxBytes) {
             readExif(file.readExactly(at + kLead, length), blocks);
         }
         at += kLead + length + 4;
@@ -143,9 +143,9 @@ void readWebp(const FileView &file, DescriptionBlocks &blocks) {
     for (qint64 at = kFirst; at + kLead <= file.size();) {
         const QByteArray lead = file.readExactly(at, kLead);
         const qint64 length = littleEndianAt<quint32>(lead, 4);
-        if (lead.startsWith("XMP ") && length <= kMostBytes) {
+        if (lead.startsWith("XMP ") && length <= kMaxBytes) {
             blocks.xmp = file.readExactly(at + kLead, length);
-        } else if (lead.startsWith("EXIF") && length <= kMostBytes) {
+        } else if (lead.startsWith("EXIF") && length <= kMaxBytes) {
             const QByteArray block = file.readExactly(at + kLead, length);
             readExif(block.startsWith(kExifLead) ? QByteArrayView(block).sliced(kExifLead.size())
                                                  : QByteArrayView(block),

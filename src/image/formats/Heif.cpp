@@ -23,7 +23,7 @@ namespace folioforge {
 
 namespace {
 
-constexpr size_t kMostMetadata = 1 << 25;
+constexpr size_t kMaxMetadata = 1 << 25;
 
 /// Throws Error where the system grants no thread: libde265 would wait for its own for ever.
 void requireThread() {
@@ -41,7 +41,7 @@ ExifMetadata exifOf(const heif_image_handle *handle) {
         return {};
     }
     const size_t size = heif().image_handle_get_metadata_size(handle, id);
-    if (size > kMostMetadata) {
+    if (size > kMaxMetadata) {
         return {};
     }
     QByteArray item(static_cast<qsizetype>(size), '\0');
@@ -72,7 +72,7 @@ CicpColor colorOf(const heif_color_profile_nclx &nclx) {
 /// Adds what the file says of the meaning of its colours.
 void readColor(const heif_image_handle *handle, Raster &raster, Warnings &warnings) {
     const size_t size = heif().image_handle_get_raw_color_profile_size(handle);
-    if (size > 0 && size <= kMostMetadata) {
+    if (size > 0 && size <= kMaxMetadata) {
         raster.iccProfile = QByteArray(static_cast<qsizetype>(size), '\0');
         requireHeif(heif().image_handle_get_raw_color_profile(handle, raster.iccProfile.data()));
         return;

@@ -170,10 +170,10 @@ PdfImage describe(const JpegMetadata &metadata) {
 /// Decodes what cannot go in as it is.
 PdfImage decodedImage(const FileView &file, const JpegMetadata &metadata) {
     // Codes of a bit or two for a block of 64 pixels are the least that a file can take.
-    constexpr qint64 kMostPacked = 4000;
+    constexpr qint64 kMaxPacked = 4000;
     requirePlausible(qint64(metadata.header.width) * metadata.header.height *
                          qint64(metadata.frame.components.size()),
-                     file.size(), kMostPacked);
+                     file.size(), kMaxPacked);
     JpegPixels pixels = decodeJpeg(file);
     pixels.raster.iccProfile = metadata.iccProfile();
     pixels.raster.decode = decodeArrayOf(metadata);

@@ -26,10 +26,10 @@ struct ScanPass {
     /// ITU-T T.81, G.1.1.1.
     [[nodiscard]] bool isInOrder(int components) const {
         constexpr int kLastCoefficient = 63;
-        constexpr int kMostBits = 13;
+        constexpr int kMaxBits = 13;
         const bool isBand =
             first == 0 ? last == 0 : last >= first && last <= kLastCoefficient && components == 1;
-        return isBand && low <= kMostBits && (high == 0 || low == high - 1);
+        return isBand && low <= kMaxBits && (high == 0 || low == high - 1);
     }
 };
 
@@ -69,16 +69,19 @@ bool JpegCheck::acceptFrame(const JpegSegment &segment) {
     const auto bytes = 6 + 3 * static_cast<qsizetype>(m_frame.components.size());
     m_isSeen.assign(m_frame.components.size(), false);
     for (const JpegComponent &component : m_frame.components) {
-        m_across = std::max(m_across, component.across);
-        m_down = std::max(m_down, component.down);
+        m_maxHorizontal = std::max(m_maxHorizontal, component.horizontalSampling);
+        m_maxVertical = std::max(m_maxVertical, component.verticalSampling);
     }
     // Decoders know whole ratios of sampling alone.
     constexpr int kMaxSampling = 4;
     return isFirst && segment.content.size() == bytes &&
            std::ranges::all_of(m_frame.components, [&](const JpegComponent &component) {
-               return component.across > 0 && component.across <= kMaxSampling &&
-                      component.down > 0 && component.down <= kMaxSampling &&
-                      m_across % component.across == 0 && m_down % component.down == 0 &&
+               return component.horizontalSampling > 0 &&
+                      component.horizontalSampling <= kMaxSampling &&
+                      component.verticalSampling > 0 &&
+                      component.verticalSampling <= kMaxSampling &&
+                      m_maxHorizontal % component.horizontalSampling == 0 &&
+                      m_maxVertical % component.verticalSampling == 0 &&
                       component.quantization < kTables;
            });
 }
@@ -187,14 +190,16 @@ bool JpegCheck::acceptCodedData(const JpegSegment &scan, const std::vector<size_
     qint64 blocks = 0;
     if (members.size() == 1) {
         const JpegComponent &only = m_frame.components[members.front()];
-        units = parts(parts(qint64(m_frame.width) * only.across, m_across), kSide) *
-                parts(parts(qint64(m_frame.height) * only.down, m_down), kSide);
+        units =
+            parts(parts(qint64(m_frame.width) * only.horizontalSampling, m_maxHorizontal), kSide) *
+            parts(parts(qint64(m_frame.height) * only.verticalSampling, m_maxVertical), kSide);
         blocks = units;
     } else {
-        units = parts(m_frame.width, qint64(kSide) * m_across) *
-                parts(m_frame.height, qint64(kSide) * m_down);
+        units = parts(m_frame.width, qint64(kSide) * m_maxHorizontal) *
+                parts(m_frame.height, qint64(kSide) * m_maxVertical);
         for (const size_t member : members) {
-            blocks += units * m_frame.components[member].across * m_frame.components[member].down;
+            blocks += units * m_frame.components[member].horizontalSampling *
+                      m_frame.components[member].verticalSampling;
         }
     }
     const qint64 restarts = m_interval > 0 && units > 0 ? (units - 1) / m_interval : 0;

@@ -44,8 +44,8 @@ class JpegCheck {
 
     bool m_isThrifty;
     JpegFrame m_frame;
-    int m_across = 1; // The largest sampling factors.
-    int m_down = 1;
+    int m_maxHorizontal = 1; // The largest sampling factors.
+    int m_maxVertical = 1;
     qint64 m_interval = 0; // Between restart markers.
     bool m_isDoubtful = false;
     std::vector<bool> m_isSeen;

@@ -88,8 +88,8 @@ class JpegSegments {
 /// A component of a frame.
 struct JpegComponent {
     uchar id = 0;
-    int across = 1; ///< Sampling factors.
-    int down = 1;
+    int horizontalSampling = 1;
+    int verticalSampling = 1;
     int quantization = 0; ///< The number of its table.
 };
 

@@ -26,9 +26,9 @@ namespace {
 /// Runs the pieces of libjxl's work on all cores, or on those threads that the system grants.
 JxlParallelRetCode runPieces(void * /*runner*/, void *work, JxlParallelRunInit init,
                              JxlParallelRunFunction doPiece, uint32_t first, uint32_t end) {
-    constexpr uint32_t kMostThreads = 8;
+    constexpr uint32_t kMaxThreads = 8;
     const uint32_t threads =
-        std::clamp(std::min(std::thread::hardware_concurrency(), end - first), 1U, kMostThreads);
+        std::clamp(std::min(std::thread::hardware_concurrency(), end - first), 1U, kMaxThreads);
     if (const JxlParallelRetCode refusal = init(work, threads); refusal != 0) {
         return refusal;
     }
@@ -72,10 +72,10 @@ bool asks(Call call, const JxlDecoder *decoder, Rest... rest) {
 #endif
 
 QByteArray profileOf(const JxlDecoder *decoder) {
-    constexpr size_t kMostBytes = 1 << 25;
+    constexpr size_t kMaxBytes = 1 << 25;
     size_t size = 0;
     if (!asks(JxlDecoderGetICCProfileSize, decoder, JXL_COLOR_PROFILE_TARGET_DATA, &size) ||
-        size > kMostBytes) {
+        size > kMaxBytes) {
         return {};
     }
     QByteArray profile(static_cast<qsizetype>(size), '\0');
@@ -109,10 +109,10 @@ void requireRoom(const JxlBasicInfo &info) {
 } // namespace
 
 ImageHeader headerOf(const JxlBasicInfo &info) {
-    constexpr uint32_t kMost = std::numeric_limits<int>::max();
+    constexpr uint32_t kMax = std::numeric_limits<int>::max();
     ImageHeader header;
-    header.width = static_cast<int>(std::min(info.xsize, kMost));
-    header.height = static_cast<int>(std::min(info.ysize, kMost));
+    header.width = static_cast<int>(std::min(info.xsize, kMax));
+    header.height = static_cast<int>(std::min(info.ysize, kMax));
     return header;
 }
 
@@ -171,8 +171,8 @@ JxlBasicInfo JpegXlDecoder::checkedInfo() const {
 }
 
 void JpegXlDecoder::requireColors(const JxlBasicInfo &info) const {
-    constexpr uint32_t kMostFurther = 16;
-    if (info.num_extra_channels > kMostFurther) {
+    constexpr uint32_t kMaxFurther = 16;
+    if (info.num_extra_channels > kMaxFurther) {
         throw Error(
             Reasons::tr("The JPEG XL file has %1 channels beside its colours, which are too many")
                 .arg(info.num_extra_channels));

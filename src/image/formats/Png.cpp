@@ -2,8 +2,8 @@
 
 #include "image/formats/Formats.h"
 
-#include "image/Bytes.h"
 #include "files/Checksum.h"
+#include "image/Bytes.h"
 #include "image/Deflate.h"
 #include "image/IccProfile.h"
 #include "image/MorePictures.h"

@@ -63,12 +63,12 @@ QByteArray inflateDamagedRows(const QByteArray &compressed, const PngMetadata &m
 /// Whether `first` begins a zlib stream (RFC 1950, 2.2).
 bool beginsZlib(QByteArrayView first) {
     constexpr int kDeflate = 8;
-    constexpr int kMostWindow = 7;
+    constexpr int kMaxWindow = 7;
     constexpr int kDictionary = 0x20;
     const auto method = bigEndianAt<uchar>(first, 0);
     const auto flags = bigEndianAt<uchar>(first, 1);
-    return (method & 0x0F) == kDeflate && method >> 4 <= kMostWindow &&
-           (flags & kDictionary) == 0 && (method << 8 | flags) % 31 == 0;
+    return (method & 0x0F) == kDeflate && method >> 4 <= kMaxWindow && (flags & kDictionary) == 0 &&
+           (method << 8 | flags) % 31 == 0;
 }
 
 } // namespace

@@ -67,15 +67,15 @@ constexpr qint64 kFirstChunk = 12; ///< Behind "RIFF", the file's length and "WE
 /// Reads what stands beside the picture of an extended file.
 void readFurtherChunks(const FileView &file, WebpMetadata &metadata) {
     constexpr qint64 kLead = 8; // Name and length of a chunk.
-    constexpr qint64 kMostBytes = 1 << 25;
-    constexpr int kMostChunks = 100'000;
+    constexpr qint64 kMaxBytes = 1 << 25;
+    constexpr int kMaxChunks = 100'000;
     qint64 at = kFirstChunk;
-    for (int chunk = 0; chunk < kMostChunks && at + kLead <= file.size(); ++chunk) {
+    for (int chunk = 0; chunk < kMaxChunks && at + kLead <= file.size(); ++chunk) {
         const QByteArray lead = file.readExactly(at, kLead);
         const qint64 length = littleEndianAt<quint32>(lead, 4);
-        if (length <= kMostBytes && lead.startsWith("ICCP")) {
+        if (length <= kMaxBytes && lead.startsWith("ICCP")) {
             metadata.iccProfile = file.read(at + kLead, length);
-        } else if (length <= kMostBytes && lead.startsWith("EXIF")) {
+        } else if (length <= kMaxBytes && lead.startsWith("EXIF")) {
             readExifChunk(file.read(at + kLead, length), metadata.header);
         }
         at += kLead + length + length % 2;
@@ -105,8 +105,8 @@ WebpMetadata readMetadata(const FileView &file) {
 
 /// The file, which libwebp reads in one piece. No picture takes more than its largest pixels.
 QByteArray bytesOf(const FileView &file) {
-    constexpr qint64 kMostBytes = 1 << 30;
-    if (file.size() > kMostBytes) {
+    constexpr qint64 kMaxBytes = 1 << 30;
+    if (file.size() > kMaxBytes) {
         throw Error(Reasons::tr("The WebP file is too large"));
     }
     return file.readExactly(0, file.size());
@@ -184,9 +184,9 @@ class WebpPictureReader : public PictureReader {
   private:
     void open() {
         // libwebp holds the canvas twice.
-        constexpr qint64 kMostPixels = 100'000'000;
+        constexpr qint64 kMaxPixels = 100'000'000;
         const ImageHeader &header = m_metadata.header;
-        if (qint64(header.width) * header.height > kMostPixels) {
+        if (qint64(header.width) * header.height > kMaxPixels) {
             throw Error(Reasons::tr("The animation is too large (%1 x %2 pixels)")
                             .arg(header.width)
                             .arg(header.height));

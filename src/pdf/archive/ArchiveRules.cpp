@@ -139,8 +139,8 @@ void ArchiveRules::keepInfo(DocumentInfo &info) const {
     for (QString *field :
          {&info.title, &info.author, &info.subject, &info.keywords, &info.creator}) {
         *field = archivable(*field);
-        constexpr qsizetype kMost = 16'382; // Of 32,767 bytes, in UTF-16 with its mark.
-        if (field->size() > kMost) {
+        constexpr qsizetype kMax = 16'382; // Of 32,767 bytes, in UTF-16 with its mark.
+        if (field->size() > kMax) {
             throw Error(Reasons::tr("A property of the document is longer than %1 allows")
                             .arg(claimsOf(m_options.level).pdfAName()));
         }

@@ -80,14 +80,14 @@ Object widthArray(const std::map<std::uint16_t, int> &widths, int common, const 
 /// long as it may be goes over CIDs that no glyph has.
 Object shortWidthArray(const std::map<std::uint16_t, int> &widths, int common,
                        const FontFace &face) {
-    constexpr int kMost = 8191;
-    if (widths.size() <= kMost / 2) { // Two members for each run.
+    constexpr int kMax = 8191;
+    if (widths.size() <= kMax / 2) { // Two members for each run.
         return widthArray(widths, common, face);
     }
     Object array = Object::newArray();
-    for (int first = widths.begin()->first; first <= widths.rbegin()->first; first += kMost) {
+    for (int first = widths.begin()->first; first <= widths.rbegin()->first; first += kMax) {
         Object run = Object::newArray();
-        for (int cid = first; cid < first + kMost && cid <= widths.rbegin()->first; ++cid) {
+        for (int cid = first; cid < first + kMax && cid <= widths.rbegin()->first; ++cid) {
             const auto known = widths.find(static_cast<std::uint16_t>(cid));
             run.appendItem(thousandths(known == widths.end() ? common : known->second, face));
         }

@@ -68,8 +68,8 @@ namedFields(const std::vector<QPDFObjectHandle> &roots) {
 Warning fieldsRenamed(const Renames &names) {
     const auto &[name, unique] = *names.begin();
     const auto shown = [](const std::string &text) {
-        constexpr qsizetype kLongest = 60;
-        return QString::fromStdString(text).left(kLongest);
+        constexpr qsizetype kMaxLength = 60;
+        return QString::fromStdString(text).left(kMaxLength);
     };
     const QString text =
         names.size() == 1

@@ -50,11 +50,11 @@ ObjectStreams::ObjectStreams(Pipeline &file, qint64 offset, CrossReferences &ref
     , m_next(references.number() + 1) {}
 
 void ObjectStreams::add(Kind kind, int number, std::string_view object) {
-    constexpr int kMostObjects = 1000;
+    constexpr int kMaxObjects = 1000;
     constexpr qsizetype kEnoughBytes = 1 << 16;
     constexpr QByteArrayView kMemberEnd("0 R ");
     Stream &stream = m_streams.at(kind);
-    if (stream.count == kMostObjects || stream.objects.size() >= kEnoughBytes) {
+    if (stream.count == kMaxObjects || stream.objects.size() >= kEnoughBytes) {
         writeStream(kind);
     }
     if (stream.count == 0) {

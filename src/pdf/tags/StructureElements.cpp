@@ -17,10 +17,10 @@ namespace {
 
 /// Readers look through all kids of a node. Longer lists are split into about as many parts as each
 /// part has kids.
-constexpr std::size_t kMostKids = 500;
+constexpr std::size_t kMaxKids = 500;
 
 std::size_t partSize(std::size_t kids) {
-    return std::max(kMostKids, static_cast<std::size_t>(std::sqrt(static_cast<double>(kids))) + 1);
+    return std::max(kMaxKids, static_cast<std::size_t>(std::sqrt(static_cast<double>(kids))) + 1);
 }
 
 std::string reference(int number) {
@@ -98,7 +98,7 @@ class SourceElements {
         for (const PageTags &page : pages) {
             m_partSize += page.contents - page.joined.size();
         }
-        m_isParted = m_partSize > kMostKids;
+        m_isParted = m_partSize > kMaxKids;
         m_partSize = partSize(m_partSize);
         m_document = document;
         m_parent = document;

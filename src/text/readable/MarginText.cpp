@@ -20,15 +20,16 @@ namespace {
 
 struct Placeholder {
     QLatin1StringView word;
-    std::function<QString(const PageFacts &)> fact;
+    std::function<QString(const PageMetadata &)> fact;
 };
 
 const std::vector<Placeholder> &knownPlaceholders() {
     static const std::vector<Placeholder> known{
-        {"{file}"_L1, [](const PageFacts &facts) { return facts.file; }},
-        {"{page}"_L1, [](const PageFacts &facts) { return QString::number(facts.page); }},
-        {"{pages}"_L1, [](const PageFacts &facts) { return QString::number(facts.pages); }},
-        {"{date}"_L1, [](const PageFacts &facts) { return facts.date; }},
+        {"{file}"_L1, [](const PageMetadata &metadata) { return metadata.file; }},
+        {"{page}"_L1, [](const PageMetadata &metadata) { return QString::number(metadata.page); }},
+        {"{pages}"_L1,
+         [](const PageMetadata &metadata) { return QString::number(metadata.pages); }},
+        {"{date}"_L1, [](const PageMetadata &metadata) { return metadata.date; }},
     };
     return known;
 }
@@ -86,13 +87,13 @@ QString unknownPlaceholder(const QString &text) {
     return {};
 }
 
-QString withFacts(const QString &text, const PageFacts &facts) {
+QString withMetadata(const QString &text, const PageMetadata &metadata) {
     QString result;
     qsizetype taken = 0;
     for (const QRegularExpressionMatch &match : wordsInBraces(text)) {
         const Placeholder *known = placeholderCalled(match.capturedView());
         result += QStringView(text).sliced(taken, match.capturedStart() - taken);
-        result += known != nullptr ? known->fact(facts) : match.captured();
+        result += known != nullptr ? known->fact(metadata) : match.captured();
         taken = match.capturedEnd();
     }
     return result += QStringView(text).sliced(taken);

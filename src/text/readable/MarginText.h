@@ -13,22 +13,22 @@
 namespace folioforge {
 
 /// What a header and a footer can name.
-struct PageFacts {
+struct PageMetadata {
     QString file;
     int page = 1; ///< From 1.
     int pages = 1;
     QString date;
 };
 
-/// The words in braces that stand for facts, such as "{page}".
+/// The words in braces that stand for what is known of a page, such as "{page}".
 QStringList placeholders();
 
 /// The first words in braces of `text` that stand for nothing, or a brace that is not closed; empty
 /// where there is none.
 QString unknownPlaceholder(const QString &text);
 
-/// `text` with the facts in the place of their words in braces.
-QString withFacts(const QString &text, const PageFacts &facts);
+/// `text` with what is known of the page in the place of the words in braces.
+QString withMetadata(const QString &text, const PageMetadata &metadata);
 
 /// Sets headers and footers, page by page.
 class MarginText {

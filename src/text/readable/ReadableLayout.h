@@ -12,7 +12,7 @@ namespace folioforge {
 struct ReadableStyle {
     double tabWidth = 8;    ///< Blanks from one tab stop to the next.
     double lineSpacing = 1; ///< From row to row, in heights of a row.
-    /// What stands in the middle of the top and of the bottom margin, as withFacts() takes it.
+    /// What stands in the middle of the top and of the bottom margin, as withMetadata() takes it.
     QString header;
     QString footer;
 
