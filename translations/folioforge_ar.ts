@@ -2118,6 +2118,18 @@ None: pictures stay as they are
         <translation>تعرض أكثر من الصورة</translation>
     </message>
     <message>
+        <source>No description of the picture is given; its file&apos;s name stands for it</source>
+        <translation>لا يوجد وصف للصورة؛ يحلّ اسم ملفها محلّه</translation>
+    </message>
+    <message>
+        <source>It has no structure tags, which PDF/UA asks for</source>
+        <translation>ليس فيه وسوم البنية التي يتطلبها PDF/UA</translation>
+    </message>
+    <message>
+        <source>Whether its tags are what PDF/UA asks for is not looked at</source>
+        <translation>لا يُفحص ما إذا كانت وسومه كما يتطلبها PDF/UA</translation>
+    </message>
+    <message>
         <source>A property of the document is longer than %1 allows</source>
         <translation>إحدى خصائص المستند أطول مما يسمح به %1</translation>
     </message>

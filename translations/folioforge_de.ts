@@ -2006,6 +2006,18 @@ Keine: Bilder bleiben, wie sie sind
         <translation>sie zeigt mehr als das Bild</translation>
     </message>
     <message>
+        <source>No description of the picture is given; its file&apos;s name stands for it</source>
+        <translation>Es gibt keine Beschreibung des Bildes; der Name seiner Datei steht dafür</translation>
+    </message>
+    <message>
+        <source>It has no structure tags, which PDF/UA asks for</source>
+        <translation>Es hat keine Struktur-Tags, die PDF/UA verlangt</translation>
+    </message>
+    <message>
+        <source>Whether its tags are what PDF/UA asks for is not looked at</source>
+        <translation>Ob seine Tags dem entsprechen, was PDF/UA verlangt, wird nicht geprüft</translation>
+    </message>
+    <message>
         <source>A property of the document is longer than %1 allows</source>
         <translation>Eine Eigenschaft des Dokuments ist länger, als %1 erlaubt</translation>
     </message>

@@ -2006,6 +2006,18 @@ Ninguna: las imágenes quedan como están
         <translation>muestra más que la imagen</translation>
     </message>
     <message>
+        <source>No description of the picture is given; its file&apos;s name stands for it</source>
+        <translation>No hay descripción de la imagen; el nombre de su archivo la sustituye</translation>
+    </message>
+    <message>
+        <source>It has no structure tags, which PDF/UA asks for</source>
+        <translation>No tiene etiquetas de estructura, que PDF/UA exige</translation>
+    </message>
+    <message>
+        <source>Whether its tags are what PDF/UA asks for is not looked at</source>
+        <translation>No se comprueba si sus etiquetas son las que exige PDF/UA</translation>
+    </message>
+    <message>
         <source>A property of the document is longer than %1 allows</source>
         <translation>Una propiedad del documento es más larga de lo que permite %1</translation>
     </message>

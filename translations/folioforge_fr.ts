@@ -1799,7 +1799,7 @@ Aucune&#xa0;: les images restent telles quelles
     </message>
     <message>
         <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
-        <translation>Les fichiers HEIC et AVIF sont lus par libheif 1, qui ne peut pas être chargé : %1</translation>
+        <translation>Les fichiers HEIC et AVIF sont lus par libheif 1, qui ne peut pas être chargé&#xa0;: %1</translation>
     </message>
     <message>
         <source>This program was built without the means to read HEIC and AVIF files</source>
@@ -1831,11 +1831,11 @@ Aucune&#xa0;: les images restent telles quelles
     </message>
     <message>
         <source>It cannot go into a document that is %1, since %2</source>
-        <translation>Il ne peut pas entrer dans un document qui est %1 : %2</translation>
+        <translation>Il ne peut pas entrer dans un document qui est %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The PDF does not say that it is %1, since %2</source>
-        <translation>Le PDF ne déclare pas qu’il est %1 : %2</translation>
+        <translation>Le PDF ne déclare pas qu’il est %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>its colours are inks without a profile, and none is given</source>
@@ -1855,7 +1855,7 @@ Aucune&#xa0;: les images restent telles quelles
     </message>
     <message>
         <source>The PDF says that it is %1 because this document says so; whether that is true is not checked</source>
-        <translation>Le PDF déclare qu’il est %1 parce que ce document le déclare ; que ce soit vrai n’est pas vérifié</translation>
+        <translation>Le PDF déclare qu’il est %1 parce que ce document le déclare&#xa0;; que ce soit vrai n’est pas vérifié</translation>
     </message>
     <message>
         <source>Its colours without a profile are shown as those of the documents before it</source>
@@ -1883,11 +1883,11 @@ Aucune&#xa0;: les images restent telles quelles
     </message>
     <message>
         <source>Page %1 of the smaller PDF is not that of the PDF: %2</source>
-        <translation>La page %1 du PDF réduit n’est pas celle du PDF : %2</translation>
+        <translation>La page %1 du PDF réduit n’est pas celle du PDF&#xa0;: %2</translation>
     </message>
     <message>
         <source>The PDF is damaged: %1</source>
-        <translation>Le PDF est endommagé : %1</translation>
+        <translation>Le PDF est endommagé&#xa0;: %1</translation>
     </message>
     <message>
         <source>The PDF has fewer pages than the files</source>
@@ -1975,7 +1975,7 @@ Aucune&#xa0;: les images restent telles quelles
     </message>
     <message>
         <source>Page %1 of the PDF is not its source: %2</source>
-        <translation>La page %1 du PDF n’est pas conforme à sa source : %2</translation>
+        <translation>La page %1 du PDF n’est pas conforme à sa source&#xa0;: %2</translation>
     </message>
     <message>
         <source>the contents of a page cannot be read</source>
@@ -2004,6 +2004,18 @@ Aucune&#xa0;: les images restent telles quelles
     <message>
         <source>it shows more than the picture</source>
         <translation>elle montre plus que l’image</translation>
+    </message>
+    <message>
+        <source>No description of the picture is given; its file&apos;s name stands for it</source>
+        <translation>L’image n’a pas de description ; le nom de son fichier en tient lieu</translation>
+    </message>
+    <message>
+        <source>It has no structure tags, which PDF/UA asks for</source>
+        <translation>Il n’a pas de balises de structure, que PDF/UA exige</translation>
+    </message>
+    <message>
+        <source>Whether its tags are what PDF/UA asks for is not looked at</source>
+        <translation>Il n’est pas vérifié si ses balises sont celles que PDF/UA exige</translation>
     </message>
     <message>
         <source>A property of the document is longer than %1 allows</source>

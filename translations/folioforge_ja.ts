@@ -1978,6 +1978,18 @@ None: pictures stay as they are
         <translation>画像以外のものがあります</translation>
     </message>
     <message>
+        <source>No description of the picture is given; its file&apos;s name stands for it</source>
+        <translation>画像の説明がないため、ファイル名を説明の代わりにしました</translation>
+    </message>
+    <message>
+        <source>It has no structure tags, which PDF/UA asks for</source>
+        <translation>PDF/UA が求める構造タグがありません</translation>
+    </message>
+    <message>
+        <source>Whether its tags are what PDF/UA asks for is not looked at</source>
+        <translation>そのタグが PDF/UA の求めるものかどうかは確認していません</translation>
+    </message>
+    <message>
         <source>A property of the document is longer than %1 allows</source>
         <translation>文書のプロパティが %1 の許す長さを超えています</translation>
     </message>

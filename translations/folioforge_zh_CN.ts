@@ -1978,6 +1978,18 @@ None: pictures stay as they are
         <translation>显示的不只是图片</translation>
     </message>
     <message>
+        <source>No description of the picture is given; its file&apos;s name stands for it</source>
+        <translation>没有给出图片的说明；以其文件名代替</translation>
+    </message>
+    <message>
+        <source>It has no structure tags, which PDF/UA asks for</source>
+        <translation>它没有 PDF/UA 所要求的结构标签</translation>
+    </message>
+    <message>
+        <source>Whether its tags are what PDF/UA asks for is not looked at</source>
+        <translation>不检查它的标签是否符合 PDF/UA 的要求</translation>
+    </message>
+    <message>
         <source>A property of the document is longer than %1 allows</source>
         <translation>文档的某个属性超出了 %1 允许的长度</translation>
     </message>

@@ -57,6 +57,8 @@ const std::vector<Option> &accessibilityOptions() {
     using Value = const QByteArray &;
     static const std::vector<Option> options{
         {"--tagged", Option::Switch, [](Arguments &to, Value) { to.options.tagged = true; }},
+        {"--accessible", Option::Switch,
+         [](Arguments &to, Value) { to.options.accessible = true; }},
         {"--lang", Option::Valued,
          [](Arguments &to, Value value) { to.options.language = parseLanguage(textOf(value)); }},
         {"--alt-file", Option::Valued,

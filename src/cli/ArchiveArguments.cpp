@@ -83,7 +83,7 @@ void prepareArchive(Arguments &arguments) {
     if (archive.embedSources && partOf(*archive.level) != 3) {
         throw ArgumentFault(u"--embed-sources needs --archive pdfa-3u or pdfa-3a"_s);
     }
-    if (arguments.options.tagged && partOf(*archive.level) == 1) {
+    if ((arguments.options.tagged || arguments.options.accessible) && partOf(*archive.level) == 1) {
         throw ArgumentFault(u"--archive pdfa-1b is not tagged; take pdfa-2a"_s);
     }
     ArchiveOptions &options = arguments.options.archive.emplace();

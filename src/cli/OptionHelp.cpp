@@ -99,6 +99,8 @@ HelpSection accessibilityHelp() {
             {{"--tagged", "",
               "texts and pictures are tagged, so that programs can read them aloud and set them "
               "anew; by itself where a PDF among the inputs is tagged"},
+             {"--accessible", "",
+              "the PDF keeps PDF/UA-1 and says so: tagged as above; PDFs without tags are refused"},
              {"--lang", "TAG",
               "the language of texts and descriptions, such as en or de-CH (default: that of the "
               "system)"},

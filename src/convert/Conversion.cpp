@@ -120,13 +120,16 @@ std::optional<TagOptions> tagOptions(std::span<const PDFFileInfo *const> entries
     if (options.archive && partOf(options.archive->level) == 1) {
         return std::nullopt;
     }
-    if (!options.tagged && !(options.archive && isTagged(options.archive->level))) {
-        return isAmongTagged(entries, options) ? std::optional(TagOptions{options.language, {}})
-                                               : std::nullopt;
+    const bool isAsked = options.tagged || options.accessible ||
+                         (options.archive && isTagged(options.archive->level));
+    if (!isAsked) {
+        return isAmongTagged(entries, options)
+                   ? std::optional(TagOptions{options.language, {}, false})
+                   : std::nullopt;
     }
     const QString name =
         options.merge || entries.empty() ? options.outputName : entries.front()->fileName();
-    return TagOptions{options.language, QFileInfo(name).completeBaseName()};
+    return TagOptions{options.language, QFileInfo(name).completeBaseName(), options.accessible};
 }
 
 /// Names the sources without structure tags where others have some.

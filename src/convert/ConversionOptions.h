@@ -60,8 +60,9 @@ struct ConversionOptions {
     DocumentInfo info;
     bool keepInfo = false; ///< The first source PDF gives what `info` lacks.
     Bookmarks bookmarks = Bookmarks::Sources;
-    bool tagged = false; ///< Texts and pictures are tagged; else only beside a PDF that is.
-    QString language;    ///< That of texts and descriptions, a language tag (BCP 47).
+    bool tagged = false;     ///< Texts and pictures are tagged; else only beside a PDF that is.
+    bool accessible = false; ///< They are, and the PDF keeps PDF/UA-1.
+    QString language;        ///< That of texts and descriptions, a language tag (BCP 47).
     PictureDescriptions
         descriptions; ///< Of a picture without one, what its file says, or its name.
     SecuritySettings security;

@@ -86,6 +86,11 @@ class ContextSink : public TextPageSink {
   private:
     /// Whether nobody but the text's author knows what a glyph stands for.
     [[nodiscard]] bool hasPrivateText(const Glyph &glyph) const {
+        constexpr char32_t kFirstPrivate =
+            0xE000; // And no glyph that stands for several is before.
+        if (glyph.character < kFirstPrivate) {
+            return false;
+        }
         return std::ranges::any_of(m_font->textOf(glyph).toUcs4(), [](uint character) {
             return QChar::category(character) == QChar::Other_PrivateUse;
         });
@@ -137,10 +142,10 @@ class ContextSink : public TextPageSink {
     const std::stop_token &m_stop;
 };
 
-/// The font of text pages. Archives allow no missing-glyph box.
+/// The font of text pages. Neither archives nor PDF/UA allow the missing-glyph box.
 std::shared_ptr<const FontCascade> fontOf(const ConversionOptions &options) {
     const auto font = options.textFont ? options.textFont : textFont();
-    return options.archive ? font->withoutBoxes() : font;
+    return options.archive || options.accessible ? font->withoutBoxes() : font;
 }
 
 /// What is said of the pictures of a file, by turns.
@@ -157,6 +162,8 @@ class Descriptions {
             m_text = entry.fileName();
         }
     }
+    /// Whether there is none but the name of the file.
+    [[nodiscard]] bool isMissing() const { return m_isName; }
     QString next() {
         ++m_count;
         return m_isName && m_count > 1 ? u"%1 (%2)"_s.arg(m_text, QString::number(m_count))
@@ -277,6 +284,7 @@ WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
     const auto metadata = options.stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep;
     WrittenImage written{EmbeddedAs::OwnBytes, {}};
     Descriptions descriptions(entry, options);
+    const bool isMissing = options.accessible && descriptions.isMissing();
     const auto draw = [&](PdfImage image) {
         if (image.embeddedAs != EmbeddedAs::OwnBytes) {
             written.embeddedAs = image.embeddedAs;
@@ -295,6 +303,11 @@ WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
         PdfImage image = toPdfImage(entry.filePathName(), options.calls, metadata);
         written.warnings = std::exchange(image.warnings, {});
         draw(std::move(image));
+    }
+    if (isMissing) {
+        written.warnings.push_back(
+            {WarningCode::DescriptionMissing,
+             Reasons::tr("No description of the picture is given; its file's name stands for it")});
     }
     return written;
 }

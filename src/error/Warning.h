@@ -38,6 +38,8 @@ enum class WarningCode {
     ClaimTaken,       ///< A source PDF says that it keeps a standard, and the PDF says so after it.
     ClaimMissing,     ///< The PDF does not say that it keeps the standard that was asked for.
     LaidOutOtherwise, ///< A finished PDF holds all of an input, but not where it would stand now.
+    TagsUnchecked,    ///< The tags of a source PDF are taken as they are.
+    DescriptionMissing, ///< Only the name of its file tells what a picture shows.
 };
 
 /// The names of the codes in reports, in the order of their declaration. They never change, because
@@ -55,9 +57,11 @@ inline constexpr std::array kWarningNames{
     QLatin1StringView("protection-left"),     QLatin1StringView("margin-text-cut"),
     QLatin1StringView("colors-differ"),       QLatin1StringView("opacity-blended"),
     QLatin1StringView("claim-taken"),         QLatin1StringView("claim-missing"),
-    QLatin1StringView("laid-out-otherwise"),
+    QLatin1StringView("laid-out-otherwise"),  QLatin1StringView("tags-unchecked"),
+    QLatin1StringView("description-missing"),
 };
-static_assert(kWarningNames.size() == static_cast<std::size_t>(WarningCode::LaidOutOtherwise) + 1);
+static_assert(kWarningNames.size() ==
+              static_cast<std::size_t>(WarningCode::DescriptionMissing) + 1);
 
 /// What was lost or changed on the way of an entry that was written.
 struct Warning {

@@ -67,6 +67,9 @@ class PDFContext::Impl {
     [[nodiscard]] Warnings checkPagesAfter(int count);
 
   private:
+    [[nodiscard]] bool isAccessible() const {
+        return m_settings.tags && m_settings.tags->accessible;
+    }
     void finishDocument();
     CloseResult publish(OutputFile &file, const std::function<QString()> &nextPath);
 
@@ -160,6 +163,9 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
             m_archive->keepSource(imported, source->isEncrypted(), m_catalog.outputIntents(),
                                   pageCount());
         }
+        if (isAccessible() && (!imported.structure.marked || imported.structure.kids.empty())) {
+            throw Error(Reasons::tr("It has no structure tags, which PDF/UA asks for"));
+        }
         if (!m_settings.sourceBookmarks) {
             imported.bookmarks.clear();
             const auto bookmarks = imported.parts.carried.extract(PartKind::Bookmarks);
@@ -168,6 +174,11 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
         AddedDocument added{static_cast<int>(imported.pages.size()), {}, imported.parts};
         const qsizetype longest = std::min<qsizetype>(imported.longestStream, file.size);
         added.warnings = m_catalog.addDocument(std::move(imported));
+        if (isAccessible()) {
+            added.warnings.push_back(
+                {WarningCode::TagsUnchecked,
+                 Reasons::tr("Whether its tags are what PDF/UA asks for is not looked at")});
+        }
         if (source->isEncrypted()) {
             added.warnings.push_back(protectionLeft(m_settings.encryption != nullptr));
         }
@@ -203,7 +214,9 @@ void PDFContext::Impl::finishDocument() {
         if (m_archive && m_settings.encryption) {
             throw Error(Reasons::tr("A document for archives cannot be encrypted"));
         }
-        m_pages.embedFonts(m_archive ? m_archive->fontRules() : FontRules());
+        FontRules fonts = m_archive ? m_archive->fontRules() : FontRules();
+        fonts.allUnicode = fonts.allUnicode || isAccessible();
+        m_pages.embedFonts(fonts);
         fixCreationDate(m_settings.info);
         const QString title = m_settings.tags ? m_settings.tags->title : QString();
         if (m_settings.info.title.isEmpty()) {
@@ -216,6 +229,9 @@ void PDFContext::Impl::finishDocument() {
         writeDocumentInfo(m_document, m_settings.info);
         if (!m_tags.pages().empty()) {
             m_drawn = makeStructure(m_document, m_tags, m_settings.tags->language.toStdString());
+        }
+        if (isAccessible()) {
+            m_catalog.claimAccessible(m_settings.tags->language.toStdString());
         }
         m_catalog.finish(m_document, m_settings.info, m_drawn ? &*m_drawn : nullptr);
         if (!title.isEmpty()) {

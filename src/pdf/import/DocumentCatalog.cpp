@@ -132,10 +132,30 @@ DocumentForm DocumentCatalog::form() const {
         form.version = {1, 7};
     }
     form.version.updateIfGreater(m_version);
-    if (m_archive) { // Its header must not name any other.
+    if (m_archive || m_accessible) { // Its header must not name any other.
         form.version = form.classic ? PDFVersion(1, 4) : PDFVersion(1, 7);
     }
     return form;
+}
+
+void DocumentCatalog::claimAccessible(const std::string &language) {
+    m_accessible = language;
+}
+
+/// What PDF/UA-1 asks of a catalog and of pages that sources brought.
+void DocumentCatalog::keepAccessible(QPDF &document) {
+    auto catalog = document.getRoot();
+    if (!catalog.hasKey("/Lang")) {
+        catalog.replaceKey("/Lang", QPDFObjectHandle::newUnicodeString(*m_accessible));
+    }
+    for (QPDFObjectHandle &page : m_pages) {
+        if (page.hasKey("/Annots")) {
+            page.replaceKey("/Tabs", QPDFObjectHandle::newName("/S"));
+        }
+    }
+    m_metadata.claims.pdfUA = QStringLiteral("1");
+    m_metadata.packet = m_metadata.packet.isEmpty() ? emptyXmp() : m_metadata.packet;
+    nameLayers(document);
 }
 
 void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info,
@@ -174,6 +194,9 @@ void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info,
         m_metadata.claims.conformance = m_archive->conformance;
         m_metadata.packet = m_metadata.packet.isEmpty() ? emptyXmp() : m_metadata.packet;
         nameLayers(document);
+    }
+    if (m_accessible) {
+        keepAccessible(document);
     }
     putMetadata(document, m_metadata, info);
 }

@@ -11,6 +11,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -51,6 +52,10 @@ class DocumentCatalog {
     /// The names that the documents added so far have taken.
     [[nodiscard]] const TakenNames &names() const { return m_names; }
 
+    /// The document says that it keeps PDF/UA-1, and that its language is this one where its
+    /// sources do not agree on another.
+    void claimAccessible(const std::string &language);
+
     /// Writes the page tree and every topic, with `info`, which is written already, in the
     /// metadata. A null `drawn` means that pages which were drawn are not tagged. Call it once.
     void finish(QPDF &document, const DocumentInfo &info, const DrawnStructure *drawn = nullptr);
@@ -68,6 +73,7 @@ class DocumentCatalog {
         QPDFObjectHandle file;
     };
 
+    void keepAccessible(QPDF &document);
     void merge(const ImportedDocument &imported, int firstPage, QPDF &document);
     void attachFiles();
 
@@ -90,8 +96,9 @@ class DocumentCatalog {
     OutputIntentMerger m_outputIntents;
     std::size_t m_importedPages = 0;
     ImportedMetadata m_metadata;
-    std::optional<Claims> m_archive; ///< That the document is to make.
-    PDFVersion m_version;            ///< The highest of the sources.
+    std::optional<Claims> m_archive;         ///< That the document is to make.
+    std::optional<std::string> m_accessible; ///< The language of a document that keeps PDF/UA.
+    PDFVersion m_version;                    ///< The highest of the sources.
 };
 
 } // namespace folioforge

@@ -12,6 +12,9 @@ struct TagOptions {
     /// The title where the document's information has none; readers then show the title in place
     /// of the file's name. Empty: both stay as they are.
     QString title;
+    /// Whether the document keeps PDF/UA-1 (ISO 14289-1) and says so; sources without tags are
+    /// refused.
+    bool accessible = false;
 };
 
 } // namespace folioforge
