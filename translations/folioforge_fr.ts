@@ -2007,7 +2007,7 @@ Aucune&#xa0;: les images restent telles quelles
     </message>
     <message>
         <source>No description of the picture is given; its file&apos;s name stands for it</source>
-        <translation>L’image n’a pas de description ; le nom de son fichier en tient lieu</translation>
+        <translation>L’image n’a pas de description&#x202f;; le nom de son fichier en tient lieu</translation>
     </message>
     <message>
         <source>It has no structure tags, which PDF/UA asks for</source>

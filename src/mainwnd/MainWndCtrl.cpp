@@ -118,8 +118,14 @@ void MainWndCtrl::fitLargeTexts() {
         const QMargins margins = widget->layout()->contentsMargins();
         return margins.left() + margins.right();
     };
-    const int room = static_cast<int>(OptionsDrawer::kFullWidth) - sides(optionsPanel) -
-                     2 * m_settingsViewContainer->frameWidth();
+    const int width = static_cast<int>(OptionsDrawer::kFullWidth) - sides(optionsPanel);
+    // A layout whose widgets were never shown does not know its width.
+    if (m_btnVerify->sizeHint().width() + m_btnSave->sizeHint().width() +
+            2 * saveLayout->spacing() >
+        width) {
+        saveLayout->setDirection(QBoxLayout::TopToBottom);
+    }
+    const int room = width - 2 * m_settingsViewContainer->frameWidth();
     for (const QWidget *view : {m_imagePageSizeView, m_textPageSizeView, m_securityView}) {
         breakWideLabels(*view, room - sides(view));
     }
