@@ -10,7 +10,6 @@
 #include "files/SourceFile.h"
 #include "files/SystemCalls.h"
 #include "pdf/import/LeftParts.h"
-#include "pdf/import/SourceDocument.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -104,13 +103,10 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
 }
 
 /// Whether texts and pictures are to be tagged because a PDF among the sources is.
-bool isAmongTagged(std::span<const PDFFileInfo *const> entries, const ConversionOptions &options) {
+bool isAmongTagged(std::span<const PDFFileInfo *const> entries) {
     const auto isPdf = [](const PDFFileInfo *entry) { return entry->kind() == FileKind::Pdf; };
     return !std::ranges::all_of(entries, isPdf) &&
-           std::ranges::any_of(entries, [&](const PDFFileInfo *entry) {
-               return isPdf(entry) &&
-                      isTaggedSource(entry->filePathName(), options.inputPasswords, options.calls);
-           });
+           std::ranges::any_of(entries, &PDFFileInfo::isTagged);
 }
 
 /// How the pages that are drawn are tagged; nothing where they are not.
@@ -123,9 +119,8 @@ std::optional<TagOptions> tagOptions(std::span<const PDFFileInfo *const> entries
     const bool isAsked = options.tagged || options.accessible ||
                          (options.archive && isTagged(options.archive->level));
     if (!isAsked) {
-        return isAmongTagged(entries, options)
-                   ? std::optional(TagOptions{options.language, {}, false})
-                   : std::nullopt;
+        return isAmongTagged(entries) ? std::optional(TagOptions{options.language, {}, false})
+                                      : std::nullopt;
     }
     const QString name =
         options.merge || entries.empty() ? options.outputName : entries.front()->fileName();

@@ -28,9 +28,11 @@ void accept(ReadEntry &read, SourceReading reading, const InputPasswords &passwo
     case FileKind::Pdf:
         read.refusedPdf = true;
         if (reading == SourceReading::WhenListed) {
-            read.entry.setPageCount(countPdfPages(path));
+            const PDFSummary summary = summarizeOpenPdf(path);
+            read.entry.setPageCount(summary.pageCount);
+            read.entry.setTagged(summary.tagged);
         } else {
-            requireSourceDocument(path, passwords);
+            read.entry.setTagged(requireSourceDocument(path, passwords));
         }
         read.refusedPdf = false;
         break;

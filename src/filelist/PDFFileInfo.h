@@ -57,6 +57,8 @@ class PDFFileInfo {
     [[nodiscard]] FileKind kind() const { return m_kind; }
     [[nodiscard]] const QString &destFilePathName() const { return m_destFilePathName; }
     [[nodiscard]] int pageCount() const { return m_pageCount; }
+    /// Whether it is a PDF with structure elements, as was found when it was listed.
+    [[nodiscard]] bool isTagged() const { return m_isTagged; }
     [[nodiscard]] const QString &fileSize() const { return m_fileSize; }
     [[nodiscard]] int index() const { return m_index; }
     [[nodiscard]] int stateIndex() const { return m_stateIndex; }
@@ -84,6 +86,7 @@ class PDFFileInfo {
     void setBookmarkTitle(const QString &title) { m_bookmarkTitle = title; }
     void setPageChoice(const PageChoice &choice) { m_pageChoice = choice; }
     void setPageCount(int count) { m_pageCount = count; }
+    void setTagged(bool tagged) { m_isTagged = tagged; }
     void setFileSize(const QString &text) { m_fileSize = text; }
     void setIndex(int index) { m_index = index; }
     void setState(const RichText &state) { m_state = state; }
@@ -128,6 +131,7 @@ class PDFFileInfo {
     QString m_destFilePathName;
     QString m_destFileName;
     int m_pageCount = 0;
+    bool m_isTagged = false;
     PageChoice m_pageChoice;
     QString m_bookmarkTitle;
     QString m_fileSize = QStringLiteral("");

@@ -107,12 +107,12 @@ QString sizeText(qint64 bytes) {
     return u"%1 MB"_s.arg(QString::number(rounded / kMegabyte, 'f', 1));
 }
 
-int countPdfPages(const QString &path) {
+PDFSummary summarizeOpenPdf(const QString &path) {
     const PDFSummary summary = summarizePDF(path);
     if (summary.encrypted) {
         throw Error(Reasons::tr("The document is encrypted"));
     }
-    return summary.pageCount;
+    return summary;
 }
 
 Notice badFilesNotice(const QStringList &paths) {

@@ -5,6 +5,7 @@
 #include "error/Notice.h"
 #include "error/Warning.h"
 #include "filelist/FileKind.h"
+#include "pdf/import/SourceDocument.h"
 
 #include <QByteArray>
 #include <QString>
@@ -40,9 +41,9 @@ void addDirectorie(const QString &folder, QStringList &files, ReadableLinks &rea
 /// blocks of 4096: "4 KB", "%d KB" or "%0.1f MB".
 QString sizeText(qint64 bytes);
 
-/// The number of pages of the PDF at `path`. Throws Error when it may not enter the list, because
+/// What the list shows of the PDF at `path`. Throws Error when it may not enter the list, because
 /// it is encrypted or does not open as a PDF.
-int countPdfPages(const QString &path);
+PDFSummary summarizeOpenPdf(const QString &path);
 
 /// The one alert for the PDF files that were refused, in order, one a line. The paths are read as a
 /// format string without arguments: "%%" becomes "%" and any other conversion stays.

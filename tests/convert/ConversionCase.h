@@ -3,6 +3,7 @@
 #pragma once
 
 #include "convert/Conversion.h"
+#include "filelist/EntryReader.h"
 #include "support/Files.h"
 
 #include <QDir>
@@ -32,6 +33,11 @@ class ConversionCase {
 
     QString path(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
     void addFile(const QString &file) { m_list.push_back(std::make_unique<PDFFileInfo>(file)); }
+    /// The file as the list takes it, with what is learned of it there.
+    void addListed(const QString &file) {
+        const auto read = readEntries({file}, SourceReading::WhenWritten);
+        m_list.push_back(std::make_unique<PDFFileInfo>(read.front().entry));
+    }
     void addText(const char *name, const QByteArray &bytes) {
         addFile(writeFile(path(name), bytes));
     }

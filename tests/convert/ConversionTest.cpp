@@ -225,7 +225,7 @@ class ConversionTest : public QObject, protected test::ConversionCase {
     void sourcesWithoutTagsAreNamedWhereOthersHaveSome() {
         const auto tagged = test::headingAndText("a", "b");
         QVERIFY(tagged.write(path("tagged.pdf")));
-        addFile(path("tagged.pdf"));
+        addListed(path("tagged.pdf"));
         addFile(test::writePdf(path("plain.pdf"), 1));
         addText("plain.txt", "words\n");
         const Warnings warnings = convertTo(path("out/both.pdf")).close.warnings;

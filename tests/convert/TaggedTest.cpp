@@ -136,7 +136,7 @@ class TaggedTest : public QObject, private ConversionCase {
         m_options.tagged = false;
         m_options.merge = true;
         addText("plain.txt", "words\n");
-        addFile(saved("tagged.pdf", headingAndText("a", "b")));
+        addListed(saved("tagged.pdf", headingAndText("a", "b")));
         const PDFOutcome outcome = convertTo(path("out/all.pdf"));
         QVERIFY(outcome.close.warnings.empty());
         QCOMPARE(PdfProbe(outcome.close.path).info(u"Tagged"_s), u"yes"_s);

@@ -26,7 +26,7 @@ namespace {
 /// Why the PDF at `path` may not enter the list; empty when it may.
 QString refusalOf(const QString &path) {
     try {
-        countPdfPages(path);
+        summarizeOpenPdf(path);
     } catch (const Error &error) {
         return error.reason();
     }
@@ -147,7 +147,7 @@ class SourceFilesTest : public QObject {
 
     void aPlainPdfIsAcceptedWithItsPages() {
         const QTemporaryDir folder;
-        QCOMPARE(countPdfPages(test::writePdf(folder.filePath(u"a.pdf"_s), 2)), 2);
+        QCOMPARE(summarizeOpenPdf(test::writePdf(folder.filePath(u"a.pdf"_s), 2)).pageCount, 2);
     }
 
     void anEncryptedPdfIsRefused() {

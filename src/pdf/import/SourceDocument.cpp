@@ -146,6 +146,10 @@ void requirePages(QPDF &document) {
     }
 }
 
+bool isTagged(QPDF &document) {
+    return !entry(entry(document.getRoot(), "/StructTreeRoot"), "/K").isNull();
+}
+
 } // namespace
 
 PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
@@ -161,7 +165,7 @@ PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
             requirePages(*document);
             return readSourcePages(*document).pages.size();
         });
-        return PDFSummary{false, static_cast<int>(pages)};
+        return PDFSummary{false, static_cast<int>(pages), isTagged(*document)};
     });
 }
 
@@ -186,19 +190,10 @@ std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
     });
 }
 
-bool isTaggedSource(const QString &path, const InputPasswords &passwords, SystemCalls &calls) {
-    try {
-        const auto reader = std::make_shared<SourceReader>(calls);
-        const auto document = openSourceDocument(FileVersion::of(path), reader, passwords);
-        return translateQpdfErrors(
-            [&] { return !entry(entry(document->getRoot(), "/StructTreeRoot"), "/K").isNull(); });
-    } catch (const Error &) {
-        return false;
-    }
-}
-
-void requireSourceDocument(const QString &path, const InputPasswords &passwords) {
-    openSourceDocument(FileVersion::of(path), std::make_shared<SourceReader>(), passwords);
+bool requireSourceDocument(const QString &path, const InputPasswords &passwords) {
+    const auto document =
+        openSourceDocument(FileVersion::of(path), std::make_shared<SourceReader>(), passwords);
+    return translateQpdfErrors([&] { return isTagged(*document); });
 }
 
 } // namespace folioforge

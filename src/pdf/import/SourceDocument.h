@@ -17,6 +17,7 @@ namespace folioforge {
 struct PDFSummary {
     bool encrypted = false; ///< Also with an empty user password or an unknown security handler.
     int pageCount = 0;      ///< 0 when it is encrypted.
+    bool tagged = false;    ///< It has structure elements; false when it is encrypted.
 };
 
 /// The largest damaged file in bytes that is repaired. A repair searches all of it for objects,
@@ -34,12 +35,7 @@ std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
                                          const std::shared_ptr<SourceReader> &reader,
                                          const InputPasswords &passwords = {});
 
-/// Whether the PDF at `path` has structure elements. False where it cannot be opened, which who
-/// takes its pages will say.
-bool isTaggedSource(const QString &path, const InputPasswords &passwords,
-                    SystemCalls &calls = SystemCalls::system());
-
-/// Throws Error where openSourceDocument() would for the PDF at `path`.
-void requireSourceDocument(const QString &path, const InputPasswords &passwords = {});
+/// Whether the PDF at `path` has structure elements. Throws Error where openSourceDocument() would.
+bool requireSourceDocument(const QString &path, const InputPasswords &passwords = {});
 
 } // namespace folioforge
