@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/PDFContextImpl.h"
+
+#include "error/Reasons.h"
+#include "pdf/DocumentInfo.h"
+#include "pdf/QpdfErrors.h"
+#include "pdf/archive/SourceAttachment.h"
+#include "pdf/import/DocumentImport.h"
+#include "pdf/import/SourceDocument.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace folioforge {
+
+namespace {
+
+Warning protectionLeft(bool hasOther) {
+    return {WarningCode::ProtectionLeft,
+            hasOther ? Reasons::tr("The document is protected, and the PDF made of it has the "
+                                   "protection that was asked for instead")
+                     : Reasons::tr("The document is protected, and the PDF made of it is not")};
+}
+
+} // namespace
+
+void PDFContext::Impl::attachSource(const SourceOriginal &source, const Mark &mark) {
+    m_catalog.addFile(
+        m_document.makeIndirectObject(sourceAttachment(source, m_streams, m_settings.calls)),
+        mark.pages);
+}
+
+AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const PageChoice &choice) {
+    return translateQpdfErrors([&] {
+        m_reader->beginAnew(); // A source that failed may have left its file open.
+        const FileVersion file = FileVersion::of(sourcePath);
+        const std::string key = file.key();
+        const auto source = openSourceDocument(file, m_reader, m_settings.inputPasswords);
+        // A copy, so that an import that fails leaves no stream to the next one.
+        SharedStreams &known = m_sourceStreams[key];
+        SharedStreams streams = known;
+        SourceNames names(m_catalog.names(), sourcePath);
+        ImportOptions options{m_settings.oneSource ? ImportScope::WholeDocument
+                                                   : ImportScope::OneOfSeveral,
+                              m_settings.info,
+                              m_settings.encryption != nullptr,
+                              choice,
+                              pageCount(),
+                              m_archive ? std::optional(m_archive->level()) : std::nullopt};
+        ImportedDocument imported = withAllObjects(*source, *m_reader, [&] {
+            if (m_settings.keepInfo) {
+                takeMissingInfo(options.info, *source);
+            }
+            return importDocument(*source, m_document, streams, names, options);
+        });
+        m_reader->finish();
+        if (m_archive) {
+            m_archive->keepSource(imported, source->isEncrypted(), m_catalog.outputIntents(),
+                                  pageCount());
+        }
+        if (isAccessible() && (!imported.structure.marked || imported.structure.kids.empty())) {
+            throw Error(Reasons::tr("It has no structure tags, which PDF/UA asks for"));
+        }
+        if (!m_settings.sourceBookmarks) {
+            imported.bookmarks.clear();
+            const auto bookmarks = imported.parts.carried.extract(PartKind::Bookmarks);
+            addParts(imported.parts.left, PartKind::Bookmarks, bookmarks ? bookmarks.mapped() : 0);
+        }
+        AddedDocument added{static_cast<int>(imported.pages.size()), {}, imported.parts};
+        const qsizetype longest = std::min<qsizetype>(imported.longestStream, file.size);
+        added.warnings = m_catalog.addDocument(std::move(imported));
+        if (isAccessible()) {
+            added.warnings.push_back(
+                {WarningCode::TagsUnchecked,
+                 Reasons::tr("Whether its tags are what PDF/UA asks for is not looked at")});
+        }
+        if (source->isEncrypted()) {
+            added.warnings.push_back(protectionLeft(m_settings.encryption != nullptr));
+        }
+        // From here on nothing fails, so that all of the document is added or nothing.
+        m_longestStream = std::max(m_longestStream, longest);
+        known = std::move(streams);
+        if (added.pages > 0) {
+            m_settings.info = options.info;
+            m_settings.keepInfo = false;
+        }
+        return added;
+    });
+}
+
+} // namespace folioforge
