@@ -55,6 +55,7 @@ class PDFContext::Impl {
     [[nodiscard]] bool isAccessible() const {
         return m_settings.tags && m_settings.tags->accessible;
     }
+    void keepStandards(ImportedDocument &imported, bool isEncrypted);
     void finishDocument();
     CloseResult publish(OutputFile &file, const std::function<QString()> &nextPath);
 

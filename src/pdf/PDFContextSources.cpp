@@ -23,7 +23,28 @@ Warning protectionLeft(bool hasOther) {
                      : Reasons::tr("The document is protected, and the PDF made of it is not")};
 }
 
+Warning tagsUnchecked() {
+    return {WarningCode::TagsUnchecked,
+            Reasons::tr("Whether its tags are what PDF/UA asks for is not looked at")};
+}
+
+void leaveBookmarks(ImportedDocument &imported) {
+    imported.bookmarks.clear();
+    const auto bookmarks = imported.parts.carried.extract(PartKind::Bookmarks);
+    addParts(imported.parts.left, PartKind::Bookmarks, bookmarks ? bookmarks.mapped() : 0);
+}
+
 } // namespace
+
+/// Lets a source in only where the standards that the document keeps allow it. Throws Error.
+void PDFContext::Impl::keepStandards(ImportedDocument &imported, bool isEncrypted) {
+    if (m_archive) {
+        m_archive->keepSource(imported, isEncrypted, m_catalog.outputIntents(), pageCount());
+    }
+    if (isAccessible() && (!imported.structure.marked || imported.structure.kids.empty())) {
+        throw Error(Reasons::tr("It has no structure tags, which PDF/UA asks for"));
+    }
+}
 
 void PDFContext::Impl::attachSource(const SourceOriginal &source, const Mark &mark) {
     m_catalog.addFile(
@@ -55,25 +76,15 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
             return importDocument(*source, m_document, streams, names, options);
         });
         m_reader->finish();
-        if (m_archive) {
-            m_archive->keepSource(imported, source->isEncrypted(), m_catalog.outputIntents(),
-                                  pageCount());
-        }
-        if (isAccessible() && (!imported.structure.marked || imported.structure.kids.empty())) {
-            throw Error(Reasons::tr("It has no structure tags, which PDF/UA asks for"));
-        }
+        keepStandards(imported, source->isEncrypted());
         if (!m_settings.sourceBookmarks) {
-            imported.bookmarks.clear();
-            const auto bookmarks = imported.parts.carried.extract(PartKind::Bookmarks);
-            addParts(imported.parts.left, PartKind::Bookmarks, bookmarks ? bookmarks.mapped() : 0);
+            leaveBookmarks(imported);
         }
         AddedDocument added{static_cast<int>(imported.pages.size()), {}, imported.parts};
         const qsizetype longest = std::min<qsizetype>(imported.longestStream, file.size);
         added.warnings = m_catalog.addDocument(std::move(imported));
         if (isAccessible()) {
-            added.warnings.push_back(
-                {WarningCode::TagsUnchecked,
-                 Reasons::tr("Whether its tags are what PDF/UA asks for is not looked at")});
+            added.warnings.push_back(tagsUnchecked());
         }
         if (source->isEncrypted()) {
             added.warnings.push_back(protectionLeft(m_settings.encryption != nullptr));
