@@ -102,6 +102,10 @@ PDFium, BSD licence</translation>
         <source>File name already exists in output folder, please input another name.</source>
         <translation>اسم الملف موجود بالفعل في مجلد الإخراج، يُرجى إدخال اسم آخر.</translation>
     </message>
+    <message>
+        <source>A PDF for archives can not have passwords.</source>
+        <translation>لا يمكن أن يكون لملف PDF المخصص للأرشفة كلمات مرور.</translation>
+    </message>
 </context>
 <context>
     <name>EntryCells</name>
@@ -751,6 +755,22 @@ None: pictures stay as they are
     <message>
         <source>Check every page</source>
         <translation>تدقيق كل صفحة</translation>
+    </message>
+    <message>
+        <source>Make PDF/A documents, which look the same for decades</source>
+        <translation>إنشاء مستندات PDF/A التي تحتفظ بمظهرها لعقود</translation>
+    </message>
+    <message>
+        <source>Archive (PDF/A)</source>
+        <translation>أرشيف (PDF/A)</translation>
+    </message>
+    <message>
+        <source>Make PDF/UA documents, which screen readers can read aloud</source>
+        <translation>إنشاء مستندات PDF/UA التي يمكن لقارئات الشاشة قراءتها بصوت عالٍ</translation>
+    </message>
+    <message>
+        <source>Accessible (tagged)</source>
+        <translation>سهل الوصول (موسوم)</translation>
     </message>
 </context>
 <context>

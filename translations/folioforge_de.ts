@@ -102,6 +102,10 @@ PDFium, BSD licence</translation>
         <source>File name already exists in output folder, please input another name.</source>
         <translation>Der Dateiname ist im Ausgabeordner schon vorhanden. Bitte geben Sie einen anderen Namen ein.</translation>
     </message>
+    <message>
+        <source>A PDF for archives can not have passwords.</source>
+        <translation>Eine PDF für Archive kann keine Kennwörter haben.</translation>
+    </message>
 </context>
 <context>
     <name>EntryCells</name>
@@ -747,6 +751,22 @@ Keine: Bilder bleiben, wie sie sind
     <message>
         <source>Check every page</source>
         <translation>Jede Seite prüfen</translation>
+    </message>
+    <message>
+        <source>Make PDF/A documents, which look the same for decades</source>
+        <translation>PDF/A-Dokumente erstellen, die jahrzehntelang gleich aussehen</translation>
+    </message>
+    <message>
+        <source>Archive (PDF/A)</source>
+        <translation>Archiv (PDF/A)</translation>
+    </message>
+    <message>
+        <source>Make PDF/UA documents, which screen readers can read aloud</source>
+        <translation>PDF/UA-Dokumente erstellen, die Bildschirmleser vorlesen können</translation>
+    </message>
+    <message>
+        <source>Accessible (tagged)</source>
+        <translation>Barrierefrei (getaggt)</translation>
     </message>
 </context>
 <context>

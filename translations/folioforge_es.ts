@@ -102,6 +102,10 @@ PDFium, BSD licence</translation>
         <source>File name already exists in output folder, please input another name.</source>
         <translation>El nombre de archivo ya existe en la carpeta de salida. Escriba otro nombre.</translation>
     </message>
+    <message>
+        <source>A PDF for archives can not have passwords.</source>
+        <translation>Un PDF para archivo no puede tener contraseñas.</translation>
+    </message>
 </context>
 <context>
     <name>EntryCells</name>
@@ -747,6 +751,22 @@ Ninguna: las imágenes quedan como están
     <message>
         <source>Check every page</source>
         <translation>Comprobar cada página</translation>
+    </message>
+    <message>
+        <source>Make PDF/A documents, which look the same for decades</source>
+        <translation>Crear documentos PDF/A, que se ven igual durante décadas</translation>
+    </message>
+    <message>
+        <source>Archive (PDF/A)</source>
+        <translation>Archivo (PDF/A)</translation>
+    </message>
+    <message>
+        <source>Make PDF/UA documents, which screen readers can read aloud</source>
+        <translation>Crear documentos PDF/UA, que los lectores de pantalla pueden leer en voz alta</translation>
+    </message>
+    <message>
+        <source>Accessible (tagged)</source>
+        <translation>Accesible (etiquetado)</translation>
     </message>
 </context>
 <context>

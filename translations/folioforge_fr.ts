@@ -102,6 +102,10 @@ PDFium, BSD licence</translation>
         <source>File name already exists in output folder, please input another name.</source>
         <translation>Ce nom de fichier existe déjà dans le dossier de sortie. Veuillez en saisir un autre.</translation>
     </message>
+    <message>
+        <source>A PDF for archives can not have passwords.</source>
+        <translation>Un PDF d’archive ne peut pas avoir de mots de passe.</translation>
+    </message>
 </context>
 <context>
     <name>EntryCells</name>
@@ -747,6 +751,22 @@ Aucune&#xa0;: les images restent telles quelles
     <message>
         <source>Check every page</source>
         <translation>Vérifier chaque page</translation>
+    </message>
+    <message>
+        <source>Make PDF/A documents, which look the same for decades</source>
+        <translation>Créer des documents PDF/A, qui gardent leur aspect pendant des décennies</translation>
+    </message>
+    <message>
+        <source>Archive (PDF/A)</source>
+        <translation>Archive (PDF/A)</translation>
+    </message>
+    <message>
+        <source>Make PDF/UA documents, which screen readers can read aloud</source>
+        <translation>Créer des documents PDF/UA, que les lecteurs d’écran peuvent lire à voix haute</translation>
+    </message>
+    <message>
+        <source>Accessible (tagged)</source>
+        <translation>Accessible (balisé)</translation>
     </message>
 </context>
 <context>

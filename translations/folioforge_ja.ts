@@ -102,6 +102,10 @@ PDFium, BSD licence</translation>
         <source>File name already exists in output folder, please input another name.</source>
         <translation>このファイル名は出力フォルダーに既に存在します。別の名前を入力してください。</translation>
     </message>
+    <message>
+        <source>A PDF for archives can not have passwords.</source>
+        <translation>長期保存用の PDF にはパスワードを設定できません。</translation>
+    </message>
 </context>
 <context>
     <name>EntryCells</name>
@@ -746,6 +750,22 @@ None: pictures stay as they are
     <message>
         <source>Check every page</source>
         <translation>すべてのページを確認</translation>
+    </message>
+    <message>
+        <source>Make PDF/A documents, which look the same for decades</source>
+        <translation>何十年後も同じように表示される PDF/A 文書を作成します</translation>
+    </message>
+    <message>
+        <source>Archive (PDF/A)</source>
+        <translation>長期保存 (PDF/A)</translation>
+    </message>
+    <message>
+        <source>Make PDF/UA documents, which screen readers can read aloud</source>
+        <translation>スクリーンリーダーで読み上げられる PDF/UA 文書を作成します</translation>
+    </message>
+    <message>
+        <source>Accessible (tagged)</source>
+        <translation>アクセシブル (タグ付き)</translation>
     </message>
 </context>
 <context>

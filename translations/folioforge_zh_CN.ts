@@ -102,6 +102,10 @@ PDFium, BSD licence</translation>
         <source>File name already exists in output folder, please input another name.</source>
         <translation>输出文件夹中已存在该文件名，请输入其他名称。</translation>
     </message>
+    <message>
+        <source>A PDF for archives can not have passwords.</source>
+        <translation>存档用的 PDF 不能有密码。</translation>
+    </message>
 </context>
 <context>
     <name>EntryCells</name>
@@ -746,6 +750,22 @@ None: pictures stay as they are
     <message>
         <source>Check every page</source>
         <translation>检查每一页</translation>
+    </message>
+    <message>
+        <source>Make PDF/A documents, which look the same for decades</source>
+        <translation>生成数十年后外观不变的 PDF/A 文档</translation>
+    </message>
+    <message>
+        <source>Archive (PDF/A)</source>
+        <translation>存档 (PDF/A)</translation>
+    </message>
+    <message>
+        <source>Make PDF/UA documents, which screen readers can read aloud</source>
+        <translation>生成屏幕阅读器可以朗读的 PDF/UA 文档</translation>
+    </message>
+    <message>
+        <source>Accessible (tagged)</source>
+        <translation>无障碍 (带标签)</translation>
     </message>
 </context>
 <context>

@@ -78,6 +78,16 @@ std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings) {
     return std::nullopt;
 }
 
+std::optional<Notice> checkArchive(const ConversionOptions &options) {
+    const SecuritySettings &security = options.security;
+    if (!options.archive || !(security.useUserPassword || security.useOwnerPassword)) {
+        return std::nullopt;
+    }
+    return notice(
+        QCoreApplication::translate("Checks", "A PDF for archives can not have passwords."),
+        security.useUserPassword ? Setting::UserPassword : Setting::OwnerPassword);
+}
+
 std::optional<Notice> checkMergedFile(const ConversionOptions &options) {
     if (!options.merge) {
         return std::nullopt;
@@ -96,7 +106,7 @@ std::vector<Notice> faultsOf(const ConversionOptions &options) {
     std::vector<Notice> faults;
     for (const auto &found :
          {checkOutputFolder(options.outputFolder), checkSecuritySettings(options.security),
-          checkTextPageSizeSettings(options.textPage),
+          checkArchive(options), checkTextPageSizeSettings(options.textPage),
           checkImagePageSizeSettings(options.imagePage), checkMergedFile(options)}) {
         if (found) {
             faults.push_back(*found);

@@ -18,11 +18,14 @@ std::optional<Notice> checkOutputFolder(const QString &folder);
 /// The passwords: entered, such as an encrypted document can hold, and two different ones there.
 std::optional<Notice> checkSecuritySettings(const SecuritySettings &settings);
 
+/// The passwords: none in a PDF for archives, which every reader must be able to open.
+std::optional<Notice> checkArchive(const ConversionOptions &options);
+
 /// The name of the merged file: entered, no folder's and free. Single mode asks for none.
 std::optional<Notice> checkMergedFile(const ConversionOptions &options);
 
-/// What the checks of a run find, in their order: output folder, security, text pages, image pages
-/// and the merged file.
+/// What the checks of a run find, in their order: output folder, security, archive, text pages,
+/// image pages and the merged file.
 std::vector<Notice> faultsOf(const ConversionOptions &options);
 
 /// The notice that a folder chosen for output cannot be written to. It speaks of no setting: the

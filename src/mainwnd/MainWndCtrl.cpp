@@ -111,6 +111,8 @@ void MainWndCtrl::fitLargeTexts() {
     stackPairs(*textNumbersLayout);
     if (textScale() > 1) { // The settings of texts have the most rows.
         constexpr int kCloseRows = 3;
+        propertiesLayout->setVerticalSpacing(kCloseRows);
+        optionsPanel->layout()->setSpacing(2 * kCloseRows);
         textPageLayout->setSpacing(kCloseRows);
         textNumbersLayout->setVerticalSpacing(kCloseRows);
     }
@@ -119,12 +121,8 @@ void MainWndCtrl::fitLargeTexts() {
         return margins.left() + margins.right();
     };
     const int width = static_cast<int>(OptionsDrawer::kFullWidth) - sides(optionsPanel);
-    // A layout whose widgets were never shown does not know its width.
-    if (m_btnVerify->sizeHint().width() + m_btnSave->sizeHint().width() +
-            2 * saveLayout->spacing() >
-        width) {
-        saveLayout->setDirection(QBoxLayout::TopToBottom);
-    }
+    stackWideRow(*standardsLayout, width);
+    stackWideRow(*saveLayout, width);
     const int room = width - 2 * m_settingsViewContainer->frameWidth();
     for (const QWidget *view : {m_imagePageSizeView, m_textPageSizeView, m_securityView}) {
         breakWideLabels(*view, room - sides(view));

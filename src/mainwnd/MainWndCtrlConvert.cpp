@@ -32,8 +32,8 @@ void MainWndCtrl::clickBtnCreate() {
 /// The checks of a run in the order of faultsOf(), up to the first that finds something.
 bool MainWndCtrl::checkSettings(const ConversionOptions &options) {
     return passes(checkOutputFolder(options.outputFolder)) && checkSecuritySettings() &&
-           checkTextPageSizeSettings() && checkImagePageSizeSettings() &&
-           passes(checkMergedFile(options));
+           passes(checkArchive(options)) && checkTextPageSizeSettings() &&
+           checkImagePageSizeSettings() && passes(checkMergedFile(options));
 }
 
 void MainWndCtrl::createSingleFile() {

@@ -81,7 +81,7 @@ void MainWndCtrl::connectFaults() {
     for (const QButtonGroup *matrix : {m_mtxTextPageSizeMode, m_mtxImagePageSizeMode}) {
         connect(matrix, &QButtonGroup::buttonToggled, this, &MainWndCtrl::reviewFault);
     }
-    for (const QCheckBox *box : {m_btnCheckUserPassword, m_btnCheckOwnerPassword}) {
+    for (const QCheckBox *box : {m_btnArchive, m_btnCheckUserPassword, m_btnCheckOwnerPassword}) {
         connect(box, &QCheckBox::toggled, this, &MainWndCtrl::reviewFault);
     }
 }

@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSettings>
 #include <QSignalBlocker>
 
@@ -202,6 +203,12 @@ ConversionOptions MainWndCtrl::conversionOptions() const {
     options.imagePage = imagePageSetup();
     options.textFont = m_ctFont;
     options.verify = m_btnVerify->isChecked();
+    options.accessible = m_btnAccessible->isChecked();
+    options.language = QLocale::system().bcp47Name();
+    if (m_btnArchive->isChecked()) {
+        options.archive.emplace().level =
+            options.accessible ? ArchiveLevel::PdfA2a : ArchiveLevel::PdfA2u;
+    }
     if (m_btnReadable->isChecked()) {
         options.readable.emplace();
     }

@@ -50,7 +50,9 @@ void MainWndCtrl::connectPreview() {
     for (const QButtonGroup *matrix : {m_mtxTextPageSizeMode, m_mtxImagePageSizeMode}) {
         connect(matrix, &QButtonGroup::buttonToggled, m_preview.get(), refresh);
     }
-    connect(m_btnReadable, &QCheckBox::toggled, m_preview.get(), refresh);
+    for (const QCheckBox *box : {m_btnReadable, m_btnArchive, m_btnAccessible}) {
+        connect(box, &QCheckBox::toggled, m_preview.get(), refresh);
+    }
     connect(m_comboCompressMethod, &QComboBox::currentIndexChanged, m_preview.get(), refresh);
     connect(m_filesArray->selectionModel(), &QItemSelectionModel::selectionChanged, m_preview.get(),
             refresh);

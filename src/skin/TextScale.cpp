@@ -71,6 +71,19 @@ void stackPairs(QGridLayout &grid) {
     }
 }
 
+/// A layout whose widgets were never shown does not know its width.
+void stackWideRow(QBoxLayout &row, int width) {
+    int wanted = (row.count() - 1) * row.spacing();
+    for (int i = 0; i < row.count(); ++i) {
+        if (const QWidget *widget = row.itemAt(i)->widget()) {
+            wanted += widget->sizeHint().width();
+        }
+    }
+    if (wanted > width) {
+        row.setDirection(QBoxLayout::TopToBottom);
+    }
+}
+
 void breakWideLabels(const QWidget &panel, int width) {
     for (auto *button : panel.findChildren<QAbstractButton *>()) {
         const bool hasLabel =

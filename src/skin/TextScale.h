@@ -2,6 +2,7 @@
 
 #pragma once
 
+class QBoxLayout;
 class QGridLayout;
 class QWidget;
 
@@ -18,6 +19,10 @@ int scaledToText(int points);
 /// Puts the pairs of label and field that stand side by side in `grid`, which has four columns,
 /// below each other, where texts are large. The numbers of its rows double then.
 void stackPairs(QGridLayout &grid);
+
+/// Puts the widgets of `row` below each other, where side by side they are wider than `width`
+/// pixels.
+void stackWideRow(QBoxLayout &row, int width);
 
 /// Breaks the labels of the boxes and radio buttons in `panel` that are wider than `width` into two
 /// lines.

@@ -67,7 +67,7 @@ class LargeTextsTest : public QObject {
     void noTextIsCut() {
         QFETCH(const int, percent);
         LargeTexts w(percent);
-        w.ctrl->window()->resize(w.ctrl->window()->width(), 1100);
+        w.ctrl->window()->resize(w.ctrl->window()->width(), 1150);
         for (const char *settings :
              {"m_btnImageSetting", "m_btnTxtSetting", "m_btnSecuritySetting"}) {
             QTest::mouseClick(&w.control<QWidget>(settings), Qt::LeftButton);
