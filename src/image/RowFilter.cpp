@@ -172,6 +172,21 @@ QByteArray filterRows(const QByteArray &rows, qsizetype stride, int pixelBytes) 
     return out;
 }
 
+QByteArray filterRowsUp(const QByteArray &rows, qsizetype stride) {
+    QByteArray out(rows.size() / stride * (stride + 1), Qt::Uninitialized);
+    const std::vector<uchar> zeros(static_cast<size_t>(stride));
+    const uchar *above = zeros.data();
+    const auto *row = reinterpret_cast<const uchar *>(rows.constData());
+    auto *target = reinterpret_cast<uchar *>(out.data());
+    for (auto *const end = target + out.size(); target != end; target += stride + 1) {
+        target[0] = Up;
+        applyFilter(Up, {row, above, stride, 0}, target + 1);
+        above = row;
+        row += stride;
+    }
+    return out;
+}
+
 QByteArray unfilterRows(QByteArray filtered, int height, qsizetype stride, int pixelBytes) {
     if (filtered.size() < height * (stride + 1)) {
         throw Error(Reasons::tr("The image has fewer rows than its header says"));

@@ -11,6 +11,9 @@ namespace folioforge {
 /// sample on the left.
 QByteArray filterRows(const QByteArray &rows, qsizetype stride, int pixelBytes);
 
+/// Rows each less the one above, likewise with the number of that filter before it.
+QByteArray filterRowsUp(const QByteArray &rows, qsizetype stride);
+
 /// The opposite, in place: undoes the filters of `height` rows of 1 + `stride` bytes and returns
 /// the rows without the filter numbers. Throws Error on a filter number that does not exist.
 QByteArray unfilterRows(QByteArray filtered, int height, qsizetype stride, int pixelBytes);

@@ -3,6 +3,7 @@
 #include "pdf/tags/CrossReferences.h"
 
 #include "image/Deflate.h"
+#include "image/RowFilter.h"
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
@@ -16,12 +17,11 @@ namespace folioforge {
 
 namespace {
 
-/// Of a row: its predictor, the type of the entry, an offset up to a terabyte, an index.
-constexpr qsizetype kType = 1;
-constexpr qsizetype kSecond = 2;
-constexpr qsizetype kThird = 7;
-constexpr qsizetype kRow = 9;
-constexpr char kUp = 2; ///< The PNG filter that subtracts the row above.
+/// Of a row: the type of the entry, an offset up to a terabyte, an index.
+constexpr qsizetype kType = 0;
+constexpr qsizetype kSecond = 1;
+constexpr qsizetype kThird = 6;
+constexpr qsizetype kRow = 8;
 
 std::runtime_error unknownSection() {
     return std::runtime_error("the cross-reference stream is not the library's");
@@ -105,21 +105,10 @@ void CrossReferences::put(int number, int type, quint64 second, quint64 third) {
     }
 }
 
-QByteArray CrossReferences::packedRows() {
-    m_rows[0] = kUp;
-    for (qsizetype row = m_rows.size() - kRow; row >= kRow; row -= kRow) {
-        m_rows[row] = kUp;
-        for (qsizetype i = kType; i < kRow; ++i) {
-            m_rows[row + i] = static_cast<char>(m_rows[row + i] - m_rows[row - kRow + i]);
-        }
-    }
-    return deflateBytes(m_rows, DeflateEffort::Fast);
-}
-
 QByteArray CrossReferences::section(qint64 offset) {
     putAt(m_number, offset);
     const QByteArray size = QByteArray::number(m_rows.size() / kRow);
-    const QByteArray data = packedRows();
+    const QByteArray data = deflateBytes(filterRowsUp(m_rows, kRow), DeflateEffort::Fast);
     const QByteArray id = '<' + QByteArray(32, '0') + '>';
     return QByteArray::number(m_number) + " 0 obj\n<< /Type /XRef /Length " +
            QByteArray::number(data.size()) +

@@ -24,16 +24,15 @@ class CrossReferences {
     void putInStream(int number, int stream, int index);
 
     /// The section that takes the place of the library's, from `offset` on, with an identifier of
-    /// zeros. Uses up the entries.
+    /// zeros.
     [[nodiscard]] QByteArray section(qint64 offset);
 
   private:
     void put(int number, int type, quint64 second, quint64 third);
-    [[nodiscard]] QByteArray packedRows();
 
     int m_number = 0;
     QByteArray m_keys; ///< Of the trailer, that are not made anew.
-    QByteArray m_rows; ///< Each with a byte before it that tells how it is predicted.
+    QByteArray m_rows; ///< Of the entries.
 };
 
 } // namespace folioforge

@@ -2,6 +2,7 @@
 
 #include "pdf/tags/ObjectStreams.h"
 
+#include "image/RowFilter.h"
 #include "pdf/tags/StreamCipher.h"
 
 #include <qpdf/Pipeline.hh>
@@ -21,22 +22,6 @@ constexpr qsizetype rowOf(ObjectStreams::Kind kind) {
 void appendPadded(QByteArray &rows, QByteArrayView piece, qsizetype row) {
     const qsizetype length = (piece.size() + row - 1) / row * row;
     rows.append(piece).append(length - piece.size(), ' ');
-}
-
-/// The rows, each less the one above and behind the number of that filter.
-QByteArray filtered(const QByteArray &rows, qsizetype row) {
-    constexpr char kUpFilter = 2;
-    QByteArray result(rows.size() / row * (row + 1), Qt::Uninitialized);
-    const QByteArray none(row, '\0');
-    const char *above = none.constData();
-    const char *from = rows.constData();
-    for (char *to = result.data(); to != result.constEnd(); above = from, from += row) {
-        *to++ = kUpFilter;
-        for (qsizetype i = 0; i < row; ++i) {
-            *to++ = static_cast<char>(from[i] - above[i]);
-        }
-    }
-    return result;
 }
 
 } // namespace
@@ -76,7 +61,7 @@ void ObjectStreams::add(Kind kind, int number, std::string_view object) {
 void ObjectStreams::writeStream(Kind kind) {
     Stream &stream = m_streams.at(kind);
     QByteArray data;
-    m_deflater.append(data, filtered(stream.places + stream.objects, rowOf(kind)));
+    m_deflater.append(data, filterRowsUp(stream.places + stream.objects, rowOf(kind)));
     if (m_cipher) {
         data = m_cipher->encrypted(data);
     }
