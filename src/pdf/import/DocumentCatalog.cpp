@@ -154,8 +154,6 @@ void DocumentCatalog::keepAccessible(QPDF &document) {
         }
     }
     m_metadata.claims.pdfUA = QStringLiteral("1");
-    m_metadata.packet = m_metadata.packet.isEmpty() ? emptyXmp() : m_metadata.packet;
-    nameLayers(document);
 }
 
 void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info,
@@ -192,11 +190,13 @@ void DocumentCatalog::finish(QPDF &document, const DocumentInfo &info,
     if (m_archive) {
         m_metadata.claims.pdfA = m_archive->pdfA;
         m_metadata.claims.conformance = m_archive->conformance;
-        m_metadata.packet = m_metadata.packet.isEmpty() ? emptyXmp() : m_metadata.packet;
-        nameLayers(document);
     }
     if (m_accessible) {
         keepAccessible(document);
+    }
+    if (m_archive || m_accessible) { // Claims take a packet, and layers that have names.
+        m_metadata.packet = m_metadata.packet.isEmpty() ? emptyXmp() : m_metadata.packet;
+        nameLayers(document);
     }
     putMetadata(document, m_metadata, info);
 }
