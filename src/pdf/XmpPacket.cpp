@@ -2,12 +2,13 @@
 
 #include "pdf/XmpPacket.h"
 
+#include "image/XmpNames.h"
+#include "image/XmpProperties.h"
 #include "pdf/BoundedBuffer.h"
-#include "pdf/XmpNames.h"
+#include "pdf/XmpInfo.h"
 
 #include <qpdf/QPDF.hh>
 
-#include <QStringDecoder>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -29,59 +30,6 @@ void readClaim(Claims &claims, QStringView space, QStringView name, const QStrin
     } else if (space == kPdfUA && name == "part"_L1) {
         claims.pdfUA = text;
     }
-}
-
-/// A packet as text; nothing where it is in no encoding that XMP has.
-std::optional<QString> decoded(const QByteArray &packet) {
-    const auto encoding = QStringConverter::encodingForData(packet, u'<');
-    QStringDecoder decoder(encoding.value_or(QStringConverter::Utf8));
-    QString text = decoder.decode(packet);
-    while (text.endsWith(QChar(0))) { // Some writers pad with zeros.
-        text.chop(1);
-    }
-    return decoder.hasError() ? std::nullopt : std::optional(text);
-}
-
-/// What the time to read a packet grows with.
-struct PacketCounts {
-    int names = 0;         ///< Of elements and attributes, all in all.
-    int maxAttributes = 0; ///< Of one element.
-};
-
-PacketCounts countNames(QStringView packet) {
-    PacketCounts counts;
-    bool inTag = false;
-    QChar quote; // That of the value; null outside values.
-    int attributes = 0;
-    for (const QChar unit : packet) {
-        if (unit == u'<') { // No value and no text has one, so that what follows is a tag.
-            inTag = true;
-            quote = {};
-            attributes = 0;
-            ++counts.names;
-        } else if (!inTag || !quote.isNull()) {
-            quote = unit == quote ? QChar() : quote;
-        } else if (unit == u'"' || unit == u'\'') {
-            quote = unit;
-        } else if (unit == u'!' || unit == u'?' || unit == u'>') { // A remark or the tag's end.
-            inTag = false;
-        } else if (unit == u'=') {
-            ++counts.names;
-            counts.maxAttributes = std::max(counts.maxAttributes, ++attributes);
-        }
-    }
-    return counts;
-}
-
-/// Whether a packet is read in a moment. The reader compares each attribute of an element with all
-/// others, those that a document type gives it among them, and looks for each name among all
-/// prefixes that are declared around it.
-bool isQuick(const QString &packet) {
-    constexpr int kMaxAttributes = 1000;
-    constexpr qsizetype kMaxSteps = 100'000'000;
-    const PacketCounts counts = countNames(packet);
-    return counts.maxAttributes <= kMaxAttributes &&
-           counts.names * packet.count("xmlns"_L1) <= kMaxSteps && !packet.contains("<!DOCTYPE"_L1);
 }
 
 /// Whether a property is a claim or belongs to the account that programs keep of their own work.
@@ -157,7 +105,6 @@ class ContentsReader {
     }
 
     static bool saysMore(const QXmlStreamAttribute &attribute) {
-        constexpr auto kXml = "http://www.w3.org/XML/1998/namespace"_L1;
         const auto space = attribute.namespaceUri();
         const bool ofSyntax = space.isEmpty() || space == kXml ||
                               (space == kRdf && attribute.name() != "resource"_L1);
@@ -190,8 +137,7 @@ std::optional<QString> readXmpPacket(QPDF &document) {
     if (!packet) {
         return std::nullopt;
     }
-    const auto text = decoded(QByteArray::fromStdString(*packet));
-    return text && isQuick(*text) ? text : std::nullopt;
+    return xmpText(QByteArray::fromStdString(*packet));
 }
 
 std::optional<XmpContents> readXmpContents(const QString &packet) {

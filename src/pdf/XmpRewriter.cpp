@@ -2,8 +2,9 @@
 
 #include "pdf/XmpRewriter.h"
 
+#include "image/XmpNames.h"
 #include "pdf/DocumentInfo.h"
-#include "pdf/XmpNames.h"
+#include "pdf/XmpInfo.h"
 #include "pdf/XmpPacket.h"
 
 #include <QXmlStreamReader>

@@ -4,19 +4,19 @@
 
 #include "files/SourceFile.h"
 #include "image/Bytes.h"
+#include "image/XmpNames.h"
+#include "image/XmpProperties.h"
 #include "image/description/DescriptionBlocks.h"
 
 #include <QStringDecoder>
-#include <QXmlStreamReader>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
 
 namespace {
-
-constexpr auto kRdf = "http://www.w3.org/1999/02/22-rdf-syntax-ns#"_L1;
-constexpr auto kDc = "http://purl.org/dc/elements/1.1/"_L1;
 
 /// UTF-8 where it is that, else Latin-1, as old programs write.
 QString decoded(QByteArrayView bytes) {
@@ -27,48 +27,20 @@ QString decoded(QByteArrayView bytes) {
     return decoder.hasError() ? QString::fromLatin1(bytes) : text;
 }
 
-/// The items of the choice of languages that `reader` stands on: that for all of them, or the
-/// first.
-QString choiceIn(QXmlStreamReader &reader) {
-    QString choice;
-    bool isDefault = false;
-    for (int depth = 1; depth > 0 && !reader.atEnd();) {
-        switch (reader.readNext()) {
-        case QXmlStreamReader::StartElement:
-            if (reader.namespaceUri() == kRdf && reader.name() == "li"_L1) {
-                const bool forAll = reader.attributes().value("xml:lang"_L1) == "x-default"_L1;
-                const QString text = reader.readElementText(QXmlStreamReader::IncludeChildElements);
-                if (choice.isEmpty() || (forAll && !isDefault)) {
-                    choice = text;
-                    isDefault = forAll;
-                }
-            } else {
-                ++depth;
-            }
-            break;
-        case QXmlStreamReader::EndElement:
-            --depth;
-            break;
-        default:
-            break;
-        }
-    }
-    return choice;
-}
-
-/// dc:description of a packet.
+/// dc:description of a packet: the first that says something.
 QString descriptionInXmp(const QByteArray &packet) {
-    if (packet.contains("<!DOCTYPE")) {
-        return {}; // No packet has one, and it may make the reader write for ever.
+    QString found;
+    if (const auto text = xmpText(packet)) {
+        forEachXmpProperty(
+            *text, [&](QStringView space, QStringView name, const QStringList &texts) {
+                if (found.isEmpty() && space == kDc && name == "description"_L1) {
+                    const auto said = std::ranges::find_if(
+                        texts, [](const QString &each) { return !each.trimmed().isEmpty(); });
+                    found = said == texts.end() ? QString() : *said;
+                }
+            });
     }
-    QXmlStreamReader reader(packet);
-    while (!reader.atEnd()) {
-        if (reader.readNext() == QXmlStreamReader::StartElement && reader.namespaceUri() == kDc &&
-            reader.name() == "description"_L1) {
-            return choiceIn(reader);
-        }
-    }
-    return {};
+    return found;
 }
 
 /// The data set 2:120.
