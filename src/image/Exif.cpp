@@ -4,6 +4,8 @@
 
 #include "image/Bytes.h"
 
+#include <algorithm>
+
 namespace folioforge {
 
 namespace {
@@ -12,82 +14,33 @@ enum Tag : quint16 { Orientation = 274, XResolution = 282, YResolution = 283, Un
 
 constexpr quint16 kCentimetre = 3;
 constexpr double kCentimetresPerInch = 2.54;
-constexpr qsizetype kEntryBytes = 12;
-
-/// The block's numbers in the byte order that its first two bytes name.
-class TiffNumbers {
-  public:
-    explicit TiffNumbers(QByteArrayView block)
-        : m_block(block)
-        , m_littleEndian(block.startsWith("II")) {}
-
-    [[nodiscard]] quint16 half(qsizetype at) const {
-        return m_littleEndian ? littleEndianAt<quint16>(m_block, at)
-                              : bigEndianAt<quint16>(m_block, at);
-    }
-    [[nodiscard]] quint32 word(qsizetype at) const {
-        return m_littleEndian ? littleEndianAt<quint32>(m_block, at)
-                              : bigEndianAt<quint32>(m_block, at);
-    }
-    [[nodiscard]] double rational(qsizetype at) const {
-        const quint32 denominator = word(at + 4);
-        return denominator == 0 ? 0 : double(word(at)) / denominator;
-    }
-
-  private:
-    QByteArrayView m_block;
-    bool m_littleEndian;
-};
-
-void readDirectory(const TiffNumbers &numbers, ExifMetadata &metadata, quint16 &unit) {
-    const qsizetype directory = numbers.word(4);
-    const int count = numbers.half(directory);
-    for (int i = 0; i < count; ++i) {
-        const qsizetype entry = directory + 2 + i * kEntryBytes;
-        switch (numbers.half(entry)) {
-        case Orientation:
-            metadata.orientation = numbers.half(entry + 8);
-            break;
-        case XResolution:
-            metadata.horizontalDpi = numbers.rational(numbers.word(entry + 8));
-            break;
-        case YResolution:
-            metadata.verticalDpi = numbers.rational(numbers.word(entry + 8));
-            break;
-        case Unit:
-            unit = numbers.half(entry + 8);
-            break;
-        default:
-            break;
-        }
-    }
-}
 
 } // namespace
 
-ExifMetadata readExifItem(QByteArrayView item) {
+QByteArrayView exifBlockOf(QByteArrayView item) {
     constexpr qsizetype kCount = 4;
     if (item.size() < kCount) {
         return {};
     }
     const qsizetype before = bigEndianAt<quint32>(item, 0);
-    return readExif(item.sliced(std::min(kCount + before, item.size())));
+    return item.sliced(std::min(kCount + before, item.size()));
+}
+
+TiffDirectory exifDirectory(QByteArrayView block) {
+    const auto tiff = block.startsWith(kExifLead) ? block.sliced(kExifLead.size()) : block;
+    return TiffDirectory(FileView(QByteArray::fromRawData(tiff.data(), tiff.size())));
 }
 
 ExifMetadata readExif(QByteArrayView block) {
     ExifMetadata metadata;
-    if (!block.startsWith("II") && !block.startsWith("MM")) {
-        return metadata;
-    }
-    quint16 unit = 2;
     try {
-        readDirectory(TiffNumbers(block), metadata, unit);
+        const TiffDirectory directory = exifDirectory(block);
+        const double scale = directory.number(Unit) == kCentimetre ? kCentimetresPerInch : 1;
+        metadata.orientation = directory.number(Orientation).value_or(1);
+        metadata.horizontalDpi = scale * directory.fraction(XResolution);
+        metadata.verticalDpi = scale * directory.fraction(YResolution);
     } catch (const Error &) {
-        // A truncated block is no reason to refuse the picture: what precedes the cut is used.
-    }
-    if (unit == kCentimetre) {
-        metadata.horizontalDpi *= kCentimetresPerInch;
-        metadata.verticalDpi *= kCentimetresPerInch;
+        // A damaged block is no reason to refuse the picture.
     }
     return metadata;
 }

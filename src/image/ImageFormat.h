@@ -18,6 +18,8 @@
 
 namespace folioforge {
 
+struct DescriptionBlocks;
+
 /// Reads the pictures of a file, one after another.
 class PictureReader {
   public:
@@ -50,6 +52,9 @@ struct ImageFormat {
     /// Reads every picture of the file, the first as toPdfImage() does but for the warning of those
     /// behind it; null where one alone becomes a page. Throws Error.
     std::unique_ptr<PictureReader> (*readAll)(const FileView &file) = nullptr;
+    /// Adds what the file holds that may say what there is to see; null where nothing is looked
+    /// for. Throws Error.
+    void (*describe)(const FileView &file, DescriptionBlocks &blocks) = nullptr;
 };
 
 /// Bytes at the start of a file by which formats recognise it.

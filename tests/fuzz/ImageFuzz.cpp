@@ -7,6 +7,7 @@
 #include "image/ImageHeader.h"
 #include "image/LimitedPicture.h"
 #include "image/PdfImage.h"
+#include "image/description/Description.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,6 +19,7 @@ using namespace folioforge::fuzz;
 namespace {
 
 constexpr qint64 kMaxPixels = 1 << 22; // Enough to find faults, few enough to go on.
+constexpr qsizetype kMaxDescription = 8001;
 
 void requireInOrder(const PdfImage &image, qint64 fileSize) {
     require(image.width > 0 && image.height > 0);
@@ -68,6 +70,7 @@ void readAs(ImageKind kind, const QString &extension, Bytes bytes) {
             requireInOrder(picture, static_cast<qint64>(bytes.size()));
             requireLimited(std::move(picture), static_cast<qint64>(bytes.size()));
             requireAllInOrder(file.path(), static_cast<qint64>(bytes.size()));
+            require(ownDescription(file.path()).size() <= kMaxDescription);
         }
     });
 }

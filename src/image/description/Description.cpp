@@ -4,6 +4,7 @@
 
 #include "files/SourceFile.h"
 #include "image/Bytes.h"
+#include "image/ImageFormat.h"
 #include "image/XmpNames.h"
 #include "image/XmpProperties.h"
 #include "image/description/DescriptionBlocks.h"
@@ -73,12 +74,17 @@ QString ownDescription(const QString &path, SystemCalls &calls) {
     DescriptionBlocks blocks;
     try {
         const SourceFile file = SourceFile::open(path, calls);
-        blocks = readDescriptionBlocks(file.view());
+        const FileView view = file.view();
+        if (const auto describe = formatOf(view).describe) {
+            describe(view, blocks);
+        }
     } catch (const Error &) {
-        return {};
+        // Of a damaged file what stands before the damage counts.
     }
-    for (const QString &text : {descriptionInXmp(blocks.xmp), captionInIptc(blocks.iptc),
-                                decoded(blocks.exif), blocks.text}) {
+    for (const QString &text :
+         {descriptionInXmp(blocks.xmp.value_or(QByteArray())),
+          captionInIptc(blocks.iptc.value_or(QByteArray())),
+          decoded(blocks.exif.value_or(QByteArray())), blocks.text.value_or(QString())}) {
         if (const QString description = tidied(text); !description.isEmpty()) {
             return description;
         }

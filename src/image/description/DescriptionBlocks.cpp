@@ -5,88 +5,20 @@
 #include "files/SourceFile.h"
 #include "image/Bytes.h"
 #include "image/Deflate.h"
+#include "image/Exif.h"
+#include "image/formats/Chunks.h"
+#include "image/formats/Jpeg2000.h"
 #include "image/formats/JpegSegments.h"
+#include "image/formats/PhotoshopResources.h"
+#include "image/formats/PsdMetadata.h"
+
+#include <algorithm>
 
 namespace folioforge {
 
 namespace {
 
-constexpr qint64 kMaxBytes = 1 << 20;
-constexpr QByteArrayView kExifLead("Exif\0\0", 6);
-
-/// The blocks of a TIFF file, or of an Exif block, which is one (TIFF 6.0, section 2).
-void readTiff(const FileView &file, DescriptionBlocks &blocks) {
-    enum DescriptionTag : quint16 { ImageDescription = 270, Xmp = 700, Iptc = 33723 };
-    constexpr qint64 kEntry = 12;
-    constexpr quint16 kClassic = 42;
-    const QByteArray head = file.readExactly(0, 8);
-    const bool little = head.startsWith("II");
-    const auto half = [&](const QByteArray &bytes, qsizetype at) {
-        return little ? littleEndianAt<quint16>(bytes, at) : bigEndianAt<quint16>(bytes, at);
-    };
-    const auto word = [&](const QByteArray &bytes, qsizetype at) {
-        return little ? littleEndianAt<quint32>(bytes, at) : bigEndianAt<quint32>(bytes, at);
-    };
-    if (half(head, 2) != kClassic) {
-        return;
-    }
-    const qint64 directory = word(head, 4);
-    const int count = half(file.readExactly(directory, 2), 0);
-    for (int i = 0; i < count; ++i) {
-        const QByteArray entry = file.readExactly(directory + 2 + i * kEntry, kEntry);
-        const quint16 tag = half(entry, 0);
-        constexpr quint16 kLong = 4; // Some writers keep IPTC in words.
-        const qint64 length = word(entry, 4) * (half(entry, 2) == kLong ? qint64(4) : qint64(1));
-        if ((tag != ImageDescription && tag != Xmp && tag != Iptc) || length > kMaxBytes) {
-            continue;
-        }
-        const QByteArray value =
-            length <= 4 ? entry.sliced(8, length) : file.readExactly(word(entry, 8), length);
-        (tag == Xmp ? blocks.xmp : tag == Iptc ? blocks.iptc : blocks.exif) = value;
-    }
-}
-
-/// The data sets among the resources that Photoshop keeps beside a picture.
-QByteArray iptcOf(QByteArrayView resources) {
-    constexpr quint16 kIptc = 0x0404;
-    for (qsizetype at = 0; resources.sliced(at).startsWith("8BIM");) {
-        const auto id = bigEndianAt<quint16>(resources, at + 4);
-        const qsizetype name = 1 + bigEndianAt<uchar>(resources, at + 6);
-        const qsizetype lengthAt = at + 6 + name + name % 2;
-        const qsizetype length = bigEndianAt<quint32>(resources, lengthAt);
-        const qsizetype begin = lengthAt + 4;
-        const qsizetype there = std::min(length, resources.size() - begin);
-        if (id == kIptc) {
-            return resources.sliced(begin, there).toByteArray();
-        }
-        at = std::min(begin + there + there % 2, resources.size());
-    }
-    return {};
-}
-
-void readExif(QByteArrayView block, DescriptionBlocks &blocks) {
-    readTiff(FileView(block.toByteArray()), blocks);
-}
-
-void readJpeg(const FileView &file, DescriptionBlocks &blocks) {
-    constexpr uchar kApp13 = 0xED;
-    constexpr QByteArrayView kXmpLead("http://ns.adobe.com/xap/1.0/\0", 29);
-    constexpr QByteArrayView kPhotoshopLead("Photoshop 3.0\0", 14);
-    JpegSegments segments(file);
-    while (const auto segment = segments.next()) {
-        const QByteArrayView content = segment->content;
-        if (segment->marker == Sos) {
-            break;
-        }
-        if (segment->marker == App1 && content.startsWith(kExifLead)) {
-            readExif(content.sliced(kExifLead.size()), blocks);
-        } else if (segment->marker == App1 && content.startsWith(kXmpLead)) {
-            blocks.xmp = content.sliced(kXmpLead.size()).toByteArray();
-        } else if (segment->marker == kApp13 && content.startsWith(kPhotoshopLead)) {
-            blocks.iptc = iptcOf(content.sliced(kPhotoshopLead.size()));
-        }
-    }
-}
+constexpr quint16 kImageDescription = 270;
 
 /// What stands in front of the next zero of `rest`, which then begins behind it.
 QByteArrayView takeWord(QByteArrayView &rest) {
@@ -96,88 +28,153 @@ QByteArrayView takeWord(QByteArrayView &rest) {
     return word;
 }
 
-/// A chunk of text of a PNG (ISO 15948, 11.3.4).
-void readPngText(QByteArrayView type, QByteArrayView chunk, DescriptionBlocks &blocks) {
-    const QByteArrayView keyword = takeWord(chunk);
-    const bool isXmp = keyword == "XML:com.adobe.xmp";
-    if (!isXmp && keyword != "Description") {
-        return;
-    }
+/// The text of a chunk of a PNG (ISO 15948, 11.3.4), of which `rest` is what follows the keyword.
+QByteArray pngText(QByteArrayView type, QByteArrayView rest) {
     bool isPacked = type == "zTXt";
     if (type == "iTXt") {
-        isPacked = bigEndianAt<uchar>(chunk, 0) != 0;
-        chunk = chunk.sliced(std::min<qsizetype>(2, chunk.size()));
-        takeWord(chunk); // The language.
-        takeWord(chunk); // The keyword in it.
+        isPacked = bigEndianAt<uchar>(rest, 0) != 0;
+        rest = rest.sliced(std::min<qsizetype>(2, rest.size()));
+        takeWord(rest); // The language.
+        takeWord(rest); // The keyword in it.
     } else if (isPacked) {
-        chunk = chunk.sliced(std::min<qsizetype>(1, chunk.size()));
+        rest = rest.sliced(std::min<qsizetype>(1, rest.size()));
     }
-    const QByteArray text = isPacked ? inflateUpTo(chunk, kMaxBytes) : chunk.toByteArray();
-    if (isXmp) {
-        blocks.xmp = text;
-    } else {
-        blocks.text = type == "iTXt" ? QString::fromUtf8(text) : QString::fromLatin1(text);
+    return isPacked ? inflateUpTo(rest, kMaxDescriptionBytes) : rest.toByteArray();
+}
+
+void addPngText(QByteArrayView type, QByteArrayView chunk, DescriptionBlocks &blocks) {
+    const QByteArrayView keyword = takeWord(chunk);
+    if (keyword == "XML:com.adobe.xmp") {
+        takeFirst(blocks.xmp, [&] { return pngText(type, chunk); });
+    } else if (keyword == "Description") {
+        takeFirst(blocks.text, [&] {
+            const QByteArray text = pngText(type, chunk);
+            return type == "iTXt" ? QString::fromUtf8(text) : QString::fromLatin1(text);
+        });
     }
 }
 
-void readPng(const FileView &file, DescriptionBlocks &blocks) {
-    constexpr qint64 kSignature = 8;
-    constexpr qint64 kLead = 8;
-    for (qint64 at = kSignature; at + kLead <= file.size();) {
-        const QByteArray lead = file.readExactly(at, kLead);
-        const qint64 length = bigEndianAt<quint32>(lead, 0);
-        const QByteArrayView type = QByteArrayView(lead).sliced(4);
-        const bool isText = type == "tEXt" || type == "zTXt" || type == "iTXt";
-        if (isText && length <= kMaxBytes) {
-            readPngText(type, file.readExactly(at + kLead, length), blocks);
-        } else if (type == "eXIf" && length <= kMaxBytes) {
-            readExif(file.readExactly(at + kLead, length), blocks);
-        }
-        at += kLead + length + 4;
-    }
-}
-
-void readWebp(const FileView &file, DescriptionBlocks &blocks) {
-    constexpr qint64 kFirst = 12;
-    constexpr qint64 kLead = 8;
-    for (qint64 at = kFirst; at + kLead <= file.size();) {
-        const QByteArray lead = file.readExactly(at, kLead);
-        const qint64 length = littleEndianAt<quint32>(lead, 4);
-        if (lead.startsWith("XMP ") && length <= kMaxBytes) {
-            blocks.xmp = file.readExactly(at + kLead, length);
-        } else if (lead.startsWith("EXIF") && length <= kMaxBytes) {
-            const QByteArray block = file.readExactly(at + kLead, length);
-            readExif(block.startsWith(kExifLead) ? QByteArrayView(block).sliced(kExifLead.size())
-                                                 : QByteArrayView(block),
-                     blocks);
-        }
-        at += kLead + length + length % 2;
-    }
-}
-
-void readBlocks(const FileView &file, DescriptionBlocks &blocks) {
-    const QByteArray head = file.read(0, 12);
-    if (head.startsWith("\xFF\xD8")) {
-        readJpeg(file, blocks);
-    } else if (head.startsWith("\x89PNG")) {
-        readPng(file, blocks);
-    } else if (head.startsWith("II*") || head.startsWith(QByteArrayView("MM\0*", 4))) {
-        readTiff(file, blocks);
-    } else if (head.startsWith("RIFF") && head.endsWith("WEBP")) {
-        readWebp(file, blocks);
+/// A box of JPEG 2000 that another standard names by a number of 16 bytes.
+void addUuidBox(const FileView &content, DescriptionBlocks &blocks) {
+    constexpr qint64 kNumber = 16;
+    constexpr QByteArrayView kXmpBox(
+        "\xBE\x7A\xCF\xCB\x97\xA9\x42\xE8\x9C\x71\x99\x94\x91\xE3\xAF\xAC", kNumber);
+    constexpr QByteArrayView kIptcBox(
+        "\x33\xC7\xA4\xD2\xB8\x1D\x47\x23\xA0\xBA\xF1\xA3\xE0\x97\xAD\x38", kNumber);
+    const QByteArray number = content.read(0, kNumber);
+    const auto rest = [&] { return content.read(kNumber, kMaxDescriptionBytes); };
+    if (number == kXmpBox) {
+        takeFirst(blocks.xmp, rest);
+    } else if (number == kIptcBox) {
+        takeFirst(blocks.iptc, rest);
+    } else if (number == "JpgTiffExif->JP2") {
+        takeFirst(blocks.exif, [&] { return descriptionInExif(rest()); });
     }
 }
 
 } // namespace
 
-DescriptionBlocks readDescriptionBlocks(const FileView &file) {
-    DescriptionBlocks blocks;
-    try {
-        readBlocks(file, blocks);
-    } catch (const Error &) {
-        // Of a damaged file what stands before the damage counts.
+QByteArray descriptionInExif(QByteArrayView block) {
+    return exifDirectory(block).bytes(kImageDescription, kMaxDescriptionBytes);
+}
+
+void addPhotoshopBlocks(QByteArrayView resources, DescriptionBlocks &blocks) {
+    enum Resource : quint16 { Iptc = 1028, Exif = 1058, Xmp = 1060 };
+    forEachPhotoshopResource(resources, [&](quint16 id, QByteArrayView data) {
+        if (id == Iptc) {
+            takeFirst(blocks.iptc, [&] { return data.toByteArray(); });
+        } else if (id == Exif) {
+            takeFirst(blocks.exif, [&] { return descriptionInExif(data); });
+        } else if (id == Xmp) {
+            takeFirst(blocks.xmp, [&] { return data.toByteArray(); });
+        }
+    });
+}
+
+void addJpegBlocks(const FileView &file, DescriptionBlocks &blocks) {
+    constexpr uchar kApp13 = 0xED;
+    constexpr QByteArrayView kXmpLead("http://ns.adobe.com/xap/1.0/\0", 29);
+    constexpr QByteArrayView kPhotoshopLead("Photoshop 3.0\0", 14);
+    QByteArray resources; // What is longer than a segment goes on in the next.
+    JpegSegments segments(file);
+    for (auto segment = segments.next(); segment && segment->marker != Sos;
+         segment = segments.next()) {
+        const QByteArrayView content = segment->content;
+        if (segment->marker == App1 && content.startsWith(kExifLead)) {
+            takeFirst(blocks.exif, [&] { return descriptionInExif(content); });
+        } else if (segment->marker == App1 && content.startsWith(kXmpLead)) {
+            takeFirst(blocks.xmp, [&] { return content.sliced(kXmpLead.size()).toByteArray(); });
+        } else if (segment->marker == kApp13 && content.startsWith(kPhotoshopLead) &&
+                   resources.size() < kMaxDescriptionBytes) {
+            resources += content.sliced(kPhotoshopLead.size());
+        }
     }
-    return blocks;
+    addPhotoshopBlocks(resources, blocks);
+}
+
+void addJpeg2000Blocks(const FileView &file, DescriptionBlocks &blocks) {
+    Jpeg2000Boxes boxes(file);
+    while (const auto box = boxes.next()) {
+        if (box->content.size() > kMaxDescriptionBytes) {
+            continue;
+        }
+        if (box->type == "uuid") {
+            addUuidBox(box->content, blocks);
+        } else if (box->type == "xml ") {
+            const QByteArray xml = box->content.read(0, kMaxDescriptionBytes);
+            if (xml.contains("http://www.w3.org/1999/02/22-rdf-syntax-ns#")) { // Else no XMP.
+                takeFirst(blocks.xmp, [&] { return xml; });
+            }
+        }
+    }
+}
+
+void addPngBlocks(const FileView &file, DescriptionBlocks &blocks) {
+    PngChunks chunks(file);
+    while (const auto chunk = chunks.next()) {
+        const QByteArray &type = chunk->type;
+        const auto content = [&] { return file.readExactly(chunk->at, chunk->length); };
+        if (chunk->length > kMaxDescriptionBytes) {
+            continue;
+        }
+        if (type == "tEXt" || type == "zTXt" || type == "iTXt") {
+            addPngText(type, content(), blocks);
+        } else if (type == "eXIf") {
+            takeFirst(blocks.exif, [&] { return descriptionInExif(content()); });
+        }
+    }
+}
+
+void addPsdBlocks(const FileView &file, DescriptionBlocks &blocks) {
+    addPhotoshopBlocks(readPsdResources(file), blocks);
+}
+
+void addTiffBlocks(const FileView &file, DescriptionBlocks &blocks) {
+    enum DescriptionTag : quint16 { Xmp = 700, Iptc = 33723 };
+    const QByteArray head = file.read(0, 4);
+    if (head != QByteArrayView("II*\0", 4) && head != QByteArrayView("MM\0*", 4)) {
+        return;
+    }
+    const TiffDirectory directory(file);
+    const auto bytes = [&](quint16 tag) { return directory.bytes(tag, kMaxDescriptionBytes); };
+    blocks.xmp = bytes(Xmp);
+    blocks.iptc = bytes(Iptc);
+    blocks.exif = bytes(kImageDescription);
+}
+
+void addWebpBlocks(const FileView &file, DescriptionBlocks &blocks) {
+    WebpChunks chunks(file);
+    while (const auto chunk = chunks.next()) {
+        const auto content = [&] { return file.readExactly(chunk->at, chunk->length); };
+        if (chunk->length > kMaxDescriptionBytes) {
+            continue;
+        }
+        if (chunk->type == "XMP ") {
+            takeFirst(blocks.xmp, content);
+        } else if (chunk->type == "EXIF") {
+            takeFirst(blocks.exif, [&] { return descriptionInExif(content()); });
+        }
+    }
 }
 
 } // namespace folioforge

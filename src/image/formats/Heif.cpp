@@ -9,11 +9,14 @@
 #include "image/MorePictures.h"
 #include "image/PictureDamage.h"
 #include "image/Raster.h"
+#include "image/description/DescriptionBlocks.h"
 #include "image/formats/ChannelRows.h"
 #include "image/formats/HeifFile.h"
 #include "image/formats/Signatures.h"
 
+#include <array>
 #include <memory>
+#include <span>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -34,19 +37,29 @@ void requireThread() {
     }
 }
 
-/// What the picture's EXIF item says; nothing where there is none.
-ExifMetadata exifOf(const heif_image_handle *handle) {
-    heif_item_id id = 0;
-    if (heif().image_handle_get_list_of_metadata_block_IDs(handle, "Exif", &id, 1) != 1) {
-        return {};
+/// The picture's first item of a type, of `content` where that is not empty; nothing where there is
+/// none.
+QByteArray itemOf(const heif_image_handle *handle, const char *type, QByteArrayView content) {
+    constexpr int kMaxItems = 16;
+    std::array<heif_item_id, kMaxItems> ids{};
+    const int count =
+        heif().image_handle_get_list_of_metadata_block_IDs(handle, type, ids.data(), kMaxItems);
+    for (const heif_item_id id : std::span(ids).first(static_cast<size_t>(count))) {
+        const size_t size = heif().image_handle_get_metadata_size(handle, id);
+        if (size <= kMaxMetadata &&
+            (content.isEmpty() ||
+             content == heif().image_handle_get_metadata_content_type(handle, id))) {
+            QByteArray item(static_cast<qsizetype>(size), '\0');
+            requireHeif(heif().image_handle_get_metadata(handle, id, item.data()));
+            return item;
+        }
     }
-    const size_t size = heif().image_handle_get_metadata_size(handle, id);
-    if (size > kMaxMetadata) {
-        return {};
-    }
-    QByteArray item(static_cast<qsizetype>(size), '\0');
-    requireHeif(heif().image_handle_get_metadata(handle, id, item.data()));
-    return readExifItem(item);
+    return {};
+}
+
+/// What the picture's EXIF item holds.
+QByteArray exifItemOf(const heif_image_handle *handle) {
+    return itemOf(handle, "Exif", {});
 }
 
 /// libheif turns and mirrors the pixels as the file says; what EXIF says of that is the same.
@@ -54,7 +67,8 @@ ImageHeader headerOf(const heif_image_handle *handle) {
     ImageHeader header;
     header.width = heif().image_handle_get_width(handle);
     header.height = heif().image_handle_get_height(handle);
-    const ExifMetadata exif = exifOf(handle);
+    const QByteArray item = exifItemOf(handle);
+    const ExifMetadata exif = readExif(exifBlockOf(item));
     header.horizontalDpi = exif.horizontalDpi;
     header.verticalDpi = exif.verticalDpi;
     return checkedHeader(header);
@@ -192,6 +206,19 @@ std::unique_ptr<PictureReader> readAll(const FileView &file) {
     return std::make_unique<HeifPictureReader>(file);
 }
 
+void describe(const FileView &file, DescriptionBlocks &blocks) {
+    const HeifFile opened(file);
+    const HeifHandle handle = opened.picture(opened.pictures().front());
+    takeFirst(blocks.xmp, [&] {
+        const QByteArray packet = itemOf(handle.get(), "mime", "application/rdf+xml");
+        return packet.size() <= kMaxDescriptionBytes ? packet : QByteArray();
+    });
+    takeFirst(blocks.exif, [&] {
+        const QByteArray item = exifItemOf(handle.get());
+        return descriptionInExif(exifBlockOf(item));
+    });
+}
+
 } // namespace
 
 ImageFormat heifFormat() {
@@ -201,7 +228,8 @@ ImageFormat heifFormat() {
             readHeader,
             toPdfImage,
             nullptr,
-            readAll};
+            readAll,
+            describe};
 }
 
 } // namespace folioforge

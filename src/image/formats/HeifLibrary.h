@@ -26,6 +26,7 @@ namespace folioforge {
     USE(image_handle_get_list_of_metadata_block_IDs)                                               \
     USE(image_handle_get_luma_bits_per_pixel)                                                      \
     USE(image_handle_get_metadata)                                                                 \
+    USE(image_handle_get_metadata_content_type)                                                    \
     USE(image_handle_get_metadata_size)                                                            \
     USE(image_handle_get_nclx_color_profile)                                                       \
     USE(image_handle_get_raw_color_profile)                                                        \

@@ -6,6 +6,7 @@
 #include "image/Bytes.h"
 #include "image/Exif.h"
 #include "image/IccProfile.h"
+#include "image/description/DescriptionBlocks.h"
 #include "image/formats/JpegPixels.h"
 #include "image/formats/JpegSegments.h"
 #include "image/formats/JpegStructure.h"
@@ -55,11 +56,10 @@ void readJfif(QByteArrayView segment, JpegMetadata &metadata) {
 }
 
 void readExifSegment(QByteArrayView segment, JpegMetadata &metadata) {
-    constexpr qsizetype kSignature = 6;
-    if (!segment.startsWith(QByteArrayView("Exif\0\0", kSignature))) {
+    if (!segment.startsWith(kExifLead)) {
         return;
     }
-    const ExifMetadata exif = readExif(segment.sliced(kSignature));
+    const ExifMetadata exif = readExif(segment);
     metadata.header.orientation = exif.orientation;
     if (!metadata.hasJfifDensity) {
         metadata.header.horizontalDpi = exif.horizontalDpi;
@@ -232,7 +232,8 @@ std::vector<FileSlice> metadata(const FileView &file) {
 ImageFormat jpegFormat() {
     return {ImageKind::Jpeg, {QLatin1StringView("jpg"), QLatin1StringView("jpeg")},
             recognises,      readHeader,
-            toPdfImage,      metadata};
+            toPdfImage,      metadata,
+            nullptr,         addJpegBlocks};
 }
 
 } // namespace folioforge

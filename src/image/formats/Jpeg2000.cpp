@@ -4,6 +4,7 @@
 
 #include "image/Bytes.h"
 #include "image/IccProfile.h"
+#include "image/description/DescriptionBlocks.h"
 #include "image/formats/Jpeg2000.h"
 #include "image/formats/OpenJpeg.h"
 
@@ -106,8 +107,14 @@ PdfImage toPdfImage(const FileView &file) {
 } // namespace
 
 ImageFormat jpeg2000Format() {
-    return {ImageKind::Jpeg2000, {QLatin1StringView("jp2")}, recognises, readHeader, toPdfImage,
-            jpeg2000Extras};
+    return {ImageKind::Jpeg2000,
+            {QLatin1StringView("jp2")},
+            recognises,
+            readHeader,
+            toPdfImage,
+            jpeg2000Extras,
+            nullptr,
+            addJpeg2000Blocks};
 }
 
 } // namespace folioforge

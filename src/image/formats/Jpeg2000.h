@@ -39,6 +39,27 @@ struct Jpeg2000Metadata {
     [[nodiscard]] bool needsDecoding() const;
 };
 
+/// A box of a file.
+struct Jpeg2000Box {
+    QByteArray type; ///< Four bytes.
+    qint64 at = 0;   ///< Where it begins.
+    FileView content;
+    qint64 next = 0; ///< Where the box after it begins.
+};
+
+/// Walks through the boxes of a file or of a box that holds others; a bare codestream has none.
+class Jpeg2000Boxes {
+  public:
+    explicit Jpeg2000Boxes(const FileView &file);
+
+    /// The next box; nothing behind the last. Throws Error where it is damaged.
+    std::optional<Jpeg2000Box> next();
+
+  private:
+    const FileView &m_file;
+    qint64 m_at;
+};
+
 /// Reads the boxes, or the size marker of a bare codestream. Throws Error.
 Jpeg2000Metadata readJpeg2000Metadata(const FileView &file);
 

@@ -17,34 +17,6 @@ namespace {
 constexpr QByteArrayView kCodestreamStart("\xFF\x4F");
 constexpr quint32 kMaxPixels = 0x7FFFFFFF;
 
-struct Box {
-    QByteArray type;
-    qint64 at; ///< Where its content begins.
-    FileView content;
-    qint64 next; ///< Where the box after it begins.
-};
-
-Box boxAt(const FileView &file, qint64 at) {
-    const QByteArray lead = file.readExactly(at, 8);
-    qint64 length = bigEndianAt<quint32>(lead, 0);
-    qint64 header = 8;
-    if (length == 1) {
-        header = 16;
-        length = static_cast<qint64>(
-            std::min<quint64>(bigEndianAt<quint64>(file.readExactly(at + 8, 8), 0),
-                              std::numeric_limits<qint64>::max() / 2));
-    } else if (length == 0) {
-        length = file.size() - at; // The last box may leave its length to the file.
-    }
-    if (length < header) {
-        throw Error(Reasons::tr("The JPEG 2000 file is damaged"));
-    }
-    // A codestream that was cut short still shows what is there.
-    length = std::min(length, file.size() - at);
-    return {lead.sliced(4), at + header,
-            file.part(at + header, std::max<qint64>(length - header, 0)), at + length};
-}
-
 void readImageHeaderBox(const FileView &content, Jpeg2000Metadata &metadata) {
     const QByteArray bytes = content.readExactly(0, 14);
     metadata.header.height = static_cast<int>(std::min(bigEndianAt<quint32>(bytes, 0), kMaxPixels));
@@ -123,7 +95,7 @@ void readExifBox(const FileView &content, Jpeg2000Metadata &metadata) {
 
 void readBoxes(const FileView &file, int depth, Jpeg2000Metadata &metadata);
 
-void readBox(const Box &box, int depth, Jpeg2000Metadata &metadata) {
+void readBox(const Jpeg2000Box &box, int depth, Jpeg2000Metadata &metadata) {
     if (box.type == "jp2h" || box.type == "res ") {
         readBoxes(box.content, depth + 1, metadata);
     } else if (box.type == "ihdr") {
@@ -135,7 +107,7 @@ void readBox(const Box &box, int depth, Jpeg2000Metadata &metadata) {
     } else if (box.type == "cmap") {
         readMappingBox(box.content, metadata);
     } else if (box.type == "jp2c" && metadata.codestreamAt < 0) {
-        metadata.codestreamAt = box.at;
+        metadata.codestreamAt = box.next - box.content.size();
         metadata.codestreamBytes = box.content.size();
     } else if (box.type == "bpcc") {
         metadata.bitsField = Jpeg2000Metadata::kBitsDiffer;
@@ -153,10 +125,9 @@ void readBoxes(const FileView &file, int depth, Jpeg2000Metadata &metadata) {
     if (depth > kMaxDepth) {
         return;
     }
-    for (qint64 at = 0; at + 8 <= file.size();) {
-        const Box box = boxAt(file, at);
-        readBox(box, depth, metadata);
-        at = box.next;
+    Jpeg2000Boxes boxes(file);
+    while (const auto box = boxes.next()) {
+        readBox(*box, depth, metadata);
     }
 }
 
@@ -190,6 +161,34 @@ void guessOpacity(Jpeg2000Metadata &metadata) {
 
 } // namespace
 
+Jpeg2000Boxes::Jpeg2000Boxes(const FileView &file)
+    : m_file(file)
+    , m_at(file.read(0, 2) == kCodestreamStart ? file.size() : 0) {}
+
+std::optional<Jpeg2000Box> Jpeg2000Boxes::next() {
+    qint64 header = 8;
+    const QByteArray lead = m_file.read(m_at, header);
+    if (lead.size() < header) {
+        return std::nullopt;
+    }
+    qint64 length = bigEndianAt<quint32>(lead, 0);
+    const qint64 at = m_at;
+    if (length == 1) {
+        header = 16;
+        length = static_cast<qint64>(
+            std::min<quint64>(bigEndianAt<quint64>(m_file.readExactly(at + 8, 8), 0),
+                              std::numeric_limits<qint64>::max() / 2));
+    } else if (length == 0) {
+        length = m_file.size() - at; // The last box may leave its length to the file.
+    }
+    if (length < header) {
+        throw Error(Reasons::tr("The JPEG 2000 file is damaged"));
+    }
+    // A codestream that was cut short still shows what is there.
+    m_at = at + std::min(length, m_file.size() - at);
+    return Jpeg2000Box{lead.sliced(4), at, m_file.part(at + header, m_at - at - header), m_at};
+}
+
 int Jpeg2000Metadata::maxColors() const {
     constexpr int kCmyk = 12;
     const bool hasInkProfile = !fittingProfile(iccProfile, ImageColor::Cmyk).isEmpty();
@@ -202,15 +201,11 @@ bool Jpeg2000Metadata::needsDecoding() const {
 
 std::vector<FileSlice> jpeg2000Extras(const FileView &file) {
     std::vector<FileSlice> extras;
-    if (file.read(0, 2) == kCodestreamStart) {
-        return extras;
-    }
-    for (qint64 at = 0; at + 8 <= file.size();) {
-        const Box box = boxAt(file, at);
-        if (box.type == "uuid" || box.type == "xml " || box.type == "uinf") {
-            extras.push_back({at, box.next - at});
+    Jpeg2000Boxes boxes(file);
+    while (const auto box = boxes.next()) {
+        if (box->type == "uuid" || box->type == "xml " || box->type == "uinf") {
+            extras.push_back({box->at, box->next - box->at});
         }
-        at = box.next;
     }
     return extras;
 }

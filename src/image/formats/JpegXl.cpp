@@ -5,6 +5,7 @@
 #include "image/MorePictures.h"
 #include "image/PictureDamage.h"
 #include "image/Raster.h"
+#include "image/description/DescriptionBlocks.h"
 #include "image/formats/ChannelRows.h"
 #include "image/formats/JpegXlDecoder.h"
 #include "image/formats/JpegXlFile.h"
@@ -185,6 +186,15 @@ std::vector<FileSlice> metadata(const FileView &file) {
     return jpegFormat().metadata(FileView(originalJpeg(file)));
 }
 
+/// What a JPEG said of itself may stand in what makes the file one again alone.
+void describe(const FileView &file, DescriptionBlocks &blocks) {
+    addJpegXlBlocks(file, blocks);
+    if (!blocks.xmp) {
+        const QByteArray jpeg = originalJpeg(file);
+        addJpegBlocks(FileView(jpeg), blocks);
+    }
+}
+
 /// A file that is a JPEG holds one picture.
 class OneJpeg : public PictureReader {
   public:
@@ -207,13 +217,10 @@ std::unique_ptr<PictureReader> readAll(const FileView &file) {
 } // namespace
 
 ImageFormat jpegXlFormat() {
-    return {ImageKind::JpegXl,
-            {QLatin1StringView("jxl")},
-            isJpegXl,
-            readJpegXlHeader,
-            toPdfImage,
-            metadata,
-            readAll};
+    return {ImageKind::JpegXl, {QLatin1StringView("jxl")},
+            isJpegXl,          readJpegXlHeader,
+            toPdfImage,        metadata,
+            readAll,           describe};
 }
 
 } // namespace folioforge

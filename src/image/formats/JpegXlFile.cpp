@@ -3,35 +3,42 @@
 #include "image/formats/JpegXlFile.h"
 
 #include "image/Exif.h"
+#include "image/description/DescriptionBlocks.h"
 #include "image/formats/JpegXlDecoder.h"
 
 #include <algorithm>
-#include <utility>
+#include <functional>
+#include <initializer_list>
 
 namespace folioforge {
 
 namespace {
 
-/// What a box with an EXIF block holds; empty where the decoder is at another.
-QByteArray beginExif(JxlDecoder *decoder) {
-    constexpr qsizetype kEnough = 1 << 16; // More than an EXIF block of a JPEG can have.
+/// Hands over the type of each box and no more than `limit` bytes of what it holds, of those whose
+/// type is one of `types`.
+void forEachBox(const FileView &file, std::initializer_list<QByteArrayView> types, qsizetype limit,
+                const std::function<void(QByteArrayView, QByteArrayView)> &visit) {
+    JpegXlDecoder decoder(file, JXL_DEC_BOX);
     JxlBoxType type{};
-    if (JxlDecoderGetBoxType(decoder, type, JXL_TRUE) != JXL_DEC_SUCCESS ||
-        QByteArrayView(type, sizeof type) != "Exif") {
-        return {};
-    }
-    QByteArray block(kEnough, '\0');
-    JxlDecoderSetBoxBuffer(decoder, reinterpret_cast<uint8_t *>(block.data()),
-                           static_cast<size_t>(block.size()));
-    return block;
-}
-
-void readDensity(QByteArrayView box, ImageHeader &header) {
-    if (!box.isEmpty()) {
-        const ExifMetadata exif = readExifItem(box);
-        header.horizontalDpi = exif.horizontalDpi;
-        header.verticalDpi = exif.verticalDpi;
-    }
+    const QByteArrayView name(type, sizeof type);
+    QByteArray content;
+    JxlDecoderStatus status = JXL_DEC_ERROR;
+    do {
+        status = decoder.step();
+        if (!content.isEmpty()) {
+            content.chop(static_cast<qsizetype>(JxlDecoderReleaseBoxBuffer(decoder.get())));
+            visit(name, content);
+            content.clear();
+        }
+        if (status == JXL_DEC_BOX &&
+            JxlDecoderGetBoxType(decoder.get(), type, JXL_TRUE) == JXL_DEC_SUCCESS &&
+            std::ranges::find(types, name) != types.end()) {
+            content = QByteArray(limit, '\0');
+            JxlDecoderSetBoxBuffer(decoder.get(), reinterpret_cast<uint8_t *>(content.data()),
+                                   static_cast<size_t>(limit));
+        }
+        // The rest of a long box is passed over.
+    } while (status == JXL_DEC_BOX || status == JXL_DEC_BOX_NEED_MORE_OUTPUT);
 }
 
 void requireReadable(const FileView &file) {
@@ -45,34 +52,29 @@ void requireReadable(const FileView &file) {
 } // namespace
 
 ImageHeader readJpegXlHeader(const FileView &file) {
-    JpegXlDecoder decoder(file, JXL_DEC_BASIC_INFO | JXL_DEC_BOX);
-    ImageHeader header;
-    QByteArray exif;
-    const auto endBox = [&] {
-        exif.chop(static_cast<qsizetype>(JxlDecoderReleaseBoxBuffer(decoder.get())));
-        readDensity(std::exchange(exif, {}), header);
-    };
-    const auto goesOn = [](JxlDecoderStatus status) {
-        return status == JXL_DEC_BASIC_INFO || status == JXL_DEC_BOX ||
-               status == JXL_DEC_BOX_NEED_MORE_OUTPUT; // The rest of a long box is passed over.
-    };
-    JxlDecoderStatus status = decoder.step();
-    for (; goesOn(status); status = decoder.step()) {
-        if (status == JXL_DEC_BASIC_INFO) {
-            header.width = headerOf(decoder.basicInfo()).width;
-            header.height = headerOf(decoder.basicInfo()).height;
-        } else {
-            endBox();
-        }
-        if (status == JXL_DEC_BOX) {
-            exif = beginExif(decoder.get());
-        }
-    }
-    endBox();
-    if (header.width == 0 && (status == JXL_DEC_ERROR || status == JXL_DEC_NEED_MORE_INPUT)) {
+    constexpr qsizetype kEnough = 1 << 16; // More than an EXIF block of a JPEG can have.
+    JpegXlDecoder decoder(file, JXL_DEC_BASIC_INFO);
+    if (decoder.step() != JXL_DEC_BASIC_INFO) {
         throw damagedJpegXl();
     }
+    ImageHeader header = headerOf(decoder.basicInfo());
+    forEachBox(file, {"Exif"}, kEnough, [&](QByteArrayView, QByteArrayView box) {
+        const ExifMetadata exif = readExif(exifBlockOf(box));
+        header.horizontalDpi = exif.horizontalDpi;
+        header.verticalDpi = exif.verticalDpi;
+    });
     return checkedHeader(header);
+}
+
+void addJpegXlBlocks(const FileView &file, DescriptionBlocks &blocks) {
+    forEachBox(file, {"Exif", "xml "}, kMaxDescriptionBytes,
+               [&](QByteArrayView type, QByteArrayView box) {
+                   if (type == "Exif") {
+                       takeFirst(blocks.exif, [&] { return descriptionInExif(exifBlockOf(box)); });
+                   } else {
+                       takeFirst(blocks.xmp, [&] { return box.toByteArray(); });
+                   }
+               });
 }
 
 qint64 countJpegXlFrames(const FileView &file) {

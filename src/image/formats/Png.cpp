@@ -11,6 +11,7 @@
 #include "image/PictureDamage.h"
 #include "image/Raster.h"
 #include "image/RowFilter.h"
+#include "image/description/DescriptionBlocks.h"
 #include "image/formats/Interlaced.h"
 #include "image/formats/PngMetadata.h"
 
@@ -231,7 +232,10 @@ PdfImage toPdfImage(const FileView &file) {
 } // namespace
 
 ImageFormat pngFormat() {
-    return {ImageKind::Png, {QLatin1StringView("png")}, recognises, readHeader, toPdfImage};
+    return {ImageKind::Png, {QLatin1StringView("png")},
+            recognises,     readHeader,
+            toPdfImage,     nullptr,
+            nullptr,        addPngBlocks};
 }
 
 } // namespace folioforge

@@ -6,6 +6,7 @@
 #include "image/Bytes.h"
 #include "image/Deflate.h"
 #include "image/Exif.h"
+#include "image/formats/Chunks.h"
 #include "image/formats/Formats.h"
 
 #include <libdeflate.h>
@@ -88,43 +89,32 @@ bool isMetadata(QByteArrayView type) {
     return false;
 }
 
-constexpr qint64 kLead = 8; ///< Length and type of a chunk.
-constexpr qint64 kChecksum = 4;
-
-/// Whether the chunk at byte `at` is there and as its checksum says.
-bool isIntact(const FileView &file, qint64 at, qint64 length) {
-    const QByteArray all = file.read(at + 4, 4 + length + kChecksum);
-    return all.size() == 4 + length + kChecksum &&
-           libdeflate_crc32(0, all.constData(), static_cast<size_t>(4 + length)) ==
-               bigEndianAt<quint32>(all, 4 + length);
+/// Whether the chunk is there and as its checksum says.
+bool isIntact(const FileView &file, const Chunk &chunk) {
+    constexpr qint64 kType = 4;
+    constexpr qint64 kChecksum = 4;
+    const QByteArray all = file.read(chunk.at - kType, kType + chunk.length + kChecksum);
+    return all.size() == kType + chunk.length + kChecksum &&
+           libdeflate_crc32(0, all.constData(), static_cast<size_t>(kType + chunk.length)) ==
+               bigEndianAt<quint32>(all, kType + chunk.length);
 }
 
-/// Reads the chunk at byte `at` and returns the place of the next.
-qint64 readChunkAt(const FileView &file, qint64 at, PngReading reading, PngMetadata &metadata) {
-    const QByteArray lead = file.read(at, kLead);
-    if (lead.size() < kLead) {
-        metadata.isWhole = false;
-        metadata.ended = true;
-        return at;
-    }
-    const qint64 length = bigEndianAt<quint32>(lead, 0);
-    const qint64 there = std::min(length, file.size() - at - kLead);
-    const QByteArray type = lead.sliced(4);
-    if (reading == PngReading::Pixels && !isIntact(file, at, length)) {
+void takeChunk(const FileView &file, const Chunk &chunk, PngReading reading,
+               PngMetadata &metadata) {
+    if (reading == PngReading::Pixels && !isIntact(file, chunk)) {
         // A chunk of an unknown type may be one of rows whose type is damaged.
-        if (isMetadata(type)) {
+        if (isMetadata(chunk.type)) {
             metadata.isFaulty = true;
         } else {
             metadata.isWhole = false;
         }
     }
-    if (type == "IDAT") {
-        metadata.data.push_back({at + kLead, there});
-    } else if (isMetadata(type) && there == length) {
-        readChunk(type, file.readExactly(at + kLead, length), metadata);
+    const qint64 there = std::min(chunk.length, file.size() - chunk.at);
+    if (chunk.type == "IDAT") {
+        metadata.data.push_back({chunk.at, there});
+    } else if (isMetadata(chunk.type) && there == chunk.length) {
+        readChunk(chunk.type, file.readExactly(chunk.at, chunk.length), metadata);
     }
-    metadata.ended = type == "IEND";
-    return at + kLead + length + kChecksum;
 }
 
 } // namespace
@@ -132,9 +122,13 @@ qint64 readChunkAt(const FileView &file, qint64 at, PngReading reading, PngMetad
 PngMetadata readPngMetadata(const FileView &file, PngReading reading) {
     PngMetadata metadata;
     // Some writers put the orientation behind the rows, so all chunks are read.
-    for (qint64 at = kSignatureBytes; !metadata.ended;) {
-        at = readChunkAt(file, at, reading, metadata);
+    bool ended = false;
+    PngChunks chunks(file);
+    while (const auto chunk = chunks.next()) {
+        takeChunk(file, *chunk, reading, metadata);
+        ended = chunk->type == "IEND";
     }
+    metadata.isWhole = metadata.isWhole && ended;
     if (metadata.bits == 0 || metadata.data.empty()) {
         throw Error(Reasons::tr("The PNG file holds no picture"));
     }

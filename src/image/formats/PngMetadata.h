@@ -26,7 +26,6 @@ struct PngMetadata {
     QByteArray transparency; ///< The tRNS chunk.
     QByteArray iccProfile;
     std::vector<FileSlice> data; ///< The IDAT chunks, from the start of the view.
-    bool ended = false;          ///< The chunks were read up to IEND.
     bool isWhole = true;         ///< No chunk of rows is damaged or missing.
     bool isFaulty = false;       ///< A chunk that says what the rows mean is damaged.
     qint64 frames = 0;           ///< Of an animation beside the picture.

@@ -6,6 +6,7 @@
 #include "image/Bytes.h"
 #include "image/PictureDamage.h"
 #include "image/Raster.h"
+#include "image/description/DescriptionBlocks.h"
 #include "image/formats/LinearLight.h"
 #include "image/formats/PsdMetadata.h"
 
@@ -292,7 +293,10 @@ PdfImage toPdfImage(const FileView &file) {
 } // namespace
 
 ImageFormat psdFormat() {
-    return {ImageKind::Psd, {QLatin1StringView("psd")}, recognises, readHeader, toPdfImage};
+    return {ImageKind::Psd, {QLatin1StringView("psd")},
+            recognises,     readHeader,
+            toPdfImage,     nullptr,
+            nullptr,        addPsdBlocks};
 }
 
 } // namespace folioforge

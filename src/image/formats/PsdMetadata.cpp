@@ -5,6 +5,7 @@
 #include "error/Reasons.h"
 #include "image/Bytes.h"
 #include "image/Raster.h"
+#include "image/formats/PhotoshopResources.h"
 
 namespace folioforge {
 
@@ -91,23 +92,15 @@ void readResource(quint16 id, QByteArrayView data, PsdMetadata &metadata, bool &
 /// Whether the resources name channels of their own, which then are no opacity.
 bool readResources(QByteArrayView resources, PsdMetadata &metadata) {
     bool namesChannels = false;
-    const auto even = [](qsizetype length) { return length + length % 2; };
-    constexpr qsizetype kMinBytes = 12;
-    for (qsizetype at = 0; at + kMinBytes <= resources.size();) {
-        const auto id = bigEndianAt<quint16>(resources, at + 4);
-        at += 6 + even(1 + bigEndianAt<uchar>(resources, at + 6));
-        if (at + 4 > resources.size()) {
-            break;
-        }
-        const qsizetype length = bigEndianAt<quint32>(resources, at);
-        at += 4;
-        if (length > resources.size() - at) {
-            break;
-        }
-        readResource(id, resources.sliced(at, length), metadata, namesChannels);
-        at += even(length);
-    }
+    forEachPhotoshopResource(resources, [&](quint16 id, QByteArrayView data) {
+        readResource(id, data, metadata, namesChannels);
+    });
     return namesChannels;
+}
+
+/// The section whose length stands at byte `at`.
+FileView sectionAt(const FileView &file, qint64 at) {
+    return file.part(at + 4, bigEndianAt<quint32>(file.readExactly(at, 4), 0));
 }
 
 /// Opacity is the first channel after the colours where the number of layers is negative, or where
@@ -130,19 +123,20 @@ PsdAlpha alphaOf(const FileView &file, qint64 layers, qint64 layersLength,
 
 } // namespace
 
+QByteArray readPsdResources(const FileView &file) {
+    const FileView colors = sectionAt(file, kHeaderBytes);
+    const FileView resources = sectionAt(file, kHeaderBytes + 4 + colors.size());
+    return resources.read(0, resources.size());
+}
+
 PsdMetadata readPsdMetadata(const FileView &file) {
     PsdMetadata metadata;
     readFileHeader(file.readExactly(0, kHeaderBytes), metadata);
-    qint64 at = kHeaderBytes;
-    const auto nextSection = [&] {
-        const QByteArray length = file.readExactly(at, 4);
-        at += 4;
-        const FileView section = file.part(at, bigEndianAt<quint32>(length, 0));
-        at += section.size();
-        return section.read(0, section.size());
-    };
-    metadata.colorModeData = nextSection();
-    const bool namesChannels = readResources(nextSection(), metadata);
+    const FileView colors = sectionAt(file, kHeaderBytes);
+    metadata.colorModeData = colors.read(0, colors.size());
+    const QByteArray resources = readPsdResources(file);
+    const bool namesChannels = readResources(resources, metadata);
+    qint64 at = kHeaderBytes + 4 + colors.size() + 4 + resources.size();
     const QByteArray length = file.readExactly(at, metadata.isBig ? 8 : 4);
     at += length.size();
     const qint64 layersLength = metadata.isBig

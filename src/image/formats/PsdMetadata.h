@@ -35,6 +35,9 @@ struct PsdMetadata {
     [[nodiscard]] int sampleBits() const { return depth == 32 ? 16 : depth; }
 };
 
+/// The resources that stand before the pixels. Throws Error when the file ends before them.
+QByteArray readPsdResources(const FileView &file);
+
 /// Reads everything before the pixels. Throws Error when the file is damaged or of a colour mode
 /// that has no picture.
 PsdMetadata readPsdMetadata(const FileView &file);

@@ -5,6 +5,7 @@
 #include "error/Reasons.h"
 #include "image/MorePictures.h"
 #include "image/PictureDamage.h"
+#include "image/description/DescriptionBlocks.h"
 #include "image/formats/Tiff.h"
 
 #include <utility>
@@ -116,7 +117,7 @@ ImageFormat tiffFormat() {
     return {ImageKind::Tiff, {QLatin1StringView("tif"), QLatin1StringView("tiff")},
             recognises,      readHeader,
             toPdfImage,      nullptr,
-            readAll};
+            readAll,         addTiffBlocks};
 }
 
 } // namespace folioforge

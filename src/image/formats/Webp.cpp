@@ -7,7 +7,9 @@
 #include "image/Exif.h"
 #include "image/MorePictures.h"
 #include "image/PictureDamage.h"
+#include "image/description/DescriptionBlocks.h"
 #include "image/formats/ArgbImage.h"
+#include "image/formats/Chunks.h"
 #include "image/formats/Signatures.h"
 
 #include <webp/decode.h>
@@ -54,35 +56,27 @@ int canvasSide(QByteArrayView bytes, qsizetype at) {
 }
 
 void readExifChunk(QByteArrayView block, ImageHeader &header) {
-    constexpr QByteArrayView kLead("Exif\0\0", 6); // Some writers take it along from JPEG.
-    const ExifMetadata exif =
-        readExif(block.startsWith(kLead) ? block.sliced(kLead.size()) : block);
+    const ExifMetadata exif = readExif(block);
     header.orientation = exif.orientation;
     header.horizontalDpi = exif.horizontalDpi;
     header.verticalDpi = exif.verticalDpi;
 }
 
-constexpr qint64 kFirstChunk = 12; ///< Behind "RIFF", the file's length and "WEBP".
-
 /// Reads what stands beside the picture of an extended file.
 void readFurtherChunks(const FileView &file, WebpMetadata &metadata) {
-    constexpr qint64 kLead = 8; // Name and length of a chunk.
     constexpr qint64 kMaxBytes = 1 << 25;
-    constexpr int kMaxChunks = 100'000;
-    qint64 at = kFirstChunk;
-    for (int chunk = 0; chunk < kMaxChunks && at + kLead <= file.size(); ++chunk) {
-        const QByteArray lead = file.readExactly(at, kLead);
-        const qint64 length = littleEndianAt<quint32>(lead, 4);
-        if (length <= kMaxBytes && lead.startsWith("ICCP")) {
-            metadata.iccProfile = file.read(at + kLead, length);
-        } else if (length <= kMaxBytes && lead.startsWith("EXIF")) {
-            readExifChunk(file.read(at + kLead, length), metadata.header);
+    WebpChunks chunks(file);
+    while (const auto chunk = chunks.next()) {
+        if (chunk->length <= kMaxBytes && chunk->type == "ICCP") {
+            metadata.iccProfile = file.read(chunk->at, chunk->length);
+        } else if (chunk->length <= kMaxBytes && chunk->type == "EXIF") {
+            readExifChunk(file.read(chunk->at, chunk->length), metadata.header);
         }
-        at += kLead + length + length % 2;
     }
 }
 
 WebpMetadata readMetadata(const FileView &file) {
+    constexpr qsizetype kFirstChunk = 12;
     constexpr uchar kAnimation = 0x02;
     const QByteArray head = file.read(0, kSniffedBytes);
     if (!isWebp(head)) {
@@ -251,8 +245,10 @@ std::unique_ptr<PictureReader> readAll(const FileView &file) {
 } // namespace
 
 ImageFormat webpFormat() {
-    return {ImageKind::Webp, {QLatin1StringView("webp")}, isWebp, readHeader, toPdfImage, nullptr,
-            readAll};
+    return {ImageKind::Webp, {QLatin1StringView("webp")},
+            isWebp,          readHeader,
+            toPdfImage,      nullptr,
+            readAll,         addWebpBlocks};
 }
 
 } // namespace folioforge
