@@ -112,7 +112,6 @@ void MainWndCtrl::fitLargeTexts() {
     if (textScale() > 1) { // The settings of texts have the most rows.
         constexpr int kCloseRows = 3;
         propertiesLayout->setVerticalSpacing(kCloseRows);
-        optionsPanel->layout()->setSpacing(2 * kCloseRows);
         textPageLayout->setSpacing(kCloseRows);
         textNumbersLayout->setVerticalSpacing(kCloseRows);
     }
