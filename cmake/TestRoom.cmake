@@ -54,11 +54,9 @@ endfunction()
 # those of folioforge_test_support. CLASS is that of the application object, else QCoreApplication. The units
 # that take longest are named LONG: CTest begins with them.
 #
-# Units of the engine's rooms have the label "engine": a plain build shows no more of them than a sanitized one.
-# Those that do less in a sanitized one are named PLAIN and have no label.
+# Units that show more without sanitizers, such as what limits memory, are named PLAIN and have that label.
 function(folioforge_tests room)
     cmake_parse_arguments(TESTS "" "APPLICATION" "UNITS;LONG;PLAIN;SOURCES;LINKS;HEADERS" ${ARGN})
-    set(engine files strings text image pdf compress filelist convert)
     if(NOT TESTS_APPLICATION)
         set(TESTS_APPLICATION QCoreApplication)
     endif()
@@ -85,8 +83,8 @@ function(folioforge_tests room)
         set_tests_properties(${room}.${unit} PROPERTIES
             TIMEOUT 300
             ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=")
-        if(room IN_LIST engine AND NOT unit IN_LIST TESTS_PLAIN)
-            set_tests_properties(${room}.${unit} PROPERTIES LABELS engine)
+        if(unit IN_LIST TESTS_PLAIN)
+            set_tests_properties(${room}.${unit} PROPERTIES LABELS plain)
         endif()
     endforeach()
     foreach(unit IN LISTS TESTS_LONG)
