@@ -4,6 +4,7 @@
 
 #include "error/Error.h"
 #include "pdf/BoundedBuffer.h"
+#include "pdf/ColorSpaces.h"
 
 #include <algorithm>
 #include <string_view>
@@ -54,33 +55,6 @@ PlanarImage planesOf(const std::string &pixels, int components) {
 }
 
 } // namespace
-
-int plainComponents(QPDFObjectHandle space) {
-    QPDFObjectHandle family = space;
-    if (space.isArray() && space.getArrayNItems() > 0) {
-        family = space.getArrayItem(0);
-    }
-    if (!family.isName()) {
-        return 0;
-    }
-    const std::string name = family.getName();
-    if (name == "/DeviceGray" || name == "/CalGray") {
-        return 1;
-    }
-    if (name == "/DeviceRGB" || name == "/CalRGB") {
-        return 3;
-    }
-    if (name == "/DeviceCMYK") {
-        return 4;
-    }
-    if (name == "/ICCBased" && space.isArray() && space.getArrayNItems() > 1 &&
-        space.getArrayItem(1).isStream()) {
-        QPDFObjectHandle count = space.getArrayItem(1).getDict().getKey("/N");
-        const int components = count.isInteger() ? count.getIntValueAsInt() : 0;
-        return components == 1 || components == 3 || components == 4 ? components : 0;
-    }
-    return 0;
-}
 
 bool isIndexed(QPDFObjectHandle space) {
     return space.isArray() && space.getArrayNItems() == 4 &&

@@ -10,9 +10,6 @@
 
 namespace folioforge {
 
-/// Components of a colour space whose samples may be averaged; 0 for others.
-int plainComponents(QPDFObjectHandle space);
-
 /// Whether the samples of a colour space are places in a table of colours.
 bool isIndexed(QPDFObjectHandle space);
 

@@ -3,6 +3,7 @@
 #include "compress/ImagePlan.h"
 
 #include "compress/ImageColors.h"
+#include "pdf/ColorSpaces.h"
 
 #include <algorithm>
 #include <array>

@@ -142,10 +142,15 @@ class ContextSink : public TextPageSink {
     const std::stop_token &m_stop;
 };
 
-/// The font of text pages. Neither archives nor PDF/UA allow the missing-glyph box.
+/// Whether all glyphs have to stand for characters: archives and PDF/UA ask for that.
+bool needsCharacters(const ConversionOptions &options) {
+    return options.archive || options.accessible;
+}
+
+/// The font of text pages. The missing-glyph box stands for no character.
 std::shared_ptr<const FontCascade> fontOf(const ConversionOptions &options) {
     const auto font = options.textFont ? options.textFont : textFont();
-    return options.archive || options.accessible ? font->withoutBoxes() : font;
+    return needsCharacters(options) ? font->withoutBoxes() : font;
 }
 
 /// What is said of the pictures of a file, by turns.
@@ -175,24 +180,6 @@ class Descriptions {
     bool m_isName = false;
     int m_count = 0;
 };
-
-/// The picture with that number from 0 of a file.
-PdfImage pictureAt(const QString &path, SystemCalls &calls, SourceMetadata metadata,
-                   std::size_t index) {
-    if (index == 0) {
-        return toPdfImage(path, calls, metadata);
-    }
-    std::optional<PdfImage> found;
-    forEachPicture(path, calls, metadata, [&](PdfImage image) {
-        if (index-- == 0) {
-            found = std::move(image);
-        }
-    });
-    if (!found) {
-        throw Error(Reasons::tr("The file has changed"));
-    }
-    return std::move(*found);
-}
 
 void drawOnPage(PdfImage image, const QString &description, PDFContext &context,
                 const ConversionOptions &options, EntryRecord *record) {
@@ -234,7 +221,7 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
         }
         record->text.page = pageSize;
         record->text.fontSize = font->size();
-        sink.recordTo(recorder.emplace(*font, record->text.pages));
+        sink.recordTo(recorder.emplace(*font, record->text.pages, needsCharacters(options)));
     }
     Warnings warnings = std::move(source.warnings);
     const PageMargins &margins = options.textPage.margins;
@@ -261,7 +248,7 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
     ContextSink sink(context, font, page, options.tagged, 0, stop);
     sink.drawArtifacts();
     std::vector<TextTrace> traces;
-    TextRecorder recorder(*font, traces);
+    TextRecorder recorder(*font, traces, needsCharacters(options));
     sink.recordTo(recorder);
     MarginText texts(*font);
     for (int i = first; i < first + pages && !stop.stop_requested(); ++i) {
@@ -292,9 +279,13 @@ WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
         drawOnPage(std::move(image), descriptions.next(), context, options, record);
     };
     if (record != nullptr && !options.verifyOnly.isEmpty()) {
-        record->pictureAgain = [path = entry.filePathName(), &calls = options.calls.get(), metadata,
-                                all = options.allPictures](std::size_t index) {
-            return pictureAt(path, calls, metadata, all ? index : 0);
+        record->picturesAgain = [path = entry.filePathName(), &calls = options.calls.get(),
+                                 metadata, all = options.allPictures](const auto &take) {
+            if (all) {
+                forEachPicture(path, calls, metadata, take);
+            } else {
+                take(toPdfImage(path, calls, metadata));
+            }
         };
     }
     if (options.allPictures) {

@@ -2,6 +2,8 @@
 
 #include "convert/TextRecorder.h"
 
+#include "pdf/fonts/CharacterMap.h"
+
 #include <utility>
 
 namespace folioforge {
@@ -20,16 +22,17 @@ void TextRecorder::show(double x, double y, std::span<const Glyph> glyphs) {
 void TextRecorder::record(const Glyph &glyph) {
     constexpr char32_t kFirstSurrogate = 0xD800;
     m_tracer.addAdvance(glyph.advance);
-    if (glyph.id == 0) {
+    if (glyph.id == 0 || m_font.isMissing(glyph)) {
         m_tracer.addMissing();
     }
     if (m_isReadOtherwise) {
         return;
     }
-    if (glyph.character < kFirstSurrogate) {
+    if (glyph.character > 0 && glyph.character < kFirstSurrogate) {
         m_tracer.addUnit(static_cast<char16_t>(glyph.character));
     } else {
-        m_tracer.addText(m_font.textOf(glyph));
+        const QString text = m_font.textOf(glyph);
+        m_tracer.addText(m_isWhole ? wholeText(text) : text);
     }
 }
 

@@ -16,10 +16,11 @@ namespace folioforge {
 /// Records what pages of text show while they are drawn.
 class TextRecorder {
   public:
-    /// Both must outlive it.
-    TextRecorder(const FontCascade &font, std::vector<TextTrace> &pages)
+    /// Both must outlive it. With `isWhole` all glyphs are read as characters that archives allow.
+    TextRecorder(const FontCascade &font, std::vector<TextTrace> &pages, bool isWhole)
         : m_font(font)
-        , m_pages(pages) {}
+        , m_pages(pages)
+        , m_isWhole(isWhole) {}
 
     /// Glyphs are shown from the baseline point on.
     void show(double x, double y, std::span<const Glyph> glyphs);
@@ -34,6 +35,7 @@ class TextRecorder {
 
     const FontCascade &m_font;
     std::vector<TextTrace> &m_pages;
+    bool m_isWhole;
     TextTracer m_tracer;
     QString m_reading; ///< What the rows are read as, until the first of them.
     bool m_isReadOtherwise = false;

@@ -11,17 +11,7 @@
 namespace folioforge {
 namespace {
 
-/// One of both documents.
-class OpenedDocument : public DocumentVerifier {
-  public:
-    using DocumentVerifier::compared;
-    using DocumentVerifier::DocumentVerifier;
-    using DocumentVerifier::requireAppearances;
-    using DocumentVerifier::requireGoingOn;
-    using DocumentVerifier::requireUndamaged;
-};
-
-QString comparePages(OpenedDocument &original, OpenedDocument &copy) {
+QString comparePages(DocumentVerifier &original, DocumentVerifier &copy, bool mayBeGrey) {
     const std::size_t count = original.compared().pages().size();
     if (copy.compared().pages().size() != count) {
         return Reasons::tr("The PDF has %1 pages instead of %2")
@@ -29,7 +19,8 @@ QString comparePages(OpenedDocument &original, OpenedDocument &copy) {
     }
     copy.requireAppearances(original.compared());
     PageComparison comparison(original.compared(), copy.compared(), 0, {},
-                              PageComparison::Pictures::Alike);
+                              mayBeGrey ? PageComparison::Pictures::AlikeOrGrey
+                                        : PageComparison::Pictures::Alike);
     for (std::size_t i = 0; i < count; ++i) {
         original.requireGoingOn();
         if (const QString fault = comparison.fault(i); !fault.isEmpty()) {
@@ -46,9 +37,9 @@ QString comparePages(OpenedDocument &original, OpenedDocument &copy) {
 QString copyFault(const WrittenDocument &original, const WrittenDocument &copy,
                   const VerifyOptions &options) {
     return translateQpdfErrors([&] {
-        OpenedDocument opened(original, options);
-        OpenedDocument openedCopy(copy, options);
-        return comparePages(opened, openedCopy);
+        DocumentVerifier opened(original, options);
+        DocumentVerifier openedCopy(copy, options);
+        return comparePages(opened, openedCopy, options.mayBeGrey);
     });
 }
 

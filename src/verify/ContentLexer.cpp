@@ -2,6 +2,8 @@
 
 #include "verify/ContentLexer.h"
 
+#include <QStringDecoder>
+
 #include <algorithm>
 #include <array>
 
@@ -236,6 +238,11 @@ void ContentLexer::passInlineImage() {
             return;
         }
     }
+}
+
+QString fromUtf16(std::string_view bytes) {
+    QStringDecoder decoder(QStringConverter::Utf16BE, QStringConverter::Flag::ConvertInitialBom);
+    return decoder(QByteArrayView(bytes.data(), std::ssize(bytes)));
 }
 
 } // namespace folioforge

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <QString>
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -51,5 +53,9 @@ class ContentLexer {
     std::string_view m_content;
     std::size_t m_at = 0;
 };
+
+/// Text of a font or a content in UTF-16, its high bytes first; a mark of joining within counts,
+/// also as the first.
+QString fromUtf16(std::string_view bytes);
 
 } // namespace folioforge

@@ -51,6 +51,7 @@ void DocumentVerifier::requireWholeTables() {
 void DocumentVerifier::open(const WrittenDocument &written, const QByteArray &password) {
     m_document = std::make_unique<QPDF>();
     m_document->setSuppressWarnings(true);
+    m_document->setAttemptRecovery(false); // What has to be searched for is damaged.
     m_document->processInputSource(
         std::make_shared<WrittenInput>(written.name, written.size, written.readBytes),
         password.isEmpty() ? nullptr : password.constData());

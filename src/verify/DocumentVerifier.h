@@ -22,7 +22,6 @@ class DocumentVerifier {
     /// Both must outlive it.
     DocumentVerifier(const WrittenDocument &written, const VerifyOptions &options);
 
-  protected:
     [[nodiscard]] const VerifyOptions &options() const { return m_options; }
     [[nodiscard]] const std::vector<SourcePage> &pages() const { return m_pages->pages(); }
     [[nodiscard]] ComparedDocument &compared() { return *m_pages; }

@@ -5,14 +5,10 @@
 #include "error/Error.h"
 #include "pdf/import/Entries.h"
 #include "verify/ContentLexer.h"
-#include "verify/StreamSums.h"
+#include "verify/FontStreams.h"
 #include "verify/TextTrace.h"
-#include "verify/Unpacking.h"
-
-#include <QStringDecoder>
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 using namespace Qt::StringLiterals;
@@ -22,14 +18,6 @@ namespace {
 
 using Kind = ContentToken::Kind;
 
-std::string mapOf(const QPDFObjectHandle &stream) {
-    constexpr std::size_t kMaxLength = 64 << 20;
-    if (auto text = unpacked(stream, kMaxLength)) {
-        return std::move(*text);
-    }
-    throw Error(Reasons::tr("a font is damaged"));
-}
-
 std::uint32_t numberOf(std::string_view bytes) {
     std::uint32_t number = 0;
     for (const char byte : bytes) {
@@ -38,9 +26,10 @@ std::uint32_t numberOf(std::string_view bytes) {
     return number;
 }
 
+/// The text of a code in UTF-16.
 QString textOf(std::string_view utf16) {
-    static constexpr auto kBigEndian = QStringConverter::Utf16BE;
-    return QStringDecoder(kBigEndian)(QByteArrayView(utf16.data(), std::ssize(utf16)));
+    constexpr std::size_t kMaxBytes = 128; // No ligature has so many.
+    return fromUtf16(utf16.substr(0, kMaxBytes));
 }
 
 /// Calls `take` with the strings of each entry of a section such as "beginbfchar": `count` of them.
@@ -84,60 +73,6 @@ QString textOfName(const std::string &name) {
                               : QString(QChar::ReplacementCharacter);
 }
 
-/// The bytes of a stream without its filters. Throws Error where they are damaged.
-qint64 wholeBytes(const QPDFObjectHandle &stream) {
-    if (const auto sum = sumOf(stream, Unpacking::Samples)) {
-        return sum->bytes;
-    }
-    throw Error(Reasons::tr("a font is damaged"));
-}
-
-/// Throws Error where what draws the glyphs of a simple font or of a descendant is damaged.
-void requireWholeProgram(const QPDFObjectHandle &font) {
-    const auto descriptor = entry(font, "/FontDescriptor");
-    for (const char *key : {"/FontFile", "/FontFile2", "/FontFile3"}) {
-        QPDFObjectHandle program = entry(descriptor, key);
-        if (!program.isStream()) {
-            continue;
-        }
-        const qint64 bytes = wholeBytes(program);
-        const bool isTrueType = key == std::string_view("/FontFile2");
-        QPDFObjectHandle stated = program.getDict().getKey("/Length1");
-        QPDFObjectHandle kind = program.getDict().getKey("/Subtype");
-        const bool hasKind = kind.isNameAndEquals("/CIDFontType0C") ||
-                             kind.isNameAndEquals("/Type1C") || kind.isNameAndEquals("/OpenType");
-        if ((isTrueType && stated.isInteger() && stated.getIntValue() != bytes) ||
-            (key == std::string_view("/FontFile3") && !hasKind)) {
-            throw Error(Reasons::tr("a font is damaged"));
-        }
-    }
-    if (const auto map = entry(font, "/CIDToGIDMap"); QPDFObjectHandle(map).isStream()) {
-        wholeBytes(map);
-    }
-}
-
-bool isDeflatedAlone(QPDFObjectHandle stream) {
-    static constexpr std::array<std::string_view, 7> kKeys{
-        "/Filter", "/Length", "/Length1", "/Subtype", "/CMapName", "/Type", "/CIDSystemInfo"};
-    const auto keys = stream.getDict().getKeys();
-    return stream.getDict().getKey("/Filter").isNameAndEquals("/FlateDecode") &&
-           std::ranges::all_of(keys, [](const std::string &key) {
-               return std::ranges::find(kKeys, key) != kKeys.end();
-           });
-}
-
-/// Whether all streams of a composite font are.
-bool isDeflated(QPDFObjectHandle font) {
-    const auto descendants = items(entry(font, "/DescendantFonts"));
-    const auto descendant = descendants.empty() ? QPDFObjectHandle::newNull() : descendants.front();
-    const auto descriptor = entry(descendant, "/FontDescriptor");
-    std::vector<QPDFObjectHandle> parts{
-        entry(font, "/Encoding"), entry(font, "/ToUnicode"), entry(descendant, "/CIDToGIDMap"),
-        entry(descriptor, "/FontFile2"), entry(descriptor, "/FontFile3")};
-    return std::ranges::all_of(
-        parts, [](QPDFObjectHandle part) { return !part.isStream() || isDeflatedAlone(part); });
-}
-
 } // namespace
 
 std::shared_ptr<const FontCodes> FontCodes::read(QPDFObjectHandle font) {
@@ -148,17 +83,18 @@ std::shared_ptr<const FontCodes> FontCodes::read(QPDFObjectHandle font) {
         codes->readSimple(font);
     }
     if (const auto map = entry(font, "/ToUnicode"); QPDFObjectHandle(map).isStream()) {
-        codes->readUnicodeMap(mapOf(map));
+        codes->readUnicodeMap(characterMapIn(map));
     }
-    codes->m_isAsEmbedded = isDeflated(font);
+    codes->m_isAsEmbedded = hasPlainStreams(font);
     codes->indexFirstBytes();
     return codes;
 }
 
 void FontCodes::readComposite(QPDFObjectHandle font) {
+    m_units.resize(kCodes);
     auto encoding = entry(font, "/Encoding");
     if (encoding.isStream()) {
-        readEncodingMap(mapOf(encoding));
+        readEncodingMap(characterMapIn(encoding));
     } else {
         m_codeSpace.push_back({2, 0, 0xFFFF, 0});
     }
@@ -246,10 +182,11 @@ void FontCodes::readUnicodeMap(const std::string &map) {
                 const std::uint32_t first = numberOf(entry[0].text);
                 const std::uint32_t last =
                     std::min<std::uint32_t>(numberOf(entry[1].text), kCodes - 1);
+                const QString text = textOf(entry[2].text);
                 for (std::uint32_t code = first; code <= last; ++code) {
                     const std::uint32_t step = code - first;
                     if (entry[2].kind == Kind::String) {
-                        setText(code, nextText(textOf(entry[2].text), step));
+                        setText(code, nextText(text, step));
                     } else if (step + 3 < entry.size()) {
                         setText(code, textOf(entry[step + 3].text));
                     }
@@ -268,15 +205,15 @@ void FontCodes::requireModest() {
 }
 
 void FontCodes::setText(std::uint32_t code, const QString &text) {
-    constexpr qsizetype kMaxLength = 64; // Of a code; no ligature has so many.
     requireModest();
-    if (code < kCodes && text.size() == 1 && text[0] != u'\0') {
+    const bool hasUnit = code < m_units.size();
+    if (hasUnit && text.size() == 1 && text[0] != u'\0') {
         m_units[code] = text[0].unicode();
     } else {
-        if (code < kCodes) {
+        if (hasUnit) {
             m_units[code] = 0;
         }
-        m_texts.insert(code, text.left(kMaxLength));
+        m_texts.insert(code, text);
     }
 }
 
@@ -374,7 +311,7 @@ void FontCodes::show(std::string_view codes, double size, bool isRead, TextTrace
         if (!isRead) {
             continue;
         }
-        if (code.value < kCodes && m_units[code.value] != 0) {
+        if (code.value < m_units.size() && m_units[code.value] != 0) {
             tracer.addUnit(m_units[code.value]);
         } else {
             tracer.addText(m_texts.value(code.value));

@@ -66,7 +66,7 @@ class FontCodes {
     std::map<std::pair<unsigned, std::uint32_t>, Range> m_cids; ///< By length and last code.
     bool m_isAsEmbedded = false;
     int m_steps = 0; ///< How much of its maps has been read.
-    std::vector<char16_t> m_units = std::vector<char16_t>(kCodes); ///< 0 where `m_texts` says it.
+    std::vector<char16_t> m_units = std::vector<char16_t>(256); ///< 0 where `m_texts` says it.
     QHash<std::uint32_t, QString> m_texts;
     std::vector<float> m_widths =
         std::vector<float>(256, -1); ///< By CID, thousandths; below 0 the default.

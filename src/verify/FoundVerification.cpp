@@ -6,12 +6,10 @@
 
 #include "error/Error.h"
 #include "error/Reasons.h"
-#include "pdf/ImageEmbedder.h"
 #include "pdf/QpdfErrors.h"
-#include "pdf/StreamData.h"
 #include "pdf/import/Entries.h"
+#include "verify/FoundPictures.h"
 #include "verify/PictureCheck.h"
-#include "verify/Pixels.h"
 #include "verify/TextMatch.h"
 
 #include <algorithm>
@@ -21,14 +19,6 @@ namespace folioforge {
 namespace {
 
 using Object = QPDFObjectHandle;
-
-/// The pixels of a picture of a file, as a PDF would show them.
-std::optional<Pixels> pixelsOfFile(const PdfImage &image, SystemCalls &calls) {
-    QPDF document;
-    makeEmpty(document);
-    StreamData streams(document, std::make_shared<SourceReader>(calls), calls);
-    return pixelsOf(ImageEmbedder(document, streams).embed(image));
-}
 
 /// Holds pages that others may have made against files.
 class FoundVerifier : private DocumentVerifier {
@@ -68,83 +58,104 @@ class FoundVerifier : private DocumentVerifier {
             } else if (isText(entry)) {
                 verifyText(entry, end, result);
             } else {
-                for (std::size_t i = 0; i < entry.pictures.size(); ++i) {
-                    requireGoingOn();
-                    verifyPicture(entry, i, result);
-                }
+                verifyPictures(entry, result);
             }
         } catch (const Error &error) {
             requireGoingOn();
             result.keep(PageProof::Differs, error.reason());
+            keepRest(entry, end, result);
         }
         return result;
     }
 
-    void verifyPicture(const EntryRecord &entry, std::size_t index, EntryVerification &result) {
-        const PictureRecord &record = entry.pictures[index];
-        const SourcePage &page = nextPage(result);
+    /// What follows cannot be told apart any more but by its number of pages.
+    static void keepRest(const EntryRecord &entry, int end, EntryVerification &result) {
+        while (static_cast<int>(result.pages.size()) < entry.pages &&
+               result.firstPage + static_cast<int>(result.pages.size()) < end) {
+            result.keep(PageProof::Differs);
+        }
+    }
+
+    /// What comes of a page with a picture.
+    struct Finding {
+        PageProof proof = PageProof::Differs;
+        QString fault;
+        Object image = Object::newNull(); ///< Whose pixels are to be looked at.
+    };
+
+    void verifyPictures(const EntryRecord &entry, EntryVerification &result) {
+        const auto first = static_cast<std::size_t>(result.firstPage);
+        const std::size_t there = pages().size() - std::min(first, pages().size());
+        std::vector<Finding> findings(std::min(entry.pictures.size(), there));
+        for (std::size_t i = 0; i < findings.size(); ++i) {
+            requireGoingOn();
+            findings[i] = findingOf(pages()[first + i], entry.pictures[i], result);
+        }
+        comparePixels(entry, findings);
+        for (const Finding &finding : findings) {
+            result.keep(finding.proof, finding.fault);
+        }
+        if (findings.size() < entry.pictures.size()) {
+            static_cast<void>(nextPage(result)); // Throws, since there is none.
+        }
+    }
+
+    Finding findingOf(const SourcePage &page, const PictureRecord &record,
+                      EntryVerification &result) {
         const ReadPage read = readContents(checks().contentsOf(page), 0);
         reader().beginAnew();
         if (read.pictures.size() != 1) {
-            result.keep(PageProof::Differs, Reasons::tr("it has no picture, or more than one"));
-            return;
+            return {PageProof::Differs, Reasons::tr("it has no picture, or more than one")};
         }
         const DrawnPicture &drawn = read.pictures.front();
         Object turn = ComparedDocument::valueOf(page, "/Rotate");
         constexpr int kFull = 360;
         const int degrees = turn.isInteger() ? turn.getIntValueAsInt() % kFull : 0;
         if (!isOriented(drawn, record.orientation, (degrees + kFull) % kFull)) {
-            result.keep(PageProof::Differs, Reasons::tr("its picture is turned otherwise"));
-            return;
+            return {PageProof::Differs, Reasons::tr("its picture is turned otherwise")};
         }
         result.isLaidOutOtherwise = result.isLaidOutOtherwise ||
                                     !frameFault(page, record.page).isEmpty() ||
                                     !placeFault(drawn, record).isEmpty() || !read.strange.empty();
         const Object resources = ComparedDocument::valueOf(page, "/Resources");
-        const Object image = entryOf(resources, "/XObject", drawn.name);
-        const QString fault = imageFault(image, record.image, reader());
+        Object image = entry(entry(resources, "/XObject"), '/' + drawn.name);
+        const QString fault = imageFault(image, record.image, reader(), checks().profiles());
         if (fault.isEmpty()) {
-            result.keep(record.image.isOwnBytes ? PageProof::Bytes : PageProof::Pixels);
-        } else {
-            comparePixels(image, entry, index, fault, result);
+            return {record.image.isOwnBytes ? PageProof::Bytes : PageProof::Pixels, {}};
         }
+        const bool canBeTold = image.isStream() &&
+                               isPlainImage(image, record.image, checks().profiles()) &&
+                               hasTellingPixels(image, options());
+        return {PageProof::Differs, fault, canBeTold ? image : Object::newNull()};
     }
 
-    static Object entryOf(const Object &resources, const char *kind, const std::string &name) {
-        return ::folioforge::entry(::folioforge::entry(resources, kind), '/' + name);
-    }
-
-    void comparePixels(const Object &image, const EntryRecord &entry, std::size_t index,
-                       const QString &fault, EntryVerification &result) {
-        if (!Object(image).isStream() || !isPlainImage(image, entry.pictures[index].image)) {
-            result.keep(PageProof::Differs, fault);
+    /// Reads the file again, once for all pictures of which more is to be told.
+    void comparePixels(const EntryRecord &entry, std::vector<Finding> &findings) {
+        const auto isOpen = [](const Finding &finding) { return !Object(finding.image).isNull(); };
+        if (std::ranges::none_of(findings, isOpen)) {
             return;
         }
-        const PdfImage source = entry.pictureAgain(index);
-        const auto found = pixelsOf(image);
-        const auto wanted = pixelsOfFile(source, options().calls);
-        const Object mask = Object(image).getDict().getKey("/SMask");
-        const bool isSameMask =
-            source.softMask ? Object(mask).isStream() &&
-                                  pixelsOf(mask) == pixelsOfFile(*source.softMask, options().calls)
-                            : Object(mask).isNull();
-        // Readers of JPEG 2000 differ in what they pass over.
-        const bool isJpx = Object(image).getDict().getKey("/Filter").isNameAndEquals("/JPXDecode");
-        if (!found || !wanted || (isJpx && !options().mayReduce)) {
-            result.keep(PageProof::Differs, fault);
-        } else if (*found == *wanted && isSameMask) {
-            result.keep(PageProof::Pixels);
-        } else if (options().mayReduce && isReduced(*found, *wanted) &&
-                   (options().mayBeGrey || found->channels == wanted->channels)) {
-            result.keep(PageProof::Likeness);
-        } else {
-            result.keep(PageProof::Differs, fault);
-        }
+        std::size_t next = 0;
+        entry.picturesAgain([&](const PdfImage &source) {
+            requireGoingOn();
+            const std::size_t index = next++;
+            if (index >= findings.size() || !isOpen(findings[index])) {
+                return;
+            }
+            Finding &finding = findings[index];
+            finding.proof = proofByPixels(finding.image, source, options());
+            if (finding.proof != PageProof::Differs) {
+                finding.fault.clear();
+            }
+        });
     }
 
     void verifyText(const EntryRecord &entry, int end, EntryVerification &result) {
         if (hasTraces(entry, result.firstPage)) {
             result.pages.assign(static_cast<std::size_t>(entry.pages), PageProof::Characters);
+            for (const TextTrace &page : entry.text.pages) {
+                result.missingGlyphs += page.missing;
+            }
             return;
         }
         result.isLaidOutOtherwise = true;
@@ -162,11 +173,7 @@ class FoundVerifier : private DocumentVerifier {
                         matches ? QString()
                                 : Reasons::tr("its characters are not those of the text"));
             if (!matches) {
-                // What follows cannot be told apart any more but by its number of pages.
-                while (static_cast<int>(result.pages.size()) < entry.pages &&
-                       result.firstPage + static_cast<int>(result.pages.size()) < end) {
-                    result.keep(PageProof::Differs);
-                }
+                keepRest(entry, end, result);
                 return;
             }
         }

@@ -155,10 +155,7 @@ std::optional<quint64> group4Checksum(QPDFObjectHandle image, int width, int hei
 }
 
 std::string group4Rows(QPDFObjectHandle image, int width, int height) {
-    QPDFObjectHandle parameters = image.getDict().getKey("/DecodeParms");
-    if (parameters.isArray() && parameters.getArrayNItems() == 1) {
-        parameters = parameters.getArrayItem(0);
-    }
+    const QPDFObjectHandle parameters = onlyItem(image.getDict().getKey("/DecodeParms"));
     const auto numberIn = [&](const char *key, int usual) {
         QPDFObjectHandle number = entry(parameters, key);
         return number.isInteger() ? number.getIntValueAsInt() : usual;

@@ -5,6 +5,7 @@
 #include "error/Reasons.h"
 #include "pdf/import/ChosenPages.h"
 #include "verify/ImportChanges.h"
+#include "verify/PictureChanges.h"
 #include "verify/Pixels.h"
 #include "verify/StreamSums.h"
 
@@ -77,8 +78,25 @@ std::string filtersOf(const Object &dictionary) {
     return text;
 }
 
+bool isOfNothing(const std::string & /*key*/) {
+    return false;
+}
+
 bool isOfData(const std::string &key) {
     return key == "/Length" || key == "/Filter" || key == "/DecodeParms" || key == "/DL";
+}
+
+bool isOfDataOrSamples(const std::string &key) {
+    return isOfData(key) || isOfSamples(key);
+}
+
+/// Whether two streams have the same bytes, or unfold to the same.
+bool haveSameData(const Object &source, const Object &written) {
+    const bool haveSameFilters =
+        filtersOf(Object(source).getDict()) == filtersOf(Object(written).getDict());
+    const Unpacking how = haveSameFilters ? Unpacking::None : Unpacking::Samples;
+    const auto sum = sumOf(written, how);
+    return sum && sum == sumOf(source, how);
 }
 
 } // namespace
@@ -90,8 +108,10 @@ PageComparison::PageComparison(ComparedDocument &source, ComparedDocument &writt
     , m_choice(choice)
     , m_pictures(pictures)
     , m_positions(choosePages(source.pages(), choice.range).positions)
+    , m_turns(m_positions.size())
     , m_firstPage(static_cast<std::size_t>(firstPage)) {
     mapPages(firstPage);
+    addTurns();
 }
 
 void PageComparison::mapPages(int firstPage) {
@@ -141,20 +161,25 @@ QString PageComparison::fault(std::size_t index) {
 }
 
 /// Turns are added to what the source says, or replace it.
-bool PageComparison::isSameTurn(std::size_t index) {
+void PageComparison::addTurns() {
+    const std::vector<SourcePage> taken(m_positions.size());
+    for (const PageTurn &asked : m_choice.turns) {
+        for (const std::size_t i : choosePages(taken, asked.range).positions) {
+            m_turns[i] = asked.isRelative
+                             ? Turn{m_turns[i].angle + asked.angle, m_turns[i].isRelative}
+                             : Turn{asked.angle, false};
+        }
+    }
+}
+
+bool PageComparison::isSameTurn(std::size_t index) const {
     constexpr long long kFull = 360;
     const auto turnOf = [](const SourcePage &page) {
         Object stated = ComparedDocument::valueOf(page, "/Rotate");
         return stated.isInteger() ? stated.getIntValue() : 0;
     };
-    long long turn = turnOf(sourcePage(index));
-    for (const PageTurn &asked : m_choice.turns) {
-        const std::vector<SourcePage> taken(m_positions.size());
-        const auto turned = choosePages(taken, asked.range).positions;
-        for (auto i = std::ranges::count(turned, index); i > 0; --i) {
-            turn = (asked.isRelative ? turn : 0) + asked.angle;
-        }
-    }
+    const Turn &asked = m_turns[index];
+    const long long turn = (asked.isRelative ? turnOf(sourcePage(index)) : 0) + asked.angle;
     return (turn - turnOf(writtenPage(index))) % kFull == 0;
 }
 
@@ -196,6 +221,7 @@ bool PageComparison::areSame(const Object &source, const Object &written) {
         const Pair pair = m_open.back();
         m_open.pop_back();
         if (!isSamePair(pair.source, pair.written)) {
+            m_compared.clear(); // Not all within them was.
             return false;
         }
     }
@@ -227,7 +253,7 @@ bool PageComparison::isSamePair(Object source, Object written) {
         return false;
     }
     if (source.isDictionary()) {
-        return written.isDictionary() && isSameDictionary(source, written, false);
+        return written.isDictionary() && isSameDictionary(source, written, isOfNothing);
     }
     if (source.isArray()) {
         return written.isArray() && isSameArray(source, written);
@@ -245,11 +271,11 @@ bool PageComparison::isSameArray(const Object &source, const Object &written) {
 }
 
 bool PageComparison::isSameDictionary(const Object &source, const Object &written,
-                                      bool isOfStream) {
+                                      LeftOut isLeftOut) {
     const auto left = Object(source).getDictAsMap();
     const auto right = Object(written).getDictAsMap();
     for (const auto &[key, value] : left) {
-        if ((isOfStream && isOfData(key)) || Object(value).isNull()) {
+        if (isLeftOut(key) || Object(value).isNull()) {
             continue;
         }
         if (!isSameEntry(source, written, key)) {
@@ -260,7 +286,7 @@ bool PageComparison::isSameDictionary(const Object &source, const Object &writte
         const auto &[key, value] = added;
         const auto known = left.find(key);
         const bool isKnown = known != left.end() && !Object(known->second).isNull();
-        return isKnown || (isOfStream && isOfData(key)) || Object(value).isNull() ||
+        return isKnown || isLeftOut(key) || Object(value).isNull() ||
                isAddedEntry(source, written, key);
     });
 }
@@ -312,17 +338,31 @@ bool PageComparison::hasSameAppearance(const Object &source, const Object &writt
 bool PageComparison::isSameStream(const Object &source, const Object &written) {
     const Object left = Object(source).getDict();
     const Object right = Object(written).getDict();
-    if (m_pictures == Pictures::Alike && entry(left, "/Subtype").isNameAndEquals("/Image") &&
-        areAlike(source, written)) {
-        return true;
-    }
-    if (!isSameDictionary(left, right, true)) {
+    const bool isImage = entry(left, "/Subtype").isNameAndEquals("/Image");
+    return isImage && m_pictures != Pictures::Same
+               ? isSamePicture(source, written)
+               : isSameDictionary(left, right, isOfData) && haveSameData(source, written);
+}
+
+/// The pass leaves all of a picture but its samples.
+bool PageComparison::isSamePicture(const Object &source, const Object &written) {
+    const Object left = Object(source).getDict();
+    const Object right = Object(written).getDict();
+    if (!isSameDictionary(left, right, isOfDataOrSamples)) {
         return false;
     }
-    const Unpacking how =
-        filtersOf(left) == filtersOf(right) ? Unpacking::None : Unpacking::Samples;
-    const auto sum = sumOf(written, how);
-    return sum && sum == sumOf(source, how);
+    const bool mayBeGrey = m_pictures == Pictures::AlikeOrGrey;
+    const Object colors = entry(left, "/ColorSpace");
+    const Object writtenColors = entry(right, "/ColorSpace");
+    const ColorChange change = colorChangeOf(colors, writtenColors, mayBeGrey);
+    if (change == ColorChange::None || change == ColorChange::Base) {
+        follow(change == ColorChange::Base ? items(colors)[1] : colors, writtenColors);
+    }
+    if (change == ColorChange::None && haveSameSamples(left, right) &&
+        haveSameData(source, written)) {
+        return true;
+    }
+    return isReadAlike(left, right, change) && areAlike(source, written, mayBeGrey);
 }
 
 bool PageComparison::isSameDestination(const Object &source, const Object &written) {

@@ -28,8 +28,9 @@ namespace folioforge {
 /// tree, signatures, and what leads to pages that were left out.
 class PageComparison {
   public:
-    /// What pictures have to be: the same, or alike, as the compression pass leaves them.
-    enum class Pictures { Same, Alike };
+    /// What pictures have to be: the same, or alike, as the compression pass leaves them, maybe
+    /// without colour.
+    enum class Pictures { Same, Alike, AlikeOrGrey };
 
     /// `source` and `written` must outlive it. The pages that `choice` names begin in `written`
     /// with page `firstPage`, from 0. Throws Error where `source` lacks one of them.
@@ -49,18 +50,28 @@ class PageComparison {
         Object written;
     };
 
+    /// What is asked for of a page.
+    struct Turn {
+        long long angle = 0;
+        bool isRelative = true; ///< Added to the turn that the page has.
+    };
+    /// Whether an entry is not held against that of the source, or in another way.
+    using LeftOut = bool(const std::string &key);
+
     void mapPages(int firstPage);
+    void addTurns();
     [[nodiscard]] const SourcePage &sourcePage(std::size_t index) const;
     [[nodiscard]] const SourcePage &writtenPage(std::size_t index) const;
-    bool isSameTurn(std::size_t index);
+    [[nodiscard]] bool isSameTurn(std::size_t index) const;
     bool areSame(const Object &source, const Object &written);
     bool isSamePair(Object source, Object written);
     bool isSameArray(const Object &source, const Object &written);
-    bool isSameDictionary(const Object &source, const Object &written, bool isOfStream);
+    bool isSameDictionary(const Object &source, const Object &written, LeftOut isLeftOut);
     bool isSameEntry(const Object &source, const Object &written, const std::string &key);
     bool isAddedEntry(const Object &source, const Object &written, const std::string &key);
     bool hasSameAppearance(const Object &source, const Object &written);
     bool isSameStream(const Object &source, const Object &written);
+    bool isSamePicture(const Object &source, const Object &written);
     bool isSameDestination(const Object &source, const Object &written);
     bool areSameAnnotations(const Object &source, const Object &written);
     bool isSamePage(const Object &source, const Object &written) const;
@@ -74,6 +85,7 @@ class PageComparison {
     const PageChoice m_choice;
     Pictures m_pictures;
     std::vector<std::size_t> m_positions; ///< In the source, of the pages that were taken.
+    std::vector<Turn> m_turns;            ///< Of these.
     std::size_t m_firstPage;
     std::map<QPDFObjGen, std::set<QPDFObjGen>> m_copies; ///< Of pages; none where it was left out.
     std::set<std::pair<QPDFObjGen, QPDFObjGen>> m_compared;

@@ -4,8 +4,6 @@
 
 #include "verify/ContentLexer.h"
 
-#include <QStringDecoder>
-
 #include <cmath>
 #include <unordered_map>
 
@@ -26,9 +24,8 @@ Matrix product(const Matrix &inner, const Matrix &outer) {
 
 /// A text string of a PDF: UTF-16 behind its mark, else its bytes.
 QString textString(const std::string &bytes) {
-    const auto view = QByteArrayView(bytes.data(), std::ssize(bytes));
-    return view.startsWith("\xFE\xFF") ? QStringDecoder(QStringConverter::Utf16BE)(view.sliced(2))
-                                       : QString::fromLatin1(view);
+    return bytes.starts_with("\xFE\xFF") ? fromUtf16(std::string_view(bytes).substr(2))
+                                         : QString::fromLatin1(bytes);
 }
 
 /// Follows the operators of a content (ISO 32000-1, annex A).

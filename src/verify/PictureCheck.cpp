@@ -3,9 +3,9 @@
 #include "verify/PictureCheck.h"
 
 #include "error/Reasons.h"
+#include "image/Raster.h"
 #include "pdf/import/Entries.h"
 #include "verify/Group4Reading.h"
-#include "verify/StreamSums.h"
 
 #include <algorithm>
 #include <array>
@@ -16,12 +16,6 @@ namespace {
 
 using Object = QPDFObjectHandle;
 
-int channelsOf(ImageColor color) {
-    return color == ImageColor::Gray || color == ImageColor::Indexed ? 1
-           : color == ImageColor::Cmyk                               ? 4
-                                                                     : 3;
-}
-
 bool isInteger(Object object, long long value) {
     return object.isInteger() && object.getIntValue() == value;
 }
@@ -30,11 +24,6 @@ bool isInteger(Object object, long long value) {
 bool isParameter(const Object &parameters, const char *key, long long value, long long usual) {
     const Object stated = entry(parameters, key);
     return Object(stated).isNull() ? value == usual : isInteger(stated, value);
-}
-
-/// A filter or its parameters: alone, or in an array of one.
-Object onlyOne(Object object) {
-    return object.isArray() && object.getArrayNItems() == 1 ? object.getArrayItem(0) : object;
 }
 
 const char *nameOf(ImageFilter filter) {
@@ -65,14 +54,14 @@ bool hasRowParameters(const Object &parameters, const ImageRecord &record) {
     const bool isFiltered = Object(predictor).isInteger() && Object(predictor).getIntValue() > 1;
     return isFiltered == record.isPredicted &&
            (!isFiltered ||
-            (isParameter(parameters, "/Colors", channelsOf(record.color), 1) &&
+            (isParameter(parameters, "/Colors", channelCount(record.color), 1) &&
              isParameter(parameters, "/BitsPerComponent", record.bitsPerComponent, kUsualBits) &&
              isParameter(parameters, "/Columns", record.width, 1)));
 }
 
 bool hasFilter(const Object &dictionary, const ImageRecord &record) {
-    const Object parameters = onlyOne(entry(dictionary, "/DecodeParms"));
-    if (!onlyOne(entry(dictionary, "/Filter")).isNameAndEquals(nameOf(record.filter))) {
+    const Object parameters = onlyItem(entry(dictionary, "/DecodeParms"));
+    if (!onlyItem(entry(dictionary, "/Filter")).isNameAndEquals(nameOf(record.filter))) {
         return false;
     }
     switch (record.filter) {
@@ -89,7 +78,8 @@ bool hasFilter(const Object &dictionary, const ImageRecord &record) {
 }
 
 /// Whether `space` is the device's colours, or those of the profile that the record has.
-bool isBaseSpace(const Object &space, const char *device, int channels, const ImageRecord &record) {
+bool isBaseSpace(const Object &space, const char *device, int channels, const ImageRecord &record,
+                 KnownSums &profiles) {
     if (!record.profile) {
         return Object(space).isNameAndEquals(device);
     }
@@ -99,11 +89,11 @@ bool isBaseSpace(const Object &space, const char *device, int channels, const Im
         !isInteger(Object(parts[1]).getDict().getKey("/N"), channels)) {
         return false;
     }
-    const auto sum = sumOf(parts[1], Unpacking::Samples);
+    const auto sum = profiles.of(parts[1]);
     return sum && sum->checksum == *record.profile;
 }
 
-bool isIndexed(const Object &space, const ImageRecord &record) {
+bool isIndexed(const Object &space, const ImageRecord &record, KnownSums &profiles) {
     const auto parts = items(space);
     constexpr std::size_t kParts = 4;
     constexpr qsizetype kColor = 3;
@@ -111,7 +101,8 @@ bool isIndexed(const Object &space, const ImageRecord &record) {
         !isInteger(parts[2], record.palette.size() / kColor - 1)) {
         return false;
     }
-    return isBaseSpace(parts[1], "/DeviceRGB", 3, record) && Object(parts[3]).isString() &&
+    return isBaseSpace(parts[1], "/DeviceRGB", 3, record, profiles) &&
+           Object(parts[3]).isString() &&
            Object(parts[3]).getStringValue() == record.palette.toStdString();
 }
 
@@ -128,19 +119,19 @@ bool isLab(const Object &space) {
            are(entry(parts[1], "/Range"), {-128, 127, -128, 127});
 }
 
-bool hasColors(const Object &dictionary, const ImageRecord &record) {
+bool hasColors(const Object &dictionary, const ImageRecord &record, KnownSums &profiles) {
     const Object space = entry(dictionary, "/ColorSpace");
     switch (record.color) {
     case ImageColor::Gray:
-        return isBaseSpace(space, "/DeviceGray", 1, record);
+        return isBaseSpace(space, "/DeviceGray", 1, record, profiles);
     case ImageColor::Rgb:
-        return isBaseSpace(space, "/DeviceRGB", 3, record);
+        return isBaseSpace(space, "/DeviceRGB", 3, record, profiles);
     case ImageColor::Cmyk:
-        return isBaseSpace(space, "/DeviceCMYK", 4, record);
+        return isBaseSpace(space, "/DeviceCMYK", 4, record, profiles);
     case ImageColor::Lab:
         return isLab(space);
     case ImageColor::Indexed:
-        return isIndexed(space, record);
+        return isIndexed(space, record, profiles);
     case ImageColor::FromJpx:
         break;
     }
@@ -215,7 +206,8 @@ bool isNear(double left, double right) {
 
 } // namespace
 
-QString imageFault(QPDFObjectHandle image, const ImageRecord &record, SourceReader &reader) {
+QString imageFault(QPDFObjectHandle image, const ImageRecord &record, SourceReader &reader,
+                   KnownSums &profiles) {
     if (!image.isStream() || !image.getDict().getKey("/Subtype").isNameAndEquals("/Image")) {
         return Reasons::tr("it has no picture, or more than one");
     }
@@ -226,7 +218,7 @@ QString imageFault(QPDFObjectHandle image, const ImageRecord &record, SourceRead
     }
     const bool hasBits = record.filter == ImageFilter::Jpx ||
                          isInteger(entry(dictionary, "/BitsPerComponent"), record.bitsPerComponent);
-    if (!hasBits || !hasFilter(dictionary, record) || !hasColors(dictionary, record) ||
+    if (!hasBits || !hasFilter(dictionary, record) || !hasColors(dictionary, record, profiles) ||
         !hasDecode(dictionary, record) || !hasNothingElse(dictionary)) {
         return Reasons::tr("its picture would be read otherwise");
     }
@@ -235,21 +227,21 @@ QString imageFault(QPDFObjectHandle image, const ImageRecord &record, SourceRead
         return Reasons::tr("the opacity of its picture is another");
     }
     if (record.softMask) {
-        if (const QString fault = imageFault(mask, *record.softMask, reader); !fault.isEmpty()) {
+        if (const QString fault = imageFault(mask, *record.softMask, reader, profiles);
+            !fault.isEmpty()) {
             return Reasons::tr("the opacity of its picture is another");
         }
     }
     return dataFault(image, record, reader);
 }
 
-bool isPlainImage(QPDFObjectHandle image, const ImageRecord &record) {
+bool isPlainImage(QPDFObjectHandle image, const ImageRecord &record, KnownSums &profiles) {
     const Object dictionary = image.getDict();
     const auto space = items(entry(dictionary, "/ColorSpace"));
     const bool isIndexed = !space.empty() && Object(space.front()).isNameAndEquals("/Indexed");
     const auto base = isIndexed && space.size() > 1 ? items(space[1]) : space;
     const bool isIcc = base.size() > 1 && Object(base.front()).isNameAndEquals("/ICCBased");
-    const auto sum =
-        isIcc && Object(base[1]).isStream() ? sumOf(base[1], Unpacking::Samples) : std::nullopt;
+    const auto sum = isIcc && Object(base[1]).isStream() ? profiles.of(base[1]) : std::nullopt;
     const bool hasProfile = record.profile ? sum && sum->checksum == *record.profile : !isIcc;
     return hasProfile && hasNothingElse(dictionary);
 }

@@ -3,8 +3,10 @@
 #include "verify/Pixels.h"
 
 #include "error/Error.h"
+#include "image/Bytes.h"
 #include "image/formats/Jpeg2000.h"
 #include "pdf/BoundedBuffer.h"
+#include "pdf/ColorSpaces.h"
 #include "pdf/import/Entries.h"
 #include "verify/Group4Reading.h"
 
@@ -37,12 +39,9 @@ struct RawImage {
     /// From 0 to the most that its bits can hold.
     [[nodiscard]] int sample(int x, int y, int channel) const {
         const qint64 index = qint64(x) * channels + channel;
-        const auto *row = reinterpret_cast<const unsigned char *>(samples.data()) + y * stride();
-        if (bits == 16) {
-            return row[2 * index] << 8 | row[2 * index + 1];
-        }
-        const int shift = 8 - bits - static_cast<int>(index * bits % 8);
-        return row[index * bits / 8] >> shift & ((1 << bits) - 1);
+        const auto *row = reinterpret_cast<const uchar *>(samples.data()) + y * stride();
+        return bits == 16 ? row[2 * index] << 8 | row[2 * index + 1]
+                          : packedSample(row, index, bits);
     }
 };
 
@@ -56,13 +55,7 @@ int channelsIn(const Object &space) {
     const auto parts = items(space);
     Object kind = parts.empty() ? space : parts.front();
     const auto is = [&](const char *name) { return kind.isNameAndEquals(name); };
-    if (is("/DeviceGray") || is("/CalGray") || is("/Indexed")) {
-        return 1;
-    }
-    if (is("/ICCBased") && parts.size() > 1 && Object(parts[1]).isStream()) {
-        return numberIn(Object(parts[1]).getDict(), "/N", 0);
-    }
-    return is("/DeviceRGB") || is("/Lab") ? 3 : is("/DeviceCMYK") ? 4 : 0;
+    return is("/Indexed") ? 1 : is("/Lab") ? 3 : plainComponents(space);
 }
 
 bool isOf(const Object &dictionary, const char *filter) {
@@ -95,8 +88,9 @@ std::optional<RawImage> rawImage(Object image) {
     }
     raw.width = numberIn(dictionary, "/Width", 0);
     raw.height = numberIn(dictionary, "/Height", 0);
-    raw.bits = numberIn(dictionary, "/BitsPerComponent", 0);
-    raw.channels = channelsIn(entry(dictionary, "/ColorSpace"));
+    const bool isStencil = isTrue(entry(dictionary, "/ImageMask"));
+    raw.bits = isStencil ? 1 : numberIn(dictionary, "/BitsPerComponent", 0);
+    raw.channels = isStencil ? 1 : channelsIn(entry(dictionary, "/ColorSpace"));
     if (isOf(dictionary, "/JPXDecode")) {
         auto coded = jpxImage(image);
         const bool isAsStated = coded && coded->width == raw.width && coded->height == raw.height;
@@ -224,26 +218,30 @@ Pixels reduced(const Pixels &pixels, int width, int height) {
 }
 
 Pixels inGrey(const Pixels &pixels) {
-    if (pixels.channels != 3) {
+    constexpr int kInks = 4;
+    if (pixels.channels != 3 && pixels.channels != kInks) {
         return pixels;
     }
+    const bool isOfInks = pixels.channels == kInks;
     Pixels grey{pixels.width, pixels.height, 1, {}};
-    grey.samples.resize(pixels.samples.size() / 3);
+    grey.samples.resize(pixels.samples.size() / pixels.channels);
     const auto *source = reinterpret_cast<const unsigned char *>(pixels.samples.constData());
     for (char &sample : grey.samples) {
         constexpr int kRed = 299;
         constexpr int kGreen = 587;
         constexpr int kBlue = 114;
         constexpr int kWhole = 1000;
-        sample =
-            static_cast<char>((kRed * source[0] + kGreen * source[1] + kBlue * source[2]) / kWhole);
-        source += 3;
+        constexpr int kWhite = 255;
+        const int sum = (kRed * source[0] + kGreen * source[1] + kBlue * source[2]) / kWhole;
+        // Inks take light away, black from all of it.
+        sample = static_cast<char>(isOfInks ? std::max(0, kWhite - sum - source[3]) : sum);
+        source += pixels.channels;
     }
     return grey;
 }
 
-bool isReduced(const Pixels &found, const Pixels &source) {
-    const bool isGrey = found.channels == 1 && source.channels == 3;
+bool isReduced(const Pixels &found, const Pixels &source, bool mayBeGrey) {
+    const bool isGrey = mayBeGrey && found.channels == 1 && source.channels > 1;
     const bool isSmaller = found.width <= source.width && found.height <= source.height;
     if (!isSmaller || (!isGrey && found.channels != source.channels)) {
         return false;
@@ -255,17 +253,10 @@ bool isReduced(const Pixels &found, const Pixels &source) {
                     reduced(isGrey ? inGrey(source) : source, width, height)) >= kLeastLikeness;
 }
 
-bool areAlike(QPDFObjectHandle source, QPDFObjectHandle image) {
-    Object left = entry(source.getDict(), "/SMask");
-    Object right = entry(image.getDict(), "/SMask");
-    const bool hasSameMask =
-        left.isStream() ? right.isStream() && areAlike(left, right) : right.isNull();
-    if (!hasSameMask) {
-        return false;
-    }
+bool areAlike(QPDFObjectHandle source, QPDFObjectHandle image, bool mayBeGrey) {
     const auto wanted = pixelsOf(source);
-    const auto found = pixelsOf(image);
-    return wanted && found && isReduced(*found, *wanted);
+    const auto found = wanted ? pixelsOf(image) : std::nullopt;
+    return found && isReduced(*found, *wanted, mayBeGrey);
 }
 
 double likeness(const Pixels &one, const Pixels &other) {

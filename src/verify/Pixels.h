@@ -14,7 +14,7 @@ namespace folioforge {
 struct Pixels {
     int width = 0;
     int height = 0;
-    int channels = 3; ///< 1 grey, 3 RGB or Lab, 4 CMYK.
+    int channels = 3; ///< 1 grey or a stencil, 3 RGB or Lab, 4 CMYK.
     QByteArray samples;
 
     bool operator==(const Pixels &) const = default;
@@ -31,17 +31,16 @@ std::optional<Pixels> pixelsOf(QPDFObjectHandle image);
 /// those that it covers.
 Pixels reduced(const Pixels &pixels, int width, int height);
 
-/// `pixels` without colour, by the weights of ITU-R BT.601.
+/// `pixels` of RGB or CMYK without colour, by the weights of ITU-R BT.601; others as they are.
 Pixels inGrey(const Pixels &pixels);
 
-/// Whether `image` shows what `source` does, each an image of a PDF: reduced, coded anew or grey.
-/// Both have the same opacity, likewise. False where one of them cannot be decoded.
-bool areAlike(QPDFObjectHandle source, QPDFObjectHandle image);
+/// Whether `image` shows what `source` does, each an image of a PDF, their opacity aside: reduced,
+/// coded anew or, with `mayBeGrey`, without colour. False where one of them cannot be decoded.
+bool areAlike(QPDFObjectHandle source, QPDFObjectHandle image, bool mayBeGrey);
 
-/// Whether `found` is `source` made smaller or coded anew, and without colour where it has one
-/// channel: the likeness of both, reduced the plain way to half the size of `found`, is at least
-/// kLeastLikeness.
-bool isReduced(const Pixels &found, const Pixels &source);
+/// Whether `found` is `source` made smaller or coded anew, or with `mayBeGrey` without colour: the
+/// likeness of both, reduced the plain way to half the size of `found`, is at least kLeastLikeness.
+bool isReduced(const Pixels &found, const Pixels &source, bool mayBeGrey);
 inline constexpr double kLeastLikeness = 20; ///< Decibels; another picture has about ten.
 
 /// The peak signal-to-noise ratio of two pictures of one size in decibels; infinite for the same.

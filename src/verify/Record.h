@@ -76,9 +76,10 @@ struct EntryRecord {
     TextRecord text;                     ///< Of a text.
     std::vector<PictureRecord> pictures; ///< A page each; of a picture file.
     std::optional<SourceRecord> source;  ///< Of a PDF.
-    /// Read the file again where a page looks otherwise: its picture with that number from 0, and
-    /// its text. For a document that others may have made; else null. They throw Error.
-    std::function<PdfImage(std::size_t)> pictureAgain;
+    /// Read the file again where a page looks otherwise: its pictures, which are given one after
+    /// another, and its text. For a document that others may have made; else null. They throw
+    /// Error.
+    std::function<void(const std::function<void(PdfImage)> &)> picturesAgain;
     std::function<QString()> textAgain;
 };
 

@@ -51,6 +51,14 @@ std::optional<StreamSum> sumOf(QPDFObjectHandle stream, Unpacking unpacking) {
     return isDamaged ? std::nullopt : std::optional(target.sum());
 }
 
+std::optional<StreamSum> KnownSums::of(const QPDFObjectHandle &stream) {
+    const auto [known, isNew] = m_sums.try_emplace(stream.getObjGen());
+    if (isNew) {
+        known->second = sumOf(stream, Unpacking::Samples);
+    }
+    return known->second;
+}
+
 StreamSum sumOf(const FileVersion &file, const std::vector<FileSlice> &slices,
                 SourceReader &reader) {
     constexpr qint64 kPiece = 1 << 20;

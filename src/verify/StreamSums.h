@@ -9,6 +9,7 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -25,6 +26,16 @@ struct StreamSum {
 /// The sum of the data of `stream`; nothing where it is damaged or has a filter that is not undone.
 /// Nothing is held in memory but what libqpdf holds.
 std::optional<StreamSum> sumOf(QPDFObjectHandle stream, Unpacking unpacking);
+
+/// Sums of streams that many others refer to, as profiles of colours are: each is unpacked once.
+class KnownSums {
+  public:
+    /// The sum of `stream` without its lossless filters, as above.
+    std::optional<StreamSum> of(const QPDFObjectHandle &stream);
+
+  private:
+    std::map<QPDFObjGen, std::optional<StreamSum>> m_sums;
+};
 
 /// The sum of slices of a file, read again. Throws Error where it has changed or cannot be read.
 StreamSum sumOf(const FileVersion &file, const std::vector<FileSlice> &slices,

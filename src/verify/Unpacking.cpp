@@ -134,10 +134,6 @@ class RowPipeline final : public Pipeline {
     bool m_isValid = true;
 };
 
-Object only(Object object) {
-    return object.isArray() && object.getArrayNItems() == 1 ? object.getArrayItem(0) : object;
-}
-
 std::size_t parameter(const Object &parameters, const char *key, int usual) {
     constexpr int kMax = 1 << 20;
     Object stated = entry(parameters, key);
@@ -165,8 +161,8 @@ bool inflateRows(const Object &stream, const Object &parameters, Pipeline &targe
 bool unpack(QPDFObjectHandle stream, Unpacking unpacking, Pipeline &target) {
     constexpr std::size_t kFirstOfPng = 10;
     const Object dictionary = stream.getDict();
-    const Object parameters = only(entry(dictionary, "/DecodeParms"));
-    const bool isFlate = only(entry(dictionary, "/Filter")).isNameAndEquals("/FlateDecode");
+    const Object parameters = onlyItem(entry(dictionary, "/DecodeParms"));
+    const bool isFlate = onlyItem(entry(dictionary, "/Filter")).isNameAndEquals("/FlateDecode");
     const std::size_t predictor = parameter(parameters, "/Predictor", 1);
     if (unpacking == Unpacking::None) {
         return stream.pipeStreamData(&target, nullptr, 0, qpdf_dl_none, true);

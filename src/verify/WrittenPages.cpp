@@ -18,22 +18,32 @@ namespace {
 
 using Object = QPDFObjectHandle;
 
-constexpr std::size_t kLongestContent = 256 << 20;
+constexpr std::size_t kLongestContents = 256 << 20; // Of a page, however many its pieces are.
 
 Error unreadable() {
     return Error(Reasons::tr("the contents of a page cannot be read"));
 }
 
-PageContents::Piece pieceOf(Object stream) {
+/// One of the contents, of which `left` bytes may be taken; it takes its own from them.
+PageContents::Piece pieceOf(Object stream, std::size_t &left) {
+    const auto take = [&left](std::size_t size) {
+        if (size > left) {
+            throw unreadable();
+        }
+        left -= size;
+    };
     if (!stream.isStream()) {
         throw unreadable();
     }
     const Object dictionary = stream.getDict();
     if (entry(dictionary, "/Filter").isNameAndEquals("/FlateDecode") &&
         entry(dictionary, "/DecodeParms").isNull()) {
-        return {stream.getRawStreamData(), {}};
+        auto deflated = stream.getRawStreamData();
+        take(deflated->getSize());
+        return {std::move(deflated), {}};
     }
-    if (auto plain = unpacked(stream, kLongestContent)) {
+    if (auto plain = unpacked(stream, left)) {
+        take(plain->size());
         return {nullptr, std::move(*plain)};
     }
     throw unreadable();
@@ -44,11 +54,12 @@ PageContents::Piece pieceOf(Object stream) {
 ReadPage readContents(const PageContents &contents, double fontSize) {
     std::string text;
     for (const auto &[deflated, plain] : contents.pieces) {
+        const std::size_t left = kLongestContents - std::min(text.size(), kLongestContents);
         if (deflated) {
             const QByteArray bytes =
                 inflateUpTo({reinterpret_cast<const char *>(deflated->getBuffer()),
                              static_cast<qsizetype>(deflated->getSize())},
-                            static_cast<qsizetype>(kLongestContent));
+                            static_cast<qsizetype>(left));
             text.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
         } else {
             text += plain;
@@ -134,9 +145,10 @@ std::shared_ptr<const FontsByName> WrittenPages::fontsOf(const QPDFObjectHandle 
 PageContents WrittenPages::contentsOf(const SourcePage &page) {
     PageContents contents;
     contents.fonts = fontsOf(ComparedDocument::valueOf(page, "/Resources"));
+    std::size_t left = kLongestContents;
     Object stated = entry(page.page, "/Contents");
     for (const Object &stream : stated.isStream() ? std::vector{stated} : items(stated)) {
-        contents.pieces.push_back(pieceOf(stream));
+        contents.pieces.push_back(pieceOf(stream, left));
     }
     return contents;
 }
@@ -157,7 +169,7 @@ QString WrittenPages::pictureFault(const SourcePage &page, const PictureRecord &
     const QString place = placeFault(drawn, record);
     const Object resources = ComparedDocument::valueOf(page, "/Resources");
     return place.isEmpty() ? imageFault(entry(entry(resources, "/XObject"), '/' + drawn.name),
-                                        record.image, reader)
+                                        record.image, reader, m_profiles)
                            : place;
 }
 

@@ -7,6 +7,7 @@
 #include "verify/FontCodes.h"
 #include "verify/PageReading.h"
 #include "verify/Record.h"
+#include "verify/StreamSums.h"
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDFObjGen.hh>
@@ -50,12 +51,16 @@ class WrittenPages {
     /// recorded; empty where nothing is.
     QString pictureFault(const SourcePage &page, const PictureRecord &record, SourceReader &reader);
 
+    /// The sums of the profiles that its pictures have.
+    [[nodiscard]] KnownSums &profiles() { return m_profiles; }
+
   private:
     [[nodiscard]] std::shared_ptr<const FontsByName> fontsOf(const QPDFObjectHandle &resources);
     [[nodiscard]] std::shared_ptr<const FontCodes> fontOf(const QPDFObjectHandle &font);
 
     std::map<QPDFObjGen, std::shared_ptr<const FontCodes>> m_fonts;
     std::map<QPDFObjGen, std::shared_ptr<const FontsByName>> m_tables; ///< By resources.
+    KnownSums m_profiles;
 };
 
 } // namespace folioforge

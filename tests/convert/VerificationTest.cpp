@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "verify/Verification.h"
 #include "ConversionCase.h"
+#include "error/Error.h"
+#include "image/PdfImage.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
 #include "support/Places.h"
 #include "support/TestUnit.h"
+#include "text/FontCascade.h"
 
 #include <QDirIterator>
+#include <QElapsedTimer>
 #include <QFile>
 
 #include <sys/stat.h>
@@ -46,17 +51,17 @@ class FlippingCalls : public SystemCalls {
     bool m_isFlipped = false;
 };
 
-/// What qpdf makes of a PDF with these arguments.
-QString rewritten(const QString &from, const QString &to, const QStringList &arguments) {
-    const ToolRun run = runTool(u"qpdf"_s, arguments + QStringList{from, to});
-    return run.exitCode == 0 ? to : QString::fromUtf8(run.err);
+/// The PDF in plain words, as qpdf writes it.
+QString inPlainWords(const QString &pdf, const QString &target) {
+    const ToolRun run = runTool(u"qpdf"_s, {u"--qdf"_s, u"--normalize-content=n"_s,
+                                            u"--object-streams=disable"_s, pdf, target});
+    return run.exitCode == 0 ? target : QString::fromUtf8(run.err);
 }
 
 /// The PDF in plain words, with `from` for `to` in it wherever it stands.
 QString edited(const QString &pdf, const QString &target, const QByteArray &from,
                const QByteArray &to) {
-    const QString plain =
-        rewritten(pdf, target + u".qdf"_s, {u"--qdf"_s, u"--object-streams=disable"_s});
+    const QString plain = inPlainWords(pdf, target + u".qdf"_s);
     QByteArray bytes = readFile(plain);
     if (!bytes.contains(from)) {
         return {};
@@ -120,6 +125,20 @@ class VerificationTest : public QObject, protected ConversionCase {
         return outcome.entries.at(0).verification.value().pages.at(0);
     }
 
+    /// What is said of the first page of a PDF with this record.
+    QString reasonOf(const QString &pdf, const EntryRecord &record) const {
+        const SourceFile file = SourceFile::open(pdf);
+        const WrittenDocument document{
+            pdf.toStdString(), file.version().size,
+            [&file](qint64 offset, std::span<char> target) { return file.readAt(offset, target); },
+            std::nullopt};
+        try {
+            return verifyDocument(document, {record}, {}).at(0).reason();
+        } catch (const Error &error) {
+            return error.reason();
+        }
+    }
+
   private Q_SLOTS:
     void init() {
         setUp();
@@ -177,6 +196,45 @@ class VerificationTest : public QObject, protected ConversionCase {
         QVERIFY(outcome.entries[1].verification->missingGlyphs > 0);
     }
 
+    void textsInArchivesHaveTheCharactersThatTheseAllow_data() {
+        QTest::addColumn<bool>("archive");
+        QTest::newRow("archive") << true;
+        QTest::newRow("no archive") << false;
+    }
+
+    void textsInArchivesHaveTheCharactersThatTheseAllow() {
+        QFETCH(bool, archive);
+        const QByteArray family("\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA7");
+        addText("marks.txt",
+                QByteArray("a mark\xEF\xBB\xBF within, \xEF\xBF\xBE and none\0.\n", 35) +
+                    QByteArray("\xEF\xBB\xBF\xEF\xBB\xBFin front\n"));
+        addText("pictures.txt", family.repeated(50) + "\n\xE0\xA4\xB9\xE0\xA4\xBF\n");
+        if (archive) {
+            m_options.archive.emplace();
+        }
+        QCOMPARE(faults(convertTo(path("out/plain.pdf"))), QByteArrayList());
+        m_options.readable.emplace();
+        QCOMPARE(faults(convertTo(path("out/readable.pdf"))), QByteArrayList());
+    }
+
+    void whatNoFontHasIsCounted_data() {
+        QTest::addColumn<bool>("archive");
+        QTest::newRow("as boxes") << false;
+        QTest::newRow("as a character") << true;
+    }
+
+    void whatNoFontHasIsCounted() {
+        QFETCH(bool, archive);
+        addText("a.txt", "none: \xEE\x84\xA3\xEE\x84\xA3\n");
+        if (archive) {
+            m_options.archive.emplace();
+        }
+        m_options.merge = true;
+        const PDFOutcome made = convertTo(path("out/whole.pdf"));
+        QCOMPARE(made.entries[0].verification.value().missingGlyphs, 2);
+        QCOMPARE(verified(made.close.path).entries[0].verification.value().missingGlyphs, 2);
+    }
+
     void chosenAndTurnedPagesAreThoseOfTheSource() {
         addFile(writePdf(path("pages.pdf"), 6));
         m_list.back()->setPageChoice({"5,2-3,5", {{90, true, "1"}, {180, false, "2-3"}}});
@@ -211,6 +269,53 @@ class VerificationTest : public QObject, protected ConversionCase {
         QCOMPARE(outputs(), QStringList());
     }
 
+    void aPictureIsHeldAgainstItsRecord_data() {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("own bytes") << QByteArray("image/photo.jpg");
+        QTest::newRow("pixels") << QByteArray("image/colour.webp");
+    }
+
+    void aPictureIsHeldAgainstItsRecord() {
+        QFETCH(const QByteArray, name);
+        addFile(data(name.constData()));
+        const PdfImage image = toPdfImage(data(name.constData()));
+        const QSizeF size = image.header.sizeInPoints(72);
+        EntryRecord record;
+        record.pages = 1;
+        record.pictures = {{size, QRectF(QPointF(0, 0), size), 1, {}, recordOf(image)}};
+        const QString pdf = written();
+        QCOMPARE(reasonOf(pdf, record), QString());
+        ImageRecord &picture = record.pictures[0].image;
+        picture.checksum += 1;
+        if (!picture.slices.empty()) {
+            picture.slices.back().length -= 1;
+        }
+        QVERIFY2(reasonOf(pdf, record).endsWith(u"of its picture are not those of the file"),
+                 qPrintable(reasonOf(pdf, record)));
+    }
+
+    void aTextIsHeldAgainstItsRecord() {
+        addText("a.txt", "words");
+        TextTracer tracer;
+        tracer.addText(u"wards");
+        EntryRecord record;
+        record.pages = 1;
+        record.text = {
+            getTextPageSize(m_options.textPage), textFont()->size(), {tracer.finish()}, {}};
+        const QString pdf = written();
+        QCOMPARE(
+            reasonOf(pdf, record),
+            u"Page 1 of the PDF is not its source: its characters are not those of the text"_s);
+    }
+
+    void aPdfHasAsManyPagesAsItsRecord() {
+        const QString pdf = writePdf(path("pages.pdf"), 3);
+        EntryRecord record;
+        record.pages = 2;
+        record.source = {pdf, {}};
+        QCOMPARE(reasonOf(pdf, record), u"The PDF has 3 pages instead of 2"_s);
+    }
+
     void aFinishedPdfIsHeldAgainstItsSources() {
         addText("a.txt", "words");
         addFile(data("image/photo.jpg"));
@@ -241,6 +346,7 @@ class VerificationTest : public QObject, protected ConversionCase {
     void whatAnEditChangesIsFound_data() {
         QTest::addColumn<QByteArray>("from");
         QTest::addColumn<QByteArray>("to");
+        QTest::newRow("nothing") << QByteArray("(words)") << QByteArray("(words)");
         QTest::newRow("letters") << QByteArray("(words)") << QByteArray("(wards)");
         QTest::newRow("map of characters") << QByteArray("<77><0077>") << QByteArray("<77><0078>");
         QTest::newRow("width of a picture") << QByteArray("/Width 24") << QByteArray("/Width 23");
@@ -262,7 +368,7 @@ class VerificationTest : public QObject, protected ConversionCase {
         QVERIFY2(!pdf.isEmpty(), "nothing to change");
         QVERIFY(PdfProbe(pdf).pageCount() == 4);
         const PDFOutcome outcome = verified(pdf);
-        QVERIFY(!faults(outcome).isEmpty());
+        QVERIFY2(faults(outcome).isEmpty() == (from == to), faults(outcome).join('\n'));
     }
 
     void aPdfOfAnotherProgramIsHeldAgainstItsSources() {
@@ -300,6 +406,78 @@ class VerificationTest : public QObject, protected ConversionCase {
         const PDFOutcome outcome = verified(pdf);
         QCOMPARE(faults(outcome), QByteArrayList());
         QCOMPARE(outcome.entries[0].warnings.at(0).code, WarningCode::LaidOutOtherwise);
+    }
+
+    void aPartThatPagesShareIsAFaultOfEachOfThem() {
+        QVERIFY(PdfFixture().object(1, kCatalog).pages(4, 3).write(path("pages.pdf")));
+        addFile(path("pages.pdf"));
+        const QString pdf = edited(written(), path("changed.pdf"), "/Helvetica", "/Courier");
+        QVERIFY2(!pdf.isEmpty(), "nothing to change");
+        const PDFOutcome outcome = verified(pdf);
+        QVERIFY2(outcome.entries[0].verification, faults(outcome).join('\n'));
+        QCOMPARE(outcome.entries[0].verification->faults.size(), std::size_t{3});
+    }
+
+    void whatFollowsAPageThatCannotBeReadIsStillFound() {
+        addFile(data("image/two.gif"));
+        addText("a.txt", "words");
+        m_options.allPictures = true;
+        const QByteArray bytes = readFile(inPlainWords(written(), path("plain.pdf")));
+        const qsizetype at = bytes.indexOf("/Contents ");
+        const QByteArray contents = bytes.sliced(at, bytes.indexOf('\n', at) - at);
+        const QString pdf =
+            edited(path("out/whole.pdf"), path("changed.pdf"), contents, "/Contents [1]");
+        QVERIFY2(!pdf.isEmpty(), "nothing to change");
+        const PDFOutcome outcome = verified(pdf);
+        QVERIFY(!outcome.entries[0].written);
+        QCOMPARE(outcome.entries[0].verification.value().pages.size(), std::size_t{2});
+        QVERIFY2(outcome.entries[1].written, qPrintable(outcome.entries[1].reason));
+    }
+
+    void everyPictureOfAFileThatAnotherProgramPutInIsItsSource() {
+        addFile(data("image/two.gif"));
+        const ToolRun run =
+            runTool(u"img2pdf"_s, {data("image/two.gif"), u"-o"_s, path("img.pdf")});
+        QVERIFY2(run.exitCode == 0, run.err);
+        m_options.allPictures = true;
+        const PDFOutcome outcome = verified(path("img.pdf"));
+        QCOMPARE(faults(outcome), QByteArrayList());
+        QCOMPARE(outcome.entries[0].verification.value().pages.size(), std::size_t{2});
+    }
+
+    void aPageThatUnfoldsWithoutEndIsNotRead() {
+        addText("a.txt", "words");
+        PdfFixture page = photoPage({});
+        page.stream(4, "/Filter /FlateDecode", flate(QByteArray(4 << 20, ' ')));
+        QByteArray object = page.objects().at(3);
+        object.replace("/Contents 4 0 R", "/Contents [" + QByteArray("4 0 R ").repeated(70) + ']');
+        QVERIFY(page.object(3, object).write(path("long.pdf")));
+        const PDFOutcome outcome = verified(path("long.pdf"));
+        QVERIFY2(outcome.entries[0].reason.contains(u"compressed data"),
+                 qPrintable(outcome.entries[0].reason));
+    }
+
+    void aFontOfManyLongTextsIsReadAtOnce() {
+        addText("a.txt", "words");
+        PdfFixture page = photoPage("BT /F 9 Tf <0041> Tj ET");
+        page.object(7, "<< /Type /Font /Subtype /Type0 /Encoding /Identity-H /ToUnicode 8 0 R >>")
+            .stream(8, {},
+                    "1 beginbfrange <0000> <FFFF> <" + QByteArray("0041").repeated(1 << 20) +
+                        "> endbfrange");
+        QVERIFY(page.write(path("long.pdf")));
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(!faults(verified(path("long.pdf"))).isEmpty());
+        constexpr int kSeconds = 20; // Text by text it takes minutes.
+        QVERIFY(timer.elapsed() < kSeconds * 1000);
+    }
+
+    void aReducedPictureKeepsItsOpacity() {
+        addFile(data("image/translucent.png"));
+        const QString pdf = edited(written(), path("changed.pdf"), "/SMask", "/Other");
+        m_options.compressIndex = 2;
+        QVERIFY(!faults(verified(pdf)).isEmpty());
+        QCOMPARE(faults(verified(path("out/whole.pdf"))), QByteArrayList());
     }
 
     void pagesOfNoInputAreFound() {

@@ -4,8 +4,6 @@
 
 #include "pdf/fonts/CodeTable.h"
 
-#include <QString>
-
 #include <algorithm>
 #include <iterator>
 #include <string_view>
@@ -76,8 +74,6 @@ std::string unicodeMap(const CodeTable &table, std::vector<CodeEntry> entries) {
     return map.append(kTail);
 }
 
-constexpr char16_t kWordJoiner = 0x2060;
-
 } // namespace
 
 std::string encodingMapName(const CodeTable &table) {
@@ -101,15 +97,18 @@ std::string makeUnicodeMap(const CodeTable &table) {
     return unicodeMap(table, std::move(entries));
 }
 
+QString wholeText(QString text) {
+    constexpr char16_t kWordJoiner = 0x2060;
+    text.replace(QChar(QChar::ByteOrderMark), QChar(kWordJoiner));
+    text.replace(QChar(QChar::ByteOrderSwapped), QChar(QChar::ReplacementCharacter));
+    text.replace(QChar(QChar::Null), QChar(QChar::ReplacementCharacter));
+    return text.isEmpty() ? QString(QChar(kWordJoiner)) : text;
+}
+
 std::string makeWholeUnicodeMap(const CodeTable &table) {
     std::vector<CodeEntry> entries = table.entries();
     for (CodeEntry &entry : entries) {
-        entry.text.replace(QChar(QChar::ByteOrderMark), QChar(kWordJoiner));
-        entry.text.replace(QChar(QChar::ByteOrderSwapped), QChar(QChar::ReplacementCharacter));
-        entry.text.replace(QChar(QChar::Null), QChar(QChar::ReplacementCharacter));
-        if (entry.text.isEmpty()) {
-            entry.text = QChar(kWordJoiner);
-        }
+        entry.text = wholeText(std::move(entry.text));
     }
     return unicodeMap(table, std::move(entries));
 }

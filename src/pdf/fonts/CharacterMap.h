@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <QString>
+
 #include <string>
 
 namespace folioforge {
@@ -19,8 +21,12 @@ std::string encodingMapName(const CodeTable &table);
 /// 9.10.3), without the codes that stand for no character.
 std::string makeUnicodeMap(const CodeTable &table);
 
-/// The same with every code, and none of the characters that archives forbid: what stands for none
-/// or for an old mark of joining has U+2060, which is not seen either.
+/// What a glyph that stands for `text` is read as where every code has characters, and none of
+/// those that archives forbid: what stands for none or for an old mark of joining has U+2060, which
+/// is not seen either.
+QString wholeText(QString text);
+
+/// The same map with every code, and with such characters.
 std::string makeWholeUnicodeMap(const CodeTable &table);
 
 } // namespace folioforge

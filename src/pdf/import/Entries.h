@@ -37,6 +37,11 @@ inline std::vector<QPDFObjectHandle> items(QPDFObjectHandle array) {
     return array.isArray() ? array.getArrayAsVector() : std::vector<QPDFObjectHandle>();
 }
 
+/// What an array of one holds; else the object itself, as a filter or its parameters may stand.
+inline QPDFObjectHandle onlyItem(QPDFObjectHandle object) {
+    return object.isArray() && object.getArrayNItems() == 1 ? object.getArrayItem(0) : object;
+}
+
 /// Whether `object` comes for the first time, which `visited` remembers. What is not indirect has
 /// no name to know it by; it lies within something that has.
 inline bool isFirstVisit(const QPDFObjectHandle &object, std::set<QPDFObjGen> &visited) {
