@@ -300,6 +300,8 @@ class DescriptionTest : public QObject {
     void boxesOfJpegXlAreRead_data() {
         QTest::addColumn<QByteArray>("added");
         QTest::newRow("XMP") << describedBox("xml ", saying("A meadow"));
+        QTest::newRow("behind a long one") << describedBox("Exif", QByteArray(2 << 20, '\0')) +
+                                                  describedBox("xml ", saying("A meadow"));
         QTest::newRow("EXIF") << describedBox("Exif", bigWord(0) + describedTiff({"A meadow"}));
     }
     void boxesOfJpegXlAreRead() {
