@@ -5,8 +5,6 @@
 #include "cli/OptionTable.h"
 #include "cli/OptionValues.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <utility>
 
@@ -106,17 +104,9 @@ class ArgumentReader {
             throw ArgumentFault(u"--verify-only writes no PDF: it goes with none of --merge, "
                                 "--output-folder and --verify"_s);
         }
-        const QFileInfo file(options.verifyOnly);
         options.merge = true;
         options.dryRun = true;
-        options.overwrite = Overwrite::Always;
-        options.outputFolder = file.path();
-        options.outputName = file.fileName();
-    }
-
-    /// Whether no PDF is written nor held against its inputs.
-    static bool isDryRun(const ConversionOptions &options) {
-        return options.dryRun && options.verifyOnly.isEmpty();
+        options.overwrite = Overwrite::Never; // What may be replaced is the manifest.
     }
 
     /// Throws ArgumentFault where options do not go together, or have nothing to do.
@@ -129,7 +119,7 @@ class ArgumentReader {
         if (m_result.toStandardOutput && options.dryRun) {
             throw ArgumentFault(u"--dry-run writes no PDF to standard output; merge into a file"_s);
         }
-        if (!m_result.manifest.isEmpty() && (m_result.toStandardOutput || isDryRun(options))) {
+        if (!m_result.manifest.isEmpty() && (m_result.toStandardOutput || options.isTrial())) {
             throw ArgumentFault(
                 u"--manifest tells of PDFs in files: it goes with neither \"--merge -\" "
                 "nor --dry-run"_s);

@@ -111,8 +111,7 @@ void Call::pdfDone(const RunResult &result) {
 
 void Call::reportEntries(const RunResult &result) {
     const bool isAsked = m_arguments.json || !m_arguments.manifest.isEmpty();
-    const bool isThere = !m_arguments.options.dryRun || !m_arguments.options.verifyOnly.isEmpty();
-    const bool hasTarget = isAsked && isThere && result.outcome.isWritten();
+    const bool hasTarget = isAsked && !m_arguments.options.isTrial() && result.outcome.isWritten();
     const auto target = hasTarget ? digestOf(result.outcome.close.path) : std::nullopt;
     for (std::size_t i = 0; i < result.outcome.entries.size(); ++i) {
         const std::size_t index = result.firstEntry + i;

@@ -130,7 +130,8 @@ std::optional<QString> settingsFault(const Arguments &arguments) {
         return u"--manifest: %1 exists; take another name, or --overwrite"_s.arg(
             quoted(arguments.manifest));
     }
-    const bool refused = options.overwrite == Overwrite::Never && checkMergedFile(options);
+    const bool refused = options.verifyOnly.isEmpty() && options.overwrite == Overwrite::Never &&
+                         checkMergedFile(options);
     return refused ? std::optional(nameTakenFault(options)) : std::nullopt;
 }
 

@@ -92,6 +92,8 @@ struct ConversionOptions {
 
     /// Whether a finished PDF is to be compressed.
     [[nodiscard]] bool compresses() const { return compressIndex != 0 || compressFilter; }
+    /// Whether no PDF is written, nor is one held against the entries.
+    [[nodiscard]] bool isTrial() const { return dryRun && verifyOnly.isEmpty(); }
     /// Whether what pages have to show is recorded.
     [[nodiscard]] bool keepsRecord() const { return verify || !verifyOnly.isEmpty(); }
 };

@@ -35,6 +35,9 @@ QString singleFilePath(const QString &folder, const QString &fileName,
 
 QString outputPath(const ConversionOptions &options, const QString &fileName,
                    const std::function<bool(const QString &)> &isTaken) {
+    if (!options.verifyOnly.isEmpty()) {
+        return options.verifyOnly;
+    }
     return options.merge ? mergedFilePath(options)
                          : singleFilePath(options.outputFolder, fileName, isTaken);
 }

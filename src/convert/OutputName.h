@@ -16,7 +16,7 @@ QString mergedFilePath(const ConversionOptions &options);
 /// Whether `path` exists, also as a link to nothing.
 bool isNameTaken(const QString &path);
 
-/// Path of the PDF of `fileName`, or of the merged file where the options ask for one.
+/// Path of the PDF of `fileName`, or of the one that the options merge into or look at.
 QString outputPath(const ConversionOptions &options, const QString &fileName,
                    const std::function<bool(const QString &)> &isTaken = isNameTaken);
 

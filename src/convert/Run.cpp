@@ -8,6 +8,7 @@
 #include "convert/Verifying.h"
 #include "error/Error.h"
 #include "error/Reasons.h"
+#include "files/PathNames.h"
 #include "files/Printable.h"
 #include "files/TemporaryFolder.h"
 
@@ -204,8 +205,7 @@ void Run::compressCompleted(const ConvertInfo &convertInfo) {
 
 void Run::noteProblem(const QString &path, const QString &problem) {
     if (!problem.isEmpty()) {
-        const QString name = path.sliced(m_options.outputFolder.size() + 1);
-        m_problems += u"    %1: %2"_s.arg(printable(name), problem);
+        m_problems += u"    %1: %2"_s.arg(printable(lastPathComponent(path)), problem);
     }
 }
 

@@ -96,6 +96,21 @@ class VerifyTest : public QObject, CommandLineCase {
                  0);
     }
 
+    void thePdfMayBeAmongTheInputs() {
+        QVERIFY(!merged().isEmpty());
+        const ToolRun run = verify({path("all.pdf")});
+        QVERIFY2(run.exitCode == 0, run.err);
+    }
+
+    void itsNameIsTakenAsItIs() {
+        QVERIFY(QFile::copy(merged(), path("found")));
+        QVERIFY(QFile::rename(path("all.pdf"), path("found.pdf")));
+        const ToolRun run = runTool(kProgram, {u"--verify-only"_s, path("found"), u"--overwrite"_s,
+                                               u"older"_s, path("found.pdf")});
+        QVERIFY2(run.exitCode == 0, run.err);
+        QVERIFY(run.out.startsWith(path("found").toUtf8() + '\n'));
+    }
+
     void itGoesWithNoOutput() {
         for (const QStringList &options :
              {QStringList{u"--merge"_s, path("x.pdf")}, QStringList{u"--verify"_s},
