@@ -34,7 +34,9 @@ ExitStatus Call::convertAll() {
 /// The inputs that can be converted; of the others is told.
 std::vector<Input> Call::collect() {
     std::vector<Input> accepted;
+    QStringList files;
     for (Input &input : collectInputs(m_arguments, m_readableLinks, m_pipes)) {
+        files += input.read.entry.filePathName();
         const std::size_t place = m_arguments.sort ? 0 : accepted.size();
         if (!input.leftOut.empty()) {
             m_teller.setAside(place, InputResult::listed(input.shown, input.leftOut));
@@ -46,6 +48,10 @@ std::vector<Input> Call::collect() {
     }
     if (m_arguments.sort) {
         sortInputs(accepted, *m_arguments.sort);
+    }
+    if (const auto fault = manifestFault(m_arguments, files, accepted)) {
+        m_teller.refuse(*fault);
+        accepted.clear();
     }
     return accepted;
 }

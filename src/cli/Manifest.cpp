@@ -3,6 +3,7 @@
 #include "cli/Manifest.h"
 
 #include "cli/Report.h"
+#include "convert/OutputPlan.h"
 #include "error/Error.h"
 #include "files/OutputFile.h"
 #include "pdf/DocumentInfo.h"
@@ -11,6 +12,10 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <filesystem>
+#include <span>
+#include <system_error>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -27,7 +32,51 @@ QByteArray checksumLine(const QString &name, const FileDigest &digest) {
     return (isEscaped ? "\\" : "") + digest.sha256 + "  " + bytes + '\n';
 }
 
+/// Whether others find a file under the name of an input: a pipe holds nothing twice, and the
+/// descriptors of this process are theirs no more.
+bool leadsToFile(const QString &name) {
+    return name != u"-" && !name.startsWith(u"/dev/") && QFileInfo(name).isFile();
+}
+
+/// Whether two paths lead to one file, or would.
+bool areOne(const QString &one, const QString &other) {
+    const QFileInfo a(one);
+    const QFileInfo b(other);
+    if (a.exists() && b.exists()) {
+        std::error_code unknown;
+        return std::filesystem::equivalent(QFile::encodeName(one).toStdString(),
+                                           QFile::encodeName(other).toStdString(), unknown);
+    }
+    return a.fileName() == b.fileName() &&
+           QFileInfo(a.path()).canonicalFilePath() == QFileInfo(b.path()).canonicalFilePath();
+}
+
 } // namespace
+
+std::optional<QString> manifestFault(const Arguments &arguments, const QStringList &files,
+                                     const std::vector<Input> &inputs) {
+    const QString &manifest = arguments.manifest;
+    const auto isManifest = [&](const QString &path) { return areOne(manifest, path); };
+    if (manifest.isEmpty()) {
+        return std::nullopt;
+    }
+    if (std::ranges::any_of(files, isManifest)) {
+        return u"--manifest: \"%1\" is an input"_s.arg(manifest);
+    }
+    std::vector<PDFFileInfo> entries;
+    for (const Input &input : inputs) {
+        entries.push_back(input.read.entry);
+    }
+    OutputPlan plan(entries, arguments.options);
+    for (std::span<const PDFFileInfo> rest = entries; !rest.empty();) {
+        const std::size_t count = arguments.options.merge ? rest.size() : 1;
+        if (isManifest(plan.next(rest.first(count)).path)) {
+            return u"--manifest: \"%1\" is the name of a PDF of these inputs"_s.arg(manifest);
+        }
+        rest = rest.subspan(count);
+    }
+    return std::nullopt;
+}
 
 std::optional<FileDates> datesOf(const QString &path) {
     try {
@@ -40,14 +89,19 @@ std::optional<FileDates> datesOf(const QString &path) {
 Manifest::Manifest(const Arguments &arguments)
     : m_arguments(arguments) {}
 
-void Manifest::add(const InputResult &result) {
-    m_inputs += toJson(result);
-    if (result.source && result.input != u"-") {
+void Manifest::addFiles(const InputResult &result) {
+    if (result.source && leadsToFile(result.input)) {
         m_files.push_back({result.input, *result.source});
+    } else if (result.source) {
+        m_nameless += result.input;
     }
     if (result.target && m_known.insert(result.output).second) {
         m_outputs.push_back({result.output, *result.target});
     }
+}
+
+QStringList Manifest::leftOut() const {
+    return isForSha256sum() ? m_nameless : QStringList();
 }
 
 QByteArray Manifest::asJson() const {
@@ -74,7 +128,7 @@ QByteArray Manifest::asChecksums() const {
 
 void Manifest::write() const {
     const QString &path = m_arguments.manifest;
-    const QByteArray bytes = path.endsWith(u".sha256") ? asChecksums() : asJson();
+    const QByteArray bytes = isForSha256sum() ? asChecksums() : asJson();
     OutputFile file(path);
     file.write({bytes.constData(), static_cast<std::size_t>(bytes.size())});
     file.finish(m_arguments.options.flush);

@@ -4,10 +4,12 @@
 
 #include "cli/Arguments.h"
 #include "cli/InputResult.h"
+#include "cli/Inputs.h"
 #include "files/SourceFile.h"
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <set>
@@ -22,14 +24,20 @@ class Manifest {
   public:
     explicit Manifest(const Arguments &arguments);
 
-    /// Adds an input with its PDF, whose digests are in `result`.
-    void add(const InputResult &result);
+    /// Adds what the report says of an input.
+    void addLine(const QByteArray &line) { m_inputs += line; }
+    /// Adds the files of an input and its PDF, whose digests are in `result`.
+    void addFiles(const InputResult &result);
+    /// The inputs that no list for sha256sum can name, where the manifest is one: what came through
+    /// a pipe, or has a name that is not UTF-8.
+    [[nodiscard]] QStringList leftOut() const;
     /// Writes the file. Throws Error where that fails or its name is taken.
     void write() const;
 
   private:
     [[nodiscard]] QByteArray asJson() const;
     [[nodiscard]] QByteArray asChecksums() const;
+    [[nodiscard]] bool isForSha256sum() const { return m_arguments.manifest.endsWith(u".sha256"); }
 
     struct File {
         QString name;
@@ -38,9 +46,15 @@ class Manifest {
     const Arguments &m_arguments;
     QByteArrayList m_inputs; ///< As the lines of the report.
     std::vector<File> m_files;
+    QStringList m_nameless; ///< Inputs that no name leads to.
     std::vector<File> m_outputs;
     std::set<QString> m_known; ///< Outputs so far.
 };
+
+/// Why the manifest of `arguments` cannot have its name: it is that of one of `files`, which are
+/// read, or of a PDF of `inputs`. Nothing where it can, and where none is asked for.
+std::optional<QString> manifestFault(const Arguments &arguments, const QStringList &files,
+                                     const std::vector<Input> &inputs);
 
 /// What is noted of a file before a run reads it, so that its digest is that of what was read.
 struct FileDates {

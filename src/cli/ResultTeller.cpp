@@ -27,11 +27,8 @@ ResultTeller::ResultTeller(const Arguments &arguments, Console &console)
 
 void ResultTeller::setAside(std::size_t place, const InputResult &result) {
     tell(result);
-    if (m_arguments.json) {
+    if (m_arguments.json || m_manifest) {
         m_aside.emplace_back(place, toJson(result));
-    }
-    if (m_manifest) {
-        m_manifest->add(result);
     }
 }
 
@@ -60,12 +57,14 @@ void ResultTeller::report(std::size_t index, const QString &path, InputResult re
     tell(result);
     addDigest(path, result, dates);
     if (m_manifest) {
-        m_manifest->add(result);
+        m_manifest->addFiles(result);
     }
-    if (m_arguments.json) {
+    if (m_arguments.json || m_manifest) {
         writeLinesBefore(index + 1);
-        m_console.result(toJson(result));
-    } else if (m_arguments.options.dryRun && !m_arguments.quiet && !result.output.isEmpty()) {
+        writeLine(toJson(result));
+    }
+    if (m_arguments.options.dryRun && !m_arguments.json && !m_arguments.quiet &&
+        !result.output.isEmpty()) {
         const bool isUnderItsPdf = result.state != InputResult::State::Kept;
         m_console.result((isUnderItsPdf ? "  " : "") + printable(result.plan()).toUtf8());
     }
@@ -90,6 +89,11 @@ void ResultTeller::fail(const QString &message, ExitStatus status) {
     raise(status);
 }
 
+void ResultTeller::refuse(const QString &fault) {
+    fail(fault, WrongUsage);
+    m_manifest.reset();
+}
+
 void ResultTeller::finish() {
     writeLinesBefore(std::numeric_limits<std::size_t>::max());
     writeManifest();
@@ -101,6 +105,14 @@ void ResultTeller::finish() {
 void ResultTeller::writeManifest() {
     if (!m_manifest) {
         return;
+    }
+    for (const QString &name : m_manifest->leftOut()) {
+        m_console.complain(
+            u"--manifest: %1 is left out, as its name leads to no file that can be read again"_s
+                .arg(printable(name)));
+        if (m_arguments.strict) {
+            raise(SomeFailed);
+        }
     }
     try {
         m_manifest->write();
@@ -144,11 +156,20 @@ void ResultTeller::handOver(const RunResult &result) {
     }
 }
 
+void ResultTeller::writeLine(const QByteArray &line) {
+    if (m_arguments.json) {
+        m_console.result(line);
+    }
+    if (m_manifest) {
+        m_manifest->addLine(line);
+    }
+}
+
 /// Writes what was set aside and stands before the entry `end` or those before it.
 void ResultTeller::writeLinesBefore(std::size_t end) {
     for (; m_asideWritten < m_aside.size() && m_aside[m_asideWritten].first < end;
          ++m_asideWritten) {
-        m_console.result(m_aside[m_asideWritten].second);
+        writeLine(m_aside[m_asideWritten].second);
     }
 }
 

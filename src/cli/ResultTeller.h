@@ -25,8 +25,8 @@ class ResultTeller {
     /// Begins the report.
     ResultTeller(const Arguments &arguments, Console &console);
 
-    /// Tells of an input that is no entry of the run: at once, but in the report before the entry
-    /// `place`.
+    /// Tells of an input that is no entry of the run: at once, but in report and manifest before
+    /// the entry `place`.
     void setAside(std::size_t place, const InputResult &result);
     /// Tells of the entry `index`, whose source stands at `path`.
     void report(std::size_t index, const QString &path, InputResult result,
@@ -35,6 +35,8 @@ class ResultTeller {
     void tellOfPDF(const RunResult &result);
     /// Something went wrong that no input answers for.
     void fail(const QString &message, ExitStatus status = SomeFailed);
+    /// Nothing is converted because of a fault in the arguments, and there is no manifest.
+    void refuse(const QString &fault);
     /// To be called when all is told.
     void finish();
     [[nodiscard]] ExitStatus status() const { return m_status; }
@@ -43,14 +45,15 @@ class ResultTeller {
     void raise(ExitStatus status) { m_status = std::max(m_status, status); }
     void tell(const InputResult &result);
     void handOver(const RunResult &result);
+    void writeLine(const QByteArray &line);
     void writeLinesBefore(std::size_t end);
     void addDigest(const QString &path, InputResult &result, const std::optional<FileDates> &dates);
     void writeManifest();
 
     const Arguments &m_arguments;
     Console &m_console;
-    /// Lines of the report about inputs that are no entries, each with the entry that it stands
-    /// before.
+    /// Lines of report and manifest about inputs that are no entries, each with the entry that it
+    /// stands before.
     std::vector<std::pair<std::size_t, QByteArray>> m_aside;
     std::size_t m_asideWritten = 0;
     std::optional<Manifest> m_manifest;

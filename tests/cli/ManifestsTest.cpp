@@ -101,6 +101,57 @@ class ManifestsTest : public QObject, CommandLineCase {
         QCOMPARE(faultsIn(manifest), QByteArray());
     }
 
+    void noFileOfTheRunBecomesAManifest_data() {
+        QTest::addColumn<QByteArray>("arguments");
+        QTest::newRow("input") << QByteArray("--manifest in/a.txt in/a.txt");
+        QTest::newRow("input by another name") << QByteArray("--manifest link.txt in/a.txt");
+        QTest::newRow("input that is refused")
+            << QByteArray("--manifest in/b.png in/b.png in/a.txt");
+        QTest::newRow("input of a folder") << QByteArray("--manifest in/b.png in");
+        QTest::newRow("merged PDF") << QByteArray("--manifest ./known.pdf --merge known in/a.txt");
+        QTest::newRow("new PDF") << QByteArray(
+            "--manifest out/../new.pdf --merge new.pdf in/a.txt");
+        QTest::newRow("PDF of an input") << QByteArray("--manifest 'a(1).pdf' in/a.txt in/a.txt");
+        QTest::newRow("PDF to verify")
+            << QByteArray("--manifest ./known.pdf --verify-only known.pdf in/a.txt");
+    }
+    void noFileOfTheRunBecomesAManifest() {
+        QFETCH(const QByteArray, arguments);
+        QVERIFY(QDir().mkpath(path("in")));
+        text("in/a.txt");
+        text("in/b.png", "no picture");
+        QCOMPARE(
+            shell("ln in/a.txt link.txt && folioforge-cli --merge known.pdf in/a.txt").exitCode, 0);
+        const QByteArray before = shell("find . -type f | xargs sha256sum | sort").out;
+        const ToolRun run = shell("folioforge-cli --overwrite always " + arguments);
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.contains("--manifest: "), run.err);
+        QCOMPARE(shell("find . -type f | xargs sha256sum | sort").out, before);
+    }
+
+    void whatHasNoNameToReadItByIsNotGivenToSha256sum() {
+        const ToolRun run =
+            shell("printf 3 > $'\\xff.txt' && printf 4 > b.txt && printf 1 | folioforge-cli "
+                  "--manifest list.sha256 --merge all.pdf - <(printf 2) $'\\xff.txt' b.txt");
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.err.count("is left out"), 3);
+        shell("rm $'\\xff.txt'"); // Qt would leave it.
+        const ToolRun check = shell("sha256sum --strict -c list.sha256");
+        QCOMPARE(check.out, QByteArray("b.txt: OK\n./all.pdf: OK\n"));
+        QCOMPARE(check.exitCode, 0);
+    }
+
+    void inputsStandInTheOrderOfTheReport() {
+        const ToolRun run = convert({u"--json"_s, u"--manifest"_s, path("list.json"), text("a.txt"),
+                                     path("missing.txt"), text("b.txt")});
+        QJsonArray inputs;
+        for (const QJsonObject &input : objectsOf(run.out)) {
+            inputs.append(input);
+        }
+        QCOMPARE(inputs.size(), 3);
+        QCOMPARE(read(path("list.json"))[u"inputs"_s].toArray(), inputs);
+    }
+
     void whatCannotBeDescribedIsRefused() {
         const QString manifest = path("list.json");
         QCOMPARE(convert({u"--dry-run"_s, u"--manifest"_s, manifest, text("a.txt")}).exitCode, 2);
