@@ -8,11 +8,11 @@
 #include "error/Error.h"
 #include "error/Reasons.h"
 #include "files/SourceFile.h"
+#include "files/PathNames.h"
 #include "files/SystemCalls.h"
 #include "pdf/import/LeftParts.h"
 
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QStringList>
 
 #include <algorithm>
@@ -109,9 +109,9 @@ bool isAmongTagged(std::span<const PDFFileInfo *const> entries) {
            std::ranges::any_of(entries, &PDFFileInfo::isTagged);
 }
 
-/// How the pages that are drawn are tagged; nothing where they are not.
+/// How the pages that are drawn for the PDF at `path` are tagged; nothing where they are not.
 std::optional<TagOptions> tagOptions(std::span<const PDFFileInfo *const> entries,
-                                     const ConversionOptions &options) {
+                                     const QString &path, const ConversionOptions &options) {
     // The elements of pages that are drawn stand in object streams, which part 1 does not know.
     if (options.archive && partOf(options.archive->level) == 1) {
         return std::nullopt;
@@ -123,8 +123,8 @@ std::optional<TagOptions> tagOptions(std::span<const PDFFileInfo *const> entries
                                       : std::nullopt;
     }
     const QString name =
-        options.merge || entries.empty() ? options.outputName : entries.front()->fileName();
-    return TagOptions{options.language, QFileInfo(name).completeBaseName(), options.accessible};
+        options.merge || entries.empty() ? lastPathComponent(path) : entries.front()->fileName();
+    return TagOptions{options.language, withoutExtension(name), options.accessible};
 }
 
 /// Names the sources without structure tags where others have some.
@@ -266,7 +266,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     StoppableCalls calls(given.calls, stop);
     ConversionOptions options = given;
     options.calls = calls;
-    const std::optional<TagOptions> tags = tagOptions(entries, options);
+    const std::optional<TagOptions> tags = tagOptions(entries, path, options);
     options.tagged = tags.has_value();
     PDFContext context(path, {.info = options.info,
                               .encryption = encryptionFor(options.security),

@@ -168,7 +168,7 @@ class TaggedTest : public QObject, private ConversionCase {
         QTest::addColumn<QString>("given");
         QTest::addColumn<QString>("title");
         QTest::newRow("given") << true << u"My Book"_s << u"My Book"_s;
-        QTest::newRow("the merged file's name") << true << QString() << u"all.v2"_s;
+        QTest::newRow("the merged file's name") << true << QString() << u"report v1.2"_s;
         QTest::newRow("the file's name") << false << QString() << u"a.b"_s;
     }
     void readersShowATitle() {
@@ -176,10 +176,10 @@ class TaggedTest : public QObject, private ConversionCase {
         QFETCH(QString, given);
         QFETCH(QString, title);
         m_options.merge = merge;
-        m_options.outputName = u"all.v2.pdf"_s;
+        m_options.outputName = u"report v1.2"_s;
         m_options.info.title = given;
         addText("a.b.txt", "words\n");
-        const QString pdf = converted();
+        const QString pdf = converted(merge ? "out/report v1.2.pdf" : "out/a.b.pdf");
         QCOMPARE(PdfProbe(pdf).info(u"Title"_s), title);
         auto preferences = opened(pdf)->getRoot().getKey("/ViewerPreferences");
         QVERIFY(preferences.getKey("/DisplayDocTitle").getBoolValue());
