@@ -54,6 +54,7 @@ void EntryWriter::write(PDFFileInfo entry, ConversionOptions options) {
     protect(options.security, password);
     options.merge = true; // The name is chosen here.
     options.flush = Flush::Never;
+    options.verify = false; // Nobody deletes an original for what is shown.
     stop();
     m_next = Job{std::move(entry), std::move(options), std::move(password)};
     if (!m_isWorking) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "preview/EntryWriter.h"
+#include "support/FaultyCalls.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/PhotoPage.h"
@@ -81,6 +82,21 @@ class EntryWriterTest : public QObject {
             return QFileInfo(result(writer).path).size();
         };
         QVERIFY(sizeWith(3) < sizeWith(0) / 10);
+    }
+
+    void whatIsShownIsNotVerified() {
+        const auto bytesMoved = [this](bool verify) {
+            FaultyCalls calls;
+            ConversionOptions options;
+            options.calls = calls;
+            options.verify = verify;
+            EntryWriter writer(bundlePath());
+            writer.write(text("words"), options);
+            return result(writer).pages == 1 ? calls.moves() : -1;
+        };
+        const int moves = bytesMoved(false);
+        QVERIFY(moves > 0);
+        QCOMPARE(bytesMoved(true), moves);
     }
 
     void whatIsToBeProtectedIsProtectedInTheTemporaryFile_data() {
