@@ -67,7 +67,7 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
     }
     }
     if (options.archive && options.archive->embedSources) {
-        context.attachSource({file, entry.fileName(), mimeTypeOf(entry)}, before);
+        context.attachSource({file, entry.fileName(), type}, before);
     }
     // A failure that shows only now is this entry's too.
     context.waitForPages();

@@ -247,9 +247,10 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
     const auto font = fontOf(options);
     ContextSink sink(context, font, page, options.tagged, 0, stop);
     sink.drawArtifacts();
-    std::vector<TextTrace> traces;
-    TextRecorder recorder(*font, traces, needsCharacters(options));
-    sink.recordTo(recorder);
+    std::optional<TextRecorder> recorder;
+    if (record != nullptr) {
+        sink.recordTo(recorder.emplace(*font, record->text.margins, needsCharacters(options)));
+    }
     MarginText texts(*font);
     for (int i = first; i < first + pages && !stop.stop_requested(); ++i) {
         metadata.page = i + 1;
@@ -258,10 +259,9 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
             texts.setInto(above, withMetadata(options.readable->header, metadata), sink);
             texts.setInto(below, withMetadata(options.readable->footer, metadata), sink);
         });
-        recorder.endPage();
-    }
-    if (record != nullptr) {
-        record->text.margins = std::move(traces);
+        if (recorder) {
+            recorder->endPage();
+        }
     }
     return texts.warnings();
 }
