@@ -2,8 +2,6 @@
 
 #include "convert/PictureDescriptions.h"
 
-#include <set>
-
 namespace folioforge {
 
 namespace {
@@ -29,18 +27,17 @@ QString PictureDescriptions::of(const QString &path) const {
 }
 
 QStringList PictureDescriptions::unused(const QStringList &paths) const {
-    std::set<QString> known;
-    for (const QString &path : paths) {
-        const QStringList names = namesOf(path);
-        known.insert(names.begin(), names.end());
-    }
-    QStringList unused;
-    for (const auto &[name, description] : m_byName) {
-        if (!known.contains(name)) {
-            unused += name;
+    std::map<QString, QString> unused = m_byName;
+    for (auto path = paths.begin(); path != paths.end() && !unused.empty(); ++path) {
+        for (const QString &name : namesOf(*path)) {
+            unused.erase(name);
         }
     }
-    return unused;
+    QStringList names;
+    for (const auto &[name, description] : unused) {
+        names += name;
+    }
+    return names;
 }
 
 } // namespace folioforge
