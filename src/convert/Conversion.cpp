@@ -7,7 +7,6 @@
 #include "convert/Verifying.h"
 #include "error/Error.h"
 #include "error/Reasons.h"
-#include "files/SourceFile.h"
 #include "files/PathNames.h"
 #include "files/SystemCalls.h"
 #include "pdf/import/LeftParts.h"
@@ -24,20 +23,6 @@
 namespace folioforge {
 namespace {
 
-/// Turns every exception of the engine into its reason.
-template<typename Step> QString reasonOfFailure(Step &&step) {
-    try {
-        step();
-        return {};
-    } catch (const Error &error) {
-        return error.reason();
-    } catch (const std::bad_alloc &) {
-        return notEnoughMemory().reason();
-    } catch (const std::exception &failure) {
-        return QString::fromLocal8Bit(failure.what());
-    }
-}
-
 void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
               const std::stop_token &stop, EntryOutcome &outcome, EntryRecord *record) {
     const PDFContext::Mark before = context.mark();
@@ -48,12 +33,14 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
         context.beginSource(entry.fileName());
     }
     switch (entry.kind()) {
+    QByteArray type = "text/plain";
     case FileKind::Text:
         outcome.warnings = addTextPage(entry, context, options, stop, record);
         break;
     case FileKind::Pdf: {
         AddedDocument document = addPDFFile(entry, context, record);
         outcome.parts = std::move(document.parts);
+        type = "application/pdf";
         outcome.warnings = std::move(document.warnings);
         break;
     }
@@ -62,6 +49,7 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
     case FileKind::Other: {
         WrittenImage image = addImagePages(entry, context, options, record);
         outcome.embeddedAs = image.embeddedAs;
+        type = mimeTypeOf(image.kind);
         outcome.warnings = std::move(image.warnings);
         break;
     }

@@ -269,13 +269,15 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
 WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
                            const ConversionOptions &options, EntryRecord *record) {
     const auto metadata = options.stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep;
-    WrittenImage written{EmbeddedAs::OwnBytes, {}};
+    WrittenImage written;
+    written.embeddedAs = EmbeddedAs::OwnBytes;
     Descriptions descriptions(entry, options);
     const bool isMissing = options.accessible && descriptions.isMissing();
     const auto draw = [&](PdfImage image) {
         if (image.embeddedAs != EmbeddedAs::OwnBytes) {
             written.embeddedAs = image.embeddedAs;
         }
+        written.kind = image.header.kind;
         drawOnPage(std::move(image), descriptions.next(), context, options, record);
     };
     if (record != nullptr && !options.verifyOnly.isEmpty()) {

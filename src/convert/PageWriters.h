@@ -34,6 +34,7 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
 /// How a picture became a page, or several.
 struct WrittenImage {
     EmbeddedAs embeddedAs = EmbeddedAs::Recompressed; ///< Own bytes where those of all are.
+    ImageKind kind = ImageKind::Png;                  ///< What the file is.
     Warnings warnings;                                ///< What of the file is not on the page.
 };
 

@@ -2,14 +2,9 @@
 
 #include "convert/SourceType.h"
 
-#include "filelist/PDFFileInfo.h"
-#include "image/ImageHeader.h"
-
 namespace folioforge {
 
-namespace {
-
-QByteArray typeOf(ImageKind kind) {
+QByteArray mimeTypeOf(ImageKind kind) {
     switch (kind) {
     case ImageKind::Jpeg:
         return "image/jpeg";
@@ -41,19 +36,6 @@ QByteArray typeOf(ImageKind kind) {
         return "image/jxl";
     }
     return "application/octet-stream";
-}
-
-} // namespace
-
-QByteArray mimeTypeOf(const PDFFileInfo &entry) {
-    switch (entry.kind()) {
-    case FileKind::Text:
-        return "text/plain";
-    case FileKind::Pdf:
-        return "application/pdf";
-    default:
-        return typeOf(readImageHeader(entry.filePathName()).kind);
-    }
 }
 
 } // namespace folioforge

@@ -2,14 +2,13 @@
 
 #pragma once
 
+#include "image/ImageHeader.h"
+
 #include <QByteArray>
 
 namespace folioforge {
 
-class PDFFileInfo;
-
-/// The MIME type of an entry's file, such as "image/png", by its contents. Throws
-/// Error where they cannot be read.
-QByteArray mimeTypeOf(const PDFFileInfo &entry);
+/// The MIME type of pictures of a kind, such as "image/png".
+QByteArray mimeTypeOf(ImageKind kind);
 
 } // namespace folioforge
