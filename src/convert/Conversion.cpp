@@ -2,12 +2,14 @@
 
 #include "convert/Conversion.h"
 
+#include "convert/FailureReason.h"
 #include "convert/PageWriters.h"
 #include "convert/SourceType.h"
 #include "convert/Verifying.h"
 #include "error/Error.h"
 #include "error/Reasons.h"
 #include "files/PathNames.h"
+#include "files/SourceFile.h"
 #include "files/SystemCalls.h"
 #include "pdf/import/LeftParts.h"
 
@@ -16,7 +18,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <new>
 #include <numeric>
 #include <utility>
 
@@ -32,15 +33,15 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
     if (entry.kind() != FileKind::Pdf) {
         context.beginSource(entry.fileName());
     }
-    switch (entry.kind()) {
     QByteArray type = "text/plain";
+    switch (entry.kind()) {
     case FileKind::Text:
         outcome.warnings = addTextPage(entry, context, options, stop, record);
         break;
     case FileKind::Pdf: {
         AddedDocument document = addPDFFile(entry, context, record);
-        outcome.parts = std::move(document.parts);
         type = "application/pdf";
+        outcome.parts = std::move(document.parts);
         outcome.warnings = std::move(document.warnings);
         break;
     }
@@ -48,8 +49,8 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
     case FileKind::FurtherImage:
     case FileKind::Other: {
         WrittenImage image = addImagePages(entry, context, options, record);
-        outcome.embeddedAs = image.embeddedAs;
         type = mimeTypeOf(image.kind);
+        outcome.embeddedAs = image.embeddedAs;
         outcome.warnings = std::move(image.warnings);
         break;
     }
@@ -169,7 +170,7 @@ void addAllMarginTexts(std::span<const PDFFileInfo *const> entries, PDFContext &
         EntryOutcome &outcome = outcomes[i];
         if (entries[i]->kind() == FileKind::Text) {
             std::ranges::move(addMarginTexts(*entries[i], first, outcome.pages, context, options,
-                                             stop, &record[i]),
+                                             stop, options.keepsRecord() ? &record[i] : nullptr),
                               std::back_inserter(outcome.warnings));
         }
         first += outcome.pages;

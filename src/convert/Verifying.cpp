@@ -2,13 +2,13 @@
 
 #include "convert/Verifying.h"
 
+#include "convert/FailureReason.h"
 #include "error/Error.h"
 #include "error/Reasons.h"
 #include "files/OutputFile.h"
 #include "files/SourceFile.h"
 #include "pdf/Password.h"
 
-#include <new>
 #include <utility>
 
 namespace folioforge {
@@ -76,16 +76,14 @@ QString verifyCopy(const QString &path, const QString &copy, const ConversionOpt
     if (!options.verify) {
         return {};
     }
-    try {
+    QString fault;
+    const QString failure = reasonOfFailure([&] {
         const SourceFile original = SourceFile::open(path, options.calls);
         const SourceFile smaller = SourceFile::open(copy, options.calls);
-        return copyFault(finished(original, options), finished(smaller, options),
-                         verifyOptions(options, stop));
-    } catch (const Error &error) {
-        return error.reason();
-    } catch (const std::bad_alloc &) {
-        return notEnoughMemory().reason();
-    }
+        fault = copyFault(finished(original, options), finished(smaller, options),
+                          verifyOptions(options, stop));
+    });
+    return failure.isEmpty() ? fault : failure;
 }
 
 void verifyFound(const DocumentRecord &record, const ConversionOptions &options,
