@@ -3,7 +3,6 @@
 #include "cli/AccessibilityOptions.h"
 
 #include "cli/OptionValues.h"
-#include "text/TextDecoder.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -27,14 +26,9 @@ QString parseLanguage(const QString &text) {
 
 /// The descriptions of --alt-file. Throws ArgumentFault.
 PictureDescriptions readDescriptions(const QByteArray &file) {
-    const QString text = decodeText(contentsOf(file, "--alt-file"_L1));
-    if (text.isNull()) {
-        throw ArgumentFault(
-            u"--alt-file: \"%1\" cannot be read as UTF-8"_s.arg(QString::fromUtf8(file)));
-    }
     PictureDescriptions descriptions;
     int number = 0;
-    for (const QString &line : text.split(u'\n')) {
+    for (const QString &line : textContentsOf(file, "--alt-file"_L1).split(u'\n')) {
         ++number;
         const qsizetype tab = line.indexOf(u'\t');
         const QString name = line.first(std::max<qsizetype>(tab, 0));

@@ -4,10 +4,9 @@
 
 #include "cli/OptionValues.h"
 #include "image/IccProfile.h"
+#include "image/LimitedPicture.h"
 #include "image/OldProfile.h"
 #include "pdf/archive/ArchiveLevel.h"
-
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -27,17 +26,15 @@ void requireArchive(const ArchiveArguments &archive) {
 
 QByteArray readInkProfile(const QByteArray &name, ArchiveLevel level) {
     constexpr qint64 kMaxBytes = 16 << 20;
-    const QString shown = u"--cmyk-profile: \"%1\""_s.arg(QString::fromUtf8(name));
-    QFile file(QFile::decodeName(name));
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw ArgumentFault(shown + u" cannot be read: "_s + file.errorString());
-    }
-    const QByteArray profile = fittingProfile(file.read(kMaxBytes), ImageColor::Cmyk);
+    constexpr QLatin1StringView kOption = "--cmyk-profile"_L1;
+    const QString shown = u"%1: \"%2\""_s.arg(kOption, QString::fromUtf8(name));
+    const QByteArray profile =
+        fittingProfile(contentsOf(name, kOption, kMaxBytes), ImageColor::Cmyk);
     if (profile.isEmpty()) {
         throw ArgumentFault(shown + u" is no ICC profile of CMYK colours"_s);
     }
     const int version = versionOfProfile(profile);
-    const int newest = partOf(level) == 1 ? 2 : 4;
+    const int newest = pictureLimitsOf(level).profileVersion;
     if (version > newest) {
         throw ArgumentFault(shown + u" is of version %1, and %2 takes %3"_s.arg(version)
                                         .arg(claimsOf(level).pdfAName())

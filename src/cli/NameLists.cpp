@@ -2,7 +2,6 @@
 
 #include "cli/Arguments.h"
 #include "cli/OptionValues.h"
-#include "text/TextDecoder.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -56,14 +55,9 @@ QStringList readBookmarkTitles(const Arguments &arguments) {
     if (!arguments.bookmarkTitleFile) {
         return {};
     }
-    const QByteArray &name = *arguments.bookmarkTitleFile;
-    const QString text = decodeText(contentsOf(name, "--bookmark-titles"_L1));
-    if (text.isNull()) {
-        throw ArgumentFault(
-            u"--bookmark-titles: \"%1\" cannot be read as UTF-8"_s.arg(QString::fromUtf8(name)));
-    }
     QStringList titles;
-    for (const QString &line : text.split(u'\n')) {
+    for (const QString &line :
+         textContentsOf(*arguments.bookmarkTitleFile, "--bookmark-titles"_L1).split(u'\n')) {
         titles += line.trimmed();
     }
     return titles;
@@ -75,7 +69,8 @@ void requireOneReading(const Arguments &arguments) {
                           std::ranges::count(arguments.inputs, "-") + (isPassword ? 1 : 0) +
                           (arguments.inputPasswordFile == "-" ? 1 : 0) +
                           (arguments.bookmarkTitleFile == "-" ? 1 : 0) +
-                          (arguments.altFile == "-" ? 1 : 0);
+                          (arguments.altFile == "-" ? 1 : 0) +
+                          (arguments.archive.inkProfileFile == "-" ? 1 : 0);
     if (readings > 1) {
         throw ArgumentFault(u"Standard input cannot be read twice"_s);
     }

@@ -95,6 +95,14 @@ QByteArray contentsOf(const QByteArray &name, QLatin1StringView option, qint64 m
     return contents;
 }
 
+QString textContentsOf(const QByteArray &name, QLatin1StringView option) {
+    if (QString text = decodeText(contentsOf(name, option)); !text.isNull()) {
+        return text;
+    }
+    throw ArgumentFault(
+        u"%1: \"%2\" cannot be read as UTF-8"_s.arg(option, QString::fromUtf8(name)));
+}
+
 QByteArrayList linesIn(const QByteArray &contents) {
     QByteArrayList lines = contents.split('\n');
     for (QByteArray &line : lines) {

@@ -39,6 +39,9 @@ QString textOf(const QByteArray &bytes);
 QByteArray contentsOf(const QByteArray &name, QLatin1StringView option,
                       qint64 most = std::numeric_limits<qint64>::max());
 
+/// The same as text. Throws ArgumentFault also where that is not valid UTF-8.
+QString textContentsOf(const QByteArray &name, QLatin1StringView option);
+
 /// The lines in `contents`, also such as Windows ends.
 QByteArrayList linesIn(const QByteArray &contents);
 

@@ -18,13 +18,14 @@ class ArchiveCase : protected CommandLineCase {
                 QStringLiteral("3u"), QStringLiteral("3a")};
     }
 
-    /// What tests/support/archive finds that a document breaks of a standard, a line each.
+    /// What tests/support/archive finds that a document breaks of a standard, a line each, and what
+    /// it says where it fails.
     static QByteArray faultsOf(const QString &standard, const QStringList &files) {
-        return runTool(python(),
-                       QStringList{inSource(QStringLiteral("tests/support/archive/check-archive")),
-                                   standard} +
-                           files)
-            .out;
+        const ToolRun run = runTool(
+            python(),
+            QStringList{inSource(QStringLiteral("tests/support/archive/check-archive")), standard} +
+                files);
+        return run.exitCode == 0 || !run.out.isEmpty() ? run.out + run.err : "failed: " + run.err;
     }
 
     /// The arguments for a standard, with a profile for inks.

@@ -243,6 +243,16 @@ class ArchiveTest : public QObject, ArchiveCase {
         QCOMPARE(member(objectsOf(run.out).at(0), "archive"), u"PDF/A-2u"_s);
     }
 
+    void aSourceThatBreaksTheStandardAndFailsTakesNoClaimAway() {
+        const ToolRun run = merge("a.pdf", {u"--archive"_s, u"pdfa-2a"_s, u"--archive-fallback"_s,
+                                            u"--accessible"_s, u"--json"_s, text("a.txt"),
+                                            writePdf(path("plain.pdf"), 1)});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(member(objectsOf(run.out).at(1), "message").contains(u"no structure tags"));
+        QCOMPARE(member(objectsOf(run.out).at(0), "archive"), u"PDF/A-2a"_s);
+        QVERIFY(readFile(path("a.pdf")).contains("pdfaid"));
+    }
+
     void aPageBeyondTheLimitsIsRefused_data() {
         QTest::addColumn<QString>("standard");
         QTest::addColumn<int>("pixels");
@@ -269,6 +279,8 @@ class ArchiveTest : public QObject, ArchiveCase {
             << QStringList{u"--archive"_s, u"pdfa-2u"_s, u"--embed-sources"_s};
         QTest::newRow("no profile")
             << QStringList{u"--archive"_s, u"pdfa-2u"_s, u"--cmyk-profile"_s, u"/dev/null"_s};
+        QTest::newRow("endless profile")
+            << QStringList{u"--archive"_s, u"pdfa-2u"_s, u"--cmyk-profile"_s, u"/dev/zero"_s};
         QTest::newRow("no standard") << QStringList{u"--archive"_s, u"pdfa-4"_s};
     }
     void whatDoesNotGoTogetherIsWrongUsage() {

@@ -267,6 +267,24 @@ class AttachmentsTest : public QObject, protected MergeCase {
         }
     }
 
+    void theSourceOfPagesThatAreTakenBackIsNotAttached() {
+        const QString path = newPath();
+        PDFContext context(path, unflushed());
+        const auto addSource = [&](const QString &name) {
+            const PDFContext::Mark before = context.mark();
+            context.beginPage({0, 0, 10, 10});
+            context.endPage();
+            const QString file = writeFile(m_folder.filePath(name), name.toUtf8() + bytes());
+            context.attachSource({FileVersion::of(file), name, "text/plain"}, before);
+            return before;
+        };
+        addSource(u"one"_s);
+        context.rollBack(addSource(u"two"_s));
+        addSource(u"three"_s);
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        QCOMPARE(detached(path), QStringList({u"one=one"_s, u"three=three"_s}));
+    }
+
     void aPortfolioStaysOneWhereItIsAllOfTheDocument() {
         PdfFixture source = withCatalog("/Names << /EmbeddedFiles << /Names [(one.xml) 20 0 R] >> "
                                         ">> /Collection << /View /T /D (one.xml) >>");

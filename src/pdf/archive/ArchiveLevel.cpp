@@ -3,6 +3,7 @@
 #include "pdf/archive/ArchiveLevel.h"
 
 #include "error/Reasons.h"
+#include "image/LimitedPicture.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +27,11 @@ Claims claimsOf(ArchiveLevel level) {
 
 int partOf(ArchiveLevel level) {
     return claimsOf(level).pdfA.toInt();
+}
+
+/// ISO 19005-1 stands on PDF 1.4, whose readers know neither opacity nor JPEG 2000.
+PictureLimits pictureLimitsOf(ArchiveLevel level) {
+    return partOf(level) == 1 ? PictureLimits{false, false, 8, 2} : PictureLimits{};
 }
 
 bool isTagged(ArchiveLevel level) {

@@ -9,6 +9,8 @@
 
 namespace folioforge {
 
+struct PictureLimits;
+
 /// The standards for archives that a document can be asked to keep (ISO 19005).
 enum class ArchiveLevel {
     PdfA1b, ///< Looks the same for ever.
@@ -22,6 +24,9 @@ enum class ArchiveLevel {
 Claims claimsOf(ArchiveLevel level);
 /// The part of the standard: 1, 2 or 3.
 int partOf(ArchiveLevel level);
+
+/// What its pictures may have.
+PictureLimits pictureLimitsOf(ArchiveLevel level);
 
 /// Whether its documents are tagged.
 bool isTagged(ArchiveLevel level);

@@ -19,11 +19,6 @@ namespace folioforge {
 
 namespace {
 
-/// ISO 19005-1 stands on PDF 1.4, whose readers know neither opacity nor JPEG 2000.
-PictureLimits limitsOf(ArchiveLevel level) {
-    return partOf(level) == 1 ? PictureLimits{false, false, 8, 2} : PictureLimits{};
-}
-
 /// Without characters that XML cannot hold, in which the same is said once more.
 QString archivable(const QString &text) {
     QString result = text;
@@ -74,7 +69,7 @@ void ArchiveRules::keepPicture(PdfImage &image, int page) {
     if (!image.iccProfile.isEmpty() && !isOfSource(image.iccProfile)) {
         image.iccProfile.clear();
     }
-    if (const QString reason = limit(image, limitsOf(m_options.level)); !reason.isEmpty()) {
+    if (const QString reason = limit(image, pictureLimitsOf(m_options.level)); !reason.isEmpty()) {
         forgo(reason, page);
     }
     for (Warning &warning : std::exchange(image.warnings, {})) {
