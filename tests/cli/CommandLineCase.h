@@ -5,6 +5,7 @@
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/Places.h"
+#include "support/Python.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -13,7 +14,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -25,13 +25,6 @@
 namespace folioforge::test {
 
 inline const QString kProgram = commandLineProgram();
-
-/// The system's own Python, which packages are installed for.
-inline QString python() {
-    const QString own =
-        QStandardPaths::findExecutable(QStringLiteral("python3"), {QStringLiteral("/usr/bin")});
-    return own.isEmpty() ? QStandardPaths::findExecutable(QStringLiteral("python3")) : own;
-}
 
 /// What the report `output` tells of each input, without its head.
 inline QList<QJsonObject> objectsOf(const QByteArray &output) {

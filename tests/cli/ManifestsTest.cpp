@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "CommandLineCase.h"
+#include "Schemas.h"
 #include "support/TestUnit.h"
-
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -11,26 +9,8 @@ using namespace folioforge::test;
 
 namespace {
 
-/// What another program says of a manifest that is not as the schemas demand.
 QByteArray faultsIn(const QString &manifest) {
-    const QString script = uR"(
-import json, jsonschema, sys
-report = json.load(open(sys.argv[1]))
-schema = json.loads(open(sys.argv[2]).read().replace("report.schema.json#", "#"))
-schema["$defs"] = report["$defs"]
-jsonschema.Draft202012Validator.check_schema(schema)
-for fault in jsonschema.Draft202012Validator(schema).iter_errors(json.load(open(sys.argv[3]))):
-    print(fault.message, [inner.message for inner in fault.context])
-)"_s;
-    QString python = QStandardPaths::findExecutable(u"python3"_s, {u"/usr/bin"_s});
-    python = python.isEmpty() ? QStandardPaths::findExecutable(u"python3"_s) : python;
-    const ToolRun run = runTool(python, {u"-c"_s, script, inSource(u"docs/report.schema.json"_s),
-                                         inSource(u"docs/manifest.schema.json"_s), manifest});
-    return run.exitCode == 0 ? run.out : "python: " + run.err;
-}
-
-QString sumOf(const QString &file) {
-    return QString::fromLatin1(runTool(u"sha256sum"_s, {file}).out.left(64));
+    return schemaFaultsOf(u"manifest"_s, readFile(manifest).replace('\n', ' '));
 }
 
 QJsonObject read(const QString &manifest) {
@@ -60,11 +40,11 @@ class ManifestsTest : public QObject, CommandLineCase {
         for (const auto &input : inputs) {
             sums += member(input.toObject(), "sha256");
         }
-        QVERIFY(sums.contains(sumOf(path("a.txt"))) && sums.contains(sumOf(path("b.png"))));
+        QVERIFY(sums.contains(sha256(path("a.txt"))) && sums.contains(sha256(path("b.png"))));
         const QJsonArray outputs = list[u"outputs"_s].toArray();
         QCOMPARE(outputs.size(), 2);
         QCOMPARE(member(outputs[0].toObject(), "sha256"),
-                 sumOf(member(outputs[0].toObject(), "file")));
+                 sha256(member(outputs[0].toObject(), "file")));
         QVERIFY(list[u"options"_s].toArray().contains(u"--title=A title"_s));
     }
 
@@ -172,7 +152,7 @@ class ManifestsTest : public QObject, CommandLineCase {
             0);
         QCOMPARE(faultsIn(manifest), QByteArray());
         QCOMPARE(member(read(manifest)[u"outputs"_s].toArray()[0].toObject(), "sha256"),
-                 sumOf(pdf));
+                 sha256(pdf));
     }
 };
 

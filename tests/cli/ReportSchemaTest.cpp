@@ -1,41 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "CommandLineCase.h"
+#include "Schemas.h"
 #include "support/PhotoPage.h"
 #include "support/TestUnit.h"
 
-#include <QCryptographicHash>
 #include <QImage>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
-
-namespace {
-
-/// What another program says of the lines of `report` that are not as the schema demands.
-QByteArray faultsOf(const QByteArray &report) {
-    const QString script = uR"(
-import json, jsonschema, sys
-schema = json.load(open(sys.argv[1]))
-jsonschema.Draft202012Validator.check_schema(schema)
-validator = jsonschema.Draft202012Validator(schema)
-for line in sys.stdin.buffer.read().decode().splitlines():
-    for fault in validator.iter_errors(json.loads(line)):
-        print(line, fault.message, [inner.message for inner in fault.context])
-)"_s;
-    const QString schema = inSource(u"docs/report.schema.json"_s);
-    const ToolRun run = runTool(python(), {u"-c"_s, script, schema}, report);
-    return run.exitCode == 0 ? run.out : "python: " + run.err;
-}
-
-QString sha256(const QString &file) {
-    const ToolRun run = runTool(u"sha256sum"_s, {file});
-    return QString::fromLatin1(run.out.left(64));
-}
-
-} // namespace
 
 /// The report of --json as docs/report.schema.json describes it.
 class ReportSchemaTest : public QObject, CommandLineCase {
@@ -112,7 +86,7 @@ class ReportSchemaTest : public QObject, CommandLineCase {
         }
         states.remove(QString()); // Of the heads.
         QCOMPARE(states.size(), 6);
-        const QByteArray faults = faultsOf(m_reports);
+        const QByteArray faults = schemaFaultsOf(u"report"_s, m_reports);
         QVERIFY2(faults.isEmpty(), faults.constData());
     }
 
@@ -122,7 +96,7 @@ class ReportSchemaTest : public QObject, CommandLineCase {
               "{\"input\":\"a\",\"output\":null,\"pages\":0,\"state\":\"lost\",\"warnings\":[]}",
               "{\"input\":\"a\",\"output\":null,\"pages\":0,\"state\":\"failed\",\"warnings\":[]"
               "}"}) {
-            QVERIFY2(faultsOf(line).startsWith(line), line.constData());
+            QVERIFY2(schemaFaultsOf(u"report"_s, line).startsWith(line), line.constData());
         }
     }
 };

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "ConversionCase.h"
-
-#include "support/PdfFixture.h"
-#include "support/PdfProbe.h"
+#include "support/Evidence.h"
+#include "support/OpenedPdf.h"
 #include "support/Places.h"
+#include "support/Python.h"
 #include "support/TaggedPage.h"
 #include "support/TestUnit.h"
 
 #include <qpdf/Buffer.hh>
-#include <qpdf/QPDF.hh>
 
 #include <QImage>
 #include <QXmlStreamReader>
@@ -21,12 +20,6 @@ using namespace folioforge;
 using namespace folioforge::test;
 
 namespace {
-
-/// The system's own Python is the one that packages are installed for.
-QString python() {
-    const QString own = u"/usr/bin/python3"_s;
-    return QFile::exists(own) ? own : u"python3"_s;
-}
 
 /// Looks at a page's content operator by operator.
 class ContentWalk : public QPDFObjectHandle::ParserCallbacks {
@@ -82,17 +75,9 @@ class ContentWalk : public QPDFObjectHandle::ParserCallbacks {
 class AccessibleTest : public QObject, private ConversionCase {
     Q_OBJECT
 
-    static std::unique_ptr<QPDF> opened(const QString &path) {
-        auto document = std::make_unique<QPDF>();
-        document->processFile(path.toLocal8Bit().constData());
-        return document;
-    }
-    QString saved(const char *name, const PdfFixture &fixture) {
-        return fixture.write(path(name)) ? path(name) : QString();
-    }
     /// A document of everything: text in both directions, with a letter that no font has, a header,
     /// a picture and a tagged PDF with a link.
-    QString made() {
+    QString make() {
         m_options.merge = true;
         m_options.outputName = u"all.pdf"_s;
         m_options.readable.emplace().header = u"{file}"_s;
@@ -112,14 +97,6 @@ class AccessibleTest : public QObject, private ConversionCase {
         addFile(saved("tagged.pdf", tagged));
         return converted("out/all.pdf");
     }
-    QString converted(const char *name) {
-        const PDFOutcome outcome = convertTo(path(name));
-        QString log = outcome.close.reason;
-        if (!outcome.isWritten() || !PdfProbe(outcome.close.path).isValid(&log)) {
-            QTest::qFail(qPrintable(log), __FILE__, __LINE__);
-        }
-        return outcome.close.path;
-    }
     static std::vector<QPDFObjectHandle> kidsOf(QPDFObjectHandle element) {
         auto kids = element.getKey("/K");
         return kids.isArray() ? kids.getArrayAsVector() : std::vector{kids};
@@ -134,7 +111,15 @@ class AccessibleTest : public QObject, private ConversionCase {
         }
     }
 
+    std::unique_ptr<QTemporaryDir> m_kept;
+    QString m_made; ///< What make() made.
+
   private Q_SLOTS:
+    void initTestCase() {
+        init();
+        m_made = make();
+        m_kept = std::move(m_folder);
+    }
     void init() {
         setUp();
         m_options.accessible = true;
@@ -142,7 +127,7 @@ class AccessibleTest : public QObject, private ConversionCase {
     }
 
     void theMetadataSaysSo() {
-        const auto document = opened(made());
+        const auto document = opened(m_made);
         auto stream = document->getRoot().getKey("/Metadata");
         QCOMPARE(stream.getDict().getKey("/Type").getName(), "/Metadata");
         QCOMPARE(stream.getDict().getKey("/Subtype").getName(), "/XML");
@@ -171,7 +156,7 @@ class AccessibleTest : public QObject, private ConversionCase {
     }
 
     void theCatalogSaysTagsLanguageAndTitle() {
-        const auto document = opened(made());
+        const auto document = opened(m_made);
         auto catalog = document->getRoot();
         QVERIFY(catalog.getKey("/MarkInfo").getKey("/Marked").getBoolValue());
         QVERIFY(!catalog.getKey("/MarkInfo").hasKey("/Suspects"));
@@ -181,7 +166,7 @@ class AccessibleTest : public QObject, private ConversionCase {
     }
 
     void allContentIsTaggedOrAnArtifact() {
-        const auto document = opened(made());
+        const auto document = opened(m_made);
         for (QPDFObjectHandle page : document->getAllPages()) {
             ContentWalk walk;
             page.parsePageContents(&walk);
@@ -194,7 +179,7 @@ class AccessibleTest : public QObject, private ConversionCase {
     void everyElementHasItsParentAndAStandardType() {
         static const std::set<std::string> kStandard{"/Document", "/NonStruct", "/P",
                                                      "/Figure",   "/H1",        "/Link"};
-        const auto document = opened(made());
+        const auto document = opened(m_made);
         int count = 0;
         forEachElement(document->getRoot().getKey("/StructTreeRoot"),
                        [&](QPDFObjectHandle element, QPDFObjectHandle parent) {
@@ -207,7 +192,7 @@ class AccessibleTest : public QObject, private ConversionCase {
     }
 
     void everyFigureIsDescribed() {
-        const auto document = opened(made());
+        const auto document = opened(m_made);
         QStringList descriptions;
         forEachElement(document->getRoot().getKey("/StructTreeRoot"),
                        [&](QPDFObjectHandle element, const QPDFObjectHandle &) {
@@ -220,7 +205,7 @@ class AccessibleTest : public QObject, private ConversionCase {
     }
 
     void pagesWithAnnotationsAreWalkedInTheOrderOfTheirTags() {
-        const auto document = opened(made());
+        const auto document = opened(m_made);
         for (QPDFObjectHandle page : document->getAllPages()) {
             QCOMPARE(page.getKey("/Tabs").getName(), "/S");
         }
@@ -238,7 +223,7 @@ class AccessibleTest : public QObject, private ConversionCase {
 
     void everyGlyphHasCharactersAndIsInItsFont() {
         const ToolRun checked = runTool(
-            python(), {inSource(u"tests/support/archive/check-archive"_s), u"2u"_s, made()});
+            python(), {inSource(u"tests/support/archive/check-archive"_s), u"2u"_s, m_made});
         QVERIFY2(checked.exitCode >= 0 && checked.err.isEmpty(), checked.err);
         for (const QByteArray &line : checked.out.split('\n')) {
             QVERIFY2(!line.contains(": 6.2.11."), line);
@@ -246,26 +231,14 @@ class AccessibleTest : public QObject, private ConversionCase {
     }
 
     void eachRuleHasItsTestOrAReason() {
-        const auto rowsOf = [](const QString &name) {
-            return readFile(inSource(u"tests/convert/accessible/"_s + name))
-                .trimmed()
-                .split('\n')
-                .sliced(1);
-        };
-        QByteArrayList rules;
-        for (const QByteArray &row : rowsOf(u"evidence.tsv"_s)) {
-            const auto columns = row.split('\t');
-            QCOMPARE(columns.size(), 4);
-            rules += columns.first(3).join('\t');
-            if (columns[3].startsWith("cannot arise: ")) {
-                continue;
-            }
-            const auto test = columns[3].split('.');
-            const QByteArray source = readFile(inSource(u"tests/%1/%2Test.cpp"_s.arg(
-                QString::fromLatin1(test[0]), QString::fromLatin1(test[1]))));
-            QVERIFY2(source.contains("    void " + test[2] + "() {"), row);
+        const QString folder = u"tests/convert/accessible/"_s;
+        QList<QStringList> rules;
+        for (const QStringList &row : rowsOf(folder + u"evidence.tsv"_s)) {
+            QCOMPARE(row.size(), 4);
+            rules += row.first(3);
+            QVERIFY2(isThere(row[3]), qPrintable(row[3]));
         }
-        QCOMPARE(rules, rowsOf(u"rules.tsv"_s));
+        QCOMPARE(rules, rowsOf(folder + u"rules.tsv"_s));
         QCOMPARE(rules.size(), 106);
     }
 

@@ -5,6 +5,8 @@
 #include "convert/Conversion.h"
 #include "filelist/EntryReader.h"
 #include "support/Files.h"
+#include "support/PdfFixture.h"
+#include "support/PdfProbe.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -48,6 +50,19 @@ class ConversionCase {
             entries.push_back(entry.get());
         }
         return createPDF(entries, target, m_options, observer, stop);
+    }
+    /// The path of the fixture as a file `name`; empty where it cannot be written.
+    QString saved(const char *name, const PdfFixture &fixture) const {
+        return fixture.write(path(name)) ? path(name) : QString();
+    }
+    /// The path of the PDF of the list, in which qpdf finds nothing wrong.
+    QString converted(const char *name) const {
+        const PDFOutcome outcome = convertTo(path(name));
+        QString log = outcome.close.reason;
+        if (!outcome.isWritten() || !PdfProbe(outcome.close.path).isValid(&log)) {
+            QTest::qFail(qPrintable(log), __FILE__, __LINE__);
+        }
+        return outcome.close.path;
     }
     QStringList outputs() const {
         return QDir(m_options.outputFolder).entryList(QDir::Files | QDir::Hidden);

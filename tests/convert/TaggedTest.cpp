@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "ConversionCase.h"
-
-#include "support/PdfFixture.h"
-#include "support/PdfProbe.h"
+#include "support/OpenedPdf.h"
 #include "support/Places.h"
 #include "support/TaggedPage.h"
 #include "support/TestUnit.h"
-
-#include <qpdf/QPDF.hh>
 
 #include <QImage>
 #include <QRegularExpression>
@@ -43,23 +39,7 @@ class TaggedTest : public QObject, private ConversionCase {
         }
         return paragraphs;
     }
-    QString converted(const char *name = "out/all.pdf") {
-        const PDFOutcome outcome = convertTo(path(name));
-        QString log = outcome.close.reason;
-        if (!outcome.isWritten() || !PdfProbe(outcome.close.path).isValid(&log)) {
-            QTest::qFail(qPrintable(log), __FILE__, __LINE__);
-        }
-        return outcome.close.path;
-    }
-    QString saved(const char *name, const PdfFixture &fixture) {
-        return fixture.write(path(name)) ? path(name) : QString();
-    }
     static PdfFixture untagged() { return PdfFixture().object(1, kCatalog).pages(4, 1); }
-    static std::unique_ptr<QPDF> opened(const QString &path) {
-        auto document = std::make_unique<QPDF>();
-        document->processFile(path.toLocal8Bit().constData());
-        return document;
-    }
     static QString sentences() {
         return u"It was a bright cold day in April, and the clocks were striking thirteen, while "
                "Winston Smith slipped quickly through the glass doors."_s;
@@ -75,14 +55,14 @@ class TaggedTest : public QObject, private ConversionCase {
     void aLineOfThePlainLayoutIsAParagraph() {
         const QString text = sentences();
         addText("a.txt", u"%1\n\nshort\n  %1\t%1\n"_s.arg(text).toUtf8());
-        const QStringList paragraphs = paragraphsOf(converted());
+        const QStringList paragraphs = paragraphsOf(converted("out/all.pdf"));
         QCOMPARE(paragraphs, QStringList({text, u"short"_s, text + u' ' + text}));
     }
 
     void aLongLineIsOneParagraphOverPages() {
         const QString line = (sentences() + u' ').repeated(60).trimmed();
         addText("a.txt", ("first\n" + line.toUtf8() + "\nlast\n"));
-        const QString pdf = converted();
+        const QString pdf = converted("out/all.pdf");
         QVERIFY(PdfProbe(pdf).pageCount() > 2);
         QCOMPARE(paragraphsOf(pdf), QStringList({u"first"_s, line, u"last"_s}));
     }
@@ -109,7 +89,7 @@ class TaggedTest : public QObject, private ConversionCase {
         m_options.readable.emplace();
         const QString one = words + u'\n' + words + u' ' + words + u' ' + words + u'\n';
         addText("a.txt", u"%1\n \n%1\f%2"_s.arg(one, words).toUtf8());
-        QCOMPARE(paragraphsOf(converted()),
+        QCOMPARE(paragraphsOf(converted("out/all.pdf")),
                  QStringList({one.simplified(), one.simplified(), words.simplified()}));
     }
 
@@ -117,7 +97,7 @@ class TaggedTest : public QObject, private ConversionCase {
         addText("a.txt",
                 (sentences() + u"\nكان يا ما كان (1742 كم)\nसभी मनुष्यों को\n\na\tb\n"_s).toUtf8());
         m_options.readable.emplace();
-        const QString with = converted();
+        const QString with = converted("out/all.pdf");
         m_options.tagged = false;
         const QString without = converted("out/without.pdf");
         QCOMPARE(PdfProbe(with).render(1), PdfProbe(without).render(1));
@@ -127,7 +107,7 @@ class TaggedTest : public QObject, private ConversionCase {
     void headersAndFootersAreNotRead() {
         m_options.readable.emplace().header = u"HEAD {page}"_s;
         addText("a.txt", "told\n");
-        const QString pdf = converted();
+        const QString pdf = converted("out/all.pdf");
         QVERIFY(PdfProbe(pdf).text().contains(u"HEAD 1"_s));
         QCOMPARE(paragraphsOf(pdf), QStringList(u"told"_s));
     }
@@ -149,7 +129,7 @@ class TaggedTest : public QObject, private ConversionCase {
         m_options.merge = true;
         addText("plain.txt", "words\n");
         addFile(saved("untagged.pdf", untagged()));
-        QCOMPARE(PdfProbe(converted()).info(u"Tagged"_s), u"no"_s);
+        QCOMPARE(PdfProbe(converted("out/all.pdf")).info(u"Tagged"_s), u"no"_s);
     }
 
     void untaggedPdfsAmongTaggedTextsAreNamed() {
@@ -195,7 +175,7 @@ class TaggedTest : public QObject, private ConversionCase {
             addFile(path(name));
         }
         QStringList descriptions;
-        const auto document = opened(converted());
+        const auto document = opened(converted("out/all.pdf"));
         for (auto source :
              document->getRoot().getKey("/StructTreeRoot").getKey("/K").getArrayAsVector()) {
             auto figure = source.getKey("/K").getArrayItem(0);
@@ -207,7 +187,7 @@ class TaggedTest : public QObject, private ConversionCase {
     void thePicturesOfAFileAreToldApart() {
         m_options.allPictures = true;
         addFile(inSource(u"tests/data/image/two.gif"_s));
-        const auto document = opened(converted());
+        const auto document = opened(converted("out/all.pdf"));
         const auto figures =
             document->getRoot().getKey("/StructTreeRoot").getKey("/K").getArrayItem(0).getKey("/K");
         QStringList descriptions;

@@ -3,26 +3,17 @@
 #pragma once
 
 #include "pdf/PDFContext.h"
+#include "support/OpenedPdf.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
-
-#include <qpdf/QPDF.hh>
 
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <memory>
 #include <utility>
 
 namespace folioforge::test {
-
-/// The output read back with the PDF library alone.
-inline std::unique_ptr<QPDF> opened(const QString &path) {
-    auto document = std::make_unique<QPDF>();
-    document->processFile(path.toLocal8Bit().constData());
-    return document;
-}
 
 /// Three pages, 4 to 6, with the contents 7, 8 and 9 and a font, 3.
 inline PdfFixture threePages(const QByteArray &keysOfCatalog = {}) {
