@@ -18,6 +18,14 @@ class ArchiveCase : protected CommandLineCase {
                 QStringLiteral("3u"), QStringLiteral("3a")};
     }
 
+    /// The data of a test that each standard has: a row for one.
+    static void levels() {
+        QTest::addColumn<QString>("standard");
+        for (const QString &standard : standards()) {
+            QTest::newRow(qPrintable(standard)) << standard;
+        }
+    }
+
     /// What tests/support/archive finds that a document breaks of a standard, a line each, and what
     /// it says where it fails.
     static QByteArray faultsOf(const QString &standard, const QStringList &files) {

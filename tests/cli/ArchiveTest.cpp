@@ -30,13 +30,6 @@ class ArchiveTest : public QObject, ArchiveCase {
         return largest;
     }
 
-    static void levels() {
-        QTest::addColumn<QString>("standard");
-        for (const QString &standard : standards()) {
-            QTest::newRow(qPrintable(standard)) << standard;
-        }
-    }
-
     QByteArray streamOf(const QString &pdf, const QByteArray &reference) const {
         return runTool(u"qpdf"_s, {u"--show-object="_s + QString::fromLatin1(reference),
                                    u"--filtered-stream-data"_s, pdf})
