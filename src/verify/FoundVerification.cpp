@@ -148,6 +148,9 @@ class FoundVerifier : private DocumentVerifier {
                 finding.fault.clear();
             }
         });
+        if (next < findings.size()) {
+            throw Error(Reasons::tr("The file has changed"));
+        }
     }
 
     void verifyText(const EntryRecord &entry, int end, EntryVerification &result) {
