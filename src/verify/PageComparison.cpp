@@ -7,11 +7,10 @@
 #include "verify/ImportChanges.h"
 #include "verify/PictureChanges.h"
 #include "verify/Pixels.h"
-#include "verify/StreamSums.h"
+#include "verify/SameValues.h"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace folioforge {
 namespace {
@@ -40,63 +39,12 @@ QString faultOf(const std::string &key) {
     return Reasons::tr("%1 is not as in the source").arg(QString::fromStdString(key));
 }
 
-bool isSameNumber(Object source, Object written) {
-    constexpr double kTolerance = 1e-6;
-    return source.unparse() == written.unparse() ||
-           std::abs(source.getNumericValue() - written.getNumericValue()) <= kTolerance;
-}
-
-/// Whether two values are the same that hold no others.
-bool isSameScalar(Object source, Object written) {
-    if (source.isNumber() && written.isNumber()) {
-        return isSameNumber(source, written);
-    }
-    if (source.isString() && written.isString()) {
-        return source.getStringValue() == written.getStringValue();
-    }
-    if (source.isName() && written.isName()) {
-        return source.getName() == written.getName() ||
-               shortened(source).getName() == written.getName();
-    }
-    return source.getTypeCode() == written.getTypeCode() && source.unparse() == written.unparse();
-}
-
-/// The filters of a stream with their parameters.
-std::string filtersOf(const Object &dictionary) {
-    std::string text;
-    for (const char *key : {"/Filter", "/DecodeParms"}) {
-        Object value = entry(dictionary, key);
-        if (value.isArray()) {
-            for (Object item : items(value)) {
-                text += item.unparseResolved() + ' ';
-            }
-        } else if (!value.isNull()) {
-            text += value.unparseResolved() + ' ';
-        }
-        text += '|';
-    }
-    return text;
-}
-
 bool isOfNothing(const std::string & /*key*/) {
     return false;
 }
 
-bool isOfData(const std::string &key) {
-    return key == "/Length" || key == "/Filter" || key == "/DecodeParms" || key == "/DL";
-}
-
 bool isOfDataOrSamples(const std::string &key) {
     return isOfData(key) || isOfSamples(key);
-}
-
-/// Whether two streams have the same bytes, or unfold to the same.
-bool haveSameData(const Object &source, const Object &written) {
-    const bool haveSameFilters =
-        filtersOf(Object(source).getDict()) == filtersOf(Object(written).getDict());
-    const Unpacking how = haveSameFilters ? Unpacking::None : Unpacking::Samples;
-    const auto sum = sumOf(written, how);
-    return sum && sum == sumOf(source, how);
 }
 
 } // namespace
