@@ -5,11 +5,8 @@
 #include "error/Reasons.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <functional>
 #include <iterator>
-#include <stdexcept>
 #include <string_view>
 
 #include <time.h>
@@ -54,12 +51,13 @@ qint64 threadTime() {
 } // namespace
 
 SourceInput::SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, AddedBytes added)
-    : m_file(std::move(file))
+    : PieceInput(file.path.toStdString())
+    , m_file(std::move(file))
     , m_reader(std::move(reader))
     , m_added(std::move(added))
-    , m_front(static_cast<qint64>(m_added.before.size()))
-    , m_end(m_front + m_file.size + m_added.gap + static_cast<qint64>(m_added.behind.size()))
-    , m_name(m_file.path.toStdString()) {}
+    , m_front(static_cast<qint64>(m_added.before.size())) {
+    m_end = m_front + m_file.size + m_added.gap + static_cast<qint64>(m_added.behind.size());
+}
 
 /// The library asks for the ends of lines when it searches the file for objects. Some files keep it
 /// busy for minutes.
@@ -77,8 +75,7 @@ void SourceInput::limitSearch() {
     }
 }
 
-/// The bytes at `position`, up to the next border between the file and what is added; none at the
-/// end.
+/// Up to the next border between the file and what is added.
 std::string_view SourceInput::pieceAt(qint64 position, std::span<char> target) {
     const auto copied = [&](const std::string &text, qint64 start) {
         const auto from = std::min(static_cast<std::size_t>(start), text.size());
@@ -103,51 +100,8 @@ std::string_view SourceInput::pieceAt(qint64 position, std::span<char> target) {
 }
 
 qpdf_offset_t SourceInput::findAndSkipNextEOL() {
-    constexpr std::string_view kLineEnds = "\r\n";
     limitSearch();
-    std::array<char, 1024> bytes{};
-    bool isLineEnd = false;
-    qint64 lineEnd = 0;
-    while (true) {
-        const std::string_view piece = pieceAt(m_position, bytes);
-        if (piece.empty()) {
-            m_position = std::max(m_position, m_end);
-            return isLineEnd ? lineEnd : m_position;
-        }
-        const auto found =
-            isLineEnd ? piece.find_first_not_of(kLineEnds) : piece.find_first_of(kLineEnds);
-        m_position += static_cast<qint64>(std::min(found, piece.size()));
-        if (found == std::string_view::npos) {
-            continue;
-        }
-        if (isLineEnd) {
-            return lineEnd;
-        }
-        isLineEnd = true;
-        lineEnd = m_position;
-    }
-}
-
-std::string const &SourceInput::getName() const {
-    return m_name;
-}
-
-qpdf_offset_t SourceInput::tell() {
-    return m_position;
-}
-
-void SourceInput::seek(qpdf_offset_t offset, int whence) {
-    const qint64 base = whence == SEEK_SET ? 0 : whence == SEEK_END ? m_end : m_position;
-    if (offset < -base) {
-        throw std::runtime_error("seek before the beginning of the file");
-    }
-    // A length that the file claims may lead anywhere. Whatever is beyond the end is the end, where
-    // the library finds that the length is wrong.
-    m_position = offset > m_end - base ? m_end : base + offset;
-}
-
-void SourceInput::rewind() {
-    m_position = 0;
+    return PieceInput::findAndSkipNextEOL();
 }
 
 /// Writes 0 for each length of a stream in `piece`, which begins at `position`, that has too many
@@ -185,14 +139,7 @@ bool SourceInput::isObjectBuffer(const char *target) const {
 }
 
 size_t SourceInput::read(char *target, size_t length) {
-    last_offset = m_position;
-    size_t got = 0;
-    for (bool isEnd = false; got < length && !isEnd;) {
-        const auto piece = pieceAt(m_position, {target + got, length - got});
-        got += piece.size();
-        m_position += static_cast<qint64>(piece.size());
-        isEnd = piece.empty();
-    }
+    size_t got = PieceInput::read(target, length);
     m_bytesRead += static_cast<qint64>(got);
     if (got == 0 && length > 0) {
         // The library takes the end of the file from here.
@@ -211,10 +158,6 @@ size_t SourceInput::read(char *target, size_t length) {
         clampLengths(last_offset, {target, got});
     }
     return got;
-}
-
-void SourceInput::unreadCh([[maybe_unused]] char ch) {
-    m_position = std::max<qint64>(0, m_position - 1);
 }
 
 } // namespace folioforge

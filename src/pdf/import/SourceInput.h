@@ -3,8 +3,7 @@
 #pragma once
 
 #include "files/SourceReader.h"
-
-#include <qpdf/InputSource.hh>
+#include "pdf/import/PieceInput.h"
 
 #include <memory>
 #include <span>
@@ -22,7 +21,7 @@ struct AddedBytes {
 
 /// A source PDF as libqpdf reads it. It holds neither a descriptor nor a buffer, so that thousands
 /// may wait until their streams are written.
-class SourceInput final : public InputSource {
+class SourceInput final : public PieceInput {
   public:
     /// The processor time of the calling thread that the search may take, in milliseconds.
     static constexpr qint64 kMaxSearch = 2000;
@@ -30,26 +29,18 @@ class SourceInput final : public InputSource {
     SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, AddedBytes added = {});
 
     qpdf_offset_t findAndSkipNextEOL() override;
-    std::string const &getName() const override;
-    qpdf_offset_t tell() override;
-    void seek(qpdf_offset_t offset, int whence) override;
-    void rewind() override;
     size_t read(char *target, size_t length) override;
-    void unreadCh(char ch) override;
 
   private:
     void limitSearch();
     void clampLengths(qint64 position, std::span<char> piece);
     [[nodiscard]] bool isObjectBuffer(const char *target) const;
-    [[nodiscard]] std::string_view pieceAt(qint64 position, std::span<char> target);
+    std::string_view pieceAt(qint64 position, std::span<char> target) override;
 
     FileVersion m_file;
     std::shared_ptr<SourceReader> m_reader;
     AddedBytes m_added;
-    qint64 m_front; ///< Where the file begins.
-    qint64 m_end;
-    std::string m_name;
-    qint64 m_position = 0;
+    qint64 m_front;         ///< Where the file begins.
     qint64 m_lines = 0;     ///< So far in the search.
     qint64 m_bytesRead = 0; ///< Since the last look at the clock.
     qint64 m_searchEnd = 0; ///< On the thread's clock; 0 before the search.
