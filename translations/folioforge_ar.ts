@@ -1998,6 +1998,10 @@ None: pictures stay as they are
         <translation>لا يمكن تشفير مستند مخصص للأرشفة</translation>
     </message>
     <message>
+        <source>The file has changed</source>
+        <translation>تغيّر الملف</translation>
+    </message>
+    <message>
         <source>Not every page of the PDF is its source</source>
         <translation>ليست كل صفحات ملف PDF مطابقة لمصادرها</translation>
     </message>

@@ -1886,6 +1886,10 @@ Keine: Bilder bleiben, wie sie sind
         <translation>Ein Dokument für Archive kann nicht verschlüsselt werden</translation>
     </message>
     <message>
+        <source>The file has changed</source>
+        <translation>Die Datei hat sich geändert</translation>
+    </message>
+    <message>
         <source>Not every page of the PDF is its source</source>
         <translation>Nicht jede Seite der PDF entspricht ihrer Quelle</translation>
     </message>

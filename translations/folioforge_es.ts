@@ -1886,6 +1886,10 @@ Ninguna: las imágenes quedan como están
         <translation>Un documento para archivos no puede cifrarse</translation>
     </message>
     <message>
+        <source>The file has changed</source>
+        <translation>El archivo ha cambiado</translation>
+    </message>
+    <message>
         <source>Not every page of the PDF is its source</source>
         <translation>No todas las páginas del PDF son iguales a su origen</translation>
     </message>

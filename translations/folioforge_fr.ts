@@ -1886,6 +1886,10 @@ Aucune&#xa0;: les images restent telles quelles
         <translation>Un document pour les archives ne peut pas être chiffré</translation>
     </message>
     <message>
+        <source>The file has changed</source>
+        <translation>Le fichier a changé</translation>
+    </message>
+    <message>
         <source>Not every page of the PDF is its source</source>
         <translation>Certaines pages du PDF ne sont pas conformes à leur source</translation>
     </message>

@@ -1858,6 +1858,10 @@ None: pictures stay as they are
         <translation>保存用の文書は暗号化できません</translation>
     </message>
     <message>
+        <source>The file has changed</source>
+        <translation>ファイルが変更されました</translation>
+    </message>
+    <message>
         <source>Not every page of the PDF is its source</source>
         <translation>PDF の一部のページが元のものと一致しません</translation>
     </message>

@@ -1858,6 +1858,10 @@ None: pictures stay as they are
         <translation>用于存档的文档不能加密</translation>
     </message>
     <message>
+        <source>The file has changed</source>
+        <translation>文件已更改</translation>
+    </message>
+    <message>
         <source>Not every page of the PDF is its source</source>
         <translation>PDF 中有页面与其来源不一致</translation>
     </message>
