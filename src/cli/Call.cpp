@@ -2,11 +2,13 @@
 
 #include "cli/Call.h"
 
+#include "cli/AttachedManifest.h"
 #include "cli/Console.h"
 #include "cli/Process.h"
 #include "convert/Bundle.h"
 #include "files/TemporaryFolder.h"
 
+#include <functional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -68,7 +70,12 @@ void Call::convert(std::vector<Input> inputs) {
         complainOfUnusedDescriptions();
     }
     const std::stop_token outOfTime = outOfProcessorTime();
-    Run run(std::move(entries), m_arguments.options, applicationBundlePath(), outOfTime);
+    ConversionOptions options = m_arguments.options;
+    const AttachedManifest attached(m_arguments, m_names, m_files, m_dates);
+    if (AttachedManifest::isAskedFor(m_arguments)) {
+        options.attachedManifest = std::bind_front(&AttachedManifest::of, &attached);
+    }
+    Run run(std::move(entries), std::move(options), applicationBundlePath(), outOfTime);
     const bool compresses = run.compresses() && !m_arguments.options.dryRun;
     m_progress.setFull(compresses ? kFull : kPagesShare);
     run.convertAll(m_temporaryFolder, *this, m_arguments.jobs);

@@ -87,6 +87,19 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
     return own;
 }
 
+InputResult InputResult::enclosed(const QString &input, const EntryOutcome &entry, int firstPage) {
+    InputResult own;
+    own.input = input;
+    own.state = entry.written ? State::Enclosed : State::Failed;
+    own.pages = entry.pages;
+    own.firstPage = entry.pages > 0 ? firstPage : 0;
+    own.reason = entry.reason;
+    own.warnings = entry.warnings;
+    own.embedded = entry.embeddedAs;
+    own.parts = entry.parts;
+    return own;
+}
+
 QString InputResult::plan() const {
     if (state == State::Kept) {
         return input + u": "_s + reason;

@@ -24,6 +24,7 @@ struct InputResult {
         Kept,     ///< The PDF under its name is not older and stays.
         Planned,  ///< Its pages would stand in `output`: of a dry run.
         Listed,   ///< A folder whose files stand for it.
+        Enclosed, ///< Its pages stand in the PDF that says so itself.
         Verified  ///< Its pages in `output`, which was there, are it.
     };
     QString input;
@@ -52,6 +53,8 @@ struct InputResult {
     static InputResult failed(const QString &input, const QString &reason);
     /// The result of a folder of which something is left out.
     static InputResult listed(const QString &folder, const Warnings &leftOut);
+    /// The result of an entry as its PDF tells of it, in which its first page is `firstPage`.
+    static InputResult enclosed(const QString &input, const EntryOutcome &entry, int firstPage);
     /// What a dry run says of the input in words: pages and their size, or why its PDF is kept.
     [[nodiscard]] QString plan() const;
     /// The result of `input`, the entry at `index` of the PDF that `result` is about.

@@ -78,12 +78,34 @@ std::optional<QString> manifestFault(const Arguments &arguments, const QStringLi
     return std::nullopt;
 }
 
+QByteArray manifestJson(const QStringList &options, const QByteArrayList &inputs,
+                        const QByteArrayList &outputs) {
+    QByteArray json = manifestHead(options, sourceDate().value_or(QDateTime::currentDateTime()));
+    json.chop(1); // The object goes on.
+    return json + ",\"inputs\":[\n" + inputs.join(",\n") + "\n],\"outputs\":[\n" +
+           outputs.join(",\n") + "\n]}\n";
+}
+
 std::optional<FileDates> datesOf(const QString &path) {
     try {
         return FileDates{FileVersion::of(path), QFileInfo(path).birthTime()};
     } catch (const Error &) {
         return std::nullopt;
     }
+}
+
+bool addSource(InputResult &result, const QString &path, const FileDates &noted) {
+    constexpr qint64 kNanosOfAMillisecond = 1'000'000;
+    result.source = digestOf(path);
+    const auto now = datesOf(path);
+    if (!now || now->version != noted.version) {
+        result.source.reset();
+        return false;
+    }
+    result.modified =
+        QDateTime::fromMSecsSinceEpoch(noted.version.modifiedNanos / kNanosOfAMillisecond);
+    result.created = noted.created;
+    return true;
 }
 
 Manifest::Manifest(const Arguments &arguments)
@@ -105,15 +127,11 @@ QStringList Manifest::leftOut() const {
 }
 
 QByteArray Manifest::asJson() const {
-    const QDateTime now = sourceDate().value_or(QDateTime::currentDateTime());
-    QByteArray json = manifestHead(m_arguments.given, now);
-    json.chop(1); // The object goes on.
-    json += ",\"inputs\":[\n" + m_inputs.join(",\n") + "\n],\"outputs\":[\n";
     QByteArrayList outputs;
     for (const File &file : m_outputs) {
         outputs += toJson(file.name, file.digest);
     }
-    return json + outputs.join(",\n") + "\n]}\n";
+    return manifestJson(m_arguments.given, m_inputs, outputs);
 }
 
 QByteArray Manifest::asChecksums() const {

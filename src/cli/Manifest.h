@@ -65,4 +65,12 @@ struct FileDates {
 /// Nothing where there is no file.
 std::optional<FileDates> datesOf(const QString &path);
 
+/// Puts into `result` what the file at `path` holds and when it was made. Returns whether it is as
+/// it was `noted`; else `result` has no checksum: it would not be that of what was read.
+bool addSource(InputResult &result, const QString &path, const FileDates &noted);
+
+/// A manifest as JSON, of the options that were given and the lines of inputs and outputs.
+QByteArray manifestJson(const QStringList &options, const QByteArrayList &inputs,
+                        const QByteArrayList &outputs);
+
 } // namespace folioforge

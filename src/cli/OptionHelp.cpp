@@ -184,8 +184,7 @@ HelpSection reportHelp() {
              {"--json", "", "one object a line on standard output for each input"},
              {"--manifest", "FILE",
               "what went in and came out, each file with its SHA-256, as JSON; as sha256sum -c "
-              "reads it "
-              "where FILE ends in .sha256"},
+              "reads it where FILE ends in .sha256; a PDF/A-3 carries its own, too"},
              {"--quiet", "", "nothing but errors and warnings"},
              {"--strict", "", "a warning counts as a failure: exit status 1"},
              {"--completion", "bash|zsh|fish", "what this shell completes these options with"},

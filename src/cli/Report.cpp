@@ -33,6 +33,8 @@ QString nameOf(InputResult::State state) {
         return u"planned"_s;
     case InputResult::State::Listed:
         return u"listed"_s;
+    case InputResult::State::Enclosed:
+        return u"enclosed"_s;
     case InputResult::State::Verified:
         return u"verified"_s;
     case InputResult::State::Rejected:

@@ -38,17 +38,11 @@ void ResultTeller::addDigest(const QString &path, InputResult &result,
     if (!m_arguments.json && !m_manifest) {
         return;
     }
-    result.source = digestOf(path);
-    const auto now = dates ? datesOf(path) : std::nullopt;
-    if (m_manifest && dates && (!now || now->version != dates->version)) {
-        result.source.reset();
+    if (!m_manifest || !dates) {
+        result.source = digestOf(path);
+    } else if (!addSource(result, path, *dates)) {
         fail(u"%1: It changed while it was converted, so the manifest has no checksum of it"_s.arg(
             printable(result.input)));
-    } else if (m_manifest && dates) {
-        constexpr qint64 kNanosOfAMillisecond = 1'000'000;
-        result.modified =
-            QDateTime::fromMSecsSinceEpoch(dates->version.modifiedNanos / kNanosOfAMillisecond);
-        result.created = dates->created;
     }
 }
 

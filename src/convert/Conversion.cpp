@@ -21,6 +21,8 @@
 #include <numeric>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace folioforge {
 namespace {
 
@@ -177,6 +179,14 @@ void addAllMarginTexts(std::span<const PDFFileInfo *const> entries, PDFContext &
     }
 }
 
+void attachManifest(std::span<const PDFFileInfo *const> entries, PDFContext &context,
+                    const ConversionOptions &options, const std::vector<EntryOutcome> &outcomes) {
+    if (options.attachedManifest && context.pageCount() > 0 && !options.dryRun) {
+        context.attachData(u"manifest.json"_s, "application/json",
+                           options.attachedManifest(entries, outcomes));
+    }
+}
+
 CloseResult notWritten(const QString &reason) {
     return {CloseResult::Status::Failed, {}, reason, {}};
 }
@@ -285,8 +295,10 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     }
     if (!stop.stop_requested()) {
         const QString fileName = entries.empty() ? QString() : entries.front()->fileName();
-        const QString failure = reasonOfFailure(
-            [&] { addAllMarginTexts(entries, context, options, stop, outcome.entries, record); });
+        const QString failure = reasonOfFailure([&] {
+            addAllMarginTexts(entries, context, options, stop, outcome.entries, record);
+            attachManifest(entries, context, options, outcome.entries);
+        });
         const auto inspect = verifyingInspection(record, options, stop, outcome.entries);
         outcome.close = failure.isEmpty() ? closeContext(context, path, fileName, options, inspect)
                                           : notWritten(failure);

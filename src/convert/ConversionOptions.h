@@ -10,13 +10,19 @@
 #include "text/PageSetup.h"
 #include "text/readable/ReadableLayout.h"
 
+#include <QByteArray>
 #include <QString>
 
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
+#include <vector>
 
 namespace folioforge {
+
+class PDFFileInfo;
+struct EntryOutcome;
 
 /// Passwords and permission boxes as entered. A ticked box refuses its permission.
 struct SecuritySettings {
@@ -86,6 +92,11 @@ struct ConversionOptions {
     bool verify = false; ///< Each page is held against its source before a PDF gets its name.
     /// A finished PDF that is held against the entries; that is then all that a dry run does.
     QString verifyOnly;
+    /// Makes the manifest that is attached to a PDF, of the entries that it is made of and how they
+    /// went; null for none. Called by the threads that write PDFs.
+    std::function<QByteArray(std::span<const PDFFileInfo *const>,
+                             const std::vector<EntryOutcome> &)>
+        attachedManifest;
     bool dryRun = false; ///< Pages are made, and no document is written.
     /// What every file of the run is written through.
     std::reference_wrapper<SystemCalls> calls = SystemCalls::system();

@@ -137,6 +137,10 @@ AddedDocument PDFContext::addDocument(const QString &sourcePath, const PageChoic
     return m_impl->addDocument(sourcePath, choice);
 }
 
+void PDFContext::attachData(const QString &name, const QByteArray &type, const QByteArray &data) {
+    translateQpdfErrors([&] { m_impl->attachData(name, type, data); });
+}
+
 void PDFContext::attachSource(const SourceOriginal &source, const Mark &mark) {
     translateQpdfErrors([&] { m_impl->attachSource(source, mark); });
 }

@@ -137,6 +137,9 @@ class PDFContext {
     };
     /// Attaches the source of what was drawn since `mark`. Throws Error.
     void attachSource(const SourceOriginal &source, const Mark &mark);
+    /// Attaches `data`, a file called `name` of the MIME type `type` that tells of the whole
+    /// document. Throws Error.
+    void attachData(const QString &name, const QByteArray &type, const QByteArray &data);
 
     /// What checkPageSizes() says of the pages after the first `count`, and what the standard for
     /// archives has changed since the last call.

@@ -49,6 +49,7 @@ class PDFContext::Impl {
         return sizeOfPage(m_catalog.pages()[static_cast<std::size_t>(index)]);
     }
     void attachSource(const SourceOriginal &source, const Mark &mark);
+    void attachData(const QString &name, const QByteArray &type, const QByteArray &data);
     [[nodiscard]] Warnings checkPagesAfter(int count);
 
   private:

@@ -52,6 +52,12 @@ void PDFContext::Impl::attachSource(const SourceOriginal &source, const Mark &ma
         mark.pages);
 }
 
+void PDFContext::Impl::attachData(const QString &name, const QByteArray &type,
+                                  const QByteArray &data) {
+    m_catalog.addFile(m_document.makeIndirectObject(dataAttachment(name, type, data, m_streams)),
+                      0);
+}
+
 AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const PageChoice &choice) {
     return translateQpdfErrors([&] {
         m_reader->beginAnew(); // A source that failed may have left its file open.

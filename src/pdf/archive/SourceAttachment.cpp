@@ -46,7 +46,38 @@ QPDFObjectHandle parametersOf(const SourceFile &file) {
     return parameters;
 }
 
+QPDFObjectHandle embeddedFile(const QByteArray &type) {
+    auto dictionary = QPDFObjectHandle::newDictionary();
+    dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/EmbeddedFile"));
+    dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName('/' + type.toStdString()));
+    return dictionary;
+}
+
+QPDFObjectHandle specificationOf(const QPDFObjectHandle &stream, const QString &name,
+                                 const char *relationship) {
+    auto files = QPDFObjectHandle::newDictionary();
+    files.replaceKey("/F", stream);
+    files.replaceKey("/UF", stream);
+    auto specification = QPDFObjectHandle::newDictionary();
+    specification.replaceKey("/Type", QPDFObjectHandle::newName("/Filespec"));
+    specification.replaceKey("/UF", QPDFObjectHandle::newUnicodeString(name.toStdString()));
+    specification.replaceKey("/EF", files);
+    specification.replaceKey("/AFRelationship", QPDFObjectHandle::newName(relationship));
+    return specification;
+}
+
 } // namespace
+
+QPDFObjectHandle dataAttachment(const QString &name, const QByteArray &type, const QByteArray &data,
+                                StreamData &streams) {
+    const QDateTime made = sourceDate().value_or(QDateTime::currentDateTimeUtc());
+    auto parameters = QPDFObjectHandle::newDictionary();
+    parameters.replaceKey("/Size", QPDFObjectHandle::newInteger(data.size()));
+    parameters.replaceKey("/ModDate", QPDFObjectHandle::newString(pdfDate(made).toStdString()));
+    auto dictionary = embeddedFile(type);
+    dictionary.replaceKey("/Params", parameters);
+    return specificationOf(streams.deflated(dictionary, data), name, "/Supplement");
+}
 
 QPDFObjectHandle sourceAttachment(const SourceOriginal &source, StreamData &streams,
                                   SystemCalls &calls) {
@@ -54,21 +85,11 @@ QPDFObjectHandle sourceAttachment(const SourceOriginal &source, StreamData &stre
     if (file->version() != source.file) {
         throwFileChanged(source.file.path);
     }
-    auto dictionary = QPDFObjectHandle::newDictionary();
-    dictionary.replaceKey("/Type", QPDFObjectHandle::newName("/EmbeddedFile"));
-    dictionary.replaceKey("/Subtype", QPDFObjectHandle::newName('/' + source.type.toStdString()));
+    auto dictionary = embeddedFile(source.type);
     dictionary.replaceKey("/Params", parametersOf(*file));
     const qint64 size = file->version().size;
     const auto stream = streams.fromFile(dictionary, std::move(file), {{0, size}});
-    auto files = QPDFObjectHandle::newDictionary();
-    files.replaceKey("/F", stream);
-    files.replaceKey("/UF", stream);
-    auto specification = QPDFObjectHandle::newDictionary();
-    specification.replaceKey("/Type", QPDFObjectHandle::newName("/Filespec"));
-    specification.replaceKey("/UF", QPDFObjectHandle::newUnicodeString(source.name.toStdString()));
-    specification.replaceKey("/EF", files);
-    specification.replaceKey("/AFRelationship", QPDFObjectHandle::newName("/Source"));
-    return specification;
+    return specificationOf(stream, source.name, "/Source");
 }
 
 } // namespace folioforge

@@ -4,6 +4,9 @@
 
 #include <qpdf/QPDFObjectHandle.hh>
 
+#include <QByteArray>
+#include <QString>
+
 namespace folioforge {
 
 class StreamData;
@@ -14,5 +17,9 @@ struct SourceOriginal;
 /// read once now and once when the document is written. Throws Error, also where it has changed.
 QPDFObjectHandle sourceAttachment(const SourceOriginal &source, StreamData &streams,
                                   SystemCalls &calls);
+
+/// The file specification of `data`, which tells of the whole document. Throws Error.
+QPDFObjectHandle dataAttachment(const QString &name, const QByteArray &type, const QByteArray &data,
+                                StreamData &streams);
 
 } // namespace folioforge
