@@ -1,0 +1,15 @@
+# SPDX-License-Identifier: Apache-2.0
+# What tags of our own cost: 100 MB of ASCII text in one PDF, tagged and not. No peer tags plain text.
+make_set text text
+export text="$inputs/text"
+
+begin "100 MB of ASCII text, tagged"
+candidate "folioforge" '"$cli" --quiet --flush never --tagged --merge "$out" "$text/long.txt"'
+candidate "folioforge, without tags" '"$cli" --quiet --flush never --merge "$out" "$text/long.txt"'
+run_all
+limit "processor time beside that without tags, at most 1.6" \
+    "$(ratio "$(best cpu folioforge)" "$(best cpu "folioforge, without tags")")" at-most 1.6
+limit "output beside that without tags, at most 1.3" \
+    "$(ratio "$(best size folioforge)" "$(best size "folioforge, without tags")")" at-most 1.3
+limit "peak memory beside that without tags, flat" \
+    "$(ratio "$(best memory folioforge)" "$(best memory "folioforge, without tags")")" at-most 1.1
