@@ -205,7 +205,11 @@ void Run::compressCompleted(const ConvertInfo &convertInfo) {
 
 void Run::noteProblem(const QString &path, const QString &problem) {
     if (!problem.isEmpty()) {
-        m_problems += u"    %1: %2"_s.arg(printable(lastPathComponent(path)), problem);
+        // As it was asked for, where it would lead out of the folder, too.
+        const QString folder = m_options.outputFolder + u'/';
+        const QString name =
+            path.startsWith(folder) ? path.sliced(folder.size()) : lastPathComponent(path);
+        m_problems += u"    %1: %2"_s.arg(printable(name), problem);
     }
 }
 
