@@ -52,16 +52,16 @@ class ContextSink : public TextPageSink {
     }
     void beginParagraph() override { m_context.beginParagraph(); }
     void showRow(double x, double y, std::span<const Glyph> glyphs) override {
-        if (!m_isTagged || m_isReading) {
+        const auto isPrivate = [this](const Glyph &glyph) { return hasPrivateText(glyph); };
+        if (!m_isTagged || m_isReading || std::ranges::none_of(glyphs, isPrivate)) {
             show(x, y, glyphs);
             return;
         }
         while (!glyphs.empty()) {
-            const bool isPrivate = hasPrivateText(glyphs.front());
-            const auto end = std::ranges::find_if(
-                glyphs, [&](const Glyph &glyph) { return hasPrivateText(glyph) != isPrivate; });
+            const bool wanted = isPrivate(glyphs.front());
+            const auto end = std::ranges::find(glyphs, !wanted, isPrivate);
             const auto run = glyphs.first(static_cast<std::size_t>(end - glyphs.begin()));
-            showRun(x, y, run, isPrivate);
+            showRun(x, y, run, wanted);
             for (const Glyph &glyph : run) {
                 x += glyph.advance;
             }
@@ -98,17 +98,17 @@ class ContextSink : public TextPageSink {
 
     /// Tagged pages say what private characters are to be read as (ISO 19005-2, 6.2.11.7.3).
     void showRun(double x, double y, std::span<const Glyph> run, bool isPrivate) {
+        if (!isPrivate) {
+            show(x, y, run);
+            return;
+        }
         QString text;
         for (const Glyph &glyph : run) {
-            text += isPrivate ? m_font->textOf(glyph) : QString();
+            text += m_font->textOf(glyph);
         }
-        if (isPrivate) {
-            beginActualText(text);
-        }
+        beginActualText(text);
         show(x, y, run);
-        if (isPrivate) {
-            endActualText();
-        }
+        endActualText();
     }
 
     void show(double x, double y, std::span<const Glyph> glyphs) {
