@@ -13,12 +13,12 @@
 #include "error/Error.h"
 #include "error/Reasons.h"
 #include "files/OutputFile.h"
-#include "pdf/DocumentWriter.h"
 #include "pdf/PDFContext.h"
 #include "pdf/Password.h"
 #include "pdf/QpdfErrors.h"
 #include "pdf/XmpPacket.h"
 #include "pdf/import/SourceInput.h"
+#include "pdf/writing/DocumentWriter.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -2,8 +2,9 @@
 
 #pragma once
 
+#include "files/OutputFile.h"
 #include "files/PartFiles.h"
-#include "pdf/DocumentWriter.h"
+#include "pdf/writing/OutputPipeline.h"
 
 #include <QString>
 

@@ -21,7 +21,7 @@ namespace folioforge {
 
 namespace {
 
-constexpr std::size_t kBufferSize = 1 << 20;
+constexpr std::size_t kBufferSize = 1 << 18;
 
 constexpr mode_t kNewFileMode = 0666;
 constexpr mode_t kOwnerMode = S_IRUSR | S_IWUSR;
@@ -156,22 +156,6 @@ qint64 OutputFile::readInto(qint64 offset, std::span<char> target) {
         fail(kNotReadBack);
     }
     return got;
-}
-
-void OutputFile::overwrite(qint64 offset, const QByteArray &bytes) {
-    drain();
-    if (!m_file.writeAt(offset, bytes)) {
-        fail(kNotWritten);
-    }
-}
-
-void OutputFile::cutTo(qint64 size) {
-    drain();
-    if (m_calls.ftruncate(m_file.get(), size) != 0 ||
-        ::lseek(m_file.get(), size, SEEK_SET) != size) {
-        fail(kNotWritten);
-    }
-    m_size = size;
 }
 
 Warnings OutputFile::finish(Flush flush) {

@@ -44,10 +44,6 @@ class OutputFile {
     /// Reads at `offset` until `target` is full or the file ends; returns the number of bytes.
     /// Throws Error.
     qint64 readInto(qint64 offset, std::span<char> target);
-    /// Replaces bytes already written. Throws Error.
-    void overwrite(qint64 offset, const QByteArray &bytes);
-    /// Removes the bytes from `size` on; what is appended next follows there. Throws Error.
-    void cutTo(qint64 size);
     /// Bytes appended so far.
     [[nodiscard]] qint64 size() const { return m_size; }
 

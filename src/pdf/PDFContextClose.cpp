@@ -5,8 +5,8 @@
 #include "error/Reasons.h"
 #include "files/OutputFile.h"
 #include "pdf/DocumentInfo.h"
-#include "pdf/DocumentWriter.h"
 #include "pdf/QpdfErrors.h"
+#include "pdf/writing/DocumentWriter.h"
 
 #include <utility>
 
@@ -71,10 +71,9 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath,
         // From now on each source is read only if it is still the file that was examined.
         m_reader->beginAnew();
         OutputFile file(m_path, m_settings.calls);
-        translateQpdfErrors([&] { requireRoomForStream(m_longestStream); });
         FurtherObjects elements;
         if (m_drawn) {
-            elements = [this](const ObjectNumbers &numberOf, ObjectStreams &streams) {
+            elements = [this](const NumberOf &numberOf, ObjectStreams &streams) {
                 writeElements(m_tags, *m_drawn, m_catalog.pages(), numberOf, streams);
             };
         }

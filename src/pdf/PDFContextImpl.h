@@ -71,7 +71,6 @@ class PDFContext::Impl {
     std::optional<DrawnStructure> m_drawn; ///< Nothing where no page that was drawn is tagged.
     PageDrawer m_pages{m_document, m_streams, tags()};
     std::map<std::string, SharedStreams> m_sourceStreams; ///< By source file.
-    qsizetype m_longestStream = 0; ///< Bytes, of those that the library copies by itself.
 };
 
 } // namespace folioforge

@@ -87,7 +87,6 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
             leaveBookmarks(imported);
         }
         AddedDocument added{static_cast<int>(imported.pages.size()), {}, imported.parts};
-        const qsizetype longest = std::min<qsizetype>(imported.longestStream, file.size);
         added.warnings = m_catalog.addDocument(std::move(imported));
         if (isAccessible()) {
             added.warnings.push_back(tagsUnchecked());
@@ -96,7 +95,6 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
             added.warnings.push_back(protectionLeft(m_settings.encryption != nullptr));
         }
         // From here on nothing fails, so that all of the document is added or nothing.
-        m_longestStream = std::max(m_longestStream, longest);
         known = std::move(streams);
         if (added.pages > 0) {
             m_settings.info = options.info;

@@ -30,7 +30,6 @@ class StreamData::SpooledData final : public QPDFObjectHandle::StreamDataProvide
 
     void provideStreamData(QPDFObjGen const &object, Pipeline *pipeline) override {
         const Spool::Place place = m_places.at(object);
-        requireRoomForStream(place.length);
         const QByteArrayView data = m_spool.at(place);
         pipeline->write(data.data(), static_cast<std::size_t>(data.size()));
         pipeline->finish();
@@ -50,9 +49,7 @@ class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider
         , m_slices(std::move(slices)) {}
 
     void provideStreamData([[maybe_unused]] QPDFObjGen const &object, Pipeline *pipeline) override {
-        // In one piece when it is not huge, so that the library's buffer need not grow.
-        constexpr qint64 kPiece = 16 << 20;
-        requireRoomForStream(length());
+        constexpr qint64 kPiece = 1 << 18; // It stays in the processor's cache while it passes.
         for (const FileSlice &slice : m_slices) {
             for (qint64 done = 0; done < slice.length; done += kPiece) {
                 const auto size = std::min(kPiece, slice.length - done);
@@ -64,11 +61,6 @@ class StreamData::SlicedData final : public QPDFObjectHandle::StreamDataProvider
     }
 
   private:
-    [[nodiscard]] qint64 length() const {
-        return std::transform_reduce(m_slices.begin(), m_slices.end(), qint64(0), std::plus<>(),
-                                     [](const FileSlice &slice) { return slice.length; });
-    }
-
     std::shared_ptr<SourceReader> m_reader;
     FileVersion m_file;
     std::vector<FileSlice> m_slices;
@@ -129,8 +121,15 @@ QPDFObjectHandle StreamData::fromFile(const QPDFObjectHandle &dictionary,
                                       std::shared_ptr<const SourceFile> file,
                                       std::vector<FileSlice> slices) {
     const FileVersion version = file->version();
+    const auto length =
+        std::transform_reduce(slices.begin(), slices.end(), qint64(0), std::plus<>(),
+                              [](const FileSlice &slice) { return slice.length; });
     m_reader->keepOpen(std::move(file));
-    return make(dictionary, std::make_shared<SlicedData>(m_reader, version, std::move(slices)));
+    QPDFObjectHandle stream =
+        make(dictionary, std::make_shared<SlicedData>(m_reader, version, std::move(slices)));
+    // With its length known it need not pass through memory as a whole.
+    stream.getDict().replaceKey("/Length", QPDFObjectHandle::newInteger(length));
+    return stream;
 }
 
 } // namespace folioforge

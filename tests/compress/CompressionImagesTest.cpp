@@ -230,7 +230,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
             QCOMPARE(outcome.imagesKept[0].reason, u"bilevel"_s);
             QCOMPARE(outcome.imagesKept[1].reason, u"bilevel"_s);
             const QByteArray copy = readFile(outcome.convertInfo->tempFilePathName);
-            QVERIFY(copy.contains("stream\n" + fax + "endstream"));
+            QVERIFY(copy.contains("stream\n" + fax + "\nendstream"));
             QVERIFY(copy.contains("stream\n" + jbig + "endstream"));
             QVERIFY(changeOf(outcome.convertInfo->tempFilePathName) < 8);
             QVERIFY(outcome.bytesAfter < before);

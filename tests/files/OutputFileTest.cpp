@@ -328,17 +328,16 @@ class OutputFileTest : public QObject {
         QVERIFY_THROWS_EXCEPTION(Error, OutputFile(target(u"none/a.pdf"_s)));
     }
 
-    void writtenBytesCanBeReadBackAndReplaced() {
+    void writtenBytesCanBeReadBack() {
         OutputFile file(target());
         file.write(QByteArray(3 << 20, 'x'));
         file.write(kContent);
         QCOMPARE(file.size(), (3 << 20) + kContent.size());
         QCOMPARE(file.read(3 << 20, 100), kContent);
-        file.overwrite((3 << 20) + 1, "0");
         file.write(kContent);
         file.finish(Flush::Never);
         QCOMPARE(file.publish(target(), Flush::Never), OutputFile::Published::Yes);
-        QCOMPARE(contentOf(target()), QByteArray(3 << 20, 'x') + "c0ntentcontent");
+        QCOMPARE(contentOf(target()), QByteArray(3 << 20, 'x') + "contentcontent");
     }
 };
 

@@ -2,12 +2,12 @@
 
 #pragma once
 
-#include "pdf/DocumentWriter.h"
 #include "pdf/import/DocumentImport.h"
 #include "pdf/import/FormMerger.h"
 #include "pdf/import/Language.h"
 #include "pdf/import/SourceNames.h"
 #include "pdf/import/StructureMerger.h"
+#include "pdf/writing/DocumentWriter.h"
 
 #include <optional>
 #include <span>

@@ -197,7 +197,6 @@ ImportedDocument importDocument(QPDF &source, QPDF &target, SharedStreams &share
     copyTopics(imported, source, target, chosen, names, options, copier);
     addLosses(imported, copier);
     imported.parts.carried = countCarried(imported);
-    imported.longestStream = copier.longestStream();
     imported.version = versionOf(source);
     if (imported.pages.empty()) {
         imported.warnings.push_back(

@@ -52,7 +52,6 @@ struct ImportedDocument {
     GivenNames names;
     ImportedMetadata metadata;
     PDFVersion version;
-    qsizetype longestStream = 0; ///< Bytes, as the source says.
     DocumentParts parts;
     Warnings warnings; ///< What of the document is not copied.
 };

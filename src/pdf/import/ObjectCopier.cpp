@@ -243,7 +243,6 @@ void ObjectCopier::noteFiles(const Dictionary &dictionary, const QPDFObjectHandl
 }
 
 void ObjectCopier::fillStream(PendingStream &stream) {
-    m_longestStream = std::max(m_longestStream, statedLength(stream.dictionary["/Length"]));
     stream.dictionary.erase("/Length");
     copyEntries(stream.dictionary, stream.target.getDict());
 }

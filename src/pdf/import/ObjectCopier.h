@@ -56,8 +56,6 @@ class ObjectCopier {
     bool setCopy(const QPDFObjectHandle &object, const QPDFObjectHandle &target);
     /// Fills the pages and objects that fillPages() and copy() returned.
     void run();
-    /// Bytes of the longest stream that run() copied, as the source says.
-    [[nodiscard]] qsizetype longestStream() const { return m_longestStream; }
     /// Digital signatures that run() left out. What they show on the page is copied.
     [[nodiscard]] int signaturesLeftOut() const { return m_signaturesLeftOut; }
 
@@ -128,7 +126,6 @@ class ObjectCopier {
     std::deque<PendingStream> m_pendingStreams;
     std::vector<QPDFObjectHandle> m_fieldActions;
     std::vector<QPDFObjectHandle> m_fileHolders;
-    qsizetype m_longestStream = 0;
     int m_signaturesLeftOut = 0;
 };
 

@@ -3,7 +3,7 @@
 #include "pdf/tags/StructureElements.h"
 
 #include "pdf/ContentNumber.h"
-#include "pdf/tags/ObjectStreams.h"
+#include "pdf/writing/ObjectStreams.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -86,7 +86,7 @@ class ParentTree {
 class SourceElements {
   public:
     SourceElements(const DrawnStructure &structure, std::span<const QPDFObjectHandle> pages,
-                   const ObjectNumbers &numberOf, ObjectStreams &streams, ParentTree &parents)
+                   const NumberOf &numberOf, ObjectStreams &streams, ParentTree &parents)
         : m_structure(structure)
         , m_pages(pages)
         , m_numberOf(numberOf)
@@ -200,7 +200,7 @@ class SourceElements {
 
     const DrawnStructure &m_structure;
     std::span<const QPDFObjectHandle> m_pages;
-    const ObjectNumbers &m_numberOf;
+    const NumberOf &m_numberOf;
     ObjectStreams &m_streams;
     ParentTree &m_parents;
     std::size_t m_partSize = 0;
@@ -238,7 +238,7 @@ DrawnStructure makeStructure(QPDF &document, const DrawnTags &tags, const std::s
 }
 
 void writeElements(const DrawnTags &tags, const DrawnStructure &structure,
-                   std::span<const QPDFObjectHandle> pages, const ObjectNumbers &numberOf,
+                   std::span<const QPDFObjectHandle> pages, const NumberOf &numberOf,
                    ObjectStreams &streams) {
     ParentTree parents(streams, tags.pages().size());
     SourceElements elements(structure, pages, numberOf, streams, parents);

@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "pdf/DocumentWriter.h"
 #include "pdf/tags/DrawnTags.h"
+#include "pdf/writing/DocumentWriter.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
 
@@ -35,7 +35,7 @@ DrawnStructure makeStructure(QPDF &document, const DrawnTags &tags, const std::s
 /// Writes the elements of pages that were drawn (ISO 32000-1, 14.7): one for each source, with its
 /// paragraphs and pictures. `pages` are all of the document.
 void writeElements(const DrawnTags &tags, const DrawnStructure &structure,
-                   std::span<const QPDFObjectHandle> pages, const ObjectNumbers &numberOf,
+                   std::span<const QPDFObjectHandle> pages, const NumberOf &numberOf,
                    ObjectStreams &streams);
 
 } // namespace folioforge

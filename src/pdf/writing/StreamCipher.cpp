@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "pdf/tags/StreamCipher.h"
+#include "pdf/writing/StreamCipher.h"
 
-#include "pdf/DocumentWriter.h"
 #include "pdf/Password.h"
 #include "pdf/QpdfErrors.h"
+#include "pdf/writing/DocumentWriter.h"
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/BufferInputSource.hh>

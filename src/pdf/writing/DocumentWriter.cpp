@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "pdf/writing/DocumentWriter.h"
+
+#include "files/OutputFile.h"
+#include "pdf/DocumentInfo.h"
+#include "pdf/Password.h"
+#include "pdf/QpdfErrors.h"
+#include "pdf/XmpPacket.h"
+#include "pdf/writing/CrossReferences.h"
+#include "pdf/writing/FileBody.h"
+#include "pdf/writing/ObjectStreams.h"
+#include "pdf/writing/OutputPipeline.h"
+#include "pdf/writing/StreamCipher.h"
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFWriter.hh>
+
+#include <QCryptographicHash>
+
+#include <optional>
+
+namespace folioforge {
+
+namespace {
+
+/// That of the form, or the first that knows the encryption.
+PDFVersion versionFor(const DocumentForm &form, bool isEncrypted) {
+    constexpr int kAes256 = 8; // The extension level of PDF 1.7.
+    PDFVersion version = form.version;
+    if (isEncrypted) {
+        version.updateIfGreater(PDFVersion(1, 7, kAes256));
+    }
+    return version;
+}
+
+std::string numberOf(const PDFVersion &version) {
+    return std::to_string(version.getMajor()) + '.' + std::to_string(version.getMinor());
+}
+
+/// States in the catalog which extensions of the format the document has (ISO 32000-1, 7.12).
+void stateExtensions(QPDF &document, const PDFVersion &version) {
+    auto catalog = document.getRoot();
+    auto extensions = catalog.getKey("/Extensions");
+    extensions =
+        extensions.isDictionary() ? extensions.shallowCopy() : QPDFObjectHandle::newDictionary();
+    extensions.removeKey("/ADBE");
+    if (version.getExtensionLevel() > 0) {
+        extensions.replaceKey(
+            "/ADBE",
+            QPDFObjectHandle::parse("<< /BaseVersion /" + numberOf(version) + " /ExtensionLevel " +
+                                    std::to_string(version.getExtensionLevel()) + " >>"));
+    }
+    if (extensions.getKeys().empty()) {
+        catalog.removeKey("/Extensions");
+    } else {
+        catalog.replaceKey("/Extensions", extensions);
+    }
+}
+
+/// An identifier that follows from the file as it is up to its end. An MD5 over all bytes takes as
+/// long as reading them from a disk.
+QByteArray identifierOf(QPDF &document, const OutputPipeline &output) {
+    const auto info = document.getTrailer().getKey("/Info").unparseResolved();
+    QCryptographicHash hash(QCryptographicHash::Md5);
+    hash.addData(QByteArray::fromStdString(info));
+    hash.addData(QByteArray::number(output.position()) + ' ' +
+                 QByteArray::number(output.checksum()));
+    return '<' + hash.result().toHex() + '>';
+}
+
+} // namespace
+
+void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
+    const PreparedPasswords passwords = preparedPasswords(encryption);
+    const bool allowed = true;
+    writer.setR6EncryptionParameters(
+        passwords.user.constData(), passwords.owner.constData(), allowed, !encryption.refuseCopy,
+        allowed, allowed, allowed, allowed, encryption.refusePrint ? qpdf_r3p_none : qpdf_r3p_full,
+        allowed);
+}
+
+DocumentForm formFor(const Claims &claims) {
+    // PDF/A-1 stands on PDF 1.4, which knows no object streams.
+    return {{}, claims.pdfA == u"1"};
+}
+
+void applyForm(QPDFWriter &writer, const DocumentForm &form) {
+    writer.setObjectStreamMode(form.classic ? qpdf_o_disable : qpdf_o_generate);
+    // Standards for archives ask for it.
+    writer.setNewlineBeforeEndstream(true);
+    writer.setMinimumPDFVersion(form.version);
+}
+
+namespace {
+
+void write(QPDF &document, OutputPipeline &output, const DocumentForm &form, QPDF *encryption,
+           const FurtherObjects &further) {
+    const auto cipher =
+        encryption ? std::optional(StreamCipher(encryption->getEncryptionKey())) : std::nullopt;
+    const StreamCipher *cipherOrNone = cipher ? &*cipher : nullptr;
+    const PDFVersion version = versionFor(form, encryption != nullptr);
+    stateExtensions(document, version);
+    // Bytes that are no text make programs take the file for binary.
+    output.append(QByteArray::fromStdString("%PDF-" + numberOf(version) + "\n%\xbf\xf7\xa2\xfe\n"));
+
+    CrossReferences references;
+    ObjectStreams streams(output, references, cipherOrNone);
+    FileBody body(document, output, references, form.classic ? nullptr : &streams, cipherOrNone);
+    QByteArray keys;
+    for (const char *key : {"Root", "Info"}) {
+        const int number = body.numberOf(document.getTrailer().getKey(std::string("/") + key));
+        keys += QByteArray("/") + key + ' ' + QByteArray::number(number) + " 0 R ";
+    }
+    body.write();
+    if (further) {
+        further([&body](const QPDFObjectHandle &object) { return body.numberOf(object); }, streams);
+    }
+    streams.finish();
+    if (encryption) {
+        const int number =
+            body.writeAsIs(encryption->getTrailer().getKey("/Encrypt").unparseResolved());
+        keys += "/Encrypt " + QByteArray::number(number) + " 0 R ";
+    }
+    const QByteArray identifier = identifierOf(document, output);
+    keys += "/ID [" + identifier + identifier + ']';
+    const qint64 end = output.position();
+    output.append(form.classic ? references.table(end, keys) : references.stream(end, keys));
+    output.throwFailure();
+}
+
+} // namespace
+
+std::uint32_t writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
+                            const DocumentForm &form, const FurtherObjects &further) {
+    OutputPipeline output(file);
+    translateQpdfErrors([&] {
+        const auto model = encryption ? encryptedLike(*encryption) : nullptr;
+        write(document, output, form, model.get(), further);
+    });
+    return output.checksum();
+}
+
+} // namespace folioforge
