@@ -1613,10 +1613,6 @@ None: pictures stay as they are
         </translation>
     </message>
     <message>
-        <source>The document&apos;s identifier cannot be written</source>
-        <translation>تتعذّر كتابة معرّف المستند</translation>
-    </message>
-    <message>
         <source>the font %1 cannot be embedded</source>
         <translation>يتعذّر تضمين الخط %1</translation>
     </message>

@@ -1529,10 +1529,6 @@ Keine: Bilder bleiben, wie sie sind
         </translation>
     </message>
     <message>
-        <source>The document&apos;s identifier cannot be written</source>
-        <translation>Die Kennung des Dokuments kann nicht geschrieben werden</translation>
-    </message>
-    <message>
         <source>the font %1 cannot be embedded</source>
         <translation>Die Schrift %1 kann nicht eingebettet werden</translation>
     </message>

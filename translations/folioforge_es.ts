@@ -1529,10 +1529,6 @@ Ninguna: las imágenes quedan como están
         </translation>
     </message>
     <message>
-        <source>The document&apos;s identifier cannot be written</source>
-        <translation>No se puede escribir el identificador del documento</translation>
-    </message>
-    <message>
         <source>the font %1 cannot be embedded</source>
         <translation>La fuente %1 no se puede incrustar</translation>
     </message>

@@ -1529,10 +1529,6 @@ Aucune&#xa0;: les images restent telles quelles
         </translation>
     </message>
     <message>
-        <source>The document&apos;s identifier cannot be written</source>
-        <translation>L’identifiant du document ne peut pas être écrit</translation>
-    </message>
-    <message>
         <source>the font %1 cannot be embedded</source>
         <translation>La police %1 ne peut pas être incorporée</translation>
     </message>

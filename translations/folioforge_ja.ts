@@ -1508,10 +1508,6 @@ None: pictures stay as they are
         </translation>
     </message>
     <message>
-        <source>The document&apos;s identifier cannot be written</source>
-        <translation>文書の識別子を書き込めません</translation>
-    </message>
-    <message>
         <source>the font %1 cannot be embedded</source>
         <translation>フォント %1 を埋め込めません</translation>
     </message>

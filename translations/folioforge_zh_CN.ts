@@ -1508,10 +1508,6 @@ None: pictures stay as they are
         </translation>
     </message>
     <message>
-        <source>The document&apos;s identifier cannot be written</source>
-        <translation>无法写入文档的标识符</translation>
-    </message>
-    <message>
         <source>the font %1 cannot be embedded</source>
         <translation>无法嵌入字体 %1</translation>
     </message>

@@ -27,7 +27,6 @@
 #include <utility>
 
 #include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
 
 namespace folioforge {
 
@@ -40,41 +39,38 @@ QString stopped() {
     return Reasons::tr("The conversion was stopped");
 }
 
-/// Turns the writer's percentage into the pages written and reports each page.
-class PageProgress : public QPDFWriter::ProgressReporter {
+/// Reports the pages of a document as written in the measure in which its objects are.
+class PageProgress {
   public:
-    PageProgress(const EndPageWrite &endPageWrite, int pages, const OutputPipeline &output,
-                 std::stop_token stop)
+    PageProgress(QPDF &document, const EndPageWrite &endPageWrite, std::stop_token stop)
         : m_endPageWrite(endPageWrite)
-        , m_pages(pages)
-        , m_output(output)
+        , m_pages(document.getAllPages().size())
+        , m_objects(document.getAllObjects().size())
         , m_stop(std::move(stop)) {}
 
-    void reportProgress(int percent) override {
-        const int written = percent * m_pages / 100;
-        for (; m_written < written; ++m_written) {
-            requireGoingOn();
-            if (m_endPageWrite) {
-                m_endPageWrite(m_written, m_pages);
-            }
-        }
-        requireGoingOn();
-    }
-
-  private:
-    /// Throws where the pass is to end: what fails or stops here needs no more pages.
-    void requireGoingOn() const {
-        m_output.throwFailure();
+    /// Throws Error where the pass is to end: what stops here needs no more objects.
+    void objectWritten() {
         if (m_stop.stop_requested()) {
             throw Error(stopped());
+        }
+        m_writtenObjects = std::min(m_writtenObjects + 1, m_objects);
+        reportPages(m_pages * m_writtenObjects / m_objects);
+    }
+    void finish() { reportPages(m_pages); }
+
+  private:
+    void reportPages(std::size_t written) {
+        for (; m_endPageWrite && m_writtenPages < written; ++m_writtenPages) {
+            m_endPageWrite(static_cast<int>(m_writtenPages), static_cast<int>(m_pages));
         }
     }
 
     const EndPageWrite &m_endPageWrite;
-    int m_pages;
-    const OutputPipeline &m_output;
+    std::size_t m_pages;
+    std::size_t m_objects;
     std::stop_token m_stop;
-    int m_written = 0;
+    std::size_t m_writtenObjects = 0;
+    std::size_t m_writtenPages = 0;
 };
 
 void unlock(QPDF &document, const std::shared_ptr<SourceInput> &input,
@@ -84,35 +80,16 @@ void unlock(QPDF &document, const std::shared_ptr<SourceInput> &input,
     document.processInputSource(input, password.isEmpty() ? nullptr : password.constData());
 }
 
-/// For the longest stream of a document of `size` bytes. No stream is longer than its file.
-void requireRoomForStreams(QPDF &document, qsizetype size) {
-    qsizetype longest = 0;
-    for (QPDFObjectHandle &object : document.getAllObjects()) {
-        if (object.isStream()) {
-            longest = std::max(longest, statedLength(object.getDict().getKey("/Length")));
-        }
-    }
-    requireRoomForStream(std::min(longest, size));
-}
-
-void write(QPDF &document, OutputPipeline &output, const CompressionOptions &options,
-           const DocumentForm &form, const EndPageWrite &endPageWrite) {
+void write(QPDF &document, OutputFile &copy, const CompressionOptions &options,
+           const Claims &claims, const EndPageWrite &endPageWrite) {
     keepFragileStreams(document);
-    QPDFWriter writer(document);
-    writer.setOutputPipeline(&output);
-    applyForm(writer, form);
-    writer.setCompressStreams(true);
-    writer.setDecodeLevel(qpdf_dl_generalized);
-    if (options.encryption) {
-        applyEncryption(writer, *options.encryption);
-    } else {
-        writer.setDeterministicID(true); // The same document is compressed the same.
-    }
-    const auto pages = static_cast<int>(document.getAllPages().size());
-    writer.registerProgressReporter(
-        std::make_shared<PageProgress>(endPageWrite, pages, output, options.stop));
-    writer.write();
-    output.throwFailure();
+    DocumentForm form = formFor(claims);
+    form.version = document.getVersionAsPDFVersion();
+    form.repacks = true;
+    PageProgress progress(document, endPageWrite, options.stop);
+    writeDocument(document, copy, options.encryption.get(), form,
+                  {{}, [&progress] { progress.objectWritten(); }});
+    progress.finish();
 }
 
 /// `images` in the order of their pages.
@@ -122,8 +99,7 @@ std::vector<KeptImage> byPage(std::vector<KeptImage> images) {
 }
 
 void runPass(const QString &path, QuartzFilter filter, const CompressionOptions &options,
-             OutputPipeline &output, const EndPageWrite &endPageWrite,
-             CompressionOutcome &outcome) {
+             OutputFile &copy, const EndPageWrite &endPageWrite, CompressionOutcome &outcome) {
     const auto reader = std::make_shared<SourceReader>(options.calls);
     const auto input = std::make_shared<SourceInput>(FileVersion::of(path), reader);
     QPDF document;
@@ -143,8 +119,7 @@ void runPass(const QString &path, QuartzFilter filter, const CompressionOptions 
             keepColorsOfData(plan);
         }
         const auto streams = ReducedStreams::install(std::move(plan.planned));
-        requireRoomForStreams(document, QFileInfo(path).size());
-        write(document, output, options, formFor(claims), endPageWrite);
+        write(document, copy, options, claims, endPageWrite);
         std::vector<KeptImage> kept = std::move(plan.kept);
         kept.insert(kept.end(), streams->kept().begin(), streams->kept().end());
         outcome.imagesKept = byPage(std::move(kept));
@@ -159,7 +134,7 @@ void compressInto(const QString &path, const CompressionOptions &options,
     const QuartzFilter filter =
         options.filter ? *options.filter : readQuartzFilter(options.filterFile);
     TemporaryCopy copy(options.temporaryFolder, path, options.calls);
-    runPass(path, filter, options, copy.pipeline(), endPageWrite, outcome);
+    runPass(path, filter, options, copy.file(), endPageWrite, outcome);
     if (!options.grey && copy.size() >= outcome.bytesBefore) {
         outcome.imagesReduced = 0;
         return;

@@ -150,7 +150,6 @@ Reduction ReducedStreams::take(std::size_t index) {
 
 void ReducedStreams::keep(Image &image, const QString &reason, Pipeline *pipeline) {
     const auto data = image.original.getRawStreamData();
-    requireRoomForStream(static_cast<qsizetype>(data->getSize()));
     pipeline->write(data->getBuffer(), data->getSize());
     pipeline->finish();
     if (!image.isCounted) {
@@ -166,7 +165,6 @@ void ReducedStreams::replace(Image &image, const ReducedImage &reduced, Pipeline
         ++m_done;
         image.isCounted = true;
     }
-    requireRoomForStream(static_cast<qsizetype>(reduced.data.size()));
     pipeline->writeString(reduced.data);
     pipeline->finish();
 }

@@ -17,8 +17,8 @@ namespace folioforge {
 TemporaryCopy::TemporaryCopy(const QString &folder, const QString &source, SystemCalls &calls)
     : m_folder(folder)
     , m_source(source)
-    , m_file(folder + u'/' + QFileInfo(source).fileName(), calls, OutputFile::Readers::OwnerAlone)
-    , m_pipeline(m_file) {}
+    , m_file(folder + u'/' + QFileInfo(source).fileName(), calls, OutputFile::Readers::OwnerAlone) {
+}
 
 /// Null where the name is taken.
 std::shared_ptr<const TemporaryFile> TemporaryCopy::publishedAs(const QString &name) {

@@ -4,7 +4,6 @@
 
 #include "files/OutputFile.h"
 #include "files/PartFiles.h"
-#include "pdf/writing/OutputPipeline.h"
 
 #include <QString>
 
@@ -20,7 +19,7 @@ class TemporaryCopy {
     TemporaryCopy(const QString &folder, const QString &source, SystemCalls &calls);
 
     /// Where the document's bytes go.
-    [[nodiscard]] OutputPipeline &pipeline() { return m_pipeline; }
+    [[nodiscard]] OutputFile &file() { return m_file; }
     /// Bytes written so far.
     [[nodiscard]] qint64 size() const { return m_file.size(); }
     /// Gives the copy its name, the source's, or with a number behind it, "(1).pdf" and upwards,
@@ -33,7 +32,6 @@ class TemporaryCopy {
     QString m_folder;
     QString m_source;
     OutputFile m_file;
-    OutputPipeline m_pipeline;
 };
 
 /// Appends the bytes of the file at `path`, read through `calls`, to `target`. Throws Error.

@@ -71,14 +71,14 @@ CloseResult PDFContext::Impl::close(const std::function<QString()> &nextPath,
         // From now on each source is read only if it is still the file that was examined.
         m_reader->beginAnew();
         OutputFile file(m_path, m_settings.calls);
-        FurtherObjects elements;
+        WriteSteps steps;
         if (m_drawn) {
-            elements = [this](const NumberOf &numberOf, ObjectStreams &streams) {
+            steps.further = [this](const NumberOf &numberOf, ObjectStreams &streams) {
                 writeElements(m_tags, *m_drawn, m_catalog.pages(), numberOf, streams);
             };
         }
-        const std::uint32_t checksum = writeDocument(m_document, file, m_settings.encryption.get(),
-                                                     m_catalog.form(), elements);
+        const std::uint32_t checksum =
+            writeDocument(m_document, file, m_settings.encryption.get(), m_catalog.form(), steps);
         m_reader->finish();
         translateQpdfErrors([&] { requireAllObjects(m_document, *m_reader); });
         Warnings warnings = file.finish(m_settings.flush);

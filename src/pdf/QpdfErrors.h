@@ -41,18 +41,6 @@ template<typename Work> auto translateQpdfErrors(Work &&work) -> decltype(work()
     }
 }
 
-/// Throws std::bad_alloc when libqpdf would lack the memory to write a stream of `bytes`. It copies
-/// its buffer at the end of the stream in a destructor, where a lack of memory ends the program.
-inline void requireRoomForStream(qsizetype bytes) {
-    // The buffer, up to twice as long as the stream, and the buffer it grew from or the copy; gaps
-    // between blocks that malloc keeps; and a piece of the source.
-    constexpr qsizetype kCopies = 3;
-    constexpr qsizetype kMaxGap = 32 << 20;
-    constexpr qsizetype kPiece = 1 << 20;
-    const qsizetype gap = std::min(2 * bytes, kMaxGap);
-    static_cast<void>(QByteArray(kCopies * bytes + gap + kPiece, Qt::Uninitialized));
-}
-
 /// The bytes of a stream as its /Length says; 0 when that is no number.
 inline qsizetype statedLength(QPDFObjectHandle length) {
     return length.isInteger() ? length.getIntValue() : 0;

@@ -231,7 +231,7 @@ class CompressionImagesTest : public QObject, protected CompressionCase {
             QCOMPARE(outcome.imagesKept[1].reason, u"bilevel"_s);
             const QByteArray copy = readFile(outcome.convertInfo->tempFilePathName);
             QVERIFY(copy.contains("stream\n" + fax + "\nendstream"));
-            QVERIFY(copy.contains("stream\n" + jbig + "endstream"));
+            QVERIFY(copy.contains("stream\n" + jbig + "\nendstream"));
             QVERIFY(changeOf(outcome.convertInfo->tempFilePathName) < 8);
             QVERIFY(outcome.bytesAfter < before);
             before = outcome.bytesAfter;

@@ -4,7 +4,6 @@
 
 #include "files/OutputFile.h"
 #include "pdf/DocumentInfo.h"
-#include "pdf/Password.h"
 #include "pdf/QpdfErrors.h"
 #include "pdf/XmpPacket.h"
 #include "pdf/writing/CrossReferences.h"
@@ -14,7 +13,6 @@
 #include "pdf/writing/StreamCipher.h"
 
 #include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
 
 #include <QCryptographicHash>
 
@@ -24,10 +22,13 @@ namespace folioforge {
 
 namespace {
 
-/// That of the form, or the first that knows the encryption.
+/// That of the form, or the first that knows what the file is made of.
 PDFVersion versionFor(const DocumentForm &form, bool isEncrypted) {
     constexpr int kAes256 = 8; // The extension level of PDF 1.7.
     PDFVersion version = form.version;
+    if (!form.classic) {
+        version.updateIfGreater(PDFVersion(1, 5));
+    }
     if (isEncrypted) {
         version.updateIfGreater(PDFVersion(1, 7, kAes256));
     }
@@ -71,31 +72,15 @@ QByteArray identifierOf(QPDF &document, const OutputPipeline &output) {
 
 } // namespace
 
-void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
-    const PreparedPasswords passwords = preparedPasswords(encryption);
-    const bool allowed = true;
-    writer.setR6EncryptionParameters(
-        passwords.user.constData(), passwords.owner.constData(), allowed, !encryption.refuseCopy,
-        allowed, allowed, allowed, allowed, encryption.refusePrint ? qpdf_r3p_none : qpdf_r3p_full,
-        allowed);
-}
-
 DocumentForm formFor(const Claims &claims) {
     // PDF/A-1 stands on PDF 1.4, which knows no object streams.
-    return {{}, claims.pdfA == u"1"};
-}
-
-void applyForm(QPDFWriter &writer, const DocumentForm &form) {
-    writer.setObjectStreamMode(form.classic ? qpdf_o_disable : qpdf_o_generate);
-    // Standards for archives ask for it.
-    writer.setNewlineBeforeEndstream(true);
-    writer.setMinimumPDFVersion(form.version);
+    return {.version = {}, .classic = claims.pdfA == u"1"};
 }
 
 namespace {
 
 void write(QPDF &document, OutputPipeline &output, const DocumentForm &form, QPDF *encryption,
-           const FurtherObjects &further) {
+           const WriteSteps &steps) {
     const auto cipher =
         encryption ? std::optional(StreamCipher(encryption->getEncryptionKey())) : std::nullopt;
     const StreamCipher *cipherOrNone = cipher ? &*cipher : nullptr;
@@ -106,15 +91,19 @@ void write(QPDF &document, OutputPipeline &output, const DocumentForm &form, QPD
 
     CrossReferences references;
     ObjectStreams streams(output, references, cipherOrNone);
-    FileBody body(document, output, references, form.classic ? nullptr : &streams, cipherOrNone);
+    FileBody body(document, output, references, form.classic ? nullptr : &streams, cipherOrNone,
+                  form.repacks);
     QByteArray keys;
-    for (const char *key : {"Root", "Info"}) {
-        const int number = body.numberOf(document.getTrailer().getKey(std::string("/") + key));
-        keys += QByteArray("/") + key + ' ' + QByteArray::number(number) + " 0 R ";
+    for (const char *key : {"/Root", "/Info"}) {
+        const auto object = document.getTrailer().getKey(key);
+        if (object.isIndirect()) {
+            keys += key + (' ' + QByteArray::number(body.numberOf(object))) + " 0 R ";
+        }
     }
-    body.write();
-    if (further) {
-        further([&body](const QPDFObjectHandle &object) { return body.numberOf(object); }, streams);
+    body.write(steps.eachObject);
+    if (steps.further) {
+        steps.further([&body](const QPDFObjectHandle &object) { return body.numberOf(object); },
+                      streams);
     }
     streams.finish();
     if (encryption) {
@@ -132,11 +121,11 @@ void write(QPDF &document, OutputPipeline &output, const DocumentForm &form, QPD
 } // namespace
 
 std::uint32_t writeDocument(QPDF &document, OutputFile &file, const Encryption *encryption,
-                            const DocumentForm &form, const FurtherObjects &further) {
+                            const DocumentForm &form, const WriteSteps &steps) {
     OutputPipeline output(file);
     translateQpdfErrors([&] {
         const auto model = encryption ? encryptedLike(*encryption) : nullptr;
-        write(document, output, form, model.get(), further);
+        write(document, output, form, model.get(), steps);
     });
     return output.checksum();
 }

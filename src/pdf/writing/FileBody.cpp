@@ -11,6 +11,7 @@
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
 
+#include <limits>
 #include <new>
 
 namespace folioforge {
@@ -27,6 +28,12 @@ bool isToBeCompressed(QPDFObjectHandle stream, bool isEncrypted) {
     auto dictionary = stream.getDict();
     return stream.getFilterOnWrite() && !dictionary.hasKey("/Filter") &&
            (isEncrypted || !dictionary.isDictionaryOfType("/Metadata"));
+}
+
+/// Whether `stream` may have another lossless filter than Flate.
+bool isToBeRepacked(QPDFObjectHandle stream) {
+    auto filter = stream.getDict().getKey("/Filter");
+    return stream.getFilterOnWrite() && !filter.isNull() && !filter.isNameAndEquals("/FlateDecode");
 }
 
 /// Takes the filter that names how a stream was encrypted in its source out of `dictionary`.
@@ -53,15 +60,21 @@ void dropCrypt(QPDFObjectHandle dictionary) {
     }
 }
 
-/// Takes all data of a stream. The library hides what is thrown at it.
+/// Takes the data of a stream, up to a limit. The library hides what is thrown at it.
 class DataPipeline final : public Pipeline {
   public:
-    explicit DataPipeline(QByteArray &data)
+    DataPipeline(QByteArray &data, std::size_t maxBytes)
         : Pipeline("data", nullptr)
-        , m_data(data) {}
+        , m_data(data)
+        , m_left(maxBytes) {}
 
     void write(unsigned char const *data, size_t length) override {
+        m_isCut |= length > m_left;
+        if (m_isCut) {
+            return;
+        }
         try {
+            m_left -= length;
             m_data.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(length));
         } catch (const std::bad_alloc &) {
             m_lacksMemory = true;
@@ -69,28 +82,33 @@ class DataPipeline final : public Pipeline {
     }
     void finish() override {}
     [[nodiscard]] bool lacksMemory() const { return m_lacksMemory; }
+    /// There was more than the limit.
+    [[nodiscard]] bool isCut() const { return m_isCut; }
 
   private:
     QByteArray &m_data;
+    std::size_t m_left;
+    bool m_isCut = false;
     bool m_lacksMemory = false;
 };
 
 } // namespace
 
 FileBody::FileBody(QPDF &document, OutputPipeline &file, CrossReferences &references,
-                   ObjectStreams *streams, const StreamCipher *cipher)
+                   ObjectStreams *streams, const StreamCipher *cipher, bool repacks)
     : m_document(document)
     , m_file(file)
     , m_references(references)
     , m_streams(streams)
-    , m_cipher(cipher) {}
+    , m_cipher(cipher)
+    , m_repacks(repacks) {}
 
-int FileBody::numberOf(int object) {
-    const auto index = static_cast<std::size_t>(object);
+int FileBody::numberOf(const QPDFObjGen &object) {
+    const auto index = static_cast<std::size_t>(object.getObj());
     if (index >= m_numbers.size()) {
         m_numbers.resize(index + 1);
     }
-    int &number = m_numbers[index];
+    int &number = object.getGen() == 0 ? m_numbers[index] : m_laterNumbers[object];
     if (number == 0) {
         number = m_references.newNumber();
         m_waiting.push_back(object);
@@ -98,16 +116,15 @@ int FileBody::numberOf(int object) {
     return number;
 }
 
-int FileBody::numberOf(const QPDFObjectHandle &object) {
-    return numberOf(object.getObjectID());
-}
-
-void FileBody::write() {
+void FileBody::write(const std::function<void()> &eachObject) {
     while (!m_waiting.empty()) {
-        const int object = m_waiting.front();
+        const QPDFObjGen object = m_waiting.front();
         m_waiting.pop_front();
-        writeObject(m_document.getObjectByID(object, 0), numberOf(object));
+        writeObject(m_document.getObjectByObjGen(object), numberOf(object));
         m_file.throwFailure();
+        if (eachObject) {
+            eachObject();
+        }
     }
 }
 
@@ -145,19 +162,13 @@ void FileBody::writeAlone(int number, const std::string &object) {
 }
 
 void FileBody::writeStream(QPDFObjectHandle stream, int number) {
+    auto length = stream.getDict().getKey("/Length");
     auto dictionary = stream.getDict().shallowCopy();
-    const bool compresses = isToBeCompressed(stream, m_cipher != nullptr);
-    auto length = dictionary.getKey("/Length");
-    if (!compresses && !m_cipher && length.isInteger()) {
+    if (!stream.getFilterOnWrite() && !m_cipher && length.isInteger()) {
         beginStream(number, dictionary, length.getIntValue());
         stream.pipeStreamData(&m_file, 0, qpdf_dl_none); // The library checks the length.
     } else {
-        readData(stream);
-        if (compresses) {
-            m_data = deflateBytes(m_data);
-            dictionary.replaceKey("/Filter", QPDFObjectHandle::newName("/FlateDecode"));
-            dictionary.removeKey("/DecodeParms");
-        }
+        readPacked(stream, dictionary);
         if (m_cipher) {
             m_data = m_cipher->encrypted(m_data);
         }
@@ -167,13 +178,34 @@ void FileBody::writeStream(QPDFObjectHandle stream, int number) {
     m_file.append("\nendstream\nendobj\n");
 }
 
-void FileBody::readData(QPDFObjectHandle stream) {
+/// Reads the data of `stream`, compressed, and its dictionary, which may change with that.
+void FileBody::readPacked(QPDFObjectHandle stream, QPDFObjectHandle &dictionary) {
+    const bool repacks = m_repacks && isToBeRepacked(stream);
+    const bool isUnpacked = repacks && readData(stream, qpdf_dl_generalized);
+    if (!isUnpacked) {
+        readData(stream, qpdf_dl_none);
+    }
+    dictionary = stream.getDict().shallowCopy();
+    if (isUnpacked || isToBeCompressed(stream, m_cipher != nullptr)) {
+        m_data = deflateBytes(m_data);
+        dictionary.replaceKey("/Filter", QPDFObjectHandle::newName("/FlateDecode"));
+        dictionary.removeKey("/DecodeParms");
+    }
+}
+
+/// Whether the data was unpacked as far as `level` says. What unfolds into a machine's memory is
+/// not.
+bool FileBody::readData(QPDFObjectHandle stream, qpdf_stream_decode_level_e level) {
+    constexpr std::size_t kMaxUnpacked = 256 << 20;
+    const bool unpacks = level != qpdf_dl_none;
     m_data.resize(0); // It keeps its memory.
-    DataPipeline data(m_data);
-    stream.pipeStreamData(&data, 0, qpdf_dl_none);
+    DataPipeline data(m_data, unpacks ? kMaxUnpacked : std::numeric_limits<std::size_t>::max());
+    bool isUnpacked = false;
+    const bool isWhole = stream.pipeStreamData(&data, &isUnpacked, 0, level, unpacks);
     if (data.lacksMemory()) {
         throw std::bad_alloc();
     }
+    return isWhole && isUnpacked && !data.isCut();
 }
 
 void FileBody::beginStream(int number, QPDFObjectHandle dictionary, qint64 length) {

@@ -9,6 +9,8 @@
 #include <QByteArray>
 
 #include <deque>
+#include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -25,16 +27,16 @@ class OutputPipeline;
 class FileBody final : public ObjectNumbers {
   public:
     /// Places go to `references`. Null `streams` mean that all objects stand by themselves, a null
-    /// `cipher` that none is encrypted.
+    /// `cipher` that none is encrypted. `repacks` is as in DocumentForm.
     FileBody(QPDF &document, OutputPipeline &file, CrossReferences &references,
-             ObjectStreams *streams, const StreamCipher *cipher);
+             ObjectStreams *streams, const StreamCipher *cipher, bool repacks);
 
     /// That object is written with the next write().
-    int numberOf(int object) override;
-    int numberOf(const QPDFObjectHandle &object);
-    /// Writes the objects that have got numbers, and all that they refer to. Throws Error, and
-    /// what libqpdf throws.
-    void write();
+    int numberOf(const QPDFObjGen &object) override;
+    int numberOf(const QPDFObjectHandle &object) { return numberOf(object.getObjGen()); }
+    /// Writes the objects that have got numbers, and all that they refer to. Calls `eachObject`,
+    /// if any, when one is written. Throws Error, and what that and libqpdf throw.
+    void write(const std::function<void()> &eachObject);
     /// Writes an object by itself, as it is given. Returns its number.
     int writeAsIs(const std::string &object);
 
@@ -43,7 +45,8 @@ class FileBody final : public ObjectNumbers {
     void writeStream(QPDFObjectHandle stream, int number);
     void writeAlone(int number, const std::string &object);
     void beginAlone(int number, const std::string &object);
-    void readData(QPDFObjectHandle stream);
+    bool readData(QPDFObjectHandle stream, qpdf_stream_decode_level_e level);
+    void readPacked(QPDFObjectHandle stream, QPDFObjectHandle &dictionary);
     void beginStream(int number, QPDFObjectHandle dictionary, qint64 length);
 
     QPDF &m_document;
@@ -51,10 +54,12 @@ class FileBody final : public ObjectNumbers {
     CrossReferences &m_references;
     ObjectStreams *m_streams;
     const StreamCipher *m_cipher;
+    bool m_repacks;
     std::vector<int> m_numbers; ///< In the file, by those in the document; 0 for none.
-    std::deque<int> m_waiting;  ///< Objects of the document that are not written yet.
-    std::string m_text;         ///< Of the object that is being written.
-    QByteArray m_data;          ///< Of the stream that is being written.
+    std::map<QPDFObjGen, int> m_laterNumbers; ///< The same for generations other than 0.
+    std::deque<QPDFObjGen> m_waiting;         ///< Objects that are not written yet.
+    std::string m_text;                       ///< Of the object that is being written.
+    QByteArray m_data;                        ///< Of the stream that is being written.
 };
 
 } // namespace folioforge

@@ -9,6 +9,8 @@
 #include <QByteArray>
 
 #include <charconv>
+#include <optional>
+#include <system_error>
 
 namespace folioforge {
 
@@ -51,6 +53,33 @@ std::size_t endOfHexadecimal(std::string_view text, std::size_t at) {
     return end == std::string_view::npos ? text.size() : end + 1;
 }
 
+/// The number that all of `digits` is; nothing where they are none.
+std::optional<int> wholeNumber(std::string_view digits) {
+    int number = 0;
+    const char *const end = digits.data() + digits.size();
+    const auto read = std::from_chars(digits.data(), end, number);
+    return read.ec == std::errc() && read.ptr == end ? std::optional(number) : std::nullopt;
+}
+
+/// The reference, such as "12 0 R", that begins at `at`; nothing where there is none. `at` moves
+/// behind it, or behind the first word.
+std::optional<QPDFObjGen> readReference(std::string_view text, std::size_t &at) {
+    constexpr std::string_view kEnd(" R");
+    const std::size_t numberEnd = endOfToken(text, at);
+    const auto number = wholeNumber(text.substr(at, numberEnd - at));
+    at = numberEnd;
+    if (!number || text.substr(at, 1) != " ") {
+        return std::nullopt;
+    }
+    const std::size_t generationEnd = endOfToken(text, at + 1);
+    const auto generation = wholeNumber(text.substr(at + 1, generationEnd - at - 1));
+    if (!generation || text.substr(generationEnd, kEnd.size()) != kEnd) {
+        return std::nullopt;
+    }
+    at = generationEnd + kEnd.size();
+    return QPDFObjGen(*number, *generation);
+}
+
 void appendString(std::string &out, std::string_view string, const StreamCipher &cipher) {
     const std::string bytes = QPDFObjectHandle::parse(std::string(string)).getStringValue();
     const QByteArray encrypted = cipher.encrypted({bytes.data(), std::ssize(bytes)});
@@ -61,8 +90,7 @@ void appendString(std::string &out, std::string_view string, const StreamCipher 
 
 void appendObject(std::string &out, std::string_view object, ObjectNumbers &numbers,
                   const StreamCipher *cipher) {
-    constexpr std::string_view kReference(" 0 R"); // What is written is of generation 0.
-    std::size_t copied = 0;                        // Up to there all is in `out`.
+    std::size_t copied = 0; // Up to there all is in `out`.
     std::size_t at = 0;
     while (at < object.size()) {
         const std::size_t begin = at;
@@ -76,15 +104,10 @@ void appendObject(std::string &out, std::string_view object, ObjectNumbers &numb
                 copied = at;
             }
         } else if (isDigit(first)) {
-            at = endOfToken(object, at);
-            int number = 0;
-            if (object.substr(at, kReference.size()) == kReference &&
-                std::from_chars(object.data() + begin, object.data() + at, number).ptr ==
-                    object.data() + at) {
+            if (const auto reference = readReference(object, at)) {
                 out.append(object, copied, begin - copied);
-                out.append(std::to_string(numbers.numberOf(number)));
+                out.append(std::to_string(numbers.numberOf(*reference))).append(" 0 R");
                 copied = at;
-                at += kReference.size();
             }
         } else if (first == '<' || first == '>') {
             at += 2;

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <qpdf/QPDFObjGen.hh>
+
 #include <string>
 #include <string_view>
 
@@ -17,8 +19,8 @@ class ObjectNumbers {
     ObjectNumbers(const ObjectNumbers &) = delete;
     ObjectNumbers &operator=(const ObjectNumbers &) = delete;
 
-    /// The number in the file of what has the number `object` in the document.
-    virtual int numberOf(int object) = 0;
+    /// The number in the file of what has the number and the generation `object` in the document.
+    virtual int numberOf(const QPDFObjGen &object) = 0;
 };
 
 /// Appends `object`, as libqpdf writes it out, to `out`, its references with the numbers of the

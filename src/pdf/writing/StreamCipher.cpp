@@ -4,7 +4,6 @@
 
 #include "pdf/Password.h"
 #include "pdf/QpdfErrors.h"
-#include "pdf/writing/DocumentWriter.h"
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/BufferInputSource.hh>
@@ -20,6 +19,15 @@ namespace folioforge {
 namespace {
 
 constexpr qsizetype kBlock = QPDFCryptoImpl::rijndael_buf_size;
+
+void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
+    const PreparedPasswords passwords = preparedPasswords(encryption);
+    const bool allowed = true;
+    writer.setR6EncryptionParameters(
+        passwords.user.constData(), passwords.owner.constData(), allowed, !encryption.refuseCopy,
+        allowed, allowed, allowed, allowed, encryption.refusePrint ? qpdf_r3p_none : qpdf_r3p_full,
+        allowed);
+}
 
 } // namespace
 
