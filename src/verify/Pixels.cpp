@@ -141,20 +141,22 @@ std::string paletteOf(Object lookup) {
 
 std::optional<Pixels> lookedUp(const RawImage &raw, const std::vector<Object> &space) {
     constexpr std::size_t kParts = 4;
-    if (space.size() < kParts) {
+    constexpr int kMaxColor = 255;
+    if (space.size() != kParts || !Object(space[2]).isInteger()) {
         return std::nullopt;
     }
     Pixels pixels{raw.width, raw.height, channelsIn(space[1]), {}};
     const std::string palette = paletteOf(space[3]);
-    const auto colors =
-        pixels.channels > 0 ? static_cast<int>(palette.size()) / pixels.channels : 0;
-    if (colors == 0) {
+    const auto last = Object(space[2]).getIntValue();
+    // There are readers that show nothing with a palette that is too short.
+    if (pixels.channels == 0 || last < 0 || last > kMaxColor ||
+        std::ssize(palette) < (last + 1) * pixels.channels) {
         return std::nullopt;
     }
     pixels.samples.reserve(qsizetype(raw.width) * raw.height * pixels.channels);
     for (int y = 0; y < raw.height; ++y) {
         for (int x = 0; x < raw.width; ++x) {
-            const int color = std::min(raw.sample(x, y, 0), colors - 1);
+            const int color = std::min(raw.sample(x, y, 0), static_cast<int>(last));
             pixels.samples.append(palette.data() + qsizetype(color) * pixels.channels,
                                   pixels.channels);
         }

@@ -352,6 +352,10 @@ class VerificationTest : public QObject, protected ConversionCase {
         QTest::newRow("width of a picture") << QByteArray("/Width 24") << QByteArray("/Width 23");
         QTest::newRow("colours of a picture")
             << QByteArray("/ColorSpace /DeviceRGB") << QByteArray("/ColorSpace /DeviceGray");
+        QTest::newRow("number of colours")
+            << QByteArray("/DeviceRGB\n    11\n") << QByteArray("/DeviceRGB\n    21\n");
+        QTest::newRow("no number of colours")
+            << QByteArray("/DeviceRGB\n    11\n") << QByteArray("/DeviceRGB\n    /11\n");
         QTest::newRow("annotation")
             << QByteArray("/Subtype /Widget") << QByteArray("/Subtype /Square");
         QTest::newRow("box") << QByteArray("595.303937007874") << QByteArray("595.9");
