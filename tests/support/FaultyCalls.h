@@ -11,6 +11,8 @@
 #include <functional>
 #include <limits>
 #include <map>
+#include <memory>
+#include <mutex>
 #include <string>
 
 namespace folioforge::test {
@@ -48,12 +50,15 @@ class FaultyCalls final : public SystemCalls {
         return begins("openAnonymous") ? SystemCalls::openAnonymous(folder, mode) : -1;
     }
     ssize_t write(int fd, const void *data, std::size_t size) override {
+        const std::lock_guard lock(*m_turn);
         return begins("write") ? SystemCalls::write(fd, data, moved(size)) : -1;
     }
     ssize_t pread(int fd, void *data, std::size_t size, off_t offset) override {
+        const std::lock_guard lock(*m_turn);
         return begins("pread") ? SystemCalls::pread(fd, data, moved(size), offset) : -1;
     }
     ssize_t pwrite(int fd, const void *data, std::size_t size, off_t offset) override {
+        const std::lock_guard lock(*m_turn);
         if (!begins("pwrite")) {
             return -1;
         }
@@ -107,6 +112,7 @@ class FaultyCalls final : public SystemCalls {
 
   private:
     bool begins(const char *call) {
+        const std::lock_guard lock(*m_turn);
         ++m_count;
         const bool befalls =
             fault.call > 0 && (fault.lasting ? m_count >= fault.call : m_count == fault.call);
@@ -127,6 +133,9 @@ class FaultyCalls final : public SystemCalls {
         return m_isShort ? std::max<std::size_t>(size / 2, 1) : size;
     }
 
+    std::unique_ptr<std::recursive_mutex> m_turn =
+        std::make_unique<std::recursive_mutex>(); ///< A document is written while its sources are
+                                                  ///< read.
     int m_count = 0;
     int m_moves = 0;
     off_t m_sizeOfCut = -1;

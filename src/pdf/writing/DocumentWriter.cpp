@@ -61,12 +61,11 @@ void stateExtensions(QPDF &document, const PDFVersion &version) {
 
 /// An identifier that follows from the file as it is up to its end. An MD5 over all bytes takes as
 /// long as reading them from a disk.
-QByteArray identifierOf(QPDF &document, const OutputPipeline &output) {
+QByteArray identifierOf(QPDF &document, OutputPipeline &output) {
     const auto info = document.getTrailer().getKey("/Info").unparseResolved();
     QCryptographicHash hash(QCryptographicHash::Md5);
     hash.addData(QByteArray::fromStdString(info));
-    hash.addData(QByteArray::number(output.position()) + ' ' +
-                 QByteArray::number(output.checksum()));
+    hash.addData(QByteArray::number(output.position()) + ' ' + QByteArray::number(output.drain()));
     return '<' + hash.result().toHex() + '>';
 }
 
@@ -115,7 +114,6 @@ void write(QPDF &document, OutputPipeline &output, const DocumentForm &form, QPD
     keys += "/ID [" + identifier + identifier + ']';
     const qint64 end = output.position();
     output.append(form.classic ? references.table(end, keys) : references.stream(end, keys));
-    output.throwFailure();
 }
 
 } // namespace
@@ -127,7 +125,7 @@ std::uint32_t writeDocument(QPDF &document, OutputFile &file, const Encryption *
         const auto model = encryption ? encryptedLike(*encryption) : nullptr;
         write(document, output, form, model.get(), steps);
     });
-    return output.checksum();
+    return output.drain();
 }
 
 } // namespace folioforge
