@@ -9,6 +9,7 @@
 #include "verify/PageComparison.h"
 #include "verify/StreamSums.h"
 #include "verify/WrittenInput.h"
+#include "verify/WrittenSyntax.h"
 
 #include <algorithm>
 #include <set>
@@ -29,6 +30,7 @@ DocumentVerifier::DocumentVerifier(const WrittenDocument &written, const VerifyO
         }
     }
     requireWholeTables();
+    requireCommonSpaces(*m_document, written.readBytes, written.size);
     m_pages.emplace(*m_document);
 }
 

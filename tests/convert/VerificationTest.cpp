@@ -375,6 +375,27 @@ class VerificationTest : public QObject, protected ConversionCase {
         QVERIFY2(faults(outcome).isEmpty() == (from == to), faults(outcome).join('\n'));
     }
 
+    /// A reader that knows no vertical tab finds no length, and no words.
+    void aSpaceThatOnlySomeReadersKnowIsFound() {
+        addText("a.txt", "words");
+        QByteArray bytes = readFile(written());
+        const auto length = bytes.indexOf("/Length ");
+        QVERIFY(length > 0);
+        bytes[length + 7] = '\v';
+        const QString pdf = writeFile(path("changed.pdf"), bytes);
+        QVERIFY(PdfProbe(pdf).text() != PdfProbe(path("out/whole.pdf")).text());
+        QVERIFY(!faults(verified(pdf)).isEmpty());
+    }
+
+    void theSameInAStringOrACommentIsNoFault() {
+        const QString pdf = path("tabs.pdf");
+        PdfFixture page = photoPage({});
+        page.object(7, "[(a\v\\)b) %\v\n <0b> /Name]");
+        QVERIFY(page.write(pdf));
+        addFile(pdf);
+        QCOMPARE(faults(verified(pdf)), QByteArrayList());
+    }
+
     void aPdfOfAnotherProgramIsHeldAgainstItsSources() {
         addFile(data("pdf/ghostscript.pdf"));
         addFile(data("pdf/chromium-letter.pdf"));

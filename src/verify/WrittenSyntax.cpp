@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "verify/WrittenSyntax.h"
+
+#include "error/Error.h"
+#include "error/Reasons.h"
+
+#include <qpdf/QPDF.hh>
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace folioforge {
+
+namespace {
+
+constexpr int kEnd = -1;
+
+/// The bytes of a file, read in windows.
+class FileBytes {
+  public:
+    explicit FileBytes(const ReadBytes &readBytes)
+        : m_readBytes(readBytes) {}
+
+    /// The byte at `offset`, or kEnd.
+    int at(qint64 offset) {
+        if (offset < m_start || offset >= m_start + std::ssize(m_window)) {
+            constexpr std::size_t kWindow = 1 << 12; // Mostly streams lie between objects.
+            m_start = offset;
+            m_window.resize(kWindow);
+            m_window.resize(static_cast<std::size_t>(m_readBytes(offset, m_window)));
+        }
+        return m_window.empty()
+                   ? kEnd
+                   : static_cast<unsigned char>(m_window[static_cast<std::size_t>(offset - m_start)]);
+    }
+
+  private:
+    const ReadBytes &m_readBytes;
+    qint64 m_start = 0;
+    std::vector<char> m_window;
+};
+
+bool isRegular(int character) {
+    constexpr std::string_view kOthers("\0\t\n\v\f\r ()<>[]{}/%", 18);
+    return character != kEnd &&
+           kOthers.find(static_cast<char>(character)) == std::string_view::npos;
+}
+
+/// Behind the string in parentheses that begins at `at`.
+qint64 endOfString(FileBytes &bytes, qint64 at) {
+    int depth = 0;
+    for (int next = bytes.at(at); next != kEnd; next = bytes.at(++at)) {
+        if (next == '\\') {
+            ++at;
+        } else if (next == '(') {
+            ++depth;
+        } else if (next == ')' && --depth == 0) {
+            return at + 1;
+        }
+    }
+    return at;
+}
+
+/// Whether the object that begins at `at` has a vertical tab outside of strings and comments; `at`
+/// moves behind what was read.
+bool hasVerticalTab(FileBytes &bytes, qint64 &at) {
+    std::string word;
+    for (int next = bytes.at(at); next != kEnd && next != '\v'; next = bytes.at(at)) {
+        if (isRegular(next)) {
+            word += static_cast<char>(next);
+            ++at;
+            continue;
+        }
+        if (word == "stream" || word == "endobj") {
+            return false;
+        }
+        word.clear();
+        if (next == '(') {
+            at = endOfString(bytes, at);
+        } else if (next == '%') {
+            while (next != kEnd && next != '\n' && next != '\r') {
+                next = bytes.at(++at);
+            }
+        } else {
+            word = next == '/' ? "/" : "";
+            ++at;
+        }
+    }
+    return bytes.at(at) == '\v';
+}
+
+/// Where the objects of the file that stand by themselves begin.
+std::set<qint64> beginnings(QPDF &document) {
+    std::set<qint64> offsets;
+    for (const auto &[object, place] : document.getXRefTable()) {
+        if (place.getType() == 1) {
+            offsets.insert(place.getOffset());
+        }
+    }
+    return offsets;
+}
+
+/// The bytes before the header, from which on offsets count.
+qint64 headerAt(FileBytes &bytes) {
+    constexpr std::string_view kHeader("%PDF-");
+    constexpr qint64 kMost = 1024;
+    for (qint64 at = 0; at < kMost; ++at) {
+        const auto isThere = [&bytes, at, i = at](char character) mutable {
+            return bytes.at(i++) == character;
+        };
+        if (std::ranges::all_of(kHeader, isThere)) {
+            return at;
+        }
+    }
+    return 0;
+}
+
+} // namespace
+
+void requireCommonSpaces(QPDF &document, const ReadBytes &readBytes, qint64 size) {
+    FileBytes bytes(readBytes);
+    const qint64 header = headerAt(bytes);
+    qint64 left = 2 * size; // Objects that begin in one another are read again and again.
+    for (const qint64 offset : beginnings(document)) {
+        qint64 at = header + offset;
+        const bool hasOne = hasVerticalTab(bytes, at);
+        left -= at - offset;
+        if (hasOne || left < 0) {
+            throw Error(Reasons::tr("The PDF is damaged: %1")
+                            .arg(Reasons::tr("an object is not well formed")));
+        }
+    }
+}
+
+} // namespace folioforge
