@@ -34,9 +34,9 @@ class FileBytes {
             m_window.resize(kWindow);
             m_window.resize(static_cast<std::size_t>(m_readBytes(offset, m_window)));
         }
-        return m_window.empty()
-                   ? kEnd
-                   : static_cast<unsigned char>(m_window[static_cast<std::size_t>(offset - m_start)]);
+        return m_window.empty() ? kEnd
+                                : static_cast<unsigned char>(
+                                      m_window[static_cast<std::size_t>(offset - m_start)]);
     }
 
   private:
