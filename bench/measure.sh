@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-# Times candidates side by side; sourced by bench/run.
+# Times candidates side by side; sourced by bench/run and bench/growth.
 #
 # A comparison is a title, candidates (a name and a shell command that writes "$out" or into the
 # folder "$dir"), a run and the limits that hold between them. Candidates take turns, so that
@@ -15,8 +15,27 @@ describe_machine() {
         "Linux $(uname -r), $(date -u +%Y-%m-%d). Fastest of $ROUNDS rounds."
 }
 
+# What is measured, and where: "$cli" is the program, made where it is missing, "$scratch" a folder,
+# "$inputs" what the sets are made in.
+prepare() {
+    "$root/scripts/install-bench-deps"
+    cli=${FOLIOFORGE_CLI:-$root/build/release/Folioforge.app/Contents/MacOS/folioforge-cli}
+    if [ ! -x "$cli" ]; then
+        (cd "$root" && cmake --preset release && cmake --build --preset release) >&2
+    fi
+    scratch=$root/build/bench
+    inputs=$scratch/inputs
+    mkdir -p "$inputs"
+    export cli scratch inputs
+    c++ -std=c++20 -O2 -Wl,--as-needed "$bench/stopwatch.cpp" -o "$scratch/stopwatch"
+}
+
 begin() { # TITLE
     printf '\n## %s\n\n' "$1"
+    no_candidates
+}
+
+no_candidates() {
     rm -rf "$scratch/candidates" "$scratch/results"
     mkdir -p "$scratch/candidates"
     count=0
@@ -29,8 +48,6 @@ candidate() { # NAME COMMAND
     printf '%s\n' "$1" >"$file.name"
 }
 
-seconds_of_day() { date +%s.%N; }
-
 # Runs one candidate once and notes: name, wall and processor seconds, peak memory in KB, output
 # bytes.
 run_once() { # SCRIPT NAME
@@ -42,22 +59,20 @@ run_once() { # SCRIPT NAME
     rm -rf "$out" "$dir"
     mkdir "$dir"
     sync
-    start=$(seconds_of_day)
-    /usr/bin/time -q -o "$scratch/time" -f '%U %S %M' sh -eu "$1" >"$scratch/log" 2>&1 || {
+    "$scratch/stopwatch" "$scratch/time" sh -eu "$1" >"$scratch/log" 2>&1 || {
         echo "bench: \"$2\" failed:" >&2
         cat "$scratch/log" >&2
         failures=$((failures + 1))
         return 0
     }
-    end=$(seconds_of_day)
     bytes=$(du -scb "$out" "$dir" 2>/dev/null | tail -n 1 | cut -f 1)
-    awk -v name="$2" -v wall="$(echo "$end $start" | awk '{ print $1 - $2 }')" -v bytes="$bytes" \
-        '{ printf "%s\t%.4f\t%.4f\t%d\t%d\n", name, wall, $1 + $2, $3, bytes }' \
+    awk -v name="$2" -v bytes="$bytes" \
+        '{ printf "%s\t%s\t%s\t%d\t%d\n", name, $1, $2, $3, bytes }' \
         "$scratch/time" >>"$scratch/results"
 }
 
-# Runs the candidates and prints their table, each beside "folioforge".
-run_all() {
+# Every candidate in turn, ROUNDS times.
+run_rounds() {
     round=0
     while [ $round -lt "$ROUNDS" ]; do
         for script in "$scratch"/candidates/*.sh; do
@@ -65,12 +80,17 @@ run_all() {
         done
         round=$((round + 1))
     done
+}
+
+# Runs the candidates and prints their table, each beside "folioforge".
+run_all() {
+    run_rounds
     echo "| | wall s | processor s | peak MB | output MB | wall beside ours | processor beside ours |"
     echo "|---|--:|--:|--:|--:|--:|--:|"
     for script in "$scratch"/candidates/*.sh; do
         name=$(cat "${script%.sh}.name")
         [ -n "$(best wall "$name")" ] || continue
-        printf '| %s | %.2f | %.2f | %.0f | %.1f | %.2f × | %.2f × |\n' "$name" \
+        printf '| %s | %.3f | %.3f | %.0f | %.1f | %.2f × | %.2f × |\n' "$name" \
             "$(best wall "$name")" "$(best cpu "$name")" \
             "$(awk -v x="$(best memory "$name")" 'BEGIN { print x / 1e3 }')" \
             "$(awk -v x="$(best size "$name")" 'BEGIN { print x / 1e6 }')" \

@@ -55,7 +55,6 @@ for document in photos scans office; do
     export source="$compressed/$document.pdf"
     for method in 150m 96m 72l; do
         case $document-$method in
-        photos-150m) part=5 ;;
         photos-*) part=6 ;;
         *) part=4 ;;
         esac
@@ -65,10 +64,11 @@ for document in photos scans office; do
         candidate "Ghostscript" \
             "$(ghostscript "${method%?}"); cp \"\$out\" \"\$scratch/theirs.pdf\""
         run_all
-        limit "Ghostscript's wall time beside ours" \
+        limit "Ghostscript's wall time beside ours, at least $part" \
             "$(ratio "$(best wall Ghostscript)" "$(best wall folioforge)")" at-least $part
-        limit "output beside Ghostscript's" \
+        limit "output beside Ghostscript's, at most 1" \
             "$(ratio "$(best size folioforge)" "$(best size Ghostscript)")" at-most 1
+        limit "peak memory, under 80 MB" "$(ratio "$(best memory folioforge)" 1000)" at-most 80 " MB"
         ours=$(similarity "$source" "$scratch/ours.pdf")
         theirs=$(similarity "$source" "$scratch/theirs.pdf")
         limit "SSIM $ours beside Ghostscript's $theirs" "$(ratio "$ours" "$theirs")" at-least 1

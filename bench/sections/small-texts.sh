@@ -7,4 +7,6 @@ begin "1,000 text files of 1 KB, a PDF each"
 candidate "folioforge" '"$cli" --quiet --flush never --output-folder "$dir" "$notes"/*.txt'
 candidate "cp" 'cp "$notes"/*.txt "$dir"'
 run_all
+limit "times the wall time of cp, at most 1.5" \
+    "$(ratio "$(best wall folioforge)" "$(best wall cp)")" at-most 1.5
 limit "a file, under 2 ms" "$(best wall folioforge)" at-most 2 " ms"

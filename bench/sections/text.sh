@@ -16,6 +16,7 @@ ROUNDS=1
 candidate "enscript and ps2pdf" 'enscript -q -B -p - "$text/long.txt" | ps2pdf - "$out"'
 run_all
 ROUNDS=$ROUNDS_BEFORE
+limit "wall time on two cores, at most 1.2 s" "$(best wall folioforge)" at-most 1.2 " s"
 limit "processor time, at most 3 s" "$(best cpu folioforge)" at-most 3 " s"
 limit "texttopdf's wall time beside ours, at least 5" \
     "$(ratio "$(best wall texttopdf)" "$(best wall folioforge)")" at-least 5

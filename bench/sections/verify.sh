@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: Apache-2.0
 # What --verify costs beside the writing: 200 photos, 60 PDFs, 100 MB of text. No peer verifies.
 make_set photos photos
-make_set reports reports
+make_set few-links reports
 make_set text text
-export photos="$inputs/photos" reports="$inputs/reports" text="$inputs/text"
+export photos="$inputs/photos" reports="$inputs/few-links" text="$inputs/text"
 
 # verifying TITLE INPUTS LIMIT: INPUTS merged with and without --verify; the difference is its cost.
 verifying() {

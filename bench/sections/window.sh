@@ -45,5 +45,8 @@ for script in "$scratch"/candidates/*.sh; do
         "$(ratio "$(start_of "$name" $((starts / 2)))" "$(start_of folioforge $((starts / 2)))")"
 done
 echo
+limit "window shown beside a bare window of Qt, medians of $starts starts, at most 1.3" \
+    "$(ratio "$(start_of folioforge $((starts / 2)))" "$(start_of "a bare window of Qt" $((starts / 2)))")" \
+    at-most 1.3
 limit "window shown, median of $starts starts, under 100 ms" \
     "$(start_of folioforge $((starts / 2)))" at-most 100 " ms"
