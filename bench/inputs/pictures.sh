@@ -57,6 +57,8 @@ screenshot() { # FORM:NAME GROUND...
     to=$folder/${1#*:}
     form=${1%%:*}
     shift
+    alpha=off
+    [ "$form" != PNG32 ] || alpha=on
     x=$((40 + i * 37 % 600))
     y=$((40 + i * 53 % 300))
     convert -seed "$i" -size 1920x1080 "$@" \
@@ -66,7 +68,7 @@ screenshot() { # FORM:NAME GROUND...
         -fill '#20242a' -font Liberation-Sans -pointsize 18 \
         -annotate "+$((x + 30))+$((y + 110))" "$(words "$i" 1300)" \
         \( -size 480x360 plasma:fractal -attenuate 0.1 +noise Gaussian \) \
-        -geometry "+$((x + 560))+$((y + 250))" -composite -depth 8 "$form:$to"
+        -geometry "+$((x + 560))+$((y + 250))" -composite -alpha $alpha -depth 8 "$form:$to"
 }
 
 # The same screenshots laid on white, for img2pdf, which refuses transparency.

@@ -4,12 +4,12 @@ make_set scans-of-kinds scans
 export scans="$inputs/scans-of-kinds"
 
 scanned() { # TITLE KIND       the files whose names begin so
-    export kind="$2"
-    page_descriptions "$scratch/scan-pages" 595 842 "$scans/$kind"*.tif
+    export beginning="$2"
+    page_descriptions "$scratch/scan-pages" 595 842 "$scans/$beginning"*.tif
     begin "$1 in one PDF"
-    candidate "folioforge" '"$cli" --quiet --flush never --merge "$out" "$scans/$kind"*.tif'
+    candidate "folioforge" '"$cli" --quiet --flush never --merge "$out" "$scans/$beginning"*.tif'
     candidate "mutool create" 'mutool create -o "$out" "$scratch"/scan-pages/*.txt'
-    candidate "img2pdf" 'img2pdf -o "$out" "$scans/$kind"*.tif'
+    candidate "img2pdf" 'img2pdf -o "$out" "$scans/$beginning"*.tif'
     run_all
     limit "img2pdf's wall time beside ours, at least 5" \
         "$(ratio "$(best wall img2pdf)" "$(best wall folioforge)")" at-least 5
