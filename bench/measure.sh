@@ -8,6 +8,7 @@
 
 ROUNDS=${ROUNDS:-3}
 failures=0
+runs=0
 
 describe_machine() {
     echo "$(nproc) × $(sed -n 's/^model name[^:]*: //p' /proc/cpuinfo | head -n 1)," \
@@ -25,9 +26,19 @@ prepare() {
     fi
     scratch=$root/build/bench
     inputs=$scratch/inputs
-    mkdir -p "$inputs"
+    rm -rf "$scratch/out"
+    mkdir -p "$inputs" "$scratch/out"
     export cli scratch inputs
     c++ -std=c++20 -O2 -Wl,--as-needed "$bench/stopwatch.cpp" -o "$scratch/stopwatch"
+}
+
+# The end of a run: removes what was made, and fails where a candidate did.
+finish() {
+    rm -rf "$scratch/out.pdf" "$scratch/out"
+    [ "$failures" -eq 0 ] || {
+        echo "bench: $failures runs failed" >&2
+        exit 1
+    }
 }
 
 begin() { # TITLE
@@ -52,11 +63,13 @@ candidate() { # NAME COMMAND
 # bytes.
 run_once() { # SCRIPT NAME
     out=$scratch/out.pdf
-    dir=$scratch/out
+    runs=$((runs + 1))
+    # A folder of its own: ext4 takes long to make files where some were removed in the last minutes.
+    dir=$scratch/out/$runs
     export out dir
     # The output before goes to the disk first, so that every candidate follows equal work.
     sync
-    rm -rf "$out" "$dir"
+    rm -f "$out"
     mkdir "$dir"
     sync
     "$scratch/stopwatch" "$scratch/time" sh -eu "$1" >"$scratch/log" 2>&1 || {
