@@ -143,12 +143,6 @@ void OutputFile::write(std::span<const char> bytes) {
     m_size += static_cast<qint64>(bytes.size());
 }
 
-QByteArray OutputFile::read(qint64 offset, qint64 size) {
-    QByteArray bytes(size, Qt::Uninitialized);
-    bytes.truncate(readInto(offset, {bytes.data(), static_cast<std::size_t>(bytes.size())}));
-    return bytes;
-}
-
 qint64 OutputFile::readInto(qint64 offset, std::span<char> target) {
     drain();
     const qint64 got = m_file.readAt(offset, target);

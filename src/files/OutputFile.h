@@ -39,8 +39,6 @@ class OutputFile {
 
     /// Appends bytes. Throws Error when they cannot be written.
     void write(std::span<const char> bytes);
-    /// Reads up to `size` bytes at `offset`, written ones only. Throws Error.
-    QByteArray read(qint64 offset, qint64 size);
     /// Reads at `offset` until `target` is full or the file ends; returns the number of bytes.
     /// Throws Error.
     qint64 readInto(qint64 offset, std::span<char> target);

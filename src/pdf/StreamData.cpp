@@ -4,7 +4,6 @@
 
 #include "image/Deflate.h"
 #include "image/PdfImage.h"
-#include "pdf/QpdfErrors.h"
 
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
@@ -17,6 +16,15 @@
 namespace folioforge {
 
 /// One provider for all spooled streams. It finds the data of each by its object number.
+namespace {
+
+/// With its length known, a stream is not gathered in memory when it is written.
+void stateLength(QPDFObjectHandle stream, qint64 length) {
+    stream.getDict().replaceKey("/Length", QPDFObjectHandle::newInteger(length));
+}
+
+} // namespace
+
 class StreamData::SpooledData final : public QPDFObjectHandle::StreamDataProvider {
   public:
     explicit SpooledData(SystemCalls &calls)
@@ -90,6 +98,7 @@ StreamData::make(const QPDFObjectHandle &dictionary,
 QPDFObjectHandle StreamData::fromBytes(const QPDFObjectHandle &dictionary, QByteArrayView data) {
     QPDFObjectHandle stream = make(dictionary, m_spooled);
     m_spooled->keep(stream.getObjGen(), data);
+    stateLength(stream, data.size());
     return stream;
 }
 
@@ -127,8 +136,7 @@ QPDFObjectHandle StreamData::fromFile(const QPDFObjectHandle &dictionary,
     m_reader->keepOpen(std::move(file));
     QPDFObjectHandle stream =
         make(dictionary, std::make_shared<SlicedData>(m_reader, version, std::move(slices)));
-    // With its length known it need not pass through memory as a whole.
-    stream.getDict().replaceKey("/Length", QPDFObjectHandle::newInteger(length));
+    stateLength(stream, length);
     return stream;
 }
 

@@ -133,7 +133,7 @@ std::vector<unsigned char> valuesOf(const RawImage &raw, const Object &decode, i
 
 /// The colours of a palette one after another; empty where it cannot be read.
 std::string paletteOf(Object lookup) {
-    constexpr std::size_t kLargest = 4 * 256;
+    constexpr std::size_t kLargest = std::size_t{4} * 256;
     return lookup.isStream()   ? boundedData(lookup, kLargest).value_or(std::string())
            : lookup.isString() ? lookup.getStringValue()
                                : std::string();
@@ -176,6 +176,7 @@ std::optional<Pixels> pixelsOf(QPDFObjectHandle image) {
         return lookedUp(*raw, space);
     }
     std::vector<std::vector<unsigned char>> values;
+    values.reserve(static_cast<std::size_t>(raw->channels));
     for (int channel = 0; channel < raw->channels; ++channel) {
         values.push_back(valuesOf(*raw, entry(image.getDict(), "/Decode"), channel));
     }
@@ -255,7 +256,7 @@ bool isReduced(const Pixels &found, const Pixels &source, bool mayBeGrey) {
                     reduced(isGrey ? inGrey(source) : source, width, height)) >= kLeastLikeness;
 }
 
-bool areAlike(QPDFObjectHandle source, QPDFObjectHandle image, bool mayBeGrey) {
+bool areAlike(const QPDFObjectHandle &source, const QPDFObjectHandle &image, bool mayBeGrey) {
     const auto wanted = pixelsOf(source);
     const auto found = wanted ? pixelsOf(image) : std::nullopt;
     return found && isReduced(*found, *wanted, mayBeGrey);

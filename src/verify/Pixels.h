@@ -36,7 +36,7 @@ Pixels inGrey(const Pixels &pixels);
 
 /// Whether `image` shows what `source` does, each an image of a PDF, their opacity aside: reduced,
 /// coded anew or, with `mayBeGrey`, without colour. False where one of them cannot be decoded.
-bool areAlike(QPDFObjectHandle source, QPDFObjectHandle image, bool mayBeGrey);
+bool areAlike(const QPDFObjectHandle &source, const QPDFObjectHandle &image, bool mayBeGrey);
 
 /// Whether `found` is `source` made smaller or coded anew, or with `mayBeGrey` without colour: the
 /// likeness of both, reduced the plain way to half the size of `found`, is at least kLeastLikeness.

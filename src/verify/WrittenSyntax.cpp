@@ -46,7 +46,7 @@ class FileBytes {
 };
 
 bool isRegular(int character) {
-    constexpr std::string_view kOthers("\0\t\n\v\f\r ()<>[]{}/%", 18);
+    constexpr std::string_view kOthers("\0\t\n\v\f\r ()<>[]{}/%", 17);
     return character != kEnd &&
            kOthers.find(static_cast<char>(character)) == std::string_view::npos;
 }

@@ -3,6 +3,7 @@
 #include "hostile/HostileImages.h"
 #include "hostile/HostileRuns.h"
 #include "support/Files.h"
+#include "support/PdfProbe.h"
 #include "support/Places.h"
 #include "support/Sanitizer.h"
 #include "support/TestUnit.h"

@@ -2,8 +2,17 @@
 
 #include "MergeCase.h"
 #include "pdf/Password.h"
+#include "pdf/writing/CrossReferences.h"
 #include "support/Files.h"
+#include "support/Sanitizer.h"
 #include "support/TestUnit.h"
+
+#include <qpdf/Buffer.hh>
+
+#include <QFile>
+
+#include <sys/resource.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -105,6 +114,14 @@ class DocumentWriterTest : public QObject, protected MergeCase {
             << QByteArray("/Filter [/Crypt /ASCIIHexDecode] /DecodeParms [<< /Name /Identity >> "
                           "null]")
             << QByteArray("[ /ASCIIHexDecode ]");
+        QTest::newRow("without parameters")
+            << QByteArray("/Filter [/Crypt /ASCIIHexDecode]") << QByteArray("[ /ASCIIHexDecode ]");
+        QTest::newRow("of no parameters")
+            << QByteArray("/Filter [/Crypt] /DecodeParms []") << QByteArray("null");
+        QTest::newRow("twice") << QByteArray("/Filter [/Crypt /ASCIIHexDecode /Crypt]")
+                               << QByteArray("[ /ASCIIHexDecode ]");
+        QTest::newRow("never") << QByteArray("/Filter /ASCIIHexDecode /DecodeParms []")
+                               << QByteArray("/ASCIIHexDecode");
     }
     void howAStreamWasEncryptedIsNoFilterOfIt() {
         QFETCH(const QByteArray, keys);
@@ -114,8 +131,78 @@ class DocumentWriterTest : public QObject, protected MergeCase {
         const auto document = opened(merged({saved(source)}));
         auto stream = dataOf(*document).getKey("/S").getDict();
         QCOMPARE(stream.getKey("/Filter").unparse(), filter.toStdString());
-        QVERIFY(!stream.hasKey("/DecodeParms") ||
-                stream.getKey("/DecodeParms").getArrayNItems() == 1);
+        QVERIFY(!stream.hasKey("/DecodeParms"));
+    }
+
+    void filtersKeepTheirParameters() {
+        PdfFixture source = withData("<< /S 21 0 R >>");
+        source.stream(21,
+                      "/Filter [/Crypt /ASCIIHexDecode /FlateDecode] "
+                      "/DecodeParms [null null << /Columns 3 >>]",
+                      {});
+        const auto document = opened(merged({saved(source)}));
+        auto stream = dataOf(*document).getKey("/S").getDict();
+        QCOMPARE(stream.getKey("/Filter").unparse(), "[ /ASCIIHexDecode /FlateDecode ]");
+        QCOMPARE(stream.getKey("/DecodeParms").unparse(), "[ null << /Columns 3 >> ]");
+    }
+
+    void parametersOfNoFilterGo() {
+        PdfFixture source = withData("<< /S 21 0 R >>");
+        source.stream(21, "/DecodeParms << /Predictor 12 /Columns 4 >>", "plain");
+        const auto document = opened(merged({saved(source)}));
+        const auto data = dataOf(*document).getKey("/S").getStreamData();
+        QCOMPARE(std::string(reinterpret_cast<const char *>(data->getBuffer()), data->getSize()),
+                 "plain");
+    }
+
+    void numbersBehindEachOtherStayApart() {
+        PdfFixture source = withData("[21 0 R 22 0 R 23 0 R]");
+        source.object(21, "7").object(22, "8").object(23, "9");
+        const auto document = opened(merged({saved(source)}));
+        QCOMPARE(dataOf(*document).getArrayItem(0).getIntValue(), 7);
+        QCOMPARE(dataOf(*document).getArrayItem(1).getIntValue(), 8);
+        QCOMPARE(dataOf(*document).getArrayItem(2).getIntValue(), 9);
+    }
+
+    void objectsBeyondFourGigabytesAreFound() {
+        const QString path = newPath();
+        QFile file(path);
+        QVERIFY(file.open(QFile::WriteOnly));
+        file.write("%PDF-1.5\n");
+        constexpr qint64 kFar = 5'000'000'000; // A hole: it takes no room on a disk.
+        file.seek(kFar);
+        CrossReferences references;
+        for (const char *body :
+             {"<< /Type /Catalog /Pages 2 0 R >>", "<< /Type /Pages /Kids [] /Count 0 >>"}) {
+            references.putAt(references.newNumber(), file.pos());
+            file.write(QByteArray("0 0 obj ").replace(0, 1, file.pos() == kFar ? "1" : "2") + body +
+                       " endobj ");
+        }
+        file.write(references.endAsStream(file.pos(), "/Root 1 0 R"));
+        file.close();
+        QCOMPARE(runTool(u"qpdf"_s, {u"--show-npages"_s, path}).out, "0\n");
+        QFile::remove(path);
+    }
+
+    void aDocumentThatFindsNoMemoryGetsNoName() {
+        if (isSanitized()) {
+            return; // Its own memory is more than any limit.
+        }
+        PdfFixture source = withData("<< /S 21 0 R >>");
+        source.stream(21, {}, QByteArray(64 << 20, 'x'));
+        const QString path = newPath();
+        PDFContext context(path, unflushed());
+        context.addDocument(saved(source));
+        const rlim_t used = readFile(u"/proc/self/statm"_s).split(' ').front().toULongLong() *
+                            static_cast<rlim_t>(::sysconf(_SC_PAGESIZE));
+        rlimit before{};
+        QCOMPARE(::getrlimit(RLIMIT_AS, &before), 0);
+        const rlimit little{used + (24 << 20), before.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_AS, &little), 0);
+        const CloseResult result = context.close();
+        ::setrlimit(RLIMIT_AS, &before);
+        QCOMPARE(result.reason, u"There is not enough memory"_s);
+        QVERIFY(!QFile::exists(path));
     }
 
     void nothingOfAnEncryptedDocumentCanBeRead() {

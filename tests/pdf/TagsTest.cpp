@@ -86,13 +86,13 @@ class TagsTest : public QObject, private MergeCase {
         showParagraph(context, u"one"_s, 70);
         showParagraph(context, u"two"_s);
         context.endPage();
-        context.beginSource(u"second (2).txt"_s);
+        context.beginSource(u"plan 10 R 0 R [2].txt"_s);
         beginPage(context);
         showParagraph(context, u"three"_s);
         context.endPage();
         QCOMPARE(structureOf(context, path),
                  u"Document \"first.txt\"\n  P (block)\n    \"one\"\n  P (block)\n    \"two\"\n"
-                 "Document \"second (2).txt\"\n  P (block)\n    \"three\"\n"_s);
+                 "Document \"plan 10 R 0 R [2].txt\"\n  P (block)\n    \"three\"\n"_s);
         QCOMPARE(PdfProbe(path).info(u"Tagged"_s), u"yes"_s);
     }
 

@@ -42,7 +42,7 @@ class DocumentCatalog {
     [[nodiscard]] DocumentForm form() const;
 
     /// Attaches a file specification to the document, which goes with the page at `page`, from 0.
-    void addFile(QPDFObjectHandle file, int page) { m_files.push_back({page, std::move(file)}); }
+    void addFile(const QPDFObjectHandle &file, int page) { m_files.push_back({page, file}); }
     /// Lets the document say that it keeps the standard for archives of `claims`, with
     /// `outputIntent` where no source has one. To be called before finish().
     void claimArchive(Claims claims, QPDFObjectHandle outputIntent);

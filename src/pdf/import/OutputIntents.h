@@ -37,7 +37,7 @@ class OutputIntentMerger {
     /// A page that no source brought is in the document.
     void addDrawnPage() { m_agree = false; }
     /// The document has the first intents that a source brings, else `otherwise`.
-    void keepFirst(QPDFObjectHandle otherwise) { m_otherwise = std::move(otherwise); }
+    void keepFirst(const QPDFObjectHandle &otherwise) { m_otherwise = otherwise; }
     /// Whether sources had intents that the document does not have.
     [[nodiscard]] bool areLeft() const { return m_any && !m_agree && !m_otherwise; }
     void finish(QPDF &document) const;

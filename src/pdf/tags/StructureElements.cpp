@@ -112,14 +112,14 @@ class SourceElements {
         const std::string language =
             m_structure.language.empty() ? "" : "/Lang" + textString(m_structure.language);
         m_streams.add(ObjectStreams::Lists, document,
-                      "<</S/Document/P " + reference(m_numberOf(m_structure.root)) + "/T" +
-                          textString(source.name.toStdString()) + language + "/K[" + m_parts +
-                          "]>>");
+                      "<</S/Document/P " + reference(m_numberOf(m_structure.root.getObjGen())) +
+                          "/T" + textString(source.name.toStdString()) + language + "/K[" +
+                          m_parts + "]>>");
     }
 
   private:
     void addPage(const PageTags &page, std::size_t key) {
-        m_page = m_numberOf(m_pages[static_cast<std::size_t>(page.page)]);
+        m_page = m_numberOf(m_pages[static_cast<std::size_t>(page.page)].getObjGen());
         std::string elements;
         auto joined = page.joined.begin();
         for (std::uint32_t content = 0; content < page.contents; ++content) {
@@ -247,9 +247,9 @@ void writeElements(const DrawnTags &tags, const DrawnStructure &structure,
         const auto &source = sources[i];
         elements.write(source,
                        tags.pages().subspan(source.firstPage, source.endPage - source.firstPage),
-                       numberOf(structure.documents.at(i).element));
+                       numberOf(structure.documents.at(i).element.getObjGen()));
     }
-    parents.finish(numberOf(structure.parents));
+    parents.finish(numberOf(structure.parents.getObjGen()));
 }
 
 } // namespace folioforge

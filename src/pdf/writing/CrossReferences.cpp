@@ -14,10 +14,10 @@ constexpr qsizetype kType = 0;
 constexpr qsizetype kSecond = 1;
 constexpr qsizetype kThird = 6;
 constexpr qsizetype kRow = 8;
+constexpr unsigned kBitsOfByte = 8;
 
 /// The number between two of these bytes, the highest first.
 quint64 numberIn(const QByteArray &rows, qsizetype begin, qsizetype end) {
-    constexpr unsigned kBitsOfByte = 8;
     quint64 number = 0;
     for (qsizetype i = begin; i < end; ++i) {
         number = number << kBitsOfByte | static_cast<unsigned char>(rows[i]);
@@ -53,10 +53,10 @@ void CrossReferences::putInStream(int number, int stream, int index) {
 void CrossReferences::put(int number, int type, quint64 second, quint64 third) {
     char *row = m_rows.data() + number * kRow;
     row[kType] = static_cast<char>(type);
-    for (qsizetype i = kThird - 1; i >= kSecond; --i, second >>= 8) {
+    for (qsizetype i = kThird - 1; i >= kSecond; --i, second >>= kBitsOfByte) {
         row[i] = static_cast<char>(second);
     }
-    for (qsizetype i = kRow - 1; i >= kThird; --i, third >>= 8) {
+    for (qsizetype i = kRow - 1; i >= kThird; --i, third >>= kBitsOfByte) {
         row[i] = static_cast<char>(third);
     }
 }
@@ -65,17 +65,22 @@ QByteArray CrossReferences::size() const {
     return "/Size " + QByteArray::number(m_rows.size() / kRow);
 }
 
-QByteArray CrossReferences::stream(qint64 offset, const QByteArray &keys) {
+QByteArray CrossReferences::endAsStream(qint64 offset, const QByteArray &keys) {
     const int number = newNumber();
     putAt(number, offset);
+    QByteArray widths;
+    for (const qsizetype width : {kSecond - kType, kThird - kSecond, kRow - kThird}) {
+        widths += QByteArray::number(width) + ' ';
+    }
     const QByteArray data = deflateBytes(filterRowsUp(m_rows, kRow), DeflateEffort::Fast);
     return QByteArray::number(number) + " 0 obj\n<< /Type /XRef /Length " +
            QByteArray::number(data.size()) +
-           " /Filter /FlateDecode /DecodeParms << /Columns 8 /Predictor 12 >> /W [ 1 5 2 ] " +
-           size() + ' ' + keys + " >>\nstream\n" + data + "\nendstream\nendobj\n" + ending(offset);
+           " /Filter /FlateDecode /DecodeParms << /Predictor 12 /Columns " +
+           QByteArray::number(kRow) + " >> /W [ " + widths + "] " + size() + ' ' + keys +
+           " >>\nstream\n" + data + "\nendstream\nendobj\n" + ending(offset);
 }
 
-QByteArray CrossReferences::table(qint64 offset, const QByteArray &keys) const {
+QByteArray CrossReferences::endAsTable(qint64 offset, const QByteArray &keys) const {
     constexpr int kOffsetDigits = 10;
     constexpr int kGenerationDigits = 5;
     QByteArray text = "xref\n0 " + QByteArray::number(m_rows.size() / kRow) + '\n';

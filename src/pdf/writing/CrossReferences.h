@@ -19,11 +19,11 @@ class CrossReferences {
     /// place.
     void putInStream(int number, int stream, int index);
 
-    /// The end of a file that is `offset` bytes long without it: a cross-reference stream whose
-    /// dictionary has these further `keys`.
-    [[nodiscard]] QByteArray stream(qint64 offset, const QByteArray &keys);
+    /// The end of a file that is `offset` bytes long without it: a cross-reference stream, with a
+    /// number of its own, whose dictionary has these further `keys`. No object comes behind it.
+    [[nodiscard]] QByteArray endAsStream(qint64 offset, const QByteArray &keys);
     /// The same for readers of PDF 1.4: a table and a trailer. No object is in an object stream.
-    [[nodiscard]] QByteArray table(qint64 offset, const QByteArray &keys) const;
+    [[nodiscard]] QByteArray endAsTable(qint64 offset, const QByteArray &keys) const;
 
   private:
     void put(int number, int type, quint64 second, quint64 third);

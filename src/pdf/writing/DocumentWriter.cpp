@@ -3,7 +3,6 @@
 #include "pdf/writing/DocumentWriter.h"
 
 #include "files/OutputFile.h"
-#include "pdf/DocumentInfo.h"
 #include "pdf/QpdfErrors.h"
 #include "pdf/XmpPacket.h"
 #include "pdf/writing/CrossReferences.h"
@@ -26,9 +25,7 @@ namespace {
 PDFVersion versionFor(const DocumentForm &form, bool isEncrypted) {
     constexpr int kAes256 = 8; // The extension level of PDF 1.7.
     PDFVersion version = form.version;
-    if (!form.classic) {
-        version.updateIfGreater(PDFVersion(1, 5));
-    }
+    version.updateIfGreater(form.classic ? PDFVersion(1, 4) : PDFVersion(1, 5));
     if (isEncrypted) {
         version.updateIfGreater(PDFVersion(1, 7, kAes256));
     }
@@ -96,13 +93,13 @@ void write(QPDF &document, OutputPipeline &output, const DocumentForm &form, QPD
     for (const char *key : {"/Root", "/Info"}) {
         const auto object = document.getTrailer().getKey(key);
         if (object.isIndirect()) {
-            keys += key + (' ' + QByteArray::number(body.numberOf(object))) + " 0 R ";
+            keys += key + (' ' + QByteArray::number(body.numberOf(object.getObjGen()))) + " 0 R ";
         }
     }
     body.write(steps.eachObject);
     if (steps.further) {
-        steps.further([&body](const QPDFObjectHandle &object) { return body.numberOf(object); },
-                      streams);
+        steps.further([&body](const QPDFObjGen &object) { return body.numberOf(object); }, streams);
+        body.write(steps.eachObject); // What only they refer to.
     }
     streams.finish();
     if (encryption) {
@@ -113,7 +110,8 @@ void write(QPDF &document, OutputPipeline &output, const DocumentForm &form, QPD
     const QByteArray identifier = identifierOf(document, output);
     keys += "/ID [" + identifier + identifier + ']';
     const qint64 end = output.position();
-    output.append(form.classic ? references.table(end, keys) : references.stream(end, keys));
+    output.append(form.classic ? references.endAsTable(end, keys)
+                               : references.endAsStream(end, keys));
 }
 
 } // namespace

@@ -2,13 +2,14 @@
 
 #pragma once
 
+#include "pdf/writing/ObjectText.h"
+
 #include <qpdf/PDFVersion.hh>
 
 #include <cstdint>
 #include <functional>
 
 class QPDF;
-class QPDFObjectHandle;
 
 namespace folioforge {
 
@@ -27,8 +28,6 @@ struct DocumentForm {
 /// What the standards that a document claims demand of its form.
 DocumentForm formFor(const Claims &claims);
 
-/// The number that an object of a document has in the file that is written.
-using NumberOf = std::function<int(const QPDFObjectHandle &)>;
 /// Writes further objects behind those of a document.
 using FurtherObjects = std::function<void(const NumberOf &, ObjectStreams &)>;
 

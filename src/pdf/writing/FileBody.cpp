@@ -11,6 +11,7 @@
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
 
+#include <algorithm>
 #include <limits>
 #include <new>
 
@@ -36,28 +37,43 @@ bool isToBeRepacked(QPDFObjectHandle stream) {
     return stream.getFilterOnWrite() && !filter.isNull() && !filter.isNameAndEquals("/FlateDecode");
 }
 
-/// Takes the filter that names how a stream was encrypted in its source out of `dictionary`.
+std::vector<QPDFObjectHandle> listOf(QPDFObjectHandle oneOrMore) {
+    return oneOrMore.isArray() ? oneOrMore.getArrayAsVector()
+                               : std::vector<QPDFObjectHandle>{oneOrMore};
+}
+
+/// Puts `list` under `key`, or nothing where it is empty.
+void putList(QPDFObjectHandle dictionary, const char *key,
+             const std::vector<QPDFObjectHandle> &list) {
+    dictionary.replaceKey(key, list.empty() ? QPDFObjectHandle::newNull()
+                                            : QPDFObjectHandle::newArray(list));
+}
+
+/// Takes what tells how a stream was encrypted in its source out of its filters. There are readers
+/// that stumble over an empty list of parameters.
 void dropCrypt(QPDFObjectHandle dictionary) {
-    auto filters = dictionary.getKey("/Filter");
-    auto parameters = dictionary.getKey("/DecodeParms");
-    if (filters.isNameAndEquals("/Crypt")) {
-        dictionary.removeKey("/Filter");
-        dictionary.removeKey("/DecodeParms");
+    const auto filters = listOf(dictionary.getKey("/Filter"));
+    const auto parameters = listOf(dictionary.getKey("/DecodeParms"));
+    const auto isCrypt = [](QPDFObjectHandle filter) { return filter.isNameAndEquals("/Crypt"); };
+    if (!parameters.empty() && std::ranges::none_of(filters, isCrypt)) {
         return;
     }
-    for (int i = 0; filters.isArray() && i < filters.getArrayNItems(); ++i) {
-        if (filters.getArrayItem(i).isNameAndEquals("/Crypt")) {
-            filters = filters.shallowCopy();
-            filters.eraseItem(i);
-            dictionary.replaceKey("/Filter", filters);
-            if (parameters.isArray()) {
-                parameters = parameters.shallowCopy();
-                parameters.eraseItem(i);
-                dictionary.replaceKey("/DecodeParms", parameters);
-            }
-            return;
+    std::vector<QPDFObjectHandle> keptFilters;
+    std::vector<QPDFObjectHandle> keptParameters;
+    for (std::size_t i = 0; i < filters.size(); ++i) {
+        if (!isCrypt(filters[i])) {
+            keptFilters.push_back(filters[i]);
+            keptParameters.push_back(i < parameters.size() ? parameters[i]
+                                                           : QPDFObjectHandle::newNull());
         }
     }
+    if (std::ranges::all_of(keptParameters, [](QPDFObjectHandle kept) { return kept.isNull(); })) {
+        keptParameters.clear();
+    }
+    if (keptFilters.size() < filters.size()) {
+        putList(dictionary, "/Filter", keptFilters);
+    }
+    putList(dictionary, "/DecodeParms", keptParameters);
 }
 
 /// Takes the data of a stream, up to a limit. The library hides what is thrown at it.
@@ -101,7 +117,8 @@ FileBody::FileBody(QPDF &document, OutputPipeline &file, CrossReferences &refere
     , m_references(references)
     , m_streams(streams)
     , m_cipher(cipher)
-    , m_repacks(repacks) {}
+    , m_repacks(repacks)
+    , m_numberOf([this](const QPDFObjGen &object) { return numberOf(object); }) {}
 
 int FileBody::numberOf(const QPDFObjGen &object) {
     const auto index = static_cast<std::size_t>(object.getObj());
@@ -136,7 +153,7 @@ void FileBody::writeObject(QPDFObjectHandle object, int number) {
     m_text.clear();
     // Readers of encrypted documents expect the catalog outside of object streams.
     const bool isAlone = !m_streams || (m_cipher && object.isDictionaryOfType("/Catalog"));
-    appendObject(m_text, object.unparseResolved(), *this, isAlone ? m_cipher : nullptr);
+    appendObject(m_text, object.unparseResolved(), m_numberOf, isAlone ? m_cipher : nullptr);
     if (isAlone) {
         writeAlone(number, m_text);
     } else {
@@ -212,7 +229,7 @@ void FileBody::beginStream(int number, QPDFObjectHandle dictionary, qint64 lengt
     dropCrypt(dictionary);
     dictionary.removeKey("/Length");
     m_text.clear();
-    appendObject(m_text, dictionary.unparse(), *this, m_cipher);
+    appendObject(m_text, dictionary.unparse(), m_numberOf, m_cipher);
     m_text.resize(m_text.rfind(">>"));
     beginAlone(number, m_text + "/Length " + std::to_string(length) + " >>\nstream\n");
 }

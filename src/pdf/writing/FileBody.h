@@ -24,16 +24,15 @@ class OutputPipeline;
 
 /// Writes the objects of a document to a file (ISO 32000-1, 7.5.3), in the order in which they are
 /// referred to and with numbers from 1.
-class FileBody final : public ObjectNumbers {
+class FileBody {
   public:
     /// Places go to `references`. Null `streams` mean that all objects stand by themselves, a null
     /// `cipher` that none is encrypted. `repacks` is as in DocumentForm.
     FileBody(QPDF &document, OutputPipeline &file, CrossReferences &references,
              ObjectStreams *streams, const StreamCipher *cipher, bool repacks);
 
-    /// That object is written with the next write().
-    int numberOf(const QPDFObjGen &object) override;
-    int numberOf(const QPDFObjectHandle &object) { return numberOf(object.getObjGen()); }
+    /// The number in the file of that object, which the next write() writes if none did.
+    int numberOf(const QPDFObjGen &object);
     /// Writes the objects that have got numbers, and all that they refer to. Calls `eachObject`,
     /// if any, when one is written. Throws Error, and what that and libqpdf throw.
     void write(const std::function<void()> &eachObject);
@@ -55,6 +54,7 @@ class FileBody final : public ObjectNumbers {
     ObjectStreams *m_streams;
     const StreamCipher *m_cipher;
     bool m_repacks;
+    NumberOf m_numberOf;        ///< numberOf().
     std::vector<int> m_numbers; ///< In the file, by those in the document; 0 for none.
     std::map<QPDFObjGen, int> m_laterNumbers; ///< The same for generations other than 0.
     std::deque<QPDFObjGen> m_waiting;         ///< Objects that are not written yet.

@@ -50,22 +50,17 @@ ObjectStreams::ObjectStreams(OutputPipeline &file, CrossReferences &references,
     , m_references(references)
     , m_packer(cipher) {}
 
-ObjectStreams::~ObjectStreams() {
-    if (m_packed.valid()) {
-        m_packed.wait(); // It uses the packer.
-    }
-}
-
 int ObjectStreams::newNumber() {
     return m_references.newNumber();
 }
 
 void ObjectStreams::add(Kind kind, int number, std::string_view object) {
-    constexpr int kMaxObjects = 1000;
+    // There are readers that refuse all of a stream for one object that they cannot read.
+    const int maxObjects = kind == Objects ? 100 : 1000;
     constexpr std::size_t kEnoughBytes = 1 << 16;
     constexpr std::string_view kMemberEnd("0 R ");
     Stream &stream = m_streams.at(kind);
-    if (stream.count == kMaxObjects || stream.objects.size() >= kEnoughBytes) {
+    if (stream.count == maxObjects || stream.objects.size() >= kEnoughBytes) {
         endStream(kind);
     }
     if (stream.count == 0) {
@@ -76,8 +71,11 @@ void ObjectStreams::add(Kind kind, int number, std::string_view object) {
     const std::string place =
         std::to_string(number) + ' ' + std::to_string(stream.objects.size()) + ' ';
     appendPadded(stream.places, place, rowOf(kind));
+    const std::size_t list = object.rfind('['); // Before it may be a string that looks like one.
+    std::size_t before = kind == Lists && list != std::string_view::npos ? list : object.size();
     while (!object.empty()) {
-        const auto member = kind == Lists ? object.find(kMemberEnd) : std::string_view::npos;
+        const auto member = object.find(kMemberEnd, before);
+        before = 0;
         const auto length =
             std::min(object.size(), member) + (member < object.size() ? kMemberEnd.size() : 0);
         appendPadded(stream.objects, object.substr(0, length), rowOf(kind));
@@ -108,9 +106,9 @@ QByteArray ObjectStreams::Packer::packed(const Stream &stream) {
 }
 
 void ObjectStreams::endStream(Kind kind) {
-    constexpr std::size_t kStreamsOfAThread = 4;
+    constexpr std::size_t kStreamsOfAJob = 4;
     m_ended.push_back(std::exchange(m_streams.at(kind), {}));
-    if (m_ended.size() == kStreamsOfAThread) {
+    if (m_ended.size() == kStreamsOfAJob) {
         pack();
     }
 }

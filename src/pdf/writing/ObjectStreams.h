@@ -27,9 +27,6 @@ class ObjectStreams {
 
     /// Streams go to `file`, and the places of objects to `references`. A null `cipher` means none.
     ObjectStreams(OutputPipeline &file, CrossReferences &references, const StreamCipher *cipher);
-    ~ObjectStreams();
-    ObjectStreams(const ObjectStreams &) = delete;
-    ObjectStreams &operator=(const ObjectStreams &) = delete;
 
     /// A number that no object has.
     int newNumber();
@@ -71,10 +68,10 @@ class ObjectStreams {
 
     OutputPipeline &m_file;
     CrossReferences &m_references;
-    Packer m_packer;                           ///< Used by those that are being compressed.
+    Packer m_packer;                           ///< Used by one job at a time.
     std::array<Stream, 3> m_streams;           ///< That are being filled, by kind.
     std::vector<Stream> m_ended;               ///< That are to be compressed next.
-    std::future<std::vector<Packed>> m_packed; ///< Those before them, if any.
+    std::future<std::vector<Packed>> m_packed; ///< A job over those before them, if any.
 };
 
 } // namespace folioforge

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 #include <system_error>
@@ -20,9 +21,9 @@ bool isDigit(char character) {
     return character >= '0' && character <= '9';
 }
 
-/// What a number or a name goes on with.
+/// What a number, a name or another word goes on with. The library puts a blank behind each.
 bool isRegular(char character) {
-    constexpr std::string_view kOthers(" \n\t\r\f\0()<>[]{}/%", 17);
+    constexpr std::string_view kOthers(" ()<>[]/");
     return kOthers.find(character) == std::string_view::npos;
 }
 
@@ -33,19 +34,12 @@ std::size_t endOfToken(std::string_view text, std::size_t at) {
     return at;
 }
 
-/// The end of the string in parentheses that begins at `at`.
+/// The end of the string in parentheses that begins at `at`; the library escapes those in it.
 std::size_t endOfLiteral(std::string_view text, std::size_t at) {
-    int depth = 0;
-    for (; at < text.size(); ++at) {
-        if (text[at] == '\\') {
-            ++at;
-        } else if (text[at] == '(') {
-            ++depth;
-        } else if (text[at] == ')' && --depth == 0) {
-            return at + 1;
-        }
+    while (at < text.size() && text[at] != ')') {
+        at += text[at] == '\\' ? 2 : 1;
     }
-    return text.size();
+    return std::min(at + 1, text.size());
 }
 
 std::size_t endOfHexadecimal(std::string_view text, std::size_t at) {
@@ -88,7 +82,7 @@ void appendString(std::string &out, std::string_view string, const StreamCipher 
 
 } // namespace
 
-void appendObject(std::string &out, std::string_view object, ObjectNumbers &numbers,
+void appendObject(std::string &out, std::string_view object, const NumberOf &numberOf,
                   const StreamCipher *cipher) {
     std::size_t copied = 0; // Up to there all is in `out`.
     std::size_t at = 0;
@@ -106,7 +100,7 @@ void appendObject(std::string &out, std::string_view object, ObjectNumbers &numb
         } else if (isDigit(first)) {
             if (const auto reference = readReference(object, at)) {
                 out.append(object, copied, begin - copied);
-                out.append(std::to_string(numbers.numberOf(*reference))).append(" 0 R");
+                out.append(std::to_string(numberOf(*reference))).append(" 0 R");
                 copied = at;
             }
         } else if (first == '<' || first == '>') {

@@ -29,10 +29,6 @@ OutputPipeline::OutputPipeline(OutputFile &file)
     m_block.reserve(kBlockSize);
 }
 
-OutputPipeline::~OutputPipeline() {
-    wait();
-}
-
 void OutputPipeline::write(unsigned char const *data, size_t length) {
     std::string_view rest(reinterpret_cast<const char *>(data), length);
     m_position += static_cast<qint64>(length);

@@ -17,12 +17,11 @@ namespace folioforge {
 class OutputFile;
 
 /// Writes to a file, also what libqpdf pipes, while its caller goes on with what follows. The
-/// library hides what is thrown at it and writes in destructors, where an exception would end the
-/// program: a failure is stored, and throwFailure() and drain() throw it.
+/// library hides what is thrown at it: a failure is stored, and throwFailure() and drain() throw
+/// it.
 class OutputPipeline final : public Pipeline {
   public:
     explicit OutputPipeline(OutputFile &file);
-    ~OutputPipeline() override;
 
     void write(unsigned char const *data, size_t length) override;
     void finish() override {}
@@ -43,12 +42,12 @@ class OutputPipeline final : public Pipeline {
 
     OutputFile &m_file;
     qint64 m_position;
-    std::string m_filling;       ///< Takes what comes.
-    std::string m_block;         ///< The bytes before those, being written.
-    std::future<void> m_writing; ///< Of the block. What follows is used by it alone:
+    std::string m_filling; ///< Takes what comes.
+    std::string m_block;   ///< The bytes before those, being written.
     std::uint32_t m_checksum = 0;
     std::exception_ptr m_failure;
-    std::atomic<bool> m_hasFailed = false; ///< May be asked at any time.
+    std::atomic<bool> m_hasFailed = false; ///< May be asked while a block is written.
+    std::future<void> m_writing;           ///< Of the block; behind all that it uses.
 };
 
 } // namespace folioforge

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 class QPDF;
 
@@ -18,7 +19,8 @@ struct Encryption;
 /// Error when a password cannot be used.
 std::unique_ptr<QPDF> encryptedLike(const Encryption &encryption);
 
-/// Encrypts streams with a document's key of 256 bits, as AESV3 demands (ISO 32000-2, 7.6.3).
+/// Encrypts strings and streams with a document's key of 256 bits, as AESV3 demands (ISO
+/// 32000-2, 7.6.3).
 class StreamCipher {
   public:
     explicit StreamCipher(std::string key)
