@@ -15,7 +15,9 @@ static double now() {
     return double(time.tv_sec) + double(time.tv_nsec) / 1e9;
 }
 
-static double seconds(const timeval &time) { return double(time.tv_sec) + double(time.tv_usec) / 1e6; }
+static double seconds(const timeval &time) {
+    return double(time.tv_sec) + double(time.tv_usec) / 1e6;
+}
 
 int main(int argc, char **argv) {
     if (argc < 3)
@@ -34,8 +36,8 @@ int main(int argc, char **argv) {
     FILE *result = fopen(argv[1], "w");
     if (result == nullptr)
         return 2;
-    fprintf(result, "%.6f %.6f %ld\n", end - start, seconds(usage.ru_utime) + seconds(usage.ru_stime),
-            usage.ru_maxrss);
+    fprintf(result, "%.6f %.6f %ld\n", end - start,
+            seconds(usage.ru_utime) + seconds(usage.ru_stime), usage.ru_maxrss);
     fclose(result);
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1;
 }

@@ -126,10 +126,12 @@ void Call::reportEntries(const RunResult &result) {
     const bool isAsked = m_arguments.json || !m_arguments.manifest.isEmpty();
     const bool hasTarget = isAsked && !m_arguments.options.isTrial() && result.outcome.isWritten();
     const auto target = hasTarget ? digestOf(result.outcome.close.path) : std::nullopt;
+    int pagesBefore = 0;
     for (std::size_t i = 0; i < result.outcome.entries.size(); ++i) {
         const std::size_t index = result.firstEntry + i;
         m_reported = index + 1;
-        InputResult own = InputResult::of(m_names[index], result, i);
+        InputResult own = InputResult::of(m_names[index], result, i, pagesBefore);
+        pagesBefore += result.outcome.entries[i].pages;
         own.target = own.output.isEmpty() ? std::nullopt : target;
         m_teller.report(index, m_files[index], std::move(own), m_dates[index]);
     }

@@ -3,18 +3,11 @@
 #include "cli/InputResult.h"
 
 #include <iterator>
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
 namespace folioforge {
 namespace {
-
-int pagesBefore(const PDFOutcome &outcome, std::size_t entry) {
-    const auto first = outcome.entries.begin();
-    return std::accumulate(first, first + static_cast<std::ptrdiff_t>(entry), 0,
-                           [](int sum, const EntryOutcome &one) { return sum + one.pages; });
-}
 
 QString reasonOf(const CloseResult &close) {
     return close.status == CloseResult::Status::NameTaken
@@ -46,7 +39,8 @@ InputResult InputResult::listed(const QString &folder, const Warnings &leftOut) 
     return listed;
 }
 
-InputResult InputResult::of(const QString &input, const RunResult &result, std::size_t index) {
+InputResult InputResult::of(const QString &input, const RunResult &result, std::size_t index,
+                            int pagesBefore) {
     const EntryOutcome &entry = result.outcome.entries.at(index);
     const CloseResult &close = result.outcome.close;
     InputResult own;
@@ -57,7 +51,7 @@ InputResult InputResult::of(const QString &input, const RunResult &result, std::
     if (entry.written && close.status == CloseResult::Status::Written) {
         own.output = close.path;
         own.pages = entry.pages;
-        own.firstPage = entry.pages > 0 ? 1 + pagesBefore(result.outcome, index) : 0;
+        own.firstPage = entry.pages > 0 ? 1 + pagesBefore : 0;
         own.seconds = entry.seconds;
         own.outputSeconds = result.seconds;
         own.pageSize = entry.pageSize;

@@ -57,8 +57,10 @@ struct InputResult {
     static InputResult enclosed(const QString &input, const EntryOutcome &entry, int firstPage);
     /// What a dry run says of the input in words: pages and their size, or why its PDF is kept.
     [[nodiscard]] QString plan() const;
-    /// The result of `input`, the entry at `index` of the PDF that `result` is about.
-    static InputResult of(const QString &input, const RunResult &result, std::size_t index);
+    /// The result of `input`, the entry at `index` of the PDF that `result` is about. The entries
+    /// before it have `pagesBefore` pages.
+    static InputResult of(const QString &input, const RunResult &result, std::size_t index,
+                          int pagesBefore);
 };
 
 /// What standard error says of an input: why it failed and each warning, one a line.

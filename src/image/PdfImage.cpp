@@ -5,6 +5,8 @@
 #include "error/Reasons.h"
 #include "image/ImageFormat.h"
 
+#include <functional>
+#include <numeric>
 #include <optional>
 #include <utility>
 
@@ -132,6 +134,11 @@ class Pictures {
 };
 
 } // namespace
+
+qint64 sizeOf(const std::vector<FileSlice> &slices) {
+    return std::transform_reduce(slices.begin(), slices.end(), qint64(0), std::plus<>(),
+                                 [](const FileSlice &slice) { return slice.length; });
+}
 
 std::vector<FileSlice> slicesWithout(const std::vector<FileSlice> &slices,
                                      const std::vector<FileSlice> &parts) {

@@ -23,6 +23,9 @@ struct FileSlice {
     qint64 length = 0; ///< Bytes.
 };
 
+/// The bytes of all slices.
+qint64 sizeOf(const std::vector<FileSlice> &slices);
+
 /// What is left of `slices` without `parts`, both in order.
 std::vector<FileSlice> slicesWithout(const std::vector<FileSlice> &slices,
                                      const std::vector<FileSlice> &parts);

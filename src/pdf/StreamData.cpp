@@ -9,9 +9,7 @@
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
-#include <functional>
 #include <map>
-#include <numeric>
 
 namespace folioforge {
 
@@ -130,9 +128,7 @@ QPDFObjectHandle StreamData::fromFile(const QPDFObjectHandle &dictionary,
                                       std::shared_ptr<const SourceFile> file,
                                       std::vector<FileSlice> slices) {
     const FileVersion version = file->version();
-    const auto length =
-        std::transform_reduce(slices.begin(), slices.end(), qint64(0), std::plus<>(),
-                              [](const FileSlice &slice) { return slice.length; });
+    const qint64 length = sizeOf(slices);
     m_reader->keepOpen(std::move(file));
     QPDFObjectHandle stream =
         make(dictionary, std::make_shared<SlicedData>(m_reader, version, std::move(slices)));

@@ -3,6 +3,7 @@
 #include "verify/PictureCheck.h"
 
 #include "error/Reasons.h"
+#include "image/Parallel.h"
 #include "image/Raster.h"
 #include "pdf/import/Entries.h"
 #include "verify/Group4Reading.h"
@@ -159,8 +160,11 @@ QString dataFault(const Object &image, const ImageRecord &record, SourceReader &
         record.isOwnBytes ? Reasons::tr("the bytes of its picture are not those of the file")
                           : Reasons::tr("the pixels of its picture are not those of the file");
     if (!record.slices.empty()) {
+        auto ofSource = runAsync(sizeOf(record.slices), [&record, &reader] {
+            return sumOf(record.source, record.slices, reader);
+        });
         const auto sum = sumOf(image, Unpacking::None);
-        return sum && *sum == sumOf(record.source, record.slices, reader) ? QString() : differs;
+        return sum == ofSource.get() ? QString() : differs;
     }
     if (record.isUnpacked && record.filter == ImageFilter::CcittFax) {
         const auto bits = group4Checksum(image, record.width, record.height);

@@ -181,18 +181,30 @@ void FileBody::writeAlone(int number, const std::string &object) {
 void FileBody::writeStream(QPDFObjectHandle stream, int number) {
     auto length = stream.getDict().getKey("/Length");
     auto dictionary = stream.getDict().shallowCopy();
-    if (!stream.getFilterOnWrite() && !m_cipher && length.isInteger()) {
+    if (!stream.getFilterOnWrite() && length.isInteger()) {
         beginStream(number, dictionary, length.getIntValue());
-        stream.pipeStreamData(&m_file, 0, qpdf_dl_none); // The library checks the length.
+        writeData([&stream](Pipeline &target) { // The library checks the length.
+            stream.pipeStreamData(&target, 0, qpdf_dl_none);
+        });
     } else {
         readPacked(stream, dictionary);
-        if (m_cipher) {
-            m_data = m_cipher->encrypted(m_data);
-        }
         beginStream(number, dictionary, m_data.size());
-        m_file.append(m_data);
+        writeData([this](Pipeline &target) {
+            target.write(reinterpret_cast<const unsigned char *>(m_data.constData()),
+                         static_cast<std::size_t>(m_data.size()));
+        });
     }
     m_file.append("\nendstream\nendobj\n");
+}
+
+template<typename Work> void FileBody::writeData(const Work &work) {
+    if (!m_cipher) {
+        work(m_file);
+        return;
+    }
+    CipherPipeline pipeline(*m_cipher, m_file);
+    work(pipeline);
+    pipeline.end();
 }
 
 /// Reads the data of `stream`, compressed, and its dictionary, which may change with that.
@@ -231,7 +243,8 @@ void FileBody::beginStream(int number, QPDFObjectHandle dictionary, qint64 lengt
     m_text.clear();
     appendObject(m_text, dictionary.unparse(), m_numberOf, m_cipher);
     m_text.resize(m_text.rfind(">>"));
-    beginAlone(number, m_text + "/Length " + std::to_string(length) + " >>\nstream\n");
+    const qint64 size = m_cipher ? StreamCipher::encryptedSize(length) : length;
+    beginAlone(number, m_text + "/Length " + std::to_string(size) + " >>\nstream\n");
 }
 
 } // namespace folioforge

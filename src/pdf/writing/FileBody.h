@@ -45,7 +45,9 @@ class FileBody {
     void writeAlone(int number, const std::string &object);
     void beginAlone(int number, const std::string &object);
     bool readData(QPDFObjectHandle stream, qpdf_stream_decode_level_e level);
+    template<typename Work> void writeData(const Work &work);
     void readPacked(QPDFObjectHandle stream, QPDFObjectHandle &dictionary);
+    /// `length` is that before it is encrypted.
     void beginStream(int number, QPDFObjectHandle dictionary, qint64 length);
 
     QPDF &m_document;

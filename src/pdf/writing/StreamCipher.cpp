@@ -7,18 +7,22 @@
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/BufferInputSource.hh>
+#include <qpdf/Pl_String.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFCryptoImpl.hh>
 #include <qpdf/QPDFCryptoProvider.hh>
 #include <qpdf/QPDFWriter.hh>
 
+#include <algorithm>
 #include <array>
+#include <string_view>
 
 namespace folioforge {
 
 namespace {
 
-constexpr qsizetype kBlock = QPDFCryptoImpl::rijndael_buf_size;
+constexpr std::size_t kBlock = QPDFCryptoImpl::rijndael_buf_size;
+constexpr std::size_t kPiece = kBlock << 12; // It stays in the processor's cache.
 
 void applyEncryption(QPDFWriter &writer, const Encryption &encryption) {
     const PreparedPasswords passwords = preparedPasswords(encryption);
@@ -47,20 +51,58 @@ std::unique_ptr<QPDF> encryptedLike(const Encryption &encryption) {
 }
 
 QByteArray StreamCipher::encrypted(QByteArrayView data) const {
-    const auto crypto = QPDFCryptoProvider::getImpl();
+    std::string out;
+    Pl_String target("encrypted", nullptr, out);
+    CipherPipeline pipeline(*this, target);
+    pipeline.write(reinterpret_cast<const unsigned char *>(data.data()),
+                   static_cast<std::size_t>(data.size()));
+    pipeline.end();
+    return QByteArray::fromStdString(out);
+}
+
+qint64 StreamCipher::encryptedSize(qint64 size) {
+    constexpr qint64 kBytes = kBlock;
+    return kBytes + (size / kBytes + 1) * kBytes; // In front is a block of chance.
+}
+
+CipherPipeline::CipherPipeline(const StreamCipher &cipher, Pipeline &target)
+    : Pipeline("cipher", nullptr)
+    , m_target(target)
+    , m_crypto(QPDFCryptoProvider::getImpl()) {
     std::array<unsigned char, kBlock> block{};
-    crypto->provideRandomData(block.data(), block.size());
-    QByteArray bytes(reinterpret_cast<const char *>(block.data()), kBlock);
-    const auto padding = static_cast<char>(kBlock - data.size() % kBlock);
-    bytes.append(data).append(padding, padding);
-    crypto->rijndael_init(true, reinterpret_cast<const unsigned char *>(m_key.data()), m_key.size(),
-                          true, block.data());
-    for (qsizetype at = kBlock; at < bytes.size(); at += kBlock) {
-        auto *place = reinterpret_cast<unsigned char *>(bytes.data() + at);
-        crypto->rijndael_process(place, place);
+    m_crypto->provideRandomData(block.data(), block.size());
+    m_target.write(block.data(), block.size());
+    m_crypto->rijndael_init(true, reinterpret_cast<const unsigned char *>(cipher.m_key.data()),
+                            cipher.m_key.size(), true, block.data());
+    m_waiting.reserve(kPiece);
+}
+
+void CipherPipeline::write(unsigned char const *data, size_t length) {
+    std::string_view rest(reinterpret_cast<const char *>(data), length);
+    while (!rest.empty()) {
+        const std::size_t taken = std::min(rest.size(), kPiece - m_waiting.size());
+        m_waiting.append(rest.substr(0, taken));
+        rest.remove_prefix(taken);
+        if (m_waiting.size() == kPiece) {
+            flush();
+        }
     }
-    crypto->rijndael_finalize();
-    return bytes;
+}
+
+void CipherPipeline::flush() {
+    auto *const bytes = reinterpret_cast<unsigned char *>(m_waiting.data());
+    for (std::size_t at = 0; at < m_waiting.size(); at += kBlock) {
+        m_crypto->rijndael_process(bytes + at, bytes + at);
+    }
+    m_target.write(bytes, m_waiting.size());
+    m_waiting.clear();
+}
+
+void CipherPipeline::end() {
+    const std::size_t padding = kBlock - m_waiting.size() % kBlock;
+    m_waiting.append(padding, static_cast<char>(padding));
+    flush();
+    m_crypto->rijndael_finalize();
 }
 
 } // namespace folioforge
