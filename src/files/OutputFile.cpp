@@ -127,8 +127,10 @@ void OutputFile::append(std::span<const char> bytes) {
 }
 
 void OutputFile::drain() {
-    append(m_buffer);
-    m_buffer.clear();
+    if (!m_buffer.empty()) { // Several may read a file that is finished.
+        append(m_buffer);
+        m_buffer.clear();
+    }
 }
 
 void OutputFile::write(std::span<const char> bytes) {
