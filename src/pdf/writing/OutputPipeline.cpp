@@ -2,10 +2,9 @@
 
 #include "pdf/writing/OutputPipeline.h"
 
+#include "files/Checksum.h"
 #include "files/OutputFile.h"
 #include "image/Parallel.h"
-
-#include <libdeflate.h>
 
 #include <algorithm>
 #include <new>
@@ -62,7 +61,7 @@ void OutputPipeline::writeBlock() noexcept {
     if (m_failure) {
         return;
     }
-    m_checksum = libdeflate_crc32(m_checksum, m_block.data(), m_block.size());
+    m_checksum = crcWith(m_checksum, {m_block.data(), std::ssize(m_block)});
     try {
         m_file.write(m_block);
     } catch (...) {
