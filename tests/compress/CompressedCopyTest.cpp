@@ -16,6 +16,9 @@
 #include <QFileInfo>
 #include <QTest>
 
+#include <qpdf/Buffer.hh>
+#include <qpdf/QPDF.hh>
+
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 using namespace folioforge::test;
@@ -57,6 +60,24 @@ class CompressedCopyTest : public QObject, protected CompressionCase {
         QVERIFY2(allowed.contains(u"print:no"_s), qPrintable(allowed));
         QVERIFY2(allowed.contains(u"copy:yes"_s), qPrintable(allowed));
         QVERIFY2(allowed.contains(u"AES-256"_s), qPrintable(allowed));
+    }
+
+    /// It is compressed twice, and stays so.
+    void aStreamThatStaysIsWholeInAProtectedCopy() {
+        const QByteArray content("q 288 0 0 216 50 20 cm /Im0 Do Q");
+        const auto flate = [](const QByteArray &bytes) { return qCompress(bytes).sliced(4); };
+        PdfFixture page =
+            photoPage({}).stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)));
+        page.stream(4, "/Filter [/FlateDecode /FlateDecode]", flate(flate(content)));
+        const QString copy = protectedCopyOf(page);
+        QPDF document;
+        document.processFile(copy.toLocal8Bit().constData(), "user");
+        QPDFObjectHandle first = document.getAllPages().at(0);
+        const auto data = first.getPageContents().at(0).getStreamData();
+        QCOMPARE(QByteArray(reinterpret_cast<const char *>(data->getBuffer()),
+                            static_cast<qsizetype>(data->getSize())),
+                 content);
+        QVERIFY(document.getWarnings().empty());
     }
 
     void theCopyOfAProtectedDocumentIsPrivate() {
@@ -197,15 +218,17 @@ class CompressedCopyTest : public QObject, protected CompressionCase {
 
     /// The compressed copy of a document with the passwords "user" and "owner".
     QString protectedCopy() const {
-        const QString plain = m_folder->filePath(u"plain.pdf"_s);
-        const PdfFixture page =
+        return protectedCopyOf(
             photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
-                .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)));
+                .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900))));
+    }
+    QString protectedCopyOf(const PdfFixture &page) const {
+        const QString plain = m_folder->filePath(u"plain.pdf"_s);
         if (!page.write(plain)) {
             return {};
         }
-        test::runTool(u"qpdf"_s,
-                      {u"--encrypt"_s, u"user"_s, u"owner"_s, u"256"_s, u"--"_s, plain, m_path});
+        test::runTool(u"qpdf"_s, {u"--stream-data=preserve"_s, u"--encrypt"_s, u"user"_s,
+                                  u"owner"_s, u"256"_s, u"--"_s, plain, m_path});
         CompressionOptions options = optionsOf(1);
         options.encryption =
             std::make_shared<const Encryption>(Encryption{u"user"_s, u"owner"_s, true, false});

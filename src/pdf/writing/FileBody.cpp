@@ -181,7 +181,8 @@ void FileBody::writeAlone(int number, const std::string &object) {
 void FileBody::writeStream(QPDFObjectHandle stream, int number) {
     auto length = stream.getDict().getKey("/Length");
     auto dictionary = stream.getDict().shallowCopy();
-    if (!stream.getFilterOnWrite() && length.isInteger()) {
+    // Of a document that was read, /Length is that in its file, encrypted and perhaps wrong.
+    if (!m_repacks && !stream.getFilterOnWrite() && length.isInteger()) {
         beginStream(number, dictionary, length.getIntValue());
         writeData([&stream](Pipeline &target) { // The library checks the length.
             stream.pipeStreamData(&target, 0, qpdf_dl_none);
