@@ -358,6 +358,7 @@ class MetadataTest : public QObject, protected MergeCase {
         QVERIFY(bytes.contains("\nxref\n"));
         QVERIFY(!PdfProbe(result).json().contains("/ObjStm"));
         QVERIFY(!bytes.contains("/ObjStm") && !bytes.contains("/XRef"));
+        QVERIFY(bytes.contains("\n0000000000 65535 f \n"));
     }
 
     void streamsOfPdfAEndWithALine() {
