@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "verify/Verification.h"
-#include "ConversionCase.h"
+#include "VerificationCase.h"
 #include "error/Error.h"
 #include "image/PdfImage.h"
 #include "support/PdfProbe.h"
-#include "support/PhotoPage.h"
-#include "support/Places.h"
 #include "support/TestUnit.h"
 #include "text/FontCascade.h"
 
 #include <QDirIterator>
-#include <QElapsedTimer>
 #include <QFile>
 
 #include <sys/stat.h>
@@ -51,35 +47,11 @@ class FlippingCalls : public SystemCalls {
     bool m_isFlipped = false;
 };
 
-/// The PDF in plain words, as qpdf writes it.
-QString inPlainWords(const QString &pdf, const QString &target) {
-    const ToolRun run = runTool(u"qpdf"_s, {u"--qdf"_s, u"--normalize-content=n"_s,
-                                            u"--object-streams=disable"_s, pdf, target});
-    return run.exitCode == 0 ? target : QString::fromUtf8(run.err);
-}
-
-/// The PDF in plain words, with `from` for `to` in it wherever it stands.
-QString edited(const QString &pdf, const QString &target, const QByteArray &from,
-               const QByteArray &to) {
-    const QString plain = inPlainWords(pdf, target + u".qdf"_s);
-    QByteArray bytes = readFile(plain);
-    if (!bytes.contains(from)) {
-        return {};
-    }
-    const QString changed = writeFile(target + u".changed"_s, bytes.replace(from, to));
-    runTool(u"sh"_s, {u"-c"_s, u"fix-qdf \"$0\" > \"$1\""_s, changed, target});
-    return target;
-}
-
 } // namespace
 
-/// Pages that are held against their sources, before a PDF gets its name or when it stands already.
-class VerificationTest : public QObject, protected ConversionCase {
+/// Pages that are held against their sources before their PDF gets its name.
+class VerificationTest : public QObject, protected VerificationCase {
     Q_OBJECT
-
-    static QString data(const char *name) {
-        return inSource(u"tests/data/"_s + QLatin1StringView(name));
-    }
 
     void addAll(const QString &folder) {
         QStringList files;
@@ -90,31 +62,6 @@ class VerificationTest : public QObject, protected ConversionCase {
         for (const QString &file : std::as_const(files)) {
             addFile(file);
         }
-    }
-
-    QByteArrayList faults(const PDFOutcome &outcome) const {
-        QByteArrayList all;
-        for (std::size_t i = 0; i < outcome.entries.size(); ++i) {
-            const EntryOutcome &entry = outcome.entries[i];
-            if (!entry.written || !entry.verification || !entry.verification->holds()) {
-                all += (m_list[i]->fileName() + u": "_s + entry.reason).toUtf8();
-            }
-        }
-        return all + (outcome.isWritten() ? QByteArrayList()
-                                          : QByteArrayList{outcome.close.reason.toUtf8()});
-    }
-
-    /// Writes a PDF of the list to look for afterwards.
-    QString written() {
-        m_options.merge = true;
-        return convertTo(path("out/whole.pdf")).close.path;
-    }
-
-    PDFOutcome verified(const QString &pdf) {
-        m_options.merge = true;
-        m_options.dryRun = true;
-        m_options.verifyOnly = pdf;
-        return convertTo(pdf);
     }
 
     PageProof proofOf(const char *file) {
@@ -140,10 +87,7 @@ class VerificationTest : public QObject, protected ConversionCase {
     }
 
   private Q_SLOTS:
-    void init() {
-        setUp();
-        m_options.verify = true;
-    }
+    void init() { setUpVerifying(); }
 
     void everyPictureOfTheTestsIsItsSource() {
         addAll(u"tests/data/image"_s);
@@ -314,220 +258,6 @@ class VerificationTest : public QObject, protected ConversionCase {
         record.pages = 2;
         record.source = {pdf, {}};
         QCOMPARE(reasonOf(pdf, record), u"The PDF has 3 pages instead of 2"_s);
-    }
-
-    void aFinishedPdfIsHeldAgainstItsSources() {
-        addText("a.txt", "words");
-        addFile(data("image/photo.jpg"));
-        addFile(data("pdf/writer-form.pdf"));
-        const QByteArray before = readFile(written());
-        const PDFOutcome outcome = verified(path("out/whole.pdf"));
-        QCOMPARE(faults(outcome), QByteArrayList());
-        QCOMPARE(readFile(path("out/whole.pdf")), before);
-        QCOMPARE(outputs(), QStringList{u"whole.pdf"_s});
-    }
-
-    void thePageThatDiffersIsNamed() {
-        addText("a.txt", "words");
-        addFile(data("image/photo.jpg"));
-        addText("b.txt", "one two three");
-        const QString pdf = written();
-        writeFile(path("b.txt"), "one two thrice");
-        m_list.back() = std::make_unique<PDFFileInfo>(path("b.txt"));
-        const PDFOutcome outcome = verified(pdf);
-        QVERIFY(outcome.entries[0].written);
-        QVERIFY(outcome.entries[1].written);
-        QVERIFY(!outcome.entries[2].written);
-        QCOMPARE(
-            outcome.entries[2].reason,
-            u"Page 3 of the PDF is not its source: its characters are not those of the text"_s);
-    }
-
-    void whatAnEditChangesIsFound_data() {
-        QTest::addColumn<QByteArray>("from");
-        QTest::addColumn<QByteArray>("to");
-        QTest::newRow("nothing") << QByteArray("(words)") << QByteArray("(words)");
-        QTest::newRow("letters") << QByteArray("(words)") << QByteArray("(wards)");
-        QTest::newRow("map of characters") << QByteArray("<77><0077>") << QByteArray("<77><0078>");
-        QTest::newRow("width of a picture") << QByteArray("/Width 24") << QByteArray("/Width 23");
-        QTest::newRow("colours of a picture")
-            << QByteArray("/ColorSpace /DeviceRGB") << QByteArray("/ColorSpace /DeviceGray");
-        QTest::newRow("number of colours")
-            << QByteArray("/DeviceRGB\n    11\n") << QByteArray("/DeviceRGB\n    21\n");
-        QTest::newRow("no number of colours")
-            << QByteArray("/DeviceRGB\n    11\n") << QByteArray("/DeviceRGB\n    /11\n");
-        QTest::newRow("annotation")
-            << QByteArray("/Subtype /Widget") << QByteArray("/Subtype /Square");
-        QTest::newRow("box") << QByteArray("595.303937007874") << QByteArray("595.9");
-    }
-
-    void whatAnEditChangesIsFound() {
-        QFETCH(QByteArray, from);
-        QFETCH(QByteArray, to);
-        addText("a.txt", "words");
-        addFile(data("image/palette.png"));
-        addFile(data("image/photo.jpg"));
-        addFile(data("pdf/writer-form.pdf"));
-        const QString pdf = edited(written(), path("changed.pdf"), from, to);
-        QVERIFY2(!pdf.isEmpty(), "nothing to change");
-        QVERIFY(PdfProbe(pdf).pageCount() == 4);
-        const PDFOutcome outcome = verified(pdf);
-        QVERIFY2(faults(outcome).isEmpty() == (from == to), faults(outcome).join('\n'));
-    }
-
-    /// A reader that knows no vertical tab finds no length, and no words.
-    void aSpaceThatOnlySomeReadersKnowIsFound() {
-        addText("a.txt", "words");
-        QByteArray bytes = readFile(written());
-        const auto length = bytes.indexOf("/Length ");
-        QVERIFY(length > 0);
-        bytes[length + 7] = '\v';
-        const QString pdf = writeFile(path("changed.pdf"), bytes);
-        QVERIFY(PdfProbe(pdf).text() != PdfProbe(path("out/whole.pdf")).text());
-        QVERIFY(!faults(verified(pdf)).isEmpty());
-    }
-
-    void theSameInAStringOrACommentIsNoFault() {
-        const QString pdf = path("tabs.pdf");
-        PdfFixture page = photoPage({});
-        page.object(7, "[(a\v\\)b) %\v\n <0b> /Name]");
-        QVERIFY(page.write(pdf));
-        addFile(pdf);
-        QCOMPARE(faults(verified(pdf)), QByteArrayList());
-    }
-
-    void aPdfOfAnotherProgramIsHeldAgainstItsSources() {
-        addFile(data("pdf/ghostscript.pdf"));
-        addFile(data("pdf/chromium-letter.pdf"));
-        const ToolRun run =
-            runTool(u"qpdf"_s, {u"--empty"_s, u"--pages"_s, data("pdf/ghostscript.pdf"),
-                                data("pdf/chromium-letter.pdf"), u"--"_s, path("qpdf.pdf")});
-        QCOMPARE(run.exitCode, 0);
-        QCOMPARE(faults(verified(path("qpdf.pdf"))), QByteArrayList());
-    }
-
-    void picturesThatAnotherProgramPutInAreTheirSource() {
-        for (const char *name : {"photo.jpg", "grey.png", "palette.png", "bilevel-g4.tif"}) {
-            addFile(data("image/") + QLatin1StringView(name));
-        }
-        QStringList files;
-        for (const auto &entry : m_list) {
-            files += entry->filePathName();
-        }
-        const ToolRun run =
-            runTool(u"img2pdf"_s, files + QStringList{u"-S"_s, u"A4"_s, u"-o"_s, path("img.pdf")});
-        QVERIFY2(run.exitCode == 0, run.err);
-        const PDFOutcome outcome = verified(path("img.pdf"));
-        QCOMPARE(faults(outcome), QByteArrayList());
-        QCOMPARE(outcome.entries[0].warnings.at(0).code, WarningCode::LaidOutOtherwise);
-    }
-
-    void aTextInAnotherLayoutIsItsSource() {
-        addText("a.txt", QByteArray("some words that are broken into rows ").repeated(200));
-        addText("b.txt", "the end");
-        m_options.readable.emplace();
-        const QString pdf = written();
-        m_options.readable.reset();
-        const PDFOutcome outcome = verified(pdf);
-        QCOMPARE(faults(outcome), QByteArrayList());
-        QCOMPARE(outcome.entries[0].warnings.at(0).code, WarningCode::LaidOutOtherwise);
-    }
-
-    void aPartThatPagesShareIsAFaultOfEachOfThem() {
-        QVERIFY(PdfFixture().object(1, kCatalog).pages(4, 3).write(path("pages.pdf")));
-        addFile(path("pages.pdf"));
-        const QString pdf = edited(written(), path("changed.pdf"), "/Helvetica", "/Courier");
-        QVERIFY2(!pdf.isEmpty(), "nothing to change");
-        const PDFOutcome outcome = verified(pdf);
-        QVERIFY2(outcome.entries[0].verification, faults(outcome).join('\n'));
-        QCOMPARE(outcome.entries[0].verification->faults.size(), std::size_t{3});
-    }
-
-    void whatFollowsAPageThatCannotBeReadIsStillFound() {
-        addFile(data("image/two.gif"));
-        addText("a.txt", "words");
-        m_options.allPictures = true;
-        const QByteArray bytes = readFile(inPlainWords(written(), path("plain.pdf")));
-        const qsizetype at = bytes.indexOf("/Contents ");
-        const QByteArray contents = bytes.sliced(at, bytes.indexOf('\n', at) - at);
-        const QString pdf =
-            edited(path("out/whole.pdf"), path("changed.pdf"), contents, "/Contents [1]");
-        QVERIFY2(!pdf.isEmpty(), "nothing to change");
-        const PDFOutcome outcome = verified(pdf);
-        QVERIFY(!outcome.entries[0].written);
-        QCOMPARE(outcome.entries[0].verification.value().pages.size(), std::size_t{2});
-        QVERIFY2(outcome.entries[1].written, qPrintable(outcome.entries[1].reason));
-    }
-
-    void everyPictureOfAFileThatAnotherProgramPutInIsItsSource() {
-        addFile(data("image/two.gif"));
-        const ToolRun run =
-            runTool(u"img2pdf"_s, {data("image/two.gif"), u"-o"_s, path("img.pdf")});
-        QVERIFY2(run.exitCode == 0, run.err);
-        m_options.allPictures = true;
-        const PDFOutcome outcome = verified(path("img.pdf"));
-        QCOMPARE(faults(outcome), QByteArrayList());
-        QCOMPARE(outcome.entries[0].verification.value().pages.size(), std::size_t{2});
-    }
-
-    void aPageThatUnfoldsWithoutEndIsNotRead() {
-        addText("a.txt", "words");
-        PdfFixture page = photoPage({});
-        page.stream(4, "/Filter /FlateDecode", flate(QByteArray(4 << 20, ' ')));
-        QByteArray object = page.objects().at(3);
-        object.replace("/Contents 4 0 R", "/Contents [" + QByteArray("4 0 R ").repeated(70) + ']');
-        QVERIFY(page.object(3, object).write(path("long.pdf")));
-        const PDFOutcome outcome = verified(path("long.pdf"));
-        QVERIFY2(outcome.entries[0].reason.contains(u"compressed data"),
-                 qPrintable(outcome.entries[0].reason));
-    }
-
-    void aFontOfManyLongTextsIsReadAtOnce() {
-        addText("a.txt", "words");
-        PdfFixture page = photoPage("BT /F 9 Tf <0041> Tj ET");
-        page.object(7, "<< /Type /Font /Subtype /Type0 /Encoding /Identity-H /ToUnicode 8 0 R >>")
-            .stream(8, {},
-                    "1 beginbfrange <0000> <FFFF> <" + QByteArray("0041").repeated(1 << 20) +
-                        "> endbfrange");
-        QVERIFY(page.write(path("long.pdf")));
-        QElapsedTimer timer;
-        timer.start();
-        QVERIFY(!faults(verified(path("long.pdf"))).isEmpty());
-        constexpr int kSeconds = 20; // Text by text it takes minutes.
-        QVERIFY(timer.elapsed() < kSeconds * 1000);
-    }
-
-    void aReducedPictureKeepsItsOpacity() {
-        addFile(data("image/translucent.png"));
-        const QString pdf = edited(written(), path("changed.pdf"), "/SMask", "/Other");
-        m_options.compressIndex = 2;
-        QVERIFY(!faults(verified(pdf)).isEmpty());
-        QCOMPARE(faults(verified(path("out/whole.pdf"))), QByteArrayList());
-    }
-
-    void pagesOfNoInputAreFound() {
-        addText("a.txt", "words");
-        addText("b.txt", "more");
-        const QString pdf = written();
-        m_list.pop_back();
-        const PDFOutcome outcome = verified(pdf);
-        QCOMPARE(faults(outcome).size(), 1);
-    }
-
-    void aReducedPictureCountsWhereThatIsAskedFor() {
-        const QString jpeg = path("photo.jpg");
-        QVERIFY(photo(800, 600).save(jpeg, "JPG", 95));
-        addFile(jpeg);
-        const QString small = path("small.jpg");
-        QVERIFY(photo(800, 600)
-                    .scaled(400, 300, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-                    .save(small, "JPG", 70));
-        QCOMPARE(runTool(u"img2pdf"_s, {small, u"-o"_s, path("small.pdf")}).exitCode, 0);
-        QVERIFY(!faults(verified(path("small.pdf"))).isEmpty());
-        m_options.compressIndex = 2;
-        const PDFOutcome outcome = verified(path("small.pdf"));
-        QCOMPARE(faults(outcome), QByteArrayList());
-        QCOMPARE(outcome.entries[0].verification->pages[0], PageProof::Likeness);
     }
 };
 
