@@ -6,9 +6,7 @@
 #include "files/OutputFile.h"
 #include "image/Parallel.h"
 
-#include <algorithm>
 #include <new>
-#include <string_view>
 #include <utility>
 
 namespace folioforge {
@@ -21,24 +19,10 @@ constexpr std::size_t kBlockSize = 1 << 19;
 } // namespace
 
 OutputPipeline::OutputPipeline(OutputFile &file)
-    : Pipeline("output", nullptr)
+    : BlockPipeline("output", kBlockSize)
     , m_file(file)
-    , m_position(file.size()) {
-    m_filling.reserve(kBlockSize);
-    m_block.reserve(kBlockSize);
-}
-
-void OutputPipeline::write(unsigned char const *data, size_t length) {
-    std::string_view rest(reinterpret_cast<const char *>(data), length);
-    m_position += static_cast<qint64>(length);
-    while (!rest.empty()) {
-        const std::size_t taken = std::min(rest.size(), kBlockSize - m_filling.size());
-        m_filling.append(rest.substr(0, taken));
-        rest.remove_prefix(taken);
-        if (m_filling.size() == kBlockSize) {
-            beginBlock();
-        }
-    }
+    , m_blockStart(file.size()) {
+    m_written.reserve(kBlockSize);
 }
 
 void OutputPipeline::append(QByteArrayView bytes) {
@@ -46,10 +30,8 @@ void OutputPipeline::append(QByteArrayView bytes) {
           static_cast<std::size_t>(bytes.size()));
 }
 
-void OutputPipeline::beginBlock() {
-    wait();
-    std::swap(m_filling, m_block);
-    m_filling.clear();
+void OutputPipeline::takeBlock() {
+    beginNext();
     try {
         m_writing = runAsync([this] { writeBlock(); });
     } catch (const std::bad_alloc &) {
@@ -57,13 +39,21 @@ void OutputPipeline::beginBlock() {
     }
 }
 
+/// Makes the block the one that is being written, once that before it is.
+void OutputPipeline::beginNext() {
+    wait();
+    m_blockStart = position();
+    std::swap(m_block, m_written);
+    m_block.clear();
+}
+
 void OutputPipeline::writeBlock() noexcept {
     if (m_failure) {
         return;
     }
-    m_checksum = crcWith(m_checksum, {m_block.data(), std::ssize(m_block)});
+    m_checksum = crcWith(m_checksum, {m_written.data(), std::ssize(m_written)});
     try {
-        m_file.write(m_block);
+        m_file.write(m_written);
     } catch (...) {
         m_failure = std::current_exception();
         m_hasFailed = true;
@@ -84,9 +74,7 @@ void OutputPipeline::throwFailure() {
 }
 
 std::uint32_t OutputPipeline::drain() {
-    wait();
-    std::swap(m_filling, m_block);
-    m_filling.clear();
+    beginNext();
     writeBlock();
     throwFailure();
     return m_checksum;

@@ -13,9 +13,7 @@
 #include <qpdf/QPDFCryptoProvider.hh>
 #include <qpdf/QPDFWriter.hh>
 
-#include <algorithm>
 #include <array>
-#include <string_view>
 
 namespace folioforge {
 
@@ -66,7 +64,7 @@ qint64 StreamCipher::encryptedSize(qint64 size) {
 }
 
 CipherPipeline::CipherPipeline(const StreamCipher &cipher, Pipeline &target)
-    : Pipeline("cipher", nullptr)
+    : BlockPipeline("cipher", kPiece)
     , m_target(target)
     , m_crypto(QPDFCryptoProvider::getImpl()) {
     std::array<unsigned char, kBlock> block{};
@@ -74,34 +72,21 @@ CipherPipeline::CipherPipeline(const StreamCipher &cipher, Pipeline &target)
     m_target.write(block.data(), block.size());
     m_crypto->rijndael_init(true, reinterpret_cast<const unsigned char *>(cipher.m_key.data()),
                             cipher.m_key.size(), true, block.data());
-    m_waiting.reserve(kPiece);
 }
 
-void CipherPipeline::write(unsigned char const *data, size_t length) {
-    std::string_view rest(reinterpret_cast<const char *>(data), length);
-    while (!rest.empty()) {
-        const std::size_t taken = std::min(rest.size(), kPiece - m_waiting.size());
-        m_waiting.append(rest.substr(0, taken));
-        rest.remove_prefix(taken);
-        if (m_waiting.size() == kPiece) {
-            flush();
-        }
-    }
-}
-
-void CipherPipeline::flush() {
-    auto *const bytes = reinterpret_cast<unsigned char *>(m_waiting.data());
-    for (std::size_t at = 0; at < m_waiting.size(); at += kBlock) {
+void CipherPipeline::takeBlock() {
+    auto *const bytes = reinterpret_cast<unsigned char *>(m_block.data());
+    for (std::size_t at = 0; at < m_block.size(); at += kBlock) {
         m_crypto->rijndael_process(bytes + at, bytes + at);
     }
-    m_target.write(bytes, m_waiting.size());
-    m_waiting.clear();
+    m_target.write(bytes, m_block.size());
+    m_block.clear();
 }
 
 void CipherPipeline::end() {
-    const std::size_t padding = kBlock - m_waiting.size() % kBlock;
-    m_waiting.append(padding, static_cast<char>(padding));
-    flush();
+    const std::size_t padding = kBlock - m_block.size() % kBlock;
+    m_block.append(padding, static_cast<char>(padding));
+    takeBlock();
     m_crypto->rijndael_finalize();
 }
 

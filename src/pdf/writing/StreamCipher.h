@@ -2,10 +2,10 @@
 
 #pragma once
 
+#include "pdf/writing/BlockPipeline.h"
+
 #include <QByteArray>
 #include <QByteArrayView>
-
-#include <qpdf/Pipeline.hh>
 
 #include <memory>
 #include <string>
@@ -39,22 +39,19 @@ class StreamCipher {
 };
 
 /// Encrypts what comes and hands it on.
-class CipherPipeline final : public Pipeline {
+class CipherPipeline final : public BlockPipeline {
   public:
     /// Both must outlive it.
     CipherPipeline(const StreamCipher &cipher, Pipeline &target);
 
-    void write(unsigned char const *data, size_t length) override;
-    void finish() override {}
     /// Hands on the rest. To be called once, behind all data.
     void end();
 
   private:
-    void flush();
+    void takeBlock() override;
 
     Pipeline &m_target;
     std::shared_ptr<QPDFCryptoImpl> m_crypto;
-    std::string m_waiting; ///< Of whole blocks, but for the last time.
 };
 
 } // namespace folioforge
