@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "support/FaultyCalls.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
@@ -367,8 +368,21 @@ class DescriptionTest : public QObject {
             const QString said = ownDescription(writeFile(path(u"cut.jpg"_s), whole.first(size)));
             QVERIFY(said.isEmpty() || said == u"A meadow");
         }
-        QVERIFY(ownDescription(path(u"missing.jpg"_s)).isEmpty());
         QVERIFY(ownDescription(writeFile(path(u"x.bmp"_s), "BM")).isEmpty());
+    }
+
+    void aFileThatCannotBeReadIsNotTakenForOneThatSaysNothing() {
+        const QString profile = xmpProfile("<rdf:li xml:lang='x-default'>A meadow</rdf:li>");
+        const QString file = written(u"a.jpg"_s, {u"-profile"_s, u"xmp:"_s + profile});
+        FaultyCalls counted;
+        QCOMPARE(ownDescription(file, counted), u"A meadow"_s);
+        const int opened = 1;
+        for (int call = 1; call <= opened + counted.moves(); ++call) {
+            FaultyCalls calls;
+            calls.fault = {call, EIO, false, {}};
+            QVERIFY_THROWS_EXCEPTION(Error, ownDescription(file, calls));
+        }
+        QVERIFY_THROWS_EXCEPTION(Error, ownDescription(path(u"missing.jpg"_s)));
     }
 };
 

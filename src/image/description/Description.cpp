@@ -71,9 +71,9 @@ QString tidied(const QString &text) {
 } // namespace
 
 QString ownDescription(const QString &path, SystemCalls &calls) {
+    const SourceFile file = SourceFile::open(path, calls);
     DescriptionBlocks blocks;
     try {
-        const SourceFile file = SourceFile::open(path, calls);
         const FileView view = file.view();
         if (const auto describe = formatOf(view).describe) {
             describe(view, blocks);
@@ -81,6 +81,7 @@ QString ownDescription(const QString &path, SystemCalls &calls) {
     } catch (const Error &) {
         // Of a damaged file what stands before the damage counts.
     }
+    file.requireNoFailure();
     for (const QString &text :
          {descriptionInXmp(blocks.xmp.value_or(QByteArray())),
           captionInIptc(blocks.iptc.value_or(QByteArray())),
