@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "CompressionCase.h"
+#include "support/ByteOrder.h"
 #include "support/CmykJpeg.h"
 #include "support/Files.h"
 #include "support/TestUnit.h"
@@ -32,19 +33,13 @@ QByteArray group4(int height) {
     return bytes;
 }
 
-QByteArray bigEndian(quint32 value) {
-    return {QByteArray::fromHex(QByteArray::number(value, 16).rightJustified(8, '0'))};
-}
-
 /// The same as JBIG2: a page information segment and one region under T.6 (ITU-T T.88, 7.4).
 QByteArray jbig2(int width, int height) {
-    const QByteArray size =
-        bigEndian(static_cast<quint32>(width)) + bigEndian(static_cast<quint32>(height));
+    const QByteArray size = big(static_cast<quint32>(width)) + big(static_cast<quint32>(height));
     const QByteArray packed = group4(height);
-    return bigEndian(0) + QByteArray::fromHex("300001") + bigEndian(19) + size +
-           QByteArray(11, '\0') + bigEndian(1) + QByteArray::fromHex("260001") +
-           bigEndian(static_cast<quint32>(18 + packed.size())) + size + QByteArray(9, '\0') +
-           QByteArray::fromHex("01") + packed;
+    return big(0) + QByteArray::fromHex("300001") + big(19) + size + QByteArray(11, '\0') + big(1) +
+           QByteArray::fromHex("260001") + big(static_cast<quint32>(18 + packed.size())) + size +
+           QByteArray(9, '\0') + QByteArray::fromHex("01") + packed;
 }
 
 QByteArray everySampleTwice(const QByteArray &samples) {

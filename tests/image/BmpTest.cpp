@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "support/ByteOrder.h"
 #include "support/TestUnit.h"
 
 #include "image/ImageHeader.h"
@@ -19,12 +20,6 @@ namespace {
 
 constexpr quint32 kPlain = 0;
 constexpr quint32 kMasks = 3;
-
-QByteArray little(quint32 number) {
-    QByteArray bytes(4, '\0');
-    qToLittleEndian(number, bytes.data());
-    return bytes;
-}
 
 /// A bitmap of 2 x 2 pixels, whose header of `headerSize` bytes ends with `masks`; `pixels` are its
 /// rows from the bottom, as it stores them.

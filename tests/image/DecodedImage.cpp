@@ -3,6 +3,7 @@
 #include "DecodedImage.h"
 
 #include "error/Error.h"
+#include "support/ByteOrder.h"
 #include "support/Files.h"
 #include "support/Places.h"
 
@@ -31,12 +32,6 @@ quint32 crcOf(const QByteArray &bytes) {
     return ~crc;
 }
 
-QByteArray bigEndian(quint32 number) {
-    QByteArray bytes(4, '\0');
-    qToBigEndian(number, bytes.data());
-    return bytes;
-}
-
 /// Rows without filters get the number of no filter before each, as PNG has it.
 QByteArray withFilterNumbers(const QByteArray &rows, qsizetype stride) {
     QByteArray out;
@@ -60,8 +55,8 @@ QImage decodedFlate(const PdfImage &image) {
             (qsizetype(image.width) * channels * image.bitsPerComponent + 7) / 8;
         rows = withFilterNumbers(unzipped(rows), stride);
     }
-    QByteArray header = bigEndian(static_cast<quint32>(image.width)) +
-                        bigEndian(static_cast<quint32>(image.height));
+    QByteArray header =
+        big(static_cast<quint32>(image.width)) + big(static_cast<quint32>(image.height));
     header.append(static_cast<char>(image.bitsPerComponent)).append(type).append(3, '\0');
     QByteArray png("\x89PNG\r\n\x1A\n", 8);
     png += pngChunk("IHDR", header);
@@ -132,7 +127,7 @@ QByteArray rgbRows(const PdfImage &image) {
 
 QByteArray pngChunk(const char *type, const QByteArray &content) {
     const QByteArray body = type + content;
-    return bigEndian(static_cast<quint32>(content.size())) + body + bigEndian(crcOf(body));
+    return big(static_cast<quint32>(content.size())) + body + big(crcOf(body));
 }
 
 QString imageFile(const QString &name) {
@@ -158,7 +153,7 @@ QByteArray dataOf(const PdfImage &image) {
 
 QByteArray unzipped(const QByteArray &bytes) {
     constexpr quint32 kEnough = 1 << 22;
-    return qUncompress(bigEndian(kEnough) + bytes);
+    return qUncompress(big(kEnough) + bytes);
 }
 
 QImage decoded(const PdfImage &image) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "FileParts.h"
 #include "support/FaultyCalls.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
@@ -10,7 +11,6 @@
 
 #include <QImage>
 #include <QTemporaryDir>
-#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -18,38 +18,9 @@ using namespace folioforge::test;
 
 namespace {
 
-QByteArray bigWord(quint32 number) {
-    QByteArray bytes(4, '\0');
-    qToBigEndian(number, bytes.data());
-    return bytes;
-}
-
-QByteArray littleWord(quint32 number) {
-    QByteArray bytes(4, '\0');
-    qToLittleEndian(number, bytes.data());
-    return bytes;
-}
-
-/// A segment of a JPEG behind its length.
-QByteArray jpegSegment(char marker, const QByteArray &content) {
-    return QByteArray("\xFF") + marker + bigWord(quint32(content.size() + 2)).sliced(2) + content;
-}
-
 /// A chunk of a WebP file.
 QByteArray webpChunk(const char *type, const QByteArray &content) {
-    return type + littleWord(quint32(content.size())) + content +
-           QByteArray(content.size() % 2, '\0');
-}
-
-/// A box of a JPEG 2000 or JPEG XL file.
-QByteArray describedBox(const char *type, const QByteArray &content) {
-    return bigWord(quint32(content.size() + 8)) + type + content;
-}
-
-/// A resource of Photoshop, without a name.
-QByteArray photoshopResource(quint16 number, const QByteArray &content) {
-    return "8BIM" + bigWord(number).sliced(2) + QByteArray(2, '\0') +
-           bigWord(quint32(content.size())) + content + QByteArray(content.size() % 2, '\0');
+    return type + little(quint32(content.size())) + content + QByteArray(content.size() % 2, '\0');
 }
 
 /// A directory of a TIFF that begins the file, with entries for the tag ImageDescription, each of
@@ -59,12 +30,17 @@ QByteArray describedTiff(const QByteArrayList &texts) {
     QByteArray values;
     const qsizetype end = 8 + 2 + 12 * texts.size() + 4;
     for (const QByteArray &text : texts) {
-        entries += QByteArray::fromHex("010e0002") + bigWord(quint32(text.size())) +
-                   bigWord(quint32(end + values.size()));
+        entries += QByteArray::fromHex("010e0002") + big(quint32(text.size())) +
+                   big(quint32(end + values.size()));
         values += text;
     }
-    return QByteArray::fromHex("4d4d002a00000008") + bigWord(quint32(texts.size())).sliced(2) +
-           entries + bigWord(0) + values;
+    return QByteArray::fromHex("4d4d002a00000008") + big(quint16(texts.size())) + entries + big(0) +
+           values;
+}
+
+/// The caption "A meadow" as a data set of IPTC.
+QByteArray captionSet() {
+    return QByteArray("\x1C\x02\x78\0\x08", 5) + "A meadow";
 }
 
 /// An EXIF block whose directory would stand behind its end.
@@ -116,7 +92,7 @@ class DescriptionTest : public QObject {
             writeFile(path(u"s.jpg"_s), readFile(imageFile(u"photo.jpg"_s)).insert(2, segments)));
     }
     QString saidByPacket(const QByteArray &packet) {
-        return saidByJpeg(jpegSegment('\xE1', xmpLead() + packet));
+        return saidByJpeg(segment(0xE1, xmpLead() + packet));
     }
     /// Such a file with more chunks behind what it has; of a PNG in front of its end.
     QByteArray withChunks(const QString &name, const QByteArray &chunks) {
@@ -215,9 +191,9 @@ class DescriptionTest : public QObject {
         QTest::addColumn<QByteArray>("file");
         const QByteArray said = saying("A meadow");
         QTest::newRow("jpg") << readFile(imageFile(u"photo.jpg"_s))
-                                    .insert(2, jpegSegment('\xE1', QByteArray("Exif\0\0", 6) +
-                                                                       damagedExif()) +
-                                                   jpegSegment('\xE1', xmpLead() + said));
+                                    .insert(2, segment(0xE1,
+                                                       QByteArray("Exif\0\0", 6) + damagedExif()) +
+                                                   segment(0xE1, xmpLead() + said));
         QTest::newRow("png") << withChunks(
             u"colour.png"_s, pngChunk("eXIf", damagedExif()) +
                                  pngChunk("zTXt", QByteArray("Description\0\0?", 14)) +
@@ -235,8 +211,8 @@ class DescriptionTest : public QObject {
         const QByteArray one = saying("First");
         const QByteArray other = saying("Second");
         QTest::newRow("jpg") << readFile(imageFile(u"photo.jpg"_s))
-                                    .insert(2, jpegSegment('\xE1', xmpLead() + one) +
-                                                   jpegSegment('\xE1', xmpLead() + other));
+                                    .insert(2, segment(0xE1, xmpLead() + one) +
+                                                   segment(0xE1, xmpLead() + other));
         QTest::newRow("png") << withChunks(u"colour.png"_s, pngPacket(one) + pngPacket(other));
         QTest::newRow("webp") << withChunks(u"colour.webp"_s,
                                             webpChunk("XMP ", one) + webpChunk("XMP ", other));
@@ -257,9 +233,9 @@ class DescriptionTest : public QObject {
             photoshopResource(1000, QByteArray(60, 'x')) +
             photoshopResource(1028, QByteArray("\x1C\x02\x78\0\x08Two dogs", 13));
         const QByteArray lead("Photoshop 3.0\0", 14);
-        QCOMPARE(saidByJpeg(jpegSegment('\xED', lead + all.first(80)) +
-                            jpegSegment('\xED', lead + all.sliced(80))),
-                 u"Two dogs"_s);
+        QCOMPARE(
+            saidByJpeg(segment(0xED, lead + all.first(80)) + segment(0xED, lead + all.sliced(80))),
+            u"Two dogs"_s);
     }
 
     void aWebpOfItsProgramsIsRead() {
@@ -281,7 +257,7 @@ class DescriptionTest : public QObject {
         const QString packet = writeFile(path(u"made.xmp"_s), saying("A meadow"));
         const QString exif = writeFile(path(u"made.exif"_s), describedTiff({"A meadow"}));
         writeFile(jpeg, readFile(imageFile(u"photo.jpg"_s))
-                            .insert(2, jpegSegment('\xE1', xmpLead() + saying("A meadow"))));
+                            .insert(2, segment(0xE1, xmpLead() + saying("A meadow"))));
         QTest::newRow("heic, XMP") << u"heif-enc"_s << QStringList{jpeg, u"-o"_s, heic};
         QTest::newRow("avif, XMP")
             << u"avifenc"_s
@@ -300,26 +276,33 @@ class DescriptionTest : public QObject {
 
     void boxesOfJpegXlAreRead_data() {
         QTest::addColumn<QByteArray>("added");
-        QTest::newRow("XMP") << describedBox("xml ", saying("A meadow"));
-        QTest::newRow("behind a long one") << describedBox("Exif", QByteArray(2 << 20, '\0')) +
-                                                  describedBox("xml ", saying("A meadow"));
-        QTest::newRow("EXIF") << describedBox("Exif", bigWord(0) + describedTiff({"A meadow"}));
+        QTest::newRow("XMP") << box("xml ", saying("A meadow"));
+        QTest::newRow("behind a long one")
+            << box("Exif", QByteArray(2 << 20, '\0')) + box("xml ", saying("A meadow"));
+        QTest::newRow("EXIF") << box("Exif", big(0) + describedTiff({"A meadow"}));
     }
     void boxesOfJpegXlAreRead() {
         QFETCH(QByteArray, added);
-        const QByteArray start = describedBox("JXL ", "\r\n\x87\n") +
-                                 describedBox("ftyp", QByteArray("jxl \0\0\0\0jxl ", 12));
-        const QByteArray picture = describedBox("jxlc", readFile(imageFile(u"colour.jxl"_s)));
+        const QByteArray start =
+            box("JXL ", "\r\n\x87\n") + box("ftyp", QByteArray("jxl \0\0\0\0jxl ", 12));
+        const QByteArray picture = box("jxlc", readFile(imageFile(u"colour.jxl"_s)));
         for (const QByteArray &bytes : {start + added + picture, start + picture + added}) {
             QCOMPARE(ownDescription(writeFile(path(u"box.jxl"_s), bytes)), u"A meadow"_s);
         }
     }
 
+    void aJpegXlThatWasAJpegSaysWhatThatSaid_data() {
+        QTest::addColumn<QByteArray>("segments");
+        const auto xmp = [](const QByteArray &packet) { return segment(0xE1, xmpLead() + packet); };
+        QTest::newRow("XMP") << xmp(saying("A meadow"));
+        QTest::newRow("IPTC beside XMP without a description")
+            << xmp(packetOf({}, {})) + segment(0xED, QByteArray("Photoshop 3.0\0", 14) +
+                                                         photoshopResource(1028, captionSet()));
+    }
     void aJpegXlThatWasAJpegSaysWhatThatSaid() {
+        QFETCH(QByteArray, segments);
         const QString jpeg =
-            writeFile(path(u"was.jpg"_s),
-                      readFile(imageFile(u"photo.jpg"_s))
-                          .insert(2, jpegSegment('\xE1', xmpLead() + saying("A meadow"))));
+            writeFile(path(u"was.jpg"_s), readFile(imageFile(u"photo.jpg"_s)).insert(2, segments));
         QCOMPARE(runTool(u"cjxl"_s, {jpeg, path(u"was.jxl"_s)}).exitCode, 0);
         QCOMPARE(ownDescription(path(u"was.jxl"_s)), u"A meadow"_s);
     }
@@ -327,15 +310,14 @@ class DescriptionTest : public QObject {
     void boxesOfJpeg2000AreRead_data() {
         QTest::addColumn<QByteArray>("boxes");
         const auto uuid = [](const QByteArray &number, const QByteArray &content) {
-            return describedBox("uuid", number + content);
+            return box("uuid", number + content);
         };
         const QByteArray packet = saying("A meadow");
         const QByteArray xmp = QByteArray::fromHex("be7acfcb97a942e89c71999491e3afac");
         const QByteArray iptc = QByteArray::fromHex("33c7a4d2b81d4723a0baf1a3e097ad38");
         QTest::newRow("XMP") << uuid(xmp, packet);
-        QTest::newRow("XML of others before it")
-            << describedBox("xml ", "<a/>") + describedBox("xml ", packet);
-        QTest::newRow("IPTC") << uuid(iptc, QByteArray("\x1C\x02\x78\0\x08", 5) + "A meadow");
+        QTest::newRow("XML of others before it") << box("xml ", "<a/>") + box("xml ", packet);
+        QTest::newRow("IPTC") << uuid(iptc, captionSet());
         QTest::newRow("EXIF") << uuid("JpgTiffExif->JP2", describedTiff({"A meadow"}));
     }
     void boxesOfJpeg2000AreRead() {
@@ -355,8 +337,8 @@ class DescriptionTest : public QObject {
         QFETCH(QByteArray, added);
         QByteArray bytes = readFile(imageFile(u"colour.psd"_s));
         const auto length = qFromBigEndian<quint32>(bytes.constData() + 30);
-        QCOMPARE(bytes.sliced(26, 4), bigWord(0)); // No table of colours.
-        bytes.replace(30, 4, bigWord(length + quint32(added.size()))).insert(34, added);
+        QCOMPARE(bytes.sliced(26, 4), big(0)); // No table of colours.
+        bytes.replace(30, 4, big(length + quint32(added.size()))).insert(34, added);
         QCOMPARE(ownDescription(writeFile(path(u"resources.psd"_s), bytes)), u"A meadow"_s);
     }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "support/ByteOrder.h"
 #include "support/Files.h"
 #include "support/TestUnit.h"
 
@@ -8,7 +9,6 @@
 #include <QImageReader>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QtEndian>
 
 #include <algorithm>
 #include <cstdlib>
@@ -21,12 +21,6 @@ using namespace folioforge::test;
 /// Icons of Windows and the Macintosh: what comes out is what Qt's readers show.
 
 namespace {
-
-template<typename T> QByteArray little(T number) {
-    QByteArray bytes(sizeof(T), '\0');
-    qToLittleEndian(number, bytes.data());
-    return bytes;
-}
 
 QByteArray randomBytes(qsizetype size) {
     std::mt19937 random(7);
@@ -56,9 +50,7 @@ QByteArray runs(qsizetype size, char seed) {
 }
 
 QByteArray entry(const QByteArray &type, const QByteArray &content) {
-    QByteArray length(4, '\0');
-    qToBigEndian(quint32(content.size() + 8), length.data());
-    return type + length + content;
+    return type + big(quint32(content.size() + 8)) + content;
 }
 
 QByteArray icns(const QByteArray &entries) {

@@ -2,6 +2,7 @@
 
 #include "image/formats/Jpeg2000.h"
 #include "DecodedImage.h"
+#include "FileParts.h"
 #include "support/Files.h"
 #include "support/TestUnit.h"
 
@@ -19,28 +20,10 @@ using namespace folioforge::test;
 
 namespace {
 
-QByteArray box(const char *type, const QByteArray &content) {
-    QByteArray length(4, '\0');
-    qToBigEndian(quint32(content.size() + 8), length.data());
-    return length + type + content;
-}
-
-QByteArray big16(int number) {
-    QByteArray bytes(2, '\0');
-    qToBigEndian(static_cast<quint16>(number), bytes.data());
-    return bytes;
-}
-
-QByteArray big32(qsizetype number) {
-    QByteArray bytes(4, '\0');
-    qToBigEndian(static_cast<quint32>(number), bytes.data());
-    return bytes;
-}
-
 /// The beginning of a profile, which is what tells its colour space.
 QByteArray profileOf(const char *colorSpace) {
     QByteArray profile(200, '\0');
-    return profile.replace(0, 4, big32(200))
+    return profile.replace(0, 4, big(quint32(200)))
         .replace(12, 4, "prtr")
         .replace(16, 4, colorSpace)
         .replace(36, 4, "acsp");
@@ -49,12 +32,13 @@ QByteArray profileOf(const char *colorSpace) {
 /// The boxes of a picture whose channel `alpha` is its opacity and the others colours in order.
 QByteArray headerOf(const QList<QByteArray> &components, int alpha, const QByteArray &profile) {
     const auto count = static_cast<int>(components.size());
-    QByteArray channels = big16(count);
+    QByteArray channels = big(quint16(count));
     for (int channel = 0, color = 0; channel < count; ++channel) {
         const bool isAlpha = channel == alpha;
-        channels += big16(channel) + big16(isAlpha ? 1 : 0) + big16(isAlpha ? 0 : ++color);
+        channels += big(quint16(channel)) + big(quint16(isAlpha ? 1 : 0)) +
+                    big(quint16(isAlpha ? 0 : ++color));
     }
-    return box("ihdr", big32(1) + big32(components[0].size()) + big16(count) +
+    return box("ihdr", big(quint32(1)) + big(quint32(components[0].size())) + big(quint16(count)) +
                            QByteArray::fromHex("07070000")) +
            box("colr", QByteArray::fromHex("020000") + profile) + box("cdef", channels);
 }
@@ -161,7 +145,7 @@ class Jpeg2000Test : public QObject {
         QFETCH(bool, isOpacity);
         const QByteArray file = fileOf({"\x10\x11\x12", "\x20\x21\x22", "\x30\x31\x32", fourth});
         const QByteArray icon =
-            "icns" + big32(file.size() + 16) + "ic07" + big32(file.size() + 8) + file;
+            "icns" + big(quint32(file.size() + 16)) + "ic07" + big(quint32(file.size() + 8)) + file;
         for (const PdfImage &image :
              {toPdfImage(writeFile(m_folder.filePath(u"four.jp2"_s), file)),
               toPdfImage(writeFile(m_folder.filePath(u"four.icns"_s), icon))}) {
@@ -190,9 +174,9 @@ class Jpeg2000Test : public QObject {
 
     void reorderedChannelsAreDecoded() {
         const QByteArray codes = codestream({"\x30\x31\x32", "\x20\x21\x22", "\x10\x11\x12"});
-        QByteArray channels = big16(3); // The first is blue, the last red.
+        QByteArray channels = big(quint16(3)); // The first is blue, the last red.
         for (int channel = 0; channel < 3; ++channel) {
-            channels += big16(channel) + big16(0) + big16(3 - channel);
+            channels += big(quint16(channel)) + big(quint16(0)) + big(quint16(3 - channel));
         }
         const PdfImage image = toPdfImage(writeFile(
             m_folder.filePath(u"order.jp2"_s), fileAround(codes, 3, 3, 16, box("cdef", channels))));
@@ -208,10 +192,11 @@ class Jpeg2000Test : public QObject {
                                  int colorSpace, const QByteArray &boxes = {}) {
         return bytesOf(imageFile(u"colour.jp2"_s)).first(12) +
                box("ftyp", QByteArray("jp2 \0\0\0\0jp2 ", 12)) +
-               box("jp2h", box("ihdr", big32(1) + big32(width) + big16(components) +
-                                           QByteArray::fromHex("07070000")) +
-                               box("colr", QByteArray::fromHex("010000") + big32(colorSpace)) +
-                               boxes) +
+               box("jp2h",
+                   box("ihdr", big(quint32(1)) + big(quint32(width)) + big(quint16(components)) +
+                                   QByteArray::fromHex("07070000")) +
+                       box("colr", QByteArray::fromHex("010000") + big(quint32(colorSpace))) +
+                       boxes) +
                box("jp2c", codestream);
     }
 

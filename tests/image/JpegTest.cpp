@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "FileParts.h"
 #include "support/TestUnit.h"
 
 #include "error/Error.h"
@@ -207,12 +208,6 @@ class JpegTest : public QObject {
         const QByteArray photo = bytesOf(imageFile(u"photo.jpg"_s));
         const qsizetype jfif = 2 + 2 + qFromBigEndian<quint16>(photo.constData() + 4);
         return photo.first(2) + segments + photo.mid(jfif);
-    }
-
-    static QByteArray segment(uchar marker, const QByteArray &content) {
-        QByteArray length(2, '\0');
-        qToBigEndian(quint16(content.size() + 2), length.data());
-        return QByteArray(1, '\xFF') + char(marker) + length + content;
     }
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "FileParts.h"
 #include "support/Files.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
@@ -10,7 +11,6 @@
 #include <QColorSpace>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -18,18 +18,10 @@ using namespace folioforge::test;
 
 namespace {
 
-QByteArray jxlBox(const char *type, const QByteArray &content) {
-    QByteArray bytes(4, '\0');
-    qToBigEndian(static_cast<quint32>(content.size() + 8), bytes.data());
-    return bytes + type + content;
-}
-
 /// A photo with this EXIF block.
 QByteArray jpegOf(const QByteArray &exif) {
-    QByteArray segment("\xFF\xE1\0\0Exif\0\0", 10);
-    segment += exif;
-    qToBigEndian(static_cast<quint16>(segment.size() - 2), segment.data() + 2);
-    return bytesOf(imageFile(u"photo.jpg"_s)).insert(2, segment);
+    return bytesOf(imageFile(u"photo.jpg"_s))
+        .insert(2, segment(0xE1, QByteArray("Exif\0\0", 6) + exif));
 }
 
 /// 240 pixels per inch, turned to the right.
@@ -98,13 +90,13 @@ class JpegXlTest : public QObject {
         const QByteArray codestream = bytesOf(imageFile(u"colour.jxl"_s));
         QVERIFY(codestream.startsWith("\xFF\x0A"));
         const QByteArray start =
-            jxlBox("JXL ", "\r\n\x87\n") + jxlBox("ftyp", QByteArray("jxl \0\0\0\0jxl ", 12));
-        const QByteArray exif = jxlBox("Exif", QByteArray(4, '\0') + turnedExif());
+            box("JXL ", "\r\n\x87\n") + box("ftyp", QByteArray("jxl \0\0\0\0jxl ", 12));
+        const QByteArray exif = box("Exif", QByteArray(4, '\0') + turnedExif());
         const QByteArray large =
-            jxlBox("Exif", QByteArray(4, '\0') + turnedExif() + QByteArray(100'000, 'n'));
+            box("Exif", QByteArray(4, '\0') + turnedExif() + QByteArray(100'000, 'n'));
         for (const QByteArray &bytes :
-             {start + exif + jxlBox("jxlc", codestream), start + large + jxlBox("jxlc", codestream),
-              start + jxlBox("jxlc", codestream) + exif}) {
+             {start + exif + box("jxlc", codestream), start + large + box("jxlc", codestream),
+              start + box("jxlc", codestream) + exif}) {
             const ImageHeader header = readImageHeader(write(bytes));
             QCOMPARE(header.horizontalDpi, 240.0);
             QCOMPARE(header.orientation, 1); // The picture itself says how it lies.

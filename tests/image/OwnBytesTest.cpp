@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "FileParts.h"
 #include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include <QTemporaryDir>
 #include <QTest>
-#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -139,12 +139,6 @@ class OwnBytesTest : public QObject {
 
     static PdfImage stripped(const QString &path) {
         return toPdfImage(path, SystemCalls::system(), SourceMetadata::Strip);
-    }
-
-    static QByteArray segment(uchar marker, const QByteArray &content) {
-        QByteArray length(2, '\0');
-        qToBigEndian(quint16(content.size() + 2), length.data());
-        return QByteArray(1, '\xFF') + char(marker) + length + content;
     }
 };
 

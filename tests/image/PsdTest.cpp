@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "DecodedImage.h"
+#include "FileParts.h"
 #include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include <QTemporaryDir>
 #include <QTest>
-#include <QtEndian>
 
 #include <bit>
 
@@ -15,16 +15,6 @@ using namespace folioforge;
 using namespace folioforge::test;
 
 /// Photoshop documents byte by byte.
-
-namespace {
-
-template<typename T> QByteArray bigEndian(T number) {
-    QByteArray bytes(sizeof(T), '\0');
-    qToBigEndian(number, bytes.data());
-    return bytes;
-}
-
-} // namespace
 
 class PsdTest : public QObject {
     Q_OBJECT
@@ -49,14 +39,14 @@ class PsdTest : public QObject {
     }
 
     void resolutionAndProfileAreRead() {
-        const QByteArray resolution = bigEndian(quint32(300 << 16)) + bigEndian(quint16(2)) +
-                                      bigEndian(quint16(1)) + bigEndian(quint32(150 << 16)) +
-                                      bigEndian(quint16(1)) + bigEndian(quint16(1));
+        const QByteArray resolution = big(quint32(300 << 16)) + big(quint16(2)) + big(quint16(1)) +
+                                      big(quint32(150 << 16)) + big(quint16(1)) + big(quint16(1));
         QByteArray profile(130, '\0');
-        profile.replace(0, 4, bigEndian(quint32(130)));
+        profile.replace(0, 4, big(quint32(130)));
         profile.replace(16, 4, "GRAY").replace(36, 4, "acsp").replace(12, 4, "mntr");
         const QString path =
-            psd({1, 2, 1, 8, 1, resource(1005, resolution) + resource(1039, profile), "\1\2"});
+            psd({1, 2, 1, 8, 1,
+                 photoshopResource(1005, resolution) + photoshopResource(1039, profile), "\1\2"});
         QCOMPARE(readImageHeader(path).horizontalDpi, 300.0);
         QCOMPARE(readImageHeader(path).verticalDpi, 150.0);
         QCOMPARE(toPdfImage(path).iccProfile, profile);
@@ -69,7 +59,7 @@ class PsdTest : public QObject {
     }
 
     void brightnessOf32BitsBecomes16() {
-        const auto light = [](float value) { return bigEndian(std::bit_cast<quint32>(value)); };
+        const auto light = [](float value) { return big(std::bit_cast<quint32>(value)); };
         const PdfImage image =
             toPdfImage(psd({1, 3, 1, 32, 1, {}, light(0) + light(0.5F) + light(7)}));
         QCOMPARE(image.bitsPerComponent, 16);
@@ -114,8 +104,9 @@ class PsdTest : public QObject {
             palette += static_cast<char>(255 - i);
         }
         palette += QByteArray(256, '\7');
-        const PdfImage image = toPdfImage(psd(
-            {1, 2, 1, 8, 2, resource(1047, bigEndian(quint16(2))), "\1\2", QByteArray(), palette}));
+        const PdfImage image =
+            toPdfImage(psd({1, 2, 1, 8, 2, photoshopResource(1047, big(quint16(2))), "\1\2",
+                            QByteArray(), palette}));
         QCOMPARE(decoded(image).pixel(0, 0), qRgb(1, 254, 7));
         QVERIFY(image.softMask != nullptr);
         const QImage mask = decoded(*image.softMask);
@@ -124,7 +115,7 @@ class PsdTest : public QObject {
     }
 
     void opacityOf32BitsIsNoLight() {
-        const auto fraction = [](float value) { return bigEndian(std::bit_cast<quint32>(value)); };
+        const auto fraction = [](float value) { return big(std::bit_cast<quint32>(value)); };
         const PdfImage image = toPdfImage(
             psd({2, 2, 1, 32, 1, {}, fraction(1) + fraction(1) + fraction(0.5F) + fraction(1)}));
         QVERIFY(image.softMask != nullptr);
@@ -165,7 +156,7 @@ class PsdTest : public QObject {
 
     void layersWithoutAMergedImageAreRefused() {
         const auto version = [](char hasMerged) {
-            return resource(1057, bigEndian(quint32(1)) + hasMerged + QByteArray(8, '\0'));
+            return photoshopResource(1057, big(quint32(1)) + hasMerged + QByteArray(8, '\0'));
         };
         const QByteArray blank(6, '\xff');
         const QByteArray layers(16, '\1');
@@ -186,8 +177,9 @@ class PsdTest : public QObject {
 
     void namedChannelIsNoOpacity() {
         const QByteArray pixels = QByteArray::fromHex("0a0b141528296480");
-        QVERIFY(toPdfImage(psd({4, 2, 1, 8, 3, resource(1006, "\5Spots"), pixels})).softMask ==
-                nullptr);
+        QVERIFY(
+            toPdfImage(psd({4, 2, 1, 8, 3, photoshopResource(1006, "\5Spots"), pixels})).softMask ==
+            nullptr);
     }
 
   private:
@@ -208,21 +200,16 @@ class PsdTest : public QObject {
     };
 
     QString psd(const Parts &parts) {
-        QByteArray bytes = "8BPS" + bigEndian(quint16(parts.isBig ? 2 : 1)) + QByteArray(6, '\0') +
-                           bigEndian(quint16(parts.channels)) + bigEndian(quint32(parts.height)) +
-                           bigEndian(quint32(parts.width)) + bigEndian(quint16(parts.depth)) +
-                           bigEndian(quint16(parts.mode));
-        bytes += bigEndian(quint32(parts.palette.size())) + parts.palette;
-        bytes += bigEndian(quint32(parts.resources.size())) + parts.resources;
+        QByteArray bytes = "8BPS" + big(quint16(parts.isBig ? 2 : 1)) + QByteArray(6, '\0') +
+                           big(quint16(parts.channels)) + big(quint32(parts.height)) +
+                           big(quint32(parts.width)) + big(quint16(parts.depth)) +
+                           big(quint16(parts.mode));
+        bytes += big(quint32(parts.palette.size())) + parts.palette;
+        bytes += big(quint32(parts.resources.size())) + parts.resources;
         bytes += QByteArray(parts.isBig ? 4 : 0, '\0');
-        bytes += bigEndian(quint32(parts.layers.size())) + parts.layers;
-        bytes += bigEndian(quint16(parts.compression)) + parts.pixels;
+        bytes += big(quint32(parts.layers.size())) + parts.layers;
+        bytes += big(quint16(parts.compression)) + parts.pixels;
         return writeFile(m_folder.filePath(u"picture.psd"_s), bytes);
-    }
-
-    static QByteArray resource(int id, const QByteArray &data) {
-        return "8BIM" + bigEndian(quint16(id)) + QByteArray(2, '\0') +
-               bigEndian(quint32(data.size())) + data + QByteArray(data.size() % 2, '\0');
     }
 };
 

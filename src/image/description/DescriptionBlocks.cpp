@@ -6,6 +6,7 @@
 #include "image/Bytes.h"
 #include "image/Deflate.h"
 #include "image/Exif.h"
+#include "image/XmpNames.h"
 #include "image/formats/Chunks.h"
 #include "image/formats/Jpeg2000.h"
 #include "image/formats/JpegSegments.h"
@@ -122,7 +123,7 @@ void addJpeg2000Blocks(const FileView &file, DescriptionBlocks &blocks) {
             addUuidBox(box->content, blocks);
         } else if (box->type == "xml ") {
             const QByteArray xml = box->content.read(0, kMaxDescriptionBytes);
-            if (xml.contains("http://www.w3.org/1999/02/22-rdf-syntax-ns#")) { // Else no XMP.
+            if (xml.contains(kRdf)) { // Else no XMP.
                 takeFirst(blocks.xmp, [&] { return xml; });
             }
         }

@@ -14,8 +14,8 @@ namespace folioforge {
 
 class FileView;
 
-/// What a picture's file holds that may describe it: the first block of each kind. Nothing where
-/// there is none, and empty where that is damaged.
+/// What a picture's file holds that may describe it: the first block of each kind. Nothing or
+/// empty where there is none, and empty where that is damaged.
 struct DescriptionBlocks {
     std::optional<QByteArray> xmp;  ///< A packet.
     std::optional<QByteArray> iptc; ///< Data sets (IPTC-IIM 4.2).
@@ -23,7 +23,7 @@ struct DescriptionBlocks {
     std::optional<QString> text;    ///< Of a PNG.
 };
 
-/// Longer blocks are passed over.
+/// Longer blocks are passed over, or cut where they come piece by piece.
 inline constexpr qint64 kMaxDescriptionBytes = 1 << 20;
 
 /// Fills `block` with what `read` gives where it is the first of its kind. An Error that `read`

@@ -14,13 +14,12 @@ constexpr qint64 kLead = 8; ///< Length and type.
 
 std::optional<Chunk> PngChunks::next() {
     constexpr qint64 kChecksum = 4;
-    const QByteArray lead = m_ended ? QByteArray() : m_file.read(m_at, kLead);
+    const QByteArray lead = m_file.read(m_at, kLead);
     if (lead.size() < kLead) {
         return std::nullopt;
     }
     const Chunk chunk{lead.sliced(4), m_at + kLead, bigEndianAt<quint32>(lead, 0)};
-    m_ended = chunk.type == "IEND";
-    m_at = chunk.at + chunk.length + kChecksum;
+    m_at = chunk.type == "IEND" ? m_file.size() : chunk.at + chunk.length + kChecksum;
     return chunk;
 }
 

@@ -29,7 +29,6 @@ class PngChunks {
   private:
     const FileView &m_file;
     qint64 m_at = 8; ///< Behind the signature.
-    bool m_ended = false;
 };
 
 /// Walks through the chunks of a WebP file, as many as any sound one has.

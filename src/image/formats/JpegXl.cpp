@@ -189,10 +189,8 @@ std::vector<FileSlice> metadata(const FileView &file) {
 /// What a JPEG said of itself may stand in what makes the file one again alone.
 void describe(const FileView &file, DescriptionBlocks &blocks) {
     addJpegXlBlocks(file, blocks);
-    if (!blocks.xmp) {
-        const QByteArray jpeg = originalJpeg(file);
-        addJpegBlocks(FileView(jpeg), blocks);
-    }
+    const QByteArray jpeg = originalJpeg(file);
+    addJpegBlocks(FileView(jpeg), blocks);
 }
 
 /// A file that is a JPEG holds one picture.

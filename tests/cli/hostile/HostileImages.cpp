@@ -2,8 +2,8 @@
 
 #include "HostileImages.h"
 
-#include "ByteOrder.h"
 #include "ZerosInFlate.h"
+#include "support/ByteOrder.h"
 
 namespace folioforge::test {
 

@@ -2,8 +2,8 @@
 
 #include "HostilePdfs.h"
 
-#include "ByteOrder.h"
 #include "ZerosInFlate.h"
+#include "support/ByteOrder.h"
 #include "support/PdfFixture.h"
 #include "support/PhotoPage.h"
 

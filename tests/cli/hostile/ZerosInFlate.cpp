@@ -2,8 +2,7 @@
 
 #include "ZerosInFlate.h"
 
-#include "ByteOrder.h"
-
+#include "support/ByteOrder.h"
 namespace folioforge::test {
 
 namespace {
