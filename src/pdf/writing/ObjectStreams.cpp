@@ -33,7 +33,11 @@ constexpr std::size_t rowOf(ObjectStreams::Kind kind) {
 }
 
 bool hasRows(ObjectStreams::Kind kind) {
-    return kind != ObjectStreams::Objects;
+    return rowOf(kind) > 1;
+}
+
+Deflater &made(std::optional<Deflater> &deflater, DeflateEffort effort) {
+    return deflater ? *deflater : deflater.emplace(effort);
 }
 
 /// Appends `piece` and fills up the row.
@@ -86,6 +90,15 @@ void ObjectStreams::add(Kind kind, int number, std::string_view object) {
     }
 }
 
+std::vector<ObjectStreams::Packed>
+ObjectStreams::Packer::packed(const std::vector<Stream> &streams) {
+    std::vector<Packed> packed;
+    for (const Stream &stream : streams) {
+        packed.push_back({stream.number, this->packed(stream)});
+    }
+    return packed;
+}
+
 QByteArray ObjectStreams::Packer::packed(const Stream &stream) {
     const auto row = static_cast<qsizetype>(rowOf(stream.kind));
     QByteArray plain = QByteArray::fromStdString(stream.places + stream.objects);
@@ -95,7 +108,9 @@ QByteArray ObjectStreams::Packer::packed(const Stream &stream) {
         parameters = " /DecodeParms << /Predictor 12 /Columns " + QByteArray::number(row) + " >>";
     }
     QByteArray data;
-    (stream.kind == Objects ? m_full : m_fastest).append(data, plain);
+    Deflater &deflater = stream.kind == Objects ? made(m_full, DeflateEffort::Full)
+                                                : made(m_fastest, DeflateEffort::Fastest);
+    deflater.append(data, plain);
     if (m_cipher) {
         data = m_cipher->encrypted(data);
     }
@@ -115,21 +130,18 @@ void ObjectStreams::endStream(Kind kind) {
 
 void ObjectStreams::pack() {
     writePacked();
-    m_packed = runAsync(
-        [this, streams = std::make_shared<std::vector<Stream>>(std::exchange(m_ended, {}))] {
-            std::vector<Packed> packed;
-            for (const Stream &stream : *streams) {
-                packed.push_back({stream.number, m_packer.packed(stream)});
-            }
-            return packed;
-        });
+    m_packed = runAsync([this, streams = std::make_shared<std::vector<Stream>>(std::exchange(
+                                   m_ended, {}))] { return m_packer.packed(*streams); });
 }
 
 void ObjectStreams::writePacked() {
-    if (!m_packed.valid()) {
-        return;
+    if (m_packed.valid()) {
+        write(m_packed.get());
     }
-    for (const Packed &stream : m_packed.get()) {
+}
+
+void ObjectStreams::write(const std::vector<Packed> &streams) {
+    for (const Packed &stream : streams) {
         m_references.putAt(stream.number, m_file.position());
         m_file.append(stream.object);
     }
@@ -141,8 +153,8 @@ void ObjectStreams::finish() {
             endStream(kind);
         }
     }
-    pack();
     writePacked();
+    write(m_packer.packed(std::exchange(m_ended, {}))); // Too little for a thread of its own.
 }
 
 } // namespace folioforge

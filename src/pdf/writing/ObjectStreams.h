@@ -8,6 +8,7 @@
 
 #include <array>
 #include <future>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,17 +55,20 @@ class ObjectStreams {
         explicit Packer(const StreamCipher *cipher)
             : m_cipher(cipher) {}
 
-        QByteArray packed(const Stream &stream);
+        std::vector<Packed> packed(const std::vector<Stream> &streams);
 
       private:
+        QByteArray packed(const Stream &stream);
+
         const StreamCipher *m_cipher;
-        Deflater m_full{DeflateEffort::Full};       ///< For objects.
-        Deflater m_fastest{DeflateEffort::Fastest}; ///< For all else.
+        std::optional<Deflater> m_full;    ///< For objects.
+        std::optional<Deflater> m_fastest; ///< For all else.
     };
 
     void endStream(Kind kind);
     void pack();
     void writePacked();
+    void write(const std::vector<Packed> &streams);
 
     OutputPipeline &m_file;
     CrossReferences &m_references;
