@@ -82,7 +82,6 @@ void unlock(QPDF &document, const std::shared_ptr<SourceInput> &input,
 
 void write(QPDF &document, OutputFile &copy, const CompressionOptions &options,
            const Claims &claims, const EndPageWrite &endPageWrite) {
-    keepFragileStreams(document);
     DocumentForm form = formFor(claims);
     form.version = document.getVersionAsPDFVersion();
     form.repacks = true;

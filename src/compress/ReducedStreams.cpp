@@ -149,9 +149,9 @@ Reduction ReducedStreams::take(std::size_t index) {
 }
 
 void ReducedStreams::keep(Image &image, const QString &reason, Pipeline *pipeline) {
-    const auto data = image.original.getRawStreamData();
-    pipeline->write(data->getBuffer(), data->getSize());
-    pipeline->finish();
+    if (!image.original.pipeStreamData(pipeline, nullptr, 0, qpdf_dl_none)) {
+        throw Error(unreadable().reason);
+    }
     if (!image.isCounted) {
         m_kept.push_back({image.plan.page, image.plan.stream.getObjectID(), reason});
         image.isCounted = true;

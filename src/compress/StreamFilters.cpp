@@ -9,10 +9,6 @@
 
 #include <QScopeGuard>
 
-#include <algorithm>
-#include <array>
-#include <string_view>
-
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
@@ -25,13 +21,6 @@ namespace {
 /// What the end of a document may take, kept free for its destructor: a lack of memory there ends
 /// the program.
 constexpr qsizetype kSpareBytes = 2 << 20;
-
-bool isCompression(QPDFObjectHandle filter) {
-    constexpr std::array<std::string_view, 6> kNames{
-        "/FlateDecode", "/Fl", "/LZWDecode", "/LZW", "/RunLengthDecode", "/RL"};
-    return filter.isName() &&
-           std::find(kNames.begin(), kNames.end(), filter.getName()) != kNames.end();
-}
 
 } // namespace
 
@@ -68,22 +57,6 @@ std::string encodeFlate(const Plane &plane) {
     const auto rows = QByteArray::fromRawData(reinterpret_cast<const char *>(plane.row(0)),
                                               static_cast<qsizetype>(plane.size()));
     return deflateBytes(filterRows(rows, plane.width(), 1)).toStdString();
-}
-
-void keepFragileStreams(QPDF &document) {
-    for (QPDFObjectHandle &object : document.getAllObjects()) {
-        if (!object.isStream()) {
-            continue;
-        }
-        QPDFObjectHandle dictionary = object.getDict();
-        QPDFObjectHandle filter = dictionary.getKey("/Filter");
-        const auto filters =
-            filter.isArray() ? filter.getArrayAsVector() : std::vector<QPDFObjectHandle>();
-        if (std::count_if(filters.begin(), filters.end(), isCompression) > 1 ||
-            statedLength(dictionary.getKey("/Length")) == 0) {
-            object.setFilterOnWrite(false);
-        }
-    }
 }
 
 } // namespace folioforge

@@ -8,8 +8,6 @@
 #include <cstddef>
 #include <string>
 
-class QPDF;
-
 namespace folioforge {
 
 /// Undoes the lossless filters of a stream: `filter` and `parameters` are the values of its Filter
@@ -20,10 +18,5 @@ std::string decodeLossless(const std::string &data, const std::string &filter,
 
 /// The plane as Flate data whose rows carry PNG predictors (Predictor 15).
 std::string encodeFlate(const Plane &plane);
-
-/// Keeps the bytes of some streams as they are when the document is written: of those that are
-/// compressed twice or more, since each time may unfold a thousandfold and decoding a few kilobytes
-/// would never end, and of empty ones, since no bytes with a filter are damaged to readers.
-void keepFragileStreams(QPDF &document);
 
 } // namespace folioforge

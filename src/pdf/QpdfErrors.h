@@ -9,10 +9,8 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFExc.hh>
 
-#include <QByteArray>
 #include <QString>
 
-#include <algorithm>
 #include <stdexcept>
 #include <vector>
 

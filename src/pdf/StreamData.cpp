@@ -13,7 +13,6 @@
 
 namespace folioforge {
 
-/// One provider for all spooled streams. It finds the data of each by its object number.
 namespace {
 
 /// With its length known, a stream is not gathered in memory when it is written.
@@ -23,6 +22,7 @@ void stateLength(QPDFObjectHandle stream, qint64 length) {
 
 } // namespace
 
+/// One provider for all spooled streams. It finds the data of each by its object number.
 class StreamData::SpooledData final : public QPDFObjectHandle::StreamDataProvider {
   public:
     explicit SpooledData(SystemCalls &calls)
@@ -88,7 +88,7 @@ StreamData::make(const QPDFObjectHandle &dictionary,
     stream.replaceDict(dictionary);
     // The dictionary already has the filter and its parameters.
     stream.replaceStreamData(provider, QPDFObjectHandle(), QPDFObjectHandle());
-    // Otherwise the library decodes the data and compresses it again.
+    // It is written as it is.
     stream.setFilterOnWrite(false);
     return stream;
 }

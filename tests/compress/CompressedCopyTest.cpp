@@ -80,6 +80,32 @@ class CompressedCopyTest : public QObject, protected CompressionCase {
         QVERIFY(document.getWarnings().empty());
     }
 
+    void aFilterInAListKeepsTheBytesThatItPacked_data() {
+        QTest::addColumn<QByteArray>("filter");
+        QTest::newRow("name") << QByteArray("/FlateDecode");
+        QTest::newRow("list") << QByteArray("[/FlateDecode]");
+    }
+    /// Without its predictor a picture of the kind takes many times the bytes.
+    void aFilterInAListKeepsTheBytesThatItPacked() {
+        QFETCH(const QByteArray, filter);
+        QByteArray rows; // Each pixel is the one above it and 3.
+        for (int row = 0; row < 40; ++row) {
+            rows += '\2' + QByteArray(40, '\3');
+        }
+        const QByteArray packed = qCompress(rows).sliced(4);
+        PdfFixture page = photoPage("q 288 0 0 216 50 20 cm /Im0 Do Q")
+                              .stream(5, imageKeys(1200, 900, kJpegRgb), jpeg(photo(1200, 900)));
+        page.stream(
+            6,
+            "/Type /XObject /Subtype /Image /Width 40 /Height 40 /BitsPerComponent 8 "
+            "/ColorSpace /DeviceGray /DecodeParms << /Predictor 12 /Columns 40 >> /Filter " +
+                filter,
+            packed);
+        writePage(page);
+        const QByteArray bytes = readFile(compressed());
+        QVERIFY(bytes.contains(packed));
+    }
+
     void theCopyOfAProtectedDocumentIsPrivate() {
         const QString copy = protectedCopy();
         QVERIFY(QFile::exists(copy));

@@ -123,7 +123,7 @@ const ImportedOutputIntents *DocumentCatalog::outputIntents() const {
 
 void DocumentCatalog::claimArchive(Claims claims, QPDFObjectHandle outputIntent) {
     m_archive = std::move(claims);
-    m_outputIntents.keepFirst(std::move(outputIntent));
+    m_outputIntents.keepFirst(outputIntent);
 }
 
 DocumentForm DocumentCatalog::form() const {

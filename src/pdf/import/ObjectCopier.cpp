@@ -181,12 +181,6 @@ QPDFObjectHandle ObjectCopier::reserveStream(QPDFObjectHandle object) {
         dictionary.removeKey(key);
     }
     pending.target = m_target.copyForeignObject(object);
-    if (pending.dictionary.contains("/Filter") ||
-        statedLength(pending.dictionary["/Length"]) == 0) {
-        // The copy gets its bytes unchanged. The library would write empty ones as no bytes with a
-        // filter, at which readers end the contents of a page.
-        pending.target.setFilterOnWrite(false);
-    }
     m_shared.add(object.getObjGen(), pending.target);
     m_pendingStreams.push_back(pending);
     return pending.target;

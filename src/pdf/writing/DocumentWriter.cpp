@@ -93,12 +93,12 @@ void write(QPDF &document, OutputPipeline &output, const DocumentForm &form, QPD
     for (const char *key : {"/Root", "/Info"}) {
         const auto object = document.getTrailer().getKey(key);
         if (object.isIndirect()) {
-            keys += key + (' ' + QByteArray::number(body.numberOf(object.getObjGen()))) + " 0 R ";
+            keys += key + (' ' + QByteArray::number(body.numberOf()(object.getObjGen()))) + " 0 R ";
         }
     }
     body.write(steps.eachObject);
     if (steps.further) {
-        steps.further([&body](const QPDFObjGen &object) { return body.numberOf(object); }, streams);
+        steps.further(body.numberOf(), streams);
         body.write(steps.eachObject); // What only they refer to.
     }
     streams.finish();

@@ -2,7 +2,8 @@
 
 #include "pdf/writing/FileBody.h"
 
-#include "image/Deflate.h"
+#include "pdf/BoundedBuffer.h"
+#include "pdf/QpdfErrors.h"
 #include "pdf/writing/CrossReferences.h"
 #include "pdf/writing/ObjectStreams.h"
 #include "pdf/writing/OutputPipeline.h"
@@ -12,16 +13,16 @@
 #include <qpdf/QPDF.hh>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <new>
+#include <stdexcept>
+#include <string_view>
+#include <utility>
 
 namespace folioforge {
 
 namespace {
-
-QByteArrayView viewOf(const std::string &bytes) {
-    return {bytes.data(), std::ssize(bytes)};
-}
 
 /// Whether the data of `stream` may be compressed. Metadata that is not encrypted stays readable
 /// for programs that know nothing of the format (ISO 32000-1, 14.3.2).
@@ -31,15 +32,30 @@ bool isToBeCompressed(QPDFObjectHandle stream, bool isEncrypted) {
            (isEncrypted || !dictionary.isDictionaryOfType("/Metadata"));
 }
 
-/// Whether `stream` may have another lossless filter than Flate.
-bool isToBeRepacked(QPDFObjectHandle stream) {
-    auto filter = stream.getDict().getKey("/Filter");
-    return stream.getFilterOnWrite() && !filter.isNull() && !filter.isNameAndEquals("/FlateDecode");
-}
-
 std::vector<QPDFObjectHandle> listOf(QPDFObjectHandle oneOrMore) {
     return oneOrMore.isArray() ? oneOrMore.getArrayAsVector()
                                : std::vector<QPDFObjectHandle>{oneOrMore};
+}
+
+bool isCompression(QPDFObjectHandle filter) {
+    constexpr std::array<std::string_view, 6> kNames{
+        "/FlateDecode", "/Fl", "/LZWDecode", "/LZW", "/RunLengthDecode", "/RL"};
+    return filter.isName() && std::ranges::find(kNames, filter.getName()) != kNames.end();
+}
+
+/// Whether Flate may take the place of other lossless filters. What is compressed twice may unfold
+/// a thousandfold each time: decoding a few kilobytes would never end.
+bool isToBeRepacked(QPDFObjectHandle stream) {
+    const auto filters = listOf(stream.getDict().getKey("/Filter"));
+    const auto isFlate = [](QPDFObjectHandle filter) {
+        return filter.isNameAndEquals("/FlateDecode");
+    };
+    const bool isAsItShouldBe =
+        std::ranges::all_of(filters, [](QPDFObjectHandle filter) { return filter.isNull(); }) ||
+        (filters.size() == 1 && isFlate(filters.front()));
+    return stream.getFilterOnWrite() && !isAsItShouldBe &&
+           std::ranges::count_if(filters, isCompression) <= 1 &&
+           stream.pipeStreamData(nullptr, nullptr, 0, qpdf_dl_generalized);
 }
 
 /// Puts `list` under `key`, or nothing where it is empty.
@@ -76,7 +92,7 @@ void dropCrypt(QPDFObjectHandle dictionary) {
     putList(dictionary, "/DecodeParms", keptParameters);
 }
 
-/// Takes the data of a stream, up to a limit. The library hides what is thrown at it.
+/// Takes the data of a stream, up to a limit. The library hides most of what is thrown at it.
 class DataPipeline final : public Pipeline {
   public:
     DataPipeline(QByteArray &data, std::size_t maxBytes)
@@ -85,26 +101,23 @@ class DataPipeline final : public Pipeline {
         , m_left(maxBytes) {}
 
     void write(unsigned char const *data, size_t length) override {
-        m_isCut |= length > m_left;
-        if (m_isCut) {
-            return;
+        if (length > m_left) {
+            throw TooLong();
         }
         try {
             m_left -= length;
             m_data.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(length));
         } catch (const std::bad_alloc &) {
             m_lacksMemory = true;
+            throw;
         }
     }
     void finish() override {}
     [[nodiscard]] bool lacksMemory() const { return m_lacksMemory; }
-    /// There was more than the limit.
-    [[nodiscard]] bool isCut() const { return m_isCut; }
 
   private:
     QByteArray &m_data;
     std::size_t m_left;
-    bool m_isCut = false;
     bool m_lacksMemory = false;
 };
 
@@ -170,7 +183,7 @@ int FileBody::writeAsIs(const std::string &object) {
 void FileBody::beginAlone(int number, const std::string &object) {
     m_references.putAt(number, m_file.position());
     const std::string begin = std::to_string(number) + " 0 obj\n" + object;
-    m_file.append(viewOf(begin));
+    m_file.append(begin);
 }
 
 void FileBody::writeAlone(int number, const std::string &object) {
@@ -180,15 +193,17 @@ void FileBody::writeAlone(int number, const std::string &object) {
 
 void FileBody::writeStream(QPDFObjectHandle stream, int number) {
     auto length = stream.getDict().getKey("/Length");
-    auto dictionary = stream.getDict().shallowCopy();
     // Of a document that was read, /Length is that in its file, encrypted and perhaps wrong.
     if (!m_repacks && !stream.getFilterOnWrite() && length.isInteger()) {
-        beginStream(number, dictionary, length.getIntValue());
-        writeData([&stream](Pipeline &target) { // The library checks the length.
-            stream.pipeStreamData(&target, 0, qpdf_dl_none);
-        });
+        const qint64 size =
+            beginStream(number, stream.getDict().shallowCopy(), length.getIntValue());
+        const qint64 begin = m_file.position();
+        writeData([&stream](Pipeline &target) { stream.pipeStreamData(&target, 0, qpdf_dl_none); });
+        if (m_file.position() - begin != size) {
+            throw std::runtime_error("a stream is not as long as it states");
+        }
     } else {
-        readPacked(stream, dictionary);
+        const auto dictionary = readPacked(stream);
         beginStream(number, dictionary, m_data.size());
         writeData([this](Pipeline &target) {
             target.write(reinterpret_cast<const unsigned char *>(m_data.constData()),
@@ -209,36 +224,61 @@ template<typename Work> void FileBody::writeData(const Work &work) {
 }
 
 /// Reads the data of `stream`, compressed, and its dictionary, which may change with that.
-void FileBody::readPacked(QPDFObjectHandle stream, QPDFObjectHandle &dictionary) {
-    const bool repacks = m_repacks && isToBeRepacked(stream);
-    const bool isUnpacked = repacks && readData(stream, qpdf_dl_generalized);
+QPDFObjectHandle FileBody::readPacked(QPDFObjectHandle stream) {
+    const bool isUnpacked =
+        m_repacks && isToBeRepacked(stream) && readData(stream, qpdf_dl_generalized);
     if (!isUnpacked) {
         readData(stream, qpdf_dl_none);
     }
-    dictionary = stream.getDict().shallowCopy();
-    if (isUnpacked || isToBeCompressed(stream, m_cipher != nullptr)) {
-        m_data = deflateBytes(m_data);
+    auto dictionary = stream.getDict().shallowCopy();
+    if (!isUnpacked && !isToBeCompressed(stream, m_cipher != nullptr)) {
+        return dictionary;
+    }
+    QByteArray packed = deflated(m_data);
+    if (packed.size() < (isUnpacked ? statedLength(dictionary.getKey("/Length")) : m_data.size())) {
+        m_data = std::move(packed);
         dictionary.replaceKey("/Filter", QPDFObjectHandle::newName("/FlateDecode"));
         dictionary.removeKey("/DecodeParms");
+    } else if (isUnpacked) {
+        readData(stream, qpdf_dl_none);
     }
+    return dictionary;
+}
+
+QByteArray FileBody::deflated(QByteArrayView bytes) {
+    if (!m_deflater) {
+        m_deflater.emplace();
+    }
+    QByteArray packed;
+    m_deflater->append(packed, bytes);
+    return packed;
 }
 
 /// Whether the data was unpacked as far as `level` says. What unfolds into a machine's memory is
 /// not.
 bool FileBody::readData(QPDFObjectHandle stream, qpdf_stream_decode_level_e level) {
     constexpr std::size_t kMaxUnpacked = 256 << 20;
+    constexpr qsizetype kMaxKept = 8 << 20;
     const bool unpacks = level != qpdf_dl_none;
+    if (m_data.capacity() > kMaxKept) {
+        m_data = {};
+    }
     m_data.resize(0); // It keeps its memory.
     DataPipeline data(m_data, unpacks ? kMaxUnpacked : std::numeric_limits<std::size_t>::max());
     bool isUnpacked = false;
-    const bool isWhole = stream.pipeStreamData(&data, &isUnpacked, 0, level, unpacks);
+    bool isWhole = false;
+    try {
+        isWhole = stream.pipeStreamData(&data, &isUnpacked, 0, level, unpacks);
+    } catch (const TooLong &) {
+        return false;
+    }
     if (data.lacksMemory()) {
         throw std::bad_alloc();
     }
-    return isWhole && isUnpacked && !data.isCut();
+    return isWhole && isUnpacked;
 }
 
-void FileBody::beginStream(int number, QPDFObjectHandle dictionary, qint64 length) {
+qint64 FileBody::beginStream(int number, QPDFObjectHandle dictionary, qint64 length) {
     dropCrypt(dictionary);
     dictionary.removeKey("/Length");
     m_text.clear();
@@ -246,6 +286,7 @@ void FileBody::beginStream(int number, QPDFObjectHandle dictionary, qint64 lengt
     m_text.resize(m_text.rfind(">>"));
     const qint64 size = m_cipher ? StreamCipher::encryptedSize(length) : length;
     beginAlone(number, m_text + "/Length " + std::to_string(size) + " >>\nstream\n");
+    return size;
 }
 
 } // namespace folioforge

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "image/Deflate.h"
 #include "pdf/writing/ObjectText.h"
 
 #include <qpdf/QPDFObjectHandle.hh>
@@ -11,6 +12,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,8 +33,8 @@ class FileBody {
     FileBody(QPDF &document, OutputPipeline &file, CrossReferences &references,
              ObjectStreams *streams, const StreamCipher *cipher, bool repacks);
 
-    /// The number in the file of that object, which the next write() writes if none did.
-    int numberOf(const QPDFObjGen &object);
+    /// Gives the number in the file of an object, which the next write() writes if none did.
+    [[nodiscard]] const NumberOf &numberOf() const { return m_numberOf; }
     /// Writes the objects that have got numbers, and all that they refer to. Calls `eachObject`,
     /// if any, when one is written. Throws Error, and what that and libqpdf throw.
     void write(const std::function<void()> &eachObject);
@@ -40,15 +42,17 @@ class FileBody {
     int writeAsIs(const std::string &object);
 
   private:
+    int numberOf(const QPDFObjGen &object);
     void writeObject(QPDFObjectHandle object, int number);
     void writeStream(QPDFObjectHandle stream, int number);
     void writeAlone(int number, const std::string &object);
     void beginAlone(int number, const std::string &object);
     bool readData(QPDFObjectHandle stream, qpdf_stream_decode_level_e level);
     template<typename Work> void writeData(const Work &work);
-    void readPacked(QPDFObjectHandle stream, QPDFObjectHandle &dictionary);
-    /// `length` is that before it is encrypted.
-    void beginStream(int number, QPDFObjectHandle dictionary, qint64 length);
+    QPDFObjectHandle readPacked(QPDFObjectHandle stream);
+    QByteArray deflated(QByteArrayView bytes);
+    /// `length` is that before it is encrypted. Returns that in the file.
+    qint64 beginStream(int number, QPDFObjectHandle dictionary, qint64 length);
 
     QPDF &m_document;
     OutputPipeline &m_file;
@@ -56,12 +60,13 @@ class FileBody {
     ObjectStreams *m_streams;
     const StreamCipher *m_cipher;
     bool m_repacks;
-    NumberOf m_numberOf;        ///< numberOf().
+    NumberOf m_numberOf;
     std::vector<int> m_numbers; ///< In the file, by those in the document; 0 for none.
     std::map<QPDFObjGen, int> m_laterNumbers; ///< The same for generations other than 0.
     std::deque<QPDFObjGen> m_waiting;         ///< Objects that are not written yet.
     std::string m_text;                       ///< Of the object that is being written.
     QByteArray m_data;                        ///< Of the stream that is being written.
+    std::optional<Deflater> m_deflater;       ///< From the first stream on that needs one.
 };
 
 } // namespace folioforge
