@@ -2149,6 +2149,10 @@ None: pictures stay as they are
         <source>A property of the document is longer than %1 allows</source>
         <translation>إحدى خصائص المستند أطول مما يسمح به %1</translation>
     </message>
+    <message>
+        <source>The document is too large for PDF/A</source>
+        <translation>المستند كبير جدًا بالنسبة إلى PDF/A</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

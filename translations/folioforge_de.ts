@@ -2037,6 +2037,10 @@ Keine: Bilder bleiben, wie sie sind
         <source>A property of the document is longer than %1 allows</source>
         <translation>Eine Eigenschaft des Dokuments ist länger, als %1 erlaubt</translation>
     </message>
+    <message>
+        <source>The document is too large for PDF/A</source>
+        <translation>Das Dokument ist zu groß für PDF/A</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

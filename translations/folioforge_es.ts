@@ -2037,6 +2037,10 @@ Ninguna: las imágenes quedan como están
         <source>A property of the document is longer than %1 allows</source>
         <translation>Una propiedad del documento es más larga de lo que permite %1</translation>
     </message>
+    <message>
+        <source>The document is too large for PDF/A</source>
+        <translation>El documento es demasiado grande para PDF/A</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

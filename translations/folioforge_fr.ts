@@ -2037,6 +2037,10 @@ Aucune&#xa0;: les images restent telles quelles
         <source>A property of the document is longer than %1 allows</source>
         <translation>Une propriété du document est plus longue que %1 ne le permet</translation>
     </message>
+    <message>
+        <source>The document is too large for PDF/A</source>
+        <translation>Le document est trop grand pour PDF/A</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

@@ -2009,6 +2009,10 @@ None: pictures stay as they are
         <source>A property of the document is longer than %1 allows</source>
         <translation>文書のプロパティが %1 の許す長さを超えています</translation>
     </message>
+    <message>
+        <source>The document is too large for PDF/A</source>
+        <translation>文書は PDF/A には大きすぎます</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

@@ -2009,6 +2009,10 @@ None: pictures stay as they are
         <source>A property of the document is longer than %1 allows</source>
         <translation>文档的某个属性超出了 %1 允许的长度</translation>
     </message>
+    <message>
+        <source>The document is too large for PDF/A</source>
+        <translation>文档对 PDF/A 而言过大</translation>
+    </message>
 </context>
 <context>
     <name>Run</name>

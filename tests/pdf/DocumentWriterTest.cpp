@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "pdf/writing/DocumentWriter.h"
 #include "MergeCase.h"
+#include "error/Error.h"
+#include "files/OutputFile.h"
 #include "pdf/Password.h"
 #include "pdf/writing/CrossReferences.h"
+#include "pdf/writing/ObjectStreams.h"
 #include "support/Files.h"
 #include "support/Sanitizer.h"
 #include "support/TestUnit.h"
@@ -184,6 +188,37 @@ class DocumentWriterTest : public QObject, protected MergeCase {
         QCOMPARE(run.err, ""); // Nothing had to be searched for.
         QCOMPARE(run.out, "0\n");
         QFile::remove(path);
+    }
+
+    void asManyObjectsAsPdfAAllowsAreWritten_data() {
+        QTest::addColumn<int>("objects");
+        QTest::addColumn<bool>("isAllowed");
+        QTest::newRow("as many") << 8'388'607 << true;
+        QTest::newRow("one more") << 8'388'608 << false;
+    }
+    void asManyObjectsAsPdfAAllowsAreWritten() {
+        QFETCH(const int, objects);
+        QFETCH(const bool, isAllowed);
+        QPDF document;
+        document.emptyPDF();
+        OutputFile file(newPath());
+        DocumentForm form;
+        form.archive = true;
+        const auto write = [&] {
+            writeDocument(document, file, nullptr, form,
+                          {[&](const NumberOf &, ObjectStreams &streams) {
+                               constexpr int kOthers = 4; // With the streams of the writer.
+                               for (int number = kOthers; number < objects; ++number) {
+                                   streams.newNumber();
+                               }
+                           },
+                           {}});
+        };
+        if (isAllowed) {
+            write();
+        } else {
+            QVERIFY_THROWS_EXCEPTION(Error, write());
+        }
     }
 
     void aDocumentThatFindsNoMemoryGetsNoName() {

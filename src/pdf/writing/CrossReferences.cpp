@@ -37,9 +37,13 @@ CrossReferences::CrossReferences() {
     put(0, 0, 0, kHeadOfFreeList);
 }
 
+qsizetype CrossReferences::count() const {
+    return m_rows.size() / kRow - 1;
+}
+
 int CrossReferences::newNumber() {
     m_rows.append(kRow, '\0');
-    return static_cast<int>(m_rows.size() / kRow) - 1;
+    return static_cast<int>(count());
 }
 
 void CrossReferences::putAt(int number, qint64 offset) {

@@ -11,6 +11,8 @@ class CrossReferences {
   public:
     CrossReferences();
 
+    /// Objects that have a number.
+    [[nodiscard]] qsizetype count() const;
     /// A number that no object has yet, from 1. The object is to get its place.
     int newNumber();
     /// The object begins at `offset`, in bytes.

@@ -2,6 +2,7 @@
 
 #include "pdf/writing/DocumentWriter.h"
 
+#include "error/Error.h"
 #include "files/OutputFile.h"
 #include "pdf/QpdfErrors.h"
 #include "pdf/XmpPacket.h"
@@ -66,11 +67,21 @@ QByteArray identifierOf(QPDF &document, OutputPipeline &output) {
     return '<' + hash.result().toHex() + '>';
 }
 
+/// Throws Error where a file of so many objects and bytes is no PDF/A (ISO 19005-1, 6.1.12, and
+/// ISO 19005-2, 6.1.13), or its table of cross-references has no room for its offsets.
+void requireWithinLimits(const DocumentForm &form, qsizetype objects, qint64 bytes) {
+    constexpr qsizetype kMaxObjects = 8'388'607;
+    constexpr qint64 kMaxOffset = 9'999'999'999;
+    if ((form.archive && objects > kMaxObjects) || (form.classic && bytes > kMaxOffset)) {
+        throw Error(Reasons::tr("The document is too large for PDF/A"));
+    }
+}
+
 } // namespace
 
 DocumentForm formFor(const Claims &claims) {
     // PDF/A-1 stands on PDF 1.4, which knows no object streams.
-    return {.version = {}, .classic = claims.pdfA == u"1"};
+    return {.version = {}, .classic = claims.pdfA == u"1", .archive = !claims.pdfA.isEmpty()};
 }
 
 namespace {
@@ -107,6 +118,8 @@ void write(QPDF &document, OutputPipeline &output, const DocumentForm &form, QPD
             body.writeAsIs(encryption->getTrailer().getKey("/Encrypt").unparseResolved());
         keys += "/Encrypt " + QByteArray::number(number) + " 0 R ";
     }
+    const qsizetype ownObjects = form.classic ? 0 : 1; // The stream of cross-references.
+    requireWithinLimits(form, references.count() + ownObjects, output.position());
     const QByteArray identifier = identifierOf(document, output);
     keys += "/ID [" + identifier + identifier + ']';
     const qint64 end = output.position();

@@ -22,6 +22,7 @@ class OutputFile;
 struct DocumentForm {
     PDFVersion version;   ///< At least.
     bool classic = false; ///< Without object streams and cross-reference streams.
+    bool archive = false; ///< Within the limits of PDF/A.
     bool repacks = false; ///< Streams with older lossless filters are compressed by Flate.
 };
 
