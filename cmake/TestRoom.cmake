@@ -44,7 +44,9 @@ function(folioforge_test_sources target)
     else()
         cmake_parse_arguments(TEST "" "" "HEADERS" ${ARGN})
         target_sources(${target} PRIVATE ${TEST_UNPARSED_ARGUMENTS})
-        target_precompile_headers(${target} ${TEST_HEADERS})
+        if(TEST_HEADERS)
+            target_precompile_headers(${target} ${TEST_HEADERS})
+        endif()
         file(GENERATE OUTPUT "${CMAKE_BINARY_DIR}/${list}" CONTENT
             "$<JOIN:$<FILTER:$<TARGET_OBJECTS:${target}>,INCLUDE,\\.o$>,\n>\n")
     endif()
@@ -53,7 +55,7 @@ endfunction()
 # folioforge_tests(ROOM UNITS ... [SOURCES ...] LINKS ... [HEADERS ...] [APPLICATION CLASS]
 # [LONG ...] [PLAIN ...]): the test program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder
 # and of SOURCES. CTest runs it once for each unit, named ROOM.Unit. HEADERS are compiled ahead, instead of
-# those of folioforge_test_support. CLASS is that of the application object, else QCoreApplication. The units
+# those of folioforge_test_support; NONE are in a room of few units. CLASS is that of the application object, else QCoreApplication. The units
 # that take longest are named LONG: CTest begins with them.
 #
 # Units that show more without sanitizers, such as what limits memory, are named PLAIN and have that label.
@@ -71,7 +73,9 @@ function(folioforge_tests room)
         qt_generate_moc(${unit}Test.cpp "${moc}")
         list(APPEND sources ${unit}Test.cpp "${moc}")
     endforeach()
-    if(TESTS_HEADERS)
+    if(TESTS_HEADERS STREQUAL "NONE")
+        folioforge_test_sources(${target} ${sources})
+    elseif(TESTS_HEADERS)
         folioforge_test_sources(${target} ${sources} HEADERS PRIVATE ${TESTS_HEADERS})
     else()
         folioforge_test_sources(${target} ${sources} HEADERS REUSE_FROM folioforge_test_support)
