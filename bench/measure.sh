@@ -107,8 +107,8 @@ run_all() {
             "$(best wall "$name")" "$(best cpu "$name")" \
             "$(awk -v x="$(best memory "$name")" 'BEGIN { print x / 1e3 }')" \
             "$(awk -v x="$(best size "$name")" 'BEGIN { print x / 1e6 }')" \
-            "$(ratio "$(best wall "$name")" "$(best wall folioforge)")" \
-            "$(ratio "$(best cpu "$name")" "$(best cpu folioforge)")"
+            "$(beside wall "$name" folioforge)" \
+            "$(beside cpu "$name" folioforge)"
     done
     echo
 }
@@ -126,6 +126,11 @@ best() { # wall|cpu|memory|size NAME
 # A / B; empty where one of them was not measured.
 ratio() { # A B
     awk -v a="$1" -v b="${2:-0}" 'BEGIN { if (a != "" && b > 0) print a / b }'
+}
+
+# What one candidate took beside what another did: wall, cpu, memory or size.
+beside() { # COLUMN NAME NAME
+    ratio "$(best "$1" "$2")" "$(best "$1" "$3")"
 }
 
 # Prints whether VALUE stands to LIMIT as TEXT says; TEXT names value and limit itself.

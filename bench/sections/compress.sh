@@ -65,9 +65,9 @@ for document in photos scans office; do
             "$(ghostscript "${method%?}"); cp \"\$out\" \"\$scratch/theirs.pdf\""
         run_all
         limit "Ghostscript's wall time beside ours, at least $part" \
-            "$(ratio "$(best wall Ghostscript)" "$(best wall folioforge)")" at-least $part
+            "$(beside wall Ghostscript folioforge)" at-least $part
         limit "output beside Ghostscript's, at most 1" \
-            "$(ratio "$(best size folioforge)" "$(best size Ghostscript)")" at-most 1
+            "$(beside size folioforge Ghostscript)" at-most 1
         limit "peak memory, under 80 MB" "$(ratio "$(best memory folioforge)" 1000)" at-most 80 " MB"
         ours=$(similarity "$source" "$scratch/ours.pdf")
         theirs=$(similarity "$source" "$scratch/theirs.pdf")

@@ -22,7 +22,7 @@ merged() { # TITLE SET
 # Our wall time beside that of a peer.
 no_longer_than() { # LIMIT PEER
     limit "times the wall time of $2, at most $1" \
-        "$(ratio "$(best wall folioforge)" "$(best wall "$2")")" at-most "$1"
+        "$(beside wall folioforge "$2")" at-most "$1"
 }
 
 merged "60 PDFs of 20 pages with 2,400 links" few-links
@@ -59,4 +59,4 @@ candidate "mutool merge" 'mutool merge -o "$out" "$book" "$book"'
 run_all
 no_longer_than 1 qpdf
 limit "output beside qpdf's, at most 1" \
-    "$(ratio "$(best size folioforge)" "$(best size qpdf)")" at-most 1
+    "$(beside size folioforge qpdf)" at-most 1

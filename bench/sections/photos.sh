@@ -15,13 +15,13 @@ candidate "mutool create" 'mutool create -o "$out" "$scratch"/pages/*.txt'
 candidate "img2pdf" 'img2pdf -o "$out" "$photos"/*.jpg'
 run_all
 limit "times the wall time of cat, at most 1.15" \
-    "$(ratio "$(best wall folioforge)" "$(best wall cat)")" at-most 1.15
+    "$(beside wall folioforge cat)" at-most 1.15
 limit "flushed, times the wall time of cat and sync, at most 1.6" \
-    "$(ratio "$(best wall "folioforge, flushed")" "$(best wall "cat, sync")")" at-most 1.6
+    "$(beside wall "folioforge, flushed" "cat, sync")" at-most 1.6
 limit "mutool create's wall time beside ours, above 1" \
-    "$(ratio "$(best wall "mutool create")" "$(best wall folioforge)")" at-least 1
+    "$(beside wall "mutool create" folioforge)" at-least 1
 limit "img2pdf's wall time beside ours, above 1" \
-    "$(ratio "$(best wall img2pdf)" "$(best wall folioforge)")" at-least 1
+    "$(beside wall img2pdf folioforge)" at-least 1
 limit "peak memory, under 60 MB" "$(ratio "$(best memory folioforge)" 1000)" at-most 60 " MB"
 limit "peak memory that each photo after the fiftieth adds, flat: at most 0.05 MB" \
     "$(awk -v all="$(best memory folioforge)" -v quarter="$(best memory "folioforge, a quarter of them")" \
@@ -34,7 +34,7 @@ candidate "mutool create" 'mutool create -o "$out" \
     -O encrypt=aes-256,user-password=quay,owner-password=quay "$scratch"/pages/*.txt'
 run_all
 limit "mutool create's wall time beside ours, at least 1.5" \
-    "$(ratio "$(best wall "mutool create")" "$(best wall folioforge)")" at-least 1.5
+    "$(beside wall "mutool create" folioforge)" at-least 1.5
 
 begin "40 photos, a PDF each"
 candidate "cp" 'cp "$photos"/photo[12]-[01]*.jpg "$photos"/photo[12]-20.jpg "$dir"'
@@ -42,4 +42,4 @@ candidate "folioforge" '"$cli" --quiet --flush never --output-folder "$dir" \
     "$photos"/photo[12]-[01]*.jpg "$photos"/photo[12]-20.jpg'
 run_all
 limit "times the wall time of cp, at most 2" \
-    "$(ratio "$(best wall folioforge)" "$(best wall cp)")" at-most 2
+    "$(beside wall folioforge cp)" at-most 2

@@ -8,6 +8,6 @@ candidate "folioforge" '"$cli" --quiet --flush never --merge "$out" "$pictures"/
 candidate "img2pdf" 'img2pdf -o "$out" "$pictures"/*'
 run_all
 limit "img2pdf's wall time beside ours, at least 6" \
-    "$(ratio "$(best wall img2pdf)" "$(best wall folioforge)")" at-least 6
+    "$(beside wall img2pdf folioforge)" at-least 6
 limit "output beside img2pdf's, at most 1" \
-    "$(ratio "$(best size folioforge)" "$(best size img2pdf)")" at-most 1
+    "$(beside size folioforge img2pdf)" at-most 1

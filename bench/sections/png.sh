@@ -18,10 +18,8 @@ candidate "img2pdf, of opaque copies" 'img2pdf -o "$out" "$opaque"/*.png'
 candidate "folioforge, of opaque copies" '"$cli" --quiet --flush never --merge "$out" "$opaque"/*.png'
 run_all
 limit "wall time of convert and img2pdf beside ours, at least 15" \
-    "$(ratio "$(best wall "convert and img2pdf")" "$(best wall folioforge)")" at-least 15
+    "$(beside wall "convert and img2pdf" folioforge)" at-least 15
 limit "wall time beside ours where all are opaque, at least 15" \
-    "$(ratio "$(best wall "img2pdf, of opaque copies")" \
-        "$(best wall "folioforge, of opaque copies")")" at-least 15
+    "$(beside wall "img2pdf, of opaque copies" "folioforge, of opaque copies")" at-least 15
 limit "output beside img2pdf's, at most 1" \
-    "$(ratio "$(best size "folioforge, of opaque copies")" \
-        "$(best size "img2pdf, of opaque copies")")" at-most 1
+    "$(beside size "folioforge, of opaque copies" "img2pdf, of opaque copies")" at-most 1

@@ -12,7 +12,7 @@ candidate "folioforge, plain layout" \
     '"$cli" --quiet --flush never --merge "$out" "$text/long.txt"'
 run_all
 limit "processor time beside the plain layout's, at most 2" \
-    "$(ratio "$(best cpu folioforge)" "$(best cpu "folioforge, plain layout")")" at-most 2
+    "$(beside cpu folioforge "folioforge, plain layout")" at-most 2
 
 begin "10 MB of text in twelve scripts, in the readable layout"
 candidate "folioforge" \
@@ -47,5 +47,5 @@ limit "wall time of the plain layout, under 0.2 s" "$(best wall "folioforge, pla
     at-most 0.2 " s"
 for name in "Chromium's headless print" LibreOffice; do
     limit "$name's wall time beside ours, at least 10" \
-        "$(ratio "$(best wall "$name")" "$(best wall folioforge)")" at-least 10
+        "$(beside wall "$name" folioforge)" at-least 10
 done

@@ -8,8 +8,8 @@ candidate "folioforge" '"$cli" --quiet --flush never --tagged --merge "$out" "$t
 candidate "folioforge, without tags" '"$cli" --quiet --flush never --merge "$out" "$text/long.txt"'
 run_all
 limit "processor time beside that without tags, at most 1.6" \
-    "$(ratio "$(best cpu folioforge)" "$(best cpu "folioforge, without tags")")" at-most 1.6
+    "$(beside cpu folioforge "folioforge, without tags")" at-most 1.6
 limit "output beside that without tags, at most 1.3" \
-    "$(ratio "$(best size folioforge)" "$(best size "folioforge, without tags")")" at-most 1.3
+    "$(beside size folioforge "folioforge, without tags")" at-most 1.3
 limit "peak memory beside that without tags, flat" \
-    "$(ratio "$(best memory folioforge)" "$(best memory "folioforge, without tags")")" at-most 1.1
+    "$(beside memory folioforge "folioforge, without tags")" at-most 1.1

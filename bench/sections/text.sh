@@ -19,11 +19,11 @@ ROUNDS=$ROUNDS_BEFORE
 limit "wall time on two cores, at most 1.2 s" "$(best wall folioforge)" at-most 1.2 " s"
 limit "processor time, at most 3 s" "$(best cpu folioforge)" at-most 3 " s"
 limit "texttopdf's wall time beside ours, at least 5" \
-    "$(ratio "$(best wall texttopdf)" "$(best wall folioforge)")" at-least 5
+    "$(beside wall texttopdf folioforge)" at-least 5
 limit "enscript and ps2pdf's wall time beside ours, at least 30" \
-    "$(ratio "$(best wall "enscript and ps2pdf")" "$(best wall folioforge)")" at-least 30
+    "$(beside wall "enscript and ps2pdf" folioforge)" at-least 30
 limit "output beside enscript and ps2pdf's, at most 1" \
-    "$(ratio "$(best size folioforge)" "$(best size "enscript and ps2pdf")")" at-most 1
+    "$(beside size folioforge "enscript and ps2pdf")" at-most 1
 limit "processor time beside four times that of a quarter, linear" \
     "$(ratio "$(best cpu folioforge)" "$(ratio "$(best cpu "folioforge, a quarter of it")" 0.25)")" at-most 1.2
 limit "peak memory beside the file, under 5 times" \

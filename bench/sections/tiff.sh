@@ -12,9 +12,9 @@ scanned() { # TITLE KIND       the files whose names begin so
     candidate "img2pdf" 'img2pdf -o "$out" "$scans/$beginning"*.tif'
     run_all
     limit "img2pdf's wall time beside ours, at least 5" \
-        "$(ratio "$(best wall img2pdf)" "$(best wall folioforge)")" at-least 5
+        "$(beside wall img2pdf folioforge)" at-least 5
     limit "mutool create's wall time beside ours, at least 4" \
-        "$(ratio "$(best wall "mutool create")" "$(best wall folioforge)")" at-least 4
+        "$(beside wall "mutool create" folioforge)" at-least 4
 }
 
 scanned "40 TIFF scans of A4, LZW colour at 150 per inch and Group 4 at 300" ""

@@ -12,10 +12,10 @@ verifying() {
     candidate "folioforge, not verified" "\"\$cli\" --quiet --flush never --merge \"\$out\" $2"
     run_all
     limit "wall time beside that without, at most $3 times more" \
-        "$(ratio "$(best wall folioforge)" "$(best wall "folioforge, not verified")")" at-most \
+        "$(beside wall folioforge "folioforge, not verified")" at-most \
         "$(echo "$3" | awk '{ print 1 + $1 }')"
     limit "peak memory beside that without, bounded" \
-        "$(ratio "$(best memory folioforge)" "$(best memory "folioforge, not verified")")" at-most 2
+        "$(beside memory folioforge "folioforge, not verified")" at-most 2
 }
 
 verifying "200 photos in one PDF" '"$photos"/*' 1.0
