@@ -1926,8 +1926,8 @@ None: pictures stay as they are
         <translation>لا يوجد خط لكتابة النص</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
-        <translation>تُقرأ ملفات HEIC وAVIF بمكتبة libheif 1 التي يتعذّر تحميلها: %1</translation>
+        <source>HEIC and AVIF files are read by libheif %1, which cannot be loaded: %2</source>
+        <translation>تُقرأ ملفات HEIC وAVIF بمكتبة libheif %1 التي يتعذّر تحميلها: %2</translation>
     </message>
     <message>
         <source>This program was built without the means to read HEIC and AVIF files</source>
@@ -2152,6 +2152,10 @@ None: pictures stay as they are
     <message>
         <source>The document is too large for PDF/A</source>
         <translation>المستند كبير جدًا بالنسبة إلى PDF/A</translation>
+    </message>
+    <message>
+        <source>JPEG XL files are read by libjxl %1, which cannot be loaded: %2</source>
+        <translation>تُقرأ ملفات JPEG XL بمكتبة libjxl %1 التي يتعذّر تحميلها: %2</translation>
     </message>
 </context>
 <context>

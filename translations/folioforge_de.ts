@@ -1814,8 +1814,8 @@ Keine: Bilder bleiben, wie sie sind
         <translation>Es gibt keine Schrift, um Text zu schreiben</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
-        <translation>HEIC- und AVIF-Dateien werden mit libheif 1 gelesen, das nicht geladen werden kann: %1</translation>
+        <source>HEIC and AVIF files are read by libheif %1, which cannot be loaded: %2</source>
+        <translation>HEIC- und AVIF-Dateien werden mit libheif %1 gelesen, das nicht geladen werden kann: %2</translation>
     </message>
     <message>
         <source>This program was built without the means to read HEIC and AVIF files</source>
@@ -2040,6 +2040,10 @@ Keine: Bilder bleiben, wie sie sind
     <message>
         <source>The document is too large for PDF/A</source>
         <translation>Das Dokument ist zu groß für PDF/A</translation>
+    </message>
+    <message>
+        <source>JPEG XL files are read by libjxl %1, which cannot be loaded: %2</source>
+        <translation>JPEG-XL-Dateien werden mit libjxl %1 gelesen, das nicht geladen werden kann: %2</translation>
     </message>
 </context>
 <context>

@@ -1814,8 +1814,8 @@ Ninguna: las imágenes quedan como están
         <translation>No hay ninguna fuente para escribir texto</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
-        <translation>Los archivos HEIC y AVIF se leen con libheif 1, que no se puede cargar: %1</translation>
+        <source>HEIC and AVIF files are read by libheif %1, which cannot be loaded: %2</source>
+        <translation>Los archivos HEIC y AVIF se leen con libheif %1, que no se puede cargar: %2</translation>
     </message>
     <message>
         <source>This program was built without the means to read HEIC and AVIF files</source>
@@ -2040,6 +2040,10 @@ Ninguna: las imágenes quedan como están
     <message>
         <source>The document is too large for PDF/A</source>
         <translation>El documento es demasiado grande para PDF/A</translation>
+    </message>
+    <message>
+        <source>JPEG XL files are read by libjxl %1, which cannot be loaded: %2</source>
+        <translation>Los archivos JPEG XL se leen con libjxl %1, que no se puede cargar: %2</translation>
     </message>
 </context>
 <context>

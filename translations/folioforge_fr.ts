@@ -1814,8 +1814,8 @@ Aucune&#xa0;: les images restent telles quelles
         <translation>Il n’y a aucune police pour écrire du texte</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
-        <translation>Les fichiers HEIC et AVIF sont lus par libheif 1, qui ne peut pas être chargé&#xa0;: %1</translation>
+        <source>HEIC and AVIF files are read by libheif %1, which cannot be loaded: %2</source>
+        <translation>Les fichiers HEIC et AVIF sont lus par libheif %1, qui ne peut pas être chargé&#xa0;: %2</translation>
     </message>
     <message>
         <source>This program was built without the means to read HEIC and AVIF files</source>
@@ -2040,6 +2040,10 @@ Aucune&#xa0;: les images restent telles quelles
     <message>
         <source>The document is too large for PDF/A</source>
         <translation>Le document est trop grand pour PDF/A</translation>
+    </message>
+    <message>
+        <source>JPEG XL files are read by libjxl %1, which cannot be loaded: %2</source>
+        <translation>Les fichiers JPEG XL sont lus par libjxl %1, qui ne peut pas être chargé&#xa0;: %2</translation>
     </message>
 </context>
 <context>

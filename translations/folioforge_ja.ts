@@ -1786,8 +1786,8 @@ None: pictures stay as they are
         <translation>テキストを書くためのフォントがありません</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
-        <translation>HEIC と AVIF ファイルの読み取りに使う libheif 1 を読み込めません: %1</translation>
+        <source>HEIC and AVIF files are read by libheif %1, which cannot be loaded: %2</source>
+        <translation>HEIC と AVIF ファイルの読み取りに使う libheif %1 を読み込めません: %2</translation>
     </message>
     <message>
         <source>This program was built without the means to read HEIC and AVIF files</source>
@@ -2012,6 +2012,10 @@ None: pictures stay as they are
     <message>
         <source>The document is too large for PDF/A</source>
         <translation>文書は PDF/A には大きすぎます</translation>
+    </message>
+    <message>
+        <source>JPEG XL files are read by libjxl %1, which cannot be loaded: %2</source>
+        <translation>JPEG XL ファイルの読み取りに使う libjxl %1 を読み込めません: %2</translation>
     </message>
 </context>
 <context>

@@ -1786,8 +1786,8 @@ None: pictures stay as they are
         <translation>没有可用于书写文本的字体</translation>
     </message>
     <message>
-        <source>HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1</source>
-        <translation>HEIC 和 AVIF 文件由 libheif 1 读取，而它无法加载：%1</translation>
+        <source>HEIC and AVIF files are read by libheif %1, which cannot be loaded: %2</source>
+        <translation>HEIC 和 AVIF 文件由 libheif %1 读取，而它无法加载：%2</translation>
     </message>
     <message>
         <source>This program was built without the means to read HEIC and AVIF files</source>
@@ -2012,6 +2012,10 @@ None: pictures stay as they are
     <message>
         <source>The document is too large for PDF/A</source>
         <translation>文档对 PDF/A 而言过大</translation>
+    </message>
+    <message>
+        <source>JPEG XL files are read by libjxl %1, which cannot be loaded: %2</source>
+        <translation>JPEG XL 文件由 libjxl %1 读取，而它无法加载：%2</translation>
     </message>
 </context>
 <context>

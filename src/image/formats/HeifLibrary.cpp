@@ -2,10 +2,8 @@
 
 #include "image/formats/HeifLibrary.h"
 
-#include "error/Error.h"
 #include "error/Reasons.h"
-
-#include <QLibrary>
+#include "image/formats/LoadedLibrary.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,26 +11,12 @@ namespace folioforge {
 
 namespace {
 
-[[noreturn]] void fail(const QLibrary &library) {
-    throw Error(Reasons::tr("HEIC and AVIF files are read by libheif 1, which cannot be loaded: %1")
-                    .arg(library.errorString()));
-}
-
-template<typename Function> void find(QLibrary &library, const char *name, Function *&function) {
-    function = reinterpret_cast<Function *>(library.resolve(name));
-    if (function == nullptr) {
-        fail(library);
-    }
-}
-
 HeifLibrary load() {
-    constexpr int kInterface = 1;
-    QLibrary library(u"" FOLIOFORGE_HEIF_LIBRARY ""_s, kInterface);
-    if (!library.load()) {
-        fail(library);
-    }
+    LoadedLibrary library(
+        u"" FOLIOFORGE_LIBRARY ""_s, u"" FOLIOFORGE_LIBRARY_VERSION ""_s,
+        Reasons::tr("HEIC and AVIF files are read by libheif %1, which cannot be loaded: %2"));
     HeifLibrary found;
-#define FOLIOFORGE_HEIF_FIND(NAME) find(library, "heif_" #NAME, found.NAME);
+#define FOLIOFORGE_HEIF_FIND(NAME) library.find("heif_" #NAME, found.NAME);
     FOLIOFORGE_HEIF_FUNCTIONS(FOLIOFORGE_HEIF_FIND)
 #undef FOLIOFORGE_HEIF_FIND
     return found;

@@ -74,14 +74,14 @@ bool asks(Call call, const JxlDecoder *decoder, Rest... rest) {
 QByteArray profileOf(const JxlDecoder *decoder) {
     constexpr size_t kMaxBytes = 1 << 25;
     size_t size = 0;
-    if (!asks(JxlDecoderGetICCProfileSize, decoder, JXL_COLOR_PROFILE_TARGET_DATA, &size) ||
+    if (!asks(jxl().GetICCProfileSize, decoder, JXL_COLOR_PROFILE_TARGET_DATA, &size) ||
         size > kMaxBytes) {
         return {};
     }
     QByteArray profile(static_cast<qsizetype>(size), '\0');
     auto *const target = reinterpret_cast<uint8_t *>(profile.data());
     const bool isThere =
-        asks(JxlDecoderGetColorAsICCProfile, decoder, JXL_COLOR_PROFILE_TARGET_DATA, target, size);
+        asks(jxl().GetColorAsICCProfile, decoder, JXL_COLOR_PROFILE_TARGET_DATA, target, size);
     return isThere ? profile : QByteArray();
 }
 
@@ -122,20 +122,20 @@ Error damagedJpegXl() {
 
 JpegXlDecoder::JpegXlDecoder(FileView file, int events)
     : m_file(std::move(file))
-    , m_decoder(JxlDecoderCreate(nullptr)) {
+    , m_decoder(jxl().Create(nullptr)) {
     if (!m_decoder) {
         throw std::bad_alloc();
     }
-    JxlDecoderSubscribeEvents(get(), events);
-    JxlDecoderSetParallelRunner(get(), runPieces, nullptr);
-    JxlDecoderSetUnpremultiplyAlpha(get(), JXL_TRUE);
-    JxlDecoderSetDecompressBoxes(get(), JXL_TRUE);
+    jxl().SubscribeEvents(get(), events);
+    jxl().SetParallelRunner(get(), runPieces, nullptr);
+    jxl().SetUnpremultiplyAlpha(get(), JXL_TRUE);
+    jxl().SetDecompressBoxes(get(), JXL_TRUE);
 }
 
 JxlDecoderStatus JpegXlDecoder::step() {
     JxlDecoderStatus status = JXL_DEC_NEED_MORE_INPUT;
     do {
-        status = JxlDecoderProcessInput(get());
+        status = jxl().ProcessInput(get());
     } while (status == JXL_DEC_NEED_MORE_INPUT && feed());
     return status;
 }
@@ -143,20 +143,20 @@ JxlDecoderStatus JpegXlDecoder::step() {
 /// Hands over the next piece with what was left of the last; false at the end of the file.
 bool JpegXlDecoder::feed() {
     constexpr qint64 kPiece = 1 << 20;
-    const auto left = static_cast<qint64>(JxlDecoderReleaseInput(get()));
+    const auto left = static_cast<qint64>(jxl().ReleaseInput(get()));
     m_piece = m_file.read(m_at - left, left + kPiece);
     const qint64 further = m_piece.size() - left;
     if (further <= 0) {
         return false;
     }
     m_at += further;
-    return JxlDecoderSetInput(get(), reinterpret_cast<const uint8_t *>(m_piece.constData()),
-                              static_cast<size_t>(m_piece.size())) == JXL_DEC_SUCCESS;
+    return jxl().SetInput(get(), reinterpret_cast<const uint8_t *>(m_piece.constData()),
+                          static_cast<size_t>(m_piece.size())) == JXL_DEC_SUCCESS;
 }
 
 JxlBasicInfo JpegXlDecoder::basicInfo() const {
     JxlBasicInfo info{};
-    if (JxlDecoderGetBasicInfo(get(), &info) != JXL_DEC_SUCCESS) {
+    if (jxl().GetBasicInfo(get(), &info) != JXL_DEC_SUCCESS) {
         throw damagedJpegXl();
     }
     return info;
@@ -190,7 +190,7 @@ std::vector<uint32_t> JpegXlDecoder::blackChannels(const JxlBasicInfo &info) con
     std::vector<uint32_t> channels;
     for (uint32_t channel = 0; channel < info.num_extra_channels; ++channel) {
         JxlExtraChannelInfo extra{};
-        if (JxlDecoderGetExtraChannelInfo(get(), channel, &extra) == JXL_DEC_SUCCESS &&
+        if (jxl().GetExtraChannelInfo(get(), channel, &extra) == JXL_DEC_SUCCESS &&
             extra.type == JXL_CHANNEL_BLACK) {
             channels.push_back(channel);
         }
@@ -201,14 +201,14 @@ std::vector<uint32_t> JpegXlDecoder::blackChannels(const JxlBasicInfo &info) con
 JpegXlColor JpegXlDecoder::color(const JxlBasicInfo &info) const {
     JxlColorEncoding named{};
     const bool isNamed =
-        asks(JxlDecoderGetColorAsEncodedProfile, get(), JXL_COLOR_PROFILE_TARGET_ORIGINAL, &named);
+        asks(jxl().GetColorAsEncodedProfile, get(), JXL_COLOR_PROFILE_TARGET_ORIGINAL, &named);
     if (!isNamed && info.uses_original_profile == JXL_FALSE) {
         // Without being asked for more it would give light, of which 8 bits are too few.
         const JxlColorEncoding wide = wideColor(info);
-        JxlDecoderSetPreferredColorProfile(get(), &wide);
+        jxl().SetPreferredColorProfile(get(), &wide);
     }
     JpegXlColor color;
-    if (asks(JxlDecoderGetColorAsEncodedProfile, get(), JXL_COLOR_PROFILE_TARGET_DATA, &named)) {
+    if (asks(jxl().GetColorAsEncodedProfile, get(), JXL_COLOR_PROFILE_TARGET_DATA, &named)) {
         warnOfHighRange(named.transfer_function, color.warnings);
         if (isSrgb(named)) {
             return color;
@@ -220,11 +220,11 @@ JpegXlColor JpegXlDecoder::color(const JxlBasicInfo &info) const {
 
 QByteArray JpegXlDecoder::takeSamples(const JxlPixelFormat &format) const {
     size_t size = 0;
-    if (JxlDecoderImageOutBufferSize(get(), &format, &size) != JXL_DEC_SUCCESS) {
+    if (jxl().ImageOutBufferSize(get(), &format, &size) != JXL_DEC_SUCCESS) {
         throw damagedJpegXl();
     }
     QByteArray samples(static_cast<qsizetype>(size), '\0');
-    if (JxlDecoderSetImageOutBuffer(get(), &format, samples.data(), size) != JXL_DEC_SUCCESS) {
+    if (jxl().SetImageOutBuffer(get(), &format, samples.data(), size) != JXL_DEC_SUCCESS) {
         throw damagedJpegXl();
     }
     return samples;
@@ -232,11 +232,11 @@ QByteArray JpegXlDecoder::takeSamples(const JxlPixelFormat &format) const {
 
 QByteArray JpegXlDecoder::takeChannel(const JxlPixelFormat &format, uint32_t channel) const {
     size_t size = 0;
-    if (JxlDecoderExtraChannelBufferSize(get(), &format, &size, channel) != JXL_DEC_SUCCESS) {
+    if (jxl().ExtraChannelBufferSize(get(), &format, &size, channel) != JXL_DEC_SUCCESS) {
         throw damagedJpegXl();
     }
     QByteArray samples(static_cast<qsizetype>(size), '\0');
-    if (JxlDecoderSetExtraChannelBuffer(get(), &format, samples.data(), size, channel) !=
+    if (jxl().SetExtraChannelBuffer(get(), &format, samples.data(), size, channel) !=
         JXL_DEC_SUCCESS) {
         throw damagedJpegXl();
     }
@@ -244,7 +244,7 @@ QByteArray JpegXlDecoder::takeChannel(const JxlPixelFormat &format, uint32_t cha
 }
 
 bool JpegXlDecoder::flush() const {
-    return JxlDecoderFlushImage(get()) == JXL_DEC_SUCCESS;
+    return jxl().FlushImage(get()) == JXL_DEC_SUCCESS;
 }
 
 } // namespace folioforge

@@ -6,8 +6,7 @@
 #include "error/Warning.h"
 #include "files/SourceFile.h"
 #include "image/ImageHeader.h"
-
-#include <jxl/decode.h>
+#include "image/formats/JpegXlLibrary.h"
 
 #include <QByteArray>
 
@@ -52,7 +51,7 @@ class JpegXlDecoder {
 
   private:
     struct Destroy {
-        void operator()(JxlDecoder *decoder) const { JxlDecoderDestroy(decoder); }
+        void operator()(JxlDecoder *decoder) const { jxl().Destroy(decoder); }
     };
 
     bool feed();

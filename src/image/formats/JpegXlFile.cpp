@@ -26,16 +26,16 @@ void forEachBox(const FileView &file, std::initializer_list<QByteArrayView> type
     do {
         status = decoder.step();
         if (!content.isEmpty()) {
-            content.chop(static_cast<qsizetype>(JxlDecoderReleaseBoxBuffer(decoder.get())));
+            content.chop(static_cast<qsizetype>(jxl().ReleaseBoxBuffer(decoder.get())));
             visit(name, content);
             content.clear();
         }
         if (status == JXL_DEC_BOX &&
-            JxlDecoderGetBoxType(decoder.get(), type, JXL_TRUE) == JXL_DEC_SUCCESS &&
+            jxl().GetBoxType(decoder.get(), type, JXL_TRUE) == JXL_DEC_SUCCESS &&
             std::ranges::find(types, name) != types.end()) {
             content = QByteArray(limit, '\0');
-            JxlDecoderSetBoxBuffer(decoder.get(), reinterpret_cast<uint8_t *>(content.data()),
-                                   static_cast<size_t>(limit));
+            jxl().SetBoxBuffer(decoder.get(), reinterpret_cast<uint8_t *>(content.data()),
+                               static_cast<size_t>(limit));
         }
         // The rest of a long box is passed over.
     } while (status == JXL_DEC_BOX || status == JXL_DEC_BOX_NEED_MORE_OUTPUT);
@@ -99,10 +99,10 @@ QByteArray originalJpeg(const FileView &file) {
     QByteArray jpeg;
     const auto grow = [&] {
         const auto used =
-            jpeg.size() - static_cast<qsizetype>(JxlDecoderReleaseJPEGBuffer(decoder.get()));
+            jpeg.size() - static_cast<qsizetype>(jxl().ReleaseJPEGBuffer(decoder.get()));
         jpeg.resize(std::max(kFirst, 2 * jpeg.size()));
-        JxlDecoderSetJPEGBuffer(decoder.get(), reinterpret_cast<uint8_t *>(jpeg.data()) + used,
-                                static_cast<size_t>(jpeg.size() - used));
+        jxl().SetJPEGBuffer(decoder.get(), reinterpret_cast<uint8_t *>(jpeg.data()) + used,
+                            static_cast<size_t>(jpeg.size() - used));
     };
     JxlDecoderStatus status = decoder.step();
     while (jpeg.size() < most &&
@@ -113,7 +113,7 @@ QByteArray originalJpeg(const FileView &file) {
     if (status != JXL_DEC_FULL_IMAGE || jpeg.isEmpty()) {
         return {};
     }
-    jpeg.chop(static_cast<qsizetype>(JxlDecoderReleaseJPEGBuffer(decoder.get())));
+    jpeg.chop(static_cast<qsizetype>(jxl().ReleaseJPEGBuffer(decoder.get())));
     return jpeg;
 }
 
