@@ -40,7 +40,8 @@ class OutputFile {
     /// Appends bytes. Throws Error when they cannot be written.
     void write(std::span<const char> bytes);
     /// Reads at `offset` until `target` is full or the file ends; returns the number of bytes.
-    /// Throws Error.
+    /// Throws Error. Several threads may read at once when it is finished; before, reading brings
+    /// appended bytes to the file.
     qint64 readInto(qint64 offset, std::span<char> target);
     /// Bytes appended so far.
     [[nodiscard]] qint64 size() const { return m_size; }
