@@ -33,4 +33,16 @@ int plainComponents(QPDFObjectHandle space) {
     return 0;
 }
 
+bool isOfTable(QPDFObjectHandle space) {
+    return space.isArray() && space.getArrayNItems() > 0 &&
+           space.getArrayItem(0).isNameAndEquals("/Indexed");
+}
+
+QPDFObjectHandle colorsOf(QPDFObjectHandle space) {
+    if (!isOfTable(space)) {
+        return space;
+    }
+    return space.getArrayNItems() > 1 ? space.getArrayItem(1) : QPDFObjectHandle::newNull();
+}
+
 } // namespace folioforge

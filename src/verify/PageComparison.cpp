@@ -3,6 +3,7 @@
 #include "verify/PageComparison.h"
 
 #include "error/Reasons.h"
+#include "pdf/ColorSpaces.h"
 #include "pdf/import/ChosenPages.h"
 #include "verify/ImportChanges.h"
 #include "verify/PictureChanges.h"
@@ -304,7 +305,7 @@ bool PageComparison::isSamePicture(const Object &source, const Object &written) 
     const Object writtenColors = entry(right, "/ColorSpace");
     const ColorChange change = colorChangeOf(colors, writtenColors, mayBeGrey);
     if (change == ColorChange::None || change == ColorChange::Base) {
-        follow(change == ColorChange::Base ? items(colors)[1] : colors, writtenColors);
+        follow(change == ColorChange::Base ? colorsOf(colors) : colors, writtenColors);
     }
     if (change == ColorChange::None && haveSameSamples(left, right) &&
         haveSameData(source, written)) {

@@ -17,16 +17,6 @@ using Object = QPDFObjectHandle;
 constexpr std::array<std::string_view, 5> kSampleKeys{"/Width", "/Height", "/BitsPerComponent",
                                                       "/Decode", "/SMaskInData"};
 
-bool isOfTable(const Object &space) {
-    const auto parts = items(space);
-    return parts.size() > 1 && Object(parts.front()).isNameAndEquals("/Indexed");
-}
-
-/// The space of the colours of a table, else the space itself.
-Object colorsOf(const Object &space) {
-    return isOfTable(space) ? items(space)[1] : space;
-}
-
 bool hasSame(const Object &source, const Object &written, std::string_view key) {
     const std::string name(key);
     return entry(source, name).unparseResolved() == entry(written, name).unparseResolved();

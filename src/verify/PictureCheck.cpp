@@ -5,6 +5,7 @@
 #include "error/Reasons.h"
 #include "image/Parallel.h"
 #include "image/Raster.h"
+#include "pdf/ColorSpaces.h"
 #include "pdf/import/Entries.h"
 #include "verify/Group4Reading.h"
 
@@ -241,9 +242,7 @@ QString imageFault(QPDFObjectHandle image, const ImageRecord &record, SourceRead
 
 bool isPlainImage(QPDFObjectHandle image, const ImageRecord &record, KnownSums &profiles) {
     const Object dictionary = image.getDict();
-    const auto space = items(entry(dictionary, "/ColorSpace"));
-    const bool isIndexed = !space.empty() && Object(space.front()).isNameAndEquals("/Indexed");
-    const auto base = isIndexed && space.size() > 1 ? items(space[1]) : space;
+    const auto base = items(colorsOf(entry(dictionary, "/ColorSpace")));
     const bool isIcc = base.size() > 1 && Object(base.front()).isNameAndEquals("/ICCBased");
     const auto sum = isIcc && Object(base[1]).isStream() ? profiles.of(base[1]) : std::nullopt;
     const bool hasProfile = record.profile ? sum && sum->checksum == *record.profile : !isIcc;

@@ -54,8 +54,7 @@ int numberIn(const Object &dictionary, const char *key, int usual) {
 int channelsIn(const Object &space) {
     const auto parts = items(space);
     Object kind = parts.empty() ? space : parts.front();
-    const auto is = [&](const char *name) { return kind.isNameAndEquals(name); };
-    return is("/Indexed") ? 1 : is("/Lab") ? 3 : plainComponents(space);
+    return isOfTable(space) ? 1 : kind.isNameAndEquals("/Lab") ? 3 : plainComponents(space);
 }
 
 bool isOf(const Object &dictionary, const char *filter) {
@@ -171,9 +170,9 @@ std::optional<Pixels> pixelsOf(QPDFObjectHandle image) {
     if (!raw) {
         return std::nullopt;
     }
-    const auto space = items(entry(image.getDict(), "/ColorSpace"));
-    if (!space.empty() && Object(space.front()).isNameAndEquals("/Indexed")) {
-        return lookedUp(*raw, space);
+    const Object space = entry(image.getDict(), "/ColorSpace");
+    if (isOfTable(space)) {
+        return lookedUp(*raw, items(space));
     }
     std::vector<std::vector<unsigned char>> values;
     values.reserve(static_cast<std::size_t>(raw->channels));
