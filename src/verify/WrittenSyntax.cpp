@@ -127,9 +127,10 @@ void requireCommonSpaces(QPDF &document, const ReadBytes &readBytes, qint64 size
     const qint64 header = headerAt(bytes);
     qint64 left = 2 * size; // Objects that begin in one another are read again and again.
     for (const qint64 offset : beginnings(document)) {
-        qint64 at = header + offset;
+        const qint64 begin = header + offset;
+        qint64 at = begin;
         const bool hasOne = hasVerticalTab(bytes, at);
-        left -= at - offset;
+        left -= at - begin;
         if (hasOne || left < 0) {
             throw Error(Reasons::tr("The PDF is damaged: %1")
                             .arg(Reasons::tr("an object is not well formed")));

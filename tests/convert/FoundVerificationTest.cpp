@@ -124,6 +124,19 @@ class FoundVerificationTest : public QObject, protected VerificationCase {
         QCOMPARE(faults(verified(pdf)), QByteArrayList());
     }
 
+    void bytesBeforeTheHeaderAreNoFault() {
+        PdfFixture fixture;
+        fixture.object(1, kCatalog).pages(4, 1);
+        for (int number = 6; number < 300; ++number) {
+            fixture.object(number, "null");
+        }
+        addFile(saved("pages.pdf", fixture));
+        const QString pdf =
+            writeFile(path("mail.pdf"), QByteArray(900, '-') + '\n' + fixture.bytes());
+        QCOMPARE(PdfProbe(pdf).pageCount(), 1);
+        QCOMPARE(faults(verified(pdf)), QByteArrayList());
+    }
+
     void aPdfOfAnotherProgramIsHeldAgainstItsSources() {
         addFile(data("pdf/ghostscript.pdf"));
         addFile(data("pdf/chromium-letter.pdf"));
