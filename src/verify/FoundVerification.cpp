@@ -89,14 +89,18 @@ class FoundVerifier : private DocumentVerifier {
         std::vector<Finding> findings(std::min(entry.pictures.size(), there));
         for (std::size_t i = 0; i < findings.size(); ++i) {
             requireGoingOn();
-            findings[i] = findingOf(pages()[first + i], entry.pictures[i], result);
+            try {
+                findings[i] = findingOf(pages()[first + i], entry.pictures[i], result);
+            } catch (const Error &error) {
+                findings[i].fault = error.reason();
+            }
         }
         comparePixels(entry, findings);
         for (const Finding &finding : findings) {
             result.keep(finding.proof, finding.fault);
         }
         if (findings.size() < entry.pictures.size()) {
-            static_cast<void>(nextPage(result)); // Throws, since there is none.
+            result.keep(PageProof::Differs, Reasons::tr("The PDF has fewer pages than the files"));
         }
     }
 
@@ -129,12 +133,27 @@ class FoundVerifier : private DocumentVerifier {
         return {PageProof::Differs, fault, canBeTold ? image : Object::newNull()};
     }
 
-    /// Reads the file again, once for all pictures of which more is to be told.
+    static bool isOpen(const Finding &finding) { return !Object(finding.image).isNull(); }
+
+    /// Tells more of the pictures of which more is to be told.
     void comparePixels(const EntryRecord &entry, std::vector<Finding> &findings) {
-        const auto isOpen = [](const Finding &finding) { return !Object(finding.image).isNull(); };
         if (std::ranges::none_of(findings, isOpen)) {
             return;
         }
+        try {
+            readAgain(entry, findings);
+        } catch (const Error &error) {
+            requireGoingOn();
+            for (Finding &finding : findings) {
+                if (isOpen(finding)) {
+                    finding.fault = error.reason();
+                }
+            }
+        }
+    }
+
+    /// Reads the file again, once for all pictures.
+    void readAgain(const EntryRecord &entry, std::vector<Finding> &findings) {
         std::size_t next = 0;
         entry.picturesAgain([&](const PdfImage &source) {
             requireGoingOn();
@@ -144,6 +163,7 @@ class FoundVerifier : private DocumentVerifier {
             }
             Finding &finding = findings[index];
             finding.proof = proofByPixels(finding.image, source, options());
+            finding.image = Object::newNull(); // All is told.
             if (finding.proof != PageProof::Differs) {
                 finding.fault.clear();
             }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ConversionCase.h"
+#include "files/SourceFile.h"
 #include "support/Places.h"
 #include "verify/Verification.h"
 
@@ -31,6 +32,14 @@ class VerificationCase : protected ConversionCase {
         }
         return all + (outcome.isWritten() ? QByteArrayList()
                                           : QByteArrayList{outcome.close.reason.toUtf8()});
+    }
+
+    /// A PDF that stands already; `file` must outlive it.
+    static WrittenDocument finished(const SourceFile &file) {
+        return {
+            file.version().path.toStdString(), file.version().size,
+            [&file](qint64 offset, std::span<char> target) { return file.readAt(offset, target); },
+            std::nullopt};
     }
 
     /// Writes a PDF of the list to look for afterwards.

@@ -75,12 +75,8 @@ class VerificationTest : public QObject, protected VerificationCase {
     /// What is said of the first page of a PDF with this record.
     QString reasonOf(const QString &pdf, const EntryRecord &record) const {
         const SourceFile file = SourceFile::open(pdf);
-        const WrittenDocument document{
-            pdf.toStdString(), file.version().size,
-            [&file](qint64 offset, std::span<char> target) { return file.readAt(offset, target); },
-            std::nullopt};
         try {
-            return verifyDocument(document, {record}, {}).at(0).reason();
+            return verifyDocument(finished(file), {record}, {}).at(0).reason();
         } catch (const Error &error) {
             return error.reason();
         }
