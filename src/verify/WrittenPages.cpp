@@ -18,13 +18,14 @@ namespace {
 
 using Object = QPDFObjectHandle;
 
-constexpr std::size_t kLongestContents = 256 << 20; // Of a page, however many its pieces are.
+/// Bytes of a page, as they are kept and as they are read, however many its pieces are.
+constexpr std::size_t kLongestContents = 256 << 20;
 
 Error unreadable() {
     return Error(Reasons::tr("the contents of a page cannot be read"));
 }
 
-/// One of the contents, of which `left` bytes may be taken; it takes its own from them.
+/// One of the contents, of which `left` bytes may be kept; it takes its own from them.
 PageContents::Piece pieceOf(Object stream, std::size_t &left) {
     const auto take = [&left](std::size_t size) {
         if (size > left) {
@@ -49,22 +50,31 @@ PageContents::Piece pieceOf(Object stream, std::size_t &left) {
     throw unreadable();
 }
 
+QByteArray inflated(const Buffer &deflated, std::size_t most) {
+    try {
+        return inflateUpTo({reinterpret_cast<const char *>(deflated.getBuffer()),
+                            static_cast<qsizetype>(deflated.getSize())},
+                           static_cast<qsizetype>(most));
+    } catch (const Error &) { // They are damaged or too long.
+        throw unreadable();
+    }
+}
+
 } // namespace
 
 ReadPage readContents(const PageContents &contents, double fontSize) {
     std::string text;
     for (const auto &[deflated, plain] : contents.pieces) {
-        const std::size_t left = kLongestContents - std::min(text.size(), kLongestContents);
         if (deflated) {
-            const QByteArray bytes =
-                inflateUpTo({reinterpret_cast<const char *>(deflated->getBuffer()),
-                             static_cast<qsizetype>(deflated->getSize())},
-                            static_cast<qsizetype>(left));
+            const QByteArray bytes = inflated(*deflated, kLongestContents - text.size());
             text.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
         } else {
             text += plain;
         }
         text += '\n';
+        if (text.size() > kLongestContents) {
+            throw unreadable();
+        }
     }
     return readPage(text, *contents.fonts, fontSize);
 }
