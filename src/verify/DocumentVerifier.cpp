@@ -67,8 +67,8 @@ const SourcePage &DocumentVerifier::nextPage(const EntryVerification &result) co
     return pages()[index];
 }
 
-void DocumentVerifier::requireGoingOn() const {
-    if (m_options.stop.stop_requested()) {
+void requireNoStop(const std::stop_token &stop) {
+    if (stop.stop_requested()) {
         throw Error(Reasons::tr("The conversion was stopped"));
     }
 }

@@ -11,9 +11,13 @@
 
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <vector>
 
 namespace folioforge {
+
+/// Throws Error once `stop` is requested.
+void requireNoStop(const std::stop_token &stop);
 
 /// A finished document that is read anew, and what holding its pages against sources needs. Throws
 /// Error and what libqpdf throws.
@@ -31,7 +35,7 @@ class DocumentVerifier {
     [[nodiscard]] SourceReader &reader() { return *m_reader; }
     [[nodiscard]] WrittenPages &checks() { return m_checks; }
     /// Throws Error once a stop is requested.
-    void requireGoingOn() const;
+    void requireGoingOn() const { requireNoStop(m_options.stop); }
     /// Throws Error where libqpdf had to mend something so far.
     void requireUndamaged();
     /// Throws Error where `source`, of which pages are held against these, has readers make the

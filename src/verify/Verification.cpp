@@ -16,12 +16,14 @@
 namespace folioforge {
 namespace {
 
-/// The bytes that were read are those that were written.
-void requireSameBytes(const WrittenDocument &document) {
+/// The bytes that were read are those that were written. Throws Error, also once `stop` asks for
+/// it.
+void requireSameBytes(const WrittenDocument &document, const std::stop_token &stop) {
     constexpr std::size_t kPiece = 1 << 18; // It stays in the processor's cache.
     std::vector<char> piece(kPiece);
     std::uint32_t checksum = 0;
     for (qint64 at = 0; at < document.size;) {
+        requireNoStop(stop);
         const qint64 got = document.readBytes(at, piece);
         if (got <= 0) {
             break;
@@ -167,9 +169,9 @@ QString EntryVerification::reason() const {
 std::vector<EntryVerification> verifyDocument(const WrittenDocument &document,
                                               const DocumentRecord &record,
                                               const VerifyOptions &options) {
-    auto sameBytes = runAsync(document.checksum ? document.size : 0, [&document] {
+    auto sameBytes = runAsync(document.checksum ? document.size : 0, [&document, &options] {
         if (document.checksum) {
-            requireSameBytes(document);
+            requireSameBytes(document, options.stop);
         }
     });
     try {

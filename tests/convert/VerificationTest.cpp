@@ -14,6 +14,8 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
+#include <stop_token>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -246,6 +248,34 @@ class VerificationTest : public QObject, protected VerificationCase {
         QCOMPARE(
             reasonOf(pdf, record),
             u"Page 1 of the PDF is not its source: its characters are not those of the text"_s);
+    }
+
+    void aStopEndsTheCheckOfTheBytes() {
+        PdfFixture fixture;
+        fixture.object(1, kCatalog).pages(4, 1).stream(6, {}, QByteArray(8 << 20, ' '));
+        const SourceFile file = SourceFile::open(saved("long.pdf", fixture));
+        WrittenDocument document = finished(file);
+        document.checksum = 0;
+        std::atomic<qint64> bytes = 0;
+        document.readBytes = [&](qint64 offset, std::span<char> target) {
+            bytes += std::ssize(target);
+            return file.readAt(offset, target);
+        };
+        EntryRecord record;
+        record.pages = 1;
+        record.source = {file.version().path, {}};
+        std::stop_source stop;
+        stop.request_stop();
+        VerifyOptions options;
+        options.stop = stop.get_token();
+        QString reason;
+        try {
+            verifyDocument(document, {record}, options);
+        } catch (const Error &error) {
+            reason = error.reason();
+        }
+        QCOMPARE(reason, u"The conversion was stopped"_s);
+        QVERIFY(bytes < file.version().size);
     }
 
     void aPdfHasAsManyPagesAsItsRecord() {
