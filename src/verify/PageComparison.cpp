@@ -165,15 +165,16 @@ bool PageComparison::isLeft(const Object &page) const {
 
 bool PageComparison::areSame(const Object &source, const Object &written) {
     m_open.clear();
+    m_comparing.clear();
     follow(source, written);
     while (!m_open.empty()) {
         const Pair pair = m_open.back();
         m_open.pop_back();
         if (!isSamePair(pair.source, pair.written)) {
-            m_compared.clear(); // Not all within them was.
             return false;
         }
     }
+    m_compared.merge(m_comparing);
     return true;
 }
 
@@ -190,8 +191,9 @@ bool PageComparison::isSamePair(Object source, Object written) {
     if (staysInItsDocument(source)) {
         return true;
     }
+    const std::pair names(source.getObjGen(), written.getObjGen());
     if (source.isIndirect() && written.isIndirect() &&
-        !m_compared.emplace(source.getObjGen(), written.getObjGen()).second) {
+        (m_compared.contains(names) || !m_comparing.insert(names).second)) {
         return true;
     }
     if (source.isStream()) {

@@ -88,7 +88,9 @@ class PageComparison {
     std::vector<Turn> m_turns;            ///< Of these.
     std::size_t m_firstPage;
     std::map<QPDFObjGen, std::set<QPDFObjGen>> m_copies; ///< Of pages; none where it was left out.
-    std::set<std::pair<QPDFObjGen, QPDFObjGen>> m_compared;
+    using Names = std::set<std::pair<QPDFObjGen, QPDFObjGen>>;
+    Names m_compared;  ///< Of what is the same, with all within.
+    Names m_comparing; ///< Of what is so where all that is still open is.
     std::deque<Pair> m_open;
 };
 

@@ -84,6 +84,16 @@ class VerificationTest : public QObject, protected VerificationCase {
         }
     }
 
+    /// A PDF that stands already; `bytes` counts what is read of it.
+    static WrittenDocument counted(const SourceFile &file, std::atomic<qint64> &bytes) {
+        WrittenDocument document = finished(file);
+        document.readBytes = [&](qint64 offset, std::span<char> target) {
+            bytes += std::ssize(target);
+            return file.readAt(offset, target);
+        };
+        return document;
+    }
+
   private Q_SLOTS:
     void init() { setUpVerifying(); }
 
@@ -250,17 +260,29 @@ class VerificationTest : public QObject, protected VerificationCase {
             u"Page 1 of the PDF is not its source: its characters are not those of the text"_s);
     }
 
+    void whatPagesShareIsReadOnceAlthoughOneOfThemDiffers() {
+        PdfFixture fixture;
+        fixture.object(1, kCatalog).pages(4, 3);
+        fixture.object(3, "<< /Type /Font /Subtype /Type1 /BaseFont /Helvetica /Shared 20 0 R >>")
+            .stream(20, {}, QByteArray(8 << 20, ' '));
+        EntryRecord record;
+        record.pages = 3;
+        record.source = {saved("pages.pdf", fixture), {}};
+        const SourceFile file = SourceFile::open(
+            writeFile(path("changed.pdf"), fixture.bytes().replace("(Page 2)", "(Page X)")));
+        std::atomic<qint64> bytes = 0;
+        const auto results = verifyDocument(counted(file, bytes), {record}, {});
+        QCOMPARE(results.at(0).faults.size(), std::size_t{1});
+        QVERIFY(bytes < 2 * file.version().size);
+    }
+
     void aStopEndsTheCheckOfTheBytes() {
         PdfFixture fixture;
         fixture.object(1, kCatalog).pages(4, 1).stream(6, {}, QByteArray(8 << 20, ' '));
         const SourceFile file = SourceFile::open(saved("long.pdf", fixture));
-        WrittenDocument document = finished(file);
-        document.checksum = 0;
         std::atomic<qint64> bytes = 0;
-        document.readBytes = [&](qint64 offset, std::span<char> target) {
-            bytes += std::ssize(target);
-            return file.readAt(offset, target);
-        };
+        WrittenDocument document = counted(file, bytes);
+        document.checksum = 0;
         EntryRecord record;
         record.pages = 1;
         record.source = {file.version().path, {}};
