@@ -43,6 +43,10 @@ bool isOctal(char byte) {
 
 } // namespace
 
+bool isRegular(char byte) {
+    return classOf(byte) == Class::Regular;
+}
+
 void ContentLexer::passBlanks() {
     while (!isAtEnd()) {
         if (m_content[m_at] == '%') {
@@ -176,7 +180,7 @@ void ContentLexer::readHexadecimal(std::string &text) {
 }
 
 void ContentLexer::readName(std::string &text) {
-    for (++m_at; !isAtEnd() && classOf(m_content[m_at]) == Class::Regular; ++m_at) {
+    for (++m_at; !isAtEnd() && isRegular(m_content[m_at]); ++m_at) {
         const bool isCoded = m_content[m_at] == '#' && m_at + 2 < m_content.size() &&
                              digitOf(m_content[m_at + 1]) >= 0 && digitOf(m_content[m_at + 2]) >= 0;
         text += isCoded ? static_cast<char>(digitOf(m_content[m_at + 1]) * 16 +
@@ -194,7 +198,7 @@ bool ContentLexer::readNumber(double &number) {
     double value = 0;
     double unit = 0; // Of the next digit behind the point.
     bool hasDigit = false;
-    for (; at < m_content.size() && classOf(m_content[at]) == Class::Regular; ++at) {
+    for (; at < m_content.size() && isRegular(m_content[at]); ++at) {
         const char byte = m_content[at];
         if (byte == '.' && unit == 0) {
             unit = 0.1;
@@ -219,7 +223,7 @@ bool ContentLexer::readNumber(double &number) {
 void ContentLexer::readWord(std::string &text) {
     const std::size_t start = m_at;
     // The operators ' and " are letters here, and regular characters end at a delimiter.
-    while (!isAtEnd() && classOf(m_content[m_at]) == Class::Regular) {
+    while (!isAtEnd() && isRegular(m_content[m_at])) {
         ++m_at;
     }
     text.assign(m_content.substr(start, m_at - start));

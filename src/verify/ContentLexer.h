@@ -54,6 +54,9 @@ class ContentLexer {
     std::size_t m_at = 0;
 };
 
+/// Whether `byte` is neither a blank nor a delimiter (ISO 32000-1, 7.2.2).
+bool isRegular(char byte);
+
 /// Text of a font or a content in UTF-16, its high bytes first; a mark of joining within counts,
 /// also as the first.
 QString fromUtf16(std::string_view bytes);

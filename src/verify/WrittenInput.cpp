@@ -2,29 +2,28 @@
 
 #include "verify/WrittenInput.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace folioforge {
+namespace {
+
+constexpr std::size_t kInputWindow = 1 << 16; // The library asks for few bytes at a time.
+
+} // namespace
 
 WrittenInput::WrittenInput(std::string name, qint64 size, ReadBytes readBytes)
     : PieceInput(std::move(name))
-    , m_readBytes(std::move(readBytes)) {
+    , m_readBytes(std::move(readBytes))
+    , m_window(m_readBytes, kInputWindow) {
     m_end = size;
 }
 
 std::string_view WrittenInput::pieceAt(qint64 position, std::span<char> room) {
-    constexpr qint64 kWindow = 1 << 16;
-    if (std::ssize(room) >= kWindow) { // Data of streams need no window.
-        return {room.data(), static_cast<std::size_t>(m_readBytes(position, room))};
-    }
-    if (position < m_windowStart || position >= m_windowStart + std::ssize(m_window)) {
-        m_window.resize(static_cast<std::size_t>(std::clamp<qint64>(m_end - position, 0, kWindow)));
-        m_windowStart = position;
-        m_window.resize(static_cast<std::size_t>(m_readBytes(position, m_window)));
-    }
-    return std::string_view(m_window.data(), m_window.size())
-        .substr(static_cast<std::size_t>(position - m_windowStart));
+    // Data of streams need no window.
+    return room.size() < kInputWindow
+               ? m_window.at(position)
+               : std::string_view(room.data(),
+                                  static_cast<std::size_t>(m_readBytes(position, room)));
 }
 
 } // namespace folioforge

@@ -5,8 +5,6 @@
 #include "pdf/import/PieceInput.h"
 #include "verify/ReadBytes.h"
 
-#include <vector>
-
 namespace folioforge {
 
 /// A finished PDF as libqpdf reads it, which may have no name yet.
@@ -18,9 +16,7 @@ class WrittenInput final : public PieceInput {
     std::string_view pieceAt(qint64 position, std::span<char> room) override;
 
     ReadBytes m_readBytes;
-    std::vector<char>
-        m_window; ///< Bytes from m_windowStart on: the library asks for few at a time.
-    qint64 m_windowStart = 0;
+    ByteWindow m_window;
 };
 
 } // namespace folioforge

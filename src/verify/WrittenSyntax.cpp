@@ -4,6 +4,7 @@
 
 #include "error/Error.h"
 #include "error/Reasons.h"
+#include "verify/ContentLexer.h"
 
 #include <qpdf/QPDF.hh>
 
@@ -11,8 +12,6 @@
 #include <set>
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 namespace folioforge {
 
@@ -20,41 +19,16 @@ namespace {
 
 constexpr int kEnd = -1;
 
-/// The bytes of a file, read in windows.
-class FileBytes {
-  public:
-    explicit FileBytes(const ReadBytes &readBytes)
-        : m_readBytes(readBytes) {}
-
-    /// The byte at `offset`, or kEnd.
-    int at(qint64 offset) {
-        if (offset < m_start || offset >= m_start + std::ssize(m_window)) {
-            constexpr std::size_t kWindow = 1 << 12; // Mostly streams lie between objects.
-            m_start = offset;
-            m_window.resize(kWindow);
-            m_window.resize(static_cast<std::size_t>(m_readBytes(offset, m_window)));
-        }
-        return m_window.empty() ? kEnd
-                                : static_cast<unsigned char>(
-                                      m_window[static_cast<std::size_t>(offset - m_start)]);
-    }
-
-  private:
-    const ReadBytes &m_readBytes;
-    qint64 m_start = 0;
-    std::vector<char> m_window;
-};
-
-bool isRegular(int character) {
-    constexpr std::string_view kOthers("\0\t\n\v\f\r ()<>[]{}/%", 17);
-    return character != kEnd &&
-           kOthers.find(static_cast<char>(character)) == std::string_view::npos;
+/// The byte at `offset`, or kEnd.
+int byteAt(ByteWindow &bytes, qint64 offset) {
+    const std::string_view there = bytes.at(offset);
+    return there.empty() ? kEnd : static_cast<unsigned char>(there.front());
 }
 
 /// Behind the string in parentheses that begins at `at`.
-qint64 endOfString(FileBytes &bytes, qint64 at) {
+qint64 endOfString(ByteWindow &bytes, qint64 at) {
     int depth = 0;
-    for (int next = bytes.at(at); next != kEnd; next = bytes.at(++at)) {
+    for (int next = byteAt(bytes, at); next != kEnd; next = byteAt(bytes, ++at)) {
         if (next == '\\') {
             ++at;
         } else if (next == '(') {
@@ -68,10 +42,10 @@ qint64 endOfString(FileBytes &bytes, qint64 at) {
 
 /// Whether the object that begins at `at` has a vertical tab outside of strings and comments; `at`
 /// moves behind what was read.
-bool hasVerticalTab(FileBytes &bytes, qint64 &at) {
+bool hasVerticalTab(ByteWindow &bytes, qint64 &at) {
     std::string word;
-    for (int next = bytes.at(at); next != kEnd && next != '\v'; next = bytes.at(at)) {
-        if (isRegular(next)) {
+    for (int next = byteAt(bytes, at); next != kEnd && next != '\v'; next = byteAt(bytes, at)) {
+        if (isRegular(static_cast<char>(next))) {
             word += static_cast<char>(next);
             ++at;
             continue;
@@ -84,14 +58,14 @@ bool hasVerticalTab(FileBytes &bytes, qint64 &at) {
             at = endOfString(bytes, at);
         } else if (next == '%') {
             while (next != kEnd && next != '\n' && next != '\r') {
-                next = bytes.at(++at);
+                next = byteAt(bytes, ++at);
             }
         } else {
             word = next == '/' ? "/" : "";
             ++at;
         }
     }
-    return bytes.at(at) == '\v';
+    return byteAt(bytes, at) == '\v';
 }
 
 /// Where the objects of the file that stand by themselves begin.
@@ -106,12 +80,12 @@ std::set<qint64> beginnings(QPDF &document) {
 }
 
 /// The bytes before the header, from which on offsets count.
-qint64 headerAt(FileBytes &bytes) {
+qint64 headerAt(ByteWindow &bytes) {
     constexpr std::string_view kHeader("%PDF-");
     constexpr qint64 kMost = 1024;
     for (qint64 at = 0; at < kMost; ++at) {
         const auto isThere = [&bytes, at, i = at](char character) mutable {
-            return bytes.at(i++) == character;
+            return byteAt(bytes, i++) == character;
         };
         if (std::ranges::all_of(kHeader, isThere)) {
             return at;
@@ -123,7 +97,8 @@ qint64 headerAt(FileBytes &bytes) {
 } // namespace
 
 void requireCommonSpaces(QPDF &document, const ReadBytes &readBytes, qint64 size) {
-    FileBytes bytes(readBytes);
+    constexpr std::size_t kWindow = 1 << 12; // Mostly streams lie between objects.
+    ByteWindow bytes(readBytes, kWindow);
     const qint64 header = headerAt(bytes);
     qint64 left = 2 * size; // Objects that begin in one another are read again and again.
     for (const qint64 offset : beginnings(document)) {
