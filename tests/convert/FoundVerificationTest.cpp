@@ -7,8 +7,9 @@
 #include "support/PhotoPage.h"
 #include "support/TestUnit.h"
 
-#include <QElapsedTimer>
 #include <QFile>
+
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -263,11 +264,10 @@ class FoundVerificationTest : public QObject, protected VerificationCase {
                     "1 beginbfrange <0000> <FFFF> <" + QByteArray("0041").repeated(1 << 20) +
                         "> endbfrange");
         QVERIFY(page.write(path("long.pdf")));
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t before = std::clock();
         QVERIFY(!faults(verified(path("long.pdf"))).isEmpty());
-        constexpr int kSeconds = 20; // Text by text it takes minutes.
-        QVERIFY(timer.elapsed() < kSeconds * 1000);
+        constexpr int kSeconds = 20; // Of the processor; text by text it takes minutes.
+        QVERIFY(std::clock() - before < kSeconds * CLOCKS_PER_SEC);
     }
 
     void aReducedPictureKeepsItsOpacity() {
