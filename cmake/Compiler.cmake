@@ -30,6 +30,9 @@ endif()
 # programs read other people's bytes, so every build has it, the one that is tested among them.
 # Inline functions of the library come from whichever object is linked first, a test's as well.
 target_compile_definitions(folioforge_compiler INTERFACE _GLIBCXX_ASSERTIONS)
+# Files of any size, on systems of 32 bits too. Libraries that ask for it agree so with what is compiled
+# ahead.
+target_compile_definitions(folioforge_compiler INTERFACE _FILE_OFFSET_BITS=64)
 if(UNIX AND NOT APPLE)
     include(CheckPIESupported)
     check_pie_supported()
