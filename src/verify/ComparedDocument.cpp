@@ -50,7 +50,7 @@ QPDFObjectHandle ComparedDocument::fieldFont(const std::string &name) const {
 
 bool ComparedDocument::isHidden(const QPDFObjectHandle &group) {
     if (!m_layers) {
-        m_layers.emplace();
+        m_layers = Layers();
         const auto shown = entry(entry(m_document.getRoot(), "/OCProperties"), "/D");
         m_layers->areOff = entry(shown, "/BaseState").isNameAndEquals("/OFF");
         for (const auto &other : items(entry(shown, m_layers->areOff ? "/ON" : "/OFF"))) {

@@ -250,7 +250,6 @@ void FontCodes::readCidWidths(QPDFObjectHandle cidFont) {
 }
 
 FontCodes::Code FontCodes::nextCode(std::string_view codes) const {
-    Code code;
     constexpr std::size_t kMaxLength = 4;
     for (std::size_t length = 1; length <= std::min(kMaxLength, codes.size()); ++length) {
         const std::uint32_t value = numberOf(codes.substr(0, length));

@@ -84,7 +84,7 @@ qint64 headerAt(ByteWindow &bytes) {
     constexpr std::string_view kHeader("%PDF-");
     constexpr qint64 kMost = 1024;
     for (qint64 at = 0; at < kMost; ++at) {
-        const auto isThere = [&bytes, at, i = at](char character) mutable {
+        const auto isThere = [&bytes, i = at](char character) mutable {
             return byteAt(bytes, i++) == character;
         };
         if (std::ranges::all_of(kHeader, isThere)) {

@@ -15,7 +15,6 @@ namespace folioforge {
 namespace {
 
 constexpr quint32 kOs2Header = 12;       ///< Shorter sides, and three bytes a colour.
-constexpr quint32 kShortOs2Header = 16;  ///< The next but ends with the bits.
 constexpr quint32 kWindowsHeader = 40;   ///< The first to know of density.
 constexpr quint32 kHeaderWithMasks = 52; ///< The first to hold masks; older ones have them behind.
 constexpr quint32 kHeaderWithAlpha = 56; ///< The first to hold a mask of opacity.
