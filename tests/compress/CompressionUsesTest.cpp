@@ -335,7 +335,7 @@ class CompressionUsesTest : public QObject, protected CompressionCase {
         const QString copy = compressed();
         {
             const FullDisk disk(8192);
-            QVERIFY_EXCEPTION_THROWN(putInPlace(*m_record, Flush::Never), Error);
+            QVERIFY_THROWS_EXCEPTION(Error, putInPlace(*m_record, Flush::Never));
         }
         QCOMPARE(readFile(m_path), before);
         m_record.reset();

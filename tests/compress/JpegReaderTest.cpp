@@ -175,8 +175,8 @@ class JpegReaderTest : public QObject {
         const std::size_t scan = file.find("\xff\xda") + 14;
         for (std::size_t length = scan; length < file.size(); length += 7) {
             const std::string cut = file.substr(0, length);
-            QVERIFY_EXCEPTION_THROWN(static_cast<void>(JpegReader(cut, std::nullopt).decode(4)),
-                                     Error);
+            QVERIFY_THROWS_EXCEPTION(Error,
+                                     static_cast<void>(JpegReader(cut, std::nullopt).decode(4)));
         }
     }
 
@@ -184,8 +184,8 @@ class JpegReaderTest : public QObject {
         std::string file = jpegFile(90, 67, {});
         // Sixteen ones are no code (ITU-T T.81, C); a zero behind 0xff says that it is data.
         file.replace(file.find("\xff\xda") + 14, 6, "\xff\0\xff\0\xff\0", 6);
-        QVERIFY_EXCEPTION_THROWN(static_cast<void>(JpegReader(file, std::nullopt).decode(4)),
-                                 Error);
+        QVERIFY_THROWS_EXCEPTION(Error,
+                                 static_cast<void>(JpegReader(file, std::nullopt).decode(4)));
     }
 
     void lightAndInksSampledDifferentlyAreStillBroughtToOneSize_data() {

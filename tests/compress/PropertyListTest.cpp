@@ -85,14 +85,14 @@ class PropertyListTest : public QObject {
         if (isRead) {
             QVERIFY(readPropertyList(path).contains(u"a"_s));
         } else {
-            QVERIFY_EXCEPTION_THROWN(readPropertyList(path), Error);
+            QVERIFY_THROWS_EXCEPTION(Error, readPropertyList(path));
         }
     }
 
     void listsLargerThanAnyOfTheBundleAreRefused() {
         const QByteArray list = kHead + "<dict><key>a</key><string>" + QByteArray(17000, 'a') +
                                 "</string></dict></plist>";
-        QVERIFY_EXCEPTION_THROWN(readPropertyList(write(list)), Error);
+        QVERIFY_THROWS_EXCEPTION(Error, readPropertyList(write(list)));
     }
 
     void refusesWhatIsNoDictionary_data() {
@@ -112,7 +112,7 @@ class PropertyListTest : public QObject {
     void refusesWhatIsNoDictionary() {
         QFETCH(const QByteArray, bytes);
         const QString path = write(bytes);
-        QVERIFY_EXCEPTION_THROWN(readPropertyList(path), Error);
+        QVERIFY_THROWS_EXCEPTION(Error, readPropertyList(path));
     }
 
     void aMissingFileIsNamed() {

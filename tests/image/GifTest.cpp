@@ -135,7 +135,7 @@ class GifTest : public QObject {
     }
 
     void framesOfAFileWithoutAnyAreRefused() {
-        QVERIFY_EXCEPTION_THROWN(picturesOf(gif("02000200", comment() + ';')), Error);
+        QVERIFY_THROWS_EXCEPTION(Error, picturesOf(gif("02000200", comment() + ';')));
     }
 
     void dataThatEndsEarlyLeavesTheRowsBefore() {

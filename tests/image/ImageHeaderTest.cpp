@@ -189,7 +189,7 @@ class ImageHeaderTest : public QObject {
         for (const QSize size : {QSize(header.width + 1, 1), QSize(5, 0), QSize(0, 5)}) {
             header.width = size.width();
             header.height = size.height();
-            QVERIFY_EXCEPTION_THROWN(checkedHeader(header), Error);
+            QVERIFY_THROWS_EXCEPTION(Error, checkedHeader(header));
         }
     }
 

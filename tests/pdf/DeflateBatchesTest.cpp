@@ -64,7 +64,7 @@ class DeflateBatchesTest : public QObject {
             throw std::runtime_error("full");
         });
         batches.add(QPDFObjGen(1, 0), page(1));
-        QVERIFY_EXCEPTION_THROWN(batches.wait(), std::runtime_error);
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error, batches.wait());
     }
 
     void forgetsWhatIsDropped() {
