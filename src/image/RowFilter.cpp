@@ -208,9 +208,8 @@ QByteArray unfilterRows(QByteArray filtered, int height, qsizetype stride, int p
 }
 
 void dropUnknownFilters(QByteArray &filtered, qsizetype rowBytes) {
-    constexpr char kMaxFilter = 4;
     for (qsizetype at = 0; at < filtered.size(); at += rowBytes) {
-        if (filtered[at] < 0 || filtered[at] > kMaxFilter) {
+        if (static_cast<uchar>(filtered[at]) >= FilterCount) {
             filtered[at] = '\0';
         }
     }
