@@ -128,8 +128,8 @@ class TranslationsTest : public QObject {
         QTest::mouseClick(&w.control<QAbstractButton>("m_btnCreate"), Qt::LeftButton);
         const QString gone = refused + u"\nDie Datei kann nicht geöffnet werden: "_s;
         const auto isSaid = [&] { return tipUnderTheMouse(list, 0).startsWith(gone); };
-        constexpr int kPatience = 60'000; // Milliseconds, on a busy machine.
-        QVERIFY2(QTest::qWaitFor(isSaid, kPatience), qPrintable(tipUnderTheMouse(list, 0)));
+        constexpr int kLongPatience = 60'000; // Milliseconds, on a busy machine.
+        QVERIFY2(QTest::qWaitFor(isSaid, kLongPatience), qPrintable(tipUnderTheMouse(list, 0)));
         QCOMPARE(tipUnderTheMouse(list, 1), notUtf8);
     }
 
