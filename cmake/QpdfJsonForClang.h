@@ -7,4 +7,5 @@
 class JSON {
   public:
     class Reactor;
+    class Writer;
 };
