@@ -33,6 +33,9 @@ target_compile_definitions(folioforge_compiler INTERFACE _GLIBCXX_ASSERTIONS)
 # Files of any size, on systems of 32 bits too. Libraries that ask for it agree so with what is compiled
 # ahead.
 target_compile_definitions(folioforge_compiler INTERFACE _FILE_OFFSET_BITS=64)
+# libc++ 18 and 19 keep std::jthread and std::stop_token behind it.
+target_compile_definitions(folioforge_compiler INTERFACE
+    $<$<CXX_COMPILER_ID:Clang,AppleClang>:_LIBCPP_ENABLE_EXPERIMENTAL>)
 if(UNIX AND NOT APPLE)
     include(CheckPIESupported)
     check_pie_supported()
