@@ -117,6 +117,11 @@ int distanceFromRegular(FcPattern *pattern) {
            integer(pattern, FC_SLANT, FC_SLANT_ROMAN) + (flag(pattern, FC_VARIABLE) ? 1 : 0);
 }
 
+/// Fontconfig's text as what Qt reads; libc++ has no traits of its unsigned characters.
+const char *charsOf(const FcChar8 *text) {
+    return reinterpret_cast<const char *>(text);
+}
+
 /// Whether a font can be measured and embedded: an outline font in an sfnt wrapper, but no named
 /// instance of a variable font, which the upper half of the index marks.
 bool isUsable(FcPattern *pattern) {
@@ -124,7 +129,7 @@ bool isUsable(FcPattern *pattern) {
     if (FcPatternGetString(pattern, FC_FONTFORMAT, 0, &format) != FcResultMatch) {
         return false;
     }
-    const QByteArrayView name(format);
+    const QByteArrayView name(charsOf(format));
     constexpr int kIndexBits = 16;
     return (name == QByteArrayView("TrueType") || name == QByteArrayView("CFF")) &&
            flag(pattern, FC_OUTLINE) && !flag(pattern, FC_COLOR) &&
@@ -135,7 +140,7 @@ std::optional<Rank> rankOf(FcPattern *pattern, const QStringList &wanted) {
     std::optional<Rank> best;
     FcChar8 *name = nullptr;
     for (int i = 0; FcPatternGetString(pattern, FC_FAMILY, i, &name) == FcResultMatch; ++i) {
-        const auto rank = rankOf(QString::fromUtf8(QByteArrayView(name)), pattern, wanted);
+        const auto rank = rankOf(QString::fromUtf8(charsOf(name)), pattern, wanted);
         if (rank && (!best || *rank < *best)) {
             best = rank;
         }
@@ -150,7 +155,7 @@ std::optional<CatalogFont> entryOf(FcPattern *pattern) {
         FcPatternGetCharSet(pattern, FC_CHARSET, 0, &covered) != FcResultMatch) {
         return std::nullopt;
     }
-    return CatalogFont(QByteArray(QByteArrayView(path).toByteArray()),
+    return CatalogFont(QByteArray(charsOf(path)),
                        static_cast<unsigned>(integer(pattern, FC_INDEX, 0)),
                        FcCharSetCopy(covered));
 }
