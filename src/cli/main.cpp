@@ -11,6 +11,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <new>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -64,6 +65,9 @@ int main(int argc, char *argv[]) {
     silenceQt();
     try {
         return run(argc, argv);
+    } catch (const std::bad_alloc &) {
+        std::fputs("folioforge-cli: There is not enough memory\n", stderr); // It needs none.
+        return SomeFailed;
     } catch (const std::exception &failure) {
         // Errors of single inputs are reported before; this is, say, no memory for the list.
         std::fprintf(stderr, "folioforge-cli: %s\n", failure.what());
