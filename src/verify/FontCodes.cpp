@@ -75,7 +75,7 @@ QString textOfName(const std::string &name) {
 
 } // namespace
 
-std::shared_ptr<const FontCodes> FontCodes::read(QPDFObjectHandle font) {
+std::shared_ptr<const FontCodes> FontCodes::read(const QPDFObjectHandle &font) {
     auto codes = std::make_shared<FontCodes>();
     if (entry(font, "/Subtype").isNameAndEquals("/Type0")) {
         codes->readComposite(font);
@@ -90,7 +90,7 @@ std::shared_ptr<const FontCodes> FontCodes::read(QPDFObjectHandle font) {
     return codes;
 }
 
-void FontCodes::readComposite(QPDFObjectHandle font) {
+void FontCodes::readComposite(const QPDFObjectHandle &font) {
     m_units.resize(kCodes);
     auto encoding = entry(font, "/Encoding");
     if (encoding.isStream()) {
@@ -105,7 +105,7 @@ void FontCodes::readComposite(QPDFObjectHandle font) {
     }
 }
 
-void FontCodes::readSimple(QPDFObjectHandle font) {
+void FontCodes::readSimple(const QPDFObjectHandle &font) {
     requireWholeProgram(font);
     m_codeSpace.push_back({1, 0, 0xFF, 0});
     m_defaultWidth = 0;
@@ -218,7 +218,7 @@ void FontCodes::setText(std::uint32_t code, const QString &text) {
 }
 
 /// The widths of /W: runs of the form "first [w w w]" and "first last w" (ISO 32000-1, 9.7.4.3).
-void FontCodes::readCidWidths(QPDFObjectHandle cidFont) {
+void FontCodes::readCidWidths(const QPDFObjectHandle &cidFont) {
     m_widths.assign(kCodes, -1);
     auto usual = entry(cidFont, "/DW");
     m_defaultWidth = usual.isNumber() ? usual.getNumericValue() : 1000;

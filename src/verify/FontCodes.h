@@ -26,7 +26,7 @@ class FontCodes {
     /// Reads a font dictionary (ISO 32000-1, 9.6 to 9.10). Throws Error where a part of it cannot
     /// be read, and what libqpdf throws. A font without a ToUnicode map has the characters of its
     /// encoding as far as that is a usual one.
-    static std::shared_ptr<const FontCodes> read(QPDFObjectHandle font);
+    static std::shared_ptr<const FontCodes> read(const QPDFObjectHandle &font);
 
     /// Whether its streams are deflated and say nothing that those of fonts embedded here do not.
     [[nodiscard]] bool isAsEmbedded() const { return m_isAsEmbedded; }
@@ -47,11 +47,11 @@ class FontCodes {
         unsigned length = 1;
     };
 
-    void readComposite(QPDFObjectHandle font);
-    void readSimple(QPDFObjectHandle font);
+    void readComposite(const QPDFObjectHandle &font);
+    void readSimple(const QPDFObjectHandle &font);
     void readEncodingMap(const std::string &map);
     void readUnicodeMap(const std::string &map);
-    void readCidWidths(QPDFObjectHandle cidFont);
+    void readCidWidths(const QPDFObjectHandle &cidFont);
     void addDifferences(const QPDFObjectHandle &differences);
     void addCids(const Range &range) { m_cids[{range.length, range.last}] = range; }
     void requireModest();

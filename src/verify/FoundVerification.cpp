@@ -209,7 +209,7 @@ class FoundVerifier : private DocumentVerifier {
     bool hasTraces(const EntryRecord &entry, int first) {
         for (int i = 0; i < entry.pages; ++i) {
             requireGoingOn();
-            const auto page = static_cast<std::size_t>(first + i);
+            const auto page = static_cast<std::size_t>(first) + static_cast<std::size_t>(i);
             if (page >= pages().size() || !frameFault(pages()[page], entry.text.page).isEmpty() ||
                 !textFault(checks().contentsOf(pages()[page]), entry.text,
                            static_cast<std::size_t>(i))

@@ -50,7 +50,7 @@ bool haveSameSamples(QPDFObjectHandle source, QPDFObjectHandle written) {
                                [&](auto key) { return hasSame(source, written, key); });
 }
 
-bool isReadAlike(QPDFObjectHandle source, QPDFObjectHandle written, ColorChange change) {
+bool isReadAlike(const QPDFObjectHandle &source, QPDFObjectHandle written, ColorChange change) {
     const bool isTurnedBack = change == ColorChange::Grey && !written.hasKey("/Decode");
     return (isTurnedBack || hasSame(source, written, "/Decode")) &&
            opacityInData(source) == opacityInData(written);

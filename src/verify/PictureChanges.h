@@ -28,6 +28,6 @@ bool haveSameSamples(QPDFObjectHandle source, QPDFObjectHandle written);
 
 /// Whether `written` says of samples that were made anew what `source` says of its own: what they
 /// stand for, and whether there is opacity in them.
-bool isReadAlike(QPDFObjectHandle source, QPDFObjectHandle written, ColorChange change);
+bool isReadAlike(const QPDFObjectHandle &source, QPDFObjectHandle written, ColorChange change);
 
 } // namespace folioforge

@@ -103,7 +103,7 @@ QString textFault(const PageContents &contents, const TextRecord &record, std::s
 }
 
 QString frameFault(const SourcePage &page, QSizeF size) {
-    const QString differs = Reasons::tr("it has another size");
+    QString differs = Reasons::tr("it has another size");
     const std::array<double, 4> wanted{0, 0, size.width(), size.height()};
     const auto box = items(ComparedDocument::valueOf(page, "/MediaBox"));
     constexpr double kTolerance = 0.001;
@@ -165,7 +165,7 @@ PageContents WrittenPages::contentsOf(const SourcePage &page) {
 
 QString WrittenPages::pictureFault(const SourcePage &page, const PictureRecord &record,
                                    SourceReader &reader) {
-    if (const QString fault = frameFault(page, record.page); !fault.isEmpty()) {
+    if (QString fault = frameFault(page, record.page); !fault.isEmpty()) {
         return fault;
     }
     const ReadPage read = readContents(contentsOf(page), 0);

@@ -34,7 +34,9 @@ QByteArray identifierOf(const QByteArray &pdf) {
 /// What `work` writes to standard error.
 template<typename Work> QByteArray printedBy(Work &&work) {
     QTemporaryFile file;
-    file.open();
+    if (!file.open()) {
+        return "no file for what is printed";
+    }
     const int before = ::dup(STDERR_FILENO);
     ::dup2(file.handle(), STDERR_FILENO);
     work();

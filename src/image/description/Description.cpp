@@ -86,7 +86,7 @@ QString ownDescription(const QString &path, SystemCalls &calls) {
          {descriptionInXmp(blocks.xmp.value_or(QByteArray())),
           captionInIptc(blocks.iptc.value_or(QByteArray())),
           decoded(blocks.exif.value_or(QByteArray())), blocks.text.value_or(QString())}) {
-        if (const QString description = tidied(text); !description.isEmpty()) {
+        if (QString description = tidied(text); !description.isEmpty()) {
             return description;
         }
     }

@@ -14,6 +14,7 @@
 #include "image/formats/PsdMetadata.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace folioforge {
 
@@ -122,9 +123,9 @@ void addJpeg2000Blocks(const FileView &file, DescriptionBlocks &blocks) {
         if (box->type == "uuid") {
             addUuidBox(box->content, blocks);
         } else if (box->type == "xml ") {
-            const QByteArray xml = box->content.read(0, kMaxDescriptionBytes);
+            QByteArray xml = box->content.read(0, kMaxDescriptionBytes);
             if (xml.contains(kRdf)) { // Else no XMP.
-                takeFirst(blocks.xmp, [&] { return xml; });
+                takeFirst(blocks.xmp, [&] { return std::move(xml); });
             }
         }
     }

@@ -121,7 +121,7 @@ const ImportedOutputIntents *DocumentCatalog::outputIntents() const {
     return found == m_documents.end() ? nullptr : &found->document.outputIntents;
 }
 
-void DocumentCatalog::claimArchive(Claims claims, QPDFObjectHandle outputIntent) {
+void DocumentCatalog::claimArchive(Claims claims, const QPDFObjectHandle &outputIntent) {
     m_archive = std::move(claims);
     m_outputIntents.keepFirst(outputIntent);
 }

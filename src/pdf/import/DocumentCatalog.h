@@ -45,7 +45,7 @@ class DocumentCatalog {
     void addFile(const QPDFObjectHandle &file, int page) { m_files.push_back({page, file}); }
     /// Lets the document say that it keeps the standard for archives of `claims`, with
     /// `outputIntent` where no source has one. To be called before finish().
-    void claimArchive(Claims claims, QPDFObjectHandle outputIntent);
+    void claimArchive(Claims claims, const QPDFObjectHandle &outputIntent);
     /// What the first output intent of a source says of the colours; none without one.
     [[nodiscard]] const ImportedOutputIntents *outputIntents() const;
 

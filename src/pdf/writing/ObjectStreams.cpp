@@ -93,6 +93,7 @@ void ObjectStreams::add(Kind kind, int number, std::string_view object) {
 std::vector<ObjectStreams::Packed>
 ObjectStreams::Packer::packed(const std::vector<Stream> &streams) {
     std::vector<Packed> packed;
+    packed.reserve(streams.size());
     for (const Stream &stream : streams) {
         packed.push_back({stream.number, this->packed(stream)});
     }
