@@ -13,6 +13,9 @@ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DFOLIOFORGE_F
     -DFOLIOFORGE_PREVIEW=OFF -DFOLIOFORGE_FUZZED_BUNDLE=/out/Folioforge.app
 cmake --build "$build" --target fuzzers
 
+# No program names the libraries that are loaded when a file needs them.
+loaded=("$(dirname "$(c++ -print-file-name=libjxl.so)")"/lib{heif,jxl}.so.*)
+
 mkdir -p "$OUT/lib" "$OUT/Folioforge.app/Contents/Resources"
 cp resources/filters/*.qfilter "$OUT/Folioforge.app/Contents/Resources"
 
@@ -29,7 +32,7 @@ for arguments in "$build"/tests/fuzz/fuzz_*.arguments; do
     done <"$arguments"
     printf '[libfuzzer]\nmax_len = 65536\n' >"$OUT/$name.options"
     # The C library itself is the machine's own.
-    ldd "$program" | awk '$3 ~ /^\// { print $3 }' |
-        grep -Ev '/(ld-linux|libc|libm|libdl|libpthread|librt|libresolv)[.-]' |
+    { printf '%s\n' "${loaded[@]}"; ldd "$program" "${loaded[@]}" | awk '$3 ~ /^\// { print $3 }'; } |
+        sort -u | grep -Ev '/(ld-linux|libc|libm|libdl|libpthread|librt|libresolv)[.-]' |
         xargs cp -u -L -t "$OUT/lib"
 done
