@@ -55,8 +55,8 @@ endfunction()
 # folioforge_tests(ROOM UNITS ... [SOURCES ...] LINKS ... [HEADERS ...] [APPLICATION CLASS]
 # [LONG ...] [PLAIN ...]): the test program of a room, test_ROOM, made of each <Unit>Test.cpp of this folder
 # and of SOURCES. CTest runs it once for each unit, named ROOM.Unit. HEADERS are compiled ahead, instead of
-# those of folioforge_test_support; NONE are in a room of few units. CLASS is that of the application object, else QCoreApplication. The units
-# that take longest are named LONG: CTest begins with them.
+# those of folioforge_test_support; NONE are in a room of few units. CLASS is that of the application
+# object, else QCoreApplication. The units that take longest are named LONG: CTest begins with them.
 #
 # Units that show more without sanitizers, such as what limits memory, are named PLAIN and have that label.
 function(folioforge_tests room)
