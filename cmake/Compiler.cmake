@@ -23,6 +23,11 @@ target_link_libraries(folioforge_program INTERFACE folioforge_compiler)
 if(FOLIOFORGE_SANITIZE)
     target_compile_options(folioforge_program INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    # To look at each pointer before it is used takes a third of the time that building takes, and
+    # AddressSanitizer stops at a null pointer anyway. The fuzz targets do, as they read strangers' bytes.
+    if(NOT FOLIOFORGE_FUZZ)
+        target_compile_options(folioforge_program INTERFACE -fno-sanitize=null,alignment)
+    endif()
     target_link_options(folioforge_compiler INTERFACE -fsanitize=address,undefined)
 endif()
 
