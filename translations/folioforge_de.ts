@@ -33,6 +33,7 @@ libwebp, BSD licence
 libheif, GNU Lesser General Public License 3
 libjxl, BSD licence
 libdeflate, MIT licence
+jemalloc, BSD licence
 ICU, Unicode License
 PDFium, BSD licence</source>
         <translation>Folioforge ist freie Software von Vesprin unter der Apache-Lizenz, Version 2.0.
@@ -52,6 +53,7 @@ libwebp, BSD licence
 libheif, GNU Lesser General Public License 3
 libjxl, BSD licence
 libdeflate, MIT licence
+jemalloc, BSD licence
 ICU, Unicode License
 PDFium, BSD licence</translation>
     </message>

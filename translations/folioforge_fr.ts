@@ -33,6 +33,7 @@ libwebp, BSD licence
 libheif, GNU Lesser General Public License 3
 libjxl, BSD licence
 libdeflate, MIT licence
+jemalloc, BSD licence
 ICU, Unicode License
 PDFium, BSD licence</source>
         <translation>Folioforge est un logiciel libre de Vesprin sous licence Apache, version 2.0.
@@ -52,6 +53,7 @@ libwebp, BSD licence
 libheif, GNU Lesser General Public License 3
 libjxl, BSD licence
 libdeflate, MIT licence
+jemalloc, BSD licence
 ICU, Unicode License
 PDFium, BSD licence</translation>
     </message>

@@ -33,6 +33,7 @@ libwebp, BSD licence
 libheif, GNU Lesser General Public License 3
 libjxl, BSD licence
 libdeflate, MIT licence
+jemalloc, BSD licence
 ICU, Unicode License
 PDFium, BSD licence</source>
         <translation>Folioforge 是 Vesprin 的自由软件，采用 Apache 许可证 2.0 版。
@@ -52,6 +53,7 @@ libwebp, BSD licence
 libheif, GNU Lesser General Public License 3
 libjxl, BSD licence
 libdeflate, MIT licence
+jemalloc, BSD licence
 ICU, Unicode License
 PDFium, BSD licence</translation>
     </message>

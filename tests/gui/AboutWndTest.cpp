@@ -80,7 +80,7 @@ class AboutWndTest : public QObject {
         const QString licences = about.window().findChild<QPlainTextEdit *>()->toPlainText();
         for (const char *library : {"Qt 6", "qpdf", "HarfBuzz", "FreeType", "fontconfig",
                                     "libjpeg-turbo", "LibTIFF", "OpenJPEG", "OpenEXR", "libdeflate",
-                                    "ICU", "giflib", "libwebp", "libheif", "libjxl"}) {
+                                    "ICU", "giflib", "libwebp", "libheif", "libjxl", "jemalloc"}) {
             QVERIFY2(licences.contains(QLatin1StringView(library)), library);
         }
     }
