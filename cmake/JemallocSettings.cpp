@@ -2,6 +2,6 @@
 
 #include <jemalloc/jemalloc.h>
 
-/// One arena for all threads, since jemalloc reads the null pointer of one that there is no memory to
-/// make. Few threads work at once, and each has a cache of its own in front of the arena.
+/// One arena for all threads, since jemalloc reads the null pointer of one that there is no memory
+/// to make. Few threads work at once, and each has a cache of its own in front of the arena.
 const char *malloc_conf = "narenas:1";
