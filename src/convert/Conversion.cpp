@@ -4,6 +4,7 @@
 
 #include "convert/FailureReason.h"
 #include "convert/PageWriters.h"
+#include "convert/PicturesAhead.h"
 #include "convert/SourceType.h"
 #include "convert/Verifying.h"
 #include "error/Error.h"
@@ -27,7 +28,8 @@ namespace folioforge {
 namespace {
 
 void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOptions &options,
-              const std::stop_token &stop, EntryOutcome &outcome, EntryRecord *record) {
+              PicturesAhead &pictures, const std::stop_token &stop, EntryOutcome &outcome,
+              EntryRecord *record) {
     const PDFContext::Mark before = context.mark();
     const FileVersion file = options.archive && options.archive->embedSources
                                  ? FileVersion::of(entry.filePathName())
@@ -50,7 +52,7 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
     case FileKind::Image:
     case FileKind::FurtherImage:
     case FileKind::Other: {
-        WrittenImage image = addImagePages(entry, context, options, record);
+        WrittenImage image = addImagePages(entry, context, options, pictures, record);
         type = mimeTypeOf(image.kind);
         outcome.embeddedAs = image.embeddedAs;
         outcome.warnings = std::move(image.warnings);
@@ -67,14 +69,15 @@ void addPages(const PDFFileInfo &entry, PDFContext &context, const ConversionOpt
 }
 
 EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
-                        const ConversionOptions &options, const std::stop_token &stop,
-                        EntryRecord &record) {
+                        const ConversionOptions &options, PicturesAhead &pictures,
+                        const std::stop_token &stop, EntryRecord &record) {
     QElapsedTimer timer;
     timer.start();
     EntryOutcome outcome;
     const PDFContext::Mark before = context.mark();
     const QString failure = reasonOfFailure([&] {
-        addPages(entry, context, options, stop, outcome, options.keepsRecord() ? &record : nullptr);
+        addPages(entry, context, options, pictures, stop, outcome,
+                 options.keepsRecord() ? &record : nullptr);
     });
     outcome.written = failure.isEmpty();
     if (!outcome.written) {
@@ -280,10 +283,11 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                               .calls = calls});
     PDFOutcome outcome;
     DocumentRecord record;
+    PicturesAhead pictures(entries, options);
     for (std::size_t i = 0; i < entries.size() && !stop.stop_requested(); ++i) {
         const int firstPage = context.pageCount();
         outcome.entries.push_back(
-            writeEntry(*entries[i], context, options, stop, record.emplace_back()));
+            writeEntry(*entries[i], context, options, pictures, stop, record.emplace_back()));
         if (hasThoseOfFiles(options.bookmarks) && context.pageCount() > firstPage) {
             context.addBookmark(entries[i]->bookmarkTitle(), firstPage);
         }

@@ -5,6 +5,7 @@
 #include "compress/QuartzFilter.h"
 #include "convert/ImagePlacement.h"
 #include "convert/PictureDescriptions.h"
+#include "image/PdfImage.h"
 #include "pdf/PDFContext.h"
 #include "text/FontCascade.h"
 #include "text/PageSetup.h"
@@ -105,6 +106,9 @@ struct ConversionOptions {
     [[nodiscard]] bool compresses() const { return compressIndex != 0 || compressFilter; }
     /// Whether no PDF is written, nor is one held against the entries.
     [[nodiscard]] bool isTrial() const { return dryRun && verifyOnly.isEmpty(); }
+    [[nodiscard]] SourceMetadata sourceMetadata() const {
+        return stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep;
+    }
     /// Whether what pages have to show is recorded.
     [[nodiscard]] bool keepsRecord() const { return verify || !verifyOnly.isEmpty(); }
 };

@@ -267,8 +267,9 @@ Warnings addMarginTexts(const PDFFileInfo &entry, int first, int pages, PDFConte
 }
 
 WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
-                           const ConversionOptions &options, EntryRecord *record) {
-    const auto metadata = options.stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep;
+                           const ConversionOptions &options, PicturesAhead &pictures,
+                           EntryRecord *record) {
+    const SourceMetadata metadata = options.sourceMetadata();
     WrittenImage written;
     written.embeddedAs = EmbeddedAs::OwnBytes;
     Descriptions descriptions(entry, options);
@@ -293,7 +294,7 @@ WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
     if (options.allPictures) {
         written.warnings = forEachPicture(entry.filePathName(), options.calls, metadata, draw);
     } else {
-        PdfImage image = toPdfImage(entry.filePathName(), options.calls, metadata);
+        PdfImage image = pictures.take(entry);
         written.warnings = std::exchange(image.warnings, {});
         draw(std::move(image));
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "convert/ConversionOptions.h"
+#include "convert/PicturesAhead.h"
 #include "error/Warning.h"
 #include "filelist/PDFFileInfo.h"
 #include "image/PdfImage.h"
@@ -38,10 +39,11 @@ struct WrittenImage {
     Warnings warnings;                                ///< What of the file is not on the page.
 };
 
-/// Adds one page with the image of `entry`, which is read through the calls of `options`, or a page
-/// for each image where these ask for all. Throws Error when none can be read.
+/// Adds one page with the image of `entry`, one of `pictures`, or a page for each image of its file
+/// where the options ask for all. Throws Error when none can be read.
 WrittenImage addImagePages(const PDFFileInfo &entry, PDFContext &context,
-                           const ConversionOptions &options, EntryRecord *record = nullptr);
+                           const ConversionOptions &options, PicturesAhead &pictures,
+                           EntryRecord *record = nullptr);
 
 /// Adds the pages of the entry's PDF that it chooses. Throws Error when it cannot be opened.
 AddedDocument addPDFFile(const PDFFileInfo &entry, PDFContext &context,

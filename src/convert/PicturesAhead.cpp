@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "convert/PicturesAhead.h"
+
+#include <QScopeGuard>
+
+#include <system_error>
+#include <utility>
+
+namespace folioforge {
+
+namespace {
+
+/// Pictures that are read at once. Each takes the memory of its pixels meanwhile.
+constexpr unsigned kAtOnce = 2;
+/// Pictures before their turn: some are read in no time, others take a thousand times as long.
+constexpr std::size_t kMaxAhead = 16;
+constexpr qint64 kMaxKeptBytes = 32 << 20;
+
+bool isPicture(const PDFFileInfo &entry) {
+    return entry.kind() != FileKind::Text && entry.kind() != FileKind::Pdf;
+}
+
+qint64 bytesOf(const PdfImage &image) {
+    return image.data.size() + (image.softMask ? image.softMask->data.size() : 0);
+}
+
+} // namespace
+
+PicturesAhead::PicturesAhead(std::span<const PDFFileInfo *const> entries,
+                             const ConversionOptions &options)
+    : m_options(options) {
+    for (const PDFFileInfo *entry : entries) {
+        if (isPicture(*entry)) {
+            m_pictures.push_back({entry, false, {}});
+        }
+    }
+}
+
+PicturesAhead::~PicturesAhead() {
+    const std::lock_guard lock(m_mutex);
+    m_pictures.clear();
+    m_changed.notify_all();
+}
+
+/// Threads that stay keep what compressing needs from one picture to the next.
+void PicturesAhead::start() {
+    const bool isWorthIt = m_pictures.size() > 1 && std::thread::hardware_concurrency() >= kAtOnce;
+    try {
+        while (isWorthIt && m_workers.size() < kAtOnce) {
+            m_workers.emplace_back([this] { work(); });
+        }
+    } catch (const std::system_error &) {
+        // The system has no further thread. Those that there are do all.
+    }
+}
+
+PdfImage PicturesAhead::take(const PDFFileInfo &entry) {
+    if (m_taken == 0) {
+        start();
+    }
+    std::unique_lock lock(m_mutex);
+    Picture &picture = m_pictures.at(m_taken++);
+    if (m_workers.empty()) {
+        return read(entry);
+    }
+    m_changed.notify_all();
+    m_changed.wait(lock, [&] { return picture.isDone; });
+    if (!picture.image) {
+        return readAlone(entry, lock);
+    }
+    m_keptBytes -= bytesOf(*picture.image);
+    m_changed.notify_all();
+    return *std::exchange(picture.image, std::nullopt);
+}
+
+/// Others may have taken the memory that the picture needs.
+PdfImage PicturesAhead::readAlone(const PDFFileInfo &entry, std::unique_lock<std::mutex> &lock) {
+    m_waits = true;
+    m_changed.wait(lock, [this] { return m_working == 0; });
+    lock.unlock();
+    const auto goOn = qScopeGuard([&] {
+        lock.lock();
+        m_waits = false;
+        m_changed.notify_all();
+    });
+    return read(entry);
+}
+
+PdfImage PicturesAhead::read(const PDFFileInfo &entry) const {
+    return toPdfImage(entry.filePathName(), m_options.calls, m_options.sourceMetadata());
+}
+
+bool PicturesAhead::mayBegin() const {
+    return !m_waits && m_begun < m_pictures.size() && m_begun < m_taken + kMaxAhead &&
+           (m_begun < m_taken || m_keptBytes < kMaxKeptBytes);
+}
+
+void PicturesAhead::work() {
+    std::unique_lock lock(m_mutex);
+    while (m_begun < m_pictures.size()) {
+        if (!mayBegin()) {
+            m_changed.wait(lock);
+            continue;
+        }
+        const std::size_t index = m_begun++;
+        const PDFFileInfo &entry = *m_pictures[index].entry;
+        ++m_working;
+        lock.unlock();
+        std::optional<PdfImage> image;
+        try {
+            image = read(entry);
+        } catch (const std::exception &) {
+            // It is read again when its turn comes, and fails then where it has to.
+        }
+        lock.lock();
+        --m_working;
+        if (index < m_pictures.size()) {
+            m_keptBytes += image ? bytesOf(*image) : 0;
+            m_pictures[index].image = std::move(image);
+            m_pictures[index].isDone = true;
+        }
+        m_changed.notify_all();
+    }
+}
+
+} // namespace folioforge

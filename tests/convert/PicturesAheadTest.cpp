@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: Apache-2.0
+
+#include "convert/PicturesAhead.h"
+
+#include "ConversionCase.h"
+#include "files/SystemCalls.h"
+#include "support/TestUnit.h"
+
+#include <QImage>
+
+#include <cerrno>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <set>
+#include <string_view>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+using namespace folioforge;
+
+namespace {
+
+std::string nameIn(const char *path) {
+    const std::string_view whole(path);
+    return std::string(whole.substr(whole.rfind('/') + 1));
+}
+
+/// Lets the first file wait until the second one is opened, too.
+class WaitingCalls final : public SystemCalls {
+  public:
+    int open(const char *path, int flags, mode_t mode) override {
+        std::unique_lock lock(m_mutex);
+        m_opened.insert(nameIn(path));
+        m_changed.notify_all();
+        if (nameIn(path) == "0.bmp") {
+            hasMet = m_changed.wait_for(lock, std::chrono::seconds(20),
+                                        [this] { return m_opened.contains("1.bmp"); });
+        }
+        return SystemCalls::open(path, flags, mode);
+    }
+
+    bool hasMet = false;
+
+  private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::set<std::string> m_opened;
+};
+
+/// Has no memory to open the second file, once.
+class ScarceCalls final : public SystemCalls {
+  public:
+    int open(const char *path, int flags, mode_t mode) override {
+        const std::lock_guard lock(m_mutex);
+        if (nameIn(path) == "1.bmp" && !hasFailed) {
+            hasFailed = true;
+            errno = ENOMEM;
+            return -1;
+        }
+        return SystemCalls::open(path, flags, mode);
+    }
+
+    bool hasFailed = false;
+
+  private:
+    std::mutex m_mutex;
+};
+
+} // namespace
+
+/// Pictures that are read before their turn, several at once.
+class PicturesAheadTest : public QObject, protected test::ConversionCase {
+    Q_OBJECT
+
+    /// Pictures 0.bmp and on of those widths, as pixels and as points.
+    void addPictures(const std::vector<int> &widths) {
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            QImage image(widths[i], 100, QImage::Format_RGB32);
+            image.fill(Qt::darkCyan);
+            image.setDotsPerMeterX(2835);
+            image.setDotsPerMeterY(2835);
+            const QString file = path(qPrintable(u"%1.bmp"_s.arg(i)));
+            QVERIFY(image.save(file));
+            addFile(file);
+        }
+    }
+
+  private Q_SLOTS:
+    void init() { setUp(); }
+
+    void pagesStandInTheOrderOfTheList() {
+        const std::vector<int> widths{3000, 20, 2000, 40, 1000, 60}; // The small ones are done first.
+        addPictures(widths);
+        const test::PdfProbe probe(converted("out/all.pdf"));
+        QCOMPARE(probe.pageCount(), int(widths.size()));
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            QCOMPARE(probe.box(u"MediaBox"_s, int(i) + 1).width(), widths[i]);
+        }
+    }
+
+    void aPictureIsReadWhileTheOneBeforeItIs() {
+        if (std::thread::hardware_concurrency() < 2) {
+            QSKIP("One core reads one picture at a time");
+        }
+        addPictures({30, 20});
+        WaitingCalls calls;
+        m_options.calls = calls;
+        converted("out/all.pdf");
+        QVERIFY(calls.hasMet);
+    }
+
+    void whatFailsBesideOthersIsTriedAgainAlone() {
+        addPictures({30, 20, 10});
+        ScarceCalls calls;
+        m_options.calls = calls;
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"));
+        QVERIFY(calls.hasFailed);
+        QCOMPARE(outcome.entries.at(1).reason, QString());
+        QCOMPARE(outcome.pages(), 3);
+    }
+
+    void aPictureThatCannotBeReadLeavesTheOthersInTheirOrder() {
+        addPictures({30, 20, 10});
+        test::writeFile(path("1.bmp"), "BM, and no picture");
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"));
+        QVERIFY(!outcome.entries.at(1).reason.isEmpty());
+        const test::PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.pageCount(), 2);
+        QCOMPARE(probe.box(u"MediaBox"_s, 1).width(), 30);
+        QCOMPARE(probe.box(u"MediaBox"_s, 2).width(), 10);
+    }
+};
+
+FOLIOFORGE_TEST(PicturesAheadTest)
+#include "PicturesAheadTest.moc"
