@@ -90,7 +90,8 @@ class PicturesAheadTest : public QObject, protected test::ConversionCase {
     void init() { setUp(); }
 
     void pagesStandInTheOrderOfTheList() {
-        const std::vector<int> widths{3000, 20, 2000, 40, 1000, 60}; // The small ones are done first.
+        const std::vector<int> widths{3000, 20,   2000,
+                                      40,   1000, 60}; // The small ones are done first.
         addPictures(widths);
         const test::PdfProbe probe(converted("out/all.pdf"));
         QCOMPARE(probe.pageCount(), int(widths.size()));
