@@ -35,6 +35,10 @@ PicturesAhead::PicturesAhead(std::span<const PDFFileInfo *const> entries,
             m_pictures.push_back({entry, false, {}});
         }
     }
+    if (m_pictures.size() > 1 && !options.allPictures &&
+        std::thread::hardware_concurrency() >= kAtOnce) {
+        start();
+    }
 }
 
 PicturesAhead::~PicturesAhead() {
@@ -45,9 +49,8 @@ PicturesAhead::~PicturesAhead() {
 
 /// Threads that stay keep what compressing needs from one picture to the next.
 void PicturesAhead::start() {
-    const bool isWorthIt = m_pictures.size() > 1 && std::thread::hardware_concurrency() >= kAtOnce;
     try {
-        while (isWorthIt && m_workers.size() < kAtOnce) {
+        while (m_workers.size() < kAtOnce) {
             m_workers.emplace_back([this] { work(); });
         }
     } catch (const std::system_error &) {
@@ -56,22 +59,27 @@ void PicturesAhead::start() {
 }
 
 PdfImage PicturesAhead::take(const PDFFileInfo &entry) {
-    if (m_taken == 0) {
-        start();
-    }
-    std::unique_lock lock(m_mutex);
-    Picture &picture = m_pictures.at(m_taken++);
     if (m_workers.empty()) {
         return read(entry);
     }
+    std::unique_lock lock(m_mutex);
+    while (m_pictures.at(m_taken).entry != &entry) {
+        takeNext(lock); // Of an entry that failed before it had a picture.
+    }
+    if (auto image = takeNext(lock)) {
+        return std::move(*image);
+    }
+    return readAlone(entry, lock);
+}
+
+/// The next picture, once it was read; nothing where it could not be.
+std::optional<PdfImage> PicturesAhead::takeNext(std::unique_lock<std::mutex> &lock) {
+    Picture &picture = m_pictures[m_taken++];
     m_changed.notify_all();
     m_changed.wait(lock, [&] { return picture.isDone; });
-    if (!picture.image) {
-        return readAlone(entry, lock);
-    }
-    m_keptBytes -= bytesOf(*picture.image);
+    m_keptBytes -= picture.image ? bytesOf(*picture.image) : 0;
     m_changed.notify_all();
-    return *std::exchange(picture.image, std::nullopt);
+    return std::exchange(picture.image, std::nullopt);
 }
 
 /// Others may have taken the memory that the picture needs.

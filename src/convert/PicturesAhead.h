@@ -39,6 +39,7 @@ class PicturesAhead {
     void work();
     [[nodiscard]] bool mayBegin() const;
     [[nodiscard]] PdfImage read(const PDFFileInfo &entry) const;
+    std::optional<PdfImage> takeNext(std::unique_lock<std::mutex> &lock);
     PdfImage readAlone(const PDFFileInfo &entry, std::unique_lock<std::mutex> &lock);
 
     const ConversionOptions &m_options;

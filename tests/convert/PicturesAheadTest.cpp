@@ -131,6 +131,19 @@ class PicturesAheadTest : public QObject, protected test::ConversionCase {
         QCOMPARE(probe.box(u"MediaBox"_s, 1).width(), 30);
         QCOMPARE(probe.box(u"MediaBox"_s, 2).width(), 10);
     }
+
+    void anEntryThatFailsBeforeItHasAPictureGivesItToNoOther() {
+        addPictures({30, 20, 10});
+        QVERIFY(QFile::remove(path("0.bmp")));
+        m_options.archive.emplace().level = ArchiveLevel::PdfA3u;
+        m_options.archive->embedSources = true; // For which the file is looked at first.
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"));
+        QVERIFY(!outcome.entries.at(0).reason.isEmpty());
+        const test::PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.pageCount(), 2);
+        QCOMPARE(probe.box(u"MediaBox"_s, 1).width(), 20);
+        QCOMPARE(probe.box(u"MediaBox"_s, 2).width(), 10);
+    }
 };
 
 FOLIOFORGE_TEST(PicturesAheadTest)
