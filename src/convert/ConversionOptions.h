@@ -106,6 +106,7 @@ struct ConversionOptions {
     [[nodiscard]] bool compresses() const { return compressIndex != 0 || compressFilter; }
     /// Whether no PDF is written, nor is one held against the entries.
     [[nodiscard]] bool isTrial() const { return dryRun && verifyOnly.isEmpty(); }
+    /// What becomes of what nobody needs to see a picture.
     [[nodiscard]] SourceMetadata sourceMetadata() const {
         return stripMetadata ? SourceMetadata::Strip : SourceMetadata::Keep;
     }

@@ -3,6 +3,7 @@
 #include "convert/PageWriters.h"
 
 #include "convert/ImagePlacement.h"
+#include "convert/PicturesAhead.h"
 #include "convert/TextRecorder.h"
 #include "error/Error.h"
 #include "error/Reasons.h"

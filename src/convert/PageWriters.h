@@ -3,7 +3,6 @@
 #pragma once
 
 #include "convert/ConversionOptions.h"
-#include "convert/PicturesAhead.h"
 #include "error/Warning.h"
 #include "filelist/PDFFileInfo.h"
 #include "image/PdfImage.h"
@@ -15,6 +14,8 @@
 #include <stop_token>
 
 namespace folioforge {
+
+class PicturesAhead;
 
 /// Adds the pages of a text entry to `context`: at least one, blank where the text is empty or not
 /// valid. Returns what of the text is not on them. Ends at the next page once `stop` is requested.

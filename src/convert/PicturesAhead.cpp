@@ -13,8 +13,9 @@ namespace {
 
 /// Pictures that are read at once. Each takes the memory of its pixels meanwhile.
 constexpr unsigned kAtOnce = 2;
-/// Pictures before their turn: some are read in no time, others take a thousand times as long.
-constexpr std::size_t kMaxAhead = 16;
+/// Pictures before their turn: some are read in no time, others take a thousand times as long. Each
+/// may keep its file open.
+constexpr std::size_t kMaxAhead = 8;
 constexpr qint64 kMaxKeptBytes = 32 << 20;
 
 bool isPicture(const PDFFileInfo &entry) {
@@ -35,7 +36,9 @@ PicturesAhead::PicturesAhead(std::span<const PDFFileInfo *const> entries,
             m_pictures.push_back({entry, false, {}});
         }
     }
-    if (m_pictures.size() > 1 && !options.allPictures &&
+    // A file that is attached, too, must be the one that its page shows: it is read in its turn.
+    const bool isAttached = options.archive && options.archive->embedSources;
+    if (m_pictures.size() > 1 && !options.allPictures && !isAttached &&
         std::thread::hardware_concurrency() >= kAtOnce) {
         start();
     }
@@ -47,8 +50,10 @@ PicturesAhead::~PicturesAhead() {
     m_changed.notify_all();
 }
 
-/// Threads that stay keep what compressing needs from one picture to the next.
+/// The threads stay, since the allocator keeps memory for each: the next picture need not ask for
+/// it.
 void PicturesAhead::start() {
+    m_workers.reserve(kAtOnce);
     try {
         while (m_workers.size() < kAtOnce) {
             m_workers.emplace_back([this] { work(); });
@@ -118,7 +123,7 @@ void PicturesAhead::work() {
         std::optional<PdfImage> image;
         try {
             image = read(entry);
-        } catch (const std::exception &) {
+        } catch (...) {
             // It is read again when its turn comes, and fails then where it has to.
         }
         lock.lock();

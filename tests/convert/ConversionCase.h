@@ -17,6 +17,15 @@
 
 namespace folioforge::test {
 
+/// Stops the run as soon as one entry is done.
+class Stopper : public ConversionObserver {
+  public:
+    void progressChanged(float) override { source.request_stop(); }
+    void entryDone(std::size_t, bool) override {}
+
+    std::stop_source source;
+};
+
 /// A list of entries, and "out", where their PDFs go.
 class ConversionCase {
   protected:

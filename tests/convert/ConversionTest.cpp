@@ -25,6 +25,7 @@
 using namespace Qt::StringLiterals;
 using namespace folioforge;
 using test::PdfProbe;
+using test::Stopper;
 
 namespace {
 
@@ -38,15 +39,6 @@ class Recorder : public ConversionObserver {
 
     QList<float> values;
     QStringList entries;
-};
-
-/// Stops the run as soon as one entry is done.
-class Stopper : public ConversionObserver {
-  public:
-    void progressChanged(float) override { source.request_stop(); }
-    void entryDone(std::size_t, bool) override {}
-
-    std::stop_source source;
 };
 
 /// Pixels that cannot be compressed, with a colour profile.

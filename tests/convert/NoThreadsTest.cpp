@@ -52,6 +52,21 @@ class NoThreadsTest : public QObject, CompressionCase {
         QVERIFY(probe.text(probe.pageCount()).contains(u"line number 49999\n"_s));
     }
 
+    void severalPicturesAreWritten() {
+        std::vector<std::unique_ptr<PDFFileInfo>> list;
+        std::vector<const PDFFileInfo *> entries;
+        for (int i = 0; i < 3; ++i) {
+            const QString file = path(u"%1.bmp"_s.arg(i));
+            QVERIFY(photo(100 + i, 50, QImage::Format_RGB32).save(file));
+            entries.push_back(list.emplace_back(std::make_unique<PDFFileInfo>(file)).get());
+        }
+        ConversionOptions options;
+        options.outputFolder = m_folder->path();
+        const NoThreads none;
+        QCOMPARE(createPDF(entries, m_path, options).pages(), 3);
+        QVERIFY(none.refused() > 0 || std::thread::hardware_concurrency() == 1);
+    }
+
     void aPictureAndItsOpacityAreWritten() {
         constexpr int kSide = 700;
         QImage picture = photo(kSide, kSide, QImage::Format_RGBA8888);

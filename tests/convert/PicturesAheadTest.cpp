@@ -121,6 +121,15 @@ class PicturesAheadTest : public QObject, protected test::ConversionCase {
         QCOMPARE(outcome.pages(), 3);
     }
 
+    void aStopEndsWhatIsReadAhead() {
+        addPictures(std::vector<int>(40, 900));
+        test::Stopper stopper;
+        const PDFOutcome outcome =
+            convertTo(path("out/all.pdf"), &stopper, stopper.source.get_token());
+        QCOMPARE(outcome.entries.size(), 1);
+        QVERIFY(outputs().isEmpty());
+    }
+
     void aPictureThatCannotBeReadLeavesTheOthersInTheirOrder() {
         addPictures({30, 20, 10});
         test::writeFile(path("1.bmp"), "BM, and no picture");
@@ -135,8 +144,7 @@ class PicturesAheadTest : public QObject, protected test::ConversionCase {
     void anEntryThatFailsBeforeItHasAPictureGivesItToNoOther() {
         addPictures({30, 20, 10});
         QVERIFY(QFile::remove(path("0.bmp")));
-        m_options.archive.emplace().level = ArchiveLevel::PdfA3u;
-        m_options.archive->embedSources = true; // For which the file is looked at first.
+        m_options.tagged = true; // For which the file is looked at first.
         const PDFOutcome outcome = convertTo(path("out/all.pdf"));
         QVERIFY(!outcome.entries.at(0).reason.isEmpty());
         const test::PdfProbe probe(outcome.close.path);
