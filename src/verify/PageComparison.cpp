@@ -97,6 +97,9 @@ QString PageComparison::fault(std::size_t index) {
         if (key == "/MediaBox" && source.isNull()) {
             source = Object::parse("[0 0 612 792]"); // As readers show it.
         }
+        if (key == "/Resources" && source.isNull()) {
+            source = Object::newDictionary();
+        }
         const bool isSame = key == "/Rotate"                           ? isSameTurn(index)
                             : key == "/B" && !m_choice.range.isEmpty() ? true
                             : key == "/Annots" && !m_choice.range.isEmpty()

@@ -3,6 +3,7 @@
 #include "VerificationCase.h"
 #include "error/Error.h"
 #include "image/PdfImage.h"
+#include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
 #include "text/FontCascade.h"
@@ -191,6 +192,16 @@ class VerificationTest : public QObject, protected VerificationCase {
         addFile(writePdf(path("pages.pdf"), 6));
         m_list.back()->setPageChoice({"5,2-3,5", {{90, true, "1"}, {180, false, "2-3"}}});
         QCOMPARE(faults(convertTo(path("out/chosen.pdf"))), QByteArrayList());
+    }
+
+    void aPageThatLackedItsResourcesIsThatOfTheSource() {
+        PdfFixture pdf;
+        pdf.object(1, "<< /Type /Catalog /Pages 2 0 R >>")
+            .object(2, "<< /Type /Pages /Kids [3 0 R] /Count 1 >>")
+            .object(3, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] >>");
+        QVERIFY(pdf.write(path("bare.pdf")));
+        addFile(path("bare.pdf"));
+        QCOMPARE(faults(convertTo(path("out/bare.pdf"))), QByteArrayList());
     }
 
     void aProtectedPdfIsOpenedAgain() {

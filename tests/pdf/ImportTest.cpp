@@ -37,6 +37,13 @@ class ImportTest : public QObject, protected MergeCase {
         QVERIFY(!empty.hasKey("/Filter"));
     }
 
+    void aPageWithoutResourcesGetsEmptyOnes() {
+        const auto document = opened(merged({saved(onePage({}))}));
+        // By hand, since newer qpdf puts them where it lists the pages.
+        auto only = document->getRoot().getKey("/Pages").getKey("/Kids").getArrayItem(0);
+        QVERIFY(only.getKey("/Resources").isDictionary());
+    }
+
     void resourcesNamedLikeKeysOfTheStructureAreKept() {
         auto source = onePage("/StructParents 0 /Resources << /Font << /SE 3 0 R /Title 3 0 R "
                               "/StructParent 3 0 R >> /XObject << /SD 20 0 R /StructParents 20 0 R "

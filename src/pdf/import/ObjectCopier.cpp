@@ -97,6 +97,10 @@ void ObjectCopier::fillPage(const SourcePage &source, QPDFObjectHandle target) {
         // Readers show a page without one in US letter size.
         target.replaceKey("/MediaBox", QPDFObjectHandle::parse("[0 0 612 792]"));
     }
+    if (!target.hasKey("/Resources")) {
+        // It is required, of pages that need none as well.
+        target.replaceKey("/Resources", QPDFObjectHandle::newDictionary());
+    }
 }
 
 /// Gives a page that is in the tree again all that its first copy has of its own `entries`, since a
