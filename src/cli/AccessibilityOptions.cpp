@@ -3,8 +3,8 @@
 #include "cli/AccessibilityOptions.h"
 
 #include "cli/OptionValues.h"
+#include "convert/ConversionOptions.h"
 
-#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -67,7 +67,7 @@ const std::vector<Option> &accessibilityOptions() {
 void prepareTags(Arguments &arguments) {
     QString &language = arguments.options.language;
     if (language.isEmpty()) {
-        language = QLocale::system().bcp47Name();
+        language = systemLanguage();
     }
     if (arguments.altFile) {
         arguments.options.descriptions = readDescriptions(*arguments.altFile);

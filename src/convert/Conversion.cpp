@@ -15,6 +15,7 @@
 #include "pdf/import/LeftParts.h"
 
 #include <QElapsedTimer>
+#include <QLocale>
 #include <QStringList>
 
 #include <algorithm>
@@ -317,6 +318,12 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
         outcome.close = notWritten(Reasons::tr("The conversion was stopped"));
     }
     return outcome;
+}
+
+QString systemLanguage() {
+    const QLocale system = QLocale::system();
+    // Newer Qt calls "C" by a name that is no registered tag.
+    return system.language() == QLocale::C ? u"en"_s : system.bcp47Name();
 }
 
 float compressionProgress(int pageIndex, int pageCount) {

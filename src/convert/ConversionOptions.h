@@ -114,4 +114,7 @@ struct ConversionOptions {
     [[nodiscard]] bool keepsRecord() const { return verify || !verifyOnly.isEmpty(); }
 };
 
+/// The system's language as a tag (BCP 47); English where the system has none.
+QString systemLanguage();
+
 } // namespace folioforge

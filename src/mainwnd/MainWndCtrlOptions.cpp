@@ -4,6 +4,7 @@
 
 #include "convert/Bundle.h"
 #include "convert/Checks.h"
+#include "convert/ConversionOptions.h"
 #include "mainwnd/Desktop.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/Notices.h"
@@ -11,7 +12,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 #include <QSettings>
 #include <QSignalBlocker>
 
@@ -204,7 +204,7 @@ ConversionOptions MainWndCtrl::conversionOptions() const {
     options.textFont = m_ctFont;
     options.verify = m_btnVerify->isChecked();
     options.accessible = m_btnAccessible->isChecked();
-    options.language = QLocale::system().bcp47Name();
+    options.language = systemLanguage();
     if (m_btnArchive->isChecked()) {
         options.archive.emplace().level =
             options.accessible ? ArchiveLevel::PdfA2a : ArchiveLevel::PdfA2u;
