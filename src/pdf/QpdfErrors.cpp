@@ -57,8 +57,10 @@ QString inWords(const QPDFExc &error) {
     const std::string &detail = error.getMessageDetail();
     const auto cause = std::ranges::find_if(
         kCauses, [&](const Cause &known) { return contains(detail, known.sign); });
-    const QString words = cause != kCauses.end() ? Reasons::tr(cause->words)
-                                                 : Reasons::tr("an object is not well formed");
+    QString words = Reasons::tr("an object is not well formed");
+    if (cause != kCauses.end()) {
+        words = Reasons::tr(cause->words);
+    }
     static const QRegularExpression kNumber(u"object (\\d+)"_s);
     const auto match = kNumber.match(QString::fromLatin1(error.getObject()));
     return match.hasMatch() ? Reasons::tr("%1 (object %2)").arg(words, match.captured(1)) : words;
