@@ -46,7 +46,7 @@ class StandardStreamsTest : public QObject, protected CommandLineCase {
         makeNoise(image);
         for (const QString &name : {u"1.bmp"_s, u"2.bmp"_s, u"3.bmp"_s}) {
             m_noise += m_pictures.filePath(name);
-            image = image.mirrored();
+            image.invertPixels();
             QVERIFY(image.save(m_noise.last(), "BMP"));
         }
         setUp();

@@ -267,6 +267,9 @@ class FontEmbedderTest : public QObject {
         qtFont.setPixelSize(int(14 * kDpi / 72));
         qtFont.setHintingPreference(QFont::PreferNoHinting);
         qtFont.setKerning(false);
+        if (text == u"🚀") { // Newer Qt takes its font for emoji before the one that is asked for.
+            qtFont.setStyleStrategy(QFont::NoFontMerging);
+        }
         QPainterPath outline;
         outline.addText(0, 0, qtFont, text);
         const QImage expected = drawnByQt(outline);

@@ -97,8 +97,9 @@ class PDFContextTest : public QObject, protected ContextCase {
         const auto font = FontCascade::load({u"Liberation Sans"_s}, 14);
         const std::array glyphs{font->glyph(U'W')};
         // Steps of 20, of 20 again, of 3, of 3 upwards and of nearly the height of a row, 16.1.
+        // Newer mutool takes a letter that stands where the same stood for its bold.
         const QList<QPointF> places{{10, 150}, {10, 130}, {10, 110},
-                                    {10, 107}, {10, 110}, {12, 94}};
+                                    {10, 107}, {40, 110}, {12, 94}};
         PDFContext context(path, settings());
         context.setFont(font, 14);
         context.beginPage({0, 0, 100, 200});
