@@ -181,7 +181,7 @@ class NamesTest : public QObject, protected MergeCase {
                    "0 R /Fit]] >> >>",
                    "/Dest <619F>");
         const QString path = savedAs(u"a.pdf"_s, source);
-        const QString result = merged({path, path});
+        const QString result = mergedOfOdd({path, path});
         QCOMPARE(linkedPages(result), u"2 4"_s);
         const auto document = opened(result);
         auto root = document->getRoot().getKey("/Names").getKey("/Dests");

@@ -65,12 +65,21 @@ PdfProbe::PdfProbe(QString path, QString password)
     : m_path(std::move(path))
     , m_password(std::move(password)) {}
 
-bool PdfProbe::isValid(QString *log) const {
+int PdfProbe::check(QString *log) const {
     const ToolRun run = runTool(u"qpdf"_s, {u"--password="_s + m_password, u"--check"_s, m_path});
     if (log) {
         *log = QString::fromUtf8(run.out + run.err);
     }
-    return run.exitCode == 0;
+    return run.exitCode;
+}
+
+bool PdfProbe::isValid(QString *log) const {
+    return check(log) == 0;
+}
+
+bool PdfProbe::isWarnedOf() const {
+    constexpr int kWarnings = 3;
+    return check(nullptr) == kWarnings;
 }
 
 int PdfProbe::pageCount() const {

@@ -29,6 +29,8 @@ class PdfProbe {
 
     /// Whether `qpdf --check` finds neither error nor warning; what it printed goes to `log`.
     [[nodiscard]] bool isValid(QString *log = nullptr) const;
+    /// Whether it warns and finds no error.
+    [[nodiscard]] bool isWarnedOf() const;
     [[nodiscard]] int pageCount() const;
     /// A line of `pdfinfo` such as "Title"; empty when it is absent.
     [[nodiscard]] QString info(const QString &key) const;
@@ -55,6 +57,7 @@ class PdfProbe {
     [[nodiscard]] QList<QStringList> images() const;
 
   private:
+    int check(QString *log) const;
     QString m_path;
     QString m_password;
 };
