@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "gui/Drops.h"
+#include "gui/RightClick.h"
 #include "gui/TestWindow.h"
 #include "support/TestUnit.h"
 
@@ -22,8 +23,8 @@ void addFour(TestWindow &w) {
 
 QMenu *openMenu(TestWindow &w, int row) {
     const QPoint spot = w.table()->visualRect(w.ctrl.filesArray().index(row, 1)).center();
-    QTest::mouseClick(w.ctrl.window()->windowHandle(), Qt::RightButton, {},
-                      w.table()->viewport()->mapTo(w.ctrl.window(), spot));
+    rightClick(w.ctrl.window()->windowHandle(),
+               w.table()->viewport()->mapTo(w.ctrl.window(), spot));
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
@@ -155,8 +156,8 @@ class DroppingFilesTest : public QObject {
 
     void theContextMenuOfAnEmptyListOffersNothing() {
         TestWindow w;
-        QTest::mouseClick(w.ctrl.window()->windowHandle(), Qt::RightButton, {},
-                          w.table()->viewport()->mapTo(w.ctrl.window(), QPoint(60, 60)));
+        rightClick(w.ctrl.window()->windowHandle(),
+                   w.table()->viewport()->mapTo(w.ctrl.window(), QPoint(60, 60)));
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         QVERIFY(menu);
         QCOMPARE(enabledItems(*menu), QString());

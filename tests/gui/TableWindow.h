@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "gui/RightClick.h"
 #include "mainwnd/FilesArray.h"
 #include "mainwnd/SkinTableView.h"
 
@@ -72,8 +73,12 @@ struct TableWindow {
     }
     /// Presses and releases a mouse button as the window system does.
     void click(Qt::MouseButton button, const QPoint &inViewport) {
-        QTest::mouseClick(window.windowHandle(), button, {},
-                          table->viewport()->mapTo(&window, inViewport));
+        const QPoint place = table->viewport()->mapTo(&window, inViewport);
+        if (button == Qt::RightButton) {
+            rightClick(window.windowHandle(), place);
+        } else {
+            QTest::mouseClick(window.windowHandle(), button, {}, place);
+        }
     }
     void key(Qt::Key code, Qt::KeyboardModifiers modifiers = {}) const {
         QTest::keyClick(window.windowHandle(), code, modifiers);
