@@ -182,7 +182,7 @@ class AccessibleTest : public QObject, private ConversionCase {
         const auto document = opened(m_made);
         int count = 0;
         forEachElement(document->getRoot().getKey("/StructTreeRoot"),
-                       [&](QPDFObjectHandle element, QPDFObjectHandle parent) {
+                       [&](QPDFObjectHandle element, const QPDFObjectHandle &parent) {
                            QVERIFY(element.getKey("/P").isSameObjectAs(parent));
                            QVERIFY(kStandard.contains(element.getKey("/S").getName()));
                            ++count;

@@ -27,7 +27,7 @@ class MutationsTest : public QObject, protected ConversionCase {
     }
 
     QString copied(const char *name) const {
-        const QString to = path(name);
+        QString to = path(name);
         QFile::copy(inSource(u"tests/data/"_s + QLatin1StringView(name)), to);
         QFile::setPermissions(to, QFile::ReadOwner | QFile::WriteOwner);
         return to;

@@ -34,7 +34,7 @@ class WaitingCalls final : public SystemCalls {
         m_opened.insert(nameIn(path));
         m_changed.notify_all();
         if (nameIn(path) == "0.bmp") {
-            hasMet = m_changed.wait_for(lock, std::chrono::seconds(20),
+            hasMet = m_changed.wait_for(lock, std::chrono::seconds(10),
                                         [this] { return m_opened.contains("1.bmp"); });
         }
         return SystemCalls::open(path, flags, mode);
@@ -86,6 +86,16 @@ class PicturesAheadTest : public QObject, protected test::ConversionCase {
         }
     }
 
+    /// Those of the pages, in points.
+    static std::vector<int> widthsOf(const QString &pdf) {
+        const test::PdfProbe probe(pdf);
+        std::vector<int> widths;
+        for (int page = 1; page <= probe.pageCount(); ++page) {
+            widths.push_back(qRound(probe.box(u"MediaBox"_s, page).width()));
+        }
+        return widths;
+    }
+
   private Q_SLOTS:
     void init() { setUp(); }
 
@@ -93,22 +103,15 @@ class PicturesAheadTest : public QObject, protected test::ConversionCase {
         const std::vector<int> widths{3000, 20,   2000,
                                       40,   1000, 60}; // The small ones are done first.
         addPictures(widths);
-        const test::PdfProbe probe(converted("out/all.pdf"));
-        QCOMPARE(probe.pageCount(), int(widths.size()));
-        for (std::size_t i = 0; i < widths.size(); ++i) {
-            QCOMPARE(probe.box(u"MediaBox"_s, int(i) + 1).width(), widths[i]);
-        }
+        QCOMPARE(widthsOf(converted("out/all.pdf")), widths);
     }
 
     void aPictureIsReadWhileTheOneBeforeItIs() {
-        if (std::thread::hardware_concurrency() < 2) {
-            QSKIP("One core reads one picture at a time");
-        }
         addPictures({30, 20});
         WaitingCalls calls;
         m_options.calls = calls;
         converted("out/all.pdf");
-        QVERIFY(calls.hasMet);
+        QCOMPARE(calls.hasMet, std::thread::hardware_concurrency() > 1);
     }
 
     void whatFailsBesideOthersIsTriedAgainAlone() {
@@ -135,10 +138,7 @@ class PicturesAheadTest : public QObject, protected test::ConversionCase {
         test::writeFile(path("1.bmp"), "BM, and no picture");
         const PDFOutcome outcome = convertTo(path("out/all.pdf"));
         QVERIFY(!outcome.entries.at(1).reason.isEmpty());
-        const test::PdfProbe probe(outcome.close.path);
-        QCOMPARE(probe.pageCount(), 2);
-        QCOMPARE(probe.box(u"MediaBox"_s, 1).width(), 30);
-        QCOMPARE(probe.box(u"MediaBox"_s, 2).width(), 10);
+        QCOMPARE(widthsOf(outcome.close.path), (std::vector<int>{30, 10}));
     }
 
     void anEntryThatFailsBeforeItHasAPictureGivesItToNoOther() {
@@ -147,10 +147,7 @@ class PicturesAheadTest : public QObject, protected test::ConversionCase {
         m_options.tagged = true; // For which the file is looked at first.
         const PDFOutcome outcome = convertTo(path("out/all.pdf"));
         QVERIFY(!outcome.entries.at(0).reason.isEmpty());
-        const test::PdfProbe probe(outcome.close.path);
-        QCOMPARE(probe.pageCount(), 2);
-        QCOMPARE(probe.box(u"MediaBox"_s, 1).width(), 20);
-        QCOMPARE(probe.box(u"MediaBox"_s, 2).width(), 10);
+        QCOMPARE(widthsOf(outcome.close.path), (std::vector<int>{20, 10}));
     }
 };
 

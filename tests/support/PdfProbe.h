@@ -29,8 +29,9 @@ class PdfProbe {
 
     /// Whether `qpdf --check` finds neither error nor warning; what it printed goes to `log`.
     [[nodiscard]] bool isValid(QString *log = nullptr) const;
-    /// Whether it warns and finds no error.
-    [[nodiscard]] bool isWarnedOf() const;
+    /// The same of sources with circles and other oddities, which stay: qpdf warns of them since
+    /// version 12 and has to find no error.
+    [[nodiscard]] bool isAsSoundAsItsSource(QString *log = nullptr) const;
     [[nodiscard]] int pageCount() const;
     /// A line of `pdfinfo` such as "Title"; empty when it is absent.
     [[nodiscard]] QString info(const QString &key) const;

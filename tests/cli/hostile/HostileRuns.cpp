@@ -65,10 +65,10 @@ QString HostileRuns::endingOf(const QStringList &arguments, const Limits &limits
 QString HostileRuns::answerTo(const QStringList &arguments, const Limits &limits) const {
     const QString ending = endingOf(arguments, limits);
     const PdfProbe made(target());
-    const bool isOfPdf = arguments.first().endsWith(u".pdf"_s);
-    // Newer qpdf warns of circles and the like, which stay as they are in the source.
-    const bool isRight = ending == written() && (made.isValid() || (isOfPdf && made.isWarnedOf()));
-    return isRight ? valid() : ending;
+    const auto isRight = [&] {
+        return arguments.first().endsWith(u".pdf"_s) ? made.isAsSoundAsItsSource() : made.isValid();
+    };
+    return ending == written() && isRight() ? valid() : ending;
 }
 
 } // namespace folioforge::test
