@@ -28,8 +28,7 @@ QByteArray readInkProfile(const QByteArray &name, ArchiveLevel level) {
     constexpr qint64 kMaxBytes = 16 << 20;
     constexpr QLatin1StringView kOption = "--cmyk-profile"_L1;
     const QString shown = u"%1: \"%2\""_s.arg(kOption, QString::fromUtf8(name));
-    const QByteArray profile =
-        fittingProfile(contentsOf(name, kOption, kMaxBytes), ImageColor::Cmyk);
+    QByteArray profile = fittingProfile(contentsOf(name, kOption, kMaxBytes), ImageColor::Cmyk);
     if (profile.isEmpty()) {
         throw ArgumentFault(shown + u" is no ICC profile of CMYK colours"_s);
     }

@@ -64,6 +64,7 @@ std::optional<QString> manifestFault(const Arguments &arguments, const QStringLi
         return u"--manifest: \"%1\" is an input"_s.arg(manifest);
     }
     std::vector<PDFFileInfo> entries;
+    entries.reserve(inputs.size());
     for (const Input &input : inputs) {
         entries.push_back(input.read.entry);
     }

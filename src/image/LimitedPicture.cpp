@@ -245,8 +245,7 @@ QString limitProfile(PdfImage &image, const PictureLimits &limits) {
 } // namespace
 
 QString limit(PdfImage &image, const PictureLimits &limits) {
-    const QString reason =
-        image.filter == ImageFilter::Jpx ? limitJpeg2000(image, limits) : QString();
+    QString reason = image.filter == ImageFilter::Jpx ? limitJpeg2000(image, limits) : QString();
     if (!reason.isEmpty()) {
         return reason;
     }

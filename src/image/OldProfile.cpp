@@ -101,7 +101,7 @@ std::optional<Curve> parametricCurve(const QByteArray &content) {
 /// The curve under `name` in the form of version 2; nothing where there is none.
 std::optional<QByteArray> oldCurve(const QByteArray &profile, const char *name) {
     constexpr int kSteps = 4096;
-    const auto content = tagOf(profile, name);
+    auto content = tagOf(profile, name);
     if (!content || content->startsWith("curv")) {
         return content;
     }

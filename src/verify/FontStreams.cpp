@@ -67,7 +67,7 @@ void requireWholeProgram(const QPDFObjectHandle &font) {
     }
 }
 
-bool hasPlainStreams(QPDFObjectHandle font) {
+bool hasPlainStreams(const QPDFObjectHandle &font) {
     const auto descendants = items(entry(font, "/DescendantFonts"));
     const auto descendant = descendants.empty() ? QPDFObjectHandle::newNull() : descendants.front();
     const auto descriptor = entry(descendant, "/FontDescriptor");

@@ -16,6 +16,6 @@ void requireWholeProgram(const QPDFObjectHandle &font);
 
 /// Whether all streams of a composite font are deflated and say nothing that those of fonts
 /// embedded here do not.
-bool hasPlainStreams(QPDFObjectHandle font);
+bool hasPlainStreams(const QPDFObjectHandle &font);
 
 } // namespace folioforge

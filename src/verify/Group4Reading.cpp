@@ -147,7 +147,7 @@ bool forEachRow(QPDFObjectHandle image, int width, int height, const Take &take)
 
 } // namespace
 
-std::optional<quint64> group4Checksum(QPDFObjectHandle image, int width, int height) {
+std::optional<quint64> group4Checksum(const QPDFObjectHandle &image, int width, int height) {
     Checksum checksum;
     const bool isWhole =
         forEachRow(image, width, height, [&](QByteArrayView row) { checksum.add(row); });

@@ -58,7 +58,7 @@ bool isSameText(Object source, Object written) {
 
 } // namespace
 
-bool isGoTo(QPDFObjectHandle action) {
+bool isGoTo(const QPDFObjectHandle &action) {
     return entry(action, "/S").isNameAndEquals("/GoTo");
 }
 
@@ -99,7 +99,7 @@ bool staysInItsDocument(QPDFObjectHandle object) {
                                                            "/StructTreeRoot", "/StructElem"});
 }
 
-bool isRenamed(QPDFObjectHandle source, QPDFObjectHandle written) {
+bool isRenamed(QPDFObjectHandle source, const QPDFObjectHandle &written) {
     if (!source.isArray()) {
         return isSameText(source, written);
     }

@@ -27,14 +27,14 @@ ImportChange changeOf(QPDFObjectHandle dictionary, const std::string &key);
 bool staysInItsDocument(QPDFObjectHandle object);
 
 /// Whether `action` leads to a place in its document.
-bool isGoTo(QPDFObjectHandle action);
+bool isGoTo(const QPDFObjectHandle &action);
 
 /// Whether `dictionary` is a form field or one of its widgets.
 bool isField(QPDFObjectHandle dictionary);
 
 /// Whether `written` is `source`, a string or an array of strings, maybe with something added to
 /// names.
-bool isRenamed(QPDFObjectHandle source, QPDFObjectHandle written);
+bool isRenamed(QPDFObjectHandle source, const QPDFObjectHandle &written);
 
 /// The name without its slash of the font that a default appearance sets; empty for none.
 std::string fontIn(QPDFObjectHandle appearance);

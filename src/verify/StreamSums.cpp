@@ -32,7 +32,7 @@ class SumPipeline final : public Pipeline {
 
 } // namespace
 
-std::optional<StreamSum> sumOf(QPDFObjectHandle stream, Unpacking unpacking) {
+std::optional<StreamSum> sumOf(const QPDFObjectHandle &stream, Unpacking unpacking) {
     const QPDF *document = stream.getOwningQPDF();
     const std::size_t warnings = document != nullptr ? document->numWarnings() : 0;
     SumPipeline target;

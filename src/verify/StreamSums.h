@@ -25,7 +25,7 @@ struct StreamSum {
 
 /// The sum of the data of `stream`; nothing where it is damaged or has a filter that is not undone.
 /// Nothing is held in memory but what libqpdf holds.
-std::optional<StreamSum> sumOf(QPDFObjectHandle stream, Unpacking unpacking);
+std::optional<StreamSum> sumOf(const QPDFObjectHandle &stream, Unpacking unpacking);
 
 /// Sums of streams that many others refer to, as profiles of colours are: each is unpacked once.
 class KnownSums {

@@ -178,7 +178,7 @@ bool unpack(QPDFObjectHandle stream, Unpacking unpacking, Pipeline &target) {
            (isUnpacked || !Object(dictionary).hasKey("/Filter"));
 }
 
-std::optional<std::string> unpacked(QPDFObjectHandle stream, std::size_t limit) {
+std::optional<std::string> unpacked(const QPDFObjectHandle &stream, std::size_t limit) {
     std::string text;
     BoundedBuffer target(text, limit);
     try {

@@ -25,6 +25,6 @@ bool unpack(QPDFObjectHandle stream, Unpacking unpacking, Pipeline &target);
 
 /// The data of `stream` without lossless filters; nothing where that fails or they are longer than
 /// `limit` bytes.
-std::optional<std::string> unpacked(QPDFObjectHandle stream, std::size_t limit);
+std::optional<std::string> unpacked(const QPDFObjectHandle &stream, std::size_t limit);
 
 } // namespace folioforge

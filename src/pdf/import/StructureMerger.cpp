@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
-#include <ranges>
 
 namespace folioforge {
 
@@ -187,7 +186,10 @@ std::vector<QPDFObjectHandle> StructureMerger::topElements(QPDF &document) const
         }
     }
     std::vector<QPDFObjectHandle> inOrder;
-    std::ranges::copy(std::views::values(elements), std::back_inserter(inOrder));
+    inOrder.reserve(elements.size());
+    for (const auto &[page, element] : elements) {
+        inOrder.push_back(element);
+    }
     return inOrder;
 }
 
