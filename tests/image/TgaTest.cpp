@@ -80,6 +80,21 @@ class TgaTest : public QObject {
         QCOMPARE(qGray(decoded(image).pixel(1, 0)), 10);
     }
 
+    void greyFromTheBottomRightComesOutUpright() {
+        const auto stored = QByteArray::fromHex("000a141e28ff");
+        const PdfImage image = toPdfImage(tga("00030000000000", 8, 0x10, stored));
+        QCOMPARE(qGray(decoded(image).pixel(0, 0)), 255);
+        QCOMPARE(qGray(decoded(image).pixel(2, 0)), 30);
+        QCOMPARE(qGray(decoded(image).pixel(1, 1)), 10);
+    }
+
+    void aPictureOfFewColorsGetsAPalette() {
+        const auto pixels = QByteArray::fromHex("0000ff00ff00ff0000").repeated(2);
+        const PdfImage image = toPdfImage(tga("00020000000000", 24, 0x20, pixels));
+        QCOMPARE(image.color, ImageColor::Indexed);
+        QCOMPARE(rgbRows(image), QByteArray::fromHex("ff000000ff000000ff").repeated(2));
+    }
+
     void colorMapOfGreyGivesGrey() {
         const QByteArray rest = QByteArray::fromHex("10f0") + QByteArray("\1\2\1\2\1\2", 6);
         const PdfImage image = toPdfImage(tga("01010100020008", 8, 0x20, rest));

@@ -49,7 +49,6 @@ bool hasMasksBehind(const DibHeader &header) {
 }
 
 void readMasks(const FileView &dib, DibHeader &header) {
-    constexpr Argb kWholeBytes = 0xFF000000U;
     const bool isMasked = header.compression == DibHeader::Masks;
     const bool hasAlpha = header.size >= kHeaderWithAlpha && header.size != 64;
     const qint64 at = hasMasksBehind(header) ? qint64(header.size) : kMasksAt;
@@ -65,7 +64,7 @@ void readMasks(const FileView &dib, DibHeader &header) {
     }
     if (hasAlpha) {
         const auto mask = littleEndianAt<quint32>(dib.readExactly(kMasksAt + 12, 4), 0);
-        header.masks[3] = isMasked || (header.bits == 32 && mask == kWholeBytes) ? mask : 0;
+        header.masks[3] = isMasked || (header.bits == 32 && mask == kOpaque) ? mask : 0;
     }
 }
 
@@ -85,6 +84,29 @@ class Channel {
     quint32 m_mask;
     int m_shift;
     double m_scale;
+};
+
+/// Makes pixels of a bitmap colours.
+class PixelColors {
+  public:
+    explicit PixelColors(const std::array<quint32, 4> &masks)
+        : m_mask(masks[0] | masks[1] | masks[2] | masks[3])
+        , m_isArgb(masks[0] == 0xFF0000 && masks[1] == 0xFF00 && masks[2] == 0xFF &&
+                   (masks[3] == 0 || masks[3] == kOpaque))
+        , m_channels{Channel(masks[2]), Channel(masks[1]), Channel(masks[0]), Channel(masks[3])} {}
+
+    [[nodiscard]] Argb of(quint32 pixel) const {
+        if (m_isArgb) {
+            return pixel & m_mask;
+        }
+        return m_channels[0].of(pixel) | m_channels[1].of(pixel) << 8 |
+               m_channels[2].of(pixel) << 16 | m_channels[3].of(pixel) << 24;
+    }
+
+  private:
+    quint32 m_mask;
+    bool m_isArgb; ///< As nearly all are.
+    std::array<Channel, 4> m_channels;
 };
 
 quint32 pixelAt(const uchar *row, qsizetype x, int bits) {
@@ -276,17 +298,14 @@ IndexedDib readIndexedDib(const FileView &dib, const DibHeader &header, qint64 a
 
 ArgbImage readColorDib(const FileView &dib, const DibHeader &header, qint64 at) {
     const QByteArray rows = readDibRows(dib, header, at);
-    const auto &[red, green, blue, alpha] = header.masks;
-    const std::array channels = {Channel(blue), Channel(green), Channel(red), Channel(alpha)};
-    ArgbImage image{header.width, header.height, alpha != 0, {}};
+    const PixelColors colors(header.masks);
+    ArgbImage image{header.width, header.height, header.masks[3] != 0, {}};
     image.pixels.resize(static_cast<std::size_t>(header.width) * header.height);
     for (int y = 0; y < header.height; ++y) {
         const uchar *row = dibRow(rows, header, y);
         Argb *target = image.row(y);
         for (int x = 0; x < header.width; ++x) {
-            const quint32 pixel = pixelAt(row, x, header.bits);
-            target[x] = channels[0].of(pixel) | channels[1].of(pixel) << 8 |
-                        channels[2].of(pixel) << 16 | channels[3].of(pixel) << 24;
+            target[x] = colors.of(pixelAt(row, x, header.bits));
         }
     }
     return image;

@@ -5,9 +5,10 @@
 #include "error/Reasons.h"
 #include "image/Bytes.h"
 #include "image/PictureDamage.h"
-#include "image/Raster.h"
+#include "image/formats/ArgbImage.h"
 
-#include <array>
+#include <algorithm>
+#include <span>
 
 namespace folioforge {
 
@@ -80,6 +81,7 @@ TgaHeader readTgaHeader(const FileView &file) {
 /// of a row. Gives what the file has of `size` bytes.
 QByteArray expandRuns(QByteArrayView packed, qsizetype size, int pixelBytes) {
     QByteArray out(size, Qt::Uninitialized);
+    char *const target = out.data();
     qsizetype done = 0;
     qsizetype at = 0;
     while (done < size && at < packed.size()) {
@@ -92,8 +94,9 @@ QByteArray expandRuns(QByteArrayView packed, qsizetype size, int pixelBytes) {
             break;
         }
         const qsizetype wanted = std::min(repeated ? pixels * pixelBytes : source, size - done);
-        for (qsizetype i = 0; i < wanted; ++i) {
-            out[done + i] = packed[at + (repeated ? i % pixelBytes : i)];
+        const char *const pixel = packed.data() + at;
+        for (qsizetype i = 0; i < wanted; i += source) {
+            std::copy_n(pixel, std::min(source, wanted - i), target + done + i);
         }
         at += source;
         done += wanted;
@@ -130,89 +133,115 @@ QByteArray readPixels(const FileView &file, const TgaHeader &tga) {
     return expandRuns(file.read(tga.dataOffset, file.size()), size, tga.pixelBytes());
 }
 
-using Rgba = std::array<uchar, 4>;
-
 /// A colour as the file stores it: blue, green, red and opacity, or five bits of each. The fourth
 /// byte is opacity though the header declares none: few writers of 32 bits do.
-Rgba colorAt(const uchar *bytes, int bits, int alphaBits) {
+Argb colorAt(const uchar *bytes, int bits, int alphaBits) {
     if (bits == 8) {
-        return {bytes[0], bytes[0], bytes[0], 0xFF};
+        return argb(bytes[0], bytes[0], bytes[0]);
     }
     if (bits == 15 || bits == 16) {
         const int value = bytes[0] | (bytes[1] << 8);
-        const auto wide = [](int five) { return static_cast<uchar>((five << 3) | (five >> 2)); };
-        const bool opaque = alphaBits == 0 || bits == 15 || (value & 0x8000) != 0;
-        return {wide((value >> 10) & 31), wide((value >> 5) & 31), wide(value & 31),
-                static_cast<uchar>(opaque ? 0xFF : 0)};
+        const auto wide = [](int five) { return (five << 3) | (five >> 2); };
+        const bool isOpaque = alphaBits == 0 || bits == 15 || (value & 0x8000) != 0;
+        const Argb color =
+            argb(wide((value >> 10) & 31), wide((value >> 5) & 31), wide(value & 31));
+        return isOpaque ? color : color & ~kOpaque;
     }
-    return {bytes[2], bytes[1], bytes[0], bits == 32 ? bytes[3] : static_cast<uchar>(0xFF)};
+    const Argb color = argb(bytes[2], bytes[1], bytes[0]);
+    return bits == 32 ? (color & ~kOpaque) | Argb(bytes[3]) << 24 : color;
 }
 
-std::vector<Rgba> readColorMap(const FileView &file, const TgaHeader &tga) {
+std::vector<Argb> readColorMap(const FileView &file, const TgaHeader &tga) {
     const int step = tga.mapEntryBytes();
     const QByteArray bytes = file.readExactly(tga.mapOffset, qint64(tga.mapLength) * step);
     const auto *entry = reinterpret_cast<const uchar *>(bytes.constData());
-    std::vector<Rgba> map(static_cast<size_t>(tga.mapLength));
-    for (Rgba &color : map) {
+    std::vector<Argb> map(static_cast<size_t>(tga.mapLength));
+    for (Argb &color : map) {
         color = colorAt(entry, tga.mapEntryBits, tga.alphaBits);
         entry += step;
     }
     return map;
 }
 
-/// Where the file's pixel number `index` stands in rows from the top, left to right.
-qint64 placeOf(qint64 index, const TgaHeader &tga) {
-    qint64 y = index / tga.width;
-    qint64 x = index % tga.width;
-    if ((tga.descriptor & kTopToBottom) == 0) {
-        y = tga.height - 1 - y;
-    }
-    if ((tga.descriptor & kRightToLeft) != 0) {
-        x = tga.width - 1 - x;
-    }
-    return y * tga.width + x;
-}
-
-void fillGray(Raster &raster, const QByteArray &pixels, const TgaHeader &tga) {
-    const int step = tga.pixelBytes();
-    auto *gray = reinterpret_cast<uchar *>(raster.samples.data());
-    char *alpha = raster.alpha ? raster.alpha->samples.data() : nullptr;
-    for (qint64 i = 0; i < qint64(tga.width) * tga.height; ++i) {
-        const qint64 place = placeOf(i, tga);
-        gray[place] = static_cast<uchar>(pixels.at(i * step));
-        if (alpha != nullptr) {
-            alpha[place] = pixels.at(i * step + 1);
-        }
-    }
-}
-
-void fillColor(Raster &raster, const QByteArray &pixels, const TgaHeader &tga,
-               const std::vector<Rgba> &map) {
-    const int step = tga.pixelBytes();
+/// Calls draw(source, y) for each row as the file stores it and its place from the top.
+template<typename Draw>
+void forEachRow(const QByteArray &pixels, const TgaHeader &tga, const Draw &draw) {
     const auto *source = reinterpret_cast<const uchar *>(pixels.constData());
-    auto *color = reinterpret_cast<uchar *>(raster.samples.data());
-    auto *alpha = reinterpret_cast<uchar *>(raster.alpha->samples.data());
-    for (qint64 i = 0; i < qint64(tga.width) * tga.height; ++i, source += step) {
-        Rgba rgba = {0, 0, 0, 0xFF};
-        if (tga.type == Mapped) {
-            const int index = (step == 1 ? source[0] : source[0] | (source[1] << 8)) - tga.mapFirst;
-            if (index >= 0 && index < int(map.size())) {
-                rgba = map[static_cast<size_t>(index)];
-            }
-        } else {
-            rgba = colorAt(source, tga.pixelBits, tga.alphaBits);
-        }
-        const qint64 place = placeOf(i, tga);
-        std::copy_n(rgba.begin(), 3, color + place * 3);
-        alpha[place] = rgba[3];
+    const bool isFromTop = (tga.descriptor & kTopToBottom) != 0;
+    for (int row = 0; row < tga.height; ++row, source += qint64(tga.width) * tga.pixelBytes()) {
+        draw(source, isFromTop ? row : tga.height - 1 - row);
     }
+}
+
+/// Turns a row round that the file stores from right to left.
+template<typename Pixel> void turnRow(std::span<Pixel> row, const TgaHeader &tga) {
+    if ((tga.descriptor & kRightToLeft) != 0) {
+        std::ranges::reverse(row);
+    }
+}
+
+Raster readGray(const QByteArray &pixels, const TgaHeader &tga) {
+    const int step = tga.pixelBytes();
+    Raster raster;
+    raster.width = tga.width;
+    raster.height = tga.height;
+    raster.color = ImageColor::Gray;
+    raster.samples = allocateRows(raster.height, raster.stride());
+    if (step == 2) {
+        raster.alpha = AlphaPlane{8, allocateRows(raster.height, raster.width)};
+    }
+    const auto take = [&](QByteArray &plane, const uchar *source, int y) {
+        const std::span row(plane.data() + qint64(y) * tga.width, static_cast<size_t>(tga.width));
+        for (char &sample : row) {
+            sample = static_cast<char>(*source);
+            source += step;
+        }
+        turnRow(row, tga);
+    };
+    forEachRow(pixels, tga, [&](const uchar *source, int y) {
+        take(raster.samples, source, y);
+        if (raster.alpha) {
+            take(raster.alpha->samples, source + 1, y);
+        }
+    });
+    return raster;
+}
+
+/// Numbers of colours that the map lacks are black.
+Argb mappedColor(const uchar *source, const TgaHeader &tga, const std::vector<Argb> &map) {
+    const int number = tga.pixelBytes() == 1 ? source[0] : source[0] | (source[1] << 8);
+    const int index = number - tga.mapFirst;
+    return index >= 0 && index < int(map.size()) ? map[static_cast<size_t>(index)] : kOpaque;
+}
+
+ArgbImage readColor(const QByteArray &pixels, const TgaHeader &tga, const std::vector<Argb> &map) {
+    ArgbImage image{tga.width, tga.height, true, {}};
+    image.pixels.resize(static_cast<size_t>(tga.width) * static_cast<size_t>(tga.height));
+    forEachRow(pixels, tga, [&](const uchar *source, int y) {
+        const std::span row(image.row(y), static_cast<size_t>(tga.width));
+        for (Argb &pixel : row) {
+            pixel = tga.type == Mapped ? mappedColor(source, tga, map)
+                                       : colorAt(source, tga.pixelBits, tga.alphaBits);
+            source += tga.pixelBytes();
+        }
+        turnRow(row, tga);
+    });
+    return image;
 }
 
 /// Some writers have room for opacity and leave it zero throughout: such a picture is opaque.
-void dropEmptyAlpha(Raster &raster) {
-    if (raster.alpha && raster.alpha->samples.count('\0') == raster.alpha->samples.size()) {
-        raster.alpha.reset();
+Raster readRaster(const FileView &file, const QByteArray &pixels, const TgaHeader &tga) {
+    if (tga.type == BlackAndWhite) {
+        Raster raster = readGray(pixels, tga);
+        if (raster.alpha && raster.alpha->samples.count('\0') == raster.alpha->samples.size()) {
+            raster.alpha.reset();
+        }
+        return raster;
     }
+    ArgbImage image =
+        readColor(pixels, tga, tga.type == Mapped ? readColorMap(file, tga) : std::vector<Argb>());
+    image.hasAlpha = image.isVisible();
+    return rasterOf(image);
 }
 
 /// The format has neither density nor orientation.
@@ -237,22 +266,7 @@ PdfImage toPdfImage(const FileView &file) {
         throw fileEndsTooEarly();
     }
     pixels.resize(row * tga.height, '\0');
-    Raster raster;
-    raster.width = tga.width;
-    raster.height = tga.height;
-    raster.color = tga.type == BlackAndWhite ? ImageColor::Gray : ImageColor::Rgb;
-    raster.samples = allocateRows(raster.height, raster.stride());
-    if (tga.type != BlackAndWhite || tga.pixelBits == 16) {
-        raster.alpha = AlphaPlane{8, allocateRows(raster.height, raster.width)};
-    }
-    if (tga.type == BlackAndWhite) {
-        fillGray(raster, pixels, tga);
-    } else {
-        fillColor(raster, pixels, tga,
-                  tga.type == Mapped ? readColorMap(file, tga) : std::vector<Rgba>());
-    }
-    dropEmptyAlpha(raster);
-    PdfImage image = encodeRaster(std::move(raster), header);
+    PdfImage image = encodeRaster(readRaster(file, pixels, tga), header);
     if (missing > 0) {
         image.warnings.push_back(cutOffPicture(missing, tga.height));
     }
