@@ -133,9 +133,10 @@ class ArgumentsTest : public QObject {
     }
 
     void lengthsThatAreNoWholePointsAreSaidToBeRounded() {
-        QCOMPARE(
-            good({"--text-margins", "1in,25mm,25.4mm", "--image-page-size", "A4", "a"}).rounded,
-            QStringList{u"--text-margins: 25mm is 71 points"_s});
+        QCOMPARE(good({"--text-margins", "1in,25mm,25.4mm,1.001in", "--image-page-size", "A4", "a"})
+                     .rounded,
+                 QStringList({u"--text-margins: 25mm is 71 points"_s,
+                              u"--text-margins: 1.001in is 72 points"_s}));
     }
 
     void howPicturesTakeTheirPagesIsChosen() {
@@ -210,8 +211,9 @@ class ArgumentsTest : public QObject {
         row("value too many", {"--json=yes", "a"}, "--json");
         row("word", {"--compress", "300m", "a"}, "300m");
         row("page size", {"--text-page-size", "A11", "a"}, "A11");
+        row("paper with a nought", {"--text-page-size", "A04", "a"}, "A04");
         row("paper with a sign", {"--text-page-size", "A+1", "a"}, "A+1");
-        row("three sides", {"--image-page-size", "1x2x3", "a"}, "1x2x3");
+        row("three sides", {"--image-page-size", "10x20x30", "a"}, "10x20x30");
         row("half a size", {"--image-page-size", "100x", "a"}, "100x");
         row("size with another unit", {"--image-page-size", "100x200px", "a"}, "100x200px");
         row("five margins", {"--text-margins", "1,2,3,4,5", "a"}, "1,2,3,4,5");
