@@ -107,7 +107,7 @@ class ExrTest : public QObject {
     void tilesComeOutInTheirPlaces() {
         const QString path = m_folder.filePath(u"tiles.exr"_s);
         {
-            std::vector<Imf::Rgba> pixels(40 * 20);
+            std::vector<Imf::Rgba> pixels(40 * 20, Imf::Rgba(0.0F, 0.0F, 0.0F));
             pixels[39] = Imf::Rgba(1.0F, 0.0F, 0.0F);
             Imf::TiledRgbaOutputFile file(QFile::encodeName(path).constData(), 40, 20, 16, 16,
                                           Imf::ONE_LEVEL, Imf::ROUND_DOWN, Imf::WRITE_RGB);
