@@ -100,7 +100,7 @@ void Paragraph::shapePlain(const FontCascade &font, MissingGlyphs &missing) {
 
 TextRow Paragraph::rowTo(qsizetype first, qsizetype end) const {
     TextRow row{first, end, end};
-    while (row.visible > first && isBlank(m_text[row.visible - 1]) && begins(row.visible)) {
+    while (row.visible > first && isBlank(m_text[row.visible - 1])) {
         --row.visible;
     }
     for (qsizetype i = first; i < row.visible; ++i) {
