@@ -64,6 +64,36 @@ class ReadableLayoutTest : public QObject {
         }
     }
 
+    void aLetterOfMoreGlyphsThanCharactersIsReadWhole() {
+        // A vowel of Bengali stands on both sides of its consonant.
+        const QString syllable = u"\u0995\u09CB"_s;
+        std::size_t glyphs = 0;
+        for (const ShownPiece &piece : readable(syllable, 500).pieces) {
+            QCOMPARE(piece.readAs, syllable);
+            glyphs += piece.glyphs.size();
+        }
+        QCOMPARE(glyphs, std::size_t{3});
+    }
+
+    void aMarkReadFromTheRightStandsForItself_data() {
+        QTest::addColumn<QString>("text");
+        QTest::newRow("Hebrew") << u"\u05D3\u05B8"_s;
+        QTest::newRow("Arabic") << u"\u062F\u064E"_s;
+    }
+    void aMarkReadFromTheRightStandsForItself() {
+        QFETCH(const QString, text);
+        int glyphs = 0;
+        for (const ShownPiece &piece : readable(text, 500).pieces) {
+            for (const Glyph &glyph : piece.glyphs) {
+                const QString character = small().textOf(glyph);
+                QCOMPARE(character.size(), qsizetype{1});
+                QCOMPARE(glyph.id, small().glyph(character[0].unicode()).id);
+                ++glyphs;
+            }
+        }
+        QCOMPARE(glyphs, 2);
+    }
+
     void linesBreakBetweenWordsAsLateAsTheyFit_data() {
         QTest::addColumn<int>("words");
         QTest::newRow("a paragraph") << 60;
@@ -159,6 +189,14 @@ class ReadableLayoutTest : public QObject {
         QCOMPARE(readable(u"a\n\fb\fc\n"_s, 500).pages, 3);
         QCOMPARE(readable(u"a\r\nb\f"_s, 500).pages, 1);
         QCOMPARE(readable({}, 500).pages, 1);
+    }
+
+    void aFormFeedBehindAFullPageLeavesNoPageEmpty() {
+        // Rows of 11.5 points: 842 / 11.4990 = 73.2 in a page.
+        const ShownText shown = readable(u"row\n"_s.repeated(73) + u"\fb"_s, 500);
+        QCOMPARE(shown.pages, 2);
+        QCOMPARE(shown.pieces.back().page, 2);
+        QCOMPARE(std::ranges::count(shown.pieces, 1, &ShownPiece::page), 73);
     }
 
     void rowsEndAboveTheBottomMargin() {

@@ -68,6 +68,7 @@ class ShapingTest : public QObject {
             << u"\u05E9\u05C1\u05B8\u05DC\u05D5\u05B9\u05DD"_s << kAscent;
         QTest::newRow("Devanagari") // Its face wants 896.
             << u"\u0915\u094D\u0937\u0924\u094D\u0930\u093F\u092F"_s << kAscent;
+        QTest::newRow("Latin beside Cyrillic") << u"AVATo \u0416"_s << kAscent;
         QTest::newRow("Thai") << u"\u0E20\u0E32\u0E29\u0E32\u0E17\u0E35\u0E48"_s << 1061.0;
     }
     void lettersAreJoinedAndPlacedAsByAnotherShaper() {
