@@ -55,6 +55,12 @@ class FontCascadeTest : public QObject {
         QCOMPARE(font->face(1).postScriptName(), QByteArray("LiberationSans"));
     }
 
+    void onlyFamiliesThatTheSystemLacksAreMissing() {
+        QCOMPARE(missingFamilies({u"FreeSerif"_s, kMissingFamily, u"liberation sans"_s}),
+                 QStringList(kMissingFamily));
+        QCOMPARE(missingFamilies({}), QStringList());
+    }
+
     void rowHeightIsThatOfTheFirstFace() {
         const auto font = cascade();
         // Liberation Sans: 1854, 434 and 67 of 2048 units.
