@@ -30,14 +30,14 @@ class TiffTest : public QObject {
     Q_OBJECT
 
     /// A picture of 32 x 32 pixels as most writers put JPEG into TIFF.
-    QString jpegOfBrightnessAndColor() {
+    QString jpegOfBrightnessAndColor(uint32_t rowsPerStrip) {
         constexpr uint32_t kSide = 32;
-        QString path = m_folder.filePath(u"ycbcr.tif"_s);
+        QString path = m_folder.filePath(u"ycbcr%1.tif"_s.arg(rowsPerStrip));
         const auto tif = openTiff(path, "w");
         TIFFSetField(tif.get(), TIFFTAG_IMAGEWIDTH, kSide);
         TIFFSetField(tif.get(), TIFFTAG_IMAGELENGTH, kSide);
         setSamples(tif.get(), 3, 8, PHOTOMETRIC_YCBCR);
-        TIFFSetField(tif.get(), TIFFTAG_ROWSPERSTRIP, kSide);
+        TIFFSetField(tif.get(), TIFFTAG_ROWSPERSTRIP, rowsPerStrip);
         TIFFSetField(tif.get(), TIFFTAG_COMPRESSION, COMPRESSION_JPEG);
         TIFFSetField(tif.get(), TIFFTAG_YCBCRSUBSAMPLING, 1, 1);
         TIFFSetField(tif.get(), TIFFTAG_JPEGCOLORMODE, JPEGCOLORMODE_RGB);
@@ -53,11 +53,24 @@ class TiffTest : public QObject {
         return path;
     }
 
+    /// Red, green and blue under the numbers that other JPEG files give brightness and colour.
+    QString jpegWithoutNames() {
+        QByteArray bytes = bytesOf(imageFile(u"jpeg.tif"_s));
+        const qsizetype frame = bytes.indexOf("\xFF\xC0") + 10;
+        const qsizetype scan = bytes.indexOf("\xFF\xDA") + 5;
+        for (const int i : {0, 1, 2}) {
+            bytes[frame + 3 * i] = bytes[scan + 2 * i] = static_cast<char>(i + 1);
+        }
+        return writeFile(m_folder.filePath(u"unnamed.tif"_s), bytes);
+    }
+
   private Q_SLOTS:
     void colorsOfAJpegInATiffAreThoseOfLibtiff_data() {
         QTest::addColumn<QString>("path");
         QTest::newRow("RGB") << imageFile(u"jpeg.tif"_s);
-        QTest::newRow("YCbCr") << jpegOfBrightnessAndColor();
+        QTest::newRow("RGB that the JPEG does not name") << jpegWithoutNames();
+        QTest::newRow("YCbCr") << jpegOfBrightnessAndColor(32);
+        QTest::newRow("YCbCr in strips") << jpegOfBrightnessAndColor(16);
     }
     void colorsOfAJpegInATiffAreThoseOfLibtiff() {
         QFETCH(const QString, path);
