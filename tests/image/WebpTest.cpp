@@ -68,6 +68,28 @@ class WebpTest : public QObject {
         QCOMPARE(decoded(frames[1]).convertToFormat(kRgb), negative);
     }
 
+    void framesKeepTheirOpacityAndTheProfileOfTheirFile() {
+        const QByteArray profile = toPdfImage(imageFile(u"turned.webp"_s)).iccProfile;
+        const QString icc = writeFile(m_folder.filePath(u"p.icc"_s), profile);
+        const QString plain = m_folder.filePath(u"plain.webp"_s);
+        const QString path = m_folder.filePath(u"profile.webp"_s);
+        const QString still = imageFile(u"translucent.webp"_s);
+        const QString alone = u"+100+0+0+1-b"_s; // On a clear ground, not on what was before.
+        runTool(u"webpmux"_s,
+                {u"-frame"_s, still, alone, u"-frame"_s, still, alone, u"-o"_s, plain});
+        runTool(u"webpmux"_s, {u"-set"_s, u"icc"_s, icc, plain, u"-o"_s, path});
+        const auto frames = picturesOf(path);
+        QCOMPARE(frames.size(), std::size_t(2));
+        const QImage source(imageFile(u"translucent.png"_s));
+        for (const PdfImage &frame : frames) {
+            QCOMPARE(frame.iccProfile, profile);
+            QVERIFY(frame.softMask != nullptr);
+            QImage opacity = decoded(*frame.softMask).convertToFormat(QImage::Format_Grayscale8);
+            QVERIFY(opacity.reinterpretAsFormat(QImage::Format_Alpha8));
+            QCOMPARE(opacity, source.convertToFormat(QImage::Format_Alpha8));
+        }
+    }
+
     void framesThatAreLeftOutAreCounted() {
         QCOMPARE(warningsOf(toPdfImage(imageFile(u"two.webp"_s))),
                  QStringList(u"more-pictures: 1 further frame is left out"_s));
