@@ -85,6 +85,13 @@ class HeifTest : public QObject {
         QCOMPARE(warnings.size(), std::size_t(1));
     }
 
+    void movingPicturesAloneAreNoJpeg() {
+        const QByteArray bytes = QByteArray::fromHex("00000010") + "ftyphevc" + QByteArray(4, '\0');
+        const QString path = writeFile(m_folder.filePath(u"moving.jpg"_s), bytes);
+        const QString reason = refusalOf(path);
+        QVERIFY2(reason.startsWith(u"The HEIC or AVIF file cannot be read"_s), qPrintable(reason));
+    }
+
     void eachPictureOfAFileIsTaken() {
         const QString two = m_folder.filePath(u"two.heic"_s);
         const QString read = m_folder.filePath(u"two.png"_s);

@@ -90,6 +90,8 @@ class ImageHeaderTest : public QObject {
         const QByteArray png = bytesOf(imageFile(u"colour.png"_s));
         QCOMPARE(readImageHeader(write("really-png.tga", png)).kind, ImageKind::Png);
         QCOMPARE(readImageHeader(write("really-png.jpg", png)).kind, ImageKind::Png);
+        const QByteArray avif = bytesOf(imageFile(u"two.avif"_s));
+        QCOMPARE(readImageHeader(write("really-avif.jpg", avif)).kind, ImageKind::Heif);
     }
 
     void extensionDecidesWhereBytesDoNot() {
