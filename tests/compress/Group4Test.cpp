@@ -103,6 +103,15 @@ class Group4Test : public QObject, CompressionCase {
         QVERIFY(QFileInfo(copy).size() > 5 * kAround);
     }
 
+    void aNegativeIsAsSmallAsItsPicture() {
+        write(kGrey, flate(rings()));
+        const qint64 picture = QFileInfo(compressed()).size();
+        write(kGrey, flate(inverted(rings())));
+        const qint64 negative = QFileInfo(compressed()).size();
+        constexpr qint64 kAround = 100; // Both hold little beside the same data.
+        QVERIFY(qAbs(picture - negative) < kAround);
+    }
+
     void whatWouldGetLargerStays() {
         QByteArray noise(qsizetype(kRowBytes) * kHeight, '\0');
         QRandomGenerator random(1);
