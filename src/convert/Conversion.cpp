@@ -104,6 +104,17 @@ bool isAmongTagged(std::span<const PDFFileInfo *const> entries) {
            std::ranges::any_of(entries, &PDFFileInfo::isTagged);
 }
 
+/// The PDFs of which all pages are taken.
+std::vector<QString> wholePdfs(std::span<const PDFFileInfo *const> entries) {
+    std::vector<QString> paths;
+    for (const PDFFileInfo *entry : entries) {
+        if (entry->kind() == FileKind::Pdf && entry->pageChoice().range.isEmpty()) {
+            paths.push_back(entry->filePathName());
+        }
+    }
+    return paths;
+}
+
 /// How the pages that are drawn for the PDF at `path` are tagged; nothing where they are not.
 std::optional<TagOptions> tagOptions(std::span<const PDFFileInfo *const> entries,
                                      const QString &path, const ConversionOptions &options) {
@@ -278,6 +289,7 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                               .sourceBookmarks = hasThoseOfSources(options.bookmarks),
                               .tags = tags,
                               .inputPasswords = options.inputPasswords,
+                              .sources = wholePdfs(entries),
                               .archive = options.archive,
                               .flush = options.flush,
                               .mayReplace = options.overwrite != Overwrite::Never,

@@ -49,6 +49,15 @@ std::shared_ptr<const SourceFile> SourceReader::keptFile(const FileVersion &vers
     return kept != m_kept.end() ? *kept : nullptr;
 }
 
+void SourceReader::readThrough(std::shared_ptr<SourceReader> other) {
+    for (auto &file : m_kept) {
+        other->keepOpen(std::move(file));
+    }
+    m_kept.clear();
+    leaveFile();
+    m_other = std::move(other);
+}
+
 void SourceReader::beginAnew() {
     leaveFile();
     m_failure.reset();
@@ -61,6 +70,9 @@ void SourceReader::requireNoFailure() const {
 }
 
 void SourceReader::fail(const QString &reason) {
+    if (m_other) {
+        m_other->fail(reason);
+    }
     leaveFile();
     if (!m_failure) {
         m_failure = reason;
@@ -120,6 +132,9 @@ template<typename Step> auto SourceReader::keepingFailure(const Step &step) {
 }
 
 std::size_t SourceReader::read(const FileVersion &file, qint64 offset, std::span<char> target) {
+    if (m_other) {
+        return m_other->read(file, offset, target);
+    }
     return keepingFailure([&] {
         openFile(file);
         constexpr std::size_t kLargeRead = kWindowSize - kWindowAlignment;

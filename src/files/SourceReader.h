@@ -42,6 +42,8 @@ class SourceReader {
 
     /// Keeps `file` open for later reads, unless too many are open already.
     void keepOpen(std::shared_ptr<const SourceFile> file);
+    /// From now on `other` reads what is asked of this one, which leaves its open files to it.
+    void readThrough(std::shared_ptr<SourceReader> other);
     /// Leaves the file that is read, whatever became of it, and forgets what failed.
     void beginAnew();
     /// Leaves the file that is read, if any, and keeps it open for later reads. Throws Error when
@@ -65,6 +67,7 @@ class SourceReader {
     qint64 m_windowStart = 0;
     QByteArray m_view; ///< Kept for the next view(): large blocks are dear to get from the system.
     std::optional<QString> m_failure;
+    std::shared_ptr<SourceReader> m_other; ///< Null while this one reads itself.
 };
 
 } // namespace folioforge

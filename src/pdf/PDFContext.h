@@ -68,9 +68,12 @@ class PDFContext {
         bool oneSource = false;
         /// Whether the first source document with pages gives what `info` lacks.
         bool keepInfo = false;
-        bool sourceBookmarks = true;           ///< Whether those of source documents are taken.
-        std::optional<TagOptions> tags;        ///< Nothing: pages that are drawn are not tagged.
-        InputPasswords inputPasswords;         ///< Of source documents.
+        bool sourceBookmarks = true;    ///< Whether those of source documents are taken.
+        std::optional<TagOptions> tags; ///< Nothing: pages that are drawn are not tagged.
+        InputPasswords inputPasswords;  ///< Of source documents.
+        /// The source documents all of whose pages are to be added, in their order. What can be is
+        /// done before their turn.
+        std::vector<QString> sources = {};
         std::optional<ArchiveOptions> archive; ///< The standard that the document keeps.
         Flush flush = Flush::Always;
         bool mayReplace = false; ///< The document takes the place of a file of its name.

@@ -11,6 +11,7 @@
 #include "pdf/archive/ArchiveRules.h"
 #include "pdf/import/DocumentCatalog.h"
 #include "pdf/import/SharedStreams.h"
+#include "pdf/import/SourcesAhead.h"
 #include "pdf/tags/DrawnTags.h"
 #include "pdf/tags/StructureElements.h"
 
@@ -71,6 +72,7 @@ class PDFContext::Impl {
     std::optional<DrawnStructure> m_drawn; ///< Nothing where no page that was drawn is tagged.
     PageDrawer m_pages{m_document, m_streams, tags()};
     std::map<std::string, SharedStreams> m_sourceStreams; ///< By source file.
+    SourcesAhead m_sourcesAhead{m_settings.sources, m_settings.inputPasswords, m_settings.calls};
 };
 
 } // namespace folioforge

@@ -63,7 +63,10 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
         m_reader->beginAnew(); // A source that failed may have left its file open.
         const FileVersion file = FileVersion::of(sourcePath);
         const std::string key = file.key();
-        const auto source = openSourceDocument(file, m_reader, m_settings.inputPasswords);
+        auto source = m_sourcesAhead.take(file, m_reader);
+        if (!source) {
+            source = openSourceDocument(file, m_reader, m_settings.inputPasswords);
+        }
         // A copy, so that an import that fails leaves no stream to the next one.
         SharedStreams &known = m_sourceStreams[key];
         SharedStreams streams = known;
@@ -100,6 +103,7 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
             m_settings.info = options.info;
             m_settings.keepInfo = false;
         }
+        m_sourcesAhead.free(std::move(source));
         return added;
     });
 }

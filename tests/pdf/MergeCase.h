@@ -73,6 +73,7 @@ class MergeCase {
         QString path = newPath();
         PDFContext::Settings settings = unflushed();
         settings.oneSource = whole;
+        settings.sources = {sources.begin(), sources.end()};
         PDFContext context(path, std::move(settings));
         for (const QString &source : sources) {
             context.addDocument(source);
