@@ -74,7 +74,6 @@ class PicturesOfPhonesTest : public QObject, CommandLineCase {
   private Q_SLOTS:
     void init() { setUp(); }
 
-#ifdef __linux__
     void whereALibraryCannotBeLoadedTheOthersAreConverted_data() {
         QTest::addColumn<QString>("picture");
         QTest::addColumn<QString>("words");
@@ -84,6 +83,9 @@ class PicturesOfPhonesTest : public QObject, CommandLineCase {
                                 << u"JPEG XL files are read by libjxl 0\\.\\d+"_s;
     }
     void whereALibraryCannotBeLoadedTheOthersAreConverted() {
+#ifndef __linux__
+        QSKIP("Libraries are found and complained of as its loader does");
+#endif
         QFETCH(const QString, picture);
         QFETCH(const QString, words);
         text("libheif.so.1", "no library");
@@ -101,7 +103,6 @@ class PicturesOfPhonesTest : public QObject, CommandLineCase {
         QVERIFY2(QString::fromUtf8(run.err).contains(said), run.err.constData());
         QCOMPARE(PdfProbe(path("out.pdf")).pageCount(), 1);
     }
-#endif
 
     void pixelsAreThoseOfTheFormatsOwnProgram_data() {
         QTest::addColumn<QString>("file");

@@ -8,9 +8,9 @@
 
 namespace folioforge {
 
-LoadedLibrary::LoadedLibrary(const QString &name, const QString &version, QString refusal)
-    : m_library(name, version)
-    , m_version(version)
+LoadedLibrary::LoadedLibrary(const QString &file, QString version, QString refusal)
+    : m_library(file)
+    , m_version(std::move(version))
     , m_refusal(std::move(refusal)) {
     if (!m_library.load()) {
         fail();

@@ -11,10 +11,9 @@ namespace folioforge {
 /// take.
 class LoadedLibrary {
   public:
-    /// Loads that `version` of the library `name`, a path or what stands between "lib" and the
-    /// ending. Throws Error with `refusal`, in which %1 is the version and %2 the reason, where it
-    /// cannot be loaded.
-    LoadedLibrary(const QString &name, const QString &version, QString refusal);
+    /// Loads the library `file`, a name or a path. Throws Error with `refusal`, in which %1 is
+    /// `version` and %2 the reason, where it cannot be loaded.
+    LoadedLibrary(const QString &file, QString version, QString refusal);
 
     /// Finds the function `name`. Throws Error where the library has none.
     template<typename Function> void find(const char *name, Function *&function) {
