@@ -156,8 +156,10 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QCOMPARE(outputs(), QStringList{u"größe.pdf"_s});
     }
 
-#ifdef __linux__
     void itSpeaksEnglishOnAGermanSystem() {
+#ifndef __linux__
+        QSKIP("Translations of the system's messages are looked for as glibc does");
+#endif
         const ToolRun made = runTool(
             u"localedef"_s, {u"-i"_s, u"de_DE"_s, u"-f"_s, u"UTF-8"_s, path("de_DE.UTF-8")});
         QVERIFY2(made.exitCode == 0 || made.exitCode == 1, made.err.constData()); // 1: warnings
@@ -176,7 +178,6 @@ class CommandLineTest : public QObject, protected CommandLineCase {
             QVERIFY2(said.contains("No such file or directory"), said);
         }
     }
-#endif
 
     void anInterruptedRunLeavesNoFile() {
         const QString large =
