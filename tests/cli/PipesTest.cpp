@@ -85,6 +85,18 @@ class PipesTest : public QObject, CommandLineCase {
         QCOMPARE(PdfProbe(path("all.pdf")).text().simplified(), u"named"_s);
     }
 
+    void aCommandThatWritesNothingIsAnEmptyText() {
+        const ToolRun run = shell("folioforge-cli --merge all.pdf <(:)");
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+        QCOMPARE(PdfProbe(path("all.pdf")).pageCount(), 1);
+    }
+
+    void aNamedPipeToWhichNoProgramWritesIsNotWaitedForLong() {
+        const ToolRun run = shell("mkfifo pipe && timeout 20 folioforge-cli --merge all.pdf pipe");
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.err, "folioforge-cli: pipe: No program writes to this pipe\n");
+    }
+
     void aMergedPdfGoesToStandardOutputAndNothingElse() {
         QDir().mkpath(path("tmp"));
         const ToolRun run = runTool(u"env"_s, {u"TMPDIR="_s + path("tmp"), kProgram, u"--merge=-"_s,
