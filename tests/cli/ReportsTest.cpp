@@ -30,6 +30,14 @@ class ReportsTest : public QObject, protected CommandLineCase {
   private Q_SLOTS:
     void init() { setUp(); }
 
+    void marginsNeedRoomOnlyOnAPageAsItLies() {
+        const ToolRun run =
+            convert({u"--image-page-size=100x400"_s, u"--image-orientation=landscape"_s,
+                     u"--image-margins=0,100"_s, writePng(path("a.png"), 3, 3)});
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+        QCOMPARE(PdfProbe(path("out/a.pdf")).box(u"MediaBox"_s, 1), QRectF(0, 0, 400, 100));
+    }
+
     void wrongSettingsAreNamedByTheirOptionAndNothingIsWritten_data() {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QByteArray>("fault");

@@ -78,6 +78,11 @@ class ImagePlacementTest : public QObject {
               "page");
     }
 
+    void aSquareImageLeavesAWidePageAsItIs() {
+        const ImageLayout layout{.orientation = PageOrientation::Auto};
+        QCOMPARE(placeImage({10, 10}, fixedPage(400, 300, {}), layout).page, QSizeF(400, 300));
+    }
+
     void anImageThatOnlyShrinksStaysAsItIsWhereItFits() {
         const ImageLayout layout{.fit = ImageFit::Shrink};
         QCOMPARE(placeImage({100, 50}, fixedPage(300, 400, {}), layout).image,
