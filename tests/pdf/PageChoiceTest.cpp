@@ -140,6 +140,21 @@ class PageChoiceTest : public QObject, MergeCase {
                             "4 bookmarks"_s);
     }
 
+    void theOutlineEndsWithTheLastBookmarkThatStays() {
+        const QString path = chosen(
+            threePages("/Outlines 10 0 R")
+                .object(10, "<< /Type /Outlines /First 11 0 R /Last 13 0 R /Count 3 >>")
+                .object(11, "<< /Title (A) /Parent 10 0 R /Next 12 0 R /Dest [4 0 R /Fit] >>")
+                .object(12, "<< /Title (B) /Parent 10 0 R /Prev 11 0 R /Next 13 0 R "
+                            "/Dest [5 0 R /Fit] >>")
+                .object(13, "<< /Title (C) /Parent 10 0 R /Prev 12 0 R /Dest [6 0 R /Fit] >>"),
+            "1-2");
+        const auto document = opened(path);
+        auto last = document->getRoot().getKey("/Outlines").getKey("/Last");
+        QCOMPARE(last.getKey("/Title").getUTF8Value(), std::string("B"));
+        QVERIFY(!last.hasKey("/Next"));
+    }
+
     void aClosedBookmarkStaysClosed() {
         const QString path =
             chosen(threePages("/Outlines 10 0 R")
