@@ -21,17 +21,9 @@ bool isDigit(char character) {
     return character >= '0' && character <= '9';
 }
 
-/// What a number, a name or another word goes on with. The library puts a blank behind each.
-bool isRegular(char character) {
-    constexpr std::string_view kOthers(" ()<>[]/");
-    return kOthers.find(character) == std::string_view::npos;
-}
-
+/// The end of the word that stands at `at`. The library puts a blank behind each.
 std::size_t endOfToken(std::string_view text, std::size_t at) {
-    while (at < text.size() && isRegular(text[at])) {
-        ++at;
-    }
-    return at;
+    return std::min(text.find_first_of(" ()<>[]/", at), text.size());
 }
 
 /// The end of the string in parentheses that begins at `at`; the library escapes those in it.
@@ -103,10 +95,8 @@ void appendObject(std::string &out, std::string_view object, const NumberOf &num
                 out.append(std::to_string(numberOf(*reference))).append(" 0 R");
                 copied = at;
             }
-        } else if (first == '<' || first == '>') {
-            at += 2;
         } else {
-            at = isRegular(first) || first == '/' ? endOfToken(object, at + 1) : at + 1;
+            at += first == '<' ? 2 : 1;
         }
     }
     out.append(object, copied);
