@@ -27,6 +27,12 @@ using namespace folioforge::test;
 class CompressedCopyTest : public QObject, protected CompressionCase {
     Q_OBJECT
 
+    static QByteArray dataOf(QPDFObjectHandle stream) {
+        const auto data = stream.getStreamData();
+        return {reinterpret_cast<const char *>(data->getBuffer()),
+                static_cast<qsizetype>(data->getSize())};
+    }
+
   private Q_SLOTS:
     void init() { setUp(); }
 
@@ -73,10 +79,7 @@ class CompressedCopyTest : public QObject, protected CompressionCase {
         QPDF document;
         document.processFile(copy.toLocal8Bit().constData(), "user");
         QPDFObjectHandle first = document.getAllPages().at(0);
-        const auto data = first.getPageContents().at(0).getStreamData();
-        QCOMPARE(QByteArray(reinterpret_cast<const char *>(data->getBuffer()),
-                            static_cast<qsizetype>(data->getSize())),
-                 content);
+        QCOMPARE(dataOf(first.getPageContents().at(0)), content);
         QVERIFY(document.getWarnings().empty());
     }
 
@@ -104,6 +107,22 @@ class CompressedCopyTest : public QObject, protected CompressionCase {
         writePage(page);
         const QByteArray bytes = readFile(compressed());
         QVERIFY(bytes.contains(packed));
+    }
+
+    /// With parameters of filters that are gone the data would be read as something else.
+    void aStreamThatIsPackedAnewLosesTheParametersOfItsFilters() {
+        const QByteArray content = QByteArray("q 288 0 0 216 50 20 cm /Im0 Do Q").leftJustified(40);
+        const QByteArray packed = qCompress('\0' + content).sliced(4).toHex() + '>';
+        writePage(photoPage({}).stream(4,
+                                       "/Filter [/ASCIIHexDecode /FlateDecode] "
+                                       "/DecodeParms [null << /Predictor 12 /Columns 40 >>]",
+                                       packed));
+        QPDF document;
+        document.processFile(compressed().toLocal8Bit().constData());
+        QPDFObjectHandle first = document.getAllPages().at(0);
+        QPDFObjectHandle copied = first.getPageContents().at(0);
+        QCOMPARE(copied.getDict().getKey("/Filter").unparse(), std::string("/FlateDecode"));
+        QCOMPARE(dataOf(copied), content);
     }
 
     void theCopyOfAProtectedDocumentIsPrivate() {

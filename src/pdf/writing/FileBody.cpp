@@ -15,7 +15,6 @@
 #include <algorithm>
 #include <array>
 #include <limits>
-#include <new>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
@@ -92,7 +91,7 @@ void dropCrypt(QPDFObjectHandle dictionary) {
     putList(dictionary, "/DecodeParms", keptParameters);
 }
 
-/// Takes the data of a stream, up to a limit. The library hides most of what is thrown at it.
+/// Takes the data of a stream, up to a limit.
 class DataPipeline final : public Pipeline {
   public:
     DataPipeline(QByteArray &data, std::size_t maxBytes)
@@ -104,21 +103,14 @@ class DataPipeline final : public Pipeline {
         if (length > m_left) {
             throw TooLong();
         }
-        try {
-            m_left -= length;
-            m_data.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(length));
-        } catch (const std::bad_alloc &) {
-            m_lacksMemory = true;
-            throw;
-        }
+        m_left -= length;
+        m_data.append(reinterpret_cast<const char *>(data), static_cast<qsizetype>(length));
     }
     void finish() override {}
-    [[nodiscard]] bool lacksMemory() const { return m_lacksMemory; }
 
   private:
     QByteArray &m_data;
     std::size_t m_left;
-    bool m_lacksMemory = false;
 };
 
 } // namespace
@@ -193,8 +185,8 @@ void FileBody::writeAlone(int number, const std::string &object) {
 
 void FileBody::writeStream(QPDFObjectHandle stream, int number) {
     auto length = stream.getDict().getKey("/Length");
-    // Of a document that was read, /Length is that in its file, encrypted and perhaps wrong.
-    if (!m_repacks && !stream.getFilterOnWrite() && length.isInteger()) {
+    // Of a stream that was read, /Length is that in its file, encrypted and perhaps wrong.
+    if (!stream.getFilterOnWrite() && length.isInteger()) {
         const qint64 size =
             beginStream(number, stream.getDict().shallowCopy(), length.getIntValue());
         const qint64 begin = m_file.position();
@@ -271,9 +263,6 @@ bool FileBody::readData(QPDFObjectHandle stream, qpdf_stream_decode_level_e leve
         isWhole = stream.pipeStreamData(&data, &isUnpacked, 0, level, unpacks);
     } catch (const TooLong &) {
         return false;
-    }
-    if (data.lacksMemory()) {
-        throw std::bad_alloc();
     }
     return isWhole && isUnpacked;
 }
