@@ -148,6 +148,19 @@ class FaultsTest : public QObject {
                     .startsWith(u"7 pt"_s));
     }
 
+    void theMarkGoesWhenTheFieldChangesThoughItIsStillWrong() {
+        Refusing w;
+        w.spoil("m_tfTextPageMarginTop", u"257"_s);
+        w.press("m_btnCreate");
+        w.key(Qt::Key_End);
+        w.key(Qt::Key_Left, Qt::ShiftModifier);
+        w.key(Qt::Key_8);
+        const auto *field = w.control<QLineEdit>("m_tfTextPageMarginTop");
+        QCOMPARE(field->text(), u"258"_s);
+        QVERIFY(!isRed(w.edgeOf("m_tfTextPageMarginTop")));
+        QVERIFY(field->accessibleDescription().startsWith(u"258 pt"_s));
+    }
+
     void theMarkGoesWhenAnotherFieldMendsTheFault_data() {
         QTest::addColumn<QByteArray>("marked");
         QTest::addColumn<QString>("wrong");
@@ -209,6 +222,16 @@ class FaultsTest : public QObject {
         w.spoil("m_tfUserPassword", QString());
         w.press("m_btnCreate");
         w.control<QCheckBox>("m_btnCheckUserPassword")->setChecked(false);
+        QVERIFY(!isRed(w.edgeOf("m_tfUserPassword")));
+    }
+
+    void theMarkGoesWithTheLastFileAsThePasswordIsGreyed() {
+        Refusing w;
+        w.spoil("m_tfUserPassword", QString());
+        w.press("m_btnCreate");
+        QVERIFY(isRed(w.edgeOf("m_tfUserPassword")));
+        w.press("m_btnClear");
+        QVERIFY(!w.control<QLineEdit>("m_tfUserPassword")->isEnabled());
         QVERIFY(!isRed(w.edgeOf("m_tfUserPassword")));
     }
 
