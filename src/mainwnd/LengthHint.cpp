@@ -20,7 +20,6 @@ LengthHint::LengthHint(QLineEdit &field)
     auto *unit = new QLabel(tr("pt", "points, behind a number"), &field);
     unit->setProperty("role", u"unit"_s);
     unit->setContentsMargins(kBesideTheUnit, 0, kBesideTheUnit, 0);
-    unit->setAttribute(Qt::WA_TransparentForMouseEvents);
     new FieldEnd(field, *unit);
     connect(&field, &QLineEdit::textChanged, this, &LengthHint::tell);
     tell();

@@ -141,6 +141,20 @@ class FieldsTest : public QObject {
         QCOMPARE(panel.field(name.constData()).echoMode(), QLineEdit::Password);
     }
 
+    void aPasswordIsHiddenAsItIsGreyedWithTheLastFile_data() { everyPassword(); }
+    void aPasswordIsHiddenAsItIsGreyedWithTheLastFile() {
+        QFETCH(const QByteArray, name);
+        Passwords panel;
+        panel.ctrl.addFiles({panel.world.file(u"a.txt"_s)}, -1);
+        const QLineEdit &field = panel.field(name.constData());
+        panel.type(name.constData(), u"secret"_s);
+        QTest::mouseClick(&panel.eyeIn(name.constData()), Qt::LeftButton);
+        panel.press("m_btnClear");
+        QVERIFY(!field.isEnabled());
+        QCOMPARE(field.text(), u"secret"_s);
+        QVERIFY(field.displayText() != u"secret"_s);
+    }
+
     void aPasswordThatIsTypedAnewIsHidden() {
         Passwords panel;
         QLineEdit &field = panel.field("m_tfUserPassword");
@@ -229,12 +243,15 @@ class FieldsTest : public QObject {
         panel.openPanel();
         panel.ctrl.window()->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(panel.ctrl.window()));
-        const QLineEdit &field = panel.field("m_tfImagePageMarginTop");
+        QLineEdit &field = panel.field("m_tfImagePageMarginTop");
+        field.setText(u"72"_s);
+        field.home(false);
         const auto *unit = field.findChild<QLabel *>();
         QWidget *window = panel.ctrl.window();
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {},
                           unit->mapTo(window, unit->rect().center()));
         QVERIFY(field.hasFocus());
+        QCOMPARE(field.cursorPosition(), 2);
     }
 
     void whatStandsInAFieldIsAtTheLeftWhereTextsRunThatWay() {
