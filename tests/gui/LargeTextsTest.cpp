@@ -16,7 +16,9 @@
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
+#include <QRegion>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -73,6 +75,26 @@ class LargeTextsTest : public QObject {
             QTest::mouseClick(&w.control<QWidget>(settings), Qt::LeftButton);
             QCoreApplication::processEvents();
             QCOMPARE(cutTexts(*w.ctrl->window()), QStringList());
+        }
+    }
+
+    void noNumberStandsOnAnother() {
+        LargeTexts w(200);
+        for (const char *settings : {"m_btnImageSetting", "m_btnTxtSetting"}) {
+            QTest::mouseClick(&w.control<QWidget>(settings), Qt::LeftButton);
+            QCoreApplication::processEvents();
+            QRegion taken;
+            int fields = 0;
+            for (const auto *field :
+                 w.control<QWidget>("m_settingsViewContainer").findChildren<QLineEdit *>()) {
+                const QRect place(field->mapToGlobal(QPoint()), field->size());
+                if (field->isVisible()) {
+                    QVERIFY2(!taken.intersects(place), qPrintable(field->objectName()));
+                    taken += place;
+                    ++fields;
+                }
+            }
+            QCOMPARE(fields, 6); // Width, height and four margins.
         }
     }
 
