@@ -87,6 +87,18 @@ class PreviewPagesTest : public QObject {
         QCOMPARE(shown, u"Page %1 of %1"_s.arg(pages));
     }
 
+    void theEndIsShownThoughItIsAskedForWhileAnotherPageIsDrawn() {
+        PreviewWindow w;
+        w.listText(u"long.txt"_s, QByteArray("a line of a long text\n").repeated(100'000));
+        w.key(Qt::Key_Space);
+        QTRY_COMPARE(w.number(), u"Page 1 of more than 64"_s);
+        w.key(Qt::Key_Right);
+        w.key(Qt::Key_End);
+        QTRY_VERIFY(w.number().contains(u" of "_s) && !w.number().contains(u"more"_s));
+        const QStringList words = w.number().split(u' ');
+        QCOMPARE(words.at(1), words.at(3)); // "Page 8 of 8"
+    }
+
     void aPageBeforeTheEndIsShownWhileTheEndIsWritten() {
         PreviewWindow w;
         w.listText(u"long.txt"_s, QByteArray("a line of a long text\n").repeated(100'000));

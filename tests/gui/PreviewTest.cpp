@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
+#include "OffscreenScreen.h"
 #include "PreviewWindow.h"
 #include "support/PhotoPage.h"
 #include "support/TestUnit.h"
@@ -50,6 +51,9 @@ void typePageSize(TestWindow &w, const char *pageWidth, const char *pageHeight) 
 /// What the preview shows, and when.
 class PreviewTest : public QObject {
     Q_OBJECT
+
+  public:
+    static void initMain() { useScreenOf({1920, 1200}); } // A small one would scroll the window.
 
   private Q_SLOTS:
     void spaceShowsThePageBesideTheList() {
