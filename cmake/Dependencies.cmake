@@ -62,7 +62,7 @@ find_package(ZLIB REQUIRED)
 # What the programs allocate with. It has to stand before the C library, so that all of a program uses it.
 add_library(folioforge_allocator INTERFACE)
 if(FOLIOFORGE_JEMALLOC)
-    pkg_check_modules(JEMALLOC REQUIRED IMPORTED_TARGET jemalloc)
+    pkg_check_modules(JEMALLOC REQUIRED IMPORTED_TARGET jemalloc>=5.3)
     target_link_libraries(folioforge_allocator INTERFACE PkgConfig::JEMALLOC)
     target_sources(folioforge_allocator INTERFACE "${CMAKE_CURRENT_LIST_DIR}/JemallocSettings.cpp")
 endif()
