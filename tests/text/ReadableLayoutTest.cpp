@@ -185,6 +185,13 @@ class ReadableLayoutTest : public QObject {
         QVERIFY2(qAbs(behind - below) < 1e-3, qPrintable(QString::number(behind)));
     }
 
+    void theTwoCharactersOfALineEndEndOneLine() {
+        const ShownText shown = readable(u"a\r\nb"_s, 500);
+        QCOMPARE(shown.pieces.size(), std::size_t{2});
+        const double distance = shown.pieces[0].y - shown.pieces[1].y;
+        QVERIFY2(qAbs(distance - 11.499) < 1e-3, qPrintable(QString::number(distance)));
+    }
+
     void aFormFeedBeginsAPage() {
         QCOMPARE(readable(u"a\n\fb\fc\n"_s, 500).pages, 3);
         QCOMPARE(readable(u"a\r\nb\f"_s, 500).pages, 1);
