@@ -96,10 +96,10 @@ class PicturesOfPhonesTest : public QObject, CommandLineCase {
         const ToolRun run = shell("LD_LIBRARY_PATH=. folioforge-cli --merge out.pdf a.txt '" +
                                   inSource(u"tests/data/image/"_s + picture).toUtf8() + '\'');
         QCOMPARE(run.exitCode, 1);
-        // What the system says of it, as the loader's own words.
+        // The loader's own words, which older Qt puts in brackets.
         const QRegularExpression said(
             QRegularExpression::escape(picture) + u": "_s + words +
-            u", which cannot be loaded: [^\n]*lib\\w+\\.so\\.[\\d.]+: file too short\\)\n"_s);
+            u", which cannot be loaded: [^\n]*lib\\w+\\.so\\.[\\d.]+: file too short\\)?\n"_s);
         QVERIFY2(QString::fromUtf8(run.err).contains(said), run.err.constData());
         QCOMPARE(PdfProbe(path("out.pdf")).pageCount(), 1);
     }
