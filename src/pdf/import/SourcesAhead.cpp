@@ -14,8 +14,6 @@ namespace folioforge {
 
 namespace {
 
-/// Sources before their turn, beside the one that is copied.
-constexpr std::size_t kMaxAhead = 2;
 /// Each takes some hundred bytes of memory. What has more is parsed as it is copied.
 constexpr std::size_t kMaxObjects = 50'000;
 
@@ -83,26 +81,26 @@ std::unique_ptr<QPDF> SourcesAhead::take(const FileVersion &file,
 
 void SourcesAhead::free(std::unique_ptr<QPDF> source) {
     const std::lock_guard lock(m_mutex);
-    if (m_worker.joinable() && m_unneeded.size() < kMaxAhead) {
-        m_unneeded.push_back(std::move(source));
+    if (m_worker.joinable() && !m_unneeded) {
+        m_unneeded = std::move(source);
         m_changed.notify_all();
     }
 }
 
 bool SourcesAhead::mayBegin() const {
-    return m_begun < m_sources.size() && m_begun < m_taken + kMaxAhead;
+    return m_begun < m_sources.size() && m_begun <= m_taken;
 }
 
 void SourcesAhead::work(const std::stop_token &stop) {
     std::unique_lock lock(m_mutex);
-    const auto hasWork = [this] { return mayBegin() || !m_unneeded.empty(); };
+    const auto hasWork = [this] { return mayBegin() || m_unneeded; };
     while (m_changed.wait(lock, stop, hasWork) && !stop.stop_requested()) {
         if (mayBegin()) {
             parseNext(lock, stop);
         } else {
-            auto unneeded = std::exchange(m_unneeded, {});
+            auto unneeded = std::move(m_unneeded);
             lock.unlock();
-            unneeded.clear();
+            unneeded.reset();
             lock.lock();
         }
     }

@@ -18,8 +18,8 @@ class QPDF;
 
 namespace folioforge {
 
-/// Parses the sources of a document on a second core before their turn, and frees those that were
-/// copied there.
+/// Parses the next source of a document on a second core while one is copied, and frees those that
+/// were copied there.
 class SourcesAhead {
   public:
     /// Parses the PDFs at `paths`, in their order, as openSourceDocument() does.
@@ -59,7 +59,7 @@ class SourcesAhead {
     std::vector<Source> m_sources;
     std::size_t m_begun = 0;
     std::size_t m_taken = 0;
-    std::vector<std::unique_ptr<QPDF>> m_unneeded;
+    std::unique_ptr<QPDF> m_unneeded;
     std::jthread m_worker;
 };
 
