@@ -49,7 +49,7 @@ std::shared_ptr<const SourceFile> SourceReader::keptFile(const FileVersion &vers
     return kept != m_kept.end() ? *kept : nullptr;
 }
 
-void SourceReader::readThrough(std::shared_ptr<SourceReader> other) {
+void SourceReader::handOverTo(std::shared_ptr<SourceReader> other) {
     for (auto &file : m_kept) {
         other->keepOpen(std::move(file));
     }

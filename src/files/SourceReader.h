@@ -42,8 +42,8 @@ class SourceReader {
 
     /// Keeps `file` open for later reads, unless too many are open already.
     void keepOpen(std::shared_ptr<const SourceFile> file);
-    /// From now on `other` reads what is asked of this one, which leaves its open files to it.
-    void readThrough(std::shared_ptr<SourceReader> other);
+    /// Leaves all reading to `other`, with the files that are open: ask `other` what failed.
+    void handOverTo(std::shared_ptr<SourceReader> other);
     /// Leaves the file that is read, whatever became of it, and forgets what failed.
     void beginAnew();
     /// Leaves the file that is read, if any, and keeps it open for later reads. Throws Error when

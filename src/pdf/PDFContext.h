@@ -71,8 +71,8 @@ class PDFContext {
         bool sourceBookmarks = true;    ///< Whether those of source documents are taken.
         std::optional<TagOptions> tags; ///< Nothing: pages that are drawn are not tagged.
         InputPasswords inputPasswords;  ///< Of source documents.
-        /// The source documents all of whose pages are to be added, in their order. What can be is
-        /// done before their turn.
+        /// The source documents all of whose pages will be added, in their order: each is parsed
+        /// while the one before it is copied.
         std::vector<QString> sources = {};
         std::optional<ArchiveOptions> archive; ///< The standard that the document keeps.
         Flush flush = Flush::Always;

@@ -63,7 +63,10 @@ AddedDocument PDFContext::Impl::addDocument(const QString &sourcePath, const Pag
         m_reader->beginAnew(); // A source that failed may have left its file open.
         const FileVersion file = FileVersion::of(sourcePath);
         const std::string key = file.key();
-        auto source = m_sourcesAhead.take(file, m_reader);
+        std::unique_ptr<QPDF> source;
+        if (choice.range.isEmpty()) {
+            source = m_sourcesAhead.take(file, m_reader);
+        }
         if (!source) {
             source = openSourceDocument(file, m_reader, m_settings.inputPasswords);
         }

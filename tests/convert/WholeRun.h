@@ -24,7 +24,8 @@
 namespace folioforge::test {
 
 /// A photo and a PDF in a folder, and runs that make a document of them through system calls that
-/// may fail.
+/// may fail. One PDF alone is whole, so that none is parsed beside another and the calls come in
+/// the same order each time.
 class WholeRun {
   protected:
     /// What a run makes of the sources.

@@ -14,7 +14,7 @@ namespace folioforge {
 
 namespace {
 
-/// Each takes some hundred bytes of memory. What has more is parsed as it is copied.
+/// Most take some hundred bytes of memory. What has more is parsed as it is copied.
 constexpr std::size_t kMaxObjects = 50'000;
 
 /// Parses all objects of `document`; false where it is not to be done here, or is not sound.
@@ -24,12 +24,12 @@ bool parseObjects(QPDF &document, const std::stop_token &stop) {
         return false;
     }
     for (const auto &[object, place] : table) {
-        if (stop.stop_requested()) {
+        static_cast<void>(document.getObject(object).getTypeCode());
+        if (stop.stop_requested() || document.anyWarnings()) {
             return false;
         }
-        static_cast<void>(document.getObject(object).getTypeCode());
     }
-    return !document.anyWarnings();
+    return true;
 }
 
 } // namespace
@@ -71,11 +71,12 @@ std::unique_ptr<QPDF> SourcesAhead::take(const FileVersion &file,
         return nullptr;
     }
     m_changed.wait(lock, [&] { return source->isDone; });
+    std::for_each(next, source, [](Source &skipped) { skipped.parsed = {}; });
     Parsed parsed = std::move(source->parsed);
     if (!parsed.document || parsed.file != file) {
         return nullptr;
     }
-    parsed.reader->readThrough(reader);
+    parsed.reader->handOverTo(reader);
     return std::move(parsed.document);
 }
 

@@ -32,7 +32,7 @@ class SourcesAhead {
     /// is to be opened in its turn: it was not begun, is not sound, is too large, or has changed.
     std::unique_ptr<QPDF> take(const FileVersion &file,
                                const std::shared_ptr<SourceReader> &reader);
-    /// Frees `source`, which nobody needs any more, now or soon.
+    /// Frees `source` on the other core where that is not busy with another.
     void free(std::unique_ptr<QPDF> source);
 
   private:
