@@ -224,6 +224,18 @@ class PageChoiceTest : public QObject, MergeCase {
                  u"Not carried over, as it belongs to pages that are left out: 1 field"_s);
     }
 
+    void aListOfFieldsThatIsTheKidsOfOneEnds() {
+        const QString path = chosen(
+            threePages("/AcroForm << /Fields 9 0 R >>")
+                .object(9, "[<< /T (round) /FT /Tx /Kids 9 0 R >> 10 0 R]")
+                .object(10, "<< /FT /Tx /T (gone) /Subtype /Widget /Rect [0 0 9 9] /P 4 0 R >>")
+                .object(4, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] "
+                           "/Annots [10 0 R] >>"),
+            "2");
+        QCOMPARE(PdfProbe(path).pageCount(), 1);
+        QVERIFY(!unpacked(path).contains("gone"));
+    }
+
     void structureTagsOfPagesThatAreLeftOutGo() {
         const QByteArray paragraph = "<< /Type /StructElem /S /P /P 11 0 R /K 0 ";
         const QString path =

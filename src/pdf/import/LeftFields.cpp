@@ -17,15 +17,21 @@ std::size_t removeFieldsOf(const std::set<QPDFObjGen> &annotations, QPDF &source
     if (!form.isDictionary()) {
         return 0;
     }
-    auto roots = items(form.getKey("/Fields"));
+    const auto fields = form.getKey("/Fields");
+    auto roots = items(fields);
     const auto unlisted = unlistedFields(kept, roots);
     roots.insert(roots.end(), unlisted.begin(), unlisted.end());
     auto holder = QPDFObjectHandle::newDictionary();
     holder.replaceKey("/Kids", QPDFObjectHandle::newArray(roots));
-    std::set<QPDFObjGen> lists;
-    const auto kidsOf = [&lists](const auto &field) {
+    // A field of the list may name the list as its kids, and would be put under itself.
+    std::set<QPDFObjGen> lists{fields.getObjGen()};
+    const auto kidsOf = [&lists](QPDFObjectHandle field) {
         const auto kids = entry(field, "/Kids");
-        return isFirstVisit(kids, lists) ? items(kids) : std::vector<QPDFObjectHandle>();
+        if (isFirstVisit(kids, lists)) {
+            return items(kids);
+        }
+        field.removeKey("/Kids"); // They stay where they came first, or go from there.
+        return std::vector<QPDFObjectHandle>();
     };
     auto nodes = readTree(
         holder, kidsOf, [&](const auto &field) { return annotations.contains(field.getObjGen()); });
