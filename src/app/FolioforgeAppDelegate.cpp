@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileOpenEvent>
 #include <QIcon>
+#include <QImageReader>
 #include <QTimer>
 
 #include <algorithm>
@@ -25,6 +26,14 @@ QAction *itemWithTitle(const QMenu &menu, const QString &title) {
     const QList<QAction *> items = menu.actions();
     const auto found = std::ranges::find(items, title, &QAction::text);
     return found == items.end() ? nullptr : *found;
+}
+
+/// The picture of a PNG file. The plugins for other pictures, all of which Qt loads to find out
+/// what a file holds, stay out of the start.
+QPixmap readPng(const QString &path) {
+    QImageReader reader(path, "png");
+    reader.setAutoDetectImageFormat(false);
+    return QPixmap::fromImageReader(&reader);
 }
 
 } // namespace
@@ -56,7 +65,7 @@ void FolioforgeAppDelegate::awakeFromNib() {
 
 void FolioforgeAppDelegate::applicationDidFinishLaunching() {
     QApplication::setWindowIcon(
-        QIcon(u"%1/Contents/Resources/folioforge-256.png"_s.arg(m_services.bundlePath)));
+        readPng(u"%1/Contents/Resources/folioforge-256.png"_s.arg(m_services.bundlePath)));
     m_mainWndCtrl->setDelegateObject(this);
     m_mainWndCtrl->window()->setMenuBar(m_menuBar.release());
     m_mainWndCtrl->fillEditMenu(*m_editMenu);

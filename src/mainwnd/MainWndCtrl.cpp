@@ -149,7 +149,6 @@ void MainWndCtrl::windowDidLoad() {
     m_prgCreate->setTextVisible(false);
 
     m_cffontRef = m_fontName.toUtf8();
-    m_ctFont = FontCascade::load({QString::fromUtf8(m_cffontRef)}, m_fontSize);
 
     m_mtxTextPageSizeMode->buttons().at(TextPageA4)->setChecked(true);
     m_mtxImagePageSizeMode->buttons().at(ImagePageFollowsImage)->setChecked(true);

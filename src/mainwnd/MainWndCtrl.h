@@ -226,6 +226,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     [[nodiscard]] PageSetup imagePageSetup() const;
     [[nodiscard]] SecuritySettings securitySettings() const;
     [[nodiscard]] ConversionOptions conversionOptions() const;
+    [[nodiscard]] ConversionOptions runOptions();
     void readOutputFolder();
     [[nodiscard]] QString makeDefaultOutputFolder() const;
     void outputFolderChosen(const QStringList &paths);
@@ -249,7 +250,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     void connectPreview();
     void showPreview(bool shown);
     [[nodiscard]] int previewRow() const;
-    [[nodiscard]] PreviewSubject previewSubject() const;
+    [[nodiscard]] PreviewSubject previewSubject();
 
     // Runs.
     class WorkerObserver;
@@ -287,7 +288,7 @@ class MainWndCtrl : public QObject, public SkinTableViewDelegate, private Ui::Ma
     QString m_fontName = QStringLiteral("Arial Unicode MS");
     int m_fontSize = 14; ///< Points.
     QByteArray m_cffontRef;
-    std::shared_ptr<const FontCascade> m_ctFont; ///< The font of text pages.
+    std::shared_ptr<const FontCascade> m_ctFont; ///< Of text pages, from the first run on.
     std::optional<PDFDocument> m_pdfDoc;
     bool m_bConverting = false;
     std::optional<ConvertInfo> m_convertInfoDict;

@@ -13,7 +13,7 @@ void MainWndCtrl::clickBtnCreate() {
     if (m_bConverting || m_filesArray->isEmpty()) {
         return;
     }
-    ConversionOptions options = conversionOptions();
+    ConversionOptions options = runOptions();
     if (!checkSettings(options)) {
         return;
     }

@@ -89,7 +89,7 @@ int MainWndCtrl::previewRow() const {
     return selection.isSelected(current) ? current.row() : m_tableview->selectedRow();
 }
 
-PreviewSubject MainWndCtrl::previewSubject() const {
+PreviewSubject MainWndCtrl::previewSubject() {
     PreviewSubject subject;
     const int row = previewRow();
     if (row < 0) {
@@ -97,7 +97,7 @@ PreviewSubject MainWndCtrl::previewSubject() const {
         return subject;
     }
     subject.entry = m_filesArray->at(row);
-    subject.options = conversionOptions();
+    subject.options = runOptions();
     std::optional<Notice> problem;
     if (subject.entry.stateIndex() == FinishedAsLink) {
         subject.document = subject.entry.destFilePathName();

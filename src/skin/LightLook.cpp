@@ -3,8 +3,10 @@
 #include "skin/LightLook.h"
 
 #include <QApplication>
+#include <QIcon>
+#include <QIconEngine>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 
 using namespace Qt::StringLiterals;
 
@@ -119,10 +121,48 @@ constexpr QStringView kLightStyleSheet = uR"(
         #busyCount { color: #59616b; }
 )";
 
+/// An icon of `style` that is read when it is first drawn.
+class LaterIcon : public QIconEngine {
+  public:
+    LaterIcon(const QStyle &style, QStyle::StandardPixmap name)
+        : m_style(style)
+        , m_name(name) {}
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode,
+               QIcon::State state) override {
+        m_style.standardIcon(m_name).paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
+        return m_style.standardIcon(m_name).pixmap(size, 1, mode, state);
+    }
+    [[nodiscard]] QIconEngine *clone() const override { return new LaterIcon(*this); }
+
+  private:
+    const QStyle &m_style;
+    QStyle::StandardPixmap m_name;
+};
+
+class LightStyle : public QProxyStyle {
+  public:
+    LightStyle()
+        : QProxyStyle(u"Fusion"_s) {}
+
+    /// A menu bar asks at once for the arrow of a bar that is too narrow. To read its picture, Qt
+    /// loads all of its plugins for pictures: three of the sixty milliseconds of the window's
+    /// start.
+    [[nodiscard]] QIcon standardIcon(StandardPixmap name, const QStyleOption *option,
+                                     const QWidget *widget) const override {
+        if (name == SP_ToolBarHorizontalExtensionButton) {
+            return QIcon(new LaterIcon(*baseStyle(), name));
+        }
+        return QProxyStyle::standardIcon(name, option, widget);
+    }
+};
+
 } // namespace
 
 void applyLightLook(QApplication &application) {
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new LightStyle);
     QApplication::setPalette(lightPalette());
     QString sheet = kLightStyleSheet.toString();
     if (QGuiApplication::isRightToLeft()) {

@@ -9,6 +9,8 @@
 
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyleFactory>
+#include <QToolButton>
 
 using namespace folioforge;
 using namespace folioforge::test;
@@ -105,6 +107,21 @@ class TinyScreenTest : public QObject {
         tiny.control<QLineEdit>("m_tfTextPageMarginBottom").setText(QStringLiteral("257"));
         tiny.delegate.mainWndCtrl().clickBtnCreate();
         QTRY_VERIFY(Tiny::isInView(tiny.control<QWidget>("m_tfTextPageMarginBottom")));
+    }
+
+    void aMenuBarThatIsTooNarrowShowsTheArrowOfItsStyle() {
+        QMenuBar bar;
+        for (const char *title : {"File", "Edit", "View", "Help"}) {
+            bar.addMenu(QString::fromLatin1(title));
+        }
+        bar.resize(60, bar.sizeHint().height());
+        bar.show();
+        const auto &arrow = controlOf<QToolButton>(bar, "qt_menubar_ext_button");
+        QTRY_VERIFY(arrow.isVisible());
+        constexpr QSize kSize(16, 16);
+        const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("Fusion")));
+        const QIcon icon = style->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+        QCOMPARE(arrow.icon().pixmap(kSize).toImage(), icon.pixmap(kSize).toImage());
     }
 };
 
