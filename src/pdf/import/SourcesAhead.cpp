@@ -35,10 +35,10 @@ bool parseObjects(QPDF &document, const std::stop_token &stop) {
 } // namespace
 
 SourcesAhead::SourcesAhead(const std::vector<QString> &paths, InputPasswords passwords,
-                           SystemCalls &calls)
+                           SystemCalls &calls, unsigned cores)
     : m_passwords(std::move(passwords))
     , m_calls(calls) {
-    if (paths.size() < 2 || std::thread::hardware_concurrency() < 2) {
+    if (paths.size() < 2 || cores < 2) {
         return;
     }
     for (const QString &path : paths) {

@@ -22,8 +22,10 @@ namespace folioforge {
 /// were copied there.
 class SourcesAhead {
   public:
-    /// Parses the PDFs at `paths`, in their order, as openSourceDocument() does.
-    SourcesAhead(const std::vector<QString> &paths, InputPasswords passwords, SystemCalls &calls);
+    /// Parses the PDFs at `paths`, in their order, as openSourceDocument() does; none where the
+    /// machine has one core.
+    SourcesAhead(const std::vector<QString> &paths, InputPasswords passwords, SystemCalls &calls,
+                 unsigned cores = std::thread::hardware_concurrency());
     ~SourcesAhead();
     SourcesAhead(const SourcesAhead &) = delete;
     SourcesAhead &operator=(const SourcesAhead &) = delete;
