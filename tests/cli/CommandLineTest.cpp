@@ -157,19 +157,18 @@ class CommandLineTest : public QObject, protected CommandLineCase {
     }
 
     void itSpeaksEnglishOnAGermanSystem() {
-#ifndef __linux__
-        QSKIP("Translations of the system's messages are looked for as glibc does");
-#endif
+        const QStringList german{u"LANG=de_DE.UTF-8"_s, u"LC_ALL=de_DE.UTF-8"_s, u"LANGUAGE=de"_s,
+                                 u"LOCPATH="_s + m_folder->path()};
+#ifdef __linux__ // Elsewhere the locale is there, and programs have no words of it.
         const ToolRun made = runTool(
             u"localedef"_s, {u"-i"_s, u"de_DE"_s, u"-f"_s, u"UTF-8"_s, path("de_DE.UTF-8")});
         QVERIFY2(made.exitCode == 0 || made.exitCode == 1, made.err.constData()); // 1: warnings
-        const QStringList arguments{u"--output-folder"_s, path("out"), u"--overwrite=always"_s,
-                                    text("a.txt", "caf\xE9"), path("missing.txt")};
-        const QStringList german{u"LANG=de_DE.UTF-8"_s, u"LC_ALL=de_DE.UTF-8"_s, u"LANGUAGE=de"_s,
-                                 u"LOCPATH="_s + m_folder->path()};
         const ToolRun other =
             runTool(u"env"_s, german + QStringList{u"cat"_s, path("missing.txt")});
         QVERIFY2(other.err.contains("Datei oder Verzeichnis nicht gefunden"), other.err);
+#endif
+        const QStringList arguments{u"--output-folder"_s, path("out"), u"--overwrite=always"_s,
+                                    text("a.txt", "caf\xE9"), path("missing.txt")};
         for (const QStringList &report : {QStringList(), QStringList{u"--json"_s}}) {
             const ToolRun run =
                 runTool(u"env"_s, german + QStringList{kProgram} + report + arguments);
