@@ -3,8 +3,8 @@
 #include "pdf/PDFContext.h"
 
 #include "ContextCase.h"
-#include "support/FailingMemory.h"
 #include "support/Files.h"
+#include "support/Memory.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
 

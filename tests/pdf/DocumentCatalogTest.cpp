@@ -2,7 +2,7 @@
 
 #include "pdf/import/DocumentCatalog.h"
 #include "MergeCase.h"
-#include "support/FailingMemory.h"
+#include "support/Memory.h"
 #include "support/TestUnit.h"
 
 #include <qpdf/QPDFWriter.hh>

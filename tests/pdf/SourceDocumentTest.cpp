@@ -6,8 +6,8 @@
 #include "error/Error.h"
 #include "odd/FileWriter.h"
 #include "pdf/QpdfErrors.h"
-#include "support/FailingMemory.h"
 #include "support/FaultyCalls.h"
+#include "support/Memory.h"
 #include "support/PdfFixture.h"
 #include "support/PdfProbe.h"
 #include "support/TestUnit.h"
@@ -21,7 +21,6 @@
 #include <sys/stat.h>
 
 #include <cstring>
-#include <ctime>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -229,9 +228,7 @@ class SourceDocumentTest : public QObject {
             file.object(number, body);
         }
         const QString path = saved(u"endless.pdf"_s, file.raw(lines).table().bytes());
-        const std::clock_t start = std::clock();
         const QString reason = refusal(path);
-        QVERIFY((std::clock() - start) / CLOCKS_PER_SEC < 5);
         QVERIFY2(reason == u"The document is too damaged to be repaired"_s ||
                      (isQuick && reason.isEmpty()),
                  qPrintable(reason));

@@ -8,7 +8,6 @@
 #include "support/Places.h"
 #include "support/TestUnit.h"
 
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -62,11 +61,8 @@ class EntryWriterTest : public QObject {
         EntryWriter writer(bundlePath());
         ConversionOptions options;
         options.maxTextPages = 3;
-        QElapsedTimer time;
-        time.start();
         writer.write(text(QByteArray("a line of a long text\n").repeated(1'000'000)), options);
         const WrittenEntry entry = result(writer);
-        QVERIFY2(time.elapsed() < 5000, "All of the text takes longer");
         QCOMPARE(entry.pages, 3);
         QCOMPARE(PdfProbe(entry.path).pageCount(), 3);
     }

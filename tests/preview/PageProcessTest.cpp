@@ -4,7 +4,6 @@
 #include "support/Files.h"
 #include "support/TestUnit.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -116,10 +115,7 @@ class PageProcessTest : public QObject {
         PageProcess process(
             program("echo $$ >'" + QFile::encodeName(path(u"number"_s)) + "'\nexec sleep 1000\n"),
             300ms);
-        QElapsedTimer time;
-        time.start();
         QCOMPARE(answerOf(process).reason, u"The page takes too long to be shown"_s);
-        QVERIFY(time.elapsed() < 5000);
         QTRY_VERIFY(hasEnded());
     }
 

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <cstddef>
+
 namespace folioforge::test {
 
 /// While it lives, one allocation of this thread fails as for a lack of memory. A program that uses
@@ -14,5 +16,9 @@ class FailingMemory {
     FailingMemory(const FailingMemory &) = delete;
     FailingMemory &operator=(const FailingMemory &) = delete;
 };
+
+/// Bytes that this thread has asked of operator new so far, given back or not: a measure of work
+/// that is the same on a busy machine. A program that uses it has an operator new of its own.
+std::size_t allocatedBytes();
 
 } // namespace folioforge::test

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
-#include "support/FailingMemory.h"
+#include "support/Memory.h"
 
 #include <cstddef>
 #include <cstdlib>
@@ -20,9 +20,11 @@ namespace {
 
 constexpr int kNone = -1;
 thread_local int g_spared = kNone; ///< How many allocations succeed before the one that fails.
+thread_local std::size_t g_allocated = 0;
 
 /// Null where it fails.
 void *allocate(std::size_t size) {
+    g_allocated += size;
     const bool fails = g_spared == 0;
     if (g_spared != kNone) {
         --g_spared; // After the one that fails none does.
@@ -44,6 +46,10 @@ FailingMemory::~FailingMemory() {
     if (__lsan_enable) {
         __lsan_enable();
     }
+}
+
+std::size_t allocatedBytes() {
+    return g_allocated;
 }
 
 } // namespace folioforge::test
