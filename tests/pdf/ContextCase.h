@@ -9,6 +9,8 @@
 #include <QImage>
 #include <QTemporaryDir>
 
+#include <cstdint>
+
 namespace folioforge::test {
 
 /// A picture whose four quarters are red, green (above), blue and white (below).
@@ -42,6 +44,7 @@ class ContextCase {
   protected:
     QTemporaryDir m_folder;
     int m_number = 0;
+    std::uint32_t m_checksum = 0; ///< Of what writeImages() wrote, as its writer knows it.
 
     QString file(const QString &name) const { return m_folder.filePath(name); }
     QString jpeg(const QString &name) const {
@@ -59,14 +62,14 @@ class ContextCase {
         return settings;
     }
     /// One page of 100 x 50 for each of `images`, each drawn over the whole page.
-    CloseResult writeImages(const QString &path, const QStringList &images) const {
+    CloseResult writeImages(const QString &path, const QStringList &images) {
         PDFContext context(path, settings());
         for (const QString &image : images) {
             context.beginPage({0, 0, 100, 50});
             context.drawImage({0, 0, 100, 50}, jpegInPlace(image), 1);
             context.endPage();
         }
-        return context.close();
+        return context.close({}, [this](OutputFile &, std::uint32_t sum) { m_checksum = sum; });
     }
 };
 

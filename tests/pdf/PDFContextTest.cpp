@@ -4,12 +4,14 @@
 
 #include "ContextCase.h"
 #include "support/PdfProbe.h"
+#include "support/PhotoPage.h"
 #include "support/TestUnit.h"
 #include "text/FontCascade.h"
 
 #include <QTest>
 
 #include <sys/resource.h>
+#include <zlib.h>
 
 #include <array>
 #include <cmath>
@@ -146,15 +148,41 @@ class PDFContextTest : public QObject, protected ContextCase {
         QVERIFY(holds(3, Qt::black) && !holds(3, Qt::red));
     }
 
+    void copiesTheBytesOfAJpegAsTheyAre_data() {
+        QTest::addColumn<int>("side");
+        QTest::newRow("small") << 64;
+        QTest::newRow("of more than one piece") << 1500;
+    }
     void copiesTheBytesOfAJpegAsTheyAre() {
-        const QString source = jpeg(u"own.jpg"_s);
-        const QString path = file(u"own.pdf"_s);
-        writeImages(path, {source});
-        QFile original(source);
-        QVERIFY(original.open(QIODevice::ReadOnly));
-        QFile written(path);
-        QVERIFY(written.open(QIODevice::ReadOnly));
-        QVERIFY(written.readAll().contains(original.readAll()));
+        QFETCH(const int, side);
+        const QString source = file(u"own.jpg"_s);
+        QVERIFY(photo(side, side).save(source, "JPEG", 95));
+        QCOMPARE(QFileInfo(source).size() > (1 << 19), side > 1000);
+        const QString path = file(u"own%1.pdf"_s.arg(side));
+        const CloseResult result = writeImages(path, {source, jpeg(u"next.jpg"_s)});
+        QCOMPARE(result.status, CloseResult::Status::Written);
+        const QByteArray written = readFile(path);
+        QVERIFY(written.contains(readFile(source)));
+        const PdfProbe probe(path);
+        QString log;
+        QVERIFY2(probe.isValid(&log), qPrintable(log)); // All stands where it is said to.
+        QCOMPARE(m_checksum, crc32(0, reinterpret_cast<const Bytef *>(written.constData()),
+                                   static_cast<uInt>(written.size())));
+    }
+
+    void aLargePictureThatChangesBeforeItIsWrittenFailsTheDocument() {
+        const QString source = file(u"changing.jpg"_s);
+        QVERIFY(photo(1500, 1500).save(source, "JPEG", 95));
+        const QString path = newFile(u"pdf"_s);
+        PDFContext context(path, settings());
+        context.beginPage({0, 0, 100, 50});
+        context.drawImage({0, 0, 100, 50}, jpegInPlace(source), 1);
+        context.endPage();
+        QVERIFY(QFile(source).resize(QFileInfo(source).size() - 1));
+        const CloseResult result = context.close();
+        QCOMPARE(result.status, CloseResult::Status::Failed);
+        QVERIFY2(result.reason.contains(u"was changed"_s), qPrintable(result.reason));
+        QVERIFY(!QFile::exists(path));
     }
 
     void takesOverThePagesOfAnotherDocument() {
