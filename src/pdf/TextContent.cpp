@@ -63,11 +63,15 @@ TextContent::Operator TextContent::moveTo(double x, double y) {
 
 void TextContent::selectFont(std::uint16_t font) {
     m_font = font;
-    const std::string name = m_fonts.resourceName(font);
-    m_resources[name] = m_fonts.object(font);
-    m_content.append(name).append(" ");
-    appendNumber(m_content, m_size);
-    m_content += "Tf ";
+    std::string &selection = m_selections[font];
+    if (selection.empty()) {
+        selection = m_fonts.resourceName(font);
+        m_resources[selection] = m_fonts.object(font);
+        selection += ' ';
+        appendNumber(selection, m_size);
+        selection += "Tf ";
+    }
+    m_content += selection;
 }
 
 void TextContent::show(Operator how) {

@@ -56,8 +56,9 @@ class TextContent {
     FontEmbedder &m_fonts;
     double m_size = 0;
     bool m_open = false;
-    std::uint16_t m_font = 0; ///< The current font; 0 for none.
-    double m_x = 0;           ///< Start of the current line as a reader computes it.
+    std::uint16_t m_font = 0;                          ///< The current font; 0 for none.
+    std::map<std::uint16_t, std::string> m_selections; ///< What selects each font of this page.
+    double m_x = 0; ///< Start of the current line as a reader computes it.
     double m_y = 0;
     double m_leading = 0; ///< The current leading, positive upwards.
     std::string m_begin;  ///< The number of a marked content that has shown nothing so far.

@@ -34,7 +34,7 @@ std::shared_ptr<const FontCascade> FontCascade::withoutBoxes() const {
 FontCascade::FontCascade(const QStringList &families, double size, Missing missing)
     : m_families(families)
     , m_size(size)
-    , m_pages(kUnicodePages) {
+    , m_pageOf(kUnicodePages) {
     for (CatalogFont &font : findTextFonts(families)) {
         // The first face gives the row height, so it must open.
         if (Face face(std::move(font));
@@ -113,13 +113,21 @@ const FontFace *FontCascade::openFace(std::size_t index) const {
 
 Glyph FontCascade::cachedGlyph(char32_t character) const {
     const std::size_t number = character / kPageSize;
-    if (number >= m_pages.size()) {
+    if (number >= m_pageOf.size()) {
         return m_missing;
     }
+    // Every character of a text in another script comes here: a lock takes as long as all else.
+    const Page *page = m_pageOf[number];
+    const std::size_t slot = character % kPageSize;
+    return page && page->known[slot] ? page->glyphs[slot] : addGlyph(character);
+}
+
+const Glyph &FontCascade::addGlyph(char32_t character) const {
     const std::lock_guard lock(m_mutex);
-    auto &page = m_pages[number];
+    Page *page = m_pageOf[character / kPageSize];
     if (!page) {
-        page = std::make_unique<Page>();
+        page = &m_pages.emplace_back();
+        m_pageOf[character / kPageSize] = page;
     }
     const std::size_t slot = character % kPageSize;
     if (!page->known[slot]) {

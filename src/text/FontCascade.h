@@ -9,8 +9,10 @@
 #include <QStringList>
 
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -107,7 +109,7 @@ class FontCascade {
     static constexpr std::size_t kPageSize = 256;
     struct Page {
         std::array<Glyph, kPageSize> glyphs;
-        std::array<bool, kPageSize> known{};
+        std::array<std::atomic<bool>, kPageSize> known{}; ///< Set behind the glyph.
     };
     static constexpr char32_t kNoGlyph = 0xFFFFFFFF;
     static constexpr char32_t kFirstAscii = 0x20;
@@ -120,6 +122,7 @@ class FontCascade {
 
     const FontFace *openFace(std::size_t index) const;
     [[nodiscard]] Glyph cachedGlyph(char32_t character) const;
+    const Glyph &addGlyph(char32_t character) const;
     [[nodiscard]] Glyph findGlyph(char32_t character) const;
     [[nodiscard]] Glyph glyphOf(std::size_t face, std::uint16_t id, char32_t character) const;
     [[nodiscard]] double points(int fontUnits) const;
@@ -132,9 +135,10 @@ class FontCascade {
     std::array<Glyph, kLastAscii - kFirstAscii + 1> m_ascii;
     std::size_t m_asciiDrawn = 0; ///< All of m_ascii, or none where one of them would be a box.
 
-    mutable std::mutex m_mutex; ///< Guards the faces, the cached glyphs and the forms.
+    mutable std::mutex m_mutex; ///< Guards the faces and the forms; glyphs are added under it.
     mutable std::vector<Face> m_faces;
-    mutable std::vector<std::unique_ptr<Page>> m_pages;
+    mutable std::deque<Page> m_pages;
+    mutable std::vector<std::atomic<Page *>> m_pageOf; ///< By the number of the page; may be null.
     mutable std::map<std::tuple<std::uint16_t, std::uint16_t, QString>, char32_t> m_forms;
     mutable std::vector<QString> m_formTexts; ///< By character, from kFirstForm on.
     mutable std::shared_ptr<const FontCascade> m_withoutBoxes;
