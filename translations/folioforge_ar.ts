@@ -839,10 +839,6 @@ None: pictures stay as they are
         <translation>أُوقف التحويل</translation>
     </message>
     <message>
-        <source>Its name was taken by another file</source>
-        <translation>أخذ ملف آخر اسمه</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>تتعذّر قراءة %1: %2</translation>
     </message>
@@ -1972,8 +1968,8 @@ None: pictures stay as they are
         <translation>ألوانها أحبار بلا ملف تعريف، ولم يُعطَ أي ملف</translation>
     </message>
     <message>
-        <source>a page has %1 x %2 units, beyond 3 to %3</source>
-        <translation>قياس إحدى الصفحات %1 × %2 وحدة، خارج المدى 3 إلى %3</translation>
+        <source>a page has %1 x %2 units, beyond %3 to %4</source>
+        <translation>قياس إحدى الصفحات %1 × %2 وحدة، خارج المدى %3 إلى %4</translation>
     </message>
     <message>
         <source>it is protected, which the standard forbids</source>

@@ -835,10 +835,6 @@ Keine: Bilder bleiben, wie sie sind
         <translation>Die Umwandlung wurde abgebrochen</translation>
     </message>
     <message>
-        <source>Its name was taken by another file</source>
-        <translation>Eine andere Datei hat inzwischen ihren Namen</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 kann nicht gelesen werden: %2</translation>
     </message>
@@ -1860,8 +1856,8 @@ Keine: Bilder bleiben, wie sie sind
         <translation>Seine Farben sind Druckfarben ohne Profil, und keines ist angegeben</translation>
     </message>
     <message>
-        <source>a page has %1 x %2 units, beyond 3 to %3</source>
-        <translation>Eine Seite hat %1 x %2 Einheiten, außerhalb von 3 bis %3</translation>
+        <source>a page has %1 x %2 units, beyond %3 to %4</source>
+        <translation>Eine Seite hat %1 x %2 Einheiten, außerhalb von %3 bis %4</translation>
     </message>
     <message>
         <source>it is protected, which the standard forbids</source>

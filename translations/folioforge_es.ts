@@ -835,10 +835,6 @@ Ninguna: las imágenes quedan como están
         <translation>La conversión se interrumpió</translation>
     </message>
     <message>
-        <source>Its name was taken by another file</source>
-        <translation>Otro archivo ha tomado su nombre</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 no se puede leer: %2</translation>
     </message>
@@ -1860,8 +1856,8 @@ Ninguna: las imágenes quedan como están
         <translation>sus colores son tintas sin perfil, y no se ha dado ninguno</translation>
     </message>
     <message>
-        <source>a page has %1 x %2 units, beyond 3 to %3</source>
-        <translation>una página tiene %1 x %2 unidades, fuera de 3 a %3</translation>
+        <source>a page has %1 x %2 units, beyond %3 to %4</source>
+        <translation>una página tiene %1 x %2 unidades, fuera de %3 a %4</translation>
     </message>
     <message>
         <source>it is protected, which the standard forbids</source>

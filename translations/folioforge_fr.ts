@@ -835,10 +835,6 @@ Aucune&#xa0;: les images restent telles quelles
         <translation>La conversion a été interrompue</translation>
     </message>
     <message>
-        <source>Its name was taken by another file</source>
-        <translation>Un autre fichier a pris son nom</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 ne peut pas être lu&#xa0;: %2</translation>
     </message>
@@ -1860,8 +1856,8 @@ Aucune&#xa0;: les images restent telles quelles
         <translation>ses couleurs sont des encres sans profil, et aucun n’est donné</translation>
     </message>
     <message>
-        <source>a page has %1 x %2 units, beyond 3 to %3</source>
-        <translation>une page a %1 x %2 unités, hors de 3 à %3</translation>
+        <source>a page has %1 x %2 units, beyond %3 to %4</source>
+        <translation>une page a %1 x %2 unités, hors de %3 à %4</translation>
     </message>
     <message>
         <source>it is protected, which the standard forbids</source>

@@ -834,10 +834,6 @@ None: pictures stay as they are
         <translation>変換を中止しました</translation>
     </message>
     <message>
-        <source>Its name was taken by another file</source>
-        <translation>その名前は別のファイルに使われました</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>%1 を読み取れません: %2</translation>
     </message>
@@ -1832,8 +1828,8 @@ None: pictures stay as they are
         <translation>プロファイルのないインクの色で、プロファイルが指定されていないため</translation>
     </message>
     <message>
-        <source>a page has %1 x %2 units, beyond 3 to %3</source>
-        <translation>ページの大きさ %1 x %2 が 3 から %3 の範囲にないため</translation>
+        <source>a page has %1 x %2 units, beyond %3 to %4</source>
+        <translation>ページの大きさ %1 x %2 が %3 から %4 の範囲にないため</translation>
     </message>
     <message>
         <source>it is protected, which the standard forbids</source>

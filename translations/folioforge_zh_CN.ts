@@ -834,10 +834,6 @@ None: pictures stay as they are
         <translation>转换已停止</translation>
     </message>
     <message>
-        <source>Its name was taken by another file</source>
-        <translation>其名称已被另一个文件占用</translation>
-    </message>
-    <message>
         <source>%1 cannot be read: %2</source>
         <translation>无法读取 %1：%2</translation>
     </message>
@@ -1832,8 +1828,8 @@ None: pictures stay as they are
         <translation>它的颜色是没有配置文件的油墨色，也没有给出配置文件</translation>
     </message>
     <message>
-        <source>a page has %1 x %2 units, beyond 3 to %3</source>
-        <translation>有一页为 %1 x %2 单位，超出 3 到 %3</translation>
+        <source>a page has %1 x %2 units, beyond %3 to %4</source>
+        <translation>有一页为 %1 x %2 单位，超出 %3 到 %4</translation>
     </message>
     <message>
         <source>it is protected, which the standard forbids</source>

@@ -144,15 +144,6 @@ void compressInto(const QString &path, const CompressionOptions &options,
         ConvertInfo{QFile::decodeName(file->path().c_str()), path, std::move(file)};
 }
 
-/// The copy of `source` for `destination`, whole but without its name.
-std::unique_ptr<OutputFile> copyFor(const QString &destination, const QString &source, Flush flush,
-                                    SystemCalls &calls) {
-    auto file = std::make_unique<OutputFile>(destination, calls);
-    appendFile(*file, source, calls);
-    file->finish(flush);
-    return file;
-}
-
 } // namespace
 
 CompressionOutcome compress(const QString &path, const CompressionOptions &options,
@@ -171,23 +162,12 @@ CompressionOutcome compress(const QString &path, const CompressionOptions &optio
     return outcome;
 }
 
-QString compressCompleted(const ConvertInfo &convertInfo, SystemCalls &calls) {
-    const QString &destination = convertInfo.destFilePathName;
-    try {
-        const auto copy = copyFor(destination, convertInfo.tempFilePathName, Flush::Always, calls);
-        calls.unlink(QFile::encodeName(destination).constData());
-        if (copy->publish(destination, Flush::Always) == OutputFile::Published::NameTaken) {
-            return Reasons::tr("Its name was taken by another file");
-        }
-    } catch (const Error &error) {
-        return error.reason();
-    }
-    return {};
-}
-
 void putInPlace(const ConvertInfo &convertInfo, Flush flush, SystemCalls &calls) {
     const QString &destination = convertInfo.destFilePathName;
-    copyFor(destination, convertInfo.tempFilePathName, flush, calls)->replace(destination, flush);
+    OutputFile file(destination, calls);
+    appendFile(file, convertInfo.tempFilePathName, calls);
+    file.finish(flush);
+    file.replace(destination, flush);
 }
 
 } // namespace folioforge

@@ -68,14 +68,8 @@ using EndPageWrite = std::function<void(int pageIndex, int pageCount)>;
 CompressionOutcome compress(const QString &path, const CompressionOptions &options,
                             const EndPageWrite &endPageWrite = {});
 
-/// What the window does with the hand-over record: the destination gives way to the temporary
-/// file. Says why that could not be; empty when it could. The destination goes only when its
-/// successor is whole on the same disk.
-QString compressCompleted(const ConvertInfo &convertInfo,
-                          SystemCalls &calls = SystemCalls::system());
-
-/// What the command line does with it: the destination gives way to the copy in one step, once that
-/// stands whole on its disk. Throws Error when it cannot; the destination is then as it was.
+/// What is done with the hand-over record: the destination gives way to the copy in one step, once
+/// that stands whole on its disk. Throws Error when it cannot; the destination is then as it was.
 void putInPlace(const ConvertInfo &convertInfo, Flush flush,
                 SystemCalls &calls = SystemCalls::system());
 

@@ -199,8 +199,11 @@ CompressionOutcome Run::compressInPlace(const QString &path, const QString &temp
 }
 
 void Run::compressCompleted(const ConvertInfo &convertInfo) {
-    noteProblem(convertInfo.destFilePathName,
-                folioforge::compressCompleted(convertInfo, m_options.calls));
+    try {
+        putInPlace(convertInfo, m_options.flush, m_options.calls);
+    } catch (const Error &error) {
+        noteProblem(convertInfo.destFilePathName, error.reason());
+    }
 }
 
 void Run::noteProblem(const QString &path, const QString &problem) {

@@ -95,7 +95,8 @@ class Run {
     /// Compresses the PDF at `path` into `temporaryFolder`, as the function of this name.
     [[nodiscard]] CompressionOutcome compress(const QString &path, const QString &temporaryFolder,
                                               ConversionObserver &observer, Flush flush);
-    /// Puts the copy of the pass in place, as the function of this name.
+    /// Puts the copy of the pass in place. Where that fails, problems() says why, and the PDF is as
+    /// it was.
     void compressCompleted(const ConvertInfo &convertInfo);
     /// What the steps so far have made.
     [[nodiscard]] const RunSummary &summary() const { return m_summary; }

@@ -95,9 +95,10 @@ void ArchiveRules::keepPage(const QSizeF &size, int page) {
     const double least = isOld ? 0 : 3;
     const int most = isOld ? 32767 : 14400;
     if (shorter < least || longer > most) {
-        forgo(Reasons::tr("a page has %1 x %2 units, beyond 3 to %3")
+        forgo(Reasons::tr("a page has %1 x %2 units, beyond %3 to %4")
                   .arg(size.width())
                   .arg(size.height())
+                  .arg(least)
                   .arg(most),
               page);
     }
