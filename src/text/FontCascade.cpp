@@ -161,15 +161,17 @@ Glyph FontCascade::findGlyph(char32_t character) const {
 
 Glyph FontCascade::form(std::uint16_t face, std::uint16_t id, const QString &text) const {
     const std::lock_guard lock(m_mutex);
-    const auto next = static_cast<char32_t>(kFirstForm + m_formTexts.size());
-    const auto [known, isNew] = m_forms.try_emplace({face, id, text}, next);
-    if (isNew) {
-        if (m_formTexts.size() == kMaxForms) {
-            throw Error(Reasons::tr("The text has too many different forms of letters"));
-        }
-        m_formTexts.push_back(text);
+    const auto known = m_forms.find({face, id, text});
+    if (known != m_forms.end()) {
+        return glyphOf(face, id, known->second);
     }
-    return glyphOf(face, id, known->second);
+    if (m_formTexts.size() == kMaxForms) {
+        throw Error(Reasons::tr("The text has too many different forms of letters"));
+    }
+    const auto next = static_cast<char32_t>(kFirstForm + m_formTexts.size());
+    m_formTexts.push_back(text); // Before the form: one without a text would get another's.
+    m_forms.emplace(std::tuple(face, id, text), next);
+    return glyphOf(face, id, next);
 }
 
 QString FontCascade::textOf(const Glyph &glyph) const {

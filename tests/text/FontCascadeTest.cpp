@@ -236,6 +236,17 @@ class FontCascadeTest : public QObject {
         QCOMPARE(left, right);
     }
 
+    void aFormBeyondTheMostIsRefusedEachTime() {
+        const auto font = cascade();
+        for (char32_t i = 0; i < FontCascade::kMaxForms; ++i) {
+            QCOMPARE(font->form(0, 1, QString::number(i)).character, FontCascade::kFirstForm + i);
+        }
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            QVERIFY_THROWS_EXCEPTION(Error, static_cast<void>(font->form(0, 1, u"one more"_s)));
+        }
+        QCOMPARE(font->form(0, 1, u"7"_s).character, FontCascade::kFirstForm + 7);
+    }
+
     void textFontIsOpenedOnceAndIsFourteenPoints() {
         QCOMPARE(textFont()->size(), 14.0);
         QCOMPARE(textFont().get(), textFont().get());
