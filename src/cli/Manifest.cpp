@@ -60,6 +60,15 @@ std::optional<QString> manifestFault(const Arguments &arguments, const QStringLi
     if (manifest.isEmpty()) {
         return std::nullopt;
     }
+    if (manifest == u"-") {
+        return u"--manifest: It goes into a file; ./- names one"_s;
+    }
+    const QFileInfo folder(QFileInfo(manifest).absolutePath());
+    const bool isToBeMade =
+        !folder.exists() && areOne(folder.filePath(), arguments.options.outputFolder);
+    if (!isToBeMade && !(folder.isDir() && folder.isWritable())) {
+        return u"--manifest: \"%1\" is in no folder that can be written to"_s.arg(manifest);
+    }
     if (std::ranges::any_of(files, isManifest)) {
         return u"--manifest: \"%1\" is an input"_s.arg(manifest);
     }
@@ -96,15 +105,13 @@ std::optional<FileDates> datesOf(const QString &path) {
 }
 
 bool addSource(InputResult &result, const QString &path, const FileDates &noted) {
-    constexpr qint64 kNanosOfAMillisecond = 1'000'000;
     result.source = digestOf(path);
     const auto now = datesOf(path);
     if (!now || now->version != noted.version) {
         result.source.reset();
         return false;
     }
-    result.modified =
-        QDateTime::fromMSecsSinceEpoch(noted.version.modifiedNanos / kNanosOfAMillisecond);
+    result.modified = noted.version.modified();
     result.created = noted.created;
     return true;
 }

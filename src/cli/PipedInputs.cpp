@@ -5,6 +5,7 @@
 #include "error/Error.h"
 #include "files/PathNames.h"
 #include "files/SourceFile.h"
+#include "files/Spool.h"
 #include "image/ImageFormat.h"
 
 #include <QDir>
@@ -18,6 +19,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <filesystem>
 #include <span>
 #include <string_view>
 
@@ -61,8 +63,9 @@ class PipeReader {
         if (path == "-") {
             return FileDescriptor(::dup(STDIN_FILENO));
         }
-        struct stat status {};
-        m_hasWriter = ::lstat(path.constData(), &status) != 0 || !S_ISFIFO(status.st_mode);
+        std::error_code nameless;
+        static_cast<void>(std::filesystem::canonical(path.toStdString(), nameless));
+        m_hasWriter = bool(nameless);
         const int waits = m_hasWriter ? 0 : O_NONBLOCK;
         return FileDescriptor(::open(path.constData(), O_RDONLY | O_CLOEXEC | waits));
     }
@@ -89,11 +92,7 @@ class PipeReader {
 /// A file without a name that holds all that comes from `path`.
 FileDescriptor copyOf(const QByteArray &path) {
     PipeReader pipe(path);
-    const QByteArray folder = QFile::encodeName(QDir::tempPath());
-    FileDescriptor copy(SystemCalls::system().openAnonymous(folder.constData(), S_IRUSR | S_IWUSR));
-    if (!copy.isOpen()) {
-        throw systemError(u"Cannot make a temporary file"_s);
-    }
+    FileDescriptor copy = namelessFile(SystemCalls::system());
     std::vector<char> piece(1 << 16);
     while (const std::size_t got = pipe.read(piece)) {
         if (!copy.write(std::span(piece).first(got))) {

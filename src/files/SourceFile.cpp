@@ -36,8 +36,7 @@ FileVersion versionOf(const QString &path, const struct stat &status) {
 #else
     const timespec &time = status.st_mtim;
 #endif
-    constexpr qint64 kNanosPerSecond = 1'000'000'000;
-    return {path, status.st_size, qint64{time.tv_sec} * kNanosPerSecond + qint64{time.tv_nsec}};
+    return {path, status.st_size, qint64{time.tv_sec}, qint64{time.tv_nsec}};
 }
 
 FileVersion versionOf(const QString &path, const FileDescriptor &descriptor) {
@@ -66,8 +65,15 @@ FileVersion FileVersion::of(const QString &path) {
     return versionOf(path, status);
 }
 
+QDateTime FileVersion::modified() const {
+    constexpr qint64 kNanosOfAMillisecond = 1'000'000;
+    return QDateTime::fromSecsSinceEpoch(modifiedSeconds)
+        .addMSecs(modifiedNanos / kNanosOfAMillisecond);
+}
+
 std::string FileVersion::key() const {
-    return path.toStdString() + '\0' + std::to_string(size) + ' ' + std::to_string(modifiedNanos);
+    return path.toStdString() + '\0' + std::to_string(size) + ' ' +
+           std::to_string(modifiedSeconds) + ' ' + std::to_string(modifiedNanos);
 }
 
 SourceFile::SourceFile(FileDescriptor descriptor, FileVersion version)

@@ -6,6 +6,7 @@
 #include "files/FileDescriptor.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QString>
 
 #include <atomic>
@@ -18,13 +19,16 @@ namespace folioforge {
 /// A file as it was at one moment: what tells a changed file from an unchanged one.
 struct FileVersion {
     QString path;
-    qint64 size = 0;          ///< Bytes.
-    qint64 modifiedNanos = 0; ///< Time of the last change, in nanoseconds since 1970.
+    qint64 size = 0;            ///< Bytes.
+    qint64 modifiedSeconds = 0; ///< Time of the last change, in seconds since 1970,
+    qint64 modifiedNanos = 0;   ///< and nanoseconds since that second.
 
     bool operator==(const FileVersion &) const = default;
 
     /// The file at `path` as it is now. Throws Error when it is no regular file or cannot be found.
     static FileVersion of(const QString &path);
+    /// The time of the last change.
+    [[nodiscard]] QDateTime modified() const;
     /// Bytes that are the same for equal versions alone.
     [[nodiscard]] std::string key() const;
 };

@@ -25,29 +25,30 @@ constexpr qint64 kReadBytes = qint64{256} << 10;
 
 } // namespace
 
-void Spool::openFile() {
+FileDescriptor namelessFile(SystemCalls &calls) {
     constexpr mode_t kOwnerMode = S_IRUSR | S_IWUSR;
     const std::string folder = QFile::encodeName(QDir::tempPath()).toStdString();
-    m_file = FileDescriptor(
-        uninterrupted([&] { return m_calls.openAnonymous(folder.c_str(), kOwnerMode); }), m_calls);
-    if (!m_file.isOpen() && !folder.empty()) { // Empty where TMPDIR names no folder.
+    FileDescriptor file(
+        uninterrupted([&] { return calls.openAnonymous(folder.c_str(), kOwnerMode); }), calls);
+    if (!file.isOpen() && !folder.empty()) { // Empty where TMPDIR names no folder.
         const std::string path = partPath(folder, "spool");
         constexpr int kFlags = O_CREAT | O_EXCL | O_NOFOLLOW | O_RDWR | O_CLOEXEC;
-        m_file = FileDescriptor(
-            uninterrupted([&] { return m_calls.open(path.c_str(), kFlags, kOwnerMode); }), m_calls);
-        if (m_file.isOpen()) {
-            m_calls.unlink(path.c_str());
+        file = FileDescriptor(
+            uninterrupted([&] { return calls.open(path.c_str(), kFlags, kOwnerMode); }), calls);
+        if (file.isOpen()) {
+            calls.unlink(path.c_str());
         }
     }
-    if (!m_file.isOpen()) {
+    if (!file.isOpen()) {
         const int reason = errno; // Translating may set it.
         throw systemError(Reasons::tr("Cannot create a temporary file"), reason);
     }
+    return file;
 }
 
 void Spool::moveToFile(QByteArrayView data) {
     if (!m_file.isOpen()) {
-        openFile();
+        m_file = namelessFile(m_calls);
     }
     // Where this fails half way, the data is still in memory and its place is still there.
     if (!m_file.writeAt(m_fileSize, data)) {

@@ -9,6 +9,10 @@
 
 namespace folioforge {
 
+/// A file without a name in the folder for temporary files, which no one else can open. Throws
+/// Error.
+FileDescriptor namelessFile(SystemCalls &calls);
+
 /// Keeps data until the document is written: in memory while there is little of it, then in a file
 /// without a name, which no one else can open and which is removed with this object.
 class Spool {
@@ -34,7 +38,6 @@ class Spool {
     [[nodiscard]] QByteArrayView at(Place place);
 
   private:
-    void openFile();
     void moveToFile(QByteArrayView data);
     void readWindow(Place place);
 

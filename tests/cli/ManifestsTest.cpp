@@ -48,6 +48,45 @@ class ManifestsTest : public QObject, CommandLineCase {
         QVERIFY(list[u"options"_s].toArray().contains(u"--title=A title"_s));
     }
 
+    void whatCannotBeAManifestIsRefusedBeforeAnythingIsMade_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("words");
+        QTest::newRow("no folder")
+            << u"no/list.json"_s << QByteArray("is in no folder that can be written to");
+        QTest::newRow("standard output")
+            << u"-"_s << QByteArray("It goes into a file; ./- names one");
+    }
+    void whatCannotBeAManifestIsRefusedBeforeAnythingIsMade() {
+        QFETCH(const QString, name);
+        QFETCH(const QByteArray, words);
+        const ToolRun run = convert({u"--manifest"_s, name, text("a.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.contains(words), run.err);
+        QVERIFY(outputs().isEmpty());
+    }
+
+    void aManifestMayStandInTheFolderThatIsMadeForThePdfs() {
+        const QString manifest = path("made/list.json");
+        const ToolRun run = runTool(kProgram, {u"--manifest"_s, manifest, u"--output-folder"_s,
+                                               path("made"), text("a.txt")});
+        QVERIFY2(run.exitCode == 0, run.err);
+        QCOMPARE(faultsIn(manifest), QByteArray());
+    }
+
+    void aDateBehind2262IsThatOfItsFile() {
+        const QString file = text("a.txt");
+        const QDateTime later(QDate(2300, 1, 2), QTime(3, 4, 5));
+        QFile opened(file);
+        QVERIFY(opened.open(QIODevice::Append));
+        QVERIFY(opened.setFileTime(later, QFileDevice::FileModificationTime));
+        opened.close();
+        QCOMPARE(convert({u"--manifest"_s, path("list.json"), file}).exitCode, 0);
+        const QJsonObject input = read(path("list.json"))[u"inputs"_s].toArray()[0].toObject();
+        const QDateTime written = QDateTime::fromString(member(input, "modified"), Qt::ISODate);
+        // As late as the file system can tell.
+        QCOMPARE(written.toSecsSinceEpoch(), QFileInfo(file).lastModified().toSecsSinceEpoch());
+    }
+
     void sha256sumReadsTheSecondForm() {
         const QString odd = path("odd \\ name\n.txt");
         writeFile(odd, "odd");

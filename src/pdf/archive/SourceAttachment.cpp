@@ -36,9 +36,7 @@ std::string checksumOf(const SourceFile &file) {
 }
 
 QPDFObjectHandle parametersOf(const SourceFile &file) {
-    constexpr qint64 kNanosInMilli = 1'000'000;
-    const auto modified =
-        QDateTime::fromMSecsSinceEpoch(file.version().modifiedNanos / kNanosInMilli).toUTC();
+    const QDateTime modified = file.version().modified().toUTC();
     auto parameters = QPDFObjectHandle::newDictionary();
     parameters.replaceKey("/Size", QPDFObjectHandle::newInteger(file.version().size));
     parameters.replaceKey("/ModDate", QPDFObjectHandle::newString(pdfDate(modified).toStdString()));
