@@ -87,7 +87,9 @@ std::vector<QPDFExc> faultsOf(QPDF &document) {
 }
 
 bool isLackOfMemory(const std::exception &fault) {
-    const std::string words = fault.what();
+    // Those of a fault in a file begin with the file's name, which may be anything.
+    const auto *inFile = dynamic_cast<const QPDFExc *>(&fault);
+    const std::string words = inFile ? inFile->getMessageDetail() : fault.what();
     return contains(words, std::bad_alloc().what()) || contains(words, "zlib memory error");
 }
 

@@ -147,6 +147,17 @@ class FormMergeTest : public QObject, protected MergeCase {
         QCOMPARE(summarizePDF(saved(withForm("/Fields []", "/NeedsRendering true"))).pageCount, 2);
     }
 
+    void aFormOfWhichNoFieldIsTakenHasAnEmptyList() {
+        PdfFixture source = withForm("/Fields [20 0 R] /DR << /Font << /F1 3 0 R >> >>");
+        source.object(5, "<< /Type /Page /Parent 2 0 R /MediaBox [0 0 200 100] >>");
+        const QString path = newPath();
+        PDFContext context(path, unflushed());
+        QCOMPARE(context.addDocument(saved(source), {"2", {}}).pages, 1);
+        QCOMPARE(context.close().status, CloseResult::Status::Written);
+        // The list is required (ISO 32000-1, table 218); poppler complains where there is none.
+        QVERIFY(form(*opened(path)).getKey("/Fields").isArray());
+    }
+
     void valuesAndDefaultsStay() {
         PdfFixture source = withFields();
         source.object(20, widget("/FT /Tx /T (one) /V (Anna) /DV (Bert) /MaxLen 9"));

@@ -73,6 +73,12 @@ class RepairTest : public QObject, protected MergeCase {
                               "damaged"_s}));
     }
 
+    void theNameOfADamagedFileMayBeAnything() {
+        const QString file = m_folder.filePath(u"std::bad_alloc.pdf"_s);
+        writeFile(file, withoutTable(threePages()));
+        QCOMPARE(summarizePDF(file).pageCount, 3);
+    }
+
     void aTreeOfAnyDepthIsRead() {
         constexpr int kDepth = 100'000;
         PdfFixture source = withKids("10 0 R");

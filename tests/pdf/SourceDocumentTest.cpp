@@ -6,6 +6,7 @@
 #include "error/Error.h"
 #include "odd/FileWriter.h"
 #include "pdf/QpdfErrors.h"
+#include "pdf/import/SourceInput.h"
 #include "support/FaultyCalls.h"
 #include "support/Memory.h"
 #include "support/PdfFixture.h"
@@ -21,6 +22,7 @@
 #include <sys/stat.h>
 
 #include <cstring>
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
@@ -49,6 +51,17 @@ class SourceDocumentTest : public QObject {
         runTool(u"qpdf"_s, QStringList{u"--allow-weak-crypto"_s, u"--encrypt"_s, user, u"owner"_s} +
                                options + QStringList{u"--"_s, plain, result});
         return result;
+    }
+    /// Uses the processor for so many milliseconds and a little more.
+    static void spend(int milliseconds) {
+        const auto used = [] {
+            timespec time{};
+            ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+            return time.tv_sec * 1000 + time.tv_nsec / 1'000'000;
+        };
+        const auto end = used() + milliseconds + 20;
+        while (used() < end) {
+        }
     }
     static QString refusal(const QString &file, SystemCalls &calls = SystemCalls::system()) {
         try {
@@ -232,6 +245,24 @@ class SourceDocumentTest : public QObject {
         QVERIFY2(reason == u"The document is too damaged to be repaired"_s ||
                      (isQuick && reason.isEmpty()),
                  qPrintable(reason));
+    }
+
+    void whatWasDoneBeforeASearchTakesNothingOfItsTime() {
+        constexpr int kMilliseconds = 300;
+        const QString file = saved(u"lines"_s, QByteArray("line\n").repeated(5000));
+        SourceInput input(FileVersion::of(file), std::make_shared<SourceReader>(), {},
+                          kMilliseconds);
+        const auto readLines = [&input] {
+            for (int i = 0; i < 2000; ++i) {
+                input.findAndSkipNextEOL();
+            }
+        };
+        readLines();
+        spend(kMilliseconds);
+        input.seek(0, SEEK_SET);
+        readLines();
+        spend(kMilliseconds);
+        QVERIFY_THROWS_EXCEPTION(Error, readLines());
     }
 
     void aPageTreeThatBitesItsTailEnds() {

@@ -169,7 +169,7 @@ void FormMerger::finish(QPDF &document) {
         }
     }
     auto form = QPDFObjectHandle::newDictionary();
-    putItems(form, "/Fields", m_form.fields);
+    form.replaceKey("/Fields", QPDFObjectHandle::newArray(m_form.fields)); // Also of none.
     putItems(form, "/CO", m_form.calculationOrder);
     if (m_form.needsAppearances) {
         form.replaceKey("/NeedAppearances", QPDFObjectHandle::newBool(true));

@@ -5,6 +5,7 @@
 #include "error/Reasons.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <functional>
 #include <iterator>
 #include <string_view>
@@ -50,12 +51,14 @@ qint64 threadTime() {
 
 } // namespace
 
-SourceInput::SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, AddedBytes added)
+SourceInput::SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, AddedBytes added,
+                         qint64 maxSearch)
     : PieceInput(file.path.toStdString())
     , m_file(std::move(file))
     , m_reader(std::move(reader))
     , m_added(std::move(added))
-    , m_front(static_cast<qint64>(m_added.before.size())) {
+    , m_front(static_cast<qint64>(m_added.before.size()))
+    , m_maxSearch(maxSearch) {
     m_end = m_front + m_file.size + m_added.gap + static_cast<qint64>(m_added.behind.size());
 }
 
@@ -69,7 +72,7 @@ void SourceInput::limitSearch() {
     }
     m_bytesRead = 0;
     if (m_searchEnd == 0) {
-        m_searchEnd = threadTime() + kMaxSearch;
+        m_searchEnd = threadTime() + m_maxSearch;
     } else if (threadTime() > m_searchEnd) {
         m_reader->fail(Reasons::tr("The document is too damaged to be repaired"));
     }
@@ -97,6 +100,16 @@ std::string_view SourceInput::pieceAt(qint64 position, std::span<char> target) {
         target[i] = kNothing[static_cast<std::size_t>(position + i) % kNothing.size()];
     }
     return {target.data(), static_cast<std::size_t>(size)};
+}
+
+/// A search begins at the first byte. What was done before it, perhaps on another thread, takes
+/// nothing of its time.
+void SourceInput::seek(qpdf_offset_t offset, int whence) {
+    if (offset == 0 && whence == SEEK_SET) {
+        m_lines = 0;
+        m_searchEnd = 0;
+    }
+    PieceInput::seek(offset, whence);
 }
 
 qpdf_offset_t SourceInput::findAndSkipNextEOL() {

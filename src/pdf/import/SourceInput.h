@@ -23,12 +23,15 @@ struct AddedBytes {
 /// may wait until their streams are written.
 class SourceInput final : public PieceInput {
   public:
-    /// The processor time of the calling thread that the search may take, in milliseconds.
+    /// The processor time of the calling thread that a search for objects through the whole file
+    /// may take, in milliseconds.
     static constexpr qint64 kMaxSearch = 2000;
 
-    SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, AddedBytes added = {});
+    SourceInput(FileVersion file, std::shared_ptr<SourceReader> reader, AddedBytes added = {},
+                qint64 maxSearch = kMaxSearch);
 
     qpdf_offset_t findAndSkipNextEOL() override;
+    void seek(qpdf_offset_t offset, int whence) override;
     size_t read(char *target, size_t length) override;
 
   private:
@@ -40,10 +43,11 @@ class SourceInput final : public PieceInput {
     FileVersion m_file;
     std::shared_ptr<SourceReader> m_reader;
     AddedBytes m_added;
-    qint64 m_front;         ///< Where the file begins.
+    qint64 m_front; ///< Where the file begins.
+    qint64 m_maxSearch;
     qint64 m_lines = 0;     ///< So far in the search.
     qint64 m_bytesRead = 0; ///< Since the last look at the clock.
-    qint64 m_searchEnd = 0; ///< On the thread's clock; 0 before the search.
+    qint64 m_searchEnd = 0; ///< On the thread's clock; 0 before the first line.
 };
 
 } // namespace folioforge
