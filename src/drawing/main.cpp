@@ -60,13 +60,17 @@ QSize sizeIn(QSize room, QSizeF points) {
     return scaled.toSize().expandedTo({1, 1}).boundedTo(room);
 }
 
-/// The page on white paper.
+/// The page on white paper; null where it cannot be drawn.
 QImage drawOnPaper(QPdfDocument &document, int page, QSize size) {
     QPdfDocumentRenderOptions options;
     options.setRenderFlags(QPdfDocumentRenderOptions::RenderFlag::Annotations);
+    const QImage drawn = document.render(page, size, options);
+    if (drawn.isNull()) {
+        return {};
+    }
     QImage paper(size, QImage::Format_RGB32);
     paper.fill(Qt::white);
-    QPainter(&paper).drawImage(0, 0, document.render(page, size, options));
+    QPainter(&paper).drawImage(0, 0, drawn);
     return paper;
 }
 
@@ -96,6 +100,9 @@ int drawPage(const PageRequest &request, const QByteArray &password) {
         return failure(DrawingFailure::NoPage);
     }
     const QImage image = draw(document, request.file, page, size, password);
+    if (image.isNull()) {
+        return failure(DrawingFailure::NoPage);
+    }
     const QByteArray pixels(reinterpret_cast<const char *>(image.constBits()), image.sizeInBytes());
     QFile out;
     return out.open(stdout, QIODevice::WriteOnly) &&

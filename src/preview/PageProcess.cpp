@@ -36,6 +36,7 @@ PageProcess::PageProcess(QString program, std::chrono::milliseconds patience)
 }
 
 PageProcess::~PageProcess() {
+    stop(); // Whoever listens may be gone by half.
     for (auto *process : findChildren<QProcess *>()) {
         process->kill();
         process->waitForFinished(); // Nothing but the end of its program is to be waited for.

@@ -119,6 +119,17 @@ class PageProcessTest : public QObject {
         QTRY_VERIFY(hasEnded());
     }
 
+    void nothingIsHeardOfAProcessThatIsGoing() {
+        auto process = std::make_unique<PageProcess>(
+            program("echo $$ >'" + QFile::encodeName(path(u"number"_s)) + "'\nexec sleep 1000\n"));
+        const QSignalSpy failed(process.get(), &PageProcess::failed);
+        process->draw({u"/some.pdf"_s, 0, kRoom}, {});
+        QTRY_VERIFY(QFileInfo(path(u"number"_s)).size() > 0);
+        process.reset();
+        QCOMPARE(failed.size(), 0);
+        QTRY_VERIFY(hasEnded());
+    }
+
     void onlyTheLastRequestIsAnswered() {
         // The pages of the answer are those of the request.
         const QString drawer = program("sleep 0.1\nexit $2\n");
