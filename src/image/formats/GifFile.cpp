@@ -73,7 +73,7 @@ int GifFile::read(GifFileType *gif, GifByteType *target, int size) {
         std::copy_n(state.ahead.cend() - (state.aheadEnd - state.at), got, target);
         state.at += got;
         return static_cast<int>(got);
-    } catch (const Error &) {
+    } catch (...) {
         return 0; // No exception may pass through the library.
     }
 }

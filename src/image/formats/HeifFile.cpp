@@ -66,7 +66,7 @@ int HeifFile::read(void *target, size_t size, void *source) {
         const qint64 got = from.file.readInto(from.at, {static_cast<uchar *>(target), size});
         from.at += got;
         return got == static_cast<qint64>(size) ? 0 : 1;
-    } catch (const Error &) {
+    } catch (...) {
         return 1; // No exception may pass through the library.
     }
 }

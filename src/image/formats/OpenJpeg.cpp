@@ -38,7 +38,7 @@ OPJ_SIZE_T readBytes(void *target, OPJ_SIZE_T size, void *data) {
         const qint64 got = position.source.read(position.at, {static_cast<uchar *>(target), size});
         position.at += got;
         return got == 0 ? kEnd : static_cast<OPJ_SIZE_T>(got);
-    } catch (const Error &) {
+    } catch (...) {
         return kEnd; // No exception may pass through the library.
     }
 }

@@ -92,7 +92,7 @@ tmsize_t TiffFile::read(thandle_t handle, void *target, tmsize_t size) {
         }
         state.at += got;
         return got;
-    } catch (const Error &) {
+    } catch (...) {
         return -1; // No exception may pass through the library.
     }
 }

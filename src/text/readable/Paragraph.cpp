@@ -152,15 +152,23 @@ std::vector<DirectedRun> Paragraph::visualRuns(const TextRow &row) const {
                         : std::vector<DirectedRun>{{row.first, row.visible, false}};
 }
 
+std::span<const Paragraph::Run> Paragraph::runsOf(const DirectedRun &part) const {
+    const auto first = std::ranges::partition_point(
+        m_runs, [&](const Run &each) { return each.run.end <= part.first; });
+    const auto end = std::partition_point(
+        first, m_runs.end(), [&](const Run &each) { return each.run.first < part.end; });
+    return {first, end};
+}
+
 std::span<const RowPiece> Paragraph::pieces(const TextRow &row, PieceOrder order) {
     m_pieces.clear();
     m_glyphs.clear();
     m_pen = 0;
     m_order = order;
     for (const DirectedRun &part : visualRuns(row)) {
-        const std::size_t count = m_runs.size();
-        for (std::size_t i = 0; i < count; ++i) {
-            place(m_runs[part.rightToLeft ? count - 1 - i : i], part);
+        const std::span<const Run> runs = runsOf(part);
+        for (std::size_t i = 0; i < runs.size(); ++i) {
+            place(runs[part.rightToLeft ? runs.size() - 1 - i : i], part);
         }
     }
     if (order == PieceOrder::Read && row.visible > row.first) {

@@ -78,6 +78,7 @@ class Paragraph {
     [[nodiscard]] bool begins(qsizetype unit) const;
     [[nodiscard]] std::vector<DirectedRun> visualRuns(const TextRow &row) const;
     /// Puts what of the run stands in the part to the right of what there is.
+    [[nodiscard]] std::span<const Run> runsOf(const DirectedRun &part) const;
     void place(const Run &run, const DirectedRun &part);
     void place(std::span<const PlacedGlyph> cluster, bool rightToLeft);
     void place(const PlacedGlyph &placed, QStringView readAs, bool rightToLeft);
