@@ -81,10 +81,10 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
                  options.keepsRecord() ? &record : nullptr);
     });
     outcome.written = failure.isEmpty();
-    if (!outcome.written) {
+    if (!failure.isEmpty()) {
         context.rollBack(before);
         record = {};
-        outcome.warnings.clear();
+        outcome = {};
         outcome.reason = failure;
     }
     outcome.pages = context.pageCount() - before.pages;
@@ -274,9 +274,11 @@ std::unique_ptr<Encryption> encryptionFor(const SecuritySettings &security) {
     return encryption;
 }
 
-PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
-                     const ConversionOptions &given, ConversionObserver *observer,
-                     const std::stop_token &stop) {
+namespace {
+
+void createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
+               const ConversionOptions &given, ConversionObserver *observer,
+               const std::stop_token &stop, PDFOutcome &outcome) {
     StoppableCalls calls(given.calls, stop);
     ConversionOptions options = given;
     options.calls = calls;
@@ -294,7 +296,6 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
                               .flush = options.flush,
                               .mayReplace = options.overwrite != Overwrite::Never,
                               .calls = calls});
-    PDFOutcome outcome;
     DocumentRecord record;
     PicturesAhead pictures(entries, options);
     for (std::size_t i = 0; i < entries.size() && !stop.stop_requested(); ++i) {
@@ -328,6 +329,19 @@ PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString 
     }
     if (stop.stop_requested() && outcome.close.status != CloseResult::Status::Written) {
         outcome.close = notWritten(Reasons::tr("The conversion was stopped"));
+    }
+}
+
+} // namespace
+
+PDFOutcome createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
+                     const ConversionOptions &options, ConversionObserver *observer,
+                     const std::stop_token &stop) {
+    PDFOutcome outcome;
+    const QString failure =
+        reasonOfFailure([&] { createPDF(entries, path, options, observer, stop, outcome); });
+    if (!failure.isEmpty()) {
+        outcome.close = notWritten(failure);
     }
     return outcome;
 }

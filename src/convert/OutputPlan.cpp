@@ -43,7 +43,18 @@ OutputPlan::OutputPlan(std::span<const PDFFileInfo> entries, const ConversionOpt
         if (const auto status = statusOf(entry.filePathName())) {
             m_sources.emplace(status->st_dev, status->st_ino);
         }
+        ++m_wishes[wishOf(entry)];
     }
+}
+
+/// Where several sources ask for one name, which of them has it follows from their order: the PDF
+/// that is there may be another's.
+bool OutputPlan::isOnlyOne(std::span<const PDFFileInfo> entries) const {
+    return m_options.merge || m_wishes.value(wishOf(entries.front())) == 1;
+}
+
+QString OutputPlan::wishOf(const PDFFileInfo &entry) const {
+    return outputPath(m_options, entry.fileName(), [](const QString &) { return false; });
 }
 
 PlannedOutput OutputPlan::next(std::span<const PDFFileInfo> entries) {
@@ -56,7 +67,7 @@ PlannedOutput OutputPlan::next(std::span<const PDFFileInfo> entries) {
     }
     if (m_sources.contains({old->st_dev, old->st_ino})) {
         output.action = PlannedOutput::Action::Forbidden;
-    } else if (m_options.overwrite == Overwrite::Older &&
+    } else if (m_options.overwrite == Overwrite::Older && isOnlyOne(entries) &&
                std::ranges::none_of(entries, [&](const PDFFileInfo &entry) {
                    const auto source = statusOf(entry.filePathName());
                    return source && isOlder(*old, *source);

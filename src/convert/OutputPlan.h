@@ -5,6 +5,7 @@
 #include "convert/ConversionOptions.h"
 #include "filelist/PDFFileInfo.h"
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 
@@ -18,7 +19,8 @@ namespace folioforge {
 struct PlannedOutput {
     enum class Action {
         Write,    ///< Under a name that is free, or in place of the file that may be replaced.
-        Keep,     ///< The file under the name is not older than its sources.
+        Keep,     ///< The file under the name, which no other PDF asks for, is not older than its
+                  ///< sources.
         Forbidden ///< The file under the name is one of the sources.
     };
     QString path;
@@ -42,7 +44,11 @@ class OutputPlan {
     [[nodiscard]] bool isTaken(const QString &path) const;
 
     const ConversionOptions &m_options;
-    std::set<FileKey> m_sources; ///< Only where something may be replaced.
+    [[nodiscard]] QString wishOf(const PDFFileInfo &entry) const;
+    [[nodiscard]] bool isOnlyOne(std::span<const PDFFileInfo> entries) const;
+
+    std::set<FileKey> m_sources;  ///< Only where something may be replaced.
+    QHash<QString, int> m_wishes; ///< How many PDFs would have each path if it were free.
     QSet<QString> m_given;
 };
 

@@ -70,8 +70,12 @@ class OrderedResults {
   private:
     void work() {
         try {
-            for (std::size_t i = m_next++; i < m_results.size() && !m_stop.stop_requested();
-                 i = m_next++) {
+            // What is taken is made, stop or not: results behind a gap would not be heard of.
+            while (!m_stop.stop_requested()) {
+                const std::size_t i = m_next++;
+                if (i >= m_results.size()) {
+                    break;
+                }
                 RunResult result = m_make(i);
                 const std::lock_guard lock(m_mutex);
                 m_results[i] = std::move(result);

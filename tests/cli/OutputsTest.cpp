@@ -76,6 +76,23 @@ class OutputsTest : public QObject, CommandLineCase {
         QCOMPARE(textOf("out/a.pdf"), u"text"_s);
     }
 
+    /// Which of them has which name follows from their order, and one that was added changes that.
+    void whereInputsShareANameNoneIsKept() {
+        QVERIFY(QDir().mkpath(path("x")) && QDir().mkpath(path("y")) && QDir().mkpath(path("z")));
+        for (const char *name : {"x/a.txt", "y/a.txt", "z/a.txt"}) {
+            setTime(text(name, name), 1000);
+        }
+        QCOMPARE(convert({u"--overwrite=older"_s, path("y/a.txt"), path("z/a.txt")}).exitCode, 0);
+        QCOMPARE(
+            convert({u"--overwrite=older"_s, path("x/a.txt"), path("y/a.txt"), path("z/a.txt")})
+                .exitCode,
+            0);
+        QCOMPARE(outputs(), (QStringList{u"a(1).pdf"_s, u"a(2).pdf"_s, u"a.pdf"_s}));
+        QCOMPARE(textOf("out/a.pdf"), u"x/a.txt"_s);
+        QCOMPARE(textOf("out/a(1).pdf"), u"y/a.txt"_s);
+        QCOMPARE(textOf("out/a(2).pdf"), u"z/a.txt"_s);
+    }
+
     void aFolderIsNotReplaced() {
         QVERIFY(QDir().mkpath(path("out/a.pdf")));
         QCOMPARE(convert({u"--overwrite=always"_s, text("a.txt", "text")}).exitCode, 0);

@@ -6,6 +6,7 @@
 #include "convert/PageWriters.h"
 #include "support/FaultyCalls.h"
 #include "support/Files.h"
+#include "support/Memory.h"
 #include "support/PdfProbe.h"
 #include "support/Places.h"
 #include "support/TaggedPage.h"
@@ -79,6 +80,27 @@ class ConversionTest : public QObject, protected test::ConversionCase {
         QCOMPARE(outcome.entries[2].pages, 2);
         QVERIFY(outcome.entries[1].embeddedAs);
         QVERIFY(!outcome.entries[0].embeddedAs);
+    }
+
+    void tooLittleMemoryIsAReason_data() {
+        QTest::addColumn<int>("spared");
+        for (const int spared : {0, 1, 2, 5, 10, 50}) {
+            QTest::addRow("%d", spared) << spared;
+        }
+    }
+    void tooLittleMemoryIsAReason() {
+        QFETCH(const int, spared);
+        addText("a.txt", "words");
+        const PDFFileInfo *const entry = m_list[0].get();
+        const QString target = path("out/a.pdf");
+        PDFOutcome outcome;
+        {
+            const test::FailingMemory failing(spared);
+            outcome = createPDF({&entry, 1}, target, m_options);
+        }
+        QCOMPARE(outcome.isWritten(), QFile::exists(target));
+        QVERIFY(outcome.isWritten() || !outcome.problem().isEmpty() ||
+                !outcome.entries[0].reason.isEmpty());
     }
 
     void fivePagesArriveWithABoxEach() {
