@@ -11,10 +11,13 @@
 #include "verify/Group4Reading.h"
 
 #include <qpdf/Buffer.hh>
+#include <qpdf/Pl_DCT.hh>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <new>
+#include <string_view>
 #include <vector>
 
 namespace folioforge {
@@ -63,6 +66,46 @@ bool isOf(const Object &dictionary, const char *filter) {
     return Object(all.empty() ? stated : all.back()).isNameAndEquals(filter);
 }
 
+/// Whether the components of a JPEG are its colours unless its own marker says otherwise (ISO
+/// 32000-1, 7.4.8).
+bool isUntransformed(const Object &dictionary) {
+    const Object stated = entry(dictionary, "/DecodeParms");
+    const auto all = items(stated);
+    return isOf(dictionary, "/DCTDecode") &&
+           numberIn(all.empty() ? stated : all.back(), "/ColorTransform", 1) == 0;
+}
+
+/// Decodes such a JPEG. The library knows nothing of the parameter, but of the marker by which
+/// Adobe says the same: it is put in front, where one in the file takes its place.
+void decodeUntransformed(Object image, Pipeline &target) {
+    constexpr std::string_view kStart("\xFF\xD8", 2);
+    constexpr std::string_view kMarker("\xFF\xEE\0\x0E"
+                                       "Adobe\0\x64\0\0\0\0\0",
+                                       16);
+    std::string jpeg;
+    BoundedBuffer data(jpeg, static_cast<std::size_t>(kMaxPixelBytes));
+    image.pipeStreamData(&data, nullptr, 0, qpdf_dl_specialized, true);
+    Pl_DCT decoder("untransformed", &target);
+    decoder.writeString(jpeg.starts_with(kStart) ? jpeg.insert(kStart.size(), kMarker) : jpeg);
+    decoder.finish();
+}
+
+/// Decodes the data of an image. False where that cannot be.
+bool decode(Object image, Pipeline &target) {
+    if (isUntransformed(image.getDict())) {
+        try {
+            decodeUntransformed(image, target);
+            return true;
+        } catch (const std::bad_alloc &) {
+            throw;
+        } catch (const std::exception &) {
+            return false;
+        }
+    }
+    bool isUnpacked = false;
+    return image.pipeStreamData(&target, &isUnpacked, 0, qpdf_dl_all, true) && isUnpacked;
+}
+
 /// Channels of colour alone, as the codestream has them.
 std::optional<RawImage> jpxImage(Object image) {
     const auto data = image.getRawStreamData();
@@ -102,8 +145,7 @@ std::optional<RawImage> rawImage(Object image) {
         raw.samples = group4Rows(image, raw.width, raw.height);
     } else {
         BoundedBuffer target(raw.samples, static_cast<std::size_t>(kMaxPixelBytes));
-        bool isUnpacked = false;
-        if (!image.pipeStreamData(&target, &isUnpacked, 0, qpdf_dl_all, true) || !isUnpacked) {
+        if (!decode(image, target)) {
             return std::nullopt;
         }
     }

@@ -152,6 +152,10 @@ bool inflateRows(const Object &stream, const Object &parameters, Pipeline &targe
         parameter(parameters, "/Colors", 1) * parameter(parameters, "/BitsPerComponent", 8);
     const std::size_t rowBytes =
         (pixelBits * parameter(parameters, "/Columns", 1) + kByte - 1) / kByte;
+    constexpr std::size_t kMaxRow = 64 << 20; // A picture's row has some megabytes at most.
+    if (rowBytes > kMaxRow) {
+        return false;
+    }
     RowPipeline rows(target, rowBytes, std::max<std::size_t>(1, pixelBits / kByte));
     return inflate(stream, rows) && rows.isWhole();
 }

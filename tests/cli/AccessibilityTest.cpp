@@ -81,6 +81,21 @@ class AccessibilityTest : public QObject, private CommandLineCase {
         QCOMPARE(merge("out/a.pdf", {u"--alt-file"_s, path("none"), picture("a.png")}).exitCode, 2);
     }
 
+    void aPageWithALinkIsFoundToBeItsSource() {
+        PdfFixture source = headingAndText("Heading", "Text",
+                                           "/ParentTree << /Nums [7 [12 0 R 13 0 R] 8 13 0 R] >>");
+        source.object(13, element("P", 11, "[1 << /Type /OBJR /Obj 20 0 R >>]"));
+        source.object(20, "<< /Type /Annot /Subtype /Link /Rect [10 10 50 20] /StructParent 8 "
+                          "/Contents (x) /A << /S /URI /URI (http://example.org) >> >>");
+        QByteArray page = source.objects().at(4);
+        source.object(4, page.replace("/Contents", "/Annots [20 0 R] /Contents"));
+        QVERIFY(source.write(path("in.pdf")));
+        const ToolRun run = convert({u"--accessible"_s, u"--title"_s, u"T"_s, u"--lang"_s, u"en"_s,
+                                     u"--verify"_s, path("in.pdf")});
+        QVERIFY2(run.exitCode == 0, run.err);
+        QVERIFY(jsonOf("out/in.pdf").contains("\"/Tabs\": \"/S\""));
+    }
+
     void compressionKeepsTags() {
         const QStringList inputs{text("a.txt", "one\ntwo\n"), picture("b.jpg")};
         QCOMPARE(merge("out/whole.pdf", QStringList(u"--tagged"_s) + inputs).exitCode, 0);

@@ -119,6 +119,23 @@ class VerifyTest : public QObject, CommandLineCase {
         }
     }
 
+    /// Its components are red, green and blue, and nothing in the JPEG says so.
+    void aSmallerPdfOfAJpegThatIsNotTransformedIsItsSource() {
+        const QString scan = path("scan.tif");
+        QCOMPARE(
+            runTool(u"convert"_s, {u"-seed"_s, u"3"_s, u"-size"_s, u"800x600"_s,
+                                   u"plasma:red-blue"_s, u"-depth"_s, u"8"_s, u"-define"_s,
+                                   u"tiff:rows-per-strip=608"_s, u"-compress"_s, u"jpeg"_s, scan})
+                .exitCode,
+            0);
+        QCOMPARE(merge("plain.pdf", {scan}).exitCode, 0);
+        QVERIFY(PdfProbe(path("plain.pdf")).json().contains("\"/ColorTransform\": 0"));
+        const ToolRun run = merge("small.pdf", {u"--verify"_s, u"--compress"_s, u"96m"_s,
+                                                u"--image-dpi"_s, u"300"_s, scan});
+        QVERIFY2(run.exitCode == 0, run.err);
+        QVERIFY(QFileInfo(path("small.pdf")).size() < QFileInfo(path("plain.pdf")).size() / 2);
+    }
+
     void aSmallerPdfIsHeldAgainstTheOneBefore() {
         QVERIFY(writePng(path("big.png"), 2000, 1500, 600).size() > 0);
         const ToolRun run =
