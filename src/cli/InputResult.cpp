@@ -102,14 +102,14 @@ QString InputResult::plan() const {
         return input + u": no page"_s;
     }
     if (state == State::Verified) {
-        return pages == 1 ? u"%1: page %2 is its source"_s.arg(input).arg(firstPage)
-                          : u"%1: pages %2 to %3 are their source"_s.arg(input).arg(firstPage).arg(
-                                firstPage + pages - 1);
+        const QString first = QString::number(firstPage);
+        return pages == 1 ? u"%1: page %2 is its source"_s.arg(input, first)
+                          : u"%1: pages %2 to %3 are their source"_s.arg(
+                                input, first, QString::number(firstPage + pages - 1));
     }
-    return u"%1: %2 of %3 x %4 points"_s
-        .arg(input, pages == 1 ? u"1 page"_s : u"%1 pages, the first"_s.arg(pages))
-        .arg(pageSize.width())
-        .arg(pageSize.height());
+    return u"%1: %2 of %3 x %4 points"_s.arg(
+        input, pages == 1 ? u"1 page"_s : u"%1 pages, the first"_s.arg(pages),
+        QString::number(pageSize.width()), QString::number(pageSize.height()));
 }
 
 QStringList toMessages(const InputResult &result) {

@@ -152,7 +152,8 @@ class Names {
             return {};
         }
         const auto isLink = [&](const QByteArray &name) {
-            return std::filesystem::is_symlink((folder + '/' + name).toStdString());
+            std::error_code unknown; // What cannot be looked at says so when it is listed.
+            return std::filesystem::is_symlink((folder + '/' + name).toStdString(), unknown);
         };
         const auto own = std::partition(found.folders.begin(), found.folders.end(), isLink);
         std::vector<QByteArray> folders(own, found.folders.end());

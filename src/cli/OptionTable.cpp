@@ -110,7 +110,11 @@ const std::vector<Option> &inputOptions() {
          [](Arguments &to, Value value) { to.inputType = parseInputType(textOf(value)); }},
         {"--pages", Option::Valued,
          [](Arguments &to, Value value) {
-             choiceOfLastInput(to).range = parsePageRange(textOf(value));
+             QByteArray &range = choiceOfLastInput(to).range;
+             if (!range.isEmpty()) {
+                 throw ArgumentFault(u"It is given twice for one PDF; a list is 1-3,7"_s);
+             }
+             range = parsePageRange(textOf(value));
          }},
         {"--rotate", Option::Valued,
          [](Arguments &to, Value value) {

@@ -52,9 +52,8 @@ void takeSize(const QString &text, int customMode, const QString &fault, PageSet
     setup.customHeight = wholeLength(sides[1], fault, rounded);
     for (const qint64 side : {setup.customWidth, setup.customHeight}) {
         if (side < kShortestSide || side > kMaxSide) {
-            throw ArgumentFault(u"\"%1\" is no page: its sides are %2 to %3 points long"_s.arg(text)
-                                    .arg(kShortestSide)
-                                    .arg(kMaxSide));
+            throw ArgumentFault(u"\"%1\" is no page: its sides are %2 to %3 points long"_s.arg(
+                text, QString::number(kShortestSide), QString::number(kMaxSide)));
         }
     }
 }
@@ -177,7 +176,8 @@ double parseNumber(const QString &text, double least, double most) {
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
     if (!isNumber || !(number >= least && number <= most)) {
-        throw ArgumentFault(u"\"%1\" is no number from %2 to %3"_s.arg(text).arg(least).arg(most));
+        throw ArgumentFault(u"\"%1\" is no number from %2 to %3"_s.arg(text, QString::number(least),
+                                                                       QString::number(most)));
     }
     return number;
 }
@@ -204,8 +204,8 @@ int parseWhole(const QString &text, int least, int most) {
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
     if (!isNumber || number < least || number > most) {
-        throw ArgumentFault(
-            u"\"%1\" is no whole number from %2 to %3"_s.arg(text).arg(least).arg(most));
+        throw ArgumentFault(u"\"%1\" is no whole number from %2 to %3"_s.arg(
+            text, QString::number(least), QString::number(most)));
     }
     return number;
 }

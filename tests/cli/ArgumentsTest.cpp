@@ -210,6 +210,7 @@ class ArgumentsTest : public QObject {
         row("value missing", {"a", "--title"}, "--title");
         row("value too many", {"--json=yes", "a"}, "--json");
         row("word", {"--compress", "300m", "a"}, "300m");
+        row("pages twice", {"a.pdf", "--pages", "1", "--pages", "2"}, "--pages");
         row("page size", {"--text-page-size", "A11", "a"}, "A11");
         row("paper with a nought", {"--text-page-size", "A04", "a"}, "A04");
         row("paper with a sign", {"--text-page-size", "A+1", "a"}, "A+1");

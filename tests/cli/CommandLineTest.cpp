@@ -193,6 +193,13 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QVERIFY(outputs().isEmpty());
     }
 
+    void percentSignsInNamesAndValuesAreSaidAsTheyAre() {
+        const ToolRun dry = convert({u"--dry-run"_s, text("10%3A30.txt")});
+        QVERIFY2(dry.out.contains("/10%3A30.txt: 1 page of 595 x 842 points\n"), dry.out);
+        const ToolRun refused = convert({u"--font-size"_s, u"%2"_s, path("10%3A30.txt")});
+        QVERIFY2(refused.err.contains("\"%2\" is no number from 1 to 1000"), refused.err);
+    }
+
     void aSourceDateThatIsNoDateIsRefused() {
         qputenv("SOURCE_DATE_EPOCH", "yesterday");
         const ToolRun run = convert({text("a.txt")});

@@ -103,6 +103,22 @@ class FoldersTest : public QObject, protected CommandLineCase {
                                       path("in/a.txt"), path("in/é.txt")}));
     }
 
+    void aFolderWhoseEntriesCannotBeLookedAtEndsNoRun() {
+        QVERIFY(QDir(m_folder->path()).mkpath(u"in/sub"_s));
+        QVERIFY(QFile::setPermissions(path("in"), QFile::ReadOwner));
+        QProcess process;
+        process.setChildProcessModifier(giveUpRightsOfRoot);
+        process.start(kProgram, {u"--recursive"_s, u"--output-folder"_s, path("out"), path("in"),
+                                 text("good.txt")});
+        QVERIFY(process.waitForFinished());
+        QVERIFY(QFile::setPermissions(path("in"),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QCOMPARE(process.exitCode(), 1);
+        const QByteArray said = process.readAllStandardError();
+        QVERIFY2(said.contains(path("in/sub").toUtf8() + ": "), said);
+        QCOMPARE(outputs(), QStringList{u"good.pdf"_s});
+    }
+
     void aFolderThatCannotBeListedIsNamedAndTheRestConverted() {
         QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
         text("in/a.txt");
