@@ -64,7 +64,7 @@ class Names {
             if (input.read.problem.isEmpty() && input.leftOut.empty()) {
                 input.read = std::move(*next++);
                 choosePages(input);
-                hintAtTexts(input);
+                hintAtOptions(input);
             }
             if (input.leftOut.empty()) {
                 input.read.entry.setBookmarkTitle(titles.value(title++));
@@ -85,7 +85,11 @@ class Names {
     }
 
     /// Says of a file that is refused how it would be taken.
-    void hintAtTexts(Input &input) const {
+    void hintAtOptions(Input &input) const {
+        if (input.read.problem == u"The document is encrypted") {
+            input.read.problem += u"; --input-password-file opens it, an empty one where it needs "
+                                  "no password"_s;
+        }
         const QString &path = input.read.entry.filePathName();
         if (input.read.entry.kind() == FileKind::Other && !m_taking.further.texts &&
             fileKind(path, {.texts = true}) == FileKind::Text && QFileInfo(path).isFile()) {

@@ -90,6 +90,7 @@ class PDFContext {
     /// What is drawn from now on, up to the next source, is the content of the file `name`: an
     /// element of the structure tree where pages are tagged, like what follows.
     void beginSource(const QString &name);
+    /// `mediaBox` is in points. Throws Error when a standard that is kept forbids its size.
     void beginPage(const QRectF &mediaBox);
     /// What is shown from now on, on this page and those after it, is a paragraph.
     void beginParagraph();
@@ -111,6 +112,7 @@ class PDFContext {
                    const std::function<void(const PdfImage &)> &look = {});
     /// Of what is drawn on the page from now on, only what lies inside `rect` (points) is shown.
     void clipToRect(const QRectF &rect);
+    /// Throws Error when the contents of this page or an earlier one cannot be stored.
     void endPage();
     /// Lets `draw` show glyphs on a page of text that was drawn here, from 0: what belongs to the
     /// page and not to what is told on it, such as its number. To be called between pages, once for
@@ -130,6 +132,7 @@ class PDFContext {
     /// was added or for nothing.
     void addBookmark(const QString &title, int page);
 
+    /// The pages so far, drawn and added.
     [[nodiscard]] int pageCount() const;
     /// The size in units of the page at `index`, from 0.
     [[nodiscard]] QSizeF pageSize(int index) const;

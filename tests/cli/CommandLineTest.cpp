@@ -119,6 +119,14 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QCOMPARE(readFile(taken), QByteArray("mine"));
     }
 
+    void aFolderIsNoNameOfAMergedPdf() {
+        QVERIFY(QDir().mkpath(path("out/all.pdf")));
+        const ToolRun run = merge("out/all", {u"--overwrite=always"_s, text("a.txt")});
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.err,
+                 "folioforge-cli: --merge: \"" + path("out/all.pdf").toUtf8() + "\" is a folder\n");
+    }
+
     void namesWithDashesFollowTwoDashes() {
         text("-a.txt");
         const ToolRun run =

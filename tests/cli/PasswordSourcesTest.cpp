@@ -88,6 +88,13 @@ class PasswordSourcesTest : public QObject, protected CommandLineCase {
         }
     }
 
+    void theOptionThatOpensAnEncryptedPdfIsNamed() {
+        const ToolRun run = merge("all.pdf", {encrypted({}, u"256"_s, {u"--print=none"_s})});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.contains("The document is encrypted; --input-password-file opens it"),
+                 run.err);
+    }
+
     void pdfsThatOnlyRestrictNeedNoPasswordWhereTheyMayBeAssembled() {
         const QString lines = text("lines", "wrong\n");
         const QString free = encrypted({}, u"256"_s, {u"--print=none"_s});
