@@ -60,9 +60,6 @@ std::optional<QString> manifestFault(const Arguments &arguments, const QStringLi
     if (manifest.isEmpty()) {
         return std::nullopt;
     }
-    if (manifest == u"-") {
-        return u"--manifest: It goes into a file; ./- names one"_s;
-    }
     const QFileInfo folder(QFileInfo(manifest).absolutePath());
     const bool isToBeMade =
         !folder.exists() && areOne(folder.filePath(), arguments.options.outputFolder);

@@ -125,6 +125,9 @@ std::optional<QString> settingsFault(const Arguments &arguments) {
             return inWordsOf("--image-margins"_L1, *found, image.margins, getImagePageSize(image));
         }
     }
+    if (arguments.manifest == u"-") {
+        return u"--manifest: It goes into a file; ./- names one"_s;
+    }
     if (!arguments.manifest.isEmpty() && !arguments.mayReplaceManifest &&
         isNameTaken(arguments.manifest)) {
         return u"--manifest: %1 exists; take another name, or --overwrite"_s.arg(

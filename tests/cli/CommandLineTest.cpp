@@ -206,6 +206,8 @@ class CommandLineTest : public QObject, protected CommandLineCase {
         QVERIFY2(dry.out.contains("/10%3A30.txt: 1 page of 595 x 842 points\n"), dry.out);
         const ToolRun refused = convert({u"--font-size"_s, u"%2"_s, path("10%3A30.txt")});
         QVERIFY2(refused.err.contains("\"%2\" is no number from 1 to 1000"), refused.err);
+        const ToolRun whole = convert({u"--jobs"_s, u"%2"_s, path("10%3A30.txt")});
+        QVERIFY2(whole.err.contains("\"%2\" is no whole number from 1 to 256"), whole.err);
     }
 
     void aSourceDateThatIsNoDateIsRefused() {
