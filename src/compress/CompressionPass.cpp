@@ -35,10 +35,6 @@ namespace {
 /// What PDF/A allows without conditions: of the white and the steps of sRGB.
 constexpr const char *kGreyOfNoDevice = "[/CalGray << /WhitePoint [0.9505 1 1.089] /Gamma 2.2 >>]";
 
-QString stopped() {
-    return Reasons::tr("The conversion was stopped");
-}
-
 /// Reports the pages of a document as written in the measure in which its objects are.
 class PageProgress {
   public:
@@ -51,7 +47,7 @@ class PageProgress {
     /// Throws Error where the pass is to end: what stops here needs no more objects.
     void objectWritten() {
         if (m_stop.stop_requested()) {
-            throw Error(stopped());
+            throw conversionStopped();
         }
         m_writtenObjects = std::min(m_writtenObjects + 1, m_objects);
         reportPages(m_pages * m_writtenObjects / m_objects);
@@ -157,7 +153,8 @@ CompressionOutcome compress(const QString &path, const CompressionOptions &optio
     try {
         translateQpdfErrors([&] { compressInto(path, stoppable, endPageWrite, outcome); });
     } catch (const Error &error) {
-        outcome.error = options.stop.stop_requested() ? stopped() : error.reason();
+        outcome.error =
+            options.stop.stop_requested() ? conversionStopped().reason() : error.reason();
     }
     return outcome;
 }

@@ -328,7 +328,7 @@ void createPDF(std::span<const PDFFileInfo *const> entries, const QString &path,
                           std::back_inserter(outcome.close.warnings));
     }
     if (stop.stop_requested() && outcome.close.status != CloseResult::Status::Written) {
-        outcome.close = notWritten(Reasons::tr("The conversion was stopped"));
+        outcome.close = notWritten(conversionStopped().reason());
     }
 }
 

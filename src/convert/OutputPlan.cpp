@@ -3,6 +3,7 @@
 #include "convert/OutputPlan.h"
 
 #include "convert/OutputName.h"
+#include "files/SourceFile.h"
 
 #include <QFile>
 
@@ -22,13 +23,8 @@ std::optional<struct stat> statusOf(const QString &path) {
 }
 
 bool isOlder(const struct stat &one, const struct stat &other) {
-#ifdef __APPLE__
-    const timespec &a = one.st_mtimespec;
-    const timespec &b = other.st_mtimespec;
-#else
-    const timespec &a = one.st_mtim;
-    const timespec &b = other.st_mtim;
-#endif
+    const timespec a = modifiedAt(one);
+    const timespec b = modifiedAt(other);
     return std::tie(a.tv_sec, a.tv_nsec) < std::tie(b.tv_sec, b.tv_nsec);
 }
 

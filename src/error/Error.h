@@ -35,4 +35,9 @@ inline Error notEnoughMemory() {
     return Error(Reasons::tr("There is not enough memory"));
 }
 
+/// The Error of what a stop ends.
+inline Error conversionStopped() {
+    return Error(Reasons::tr("The conversion was stopped"));
+}
+
 } // namespace folioforge

@@ -7,7 +7,6 @@
 #include <QFile>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -31,11 +30,7 @@ FileVersion versionOf(const QString &path, const struct stat &status) {
     if (!S_ISREG(status.st_mode)) {
         throw Error(Reasons::tr("It is not a regular file"));
     }
-#ifdef __APPLE__
-    const timespec &time = status.st_mtimespec;
-#else
-    const timespec &time = status.st_mtim;
-#endif
+    const timespec time = modifiedAt(status);
     return {path, status.st_size, qint64{time.tv_sec}, qint64{time.tv_nsec}};
 }
 
@@ -48,6 +43,14 @@ FileVersion versionOf(const QString &path, const FileDescriptor &descriptor) {
 }
 
 } // namespace
+
+timespec modifiedAt(const struct stat &status) {
+#ifdef __APPLE__
+    return status.st_mtimespec;
+#else
+    return status.st_mtim;
+#endif
+}
 
 Error fileEndsTooEarly() {
     return Error(Reasons::tr("The file ends too early"));

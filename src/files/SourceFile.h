@@ -9,12 +9,17 @@
 #include <QDateTime>
 #include <QString>
 
+#include <sys/stat.h>
+
 #include <atomic>
 #include <memory>
 #include <span>
 #include <string>
 
 namespace folioforge {
+
+/// When the file of `status` was last changed.
+timespec modifiedAt(const struct stat &status);
 
 /// A file as it was at one moment: what tells a changed file from an unchanged one.
 struct FileVersion {

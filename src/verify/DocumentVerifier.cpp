@@ -69,7 +69,7 @@ const SourcePage &DocumentVerifier::nextPage(const EntryVerification &result) co
 
 void requireNoStop(const std::stop_token &stop) {
     if (stop.stop_requested()) {
-        throw Error(Reasons::tr("The conversion was stopped"));
+        throw conversionStopped();
     }
 }
 
