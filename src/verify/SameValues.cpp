@@ -49,7 +49,8 @@ bool isSameScalar(QPDFObjectHandle source, QPDFObjectHandle written) {
         return source.getName() == written.getName() ||
                shortened(source).getName() == written.getName();
     }
-    return source.getTypeCode() == written.getTypeCode() && source.unparse() == written.unparse();
+    return source.getTypeCode() == written.getTypeCode() &&
+           source.unparseResolved() == written.unparseResolved();
 }
 
 bool isOfData(const std::string &key) {

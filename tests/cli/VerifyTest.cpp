@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "CommandLineCase.h"
+#include "support/PdfFixture.h"
 #include "support/TestUnit.h"
 
 using namespace Qt::StringLiterals;
@@ -117,6 +118,20 @@ class VerifyTest : public QObject, CommandLineCase {
               QStringList{u"--output-folder"_s, path("out")}}) {
             QCOMPARE(verify(options + QStringList{text("a.txt")}).exitCode, 2);
         }
+    }
+
+    /// A missing object is null (ISO 32000-1, 7.3.10), and numbers of objects change.
+    void valuesThatAreObjectsOfTheirOwnAreCompared() {
+        PdfFixture source;
+        source.object(1, kCatalog).pages(4, 1).object(20, "true");
+        source.object(21, "<< /Type /Annot /Subtype /Text /Rect [9 9 29 29] /Contents (note) "
+                          "/Open 20 0 R >>");
+        QByteArray page = source.objects().at(4);
+        page.replace("/Contents 5 0 R", "/Contents [5 0 R 66 0 R] /Annots [21 0 R]");
+        QVERIFY(page.contains("66 0 R"));
+        QVERIFY(source.object(4, page).write(path("in.pdf")));
+        const ToolRun run = merge("out/all.pdf", {u"--verify"_s, path("in.pdf")});
+        QVERIFY2(run.exitCode == 0, run.err);
     }
 
     /// Its components are red, green and blue, and nothing in the JPEG says so.
