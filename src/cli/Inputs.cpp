@@ -7,6 +7,7 @@
 #include "error/Error.h"
 #include "filelist/FileKind.h"
 #include "filelist/SourceFiles.h"
+#include "pdf/import/SourceDocument.h"
 
 #include <QFileInfo>
 
@@ -86,7 +87,7 @@ class Names {
 
     /// Says of a file that is refused how it would be taken.
     void hintAtOptions(Input &input) const {
-        if (input.read.problem == u"The document is encrypted") {
+        if (input.read.problem == encryptedDocument().reason()) {
             input.read.problem += u"; --input-password-file opens it, an empty one where it needs "
                                   "no password"_s;
         }

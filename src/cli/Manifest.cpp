@@ -61,9 +61,7 @@ std::optional<QString> manifestFault(const Arguments &arguments, const QStringLi
         return std::nullopt;
     }
     const QFileInfo folder(QFileInfo(manifest).absolutePath());
-    const bool isToBeMade =
-        !folder.exists() && areOne(folder.filePath(), arguments.options.outputFolder);
-    if (!isToBeMade && !(folder.isDir() && folder.isWritable())) {
+    if (!folder.isDir() || !folder.isWritable()) {
         return u"--manifest: \"%1\" is in no folder that can be written to"_s.arg(manifest);
     }
     if (std::ranges::any_of(files, isManifest)) {

@@ -8,7 +8,6 @@
 #include "files/Spool.h"
 #include "image/ImageFormat.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <fcntl.h>
@@ -63,9 +62,9 @@ class PipeReader {
         if (path == "-") {
             return FileDescriptor(::dup(STDIN_FILENO));
         }
-        std::error_code nameless;
-        static_cast<void>(std::filesystem::canonical(path.toStdString(), nameless));
-        m_hasWriter = bool(nameless);
+        // As the pipe of a command is. Its end is the end of what the command writes.
+        std::error_code ignored;
+        m_hasWriter = std::filesystem::canonical(path.toStdString(), ignored).empty();
         const int waits = m_hasWriter ? 0 : O_NONBLOCK;
         return FileDescriptor(::open(path.constData(), O_RDONLY | O_CLOEXEC | waits));
     }

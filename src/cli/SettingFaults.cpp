@@ -133,12 +133,13 @@ std::optional<QString> settingsFault(const Arguments &arguments) {
         return u"--manifest: %1 exists; take another name, or --overwrite"_s.arg(
             quoted(arguments.manifest));
     }
-    if (options.merge && options.verifyOnly.isEmpty() &&
-        QFileInfo(mergedFilePath(options)).isDir()) {
+    if (!options.merge || !options.verifyOnly.isEmpty()) {
+        return std::nullopt;
+    }
+    if (QFileInfo(mergedFilePath(options)).isDir()) {
         return u"--merge: %1 is a folder"_s.arg(quoted(mergedFilePath(options)));
     }
-    const bool refused = options.verifyOnly.isEmpty() && options.overwrite == Overwrite::Never &&
-                         checkMergedFile(options);
+    const bool refused = options.overwrite == Overwrite::Never && checkMergedFile(options);
     return refused ? std::optional(nameTakenFault(options)) : std::nullopt;
 }
 

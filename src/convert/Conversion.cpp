@@ -81,7 +81,7 @@ EntryOutcome writeEntry(const PDFFileInfo &entry, PDFContext &context,
                  options.keepsRecord() ? &record : nullptr);
     });
     outcome.written = failure.isEmpty();
-    if (!failure.isEmpty()) {
+    if (!outcome.written) {
         context.rollBack(before);
         record = {};
         outcome = {};

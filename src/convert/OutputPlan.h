@@ -42,11 +42,10 @@ class OutputPlan {
     using FileKey = std::pair<quint64, quint64>; ///< Device and file.
 
     [[nodiscard]] bool isTaken(const QString &path) const;
-
-    const ConversionOptions &m_options;
     [[nodiscard]] QString wishOf(const PDFFileInfo &entry) const;
     [[nodiscard]] bool isOnlyOne(std::span<const PDFFileInfo> entries) const;
 
+    const ConversionOptions &m_options;
     std::set<FileKey> m_sources;  ///< Only where something may be replaced.
     QHash<QString, int> m_wishes; ///< How many PDFs would have each path if it were free.
     QSet<QString> m_given;

@@ -110,7 +110,7 @@ QString sizeText(qint64 bytes) {
 PDFSummary summarizeOpenPdf(const QString &path) {
     const PDFSummary summary = summarizePDF(path);
     if (summary.encrypted) {
-        throw Error(Reasons::tr("The document is encrypted"));
+        throw encryptedDocument();
     }
     return summary;
 }

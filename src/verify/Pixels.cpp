@@ -60,19 +60,22 @@ int channelsIn(const Object &space) {
     return isOfTable(space) ? 1 : kind.isNameAndEquals("/Lab") ? 3 : plainComponents(space);
 }
 
-bool isOf(const Object &dictionary, const char *filter) {
-    const Object stated = entry(dictionary, "/Filter");
+/// The entry of a stream for its last filter, or for its only one.
+Object lastOf(const Object &dictionary, const char *key) {
+    const Object stated = entry(dictionary, key);
     const auto all = items(stated);
-    return Object(all.empty() ? stated : all.back()).isNameAndEquals(filter);
+    return all.empty() ? stated : all.back();
+}
+
+bool isOf(const Object &dictionary, const char *filter) {
+    return lastOf(dictionary, "/Filter").isNameAndEquals(filter);
 }
 
 /// Whether the components of a JPEG are its colours unless its own marker says otherwise (ISO
 /// 32000-1, 7.4.8).
 bool isUntransformed(const Object &dictionary) {
-    const Object stated = entry(dictionary, "/DecodeParms");
-    const auto all = items(stated);
     return isOf(dictionary, "/DCTDecode") &&
-           numberIn(all.empty() ? stated : all.back(), "/ColorTransform", 1) == 0;
+           numberIn(lastOf(dictionary, "/DecodeParms"), "/ColorTransform", 1) == 0;
 }
 
 /// Decodes such a JPEG. The library knows nothing of the parameter, but of the marker by which

@@ -37,6 +37,18 @@ void giveUpRightsOfRoot() {
 class FoldersTest : public QObject, protected CommandLineCase {
     Q_OBJECT
 
+    /// A run by somebody who may do no more than `permissions` say with the folder "in".
+    ToolRun convertedWhile(QFile::Permissions permissions, const QStringList &arguments) const {
+        QFile::setPermissions(path("in"), permissions);
+        QProcess process;
+        process.setChildProcessModifier(giveUpRightsOfRoot);
+        process.start(kProgram, QStringList{u"--output-folder"_s, path("out")} + arguments);
+        process.waitForFinished();
+        QFile::setPermissions(path("in"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return {process.exitCode(), process.readAllStandardOutput(),
+                process.readAllStandardError()};
+    }
+
   private Q_SLOTS:
     void init() { setUp(); }
 
@@ -105,38 +117,24 @@ class FoldersTest : public QObject, protected CommandLineCase {
 
     void aFolderWhoseEntriesCannotBeLookedAtEndsNoRun() {
         QVERIFY(QDir(m_folder->path()).mkpath(u"in/sub"_s));
-        QVERIFY(QFile::setPermissions(path("in"), QFile::ReadOwner));
-        QProcess process;
-        process.setChildProcessModifier(giveUpRightsOfRoot);
-        process.start(kProgram, {u"--recursive"_s, u"--output-folder"_s, path("out"), path("in"),
-                                 text("good.txt")});
-        QVERIFY(process.waitForFinished());
-        QVERIFY(QFile::setPermissions(path("in"),
-                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-        QCOMPARE(process.exitCode(), 1);
-        const QByteArray said = process.readAllStandardError();
-        QVERIFY2(said.contains(path("in/sub").toUtf8() + ": "), said);
+        const ToolRun run =
+            convertedWhile(QFile::ReadOwner, {u"--recursive"_s, path("in"), text("good.txt")});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.err.contains(path("in/sub").toUtf8() + ": "), run.err);
         QCOMPARE(outputs(), QStringList{u"good.pdf"_s});
     }
 
     void aFolderThatCannotBeListedIsNamedAndTheRestConverted() {
         QVERIFY(QDir(m_folder->path()).mkpath(u"in"_s));
         text("in/a.txt");
-        QVERIFY(QFile::setPermissions(path("in"), {}));
-        QProcess process;
-        process.setChildProcessModifier(giveUpRightsOfRoot);
-        process.start(kProgram, {u"--json"_s, u"--output-folder"_s, path("out"), path("in/"),
-                                 text("good.txt")});
-        QVERIFY(process.waitForFinished());
-        QVERIFY(QFile::setPermissions(path("in"),
-                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-        QCOMPARE(process.exitCode(), 1);
-        const auto objects = objectsOf(process.readAllStandardOutput());
+        const ToolRun run = convertedWhile({}, {u"--json"_s, path("in/"), text("good.txt")});
+        QCOMPARE(run.exitCode, 1);
+        const auto objects = objectsOf(run.out);
         QCOMPARE(objects.size(), 2);
         QCOMPARE(member(objects[0], "input"), path("in/"));
         QCOMPARE(member(objects[0], "state"), u"rejected"_s);
         QVERIFY(member(objects[0], "message").endsWith(u"Permission denied"_s));
-        QVERIFY(process.readAllStandardError().contains(path("in/").toUtf8() + ": "));
+        QVERIFY(run.err.contains(path("in/").toUtf8() + ": "));
         QCOMPARE(outputs(), QStringList{u"good.pdf"_s});
     }
 };

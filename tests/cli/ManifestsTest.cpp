@@ -75,11 +75,7 @@ class ManifestsTest : public QObject, CommandLineCase {
 
     void aDateBehind2262IsThatOfItsFile() {
         const QString file = text("a.txt");
-        const QDateTime later(QDate(2300, 1, 2), QTime(3, 4, 5));
-        QFile opened(file);
-        QVERIFY(opened.open(QIODevice::Append));
-        QVERIFY(opened.setFileTime(later, QFileDevice::FileModificationTime));
-        opened.close();
+        setModified(file, QDateTime(QDate(2300, 1, 2), QTime(3, 4, 5)));
         QCOMPARE(convert({u"--manifest"_s, path("list.json"), file}).exitCode, 0);
         const QJsonObject input = read(path("list.json"))[u"inputs"_s].toArray()[0].toObject();
         const QDateTime written = QDateTime::fromString(member(input, "modified"), Qt::ISODate);

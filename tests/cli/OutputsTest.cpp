@@ -15,10 +15,7 @@ using namespace folioforge::test;
 namespace {
 
 void setTime(const QString &file, int seconds) {
-    QFile opened(file);
-    QVERIFY(opened.open(QIODevice::ReadWrite));
-    QVERIFY(opened.setFileTime(QDateTime::fromSecsSinceEpoch(seconds),
-                               QFileDevice::FileModificationTime));
+    setModified(file, QDateTime::fromSecsSinceEpoch(seconds));
 }
 
 } // namespace

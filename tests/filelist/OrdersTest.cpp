@@ -12,6 +12,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace folioforge;
+using test::setModified;
 
 namespace {
 
@@ -42,12 +43,6 @@ class OrderedFiles {
     QTemporaryDir m_folder;
     std::vector<PDFFileInfo> m_entries;
 };
-
-void setModified(const QString &path, const QDateTime &when) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadWrite));
-    QVERIFY(file.setFileTime(when, QFileDevice::FileModificationTime));
-}
 
 QStringList words(const char *text) {
     return QString::fromUtf8(text).split(u' ');

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "gui/TestWindow.h"
+#include "support/Files.h"
 #include "support/TestUnit.h"
 
 #include <QLineEdit>
@@ -22,14 +23,6 @@ struct FiveFiles : TestWindow {
         ctrl.addFiles(paths, -1);
     }
 };
-
-void setModified(const QString &path, const QDate &date) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadWrite) ||
-        !file.setFileTime(QDateTime(date, QTime(12, 0)), QFileDevice::FileModificationTime)) {
-        qFatal("cannot set the date of %s", qPrintable(path));
-    }
-}
 
 } // namespace
 
@@ -118,11 +111,11 @@ class OrderingFilesTest : public QObject {
 
     void modificationDatesSortOldestFirst() {
         FiveFiles w;
-        setModified(w.path(u"c.txt"_s), QDate(2001, 1, 1));
-        setModified(w.path(u"a.txt"_s), QDate(2003, 1, 1));
-        setModified(w.path(u"b.txt"_s), QDate(2002, 1, 1));
-        setModified(w.path(u"e.txt"_s), QDate(2004, 1, 1));
-        setModified(w.path(u"d.txt"_s), QDate(2005, 1, 1));
+        setModified(w.path(u"c.txt"_s), QDate(2001, 1, 1).startOfDay());
+        setModified(w.path(u"a.txt"_s), QDate(2003, 1, 1).startOfDay());
+        setModified(w.path(u"b.txt"_s), QDate(2002, 1, 1).startOfDay());
+        setModified(w.path(u"e.txt"_s), QDate(2004, 1, 1).startOfDay());
+        setModified(w.path(u"d.txt"_s), QDate(2005, 1, 1).startOfDay());
         w.ctrl.clickMenuResortByDataModified();
         QCOMPARE(w.names(), u"c.txt b.txt a.txt e.txt d.txt"_s);
     }

@@ -45,6 +45,12 @@ class PageProcessTest : public QObject {
         return script;
     }
 
+    /// A program that never ends. It writes the number of its process.
+    [[nodiscard]] QString sleeping() const {
+        return program("echo $$ >'" + QFile::encodeName(path(u"number"_s)) +
+                       "'\nexec sleep 1000\n");
+    }
+
     /// A program that answers with `page`.
     [[nodiscard]] QString answering(const DrawnPage &page) const {
         writeFile(path(u"answer"_s), toBytes(page));
@@ -112,16 +118,13 @@ class PageProcessTest : public QObject {
     }
 
     void aProgramThatNeverEndsIsEnded() {
-        PageProcess process(
-            program("echo $$ >'" + QFile::encodeName(path(u"number"_s)) + "'\nexec sleep 1000\n"),
-            300ms);
+        PageProcess process(sleeping(), 300ms);
         QCOMPARE(answerOf(process).reason, u"The page takes too long to be shown"_s);
         QTRY_VERIFY(hasEnded());
     }
 
     void nothingIsHeardOfAProcessThatIsGoing() {
-        auto process = std::make_unique<PageProcess>(
-            program("echo $$ >'" + QFile::encodeName(path(u"number"_s)) + "'\nexec sleep 1000\n"));
+        auto process = std::make_unique<PageProcess>(sleeping());
         const QSignalSpy failed(process.get(), &PageProcess::failed);
         process->draw({u"/some.pdf"_s, 0, kRoom}, {});
         QTRY_VERIFY(QFileInfo(path(u"number"_s)).size() > 0);

@@ -66,6 +66,14 @@ bool writeFileAfter(const QString &older, const QString &path) {
     return false;
 }
 
+void setModified(const QString &path, const QDateTime &when) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite) ||
+        !file.setFileTime(when, QFileDevice::FileModificationTime)) {
+        qFatal("cannot set the date of %s", qPrintable(path));
+    }
+}
+
 QByteArray readFile(const QString &path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+class QDateTime;
+
 namespace folioforge::test {
 
 /// Writes `bytes` to a new file at `path` and returns the path.
@@ -13,6 +15,9 @@ QString writeFile(const QString &path, const QByteArray &bytes);
 /// Writes a file at `path` whose date of creation is later than that of `older`; false where the
 /// file system keeps no such dates.
 bool writeFileAfter(const QString &older, const QString &path);
+
+/// Dates the last change of the file at `path`.
+void setModified(const QString &path, const QDateTime &when);
 
 /// The bytes of the file at `path`; empty when it cannot be read.
 QByteArray readFile(const QString &path);

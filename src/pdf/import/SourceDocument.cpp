@@ -169,6 +169,10 @@ PDFSummary summarizePDF(const QString &path, SystemCalls &calls) {
     });
 }
 
+Error encryptedDocument() {
+    return Error(Reasons::tr("The document is encrypted"));
+}
+
 std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
                                          const std::shared_ptr<SourceReader> &reader,
                                          const InputPasswords &passwords) {
@@ -176,7 +180,7 @@ std::unique_ptr<QPDF> openSourceDocument(const FileVersion &file,
         requirePdfMark(file, *reader);
         auto document = openUnlessLocked(file, reader);
         if (!passwords && (!document || document->isEncrypted())) {
-            throw Error(Reasons::tr("The document is encrypted"));
+            throw encryptedDocument();
         }
         if (!document || !isOpenFarEnough(*document)) {
             const bool isOpen = document != nullptr;

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "error/Error.h"
 #include "files/SourceReader.h"
 #include "pdf/Password.h"
 
@@ -23,6 +24,9 @@ struct PDFSummary {
 /// The largest damaged file in bytes that is repaired. A repair searches all of it for objects,
 /// which takes some seconds at this size.
 inline constexpr qint64 kMaxRepairedBytes = 256LL << 20;
+
+/// The Error of an encrypted document for which there are no passwords.
+Error encryptedDocument();
 
 /// Parses the PDF at `path`, repairs it if it is damaged, and counts its pages. Throws Error when
 /// it is no PDF, a dynamic XFA form, cannot be repaired or cannot be read.

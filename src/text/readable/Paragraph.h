@@ -77,8 +77,9 @@ class Paragraph {
     /// Whether a row may begin with the unit: whether its glyphs are its own.
     [[nodiscard]] bool begins(qsizetype unit) const;
     [[nodiscard]] std::vector<DirectedRun> visualRuns(const TextRow &row) const;
-    /// Puts what of the run stands in the part to the right of what there is.
+    /// The runs of which something stands in the part.
     [[nodiscard]] std::span<const Run> runsOf(const DirectedRun &part) const;
+    /// Puts what of the run stands in the part to the right of what there is.
     void place(const Run &run, const DirectedRun &part);
     void place(std::span<const PlacedGlyph> cluster, bool rightToLeft);
     void place(const PlacedGlyph &placed, QStringView readAs, bool rightToLeft);
