@@ -217,19 +217,20 @@ Warnings addTextPage(const PDFFileInfo &entry, PDFContext &context,
         if (!options.verifyOnly.isEmpty()) {
             record->textAgain = [entry, &calls = options.calls.get(),
                                  encoding = options.textEncoding] {
-                return entry.sourceText(calls, encoding).text;
+                return entry.sourceText(calls, encoding).rest();
             };
         }
         record->text.page = pageSize;
         record->text.fontSize = font->size();
         sink.recordTo(recorder.emplace(*font, record->text.pages, needsCharacters(options)));
     }
-    Warnings warnings = std::move(source.warnings);
+    Warnings warnings = source.warnings();
+    const TextPieces pieces = [&source] { return source.next(); };
     const PageMargins &margins = options.textPage.margins;
-    std::ranges::move(options.readable ? layOutReadable(source.text, pageSize, margins, *font,
-                                                        *options.readable, sink)
-                                       : layOutText(source.text, pageSize, margins, *font, sink),
-                      std::back_inserter(warnings));
+    std::ranges::move(
+        options.readable ? layOutReadable(pieces, pageSize, margins, *font, *options.readable, sink)
+                         : layOutText(pieces, pageSize, margins, *font, sink),
+        std::back_inserter(warnings));
     return warnings;
 }
 

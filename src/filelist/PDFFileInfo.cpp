@@ -97,9 +97,9 @@ void PDFFileInfo::readSource(SourceReading reading) {
 void PDFFileInfo::readText() {
     try {
         if (m_textIsHeld) {
-            SourceText source = readTextFile(m_filePathName);
-            m_fileString = std::move(source.text);
-            m_readWarnings = std::move(source.warnings);
+            SourceText source = SourceText::open(m_filePathName);
+            m_fileString = source.rest();
+            m_readWarnings = source.warnings();
         } else {
             requireReadableText(m_filePathName);
         }
@@ -110,13 +110,13 @@ void PDFFileInfo::readText() {
 
 SourceText PDFFileInfo::sourceText(SystemCalls &calls, const QString &encoding) const {
     if (!m_textIsHeld) {
-        return readTextFile(m_filePathName, calls, encoding);
+        return SourceText::open(m_filePathName, calls, encoding);
     }
-    SourceText source{m_fileString, m_readWarnings};
+    Warnings warnings = m_readWarnings;
     if (!m_readError.isEmpty()) {
-        source.warnings.push_back({WarningCode::TextUnreadable, m_readError});
+        warnings.push_back({WarningCode::TextUnreadable, m_readError});
     }
-    return source;
+    return SourceText(m_fileString, std::move(warnings));
 }
 
 void PDFFileInfo::readImage() {

@@ -67,7 +67,7 @@ class PDFFileInfo {
     /// Nothing for other kinds and for an image whose header cannot be read.
     [[nodiscard]] const std::optional<SourceImage> &getSrcImage() const { return m_srcImage; }
     /// The text of a text entry as it was listed, else as the file holds it now in `encoding`, as
-    /// readTextFile() takes it. Throws Error when it cannot be read now.
+    /// SourceText::open() takes it. Throws Error when it cannot be read now.
     [[nodiscard]] SourceText sourceText(SystemCalls &calls = SystemCalls::system(),
                                         const QString &encoding = {}) const;
     /// Why the source could not be read when it was listed; empty when it could.

@@ -7,6 +7,7 @@
 #include "text/MissingGlyphs.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace folioforge {
@@ -127,6 +128,24 @@ class PageFiller {
     float m_y = 0; ///< From the page's top edge to the top of the next row; 32 bits on purpose.
 };
 
+/// False when the sink wants no further page.
+bool addLines(QStringView text, RowBreaker &breaker, PageFiller &pages, TextPageSink &sink) {
+    bool goesOn = true;
+    while (goesOn && !text.isEmpty()) {
+        const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), endsLine);
+        const qsizetype length = end - text.utf16();
+        QStringView line = text.first(length);
+        if (!line.isEmpty()) {
+            sink.beginParagraph();
+        }
+        while (goesOn && !line.isEmpty()) {
+            goesOn = pages.addRow(breaker.takeRow(line));
+        }
+        text = text.sliced(std::min(length + 1, text.size()));
+    }
+    return goesOn;
+}
+
 } // namespace
 
 void requireFont(const FontCascade &font, QStringView text) {
@@ -144,25 +163,21 @@ QSizeF getStringSize(QStringView text, const FontCascade &font) {
     return {width, font.rowHeight()};
 }
 
-Warnings layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
+TextPieces onePiece(QStringView text) {
+    return [text]() mutable { return std::exchange(text, {}); };
+}
+
+Warnings layOutText(const TextPieces &pieces, QSizeF pageSize, const PageMargins &margins,
                     const FontCascade &font, TextPageSink &sink) {
+    QStringView text = pieces();
     requireFont(font, text);
     const auto left = static_cast<double>(margins.left);
     const auto right = static_cast<double>(margins.right);
     RowBreaker breaker(font, pageSize.width() - left - right);
     PageFiller pages(sink, pageSize, margins, font.rowHeight());
     bool goesOn = pages.beginPage();
-    while (goesOn && !text.isEmpty()) {
-        const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), endsLine);
-        const qsizetype length = end - text.utf16();
-        QStringView line = text.first(length);
-        if (!line.isEmpty()) {
-            sink.beginParagraph();
-        }
-        while (goesOn && !line.isEmpty()) {
-            goesOn = pages.addRow(breaker.takeRow(line));
-        }
-        text = text.sliced(std::min(length + 1, text.size()));
+    for (; goesOn && !text.isEmpty(); text = pieces()) {
+        goesOn = addLines(text, breaker, pages, sink);
     }
     if (goesOn) {
         pages.finish();

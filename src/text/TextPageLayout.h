@@ -10,6 +10,7 @@
 #include <QStringView>
 
 #include <algorithm>
+#include <functional>
 #include <span>
 
 namespace folioforge {
@@ -39,6 +40,13 @@ class TextPageSink {
     virtual void endPage() = 0;
 };
 
+/// Gives a text piece by piece, each valid until the next call: an empty one ends it, and each but
+/// the last ends with a line feed.
+using TextPieces = std::function<QStringView()>;
+
+/// `text` in one piece.
+TextPieces onePiece(QStringView text);
+
 /// Whether a unit ends a line; each such unit does by itself.
 inline bool endsLine(char16_t unit) {
     constexpr char16_t kLineFeed = 0x0A;
@@ -61,14 +69,14 @@ inline QStringView withoutLineEnd(QStringView text) {
 /// Throws Error where there is text but no font to write it with.
 void requireFont(const FontCascade &font, QStringView text);
 
-/// Lays `text` out on pages of `pageSize` points and gives them to `sink` in order. Without text
+/// Lays a text out on pages of `pageSize` points and gives them to `sink` in order. Without text
 /// there is one blank page. A sink that wants no further page gets none. Returns which characters
 /// are drawn as boxes. Throws Error, no page begun, where there is text but no font.
 ///
 /// A line of the text becomes rows, each broken after the first unit that passes the right margin.
 /// Blank lines take no room. The rows of a page end above the top margin's distance from the lower
 /// edge: the bottom margin has no effect.
-Warnings layOutText(QStringView text, QSizeF pageSize, const PageMargins &margins,
+Warnings layOutText(const TextPieces &pieces, QSizeF pageSize, const PageMargins &margins,
                     const FontCascade &font, TextPageSink &sink);
 
 // ---- Kept for callers alone: nothing in the program calls this -------------------------------

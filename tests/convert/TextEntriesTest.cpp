@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "ConversionCase.h"
+#include "files/LinePieces.h"
+#include "support/FaultyCalls.h"
 #include "support/InstalledFonts.h"
 #include "support/PdfProbe.h"
 #include "support/Places.h"
@@ -33,6 +35,52 @@ class TextEntriesTest : public QObject, protected test::ConversionCase {
         const PdfProbe probe(outcome.close.path);
         QCOMPARE(probe.pageCount(), 1);
         QCOMPARE(probe.text().trimmed(), QString());
+    }
+
+    void aLongTextKeepsItsLinesInTheirOrder_data() {
+        QTest::addColumn<bool>("readable");
+        QTest::newRow("plain") << false;
+        QTest::newRow("readable") << true;
+    }
+    void aLongTextKeepsItsLinesInTheirOrder() {
+        QFETCH(const bool, readable);
+        m_options.readable = readable ? std::optional(ReadableStyle()) : std::nullopt;
+        QStringList lines;
+        for (int i = 0; i < 12'000; ++i) {
+            lines += u"%1 quays, cranes and some boats"_s.arg(i);
+        }
+        const QByteArray text = lines.join(u'\n').toUtf8();
+        QVERIFY(text.size() > LinePieces::kUsual);
+        addListed(test::writeFile(path("a.txt"), "\xEF\xBB\xBF" + text));
+        const QString shown = PdfProbe(convertTo(path("out/a.pdf")).close.path).text();
+        static const QRegularExpression kEnds(u"[\n\f]+"_s);
+        QCOMPARE(shown.split(kEnds, Qt::SkipEmptyParts), lines);
+    }
+
+    void bytesThatAreNotUtf8LateInALongTextLeaveItBlank() {
+        const QByteArray text = QByteArray("a line of it\n").repeated(LinePieces::kUsual / 8);
+        addListed(test::writeFile(path("a.txt"), text + "caf\xE9"));
+        const PDFOutcome outcome = convertTo(path("out/a.pdf"));
+        QCOMPARE(outcome.entries[0].warnings.at(0).code, WarningCode::TextNotUtf8);
+        const PdfProbe probe(outcome.close.path);
+        QCOMPARE(probe.pageCount(), 1);
+        QCOMPARE(probe.text().trimmed(), QString());
+    }
+
+    void aLongTextThatCannotBeReadToItsEndLeavesNoPage() {
+        const QByteArray text = QByteArray("a line of it\n").repeated(LinePieces::kUsual / 8);
+        addListed(test::writeFile(path("a.txt"), text));
+        addListed(test::writePng(path("b.png"), 300, 150));
+        test::FaultyCalls calls;
+        calls.fault.call = 6; // It is read twice, in two pieces each time.
+        calls.fault.error = EIO;
+        m_options.calls = calls;
+        m_options.merge = true;
+        const PDFOutcome outcome = convertTo(path("out/all.pdf"));
+        QVERIFY2(outcome.entries[0].reason.startsWith(u"Cannot read the file"_s),
+                 qPrintable(outcome.entries[0].reason));
+        QVERIFY(outcome.entries[1].written);
+        QCOMPARE(PdfProbe(outcome.close.path).pageCount(), 1);
     }
 
     void aTabKeepsWordsApart() {

@@ -110,7 +110,7 @@ void requireReadable(const QString &text, const PageSetup &setup) {
     static const auto font = FontCascade::load({u"Liberation Sans"_s}, 11);
     CollectingSink sink(*font);
     try {
-        layOutReadable(text, getTextPageSize(setup), setup.margins, *font, {}, sink);
+        layOutReadable(onePiece(text), getTextPageSize(setup), setup.margins, *font, {}, sink);
     } catch (const Error &) {
         return; // The font remembers the forms of all inputs, and there is an end to that.
     }
@@ -136,7 +136,7 @@ FUZZ_TARGET(TextPages) {
     if (!checkTextPageSizeSettings(setup)) {
         const auto font = textFont();
         CheckingSink sink(font->faceCount());
-        layOutText(text, getTextPageSize(setup), setup.margins, *font, sink);
+        layOutText(onePiece(text), getTextPageSize(setup), setup.margins, *font, sink);
         require(sink.isDone());
         require(getStringSize(text, *font).width() >= 0);
         requireReadable(text, setup);

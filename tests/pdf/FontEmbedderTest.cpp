@@ -154,7 +154,7 @@ class FontEmbedderTest : public QObject {
         QFile::remove(path);
         PDFContext context(path, test::unflushed());
         Pages pages(context);
-        layOutText(text, {kPageWidth, kPageHeight}, {72, 72, 72, 72}, *font(), pages);
+        layOutText(onePiece(text), {kPageWidth, kPageHeight}, {72, 72, 72, 72}, *font(), pages);
         m_baselines = pages.baselines;
         const CloseResult result = context.close();
         return result.status == CloseResult::Status::Written ? path : result.reason;

@@ -210,7 +210,7 @@ class ReadableLayoutTest : public QObject {
         PieceRecorder recorder;
         const QString text = u"row\n"_s.repeated(100);
         // Rows of 11.5 points: (842 - 100 - 142) / 11.4990 = 52.18 in the first page.
-        layOutReadable(text, {500, kHeight}, {0, 0, 100, 142}, small(), {}, recorder);
+        layOutReadable(onePiece(text), {500, kHeight}, {0, 0, 100, 142}, small(), {}, recorder);
         QCOMPARE(recorder.shown.pages, 2);
         QCOMPARE(std::ranges::count(recorder.shown.pieces, 1, &ShownPiece::page), 52);
     }
@@ -228,10 +228,25 @@ class ReadableLayoutTest : public QObject {
         QVERIFY(qAbs(end - 300) < 1e-3);
     }
 
+    void paragraphsGoOnFromOnePieceOfTheTextToTheNext() {
+        struct Paragraphs : PieceRecorder {
+            [[nodiscard]] bool wantsReadingOrder() const override { return true; }
+            void beginParagraph() override { starts.push_back(shown.pieces.size()); }
+            std::vector<std::size_t> starts;
+        } paragraphs;
+        const QStringList pieces{u"one\n"_s, u"two\n"_s, u" \n"_s, u"three\n"_s, u"four"_s};
+        layOutReadable([at = 0, &pieces]() mutable { return QStringView(pieces.value(at++)); },
+                       {500, kHeight}, kNoMargins, small(), {}, paragraphs);
+        // A blank tells the words of two lines apart.
+        QCOMPARE(shownRows(paragraphs.shown),
+                 (QStringList{u"one "_s, u"two"_s, u"three "_s, u"four"_s}));
+        QCOMPARE(paragraphs.starts, (std::vector<std::size_t>{0, 3}));
+    }
+
     void charactersWithoutAGlyphAreNamed() {
         PieceRecorder recorder;
-        const Warnings warnings = layOutReadable(u"\u0627\u0644 \U0010FFFD"_s, {500, kHeight},
-                                                 kNoMargins, small(), {}, recorder);
+        const Warnings warnings = layOutReadable(onePiece(u"\u0627\u0644 \U0010FFFD"_s),
+                                                 {500, kHeight}, kNoMargins, small(), {}, recorder);
         QCOMPARE(warnings.size(), qsizetype{1});
         QCOMPARE(warnings.front().text, u"1 character has no glyph in any font and is shown as a "
                                         "box: private use (U+10FFFD)"_s);

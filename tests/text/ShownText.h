@@ -59,7 +59,7 @@ inline const FontCascade &small() {
 inline ShownText readable(const QString &text, double width, const FontCascade &font = small(),
                           const ReadableStyle &style = {}) {
     PieceRecorder recorder;
-    layOutReadable(text, {width, kHeight}, kNoMargins, font, style, recorder);
+    layOutReadable(onePiece(text), {width, kHeight}, kNoMargins, font, style, recorder);
     return recorder.shown;
 }
 

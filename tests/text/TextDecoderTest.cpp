@@ -64,6 +64,11 @@ class TextDecoderTest : public QObject {
         QVERIFY(decodeText(bytes).isNull());
     }
 
+    void aMarkThatDoesNotBeginTheFileIsACharacter() {
+        QCOMPARE(decodeRest("\xEF\xBB\xBFword"), u"\uFEFFword"_s);
+        QVERIFY(decodeRest("caf\xE9").isNull());
+    }
+
     void textOfAnotherEncodingIsRead_data() {
         QTest::addColumn<QString>("encoding");
         QTest::addColumn<QString>("told"); // What "auto" finds; empty where it is certain.

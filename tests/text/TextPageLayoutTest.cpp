@@ -50,7 +50,7 @@ std::shared_ptr<const FontCascade> font() {
 std::vector<Page> layOut(const QString &text, QSizeF size = kA4,
                          const PageMargins &margins = kMargins) {
     Recorder recorder;
-    layOutText(text, size, margins, *font(), recorder);
+    layOutText(onePiece(text), size, margins, *font(), recorder);
     return recorder.open == 0 ? recorder.pages : std::vector<Page>();
 }
 
@@ -95,7 +95,8 @@ std::shared_ptr<const FontCascade> latinOnly() {
 QStringList boxesIn(const QString &text, const FontCascade &font, double width = 595) {
     Recorder recorder;
     QStringList said;
-    for (const Warning &warning : layOutText(text, {width, 842}, {0, 0, 0, 0}, font, recorder)) {
+    for (const Warning &warning :
+         layOutText(onePiece(text), {width, 842}, {0, 0, 0, 0}, font, recorder)) {
         said += warning.code == WarningCode::MissingGlyphs ? warning.text : u"another"_s;
     }
     return said;
@@ -373,13 +374,13 @@ class TextPageLayoutTest : public QObject {
         }
         Recorder recorder;
         try {
-            layOutText(u"words"_s, kA4, kMargins, *none, recorder);
+            layOutText(onePiece(u"words"_s), kA4, kMargins, *none, recorder);
             QFAIL("the words are lost");
         } catch (const Error &error) {
             QCOMPARE(error.reason(), u"There is no font to write text with"_s);
         }
         QVERIFY(recorder.pages.empty());
-        layOutText({}, kA4, kMargins, *none, recorder);
+        layOutText(onePiece({}), kA4, kMargins, *none, recorder);
         QCOMPARE(recorder.pages.size(), std::size_t{1});
     }
 

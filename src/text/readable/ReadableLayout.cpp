@@ -102,22 +102,24 @@ class ReadableText {
         , m_tabStop(style.tabWidth * font.glyph(U' ').advance)
         , m_column(column) {}
 
-    /// Adds a line; `rest` is what follows in the text. Lines between blank ones are a paragraph.
-    /// False when the sink wants no further page.
-    [[nodiscard]] bool add(QStringView line, QStringView rest) {
-        if (isBlank(line)) {
-            m_inParagraph = false;
-        } else if (!std::exchange(m_inParagraph, true)) {
-            m_column.beginParagraph();
+    /// Adds the lines of `text`. False when the sink wants no further page.
+    [[nodiscard]] bool add(QStringView text) {
+        bool goesOn = true;
+        while (goesOn && !text.isEmpty()) {
+            const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), endsLine);
+            const qsizetype length = end - text.utf16();
+            const bool endsPage = length < text.size() && *end == kFormFeed;
+            const QStringView line = text.first(length);
+            text = withoutLineEnd(text.sliced(length));
+            if (length > 0 || !endsPage) {
+                goesOn = addLine(line);
+            }
+            if (endsPage && goesOn && !text.isEmpty()) {
+                m_inParagraph = false;
+                goesOn = m_column.beginPage();
+            }
         }
-        if (!addRows(line)) {
-            return false;
-        }
-        m_inParagraph = m_inParagraph && !isBlank(firstLine(rest));
-        if (m_inParagraph) {
-            m_column.showLineEnd();
-        }
-        return true;
+        return goesOn;
     }
 
     [[nodiscard]] Warnings warnings() const { return m_missing.warnings(); }
@@ -126,13 +128,17 @@ class ReadableText {
     static bool isBlank(QStringView line) {
         return std::ranges::all_of(line, [](QChar unit) { return unit.isSpace(); });
     }
-    /// Without all that it may hold beyond its first letter.
-    static QStringView firstLine(QStringView text) {
-        const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), [](char16_t unit) {
-            return endsLine(unit) || !QChar(unit).isSpace();
-        });
-        const qsizetype length = end - text.utf16();
-        return text.first(length < text.size() && !endsLine(*end) ? length + 1 : length);
+
+    /// Lines between blank ones are a paragraph. False when the sink wants no further page.
+    [[nodiscard]] bool addLine(QStringView line) {
+        if (isBlank(line)) {
+            m_inParagraph = false;
+        } else if (std::exchange(m_inParagraph, true)) {
+            m_column.showLineEnd();
+        } else {
+            m_column.beginParagraph();
+        }
+        return addRows(line);
     }
 
     /// False when the sink wants no further page.
@@ -181,24 +187,15 @@ class ReadableText {
 
 } // namespace
 
-Warnings layOutReadable(QStringView text, QSizeF pageSize, const PageMargins &margins,
+Warnings layOutReadable(const TextPieces &pieces, QSizeF pageSize, const PageMargins &margins,
                         const FontCascade &font, const ReadableStyle &style, TextPageSink &sink) {
+    QStringView text = pieces();
     requireFont(font, text);
     PageColumn column(sink, pageSize, margins, font, style.lineSpacing);
     ReadableText rows(font, style, column);
     bool goesOn = column.beginPage();
-    while (goesOn && !text.isEmpty()) {
-        const auto end = std::find_if(text.utf16(), text.utf16() + text.size(), endsLine);
-        const qsizetype length = end - text.utf16();
-        const bool endsPage = length < text.size() && *end == kFormFeed;
-        const QStringView line = text.first(length);
-        text = withoutLineEnd(text.sliced(length));
-        if (length > 0 || !endsPage) {
-            goesOn = rows.add(line, endsPage ? QStringView() : text);
-        }
-        if (endsPage && goesOn && !text.isEmpty()) {
-            goesOn = column.beginPage();
-        }
+    for (; goesOn && !text.isEmpty(); text = pieces()) {
+        goesOn = rows.add(text);
     }
     if (goesOn) {
         column.endPage();
